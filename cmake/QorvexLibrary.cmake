@@ -1,0 +1,51 @@
+# Helpers shared by every target of the build.
+
+# Compiler settings of our own code: warnings, and what the numerics rely on.
+function(qorvex_compile_settings target)
+  target_compile_features(${target} PUBLIC cxx_std_20)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON)
+  target_compile_options(${target} PRIVATE
+    -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow
+    $<$<BOOL:${QORVEX_WERROR}>:-Werror>
+    # A fused multiply-add would change the rounding that each routine promises.
+    -ffp-contract=off
+    # Square roots report through their result, never through errno.
+    -fno-math-errno
+    # Unique symbols would keep a loaded module from being unloaded.
+    $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+endfunction()
+
+# qorvex_library(<component> HEADERS <files> SOURCES <files> LINK_PUBLIC <targets> LINK_PRIVATE <targets>)
+# defines libqorvex_<component>_rt and its alias Qorvex::<component>, ready to install. A component that ends in
+# _rt keeps its name, so stats_rt becomes libqorvex_stats_rt.
+#
+# The shared-object version is major.minor while the major version is 0, since every minor release may then
+# change the binary interface; from 1.0 on it is the major version alone.
+function(qorvex_library component)
+  cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINK_PUBLIC;LINK_PRIVATE" ${ARGN})
+  string(REGEX REPLACE "_rt$" "" stem ${component})
+  set(target qorvex_${stem}_rt)
+  add_library(${target} ${ARG_SOURCES})
+  add_library(Qorvex::${component} ALIAS ${target})
+  qorvex_compile_settings(${target})
+
+  target_sources(${target} PUBLIC FILE_SET HEADERS
+    BASE_DIRS "${PROJECT_SOURCE_DIR}"
+    FILES ${ARG_HEADERS})
+  target_link_libraries(${target} PUBLIC ${ARG_LINK_PUBLIC} PRIVATE ${ARG_LINK_PRIVATE})
+
+  if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(soversion ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
+  else()
+    set(soversion ${PROJECT_VERSION_MAJOR})
+  endif()
+  set_target_properties(${target} PROPERTIES
+    EXPORT_NAME ${component}
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${soversion}
+    VERIFY_INTERFACE_HEADER_SETS ON
+    INSTALL_RPATH "$ORIGIN")
+endfunction()

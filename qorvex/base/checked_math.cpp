@@ -1,0 +1,55 @@
+#include "qorvex/base/checked_math.h"
+
+#include <cmath>
+
+#include "qorvex/base/elementary.h"
+#include "qorvex/base/errors.h"
+
+namespace qorvex::inline QorvexGlobals {
+
+Extended CheckedDivide(Extended x, Extended y) {
+  if (std::isnan(x) || std::isnan(y)) return x + y;
+  if (y == 0) {
+    if (x == 0) throw EInvalidOp();
+    throw EZeroDivide();
+  }
+  if (std::isinf(y)) {
+    if (std::isinf(x)) throw EInvalidOp();
+    return x / y;
+  }
+  const Extended quotient = x / y;
+  if (std::isinf(quotient) && !std::isinf(x)) throw EOverflow();
+  return quotient;
+}
+
+Extended CheckedSqrt(Extended x) {
+  if (x < 0) throw EInvalidOp();
+  return std::sqrt(x);
+}
+
+Extended CheckedLn(Extended x) {
+  if (x < 0) throw EInvalidOp();
+  if (x == 0) throw EZeroDivide();
+  return std::log(x);
+}
+
+Extended CheckedExp(Extended x) {
+  const Extended result = std::exp(x);
+  if (std::isinf(result) && !std::isinf(x)) throw EOverflow();
+  return result;
+}
+
+Extended CheckedXtoY(Extended x, Extended y) {
+  if (x == 0 && y < 0) throw EZeroDivide();
+  const Extended power = XtoY(x, y);
+  if (std::isfinite(x) && std::isfinite(y)) return CheckedFinite(power);
+  return power;
+}
+
+Extended CheckedFinite(Extended result) {
+  if (std::isnan(result)) throw EInvalidOp();
+  if (std::isinf(result)) throw EOverflow();
+  return result;
+}
+
+}  // namespace qorvex::inline QorvexGlobals

@@ -1,0 +1,81 @@
+#pragma once
+
+/// @file
+/// The three currency types and the conversions between them.
+///
+/// | type              | stored in | one unit  | resolution | range (units)             |
+/// |-------------------|-----------|-----------|------------|---------------------------|
+/// | `QorCurrency`     | int32     | 100       | 0.01       | about +-21.4 million      |
+/// | `Currency`        | int64     | 10,000    | 0.0001     | about +-922 million million |
+/// | `QorLongCurrency` | int64     | 1,000,000 | 0.000001   | about +-9.2 million million |
+///
+/// All conversions round to the nearest value, ties to even. What the target cannot hold becomes the target's
+/// smallest value.
+
+#include <compare>
+#include <cstdint>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
+
+namespace qorvex {
+
+/// A fixed-point amount of money: an integer that counts parts of a currency unit. Each stored width and scale is
+/// a type of its own, so an amount is never taken for an integer or for an amount of another scale.
+template <class Stored, std::int64_t Scale>
+class QORVEX_EXPORT BasicCurrency {
+ public:
+  using StoredType = Stored;
+  /// The stored value of one currency unit.
+  static constexpr std::int64_t kScale = Scale;
+
+  constexpr BasicCurrency() noexcept = default;
+  /// The amount whose stored integer is given: Currency(15000) is 1.5000 units.
+  explicit constexpr BasicCurrency(Stored stored) noexcept : stored_(stored) {}
+
+  [[nodiscard]] constexpr Stored stored() const noexcept { return stored_; }
+
+  friend constexpr auto operator<=>(BasicCurrency, BasicCurrency) noexcept = default;
+
+ private:
+  Stored stored_ = 0;
+};
+
+/// The long-range currency: four fixed decimals in an int64.
+using Currency = BasicCurrency<std::int64_t, 10'000>;
+/// The short currency: two fixed decimals in an int32.
+using QorCurrency = BasicCurrency<std::int32_t, 100>;
+/// The long currency: six fixed decimals in an int64.
+using QorLongCurrency = BasicCurrency<std::int64_t, 1'000'000>;
+
+/// The three currencies.
+template <class T>
+concept CurrencyElement = OneOf<T, Currency, QorCurrency, QorLongCurrency>;
+
+inline namespace QorvexGlobals {
+
+/// The amount in units, exact to 64 bits of mantissa.
+[[nodiscard]] QORVEX_EXPORT Extended Currency2Float(Currency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorCurrency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorLongCurrency amount) noexcept;
+
+/// The value in units as an amount: value times the scale is formed in extended and rounded once. NaN and
+/// what does not fit give the smallest amount.
+[[nodiscard]] QORVEX_EXPORT Currency Float2Currency(Extended value) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorCurrency Float2QorCurrency(Extended value) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorLongCurrency Float2QorLongCurrency(Extended value) noexcept;
+
+/// Conversions between the currencies, in exact integer arithmetic.
+[[nodiscard]] QORVEX_EXPORT Currency QorCurrency2Currency(QorCurrency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT Currency QorLongCurrency2Currency(QorLongCurrency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorCurrency Currency2QorCurrency(Currency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorLongCurrency Currency2QorLongCurrency(Currency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorLongCurrency QorCurrency2QorLongCurrency(QorCurrency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorCurrency QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
+
+/// True when the stored integers are equal: money has no tolerance.
+[[nodiscard]] inline bool SameCurrency(Currency x, Currency y) noexcept { return x == y; }
+
+}  // namespace QorvexGlobals
+
+}  // namespace qorvex

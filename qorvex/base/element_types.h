@@ -1,0 +1,64 @@
+#pragma once
+
+/// @file
+/// The numeric element types of vectors and matrices, and the families that routines are constrained to.
+
+#include <cfloat>
+#include <concepts>
+#include <cstdint>
+#include <type_traits>
+
+namespace qorvex {
+
+/// The working precision of every floating computation: the x87 extended format, 64 bits of mantissa.
+using Extended = long double;
+
+static_assert(LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
+              "Qorvex needs the 80-bit extended format as long double: x86 or x86-64 with GCC or Clang "
+              "(not -mlong-double-64, not MSVC)");
+
+/// T is one of the listed types, exactly.
+template <class T, class... List>
+concept OneOf = (std::same_as<T, List> || ...);
+
+/// Extended, double and float.
+template <class T>
+concept FloatElement = OneOf<T, Extended, double, float>;
+
+/// The integer elements of 32 and 64 bits.
+template <class T>
+concept WideIntegerElement = OneOf<T, std::int64_t, std::uint32_t, std::int32_t>;
+
+/// The integer elements of 8 and 16 bits.
+template <class T>
+concept NarrowIntegerElement = OneOf<T, std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
+
+/// The seven integer elements.
+template <class T>
+concept IntegerElement = WideIntegerElement<T> || NarrowIntegerElement<T>;
+
+/// The six elements of at least 32 bits: the floating ones, int64, uint32 and int32.
+template <class T>
+concept WideNumericElement = FloatElement<T> || WideIntegerElement<T>;
+
+/// All ten numeric elements.
+template <class T>
+concept NumericElement = FloatElement<T> || IntegerElement<T>;
+
+/// The type in which sums over elements of T accumulate and are returned.
+template <NumericElement T>
+using SumOf = std::conditional_t<FloatElement<T>, Extended, std::int64_t>;
+
+}  // namespace qorvex
+
+/// @cond internal
+// Lists for explicit instantiation: X is applied to each element type of the family.
+#define QORVEX_FOR_FLOAT_ELEMENTS(X) X(qorvex::Extended) X(double) X(float)
+#define QORVEX_FOR_WIDE_INTEGER_ELEMENTS(X) X(std::int64_t) X(std::uint32_t) X(std::int32_t)
+#define QORVEX_FOR_NARROW_INTEGER_ELEMENTS(X) \
+  X(std::uint16_t) X(std::int16_t) X(std::uint8_t) X(std::int8_t)
+#define QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(X) \
+  QORVEX_FOR_FLOAT_ELEMENTS(X) QORVEX_FOR_WIDE_INTEGER_ELEMENTS(X)
+#define QORVEX_FOR_NUMERIC_ELEMENTS(X) \
+  QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(X) QORVEX_FOR_NARROW_INTEGER_ELEMENTS(X)
+/// @endcond

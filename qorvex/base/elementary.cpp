@@ -1,0 +1,26 @@
+#include "qorvex/base/elementary.h"
+
+#include <cmath>
+
+#include "qorvex/base/comparisons.h"
+
+namespace qorvex::inline QorvexGlobals {
+
+Extended QorLog2(Extended x) noexcept { return std::log2(x); }
+
+Extended QorLog10(Extended x) noexcept { return std::log10(x); }
+
+Extended QorArcCos(Extended x) noexcept {
+  if (std::fabs(x) > 1 && std::fabs(x) - 1 <= QorTolerance) return x > 0 ? 0 : QorPi;
+  return std::acos(x);
+}
+
+Extended XtoY(Extended x, Extended y) noexcept {
+  constexpr Extended largest_product = 8;
+  if (!(std::fabs(y) <= largest_product) || y != std::trunc(y)) return std::pow(x, y);
+  Extended product = 1;
+  for (Extended factors = std::fabs(y); factors > 0; --factors) product *= x;
+  return y < 0 ? 1 / product : product;
+}
+
+}  // namespace qorvex::inline QorvexGlobals

@@ -1,0 +1,178 @@
+#include "qorvex/base/text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdlib>
+#include <limits>
+#include <locale.h>
+
+#include "qorvex/base/errors.h"
+
+namespace qorvex::inline QorvexGlobals {
+
+namespace {
+
+constexpr std::string_view kBlanks = " \t";
+
+std::string_view WithoutBlanks(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(kBlanks);
+  if (first == std::string_view::npos) return {};
+  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
+}
+
+constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool EqualsIgnoringCase(std::string_view text, std::string_view lower_case) {
+  if (text.size() != lower_case.size()) return false;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const char c = text[i] >= 'A' && text[i] <= 'Z' ? static_cast<char>(text[i] - 'A' + 'a') : text[i];
+    if (c != lower_case[i]) return false;
+  }
+  return true;
+}
+
+// An unsigned decimal number: significand times 10^exponent while it has at most 19 significant digits.
+struct Decimal {
+  std::uint64_t significand = 0;
+  int digits = 0;
+  std::int64_t exponent = 0;
+  bool valid = false;
+};
+
+// Far beyond the range of the format, far below the range of int64.
+constexpr std::int64_t kExponentLimit = 1'000'000'000;
+
+Decimal Scan(std::string_view text) {
+  Decimal number;
+  bool any_digit = false;
+  bool after_point = false;
+  std::size_t at = 0;
+  for (; at < text.size(); ++at) {
+    const char c = text[at];
+    if (c == '.' && !after_point) {
+      after_point = true;
+    } else if (IsDigit(c)) {
+      any_digit = true;
+      if (number.digits > 0 || c != '0') ++number.digits;
+      number.significand = number.significand * 10 + static_cast<std::uint64_t>(c - '0');
+      if (after_point) --number.exponent;
+    } else {
+      break;
+    }
+  }
+  if (!any_digit) return number;
+  if (at < text.size()) {
+    if (text[at] != 'e' && text[at] != 'E') return number;
+    ++at;
+    const bool negative = at < text.size() && text[at] == '-';
+    if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
+    if (at == text.size()) return number;
+    std::int64_t exponent = 0;
+    for (; at < text.size(); ++at) {
+      if (!IsDigit(text[at])) return number;
+      if (exponent < kExponentLimit) exponent = exponent * 10 + (text[at] - '0');
+    }
+    number.exponent += negative ? -exponent : exponent;
+  }
+  number.valid = true;
+  return number;
+}
+
+// 10^27 is the largest power of ten that 64 bits of mantissa hold exactly.
+constexpr auto kPowersOfTen = [] {
+  std::array<Extended, 28> powers{};
+  powers[0] = 1;
+  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
+
+// Correctly rounded for any length and exponent. The C locale is named explicitly because an application may have
+// changed the global one; std::from_chars would do, but the one of GCC 12 refuses subnormal values.
+Extended ConvertLongNumber(std::string_view text) {
+  static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", nullptr);
+  return strtold_l(std::string(text).c_str(), nullptr, c_locale);
+}
+
+// The value of unsigned text.
+Extended Magnitude(std::string_view text, std::string_view whole) {
+  const Decimal number = Scan(text);
+  if (!number.valid) {
+    if (EqualsIgnoringCase(text, "inf") || EqualsIgnoringCase(text, "infinity")) {
+      return std::numeric_limits<Extended>::infinity();
+    }
+    if (EqualsIgnoringCase(text, "nan")) return std::numeric_limits<Extended>::quiet_NaN();
+    throw EConvertError(rsNotANumber, whole);
+  }
+  // Both operands are exact, so the one operation rounds correctly (Clinger 1990, "How to read floating point numbers
+  // accurately").
+  constexpr std::int64_t limit = kPowersOfTen.size() - 1;
+  if (number.digits <= 19 && number.exponent >= -limit && number.exponent <= limit) {
+    const auto significand = static_cast<Extended>(number.significand);
+    return number.exponent < 0 ? significand / kPowersOfTen[static_cast<std::size_t>(-number.exponent)]
+                               : significand * kPowersOfTen[static_cast<std::size_t>(number.exponent)];
+  }
+  const Extended value = ConvertLongNumber(text);
+  if (std::isinf(value)) throw EConvertError(rsNumberTooLarge, whole);
+  return value;
+}
+
+// Writes through format(first, last) into a buffer that is large enough.
+template <class Format>
+std::string Formatted(std::size_t longest, Format format) {
+  char small[128];
+  if (const std::to_chars_result done = format(small, small + sizeof small); done.ec == std::errc()) {
+    return {small, done.ptr};
+  }
+  std::string text(longest, '\0');
+  const std::to_chars_result done = format(text.data(), text.data() + text.size());
+  text.resize(static_cast<std::size_t>(done.ptr - text.data()));
+  return text;
+}
+
+}  // namespace
+
+Extended Str2Float(std::string_view text) {
+  std::string_view number = WithoutBlanks(text);
+  const bool negative = number.starts_with('-');
+  if (negative || number.starts_with('+')) number.remove_prefix(1);
+  const Extended magnitude = Magnitude(number, text);
+  return negative ? -magnitude : magnitude;
+}
+
+std::string Float2EStr(Extended value, int decimals) {
+  if (std::isnan(value)) return "nan";
+  decimals = std::max(decimals, 0);
+  const std::size_t longest =
+      std::numeric_limits<Extended>::max_exponent10 + 8 + static_cast<std::size_t>(decimals);
+  std::string text = Formatted(longest, [=](char* first, char* last) {
+    return std::to_chars(first, last, value, std::chars_format::fixed, decimals);
+  });
+  if (text.starts_with('-') && text.find_first_not_of("-0.") == std::string::npos) text.erase(0, 1);
+  return text;
+}
+
+std::string Float2Str(Extended value) {
+  if (std::isnan(value)) return "nan";
+  constexpr std::size_t longest = 64;
+  return Formatted(longest, [=](char* first, char* last) { return std::to_chars(first, last, value); });
+}
+
+std::string StripTChStr(std::string_view text, char trailing) {
+  const auto without_point = [](std::string_view number) {
+    return std::string(number.ends_with('.') ? number.substr(0, number.size() - 1) : number);
+  };
+  if (IsDigit(trailing)) {
+    const std::size_t point = text.find('.');
+    const bool in_decimals =
+        point != std::string_view::npos &&
+        text.find_first_not_of("0123456789", point + 1) == std::string_view::npos;
+    if (!in_decimals) return std::string(text);
+  }
+  const std::size_t last = text.find_last_not_of(trailing);
+  return without_point(last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1));
+}
+
+}  // namespace qorvex::inline QorvexGlobals

@@ -1,0 +1,48 @@
+#pragma once
+
+/// @file
+/// The thirteen vector types and the thirteen matrix types.
+
+#include "qorvex/base/currency.h"
+#include "qorvex/base/dyn_array.h"
+#include "qorvex/base/element_types.h"
+
+namespace qorvex {
+
+/// A vector: a dynamic array of one element type.
+template <class T>
+using TQorVector = DynArray<T>;
+
+/// A matrix: a dynamic array of rows, row index first. Rows may differ in length.
+template <class T>
+using TQorMatrix = DynArray<DynArray<T>>;
+
+using TQorFloatVector = TQorVector<Extended>;
+using TQorDoubleVector = TQorVector<double>;
+using TQorSingleVector = TQorVector<float>;
+using TQorInt64Vector = TQorVector<std::int64_t>;
+using TQorLWordVector = TQorVector<std::uint32_t>;
+using TQorLIntVector = TQorVector<std::int32_t>;
+using TQorWordVector = TQorVector<std::uint16_t>;
+using TQorSmallIntVector = TQorVector<std::int16_t>;
+using TQorByteVector = TQorVector<std::uint8_t>;
+using TQorSIntVector = TQorVector<std::int8_t>;
+using TQorCurrencyVector = TQorVector<Currency>;
+using TQorCurrVector = TQorVector<QorCurrency>;
+using TQorLongCurrVector = TQorVector<QorLongCurrency>;
+
+using TQorFloatMatrix = TQorMatrix<Extended>;
+using TQorDoubleMatrix = TQorMatrix<double>;
+using TQorSingleMatrix = TQorMatrix<float>;
+using TQorInt64Matrix = TQorMatrix<std::int64_t>;
+using TQorLWordMatrix = TQorMatrix<std::uint32_t>;
+using TQorLIntMatrix = TQorMatrix<std::int32_t>;
+using TQorWordMatrix = TQorMatrix<std::uint16_t>;
+using TQorSmallIntMatrix = TQorMatrix<std::int16_t>;
+using TQorByteMatrix = TQorMatrix<std::uint8_t>;
+using TQorSIntMatrix = TQorMatrix<std::int8_t>;
+using TQorCurrencyMatrix = TQorMatrix<Currency>;
+using TQorCurrMatrix = TQorMatrix<QorCurrency>;
+using TQorLongCurrMatrix = TQorMatrix<QorLongCurrency>;
+
+}  // namespace qorvex

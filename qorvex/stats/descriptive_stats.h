@@ -1,0 +1,87 @@
+#pragma once
+
+/// @file
+/// DescriptiveStats, a sample whose statistics are always current, and its report.
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex {
+
+/// The statistics of one sample. All are 0, and mode_exists is false, for an empty one.
+struct DescriptiveResults {
+  Extended sum = 0;
+  Extended sum_sq = 0;
+  Extended mean = 0;
+  /// Divided by n - 1, or by n for a population. 0 for one value.
+  Extended variance = 0;
+  Extended std_dev = 0;
+  Extended median = 0;
+  /// The unique mode when mode_exists; otherwise what GetMode leaves.
+  Extended mode = 0;
+  bool mode_exists = false;
+  Extended minimum = 0;
+  Extended maximum = 0;
+  /// 0 below three values or when the standard deviation is zero within QorTolerance.
+  Extended skew = 0;
+  /// Excess kurtosis; 0 below four values or when the standard deviation is zero within QorTolerance.
+  Extended kurtosis = 0;
+  Extended quartile_1st = 0;
+  Extended quartile_3rd = 0;
+  Extended inter_quartile_range = 0;
+};
+
+/// A sample of values, in insertion order, whose descriptive statistics are kept current after every change.
+///
+/// Every result is, bit for bit, what a fresh computation on the values gives, whether they came at once or one by one.
+/// NaN among the values makes the figures that depend on it NaN; it sorts last, so it is the maximum.
+/// Costs: setting n values O(n log n); adding or deleting one O(n), without a sort unless the sample holds NaN. Memory:
+/// the values and a sorted copy, 32 bytes a value, and 16 more while sorting.
+class QORVEX_EXPORT DescriptiveStats {
+ public:
+  /// Replaces the sample. The values become the sample's own: they are copied unless the argument was the only handle.
+  void SetValues(TQorFloatVector values);
+  /// A copy of the values, so that nobody writes into the sample behind its back.
+  [[nodiscard]] TQorFloatVector Values() const;
+  [[nodiscard]] std::size_t NoOfValues() const noexcept { return values_.size(); }
+
+  /// Appends one value.
+  void AddValue(Extended value);
+  /// Removes the value at the index. False, and nothing happens, when there is none.
+  bool DeleteValue(std::int64_t index);
+  /// Removes all values and ends an update.
+  void Clear();
+
+  /// While updating, changes leave the results as they are. The flag does not count: the first EndUpdate ends it.
+  void BeginUpdate() noexcept { updating_ = true; }
+  void EndUpdate();
+  [[nodiscard]] bool Updating() const noexcept { return updating_; }
+
+  /// Population (divide by n) instead of sample statistics (divide by n - 1); initially false.
+  [[nodiscard]] bool Population() const noexcept { return population_; }
+  void SetPopulation(bool population);
+
+  [[nodiscard]] const DescriptiveResults& Results() const noexcept { return results_; }
+
+  /// The labelled report, a line for each figure: label, tab, value to the given number of decimals. Ends an update first.
+  /// An empty sample gives one line, the message rsVectorIsEmpty.
+  [[nodiscard]] std::vector<std::string> Report(int decimals);
+
+ private:
+  void UpdateStats();
+  void UpdateMoments();
+  void UpdateOrderStatistics();
+
+  TQorFloatVector values_;
+  TQorFloatVector sorted_;
+  DescriptiveResults results_;
+  bool updating_ = false;
+  bool population_ = false;
+};
+
+}  // namespace qorvex
