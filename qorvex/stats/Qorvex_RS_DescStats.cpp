@@ -1,0 +1,1 @@
+#include "qorvex/stats/Qorvex_RS_DescStats.h"

@@ -1,0 +1,1 @@
+#include "qorvex/stats/descriptive_stats.h"
