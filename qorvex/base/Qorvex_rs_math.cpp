@@ -1,6 +1,5 @@
 #include "qorvex/base/Qorvex_rs_math.h"
 
-#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -16,31 +15,21 @@ constexpr std::string_view kTexts[] = {
 #undef QORVEX_TEXT
 };
 
-TextCatalog& Catalog() {
-  static TextCatalog catalog(kTexts);
+TextCatalog<MessageId>& Catalog() {
+  static TextCatalog<MessageId> catalog(kTexts);
   return catalog;
 }
 
 }  // namespace
 
-std::string MessageText(MessageId id) { return Catalog().Text(static_cast<std::size_t>(id)); }
+std::string MessageText(MessageId id) { return Catalog().Text(id); }
 
-void SetMessageText(MessageId id, std::string text) {
-  Catalog().SetText(static_cast<std::size_t>(id), std::move(text));
-}
+void SetMessageText(MessageId id, std::string text) { Catalog().SetText(id, std::move(text)); }
 
-void ResetMessageText(MessageId id) {
-  Catalog().SetText(static_cast<std::size_t>(id), std::nullopt);
-}
+void ResetMessageText(MessageId id) { Catalog().SetText(id, std::nullopt); }
 
 void SetMessageLookup(std::function<std::optional<std::string>(MessageId)> lookup) {
-  if (!lookup) {
-    Catalog().SetLookup(nullptr);
-    return;
-  }
-  Catalog().SetLookup([lookup = std::move(lookup)](std::size_t index) {
-    return lookup(static_cast<MessageId>(index));
-  });
+  Catalog().SetLookup(std::move(lookup));
 }
 
 }  // namespace qorvex::inline Qorvex_rs_math

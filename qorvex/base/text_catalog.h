@@ -6,38 +6,59 @@
 #include <cstddef>
 #include <functional>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <shared_mutex>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
-
-#include "qorvex/base/export.h"
 
 namespace qorvex {
 
-/// Texts by index, with defaults, replacements and a look-up function. Every member may be called on any thread.
+/// Texts by identifier, an enumeration that counts from 0. Every member may be called on any thread.
 ///
 /// A text is found in this order: the look-up function, when one is set and gives a text; the replacement, when one is
 /// set; the default.
-class QORVEX_EXPORT TextCatalog {
+template <class Id>
+class TextCatalog {
  public:
-  /// Gives the text for an index, or nothing to leave it to the catalogue.
-  using Lookup = std::function<std::optional<std::string>(std::size_t)>;
+  /// Gives the text for an identifier, or nothing to leave it to the catalogue.
+  using Lookup = std::function<std::optional<std::string>(Id)>;
 
   /// The defaults must outlive the catalogue.
-  explicit TextCatalog(std::span<const std::string_view> defaults);
-  ~TextCatalog();
-  TextCatalog(const TextCatalog&) = delete;
-  TextCatalog& operator=(const TextCatalog&) = delete;
+  explicit TextCatalog(std::span<const std::string_view> defaults)
+      : defaults_(defaults), replacements_(defaults.size()) {}
 
   /// The current text. The look-up function is called without any lock held, so it may use the catalogue itself.
-  [[nodiscard]] std::string Text(std::size_t index) const;
+  [[nodiscard]] std::string Text(Id id) const {
+    const auto index = static_cast<std::size_t>(id);
+    std::shared_ptr<const Lookup> lookup;
+    std::string stored;
+    {
+      const std::shared_lock lock(mutex_);
+      lookup = lookup_;
+      stored = replacements_.at(index).value_or(std::string(defaults_[index]));
+    }
+    if (lookup != nullptr) {
+      if (std::optional<std::string> found = (*lookup)(id)) return *std::move(found);
+    }
+    return stored;
+  }
+
   /// Replaces a text; nothing restores the default.
-  void SetText(std::size_t index, std::optional<std::string> text);
+  void SetText(Id id, std::optional<std::string> text) {
+    const std::unique_lock lock(mutex_);
+    replacements_.at(static_cast<std::size_t>(id)) = std::move(text);
+  }
+
   /// Sets the look-up function; an empty one removes it.
-  void SetLookup(Lookup lookup);
+  void SetLookup(Lookup lookup) {
+    auto shared = lookup ? std::make_shared<const Lookup>(std::move(lookup)) : nullptr;
+    const std::unique_lock lock(mutex_);
+    lookup_.swap(shared);
+  }
 
  private:
   std::span<const std::string_view> defaults_;

@@ -1,1 +1,209 @@
 #include "qorvex/stats/descriptive_stats.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
+#include "qorvex/stats/order_statistics.h"
+#include "qorvex/stats/shape.h"
+#include "qorvex/vector/aggregates.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/detail/sort_keys.h"
+#include "qorvex/vector/sorting.h"
+
+namespace qorvex {
+
+namespace {
+
+constexpr std::size_t kLeastForSkew = 3;
+constexpr std::size_t kLeastForKurtosis = 4;
+
+// NaN sorts last, so the last element tells whether there is one.
+bool HoldsNaN(const TQorFloatVector& sorted) { return !sorted.empty() && std::isnan(sorted[sorted.size() - 1]); }
+
+// Inserts a value where QSortVector would put it.
+void InsertSorted(TQorFloatVector& sorted, Extended value) {
+  sorted.Append(value);
+  Extended* const last = sorted.end() - 1;
+  Extended* const place =
+      std::upper_bound(sorted.begin(), last, value, QorvexVector::detail::SortsBefore<Extended>);
+  std::move_backward(place, last, sorted.end());
+  *place = value;
+}
+
+// Removes an element with exactly the bits of the value.
+void EraseSorted(TQorFloatVector& sorted, Extended value) {
+  Extended* const place =
+      std::lower_bound(sorted.begin(), sorted.end(), value, QorvexVector::detail::SortsBefore<Extended>);
+  std::move(place + 1, sorted.end(), place);
+  sorted.SetLength(sorted.size() - 1);
+}
+
+}  // namespace
+
+void DescriptiveStats::SetValues(TQorFloatVector values) {
+  values_ = values.IsShared() ? CopyVector(values) : std::move(values);
+  UpdateStats();
+}
+
+TQorFloatVector DescriptiveStats::Values() const { return CopyVector(values_); }
+
+void DescriptiveStats::AddValue(Extended value) {
+  values_.Append(value);
+  if (updating_) return;
+  // The first value starts the sums instead of being added to 0, which would lose a negative zero.
+  const bool continues = !sorted_.empty() && sorted_.size() + 1 == values_.size();
+  if (!continues || std::isnan(value) || HoldsNaN(sorted_)) {
+    UpdateStats();
+    return;
+  }
+  InsertSorted(sorted_, value);
+  results_.sum += value;
+  results_.sum_sq += value * value;
+  UpdateFromSums();
+}
+
+bool DescriptiveStats::DeleteValue(std::int64_t index) {
+  if (index < 0 || index > values_.High()) return false;
+  Extended* const place = values_.data() + index;
+  const Extended value = *place;
+  std::move(place + 1, values_.end(), place);
+  values_.SetLength(values_.size() - 1);
+  if (updating_) return true;
+  const bool continues = sorted_.size() == values_.size() + 1 && !HoldsNaN(sorted_) && !values_.empty();
+  if (!continues) {
+    UpdateStats();
+    return true;
+  }
+  EraseSorted(sorted_, value);
+  SumUp();
+  UpdateFromSums();
+  return true;
+}
+
+void DescriptiveStats::Clear() {
+  values_.SetLength(0);
+  EndUpdate();
+}
+
+void DescriptiveStats::EndUpdate() {
+  updating_ = false;
+  UpdateStats();
+}
+
+void DescriptiveStats::SetPopulation(bool population) {
+  if (population == population_) return;
+  population_ = population;
+  UpdateStats();
+}
+
+void DescriptiveStats::UpdateStats() {
+  if (updating_) return;
+  sorted_.SetLength(0);
+  if (values_.empty()) {
+    results_ = {};
+    return;
+  }
+  sorted_ = CopyVector(values_);
+  QSortVector(sorted_, true);
+  SumUp();
+  UpdateFromSums();
+}
+
+void DescriptiveStats::SumUp() {
+  results_.sum = SumVector(values_);
+  results_.sum_sq = SumSqVector(values_);
+}
+
+void DescriptiveStats::UpdateFromSums() {
+  DescriptiveResults& r = results_;
+  const std::size_t count = values_.size();
+  const auto n = static_cast<Extended>(count);
+  r.mean = r.sum / n;
+  const Extended squared_differences = SumSqDiffVector(values_, r.mean);
+  if (population_) {
+    r.variance = squared_differences / n;
+  } else {
+    r.variance = count >= 2 ? squared_differences / (n - 1) : 0;
+  }
+  r.std_dev = std::sqrt(r.variance);
+
+  r.median = GetMedian(sorted_);
+  r.mode_exists = GetMode(sorted_, r.mode);
+  r.minimum = sorted_[0];
+  r.maximum = sorted_[count - 1];
+
+  const bool spread = FloatIsNotZero(r.std_dev);
+  r.kurtosis = 0;
+  if (count >= kLeastForKurtosis && spread) {
+    r.kurtosis = population_ ? GetPopulationKurtosis(values_, r.mean, r.std_dev)
+                             : GetSampleKurtosis(values_, r.mean, r.std_dev);
+  }
+  r.skew = 0;
+  if (count >= kLeastForSkew && spread) {
+    r.skew = population_ ? GetPopulationSkew(values_, r.mean, r.std_dev)
+                         : GetSampleSkew(values_, r.mean, r.std_dev);
+  }
+
+  GetQuartiles(sorted_, r.quartile_1st, r.quartile_3rd);
+  r.inter_quartile_range = r.quartile_3rd - r.quartile_1st;
+}
+
+std::vector<std::string> DescriptiveStats::Report(int decimals) {
+  if (updating_) EndUpdate();
+  const std::size_t count = values_.size();
+  if (count == 0) return {MessageText(rsVectorIsEmpty)};
+
+  std::vector<std::string> lines;
+  const auto label = [&](ReportTextId id) { lines.push_back(ReportText(id)); };
+  const auto figure = [&](ReportTextId id, Extended value) {
+    lines.push_back(ReportText(id) + '\t' + Float2EStr(value, decimals));
+  };
+  const DescriptiveResults& r = results_;
+  const bool no_spread = FloatIsZero(r.std_dev);
+
+  lines.push_back(ReportText(rsDSNoOfValues) + '\t' + Int2EStr(count));
+  figure(rsDSMaximum, r.maximum);
+  figure(rsDSMinimum, r.minimum);
+  figure(rsDSRange, r.maximum - r.minimum);
+  figure(rsDSSum, r.sum);
+  figure(rsDSSumSQ, r.sum_sq);
+  figure(rsDSMean, r.mean);
+  if (r.mode_exists) {
+    figure(rsDSMode, r.mode);
+  } else {
+    label(rsDSNoMode);
+  }
+  figure(rsDSMedian, r.median);
+  if (!population_ && count == 1) {
+    label(rsDSNEVariance);
+    label(rsDSNEStdDev);
+  } else {
+    figure(rsDSVariance, r.variance);
+    figure(rsDSStdDev, r.std_dev);
+  }
+  if (count < kLeastForKurtosis) {
+    label(rsDSNEKurtosis);
+  } else if (no_spread) {
+    label(rsDSSDKurtosis);
+  } else {
+    figure(rsDSKurtosis, r.kurtosis);
+  }
+  if (count < kLeastForSkew) {
+    label(rsDSNESkew);
+  } else if (no_spread) {
+    label(rsDSSDSkew);
+  } else {
+    figure(rsDSSkew, r.skew);
+  }
+  figure(rsDSQtr1, r.quartile_1st);
+  figure(rsDSQtr3, r.quartile_3rd);
+  figure(rsDSIQR, r.inter_quartile_range);
+  return lines;
+}
+
+}  // namespace qorvex

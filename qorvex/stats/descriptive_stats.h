@@ -73,9 +73,12 @@ class QORVEX_EXPORT DescriptiveStats {
   [[nodiscard]] std::vector<std::string> Report(int decimals);
 
  private:
+  // Everything afresh, unless updating.
   void UpdateStats();
-  void UpdateMoments();
-  void UpdateOrderStatistics();
+  // The two sums afresh.
+  void SumUp();
+  // Everything that follows from the values, their sorted copy and the two sums.
+  void UpdateFromSums();
 
   TQorFloatVector values_;
   TQorFloatVector sorted_;

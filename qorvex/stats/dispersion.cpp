@@ -1,0 +1,173 @@
+#include "qorvex/stats/dispersion.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/location.h"
+#include "qorvex/vector/aggregates.h"
+#include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/sign_tests.h"
+
+namespace qorvex::inline QorvexStatistics {
+
+namespace {
+
+enum class Divisor { kSample, kPopulation };
+
+// n - 1 or n, once the vector has the elements that it needs.
+template <class T>
+Extended CheckedDivisor(const TQorVector<T>& vector, Divisor kind) {
+  QorvexVector::detail::RequireElements(vector);
+  const auto count = static_cast<Extended>(vector.size());
+  if (kind == Divisor::kPopulation) return count;
+  if (vector.size() == 1) RaiseMathError(rsVectorG1);
+  return count - 1;
+}
+
+template <WideNumericElement T>
+Extended TwoPassVariance(const TQorVector<T>& vector, Divisor kind) {
+  const Extended divisor = CheckedDivisor(vector, kind);
+  // The mean stays extended: rounded to a single, it would add its rounding error to the variance.
+  return QorvexVector::detail::SumSqDiffFromExtended(vector, QorMean(vector)) / divisor;
+}
+
+struct VarianceAndMean {
+  Extended variance;
+  Extended mean;
+};
+
+template <WideNumericElement T>
+VarianceAndMean SinglePassVariance(const TQorVector<T>& vector, Divisor kind) {
+  const Extended divisor = CheckedDivisor(vector, kind);
+  Extended sum = 0;
+  Extended sum_sq = 0;
+  if constexpr (FloatElement<T>) {
+    for (const Extended x : vector) {
+      sum += x;
+      sum_sq += x * x;
+    }
+  } else {
+    QorvexVector::detail::Int64Sum exact_sum;
+    QorvexVector::detail::Int64Sum exact_sum_sq;
+    for (const std::int64_t x : vector) {
+      exact_sum.Add(x);
+      exact_sum_sq.Add(QorvexVector::detail::WrappingMultiply(x, x));
+    }
+    sum = static_cast<Extended>(exact_sum.Value());
+    sum_sq = static_cast<Extended>(exact_sum_sq.Value());
+  }
+  const auto count = static_cast<Extended>(vector.size());
+  return {(sum_sq - sum * sum / count) / divisor, sum / count};
+}
+
+template <WideNumericElement T>
+void StoreVariance(const TQorVector<T>& vector, Divisor kind, Extended& variance, Extended& mean) {
+  const VarianceAndMean result = SinglePassVariance(vector, kind);
+  variance = result.variance;
+  mean = result.mean;
+}
+
+template <WideNumericElement T>
+void StoreStdDev(const TQorVector<T>& vector, Divisor kind, Extended& std_dev, Extended& mean) {
+  StoreVariance(vector, kind, std_dev, mean);
+  std_dev = std::sqrt(std_dev);
+}
+
+}  // namespace
+
+template <WideNumericElement T>
+Extended SampleVariance(const TQorVector<T>& vector) {
+  return TwoPassVariance(vector, Divisor::kSample);
+}
+
+template <WideNumericElement T>
+Extended PopulationVariance(const TQorVector<T>& vector) {
+  return TwoPassVariance(vector, Divisor::kPopulation);
+}
+
+template <WideNumericElement T>
+Extended SampleStdDev(const TQorVector<T>& vector) {
+  return std::sqrt(SampleVariance(vector));
+}
+
+template <WideNumericElement T>
+Extended PopulationStdDev(const TQorVector<T>& vector) {
+  return std::sqrt(PopulationVariance(vector));
+}
+
+template <WideNumericElement T>
+void SampleVarianceAndMean(const TQorVector<T>& vector, Extended& variance, Extended& mean) {
+  StoreVariance(vector, Divisor::kSample, variance, mean);
+}
+
+template <WideNumericElement T>
+void PopulationVarianceAndMean(const TQorVector<T>& vector, Extended& variance, Extended& mean) {
+  StoreVariance(vector, Divisor::kPopulation, variance, mean);
+}
+
+template <WideNumericElement T>
+void SampleStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev, Extended& mean) {
+  StoreStdDev(vector, Divisor::kSample, std_dev, mean);
+}
+
+template <WideNumericElement T>
+void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev, Extended& mean) {
+  StoreStdDev(vector, Divisor::kPopulation, std_dev, mean);
+}
+
+Extended MeanDeviation(const TQorFloatVector& vector, Extended mean) noexcept {
+  if (vector.empty()) return 0;
+  Extended sum = 0;
+  for (const Extended x : vector) sum += std::fabs(x - mean);
+  return sum / static_cast<Extended>(vector.size());
+}
+
+Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean, bool sample) {
+  const Extended divisor = CheckedDivisor(vector, sample ? Divisor::kSample : Divisor::kPopulation);
+  if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
+  const Extended ln_mean = std::log(mean);
+  Extended sum = 0;
+  for (const Extended x : vector) {
+    const Extended difference = std::log(x) - ln_mean;
+    sum += difference * difference;
+  }
+  return std::exp(std::sqrt(sum / divisor));
+}
+
+Extended GeometricStdDev(const TQorFloatVector& vector, bool sample) {
+  CheckedDivisor(vector, sample ? Divisor::kSample : Divisor::kPopulation);
+  return GeometricStdDev(vector, GeometricMean(vector), sample);
+}
+
+void Standardise(TQorFloatVector& vector, Extended mean, Extended std_dev, Extended new_mean, Extended new_std_dev) {
+  QorvexVector::detail::RequireElements(vector);
+  if (std_dev == 0) RaiseMathError(rsStdDev);
+  for (Extended& x : vector) x = ((x - mean) / std_dev) * new_std_dev + new_mean;
+}
+
+void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_dev, bool population) {
+  Extended std_dev = 0;
+  Extended mean = 0;
+  if (population) {
+    PopulationStdDevAndMean(vector, std_dev, mean);
+  } else {
+    SampleStdDevAndMean(vector, std_dev, mean);
+  }
+  Standardise(vector, mean, std_dev, new_mean, new_std_dev);
+}
+
+#define QORVEX_INSTANTIATE(T)                                                             \
+  template Extended SampleVariance(const TQorVector<T>&);                                 \
+  template Extended PopulationVariance(const TQorVector<T>&);                             \
+  template Extended SampleStdDev(const TQorVector<T>&);                                   \
+  template Extended PopulationStdDev(const TQorVector<T>&);                               \
+  template void SampleVarianceAndMean(const TQorVector<T>&, Extended&, Extended&);        \
+  template void PopulationVarianceAndMean(const TQorVector<T>&, Extended&, Extended&);    \
+  template void SampleStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);          \
+  template void PopulationStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);
+QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexStatistics

@@ -1,0 +1,36 @@
+#include "qorvex/stats/location.h"
+
+#include <cmath>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/vector/aggregates.h"
+#include "qorvex/vector/sign_tests.h"
+
+namespace qorvex::inline QorvexStatistics {
+
+template <WideNumericElement T>
+Extended QorMean(const TQorVector<T>& vector) {
+  return static_cast<Extended>(SumVector(vector)) / static_cast<Extended>(vector.size());
+}
+
+Extended GeometricMean(const TQorFloatVector& vector) {
+  if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
+  Extended sum = 0;
+  for (const Extended x : vector) sum += std::log(x);
+  return std::exp(sum / static_cast<Extended>(vector.size()));
+}
+
+Extended HarmonicMean(const TQorFloatVector& vector) {
+  if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
+  Extended sum = 0;
+  for (const Extended x : vector) sum += 1 / x;
+  return static_cast<Extended>(vector.size()) / sum;
+}
+
+Extended RootMeanSquare(const TQorFloatVector& vector) { return std::sqrt(SumSqVector(vector)); }
+
+#define QORVEX_INSTANTIATE(T) template Extended QorMean(const TQorVector<T>&);
+QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexStatistics

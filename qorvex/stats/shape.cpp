@@ -1,0 +1,113 @@
+#include "qorvex/stats/shape.h"
+
+#include <cstddef>
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/dispersion.h"
+#include "qorvex/vector/detail/checks.h"
+
+namespace qorvex::inline QorvexStatistics {
+
+namespace {
+
+constexpr std::size_t kLeastForSkew = 3;
+constexpr std::size_t kLeastForKurtosis = 4;
+
+Extended Cube(Extended x) { return x * x * x; }
+
+Extended FourthPower(Extended x) {
+  const Extended square = x * x;
+  return square * square;
+}
+
+void RequireForSkew(const TQorFloatVector& vector) {
+  QorvexVector::detail::RequireElements(vector);
+  if (vector.size() < kLeastForSkew) RaiseMathError(rsVectorG2);
+}
+
+void RequireForKurtosis(const TQorFloatVector& vector) {
+  QorvexVector::detail::RequireElements(vector);
+  if (vector.size() < kLeastForKurtosis) RaiseMathError(rsVectorG3);
+}
+
+void RequireSpread(Extended std_dev) {
+  if (FloatIsZero(std_dev)) RaiseMathError(rsStdDev);
+}
+
+Extended SumOfCubes(const TQorFloatVector& vector, Extended mean) {
+  Extended sum = 0;
+  for (const Extended x : vector) sum += Cube(x - mean);
+  return sum;
+}
+
+Extended SumOfFourthPowers(const TQorFloatVector& vector, Extended mean) {
+  Extended sum = 0;
+  for (const Extended x : vector) sum += FourthPower(x - mean);
+  return sum;
+}
+
+}  // namespace
+
+Extended GetSampleSkew(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+  RequireForSkew(vector);
+  RequireSpread(std_dev);
+  const auto n = static_cast<Extended>(vector.size());
+  return n * SumOfCubes(vector, mean) / ((n - 1) * (n - 2) * Cube(std_dev));
+}
+
+Extended GetSampleSkew(const TQorFloatVector& vector) {
+  RequireForSkew(vector);
+  Extended std_dev = 0;
+  Extended mean = 0;
+  SampleStdDevAndMean(vector, std_dev, mean);
+  return GetSampleSkew(vector, mean, std_dev);
+}
+
+Extended GetPopulationSkew(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+  RequireForSkew(vector);
+  RequireSpread(std_dev);
+  const auto n = static_cast<Extended>(vector.size());
+  return SumOfCubes(vector, mean) / (n * Cube(std_dev));
+}
+
+Extended GetPopulationSkew(const TQorFloatVector& vector) {
+  RequireForSkew(vector);
+  Extended std_dev = 0;
+  Extended mean = 0;
+  PopulationStdDevAndMean(vector, std_dev, mean);
+  return GetPopulationSkew(vector, mean, std_dev);
+}
+
+Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+  RequireForKurtosis(vector);
+  RequireSpread(std_dev);
+  const auto n = static_cast<Extended>(vector.size());
+  return n * (n + 1) * SumOfFourthPowers(vector, mean) / (FourthPower(std_dev) * (n - 1) * (n - 2) * (n - 3)) -
+         3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3));
+}
+
+Extended GetSampleKurtosis(const TQorFloatVector& vector) {
+  RequireForKurtosis(vector);
+  Extended std_dev = 0;
+  Extended mean = 0;
+  SampleStdDevAndMean(vector, std_dev, mean);
+  return GetSampleKurtosis(vector, mean, std_dev);
+}
+
+Extended GetPopulationKurtosis(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+  RequireForKurtosis(vector);
+  RequireSpread(std_dev);
+  const auto n = static_cast<Extended>(vector.size());
+  return SumOfFourthPowers(vector, mean) / (FourthPower(std_dev) * n) - 3;
+}
+
+Extended GetPopulationKurtosis(const TQorFloatVector& vector) {
+  RequireForKurtosis(vector);
+  Extended std_dev = 0;
+  Extended mean = 0;
+  PopulationStdDevAndMean(vector, std_dev, mean);
+  return GetPopulationKurtosis(vector, mean, std_dev);
+}
+
+}  // namespace qorvex::inline QorvexStatistics

@@ -1,0 +1,52 @@
+#include "qorvex/stats/trimmed_means.h"
+
+#include <cmath>
+#include <cstddef>
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/location.h"
+#include "qorvex/stats/order_statistics.h"
+#include "qorvex/vector/detail/checks.h"
+
+namespace qorvex::inline QorvexStatistics {
+
+namespace {
+
+// The two trims differ in the largest fraction, which leaves the median, and in how many elements a count cut from the
+// vector takes from each end.
+template <WideNumericElement T, class PerTail>
+Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended largest_fraction, PerTail per_tail) {
+  if (FloatIsZero(fraction)) return QorMean(sorted);
+  if (SameFloat(fraction, largest_fraction)) return GetMedian(sorted);
+  if (!(fraction >= 0 && fraction <= largest_fraction)) RaiseMathError(rsInvalidValue);
+  QorvexVector::detail::RequireElements(sorted);
+  const std::size_t count = sorted.size();
+  if (count == 1) return static_cast<Extended>(sorted[0]);
+
+  const std::size_t cut = per_tail(static_cast<std::size_t>(static_cast<Extended>(count) * fraction));
+  if (count <= 2 * cut) return 0;
+  Extended sum = 0;
+  for (std::size_t i = cut; i < count - cut; ++i) sum += static_cast<Extended>(sorted[i]);
+  return sum / static_cast<Extended>(count - 2 * cut);
+}
+
+}  // namespace
+
+template <WideNumericElement T>
+Extended TrimmedMean(const TQorVector<T>& sorted, Extended fraction) {
+  return Trimmed(sorted, fraction, 0.5L, [](std::size_t cut) { return cut; });
+}
+
+template <WideNumericElement T>
+Extended ExcelTrimmedMean(const TQorVector<T>& sorted, Extended fraction) {
+  return Trimmed(sorted, fraction, 1.0L, [](std::size_t cut) { return cut / 2; });
+}
+
+#define QORVEX_INSTANTIATE(T)                                    \
+  template Extended TrimmedMean(const TQorVector<T>&, Extended); \
+  template Extended ExcelTrimmedMean(const TQorVector<T>&, Extended);
+QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexStatistics

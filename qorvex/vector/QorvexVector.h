@@ -1,0 +1,16 @@
+#pragma once
+
+/// @file
+/// Unit QorvexVector: vectors of the ten numeric element types.
+
+#include "qorvex/vector/aggregates.h"
+#include "qorvex/vector/arithmetic.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/conversion.h"
+#include "qorvex/vector/extremes.h"
+#include "qorvex/vector/moving_average.h"
+#include "qorvex/vector/polynomial.h"
+#include "qorvex/vector/ranking.h"
+#include "qorvex/vector/sign_tests.h"
+#include "qorvex/vector/sorting.h"
+#include "qorvex/vector/transforms.h"

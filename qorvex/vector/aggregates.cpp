@@ -1,0 +1,122 @@
+#include "qorvex/vector/aggregates.h"
+
+#include <cmath>
+
+#include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/integer_arithmetic.h"
+
+namespace qorvex::inline QorvexVector {
+
+namespace {
+
+constexpr auto kItself = [](auto x) { return x; };
+constexpr auto kSquare = [](Extended x) { return x * x; };
+
+// Adds term(element) in ascending order, starting with the first term itself, so that a lone negative zero stays one.
+template <FloatElement T, class Term>
+Extended SumOfTerms(const TQorVector<T>& vector, Term term) {
+  Extended sum = term(static_cast<Extended>(vector[0]));
+  for (std::size_t i = 1; i < vector.size(); ++i) sum += term(static_cast<Extended>(vector[i]));
+  return sum;
+}
+
+template <IntegerElement T, class Term>
+std::int64_t SumOfTerms(const TQorVector<T>& vector, Term term) {
+  detail::Int64Sum sum;
+  for (const T x : vector) sum.Add(term(x));
+  return sum.Value();
+}
+
+}  // namespace
+
+template <NumericElement T>
+SumOf<T> SumVector(const TQorVector<T>& vector) {
+  detail::RequireElements(vector);
+  return SumOfTerms(vector, kItself);
+}
+
+template <NumericElement T>
+SumOf<T> SumSqVector(const TQorVector<T>& vector) {
+  detail::RequireElements(vector);
+  if constexpr (FloatElement<T>) {
+    return SumOfTerms(vector, kSquare);
+  } else {
+    return SumOfTerms(vector, detail::NarrowSquare<T>);
+  }
+}
+
+template <FloatElement T>
+Extended SumSqDiffVector(const TQorVector<T>& vector, std::type_identity_t<T> mean) {
+  return detail::SumSqDiffFromExtended(vector, mean);
+}
+
+namespace detail {
+
+template <WideIntegerElement T>
+std::int64_t SumSqDiffFromInteger(const TQorVector<T>& vector, T mean) {
+  RequireElements(vector);
+  return SumOfTerms(vector, [mean](T x) { return NarrowSquare(WrappingSubtract(x, mean)); });
+}
+
+template <WideNumericElement T>
+Extended SumSqDiffFromExtended(const TQorVector<T>& vector, Extended mean) {
+  RequireElements(vector);
+  Extended sum = 0;
+  for (const T x : vector) {
+    const Extended difference = static_cast<Extended>(x) - mean;
+    sum += difference * difference;
+  }
+  return sum;
+}
+
+}  // namespace detail
+
+template <WideNumericElement T>
+SumOf<T> SumSqDiffVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
+  detail::RequireSameLength(a, b);
+  detail::RequireElements(a);
+  if constexpr (FloatElement<T>) {
+    Extended sum = 0;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+      const Extended difference = static_cast<Extended>(a[i]) - static_cast<Extended>(b[i]);
+      sum += difference * difference;
+    }
+    return sum;
+  } else {
+    detail::Int64Sum sum;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+      sum.Add(detail::NarrowSquare(detail::WrappingSubtract<std::int64_t>(a[i], b[i])));
+    }
+    return sum.Value();
+  }
+}
+
+template <NumericElement T>
+Extended VectorMagnitude(const TQorVector<T>& vector) {
+  Extended sum = 0;
+  for (const T x : vector) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
+  return std::sqrt(sum);
+}
+
+#define QORVEX_INSTANTIATE(T)                       \
+  template SumOf<T> SumVector(const TQorVector<T>&);   \
+  template SumOf<T> SumSqVector(const TQorVector<T>&); \
+  template Extended VectorMagnitude(const TQorVector<T>&);
+QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T)                                                          \
+  template SumOf<T> SumSqDiffVectors(const TQorVector<T>&, const TQorVector<T>&);      \
+  template Extended detail::SumSqDiffFromExtended(const TQorVector<T>&, Extended);
+QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) template Extended SumSqDiffVector(const TQorVector<T>&, T);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) template std::int64_t detail::SumSqDiffFromInteger(const TQorVector<T>&, T);
+QORVEX_FOR_WIDE_INTEGER_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexVector

@@ -1,0 +1,69 @@
+#include "qorvex/vector/building.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace qorvex::inline QorvexVector {
+
+template <WideNumericElement T>
+void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value) {
+  vector.Append(value);
+}
+
+template <WideNumericElement T>
+void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value, std::int32_t position) {
+  vector.Append(value);
+  if (position < 0 || position >= vector.High()) return;
+  T* const place = vector.data() + position;
+  std::move_backward(place, vector.end() - 1, vector.end());
+  *place = value;
+}
+
+template <WideNumericElement T>
+void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position) {
+  if (position < 0 || position > vector.High()) return;
+  if (vector.size() > 1) {
+    T* const place = vector.data() + position;
+    std::move(place + 1, vector.end(), place);
+  }
+  vector.SetLength(vector.size() - 1);
+}
+
+template <NumericElement T>
+void FillVector(TQorVector<T>& vector, std::type_identity_t<T> value) {
+  std::fill(vector.begin(), vector.end(), value);
+}
+
+template <NumericElement T>
+void ClearVector(TQorVector<T>& vector) {
+  if (!vector.empty()) std::memset(vector.data(), 0, vector.size() * sizeof(T));
+}
+
+template <NumericElement T>
+TQorVector<T> CopyVector(const TQorVector<T>& vector) {
+  return TQorVector<T>(std::span<const T>(vector));
+}
+
+template <NumericElement T>
+TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
+  auto result = TQorVector<T>::ForOverwrite(vector.size());
+  std::reverse_copy(vector.begin(), vector.end(), result.begin());
+  return result;
+}
+
+#define QORVEX_INSTANTIATE(T)                                               \
+  template void AppendValue2Vector(TQorVector<T>&, T);                      \
+  template void AddValue2Vector(TQorVector<T>&, T, std::int32_t);           \
+  template void DeleteValueFromVector(TQorVector<T>&, std::int32_t);
+QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T)                              \
+  template void FillVector(TQorVector<T>&, T);             \
+  template void ClearVector(TQorVector<T>&);               \
+  template TQorVector<T> CopyVector(const TQorVector<T>&); \
+  template TQorVector<T> ReverseVector(const TQorVector<T>&);
+QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexVector

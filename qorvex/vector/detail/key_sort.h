@@ -1,0 +1,107 @@
+#pragma once
+
+// Sorts unsigned keys ascending without recursion.
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <tuple>
+#include <utility>
+
+namespace qorvex::inline QorvexVector::detail {
+
+template <class Key>
+void InsertionSort(Key* first, Key* last) {
+  for (Key* next = first + 1; next < last; ++next) {
+    const Key key = *next;
+    Key* hole = next;
+    for (; hole != first && key < hole[-1]; --hole) *hole = hole[-1];
+    *hole = key;
+  }
+}
+
+// Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978, "Implementing quicksort
+// programs"). The smaller side is sorted first and the larger one deferred, so the stack never holds more than
+// log2(n) entries.
+template <class Key>
+void QuickSort(Key* first, Key* last) {
+  constexpr std::ptrdiff_t insertion_limit = 24;
+  std::array<std::pair<Key*, Key*>, 64> deferred;
+  std::size_t depth = 0;
+  while (true) {
+    while (last - first > insertion_limit) {
+      const Key pivot = first[(last - first) / 2];
+      Key* low = first;
+      Key* high = last - 1;
+      do {
+        while (*low < pivot) ++low;
+        while (pivot < *high) --high;
+        if (low <= high) std::swap(*low++, *high--);
+      } while (low <= high);
+      if (high + 1 - first < last - low) {
+        deferred[depth++] = {low, last};
+        last = high + 1;
+      } else {
+        deferred[depth++] = {first, high + 1};
+        first = low;
+      }
+    }
+    InsertionSort(first, last);
+    if (depth == 0) return;
+    std::tie(first, last) = deferred[--depth];
+  }
+}
+
+template <class Key>
+int BitWidth(Key key) {
+  int width = 0;
+  for (; key != 0; key = static_cast<Key>(key >> 1)) ++width;
+  return width;
+}
+
+// Below this length the counters of a radix pass cost more than they save.
+constexpr std::size_t kShortestRadixSort = 400;
+
+// Least-significant-digit radix sort of the highest bits in which the keys differ, as many as tell most keys apart;
+// quicksort then orders the runs of keys that agree in those bits. scratch holds as many keys as the input.
+template <class Key>
+void RadixSort(Key* keys, Key* scratch, std::size_t count) {
+  constexpr int widest_digit = 11;
+  Key varying = 0;
+  for (std::size_t i = 1; i < count; ++i) varying |= keys[i] ^ keys[0];
+  const int width = BitWidth(varying);
+  // Half as many bits again as the count needs leaves few equal runs; signs and exponents of floating keys take some 14
+  // more that hardly tell keys apart.
+  const int sorted_bits = std::min(width, 3 * BitWidth(count) / 2 + 14);
+  if (sorted_bits == 0) return;
+  const int passes = (sorted_bits + widest_digit - 1) / widest_digit;
+  const int digit_bits = (sorted_bits + passes - 1) / passes;
+  const int lowest_bit = width - sorted_bits;
+
+  Key* from = keys;
+  Key* to = scratch;
+  for (int pass = 0; pass < passes; ++pass) {
+    const int shift = lowest_bit + pass * digit_bits;
+    const auto digit = [=](Key key) {
+      return static_cast<std::size_t>(key >> shift) & ((std::size_t{1} << digit_bits) - 1);
+    };
+    std::array<std::size_t, std::size_t{1} << widest_digit> next{};
+    for (std::size_t i = 0; i < count; ++i) ++next[digit(from[i])];
+    std::size_t position = 0;
+    for (std::size_t& place : next) position += std::exchange(place, position);
+    for (std::size_t i = 0; i < count; ++i) to[next[digit(from[i])]++] = from[i];
+    std::swap(from, to);
+  }
+  if (from != keys) std::copy(from, from + count, keys);
+
+  if (lowest_bit == 0) return;
+  const auto prefix = [=](Key key) { return static_cast<Key>(key >> lowest_bit); };
+  for (Key *run = keys, *const end = keys + count; run != end;) {
+    Key* run_end = run + 1;
+    while (run_end != end && prefix(*run_end) == prefix(*run)) ++run_end;
+    if (run_end - run > 1) QuickSort(run, run_end);
+    run = run_end;
+  }
+}
+
+}  // namespace qorvex::inline QorvexVector::detail

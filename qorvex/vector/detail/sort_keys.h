@@ -1,0 +1,93 @@
+#pragma once
+
+// Unsigned keys in the order of the elements. Sorting keys instead of elements makes floating comparisons integer ones
+// and lets a radix sort read the bits.
+
+#include <concepts>
+#include <cstdint>
+#include <cstring>
+#include <type_traits>
+
+#include "qorvex/base/element_types.h"
+
+namespace qorvex::inline QorvexVector::detail {
+
+__extension__ typedef unsigned __int128 UInt128;
+
+template <class T>
+struct SortKey;
+
+// Flipping the sign bit puts the negative integers first.
+template <std::integral T>
+struct SortKey<T> {
+  using Key = std::make_unsigned_t<T>;
+  static constexpr Key kFlip = std::signed_integral<T> ? static_cast<Key>(Key{1} << (8 * sizeof(T) - 1)) : Key{0};
+
+  static Key Read(const T* element) noexcept { return static_cast<Key>(static_cast<Key>(*element) ^ kFlip); }
+  static T Value(Key key) noexcept { return static_cast<T>(static_cast<Key>(key ^ kFlip)); }
+};
+
+// IEEE formats are sign and magnitude: negative values flip all bits, others the sign bit. -0 comes before +0.
+template <class T, class Bits>
+struct IeeeSortKey {
+  using Key = Bits;
+  static constexpr Key kSign = Key{1} << (8 * sizeof(T) - 1);
+
+  static Key Read(const T* element) noexcept {
+    Key bits;
+    std::memcpy(&bits, element, sizeof bits);
+    return (bits & kSign) != 0 ? ~bits : bits | kSign;
+  }
+  static T Value(Key key) noexcept {
+    const Key bits = (key & kSign) != 0 ? key ^ kSign : ~key;
+    T value;
+    std::memcpy(&value, &bits, sizeof value);
+    return value;
+  }
+};
+template <>
+struct SortKey<float> : IeeeSortKey<float, std::uint32_t> {};
+template <>
+struct SortKey<double> : IeeeSortKey<double, std::uint64_t> {};
+
+// The extended format has its sign and exponent above an explicit 64-bit mantissa; six bytes of the object are padding.
+template <>
+struct SortKey<Extended> {
+  using Key = UInt128;
+
+  static Key Read(const Extended* element) noexcept {
+    std::uint64_t mantissa;
+    std::uint16_t sign_and_exponent;
+    const auto* bytes = reinterpret_cast<const unsigned char*>(element);
+    std::memcpy(&mantissa, bytes, sizeof mantissa);
+    std::memcpy(&sign_and_exponent, bytes + sizeof mantissa, sizeof sign_and_exponent);
+    const bool negative = (sign_and_exponent & kSign) != 0;
+    const std::uint64_t low = negative ? ~mantissa : mantissa;
+    const auto high = static_cast<std::uint16_t>(negative ? ~sign_and_exponent : sign_and_exponent | kSign);
+    return static_cast<Key>(high) << 64 | low;
+  }
+  static Extended Value(Key key) noexcept {
+    const auto low = static_cast<std::uint64_t>(key);
+    const auto high = static_cast<std::uint16_t>(key >> 64);
+    const bool negative = (high & kSign) == 0;
+    const std::uint64_t mantissa = negative ? ~low : low;
+    const auto sign_and_exponent = static_cast<std::uint16_t>(negative ? ~high : high ^ kSign);
+    unsigned char bytes[sizeof(Extended)] = {};
+    std::memcpy(bytes, &mantissa, sizeof mantissa);
+    std::memcpy(bytes + sizeof mantissa, &sign_and_exponent, sizeof sign_and_exponent);
+    Extended value;
+    std::memcpy(&value, bytes, sizeof value);
+    return value;
+  }
+
+ private:
+  static constexpr std::uint16_t kSign = 0x8000;
+};
+
+// The strict total order that QSortVector sorts in, NaN left aside.
+template <class T>
+[[nodiscard]] inline bool SortsBefore(const T& a, const T& b) noexcept {
+  return SortKey<T>::Read(&a) < SortKey<T>::Read(&b);
+}
+
+}  // namespace qorvex::inline QorvexVector::detail

@@ -1,0 +1,56 @@
+#include "qorvex/vector/sorting.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+#include "qorvex/vector/detail/key_sort.h"
+#include "qorvex/vector/detail/sort_keys.h"
+
+namespace qorvex::inline QorvexVector {
+
+namespace {
+
+// Sorts elements that are not NaN, through keys that take the elements' own place in memory.
+template <NumericElement T>
+void SortInPlace(T* elements, std::size_t count, bool ascending) {
+  using Traits = detail::SortKey<T>;
+  using Key = typename Traits::Key;
+  static_assert(sizeof(Key) == sizeof(T) && alignof(Key) == alignof(T));
+
+  const bool radix = count >= detail::kShortestRadixSort;
+  const auto scratch = radix ? std::make_unique_for_overwrite<Key[]>(count) : nullptr;
+  const Key direction = static_cast<Key>(ascending ? Key{0} : ~Key{0});
+  for (std::size_t i = 0; i < count; ++i) {
+    const Key key = static_cast<Key>(Traits::Read(elements + i) ^ direction);
+    ::new (static_cast<void*>(elements + i)) Key(key);
+  }
+  Key* const keys = std::launder(reinterpret_cast<Key*>(elements));
+  if (radix) {
+    detail::RadixSort(keys, scratch.get(), count);
+  } else {
+    detail::QuickSort(keys, keys + count);
+  }
+  for (std::size_t i = 0; i < count; ++i) {
+    const Key key = static_cast<Key>(keys[i] ^ direction);
+    ::new (static_cast<void*>(keys + i)) T(Traits::Value(key));
+  }
+}
+
+}  // namespace
+
+template <NumericElement T>
+void QSortVector(TQorVector<T>& vector, bool ascending) {
+  if (vector.size() < 2) return;
+  T* end = vector.end();
+  if constexpr (FloatElement<T>) {
+    end = std::partition(vector.begin(), end, [](T x) { return x == x; });
+  }
+  SortInPlace(vector.data(), static_cast<std::size_t>(end - vector.begin()), ascending);
+}
+
+#define QORVEX_INSTANTIATE(T) template void QSortVector(TQorVector<T>&, bool);
+QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexVector

@@ -1,0 +1,100 @@
+#include "qorvex/vector/transforms.h"
+
+#include <cmath>
+
+#include "qorvex/base/elementary.h"
+#include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/sign_tests.h"
+
+namespace qorvex::inline QorvexVector {
+
+namespace {
+
+// Replaces each element by function(element), computed in extended precision.
+template <FloatElement T, class Function>
+void Replace(TQorVector<T>& vector, Function function) {
+  for (T& x : vector) x = static_cast<T>(function(static_cast<Extended>(x)));
+}
+
+}  // namespace
+
+template <WideNumericElement T>
+void SquareVector(TQorVector<T>& vector) {
+  detail::RequireElements(vector);
+  if constexpr (FloatElement<T>) {
+    Replace(vector, [](Extended x) { return x * x; });
+  } else {
+    for (T& x : vector) x = static_cast<T>(detail::NarrowSquare(x));
+  }
+}
+
+template <FloatElement T>
+void SqrtVector(TQorVector<T>& vector) {
+  if (!VectorNonNegative(vector)) RaiseMathError(rsVectorNeg);
+  Replace(vector, [](Extended x) { return std::sqrt(x); });
+}
+
+template <FloatElement T>
+void InvVector(TQorVector<T>& vector) {
+  if (!VectorNonZero(vector)) RaiseMathError(rsVectorZero);
+  Replace(vector, [](Extended x) { return 1 / x; });
+}
+
+template <FloatElement T>
+void LnVector(TQorVector<T>& vector) {
+  if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
+  Replace(vector, [](Extended x) { return std::log(x); });
+}
+
+template <FloatElement T>
+void Log10Vector(TQorVector<T>& vector) {
+  if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
+  Replace(vector, QorLog10);
+}
+
+template <FloatElement T>
+void Log2Vector(TQorVector<T>& vector) {
+  if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
+  Replace(vector, QorLog2);
+}
+
+template <class T>
+  requires FloatElement<T> || std::same_as<T, std::int64_t>
+void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope, std::type_identity_t<T> intercept) {
+  detail::RequireElements(vector);
+  if constexpr (FloatElement<T>) {
+    const Extended wide_slope = slope;
+    const Extended wide_intercept = intercept;
+    Replace(vector, [=](Extended x) { return wide_slope * x + wide_intercept; });
+  } else {
+    for (T& x : vector) x = detail::WrappingAdd(detail::WrappingMultiply(slope, x), intercept);
+  }
+}
+
+template <FloatElement T>
+void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func) {
+  detail::RequireElements(vector);
+  for (T& x : vector) x = func(x);
+}
+
+#define QORVEX_INSTANTIATE(T)                   \
+  template void SqrtVector(TQorVector<T>&);     \
+  template void InvVector(TQorVector<T>&);      \
+  template void LnVector(TQorVector<T>&);       \
+  template void Log10Vector(TQorVector<T>&);    \
+  template void Log2Vector(TQorVector<T>&);     \
+  template void TransformVector(TQorVector<T>&, T (*)(T));
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) template void SquareVector(TQorVector<T>&);
+QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) template void LinearTransformVector(TQorVector<T>&, T, T);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_INSTANTIATE(std::int64_t)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexVector
