@@ -1,14 +1,14 @@
 #pragma once
 
 /// @file
-/// Unit QorvexGlobals: element, vector and matrix types, currencies, comparisons, constants, elementary and special
-/// functions, text, fractions and the runtime's Random.
+/// Unit QorvexGlobals: element, vector and matrix types, currencies, comparisons, constants,
+/// elementary and special functions, text, fractions and the runtime's Random.
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/currency.h"
-#include "qorvex/base/elementary.h"
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/elementary.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/fractions.h"
 #include "qorvex/base/random.h"

@@ -22,11 +22,17 @@ TextCatalog<MessageId>& Catalog() {
 
 }  // namespace
 
-std::string MessageText(MessageId id) { return Catalog().Text(id); }
+std::string MessageText(MessageId id) {
+  return Catalog().Text(id);
+}
 
-void SetMessageText(MessageId id, std::string text) { Catalog().SetText(id, std::move(text)); }
+void SetMessageText(MessageId id, std::string text) {
+  Catalog().SetText(id, std::move(text));
+}
 
-void ResetMessageText(MessageId id) { Catalog().SetText(id, std::nullopt); }
+void ResetMessageText(MessageId id) {
+  Catalog().SetText(id, std::nullopt);
+}
 
 void SetMessageLookup(std::function<std::optional<std::string>(MessageId)> lookup) {
   Catalog().SetLookup(std::move(lookup));

@@ -13,32 +13,40 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// The tolerance of every comparison here, initially 1.0e-15. It is absolute in the zero and sign tests and relative
-/// beyond magnitude 1 in SameFloat.
+/// The tolerance of every comparison here, initially 1.0e-15. It is absolute in the zero and sign
+/// tests and relative beyond magnitude 1 in SameFloat.
 ///
-/// A program may change it for data of another scale, while no other thread uses the library. Raise it where rounding
-/// residue of long computations should count as zero, such as elimination on large or badly scaled matrices; lower it
-/// where values below 1e-15 carry meaning.
+/// A program may change it for data of another scale, while no other thread uses the library. Raise
+/// it where rounding residue of long computations should count as zero, such as elimination on
+/// large or badly scaled matrices; lower it where values below 1e-15 carry meaning.
 extern QORVEX_EXPORT Extended QorTolerance;
 
 /// |x| <= QorTolerance. False for NaN.
-[[nodiscard]] inline bool FloatIsZero(Extended x) noexcept { return std::fabs(x) <= QorTolerance; }
+[[nodiscard]] inline bool FloatIsZero(Extended x) noexcept {
+  return std::fabs(x) <= QorTolerance;
+}
 
 /// The negation of FloatIsZero; true for NaN.
-[[nodiscard]] inline bool FloatIsNotZero(Extended x) noexcept { return !FloatIsZero(x); }
+[[nodiscard]] inline bool FloatIsNotZero(Extended x) noexcept {
+  return !FloatIsZero(x);
+}
 
 /// x > QorTolerance. False for NaN.
-[[nodiscard]] inline bool FloatIsPositive(Extended x) noexcept { return x > QorTolerance; }
+[[nodiscard]] inline bool FloatIsPositive(Extended x) noexcept {
+  return x > QorTolerance;
+}
 
 /// x < -QorTolerance. False for NaN.
-[[nodiscard]] inline bool FloatIsNegative(Extended x) noexcept { return x < -QorTolerance; }
+[[nodiscard]] inline bool FloatIsNegative(Extended x) noexcept {
+  return x < -QorTolerance;
+}
 
 /// True when the two values are to be treated as equal: x == y, or both are finite and
-/// |x - y| <= max(QorTolerance, 4 eps) * max(1, |x|, |y|), computed in the wider of the two types with that type's eps.
-/// NaN is the same as nothing; an infinity only as itself.
+/// |x - y| <= max(QorTolerance, 4 eps) * max(1, |x|, |y|), computed in the wider of the two types
+/// with that type's eps. NaN is the same as nothing; an infinity only as itself.
 ///
-/// Over sorted finite values the values that are the same as a given one are contiguous, as long as the tolerance is
-/// below 0.5.
+/// Over sorted finite values the values that are the same as a given one are contiguous, as long as
+/// the tolerance is below 0.5.
 template <FloatElement X, FloatElement Y>
 [[nodiscard]] inline bool SameFloat(X x, Y y) noexcept {
   using T = std::common_type_t<X, Y>;
@@ -54,6 +62,8 @@ template <FloatElement X, FloatElement Y>
 }
 
 /// The negation of SameFloat for extended values.
-[[nodiscard]] inline bool NotSameFloat(Extended x, Extended y) noexcept { return !SameFloat(x, y); }
+[[nodiscard]] inline bool NotSameFloat(Extended x, Extended y) noexcept {
+  return !SameFloat(x, y);
+}
 
 }  // namespace qorvex::inline QorvexGlobals

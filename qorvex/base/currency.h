@@ -9,8 +9,8 @@
 /// | `Currency`        | int64     | 10,000    | 0.0001     | about +-922 million million |
 /// | `QorLongCurrency` | int64     | 1,000,000 | 0.000001   | about +-9.2 million million |
 ///
-/// All conversions round to the nearest value, ties to even. What the target cannot hold becomes the target's
-/// smallest value.
+/// All conversions round to the nearest value, ties to even. What the target cannot hold becomes
+/// the target's smallest value.
 
 #include <compare>
 #include <cstdint>
@@ -20,8 +20,9 @@
 
 namespace qorvex {
 
-/// A fixed-point amount of money: an integer that counts parts of a currency unit. Each stored width and scale is
-/// a type of its own, so an amount is never taken for an integer or for an amount of another scale.
+/// A fixed-point amount of money: an integer that counts parts of a currency unit. Each stored
+/// width and scale is a type of its own, so an amount is never taken for an integer or for an
+/// amount of another scale.
 template <class Stored, std::int64_t Scale>
 class QORVEX_EXPORT BasicCurrency {
  public:
@@ -59,8 +60,8 @@ inline namespace QorvexGlobals {
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorCurrency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorLongCurrency amount) noexcept;
 
-/// The value in units as an amount: value times the scale is formed in extended and rounded once. NaN and
-/// what does not fit give the smallest amount.
+/// The value in units as an amount: value times the scale is formed in extended and rounded once.
+/// NaN and what does not fit give the smallest amount.
 [[nodiscard]] QORVEX_EXPORT Currency Float2Currency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency Float2QorCurrency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorLongCurrency Float2QorLongCurrency(Extended value) noexcept;
@@ -70,11 +71,15 @@ inline namespace QorvexGlobals {
 [[nodiscard]] QORVEX_EXPORT Currency QorLongCurrency2Currency(QorLongCurrency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency Currency2QorCurrency(Currency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorLongCurrency Currency2QorLongCurrency(Currency amount) noexcept;
-[[nodiscard]] QORVEX_EXPORT QorLongCurrency QorCurrency2QorLongCurrency(QorCurrency amount) noexcept;
-[[nodiscard]] QORVEX_EXPORT QorCurrency QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorLongCurrency
+QorCurrency2QorLongCurrency(QorCurrency amount) noexcept;
+[[nodiscard]] QORVEX_EXPORT QorCurrency
+QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
 
 /// True when the stored integers are equal: money has no tolerance.
-[[nodiscard]] inline bool SameCurrency(Currency x, Currency y) noexcept { return x == y; }
+[[nodiscard]] inline bool SameCurrency(Currency x, Currency y) noexcept {
+  return x == y;
+}
 
 }  // namespace QorvexGlobals
 

@@ -23,15 +23,16 @@ namespace qorvex {
 
 /// A zero-based dynamic array whose handles share one reference-counted buffer.
 ///
-/// Copying a handle shares the buffer; writing an element through any handle is seen through all of them.
-/// Changing the length first gives the handle a buffer of its own. Length 0 holds no buffer at all, and a
-/// moved-from handle is empty.
+/// Copying a handle shares the buffer; writing an element through any handle is seen through all of
+/// them. Changing the length first gives the handle a buffer of its own. Length 0 holds no buffer
+/// at all, and a moved-from handle is empty.
 ///
-/// Handles may be copied and dropped on any thread; writing elements needs the caller's own synchronisation.
-/// One allocation holds the header and the elements. Capacity grows by half, so appending is amortised O(1).
+/// Handles may be copied and dropped on any thread; writing elements needs the caller's own
+/// synchronisation. One allocation holds the header and the elements. Capacity grows by half, so
+/// appending is amortised O(1).
 ///
-/// Access is const-deep: through a const handle the elements can only be read. New elements of trivially copyable
-/// types have all bits zero.
+/// Access is const-deep: through a const handle the elements can only be read. New elements of
+/// trivially copyable types have all bits zero.
 template <class T>
 class DynArray {
  public:
@@ -56,9 +57,9 @@ class DynArray {
 
   /// Copies any sized range, converting each value to T.
   template <std::ranges::sized_range Range>
-    requires(!std::same_as<std::remove_cvref_t<Range>, DynArray> &&
-             std::convertible_to<std::ranges::range_reference_t<Range>, T>)
-  explicit DynArray(Range&& range) {
+  requires(!std::same_as<std::remove_cvref_t<Range>, DynArray> &&
+           std::convertible_to<std::ranges::range_reference_t<Range>,
+                               T>) explicit DynArray(Range&& range) {
     SetLength(static_cast<size_type>(std::ranges::size(range)));
     std::ranges::transform(range, begin(), [](auto&& value) { return static_cast<T>(value); });
   }
@@ -71,9 +72,8 @@ class DynArray {
   }
 
   /// An array of the given length for a caller that writes every element before reading any.
-  [[nodiscard]] static DynArray ForOverwrite(size_type length)
-    requires std::is_trivially_copyable_v<T>
-  {
+  [[nodiscard]] static DynArray ForOverwrite(
+      size_type length) requires std::is_trivially_copyable_v<T> {
     DynArray array;
     if (length != 0) {
       array.header_ = Allocate(length);
@@ -127,9 +127,9 @@ class DynArray {
     return Elements(header_)[index];
   }
 
-  /// Sets the length. A shared buffer is left to its other handles and this one gets its own with the common
-  /// leading elements; new elements are zero. Length 0 releases the handle's share. On std::bad_alloc the array
-  /// is unchanged.
+  /// Sets the length. A shared buffer is left to its other handles and this one gets its own with
+  /// the common leading elements; new elements are zero. Length 0 releases the handle's share. On
+  /// std::bad_alloc the array is unchanged.
   void SetLength(size_type length) {
     if (length == 0) {
       Drop(std::exchange(header_, nullptr));
@@ -164,9 +164,7 @@ class DynArray {
   }
 
   /// Equal lengths and equal elements, whether or not the buffer is the same.
-  friend bool operator==(const DynArray& a, const DynArray& b) {
-    return std::ranges::equal(a, b);
-  }
+  friend bool operator==(const DynArray& a, const DynArray& b) { return std::ranges::equal(a, b); }
 
  private:
   struct Header {
@@ -187,20 +185,22 @@ class DynArray {
   }
 
   static Header* Allocate(size_type capacity) {
-    static_assert(std::is_nothrow_default_constructible_v<T> && std::is_nothrow_copy_constructible_v<T> &&
+    static_assert(std::is_nothrow_default_constructible_v<T> &&
+                      std::is_nothrow_copy_constructible_v<T> &&
                       std::is_nothrow_move_constructible_v<T>,
                   "only the allocation may fail, so that an array is unchanged when it does");
     constexpr size_type limit =
         (static_cast<size_type>(std::numeric_limits<difference_type>::max()) - kElementsOffset) /
         sizeof(T);
     if (capacity > limit) throw std::bad_array_new_length();
-    void* memory = ::operator new(kElementsOffset + capacity * sizeof(T), std::align_val_t{kAlignment});
+    void* memory =
+        ::operator new (kElementsOffset + capacity * sizeof(T), std::align_val_t{kAlignment});
     return ::new (memory) Header(capacity);
   }
 
   static void Deallocate(Header* header) noexcept {
     header->~Header();
-    ::operator delete(header, std::align_val_t{kAlignment});
+    ::operator delete (header, std::align_val_t{kAlignment});
   }
 
   static void Drop(Header* header) noexcept {
@@ -218,7 +218,8 @@ class DynArray {
     }
   }
 
-  // Moves to a new, private buffer of the given length. Growing a private buffer leaves room for more.
+  // Moves to a new, private buffer of the given length. Growing a private buffer leaves room for
+  // more.
   void Reallocate(size_type length) {
     const bool shared = IsShared();
     const size_type old_length = size();

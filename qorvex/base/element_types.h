@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// The numeric element types of vectors and matrices, and the families that routines are constrained to.
+/// The numeric element types of vectors and matrices, and the families that routines are
+/// constrained to.
 
 #include <cfloat>
 #include <concepts>
@@ -10,12 +11,14 @@
 
 namespace qorvex {
 
-/// The working precision of every floating computation: the x87 extended format, 64 bits of mantissa.
+/// The working precision of every floating computation: the x87 extended format, 64 bits of
+/// mantissa.
 using Extended = long double;
 
-static_assert(LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
-              "Qorvex needs the 80-bit extended format as long double: x86 or x86-64 with GCC or Clang "
-              "(not -mlong-double-64, not MSVC)");
+static_assert(
+    LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
+    "Qorvex needs the 80-bit extended format as long double: x86 or x86-64 with GCC or Clang "
+    "(not -mlong-double-64, not MSVC)");
 
 /// T is one of the listed types, exactly.
 template <class T, class... List>

@@ -6,9 +6,13 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-Extended QorLog2(Extended x) noexcept { return std::log2(x); }
+Extended QorLog2(Extended x) noexcept {
+  return std::log2(x);
+}
 
-Extended QorLog10(Extended x) noexcept { return std::log10(x); }
+Extended QorLog10(Extended x) noexcept {
+  return std::log10(x);
+}
 
 Extended QorArcCos(Extended x) noexcept {
   if (std::fabs(x) > 1 && std::fabs(x) - 1 <= QorTolerance) return x > 0 ? 0 : QorPi;

@@ -17,23 +17,24 @@ inline constexpr Extended QorPi = 3.14159265358979323846264338327950288L;
 /// The empty text.
 inline constexpr std::string_view QorNullStr = "";
 
-/// The base-2 and base-10 logarithms: -infinity for 0, NaN for negative values and NaN, infinity for infinity. Within one
-/// unit in the last place.
+/// The base-2 and base-10 logarithms: -infinity for 0, NaN for negative values and NaN, infinity
+/// for infinity. Within one unit in the last place.
 [[nodiscard]] QORVEX_EXPORT Extended QorLog2(Extended x) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended QorLog10(Extended x) noexcept;
 
-/// The arc cosine in radians, from 0 to pi. An argument that rounding has pushed past -1 or 1 by no more than QorTolerance
-/// counts as -1 or 1, so that parallel vectors enclose the angle 0; further out, and for NaN, the result is NaN.
+/// The arc cosine in radians, from 0 to pi. An argument that rounding has pushed past -1 or 1 by no
+/// more than QorTolerance counts as -1 or 1, so that parallel vectors enclose the angle 0; further
+/// out, and for NaN, the result is NaN.
 [[nodiscard]] QORVEX_EXPORT Extended QorArcCos(Extended x) noexcept;
 
-/// x to the power y. XtoY(0, 0) is 1. Integer exponents from -8 to 8 are repeated products from the left (the reciprocal
-/// of the product for negative ones); all others are the C++ library's power, NaN for a negative x with a y that is no
-/// integer.
+/// x to the power y. XtoY(0, 0) is 1. Integer exponents from -8 to 8 are repeated products from the
+/// left (the reciprocal of the product for negative ones); all others are the C++ library's power,
+/// NaN for a negative x with a y that is no integer.
 [[nodiscard]] QORVEX_EXPORT Extended XtoY(Extended x, Extended y) noexcept;
 
 /// The smaller of two values; x when they are equal or when one is NaN.
 template <class T>
-  requires NumericElement<T>
+requires NumericElement<T>
 [[nodiscard]] constexpr T MinXY(T x, std::type_identity_t<T> y) noexcept {
   return y < x ? y : x;
 }

@@ -21,7 +21,8 @@ std::string TextWith(MessageId id, std::string_view offending) {
 
 }  // namespace
 
-// The destructors are defined here so that each type has one home for its type information across modules.
+// The destructors are defined here so that each type has one home for its type information across
+// modules.
 Exception::~Exception() = default;
 EMathError::~EMathError() = default;
 EZeroDivide::~EZeroDivide() = default;
@@ -32,6 +33,8 @@ EConvertError::~EConvertError() = default;
 EConvertError::EConvertError(MessageId id, std::string_view offending)
     : Exception(id, TextWith(id, offending)) {}
 
-void RaiseMathError(MessageId id) { throw EMathError(id); }
+void RaiseMathError(MessageId id) {
+  throw EMathError(id);
+}
 
 }  // namespace qorvex

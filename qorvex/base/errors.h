@@ -3,8 +3,8 @@
 /// @file
 /// The exceptions of the library.
 ///
-/// `Exception` <- `EMathError` <- `EZeroDivide`, `EInvalidOp`, `EOverflow`, and `Exception` <- `EConvertError` for text that
-/// is no number. Running out of memory stays std::bad_alloc.
+/// `Exception` <- `EMathError` <- `EZeroDivide`, `EInvalidOp`, `EOverflow`, and `Exception` <-
+/// `EConvertError` for text that is no number. Running out of memory stays std::bad_alloc.
 
 #include <stdexcept>
 #include <string>

@@ -22,8 +22,8 @@ struct Ratio {
   std::int64_t denominator;
 };
 
-// The first convergent p/q of f in [0, 1) with |f - p/q| <= tolerance. Euclid's remainders r_k on (1, f) satisfy
-// r_k = |q_k f - p_k|, so the bound is tested without forming p/q.
+// The first convergent p/q of f in [0, 1) with |f - p/q| <= tolerance. Euclid's remainders r_k on
+// (1, f) satisfy r_k = |q_k f - p_k|, so the bound is tested without forming p/q.
 Ratio FirstConvergentWithin(Extended f, Extended tolerance) noexcept {
   Ratio previous{1, 0};
   Ratio current{0, 1};
@@ -92,7 +92,8 @@ std::string Fraction2Str(const TQorMixedFraction& fraction, TQorFractionDisplay 
   constexpr Extended int64_end = 0x1p63L;
   std::int64_t numerator = 0;
   if (display == fdImproper && std::fabs(fraction.whole) < int64_end &&
-      !__builtin_mul_overflow(static_cast<std::int64_t>(fraction.whole), fraction.denominator, &numerator) &&
+      !__builtin_mul_overflow(static_cast<std::int64_t>(fraction.whole), fraction.denominator,
+                              &numerator) &&
       !__builtin_add_overflow(numerator, fraction.numerator, &numerator)) {
     return RatioText({numerator, fraction.denominator});
   }

@@ -1,5 +1,6 @@
-// Refuses to run where long double does not compute with 64 bits of mantissa: emulators (valgrind among them) and code
-// that lowers the precision of the x87 control word would make every figure of the library quietly wrong.
+// Refuses to run where long double does not compute with 64 bits of mantissa: emulators (valgrind
+// among them) and code that lowers the precision of the x87 control word would make every figure of
+// the library quietly wrong.
 
 #include <cstdio>
 #include <cstdlib>
@@ -12,7 +13,8 @@ namespace {
   const volatile long double sum = one + last_bit;
   if (sum != one) return;
   std::fputs(
-      "qorvex: long double does not compute with 64 bits of mantissa here (an emulator such as valgrind, or a changed "
+      "qorvex: long double does not compute with 64 bits of mantissa here (an emulator such as "
+      "valgrind, or a changed "
       "x87 control word); results would be wrong\n",
       stderr);
   std::abort();

@@ -13,9 +13,13 @@ std::mt19937_64& Generator() noexcept {
 
 }  // namespace
 
-Extended Random() noexcept { return static_cast<Extended>(Generator()()) * 0x1p-64L; }
+Extended Random() noexcept {
+  return static_cast<Extended>(Generator()()) * 0x1p-64L;
+}
 
-void SetRandSeed(std::uint64_t seed) noexcept { Generator().seed(seed); }
+void SetRandSeed(std::uint64_t seed) noexcept {
+  Generator().seed(seed);
+}
 
 void Randomize() {
   std::random_device device;

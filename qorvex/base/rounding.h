@@ -11,11 +11,12 @@
 
 namespace qorvex {
 
-/// Rounds to the nearest integer, ties to even. What the target cannot hold, NaN included, gives the target's
-/// smallest value, as the processor's own conversion does.
+/// Rounds to the nearest integer, ties to even. What the target cannot hold, NaN included, gives
+/// the target's smallest value, as the processor's own conversion does.
 template <std::integral Int>
 [[nodiscard]] inline Int RoundToInteger(Extended value) noexcept {
-  // Both bounds are exact: the smallest value is 0 or a power of two, and the largest plus one is a power of two.
+  // Both bounds are exact: the smallest value is 0 or a power of two, and the largest plus one is a
+  // power of two.
   constexpr Extended lowest = static_cast<Extended>(std::numeric_limits<Int>::min());
   constexpr Extended beyond = static_cast<Extended>(std::numeric_limits<Int>::max()) + 1.0L;
   const Extended rounded = std::nearbyint(value);

@@ -16,7 +16,8 @@ namespace {
 
 namespace policies = boost::math::policies;
 
-// No promotion: long double is the widest hardware type. Overflow returns infinity, which is turned into our error below.
+// No promotion: long double is the widest hardware type. Overflow returns infinity, which is turned
+// into our error below.
 using Policy = policies::policy<policies::promote_float<false>, policies::promote_double<false>,
                                 policies::overflow_error<policies::ignore_error>>;
 constexpr Policy kPolicy;
@@ -26,9 +27,12 @@ Extended Finite(Extended value) {
   return value;
 }
 
-bool IsShape(Extended a) { return a > 0 && std::isfinite(a); }
+bool IsShape(Extended a) {
+  return a > 0 && std::isfinite(a);
+}
 
-// Halves the interval of representable values between 0 and 1 until two neighbours enclose the root.
+// Halves the interval of representable values between 0 and 1 until two neighbours enclose the
+// root.
 Extended BisectedInverse(Extended p, Extended a, Extended b) {
   Extended low = 0;
   Extended high = 1;

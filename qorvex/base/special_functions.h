@@ -3,30 +3,34 @@
 /// @file
 /// The gamma and beta functions in extended precision, on Boost.Math.
 ///
-/// NaN arguments give NaN. Errors are the runtime's: EInvalidOp outside the domain, EZeroDivide at a pole, EOverflow when
-/// the value is beyond the extended range. Values too small for the format become 0.
+/// NaN arguments give NaN. Errors are the runtime's: EInvalidOp outside the domain, EZeroDivide at
+/// a pole, EOverflow when the value is beyond the extended range. Values too small for the format
+/// become 0.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
 
 namespace qorvex::inline QorvexGlobals {
 
-/// The gamma function. EZeroDivide at 0; EInvalidOp at the negative integers and at -infinity; EOverflow above about 1755.5.
+/// The gamma function. EZeroDivide at 0; EInvalidOp at the negative integers and at -infinity;
+/// EOverflow above about 1755.5.
 [[nodiscard]] QORVEX_EXPORT Extended Gamma(Extended x);
 
-/// The natural logarithm of the absolute value of the gamma function. EZeroDivide at 0 and the negative integers;
-/// EInvalidOp at -infinity.
+/// The natural logarithm of the absolute value of the gamma function. EZeroDivide at 0 and the
+/// negative integers; EInvalidOp at -infinity.
 [[nodiscard]] QORVEX_EXPORT Extended LnGamma(Extended x);
 
-/// The beta function B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). EInvalidOp unless a and b are positive and finite.
+/// The beta function B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). EInvalidOp unless a and b are
+/// positive and finite.
 [[nodiscard]] QORVEX_EXPORT Extended Beta(Extended a, Extended b);
 
-/// The regularised incomplete beta function I(x; a, b), point first. EInvalidOp unless 0 <= x <= 1 and a and b are positive
-/// and finite.
+/// The regularised incomplete beta function I(x; a, b), point first. EInvalidOp unless 0 <= x <= 1
+/// and a and b are positive and finite.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteBeta(Extended x, Extended a, Extended b);
 
-/// The point x with IncompleteBeta(x, a, b) = p, probability first. EInvalidOp unless 0 <= p <= 1 and a and b are positive
-/// and finite. Where the library's root finder gives up, the point is found by bisection, so a result always comes.
+/// The point x with IncompleteBeta(x, a, b) = p, probability first. EInvalidOp unless 0 <= p <= 1
+/// and a and b are positive and finite. Where the library's root finder gives up, the point is
+/// found by bisection, so a result always comes.
 [[nodiscard]] QORVEX_EXPORT Extended InverseIncompleteBeta(Extended p, Extended a, Extended b);
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -11,11 +11,11 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// Exchanges the two referenced values, for every element type. Bits are moved as they are, so NaNs and signed
-/// zeros pass unchanged; extended values move through integer registers, which is several times faster than
-/// through the floating stack. x and y may be the same object.
+/// Exchanges the two referenced values, for every element type. Bits are moved as they are, so NaNs
+/// and signed zeros pass unchanged; extended values move through integer registers, which is
+/// several times faster than through the floating stack. x and y may be the same object.
 template <class T>
-  requires NumericElement<T> || CurrencyElement<T>
+requires NumericElement<T> || CurrencyElement<T>
 inline void SwapXY(T& x, T& y) noexcept {
   struct alignas(T) Bits {
     unsigned char bytes[sizeof(T)];
@@ -24,8 +24,8 @@ inline void SwapXY(T& x, T& y) noexcept {
   Bits bits_of_y;
   std::memcpy(&bits_of_x, &x, sizeof(T));
   std::memcpy(&bits_of_y, &y, sizeof(T));
-  std::memcpy(&x, &bits_of_y, sizeof(T));
-  std::memcpy(&y, &bits_of_x, sizeof(T));
+  std::memcpy(static_cast<void*>(&x), &bits_of_y, sizeof(T));
+  std::memcpy(static_cast<void*>(&y), &bits_of_x, sizeof(T));
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -23,18 +23,22 @@ std::string_view WithoutBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+constexpr bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 bool EqualsIgnoringCase(std::string_view text, std::string_view lower_case) {
   if (text.size() != lower_case.size()) return false;
   for (std::size_t i = 0; i < text.size(); ++i) {
-    const char c = text[i] >= 'A' && text[i] <= 'Z' ? static_cast<char>(text[i] - 'A' + 'a') : text[i];
+    const char c =
+        text[i] >= 'A' && text[i] <= 'Z' ? static_cast<char>(text[i] - 'A' + 'a') : text[i];
     if (c != lower_case[i]) return false;
   }
   return true;
 }
 
-// An unsigned decimal number: significand times 10^exponent while it has at most 19 significant digits.
+// An unsigned decimal number: significand times 10^exponent while it has at most 19 significant
+// digits.
 struct Decimal {
   std::uint64_t significand = 0;
   int digits = 0;
@@ -89,8 +93,9 @@ constexpr auto kPowersOfTen = [] {
   return powers;
 }();
 
-// Correctly rounded for any length and exponent. The C locale is named explicitly because an application may have
-// changed the global one; std::from_chars would do, but the one of GCC 12 refuses subnormal values.
+// Correctly rounded for any length and exponent. The C locale is named explicitly because an
+// application may have changed the global one; std::from_chars would do, but the one of GCC 12
+// refuses subnormal values.
 Extended ConvertLongNumber(std::string_view text) {
   static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", nullptr);
   return strtold_l(std::string(text).c_str(), nullptr, c_locale);
@@ -106,13 +111,14 @@ Extended Magnitude(std::string_view text, std::string_view whole) {
     if (EqualsIgnoringCase(text, "nan")) return std::numeric_limits<Extended>::quiet_NaN();
     throw EConvertError(rsNotANumber, whole);
   }
-  // Both operands are exact, so the one operation rounds correctly (Clinger 1990, "How to read floating point numbers
-  // accurately").
+  // Both operands are exact, so the one operation rounds correctly (Clinger 1990, "How to read
+  // floating point numbers accurately").
   constexpr std::int64_t limit = kPowersOfTen.size() - 1;
   if (number.digits <= 19 && number.exponent >= -limit && number.exponent <= limit) {
     const auto significand = static_cast<Extended>(number.significand);
-    return number.exponent < 0 ? significand / kPowersOfTen[static_cast<std::size_t>(-number.exponent)]
-                               : significand * kPowersOfTen[static_cast<std::size_t>(number.exponent)];
+    return number.exponent < 0
+               ? significand / kPowersOfTen[static_cast<std::size_t>(-number.exponent)]
+               : significand * kPowersOfTen[static_cast<std::size_t>(number.exponent)];
   }
   const Extended value = ConvertLongNumber(text);
   if (std::isinf(value)) throw EConvertError(rsNumberTooLarge, whole);
@@ -123,7 +129,8 @@ Extended Magnitude(std::string_view text, std::string_view whole) {
 template <class Format>
 std::string Formatted(std::size_t longest, Format format) {
   char small[128];
-  if (const std::to_chars_result done = format(small, small + sizeof small); done.ec == std::errc()) {
+  if (const std::to_chars_result done = format(small, small + sizeof small);
+      done.ec == std::errc()) {
     return {small, done.ptr};
   }
   std::string text(longest, '\0');
@@ -157,7 +164,8 @@ std::string Float2EStr(Extended value, int decimals) {
 std::string Float2Str(Extended value) {
   if (std::isnan(value)) return "nan";
   constexpr std::size_t longest = 64;
-  return Formatted(longest, [=](char* first, char* last) { return std::to_chars(first, last, value); });
+  return Formatted(longest,
+                   [=](char* first, char* last) { return std::to_chars(first, last, value); });
 }
 
 std::string StripTChStr(std::string_view text, char trailing) {
@@ -172,7 +180,8 @@ std::string StripTChStr(std::string_view text, char trailing) {
     if (!in_decimals) return std::string(text);
   }
   const std::size_t last = text.find_last_not_of(trailing);
-  return without_point(last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1));
+  return without_point(last == std::string_view::npos ? std::string_view()
+                                                      : text.substr(0, last + 1));
 }
 
 }  // namespace qorvex::inline QorvexGlobals

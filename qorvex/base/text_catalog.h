@@ -17,10 +17,11 @@
 
 namespace qorvex {
 
-/// Texts by identifier, an enumeration that counts from 0. Every member may be called on any thread.
+/// Texts by identifier, an enumeration that counts from 0. Every member may be called on any
+/// thread.
 ///
-/// A text is found in this order: the look-up function, when one is set and gives a text; the replacement, when one is
-/// set; the default.
+/// A text is found in this order: the look-up function, when one is set and gives a text; the
+/// replacement, when one is set; the default.
 template <class Id>
 class TextCatalog {
  public:
@@ -31,7 +32,8 @@ class TextCatalog {
   explicit TextCatalog(std::span<const std::string_view> defaults)
       : defaults_(defaults), replacements_(defaults.size()) {}
 
-  /// The current text. The look-up function is called without any lock held, so it may use the catalogue itself.
+  /// The current text. The look-up function is called without any lock held, so it may use the
+  /// catalogue itself.
   [[nodiscard]] std::string Text(Id id) const {
     const auto index = static_cast<std::size_t>(id);
     std::shared_ptr<const Lookup> lookup;

@@ -22,11 +22,17 @@ TextCatalog<ReportTextId>& Catalog() {
 
 }  // namespace
 
-std::string ReportText(ReportTextId id) { return Catalog().Text(id); }
+std::string ReportText(ReportTextId id) {
+  return Catalog().Text(id);
+}
 
-void SetReportText(ReportTextId id, std::string text) { Catalog().SetText(id, std::move(text)); }
+void SetReportText(ReportTextId id, std::string text) {
+  Catalog().SetText(id, std::move(text));
+}
 
-void ResetReportText(ReportTextId id) { Catalog().SetText(id, std::nullopt); }
+void ResetReportText(ReportTextId id) {
+  Catalog().SetText(id, std::nullopt);
+}
 
 void SetReportLookup(std::function<std::optional<std::string>(ReportTextId)> lookup) {
   Catalog().SetLookup(std::move(lookup));

@@ -1,8 +1,9 @@
 #pragma once
 
 /// @file
-/// Unit Qorvex_RS_DescStats: the texts of statistical reports. They can be replaced like the messages of errors. The texts
-/// that no report of the library uses are here for applications; trailing blanks are part of a text.
+/// Unit Qorvex_RS_DescStats: the texts of statistical reports. They can be replaced like the
+/// messages of errors. The texts that no report of the library uses are here for applications;
+/// trailing blanks are part of a text.
 
 #include <cstdint>
 #include <functional>
@@ -15,55 +16,55 @@ namespace qorvex::inline Qorvex_RS_DescStats {
 
 /// @cond internal
 // Identifier and English text.
-#define QORVEX_REPORT_TEXTS(X) \
-  X(rsDSNEVariance, "Not enough Values for Variance") \
-  X(rsDSNEStdDev, "Not enough Values for Standard Deviation") \
-  X(rsDSNESkew, "Not enough Values for Skew") \
-  X(rsDSNEKurtosis, "Not enough Values for Kurtosis") \
-  X(rsDSSDKurtosis, "Standard Deviation needs to be > 0 for Kurtosis") \
-  X(rsDSSDSkew, "Standard Deviation needs to be > 0 for Skew") \
-  X(rsDSNoOfValues, "Number of Values:") \
-  X(rsDSMaximum, "Maximum:") \
-  X(rsDSMinimum, "Minimum:") \
-  X(rsDSRange, "Range:") \
-  X(rsDSMean, "Mean:") \
-  X(rsDSMeanX, "Mean of X Values:") \
-  X(rsDSMeanY, "Mean of Y Values:") \
-  X(rsDSMode, "Mode:") \
-  X(rsDSNoMode, "No Modal Value") \
-  X(rsDSMedian, "Median:") \
-  X(rsDSVariance, "Variance:") \
-  X(rsDSCovar, "Covariance:") \
-  X(rsDSStdDev, "Standard Deviation:") \
-  X(rsDSStdDevX, "Standard Deviation of X Values:") \
-  X(rsDSStdDevY, "Standard Deviation of Y Values:") \
-  X(rsDSSum, "Sum:") \
-  X(rsDSSumSQ, "Sum of Squares:") \
-  X(rsDSKurtosis, "Kurtosis:") \
-  X(rsDSSkew, "Skew:") \
-  X(rsDSQtr1, "First Quartile:") \
-  X(rsDSQtr3, "Third Quartile:") \
-  X(rsDSIQR, "Inter-Quartile Range:") \
-  X(rsDSConfidence, "Confidence Level: ") \
-  X(rsDSSignificance, "Significance Level: ") \
-  X(rsNullHypothesis, "Null Hypothesis: ") \
-  X(rsAlternateHypothesis, "Alternate Hypothesis: ") \
-  X(rsTestStatistic, "Test Statistics: ") \
-  X(rsDSConfidenceIntervalM, "Confidence Interval for the Mean: ") \
-  X(rsDSConfidenceIntervalV, "Confidence Interval for the Variance: ") \
-  X(rsPValue, "P-Value: ") \
-  X(rsRejectionRegion, "Rejection Region: ") \
-  X(rsRejected, "Null Hypothesis is Rejected!") \
-  X(rsNotRejected, "Null Hypothesis is not-Rejected!") \
-  X(rsRejectReason, \
+#define QORVEX_REPORT_TEXTS(X)                                                         \
+  X(rsDSNEVariance, "Not enough Values for Variance")                                  \
+  X(rsDSNEStdDev, "Not enough Values for Standard Deviation")                          \
+  X(rsDSNESkew, "Not enough Values for Skew")                                          \
+  X(rsDSNEKurtosis, "Not enough Values for Kurtosis")                                  \
+  X(rsDSSDKurtosis, "Standard Deviation needs to be > 0 for Kurtosis")                 \
+  X(rsDSSDSkew, "Standard Deviation needs to be > 0 for Skew")                         \
+  X(rsDSNoOfValues, "Number of Values:")                                               \
+  X(rsDSMaximum, "Maximum:")                                                           \
+  X(rsDSMinimum, "Minimum:")                                                           \
+  X(rsDSRange, "Range:")                                                               \
+  X(rsDSMean, "Mean:")                                                                 \
+  X(rsDSMeanX, "Mean of X Values:")                                                    \
+  X(rsDSMeanY, "Mean of Y Values:")                                                    \
+  X(rsDSMode, "Mode:")                                                                 \
+  X(rsDSNoMode, "No Modal Value")                                                      \
+  X(rsDSMedian, "Median:")                                                             \
+  X(rsDSVariance, "Variance:")                                                         \
+  X(rsDSCovar, "Covariance:")                                                          \
+  X(rsDSStdDev, "Standard Deviation:")                                                 \
+  X(rsDSStdDevX, "Standard Deviation of X Values:")                                    \
+  X(rsDSStdDevY, "Standard Deviation of Y Values:")                                    \
+  X(rsDSSum, "Sum:")                                                                   \
+  X(rsDSSumSQ, "Sum of Squares:")                                                      \
+  X(rsDSKurtosis, "Kurtosis:")                                                         \
+  X(rsDSSkew, "Skew:")                                                                 \
+  X(rsDSQtr1, "First Quartile:")                                                       \
+  X(rsDSQtr3, "Third Quartile:")                                                       \
+  X(rsDSIQR, "Inter-Quartile Range:")                                                  \
+  X(rsDSConfidence, "Confidence Level: ")                                              \
+  X(rsDSSignificance, "Significance Level: ")                                          \
+  X(rsNullHypothesis, "Null Hypothesis: ")                                             \
+  X(rsAlternateHypothesis, "Alternate Hypothesis: ")                                   \
+  X(rsTestStatistic, "Test Statistics: ")                                              \
+  X(rsDSConfidenceIntervalM, "Confidence Interval for the Mean: ")                     \
+  X(rsDSConfidenceIntervalV, "Confidence Interval for the Variance: ")                 \
+  X(rsPValue, "P-Value: ")                                                             \
+  X(rsRejectionRegion, "Rejection Region: ")                                           \
+  X(rsRejected, "Null Hypothesis is Rejected!")                                        \
+  X(rsNotRejected, "Null Hypothesis is not-Rejected!")                                 \
+  X(rsRejectReason,                                                                    \
     "There is sufficient Statistical evidence to reject the proposal behind the Null " \
-    "Hypothesis") \
-  X(rsNotRejectReason, \
-    "There is insufficient Statistical evidence to reject the proposal behind the " \
-    "Null Hypothesis") \
-  X(rsDSRegressionLine, "Regression Line:") \
-  X(rsDSSSE, "Sum of Squares Error:") \
-  X(rsDSCoeffDet, "Coefficient of Determination") \
+    "Hypothesis")                                                                      \
+  X(rsNotRejectReason,                                                                 \
+    "There is insufficient Statistical evidence to reject the proposal behind the "    \
+    "Null Hypothesis")                                                                 \
+  X(rsDSRegressionLine, "Regression Line:")                                            \
+  X(rsDSSSE, "Sum of Squares Error:")                                                  \
+  X(rsDSCoeffDet, "Coefficient of Determination")                                      \
   X(rsDSCoeffCor, "Coefficient of Correlation")
 /// @endcond
 
@@ -73,7 +74,7 @@ enum class ReportTextId : std::uint16_t {
 #define QORVEX_IDENTIFIER(id, text) id,
   QORVEX_REPORT_TEXTS(QORVEX_IDENTIFIER)
 #undef QORVEX_IDENTIFIER
-/// @endcond
+  /// @endcond
 };
 
 using enum ReportTextId;
@@ -87,8 +88,8 @@ QORVEX_EXPORT void SetReportText(ReportTextId id, std::string text);
 /// Restores the English text.
 QORVEX_EXPORT void ResetReportText(ReportTextId id);
 
-/// Sets a function that is asked for every text first, such as a translator's; it gives nothing for a text that it does not
-/// know. An empty function removes it.
+/// Sets a function that is asked for every text first, such as a translator's; it gives nothing for
+/// a text that it does not know. An empty function removes it.
 QORVEX_EXPORT void SetReportLookup(std::function<std::optional<std::string>(ReportTextId)> lookup);
 
 }  // namespace qorvex::inline Qorvex_RS_DescStats

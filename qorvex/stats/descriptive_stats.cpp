@@ -23,7 +23,9 @@ constexpr std::size_t kLeastForSkew = 3;
 constexpr std::size_t kLeastForKurtosis = 4;
 
 // NaN sorts last, so the last element tells whether there is one.
-bool HoldsNaN(const TQorFloatVector& sorted) { return !sorted.empty() && std::isnan(sorted[sorted.size() - 1]); }
+bool HoldsNaN(const TQorFloatVector& sorted) {
+  return !sorted.empty() && std::isnan(sorted[sorted.size() - 1]);
+}
 
 // Inserts a value where QSortVector would put it.
 void InsertSorted(TQorFloatVector& sorted, Extended value) {
@@ -37,8 +39,8 @@ void InsertSorted(TQorFloatVector& sorted, Extended value) {
 
 // Removes an element with exactly the bits of the value.
 void EraseSorted(TQorFloatVector& sorted, Extended value) {
-  Extended* const place =
-      std::lower_bound(sorted.begin(), sorted.end(), value, QorvexVector::detail::SortsBefore<Extended>);
+  Extended* const place = std::lower_bound(sorted.begin(), sorted.end(), value,
+                                           QorvexVector::detail::SortsBefore<Extended>);
   std::move(place + 1, sorted.end(), place);
   sorted.SetLength(sorted.size() - 1);
 }
@@ -50,7 +52,9 @@ void DescriptiveStats::SetValues(TQorFloatVector values) {
   UpdateStats();
 }
 
-TQorFloatVector DescriptiveStats::Values() const { return CopyVector(values_); }
+TQorFloatVector DescriptiveStats::Values() const {
+  return CopyVector(values_);
+}
 
 void DescriptiveStats::AddValue(Extended value) {
   values_.Append(value);
@@ -74,7 +78,8 @@ bool DescriptiveStats::DeleteValue(std::int64_t index) {
   std::move(place + 1, values_.end(), place);
   values_.SetLength(values_.size() - 1);
   if (updating_) return true;
-  const bool continues = sorted_.size() == values_.size() + 1 && !HoldsNaN(sorted_) && !values_.empty();
+  const bool continues =
+      sorted_.size() == values_.size() + 1 && !HoldsNaN(sorted_) && !values_.empty();
   if (!continues) {
     UpdateStats();
     return true;

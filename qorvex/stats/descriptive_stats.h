@@ -29,22 +29,26 @@ struct DescriptiveResults {
   Extended maximum = 0;
   /// 0 below three values or when the standard deviation is zero within QorTolerance.
   Extended skew = 0;
-  /// Excess kurtosis; 0 below four values or when the standard deviation is zero within QorTolerance.
+  /// Excess kurtosis; 0 below four values or when the standard deviation is zero within
+  /// QorTolerance.
   Extended kurtosis = 0;
   Extended quartile_1st = 0;
   Extended quartile_3rd = 0;
   Extended inter_quartile_range = 0;
 };
 
-/// A sample of values, in insertion order, whose descriptive statistics are kept current after every change.
+/// A sample of values, in insertion order, whose descriptive statistics are kept current after
+/// every change.
 ///
-/// Every result is, bit for bit, what a fresh computation on the values gives, whether they came at once or one by one.
-/// NaN among the values makes the figures that depend on it NaN; it sorts last, so it is the maximum.
-/// Costs: setting n values O(n log n); adding or deleting one O(n), without a sort unless the sample holds NaN. Memory:
-/// the values and a sorted copy, 32 bytes a value, and 16 more while sorting.
+/// Every result is, bit for bit, what a fresh computation on the values gives, whether they came at
+/// once or one by one. NaN among the values makes the figures that depend on it NaN; it sorts last,
+/// so it is the maximum. Costs: setting n values O(n log n); adding or deleting one O(n), without a
+/// sort unless the sample holds NaN. Memory: the values and a sorted copy, 32 bytes a value, and 16
+/// more while sorting.
 class QORVEX_EXPORT DescriptiveStats {
  public:
-  /// Replaces the sample. The values become the sample's own: they are copied unless the argument was the only handle.
+  /// Replaces the sample. The values become the sample's own: they are copied unless the argument
+  /// was the only handle.
   void SetValues(TQorFloatVector values);
   /// A copy of the values, so that nobody writes into the sample behind its back.
   [[nodiscard]] TQorFloatVector Values() const;
@@ -57,7 +61,8 @@ class QORVEX_EXPORT DescriptiveStats {
   /// Removes all values and ends an update.
   void Clear();
 
-  /// While updating, changes leave the results as they are. The flag does not count: the first EndUpdate ends it.
+  /// While updating, changes leave the results as they are. The flag does not count: the first
+  /// EndUpdate ends it.
   void BeginUpdate() noexcept { updating_ = true; }
   void EndUpdate();
   [[nodiscard]] bool Updating() const noexcept { return updating_; }
@@ -68,8 +73,8 @@ class QORVEX_EXPORT DescriptiveStats {
 
   [[nodiscard]] const DescriptiveResults& Results() const noexcept { return results_; }
 
-  /// The labelled report, a line for each figure: label, tab, value to the given number of decimals. Ends an update first.
-  /// An empty sample gives one line, the message rsVectorIsEmpty.
+  /// The labelled report, a line for each figure: label, tab, value to the given number of
+  /// decimals. Ends an update first. An empty sample gives one line, the message rsVectorIsEmpty.
   [[nodiscard]] std::vector<std::string> Report(int decimals);
 
  private:

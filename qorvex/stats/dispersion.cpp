@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/location.h"
 #include "qorvex/vector/aggregates.h"
@@ -71,8 +72,9 @@ void StoreVariance(const TQorVector<T>& vector, Divisor kind, Extended& variance
 
 template <WideNumericElement T>
 void StoreStdDev(const TQorVector<T>& vector, Divisor kind, Extended& std_dev, Extended& mean) {
-  StoreVariance(vector, kind, std_dev, mean);
-  std_dev = std::sqrt(std_dev);
+  const VarianceAndMean result = SinglePassVariance(vector, kind);
+  std_dev = CheckedSqrt(result.variance);
+  mean = result.mean;
 }
 
 }  // namespace
@@ -127,7 +129,7 @@ Extended MeanDeviation(const TQorFloatVector& vector, Extended mean) noexcept {
 Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean, bool sample) {
   const Extended divisor = CheckedDivisor(vector, sample ? Divisor::kSample : Divisor::kPopulation);
   if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
-  const Extended ln_mean = std::log(mean);
+  const Extended ln_mean = CheckedLn(mean);
   Extended sum = 0;
   for (const Extended x : vector) {
     const Extended difference = std::log(x) - ln_mean;
@@ -141,13 +143,15 @@ Extended GeometricStdDev(const TQorFloatVector& vector, bool sample) {
   return GeometricStdDev(vector, GeometricMean(vector), sample);
 }
 
-void Standardise(TQorFloatVector& vector, Extended mean, Extended std_dev, Extended new_mean, Extended new_std_dev) {
+void Standardise(TQorFloatVector& vector, Extended mean, Extended std_dev, Extended new_mean,
+                 Extended new_std_dev) {
   QorvexVector::detail::RequireElements(vector);
   if (std_dev == 0) RaiseMathError(rsStdDev);
   for (Extended& x : vector) x = ((x - mean) / std_dev) * new_std_dev + new_mean;
 }
 
-void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_dev, bool population) {
+void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_dev,
+                 bool population) {
   Extended std_dev = 0;
   Extended mean = 0;
   if (population) {
@@ -158,14 +162,14 @@ void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_de
   Standardise(vector, mean, std_dev, new_mean, new_std_dev);
 }
 
-#define QORVEX_INSTANTIATE(T)                                                             \
-  template Extended SampleVariance(const TQorVector<T>&);                                 \
-  template Extended PopulationVariance(const TQorVector<T>&);                             \
-  template Extended SampleStdDev(const TQorVector<T>&);                                   \
-  template Extended PopulationStdDev(const TQorVector<T>&);                               \
-  template void SampleVarianceAndMean(const TQorVector<T>&, Extended&, Extended&);        \
-  template void PopulationVarianceAndMean(const TQorVector<T>&, Extended&, Extended&);    \
-  template void SampleStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);          \
+#define QORVEX_INSTANTIATE(T)                                                          \
+  template Extended SampleVariance(const TQorVector<T>&);                              \
+  template Extended PopulationVariance(const TQorVector<T>&);                          \
+  template Extended SampleStdDev(const TQorVector<T>&);                                \
+  template Extended PopulationStdDev(const TQorVector<T>&);                            \
+  template void SampleVarianceAndMean(const TQorVector<T>&, Extended&, Extended&);     \
+  template void PopulationVarianceAndMean(const TQorVector<T>&, Extended&, Extended&); \
+  template void SampleStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);       \
   template void PopulationStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE

@@ -27,7 +27,9 @@ Extended HarmonicMean(const TQorFloatVector& vector) {
   return static_cast<Extended>(vector.size()) / sum;
 }
 
-Extended RootMeanSquare(const TQorFloatVector& vector) { return std::sqrt(SumSqVector(vector)); }
+Extended RootMeanSquare(const TQorFloatVector& vector) {
+  return std::sqrt(SumSqVector(vector));
+}
 
 #define QORVEX_INSTANTIATE(T) template Extended QorMean(const TQorVector<T>&);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)

@@ -50,7 +50,9 @@ Extended GetMedian(const TQorVector<T>& sorted) {
   const std::size_t middle = sorted.size() / 2;
   if (sorted.size() % 2 == 1) return static_cast<Extended>(sorted[middle]);
   if constexpr (std::same_as<T, std::int64_t>) {
-    return static_cast<Extended>(QorvexVector::detail::WrappingAdd(sorted[middle - 1], sorted[middle])) / 2;
+    return static_cast<Extended>(
+               QorvexVector::detail::WrappingAdd(sorted[middle - 1], sorted[middle])) /
+           2;
   } else {
     return (static_cast<Extended>(sorted[middle - 1]) + static_cast<Extended>(sorted[middle])) / 2;
   }

@@ -14,7 +14,9 @@ namespace {
 constexpr std::size_t kLeastForSkew = 3;
 constexpr std::size_t kLeastForKurtosis = 4;
 
-Extended Cube(Extended x) { return x * x * x; }
+Extended Cube(Extended x) {
+  return x * x * x;
+}
 
 Extended FourthPower(Extended x) {
   const Extended square = x * x;
@@ -83,7 +85,8 @@ Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean, Extende
   RequireForKurtosis(vector);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(vector.size());
-  return n * (n + 1) * SumOfFourthPowers(vector, mean) / (FourthPower(std_dev) * (n - 1) * (n - 2) * (n - 3)) -
+  return n * (n + 1) * SumOfFourthPowers(vector, mean) /
+             (FourthPower(std_dev) * (n - 1) * (n - 2) * (n - 3)) -
          3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3));
 }
 

@@ -13,10 +13,11 @@ namespace qorvex::inline QorvexStatistics {
 
 namespace {
 
-// The two trims differ in the largest fraction, which leaves the median, and in how many elements a count cut from the
-// vector takes from each end.
+// The two trims differ in the largest fraction, which leaves the median, and in how many elements a
+// count cut from the vector takes from each end.
 template <WideNumericElement T, class PerTail>
-Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended largest_fraction, PerTail per_tail) {
+Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended largest_fraction,
+                 PerTail per_tail) {
   if (FloatIsZero(fraction)) return QorMean(sorted);
   if (SameFloat(fraction, largest_fraction)) return GetMedian(sorted);
   if (!(fraction >= 0 && fraction <= largest_fraction)) RaiseMathError(rsInvalidValue);
@@ -24,7 +25,8 @@ Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended larges
   const std::size_t count = sorted.size();
   if (count == 1) return static_cast<Extended>(sorted[0]);
 
-  const std::size_t cut = per_tail(static_cast<std::size_t>(static_cast<Extended>(count) * fraction));
+  const std::size_t cut =
+      per_tail(static_cast<std::size_t>(static_cast<Extended>(count) * fraction));
   if (count <= 2 * cut) return 0;
   Extended sum = 0;
   for (std::size_t i = cut; i < count - cut; ++i) sum += static_cast<Extended>(sorted[i]);

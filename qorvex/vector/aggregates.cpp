@@ -12,7 +12,8 @@ namespace {
 constexpr auto kItself = [](auto x) { return x; };
 constexpr auto kSquare = [](Extended x) { return x * x; };
 
-// Adds term(element) in ascending order, starting with the first term itself, so that a lone negative zero stays one.
+// Adds term(element) in ascending order, starting with the first term itself, so that a lone
+// negative zero stays one.
 template <FloatElement T, class Term>
 Extended SumOfTerms(const TQorVector<T>& vector, Term term) {
   Extended sum = term(static_cast<Extended>(vector[0]));
@@ -98,15 +99,15 @@ Extended VectorMagnitude(const TQorVector<T>& vector) {
   return std::sqrt(sum);
 }
 
-#define QORVEX_INSTANTIATE(T)                       \
+#define QORVEX_INSTANTIATE(T)                          \
   template SumOf<T> SumVector(const TQorVector<T>&);   \
   template SumOf<T> SumSqVector(const TQorVector<T>&); \
   template Extended VectorMagnitude(const TQorVector<T>&);
 QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                                                          \
-  template SumOf<T> SumSqDiffVectors(const TQorVector<T>&, const TQorVector<T>&);      \
+#define QORVEX_INSTANTIATE(T)                                                     \
+  template SumOf<T> SumSqDiffVectors(const TQorVector<T>&, const TQorVector<T>&); \
   template Extended detail::SumSqDiffFromExtended(const TQorVector<T>&, Extended);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
@@ -115,7 +116,8 @@ QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T) template std::int64_t detail::SumSqDiffFromInteger(const TQorVector<T>&, T);
+#define QORVEX_INSTANTIATE(T) \
+  template std::int64_t detail::SumSqDiffFromInteger(const TQorVector<T>&, T);
 QORVEX_FOR_WIDE_INTEGER_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -3,9 +3,10 @@
 /// @file
 /// Sums, sums of squares and of squared differences, and the magnitude of vectors.
 ///
-/// Floating elements are summed in extended precision, in ascending order of their index: the order is part of the result.
-/// NaN gives NaN, infinities what the processor makes of them. Integer elements are summed in int64, which wraps around
-/// silently, and their squares are formed in the narrow widths that SumSqVector lists. Nothing is written. O(n).
+/// Floating elements are summed in extended precision, in ascending order of their index: the order
+/// is part of the result. NaN gives NaN, infinities what the processor makes of them. Integer
+/// elements are summed in int64, which wraps around silently, and their squares are formed in the
+/// narrow widths that SumSqVector lists. Nothing is written. O(n).
 
 #include <concepts>
 #include <cstdint>
@@ -16,14 +17,16 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The sum of the elements: extended for floating elements, int64 for integers. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For all numeric elements.
+/// The sum of the elements: extended for floating elements, int64 for integers. An empty vector
+/// raises EMathError with rsVectorIsEmpty. For all numeric elements.
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT SumOf<T> SumVector(const TQorVector<T>& vector);
 
-/// The sum of the squares. An empty vector raises EMathError with rsVectorIsEmpty. For all numeric elements.
+/// The sum of the squares. An empty vector raises EMathError with rsVectorIsEmpty. For all numeric
+/// elements.
 ///
-/// Each integer square keeps only the low bits of its narrow width before it is added to the int64 sum:
+/// Each integer square keeps only the low bits of its narrow width before it is added to the int64
+/// sum:
 ///
 /// | element      | square                                                                     |
 /// |--------------|----------------------------------------------------------------------------|
@@ -38,10 +41,11 @@ template <NumericElement T>
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqVector(const TQorVector<T>& vector);
 
-/// The sum of (element - mean) squared, in extended precision, for a mean of the element type. An empty vector raises
-/// EMathError with rsVectorIsEmpty.
+/// The sum of (element - mean) squared, in extended precision, for a mean of the element type. An
+/// empty vector raises EMathError with rsVectorIsEmpty.
 template <FloatElement T>
-[[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(const TQorVector<T>& vector, std::type_identity_t<T> mean);
+[[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(const TQorVector<T>& vector,
+                                                     std::type_identity_t<T> mean);
 
 /// @cond internal
 namespace detail {
@@ -52,28 +56,31 @@ QORVEX_EXPORT Extended SumSqDiffFromExtended(const TQorVector<T>& vector, Extend
 }  // namespace detail
 /// @endcond
 
-/// The int64 sum of (element - mean) squared for an integral mean, which is converted to the element type. The difference
-/// wraps in the element's width and is squared as SumSqVector squares an element. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For int64, uint32 and int32.
+/// The int64 sum of (element - mean) squared for an integral mean, which is converted to the
+/// element type. The difference wraps in the element's width and is squared as SumSqVector squares
+/// an element. An empty vector raises EMathError with rsVectorIsEmpty. For int64, uint32 and int32.
 template <WideIntegerElement T, std::integral Mean>
 [[nodiscard]] std::int64_t SumSqDiffVector(const TQorVector<T>& vector, Mean mean) {
   return detail::SumSqDiffFromInteger(vector, static_cast<T>(mean));
 }
 
-/// The extended sum of (element - mean) squared for a floating mean. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For int64, uint32 and int32.
+/// The extended sum of (element - mean) squared for a floating mean. An empty vector raises
+/// EMathError with rsVectorIsEmpty. For int64, uint32 and int32.
 template <WideIntegerElement T, std::floating_point Mean>
 [[nodiscard]] Extended SumSqDiffVector(const TQorVector<T>& vector, Mean mean) {
   return detail::SumSqDiffFromExtended(vector, static_cast<Extended>(mean));
 }
 
-/// The sum of (a[i] - b[i]) squared: extended for floating elements; int64 for integers, whose 64-bit difference is squared
-/// in its low 32 bits as a signed product, also for uint32. EMathError: rsSameDimensions for different lengths, then
-/// rsVectorIsEmpty. For the six elements of at least 32 bits.
+/// The sum of (a[i] - b[i]) squared: extended for floating elements; int64 for integers, whose
+/// 64-bit difference is squared in its low 32 bits as a signed product, also for uint32.
+/// EMathError: rsSameDimensions for different lengths, then rsVectorIsEmpty. For the six elements
+/// of at least 32 bits.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqDiffVectors(const TQorVector<T>& a, const TQorVector<T>& b);
+[[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqDiffVectors(const TQorVector<T>& a,
+                                                      const TQorVector<T>& b);
 
-/// The square root of the sum of the squares, all in extended precision; 0 for an empty vector. For all numeric elements.
+/// The square root of the sum of the squares, all in extended precision; 0 for an empty vector. For
+/// all numeric elements.
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended VectorMagnitude(const TQorVector<T>& vector);
 

@@ -90,7 +90,7 @@ Extended AngleBetweenVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   return QorArcCos(static_cast<Extended>(DotProdVectors(a, b)) / (magnitude_a * magnitude_b));
 }
 
-#define QORVEX_INSTANTIATE(T)                                                        \
+#define QORVEX_INSTANTIATE(T)                                                         \
   template TQorVector<T> AddVectors(const TQorVector<T>&, const TQorVector<T>&);      \
   template TQorVector<T> SubtractVectors(const TQorVector<T>&, const TQorVector<T>&); \
   template void AddToVector(TQorVector<T>&, const TQorVector<T>&);                    \
@@ -100,8 +100,8 @@ QORVEX_INSTANTIATE(std::int64_t)
 QORVEX_INSTANTIATE(std::int32_t)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                                                    \
-  template SumOf<T> DotProdVectors(const TQorVector<T>&, const TQorVector<T>&);   \
+#define QORVEX_INSTANTIATE(T)                                                   \
+  template SumOf<T> DotProdVectors(const TQorVector<T>&, const TQorVector<T>&); \
   template Extended AngleBetweenVectors(const TQorVector<T>&, const TQorVector<T>&);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE

@@ -51,9 +51,9 @@ TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
   return result;
 }
 
-#define QORVEX_INSTANTIATE(T)                                               \
-  template void AppendValue2Vector(TQorVector<T>&, T);                      \
-  template void AddValue2Vector(TQorVector<T>&, T, std::int32_t);           \
+#define QORVEX_INSTANTIATE(T)                                     \
+  template void AppendValue2Vector(TQorVector<T>&, T);            \
+  template void AddValue2Vector(TQorVector<T>&, T, std::int32_t); \
   template void DeleteValueFromVector(TQorVector<T>&, std::int32_t);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE

@@ -3,8 +3,9 @@
 /// @file
 /// Growing, shrinking, filling, copying and reversing vectors.
 ///
-/// None of these routines raises: positions out of range are absorbed, and an empty vector is valid everywhere. Running out
-/// of memory leaves the vector unchanged. Values are copied bit for bit, NaN and infinities included.
+/// None of these routines raises: positions out of range are absorbed, and an empty vector is valid
+/// everywhere. Running out of memory leaves the vector unchanged. Values are copied bit for bit,
+/// NaN and infinities included.
 
 #include <cstdint>
 #include <type_traits>
@@ -14,22 +15,25 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// Appends a value; the vector's buffer becomes private. For the six elements of at least 32 bits. Amortised O(1).
+/// Appends a value; the vector's buffer becomes private. For the six elements of at least 32 bits.
+/// Amortised O(1).
 template <WideNumericElement T>
 QORVEX_EXPORT void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value);
 
-/// Inserts a value before the position; a position that no element has appends instead. The buffer becomes private.
-/// For the six elements of at least 32 bits. O(n).
+/// Inserts a value before the position; a position that no element has appends instead. The buffer
+/// becomes private. For the six elements of at least 32 bits. O(n).
 template <WideNumericElement T>
-QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value, std::int32_t position);
+QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value,
+                                   std::int32_t position);
 
-/// Deletes the element at the position; nothing happens when there is none. Deleting the only element leaves the vector
-/// empty. While the elements move down, other handles of the same buffer see the move. For the six elements of at least
-/// 32 bits. O(n).
+/// Deletes the element at the position; nothing happens when there is none. Deleting the only
+/// element leaves the vector empty. While the elements move down, other handles of the same buffer
+/// see the move. For the six elements of at least 32 bits. O(n).
 template <WideNumericElement T>
 QORVEX_EXPORT void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position);
 
-/// Gives every element the value, seen through every handle of the buffer. For all numeric elements. O(n).
+/// Gives every element the value, seen through every handle of the buffer. For all numeric
+/// elements. O(n).
 template <NumericElement T>
 QORVEX_EXPORT void FillVector(TQorVector<T>& vector, std::type_identity_t<T> value);
 

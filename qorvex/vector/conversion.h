@@ -3,9 +3,9 @@
 /// @file
 /// Widening conversions of arrays and vectors.
 ///
-/// Every conversion is exact: to Extended from any element, to int64 from any integer, to int32 from int32 and the 8- and
-/// 16-bit integers. Conversions that could round, truncate or overflow do not exist. An empty source gives an empty result;
-/// nothing raises; NaN and infinities stay. O(n).
+/// Every conversion is exact: to Extended from any element, to int64 from any integer, to int32
+/// from int32 and the 8- and 16-bit integers. Conversions that could round, truncate or overflow do
+/// not exist. An empty source gives an empty result; nothing raises; NaN and infinities stay. O(n).
 
 #include <concepts>
 #include <ranges>
@@ -38,21 +38,21 @@ QORVEX_EXPORT TQorVector<To> Widened(std::span<const From> values);
 
 /// An array's values as a float vector.
 template <detail::OpenArray Range>
-  requires detail::WidensToFloat<std::ranges::range_value_t<Range>>
+requires detail::WidensToFloat<std::ranges::range_value_t<Range>>
 [[nodiscard]] TQorFloatVector Array2FloatVector(const Range& values) {
   return detail::Widened<Extended>(std::span<const std::ranges::range_value_t<Range>>(values));
 }
 
 /// An array's values as an int64 vector.
 template <detail::OpenArray Range>
-  requires detail::WidensToInt64<std::ranges::range_value_t<Range>>
+requires detail::WidensToInt64<std::ranges::range_value_t<Range>>
 [[nodiscard]] TQorInt64Vector Array2Int64Vector(const Range& values) {
   return detail::Widened<std::int64_t>(std::span<const std::ranges::range_value_t<Range>>(values));
 }
 
 /// An array's values as an int32 vector.
 template <detail::OpenArray Range>
-  requires detail::WidensToLInt<std::ranges::range_value_t<Range>>
+requires detail::WidensToLInt<std::ranges::range_value_t<Range>>
 [[nodiscard]] TQorLIntVector Array2LIntVector(const Range& values) {
   return detail::Widened<std::int32_t>(std::span<const std::ranges::range_value_t<Range>>(values));
 }

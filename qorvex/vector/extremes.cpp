@@ -55,10 +55,11 @@ void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value, std::
   max_unique = largest_once;
 }
 
-#define QORVEX_INSTANTIATE(T)                                                                        \
-  template T MinVector(const TQorVector<T>&);                                                        \
-  template T MaxVector(const TQorVector<T>&);                                                        \
-  template void MinMaxVector(const TQorVector<T>&, T&, T&, std::uint32_t&, std::uint32_t&, bool&, bool&);
+#define QORVEX_INSTANTIATE(T)                                                                     \
+  template T MinVector(const TQorVector<T>&);                                                     \
+  template T MaxVector(const TQorVector<T>&);                                                     \
+  template void MinMaxVector(const TQorVector<T>&, T&, T&, std::uint32_t&, std::uint32_t&, bool&, \
+                             bool&);
 QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

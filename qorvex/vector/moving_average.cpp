@@ -8,7 +8,8 @@
 namespace qorvex::inline QorvexVector {
 
 template <FloatElement T>
-TQorVector<T> MovingAverage(const TQorVector<T>& vector, std::uint32_t period, std::uint32_t offset) {
+TQorVector<T> MovingAverage(const TQorVector<T>& vector, std::uint32_t period,
+                            std::uint32_t offset) {
   detail::RequireElements(vector);
   if (period == 0) RaiseMathError(rsValueNotZero);
   auto result = TQorVector<T>::WithLength(vector.size());
@@ -18,7 +19,8 @@ TQorVector<T> MovingAverage(const TQorVector<T>& vector, std::uint32_t period, s
   const std::size_t windows = vector.size() - period + 1;
   T* const averages = result.data() + std::min(offset, period - 1);
   std::size_t start = 0;
-  // Four windows at a time keep four independent additions in flight; each is summed in its own order all the same.
+  // Four windows at a time keep four independent additions in flight; each is summed in its own
+  // order all the same.
   for (; start + 4 <= windows; start += 4) {
     const T* const window = vector.data() + start;
     Extended sum0 = 0;

@@ -28,12 +28,14 @@ bool Before(T x, T y, bool ascending) {
   return ascending ? x < y : x > y;
 }
 
-// The first position in sorted order of an element that equals the value, found by counting what sorts before it.
+// The first position in sorted order of an element that equals the value, found by counting what
+// sorts before it.
 template <NumericElement T>
 std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending) {
   const T* first_equal = nullptr;
   for (const T& x : vector) {
-    if (Equal(x, value) && (first_equal == nullptr || Before(x, *first_equal, ascending))) first_equal = &x;
+    if (Equal(x, value) && (first_equal == nullptr || Before(x, *first_equal, ascending)))
+      first_equal = &x;
   }
   if (first_equal == nullptr) return kNoRank;
   const T first = *first_equal;
@@ -41,12 +43,12 @@ std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending
       std::ranges::count_if(vector, [=](T x) { return Before(x, first, ascending); }));
 }
 
-// The first position of an element that equals one of the elements. Equal elements lie together in the sorted vector, so
-// those before the value's own place are a suffix of what sorts before it.
+// The first position of an element that equals one of the elements. Equal elements lie together in
+// the sorted vector, so those before the value's own place are a suffix of what sorts before it.
 template <NumericElement T>
 std::int32_t RankOfElement(const TQorVector<T>& sorted, T value, bool ascending) {
-  const T* const place =
-      std::partition_point(sorted.begin(), sorted.end(), [=](T x) { return Before(x, value, ascending); });
+  const T* const place = std::partition_point(sorted.begin(), sorted.end(),
+                                              [=](T x) { return Before(x, value, ascending); });
   if constexpr (FloatElement<T>) {
     const T* const first =
         std::partition_point(sorted.begin(), place, [=](T x) { return !Equal(x, value); });
@@ -81,13 +83,14 @@ std::int32_t Vector2Rank(const TQorVector<T>& vector, std::uint32_t index, bool 
 }
 
 template <NumericElement T>
-std::int32_t Vector2RankValue(const TQorVector<T>& vector, std::type_identity_t<T> value, bool ascending) {
+std::int32_t Vector2RankValue(const TQorVector<T>& vector, std::type_identity_t<T> value,
+                              bool ascending) {
   return RankByCounting(vector, value, ascending);
 }
 
-#define QORVEX_INSTANTIATE(T)                                                            \
-  template TQorLIntVector Vector2RankVector(const TQorVector<T>&, bool);                 \
-  template std::int32_t Vector2Rank(const TQorVector<T>&, std::uint32_t, bool);          \
+#define QORVEX_INSTANTIATE(T)                                                   \
+  template TQorLIntVector Vector2RankVector(const TQorVector<T>&, bool);        \
+  template std::int32_t Vector2Rank(const TQorVector<T>&, std::uint32_t, bool); \
   template std::int32_t Vector2RankValue(const TQorVector<T>&, T, bool);
 QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE

@@ -3,10 +3,11 @@
 /// @file
 /// Zero-based ranks of elements and values.
 ///
-/// The rank of a value is the first position in the sorted vector whose element equals it, so ties share the lowest rank:
-/// (10, 20, 20, 30) ascending has the ranks (0, 1, 1, 3). Integers are compared exactly, floating elements with SameFloat in
-/// their own precision. NaN sorts last and equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all
-/// numeric elements; nothing raises for any input.
+/// The rank of a value is the first position in the sorted vector whose element equals it, so ties
+/// share the lowest rank: (10, 20, 20, 30) ascending has the ranks (0, 1, 1, 3). Integers are
+/// compared exactly, floating elements with SameFloat in their own precision. NaN sorts last and
+/// equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all numeric elements;
+/// nothing raises for any input.
 
 #include <cstdint>
 #include <type_traits>
@@ -16,18 +17,23 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The rank of every element; 0 for NaN. Empty for an empty vector. O(n log n), on a sorted copy; O(n^2) once QorTolerance is
-/// 0.5 or more, where the elements that equal a value need not lie together.
+/// The rank of every element; 0 for NaN. Empty for an empty vector. O(n log n), on a sorted copy;
+/// O(n^2) once QorTolerance is 0.5 or more, where the elements that equal a value need not lie
+/// together.
 template <NumericElement T>
-[[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(const TQorVector<T>& vector, bool ascending);
+[[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(const TQorVector<T>& vector,
+                                                             bool ascending);
 
-/// The rank of the element at the index; -1 when there is no such element or it is NaN. O(n), without a copy.
+/// The rank of the element at the index; -1 when there is no such element or it is NaN. O(n),
+/// without a copy.
 template <NumericElement T>
-[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2Rank(const TQorVector<T>& vector, std::uint32_t index, bool ascending);
+[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2Rank(const TQorVector<T>& vector,
+                                                     std::uint32_t index, bool ascending);
 
 /// The rank of a value; -1 when no element equals it. O(n), without a copy.
 template <NumericElement T>
-[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(const TQorVector<T>& vector, std::type_identity_t<T> value,
+[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(const TQorVector<T>& vector,
+                                                          std::type_identity_t<T> value,
                                                           bool ascending);
 
 }  // namespace qorvex::inline QorvexVector

@@ -57,10 +57,10 @@ bool VectorNonNegative(const TQorVector<T>& vector) {
   return std::ranges::none_of(vector, Sign<T>::IsNegative);
 }
 
-#define QORVEX_INSTANTIATE(T)                           \
-  template bool VectorZero(const TQorVector<T>&);       \
-  template bool VectorNonZero(const TQorVector<T>&);    \
-  template bool VectorPositive(const TQorVector<T>&);   \
+#define QORVEX_INSTANTIATE(T)                         \
+  template bool VectorZero(const TQorVector<T>&);     \
+  template bool VectorNonZero(const TQorVector<T>&);  \
+  template bool VectorPositive(const TQorVector<T>&); \
   template bool VectorNonNegative(const TQorVector<T>&);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 QORVEX_INSTANTIATE(std::int64_t)

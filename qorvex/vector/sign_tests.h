@@ -3,9 +3,10 @@
 /// @file
 /// Tests of the signs of all elements.
 ///
-/// Each scans in ascending order and stops at the first element that decides. Floating elements are judged within
-/// QorTolerance; int64 elements exactly. An empty vector raises EMathError with rsVectorIsEmpty. A NaN element counts as not
-/// zero, not positive and not negative. For Float, Double, Single and Int64 vectors. O(n).
+/// Each scans in ascending order and stops at the first element that decides. Floating elements are
+/// judged within QorTolerance; int64 elements exactly. An empty vector raises EMathError with
+/// rsVectorIsEmpty. A NaN element counts as not zero, not positive and not negative. For Float,
+/// Double, Single and Int64 vectors. O(n).
 
 #include <concepts>
 #include <cstdint>
@@ -23,7 +24,8 @@ concept SignTestElement = FloatElement<T> || std::same_as<T, std::int64_t>;
 template <SignTestElement T>
 [[nodiscard]] QORVEX_EXPORT bool VectorZero(const TQorVector<T>& vector);
 
-/// No element is zero. Elements of a Single vector are compared with zero exactly, so a tiny single counts as non-zero.
+/// No element is zero. Elements of a Single vector are compared with zero exactly, so a tiny single
+/// counts as non-zero.
 template <SignTestElement T>
 [[nodiscard]] QORVEX_EXPORT bool VectorNonZero(const TQorVector<T>& vector);
 

@@ -60,8 +60,9 @@ void Log2Vector(TQorVector<T>& vector) {
 }
 
 template <class T>
-  requires FloatElement<T> || std::same_as<T, std::int64_t>
-void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope, std::type_identity_t<T> intercept) {
+requires FloatElement<T> || std::same_as<T, std::int64_t>
+void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope,
+                           std::type_identity_t<T> intercept) {
   detail::RequireElements(vector);
   if constexpr (FloatElement<T>) {
     const Extended wide_slope = slope;
@@ -78,12 +79,12 @@ void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func)
   for (T& x : vector) x = func(x);
 }
 
-#define QORVEX_INSTANTIATE(T)                   \
-  template void SqrtVector(TQorVector<T>&);     \
-  template void InvVector(TQorVector<T>&);      \
-  template void LnVector(TQorVector<T>&);       \
-  template void Log10Vector(TQorVector<T>&);    \
-  template void Log2Vector(TQorVector<T>&);     \
+#define QORVEX_INSTANTIATE(T)                \
+  template void SqrtVector(TQorVector<T>&);  \
+  template void InvVector(TQorVector<T>&);   \
+  template void LnVector(TQorVector<T>&);    \
+  template void Log10Vector(TQorVector<T>&); \
+  template void Log2Vector(TQorVector<T>&);  \
   template void TransformVector(TQorVector<T>&, T (*)(T));
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE

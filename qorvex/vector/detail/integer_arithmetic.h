@@ -1,7 +1,7 @@
 #pragma once
 
-// Integer sums, squares and products with the widths that the vector routines promise. All arithmetic is unsigned, so
-// wrapping around is defined; the signed result takes the low bits.
+// Integer sums, squares and products with the widths that the vector routines promise. All
+// arithmetic is unsigned, so wrapping around is defined; the signed result takes the low bits.
 
 #include <concepts>
 #include <cstdint>
@@ -23,7 +23,8 @@ constexpr T WrappingSubtract(T x, T y) noexcept {
   return static_cast<T>(static_cast<Unsigned>(static_cast<Unsigned>(x) - static_cast<Unsigned>(y)));
 }
 
-// For elements of at least 32 bits: narrower unsigned operands would promote to int and overflow it.
+// For elements of at least 32 bits: narrower unsigned operands would promote to int and overflow
+// it.
 template <WideIntegerElement T>
 constexpr T WrappingMultiply(T x, T y) noexcept {
   using Unsigned = std::make_unsigned_t<T>;
@@ -48,7 +49,8 @@ struct SquareWidth<std::int8_t> {
   using Type = std::int16_t;
 };
 
-// The square of x in its narrow width: an int64 squares its low 32 bits only, and a byte 255 gives -511.
+// The square of x in its narrow width: an int64 squares its low 32 bits only, and a byte 255 gives
+// -511.
 template <IntegerElement T>
 constexpr std::int64_t NarrowSquare(T x) noexcept {
   const auto low_bits = static_cast<std::uint32_t>(x);
@@ -59,7 +61,9 @@ constexpr std::int64_t NarrowSquare(T x) noexcept {
 class Int64Sum {
  public:
   constexpr void Add(std::int64_t value) noexcept { bits_ += static_cast<std::uint64_t>(value); }
-  [[nodiscard]] constexpr std::int64_t Value() const noexcept { return static_cast<std::int64_t>(bits_); }
+  [[nodiscard]] constexpr std::int64_t Value() const noexcept {
+    return static_cast<std::int64_t>(bits_);
+  }
 
  private:
   std::uint64_t bits_ = 0;

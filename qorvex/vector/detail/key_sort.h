@@ -20,9 +20,9 @@ void InsertionSort(Key* first, Key* last) {
   }
 }
 
-// Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978, "Implementing quicksort
-// programs"). The smaller side is sorted first and the larger one deferred, so the stack never holds more than
-// log2(n) entries.
+// Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978,
+// "Implementing quicksort programs"). The smaller side is sorted first and the larger one deferred,
+// so the stack never holds more than log2(n) entries.
 template <class Key>
 void QuickSort(Key* first, Key* last) {
   constexpr std::ptrdiff_t insertion_limit = 24;
@@ -62,16 +62,17 @@ int BitWidth(Key key) {
 // Below this length the counters of a radix pass cost more than they save.
 constexpr std::size_t kShortestRadixSort = 400;
 
-// Least-significant-digit radix sort of the highest bits in which the keys differ, as many as tell most keys apart;
-// quicksort then orders the runs of keys that agree in those bits. scratch holds as many keys as the input.
+// Least-significant-digit radix sort of the highest bits in which the keys differ, as many as tell
+// most keys apart; quicksort then orders the runs of keys that agree in those bits. scratch holds
+// as many keys as the input.
 template <class Key>
 void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   constexpr int widest_digit = 11;
   Key varying = 0;
   for (std::size_t i = 1; i < count; ++i) varying |= keys[i] ^ keys[0];
   const int width = BitWidth(varying);
-  // Half as many bits again as the count needs leaves few equal runs; signs and exponents of floating keys take some 14
-  // more that hardly tell keys apart.
+  // Half as many bits again as the count needs leaves few equal runs; signs and exponents of
+  // floating keys take some 14 more that hardly tell keys apart.
   const int sorted_bits = std::min(width, 3 * BitWidth(count) / 2 + 14);
   if (sorted_bits == 0) return;
   const int passes = (sorted_bits + widest_digit - 1) / widest_digit;

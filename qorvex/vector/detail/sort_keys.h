@@ -1,7 +1,7 @@
 #pragma once
 
-// Unsigned keys in the order of the elements. Sorting keys instead of elements makes floating comparisons integer ones
-// and lets a radix sort read the bits.
+// Unsigned keys in the order of the elements. Sorting keys instead of elements makes floating
+// comparisons integer ones and lets a radix sort read the bits.
 
 #include <concepts>
 #include <cstdint>
@@ -21,13 +21,17 @@ struct SortKey;
 template <std::integral T>
 struct SortKey<T> {
   using Key = std::make_unsigned_t<T>;
-  static constexpr Key kFlip = std::signed_integral<T> ? static_cast<Key>(Key{1} << (8 * sizeof(T) - 1)) : Key{0};
+  static constexpr Key kFlip =
+      std::signed_integral<T> ? static_cast<Key>(Key{1} << (8 * sizeof(T) - 1)) : Key{0};
 
-  static Key Read(const T* element) noexcept { return static_cast<Key>(static_cast<Key>(*element) ^ kFlip); }
+  static Key Read(const T* element) noexcept {
+    return static_cast<Key>(static_cast<Key>(*element) ^ kFlip);
+  }
   static T Value(Key key) noexcept { return static_cast<T>(static_cast<Key>(key ^ kFlip)); }
 };
 
-// IEEE formats are sign and magnitude: negative values flip all bits, others the sign bit. -0 comes before +0.
+// IEEE formats are sign and magnitude: negative values flip all bits, others the sign bit. -0 comes
+// before +0.
 template <class T, class Bits>
 struct IeeeSortKey {
   using Key = Bits;
@@ -50,7 +54,8 @@ struct SortKey<float> : IeeeSortKey<float, std::uint32_t> {};
 template <>
 struct SortKey<double> : IeeeSortKey<double, std::uint64_t> {};
 
-// The extended format has its sign and exponent above an explicit 64-bit mantissa; six bytes of the object are padding.
+// The extended format has its sign and exponent above an explicit 64-bit mantissa; six bytes of the
+// object are padding.
 template <>
 struct SortKey<Extended> {
   using Key = UInt128;
@@ -63,7 +68,8 @@ struct SortKey<Extended> {
     std::memcpy(&sign_and_exponent, bytes + sizeof mantissa, sizeof sign_and_exponent);
     const bool negative = (sign_and_exponent & kSign) != 0;
     const std::uint64_t low = negative ? ~mantissa : mantissa;
-    const auto high = static_cast<std::uint16_t>(negative ? ~sign_and_exponent : sign_and_exponent | kSign);
+    const auto high =
+        static_cast<std::uint16_t>(negative ? ~sign_and_exponent : sign_and_exponent | kSign);
     return static_cast<Key>(high) << 64 | low;
   }
   static Extended Value(Key key) noexcept {

@@ -1,0 +1,103 @@
+#include "qorvex/base/currency.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+#include "qorvex/base/rounding.h"
+#include "qorvex/base/swap.h"
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex {
+namespace {
+
+constexpr std::int64_t kSmallest64 = std::numeric_limits<std::int64_t>::min();
+constexpr std::int64_t kLargest64 = std::numeric_limits<std::int64_t>::max();
+constexpr std::int32_t kSmallest32 = std::numeric_limits<std::int32_t>::min();
+
+TEST(Currency, TypesAreDistinctAndConstructedExplicitly) {
+  static_assert(!std::is_convertible_v<std::int64_t, Currency>);
+  static_assert(!std::is_same_v<TQorCurrencyVector, TQorLongCurrVector>);
+  static_assert(sizeof(QorCurrency) == 4 && sizeof(Currency) == 8 && sizeof(QorLongCurrency) == 8);
+  EXPECT_LT(Currency(1), Currency(2));
+  EXPECT_TRUE(SameCurrency(Currency(5), Currency(5)));
+  EXPECT_FALSE(SameCurrency(Currency(5), Currency(6)));
+}
+
+TEST(Currency, ConvertsOneUnitBetweenAllScales) {
+  EXPECT_EQ(QorCurrency2Currency(QorCurrency(100)), Currency(10'000));
+  EXPECT_EQ(QorCurrency2QorLongCurrency(QorCurrency(100)), QorLongCurrency(1'000'000));
+  EXPECT_EQ(Currency2QorCurrency(Currency(10'000)), QorCurrency(100));
+  EXPECT_EQ(Currency2QorLongCurrency(Currency(10'000)), QorLongCurrency(1'000'000));
+  EXPECT_EQ(QorLongCurrency2Currency(QorLongCurrency(1'000'000)), Currency(10'000));
+  EXPECT_EQ(QorLongCurrency2QorCurrency(QorLongCurrency(1'000'000)), QorCurrency(100));
+  EXPECT_EQ(Currency2Float(Currency(12'345)), 1.2345L);
+  EXPECT_EQ(Currency2Float(QorCurrency(-150)), -1.5L);
+  EXPECT_EQ(Currency2Float(QorLongCurrency(1)), 1e-6L);
+  EXPECT_EQ(Float2Currency(1.23456L), Currency(12'346));
+  EXPECT_EQ(Float2QorCurrency(-2.5L), QorCurrency(-250));
+  EXPECT_EQ(Float2QorLongCurrency(0.0000015L), QorLongCurrency(2));
+}
+
+TEST(Currency, RoundsTiesToEvenAndMarksOverflowWithTheSmallestAmount) {
+  for (const auto& [stored, cents] : {std::pair{50, 0},
+                                      {150, 2},
+                                      {250, 2},
+                                      {-50, 0},
+                                      {-150, -2},
+                                      {-250, -2},
+                                      {151, 2},
+                                      {149, 1}}) {
+    EXPECT_EQ(Currency2QorCurrency(Currency(stored)), QorCurrency(cents)) << stored;
+  }
+  EXPECT_EQ(Float2QorCurrency(0.125L), QorCurrency(12));
+  EXPECT_EQ(Float2QorCurrency(0.375L), QorCurrency(38));
+
+  EXPECT_EQ(Currency2QorCurrency(Currency(kLargest64)), QorCurrency(kSmallest32));
+  EXPECT_EQ(Currency2QorLongCurrency(Currency(kLargest64)), QorLongCurrency(kSmallest64));
+  EXPECT_EQ(QorLongCurrency2QorCurrency(QorLongCurrency(kLargest64)), QorCurrency(kSmallest32));
+  EXPECT_EQ(Float2Currency(1e16L), Currency(kSmallest64));
+  EXPECT_EQ(Float2QorCurrency(std::numeric_limits<Extended>::quiet_NaN()),
+            QorCurrency(kSmallest32));
+  EXPECT_EQ(Float2QorLongCurrency(-std::numeric_limits<Extended>::infinity()),
+            QorLongCurrency(kSmallest64));
+}
+
+TEST(Currency, WideningAndBackIsExact) {
+  std::mt19937_64 engine(11);
+  for (int i = 0; i < 10'000; ++i) {
+    const QorCurrency amount(static_cast<std::int32_t>(engine()));
+    ASSERT_EQ(Currency2QorCurrency(QorCurrency2Currency(amount)), amount);
+    ASSERT_EQ(QorLongCurrency2QorCurrency(QorCurrency2QorLongCurrency(amount)), amount);
+    ASSERT_EQ(Float2QorCurrency(Currency2Float(amount)), amount);
+  }
+}
+
+TEST(RoundToInteger, RoundsTiesToEvenAndMarksWhatDoesNotFit) {
+  EXPECT_EQ(RoundToInteger<std::int32_t>(2.5L), 2);
+  EXPECT_EQ(RoundToInteger<std::int32_t>(-3.5L), -4);
+  EXPECT_EQ(RoundToInteger<std::int32_t>(2147483647.4L), 2147483647);
+  EXPECT_EQ(RoundToInteger<std::int32_t>(2147483647.5L), kSmallest32);
+  EXPECT_EQ(RoundToInteger<std::int64_t>(9223372036854775807.0L), kLargest64);
+  EXPECT_EQ(RoundToInteger<std::int64_t>(9223372036854775808.0L), kSmallest64);
+  EXPECT_EQ(RoundToInteger<std::uint32_t>(-0.5L), 0U);
+  EXPECT_EQ(RoundToInteger<std::uint32_t>(-1.0L), 0U);
+  EXPECT_EQ(RoundToInteger<std::uint32_t>(4294967295.0L), 4294967295U);
+}
+
+TEST(SwapXY, ExchangesBitsOfEveryElementType) {
+  Extended x = -0.0L;
+  Extended y = std::numeric_limits<Extended>::infinity();
+  SwapXY(x, y);
+  EXPECT_EQ(x, std::numeric_limits<Extended>::infinity());
+  EXPECT_TRUE(std::signbit(y));
+  Currency a(1);
+  Currency b(2);
+  SwapXY(a, b);
+  SwapXY(a, a);
+  EXPECT_EQ(a, Currency(2));
+}
+
+}  // namespace
+}  // namespace qorvex

@@ -1,0 +1,125 @@
+#include "qorvex/base/dyn_array.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <new>
+#include <thread>
+#include <vector>
+
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex {
+namespace {
+
+TEST(DynArray, HandlesShareTheBufferUntilTheLengthChanges) {
+  TQorFloatVector a{1, 2, 3};
+  TQorFloatVector b = a;
+  b[0] = 10;
+  EXPECT_EQ(a[0], 10);
+  EXPECT_TRUE(a.SharesBufferWith(b));
+
+  b.SetLength(5);
+  EXPECT_EQ(b, (TQorFloatVector{10, 2, 3, 0, 0}));
+  EXPECT_EQ(a, (TQorFloatVector{10, 2, 3}));
+  b[1] = 7;
+  EXPECT_EQ(a[1], 2);
+  EXPECT_FALSE(a.IsShared());
+}
+
+TEST(DynArray, SettingTheSameLengthAlsoMakesASharedBufferPrivate) {
+  TQorLIntVector a{1, 2};
+  TQorLIntVector b = a;
+  b.SetLength(2);
+  b[0] = 9;
+  EXPECT_EQ(a[0], 1);
+}
+
+TEST(DynArray, ShrinkingAndGrowingAgainGivesZeros) {
+  TQorSingleVector v{1, 2, 3, 4};
+  v.SetLength(1);
+  v.SetLength(4);
+  EXPECT_EQ(v, (TQorSingleVector{1, 0, 0, 0}));
+  v.SetLength(0);
+  EXPECT_TRUE(v.empty());
+  EXPECT_EQ(v.High(), -1);
+  EXPECT_EQ(v.begin(), v.end());
+}
+
+TEST(DynArray, MovedFromHandlesAreEmptyAndSelfAssignmentKeepsTheValue) {
+  TQorFloatVector a{1, 2};
+  TQorFloatVector b = std::move(a);
+  EXPECT_TRUE(a.empty());  // NOLINT(bugprone-use-after-move): a moved-from handle is specified
+  TQorFloatVector& same = b;
+  b = same;
+  b = std::move(same);
+  EXPECT_EQ(b, (TQorFloatVector{1, 2}));
+}
+
+TEST(DynArray, RowsOfAMatrixAreHandles) {
+  TQorFloatMatrix m{{1, 2}, {3}};
+  TQorFloatVector row = m[0];
+  row[1] = 20;
+  EXPECT_EQ(m[0][1], 20);
+
+  TQorFloatMatrix copy = m;
+  copy.SetLength(3);
+  EXPECT_TRUE(copy[0].SharesBufferWith(m[0])) << "a longer matrix copies row handles, not rows";
+  EXPECT_TRUE(copy[2].empty());
+  m[1] = m[0];
+  EXPECT_TRUE(m[0].IsShared());
+}
+
+TEST(DynArray, ConvertsFromAndToRanges) {
+  const std::array<double, 3> source{0.5, 1.5, 2.5};
+  const TQorFloatVector v(source);
+  EXPECT_EQ(v, (TQorFloatVector{0.5L, 1.5L, 2.5L}));
+  const std::span<const Extended> view = v;
+  EXPECT_EQ(view.data(), v.data());
+  EXPECT_EQ(TQorFloatVector(view.subspan(1)), (TQorFloatVector{1.5L, 2.5L}));
+  EXPECT_EQ(std::vector<Extended>(v.begin(), v.end()).size(), 3U);
+  static_assert(std::ranges::contiguous_range<TQorFloatVector>);
+}
+
+TEST(DynArray, CheckedAccessAndImpossibleLengthsThrowAndChangeNothing) {
+  TQorFloatVector v{1, 2};
+  EXPECT_THROW(static_cast<void>(v.at(2)), std::out_of_range);
+  EXPECT_THROW(v.SetLength(static_cast<std::size_t>(-1)), std::bad_alloc);
+  EXPECT_THROW(v.SetLength(static_cast<std::size_t>(-1) / sizeof(Extended)), std::bad_alloc);
+  EXPECT_EQ(v, (TQorFloatVector{1, 2}));
+}
+
+TEST(DynArray, AppendingIsAmortised) {
+  TQorByteVector v;
+  std::size_t moves = 0;
+  const std::uint8_t* buffer = nullptr;
+  for (int i = 0; i < 100'000; ++i) {
+    v.Append(static_cast<std::uint8_t>(i));
+    if (v.data() != buffer) ++moves;
+    buffer = v.data();
+  }
+  EXPECT_LT(moves, 40U);
+  EXPECT_EQ(v[99'999], static_cast<std::uint8_t>(99'999));
+}
+
+TEST(DynArray, HandlesMayBeCopiedAndDroppedOnAnyThread) {
+  const TQorFloatMatrix shared{{1, 2}, {3, 4}};
+  {
+    std::vector<std::jthread> threads;
+    for (int t = 0; t < 4; ++t) {
+      threads.emplace_back([&shared] {
+        for (int i = 0; i < 2000; ++i) {
+          TQorFloatMatrix mine = shared;
+          TQorFloatVector row = mine[1];
+          mine.SetLength(1);
+          row.SetLength(3);
+          ASSERT_EQ(row[1], 4);
+        }
+      });
+    }
+  }
+  EXPECT_FALSE(shared.IsShared());
+  EXPECT_FALSE(shared[1].IsShared());
+}
+
+}  // namespace
+}  // namespace qorvex

@@ -1,0 +1,108 @@
+#include "qorvex/base/errors.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <set>
+#include <thread>
+
+#include "qorvex/base/checked_math.h"
+#include "support/expect_error.h"
+
+namespace qorvex {
+namespace {
+
+constexpr MessageId kAllMessages[] = {
+#define QORVEX_ID(id, text) id,
+    QORVEX_MATH_MESSAGES(QORVEX_ID)
+#undef QORVEX_ID
+};
+
+class Messages : public ::testing::Test {
+ protected:
+  ~Messages() override {
+    SetMessageLookup(nullptr);
+    ResetMessageText(rsVectorIsEmpty);
+  }
+};
+
+TEST_F(Messages, EveryIdentifierHasATextOfItsOwn) {
+  std::set<std::string> texts;
+  for (const MessageId id : kAllMessages) {
+    EXPECT_FALSE(MessageText(id).empty());
+    texts.insert(MessageText(id));
+  }
+  EXPECT_EQ(texts.size(), std::size(kAllMessages));
+}
+
+TEST_F(Messages, TextIsLookedUpAtTheRaise) {
+  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "The vector is empty");
+  SetMessageText(rsVectorIsEmpty, "Der Vektor ist leer");
+  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "Der Vektor ist leer");
+
+  SetMessageLookup([](MessageId id) -> std::optional<std::string> {
+    if (id == rsVectorIsEmpty)
+      return "looked up, instead of " + std::to_string(MessageText(rsNA).size());
+    return std::nullopt;
+  });
+  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "looked up, instead of 13");
+  EXPECT_STREQ(EMathError(rsNA).what(), "Not available");
+  SetMessageLookup(nullptr);
+  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "Der Vektor ist leer");
+  ResetMessageText(rsVectorIsEmpty);
+  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "The vector is empty");
+}
+
+TEST_F(Messages, MayBeReplacedWhileOtherThreadsRaise) {
+  std::jthread writer([](const std::stop_token& stop) {
+    while (!stop.stop_requested()) {
+      SetMessageText(rsVectorIsEmpty, "a");
+      SetMessageLookup([](MessageId) { return std::optional<std::string>("b"); });
+      SetMessageLookup(nullptr);
+    }
+  });
+  for (int i = 0; i < 5000; ++i) {
+    const std::string text = EMathError(rsVectorIsEmpty).what();
+    ASSERT_TRUE(text == "a" || text == "b" || text == "The vector is empty") << text;
+  }
+}
+
+TEST(Errors, FormTheHierarchy) {
+  EXPECT_THROW(throw EZeroDivide(), EMathError);
+  EXPECT_THROW(throw EInvalidOp(), EMathError);
+  EXPECT_THROW(throw EOverflow(), Exception);
+  EXPECT_THROW(throw EConvertError(rsNotANumber, "x"), Exception);
+  static_assert(!std::derived_from<EConvertError, EMathError>);
+}
+
+TEST(CheckedMath, RaisesTheRuntimeErrors) {
+  const Extended infinity = std::numeric_limits<Extended>::infinity();
+  const Extended nan = std::numeric_limits<Extended>::quiet_NaN();
+  const Extended huge = std::numeric_limits<Extended>::max();
+
+  EXPECT_ERROR(CheckedDivide(1, 0), EZeroDivide, rsZeroDivide);
+  EXPECT_ERROR(CheckedDivide(0, 0), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(CheckedDivide(infinity, infinity), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(CheckedDivide(huge, 0.5L), EOverflow, rsOverflow);
+  EXPECT_ERROR(CheckedSqrt(-1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(CheckedLn(0), EZeroDivide, rsZeroDivide);
+  EXPECT_ERROR(CheckedLn(-1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(CheckedExp(12000), EOverflow, rsOverflow);
+  EXPECT_ERROR(CheckedXtoY(0, -1), EZeroDivide, rsZeroDivide);
+  EXPECT_ERROR(CheckedXtoY(-2, 0.5L), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(CheckedXtoY(10, 5000), EOverflow, rsOverflow);
+  EXPECT_ERROR(CheckedFinite(infinity), EOverflow, rsOverflow);
+  EXPECT_ERROR(CheckedFinite(nan), EInvalidOp, rsInvalidOp);
+
+  EXPECT_EQ(CheckedDivide(7, -2), -3.5L);
+  EXPECT_EQ(CheckedDivide(1, infinity), 0);
+  EXPECT_EQ(CheckedExp(infinity), infinity);
+  EXPECT_EQ(CheckedXtoY(-2, 3), -8);
+  for (const Extended x : {CheckedDivide(nan, 0), CheckedSqrt(nan), CheckedLn(nan), CheckedExp(nan),
+                           CheckedXtoY(nan, 2)}) {
+    EXPECT_TRUE(std::isnan(x));
+  }
+}
+
+}  // namespace
+}  // namespace qorvex

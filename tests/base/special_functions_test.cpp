@@ -1,0 +1,73 @@
+#include "qorvex/base/special_functions.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "support/expect_error.h"
+#include "support/table.h"
+
+namespace qorvex {
+namespace {
+
+using testing::ExpectWorstError;
+using testing::Table;
+
+constexpr Extended kInfinity = std::numeric_limits<Extended>::infinity();
+constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
+
+// Limits in units of 1e-19, a little above what was measured.
+TEST(SpecialFunctions, AgreeWithTheReferenceTables) {
+  const Table gamma("tables/gamma_fn.csv");
+  ExpectWorstError(gamma, "gamma", 3,
+                   [&](std::size_t row) { return Gamma(gamma.Value(row, "x_dec")); });
+  ExpectWorstError(gamma, "lgamma", 2,
+                   [&](std::size_t row) { return LnGamma(gamma.Value(row, "x_dec")); });
+  const Table beta("tables/beta_fn.csv");
+  ExpectWorstError(beta, "beta", 25, [&](std::size_t row) {
+    return Beta(beta.Value(row, "a_dec"), beta.Value(row, "b_dec"));
+  });
+  const Table incomplete("tables/beta_inc.csv");
+  ExpectWorstError(incomplete, "I", 120, [&](std::size_t row) {
+    return IncompleteBeta(incomplete.Value(row, "x_dec"), incomplete.Value(row, "a_dec"),
+                          incomplete.Value(row, "b_dec"));
+  });
+  const Table inverse("tables/beta_inv.csv");
+  ExpectWorstError(inverse, "x", 10, [&](std::size_t row) {
+    return InverseIncompleteBeta(inverse.Value(row, "p_dec"), inverse.Value(row, "a_dec"),
+                                 inverse.Value(row, "b_dec"));
+  });
+}
+
+TEST(SpecialFunctions, RaiseOutsideTheirDomains) {
+  EXPECT_ERROR(Gamma(0), EZeroDivide, rsZeroDivide);
+  EXPECT_ERROR(Gamma(-3), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(Gamma(-kInfinity), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(Gamma(1756), EOverflow, rsOverflow);
+  EXPECT_ERROR(LnGamma(-2), EZeroDivide, rsZeroDivide);
+  EXPECT_ERROR(Beta(0, 1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(Beta(1, kInfinity), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(IncompleteBeta(1.1L, 1, 1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(IncompleteBeta(0.5L, 1, -1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(InverseIncompleteBeta(-0.1L, 1, 1), EInvalidOp, rsInvalidOp);
+  EXPECT_EQ(Gamma(kInfinity), kInfinity);
+  EXPECT_EQ(IncompleteBeta(1, 2, 3), 1);
+  EXPECT_EQ(InverseIncompleteBeta(0, 2, 3), 0);
+  EXPECT_TRUE(std::isnan(Gamma(kNaN)) && std::isnan(LnGamma(kNaN)) && std::isnan(Beta(1, kNaN)));
+  EXPECT_TRUE(std::isnan(IncompleteBeta(kNaN, 1, 1)) &&
+              std::isnan(InverseIncompleteBeta(0.5L, kNaN, 1)));
+}
+
+TEST(SpecialFunctions, InverseEndsForExtremeArguments) {
+  for (const Extended p : {1e-4900L, 1e-300L, 0x1p-40L, 0.5L, 1 - 0x1p-64L}) {
+    for (const Extended a : {1e-10L, 0.5L, 5.0L, 1e6L}) {
+      for (const Extended b : {1e-10L, 0.5L, 3.0L, 1e6L}) {
+        const Extended x = InverseIncompleteBeta(p, a, b);
+        EXPECT_TRUE(x >= 0 && x <= 1) << p << ' ' << a << ' ' << b;
+      }
+    }
+  }
+}
+
+}  // namespace
+}  // namespace qorvex

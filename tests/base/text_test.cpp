@@ -1,0 +1,111 @@
+#include "qorvex/base/text.h"
+
+#include <clocale>
+#include <cmath>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+#include "support/expect_error.h"
+
+namespace qorvex {
+namespace {
+
+TEST(Str2Float, RoundsCorrectly) {
+  const struct {
+    const char* text;
+    Extended value;
+  } cases[] = {
+      {"0.1", 0.1L},
+      {"  -2.5e3\t", -2500},
+      {"+.5", 0.5L},
+      {"5.", 5},
+      {"00000000000000000000000000000000000000001.5", 1.5L},
+      {"1E-27", 1e-27L},
+      {"9999999999999999999", 9999999999999999999.0L},
+      {"18446744073709551617", 18446744073709551617.0L},
+      {"0.33333333333333333334", 0.33333333333333333334L},
+      {"1.18973149535723176502e+4932", std::numeric_limits<Extended>::max()},
+      {"3.6451995318824746025e-4951", std::numeric_limits<Extended>::denorm_min()},
+      {"1e-5000", 0},
+      {"inf", std::numeric_limits<Extended>::infinity()},
+      {"-Infinity", -std::numeric_limits<Extended>::infinity()},
+      // Half way between 1 and its successor goes to even; a digit more goes up.
+      {"1.0000000000000000000542101086242752217003726400434970855712890625", 1},
+      {"1.00000000000000000005421010862427522170037264004349708557128906250001",
+       1 + std::numeric_limits<Extended>::epsilon()},
+  };
+  for (const auto& [text, value] : cases) EXPECT_EQ(Str2Float(text), value) << text;
+  EXPECT_TRUE(std::signbit(Str2Float("-0")));
+  EXPECT_TRUE(std::isnan(Str2Float("NaN")));
+}
+
+TEST(Str2Float, RefusesWhatIsNoNumberAndNamesIt) {
+  for (const char* text : {"", "  ", ".", "-", "e5", "1e", "1e+", "1.2.3", "1,5", "0x10", "1 2",
+                           "--1", "+-1", "nan(1)", "infinit", "12a", "1_000",
+                           "\xE2\x88\x92"
+                           "1"}) {
+    EXPECT_ERROR(Str2Float(text), EConvertError, rsNotANumber);
+  }
+  EXPECT_ERROR(Str2Float("1e4933"), EConvertError, rsNumberTooLarge);
+  EXPECT_ERROR(Str2Float("-1e99999999999999999999"), EConvertError, rsNumberTooLarge);
+  try {
+    static_cast<void>(Str2Float("12 apples"));
+    FAIL();
+  } catch (const EConvertError& error) {
+    EXPECT_STREQ(error.what(), "\"12 apples\" is not a number");
+  }
+  EXPECT_LT(std::strlen(EConvertError(rsNotANumber, std::string(1000, 'x')).what()), 100U);
+}
+
+TEST(Float2Str, RoundTripsEveryFiniteValue) {
+  std::mt19937_64 engine(20261121);
+  for (int i = 0; i < 20'000; ++i) {
+    Extended value = 0;
+    const std::uint64_t mantissa = engine() | 0x8000'0000'0000'0000U;
+    const auto exponent = static_cast<std::uint16_t>(engine() % 0x7FFF + 0x8000 * (engine() % 2));
+    // Exponent 0 holds the subnormals, whose leading bit is 0.
+    const std::uint64_t stored = (exponent & 0x7FFF) == 0 ? mantissa >> 1 : mantissa;
+    std::memcpy(&value, &stored, sizeof stored);
+    std::memcpy(reinterpret_cast<char*>(&value) + 8, &exponent, sizeof exponent);
+    const Extended back = Str2Float(Float2Str(value));
+    ASSERT_EQ(std::memcmp(&back, &value, 10), 0) << Float2Str(value);
+  }
+}
+
+TEST(Float2EStr, RoundsTheExactValueHalfToEven) {
+  EXPECT_EQ(Float2EStr(0.5L, 0), "0");
+  EXPECT_EQ(Float2EStr(2.5L, 0), "2");
+  EXPECT_EQ(Float2EStr(0.125L, 2), "0.12");
+  EXPECT_EQ(Float2EStr(2.675L, 2), "2.67") << "the 80-bit value is below the decimal";
+  EXPECT_EQ(Float2EStr(-0.0001L, 2), "0.00") << "no sign on a zero";
+  EXPECT_EQ(Float2EStr(-0.0L, 0), "0");
+  EXPECT_EQ(Float2EStr(-1234.5L, 3), "-1234.500");
+  EXPECT_EQ(Float2EStr(7, -3), "7");
+  EXPECT_EQ(Float2EStr(std::numeric_limits<Extended>::quiet_NaN(), 2), "nan");
+  EXPECT_EQ(Float2EStr(-std::numeric_limits<Extended>::infinity(), 2), "-inf");
+  EXPECT_EQ(Float2EStr(0x1p13000L, 5).size(), 3914U + 6U);
+  EXPECT_EQ(Str2Float(Float2EStr(std::numeric_limits<Extended>::max(), 300)),
+            std::numeric_limits<Extended>::max());
+}
+
+TEST(StripTChStr, StripsDecimalsAndTheDanglingPoint) {
+  EXPECT_EQ(StripTChStr("2.50000", '0'), "2.5");
+  EXPECT_EQ(StripTChStr("3.000", '0'), "3");
+  EXPECT_EQ(StripTChStr("0.00", '0'), "0");
+  EXPECT_EQ(StripTChStr("100", '0'), "100") << "not one";
+  EXPECT_EQ(StripTChStr("1.5e10", '0'), "1.5e10");
+  EXPECT_EQ(StripTChStr("abcxx", 'x'), "abc");
+  EXPECT_EQ(StripTChStr("", '0'), "");
+  EXPECT_EQ(StripTChStr("xx", 'x'), "");
+}
+
+TEST(Int2EStr, CoversTheRange) {
+  EXPECT_EQ(Int2EStr(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
+  EXPECT_EQ(Int2EStr(std::numeric_limits<std::uint64_t>::max()), "18446744073709551615");
+  EXPECT_EQ(Int2EStr(std::int8_t{-5}), "-5");
+}
+
+}  // namespace
+}  // namespace qorvex

@@ -1,0 +1,85 @@
+#pragma once
+
+#include <cmath>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "qorvex/base/text.h"
+
+namespace qorvex::testing {
+
+/// A comma-separated reference table with a header line; lines that start with # are remarks.
+class Table {
+ public:
+  explicit Table(const std::string& file) {
+    std::ifstream in(std::string(QORVEX_TEST_DATA) + "/" + file);
+    if (!in) throw std::runtime_error("no reference table " + file);
+    for (std::string line; std::getline(in, line);) {
+      if (line.empty() || line.front() == '#') continue;
+      std::vector<std::string> cells;
+      std::istringstream fields(line);
+      for (std::string cell; std::getline(fields, cell, ',');) cells.push_back(cell);
+      if (columns_.empty()) {
+        for (std::size_t i = 0; i < cells.size(); ++i) columns_[cells[i]] = i;
+      } else {
+        cells.resize(columns_.size());
+        rows_.push_back(cells);
+      }
+    }
+    if (rows_.empty()) throw std::runtime_error("empty reference table " + file);
+  }
+
+  [[nodiscard]] std::size_t size() const { return rows_.size(); }
+  [[nodiscard]] const std::string& Text(std::size_t row, const std::string& column) const {
+    return rows_[row].at(columns_.at(column));
+  }
+  [[nodiscard]] Extended Value(std::size_t row, const std::string& column) const {
+    return Str2Float(Text(row, column));
+  }
+
+ private:
+  std::map<std::string, std::size_t> columns_;
+  std::vector<std::vector<std::string>> rows_;
+};
+
+/// The largest relative error of compute(row) against a column, over the rows whose expected value
+/// is at least 1e-20. The error is in units of 1e-19; rounding to 80 bits alone makes 0.54.
+template <class Compute>
+void ExpectWorstError(const Table& table, const std::string& column, Extended limit,
+                      Compute compute) {
+  Extended worst = 0;
+  std::size_t worst_row = 0;
+  std::size_t judged = 0;
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    if (table.Text(row, column).empty()) continue;
+    const Extended expected = table.Value(row, column);
+    if (!(std::fabs(expected) >= 1e-20L)) continue;
+    ++judged;
+    const Extended error = std::fabs(compute(row) - expected) / std::fabs(expected) * 1e19L;
+    if (!(error <= worst)) {
+      worst = error;
+      worst_row = row;
+    }
+  }
+  EXPECT_GT(judged, table.size() / 2);
+  EXPECT_LE(worst, limit) << column << ", row " << worst_row + 1 << ", of " << judged;
+  ::testing::Test::RecordProperty("worst_" + column, Float2EStr(worst, 2));
+}
+
+/// The values of a file with one number a line; lines that start with # are remarks.
+inline std::vector<Extended> ReadNumbers(const std::string& file) {
+  std::ifstream in(std::string(QORVEX_TEST_DATA) + "/" + file);
+  if (!in) throw std::runtime_error("no reference data " + file);
+  std::vector<Extended> values;
+  for (std::string line; std::getline(in, line);) {
+    if (!line.empty() && line.front() != '#') values.push_back(Str2Float(line));
+  }
+  return values;
+}
+
+}  // namespace qorvex::testing
