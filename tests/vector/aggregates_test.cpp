@@ -1,0 +1,153 @@
+#include "qorvex/vector/aggregates.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "qorvex/vector/extremes.h"
+#include "qorvex/vector/sign_tests.h"
+#include "support/expect_error.h"
+
+namespace qorvex {
+namespace {
+
+constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
+
+struct Extremes {
+  Extended min_value, max_value;
+  std::uint32_t min_index, max_index;
+  bool min_unique, max_unique;
+  bool operator==(const Extremes&) const = default;
+};
+
+Extremes MinMax(const TQorFloatVector& v) {
+  Extremes e{};
+  MinMaxVector(v, e.min_value, e.max_value, e.min_index, e.max_index, e.min_unique, e.max_unique);
+  return e;
+}
+
+TEST(Extremes, FirstOfEqualExtremesWins) {
+  EXPECT_EQ(MinMax({3, 1, 1, 5, 5}), (Extremes{1, 5, 1, 3, false, false}));
+  EXPECT_EQ(MinMax({2, 2, 1}), (Extremes{1, 2, 2, 0, true, false}));
+  EXPECT_EQ(MinMax({7}), (Extremes{7, 7, 0, 0, true, true}));
+  EXPECT_EQ(MinMax({7, 7}), (Extremes{7, 7, 0, 0, false, false}));
+  EXPECT_TRUE(std::signbit(MinVector(TQorFloatVector{-0.0L, 0.0L})));
+  EXPECT_FALSE(std::signbit(MinVector(TQorFloatVector{0.0L, -0.0L})));
+}
+
+TEST(Extremes, NaNIsPassedOverUnlessItIsFirst) {
+  EXPECT_EQ(MinVector(TQorFloatVector{2, kNaN, 1}), 1);
+  EXPECT_EQ(MaxVector(TQorDoubleVector{2, std::nan(""), 3}), 3);
+  EXPECT_TRUE(std::isnan(MaxVector(TQorFloatVector{kNaN, 1})));
+}
+
+TEST(Extremes, EmptyRaisesAndLeavesTheOutputs) {
+  EXPECT_MATH_ERROR(MinVector(TQorSIntVector()), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(MaxVector(TQorFloatVector()), rsVectorIsEmpty);
+  std::uint16_t value = 42;
+  std::uint32_t index = 43;
+  bool unique = true;
+  EXPECT_MATH_ERROR(MinMaxVector(TQorWordVector(), value, value, index, index, unique, unique),
+                    rsVectorIsEmpty);
+  EXPECT_EQ(value, 42);
+  EXPECT_EQ(index, 43U);
+}
+
+TEST(Sums, IntegersWidenAndWrap) {
+  EXPECT_EQ(SumVector(TQorLWordVector{4294967295, 1}), std::int64_t{1} << 32);
+  EXPECT_EQ(SumVector(TQorSIntVector{-128, -128}), -256);
+  EXPECT_EQ(SumVector(TQorInt64Vector{std::numeric_limits<std::int64_t>::max(), 1}),
+            std::numeric_limits<std::int64_t>::min());
+  EXPECT_MATH_ERROR(SumVector(TQorByteVector()), rsVectorIsEmpty);
+}
+
+TEST(Sums, FloatsAccumulateInExtendedInOrder) {
+  EXPECT_EQ(SumVector(TQorSingleVector{1, 0x1p-60F}), 1 + 0x1p-60L);
+  EXPECT_EQ(SumVector(TQorFloatVector{0x1p64L, 1, 1}), 0x1p64L) << "each 1 is lost";
+  EXPECT_EQ(SumVector(TQorFloatVector{1, 1, 0x1p64L}), 0x1p64L + 2);
+  EXPECT_TRUE(std::signbit(SumVector(TQorFloatVector{-0.0L})));
+  EXPECT_TRUE(std::isnan(SumVector(TQorFloatVector{1, kNaN})));
+}
+
+TEST(Sums, IntegerSquaresKeepTheirNarrowWidth) {
+  EXPECT_EQ(SumSqVector(TQorByteVector{255}), -511);
+  EXPECT_EQ(SumSqVector(TQorByteVector{181, 1}), 32762)
+      << "the largest square that stays positive, plus 1";
+  EXPECT_EQ(SumSqVector(TQorSIntVector{-128}), 16384);
+  EXPECT_EQ(SumSqVector(TQorWordVector{256}), 0);
+  EXPECT_EQ(SumSqVector(TQorWordVector{65535}), 1);
+  EXPECT_EQ(SumSqVector(TQorWordVector{255}), 65025) << "zero-extended";
+  EXPECT_EQ(SumSqVector(TQorSmallIntVector{200}), 40000 - 65536) << "sign-extended";
+  EXPECT_EQ(SumSqVector(TQorLIntVector{65536}), 0);
+  EXPECT_EQ(SumSqVector(TQorLIntVector{50000}), 2'500'000'000 - 4'294'967'296);
+  EXPECT_EQ(SumSqVector(TQorLWordVector{50000}), 2'500'000'000);
+  EXPECT_EQ(SumSqVector(TQorInt64Vector{50000}), 2'500'000'000 - 4'294'967'296);
+  EXPECT_EQ(SumSqVector(TQorInt64Vector{(std::int64_t{1} << 32) + 3}), 9);
+  EXPECT_EQ(SumSqVector(TQorDoubleVector{0x1p31, 1}), 0x1p62L + 1);
+}
+
+TEST(Sums, SquaredDifferencesFromIntegerAndExtendedMeans) {
+  EXPECT_EQ(SumSqDiffVector(TQorInt64Vector{1, 2, 4}, 2), 5);
+  EXPECT_EQ(SumSqDiffVector(TQorInt64Vector{1, 2, 4}, 2.5), 4.75L);
+  EXPECT_EQ(SumSqDiffVector(TQorLIntVector{50000}, 0), 2'500'000'000 - 4'294'967'296);
+  EXPECT_EQ(SumSqDiffVector(TQorLWordVector{1}, 3), 4)
+      << "the difference wraps, its square does not show it";
+  EXPECT_EQ(SumSqDiffVector(TQorSingleVector{1, 3}, 2), 2);
+  EXPECT_MATH_ERROR(SumSqDiffVector(TQorLIntVector(), 0), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(SumSqDiffVector(TQorLIntVector(), 0.0), rsVectorIsEmpty);
+}
+
+TEST(Sums, SquaredDifferencesOfTwoVectors) {
+  EXPECT_EQ(SumSqDiffVectors(TQorFloatVector{1, 2}, TQorFloatVector{3, 5}), 13);
+  EXPECT_EQ(SumSqDiffVectors(TQorLWordVector{0}, TQorLWordVector{50000}),
+            2'500'000'000 - 4'294'967'296)
+      << "a signed square even for unsigned elements";
+  EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector{1, 2}, TQorLIntVector{1}), rsSameDimensions);
+  EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector{1}, TQorLIntVector()), rsSameDimensions);
+  EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector()), rsVectorIsEmpty);
+}
+
+template <class T>
+class Magnitude : public ::testing::Test {};
+using AllNumeric =
+    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
+                     std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
+TYPED_TEST_SUITE(Magnitude, AllNumeric);
+
+TYPED_TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
+  EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>{3, 4}), 5);
+  EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>()), 0);
+  constexpr TypeParam largest = std::numeric_limits<std::int8_t>::max();
+  EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>{largest}), 127);
+}
+
+TEST(SignTests, UseTheToleranceExceptForTheSinglesThatMustNotBeZero) {
+  constexpr float tiny = 1e-30F;
+  EXPECT_TRUE(VectorZero(TQorFloatVector{0, tiny}));
+  EXPECT_TRUE(VectorZero(TQorSingleVector{0, tiny}));
+  EXPECT_FALSE(VectorNonZero(TQorFloatVector{1, tiny}));
+  EXPECT_FALSE(VectorNonZero(TQorDoubleVector{1, tiny}));
+  EXPECT_TRUE(VectorNonZero(TQorSingleVector{1, tiny}));
+  EXPECT_FALSE(VectorNonZero(TQorSingleVector{1, 0}));
+  EXPECT_FALSE(VectorPositive(TQorFloatVector{1, 0, 2}));
+  EXPECT_FALSE(VectorPositive(TQorSingleVector{1, tiny}));
+  EXPECT_TRUE(VectorNonNegative(TQorDoubleVector{0, -1e-16}));
+  EXPECT_FALSE(VectorNonNegative(TQorDoubleVector{0, -1e-14}));
+  EXPECT_FALSE(VectorPositive(TQorFloatVector{kNaN}));
+  EXPECT_TRUE(VectorNonNegative(TQorFloatVector{kNaN}) && VectorNonZero(TQorFloatVector{kNaN}));
+}
+
+TEST(SignTests, Int64IsExactAndEmptyRaises) {
+  EXPECT_TRUE(VectorZero(TQorInt64Vector{0, 0}));
+  EXPECT_FALSE(VectorNonZero(TQorInt64Vector{1, 0}));
+  EXPECT_TRUE(VectorPositive(TQorInt64Vector{1}));
+  EXPECT_TRUE(VectorNonNegative(TQorInt64Vector{0, 0}));
+  EXPECT_FALSE(VectorNonNegative(TQorInt64Vector{0, -1}));
+  EXPECT_MATH_ERROR(VectorZero(TQorInt64Vector()), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(VectorNonZero(TQorSingleVector()), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(VectorPositive(TQorFloatVector()), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(VectorNonNegative(TQorDoubleVector()), rsVectorIsEmpty);
+}
+
+}  // namespace
+}  // namespace qorvex

@@ -1,0 +1,76 @@
+#include "qorvex/vector/arithmetic.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "qorvex/base/elementary.h"
+#include "support/expect_error.h"
+
+namespace qorvex {
+namespace {
+
+TEST(Arithmetic, AddsAndSubtractsElementByElement) {
+  EXPECT_EQ(AddVectors(TQorFloatVector{1, 2}, TQorFloatVector{3, 4}), (TQorFloatVector{4, 6}));
+  EXPECT_EQ(SubtractVectors(TQorDoubleVector{1, 2}, TQorDoubleVector{3, 5}),
+            (TQorDoubleVector{-2, -3}));
+  EXPECT_TRUE(AddVectors(TQorSingleVector(), TQorSingleVector()).empty());
+  TQorFloatVector a{1, 2};
+  const TQorFloatVector shared = a;
+  AddToVector(a, a);
+  EXPECT_EQ(shared, (TQorFloatVector{2, 4}));
+  SubtractFromVector(a, TQorFloatVector{1, 1});
+  EXPECT_EQ(shared, (TQorFloatVector{1, 3}));
+}
+
+TEST(Arithmetic, IntegersWrapAndDoublesRoundTwice) {
+  constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
+  EXPECT_EQ(AddVectors(TQorLIntVector{largest}, TQorLIntVector{1}), (TQorLIntVector{-largest - 1}));
+  EXPECT_EQ(SubtractVectors(TQorInt64Vector{smallest}, TQorInt64Vector{1}),
+            (TQorInt64Vector{std::numeric_limits<std::int64_t>::max()}));
+  // The exact sum lies just above the middle of two doubles. To 80 bits it is the middle itself,
+  // which then rounds to the even neighbour; a double addition would have rounded up.
+  EXPECT_EQ(AddVectors(TQorDoubleVector{1}, TQorDoubleVector{0x1p-53 + 0x1p-80}),
+            (TQorDoubleVector{1}));
+}
+
+TEST(Arithmetic, LengthsAreCheckedBeforeEmptiness) {
+  TQorFloatVector a{1};
+  const TQorFloatVector b{1, 2};
+  EXPECT_MATH_ERROR(AddVectors(a, b), rsSameDimensions);
+  EXPECT_MATH_ERROR(SubtractVectors(a, b), rsSameDimensions);
+  EXPECT_MATH_ERROR(AddToVector(a, b), rsSameDimensions);
+  EXPECT_MATH_ERROR(SubtractFromVector(a, b), rsSameDimensions);
+  EXPECT_MATH_ERROR(DotProdVectors(TQorFloatVector(), b), rsSameDimensions);
+  EXPECT_MATH_ERROR(DotProdVectors(TQorFloatVector(), TQorFloatVector()), rsVectorIsEmpty);
+  EXPECT_EQ(a, (TQorFloatVector{1}));
+}
+
+TEST(Arithmetic, DotProductKeepsTheWidthOfEachElementType) {
+  EXPECT_EQ(DotProdVectors(TQorFloatVector{1, 2, 3}, TQorFloatVector{4, 5, 6}), 32);
+  EXPECT_EQ(DotProdVectors(TQorLIntVector{65536}, TQorLIntVector{65536}), 0);
+  EXPECT_EQ(DotProdVectors(TQorLIntVector{50000, 1}, TQorLIntVector{50000, 1}),
+            2'500'000'001 - 4'294'967'296);
+  EXPECT_EQ(DotProdVectors(TQorLWordVector{50000}, TQorLWordVector{50000}), 2'500'000'000);
+  EXPECT_EQ(DotProdVectors(TQorInt64Vector{1LL << 40}, TQorInt64Vector{-(1LL << 20)}),
+            -(1LL << 60));
+  EXPECT_EQ(DotProdVectors(TQorInt64Vector{1LL << 40}, TQorInt64Vector{1LL << 40}), 0);
+  EXPECT_EQ(
+      DotProdVectors(TQorSingleVector{0x1p12F, 0x1p-20F}, TQorSingleVector{0x1p12F, 0x1p-18F}),
+      0x1p24L + 0x1p-38L);
+}
+
+TEST(Arithmetic, AngleBetweenVectors) {
+  EXPECT_EQ(AngleBetweenVectors(TQorFloatVector{1, 0}, TQorFloatVector{0, 1}), QorPi / 2);
+  EXPECT_EQ(
+      AngleBetweenVectors(TQorFloatVector{0.1L, 0.7L, 0.3L}, TQorFloatVector{0.1L, 0.7L, 0.3L}), 0);
+  EXPECT_EQ(AngleBetweenVectors(TQorLIntVector{1, 1}, TQorLIntVector{-1, -1}), QorPi);
+  EXPECT_MATH_ERROR(AngleBetweenVectors(TQorFloatVector{0, 0}, TQorFloatVector{1}), rsMagZero);
+  EXPECT_MATH_ERROR(AngleBetweenVectors(TQorFloatVector(), TQorFloatVector()), rsMagZero);
+  EXPECT_MATH_ERROR(AngleBetweenVectors(TQorFloatVector{1}, TQorFloatVector{1, 1}),
+                    rsSameDimensions);
+}
+
+}  // namespace
+}  // namespace qorvex

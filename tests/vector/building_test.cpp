@@ -1,0 +1,90 @@
+#include "qorvex/vector/building.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+#include "qorvex/vector/conversion.h"
+
+namespace qorvex {
+namespace {
+
+TEST(Building, AppendAndInsertMakeTheBufferPrivate) {
+  TQorFloatVector v{1, 2, 3};
+  const TQorFloatVector before = v;
+  AddValue2Vector(v, 9, 0);
+  EXPECT_EQ(v, (TQorFloatVector{9, 1, 2, 3}));
+  AddValue2Vector(v, 8, 3);
+  EXPECT_EQ(v, (TQorFloatVector{9, 1, 2, 8, 3}));
+  AppendValue2Vector(v, v[0]);
+  EXPECT_EQ(v[5], 9);
+  EXPECT_EQ(before, (TQorFloatVector{1, 2, 3}));
+}
+
+TEST(Building, PositionsOutOfRangeAppendOrDoNothing) {
+  for (const std::int32_t position : {-1, 3, std::numeric_limits<std::int32_t>::max(),
+                                      std::numeric_limits<std::int32_t>::min()}) {
+    TQorLWordVector v{1, 2, 3};
+    AddValue2Vector(v, 7, position);
+    EXPECT_EQ(v, (TQorLWordVector{1, 2, 3, 7})) << position;
+    TQorLWordVector w{1, 2, 3};
+    DeleteValueFromVector(w, position);
+    EXPECT_EQ(w.size(), 3U) << position;
+  }
+  TQorSingleVector empty;
+  DeleteValueFromVector(empty, 0);
+  AddValue2Vector(empty, 5, 0);
+  EXPECT_EQ(empty, (TQorSingleVector{5}));
+}
+
+TEST(Building, DeleteClosesTheGap) {
+  TQorInt64Vector v{1, 2, 3, 4};
+  DeleteValueFromVector(v, 1);
+  EXPECT_EQ(v, (TQorInt64Vector{1, 3, 4}));
+  DeleteValueFromVector(v, 2);
+  DeleteValueFromVector(v, 0);
+  EXPECT_EQ(v, (TQorInt64Vector{3}));
+  DeleteValueFromVector(v, 0);
+  EXPECT_TRUE(v.empty());
+}
+
+TEST(Building, FillAndClearWriteThroughEveryHandle) {
+  TQorSmallIntVector a{5, 6};
+  TQorSmallIntVector shared = a;
+  const TQorSmallIntVector copy = CopyVector(a);
+  FillVector(a, -3);
+  EXPECT_EQ(shared, (TQorSmallIntVector{-3, -3}));
+  ClearVector(a);
+  EXPECT_EQ(shared, (TQorSmallIntVector{0, 0}));
+  EXPECT_EQ(copy, (TQorSmallIntVector{5, 6}));
+  TQorByteVector empty;
+  FillVector(empty, 1);
+  ClearVector(empty);
+  EXPECT_TRUE(CopyVector(empty).empty() && ReverseVector(empty).empty());
+}
+
+TEST(Building, ReverseLeavesTheSource) {
+  const TQorDoubleVector v{1, 2, 3};
+  EXPECT_EQ(ReverseVector(v), (TQorDoubleVector{3, 2, 1}));
+  EXPECT_EQ(v[0], 1);
+}
+
+TEST(Conversion, WidensExactly) {
+  constexpr std::uint32_t largest = std::numeric_limits<std::uint32_t>::max();
+  EXPECT_EQ(Vector2FloatVector(TQorLWordVector{largest}), (TQorFloatVector{4294967295.0L}));
+  EXPECT_EQ(Vector2Int64Vector(TQorLWordVector{largest}), (TQorInt64Vector{4294967295}));
+  EXPECT_EQ(Vector2Int64Vector(TQorSIntVector{-128}), (TQorInt64Vector{-128}));
+  EXPECT_EQ(Vector2LIntVector(TQorWordVector{65535}), (TQorLIntVector{65535}));
+  EXPECT_EQ(Vector2FloatVector(TQorInt64Vector{std::numeric_limits<std::int64_t>::max()}),
+            (TQorFloatVector{9223372036854775807.0L}));
+  const TQorLIntVector source{1};
+  EXPECT_FALSE(Vector2LIntVector(source).SharesBufferWith(source));
+
+  const double array[] = {0.1, 0.2};
+  EXPECT_EQ(Array2FloatVector(array), (TQorFloatVector{0.1, 0.2}));
+  EXPECT_EQ(Array2Int64Vector(std::vector<std::int16_t>{-7}), (TQorInt64Vector{-7}));
+  EXPECT_TRUE(Array2LIntVector(std::vector<std::uint8_t>()).empty());
+}
+
+}  // namespace
+}  // namespace qorvex

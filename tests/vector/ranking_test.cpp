@@ -1,0 +1,123 @@
+#include "qorvex/vector/ranking.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/sorting.h"
+#include "support/random_vectors.h"
+
+namespace qorvex {
+namespace {
+
+using testing::Engine;
+
+constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
+constexpr Extended kInfinity = std::numeric_limits<Extended>::infinity();
+
+// The definition: sort a copy and scan it from the front for the first equal element.
+template <class T>
+std::int32_t ScannedRank(const TQorVector<T>& vector, T value, bool ascending) {
+  TQorVector<T> sorted = CopyVector(vector);
+  QSortVector(sorted, ascending);
+  for (std::size_t i = 0; i < sorted.size(); ++i) {
+    bool equal = sorted[i] == value;
+    if constexpr (FloatElement<T>) equal = SameFloat(sorted[i], value);
+    if (equal) return static_cast<std::int32_t>(i);
+  }
+  return -1;
+}
+
+template <class T>
+void ExpectRanksLikeTheScan(const TQorVector<T>& vector) {
+  for (const bool ascending : {true, false}) {
+    const TQorLIntVector ranks = Vector2RankVector(vector, ascending);
+    ASSERT_EQ(ranks.size(), vector.size());
+    for (std::size_t i = 0; i < vector.size(); ++i) {
+      const std::int32_t scanned = ScannedRank(vector, vector[i], ascending);
+      ASSERT_EQ(ranks[i], std::max(scanned, 0)) << i;
+      ASSERT_EQ(Vector2Rank(vector, static_cast<std::uint32_t>(i), ascending), scanned) << i;
+    }
+  }
+}
+
+TEST(Ranking, TiesShareTheLowestRank) {
+  EXPECT_EQ(Vector2RankVector(TQorLIntVector{30, 10, 20, 20}, true), (TQorLIntVector{3, 0, 1, 1}));
+  EXPECT_EQ(Vector2RankVector(TQorLIntVector{30, 10, 20, 20}, false), (TQorLIntVector{0, 3, 1, 1}));
+  EXPECT_TRUE(Vector2RankVector(TQorByteVector(), true).empty());
+}
+
+TEST(Ranking, WhatIsAbsentHasNoRank) {
+  const TQorWordVector v{5, 6, 6};
+  EXPECT_EQ(Vector2Rank(v, 2, true), 1);
+  EXPECT_EQ(Vector2Rank(v, 3, true), -1);
+  EXPECT_EQ(Vector2RankValue(v, 6, false), 0);
+  EXPECT_EQ(Vector2RankValue(v, 7, true), -1);
+  EXPECT_EQ(Vector2RankValue(TQorFloatVector(), 1, true), -1);
+}
+
+TEST(Ranking, NaNEqualsNothing) {
+  const TQorFloatVector v{kNaN, 2, -kInfinity, kInfinity, 1};
+  EXPECT_EQ(Vector2RankVector(v, true), (TQorLIntVector{0, 2, 0, 3, 1}));
+  EXPECT_EQ(Vector2RankVector(v, false), (TQorLIntVector{0, 1, 3, 0, 2}));
+  EXPECT_EQ(Vector2Rank(v, 0, true), -1);
+  EXPECT_EQ(Vector2RankValue(v, kNaN, true), -1);
+  EXPECT_EQ(Vector2RankValue(v, kInfinity, true), 3);
+}
+
+TEST(Ranking, ValuesWithinTheToleranceShareARank) {
+  const TQorFloatVector v{1 + 0.5e-15L, 2, 1};
+  EXPECT_EQ(Vector2RankVector(v, true), (TQorLIntVector{0, 2, 0}));
+  EXPECT_EQ(Vector2RankValue(v, 2 + 1e-15L, true), 2);
+}
+
+// Chains of near-ties, where neighbours are the same but the ends are not, decide whether the runs
+// are really contiguous.
+template <class T>
+class NearTies : public ::testing::Test {
+ protected:
+  ~NearTies() override { QorTolerance = initial_; }
+
+  static TQorVector<T> Chain(Engine& engine, std::size_t n) {
+    auto vector = TQorVector<T>::WithLength(n);
+    const auto tolerance =
+        std::max(static_cast<T>(QorTolerance), 4 * std::numeric_limits<T>::epsilon());
+    const T scales[] = {0, 1, -1, T(0.999), 1000, -1000};
+    for (T& x : vector) {
+      const T scale = scales[engine() % 6];
+      const T step = tolerance * std::max(T(1), std::fabs(scale)) / 4;
+      x = scale + static_cast<T>(static_cast<int>(engine() % 25) - 12) * step;
+    }
+    if (n > 3) {
+      vector[0] = std::numeric_limits<T>::infinity();
+      vector[1] = std::numeric_limits<T>::quiet_NaN();
+      vector[2] = -std::numeric_limits<T>::infinity();
+    }
+    return vector;
+  }
+
+  const Extended initial_ = QorTolerance;
+};
+using Floats = ::testing::Types<Extended, double, float>;
+TYPED_TEST_SUITE(NearTies, Floats);
+
+TYPED_TEST(NearTies, RankAsTheLinearScanDoesForEveryTolerance) {
+  Engine engine(2026);
+  for (const Extended tolerance : {0.0L, 1e-15L, 1e-6L, 0.1L, 0.499L, 0.5L, 0.9L, 3.0L}) {
+    QorTolerance = tolerance;
+    for (const std::size_t n : {1U, 2U, 5U, 40U, 150U})
+      ExpectRanksLikeTheScan(this->Chain(engine, n));
+  }
+}
+
+TEST(Ranking, IntegersRankAsTheLinearScanDoes) {
+  Engine engine(5);
+  ExpectRanksLikeTheScan(testing::RandomVector<std::uint8_t>(engine, 300));
+  ExpectRanksLikeTheScan(testing::RandomVector<std::int64_t>(engine, 60));
+}
+
+}  // namespace
+}  // namespace qorvex

@@ -1,0 +1,96 @@
+#include "qorvex/vector/sorting.h"
+
+#include <algorithm>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <vector>
+
+#include "qorvex/vector/building.h"
+#include "support/random_vectors.h"
+
+namespace qorvex {
+namespace {
+
+using testing::Engine;
+using testing::RandomVector;
+
+template <class T>
+class Sorting : public ::testing::Test {};
+using AllNumeric =
+    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
+                     std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
+TYPED_TEST_SUITE(Sorting, AllNumeric);
+
+template <class T>
+void ExpectSortsLikeTheLibrary(TQorVector<T> vector) {
+  std::vector<T> expected(vector.begin(), vector.end());
+  std::sort(expected.begin(), expected.end());
+  QSortVector(vector, true);
+  ASSERT_TRUE(std::ranges::equal(vector, expected));
+  QSortVector(vector, false);
+  ASSERT_TRUE(std::equal(vector.begin(), vector.end(), expected.rbegin()));
+}
+
+TYPED_TEST(Sorting, OrdersRandomVectorsOfEveryLengthBothWays) {
+  Engine engine(42);
+  for (std::size_t n = 0; n < 60; ++n)
+    ExpectSortsLikeTheLibrary(RandomVector<TypeParam>(engine, n));
+  for (const std::size_t n : {399U, 400U, 401U, 2000U, 70'000U}) {
+    ExpectSortsLikeTheLibrary(RandomVector<TypeParam>(engine, n));
+  }
+}
+
+// Inputs that defeat the radix digits or a naive pivot: keys that differ in their lowest bits only,
+// few distinct keys, ordered runs, and one outlier that hides all other bits.
+TYPED_TEST(Sorting, OrdersAdversarialVectors) {
+  constexpr std::size_t n = 5000;
+  Engine engine(43);
+  auto low_bits = TQorVector<TypeParam>::WithLength(n);
+  auto few_keys = TQorVector<TypeParam>::WithLength(n);
+  for (std::size_t i = 0; i < n; ++i) {
+    const auto small = static_cast<TypeParam>(engine() % 100);
+    few_keys[i] = static_cast<TypeParam>(engine() % 3);
+    low_bits[i] =
+        FloatElement<TypeParam> ? 1 + small * std::numeric_limits<TypeParam>::epsilon() : small;
+  }
+  ExpectSortsLikeTheLibrary(low_bits);
+  ExpectSortsLikeTheLibrary(few_keys);
+  low_bits[n / 2] = std::numeric_limits<TypeParam>::lowest();
+  low_bits[n / 3] = std::numeric_limits<TypeParam>::max();
+  ExpectSortsLikeTheLibrary(low_bits);
+
+  auto organ_pipe = TQorVector<TypeParam>::WithLength(n);
+  for (std::size_t i = 0; i < n; ++i)
+    organ_pipe[i] = static_cast<TypeParam>(std::min(i, n - i) % 128);
+  ExpectSortsLikeTheLibrary(organ_pipe);
+}
+
+TEST(SortingFloats, NaNIsLastBothWaysAndTheRestIsOrderedBitForBit) {
+  constexpr Extended nan = std::numeric_limits<Extended>::quiet_NaN();
+  constexpr Extended infinity = std::numeric_limits<Extended>::infinity();
+  constexpr Extended subnormal = std::numeric_limits<Extended>::denorm_min();
+  const TQorFloatVector source{nan,       1,     -nan,      infinity,  0.0L,
+                               -infinity, -0.0L, subnormal, -subnormal};
+  for (const bool ascending : {true, false}) {
+    TQorFloatVector v = CopyVector(source);
+    QSortVector(v, ascending);
+    TQorFloatVector expected{-infinity, -subnormal, -0.0L, 0.0L, subnormal, 1, infinity};
+    if (!ascending) expected = ReverseVector(expected);
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+      EXPECT_EQ(v[i], expected[i]);
+      EXPECT_EQ(std::signbit(v[i]), std::signbit(expected[i])) << i;
+    }
+    EXPECT_TRUE(std::isnan(v[7]) && std::isnan(v[8]));
+  }
+}
+
+TEST(SortingFloats, SortsThroughEveryHandle) {
+  TQorFloatVector a{3, 1, 2};
+  const TQorFloatVector b = a;
+  QSortVector(a, true);
+  EXPECT_EQ(b, (TQorFloatVector{1, 2, 3}));
+}
+
+}  // namespace
+}  // namespace qorvex
