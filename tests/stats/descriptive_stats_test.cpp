@@ -1,0 +1,143 @@
+#include "qorvex/stats/descriptive_stats.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "qorvex/base/errors.h"
+#include "support/random_vectors.h"
+
+namespace qorvex {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+Lines ReportOf(TQorFloatVector values, bool population = false, int decimals = 2) {
+  DescriptiveStats stats;
+  stats.SetPopulation(population);
+  stats.SetValues(std::move(values));
+  return stats.Report(decimals);
+}
+
+TEST(DescriptiveReport, ListsEveryFigureInOrder) {
+  EXPECT_EQ(ReportOf({4, 2, 4, 4, 5, 5, 7, 9}),
+            (Lines{"Number of Values:\t8", "Maximum:\t9.00", "Minimum:\t2.00", "Range:\t7.00",
+                   "Sum:\t40.00", "Sum of Squares:\t232.00", "Mean:\t5.00", "Mode:\t4.00",
+                   "Median:\t4.50", "Variance:\t4.57", "Standard Deviation:\t2.14",
+                   "Kurtosis:\t0.94", "Skew:\t0.82", "First Quartile:\t4.00",
+                   "Third Quartile:\t6.00", "Inter-Quartile Range:\t2.00"}));
+}
+
+TEST(DescriptiveReport, SaysWhatAFewValuesCannotTell) {
+  EXPECT_EQ(DescriptiveStats().Report(4), Lines{MessageText(rsVectorIsEmpty)});
+
+  const Lines three = ReportOf({1, 2, 3});
+  EXPECT_EQ(three[7], "No Modal Value");
+  EXPECT_EQ(three[11], "Not enough Values for Kurtosis");
+  EXPECT_EQ(three[12], "Skew:\t0.00");
+
+  const Lines one = ReportOf({5});
+  EXPECT_EQ(one[9], "Not enough Values for Variance");
+  EXPECT_EQ(one[10], "Not enough Values for Standard Deviation");
+  EXPECT_EQ(one[12], "Not enough Values for Skew");
+  EXPECT_EQ(ReportOf({5}, true)[9], "Variance:\t0.00");
+
+  const Lines equal = ReportOf({3, 3, 3, 3});
+  EXPECT_EQ(equal[11], "Standard Deviation needs to be > 0 for Kurtosis");
+  EXPECT_EQ(equal[12], "Standard Deviation needs to be > 0 for Skew");
+}
+
+// All results as bytes: every figure has to agree in its last bit, signs of zeros included.
+std::string Bits(const DescriptiveResults& r) {
+  std::string bits;
+  for (const Extended x :
+       {r.sum, r.sum_sq, r.mean, r.variance, r.std_dev, r.median, r.mode, r.minimum, r.maximum,
+        r.skew, r.kurtosis, r.quartile_1st, r.quartile_3rd, r.inter_quartile_range}) {
+    // NaNs differ in sign and payload without meaning.
+    const Extended shown = std::isnan(x) ? std::numeric_limits<Extended>::quiet_NaN() : x;
+    bits.append(reinterpret_cast<const char*>(&shown), 10);
+  }
+  return bits + (r.mode_exists ? "m" : "-");
+}
+
+std::string FreshBits(const DescriptiveStats& stats) {
+  DescriptiveStats fresh;
+  fresh.SetPopulation(stats.Population());
+  fresh.SetValues(stats.Values());
+  return Bits(fresh.Results());
+}
+
+TEST(DescriptiveStats, IncrementalUpdatesEqualAFreshComputationBitForBit) {
+  testing::Engine engine(123);
+  const Extended specials[] = {0.0L,
+                               -0.0L,
+                               1,
+                               1 + 0.5e-15L,
+                               std::numeric_limits<Extended>::infinity(),
+                               std::numeric_limits<Extended>::quiet_NaN()};
+  for (int round = 0; round < 60; ++round) {
+    DescriptiveStats stats;
+    stats.SetPopulation(round % 2 == 1);
+    const std::size_t kinds = round < 40 ? 4 : 6;  // the later rounds meet infinities and NaN
+    for (int step = 0; step < 60; ++step) {
+      if (engine() % 4 == 0) {
+        stats.DeleteValue(static_cast<std::int64_t>(engine() % (stats.NoOfValues() + 1)));
+      } else if (engine() % 2 == 0) {
+        stats.AddValue(specials[engine() % kinds]);
+      } else {
+        stats.AddValue(testing::RandomVector<Extended>(engine, 1)[0]);
+      }
+      ASSERT_EQ(Bits(stats.Results()), FreshBits(stats)) << "round " << round << ", step " << step;
+    }
+  }
+}
+
+TEST(DescriptiveStats, TheFirstValueStartsTheSums) {
+  DescriptiveStats stats;
+  stats.AddValue(-0.0L);
+  EXPECT_TRUE(std::signbit(stats.Results().sum));
+}
+
+TEST(DescriptiveStats, NothingMovesWhileUpdating) {
+  DescriptiveStats stats;
+  stats.SetValues({1, 2});
+  stats.BeginUpdate();
+  stats.BeginUpdate();
+  stats.AddValue(6);
+  stats.SetPopulation(true);
+  stats.DeleteValue(0);
+  EXPECT_EQ(stats.Results().mean, 1.5L);
+  stats.EndUpdate();
+  EXPECT_FALSE(stats.Updating()) << "the flag does not count";
+  EXPECT_EQ(stats.Results().mean, 4);
+  EXPECT_EQ(stats.Results().variance, 4);
+
+  stats.BeginUpdate();
+  stats.AddValue(8);
+  EXPECT_EQ(stats.Report(0)[0], "Number of Values:\t3");
+  EXPECT_FALSE(stats.Updating());
+  stats.BeginUpdate();
+  stats.Clear();
+  EXPECT_FALSE(stats.Updating());
+  EXPECT_EQ(Bits(stats.Results()), Bits(DescriptiveResults()));
+}
+
+TEST(DescriptiveStats, TheSampleIsItsOwn) {
+  DescriptiveStats stats;
+  TQorFloatVector given{1, 2, 3};
+  stats.SetValues(given);
+  given[0] = 100;
+  TQorFloatVector read = stats.Values();
+  read[1] = 100;
+  EXPECT_EQ(stats.Values(), (TQorFloatVector{1, 2, 3}));
+  EXPECT_FALSE(stats.DeleteValue(-1));
+  EXPECT_FALSE(stats.DeleteValue(3));
+  EXPECT_TRUE(stats.DeleteValue(2));
+  EXPECT_EQ(stats.Results().maximum, 2);
+}
+
+}  // namespace
+}  // namespace qorvex

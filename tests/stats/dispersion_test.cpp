@@ -1,0 +1,152 @@
+#include "qorvex/stats/dispersion.h"
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+#include "qorvex/stats/location.h"
+#include "qorvex/vector/building.h"
+#include "support/expect_error.h"
+
+namespace qorvex {
+namespace {
+
+template <class T>
+class Estimators : public ::testing::Test {};
+using WideNumeric =
+    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t>;
+TYPED_TEST_SUITE(Estimators, WideNumeric);
+
+TYPED_TEST(Estimators, MeanAndVariancesOfASmallSample) {
+  const TQorVector<TypeParam> v{2, 4, 4, 4, 5, 5, 7, 9};
+  EXPECT_EQ(QorMean(v), 5);
+  EXPECT_EQ(PopulationVariance(v), 4);
+  EXPECT_EQ(PopulationStdDev(v), 2);
+  EXPECT_EQ(SampleVariance(v), 32 / 7.0L);
+  EXPECT_EQ(SampleStdDev(v), std::sqrt(32 / 7.0L));
+
+  Extended spread = 0;
+  Extended mean = 0;
+  SampleVarianceAndMean(v, spread, mean);
+  EXPECT_EQ(spread, 32 / 7.0L);
+  EXPECT_EQ(mean, 5);
+  PopulationVarianceAndMean(v, spread, mean);
+  EXPECT_EQ(spread, 4);
+  SampleStdDevAndMean(v, spread, mean);
+  EXPECT_EQ(spread, std::sqrt(32 / 7.0L));
+  PopulationStdDevAndMean(v, spread, mean);
+  EXPECT_EQ(spread, 2);
+}
+
+TYPED_TEST(Estimators, NeedTheirElements) {
+  const TQorVector<TypeParam> empty;
+  const TQorVector<TypeParam> one{7};
+  Extended spread = 41;
+  Extended mean = 42;
+  EXPECT_MATH_ERROR(QorMean(empty), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(SampleVariance(empty), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(SampleVariance(one), rsVectorG1);
+  EXPECT_MATH_ERROR(SampleStdDev(one), rsVectorG1);
+  EXPECT_MATH_ERROR(PopulationVariance(empty), rsVectorIsEmpty);
+  EXPECT_EQ(PopulationVariance(one), 0);
+  EXPECT_MATH_ERROR(SampleVarianceAndMean(one, spread, mean), rsVectorG1);
+  EXPECT_MATH_ERROR(SampleStdDevAndMean(empty, spread, mean), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(PopulationStdDevAndMean(empty, spread, mean), rsVectorIsEmpty);
+  EXPECT_EQ(spread, 41);
+  EXPECT_EQ(mean, 42);
+  PopulationVarianceAndMean(one, spread, mean);
+  EXPECT_EQ(spread, 0);
+  EXPECT_EQ(mean, 7);
+}
+
+TEST(Dispersion, TwoPassesKeepTheDigitsThatOnePassCancels) {
+  const TQorFloatVector v{1e12L + 1, 1e12L + 2, 1e12L + 3};
+  EXPECT_EQ(SampleVariance(v), 1);
+  Extended variance = 0;
+  Extended mean = 0;
+  SampleVarianceAndMean(v, variance, mean);
+  EXPECT_NE(variance, 1);
+  EXPECT_EQ(mean, 1e12L + 2);
+}
+
+TEST(Dispersion, TheMeanOfSinglesIsNotRoundedToASingle) {
+  // Mean 1000.000030517578125 lies half way between two singles.
+  EXPECT_EQ(SampleVariance(TQorSingleVector{1000.0F, 1000.00006103515625F}),
+            0x1p-14L * 0x1p-14L / 2);
+}
+
+TEST(Dispersion, IntegerSumsWrapAndANegativeVarianceHasNoRoot) {
+  const std::int64_t huge = std::int64_t{1} << 62;
+  EXPECT_EQ(QorMean(TQorInt64Vector{huge, huge}), -0x1p62L) << "the int64 sum wraps";
+  EXPECT_EQ(QorMean(TQorFloatVector{0x1p62L, 0x1p62L}), 0x1p62L);
+  // The squares wrap to 0, the sum does not.
+  const TQorInt64Vector squares_wrap{std::int64_t{1} << 32, std::int64_t{1} << 32};
+  Extended spread = 41;
+  Extended mean = 42;
+  PopulationVarianceAndMean(squares_wrap, spread, mean);
+  EXPECT_EQ(spread, -0x1p64L);
+  spread = 41;
+  mean = 42;
+  EXPECT_ERROR(PopulationStdDevAndMean(squares_wrap, spread, mean), EInvalidOp, rsInvalidOp);
+  EXPECT_EQ(spread, 41);
+  EXPECT_EQ(mean, 42);
+}
+
+TEST(Dispersion, StandardiseScalesInPlace) {
+  TQorFloatVector v{2, 4, 4, 4, 5, 5, 7, 9};
+  TQorFloatVector sample = CopyVector(v);
+  TQorFloatVector given = CopyVector(v);
+  Standardise(v, 100, 15, true);
+  EXPECT_EQ(v, (TQorFloatVector{77.5L, 92.5L, 92.5L, 92.5L, 100, 100, 115, 130}));
+  Standardise(sample, 0, 1, false);
+  EXPECT_EQ(sample[7], 4 / std::sqrt(32 / 7.0L));
+  Standardise(given, 1, 2, 10, 4);
+  EXPECT_EQ(given[0], 12);
+}
+
+TEST(Dispersion, StandardiseTestsForAnExactZero) {
+  TQorFloatVector v{1, 2};
+  EXPECT_MATH_ERROR(Standardise(v, 0, 0, 0, 1), rsStdDev);
+  EXPECT_EQ(v, (TQorFloatVector{1, 2}));
+  Standardise(v, 0, 1e-20L, 0, 1);
+  EXPECT_EQ(v[1], 2 / 1e-20L);
+  TQorFloatVector empty;
+  TQorFloatVector one{1};
+  EXPECT_MATH_ERROR(Standardise(empty, 0, 0, 0, 1), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(Standardise(one, 0, 1, false), rsVectorG1);
+  EXPECT_MATH_ERROR(Standardise(one, 0, 1, true), rsStdDev);
+}
+
+TEST(Location, MeansOfPositiveElements) {
+  const TQorFloatVector v{1, 2, 4};
+  EXPECT_NEAR(static_cast<double>(GeometricMean(v) - 2), 0, 1e-18);
+  EXPECT_EQ(HarmonicMean(v), 3 / 1.75L);
+  EXPECT_EQ(RootMeanSquare({3, 4}), 5);
+  EXPECT_MATH_ERROR(GeometricMean({}), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(GeometricMean({1, 0}), rsVectorNotPos);
+  EXPECT_MATH_ERROR(HarmonicMean({}), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(HarmonicMean({1, -1}), rsVectorNotPos);
+  EXPECT_MATH_ERROR(RootMeanSquare({}), rsVectorIsEmpty);
+}
+
+TEST(Dispersion, GeometricStdDevTakesTheSampleFlag) {
+  // The logarithms are -ln 2, 0 and ln 2.
+  const TQorFloatVector v{1, 2, 4};
+  const Extended ln2 = std::log(2.0L);
+  EXPECT_NEAR(static_cast<double>(GeometricStdDev(v, true) / std::exp(ln2)), 1, 1e-18);
+  EXPECT_NEAR(
+      static_cast<double>(GeometricStdDev(v, 2, false) / std::exp(ln2 * std::sqrt(2 / 3.0L))), 1,
+      1e-18);
+  EXPECT_MATH_ERROR(GeometricStdDev({}, true), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(GeometricStdDev({-1}, true), rsVectorG1);
+  EXPECT_MATH_ERROR(GeometricStdDev({-1}, false), rsVectorNotPos);
+  EXPECT_MATH_ERROR(GeometricStdDev({-1}, 2, true), rsVectorG1);
+  EXPECT_ERROR(GeometricStdDev(v, -1, true), EInvalidOp, rsInvalidOp);
+}
+
+TEST(Dispersion, MeanDeviationIsLenient) {
+  EXPECT_EQ(MeanDeviation({}, 5), 0);
+  EXPECT_EQ(MeanDeviation({1, 2, 6}, 3), 2);
+}
+
+}  // namespace
+}  // namespace qorvex

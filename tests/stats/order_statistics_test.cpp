@@ -1,0 +1,142 @@
+#include "qorvex/stats/order_statistics.h"
+
+#include <array>
+#include <gtest/gtest.h>
+#include <limits>
+#include <utility>
+
+#include "qorvex/stats/trimmed_means.h"
+#include "support/expect_error.h"
+
+namespace qorvex {
+namespace {
+
+TEST(Median, TakesTheVectorAsItStands) {
+  EXPECT_EQ(GetMedian(TQorFloatVector{4, 1, 3, 2}), 2);
+  EXPECT_EQ(GetMedian(TQorSingleVector{1, 2, 9}), 2);
+  EXPECT_EQ(GetMedian(TQorLIntVector{7}), 7);
+  constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+  EXPECT_EQ(GetMedian(TQorLIntVector{largest, largest}), largest);
+  EXPECT_EQ(GetMedian(TQorLWordVector{4294967295, 4294967295}), 4294967295.0L);
+  const std::int64_t huge = std::int64_t{1} << 62;
+  EXPECT_EQ(GetMedian(TQorInt64Vector{huge, huge}), -0x1p62L) << "the int64 sum wraps";
+  EXPECT_MATH_ERROR(GetMedian(TQorDoubleVector()), rsVectorIsEmpty);
+}
+
+std::pair<bool, Extended> Mode(const TQorFloatVector& v) {
+  Extended mode = 0;
+  const bool exists = GetMode(v, mode);
+  return {exists, mode};
+}
+
+TEST(Mode, IsTheLongestRunUnlessTied) {
+  using Result = std::pair<bool, Extended>;
+  constexpr Extended none = -1.1E4932L;
+  EXPECT_EQ(Mode({5}), Result(true, 5));
+  EXPECT_EQ(Mode({1, 2, 3}), Result(false, none));
+  EXPECT_EQ(Mode({1, 1, 2, 2}), Result(false, 1));
+  EXPECT_EQ(Mode({1, 2, 2}), Result(true, 2));
+  EXPECT_EQ(Mode({1, 1, 2}), Result(true, 1));
+  EXPECT_EQ(Mode({1, 1, 2, 2, 3, 3, 3}), Result(true, 3));
+  EXPECT_EQ(Mode({1, 1, 1, 2, 2, 3, 3, 3}), Result(false, 1));
+  EXPECT_EQ(Mode({4, 4}), Result(true, 4));
+  EXPECT_EQ(Mode({1, 1 + 0.5e-15L, 3}), Result(true, 1 + 0.5e-15L))
+      << "neighbours within the tolerance are one run";
+  EXPECT_MATH_ERROR(Mode({}), rsVectorIsEmpty);
+}
+
+TEST(MostFrequent, ListsEveryLongestRun) {
+  EXPECT_EQ(GetMostFrequent({1, 1, 2, 2, 3}), (TQorFloatVector{1, 2}));
+  EXPECT_EQ(GetMostFrequent({1, 2, 2}), (TQorFloatVector{2}));
+  EXPECT_EQ(GetMostFrequent({1, 1, 2, 2, 2, 3, 3, 3}), (TQorFloatVector{2, 3}));
+  EXPECT_TRUE(GetMostFrequent({1, 2, 3}).empty());
+  EXPECT_EQ(GetMostFrequent({5}), (TQorFloatVector{5}));
+  EXPECT_EQ(GetMostFrequent({5, 5 + 1e-15L, 5 + 2e-15L}), (TQorFloatVector{5}))
+      << "the first of an all-equal vector";
+  EXPECT_EQ(GetMostFrequent({1, 5, 5 + 1e-15L}), (TQorFloatVector{5 + 1e-15L}))
+      << "the last of a run";
+  EXPECT_MATH_ERROR(GetMostFrequent({}), rsVectorIsEmpty);
+}
+
+TEST(Quartiles, InterpolateBetweenElements) {
+  const struct {
+    TQorFloatVector values;
+    Extended q1, q3;
+  } cases[] = {
+      {{9}, 9, 9},
+      {{1, 2}, 1, 2},
+      {{1, 2, 3}, 1.25L, 2.75L},
+      {{1, 2, 3, 4}, 1.5L, 3.5L},
+      {{10, 20, 30, 40, 50}, 17.5L, 42.5L},
+      {{1, 2, 4, 8, 16, 32, 64}, 2.5L, 28},
+  };
+  for (const auto& [values, expected_q1, expected_q3] : cases) {
+    Extended q1 = 0;
+    Extended q3 = 0;
+    GetQuartiles(values, q1, q3);
+    EXPECT_EQ(q1, expected_q1) << values.size();
+    EXPECT_EQ(q3, expected_q3) << values.size();
+  }
+  Extended q = 7;
+  EXPECT_MATH_ERROR(GetQuartiles({}, q, q), rsVectorIsEmpty);
+  EXPECT_EQ(q, 7);
+}
+
+TEST(Deciles, HoldTheirPositionsInSinglePrecision) {
+  std::array<Extended, 9> deciles{};
+  TQorFloatVector tens;
+  for (int i = 1; i <= 10; ++i) tens.Append(10 * i);
+  GetDeciles(tens, deciles);
+  for (std::size_t i = 0; i < 9; ++i)
+    EXPECT_EQ(deciles[i], 10 * static_cast<Extended>(i) + 15) << i;
+
+  GetDeciles({0, 1, 2}, deciles);
+  // Position 3 * 4/10 + 1/2 = 1.7 as a single.
+  EXPECT_EQ(deciles[3], static_cast<Extended>(1.7F) - 1);
+  EXPECT_EQ(deciles[0], 0) << "position 0.8 lies before the first element";
+  EXPECT_EQ(deciles[8], 2) << "position 3.2 lies beyond the last";
+
+  GetDeciles({4}, deciles);
+  for (const Extended decile : deciles) EXPECT_EQ(decile, 4);
+  EXPECT_MATH_ERROR(GetDeciles({}, deciles), rsVectorIsEmpty);
+  EXPECT_EQ(deciles[0], 4);
+}
+
+TEST(TrimmedMeans, CutPerTailOrInTotal) {
+  const TQorFloatVector ten{0, 2, 3, 4, 5, 6, 7, 8, 9, 100};
+  EXPECT_EQ(TrimmedMean(ten, 0.15L), 44 / 8.0L) << "one from each end";
+  EXPECT_EQ(ExcelTrimmedMean(ten, 0.15L), 144 / 10.0L) << "half of one is none";
+  EXPECT_EQ(ExcelTrimmedMean(ten, 0.2L), 44 / 8.0L);
+  EXPECT_EQ(TrimmedMean(ten, 0), 14.4L);
+  EXPECT_EQ(TrimmedMean(ten, -1e-16L), 14.4L) << "zero within the tolerance";
+  EXPECT_EQ(TrimmedMean(ten, 0.5L), 5.5L);
+  EXPECT_EQ(ExcelTrimmedMean(ten, 1), 5.5L);
+  EXPECT_EQ(TrimmedMean(TQorLIntVector{1, 2, 30}, 0.4L), 2);
+  EXPECT_EQ(TrimmedMean(TQorLWordVector{4294967295, 4294967295}, 0.1L), 4294967295.0L);
+  EXPECT_EQ(TrimmedMean(TQorFloatVector{8}, 0.3L), 8);
+}
+
+TEST(TrimmedMeans, TakeTheFractionAsItIsStored) {
+  TQorFloatVector twenty;
+  for (int i = 0; i < 20; ++i) twenty.Append(i * i);
+  Extended trimmed = 0;
+  for (int i = 3; i < 17; ++i) trimmed += i * i;
+  EXPECT_EQ(TrimmedMean(twenty, 0.15L), trimmed / 14);
+  EXPECT_EQ(TrimmedMean(twenty, 0.15), (trimmed + 4 + 17 * 17) / 16)
+      << "the double lies below the decimal";
+}
+
+TEST(TrimmedMeans, CheckTheFractionBeforeTheVector) {
+  const Extended nan = std::numeric_limits<Extended>::quiet_NaN();
+  const TQorFloatVector empty;
+  for (const Extended fraction : {-0.1L, 0.6L, nan})
+    EXPECT_MATH_ERROR(TrimmedMean(empty, fraction), rsInvalidValue);
+  for (const Extended fraction : {-0.1L, 1.1L, nan})
+    EXPECT_MATH_ERROR(ExcelTrimmedMean(empty, fraction), rsInvalidValue);
+  EXPECT_MATH_ERROR(TrimmedMean(empty, 0.1L), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(TrimmedMean(empty, 0), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(ExcelTrimmedMean(empty, 1), rsVectorIsEmpty);
+}
+
+}  // namespace
+}  // namespace qorvex
