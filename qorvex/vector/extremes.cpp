@@ -32,6 +32,7 @@ void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value, std::
   bool largest_once = true;
   for (std::size_t i = 1; i < vector.size(); ++i) {
     const T x = vector[i];
+    if (smallest < x && x < largest) continue;
     if (smallest > x) {
       smallest = x;
       smallest_at = i;

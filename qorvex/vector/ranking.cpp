@@ -1,10 +1,12 @@
 #include "qorvex/vector/ranking.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <memory>
 
 #include "qorvex/base/comparisons.h"
-#include "qorvex/vector/building.h"
-#include "qorvex/vector/sorting.h"
+#include "qorvex/vector/detail/key_sort.h"
+#include "qorvex/vector/detail/sort_keys.h"
 
 namespace qorvex::inline QorvexVector {
 
@@ -43,18 +45,36 @@ std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending
       std::ranges::count_if(vector, [=](T x) { return Before(x, first, ascending); }));
 }
 
-// The first position of an element that equals one of the elements. Equal elements lie together in
-// the sorted vector, so those before the value's own place are a suffix of what sorts before it.
+// Ranks all elements from a sort of records that hold an element's key above its index. Elements
+// that equal one another lie together, and the first equal of a later element is never before that
+// of an earlier one.
 template <NumericElement T>
-std::int32_t RankOfElement(const TQorVector<T>& sorted, T value, bool ascending) {
-  const T* const place = std::partition_point(sorted.begin(), sorted.end(),
-                                              [=](T x) { return Before(x, value, ascending); });
-  if constexpr (FloatElement<T>) {
-    const T* const first =
-        std::partition_point(sorted.begin(), place, [=](T x) { return !Equal(x, value); });
-    return static_cast<std::int32_t>(first - sorted.begin());
-  } else {
-    return static_cast<std::int32_t>(place - sorted.begin());
+void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& ranks) {
+  using Traits = detail::SortKey<T>;
+  using Key = typename Traits::Key;
+  using Record = detail::UInt128;
+  const int index_bits = detail::BitWidth(vector.size());
+  const Record index_mask = (Record{1} << index_bits) - 1;
+  const Key direction = static_cast<Key>(ascending ? Key{0} : Traits::kKeyMask);
+
+  const auto records = std::make_unique_for_overwrite<Record[]>(vector.size());
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < vector.size(); ++i) {
+    if (!Equal(vector[i], vector[i])) continue;  // NaN
+    const Record key = static_cast<Key>(Traits::Read(&vector[i]) ^ direction);
+    records[count++] = key << index_bits | i;
+  }
+  detail::KeySorter<Record>(count).Sort(records.get());
+
+  const auto value = [&](const Record& record) {
+    return Traits::Value(static_cast<Key>(static_cast<Key>(record >> index_bits) ^ direction));
+  };
+  std::size_t first_equal = 0;
+  for (std::size_t position = 0; position < count; ++position) {
+    const T x = value(records[position]);
+    while (!Equal(value(records[first_equal]), x)) ++first_equal;
+    ranks[static_cast<std::size_t>(records[position] & index_mask)] =
+        static_cast<std::int32_t>(first_equal);
   }
 }
 
@@ -63,16 +83,12 @@ std::int32_t RankOfElement(const TQorVector<T>& sorted, T value, bool ascending)
 template <NumericElement T>
 TQorLIntVector Vector2RankVector(const TQorVector<T>& vector, bool ascending) {
   auto ranks = TQorLIntVector::WithLength(vector.size());
-  const bool contiguous = IntegerElement<T> || !(QorTolerance >= kContiguityLimit);
-  TQorVector<T> sorted;
-  if (contiguous) {
-    sorted = CopyVector(vector);
-    QSortVector(sorted, ascending);
+  if (IntegerElement<T> || !(QorTolerance >= kContiguityLimit)) {
+    RankBySorting(vector, ascending, ranks);
+  } else {
+    std::ranges::transform(vector, ranks.begin(),
+                           [&](T x) { return std::max(RankByCounting(vector, x, ascending), 0); });
   }
-  std::ranges::transform(vector, ranks.begin(), [&](T x) {
-    if (!Equal(x, x)) return 0;  // NaN
-    return contiguous ? RankOfElement(sorted, x, ascending) : RankByCounting(vector, x, ascending);
-  });
   return ranks;
 }
 

@@ -17,9 +17,9 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The rank of every element; 0 for NaN. Empty for an empty vector. O(n log n), on a sorted copy;
-/// O(n^2) once QorTolerance is 0.5 or more, where the elements that equal a value need not lie
-/// together.
+/// The rank of every element; 0 for NaN. Empty for an empty vector. The cost of a sort, with 32
+/// bytes of memory an element; O(n^2) once QorTolerance is 0.5 or more, where the elements that
+/// equal a value need not lie together.
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(const TQorVector<T>& vector,
                                                              bool ascending);

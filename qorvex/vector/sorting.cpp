@@ -1,7 +1,6 @@
 #include "qorvex/vector/sorting.h"
 
 #include <algorithm>
-#include <memory>
 #include <new>
 
 #include "qorvex/vector/detail/key_sort.h"
@@ -18,19 +17,14 @@ void SortInPlace(T* elements, std::size_t count, bool ascending) {
   using Key = typename Traits::Key;
   static_assert(sizeof(Key) == sizeof(T) && alignof(Key) == alignof(T));
 
-  const bool radix = count >= detail::kShortestRadixSort;
-  const auto scratch = radix ? std::make_unique_for_overwrite<Key[]>(count) : nullptr;
+  detail::KeySorter<Key> sorter(count);
   const Key direction = static_cast<Key>(ascending ? Key{0} : ~Key{0});
   for (std::size_t i = 0; i < count; ++i) {
     const Key key = static_cast<Key>(Traits::Read(elements + i) ^ direction);
     ::new (static_cast<void*>(elements + i)) Key(key);
   }
   Key* const keys = std::launder(reinterpret_cast<Key*>(elements));
-  if (radix) {
-    detail::RadixSort(keys, scratch.get(), count);
-  } else {
-    detail::QuickSort(keys, keys + count);
-  }
+  sorter.Sort(keys);
   for (std::size_t i = 0; i < count; ++i) {
     const Key key = static_cast<Key>(keys[i] ^ direction);
     ::new (static_cast<void*>(keys + i)) T(Traits::Value(key));

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <memory>
 #include <tuple>
 #include <utility>
 
@@ -104,5 +105,28 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
     run = run_end;
   }
 }
+
+// Sorts a given number of keys by the method that suits it. Construction allocates all that the
+// sort needs, so that it can fail before a key has moved.
+template <class Key>
+class KeySorter {
+ public:
+  explicit KeySorter(std::size_t count)
+      : count_(count),
+        scratch_(count < kShortestRadixSort ? nullptr
+                                            : std::make_unique_for_overwrite<Key[]>(count)) {}
+
+  void Sort(Key* keys) {
+    if (scratch_ == nullptr) {
+      QuickSort(keys, keys + count_);
+    } else {
+      RadixSort(keys, scratch_.get(), count_);
+    }
+  }
+
+ private:
+  std::size_t count_;
+  std::unique_ptr<Key[]> scratch_;
+};
 
 }  // namespace qorvex::inline QorvexVector::detail

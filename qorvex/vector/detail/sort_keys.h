@@ -1,7 +1,8 @@
 #pragma once
 
-// Unsigned keys in the order of the elements. Sorting keys instead of elements makes floating
-// comparisons integer ones and lets a radix sort read the bits.
+// Unsigned keys in the order of the elements; kKeyMask has the bits that a key may use, so that xor
+// with it turns the order. Sorting keys instead of elements makes floating comparisons integer ones
+// and lets a radix sort read the bits.
 
 #include <concepts>
 #include <cstdint>
@@ -21,6 +22,7 @@ struct SortKey;
 template <std::integral T>
 struct SortKey<T> {
   using Key = std::make_unsigned_t<T>;
+  static constexpr Key kKeyMask = static_cast<Key>(~Key{0});
   static constexpr Key kFlip =
       std::signed_integral<T> ? static_cast<Key>(Key{1} << (8 * sizeof(T) - 1)) : Key{0};
 
@@ -35,6 +37,7 @@ struct SortKey<T> {
 template <class T, class Bits>
 struct IeeeSortKey {
   using Key = Bits;
+  static constexpr Key kKeyMask = ~Key{0};
   static constexpr Key kSign = Key{1} << (8 * sizeof(T) - 1);
 
   static Key Read(const T* element) noexcept {
@@ -59,6 +62,7 @@ struct SortKey<double> : IeeeSortKey<double, std::uint64_t> {};
 template <>
 struct SortKey<Extended> {
   using Key = UInt128;
+  static constexpr Key kKeyMask = (Key{1} << 80) - 1;
 
   static Key Read(const Extended* element) noexcept {
     std::uint64_t mantissa;

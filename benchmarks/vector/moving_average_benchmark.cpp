@@ -1,0 +1,36 @@
+// The moving average over 8 elements beside the plain double loop.
+
+#include "qorvex/vector/moving_average.h"
+#include "support/compare.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+// Known at run time only, as it is for callers.
+volatile std::uint32_t eight = 8;
+
+template <FloatElement T>
+void RegisterType() {
+  Compare<T>("MovingAverage", "ours",
+             [](const TQorVector<T>& v) { return MovingAverage(v, eight, 0); });
+  Compare<T>("MovingAverage", "loop", [](const TQorVector<T>& v) {
+    const std::uint32_t period = eight;
+    auto result = TQorVector<T>::WithLength(v.size());
+    for (std::size_t start = 0; start + period <= v.size(); ++start) {
+      Extended sum = 0;
+      for (std::size_t i = 0; i < period; ++i) sum += static_cast<Extended>(v[start + i]);
+      result[start] = static_cast<T>(sum / period);
+    }
+    return result;
+  });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterType<Extended>();
+  RegisterType<double>();
+  RegisterType<float>();
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks

@@ -1,0 +1,112 @@
+// Sums, sums of squares, dot products and extremes, beside the plain loop in long double and the
+// statistics libraries.
+
+#include <Eigen/Core>
+#include <algorithm>
+#include <boost/math/statistics/univariate_statistics.hpp>
+#include <gsl/gsl_statistics_long_double.h>
+#include <numeric>
+
+#include "qorvex/vector/QorvexVector.h"
+#include "support/compare.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+using EigenVector = Eigen::Map<const Eigen::Matrix<Extended, Eigen::Dynamic, 1>>;
+
+EigenVector AsEigen(const TQorFloatVector& v) {
+  return {v.data(), static_cast<Eigen::Index>(v.size())};
+}
+
+template <NumericElement T>
+void RegisterType() {
+  Compare<T>("SumVector", "ours", [](const TQorVector<T>& v) { return SumVector(v); });
+  Compare<T>("SumVector", "loop", [](const TQorVector<T>& v) {
+    Extended sum = 0;
+    for (const T x : v) sum += static_cast<Extended>(x);
+    return sum;
+  });
+  Compare<T>("SumSqVector", "ours", [](const TQorVector<T>& v) { return SumSqVector(v); });
+  Compare<T>("SumSqVector", "loop", [](const TQorVector<T>& v) {
+    Extended sum = 0;
+    for (const T x : v) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
+    return sum;
+  });
+  Compare<T>("MinMaxVector", "ours", [](const TQorVector<T>& v) {
+    T low = 0;
+    T high = 0;
+    std::uint32_t low_at = 0;
+    std::uint32_t high_at = 0;
+    bool low_once = false;
+    bool high_once = false;
+    MinMaxVector(v, low, high, low_at, high_at, low_once, high_once);
+    return low_at + high_at;
+  });
+  Compare<T>("MinMaxVector", "std::minmax_element", [](const TQorVector<T>& v) {
+    const auto [low, high] = std::minmax_element(v.begin(), v.end());
+    return low - high;
+  });
+}
+
+template <WideNumericElement T>
+void RegisterDotProduct() {
+  Compare<T>("DotProdVectors", "ours",
+             [](const TQorVector<T>& v, const TQorVector<T>& w) { return DotProdVectors(v, w); });
+  Compare<T>("DotProdVectors", "loop", [](const TQorVector<T>& v, const TQorVector<T>& w) {
+    Extended sum = 0;
+    for (std::size_t i = 0; i < v.size(); ++i)
+      sum += static_cast<Extended>(v[i]) * static_cast<Extended>(w[i]);
+    return sum;
+  });
+}
+
+void RegisterPeers() {
+  Compare<Extended>("SumVector", "Eigen",
+                    [](const TQorFloatVector& v) { return AsEigen(v).sum(); });
+  Compare<Extended>("SumVector", "std::accumulate", [](const TQorFloatVector& v) {
+    return std::accumulate(v.begin(), v.end(), Extended(0));
+  });
+  Compare<Extended>("SumVector", "GSL mean", [](const TQorFloatVector& v) {
+    return gsl_stats_long_double_mean(v.data(), 1, v.size());
+  });
+  Compare<Extended>("SumVector", "Boost mean", [](const TQorFloatVector& v) {
+    return boost::math::statistics::mean(v.begin(), v.end());
+  });
+  Compare<Extended>("SumSqVector", "Eigen",
+                    [](const TQorFloatVector& v) { return AsEigen(v).squaredNorm(); });
+  Compare<Extended>("DotProdVectors", "Eigen",
+                    [](const TQorFloatVector& v, const TQorFloatVector& w) {
+                      return AsEigen(v).dot(AsEigen(w));
+                    });
+  Compare<Extended>("MinMaxVector", "GSL", [](const TQorFloatVector& v) {
+    std::size_t low = 0;
+    std::size_t high = 0;
+    gsl_stats_long_double_minmax_index(&low, &high, v.data(), 1, v.size());
+    return low + high;
+  });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterType<Extended>();
+  RegisterType<double>();
+  RegisterType<float>();
+  RegisterType<std::int64_t>();
+  RegisterType<std::uint32_t>();
+  RegisterType<std::int32_t>();
+  RegisterType<std::uint16_t>();
+  RegisterType<std::int16_t>();
+  RegisterType<std::uint8_t>();
+  RegisterType<std::int8_t>();
+  RegisterDotProduct<Extended>();
+  RegisterDotProduct<double>();
+  RegisterDotProduct<float>();
+  RegisterDotProduct<std::int64_t>();
+  RegisterDotProduct<std::uint32_t>();
+  RegisterDotProduct<std::int32_t>();
+  RegisterPeers();
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
