@@ -10,9 +10,9 @@
 #include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 
-#include <CLI/Option.hpp>
-#include <CLI/Validators.hpp>
-
+#include <algorithm>
+#include <array>
+#include <cmath>
 #include <memory>
 #include <optional>
 #include <string>
@@ -23,6 +23,17 @@ namespace qorvex::cli {
 
 namespace {
 
+constexpr const char* kExamples = R"(
+
+Examples:
+  qorvex describe speeds.csv --column speed
+  qorvex describe speeds.csv --column 3 --column 4 --decimals 2
+  grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty
+
+Exit status:
+  0 success; 2 wrong usage or bad input; 1 anything else. Nothing is printed on
+  standard output unless all input is good.)";
+
 struct DescribeArguments {
   TableArguments table;
   bool population = false;
@@ -30,15 +41,30 @@ struct DescribeArguments {
   bool json = false;
 };
 
-// Computes the statistics of a column, whose values move into them.
+bool AllFinite(const DescriptiveResults& results) {
+  const Extended range = results.maximum - results.minimum;
+  return std::ranges::all_of(std::array{results.sum, results.sum_sq, results.variance, results.skew,
+                                        results.kurtosis, results.median, range},
+                             [](Extended figure) { return std::isfinite(figure); });
+}
+
+// Computes the statistics of a column, whose values move into them. Figures that overflow are
+// refused rather than printed as infinities, from which others would follow that mean nothing.
 DescriptiveStats StatisticsOf(TableColumn& column, const DescribeArguments& arguments) {
   DescriptiveStats statistics;
   statistics.SetPopulation(arguments.population);
+  bool in_range = false;
   try {
     statistics.SetValues(std::move(column.values));
-  } catch (const EMathError& error) {
+    in_range = AllFinite(statistics.Results());
+  } catch (const EMathError&) {
+    // The statistics of finite values have no other errors than those that an overflow leads to.
+  }
+  if (!in_range) {
     throw InputError(InputFault::kOutOfRange, InputName(arguments.table.file),
-                     column.Title() + ": " + error.what());
+                     column.Title() +
+                         ": the values are too large; their statistics are beyond the range of "
+                         "extended precision");
   }
   return statistics;
 }
@@ -65,7 +91,11 @@ void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveSta
   json.Key("column");
   json.Integer(column.number);
   json.Key("name");
-  column.name.empty() ? json.Null() : json.String(column.name);
+  if (column.name.empty()) {
+    json.Null();
+  } else {
+    json.String(column.name);
+  }
   json.Key("count");
   json.Integer(count);
   json.Key("skipped");
@@ -132,13 +162,12 @@ void AddDescribe(CLI::App& program) {
   command.add_flag("--population", arguments->population,
                    "The values are the whole population: divide by n, not by n - 1");
   command.add_option("--decimals", arguments->decimals, "Decimals of the report")
-      ->type_name("N")
       ->check(CLI::Range(0, 255))
-      ->capture_default_str();
+      ->option_text("N (0 to 255, default 4)");
   command.add_flag("--json", arguments->json,
                    "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
                    "null for those that do not exist");
-  command.footer(kTableHelp);
+  command.footer(std::string(kTableHelp) + kExamples);
   command.callback([arguments] { Describe(*arguments); });
 }
 

@@ -4,8 +4,7 @@
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/text_output.h"
 
-#include <CLI/App.hpp>
-#include <CLI/Error.hpp>
+#include <CLI/CLI.hpp>
 
 #include <exception>
 #include <new>
@@ -20,12 +19,13 @@ enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
 
 int Run(int argc, char** argv) {
   CLI::App program("Numerics and statistics in 80-bit extended precision.", "qorvex");
-  program.set_version_flag("--version", QORVEX_VERSION, "Print the version and exit");
-  program.require_subcommand(1);
+  program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
 
   try {
     program.parse(argc, argv);
+    // Asked here and not by require_subcommand, so that a misspelt command is named.
+    if (program.get_subcommands().empty()) throw CLI::RequiredError("A command");
     return kSuccess;
   } catch (const CLI::Error& error) {
     // The requests for help and for the version arrive here too.

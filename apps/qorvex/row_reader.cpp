@@ -168,9 +168,8 @@ const char* RowReader::ScanQuotedCell(const char* at) {
   if (at != end && *at == '\r' && at + 1 != end && at[1] == '\n') ++at;
   if (at == end || (*at == '\r' && at + 1 == end)) return nullptr;
   if (!ends_plain_cell_[Index(*at)]) {
-    const char* const rest = at;
-    while (at != end && !ends_plain_cell_[Index(*at)]) ++at;
-    FailAt(quote, Excerpt({rest, at}) + " follows a closing quote");
+    if (ScanPlainCell(at) == nullptr) return nullptr;
+    FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
   }
   if (doubled) cells_with_doubled_quotes_.push_back(cells_.size());
   cells_.push_back(text);

@@ -6,9 +6,6 @@
 #include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 
-#include <CLI/Error.hpp>
-#include <CLI/Option.hpp>
-
 #include <string_view>
 
 namespace qorvex::cli {
@@ -56,7 +53,9 @@ std::string Hint(InputFault fault, const TableSelection& selection) {
 }  // namespace
 
 void TableArguments::AddTo(CLI::App& command) {
-  command.add_option("FILE", file, "The table to read; - is standard input")->required();
+  command.add_option("FILE", file, "The table to read; - is standard input")
+      ->type_name("")
+      ->required();
   command
       .add_option("--column", selection.columns,
                   "A column, by name or by number from 1; a name wins over a number.\n"

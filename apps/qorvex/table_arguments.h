@@ -5,7 +5,7 @@
 
 #include "apps/qorvex/table_reader.h"
 
-#include <CLI/App.hpp>
+#include <CLI/CLI.hpp>
 
 #include <string>
 #include <vector>

@@ -118,7 +118,7 @@ TEST(RowReader, NamesTheLineOfAFault) {
   EXPECT_EQ(ErrorOf("a,b\n1,\"2\n3,4\n"), "data.csv:2: the quote is not closed");
   EXPECT_EQ(ErrorOf("a,b\n\"1\n2\",\"3\n"), "data.csv:3: the quote is not closed");
   EXPECT_EQ(ErrorOf("\""), "data.csv:1: the quote is not closed");
-  EXPECT_EQ(ErrorOf("a,b\n\"1\"x\t,2\n"), "data.csv:2: \"x\\t\" follows a closing quote");
+  EXPECT_EQ(ErrorOf("a,b\n\"1\"x\ty\r\n"), "data.csv:2: \"x\\ty\" follows a closing quote");
   EXPECT_EQ(ErrorOf("\"1\"2 3\n", ' '), "data.csv:1: \"2\" follows a closing quote");
   EXPECT_EQ(ErrorOf("\xFF\xFE"
                     "1\0,\0",
