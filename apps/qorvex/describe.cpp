@@ -2,6 +2,7 @@
 
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
 #include "qorvex/stats/descriptive_stats.h"
 
 #include "apps/qorvex/input_error.h"
@@ -16,6 +17,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -84,8 +86,9 @@ void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveSta
     json.Key(key);
     json.Number(exists ? std::optional(value) : std::nullopt);
   };
-  const bool varies = FloatIsNotZero(results.std_dev);
-  const bool has_variance = count > 1 || statistics.Population();
+  const bool has_variance = count >= 2 || statistics.Population();
+  const bool has_skewness = count >= 3 && FloatIsNotZero(results.std_dev);
+  const bool has_kurtosis = has_skewness && count >= 4;
 
   json.BeginObject();
   json.Key("column");
@@ -105,8 +108,8 @@ void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveSta
   figure("mean", results.mean);
   figure("variance", results.variance, has_variance);
   figure("standard_deviation", results.std_dev, has_variance);
-  figure("skewness", results.skew, count > 2 && varies);
-  figure("excess_kurtosis", results.kurtosis, count > 3 && varies);
+  figure("skewness", results.skew, has_skewness);
+  figure("excess_kurtosis", results.kurtosis, has_kurtosis);
   figure("minimum", results.minimum);
   figure("first_quartile", results.quartile_1st);
   figure("median", results.median);

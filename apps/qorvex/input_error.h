@@ -34,8 +34,7 @@ class InputError : public std::runtime_error {
   InputFault fault_;
 };
 
-/// The text on one line: control characters are written as escapes (\n, \t, \x1B). Everything else
-/// stays.
+/// The text on one line: control characters become escapes (\n, \t, \x1B), everything else stays.
 [[nodiscard]] std::string OnOneLine(std::string_view text);
 
 /// The text in double quotes, on one line, cut after 40 bytes.

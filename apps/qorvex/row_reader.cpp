@@ -74,15 +74,14 @@ char RowReader::DetectDelimiter() {
   return tab ? '\t' : ' ';
 }
 
-// Moves the unread bytes to the front and reads until the buffer is full. False when there is
-// nothing more.
+// Moves the unread bytes to the front and reads until the buffer is full. False at the text's end.
 bool RowReader::Refill() {
   if (input_ended_) return false;
   const std::size_t unread = end_ - begin_;
   std::memmove(buffer_.data(), buffer_.data() + begin_, unread);
   begin_ = 0;
   end_ = unread;
-  // One byte is kept for a line end that the last line may lack.
+  // One byte is kept for the line end that the last line may lack.
   if (end_ + 1 == buffer_.size()) {
     if (buffer_.size() >= kLongestRow) {
       FailAt(buffer_.data(),
@@ -95,8 +94,9 @@ bool RowReader::Refill() {
     end_ += count;
     input_ended_ = count == 0;
   }
-  if (input_ended_ && end_ != 0 && buffer_[end_ - 1] != '\n') buffer_[end_++] = '\n';
-  return end_ > unread;
+  // After a line that has its own end this adds a blank line, which counts for nothing here.
+  if (input_ended_) buffer_[end_++] = '\n';
+  return true;
 }
 
 // Reads one line, or several when quotes hold line breaks, into cells_; a blank line gives none.
@@ -109,8 +109,8 @@ bool RowReader::ReadLine() {
   return true;
 }
 
-// False when the row does not end within the buffer; it is then scanned again after a refill, which
-// costs at most one more pass over each block and over each doubling of a long row.
+// False when the row does not end within the buffer. It is then scanned again after a refill: one
+// more row for each block, and one more pass for each doubling of the buffer under a long row.
 bool RowReader::ScanRow() {
   cells_.clear();
   cells_with_doubled_quotes_.clear();
@@ -134,8 +134,8 @@ bool RowReader::ScanRow() {
   return true;
 }
 
-// Both scans append the cell and give the position of the delimiter or LF that ends it, or null at
-// the buffer's end.
+// Both scans append the cell and give the position of the delimiter or line feed that ends it; null
+// when that is not in the buffer.
 const char* RowReader::ScanPlainCell(const char* at) {
   const char* const cell = at;
   const char* const end = End();
@@ -165,8 +165,8 @@ const char* RowReader::ScanQuotedCell(const char* at) {
 
   ++at;
   if (!delimiter_is_blank_) at = SkipBlanks(at);
-  if (at != end && *at == '\r' && at + 1 != end && at[1] == '\n') ++at;
-  if (at == end || (*at == '\r' && at + 1 == end)) return nullptr;
+  if (at == end) return nullptr;
+  if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
   if (!ends_plain_cell_[Index(*at)]) {
     if (ScanPlainCell(at) == nullptr) return nullptr;
     FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");

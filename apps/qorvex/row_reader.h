@@ -21,14 +21,13 @@ namespace qorvex::cli {
 ///
 /// - Lines end with LF or CR LF; the last line may lack its end. A UTF-8 byte order mark is
 /// skipped.
-/// - A blank as the delimiter stands for any run of spaces and tabs, and blanks around a line count
-/// for nothing.
-/// - A cell that starts with a double quote ends at the next single one; inside, two quotes are
-/// one, and delimiters and line
-///   breaks are text. Blanks around the quotes are ignored. A quote further inside a cell is text.
-/// - Unquoted cells come without the blanks around them.
-/// - Blank lines are no rows; they are counted, so that a caller can tell a gap from the end of the
-/// text.
+/// - A blank as the delimiter stands for any run of spaces and tabs; those around a line are
+/// ignored.
+/// - A cell that starts with a double quote ends at the next single one. Inside, two quotes are
+/// one,
+///   and delimiters and line breaks are text. A quote further inside a cell is text.
+/// - Blanks around quotes and around unquoted cells are ignored.
+/// - Blank lines are no rows, but are counted, so that a caller can tell a gap from the end.
 ///
 /// Memory: one block, or twice the longest row when that is longer.
 class RowReader {

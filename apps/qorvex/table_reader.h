@@ -49,7 +49,7 @@ struct TableColumn {
 /// Raises InputError for what RowReader refuses; kNoValues for a text without rows, and for a
 /// column without values; kNoSuchColumn; kMalformed for a row that is not as long as the first;
 /// kEmptyCell, kNotANumber and kOutOfRange for a cell. Otherwise every column has at least one
-/// value. The first fault in the text is the one that is reported.
+/// value. The first line at fault is the one that is reported.
 ///
 /// Memory: 16 bytes a value, at most 40 while a column grows.
 [[nodiscard]] std::vector<TableColumn> ReadTable(TextInput input, const TableSelection& selection);
