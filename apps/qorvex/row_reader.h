@@ -19,13 +19,10 @@ namespace qorvex::cli {
 /// Reads delimited text (RFC 4180, or columns separated by blanks) row by row, in large blocks,
 /// without copying cells.
 ///
-/// - Lines end with LF or CR LF; the last line may lack its end. A UTF-8 byte order mark is
-/// skipped.
-/// - A blank as the delimiter stands for any run of spaces and tabs; those around a line are
-/// ignored.
-/// - A cell that starts with a double quote ends at the next single one. Inside, two quotes are
-/// one,
-///   and delimiters and line breaks are text. A quote further inside a cell is text.
+/// - Lines end with LF or CR LF; the last may lack its end. A UTF-8 byte order mark is skipped.
+/// - A blank as the delimiter stands for any run of spaces and tabs, and none around a line counts.
+/// - A cell that starts with a double quote ends at the next single one. Inside, two quotes mean
+///   one, and delimiters and line breaks are text. A quote further inside a cell is text.
 /// - Blanks around quotes and around unquoted cells are ignored.
 /// - Blank lines are no rows, but are counted, so that a caller can tell a gap from the end.
 ///

@@ -16,7 +16,8 @@ void WriteResult(std::string_view text) {
 
 void WriteRemark(std::string_view text) {
   const std::string line = "qorvex: " + std::string(text) + '\n';
-  std::fwrite(line.data(), 1, line.size(), stderr);
+  // There is nowhere left to say that standard error cannot be written.
+  static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
 }  // namespace qorvex::cli
