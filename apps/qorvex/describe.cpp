@@ -1,0 +1,177 @@
+#include "apps/qorvex/describe.h"
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+#include "qorvex/stats/descriptive_stats.h"
+
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/table_arguments.h"
+#include "apps/qorvex/text_input.h"
+#include "apps/qorvex/text_output.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace qorvex::cli {
+
+namespace {
+
+constexpr const char* kExamples = R"(
+
+Examples:
+  qorvex describe speeds.csv --column speed
+  qorvex describe speeds.csv --column 3 --column 4 --decimals 2
+  grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty
+
+Exit status:
+  0 success; 2 wrong usage or bad input; 1 anything else. Nothing is printed on
+  standard output unless all input is good.)";
+
+struct DescribeArguments {
+  TableArguments table;
+  bool population = false;
+  int decimals = 4;
+  bool json = false;
+};
+
+bool AllFinite(const DescriptiveResults& results) {
+  const Extended range = results.maximum - results.minimum;
+  return std::ranges::all_of(std::array{results.sum, results.sum_sq, results.variance, results.skew,
+                                        results.kurtosis, results.median, range},
+                             [](Extended figure) { return std::isfinite(figure); });
+}
+
+// Computes the statistics of a column, whose values move into them. Figures that overflow are
+// refused rather than printed as infinities, from which others would follow that mean nothing.
+DescriptiveStats StatisticsOf(TableColumn& column, const DescribeArguments& arguments) {
+  DescriptiveStats statistics;
+  statistics.SetPopulation(arguments.population);
+  bool in_range = false;
+  try {
+    statistics.SetValues(std::move(column.values));
+    in_range = AllFinite(statistics.Results());
+  } catch (const EMathError&) {
+    // The statistics of finite values have no other errors than those that an overflow leads to.
+  }
+  if (!in_range) {
+    throw InputError(InputFault::kOutOfRange, InputName(arguments.table.file),
+                     column.Title() +
+                         ": the values are too large; their statistics are beyond the range of "
+                         "extended precision");
+  }
+  return statistics;
+}
+
+std::string TextReport(const TableColumn& column, DescriptiveStats& statistics, int decimals) {
+  std::string text = "Column " + Int2EStr(column.number);
+  if (!column.name.empty()) text += ": " + OnOneLine(column.name);
+  text += '\n';
+  for (const std::string& line : statistics.Report(decimals)) text += line + '\n';
+  return text;
+}
+
+void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveStats& statistics) {
+  const DescriptiveResults& results = statistics.Results();
+  const std::size_t count = statistics.NoOfValues();
+  const auto figure = [&](std::string_view key, Extended value, bool exists = true) {
+    json.Key(key);
+    json.Number(exists ? std::optional(value) : std::nullopt);
+  };
+  const bool has_variance = count >= 2 || statistics.Population();
+  const bool has_skewness = count >= 3 && FloatIsNotZero(results.std_dev);
+  const bool has_kurtosis = has_skewness && count >= 4;
+
+  json.BeginObject();
+  json.Key("column");
+  json.Integer(column.number);
+  json.Key("name");
+  if (column.name.empty()) {
+    json.Null();
+  } else {
+    json.String(column.name);
+  }
+  json.Key("count");
+  json.Integer(count);
+  json.Key("skipped");
+  json.Integer(column.skipped);
+  figure("sum", results.sum);
+  figure("sum_of_squares", results.sum_sq);
+  figure("mean", results.mean);
+  figure("variance", results.variance, has_variance);
+  figure("standard_deviation", results.std_dev, has_variance);
+  figure("skewness", results.skew, has_skewness);
+  figure("excess_kurtosis", results.kurtosis, has_kurtosis);
+  figure("minimum", results.minimum);
+  figure("first_quartile", results.quartile_1st);
+  figure("median", results.median);
+  figure("third_quartile", results.quartile_3rd);
+  figure("maximum", results.maximum);
+  figure("range", results.maximum - results.minimum);
+  figure("interquartile_range", results.inter_quartile_range);
+  figure("mode", results.mode, results.mode_exists);
+  json.EndObject();
+}
+
+// Each column's sorted copy is gone before the next one is made.
+std::string TextOf(std::vector<TableColumn>& columns, const DescribeArguments& arguments) {
+  std::string text;
+  for (TableColumn& column : columns) {
+    DescriptiveStats statistics = StatisticsOf(column, arguments);
+    if (!text.empty()) text += '\n';
+    text += TextReport(column, statistics, arguments.decimals);
+  }
+  return text;
+}
+
+std::string JsonOf(std::vector<TableColumn>& columns, const DescribeArguments& arguments) {
+  JsonWriter json;
+  json.BeginObject();
+  json.Key("file");
+  json.String(arguments.table.file);
+  json.Key("population");
+  json.Bool(arguments.population);
+  json.Key("columns");
+  json.BeginArray();
+  for (TableColumn& column : columns) {
+    const DescriptiveStats statistics = StatisticsOf(column, arguments);
+    WriteJson(json, column, statistics);
+  }
+  json.EndArray();
+  json.EndObject();
+  return json.TakeText();
+}
+
+void Describe(const DescribeArguments& arguments) {
+  std::vector<TableColumn> columns = arguments.table.Read();
+  WriteResult(arguments.json ? JsonOf(columns, arguments) : TextOf(columns, arguments));
+}
+
+}  // namespace
+
+void AddDescribe(CLI::App& program) {
+  CLI::App& command =
+      *program.add_subcommand("describe", "The descriptive statistics of columns of numbers");
+  const auto arguments = std::make_shared<DescribeArguments>();
+  arguments->table.AddTo(command);
+  command.add_flag("--population", arguments->population,
+                   "The values are the whole population: divide by n, not by n - 1");
+  command.add_option("--decimals", arguments->decimals, "Decimals of the report")
+      ->check(CLI::Range(0, 255))
+      ->option_text("N (0 to 255, default 4)");
+  command.add_flag("--json", arguments->json,
+                   "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
+                   "null for those that do not exist");
+  command.footer(std::string(kTableHelp) + kExamples);
+  command.callback([arguments] { Describe(*arguments); });
+}
+
+}  // namespace qorvex::cli

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace qorvex::cli {
+
+/// Adds the command `describe`: the descriptive statistics of columns of numbers.
+void AddDescribe(CLI::App& program);
+
+}  // namespace qorvex::cli

@@ -1,0 +1,61 @@
+#include "qorvex/base/version.h"
+
+#include "apps/qorvex/describe.h"
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/text_output.h"
+
+#include <CLI/CLI.hpp>
+
+#include <exception>
+#include <new>
+#include <sstream>
+#include <string>
+
+namespace qorvex::cli {
+
+namespace {
+
+enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
+
+int Run(int argc, char** argv) {
+  CLI::App program("Numerics and statistics in 80-bit extended precision.", "qorvex");
+  program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
+  AddDescribe(program);
+
+  try {
+    program.parse(argc, argv);
+    // Asked here and not by require_subcommand, so that a misspelt command is named.
+    if (program.get_subcommands().empty()) throw CLI::RequiredError("A command");
+    return kSuccess;
+  } catch (const CLI::Error& error) {
+    // The requests for help and for the version arrive here too.
+    if (error.get_exit_code() != 0) {
+      WriteRemark(error.what());
+      WriteRemark("--help tells what the program and its commands take");
+      return kBadInput;
+    }
+    std::ostringstream text;
+    program.exit(error, text);
+    WriteResult(text.str());
+    return kSuccess;
+  }
+}
+
+}  // namespace
+
+}  // namespace qorvex::cli
+
+int main(int argc, char** argv) {
+  using namespace qorvex::cli;
+  try {
+    return Run(argc, argv);
+  } catch (const InputError& error) {
+    WriteRemark(error.what());
+    return kBadInput;
+  } catch (const std::bad_alloc&) {
+    WriteRemark("out of memory");
+  } catch (const std::exception& error) {
+    WriteRemark(error.what());
+  }
+  return kFailure;
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+/// @file
+/// The arguments by which a command is told which table, and what of it, to read.
+
+#include "apps/qorvex/table_reader.h"
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+#include <vector>
+
+namespace qorvex::cli {
+
+/// What every --help of a command that reads a table says about tables.
+extern const char* const kTableHelp;
+
+/// FILE, --column, --delimiter and --skip-empty.
+struct TableArguments {
+  std::string file;
+  TableSelection selection;
+
+  /// Adds the arguments to a command; this object must then outlive the parsing.
+  void AddTo(CLI::App& command);
+
+  /// Reads the table. Remarks on standard error how many empty cells were skipped. InputErrors name
+  /// the argument that helps, where one does.
+  [[nodiscard]] std::vector<TableColumn> Read() const;
+};
+
+}  // namespace qorvex::cli

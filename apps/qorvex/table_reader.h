@@ -1,0 +1,57 @@
+#pragma once
+
+/// @file
+/// Columns of numbers from delimited text.
+
+#include "qorvex/base/vector_types.h"
+
+#include "apps/qorvex/text_input.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace qorvex::cli {
+
+/// What to take from a table.
+struct TableSelection {
+  /// Names or 1-based numbers, in the order of the result; a name wins over a number, and a column
+  /// that is chosen again counts once. None takes every column.
+  std::vector<std::string> columns = {};
+  /// As for RowReader: nothing detects it, a blank is any run of spaces and tabs.
+  std::optional<char> delimiter = {};
+  /// Skip empty cells instead of refusing them.
+  bool skip_empty = false;
+};
+
+/// A column of a table.
+struct TableColumn {
+  /// Its position in the table, from 1.
+  std::size_t number = 0;
+  /// Empty when the table has no header.
+  std::string name = {};
+  TQorFloatVector values = {};
+  /// The number of empty cells that were left out.
+  std::size_t skipped = 0;
+
+  /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
+  [[nodiscard]] std::string Title() const;
+};
+
+/// Reads the chosen columns. Other columns may hold any text.
+///
+/// The first row is a header when one of its cells is neither empty nor a number. Cells are
+/// converted by Str2Float, so to 80 bits; infinities and NaN are no data. A blank line between the
+/// rows counts as a row of empty cells, one before the first row or after the last counts for
+/// nothing.
+///
+/// Raises InputError for what RowReader refuses; kNoValues for a text without rows, and for a
+/// column without values; kNoSuchColumn; kMalformed for a row that is not as long as the first;
+/// kEmptyCell, kNotANumber and kOutOfRange for a cell. Otherwise every column has at least one
+/// value. The first line at fault is the one that is reported.
+///
+/// Memory: 16 bytes a value, at most 40 while a column grows.
+[[nodiscard]] std::vector<TableColumn> ReadTable(TextInput input, const TableSelection& selection);
+
+}  // namespace qorvex::cli
