@@ -26,6 +26,7 @@ namespace qorvex {
 template <class Stored, std::int64_t Scale>
 class QORVEX_EXPORT BasicCurrency {
  public:
+  /// The integer type that holds the amount.
   using StoredType = Stored;
   /// The stored value of one currency unit.
   static constexpr std::int64_t kScale = Scale;
@@ -34,8 +35,10 @@ class QORVEX_EXPORT BasicCurrency {
   /// The amount whose stored integer is given: Currency(15000) is 1.5000 units.
   explicit constexpr BasicCurrency(Stored stored) noexcept : stored_(stored) {}
 
+  /// The stored integer: the amount times the scale.
   [[nodiscard]] constexpr Stored stored() const noexcept { return stored_; }
 
+  /// Amounts compare as their stored integers do.
   friend constexpr auto operator<=>(BasicCurrency, BasicCurrency) noexcept = default;
 
  private:
@@ -55,17 +58,22 @@ concept CurrencyElement = OneOf<T, Currency, QorCurrency, QorLongCurrency>;
 
 inline namespace QorvexGlobals {
 
+/// @{
 /// The amount in units, exact to 64 bits of mantissa.
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(Currency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorCurrency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorLongCurrency amount) noexcept;
+/// @}
 
+/// @{
 /// The value in units as an amount: value times the scale is formed in extended and rounded once.
 /// NaN and what does not fit give the smallest amount.
 [[nodiscard]] QORVEX_EXPORT Currency Float2Currency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency Float2QorCurrency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorLongCurrency Float2QorLongCurrency(Extended value) noexcept;
+/// @}
 
+/// @{
 /// Conversions between the currencies, in exact integer arithmetic.
 [[nodiscard]] QORVEX_EXPORT Currency QorCurrency2Currency(QorCurrency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT Currency QorLongCurrency2Currency(QorLongCurrency amount) noexcept;
@@ -75,6 +83,7 @@ inline namespace QorvexGlobals {
 QorCurrency2QorLongCurrency(QorCurrency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency
 QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
+/// @}
 
 /// True when the stored integers are equal: money has no tolerance.
 [[nodiscard]] inline bool SameCurrency(Currency x, Currency y) noexcept {

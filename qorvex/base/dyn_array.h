@@ -36,6 +36,8 @@ namespace qorvex {
 template <class T>
 class DynArray {
  public:
+  /// @{
+  /// The types of a standard container.
   using value_type = T;
   using size_type = std::size_t;
   using difference_type = std::ptrdiff_t;
@@ -43,9 +45,13 @@ class DynArray {
   using const_reference = const T&;
   using iterator = T*;
   using const_iterator = const T*;
+  /// @}
 
+  /// An empty array.
   DynArray() noexcept = default;
 
+  /// @{
+  /// An array of the given values, with a buffer of its own.
   DynArray(std::initializer_list<T> values) : DynArray(std::span<const T>(values)) {}
 
   explicit DynArray(std::span<const T> values) {
@@ -54,6 +60,7 @@ class DynArray {
     std::uninitialized_copy(values.begin(), values.end(), Elements(header_));
     header_->length = values.size();
   }
+  /// @}
 
   /// Copies any sized range, converting each value to T.
   template <std::ranges::sized_range Range>
@@ -82,23 +89,30 @@ class DynArray {
     return array;
   }
 
+  /// Shares the buffer.
   DynArray(const DynArray& other) noexcept : header_(other.header_) {
     if (header_ != nullptr) header_->references.fetch_add(1, std::memory_order_relaxed);
   }
+  /// Takes the handle over and leaves the other empty.
   DynArray(DynArray&& other) noexcept : header_(std::exchange(other.header_, nullptr)) {}
+  /// Lets go of this buffer and shares, or takes over, the other.
   DynArray& operator=(DynArray other) noexcept {
     std::swap(header_, other.header_);
     return *this;
   }
   ~DynArray() { Drop(header_); }
 
+  /// The number of elements.
   [[nodiscard]] size_type size() const noexcept { return header_ == nullptr ? 0 : header_->length; }
+  /// True for length 0.
   [[nodiscard]] bool empty() const noexcept { return header_ == nullptr; }
   /// The highest index: the length less one, and so -1 for an empty array.
   [[nodiscard]] difference_type High() const noexcept {
     return static_cast<difference_type>(size()) - 1;
   }
 
+  /// @{
+  /// The elements; null for an empty array. Valid until the length changes.
   [[nodiscard]] T* data() noexcept { return header_ == nullptr ? nullptr : Elements(header_); }
   [[nodiscard]] const T* data() const noexcept {
     return header_ == nullptr ? nullptr : Elements(header_);
@@ -107,7 +121,9 @@ class DynArray {
   [[nodiscard]] iterator end() noexcept { return data() + size(); }
   [[nodiscard]] const_iterator begin() const noexcept { return data(); }
   [[nodiscard]] const_iterator end() const noexcept { return data() + size(); }
+  /// @}
 
+  /// @{
   /// Unchecked access; the index must be below the length (asserted in debug builds).
   [[nodiscard]] T& operator[](size_type index) noexcept {
     assert(index < size());
@@ -117,6 +133,9 @@ class DynArray {
     assert(index < size());
     return Elements(header_)[index];
   }
+  /// @}
+
+  /// @{
   /// Checked access; std::out_of_range beyond the length.
   [[nodiscard]] T& at(size_type index) {
     CheckIndex(index);
@@ -126,6 +145,8 @@ class DynArray {
     CheckIndex(index);
     return Elements(header_)[index];
   }
+
+  /// @}
 
   /// Sets the length. A shared buffer is left to its other handles and this one gets its own with
   /// the common leading elements; new elements are zero. Length 0 releases the handle's share. On
@@ -159,6 +180,7 @@ class DynArray {
   [[nodiscard]] bool IsShared() const noexcept {
     return header_ != nullptr && header_->references.load(std::memory_order_acquire) != 1;
   }
+  /// True when both handles have the same buffer; two empty ones have none.
   [[nodiscard]] bool SharesBufferWith(const DynArray& other) const noexcept {
     return header_ != nullptr && header_ == other.header_;
   }

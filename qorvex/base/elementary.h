@@ -17,10 +17,12 @@ inline constexpr Extended QorPi = 3.14159265358979323846264338327950288L;
 /// The empty text.
 inline constexpr std::string_view QorNullStr = "";
 
+/// @{
 /// The base-2 and base-10 logarithms: -infinity for 0, NaN for negative values and NaN, infinity
 /// for infinity. Within one unit in the last place.
 [[nodiscard]] QORVEX_EXPORT Extended QorLog2(Extended x) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended QorLog10(Extended x) noexcept;
+/// @}
 
 /// The arc cosine in radians, from 0 to pi. An argument that rounding has pushed past -1 or 1 by no
 /// more than QorTolerance counts as -1 or 1, so that parallel vectors enclose the angle 0; further

@@ -23,6 +23,7 @@ class QORVEX_EXPORT Exception : public std::runtime_error {
   [[nodiscard]] MessageId message_id() const noexcept { return id_; }
 
  protected:
+  /// The text is what() gives.
   Exception(MessageId id, const std::string& text) : std::runtime_error(text), id_(id) {}
 
  private:
@@ -32,6 +33,7 @@ class QORVEX_EXPORT Exception : public std::runtime_error {
 /// Input that a routine rejects. The text is the message's current text at the moment of the raise.
 class QORVEX_EXPORT EMathError : public Exception {
  public:
+  /// Takes the message's current text.
   explicit EMathError(MessageId id) : Exception(id, MessageText(id)) {}
   ~EMathError() override;
 };

@@ -19,9 +19,12 @@ struct TQorMixedFraction {
   /// The whole part is extended so that every value has one; it is NaN or infinite for such a
   /// value.
   Extended whole = 0;
+  /// The part above the fraction bar.
   std::int64_t numerator = 0;
+  /// The part below the fraction bar.
   std::int64_t denominator = 1;
 
+  /// Equal part by part, not by value.
   friend bool operator==(const TQorMixedFraction&, const TQorMixedFraction&) = default;
 };
 

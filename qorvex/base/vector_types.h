@@ -17,6 +17,8 @@ using TQorVector = DynArray<T>;
 template <class T>
 using TQorMatrix = DynArray<DynArray<T>>;
 
+/// @{
+/// The vector type of one element type.
 using TQorFloatVector = TQorVector<Extended>;
 using TQorDoubleVector = TQorVector<double>;
 using TQorSingleVector = TQorVector<float>;
@@ -30,7 +32,10 @@ using TQorSIntVector = TQorVector<std::int8_t>;
 using TQorCurrencyVector = TQorVector<Currency>;
 using TQorCurrVector = TQorVector<QorCurrency>;
 using TQorLongCurrVector = TQorVector<QorLongCurrency>;
+/// @}
 
+/// @{
+/// The matrix type of one element type.
 using TQorFloatMatrix = TQorMatrix<Extended>;
 using TQorDoubleMatrix = TQorMatrix<double>;
 using TQorSingleMatrix = TQorMatrix<float>;
@@ -44,5 +49,6 @@ using TQorSIntMatrix = TQorMatrix<std::int8_t>;
 using TQorCurrencyMatrix = TQorMatrix<Currency>;
 using TQorCurrMatrix = TQorMatrix<QorCurrency>;
 using TQorLongCurrMatrix = TQorMatrix<QorLongCurrency>;
+/// @}
 
 }  // namespace qorvex

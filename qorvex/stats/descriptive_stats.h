@@ -15,25 +15,36 @@ namespace qorvex {
 
 /// The statistics of one sample. All are 0, and mode_exists is false, for an empty one.
 struct DescriptiveResults {
+  /// In insertion order.
   Extended sum = 0;
+  /// The sum of the squares, in insertion order.
   Extended sum_sq = 0;
+  /// The arithmetic mean, sum / n.
   Extended mean = 0;
   /// Divided by n - 1, or by n for a population. 0 for one value.
   Extended variance = 0;
+  /// The square root of the variance.
   Extended std_dev = 0;
+  /// As GetMedian.
   Extended median = 0;
   /// The unique mode when mode_exists; otherwise what GetMode leaves.
   Extended mode = 0;
+  /// Whether one value is more frequent than every other.
   bool mode_exists = false;
+  /// The first in sorted order.
   Extended minimum = 0;
+  /// The last in sorted order, so NaN when there is one.
   Extended maximum = 0;
   /// 0 below three values or when the standard deviation is zero within QorTolerance.
   Extended skew = 0;
   /// Excess kurtosis; 0 below four values or when the standard deviation is zero within
   /// QorTolerance.
   Extended kurtosis = 0;
+  /// As GetQuartiles.
   Extended quartile_1st = 0;
+  /// As GetQuartiles.
   Extended quartile_3rd = 0;
+  /// The third quartile less the first.
   Extended inter_quartile_range = 0;
 };
 
@@ -52,6 +63,7 @@ class QORVEX_EXPORT DescriptiveStats {
   void SetValues(TQorFloatVector values);
   /// A copy of the values, so that nobody writes into the sample behind its back.
   [[nodiscard]] TQorFloatVector Values() const;
+  /// The number of values, n.
   [[nodiscard]] std::size_t NoOfValues() const noexcept { return values_.size(); }
 
   /// Appends one value.
@@ -64,13 +76,17 @@ class QORVEX_EXPORT DescriptiveStats {
   /// While updating, changes leave the results as they are. The flag does not count: the first
   /// EndUpdate ends it.
   void BeginUpdate() noexcept { updating_ = true; }
+  /// Ends an update and brings the results up to date.
   void EndUpdate();
+  /// Whether an update has begun and not ended.
   [[nodiscard]] bool Updating() const noexcept { return updating_; }
 
   /// Population (divide by n) instead of sample statistics (divide by n - 1); initially false.
   [[nodiscard]] bool Population() const noexcept { return population_; }
+  /// Chooses between the two; the results follow.
   void SetPopulation(bool population);
 
+  /// The statistics; the reference stays valid and follows every change.
   [[nodiscard]] const DescriptiveResults& Results() const noexcept { return results_; }
 
   /// The labelled report, a line for each figure: label, tab, value to the given number of

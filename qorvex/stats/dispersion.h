@@ -11,6 +11,7 @@
 
 namespace qorvex::inline QorvexStatistics {
 
+/// @{
 /// The variance in two passes: the mean, then the mean squared difference from it, which keeps its
 /// accuracy when the spread is small beside the mean. EMathError: rsVectorIsEmpty, then for the
 /// sample form rsVectorG1 for one element. For the six elements of at least 32 bits; integer
@@ -19,13 +20,17 @@ template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended SampleVariance(const TQorVector<T>& vector);
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended PopulationVariance(const TQorVector<T>& vector);
+/// @}
 
+/// @{
 /// The square root of the two-pass variance, with its errors.
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended SampleStdDev(const TQorVector<T>& vector);
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended PopulationStdDev(const TQorVector<T>& vector);
+/// @}
 
+/// @{
 /// Variance and mean in a single pass over the vector: (SS - S*S/n) divided by n - 1 or n, for the
 /// sum S and the sum of squares SS. Quicker than the two-pass forms, but digits cancel when the
 /// spread is small beside the mean, and rounding may even leave the variance slightly negative.
@@ -38,7 +43,9 @@ QORVEX_EXPORT void SampleVarianceAndMean(const TQorVector<T>& vector, Extended& 
 template <WideNumericElement T>
 QORVEX_EXPORT void PopulationVarianceAndMean(const TQorVector<T>& vector, Extended& variance,
                                              Extended& mean);
+/// @}
 
+/// @{
 /// The square root of the single-pass variance, and the mean, with the same errors; then EInvalidOp
 /// when rounding or wrapping has left the variance negative.
 template <WideNumericElement T>
@@ -47,11 +54,13 @@ QORVEX_EXPORT void SampleStdDevAndMean(const TQorVector<T>& vector, Extended& st
 template <WideNumericElement T>
 QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev,
                                            Extended& mean);
+/// @}
 
 /// The mean absolute difference from the given mean; 0 for an empty vector, without an error.
 [[nodiscard]] QORVEX_EXPORT Extended MeanDeviation(const TQorFloatVector& vector,
                                                    Extended mean) noexcept;
 
+/// @{
 /// The geometric standard deviation about a geometric mean: exp of the root of the sum of (ln x -
 /// ln mean) squared over n - 1 when `sample` is true, over n when it is false (Standardise's flag
 /// has the opposite sense). EMathError: rsVectorIsEmpty; for the sample form rsVectorG1 for one
@@ -60,6 +69,7 @@ QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean,
                                                      bool sample);
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, bool sample);
+/// @}
 
 /// Replaces each element x by ((x - mean) / std_dev) * new_std_dev + new_mean. EMathError, before
 /// anything is written: rsVectorIsEmpty, then rsStdDev when std_dev is exactly 0 (the tolerance is

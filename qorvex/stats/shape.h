@@ -11,18 +11,23 @@
 
 namespace qorvex::inline QorvexStatistics {
 
+/// @{
 /// The sample skewness n D / ((n - 1)(n - 2) std_dev^3), for the sum D of the cubed differences
 /// from the mean. EMathError: rsVectorIsEmpty; rsVectorG2 below three elements; rsStdDev when the
 /// standard deviation is zero within QorTolerance.
 [[nodiscard]] QORVEX_EXPORT Extended GetSampleSkew(const TQorFloatVector& vector, Extended mean,
                                                    Extended std_dev);
 [[nodiscard]] QORVEX_EXPORT Extended GetSampleSkew(const TQorFloatVector& vector);
+/// @}
 
+/// @{
 /// The population skewness D / (n std_dev^3), with the errors of GetSampleSkew.
 [[nodiscard]] QORVEX_EXPORT Extended GetPopulationSkew(const TQorFloatVector& vector, Extended mean,
                                                        Extended std_dev);
 [[nodiscard]] QORVEX_EXPORT Extended GetPopulationSkew(const TQorFloatVector& vector);
+/// @}
 
+/// @{
 /// The sample excess kurtosis n (n + 1) Q / (std_dev^4 (n - 1)(n - 2)(n - 3)) - 3 (n - 1)^2 / ((n -
 /// 2)(n - 3)), for the sum Q of the fourth powers of the differences from the mean. EMathError:
 /// rsVectorIsEmpty; rsVectorG3 below four elements; rsStdDev when the standard deviation is zero
@@ -30,11 +35,14 @@ namespace qorvex::inline QorvexStatistics {
 [[nodiscard]] QORVEX_EXPORT Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean,
                                                        Extended std_dev);
 [[nodiscard]] QORVEX_EXPORT Extended GetSampleKurtosis(const TQorFloatVector& vector);
+/// @}
 
+/// @{
 /// The population excess kurtosis Q / (n std_dev^4) - 3, with the errors of GetSampleKurtosis:
 /// fewer than four elements are refused here too.
 [[nodiscard]] QORVEX_EXPORT Extended GetPopulationKurtosis(const TQorFloatVector& vector,
                                                            Extended mean, Extended std_dev);
 [[nodiscard]] QORVEX_EXPORT Extended GetPopulationKurtosis(const TQorFloatVector& vector);
+/// @}
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -34,6 +34,7 @@ QORVEX_EXPORT void SqrtVector(TQorVector<T>& vector);
 template <FloatElement T>
 QORVEX_EXPORT void InvVector(TQorVector<T>& vector);
 
+/// @{
 /// Replaces each element by its natural, base-10 or base-2 logarithm. EMathError: rsVectorIsEmpty,
 /// then rsVectorNotPos when an element is not greater than QorTolerance (NaN is not). For floating
 /// elements.
@@ -43,6 +44,7 @@ template <FloatElement T>
 QORVEX_EXPORT void Log10Vector(TQorVector<T>& vector);
 template <FloatElement T>
 QORVEX_EXPORT void Log2Vector(TQorVector<T>& vector);
+/// @}
 
 /// Replaces each element x by slope * x + intercept: two roundings in extended precision for
 /// floating elements, wrapping arithmetic for Int64. An empty vector raises EMathError with
