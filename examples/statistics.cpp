@@ -1,0 +1,28 @@
+#include <iostream>
+
+#include "qorvex/base/text.h"
+#include "qorvex/stats/QorvexStatistics.h"
+#include "qorvex/stats/descriptive_stats.h"
+#include "qorvex/vector/QorvexVector.h"
+
+using namespace qorvex;
+
+int main() {
+  TQorFloatVector lifetimes{12, 7, 9, 7, 30, 11, 8, 7};
+  std::cout << "Mean " << Float2EStr(QorMean(lifetimes), 3) << ", standard deviation "
+            << Float2EStr(SampleStdDev(lifetimes), 3) << '\n';
+
+  QSortVector(lifetimes, true);  // order statistics expect a sorted vector
+  Extended q1 = 0;
+  Extended q3 = 0;
+  GetQuartiles(lifetimes, q1, q3);
+  std::cout << "Median " << Float2EStr(GetMedian(lifetimes), 1) << ", quartiles "
+            << Float2EStr(q1, 1) << " and " << Float2EStr(q3, 1) << ", trimmed mean "
+            << Float2EStr(TrimmedMean(lifetimes, 0.125L), 3) << '\n';
+
+  DescriptiveStats stats;  // keeps every figure current
+  for (const Extended lifetime : lifetimes) stats.AddValue(lifetime);
+  stats.DeleteValue(7);  // the outlier, now last
+  std::cout << "Without the outlier: mode " << Float2EStr(stats.Results().mode, 0) << ", skewness "
+            << Float2EStr(stats.Results().skew, 3) << '\n';
+}
