@@ -1,5 +1,8 @@
 # Helpers shared by every target of the build.
 
+# The oldest Qt that the components build with.
+set(QORVEX_QT_VERSION 6.4)
+
 # Compiler settings of our own code: warnings, and what the numerics rely on.
 function(qorvex_compile_settings target)
   target_compile_features(${target} PUBLIC cxx_std_20)
@@ -36,6 +39,11 @@ function(qorvex_library component)
     BASE_DIRS "${PROJECT_SOURCE_DIR}"
     FILES ${ARG_HEADERS})
   target_link_libraries(${target} PUBLIC ${ARG_LINK_PUBLIC} PRIVATE ${ARG_LINK_PRIVATE})
+  if(BUILD_SHARED_LIBS)
+    set(exports "${PROJECT_SOURCE_DIR}/cmake/exports.map")
+    target_link_options(${target} PRIVATE "LINKER:--version-script=${exports}")
+    set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${exports}")
+  endif()
 
   if(PROJECT_VERSION_MAJOR EQUAL 0)
     set(soversion ${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR})
