@@ -1,0 +1,40 @@
+# Checks FILE, a library or program: every symbol that it exports is ours; none is unique, since a unique symbol keeps a
+# library from being unloaded; no Qt library is needed unless QT_ALLOWED.
+
+# A semicolon in a demangled name would split a line.
+function(lines_of output)
+  execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
+  string(REPLACE ";" "," text "${text}")
+  string(REGEX MATCHALL "[^\n]+" lines "${text}")
+  set(${output} "${lines}" PARENT_SCOPE)
+endfunction()
+
+lines_of(needed "${READELF}" --dynamic --wide "${FILE}")
+list(FILTER needed INCLUDE REGEX "NEEDED")
+if(NOT needed)
+  message(SEND_ERROR "${FILE} needs no library at all: is it built?")
+endif()
+if(NOT QT_ALLOWED)
+  list(FILTER needed INCLUDE REGEX "Qt")
+  if(needed)
+    message(SEND_ERROR "${FILE} needs Qt: ${needed}")
+  endif()
+endif()
+
+lines_of(unique "${READELF}" --symbols --wide "${FILE}")
+list(FILTER unique INCLUDE REGEX " UNIQUE ")
+if(unique)
+  message(SEND_ERROR "${FILE} has unique symbols: ${unique}")
+endif()
+
+if(FILE MATCHES "\\.so")
+  lines_of(exported "${NM}" --dynamic --demangle --defined-only "${FILE}")
+  if(NOT exported)
+    message(SEND_ERROR "${FILE} exports nothing")
+  endif()
+  list(FILTER exported EXCLUDE REGEX "qorvex::")
+  if(exported)
+    list(JOIN exported "\n  " exported)
+    message(SEND_ERROR "${FILE} exports what is not ours:\n  ${exported}")
+  endif()
+endif()

@@ -1,0 +1,23 @@
+// Loads each library that is named and unloads it again; fails when one stays in memory.
+
+#include <dlfcn.h>
+
+#include <cstdio>
+
+int main(int argc, char** argv) {
+  int failures = argc < 2 ? 1 : 0;
+  for (int i = 1; i < argc; ++i) {
+    void* library = dlopen(argv[i], RTLD_NOW | RTLD_LOCAL);
+    if (library == nullptr) {
+      std::fprintf(stderr, "cannot be loaded: %s\n", dlerror());
+      ++failures;
+      continue;
+    }
+    dlclose(library);
+    if (dlopen(argv[i], RTLD_NOW | RTLD_NOLOAD) != nullptr) {
+      std::fprintf(stderr, "%s stays loaded\n", argv[i]);
+      ++failures;
+    }
+  }
+  return failures;
+}
