@@ -1,6 +1,6 @@
-# What `cmake --install` puts in place: the libraries with their headers, a CMake package with one component a library,
-# a pkg-config file for each, and the program. The install component Runtime is what running a program takes, Devel
-# what building one takes besides.
+# What `cmake --install` puts in place besides the programs: the libraries with their headers, a CMake package with one
+# component a library, and a pkg-config file for each. The install component Runtime is what running a program takes,
+# Devel what building one takes besides.
 
 include(CMakePackageConfigHelpers)
 
@@ -48,13 +48,13 @@ function(qorvex_install component)
 endfunction()
 
 qorvex_install(base
-  DESCRIPTION "Element types, dynamic arrays, errors, text and special functions in 80-bit extended precision")
+  DESCRIPTION "Element types, arrays, text and special functions in 80-bit extended precision")
 qorvex_install(numerics
-  DESCRIPTION "Vectors, matrices, statistics and random variates in 80-bit extended precision"
+  DESCRIPTION "Numerics and statistics in 80-bit extended precision"
   REQUIRES "qorvex-base = ${PROJECT_VERSION}")
 if(TARGET Qorvex::stats_rt)
   qorvex_install(stats_rt
-    DESCRIPTION "Qt 6 components of Qorvex"
+    DESCRIPTION "Numerics and statistics in 80-bit extended precision as Qt 6 components"
     REQUIRES "qorvex-numerics = ${PROJECT_VERSION}" "Qt6Core >= ${QORVEX_QT_VERSION}")
 endif()
 
@@ -75,12 +75,5 @@ install(
     "${PROJECT_BINARY_DIR}/package/QorvexConfig.cmake"
     "${PROJECT_BINARY_DIR}/package/QorvexConfigVersion.cmake"
   DESTINATION "${package_dir}" COMPONENT Devel)
-
-if(TARGET qorvex)
-  file(RELATIVE_PATH libraries_from_bin
-    "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")
-  set_target_properties(qorvex PROPERTIES INSTALL_RPATH "$ORIGIN/${libraries_from_bin}")
-  install(TARGETS qorvex RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT Runtime)
-endif()
 
 install(FILES LICENSE README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Devel)
