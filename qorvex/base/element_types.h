@@ -48,9 +48,18 @@ concept WideNumericElement = FloatElement<T> || WideIntegerElement<T>;
 template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
 
+/// @cond internal
+// A class of its own, because compilers mangle a concept within a function's type differently, and a program of one could
+// not be linked to a library of the other.
+template <class T>
+struct SumType {
+  using Type = std::conditional_t<FloatElement<T>, Extended, std::int64_t>;
+};
+/// @endcond
+
 /// The type in which sums over elements of T accumulate and are returned.
 template <NumericElement T>
-using SumOf = std::conditional_t<FloatElement<T>, Extended, std::int64_t>;
+using SumOf = typename SumType<T>::Type;
 
 }  // namespace qorvex
 
