@@ -9,6 +9,10 @@ int main() {
 
   expect(qorvex::Float2Str(qorvex::Str2Float("0.1")) == "0.1");
 
+  const qorvex::TQorFloatVector values = {3, 4};
+  expect(SumVector(values) == 7 && DotProdVectors(values, values) == 25);
+  expect(SumVector(qorvex::TQorByteVector{200, 100}) == 300);
+
   // An error that a library raises is caught here by its type.
   try {
     static_cast<void>(qorvex::CheckedDivide(1, 0));
