@@ -58,12 +58,15 @@ install_missing() {
   step packages.log "Installing ${missing[*]}" apt_install "${missing[@]}"
 }
 
+# ccache fails, and every compilation with it, where it cannot write its files.
+usable_ccache() {
+  local directory
+  directory=$(ccache --get-config cache_dir) && mkdir -p "$directory" && [[ -w $directory ]] && echo ccache
+}
+
 # A build directory that was copied from elsewhere, or half made, is configured afresh.
 configure() {
-  local options=(--preset release)
-  if command -v ccache >/dev/null; then
-    options+=(-D CMAKE_CXX_COMPILER_LAUNCHER=ccache)
-  fi
+  local options=(--preset release -D CMAKE_CXX_COMPILER_LAUNCHER="$(usable_ccache)")
   cmake "${options[@]}" || cmake --fresh "${options[@]}"
 }
 
