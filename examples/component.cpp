@@ -1,8 +1,7 @@
 // The statistics component outside a form: it tells when its results change.
 
-#include <iostream>
-
 #include <QCoreApplication>
+#include <iostream>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/QorvexDescStats.h"

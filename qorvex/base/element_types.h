@@ -49,8 +49,8 @@ template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
 
 /// @cond internal
-// A class of its own, because compilers mangle a concept within a function's type differently, and a program of one could
-// not be linked to a library of the other.
+// A class of its own, because compilers mangle a concept within a function's type differently, and
+// a program of one could not be linked to a library of the other.
 template <class T>
 struct SumType {
   using Type = std::conditional_t<FloatElement<T>, Extended, std::int64_t>;

@@ -3,11 +3,10 @@
 /// @file
 /// Unit QorvexDescStats: TQorDescStats, the component for descriptive statistics.
 
-#include <cstdint>
-
 #include <QObject>
 #include <QString>
 #include <QStringList>
+#include <cstdint>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -15,20 +14,27 @@
 
 namespace qorvex::inline QorvexDescStats {
 
-/// A component without a picture that holds one sample and keeps its descriptive statistics current.
+/// A component without a picture that holds one sample and keeps its descriptive statistics
+/// current.
 ///
-/// A designer enters the values as lines of text, Items; a program sets or reads them as vectors, or adds and deletes
-/// single ones. The lines and the values go together in setItems, AddValue, DeleteValue and Clear. Setting a vector
-/// leaves the lines as they are, so a later setItems, ConvertItems or Loaded replaces those values.
+/// A designer enters the values as lines of text, Items; a program sets or reads them as vectors,
+/// or adds and deletes single ones. The lines and the values go together in setItems, AddValue,
+/// DeleteValue and Clear. Setting a vector leaves the lines as they are, so a later setItems,
+/// ConvertItems or Loaded replaces those values.
 ///
-/// Real results are published as text, Float2Str of the value, because no form keeps 80 bits; Mean() and its like give
-/// the values themselves. All results are 0 for an empty sample; DescriptiveResults says what small samples and NaN
-/// give. Results that are set through their property stay as they are: they are published for show, and not stored.
-/// The setters of the stored properties may be called in any order.
+/// Real results are published as text, Float2Str of the value, because no form keeps 80 bits;
+/// Mean() and its like give the values themselves. All results are 0 for an empty sample;
+/// DescriptiveResults says what small samples and NaN give. Results that are set through their
+/// property stay as they are: they are published for show, and not stored. The setters of the
+/// stored properties may be called in any order.
 ///
-/// Like any QObject, a component belongs to one thread. Costs are those of DescriptiveStats; Items adds a QString a line.
+/// Like any QObject, a component belongs to one thread. Costs are those of DescriptiveStats; Items
+/// adds a QString a line.
 class QORVEX_EXPORT TQorDescStats : public QObject {
   Q_OBJECT
+  /// @{
+  /// Published: see the accessor of the same name. Only DecimalPlaces, Items and Population are
+  /// stored.
   Q_PROPERTY(int DecimalPlaces READ DecimalPlaces WRITE setDecimalPlaces RESET resetDecimalPlaces)
   Q_PROPERTY(QStringList Items READ Items WRITE setItems RESET resetItems)
   Q_PROPERTY(QString Maximum READ MaximumText WRITE ignoreText RESET ignoreReset
@@ -63,67 +69,82 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
                  STORED false NOTIFY StatsUpdated)
   Q_PROPERTY(QString Quartile3rd READ Quartile3rdText WRITE ignoreText RESET ignoreReset
                  STORED false NOTIFY StatsUpdated)
+  /// @}
 
  public:
-  /// An empty sample with 4 decimal places. The owner deletes the component when it is deleted itself.
+  /// An empty sample with 4 decimal places. The owner deletes the component when it is deleted
+  /// itself.
   explicit TQorDescStats(QObject* owner = nullptr);
   ~TQorDescStats() override;
 
+  /// @{
   /// The decimals of the report, 0 to 255; others are clamped.
   [[nodiscard]] int DecimalPlaces() const noexcept { return decimal_places_; }
   void setDecimalPlaces(int places) noexcept;
   void resetDecimalPlaces() noexcept { setDecimalPlaces(kDefaultDecimalPlaces); }
+  /// @}
 
-  /// The lines of text, one for each value. Setting them converts them to values; see ConvertItems for what happens when
-  /// a line is no number.
+  /// @{
+  /// The lines of text, one for each value. Setting them converts them to values; see ConvertItems
+  /// for what happens when a line is no number.
   [[nodiscard]] QStringList Items() const { return items_; }
   void setItems(const QStringList& items);
   void resetItems() { setItems({}); }
+  /// @}
 
+  /// @{
   /// Population statistics (divide by n) instead of sample statistics (divide by n - 1).
   [[nodiscard]] bool Population() const noexcept { return stats_.Population(); }
   void setPopulation(bool population);
   void resetPopulation() { setPopulation(false); }
+  /// @}
 
-  /// The values, as a copy that the caller may write to. Setting copies them and leaves Items as they are.
+  /// @{
+  /// The values, as a copy that the caller may write to. Setting copies them and leaves Items as
+  /// they are.
   [[nodiscard]] TQorFloatVector Values() const { return stats_.Values(); }
   void setValues(TQorFloatVector values);
+  /// @}
 
-  /// The values rounded to the nearest integer, ties to even. What the type cannot hold, NaN included, becomes its
-  /// smallest integer. Setting converts each integer, without loss, to a value.
+  /// @{
+  /// The values rounded to the nearest integer, ties to even. What the type cannot hold, NaN
+  /// included, becomes its smallest integer. Setting converts each integer, without loss, to a
+  /// value.
   [[nodiscard]] TQorLIntVector LIntValues() const;
   void setLIntValues(const TQorLIntVector& values);
   [[nodiscard]] TQorLWordVector LWordValues() const;
   void setLWordValues(const TQorLWordVector& values);
   [[nodiscard]] TQorInt64Vector Int64Values() const;
   void setInt64Values(const TQorInt64Vector& values);
+  /// @}
 
   /// The number of values; counts beyond 2^32 - 1 show as that.
   [[nodiscard]] std::uint32_t NoOfValues() const noexcept;
 
-  // The results. Each is what the last update found: see BeginUpdate.
+  /// @{
+  /// A result, as the last update found it; see BeginUpdate. Mode is the unique mode when
+  /// ModeExists; Kurtosis is the excess kurtosis. The inter-quartile range is not published.
   [[nodiscard]] Extended Maximum() const noexcept { return stats_.Results().maximum; }
   [[nodiscard]] Extended Mean() const noexcept { return stats_.Results().mean; }
   [[nodiscard]] Extended Median() const noexcept { return stats_.Results().median; }
   [[nodiscard]] Extended Minimum() const noexcept { return stats_.Results().minimum; }
-  /// The unique mode when ModeExists.
   [[nodiscard]] Extended Mode() const noexcept { return stats_.Results().mode; }
   [[nodiscard]] bool ModeExists() const noexcept { return stats_.Results().mode_exists; }
   [[nodiscard]] Extended StdDev() const noexcept { return stats_.Results().std_dev; }
   [[nodiscard]] Extended Sum() const noexcept { return stats_.Results().sum; }
   [[nodiscard]] Extended SumSq() const noexcept { return stats_.Results().sum_sq; }
   [[nodiscard]] Extended Variance() const noexcept { return stats_.Results().variance; }
-  /// The excess kurtosis.
   [[nodiscard]] Extended Kurtosis() const noexcept { return stats_.Results().kurtosis; }
   [[nodiscard]] Extended Skew() const noexcept { return stats_.Results().skew; }
   [[nodiscard]] Extended Quartile1st() const noexcept { return stats_.Results().quartile_1st; }
   [[nodiscard]] Extended Quartile3rd() const noexcept { return stats_.Results().quartile_3rd; }
-  /// Quartile3rd - Quartile1st; not published.
   [[nodiscard]] Extended InterQuartileRange() const noexcept {
     return stats_.Results().inter_quartile_range;
   }
+  /// @}
 
-  // The published texts of the results.
+  /// @{
+  /// The published text of a result, Float2Str of it.
   [[nodiscard]] QString MaximumText() const { return Text(Maximum()); }
   [[nodiscard]] QString MeanText() const { return Text(Mean()); }
   [[nodiscard]] QString MedianText() const { return Text(Median()); }
@@ -137,37 +158,40 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   [[nodiscard]] QString SkewText() const { return Text(Skew()); }
   [[nodiscard]] QString Quartile1stText() const { return Text(Quartile1st()); }
   [[nodiscard]] QString Quartile3rdText() const { return Text(Quartile3rd()); }
+  /// @}
 
   /// The library's version.
   [[nodiscard]] QString Version() const;
 
-  /// Appends a value, and to Items its text with up to twenty decimals. The line gives back every bit of a magnitude of
-  /// 1/8 or more; smaller ones lose their last bits, and below 5e-21 the line is "0". Where that matters to a form that is
-  /// stored, set Items.
+  /// Appends a value, and to Items its text with up to twenty decimals. The line gives back every
+  /// bit of a magnitude of 1/8 or more; smaller ones lose their last bits, and below 5e-21 the line
+  /// is "0". Where that matters to a form that is stored, set Items.
   void AddValue(Extended value);
-  /// Removes the value at the index and the line at the index, where there is one. Nothing happens when there is no such
-  /// value.
+  /// Removes the value at the index and the line at the index, where there is one. Nothing happens
+  /// when there is no such value.
   void DeleteValue(std::int32_t index);
   /// Removes the last value, if any, as DeleteValue does.
   void DeleteLast();
   /// Removes all values and lines and ends an update.
   void Clear();
 
-  /// Until EndUpdate, changes leave the results as they are. This is a flag that does not count: the first EndUpdate ends
-  /// any number of BeginUpdate.
+  /// Until EndUpdate, changes leave the results as they are. This is a flag that does not count:
+  /// the first EndUpdate ends any number of BeginUpdate.
   void BeginUpdate() noexcept { stats_.BeginUpdate(); }
   /// Ends an update and computes the results.
   void EndUpdate();
 
-  /// Makes the values of the lines in Items with Str2Float. When a line is no number, its EConvertError reaches the
-  /// caller: Items keeps the lines, and the values and results stay as they were.
+  /// Makes the values of the lines in Items with Str2Float. When a line is no number, its
+  /// EConvertError reaches the caller: Items keeps the lines, and the values and results stay as
+  /// they were.
   void ConvertItems();
-  /// What a form calls once its properties have been read in: the values follow the lines, as in ConvertItems. Qt tells no
-  /// plain object when that is. setItems converts already, so nothing changes where a form does not call it.
+  /// What a form calls once its properties have been read in: the values follow the lines, as in
+  /// ConvertItems. Qt tells no plain object when that is. setItems converts already, so nothing
+  /// changes where a form does not call it.
   void Loaded() { ConvertItems(); }
 
-  /// The report, a line for each figure: label, tab, value with DecimalPlaces decimals. An update ends first. An empty
-  /// sample gives one line, the message rsVectorIsEmpty.
+  /// The report, a line for each figure: label, tab, value with DecimalPlaces decimals. An update
+  /// ends first. An empty sample gives one line, the message rsVectorIsEmpty.
   [[nodiscard]] QStringList DescStats();
 
  Q_SIGNALS:

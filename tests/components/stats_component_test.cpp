@@ -1,15 +1,14 @@
+#include <QMetaProperty>
+#include <QPointer>
+#include <QVariant>
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <limits>
 #include <memory>
 #include <utility>
 #include <vector>
-
-#include <QMetaProperty>
-#include <QPointer>
-#include <QVariant>
-#include <gtest/gtest.h>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"

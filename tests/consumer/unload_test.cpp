@@ -1,8 +1,7 @@
 // Loads each library that is named and unloads it again; fails when one stays in memory.
 
-#include <dlfcn.h>
-
 #include <cstdio>
+#include <dlfcn.h>
 
 int main(int argc, char** argv) {
   int failures = argc < 2 ? 1 : 0;

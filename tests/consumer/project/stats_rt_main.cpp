@@ -1,8 +1,8 @@
+#include <QVariant>
 #include <qorvex/stats/QorvexDescStats.h>
 
-#include <QVariant>
-
-// In the second translation unit: gives the component its lines and counts how often it was updated.
+// In the second translation unit: gives the component its lines and counts how often it was
+// updated.
 int Fill(qorvex::TQorDescStats& stats, const QStringList& lines);
 
 int main() {
