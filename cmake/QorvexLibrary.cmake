@@ -15,6 +15,8 @@ function(qorvex_compile_settings target)
     $<$<BOOL:${QORVEX_WERROR}>:-Werror>
     # A fused multiply-add would change the rounding that each routine promises.
     -ffp-contract=off
+    # Our own calls of exported routines are direct ones.
+    -fno-semantic-interposition
     # Square roots report through their result, never through errno.
     -fno-math-errno
     # Unique symbols would keep a loaded module from being unloaded.

@@ -53,14 +53,14 @@ template <FloatElement X, FloatElement Y>
   const T a = x;
   const T b = y;
   if (a == b) return true;
-  const T larger = std::max(std::fabs(a), std::fabs(b));
-  // False for infinities, and for NaN here or in the difference below.
-  if (!(larger <= std::numeric_limits<T>::max())) return false;
   constexpr T rounding = 4 * std::numeric_limits<T>::epsilon();
   // A tolerance that is NaN compares false, which leaves the rounding bound.
   const T given = static_cast<T>(QorTolerance);
   const T tolerance = given > rounding ? given : rounding;
-  return std::fabs(a - b) <= tolerance * std::max(T(1), larger);
+  const T larger = std::max(std::fabs(a), std::fabs(b));
+  // NaN fails the first comparison; an infinity passes it and fails the second.
+  return std::fabs(a - b) <= tolerance * std::max(T(1), larger) &&
+         larger <= std::numeric_limits<T>::max();
 }
 
 /// The negation of SameFloat for extended values.
