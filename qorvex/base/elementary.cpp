@@ -23,7 +23,7 @@ Extended XtoY(Extended x, Extended y) noexcept {
   constexpr Extended largest_product = 8;
   if (!(std::fabs(y) <= largest_product) || y != std::trunc(y)) return std::pow(x, y);
   Extended product = 1;
-  for (Extended factors = std::fabs(y); factors > 0; --factors) product *= x;
+  for (int factors = static_cast<int>(std::fabs(y)); factors > 0; --factors) product *= x;
   return y < 0 ? 1 / product : product;
 }
 

@@ -12,11 +12,11 @@ namespace {
   const volatile long double last_bit = 0x1p-63L;
   const volatile long double sum = one + last_bit;
   if (sum != one) return;
-  std::fputs(
+  static_cast<void>(std::fputs(
       "qorvex: long double does not compute with 64 bits of mantissa here (an emulator such as "
       "valgrind, or a changed "
       "x87 control word); results would be wrong\n",
-      stderr);
+      stderr));
   std::abort();
 }
 
