@@ -1,5 +1,6 @@
 #include "qorvex/base/Qorvex_rs_math.h"
 
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -24,6 +25,10 @@ TextCatalog<MessageId>& Catalog() {
 
 std::string MessageText(MessageId id) {
   return Catalog().Text(id);
+}
+
+std::string_view EnglishMessageText(MessageId id) noexcept {
+  return kTexts[static_cast<std::size_t>(id)];
 }
 
 void SetMessageText(MessageId id, std::string text) {

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "qorvex/base/export.h"
 
@@ -93,6 +94,10 @@ using enum MessageId;
 /// English text.
 [[nodiscard]] QORVEX_EXPORT std::string MessageText(MessageId id);
 
+/// The English text of a message, whatever replaces it: what a translator looks up. Valid for the
+/// life of the program.
+[[nodiscard]] QORVEX_EXPORT std::string_view EnglishMessageText(MessageId id) noexcept;
+
 /// Replaces the text of a message.
 QORVEX_EXPORT void SetMessageText(MessageId id, std::string text);
 
@@ -100,8 +105,10 @@ QORVEX_EXPORT void SetMessageText(MessageId id, std::string text);
 QORVEX_EXPORT void ResetMessageText(MessageId id);
 
 /// Sets a function that is asked for every text first, such as a translator's; it gives nothing for
-/// a message that it does not know. An empty function removes it. It may be called on any thread
-/// that raises an error.
+/// a message that it does not know. An empty function removes it, though a call that has begun on
+/// another thread still ends. It may be called on any thread that raises an error, must not ask for
+/// the text of the message itself (EnglishMessageText gives the source), and what it throws
+/// replaces the error.
 QORVEX_EXPORT void SetMessageLookup(std::function<std::optional<std::string>(MessageId)> lookup);
 
 }  // namespace qorvex::inline Qorvex_rs_math

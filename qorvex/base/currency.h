@@ -66,8 +66,8 @@ inline namespace QorvexGlobals {
 /// @}
 
 /// @{
-/// The value in units as an amount: value times the scale is formed in extended and rounded once.
-/// NaN and what does not fit give the smallest amount.
+/// The value in units as an amount: value times the scale, rounded to extended and then to an
+/// integer. NaN and what does not fit give the smallest amount.
 [[nodiscard]] QORVEX_EXPORT Currency Float2Currency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency Float2QorCurrency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorLongCurrency Float2QorLongCurrency(Extended value) noexcept;

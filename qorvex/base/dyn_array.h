@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cassert>
+#include <concepts>
 #include <cstddef>
 #include <cstring>
 #include <initializer_list>
@@ -20,6 +21,15 @@
 #include <utility>
 
 namespace qorvex {
+
+/// @cond internal
+// To can be made from From without losing more than the rounding of a floating value.
+template <class To, class From>
+concept ElementFrom = std::convertible_to<From, To> &&
+    (!std::integral<To> || !std::is_arithmetic_v<From> ||
+     (std::integral<From> && std::in_range<To>(std::numeric_limits<From>::min()) &&
+      std::in_range<To>(std::numeric_limits<From>::max())));
+/// @endcond
 
 /// A zero-based dynamic array whose handles share one reference-counted buffer.
 ///
@@ -62,11 +72,12 @@ class DynArray {
   }
   /// @}
 
-  /// Copies any sized range, converting each value to T.
+  /// Copies any sized range, converting each value to T. Floating values do not convert to integers
+  /// here, nor integers to ones that cannot hold them all.
   template <std::ranges::sized_range Range>
   requires(!std::same_as<std::remove_cvref_t<Range>, DynArray> &&
-           std::convertible_to<std::ranges::range_reference_t<Range>,
-                               T>) explicit DynArray(Range&& range) {
+           ElementFrom<T, std::ranges::range_value_t<Range>>) explicit DynArray(Range&& range)
+      : DynArray() {
     SetLength(static_cast<size_type>(std::ranges::size(range)));
     std::ranges::transform(range, begin(), [](auto&& value) { return static_cast<T>(value); });
   }
@@ -171,7 +182,7 @@ class DynArray {
     (*this)[size() - 1] = std::move(value);
   }
 
-  /// Gives back capacity that the length does not need.
+  /// Gives back capacity that the length does not need, which makes a shared buffer private.
   void ShrinkToFit() {
     if (header_ != nullptr && header_->capacity > header_->length) Reallocate(header_->length);
   }

@@ -15,10 +15,9 @@ namespace qorvex {
 /// mantissa.
 using Extended = long double;
 
-static_assert(
-    LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
-    "Qorvex needs the 80-bit extended format as long double: x86 or x86-64 with GCC or Clang "
-    "(not -mlong-double-64, not MSVC)");
+static_assert(LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
+              "Qorvex needs the 80-bit extended format as long double: x86-64 with GCC or Clang "
+              "(not -mlong-double-64, not MSVC)");
 
 /// T is one of the listed types, exactly.
 template <class T, class... List>

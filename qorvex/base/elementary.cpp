@@ -21,10 +21,10 @@ Extended QorArcCos(Extended x) noexcept {
 
 Extended XtoY(Extended x, Extended y) noexcept {
   constexpr Extended largest_product = 8;
-  if (!(std::fabs(y) <= largest_product) || y != std::trunc(y)) return std::pow(x, y);
+  if (!(y >= 0 && y <= largest_product) || y != std::trunc(y)) return std::pow(x, y);
   Extended product = 1;
-  for (int factors = static_cast<int>(std::fabs(y)); factors > 0; --factors) product *= x;
-  return y < 0 ? 1 / product : product;
+  for (int factors = static_cast<int>(y); factors > 0; --factors) product *= x;
+  return product;
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -19,7 +19,7 @@ inline constexpr std::string_view QorNullStr = "";
 
 /// @{
 /// The base-2 and base-10 logarithms: -infinity for 0, NaN for negative values and NaN, infinity
-/// for infinity. Within one unit in the last place.
+/// for infinity. Within two units in the last place.
 [[nodiscard]] QORVEX_EXPORT Extended QorLog2(Extended x) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended QorLog10(Extended x) noexcept;
 /// @}
@@ -29,9 +29,9 @@ inline constexpr std::string_view QorNullStr = "";
 /// out, and for NaN, the result is NaN.
 [[nodiscard]] QORVEX_EXPORT Extended QorArcCos(Extended x) noexcept;
 
-/// x to the power y. XtoY(0, 0) is 1. Integer exponents from -8 to 8 are repeated products from the
-/// left (the reciprocal of the product for negative ones); all others are the C++ library's power,
-/// NaN for a negative x with a y that is no integer.
+/// x to the power y. XtoY(0, 0) is 1. Integer exponents up to 8 are repeated products from the
+/// left; all others are the C++ library's power, NaN for a negative finite x with a finite y that
+/// is no integer.
 [[nodiscard]] QORVEX_EXPORT Extended XtoY(Extended x, Extended y) noexcept;
 
 /// The smaller of two values; x when they are equal or when one is NaN.

@@ -8,9 +8,17 @@ namespace {
 
 constexpr std::size_t kLongestOffendingText = 60;
 
+constexpr bool IsUtf8Continuation(char c) {
+  return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
 std::string TextWith(MessageId id, std::string_view offending) {
-  std::string shown(offending.substr(0, kLongestOffendingText));
-  if (offending.size() > kLongestOffendingText) shown += "...";
+  std::string shown(offending);
+  if (offending.size() > kLongestOffendingText) {
+    std::size_t end = kLongestOffendingText;
+    while (end > 0 && IsUtf8Continuation(offending[end])) --end;
+    shown.replace(end, std::string::npos, "...");
+  }
   std::string text = MessageText(id);
   constexpr std::string_view placeholder = "%1";
   if (const std::size_t at = text.find(placeholder); at != std::string::npos) {

@@ -34,9 +34,9 @@ enum TQorFractionDisplay {
   fdImproper  ///< "7/3"
 };
 
-/// The fraction nearest in size to the value that agrees with it to the given number of decimals (0
-/// to 18; others are clamped): the first convergent of the continued fraction of its fractional
-/// part within half a unit of the last decimal. NaN and the infinities become the whole part.
+/// A simple fraction that agrees with the value to the given number of decimals (0 to 18; others
+/// are clamped): the first convergent of the continued fraction of its fractional part within half
+/// a unit of the last decimal. NaN and the infinities become the whole part.
 ///
 /// The convergents are found with exact remainders, so no rounding enters (Hardy and Wright 1979,
 /// "An introduction to the theory of numbers", chapter X).

@@ -12,7 +12,8 @@
 namespace qorvex {
 
 /// Rounds to the nearest integer, ties to even. What the target cannot hold, NaN included, gives
-/// the target's smallest value, as the processor's own conversion does.
+/// the target's smallest value: 0 for unsigned targets, and what the processor itself marks such a
+/// conversion with for int32 and int64.
 template <std::integral Int>
 [[nodiscard]] inline Int RoundToInteger(Extended value) noexcept {
   // Both bounds are exact: the smallest value is 0 or a power of two, and the largest plus one is a

@@ -6,6 +6,7 @@
 #include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <limits>
+#include <new>
 #include <stdexcept>
 
 #include "qorvex/base/errors.h"
@@ -22,13 +23,30 @@ using Policy = policies::policy<policies::promote_float<false>, policies::promot
                                 policies::overflow_error<policies::ignore_error>>;
 constexpr Policy kPolicy;
 
-Extended Finite(Extended value) {
+// The value of a Boost.Math expression; what it throws becomes our error.
+template <class Expression>
+Extended Evaluate(Expression expression) {
+  Extended value = 0;
+  try {
+    value = expression();
+  } catch (const std::bad_alloc&) {
+    throw;
+  } catch (const std::exception&) {
+    throw EInvalidOp();
+  }
   if (std::isinf(value)) throw EOverflow();
   return value;
 }
 
+// Beyond this the series and continued fractions take too many terms to end in sensible time.
+constexpr Extended kLargestShape = 1e15L;
+
 bool IsShape(Extended a) {
-  return a > 0 && std::isfinite(a);
+  return a > 0 && a <= kLargestShape;
+}
+
+Extended RegularisedBeta(Extended x, Extended a, Extended b) {
+  return Evaluate([=] { return boost::math::ibeta(a, b, x, kPolicy); });
 }
 
 // Halves the interval of representable values between 0 and 1 until two neighbours enclose the
@@ -42,8 +60,17 @@ Extended BisectedInverse(Extended p, Extended a, Extended b) {
     const Extended least = std::max(low, std::numeric_limits<Extended>::min());
     const Extended middle = far_apart ? std::sqrt(least) * std::sqrt(high) : low + (high - low) / 2;
     if (!(middle > low && middle < high)) return high;
-    (boost::math::ibeta(a, b, middle, kPolicy) < p ? low : high) = middle;
+    (RegularisedBeta(middle, a, b) < p ? low : high) = middle;
   }
+}
+
+// Whether x solves I(x; a, b) = p, as far as the neighbours of x can tell.
+bool IsRoot(Extended x, Extended p, Extended a, Extended b) {
+  if (!(x >= 0 && x <= 1)) return false;
+  constexpr Extended slack = 1e-12L;
+  const Extended below = x * (1 - slack);
+  const Extended above = std::min(x * (1 + slack), Extended(1));
+  return RegularisedBeta(below, a, b) <= p && p <= RegularisedBeta(above, a, b);
 }
 
 }  // namespace
@@ -53,7 +80,7 @@ Extended Gamma(Extended x) {
   if (x == 0) throw EZeroDivide();
   if (x < 0 && x == std::floor(x)) throw EInvalidOp();
   if (std::isinf(x)) return x;
-  return Finite(boost::math::tgamma(x, kPolicy));
+  return Evaluate([=] { return boost::math::tgamma(x, kPolicy); });
 }
 
 Extended LnGamma(Extended x) {
@@ -63,19 +90,19 @@ Extended LnGamma(Extended x) {
     return x;
   }
   if (x <= 0 && x == std::floor(x)) throw EZeroDivide();
-  return Finite(boost::math::lgamma(x, kPolicy));
+  return Evaluate([=] { return boost::math::lgamma(x, kPolicy); });
 }
 
 Extended Beta(Extended a, Extended b) {
   if (std::isnan(a) || std::isnan(b)) return a + b;
   if (!IsShape(a) || !IsShape(b)) throw EInvalidOp();
-  return Finite(boost::math::beta(a, b, kPolicy));
+  return Evaluate([=] { return boost::math::beta(a, b, kPolicy); });
 }
 
 Extended IncompleteBeta(Extended x, Extended a, Extended b) {
   if (std::isnan(x) || std::isnan(a) || std::isnan(b)) return x + a + b;
   if (!(x >= 0 && x <= 1) || !IsShape(a) || !IsShape(b)) throw EInvalidOp();
-  return boost::math::ibeta(a, b, x, kPolicy);
+  return RegularisedBeta(x, a, b);
 }
 
 Extended InverseIncompleteBeta(Extended p, Extended a, Extended b) {
@@ -83,10 +110,12 @@ Extended InverseIncompleteBeta(Extended p, Extended a, Extended b) {
   if (!(p >= 0 && p <= 1) || !IsShape(a) || !IsShape(b)) throw EInvalidOp();
   if (p == 0 || p == 1) return p;
   try {
-    return boost::math::ibeta_inv(a, b, p, kPolicy);
+    const Extended x = boost::math::ibeta_inv(a, b, p, kPolicy);
+    if (IsRoot(x, p, a, b)) return x;
   } catch (const std::exception&) {
-    return BisectedInverse(p, a, b);
+    // The root finder gave up; bisection does not.
   }
+  return BisectedInverse(p, a, b);
 }
 
 }  // namespace qorvex::inline QorvexGlobals

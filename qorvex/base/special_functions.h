@@ -5,7 +5,9 @@
 ///
 /// NaN arguments give NaN. Errors are the runtime's: EInvalidOp outside the domain, EZeroDivide at
 /// a pole, EOverflow when the value is beyond the extended range. Values too small for the format
-/// become 0.
+/// become 0, and subnormal ones may. The beta functions take shapes up to 1e15; beyond it their
+/// methods would not end in sensible time, and they raise EInvalidOp. The costs are those of tens
+/// to thousands of arithmetic operations.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -21,16 +23,16 @@ namespace qorvex::inline QorvexGlobals {
 [[nodiscard]] QORVEX_EXPORT Extended LnGamma(Extended x);
 
 /// The beta function B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). EInvalidOp unless a and b are
-/// positive and finite.
+/// positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended Beta(Extended a, Extended b);
 
 /// The regularised incomplete beta function I(x; a, b), point first. EInvalidOp unless 0 <= x <= 1
-/// and a and b are positive and finite.
+/// and a and b are positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteBeta(Extended x, Extended a, Extended b);
 
 /// The point x with IncompleteBeta(x, a, b) = p, probability first. EInvalidOp unless 0 <= p <= 1
-/// and a and b are positive and finite. Where the library's root finder gives up, the point is
-/// found by bisection, so a result always comes.
+/// and a and b are positive and at most 1e15. The library's root is checked; where there is none,
+/// or a false one, the point is found by bisection.
 [[nodiscard]] QORVEX_EXPORT Extended InverseIncompleteBeta(Extended p, Extended a, Extended b);
 
 }  // namespace qorvex::inline QorvexGlobals

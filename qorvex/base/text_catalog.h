@@ -32,8 +32,8 @@ class TextCatalog {
   explicit TextCatalog(std::span<const std::string_view> defaults)
       : defaults_(defaults), replacements_(defaults.size()) {}
 
-  /// The current text. The look-up function is called without any lock held, so it may use the
-  /// catalogue itself.
+  /// The current text. The look-up function is called without any lock held, so it may ask for
+  /// other texts of the catalogue.
   [[nodiscard]] std::string Text(Id id) const {
     const auto index = static_cast<std::size_t>(id);
     std::shared_ptr<const Lookup> lookup;

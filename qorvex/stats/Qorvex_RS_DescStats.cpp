@@ -1,5 +1,6 @@
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -24,6 +25,10 @@ TextCatalog<ReportTextId>& Catalog() {
 
 std::string ReportText(ReportTextId id) {
   return Catalog().Text(id);
+}
+
+std::string_view EnglishReportText(ReportTextId id) noexcept {
+  return kTexts[static_cast<std::size_t>(id)];
 }
 
 void SetReportText(ReportTextId id, std::string text) {

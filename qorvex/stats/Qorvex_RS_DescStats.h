@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "qorvex/base/export.h"
 
@@ -82,6 +83,10 @@ using enum ReportTextId;
 /// The current text: what the look-up function gives, else the replacement, else the English text.
 [[nodiscard]] QORVEX_EXPORT std::string ReportText(ReportTextId id);
 
+/// The English text, whatever replaces it: what a translator looks up. Valid for the life of the
+/// program.
+[[nodiscard]] QORVEX_EXPORT std::string_view EnglishReportText(ReportTextId id) noexcept;
+
 /// Replaces a text.
 QORVEX_EXPORT void SetReportText(ReportTextId id, std::string text);
 
@@ -89,7 +94,8 @@ QORVEX_EXPORT void SetReportText(ReportTextId id, std::string text);
 QORVEX_EXPORT void ResetReportText(ReportTextId id);
 
 /// Sets a function that is asked for every text first, such as a translator's; it gives nothing for
-/// a text that it does not know. An empty function removes it.
+/// a text that it does not know. An empty function removes it. It must not ask for the same text
+/// itself; EnglishReportText gives the source.
 QORVEX_EXPORT void SetReportLookup(std::function<std::optional<std::string>(ReportTextId)> lookup);
 
 }  // namespace qorvex::inline Qorvex_RS_DescStats

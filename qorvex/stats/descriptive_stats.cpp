@@ -47,6 +47,30 @@ void EraseSorted(TQorFloatVector& sorted, Extended value) {
 
 }  // namespace
 
+DescriptiveStats::DescriptiveStats(const DescriptiveStats& other)
+    : values_(CopyVector(other.values_)),
+      sorted_(CopyVector(other.sorted_)),
+      results_(other.results_),
+      updating_(other.updating_),
+      population_(other.population_) {}
+
+DescriptiveStats::DescriptiveStats(DescriptiveStats&& other) noexcept {
+  Swap(other);
+}
+
+DescriptiveStats& DescriptiveStats::operator=(DescriptiveStats other) noexcept {
+  Swap(other);
+  return *this;
+}
+
+void DescriptiveStats::Swap(DescriptiveStats& other) noexcept {
+  std::swap(values_, other.values_);
+  std::swap(sorted_, other.sorted_);
+  std::swap(results_, other.results_);
+  std::swap(updating_, other.updating_);
+  std::swap(population_, other.population_);
+}
+
 void DescriptiveStats::SetValues(TQorFloatVector values) {
   values_ = values.IsShared() ? CopyVector(values) : std::move(values);
   UpdateStats();

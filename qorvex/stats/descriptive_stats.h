@@ -53,11 +53,22 @@ struct DescriptiveResults {
 ///
 /// Every result is, bit for bit, what a fresh computation on the values gives, whether they came at
 /// once or one by one. NaN among the values makes the figures that depend on it NaN; it sorts last,
-/// so it is the maximum. Costs: setting n values O(n log n); adding or deleting one O(n), without a
-/// sort unless the sample holds NaN. Memory: the values and a sorted copy, 32 bytes a value, and 16
-/// more while sorting.
+/// so it is the maximum. When memory runs out, the values may hold the change already; the results
+/// follow with the next change or EndUpdate. Costs: setting n values O(n log n); adding or deleting
+/// one O(n), without a sort unless the sample holds NaN. Memory: the values and a sorted copy, 32
+/// bytes a value, and 16 more while sorting.
 class QORVEX_EXPORT DescriptiveStats {
  public:
+  /// An empty sample.
+  DescriptiveStats() = default;
+  /// A sample of its own with the same values.
+  DescriptiveStats(const DescriptiveStats& other);
+  /// Takes the sample over and leaves the other empty.
+  DescriptiveStats(DescriptiveStats&& other) noexcept;
+  /// Lets go of this sample and copies, or takes over, the other.
+  DescriptiveStats& operator=(DescriptiveStats other) noexcept;
+  ~DescriptiveStats() = default;
+
   /// Replaces the sample. The values become the sample's own: they are copied unless the argument
   /// was the only handle.
   void SetValues(TQorFloatVector values);
@@ -94,6 +105,7 @@ class QORVEX_EXPORT DescriptiveStats {
   [[nodiscard]] std::vector<std::string> Report(int decimals);
 
  private:
+  void Swap(DescriptiveStats& other) noexcept;
   // Everything afresh, unless updating.
   void UpdateStats();
   // The two sums afresh.

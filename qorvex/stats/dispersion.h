@@ -4,7 +4,8 @@
 /// Variances, standard deviations and other measures of spread, and standardisation.
 ///
 /// Results are extended; sample figures divide by n - 1 and population figures by n. NaN elements
-/// give NaN, infinite ones NaN too (infinity less infinity). O(n).
+/// give NaN, except where a check for positive elements rejects them; the variance of infinite
+/// elements is NaN (infinity less infinity). O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -15,7 +16,8 @@ namespace qorvex::inline QorvexStatistics {
 /// The variance in two passes: the mean, then the mean squared difference from it, which keeps its
 /// accuracy when the spread is small beside the mean. EMathError: rsVectorIsEmpty, then for the
 /// sample form rsVectorG1 for one element. For the six elements of at least 32 bits; integer
-/// elements are summed in int64 for the mean.
+/// elements are summed in int64 for the mean. The mean stays extended for every element type:
+/// rounded to a single, it would add its own rounding error to the variance of singles.
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended SampleVariance(const TQorVector<T>& vector);
 template <WideNumericElement T>
@@ -65,10 +67,12 @@ QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended
 /// ln mean) squared over n - 1 when `sample` is true, over n when it is false (Standardise's flag
 /// has the opposite sense). EMathError: rsVectorIsEmpty; for the sample form rsVectorG1 for one
 /// element; rsVectorNotPos unless every element is greater than QorTolerance; EInvalidOp for a
-/// negative mean and EZeroDivide for a mean of 0. The form without a mean takes GeometricMean.
+/// negative mean and EZeroDivide for a mean of 0. The form without a mean takes GeometricMean. A
+/// mean without the flag does not compile: it would pass for the flag.
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean,
                                                      bool sample);
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, bool sample);
+Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean) = delete;
 /// @}
 
 /// Replaces each element x by ((x - mean) / std_dev) * new_std_dev + new_mean. EMathError, before
@@ -77,9 +81,13 @@ QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended
 QORVEX_EXPORT void Standardise(TQorFloatVector& vector, Extended mean, Extended std_dev,
                                Extended new_mean, Extended new_std_dev);
 
+/// @{
 /// Standardises with the vector's own single-pass standard deviation and mean:
 /// PopulationStdDevAndMean when `population` is true, else SampleStdDevAndMean, with their errors.
+/// Three figures without the flag do not compile: the last would pass for it.
 QORVEX_EXPORT void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_dev,
                                bool population);
+void Standardise(TQorFloatVector& vector, Extended, Extended, Extended) = delete;
+/// @}
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -6,6 +6,10 @@
 ///
 /// These routines never sort and never copy: a caller who needs several of them sorts once with
 /// QSortVector. An unsorted vector is indexed as it stands, so (4, 1, 3, 2) has the "median" 2.
+///
+/// QSortVector puts NaN last, where the upper order statistics meet it; each NaN is a run of its
+/// own. Interpolation beside an infinite element gives NaN where its weight is 0, else the
+/// infinity.
 
 #include <span>
 

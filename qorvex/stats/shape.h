@@ -4,7 +4,10 @@
 /// Skewness and excess kurtosis.
 ///
 /// Each comes with the mean and standard deviation given, or computed in a single pass by
-/// SampleStdDevAndMean or PopulationStdDevAndMean. NaN elements give NaN. O(n).
+/// SampleStdDevAndMean or PopulationStdDevAndMean. Of equal values, rounding may leave the
+/// single-pass variance a little above zero or below it instead of zero: the forms without a mean
+/// then give a meaningless figure, or raise EInvalidOp instead of rsStdDev. Pass the two-pass mean
+/// and standard deviation where that matters. NaN and infinite elements give NaN. O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"

@@ -6,6 +6,8 @@
 /// A fraction that comes from a double is not the decimal that was written: 20 * (double)0.15
 /// truncates to 2 elements, 20 * 0.15L to 3. Write fractions with the suffix L, or parse them with
 /// Str2Float.
+///
+/// NaN and infinite elements that are not trimmed go into the sum.
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"

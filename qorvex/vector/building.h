@@ -4,7 +4,8 @@
 /// Growing, shrinking, filling, copying and reversing vectors.
 ///
 /// None of these routines raises: positions out of range are absorbed, and an empty vector is valid
-/// everywhere. Running out of memory leaves the vector unchanged. Values are copied bit for bit,
+/// everywhere. Running out of memory leaves the vector unchanged; only a deletion from a shared
+/// buffer has moved its elements by then. Values are copied bit for bit,
 /// NaN and infinities included.
 
 #include <cstdint>

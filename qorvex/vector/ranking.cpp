@@ -64,7 +64,7 @@ void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& 
     const Record key = static_cast<Key>(Traits::Read(&vector[i]) ^ direction);
     records[count++] = key << index_bits | i;
   }
-  detail::KeySorter<Record>(count).Sort(records.get());
+  detail::KeySorter<Record>(count).Sort(records.get(), count);
 
   const auto value = [&](const Record& record) {
     return Traits::Value(static_cast<Key>(static_cast<Key>(record >> index_bits) ^ direction));

@@ -11,20 +11,18 @@ namespace qorvex::inline QorvexVector {
 namespace {
 
 // Sorts elements that are not NaN, through keys that take the elements' own place in memory.
-template <NumericElement T>
-void SortInPlace(T* elements, std::size_t count, bool ascending) {
+template <NumericElement T, class Key>
+void SortInPlace(T* elements, std::size_t count, bool ascending, detail::KeySorter<Key>& sorter) {
   using Traits = detail::SortKey<T>;
-  using Key = typename Traits::Key;
   static_assert(sizeof(Key) == sizeof(T) && alignof(Key) == alignof(T));
 
-  detail::KeySorter<Key> sorter(count);
   const Key direction = static_cast<Key>(ascending ? Key{0} : ~Key{0});
   for (std::size_t i = 0; i < count; ++i) {
     const Key key = static_cast<Key>(Traits::Read(elements + i) ^ direction);
     ::new (static_cast<void*>(elements + i)) Key(key);
   }
   Key* const keys = std::launder(reinterpret_cast<Key*>(elements));
-  sorter.Sort(keys);
+  sorter.Sort(keys, count);
   for (std::size_t i = 0; i < count; ++i) {
     const Key key = static_cast<Key>(keys[i] ^ direction);
     ::new (static_cast<void*>(keys + i)) T(Traits::Value(key));
@@ -36,11 +34,12 @@ void SortInPlace(T* elements, std::size_t count, bool ascending) {
 template <NumericElement T>
 void QSortVector(TQorVector<T>& vector, bool ascending) {
   if (vector.size() < 2) return;
+  detail::KeySorter<typename detail::SortKey<T>::Key> sorter(vector.size());
   T* end = vector.end();
   if constexpr (FloatElement<T>) {
     end = std::partition(vector.begin(), end, [](T x) { return x == x; });
   }
-  SortInPlace(vector.data(), static_cast<std::size_t>(end - vector.begin()), ascending);
+  SortInPlace(vector.data(), static_cast<std::size_t>(end - vector.begin()), ascending, sorter);
 }
 
 #define QORVEX_INSTANTIATE(T) template void QSortVector(TQorVector<T>&, bool);

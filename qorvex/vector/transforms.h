@@ -6,7 +6,8 @@
 ///
 /// Floating elements are computed in extended precision and rounded to their type when stored. A
 /// check that fails raises before anything has changed. NaN elements pass the checks for zero and
-/// for negative values but not the one for positive values. O(n).
+/// for negative values but not the one for positive values; infinite elements give what the
+/// processor makes of them. O(n).
 
 #include <concepts>
 #include <cstdint>
@@ -54,8 +55,8 @@ requires FloatElement<T> || std::same_as<T, std::int64_t> QORVEX_EXPORT void Lin
     TQorVector<T>& vector, std::type_identity_t<T> slope, std::type_identity_t<T> intercept);
 
 /// Replaces each element x by func(x), once an element in ascending order. What func throws passes
-/// through, with the earlier elements already replaced; func must not change the vector's length.
-/// An empty vector raises EMathError with rsVectorIsEmpty. For floating elements.
+/// through, with the earlier elements already replaced; func must not be null nor change the
+/// vector's length. An empty vector raises EMathError with rsVectorIsEmpty. For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func);
 

@@ -16,7 +16,7 @@ std::string Mixed(Extended value, int decimals) {
   return Fraction2Str(Float2MixedFraction(value, decimals), fdMixed);
 }
 
-TEST(Float2MixedFraction, FindsTheSimplestFractionWithinTheDecimals) {
+TEST(Float2MixedFraction, FindsTheFirstConvergentWithinTheDecimals) {
   EXPECT_EQ(Mixed(1 / 3.0L, 9), "1/3");
   EXPECT_EQ(Mixed(-7 / 3.0L, 9), "-2 1/3");
   EXPECT_EQ(Mixed(0.1L, 9), "1/10");

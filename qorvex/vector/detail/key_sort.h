@@ -6,14 +6,21 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <tuple>
 #include <utility>
 
 namespace qorvex::inline QorvexVector::detail {
 
 template <class Key>
+int BitWidth(Key key) {
+  int width = 0;
+  for (; key != 0; key = static_cast<Key>(key >> 1)) ++width;
+  return width;
+}
+
+template <class Key>
 void InsertionSort(Key* first, Key* last) {
-  for (Key* next = first + 1; next < last; ++next) {
+  if (first == last) return;
+  for (Key* next = first + 1; next != last; ++next) {
     const Key key = *next;
     Key* hole = next;
     for (; hole != first && key < hole[-1]; --hole) *hole = hole[-1];
@@ -23,41 +30,48 @@ void InsertionSort(Key* first, Key* last) {
 
 // Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978,
 // "Implementing quicksort programs"). The smaller side is sorted first and the larger one deferred,
-// so the stack never holds more than log2(n) entries.
+// so the stack never holds more than log2(n) entries. A segment that has been divided twice as
+// often as halving would need goes to a heap sort, which bounds the whole to O(n log n) (Musser
+// 1997, "Introspective sorting and selection algorithms").
 template <class Key>
 void QuickSort(Key* first, Key* last) {
   constexpr std::ptrdiff_t insertion_limit = 24;
-  std::array<std::pair<Key*, Key*>, 64> deferred;
+  struct Segment {
+    Key* first;
+    Key* last;
+    int divisions_left;
+  };
+  std::array<Segment, 64> deferred;
   std::size_t depth = 0;
+  Segment s{first, last, 2 * BitWidth(static_cast<std::size_t>(last - first))};
   while (true) {
-    while (last - first > insertion_limit) {
-      const Key pivot = first[(last - first) / 2];
-      Key* low = first;
-      Key* high = last - 1;
+    while (s.last - s.first > insertion_limit && s.divisions_left > 0) {
+      --s.divisions_left;
+      const Key pivot = s.first[(s.last - s.first) / 2];
+      Key* low = s.first;
+      Key* high = s.last - 1;
       do {
         while (*low < pivot) ++low;
         while (pivot < *high) --high;
         if (low <= high) std::swap(*low++, *high--);
       } while (low <= high);
-      if (high + 1 - first < last - low) {
-        deferred[depth++] = {low, last};
-        last = high + 1;
+      if (high + 1 - s.first < s.last - low) {
+        deferred[depth++] = {low, s.last, s.divisions_left};
+        s.last = high + 1;
       } else {
-        deferred[depth++] = {first, high + 1};
-        first = low;
+        deferred[depth++] = {s.first, high + 1, s.divisions_left};
+        s.first = low;
       }
     }
-    InsertionSort(first, last);
+    if (s.last - s.first > insertion_limit) {
+      std::make_heap(s.first, s.last);
+      std::sort_heap(s.first, s.last);
+    } else {
+      InsertionSort(s.first, s.last);
+    }
     if (depth == 0) return;
-    std::tie(first, last) = deferred[--depth];
+    s = deferred[--depth];
   }
-}
-
-template <class Key>
-int BitWidth(Key key) {
-  int width = 0;
-  for (; key != 0; key = static_cast<Key>(key >> 1)) ++width;
-  return width;
 }
 
 // Below this length the counters of a radix pass cost more than they save.
@@ -106,26 +120,24 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   }
 }
 
-// Sorts a given number of keys by the method that suits it. Construction allocates all that the
-// sort needs, so that it can fail before a key has moved.
+// Sorts up to a given number of keys by the method that suits them. Construction allocates all that
+// the sort needs, so that it can fail before a key has moved.
 template <class Key>
 class KeySorter {
  public:
-  explicit KeySorter(std::size_t count)
-      : count_(count),
-        scratch_(count < kShortestRadixSort ? nullptr
-                                            : std::make_unique_for_overwrite<Key[]>(count)) {}
+  explicit KeySorter(std::size_t most)
+      : scratch_(most < kShortestRadixSort ? nullptr
+                                           : std::make_unique_for_overwrite<Key[]>(most)) {}
 
-  void Sort(Key* keys) {
-    if (scratch_ == nullptr) {
-      QuickSort(keys, keys + count_);
+  void Sort(Key* keys, std::size_t count) {
+    if (count < kShortestRadixSort) {
+      QuickSort(keys, keys + count);
     } else {
-      RadixSort(keys, scratch_.get(), count_);
+      RadixSort(keys, scratch_.get(), count);
     }
   }
 
  private:
-  std::size_t count_;
   std::unique_ptr<Key[]> scratch_;
 };
 
