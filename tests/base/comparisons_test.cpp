@@ -7,7 +7,6 @@
 #include "qorvex/base/elementary.h"
 
 namespace qorvex {
-namespace {
 
 constexpr Extended kInfinity = std::numeric_limits<Extended>::infinity();
 constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
@@ -80,5 +79,4 @@ TEST(Elementary, LogarithmsPowersAndArcCosine) {
   EXPECT_TRUE(QorNullStr.empty());
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -9,7 +9,6 @@
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex {
-namespace {
 
 TEST(DynArray, HandlesShareTheBufferUntilTheLengthChanges) {
   TQorFloatVector a{1, 2, 3};
@@ -121,5 +120,4 @@ TEST(DynArray, HandlesMayBeCopiedAndDroppedOnAnyThread) {
   EXPECT_FALSE(shared[1].IsShared());
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -10,7 +10,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 constexpr MessageId kAllMessages[] = {
 #define QORVEX_ID(id, text) id,
@@ -104,5 +103,4 @@ TEST(CheckedMath, RaisesTheRuntimeErrors) {
   }
 }
 
-}  // namespace
 }  // namespace qorvex

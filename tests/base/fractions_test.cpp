@@ -10,7 +10,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 std::string Mixed(Extended value, int decimals) {
   return Fraction2Str(Float2MixedFraction(value, decimals), fdMixed);
@@ -78,5 +77,4 @@ TEST(Fractions, RefuseBadInput) {
   EXPECT_ERROR(Fraction2Float({1, 1, 0}), EZeroDivide, rsZeroDivide);
 }
 
-}  // namespace
 }  // namespace qorvex

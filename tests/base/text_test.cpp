@@ -10,7 +10,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 TEST(Str2Float, RoundsCorrectly) {
   const struct {
@@ -107,5 +106,4 @@ TEST(Int2EStr, CoversTheRange) {
   EXPECT_EQ(Int2EStr(std::int8_t{-5}), "-5");
 }
 
-}  // namespace
 }  // namespace qorvex

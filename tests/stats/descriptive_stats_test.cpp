@@ -11,7 +11,6 @@
 #include "support/random_vectors.h"
 
 namespace qorvex {
-namespace {
 
 using Lines = std::vector<std::string>;
 
@@ -139,5 +138,4 @@ TEST(DescriptiveStats, TheSampleIsItsOwn) {
   EXPECT_EQ(stats.Results().maximum, 2);
 }
 
-}  // namespace
 }  // namespace qorvex

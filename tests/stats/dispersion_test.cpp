@@ -8,7 +8,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 template <class T>
 class Estimators : public ::testing::Test {};
@@ -148,5 +147,4 @@ TEST(Dispersion, MeanDeviationIsLenient) {
   EXPECT_EQ(MeanDeviation({1, 2, 6}, 3), 2);
 }
 
-}  // namespace
 }  // namespace qorvex

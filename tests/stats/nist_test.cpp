@@ -8,7 +8,6 @@
 #include "support/table.h"
 
 namespace qorvex {
-namespace {
 
 Extended CorrectDigits(Extended value, Extended exact) {
   if (value == exact) return 19.2L;  // all that 64 bits hold
@@ -29,5 +28,4 @@ TEST(Nist, MeansReach17DigitsAndStandardDeviations17AndAHalf) {
   }
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -9,7 +9,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 TEST(Median, TakesTheVectorAsItStands) {
   EXPECT_EQ(GetMedian(TQorFloatVector{4, 1, 3, 2}), 2);
@@ -138,5 +137,4 @@ TEST(TrimmedMeans, CheckTheFractionBeforeTheVector) {
   EXPECT_MATH_ERROR(ExcelTrimmedMean(empty, 1), rsVectorIsEmpty);
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -3,7 +3,6 @@
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex {
-namespace {
 
 // A few texts stand for the rest: one of each ending, and the two long ones that span source lines.
 TEST(ReportTexts, AreTheSystemsOwn) {
@@ -33,5 +32,4 @@ TEST(ReportTexts, CanBeReplaced) {
   EXPECT_EQ(ReportText(rsDSMean), "Mean:");
 }
 
-}  // namespace
 }  // namespace qorvex

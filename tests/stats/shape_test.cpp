@@ -10,7 +10,6 @@
 #include "support/random_vectors.h"
 
 namespace qorvex {
-namespace {
 
 using Real = boost::multiprecision::cpp_bin_float_100;
 
@@ -80,5 +79,4 @@ TEST(Shape, ChecksTheCountBeforeTheSpread) {
   EXPECT_MATH_ERROR(GetPopulationKurtosis({1, 1, 1, 1}), rsStdDev);
 }
 
-}  // namespace
 }  // namespace qorvex

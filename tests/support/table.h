@@ -61,7 +61,8 @@ void ExpectWorstError(const Table& table, const std::string& column, Extended li
     if (!(std::fabs(expected) >= 1e-20L)) continue;
     ++judged;
     const Extended error = std::fabs(compute(row) - expected) / std::fabs(expected) * 1e19L;
-    if (!(error <= worst)) {
+    ASSERT_FALSE(std::isnan(error)) << column << ", row " << row + 1;
+    if (error > worst) {
       worst = error;
       worst_row = row;
     }

@@ -9,7 +9,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
 
@@ -149,5 +148,4 @@ TEST(SignTests, Int64IsExactAndEmptyRaises) {
   EXPECT_MATH_ERROR(VectorNonNegative(TQorDoubleVector()), rsVectorIsEmpty);
 }
 
-}  // namespace
 }  // namespace qorvex

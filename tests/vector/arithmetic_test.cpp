@@ -8,7 +8,6 @@
 #include "support/expect_error.h"
 
 namespace qorvex {
-namespace {
 
 TEST(Arithmetic, AddsAndSubtractsElementByElement) {
   EXPECT_EQ(AddVectors(TQorFloatVector{1, 2}, TQorFloatVector{3, 4}), (TQorFloatVector{4, 6}));
@@ -72,5 +71,4 @@ TEST(Arithmetic, AngleBetweenVectors) {
                     rsSameDimensions);
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -7,7 +7,6 @@
 #include "qorvex/vector/conversion.h"
 
 namespace qorvex {
-namespace {
 
 TEST(Building, AppendAndInsertMakeTheBufferPrivate) {
   TQorFloatVector v{1, 2, 3};
@@ -86,5 +85,4 @@ TEST(Conversion, WidensExactly) {
   EXPECT_TRUE(Array2LIntVector(std::vector<std::uint8_t>()).empty());
 }
 
-}  // namespace
 }  // namespace qorvex

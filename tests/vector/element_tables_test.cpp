@@ -10,7 +10,6 @@
 #include "qorvex/vector/QorvexVector.h"
 
 namespace qorvex {
-namespace {
 
 // One letter an element type, in the order of the tables: g d f (floating), j u i (64- and 32-bit
 // integers), w s b t (16- and 8-bit integers), and the currencies C S L, which the plain units know
@@ -131,5 +130,4 @@ TEST(ElementTables, Estimators) {
   EXPECT_EQ(TYPES_OF(MeanDeviation(v, 0)), "g");
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -11,7 +11,6 @@
 #include "support/random_vectors.h"
 
 namespace qorvex {
-namespace {
 
 using testing::Engine;
 
@@ -119,5 +118,4 @@ TEST(Ranking, IntegersRankAsTheLinearScanDoes) {
   ExpectRanksLikeTheScan(testing::RandomVector<std::int64_t>(engine, 60));
 }
 
-}  // namespace
 }  // namespace qorvex

@@ -10,7 +10,6 @@
 #include "support/random_vectors.h"
 
 namespace qorvex {
-namespace {
 
 using testing::Engine;
 using testing::RandomVector;
@@ -92,5 +91,4 @@ TEST(SortingFloats, SortsThroughEveryHandle) {
   EXPECT_EQ(b, (TQorFloatVector{1, 2, 3}));
 }
 
-}  // namespace
 }  // namespace qorvex

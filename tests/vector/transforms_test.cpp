@@ -11,7 +11,6 @@
 #include "support/random_vectors.h"
 
 namespace qorvex {
-namespace {
 
 TEST(Transforms, SquaresKeepTheWidthOfEachElementType) {
   TQorSingleVector singles{0.1F};
@@ -132,5 +131,4 @@ TEST(Polynomial, AddsAscendingPowers) {
             ((0.1L + 0.7L * x) + 0.9L * (x * x)) + 0.4L * (x * x * x));
 }
 
-}  // namespace
 }  // namespace qorvex
