@@ -60,7 +60,7 @@ TEST(SpecialFunctions, RaiseOutsideTheirDomains) {
 }
 
 TEST(SpecialFunctions, InverseEndsForExtremeArguments) {
-  for (const Extended p : {1e-4900L, 1e-300L, 1e-155L, 0x1p-40L, 0.5L, 1 - 0x1p-64L}) {
+  for (const Extended p : {1e-2400L, 1e-300L, 1e-155L, 0x1p-40L, 0.5L, 1 - 0x1p-64L}) {
     for (const Extended a : {1e-10L, 0.5L, 3.9L, 5.0L, 1e6L}) {
       for (const Extended b : {1e-10L, 0.5L, 3.0L, 1e6L}) {
         const Extended x = InverseIncompleteBeta(p, a, b);
