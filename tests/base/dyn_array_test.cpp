@@ -3,6 +3,8 @@
 #include <array>
 #include <gtest/gtest.h>
 #include <new>
+#include <ranges>
+#include <stdexcept>
 #include <thread>
 #include <vector>
 
@@ -77,6 +79,11 @@ TEST(DynArray, ConvertsFromAndToRanges) {
   EXPECT_EQ(TQorFloatVector(view.subspan(1)), (TQorFloatVector{1.5L, 2.5L}));
   EXPECT_EQ(std::vector<Extended>(v.begin(), v.end()).size(), 3U);
   static_assert(std::ranges::contiguous_range<TQorFloatVector>);
+  static_assert(std::constructible_from<TQorDoubleVector, TQorFloatVector>);
+  static_assert(!std::constructible_from<TQorLIntVector, TQorFloatVector>);
+  static_assert(!std::constructible_from<TQorLIntVector, TQorLWordVector>);
+  const auto throws_late = [](Extended x) { return x > 1 ? throw std::domain_error("late") : x; };
+  EXPECT_THROW(TQorFloatVector(std::views::transform(v, throws_late)), std::domain_error);
 }
 
 TEST(DynArray, CheckedAccessAndImpossibleLengthsThrowAndChangeNothing) {

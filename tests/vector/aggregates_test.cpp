@@ -30,6 +30,7 @@ TEST(Extremes, FirstOfEqualExtremesWins) {
   EXPECT_EQ(MinMax({2, 2, 1}), (Extremes{1, 2, 2, 0, true, false}));
   EXPECT_EQ(MinMax({7}), (Extremes{7, 7, 0, 0, true, true}));
   EXPECT_EQ(MinMax({7, 7}), (Extremes{7, 7, 0, 0, false, false}));
+  EXPECT_EQ(MinMax({1, 1, 5}), (Extremes{1, 5, 0, 2, false, true}));
   EXPECT_TRUE(std::signbit(MinVector(TQorFloatVector{-0.0L, 0.0L})));
   EXPECT_FALSE(std::signbit(MinVector(TQorFloatVector{0.0L, -0.0L})));
 }
@@ -89,6 +90,8 @@ TEST(Sums, SquaredDifferencesFromIntegerAndExtendedMeans) {
   EXPECT_EQ(SumSqDiffVector(TQorInt64Vector{1, 2, 4}, 2), 5);
   EXPECT_EQ(SumSqDiffVector(TQorInt64Vector{1, 2, 4}, 2.5), 4.75L);
   EXPECT_EQ(SumSqDiffVector(TQorLIntVector{50000}, 0), 2'500'000'000 - 4'294'967'296);
+  EXPECT_EQ(SumSqDiffVector(TQorLWordVector{50000}, 0), 2'500'000'000);
+  EXPECT_EQ(SumSqDiffVector(TQorInt64Vector{(1LL << 33) + 2}, -1), 9);
   EXPECT_EQ(SumSqDiffVector(TQorLWordVector{1}, 3), 4)
       << "the difference wraps, its square does not show it";
   EXPECT_EQ(SumSqDiffVector(TQorSingleVector{1, 3}, 2), 2);
@@ -98,6 +101,8 @@ TEST(Sums, SquaredDifferencesFromIntegerAndExtendedMeans) {
 
 TEST(Sums, SquaredDifferencesOfTwoVectors) {
   EXPECT_EQ(SumSqDiffVectors(TQorFloatVector{1, 2}, TQorFloatVector{3, 5}), 13);
+  EXPECT_EQ(SumSqDiffVectors(TQorDoubleVector{1}, TQorDoubleVector{-0x1p-60}),
+            (1 + 0x1p-60L) * (1 + 0x1p-60L));
   EXPECT_EQ(SumSqDiffVectors(TQorLWordVector{0}, TQorLWordVector{50000}),
             2'500'000'000 - 4'294'967'296)
       << "a signed square even for unsigned elements";

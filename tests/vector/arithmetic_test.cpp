@@ -28,10 +28,11 @@ TEST(Arithmetic, IntegersWrapAndDoublesRoundTwice) {
   EXPECT_EQ(AddVectors(TQorLIntVector{largest}, TQorLIntVector{1}), (TQorLIntVector{-largest - 1}));
   EXPECT_EQ(SubtractVectors(TQorInt64Vector{smallest}, TQorInt64Vector{1}),
             (TQorInt64Vector{std::numeric_limits<std::int64_t>::max()}));
-  // The exact sum lies just above the middle of two doubles. To 80 bits it is the middle itself,
-  // which then rounds to the even neighbour; a double addition would have rounded up.
-  EXPECT_EQ(AddVectors(TQorDoubleVector{1}, TQorDoubleVector{0x1p-53 + 0x1p-80}),
-            (TQorDoubleVector{1}));
+  // The exact result lies just above the middle of two doubles. To 80 bits it is the middle itself,
+  // which then rounds to the even neighbour; a double operation would have rounded up.
+  constexpr double half_and_more = 0x1p-53 + 0x1p-80;
+  EXPECT_EQ(AddVectors(TQorDoubleVector{1}, TQorDoubleVector{half_and_more})[0], 1);
+  EXPECT_EQ(SubtractVectors(TQorDoubleVector{1}, TQorDoubleVector{-half_and_more})[0], 1);
 }
 
 TEST(Arithmetic, LengthsAreCheckedBeforeEmptiness) {
@@ -65,6 +66,8 @@ TEST(Arithmetic, AngleBetweenVectors) {
   EXPECT_EQ(
       AngleBetweenVectors(TQorFloatVector{0.1L, 0.7L, 0.3L}, TQorFloatVector{0.1L, 0.7L, 0.3L}), 0);
   EXPECT_EQ(AngleBetweenVectors(TQorLIntVector{1, 1}, TQorLIntVector{-1, -1}), QorPi);
+  EXPECT_EQ(AngleBetweenVectors(TQorFloatVector{1e-20L, 0}, TQorFloatVector{1, 0}), 0)
+      << "not zero";
   EXPECT_MATH_ERROR(AngleBetweenVectors(TQorFloatVector{0, 0}, TQorFloatVector{1}), rsMagZero);
   EXPECT_MATH_ERROR(AngleBetweenVectors(TQorFloatVector(), TQorFloatVector()), rsMagZero);
   EXPECT_MATH_ERROR(AngleBetweenVectors(TQorFloatVector{1}, TQorFloatVector{1, 1}),

@@ -38,8 +38,10 @@ TEST(Building, PositionsOutOfRangeAppendOrDoNothing) {
 
 TEST(Building, DeleteClosesTheGap) {
   TQorInt64Vector v{1, 2, 3, 4};
+  const TQorInt64Vector shared = v;
   DeleteValueFromVector(v, 1);
   EXPECT_EQ(v, (TQorInt64Vector{1, 3, 4}));
+  EXPECT_EQ(shared, (TQorInt64Vector{1, 3, 4, 4})) << "the move is seen, the new length is not";
   DeleteValueFromVector(v, 2);
   DeleteValueFromVector(v, 0);
   EXPECT_EQ(v, (TQorInt64Vector{3}));

@@ -2,12 +2,27 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 #include <gtest/gtest.h>
 #include <limits>
+#include <new>
 #include <vector>
 
 #include "qorvex/vector/building.h"
 #include "support/random_vectors.h"
+
+// The sort's working memory comes from operator new[]; the next one fails on demand.
+static bool array_allocation_fails = false;
+void* operator new[](std::size_t size) {
+  if (array_allocation_fails) throw std::bad_alloc();
+  return operator new(size);
+}
+void operator delete[](void* memory) noexcept {
+  operator delete(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+  operator delete(memory);
+}
 
 namespace qorvex {
 
@@ -58,11 +73,29 @@ TYPED_TEST(Sorting, OrdersAdversarialVectors) {
   low_bits[n / 2] = std::numeric_limits<TypeParam>::lowest();
   low_bits[n / 3] = std::numeric_limits<TypeParam>::max();
   ExpectSortsLikeTheLibrary(low_bits);
+}
 
-  auto organ_pipe = TQorVector<TypeParam>::WithLength(n);
+// Two outliers keep the radix digits off the low bits, where an organ pipe defeats the middle
+// pivot.
+TEST(SortingFloats, OrdersAnOrganPipeBehindOutliers) {
+  constexpr std::size_t n = 100'000;
+  auto pipe = TQorFloatVector::WithLength(n);
   for (std::size_t i = 0; i < n; ++i)
-    organ_pipe[i] = static_cast<TypeParam>(std::min(i, n - i) % 128);
-  ExpectSortsLikeTheLibrary(organ_pipe);
+    pipe[i] = 1 + static_cast<Extended>(std::min(i, n - i)) * 0x1p-63L;
+  pipe[5] = std::numeric_limits<Extended>::lowest();
+  pipe[7] = std::numeric_limits<Extended>::max();
+  ExpectSortsLikeTheLibrary(pipe);
+}
+
+TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
+  Engine engine(1);
+  auto v = RandomVector<Extended>(engine, 1000);
+  v[3] = std::numeric_limits<Extended>::quiet_NaN();
+  const TQorFloatVector before = CopyVector(v);
+  array_allocation_fails = true;
+  EXPECT_THROW(QSortVector(v, true), std::bad_alloc);
+  array_allocation_fails = false;
+  EXPECT_EQ(std::memcmp(v.data(), before.data(), v.size() * sizeof(Extended)), 0);
 }
 
 TEST(SortingFloats, NaNIsLastBothWaysAndTheRestIsOrderedBitForBit) {

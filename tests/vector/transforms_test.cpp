@@ -17,8 +17,10 @@ TEST(Transforms, SquaresKeepTheWidthOfEachElementType) {
   SquareVector(singles);
   EXPECT_EQ(singles[0], static_cast<float>(static_cast<Extended>(0.1F) * 0.1F));
   TQorLIntVector ints{65536, -3, 50000};
+  const TQorLIntVector shared = ints;
   SquareVector(ints);
-  EXPECT_EQ(ints, (TQorLIntVector{0, 9, static_cast<std::int32_t>(2'500'000'000 - 4'294'967'296)}));
+  EXPECT_EQ(shared,
+            (TQorLIntVector{0, 9, static_cast<std::int32_t>(2'500'000'000 - 4'294'967'296)}));
   TQorLWordVector words{50000};
   SquareVector(words);
   EXPECT_EQ(words, (TQorLWordVector{2'500'000'000}));
@@ -79,6 +81,9 @@ TEST(Transforms, LinearAndCallerSupplied) {
   TQorSingleVector singles{0.1F};
   LinearTransformVector(singles, 3, 0.7F);
   EXPECT_EQ(singles[0], static_cast<float>(3.0L * 0.1F + 0.7F));
+  TQorDoubleVector doubles{0x1p-53 + 0x1p-80};
+  LinearTransformVector(doubles, 1, 1);
+  EXPECT_EQ(doubles[0], 1) << "rounded to 80 bits first";
 
   TQorFloatVector v{1, 2, -3, 4};
   const auto negate_positive = [](Extended x) -> Extended {
