@@ -42,11 +42,43 @@ TEST(DescriptiveReport, SaysWhatAFewValuesCannotTell) {
   EXPECT_EQ(one[9], "Not enough Values for Variance");
   EXPECT_EQ(one[10], "Not enough Values for Standard Deviation");
   EXPECT_EQ(one[12], "Not enough Values for Skew");
-  EXPECT_EQ(ReportOf({5}, true)[9], "Variance:\t0.00");
+  const Lines population_of_one = ReportOf({5}, true);
+  EXPECT_EQ(population_of_one[9], "Variance:\t0.00");
 
-  const Lines equal = ReportOf({3, 3, 3, 3});
-  EXPECT_EQ(equal[11], "Standard Deviation needs to be > 0 for Kurtosis");
-  EXPECT_EQ(equal[12], "Standard Deviation needs to be > 0 for Skew");
+  for (const TQorFloatVector& equal : {TQorFloatVector{3, 3, 3, 3}, {0, 1e-16L, 0, 2e-16L}}) {
+    EXPECT_EQ(ReportOf(equal)[11], "Standard Deviation needs to be > 0 for Kurtosis");
+    EXPECT_EQ(ReportOf(equal)[12], "Standard Deviation needs to be > 0 for Skew");
+  }
+}
+
+// Independent figures: central moments of (0, 1, 1, 6) are 5.5, 13.5 and 68.5 about the mean 2.
+TEST(DescriptiveStats, HasTheFiguresOfSampleAndPopulation) {
+  DescriptiveStats stats;
+  stats.SetValues({6, 1, 0, 1});
+  const DescriptiveResults& r = stats.Results();
+  const auto near = [](Extended value, Extended expected) {
+    return std::fabs(value - expected) < 1e-18L;
+  };
+  EXPECT_EQ(r.variance, 22 / 3.0L);
+  EXPECT_TRUE(near(r.skew, 4 * 54 / (6 * std::pow(22 / 3.0L, 1.5L))));
+  EXPECT_TRUE(near(r.kurtosis, 4 * 5 * 274 / (std::pow(22 / 3.0L, 2.0L) * 6) - 27 / 2.0L));
+  stats.SetPopulation(true);
+  EXPECT_EQ(r.variance, 5.5L);
+  EXPECT_EQ(r.std_dev, std::sqrt(5.5L));
+  EXPECT_TRUE(near(r.skew, 13.5L / std::pow(5.5L, 1.5L)));
+  EXPECT_TRUE(near(r.kurtosis, 68.5L / (5.5L * 5.5L) - 3));
+  EXPECT_TRUE(r.mode_exists && r.mode == 1 && r.median == 1 && r.minimum == 0 && r.maximum == 6);
+  EXPECT_EQ(r.quartile_1st, 0.5L);
+  EXPECT_EQ(r.inter_quartile_range, 3);
+
+  stats.SetValues({2});
+  EXPECT_EQ(r.variance, 0);
+  stats.SetPopulation(false);
+  EXPECT_EQ(r.variance, 0);
+  stats.SetValues({1, 2});
+  EXPECT_TRUE(!r.mode_exists && r.mode == -1.1E4932L);
+  stats.AddValue(-std::numeric_limits<Extended>::quiet_NaN());
+  EXPECT_TRUE(std::isnan(r.maximum) && r.minimum == 1);
 }
 
 // All results as bytes: every figure has to agree in its last bit, signs of zeros included.
@@ -76,11 +108,13 @@ TEST(DescriptiveStats, IncrementalUpdatesEqualAFreshComputationBitForBit) {
                                1,
                                1 + 0.5e-15L,
                                std::numeric_limits<Extended>::infinity(),
-                               std::numeric_limits<Extended>::quiet_NaN()};
+                               std::numeric_limits<Extended>::quiet_NaN(),
+                               -std::numeric_limits<Extended>::quiet_NaN()};
   for (int round = 0; round < 60; ++round) {
     DescriptiveStats stats;
     stats.SetPopulation(round % 2 == 1);
-    const std::size_t kinds = round < 40 ? 4 : 6;  // the later rounds meet infinities and NaN
+    const std::size_t kinds =
+        round < 40 ? 4 : std::size(specials);  // the later rounds meet infinities and NaN
     for (int step = 0; step < 60; ++step) {
       if (engine() % 4 == 0) {
         stats.DeleteValue(static_cast<std::int64_t>(engine() % (stats.NoOfValues() + 1)));
@@ -115,6 +149,8 @@ TEST(DescriptiveStats, NothingMovesWhileUpdating) {
   EXPECT_EQ(stats.Results().variance, 4);
 
   stats.BeginUpdate();
+  stats.SetValues({4, 6});
+  EXPECT_EQ(stats.Results().mean, 4);
   stats.AddValue(8);
   EXPECT_EQ(stats.Report(0)[0], "Number of Values:\t3");
   EXPECT_FALSE(stats.Updating());
@@ -132,6 +168,12 @@ TEST(DescriptiveStats, TheSampleIsItsOwn) {
   TQorFloatVector read = stats.Values();
   read[1] = 100;
   EXPECT_EQ(stats.Values(), (TQorFloatVector{1, 2, 3}));
+  DescriptiveStats copy = stats;
+  copy.DeleteValue(0);
+  EXPECT_EQ(stats.Values(), (TQorFloatVector{1, 2, 3}));
+  const DescriptiveStats moved = std::move(copy);
+  EXPECT_EQ(moved.Results().mean, 2.5L);
+  EXPECT_EQ(copy.Results().mean, 0);  // NOLINT(bugprone-use-after-move): left empty
   EXPECT_FALSE(stats.DeleteValue(-1));
   EXPECT_FALSE(stats.DeleteValue(3));
   EXPECT_TRUE(stats.DeleteValue(2));

@@ -13,6 +13,7 @@ namespace qorvex {
 TEST(Median, TakesTheVectorAsItStands) {
   EXPECT_EQ(GetMedian(TQorFloatVector{4, 1, 3, 2}), 2);
   EXPECT_EQ(GetMedian(TQorSingleVector{1, 2, 9}), 2);
+  EXPECT_EQ(GetMedian(TQorSingleVector{1, 1 + 0x1p-23F}), 1 + 0x1p-24L) << "added in extended";
   EXPECT_EQ(GetMedian(TQorLIntVector{7}), 7);
   constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
   EXPECT_EQ(GetMedian(TQorLIntVector{largest, largest}), largest);
@@ -41,7 +42,9 @@ TEST(Mode, IsTheLongestRunUnlessTied) {
   EXPECT_EQ(Mode({4, 4}), Result(true, 4));
   EXPECT_EQ(Mode({1, 1 + 0.5e-15L, 3}), Result(true, 1 + 0.5e-15L))
       << "neighbours within the tolerance are one run";
-  EXPECT_MATH_ERROR(Mode({}), rsVectorIsEmpty);
+  Extended mode = 42;
+  EXPECT_MATH_ERROR(GetMode({}, mode), rsVectorIsEmpty);
+  EXPECT_EQ(mode, 42);
 }
 
 TEST(MostFrequent, ListsEveryLongestRun) {
@@ -113,6 +116,9 @@ TEST(TrimmedMeans, CutPerTailOrInTotal) {
   EXPECT_EQ(TrimmedMean(TQorLIntVector{1, 2, 30}, 0.4L), 2);
   EXPECT_EQ(TrimmedMean(TQorLWordVector{4294967295, 4294967295}, 0.1L), 4294967295.0L);
   EXPECT_EQ(TrimmedMean(TQorFloatVector{8}, 0.3L), 8);
+  EXPECT_MATH_ERROR(TrimmedMean(TQorFloatVector{8}, 0.6L), rsInvalidValue);
+  const std::int64_t huge = std::int64_t{1} << 62;
+  EXPECT_EQ(TrimmedMean(TQorInt64Vector{huge, huge, huge, huge}, 0.25L), 0x1p62L) << "no wrapping";
 }
 
 TEST(TrimmedMeans, TakeTheFractionAsItIsStored) {

@@ -4,28 +4,41 @@
 
 namespace qorvex {
 
-// A few texts stand for the rest: one of each ending, and the two long ones that span source lines.
+constexpr ReportTextId kAllTexts[] = {
+#define QORVEX_ID(id, text) id,
+    QORVEX_REPORT_TEXTS(QORVEX_ID)
+#undef QORVEX_ID
+};
+
+// The report's own tests hold the texts that it uses; here are the ends of all, and the two long
+// texts, which span source lines.
 TEST(ReportTexts, AreTheSystemsOwn) {
-  EXPECT_EQ(ReportText(rsDSNoOfValues), "Number of Values:");
-  EXPECT_EQ(ReportText(rsPValue), "P-Value: ") << "the trailing blank belongs to the text";
-  EXPECT_EQ(ReportText(rsDSCoeffDet), "Coefficient of Determination") << "no colon";
-  EXPECT_EQ(ReportText(rsNotRejected), "Null Hypothesis is not-Rejected!");
-  EXPECT_EQ(
-      ReportText(rsRejectReason),
-      "There is sufficient Statistical evidence to reject the proposal behind the Null Hypothesis");
+  std::string with_trailing_blank;
+  for (const ReportTextId id : kAllTexts) {
+    if (ReportText(id).ends_with(' ')) with_trailing_blank += ReportText(id);
+  }
+  EXPECT_EQ(with_trailing_blank,
+            "Confidence Level: Significance Level: Null Hypothesis: Alternate Hypothesis: "
+            "Test Statistics: Confidence Interval for the Mean: "
+            "Confidence Interval for the Variance: P-Value: Rejection Region: ");
+  EXPECT_EQ(ReportText(rsRejectReason),
+            "There is sufficient Statistical evidence to reject the proposal behind the Null "
+            "Hypothesis");
   EXPECT_EQ(ReportText(rsNotRejectReason),
             "There is insufficient Statistical evidence to reject the proposal behind the Null "
             "Hypothesis");
-  EXPECT_EQ(ReportText(rsDSCoeffCor), "Coefficient of Correlation") << "the last of the list";
+  EXPECT_EQ(ReportText(rsNotRejected), "Null Hypothesis is not-Rejected!");
+  EXPECT_EQ(ReportText(rsDSCoeffCor), "Coefficient of Correlation");
 }
 
 TEST(ReportTexts, CanBeReplaced) {
   SetReportText(rsDSMean, "Mittelwert:");
   EXPECT_EQ(ReportText(rsDSMean), "Mittelwert:");
   SetReportLookup([](ReportTextId id) {
-    return id == rsDSMean ? std::optional<std::string>("Moyenne :") : std::nullopt;
+    if (id != rsDSMean) return std::optional<std::string>();
+    return std::optional("translated " + std::string(EnglishReportText(id)));
   });
-  EXPECT_EQ(ReportText(rsDSMean), "Moyenne :");
+  EXPECT_EQ(ReportText(rsDSMean), "translated Mean:");
   EXPECT_EQ(ReportText(rsDSMode), "Mode:");
   SetReportLookup(nullptr);
   ResetReportText(rsDSMean);

@@ -77,6 +77,8 @@ TEST(Shape, ChecksTheCountBeforeTheSpread) {
   EXPECT_MATH_ERROR(GetSampleKurtosis({1, 2, 3}), rsVectorG3);
   EXPECT_MATH_ERROR(GetPopulationKurtosis({1, 2, 3}), rsVectorG3);
   EXPECT_MATH_ERROR(GetPopulationKurtosis({1, 1, 1, 1}), rsStdDev);
+  EXPECT_MATH_ERROR(GetSampleKurtosis({1, 2, 3, 4}, 2.5L, 1e-16L), rsStdDev);
+  EXPECT_MATH_ERROR(GetPopulationKurtosis({1, 2, 3, 4}, 2.5L, -1e-16L), rsStdDev);
 }
 
 }  // namespace qorvex
