@@ -1,15 +1,9 @@
 #include "qorvex/base/comparisons.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-
 #include "qorvex/base/elementary.h"
+#include "support/test.h"
 
 namespace qorvex {
-
-constexpr Extended kInfinity = std::numeric_limits<Extended>::infinity();
-constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
 
 class Tolerance : public ::testing::Test {
  protected:

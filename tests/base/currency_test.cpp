@@ -1,13 +1,10 @@
 #include "qorvex/base/currency.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
 #include <random>
 
 #include "qorvex/base/rounding.h"
 #include "qorvex/base/swap.h"
-#include "qorvex/base/vector_types.h"
+#include "support/test.h"
 
 namespace qorvex {
 
@@ -72,7 +69,7 @@ TEST(RoundToInteger, RoundsTiesToEvenAndMarksWhatDoesNotFit) {
 
 TEST(SwapXY, ExchangesBits) {
   Extended x = -0.0L;
-  Extended y = std::numeric_limits<Extended>::infinity();
+  Extended y = kInfinity;
   SwapXY(x, y);
   EXPECT_TRUE(std::isinf(x) && std::signbit(y));
   Currency a(1);

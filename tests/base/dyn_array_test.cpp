@@ -1,14 +1,12 @@
 #include "qorvex/base/dyn_array.h"
 
 #include <array>
-#include <gtest/gtest.h>
 #include <new>
 #include <ranges>
 #include <stdexcept>
 #include <thread>
-#include <vector>
 
-#include "qorvex/base/vector_types.h"
+#include "support/test.h"
 
 namespace qorvex {
 

@@ -1,13 +1,10 @@
 #include "qorvex/base/fractions.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
 #include <numeric>
 #include <random>
 
 #include "qorvex/base/elementary.h"
-#include "support/expect_error.h"
+#include "support/test.h"
 
 namespace qorvex {
 
@@ -27,7 +24,7 @@ TEST(Float2MixedFraction, FindsTheFirstConvergentWithinTheDecimals) {
   EXPECT_EQ(Mixed(2.4L, 0), "2");
   EXPECT_EQ(Mixed(2.6L, 0), "3");
   EXPECT_EQ(Mixed(1e30L, 9), "1000000000000000000024696061952");
-  EXPECT_TRUE(std::isnan(Float2MixedFraction(std::numeric_limits<Extended>::quiet_NaN(), 9).whole));
+  EXPECT_TRUE(std::isnan(Float2MixedFraction(kNaN, 9).whole));
 }
 
 TEST(Float2MixedFraction, IsWithinHalfADecimalAndInLowestTerms) {

@@ -1,7 +1,6 @@
 #include "qorvex/base/random.h"
 
-#include <algorithm>
-#include <gtest/gtest.h>
+#include "support/test.h"
 
 namespace qorvex {
 

@@ -1,19 +1,12 @@
 #include "qorvex/base/special_functions.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-
-#include "support/expect_error.h"
 #include "support/table.h"
+#include "support/test.h"
 
 namespace qorvex {
 
 using testing::ExpectWorstError;
 using testing::Table;
-
-constexpr Extended kInfinity = std::numeric_limits<Extended>::infinity();
-constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
 
 // Limits in units of 1e-19, a little above what was measured.
 TEST(SpecialFunctions, AgreeWithTheReferenceTables) {

@@ -1,13 +1,9 @@
 #include "qorvex/base/text.h"
 
 #include <clocale>
-#include <cmath>
-#include <cstring>
-#include <gtest/gtest.h>
-#include <limits>
 #include <random>
 
-#include "support/expect_error.h"
+#include "support/test.h"
 
 namespace qorvex {
 
@@ -28,8 +24,8 @@ TEST(Str2Float, RoundsCorrectly) {
       {"1.18973149535723176502e+4932", std::numeric_limits<Extended>::max()},
       {"3.6451995318824746025e-4951", std::numeric_limits<Extended>::denorm_min()},
       {"1e-5000", 0},
-      {"inf", std::numeric_limits<Extended>::infinity()},
-      {"-Infinity", -std::numeric_limits<Extended>::infinity()},
+      {"inf", kInfinity},
+      {"-Infinity", -kInfinity},
       // Half way between 1 and its successor goes to even; a digit more goes up.
       {"1.0000000000000000000542101086242752217003726400434970855712890625", 1},
       {"1.00000000000000000005421010862427522170037264004349708557128906250001",
@@ -82,8 +78,8 @@ TEST(Float2EStr, RoundsTheExactValueHalfToEven) {
   EXPECT_EQ(Float2EStr(-0.0L, 0), "0");
   EXPECT_EQ(Float2EStr(-1234.5L, 3), "-1234.500");
   EXPECT_EQ(Float2EStr(7, -3), "7");
-  EXPECT_EQ(Float2EStr(std::numeric_limits<Extended>::quiet_NaN(), 2), "nan");
-  EXPECT_EQ(Float2EStr(-std::numeric_limits<Extended>::infinity(), 2), "-inf");
+  EXPECT_EQ(Float2EStr(kNaN, 2), "nan");
+  EXPECT_EQ(Float2EStr(-kInfinity, 2), "-inf");
   EXPECT_EQ(Float2EStr(0x1p13000L, 5).size(), 3914U + 6U);
   EXPECT_EQ(Str2Float(Float2EStr(std::numeric_limits<Extended>::max(), 300)),
             std::numeric_limits<Extended>::max());

@@ -1,14 +1,7 @@
 #include "qorvex/stats/descriptive_stats.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-#include <string>
-#include <utility>
-#include <vector>
-
-#include "qorvex/base/errors.h"
 #include "support/random_vectors.h"
+#include "support/test.h"
 
 namespace qorvex {
 
@@ -77,7 +70,7 @@ TEST(DescriptiveStats, HasTheFiguresOfSampleAndPopulation) {
   EXPECT_EQ(r.variance, 0);
   stats.SetValues({1, 2});
   EXPECT_TRUE(!r.mode_exists && r.mode == -1.1E4932L);
-  stats.AddValue(-std::numeric_limits<Extended>::quiet_NaN());
+  stats.AddValue(-kNaN);
   EXPECT_TRUE(std::isnan(r.maximum) && r.minimum == 1);
 }
 
@@ -88,7 +81,7 @@ std::string Bits(const DescriptiveResults& r) {
        {r.sum, r.sum_sq, r.mean, r.variance, r.std_dev, r.median, r.mode, r.minimum, r.maximum,
         r.skew, r.kurtosis, r.quartile_1st, r.quartile_3rd, r.inter_quartile_range}) {
     // NaNs differ in sign and payload without meaning.
-    const Extended shown = std::isnan(x) ? std::numeric_limits<Extended>::quiet_NaN() : x;
+    const Extended shown = std::isnan(x) ? kNaN : x;
     bits.append(reinterpret_cast<const char*>(&shown), 10);
   }
   return bits + (r.mode_exists ? "m" : "-");
@@ -103,13 +96,7 @@ std::string FreshBits(const DescriptiveStats& stats) {
 
 TEST(DescriptiveStats, IncrementalUpdatesEqualAFreshComputationBitForBit) {
   testing::Engine engine(123);
-  const Extended specials[] = {0.0L,
-                               -0.0L,
-                               1,
-                               1 + 0.5e-15L,
-                               std::numeric_limits<Extended>::infinity(),
-                               std::numeric_limits<Extended>::quiet_NaN(),
-                               -std::numeric_limits<Extended>::quiet_NaN()};
+  const Extended specials[] = {0.0L, -0.0L, 1, 1 + 0.5e-15L, kInfinity, kNaN, -kNaN};
   for (int round = 0; round < 60; ++round) {
     DescriptiveStats stats;
     stats.SetPopulation(round % 2 == 1);

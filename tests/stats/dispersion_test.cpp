@@ -1,20 +1,15 @@
 #include "qorvex/stats/dispersion.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-
 #include "qorvex/stats/location.h"
 #include "qorvex/vector/building.h"
-#include "support/expect_error.h"
 #include "support/random_vectors.h"
+#include "support/test.h"
 
 namespace qorvex {
 
 template <class T>
 class Estimators : public ::testing::Test {};
-using WideNumeric =
-    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t>;
-TYPED_TEST_SUITE(Estimators, WideNumeric);
+TYPED_TEST_SUITE(Estimators, WideTypes);
 
 TYPED_TEST(Estimators, MeanAndVariancesOfASmallSample) {
   const TQorVector<TypeParam> v{2, 4, 4, 4, 5, 5, 7, 9};

@@ -1,11 +1,9 @@
 // The univariate reference sets, judged by the number of correct digits against the exact results
 // for the data as 80 bits hold them.
 
-#include <cmath>
-#include <gtest/gtest.h>
-
 #include "qorvex/stats/QorvexStatistics.h"
 #include "support/table.h"
+#include "support/test.h"
 
 namespace qorvex {
 

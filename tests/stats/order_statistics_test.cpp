@@ -1,12 +1,9 @@
 #include "qorvex/stats/order_statistics.h"
 
 #include <array>
-#include <gtest/gtest.h>
-#include <limits>
-#include <utility>
 
 #include "qorvex/stats/trimmed_means.h"
-#include "support/expect_error.h"
+#include "support/test.h"
 
 namespace qorvex {
 
@@ -132,11 +129,10 @@ TEST(TrimmedMeans, TakeTheFractionAsItIsStored) {
 }
 
 TEST(TrimmedMeans, CheckTheFractionBeforeTheVector) {
-  const Extended nan = std::numeric_limits<Extended>::quiet_NaN();
   const TQorFloatVector empty;
-  for (const Extended fraction : {-0.1L, 0.6L, nan})
+  for (const Extended fraction : {-0.1L, 0.6L, kNaN})
     EXPECT_MATH_ERROR(TrimmedMean(empty, fraction), rsInvalidValue);
-  for (const Extended fraction : {-0.1L, 1.1L, nan})
+  for (const Extended fraction : {-0.1L, 1.1L, kNaN})
     EXPECT_MATH_ERROR(ExcelTrimmedMean(empty, fraction), rsInvalidValue);
   EXPECT_MATH_ERROR(TrimmedMean(empty, 0.1L), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(TrimmedMean(empty, 0), rsVectorIsEmpty);

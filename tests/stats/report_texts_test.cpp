@@ -1,6 +1,6 @@
-#include <gtest/gtest.h>
 
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
+#include "support/test.h"
 
 namespace qorvex {
 

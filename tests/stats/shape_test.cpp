@@ -1,13 +1,11 @@
 #include "qorvex/stats/shape.h"
 
 #include <boost/multiprecision/cpp_bin_float.hpp>
-#include <cmath>
-#include <gtest/gtest.h>
 
 #include "qorvex/stats/dispersion.h"
 #include "qorvex/stats/location.h"
-#include "support/expect_error.h"
 #include "support/random_vectors.h"
+#include "support/test.h"
 
 namespace qorvex {
 

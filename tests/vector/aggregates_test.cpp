@@ -1,16 +1,10 @@
 #include "qorvex/vector/aggregates.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-
 #include "qorvex/vector/extremes.h"
 #include "qorvex/vector/sign_tests.h"
-#include "support/expect_error.h"
+#include "support/test.h"
 
 namespace qorvex {
-
-constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
 
 struct Extremes {
   Extended min_value, max_value;
@@ -113,10 +107,7 @@ TEST(Sums, SquaredDifferencesOfTwoVectors) {
 
 template <class T>
 class Magnitude : public ::testing::Test {};
-using AllNumeric =
-    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
-                     std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
-TYPED_TEST_SUITE(Magnitude, AllNumeric);
+TYPED_TEST_SUITE(Magnitude, AllTypes);
 
 TYPED_TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
   EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>{3, 4}), 5);

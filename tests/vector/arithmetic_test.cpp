@@ -1,11 +1,7 @@
 #include "qorvex/vector/arithmetic.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-
 #include "qorvex/base/elementary.h"
-#include "support/expect_error.h"
+#include "support/test.h"
 
 namespace qorvex {
 

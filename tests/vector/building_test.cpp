@@ -1,10 +1,7 @@
 #include "qorvex/vector/building.h"
 
-#include <gtest/gtest.h>
-#include <limits>
-#include <vector>
-
 #include "qorvex/vector/conversion.h"
+#include "support/test.h"
 
 namespace qorvex {
 

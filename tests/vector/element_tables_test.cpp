@@ -2,12 +2,11 @@
 // call converts, rounds or squares in a width that nobody chose.
 
 #include <array>
-#include <gtest/gtest.h>
-#include <string>
 #include <type_traits>
 
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/vector/QorvexVector.h"
+#include "support/test.h"
 
 namespace qorvex {
 

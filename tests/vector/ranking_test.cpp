@@ -1,21 +1,14 @@
 #include "qorvex/vector/ranking.h"
 
-#include <algorithm>
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-
 #include "qorvex/base/comparisons.h"
 #include "qorvex/vector/building.h"
 #include "qorvex/vector/sorting.h"
 #include "support/random_vectors.h"
+#include "support/test.h"
 
 namespace qorvex {
 
 using testing::Engine;
-
-constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
-constexpr Extended kInfinity = std::numeric_limits<Extended>::infinity();
 
 // The definition: sort a copy and scan it from the front for the first equal element.
 template <class T>
@@ -100,8 +93,7 @@ class NearTies : public ::testing::Test {
 
   const Extended initial_ = QorTolerance;
 };
-using Floats = ::testing::Types<Extended, double, float>;
-TYPED_TEST_SUITE(NearTies, Floats);
+TYPED_TEST_SUITE(NearTies, FloatTypes);
 
 TYPED_TEST(NearTies, RankAsTheLinearScanDoes) {
   Engine engine(2026);

@@ -1,15 +1,10 @@
 #include "qorvex/vector/sorting.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstring>
-#include <gtest/gtest.h>
-#include <limits>
 #include <new>
-#include <vector>
 
 #include "qorvex/vector/building.h"
 #include "support/random_vectors.h"
+#include "support/test.h"
 
 // The sort's working memory comes from operator new[]; the next one fails on demand.
 static bool array_allocation_fails = false;
@@ -31,10 +26,7 @@ using testing::RandomVector;
 
 template <class T>
 class Sorting : public ::testing::Test {};
-using AllNumeric =
-    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
-                     std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
-TYPED_TEST_SUITE(Sorting, AllNumeric);
+TYPED_TEST_SUITE(Sorting, AllTypes);
 
 template <class T>
 void ExpectSortsLikeTheLibrary(TQorVector<T> vector) {
@@ -90,7 +82,7 @@ TEST(SortingFloats, OrdersAnOrganPipeBehindOutliers) {
 TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
   Engine engine(1);
   auto v = RandomVector<Extended>(engine, 1000);
-  v[3] = std::numeric_limits<Extended>::quiet_NaN();
+  v[3] = kNaN;
   const TQorFloatVector before = CopyVector(v);
   array_allocation_fails = true;
   EXPECT_THROW(QSortVector(v, true), std::bad_alloc);
@@ -99,15 +91,13 @@ TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
 }
 
 TEST(SortingFloats, NaNIsLastBothWaysAndTheRestIsOrderedBitForBit) {
-  constexpr Extended nan = std::numeric_limits<Extended>::quiet_NaN();
-  constexpr Extended infinity = std::numeric_limits<Extended>::infinity();
   constexpr Extended subnormal = std::numeric_limits<Extended>::denorm_min();
-  const TQorFloatVector source{nan,       1,     -nan,      infinity,  0.0L,
-                               -infinity, -0.0L, subnormal, -subnormal};
+  const TQorFloatVector source{kNaN,       1,     -kNaN,     kInfinity, 0.0L,
+                               -kInfinity, -0.0L, subnormal, -subnormal};
   for (const bool ascending : {true, false}) {
     TQorFloatVector v = CopyVector(source);
     QSortVector(v, ascending);
-    TQorFloatVector expected{-infinity, -subnormal, -0.0L, 0.0L, subnormal, 1, infinity};
+    TQorFloatVector expected{-kInfinity, -subnormal, -0.0L, 0.0L, subnormal, 1, kInfinity};
     if (!ascending) expected = ReverseVector(expected);
     for (std::size_t i = 0; i < expected.size(); ++i) {
       EXPECT_EQ(v[i], expected[i]);

@@ -1,14 +1,11 @@
 #include "qorvex/vector/transforms.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
 #include <stdexcept>
 
 #include "qorvex/vector/moving_average.h"
 #include "qorvex/vector/polynomial.h"
-#include "support/expect_error.h"
 #include "support/random_vectors.h"
+#include "support/test.h"
 
 namespace qorvex {
 
@@ -107,8 +104,7 @@ TEST(MovingAverage, WritesAtTheOffsetOfEachWindow) {
 
 template <class T>
 class MovingAverages : public ::testing::Test {};
-using Floats = ::testing::Types<Extended, double, float>;
-TYPED_TEST_SUITE(MovingAverages, Floats);
+TYPED_TEST_SUITE(MovingAverages, FloatTypes);
 
 TYPED_TEST(MovingAverages, SumEveryWindowAfresh) {
   testing::Engine engine(3);
