@@ -20,15 +20,17 @@ constexpr Extended kNoMode = -1.1E4932L;
 template <class Visit>
 void ForEachRun(const TQorFloatVector& sorted, Visit visit) {
   std::size_t length = 1;
-  for (std::size_t i = 1; i < sorted.size(); ++i) {
-    if (SameFloat(sorted[i], sorted[i - 1])) {
+  Extended previous = sorted[0];
+  for (const Extended x : std::span(sorted).subspan(1)) {
+    if (SameFloat(x, previous)) {
       ++length;
     } else {
-      visit(sorted[i - 1], length);
+      visit(previous, length);
       length = 1;
     }
+    previous = x;
   }
-  visit(sorted[sorted.size() - 1], length);
+  visit(previous, length);
 }
 
 // The value at a one-based position between elements.

@@ -1,6 +1,7 @@
 #include "qorvex/vector/aggregates.h"
 
 #include <cmath>
+#include <span>
 
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
@@ -17,7 +18,7 @@ constexpr auto kSquare = [](Extended x) { return x * x; };
 template <FloatElement T, class Term>
 Extended SumOfTerms(const TQorVector<T>& vector, Term term) {
   Extended sum = term(static_cast<Extended>(vector[0]));
-  for (std::size_t i = 1; i < vector.size(); ++i) sum += term(static_cast<Extended>(vector[i]));
+  for (const T x : std::span(vector).subspan(1)) sum += term(static_cast<Extended>(x));
   return sum;
 }
 
