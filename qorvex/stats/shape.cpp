@@ -49,6 +49,16 @@ Extended SumOfFourthPowers(const TQorFloatVector& vector, Extended mean) {
   return sum;
 }
 
+using MomentsRoutine = void (*)(const TQorFloatVector&, Extended& std_dev, Extended& mean);
+using ShapeRoutine = Extended (*)(const TQorFloatVector&, Extended mean, Extended std_dev);
+
+Extended WithOwnMoments(const TQorFloatVector& vector, MomentsRoutine moments, ShapeRoutine shape) {
+  Extended std_dev = 0;
+  Extended mean = 0;
+  moments(vector, std_dev, mean);
+  return shape(vector, mean, std_dev);
+}
+
 }  // namespace
 
 Extended GetSampleSkew(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
@@ -60,10 +70,7 @@ Extended GetSampleSkew(const TQorFloatVector& vector, Extended mean, Extended st
 
 Extended GetSampleSkew(const TQorFloatVector& vector) {
   RequireForSkew(vector);
-  Extended std_dev = 0;
-  Extended mean = 0;
-  SampleStdDevAndMean(vector, std_dev, mean);
-  return GetSampleSkew(vector, mean, std_dev);
+  return WithOwnMoments(vector, SampleStdDevAndMean<Extended>, GetSampleSkew);
 }
 
 Extended GetPopulationSkew(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
@@ -75,10 +82,7 @@ Extended GetPopulationSkew(const TQorFloatVector& vector, Extended mean, Extende
 
 Extended GetPopulationSkew(const TQorFloatVector& vector) {
   RequireForSkew(vector);
-  Extended std_dev = 0;
-  Extended mean = 0;
-  PopulationStdDevAndMean(vector, std_dev, mean);
-  return GetPopulationSkew(vector, mean, std_dev);
+  return WithOwnMoments(vector, PopulationStdDevAndMean<Extended>, GetPopulationSkew);
 }
 
 Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
@@ -92,10 +96,7 @@ Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean, Extende
 
 Extended GetSampleKurtosis(const TQorFloatVector& vector) {
   RequireForKurtosis(vector);
-  Extended std_dev = 0;
-  Extended mean = 0;
-  SampleStdDevAndMean(vector, std_dev, mean);
-  return GetSampleKurtosis(vector, mean, std_dev);
+  return WithOwnMoments(vector, SampleStdDevAndMean<Extended>, GetSampleKurtosis);
 }
 
 Extended GetPopulationKurtosis(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
@@ -107,10 +108,7 @@ Extended GetPopulationKurtosis(const TQorFloatVector& vector, Extended mean, Ext
 
 Extended GetPopulationKurtosis(const TQorFloatVector& vector) {
   RequireForKurtosis(vector);
-  Extended std_dev = 0;
-  Extended mean = 0;
-  PopulationStdDevAndMean(vector, std_dev, mean);
-  return GetPopulationKurtosis(vector, mean, std_dev);
+  return WithOwnMoments(vector, PopulationStdDevAndMean<Extended>, GetPopulationKurtosis);
 }
 
 }  // namespace qorvex::inline QorvexStatistics
