@@ -29,7 +29,8 @@ step() {
 }
 
 is_installed() {
-  [[ $(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+  # One line an architecture.
+  dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }
 
 # The lists may be out of date or missing; whether they serve shows when the packages are fetched.

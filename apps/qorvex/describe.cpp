@@ -1,16 +1,5 @@
 #include "apps/qorvex/describe.h"
 
-#include "qorvex/base/comparisons.h"
-#include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
-#include "qorvex/stats/descriptive_stats.h"
-
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/json_writer.h"
-#include "apps/qorvex/table_arguments.h"
-#include "apps/qorvex/text_input.h"
-#include "apps/qorvex/text_output.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -20,6 +9,15 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/table_arguments.h"
+#include "apps/qorvex/text_input.h"
+#include "apps/qorvex/text_output.h"
+#include "qorvex/base/comparisons.h"
+#include "qorvex/base/text.h"
+#include "qorvex/stats/descriptive_stats.h"
 
 namespace qorvex::cli {
 
@@ -43,6 +41,15 @@ struct DescribeArguments {
   bool json = false;
 };
 
+// Keeps the parser of options from reading 010 as eight and 0x10 as sixteen. Gives what is wrong.
+std::string PlainDecimal(std::string& text) {
+  if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos) {
+    return Excerpt(text) + " is not a whole number";
+  }
+  text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
+  return "";
+}
+
 bool AllFinite(const DescriptiveResults& results) {
   const Extended range = results.maximum - results.minimum;
   return std::ranges::all_of(std::array{results.sum, results.sum_sq, results.variance, results.skew,
@@ -55,14 +62,8 @@ bool AllFinite(const DescriptiveResults& results) {
 DescriptiveStats StatisticsOf(TableColumn& column, const DescribeArguments& arguments) {
   DescriptiveStats statistics;
   statistics.SetPopulation(arguments.population);
-  bool in_range = false;
-  try {
-    statistics.SetValues(std::move(column.values));
-    in_range = AllFinite(statistics.Results());
-  } catch (const EMathError&) {
-    // The statistics of finite values have no other errors than those that an overflow leads to.
-  }
-  if (!in_range) {
+  statistics.SetValues(std::move(column.values));
+  if (!AllFinite(statistics.Results())) {
     throw InputError(InputFault::kOutOfRange, InputName(arguments.table.file),
                      column.Title() +
                          ": the values are too large; their statistics are beyond the range of "
@@ -165,6 +166,7 @@ void AddDescribe(CLI::App& program) {
   command.add_flag("--population", arguments->population,
                    "The values are the whole population: divide by n, not by n - 1");
   command.add_option("--decimals", arguments->decimals, "Decimals of the report")
+      ->transform(CLI::Validator(PlainDecimal, ""))
       ->check(CLI::Range(0, 255))
       ->option_text("N (0 to 255, default 4)");
   command.add_flag("--json", arguments->json,

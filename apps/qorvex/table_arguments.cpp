@@ -1,12 +1,11 @@
 #include "apps/qorvex/table_arguments.h"
 
-#include "qorvex/base/text.h"
+#include <string_view>
 
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
-
-#include <string_view>
+#include "qorvex/base/text.h"
 
 namespace qorvex::cli {
 
@@ -50,6 +49,14 @@ std::string Hint(InputFault fault, const TableSelection& selection) {
   return "";
 }
 
+// Such a name may well be a damaged number in a table without a header.
+bool BeginsLikeANumber(std::string_view name) {
+  constexpr std::string_view minus_sign = "\xE2\x88\x92";
+  constexpr std::string_view starts = "0123456789+-.";
+  return name.starts_with(minus_sign) ||
+         (!name.empty() && starts.find(name[0]) != std::string_view::npos);
+}
+
 }  // namespace
 
 void TableArguments::AddTo(CLI::App& command) {
@@ -77,6 +84,10 @@ std::vector<TableColumn> TableArguments::Read() const {
   try {
     std::vector<TableColumn> columns = ReadTable(OpenTextInput(file), selection);
     for (const TableColumn& column : columns) {
+      if (BeginsLikeANumber(column.name)) {
+        WriteRemark(OnOneLine(InputName(file)) + ": line 1 was taken for a header because " +
+                    Excerpt(column.name) + " is not a number");
+      }
       if (column.skipped == 0) continue;
       WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": skipped " +
                   Int2EStr(column.skipped) +

@@ -13,8 +13,8 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// The tolerance of every comparison here, initially 1.0e-15. It is absolute in the zero and sign
-/// tests and relative beyond magnitude 1 in SameFloat.
+/// The tolerance of every comparison here, initially 1.0e-15. The zero and sign tests compare with
+/// it as it is; SameFloat scales it with values above 1.
 ///
 /// A program may change it for data of another scale, while no other thread uses the library. Raise
 /// it where rounding residue of long computations should count as zero, such as elimination on
@@ -41,7 +41,7 @@ extern QORVEX_EXPORT Extended QorTolerance;
   return x < -QorTolerance;
 }
 
-/// True when the two values are to be treated as equal: x == y, or both are finite and
+/// Equality for ties and duplicates: x == y, or both are finite and
 /// |x - y| <= max(QorTolerance, 4 eps) * max(1, |x|, |y|), computed in the wider of the two types
 /// with that type's eps. NaN is the same as nothing; an infinity only as itself.
 ///

@@ -33,13 +33,13 @@ concept ElementFrom = std::convertible_to<From, To> &&
 
 /// A zero-based dynamic array whose handles share one reference-counted buffer.
 ///
-/// Copying a handle shares the buffer; writing an element through any handle is seen through all of
-/// them. Changing the length first gives the handle a buffer of its own. Length 0 holds no buffer
-/// at all, and a moved-from handle is empty.
+/// Copying a handle shares the buffer; there is one set of elements, whichever handle writes to it.
+/// Changing the length first gives the handle a buffer of its own. Length 0 holds no buffer at all,
+/// and a moved-from handle is empty.
 ///
-/// Handles may be copied and dropped on any thread; writing elements needs the caller's own
-/// synchronisation. One allocation holds the header and the elements. Capacity grows by half, so
-/// appending is amortised O(1).
+/// Copies of a handle may be made and destroyed by several threads at once; writes to elements need
+/// the caller's own synchronisation. One allocation holds the header and the elements. Capacity
+/// grows by half, so appending is amortised O(1).
 ///
 /// Access is const-deep: through a const handle the elements can only be read. New elements of
 /// trivially copyable types have all bits zero.

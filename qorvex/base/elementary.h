@@ -24,9 +24,9 @@ inline constexpr std::string_view QorNullStr = "";
 [[nodiscard]] QORVEX_EXPORT Extended QorLog10(Extended x) noexcept;
 /// @}
 
-/// The arc cosine in radians, from 0 to pi. An argument that rounding has pushed past -1 or 1 by no
-/// more than QorTolerance counts as -1 or 1, so that parallel vectors enclose the angle 0; further
-/// out, and for NaN, the result is NaN.
+/// The arc cosine in radians, from 0 to pi. Values outside [-1, 1] by at most QorTolerance are
+/// taken for rounding errors of the nearer end, which makes 0 of the angle between parallel
+/// vectors; all others outside, and NaN, give NaN.
 [[nodiscard]] QORVEX_EXPORT Extended QorArcCos(Extended x) noexcept;
 
 /// x to the power y. XtoY(0, 0) is 1. Integer exponents up to 8 are repeated products from the

@@ -5,9 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 
-namespace {
-
-[[gnu::constructor]] void ProbeExtendedPrecision() {
+// The name lets a static link ask for this file, which nothing else would.
+extern "C" [[gnu::constructor]] void qorvex_probe_extended_precision() {
   const volatile long double one = 1.0L;
   const volatile long double last_bit = 0x1p-63L;
   const volatile long double sum = one + last_bit;
@@ -19,5 +18,3 @@ namespace {
       stderr));
   std::abort();
 }
-
-}  // namespace

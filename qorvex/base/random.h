@@ -14,8 +14,8 @@ namespace qorvex::inline QorvexGlobals {
 ///
 /// One generator serves the whole program: the 64-bit Mersenne twister MT19937-64 (Matsumoto and
 /// Nishimura 1998, "Mersenne twister: a 623-dimensionally equidistributed uniform pseudo-random
-/// number generator"; Nishimura 2000, "Tables of 64-bit Mersenne twisters"). The same seed gives
-/// the same stream on every platform and compiler. Calls from several threads need the caller's own
+/// number generator"; Nishimura 2000, "Tables of 64-bit Mersenne twisters"). A seed's stream does
+/// not depend on the machine or the compiler. Calls from several threads need the caller's own
 /// lock. Before any seed is set, the stream is that of SetRandSeed(5489).
 QORVEX_EXPORT Extended Random() noexcept;
 

@@ -96,9 +96,10 @@ constexpr auto kPowersOfTen = [] {
 // Correctly rounded for any length and exponent. The C locale is named explicitly because an
 // application may have changed the global one; std::from_chars would do, but the one of GCC 12
 // refuses subnormal values.
-Extended ConvertLongNumber(std::string_view text) {
-  static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", nullptr);
-  return strtold_l(std::string(text).c_str(), nullptr, c_locale);
+Extended ConvertLongNumber(std::string_view digits) {
+  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+  const std::string terminated(digits);
+  return strtold_l(terminated.c_str(), nullptr, plain);
 }
 
 // The value of unsigned text.

@@ -39,9 +39,9 @@ template <std::integral Int>
   return {buffer, end};
 }
 
-/// The text without the given trailing character, and without a decimal point that is left
-/// dangling. A digit is stripped from the decimals only, so "2.500" becomes "2.5" and "3.000"
-/// becomes "3", while "100" and "1e10" stay.
+/// The text without the given character at its end, and without a decimal point that then ends it.
+/// A digit is stripped from the decimals only, so "2.500" becomes "2.5" and "3.000" becomes "3",
+/// while "100" and "1e10" stay.
 [[nodiscard]] QORVEX_EXPORT std::string StripTChStr(std::string_view text, char trailing);
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -80,8 +80,8 @@ QString TQorDescStats::Version() const {
 
 void TQorDescStats::AddValue(Extended value) {
   constexpr int decimals = 20;
-  items_.append(QString::fromStdString(StripTChStr(Float2EStr(value, decimals), '0')));
   stats_.AddValue(value);
+  items_.append(QString::fromStdString(StripTChStr(Float2EStr(value, decimals), '0')));
   NotifyUnlessUpdating();
 }
 
@@ -112,7 +112,7 @@ void TQorDescStats::EndUpdate() {
 
 void TQorDescStats::ConvertItems() {
   auto values = TQorFloatVector::ForOverwrite(static_cast<std::size_t>(items_.size()));
-  std::ranges::transform(items_, values.begin(),
+  std::ranges::transform(std::as_const(items_), values.begin(),
                          [](const QString& line) { return Str2Float(line.toStdString()); });
   setValues(std::move(values));
 }

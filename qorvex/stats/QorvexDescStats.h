@@ -118,7 +118,7 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   void setInt64Values(const TQorInt64Vector& values);
   /// @}
 
-  /// The number of values; counts beyond 2^32 - 1 show as that.
+  /// The number of values, also during an update; counts beyond 2^32 - 1 show as that.
   [[nodiscard]] std::uint32_t NoOfValues() const noexcept;
 
   /// @{

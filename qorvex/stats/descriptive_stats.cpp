@@ -137,8 +137,11 @@ void DescriptiveStats::UpdateStats() {
     results_ = {};
     return;
   }
-  sorted_ = CopyVector(values_);
-  QSortVector(sorted_, true);
+  // Only a copy that is sorted replaces the old one: lack of memory leaves none, and the next
+  // update then starts afresh.
+  TQorFloatVector sorted = CopyVector(values_);
+  QSortVector(sorted, true);
+  sorted_ = std::move(sorted);
   SumUp();
   UpdateFromSums();
 }

@@ -56,7 +56,7 @@ struct DescriptiveResults {
 /// so it is the maximum. When memory runs out, the values may hold the change already; the results
 /// follow with the next change or EndUpdate. Costs: setting n values O(n log n); adding or deleting
 /// one O(n), without a sort unless the sample holds NaN. Memory: the values and a sorted copy, 32
-/// bytes a value, and 16 more while sorting.
+/// bytes a value (48 while they grow one by one), and 16 more while sorting.
 class QORVEX_EXPORT DescriptiveStats {
  public:
   /// An empty sample.

@@ -25,8 +25,8 @@ template <WideNumericElement T>
 /// rsVectorNotPos unless every element is greater than QorTolerance.
 [[nodiscard]] QORVEX_EXPORT Extended HarmonicMean(const TQorFloatVector& vector);
 
-/// The square root of the plain sum of squares, without a division by n: (3, 4) gives 5. An empty
-/// vector raises EMathError with rsVectorIsEmpty.
+/// The root of the sum of the squares; in spite of its name it takes no mean, so (3, 4) gives 5. An
+/// empty vector raises EMathError with rsVectorIsEmpty.
 [[nodiscard]] QORVEX_EXPORT Extended RootMeanSquare(const TQorFloatVector& vector);
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -3,7 +3,7 @@
 /// @file
 /// Tests of the signs of all elements.
 ///
-/// Each scans in ascending order and stops at the first element that decides. Floating elements are
+/// Each looks at elements from the front only until the answer is certain. Floating elements are
 /// judged within QorTolerance; int64 elements exactly. An empty vector raises EMathError with
 /// rsVectorIsEmpty. A NaN element counts as not zero, not positive and not negative. For Float,
 /// Double, Single and Int64 vectors. O(n).

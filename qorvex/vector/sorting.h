@@ -9,9 +9,9 @@
 namespace qorvex::inline QorvexVector {
 
 /// Sorts the elements ascending or descending, exactly (no tolerance), in the buffer that all
-/// handles share. Vectors of fewer than two elements are left alone. NaN sorts last in both
-/// directions, whatever its sign bit; -0 counts as less than +0, so the result is unique but for
-/// the order of different NaNs. For all numeric elements.
+/// handles share. Vectors of fewer than two elements are left alone. NaN of either sign goes to the
+/// end, ascending or descending; -0 counts as less than +0, so the result is unique but for the
+/// order of different NaNs. For all numeric elements.
 ///
 /// Expected O(n) on keys that spread, O(n log n) on ones that do not; nothing recurses. From some
 /// 400 elements on the sort needs memory for as many elements again; running out of it raises
