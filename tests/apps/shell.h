@@ -1,38 +1,21 @@
 #pragma once
 
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
+#include <cstdio>
 #include <string>
-#include <sys/wait.h>
-#include <unistd.h>
 
 namespace qorvex::cli {
 
-/// What a shell command printed, and its exit status.
-struct ShellResult {
-  int status;
-  std::string out;
-  std::string err;
-};
-
-inline std::string FileText(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// Runs a command by sh, with the built program on the path, in the folder of the example data.
-inline ShellResult Shell(const std::string& command) {
-  const std::string base = "/tmp/qorvex_test_" + std::to_string(::getpid());
-  const std::string script = "PATH='" QORVEX_PROGRAM_FOLDER "':$PATH; cd '" QORVEX_EXAMPLE_DATA
-                             "' && {\n" +
-                             command + "\n} >" + base + ".out 2>" + base + ".err";
-  const int status = std::system(script.c_str());
-  ShellResult result{WIFEXITED(status) ? WEXITSTATUS(status) : -1, FileText(base + ".out"),
-                     FileText(base + ".err")};
-  ::unlink((base + ".out").c_str());
-  ::unlink((base + ".err").c_str());
-  return result;
+/// What a shell command prints, on standard output and standard error together. It runs with the
+/// built program on the path, in the folder of the example data.
+inline std::string Shell(const std::string& command) {
+  const std::string script = "exec 2>&1; PATH='" QORVEX_PROGRAM_FOLDER
+                             "':$PATH; cd '" QORVEX_EXAMPLE_DATA "' || exit\n" +
+                             command;
+  std::FILE* const pipe = ::popen(script.c_str(), "r");
+  std::string text;
+  for (int c = std::fgetc(pipe); c != EOF; c = std::fgetc(pipe)) text += static_cast<char>(c);
+  ::pclose(pipe);
+  return text;
 }
 
 }  // namespace qorvex::cli
