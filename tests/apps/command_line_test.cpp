@@ -58,12 +58,16 @@ TEST(Describe, RefusesBadInputWithStatusTwo) {
                "beyond the range of extended precision\nexit status 2\n");
 }
 
+TEST(Describe, ReadsDecimalsAsDecimals) {
+  ExpectOutput("echo 1 | qorvex describe - --decimals 010 | grep Mean", "Mean:\t1.0000000000\n");
+}
+
 TEST(Describe, RefusesWrongUsageWithStatusTwo) {
   for (const char* arguments :
        {"", "decsribe x", "describe", "describe - --decimals -1", "describe - --decimals 256",
-        "describe - --decimals x", "describe - --delimiter 5", "describe - --delimiter ''",
-        "describe - --delimiter ab", "describe - --nosuch", "describe - extra",
-        "describe - --column"}) {
+        "describe - --decimals x", "describe - --decimals 0x10", "describe - --delimiter 5",
+        "describe - --delimiter ''", "describe - --delimiter ab", "describe - --nosuch",
+        "describe - extra", "describe - --column"}) {
     const std::string output = Shell(std::string("echo 1 | qorvex ") + arguments + "; echo $?");
     EXPECT_TRUE(
         output.starts_with("qorvex: ") &&
