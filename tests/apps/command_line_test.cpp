@@ -67,7 +67,7 @@ TEST(Describe, RefusesWrongUsageWithStatusTwo) {
        {"", "decsribe x", "describe", "describe - --decimals -1", "describe - --decimals 256",
         "describe - --decimals x", "describe - --decimals 0x10", "describe - --delimiter 5",
         "describe - --delimiter ''", "describe - --delimiter ab", "describe - --nosuch",
-        "describe - extra", "describe - --column"}) {
+        "describe - --column 1 extra", "describe - --column"}) {
     const std::string output = Shell(std::string("echo 1 | qorvex ") + arguments + "; echo $?");
     EXPECT_TRUE(
         output.starts_with("qorvex: ") &&

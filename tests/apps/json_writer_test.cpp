@@ -49,7 +49,7 @@ TEST(JsonWriter, EscapesStringsAndReplacesWhatIsNotUtf8) {
   const std::string valid = "\u007E\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF";
   expect(valid, valid);
   // Alone, cut off, overlong, a surrogate, beyond the last.
-  for (const char* invalid : {"\xE9", "\x80", "\xE2\x82", "\xC1\xBF", "\xE0\x9F\xBF",
+  for (const char* invalid : {"\xE9", "\x80", "\xC3", "\xE2\x82", "\xC1\xBF", "\xE0\x9F\xBF",
                               "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
     std::string marks;
     for (const char* at = invalid; *at != '\0'; ++at) marks += "\uFFFD";
