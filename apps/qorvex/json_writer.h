@@ -3,13 +3,13 @@
 /// @file
 /// JSON text whose numbers keep all 80 bits.
 
-#include "qorvex/base/element_types.h"
-#include "qorvex/base/text.h"
-
 #include <concepts>
 #include <optional>
 #include <string>
 #include <string_view>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/base/text.h"
 
 namespace qorvex::cli {
 

@@ -1,15 +1,13 @@
-#include "qorvex/base/version.h"
-
-#include "apps/qorvex/describe.h"
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/text_output.h"
-
 #include <CLI/CLI.hpp>
-
 #include <exception>
 #include <new>
 #include <sstream>
 #include <string>
+
+#include "apps/qorvex/describe.h"
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/text_output.h"
+#include "qorvex/base/version.h"
 
 namespace qorvex::cli {
 

@@ -3,9 +3,6 @@
 /// @file
 /// Rows of cells from delimited text.
 
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/text_input.h"
-
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -13,6 +10,9 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/text_input.h"
 
 namespace qorvex::cli {
 

@@ -50,11 +50,12 @@ std::string Hint(InputFault fault, const TableSelection& selection) {
 }
 
 // Such a name may well be a damaged number in a table without a header.
-bool BeginsLikeANumber(std::string_view name) {
+bool LooksLikeADamagedNumber(std::string_view name) {
   constexpr std::string_view minus_sign = "\xE2\x88\x92";
   constexpr std::string_view starts = "0123456789+-.";
-  return name.starts_with(minus_sign) ||
-         (!name.empty() && starts.find(name[0]) != std::string_view::npos);
+  const bool begins_like_one = name.starts_with(minus_sign) ||
+                               (!name.empty() && starts.find(name[0]) != std::string_view::npos);
+  return begins_like_one && !IsNumber(name);
 }
 
 }  // namespace
@@ -84,8 +85,8 @@ std::vector<TableColumn> TableArguments::Read() const {
   try {
     std::vector<TableColumn> columns = ReadTable(OpenTextInput(file), selection);
     for (const TableColumn& column : columns) {
-      if (BeginsLikeANumber(column.name)) {
-        WriteRemark(OnOneLine(InputName(file)) + ": line 1 was taken for a header because " +
+      if (LooksLikeADamagedNumber(column.name)) {
+        WriteRemark(OnOneLine(InputName(file)) + ": the first row was taken for a header because " +
                     Excerpt(column.name) + " is not a number");
       }
       if (column.skipped == 0) continue;

@@ -3,12 +3,11 @@
 /// @file
 /// The arguments by which a command is told which table, and what of it, to read.
 
-#include "apps/qorvex/table_reader.h"
-
 #include <CLI/CLI.hpp>
-
 #include <string>
 #include <vector>
+
+#include "apps/qorvex/table_reader.h"
 
 namespace qorvex::cli {
 

@@ -1,11 +1,5 @@
 #include "apps/qorvex/table_reader.h"
 
-#include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
-
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/row_reader.h"
-
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -14,6 +8,11 @@
 #include <string_view>
 #include <utility>
 
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/row_reader.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+
 namespace qorvex::cli {
 
 namespace {
@@ -21,15 +20,6 @@ namespace {
 using Cells = std::span<const std::string_view>;
 
 // Text in the form of a number, whatever its size; this includes "nan" and "inf".
-bool IsNumber(std::string_view text) {
-  try {
-    static_cast<void>(Str2Float(text));
-  } catch (const EConvertError& error) {
-    return error.message_id() == rsNumberTooLarge;
-  }
-  return true;
-}
-
 bool IsHeader(Cells cells) {
   return std::ranges::any_of(
       cells, [](std::string_view cell) { return !cell.empty() && !IsNumber(cell); });
@@ -190,6 +180,15 @@ class ColumnCollector {
 };
 
 }  // namespace
+
+bool IsNumber(std::string_view text) {
+  try {
+    static_cast<void>(Str2Float(text));
+  } catch (const EConvertError& error) {
+    return error.message_id() == rsNumberTooLarge;
+  }
+  return true;
+}
 
 std::string TableColumn::Title() const {
   return ColumnTitle(number, name);

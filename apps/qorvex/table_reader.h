@@ -3,14 +3,14 @@
 /// @file
 /// Columns of numbers from delimited text.
 
-#include "qorvex/base/vector_types.h"
-
-#include "apps/qorvex/text_input.h"
-
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
+
+#include "apps/qorvex/text_input.h"
+#include "qorvex/base/vector_types.h"
 
 namespace qorvex::cli {
 
@@ -38,6 +38,9 @@ struct TableColumn {
   /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
   [[nodiscard]] std::string Title() const;
 };
+
+/// Whether the text is a number, even one beyond the range of extended precision.
+[[nodiscard]] bool IsNumber(std::string_view text);
 
 /// Reads the chosen columns. Other columns may hold any text.
 ///

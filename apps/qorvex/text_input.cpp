@@ -1,12 +1,12 @@
 #include "apps/qorvex/text_input.h"
 
-#include "apps/qorvex/input_error.h"
-
 #include <cerrno>
 #include <fcntl.h>
 #include <memory>
 #include <system_error>
 #include <unistd.h>
+
+#include "apps/qorvex/input_error.h"
 
 namespace qorvex::cli {
 
