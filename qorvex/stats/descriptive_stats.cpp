@@ -127,7 +127,13 @@ void DescriptiveStats::EndUpdate() {
 void DescriptiveStats::SetPopulation(bool population) {
   if (population == population_) return;
   population_ = population;
-  UpdateStats();
+  // The divisor touches neither the order nor the sums.
+  const bool in_step = !updating_ && !values_.empty() && sorted_.size() == values_.size();
+  if (in_step) {
+    UpdateFromSums();
+  } else {
+    UpdateStats();
+  }
 }
 
 void DescriptiveStats::UpdateStats() {
