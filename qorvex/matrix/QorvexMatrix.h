@@ -1,0 +1,8 @@
+#pragma once
+
+/// @file
+/// Unit QorvexMatrix: matrices of the ten numeric element types.
+
+#include "qorvex/matrix/building.h"
+#include "qorvex/matrix/properties.h"
+#include "qorvex/matrix/shape.h"

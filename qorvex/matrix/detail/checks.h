@@ -1,0 +1,82 @@
+#pragma once
+
+// The shape of a matrix, and the checks that matrix routines share. They run in the order in which
+// each routine's comment lists its errors.
+
+#include <cstddef>
+#include <cstdint>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/base/vector_types.h"
+#include "qorvex/matrix/shape.h"
+
+namespace qorvex::inline QorvexMatrix::detail {
+
+struct Shape {
+  std::uint32_t rows = 0;
+  std::uint32_t cols = 0;
+  bool rectangular = false;
+
+  [[nodiscard]] bool Empty() const noexcept { return rows == 0 || cols == 0; }
+};
+
+// What MatrixDimensions reports. compare_rows is the unit's shape switch.
+template <class T>
+[[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix, bool compare_rows) noexcept {
+  Shape shape;
+  shape.rows = static_cast<std::uint32_t>(matrix.size());
+  if (!matrix.empty()) shape.cols = static_cast<std::uint32_t>(matrix[0].size());
+  if (!compare_rows) {
+    shape.rectangular = true;
+    return shape;
+  }
+  if (shape.Empty()) return shape;
+  for (const TQorVector<T>& row : matrix) {
+    if (row.size() != shape.cols) {
+      shape.cols = 0;
+      return shape;
+    }
+  }
+  shape.rectangular = true;
+  return shape;
+}
+
+// The same with this unit's switch.
+template <class T>
+[[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix) noexcept {
+  return ShapeOf(matrix, QorMatrixRectangularCheck);
+}
+
+inline void RequireElements(const Shape& shape) {
+  if (shape.Empty()) RaiseMathError(rsMatrixIsEmpty);
+}
+
+inline void RequireRectangular(const Shape& shape) {
+  if (!shape.rectangular) RaiseMathError(rsMatrixRect);
+}
+
+inline void RequireSquare(const Shape& shape) {
+  if (!shape.rectangular || shape.rows != shape.cols) RaiseMathError(rsMatrixSqr);
+}
+
+inline void RequireRow(const Shape& shape, std::uint32_t row) {
+  if (row >= shape.rows) RaiseMathError(rsInvalidRow);
+}
+
+inline void RequireCol(const Shape& shape, std::uint32_t col) {
+  if (col >= shape.cols) RaiseMathError(rsInvalidCol);
+}
+
+// With the shape switch off nobody has compared the rows, and one that is shorter than the first
+// must not be read beyond its end.
+template <class T>
+void RequireLength(const TQorVector<T>& row, std::size_t length) {
+  if (row.size() < length) RaiseMathError(rsMatrixRect);
+}
+
+template <class T>
+void RequireLengths(const TQorMatrix<T>& matrix, std::size_t length) {
+  for (const TQorVector<T>& row : matrix) RequireLength(row, length);
+}
+
+}  // namespace qorvex::inline QorvexMatrix::detail

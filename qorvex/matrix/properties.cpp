@@ -1,0 +1,45 @@
+#include "qorvex/matrix/properties.h"
+
+#include <algorithm>
+#include <span>
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/matrix/detail/checks.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+template <FloatElement T>
+std::uint32_t MatrixZeroRows(const TQorMatrix<T>& matrix) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireRectangular(shape);
+  detail::RequireLengths(matrix, shape.cols);
+  const auto is_zero = [](const TQorVector<T>& row) {
+    return std::ranges::all_of(row, [](T x) { return FloatIsZero(x); });
+  };
+  return static_cast<std::uint32_t>(std::ranges::count_if(matrix, is_zero));
+}
+
+template <FloatElement T>
+bool MatrixIsIdentity(const TQorMatrix<T>& matrix) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireSquare(shape);
+  detail::RequireLengths(matrix, shape.cols);
+  for (std::uint32_t i = 0; i < shape.rows; ++i) {
+    const T* const row = matrix[i].data();
+    for (std::uint32_t j = 0; j < shape.cols; ++j) {
+      const Extended expected = i == j ? 1 : 0;
+      if (FloatIsNotZero(static_cast<Extended>(row[j]) - expected)) return false;
+    }
+  }
+  return true;
+}
+
+#define QORVEX_INSTANTIATE(T)                                  \
+  template std::uint32_t MatrixZeroRows(const TQorMatrix<T>&); \
+  template bool MatrixIsIdentity(const TQorMatrix<T>&);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexMatrix
