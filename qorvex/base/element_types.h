@@ -43,6 +43,10 @@ concept IntegerElement = WideIntegerElement<T> || NarrowIntegerElement<T>;
 template <class T>
 concept WideNumericElement = FloatElement<T> || WideIntegerElement<T>;
 
+/// The elements that add and subtract: the floating ones, int64 and int32.
+template <class T>
+concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std::int32_t>;
+
 /// All ten numeric elements.
 template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
@@ -70,6 +74,8 @@ using SumOf = typename SumType<T>::Type;
   X(std::uint16_t) X(std::int16_t) X(std::uint8_t) X(std::int8_t)
 #define QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(X) \
   QORVEX_FOR_FLOAT_ELEMENTS(X) QORVEX_FOR_WIDE_INTEGER_ELEMENTS(X)
+#define QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(X) \
+  QORVEX_FOR_FLOAT_ELEMENTS(X) X(std::int64_t) X(std::int32_t)
 #define QORVEX_FOR_NUMERIC_ELEMENTS(X) \
   QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(X) QORVEX_FOR_NARROW_INTEGER_ELEMENTS(X)
 /// @endcond

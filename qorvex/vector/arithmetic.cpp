@@ -95,9 +95,7 @@ Extended AngleBetweenVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   template TQorVector<T> SubtractVectors(const TQorVector<T>&, const TQorVector<T>&); \
   template void AddToVector(TQorVector<T>&, const TQorVector<T>&);                    \
   template void SubtractFromVector(TQorVector<T>&, const TQorVector<T>&);
-QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
-QORVEX_INSTANTIATE(std::int64_t)
-QORVEX_INSTANTIATE(std::int32_t)
+QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                                                   \

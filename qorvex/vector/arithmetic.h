@@ -7,17 +7,10 @@
 /// and infinities are what the processor makes of them. Integers wrap around silently. A vector may
 /// be both arguments. O(n).
 
-#include <concepts>
-#include <cstdint>
-
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex::inline QorvexVector {
-
-/// The elements that add and subtract: Float, Double, Single, Int64 and LInt.
-template <class T>
-concept SignedArithmeticElement = WideNumericElement<T> && !std::same_as<T, std::uint32_t>;
 
 /// A new vector with a[i] + b[i]; empty for two empty vectors. Different lengths raise EMathError
 /// with rsSameDimensions.
