@@ -1,0 +1,100 @@
+#include "qorvex/matrix/detail/deferred_rows.h"
+
+#include <algorithm>
+#include <bit>
+#include <utility>
+
+#include "qorvex/matrix/detail/row_kernels.h"
+
+namespace qorvex::inline QorvexMatrix::detail {
+
+DeferredRows::DeferredRows(TQorFloatMatrix& matrix, std::size_t cols)
+    : cols_(cols), depth_(std::min(kDepth, matrix.size())) {
+  rows_.reserve(matrix.size());
+  for (TQorFloatVector& row : matrix) rows_.push_back({.elements = row.data(), .factors = {}});
+  sources_.reserve(depth_);
+  quads_ = std::make_unique_for_overwrite<SplitQuad[]>((cols + kQuad - 1) / kQuad * depth_);
+}
+
+Extended DeferredRows::At(std::size_t row, std::size_t col) const {
+  const Row& target = rows_[row];
+  Extended x = target.elements[col];
+  for (unsigned waiting = target.waiting; waiting != 0; waiting &= waiting - 1) {
+    const auto source = static_cast<std::size_t>(std::countr_zero(waiting));
+    x += rows_[sources_[source]].elements[col] * target.factors[source];
+  }
+  return x;
+}
+
+void DeferredRows::Swap(std::size_t row1, std::size_t row2) {
+  if (row1 == row2) return;
+  PrepareToChange(row1);
+  PrepareToChange(row2);
+  SwapElements(rows_[row1].elements, rows_[row2].elements, cols_);
+  std::swap(rows_[row1].factors, rows_[row2].factors);
+  std::swap(rows_[row1].waiting, rows_[row2].waiting);
+}
+
+void DeferredRows::Scale(std::size_t row, std::size_t from_col, Extended factor) {
+  PrepareToChange(row);
+  SettleRow(rows_[row]);
+  ScaleElements(rows_[row].elements + from_col, cols_ - from_col, factor);
+}
+
+void DeferredRows::Add(std::size_t target, std::size_t source, Extended factor) {
+  PrepareToChange(target);
+  Row& row = rows_[target];
+  if (target == source || !BecomeSource(source)) {
+    SettleRow(rows_[source]);
+    SettleRow(row);
+    AddElements(row.elements, rows_[source].elements, cols_, factor);
+    return;
+  }
+  const std::size_t slot = rows_[source].slot;
+  // A row's additions are made in the order of the slots.
+  if (row.waiting >> slot != 0) SettleRow(row);
+  row.factors[slot] = factor;
+  row.waiting |= 1U << slot;
+}
+
+void DeferredRows::Settle() {
+  for (Row& row : rows_) SettleRow(row);
+  for (const std::size_t source : sources_) rows_[source].slot = kNoSlot;
+  sources_.clear();
+}
+
+// Additions that wait for the row's present elements are made before these change.
+void DeferredRows::PrepareToChange(std::size_t row) {
+  if (rows_[row].slot != kNoSlot) Settle();
+}
+
+// Gives the row a slot. False when its elements do not split; it then has none.
+bool DeferredRows::BecomeSource(std::size_t source) {
+  Row& row = rows_[source];
+  if (row.slot != kNoSlot) return true;
+  if (sources_.size() == depth_) Settle();
+  SettleRow(row);
+  const std::size_t slot = sources_.size();
+  bool exact = true;
+  for (std::size_t col = 0; col < cols_; col += kQuad) {
+    exact &= Quads(col)[slot].Store(row.elements + col, std::min(kQuad, cols_ - col));
+  }
+  if (!exact) return false;
+  row.slot = slot;
+  sources_.push_back(source);
+  return true;
+}
+
+void DeferredRows::SettleRow(Row& row) {
+  while (row.waiting != 0) {
+    // Sources side by side, mostly all of them, are one run.
+    const auto first = static_cast<std::size_t>(std::countr_zero(row.waiting));
+    const auto count = static_cast<std::size_t>(std::countr_one(row.waiting >> first));
+    for (std::size_t col = 0; col < cols_; col += kQuad) {
+      AddProducts(row.elements + col, &row.factors[first], Quads(col) + first, count, cols_ - col);
+    }
+    row.waiting &= ~(((1U << count) - 1) << first);
+  }
+}
+
+}  // namespace qorvex::inline QorvexMatrix::detail

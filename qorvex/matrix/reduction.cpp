@@ -1,0 +1,154 @@
+#include "qorvex/matrix/reduction.h"
+
+#include <algorithm>
+#include <concepts>
+#include <utility>
+#include <vector>
+
+#include "qorvex/matrix/detail/checks.h"
+#include "qorvex/matrix/detail/deferred_rows.h"
+#include "qorvex/matrix/detail/direct_rows.h"
+#include "qorvex/matrix/detail/elimination.h"
+#include "qorvex/matrix/detail/new_matrix.h"
+#include "qorvex/matrix/detail/rectangular_check_pause.h"
+#include "qorvex/matrix/properties.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+namespace {
+
+// The rows of a matrix whose rows share no buffer.
+template <FloatElement T>
+using UnsharedRows =
+    std::conditional_t<std::same_as<T, Extended>, detail::DeferredRows, detail::DirectRows<T>>;
+
+template <FloatElement T>
+bool RowsShareBuffers(const TQorMatrix<T>& matrix) {
+  std::vector<const T*> buffers;
+  buffers.reserve(matrix.size());
+  for (const TQorVector<T>& row : matrix) buffers.push_back(row.data());
+  std::ranges::sort(buffers);
+  return std::ranges::adjacent_find(buffers) != buffers.end();
+}
+
+// Calls reduce with the rows of the matrix in the form that suits them.
+template <FloatElement T, class Reduce>
+decltype(auto) WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
+  if (RowsShareBuffers(matrix)) return reduce(detail::DirectRows<T>(matrix, cols));
+  return reduce(UnsharedRows<T>(matrix, cols));
+}
+
+template <FloatElement T>
+detail::Shape CheckedShape(const TQorMatrix<T>& matrix) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireRectangular(shape);
+  detail::RequireLengths(matrix, shape.cols);
+  return shape;
+}
+
+template <FloatElement T>
+std::size_t CheckedOrder(const TQorMatrix<T>& matrix) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireSquare(shape);
+  detail::RequireLengths(matrix, shape.cols);
+  return shape.rows;
+}
+
+// Repeats the steps on the rows of the inverse.
+template <class Rows>
+class InverseObserver {
+ public:
+  explicit InverseObserver(Rows& rows) : rows_(rows) {}
+  void Swapped(std::size_t row1, std::size_t row2) { rows_.Swap(row1, row2); }
+  void Scaled(std::size_t row, Extended /*pivot*/, Extended factor) { rows_.Scale(row, 0, factor); }
+  void Added(std::size_t target, std::size_t source, Extended factor) {
+    rows_.Add(target, source, factor);
+  }
+
+ private:
+  Rows& rows_;
+};
+
+class DeterminantObserver {
+ public:
+  void Swapped(std::size_t, std::size_t) { determinant_ = -determinant_; }
+  void Scaled(std::size_t, Extended pivot, Extended /*factor*/) { determinant_ *= pivot; }
+  void Added(std::size_t, std::size_t, Extended) {}
+  [[nodiscard]] Extended Determinant() const { return determinant_; }
+
+ private:
+  Extended determinant_ = 1;
+};
+
+}  // namespace
+
+template <FloatElement T>
+void RowEchelonForm(TQorMatrix<T>& matrix) {
+  const detail::Shape shape = CheckedShape(matrix);
+  const detail::RectangularCheckPause pause;
+  WithRows(matrix, shape.cols, [&](auto rows) {
+    detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
+  });
+}
+
+template <FloatElement T>
+void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank) {
+  rank = 0;
+  const detail::Shape shape = CheckedShape(matrix);
+  const detail::RectangularCheckPause pause;
+  WithRows(matrix, shape.cols, [&](auto rows) {
+    detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
+  });
+  rank = shape.rows - MatrixZeroRows(matrix);
+}
+
+template <FloatElement T>
+bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
+  const std::size_t order = CheckedOrder(matrix);
+  const detail::RectangularCheckPause pause;
+  // The inverse is assigned last, since it may be the matrix itself.
+  auto result = detail::NewIdentityMatrix<T>(order);
+  const bool regular = WithRows(matrix, order, [&](auto rows) {
+    UnsharedRows<T> result_rows(result, order);
+    detail::Eliminate(rows, order, order, InverseObserver(result_rows));
+    const bool full_rank = MatrixZeroRows(matrix) == 0;
+    if (full_rank) {
+      for (std::size_t col = order - 1; col > 0; --col) {
+        for (std::size_t row = col; row-- > 0;) {
+          const Extended element = rows.At(row, col);
+          if (FloatIsZero(element)) continue;
+          rows.Add(row, col, -element);
+          result_rows.Add(row, col, -element);
+        }
+      }
+      rows.Settle();
+    }
+    result_rows.Settle();
+    return full_rank;
+  });
+  inverse = std::move(result);
+  return regular;
+}
+
+template <FloatElement T>
+Extended MatrixDeterminant(TQorMatrix<T>& matrix) {
+  const std::size_t order = CheckedOrder(matrix);
+  const detail::RectangularCheckPause pause;
+  DeterminantObserver observer;
+  WithRows(matrix, order, [&](auto rows) { detail::Eliminate(rows, order, order, observer); });
+  Extended determinant = observer.Determinant();
+  for (std::size_t i = 0; i < order; ++i) determinant *= static_cast<Extended>(matrix[i][i]);
+  return determinant;
+}
+
+#define QORVEX_INSTANTIATE(T)                                       \
+  template void RowEchelonForm(TQorMatrix<T>&);                     \
+  template void RowEchelonFormRank(TQorMatrix<T>&, std::uint32_t&); \
+  template bool MatrixInverse(TQorMatrix<T>&, TQorMatrix<T>&);      \
+  template Extended MatrixDeterminant(TQorMatrix<T>&);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexMatrix

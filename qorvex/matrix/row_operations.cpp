@@ -1,0 +1,89 @@
+#include "qorvex/matrix/row_operations.h"
+
+#include "qorvex/matrix/detail/checks.h"
+#include "qorvex/matrix/detail/row_kernels.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+namespace {
+
+template <class T, class... Rows>
+std::size_t CheckedWidth(const TQorMatrix<T>& matrix, Rows... rows) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireRectangular(shape);
+  (detail::RequireRow(shape, rows), ...);
+  (detail::RequireLength(matrix[rows], shape.cols), ...);
+  return shape.cols;
+}
+
+template <class T, class... Cols>
+void CheckCols(const TQorMatrix<T>& matrix, Cols... cols) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireRectangular(shape);
+  (detail::RequireCol(shape, cols), ...);
+  detail::RequireLengths(matrix, shape.cols);
+}
+
+}  // namespace
+
+template <NumericElement T>
+void SwapMatrixRows(TQorMatrix<T>& matrix, std::uint32_t row1, std::uint32_t row2) {
+  const std::size_t width = CheckedWidth(matrix, row1, row2);
+  detail::SwapElements(matrix[row1].data(), matrix[row2].data(), width);
+}
+
+template <NumericElement T>
+void SwapMatrixCols(TQorMatrix<T>& matrix, std::uint32_t col1, std::uint32_t col2) {
+  CheckCols(matrix, col1, col2);
+  for (TQorVector<T>& row : matrix) SwapXY(row[col1], row[col2]);
+}
+
+template <SignedArithmeticElement T>
+void ScaleMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, FactorOf<T> factor) {
+  if (factor == 1) return;
+  const std::size_t width = CheckedWidth(matrix, row);
+  detail::ScaleElements(matrix[row].data(), width, factor);
+}
+
+template <SignedArithmeticElement T>
+void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, FactorOf<T> factor) {
+  if (factor == 1) return;
+  CheckCols(matrix, col);
+  for (TQorVector<T>& row : matrix) row[col] = detail::Scaled(row[col], factor);
+}
+
+template <SignedArithmeticElement T>
+void AddMatrixRows(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
+                   FactorOf<T> factor) {
+  const std::size_t width = CheckedWidth(matrix, target, source);
+  detail::AddElements(matrix[target].data(), matrix[source].data(), width, factor);
+}
+
+template <SignedArithmeticElement T>
+void AddMatrixCols(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
+                   FactorOf<T> factor) {
+  CheckCols(matrix, target, source);
+  for (TQorVector<T>& row : matrix) {
+    row[target] = detail::ScaledSum(row[source], factor, row[target]);
+  }
+}
+
+#define QORVEX_INSTANTIATE(T)                                                 \
+  template void SwapMatrixRows(TQorMatrix<T>&, std::uint32_t, std::uint32_t); \
+  template void SwapMatrixCols(TQorMatrix<T>&, std::uint32_t, std::uint32_t);
+QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T)                                                             \
+  template void ScaleMatrixRow(TQorMatrix<T>&, std::uint32_t, FactorOf<T>);               \
+  template void ScaleMatrixCol(TQorMatrix<T>&, std::uint32_t, FactorOf<T>);               \
+  template void AddMatrixRows(TQorMatrix<T>&, std::uint32_t, std::uint32_t, FactorOf<T>); \
+  template void AddMatrixCols(TQorMatrix<T>&, std::uint32_t, std::uint32_t, FactorOf<T>);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_INSTANTIATE(std::int64_t)
+QORVEX_INSTANTIATE(std::int32_t)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexMatrix

@@ -1,0 +1,229 @@
+#include "qorvex/matrix/reduction.h"
+
+#include <thread>
+
+#include "matrix/plain_reduction.h"
+#include "qorvex/base/comparisons.h"
+#include "qorvex/matrix/QorvexMatrix.h"
+#include "support/random_matrices.h"
+#include "support/table.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using testing::Engine;
+using testing::MatrixOf;
+using testing::PlainReduction;
+using testing::SameBits;
+
+template <FloatElement T>
+TQorMatrix<T> Identity(std::size_t order) {
+  return MatrixOf<T>(order, order, [](std::size_t i, std::size_t j) { return T(i == j); });
+}
+
+// Every bit of the reduced matrix, the inverse and the determinant, and the rank.
+template <FloatElement T>
+void ExpectPlainResults(const TQorMatrix<T>& given, const std::string& what) {
+  auto plain = CopyMatrix(given);
+  PlainReduction<T>{plain}.Eliminate();
+  auto matrix = CopyMatrix(given);
+  RowEchelonForm(matrix);
+  ASSERT_TRUE(SameBits(matrix, plain)) << what;
+  matrix = CopyMatrix(given);
+  std::uint32_t rank = 99;
+  RowEchelonFormRank(matrix, rank);
+  ASSERT_EQ(rank, PlainReduction<T>{plain}.Rank()) << what;
+  if (given.size() != given[0].size()) return;
+
+  plain = CopyMatrix(given);
+  auto plain_inverse = Identity<T>(given.size());
+  const bool regular = PlainReduction<T>{plain, &plain_inverse}.Invert();
+  matrix = CopyMatrix(given);
+  TQorMatrix<T> inverse;
+  ASSERT_EQ(MatrixInverse(matrix, inverse), regular) << what;
+  ASSERT_TRUE(SameBits(matrix, plain)) << what;
+  ASSERT_TRUE(SameBits(inverse, plain_inverse)) << what;
+
+  plain = CopyMatrix(given);
+  matrix = CopyMatrix(given);
+  ASSERT_TRUE(SameBits(MatrixDeterminant(matrix), PlainReduction<T>{plain}.Determinant())) << what;
+}
+
+template <class T>
+class ReductionOf : public ::testing::Test {};
+TYPED_TEST_SUITE(ReductionOf, FloatTypes, );
+
+TYPED_TEST(ReductionOf, AgreesInEveryBitWithThePlainLoops) {
+  using T = TypeParam;
+  Engine engine(20261121);
+  const auto real = [&](auto...) { return testing::RandomVector<T>(engine, 1)[0]; };
+  const auto small = [&](auto...) { return static_cast<T>(static_cast<int>(engine() % 5) - 2); };
+  const auto signed_zeros = [&](auto...) { return engine() % 3 == 0 ? real() : T(-0.0); };
+  const auto far_away = [&](auto...) {
+    const auto exponent = engine() % 8 == 0 ? std::numeric_limits<T>::max_exponent - 60 : 0;
+    return std::ldexp(real(), exponent);
+  };
+  const auto special = [&](auto...) {
+    constexpr T values[] = {std::numeric_limits<T>::infinity(),
+                            std::numeric_limits<T>::quiet_NaN()};
+    return engine() % 40 == 0 ? values[engine() % 2] : real();
+  };
+  const std::pair<const char*, std::function<T(std::size_t, std::size_t)>> makings[] = {
+      {"real", real},         {"small", small},     {"signed zeros", signed_zeros},
+      {"far away", far_away}, {"special", special},
+  };
+  const std::pair<std::size_t, std::size_t> shapes[] = {{1, 1},  {1, 7},   {7, 1},   {2, 2},
+                                                        {3, 5},  {5, 3},   {4, 4},   {9, 9},
+                                                        {10, 6}, {17, 17}, {12, 30}, {31, 31}};
+  for (const auto& [name, making] : makings) {
+    for (const auto& [rows, cols] : shapes) {
+      for (int repetition = 0; repetition < 8; ++repetition) {
+        const auto given = MatrixOf<T>(rows, cols, making);
+        const std::string what = std::string(name) + ' ' + Int2EStr(rows) + " x " + Int2EStr(cols);
+        ASSERT_NO_FATAL_FAILURE(ExpectPlainResults(given, what));
+      }
+    }
+  }
+}
+
+TYPED_TEST(ReductionOf, AgreesWithThePlainLoopsOnMatricesOfLowRank) {
+  using T = TypeParam;
+  Engine engine(7);
+  for (const std::size_t order : {2U, 3U, 6U, 13U, 20U}) {
+    const auto a = MatrixOf<T>(order, order / 2, [&](auto...) { return T(engine() % 9); });
+    const auto b = MatrixOf<T>(order / 2, order, [&](auto...) { return T(engine() % 9); });
+    ASSERT_NO_FATAL_FAILURE(ExpectPlainResults(MultiplyMatrices(a, b), Int2EStr(order)));
+  }
+}
+
+TYPED_TEST(ReductionOf, RowsThatShareABufferAreReducedAsTheyStand) {
+  using T = TypeParam;
+  Engine engine(3);
+  const auto shared = [](const TQorMatrix<T>& given) {
+    auto matrix = CopyMatrix(given);
+    matrix[3] = matrix[1];
+    matrix[4] = matrix[1];
+    return matrix;
+  };
+  const auto given = testing::RandomMatrix<T>(engine, 6, 6);
+  auto plain = shared(given);
+  auto matrix = shared(given);
+  auto plain_inverse = Identity<T>(6);
+  TQorMatrix<T> inverse;
+  const bool regular = PlainReduction<T>{plain, &plain_inverse}.Invert();
+  EXPECT_EQ(MatrixInverse(matrix, inverse), regular);
+  EXPECT_TRUE(SameBits(matrix, plain));
+  EXPECT_TRUE(SameBits(inverse, plain_inverse));
+}
+
+TEST(Reduction, FindsPivotsLeftmostAndLargest) {
+  TQorFloatMatrix matrix{{0, 2}, {0, 4}};
+  std::uint32_t rank = 0;
+  RowEchelonFormRank(matrix, rank);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{0, 1}, {0, 0}}));
+  EXPECT_EQ(rank, 1U);
+  // The topmost of equal magnitudes is the pivot.
+  matrix = {{-2, 1}, {2, 3}};
+  RowEchelonForm(matrix);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{1, -0.5L}, {0, 1}}));
+}
+
+TEST(Reduction, ComputesDeterminants) {
+  const auto determinant = [](TQorFloatMatrix matrix) { return MatrixDeterminant(matrix); };
+  EXPECT_EQ(determinant({{0, 1}, {1, 0}}), -1);
+  EXPECT_EQ(determinant({{2, 0}, {0, 3}}), 6);
+  EXPECT_EQ(determinant({{1, 2}, {2, 4}}), 0);
+  EXPECT_EQ(determinant({{4}}), 4);
+}
+
+TEST(Reduction, TellsSingularMatricesAndInvertsIntoTheMatrixItself) {
+  TQorFloatMatrix matrix{{4}};
+  const TQorFloatMatrix handle = matrix;
+  EXPECT_TRUE(MatrixInverse(matrix, matrix));
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{0.25L}}));
+  EXPECT_EQ(handle, (TQorFloatMatrix{{1}}));
+  matrix = {{1, 2}, {2, 4}};
+  TQorFloatMatrix inverse{{7}};
+  EXPECT_FALSE(MatrixInverse(matrix, inverse));
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{1, 2}, {0, 0}}));
+}
+
+TEST(Reduction, RefusesWhatHasNoShapeAndRestoresTheSwitch) {
+  TQorFloatMatrix empty;
+  TQorFloatMatrix ragged{{1, 2}, {3}};
+  TQorFloatMatrix wide{{1, 2, 3}, {4, 5, 6}};
+  TQorFloatMatrix inverse{{7}};
+  std::uint32_t rank = 9;
+  for (TQorFloatMatrix* matrix : {&empty, &ragged}) {
+    EXPECT_MATH_ERROR(RowEchelonForm(*matrix), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(RowEchelonFormRank(*matrix, rank), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(MatrixInverse(*matrix, inverse), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(MatrixDeterminant(*matrix), rsMatrixIsEmpty);
+  }
+  EXPECT_EQ(rank, 0U);
+  EXPECT_MATH_ERROR(MatrixInverse(wide, inverse), rsMatrixSqr);
+  EXPECT_MATH_ERROR(MatrixDeterminant(wide), rsMatrixSqr);
+  EXPECT_EQ(inverse, (TQorFloatMatrix{{7}}));
+  EXPECT_TRUE(QorMatrixRectangularCheck);
+
+  // With the switch off a short row is still not read beyond its end.
+  QorMatrixRectangularCheck = false;
+  EXPECT_MATH_ERROR(RowEchelonForm(ragged), rsMatrixRect);
+  EXPECT_MATH_ERROR(RowEchelonFormRank(ragged, rank), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixInverse(ragged, inverse), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixDeterminant(ragged), rsMatrixRect);
+  EXPECT_EQ(ragged, (TQorFloatMatrix{{1, 2}, {3}}));
+  RowEchelonForm(wide);
+  EXPECT_FALSE(QorMatrixRectangularCheck);
+  QorMatrixRectangularCheck = true;
+}
+
+TEST(Reduction, RestoresTheSwitchAlsoWhenThreadsReduceTogether) {
+  const auto reduce = [] {
+    for (int i = 0; i < 500; ++i) {
+      TQorFloatMatrix matrix{{1, 2}, {3, 4}};
+      RowEchelonForm(matrix);
+    }
+  };
+  std::thread other(reduce);
+  reduce();
+  other.join();
+  EXPECT_TRUE(QorMatrixRectangularCheck);
+}
+
+// Exact inverses and determinants of Hilbert matrices, up to the order whose condition exceeds the
+// precision of the elements.
+TEST(Reduction, HilbertMatricesKeepTheDigitsThatTheirConditionLeaves) {
+  const testing::Table determinants("tables/hilbert.csv");
+  const testing::Table inverses("tables/hilbert_inverse.csv");
+  std::size_t next = 0;
+  for (std::size_t row = 0; row < 12; ++row) {
+    const auto order = static_cast<std::size_t>(determinants.Value(row, "n"));
+    const auto hilbert = MatrixOf<Extended>(order, order, [](std::size_t i, std::size_t j) {
+      return 1 / static_cast<Extended>(i + j + 1);
+    });
+    const Extended allowed = determinants.Value(row, "cond2") * 0x1p-63L;
+    auto matrix = CopyMatrix(hilbert);
+    const Extended determinant = MatrixDeterminant(matrix);
+    EXPECT_LE(std::fabs(determinant / determinants.Value(row, "det") - 1), allowed) << order;
+
+    const Extended tolerance = std::exchange(QorTolerance, 1e-25L);
+    matrix = CopyMatrix(hilbert);
+    TQorFloatMatrix inverse;
+    EXPECT_TRUE(MatrixInverse(matrix, inverse));
+    QorTolerance = tolerance;
+    Extended error = 0;
+    Extended largest = 0;
+    for (; next < inverses.size() && inverses.Value(next, "n") == order; ++next) {
+      const auto i = static_cast<std::size_t>(inverses.Value(next, "i")) - 1;
+      const auto j = static_cast<std::size_t>(inverses.Value(next, "j")) - 1;
+      const Extended exact = inverses.Value(next, "inverse_ij");
+      error = std::max(error, std::fabs(inverse[i][j] - exact));
+      largest = std::max(largest, std::fabs(exact));
+    }
+    EXPECT_GT(largest, 0);
+    EXPECT_LE(error / largest, allowed) << order;
+  }
+}
+
+}  // namespace qorvex

@@ -1,0 +1,96 @@
+#include "qorvex/matrix/row_operations.h"
+
+#include "qorvex/matrix/shape.h"
+#include "support/random_matrices.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+TEST(RowOperations, ExchangeContentsSeenThroughEveryHandle) {
+  TQorByteMatrix matrix{{1, 2, 3}, {4, 5, 6}};
+  const TQorByteVector row = matrix[0];
+  SwapMatrixRows(matrix, 0, 1);
+  EXPECT_EQ(row, (TQorByteVector{4, 5, 6}));
+  SwapMatrixCols(matrix, 0, 2);
+  EXPECT_EQ(matrix, (TQorByteMatrix{{6, 5, 4}, {3, 2, 1}}));
+  SwapMatrixRows(matrix, 1, 1);
+  SwapMatrixCols(matrix, 1, 1);
+  EXPECT_EQ(matrix, (TQorByteMatrix{{6, 5, 4}, {3, 2, 1}}));
+}
+
+TEST(RowOperations, ScaleAndAdd) {
+  TQorFloatMatrix matrix{{1, 2}, {3, 4}};
+  ScaleMatrixRow(matrix, 1, matrix[1][0]);  // the factor is the element's value before the change
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{1, 2}, {9, 12}}));
+  ScaleMatrixCol(matrix, 0, -2);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{-2, 2}, {-18, 12}}));
+  AddMatrixRows(matrix, 0, 1, 0.5L);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{-11, 8}, {-18, 12}}));
+  AddMatrixCols(matrix, 1, 0, 2);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{-11, -14}, {-18, -24}}));
+  AddMatrixRows(matrix, 0, 0, 1);
+  AddMatrixCols(matrix, 1, 1, -1);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{-22, 0}, {-18, 0}}));
+  matrix[1] = matrix[0];
+  ScaleMatrixCol(matrix, 0, 3);
+  EXPECT_EQ(matrix[0][0], -22 * 9) << "a shared buffer is scaled for each of its rows";
+}
+
+TEST(RowOperations, IntegersWrapAndDoublesRoundOnce) {
+  constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
+  constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
+  TQorLIntMatrix ints{{largest, 1}, {1, 1}};
+  ScaleMatrixRow(ints, 0, 2);
+  EXPECT_EQ(ints, (TQorLIntMatrix{{-2, 2}, {1, 1}}));
+  AddMatrixCols(ints, 0, 1, largest);
+  EXPECT_EQ(ints, (TQorLIntMatrix{{-4, 2}, {-largest - 1, 1}}));
+  TQorInt64Matrix int64s{{smallest}, {-1}};
+  AddMatrixRows(int64s, 0, 1, 1);
+  EXPECT_EQ(int64s[0][0], std::numeric_limits<std::int64_t>::max());
+  // 1 + 2^-53 + 2^-60 is above the middle of two doubles, though its product alone rounds to less.
+  TQorDoubleMatrix doubles{{1}, {1 + 0x1p-52}};
+  AddMatrixRows(doubles, 0, 1, 0x1p-53L + 0x1p-60L);
+  EXPECT_EQ(doubles[0][0], 1 + 0x1p-52);
+}
+
+TEST(RowOperations, ChecksComeInOrderAndTheFactorOneBeforeThem) {
+  TQorFloatMatrix empty;
+  TQorFloatMatrix ragged{{1, 2}, {3}};
+  TQorFloatMatrix matrix{{1, 2}, {3, 4}, {5, 6}};
+  ScaleMatrixRow(empty, 99, 1);
+  ScaleMatrixCol(matrix, 99, 1);
+  for (TQorFloatMatrix* none : {&empty, &ragged}) {
+    EXPECT_MATH_ERROR(SwapMatrixRows(*none, 9, 9), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(SwapMatrixCols(*none, 9, 9), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(ScaleMatrixRow(*none, 9, 2), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(ScaleMatrixCol(*none, 9, 2), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(AddMatrixRows(*none, 9, 9, 2), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(AddMatrixCols(*none, 9, 9, 2), rsMatrixIsEmpty);
+  }
+  EXPECT_MATH_ERROR(SwapMatrixRows(matrix, 3, 0), rsInvalidRow);
+  EXPECT_MATH_ERROR(SwapMatrixRows(matrix, 0, 3), rsInvalidRow);
+  EXPECT_MATH_ERROR(SwapMatrixCols(matrix, 2, 0), rsInvalidCol);
+  EXPECT_MATH_ERROR(SwapMatrixCols(matrix, 0, 2), rsInvalidCol);
+  EXPECT_MATH_ERROR(ScaleMatrixRow(matrix, 3, 2), rsInvalidRow);
+  EXPECT_MATH_ERROR(ScaleMatrixCol(matrix, 2, 2), rsInvalidCol);
+  EXPECT_MATH_ERROR(AddMatrixRows(matrix, 3, 0, 2), rsInvalidRow);
+  EXPECT_MATH_ERROR(AddMatrixRows(matrix, 0, 3, 2), rsInvalidRow);
+  EXPECT_MATH_ERROR(AddMatrixCols(matrix, 2, 0, 2), rsInvalidCol);
+  EXPECT_MATH_ERROR(AddMatrixCols(matrix, 0, 2, 2), rsInvalidCol);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{1, 2}, {3, 4}, {5, 6}}));
+}
+
+TEST(RowOperations, WithoutTheShapeSwitchOnlyRowsInReachCount) {
+  QorMatrixRectangularCheck = false;
+  TQorFloatMatrix ragged{{1, 2}, {3, 4}, {5}};
+  AddMatrixRows(ragged, 0, 1, 1);
+  EXPECT_EQ(ragged[0], (TQorFloatVector{4, 6}));
+  EXPECT_MATH_ERROR(AddMatrixRows(ragged, 0, 2, 1), rsMatrixRect);
+  EXPECT_MATH_ERROR(SwapMatrixRows(ragged, 2, 0), rsMatrixRect);
+  EXPECT_MATH_ERROR(SwapMatrixCols(ragged, 0, 1), rsMatrixRect);
+  EXPECT_MATH_ERROR(ScaleMatrixCol(ragged, 0, 2), rsMatrixRect);
+  EXPECT_EQ(ragged, (TQorFloatMatrix{{4, 6}, {3, 4}, {5}}));
+  QorMatrixRectangularCheck = true;
+}
+
+}  // namespace qorvex
