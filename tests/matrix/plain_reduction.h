@@ -1,8 +1,10 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <utility>
+#include <vector>
 
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/vector_types.h"
@@ -16,6 +18,8 @@ struct PlainReduction {
   TQorMatrix<T>& matrix;
   TQorMatrix<T>* inverse = nullptr;
   Extended determinant = 1;
+  // The largest element in front of a pivot, or in a row without one, after Eliminate.
+  Extended residue = 0;
 
   std::size_t Rows() const { return matrix.size(); }
   std::size_t Cols() const { return matrix[0].size(); }
@@ -40,6 +44,17 @@ struct PlainReduction {
   }
 
   void Eliminate() {
+    std::vector<std::size_t> pivots;
+    FindPivots(pivots);
+    pivots.resize(Rows(), Cols());
+    for (std::size_t r = 0; r < Rows(); ++r) {
+      for (std::size_t c = 0; c < pivots[r]; ++c) {
+        residue = std::max(residue, std::fabs(static_cast<Extended>(matrix[r][c])));
+      }
+    }
+  }
+
+  void FindPivots(std::vector<std::size_t>& pivots) {
     std::size_t pivot_row = 0;
     std::size_t pivot_col = 0;
     while (pivot_row < Rows() && pivot_col < Cols()) {
@@ -73,6 +88,7 @@ struct PlainReduction {
         const Extended x = matrix[r][pivot_col];
         if (FloatIsNotZero(x)) AddToBoth(r, pivot_row, -x);
       }
+      pivots.push_back(pivot_col);
       ++pivot_row;
       ++pivot_col;
     }

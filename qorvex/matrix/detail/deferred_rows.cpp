@@ -35,10 +35,14 @@ void DeferredRows::Swap(std::size_t row1, std::size_t row2) {
   std::swap(rows_[row1].waiting, rows_[row2].waiting);
 }
 
-void DeferredRows::Scale(std::size_t row, std::size_t from_col, Extended factor) {
+std::span<Extended> DeferredRows::Elements(std::size_t row) {
   PrepareToChange(row);
   SettleRow(rows_[row]);
-  ScaleElements(rows_[row].elements + from_col, cols_ - from_col, factor);
+  return {rows_[row].elements, cols_};
+}
+
+void DeferredRows::Scale(std::size_t row, std::size_t from_col, Extended factor) {
+  ScaleElements(Elements(row).data() + from_col, cols_ - from_col, factor);
 }
 
 void DeferredRows::Add(std::size_t target, std::size_t source, Extended factor) {

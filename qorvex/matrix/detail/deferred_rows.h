@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
@@ -22,6 +23,7 @@ class DeferredRows {
   DeferredRows(TQorFloatMatrix& matrix, std::size_t cols);
 
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const;
+  [[nodiscard]] std::span<Extended> Elements(std::size_t row);
   void Swap(std::size_t row1, std::size_t row2);
   void Scale(std::size_t row, std::size_t from_col, Extended factor);
   void Add(std::size_t target, std::size_t source, Extended factor);

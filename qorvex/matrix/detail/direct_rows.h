@@ -1,9 +1,7 @@
 #pragma once
 
-#include <cmath>
 #include <cstddef>
-#include <cstdint>
-#include <utility>
+#include <span>
 #include <vector>
 
 #include "qorvex/matrix/detail/row_kernels.h"
@@ -23,6 +21,8 @@ class DirectRows {
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const {
     return static_cast<Extended>(rows_[row][col]);
   }
+  // The elements of a row, up to date and free to be changed.
+  [[nodiscard]] std::span<T> Elements(std::size_t row) { return {rows_[row], cols_}; }
   void Swap(std::size_t row1, std::size_t row2) { SwapElements(rows_[row1], rows_[row2], cols_); }
   // Scales the elements from a column on.
   void Scale(std::size_t row, std::size_t from_col, Extended factor) {
