@@ -113,20 +113,19 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const bool regular = WithRows(matrix, order, [&](auto rows) {
     UnsharedRows<T> result_rows(result, order);
     detail::Eliminate(rows, order, order, InverseObserver(result_rows));
-    const bool full_rank = MatrixZeroRows(matrix) == 0;
-    if (full_rank) {
-      for (std::size_t col = order - 1; col > 0; --col) {
-        for (std::size_t row = col; row-- > 0;) {
-          const Extended element = rows.At(row, col);
-          if (FloatIsZero(element)) continue;
-          rows.Add(row, col, -element);
-          result_rows.Add(row, col, -element);
-        }
-      }
-      rows.Settle();
-    }
     result_rows.Settle();
-    return full_rank;
+    if (MatrixZeroRows(matrix) != 0) return false;
+    for (std::size_t col = order - 1; col > 0; --col) {
+      for (std::size_t row = col; row-- > 0;) {
+        const Extended element = rows.At(row, col);
+        if (FloatIsZero(element)) continue;
+        rows.Add(row, col, -element);
+        result_rows.Add(row, col, -element);
+      }
+    }
+    rows.Settle();
+    result_rows.Settle();
+    return true;
   });
   inverse = std::move(result);
   return regular;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <bit>
+#include <cassert>
 #include <utility>
 
 #include "qorvex/matrix/detail/row_kernels.h"
@@ -27,16 +28,14 @@ Extended DeferredRows::At(std::size_t row, std::size_t col) const {
 }
 
 void DeferredRows::Swap(std::size_t row1, std::size_t row2) {
-  if (row1 == row2) return;
-  PrepareToChange(row1);
-  PrepareToChange(row2);
+  assert(rows_[row1].slot == kNoSlot && rows_[row2].slot == kNoSlot);
   SwapElements(rows_[row1].elements, rows_[row2].elements, cols_);
   std::swap(rows_[row1].factors, rows_[row2].factors);
   std::swap(rows_[row1].waiting, rows_[row2].waiting);
 }
 
 std::span<Extended> DeferredRows::Elements(std::size_t row) {
-  PrepareToChange(row);
+  assert(rows_[row].slot == kNoSlot);
   SettleRow(rows_[row]);
   return {rows_[row].elements, cols_};
 }
@@ -46,17 +45,14 @@ void DeferredRows::Scale(std::size_t row, std::size_t from_col, Extended factor)
 }
 
 void DeferredRows::Add(std::size_t target, std::size_t source, Extended factor) {
-  PrepareToChange(target);
   Row& row = rows_[target];
-  if (target == source || !BecomeSource(source)) {
-    SettleRow(rows_[source]);
+  if (!BecomeSource(source)) {
     SettleRow(row);
     AddElements(row.elements, rows_[source].elements, cols_, factor);
     return;
   }
   const std::size_t slot = rows_[source].slot;
-  // A row's additions are made in the order of the slots.
-  if (row.waiting >> slot != 0) SettleRow(row);
+  assert(row.slot == kNoSlot && row.waiting >> slot == 0);
   row.factors[slot] = factor;
   row.waiting |= 1U << slot;
 }
@@ -65,11 +61,6 @@ void DeferredRows::Settle() {
   for (Row& row : rows_) SettleRow(row);
   for (const std::size_t source : sources_) rows_[source].slot = kNoSlot;
   sources_.clear();
-}
-
-// Additions that wait for the row's present elements are made before these change.
-void DeferredRows::PrepareToChange(std::size_t row) {
-  if (rows_[row].slot != kNoSlot) Settle();
 }
 
 // Gives the row a slot. False when its elements do not split; it then has none.

@@ -17,7 +17,10 @@ namespace qorvex::inline QorvexMatrix::detail {
 // Loading and storing an element costs more than adding a product to it, so additions wait until a
 // row has several, and one pass over the row makes them all: each element still takes its products
 // in the order in which they were asked for. At gives an element as if nothing waited; the matrix
-// itself is up to date after Settle. No two rows may share a buffer.
+// itself is up to date after Settle.
+//
+// This serves eliminations: no two rows may share a buffer, a source is final, and it is added to a
+// row at most once and after all earlier sources. Settle begins anew.
 class DeferredRows {
  public:
   DeferredRows(TQorFloatMatrix& matrix, std::size_t cols);
@@ -44,7 +47,6 @@ class DeferredRows {
   };
 
   [[nodiscard]] SplitQuad* Quads(std::size_t col) { return &quads_[col / kQuad * depth_]; }
-  void PrepareToChange(std::size_t row);
   bool BecomeSource(std::size_t row);
   void SettleRow(Row& row);
 

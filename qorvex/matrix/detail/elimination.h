@@ -37,6 +37,7 @@ class Residue {
       Clear(row);
     } else if (std::ranges::any_of(residue, grew)) {
       clears_ = true;
+      rows_.Settle();
       for (std::size_t earlier = 0; earlier <= row; ++earlier) Clear(earlier);
     }
   }
