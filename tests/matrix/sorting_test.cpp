@@ -1,24 +1,9 @@
 #include "qorvex/matrix/sorting.h"
 
-#include <new>
-
 #include "qorvex/matrix/building.h"
+#include "support/failing_allocation.h"
 #include "support/matrices.h"
 #include "support/test.h"
-
-// The sorts' keys and scratch come from operator new[]; one of the next fails on demand.
-static int array_allocations_left = -1;
-void* operator new[](std::size_t size) {
-  if (array_allocations_left == 0) throw std::bad_alloc();
-  if (array_allocations_left > 0) --array_allocations_left;
-  return operator new(size);
-}
-void operator delete[](void* memory) noexcept {
-  operator delete(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-  operator delete(memory);
-}
 
 namespace qorvex {
 
