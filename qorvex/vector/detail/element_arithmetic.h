@@ -4,6 +4,8 @@
 // rounding once, and then rounded to their own type; integers wrap around. Factors and addends of
 // products are extended for floating elements and of the element's type for integers.
 
+#include <type_traits>
+
 #include "qorvex/base/element_types.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
@@ -37,7 +39,7 @@ constexpr T Product(T x, Factor factor) noexcept {
 }
 
 template <SignedArithmeticElement T, class Factor>
-constexpr T ProductPlus(T x, Factor factor, Factor addend) noexcept {
+constexpr T ProductPlus(T x, Factor factor, std::type_identity_t<Factor> addend) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) * factor + addend);
   } else {
