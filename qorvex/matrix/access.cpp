@@ -22,7 +22,7 @@ TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix, std::uint32_t col) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return {};
   detail::RequireCol(shape, col);
-  detail::RequireLengths(matrix, std::size_t{col} + 1);
+  detail::RequireLengths(matrix, shape.cols);
   auto result = TQorVector<T>::ForOverwrite(shape.rows);
   for (std::size_t i = 0; i < shape.rows; ++i) detail::CopyElement(matrix[i][col], result[i]);
   return result;
@@ -47,7 +47,7 @@ void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVect
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return;
   detail::RequireCol(shape, col);
-  detail::RequireLengths(matrix, std::size_t{col} + 1);
+  detail::RequireLengths(matrix, shape.cols);
   const std::size_t given = std::min<std::size_t>(vector.size(), shape.rows);
   for (std::size_t i = 0; i < given; ++i) matrix[i][col] = vector[i];
   for (std::size_t i = given; i < shape.rows; ++i) matrix[i][col] = fill;

@@ -9,7 +9,7 @@
 ///
 /// Otherwise EMathError, before anything is written: rsInvalidRow or rsInvalidCol for an index
 /// beyond the last; then rsMatrixRect when, with the shape switch off, a row that is read or
-/// written is too short.
+/// written is shorter than the first.
 
 #include <cstdint>
 #include <type_traits>

@@ -74,7 +74,7 @@ requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixCol(const TQorMatrix<
                                                                std::uint32_t col) {
   const detail::Shape shape = RequireShape(matrix);
   detail::RequireCol(shape, col);
-  detail::RequireLengths(matrix, std::size_t{col} + 1);
+  detail::RequireLengths(matrix, shape.cols);
   return SumInOrder<T>(shape.rows, [&](std::size_t i) { return matrix[i][col]; });
 }
 

@@ -27,8 +27,8 @@ template <SignedArithmeticElement T>
 /// The sum of one row or one column: extended for floating elements; int64, which wraps around
 /// silently, for integers. EMathError: rsMatrixIsEmpty for a matrix without rows or columns, or a
 /// ragged one; rsInvalidRow or rsInvalidCol for an index beyond the last; then rsMatrixRect when,
-/// with the shape switch off, a row that is read is too short. For all numeric elements but LInt.
-/// O(rows + columns); a row with the shape switch off O(columns).
+/// with the shape switch off, a row that is read is shorter than the first. For all numeric
+/// elements but LInt. O(rows + columns); a row with the shape switch off O(columns).
 template <NumericElement T>
 requires(!std::same_as<T, std::int32_t>)
     [[nodiscard]] QORVEX_EXPORT SumOf<T> SumMatrixRow(const TQorMatrix<T>& matrix,

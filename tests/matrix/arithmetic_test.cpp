@@ -1,7 +1,8 @@
 #include "qorvex/matrix/arithmetic.h"
 
 #include "qorvex/matrix/transpose.h"
-#include "support/matrices.h"
+#include "support/random_matrices.h"
+#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {

@@ -3,7 +3,7 @@
 #include "qorvex/base/comparisons.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/properties.h"
-#include "support/matrices.h"
+#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {

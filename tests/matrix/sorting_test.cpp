@@ -2,7 +2,8 @@
 
 #include "qorvex/matrix/building.h"
 #include "support/failing_allocation.h"
-#include "support/matrices.h"
+#include "support/random_matrices.h"
+#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {
