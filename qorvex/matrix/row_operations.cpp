@@ -51,7 +51,7 @@ template <SignedArithmeticElement T>
 void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, FactorOf<T> factor) {
   if (factor == 1) return;
   CheckCols(matrix, col);
-  for (TQorVector<T>& row : matrix) row[col] = detail::Scaled(row[col], factor);
+  for (TQorVector<T>& row : matrix) row[col] = QorvexVector::detail::Product(row[col], factor);
 }
 
 template <SignedArithmeticElement T>
@@ -66,7 +66,7 @@ void AddMatrixCols(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t so
                    FactorOf<T> factor) {
   CheckCols(matrix, target, source);
   for (TQorVector<T>& row : matrix) {
-    row[target] = detail::ScaledSum(row[source], factor, row[target]);
+    row[target] = QorvexVector::detail::ProductPlus(row[source], factor, row[target]);
   }
 }
 
@@ -81,9 +81,7 @@ QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
   template void ScaleMatrixCol(TQorMatrix<T>&, std::uint32_t, FactorOf<T>);               \
   template void AddMatrixRows(TQorMatrix<T>&, std::uint32_t, std::uint32_t, FactorOf<T>); \
   template void AddMatrixCols(TQorMatrix<T>&, std::uint32_t, std::uint32_t, FactorOf<T>);
-QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
-QORVEX_INSTANTIATE(std::int64_t)
-QORVEX_INSTANTIATE(std::int32_t)
+QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -5,29 +5,12 @@
 #include "qorvex/base/elementary.h"
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/element_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
 namespace qorvex::inline QorvexVector {
 
 namespace {
-
-template <SignedArithmeticElement T>
-T Sum(T x, T y) {
-  if constexpr (FloatElement<T>) {
-    return static_cast<T>(static_cast<Extended>(x) + static_cast<Extended>(y));
-  } else {
-    return detail::WrappingAdd(x, y);
-  }
-}
-
-template <SignedArithmeticElement T>
-T Difference(T x, T y) {
-  if constexpr (FloatElement<T>) {
-    return static_cast<T>(static_cast<Extended>(x) - static_cast<Extended>(y));
-  } else {
-    return detail::WrappingSubtract(x, y);
-  }
-}
 
 // Writes operation(a[i], b[i]) to result, which may be a itself.
 template <class T>
@@ -41,7 +24,7 @@ template <SignedArithmeticElement T>
 TQorVector<T> AddVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
   auto result = TQorVector<T>::ForOverwrite(a.size());
-  Combine(a, b, result.data(), Sum<T>);
+  Combine(a, b, result.data(), detail::Sum<T>);
   return result;
 }
 
@@ -49,20 +32,20 @@ template <SignedArithmeticElement T>
 TQorVector<T> SubtractVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
   auto result = TQorVector<T>::ForOverwrite(a.size());
-  Combine(a, b, result.data(), Difference<T>);
+  Combine(a, b, result.data(), detail::Difference<T>);
   return result;
 }
 
 template <SignedArithmeticElement T>
 void AddToVector(TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
-  Combine(a, b, a.data(), Sum<T>);
+  Combine(a, b, a.data(), detail::Sum<T>);
 }
 
 template <SignedArithmeticElement T>
 void SubtractFromVector(TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
-  Combine(a, b, a.data(), Difference<T>);
+  Combine(a, b, a.data(), detail::Difference<T>);
 }
 
 template <WideNumericElement T>

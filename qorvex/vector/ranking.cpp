@@ -2,11 +2,9 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <memory>
 
 #include "qorvex/base/comparisons.h"
-#include "qorvex/vector/detail/key_sort.h"
-#include "qorvex/vector/detail/sort_keys.h"
+#include "qorvex/vector/detail/sorted_indices.h"
 
 namespace qorvex::inline QorvexVector {
 
@@ -45,36 +43,18 @@ std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending
       std::ranges::count_if(vector, [=](T x) { return Before(x, first, ascending); }));
 }
 
-// Ranks all elements from a sort of records that hold an element's key above its index. Elements
-// that equal one another lie together, and the first equal of a later element is never before that
-// of an earlier one.
+// Ranks all elements from their sorted order. Elements that equal one another lie together, and the
+// first equal of a later element is never before that of an earlier one.
 template <NumericElement T>
 void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& ranks) {
-  using Traits = detail::SortKey<T>;
-  using Key = typename Traits::Key;
-  using Record = detail::UInt128;
-  const int index_bits = detail::BitWidth(vector.size());
-  const Record index_mask = (Record{1} << index_bits) - 1;
-  const Key direction = static_cast<Key>(ascending ? Key{0} : Traits::kKeyMask);
-
-  const auto records = std::make_unique_for_overwrite<Record[]>(vector.size());
-  std::size_t count = 0;
-  for (std::size_t i = 0; i < vector.size(); ++i) {
-    if (!Equal(vector[i], vector[i])) continue;  // NaN
-    const Record key = static_cast<Key>(Traits::Read(&vector[i]) ^ direction);
-    records[count++] = key << index_bits | i;
-  }
-  detail::KeySorter<Record>(count).Sort(records.get(), count);
-
-  const auto value = [&](const Record& record) {
-    return Traits::Value(static_cast<Key>(static_cast<Key>(record >> index_bits) ^ direction));
-  };
+  const detail::SortedIndices<T> sorted(vector.size(), ascending,
+                                        [&](std::size_t i) -> const T& { return vector[i]; });
   std::size_t first_equal = 0;
-  for (std::size_t position = 0; position < count; ++position) {
-    const T x = value(records[position]);
-    while (!Equal(value(records[first_equal]), x)) ++first_equal;
-    ranks[static_cast<std::size_t>(records[position] & index_mask)] =
-        static_cast<std::int32_t>(first_equal);
+  for (std::size_t position = 0; position < vector.size(); ++position) {
+    const T x = sorted.Value(position);
+    if (!Equal(x, x)) break;  // NaN, as all that follow
+    while (!Equal(sorted.Value(first_equal), x)) ++first_equal;
+    ranks[sorted.Index(position)] = static_cast<std::int32_t>(first_equal);
   }
 }
 

@@ -4,6 +4,7 @@
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/element_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 #include "qorvex/vector/sign_tests.h"
 
@@ -64,13 +65,8 @@ requires FloatElement<T> || std::same_as<T, std::int64_t>
 void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope,
                            std::type_identity_t<T> intercept) {
   detail::RequireElements(vector);
-  if constexpr (FloatElement<T>) {
-    const Extended wide_slope = slope;
-    const Extended wide_intercept = intercept;
-    Replace(vector, [=](Extended x) { return wide_slope * x + wide_intercept; });
-  } else {
-    for (T& x : vector) x = detail::WrappingAdd(detail::WrappingMultiply(slope, x), intercept);
-  }
+  using Constant = std::conditional_t<FloatElement<T>, Extended, T>;
+  for (T& x : vector) x = detail::ProductPlus<T, Constant>(x, slope, intercept);
 }
 
 template <FloatElement T>

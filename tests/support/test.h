@@ -36,7 +36,7 @@ using AllTypes =
       ADD_FAILURE() << #statement " raised nothing";                \
     } catch (const qorvex::Exception& error) {                      \
       EXPECT_EQ(typeid(error), typeid(qorvex::Type)) << #statement; \
-      EXPECT_EQ(error.message_id(), qorvex::id) << error.what();    \
+      EXPECT_EQ(error.message_id(), id) << error.what();            \
     }                                                               \
   } while (false)
 

@@ -6,43 +6,10 @@
 
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/vector/QorvexVector.h"
+#include "support/element_probe.h"
 #include "support/test.h"
 
 namespace qorvex {
-
-// One letter an element type, in the order of the tables: g d f (floating), j u i (64- and 32-bit
-// integers), w s b t (16- and 8-bit integers), and the currencies C S L, which the plain units know
-// nothing of.
-template <class Probe>
-std::string Exists(Probe probe) {
-  std::string types;
-  const auto ask = [&]<class T>(char letter, T) {
-    if (probe(std::type_identity<TQorVector<T>>())) types += letter;
-  };
-  ask('g', Extended());
-  ask('d', double());
-  ask('f', float());
-  ask('j', std::int64_t());
-  ask('u', std::uint32_t());
-  ask('i', std::int32_t());
-  ask('w', std::uint16_t());
-  ask('s', std::int16_t());
-  ask('b', std::uint8_t());
-  ask('t', std::int8_t());
-  ask('C', Currency());
-  ask('S', QorCurrency());
-  ask('L', QorLongCurrency());
-  return types;
-}
-
-// In the expression, v is a vector of the type asked for, and the others are outputs that some
-// routines need.
-#define TYPES_OF(expression)                                                                       \
-  Exists([]<class V>(std::type_identity<V>) {                                                      \
-    return requires(V & v, typename V::value_type & x, Extended & e, std::uint32_t & i, bool& b) { \
-      expression;                                                                                  \
-    };                                                                                             \
-  })
 
 TEST(ElementTables, Building) {
   EXPECT_EQ(TYPES_OF(AppendValue2Vector(v, 1)), "gdfjui");

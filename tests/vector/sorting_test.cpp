@@ -1,23 +1,9 @@
 #include "qorvex/vector/sorting.h"
 
-#include <new>
-
 #include "qorvex/vector/building.h"
+#include "support/failing_allocation.h"
 #include "support/random_vectors.h"
 #include "support/test.h"
-
-// The sort's working memory comes from operator new[]; the next one fails on demand.
-static bool array_allocation_fails = false;
-void* operator new[](std::size_t size) {
-  if (array_allocation_fails) throw std::bad_alloc();
-  return operator new(size);
-}
-void operator delete[](void* memory) noexcept {
-  operator delete(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-  operator delete(memory);
-}
 
 namespace qorvex {
 
@@ -84,9 +70,9 @@ TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
   auto v = RandomVector<Extended>(engine, 1000);
   v[3] = kNaN;
   const TQorFloatVector before = CopyVector(v);
-  array_allocation_fails = true;
+  array_allocations_left = 0;
   EXPECT_THROW(QSortVector(v, true), std::bad_alloc);
-  array_allocation_fails = false;
+  array_allocations_left = -1;
   EXPECT_EQ(std::memcmp(v.data(), before.data(), v.size() * sizeof(Extended)), 0);
 }
 

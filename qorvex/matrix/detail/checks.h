@@ -18,6 +18,7 @@ struct Shape {
   bool rectangular = false;
 
   [[nodiscard]] bool Empty() const noexcept { return rows == 0 || cols == 0; }
+  [[nodiscard]] bool AtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
 };
 
 // What MatrixDimensions reports. compare_rows is the unit's shape switch.
@@ -45,6 +46,12 @@ template <class T>
 template <class T>
 [[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix) noexcept {
   return ShapeOf(matrix, QorMatrixRectangularCheck);
+}
+
+// For routines that take rows of any lengths.
+template <class T>
+void RequireRows(const TQorMatrix<T>& matrix) {
+  if (matrix.empty()) RaiseMathError(rsMatrixIsEmpty);
 }
 
 inline void RequireElements(const Shape& shape) {

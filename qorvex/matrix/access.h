@@ -1,0 +1,45 @@
+#pragma once
+
+/// @file
+/// Moving single rows and columns between a matrix and a vector. All for the ten numeric elements.
+///
+/// A matrix with at most one row or at most one column, as MatrixDimensions counts them, is left
+/// alone whatever the index: nothing is extracted or written, and nothing raises. With the shape
+/// switch on a ragged matrix is among them, since it counts as having no columns.
+///
+/// Otherwise EMathError, before anything is written: rsInvalidRow or rsInvalidCol for an index
+/// beyond the last; then rsMatrixRect when, with the shape switch off, a row that is read or
+/// written is shorter than the first.
+
+#include <cstdint>
+#include <type_traits>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+/// @{
+/// A copy of one row, as long as the matrix has columns, or of one column, as long as it has rows.
+/// O(rows + columns).
+template <NumericElement T>
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix,
+                                                           std::uint32_t row);
+template <NumericElement T>
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix,
+                                                           std::uint32_t col);
+/// @}
+
+/// @{
+/// Writes the elements of the vector into one row or one column, in ascending order, and the fill
+/// value where the vector is too short; what it has in excess is left out. The change is seen
+/// through every handle of a row's buffer. O(rows + columns).
+template <NumericElement T>
+QORVEX_EXPORT void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
+                                      const TQorVector<T>& vector, std::type_identity_t<T> fill);
+template <NumericElement T>
+QORVEX_EXPORT void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col,
+                                      const TQorVector<T>& vector, std::type_identity_t<T> fill);
+/// @}
+
+}  // namespace qorvex::inline QorvexMatrix

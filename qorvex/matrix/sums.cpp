@@ -1,0 +1,94 @@
+#include "qorvex/matrix/sums.h"
+
+#include "qorvex/matrix/detail/checks.h"
+#include "qorvex/vector/detail/integer_arithmetic.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+namespace {
+
+using QorvexVector::detail::Int64Sum;
+
+// The sum of element(0) to element(count - 1). As in SumVector, a lone negative zero stays one.
+template <NumericElement T, class Element>
+SumOf<T> SumInOrder(std::size_t count, Element element) {
+  if constexpr (FloatElement<T>) {
+    Extended sum = element(0);
+    for (std::size_t i = 1; i < count; ++i) sum += static_cast<Extended>(element(i));
+    return sum;
+  } else {
+    Int64Sum sum;
+    for (std::size_t i = 0; i < count; ++i) sum.Add(element(i));
+    return sum.Value();
+  }
+}
+
+template <SignedArithmeticElement T>
+void AddRow(const TQorVector<T>& row, Extended& sum) {
+  for (const T x : row) sum += static_cast<Extended>(x);
+}
+
+// Sums of fewer than 2^32 such elements are exact in int64 and in extended precision alike.
+void AddRow(const TQorLIntVector& row, Extended& sum) {
+  Int64Sum row_sum;
+  for (const std::int32_t x : row) row_sum.Add(x);
+  sum += static_cast<Extended>(row_sum.Value());
+}
+
+template <class T>
+detail::Shape RequireShape(const TQorMatrix<T>& matrix) {
+  const detail::Shape shape = detail::ShapeOf(matrix);
+  detail::RequireElements(shape);
+  detail::RequireRectangular(shape);
+  return shape;
+}
+
+}  // namespace
+
+template <SignedArithmeticElement T>
+Extended GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count) {
+  detail::RequireRows(matrix);
+  Extended sum = 0;
+  std::size_t elements = 0;
+  for (const TQorVector<T>& row : matrix) {
+    elements += row.size();
+    AddRow(row, sum);
+  }
+  count = static_cast<std::uint32_t>(elements);
+  if (elements == 0) RaiseMathError(rsMatrixIsEmpty);
+  return sum / static_cast<Extended>(elements);
+}
+
+template <NumericElement T>
+requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixRow(const TQorMatrix<T>& matrix,
+                                                               std::uint32_t row) {
+  const detail::Shape shape = RequireShape(matrix);
+  detail::RequireRow(shape, row);
+  detail::RequireLength(matrix[row], shape.cols);
+  const T* const elements = matrix[row].data();
+  return SumInOrder<T>(shape.cols, [=](std::size_t j) { return elements[j]; });
+}
+
+template <NumericElement T>
+requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixCol(const TQorMatrix<T>& matrix,
+                                                               std::uint32_t col) {
+  const detail::Shape shape = RequireShape(matrix);
+  detail::RequireCol(shape, col);
+  detail::RequireLengths(matrix, shape.cols);
+  return SumInOrder<T>(shape.rows, [&](std::size_t i) { return matrix[i][col]; });
+}
+
+#define QORVEX_INSTANTIATE(T) template Extended GrandMean(const TQorMatrix<T>&, std::uint32_t&);
+QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T)                                          \
+  template SumOf<T> SumMatrixRow(const TQorMatrix<T>&, std::uint32_t); \
+  template SumOf<T> SumMatrixCol(const TQorMatrix<T>&, std::uint32_t);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_INSTANTIATE(std::int64_t)
+QORVEX_INSTANTIATE(std::uint32_t)
+QORVEX_FOR_NARROW_INTEGER_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexMatrix

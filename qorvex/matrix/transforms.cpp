@@ -1,0 +1,82 @@
+#include "qorvex/matrix/transforms.h"
+
+#include <cmath>
+
+#include "qorvex/base/elementary.h"
+#include "qorvex/matrix/detail/checks.h"
+#include "qorvex/vector/detail/element_arithmetic.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+namespace {
+
+// Replaces each element by function(element), computed in extended precision; the first that is
+// refused raises.
+template <FloatElement T, class Refused, class Function>
+void Replace(TQorMatrix<T>& matrix, Refused refused, MessageId error, Function function) {
+  detail::RequireRows(matrix);
+  for (TQorVector<T>& row : matrix) {
+    for (T& x : row) {
+      if (refused(x)) RaiseMathError(error);
+      x = static_cast<T>(function(static_cast<Extended>(x)));
+    }
+  }
+}
+
+constexpr auto kNegative = [](auto x) { return x < 0; };
+constexpr auto kZero = [](auto x) { return x == 0; };
+constexpr auto kNotPositive = [](auto x) { return x <= 0; };
+
+}  // namespace
+
+template <SignedArithmeticElement T>
+void LinearTransformMatrix(TQorMatrix<T>& matrix, FactorOf<T> multiplier, FactorOf<T> offset) {
+  detail::RequireRows(matrix);
+  for (TQorVector<T>& row : matrix) {
+    for (T& x : row) x = QorvexVector::detail::ProductPlus(x, multiplier, offset);
+  }
+}
+
+template <FloatElement T>
+void SquareMatrix(TQorMatrix<T>& matrix) {
+  detail::RequireRows(matrix);
+  for (TQorVector<T>& row : matrix) {
+    for (T& x : row) x = QorvexVector::detail::Product(x, static_cast<Extended>(x));
+  }
+}
+
+template <FloatElement T>
+void SqrtMatrix(TQorMatrix<T>& matrix) {
+  Replace(matrix, kNegative, rsMatrixNeg, [](Extended x) { return std::sqrt(x); });
+}
+
+template <FloatElement T>
+void InvMatrix(TQorMatrix<T>& matrix) {
+  Replace(matrix, kZero, rsMatrixZero, [](Extended x) { return 1 / x; });
+}
+
+template <FloatElement T>
+void LnMatrix(TQorMatrix<T>& matrix) {
+  Replace(matrix, kNotPositive, rsMatrixNotPos, [](Extended x) { return std::log(x); });
+}
+
+template <FloatElement T>
+void Log10Matrix(TQorMatrix<T>& matrix) {
+  Replace(matrix, kNotPositive, rsMatrixNotPos, QorLog10);
+}
+
+#define QORVEX_INSTANTIATE(T) \
+  template void LinearTransformMatrix(TQorMatrix<T>&, FactorOf<T>, FactorOf<T>);
+QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T)                 \
+  template void SquareMatrix(TQorMatrix<T>&); \
+  template void SqrtMatrix(TQorMatrix<T>&);   \
+  template void InvMatrix(TQorMatrix<T>&);    \
+  template void LnMatrix(TQorMatrix<T>&);     \
+  template void Log10Matrix(TQorMatrix<T>&);
+QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex::inline QorvexMatrix

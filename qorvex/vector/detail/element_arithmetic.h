@@ -1,0 +1,50 @@
+#pragma once
+
+// Sums and products of elements. Floating ones are formed in extended precision, each operation
+// rounding once, and then rounded to their own type; integers wrap around. Factors and addends of
+// products are extended for floating elements and of the element's type for integers.
+
+#include <type_traits>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/vector/detail/integer_arithmetic.h"
+
+namespace qorvex::inline QorvexVector::detail {
+
+template <SignedArithmeticElement T>
+constexpr T Sum(T x, T y) noexcept {
+  if constexpr (FloatElement<T>) {
+    return static_cast<T>(static_cast<Extended>(x) + static_cast<Extended>(y));
+  } else {
+    return WrappingAdd(x, y);
+  }
+}
+
+template <SignedArithmeticElement T>
+constexpr T Difference(T x, T y) noexcept {
+  if constexpr (FloatElement<T>) {
+    return static_cast<T>(static_cast<Extended>(x) - static_cast<Extended>(y));
+  } else {
+    return WrappingSubtract(x, y);
+  }
+}
+
+template <SignedArithmeticElement T, class Factor>
+constexpr T Product(T x, Factor factor) noexcept {
+  if constexpr (FloatElement<T>) {
+    return static_cast<T>(static_cast<Extended>(x) * factor);
+  } else {
+    return WrappingMultiply(x, factor);
+  }
+}
+
+template <SignedArithmeticElement T, class Factor>
+constexpr T ProductPlus(T x, Factor factor, std::type_identity_t<Factor> addend) noexcept {
+  if constexpr (FloatElement<T>) {
+    return static_cast<T>(static_cast<Extended>(x) * factor + addend);
+  } else {
+    return WrappingAdd(WrappingMultiply(x, factor), addend);
+  }
+}
+
+}  // namespace qorvex::inline QorvexVector::detail

@@ -1,0 +1,57 @@
+#pragma once
+
+// The indices of elements in sorted order.
+
+#include <cstddef>
+#include <memory>
+
+#include "qorvex/vector/detail/key_sort.h"
+#include "qorvex/vector/detail/sort_keys.h"
+
+namespace qorvex::inline QorvexVector::detail {
+
+// Sorts records that hold an element's key above its index, so elements with equal keys stay in the
+// order of their indices. NaN is last in either direction. All memory is allocated at construction.
+template <NumericElement T>
+class SortedIndices {
+ public:
+  // element_at(i) refers to the element with the index i.
+  template <class ElementAt>
+  SortedIndices(std::size_t count, bool ascending, ElementAt element_at)
+      : index_bits_(BitWidth(count)),
+        direction_(static_cast<Key>(ascending ? Key{0} : Traits::kKeyMask)),
+        records_(std::make_unique_for_overwrite<Record[]>(count)) {
+    for (std::size_t i = 0; i < count; ++i) {
+      records_[i] = static_cast<Record>(DirectedKey(element_at(i))) << index_bits_ | i;
+    }
+    KeySorter<Record>(count).Sort(records_.get(), count);
+  }
+
+  [[nodiscard]] std::size_t Index(std::size_t position) const noexcept {
+    return static_cast<std::size_t>(records_[position] & ((Record{1} << index_bits_) - 1));
+  }
+
+  [[nodiscard]] T Value(std::size_t position) const noexcept {
+    const auto key = static_cast<Key>(records_[position] >> index_bits_);
+    return Traits::Value(static_cast<Key>(key ^ direction_));
+  }
+
+ private:
+  using Traits = SortKey<T>;
+  using Key = typename Traits::Key;
+  using Record = UInt128;
+
+  Key DirectedKey(const T& element) const noexcept {
+    if constexpr (FloatElement<T>) {
+      // The highest key is a NaN's in both directions.
+      if (element != element) return Traits::kKeyMask;
+    }
+    return static_cast<Key>(Traits::Read(&element) ^ direction_);
+  }
+
+  int index_bits_;
+  Key direction_;
+  std::unique_ptr<Record[]> records_;
+};
+
+}  // namespace qorvex::inline QorvexVector::detail

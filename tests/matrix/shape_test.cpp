@@ -1,0 +1,133 @@
+#include "qorvex/matrix/shape.h"
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/matrix/building.h"
+#include "qorvex/matrix/properties.h"
+#include "support/rectangular_check_off.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using testing::RectangularCheckOff;
+
+struct Dimensions {
+  std::uint32_t rows, cols;
+  bool rectangular;
+  bool operator==(const Dimensions&) const = default;
+};
+
+Dimensions DimensionsOf(const TQorFloatMatrix& matrix) {
+  Dimensions d{99, 99, false};
+  MatrixDimensions(matrix, d.rows, d.cols, d.rectangular);
+  return d;
+}
+
+TEST(Shape, DimensionsFollowTheSwitch) {
+  struct Case {
+    TQorFloatMatrix matrix;
+    Dimensions checked, unchecked;
+    bool is_rectangular;
+  };
+  const Case cases[] = {
+      {CreateFloatMatrix(0, 3), {0, 0, false}, {0, 0, true}, false},
+      {CreateFloatMatrix(3, 0), {3, 0, false}, {3, 0, true}, true},
+      {CreateFloatMatrix(2, 3), {2, 3, true}, {2, 3, true}, true},
+      {{{1, 2}, {1, 2, 3}}, {2, 0, false}, {2, 2, true}, false},
+      {{{1, 2}, {1, 2}, {1}}, {3, 0, false}, {3, 2, true}, false},
+      {{{}, {1}}, {2, 0, false}, {2, 0, true}, false},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(DimensionsOf(c.matrix), c.checked);
+    EXPECT_EQ(MatrixRows(c.matrix), c.unchecked.rows);
+    EXPECT_EQ(MatrixCols(c.matrix), c.unchecked.cols) << "the first row's, ragged or not";
+    const RectangularCheckOff off;
+    EXPECT_EQ(DimensionsOf(c.matrix), c.unchecked);
+    EXPECT_EQ(MatrixIsRectangular(c.matrix), c.is_rectangular) << "whatever the switch";
+  }
+}
+
+TEST(Shape, SquareAndSameDimensionsNeedARectangle) {
+  const TQorLIntMatrix square{{1, 2}, {3, 4}};
+  const TQorLIntMatrix wide{{1, 2, 3}, {4, 5, 6}};
+  const TQorLIntMatrix ragged{{1, 2}, {3}};
+  const TQorLIntMatrix empty;
+  EXPECT_TRUE(MatrixIsSquare(square));
+  EXPECT_FALSE(MatrixIsSquare(wide));
+  EXPECT_TRUE(MatricesSameDimensions(wide, TQorLIntMatrix{{0, 0, 0}, {0, 0, 0}}));
+  EXPECT_FALSE(MatricesSameDimensions(square, wide));
+  EXPECT_FALSE(MatricesSameDimensions(square, TQorLIntMatrix{{1, 2}}));
+  for (const bool off : {false, true}) {
+    QorMatrixRectangularCheck = !off;
+    EXPECT_EQ(MatrixIsSquare(ragged), off);
+    EXPECT_EQ(MatricesSameDimensions(ragged, square), off);
+    EXPECT_EQ(MatricesSameDimensions(square, ragged), off);
+    EXPECT_EQ(MatrixIsSquare(empty), off);
+    EXPECT_EQ(MatricesSameDimensions(empty, empty), off);
+  }
+  QorMatrixRectangularCheck = true;
+}
+
+TEST(MatrixBuilding, EveryTypeIsCreated) {
+#define QORVEX_EXPECT_CREATED(Suffix)                                                    \
+  EXPECT_EQ(Create##Suffix##Matrix(2, 3), (TQor##Suffix##Matrix{{0, 0, 0}, {0, 0, 0}})); \
+  EXPECT_EQ(Create##Suffix##IdentityMatrix(2), (TQor##Suffix##Matrix{{1, 0}, {0, 1}}));  \
+  EXPECT_TRUE(Create##Suffix##IdentityMatrix(0).empty());
+  QORVEX_EXPECT_CREATED(Float)
+  QORVEX_EXPECT_CREATED(Double)
+  QORVEX_EXPECT_CREATED(Single)
+  QORVEX_EXPECT_CREATED(Int64)
+  QORVEX_EXPECT_CREATED(LWord)
+  QORVEX_EXPECT_CREATED(LInt)
+  QORVEX_EXPECT_CREATED(Word)
+  QORVEX_EXPECT_CREATED(SmallInt)
+  QORVEX_EXPECT_CREATED(Byte)
+  QORVEX_EXPECT_CREATED(SInt)
+#undef QORVEX_EXPECT_CREATED
+}
+
+TEST(MatrixBuilding, CopiesShareNothingAndKeepRaggedRows) {
+  TQorFloatMatrix source{{1, 2}, {}, {3}};
+  source.Append(source[0]);
+  for (TQorFloatMatrix copy : {CopyMatrix(source), Matrix2FloatMatrix(source)}) {
+    EXPECT_EQ(copy, source);
+    EXPECT_FALSE(copy.SharesBufferWith(source));
+    copy[0][0] = 9;
+    EXPECT_EQ(source[0][0], 1);
+    EXPECT_EQ(copy[3][0], 1) << "rows that shared a buffer no longer do";
+  }
+}
+
+TEST(MatrixBuilding, ConversionIsExact) {
+  constexpr std::int64_t longest = std::numeric_limits<std::int64_t>::max();
+  EXPECT_EQ(Matrix2FloatMatrix(TQorInt64Matrix{{longest, -longest - 1}, {}}),
+            (TQorFloatMatrix{{0x1p63L - 1, -0x1p63L}, {}}));
+  EXPECT_EQ(Matrix2FloatMatrix(TQorLWordMatrix{{4294967295}}), (TQorFloatMatrix{{4294967295.0L}}));
+  EXPECT_EQ(Matrix2FloatMatrix(TQorSIntMatrix{{-128}}), (TQorFloatMatrix{{-128}}));
+}
+
+TEST(MatrixProperties, ZeroRowsWithinTheTolerance) {
+  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0, 1e-15L}, {0, 1.1e-15L}, {-1e-16L, 0}}), 2U);
+  EXPECT_EQ(MatrixZeroRows(TQorDoubleMatrix{{0, std::nan("")}, {0, 0}}), 1U);
+  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix()), rsMatrixIsEmpty);
+  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{}, {}}), rsMatrixIsEmpty);
+  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{0, 0}, {0}}), rsMatrixIsEmpty);
+  const RectangularCheckOff off;
+  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{0, 0}, {0}}), rsMatrixRect);
+  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0}, {0, 5}}), 1U) << "rows count whole";
+}
+
+TEST(MatrixProperties, IdentityWithinTheTolerance) {
+  EXPECT_TRUE(MatrixIsIdentity(TQorFloatMatrix{{1}}));
+  EXPECT_TRUE(MatrixIsIdentity(TQorFloatMatrix{{1 + 0.9e-15L, -1e-15L}, {1e-15L, 1}}));
+  EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {1.1e-15L, 1}}));
+  EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0, 1 - 2e-15L}}));
+  EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {kNaN, 1}}));
+  EXPECT_FALSE(MatrixIsIdentity(TQorSingleMatrix{{1 + 0x1p-23F}}));
+  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix()), rsMatrixIsEmpty);
+  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0}}), rsMatrixIsEmpty);
+  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0, 0}, {0, 1, 0}}), rsMatrixSqr);
+  const RectangularCheckOff off;
+  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0}}), rsMatrixRect);
+}
+
+}  // namespace qorvex

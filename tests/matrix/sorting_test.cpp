@@ -1,0 +1,163 @@
+#include "qorvex/matrix/sorting.h"
+
+#include "qorvex/matrix/building.h"
+#include "support/failing_allocation.h"
+#include "support/random_matrices.h"
+#include "support/rectangular_check_off.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using testing::Engine;
+using testing::RandomMatrix;
+using testing::RectangularCheckOff;
+
+template <class T>
+using Lines = std::vector<std::vector<T>>;
+
+template <class T>
+Lines<T> Rows(const TQorMatrix<T>& matrix) {
+  Lines<T> rows;
+  for (const TQorVector<T>& row : matrix) rows.emplace_back(row.begin(), row.end());
+  return rows;
+}
+
+template <class T>
+Lines<T> Columns(const TQorMatrix<T>& matrix) {
+  Lines<T> columns(matrix[0].size(), std::vector<T>(matrix.size()));
+  for (std::size_t i = 0; i < matrix.size(); ++i) {
+    for (std::size_t j = 0; j < columns.size(); ++j) columns[j][i] = matrix[i][j];
+  }
+  return columns;
+}
+
+// The keys come in the library's order, and the lines are the same ones, whole.
+template <class T>
+void ExpectSorted(Lines<T> lines, Lines<T> before, std::uint32_t key, bool ascending) {
+  const auto key_before = [=](const std::vector<T>& a, const std::vector<T>& b) {
+    return ascending ? a[key] < b[key] : a[key] > b[key];
+  };
+  std::stable_sort(before.begin(), before.end(), key_before);
+  const auto same_key = [=](const auto& a, const auto& b) { return a[key] == b[key]; };
+  ASSERT_TRUE(std::ranges::equal(lines, before, same_key));
+  const auto any_order = [](const std::vector<T>& a, const std::vector<T>& b) {
+    return std::ranges::lexicographical_compare(a, b);
+  };
+  std::ranges::sort(lines, any_order);
+  std::ranges::sort(before, any_order);
+  ASSERT_EQ(lines, before);
+}
+
+template <class T>
+class MatrixSorting : public ::testing::Test {};
+TYPED_TEST_SUITE(MatrixSorting, AllTypes);
+
+TYPED_TEST(MatrixSorting, LinesStayWholeInTheOrderOfTheirKeys) {
+  using T = TypeParam;
+  Engine engine(77);
+  const std::pair<std::uint32_t, std::uint32_t> shapes[] = {{2, 2},  {2, 9},   {9, 2},
+                                                            {40, 7}, {3, 450}, {450, 3}};
+  for (const auto& [rows, cols] : shapes) {
+    for (int trial = 0; trial < 8; ++trial) {
+      const bool ascending = trial % 2 == 0;
+      const bool ties = trial % 4 < 2;
+      const auto row = static_cast<std::uint32_t>(engine() % rows);
+      const auto col = static_cast<std::uint32_t>(engine() % cols);
+      auto m = RandomMatrix<T>(engine, rows, cols);
+      if (ties) {
+        for (auto& r : m) r[col] = static_cast<T>(engine() % 4);
+        for (T& x : m[row]) x = static_cast<T>(engine() % 4);
+      }
+      auto by_col = CopyMatrix(m);
+      QSortMatrixRowsOnCol(by_col, col, ascending);
+      ExpectSorted(Rows(by_col), Rows(m), col, ascending);
+      auto by_row = CopyMatrix(m);
+      QSortMatrixColsOnRow(by_row, row, ascending);
+      ExpectSorted(Columns(by_row), Columns(m), row, ascending);
+    }
+  }
+}
+
+TEST(MatrixSortingLines, NaNIsLastBothWays) {
+  const TQorDoubleMatrix source{{std::nan(""), 0}, {-1, 1}, {-std::nan(""), 2}, {HUGE_VAL, 3}};
+  for (const bool ascending : {true, false}) {
+    TQorDoubleMatrix m = CopyMatrix(source);
+    QSortMatrixRowsOnCol(m, 0, ascending);
+    EXPECT_EQ(m[0][1], ascending ? 1 : 3);
+    EXPECT_EQ(m[1][1], ascending ? 3 : 1);
+    EXPECT_TRUE(std::isnan(m[2][0]) && std::isnan(m[3][0]));
+    EXPECT_EQ(m[2][1] + m[3][1], 2);
+  }
+}
+
+TEST(MatrixSortingLines, ContentsMoveAndBuffersStay) {
+  TQorLIntMatrix m{{3, 30}, {1, 10}, {2, 20}};
+  const TQorLIntVector first = m[0];
+  QSortMatrixRowsOnCol(m, 0, true);
+  EXPECT_EQ(m, (TQorLIntMatrix{{1, 10}, {2, 20}, {3, 30}}));
+  EXPECT_TRUE(first.SharesBufferWith(m[0]));
+  QSortMatrixColsOnRow(m, 1, false);
+  EXPECT_EQ(m, (TQorLIntMatrix{{10, 1}, {20, 2}, {30, 3}}));
+  EXPECT_TRUE(first.SharesBufferWith(m[0]));
+}
+
+TEST(MatrixSortingLines, SharedRowsLoseNothing) {
+  Engine engine(5);
+  for (int trial = 0; trial < 200; ++trial) {
+    const TQorByteMatrix buffers{{0, 0}, {1, 1}, {2, 2}, {3, 3}};
+    TQorByteMatrix m = CopyMatrix(buffers);
+    for (int extra = 0; extra < 4; ++extra) m.Append(m[engine() % m.size()]);
+    std::shuffle(m.begin(), m.end(), engine);
+    QSortMatrixRowsOnCol(m, 0, true);
+    for (const TQorByteVector& content : buffers) {
+      ASSERT_TRUE(std::ranges::find(m, content) != m.end());
+    }
+  }
+  TQorByteMatrix twice{{3, 1, 2}};
+  twice.Append(twice[0]);
+  QSortMatrixColsOnRow(twice, 0, true);
+  EXPECT_EQ(twice[0], (TQorByteVector{2, 3, 1})) << "(1, 2, 3), permuted once more";
+}
+
+TEST(MatrixSortingLines, GuardsAndErrorsComeInOrder) {
+  for (const TQorWordMatrix& before :
+       {TQorWordMatrix(), TQorWordMatrix{{}, {}}, TQorWordMatrix{{3, 1}}, TQorWordMatrix{{3}, {1}},
+        TQorWordMatrix{{3, 1}, {1}}}) {
+    TQorWordMatrix m = CopyMatrix(before);
+    for (const std::uint32_t index : {0U, 99U}) {
+      QSortMatrixRowsOnCol(m, index, true);
+      QSortMatrixColsOnRow(m, index, true);
+    }
+    EXPECT_EQ(m, before);
+  }
+  TQorWordMatrix wide{{3, 2, 1}, {1, 2, 3}};
+  EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(wide, 3, true), rsInvalidCol);
+  EXPECT_MATH_ERROR(QSortMatrixColsOnRow(wide, 2, true), rsInvalidRow);
+
+  const RectangularCheckOff off;
+  TQorWordMatrix ragged{{3, 2}, {2, 1}, {1}};
+  EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 2, true), rsInvalidCol);
+  EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 0, true), rsMatrixRect);
+  EXPECT_MATH_ERROR(QSortMatrixColsOnRow(ragged, 0, true), rsMatrixRect);
+  EXPECT_EQ(ragged, (TQorWordMatrix{{3, 2}, {2, 1}, {1}}));
+  TQorWordMatrix longer{{3, 2}, {1, 7, 9}};
+  QSortMatrixRowsOnCol(longer, 0, true);
+  EXPECT_EQ(longer, (TQorWordMatrix{{1, 7}, {3, 2, 9}})) << "the columns are those of row 0";
+}
+
+TEST(MatrixSortingLines, LackOfMemoryLeavesTheMatrixUnchanged) {
+  Engine engine(9);
+  const auto before = RandomMatrix<double>(engine, 500, 500);
+  for (void (*sort)(TQorDoubleMatrix&, std::uint32_t, bool) :
+       {QSortMatrixRowsOnCol<double>, QSortMatrixColsOnRow<double>}) {
+    TQorDoubleMatrix m = CopyMatrix(before);
+    for (const int allocations : {0, 1, 2}) {
+      array_allocations_left = allocations;
+      EXPECT_THROW(sort(m, 0, true), std::bad_alloc) << allocations;
+      array_allocations_left = -1;
+      EXPECT_EQ(m, before);
+    }
+  }
+}
+
+}  // namespace qorvex

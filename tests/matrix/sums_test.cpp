@@ -1,0 +1,66 @@
+#include "qorvex/matrix/sums.h"
+
+#include "support/rectangular_check_off.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using testing::RectangularCheckOff;
+
+TEST(MatrixSums, GrandMeanCountsRaggedRows) {
+  std::uint32_t count = 7;
+  EXPECT_EQ(GrandMean(TQorFloatMatrix{{1, 2}, {}, {3}}, count), 2);
+  EXPECT_EQ(count, 3U);
+  EXPECT_EQ(GrandMean(TQorFloatMatrix{{0x1p64L, 1}, {1, 0}}, count), 0x1p62L) << "each 1 is lost";
+  EXPECT_EQ(GrandMean(TQorSingleMatrix{{1}, {0x1p-60F}}, count), 0.5L + 0x1p-61L);
+  constexpr std::int64_t longest = std::numeric_limits<std::int64_t>::max();
+  EXPECT_EQ(GrandMean(TQorInt64Matrix{{longest, longest}, {longest, longest}}, count),
+            static_cast<Extended>(longest))
+      << "does not wrap";
+  constexpr std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
+  EXPECT_EQ(GrandMean(TQorLIntMatrix{{smallest, smallest}, {smallest}, {1}}, count),
+            (3 * -0x1p31L + 1) / 4);
+  EXPECT_TRUE(std::isnan(GrandMean(TQorFloatMatrix{{1, kNaN}}, count)));
+
+  count = 7;
+  EXPECT_MATH_ERROR(GrandMean(TQorFloatMatrix(), count), rsMatrixIsEmpty);
+  EXPECT_EQ(count, 7U);
+  EXPECT_MATH_ERROR(GrandMean(TQorLIntMatrix{{}, {}}, count), rsMatrixIsEmpty);
+  EXPECT_EQ(count, 0U);
+}
+
+TEST(MatrixSums, RowsAndColumnsWidenAndWrap) {
+  const TQorLWordMatrix words{{4294967295, 4294967295}, {1, 2}};
+  EXPECT_EQ(SumMatrixRow(words, 0), 8589934590);
+  EXPECT_EQ(SumMatrixCol(words, 1), 4294967297);
+  const TQorSIntMatrix bytes{{-128, -128, 1}, {-128, 3, 4}};
+  EXPECT_EQ(SumMatrixRow(bytes, 0), -255);
+  EXPECT_EQ(SumMatrixCol(bytes, 0), -256);
+  constexpr std::int64_t longest = std::numeric_limits<std::int64_t>::max();
+  const TQorInt64Matrix longs{{longest, 1}, {2, 0}};
+  EXPECT_EQ(SumMatrixRow(longs, 0), -longest - 1);
+  EXPECT_EQ(SumMatrixCol(longs, 0), -longest);
+  const TQorSingleMatrix singles{{1, 0x1p-60F}, {0x1p64F, 1}, {1, 5}};
+  EXPECT_EQ(SumMatrixRow(singles, 0), 1 + 0x1p-60L);
+  EXPECT_EQ(SumMatrixCol(singles, 0), 0x1p64L) << "in ascending order each 1 is lost";
+}
+
+TEST(MatrixSums, ErrorsComeInOrder) {
+  const TQorByteMatrix ragged{{1, 2}, {3}, {4, 5, 6}};
+  for (const TQorByteMatrix& m : {TQorByteMatrix(), TQorByteMatrix{{}, {}}, ragged}) {
+    EXPECT_MATH_ERROR(SumMatrixRow(m, 9), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(SumMatrixCol(m, 9), rsMatrixIsEmpty);
+  }
+  const TQorByteMatrix wide{{1, 2, 3}, {4, 5, 6}};
+  EXPECT_MATH_ERROR(SumMatrixRow(wide, 2), rsInvalidRow);
+  EXPECT_MATH_ERROR(SumMatrixCol(wide, 3), rsInvalidCol);
+  const RectangularCheckOff off;
+  EXPECT_MATH_ERROR(SumMatrixRow(ragged, 1), rsMatrixRect);
+  EXPECT_EQ(SumMatrixRow(ragged, 2), 9) << "as many columns as row 0 has";
+  EXPECT_MATH_ERROR(SumMatrixRow(ragged, 3), rsInvalidRow);
+  EXPECT_MATH_ERROR(SumMatrixCol(ragged, 0), rsMatrixRect);
+  EXPECT_MATH_ERROR(SumMatrixCol(ragged, 2), rsInvalidCol);
+  EXPECT_EQ(SumMatrixCol(TQorByteMatrix{{1, 2}, {3, 4, 5}}, 1), 6);
+}
+
+}  // namespace qorvex

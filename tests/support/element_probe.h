@@ -1,0 +1,48 @@
+#pragma once
+
+/// @file
+/// Asks which element types a routine exists for.
+
+#include <string>
+#include <type_traits>
+
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex {
+
+/// The types that the probe accepts, one letter an element type: g d f (floating), j u i (64- and
+/// 32-bit integers), w s b t (16- and 8-bit integers), and the currencies C S L, which the plain
+/// units know nothing of.
+template <class Probe>
+std::string Exists(Probe probe) {
+  std::string types;
+  const auto ask = [&]<class T>(char letter, T) {
+    if (probe(std::type_identity<T>())) types += letter;
+  };
+  ask('g', Extended());
+  ask('d', double());
+  ask('f', float());
+  ask('j', std::int64_t());
+  ask('u', std::uint32_t());
+  ask('i', std::int32_t());
+  ask('w', std::uint16_t());
+  ask('s', std::int16_t());
+  ask('b', std::uint8_t());
+  ask('t', std::int8_t());
+  ask('C', Currency());
+  ask('S', QorCurrency());
+  ask('L', QorLongCurrency());
+  return types;
+}
+
+/// The types for which the expression compiles. In it, v is a vector and m a matrix of the type
+/// asked for, and the others are outputs that some routines need.
+#define TYPES_OF(expression)                                                                      \
+  Exists([]<class T>(std::type_identity<T>) {                                                     \
+    return requires(TQorVector<T> & v, TQorMatrix<T> & m, T & x, Extended & e, std::uint32_t & i, \
+                    bool& b) {                                                                    \
+      expression;                                                                                 \
+    };                                                                                            \
+  })
+
+}  // namespace qorvex

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "qorvex/matrix/shape.h"
+
+namespace qorvex::testing {
+
+/// QorMatrixRectangularCheck off while it lives.
+class RectangularCheckOff {
+ public:
+  RectangularCheckOff() { QorMatrixRectangularCheck = false; }
+  ~RectangularCheckOff() { QorMatrixRectangularCheck = true; }
+  RectangularCheckOff(const RectangularCheckOff&) = delete;
+  RectangularCheckOff& operator=(const RectangularCheckOff&) = delete;
+};
+
+}  // namespace qorvex::testing
