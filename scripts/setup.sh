@@ -11,8 +11,8 @@ packages=(
   qt6-base-dev       # the components
   libcli11-dev       # the command line
   libgtest-dev       # the tests
-  libbenchmark-dev   # the benchmarks, and the two libraries that they compare with
-  libgsl-dev libeigen3-dev
+  libbenchmark-dev   # the benchmarks, and the libraries that they compare with
+  libgsl-dev libeigen3-dev liblapack-dev
   doxygen            # the check of the documentation
 )
 

@@ -54,4 +54,18 @@ TEST(MatrixElementTables, MovingElements) {
   EXPECT_EQ(TYPES_OF(QSortMatrixColsOnRow(m, 0, true)), "gdfjuiwsbt");
 }
 
+TEST(MatrixElementTables, RowOperationsAndReduction) {
+  EXPECT_EQ(TYPES_OF(SwapMatrixRows(m, 0, 1)), "gdfjuiwsbt");
+  EXPECT_EQ(TYPES_OF(SwapMatrixCols(m, 0, 1)), "gdfjuiwsbt");
+  EXPECT_EQ(TYPES_OF(ScaleMatrixRow(m, 0, 2)), "gdfji");
+  EXPECT_EQ(TYPES_OF(ScaleMatrixCol(m, 0, 2)), "gdfji");
+  EXPECT_EQ(TYPES_OF(AddMatrixRows(m, 0, 1, 2)), "gdfji");
+  EXPECT_EQ(TYPES_OF(AddMatrixCols(m, 0, 1, 2)), "gdfji");
+  EXPECT_EQ(TYPES_OF(MultiplyMatrices(m, m)), "gdf");
+  EXPECT_EQ(TYPES_OF(RowEchelonForm(m)), "gdf");
+  EXPECT_EQ(TYPES_OF(RowEchelonFormRank(m, i)), "gdf");
+  EXPECT_EQ(TYPES_OF(MatrixInverse(m, m)), "gdf");
+  EXPECT_EQ(TYPES_OF(MatrixDeterminant(m)), "gdf");
+}
+
 }  // namespace qorvex

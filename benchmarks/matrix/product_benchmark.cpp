@@ -1,0 +1,72 @@
+// The product and the transpose.
+
+#include "qorvex/matrix/QorvexMatrix.h"
+#include "support/compare_matrices.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+// The textbook's three loops, with the same roundings as ours.
+template <FloatElement T>
+TQorMatrix<T> LoopProduct(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
+  const std::size_t order = a.size();
+  auto product = CopyMatrix(a);
+  for (std::size_t i = 0; i < order; ++i) {
+    for (std::size_t j = 0; j < order; ++j) {
+      T sum = 0;
+      for (std::size_t k = 0; k < order; ++k) {
+        const Extended term = static_cast<Extended>(a[i][k]) * static_cast<Extended>(b[k][j]);
+        sum = static_cast<T>(static_cast<Extended>(sum) + term);
+      }
+      product[i][j] = sum;
+    }
+  }
+  return product;
+}
+
+template <FloatElement T>
+TQorMatrix<T> LoopTranspose(const TQorMatrix<T>& a) {
+  auto result = CopyMatrix(a);
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    for (std::size_t j = 0; j < a.size(); ++j) result[j][i] = a[i][j];
+  }
+  return result;
+}
+
+template <FloatElement T>
+void RegisterType() {
+  using Matrix = TQorMatrix<T>;
+  const auto orders = {64UL, 256UL, 512UL};
+  CompareMatrices<T>("MultiplyMatrices", "ours", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return MultiplyMatrices(m, m); });
+  CompareMatrices<T>("MultiplyMatrices", "loops", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return LoopProduct(m, m); });
+  CompareMatrices<T>("TransposeMatrix", "ours", orders, 2, OurMatrix<T>,
+                     [](const Matrix& m) { return TransposeMatrix(m); });
+  CompareMatrices<T>("TransposeMatrix", "loops", orders, 2, OurMatrix<T>,
+                     [](const Matrix& m) { return LoopTranspose(m); });
+  CompareMatrices<T>("TransposeMatrix", "Eigen", orders, 2, EigenMatrix<T>,
+                     [](const EigenSquare<T>& m) -> EigenSquare<T> { return m.transpose(); });
+}
+
+void RegisterPeers() {
+  const auto orders = {64UL, 256UL, 512UL};
+  CompareMatrices<Extended>(
+      "MultiplyMatrices", "Eigen", orders, 3, EigenMatrix<Extended>,
+      [](const EigenSquare<Extended>& m) -> EigenSquare<Extended> { return m * m; });
+  CompareMatrices<Extended>("MultiplyMatrices", "uBLAS", orders, 3, UblasMatrix,
+                            [](const UblasPeer& m) { return m.Product(); });
+  CompareMatrices<Extended>("TransposeMatrix", "uBLAS", orders, 2, UblasMatrix,
+                            [](const UblasPeer& m) { return m.Transpose(); });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterType<Extended>();
+  RegisterType<double>();
+  RegisterType<float>();
+  RegisterPeers();
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks

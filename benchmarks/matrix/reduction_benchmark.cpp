@@ -1,0 +1,118 @@
+// The inverse and the determinant. Every contestant keeps its argument, so ours works on a copy.
+
+#include <Eigen/LU>
+#include <cmath>
+#include <utility>
+
+#include "qorvex/base/comparisons.h"
+#include "qorvex/matrix/QorvexMatrix.h"
+#include "support/compare_matrices.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+// The elimination as loops over whole rows, with the same roundings as ours.
+template <FloatElement T>
+class Loops {
+ public:
+  explicit Loops(const TQorMatrix<T>& matrix) : matrix_(CopyMatrix(matrix)) {}
+
+  TQorMatrix<T> Inverse() {
+    inverse_ = CopyMatrix(matrix_);
+    for (std::size_t i = 0; i < Order(); ++i) {
+      for (std::size_t j = 0; j < Order(); ++j) inverse_[i][j] = i == j ? 1 : 0;
+    }
+    Eliminate();
+    for (std::size_t col = Order() - 1; col > 0; --col) {
+      for (std::size_t row = col; row-- > 0;) AddToBoth(row, col, -Extended(matrix_[row][col]));
+    }
+    return inverse_;
+  }
+
+  Extended Determinant() {
+    Eliminate();
+    return determinant_;
+  }
+
+ private:
+  std::size_t Order() const { return matrix_.size(); }
+
+  void AddToBoth(std::size_t target, std::size_t source, Extended factor) {
+    for (TQorMatrix<T>* m : {&matrix_, &inverse_}) {
+      if (m->empty()) continue;
+      T* const to = (*m)[target].data();
+      const T* const from = (*m)[source].data();
+      for (std::size_t j = 0; j < Order(); ++j) {
+        to[j] = static_cast<T>(Extended(from[j]) * factor + Extended(to[j]));
+      }
+    }
+  }
+
+  void Eliminate() {
+    for (std::size_t col = 0; col < Order(); ++col) {
+      std::size_t best = col;
+      for (std::size_t row = col; row < Order(); ++row) {
+        if (std::fabs(matrix_[row][col]) > std::fabs(matrix_[best][col])) best = row;
+      }
+      if (best != col) determinant_ = -determinant_;
+      const Extended pivot = matrix_[best][col];
+      determinant_ *= pivot;
+      for (TQorMatrix<T>* m : {&matrix_, &inverse_}) {
+        if (m->empty()) continue;
+        std::swap((*m)[best], (*m)[col]);
+        for (T& x : (*m)[col]) x = static_cast<T>(Extended(x) * (1 / pivot));
+      }
+      for (std::size_t row = col + 1; row < Order(); ++row) {
+        AddToBoth(row, col, -Extended(matrix_[row][col]));
+      }
+    }
+  }
+
+  TQorMatrix<T> matrix_;
+  TQorMatrix<T> inverse_;
+  Extended determinant_ = 1;
+};
+
+template <FloatElement T>
+void RegisterType() {
+  using Matrix = TQorMatrix<T>;
+  const auto orders = {50UL, 100UL, 200UL, 400UL};
+  CompareMatrices<T>("MatrixInverse", "ours", orders, 3, OurMatrix<T>, [](const Matrix& m) {
+    auto copy = CopyMatrix(m);
+    Matrix inverse;
+    static_cast<void>(MatrixInverse(copy, inverse));
+    return inverse;
+  });
+  CompareMatrices<T>("MatrixInverse", "loops", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return Loops<T>(m).Inverse(); });
+  CompareMatrices<T>("MatrixDeterminant", "ours", orders, 3, OurMatrix<T>, [](const Matrix& m) {
+    auto copy = CopyMatrix(m);
+    return MatrixDeterminant(copy);
+  });
+  CompareMatrices<T>("MatrixDeterminant", "loops", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return Loops<T>(m).Determinant(); });
+}
+
+void RegisterPeers() {
+  const auto orders = {50UL, 100UL, 200UL, 400UL};
+  CompareMatrices<Extended>(
+      "MatrixInverse", "Eigen", orders, 3, EigenMatrix<Extended>,
+      [](const EigenSquare<Extended>& m) -> EigenSquare<Extended> { return m.inverse(); });
+  CompareMatrices<Extended>("MatrixInverse", "uBLAS", orders, 3, UblasMatrix,
+                            [](const UblasPeer& m) { return m.Inverse(); });
+  CompareMatrices<Extended>("MatrixDeterminant", "Eigen", orders, 3, EigenMatrix<Extended>,
+                            [](const EigenSquare<Extended>& m) { return m.determinant(); });
+  CompareMatrices<Extended>("MatrixDeterminant", "uBLAS", orders, 3, UblasMatrix,
+                            [](const UblasPeer& m) { return m.Determinant(); });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterType<Extended>();
+  RegisterType<double>();
+  RegisterType<float>();
+  RegisterPeers();
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks

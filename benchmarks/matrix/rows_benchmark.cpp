@@ -1,0 +1,143 @@
+// The elementary row operations, and sorting rows.
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "qorvex/matrix/QorvexMatrix.h"
+#include "support/compare_matrices.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+// Two rows of one matrix at a time. An item is an element; the factor keeps the elements in range.
+template <FloatElement T>
+void RegisterOperations() {
+  using Matrix = TQorMatrix<T>;
+  const auto orders = {64UL, 1000UL};
+  const auto first = [](const auto& m) { return m[0][0]; };
+  CompareMatrices<T>("SwapMatrixRows", "ours", orders, 1, OurMatrix<T>, [=](Matrix& m) {
+    SwapMatrixRows(m, 1, 2);
+    return first(m);
+  });
+  CompareMatrices<T>("SwapMatrixRows", "loop", orders, 1, OurMatrix<T>, [=](Matrix& m) {
+    for (std::size_t j = 0; j < m.size(); ++j) std::swap(m[1][j], m[2][j]);
+    return first(m);
+  });
+  CompareMatrices<T>("SwapMatrixRows", "Eigen", orders, 1, EigenMatrix<T>, [](EigenSquare<T>& m) {
+    m.row(1).swap(m.row(2));
+    return m(0, 0);
+  });
+  CompareMatrices<T>("ScaleMatrixRow", "ours", orders, 1, OurMatrix<T>, [=](Matrix& m) {
+    ScaleMatrixRow(m, 1, -1);
+    return first(m);
+  });
+  CompareMatrices<T>("ScaleMatrixRow", "loop", orders, 1, OurMatrix<T>, [=](Matrix& m) {
+    for (T& x : m[1]) x = static_cast<T>(Extended(x) * -1);
+    return first(m);
+  });
+  CompareMatrices<T>("ScaleMatrixRow", "Eigen", orders, 1, EigenMatrix<T>, [](EigenSquare<T>& m) {
+    m.row(1) *= T(-1);
+    return m(0, 0);
+  });
+  CompareMatrices<T>("AddMatrixRows", "ours", orders, 1, OurMatrix<T>, [=](Matrix& m) {
+    AddMatrixRows(m, 1, 2, 1e-6L);
+    return first(m);
+  });
+  CompareMatrices<T>("AddMatrixRows", "loop", orders, 1, OurMatrix<T>, [=](Matrix& m) {
+    for (std::size_t j = 0; j < m.size(); ++j) {
+      m[1][j] = static_cast<T>(Extended(m[2][j]) * 1e-6L + Extended(m[1][j]));
+    }
+    return first(m);
+  });
+  CompareMatrices<T>("AddMatrixRows", "Eigen", orders, 1, EigenMatrix<T>, [](EigenSquare<T>& m) {
+    m.row(1) += T(1e-6L) * m.row(2);
+    return m(0, 0);
+  });
+}
+
+void RegisterUblas() {
+  const auto orders = {64UL, 1000UL};
+  CompareMatrices<Extended>("SwapMatrixRows", "uBLAS", orders, 1, UblasMatrix, [](UblasPeer& m) {
+    m.SwapRows(1, 2);
+    return 0;
+  });
+  CompareMatrices<Extended>("ScaleMatrixRow", "uBLAS", orders, 1, UblasMatrix, [](UblasPeer& m) {
+    m.ScaleRow(1, -1);
+    return 0;
+  });
+  CompareMatrices<Extended>("AddMatrixRows", "uBLAS", orders, 1, UblasMatrix, [](UblasPeer& m) {
+    m.AddRows(1, 2, 1e-6L);
+    return 0;
+  });
+}
+
+// The plain quicksort, which exchanges whole rows as it goes.
+template <FloatElement T>
+void QuickSortRows(TQorMatrix<T>& m, std::size_t col) {
+  std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>> segments{
+      {0, static_cast<std::ptrdiff_t>(m.size()) - 1}};
+  const auto key = [&](std::ptrdiff_t row) { return m[static_cast<std::size_t>(row)][col]; };
+  while (!segments.empty()) {
+    const auto [first, last] = segments.back();
+    segments.pop_back();
+    std::ptrdiff_t i = first;
+    std::ptrdiff_t j = last;
+    const T pivot = key(first + (last - first) / 2);
+    do {
+      while (key(i) < pivot) ++i;
+      while (key(j) > pivot) --j;
+      if (i > j) break;
+      std::ranges::swap_ranges(m[static_cast<std::size_t>(i)], m[static_cast<std::size_t>(j)]);
+      ++i;
+      --j;
+    } while (i <= j);
+    if (first < j) segments.emplace_back(first, j);
+    if (i < last) segments.emplace_back(i, last);
+  }
+}
+
+// Sorted by one column and the next in turn, so that the rows are never in order already. The loop
+// sorts handles of rows, which is less: no element moves.
+template <FloatElement T>
+void RegisterSort() {
+  const auto orders = {100UL, 1000UL};
+  struct Turn {
+    TQorMatrix<T> matrix;
+    std::uint32_t col = 0;
+  };
+  const auto make = [](std::size_t order) { return Turn{OurMatrix<T>(order)}; };
+  const auto next = [](Turn& turn) {
+    turn.col = (turn.col + 1) % static_cast<std::uint32_t>(turn.matrix.size());
+    return turn.col;
+  };
+  CompareMatrices<T>("QSortMatrixRowsOnCol", "ours", orders, 2, make, [=](Turn& turn) {
+    QSortMatrixRowsOnCol(turn.matrix, next(turn), true);
+    return turn.matrix[0][0];
+  });
+  CompareMatrices<T>(
+      "QSortMatrixRowsOnCol", "std::sort of handles", orders, 2, make, [=](Turn& turn) {
+        const std::uint32_t col = next(turn);
+        std::sort(turn.matrix.begin(), turn.matrix.end(),
+                  [=](const TQorVector<T>& a, const TQorVector<T>& b) { return a[col] < b[col]; });
+        return turn.matrix[0][0];
+      });
+  CompareMatrices<T>("QSortMatrixRowsOnCol", "quicksort of rows", orders, 2, make, [=](Turn& turn) {
+    const std::uint32_t col = next(turn);
+    QuickSortRows(turn.matrix, col);
+    return turn.matrix[0][0];
+  });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterOperations<Extended>();
+  RegisterOperations<double>();
+  RegisterOperations<float>();
+  RegisterUblas();
+  RegisterSort<Extended>();
+  RegisterSort<double>();
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
