@@ -8,7 +8,7 @@ using namespace qorvex;
 
 void Print(const TQorFloatMatrix& matrix) {
   for (const TQorFloatVector& row : matrix) {
-    for (const Extended x : row) std::cout << Float2Str(x) << ' ';
+    for (const Extended x : row) std::cout << Float2EStr(x, 2) << ' ';
     std::cout << '\n';
   }
 }

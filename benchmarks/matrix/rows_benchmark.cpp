@@ -10,16 +10,29 @@
 namespace qorvex::benchmarks {
 namespace {
 
+// An operation on rows as it is, and with the comparison of all rows' lengths switched off.
+template <FloatElement T, class Operation>
+void RegisterOurs(const std::string& routine, Operation operation) {
+  const auto orders = {64UL, 1000UL};
+  CompareMatrices<T>(routine, "ours", orders, 1, OurMatrix<T>, [=](TQorMatrix<T>& m) {
+    operation(m);
+    return m[0][0];
+  });
+  CompareMatrices<T>(routine, "switch off", orders, 1, OurMatrix<T>, [=](TQorMatrix<T>& m) {
+    QorMatrixRectangularCheck = false;
+    operation(m);
+    QorMatrixRectangularCheck = true;
+    return m[0][0];
+  });
+}
+
 // Two rows of one matrix at a time. An item is an element; the factor keeps the elements in range.
 template <FloatElement T>
 void RegisterOperations() {
   using Matrix = TQorMatrix<T>;
   const auto orders = {64UL, 1000UL};
   const auto first = [](const auto& m) { return m[0][0]; };
-  CompareMatrices<T>("SwapMatrixRows", "ours", orders, 1, OurMatrix<T>, [=](Matrix& m) {
-    SwapMatrixRows(m, 1, 2);
-    return first(m);
-  });
+  RegisterOurs<T>("SwapMatrixRows", [](Matrix& m) { SwapMatrixRows(m, 1, 2); });
   CompareMatrices<T>("SwapMatrixRows", "loop", orders, 1, OurMatrix<T>, [=](Matrix& m) {
     for (std::size_t j = 0; j < m.size(); ++j) std::swap(m[1][j], m[2][j]);
     return first(m);
@@ -28,10 +41,7 @@ void RegisterOperations() {
     m.row(1).swap(m.row(2));
     return m(0, 0);
   });
-  CompareMatrices<T>("ScaleMatrixRow", "ours", orders, 1, OurMatrix<T>, [=](Matrix& m) {
-    ScaleMatrixRow(m, 1, -1);
-    return first(m);
-  });
+  RegisterOurs<T>("ScaleMatrixRow", [](Matrix& m) { ScaleMatrixRow(m, 1, -1); });
   CompareMatrices<T>("ScaleMatrixRow", "loop", orders, 1, OurMatrix<T>, [=](Matrix& m) {
     for (T& x : m[1]) x = static_cast<T>(Extended(x) * -1);
     return first(m);
@@ -40,10 +50,7 @@ void RegisterOperations() {
     m.row(1) *= T(-1);
     return m(0, 0);
   });
-  CompareMatrices<T>("AddMatrixRows", "ours", orders, 1, OurMatrix<T>, [=](Matrix& m) {
-    AddMatrixRows(m, 1, 2, 1e-6L);
-    return first(m);
-  });
+  RegisterOurs<T>("AddMatrixRows", [](Matrix& m) { AddMatrixRows(m, 1, 2, 1e-6L); });
   CompareMatrices<T>("AddMatrixRows", "loop", orders, 1, OurMatrix<T>, [=](Matrix& m) {
     for (std::size_t j = 0; j < m.size(); ++j) {
       m[1][j] = static_cast<T>(Extended(m[2][j]) * 1e-6L + Extended(m[1][j]));
