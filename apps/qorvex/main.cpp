@@ -19,6 +19,8 @@ int Run(int argc, char** argv) {
   CLI::App program("Numerics and statistics in 80-bit extended precision.", "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
+  // One command a call, so that a file may bear the name of another.
+  program.require_subcommand(0, 1);
 
   try {
     program.parse(argc, argv);
