@@ -20,7 +20,7 @@ enum class InputFault {
   kNotANumber,      ///< text where a finite number belongs
   kEmptyCell,       ///< nothing where a number belongs
   kOutOfRange,      ///< numbers beyond the extended range, or whose results are
-  kNoResult,        ///< numbers for which a command computes nothing
+  kNoResult,        ///< matrices that have no inverse, or no product
 };
 
 /// A fault of the input. The text reads "name: what" or "name:line: what".
