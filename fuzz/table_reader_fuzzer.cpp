@@ -1,9 +1,6 @@
 // The first byte chooses the options, the rest is the text. Whatever the text: only InputErrors are
-// raised, the size of blocks changes nothing, and what is returned keeps the promises of ReadTable.
-
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/row_reader.h"
-#include "apps/qorvex/table_reader.h"
+// raised, the size of blocks changes nothing, what is returned keeps the promises of ReadTable, and
+// ReadMatrix reads exactly the texts that are a table without a header, to the same numbers.
 
 #include <algorithm>
 #include <cmath>
@@ -14,6 +11,11 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/matrix_reader.h"
+#include "apps/qorvex/row_reader.h"
+#include "apps/qorvex/table_reader.h"
 
 namespace {
 
@@ -54,18 +56,47 @@ std::string Account(std::string_view text, std::optional<char> delimiter, std::s
   return account;
 }
 
-void CheckTable(std::string_view text, const TableSelection& selection) {
+// What is read, or nothing when an InputError is raised.
+auto Try(auto read) -> std::optional<decltype(read())> {
   try {
-    for (const TableColumn& column : ReadTable(SourceOf(text), selection)) {
-      Require(!column.values.empty(), "a column without values");
-      Require(std::ranges::all_of(column.values, [](long double x) { return std::isfinite(x); }),
-              "a value is not finite");
-      Require(column.skipped == 0 || selection.skip_empty, "a cell was skipped");
-      Require(column.Title().find('\n') == std::string::npos, "a title of two lines");
-    }
+    return read();
   } catch (const InputError& error) {
     Require(std::string_view(error.what()).find('\n') == std::string_view::npos,
             "a message of two lines");
+    return std::nullopt;
+  }
+}
+
+void CheckTable(std::string_view text, const TableSelection& selection) {
+  const auto table = Try([&] { return ReadTable(SourceOf(text), selection); });
+  if (!table) return;
+  for (const TableColumn& column : *table) {
+    Require(!column.values.empty(), "a column without values");
+    Require(std::ranges::all_of(column.values, [](long double x) { return std::isfinite(x); }),
+            "a value is not finite");
+    Require(column.skipped == 0 || selection.skip_empty, "a cell was skipped");
+    Require(column.Title().find('\n') == std::string::npos, "a title of two lines");
+  }
+}
+
+void CheckMatrix(std::string_view text, std::optional<char> delimiter, bool has_header) {
+  const auto matrix = Try([&] { return ReadMatrix(SourceOf(text), {delimiter, has_header}); });
+  const auto table = Try([&] { return ReadTable(SourceOf(text), {.delimiter = delimiter}); });
+  const bool table_has_header =
+      table && std::ranges::any_of(*table, [](const TableColumn& c) { return !c.name.empty(); });
+  if (table_has_header == has_header) {
+    Require(matrix.has_value() == table.has_value(), "only a table or only a matrix");
+  }
+  if (!matrix || !table) return;
+  // A header of numbers is a row of the table.
+  const std::size_t more_rows = has_header && !table_has_header ? 1 : 0;
+  for (const TableColumn& column : *table) {
+    Require(column.values.size() == matrix->size() + more_rows, "another number of rows");
+    for (std::size_t row = 0; row < matrix->size(); ++row) {
+      Require((*matrix)[row].size() == table->size(), "another number of columns");
+      Require((*matrix)[row][column.number - 1] == column.values[row + more_rows],
+              "another number");
+    }
   }
 }
 
@@ -87,5 +118,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   selection.skip_empty = (options & 4) != 0;
   if ((options & 8) != 0) selection.columns = {"a", "1"};
   CheckTable(text, selection);
+  CheckMatrix(text, delimiter, (options & 16) != 0);
   return 0;
 }

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/table_arguments.h"
@@ -28,27 +29,16 @@ constexpr const char* kExamples = R"(
 Examples:
   qorvex describe speeds.csv --column speed
   qorvex describe speeds.csv --column 3 --column 4 --decimals 2
-  grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty
+  grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty)";
 
-Exit status:
-  0 success; 2 wrong usage or bad input; 1 anything else. Nothing is printed on
-  standard output unless all input is good.)";
+constexpr int kDefaultDecimals = 4;
 
 struct DescribeArguments {
   TableArguments table;
   bool population = false;
-  int decimals = 4;
+  std::optional<int> decimals;
   bool json = false;
 };
-
-// Keeps the parser of options from reading 010 as eight and 0x10 as sixteen. Gives what is wrong.
-std::string PlainDecimal(std::string& text) {
-  if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos) {
-    return Excerpt(text) + " is not a whole number";
-  }
-  text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
-  return "";
-}
 
 bool AllFinite(const DescriptiveResults& results) {
   const Extended range = results.maximum - results.minimum;
@@ -128,7 +118,7 @@ std::string TextOf(std::vector<TableColumn>& columns, const DescribeArguments& a
   for (TableColumn& column : columns) {
     DescriptiveStats statistics = StatisticsOf(column, arguments);
     if (!text.empty()) text += '\n';
-    text += TextReport(column, statistics, arguments.decimals);
+    text += TextReport(column, statistics, arguments.decimals.value_or(kDefaultDecimals));
   }
   return text;
 }
@@ -165,14 +155,12 @@ void AddDescribe(CLI::App& program) {
   arguments->table.AddTo(command);
   command.add_flag("--population", arguments->population,
                    "The values are the whole population: divide by n, not by n - 1");
-  command.add_option("--decimals", arguments->decimals, "Decimals of the report")
-      ->transform(CLI::Validator(PlainDecimal, ""))
-      ->check(CLI::Range(0, 255))
-      ->option_text("N (0 to 255, default 4)");
+  AddDecimals(command, arguments->decimals,
+              "Decimals of the report. Default: " + Int2EStr(kDefaultDecimals));
   command.add_flag("--json", arguments->json,
                    "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
                    "null for those that do not exist");
-  command.footer(std::string(kTableHelp) + kExamples);
+  command.footer(TableHelp() + kExamples + kExitStatusHelp);
   command.callback([arguments] { Describe(*arguments); });
 }
 

@@ -12,13 +12,15 @@ namespace qorvex::cli {
 
 /// The kind of fault, so that a command can say which of its options helps.
 enum class InputFault {
-  kUnreadable,    ///< the file cannot be opened or read
-  kMalformed,     ///< quotes, ragged rows, rows without end, another encoding
-  kNoValues,      ///< no row, or no value in a column
-  kNoSuchColumn,  ///< a column that is not there, or whose name is not unique
-  kNotANumber,    ///< text where a finite number belongs
-  kEmptyCell,     ///< nothing where a number belongs
-  kOutOfRange,    ///< numbers beyond the extended range, or whose statistics are
+  kUnreadable,      ///< the file cannot be opened or read
+  kMalformed,       ///< quotes, ragged rows, rows without end, another encoding
+  kNoValues,        ///< no row, or no value in a column
+  kNoSuchColumn,    ///< a column that is not there, or whose name is not unique
+  kTextInFirstRow,  ///< text where a finite number belongs and a header may stand
+  kNotANumber,      ///< text where a finite number belongs
+  kEmptyCell,       ///< nothing where a number belongs
+  kOutOfRange,      ///< numbers beyond the extended range, or whose results are
+  kNoResult,        ///< matrices that have no inverse, or no product
 };
 
 /// A fault of the input. The text reads "name: what" or "name:line: what".

@@ -6,6 +6,7 @@
 
 #include "apps/qorvex/describe.h"
 #include "apps/qorvex/input_error.h"
+#include "apps/qorvex/matrix.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/version.h"
 
@@ -19,6 +20,9 @@ int Run(int argc, char** argv) {
   CLI::App program("Numerics and statistics in 80-bit extended precision.", "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
+  AddMatrix(program);
+  // One command a call, so that a file may bear the name of another.
+  program.require_subcommand(0, 1);
 
   try {
     program.parse(argc, argv);

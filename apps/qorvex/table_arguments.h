@@ -12,7 +12,7 @@
 namespace qorvex::cli {
 
 /// What every --help of a command that reads a table says about tables.
-extern const char* const kTableHelp;
+[[nodiscard]] std::string TableHelp();
 
 /// FILE, --column, --delimiter and --skip-empty.
 struct TableArguments {

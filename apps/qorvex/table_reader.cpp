@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <numeric>
 #include <span>
 #include <string_view>
 #include <utility>
 
+#include "apps/qorvex/cells.h"
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/row_reader.h"
-#include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::cli {
@@ -19,20 +18,8 @@ namespace {
 
 using Cells = std::span<const std::string_view>;
 
-// Text in the form of a number, whatever its size; this includes "nan" and "inf".
 bool IsHeader(Cells cells) {
-  return std::ranges::any_of(
-      cells, [](std::string_view cell) { return !cell.empty() && !IsNumber(cell); });
-}
-
-std::string ColumnTitle(std::size_t number, std::string_view name) {
-  std::string title = "column " + Int2EStr(number);
-  if (!name.empty()) title += " (" + OnOneLine(name) + ')';
-  return title;
-}
-
-std::string Cardinal(std::size_t count, const char* noun) {
-  return Int2EStr(count) + ' ' + noun + (count == 1 ? "" : "s");
+  return std::ranges::any_of(cells, IsText);
 }
 
 // "the columns are 1 (x), 2 (y)" or "the table has 3 columns and no header".
@@ -116,18 +103,13 @@ class ColumnCollector {
   }
 
   void AddCells() {
-    const Cells cells = rows_.Cells();
-    if (cells.size() != width_) {
-      throw InputError(InputFault::kMalformed, rows_.Name(), rows_.Line(),
-                       "the row has " + Cardinal(cells.size(), "cell") + " where line " +
-                           Int2EStr(first_line_) + " has " + Int2EStr(width_));
-    }
+    RequireWidth(rows_, width_, first_line_);
     for (TableColumn& column : columns_) {
-      const std::string_view cell = cells[column.number - 1];
+      const std::string_view cell = rows_.Cells()[column.number - 1];
       if (cell.empty()) {
         Skip(column, rows_.Line());
       } else {
-        column.values.Append(Value(cell, column));
+        column.values.Append(NumberIn(cell, Place(column, rows_.Line())));
       }
     }
   }
@@ -143,32 +125,13 @@ class ColumnCollector {
   }
 
  private:
-  [[noreturn]] void FailIn(const TableColumn& column, std::size_t line, InputFault fault,
-                           const std::string& what) const {
-    throw InputError(fault, rows_.Name(), line, column.Title() + ": " + what);
+  [[nodiscard]] CellPlace Place(const TableColumn& column, std::size_t line) const {
+    return {rows_.Name(), line, column.number, column.name};
   }
 
   void Skip(TableColumn& column, std::size_t line) const {
-    if (!skip_empty_) FailIn(column, line, InputFault::kEmptyCell, "the cell is empty");
+    if (!skip_empty_) RefuseEmptyCell(Place(column, line));
     ++column.skipped;
-  }
-
-  [[nodiscard]] Extended Value(std::string_view cell, const TableColumn& column) const {
-    Extended value = 0;
-    try {
-      value = Str2Float(cell);
-    } catch (const EConvertError& error) {
-      if (error.message_id() == rsNumberTooLarge) {
-        FailIn(column, rows_.Line(), InputFault::kOutOfRange,
-               Excerpt(cell) + " is beyond the range of extended precision");
-      }
-      FailIn(column, rows_.Line(), InputFault::kNotANumber, Excerpt(cell) + " is not a number");
-    }
-    if (!std::isfinite(value)) {
-      FailIn(column, rows_.Line(), InputFault::kNotANumber,
-             Excerpt(cell) + " is not a finite number");
-    }
-    return value;
   }
 
   RowReader& rows_;
@@ -181,23 +144,13 @@ class ColumnCollector {
 
 }  // namespace
 
-bool IsNumber(std::string_view text) {
-  try {
-    static_cast<void>(Str2Float(text));
-  } catch (const EConvertError& error) {
-    return error.message_id() == rsNumberTooLarge;
-  }
-  return true;
-}
-
 std::string TableColumn::Title() const {
   return ColumnTitle(number, name);
 }
 
 std::vector<TableColumn> ReadTable(TextInput input, const TableSelection& selection) {
   RowReader rows(std::move(input), selection.delimiter);
-  if (!rows.Next())
-    throw InputError(InputFault::kNoValues, rows.Name(), "there is nothing to read");
+  RequireFirstRow(rows);
   ColumnCollector collector(rows, selection);
   if (!collector.HasHeader()) collector.AddCells();
   while (rows.Next()) collector.AddRow();

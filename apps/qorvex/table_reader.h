@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "apps/qorvex/text_input.h"
@@ -38,9 +37,6 @@ struct TableColumn {
   /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
   [[nodiscard]] std::string Title() const;
 };
-
-/// Whether the text is a number, even one beyond the range of extended precision.
-[[nodiscard]] bool IsNumber(std::string_view text);
 
 /// Reads the chosen columns. Other columns may hold any text.
 ///

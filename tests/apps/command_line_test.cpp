@@ -62,21 +62,6 @@ TEST(Describe, ReadsDecimalsAsDecimals) {
   ExpectOutput("echo 1 | qorvex describe - --decimals 010 | grep Mean", "Mean:\t1.0000000000\n");
 }
 
-TEST(Describe, RefusesWrongUsageWithStatusTwo) {
-  for (const char* arguments :
-       {"", "decsribe x", "describe", "describe - --decimals -1", "describe - --decimals 256",
-        "describe - --decimals x", "describe - --decimals 0x10", "describe - --delimiter 5",
-        "describe - --delimiter ''", "describe - --delimiter ab", "describe - --nosuch",
-        "describe - --column 1 extra", "describe - --column"}) {
-    const std::string output = Shell(std::string("echo 1 | qorvex ") + arguments + "; echo $?");
-    EXPECT_TRUE(
-        output.starts_with("qorvex: ") &&
-        output.ends_with("\nqorvex: --help tells what the program and its commands take\n2\n"))
-        << arguments << '\n'
-        << output;
-  }
-}
-
 TEST(Describe, TakesDelimitersByCharacterAndByWord) {
   for (const char* input_and_delimiter :
        {"1|2' | qorvex describe - --delimiter '|'", "1,2' | qorvex describe - --delimiter comma",
@@ -89,9 +74,114 @@ TEST(Describe, TakesDelimitersByCharacterAndByWord) {
   }
 }
 
+TEST(Matrix, PrintsResultsThatCanBeReadAgain) {
+  // Every step of these is exact. Small enough to check by hand.
+  for (const auto& [input, result] : {
+           std::pair("0 2\\n4 0' | qorvex matrix inverse -", "0,0.25\n0.5,0\n"),
+           std::pair("-2 0\\n0 4' | qorvex matrix inverse -", "-0.5,0\n0,0.25\n"),
+           std::pair("2,4\\n1,4' | qorvex matrix inverse - | qorvex matrix inverse -",
+                     "2,4\n1,4\n"),
+           std::pair("1e-20' | qorvex matrix inverse - --tolerance 0", "1e+20\n"),
+           std::pair("0 2\\n-4 0' | qorvex matrix determinant -", "8\n"),
+           std::pair("0 0\\n1 0' | qorvex matrix determinant -", "0\n"),
+           std::pair("a|b\\n1|2\\n2|4' | qorvex matrix rank - --header --delimiter '|'", "1\n"),
+           std::pair("1 0\\n0 1e-9' | qorvex matrix rank -", "2\n"),
+           std::pair("1 0\\n0 1e-9' | qorvex matrix rank - --tolerance 1e-6", "1\n"),
+           std::pair("0 -2\\n0 -4' | qorvex matrix echelon -", "0,1\n0,0\n"),
+           std::pair("1 0 0\\n0 1 1' | qorvex matrix multiply - grain_yields.csv", "39\n60\n"),
+           std::pair("2 0 1' | qorvex matrix multiply grain_yields.csv - --decimals 1 | tail -n 1",
+                     "52.0,0.0,26.0\n"),
+           std::pair("-0 1.25\\n2 1e3' | qorvex matrix transpose - --decimals 1",
+                     "0.0,2.0\n1.2,1000.0\n"),
+       }) {
+    ExpectOutput(std::string("printf -- '") + input, result);
+  }
+  const std::string numbers =
+      "0.1,12345678901234567890,-0\n1.0000000000000000001,-1e-4940,3.1415926535897932385\n";
+  ExpectOutput(
+      "printf -- '" + numbers + "' | qorvex matrix transpose - | qorvex matrix transpose -",
+      numbers);
+}
+
+TEST(Matrix, RefusesBadInputWithStatusTwo) {
+  for (const auto& [input, message] : {
+           std::pair("1 2\\n2 4' | qorvex matrix inverse -",
+                     "The matrix has no inverse; elements up to 1e-15 count as zero, which "
+                     "--tolerance changes"),
+           std::pair("1e-6' | qorvex matrix inverse - --tolerance 1e-5",
+                     "The matrix has no inverse; elements up to 1e-05 count as zero, which "
+                     "--tolerance changes"),
+           std::pair("1 2 3\\n4 5 6' | qorvex matrix inverse -",
+                     "The matrix must be square: 2 x 3"),
+           std::pair("1 2 3\\n4 5 6' | qorvex matrix determinant -",
+                     "The matrix must be square: 2 x 3"),
+           std::pair("1e3000 0\\n0 1e3000' | qorvex matrix determinant -",
+                     "the determinant is beyond the range of extended precision"),
+           // The reciprocal of the pivot overflows, which the rank alone would not show.
+           std::pair("1e-4940' | qorvex matrix rank - --tolerance 0",
+                     "the echelon form is beyond the range of extended precision"),
+       }) {
+    ExpectOutput(std::string("printf -- '") + input,
+                 std::string("qorvex: standard input: ") + message + "\nexit status 2\n");
+  }
+  ExpectOutput("echo 1 2 | qorvex matrix multiply - grain_bundles.csv",
+               "qorvex: standard input, grain_bundles.csv: The columns of the first matrix must be "
+               "as many as the rows of the second: 1 x 2 times 3 x 3\nexit status 2\n");
+  ExpectOutput("qorvex matrix multiply grain_bundles.csv nosuch.csv",
+               "qorvex: nosuch.csv: No such file or directory\nexit status 2\n");
+  ExpectOutput(
+      "printf 'x,y\\n1,2\\n' | qorvex matrix transpose -",
+      "qorvex: standard input:1: column 1: \"x\" is not a number; --header skips the first "
+      "row\nexit status 2\n");
+  ExpectOutput("printf '1,2\\n1,2x\\n' | qorvex matrix transpose -",
+               "qorvex: standard input:2: column 2: \"2x\" is not a number\nexit status 2\n");
+}
+
+TEST(Program, TakesTheNamesOfCommandsForFiles) {
+  for (const char* command : {"describe matrix", "matrix rank matrix", "matrix inverse describe",
+                              "matrix multiply rank multiply"}) {
+    const std::string output = Shell(std::string("qorvex ") + command);
+    EXPECT_TRUE(output.ends_with(": No such file or directory\n")) << output;
+  }
+}
+
+TEST(Program, RefusesWrongUsageWithStatusTwo) {
+  for (const char* arguments : {"",
+                                "decsribe x",
+                                "describe",
+                                "describe - --decimals -1",
+                                "describe - --decimals 256",
+                                "describe - --decimals x",
+                                "describe - --decimals 0x10",
+                                "describe - --delimiter 5",
+                                "describe - --delimiter ''",
+                                "describe - --delimiter ab",
+                                "describe - --nosuch",
+                                "describe - --column 1 extra",
+                                "describe - --column",
+                                "matrix",
+                                "matrix invert -",
+                                "matrix inverse",
+                                "matrix inverse - -",
+                                "matrix multiply -",
+                                "matrix multiply - -",
+                                "matrix rank - --decimals 2",
+                                "matrix rank - --tolerance x",
+                                "matrix rank - --tolerance nan",
+                                "matrix rank - --tolerance=-1"}) {
+    const std::string output = Shell(std::string("echo 1 | qorvex ") + arguments + "; echo $?");
+    EXPECT_TRUE(
+        output.starts_with("qorvex: ") &&
+        output.ends_with("\nqorvex: --help tells what the program and its commands take\n2\n"))
+        << arguments << '\n'
+        << output;
+  }
+}
+
 TEST(Program, TellsItsVersionAndHelpAndWhetherTheyCouldBeWritten) {
   ExpectOutput("qorvex --version", "qorvex " QORVEX_VERSION "\n");
   ExpectOutput("qorvex describe --help >/dev/null", "");
+  ExpectOutput("qorvex matrix --help | grep -c inverse", "1\n");
   ExpectOutput("qorvex describe --help | grep -o '^Exit status'", "Exit status\n");
   const std::string full = "qorvex: standard output: No space left on device\nexit status 1\n";
   ExpectOutput("qorvex --help >/dev/full", full);

@@ -1,0 +1,76 @@
+#include "apps/qorvex/common_arguments.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "apps/qorvex/input_error.h"
+
+namespace qorvex::cli {
+
+const char* const kTextHelp = R"(
+  The delimiter is the comma, semicolon or tab (the first of these three that the
+  first line contains outside quotes), otherwise any run of blanks.
+  Cells may be quoted: "1.5", "a, b", "say ""hello""", also across lines.
+  UTF-8 with or without byte order mark; lines end with LF or CR LF.
+  Numbers have a decimal point and an optional exponent and are read to 80 bits
+  (64 bits of mantissa), correctly rounded, under every locale. Infinities and
+  NaN are refused. There are no comments.)";
+
+const char* const kExitStatusHelp = R"(
+
+Exit status:
+  0 success; 2 wrong usage or bad input; 1 anything else. Nothing is printed on
+  standard output unless all input is good.)";
+
+namespace {
+
+char ParseDelimiter(const std::string& text) {
+  if (text == "comma") return ',';
+  if (text == "semicolon") return ';';
+  if (text == "tab") return '\t';
+  if (text == "space") return ' ';
+  constexpr std::string_view in_cells = "0123456789+-.eE\"\r\n";
+  const bool one_character = text.size() == 1 && static_cast<unsigned char>(text[0]) < 0x80;
+  if (!one_character || in_cells.find(text[0]) != std::string_view::npos) {
+    throw CLI::ValidationError(
+        "--delimiter", Excerpt(text) +
+                           " is not comma, semicolon, tab, space or one ASCII character that "
+                           "occurs neither in numbers nor in quoting");
+  }
+  return text[0];
+}
+
+// Keeps the parser of options from reading 010 as eight and 0x10 as sixteen. Gives what is wrong.
+std::string PlainDecimal(std::string& text) {
+  if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos) {
+    return Excerpt(text) + " is not a whole number";
+  }
+  text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
+  return "";
+}
+
+}  // namespace
+
+void AddFile(CLI::App& command, std::string& file, const std::string& name,
+             const std::string& description) {
+  command.add_option(name, file, description + "; - is standard input")->type_name("")->required();
+}
+
+void AddDelimiter(CLI::App& command, std::optional<char>& delimiter) {
+  command
+      .add_option_function<std::string>(
+          "--delimiter",
+          [&delimiter](const std::string& text) { delimiter = ParseDelimiter(text); },
+          "One character, or the word comma, semicolon, tab or space\n"
+          "(space: any run of blanks). Default: detected")
+      ->type_name("C");
+}
+
+void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description) {
+  command.add_option("--decimals", decimals, description)
+      ->transform(CLI::Validator(PlainDecimal, ""))
+      ->check(CLI::Range(0, 255))
+      ->option_text("N (0 to 255)");
+}
+
+}  // namespace qorvex::cli

@@ -1,0 +1,27 @@
+#pragma once
+
+/// @file
+/// Arguments that several commands take, and what their --help says alike.
+
+#include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+
+namespace qorvex::cli {
+
+/// What a --help says about delimiters, quotes, encodings and numbers.
+extern const char* const kTextHelp;
+/// What a --help says about the exit status.
+extern const char* const kExitStatusHelp;
+
+/// Adds a file to read. Like all variables here, it must outlive the parsing.
+void AddFile(CLI::App& command, std::string& file, const std::string& name,
+             const std::string& description);
+
+/// Adds --delimiter, which stays empty when it is not given.
+void AddDelimiter(CLI::App& command, std::optional<char>& delimiter);
+
+/// Adds --decimals, 0 to 255, which stays empty when it is not given.
+void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description);
+
+}  // namespace qorvex::cli

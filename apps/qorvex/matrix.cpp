@@ -1,0 +1,172 @@
+#include "apps/qorvex/matrix.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/matrix_operations.h"
+#include "apps/qorvex/matrix_reader.h"
+#include "apps/qorvex/text_input.h"
+#include "apps/qorvex/text_output.h"
+#include "qorvex/base/comparisons.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+#include "qorvex/matrix/shape.h"
+
+namespace qorvex::cli {
+
+namespace {
+
+constexpr const char* kRowsHelp = R"(
+
+Matrices:
+  One row a line; every row has as many cells as the first.
+  Every cell is a number. No header is guessed, since a damaged number would then
+  cost a row; --header skips one.)";
+
+constexpr const char* kResultHelp = R"(
+  Blank lines before the first row and after the last are ignored.
+  The result has commas between its cells, so that it can be read again.)";
+
+struct MatrixArguments {
+  std::vector<std::string> files;
+  MatrixLayout layout;
+  std::optional<int> decimals;
+};
+
+bool AllFinite(const TQorFloatMatrix& matrix) {
+  return std::ranges::all_of(matrix, [](const TQorFloatVector& row) {
+    return std::ranges::all_of(row, [](Extended element) { return std::isfinite(element); });
+  });
+}
+
+std::string ShapeOf(const TQorFloatMatrix& matrix) {
+  return Int2EStr(MatrixRows(matrix)) + " x " + Int2EStr(MatrixCols(matrix));
+}
+
+std::string WhatIsWrong(const EMathError& error, const Matrices& operands) {
+  std::string text = error.what();
+  if (error.message_id() == rsNoInvert) {
+    return text + "; elements up to " + Float2Str(QorTolerance) +
+           " count as zero, which --tolerance changes";
+  }
+  text += ": " + ShapeOf(operands[0]);
+  if (operands.size() == 2) text += " times " + ShapeOf(operands[1]);
+  return text;
+}
+
+// The names of the files, for faults that are not in one line of one of them.
+std::string Names(const std::vector<std::string>& files) {
+  std::string names = InputName(files[0]);
+  if (files.size() == 2) names += ", " + InputName(files[1]);
+  return names;
+}
+
+TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
+                        const std::string& names) {
+  TQorFloatMatrix result;
+  try {
+    result = operation.compute(operands);
+  } catch (const EMathError& error) {
+    throw InputError(InputFault::kNoResult, names, WhatIsWrong(error, operands));
+  }
+  // An elimination leaves its steps in the operand, where an overflow shows that the result, such
+  // as a rank, may hide.
+  if (!AllFinite(result) || !std::ranges::all_of(operands, AllFinite)) {
+    throw InputError(InputFault::kOutOfRange, names,
+                     std::string(operation.result) + " is beyond the range of extended precision");
+  }
+  return result;
+}
+
+TQorFloatMatrix Read(const std::string& file, const MatrixLayout& layout) {
+  try {
+    return ReadMatrix(OpenTextInput(file), layout);
+  } catch (const InputError& error) {
+    if (error.Fault() != InputFault::kTextInFirstRow) throw;
+    throw InputError(error.Fault(), error.what() + std::string("; --header skips the first row"));
+  }
+}
+
+std::string TextOf(const TQorFloatMatrix& matrix, std::optional<int> decimals) {
+  std::string text;
+  for (const TQorFloatVector& row : matrix) {
+    for (const Extended& element : row) {
+      if (&element != row.begin()) text += ',';
+      text += decimals ? Float2EStr(element, *decimals) : Float2Str(element);
+    }
+    text += '\n';
+  }
+  return text;
+}
+
+void Run(const MatrixOperation& operation, const MatrixArguments& arguments) {
+  if (std::ranges::count(arguments.files, "-") > 1) {
+    throw CLI::ValidationError("LEFT and RIGHT cannot both be standard input");
+  }
+  Matrices operands;
+  for (const std::string& file : arguments.files) operands.push_back(Read(file, arguments.layout));
+  const TQorFloatMatrix result = Compute(operation, operands, Names(arguments.files));
+  WriteResult(TextOf(result, arguments.decimals));
+}
+
+Extended ParseTolerance(const std::string& text) {
+  Extended tolerance = -1;
+  try {
+    tolerance = Str2Float(text);
+  } catch (const EConvertError&) {
+  }
+  if (std::isfinite(tolerance) && tolerance >= 0) return tolerance;
+  throw CLI::ValidationError("--tolerance", Excerpt(text) + " is not a number from 0 up");
+}
+
+void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
+  CLI::App& command = *matrix.add_subcommand(operation.name, operation.summary);
+  const auto arguments = std::make_shared<MatrixArguments>();
+  if (operation.takes_two_files) {
+    arguments->files.resize(2);
+    AddFile(command, arguments->files[0], "LEFT", "The matrix on the left");
+    AddFile(command, arguments->files[1], "RIGHT", "The matrix on the right");
+  } else {
+    arguments->files.resize(1);
+    AddFile(command, arguments->files[0], "FILE", "The matrix to read");
+  }
+  AddDelimiter(command, arguments->layout.delimiter);
+  command.add_flag("--header", arguments->layout.has_header,
+                   "Skip the first row, which holds names");
+  if (operation.takes_decimals) {
+    AddDecimals(command, arguments->decimals,
+                "Decimals of the result. Default: the shortest text that keeps all 80 bits");
+  }
+  if (operation.takes_tolerance) {
+    command
+        .add_option_function<std::string>(
+            "--tolerance", [](const std::string& text) { QorTolerance = ParseTolerance(text); },
+            "Elements that near to zero count as zero, and pivots that near to one\n"
+            "as one; large or badly scaled numbers need more. Default: " +
+                Float2Str(QorTolerance))
+        ->type_name("X");
+  }
+  command.footer(std::string(operation.help) + kRowsHelp + kTextHelp + kResultHelp +
+                 kExitStatusHelp);
+  command.callback([&operation, arguments] { Run(operation, *arguments); });
+}
+
+}  // namespace
+
+void AddMatrix(CLI::App& program) {
+  CLI::App& matrix = *program.add_subcommand("matrix", "Inverses, products and ranks of matrices");
+  for (const MatrixOperation& operation : MatrixOperations()) AddOperation(matrix, operation);
+  matrix.require_subcommand(0, 1);
+  matrix.callback([&matrix] {
+    if (matrix.get_subcommands().empty()) throw CLI::RequiredError("A command of matrix");
+  });
+}
+
+}  // namespace qorvex::cli

@@ -1,0 +1,120 @@
+#include "apps/qorvex/matrix_operations.h"
+
+#include <algorithm>
+#include <cstdint>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/matrix/QorvexMatrix.h"
+
+namespace qorvex::cli {
+
+namespace {
+
+TQorFloatMatrix SingleElement(Extended value) {
+  return {TQorFloatVector{value}};
+}
+
+// An elimination gives zeros the signs of pivots and of exchanges, which mean nothing.
+TQorFloatMatrix WithUnsignedZeros(TQorFloatMatrix matrix) {
+  for (TQorFloatVector& row : matrix) std::ranges::replace(row, 0.0L, 0.0L);
+  return matrix;
+}
+
+TQorFloatMatrix Inverse(Matrices& operands) {
+  TQorFloatMatrix inverse;
+  if (!MatrixInverse(operands[0], inverse)) RaiseMathError(rsNoInvert);
+  return WithUnsignedZeros(inverse);
+}
+
+TQorFloatMatrix Determinant(Matrices& operands) {
+  return WithUnsignedZeros(SingleElement(MatrixDeterminant(operands[0])));
+}
+
+TQorFloatMatrix Rank(Matrices& operands) {
+  std::uint32_t rank = 0;
+  RowEchelonFormRank(operands[0], rank);
+  return SingleElement(rank);
+}
+
+TQorFloatMatrix Echelon(Matrices& operands) {
+  RowEchelonForm(operands[0]);
+  return WithUnsignedZeros(operands[0]);
+}
+
+TQorFloatMatrix Multiply(Matrices& operands) {
+  return MultiplyMatrices(operands[0], operands[1]);
+}
+
+TQorFloatMatrix Transpose(Matrices& operands) {
+  return TransposeMatrix(operands[0]);
+}
+
+constexpr MatrixOperation kOperations[] = {
+    {.name = "inverse",
+     .summary = "The inverse of a square matrix",
+     .result = "the inverse",
+     .takes_tolerance = true,
+     .compute = Inverse,
+     .help = R"(A matrix without an inverse is bad input.
+
+Examples:
+  qorvex matrix inverse system.csv
+  qorvex matrix inverse system.csv | qorvex matrix multiply - right_side.csv)"},
+    {.name = "determinant",
+     .summary = "The determinant of a square matrix",
+     .result = "the determinant",
+     .takes_tolerance = true,
+     .compute = Determinant,
+     .help = R"(The determinant is a product over the steps of an elimination. For a singular
+matrix rounding may leave a tiny number in place of 0.
+
+Examples:
+  qorvex matrix determinant system.csv
+  qorvex matrix determinant system.csv --decimals 6)"},
+    {.name = "rank",
+     .summary = "The number of independent rows",
+     .result = "the echelon form",
+     .takes_tolerance = true,
+     .takes_decimals = false,
+     .compute = Rank,
+     .help = R"(The rank is the number of rows that are not zero after an elimination.
+
+Examples:
+  qorvex matrix rank system.csv
+  qorvex matrix rank measured.csv --tolerance 1e-6)"},
+    {.name = "echelon",
+     .summary = "The row echelon form",
+     .result = "the echelon form",
+     .takes_tolerance = true,
+     .compute = Echelon,
+     .help = R"(Each row starts with a one, further right than the row above, and the rows of
+zeros come last. What stands above a leading one is not eliminated. Rounding may
+leave tiny numbers where zeros belong.
+
+Example:
+  qorvex matrix echelon system.csv --decimals 3)"},
+    {.name = "multiply",
+     .summary = "The product of two matrices",
+     .result = "the product",
+     .takes_two_files = true,
+     .compute = Multiply,
+     .help = R"(The columns of LEFT must be as many as the rows of RIGHT.
+
+Examples:
+  qorvex matrix multiply a.csv b.csv
+  qorvex matrix transpose a.csv | qorvex matrix multiply - a.csv)"},
+    {.name = "transpose",
+     .summary = "The rows as columns",
+     .result = "the transpose",
+     .compute = Transpose,
+     .help = R"(Example:
+  qorvex matrix transpose a.csv)"},
+};
+
+}  // namespace
+
+std::span<const MatrixOperation> MatrixOperations() {
+  return kOperations;
+}
+
+}  // namespace qorvex::cli
