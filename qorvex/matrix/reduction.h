@@ -9,10 +9,11 @@
 /// that a matrix is singular: docs/accuracy.md has the figures.
 ///
 /// Computation is in extended precision; Double and Single matrices round each element once a step.
-/// Residue that rounding leaves below the pivots is carried along and may remain, below the
-/// tolerance. NaN and infinite elements spread as the processor computes them. Rows are changed in
-/// their buffers, so every handle of a row sees it reduced; a buffer that several rows share is
-/// changed by the operations on each of them.
+/// Whole rows are added, and with them the residue that rounding leaves in front of the pivots. Up
+/// to the tolerance it stays in the reduced matrix; where it grows beyond, it is set to zero. NaN
+/// and infinite elements spread as the processor computes them. Rows are changed in their buffers,
+/// so every handle of a row sees it reduced; a buffer that several rows share is changed by the
+/// operations on each of them.
 ///
 /// Errors are EMathError, checked before anything changes: rsMatrixIsEmpty for a matrix without
 /// rows or columns, or a ragged one; rsMatrixSqr where a square matrix is needed; then rsMatrixRect
