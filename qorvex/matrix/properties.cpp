@@ -10,10 +10,7 @@ namespace qorvex::inline QorvexMatrix {
 
 template <FloatElement T>
 std::uint32_t MatrixZeroRows(const TQorMatrix<T>& matrix) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireRectangular(shape);
-  detail::RequireLengths(matrix, shape.cols);
+  detail::RequireRectangularMatrix(matrix);
   const auto is_zero = [](const TQorVector<T>& row) {
     return std::ranges::all_of(row, [](T x) { return FloatIsZero(x); });
   };
@@ -22,13 +19,10 @@ std::uint32_t MatrixZeroRows(const TQorMatrix<T>& matrix) {
 
 template <FloatElement T>
 bool MatrixIsIdentity(const TQorMatrix<T>& matrix) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireSquare(shape);
-  detail::RequireLengths(matrix, shape.cols);
-  for (std::uint32_t i = 0; i < shape.rows; ++i) {
+  const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
+  for (std::size_t i = 0; i < order; ++i) {
     const T* const row = matrix[i].data();
-    for (std::uint32_t j = 0; j < shape.cols; ++j) {
+    for (std::size_t j = 0; j < order; ++j) {
       const Extended expected = i == j ? 1 : 0;
       if (FloatIsNotZero(static_cast<Extended>(row[j]) - expected)) return false;
     }

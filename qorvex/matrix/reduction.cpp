@@ -38,24 +38,6 @@ decltype(auto) WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) 
   return reduce(UnsharedRows<T>(matrix, cols));
 }
 
-template <FloatElement T>
-detail::Shape CheckedShape(const TQorMatrix<T>& matrix) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireRectangular(shape);
-  detail::RequireLengths(matrix, shape.cols);
-  return shape;
-}
-
-template <FloatElement T>
-std::size_t CheckedOrder(const TQorMatrix<T>& matrix) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireSquare(shape);
-  detail::RequireLengths(matrix, shape.cols);
-  return shape.rows;
-}
-
 // Repeats the steps on the rows of the inverse.
 template <class Rows>
 class InverseObserver {
@@ -86,7 +68,7 @@ class DeterminantObserver {
 
 template <FloatElement T>
 void RowEchelonForm(TQorMatrix<T>& matrix) {
-  const detail::Shape shape = CheckedShape(matrix);
+  const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
   const detail::RectangularCheckPause pause;
   WithRows(matrix, shape.cols, [&](auto rows) {
     detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
@@ -96,7 +78,7 @@ void RowEchelonForm(TQorMatrix<T>& matrix) {
 template <FloatElement T>
 void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank) {
   rank = 0;
-  const detail::Shape shape = CheckedShape(matrix);
+  const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
   const detail::RectangularCheckPause pause;
   WithRows(matrix, shape.cols, [&](auto rows) {
     detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
@@ -106,7 +88,7 @@ void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank) {
 
 template <FloatElement T>
 bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
-  const std::size_t order = CheckedOrder(matrix);
+  const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
@@ -133,7 +115,7 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
 
 template <FloatElement T>
 Extended MatrixDeterminant(TQorMatrix<T>& matrix) {
-  const std::size_t order = CheckedOrder(matrix);
+  const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
   const detail::RectangularCheckPause pause;
   DeterminantObserver observer;
   WithRows(matrix, order, [&](auto rows) { detail::Eliminate(rows, order, order, observer); });

@@ -86,4 +86,24 @@ void RequireLengths(const TQorMatrix<T>& matrix, std::size_t length) {
   for (const TQorVector<T>& row : matrix) RequireLength(row, length);
 }
 
+// The shape of a matrix that has elements, in rows of one length.
+template <class T>
+Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
+  const Shape shape = ShapeOf(matrix);
+  RequireElements(shape);
+  RequireRectangular(shape);
+  RequireLengths(matrix, shape.cols);
+  return shape;
+}
+
+// The same of a square matrix.
+template <class T>
+[[nodiscard]] Shape RequireSquareMatrix(const TQorMatrix<T>& matrix) {
+  const Shape shape = ShapeOf(matrix);
+  RequireElements(shape);
+  RequireSquare(shape);
+  RequireLengths(matrix, shape.cols);
+  return shape;
+}
+
 }  // namespace qorvex::inline QorvexMatrix::detail
