@@ -1,7 +1,6 @@
 #include "qorvex/matrix/properties.h"
 
 #include <algorithm>
-#include <span>
 
 #include "qorvex/base/comparisons.h"
 #include "qorvex/matrix/detail/checks.h"

@@ -98,7 +98,7 @@ Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
 
 // The same of a square matrix.
 template <class T>
-[[nodiscard]] Shape RequireSquareMatrix(const TQorMatrix<T>& matrix) {
+Shape RequireSquareMatrix(const TQorMatrix<T>& matrix) {
   const Shape shape = ShapeOf(matrix);
   RequireElements(shape);
   RequireSquare(shape);
