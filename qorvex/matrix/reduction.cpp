@@ -17,16 +17,13 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// The rows of a matrix whose rows share no buffer.
-template <FloatElement T>
-using UnsharedRows =
-    std::conditional_t<std::same_as<T, Extended>, detail::DeferredRows, detail::DirectRows<T>>;
+// From this many rows on, additions that wait for one another save more than keeping them costs.
+constexpr std::size_t kLeastDeferredRows = 12;
 
-template <FloatElement T>
-bool RowsShareBuffers(const TQorMatrix<T>& matrix) {
-  std::vector<const T*> buffers;
+bool RowsShareBuffers(const TQorFloatMatrix& matrix) {
+  std::vector<const Extended*> buffers;
   buffers.reserve(matrix.size());
-  for (const TQorVector<T>& row : matrix) buffers.push_back(row.data());
+  for (const TQorFloatVector& row : matrix) buffers.push_back(row.data());
   std::ranges::sort(buffers);
   return std::ranges::adjacent_find(buffers) != buffers.end();
 }
@@ -34,8 +31,12 @@ bool RowsShareBuffers(const TQorMatrix<T>& matrix) {
 // Calls reduce with the rows of the matrix in the form that suits them.
 template <FloatElement T, class Reduce>
 decltype(auto) WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
-  if (RowsShareBuffers(matrix)) return reduce(detail::DirectRows<T>(matrix, cols));
-  return reduce(UnsharedRows<T>(matrix, cols));
+  if constexpr (std::same_as<T, Extended>) {
+    if (matrix.size() >= kLeastDeferredRows && !RowsShareBuffers(matrix)) {
+      return reduce(detail::DeferredRows(matrix, cols));
+    }
+  }
+  return reduce(detail::DirectRows<T>(matrix, cols));
 }
 
 // Repeats the steps on the rows of the inverse.
@@ -52,6 +53,21 @@ class InverseObserver {
  private:
   Rows& rows_;
 };
+
+// Clears what is above the ones of the main diagonal, with the same steps on the inverse.
+template <class Rows, class InverseRows>
+void SubstituteBack(Rows& rows, std::size_t order, InverseRows& inverse_rows) {
+  for (std::size_t col = order - 1; col > 0; --col) {
+    for (std::size_t row = col; row-- > 0;) {
+      const Extended element = rows.At(row, col);
+      if (FloatIsZero(element)) continue;
+      rows.Add(row, col, -element);
+      inverse_rows.Add(row, col, -element);
+    }
+  }
+  rows.Settle();
+  inverse_rows.Settle();
+}
 
 class DeterminantObserver {
  public:
@@ -93,21 +109,13 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
   const bool regular = WithRows(matrix, order, [&](auto rows) {
-    UnsharedRows<T> result_rows(result, order);
-    detail::Eliminate(rows, order, order, InverseObserver(result_rows));
-    result_rows.Settle();
-    if (MatrixZeroRows(matrix) != 0) return false;
-    for (std::size_t col = order - 1; col > 0; --col) {
-      for (std::size_t row = col; row-- > 0;) {
-        const Extended element = rows.At(row, col);
-        if (FloatIsZero(element)) continue;
-        rows.Add(row, col, -element);
-        result_rows.Add(row, col, -element);
-      }
-    }
-    rows.Settle();
-    result_rows.Settle();
-    return true;
+    return WithRows(result, order, [&](auto result_rows) {
+      detail::Eliminate(rows, order, order, InverseObserver(result_rows));
+      result_rows.Settle();
+      if (MatrixZeroRows(matrix) != 0) return false;
+      SubstituteBack(rows, order, result_rows);
+      return true;
+    });
   });
   inverse = std::move(result);
   return regular;

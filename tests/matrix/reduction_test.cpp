@@ -82,8 +82,8 @@ TYPED_TEST(ReductionOf, AgreesInEveryBitWithThePlainLoops) {
       {"far away", far_away}, {"special", special},
   };
   const std::pair<std::size_t, std::size_t> shapes[] = {{1, 1},  {1, 7},   {7, 1},   {2, 2},
-                                                        {3, 5},  {5, 3},   {4, 4},   {9, 9},
-                                                        {10, 6}, {17, 17}, {12, 30}, {31, 31}};
+                                                        {3, 5},  {5, 3},   {4, 4},   {13, 13},
+                                                        {20, 6}, {17, 17}, {12, 30}, {31, 31}};
   for (const auto& [name, making] : makings) {
     int agreeing = 0;
     for (const auto& [rows, cols] : shapes) {
@@ -117,10 +117,10 @@ TYPED_TEST(ReductionOf, RowsThatShareABufferAreReducedAsTheyStand) {
     matrix[4] = matrix[1];
     return matrix;
   };
-  const auto given = MatrixOf<T>(6, 6, [&](auto...) { return T(engine() % 7) / 8; });
+  const auto given = MatrixOf<T>(14, 14, [&](auto...) { return T(engine() % 7) / 8; });
   auto plain = shared(given);
   auto matrix = shared(given);
-  auto plain_inverse = Identity<T>(6);
+  auto plain_inverse = Identity<T>(14);
   TQorMatrix<T> inverse;
   const bool regular = PlainReduction<T>{plain, &plain_inverse}.Invert();
   EXPECT_EQ(MatrixInverse(matrix, inverse), regular);
