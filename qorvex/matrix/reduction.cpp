@@ -12,6 +12,7 @@
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
 #include "qorvex/matrix/properties.h"
+#include "qorvex/vector/building.h"
 
 namespace qorvex::inline QorvexMatrix {
 
@@ -20,21 +21,31 @@ namespace {
 // From this many rows on, additions that wait for one another save more than keeping them costs.
 constexpr std::size_t kLeastDeferredRows = 12;
 
-bool RowsShareBuffers(const TQorFloatMatrix& matrix) {
-  std::vector<const Extended*> buffers;
-  buffers.reserve(matrix.size());
-  for (const TQorFloatVector& row : matrix) buffers.push_back(row.data());
-  std::ranges::sort(buffers);
-  return std::ranges::adjacent_find(buffers) != buffers.end();
+// Gives rows that share a buffer with an earlier row of the matrix one of their own: reduced rows
+// differ.
+template <FloatElement T>
+void SeparateRows(TQorMatrix<T>& matrix) {
+  std::vector<TQorVector<T>*> shared;
+  for (TQorVector<T>& row : matrix) {
+    if (row.IsShared()) shared.push_back(&row);
+  }
+  std::ranges::sort(shared, {}, [](TQorVector<T>* row) { return std::pair(row->data(), row); });
+  const T* kept = nullptr;
+  for (TQorVector<T>* const row : shared) {
+    if (row->data() == kept) {
+      *row = CopyVector(*row);
+    } else {
+      kept = row->data();
+    }
+  }
 }
 
 // Calls reduce with the rows of the matrix in the form that suits them.
 template <FloatElement T, class Reduce>
 decltype(auto) WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
+  SeparateRows(matrix);
   if constexpr (std::same_as<T, Extended>) {
-    if (matrix.size() >= kLeastDeferredRows && !RowsShareBuffers(matrix)) {
-      return reduce(detail::DeferredRows(matrix, cols));
-    }
+    if (matrix.size() >= kLeastDeferredRows) return reduce(detail::DeferredRows(matrix, cols));
   }
   return reduce(detail::DirectRows<T>(matrix, cols));
 }

@@ -12,8 +12,8 @@
 /// Whole rows are added, and with them the residue that rounding leaves in front of the pivots. Up
 /// to the tolerance it stays in the reduced matrix; where it grows beyond, it is set to zero. NaN
 /// and infinite elements spread as the processor computes them. Rows are changed in their buffers,
-/// so every handle of a row sees it reduced; a buffer that several rows share is changed by the
-/// operations on each of them.
+/// so every handle of a row sees it reduced; of rows of the matrix that share a buffer the first
+/// keeps it and the others get their own.
 ///
 /// Errors are EMathError, checked before anything changes: rsMatrixIsEmpty for a matrix without
 /// rows or columns, or a ragged one; rsMatrixSqr where a square matrix is needed; then rsMatrixRect
