@@ -4,6 +4,7 @@
 #include <span>
 #include <vector>
 
+#include "qorvex/base/vector_types.h"
 #include "qorvex/matrix/detail/row_kernels.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
