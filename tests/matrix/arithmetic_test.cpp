@@ -39,6 +39,7 @@ TEST(MatrixArithmetic, IntegersWrapAndDoublesRoundTwice) {
             (TQorInt64Matrix{{1LL << 40}}));
   // Just above the middle of two doubles, and the middle itself in 80 bits.
   EXPECT_EQ(AddMatrices(TQorDoubleMatrix{{1}}, {{0x1p-53 + 0x1p-80}})[0][0], 1);
+  EXPECT_EQ(SubtractMatrices(TQorDoubleMatrix{{1}}, {{-0x1p-53 - 0x1p-80}})[0][0], 1);
 }
 
 TEST(MatrixArithmetic, ErrorsComeInOrderAndLeaveTheMatrix) {

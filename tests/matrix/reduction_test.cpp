@@ -67,8 +67,9 @@ TYPED_TEST(ReductionOf, AgreesInEveryBitWithThePlainLoops) {
   };
   const auto small = [&](auto...) { return static_cast<T>(static_cast<int>(engine() % 5) - 2); };
   const auto signed_zeros = [&](auto...) { return engine() % 3 == 0 ? real() : T(-0.0); };
+  // Extended elements pass both limits of a double.
   const auto far_away = [&](auto...) {
-    constexpr int range = std::numeric_limits<T>::max_exponent - 1;
+    constexpr int range = std::min(std::numeric_limits<T>::max_exponent - 1, 1100);
     const int exponent = static_cast<int>(engine() % (2 * range)) - range;
     return std::ldexp(real(), engine() % 8 == 0 ? exponent : 0);
   };
@@ -113,11 +114,13 @@ TYPED_TEST(ReductionOf, RowsThatShareABufferArePartedFirst) {
   TQorMatrix<T> matrix{{1, 2, 4}, {2, 2, 2}, {}};
   matrix[2] = matrix[0];
   const TQorVector<T> first = matrix[0];
+  const TQorVector<T> between = matrix[1];
   const auto copy = CopyMatrix(matrix);
   std::uint32_t rank = 0;
   RowEchelonFormRank(matrix, rank);
   EXPECT_EQ(rank, 2U);
   EXPECT_TRUE(first.SharesBufferWith(matrix[0]));
+  EXPECT_TRUE(between.SharesBufferWith(matrix[1]));
   auto reduced_copy = copy;
   RowEchelonForm(reduced_copy);
   EXPECT_EQ(matrix, reduced_copy);
@@ -148,6 +151,22 @@ TYPED_TEST(ReductionOf, ResidueSpoilsNeitherRankNorInverse) {
   check(100, T(0.001L));
 }
 
+TEST(Reduction, NoResidueStaysWhereItWouldRaiseTheRank) {
+  Engine engine(5);
+  const std::size_t order = 40;
+  for (int repetition = 0; repetition < 20; ++repetition) {
+    auto matrix = MatrixOf<Extended>(order, order,
+                                     [&](auto...) { return static_cast<int>(engine() % 19) - 9; });
+    for (std::size_t j = 0; j < order; ++j) matrix[order - 1][j] = matrix[0][j] - matrix[1][j];
+    std::uint32_t rank = 0;
+    RowEchelonFormRank(matrix, rank);
+    EXPECT_EQ(rank, order - 1);
+    for (std::size_t i = 0; i < order; ++i) {
+      for (std::size_t j = 0; j < i; ++j) ASSERT_EQ(matrix[i][j], 0) << i << ',' << j;
+    }
+  }
+}
+
 TEST(Reduction, NaNIsNoResidue) {
   // 41 times its reciprocal is less than one, which leaves residue in the second row.
   TQorFloatMatrix matrix{{41, 1, 1}, {-40, 3, 1}, {kNaN, 1, 1}};
@@ -170,6 +189,10 @@ TEST(Reduction, FindsPivotsLeftmostAndLargest) {
   matrix = {{-2, 1}, {2, 3}};
   RowEchelonForm(matrix);
   EXPECT_EQ(matrix, (TQorFloatMatrix{{1, -0.5L}, {0, 1}}));
+  // One that is near enough to one stays what it is.
+  matrix = {{1 + 0.9e-15L, 3}, {0, 1}};
+  RowEchelonForm(matrix);
+  EXPECT_EQ(matrix, (TQorFloatMatrix{{1 + 0.9e-15L, 3}, {0, 1}}));
 }
 
 TEST(Reduction, ComputesDeterminants) {

@@ -47,10 +47,13 @@ TEST(RowOperations, IntegersWrapAndDoublesRoundOnce) {
   TQorInt64Matrix int64s{{smallest}, {-1}};
   AddMatrixRows(int64s, 0, 1, 1);
   EXPECT_EQ(int64s[0][0], std::numeric_limits<std::int64_t>::max());
-  // 1 + 2^-53 + 2^-60 is above the middle of two doubles, though its product alone rounds to less.
-  TQorDoubleMatrix doubles{{1}, {1 + 0x1p-52}};
-  AddMatrixRows(doubles, 0, 1, 0x1p-53L + 0x1p-60L);
-  EXPECT_EQ(doubles[0][0], 1 + 0x1p-52);
+  // A product that were rounded before it is added would be 1.
+  TQorDoubleMatrix doubles{{-1, 2}, {1, 1}};
+  AddMatrixRows(doubles, 0, 1, 1 + 0x1p-60L);
+  EXPECT_EQ(doubles[0], (TQorDoubleVector{0x1p-60, 3}));
+  doubles = {{-1, 1}, {2, 1}};
+  AddMatrixCols(doubles, 0, 1, 1 + 0x1p-60L);
+  EXPECT_EQ(doubles, (TQorDoubleMatrix{{0x1p-60, 1}, {3, 1}}));
 }
 
 TEST(RowOperations, ChecksComeInOrderAndTheFactorOneBeforeThem) {
@@ -87,6 +90,7 @@ TEST(RowOperations, WithoutTheShapeSwitchOnlyRowsInReachCount) {
   EXPECT_EQ(ragged[0], (TQorFloatVector{4, 6}));
   EXPECT_MATH_ERROR(AddMatrixRows(ragged, 0, 2, 1), rsMatrixRect);
   EXPECT_MATH_ERROR(SwapMatrixRows(ragged, 2, 0), rsMatrixRect);
+  EXPECT_MATH_ERROR(SwapMatrixRows(ragged, 2, 9), rsInvalidRow);
   EXPECT_MATH_ERROR(SwapMatrixCols(ragged, 0, 1), rsMatrixRect);
   EXPECT_MATH_ERROR(ScaleMatrixCol(ragged, 0, 2), rsMatrixRect);
   EXPECT_EQ(ragged, (TQorFloatMatrix{{4, 6}, {3, 4}, {5}}));

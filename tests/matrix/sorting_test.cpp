@@ -143,6 +143,8 @@ TEST(MatrixSortingLines, GuardsAndErrorsComeInOrder) {
   TQorWordMatrix longer{{3, 2}, {1, 7, 9}};
   QSortMatrixRowsOnCol(longer, 0, true);
   EXPECT_EQ(longer, (TQorWordMatrix{{1, 7}, {3, 2, 9}})) << "the columns are those of row 0";
+  QSortMatrixColsOnRow(longer, 1, true);
+  EXPECT_EQ(longer, (TQorWordMatrix{{7, 1}, {2, 3, 9}}));
 }
 
 TEST(MatrixSortingLines, LackOfMemoryLeavesTheMatrixUnchanged) {

@@ -43,6 +43,7 @@ TEST(MatrixSums, RowsAndColumnsWidenAndWrap) {
   const TQorSingleMatrix singles{{1, 0x1p-60F}, {0x1p64F, 1}, {1, 5}};
   EXPECT_EQ(SumMatrixRow(singles, 0), 1 + 0x1p-60L);
   EXPECT_EQ(SumMatrixCol(singles, 0), 0x1p64L) << "in ascending order each 1 is lost";
+  EXPECT_TRUE(std::signbit(SumMatrixRow(TQorDoubleMatrix{{-0.0}}, 0))) << "as SumVector gives it";
 }
 
 TEST(MatrixSums, ErrorsComeInOrder) {

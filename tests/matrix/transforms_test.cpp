@@ -11,10 +11,14 @@ TEST(MatrixTransforms, ComputeInExtendedPrecisionOnRaggedRows) {
   TQorDoubleMatrix inverse{{3}, {-0.5, 4}};
   InvMatrix(inverse);
   EXPECT_EQ(inverse, (TQorDoubleMatrix{{static_cast<double>(1 / 3.0L)}, {-2, 0.25}}));
-  TQorSingleMatrix squares{{0.1F}, {-3}};
+  TQorFloatMatrix third{{3}};
+  InvMatrix(third);
+  EXPECT_EQ(third[0][0], 1 / 3.0L);
+  // Of all doubles with one decimal this is the first whose square differs when rounded once.
+  TQorDoubleMatrix squares{{690.9}, {-3}};
   SquareMatrix(squares);
   EXPECT_EQ(squares,
-            (TQorSingleMatrix{{static_cast<float>(static_cast<Extended>(0.1F) * 0.1F)}, {9}}));
+            (TQorDoubleMatrix{{static_cast<double>(static_cast<Extended>(690.9) * 690.9)}, {9}}));
   TQorFloatMatrix natural{{std::exp(1.0L)}, {1, std::numeric_limits<Extended>::denorm_min()}};
   LnMatrix(natural);
   EXPECT_EQ(natural[0][0], 1);
