@@ -23,7 +23,6 @@ template <NumericElement T>
 TQorMatrix<T> TransposeMatrix(const TQorMatrix<T>& matrix) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   detail::RequireRectangular(shape);
-  if (shape.Empty()) return {};
   detail::RequireLengths(matrix, shape.cols);
   auto result = detail::NewMatrixForOverwrite<T>(shape.cols, shape.rows);
   std::array<const T*, kBlockRows> from;
