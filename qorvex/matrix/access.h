@@ -3,9 +3,9 @@
 /// @file
 /// Moving single rows and columns between a matrix and a vector. All for the ten numeric elements.
 ///
-/// A matrix with at most one row or at most one column, as MatrixDimensions counts them, is left
-/// alone whatever the index: nothing is extracted or written, and nothing raises. With the shape
-/// switch on a ragged matrix is among them, since it counts as having no columns.
+/// Where MatrixDimensions counts a single row or column, or none, the matrix is left alone whatever
+/// the index: the vector that comes out is empty, nothing is written, and nothing raises. With the
+/// shape switch on a ragged matrix is among them, since it counts as having no columns.
 ///
 /// Otherwise EMathError, before anything is written: rsInvalidRow or rsInvalidCol for an index
 /// beyond the last; then rsMatrixRect when, with the shape switch off, a row that is read or

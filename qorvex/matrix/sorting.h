@@ -19,11 +19,11 @@ namespace qorvex::inline QorvexMatrix {
 /// of the matrix that share a buffer stay equal and so may end out of order, though no contents are
 /// lost; a column sort permutes a shared buffer once for each of its rows.
 ///
-/// A matrix with at most one row or at most one column, as MatrixDimensions counts them, is left
-/// alone whatever the index; with the shape switch on a ragged matrix is among them. Otherwise
-/// EMathError: rsInvalidCol or rsInvalidRow for an index beyond the last; then rsMatrixRect when,
-/// with the shape switch off, a row is shorter than the first. A raise, or lack of memory, leaves
-/// the matrix as it is.
+/// Where MatrixDimensions counts a single row or column, or none, the matrix is left alone whatever
+/// the index; with the shape switch on a ragged matrix is among them. Otherwise EMathError:
+/// rsInvalidCol or rsInvalidRow for an index beyond the last; then rsMatrixRect when, with the
+/// shape switch off, a row is shorter than the first. A raise, or lack of memory, leaves the matrix
+/// as it is.
 ///
 /// The cost of sorting n keys as QSortVector does, with 36 bytes of memory a key, and O(elements)
 /// moves: rows follow the cycles of the permutation through one scratch row (Knuth 1998, "The Art

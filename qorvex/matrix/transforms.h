@@ -40,7 +40,7 @@ template <FloatElement T>
 QORVEX_EXPORT void InvMatrix(TQorMatrix<T>& matrix);
 
 /// @{
-/// Replaces each element by its natural or base-10 logarithm. An element that is 0 or below raises
+/// Replaces each element by its natural or base-10 logarithm. A zero or negative element raises
 /// EMathError with rsMatrixNotPos. For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void LnMatrix(TQorMatrix<T>& matrix);
