@@ -9,12 +9,11 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-DeferredRows::DeferredRows(TQorFloatMatrix& matrix, std::size_t cols)
-    : cols_(cols), depth_(std::min(kDepth, matrix.size())) {
+DeferredRows::DeferredRows(TQorFloatMatrix& matrix, std::size_t cols) : cols_(cols) {
   rows_.reserve(matrix.size());
   for (TQorFloatVector& row : matrix) rows_.push_back({.elements = row.data(), .factors = {}});
-  sources_.reserve(depth_);
-  quads_ = std::make_unique_for_overwrite<SplitQuad[]>((cols + kQuad - 1) / kQuad * depth_);
+  sources_.reserve(kDepth);
+  quads_ = std::make_unique_for_overwrite<SplitQuad[]>((cols + kQuad - 1) / kQuad * kDepth);
 }
 
 Extended DeferredRows::At(std::size_t row, std::size_t col) const {
@@ -67,7 +66,7 @@ void DeferredRows::Settle() {
 bool DeferredRows::BecomeSource(std::size_t source) {
   Row& row = rows_[source];
   if (row.slot != kNoSlot) return true;
-  if (sources_.size() == depth_) Settle();
+  if (sources_.size() == kDepth) Settle();
   SettleRow(row);
   const std::size_t slot = sources_.size();
   bool exact = true;

@@ -2,7 +2,6 @@
 
 #include <array>
 #include <cstddef>
-#include <cstdint>
 #include <memory>
 #include <span>
 #include <vector>
@@ -46,12 +45,11 @@ class DeferredRows {
     std::size_t slot = kNoSlot;
   };
 
-  [[nodiscard]] SplitQuad* Quads(std::size_t col) { return &quads_[col / kQuad * depth_]; }
+  [[nodiscard]] SplitQuad* Quads(std::size_t col) { return &quads_[col / kQuad * kDepth]; }
   bool BecomeSource(std::size_t row);
   void SettleRow(Row& row);
 
   std::size_t cols_;
-  std::size_t depth_;
   std::vector<Row> rows_;
   // The row in each slot.
   std::vector<std::size_t> sources_;
