@@ -16,7 +16,8 @@ namespace qorvex::inline QorvexMatrix {
 /// EMathError: rsMatrixRect when either matrix is ragged or, with the shape switch on, empty;
 /// rsMatrixIsEmpty when either has no rows; rsMatrixMult when the columns of a are not as many as
 /// the rows of b; then rsMatrixRect when, with the shape switch off, a row is shorter than its
-/// matrix's first. For floating elements. O(rows of a x columns of a x columns of b).
+/// matrix's first. For floating elements. O(rows of a x columns of a x columns of b), with
+/// working memory of up to 128 bytes a column of a.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a,
                                                            const TQorMatrix<T>& b);

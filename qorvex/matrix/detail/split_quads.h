@@ -2,8 +2,8 @@
 
 // Sums of products in extended precision at the speed of the floating-point unit.
 //
-// Loading an 80-bit value costs the processor four times as much as loading a double, and an
-// addition waits six cycles for the one before. So values that serve many products are stored as
+// Loading an 80-bit value costs a processor several times as much as loading a double, and an
+// addition waits some cycles for the one before. So values that serve many products are stored as
 // the sum of two doubles, which is exact, and four sums run side by side. Each sum still adds its
 // products one by one, in ascending order, and rounds each product and each sum to 64 bits.
 
