@@ -10,7 +10,7 @@
 ///
 /// Computation is in extended precision; Double and Single matrices round each element once a step.
 /// Whole rows are added, and with them the residue that rounding leaves in front of the pivots. Up
-/// to the tolerance it stays in the reduced matrix; where it grows beyond, it is set to zero. NaN
+/// to the tolerance it stays in the reduced matrix; once any grows beyond, all is set to zero. NaN
 /// and infinite elements spread as the processor computes them. Rows are changed in their buffers,
 /// so every handle of a row sees it reduced; of rows of the matrix that share a buffer the first
 /// keeps it and the others get their own.

@@ -16,7 +16,7 @@ struct NoObserver {
   void Added(std::size_t, std::size_t, Extended) {}
 };
 
-// What rounding leaves in front of the pivots, where elements are zero by construction.
+// What rounding leaves in front of the pivots, where elements count as zero.
 //
 // A row's residue is added to other rows along with the row and may grow by the size of the pivot
 // each time. Up to the tolerance it stays. Beyond, it would end up in the rank and in the inverse,
