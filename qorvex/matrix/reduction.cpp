@@ -42,7 +42,7 @@ void SeparateRows(TQorMatrix<T>& matrix) {
 
 // Calls reduce with the rows of the matrix in the form that suits them.
 template <FloatElement T, class Reduce>
-decltype(auto) WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
+auto WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
   SeparateRows(matrix);
   if constexpr (std::same_as<T, Extended>) {
     if (matrix.size() >= kLeastDeferredRows) return reduce(detail::DeferredRows(matrix, cols));
@@ -66,8 +66,8 @@ class InverseObserver {
 };
 
 // Clears what is above the ones of the main diagonal, with the same steps on the inverse.
-template <class Rows, class InverseRows>
-void SubstituteBack(Rows& rows, std::size_t order, InverseRows& inverse_rows) {
+template <class Rows>
+void SubstituteBack(Rows& rows, std::size_t order, Rows& inverse_rows) {
   for (std::size_t col = order - 1; col > 0; --col) {
     for (std::size_t row = col; row-- > 0;) {
       const Extended element = rows.At(row, col);
@@ -105,12 +105,8 @@ void RowEchelonForm(TQorMatrix<T>& matrix) {
 template <FloatElement T>
 void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank) {
   rank = 0;
-  const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
-  const detail::RectangularCheckPause pause;
-  WithRows(matrix, shape.cols, [&](auto rows) {
-    detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
-  });
-  rank = shape.rows - MatrixZeroRows(matrix);
+  RowEchelonForm(matrix);
+  rank = MatrixRows(matrix) - MatrixZeroRows(matrix);
 }
 
 template <FloatElement T>
@@ -119,14 +115,13 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
-  const bool regular = WithRows(matrix, order, [&](auto rows) {
-    return WithRows(result, order, [&](auto result_rows) {
-      detail::Eliminate(rows, order, order, InverseObserver(result_rows));
-      result_rows.Settle();
-      if (MatrixZeroRows(matrix) != 0) return false;
-      SubstituteBack(rows, order, result_rows);
-      return true;
-    });
+  const bool regular = WithRows(matrix, order, [&]<class Rows>(Rows rows) {
+    Rows result_rows(result, order);
+    detail::Eliminate(rows, order, order, InverseObserver(result_rows));
+    result_rows.Settle();
+    if (MatrixZeroRows(matrix) != 0) return false;
+    SubstituteBack(rows, order, result_rows);
+    return true;
   });
   inverse = std::move(result);
   return regular;

@@ -46,7 +46,7 @@ QORVEX_EXPORT void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank
 
 /// Sets inverse to the inverse matrix and returns true, leaving in matrix the identity but for
 /// rounding. Returns false for a singular matrix, which is left in row echelon form; inverse is
-/// then a matrix that means nothing. Both may be the same variable, which then holds the inverse.
+/// then a matrix that means nothing. Both may be the same variable, which holds what inverse would.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse);
 

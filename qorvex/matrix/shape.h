@@ -17,9 +17,9 @@ namespace qorvex::inline QorvexMatrix {
 
 /// Whether MatrixDimensions, and through it every matrix routine, compares the lengths of all rows.
 /// Initially true; a program may turn it off for speed when it knows that its matrices are
-/// rectangular. The row reductions clear it while they run, for all threads, and restore it. A
-/// ragged matrix stays safe with the switch off: a routine that would read beyond the end of a row
-/// raises EMathError with rsMatrixRect.
+/// rectangular. The row reductions clear it while they run, for all threads, and restore what it
+/// was before, whatever a program sets meanwhile. A ragged matrix stays safe with the switch off: a
+/// routine that would read beyond the end of a row raises EMathError with rsMatrixRect.
 extern QORVEX_EXPORT std::atomic<bool> QorMatrixRectangularCheck;
 
 /// The number of rows. O(1).

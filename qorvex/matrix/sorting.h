@@ -25,9 +25,10 @@ namespace qorvex::inline QorvexMatrix {
 /// shape switch off, a row is shorter than the first. A raise, or lack of memory, leaves the matrix
 /// as it is.
 ///
-/// The cost of sorting n keys as QSortVector does, with 36 bytes of memory a key, and O(elements)
-/// moves: rows follow the cycles of the permutation through one scratch row (Knuth 1998, "The Art
-/// of Computer Programming", volume 3, 5.2). For all numeric elements.
+/// The keys are sorted as by QSortVector, in O(n log n) or better and with 36 bytes of memory a key
+/// and a row for scratch; then the elements are moved once, O(elements): rows follow the cycles of
+/// the permutation through one scratch row (Knuth 1998, "The Art of Computer Programming", volume
+/// 3, 5.2). For all numeric elements.
 template <NumericElement T>
 QORVEX_EXPORT void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascending);
 template <NumericElement T>

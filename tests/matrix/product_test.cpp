@@ -3,6 +3,7 @@
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/shape.h"
 #include "support/random_matrices.h"
+#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -63,7 +64,7 @@ TEST(ProductOfFloats, ShapesAreCheckedInOrder) {
   EXPECT_MATH_ERROR(MultiplyMatrices(zeros(0, 0), zeros(2, 2)), rsMatrixRect);
   EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 2), ragged), rsMatrixRect);
   EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 3), zeros(2, 3)), rsMatrixMult);
-  QorMatrixRectangularCheck = false;
+  const testing::RectangularCheckOff off;
   EXPECT_MATH_ERROR(MultiplyMatrices(zeros(0, 0), zeros(2, 2)), rsMatrixIsEmpty);
   EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 2), zeros(0, 0)), rsMatrixIsEmpty);
   EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 0), zeros(1, 2)), rsMatrixMult);
@@ -71,7 +72,6 @@ TEST(ProductOfFloats, ShapesAreCheckedInOrder) {
   EXPECT_MATH_ERROR(MultiplyMatrices(ragged, zeros(2, 2)), rsMatrixRect);
   EXPECT_MATH_ERROR(MultiplyMatrices(ragged, zeros(3, 2)), rsMatrixMult);
   EXPECT_EQ(MultiplyMatrices(zeros(2, 3), zeros(3, 0)), zeros(2, 0));
-  QorMatrixRectangularCheck = true;
 }
 
 }  // namespace qorvex

@@ -7,7 +7,9 @@
 #include "matrix/plain_reduction.h"
 #include "qorvex/base/comparisons.h"
 #include "qorvex/matrix/QorvexMatrix.h"
+#include "support/failing_allocation.h"
 #include "support/random_matrices.h"
+#include "support/rectangular_check_off.h"
 #include "support/table.h"
 #include "support/test.h"
 
@@ -234,7 +236,7 @@ TEST(Reduction, RefusesWhatHasNoShapeAndRestoresTheSwitch) {
   EXPECT_TRUE(QorMatrixRectangularCheck);
 
   // With the switch off a short row is still not read beyond its end.
-  QorMatrixRectangularCheck = false;
+  const testing::RectangularCheckOff off;
   EXPECT_MATH_ERROR(RowEchelonForm(ragged), rsMatrixRect);
   EXPECT_MATH_ERROR(RowEchelonFormRank(ragged, rank), rsMatrixRect);
   EXPECT_MATH_ERROR(MatrixInverse(ragged, inverse), rsMatrixRect);
@@ -242,7 +244,18 @@ TEST(Reduction, RefusesWhatHasNoShapeAndRestoresTheSwitch) {
   EXPECT_EQ(ragged, (TQorFloatMatrix{{1, 2}, {3}}));
   RowEchelonForm(wide);
   EXPECT_FALSE(QorMatrixRectangularCheck);
-  QorMatrixRectangularCheck = true;
+}
+
+TEST(Reduction, LackOfMemoryChangesNoElement) {
+  Engine engine(5);
+  const auto given = testing::RandomMatrix<Extended>(engine, 13, 13);
+  auto matrix = CopyMatrix(given);
+  matrix[4] = matrix[2];
+  const auto before = CopyMatrix(matrix);
+  TQorFloatMatrix inverse{{7}};
+  testing::ExpectFailuresChangeNothing(
+      [&] { static_cast<void>(MatrixInverse(matrix, inverse)); },
+      [&] { return matrix == before && inverse[0][0] == 7 && QorMatrixRectangularCheck; });
 }
 
 TEST(Reduction, SwitchesTheCheckOffAndRestoresItAlsoWhenThreadsReduceTogether) {

@@ -1,7 +1,7 @@
 #include "qorvex/matrix/row_operations.h"
 
-#include "qorvex/matrix/shape.h"
 #include "support/random_matrices.h"
+#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -84,7 +84,7 @@ TEST(RowOperations, ChecksComeInOrderAndTheFactorOneBeforeThem) {
 }
 
 TEST(RowOperations, WithoutTheShapeSwitchOnlyRowsInReachCount) {
-  QorMatrixRectangularCheck = false;
+  const testing::RectangularCheckOff off;
   TQorFloatMatrix ragged{{1, 2}, {3, 4}, {5}};
   AddMatrixRows(ragged, 0, 1, 1);
   EXPECT_EQ(ragged[0], (TQorFloatVector{4, 6}));
@@ -94,7 +94,6 @@ TEST(RowOperations, WithoutTheShapeSwitchOnlyRowsInReachCount) {
   EXPECT_MATH_ERROR(SwapMatrixCols(ragged, 0, 1), rsMatrixRect);
   EXPECT_MATH_ERROR(ScaleMatrixCol(ragged, 0, 2), rsMatrixRect);
   EXPECT_EQ(ragged, (TQorFloatMatrix{{4, 6}, {3, 4}, {5}}));
-  QorMatrixRectangularCheck = true;
 }
 
 }  // namespace qorvex

@@ -56,15 +56,16 @@ TEST(Shape, SquareAndSameDimensionsNeedARectangle) {
   EXPECT_TRUE(MatricesSameDimensions(wide, TQorLIntMatrix{{0, 0, 0}, {0, 0, 0}}));
   EXPECT_FALSE(MatricesSameDimensions(square, wide));
   EXPECT_FALSE(MatricesSameDimensions(square, TQorLIntMatrix{{1, 2}}));
-  for (const bool off : {false, true}) {
-    QorMatrixRectangularCheck = !off;
-    EXPECT_EQ(MatrixIsSquare(ragged), off);
-    EXPECT_EQ(MatricesSameDimensions(ragged, square), off);
-    EXPECT_EQ(MatricesSameDimensions(square, ragged), off);
-    EXPECT_EQ(MatrixIsSquare(empty), off);
-    EXPECT_EQ(MatricesSameDimensions(empty, empty), off);
-  }
-  QorMatrixRectangularCheck = true;
+  const auto expect_shapes = [&](bool rectangular) {
+    EXPECT_EQ(MatrixIsSquare(ragged), rectangular);
+    EXPECT_EQ(MatricesSameDimensions(ragged, square), rectangular);
+    EXPECT_EQ(MatricesSameDimensions(square, ragged), rectangular);
+    EXPECT_EQ(MatrixIsSquare(empty), rectangular);
+    EXPECT_EQ(MatricesSameDimensions(empty, empty), rectangular);
+  };
+  expect_shapes(false);
+  const RectangularCheckOff off;
+  expect_shapes(true);
 }
 
 TEST(MatrixBuilding, EveryTypeIsCreated) {

@@ -1,22 +1,29 @@
 #pragma once
 
-/// @file
-/// Replaces operator new[], so that an allocation of working memory fails on demand. For one source
-/// file of a program.
-
+#include <gtest/gtest.h>
 #include <new>
 
-/// So many more allocations succeed; all of them while it is negative.
-static int array_allocations_left = -1;
+namespace qorvex::testing {
 
-void* operator new[](std::size_t size) {
-  if (array_allocations_left == 0) throw std::bad_alloc();
-  if (array_allocations_left > 0) --array_allocations_left;
-  return operator new(size);
+/// So many more allocations by operator new succeed, the next one fails, and all after it succeed
+/// again; none fails while it is negative. Programs that link failing_allocation.cpp.
+extern int allocations_left;
+
+/// Calls work with its first allocation failing, then with its second, and so on until none fails.
+/// Each failure must raise std::bad_alloc and leave unchanged() true. Expects at least one.
+template <class Work, class Unchanged>
+void ExpectFailuresChangeNothing(Work work, Unchanged unchanged) {
+  for (int allocation = 0;; ++allocation) {
+    try {
+      allocations_left = allocation;
+      work();
+      allocations_left = -1;
+      EXPECT_GT(allocation, 0);
+      return;
+    } catch (const std::bad_alloc&) {
+      EXPECT_TRUE(unchanged()) << "allocation " << allocation;
+    }
+  }
 }
-void operator delete[](void* memory) noexcept {
-  operator delete(memory);
-}
-void operator delete[](void* memory, std::size_t) noexcept {
-  operator delete(memory);
-}
+
+}  // namespace qorvex::testing

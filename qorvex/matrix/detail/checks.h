@@ -58,6 +58,7 @@ inline void RequireElements(const Shape& shape) {
   if (shape.Empty()) RaiseMathError(rsMatrixIsEmpty);
 }
 
+// Routines that ask for elements first never raise this: a ragged matrix has no columns.
 inline void RequireRectangular(const Shape& shape) {
   if (!shape.rectangular) RaiseMathError(rsMatrixRect);
 }

@@ -1,0 +1,51 @@
+#include "support/failing_allocation.h"
+
+#include <cstddef>
+#include <cstdlib>
+
+namespace qorvex::testing {
+
+int allocations_left = -1;
+
+}  // namespace qorvex::testing
+
+namespace {
+
+void* Allocate(std::size_t size, std::size_t alignment) {
+  using qorvex::testing::allocations_left;
+  if (allocations_left >= 0 && allocations_left-- == 0) throw std::bad_alloc();
+  const std::size_t whole = (size + alignment - 1) / alignment * alignment;
+  void* const memory = std::aligned_alloc(alignment, whole);
+  if (memory == nullptr) throw std::bad_alloc();
+  return memory;
+}
+
+}  // namespace
+
+void* operator new(std::size_t size) {
+  return Allocate(size, alignof(std::max_align_t));
+}
+void* operator new(std::size_t size, std::align_val_t alignment) {
+  return Allocate(size, static_cast<std::size_t>(alignment));
+}
+void* operator new[](std::size_t size) {
+  return operator new(size);
+}
+void operator delete(void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::align_val_t) noexcept {
+  std::free(memory);
+}
+void operator delete(void* memory, std::size_t, std::align_val_t) noexcept {
+  std::free(memory);
+}
+void operator delete[](void* memory) noexcept {
+  std::free(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+  std::free(memory);
+}
