@@ -76,7 +76,7 @@ class Loops {
 template <FloatElement T>
 void RegisterType() {
   using Matrix = TQorMatrix<T>;
-  const auto orders = {50UL, 100UL, 200UL, 400UL};
+  const auto orders = {5UL, 12UL, 50UL, 100UL, 200UL, 400UL};
   CompareMatrices<T>("MatrixInverse", "ours", orders, 3, OurMatrix<T>, [](const Matrix& m) {
     auto copy = CopyMatrix(m);
     Matrix inverse;
@@ -94,7 +94,7 @@ void RegisterType() {
 }
 
 void RegisterPeers() {
-  const auto orders = {50UL, 100UL, 200UL, 400UL};
+  const auto orders = {5UL, 12UL, 50UL, 100UL, 200UL, 400UL};
   CompareMatrices<Extended>(
       "MatrixInverse", "Eigen", orders, 3, EigenMatrix<Extended>,
       [](const EigenSquare<Extended>& m) -> EigenSquare<Extended> { return m.inverse(); });

@@ -1,6 +1,7 @@
 #pragma once
 
-// The elementary operations on rows, as loops over their elements.
+// The elementary operations on rows, as loops over their elements. They count by pointer: by index
+// GCC 12 keeps a second counter, which the floating-point unit waits for.
 
 #include <algorithm>
 #include <cstddef>
@@ -18,14 +19,17 @@ void SwapElements(T* a, T* b, std::size_t count) noexcept {
 
 template <class T>
 void ScaleElements(T* row, std::size_t count, FactorOf<T> factor) noexcept {
-  for (std::size_t i = 0; i < count; ++i) row[i] = QorvexVector::detail::Product(row[i], factor);
+  for (T* const end = row + count; row != end; ++row) {
+    *row = QorvexVector::detail::Product(*row, factor);
+  }
 }
 
 // The source may be the target.
 template <class T>
 void AddElements(T* target, const T* source, std::size_t count, FactorOf<T> factor) noexcept {
-  for (std::size_t i = 0; i < count; ++i)
-    target[i] = QorvexVector::detail::ProductPlus(source[i], factor, target[i]);
+  for (const T* const end = source + count; source != end; ++source, ++target) {
+    *target = QorvexVector::detail::ProductPlus(*source, factor, *target);
+  }
 }
 
 }  // namespace qorvex::inline QorvexMatrix::detail
