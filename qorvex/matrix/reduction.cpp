@@ -19,7 +19,7 @@ namespace qorvex::inline QorvexMatrix {
 namespace {
 
 // From this many rows on, additions that wait for one another save more than keeping them costs.
-constexpr std::size_t kLeastDeferredRows = 12;
+constexpr std::size_t kLeastDeferredRows = 14;
 
 // Gives rows that share a buffer with an earlier row of the matrix one of their own: reduced rows
 // differ.

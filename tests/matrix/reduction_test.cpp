@@ -85,8 +85,8 @@ TYPED_TEST(ReductionOf, AgreesInEveryBitWithThePlainLoops) {
       {"far away", far_away}, {"special", special},
   };
   const std::pair<std::size_t, std::size_t> shapes[] = {{1, 1},  {1, 7},   {7, 1},   {2, 2},
-                                                        {3, 5},  {5, 3},   {4, 4},   {13, 13},
-                                                        {20, 6}, {17, 17}, {12, 30}, {31, 31}};
+                                                        {3, 5},  {5, 3},   {4, 4},   {15, 15},
+                                                        {20, 6}, {17, 17}, {14, 30}, {31, 31}};
   for (const auto& [name, making] : makings) {
     int agreeing = 0;
     for (const auto& [rows, cols] : shapes) {
@@ -149,7 +149,7 @@ TYPED_TEST(ReductionOf, ResidueSpoilsNeitherRankNorInverse) {
     }
     EXPECT_LT(error, 3e3L * std::numeric_limits<T>::epsilon()) << order;
   };
-  for (const std::size_t order : {8U, 12U, 33U, 60U}) check(order, 1);
+  for (const std::size_t order : {8U, 15U, 33U, 60U}) check(order, 1);
   check(100, T(0.001L));
 }
 
@@ -248,7 +248,7 @@ TEST(Reduction, RefusesWhatHasNoShapeAndRestoresTheSwitch) {
 
 TEST(Reduction, LackOfMemoryChangesNoElement) {
   Engine engine(5);
-  const auto given = testing::RandomMatrix<Extended>(engine, 13, 13);
+  const auto given = testing::RandomMatrix<Extended>(engine, 14, 14);
   auto matrix = CopyMatrix(given);
   matrix[4] = matrix[2];
   const auto before = CopyMatrix(matrix);
