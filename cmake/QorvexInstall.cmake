@@ -50,11 +50,11 @@ endfunction()
 qorvex_install(base
   DESCRIPTION "Element types, arrays, text and special functions in 80-bit extended precision")
 qorvex_install(numerics
-  DESCRIPTION "Numerics and statistics in 80-bit extended precision"
+  DESCRIPTION "Vectors, matrices and statistics with 64 bits of mantissa"
   REQUIRES "qorvex-base = ${PROJECT_VERSION}")
 if(TARGET Qorvex::stats_rt)
   qorvex_install(stats_rt
-    DESCRIPTION "Numerics and statistics in 80-bit extended precision as Qt 6 components"
+    DESCRIPTION "Vectors, matrices and statistics with 64 bits of mantissa as Qt 6 components"
     REQUIRES "qorvex-numerics = ${PROJECT_VERSION}" "Qt6Core >= ${QORVEX_QT_VERSION}")
 endif()
 

@@ -160,8 +160,8 @@ class DynArray {
   /// @}
 
   /// Sets the length. A shared buffer is left to its other handles and this one gets its own with
-  /// the common leading elements; new elements are zero. Length 0 releases the handle's share. On
-  /// std::bad_alloc the array is unchanged.
+  /// copies of the elements that both lengths have; those that are new are zero. Length 0 releases
+  /// the handle's share. On std::bad_alloc the array is unchanged.
   void SetLength(size_type length) {
     if (length == 0) {
       Drop(std::exchange(header_, nullptr));

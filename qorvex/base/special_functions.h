@@ -26,7 +26,7 @@ namespace qorvex::inline QorvexGlobals {
 /// positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended Beta(Extended a, Extended b);
 
-/// The regularised incomplete beta function I(x; a, b), point first. EInvalidOp unless 0 <= x <= 1
+/// The incomplete beta function, regularised: I(x; a, b), point first. EInvalidOp unless 0 <= x <= 1
 /// and a and b are positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteBeta(Extended x, Extended a, Extended b);
 

@@ -107,9 +107,9 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   /// @}
 
   /// @{
-  /// The values rounded to the nearest integer, ties to even. What the type cannot hold, NaN
-  /// included, becomes its smallest integer. Setting converts each integer, without loss, to a
-  /// value.
+  /// The values as the nearest integers, even ones where two are as near. What the type cannot
+  /// hold, NaN included, becomes its smallest integer. Setting converts each integer, without loss,
+  /// to a value.
   [[nodiscard]] TQorLIntVector LIntValues() const;
   void setLIntValues(const TQorLIntVector& values);
   [[nodiscard]] TQorLWordVector LWordValues() const;

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Sums, sums of squares and of squared differences, and the magnitude of vectors.
+/// Sums of elements, of their squares and of squared differences, and magnitudes.
 ///
 /// Floating elements are summed in extended precision, in ascending order of their index: the order
 /// is part of the result. NaN gives NaN, infinities what the processor makes of them. Integer
@@ -25,8 +25,8 @@ template <NumericElement T>
 /// The sum of the squares. An empty vector raises EMathError with rsVectorIsEmpty. For all numeric
 /// elements.
 ///
-/// Each integer square keeps only the low bits of its narrow width before it is added to the int64
-/// sum:
+/// Each integer square keeps only the low bits of its narrow width and is then added in
+/// int64:
 ///
 /// | element      | square                                                                     |
 /// |--------------|----------------------------------------------------------------------------|
@@ -71,7 +71,7 @@ template <WideIntegerElement T, std::floating_point Mean>
   return detail::SumSqDiffFromExtended(vector, static_cast<Extended>(mean));
 }
 
-/// The sum of (a[i] - b[i]) squared: extended for floating elements; int64 for integers, whose
+/// The squares of a[i] - b[i], summed: extended for floating elements; int64 for integers, whose
 /// 64-bit difference is squared in its low 32 bits as a signed product, also for uint32.
 /// EMathError: rsSameDimensions for different lengths, then rsVectorIsEmpty. For the six elements
 /// of at least 32 bits.
