@@ -20,41 +20,37 @@ TEST(Median, TakesTheVectorAsItStands) {
   EXPECT_MATH_ERROR(GetMedian(TQorDoubleVector()), rsVectorIsEmpty);
 }
 
-std::pair<bool, Extended> Mode(const TQorFloatVector& v) {
-  Extended mode = 0;
-  const bool exists = GetMode(v, mode);
-  return {exists, mode};
-}
-
+// What the mode and the list of the most frequent values make of the same runs.
 TEST(Mode, IsTheLongestRunUnlessTied) {
-  using Result = std::pair<bool, Extended>;
   constexpr Extended none = -1.1E4932L;
-  EXPECT_EQ(Mode({5}), Result(true, 5));
-  EXPECT_EQ(Mode({1, 2, 3}), Result(false, none));
-  EXPECT_EQ(Mode({1, 1, 2, 2}), Result(false, 1));
-  EXPECT_EQ(Mode({1, 2, 2}), Result(true, 2));
-  EXPECT_EQ(Mode({1, 1, 2}), Result(true, 1));
-  EXPECT_EQ(Mode({1, 1, 2, 2, 3, 3, 3}), Result(true, 3));
-  EXPECT_EQ(Mode({1, 1, 1, 2, 2, 3, 3, 3}), Result(false, 1));
-  EXPECT_EQ(Mode({4, 4}), Result(true, 4));
-  EXPECT_EQ(Mode({1, 1 + 0.5e-15L, 3}), Result(true, 1 + 0.5e-15L))
-      << "neighbours within the tolerance are one run";
+  constexpr Extended near = 0.5e-15L;
+  const struct {
+    TQorFloatVector values;
+    bool exists;
+    Extended mode;
+    TQorFloatVector most_frequent;
+  } cases[] = {
+      {{5}, true, 5, {5}},
+      {{4, 4}, true, 4, {4}},
+      {{1, 2, 3}, false, none, {}},
+      {{1, 1, 2}, true, 1, {1}},
+      {{1, 2, 2}, true, 2, {2}},
+      {{1, 1, 2, 2, 3}, false, 1, {1, 2}},
+      {{1, 1, 2, 2, 3, 3, 3}, true, 3, {3}},
+      {{1, 1, 1, 2, 2, 3, 3, 3}, false, 1, {1, 3}},
+      // Neighbours within the tolerance are one run, known by its last element, unless it is all.
+      {{1, 1 + near, 3}, true, 1 + near, {1 + near}},
+      {{5, 5 + 2 * near, 5 + 4 * near}, true, 5 + 4 * near, {5}},
+  };
   Extended mode = 42;
   EXPECT_MATH_ERROR(GetMode({}, mode), rsVectorIsEmpty);
   EXPECT_EQ(mode, 42);
-}
-
-TEST(MostFrequent, ListsEveryLongestRun) {
-  EXPECT_EQ(GetMostFrequent({1, 1, 2, 2, 3}), (TQorFloatVector{1, 2}));
-  EXPECT_EQ(GetMostFrequent({1, 2, 2}), (TQorFloatVector{2}));
-  EXPECT_EQ(GetMostFrequent({1, 1, 2, 2, 2, 3, 3, 3}), (TQorFloatVector{2, 3}));
-  EXPECT_TRUE(GetMostFrequent({1, 2, 3}).empty());
-  EXPECT_EQ(GetMostFrequent({5}), (TQorFloatVector{5}));
-  EXPECT_EQ(GetMostFrequent({5, 5 + 1e-15L, 5 + 2e-15L}), (TQorFloatVector{5}))
-      << "the first of an all-equal vector";
-  EXPECT_EQ(GetMostFrequent({1, 5, 5 + 1e-15L}), (TQorFloatVector{5 + 1e-15L}))
-      << "the last of a run";
   EXPECT_MATH_ERROR(GetMostFrequent({}), rsVectorIsEmpty);
+  for (const auto& [values, exists, expected_mode, most_frequent] : cases) {
+    EXPECT_EQ(GetMode(values, mode), exists) << ::testing::PrintToString(values);
+    EXPECT_EQ(mode, expected_mode) << ::testing::PrintToString(values);
+    EXPECT_EQ(GetMostFrequent(values), most_frequent);
+  }
 }
 
 TEST(Quartiles, InterpolateBetweenElements) {
@@ -106,36 +102,28 @@ TEST(TrimmedMeans, CutPerTailOrInTotal) {
   EXPECT_EQ(TrimmedMean(ten, 0.15L), 44 / 8.0L) << "one from each end";
   EXPECT_EQ(ExcelTrimmedMean(ten, 0.15L), 144 / 10.0L) << "half of one is none";
   EXPECT_EQ(ExcelTrimmedMean(ten, 0.2L), 44 / 8.0L);
-  EXPECT_EQ(TrimmedMean(ten, 0), 14.4L);
   EXPECT_EQ(TrimmedMean(ten, -1e-16L), 14.4L) << "zero within the tolerance";
   EXPECT_EQ(TrimmedMean(ten, 0.5L), 5.5L);
   EXPECT_EQ(ExcelTrimmedMean(ten, 1), 5.5L);
   EXPECT_EQ(TrimmedMean(TQorLIntVector{1, 2, 30}, 0.4L), 2);
   EXPECT_EQ(TrimmedMean(TQorLWordVector{4294967295, 4294967295}, 0.1L), 4294967295.0L);
   EXPECT_EQ(TrimmedMean(TQorFloatVector{8}, 0.3L), 8);
-  EXPECT_MATH_ERROR(TrimmedMean(TQorFloatVector{8}, 0.6L), rsInvalidValue);
   const std::int64_t huge = std::int64_t{1} << 62;
   EXPECT_EQ(TrimmedMean(TQorInt64Vector{huge, huge, huge, huge}, 0.25L), 0x1p62L) << "no wrapping";
-}
-
-TEST(TrimmedMeans, TakeTheFractionAsItIsStored) {
-  TQorFloatVector twenty;
-  for (int i = 0; i < 20; ++i) twenty.Append(i * i);
-  Extended trimmed = 0;
-  for (int i = 3; i < 17; ++i) trimmed += i * i;
-  EXPECT_EQ(TrimmedMean(twenty, 0.15L), trimmed / 14);
-  EXPECT_EQ(TrimmedMean(twenty, 0.15), (trimmed + 4 + 17 * 17) / 16)
-      << "the double lies below the decimal";
+  const TQorFloatVector skewed{0, 1, 2, 3, 4, 5, 6, 70, 80, 90};
+  EXPECT_EQ(TrimmedMean(skewed, 0.3L), 18 / 4.0L);
+  EXPECT_EQ(TrimmedMean(skewed, 0.3), 90 / 6.0L) << "the double lies below the decimal";
 }
 
 TEST(TrimmedMeans, CheckTheFractionBeforeTheVector) {
   const TQorFloatVector empty;
-  for (const Extended fraction : {-0.1L, 0.6L, kNaN})
+  for (const Extended fraction : {-0.1L, 1.1L, kNaN}) {
     EXPECT_MATH_ERROR(TrimmedMean(empty, fraction), rsInvalidValue);
-  for (const Extended fraction : {-0.1L, 1.1L, kNaN})
     EXPECT_MATH_ERROR(ExcelTrimmedMean(empty, fraction), rsInvalidValue);
-  EXPECT_MATH_ERROR(TrimmedMean(empty, 0.1L), rsVectorIsEmpty);
-  EXPECT_MATH_ERROR(TrimmedMean(empty, 0), rsVectorIsEmpty);
+  }
+  EXPECT_MATH_ERROR(TrimmedMean(empty, 0.6L), rsInvalidValue);
+  for (const Extended fraction : {0.0L, 0.1L, 0.5L})
+    EXPECT_MATH_ERROR(TrimmedMean(empty, fraction), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(ExcelTrimmedMean(empty, 1), rsVectorIsEmpty);
 }
 
