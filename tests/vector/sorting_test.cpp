@@ -28,9 +28,8 @@ TYPED_TEST(Sorting, OrdersRandomVectorsOfEveryLengthBothWays) {
   Engine engine(42);
   for (std::size_t n = 0; n < 60; ++n)
     ExpectSortsLikeTheLibrary(RandomVector<TypeParam>(engine, n));
-  for (const std::size_t n : {399U, 400U, 401U, 2000U, 70'000U}) {
+  for (const std::size_t n : {399U, 400U, 401U, 2000U, 70'000U})
     ExpectSortsLikeTheLibrary(RandomVector<TypeParam>(engine, n));
-  }
 }
 
 // Inputs that defeat the radix digits or a naive pivot: keys that differ in their lowest bits only,
@@ -77,26 +76,18 @@ TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
 
 TEST(SortingFloats, NaNIsLastBothWaysAndTheRestIsOrderedBitForBit) {
   constexpr Extended subnormal = std::numeric_limits<Extended>::denorm_min();
-  const TQorFloatVector source{kNaN,       1,     -kNaN,     kInfinity, 0.0L,
-                               -kInfinity, -0.0L, subnormal, -subnormal};
+  TQorFloatVector v{kNaN, 1, -kNaN, kInfinity, 0.0L, -kInfinity, -0.0L, subnormal, -subnormal};
+  const TQorFloatVector shared = v;
+  TQorFloatVector expected{-kInfinity, -subnormal, -0.0L, 0.0L, subnormal, 1, kInfinity};
   for (const bool ascending : {true, false}) {
-    TQorFloatVector v = CopyVector(source);
     QSortVector(v, ascending);
-    TQorFloatVector expected{-kInfinity, -subnormal, -0.0L, 0.0L, subnormal, 1, kInfinity};
-    if (!ascending) expected = ReverseVector(expected);
     for (std::size_t i = 0; i < expected.size(); ++i) {
-      EXPECT_EQ(v[i], expected[i]);
-      EXPECT_EQ(std::signbit(v[i]), std::signbit(expected[i])) << i;
+      EXPECT_EQ(shared[i], expected[i]);
+      EXPECT_EQ(std::signbit(shared[i]), std::signbit(expected[i])) << i;
     }
-    EXPECT_TRUE(std::isnan(v[7]) && std::isnan(v[8]));
+    EXPECT_TRUE(std::isnan(shared[7]) && std::isnan(shared[8]));
+    expected = ReverseVector(expected);
   }
-}
-
-TEST(SortingFloats, SortsThroughEveryHandle) {
-  TQorFloatVector a{3, 1, 2};
-  const TQorFloatVector b = a;
-  QSortVector(a, true);
-  EXPECT_EQ(b, (TQorFloatVector{1, 2, 3}));
 }
 
 }  // namespace qorvex

@@ -9,39 +9,29 @@
 
 namespace qorvex {
 
+// The vector after a routine has worked on it.
+template <class T>
+TQorVector<T> After(void (*routine)(TQorVector<T>&), TQorVector<T> v) {
+  const TQorVector<T> shared = v;
+  routine(v);
+  return shared;
+}
+
 TEST(Transforms, SquaresKeepTheWidthOfEachElementType) {
-  TQorSingleVector singles{0.1F};
-  SquareVector(singles);
-  EXPECT_EQ(singles[0], static_cast<float>(static_cast<Extended>(0.1F) * 0.1F));
-  TQorLIntVector ints{65536, -3, 50000};
-  const TQorLIntVector shared = ints;
-  SquareVector(ints);
-  EXPECT_EQ(shared,
-            (TQorLIntVector{0, 9, static_cast<std::int32_t>(2'500'000'000 - 4'294'967'296)}));
-  TQorLWordVector words{50000};
-  SquareVector(words);
-  EXPECT_EQ(words, (TQorLWordVector{2'500'000'000}));
-  TQorInt64Vector longs{(1LL << 32) + 5, 50000};
-  SquareVector(longs);
-  EXPECT_EQ(longs, (TQorInt64Vector{25, 2'500'000'000 - 4'294'967'296}));
+  constexpr std::int32_t wrapped = static_cast<std::int32_t>(2'500'000'000 - 4'294'967'296);
+  EXPECT_EQ(After<std::int32_t>(SquareVector, {65536, -3, 50000}), (TQorLIntVector{0, 9, wrapped}));
+  EXPECT_EQ(After<std::uint32_t>(SquareVector, {50000}), (TQorLWordVector{2'500'000'000}));
+  EXPECT_EQ(After<std::int64_t>(SquareVector, {(1LL << 32) + 5, 50000}),
+            (TQorInt64Vector{25, wrapped}));
 }
 
 TEST(Transforms, ComputeInExtendedPrecision) {
-  TQorFloatVector v{4, 2};
-  SqrtVector(v);
-  EXPECT_EQ(v, (TQorFloatVector{2, std::sqrt(2.0L)}));
-  TQorDoubleVector inverse{3};
-  InvVector(inverse);
-  EXPECT_EQ(inverse[0], static_cast<double>(1 / 3.0L));
-  TQorFloatVector e{std::exp(1.0L), 100, 8};
-  TQorFloatVector ten{e[1]};
-  TQorFloatVector two{e[2]};
-  LnVector(e);
-  EXPECT_EQ(e[0], 1);
-  Log10Vector(ten);
-  Log2Vector(two);
-  EXPECT_EQ(ten[0], 2);
-  EXPECT_EQ(two[0], 3);
+  EXPECT_EQ(After<float>(SquareVector, {0.1F})[0], static_cast<float>(0.1F * 1.0L * 0.1F));
+  EXPECT_EQ(After<Extended>(SqrtVector, {4, 2}), (TQorFloatVector{2, std::sqrt(2.0L)}));
+  EXPECT_EQ(After<double>(InvVector, {3}), (TQorDoubleVector{static_cast<double>(1 / 3.0L)}));
+  EXPECT_EQ(After<Extended>(LnVector, {std::exp(1.0L)}), (TQorFloatVector{1}));
+  EXPECT_EQ(After<Extended>(Log10Vector, {100}), (TQorFloatVector{2}));
+  EXPECT_EQ(After<Extended>(Log2Vector, {8}), (TQorFloatVector{3}));
 }
 
 TEST(Transforms, GuardsRaiseBeforeAnythingChanges) {
@@ -51,15 +41,10 @@ TEST(Transforms, GuardsRaiseBeforeAnythingChanges) {
   EXPECT_MATH_ERROR(Log10Vector(v), rsVectorNotPos);
   EXPECT_MATH_ERROR(Log2Vector(v), rsVectorNotPos);
   EXPECT_EQ(v, (TQorFloatVector{4, -1}));
-  TQorFloatVector nearly_zero{1, 1e-16L};
-  EXPECT_MATH_ERROR(InvVector(nearly_zero), rsVectorZero);
-  TQorSingleVector tiny{1e-30F};
-  InvVector(tiny);
-  EXPECT_EQ(tiny[0], static_cast<float>(1 / static_cast<Extended>(1e-30F)));
-  TQorFloatVector slightly_negative{-1e-16L, 9};
-  SqrtVector(slightly_negative);
-  EXPECT_TRUE(std::isnan(slightly_negative[0]));
-  EXPECT_EQ(slightly_negative[1], 3);
+  EXPECT_MATH_ERROR(After<Extended>(InvVector, {1, 1e-16L}), rsVectorZero);
+  EXPECT_EQ(After<float>(InvVector, {1e-30F})[0], static_cast<float>(1.0L / 1e-30F));
+  const TQorFloatVector roots = After<Extended>(SqrtVector, {-1e-16L, 9});
+  EXPECT_TRUE(std::isnan(roots[0]) && roots[1] == 3) << "negative within the tolerance";
 
   TQorDoubleVector empty;
   for (void (*routine)(TQorDoubleVector&) :
@@ -83,9 +68,8 @@ TEST(Transforms, LinearAndCallerSupplied) {
   EXPECT_EQ(doubles[0], 1) << "rounded to 80 bits first";
 
   TQorFloatVector v{1, 2, -3, 4};
-  const auto negate_positive = [](Extended x) -> Extended {
-    if (x < 0) throw std::domain_error("negative");
-    return -x;
+  const auto negate_positive = [](Extended x) {
+    return x < 0 ? throw std::domain_error("negative") : -x;
   };
   EXPECT_THROW(TransformVector(v, negate_positive), std::domain_error);
   EXPECT_EQ(v, (TQorFloatVector{-1, -2, -3, 4})) << "the earlier elements are already replaced";
