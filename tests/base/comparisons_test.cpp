@@ -1,17 +1,13 @@
 #include "qorvex/base/comparisons.h"
 
 #include "qorvex/base/elementary.h"
+#include "support/kept_tolerance.h"
 #include "support/test.h"
 
 namespace qorvex {
 
-class Tolerance : public ::testing::Test {
- protected:
-  ~Tolerance() override { QorTolerance = initial_; }
-  const Extended initial_ = QorTolerance;
-};
-
-TEST_F(Tolerance, ZeroAndSignTestsAreAbsolute) {
+TEST(Tolerance, ZeroAndSignTestsAreAbsolute) {
+  const testing::KeptTolerance kept;
   EXPECT_EQ(QorTolerance, 1e-15L);
   EXPECT_TRUE(FloatIsZero(1e-15L));
   EXPECT_TRUE(FloatIsNotZero(1.1e-15L));
@@ -25,7 +21,7 @@ TEST_F(Tolerance, ZeroAndSignTestsAreAbsolute) {
   EXPECT_TRUE(FloatIsZero(0.05L));
 }
 
-TEST_F(Tolerance, SameFloatIsRelativeBeyondOneAndUsesTheTypesOwnPrecision) {
+TEST(Tolerance, SameFloatIsRelativeBeyondOneAndUsesTheTypesOwnPrecision) {
   EXPECT_TRUE(SameFloat(1.0L, 1.0L + 0.9e-15L));
   EXPECT_FALSE(SameFloat(1.0L, 1.0L + 2e-15L));
   EXPECT_TRUE(SameFloat(1e6L, 1e6L + 0.9e-9L));
@@ -38,7 +34,8 @@ TEST_F(Tolerance, SameFloatIsRelativeBeyondOneAndUsesTheTypesOwnPrecision) {
   EXPECT_TRUE(NotSameFloat(1, 2));
 }
 
-TEST_F(Tolerance, SameFloatTakesInfinitiesAndNaNExactly) {
+TEST(Tolerance, SameFloatTakesInfinitiesAndNaNExactly) {
+  const testing::KeptTolerance kept;
   EXPECT_TRUE(SameFloat(kInfinity, kInfinity));
   EXPECT_FALSE(SameFloat(kInfinity, -kInfinity));
   EXPECT_FALSE(SameFloat(kInfinity, std::numeric_limits<Extended>::max()));
@@ -70,7 +67,6 @@ TEST(Elementary, LogarithmsPowersAndArcCosine) {
   EXPECT_EQ(MinXY(2, 1), 1);
   EXPECT_EQ(MinXY(2.0L, 3), 2);
   EXPECT_EQ(QorPi, std::acos(-1.0L));
-  EXPECT_TRUE(QorNullStr.empty());
 }
 
 }  // namespace qorvex

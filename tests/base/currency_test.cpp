@@ -17,33 +17,34 @@ static_assert(!std::is_same_v<TQorCurrencyVector, TQorLongCurrVector>);
 static_assert(sizeof(QorCurrency) == 4 && sizeof(Currency) == 8 && sizeof(QorLongCurrency) == 8);
 
 TEST(Currency, ConvertsBetweenAllScales) {
-  EXPECT_EQ(QorCurrency2Currency(QorCurrency(100)), Currency(10'000));
-  EXPECT_EQ(QorCurrency2QorLongCurrency(QorCurrency(100)), QorLongCurrency(1'000'000));
-  EXPECT_EQ(Currency2QorCurrency(Currency(10'000)), QorCurrency(100));
-  EXPECT_EQ(Currency2QorLongCurrency(Currency(10'000)), QorLongCurrency(1'000'000));
-  EXPECT_EQ(QorLongCurrency2Currency(QorLongCurrency(1'000'000)), Currency(10'000));
-  EXPECT_EQ(QorLongCurrency2QorCurrency(QorLongCurrency(1'000'000)), QorCurrency(100));
+  const QorCurrency cents(100);
+  const Currency amount(10'000);
+  const QorLongCurrency millionths(1'000'000);
+  EXPECT_EQ(QorCurrency2Currency(cents), amount);
+  EXPECT_EQ(QorCurrency2QorLongCurrency(cents), millionths);
+  EXPECT_EQ(Currency2QorCurrency(amount), cents);
+  EXPECT_EQ(Currency2QorLongCurrency(amount), millionths);
+  EXPECT_EQ(QorLongCurrency2Currency(millionths), amount);
+  EXPECT_EQ(QorLongCurrency2QorCurrency(millionths), cents);
   EXPECT_EQ(Currency2Float(Currency(12'345)), 1.2345L);
   EXPECT_EQ(Currency2Float(QorCurrency(-150)), -1.5L);
   EXPECT_EQ(Currency2Float(QorLongCurrency(1)), 1e-6L);
   EXPECT_EQ(Float2Currency(1.23456L), Currency(12'346));
   EXPECT_EQ(Float2QorCurrency(-2.5L), QorCurrency(-250));
   EXPECT_EQ(Float2QorLongCurrency(0.0000015L), QorLongCurrency(2));
-  EXPECT_TRUE(SameCurrency(Currency(5), Currency(5)));
-  EXPECT_FALSE(SameCurrency(Currency(5), Currency(6)));
+  EXPECT_TRUE(SameCurrency(amount, amount) && !SameCurrency(amount, Currency(10'001)));
 }
 
 TEST(Currency, RoundsTiesToEvenAndMarksOverflowWithTheSmallestAmount) {
   const std::pair<int, int> roundings[] = {{50, 0},    {150, 2},   {250, 2}, {-50, 0},
                                            {-150, -2}, {-250, -2}, {151, 2}, {149, 1}};
-  for (const auto& [stored, cents] : roundings) {
+  for (const auto& [stored, cents] : roundings)
     EXPECT_EQ(Currency2QorCurrency(Currency(stored)), QorCurrency(cents)) << stored;
-  }
   EXPECT_EQ(Float2QorCurrency(0.125L), QorCurrency(12));
   EXPECT_EQ(Currency2QorCurrency(Currency(kLargest64)), QorCurrency(kSmallest32));
   EXPECT_EQ(Currency2QorLongCurrency(Currency(kLargest64)), QorLongCurrency(kSmallest64));
   EXPECT_EQ(Float2Currency(1e16L), Currency(kSmallest64));
-  EXPECT_EQ(Float2QorCurrency(std::nan("")), QorCurrency(kSmallest32));
+  EXPECT_EQ(Float2QorCurrency(kNaN), QorCurrency(kSmallest32));
 }
 
 TEST(Currency, WideningAndBackIsExact) {

@@ -32,21 +32,21 @@ TEST_F(Messages, EveryIdentifierHasATextOfItsOwn) {
 }
 
 TEST_F(Messages, TextIsLookedUpAtTheRaise) {
-  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "The vector is empty");
+  const auto raised = [] { return std::string(EMathError(rsVectorIsEmpty).what()); };
+  EXPECT_EQ(raised(), "The vector is empty");
   SetMessageText(rsVectorIsEmpty, "Der Vektor ist leer");
-  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "Der Vektor ist leer");
+  EXPECT_EQ(raised(), "Der Vektor ist leer");
 
   SetMessageLookup([](MessageId id) -> std::optional<std::string> {
-    if (id == rsVectorIsEmpty)
-      return "looked up, instead of " + std::to_string(MessageText(rsNA).size());
-    return std::nullopt;
+    if (id != rsVectorIsEmpty) return std::nullopt;
+    return "looked up, instead of " + std::to_string(MessageText(rsNA).size());
   });
-  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "looked up, instead of 13");
+  EXPECT_EQ(raised(), "looked up, instead of 13");
   EXPECT_STREQ(EMathError(rsNA).what(), "Not available");
   SetMessageLookup(nullptr);
-  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "Der Vektor ist leer");
+  EXPECT_EQ(raised(), "Der Vektor ist leer");
   ResetMessageText(rsVectorIsEmpty);
-  EXPECT_STREQ(EMathError(rsVectorIsEmpty).what(), "The vector is empty");
+  EXPECT_EQ(raised(), "The vector is empty");
 }
 
 TEST_F(Messages, MayBeReplacedWhileOtherThreadsRaise) {
@@ -63,21 +63,17 @@ TEST_F(Messages, MayBeReplacedWhileOtherThreadsRaise) {
   }
 }
 
-TEST(Errors, FormTheHierarchy) {
-  EXPECT_THROW(throw EZeroDivide(), EMathError);
-  EXPECT_THROW(throw EInvalidOp(), EMathError);
-  EXPECT_THROW(throw EOverflow(), Exception);
-  EXPECT_THROW(throw EConvertError(rsNotANumber, "x"), Exception);
-  static_assert(!std::derived_from<EConvertError, EMathError>);
-}
+static_assert(std::derived_from<EZeroDivide, EMathError>);
+static_assert(std::derived_from<EInvalidOp, EMathError>);
+static_assert(std::derived_from<EOverflow, EMathError>);
+static_assert(std::derived_from<EConvertError, Exception>);
+static_assert(!std::derived_from<EConvertError, EMathError>);
 
 TEST(CheckedMath, RaisesTheRuntimeErrors) {
-  const Extended huge = std::numeric_limits<Extended>::max();
-
   EXPECT_ERROR(CheckedDivide(1, 0), EZeroDivide, rsZeroDivide);
   EXPECT_ERROR(CheckedDivide(0, 0), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(CheckedDivide(kInfinity, kInfinity), EInvalidOp, rsInvalidOp);
-  EXPECT_ERROR(CheckedDivide(huge, 0.5L), EOverflow, rsOverflow);
+  EXPECT_ERROR(CheckedDivide(1, 1e-4940L), EOverflow, rsOverflow);
   EXPECT_ERROR(CheckedSqrt(-1), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(CheckedLn(0), EZeroDivide, rsZeroDivide);
   EXPECT_ERROR(CheckedLn(-1), EInvalidOp, rsInvalidOp);

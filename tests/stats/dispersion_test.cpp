@@ -144,6 +144,7 @@ TEST(Dispersion, MeansAndSpreadOfPositiveElements) {
   EXPECT_MATH_ERROR(GeometricStdDev({-1}, true), rsVectorG1);
   EXPECT_MATH_ERROR(GeometricStdDev({-1}, false), rsVectorNotPos);
   EXPECT_MATH_ERROR(GeometricStdDev({-1}, 2, true), rsVectorG1);
+  EXPECT_MATH_ERROR(GeometricStdDev({-1, 3}, -2, true), rsVectorNotPos);
   EXPECT_ERROR(GeometricStdDev(v, -1, true), EInvalidOp, rsInvalidOp);
 }
 
