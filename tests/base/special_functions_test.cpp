@@ -5,30 +5,21 @@
 
 namespace qorvex {
 
-using testing::ExpectWorstError;
-using testing::Table;
-
 // Limits in units of 1e-19, a little above what was measured.
 TEST(SpecialFunctions, AgreeWithTheReferenceTables) {
-  const Table gamma("tables/gamma_fn.csv");
-  ExpectWorstError(gamma, "gamma", 3,
-                   [&](std::size_t row) { return Gamma(gamma.Value(row, "x_dec")); });
-  ExpectWorstError(gamma, "lgamma", 2,
-                   [&](std::size_t row) { return LnGamma(gamma.Value(row, "x_dec")); });
-  const Table beta("tables/beta_fn.csv");
-  ExpectWorstError(beta, "beta", 25, [&](std::size_t row) {
-    return Beta(beta.Value(row, "a_dec"), beta.Value(row, "b_dec"));
-  });
-  const Table incomplete("tables/beta_inc.csv");
-  ExpectWorstError(incomplete, "I", 120, [&](std::size_t row) {
-    return IncompleteBeta(incomplete.Value(row, "x_dec"), incomplete.Value(row, "a_dec"),
-                          incomplete.Value(row, "b_dec"));
-  });
-  const Table inverse("tables/beta_inv.csv");
-  ExpectWorstError(inverse, "x", 10, [&](std::size_t row) {
-    return InverseIncompleteBeta(inverse.Value(row, "p_dec"), inverse.Value(row, "a_dec"),
-                                 inverse.Value(row, "b_dec"));
-  });
+  const auto expect_worst_error = [](const char* file, const char* column, Extended limit,
+                                     auto routine, auto... arguments) {
+    const testing::Table table(file);
+    testing::ExpectWorstError(table, column, limit, [&](std::size_t row) {
+      return routine(table.Value(row, arguments)...);
+    });
+  };
+  expect_worst_error("tables/gamma_fn.csv", "gamma", 3, Gamma, "x_dec");
+  expect_worst_error("tables/gamma_fn.csv", "lgamma", 2, LnGamma, "x_dec");
+  expect_worst_error("tables/beta_fn.csv", "beta", 25, Beta, "a_dec", "b_dec");
+  expect_worst_error("tables/beta_inc.csv", "I", 120, IncompleteBeta, "x_dec", "a_dec", "b_dec");
+  expect_worst_error("tables/beta_inv.csv", "x", 10, InverseIncompleteBeta, "p_dec", "a_dec",
+                     "b_dec");
 }
 
 TEST(SpecialFunctions, RaiseOutsideTheirDomains) {

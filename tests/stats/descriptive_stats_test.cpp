@@ -147,17 +147,14 @@ TEST(DescriptiveStats, TheSampleIsItsOwn) {
   TQorFloatVector given{1, 2, 3};
   stats.SetValues(given);
   given[0] = 100;
-  TQorFloatVector read = stats.Values();
-  read[1] = 100;
-  EXPECT_EQ(stats.Values(), (TQorFloatVector{1, 2, 3}));
+  stats.Values()[1] = 100;
   DescriptiveStats copy = stats;
-  copy.DeleteValue(0);
+  EXPECT_TRUE(copy.DeleteValue(0));
   EXPECT_EQ(stats.Values(), (TQorFloatVector{1, 2, 3}));
   const DescriptiveStats moved = std::move(copy);
   EXPECT_EQ(moved.Results().mean, 2.5L);
   EXPECT_EQ(copy.Results().mean, 0);  // NOLINT(bugprone-use-after-move): left empty
-  EXPECT_FALSE(stats.DeleteValue(-1));
-  EXPECT_FALSE(stats.DeleteValue(3));
+  EXPECT_FALSE(stats.DeleteValue(-1) || stats.DeleteValue(3));
   EXPECT_TRUE(stats.DeleteValue(2));
   EXPECT_EQ(stats.Results().maximum, 2);
 }

@@ -65,25 +65,22 @@ TEST(Quartiles, InterpolateBetweenElements) {
       {{10, 20, 30, 40, 50}, 17.5L, 42.5L},
       {{1, 2, 4, 8, 16, 32, 64}, 2.5L, 28},
   };
+  Extended q1 = 7;
+  Extended q3 = 8;
+  EXPECT_MATH_ERROR(GetQuartiles({}, q1, q3), rsVectorIsEmpty);
+  EXPECT_TRUE(q1 == 7 && q3 == 8);
   for (const auto& [values, expected_q1, expected_q3] : cases) {
-    Extended q1 = 0;
-    Extended q3 = 0;
     GetQuartiles(values, q1, q3);
     EXPECT_EQ(q1, expected_q1) << values.size();
     EXPECT_EQ(q3, expected_q3) << values.size();
   }
-  Extended q = 7;
-  EXPECT_MATH_ERROR(GetQuartiles({}, q, q), rsVectorIsEmpty);
-  EXPECT_EQ(q, 7);
 }
 
 TEST(Deciles, HoldTheirPositionsInSinglePrecision) {
-  std::array<Extended, 9> deciles{};
-  TQorFloatVector tens;
-  for (int i = 1; i <= 10; ++i) tens.Append(10 * i);
-  GetDeciles(tens, deciles);
-  for (std::size_t i = 0; i < 9; ++i)
-    EXPECT_EQ(deciles[i], 10 * static_cast<Extended>(i) + 15) << i;
+  using Deciles = std::array<Extended, 9>;
+  Deciles deciles{};
+  GetDeciles({10, 20, 30, 40, 50, 60, 70, 80, 90, 100}, deciles);
+  EXPECT_EQ(deciles, (Deciles{15, 25, 35, 45, 55, 65, 75, 85, 95}));
 
   GetDeciles({0, 1, 2}, deciles);
   // Position 3 * 4/10 + 1/2 = 1.7 as a single.
@@ -92,9 +89,8 @@ TEST(Deciles, HoldTheirPositionsInSinglePrecision) {
   EXPECT_EQ(deciles[8], 2) << "position 3.2 lies beyond the last";
 
   GetDeciles({4}, deciles);
-  for (const Extended decile : deciles) EXPECT_EQ(decile, 4);
   EXPECT_MATH_ERROR(GetDeciles({}, deciles), rsVectorIsEmpty);
-  EXPECT_EQ(deciles[0], 4);
+  EXPECT_EQ(deciles, (Deciles{4, 4, 4, 4, 4, 4, 4, 4, 4}));
 }
 
 TEST(TrimmedMeans, CutPerTailOrInTotal) {

