@@ -25,6 +25,7 @@ TEST(Float2MixedFraction, FindsTheFirstConvergentWithinTheDecimals) {
   EXPECT_EQ(Mixed(2.6L, 0), "3");
   EXPECT_EQ(Mixed(1e30L, 9), "1000000000000000000024696061952");
   EXPECT_TRUE(std::isnan(Float2MixedFraction(kNaN, 9).whole));
+  EXPECT_FALSE(std::signbit(Float2MixedFraction(-0.5L, 9).whole));
 }
 
 TEST(Float2MixedFraction, IsWithinHalfADecimalAndInLowestTerms) {
