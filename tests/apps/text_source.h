@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "apps/qorvex/input_error.h"
 #include "apps/qorvex/text_input.h"
 
 namespace qorvex::cli {
@@ -15,6 +16,24 @@ inline TextInput SourceOf(std::string text) {
             at += count;
             return count;
           }};
+}
+
+/// A text, how it is read, and what describe tells of it, or the error.
+template <class Options>
+struct ReadingCase {
+  std::string text;
+  std::string result;
+  Options options = {};
+};
+
+/// What describe() gives, or what the error says that it raises.
+template <class Describe>
+std::string ResultOrError(Describe describe) {
+  try {
+    return describe();
+  } catch (const InputError& error) {
+    return error.what();
+  }
 }
 
 }  // namespace qorvex::cli
