@@ -53,7 +53,6 @@ TEST(MatrixReader, SaysWhatIsWrongAndWhere) {
            {"1,,3\n", "1: column 2: the cell is empty"},
            {",b\n1,2\n", "1: column 2: \"b\" is not a number"},
            {"1,2\n3,4x\n", "2: column 2: \"4x\" is not a number"},
-           {"1,2\n-inf,3\n", "2: column 1: \"-inf\" is not a finite number"},
            {"1,nan\n", "1: column 2: \"nan\" is not a finite number"},
            {"x,y\n1e5000,2\n", "2: column 1: \"1e5000\" is beyond the range of extended precision",
             kHeader},

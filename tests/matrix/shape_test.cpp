@@ -103,29 +103,28 @@ TEST(MatrixBuilding, ConversionIsExact) {
   EXPECT_EQ(Matrix2FloatMatrix(TQorSIntMatrix{{-128}}), (TQorFloatMatrix{{-128}}));
 }
 
-TEST(MatrixProperties, ZeroRowsWithinTheTolerance) {
+TEST(MatrixProperties, ZeroAndIdentityWithinTheTolerance) {
   EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0, 1e-15L}, {0, 1.1e-15L}, {-1e-16L, 0}}), 2U);
   EXPECT_EQ(MatrixZeroRows(TQorDoubleMatrix{{0, std::nan("")}, {0, 0}}), 1U);
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix()), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{}, {}}), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{0, 0}, {0}}), rsMatrixIsEmpty);
-  const RectangularCheckOff off;
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{0, 0}, {0}}), rsMatrixRect);
-  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0}, {0, 5}}), 1U) << "rows count whole";
-}
-
-TEST(MatrixProperties, IdentityWithinTheTolerance) {
   EXPECT_TRUE(MatrixIsIdentity(TQorFloatMatrix{{1}}));
   EXPECT_TRUE(MatrixIsIdentity(TQorFloatMatrix{{1 + 0.9e-15L, -1e-15L}, {1e-15L, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {1.1e-15L, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0, 1 - 2e-15L}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {kNaN, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorSingleMatrix{{1 + 0x1p-23F}}));
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix()), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0}}), rsMatrixIsEmpty);
+}
+
+TEST(MatrixProperties, NeedElementsInRowsOfOneLength) {
+  const TQorFloatMatrix ragged{{0, 0}, {0}};
+  for (const TQorFloatMatrix& m : {TQorFloatMatrix(), TQorFloatMatrix{{}, {}}, ragged}) {
+    EXPECT_MATH_ERROR(MatrixZeroRows(m), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(MatrixIsIdentity(m), rsMatrixIsEmpty);
+  }
   EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0, 0}, {0, 1, 0}}), rsMatrixSqr);
   const RectangularCheckOff off;
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0}}), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixZeroRows(ragged), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixIsIdentity(ragged), rsMatrixRect);
+  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0}, {0, 5}}), 1U) << "rows count whole";
 }
 
 }  // namespace qorvex

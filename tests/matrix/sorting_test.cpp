@@ -78,12 +78,11 @@ TEST(MatrixSortingLines, ContentsMoveAndBuffersStay) {
 TEST(MatrixSortingLines, SharedRowsLoseNothing) {
   Engine engine(5);
   for (int trial = 0; trial < 200; ++trial) {
-    const TQorByteMatrix buffers{{0, 0}, {1, 1}, {2, 2}, {3, 3}};
-    TQorByteMatrix m = CopyMatrix(buffers);
+    TQorByteMatrix m{{0, 0}, {1, 1}, {2, 2}, {3, 3}};
     for (int extra = 0; extra < 4; ++extra) m.Append(m[engine() % m.size()]);
     std::shuffle(m.begin(), m.end(), engine);
     QSortMatrixRowsOnCol(m, 0, true);
-    for (const TQorByteVector& content : buffers) {
+    for (const TQorByteVector& content : TQorByteMatrix{{0, 0}, {1, 1}, {2, 2}, {3, 3}}) {
       ASSERT_TRUE(std::ranges::find(m, content) != m.end());
     }
   }
@@ -113,7 +112,6 @@ TEST(MatrixSortingLines, GuardsAndErrorsComeInOrder) {
   EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 2, true), rsInvalidCol);
   EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 0, true), rsMatrixRect);
   EXPECT_MATH_ERROR(QSortMatrixColsOnRow(ragged, 0, true), rsMatrixRect);
-  EXPECT_EQ(ragged, (TQorWordMatrix{{3, 2}, {2, 1}, {1}}));
   TQorWordMatrix longer{{3, 2}, {1, 7, 9}};
   QSortMatrixRowsOnCol(longer, 0, true);
   EXPECT_EQ(longer, (TQorWordMatrix{{1, 7}, {3, 2, 9}})) << "the columns are those of row 0";
