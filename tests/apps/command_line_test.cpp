@@ -91,7 +91,7 @@ TEST(Matrix, PrintsResultsThatCanBeReadAgain) {
            std::pair("a|b\\n1|2\\n2|4' | qorvex matrix rank - --header --delimiter '|'", "1\n"),
            std::pair("1 0\\n0 1e-9' | qorvex matrix rank -", "2\n"),
            std::pair("1 0\\n0 1e-9' | qorvex matrix rank - --tolerance 1e-6", "1\n"),
-           std::pair("0 -2\\n0 -4' | qorvex matrix echelon -", "0,1\n0,0\n"),
+           std::pair("-4 0\\n-2 0' | qorvex matrix echelon -", "1,0\n0,0\n"),
            std::pair("1 0 0\\n0 1 1' | qorvex matrix multiply - grain_yields.csv", "39\n60\n"),
            std::pair("2 0 1' | qorvex matrix multiply grain_yields.csv - --decimals 1 | tail -n 1",
                      "52.0,0.0,26.0\n"),

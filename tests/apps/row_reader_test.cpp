@@ -41,6 +41,7 @@ TEST(RowReader, SplitsLinesWithEveryKindOfEnd) {
               {"a,b\r\n1,2\r\n", "1:[a][b]2:[1][2]"},
               {"a,b\n1,2", "1:[a][b]2:[1][2]"},
               {"a,b\r\n1,2\r", "1:[a][b]2:[1][2]"},
+              {"a\r,b\n", "1:[a\r][b]"},
               {"\xEF\xBB\xBF\"a\",b\n1,2\n\n", "1:[a][b]2:[1][2]"},
               {" a ,\tb\n 1\t, 2 \r\n", "1:[a][b]2:[1][2]"}});
 }
