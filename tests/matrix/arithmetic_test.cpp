@@ -57,6 +57,7 @@ TEST(MatrixArithmetic, ErrorsComeInOrderAndLeaveTheMatrix) {
   expect_error(square, ragged, rsMatrixRect);
   expect_error(ragged, square, rsMatrixRect);
   EXPECT_EQ(square, (TQorFloatMatrix{{1, 2}, {3, 4}}));
+  EXPECT_EQ(ragged, (TQorFloatMatrix{{1, 2}, {3}}));
   AddToMatrix(square, TQorFloatMatrix{{1, 1}, {1, 1, 1}});
   EXPECT_EQ(square, (TQorFloatMatrix{{2, 3}, {4, 5}})) << "longer rows are cut";
 }

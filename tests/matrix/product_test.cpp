@@ -18,7 +18,7 @@ TYPED_TEST_SUITE(Product, FloatTypes, );
 TYPED_TEST(Product, AgreesInEveryBitWithThePlainLoops) {
   using T = TypeParam;
   Engine engine(20261121);
-  for (const auto& [name, making] : testing::FloatMakings<T>(engine)) {
+  for (const auto& [name, making] : testing::FloatMakings<T>(engine, 1)) {
     for (int repetition = 0; repetition < 100; ++repetition) {
       const std::size_t rows = 1 + engine() % 9;
       const std::size_t inner = 1 + engine() % 9;

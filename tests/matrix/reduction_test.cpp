@@ -61,7 +61,7 @@ TYPED_TEST(ReductionOf, AgreesInEveryBitWithThePlainLoops) {
   const std::pair<std::size_t, std::size_t> shapes[] = {{1, 1},  {1, 7},   {7, 1},   {2, 2},
                                                         {3, 5},  {5, 3},   {4, 4},   {15, 15},
                                                         {20, 6}, {17, 17}, {14, 30}, {31, 31}};
-  for (const auto& [name, making] : testing::FloatMakings<T>(engine)) {
+  for (const auto& [name, making] : testing::FloatMakings<T>(engine, 8)) {
     int agreeing = 0;
     for (const auto& [rows, cols] : shapes) {
       SCOPED_TRACE(std::string(name) + ' ' + Int2EStr(rows) + " x " + Int2EStr(cols));

@@ -112,6 +112,7 @@ TEST(MatrixSortingLines, GuardsAndErrorsComeInOrder) {
   EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 2, true), rsInvalidCol);
   EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 0, true), rsMatrixRect);
   EXPECT_MATH_ERROR(QSortMatrixColsOnRow(ragged, 0, true), rsMatrixRect);
+  EXPECT_EQ(ragged, (TQorWordMatrix{{3, 2}, {2, 1}, {1}}));
   TQorWordMatrix longer{{3, 2}, {1, 7, 9}};
   QSortMatrixRowsOnCol(longer, 0, true);
   EXPECT_EQ(longer, (TQorWordMatrix{{1, 7}, {3, 2, 9}})) << "the columns are those of row 0";

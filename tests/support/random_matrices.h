@@ -35,9 +35,10 @@ TQorMatrix<T> RandomMatrix(Engine& engine, std::size_t rows, std::size_t cols) {
   return matrix;
 }
 
-/// Makings, with their names, in which faults of fast floating-point loops show.
+/// Makings, with their names, in which faults of fast floating-point loops show. In one of them
+/// every so many elements, on average, one is far from the others.
 template <FloatElement T>
-std::vector<std::pair<const char*, Making<T>>> FloatMakings(Engine& engine) {
+std::vector<std::pair<const char*, Making<T>>> FloatMakings(Engine& engine, unsigned so_many) {
   using Limits = std::numeric_limits<T>;
   const auto real = [&](auto...) {
     return static_cast<T>(static_cast<Extended>(static_cast<std::int64_t>(engine())) * 0x1p-64L);
@@ -45,10 +46,10 @@ std::vector<std::pair<const char*, Making<T>>> FloatMakings(Engine& engine) {
   const auto small = [&](auto...) { return static_cast<T>(static_cast<int>(engine() % 5) - 2); };
   const auto signed_zeros = [&, real](auto...) { return engine() % 3 == 0 ? real() : T(-0.0); };
   // Extended elements pass both limits of a double.
-  const auto far_away = [&, real](auto...) {
+  const auto far_away = [&, real, so_many](auto...) {
     constexpr int range = std::min(Limits::max_exponent - 1, 1100);
     const int exponent = static_cast<int>(engine() % (2 * range)) - range;
-    return std::ldexp(real(), engine() % 8 == 0 ? exponent : 0);
+    return std::ldexp(real(), engine() % so_many == 0 ? exponent : 0);
   };
   const auto special = [&, real](auto...) {
     constexpr T values[] = {Limits::infinity(), Limits::quiet_NaN()};
