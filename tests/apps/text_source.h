@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/text_input.h"
@@ -18,7 +19,7 @@ inline TextInput SourceOf(std::string text) {
           }};
 }
 
-/// A text, how it is read, and what describe tells of it, or the error.
+/// A text, what reading it must give, written as text as well, and the options of the reader.
 template <class Options>
 struct ReadingCase {
   std::string text;
@@ -26,11 +27,11 @@ struct ReadingCase {
   Options options = {};
 };
 
-/// What describe() gives, or what the error says that it raises.
-template <class Describe>
-std::string ResultOrError(Describe describe) {
+/// The text that read() gives, or the text of its error.
+template <class Read>
+std::string ResultOrError(Read read) {
   try {
-    return describe();
+    return read();
   } catch (const InputError& error) {
     return error.what();
   }
