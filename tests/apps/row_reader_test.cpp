@@ -10,33 +10,27 @@
 namespace qorvex::cli {
 namespace {
 
+using Case = ReadingCase<std::optional<char>>;
+
 // The rows as text, each with a dash for every blank line before it, its line and its cells; or
 // the error.
 std::string Read(const std::string& text, std::optional<char> delimiter, std::size_t block_size) {
   RowReader reader(SourceOf(text), delimiter, block_size);
-  std::string rows;
-  try {
+  return ResultOrError([&] {
+    std::string rows;
     while (reader.Next()) {
       rows += std::string(reader.BlankLines(), '-') + Int2EStr(reader.Line()) + ':';
       for (const std::string_view cell : reader.Cells()) rows.append("[").append(cell).append("]");
     }
-  } catch (const InputError& error) {
-    return error.what();
-  }
-  return rows;
+    return rows;
+  });
 }
-
-struct Case {
-  const char* text;
-  const char* rows;
-  std::optional<char> delimiter = std::nullopt;
-};
 
 // Reads with blocks of every size up to the text, so that each byte is once the last of a block.
 void ExpectRows(std::initializer_list<Case> cases) {
   for (const auto& [text, rows, delimiter] : cases) {
     EXPECT_EQ(Read(text, delimiter, RowReader::kBlockSize), rows);
-    for (std::size_t block = 4; block < std::string_view(text).size() + 4; ++block) {
+    for (std::size_t block = 4; block < text.size() + 4; ++block) {
       EXPECT_EQ(Read(text, delimiter, block), rows) << "block size " << block;
     }
   }
@@ -47,6 +41,7 @@ TEST(RowReader, SplitsLinesWithEveryKindOfEnd) {
               {"a,b\r\n1,2\r\n", "1:[a][b]2:[1][2]"},
               {"a,b\n1,2", "1:[a][b]2:[1][2]"},
               {"a,b\r\n1,2\r", "1:[a][b]2:[1][2]"},
+              {"a\r,b\n", "1:[a\r][b]"},
               {"\xEF\xBB\xBF\"a\",b\n1,2\n\n", "1:[a][b]2:[1][2]"},
               {" a ,\tb\n 1\t, 2 \r\n", "1:[a][b]2:[1][2]"}});
 }

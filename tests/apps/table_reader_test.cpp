@@ -2,38 +2,31 @@
 
 #include <gtest/gtest.h>
 
-#include "apps/qorvex/input_error.h"
 #include "apps/text_source.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::cli {
 namespace {
 
+using Cases = std::initializer_list<ReadingCase<TableSelection>>;
+
 // The columns as text, each with its title, its values and the number of skipped cells; or the
 // error.
 std::string Read(const std::string& text, const TableSelection& selection) {
-  std::string columns;
-  try {
+  return ResultOrError([&] {
+    std::string columns;
     for (const TableColumn& column : ReadTable(SourceOf(text), selection)) {
       columns += column.Title() + ':';
       for (const Extended value : column.values) columns += ' ' + Float2Str(value);
       columns += "; " + Int2EStr(column.skipped) + '\n';
     }
-  } catch (const InputError& error) {
-    return error.what();
-  }
-  return columns;
+    return columns;
+  });
 }
-
-struct Case {
-  const char* text;
-  const char* result;
-  TableSelection selection = {};
-};
 
 TEST(TableReader, TakesEveryColumnOrTheChosenOnesInTheirOrder) {
   const char* const table = "x, y ,2\n1,2,3\n4,5,6\n";
-  for (const auto& [text, columns, selection] : std::initializer_list<Case>{
+  for (const auto& [text, columns, selection] : Cases{
            {table, "column 1 (x): 1 4; 0\ncolumn 2 (y): 2 5; 0\ncolumn 3 (2): 3 6; 0\n"},
            // The name 2 belongs to the third column and wins over the number.
            {table,
@@ -54,7 +47,7 @@ TEST(TableReader, TakesEveryColumnOrTheChosenOnesInTheirOrder) {
 }
 
 TEST(TableReader, SaysWhatIsWrongAndWhere) {
-  for (const auto& [text, message, selection] : std::initializer_list<Case>{
+  for (const auto& [text, message, selection] : Cases{
            {"", " there is nothing to read"},
            {"x,y\n", " column 1 (x) has no values"},
            {"x\n\n\"\"\n", " column 1 (x) has no values", {.skip_empty = true}},
@@ -72,7 +65,7 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"1\n", " there is no column \"1x\"; the table has 1 column and no header", {{"1x"}}},
            {"x,y,x\n1,2,3\n", " columns 1 and 3 are both named \"x\"", {{"x"}}},
        }) {
-    EXPECT_EQ(Read(text, selection), std::string("data.csv:") + message);
+    EXPECT_EQ(Read(text, selection), "data.csv:" + message);
   }
 }
 

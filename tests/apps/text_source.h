@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
+#include "apps/qorvex/input_error.h"
 #include "apps/qorvex/text_input.h"
 
 namespace qorvex::cli {
@@ -15,6 +17,24 @@ inline TextInput SourceOf(std::string text) {
             at += count;
             return count;
           }};
+}
+
+/// A text, what reading it must give, written as text as well, and the options of the reader.
+template <class Options>
+struct ReadingCase {
+  std::string text;
+  std::string result;
+  Options options = {};
+};
+
+/// The text that read() gives, or the text of its error.
+template <class Read>
+std::string ResultOrError(Read read) {
+  try {
+    return read();
+  } catch (const InputError& error) {
+    return error.what();
+  }
 }
 
 }  // namespace qorvex::cli

@@ -14,26 +14,21 @@ TEST(MatrixArithmetic, AddsAndSubtractsElementByElement) {
   TQorDoubleMatrix a{{1, 2, 3}, {4, 5, 6}};
   const TQorDoubleMatrix b{{10, 20, 30}, {-40, 50, 60}};
   const TQorDoubleMatrix sum{{11, 22, 33}, {-36, 55, 66}};
-  const TQorDoubleMatrix difference{{-9, -18, -27}, {44, -45, -54}};
   EXPECT_EQ(AddMatrices(a, b), sum);
-  EXPECT_EQ(SubtractMatrices(a, b), difference);
+  EXPECT_EQ(SubtractMatrices(sum, b), a);
   const TQorDoubleVector first_row = a[0];
   AddToMatrix(a, b);
   EXPECT_EQ(a, sum);
   EXPECT_EQ(first_row, sum[0]) << "seen through every handle of the row";
   SubtractFromMatrix(a, b);
-  SubtractFromMatrix(a, b);
-  EXPECT_EQ(a, difference);
+  EXPECT_EQ(a, (TQorDoubleMatrix{{1, 2, 3}, {4, 5, 6}}));
   SubtractFromMatrix(a, a);
   EXPECT_EQ(a, (TQorDoubleMatrix{{0, 0, 0}, {0, 0, 0}}));
 }
 
 TEST(MatrixArithmetic, IntegersWrapAndDoublesRoundTwice) {
-  constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
-  constexpr std::int64_t smallest = std::numeric_limits<std::int64_t>::min();
-  EXPECT_EQ(AddMatrices(TQorLIntMatrix{{largest}}, {{1}}), (TQorLIntMatrix{{-largest - 1}}));
-  EXPECT_EQ(SubtractMatrices(TQorInt64Matrix{{smallest}}, {{1}}),
-            (TQorInt64Matrix{{std::numeric_limits<std::int64_t>::max()}}));
+  EXPECT_EQ(AddMatrices(TQorLIntMatrix{{INT32_MAX}}, {{1}}), (TQorLIntMatrix{{INT32_MIN}}));
+  EXPECT_EQ(SubtractMatrices(TQorInt64Matrix{{INT64_MIN}}, {{1}}), (TQorInt64Matrix{{INT64_MAX}}));
   EXPECT_EQ(MultiplyMatrixByConst(TQorLIntMatrix{{65537}}, 65536), (TQorLIntMatrix{{65536}}));
   EXPECT_EQ(MultiplyMatrixByConst(TQorInt64Matrix{{1LL << 40}}, (1LL << 24) + 1),
             (TQorInt64Matrix{{1LL << 40}}));
@@ -54,14 +49,11 @@ TEST(MatrixArithmetic, ErrorsComeInOrderAndLeaveTheMatrix) {
     EXPECT_MATH_ERROR(SubtractFromMatrix(target, b), id);
   };
   expect_error(TQorFloatMatrix(), square, rsMatrixIsEmpty);
-  expect_error({{}, {}}, wide, rsMatrixIsEmpty);
   expect_error({{}, {1}}, wide, rsMatrixIsEmpty);
-  expect_error(square, TQorFloatMatrix(), rsSameDimensions);
   expect_error(square, wide, rsSameDimensions);
   expect_error(square, ragged, rsSameDimensions);
   expect_error(ragged, square, rsSameDimensions);
   const RectangularCheckOff off;
-  expect_error(square, wide, rsSameDimensions);
   expect_error(square, ragged, rsMatrixRect);
   expect_error(ragged, square, rsMatrixRect);
   EXPECT_EQ(square, (TQorFloatMatrix{{1, 2}, {3, 4}}));
@@ -79,8 +71,8 @@ TEST(MatrixArithmetic, ConstantsScaleRaggedRows) {
   MultiplyMatrixByConst2(m, 5);
   EXPECT_EQ(m, (TQorLIntMatrix{{5, -10}, {}, {75}, {75}})) << "once for each row of the buffer";
   EXPECT_EQ(shared_row, m[2]);
-  TQorDoubleMatrix small{{1e-300}};
-  EXPECT_EQ(MultiplyMatrixByConst(small, 0x1p1100L)[0][0], 1e-300 * 0x1p1000 * 0x1p100)
+  EXPECT_EQ(MultiplyMatrixByConst(TQorDoubleMatrix{{1e-300}}, 0x1p1100L)[0][0],
+            1e-300 * 0x1p1000 * 0x1p100)
       << "a factor beyond the range of a double";
   TQorDoubleMatrix empty;
   EXPECT_MATH_ERROR(MultiplyMatrixByConst(empty, 1), rsMatrixIsEmpty);
@@ -112,14 +104,12 @@ TYPED_TEST(Transposing, MovesEveryBit) {
 
 TEST(TransposingShapes, OnlyRectanglesUnlessTheSwitchIsOff) {
   const TQorWordMatrix ragged{{1, 2}, {3}};
-  const TQorWordMatrix no_cols{{}, {}};
+  const TQorWordMatrix without_elements[] = {{}, {{}, {}}};
   EXPECT_MATH_ERROR(TransposeMatrix(ragged), rsMatrixRect);
-  EXPECT_MATH_ERROR(TransposeMatrix(no_cols), rsMatrixRect);
-  EXPECT_MATH_ERROR(TransposeMatrix(TQorWordMatrix()), rsMatrixRect);
+  for (const auto& m : without_elements) EXPECT_MATH_ERROR(TransposeMatrix(m), rsMatrixRect);
   const RectangularCheckOff off;
   EXPECT_MATH_ERROR(TransposeMatrix(ragged), rsMatrixRect);
-  EXPECT_TRUE(TransposeMatrix(no_cols).empty());
-  EXPECT_TRUE(TransposeMatrix(TQorWordMatrix()).empty());
+  for (const auto& m : without_elements) EXPECT_TRUE(TransposeMatrix(m).empty());
   EXPECT_EQ(TransposeMatrix(TQorWordMatrix{{1, 2}, {3, 4, 5}}), (TQorWordMatrix{{1, 3}, {2, 4}}));
 }
 

@@ -18,19 +18,7 @@ TYPED_TEST_SUITE(Product, FloatTypes, );
 TYPED_TEST(Product, AgreesInEveryBitWithThePlainLoops) {
   using T = TypeParam;
   Engine engine(20261121);
-  const auto real = [&](auto...) { return testing::RandomVector<T>(engine, 1)[0]; };
-  // Extended elements pass both limits of a double.
-  const auto far_away = [&](auto...) {
-    constexpr int range = std::min(std::numeric_limits<T>::max_exponent - 1, 1100);
-    return std::ldexp(real(), static_cast<int>(engine() % (2 * range)) - range);
-  };
-  const auto special = [&](auto...) {
-    constexpr T values[] = {std::numeric_limits<T>::infinity(), std::numeric_limits<T>::quiet_NaN(),
-                            T(-0.0)};
-    return engine() % 9 == 0 ? values[engine() % 3] : real();
-  };
-  const std::function<T(std::size_t, std::size_t)> makings[] = {real, far_away, special};
-  for (const auto& making : makings) {
+  for (const auto& [name, making] : testing::FloatMakings<T>(engine, 1)) {
     for (int repetition = 0; repetition < 100; ++repetition) {
       const std::size_t rows = 1 + engine() % 9;
       const std::size_t inner = 1 + engine() % 9;
@@ -46,7 +34,7 @@ TYPED_TEST(Product, AgreesInEveryBitWithThePlainLoops) {
         return sum;
       });
       ASSERT_TRUE(testing::SameBits(MultiplyMatrices(a, b), expected))
-          << rows << " x " << inner << " x " << cols;
+          << name << ' ' << rows << " x " << inner << " x " << cols;
     }
   }
 }

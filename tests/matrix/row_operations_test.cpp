@@ -1,6 +1,5 @@
 #include "qorvex/matrix/row_operations.h"
 
-#include "support/random_matrices.h"
 #include "support/rectangular_check_off.h"
 #include "support/test.h"
 
@@ -12,7 +11,6 @@ TEST(RowOperations, ExchangeContentsSeenThroughEveryHandle) {
   SwapMatrixRows(matrix, 0, 1);
   EXPECT_EQ(row, (TQorByteVector{4, 5, 6}));
   SwapMatrixCols(matrix, 0, 2);
-  EXPECT_EQ(matrix, (TQorByteMatrix{{6, 5, 4}, {3, 2, 1}}));
   SwapMatrixRows(matrix, 1, 1);
   SwapMatrixCols(matrix, 1, 1);
   EXPECT_EQ(matrix, (TQorByteMatrix{{6, 5, 4}, {3, 2, 1}}));
@@ -62,37 +60,35 @@ TEST(RowOperations, ChecksComeInOrderAndTheFactorOneBeforeThem) {
   TQorFloatMatrix matrix{{1, 2}, {3, 4}, {5, 6}};
   ScaleMatrixRow(empty, 99, 1);
   ScaleMatrixCol(matrix, 99, 1);
+  const auto expect_row_errors = [](TQorFloatMatrix& m, std::uint32_t bad, MessageId id) {
+    EXPECT_MATH_ERROR(SwapMatrixRows(m, bad, 0), id);
+    EXPECT_MATH_ERROR(SwapMatrixRows(m, 0, bad), id);
+    EXPECT_MATH_ERROR(ScaleMatrixRow(m, bad, 2), id);
+    EXPECT_MATH_ERROR(AddMatrixRows(m, bad, 0, 2), id);
+    EXPECT_MATH_ERROR(AddMatrixRows(m, 0, bad, 2), id);
+  };
+  const auto expect_col_errors = [](TQorFloatMatrix& m, std::uint32_t bad, MessageId id) {
+    EXPECT_MATH_ERROR(SwapMatrixCols(m, bad, 0), id);
+    EXPECT_MATH_ERROR(SwapMatrixCols(m, 0, bad), id);
+    EXPECT_MATH_ERROR(ScaleMatrixCol(m, bad, 2), id);
+    EXPECT_MATH_ERROR(AddMatrixCols(m, bad, 0, 2), id);
+    EXPECT_MATH_ERROR(AddMatrixCols(m, 0, bad, 2), id);
+  };
   for (TQorFloatMatrix* none : {&empty, &ragged}) {
-    EXPECT_MATH_ERROR(SwapMatrixRows(*none, 9, 9), rsMatrixIsEmpty);
-    EXPECT_MATH_ERROR(SwapMatrixCols(*none, 9, 9), rsMatrixIsEmpty);
-    EXPECT_MATH_ERROR(ScaleMatrixRow(*none, 9, 2), rsMatrixIsEmpty);
-    EXPECT_MATH_ERROR(ScaleMatrixCol(*none, 9, 2), rsMatrixIsEmpty);
-    EXPECT_MATH_ERROR(AddMatrixRows(*none, 9, 9, 2), rsMatrixIsEmpty);
-    EXPECT_MATH_ERROR(AddMatrixCols(*none, 9, 9, 2), rsMatrixIsEmpty);
+    expect_row_errors(*none, 9, rsMatrixIsEmpty);
+    expect_col_errors(*none, 9, rsMatrixIsEmpty);
   }
-  EXPECT_MATH_ERROR(SwapMatrixRows(matrix, 3, 0), rsInvalidRow);
-  EXPECT_MATH_ERROR(SwapMatrixRows(matrix, 0, 3), rsInvalidRow);
-  EXPECT_MATH_ERROR(SwapMatrixCols(matrix, 2, 0), rsInvalidCol);
-  EXPECT_MATH_ERROR(SwapMatrixCols(matrix, 0, 2), rsInvalidCol);
-  EXPECT_MATH_ERROR(ScaleMatrixRow(matrix, 3, 2), rsInvalidRow);
-  EXPECT_MATH_ERROR(ScaleMatrixCol(matrix, 2, 2), rsInvalidCol);
-  EXPECT_MATH_ERROR(AddMatrixRows(matrix, 3, 0, 2), rsInvalidRow);
-  EXPECT_MATH_ERROR(AddMatrixRows(matrix, 0, 3, 2), rsInvalidRow);
-  EXPECT_MATH_ERROR(AddMatrixCols(matrix, 2, 0, 2), rsInvalidCol);
-  EXPECT_MATH_ERROR(AddMatrixCols(matrix, 0, 2, 2), rsInvalidCol);
+  expect_row_errors(matrix, 3, rsInvalidRow);
+  expect_col_errors(matrix, 2, rsInvalidCol);
   EXPECT_EQ(matrix, (TQorFloatMatrix{{1, 2}, {3, 4}, {5, 6}}));
-}
 
-TEST(RowOperations, WithoutTheShapeSwitchOnlyRowsInReachCount) {
+  // Without the shape switch only the rows in reach count.
   const testing::RectangularCheckOff off;
-  TQorFloatMatrix ragged{{1, 2}, {3, 4}, {5}};
+  ragged = {{1, 2}, {3, 4}, {5}};
   AddMatrixRows(ragged, 0, 1, 1);
-  EXPECT_EQ(ragged[0], (TQorFloatVector{4, 6}));
-  EXPECT_MATH_ERROR(AddMatrixRows(ragged, 0, 2, 1), rsMatrixRect);
-  EXPECT_MATH_ERROR(SwapMatrixRows(ragged, 2, 0), rsMatrixRect);
+  expect_row_errors(ragged, 2, rsMatrixRect);
+  expect_col_errors(ragged, 1, rsMatrixRect);
   EXPECT_MATH_ERROR(SwapMatrixRows(ragged, 2, 9), rsInvalidRow);
-  EXPECT_MATH_ERROR(SwapMatrixCols(ragged, 0, 1), rsMatrixRect);
-  EXPECT_MATH_ERROR(ScaleMatrixCol(ragged, 0, 2), rsMatrixRect);
   EXPECT_EQ(ragged, (TQorFloatMatrix{{4, 6}, {3, 4}, {5}}));
 }
 

@@ -50,7 +50,6 @@ TEST(Shape, SquareAndSameDimensionsNeedARectangle) {
   const TQorLIntMatrix square{{1, 2}, {3, 4}};
   const TQorLIntMatrix wide{{1, 2, 3}, {4, 5, 6}};
   const TQorLIntMatrix ragged{{1, 2}, {3}};
-  const TQorLIntMatrix empty;
   EXPECT_TRUE(MatrixIsSquare(square));
   EXPECT_FALSE(MatrixIsSquare(wide));
   EXPECT_TRUE(MatricesSameDimensions(wide, TQorLIntMatrix{{0, 0, 0}, {0, 0, 0}}));
@@ -60,8 +59,7 @@ TEST(Shape, SquareAndSameDimensionsNeedARectangle) {
     EXPECT_EQ(MatrixIsSquare(ragged), rectangular);
     EXPECT_EQ(MatricesSameDimensions(ragged, square), rectangular);
     EXPECT_EQ(MatricesSameDimensions(square, ragged), rectangular);
-    EXPECT_EQ(MatrixIsSquare(empty), rectangular);
-    EXPECT_EQ(MatricesSameDimensions(empty, empty), rectangular);
+    EXPECT_EQ(MatrixIsSquare(TQorLIntMatrix()), rectangular);
   };
   expect_shapes(false);
   const RectangularCheckOff off;
@@ -99,36 +97,34 @@ TEST(MatrixBuilding, CopiesShareNothingAndKeepRaggedRows) {
 }
 
 TEST(MatrixBuilding, ConversionIsExact) {
-  constexpr std::int64_t longest = std::numeric_limits<std::int64_t>::max();
-  EXPECT_EQ(Matrix2FloatMatrix(TQorInt64Matrix{{longest, -longest - 1}, {}}),
+  EXPECT_EQ(Matrix2FloatMatrix(TQorInt64Matrix{{INT64_MAX, INT64_MIN}, {}}),
             (TQorFloatMatrix{{0x1p63L - 1, -0x1p63L}, {}}));
   EXPECT_EQ(Matrix2FloatMatrix(TQorLWordMatrix{{4294967295}}), (TQorFloatMatrix{{4294967295.0L}}));
   EXPECT_EQ(Matrix2FloatMatrix(TQorSIntMatrix{{-128}}), (TQorFloatMatrix{{-128}}));
 }
 
-TEST(MatrixProperties, ZeroRowsWithinTheTolerance) {
+TEST(MatrixProperties, ZeroAndIdentityWithinTheTolerance) {
   EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0, 1e-15L}, {0, 1.1e-15L}, {-1e-16L, 0}}), 2U);
   EXPECT_EQ(MatrixZeroRows(TQorDoubleMatrix{{0, std::nan("")}, {0, 0}}), 1U);
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix()), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{}, {}}), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{0, 0}, {0}}), rsMatrixIsEmpty);
-  const RectangularCheckOff off;
-  EXPECT_MATH_ERROR(MatrixZeroRows(TQorFloatMatrix{{0, 0}, {0}}), rsMatrixRect);
-  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0}, {0, 5}}), 1U) << "rows count whole";
-}
-
-TEST(MatrixProperties, IdentityWithinTheTolerance) {
   EXPECT_TRUE(MatrixIsIdentity(TQorFloatMatrix{{1}}));
   EXPECT_TRUE(MatrixIsIdentity(TQorFloatMatrix{{1 + 0.9e-15L, -1e-15L}, {1e-15L, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {1.1e-15L, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0, 1 - 2e-15L}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {kNaN, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorSingleMatrix{{1 + 0x1p-23F}}));
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix()), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0}}), rsMatrixIsEmpty);
+}
+
+TEST(MatrixProperties, NeedElementsInRowsOfOneLength) {
+  const TQorFloatMatrix ragged{{0, 0}, {0}};
+  for (const TQorFloatMatrix& m : {TQorFloatMatrix(), TQorFloatMatrix{{}, {}}, ragged}) {
+    EXPECT_MATH_ERROR(MatrixZeroRows(m), rsMatrixIsEmpty);
+    EXPECT_MATH_ERROR(MatrixIsIdentity(m), rsMatrixIsEmpty);
+  }
   EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0, 0}, {0, 1, 0}}), rsMatrixSqr);
   const RectangularCheckOff off;
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0}}), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixZeroRows(ragged), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixIsIdentity(ragged), rsMatrixRect);
+  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0}, {0, 5}}), 1U) << "rows count whole";
 }
 
 }  // namespace qorvex

@@ -1,6 +1,7 @@
 #include "qorvex/matrix/sorting.h"
 
 #include "qorvex/matrix/building.h"
+#include "qorvex/matrix/transpose.h"
 #include "support/failing_allocation.h"
 #include "support/random_matrices.h"
 #include "support/rectangular_check_off.h"
@@ -12,40 +13,14 @@ using testing::Engine;
 using testing::RandomMatrix;
 using testing::RectangularCheckOff;
 
+// The rows come in the order of their keys and are those of the source, whole.
 template <class T>
-using Lines = std::vector<std::vector<T>>;
-
-template <class T>
-Lines<T> Rows(const TQorMatrix<T>& matrix) {
-  Lines<T> rows;
-  for (const TQorVector<T>& row : matrix) rows.emplace_back(row.begin(), row.end());
-  return rows;
-}
-
-template <class T>
-Lines<T> Columns(const TQorMatrix<T>& matrix) {
-  Lines<T> columns(matrix[0].size(), std::vector<T>(matrix.size()));
-  for (std::size_t i = 0; i < matrix.size(); ++i) {
-    for (std::size_t j = 0; j < columns.size(); ++j) columns[j][i] = matrix[i][j];
-  }
-  return columns;
-}
-
-// The keys come in the library's order, and the lines are the same ones, whole.
-template <class T>
-void ExpectSorted(Lines<T> lines, Lines<T> before, std::uint32_t key, bool ascending) {
-  const auto key_before = [=](const std::vector<T>& a, const std::vector<T>& b) {
+void ExpectSorted(const TQorMatrix<T>& matrix, const TQorMatrix<T>& source, std::uint32_t key,
+                  bool ascending) {
+  ASSERT_TRUE(std::ranges::is_sorted(matrix, [=](const auto& a, const auto& b) {
     return ascending ? a[key] < b[key] : a[key] > b[key];
-  };
-  std::stable_sort(before.begin(), before.end(), key_before);
-  const auto same_key = [=](const auto& a, const auto& b) { return a[key] == b[key]; };
-  ASSERT_TRUE(std::ranges::equal(lines, before, same_key));
-  const auto any_order = [](const std::vector<T>& a, const std::vector<T>& b) {
-    return std::ranges::lexicographical_compare(a, b);
-  };
-  std::ranges::sort(lines, any_order);
-  std::ranges::sort(before, any_order);
-  ASSERT_EQ(lines, before);
+  }));
+  ASSERT_TRUE(std::ranges::is_permutation(matrix, source));
 }
 
 template <class T>
@@ -60,20 +35,19 @@ TYPED_TEST(MatrixSorting, LinesStayWholeInTheOrderOfTheirKeys) {
   for (const auto& [rows, cols] : shapes) {
     for (int trial = 0; trial < 8; ++trial) {
       const bool ascending = trial % 2 == 0;
-      const bool ties = trial % 4 < 2;
       const auto row = static_cast<std::uint32_t>(engine() % rows);
       const auto col = static_cast<std::uint32_t>(engine() % cols);
       auto m = RandomMatrix<T>(engine, rows, cols);
-      if (ties) {
+      if (trial % 4 < 2) {  // ties
         for (auto& r : m) r[col] = static_cast<T>(engine() % 4);
         for (T& x : m[row]) x = static_cast<T>(engine() % 4);
       }
       auto by_col = CopyMatrix(m);
       QSortMatrixRowsOnCol(by_col, col, ascending);
-      ExpectSorted(Rows(by_col), Rows(m), col, ascending);
+      ExpectSorted(by_col, m, col, ascending);
       auto by_row = CopyMatrix(m);
       QSortMatrixColsOnRow(by_row, row, ascending);
-      ExpectSorted(Columns(by_row), Columns(m), row, ascending);
+      ExpectSorted(TransposeMatrix(by_row), TransposeMatrix(m), row, ascending);
     }
   }
 }
@@ -104,12 +78,11 @@ TEST(MatrixSortingLines, ContentsMoveAndBuffersStay) {
 TEST(MatrixSortingLines, SharedRowsLoseNothing) {
   Engine engine(5);
   for (int trial = 0; trial < 200; ++trial) {
-    const TQorByteMatrix buffers{{0, 0}, {1, 1}, {2, 2}, {3, 3}};
-    TQorByteMatrix m = CopyMatrix(buffers);
+    TQorByteMatrix m{{0, 0}, {1, 1}, {2, 2}, {3, 3}};
     for (int extra = 0; extra < 4; ++extra) m.Append(m[engine() % m.size()]);
     std::shuffle(m.begin(), m.end(), engine);
     QSortMatrixRowsOnCol(m, 0, true);
-    for (const TQorByteVector& content : buffers) {
+    for (const TQorByteVector& content : TQorByteMatrix{{0, 0}, {1, 1}, {2, 2}, {3, 3}}) {
       ASSERT_TRUE(std::ranges::find(m, content) != m.end());
     }
   }

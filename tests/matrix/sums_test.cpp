@@ -13,18 +13,15 @@ TEST(MatrixSums, GrandMeanCountsRaggedRows) {
   EXPECT_EQ(count, 3U);
   EXPECT_EQ(GrandMean(TQorFloatMatrix{{0x1p64L, 1}, {1, 0}}, count), 0x1p62L) << "each 1 is lost";
   EXPECT_EQ(GrandMean(TQorSingleMatrix{{1}, {0x1p-60F}}, count), 0.5L + 0x1p-61L);
-  constexpr std::int64_t longest = std::numeric_limits<std::int64_t>::max();
-  EXPECT_EQ(GrandMean(TQorInt64Matrix{{longest, longest}, {longest, longest}}, count),
-            static_cast<Extended>(longest))
+  EXPECT_EQ(GrandMean(TQorInt64Matrix{{INT64_MAX, INT64_MAX}, {INT64_MAX, INT64_MAX}}, count),
+            0x1p63L - 1)
       << "does not wrap";
-  constexpr std::int32_t smallest = std::numeric_limits<std::int32_t>::min();
-  EXPECT_EQ(GrandMean(TQorLIntMatrix{{smallest, smallest}, {smallest}, {1}}, count),
+  EXPECT_EQ(GrandMean(TQorLIntMatrix{{INT32_MIN, INT32_MIN}, {INT32_MIN}, {1}}, count),
             (3 * -0x1p31L + 1) / 4);
   EXPECT_TRUE(std::isnan(GrandMean(TQorFloatMatrix{{1, kNaN}}, count)));
 
-  count = 7;
   EXPECT_MATH_ERROR(GrandMean(TQorFloatMatrix(), count), rsMatrixIsEmpty);
-  EXPECT_EQ(count, 7U);
+  EXPECT_EQ(count, 2U) << "as it was";
   EXPECT_MATH_ERROR(GrandMean(TQorLIntMatrix{{}, {}}, count), rsMatrixIsEmpty);
   EXPECT_EQ(count, 0U);
 }
@@ -36,10 +33,9 @@ TEST(MatrixSums, RowsAndColumnsWidenAndWrap) {
   const TQorSIntMatrix bytes{{-128, -128, 1}, {-128, 3, 4}};
   EXPECT_EQ(SumMatrixRow(bytes, 0), -255);
   EXPECT_EQ(SumMatrixCol(bytes, 0), -256);
-  constexpr std::int64_t longest = std::numeric_limits<std::int64_t>::max();
-  const TQorInt64Matrix longs{{longest, 1}, {2, 0}};
-  EXPECT_EQ(SumMatrixRow(longs, 0), -longest - 1);
-  EXPECT_EQ(SumMatrixCol(longs, 0), -longest);
+  const TQorInt64Matrix longs{{INT64_MAX, 1}, {2, 0}};
+  EXPECT_EQ(SumMatrixRow(longs, 0), INT64_MIN);
+  EXPECT_EQ(SumMatrixCol(longs, 0), -INT64_MAX);
   const TQorSingleMatrix singles{{1, 0x1p-60F}, {0x1p64F, 1}, {1, 5}};
   EXPECT_EQ(SumMatrixRow(singles, 0), 1 + 0x1p-60L);
   EXPECT_EQ(SumMatrixCol(singles, 0), 0x1p64L) << "in ascending order each 1 is lost";
