@@ -13,6 +13,10 @@ int main() {
   expect(SumVector(values) == 7 && DotProdVectors(values, values) == 25);
   expect(SumVector(qorvex::TQorByteVector{200, 100}) == 300);
 
+  qorvex::TQorFloatMatrix matrix = {{0, 2}, {4, 0}};
+  expect(MatrixInverse(matrix, matrix) && matrix == qorvex::TQorFloatMatrix{{0, 0.25L}, {0.5L, 0}});
+  expect(SumMatrixRow(matrix, 1) == 0.5L && qorvex::QorMatrixRectangularCheck);
+
   // An error that a library raises is caught here by its type.
   try {
     static_cast<void>(qorvex::CheckedDivide(1, 0));
