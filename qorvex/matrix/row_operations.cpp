@@ -9,9 +9,7 @@ namespace {
 
 template <class T, class... Rows>
 std::size_t CheckedWidth(const TQorMatrix<T>& matrix, Rows... rows) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireRectangular(shape);
+  const detail::Shape shape = detail::RequireRectangularShape(matrix);
   (detail::RequireRow(shape, rows), ...);
   (detail::RequireLength(matrix[rows], shape.cols), ...);
   return shape.cols;
@@ -19,9 +17,7 @@ std::size_t CheckedWidth(const TQorMatrix<T>& matrix, Rows... rows) {
 
 template <class T, class... Cols>
 void CheckCols(const TQorMatrix<T>& matrix, Cols... cols) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireRectangular(shape);
+  const detail::Shape shape = detail::RequireRectangularShape(matrix);
   (detail::RequireCol(shape, cols), ...);
   detail::RequireLengths(matrix, shape.cols);
 }

@@ -35,14 +35,6 @@ void AddRow(const TQorLIntVector& row, Extended& sum) {
   sum += static_cast<Extended>(row_sum.Value());
 }
 
-template <class T>
-detail::Shape RequireShape(const TQorMatrix<T>& matrix) {
-  const detail::Shape shape = detail::ShapeOf(matrix);
-  detail::RequireElements(shape);
-  detail::RequireRectangular(shape);
-  return shape;
-}
-
 }  // namespace
 
 template <SignedArithmeticElement T>
@@ -62,7 +54,7 @@ Extended GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count) {
 template <NumericElement T>
 requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixRow(const TQorMatrix<T>& matrix,
                                                                std::uint32_t row) {
-  const detail::Shape shape = RequireShape(matrix);
+  const detail::Shape shape = detail::RequireRectangularShape(matrix);
   detail::RequireRow(shape, row);
   detail::RequireLength(matrix[row], shape.cols);
   const T* const elements = matrix[row].data();
@@ -72,7 +64,7 @@ requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixRow(const TQorMatrix<
 template <NumericElement T>
 requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixCol(const TQorMatrix<T>& matrix,
                                                                std::uint32_t col) {
-  const detail::Shape shape = RequireShape(matrix);
+  const detail::Shape shape = detail::RequireRectangularShape(matrix);
   detail::RequireCol(shape, col);
   detail::RequireLengths(matrix, shape.cols);
   return SumInOrder<T>(shape.rows, [&](std::size_t i) { return matrix[i][col]; });

@@ -87,12 +87,20 @@ void RequireLengths(const TQorMatrix<T>& matrix, std::size_t length) {
   for (const TQorVector<T>& row : matrix) RequireLength(row, length);
 }
 
-// The shape of a matrix that has elements, in rows of one length.
+// The shape of a matrix that has elements and, as far as ShapeOf looks, rows of one length. For
+// routines that check indices next, and then the lengths of the rows that they touch.
 template <class T>
-Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
+Shape RequireRectangularShape(const TQorMatrix<T>& matrix) {
   const Shape shape = ShapeOf(matrix);
   RequireElements(shape);
   RequireRectangular(shape);
+  return shape;
+}
+
+// The same for routines that touch all rows.
+template <class T>
+Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
+  const Shape shape = RequireRectangularShape(matrix);
   RequireLengths(matrix, shape.cols);
   return shape;
 }
