@@ -26,13 +26,16 @@ namespace qorvex::inline QorvexGlobals {
 /// positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended Beta(Extended a, Extended b);
 
-/// The incomplete beta function, regularised: I(x; a, b), point first. EInvalidOp unless 0 <= x <= 1
-/// and a and b are positive and at most 1e15.
+/// The incomplete beta function, regularised: I(x; a, b), point first. EInvalidOp unless 0 <= x <=
+/// 1 and a and b are positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteBeta(Extended x, Extended a, Extended b);
 
 /// The point x with IncompleteBeta(x, a, b) = p, probability first. EInvalidOp unless 0 <= p <= 1
-/// and a and b are positive and at most 1e15. The library's root is checked; where there is none,
-/// or a false one, the point is found by bisection.
+/// and a and b are positive and at most 1e15. A point too small for the format is 0.
 [[nodiscard]] QORVEX_EXPORT Extended InverseIncompleteBeta(Extended p, Extended a, Extended b);
+
+/// The inverse of the complementary error function: infinity for 0 and -infinity for 2. EInvalidOp
+/// unless 0 <= y <= 2.
+[[nodiscard]] QORVEX_EXPORT Extended InverseErfc(Extended y);
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -48,17 +48,17 @@ class Table {
 };
 
 /// The largest relative error of compute(row) against a column, over the rows whose expected value
-/// is at least 1e-20. The error is in units of 1e-19; rounding to 80 bits alone makes 0.54.
+/// is at least `least` in magnitude. The error is in units of 1e-19; rounding to 80 bits alone makes 0.54.
 template <class Compute>
 void ExpectWorstError(const Table& table, const std::string& column, Extended limit,
-                      Compute compute) {
+                      Compute compute, Extended least = 1e-20L) {
   Extended worst = 0;
   std::size_t worst_row = 0;
   std::size_t judged = 0;
   for (std::size_t row = 0; row < table.size(); ++row) {
     if (table.Text(row, column).empty()) continue;
     const Extended expected = table.Value(row, column);
-    if (!(std::fabs(expected) >= 1e-20L)) continue;
+    if (!(std::fabs(expected) >= least)) continue;
     ++judged;
     const Extended error = std::fabs(compute(row) - expected) / std::fabs(expected) * 1e19L;
     ASSERT_FALSE(std::isnan(error)) << column << ", row " << row + 1;

@@ -1,0 +1,114 @@
+#include "qorvex/base/detail/regularised_beta.h"
+
+#include <boost/math/special_functions/beta.hpp>
+#include <cmath>
+#include <limits>
+#include <utility>
+
+#include "qorvex/base/detail/boost_math.h"
+#include "qorvex/base/detail/tail_solver.h"
+
+namespace qorvex::inline QorvexGlobals::detail {
+
+namespace {
+
+// The lower tail is x^a (1 - x)^b / B(a, b) divided by this continued fraction, where
+// lambda = a (1 - x) - b x >= 0. Evaluated by Steed's method (Barnett et al. 1974, "Coulomb wave
+// functions for all real eta and rho").
+Extended LowerFraction(Extended a, Extended b, Extended x, Extended lambda) {
+  constexpr Extended rounding = std::numeric_limits<Extended>::epsilon() / 4;
+  Extended fraction = a * (lambda + 1) / (a + 1);
+  Extended inverse = 0;
+  Extended difference = -1;
+  Extended reciprocal = 1 / (a + 1);
+  Extended n = 0;
+  do {
+    n += 1;
+    const Extended step = n * (b - n) * x * reciprocal;
+    const Extended numerator = (a + n - 1) * (a + b + n - 1) * x * reciprocal * step;
+    reciprocal = 1 / (a + 2 * n + 1);
+    const Extended denominator = n + step + (a + n) * reciprocal * (lambda + 1 + n * (2 - x));
+    const Extended next = 1 / (denominator + numerator * inverse);
+    difference *= n == 1 ? -numerator * next : -numerator * inverse * next;
+    inverse = next;
+    fraction += difference;
+  } while (std::fabs(difference) > std::fabs(fraction) * rounding);
+  return fraction;
+}
+
+// The tails where the fraction is slow or its tail not the one to know. x and y sum to one.
+Tails BoostTails(Tail tail, Extended a, Extended b, Extended x, Extended y) {
+  // The smaller of x and y is the one that is known well.
+  const bool mirrored = x > y;
+  const auto lower = [=] {
+    return mirrored ? boost::math::ibetac(b, a, y, kBoostPolicy)
+                    : boost::math::ibeta(a, b, x, kBoostPolicy);
+  };
+  const auto upper = [=] {
+    return mirrored ? boost::math::ibeta(b, a, y, kBoostPolicy)
+                    : boost::math::ibetac(a, b, x, kBoostPolicy);
+  };
+  const Extended probability = Evaluate(lower);
+  if (probability < 0.5L) return {tail, Scaled{probability, ExtendedPair()}};
+  return {Opposite(tail), Scaled{Evaluate(upper), ExtendedPair()}};
+}
+
+}  // namespace
+
+RegularisedBeta::RegularisedBeta(Extended a, Extended b)
+    : a_(a),
+      b_(b),
+      inverse_beta_(Scaled{a / (a + b) * b, ExtendedPair()} * FactorialOf(ExactSum(a, b)) /
+                    (FactorialOf(a) * FactorialOf(b))) {}
+
+Scaled RegularisedBeta::LogOddsDensity(const Odds& odds) const {
+  const ExtendedPair both = odds.in_favour + odds.against;
+  return inverse_beta_ * Power(odds.in_favour / both, a_) * Power(odds.against / both, b_);
+}
+
+Tails RegularisedBeta::At(const Odds& odds) const {
+  const ExtendedPair both = odds.in_favour + odds.against;
+  const Extended lambda = ((a_ * odds.against - b_ * odds.in_favour) / both).hi;
+  // The tail on this side of the mean; below, a and x are of its side.
+  const Tail tail = lambda >= 0 ? Tail::kLower : Tail::kUpper;
+  const bool lower = tail == Tail::kLower;
+  const Extended a = lower ? a_ : b_;
+  const Extended b = lower ? b_ : a_;
+  const Extended x = ((lower ? odds.in_favour : odds.against) / both).hi;
+  const Extended y = ((lower ? odds.against : odds.in_favour) / both).hi;
+  constexpr Extended slow = 1e-3L;
+  if (b < 1 && y < slow && a * y < 1) return BoostTails(tail, a, b, x, y);
+  Scaled probability = LogOddsDensity(odds);
+  probability.factor /= LowerFraction(a, b, x, std::fabs(lambda));
+  constexpr Extended most = 0.9L;
+  if (a < 1 && probability.Value() > most) return BoostTails(tail, a, b, x, y);
+  return {tail, probability};
+}
+
+Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
+  if (p > 0.5L) return QuantileOdds(Opposite(tail), 1 - p);
+  if (tail == Tail::kUpper) {
+    RegularisedBeta mirrored = *this;
+    std::swap(mirrored.a_, mirrored.b_);
+    return Scaled() / mirrored.QuantileOdds(Tail::kLower, p);
+  }
+  // Far down the lower tail is x^a / (a B(a, b)).
+  const ExtendedPair ln_power = Ln(ExtendedPair(p)) + Ln(ExtendedPair(a_)) - Ln(inverse_beta_);
+  const Scaled asymptote{1, ln_power / a_};
+  constexpr Extended exact_below = 1e-25L;
+  if (asymptote.Value() * std::fmax(b_, 1) < exact_below) return asymptote;
+  Extended start = std::fmin(asymptote.Value(), std::fmax(a_ / b_, 1));
+  if (a_ >= 1 && b_ >= 1) {
+    // The logarithm of the odds is about normal.
+    const Extended deviation = std::sqrt(1 / a_ + 1 / b_);
+    start = (a_ - 0.5L) / (b_ - 0.5L) * std::exp(RoughNormalQuantile(p) * deviation);
+  }
+  constexpr Extended unlimited = std::numeric_limits<Extended>::max();
+  const Extended odds = SolveTail(tail, p, start, unlimited, [this](Extended at) {
+    const Odds here{at, 1};
+    return TailsAndDensity{At(here), LogOddsDensity(here), (a_ - b_ * at) / (1 + at)};
+  });
+  return {odds, ExtendedPair()};
+}
+
+}  // namespace qorvex::inline QorvexGlobals::detail

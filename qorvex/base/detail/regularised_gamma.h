@@ -1,0 +1,35 @@
+#pragma once
+
+/// @file
+/// The gamma distribution with full relative accuracy in both tails.
+
+#include "qorvex/base/detail/tails.h"
+#include "qorvex/base/export.h"
+
+namespace qorvex::inline QorvexGlobals::detail {
+
+/// The gamma distribution of a shape from above 0 to 1e15 and scale 1.
+///
+/// Below the shape the power series gives the lower tail, above it the continued fraction gives the
+/// upper one; both take at most some tens of terms times the square root of the shape. Around large
+/// shapes Boost.Math's uniform expansion takes over, and for small shapes Boost.Math gives the
+/// upper tail where it is what the lower one leaves of 1.
+class QORVEX_EXPORT RegularisedGamma {
+ public:
+  explicit RegularisedGamma(Extended shape);
+
+  /// Both tails at 0 < x < infinity.
+  [[nodiscard]] Tails At(ExtendedPair x) const;
+  /// x f(x) for the density f, at 0 < x < infinity: x^a e^-x / Gamma(a).
+  [[nodiscard]] Scaled LogDensity(ExtendedPair x) const;
+  /// The point with the given tail, 0 < p < 1. 0 where it is too small for the format.
+  [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
+
+ private:
+  [[nodiscard]] Extended Start(Tail tail, Extended p, Extended asymptote) const;
+
+  Extended shape_;
+  Scaled factorial_;  // of the shape
+};
+
+}  // namespace qorvex::inline QorvexGlobals::detail

@@ -1,0 +1,22 @@
+#pragma once
+
+/// @file
+/// The standard normal distribution, behind the normal and the log-normal one.
+
+#include "qorvex/stats/full_precision/shared.h"
+
+namespace qorvex::full_precision::detail {
+
+/// (x - mean) / std_dev.
+[[nodiscard]] ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev);
+
+/// Both tails at any z but NaN.
+[[nodiscard]] Tails StandardNormalTails(ExtendedPair z);
+
+/// The density at z, divided by the given scale.
+[[nodiscard]] Scaled StandardNormalDensity(ExtendedPair z, Extended scale);
+
+/// The z with the given tail, 0 < p < 1, to more than 64 bits.
+[[nodiscard]] ExtendedPair StandardNormalQuantile(Tail tail, Extended p);
+
+}  // namespace qorvex::full_precision::detail
