@@ -6,6 +6,7 @@
 
 #include "qorvex/base/detail/boost_math.h"
 #include "qorvex/base/detail/tail_solver.h"
+#include "qorvex/base/detail/uniform_gamma.h"
 
 namespace qorvex::inline QorvexGlobals::detail {
 
@@ -45,18 +46,9 @@ Extended UpperFraction(Extended a, Extended x) {
   return fraction;
 }
 
-Extended BoostLower(Extended a, Extended x) {
-  return Evaluate([=] { return boost::math::gamma_p(a, x, kBoostPolicy); });
-}
-
 Extended BoostUpper(Extended a, Extended x) {
   return Evaluate([=] { return boost::math::gamma_q(a, x, kBoostPolicy); });
 }
-
-// From here on the uniform expansion is quicker, and no less accurate within four and a half
-// standard deviations.
-constexpr Extended kLargeShape = 1000;
-constexpr Extended kCentreSquared = 19;
 
 }  // namespace
 
@@ -70,11 +62,8 @@ Scaled RegularisedGamma::LogDensity(ExtendedPair x) const {
 Tails RegularisedGamma::At(ExtendedPair x) const {
   const Extended a = shape_;
   const Extended point = x.hi;
-  const Extended distance = point - a;
-  if (a >= kLargeShape && distance * distance < kCentreSquared * a) {
-    const bool lower = point < a;
-    return {lower ? Tail::kLower : Tail::kUpper,
-            {lower ? BoostLower(a, point) : BoostUpper(a, point), ExtendedPair()}};
+  if (a >= kUniformShape && std::fabs(point - a) < kUniformDistance * a) {
+    return UniformGammaTails(a, x);
   }
   Scaled density = LogDensity(x);
   if (point <= 1 || point < a) {
@@ -92,8 +81,8 @@ Tails RegularisedGamma::At(ExtendedPair x) const {
 Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
   // Far down the lower tail is x^a / Gamma(a + 1).
-  const ExtendedPair ln_lower = Ln(ExtendedPair(tail == Tail::kLower ? p : 1 - p));
-  const Extended asymptote = Scaled{1, (ln_lower + Ln(factorial_)) / shape_}.Value();
+  const ExtendedPair lower = tail == Tail::kLower ? ExtendedPair(p) : ExactSum(1, -p);
+  const Extended asymptote = Scaled{1, (Ln(lower) + Ln(factorial_)) / shape_}.Value();
   constexpr Extended exact_below = 1e-25L;
   if (asymptote < exact_below) return asymptote;
   const Extended start = Start(tail, p, asymptote);

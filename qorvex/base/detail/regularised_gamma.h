@@ -11,9 +11,9 @@ namespace qorvex::inline QorvexGlobals::detail {
 /// The gamma distribution of a shape from above 0 to 1e15 and scale 1.
 ///
 /// Below the shape the power series gives the lower tail, above it the continued fraction gives the
-/// upper one; both take at most some tens of terms times the square root of the shape. Around large
-/// shapes Boost.Math's uniform expansion takes over, and for small shapes Boost.Math gives the
-/// upper tail where it is what the lower one leaves of 1.
+/// upper one, each in some hundred terms at most, because around large shapes an expansion takes
+/// over. For small shapes Boost.Math gives the upper tail where it is what the lower one leaves
+/// of 1.
 class QORVEX_EXPORT RegularisedGamma {
  public:
   explicit RegularisedGamma(Extended shape);

@@ -1,7 +1,9 @@
 #include "qorvex/base/detail/scaled.h"
 
+#include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 
+#include "qorvex/base/detail/boost_math.h"
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/special_functions.h"
 
@@ -48,8 +50,13 @@ Scaled FactorialOf(ExtendedPair a) {
   if (a.hi >= stirling_from) {
     return {std::sqrt(2 * QorPi * a.hi) * std::exp(StirlingError(a.hi)), a * Ln(a) - a};
   }
-  constexpr Extended tiny = 1e-25L;
-  if (a.hi < tiny) return {};
+  constexpr Extended near_one_below = 0.5L;
+  if (a.hi < near_one_below) {
+    // Quantiles of small shapes take this to the power 1 / a, so what it differs from 1 counts.
+    const Extended difference =
+        Evaluate([&] { return boost::math::tgamma1pm1(a.hi, kBoostPolicy); });
+    return {1, Ln(OrderedSum(1, difference))};
+  }
   // The derivative of the logarithm, well enough for the half unit that the low part can be.
   const Extended digamma = std::log(a.hi + 0.5L);
   return {a.hi * Gamma(a.hi) * (1 + digamma * a.lo), ExtendedPair()};

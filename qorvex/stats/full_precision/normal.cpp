@@ -36,7 +36,7 @@ Extended NormalPdf(Extended mean, Extended std_dev, Extended x) {
   Check(mean, std_dev);
   if (AnyNaN(mean, std_dev, x)) return kNaN;
   if (std::isinf(x)) return 0;
-  return StandardNormalDensity(Standardised(x, mean, std_dev), std_dev).Value();
+  return NormalDensity(Standardised(x, mean, std_dev), std_dev).Value();
 }
 
 Extended NormalLower(Extended mean, Extended std_dev, Extended x) {

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
+#include "qorvex/base/detail/normal_tail.h"
 #include "qorvex/base/detail/regularised_beta.h"
 #include "qorvex/base/detail/regularised_gamma.h"
 #include "qorvex/base/detail/tails.h"
@@ -18,6 +19,8 @@ using QorvexGlobals::detail::ExtendedPair;
 using QorvexGlobals::detail::FactorialOf;
 using QorvexGlobals::detail::FromOdds;
 using QorvexGlobals::detail::Ln;
+using QorvexGlobals::detail::NormalDensity;
+using QorvexGlobals::detail::NormalUpperTail;
 using QorvexGlobals::detail::Odds;
 using QorvexGlobals::detail::Power;
 using QorvexGlobals::detail::RegularisedBeta;

@@ -13,9 +13,6 @@ namespace qorvex::full_precision::detail {
 /// Both tails at any z but NaN.
 [[nodiscard]] Tails StandardNormalTails(ExtendedPair z);
 
-/// The density at z, divided by the given scale.
-[[nodiscard]] Scaled StandardNormalDensity(ExtendedPair z, Extended scale);
-
 /// The z with the given tail, 0 < p < 1, to more than 64 bits.
 [[nodiscard]] ExtendedPair StandardNormalQuantile(Tail tail, Extended p);
 
