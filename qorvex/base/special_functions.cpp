@@ -17,11 +17,11 @@ namespace {
 using detail::Evaluate;
 using detail::kBoostPolicy;
 
-// Beyond this the series and continued fractions take too many terms to end in sensible time.
-constexpr Extended kLargestShape = 1e15L;
-
+// Between these the methods hold and end in sensible time.
 bool IsShape(Extended a) {
-  return a > 0 && a <= kLargestShape;
+  constexpr Extended smallest = 1e-18L;
+  constexpr Extended largest = 1e15L;
+  return a >= smallest && a <= largest;
 }
 
 // Raises unless value is in [0, 1] and the shapes are in range; NaN passes.

@@ -1,13 +1,12 @@
 #pragma once
 
 /// @file
-/// The gamma and beta functions in extended precision, on Boost.Math.
+/// The gamma and beta functions and their inverses in extended precision.
 ///
 /// NaN arguments give NaN. Errors are the runtime's: EInvalidOp outside the domain, EZeroDivide at
 /// a pole, EOverflow when the value is beyond the extended range. Values too small for the format
-/// become 0, and subnormal ones may. The beta functions take shapes up to 1e15; beyond it their
-/// methods would not end in sensible time, and they raise EInvalidOp. The costs are those of tens
-/// to thousands of arithmetic operations.
+/// become 0, and subnormal ones may. Gamma functions, Beta and InverseErfc are Boost.Math's. The
+/// costs are those of some hundred to some thousand arithmetic operations.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -23,15 +22,15 @@ namespace qorvex::inline QorvexGlobals {
 [[nodiscard]] QORVEX_EXPORT Extended LnGamma(Extended x);
 
 /// The beta function B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). EInvalidOp unless a and b are
-/// positive and at most 1e15.
+/// from 1e-18 to 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended Beta(Extended a, Extended b);
 
 /// The incomplete beta function, regularised: I(x; a, b), point first. EInvalidOp unless 0 <= x <=
-/// 1 and a and b are positive and at most 1e15.
+/// 1 and a and b are from 1e-18 to 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteBeta(Extended x, Extended a, Extended b);
 
 /// The point x with IncompleteBeta(x, a, b) = p, probability first. EInvalidOp unless 0 <= p <= 1
-/// and a and b are positive and at most 1e15. A point too small for the format is 0.
+/// and a and b are from 1e-18 to 1e15. A point too small for the format is 0.
 [[nodiscard]] QORVEX_EXPORT Extended InverseIncompleteBeta(Extended p, Extended a, Extended b);
 
 /// The inverse of the complementary error function: infinity for 0 and -infinity for 2. EInvalidOp

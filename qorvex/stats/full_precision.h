@@ -22,12 +22,19 @@
 /// rsValue01 unless 0 < p < 1, then the family's own messages; a quantile that is too small for the
 /// format is 0, one beyond it raises EOverflow.
 ///
-/// Probabilities are off by at most some hundred units of the 64-bit mantissa, in the farthest tail
-/// too, and quantiles by a few, as long as shapes and degrees of freedom stay below a million;
-/// above, by some units times the square root of the shape over a thousand. Shapes end at 1e15
-/// (EInvalidOp). docs/accuracy.md has the measured figures. The cost is that of tens to hundreds of
-/// arithmetic operations, for large shapes of as many as the square root of the shape; a quantile
-/// takes three to ten times as long as a probability.
+/// Shapes, and half of degrees of freedom, must be from 1e-18 to 1e15 (EInvalidOp after the
+/// family's own messages). Probabilities are off by a dozen units of the 64-bit mantissa at most,
+/// in the farthest tail too, and for beta shapes above 1000 by some more: forty at a million.
+/// Quantiles are off by a few; for shapes below 0.1 by as many as 1 / shape, because that is how
+/// much the last bit of p moves them. docs/accuracy.md has the measured figures. A probability
+/// costs some hundred to thousand arithmetic operations, and a quantile three to six times as much,
+/// whatever the parameters; only beta shapes and populations above a million take longer, up to
+/// some ten milliseconds.
+///
+/// Methods: gamma tails by series, Legendre's continued fraction and Temme's expansion (1979, "The
+/// asymptotic expansion of the incomplete gamma functions"); beta tails by the continued fraction
+/// of DiDonato and Morris (1992, "Algorithm 708"); powers and factorials in them with exponents of
+/// 125 bits; quantiles by Halley's iteration on the logarithm of the smaller tail.
 
 #include <cstdint>
 

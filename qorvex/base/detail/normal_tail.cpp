@@ -20,7 +20,9 @@ Extended FarMillsRatio(Extended z) {
 
 Scaled NormalDensity(ExtendedPair z, Extended scale) {
   const ExtendedPair square = z * z;
-  return {1 / (std::sqrt(2 * QorPi) * scale), {-square.hi / 2, -square.lo / 2}};
+  // The low part of an infinite square is NaN.
+  const Extended low = std::isinf(square.hi) ? 0 : -square.lo / 2;
+  return {1 / (std::sqrt(2 * QorPi) * scale), {-square.hi / 2, low}};
 }
 
 Scaled NormalUpperTail(ExtendedPair z) {

@@ -53,6 +53,12 @@ Tails BoostTails(Tail tail, Extended a, Extended b, Extended x, Extended y) {
   return {Opposite(tail), Scaled{Evaluate(upper), ExtendedPair()}};
 }
 
+// The logarithm of a quotient that may be too small for the format.
+ExtendedPair LnOfRatio(ExtendedPair ratio, ExtendedPair numerator, ExtendedPair denominator) {
+  constexpr Extended least = 1e-4900L;
+  return ratio.hi > least ? Ln(ratio) : Ln(numerator) - Ln(denominator);
+}
+
 }  // namespace
 
 RegularisedBeta::RegularisedBeta(Extended a, Extended b)
@@ -61,28 +67,42 @@ RegularisedBeta::RegularisedBeta(Extended a, Extended b)
       inverse_beta_(Scaled{a / (a + b) * b, ExtendedPair()} * FactorialOf(ExactSum(a, b)) /
                     (FactorialOf(a) * FactorialOf(b))) {}
 
-Scaled RegularisedBeta::LogOddsDensity(const Odds& odds) const {
+RegularisedBeta::Point::Point(const Odds& odds) {
   const ExtendedPair both = odds.in_favour + odds.against;
-  return inverse_beta_ * Power(odds.in_favour / both, a_) * Power(odds.against / both, b_);
+  x = odds.in_favour / both;
+  y = odds.against / both;
+  ln_x = LnOfRatio(x, odds.in_favour, both);
+  ln_y = LnOfRatio(y, odds.against, both);
+}
+
+Scaled RegularisedBeta::DensityAt(const Point& point) const {
+  return inverse_beta_ * Scaled{1, a_ * point.ln_x + b_ * point.ln_y};
+}
+
+Scaled RegularisedBeta::LogOddsDensity(const Odds& odds) const {
+  return DensityAt(Point(odds));
 }
 
 Tails RegularisedBeta::At(const Odds& odds) const {
-  const ExtendedPair both = odds.in_favour + odds.against;
-  const Extended lambda = ((a_ * odds.against - b_ * odds.in_favour) / both).hi;
+  const Point point(odds);
+  return TailsAt(point, DensityAt(point));
+}
+
+Tails RegularisedBeta::TailsAt(const Point& point, Scaled density) const {
+  const Extended lambda = (a_ * point.y - b_ * point.x).hi;
   // The tail on this side of the mean; below, a and x are of its side.
-  const Tail tail = lambda >= 0 ? Tail::kLower : Tail::kUpper;
-  const bool lower = tail == Tail::kLower;
+  const bool lower = lambda >= 0;
+  const Tail tail = lower ? Tail::kLower : Tail::kUpper;
   const Extended a = lower ? a_ : b_;
   const Extended b = lower ? b_ : a_;
-  const Extended x = ((lower ? odds.in_favour : odds.against) / both).hi;
-  const Extended y = ((lower ? odds.against : odds.in_favour) / both).hi;
+  const Extended x = (lower ? point.x : point.y).hi;
+  const Extended y = (lower ? point.y : point.x).hi;
   constexpr Extended slow = 1e-3L;
   if (b < 1 && y < slow && a * y < 1) return BoostTails(tail, a, b, x, y);
-  Scaled probability = LogOddsDensity(odds);
-  probability.factor /= LowerFraction(a, b, x, std::fabs(lambda));
+  density.factor /= LowerFraction(a, b, x, std::fabs(lambda));
   constexpr Extended most = 0.9L;
-  if (a < 1 && probability.Value() > most) return BoostTails(tail, a, b, x, y);
-  return {tail, probability};
+  if (a < 1 && density.Value() > most) return BoostTails(tail, a, b, x, y);
+  return {tail, density};
 }
 
 Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
@@ -105,8 +125,9 @@ Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
   }
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   const Extended odds = SolveTail(tail, p, start, unlimited, [this](Extended at) {
-    const Odds here{at, 1};
-    return TailsAndDensity{At(here), LogOddsDensity(here), (a_ - b_ * at) / (1 + at)};
+    const Point here({at, 1});
+    const Scaled density = DensityAt(here);
+    return TailsAndDensity{TailsAt(here, density), density, (a_ * here.y - b_ * here.x).hi};
   });
   return {odds, ExtendedPair()};
 }

@@ -41,9 +41,20 @@ class QORVEX_EXPORT RegularisedBeta {
   [[nodiscard]] Scaled QuantileOdds(Tail tail, Extended p) const;
 
  private:
+  // x and y = 1 - x, and their logarithms.
+  struct Point {
+    explicit Point(const Odds& odds);
+    ExtendedPair x;
+    ExtendedPair y;
+    ExtendedPair ln_x;
+    ExtendedPair ln_y;
+  };
+  [[nodiscard]] Scaled DensityAt(const Point& point) const;
+  [[nodiscard]] Tails TailsAt(const Point& point, Scaled density) const;
+
   Extended a_;
   Extended b_;
-  Scaled inverse_beta_;  // 1 / B(a, b)
+  Scaled inverse_beta_;
 };
 
 }  // namespace qorvex::inline QorvexGlobals::detail

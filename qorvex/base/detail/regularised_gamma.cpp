@@ -59,22 +59,25 @@ Scaled RegularisedGamma::LogDensity(ExtendedPair x) const {
   return Scaled{shape_, -x} * Power(x, shape_) / factorial_;
 }
 
+bool RegularisedGamma::IsUniform(Extended x) const {
+  return shape_ >= kUniformShape && std::fabs(x - shape_) < kUniformDistance * shape_;
+}
+
 Tails RegularisedGamma::At(ExtendedPair x) const {
+  return IsUniform(x.hi) ? UniformGammaTails(shape_, x) : TailsFrom(x.hi, LogDensity(x));
+}
+
+Tails RegularisedGamma::TailsFrom(Extended x, Scaled density) const {
   const Extended a = shape_;
-  const Extended point = x.hi;
-  if (a >= kUniformShape && std::fabs(point - a) < kUniformDistance * a) {
-    return UniformGammaTails(a, x);
-  }
-  Scaled density = LogDensity(x);
-  if (point <= 1 || point < a) {
-    density.factor *= LowerSeries(a, point) / a;
+  if (x <= 1 || x < a) {
+    density.factor *= LowerSeries(a, x) / a;
     constexpr Extended most = 0.9L;
     if (a < 1 && density.Value() > most) {
-      return {Tail::kUpper, {BoostUpper(a, point), ExtendedPair()}};
+      return {Tail::kUpper, {BoostUpper(a, x), ExtendedPair()}};
     }
     return {Tail::kLower, density};
   }
-  density.factor *= UpperFraction(a, point);
+  density.factor *= UpperFraction(a, x);
   return {Tail::kUpper, density};
 }
 
@@ -88,7 +91,9 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   const Extended start = Start(tail, p, asymptote);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
-    return TailsAndDensity{At(x), LogDensity(x), shape_ - x};
+    const Scaled density = LogDensity(x);
+    return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(x, density),
+                           density, shape_ - x};
   });
 }
 

@@ -26,6 +26,10 @@ class QORVEX_EXPORT RegularisedGamma {
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
 
  private:
+  // The expansion holds at x.
+  [[nodiscard]] bool IsUniform(Extended x) const;
+  // The tails from the density, where the expansion does not hold.
+  [[nodiscard]] Tails TailsFrom(Extended x, Scaled density) const;
   [[nodiscard]] Extended Start(Tail tail, Extended p, Extended asymptote) const;
 
   Extended shape_;

@@ -28,6 +28,8 @@ Extended StirlingError(Extended a) {
 }  // namespace
 
 Extended Scaled::Value() const {
+  constexpr Extended beyond = 30000;
+  if (std::fabs(exponent.hi) > beyond) return factor * std::exp(exponent.hi);
   // Moved away from the smallest numbers, where the exponential alone would lose digits.
   constexpr Extended low = -11000;
   constexpr Extended shift = 128;

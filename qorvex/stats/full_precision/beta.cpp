@@ -43,8 +43,8 @@ Extended BetaPdf(Extended a, Extended b, Extended x) {
   if (x == 0) return DensityAtEnd(a, b);
   if (x == 1) return DensityAtEnd(b, a);
   if (x < 0 || x > 1) return 0;
-  const Scaled density = RegularisedBeta(a, b).LogOddsDensity(OddsOf(x));
-  return (density / Scaled{x, ExtendedPair()} / Scaled{1 - x, ExtendedPair()}).Value();
+  const Odds odds = OddsOf(x);
+  return PerUnit(RegularisedBeta(a, b).LogOddsDensity(odds), Ln(odds.in_favour) + Ln(odds.against));
 }
 
 Extended BetaLower(Extended a, Extended b, Extended x) {

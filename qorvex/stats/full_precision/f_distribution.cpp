@@ -16,20 +16,17 @@ void Check(Extended df1, Extended df2) {
   RequireShape(df2 / 2);
 }
 
-// df1 f : df2, the odds of a beta variable.
+// f : df2 / df1, the odds of a beta variable.
 Odds OddsOf(Extended df1, Extended df2, Extended f) {
-  if (f > 1) return {df1, ExtendedPair(df2) / f};
-  return {ExtendedPair(df1) * f, df2};
+  return {f, ExtendedPair(df2) / df1};
 }
 
 Tails TailsAt(Extended df1, Extended df2, Extended f) {
   Check(df1, df2);
   if (AnyNaN(df1, df2, f)) return Unknown();
   if (f <= 0) return BelowAll();
-  const Odds odds = OddsOf(df1, df2, f);
-  if (odds.in_favour.hi == 0) return BelowAll();
-  if (odds.against.hi == 0) return AboveAll();
-  return RegularisedBeta(df1 / 2, df2 / 2).At(odds);
+  if (std::isinf(f)) return AboveAll();
+  return RegularisedBeta(df1 / 2, df2 / 2).At(OddsOf(df1, df2, f));
 }
 
 Extended Quantile(Extended df1, Extended df2, Tail tail, Extended p) {
@@ -48,7 +45,7 @@ Extended FDistPdf(Extended df1, Extended df2, Extended f) {
   if (f == 0) return DensityAtEnd(df1 / 2, 1);
   if (f < 0 || std::isinf(f)) return 0;
   const Scaled density = RegularisedBeta(df1 / 2, df2 / 2).LogOddsDensity(OddsOf(df1, df2, f));
-  return (density / Scaled{f, ExtendedPair()}).Value();
+  return PerUnit(density, Ln(ExtendedPair(f)));
 }
 
 Extended FDistLower(Extended df1, Extended df2, Extended f) {

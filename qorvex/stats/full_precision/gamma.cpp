@@ -39,7 +39,7 @@ Extended GammaPdf(Extended shape, Extended scale, Extended x) {
   if (x == 0) return DensityAtEnd(shape, 1 / scale);
   const ExtendedPair ratio = ExtendedPair(x) / scale;
   if (x < 0 || !(ratio.hi <= kLargest)) return 0;
-  return (RegularisedGamma(shape).LogDensity(ratio) / Scaled{x, ExtendedPair()}).Value();
+  return PerUnit(RegularisedGamma(shape).LogDensity(ratio), Ln(ExtendedPair(x)));
 }
 
 Extended GammaLower(Extended shape, Extended scale, Extended x) {

@@ -37,8 +37,7 @@ Extended LogNormalPdf(Extended mean, Extended std_dev, Extended x) {
   if (AnyNaN(mean, std_dev, x)) return kNaN;
   if (x <= 0 || std::isinf(x)) return 0;
   const ExtendedPair ln_x = Ln(ExtendedPair(x));
-  const Scaled density = NormalDensity(Standardised(ln_x, mean, std_dev), std_dev);
-  return (density * Scaled{1, -ln_x}).Value();
+  return PerUnit(NormalDensity(Standardised(ln_x, mean, std_dev), std_dev), ln_x);
 }
 
 Extended LogNormalLower(Extended mean, Extended std_dev, Extended x) {

@@ -54,10 +54,12 @@ inline void RequireFinite(Extended parameter) {
   if (std::isinf(parameter)) throw EInvalidOp();
 }
 
-/// The methods for shapes end in sensible time up to here.
+/// Raises EInvalidOp unless the shape is from 1e-18 to 1e15, where the methods hold and end in
+/// sensible time.
 inline void RequireShape(Extended shape) {
+  constexpr Extended smallest = 1e-18L;
   constexpr Extended largest = 1e15L;
-  if (shape > largest) throw EInvalidOp();
+  if (shape < smallest || shape > largest) throw EInvalidOp();
 }
 
 /// The tails below the whole of a distribution, or at its lower end.
@@ -73,6 +75,12 @@ inline Tails AboveAll() {
 /// The tails at a point that is NaN, or with a parameter that is.
 inline Tails Unknown() {
   return {Tail::kLower, Scaled{kNaN, ExtendedPair()}};
+}
+
+/// A density of ln x, or of the logarithm of odds, as one of x, from the logarithm of the
+/// derivative of x.
+inline Extended PerUnit(const Scaled& density, ExtendedPair ln_derivative) {
+  return Scaled{density.factor, density.exponent - ln_derivative}.Value();
 }
 
 /// The density at the end of a support where it is c x^(shape - 1): 0, c or infinity.

@@ -14,21 +14,22 @@ void Check(Extended df) {
   RequireShape(df / 2);
 }
 
-// df : t^2, the odds of the beta variable df / (df + t^2).
+// df / t : t for t > 0, the odds of the beta variable df / (df + t^2).
 Odds OddsOf(Extended df, Extended t) {
-  if (std::fabs(t) > 1) return {ExtendedPair(df) / std::fabs(t), std::fabs(t)};
-  return {df, ExtendedPair(t) * t};
+  return {ExtendedPair(df) / t, t};
 }
+
+// So near to 0 the distribution function is 1/2, and the density that at 0.
+constexpr Extended kCentre = 1e-30L;
 
 Tails TailsAt(Extended df, Extended t) {
   Check(df);
   if (AnyNaN(df, t)) return Unknown();
   if (t < 0) return TailsAt(df, -t).Mirrored();
   if (std::isinf(t)) return AboveAll();
-  const Odds odds = OddsOf(df, t);
-  if (odds.against.hi == 0) return {Tail::kUpper, Scaled{0.5L, ExtendedPair()}};
+  if (t < kCentre) return {Tail::kUpper, Scaled{0.5L, ExtendedPair()}};
   // Half of what lies beyond -t and t.
-  Scaled beyond = RegularisedBeta(df / 2, 0.5L).At(odds).ScaledProbability(Tail::kLower);
+  Scaled beyond = RegularisedBeta(df / 2, 0.5L).At(OddsOf(df, t)).ScaledProbability(Tail::kLower);
   beyond.factor /= 2;
   return {Tail::kUpper, beyond};
 }
@@ -50,10 +51,16 @@ Extended StudentTPdf(Extended df, Extended t) {
   Check(df);
   if (AnyNaN(df, t)) return kNaN;
   if (std::isinf(t)) return 0;
-  const Odds odds = OddsOf(df, t);
-  const ExtendedPair exponent = QorvexGlobals::detail::ExactSum(df / 2, 0.5L);
-  const Scaled power = Power(odds.in_favour / (odds.in_favour + odds.against), exponent);
-  return (RegularisedBeta(df / 2, 0.5L).InverseBeta() * power).Value() / std::sqrt(df);
+  // x^((df + 1) / 2) / (sqrt(df) B(df / 2, 1 / 2)) for x = df / (df + t^2)
+  Scaled density =
+      RegularisedBeta(df / 2, 0.5L).InverseBeta() / Scaled{std::sqrt(df), ExtendedPair()};
+  if (std::fabs(t) >= kCentre) {
+    const Odds odds = OddsOf(df, std::fabs(t));
+    const ExtendedPair exponent = QorvexGlobals::detail::ExactSum(df / 2, 0.5L);
+    const ExtendedPair ln_x = Ln(odds.in_favour) - Ln(odds.in_favour + odds.against);
+    density = density * Scaled{1, exponent * ln_x};
+  }
+  return density.Value();
 }
 
 Extended StudentTLower(Extended df, Extended t) {
