@@ -17,11 +17,12 @@ namespace {
 using detail::Evaluate;
 using detail::kBoostPolicy;
 
-// Between these the methods hold and end in sensible time.
+// Between these the methods of the incomplete functions hold and end in sensible time.
+constexpr Extended kSmallestShape = 1e-18L;
+constexpr Extended kLargestShape = 1e15L;
+
 bool IsShape(Extended a) {
-  constexpr Extended smallest = 1e-18L;
-  constexpr Extended largest = 1e15L;
-  return a >= smallest && a <= largest;
+  return a >= kSmallestShape && a <= kLargestShape;
 }
 
 // Raises unless value is in [0, 1] and the shapes are in range; NaN passes.
@@ -51,7 +52,7 @@ Extended LnGamma(Extended x) {
 
 Extended Beta(Extended a, Extended b) {
   if (std::isnan(a) || std::isnan(b)) return a + b;
-  if (!IsShape(a) || !IsShape(b)) throw EInvalidOp();
+  if (a <= 0 || b <= 0 || a > kLargestShape || b > kLargestShape) throw EInvalidOp();
   return Evaluate([=] { return boost::math::beta(a, b, kBoostPolicy); });
 }
 

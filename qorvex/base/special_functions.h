@@ -22,7 +22,7 @@ namespace qorvex::inline QorvexGlobals {
 [[nodiscard]] QORVEX_EXPORT Extended LnGamma(Extended x);
 
 /// The beta function B(a, b) = Gamma(a) Gamma(b) / Gamma(a + b). EInvalidOp unless a and b are
-/// from 1e-18 to 1e15.
+/// positive and at most 1e15.
 [[nodiscard]] QORVEX_EXPORT Extended Beta(Extended a, Extended b);
 
 /// The incomplete beta function, regularised: I(x; a, b), point first. EInvalidOp unless 0 <= x <=
