@@ -9,17 +9,21 @@ namespace qorvex::inline QorvexGlobals::detail {
 namespace {
 
 constexpr ExtendedPair kLn2{0xb17217f7d1cf79acp-64L, -0xd871319ff0342543p-130L};
-constexpr ExtendedPair kThird{0xaaaaaaaaaaaaaaabp-65L, -0xaaaaaaaaaaaaaaabp-130L};
-constexpr ExtendedPair kFifth{0xcccccccccccccccdp-66L, -0xcccccccccccccccdp-132L};
 
-// 2 artanh(s), which is ln((1 + s) / (1 - s)), for |s| < 0.006.
+// 2 artanh(s), which is ln((1 + s) / (1 - s)), for |s| < 0.006: 2 s + 2/3 s^3 + ..., where from s^5
+// on 64 bits will do.
 constexpr ExtendedPair TwiceArtanh(ExtendedPair s) {
-  const ExtendedPair square = s * s;
+  const ExtendedPair square = ExactProduct(s.hi, s.hi);
+  const ExtendedPair cube = ExactProduct(s.hi, square.hi);
+  const Extended cube_low = cube.lo + s.hi * square.lo + 3 * square.hi * s.lo;
+  const Extended third = cube.hi / 3;
+  const Extended third_low = (((cube.hi - 2 * third) - third) + cube_low) / 3;
   const Extended z = square.hi;
-  const Extended tail = z * (1.0L / 7 + z * (1.0L / 9 + z * (1.0L / 11 + z * (1.0L / 13))));
-  const ExtendedPair series = square * (kThird + square * (kFifth + tail));
-  const ExtendedPair half = s + s * series;
-  return {2 * half.hi, 2 * half.lo};
+  const Extended tail =
+      cube.hi * z * (1.0L / 5 + z * (1.0L / 7 + z * (1.0L / 9 + z * (1.0L / 11 + z / 13))));
+  const ExtendedPair half = OrderedSum(s.hi, third);
+  const ExtendedPair whole = OrderedSum(half.hi, half.lo + (s.lo + (third_low + tail)));
+  return {2 * whole.hi, 2 * whole.lo};
 }
 
 // The logarithms of i / 128 for i from 90 to 182, each from its neighbour:

@@ -1,7 +1,9 @@
 #include "qorvex/base/detail/scaled.h"
 
+#include <array>
 #include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
+#include <cstddef>
 
 #include "qorvex/base/detail/boost_math.h"
 #include "qorvex/base/elementary.h"
@@ -24,6 +26,24 @@ Extended StirlingError(Extended a) {
                                         z * (3617.0L / 122400 - z * 43867.0L / 244188)))))))) /
          a;
 }
+
+constexpr int kStirlingFrom = 16;
+
+// Gamma(i / 2 + 1) for the halves below that.
+constexpr auto kFactorialsOfHalves = [] {
+  constexpr ExtendedPair root_of_pi{0xe2dfc48da77b553dp-63L, -0xf13eb7ca891b1f00p-130L};
+  std::array<Extended, 2 * kStirlingFrom> factorials{};
+  ExtendedPair whole = 1;
+  ExtendedPair half = root_of_pi / 2;
+  for (std::size_t i = 0; i < factorials.size(); i += 2) {
+    factorials[i] = whole.hi;
+    factorials[i + 1] = half.hi;
+    const auto n = static_cast<Extended>(i) / 2 + 1;
+    whole = whole * n;
+    half = half * (n + 0.5L);
+  }
+  return factorials;
+}();
 
 }  // namespace
 
@@ -48,9 +68,12 @@ Scaled Power(ExtendedPair x, ExtendedPair y) {
 }
 
 Scaled FactorialOf(ExtendedPair a) {
-  constexpr Extended stirling_from = 16;
-  if (a.hi >= stirling_from) {
+  if (a.hi >= kStirlingFrom) {
     return {std::sqrt(2 * QorPi * a.hi) * std::exp(StirlingError(a.hi)), a * Ln(a) - a};
+  }
+  const Extended twice = 2 * a.hi;
+  if (twice == std::trunc(twice) && a.lo == 0) {
+    return {kFactorialsOfHalves[static_cast<std::size_t>(twice)], ExtendedPair()};
   }
   constexpr Extended near_one_below = 0.5L;
   if (a.hi < near_one_below) {
