@@ -1,116 +1,215 @@
 #include "qorvex/stats/full_precision.h"
 
+#include <boost/math/special_functions/beta.hpp>
+#include <boost/math/special_functions/gamma.hpp>
+#include <boost/multiprecision/cpp_bin_float.hpp>
 #include <functional>
 #include <limits>
 
-#include "support/table.h"
+#include "support/distribution_figures.h"
+#include "support/random_vectors.h"
 #include "support/test.h"
 
 namespace qorvex {
 
 namespace fp = full_precision;
-using testing::Table;
-
-// Reads a row's arguments by the names of their columns.
-struct Row {
-  const Table& table;
-  std::size_t index;
-  Extended operator()(const char* column) const { return table.Value(index, column); }
-  [[nodiscard]] std::uint32_t Count(const char* column) const {
-    return static_cast<std::uint32_t>((*this)(column));
-  }
-};
-
-struct Figure {
-  const char* table;
-  const char* column;
-  Extended limit;
-  std::function<Extended(const Row&)> compute;
-};
-
-// Exact: the rates are those of powers of two, or their products with x have few bits.
-Extended MeanOf(const Row& r) {
-  const Extended mean = 1 / r("rate_dec");
-  return mean * r("rate_dec") == 1 && std::exp2(std::round(std::log2(mean))) == mean ? mean : 1;
-}
-Extended PointOf(const Row& r) {
-  return MeanOf(r) == 1 ? r("x_dec") * r("rate_dec") : r("x_dec");
-}
-
-const Figure kFigures[] = {
-    {"normal_cdf", "cdf", 120, [](const Row& r) { return fp::NormalLower(0, 1, r("x_dec")); }},
-    {"normal_cdf", "upper", 120, [](const Row& r) { return fp::NormalUpper(0, 1, r("x_dec")); }},
-    {"normal_cdf", "pdf", 120, [](const Row& r) { return fp::NormalPdf(0, 1, r("x_dec")); }},
-    {"normal_quantile", "z", 20, [](const Row& r) { return fp::NormalQuantile(0, 1, r("p_dec")); }},
-    {"lognormal_cdf", "cdf", 120,
-     [](const Row& r) { return fp::LogNormalLower(r("mu_dec"), r("sigma_dec"), r("x_dec")); }},
-    {"lognormal_cdf", "upper", 120,
-     [](const Row& r) { return fp::LogNormalUpper(r("mu_dec"), r("sigma_dec"), r("x_dec")); }},
-    {"exponential_cdf", "cdf", 120,
-     [](const Row& r) { return fp::ExponentialLower(MeanOf(r), PointOf(r)); }},
-    {"exponential_cdf", "upper", 120,
-     [](const Row& r) { return fp::ExponentialUpper(MeanOf(r), PointOf(r)); }},
-    {"gamma_p", "P", 120, [](const Row& r) { return fp::GammaLower(r("a_dec"), 1, r("x_dec")); }},
-    {"gamma_p", "Q", 120, [](const Row& r) { return fp::GammaUpper(r("a_dec"), 1, r("x_dec")); }},
-    {"gamma_inv", "x", 20,
-     [](const Row& r) { return fp::GammaQuantile(r("a_dec"), 1, r("p_dec")); }},
-    {"chisq_cdf", "cdf", 120, [](const Row& r) { return fp::ChiSquareLower(r("df"), r("x_dec")); }},
-    {"chisq_cdf", "upper", 120,
-     [](const Row& r) { return fp::ChiSquareUpper(r("df"), r("x_dec")); }},
-    {"chisq_inv", "x", 20, [](const Row& r) { return fp::ChiSquareQuantile(r("df"), r("p_dec")); }},
-    {"t_cdf", "cdf", 120, [](const Row& r) { return fp::StudentTLower(r("df_dec"), r("t_dec")); }},
-    {"t_cdf", "upper", 120,
-     [](const Row& r) { return fp::StudentTUpper(r("df_dec"), r("t_dec")); }},
-    {"t_inv", "t", 20, [](const Row& r) { return fp::StudentTQuantile(r("df"), r("p_dec")); }},
-    {"f_cdf", "cdf", 120,
-     [](const Row& r) { return fp::FDistLower(r("d1_dec"), r("d2_dec"), r("x_dec")); }},
-    {"f_cdf", "upper", 120,
-     [](const Row& r) { return fp::FDistUpper(r("d1_dec"), r("d2_dec"), r("x_dec")); }},
-    {"f_inv", "x", 20,
-     [](const Row& r) { return fp::FDistQuantile(r("d1"), r("d2"), r("p_dec")); }},
-    {"beta_inc", "I", 120,
-     [](const Row& r) { return fp::BetaLower(r("a_dec"), r("b_dec"), r("x_dec")); }},
-    {"beta_inc", "Ic", 120,
-     [](const Row& r) { return fp::BetaUpper(r("a_dec"), r("b_dec"), r("x_dec")); }},
-    {"beta_inv", "x", 20,
-     [](const Row& r) { return fp::BetaQuantile(r("a_dec"), r("b_dec"), r("p_dec")); }},
-    {"binomial", "pmf", 120,
-     [](const Row& r) { return fp::BinomialPmf(r("p_dec"), r.Count("n"), r.Count("k")); }},
-    {"binomial", "cdf_le", 120,
-     [](const Row& r) { return fp::BinomialLower(r("p_dec"), r.Count("n"), r.Count("k")); }},
-    {"binomial", "upper_gt", 120,
-     [](const Row& r) { return fp::BinomialUpper(r("p_dec"), r.Count("n"), r.Count("k")); }},
-    {"hypergeometric", "pmf", 120,
-     [](const Row& r) {
-       return fp::HyperGeometricPmf(r.Count("N"), r.Count("n"), r.Count("K"), r.Count("k"));
-     }},
-    {"hypergeometric", "cdf_le", 120,
-     [](const Row& r) {
-       return fp::HyperGeometricLower(r.Count("N"), r.Count("n"), r.Count("K"), r.Count("k"));
-     }},
-    {"hypergeometric", "upper_gt", 120,
-     [](const Row& r) {
-       return fp::HyperGeometricUpper(r.Count("N"), r.Count("n"), r.Count("K"), r.Count("k"));
-     }},
-    {"poisson", "pmf", 120,
-     [](const Row& r) { return fp::PoissonPmf(r("lambda_dec"), r.Count("k")); }},
-    {"poisson", "cdf_le", 120,
-     [](const Row& r) { return fp::PoissonLower(r("lambda_dec"), r.Count("k")); }},
-    {"poisson", "upper_gt", 120,
-     [](const Row& r) { return fp::PoissonUpper(r("lambda_dec"), r.Count("k")); }},
-};
 
 TEST(FullPrecision, AgreesWithTheTablesIntoTheFarthestTails) {
-  for (const Figure& figure : kFigures) {
-    SCOPED_TRACE(figure.table);
-    const Table table(std::string("tables/") + figure.table + ".csv");
+  constexpr Extended units = 15;
+  for (const testing::Figure& figure : testing::FullPrecisionFigures()) {
+    SCOPED_TRACE(figure.routine);
+    const testing::Table table(std::string("tables/") + figure.table + ".csv");
     testing::ExpectWorstError(
-        table, figure.column, figure.limit,
+        table, figure.column, units,
         [&](std::size_t row) {
           return figure.compute({table, row});
         },
         std::numeric_limits<Extended>::min());
   }
+}
+
+using Real = boost::multiprecision::number<boost::multiprecision::cpp_bin_float<60>>;
+
+// The distance from an exact value in units of 1e-19 of it.
+Extended Units(Extended value, const Real& exact) {
+  return static_cast<Extended>(abs(Real(value) / exact - 1)) * 1e19L;
+}
+
+TEST(FullPrecision, AgreesWithAComputationInHigherPrecision) {
+  testing::Engine engine(5);
+  // Log-uniform.
+  const auto between = [&](Extended low, Extended high) {
+    return low *
+           std::exp(std::log(high / low) * (static_cast<Extended>(engine() >> 1U) * 0x1p-63L));
+  };
+  for (int i = 0; i < 200; ++i) {
+    const Extended a = between(0.03L, 2e4L);
+    const Extended b = between(0.03L, 2e4L);
+    const Extended p = between(1e-200L, 1);
+    SCOPED_TRACE(Float2Str(a) + ' ' + Float2Str(b) + ' ' + Float2Str(p));
+    const bool lower = i % 2 == 0;
+    const Extended x = lower ? fp::GammaQuantile(a, 1, p) : fp::GammaUpperQuantile(a, 1, p);
+    ASSERT_LT(Units(fp::GammaLower(a, 1, x), boost::math::gamma_p(Real(a), Real(x))), 40);
+    ASSERT_LT(Units(fp::GammaUpper(a, 1, x), boost::math::gamma_q(Real(a), Real(x))), 40);
+    const Extended y = lower ? fp::BetaQuantile(a, b, p) : fp::BetaUpperQuantile(a, b, p);
+    if (y == 1) continue;
+    ASSERT_LT(Units(fp::BetaLower(a, b, y), boost::math::ibeta(Real(a), Real(b), Real(y))), 60);
+    ASSERT_LT(Units(fp::BetaUpper(a, b, y), boost::math::ibetac(Real(a), Real(b), Real(y))), 60);
+  }
+}
+
+struct Inverse {
+  std::function<Extended(Extended)> quantile;
+  std::function<Extended(Extended)> upper_quantile;
+  std::function<Extended(Extended)> log_lower;
+  std::function<Extended(Extended)> log_upper;
+};
+
+TEST(FullPrecision, QuantilesInvertBothTailsHoweverSmall) {
+#define QORVEX_INVERSE(family, ...)                                            \
+  Inverse {                                                                    \
+    [=](Extended p) { return fp::family##Quantile(__VA_ARGS__, p); },          \
+        [=](Extended q) { return fp::family##UpperQuantile(__VA_ARGS__, q); }, \
+        [=](Extended x) { return fp::family##LogLower(__VA_ARGS__, x); },      \
+        [=](Extended x) { return fp::family##LogUpper(__VA_ARGS__, x); }       \
+  }
+  const Inverse inverses[] = {
+      QORVEX_INVERSE(Normal, 3, 0.25L),    QORVEX_INVERSE(LogNormal, -1, 0.5L),
+      QORVEX_INVERSE(Exponential, 0.125L), QORVEX_INVERSE(Gamma, 0.9L, 3),
+      QORVEX_INVERSE(Gamma, 5e6L, 0.5L),   QORVEX_INVERSE(ChiSquare, 7),
+      QORVEX_INVERSE(StudentT, 4.5L),      QORVEX_INVERSE(StudentT, 1e5L),
+      QORVEX_INVERSE(FDist, 10, 10),       QORVEX_INVERSE(FDist, 3, 800),
+      QORVEX_INVERSE(Beta, 3, 1e4L)};
+#undef QORVEX_INVERSE
+  for (const Inverse& inverse : inverses) {
+    for (const Extended p : {1e-4000L, 1e-300L, 1e-20L, 0.01L, 0.5L, 0.875L}) {
+      SCOPED_TRACE(::testing::Message() << &inverse - inverses << ' ' << p);
+      // A last bit of the quantile moves the logarithm by more, the farther out it is.
+      const Extended slack = 1e-16L * (1 - std::log(p));
+      EXPECT_LE(std::fabs(inverse.log_lower(inverse.quantile(p)) - std::log(p)), slack);
+      EXPECT_LE(std::fabs(inverse.log_upper(inverse.upper_quantile(p)) - std::log(p)), slack);
+    }
+  }
+}
+
+TEST(FullPrecision, FindsTheSmallestCountThatReachesAProbability) {
+  const auto expect_smallest = [](std::uint32_t most, Extended p, std::uint32_t found,
+                                  std::uint32_t found_above, auto lower, auto upper) {
+    std::uint32_t k = 0;
+    while (k < most && lower(k) < p) ++k;
+    EXPECT_EQ(found, k) << p;
+    k = 0;
+    while (k < most && upper(k) > p) ++k;
+    EXPECT_EQ(found_above, k) << p;
+  };
+  for (const Extended p : {1e-30L, 0.2L, 0.5L, 0.9375L, 1 - 0x1p-64L}) {
+    expect_smallest(
+        40, p, fp::BinomialQuantile(0.3L, 40, p), fp::BinomialUpperQuantile(0.3L, 40, p),
+        [](std::uint32_t k) { return fp::BinomialLower(0.3L, 40, k); },
+        [](std::uint32_t k) { return fp::BinomialUpper(0.3L, 40, k); });
+    expect_smallest(
+        500, p, fp::PoissonQuantile(12, p), fp::PoissonUpperQuantile(12, p),
+        [](std::uint32_t k) { return fp::PoissonLower(12, k); },
+        [](std::uint32_t k) { return fp::PoissonUpper(12, k); });
+    expect_smallest(
+        30, p, fp::HyperGeometricQuantile(50, 30, 35, p),
+        fp::HyperGeometricUpperQuantile(50, 30, 35, p),
+        [](std::uint32_t k) { return fp::HyperGeometricLower(50, 30, 35, k); },
+        [](std::uint32_t k) { return fp::HyperGeometricUpper(50, 30, 35, k); });
+  }
+  EXPECT_ERROR(fp::PoissonQuantile(1e10L, 0.5L), EOverflow, rsOverflow);
+  // Exact at a step: P(X <= 1) = 3/4 of two fair coins.
+  EXPECT_EQ(fp::BinomialQuantile(0.5L, 2, 0.75L), 1U);
+}
+
+TEST(FullPrecision, HasLimitsAtTheEndsAndBeyondTheSupport) {
+  constexpr Extended infinity = std::numeric_limits<Extended>::infinity();
+  const auto expect_ends = [](auto lower, auto upper, Extended below, Extended above) {
+    EXPECT_EQ(lower(below), 0);
+    EXPECT_EQ(upper(below), 1);
+    EXPECT_EQ(lower(above), 1);
+    EXPECT_EQ(upper(above), 0);
+  };
+#define QORVEX_EXPECT_ENDS(family, below, above, ...)                                      \
+  expect_ends([](Extended x) { return fp::family##Lower(__VA_ARGS__, x); },                \
+              [](Extended x) { return fp::family##Upper(__VA_ARGS__, x); }, below, above); \
+  EXPECT_EQ(fp::family##LogLower(__VA_ARGS__, below), -infinity);                          \
+  EXPECT_TRUE(std::isnan(fp::family##Lower(__VA_ARGS__, std::nanl(""))))
+  QORVEX_EXPECT_ENDS(Normal, -infinity, infinity, 0, 1);
+  QORVEX_EXPECT_ENDS(LogNormal, 0, infinity, 0, 1);
+  QORVEX_EXPECT_ENDS(Exponential, -1, infinity, 2);
+  QORVEX_EXPECT_ENDS(Gamma, 0, infinity, 0.5L, 2);
+  QORVEX_EXPECT_ENDS(ChiSquare, -1e4900L, infinity, 3);
+  QORVEX_EXPECT_ENDS(StudentT, -infinity, infinity, 3);
+  QORVEX_EXPECT_ENDS(FDist, 0, infinity, 3, 4);
+  QORVEX_EXPECT_ENDS(Beta, -0.5L, 1, 3, 4);
+#undef QORVEX_EXPECT_ENDS
+  EXPECT_EQ(fp::GammaPdf(0.5L, 2, 0), infinity);
+  EXPECT_EQ(fp::GammaPdf(1, 2, 0), 0.5L);
+  EXPECT_EQ(fp::ChiSquarePdf(2, 0), 0.5L);
+  EXPECT_EQ(fp::FDistPdf(1, 5, 0), infinity);
+  EXPECT_EQ(fp::FDistPdf(2, 5, 0), 1);
+  EXPECT_EQ(fp::BetaPdf(1, 3, 0), 3);
+  EXPECT_EQ(fp::BetaPdf(3, 0.5L, 1), infinity);
+  EXPECT_EQ(fp::BetaPdf(3, 2, 1.5L), 0);
+  EXPECT_EQ(fp::BinomialLower(0.5L, 3, 9), 1);
+  EXPECT_EQ(fp::BinomialPmf(0, 3, 0), 1);
+  EXPECT_EQ(fp::BinomialLower(1, 3, 2), 0);
+  EXPECT_EQ(fp::HyperGeometricLower(10, 8, 5, 2), 0);
+  EXPECT_EQ(fp::HyperGeometricPmf(10, 8, 5, 6), 0);
+}
+
+TEST(FullPrecision, HasDensitiesThatIntegrateToTheirProbabilities) {
+  // Simpson's rule over a short interval away from the mode.
+  const auto expect_slope = [](auto pdf, auto lower, Extended x) {
+    const Extended h = x * 0x1p-10L;
+    const Extended area = h / 3 * (pdf(x - h) + 4 * pdf(x) + pdf(x + h));
+    const Extended probability = lower(x + h) - lower(x - h);
+    EXPECT_LT(std::fabs(area / probability - 1), 1e-9L) << x;
+  };
+#define QORVEX_EXPECT_SLOPE(family, x, ...)                                  \
+  expect_slope([](Extended at) { return fp::family##Pdf(__VA_ARGS__, at); }, \
+               [](Extended at) { return fp::family##Lower(__VA_ARGS__, at); }, x)
+  QORVEX_EXPECT_SLOPE(Normal, 2.5L, 1, 3);
+  QORVEX_EXPECT_SLOPE(LogNormal, 2.5L, 1, 3);
+  QORVEX_EXPECT_SLOPE(Exponential, 2.5L, 4);
+  QORVEX_EXPECT_SLOPE(Gamma, 2.5L, 1.7L, 3);
+  QORVEX_EXPECT_SLOPE(ChiSquare, 2.5L, 5);
+  QORVEX_EXPECT_SLOPE(StudentT, 2.5L, 5);
+  QORVEX_EXPECT_SLOPE(FDist, 2.5L, 5, 7);
+  QORVEX_EXPECT_SLOPE(Beta, 0.3L, 2.5L, 7);
+#undef QORVEX_EXPECT_SLOPE
+}
+
+TEST(FullPrecision, ChecksTheProbabilityFirstAndThenTheParameters) {
+  for (const Extended p : {0.0L, 1.0L, -0.5L}) {
+    EXPECT_MATH_ERROR(fp::NormalQuantile(0, -1, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::LogNormalUpperQuantile(0, -1, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::ExponentialQuantile(0, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::GammaQuantile(0, 1, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::ChiSquareUpperQuantile(0, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::StudentTQuantile(0, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::FDistQuantile(0, 1, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::BetaQuantile(0, 1, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::BinomialQuantile(2, 5, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::HyperGeometricQuantile(5, 6, 2, p), rsValue01);
+    EXPECT_MATH_ERROR(fp::PoissonUpperQuantile(0, p), rsValue01);
+  }
+  EXPECT_MATH_ERROR(fp::NormalLower(0, 0, 1), rsStdDev);
+  EXPECT_MATH_ERROR(fp::LogNormalQuantile(0, 0, 0.5L), rsStdDev);
+  EXPECT_MATH_ERROR(fp::ExponentialPdf(0, 1), rsExpDistInvalid);
+  EXPECT_MATH_ERROR(fp::GammaLower(1, 0, 1), rsValueGZero);
+  EXPECT_MATH_ERROR(fp::ChiSquareLower(0, 1), rsDF);
+  EXPECT_MATH_ERROR(fp::StudentTPdf(-1, 1), rsDF);
+  EXPECT_MATH_ERROR(fp::FDistUpper(1, 0, 1), rsDF);
+  EXPECT_MATH_ERROR(fp::BetaLogLower(1, 0, 0.5L), rsValueGZero);
+  EXPECT_MATH_ERROR(fp::BinomialPmf(1.5L, 2, 1), rsBinomDistInvalid);
+  EXPECT_MATH_ERROR(fp::HyperGeometricPmf(5, 2, 6, 1), rsHyperGeometricInvalid);
+  EXPECT_MATH_ERROR(fp::PoissonLower(0, 1), rsPoissonInvalid);
+  EXPECT_MATH_ERROR(fp::PoissonQuantile(3, std::nanl("")), rsValue01);
+  EXPECT_ERROR(fp::GammaLower(1e16L, 1, 1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(fp::NormalLower(std::numeric_limits<Extended>::infinity(), 1, 0), EInvalidOp,
+               rsInvalidOp);
 }
 
 }  // namespace qorvex
