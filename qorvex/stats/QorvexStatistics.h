@@ -1,10 +1,18 @@
 #pragma once
 
 /// @file
-/// Unit QorvexStatistics: statistics over vectors.
+/// Unit QorvexStatistics: statistics over vectors, and probability distributions.
 
+#include "qorvex/stats/beta_distribution.h"
+#include "qorvex/stats/chi_square.h"
 #include "qorvex/stats/dispersion.h"
+#include "qorvex/stats/exponential.h"
+#include "qorvex/stats/f_distribution.h"
+#include "qorvex/stats/incomplete_gamma.h"
 #include "qorvex/stats/location.h"
+#include "qorvex/stats/log_normal.h"
+#include "qorvex/stats/normal.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/stats/shape.h"
+#include "qorvex/stats/student_t.h"
 #include "qorvex/stats/trimmed_means.h"

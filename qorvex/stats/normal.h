@@ -1,0 +1,79 @@
+#pragma once
+
+/// @file
+/// The normal distribution: density, probabilities and quantiles.
+///
+/// Every probability comes from the power series of NormalLess. From 0 to about 8.5 it is exact to
+/// 64 bits but for rounding; from about 9.95 on, where the first terms are below the test of
+/// convergence, it is 0.5 instead of nearly 1. So do not rely on NormalLess and what is made of it
+/// more than 8.5 standard deviations from the mean. Upper tails are formed as 1 - lower, and lower
+/// tails below the mean as 1 - upper: their absolute error is some 1e-19, so a tail of 1e-10 has
+/// nine digits left. full_precision::NormalLower and NormalUpper keep all digits in both tails.
+///
+/// Quantiles have 16 digits: at worst 1e-16 relative error, for probabilities down to 2.5e-317.
+/// Upper quantiles are those of 1 - p, so p loses its digits below 2^-64 and p under 2^-65 raises
+/// rsValue01. full_precision::NormalQuantile and NormalUpperQuantile have neither limit.
+///
+/// NaN gives NaN where no error is stated for it. A standard deviation counts as positive when it
+/// exceeds QorTolerance.
+
+#include <cstdint>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex::inline QorvexStatistics {
+
+/// The density of the standard normal distribution; 0 for infinite x.
+[[nodiscard]] QORVEX_EXPORT Extended NormalZ(Extended x);
+
+/// The density. EMathError rsStdDev unless std_dev is positive.
+[[nodiscard]] QORVEX_EXPORT Extended NormalPDF(Extended x, Extended mean, Extended std_dev);
+
+/// n + 1 points from x_low to x_high in equal steps, and the density at each: one point at x_low
+/// for n = 0, none for a negative n. Both vectors are released first. EMathError rsStdDev unless
+/// std_dev is positive. O(n).
+QORVEX_EXPORT void NormalPDFValues(Extended mean, Extended std_dev, Extended x_low, Extended x_high,
+                                   std::int32_t n, TQorFloatVector& x_values,
+                                   TQorFloatVector& y_values);
+
+/// The probability that a standard normal variable is less than z, by the series
+/// 1/2 + phi(z) (z + z^3/3 + z^5/(3*5) + ...), which ends when a partial result changes by at most
+/// 1e-18, at the latest after a hundred terms. EMathError rsValueGZero for z < 0. 0.5 where the
+/// density underflows, infinity included.
+[[nodiscard]] QORVEX_EXPORT Extended NormalLess(Extended z);
+/// 1 - NormalLess(z).
+[[nodiscard]] QORVEX_EXPORT Extended NormalGreater(Extended z);
+
+/// @{
+/// The probability of less than x, of more than x (1 - less), and of the interval between two
+/// points in either order, which is 0 for points that are the same within QorTolerance, before any
+/// check. EMathError rsStdDev unless std_dev is positive.
+[[nodiscard]] QORVEX_EXPORT Extended NormalDistLess(Extended mean, Extended std_dev, Extended x);
+[[nodiscard]] QORVEX_EXPORT Extended NormalDistGreater(Extended mean, Extended std_dev, Extended x);
+[[nodiscard]] QORVEX_EXPORT Extended NormalDistBetween(Extended mean, Extended std_dev, Extended x1,
+                                                       Extended x2);
+/// @}
+
+/// @{
+/// The point of the standard normal distribution with the given lower or upper probability.
+/// EMathError rsValue01 unless 0 < p < 1. Wichura (1988), "Algorithm AS 241: the percentage points
+/// of the normal distribution", Applied Statistics 37, 477-484.
+[[nodiscard]] QORVEX_EXPORT Extended InvNormalLess(Extended p);
+[[nodiscard]] QORVEX_EXPORT Extended InvNormalGreater(Extended p);
+/// @}
+
+/// @{
+/// The point with the given lower or upper probability. EMathError: rsValue01 for p <= 0 or p >= 1;
+/// rsStdDev for a standard deviation that is negative or zero within QorTolerance; rsValue01 for a
+/// NaN probability.
+[[nodiscard]] QORVEX_EXPORT Extended InvNormalDistLess(Extended mean, Extended std_dev, Extended p);
+[[nodiscard]] QORVEX_EXPORT Extended InvNormalDistGreater(Extended mean, Extended std_dev,
+                                                          Extended p);
+/// @}
+
+/// The critical value of the standard normal distribution that is exceeded with probability alpha.
+/// EMathError rsValue01 unless 0 < alpha < 1.
+[[nodiscard]] QORVEX_EXPORT Extended ZAlpha(Extended alpha);
+
+}  // namespace qorvex::inline QorvexStatistics
