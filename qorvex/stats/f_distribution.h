@@ -4,10 +4,10 @@
 /// The F distribution with df1 degrees of freedom in the numerator and df2 in the denominator.
 ///
 /// Lower probabilities are formed as 1 - I(df2 / (df2 + df1 f); df2/2, df1/2) and upper ones as
-/// 1 - lower, so either has an absolute error of some 1e-17 to 1e-19, more at points near 0, where
-/// the argument of I has rounded towards 1: do not rely on the digits of small ones.
-/// full_precision::FDistLower and FDistUpper keep all digits. Densities and quantiles are theirs
-/// already, exact to a few units of the 64-bit mantissa.
+/// 1 - lower, so either has an absolute error, and small ones have few digits or none: some 4e-19
+/// for f from 1 up, 1e-18 at 0.01, and more towards 0, where that quotient rounds to 1 (with df1 =
+/// 1 up to 2e-10, at some 1e-18). full_precision::FDistLower and FDistUpper keep all digits.
+/// Densities and quantiles are theirs already, exact to a few units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.
 

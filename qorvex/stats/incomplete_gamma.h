@@ -11,10 +11,11 @@
 /// 1 as 1, and the value for x <= QorTolerance as 0.
 ///
 /// Above the shape 1000 stands the normal approximation of Wilson and Hilferty, with the domain of
-/// NormalLess: points below the centre raise rsValueGZero. At shapes just above 1000 its relative
-/// error is 2e-7 at the centre; the upper tail, 1 - P, is off by 4e-3 to 7e-3 of itself five
-/// standard deviations out; from ten standard deviations on P is 0.5.
-/// full_precision::GammaLower and GammaUpper (with scale 1) have none of these limits.
+/// NormalLess: points below the centre raise rsValueGZero. Just above 1000 P is off by up to 5e-6
+/// of itself and the upper tail, 1 - P, by 5e-4 of itself three standard deviations out and by 4e-3
+/// at five; larger shapes have proportionally smaller errors. From nine standard deviations on the
+/// tail means nothing, from ten on P is 0.5. full_precision::GammaLower and GammaUpper (with
+/// scale 1) have none of these limits.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"

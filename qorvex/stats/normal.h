@@ -3,16 +3,18 @@
 /// @file
 /// The normal distribution: density, probabilities and quantiles.
 ///
-/// Every probability comes from the power series of NormalLess. From 0 to about 8.5 it is exact to
-/// 64 bits but for rounding; from about 9.95 on, where the first terms are below the test of
+/// Every probability comes from the power series of NormalLess. Up to 8.5 it is right within six
+/// units of the 64-bit mantissa; then its hundred terms do not suffice (3e-16 too little at 9,
+/// 2e-13 at 9.5), and from about 9.95 on, where the first terms are already below the test of
 /// convergence, it is 0.5 instead of nearly 1. So do not rely on NormalLess and what is made of it
 /// more than 8.5 standard deviations from the mean. Upper tails are formed as 1 - lower, and lower
 /// tails below the mean as 1 - upper: their absolute error is some 1e-19, so a tail of 1e-10 has
 /// nine digits left. full_precision::NormalLower and NormalUpper keep all digits in both tails.
 ///
-/// Quantiles have 16 digits: at worst 1e-16 relative error, for probabilities down to 2.5e-317.
-/// Upper quantiles are those of 1 - p, so p loses its digits below 2^-64 and p under 2^-65 raises
-/// rsValue01. full_precision::NormalQuantile and NormalUpperQuantile have neither limit.
+/// Quantiles have 16 digits: 8e-17 relative error at worst, for probabilities down to 2.5e-317, and
+/// fewer below (2e-14 at 1e-400, 2e-8 at 1e-4930). Upper quantiles are those of 1 - p, so p loses
+/// its digits when it is small and raises rsValue01 below 2^-65. full_precision::NormalQuantile and
+/// NormalUpperQuantile have neither limit.
 ///
 /// NaN gives NaN where no error is stated for it. A standard deviation counts as positive when it
 /// exceeds QorTolerance.
@@ -40,7 +42,7 @@ QORVEX_EXPORT void NormalPDFValues(Extended mean, Extended std_dev, Extended x_l
 /// The probability that a standard normal variable is less than z, by the series
 /// 1/2 + phi(z) (z + z^3/3 + z^5/(3*5) + ...), which ends when a partial result changes by at most
 /// 1e-18, at the latest after a hundred terms. EMathError rsValueGZero for z < 0. 0.5 where the
-/// density underflows, infinity included.
+/// density underflows to 0, infinity included.
 [[nodiscard]] QORVEX_EXPORT Extended NormalLess(Extended z);
 /// 1 - NormalLess(z).
 [[nodiscard]] QORVEX_EXPORT Extended NormalGreater(Extended z);

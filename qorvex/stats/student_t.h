@@ -4,12 +4,12 @@
 /// Student's t distribution with df degrees of freedom.
 ///
 /// Probabilities come from S = 1 - I(df / (t^2 + df); df/2, 1/2), the probability of [-|t|, |t|].
-/// Near 0 the first argument has rounded to 1, which leaves an absolute error of up to 4e-15 for t
-/// of some 1e-8 and makes S exactly 0 below; away from 0 the upper tail is a difference of numbers
-/// near 1 with an absolute error of some 1e-19, and so is the lower one, (1 - S) / 2. Do not rely
-/// on the digits of tails below 1e-10. full_precision::StudentTLower and StudentTUpper keep all
-/// digits everywhere. Densities and quantiles are theirs already, exact to a few units of the
-/// 64-bit mantissa.
+/// Near 0 that quotient rounds to 1: below |t| = 2e-10 sqrt(df) every probability is 0.5, there
+/// with an absolute error of up to 1e-10 sqrt(df), which has fallen to 4e-15 at some 1e-3 and to
+/// 1e-18 above 1. Tails on both sides, (1 - S) / 2 and 1 - less, are differences of numbers near 1
+/// with an absolute error of some 1e-19: do not rely on the digits of those below 1e-10.
+/// full_precision::StudentTLower and StudentTUpper keep all digits everywhere. Densities and
+/// quantiles are theirs already, exact to a few units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.
 
