@@ -3,11 +3,11 @@
 /// @file
 /// The chi-square distribution with df degrees of freedom.
 ///
-/// Probabilities come from IncompleteGamma(df / 2, x / 2), with its limits: some fifteen digits;
-/// above 2000 degrees of freedom a normal approximation, which raises rsValueGZero for points below
-/// the centre. Upper ones are formed as 1 - lower, so do not rely on the digits of those below
-/// 1e-5. full_precision::ChiSquareLower and ChiSquareUpper have none of these limits. Densities and
-/// quantiles are theirs already, exact to a few units of the 64-bit mantissa.
+/// Probabilities come from IncompleteGamma(df / 2, x / 2), with its limits: an absolute error of up
+/// to 2e-15; above 2000 degrees of freedom a normal approximation, which raises rsValueGZero for
+/// points below the centre. Upper ones are formed as 1 - lower, so do not rely on the digits of
+/// those below 1e-5. full_precision::ChiSquareLower and ChiSquareUpper have none of these limits.
+/// Densities and quantiles are theirs already, exact to a few units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.
 

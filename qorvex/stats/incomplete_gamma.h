@@ -4,11 +4,11 @@
 /// The incomplete gamma function by series, continued fraction and normal approximation.
 ///
 /// Series and fraction end when a term, or the change of the fraction, is at most QorTolerance, so
-/// some fifteen digits are right. A tolerance that is not positive, or NaN, counts as 4 eps: the
-/// loops would not end. Any positive one is reached: the series within some 5000 steps, since its
-/// terms underflow, and the fraction within 200, measured over its whole domain down to tolerances
-/// that only equal values meet. Values below exp(-88) = 6e-39 are returned as 0, those that near to
-/// 1 as 1, and the value for x <= QorTolerance as 0.
+/// the absolute error is up to 2e-15. A tolerance that is not positive, or NaN, counts as 4 eps:
+/// the loops would not end. Any positive one is reached: the series within some 5000 steps, since
+/// its terms underflow, and the fraction within 200, measured over its whole domain down to
+/// tolerances that only equal values meet. Values below exp(-88) = 6e-39 are returned as 0, those
+/// that near to 1 as 1, and the value for x <= QorTolerance as 0.
 ///
 /// Above the shape 1000 stands the normal approximation of Wilson and Hilferty, with the domain of
 /// NormalLess: points below the centre raise rsValueGZero. Just above 1000 P is off by up to 5e-6
@@ -33,7 +33,7 @@ namespace qorvex::inline QorvexStatistics {
 /// The upper incomplete gamma integral, not regularised, as Gamma(a) times the upper probability
 /// of 2x under a chi-square distribution with 2a degrees of freedom. They are rounded to a whole
 /// number, ties to even: exact only where 2a is one. EMathError: rsValueGEZero for x < 0;
-/// rsValueGZero for a <= 0, and for a > 500 where x is below the centre; EOverflow above about
+/// rsValueGZero for a <= 0, and for a > 1000 where x is below the centre; EOverflow above about
 /// a = 1755.5; EInvalidOp for an infinite a; rsDF where 2a rounds to 0. Then NaN gives NaN.
 /// full_precision::GammaUpper(a, 1, x) times Gamma(a) rounds nothing.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteGamma2(Extended a, Extended x);

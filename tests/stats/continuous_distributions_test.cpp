@@ -303,7 +303,7 @@ TEST(ContinuousDistributions, AgreeWithTheReferenceTables) {
   }
   {
     const testing::Table table("tables/gamma_p.csv");
-    ExpectAbsoluteError(table, "P", 1e-15L, 300, [&](std::size_t row) -> Figure {
+    ExpectAbsoluteError(table, "P", 2e-15L, 300, [&](std::size_t row) -> Figure {
       const Extended a = table.Value(row, "a_dec");
       if (a > 1000) return {};
       return IncompleteGamma(a, table.Value(row, "x_dec"));

@@ -66,8 +66,8 @@ TEST(IncompleteGamma, HasTheBitsOfThePlainSteps) {
     for (const Extended a : {1e-4940L, 1e-9L, 0.3L, 1.0L, 1.7L, 12.0L, 333.3L, 999.9L, 1000.0L}) {
       for (const Extended x : {1e-4L, 0.5L, 1.0L, 1.0001L, 0.1L * a, 0.99L * a, a, 1.2L * a,
                                2.5L * a + 3, 1e6L, 1e8L, 2e8L, kInfinity}) {
-        if (x > tolerance)
-          EXPECT_EQ(IncompleteGamma(a, x), PlainIncompleteGamma(a, x)) << a << ' ' << x;
+        if (x <= tolerance) continue;
+        EXPECT_EQ(IncompleteGamma(a, x), PlainIncompleteGamma(a, x)) << a << ' ' << x;
       }
     }
     for (const Extended above : {1.0L, 1.01L, 1.2L, 3.0L})
@@ -79,7 +79,7 @@ TEST(IncompleteGamma, HasTheBitsOfThePlainSteps) {
 TEST(IncompleteGamma, EndsForEveryToleranceAndArgument) {
   const testing::KeptTolerance kept;
   for (const Extended tolerance : {0.0L, -1.0L, kNaN, -kInfinity, 1e-30L, 1e-4940L, kInfinity}) {
-    for (const Extended a : {1e-300L, 0.5L, 3.0L, 999.5L, 1000.0L}) {
+    for (const Extended a : {1e-9L, 0.5L, 3.0L, 999.5L, 1000.0L}) {
       for (const Extended x : {1e-3L, 1.0L, 1.5L, 0.999L * a, 1.001L * a, 50 * a}) {
         QorTolerance = 1e-17L;
         const Extended expected = PlainIncompleteGamma(a, x);
@@ -107,7 +107,7 @@ TEST(IncompleteGamma, ChecksThePointFirst) {
   EXPECT_MATH_ERROR(IncompleteGamma2(0, -1), rsValueGEZero);
   EXPECT_MATH_ERROR(IncompleteGamma2(0, 1), rsValueGZero);
   EXPECT_MATH_ERROR(IncompleteGamma2(0.25L, 1), rsDF);
-  EXPECT_MATH_ERROR(IncompleteGamma2(501, 400), rsValueGZero);
+  EXPECT_MATH_ERROR(IncompleteGamma2(1001, 900), rsValueGZero);
   EXPECT_ERROR(IncompleteGamma2(1756, 1), EOverflow, rsOverflow);
   EXPECT_ERROR(IncompleteGamma2(kInfinity, 1), EInvalidOp, rsInvalidOp);
 }

@@ -47,9 +47,13 @@ TEST(InvNormalLess, HasSixteenDigits) {
   });
   for (Extended p = 0.5L; p > 1e-30L; p *= 0.875L) {
     const Extended z = InvNormalLess(p);
-    if (p > 0.01L) EXPECT_LE(std::fabs(NormalDistLess(0, 1, z) - p), 1e-16L) << p;
+    if (p > 0.01L) {
+      EXPECT_LE(std::fabs(NormalDistLess(0, 1, z) - p), 1e-16L) << p;
+    }
     EXPECT_LE(z, 0);
-    if (1 - (1 - p) == p) EXPECT_EQ(InvNormalGreater(p), -z) << p;
+    if (1 - (1 - p) == p) {
+      EXPECT_EQ(InvNormalGreater(p), -z) << p;
+    }
     EXPECT_EQ(InvNormalDistLess(7, 0.25L, p), z * 0.25L + 7) << p;
   }
   EXPECT_EQ(InvNormalLess(0.5L), 0);
