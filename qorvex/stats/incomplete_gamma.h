@@ -5,7 +5,7 @@
 ///
 /// Series and fraction end when a term, or the change of the fraction, is at most QorTolerance, so
 /// the absolute error is up to 2e-15. A tolerance that is not positive, or NaN, counts as 4 eps:
-/// the loops would not end. Any positive one is reached: the series within some 5000 steps, since
+/// the loops would not end. Any positive one is reached: the series within some 8000 steps, since
 /// its terms underflow, and the fraction within 200, measured over its whole domain down to
 /// tolerances that only equal values meet. Values below exp(-88) = 6e-39 are returned as 0, those
 /// that near to 1 as 1, and the value for x <= QorTolerance as 0.
@@ -24,10 +24,9 @@ namespace qorvex::inline QorvexStatistics {
 
 /// P(a, x), the lower incomplete gamma function of shape a, regularised; 1 above x = 1e8 for shapes
 /// up to 1000. EMathError: rsValueGEZero for x < 0; rsValueGZero for a <= 0, and for a > 1000 where
-/// x is below the centre. Then NaN gives NaN. Some ten to two
-/// hundred steps at the default tolerance. Shea (1988), "Algorithm AS
-/// 239: chi-squared and incomplete gamma integral", Applied Statistics 37, 466-473; Wilson and
-/// Hilferty (1931), "The distribution of chi-square", PNAS 17, 684-688.
+/// x is below the centre. Then NaN gives NaN. Up to 300 steps at the default tolerance. Shea
+/// (1988), "Algorithm AS 239: chi-squared and incomplete gamma integral", Applied Statistics 37,
+/// 466-473; Wilson and Hilferty (1931), "The distribution of chi-square", PNAS 17, 684-688.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteGamma(Extended a, Extended x);
 
 /// The upper incomplete gamma integral, not regularised, as Gamma(a) times the upper probability
