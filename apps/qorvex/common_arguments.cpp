@@ -73,4 +73,12 @@ void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::str
       ->option_text("N (0 to 255)");
 }
 
+void RequireOneCommand(CLI::App& app, const std::string& name) {
+  app.require_subcommand(0, 1);
+  // Asked here and not by require_subcommand, so that a misspelt command is named.
+  app.callback([&app, name] {
+    if (app.get_subcommands().empty()) throw CLI::RequiredError(name);
+  });
+}
+
 }  // namespace qorvex::cli

@@ -24,4 +24,8 @@ void AddDelimiter(CLI::App& command, std::optional<char>& delimiter);
 /// Adds --decimals, 0 to 255, which stays empty when it is not given.
 void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description);
 
+/// Lets an app with subcommands take one of them a call, and complains of its absence by the given
+/// name.
+void RequireOneCommand(CLI::App& app, const std::string& name);
+
 }  // namespace qorvex::cli

@@ -20,7 +20,7 @@ enum class InputFault {
   kNotANumber,      ///< text where a finite number belongs
   kEmptyCell,       ///< nothing where a number belongs
   kOutOfRange,      ///< numbers beyond the extended range, or whose results are
-  kNoResult,        ///< matrices that have no inverse, or no product
+  kNoResult,        ///< no inverse, no product, or parameters that a distribution refuses
 };
 
 /// A fault of the input. The text reads "name: what" or "name:line: what".

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "apps/qorvex/describe.h"
+#include "apps/qorvex/dist.h"
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/matrix.h"
 #include "apps/qorvex/text_output.h"
@@ -17,10 +18,11 @@ namespace {
 enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
 
 int Run(int argc, char** argv) {
-  CLI::App program("Statistics and matrices, computed with 64 bits of mantissa.", "qorvex");
+  CLI::App program("Statistics, matrices and distributions, computed with 64 bits of mantissa.", "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
   AddMatrix(program);
+  AddDist(program);
   // One command a call, so that a file may bear the name of another.
   program.require_subcommand(0, 1);
 

@@ -163,10 +163,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
 void AddMatrix(CLI::App& program) {
   CLI::App& matrix = *program.add_subcommand("matrix", "Inverses, products and ranks of matrices");
   for (const MatrixOperation& operation : MatrixOperations()) AddOperation(matrix, operation);
-  matrix.require_subcommand(0, 1);
-  matrix.callback([&matrix] {
-    if (matrix.get_subcommands().empty()) throw CLI::RequiredError("A command of matrix");
-  });
+  RequireOneCommand(matrix, "A command of matrix");
 }
 
 }  // namespace qorvex::cli

@@ -1,0 +1,349 @@
+#include "apps/qorvex/dist.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/distributions.h"
+#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/text_output.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+
+namespace qorvex::cli {
+
+namespace {
+
+constexpr Extended kLargestCount = std::numeric_limits<std::uint32_t>::max();
+constexpr Extended kMostSteps = std::numeric_limits<std::int32_t>::max();
+
+constexpr const char* kNumbersHelp = R"(Numbers:
+  Finite, with a decimal point and an optional exponent, read to 80 bits.
+  Figures keep full relative accuracy in both tails. --prescribed computes with
+  the routines of the unit QorvexStatistics instead, which lose small tails.)";
+
+using Numbers = std::vector<Extended>;
+
+struct DistArguments {
+  /// The parameters, then the points or the range.
+  Numbers numbers;
+  std::optional<Extended> lower_probability;
+  std::optional<Extended> upper_probability;
+  /// The steps of a continuous table.
+  Extended steps = 0;
+  std::optional<int> decimals;
+  bool log = false;
+  bool prescribed = false;
+};
+
+// What is wrong with a number of the given kind; nothing if it is fine.
+const char* WhatIsWrong(Extended value, NumberKind kind) {
+  const auto is_whole = [value](Extended largest) {
+    return value >= 0 && value <= largest && value == std::floor(value);
+  };
+  if (!std::isfinite(value)) return "is not a finite number";
+  switch (kind) {
+    case NumberKind::kReal:
+      break;
+    case NumberKind::kPositive:
+      return value > 0 ? nullptr : "is not greater than 0";
+    case NumberKind::kShare:
+      return value >= 0 && value <= 1 ? nullptr : "is not from 0 to 1";
+    case NumberKind::kProbability:
+      return value > 0 && value < 1 ? nullptr : "is not between 0 and 1";
+    case NumberKind::kCount:
+      return is_whole(kLargestCount) ? nullptr : "is not a whole number from 0 to 4294967295";
+    case NumberKind::kSteps:
+      return is_whole(kMostSteps) ? nullptr : "is not a whole number from 0 to 2147483647";
+  }
+  return nullptr;
+}
+
+Extended ParseNumber(const std::string& option, const std::string& text, NumberKind kind) {
+  Extended value = 0;
+  try {
+    value = Str2Float(text);
+  } catch (const EConvertError& error) {
+    throw CLI::ValidationError(option, OnOneLine(error.what()));
+  }
+  const char* const wrong = WhatIsWrong(value, kind);
+  if (wrong == nullptr) return value;
+  throw CLI::ValidationError(option, Excerpt(text) + ' ' + wrong);
+}
+
+// Set is called with the number when the option is given.
+template <class Set>
+CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::string& description,
+                       NumberKind kind, Set set) {
+  const bool is_whole = kind == NumberKind::kCount || kind == NumberKind::kSteps;
+  return *command
+              .add_option_function<std::string>(
+                  option,
+                  [option, kind, set](const std::string& text) {
+                    set(ParseNumber(option, text, kind));
+                  },
+                  description)
+              ->type_name(is_whole ? "N" : "X");
+}
+
+using SharedArguments = std::shared_ptr<DistArguments>;
+
+void AddNumberInOrder(CLI::App& command, const SharedArguments& arguments,
+                      const DistributionParameter& parameter) {
+  const std::size_t index = arguments->numbers.size();
+  arguments->numbers.push_back(parameter.standard.value_or(0));
+  CLI::Option& option =
+      AddNumber(command, parameter.option, parameter.description, parameter.kind,
+                [arguments, index](Extended value) { arguments->numbers[index] = value; });
+  if (!parameter.standard) option.required();
+}
+
+NumberKind PointKind(const Distribution& distribution) {
+  return distribution.is_discrete ? NumberKind::kCount : NumberKind::kReal;
+}
+
+void AddPoint(CLI::App& command, const Distribution& distribution,
+              const SharedArguments& arguments) {
+  AddNumberInOrder(
+      command, arguments,
+      {distribution.is_discrete ? "--k" : "--x", "The point", PointKind(distribution)});
+}
+
+void AddPointAndLog(CLI::App& command, const Distribution& distribution,
+                    const SharedArguments& arguments) {
+  AddPoint(command, distribution, arguments);
+  command
+      .add_flag("--log", arguments->log,
+                "The natural logarithm, also where the probability underflows")
+      ->excludes(command.get_option("--prescribed"));
+}
+
+void AddTwoPoints(CLI::App& command, const Distribution& distribution,
+                  const SharedArguments& arguments) {
+  const NumberKind kind = PointKind(distribution);
+  const bool discrete = distribution.is_discrete;
+  AddNumberInOrder(command, arguments, {discrete ? "--k1" : "--x1", "One point", kind});
+  AddNumberInOrder(command, arguments, {discrete ? "--k2" : "--x2", "The other point", kind});
+}
+
+void AddProbability(CLI::App& command, const Distribution&, const SharedArguments& arguments) {
+  CLI::Option_group& group = *command.add_option_group("Probability", "One of");
+  const auto add = [&](const char* option, const char* description,
+                       std::optional<Extended> DistArguments::*probability) {
+    AddNumber(group, option, description, NumberKind::kProbability,
+              [arguments, probability](Extended p) { (*arguments).*probability = p; });
+  };
+  add("--p", "The lower probability", &DistArguments::lower_probability);
+  add("--upper-p", "The upper probability, however small", &DistArguments::upper_probability);
+  group.require_option(1);
+}
+
+void AddRange(CLI::App& command, const Distribution& distribution,
+              const SharedArguments& arguments) {
+  const NumberKind kind = PointKind(distribution);
+  AddNumberInOrder(command, arguments, {"--from", "The first point", kind});
+  AddNumberInOrder(command, arguments, {"--to", "The last point", kind});
+  if (distribution.is_discrete) return;
+  AddNumber(command, "--n", "The number of steps; there is one point more", NumberKind::kSteps,
+            [arguments](Extended n) { arguments->steps = n; })
+      .required();
+}
+
+// A routine that QorvexStatistics may lack.
+template <class Routine>
+Routine Existing(Routine routine) {
+  if (routine != nullptr) return routine;
+  throw CLI::ValidationError("--prescribed", "there is no such routine in QorvexStatistics");
+}
+
+Numbers WithLast(Numbers numbers, Extended last) {
+  numbers.back() = last;
+  return numbers;
+}
+
+Extended Less(const Distribution& distribution, const DistArguments& arguments) {
+  if (arguments.prescribed) return Existing(distribution.prescribed.less)(arguments.numbers);
+  const FullPrecisionRoutines& routines = distribution.full_precision;
+  const DistributionRoutine lower = arguments.log ? routines.log_lower : routines.lower;
+  if (!distribution.is_discrete) return lower(arguments.numbers);
+  // Fewer than k are at most k - 1; fewer than none is impossible, though the parameters are
+  // checked all the same.
+  const Extended k = arguments.numbers.back();
+  const Extended at_most = lower(WithLast(arguments.numbers, k > 0 ? k - 1 : 0));
+  if (k > 0) return at_most;
+  return arguments.log ? -std::numeric_limits<Extended>::infinity() : 0;
+}
+
+Extended Greater(const Distribution& distribution, const DistArguments& arguments) {
+  if (arguments.prescribed) return Existing(distribution.prescribed.greater)(arguments.numbers);
+  const FullPrecisionRoutines& routines = distribution.full_precision;
+  return (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
+}
+
+Extended Between(const Distribution& distribution, const DistArguments& arguments) {
+  if (arguments.prescribed) return Existing(distribution.prescribed.between)(arguments.numbers);
+  Numbers first = arguments.numbers;
+  const Extended point = first.back();
+  first.pop_back();
+  Numbers second = first;
+  first.back() = std::min(first.back(), point);
+  second.back() = std::max(second.back(), point);
+  // Fewer than a count are at most the one before it.
+  if (distribution.is_discrete && second.back() > first.back()) --second.back();
+
+  // A difference of the tails on the side where they are small, or what both leave where the
+  // median is between the points.
+  constexpr Extended half = 0.5L;
+  const FullPrecisionRoutines& routines = distribution.full_precision;
+  const Extended lower = routines.lower(second);
+  if (lower <= half) return lower - routines.lower(first);
+  const Extended upper = routines.upper(first);
+  if (upper <= half) return upper - routines.upper(second);
+  return 1 - routines.lower(first) - routines.upper(second);
+}
+
+Extended Quantile(const Distribution& distribution, const DistArguments& arguments) {
+  Numbers numbers = arguments.numbers;
+  const bool from_below = arguments.lower_probability.has_value();
+  numbers.push_back(from_below ? *arguments.lower_probability : *arguments.upper_probability);
+  const FullPrecisionRoutines& full_precision = distribution.full_precision;
+  const PrescribedRoutines& prescribed = distribution.prescribed;
+  if (!arguments.prescribed)
+    return (from_below ? full_precision.quantile : full_precision.upper_quantile)(numbers);
+  return Existing(from_below ? prescribed.quantile : prescribed.upper_quantile)(numbers);
+}
+
+Extended Density(const Distribution& distribution, const DistArguments& arguments) {
+  if (arguments.prescribed) return Existing(distribution.prescribed.density)(arguments.numbers);
+  return distribution.full_precision.density(arguments.numbers);
+}
+
+std::string Text(Extended value, const DistArguments& arguments) {
+  if (std::isnan(value)) throw EOverflow();
+  return arguments.decimals ? Float2EStr(value, *arguments.decimals) : Float2Str(value);
+}
+
+template <Extended (*compute)(const Distribution&, const DistArguments&)>
+std::string OneLine(const Distribution& distribution, const DistArguments& arguments) {
+  return Text(compute(distribution, arguments), arguments) + '\n';
+}
+
+std::string TableOfCounts(const Distribution& distribution, DistArguments arguments) {
+  const Extended last = arguments.numbers.back();
+  arguments.numbers.pop_back();
+  std::string lines;
+  for (Extended& k = arguments.numbers.back(); k <= last; ++k)
+    lines += Float2Str(k) + ',' + OneLine<Density>(distribution, arguments);
+  return lines;
+}
+
+std::string Table(const Distribution& distribution, const DistArguments& arguments) {
+  if (distribution.is_discrete) return TableOfCounts(distribution, arguments);
+  const auto n = static_cast<std::int32_t>(arguments.steps);
+  TQorFloatVector x_values;
+  TQorFloatVector densities;
+  if (arguments.prescribed) {
+    Existing(distribution.prescribed.table)(arguments.numbers, n, x_values, densities);
+  } else {
+    Numbers numbers = arguments.numbers;
+    const Extended to = numbers.back();
+    numbers.pop_back();
+    const Extended from = numbers.back();
+    const Extended step = n >= 1 ? (to - from) / arguments.steps : 0;
+    const std::size_t length = static_cast<std::size_t>(n) + 1;
+    x_values = TQorFloatVector::ForOverwrite(length);
+    densities = TQorFloatVector::ForOverwrite(length);
+    for (std::size_t i = 0; i < length; ++i) {
+      x_values[i] = numbers.back() = static_cast<Extended>(i) * step + from;
+      densities[i] = distribution.full_precision.density(numbers);
+    }
+  }
+  std::string lines;
+  for (std::size_t i = 0; i < x_values.size(); ++i)
+    lines += Text(x_values[i], arguments) + ',' + Text(densities[i], arguments) + '\n';
+  return lines;
+}
+
+// A command of every distribution.
+struct Question {
+  const char* name;
+  const char* summary;
+  void (*add_options)(CLI::App& command, const Distribution& distribution,
+                      const SharedArguments& arguments);
+  std::string (*answer)(const Distribution& distribution, const DistArguments& arguments);
+};
+
+constexpr Question kQuestions[] = {
+    {"less", "The probability of less than a point", AddPointAndLog, OneLine<Less>},
+    {"greater", "The probability of more than a point", AddPointAndLog, OneLine<Greater>},
+    {"between", "The probability between two points, in either order, both excluded", AddTwoPoints,
+     OneLine<Between>},
+    {"inv", "The point with a given lower or upper probability", AddProbability, OneLine<Quantile>},
+    {"pdf", "The density at a point, or the probability of a count", AddPoint, OneLine<Density>},
+    {"table", "The densities over a range, one line \"point,density\" each", AddRange, Table},
+};
+
+void RequireWholeNumbers(const Distribution& distribution, const DistArguments& arguments) {
+  for (std::size_t i = 0; i < distribution.parameters.size(); ++i) {
+    const DistributionParameter& parameter = distribution.parameters[i];
+    const Extended value = arguments.numbers[i];
+    if (!parameter.whole_when_prescribed) continue;
+    if (const char* const wrong = WhatIsWrong(value, NumberKind::kCount)) {
+      throw CLI::ValidationError(parameter.option,
+                                 Float2Str(value) + ' ' + wrong + ", as --prescribed needs");
+    }
+  }
+}
+
+void Run(const Distribution& distribution, const Question& question,
+         const DistArguments& arguments) {
+  if (arguments.prescribed) RequireWholeNumbers(distribution, arguments);
+  if (distribution.inconsistency != nullptr) {
+    if (const char* const what = distribution.inconsistency(arguments.numbers))
+      throw CLI::ValidationError(what);
+  }
+  try {
+    WriteResult(question.answer(distribution, arguments));
+  } catch (const EMathError& error) {
+    throw InputError(InputFault::kNoResult, std::string(distribution.name) + ' ' + question.name,
+                     error.what());
+  }
+}
+
+void AddQuestion(CLI::App& family, const Distribution& distribution, const Question& question) {
+  CLI::App& command = *family.add_subcommand(question.name, question.summary);
+  const auto arguments = std::make_shared<DistArguments>();
+  for (const DistributionParameter& parameter : distribution.parameters)
+    AddNumberInOrder(command, arguments, parameter);
+  command.add_flag("--prescribed", arguments->prescribed,
+                   "Compute with the routines of QorvexStatistics");
+  question.add_options(command, distribution, arguments);
+  AddDecimals(command, arguments->decimals,
+              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
+  command.footer(std::string(kNumbersHelp) + kExitStatusHelp);
+  command.callback(
+      [&distribution, &question, arguments] { Run(distribution, question, *arguments); });
+}
+
+}  // namespace
+
+void AddDist(CLI::App& program) {
+  CLI::App& dist =
+      *program.add_subcommand("dist", "Probabilities, densities and quantiles of distributions");
+  for (const Distribution& distribution : Distributions()) {
+    CLI::App& family = *dist.add_subcommand(distribution.name, distribution.summary);
+    for (const Question& question : kQuestions) AddQuestion(family, distribution, question);
+    RequireOneCommand(family, std::string("A command of dist ") + distribution.name);
+  }
+  RequireOneCommand(dist, "A distribution");
+}
+
+}  // namespace qorvex::cli

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+namespace qorvex::cli {
+
+/// Adds the command `dist`: probabilities, densities and quantiles of distributions.
+void AddDist(CLI::App& program);
+
+}  // namespace qorvex::cli
