@@ -135,6 +135,124 @@ TEST(Matrix, RefusesBadInputWithStatusTwo) {
                 "nosuch.csv: No such file or directory");
 }
 
+// By hand, from the closed forms of special cases, or what is known of the standard normal.
+TEST(Dist, AnswersForEveryDistribution) {
+  for (const auto& [question, answer] : {
+           std::pair("normal less --mean 1 --std-dev 2 --x 4.92 --decimals 10", "0.9750021049\n"),
+           std::pair("log-normal inv --mean 1 --p 0.5 --decimals 12", "2.718281828459\n"),
+           std::pair("exponential greater --mean 2 --x 6 --decimals 12", "0.049787068368\n"),
+           std::pair("exponential less --mean 2 --x 1e-30 --decimals 40",
+                     "0.0000000000000000000000000000005000000000\n"),
+           std::pair("gamma less --shape 1 --scale 2 --x 6 --decimals 12", "0.950212931632\n"),
+           std::pair("chi-square inv --df 2 --upper-p 1e-100 --decimals 10", "460.5170185988\n"),
+           std::pair("student-t pdf --df 1 --x 1 --decimals 12", "0.159154943092\n"),
+           std::pair("student-t less --df 2 --x -1e6 --decimals 25",
+                     "0.0000000000004999999999993\n"),
+           std::pair("f greater --df1 2 --df2 4 --x 1 --decimals 12", "0.444444444444\n"),
+           std::pair("beta less --a 2 --b 1 --x 0.5 --decimals 12", "0.250000000000\n"),
+           std::pair("beta inv --a 2 --b 1 --lower-end 1 --upper-end 5 --p 0.25 --decimals 6",
+                     "3.000000\n"),
+           std::pair("beta pdf --a 2 --b 3 --lower-end 1 --upper-end 5 --x 2 --decimals 12",
+                     "0.421875000000\n"),
+           std::pair("hypergeometric pdf --pop-size 10 --sample-size 3 --successes 4 --k 1 "
+                     "--decimals 12",
+                     "0.500000000000\n"),
+           std::pair("poisson less --lambda 2 --k 1 --decimals 12", "0.135335283237\n"),
+           std::pair("poisson inv --lambda 2 --upper-p 0.3", "3\n"),
+           // By the asymptotic series -800 - ln(40 sqrt(2 pi)) + ln(1 - 1/1600 + ...).
+           std::pair("normal greater --x 40 --log --decimals 8", "-804.60844201\n"),
+       }) {
+    ExpectOutput(std::string("qorvex dist ") + question, answer);
+  }
+}
+
+TEST(Dist, CountsNeitherEndOfADiscreteInterval) {
+  const std::string fair = "--success-probability 0.5 --trials 4 --decimals 4 ";
+  for (const auto& [question, answer] : {
+           std::pair("less --k 0", "0.0000\n"),
+           std::pair("less --k 0 --log", "-inf\n"),
+           std::pair("less --k 2", "0.3125\n"),
+           std::pair("less --k 9", "1.0000\n"),
+           std::pair("greater --k 2", "0.3125\n"),
+           std::pair("greater --k 4", "0.0000\n"),
+           std::pair("between --k1 0 --k2 4", "0.8750\n"),
+           std::pair("between --k1 3 --k2 1", "0.3750\n"),
+           std::pair("between --k1 0 --k2 2", "0.2500\n"),
+           std::pair("between --k1 2 --k2 4", "0.2500\n"),
+           std::pair("between --k1 2 --k2 3", "0.0000\n"),
+           std::pair("between --k1 2 --k2 2", "0.0000\n"),
+           std::pair("table --from 3 --to 5", "3,0.2500\n4,0.0625\n5,0.0000\n"),
+           std::pair("table --from 3 --to 2", ""),
+       }) {
+    ExpectOutput("qorvex dist binomial " + std::string(question) + ' ' + fair, answer);
+  }
+}
+
+TEST(Dist, KeepsTheDigitsOfIntervalsInEitherTail) {
+  // exp(-100) - exp(-101), and the same interval from below; then one around the median.
+  ExpectOutput("qorvex dist exponential between --mean 1 --x1 101 --x2 100 --decimals 56",
+               "0.00000000000000000000000000000000000000000002351536504847\n");
+  for (const char* points : {"--x1 12 --x2 13", "--x1 -12 --x2 -13"}) {
+    ExpectOutput(std::string("qorvex dist normal between --decimals 45 ") + points,
+                 "0.000000000000000000000000000000001776475994913\n");
+  }
+  ExpectOutput("qorvex dist normal between --x1 -1 --x2 1 --decimals 12", "0.682689492137\n");
+}
+
+TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
+  for (const auto& [question, answer] : {
+           // Twelve standard deviations out their series has ended too early.
+           std::pair("normal less --x 12 --decimals 4", "0.5000\n"),
+           std::pair("normal table --from -1 --to 1 --n 2 --decimals 4",
+                     "-1.0000,0.2420\n0.0000,0.3989\n1.0000,0.2420\n"),
+           std::pair("gamma less --shape 1 --scale 2 --x 6 --decimals 12", "0.950212931632\n"),
+           std::pair("chi-square between --df 2 --x1 6 --x2 2 --decimals 12", "0.318092372804\n"),
+           std::pair("f inv --df1 2 --df2 4 --p 0.75 --decimals 12", "2.000000000000\n"),
+           std::pair("beta less --a 2 --b 1 --lower-end 1 --upper-end 5 --x 3 --decimals 12",
+                     "0.250000000000\n"),
+           std::pair("beta table --a 1 --b 1 --upper-end 2 --from 1 --to 3 --n 1 --decimals 2",
+                     "1.00,0.50\n3.00,0.00\n"),
+       }) {
+    ExpectOutput(std::string("qorvex dist ") + question + " --prescribed", answer);
+  }
+  ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --prescribed", "0\n");
+  ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --prescribed",
+                "chi-square pdf: The value must not be negative");
+  ExpectRefusal("qorvex dist normal inv --upper-p 1e-30 --prescribed",
+                "normal inv: The value must be greater than 0 and less than 1");
+  ExpectRefusal("qorvex dist hypergeometric pdf --pop-size 3 --sample-size 4 --successes 1 --k 1",
+                "hypergeometric pdf: The hypergeometric distribution needs a population and a "
+                "sample of at least one, and neither sample nor successes above the population");
+}
+
+TEST(Dist, NamesTheOptionThatIsWrong) {
+  for (const auto& [question, message] : {
+           std::pair("normal pdf --x 1,5", "--x: \"1,5\" is not a number"),
+           std::pair("normal pdf --x inf", "--x: \"inf\" is not a finite number"),
+           std::pair("normal pdf --x 1e5000", "--x: \"1e5000\" is too large a number"),
+           std::pair("normal pdf", "--x is required"),
+           std::pair("normal pdf --std-dev 0 --x 1", "--std-dev: \"0\" is not greater than 0"),
+           std::pair("normal inv --p 1", "--p: \"1\" is not between 0 and 1"),
+           std::pair("normal table --from 0 --to 1 --n -1",
+                     "--n: \"-1\" is not a whole number from 0 to 2147483647"),
+           std::pair("binomial pdf --trials 4294967296 --success-probability 1 --k 1",
+                     "--trials: \"4294967296\" is not a whole number from 0 to 4294967295"),
+           std::pair("binomial pdf --trials 1 --success-probability 1.1 --k 1",
+                     "--success-probability: \"1.1\" is not from 0 to 1"),
+           std::pair(
+               "f less --df1 1 --df2 2.5 --x 1 --prescribed",
+               "--df2: 2.5 is not a whole number from 0 to 4294967295, as --prescribed needs"),
+           std::pair("beta pdf --a 1 --b 1 --lower-end 1 --x 1",
+                     "--upper-end must be greater than --lower-end"),
+           std::pair("exponential inv --mean 1 --p 0.5 --prescribed",
+                     "--prescribed: there is no such routine in QorvexStatistics"),
+       }) {
+    ExpectRefusal(
+        std::string("qorvex dist ") + question,
+        message + std::string("\nqorvex: --help tells what the program and its commands take"));
+  }
+}
+
 TEST(Program, TakesTheNamesOfCommandsForFiles) {
   for (const char* command : {"describe matrix", "matrix rank matrix", "matrix inverse describe",
                               "matrix multiply rank multiply"}) {
@@ -150,6 +268,9 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
        {"--decimals -1", "--decimals 256", "--decimals x", "--decimals 0x10", "--delimiter 5",
         "--delimiter ''", "--delimiter ab", "--nosuch", "--column 1 extra", "--column"}},
       {"matrix ", {"invert -", "inverse", "inverse - -", "multiply -", "multiply - -"}},
+      {"dist ",
+       {"", "gauss", "normal", "normal most", "normal inv", "normal inv --p .5 --upper-p .5",
+        "normal less --x 1 --log --prescribed"}},
       {"matrix rank - ", {"--decimals 2", "--tolerance x", "--tolerance nan", "--tolerance=-1"}},
   };
   for (const auto& [command, endings] : commands) {
