@@ -14,8 +14,9 @@
 ///
 /// EMathError, in this order: for quantiles rsValue01 unless 0 < p < 1; rsValueGZero unless a and b
 /// are positive; rsInvalidValue unless the upper end is above the lower and both are finite.
-/// EInvalidOp for shapes above 1e15. Points outside the support are no error: probabilities take
-/// them as the nearer end, and their density is 0. NaN gives NaN, except for p and the ends.
+/// EInvalidOp for shapes below 1e-18 and above 1e15. Points outside the support are no error:
+/// probabilities take them as the nearer end, and their density is 0. NaN gives NaN, except for p
+/// and the ends.
 
 #include <cstdint>
 
