@@ -18,7 +18,8 @@ namespace {
 enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
 
 int Run(int argc, char** argv) {
-  CLI::App program("Statistics, matrices and distributions, computed with 64 bits of mantissa.", "qorvex");
+  CLI::App program("Statistics, matrices and distributions, computed with 64 bits of mantissa.",
+                   "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
   AddMatrix(program);
