@@ -2,8 +2,8 @@
 #include <cstdint>
 
 #include "qorvex/stats/full_precision.h"
-#include "qorvex/stats/full_precision/shared.h"
-#include "qorvex/stats/full_precision/smallest_count.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
+#include "qorvex/stats/full_precision/detail/smallest_count.h"
 
 namespace qorvex::full_precision {
 

@@ -1,5 +1,5 @@
 #include "qorvex/stats/full_precision.h"
-#include "qorvex/stats/full_precision/shared.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
 
 namespace qorvex::full_precision {
 

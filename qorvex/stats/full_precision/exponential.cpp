@@ -1,7 +1,7 @@
 #include <cmath>
 
 #include "qorvex/stats/full_precision.h"
-#include "qorvex/stats/full_precision/shared.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
 
 namespace qorvex::full_precision {
 

@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "qorvex/stats/full_precision.h"
-#include "qorvex/stats/full_precision/shared.h"
-#include "qorvex/stats/full_precision/smallest_count.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
+#include "qorvex/stats/full_precision/detail/smallest_count.h"
 
 namespace qorvex::full_precision {
 

@@ -1,8 +1,8 @@
 #include <cmath>
 
 #include "qorvex/stats/full_precision.h"
-#include "qorvex/stats/full_precision/shared.h"
-#include "qorvex/stats/full_precision/standard_normal.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
+#include "qorvex/stats/full_precision/detail/standard_normal.h"
 
 namespace qorvex::full_precision {
 

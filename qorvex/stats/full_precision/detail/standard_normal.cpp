@@ -1,4 +1,4 @@
-#include "qorvex/stats/full_precision/standard_normal.h"
+#include "qorvex/stats/full_precision/detail/standard_normal.h"
 
 #include <cmath>
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "qorvex/stats/full_precision/shared.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
 
 namespace qorvex::full_precision::detail {
 

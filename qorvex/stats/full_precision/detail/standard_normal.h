@@ -3,7 +3,7 @@
 /// @file
 /// The standard normal distribution, behind the normal and the log-normal one.
 
-#include "qorvex/stats/full_precision/shared.h"
+#include "qorvex/stats/full_precision/detail/shared.h"
 
 namespace qorvex::full_precision::detail {
 
