@@ -4,24 +4,19 @@
 
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/stats/detail/powers.h"
 #include "qorvex/stats/dispersion.h"
 #include "qorvex/vector/detail/checks.h"
 
 namespace qorvex::inline QorvexStatistics {
 
+using detail::Cube;
+using detail::FourthPower;
+
 namespace {
 
 constexpr std::size_t kLeastForSkew = 3;
 constexpr std::size_t kLeastForKurtosis = 4;
-
-Extended Cube(Extended x) {
-  return x * x * x;
-}
-
-Extended FourthPower(Extended x) {
-  const Extended square = x * x;
-  return square * square;
-}
 
 void RequireForSkew(const TQorFloatVector& vector) {
   QorvexVector::detail::RequireElements(vector);

@@ -1,6 +1,7 @@
-// The univariate reference sets, judged by the number of correct digits against the exact results
+// The reference sets, judged by the number of correct digits against the exact results
 // for the data as 80 bits hold them.
 
+#include "qorvex/stats/QorvexPairStats.h"
 #include "qorvex/stats/QorvexStatistics.h"
 #include "support/table.h"
 #include "support/test.h"
@@ -24,6 +25,43 @@ TEST(Nist, MeansReach17DigitsAndStandardDeviations17AndAHalf) {
     EXPECT_GE(std_dev_digits, 17.5L) << name;
     RecordProperty(name, Float2EStr(mean_digits, 1) + " " + Float2EStr(std_dev_digits, 1));
   }
+}
+
+TEST(Nist, LinesAndParabolasReachWhatTheNormalEquationsLeave) {
+  const testing::Table sets("nist/regression.csv");
+  const auto expect_digits = [&](std::size_t row, const char* column, Extended value,
+                                 Extended least) {
+    const Extended digits = CorrectDigits(value, sets.Value(row, column));
+    EXPECT_GE(digits, least) << column;
+    RecordProperty(sets.Text(row, "name") + "_" + column, Float2EStr(digits, 1));
+  };
+  const auto read_pairs = [&](std::size_t row, TQorFloatVector& x, TQorFloatVector& y) {
+    const auto numbers = testing::ReadNumbers("nist/" + sets.Text(row, "file"));
+    for (std::size_t i = 0; i < numbers.size(); i += 2) {
+      x.Append(numbers[i]);
+      y.Append(numbers[i + 1]);
+    }
+  };
+  TQorFloatVector x;
+  TQorFloatVector y;
+  Extended b0 = 0;
+  Extended b1 = 0;
+  read_pairs(0, x, y);
+  ASSERT_EQ(x.size(), 36U);
+  GetRegressionLine(x, y, b0, b1);
+  expect_digits(0, "b0", b0, 15.4L);
+  expect_digits(0, "b1", b1, 18);
+  expect_digits(0, "rss", GetSSE(x, y, b0, b1), 16);
+  expect_digits(0, "r2", CoeffDetermination(x, y), 18);
+
+  Extended b2 = 0;
+  x = y = TQorFloatVector();
+  read_pairs(1, x, y);
+  ASSERT_EQ(x.size(), 40U);
+  GetQuadraticCurve(x, y, b0, b1, b2);
+  expect_digits(1, "b0", b0, 13);
+  expect_digits(1, "b1", b1, 16);
+  expect_digits(1, "b2", b2, 15);
 }
 
 }  // namespace qorvex

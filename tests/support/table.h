@@ -72,13 +72,16 @@ void ExpectWorstError(const Table& table, const std::string& column, Extended li
   ::testing::Test::RecordProperty("worst_" + column, Float2EStr(worst, 2));
 }
 
-/// The values of a file with one number a line; lines that start with # are remarks.
+/// The values of a file whose lines have numbers between blanks; lines that start with # are
+/// remarks.
 inline std::vector<Extended> ReadNumbers(const std::string& file) {
   std::ifstream in(std::string(QORVEX_TEST_DATA) + "/" + file);
   if (!in) throw std::runtime_error("no reference data " + file);
   std::vector<Extended> values;
   for (std::string line; std::getline(in, line);) {
-    if (!line.empty() && line.front() != '#') values.push_back(Str2Float(line));
+    if (!line.empty() && line.front() == '#') continue;
+    std::istringstream numbers(line);
+    for (std::string number; numbers >> number;) values.push_back(Str2Float(number));
   }
   return values;
 }
