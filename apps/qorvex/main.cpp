@@ -6,6 +6,7 @@
 
 #include "apps/qorvex/describe.h"
 #include "apps/qorvex/dist.h"
+#include "apps/qorvex/fit.h"
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/matrix.h"
 #include "apps/qorvex/text_output.h"
@@ -22,6 +23,7 @@ int Run(int argc, char** argv) {
                    "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
+  AddFit(program);
   AddMatrix(program);
   AddDist(program);
   // One command a call, so that a file may bear the name of another.

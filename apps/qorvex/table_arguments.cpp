@@ -16,7 +16,10 @@ std::string Hint(InputFault fault, const TableSelection& selection) {
   if (fault == InputFault::kNotANumber && selection.columns.empty()) {
     return "; --column chooses the columns to read";
   }
-  if (fault == InputFault::kEmptyCell) return "; --skip-empty skips empty cells";
+  if (fault == InputFault::kEmptyCell) {
+    return selection.whole_rows ? "; --skip-empty skips such rows"
+                                : "; --skip-empty skips empty cells";
+  }
   return "";
 }
 
@@ -54,6 +57,25 @@ void TableArguments::AddTo(CLI::App& command) {
                    "Skip empty cells and say how many, instead of refusing them");
 }
 
+void TableArguments::AddPairTo(CLI::App& command) {
+  selection.whole_rows = true;
+  selection.columns.resize(2);
+  AddFile(command, file, "FILE", "The table to read");
+  const auto add_column = [&](std::size_t index, const char* name, const char* description) {
+    command.add_option(name, selection.columns[index], description)
+        ->type_name("NAME|N")
+        ->required();
+  };
+  add_column(0, "--x",
+             "The column of the x, by name or by number from 1;\n"
+             "a name wins over a number");
+  add_column(1, "--y", "The column of the y");
+  AddDelimiter(command, selection.delimiter);
+  command.add_flag("--skip-empty", selection.skip_empty,
+                   "Skip rows in which x or y is empty and say how many,\n"
+                   "instead of refusing them");
+}
+
 std::vector<TableColumn> TableArguments::Read() const {
   try {
     std::vector<TableColumn> columns = ReadTable(OpenTextInput(file), selection);
@@ -62,9 +84,13 @@ std::vector<TableColumn> TableArguments::Read() const {
         WriteRemark(OnOneLine(InputName(file)) + ": the first row was taken for a header because " +
                     Excerpt(column.name) + " is not a number");
       }
-      if (column.skipped == 0) continue;
+      if (column.skipped == 0 || selection.whole_rows) continue;
       WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": skipped " +
                   Cardinal(column.skipped, "empty cell"));
+    }
+    if (selection.whole_rows && columns[0].skipped != 0) {
+      WriteRemark(OnOneLine(InputName(file)) + ": skipped " + Cardinal(columns[0].skipped, "row") +
+                  " with an empty cell");
     }
     return columns;
   } catch (const InputError& error) {

@@ -14,7 +14,7 @@ namespace qorvex::cli {
 /// What every --help of a command that reads a table says about tables.
 [[nodiscard]] std::string TableHelp();
 
-/// FILE, --column, --delimiter and --skip-empty.
+/// FILE, --column or --x and --y, --delimiter and --skip-empty.
 struct TableArguments {
   std::string file;
   TableSelection selection;
@@ -22,8 +22,11 @@ struct TableArguments {
   /// Adds the arguments to a command; this object must then outlive the parsing.
   void AddTo(CLI::App& command);
 
-  /// Reads the table. Remarks on standard error how many empty cells were skipped. InputErrors name
-  /// the argument that helps, where one does.
+  /// As AddTo, with --x and --y for two columns of which the values of one index belong to one row.
+  void AddPairTo(CLI::App& command);
+
+  /// Reads the table. Remarks on standard error how many empty cells, or rows, were skipped.
+  /// InputErrors name the argument that helps, where one does.
   [[nodiscard]] std::vector<TableColumn> Read() const;
 };
 

@@ -80,6 +80,7 @@ class ColumnCollector {
   ColumnCollector(RowReader& rows, const TableSelection& selection)
       : rows_(rows),
         skip_empty_(selection.skip_empty),
+        whole_rows_(selection.whole_rows),
         first_line_(rows.Line()),
         width_(rows.Cells().size()) {
     std::vector<std::string> names;
@@ -96,16 +97,21 @@ class ColumnCollector {
   // The blank lines before the row, then the row.
   void AddRow() {
     const std::size_t first_blank = rows_.Line() - rows_.BlankLines();
-    for (std::size_t line = first_blank; line < rows_.Line(); ++line) {
-      for (TableColumn& column : columns_) Skip(column, line);
-    }
+    for (std::size_t line = first_blank; line < rows_.Line(); ++line) SkipRow(line);
     AddCells();
   }
 
   void AddCells() {
     RequireWidth(rows_, width_, first_line_);
+    const auto cell_of = [this](const TableColumn& column) {
+      return rows_.Cells()[column.number - 1];
+    };
+    if (skip_empty_ && whole_rows_ &&
+        std::ranges::any_of(columns_, &std::string_view::empty, cell_of)) {
+      return SkipRow(rows_.Line());
+    }
     for (TableColumn& column : columns_) {
-      const std::string_view cell = rows_.Cells()[column.number - 1];
+      const std::string_view cell = cell_of(column);
       if (cell.empty()) {
         Skip(column, rows_.Line());
       } else {
@@ -129,6 +135,10 @@ class ColumnCollector {
     return {rows_.Name(), line, column.number, column.name};
   }
 
+  void SkipRow(std::size_t line) {
+    for (TableColumn& column : columns_) Skip(column, line);
+  }
+
   void Skip(TableColumn& column, std::size_t line) const {
     if (!skip_empty_) RefuseEmptyCell(Place(column, line));
     ++column.skipped;
@@ -136,6 +146,7 @@ class ColumnCollector {
 
   RowReader& rows_;
   bool skip_empty_;
+  bool whole_rows_;
   std::size_t first_line_;
   std::size_t width_;
   bool has_header_ = false;

@@ -22,6 +22,9 @@ struct TableSelection {
   std::optional<char> delimiter = {};
   /// Skip empty cells instead of refusing them.
   bool skip_empty = false;
+  /// With skip_empty, leave out the values of every chosen column in a row where one is empty, so
+  /// that values of one index belong to one row.
+  bool whole_rows = false;
 };
 
 /// A column of a table.
@@ -31,7 +34,7 @@ struct TableColumn {
   /// Empty when the table has no header.
   std::string name = {};
   TQorFloatVector values = {};
-  /// The number of empty cells that were left out.
+  /// The number of empty cells, or of rows, that were left out.
   std::size_t skipped = 0;
 
   /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.

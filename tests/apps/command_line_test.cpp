@@ -253,6 +253,62 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
   }
 }
 
+// By hand: the parabola is exact, the line has deviations of 1, -2 and 1 thirds.
+TEST(Fit, ReportsTheCurveAndWhatItLeaves) {
+  const std::string input = R"(printf 'x,z,y\n0,a,1\n1,b,2\n2,c,5\n' | qorvex fit )";
+  ExpectOutput(input + "line - --x x --y 3 --decimals 3",
+               "Number of Values:\t3\nMean of X Values:\t1.000\nMean of Y Values:\t2.667\n"
+               "Standard Deviation of X Values:\t1.000\nStandard Deviation of Y Values:\t2.082\n"
+               "Covariance:\t2.000\nRegression Line:\t0.667 + 2.000 x\n"
+               "Sum of Squares Error:\t0.667\nCoefficient of Correlation\t0.961\n"
+               "Coefficient of Determination\t0.923\n");
+  ExpectOutput(input + "quadratic - --x x --y y | tail -n 4",
+               "Regression Parabola:\t1 + 0 x + 1 x^2\nSum of Squares Error:\t0\n"
+               "Coefficient of Correlation\t0.9607689228305228009\n"
+               "Coefficient of Determination\t1\n");
+  ExpectOutput(R"(printf '1 5\n2 3\n3 1\n' | qorvex fit line - --x 1 --y 2 | grep Line)",
+               "Regression Line:\t7 - 2 x\n");
+  // Skipping an empty cell must not pair the values of different rows.
+  ExpectOutput(R"(printf '1,2\n,9\n3,\n4,8\n' | qorvex fit line - --x 1 --y 2 --skip-empty |
+                  grep -E 'Num|Line')",
+               "qorvex: standard input: skipped 2 rows with an empty cell\n"
+               "Number of Values:\t2\nRegression Line:\t0 + 2 x\n");
+  ExpectOutput(R"(printf '1,0.1\n3,0.1\n' | qorvex fit line - --x 1 --y 2 | tail -n 2)",
+               "Coefficient of Correlation\tNot available\n"
+               "Coefficient of Determination\tNot available\n");
+  ExpectOutput(
+      R"(printf '1,2\n2,2\n3,2\n' | qorvex fit line - --x 1 --y 2 --json |
+                  grep -v file | tr -d ' \n')",
+      R"({"x":{"column":1,"name":null},"y":{"column":2,"name":null},"count":3,"skipped":0,)"
+      R"("mean_x":2,"mean_y":2,"standard_deviation_x":1,"standard_deviation_y":0,)"
+      R"("covariance":0,"coefficients":[2,0],"sum_of_squared_errors":0,)"
+      R"("correlation":null,"determination":null})");
+}
+
+TEST(Fit, RefusesBadInputWithStatusTwo) {
+  for (const auto& [input, message] : {
+           std::pair("1,2\\n1,3' | qorvex fit line - --x 1 --y 2",
+                     ": column 1: a line needs two different x"),
+           // Ten times 0.1 would leave a spread of rounding errors.
+           {"0.1,2\\n0.1,3\\n0.1,4\\n0.1,4\\n0.1,4\\n0.1,4' | qorvex fit line - --x 1 --y 2",
+            ": column 1: a line needs two different x"},
+           {"x,y\\n1,2\\n1,3\\n2,3' | qorvex fit quadratic - --x x --y y",
+            ": column 1 (x): a parabola needs three different x"},
+           {"1e-4 1\\n2e-4 2\\n3e-4 5' | qorvex fit quadratic - --x 1 --y 2",
+            ": column 1: the x differ too little for the fit; subtract a number that they share, "
+            "or multiply them by a power of ten"},
+           {"1e4000 1\\n2 2' | qorvex fit line - --x 1 --y 2",
+            ": the values are too large; their sums are beyond the range of extended precision"},
+           {"x,y\\n1,2\\n2,' | qorvex fit line - --x x --y y",
+            ":3: column 2 (y): the cell is empty; --skip-empty skips such rows"},
+           {"x,y\\n1,2' | qorvex fit line - --x x --y 1", ": x and y are both column 1 (x)"},
+           {"x,y\\n1,2' | qorvex fit line - --x x --y z",
+            ": there is no column \"z\"; the columns are 1 (x), 2 (y)"},
+       }) {
+    ExpectRefusal(std::string("printf '") + input, std::string("standard input") + message);
+  }
+}
+
 TEST(Program, TakesTheNamesOfCommandsForFiles) {
   for (const char* command : {"describe matrix", "matrix rank matrix", "matrix inverse describe",
                               "matrix multiply rank multiply"}) {
@@ -271,6 +327,7 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
       {"dist ",
        {"", "gauss", "normal", "normal most", "normal inv", "normal inv --p .5 --upper-p .5",
         "normal less --x 1 --log --prescribed"}},
+      {"fit ", {"", "line", "line -", "line - --x 1", "line - --y 1", "cubic - --x 1 --y 2"}},
       {"matrix rank - ", {"--decimals 2", "--tolerance x", "--tolerance nan", "--tolerance=-1"}},
   };
   for (const auto& [command, endings] : commands) {
