@@ -40,11 +40,9 @@ struct Classes {
 template <class Visit>
 void ForEachClass(const TQorLWordVector& freq, const Classes& classes, Visit visit) {
   const Extended half_width = classes.width / 2;
-  Extended index = 0;
-  for (const std::uint32_t frequency : freq) {
-    visit(static_cast<Extended>(frequency),
-          index * classes.width + classes.lower_bound + half_width);
-    index += 1;
+  for (std::size_t i = 0; i < freq.size(); ++i) {
+    const auto index = static_cast<Extended>(static_cast<std::int64_t>(i));
+    visit(static_cast<Extended>(freq[i]), index * classes.width + classes.lower_bound + half_width);
   }
 }
 

@@ -25,17 +25,20 @@ void GetQuadraticCurve(const TQorFloatVector& x, const TQorFloatVector& y, Exten
                        Extended& a1, Extended& a2) {
   RequireSameLength(x, y);
   const auto n = static_cast<Extended>(x.size());
+  // Two loops, since seven sums at once do not fit into the registers.
   Extended s1 = 0, s2 = 0, s3 = 0, s4 = 0;  // sums of the powers of x
-  Extended t0 = 0, t1 = 0, t2 = 0;          // sums of y times the powers of x
-  for (std::size_t i = 0; i < x.size(); ++i) {
-    const Extended square = x[i] * x[i];
-    s1 += x[i];
+  for (const Extended u : x) {
+    const Extended square = u * u;
+    s1 += u;
     s2 += square;
-    s3 += square * x[i];
+    s3 += square * u;
     s4 += square * square;
+  }
+  Extended t0 = 0, t1 = 0, t2 = 0;  // sums of y times the powers of x
+  for (std::size_t i = 0; i < x.size(); ++i) {
     t0 += y[i];
     t1 += x[i] * y[i];
-    t2 += square * y[i];
+    t2 += x[i] * x[i] * y[i];
   }
 
   const Extended determinant =
