@@ -75,6 +75,8 @@ void CheckTable(std::string_view text, const TableSelection& selection) {
     Require(std::ranges::all_of(column.values, [](long double x) { return std::isfinite(x); }),
             "a value is not finite");
     Require(column.skipped == 0 || selection.skip_empty, "a cell was skipped");
+    Require(!selection.whole_rows || column.values.size() == table->front().values.size(),
+            "values of different rows have one index");
     Require(column.Title().find('\n') == std::string::npos, "a title of two lines");
   }
 }
@@ -116,6 +118,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   TableSelection selection;
   selection.delimiter = delimiter;
   selection.skip_empty = (options & 4) != 0;
+  selection.whole_rows = (options & 32) != 0;
   if ((options & 8) != 0) selection.columns = {"a", "1"};
   CheckTable(text, selection);
   CheckMatrix(text, delimiter, (options & 16) != 0);
