@@ -40,7 +40,7 @@ Extended BinomialEq(Extended p, std::uint32_t n, std::uint32_t k) {
 
 Extended BinomialLess(Extended p, std::uint32_t n, std::uint32_t k) {
   RequireTrials(p, n, k);
-  return detail::LowerProbability(k, TermsOf(p, n));
+  return detail::LowerProbability(0, k, TermsOf(p, n));
 }
 
 Extended BinomialGreater(Extended p, std::uint32_t n, std::uint32_t k) {
@@ -52,7 +52,7 @@ Extended BinomialBetween(Extended p, std::uint32_t n, std::uint32_t k1, std::uin
   if (k1 == k2) return BinomialEq(p, n, k1);
   RequireTrials(p, n, k1);
   RequireTrials(p, n, k2);
-  return detail::CountBetween(k1, k2, TermsOf(p, n));
+  return detail::CountBetween(0, k1, k2, TermsOf(p, n));
 }
 
 void BinomialPDFValues(std::int32_t n, Extended p, TQorFloatVector& probs) {

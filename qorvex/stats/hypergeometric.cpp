@@ -35,31 +35,29 @@ void RequireCount(const Draw& draw, std::uint32_t x) {
   if (x > draw.Greatest()) RaiseMathError(rsHyperGeometricInvalid);
 }
 
-// The probabilities of the counts first to end - 1, where end is at most one above the greatest.
+// The probabilities of the possible counts from first to end - 1, if any.
 class Probabilities {
  public:
   Probabilities(const Draw& draw, std::uint64_t first, std::uint64_t end)
       : sample_size_(draw.sample_size),
-        first_(std::clamp<std::uint64_t>(draw.Least(), first, end)),
-        samples_(first_ == end ? 1 : detail::BinomialCoefficient(draw.pop_size, draw.sample_size)),
-        successes_(draw.successes, first_, end),
-        failures_(draw.Failures(), sample_size_ + 1 - end, sample_size_ + 1 - first_) {}
+        samples_(first < end ? detail::BinomialCoefficient(draw.pop_size, draw.sample_size) : 1),
+        successes_(draw.successes, std::min(first, end), end),
+        failures_(draw.Failures(), sample_size_ + 1 - end,
+                  sample_size_ + 1 - std::min(first, end)) {}
 
   Extended operator()(std::uint64_t x) const {
-    if (x < first_) return 0;
     return successes_[x] * failures_[sample_size_ - x] / samples_;
   }
 
  private:
   std::uint64_t sample_size_;
-  std::uint64_t first_;  // the counts below it are impossible
   Extended samples_;
   detail::BinomialCoefficients successes_;
   detail::BinomialCoefficients failures_;
 };
 
 auto TermsOf(const Draw& draw) {
-  return [draw](std::uint64_t end) { return Probabilities(draw, 0, end); };
+  return [draw](std::uint64_t end) { return Probabilities(draw, draw.Least(), end); };
 }
 
 }  // namespace
@@ -67,7 +65,7 @@ auto TermsOf(const Draw& draw) {
 Extended HyperGeometricEq(std::uint32_t pop_size, std::uint32_t sample_size,
                           std::uint32_t successes, std::uint32_t x) {
   const Draw draw = CheckedDraw(pop_size, sample_size, successes);
-  if (x > draw.Greatest()) return 0;
+  if (x < draw.Least() || x > draw.Greatest()) return 0;
   return Probabilities(draw, x, std::uint64_t{x} + 1)(x);
 }
 
@@ -75,7 +73,7 @@ Extended HyperGeometricLess(std::uint32_t pop_size, std::uint32_t sample_size,
                             std::uint32_t successes, std::uint32_t x) {
   const Draw draw = CheckedDraw(pop_size, sample_size, successes);
   RequireCount(draw, x);
-  return detail::LowerProbability(x, TermsOf(draw));
+  return detail::LowerProbability(draw.Least(), x, TermsOf(draw));
 }
 
 Extended HyperGeometricGreater(std::uint32_t pop_size, std::uint32_t sample_size,
@@ -83,7 +81,7 @@ Extended HyperGeometricGreater(std::uint32_t pop_size, std::uint32_t sample_size
   const Draw draw = CheckedDraw(pop_size, sample_size, successes);
   RequireCount(draw, x);
   if (x == draw.Greatest()) return 0;
-  return 1 - detail::LowerProbability(std::uint64_t{x} + 1, TermsOf(draw));
+  return 1 - detail::LowerProbability(draw.Least(), std::uint64_t{x} + 1, TermsOf(draw));
 }
 
 Extended HyperGeometricBetween(std::uint32_t pop_size, std::uint32_t sample_size,
@@ -92,7 +90,7 @@ Extended HyperGeometricBetween(std::uint32_t pop_size, std::uint32_t sample_size
   const Draw draw = CheckedDraw(pop_size, sample_size, successes);
   RequireCount(draw, x1);
   RequireCount(draw, x2);
-  return detail::CountBetween(x1, x2, TermsOf(draw));
+  return detail::CountBetween(draw.Least(), x1, x2, TermsOf(draw));
 }
 
 void HyperGeometricPDFValues(std::uint32_t pop_size, std::uint32_t sample_size,
@@ -100,9 +98,9 @@ void HyperGeometricPDFValues(std::uint32_t pop_size, std::uint32_t sample_size,
   probs = TQorFloatVector();
   const Draw draw = CheckedDraw(pop_size, sample_size, successes);
   const std::uint64_t end = std::uint64_t{draw.Greatest()} + 1;
-  const Probabilities probability(draw, 0, end);
+  const Probabilities probability(draw, draw.Least(), end);
   auto values = TQorFloatVector::WithLength(std::size_t{sample_size} + 1);
-  for (std::uint64_t x = 0; x < end; ++x) values[x] = probability(x);
+  for (std::uint64_t x = draw.Least(); x < end; ++x) values[x] = probability(x);
   probs = values;
 }
 

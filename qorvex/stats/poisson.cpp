@@ -60,18 +60,18 @@ Extended PoissonEq(Extended lambda, std::uint32_t k) {
 
 Extended PoissonLess(Extended lambda, std::uint32_t k) {
   RequireMean(lambda);
-  return detail::LowerProbability(k, TermsOf(lambda));
+  return detail::LowerProbability(0, k, TermsOf(lambda));
 }
 
 Extended PoissonGreater(Extended lambda, std::uint32_t k) {
   RequireMean(lambda);
-  return 1 - detail::LowerProbability(std::uint64_t{k} + 1, TermsOf(lambda));
+  return 1 - detail::LowerProbability(0, std::uint64_t{k} + 1, TermsOf(lambda));
 }
 
 Extended PoissonBetween(Extended lambda, std::uint32_t k1, std::uint32_t k2) {
   if (SameFloat(static_cast<float>(k1), static_cast<float>(k2))) return PoissonEq(lambda, k1);
   RequireMean(lambda);
-  return detail::CountBetween(k1, k2, TermsOf(lambda));
+  return detail::CountBetween(0, k1, k2, TermsOf(lambda));
 }
 
 void PoissonPDFValues(std::int32_t n, Extended lambda, TQorLIntVector& ks, TQorFloatVector& probs) {

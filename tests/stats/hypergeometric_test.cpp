@@ -80,6 +80,9 @@ TEST(HyperGeometric, GivesZeroForImpossibleCountsAndOneForCertainOnes) {
   const Count most = 0xFFFFFFFF;
   EXPECT_EQ(HyperGeometricEq(most, most / 2, 2, 3), 0);
   EXPECT_EQ(HyperGeometricEq(most, most, most, most), 1);
+  // Counts up to most - 6 are impossible, and no step is spent on them.
+  EXPECT_EQ(HyperGeometricLess(most, most - 2, most - 3, most - 4),
+            HyperGeometricEq(most, most - 2, most - 3, most - 5));
 }
 
 TEST(HyperGeometric, RefusesBadParametersAndCoefficientsThatOverflow) {

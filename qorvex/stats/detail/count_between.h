@@ -16,25 +16,27 @@ Extended AddTerms(Extended sum, std::uint64_t first, std::uint64_t end, Term& te
   return sum;
 }
 
-/// P(X < end), the sum of all terms of terms_below(end).
+/// P(X < end), the sum of all terms of terms_below(end). Counts below the least one are impossible.
 template <class TermsBelow>
-Extended LowerProbability(std::uint64_t end, TermsBelow terms_below) {
+Extended LowerProbability(std::uint64_t least, std::uint64_t end, TermsBelow terms_below) {
   auto term = terms_below(end);
-  return AddTerms(0, 0, end, term);
+  return AddTerms(0, least, end, term);
 }
 
 /// P(X < k2) - P(X < k1 + 1), negated when k1 > k2, for different counts: P(k1 < X < k2), or
 /// P(k2 <= X <= k1). The one sum is the beginning of the other.
 ///
-/// terms_below(end) gives a function of the counts below end, which is called for 0, 1, 2, ...
+/// terms_below(end) gives a function of the counts below end, which is called for the least count
+/// and then for one after the other.
 template <class TermsBelow>
-Extended CountBetween(std::uint32_t k1, std::uint32_t k2, TermsBelow terms_below) {
+Extended CountBetween(std::uint64_t least, std::uint32_t k1, std::uint32_t k2,
+                      TermsBelow terms_below) {
   const std::uint64_t after_k1 = std::uint64_t{k1} + 1;
   const std::uint64_t first = std::min<std::uint64_t>(after_k1, k2);
   const std::uint64_t end = std::max<std::uint64_t>(after_k1, k2);
   auto term = terms_below(end);
-  const Extended below = AddTerms(0, 0, first, term);
-  return AddTerms(below, first, end, term) - below;
+  const Extended below = AddTerms(0, least, first, term);
+  return AddTerms(below, std::max(least, first), end, term) - below;
 }
 
 }  // namespace qorvex::inline QorvexStatistics::detail
