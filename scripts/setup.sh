@@ -12,7 +12,7 @@ packages=(
   libcli11-dev       # the command line
   libgtest-dev       # the tests
   libbenchmark-dev   # the benchmarks, and the libraries that they compare with
-  libgsl-dev libeigen3-dev liblapack-dev
+  libgsl-dev libeigen3-dev liblapack-dev r-mathlib
   doxygen            # the check of the documentation
 )
 

@@ -182,7 +182,7 @@ std::vector<Distribution> AllDistributions() {
         {"--trials", "The number of trials", NumberKind::kCount}},
        true,
        QORVEX_FULL_PRECISION(Binomial, Pmf),
-       {}},
+       {Call<BinomialEq>, Call<BinomialLess>, Call<BinomialGreater>, Call<BinomialBetween>}},
       {"hypergeometric",
        "The hypergeometric distribution: successes in a sample drawn without replacement",
        {{"--pop-size", "The size of the population", NumberKind::kCount},
@@ -190,13 +190,14 @@ std::vector<Distribution> AllDistributions() {
         {"--successes", "The successes in the population", NumberKind::kCount}},
        true,
        QORVEX_FULL_PRECISION(HyperGeometric, Pmf),
-       {}},
+       {Call<HyperGeometricEq>, Call<HyperGeometricLess>, Call<HyperGeometricGreater>,
+        Call<HyperGeometricBetween>}},
       {"poisson",
        "The Poisson distribution",
        {{"--lambda", "The mean", kPositive}},
        true,
        QORVEX_FULL_PRECISION(Poisson, Pmf),
-       {}},
+       {Call<PoissonEq>, Call<PoissonLess>, Call<PoissonGreater>, Call<PoissonBetween>}},
   };
 }
 
