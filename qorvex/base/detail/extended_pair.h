@@ -70,10 +70,11 @@ constexpr ExtendedPair operator*(ExtendedPair a, ExtendedPair b) {
 }
 
 constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
-  const Extended quotient = a.hi / b.hi;
+  const Extended reciprocal = 1 / b.hi;
+  const Extended quotient = a.hi * reciprocal;
   const ExtendedPair product = ExactProduct(quotient, b.hi);
   const Extended rest = ((a.hi - product.hi) - product.lo) + (a.lo - quotient * b.lo);
-  return OrderedSum(quotient, rest / b.hi);
+  return OrderedSum(quotient, rest * reciprocal);
 }
 
 /// The natural logarithm of a positive finite value, off by at most 2^-98, and by 2^-93 of itself.
