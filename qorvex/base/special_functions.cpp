@@ -1,11 +1,11 @@
 #include "qorvex/base/special_functions.h"
 
-#include <boost/math/special_functions/beta.hpp>
 #include <boost/math/special_functions/erf.hpp>
 #include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/checked_math.h"
 #include "qorvex/base/detail/boost_math.h"
 #include "qorvex/base/detail/regularised_beta.h"
 #include "qorvex/base/errors.h"
@@ -53,7 +53,7 @@ Extended LnGamma(Extended x) {
 Extended Beta(Extended a, Extended b) {
   if (std::isnan(a) || std::isnan(b)) return a + b;
   if (a <= 0 || b <= 0 || a > kLargestShape || b > kLargestShape) throw EInvalidOp();
-  return Evaluate([=] { return boost::math::beta(a, b, kBoostPolicy); });
+  return CheckedFinite((detail::Scaled() / detail::RegularisedBeta(a, b).InverseBeta()).Value());
 }
 
 Extended IncompleteBeta(Extended x, Extended a, Extended b) {

@@ -5,7 +5,7 @@
 ///
 /// NaN arguments give NaN. Errors are the runtime's: EInvalidOp outside the domain, EZeroDivide at
 /// a pole, EOverflow when the value is beyond the extended range. Values too small for the format
-/// become 0, and subnormal ones may. Gamma functions, Beta and InverseErfc are Boost.Math's. The
+/// become 0, and subnormal ones may. Gamma, LnGamma and InverseErfc are Boost.Math's. The
 /// costs are those of some hundred to some thousand arithmetic operations.
 
 #include "qorvex/base/element_types.h"
