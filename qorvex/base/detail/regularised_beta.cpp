@@ -75,17 +75,19 @@ RegularisedBeta::Point::Point(const Odds& odds) {
   ln_y = LnOfRatio(y, odds.against, both);
 }
 
-Scaled RegularisedBeta::DensityAt(const Point& point) const {
+Scaled RegularisedBeta::LogOddsDensity(const Point& point) const {
   return inverse_beta_ * Scaled{1, a_ * point.ln_x + b_ * point.ln_y};
 }
 
-Scaled RegularisedBeta::LogOddsDensity(const Odds& odds) const {
-  return DensityAt(Point(odds));
+Scaled RegularisedBeta::Density(const Odds& odds, Extended extra_x, Extended extra_y) const {
+  const Point point(odds);
+  return inverse_beta_ *
+         Scaled{1, ExactSum(a_, extra_x) * point.ln_x + ExactSum(b_, extra_y) * point.ln_y};
 }
 
 Tails RegularisedBeta::At(const Odds& odds) const {
   const Point point(odds);
-  return TailsAt(point, DensityAt(point));
+  return TailsAt(point, LogOddsDensity(point));
 }
 
 Tails RegularisedBeta::TailsAt(const Point& point, Scaled density) const {
@@ -126,7 +128,7 @@ Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   const Extended odds = SolveTail(tail, p, start, unlimited, [this](Extended at) {
     const Point here({at, 1});
-    const Scaled density = DensityAt(here);
+    const Scaled density = LogOddsDensity(here);
     return TailsAndDensity{TailsAt(here, density), density, (a_ * here.y - b_ * here.x).hi};
   });
   return {odds, ExtendedPair()};

@@ -33,8 +33,9 @@ class QORVEX_EXPORT RegularisedBeta {
 
   /// Both tails at odds above 0 and below infinity.
   [[nodiscard]] Tails At(const Odds& odds) const;
-  /// The density of the logarithm of the odds: x^a (1 - x)^b / B(a, b).
-  [[nodiscard]] Scaled LogOddsDensity(const Odds& odds) const;
+  /// x^(a + extra_x) (1 - x)^(b + extra_y) / B(a, b): the density of the logarithm of the odds, and
+  /// with -1 and -1 that of x.
+  [[nodiscard]] Scaled Density(const Odds& odds, Extended extra_x, Extended extra_y) const;
   /// 1 / B(a, b).
   [[nodiscard]] const Scaled& InverseBeta() const { return inverse_beta_; }
   /// The odds x / (1 - x) of the point with the given tail, 0 < p < 1.
@@ -49,7 +50,7 @@ class QORVEX_EXPORT RegularisedBeta {
     ExtendedPair ln_x;
     ExtendedPair ln_y;
   };
-  [[nodiscard]] Scaled DensityAt(const Point& point) const;
+  [[nodiscard]] Scaled LogOddsDensity(const Point& point) const;
   [[nodiscard]] Tails TailsAt(const Point& point, Scaled density) const;
 
   Extended a_;

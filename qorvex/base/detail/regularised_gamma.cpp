@@ -58,8 +58,8 @@ Extended BoostUpper(Extended a, Extended x) {
 RegularisedGamma::RegularisedGamma(Extended shape)
     : shape_(shape), factorial_(FactorialOf(shape)) {}
 
-Scaled RegularisedGamma::LogDensity(ExtendedPair x) const {
-  return Scaled{shape_, -x} * Power(x, shape_) / factorial_;
+Scaled RegularisedGamma::Density(ExtendedPair x, Extended extra_power) const {
+  return Scaled{shape_, -x} * Power(x, ExactSum(shape_, extra_power)) / factorial_;
 }
 
 bool RegularisedGamma::IsUniform(Extended x) const {
@@ -67,7 +67,7 @@ bool RegularisedGamma::IsUniform(Extended x) const {
 }
 
 Tails RegularisedGamma::At(ExtendedPair x) const {
-  return IsUniform(x.hi) ? UniformGammaTails(shape_, x) : TailsFrom(x.hi, LogDensity(x));
+  return IsUniform(x.hi) ? UniformGammaTails(shape_, x) : TailsFrom(x.hi, Density(x, 0));
 }
 
 Tails RegularisedGamma::TailsFrom(Extended x, Scaled density) const {
@@ -94,7 +94,7 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   const Extended start = Start(tail, p, asymptote);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
-    const Scaled density = LogDensity(x);
+    const Scaled density = Density(x, 0);
     return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(x, density),
                            density, shape_ - x};
   });

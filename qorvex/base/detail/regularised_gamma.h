@@ -20,8 +20,9 @@ class QORVEX_EXPORT RegularisedGamma {
 
   /// Both tails at 0 < x < infinity.
   [[nodiscard]] Tails At(ExtendedPair x) const;
-  /// x f(x) for the density f, at 0 < x < infinity: x^a e^-x / Gamma(a).
-  [[nodiscard]] Scaled LogDensity(ExtendedPair x) const;
+  /// x^(a + extra_power) e^-x / Gamma(a) at 0 < x < infinity: the density of ln X, and with -1 that
+  /// of X.
+  [[nodiscard]] Scaled Density(ExtendedPair x, Extended extra_power) const;
   /// The point with the given tail, 0 < p < 1. 0 where it is too small for the format.
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
 

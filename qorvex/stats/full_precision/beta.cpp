@@ -43,8 +43,7 @@ Extended BetaPdf(Extended a, Extended b, Extended x) {
   if (x == 0) return DensityAtEnd(a, b);
   if (x == 1) return DensityAtEnd(b, a);
   if (x < 0 || x > 1) return 0;
-  const Odds odds = OddsOf(x);
-  return PerUnit(RegularisedBeta(a, b).LogOddsDensity(odds), Ln(odds.in_favour) + Ln(odds.against));
+  return RegularisedBeta(a, b).Density(OddsOf(x), -1, -1).Value();
 }
 
 Extended BetaLower(Extended a, Extended b, Extended x) {

@@ -44,8 +44,9 @@ Extended FDistPdf(Extended df1, Extended df2, Extended f) {
   if (AnyNaN(df1, df2, f)) return kNaN;
   if (f == 0) return DensityAtEnd(df1 / 2, 1);
   if (f < 0 || std::isinf(f)) return 0;
-  const Scaled density = RegularisedBeta(df1 / 2, df2 / 2).LogOddsDensity(OddsOf(df1, df2, f));
-  return PerUnit(density, Ln(ExtendedPair(f)));
+  // The density of x = f / (f + r) times dx/df = (1 - x)^2 / r for r = df2 / df1.
+  const Scaled density = RegularisedBeta(df1 / 2, df2 / 2).Density(OddsOf(df1, df2, f), -1, 1);
+  return (density / Scaled{df2 / df1, ExtendedPair()}).Value();
 }
 
 Extended FDistLower(Extended df1, Extended df2, Extended f) {

@@ -39,7 +39,9 @@ Extended GammaPdf(Extended shape, Extended scale, Extended x) {
   if (x == 0) return DensityAtEnd(shape, 1 / scale);
   const ExtendedPair ratio = ExtendedPair(x) / scale;
   if (x < 0 || !(ratio.hi <= kLargest)) return 0;
-  return PerUnit(RegularisedGamma(shape).LogDensity(ratio), Ln(ExtendedPair(x)));
+  Scaled density = RegularisedGamma(shape).Density(ratio, -1);
+  density.factor /= scale;
+  return density.Value();
 }
 
 Extended GammaLower(Extended shape, Extended scale, Extended x) {

@@ -27,7 +27,7 @@ Extended Quantile(Extended mean, Extended std_dev, Tail tail, Extended p) {
   RequireProbability(p);
   Check(mean, std_dev);
   if (AnyNaN(mean, std_dev, p)) return kNaN;
-  return CheckedFinite(Scaled{1, StandardNormalQuantile(tail, p) * std_dev + mean}.Value());
+  return CheckedFinite(Scaled{1, RefinedNormalQuantile(tail, p) * std_dev + mean}.Value());
 }
 
 }  // namespace
@@ -37,7 +37,7 @@ Extended LogNormalPdf(Extended mean, Extended std_dev, Extended x) {
   if (AnyNaN(mean, std_dev, x)) return kNaN;
   if (x <= 0 || std::isinf(x)) return 0;
   const ExtendedPair ln_x = Ln(ExtendedPair(x));
-  return PerUnit(NormalDensity(Standardised(ln_x, mean, std_dev), std_dev), ln_x);
+  return (NormalDensity(Standardised(ln_x, mean, std_dev), std_dev) * Scaled{1, -ln_x}).Value();
 }
 
 Extended LogNormalLower(Extended mean, Extended std_dev, Extended x) {

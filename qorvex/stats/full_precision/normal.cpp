@@ -26,8 +26,7 @@ Extended Quantile(Extended mean, Extended std_dev, Tail tail, Extended p) {
   RequireProbability(p);
   Check(mean, std_dev);
   if (AnyNaN(mean, std_dev, p)) return kNaN;
-  const ExtendedPair x = StandardNormalQuantile(tail, p) * std_dev + mean;
-  return CheckedFinite(x.hi);
+  return CheckedFinite(StandardNormalQuantile(tail, p) * std_dev + mean);
 }
 
 }  // namespace

@@ -52,15 +52,11 @@ Extended StudentTPdf(Extended df, Extended t) {
   if (AnyNaN(df, t)) return kNaN;
   if (std::isinf(t)) return 0;
   // x^((df + 1) / 2) / (sqrt(df) B(df / 2, 1 / 2)) for x = df / (df + t^2)
-  Scaled density =
-      RegularisedBeta(df / 2, 0.5L).InverseBeta() / Scaled{std::sqrt(df), ExtendedPair()};
-  if (std::fabs(t) >= kCentre) {
-    const Odds odds = OddsOf(df, std::fabs(t));
-    const ExtendedPair exponent = QorvexGlobals::detail::ExactSum(df / 2, 0.5L);
-    const ExtendedPair ln_x = Ln(odds.in_favour) - Ln(odds.in_favour + odds.against);
-    density = density * Scaled{1, exponent * ln_x};
-  }
-  return density.Value();
+  const RegularisedBeta beta(df / 2, 0.5L);
+  const Scaled density = std::fabs(t) < kCentre
+                             ? beta.InverseBeta()
+                             : beta.Density(OddsOf(df, std::fabs(t)), 0.5L, -0.5L);
+  return (density / Scaled{std::sqrt(df), ExtendedPair()}).Value();
 }
 
 Extended StudentTLower(Extended df, Extended t) {

@@ -77,12 +77,6 @@ inline Tails Unknown() {
   return {Tail::kLower, Scaled{kNaN, ExtendedPair()}};
 }
 
-/// A density of ln x, or of the logarithm of odds, as one of x, from the logarithm of the
-/// derivative of x.
-inline Extended PerUnit(const Scaled& density, ExtendedPair ln_derivative) {
-  return Scaled{density.factor, density.exponent - ln_derivative}.Value();
-}
-
 /// The density at the end of a support where it is c x^(shape - 1): 0, c or infinity.
 inline Extended DensityAtEnd(Extended shape, Extended c) {
   if (shape == 1) return c;

@@ -15,10 +15,15 @@ Tails StandardNormalTails(ExtendedPair z) {
   return {Tail::kUpper, NormalUpperTail(z)};
 }
 
-ExtendedPair StandardNormalQuantile(Tail tail, Extended p) {
-  if (p > 0.5L) return StandardNormalQuantile(Opposite(tail), 1 - p);
-  const Extended z = std::sqrt(2.0L) * InverseErfc(2 * p);
-  // One step of Newton's method adds digits.
+Extended StandardNormalQuantile(Tail tail, Extended p) {
+  const Extended z = std::sqrt(2.0L) * InverseErfc(2 * (p > 0.5L ? 1 - p : p));
+  return (tail == Tail::kUpper) == (p <= 0.5L) ? z : -z;
+}
+
+ExtendedPair RefinedNormalQuantile(Tail tail, Extended p) {
+  if (p > 0.5L) return RefinedNormalQuantile(Opposite(tail), 1 - p);
+  const Extended z = StandardNormalQuantile(Tail::kUpper, p);
+  // One step of Newton's method.
   const Scaled upper = NormalUpperTail(z);
   const Extended error = (upper.Value() - p) / NormalDensity(z, 1).Value();
   const ExtendedPair refined = QorvexGlobals::detail::OrderedSum(z, error);

@@ -13,7 +13,10 @@ namespace qorvex::full_precision::detail {
 /// Both tails at any z but NaN.
 [[nodiscard]] Tails StandardNormalTails(ExtendedPair z);
 
-/// The z with the given tail, 0 < p < 1, to more than 64 bits.
-[[nodiscard]] ExtendedPair StandardNormalQuantile(Tail tail, Extended p);
+/// The z with the given tail, 0 < p < 1.
+[[nodiscard]] Extended StandardNormalQuantile(Tail tail, Extended p);
+
+/// The same to more than 64 bits.
+[[nodiscard]] ExtendedPair RefinedNormalQuantile(Tail tail, Extended p);
 
 }  // namespace qorvex::full_precision::detail
