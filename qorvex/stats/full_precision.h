@@ -34,7 +34,7 @@
 /// Methods: gamma tails by series, Legendre's continued fraction and Temme's expansion (1979, "The
 /// asymptotic expansion of the incomplete gamma functions"); beta tails by the continued fraction
 /// of DiDonato and Morris (1992, "Algorithm 708"); powers and factorials in them with exponents of
-/// 125 bits; quantiles by Halley's iteration on the logarithm of the smaller tail.
+/// 95 bits; quantiles by Halley's iteration on the logarithm of the smaller tail.
 
 #include <cstdint>
 

@@ -10,13 +10,8 @@ using namespace detail;
 
 namespace {
 
-void Check(Extended mean, Extended std_dev) {
-  RequirePositive(std_dev, rsStdDev);
-  RequireFinite(mean);
-}
-
 Tails TailsAt(Extended mean, Extended std_dev, Extended x) {
-  Check(mean, std_dev);
+  RequireNormal(mean, std_dev);
   if (AnyNaN(mean, std_dev, x)) return Unknown();
   if (x <= 0) return BelowAll();
   if (std::isinf(x)) return AboveAll();
@@ -25,7 +20,7 @@ Tails TailsAt(Extended mean, Extended std_dev, Extended x) {
 
 Extended Quantile(Extended mean, Extended std_dev, Tail tail, Extended p) {
   RequireProbability(p);
-  Check(mean, std_dev);
+  RequireNormal(mean, std_dev);
   if (AnyNaN(mean, std_dev, p)) return kNaN;
   return CheckedFinite(Scaled{1, RefinedNormalQuantile(tail, p) * std_dev + mean}.Value());
 }
@@ -33,7 +28,7 @@ Extended Quantile(Extended mean, Extended std_dev, Tail tail, Extended p) {
 }  // namespace
 
 Extended LogNormalPdf(Extended mean, Extended std_dev, Extended x) {
-  Check(mean, std_dev);
+  RequireNormal(mean, std_dev);
   if (AnyNaN(mean, std_dev, x)) return kNaN;
   if (x <= 0 || std::isinf(x)) return 0;
   const ExtendedPair ln_x = Ln(ExtendedPair(x));

@@ -10,13 +10,8 @@ using namespace detail;
 
 namespace {
 
-void Check(Extended mean, Extended std_dev) {
-  RequirePositive(std_dev, rsStdDev);
-  RequireFinite(mean);
-}
-
 Tails TailsAt(Extended mean, Extended std_dev, Extended x) {
-  Check(mean, std_dev);
+  RequireNormal(mean, std_dev);
   if (AnyNaN(mean, std_dev, x)) return Unknown();
   if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
   return StandardNormalTails(Standardised(x, mean, std_dev));
@@ -24,7 +19,7 @@ Tails TailsAt(Extended mean, Extended std_dev, Extended x) {
 
 Extended Quantile(Extended mean, Extended std_dev, Tail tail, Extended p) {
   RequireProbability(p);
-  Check(mean, std_dev);
+  RequireNormal(mean, std_dev);
   if (AnyNaN(mean, std_dev, p)) return kNaN;
   return CheckedFinite(StandardNormalQuantile(tail, p) * std_dev + mean);
 }
@@ -32,7 +27,7 @@ Extended Quantile(Extended mean, Extended std_dev, Tail tail, Extended p) {
 }  // namespace
 
 Extended NormalPdf(Extended mean, Extended std_dev, Extended x) {
-  Check(mean, std_dev);
+  RequireNormal(mean, std_dev);
   if (AnyNaN(mean, std_dev, x)) return kNaN;
   if (std::isinf(x)) return 0;
   return NormalDensity(Standardised(x, mean, std_dev), std_dev).Value();

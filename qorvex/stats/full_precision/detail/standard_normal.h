@@ -7,6 +7,12 @@
 
 namespace qorvex::full_precision::detail {
 
+/// The checks of the parameters.
+inline void RequireNormal(Extended mean, Extended std_dev) {
+  RequirePositive(std_dev, rsStdDev);
+  RequireFinite(mean);
+}
+
 /// (x - mean) / std_dev.
 [[nodiscard]] ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev);
 
