@@ -5,8 +5,9 @@
 ///
 /// Lower probabilities are formed as 1 - I(df2 / (df2 + df1 f); df2/2, df1/2) and upper ones as
 /// 1 - lower, so either has an absolute error, and small ones have few digits or none: some 4e-19
-/// for f from 1 up, 1e-18 at 0.01, and more towards 0, where that quotient rounds to 1 (with df1 =
-/// 1 up to 2e-10, at some 1e-18). full_precision::FDistLower and FDistUpper keep all digits.
+/// for f from 1 up and few degrees of freedom, 3e-15 for 4e9 of them, 1e-18 at 0.01, and more
+/// towards 0, where that quotient rounds to 1 (with df1 = 1 up to 2e-10, at some 1e-18).
+/// full_precision::FDistLower and FDistUpper keep all digits.
 /// Densities and quantiles are theirs already, exact to a few units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.

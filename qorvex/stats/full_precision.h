@@ -18,16 +18,17 @@
 /// Points outside the support are no error: their density is 0 and their probabilities are 0 and 1.
 /// Infinite points are the limits. At the ends of the support a density is its limit, infinity
 /// included. NaN gives NaN in every argument that is a real number; where a count is asked for, it
-/// raises as if out of range. Parameters must be finite. EMathError: for the quantiles first
-/// rsValue01 unless 0 < p < 1, then the family's own messages; a quantile that is too small for the
-/// format is 0, one beyond it raises EOverflow.
+/// raises as if out of range. Parameters that must be positive must also be finite and no subnormal
+/// numbers. EMathError: for the quantiles first rsValue01 unless 0 < p < 1, then the family's own
+/// messages, then EInvalidOp for an infinite mean and for shapes, or half of degrees of freedom,
+/// outside 1e-18 to 1e15. A quantile that is too small for the format is 0, one beyond it raises
+/// EOverflow.
 ///
-/// Shapes, and half of degrees of freedom, must be from 1e-18 to 1e15 (EInvalidOp after the
-/// family's own messages). Probabilities are off by a dozen units of the 64-bit mantissa at most,
-/// in the farthest tail too, and for beta shapes above 1000 by some more: forty at a million.
-/// Quantiles are off by a few; for shapes below 0.1 by as many as 1 / shape, because that is how
-/// much the last bit of p moves them. docs/accuracy.md has the measured figures. A probability
-/// costs some hundred to thousand arithmetic operations, and a quantile three to six times as much,
+/// Probabilities are off by a dozen units of the 64-bit mantissa at most, in the farthest tail too;
+/// beta tails by up to fifty where a shape is below 0.1, and by a hundred for shapes of 1e14.
+/// Quantiles are off by a few, and for shapes below 0.1 by as many as 1 / shape, because that is
+/// how much the last bit of p moves them. docs/accuracy.md has the measured figures. A probability
+/// costs some hundred to thousand arithmetic operations and a quantile three to six times as much,
 /// whatever the parameters; only beta shapes and populations above a million take longer, up to
 /// some ten milliseconds.
 ///

@@ -43,19 +43,58 @@ TEST(FullPrecision, AgreesWithAComputationInHigherPrecision) {
            std::exp(std::log(high / low) * (static_cast<Extended>(engine() >> 1U) * 0x1p-63L));
   };
   for (int i = 0; i < 200; ++i) {
-    const Extended a = between(0.03L, 2e4L);
-    const Extended b = between(0.03L, 2e4L);
+    const auto shape = [&] {
+      const Extended any = between(0.03L, 2e4L);
+      return engine() % 2 == 0 ? any : std::ceil(2 * any) / 2;  // halves have a table
+    };
+    const Extended a = shape();
+    const Extended b = shape();
     const Extended p = between(1e-200L, 1);
     SCOPED_TRACE(Float2Str(a) + ' ' + Float2Str(b) + ' ' + Float2Str(p));
     const bool lower = i % 2 == 0;
     const Extended x = lower ? fp::GammaQuantile(a, 1, p) : fp::GammaUpperQuantile(a, 1, p);
-    ASSERT_LT(Units(fp::GammaLower(a, 1, x), boost::math::gamma_p(Real(a), Real(x))), 40);
-    ASSERT_LT(Units(fp::GammaUpper(a, 1, x), boost::math::gamma_q(Real(a), Real(x))), 40);
+    const Real below = boost::math::gamma_p(Real(a), Real(x));
+    const Real above = boost::math::gamma_q(Real(a), Real(x));
+    ASSERT_LT(Units(fp::GammaLower(a, 1, x), below), 40);
+    ASSERT_LT(Units(fp::GammaUpper(a, 1, x), above), 40);
+    ASSERT_LT(Units(fp::GammaLogLower(a, 1, x), below < 0.5 ? log(below) : log1p(-above)), 40);
+    ASSERT_LT(Units(fp::GammaLogUpper(a, 1, x), above < 0.5 ? log(above) : log1p(-below)), 40);
     const Extended y = lower ? fp::BetaQuantile(a, b, p) : fp::BetaUpperQuantile(a, b, p);
     if (y == 1) continue;
     ASSERT_LT(Units(fp::BetaLower(a, b, y), boost::math::ibeta(Real(a), Real(b), Real(y))), 60);
     ASSERT_LT(Units(fp::BetaUpper(a, b, y), boost::math::ibetac(Real(a), Real(b), Real(y))), 60);
   }
+}
+
+TEST(FullPrecision, ReachesTheEndsOfTheFormat) {
+  const struct {
+    Extended figure;
+    Extended exact;
+    Extended units;
+  } cases[] = {
+      // Ratios and squares beyond the format, with figures within it.
+      {fp::GammaLower(1e-3L, 1e4000L, 1e-1000L), 1.000576559744993874455e-5L, 10},
+      {fp::GammaLogLower(1e-3L, 1e4000L, 1e-1000L), -11.51234907137194505007L, 10},
+      {fp::GammaUpper(1e-18L, 1e4000L, 1e-1000L), 1.15123482493052606199e-14L, 10},
+      {fp::ExponentialLogLower(1e4000L, 1e-1000L), -11512.92546497022842009L, 10},
+      {fp::ExponentialPdf(1e-4930L, 0), 1e4930L, 10},
+      {fp::NormalLogUpper(0, 3, 7e2400L), -2.722222222222222222338e4800L, 10},
+      {fp::NormalLower(0, 3, 7e2600L), 1, 0},
+      {fp::NormalPdf(0, 3, 7e2600L), 0, 0},
+      {fp::LogNormalPdf(1e3000L, 3, 1), 0, 0},
+      {fp::FDistLower(1, 1, 1e-4940L), 6.366197723675813430748e-2471L, 1e13L},  // of a subnormal
+      // A factor that brings an exponential back into the format; a subnormal result.
+      {fp::FDistUpper(54.5L, 80.5L, 3.4e123L), 1.118424085810381191953e-4947L, 1e16L},
+      {fp::LogNormalQuantile(0, 50, 1e-300L), 3.408202043065387678091e-805L, 10},
+      // A tail that is nearly all, and the mean of large shapes.
+      {fp::BetaUpper(1e-6L, 1, 1e-3L), 6.907731420495576126675e-6L, 50},
+      {fp::BetaLower(1e9L, 1e9L, 0.5L), 0.5L, 20},
+      {fp::ExponentialUpper(1, 2.9L), 0.05502322005640722902517L, 3},
+  };
+  for (const auto& [figure, exact, units] : cases) {
+    EXPECT_LE(std::fabs(figure - exact), units * 1e-19L * std::fabs(exact)) << exact;
+  }
+  EXPECT_EQ(fp::NormalLogLower(0, 1, -1e4000L), -std::numeric_limits<Extended>::infinity());
 }
 
 struct Inverse {
@@ -138,7 +177,7 @@ TEST(FullPrecision, HasLimitsAtTheEndsAndBeyondTheSupport) {
   QORVEX_EXPECT_ENDS(Normal, -infinity, infinity, 0, 1);
   QORVEX_EXPECT_ENDS(LogNormal, 0, infinity, 0, 1);
   QORVEX_EXPECT_ENDS(Exponential, -1, infinity, 2);
-  QORVEX_EXPECT_ENDS(Gamma, 0, infinity, 0.5L, 2);
+  QORVEX_EXPECT_ENDS(Gamma, -infinity, infinity, 0.5L, 2);
   QORVEX_EXPECT_ENDS(ChiSquare, -1e4900L, infinity, 3);
   QORVEX_EXPECT_ENDS(StudentT, -infinity, infinity, 3);
   QORVEX_EXPECT_ENDS(FDist, 0, infinity, 3, 4);
@@ -151,7 +190,10 @@ TEST(FullPrecision, HasLimitsAtTheEndsAndBeyondTheSupport) {
   EXPECT_EQ(fp::FDistPdf(2, 5, 0), 1);
   EXPECT_EQ(fp::BetaPdf(1, 3, 0), 3);
   EXPECT_EQ(fp::BetaPdf(3, 0.5L, 1), infinity);
+  EXPECT_EQ(fp::BetaPdf(3, 1, 1), 3);
   EXPECT_EQ(fp::BetaPdf(3, 2, 1.5L), 0);
+  EXPECT_EQ(fp::FDistPdf(2, 3, infinity), 0);
+  EXPECT_EQ(fp::HyperGeometricQuantile(0, 0, 0, 0.5L), 0U);
   EXPECT_EQ(fp::BinomialLower(0.5L, 3, 9), 1);
   EXPECT_EQ(fp::BinomialPmf(0, 3, 0), 1);
   EXPECT_EQ(fp::BinomialLower(1, 3, 2), 0);
@@ -207,6 +249,8 @@ TEST(FullPrecision, ChecksTheProbabilityFirstAndThenTheParameters) {
   EXPECT_MATH_ERROR(fp::HyperGeometricPmf(5, 2, 6, 1), rsHyperGeometricInvalid);
   EXPECT_MATH_ERROR(fp::PoissonLower(0, 1), rsPoissonInvalid);
   EXPECT_MATH_ERROR(fp::PoissonQuantile(3, std::nanl("")), rsValue01);
+  EXPECT_MATH_ERROR(fp::PoissonQuantile(std::nanl(""), 0.5L), rsPoissonInvalid);
+  EXPECT_MATH_ERROR(fp::NormalLower(0, 1e-4940L, 0), rsStdDev);
   EXPECT_ERROR(fp::GammaLower(1e16L, 1, 1), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(fp::NormalLower(std::numeric_limits<Extended>::infinity(), 1, 0), EInvalidOp,
                rsInvalidOp);

@@ -69,6 +69,7 @@ constexpr ExtendedPair operator*(ExtendedPair a, ExtendedPair b) {
   return OrderedSum(product.hi, product.lo + (a.hi * b.lo + a.lo * b.hi));
 }
 
+/// For divisors that are not subnormal.
 constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
   const Extended reciprocal = 1 / b.hi;
   const Extended quotient = a.hi * reciprocal;
@@ -79,5 +80,13 @@ constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
 
 /// The natural logarithm of a positive finite value, off by at most 2^-98, and by 2^-93 of itself.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Ln(ExtendedPair x);
+
+/// The natural logarithm of a quotient that may be beyond the format.
+[[nodiscard]] inline ExtendedPair LnOfRatio(ExtendedPair ratio, ExtendedPair numerator,
+                                            ExtendedPair denominator) {
+  constexpr Extended least = 1e-4900L;
+  constexpr Extended most = 1e4900L;
+  return ratio.hi > least && ratio.hi < most ? Ln(ratio) : Ln(numerator) - Ln(denominator);
+}
 
 }  // namespace qorvex::inline QorvexGlobals::detail

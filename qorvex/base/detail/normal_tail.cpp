@@ -19,10 +19,12 @@ Extended FarMillsRatio(Extended z) {
 }  // namespace
 
 Scaled NormalDensity(ExtendedPair z, Extended scale) {
+  const Extended factor = 1 / (std::sqrt(2 * QorPi) * scale);
+  // The low parts of a square that nears the end of the range are NaN.
+  constexpr Extended huge = 1e2400L;
+  if (std::fabs(z.hi) > huge) return {factor, {-(z.hi * z.hi) / 2, 0}};
   const ExtendedPair square = z * z;
-  // The low part of an infinite square is NaN.
-  const Extended low = std::isinf(square.hi) ? 0 : -square.lo / 2;
-  return {1 / (std::sqrt(2 * QorPi) * scale), {-square.hi / 2, low}};
+  return {factor, {-square.hi / 2, -square.lo / 2}};
 }
 
 Scaled NormalUpperTail(ExtendedPair z) {

@@ -12,27 +12,62 @@ namespace qorvex::inline QorvexGlobals::detail {
 
 namespace {
 
-// The lower tail is x^a (1 - x)^b / B(a, b) divided by this continued fraction, where
-// lambda = a (1 - x) - b x >= 0. Evaluated by Steed's method (Barnett et al. 1974, "Coulomb wave
-// functions for all real eta and rho").
+// The partial numerators and denominators of the continued fraction by which x^a (1 - x)^b / B(a,
+// b) is divided to give the lower tail, where lambda = a (1 - x) - b x >= 0.
+class LowerFractionTerms {
+ public:
+  LowerFractionTerms(Extended a, Extended b, Extended x, Extended lambda)
+      : a_(a), b_(b), x_(x), lambda_(lambda), reciprocal_(1 / (a + 1)) {}
+
+  [[nodiscard]] Extended First() const { return a_ * (lambda_ + 1) * reciprocal_; }
+
+  void Next() {
+    n_ += 1;
+    const Extended step = n_ * (b_ - n_) * x_ * reciprocal_;
+    numerator = (a_ + n_ - 1) * (a_ + b_ + n_ - 1) * x_ * reciprocal_ * step;
+    reciprocal_ = 1 / (a_ + 2 * n_ + 1);
+    denominator = n_ + step + (a_ + n_) * reciprocal_ * (lambda_ + 1 + n_ * (2 - x_));
+  }
+
+  Extended numerator = 0;
+  Extended denominator = 0;
+
+ private:
+  Extended a_;
+  Extended b_;
+  Extended x_;
+  Extended lambda_;
+  Extended reciprocal_;  // 1 / (a + 2 n + 1)
+  Extended n_ = 0;
+};
+
+// The fraction itself. For large shapes its convergents first swing far about the value: these go
+// into a product of ratios (Lentz 1976, "Generating Bessel functions in Mie scattering
+// calculations"), which does not cancel. The others are added up (Steed's method; Barnett et al.
+// 1974, "Coulomb wave functions for all real eta and rho"), which rounds less often.
 Extended LowerFraction(Extended a, Extended b, Extended x, Extended lambda) {
+  constexpr Extended calm = 0.125L;
   constexpr Extended rounding = std::numeric_limits<Extended>::epsilon() / 4;
-  Extended fraction = a * (lambda + 1) / (a + 1);
+  LowerFractionTerms terms(a, b, x, lambda);
+  Extended fraction = terms.First();
+  Extended ratio = fraction;
   Extended inverse = 0;
-  Extended difference = -1;
-  Extended reciprocal = 1 / (a + 1);
-  Extended n = 0;
+  Extended difference = 0;
   do {
-    n += 1;
-    const Extended step = n * (b - n) * x * reciprocal;
-    const Extended numerator = (a + n - 1) * (a + b + n - 1) * x * reciprocal * step;
-    reciprocal = 1 / (a + 2 * n + 1);
-    const Extended denominator = n + step + (a + n) * reciprocal * (lambda + 1 + n * (2 - x));
-    const Extended next = 1 / (denominator + numerator * inverse);
-    difference *= n == 1 ? -numerator * next : -numerator * inverse * next;
+    terms.Next();
+    inverse = 1 / (terms.denominator + terms.numerator * inverse);
+    ratio = terms.denominator + terms.numerator / ratio;
+    const Extended previous = fraction;
+    fraction *= ratio * inverse;
+    difference = fraction - previous;
+  } while (std::fabs(difference) > std::fabs(fraction) * calm);
+  while (std::fabs(difference) > std::fabs(fraction) * rounding) {
+    terms.Next();
+    const Extended next = 1 / (terms.denominator + terms.numerator * inverse);
+    difference *= -terms.numerator * inverse * next;
     inverse = next;
     fraction += difference;
-  } while (std::fabs(difference) > std::fabs(fraction) * rounding);
+  }
   return fraction;
 }
 
@@ -51,12 +86,6 @@ Tails BoostTails(Tail tail, Extended a, Extended b, Extended x, Extended y) {
   const Extended probability = Evaluate(lower);
   if (probability < 0.5L) return {tail, Scaled{probability, ExtendedPair()}};
   return {Opposite(tail), Scaled{Evaluate(upper), ExtendedPair()}};
-}
-
-// The logarithm of a quotient that may be too small for the format.
-ExtendedPair LnOfRatio(ExtendedPair ratio, ExtendedPair numerator, ExtendedPair denominator) {
-  constexpr Extended least = 1e-4900L;
-  return ratio.hi > least ? Ln(ratio) : Ln(numerator) - Ln(denominator);
 }
 
 }  // namespace

@@ -58,16 +58,17 @@ Extended BoostUpper(Extended a, Extended x) {
 RegularisedGamma::RegularisedGamma(Extended shape)
     : shape_(shape), factorial_(FactorialOf(shape)) {}
 
-Scaled RegularisedGamma::Density(ExtendedPair x, Extended extra_power) const {
-  return Scaled{shape_, -x} * Power(x, ExactSum(shape_, extra_power)) / factorial_;
+Scaled RegularisedGamma::Density(const Point& point, Extended extra_power) const {
+  return Scaled{shape_, ExactSum(shape_, extra_power) * point.ln_x - point.x} / factorial_;
 }
 
 bool RegularisedGamma::IsUniform(Extended x) const {
   return shape_ >= kUniformShape && std::fabs(x - shape_) < kUniformDistance * shape_;
 }
 
-Tails RegularisedGamma::At(ExtendedPair x) const {
-  return IsUniform(x.hi) ? UniformGammaTails(shape_, x) : TailsFrom(x.hi, Density(x, 0));
+Tails RegularisedGamma::At(const Point& point) const {
+  return IsUniform(point.x.hi) ? UniformGammaTails(shape_, point.x)
+                               : TailsFrom(point.x.hi, Density(point, 0));
 }
 
 Tails RegularisedGamma::TailsFrom(Extended x, Scaled density) const {
@@ -76,7 +77,10 @@ Tails RegularisedGamma::TailsFrom(Extended x, Scaled density) const {
     density.factor *= LowerSeries(a, x) / a;
     constexpr Extended most = 0.9L;
     if (a < 1 && density.Value() > most) {
-      return {Tail::kUpper, {BoostUpper(a, x), ExtendedPair()}};
+      // So far down the lower tail is its first term.
+      constexpr Extended far_down = 1e-25L;
+      const Extended upper = x < far_down ? -std::expm1(density.Log()) : BoostUpper(a, x);
+      return {Tail::kUpper, {upper, ExtendedPair()}};
     }
     return {Tail::kLower, density};
   }
@@ -94,7 +98,7 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   const Extended start = Start(tail, p, asymptote);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
-    const Scaled density = Density(x, 0);
+    const Scaled density = Density(Point(x), 0);
     return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(x, density),
                            density, shape_ - x};
   });

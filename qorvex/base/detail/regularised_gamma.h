@@ -18,11 +18,20 @@ class QORVEX_EXPORT RegularisedGamma {
  public:
   explicit RegularisedGamma(Extended shape);
 
-  /// Both tails at 0 < x < infinity.
-  [[nodiscard]] Tails At(ExtendedPair x) const;
-  /// x^(a + extra_power) e^-x / Gamma(a) at 0 < x < infinity: the density of ln X, and with -1 that
-  /// of X.
-  [[nodiscard]] Scaled Density(ExtendedPair x, Extended extra_power) const;
+  /// A point 0 < x < infinity and its logarithm, which may say more than an x that underflowed.
+  struct Point {
+    explicit Point(ExtendedPair value) : x(value), ln_x(Ln(value)) {}
+    /// numerator / denominator.
+    Point(ExtendedPair numerator, ExtendedPair denominator)
+        : x(numerator / denominator), ln_x(LnOfRatio(x, numerator, denominator)) {}
+    ExtendedPair x;
+    ExtendedPair ln_x;
+  };
+
+  /// Both tails at a point.
+  [[nodiscard]] Tails At(const Point& point) const;
+  /// x^(a + extra_power) e^-x / Gamma(a): the density of ln X, and with -1 that of X.
+  [[nodiscard]] Scaled Density(const Point& point, Extended extra_power) const;
   /// The point with the given tail, 0 < p < 1. 0 where it is too small for the format.
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
 

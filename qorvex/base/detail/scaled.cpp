@@ -51,18 +51,22 @@ constexpr auto kFactorialsOfHalves = [] {
 }  // namespace
 
 Extended Scaled::Value() const {
+  // Beyond, the low part of the exponent means nothing.
   constexpr Extended beyond = 30000;
   if (std::fabs(exponent.hi) > beyond) return factor * std::exp(exponent.hi);
-  // Moved away from the smallest numbers, where the exponential alone would lose digits.
-  constexpr Extended low = -11000;
-  constexpr Extended shift = 128;
-  const Extended power = exponent.hi < low ? std::exp(exponent.hi + shift) : std::exp(exponent.hi);
-  const Extended value = factor * power * (1 + exponent.lo);
-  return exponent.hi < low ? value * std::exp(-shift) : value;
+  // Where the exponential alone is beyond the format, or loses digits, the factor may be what
+  // brings the number back.
+  constexpr Extended far = 11000;
+  if (std::fabs(exponent.hi) > far) {
+    const Extended half = std::exp(exponent.hi / 2);
+    return half * (1 + exponent.lo) * factor * half;
+  }
+  return factor * std::exp(exponent.hi) * (1 + exponent.lo);
 }
 
 Extended Scaled::Log() const {
-  return exponent.hi + (std::log(factor) + exponent.lo);
+  if (!std::isnormal(factor) || std::isinf(exponent.hi)) return std::log(factor) + exponent.hi;
+  return (Ln(ExtendedPair(factor)) + exponent).hi;
 }
 
 Scaled Power(ExtendedPair x, ExtendedPair y) {

@@ -15,6 +15,9 @@ Tails TailsAt(Extended mean, Extended x) {
   if (x <= 0) return BelowAll();
   const ExtendedPair ratio = ExtendedPair(x) / mean;
   if (!(ratio.hi <= kLargest)) return AboveAll();
+  // So far down the lower tail is the ratio, which may be too small for the format.
+  constexpr Extended far_down = 1e-4900L;
+  if (ratio.hi < far_down) return {Tail::kLower, Scaled{1, LnOfRatio(ratio, x, mean)}};
   if (ratio.hi < 1) return {Tail::kLower, Scaled{-std::expm1(-ratio.hi), ExtendedPair()}};
   return {Tail::kUpper, Scaled{1, -ratio}};
 }

@@ -18,10 +18,11 @@ void Check(Extended shape, Extended scale) {
 Tails TailsAt(Extended shape, Extended scale, Extended x) {
   Check(shape, scale);
   if (AnyNaN(shape, scale, x)) return Unknown();
-  const ExtendedPair ratio = ExtendedPair(x) / scale;
-  if (ratio.hi <= 0) return BelowAll();
-  if (!(ratio.hi <= kLargest)) return AboveAll();
-  return RegularisedGamma(shape).At(ratio);
+  if (x <= 0) return BelowAll();
+  if (std::isinf(x)) return AboveAll();
+  const RegularisedGamma::Point point(x, scale);
+  if (!(point.x.hi <= kLargest)) return AboveAll();
+  return RegularisedGamma(shape).At(point);
 }
 
 Extended Quantile(Extended shape, Extended scale, Tail tail, Extended p) {
@@ -37,9 +38,10 @@ Extended GammaPdf(Extended shape, Extended scale, Extended x) {
   Check(shape, scale);
   if (AnyNaN(shape, scale, x)) return kNaN;
   if (x == 0) return DensityAtEnd(shape, 1 / scale);
-  const ExtendedPair ratio = ExtendedPair(x) / scale;
-  if (x < 0 || !(ratio.hi <= kLargest)) return 0;
-  Scaled density = RegularisedGamma(shape).Density(ratio, -1);
+  if (x < 0 || std::isinf(x)) return 0;
+  const RegularisedGamma::Point point(x, scale);
+  if (!(point.x.hi <= kLargest)) return 0;
+  Scaled density = RegularisedGamma(shape).Density(point, -1);
   density.factor /= scale;
   return density.Value();
 }

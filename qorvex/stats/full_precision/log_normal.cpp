@@ -32,7 +32,9 @@ Extended LogNormalPdf(Extended mean, Extended std_dev, Extended x) {
   if (AnyNaN(mean, std_dev, x)) return kNaN;
   if (x <= 0 || std::isinf(x)) return 0;
   const ExtendedPair ln_x = Ln(ExtendedPair(x));
-  return (NormalDensity(Standardised(ln_x, mean, std_dev), std_dev) * Scaled{1, -ln_x}).Value();
+  const Scaled density = NormalDensity(Standardised(ln_x, mean, std_dev), std_dev);
+  if (std::isinf(density.exponent.hi)) return 0;
+  return (density * Scaled{1, -ln_x}).Value();
 }
 
 Extended LogNormalLower(Extended mean, Extended std_dev, Extended x) {

@@ -19,7 +19,9 @@ void Check(Extended lambda) {
 Tails TailsAt(Extended lambda, std::uint32_t k) {
   Check(lambda);
   if (std::isnan(lambda)) return Unknown();
-  return RegularisedGamma(static_cast<Extended>(k) + 1).At(lambda).Mirrored();
+  return RegularisedGamma(static_cast<Extended>(k) + 1)
+      .At(RegularisedGamma::Point(lambda))
+      .Mirrored();
 }
 
 std::uint32_t Quantile(Extended lambda, Tail tail, Extended probability) {

@@ -19,6 +19,7 @@ using QorvexGlobals::detail::ExtendedPair;
 using QorvexGlobals::detail::FactorialOf;
 using QorvexGlobals::detail::FromOdds;
 using QorvexGlobals::detail::Ln;
+using QorvexGlobals::detail::LnOfRatio;
 using QorvexGlobals::detail::NormalDensity;
 using QorvexGlobals::detail::NormalUpperTail;
 using QorvexGlobals::detail::Odds;
@@ -44,9 +45,12 @@ inline void RequireProbability(Extended p) {
   if (p <= 0 || p >= 1) RaiseMathError(rsValue01);
 }
 
-/// Raises the message unless the parameter is positive and finite; NaN passes.
+/// Raises the message unless the parameter is positive, finite and not subnormal, so that it can be
+/// divided by; NaN passes.
 inline void RequirePositive(Extended parameter, MessageId message) {
-  if (parameter <= 0 || std::isinf(parameter)) RaiseMathError(message);
+  if (parameter < std::numeric_limits<Extended>::min() || std::isinf(parameter)) {
+    RaiseMathError(message);
+  }
 }
 
 /// Raises EInvalidOp for an infinite parameter.

@@ -12,6 +12,7 @@ ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev) {
 
 Tails StandardNormalTails(ExtendedPair z) {
   if (z.hi < 0) return StandardNormalTails(-z).Mirrored();
+  if (std::isinf(z.hi)) return AboveAll();
   return {Tail::kUpper, NormalUpperTail(z)};
 }
 
