@@ -41,9 +41,12 @@ Extended GammaPdf(Extended shape, Extended scale, Extended x) {
   if (x < 0 || std::isinf(x)) return 0;
   const RegularisedGamma::Point point(x, scale);
   if (!(point.x.hi <= kLargest)) return 0;
-  Scaled density = RegularisedGamma(shape).Density(point, -1);
-  density.factor /= scale;
-  return density.Value();
+  const Scaled density = RegularisedGamma(shape).Density(point, -1);
+  // As a factor a scale near the ends of the format could overflow.
+  const bool moderate = scale > 1e-2000L && scale < 1e2000L;
+  const Scaled divisor =
+      moderate ? Scaled{scale, ExtendedPair()} : Scaled{1, Ln(ExtendedPair(scale))};
+  return (density / divisor).Value();
 }
 
 Extended GammaLower(Extended shape, Extended scale, Extended x) {

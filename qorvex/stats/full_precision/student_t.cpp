@@ -42,7 +42,8 @@ Extended Quantile(Extended df, Tail tail, Extended p) {
   if (p == 0.5L) return 0;
   const Scaled odds = RegularisedBeta(df / 2, 0.5L).QuantileOdds(Tail::kLower, 2 * p);
   const Extended t = CheckedFinite(SquareRoot(Scaled{df, ExtendedPair()} / odds).Value());
-  return tail == Tail::kUpper ? t : -t;
+  // A t of 0 has no sign.
+  return tail == Tail::kUpper ? t : 0 - t;
 }
 
 }  // namespace

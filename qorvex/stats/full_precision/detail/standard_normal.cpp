@@ -7,6 +7,10 @@
 namespace qorvex::full_precision::detail {
 
 ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev) {
+  // So far out 64 bits will do, and near the end of the range pairs would overflow.
+  constexpr Extended far = 1e2400L;
+  const Extended z = (x.hi - mean) / std_dev;
+  if (std::fabs(z) > far) return z;
   return (x - ExtendedPair(mean)) / ExtendedPair(std_dev);
 }
 
