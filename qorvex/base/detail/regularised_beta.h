@@ -21,7 +21,7 @@ struct Odds {
   return value < 1 ? value / (1 + value) : 1 / (1 + 1 / value);
 }
 
-/// The beta distribution with shapes from above 0 to 1e15.
+/// The beta distribution with shapes from 1e-18 to 1e15.
 ///
 /// The continued fraction of DiDonato and Morris (1992), "Algorithm 708", gives the tail on the far
 /// side of the mean, in at most some tens of terms times the square root of the shapes. Boost.Math

@@ -8,7 +8,7 @@
 
 namespace qorvex::inline QorvexGlobals::detail {
 
-/// The gamma distribution of a shape from above 0 to 1e15 and scale 1.
+/// The gamma distribution of a shape from 1e-18 to 1e15 and scale 1.
 ///
 /// Below the shape the power series gives the lower tail, above it the continued fraction gives the
 /// upper one, each in some hundred terms at most, because around large shapes an expansion takes

@@ -7,13 +7,14 @@
 
 namespace qorvex::inline QorvexGlobals::detail {
 
-/// From here on the expansion holds for shapes.
+/// The shapes from which the expansion holds.
 inline constexpr Extended kUniformShape = 1000;
-
-/// The tails of the gamma distribution at x for a shape from kUniformShape on, by Temme's expansion
-/// (1979, "The asymptotic expansion of the incomplete gamma functions"), whose cost does not depend
-/// on the shape. Needs |x / shape - 1| <= kUniformDistance.
+/// How far from 1 x / shape may be.
 inline constexpr Extended kUniformDistance = 0.2L;
+
+/// The tails of the gamma distribution at x within these bounds, by Temme's expansion (1979, "The
+/// asymptotic expansion of the incomplete gamma functions"), whose cost does not depend on the
+/// shape.
 [[nodiscard]] Tails UniformGammaTails(Extended shape, ExtendedPair x);
 
 }  // namespace qorvex::inline QorvexGlobals::detail
