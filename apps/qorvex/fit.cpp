@@ -49,7 +49,7 @@ struct Figures {
   Extended covariance;
   std::vector<Extended> coefficients;  // of 1, x, x^2
   Extended sse;
-  // Without a value when the y are all the same, or differ by no more than rounding.
+  // Without a value when the y are all the same.
   std::optional<Extended> correlation, determination;
 };
 
@@ -76,20 +76,60 @@ void RequireDifferentX(const TableColumn& x, const FitArguments& arguments) {
              (needed == 2 ? "a line needs two different x" : "a parabola needs three different x"));
 }
 
-std::vector<Extended> Coefficients(const TableColumn& x, const TableColumn& y,
-                                   const FitArguments& arguments) {
+[[noreturn]] void RefuseTooLarge(const FitArguments& arguments) {
+  Refuse(arguments, InputFault::kOutOfRange,
+         "the values are too large; their sums are beyond the range of extended precision");
+}
+
+// A column as numbers near zero that spread over 1 to 2: values / 2^exponent - offset. With a whole
+// offset that is exact, unless the column mixes large numbers with far smaller ones.
+struct ScaledColumn {
+  TQorFloatVector values;
+  int exponent;
+  Extended offset;
+};
+
+ScaledColumn Scaled(const TQorFloatVector& column, Extended mean, const FitArguments& arguments) {
+  const auto [smallest, largest] = std::ranges::minmax(column);
+  const Extended range = largest - smallest;
+  if (!std::isfinite(range) || !std::isfinite(mean)) RefuseTooLarge(arguments);
+  const int exponent = range > 0 ? std::ilogb(range) : 0;
+  ScaledColumn scaled{
+      .values = TQorFloatVector::ForOverwrite(column.size()),
+      .exponent = exponent,
+      .offset = range > 0 ? std::nearbyint(std::scalbn(mean, -exponent)) : smallest};
+  for (std::size_t i = 0; i < column.size(); ++i)
+    scaled.values[i] = std::scalbn(column[i], -exponent) - scaled.offset;
+  return scaled;
+}
+
+std::vector<Extended> ScaledCoefficients(const ScaledColumn& x, const ScaledColumn& y,
+                                         const std::string& title, const FitArguments& arguments) {
   std::vector<Extended> c(arguments.degree + 1);
+  if (arguments.degree == 1) {
+    GetRegressionLine(x.values, y.values, c[0], c[1]);
+    return c;
+  }
   try {
-    if (arguments.degree == 1) {
-      GetRegressionLine(x.values, y.values, c[0], c[1]);
-    } else {
-      GetQuadraticCurve(x.values, y.values, c[0], c[1], c[2]);
-    }
+    GetQuadraticCurve(x.values, y.values, c[0], c[1], c[2]);
   } catch (const EMathError&) {
     Refuse(arguments, InputFault::kNoResult,
-           x.Title() +
-               ": the x differ too little for the fit; subtract a number that they share, "
-               "or multiply them by a power of ten");
+           title + ": the x lie too close to only two places for a parabola");
+  }
+  return c;
+}
+
+// From a polynomial in the scaled x that gives scaled y.
+std::vector<Extended> Coefficients(std::vector<Extended> c, const ScaledColumn& x,
+                                   const ScaledColumn& y) {
+  for (std::size_t i = 0; i + 1 < c.size(); ++i) {
+    for (std::size_t j = c.size() - 1; j-- > i;) c[j] -= x.offset * c[j + 1];
+  }
+  c[0] += y.offset;
+  int exponent = y.exponent;
+  for (Extended& coefficient : c) {
+    coefficient = std::scalbn(coefficient, exponent);
+    exponent -= x.exponent;
   }
   return c;
 }
@@ -105,31 +145,42 @@ Extended SumOfSquaredErrors(const TQorFloatVector& x, const TQorFloatVector& y,
   return sum;
 }
 
-Figures FiguresOf(const TableColumn& x, const TableColumn& y, const FitArguments& arguments) {
-  RequireDifferentX(x, arguments);
-  Figures figures{.mean_x = QorMean(x.values),
-                  .mean_y = QorMean(y.values),
-                  .std_dev_x = SampleStdDev(x.values),
-                  .std_dev_y = SampleStdDev(y.values),
-                  .covariance = 0,
-                  .coefficients = Coefficients(x, y, arguments),
-                  .sse = 0,
-                  .correlation = {},
-                  .determination = {}};
-  for (std::size_t i = 0; i < x.values.size(); ++i) {
-    figures.covariance += (x.values[i] - figures.mean_x) * (y.values[i] - figures.mean_y);
-  }
-  figures.covariance /= static_cast<Extended>(x.values.size() - 1);
-  figures.sse = SumOfSquaredErrors(x.values, y.values, figures.coefficients);
+Extended Covariance(const TQorFloatVector& x, const TQorFloatVector& y) {
+  const Extended mean_x = QorMean(x);
+  const Extended mean_y = QorMean(y);
+  Extended sum = 0;
+  for (std::size_t i = 0; i < x.size(); ++i) sum += (x[i] - mean_x) * (y[i] - mean_y);
+  return sum / static_cast<Extended>(x.size() - 1);
+}
+
+// All but the means comes from the scaled columns, so that digits which the values share cost none
+// and their size does not matter.
+Figures FiguresOf(const TableColumn& x_column, const TableColumn& y_column,
+                  const FitArguments& arguments) {
+  RequireDifferentX(x_column, arguments);
+  const Extended mean_x = QorMean(x_column.values);
+  const Extended mean_y = QorMean(y_column.values);
+  const ScaledColumn x = Scaled(x_column.values, mean_x, arguments);
+  const ScaledColumn y = Scaled(y_column.values, mean_y, arguments);
+  const std::vector<Extended> c = ScaledCoefficients(x, y, x_column.Title(), arguments);
+  const Extended sse = SumOfSquaredErrors(x.values, y.values, c);
+  Figures figures{
+      .mean_x = mean_x,
+      .mean_y = mean_y,
+      .std_dev_x = std::scalbn(SampleStdDev(x.values), x.exponent),
+      .std_dev_y = std::scalbn(SampleStdDev(y.values), y.exponent),
+      .covariance = std::scalbn(Covariance(x.values, y.values), x.exponent + y.exponent),
+      .coefficients = Coefficients(c, x, y),
+      .sse = std::scalbn(sse, 2 * y.exponent),
+      .correlation = {},
+      .determination = {}};
   if (DifferentValues(y.values, 2) < 2) return figures;
-  try {
-    figures.correlation = CoeffCorrelation(x.values, y.values);
-    figures.determination = arguments.degree == 1
-                                ? CoeffDetermination(x.values, y.values)
-                                : 1 - figures.sse / SumSqDiffVector(y.values, figures.mean_y);
-  } catch (const EMathError&) {
-    // Rounding has left no spread.
-  }
+  // Rounding may leave a little more than 1.
+  const Extended correlation = std::clamp<Extended>(CoeffCorrelation(x.values, y.values), -1, 1);
+  figures.correlation = correlation;
+  figures.determination = arguments.degree == 1
+                              ? correlation * correlation
+                              : 1 - sse / SumSqDiffVector(y.values, QorMean(y.values));
   return figures;
 }
 
@@ -230,10 +281,7 @@ void Fit(const FitArguments& arguments) {
   const TableColumn& x = columns[0];
   const TableColumn& y = columns[1];
   const Figures figures = FiguresOf(x, y, arguments);
-  if (!AllFinite(figures)) {
-    Refuse(arguments, InputFault::kOutOfRange,
-           "the values are too large; their sums are beyond the range of extended precision");
-  }
+  if (!AllFinite(figures)) RefuseTooLarge(arguments);
   WriteResult(arguments.json ? JsonOf(x, y, figures, arguments)
                              : TextOf(x.values.size(), figures, arguments));
 }
@@ -258,10 +306,7 @@ void AddFit(CLI::App& program) {
   CLI::App& fit = *program.add_subcommand("fit", "A line or a parabola through pairs of numbers");
   AddCurve(fit, "line", "The least-squares line y = a + b x", 1);
   AddCurve(fit, "quadratic", "The least-squares parabola y = a0 + a1 x + a2 x^2", 2);
-  fit.require_subcommand(0, 1);
-  fit.callback([&fit] {
-    if (fit.get_subcommands().empty()) throw CLI::RequiredError("A command of fit");
-  });
+  RequireOneCommand(fit, "A command of fit");
 }
 
 }  // namespace qorvex::cli
