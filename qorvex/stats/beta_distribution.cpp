@@ -63,7 +63,8 @@ void BetaPDFValues(Extended a, Extended b, Extended lower, Extended upper, Exten
 
 Extended BetaDistLess(Extended x, Extended a, Extended b) {
   RequireShapes(a, b);
-  return IncompleteBeta(std::clamp<Extended>(x, 0, 1), a, b);
+  // A positive zero also for -0; NaN stays.
+  return IncompleteBeta(x <= 0 ? 0 : std::min<Extended>(x, 1), a, b);
 }
 
 Extended BetaDistLess(Extended x, Extended a, Extended b, Extended lower, Extended upper) {

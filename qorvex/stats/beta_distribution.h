@@ -13,10 +13,10 @@
 /// the 64-bit mantissa.
 ///
 /// EMathError, in this order: for quantiles rsValue01 unless 0 < p < 1; rsValueGZero unless a and b
-/// are positive; rsInvalidValue unless the upper end is above the lower and both are finite.
-/// EInvalidOp for shapes below 1e-18 and above 1e15. Points outside the support are no error:
-/// probabilities take them as the nearer end, and their density is 0. NaN gives NaN, except for p
-/// and the ends.
+/// are positive; rsInvalidValue unless the upper end is above the lower, both are finite, and their
+/// difference is within the extended range. EInvalidOp for shapes below 1e-18 and above 1e15.
+/// Points outside the support are no error: probabilities take them as the nearer end, and their
+/// density is 0. NaN gives NaN, except for p and the ends.
 
 #include <cstdint>
 

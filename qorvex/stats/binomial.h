@@ -9,6 +9,10 @@
 ///
 /// - The coefficient may be beyond the extended range where the probability is not: from n = 16392
 ///   on, counts near n/2 raise EMathError with rsBinomOverflowed. Nothing else overflows.
+/// - A power may underflow where the probability does not: with four billion trials, probabilities
+///   below 1e-110 may lose digits and be 0; with a million, those below 1e-244.
+/// - 1 - p rounds, and (1 - p)^(n - k) multiplies that error by n - k: with four billion trials and
+///   a small p, 1e-10 of the probability.
 /// - Upper probabilities are 1 less the lower ones, with an absolute error of about 1e-19 n; small
 ///   ones lose their digits.
 ///

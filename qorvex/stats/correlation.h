@@ -5,8 +5,9 @@
 ///
 /// The sums run over the pairs in ascending order, in extended precision and in a single pass.
 /// Digits that the x, or the y, have in common cancel, as in a line (regression.h). Rounding may
-/// leave a magnitude a little above 1. NaN gives NaN, and so do infinite elements and sums beyond
-/// the extended range. O(n).
+/// leave a magnitude a little above 1. NaN gives NaN. Infinite elements, sums or products of sums
+/// beyond the extended range and squares that underflow give results without meaning, NaN, 0 or an
+/// error, as in a line: scale such data first. O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/density_table.h"
@@ -22,20 +23,20 @@ Extended Density(Extended rate, Extended x) {
 
 Extended ExponentialPDF(Extended x, Extended mean) {
   RequireValid(mean, x);
-  return Density(1 / mean, x);
+  return Density(CheckedDivide(1, mean), x);
 }
 
 void ExponentialPDFValues(Extended mean, Extended x_low, Extended x_high, std::int32_t n,
                           TQorFloatVector& x_values, TQorFloatVector& y_values) {
   detail::FillDensityTable({x_low, x_high, n, x_values, y_values}, [=] {
     if (mean <= 0) RaiseMathError(rsExpDistInvalid);
-    return [rate = 1 / mean](Extended x) { return x < 0 ? 0 : Density(rate, x); };
+    return [rate = CheckedDivide(1, mean)](Extended x) { return x < 0 ? 0 : Density(rate, x); };
   });
 }
 
 Extended ExponentialLess(Extended mean, Extended x) {
   RequireValid(mean, x);
-  const Extended rate = 1 / mean;
+  const Extended rate = CheckedDivide(1, mean);
   return 1 - std::exp(-rate * x);
 }
 

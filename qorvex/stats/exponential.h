@@ -7,7 +7,8 @@
 /// an absolute error of some 1e-19: points far below the mean and upper tails lose digits.
 /// full_precision::ExponentialLower and ExponentialUpper keep them all.
 ///
-/// EMathError rsExpDistInvalid unless mean > 0 and x >= 0, and so for NaN.
+/// EMathError rsExpDistInvalid unless mean > 0 and x >= 0, and so for NaN; then EOverflow where
+/// 1 / mean is beyond the extended range, for means below some 8.4e-4933.
 
 #include <cstdint>
 
@@ -21,7 +22,7 @@ namespace qorvex::inline QorvexStatistics {
 
 /// n + 1 points from x_low to x_high in equal steps, and the density at each, 0 at negative points:
 /// one point at x_low for n = 0, none for a negative n. Both vectors are released first. EMathError
-/// rsExpDistInvalid for mean <= 0; a NaN mean gives NaN. O(n).
+/// rsExpDistInvalid for mean <= 0, then EOverflow as above; a NaN mean gives NaN. O(n).
 QORVEX_EXPORT void ExponentialPDFValues(Extended mean, Extended x_low, Extended x_high,
                                         std::int32_t n, TQorFloatVector& x_values,
                                         TQorFloatVector& y_values);

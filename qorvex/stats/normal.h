@@ -16,8 +16,10 @@
 /// its digits when it is small and raises rsValue01 below 2^-65. full_precision::NormalQuantile and
 /// NormalUpperQuantile have neither limit.
 ///
-/// NaN gives NaN where no error is stated for it. A standard deviation counts as positive when it
-/// exceeds QorTolerance.
+/// NaN gives NaN where no error is stated for it. A density is NaN, too, where (x - mean)^2 and the
+/// variance are both beyond the extended range, as NormalPDF(1e3000, 0, 1e3000) is;
+/// full_precision::NormalPdf is not. A standard deviation counts as positive when it exceeds
+/// QorTolerance.
 
 #include <cstdint>
 

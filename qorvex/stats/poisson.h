@@ -35,8 +35,7 @@ namespace qorvex::inline QorvexStatistics {
 [[nodiscard]] QORVEX_EXPORT Extended PoissonGreater(Extended lambda, std::uint32_t k);
 
 /// P(k1 < X < k2), both ends excluded, when the counts ascend; P(k2 <= X <= k1), both included,
-/// when they descend; P(X = k1) when SameFloat finds them equal in single precision, which the
-/// initial QorTolerance does for equal counts only.
+/// when they descend; P(X = k1) when SameFloat finds them equal in single precision.
 [[nodiscard]] QORVEX_EXPORT Extended PoissonBetween(Extended lambda, std::uint32_t k1,
                                                     std::uint32_t k2);
 

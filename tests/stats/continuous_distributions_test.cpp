@@ -130,6 +130,7 @@ TEST(ContinuousDistributions, TablesStayReleasedAfterAnError) {
   expect_error(rsValueGZero, [&] { LogNormalPDFValues(0, 1, 0, 1, -1, xs, ys); });
   expect_error(rsValueGZero, [&] { LogNormalPDFValues(0, 1, 1, -1, 4, xs, ys); });
   expect_error(rsExpDistInvalid, [&] { ExponentialPDFValues(0, 0, 1, 4, xs, ys); });
+  EXPECT_ERROR(ExponentialPDFValues(1e-4940L, 0, 1, 4, xs, ys), EOverflow, rsOverflow);
   expect_error(rsDF, [&] { ChiSquarePDFValues(0, 0, 1, 4, xs, ys); });
   expect_error(rsDF, [&] { StudentTPDFValues(0, 0, 1, 4, xs, ys); });
   expect_error(rsDF, [&] { FDistPDFValues(0, 1, 0, 1, 4, xs, ys); });
@@ -161,6 +162,8 @@ TEST(ContinuousDistributions, RaiseTheFirstErrorOfSeveral) {
   EXPECT_MATH_ERROR(ExponentialLess(1, -1), rsExpDistInvalid);
   EXPECT_MATH_ERROR(ExponentialPDF(-1, 1), rsExpDistInvalid);
   EXPECT_MATH_ERROR(ExponentialPDF(1, kNaN), rsExpDistInvalid);
+  EXPECT_ERROR(ExponentialPDF(1, 1e-4940L), EOverflow, rsOverflow);
+  EXPECT_ERROR(ExponentialLess(1e-4940L, 0), EOverflow, rsOverflow);
 
   EXPECT_MATH_ERROR(ChiSquareLess(-1, 0), rsValueGEZero);
   EXPECT_MATH_ERROR(ChiSquareGreater(1, 0), rsDF);
@@ -213,6 +216,8 @@ TEST(ContinuousDistributions, TakeInfinitiesAndNaN) {
   EXPECT_EQ(FDistLess(kInfinity, 3, 4), 1);
   EXPECT_EQ(BetaDistLess(kInfinity, 3, 4), 1);
   EXPECT_EQ(BetaDistLess(-1, 3, 4), 0);
+  EXPECT_FALSE(std::signbit(BetaDistLess(-0.0L, 2, 3)));
+  EXPECT_FALSE(std::signbit(BetaDistLess(-0.0L, 2, 3, 0, 5)));
   EXPECT_EQ(BetaPDF(-1, 3, 4), 0);
   EXPECT_EQ(ChiSquarePDF(0, 1), kInfinity);
   EXPECT_EQ(BetaPDF(1, 3, 0.5L, 0, 1), kInfinity);

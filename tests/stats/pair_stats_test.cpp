@@ -45,6 +45,36 @@ TEST(PairStats, FollowsItsFormulasToTheBit) {
   }
 }
 
+// The normal equations by Cramer's rule, each cofactor written out.
+std::array<Extended, 3> PlainParabola(const TQorFloatVector& x, const TQorFloatVector& y) {
+  const auto n = static_cast<Extended>(x.size());
+  Extended s1 = 0, s2 = 0, s3 = 0, s4 = 0, t0 = 0, t1 = 0, t2 = 0;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    const Extended u = x[i];
+    s1 += u;
+    s2 += u * u;
+    s3 += u * u * u;
+    s4 += (u * u) * (u * u);
+    t0 += y[i];
+    t1 += u * y[i];
+    t2 += u * u * y[i];
+  }
+  const Extended d = n * s2 * s4 + 2 * s1 * s2 * s3 - s2 * s2 * s2 - s1 * s1 * s4 - n * (s3 * s3);
+  return {
+      (s2 * s4 * t0 + s2 * s3 * t1 + s1 * s3 * t2 - s2 * s2 * t2 - s1 * s4 * t1 - s3 * s3 * t0) / d,
+      (n * s4 * t1 + s1 * s2 * t2 + s2 * s3 * t0 - s2 * s2 * t1 - s1 * s4 * t0 - n * s3 * t2) / d,
+      (n * s2 * t2 + s1 * s3 * t0 + s1 * s2 * t1 - s2 * s2 * t0 - s1 * s1 * t2 - n * s3 * t1) / d};
+}
+
+TEST(PairStats, FollowsCramersRuleToTheBit) {
+  testing::Engine engine(1);
+  for (std::size_t size = 3; size < 60; ++size) {
+    const auto x = testing::RandomVector<Extended>(engine, size);
+    const auto y = testing::RandomVector<Extended>(engine, size);
+    EXPECT_EQ(Parabola(x, y), PlainParabola(x, y)) << size;
+  }
+}
+
 TEST(PairStats, FindsExactLinesAndParabolas) {
   const std::array<Extended, 2> line{0, 2};
   EXPECT_EQ(Line({1, 2, 3}, {2, 4, 6}), line);

@@ -57,6 +57,7 @@ TEST(Poisson, IsFiniteWhereItsFactorsAreNot) {
                                   {700.0L, 1740U},
                                   {11400.0L, 1754U},
                                   {12000.0L, 1700U},
+                                  {12000.0L, 1200U},
                                   {1e-100L, 40U},
                                   {1e-3000L, 1U}}) {
     const Extended log_p = k * std::log(lambda) - lambda - (k < 2 ? 0 : log_factorial(k));
