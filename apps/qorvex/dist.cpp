@@ -23,12 +23,13 @@ namespace qorvex::cli {
 namespace {
 
 constexpr Extended kLargestCount = std::numeric_limits<std::uint32_t>::max();
-constexpr Extended kMostSteps = std::numeric_limits<std::int32_t>::max();
+// A table is in memory before any of it is printed.
+constexpr Extended kMostPoints = 1e7L;
 
 constexpr const char* kNumbersHelp = R"(Numbers:
   Finite, with a decimal point and an optional exponent, read to 80 bits.
   Figures keep full relative accuracy in both tails. --prescribed computes with
-  the routines of the unit QorvexStatistics instead, which lose small tails.)";
+  the classic routines of the unit QorvexStatistics, which lose small tails.)";
 
 using Numbers = std::vector<Extended>;
 
@@ -55,6 +56,8 @@ const char* WhatIsWrong(Extended value, NumberKind kind) {
       break;
     case NumberKind::kPositive:
       return value > 0 ? nullptr : "is not greater than 0";
+    case NumberKind::kShape:
+      return value >= 1e-17L && value <= 1e15L ? nullptr : "is not from 1e-17 to 1e15";
     case NumberKind::kShare:
       return value >= 0 && value <= 1 ? nullptr : "is not from 0 to 1";
     case NumberKind::kProbability:
@@ -62,7 +65,7 @@ const char* WhatIsWrong(Extended value, NumberKind kind) {
     case NumberKind::kCount:
       return is_whole(kLargestCount) ? nullptr : "is not a whole number from 0 to 4294967295";
     case NumberKind::kSteps:
-      return is_whole(kMostSteps) ? nullptr : "is not a whole number from 0 to 2147483647";
+      return is_whole(kMostPoints - 1) ? nullptr : "is not a whole number from 0 to 9999999";
   }
   return nullptr;
 }
@@ -227,6 +230,7 @@ Extended Density(const Distribution& distribution, const DistArguments& argument
 }
 
 std::string Text(Extended value, const DistArguments& arguments) {
+  // The arguments are finite: something on the way was not.
   if (std::isnan(value)) throw EOverflow();
   return arguments.decimals ? Float2EStr(value, *arguments.decimals) : Float2Str(value);
 }
@@ -239,9 +243,12 @@ std::string OneLine(const Distribution& distribution, const DistArguments& argum
 std::string TableOfCounts(const Distribution& distribution, DistArguments arguments) {
   const Extended last = arguments.numbers.back();
   arguments.numbers.pop_back();
+  Extended& k = arguments.numbers.back();
+  if (last < k) throw CLI::ValidationError("--to", "counts ascend, so it must not be below --from");
+  if (last - k >= kMostPoints)
+    throw CLI::ValidationError("--to", "a table has at most 10000000 points");
   std::string lines;
-  for (Extended& k = arguments.numbers.back(); k <= last; ++k)
-    lines += Float2Str(k) + ',' + OneLine<Density>(distribution, arguments);
+  for (; k <= last; ++k) lines += Float2Str(k) + ',' + OneLine<Density>(distribution, arguments);
   return lines;
 }
 
@@ -303,6 +310,30 @@ void RequireWholeNumbers(const Distribution& distribution, const DistArguments& 
   }
 }
 
+// Whether the full-precision routines answer what the prescribed ones did not.
+bool AnswersInFullPrecision(const Distribution& distribution, const Question& question,
+                            DistArguments arguments) {
+  arguments.prescribed = false;
+  try {
+    question.answer(distribution, arguments);
+    return true;
+  } catch (const EMathError&) {
+    return false;
+  }
+}
+
+[[noreturn]] void RefuseAnswer(const EMathError& error, const Distribution& distribution,
+                               const Question& question, const DistArguments& arguments) {
+  const bool overflow = dynamic_cast<const EOverflow*>(&error) != nullptr;
+  std::string what =
+      overflow ? "the figure, or one on the way to it, is beyond the range of extended precision"
+               : error.what();
+  if (arguments.prescribed && AnswersInFullPrecision(distribution, question, arguments))
+    what += "; without --prescribed there is no such limit";
+  throw InputError(overflow ? InputFault::kOutOfRange : InputFault::kNoResult,
+                   std::string(distribution.name) + ' ' + question.name, what);
+}
+
 void Run(const Distribution& distribution, const Question& question,
          const DistArguments& arguments) {
   if (arguments.prescribed) RequireWholeNumbers(distribution, arguments);
@@ -313,8 +344,7 @@ void Run(const Distribution& distribution, const Question& question,
   try {
     WriteResult(question.answer(distribution, arguments));
   } catch (const EMathError& error) {
-    throw InputError(InputFault::kNoResult, std::string(distribution.name) + ' ' + question.name,
-                     error.what());
+    RefuseAnswer(error, distribution, question, arguments);
   }
 }
 
@@ -324,7 +354,7 @@ void AddQuestion(CLI::App& family, const Distribution& distribution, const Quest
   for (const DistributionParameter& parameter : distribution.parameters)
     AddNumberInOrder(command, arguments, parameter);
   command.add_flag("--prescribed", arguments->prescribed,
-                   "Compute with the routines of QorvexStatistics");
+                   "Compute with the classic routines of QorvexStatistics");
   question.add_options(command, distribution, arguments);
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");

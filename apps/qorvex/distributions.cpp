@@ -1,5 +1,6 @@
 #include "apps/qorvex/distributions.h"
 
+#include <cmath>
 #include <cstddef>
 #include <utility>
 
@@ -78,12 +79,13 @@ Extended ScaledIncompleteGamma(Arguments arguments) {
 }
 
 constexpr auto kPositive = NumberKind::kPositive;
+constexpr auto kShape = NumberKind::kShape;
 
 std::vector<Distribution> AllDistributions() {
   const DistributionParameter mean = {"--mean", "The mean. Default: 0", NumberKind::kReal, 0};
   const DistributionParameter std_dev = {"--std-dev", "The standard deviation. Default: 1",
                                          kPositive, 1};
-  const DistributionParameter df = {"--df", "The degrees of freedom", kPositive, {}, true};
+  const DistributionParameter df = {"--df", "The degrees of freedom", kShape, {}, true};
   return {
       {"normal",
        "The normal distribution",
@@ -117,7 +119,7 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"gamma",
        "The gamma distribution",
-       {{"--shape", "The shape", kPositive}, {"--scale", "The scale. Default: 1", kPositive, 1}},
+       {{"--shape", "The shape", kShape}, {"--scale", "The scale. Default: 1", kPositive, 1}},
        false,
        QORVEX_FULL_PRECISION(Gamma, Pdf),
        {.less = ScaledIncompleteGamma}},
@@ -144,8 +146,8 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"f",
        "The F distribution",
-       {{"--df1", "The degrees of freedom of the numerator", kPositive, {}, true},
-        {"--df2", "The degrees of freedom of the denominator", kPositive, {}, true}},
+       {{"--df1", "The degrees of freedom of the numerator", kShape, {}, true},
+        {"--df2", "The degrees of freedom of the denominator", kShape, {}, true}},
        false,
        QORVEX_FULL_PRECISION(FDist, Pdf),
        {CallPointFirst<FDistPDF>, CallPointFirst<FDistLess>, CallPointFirst<FDistGreater>,
@@ -156,8 +158,8 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"beta",
        "The beta distribution, on [0, 1] or between two ends",
-       {{"--a", "The first shape", kPositive},
-        {"--b", "The second shape", kPositive},
+       {{"--a", "The first shape", kShape},
+        {"--b", "The second shape", kShape},
         {"--lower-end", "The lower end of the support. Default: 0", NumberKind::kReal, 0},
         {"--upper-end", "The upper end of the support. Default: 1", NumberKind::kReal, 1}},
        false,
@@ -173,8 +175,11 @@ std::vector<Distribution> AllDistributions() {
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           BetaPDFValues(a[0], a[1], a[2], a[3], a[4], a[5], n, xs, ys);
         }},
-       [](Arguments a) {
-         return a[3] > a[2] ? nullptr : "--upper-end must be greater than --lower-end";
+       [](Arguments a) -> const char* {
+         if (!(a[3] > a[2])) return "--upper-end must be greater than --lower-end";
+         return std::isfinite(BetaSupport(a).width)
+                    ? nullptr
+                    : "--upper-end less --lower-end is beyond the range of extended precision";
        }},
       {"binomial",
        "The binomial distribution: successes in independent trials",

@@ -16,10 +16,11 @@ namespace qorvex::cli {
 enum class NumberKind {
   kReal,
   kPositive,
+  kShape,        ///< a shape or degrees of freedom, in the range of the full-precision routines
   kShare,        ///< from 0 to 1
   kProbability,  ///< between 0 and 1
   kCount,        ///< a whole number that 32 bits hold
-  kSteps,        ///< a whole number that 31 bits hold
+  kSteps,        ///< the steps of a table, which has at most ten million points
 };
 
 struct DistributionParameter {

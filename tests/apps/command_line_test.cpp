@@ -182,7 +182,6 @@ TEST(Dist, CountsNeitherEndOfADiscreteInterval) {
            std::pair("between --k1 2 --k2 3", "0.0000\n"),
            std::pair("between --k1 2 --k2 2", "0.0000\n"),
            std::pair("table --from 3 --to 5", "3,0.2500\n4,0.0625\n5,0.0000\n"),
-           std::pair("table --from 3 --to 2", ""),
        }) {
     ExpectOutput("qorvex dist binomial " + std::string(question) + ' ' + fair, answer);
   }
@@ -217,9 +216,14 @@ TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
   }
   ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --prescribed", "0\n");
   ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --prescribed",
-                "chi-square pdf: The value must not be negative");
-  ExpectRefusal("qorvex dist normal inv --upper-p 1e-30 --prescribed",
-                "normal inv: The value must be greater than 0 and less than 1");
+                "chi-square pdf: The value must not be negative; without --prescribed there is no "
+                "such limit");
+  const std::string beyond =
+      ": the figure, or one on the way to it, is beyond the range of extended precision";
+  ExpectRefusal("qorvex dist normal pdf --std-dev 1e3000 --x 1e3000 --prescribed",
+                "normal pdf" + beyond + "; without --prescribed there is no such limit");
+  ExpectRefusal("qorvex dist log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --prescribed",
+                "log-normal inv" + beyond);
   ExpectRefusal("qorvex dist hypergeometric pdf --pop-size 3 --sample-size 4 --successes 1 --k 1",
                 "hypergeometric pdf: The hypergeometric distribution needs a population and a "
                 "sample of at least one, and neither sample nor successes above the population");
@@ -234,7 +238,7 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
            std::pair("normal pdf --std-dev 0 --x 1", "--std-dev: \"0\" is not greater than 0"),
            std::pair("normal inv --p 1", "--p: \"1\" is not between 0 and 1"),
            std::pair("normal table --from 0 --to 1 --n -1",
-                     "--n: \"-1\" is not a whole number from 0 to 2147483647"),
+                     "--n: \"-1\" is not a whole number from 0 to 9999999"),
            std::pair("binomial pdf --trials 4294967296 --success-probability 1 --k 1",
                      "--trials: \"4294967296\" is not a whole number from 0 to 4294967295"),
            std::pair("binomial pdf --trials 1 --success-probability 1.1 --k 1",
@@ -244,6 +248,14 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
                "--df2: 2.5 is not a whole number from 0 to 4294967295, as --prescribed needs"),
            std::pair("beta pdf --a 1 --b 1 --lower-end 1 --x 1",
                      "--upper-end must be greater than --lower-end"),
+           std::pair("beta pdf --a 1 --b 1 --lower-end -1e4932 --upper-end 1e4932 --x 1",
+                     "--upper-end less --lower-end is beyond the range of extended precision"),
+           std::pair("student-t pdf --df 1e16 --x 1", "--df: \"1e16\" is not from 1e-17 to 1e15"),
+           std::pair("beta pdf --a 1 --b 1e-18 --x 1", "--b: \"1e-18\" is not from 1e-17 to 1e15"),
+           std::pair("poisson table --lambda 1 --from 3 --to 2",
+                     "--to: counts ascend, so it must not be below --from"),
+           std::pair("poisson table --lambda 1 --from 5 --to 10000005",
+                     "--to: a table has at most 10000000 points"),
            std::pair("exponential inv --mean 1 --p 0.5 --prescribed",
                      "--prescribed: there is no such routine in QorvexStatistics"),
        }) {
@@ -285,6 +297,37 @@ TEST(Fit, ReportsTheCurveAndWhatItLeaves) {
       R"("correlation":null,"determination":null})");
 }
 
+// By hand: the parabola through 1, 2, 5 and 7 at 0 to 3 is 0.85 + 1.35 x + 0.25 x^2, with squared
+// errors of 0.45 of 22.75 about the mean.
+TEST(Fit, LosesNoDigitsToWhatTheNumbersShareNorToTheirSize) {
+  for (const auto& [x, y] : {
+           std::pair("0 1 2 3", "1 2 5 7"),
+           std::pair("5000 5001 5002 5003", "1 2 5 7"),
+           std::pair("1e9 1000000001 1000000002 1000000003", "1000001 1000002 1000005 1000007"),
+           std::pair("1e-4 2e-4 3e-4 4e-4", "1e-3000 2e-3000 5e-3000 7e-3000"),
+           std::pair("0 1e4000 2e4000 3e4000", "1e500 2e500 5e500 7e500"),
+       }) {
+    const std::string fit = std::string("for i in 1 2 3 4; do printf '%s,%s\\n' `echo ") + x +
+                            " | cut -d' ' -f$i` `echo " + y +
+                            " | cut -d' ' -f$i`; done | qorvex fit ";
+    const std::string ask = " - --x 1 --y 2 --decimals 16 | grep Coefficient";
+    ExpectOutput(fit + "quadratic" + ask,
+                 "Coefficient of Correlation\t0.9844951849708404\n"
+                 "Coefficient of Determination\t0.9802197802197802\n");
+    ExpectOutput(fit + "line" + ask,
+                 "Coefficient of Correlation\t0.9844951849708404\n"
+                 "Coefficient of Determination\t0.9692307692307692\n");
+  }
+  const std::string years = R"(printf '2000,1\n2001,2\n2002,5\n2003,7\n' | qorvex fit )";
+  ExpectOutput(years + "quadratic - --x 1 --y 2 --decimals 8 | grep -E 'Parabola|Error'",
+               "Regression Parabola:\t997300.85000000 - 998.65000000 x + 0.25000000 x^2\n"
+               "Sum of Squares Error:\t0.45000000\n");
+  // Rounding would leave a correlation above 1 here.
+  ExpectOutput(R"(for i in 1 2 3 4 5 6 7; do echo 0.$i,0.$((i+1)); done |
+                  qorvex fit line - --x 1 --y 2 | tail -n 2)",
+               "Coefficient of Correlation\t1\nCoefficient of Determination\t1\n");
+}
+
 TEST(Fit, RefusesBadInputWithStatusTwo) {
   for (const auto& [input, message] : {
            std::pair("1,2\\n1,3' | qorvex fit line - --x 1 --y 2",
@@ -294,10 +337,11 @@ TEST(Fit, RefusesBadInputWithStatusTwo) {
             ": column 1: a line needs two different x"},
            {"x,y\\n1,2\\n1,3\\n2,3' | qorvex fit quadratic - --x x --y y",
             ": column 1 (x): a parabola needs three different x"},
-           {"1e-4 1\\n2e-4 2\\n3e-4 5' | qorvex fit quadratic - --x 1 --y 2",
-            ": column 1: the x differ too little for the fit; subtract a number that they share, "
-            "or multiply them by a power of ten"},
-           {"1e4000 1\\n2 2' | qorvex fit line - --x 1 --y 2",
+           {"0 1\\n1e-9 2\\n1 5' | qorvex fit quadratic - --x 1 --y 2",
+            ": column 1: the x lie too close to only two places for a parabola"},
+           {"1e4932 1\\n-1e4932 2' | qorvex fit line - --x 1 --y 2",
+            ": the values are too large; their sums are beyond the range of extended precision"},
+           {"1 1e4000\\n2 2\\n3 2' | qorvex fit line - --x 1 --y 2",
             ": the values are too large; their sums are beyond the range of extended precision"},
            {"x,y\\n1,2\\n2,' | qorvex fit line - --x x --y y",
             ":3: column 2 (y): the cell is empty; --skip-empty skips such rows"},
