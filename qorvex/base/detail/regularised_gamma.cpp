@@ -15,8 +15,8 @@ namespace {
 constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 4;
 
 // The lower tail is x^a e^-x / Gamma(a + 1) times this series: 1 + x / (a + 1) +
-// x^2 / ((a + 1) (a + 2)) + ..., two terms a division. Those that are left sum to less than
-// term * x / (divisor - x), once that is positive.
+// x^2 / ((a + 1) (a + 2)) + ... One division serves two terms and does not wait for them. The terms
+// that are left sum to less than term * x / (divisor - x), once that is positive.
 Extended LowerSeries(Extended a, Extended x) {
   Extended sum = 1;
   Extended term = 1;
@@ -24,7 +24,7 @@ Extended LowerSeries(Extended a, Extended x) {
   do {
     const Extended next = divisor + 1;
     divisor += 2;
-    const Extended quotient = term / (next * divisor) * x;
+    const Extended quotient = term * (x / (next * divisor));
     term = quotient * x;
     sum += quotient * divisor + term;
   } while (term * x > sum * kRounding * (divisor - x));
