@@ -65,8 +65,8 @@ Extended Scaled::Value() const {
 }
 
 Extended Scaled::Log() const {
-  if (!std::isnormal(factor) || std::isinf(exponent.hi)) return std::log(factor) + exponent.hi;
-  return (Ln(ExtendedPair(factor)) + exponent).hi;
+  const bool has_pair = std::isnormal(factor) && factor > 0 && std::isfinite(exponent.hi);
+  return has_pair ? (Ln(ExtendedPair(factor)) + exponent).hi : std::log(factor) + exponent.hi;
 }
 
 Scaled Power(ExtendedPair x, ExtendedPair y) {
