@@ -8,6 +8,7 @@
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/detail/boost_math.h"
 #include "qorvex/base/detail/regularised_beta.h"
+#include "qorvex/base/detail/shape_range.h"
 #include "qorvex/base/errors.h"
 
 namespace qorvex::inline QorvexGlobals {
@@ -15,19 +16,13 @@ namespace qorvex::inline QorvexGlobals {
 namespace {
 
 using detail::Evaluate;
+using detail::IsShapeOutOfRange;
 using detail::kBoostPolicy;
-
-// Between these the methods of the incomplete functions hold and end in sensible time.
-constexpr Extended kSmallestShape = 1e-18L;
-constexpr Extended kLargestShape = 1e15L;
-
-bool IsShape(Extended a) {
-  return a >= kSmallestShape && a <= kLargestShape;
-}
+using detail::kLargestShape;
 
 // Raises unless value is in [0, 1] and the shapes are in range; NaN passes.
 void RequireUnitAndShapes(Extended value, Extended a, Extended b) {
-  if (value < 0 || value > 1 || !IsShape(a) || !IsShape(b)) throw EInvalidOp();
+  if (value < 0 || value > 1 || IsShapeOutOfRange(a) || IsShapeOutOfRange(b)) throw EInvalidOp();
 }
 
 }  // namespace

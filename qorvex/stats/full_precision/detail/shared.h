@@ -10,6 +10,7 @@
 #include "qorvex/base/detail/normal_tail.h"
 #include "qorvex/base/detail/regularised_beta.h"
 #include "qorvex/base/detail/regularised_gamma.h"
+#include "qorvex/base/detail/shape_range.h"
 #include "qorvex/base/detail/tails.h"
 #include "qorvex/base/errors.h"
 
@@ -58,12 +59,9 @@ inline void RequireFinite(Extended parameter) {
   if (std::isinf(parameter)) throw EInvalidOp();
 }
 
-/// Raises EInvalidOp unless the shape is from 1e-18 to 1e15, where the methods hold and end in
-/// sensible time.
+/// Raises EInvalidOp for a shape beyond the range of the methods.
 inline void RequireShape(Extended shape) {
-  constexpr Extended smallest = 1e-18L;
-  constexpr Extended largest = 1e15L;
-  if (shape < smallest || shape > largest) throw EInvalidOp();
+  if (QorvexGlobals::detail::IsShapeOutOfRange(shape)) throw EInvalidOp();
 }
 
 /// The tails below the whole of a distribution, or at its lower end.
