@@ -1,0 +1,31 @@
+#pragma once
+
+/// @file
+/// Binomial variates by acceptance and rejection.
+///
+/// Voratas Kachitvichyanukul and Bruce W. Schmeiser (1988), "Binomial random variate generation",
+/// Communications of the ACM 31, 216-222: a triangle, two parallelograms and two exponential tails
+/// cover the probabilities. The last of the four Stirling corrections of the acceptance test are
+/// subtracted, where the article adds them by mistake.
+
+#include <cstdint>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
+#include "qorvex/random/uniform_source.h"
+
+namespace qorvex::inline QorvexRandom {
+
+/// @{
+/// The number of successes in n trials of probability p, for any n that an int64 holds. Where n
+/// times the smaller of p and 1-p is below 30, one uniform value is inverted from 0 upwards;
+/// otherwise an attempt takes two. The cost does not grow with n. EMathError rsInvalidValue unless
+/// n >= 0 and 0 <= p <= 1.
+[[nodiscard]] QORVEX_EXPORT Extended Random_Binomial2(std::int64_t n, Extended p,
+                                                      UniformSource source);
+[[nodiscard]] inline Extended Random_Binomial2(std::int64_t n, Extended p) {
+  return Random_Binomial2(n, p, ClassicRandom);
+}
+/// @}
+
+}  // namespace qorvex::inline QorvexRandom

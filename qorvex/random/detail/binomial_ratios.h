@@ -1,0 +1,48 @@
+#pragma once
+
+// Probabilities of a binomial distribution in relation to that of its mode.
+
+#include <cmath>
+
+#include "qorvex/base/element_types.h"
+
+namespace qorvex::inline QorvexRandom::detail {
+
+// What Stirling's formula lacks of ln Gamma(z).
+inline Extended StirlingCorrection(Extended z) {
+  const Extended z2 = z * z;
+  return (13860 - (462 - (132 - (99 - 140 / z2) / z2) / z2) / z2) / z / 166320;
+}
+
+struct BinomialRatios {
+  Extended n;
+  Extended p;
+  Extended q;
+  Extended mode;
+
+  // P(y) / P(mode), as the product of the quotients of neighbours.
+  Extended Quotient(Extended y) const {
+    const Extended odds = p / q;
+    const Extended a = odds * (n + 1);
+    Extended quotient = 1;
+    for (Extended i = mode + 1; i <= y; ++i) quotient *= a / i - odds;
+    for (Extended i = y + 1; i <= mode; ++i) quotient /= a / i - odds;
+    return quotient;
+  }
+
+  // Its logarithm by Stirling's formula, for y of at least 0 far from 0 and n. Logarithms of
+  // quotients near 1 are taken of what they exceed it by, since they are multiplied by counts.
+  Extended LogQuotient(Extended y) const {
+    const Extended above_mode = mode + 1;
+    const Extended above_y = y + 1;
+    const Extended failures_at_mode = n - mode + 1;
+    const Extended failures_at_y = n - y + 1;
+    return (mode + 0.5L) * std::log1p((mode - y) / above_y) +
+           (n - mode + 0.5L) * std::log1p((y - mode) / failures_at_y) +
+           (y - mode) * std::log(failures_at_y * p / (above_y * q)) +
+           StirlingCorrection(above_mode) + StirlingCorrection(failures_at_mode) -
+           StirlingCorrection(above_y) - StirlingCorrection(failures_at_y);
+  }
+};
+
+}  // namespace qorvex::inline QorvexRandom::detail

@@ -1,0 +1,91 @@
+#pragma once
+
+// The methods behind Random_Gamma, prepared once for any number of variates.
+
+#include <cmath>
+
+#include "qorvex/base/checked_math.h"
+#include "qorvex/base/elementary.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/random/detail/limits.h"
+#include "qorvex/random/exponential.h"
+#include "qorvex/random/normal.h"
+
+namespace qorvex::inline QorvexRandom::detail {
+
+// Marsaglia and Tsang (2000), for shapes above 1.
+class CubedNormal {
+ public:
+  explicit CubedNormal(Extended shape)
+      : d_(shape - 0.3333333333333333L), c_(1 / std::sqrt(9 * d_)) {}
+
+  Extended operator()(UniformSource source) const {
+    for (;;) {
+      const Extended x = Random_Normal(source);
+      const Extended root = 1 + c_ * x;
+      const Extended v = root * root * root;
+      if (!(v > 0)) continue;
+      const Extended u = source();
+      const Extended x_squared = x * x;
+      if (u < 1 - 0.0331L * (x_squared * x_squared) ||
+          CheckedLn(u) < 0.5L * x_squared + d_ * (1 - v + std::log(v)))
+        return d_ * v;
+    }
+  }
+
+ private:
+  Extended d_;
+  Extended c_;
+};
+
+// Ahrens and Dieter (1974), for shapes below 1: the density is covered by a power near 0 and an
+// exponential tail.
+class PowerAndTail {
+ public:
+  explicit PowerAndTail(Extended shape) : a_(1 - shape), reciprocal_shape_(1 / shape) {
+    if (shape < kVerySmall) RaiseMathError(rsShapeTooSmall);
+    power_share_ = a_ / (a_ + shape * std::exp(-a_));
+    zero_share_ = power_share_ * XtoY(kVerySmall / a_, shape);
+    d_ = a_ * std::log(a_);
+  }
+
+  Extended operator()(UniformSource source) const {
+    for (;;) {
+      Extended r = source();
+      while (r >= 1) r = source();
+      Extended x;
+      Extended w;
+      if (r > power_share_) {
+        x = a_ - std::log((1 - r) / (1 - power_share_));
+        w = a_ * std::log(x) - d_;
+      } else if (r > zero_share_) {
+        x = a_ * XtoY(r / power_share_, reciprocal_shape_);
+        w = x;
+      } else {
+        return 0;
+      }
+      r = source();
+      if (1 - r <= w && r > 0 && (r * (w + 1) >= 1 || -std::log(r) <= w)) continue;
+      return x;
+    }
+  }
+
+ private:
+  Extended a_;
+  Extended reciprocal_shape_;
+  Extended power_share_;
+  // Draws up to this one would give variates below the smallest.
+  Extended zero_share_;
+  Extended d_;
+};
+
+// Calls use with the sampler for the shape.
+template <class Use>
+auto WithGammaSampler(Extended shape, Use use) {
+  if (!(shape > 0)) RaiseMathError(rsInvalidShape);
+  if (shape > 1) return use(CubedNormal(shape));
+  if (shape < 1) return use(PowerAndTail(shape));
+  return use([](UniformSource source) { return Random_Exponential(source); });
+}
+
+}  // namespace qorvex::inline QorvexRandom::detail

@@ -1,0 +1,15 @@
+#include "qorvex/random/exponential.h"
+
+#include <cmath>
+
+#include "qorvex/random/detail/limits.h"
+
+namespace qorvex::inline QorvexRandom {
+
+Extended Random_Exponential(UniformSource source) {
+  Extended u = source();
+  while (!(u > detail::kVerySmall)) u = source();
+  return -std::log(u);
+}
+
+}  // namespace qorvex::inline QorvexRandom

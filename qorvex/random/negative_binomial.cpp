@@ -1,0 +1,51 @@
+#include "qorvex/random/negative_binomial.h"
+
+#include <cmath>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/random/detail/limits.h"
+#include "qorvex/random/detail/power_of_complement.h"
+
+namespace qorvex::inline QorvexRandom {
+
+namespace {
+
+// From 0 upwards.
+Extended Inverted(Extended sk, Extended p, Extended u) {
+  Extended probability = detail::PowerOfComplement(p, sk);
+  Extended g = sk;
+  Extended s = 0;
+  while (probability <= u) {
+    u -= probability;
+    ++s;
+    const Extended next = g * p * probability / s;
+    ++g;
+    // What rounding lost of the sum of all probabilities is not found in those beyond.
+    if (next < probability && u - next == u) break;
+    probability = next;
+  }
+  return s;
+}
+
+}  // namespace
+
+Extended Random_Neg_Binomial(Extended sk, Extended p, UniformSource source) {
+  if (!(sk > 0 && p > 0 && p < 1)) RaiseMathError(rsInvalidValue);
+  constexpr Extended most_steps = 1e9L;
+  const bool is_direct = p > 0.7L;
+  const Extended direct = is_direct ? std::trunc(sk) : 0;
+  const Extended rest = sk - direct;
+  if (direct > most_steps || rest * p / (1 - p) > most_steps) RaiseMathError(rsInvalidValue);
+
+  Extended x = 0;
+  for (Extended i = 0; i < direct; ++i) {
+    Extended r = source();
+    while (!(r > 0)) r = source();
+    x += std::trunc(std::log(r) / std::log(p));
+  }
+  // The starting probability would underflow.
+  if (std::log(detail::kVerySmall) / std::log1p(-p) < rest) RaiseMathError(rsInvalidValue);
+  return std::trunc(x + Inverted(rest, p, source()) + 0.5L);
+}
+
+}  // namespace qorvex::inline QorvexRandom

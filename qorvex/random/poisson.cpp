@@ -1,0 +1,68 @@
+#include "qorvex/random/poisson.h"
+
+#include <cmath>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/random/detail/poisson_densities.h"
+#include "qorvex/random/exponential.h"
+#include "qorvex/random/normal.h"
+
+namespace qorvex::inline QorvexRandom {
+
+namespace {
+
+// Case A.
+Extended CorrectedNormal(Extended mu, UniformSource source) {
+  const Extended deviation = std::sqrt(mu);
+  const Extended g = mu + deviation * Random_Normal(source);
+  if (g >= 0) {
+    const Extended k = std::floor(g);
+    if (k >= std::floor(mu - 1.1484L)) return k;
+  }
+  const detail::PoissonDensities densities(mu, deviation);
+  if (g >= 0) {
+    const Extended k = std::floor(g);
+    const Extended u = source();
+    const Extended below = mu - k;
+    if (6 * mu * mu * u >= below * below * below) return k;
+    const detail::PoissonAndNormal at = densities.At(k);
+    if (at.n_factor * (1 - u) <= at.p_factor * std::exp(at.p_exponent - at.n_exponent)) return k;
+  }
+  const Extended c = 0.1069L / mu;
+  for (;;) {
+    const Extended exponential = Random_Exponential(source);
+    const Extended u = 2 * source() - 1;
+    const Extended t = 1.8L + (u < 0 ? -exponential : exponential);
+    if (!(t > -0.6744L)) continue;
+    const Extended k = std::floor(mu + deviation * t);
+    const detail::PoissonAndNormal at = densities.At(k);
+    if (c * std::fabs(u) <= at.p_factor * std::exp(at.p_exponent + exponential) -
+                                at.n_factor * std::exp(at.n_exponent + exponential))
+      return k;
+  }
+}
+
+// Case B.
+Extended Inverted(Extended mu, UniformSource source) {
+  const Extended at_0 = std::exp(-mu);
+  for (;;) {
+    const Extended u = source();
+    if (u <= at_0) return 0;
+    Extended probability = at_0;
+    Extended sum = at_0;
+    for (int k = 1; k <= 35; ++k) {
+      probability *= mu / static_cast<Extended>(k);
+      sum += probability;
+      if (u <= sum) return static_cast<Extended>(k);
+    }
+  }
+}
+
+}  // namespace
+
+Extended Random_Poisson(const Extended& mu, UniformSource source) {
+  if (!(mu >= 0 && std::isfinite(mu))) RaiseMathError(rsInvalidValue);
+  return mu >= 10 ? CorrectedNormal(mu, source) : Inverted(mu, source);
+}
+
+}  // namespace qorvex::inline QorvexRandom

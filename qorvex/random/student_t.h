@@ -1,0 +1,28 @@
+#pragma once
+
+/// @file
+/// Student t variates by the ratio of uniforms.
+///
+/// A. J. Kinderman and J. F. Monahan (1980), "New methods for generating Student's t and gamma
+/// variables", Computing 25, 369-377, with a quick rejection that spares most powers. That test is
+/// exact from three degrees of freedom on. For one and two it also rejects points that belong to
+/// the distribution, so that its far tails are too light ...
+
+#include <cstdint>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
+#include "qorvex/random/uniform_source.h"
+
+namespace qorvex::inline QorvexRandom {
+
+/// @{
+/// A t variate. An attempt takes two uniform values. EMathError rsInvalidValue for fewer than one
+/// degree of freedom.
+[[nodiscard]] QORVEX_EXPORT Extended Random_T(std::int32_t df, UniformSource source);
+[[nodiscard]] inline Extended Random_T(std::int32_t df) {
+  return Random_T(df, ClassicRandom);
+}
+/// @}
+
+}  // namespace qorvex::inline QorvexRandom

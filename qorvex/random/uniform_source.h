@@ -1,0 +1,71 @@
+#pragma once
+
+/// @file
+/// Where variates get their uniform values from.
+///
+/// Every variate of the unit takes its uniform values from a source, which is its last parameter,
+/// and has a short form without it that draws from ClassicRandom. Nothing is kept between calls:
+/// every call computes what its parameters need, so equal sources give equal variates, and calls
+/// that draw from sources of their own may run on several threads. Whole numbers are held in
+/// extended values, too.
+///
+/// A source is expected to return independent values in [0, 1), with all 64 bits if the far tails
+/// matter: a source with a step of 2^-53 has no normal variate beyond 8.6, for instance. Values
+/// outside are not guarded against. A drawn 0 whose logarithm a method needs raises EZeroDivide, a
+/// negative value EInvalidOp; exceptions of the source pass through.
+
+#include <concepts>
+#include <cstddef>
+#include <memory>
+#include <type_traits>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
+
+namespace qorvex::inline QorvexRandom {
+
+/// A uniform source that is a plain function.
+using TQorRandomFunc = Extended (*)();
+
+/// A reference to a uniform source: a TQorRandomFunc, or any other callable without arguments whose
+/// result is a floating value, such as a lambda around an engine of the application's own.
+///
+/// The callable is not copied and must outlive the reference, which is meant for parameters: one
+/// that is written in the call lives long enough. A plain function must not be null. Drawing costs
+/// one indirect call.
+class UniformSource {
+ public:
+  UniformSource(TQorRandomFunc function) noexcept : target_{.function = function} {}
+
+  template <class Callable>
+  requires(!std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
+           !std::convertible_to<Callable, TQorRandomFunc> &&
+           std::floating_point<std::invoke_result_t<Callable&>>) UniformSource(Callable&& callable)
+  noexcept
+      : target_{.object =
+                    const_cast<void*>(static_cast<const volatile void*>(std::addressof(callable)))},
+        call_([](Target target) -> Extended {
+          return (*static_cast<std::remove_reference_t<Callable>*>(target.object))();
+        }) {}
+
+  UniformSource(std::nullptr_t) = delete;
+
+  /// The next uniform value.
+  Extended operator()() const { return call_ == nullptr ? target_.function() : call_(target_); }
+
+ private:
+  union Target {
+    TQorRandomFunc function;
+    void* object;
+  };
+
+  Target target_;
+  // Null for a plain function.
+  Extended (*call_)(Target) = nullptr;
+};
+
+/// The source of the short forms: the next value of Random(), of the one generator that
+/// SetRandSeed and Randomize seed and that threads must not use at the same time.
+[[nodiscard]] QORVEX_EXPORT Extended ClassicRandom() noexcept;
+
+}  // namespace qorvex::inline QorvexRandom

@@ -1,0 +1,90 @@
+#include "qorvex/random/von_mises.h"
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+
+#include "qorvex/base/elementary.h"
+#include "qorvex/base/errors.h"
+
+namespace qorvex::inline QorvexRandom {
+
+namespace {
+
+constexpr std::size_t kMostIntervals = 20;
+
+// The integral of exp(k cos x).
+Extended Integral(Extended k, Extended lo, Extended hi) {
+  struct Node {
+    Extended abscissa;
+    Extended weight;
+  };
+  static constexpr Node nodes[] = {{0.238619186083197L, 0.467913934572691L},
+                                   {0.661209386466265L, 0.360761573048139L},
+                                   {0.932469514203152L, 0.171324492379170L}};
+  const Extended mid = (lo + hi) / 2;
+  const Extended half = (hi - lo) / 2;
+  Extended sum = 0;
+  for (const Node& node : nodes) {
+    sum += node.weight * (std::exp(k * std::cos(mid + node.abscissa * half)) +
+                          std::exp(k * std::cos(mid - node.abscissa * half)));
+  }
+  return half * sum;
+}
+
+// The intervals of (0, pi) over each of which k cos x falls by at most 1.
+struct Intervals {
+  explicit Intervals(Extended k) {
+    if (!(k >= 0)) RaiseMathError(rsInvalidValue);
+    const Extended length = std::trunc(2 * k + 1);
+    if (length > kMostIntervals) RaiseMathError(rsInvalidValue);
+    count = k <= 0.5L ? 1 : static_cast<std::size_t>(length);
+    ends[count] = QorPi;
+    weights[0] = 1;
+    if (count == 1) return;
+    Extended sum = 0;
+    for (std::size_t j = 0; j < count; ++j) {
+      if (j + 1 < count) ends[j + 1] = QorArcCos(1 - static_cast<Extended>(j + 1) / k);
+      weights[j] = Integral(k, ends[j], ends[j + 1]);
+      sum += weights[j];
+    }
+    for (std::size_t j = 0; j < count; ++j) weights[j] /= sum;
+  }
+
+  std::size_t count;
+  std::array<Extended, kMostIntervals + 1> ends{};
+  std::array<Extended, kMostIntervals> weights;
+};
+
+// True with probability exp(-x) for x in [0, 1]: the length of a descending run of uniform values
+// that starts below x is even.
+bool IsAccepted(Extended x, UniformSource source) {
+  bool accepted = true;
+  for (Extended u = source(); u <= x; u = source()) {
+    x = u;
+    accepted = !accepted;
+  }
+  return accepted;
+}
+
+}  // namespace
+
+Extended Random_von_Mises(Extended k, UniformSource source) {
+  const Intervals intervals(k);
+  Extended u = source();
+  std::size_t j = 0;
+  u -= intervals.weights[0];
+  while (!(u < 0) && j + 1 < intervals.count) u -= intervals.weights[++j];
+  // When rounding leaves a remainder, the place is the end of the last interval, whose weight is 0
+  // where 2k is whole.
+  Extended place = u < 0 ? -u / intervals.weights[j] : 0;
+  for (;;) {
+    const Extended lo = intervals.ends[j];
+    const Extended angle = lo + place * (intervals.ends[j + 1] - lo);
+    if (IsAccepted(k - static_cast<Extended>(j) - k * std::cos(angle), source))
+      return source() < 0.5L ? -angle : angle;
+    place = source();
+  }
+}
+
+}  // namespace qorvex::inline QorvexRandom
