@@ -11,15 +11,23 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
+// The draw from which on the candidate would be beyond the largest value.
+Extended Limit(Extended hi, Extended lo) {
+  if (lo > 1) return 1;
+  // The power is seldom needed: below 2^-64 it leaves 1.
+  if (lo * std::ilogb(lo * detail::kVeryLarge / hi) > 64) return 1;
+  return 1 / (1 + XtoY(hi / (lo * detail::kVeryLarge), lo));
+}
+
 // A variate for a first shape that is not the smaller one.
 Extended OrderedBeta(Extended hi, Extended lo, UniformSource source) {
   const Extended ratio = hi / lo;
   const Extended sum = lo + hi;
-  const bool has_pole = lo <= 1;
-  const Extended shape = has_pole ? lo : std::sqrt((2 * lo * hi - sum) / (sum - 2));
-  // From this draw on, the candidate would be beyond the largest value.
-  const Extended limit = has_pole ? 1 / (1 + XtoY(hi / (lo * detail::kVeryLarge), lo)) : 1;
-  if (!std::isfinite(ratio) || !std::isfinite(shape)) RaiseMathError(rsInvalidValue);
+  const Extended shape = lo <= 1 ? lo : std::sqrt((2 * lo * hi - sum) / (sum - 2));
+  const Extended limit = Limit(hi, lo);
+  // Rounding would decide which candidates of larger shapes are accepted.
+  constexpr Extended largest_sum = 1e18L;
+  if (!(sum <= largest_sum && std::isfinite(ratio))) RaiseMathError(rsInvalidValue);
   for (;;) {
     const Extended u1 = source();
     const Extended u2 = source();

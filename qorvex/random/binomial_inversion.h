@@ -18,7 +18,8 @@ namespace qorvex::inline QorvexRandom {
 /// taken, so the variate depends on it alone; the search takes about sqrt(n p (1-p)) steps.
 /// Probabilities are summed in 64-bit doubles: a value that rounding leaves over when both ends are
 /// reached gives the mode, which happens with probability 1e-16 n or so. EMathError rsInvalidValue
-/// unless n >= 0 and 0 <= p <= 1. Random_Binomial2 takes larger n, and its cost does not grow.
+/// unless n >= 0 and 0 <= p <= 1. Stuck on none. Random_Binomial2 takes larger n, and its cost does
+/// not grow.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Binomial1(std::int32_t n, Extended p,
                                                       UniformSource source);
 [[nodiscard]] inline Extended Random_Binomial1(std::int32_t n, Extended p) {

@@ -13,9 +13,7 @@ namespace qorvex::inline QorvexRandom {
 /// A standard Cauchy variate: the quotient of the coordinates of a point in the unit disc (A. J.
 /// Kinderman and J. F. Monahan 1977, "Computer generation of random variables using the ratio of
 /// uniform deviates", ACM Transactions on Mathematical Software 3, 257-260). An attempt takes two
-/// uniform values; 1.27 attempts are needed on average. No source that keeps returning one value
-/// ever gives a variate, unless the value is strictly between 0.15 and 0.85 and is not 0.5: the
-/// call does not return.
+/// uniform values; 1.27 attempts are needed on average. Stuck on 0, 1/2, 1 - 2^-64 and NaN.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Cauchy(UniformSource source);
 [[nodiscard]] inline Extended Random_Cauchy() {
   return Random_Cauchy(ClassicRandom);

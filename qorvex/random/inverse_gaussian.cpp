@@ -19,8 +19,8 @@ void RequireUsable(Extended x) {
 }  // namespace
 
 Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
-  // Beyond, nearly every attempt fails, and rounding decides the others.
-  constexpr Extended largest_parameter = 1e16L;
+  // Attempts succeed once in the root of the larger parameter.
+  constexpr Extended largest_parameter = 1e15L;
   if (!(b >= 0 && h > 0)) RaiseMathError(rsInvalidValue);
   if (b > 0.25L * h * std::sqrt(detail::kVeryLarge)) RaiseMathError(rsInvalidValue);
   if (std::max(h, b) > largest_parameter) RaiseMathError(rsInvalidValue);

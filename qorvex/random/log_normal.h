@@ -13,8 +13,8 @@ namespace qorvex::inline QorvexRandom {
 /// The exponential of a normal variate of mean ln(mean) and standard deviation
 /// sqrt(ln(std_dev^2)). So `mean` is the median of the variate, not its mean, and std_dev is no
 /// standard deviation either: for a logarithm of mean m and standard deviation s, pass exp(m) and
-/// exp(s^2 / 2). A std_dev of 1 gives the mean itself. One normal variate is drawn, with its
-/// sources.
+/// exp(s^2 / 2). A std_dev of 1 gives the mean itself, and so does an infinite mean. One normal
+/// variate is drawn. Stuck on 0, 1 - 2^-64 and NaN.
 ///
 /// EMathError: rsInvalidMean unless mean > 0; rsInvalidStdDev unless std_dev > 0. EOverflow when
 /// std_dev^2 or the variate is beyond the extended range; EInvalidOp for std_dev < 1.

@@ -23,7 +23,8 @@ namespace qorvex::inline QorvexRandom {
 /// up to the failing row, nothing is drawn and `variate` stays as it was.
 ///
 /// EMathError: rsVectorEmpty for an empty mean; rsVectorTooSmall for a covariance with fewer than
-/// n(n+1)/2 elements. After an error, the source's own included, nothing has changed. O(n^3).
+/// n(n+1)/2 elements. After an error, the source's own included, nothing has changed. O(n^3). Stuck
+/// on 0, 1 - 2^-64 and NaN.
 QORVEX_EXPORT void Random_MVNorm(const TQorFloatVector& mean, const TQorFloatVector& covariance,
                                  TQorFloatVector& factor, TQorFloatVector& variate,
                                  std::int32_t& error, UniformSource source);

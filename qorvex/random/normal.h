@@ -12,8 +12,7 @@
 /// No check is made of the mean and the standard deviation: a negative deviation mirrors the
 /// variate, 0 gives the mean, and NaN and infinities go through the arithmetic. EMathError
 /// rsDivideByZero when the accepted divisor is below 5E-324, which no source of 64 bits can bring
-/// about. Sources that keep returning 0, their largest value or NaN are never accepted: the call
-/// does not return.
+/// about. Stuck on 0, 1 - 2^-64 and NaN.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"

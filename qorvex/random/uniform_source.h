@@ -11,8 +11,12 @@
 ///
 /// A source is expected to return independent values in [0, 1), with all 64 bits if the far tails
 /// matter: a source with a step of 2^-53 has no normal variate beyond 8.6, for instance. Values
-/// outside are not guarded against. A drawn 0 whose logarithm a method needs raises EZeroDivide, a
-/// negative value EInvalidOp; exceptions of the source pass through.
+/// outside are not guarded against. A drawn 0 whose logarithm the normal or the gamma variate needs
+/// raises EZeroDivide, a negative value EInvalidOp; exceptions of the source pass through.
+///
+/// Rejection draws again, so a call does not return while the source keeps returning one value that
+/// is never accepted. Each routine names those of 0, 1/2, 1 - 2^-64 and NaN on which it is "stuck".
+/// With a source that moves, every call ends, whatever the parameters.
 
 #include <concepts>
 #include <cstddef>
@@ -27,6 +31,22 @@ namespace qorvex::inline QorvexRandom {
 /// A uniform source that is a plain function.
 using TQorRandomFunc = Extended (*)();
 
+/// @cond internal
+class UniformSource;
+
+// A function, or a pointer to one.
+template <class Callable>
+inline constexpr bool kIsFunction =
+    std::is_function_v<std::remove_pointer_t<std::remove_cvref_t<Callable>>>;
+
+// A source that is no TQorRandomFunc.
+template <class Callable>
+concept OtherSource =
+    !std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
+    !(kIsFunction<Callable> && std::convertible_to<Callable, TQorRandomFunc>)&&  //
+    std::floating_point<std::invoke_result_t<Callable&>>;
+/// @endcond
+
 /// A reference to a uniform source: a TQorRandomFunc, or any other callable without arguments whose
 /// result is a floating value, such as a lambda around an engine of the application's own.
 ///
@@ -35,20 +55,29 @@ using TQorRandomFunc = Extended (*)();
 /// one indirect call.
 class UniformSource {
  public:
+  /// @{
+  /// Refers to a source.
   UniformSource(TQorRandomFunc function) noexcept : target_{.function = function} {}
 
-  template <class Callable>
-  requires(!std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
-           !std::convertible_to<Callable, TQorRandomFunc> &&
-           std::floating_point<std::invoke_result_t<Callable&>>) UniformSource(Callable&& callable)
-  noexcept
-      : target_{.object =
-                    const_cast<void*>(static_cast<const volatile void*>(std::addressof(callable)))},
-        call_([](Target target) -> Extended {
-          return (*static_cast<std::remove_reference_t<Callable>*>(target.object))();
-        }) {}
+  template <OtherSource Callable>
+  UniformSource(Callable&& callable) noexcept {
+    if constexpr (kIsFunction<Callable>) {
+      using Function = std::decay_t<Callable>;
+      target_.other_function = reinterpret_cast<void (*)()>(static_cast<Function>(callable));
+      call_ = [](Target target) -> Extended {
+        return reinterpret_cast<Function>(target.other_function)();
+      };
+    } else {
+      target_.object =
+          const_cast<void*>(static_cast<const volatile void*>(std::addressof(callable)));
+      call_ = [](Target target) -> Extended {
+        return (*static_cast<std::remove_reference_t<Callable>*>(target.object))();
+      };
+    }
+  }
 
   UniformSource(std::nullptr_t) = delete;
+  /// @}
 
   /// The next uniform value.
   Extended operator()() const { return call_ == nullptr ? target_.function() : call_(target_); }
@@ -56,6 +85,7 @@ class UniformSource {
  private:
   union Target {
     TQorRandomFunc function;
+    void (*other_function)();
     void* object;
   };
 

@@ -28,12 +28,17 @@ class CubedNormal {
       const Extended u = source();
       const Extended x_squared = x * x;
       if (u < 1 - 0.0331L * (x_squared * x_squared) ||
-          CheckedLn(u) < 0.5L * x_squared + d_ * (1 - v + std::log(v)))
+          CheckedLn(u) < 0.5L * x_squared + d_ * LogExcess(v))
         return d_ * v;
     }
   }
 
  private:
+  // 1 - v + ln v. Large shapes multiply what is left of it near 1.
+  static Extended LogExcess(Extended v) {
+    return v > 0.5L ? std::log1p(v - 1) - (v - 1) : 1 - v + std::log(v);
+  }
+
   Extended d_;
   Extended c_;
 };
@@ -42,10 +47,12 @@ class CubedNormal {
 // exponential tail.
 class PowerAndTail {
  public:
-  explicit PowerAndTail(Extended shape) : a_(1 - shape), reciprocal_shape_(1 / shape) {
+  explicit PowerAndTail(Extended shape) : shape_(shape), a_(1 - shape) {
     if (shape < kVerySmall) RaiseMathError(rsShapeTooSmall);
+    reciprocal_shape_ = 1 / shape;
     power_share_ = a_ / (a_ + shape * std::exp(-a_));
-    zero_share_ = power_share_ * XtoY(kVerySmall / a_, shape);
+    // kVerySmall / a is below 2^-1009.
+    zero_bound_ = std::ldexp(Extended{1}, -static_cast<int>(1009 * shape));
     d_ = a_ * std::log(a_);
   }
 
@@ -58,7 +65,7 @@ class PowerAndTail {
       if (r > power_share_) {
         x = a_ - std::log((1 - r) / (1 - power_share_));
         w = a_ * std::log(x) - d_;
-      } else if (r > zero_share_) {
+      } else if (r > zero_bound_ || r > power_share_ * XtoY(kVerySmall / a_, shape_)) {
         x = a_ * XtoY(r / power_share_, reciprocal_shape_);
         w = x;
       } else {
@@ -71,11 +78,13 @@ class PowerAndTail {
   }
 
  private:
+  Extended shape_;
   Extended a_;
   Extended reciprocal_shape_;
   Extended power_share_;
-  // Draws up to this one would give variates below the smallest.
-  Extended zero_share_;
+  // Only draws up to this one can give a variate below the smallest, which becomes 0: the power
+  // that decides it is seldom needed.
+  Extended zero_bound_;
   Extended d_;
 };
 

@@ -6,10 +6,10 @@
 
 namespace qorvex::inline QorvexRandom::detail {
 
-// (1 - p)^n. 1 - p has lost the digits of a small p, and a large n would show it.
+// (1 - p)^n. For small whole exponents XtoY multiplies; for others 1 - p would have lost the digits
+// of a small p, and a large n would show it.
 inline Extended PowerOfComplement(Extended p, Extended n) {
-  constexpr Extended small = 0x1p-32L;
-  return p < small ? std::exp(n * std::log1p(-p)) : XtoY(1 - p, n);
+  return n <= 8 && n == std::trunc(n) ? XtoY(1 - p, n) : std::exp(n * std::log1p(-p));
 }
 
 }  // namespace qorvex::inline QorvexRandom::detail

@@ -1,0 +1,197 @@
+// Random variates beside the standard library's distributions of long double and GSL's of double,
+// all of which draw from the same generator. The standard library's objects are prepared once for
+// all draws; our routines and GSL's prepare each draw anew.
+
+#include <cstdint>
+#include <gsl/gsl_randist.h>
+#include <gsl/gsl_rng.h>
+#include <limits>
+#include <memory>
+#include <random>
+#include <string>
+
+#include "qorvex/random/QorvexRandom.h"
+#include "support/compare.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+// Marsaglia's xorshift with Vigna's multiplier: so quick that the distributions are what is timed.
+class Generator {
+ public:
+  using result_type = std::uint64_t;
+  static constexpr result_type min() { return 0; }
+  static constexpr result_type max() { return std::numeric_limits<result_type>::max(); }
+  result_type operator()() {
+    state_ ^= state_ >> 12;
+    state_ ^= state_ << 25;
+    state_ ^= state_ >> 27;
+    return state_ * 2685821657736338717U;
+  }
+
+ private:
+  std::uint64_t state_ = 88172645463325252U;
+};
+
+Generator generator;
+
+Extended Uniform() {
+  const auto centred = static_cast<std::int64_t>(generator() ^ std::uint64_t{1} << 63);
+  return static_cast<Extended>(centred) * 0x1p-64L + 0.5L;
+}
+
+// The generator as one of GSL's.
+const gsl_rng* GslGenerator() {
+  static const gsl_rng_type type = {
+      "xorshift",
+      std::numeric_limits<std::uint32_t>::max(),
+      0,
+      0,
+      [](void*, unsigned long) {},
+      [](void*) -> unsigned long { return generator() >> 32; },
+      [](void*) -> double { return static_cast<double>(generator() >> 11) * 0x1p-53; }};
+  static gsl_rng instance{&type, nullptr};
+  return &instance;
+}
+
+// Registers draw(), called a thousand times an iteration.
+template <class Draw>
+void Register(const std::string& variate, const std::string& parameters, const std::string& who,
+              Draw draw) {
+  constexpr int kDraws = 1000;
+  const std::string name = variate + "/" + parameters + "/" + who + "/" + std::to_string(kDraws);
+  benchmark::RegisterBenchmark(name.c_str(), [draw](benchmark::State& state) mutable {
+    for (auto _ : state) {
+      for (int i = 0; i < kDraws; ++i) benchmark::DoNotOptimize(draw());
+    }
+    state.SetItemsProcessed(state.iterations() * kDraws);
+  });
+}
+
+// Registers fill(span), with a thousand variates an iteration.
+template <class Fill>
+void RegisterFill(const std::string& variate, const std::string& parameters, Fill fill) {
+  constexpr std::size_t kDraws = 1000;
+  const std::string name = variate + "/" + parameters + "/filler/" + std::to_string(kDraws);
+  benchmark::RegisterBenchmark(name.c_str(), [fill](benchmark::State& state) {
+    auto variates = TQorFloatVector::ForOverwrite(kDraws);
+    for (auto _ : state) {
+      fill(variates);
+      benchmark::ClobberMemory();
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kDraws));
+  });
+}
+
+template <class Distribution>
+void RegisterStd(const std::string& variate, const std::string& parameters,
+                 Distribution distribution) {
+  Register(variate, parameters, "std",
+           [distribution]() mutable { return distribution(generator); });
+}
+
+// What depends on the method, with the parameters of each routine in the order of its own.
+[[maybe_unused]] const bool registered = [] {
+  const gsl_rng* const gsl = GslGenerator();
+
+  Register("Uniform", "-", "ours", Uniform);
+  RegisterStd("Uniform", "-", std::uniform_real_distribution<Extended>());
+  Register("Uniform", "-", "GSL", [gsl] { return gsl_rng_uniform(gsl); });
+  RegisterFill("Uniform", "-", [](TQorFloatVector& v) { FillUniform(v, Uniform); });
+
+  Register("Random_Normal", "-", "ours", [] { return Random_Normal(Uniform); });
+  Register("Random_Normal", "-", "ours, from a lambda",
+           [] { return Random_Normal([] { return Uniform(); }); });
+  RegisterStd("Random_Normal", "-", std::normal_distribution<Extended>());
+  Register("Random_Normal", "-", "GSL", [gsl] { return gsl_ran_gaussian_ratio_method(gsl, 1); });
+  RegisterFill("Random_Normal", "-", [](TQorFloatVector& v) { FillNormal(v, Uniform); });
+
+  Register("Random_Exponential", "-", "ours", [] { return Random_Exponential(Uniform); });
+  RegisterStd("Random_Exponential", "-", std::exponential_distribution<Extended>());
+  Register("Random_Exponential", "-", "GSL", [gsl] { return gsl_ran_exponential(gsl, 1); });
+  RegisterFill("Random_Exponential", "-", [](TQorFloatVector& v) { FillExponential(v, Uniform); });
+
+  for (const double shape : {0.5, 3.7, 50.0}) {
+    const std::string parameters = std::to_string(shape).substr(0, 4);
+    Register("Random_Gamma", parameters, "ours", [shape] { return Random_Gamma(shape, Uniform); });
+    RegisterStd("Random_Gamma", parameters, std::gamma_distribution<Extended>(shape));
+    Register("Random_Gamma", parameters, "GSL",
+             [gsl, shape] { return gsl_ran_gamma(gsl, shape, 1); });
+    RegisterFill("Random_Gamma", parameters,
+                 [shape](TQorFloatVector& v) { FillGamma(v, shape, Uniform); });
+  }
+
+  Register("Random_ChiSq", "7", "ours", [] { return Random_ChiSq(7, Uniform); });
+  RegisterStd("Random_ChiSq", "7", std::chi_squared_distribution<Extended>(7));
+  Register("Random_ChiSq", "7", "GSL", [gsl] { return gsl_ran_chisq(gsl, 7); });
+
+  Register("Random_Weibull", "1.5", "ours", [] { return Random_Weibull(1.5L, Uniform); });
+  RegisterStd("Random_Weibull", "1.5", std::weibull_distribution<Extended>(1.5L));
+  Register("Random_Weibull", "1.5", "GSL", [gsl] { return gsl_ran_weibull(gsl, 1, 1.5); });
+
+  Register("Random_Cauchy", "-", "ours", [] { return Random_Cauchy(Uniform); });
+  RegisterStd("Random_Cauchy", "-", std::cauchy_distribution<Extended>());
+  Register("Random_Cauchy", "-", "GSL", [gsl] { return gsl_ran_cauchy(gsl, 1); });
+
+  Register("Random_T", "5", "ours", [] { return Random_T(5, Uniform); });
+  RegisterStd("Random_T", "5", std::student_t_distribution<Extended>(5));
+  Register("Random_T", "5", "GSL", [gsl] { return gsl_ran_tdist(gsl, 5); });
+
+  Register("Random_LogNormal", "2, 1.5", "ours", [] { return Random_LogNormal(2, 1.5L, Uniform); });
+  RegisterStd("Random_LogNormal", "2, 1.5", std::lognormal_distribution<Extended>(0.69L, 0.9L));
+  Register("Random_LogNormal", "2, 1.5", "GSL",
+           [gsl] { return gsl_ran_lognormal(gsl, 0.69, 0.9); });
+
+  const auto beta = [gsl](const std::string& parameters, double a, double b) {
+    Register("Random_Beta", parameters, "ours", [a, b] { return Random_Beta(a, b, Uniform); });
+    Register("Random_Beta", parameters, "GSL", [gsl, a, b] { return gsl_ran_beta(gsl, a, b); });
+  };
+  beta("0.5, 0.7", 0.5, 0.7);
+  beta("2.5, 4", 2.5, 4);
+
+  // Neither peer has these.
+  Register("Random_Inv_Gauss", "2, 0.5", "ours", [] { return Random_Inv_Gauss(2, 0.5L, Uniform); });
+  Register("Random_von_Mises", "0.4", "ours", [] { return Random_von_Mises(0.4L, Uniform); });
+  Register("Random_von_Mises", "2", "ours", [] { return Random_von_Mises(2, Uniform); });
+
+  const auto binomial = [gsl](const std::string& parameters, std::int32_t n, double p) {
+    Register("Random_Binomial1", parameters, "ours",
+             [n, p] { return Random_Binomial1(n, p, Uniform); });
+    Register("Random_Binomial2", parameters, "ours",
+             [n, p] { return Random_Binomial2(n, p, Uniform); });
+    for (const char* const variate : {"Random_Binomial1", "Random_Binomial2"}) {
+      RegisterStd(variate, parameters, std::binomial_distribution<std::int32_t>(n, p));
+      Register(variate, parameters, "GSL",
+               [gsl, n, p] { return gsl_ran_binomial(gsl, p, static_cast<unsigned>(n)); });
+    }
+  };
+  binomial("20, 0.3", 20, 0.3);
+  binomial("100, 0.4", 100, 0.4);
+  binomial("1000000, 0.25", 1'000'000, 0.25);
+
+  Register("Random_Neg_Binomial", "3.5, 0.4", "ours",
+           [] { return Random_Neg_Binomial(3.5L, 0.4L, Uniform); });
+  Register("Random_Neg_Binomial", "3.5, 0.4", "GSL",
+           [gsl] { return gsl_ran_negative_binomial(gsl, 0.6, 3.5); });
+
+  for (const double mu : {5.0, 50.0, 1e6}) {
+    const std::string parameters = std::to_string(static_cast<int>(mu));
+    Register("Random_Poisson", parameters, "ours", [mu] { return Random_Poisson(mu, Uniform); });
+    RegisterStd("Random_Poisson", parameters, std::poisson_distribution<std::int32_t>(mu));
+    Register("Random_Poisson", parameters, "GSL", [gsl, mu] { return gsl_ran_poisson(gsl, mu); });
+  }
+
+  const auto multivariate = std::make_shared<std::pair<TQorFloatVector, TQorFloatVector>>(
+      TQorFloatVector{1, 2, 3}, TQorFloatVector{4, 1, 3, 0.5L, 1, 2});
+  Register("Random_MVNorm", "3 components", "ours",
+           [multivariate, factor = TQorFloatVector(), variate = TQorFloatVector(),
+            error = std::int32_t()]() mutable {
+             Random_MVNorm(multivariate->first, multivariate->second, factor, variate, error,
+                           Uniform);
+             return variate[0];
+           });
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
