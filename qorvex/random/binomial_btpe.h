@@ -5,8 +5,8 @@
 ///
 /// Voratas Kachitvichyanukul and Bruce W. Schmeiser (1988), "Binomial random variate generation",
 /// Communications of the ACM 31, 216-222: a triangle, two parallelograms and two exponential tails
-/// cover the probabilities. The last of the four Stirling corrections of the acceptance test are
-/// subtracted, where the article adds them by mistake.
+/// cover the probabilities. Of the four Stirling corrections in the acceptance test the last
+/// two are subtracted, where the article adds them by mistake.
 
 #include <cstdint>
 

@@ -32,8 +32,8 @@ Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
   if (!passes(down)) return mode;
   Extended low = mode;
   Extended high = mode;
-  // Probabilities that have become 0 stay so.
-  while ((low > 0 && down > 0) || (high < trials && up > 0)) {
+  for (double before = 2; remainder != before;) {
+    before = remainder;
     if (low > 0) {
       --low;
       down = static_cast<double>(down * (low + 1) / ((trials - low) * odds));
@@ -45,6 +45,7 @@ Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
       if (!passes(up)) return high;
     }
   }
+  // Either both ends are reached, or what is beyond is too small for the remainder.
   return mode;
 }
 

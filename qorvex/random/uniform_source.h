@@ -10,7 +10,7 @@
 /// extended values, too.
 ///
 /// A source is expected to return independent values in [0, 1), with all 64 bits if the far tails
-/// matter: a source with a step of 2^-53 has no normal variate beyond 8.6, for instance. Values
+/// matter: a source with a step of 2^-53 has no normal variate beyond 12.1, for instance. Values
 /// outside are not guarded against. A drawn 0 whose logarithm the normal or the gamma variate needs
 /// raises EZeroDivide, a negative value EInvalidOp; exceptions of the source pass through.
 ///
