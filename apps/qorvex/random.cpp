@@ -109,11 +109,12 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
   }
   try {
     PrintVariates(arguments);
-  } catch (const EOverflow& error) {
-    throw Refusal(variate.name, error, "");
   } catch (const EMathError& error) {
-    const std::string limits = variate.limits;
-    throw Refusal(variate.name, error, limits.empty() ? "" : ": " + limits);
+    // The lines in front of the failing one go out before the message.
+    WriteResult("");
+    const bool limited =
+        *variate.limits != '\0' && dynamic_cast<const EOverflow*>(&error) == nullptr;
+    throw Refusal(variate.name, error, limited ? std::string(": ") + variate.limits : "");
   }
 }
 
