@@ -19,7 +19,9 @@ const char* const kTextHelp = R"(
 const char* const kExitStatusHelp = R"(
 
 Exit status:
-  0 success; 2 wrong usage or bad input; 1 anything else. Nothing is printed on
+  0 success; 2 wrong usage or bad input; 1 anything else.)";
+
+const char* const kNothingPrintedHelp = R"( Nothing is printed on
   standard output unless all input is good.)";
 
 namespace {

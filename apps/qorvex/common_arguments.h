@@ -13,6 +13,8 @@ namespace qorvex::cli {
 extern const char* const kTextHelp;
 /// What a --help says about the exit status.
 extern const char* const kExitStatusHelp;
+/// What follows it where a result is whole before any of it is printed.
+extern const char* const kNothingPrintedHelp;
 
 /// Adds a file to read. Like all variables here, it must outlive the parsing.
 void AddFile(CLI::App& command, std::string& file, const std::string& name,

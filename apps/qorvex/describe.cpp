@@ -160,7 +160,7 @@ void AddDescribe(CLI::App& program) {
   command.add_flag("--json", arguments->json,
                    "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
                    "null for those that do not exist");
-  command.footer(TableHelp() + kExamples + kExitStatusHelp);
+  command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Describe(*arguments); });
 }
 

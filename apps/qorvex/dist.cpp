@@ -13,7 +13,7 @@
 
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/distributions.h"
-#include "apps/qorvex/input_error.h"
+#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
@@ -21,10 +21,6 @@
 namespace qorvex::cli {
 
 namespace {
-
-constexpr Extended kLargestCount = std::numeric_limits<std::uint32_t>::max();
-// A table is in memory before any of it is printed.
-constexpr Extended kMostPoints = 1e7L;
 
 constexpr const char* kNumbersHelp = R"(Numbers:
   Finite, with a decimal point and an optional exponent, read to 80 bits.
@@ -45,62 +41,10 @@ struct DistArguments {
   bool prescribed = false;
 };
 
-// What is wrong with a number of the given kind; nothing if it is fine.
-const char* WhatIsWrong(Extended value, NumberKind kind) {
-  const auto is_whole = [value](Extended largest) {
-    return value >= 0 && value <= largest && value == std::floor(value);
-  };
-  if (!std::isfinite(value)) return "is not a finite number";
-  switch (kind) {
-    case NumberKind::kReal:
-      break;
-    case NumberKind::kPositive:
-      return value > 0 ? nullptr : "is not greater than 0";
-    case NumberKind::kShape:
-      return value >= 1e-17L && value <= 1e15L ? nullptr : "is not from 1e-17 to 1e15";
-    case NumberKind::kShare:
-      return value >= 0 && value <= 1 ? nullptr : "is not from 0 to 1";
-    case NumberKind::kProbability:
-      return value > 0 && value < 1 ? nullptr : "is not between 0 and 1";
-    case NumberKind::kCount:
-      return is_whole(kLargestCount) ? nullptr : "is not a whole number from 0 to 4294967295";
-    case NumberKind::kSteps:
-      return is_whole(kMostPoints - 1) ? nullptr : "is not a whole number from 0 to 9999999";
-  }
-  return nullptr;
-}
-
-Extended ParseNumber(const std::string& option, const std::string& text, NumberKind kind) {
-  Extended value = 0;
-  try {
-    value = Str2Float(text);
-  } catch (const EConvertError& error) {
-    throw CLI::ValidationError(option, OnOneLine(error.what()));
-  }
-  const char* const wrong = WhatIsWrong(value, kind);
-  if (wrong == nullptr) return value;
-  throw CLI::ValidationError(option, Excerpt(text) + ' ' + wrong);
-}
-
-// Set is called with the number when the option is given.
-template <class Set>
-CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::string& description,
-                       NumberKind kind, Set set) {
-  const bool is_whole = kind == NumberKind::kCount || kind == NumberKind::kSteps;
-  return *command
-              .add_option_function<std::string>(
-                  option,
-                  [option, kind, set](const std::string& text) {
-                    set(ParseNumber(option, text, kind));
-                  },
-                  description)
-              ->type_name(is_whole ? "N" : "X");
-}
-
 using SharedArguments = std::shared_ptr<DistArguments>;
 
 void AddNumberInOrder(CLI::App& command, const SharedArguments& arguments,
-                      const DistributionParameter& parameter) {
+                      const NumberParameter& parameter) {
   const std::size_t index = arguments->numbers.size();
   arguments->numbers.push_back(parameter.standard.value_or(0));
   CLI::Option& option =
@@ -232,7 +176,7 @@ Extended Density(const Distribution& distribution, const DistArguments& argument
 std::string Text(Extended value, const DistArguments& arguments) {
   // The arguments are finite: something on the way was not.
   if (std::isnan(value)) throw EOverflow();
-  return arguments.decimals ? Float2EStr(value, *arguments.decimals) : Float2Str(value);
+  return FigureText(value, arguments.decimals);
 }
 
 template <Extended (*compute)(const Distribution&, const DistArguments&)>
@@ -300,9 +244,9 @@ constexpr Question kQuestions[] = {
 
 void RequireWholeNumbers(const Distribution& distribution, const DistArguments& arguments) {
   for (std::size_t i = 0; i < distribution.parameters.size(); ++i) {
-    const DistributionParameter& parameter = distribution.parameters[i];
+    const NumberParameter& parameter = distribution.parameters[i];
     const Extended value = arguments.numbers[i];
-    if (!parameter.whole_when_prescribed) continue;
+    if (parameter.kind != NumberKind::kDegreesOfFreedom) continue;
     if (const char* const wrong = WhatIsWrong(value, NumberKind::kCount)) {
       throw CLI::ValidationError(parameter.option,
                                  Float2Str(value) + ' ' + wrong + ", as --prescribed needs");
@@ -324,14 +268,10 @@ bool AnswersInFullPrecision(const Distribution& distribution, const Question& qu
 
 [[noreturn]] void RefuseAnswer(const EMathError& error, const Distribution& distribution,
                                const Question& question, const DistArguments& arguments) {
-  const bool overflow = dynamic_cast<const EOverflow*>(&error) != nullptr;
-  std::string what =
-      overflow ? "the figure, or one on the way to it, is beyond the range of extended precision"
-               : error.what();
-  if (arguments.prescribed && AnswersInFullPrecision(distribution, question, arguments))
-    what += "; without --prescribed there is no such limit";
-  throw InputError(overflow ? InputFault::kOutOfRange : InputFault::kNoResult,
-                   std::string(distribution.name) + ' ' + question.name, what);
+  const bool helps =
+      arguments.prescribed && AnswersInFullPrecision(distribution, question, arguments);
+  throw Refusal(std::string(distribution.name) + ' ' + question.name, error,
+                helps ? "; without --prescribed there is no such limit" : "");
 }
 
 void Run(const Distribution& distribution, const Question& question,
@@ -351,14 +291,14 @@ void Run(const Distribution& distribution, const Question& question,
 void AddQuestion(CLI::App& family, const Distribution& distribution, const Question& question) {
   CLI::App& command = *family.add_subcommand(question.name, question.summary);
   const auto arguments = std::make_shared<DistArguments>();
-  for (const DistributionParameter& parameter : distribution.parameters)
+  for (const NumberParameter& parameter : distribution.parameters)
     AddNumberInOrder(command, arguments, parameter);
   command.add_flag("--prescribed", arguments->prescribed,
                    "Compute with the classic routines of QorvexStatistics");
   question.add_options(command, distribution, arguments);
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  command.footer(std::string(kNumbersHelp) + kExitStatusHelp);
+  command.footer(std::string(kNumbersHelp) + kExitStatusHelp + kNothingPrintedHelp);
   command.callback(
       [&distribution, &question, arguments] { Run(distribution, question, *arguments); });
 }

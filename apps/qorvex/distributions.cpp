@@ -78,18 +78,14 @@ Extended ScaledIncompleteGamma(Arguments arguments) {
   return IncompleteGamma(arguments[0], arguments[2] / arguments[1]);
 }
 
-constexpr auto kPositive = NumberKind::kPositive;
 constexpr auto kShape = NumberKind::kShape;
 
 std::vector<Distribution> AllDistributions() {
-  const DistributionParameter mean = {"--mean", "The mean. Default: 0", NumberKind::kReal, 0};
-  const DistributionParameter std_dev = {"--std-dev", "The standard deviation. Default: 1",
-                                         kPositive, 1};
-  const DistributionParameter df = {"--df", "The degrees of freedom", kShape, {}, true};
+  const NumberParameter df = {"--df", "The degrees of freedom", NumberKind::kDegreesOfFreedom};
   return {
       {"normal",
        "The normal distribution",
-       {mean, std_dev},
+       {kMean, kStdDev},
        false,
        QORVEX_FULL_PRECISION(Normal, Pdf),
        {CallPointFirst<NormalPDF>, Call<NormalDistLess>, Call<NormalDistGreater>,
@@ -99,7 +95,7 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"log-normal",
        "The log-normal distribution; mean and standard deviation of ln X",
-       {mean, std_dev},
+       {kMean, kStdDev},
        false,
        QORVEX_FULL_PRECISION(LogNormal, Pdf),
        {CallPointFirst<LogNormalPDF>, Call<LogNormalLess>, Call<LogNormalGreater>,
@@ -109,7 +105,7 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"exponential",
        "The exponential distribution",
-       {{"--mean", "The mean, 1 / rate", kPositive}},
+       {{"--mean", "The mean, 1 / rate", NumberKind::kPositive}},
        false,
        QORVEX_FULL_PRECISION(Exponential, Pdf),
        {CallPointFirst<ExponentialPDF>, Call<ExponentialLess>, Call<ExponentialGreater>,
@@ -119,7 +115,7 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"gamma",
        "The gamma distribution",
-       {{"--shape", "The shape", kShape}, {"--scale", "The scale. Default: 1", kPositive, 1}},
+       {{"--shape", "The shape", kShape}, kScale},
        false,
        QORVEX_FULL_PRECISION(Gamma, Pdf),
        {.less = ScaledIncompleteGamma}},
@@ -146,8 +142,8 @@ std::vector<Distribution> AllDistributions() {
         }}},
       {"f",
        "The F distribution",
-       {{"--df1", "The degrees of freedom of the numerator", kShape, {}, true},
-        {"--df2", "The degrees of freedom of the denominator", kShape, {}, true}},
+       {{"--df1", "The degrees of freedom of the numerator", NumberKind::kDegreesOfFreedom},
+        {"--df2", "The degrees of freedom of the denominator", NumberKind::kDegreesOfFreedom}},
        false,
        QORVEX_FULL_PRECISION(FDist, Pdf),
        {CallPointFirst<FDistPDF>, CallPointFirst<FDistLess>, CallPointFirst<FDistGreater>,
@@ -160,8 +156,8 @@ std::vector<Distribution> AllDistributions() {
        "The beta distribution, on [0, 1] or between two ends",
        {{"--a", "The first shape", kShape},
         {"--b", "The second shape", kShape},
-        {"--lower-end", "The lower end of the support. Default: 0", NumberKind::kReal, 0},
-        {"--upper-end", "The upper end of the support. Default: 1", NumberKind::kReal, 1}},
+        kLowerEnd,
+        kUpperEnd},
        false,
        {ScaledDensity, AtScaledPoint<fp::BetaLower>, AtScaledPoint<fp::BetaUpper>,
         AtScaledPoint<fp::BetaLogLower>, AtScaledPoint<fp::BetaLogUpper>,
@@ -175,16 +171,10 @@ std::vector<Distribution> AllDistributions() {
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           BetaPDFValues(a[0], a[1], a[2], a[3], a[4], a[5], n, xs, ys);
         }},
-       [](Arguments a) -> const char* {
-         if (!(a[3] > a[2])) return "--upper-end must be greater than --lower-end";
-         return std::isfinite(BetaSupport(a).width)
-                    ? nullptr
-                    : "--upper-end less --lower-end is beyond the range of extended precision";
-       }},
+       [](Arguments a) { return WhatIsWrongWithEnds(a[2], a[3]); }},
       {"binomial",
        "The binomial distribution: successes in independent trials",
-       {{"--success-probability", "The probability of success in each trial", NumberKind::kShare},
-        {"--trials", "The number of trials", NumberKind::kCount}},
+       {kSuccessProbability, {"--trials", "The number of trials", NumberKind::kCount}},
        true,
        QORVEX_FULL_PRECISION(Binomial, Pmf),
        {Call<BinomialEq>, Call<BinomialLess>, Call<BinomialGreater>, Call<BinomialBetween>}},
@@ -199,7 +189,7 @@ std::vector<Distribution> AllDistributions() {
         Call<HyperGeometricBetween>}},
       {"poisson",
        "The Poisson distribution",
-       {{"--lambda", "The mean", kPositive}},
+       {kLambda},
        true,
        QORVEX_FULL_PRECISION(Poisson, Pmf),
        {Call<PoissonEq>, Call<PoissonLess>, Call<PoissonGreater>, Call<PoissonBetween>}},

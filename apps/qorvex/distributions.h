@@ -4,34 +4,13 @@
 /// The distributions that `dist` knows, their parameters and routines.
 
 #include <cstdint>
-#include <optional>
 #include <span>
 #include <vector>
 
+#include "apps/qorvex/parameters.h"
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex::cli {
-
-/// The numbers that an option takes, all finite.
-enum class NumberKind {
-  kReal,
-  kPositive,
-  kShape,        ///< a shape or degrees of freedom, in the range of the full-precision routines
-  kShare,        ///< from 0 to 1
-  kProbability,  ///< between 0 and 1
-  kCount,        ///< a whole number that 32 bits hold
-  kSteps,        ///< the steps of a table, which has at most ten million points
-};
-
-struct DistributionParameter {
-  const char* option;
-  const char* description;
-  NumberKind kind;
-  /// What it is when it is not given; none if it has to be.
-  std::optional<Extended> standard = std::nullopt;
-  /// Whether the prescribed routines take counts only.
-  bool whole_when_prescribed = false;
-};
 
 /// The distribution's parameters in order, then a point, two points or a probability.
 using DistributionArguments = std::span<const Extended>;
@@ -64,7 +43,7 @@ struct PrescribedRoutines {
 struct Distribution {
   const char* name;
   const char* summary;
-  std::vector<DistributionParameter> parameters;
+  std::vector<NumberParameter> parameters;
   /// Whether its points are counts.
   bool is_discrete;
   FullPrecisionRoutines full_precision;

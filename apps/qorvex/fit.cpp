@@ -204,9 +204,7 @@ std::string Formula(const std::vector<Extended>& coefficients,
 }
 
 std::string TextOf(std::size_t count, const Figures& figures, const FitArguments& arguments) {
-  const auto number = [&](Extended figure) {
-    return arguments.decimals ? Float2EStr(figure, *arguments.decimals) : Float2Str(figure);
-  };
+  const auto number = [&](Extended figure) { return FigureText(figure, arguments.decimals); };
   std::string text;
   const auto line = [&text](const std::string& label, const std::string& figure) {
     text += label + '\t' + figure + '\n';
@@ -296,7 +294,7 @@ void AddCurve(CLI::App& fit, const char* name, const char* summary, std::size_t 
   command.add_flag("--json", arguments->json,
                    "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
                    "null for those that do not exist");
-  command.footer(TableHelp() + kExamples + kExitStatusHelp);
+  command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Fit(*arguments); });
 }
 

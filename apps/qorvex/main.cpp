@@ -9,6 +9,7 @@
 #include "apps/qorvex/fit.h"
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/matrix.h"
+#include "apps/qorvex/random.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/version.h"
 
@@ -19,13 +20,15 @@ namespace {
 enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
 
 int Run(int argc, char** argv) {
-  CLI::App program("Statistics, matrices and distributions, computed with 64 bits of mantissa.",
-                   "qorvex");
+  CLI::App program(
+      "Statistics, matrices, distributions and random variates, with 64 bits of mantissa.",
+      "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
   AddFit(program);
   AddMatrix(program);
   AddDist(program);
+  AddRandom(program);
   // One command a call, so that a file may bear the name of another.
   program.require_subcommand(0, 1);
 

@@ -96,13 +96,7 @@ TQorFloatMatrix Read(const std::string& file, const MatrixLayout& layout) {
 
 std::string TextOf(const TQorFloatMatrix& matrix, std::optional<int> decimals) {
   std::string text;
-  for (const TQorFloatVector& row : matrix) {
-    for (const Extended& element : row) {
-      if (&element != row.begin()) text += ',';
-      text += decimals ? Float2EStr(element, *decimals) : Float2Str(element);
-    }
-    text += '\n';
-  }
+  for (const TQorFloatVector& row : matrix) AppendLine(text, row, decimals);
   return text;
 }
 
@@ -154,7 +148,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
         ->type_name("X");
   }
   command.footer(std::string(operation.help) + kRowsHelp + kTextHelp + kResultHelp +
-                 kExitStatusHelp);
+                 kExitStatusHelp + kNothingPrintedHelp);
   command.callback([&operation, arguments] { Run(operation, *arguments); });
 }
 

@@ -2,16 +2,39 @@
 
 #include <cerrno>
 #include <cstdio>
-#include <string>
 #include <system_error>
+
+#include "qorvex/base/text.h"
 
 namespace qorvex::cli {
 
-void WriteResult(std::string_view text) {
-  const bool written = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-  if (!written || std::fflush(stdout) != 0) {
-    throw std::system_error(errno, std::generic_category(), "standard output");
+namespace {
+
+void RequireWritten(bool written) {
+  if (!written) throw std::system_error(errno, std::generic_category(), "standard output");
+}
+
+}  // namespace
+
+std::string FigureText(Extended figure, std::optional<int> decimals) {
+  return decimals ? Float2EStr(figure, *decimals) : Float2Str(figure);
+}
+
+void AppendLine(std::string& text, std::span<const Extended> figures, std::optional<int> decimals) {
+  for (std::size_t i = 0; i < figures.size(); ++i) {
+    if (i > 0) text += ',';
+    text += FigureText(figures[i], decimals);
   }
+  text += '\n';
+}
+
+void WriteResult(std::string_view text) {
+  WritePart(text);
+  RequireWritten(std::fflush(stdout) == 0);
+}
+
+void WritePart(std::string_view text) {
+  RequireWritten(std::fwrite(text.data(), 1, text.size(), stdout) == text.size());
 }
 
 void WriteRemark(std::string_view text) {

@@ -1,0 +1,148 @@
+#include "apps/qorvex/random.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/parameters.h"
+#include "apps/qorvex/text_output.h"
+#include "apps/qorvex/variates.h"
+#include "qorvex/base/checked_math.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/random.h"
+
+namespace qorvex::cli {
+
+namespace {
+
+constexpr const char* kVariatesHelp = R"(Variates:
+  One a line, printed as they are drawn. A seed gives the same ones on every
+  machine; without it every run gives others.)";
+
+struct RandomArguments {
+  VariateArguments parameters;
+  const VariateMethod* method;
+  std::uint64_t count = 1;
+  std::optional<std::uint64_t> seed;
+  std::optional<int> decimals;
+};
+
+using SharedArguments = std::shared_ptr<RandomArguments>;
+
+TQorFloatVector ParseList(const std::string& option, const std::string& text, NumberKind kind) {
+  std::vector<Extended> numbers;
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find(',', begin), text.size());
+    numbers.push_back(ParseNumber(option, text.substr(begin, end - begin), kind));
+    begin = end + 1;
+  }
+  return TQorFloatVector(numbers);
+}
+
+void AddParameter(CLI::App& command, const NumberParameter& parameter,
+                  const SharedArguments& arguments) {
+  const std::size_t index = arguments->parameters.size();
+  arguments->parameters.Append({parameter.standard.value_or(0)});
+  const std::string name = parameter.option;
+  CLI::Option& option =
+      parameter.kind == NumberKind::kReals
+          ? *command
+                 .add_option_function<std::string>(
+                     name,
+                     [arguments, index, name](const std::string& text) {
+                       arguments->parameters.Set(index, ParseList(name, text, NumberKind::kReals));
+                     },
+                     parameter.description)
+                 ->type_name("X,X,...")
+          : AddNumber(
+                command, name, parameter.description, parameter.kind,
+                [arguments, index](Extended value) { arguments->parameters.Set(index, {value}); });
+  if (!parameter.standard) option.required();
+}
+
+void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments& arguments) {
+  std::string names;
+  for (const VariateMethod& method : variate.methods)
+    names += (names.empty() ? "" : "|") + std::string(method.name);
+  command
+      .add_option_function<std::string>(
+          "--method",
+          [&variate, arguments, names](const std::string& name) {
+            for (const VariateMethod& method : variate.methods) {
+              if (name != method.name) continue;
+              arguments->method = &method;
+              return;
+            }
+            throw CLI::ValidationError("--method", Excerpt(name) + " is not one of " + names);
+          },
+          std::string("How they are drawn. Default: ") + variate.methods.front().name)
+      ->type_name(names);
+}
+
+void PrintVariates(const RandomArguments& arguments) {
+  TQorFloatVector figures = TQorFloatVector::WithLength(1);
+  std::string line;
+  for (std::uint64_t i = 0; i < arguments.count; ++i) {
+    arguments.method->draw(arguments.parameters, figures);
+    for (const Extended figure : figures) CheckedFinite(figure);
+    line.clear();
+    AppendLine(line, figures, arguments.decimals);
+    WritePart(line);
+  }
+  WriteResult("");
+}
+
+void Run(const Variate& variate, const RandomArguments& arguments) {
+  if (const auto inconsistency = arguments.method->inconsistency) {
+    const std::string what = inconsistency(arguments.parameters);
+    if (!what.empty()) throw CLI::ValidationError(what);
+  }
+  if (arguments.seed) {
+    SetRandSeed(*arguments.seed);
+  } else {
+    Randomize();
+  }
+  try {
+    PrintVariates(arguments);
+  } catch (const EMathError& error) {
+    // The lines in front of the failing one go out before the message.
+    WriteResult("");
+    const bool limited =
+        *variate.limits != '\0' && dynamic_cast<const EOverflow*>(&error) == nullptr;
+    throw Refusal(variate.name, error, limited ? std::string(": ") + variate.limits : "");
+  }
+}
+
+void AddVariate(CLI::App& random, const Variate& variate) {
+  CLI::App& command = *random.add_subcommand(variate.name, variate.summary);
+  const auto arguments = std::make_shared<RandomArguments>();
+  for (const NumberParameter& parameter : variate.parameters)
+    AddParameter(command, parameter, arguments);
+  arguments->method = &variate.methods.front();
+  if (variate.methods.size() > 1) AddMethods(command, variate, arguments);
+  AddNumber(command, "--count", "How many variates. Default: 1", NumberKind::kUint64,
+            [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
+  AddNumber(command, "--seed",
+            "The seed, up to 18446744073709551615. Default: one from the operating system",
+            NumberKind::kUint64,
+            [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
+  AddDecimals(command, arguments->decimals,
+              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
+  command.footer(std::string(kVariatesHelp) + kExitStatusHelp);
+  command.callback([&variate, arguments] { Run(variate, *arguments); });
+}
+
+}  // namespace
+
+void AddRandom(CLI::App& program) {
+  CLI::App& random = *program.add_subcommand("random", "Random variates");
+  for (const Variate& variate : Variates()) AddVariate(random, variate);
+  RequireOneCommand(random, "A variate");
+}
+
+}  // namespace qorvex::cli

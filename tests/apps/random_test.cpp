@@ -1,0 +1,118 @@
+// Runs the command random of the built program.
+
+#include "qorvex/base/random.h"
+
+#include <cmath>
+#include <cstdint>
+#include <functional>
+#include <gtest/gtest.h>
+#include <string>
+#include <utility>
+
+#include "apps/shell.h"
+#include "qorvex/base/text.h"
+#include "qorvex/random/QorvexRandom.h"
+
+namespace qorvex::cli {
+
+// Parameters that differ from one another, so that none can stand for another.
+TEST(RandomCommand, PrintsTheLibrarysVariatesOfTheSeed) {
+  const std::pair<const char*, std::function<Extended()>> variates[] = {
+      {"uniform", [] { return Random(); }},
+      {"normal", [] { return Random_Normal(); }},
+      {"normal --mean -2 --std-dev 3", [] { return Random_Normal(-2, 3); }},
+      {"exponential --mean 3", [] { return 3 * Random_Exponential(); }},
+      {"gamma --shape 2.5", [] { return Random_Gamma(2.5L); }},
+      {"gamma --shape 0.3 --scale 4", [] { return 4 * Random_Gamma(0.3L); }},
+      {"chi-square --df 5", [] { return Random_ChiSq(5); }},
+      {"weibull --shape -1.5 --scale 2", [] { return 2 * Random_Weibull(-1.5L); }},
+      {"beta --a 0.5 --b 3", [] { return Random_Beta(0.5L, 3); }},
+      {"beta --a 2 --b 3 --lower-end -1 --upper-end 4", [] { return -1 + 5 * Random_Beta(2, 3); }},
+      {"student-t --df 4", [] { return Random_T(4); }},
+      {"cauchy --location 1 --scale 2", [] { return 1 + 2 * Random_Cauchy(); }},
+      {"log-normal --mean 1 --std-dev 0.5", [] { return std::exp(Random_Normal(1, 0.5L)); }},
+      {"inverse-gaussian --h 2 --b 0.5", [] { return Random_Inv_Gauss(2, 0.5L); }},
+      {"von-mises --concentration 2", [] { return Random_von_Mises(2); }},
+      {"binomial --success-probability 0.3 --trials 200",
+       [] { return Random_Binomial2(200, 0.3L); }},
+      {"binomial --success-probability 0.3 --trials 200 --method inversion",
+       [] { return Random_Binomial1(200, 0.3L); }},
+      {"negative-binomial --success-probability 0.4 --failures 2.5",
+       [] { return Random_Neg_Binomial(2.5L, 0.4L); }},
+      {"poisson --lambda 12.5", [] { return Random_Poisson(12.5L); }},
+  };
+  constexpr std::uint64_t seed = 18446744073709551615U;
+  for (const auto& [arguments, draw] : variates) {
+    SetRandSeed(seed);
+    std::string lines;
+    for (int i = 0; i < 20; ++i) lines += Float2Str(draw()) + '\n';
+    ExpectOutput(std::string("qorvex random ") + arguments + " --count 20 --seed " + Int2EStr(seed),
+                 lines);
+  }
+
+  SetRandSeed(7);
+  TQorFloatVector factor;
+  TQorFloatVector x;
+  std::int32_t error = 0;
+  Random_MVNorm({-1, 2}, {4, 1, 3}, factor, x, error);
+  ExpectOutput("qorvex random multivariate-normal --mean -1,2 --covariance 4,1,3 --seed 7",
+               Float2Str(x[0]) + ',' + Float2Str(x[1]) + '\n');
+  ExpectOutput("qorvex random multivariate-normal --mean 8 --covariance 1e-9 --decimals 2",
+               "8.00\n");
+}
+
+TEST(RandomCommand, TakesASeedFromTheSystemWhenNoneIsGiven) {
+  EXPECT_NE(Shell("qorvex random uniform"), Shell("qorvex random uniform"));
+}
+
+TEST(RandomCommand, PrintsAsItDraws) {
+  ExpectOutput("qorvex random uniform --count 1e19 | head -n 4000 | wc -l", "4000\n");
+  ExpectOutput("qorvex random uniform --count 1e19 >/dev/full",
+               "qorvex: standard output: No space left on device\nexit status 1\n");
+  ExpectOutput("qorvex random uniform --count 0", "");
+}
+
+TEST(RandomCommand, RefusesWhatTheRoutineRefuses) {
+  for (const auto& [arguments, message] : {
+           std::pair("student-t --df 0",
+                     "student-t: The value is out of range: --df is at least 1"),
+           std::pair("von-mises --concentration 10",
+                     "von-mises: The value is out of range: --concentration is at least 0 and "
+                     "below 10"),
+           std::pair("log-normal --mean 1e5",
+                     "log-normal: the figure, or one on the way to it, is "
+                     "beyond the range of extended precision"),
+           std::pair("gamma --shape 2 --scale 1e4932",
+                     "gamma: the figure, or one on the way to it, is beyond the range of extended "
+                     "precision"),
+           std::pair("multivariate-normal --mean 1,2 --covariance 1,2,1",
+                     "multivariate-normal: the covariance matrix is not positive definite"),
+       }) {
+    ExpectRefusal(std::string("qorvex random ") + arguments + " --seed 1", message);
+  }
+  for (const auto& [arguments, message] : {
+           std::pair("gamma", "--shape is required"),
+           std::pair("gamma --shape 0", "--shape: \"0\" is not greater than 0"),
+           std::pair("student-t --df 2.5",
+                     "--df: \"2.5\" is not a whole number from 0 to 2147483647"),
+           std::pair("uniform --seed=-1",
+                     "--seed: \"-1\" is not a whole number from 0 to 18446744073709551615"),
+           std::pair("multivariate-normal --mean 1,,2 --covariance 1",
+                     "--mean: \"\" is not a number"),
+           std::pair("multivariate-normal --mean 1,2 --covariance 1,2",
+                     "--covariance: the upper triangle for 2 means has 3 numbers, not 2"),
+           std::pair("beta --a 1 --b 1 --lower-end 1",
+                     "--upper-end must be greater than --lower-end"),
+           std::pair("binomial --success-probability 1 --trials 3e9 --method inversion",
+                     "--trials: 3000000000 is not a whole number from 0 to 2147483647, as --method "
+                     "inversion needs"),
+           std::pair("binomial --success-probability 1 --trials 1 --method both",
+                     "--method: \"both\" is not one of btpe|inversion"),
+       }) {
+    ExpectRefusal(
+        std::string("qorvex random ") + arguments,
+        message + std::string("\nqorvex: --help tells what the program and its commands take"));
+  }
+}
+
+}  // namespace qorvex::cli
