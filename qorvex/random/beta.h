@@ -16,10 +16,10 @@ namespace qorvex::inline QorvexRandom {
 
 /// @{
 /// A beta variate of the shapes a and b, in [0, 1]. The variate for exchanged shapes is 1 less it,
-/// so a variate near 0 has lost digits when a < b: then take 1 - Random_Beta(b, a) for what it
-/// lacks of 1. Rounding can give 0 and 1 themselves. EMathError rsInvalidValue unless both shapes
-/// are positive; when their sum is above 1E18, where rounding would decide what is accepted, or
-/// their quotient beyond the extended range. Stuck on 0, 1 - 2^-64 and NaN.
+/// so a variate near 0 has lost digits when a < b. Rounding can give 0 and 1 themselves. EMathError
+/// rsInvalidValue: unless both shapes are positive; when their sum is above 1E18, where rounding
+/// would decide what is accepted, or their quotient beyond the extended range. Stuck on 0,
+/// 1 - 2^-64 and NaN.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Beta(Extended a, Extended b, UniformSource source);
 [[nodiscard]] inline Extended Random_Beta(Extended a, Extended b) {
   return Random_Beta(a, b, ClassicRandom);

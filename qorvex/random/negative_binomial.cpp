@@ -31,7 +31,7 @@ Extended Inverted(Extended sk, Extended p, Extended u) {
 
 Extended Random_Neg_Binomial(Extended sk, Extended p, UniformSource source) {
   if (!(sk > 0 && p > 0 && p < 1)) RaiseMathError(rsInvalidValue);
-  constexpr Extended most_steps = 1e9L;
+  constexpr Extended most_steps = 1e8L;
   const bool is_direct = p > 0.7L;
   const Extended direct = is_direct ? std::trunc(sk) : 0;
   const Extended rest = sk - direct;
