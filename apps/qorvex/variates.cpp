@@ -134,7 +134,7 @@ std::vector<Variate> AllVariates() {
         {"--failures", "The number of failures, which need not be whole", positive}},
        {{"", [](Arguments a, Figures x) { x[0] = Random_Neg_Binomial(a[1], a[0]); }}},
        "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 1e8 beyond, where p is not "
-       "within 1e-9 of 1"},
+       "within 1e-8 of 1"},
       {"poisson",
        "Poisson variates",
        {kLambda},
