@@ -13,6 +13,13 @@ namespace {
 
 constexpr std::size_t kMostIntervals = 20;
 
+// The cosine of an angle from 0 to pi, from a sine or cosine of at most pi/4: beyond, the C library
+// takes ten times as long.
+Extended Cosine(Extended x) {
+  if (x < QorPi / 4) return std::cos(x);
+  return x < 3 * QorPi / 4 ? std::sin(QorPi / 2 - x) : -std::cos(QorPi - x);
+}
+
 // The integral of exp(k cos x).
 Extended Integral(Extended k, Extended lo, Extended hi) {
   struct Node {
@@ -26,8 +33,8 @@ Extended Integral(Extended k, Extended lo, Extended hi) {
   const Extended half = (hi - lo) / 2;
   Extended sum = 0;
   for (const Node& node : nodes) {
-    sum += node.weight * (std::exp(k * std::cos(mid + node.abscissa * half)) +
-                          std::exp(k * std::cos(mid - node.abscissa * half)));
+    sum += node.weight * (std::exp(k * Cosine(mid + node.abscissa * half)) +
+                          std::exp(k * Cosine(mid - node.abscissa * half)));
   }
   return half * sum;
 }
@@ -81,7 +88,7 @@ Extended Random_von_Mises(Extended k, UniformSource source) {
   for (;;) {
     const Extended lo = intervals.ends[j];
     const Extended angle = lo + place * (intervals.ends[j + 1] - lo);
-    if (IsAccepted(k - static_cast<Extended>(j) - k * std::cos(angle), source))
+    if (IsAccepted(k - static_cast<Extended>(j) - k * Cosine(angle), source))
       return source() < 0.5L ? -angle : angle;
     place = source();
   }
