@@ -106,7 +106,7 @@ std::vector<Variate> AllVariates() {
        "Generalised inverse Gaussian variates; density as x^(b-1) exp(-h/2 (x + 1/x))",
        {{"--h", "The concentration h", positive}, {"--b", "The order b, at least 0", real}},
        {{"", [](Arguments a, Figures x) { x[0] = Random_Inv_Gauss(a[0], a[1]); }}},
-       "--b is at least 0, both are at most 1e15, and --h is neither tiny nor small beside --b"},
+       "--b is at least 0, both are at most 1e14, and --h is neither tiny nor small beside --b"},
       {"von-mises",
        "Angles of the von Mises distribution, from -pi to pi",
        {{"--concentration", "The concentration", real}},

@@ -5,8 +5,8 @@
 ///
 /// R. C. H. Cheng (1978), "Generating beta variates with nonintegral shape parameters",
 /// Communications of the ACM 21, 317-322, in the form of John Dagpunar (1988), "Principles of
-/// Random Variate Generation", Clarendon Press. An attempt takes two uniform values; 1 to 1.3
-/// attempts are needed on average for shapes above 1, up to 2 below.
+/// Random Variate Generation", Clarendon Press. An attempt takes two uniform values; 1 to 1.5
+/// attempts are needed on average for shapes above 1, up to 4 below.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"

@@ -7,7 +7,7 @@
 /// variables", ACM Transactions on Mathematical Software 26, 363-372. A normal variate is cubed and
 /// accepted with the help of one more uniform value; at most 5 % are rejected. Shapes below 1:
 /// J. H. Ahrens and U. Dieter (1974), "Computer methods for sampling from gamma, beta, Poisson and
-/// binomial distributions", Computing 12, 223-246; 2 to 2.6 uniform values on average. Variates
+/// binomial distributions", Computing 12, 223-246; 1 to 2.6 uniform values on average. Variates
 /// below about 5E-324 become 0 there, which is every second one for a shape of 0.001, and nearly
 /// all for much smaller ones. Shape 1 is Random_Exponential.
 

@@ -11,27 +11,34 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// NaN and infinities come from parameters near the ends of the range.
-void RequireUsable(Extended x) {
-  if (!(x >= detail::kVerySmall && std::isfinite(x))) RaiseMathError(rsInvalidValue);
+// (k + sqrt(h^2 + k^2)) / h, where a density is greatest. For a negative k far above h it is a
+// difference of near values. A wrong one makes the region too small, and to such an extent in b
+// that it can be out of reach.
+Extended Mode(Extended h, Extended k, Extended b) {
+  const Extended root = std::sqrt(h * h + k * k);
+  const Extended mode = (k + root) / h;
+  const Extended exact = k < 0 ? h / (root - k) : mode;
+  const Extended error = mode / exact - 1;
+  constexpr Extended harmless = 1e-4L;
+  if (!(mode >= detail::kVerySmall && (b + 1) * error * error <= harmless))
+    RaiseMathError(rsInvalidValue);
+  return mode;
 }
 
 }  // namespace
 
 Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
   // Attempts succeed once in the root of the larger parameter.
-  constexpr Extended largest_parameter = 1e15L;
+  constexpr Extended largest_parameter = 1e14L;
   if (!(b >= 0 && h > 0)) RaiseMathError(rsInvalidValue);
   if (b > 0.25L * h * std::sqrt(detail::kVeryLarge)) RaiseMathError(rsInvalidValue);
   if (std::max(h, b) > largest_parameter) RaiseMathError(rsInvalidValue);
-  const Extended ym = (-(b + 1) + std::sqrt(h * h + (b + 1) * (b + 1))) / h;
-  RequireUsable(ym);
-  const Extended xm = ((b - 1) + std::sqrt(h * h + (b - 1) * (b - 1))) / h;
-  RequireUsable(xm);
+  const Extended ym = Mode(h, -(b + 1), b);
+  const Extended xm = Mode(h, b - 1, b);
   const Extended c = -0.25L * h;
   const Extended r = XtoY(xm * ym, -0.5L * b) * std::sqrt(xm / ym) *
                      std::exp(0.25L * h * ((xm + 1 / xm) - ym - 1 / ym));
-  RequireUsable(r);
+  if (!(r >= detail::kVerySmall)) RaiseMathError(rsInvalidValue);
   const Extended power = 0.5L * (b - 1);
   const Extended at_mode = -power * std::log(xm) - c * (xm + 1 / xm);
   for (;;) {

@@ -10,8 +10,8 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// The exponential of a normal variate of mean ln(mean) and standard deviation
-/// sqrt(ln(std_dev^2)). So `mean` is the median of the variate, not its mean, and std_dev is no
+/// A normal variate's exponential. The logarithm of the variate is normal around ln(mean) with the
+/// variance ln(std_dev^2), so `mean` is the median of the variate, not its mean, and std_dev is no
 /// standard deviation either: for a logarithm of mean m and standard deviation s, pass exp(m) and
 /// exp(s^2 / 2). A std_dev of 1 gives the mean itself, and so does an infinite mean. One normal
 /// variate is drawn. Stuck on 0, 1 - 2^-64 and NaN.

@@ -14,8 +14,8 @@ namespace qorvex::inline QorvexRandom {
 /// whole. The mean is sk p / (1-p).
 ///
 /// One uniform value is inverted from 0 upwards. For p above 0.7, one more is taken for each whole
-/// unit of sk, as the number of successes before a failure. Stuck, then, on 0 and NaN. O(mean) for
-/// p up to 0.7, O(sk + 1/(1-p)) above.
+/// unit of sk, as the number of successes before a failure. Stuck, if there are any, on 0 and NaN.
+/// O(mean) for p up to 0.7, O(sk + 1/(1-p)) above.
 ///
 /// EMathError rsInvalidValue: unless sk > 0, p > 0 and p < 1; for more than 1E8 steps to be
 /// expected; when the probability of 0, from which the inversion starts, is below 5E-324.

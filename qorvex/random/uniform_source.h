@@ -44,7 +44,7 @@ template <class Callable>
 concept OtherSource =
     !std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
     !(kIsFunction<Callable> && std::convertible_to<Callable, TQorRandomFunc>)&&  //
-    std::floating_point<std::invoke_result_t<Callable&>>;
+    std::floating_point<std::remove_cvref_t<std::invoke_result_t<Callable&>>>;
 /// @endcond
 
 /// A reference to a uniform source: a TQorRandomFunc, or any other callable without arguments whose

@@ -82,8 +82,8 @@ Extended Random_von_Mises(Extended k, UniformSource source) {
   std::size_t j = 0;
   u -= intervals.weights[0];
   while (!(u < 0) && j + 1 < intervals.count) u -= intervals.weights[++j];
-  // When rounding leaves a remainder, the place is the end of the last interval, whose weight is 0
-  // where 2k is whole.
+  // Places run backwards. When rounding leaves a remainder, it is 0 in the last interval, which has
+  // neither width nor weight where 2k is whole.
   Extended place = u < 0 ? -u / intervals.weights[j] : 0;
   for (;;) {
     const Extended lo = intervals.ends[j];

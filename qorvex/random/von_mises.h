@@ -8,7 +8,7 @@
 /// each of which the exponent falls by 1; one of them is chosen by its probability, and a place in
 /// it is accepted by John von Neumann's comparisons (1951, "Various techniques used in connection
 /// with random digits"), without an exponential. The probabilities come from a Gauss-Legendre rule
-/// of six nodes and are wrong by at most 6e-10.
+/// of six nodes and are wrong by at most 6e-9, which they are just above k = 1/2.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"

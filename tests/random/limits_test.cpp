@@ -58,10 +58,12 @@ TEST(Limits, ParametersAreCheckedBeforeAnyDraw) {
   EXPECT_MATH_ERROR(Random_Neg_Binomial(1100, 0.5L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Neg_Binomial(2e9L, 0.75L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Neg_Binomial(0.5L, 1 - 1e-15L, NoDraw), rsInvalidValue);
-  // The order of magnitude, each of the modes, and the width of the region.
-  EXPECT_MATH_ERROR(Random_Inv_Gauss(1, 3.3e153L, NoDraw), rsInvalidValue);
+  // Modes that rounding has moved, or left nothing of, and too many attempts.
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(4e-7L, 1000, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(0.36385554075241088867L, 34480642, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-12L, 1, NoDraw), rsInvalidValue);
-  EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-20L, 0, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-9L, 0, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(1, 3.3e153L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(2e15L, 1, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Beta(1e18L, 1e18L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Beta(1, 1e-4940L, NoDraw), rsInvalidValue);

@@ -48,7 +48,7 @@ const std::map<std::string, Variate>& Variates() {
   return variates;
 }
 
-// The scripts of the table take every branch of every method.
+// The scripts of the table take the branches of every method.
 TEST(Streams, AreThoseOfTheMethods) {
   const testing::Table table("tables/variate_streams.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
@@ -120,6 +120,28 @@ TEST(Streams, CertainOutcomesOfTheBinomials) {
   EXPECT_EQ(source.left(), 0U);
 }
 
+TEST(Streams, BoundsThatDrawsMayHit) {
+  const auto draw = [](auto variate, std::vector<Extended> script) {
+    ScriptedSource source(std::move(script));
+    const Extended value = variate(UniformSource(source));
+    EXPECT_EQ(source.left(), 0U);
+    return value;
+  };
+  using S = UniformSource;
+  EXPECT_EQ(draw([](S s) { return Random_Exponential(s); }, {5e-324L, 0.5L}), std::log(2.0L));
+  EXPECT_EQ(draw([](S s) { return Random_Beta(1, 1, s); }, {1e-330L, 0.5L, 0.5L, 0.5L}), 0.5L);
+  EXPECT_EQ(draw([](S s) { return Random_Gamma(5e-324L, s); }, {0.5L}), 0);
+  EXPECT_EQ(draw([](S s) { return Random_Neg_Binomial(1, 0.5L, s); }, {0.5L}), 1);
+  EXPECT_EQ(draw([](S s) { return Random_Neg_Binomial(2, 0.7L, s); }, {0.05L}), 0);
+  EXPECT_EQ(draw([](S s) { return Random_Binomial1(1, 0.5L, s); }, {0.5L}), 0);
+  EXPECT_EQ(draw([](S s) { return Random_Binomial1(5, 1 - 0x1p-64L, s); }, {0.5L}), 5);
+  EXPECT_EQ(draw([](S s) { return Random_Binomial2(1, 0.5L, s); }, {0.5L}), 1);
+  EXPECT_EQ(draw([](S s) { return Random_Binomial2(60, 0.5L, s); }, {0, 0.5L}), 27)
+      << "the regions serve from n p = 30 on";
+  EXPECT_EQ(draw([](S s) { return Random_Poisson(0.5L, s); }, {std::exp(-0.5L)}), 0);
+  EXPECT_GT(draw([](S s) { return Random_von_Mises(0.25L, s); }, {0.5L, 0.75L, 0.5L}), 0);
+}
+
 // Where 2k is whole, the last interval has no width; a draw beyond all weights must not divide by
 // its weight.
 TEST(Streams, VonMisesTakesTheLastIntervalForARemainder) {
@@ -127,6 +149,8 @@ TEST(Streams, VonMisesTakesTheLastIntervalForARemainder) {
     ScriptedSource source({1.5L, 0.5L, 0.75L});
     EXPECT_EQ(Random_von_Mises(k, source), QorPi);
   }
+  ScriptedSource source({1.5L, 0.5L, 0.75L});
+  EXPECT_EQ(Random_von_Mises(0.75L, source), std::acos(1 - 1 / 0.75L)) << "the end of the first";
 }
 
 // One sum of probabilities stays below the draw: the mode, not an endless search.

@@ -42,7 +42,7 @@ class PoissonDensities {
                                            : k * v * v * Series(v) - delta;
       at.p_factor = 0.3989423L / std::sqrt(k);
     }
-    const Extended x = (0.5L - mu_ + k) / deviation_;
+    const Extended x = (k - mu_ + 0.5L) / deviation_;
     const Extended x2 = x * x;
     at.n_exponent = -0.5L * x2;
     at.n_factor = omega_ * (((c3_ * x2 + c2_) * x2 + c1_) * x2 + c0_);
