@@ -1,6 +1,7 @@
 // What draws cannot show: formulas that decide so few variates, or so nearly like others, that a
 // wrong digit does not come out among a million.
 
+#include <boost/math/quadrature/gauss.hpp>
 #include <boost/math/special_functions/gamma.hpp>
 #include <boost/multiprecision/cpp_bin_float.hpp>
 #include <random>
@@ -130,6 +131,32 @@ TEST(InnerFormulas, PowersOfComplements) {
     EXPECT_LE(static_cast<Extended>(abs(detail::PowerOfComplement(p, n) / exact - 1)),
               p > 0x1p-32L ? n * 1e-19L : 2e-18L)
         << n << ' ' << p;
+  }
+}
+
+// The first uniform value chooses an interval and a place in it; the second one accepts the place.
+TEST(InnerFormulas, VonMisesIntervals) {
+  for (const Extended k : {0.75L, 1.0L, 3.0L, 9.4L}) {
+    const auto integral = [k](Extended lo, Extended hi) {
+      return boost::math::quadrature::gauss<Extended, 30>::integrate(
+          [k](Extended t) { return std::exp(k * std::cos(t)); }, lo, hi);
+    };
+    // Where 2k is whole, the method has one more interval, of no width.
+    std::vector<Extended> ends{0};
+    for (Extended j = 1; j < 2 * k; ++j) ends.push_back(std::acos(1 - j / k));
+    ends.push_back(QorPi);
+    Extended total = 0;
+    for (std::size_t j = 1; j < ends.size(); ++j) total += integral(ends[j - 1], ends[j]);
+    Extended below = 0;
+    for (std::size_t j = 1; j < ends.size(); ++j) {
+      const Extended weight = integral(ends[j - 1], ends[j]) / total;
+      const Extended uniforms[] = {below + weight / 4, 1 - 0x1p-64L, 0.75L};
+      const Extended* next = uniforms;
+      const Extended angle = Random_von_Mises(k, [&next] { return *next++; });
+      const Extended place = (angle - ends[j - 1]) / (ends[j] - ends[j - 1]);
+      EXPECT_LE(std::fabs(place - 0.75L) * weight, 1e-9L) << k << ' ' << j;
+      below += weight;
+    }
   }
 }
 
