@@ -1,0 +1,369 @@
+// Each variate at parameters that reach every branch of its method. About 90 judgements of at most
+// four checks fail at p < 1e-6 each: another engine, or a change of a stream, would raise a false
+// alarm with a probability of 4e-4. With the fixed seed the outcome is always the same.
+
+#include <cmath>
+
+#include "qorvex/base/elementary.h"
+#include "qorvex/random/QorvexRandom.h"
+#include "qorvex/stats/full_precision.h"
+#include "random/distribution_battery.h"
+
+namespace qorvex {
+
+namespace {
+
+namespace fp = full_precision;
+using testing::Draw;
+using testing::ExpectAgreement;
+using testing::Judge;
+using testing::kDraws;
+using testing::Moments;
+using testing::Reference;
+using testing::Support;
+
+using Parameters = std::vector<Extended>;
+
+constexpr Support kReal{-kInfinity, kInfinity};
+constexpr Support kPositive{0, kInfinity};
+constexpr Support kCounts{0, kInfinity, true};
+
+// A family of the library whose points are of the given type.
+template <class Point = Extended, class Lower, class Quantile, class... FamilyParameters>
+Reference Family(Lower lower, Quantile quantile, Moments moments, Support support,
+                 FamilyParameters... parameters) {
+  return {[=](Extended x) { return lower(parameters..., static_cast<Point>(x)); },
+          [=](Extended p) { return static_cast<Extended>(quantile(parameters..., p)); }, moments,
+          support};
+}
+
+Reference Normal(Extended mean, Extended std_dev) {
+  return Family(fp::NormalLower, fp::NormalQuantile, {mean, std_dev * std_dev}, kReal, mean,
+                std_dev);
+}
+
+// Variates below 5E-324 are 0. The variance of small shapes depends on a few variates.
+Reference Gamma(Extended shape) {
+  Reference gamma = Family(fp::GammaLower, fp::GammaQuantile, {shape, shape < 0.1L ? kNaN : shape},
+                           kPositive, shape, 1);
+  gamma.quantile = [exact = gamma.quantile](Extended p) { return std::max(exact(p), 5e-324L); };
+  return gamma;
+}
+
+Reference ChiSquare(Extended df) {
+  return Family(fp::ChiSquareLower, fp::ChiSquareQuantile, {df, 2 * df}, kPositive, df);
+}
+
+// Variates close to 1 are rounded to it.
+Reference Beta(Extended a, Extended b) {
+  const Extended sum = a + b;
+  Reference beta = Family(fp::BetaLower, fp::BetaQuantile,
+                          {a / sum, a * b / (sum * sum * (sum + 1))}, {0, 1}, a, b);
+  beta.quantile = [exact = beta.quantile](Extended p) { return std::min(exact(p), 1 - 1e-16L); };
+  return beta;
+}
+
+Reference StudentT(Extended df) {
+  return Family(fp::StudentTLower, fp::StudentTQuantile,
+                {df > 2 ? 0 : kNaN, df > 4 ? df / (df - 2) : kNaN}, kReal, df);
+}
+
+Reference LogNormal(Extended m, Extended s) {
+  const Extended mean = std::exp(m + s * s / 2);
+  return Family(fp::LogNormalLower, fp::LogNormalQuantile, {mean, mean * mean * std::expm1(s * s)},
+                kPositive, m, s);
+}
+
+Reference Weibull(Extended a) {
+  const Extended mean = std::tgamma(1 + 1 / a);
+  // The variance does not exist for negative shapes down to -2.
+  const Moments moments = a > 0 ? Moments{mean, std::tgamma(1 + 2 / a) - mean * mean} : Moments{};
+  return {[a](Extended x) {
+            const Extended power = std::pow(x, a);
+            return a > 0 ? -std::expm1(-power) : std::exp(-power);
+          },
+          [a](Extended p) { return std::pow(a > 0 ? -std::log1p(-p) : -std::log(p), 1 / a); },
+          moments, kPositive};
+}
+
+Reference Cauchy() {
+  return {[](Extended x) { return 0.5L + std::atan(x) / QorPi; },
+          [](Extended p) { return std::tan(QorPi * (p - 0.5L)); },
+          {},
+          kReal};
+}
+
+// Over the logarithm of x, down to e^-60 of the greatest density.
+Reference GeneralisedInverseGaussian(Extended h, Extended b) {
+  const auto log_density = [=](Extended t) { return b * t - h * std::cosh(t); };
+  const Extended mode = std::asinh(b / h);
+  const auto end = [&](int direction) {
+    Extended reach = 0x1p-10L;
+    while (log_density(mode + direction * reach) > log_density(mode) - 60) reach *= 1.25L;
+    return mode + direction * reach;
+  };
+  return testing::Integrated(
+      log_density, [](Extended t) { return std::exp(t); }, end(-1), end(1), kPositive);
+}
+
+// The integrated distribution chooses the cells of the closed form.
+Reference InverseGaussian(Extended mean, Extended shape) {
+  const Reference reciprocal = GeneralisedInverseGaussian(shape / mean, 0.5L);
+  return {[=](Extended x) {
+            const Extended root = std::sqrt(shape / x);
+            return fp::NormalLower(0, 1, root * (x / mean - 1)) +
+                   std::exp(2 * shape / mean) * fp::NormalLower(0, 1, -root * (x / mean + 1));
+          },
+          [=](Extended p) { return mean / reciprocal.quantile(1 - p); },
+          {mean, mean * mean * mean / shape},
+          kPositive};
+}
+
+Reference VonMises(Extended k) {
+  return testing::Integrated([k](Extended t) { return k * std::cos(t); },
+                             [](Extended t) { return t; }, -QorPi, QorPi, {-QorPi, QorPi});
+}
+
+Reference Poisson(Extended mu) {
+  return Family<std::uint32_t>(fp::PoissonLower, fp::PoissonQuantile, {mu, mu}, kCounts, mu);
+}
+
+// For more trials than the family takes the Poisson distribution, which is off by p at most.
+Reference Binomial(Extended n, Extended p) {
+  if (n > 0x1p32L) return Poisson(n * p);
+  return Family<std::uint32_t>(fp::BinomialLower, fp::BinomialQuantile, {n * p, n * p * (1 - p)},
+                               {0, n, true}, p, static_cast<std::uint32_t>(n));
+}
+
+// By the quotients of neighbouring probabilities.
+Reference NegativeBinomial(Extended sk, Extended p) {
+  const Extended mean = sk * p / (1 - p);
+  Extended probability = std::pow(1 - p, sk);
+  std::vector<Extended> counts{0};
+  std::vector<Extended> cumulative{probability};
+  for (Extended k = 1; k < mean || probability > 1e-18L; ++k) {
+    probability *= (sk + k - 1) * p / k;
+    counts.push_back(k);
+    cumulative.push_back(cumulative.back() + probability);
+  }
+  return testing::Tabulated(counts, cumulative, {mean, mean / (1 - p)}, kCounts);
+}
+
+// Three components, the covariance matrix, and its triangle packed by columns.
+const TQorFloatVector kMean{1, -2, 0.5L};
+constexpr Extended kMatrix[3][3] = {{4, 1.2L, -1}, {1.2L, 1, 0.3L}, {-1, 0.3L, 2}};
+const TQorFloatVector kCovariance{4, 1.2L, 1, -1, 0.3L, 2};
+
+TQorFloatVector DeviationsFromMean(UniformSource source) {
+  TQorFloatVector factor;
+  TQorFloatVector variate;
+  std::int32_t error = 1;
+  Random_MVNorm(kMean, kCovariance, factor, variate, error, source);
+  for (std::size_t i = 0; i < 3; ++i) variate[i] -= kMean[i];
+  return variate;
+}
+
+// With the inverse of the matrix, by its cofactors.
+Extended MahalanobisDistance(const TQorFloatVector& x) {
+  Extended sum = 0;
+  Extended determinant = 0;
+  for (std::size_t i = 0; i < 3; ++i) {
+    for (std::size_t j = 0; j < 3; ++j) {
+      const auto at = [=](std::size_t row, std::size_t col) {
+        return kMatrix[(i + row) % 3][(j + col) % 3];
+      };
+      const Extended cofactor = at(1, 1) * at(2, 2) - at(1, 2) * at(2, 1);
+      sum += x[i] * cofactor * x[j];
+      determinant += kMatrix[i][j] * cofactor / 3;
+    }
+  }
+  return sum / determinant;
+}
+
+struct Variate {
+  const char* name;
+  std::vector<Parameters> cases;
+  std::function<Extended(const Parameters&, UniformSource)> draw;
+  std::function<Reference(const Parameters&)> reference;
+  int draws = kDraws;
+};
+
+const std::vector<Variate>& Variates() {
+  using P = const Parameters&;
+  static const std::vector<Variate> variates = {
+      {"StandardNormal",
+       {{}},
+       [](P, auto s) { return Random_Normal(s); },
+       [](P) { return Normal(0, 1); }},
+      {"Normal",
+       {{3, 0.2L}},
+       [](P p, auto s) { return Random_Normal(p[0], p[1], s); },
+       [](P p) { return Normal(p[0], p[1]); }},
+      {"Gamma",
+       {{0.001L}, {0.1L}, {0.5L}, {0.95L}, {1}, {1.2L}, {3.5L}, {50}, {1e6L}},
+       [](P p, auto s) { return Random_Gamma(p[0], s); },
+       [](P p) { return Gamma(p[0]); }},
+      {"ChiSquare",
+       {{1}, {2}, {7}},
+       [](P p, auto s) { return Random_ChiSq(static_cast<int>(p[0]), s); },
+       [](P p) { return ChiSquare(p[0]); }},
+      {"Exponential",
+       {{}},
+       [](P, auto s) { return Random_Exponential(s); },
+       [](P) { return Gamma(1); }},
+      {"Weibull",
+       {{0.7L}, {2}, {-2}},
+       [](P p, auto s) { return Random_Weibull(p[0], s); },
+       [](P p) { return Weibull(p[0]); }},
+      {"Beta",
+       {{0.3L, 0.4L},
+        {0.5L, 3},
+        {3, 0.5L},
+        {1, 1},
+        {2, 1},
+        {1.5L, 2.5L},
+        {20, 3},
+        {500, 800},
+        {1, 0.001L}},
+       [](P p, auto s) { return Random_Beta(p[0], p[1], s); },
+       [](P p) { return Beta(p[0], p[1]); }},
+      // The curve of the quick rejection, f/(3 + q), is the boundary of the region for three
+      // degrees of freedom up to a factor. It touches the boundaries for one and two from below, so
+      // that what is left of their regions is that for three.
+      {"StudentT",
+       {{1}, {2}, {3}, {5}, {30}, {1e6L}},
+       [](P p, auto s) { return Random_T(static_cast<int>(p[0]), s); },
+       [](P p) { return StudentT(std::max(p[0], 3.0L)); }},
+      {"Cauchy", {{}}, [](P, auto s) { return Random_Cauchy(s); }, [](P) { return Cauchy(); }},
+      {"LogNormal",
+       {{0, 0.5L}, {-3, 0.1L}, {2, 0.8L}},
+       [](P p, auto s) { return Random_LogNormal(std::exp(p[0]), std::exp(p[1] * p[1] / 2), s); },
+       [](P p) { return LogNormal(p[0], p[1]); }},
+      {"GeneralisedInverseGaussian",
+       {{0.05L, 0}, {0.05L, 3}, {2, 0.5L}, {3, 1}, {3, 3}, {20, 100}, {1e4L, 0.5L}},
+       [](P p, auto s) { return Random_Inv_Gauss(p[0], p[1], s); },
+       [](P p) { return GeneralisedInverseGaussian(p[0], p[1]); }},
+      {"InverseGaussian",
+       {{1.5L, 4}},
+       [](P p, auto s) { return p[0] / Random_Inv_Gauss(p[1] / p[0], 0.5L, s); },
+       [](P p) { return InverseGaussian(p[0], p[1]); }},
+      {"VonMises",
+       {{0}, {0.3L}, {0.5L}, {0.75L}, {1}, {3}, {9.4L}, {9.99L}},
+       [](P p, auto s) { return Random_von_Mises(p[0], s); },
+       [](P p) { return VonMises(p[0]); },
+       kDraws / 5},
+      {"Binomial1",
+       {{1, 0.3L}, {3, 0.2L}, {50, 0.9L}, {300, 0.7L}, {1000, 0.1L}, {1e4L, 0.5L}},
+       [](P p, auto s) { return Random_Binomial1(static_cast<std::int32_t>(p[0]), p[1], s); },
+       [](P p) { return Binomial(p[0], p[1]); }},
+      {"Binomial2",
+       {{1, 0.3L},
+        {50, 0.9L},
+        {61, 0.5L},
+        {100, 0.31L},
+        {300, 0.7L},
+        {1000, 0.1L},
+        {1e5L, 0.5L},
+
+        {2e9L, 0.5L},
+        {1e17L, 1e-16L}},
+       [](P p, auto s) { return Random_Binomial2(static_cast<std::int64_t>(p[0]), p[1], s); },
+       [](P p) { return Binomial(p[0], p[1]); }},
+      {"NegativeBinomial",
+       {{0.4L, 0.3L}, {3, 0.69L}, {300.5L, 0.4L}, {3, 0.71L}, {0.5L, 0.9L}, {12.5L, 0.95L}},
+       [](P p, auto s) { return Random_Neg_Binomial(p[0], p[1], s); },
+       [](P p) { return NegativeBinomial(p[0], p[1]); }},
+      {"Poisson",
+       {{0.3L}, {5}, {9.99L}, {10}, {12}, {50}, {1e4L}, {1e9L}},
+       [](P p, auto s) { return Random_Poisson(p[0], s); },
+       [](P p) { return Poisson(p[0]); }},
+      // Sums of weighted components: their variances tell all covariances.
+      {"MultivariateNormal",
+       {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}},
+       [](P p, auto s) {
+         const TQorFloatVector x = DeviationsFromMean(s);
+         return p[0] * x[0] + p[1] * x[1] + p[2] * x[2];
+       },
+       [](P p) {
+         Extended variance = 0;
+         for (std::size_t i = 0; i < 3; ++i)
+           for (std::size_t j = 0; j < 3; ++j) variance += p[i] * kMatrix[i][j] * p[j];
+         return Normal(0, std::sqrt(variance));
+       }},
+      {"MultivariateNormalDistance",
+       {{}},
+       [](P, auto s) { return MahalanobisDistance(DeviationsFromMean(s)); },
+       [](P) { return ChiSquare(3); }},
+  };
+  return variates;
+}
+
+class Battery : public ::testing::TestWithParam<Variate> {};
+
+TEST_P(Battery, Agrees) {
+  const Variate& variate = GetParam();
+  for (const Parameters& p : variate.cases) {
+    SCOPED_TRACE(::testing::PrintToString(p));
+    ExpectAgreement([&](auto source) { return variate.draw(p, source); }, variate.reference(p),
+                    variate.draws);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Variates, Battery, ::testing::ValuesIn(Variates()),
+                         [](const auto& test) { return test.param.name; });
+
+TEST(PlantedDefects, AreSeen) {
+  struct Defect {
+    const char* name;
+    Reference reference;
+    Draw draw;
+    int draws = 100'000;
+  };
+  constexpr Extended shift = 1.005L;
+  const Defect defects[] = {
+      {"normal, shifted", Normal(7, 1), [](auto s) { return Random_Normal(7 * shift, 1, s); }},
+      {"gamma, shifted", Gamma(50), [](auto s) { return Random_Gamma(50, s) * shift; }},
+      {"gamma, mirrored", Gamma(50), [](auto s) { return 2 * 50 - Random_Gamma(50, s); }},
+      {"chi-square, shifted", ChiSquare(90), [](auto s) { return Random_ChiSq(90, s) * shift; }},
+      {"exponential, shifted", Gamma(1), [](auto s) { return Random_Exponential(s) * shift; },
+       2'500'000},
+      {"Weibull, shifted", Weibull(7), [](auto s) { return Random_Weibull(7, s) * shift; }},
+      {"beta, shifted", Beta(50, 80), [](auto s) { return Random_Beta(50, 80, s) * shift; }},
+      {"beta, exchanged", Beta(3, 4), [](auto s) { return Random_Beta(4, 3, s); }},
+      {"t, one-sided", StudentT(5), [](auto s) { return std::fabs(Random_T(5, s)); }},
+      {"t of 1 as it is", StudentT(1), [](auto s) { return Random_T(1, s); }},
+      {"t of 2 as it is", StudentT(2), [](auto s) { return Random_T(2, s); }},
+      {"Cauchy, one-sided", Cauchy(), [](auto s) { return std::fabs(Random_Cauchy(s)); }},
+      {"log-normal, shifted", LogNormal(0, 0.14L),
+       [](auto s) { return Random_LogNormal(shift, std::exp(0.0098L), s); }},
+      {"inverse Gaussian, shifted", GeneralisedInverseGaussian(20, 100),
+       [](auto s) { return Random_Inv_Gauss(20, 100, s) * shift; }},
+      {"inverse Gaussian, sign of b", GeneralisedInverseGaussian(3, 0.5L),
+       [](auto s) { return 1 / Random_Inv_Gauss(3, 0.5L, s); }},
+      {"von Mises, shifted", VonMises(9),
+       [](auto s) { return Random_von_Mises(9, s) + QorPi * (shift - 1); }, 40'000},
+      {"von Mises, one-sided", VonMises(3),
+       [](auto s) { return std::fabs(Random_von_Mises(3, s)); }, 10'000},
+      {"binomial 1, shifted", Binomial(50, 0.6L),
+       [](auto s) { return Random_Binomial1(50, 0.6L * shift, s); }},
+      {"binomial 1, mirrored", Binomial(100, 0.05L),
+       [](auto s) { return 2 * 5 - Random_Binomial1(100, 0.05L, s); }},
+      {"binomial 2, shifted", Binomial(300, 0.3L),
+       [](auto s) { return Random_Binomial2(300, 0.3L * shift, s); }},
+      {"negative binomial, shifted", NegativeBinomial(80, 0.5L),
+       [](auto s) { return Random_Neg_Binomial(80 * shift, 0.5L, s); }},
+      {"Poisson, shifted", Poisson(50), [](auto s) { return Random_Poisson(50 * shift, s); }},
+      {"Poisson, mirrored", Poisson(50), [](auto s) { return 2 * 50 - Random_Poisson(50, s); }},
+      {"multivariate normal, sign of a covariance", Normal(0, 2),
+       [](auto s) {
+         const TQorFloatVector x = DeviationsFromMean(s);
+         return x[0] - x[2];
+       }},
+  };
+  for (const Defect& defect : defects)
+    EXPECT_FALSE(Judge(defect.draw, defect.reference, defect.draws).IsGood()) << defect.name;
+}
+
+}  // namespace
+
+}  // namespace qorvex

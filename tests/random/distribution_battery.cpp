@@ -1,0 +1,171 @@
+#include "random/distribution_battery.h"
+
+#include <algorithm>
+#include <boost/math/quadrature/gauss.hpp>
+#include <numeric>
+#include <random>
+
+#include "qorvex/stats/full_precision.h"
+
+namespace qorvex::testing {
+
+namespace {
+
+// Cell i holds the values above edges[i-1] up to edges[i], the last one all others.
+struct Cells {
+  std::vector<Extended> edges;
+  std::vector<Extended> cumulative;
+};
+
+// 1024 cells of equal probability, of which the first and the last are halved seven times for the
+// sake of the tails. Where counts fall on the same edge or too few variates are expected, a cell is
+// united with the next one; so it is a single count that makes a cell where its probability
+// exceeds 1/1024.
+Cells CellsOf(const Reference& reference, int draws) {
+  constexpr Extended least_expectation = 5;
+  std::vector<Extended> levels;
+  for (int i = 1; i < 1024; ++i) levels.push_back(static_cast<Extended>(i) / 1024);
+  for (Extended tail = 0x1p-11L; tail >= 0x1p-17L; tail /= 2) {
+    levels.push_back(tail);
+    levels.push_back(1 - tail);
+  }
+  std::ranges::sort(levels);
+  Cells cells;
+  Extended below = 0;
+  for (const Extended level : levels) {
+    const Extended edge = reference.quantile(level);
+    const Extended at_most = reference.lower(edge);
+    if (std::min(at_most - below, 1 - at_most) * draws < least_expectation) continue;
+    cells.edges.push_back(edge);
+    cells.cumulative.push_back(at_most);
+    below = at_most;
+  }
+  cells.cumulative.push_back(1);
+  return cells;
+}
+
+Extended ChiSquareP(const Cells& cells, const std::vector<int>& counts, int draws) {
+  Extended chi_square = 0;
+  Extended below = 0;
+  for (std::size_t i = 0; i < counts.size(); ++i) {
+    const Extended expected = (cells.cumulative[i] - below) * draws;
+    below = cells.cumulative[i];
+    const Extended excess = counts[i] - expected;
+    chi_square += excess * excess / expected;
+  }
+  return full_precision::ChiSquareUpper(static_cast<Extended>(counts.size() - 1), chi_square);
+}
+
+// The greatest difference is looked for at the edges only. In between it can be larger by what
+// varies within one cell, which is a thirtieth of what the difference itself varies by: too large a
+// p-value, by some percent. Counts make it larger still.
+Extended KolmogorovSmirnovP(const Cells& cells, const std::vector<int>& counts, int draws) {
+  Extended difference = 0;
+  int below = 0;
+  for (std::size_t i = 0; i < counts.size(); ++i) {
+    below += counts[i];
+    const Extended fraction = static_cast<Extended>(below) / draws;
+    difference = std::max(difference, std::fabs(fraction - cells.cumulative[i]));
+  }
+  const Extended x = difference * std::sqrt(static_cast<Extended>(draws));
+  if (x < 0.3L) return 1;
+  Extended p = 0;
+  for (int i = 20; i > 0; --i) p += (i % 2 == 1 ? 2 : -2) * std::exp(-2.0L * i * i * x * x);
+  return p;
+}
+
+Extended NormalP(Extended z) {
+  return 2 * full_precision::NormalUpper(0, 1, std::fabs(z));
+}
+
+}  // namespace
+
+Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,
+                    Support support) {
+  const Extended total = cumulative.back();
+  for (Extended& x : cumulative) x /= total;
+  const auto lower = [points, cumulative](Extended x) -> Extended {
+    const auto above = std::ranges::upper_bound(points, x) - points.begin();
+    return above == 0 ? 0 : cumulative[static_cast<std::size_t>(above - 1)];
+  };
+  const auto quantile = [points, cumulative](Extended p) {
+    return points[static_cast<std::size_t>(std::ranges::lower_bound(cumulative, p) -
+                                           cumulative.begin())];
+  };
+  return {lower, quantile, moments, support};
+}
+
+Reference Integrated(const std::function<Extended(Extended)>& log_density,
+                     const std::function<Extended(Extended)>& map, Extended lo, Extended hi,
+                     Support support) {
+  constexpr int intervals = 8192;
+  const auto at = [&](Extended i) { return lo + (hi - lo) * i / intervals; };
+  Extended greatest = -kInfinity;
+  for (int i = 0; i <= intervals; ++i) greatest = std::max(greatest, log_density(at(i)));
+  std::vector<Extended> points;
+  std::vector<Extended> cumulative;
+  Extended total = 0;
+  Extended sum = 0;
+  Extended squares = 0;
+  for (int i = 0; i < intervals; ++i) {
+    const Extended probability = boost::math::quadrature::gauss<Extended, 7>::integrate(
+        [&](Extended t) { return std::exp(log_density(t) - greatest); }, at(i), at(i + 1));
+    const Extended middle = map(at(i + 0.5L));
+    total += probability;
+    sum += probability * middle;
+    squares += probability * middle * middle;
+    points.push_back(map(at(i + 1)));
+    cumulative.push_back(total);
+  }
+  const Extended mean = sum / total;
+  return Tabulated(points, cumulative, {mean, squares / total - mean * mean}, support);
+}
+
+bool Verdict::IsGood() const {
+  return in_support && chi_square >= limit && kolmogorov_smirnov >= limit && mean >= limit &&
+         variance >= limit;
+}
+
+Verdict Judge(const Draw& draw, const Reference& reference, int draws) {
+  const auto& [known, support] = std::tie(reference.moments, reference.support);
+  const Extended centre = std::isnan(known.mean) ? 0 : known.mean;
+  const Cells cells = CellsOf(reference, draws);
+  std::mt19937_64 engine(20250707);
+  const auto source = [&engine] { return static_cast<Extended>(engine()) * 0x1p-64L; };
+
+  Verdict verdict;
+  std::vector<int> counts(cells.cumulative.size());
+  Extended sum = 0;
+  Extended squares = 0;
+  Extended fourth_powers = 0;
+  for (int i = 0; i < draws; ++i) {
+    const Extended x = draw(source);
+    if (!(x >= support.least && x <= support.largest) || (support.whole && x != std::trunc(x)))
+      verdict.in_support = false;
+    ++counts[static_cast<std::size_t>(std::ranges::lower_bound(cells.edges, x) -
+                                      cells.edges.begin())];
+    const Extended deviation = x - centre;
+    const Extended square = deviation * deviation;
+    sum += deviation;
+    squares += square;
+    fourth_powers += square * square;
+  }
+  verdict.chi_square = ChiSquareP(cells, counts, draws);
+  verdict.kolmogorov_smirnov = KolmogorovSmirnovP(cells, counts, draws);
+  if (!std::isnan(known.mean)) verdict.mean = NormalP(sum / std::sqrt(squares));
+  if (!std::isnan(known.variance)) {
+    const Extended excess = squares - known.variance * draws;
+    verdict.variance = NormalP(excess / std::sqrt(fourth_powers - squares * squares / draws));
+  }
+  return verdict;
+}
+
+void ExpectAgreement(const Draw& draw, const Reference& reference, int draws) {
+  const Verdict verdict = Judge(draw, reference, draws);
+  EXPECT_TRUE(verdict.IsGood()) << "in the support: " << verdict.in_support
+                                << ", p of chi-square: " << verdict.chi_square
+                                << ", Kolmogorov-Smirnov: " << verdict.kolmogorov_smirnov
+                                << ", mean: " << verdict.mean << ", variance: " << verdict.variance;
+}
+
+}  // namespace qorvex::testing
