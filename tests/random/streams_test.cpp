@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <random>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -48,6 +49,13 @@ const std::map<std::string, Variate>& Variates() {
   return variates;
 }
 
+Extended DrawRow(const testing::Table& table, std::size_t row, UniformSource source) {
+  const auto parameter = [&](const char* name) {
+    return table.Text(row, name).empty() ? 0 : table.Value(row, name);
+  };
+  return Variates().at(table.Text(row, "variate"))(parameter("a"), parameter("b"), source);
+}
+
 // The scripts of the table take the branches of every method.
 TEST(Streams, AreThoseOfTheMethods) {
   const testing::Table table("tables/variate_streams.csv");
@@ -57,15 +65,29 @@ TEST(Streams, AreThoseOfTheMethods) {
     std::vector<Extended> script;
     for (Extended draw = 0; draws >> draw;) script.push_back(draw * 0x1p-24L);
     ScriptedSource source(script);
-    const auto parameter = [&](const char* name) {
-      return table.Text(row, name).empty() ? 0 : table.Value(row, name);
-    };
-    const Variate variate = Variates().at(table.Text(row, "variate"));
-    const Extended value = variate(parameter("a"), parameter("b"), source);
+    const Extended value = DrawRow(table, row, source);
     EXPECT_EQ(source.left(), 0U);
     const Extended expected = table.Value(row, "value");
     EXPECT_LE(std::fabs(value - expected),
               table.Value(row, "units") * 1e-19L * std::fabs(expected));
+  }
+}
+
+// A constant that decides what is accepted shows in the count of draws.
+TEST(Streams, KeepTheirPaceOverManyVariates) {
+  const testing::Table table("tables/variate_sums.csv");
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    SCOPED_TRACE("row " + std::to_string(row + 1));
+    std::mt19937_64 engine;
+    std::uint32_t drawn = 0;
+    const auto source = [&] {
+      ++drawn;
+      return static_cast<Extended>(engine()) * 0x1p-64L;
+    };
+    Extended sum = 0;
+    for (int i = 0; i < 20'000; ++i) sum += DrawRow(table, row, source);
+    EXPECT_EQ(drawn, table.Value(row, "draws"));
+    EXPECT_LE(std::fabs(sum / table.Value(row, "sum") - 1), 1e-8L);
   }
 }
 
