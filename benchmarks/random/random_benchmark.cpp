@@ -54,32 +54,38 @@ const gsl_rng* GslGenerator() {
   return &instance;
 }
 
+constexpr std::size_t kDraws = 1000;
+
 // Registers draw(), called a thousand times an iteration.
 template <class Draw>
 void Register(const std::string& variate, const std::string& parameters, const std::string& who,
               Draw draw) {
-  constexpr int kDraws = 1000;
   const std::string name = variate + "/" + parameters + "/" + who + "/" + std::to_string(kDraws);
   benchmark::RegisterBenchmark(name.c_str(), [draw](benchmark::State& state) mutable {
     for (auto _ : state) {
-      for (int i = 0; i < kDraws; ++i) benchmark::DoNotOptimize(draw());
+      for (std::size_t i = 0; i < kDraws; ++i) benchmark::DoNotOptimize(draw());
     }
-    state.SetItemsProcessed(state.iterations() * kDraws);
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kDraws));
   });
 }
 
-// Registers fill(span), with a thousand variates an iteration.
-template <class Fill>
-void RegisterFill(const std::string& variate, const std::string& parameters, Fill fill) {
-  constexpr std::size_t kDraws = 1000;
-  const std::string name = variate + "/" + parameters + "/filler/" + std::to_string(kDraws);
-  benchmark::RegisterBenchmark(name.c_str(), [fill](benchmark::State& state) {
-    auto variates = TQorFloatVector::ForOverwrite(kDraws);
-    for (auto _ : state) {
-      fill(variates);
-      benchmark::ClobberMemory();
-    }
-    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kDraws));
+// Registers fill(vector), for a thousand variates an iteration, beside draw() for each element.
+template <class Fill, class Draw>
+void RegisterFill(const std::string& variate, const std::string& parameters, Fill fill, Draw draw) {
+  const auto add = [&](const std::string& who, auto work) {
+    const std::string name = variate + "/" + parameters + "/" + who + "/" + std::to_string(kDraws);
+    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
+      auto variates = TQorFloatVector::ForOverwrite(kDraws);
+      for (auto _ : state) {
+        work(variates);
+        benchmark::ClobberMemory();
+      }
+      state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kDraws));
+    });
+  };
+  add("ours", fill);
+  add("single calls", [draw](TQorFloatVector& variates) {
+    for (Extended& x : variates) x = draw();
   });
 }
 
@@ -97,19 +103,24 @@ void RegisterStd(const std::string& variate, const std::string& parameters,
   Register("Uniform", "-", "ours", Uniform);
   RegisterStd("Uniform", "-", std::uniform_real_distribution<Extended>());
   Register("Uniform", "-", "GSL", [gsl] { return gsl_rng_uniform(gsl); });
-  RegisterFill("Uniform", "-", [](TQorFloatVector& v) { FillUniform(v, Uniform); });
+  RegisterFill(
+      "FillUniform", "-", [](TQorFloatVector& v) { FillUniform(v, Uniform); }, Uniform);
 
   Register("Random_Normal", "-", "ours", [] { return Random_Normal(Uniform); });
   Register("Random_Normal", "-", "ours, from a lambda",
            [] { return Random_Normal([] { return Uniform(); }); });
   RegisterStd("Random_Normal", "-", std::normal_distribution<Extended>());
   Register("Random_Normal", "-", "GSL", [gsl] { return gsl_ran_gaussian_ratio_method(gsl, 1); });
-  RegisterFill("Random_Normal", "-", [](TQorFloatVector& v) { FillNormal(v, Uniform); });
+  RegisterFill(
+      "FillNormal", "-", [](TQorFloatVector& v) { FillNormal(v, Uniform); },
+      [] { return Random_Normal(Uniform); });
 
   Register("Random_Exponential", "-", "ours", [] { return Random_Exponential(Uniform); });
   RegisterStd("Random_Exponential", "-", std::exponential_distribution<Extended>());
   Register("Random_Exponential", "-", "GSL", [gsl] { return gsl_ran_exponential(gsl, 1); });
-  RegisterFill("Random_Exponential", "-", [](TQorFloatVector& v) { FillExponential(v, Uniform); });
+  RegisterFill(
+      "FillExponential", "-", [](TQorFloatVector& v) { FillExponential(v, Uniform); },
+      [] { return Random_Exponential(Uniform); });
 
   for (const double shape : {0.5, 3.7, 50.0}) {
     const std::string parameters = std::to_string(shape).substr(0, 4);
@@ -117,8 +128,9 @@ void RegisterStd(const std::string& variate, const std::string& parameters,
     RegisterStd("Random_Gamma", parameters, std::gamma_distribution<Extended>(shape));
     Register("Random_Gamma", parameters, "GSL",
              [gsl, shape] { return gsl_ran_gamma(gsl, shape, 1); });
-    RegisterFill("Random_Gamma", parameters,
-                 [shape](TQorFloatVector& v) { FillGamma(v, shape, Uniform); });
+    RegisterFill(
+        "FillGamma", parameters, [shape](TQorFloatVector& v) { FillGamma(v, shape, Uniform); },
+        [shape] { return Random_Gamma(shape, Uniform); });
   }
 
   Register("Random_ChiSq", "7", "ours", [] { return Random_ChiSq(7, Uniform); });
