@@ -119,7 +119,6 @@ TEST(InnerFormulas, DiscretisedNormalDensities) {
   }
 }
 
-// Above 2^-32 rounding 1 - p counts n times.
 TEST(InnerFormulas, PowersOfComplements) {
   for (const auto& [n, p] : {Trials{7, 0.3L},
                              {1e3L, 0.02L},
@@ -129,14 +128,14 @@ TEST(InnerFormulas, PowersOfComplements) {
                              {1e18L, 1e-25L}}) {
     const Real exact = pow(1 - Real(p), Real(n));
     EXPECT_LE(static_cast<Extended>(abs(detail::PowerOfComplement(p, n) / exact - 1)),
-              p > 0x1p-32L ? n * 1e-19L : 2e-18L)
+              1e-18L + 1e-19L * n * p)
         << n << ' ' << p;
   }
 }
 
 // The first uniform value chooses an interval and a place in it; the second one accepts the place.
 TEST(InnerFormulas, VonMisesIntervals) {
-  for (const Extended k : {0.75L, 1.0L, 3.0L, 9.4L}) {
+  for (const Extended k : {0.51L, 0.75L, 1.0L, 3.0L, 9.4L}) {
     const auto integral = [k](Extended lo, Extended hi) {
       return boost::math::quadrature::gauss<Extended, 30>::integrate(
           [k](Extended t) { return std::exp(k * std::cos(t)); }, lo, hi);
@@ -154,7 +153,7 @@ TEST(InnerFormulas, VonMisesIntervals) {
       const Extended* next = uniforms;
       const Extended angle = Random_von_Mises(k, [&next] { return *next++; });
       const Extended place = (angle - ends[j - 1]) / (ends[j] - ends[j - 1]);
-      EXPECT_LE(std::fabs(place - 0.75L) * weight, 1e-9L) << k << ' ' << j;
+      EXPECT_LE(std::fabs(place - 0.75L) * weight, 7e-9L) << k << ' ' << j;
       below += weight;
     }
   }
