@@ -91,14 +91,6 @@ TEST(Streams, KeepTheirPaceOverManyVariates) {
   }
 }
 
-TEST(Streams, NormalTakesTheFirstUniformAsTheDivisor) {
-  ScriptedSource source({0, 0, 0.5L, 0.75L, 0.5L, 0.5L});
-  const Extended variate = (0.75L - 0.5L) * 1.7156L / 0.5L;
-  EXPECT_EQ(Random_Normal(source), variate);
-  EXPECT_EQ(source.left(), 2U) << "the first pair is rejected, the second accepted";
-  EXPECT_EQ(Random_Normal(source), 0);
-}
-
 TEST(Streams, ScaledNormalUsesMeanAndDeviationUnchecked) {
   const auto scaled = [](Extended mean, Extended std_dev) {
     ScriptedSource source({0.5L, 0.75L});
@@ -108,20 +100,6 @@ TEST(Streams, ScaledNormalUsesMeanAndDeviationUnchecked) {
   EXPECT_EQ(scaled(3, 2), standard * 2 + 3);
   EXPECT_EQ(scaled(3, -2), standard * -2 + 3);
   EXPECT_EQ(scaled(3, 0), 3);
-}
-
-TEST(Streams, ShapeOneIsTheExponentialVariate) {
-  ScriptedSource source({0, 0.25L, 0, 0.25L});
-  const Extended exponential = Random_Exponential(source);
-  EXPECT_EQ(Random_Gamma(1, source), exponential);
-}
-
-TEST(Streams, ExchangedShapesMirrorTheBetaVariate) {
-  const std::vector<Extended> script = {0.375L, 0.625L, 0.8125L, 0.0625L};
-  ScriptedSource one(script);
-  ScriptedSource other(script);
-  EXPECT_EQ(Random_Beta(1, 2, one), 1 - Random_Beta(2, 1, other));
-  EXPECT_EQ(one.left(), other.left());
 }
 
 TEST(Streams, UnitDeviationGivesTheMeanOfTheLogNormalExactly) {
