@@ -59,11 +59,6 @@ class Program:
         return self.numbers("dist", family, "table", *parameters, *range_options).T
 
 
-def von_mises_density(concentration):
-    scale = 1 / (2 * np.pi * np.i0(concentration))
-    return lambda x: scale * np.exp(concentration * np.cos(x))
-
-
 def draw_bars(axes, left, width, heights, bottom, label):
     """All bars as one path, which makes the file a third shorter."""
     right = left + width

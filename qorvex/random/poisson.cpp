@@ -11,23 +11,21 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// Case A.
+// For means of at least 10: a normal variate rounded down or, where that is too large too often,
+// one of the difference, below a double exponential hat.
 Extended CorrectedNormal(Extended mu, UniformSource source) {
   const Extended deviation = std::sqrt(mu);
   const Extended g = mu + deviation * Random_Normal(source);
   if (g >= 0) {
     const Extended k = std::floor(g);
     if (k >= std::floor(mu - 1.1484L)) return k;
-  }
-  const detail::PoissonDensities densities(mu, deviation);
-  if (g >= 0) {
-    const Extended k = std::floor(g);
     const Extended u = source();
     const Extended below = mu - k;
     if (6 * mu * mu * u >= below * below * below) return k;
-    const detail::PoissonAndNormal at = densities.At(k);
+    const detail::PoissonAndNormal at = detail::PoissonDensities(mu, deviation).At(k);
     if (at.n_factor * (1 - u) <= at.p_factor * std::exp(at.p_exponent - at.n_exponent)) return k;
   }
+  const detail::PoissonDensities densities(mu, deviation);
   const Extended c = 0.1069L / mu;
   for (;;) {
     const Extended exponential = Random_Exponential(source);
@@ -42,7 +40,7 @@ Extended CorrectedNormal(Extended mu, UniformSource source) {
   }
 }
 
-// Case B.
+// For smaller means, from 0 upwards.
 Extended Inverted(Extended mu, UniformSource source) {
   const Extended at_0 = std::exp(-mu);
   for (;;) {
