@@ -56,12 +56,14 @@ concept NumericElement = FloatElement<T> || IntegerElement<T>;
 // a program of one could not be linked to a library of the other.
 template <class T>
 struct SumType {
-  using Type = std::conditional_t<FloatElement<T>, Extended, std::int64_t>;
+  using Type = std::conditional_t<FloatElement<T>, Extended,
+                                  std::conditional_t<IntegerElement<T>, std::int64_t, T>>;
 };
 /// @endcond
 
-/// The type in which sums over elements of T accumulate and are returned.
-template <NumericElement T>
+/// The type in which sums over elements of T accumulate and are returned: currencies add up to
+/// amounts of their own type.
+template <class T>
 using SumOf = typename SumType<T>::Type;
 
 }  // namespace qorvex

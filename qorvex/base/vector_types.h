@@ -9,6 +9,18 @@
 
 namespace qorvex {
 
+/// All thirteen elements of vectors and matrices.
+template <class T>
+concept AnyElement = NumericElement<T> || CurrencyElement<T>;
+
+/// The elements of at least 32 bits: six numeric ones and the currencies.
+template <class T>
+concept WideElement = WideNumericElement<T> || CurrencyElement<T>;
+
+/// The elements that add and subtract: the floating ones, int64, int32 and the currencies.
+template <class T>
+concept AdditiveElement = SignedArithmeticElement<T> || CurrencyElement<T>;
+
 /// A vector: a dynamic array of one element type.
 template <class T>
 using TQorVector = DynArray<T>;
@@ -52,3 +64,14 @@ using TQorLongCurrMatrix = TQorMatrix<QorLongCurrency>;
 /// @}
 
 }  // namespace qorvex
+
+/// @cond internal
+// Lists for explicit instantiation: X is applied to each element type of the family.
+#define QORVEX_FOR_CURRENCY_ELEMENTS(X) \
+  X(qorvex::Currency) X(qorvex::QorCurrency) X(qorvex::QorLongCurrency)
+#define QORVEX_FOR_WIDE_ELEMENTS(X) \
+  QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(X) QORVEX_FOR_CURRENCY_ELEMENTS(X)
+#define QORVEX_FOR_ADDITIVE_ELEMENTS(X) \
+  QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(X) QORVEX_FOR_CURRENCY_ELEMENTS(X)
+#define QORVEX_FOR_ALL_ELEMENTS(X) QORVEX_FOR_NUMERIC_ELEMENTS(X) QORVEX_FOR_CURRENCY_ELEMENTS(X)
+/// @endcond

@@ -29,9 +29,16 @@ std::int64_t SumOfTerms(const TQorVector<T>& vector, Term term) {
   return sum.Value();
 }
 
+template <CurrencyElement T>
+T SumOfTerms(const TQorVector<T>& vector, decltype(kItself)) {
+  detail::Int64Sum sum;
+  for (const T x : vector) sum.Add(x.stored());
+  return T(static_cast<typename T::StoredType>(sum.Value()));
+}
+
 }  // namespace
 
-template <NumericElement T>
+template <AnyElement T>
 SumOf<T> SumVector(const TQorVector<T>& vector) {
   detail::RequireElements(vector);
   return SumOfTerms(vector, kItself);
@@ -100,8 +107,11 @@ Extended VectorMagnitude(const TQorVector<T>& vector) {
   return std::sqrt(sum);
 }
 
+#define QORVEX_INSTANTIATE(T) template SumOf<T> SumVector(const TQorVector<T>&);
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
 #define QORVEX_INSTANTIATE(T)                          \
-  template SumOf<T> SumVector(const TQorVector<T>&);   \
   template SumOf<T> SumSqVector(const TQorVector<T>&); \
   template Extended VectorMagnitude(const TQorVector<T>&);
 QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)

@@ -17,9 +17,10 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The sum of the elements: extended for floating elements, int64 for integers. An empty vector
-/// raises EMathError with rsVectorIsEmpty. For all numeric elements.
-template <NumericElement T>
+/// The sum of the elements: extended for floating elements, int64 for integers, and for currencies
+/// an amount of their own type, whose stored integer wraps around. An empty vector raises
+/// EMathError with rsVectorIsEmpty. For all elements.
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT SumOf<T> SumVector(const TQorVector<T>& vector);
 
 /// The sum of the squares. An empty vector raises EMathError with rsVectorIsEmpty. For all numeric

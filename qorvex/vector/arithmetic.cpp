@@ -20,7 +20,7 @@ void Combine(const TQorVector<T>& a, const TQorVector<T>& b, T* result, T (*oper
 
 }  // namespace
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 TQorVector<T> AddVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
   auto result = TQorVector<T>::ForOverwrite(a.size());
@@ -28,7 +28,7 @@ TQorVector<T> AddVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   return result;
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 TQorVector<T> SubtractVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
   auto result = TQorVector<T>::ForOverwrite(a.size());
@@ -36,13 +36,13 @@ TQorVector<T> SubtractVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   return result;
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 void AddToVector(TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
   Combine(a, b, a.data(), detail::Sum<T>);
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 void SubtractFromVector(TQorVector<T>& a, const TQorVector<T>& b) {
   detail::RequireSameLength(a, b);
   Combine(a, b, a.data(), detail::Difference<T>);
@@ -78,7 +78,7 @@ Extended AngleBetweenVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
   template TQorVector<T> SubtractVectors(const TQorVector<T>&, const TQorVector<T>&); \
   template void AddToVector(TQorVector<T>&, const TQorVector<T>&);                    \
   template void SubtractFromVector(TQorVector<T>&, const TQorVector<T>&);
-QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ADDITIVE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                                                   \

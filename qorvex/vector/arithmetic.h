@@ -14,24 +14,24 @@ namespace qorvex::inline QorvexVector {
 
 /// A new vector with a[i] + b[i]; empty for two empty vectors. Different lengths raise EMathError
 /// with rsSameDimensions.
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> AddVectors(const TQorVector<T>& a,
                                                      const TQorVector<T>& b);
 
 /// A new vector with a[i] - b[i]; empty for two empty vectors. Different lengths raise EMathError
 /// with rsSameDimensions.
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> SubtractVectors(const TQorVector<T>& a,
                                                           const TQorVector<T>& b);
 
 /// Adds b[i] to a[i], seen through every handle of a's buffer. Different lengths raise EMathError
 /// with rsSameDimensions.
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 QORVEX_EXPORT void AddToVector(TQorVector<T>& a, const TQorVector<T>& b);
 
 /// Subtracts b[i] from a[i], seen through every handle of a's buffer. Different lengths raise
 /// EMathError with rsSameDimensions.
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 QORVEX_EXPORT void SubtractFromVector(TQorVector<T>& a, const TQorVector<T>& b);
 
 /// The sum of a[i] b[i] in ascending order: extended for floating elements; int64, wrapping, for

@@ -5,12 +5,12 @@
 
 namespace qorvex::inline QorvexVector {
 
-template <WideNumericElement T>
+template <WideElement T>
 void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value) {
   vector.Append(value);
 }
 
-template <WideNumericElement T>
+template <WideElement T>
 void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value, std::int32_t position) {
   vector.Append(value);
   if (position < 0 || position >= vector.High()) return;
@@ -19,7 +19,7 @@ void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value, std::
   *place = value;
 }
 
-template <WideNumericElement T>
+template <WideElement T>
 void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position) {
   if (position < 0 || position > vector.High()) return;
   if (vector.size() > 1) {
@@ -29,22 +29,22 @@ void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position) {
   vector.SetLength(vector.size() - 1);
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void FillVector(TQorVector<T>& vector, std::type_identity_t<T> value) {
   std::fill(vector.begin(), vector.end(), value);
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void ClearVector(TQorVector<T>& vector) {
-  if (!vector.empty()) std::memset(vector.data(), 0, vector.size() * sizeof(T));
+  if (!vector.empty()) std::memset(static_cast<void*>(vector.data()), 0, vector.size() * sizeof(T));
 }
 
-template <NumericElement T>
+template <AnyElement T>
 TQorVector<T> CopyVector(const TQorVector<T>& vector) {
   return TQorVector<T>(std::span<const T>(vector));
 }
 
-template <NumericElement T>
+template <AnyElement T>
 TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
   auto result = TQorVector<T>::ForOverwrite(vector.size());
   std::reverse_copy(vector.begin(), vector.end(), result.begin());
@@ -55,7 +55,7 @@ TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
   template void AppendValue2Vector(TQorVector<T>&, T);            \
   template void AddValue2Vector(TQorVector<T>&, T, std::int32_t); \
   template void DeleteValueFromVector(TQorVector<T>&, std::int32_t);
-QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_WIDE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                              \
@@ -63,7 +63,7 @@ QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
   template void ClearVector(TQorVector<T>&);               \
   template TQorVector<T> CopyVector(const TQorVector<T>&); \
   template TQorVector<T> ReverseVector(const TQorVector<T>&);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexVector

@@ -16,38 +16,40 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// Appends a value; the vector's buffer becomes private. For the six elements of at least 32 bits.
-/// Amortised O(1).
-template <WideNumericElement T>
+/// Appends a value; the vector's buffer becomes private. For the elements of at least 32 bits and
+/// the currencies. Amortised O(1).
+template <WideElement T>
 QORVEX_EXPORT void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value);
 
 /// Inserts a value before the position; a position that no element has appends instead. The buffer
-/// becomes private. For the six elements of at least 32 bits. O(n).
-template <WideNumericElement T>
+/// becomes private. For the elements of at least 32 bits and the
+/// currencies. O(n).
+template <WideElement T>
 QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value,
                                    std::int32_t position);
 
 /// Deletes the element at the position; nothing happens when there is none. Deleting the only
 /// element leaves the vector empty. While the elements move down, other handles of the same buffer
-/// see the move. For the six elements of at least 32 bits. O(n).
-template <WideNumericElement T>
+/// see the move. For the elements of at least 32 bits and the
+/// currencies. O(n).
+template <WideElement T>
 QORVEX_EXPORT void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position);
 
-/// Gives every element the value, seen through every handle of the buffer. For all numeric
+/// Gives every element the value, seen through every handle of the buffer. For all
 /// elements. O(n).
-template <NumericElement T>
+template <AnyElement T>
 QORVEX_EXPORT void FillVector(TQorVector<T>& vector, std::type_identity_t<T> value);
 
-/// Gives every element zero and keeps the length. For all numeric elements. O(n).
-template <NumericElement T>
+/// Gives every element zero and keeps the length. For all elements. O(n).
+template <AnyElement T>
 QORVEX_EXPORT void ClearVector(TQorVector<T>& vector);
 
-/// A new vector with the same elements and a buffer of its own. For all numeric elements. O(n).
-template <NumericElement T>
+/// A new vector with the same elements and a buffer of its own. For all elements. O(n).
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> CopyVector(const TQorVector<T>& vector);
 
-/// A new vector with the elements in opposite order. For all numeric elements. O(n).
-template <NumericElement T>
+/// A new vector with the elements in opposite order. For all elements. O(n).
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> ReverseVector(const TQorVector<T>& vector);
 
 }  // namespace qorvex::inline QorvexVector

@@ -4,7 +4,7 @@
 
 namespace qorvex::inline QorvexVector {
 
-template <NumericElement T>
+template <AnyElement T>
 T MinVector(const TQorVector<T>& vector) {
   detail::RequireElements(vector);
   T result = vector[0];
@@ -12,7 +12,7 @@ T MinVector(const TQorVector<T>& vector) {
   return result;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 T MaxVector(const TQorVector<T>& vector) {
   detail::RequireElements(vector);
   T result = vector[0];
@@ -20,7 +20,7 @@ T MaxVector(const TQorVector<T>& vector) {
   return result;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value, std::uint32_t& min_index,
                   std::uint32_t& max_index, bool& min_unique, bool& max_unique) {
   detail::RequireElements(vector);
@@ -61,7 +61,7 @@ void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value, std::
   template T MaxVector(const TQorVector<T>&);                                                     \
   template void MinMaxVector(const TQorVector<T>&, T&, T&, std::uint32_t&, std::uint32_t&, bool&, \
                              bool&);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexVector

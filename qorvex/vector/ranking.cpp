@@ -13,7 +13,7 @@ namespace {
 constexpr std::int32_t kNoRank = -1;
 constexpr Extended kContiguityLimit = 0.5L;
 
-template <NumericElement T>
+template <AnyElement T>
 bool Equal(T x, T y) {
   if constexpr (FloatElement<T>) {
     return SameFloat(x, y);
@@ -23,14 +23,14 @@ bool Equal(T x, T y) {
 }
 
 // The strict order of the sort; NaN comes before nothing.
-template <NumericElement T>
+template <AnyElement T>
 bool Before(T x, T y, bool ascending) {
   return ascending ? x < y : x > y;
 }
 
 // The first position in sorted order of an element that equals the value, found by counting what
 // sorts before it.
-template <NumericElement T>
+template <AnyElement T>
 std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending) {
   const T* first_equal = nullptr;
   for (const T& x : vector) {
@@ -45,7 +45,7 @@ std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending
 
 // Ranks all elements from their sorted order. Elements that equal one another lie together, and the
 // first equal of a later element is never before that of an earlier one.
-template <NumericElement T>
+template <AnyElement T>
 void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& ranks) {
   const detail::SortedIndices<T> sorted(vector.size(), ascending,
                                         [&](std::size_t i) -> const T& { return vector[i]; });
@@ -60,10 +60,10 @@ void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& 
 
 }  // namespace
 
-template <NumericElement T>
+template <AnyElement T>
 TQorLIntVector Vector2RankVector(const TQorVector<T>& vector, bool ascending) {
   auto ranks = TQorLIntVector::WithLength(vector.size());
-  if (IntegerElement<T> || !(QorTolerance >= kContiguityLimit)) {
+  if (!FloatElement<T> || !(QorTolerance >= kContiguityLimit)) {
     RankBySorting(vector, ascending, ranks);
   } else {
     std::ranges::transform(vector, ranks.begin(),
@@ -72,13 +72,13 @@ TQorLIntVector Vector2RankVector(const TQorVector<T>& vector, bool ascending) {
   return ranks;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 std::int32_t Vector2Rank(const TQorVector<T>& vector, std::uint32_t index, bool ascending) {
   if (index >= vector.size()) return kNoRank;
   return RankByCounting(vector, vector[index], ascending);
 }
 
-template <NumericElement T>
+template <AnyElement T>
 std::int32_t Vector2RankValue(const TQorVector<T>& vector, std::type_identity_t<T> value,
                               bool ascending) {
   return RankByCounting(vector, value, ascending);
@@ -88,7 +88,7 @@ std::int32_t Vector2RankValue(const TQorVector<T>& vector, std::type_identity_t<
   template TQorLIntVector Vector2RankVector(const TQorVector<T>&, bool);        \
   template std::int32_t Vector2Rank(const TQorVector<T>&, std::uint32_t, bool); \
   template std::int32_t Vector2RankValue(const TQorVector<T>&, T, bool);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexVector

@@ -6,7 +6,7 @@
 /// The rank of a value is the first position in the sorted vector whose element equals it, so ties
 /// share the lowest rank: (10, 20, 20, 30) ascending has the ranks (0, 1, 1, 3). Integers are
 /// compared exactly, floating elements with SameFloat in their own precision. NaN sorts last and
-/// equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all numeric elements;
+/// equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all elements;
 /// nothing raises for any input.
 
 #include <cstdint>
@@ -20,18 +20,18 @@ namespace qorvex::inline QorvexVector {
 /// The rank of every element; 0 for NaN. Empty for an empty vector. The cost of a sort, with 32
 /// bytes of memory an element; O(n^2) once QorTolerance is 0.5 or more, where the elements that
 /// equal a value need not lie together.
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(const TQorVector<T>& vector,
                                                              bool ascending);
 
 /// The rank of the element at the index; -1 when there is no such element or it is NaN. O(n),
 /// without a copy.
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT std::int32_t Vector2Rank(const TQorVector<T>& vector,
                                                      std::uint32_t index, bool ascending);
 
 /// The rank of a value; -1 when no element equals it. O(n), without a copy.
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(const TQorVector<T>& vector,
                                                           std::type_identity_t<T> value,
                                                           bool ascending);

@@ -23,12 +23,27 @@ bool Sign<float>::IsExcludedZero(float x) {
   return x == 0;
 }
 
+template <class T>
+struct ExactSign {
+  static bool IsZero(T x) { return x == T(); }
+  static bool IsExcludedZero(T x) { return x == T(); }
+  static bool IsPositive(T x) { return x > T(); }
+  static bool IsNegative(T x) { return x < T(); }
+};
+
 template <>
-struct Sign<std::int64_t> {
-  static bool IsZero(std::int64_t x) { return x == 0; }
-  static bool IsExcludedZero(std::int64_t x) { return x == 0; }
-  static bool IsPositive(std::int64_t x) { return x > 0; }
-  static bool IsNegative(std::int64_t x) { return x < 0; }
+struct Sign<std::int64_t> : ExactSign<std::int64_t> {};
+template <>
+struct Sign<QorCurrency> : ExactSign<QorCurrency> {};
+template <>
+struct Sign<QorLongCurrency> : ExactSign<QorLongCurrency> {};
+
+template <>
+struct Sign<Currency> {
+  static bool IsZero(Currency x) { return FloatIsZero(Currency2Float(x)); }
+  static bool IsExcludedZero(Currency x) { return FloatIsZero(Currency2Float(x)); }
+  static bool IsPositive(Currency x) { return FloatIsPositive(Currency2Float(x)); }
+  static bool IsNegative(Currency x) { return FloatIsNegative(Currency2Float(x)); }
 };
 
 }  // namespace
@@ -64,6 +79,7 @@ bool VectorNonNegative(const TQorVector<T>& vector) {
   template bool VectorNonNegative(const TQorVector<T>&);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 QORVEX_INSTANTIATE(std::int64_t)
+QORVEX_FOR_CURRENCY_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexVector

@@ -4,9 +4,10 @@
 /// Tests of the signs of all elements.
 ///
 /// Each looks at elements from the front only until the answer is certain. Floating elements are
-/// judged within QorTolerance; int64 elements exactly. An empty vector raises EMathError with
-/// rsVectorIsEmpty. A NaN element counts as not zero, not positive and not negative. For Float,
-/// Double, Single and Int64 vectors. O(n).
+/// judged within QorTolerance, and so are the amounts of Currency vectors; int64 elements and the
+/// other currencies exactly. An empty vector raises EMathError with rsVectorIsEmpty. A NaN element
+/// counts as not zero, not positive and not negative. For Float, Double, Single and Int64 vectors
+/// and those of the currencies. O(n).
 
 #include <concepts>
 #include <cstdint>
@@ -18,7 +19,7 @@ namespace qorvex::inline QorvexVector {
 
 /// The elements that the sign tests know.
 template <class T>
-concept SignTestElement = FloatElement<T> || std::same_as<T, std::int64_t>;
+concept SignTestElement = FloatElement<T> || std::same_as<T, std::int64_t> || CurrencyElement<T>;
 
 /// Every element is zero.
 template <SignTestElement T>

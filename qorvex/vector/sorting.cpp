@@ -11,7 +11,7 @@ namespace qorvex::inline QorvexVector {
 namespace {
 
 // Sorts elements that are not NaN, through keys that take the elements' own place in memory.
-template <NumericElement T, class Key>
+template <AnyElement T, class Key>
 void SortInPlace(T* elements, std::size_t count, bool ascending, detail::KeySorter<Key>& sorter) {
   using Traits = detail::SortKey<T>;
   static_assert(sizeof(Key) == sizeof(T) && alignof(Key) == alignof(T));
@@ -31,7 +31,7 @@ void SortInPlace(T* elements, std::size_t count, bool ascending, detail::KeySort
 
 }  // namespace
 
-template <NumericElement T>
+template <AnyElement T>
 void QSortVector(TQorVector<T>& vector, bool ascending) {
   if (vector.size() < 2) return;
   detail::KeySorter<typename detail::SortKey<T>::Key> sorter(vector.size());
@@ -43,7 +43,7 @@ void QSortVector(TQorVector<T>& vector, bool ascending) {
 }
 
 #define QORVEX_INSTANTIATE(T) template void QSortVector(TQorVector<T>&, bool);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexVector

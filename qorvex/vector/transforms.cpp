@@ -4,6 +4,7 @@
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/currency_arithmetic.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 #include "qorvex/vector/sign_tests.h"
@@ -69,6 +70,12 @@ void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope,
   for (T& x : vector) x = detail::ProductPlus<T, Constant>(x, slope, intercept);
 }
 
+template <CurrencyElement T>
+void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept) {
+  detail::RequireElements(vector);
+  for (T& x : vector) x = detail::LinearTransform(x, slope, intercept);
+}
+
 template <FloatElement T>
 void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func) {
   detail::RequireElements(vector);
@@ -87,6 +94,11 @@ QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 
 #define QORVEX_INSTANTIATE(T) template void SquareVector(TQorVector<T>&);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) \
+  template void LinearTransformVector(TQorVector<T>&, Extended, Extended);
+QORVEX_FOR_CURRENCY_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T) template void LinearTransformVector(TQorVector<T>&, T, T);

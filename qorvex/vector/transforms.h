@@ -54,6 +54,14 @@ template <class T>
 requires FloatElement<T> || std::same_as<T, std::int64_t> QORVEX_EXPORT void LinearTransformVector(
     TQorVector<T>& vector, std::type_identity_t<T> slope, std::type_identity_t<T> intercept);
 
+/// Replaces each amount by slope * amount + intercept in units, computed in extended precision and
+/// rounded to the nearest amount, ties to even; what does not fit becomes the smallest amount. For
+/// QorCurrency and QorLongCurrency the amount is divided by its scale first; Currency elements
+/// compute slope * stored + intercept * 10,000. An empty vector raises EMathError with
+/// rsVectorIsEmpty. For the currencies.
+template <CurrencyElement T>
+QORVEX_EXPORT void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept);
+
 /// Replaces each element x by func(x), once an element in ascending order. What func throws passes
 /// through, with the earlier elements already replaced; func must not be null nor change the
 /// vector's length. An empty vector raises EMathError with rsVectorIsEmpty. For floating elements.

@@ -11,8 +11,7 @@
 namespace qorvex {
 
 /// The types that the probe accepts, one letter an element type: g d f (floating), j u i (64- and
-/// 32-bit integers), w s b t (16- and 8-bit integers), and the currencies C S L, which the plain
-/// units know nothing of.
+/// 32-bit integers), w s b t (16- and 8-bit integers), and the currencies C S L.
 template <class Probe>
 std::string Exists(Probe probe) {
   std::string types;

@@ -48,7 +48,8 @@ class Table {
 };
 
 /// The largest relative error of compute(row) against a column, over the rows whose expected value
-/// is at least `least` in magnitude. The error is in units of 1e-19; rounding to 80 bits alone makes 0.54.
+/// is at least `least` in magnitude. The error is in units of 1e-19; rounding to 80 bits alone
+/// makes 0.54.
 template <class Compute>
 void ExpectWorstError(const Table& table, const std::string& column, Extended limit,
                       Compute compute, Extended least = 1e-20L) {

@@ -17,12 +17,12 @@ void ExpectTypes(const std::string& types, const std::vector<std::string>& routi
 }
 
 TEST(ElementTables, Building) {
-  ExpectTypes("gdfjui", {TYPES_OF(AppendValue2Vector(v, 1)), TYPES_OF(AddValue2Vector(v, 1, 0)),
-                         TYPES_OF(DeleteValueFromVector(v, 0))});
-  ExpectTypes("gdfjuiwsbt",
-              {TYPES_OF(FillVector(v, 1)), TYPES_OF(ClearVector(v)), TYPES_OF(CopyVector(v)),
-               TYPES_OF(ReverseVector(v)), TYPES_OF(Vector2FloatVector(v)),
-               TYPES_OF(Array2FloatVector(std::array{v[0]}))});
+  ExpectTypes("gdfjuiCSL", {TYPES_OF(AppendValue2Vector(v, x)), TYPES_OF(AddValue2Vector(v, x, 0)),
+                            TYPES_OF(DeleteValueFromVector(v, 0))});
+  ExpectTypes("gdfjuiwsbtCSL", {TYPES_OF(FillVector(v, x)), TYPES_OF(ClearVector(v)),
+                                TYPES_OF(CopyVector(v)), TYPES_OF(ReverseVector(v))});
+  ExpectTypes("gdfjuiwsbt", {TYPES_OF(Vector2FloatVector(v)), TYPES_OF(FillVector(v, 1)),
+                             TYPES_OF(Array2FloatVector(std::array{v[0]}))});
   ExpectTypes("juiwsbt",
               {TYPES_OF(Vector2Int64Vector(v)), TYPES_OF(Array2Int64Vector(std::array{v[0]}))});
   ExpectTypes("iwsbt",
@@ -30,13 +30,14 @@ TEST(ElementTables, Building) {
 }
 
 TEST(ElementTables, Aggregates) {
-  ExpectTypes("gdfjuiwsbt", {TYPES_OF(MinVector(v)), TYPES_OF(MaxVector(v)), TYPES_OF(SumVector(v)),
-                             TYPES_OF(SumSqVector(v)), TYPES_OF(VectorMagnitude(v)),
-                             TYPES_OF(MinMaxVector(v, x, x, i, i, b, b))});
+  ExpectTypes("gdfjuiwsbtCSL",
+              {TYPES_OF(MinVector(v)), TYPES_OF(MaxVector(v)),
+               TYPES_OF(MinMaxVector(v, x, x, i, i, b, b)), TYPES_OF(SumVector(v))});
+  ExpectTypes("gdfjuiwsbt", {TYPES_OF(SumSqVector(v)), TYPES_OF(VectorMagnitude(v))});
   ExpectTypes("gdfjui", {TYPES_OF(SumSqDiffVector(v, 2)), TYPES_OF(SumSqDiffVector(v, 2.0)),
                          TYPES_OF(SumSqDiffVectors(v, v))});
-  ExpectTypes("gdfj", {TYPES_OF(VectorZero(v)), TYPES_OF(VectorNonZero(v)),
-                       TYPES_OF(VectorPositive(v)), TYPES_OF(VectorNonNegative(v))});
+  ExpectTypes("gdfjCSL", {TYPES_OF(VectorZero(v)), TYPES_OF(VectorNonZero(v)),
+                          TYPES_OF(VectorPositive(v)), TYPES_OF(VectorNonNegative(v))});
 
   static_assert(std::is_same_v<decltype(SumVector(TQorSingleVector())), Extended>);
   static_assert(std::is_same_v<decltype(SumVector(TQorByteVector())), std::int64_t>);
@@ -46,17 +47,17 @@ TEST(ElementTables, Aggregates) {
 }
 
 TEST(ElementTables, SortingAndArithmetic) {
-  ExpectTypes("gdfjuiwsbt",
+  ExpectTypes("gdfjuiwsbtCSL",
               {TYPES_OF(QSortVector(v, true)), TYPES_OF(Vector2RankVector(v, true)),
-               TYPES_OF(Vector2Rank(v, 0, true)), TYPES_OF(Vector2RankValue(v, 0, true))});
-  ExpectTypes("gdfji", {TYPES_OF(AddVectors(v, v)), TYPES_OF(SubtractVectors(v, v)),
-                        TYPES_OF(AddToVector(v, v)), TYPES_OF(SubtractFromVector(v, v))});
+               TYPES_OF(Vector2Rank(v, 0, true)), TYPES_OF(Vector2RankValue(v, x, true))});
+  ExpectTypes("gdfjiCSL", {TYPES_OF(AddVectors(v, v)), TYPES_OF(SubtractVectors(v, v)),
+                           TYPES_OF(AddToVector(v, v)), TYPES_OF(SubtractFromVector(v, v))});
   ExpectTypes("gdfjui", {TYPES_OF(DotProdVectors(v, v)), TYPES_OF(AngleBetweenVectors(v, v)),
                          TYPES_OF(SquareVector(v))});
   ExpectTypes("gdf", {TYPES_OF(SqrtVector(v)), TYPES_OF(InvVector(v)), TYPES_OF(LnVector(v)),
                       TYPES_OF(Log10Vector(v)), TYPES_OF(Log2Vector(v)),
                       TYPES_OF(TransformVector(v, nullptr)), TYPES_OF(MovingAverage(v, 1, 0))});
-  EXPECT_EQ(TYPES_OF(LinearTransformVector(v, 1, 0)), "gdfj");
+  EXPECT_EQ(TYPES_OF(LinearTransformVector(v, 1, 0)), "gdfjCSL");
   EXPECT_EQ(TYPES_OF(QorPolynomial(v, 1)), "g");
 }
 

@@ -1,29 +1,34 @@
 #pragma once
 
 // Sums and products of elements. Floating ones are formed in extended precision, each operation
-// rounding once, and then rounded to their own type; integers wrap around. Factors and addends of
+// rounding once, and then rounded to their own type; integers and
+// the stored integers of amounts wrap around. Factors and addends of
 // products are extended for floating elements and of the element's type for integers.
 
 #include <type_traits>
 
-#include "qorvex/base/element_types.h"
+#include "qorvex/base/vector_types.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
 namespace qorvex::inline QorvexVector::detail {
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 constexpr T Sum(T x, T y) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) + static_cast<Extended>(y));
+  } else if constexpr (CurrencyElement<T>) {
+    return T(WrappingAdd(x.stored(), y.stored()));
   } else {
     return WrappingAdd(x, y);
   }
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 constexpr T Difference(T x, T y) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) - static_cast<Extended>(y));
+  } else if constexpr (CurrencyElement<T>) {
+    return T(WrappingSubtract(x.stored(), y.stored()));
   } else {
     return WrappingSubtract(x, y);
   }

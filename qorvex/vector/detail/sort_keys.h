@@ -9,6 +9,7 @@
 #include <cstring>
 #include <type_traits>
 
+#include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 
 namespace qorvex::inline QorvexVector::detail {
@@ -30,6 +31,20 @@ struct SortKey<T> {
     return static_cast<Key>(static_cast<Key>(*element) ^ kFlip);
   }
   static T Value(Key key) noexcept { return static_cast<T>(static_cast<Key>(key ^ kFlip)); }
+};
+
+// Amounts sort as their stored integers do.
+template <CurrencyElement T>
+struct SortKey<T> {
+  using Stored = SortKey<typename T::StoredType>;
+  using Key = typename Stored::Key;
+  static constexpr Key kKeyMask = Stored::kKeyMask;
+
+  static Key Read(const T* element) noexcept {
+    const auto stored = element->stored();
+    return Stored::Read(&stored);
+  }
+  static T Value(Key key) noexcept { return T(Stored::Value(key)); }
 };
 
 // IEEE formats are sign and magnitude: negative values flip all bits, others the sign bit. -0 comes

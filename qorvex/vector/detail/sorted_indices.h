@@ -12,7 +12,7 @@ namespace qorvex::inline QorvexVector::detail {
 
 // Sorts records that hold an element's key above its index, so elements with equal keys stay in the
 // order of their indices. NaN is last in either direction. All memory is allocated at construction.
-template <NumericElement T>
+template <AnyElement T>
 class SortedIndices {
  public:
   // element_at(i) refers to the element with the index i.

@@ -1,0 +1,49 @@
+#pragma once
+
+/// @file
+/// Unit QorvexFinVector: vectors of the three currencies.
+///
+/// A currency is a type of its own, so the routines are those of the unit QorvexVector and the
+/// element type of a vector decides what they do with it. They work on the stored integers, exactly
+/// and wrapping around, but for what the comments of SumVector, the sign tests and
+/// LinearTransformVector say of amounts. SameCurrency decides which amounts are equal in a ranking.
+/// There are no squares, products, element-wise functions or moving averages of money.
+
+#include "qorvex/vector/aggregates.h"
+#include "qorvex/vector/arithmetic.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/currency_conversion.h"
+#include "qorvex/vector/extremes.h"
+#include "qorvex/vector/ranking.h"
+#include "qorvex/vector/sign_tests.h"
+#include "qorvex/vector/sorting.h"
+#include "qorvex/vector/transforms.h"
+
+namespace qorvex::inline QorvexFinVector {
+
+using QorvexVector::AddToVector;
+using QorvexVector::AddValue2Vector;
+using QorvexVector::AddVectors;
+using QorvexVector::AppendValue2Vector;
+using QorvexVector::ClearVector;
+using QorvexVector::CopyVector;
+using QorvexVector::DeleteValueFromVector;
+using QorvexVector::FillVector;
+using QorvexVector::LinearTransformVector;
+using QorvexVector::MaxVector;
+using QorvexVector::MinMaxVector;
+using QorvexVector::MinVector;
+using QorvexVector::QSortVector;
+using QorvexVector::ReverseVector;
+using QorvexVector::SubtractFromVector;
+using QorvexVector::SubtractVectors;
+using QorvexVector::SumVector;
+using QorvexVector::Vector2Rank;
+using QorvexVector::Vector2RankValue;
+using QorvexVector::Vector2RankVector;
+using QorvexVector::VectorNonNegative;
+using QorvexVector::VectorNonZero;
+using QorvexVector::VectorPositive;
+using QorvexVector::VectorZero;
+
+}  // namespace qorvex::inline QorvexFinVector
