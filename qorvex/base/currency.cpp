@@ -19,15 +19,6 @@ C FromFloat(Extended value) noexcept {
   return C(RoundToInteger<typename C::StoredType>(value * static_cast<Extended>(C::kScale)));
 }
 
-std::int64_t DivideHalfEven(std::int64_t dividend, std::int64_t divisor) noexcept {
-  const std::int64_t quotient = dividend / divisor;
-  const std::int64_t remainder = dividend % divisor;
-  const std::int64_t twice = remainder < 0 ? -2 * remainder : 2 * remainder;
-  const bool away_from_zero = twice > divisor || (twice == divisor && quotient % 2 != 0);
-  if (!away_from_zero) return quotient;
-  return dividend < 0 ? quotient - 1 : quotient + 1;
-}
-
 template <CurrencyElement To, CurrencyElement From>
 To Rescale(From amount) noexcept {
   using Stored = typename To::StoredType;

@@ -1,10 +1,11 @@
 #pragma once
 
 /// @file
-/// Rounding an extended value to an integer type.
+/// Rounding to integers.
 
 #include <cmath>
 #include <concepts>
+#include <cstdint>
 #include <limits>
 
 #include "qorvex/base/element_types.h"
@@ -23,6 +24,17 @@ template <std::integral Int>
   const Extended rounded = std::nearbyint(value);
   if (!(rounded >= lowest && rounded < beyond)) return std::numeric_limits<Int>::min();
   return static_cast<Int>(rounded);
+}
+
+/// The nearest integer to a quotient, ties to even. For a divisor from 1 to 2^62.
+[[nodiscard]] constexpr std::int64_t DivideHalfEven(std::int64_t dividend,
+                                                    std::int64_t divisor) noexcept {
+  const std::int64_t quotient = dividend / divisor;
+  const std::int64_t remainder = dividend % divisor;
+  const std::int64_t twice = remainder < 0 ? -2 * remainder : 2 * remainder;
+  const bool away_from_zero = twice > divisor || (twice == divisor && quotient % 2 != 0);
+  if (!away_from_zero) return quotient;
+  return dividend < 0 ? quotient - 1 : quotient + 1;
 }
 
 }  // namespace qorvex

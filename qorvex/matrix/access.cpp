@@ -8,7 +8,7 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-template <NumericElement T>
+template <AnyElement T>
 TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix, std::uint32_t row) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return {};
@@ -17,7 +17,7 @@ TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix, std::uint32_t row) {
   return TQorVector<T>(std::span(matrix[row]).first(shape.cols));
 }
 
-template <NumericElement T>
+template <AnyElement T>
 TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix, std::uint32_t col) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return {};
@@ -28,7 +28,7 @@ TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix, std::uint32_t col) {
   return result;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVector<T>& vector,
                         std::type_identity_t<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
@@ -41,7 +41,7 @@ void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVect
   std::fill(elements + given, elements + shape.cols, fill);
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVector<T>& vector,
                         std::type_identity_t<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
@@ -58,7 +58,7 @@ void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVect
   template TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>&, std::uint32_t);             \
   template void OverwriteMatrixRow(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, T); \
   template void OverwriteMatrixCol(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, T);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -22,10 +22,10 @@ namespace qorvex::inline QorvexMatrix {
 /// @{
 /// A copy of one row, as long as the matrix has columns, or of one column, as long as it has rows.
 /// O(rows + columns).
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix,
                                                            std::uint32_t row);
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix,
                                                            std::uint32_t col);
 /// @}
@@ -34,10 +34,10 @@ template <NumericElement T>
 /// Writes the elements of the vector into one row or one column, in ascending order, and the fill
 /// value where the vector is too short; what it has in excess is left out. The change is seen
 /// through every handle of a row's buffer. O(rows + columns).
-template <NumericElement T>
+template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
                                       const TQorVector<T>& vector, std::type_identity_t<T> fill);
-template <NumericElement T>
+template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col,
                                       const TQorVector<T>& vector, std::type_identity_t<T> fill);
 /// @}

@@ -45,27 +45,27 @@ TQorMatrix<T> Combined(const TQorMatrix<T>& a, const TQorMatrix<T>& b, T (*opera
 
 }  // namespace
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 TQorMatrix<T> AddMatrices(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   return Combined(a, b, Sum<T>);
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 TQorMatrix<T> SubtractMatrices(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   return Combined(a, b, Difference<T>);
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 void AddToMatrix(TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   Combine(a, b, CommonShape(a, b), a, Sum<T>);
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 void SubtractFromMatrix(TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   Combine(a, b, CommonShape(a, b), a, Difference<T>);
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>& matrix, FactorOf<T> factor) {
   detail::RequireRows(matrix);
   auto result = TQorMatrix<T>::WithLength(matrix.size());
@@ -77,7 +77,7 @@ TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>& matrix, FactorOf<T> fac
   return result;
 }
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 void MultiplyMatrixByConst2(TQorMatrix<T>& matrix, FactorOf<T> factor) {
   detail::RequireRows(matrix);
   for (TQorVector<T>& row : matrix) {
@@ -92,7 +92,7 @@ void MultiplyMatrixByConst2(TQorMatrix<T>& matrix, FactorOf<T> factor) {
   template void SubtractFromMatrix(TQorMatrix<T>&, const TQorMatrix<T>&);              \
   template TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>&, FactorOf<T>);     \
   template void MultiplyMatrixByConst2(TQorMatrix<T>&, FactorOf<T>);
-QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ADDITIVE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexMatrix

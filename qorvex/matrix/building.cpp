@@ -27,7 +27,7 @@ QORVEX_DEFINE_CREATION(Byte, std::uint8_t)
 QORVEX_DEFINE_CREATION(SInt, std::int8_t)
 #undef QORVEX_DEFINE_CREATION
 
-template <NumericElement T>
+template <AnyElement T>
 TQorMatrix<T> CopyMatrix(const TQorMatrix<T>& matrix) {
   auto copy = TQorMatrix<T>::WithLength(matrix.size());
   std::ranges::transform(matrix, copy.begin(), CopyVector<T>);
@@ -41,9 +41,11 @@ TQorFloatMatrix Matrix2FloatMatrix(const TQorMatrix<T>& matrix) {
   return result;
 }
 
-#define QORVEX_INSTANTIATE(T)                              \
-  template TQorMatrix<T> CopyMatrix(const TQorMatrix<T>&); \
-  template TQorFloatMatrix Matrix2FloatMatrix(const TQorMatrix<T>&);
+#define QORVEX_INSTANTIATE(T) template TQorMatrix<T> CopyMatrix(const TQorMatrix<T>&);
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) template TQorFloatMatrix Matrix2FloatMatrix(const TQorMatrix<T>&);
 QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

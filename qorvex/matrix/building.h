@@ -50,8 +50,8 @@ namespace qorvex::inline QorvexMatrix {
 /// @}
 
 /// A copy with rows of its own. Ragged shapes and rows without elements are kept; rows that shared
-/// a buffer no longer do. For all numeric elements.
-template <NumericElement T>
+/// a buffer no longer do. For all elements.
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> CopyMatrix(const TQorMatrix<T>& matrix);
 
 /// The elements in extended precision, each converted exactly, in rows of the same lengths; a copy

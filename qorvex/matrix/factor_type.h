@@ -5,7 +5,7 @@
 
 #include <type_traits>
 
-#include "qorvex/base/element_types.h"
+#include "qorvex/base/vector_types.h"
 
 namespace qorvex::inline QorvexMatrix {
 
@@ -13,12 +13,13 @@ namespace qorvex::inline QorvexMatrix {
 // A class of its own for the reason that SumType is one.
 template <class T>
 struct FactorType {
-  using Type = std::conditional_t<FloatElement<T>, Extended, T>;
+  using Type = std::conditional_t<IntegerElement<T>, T, Extended>;
 };
 /// @endcond
 
-/// Extended for floating elements, so that a factor keeps all its digits; an integer's own type.
-template <SignedArithmeticElement T>
+/// Extended for floating elements and currencies, so that a factor keeps all its digits; an
+/// integer's own type.
+template <AdditiveElement T>
 using FactorOf = typename FactorType<T>::Type;
 
 }  // namespace qorvex::inline QorvexMatrix

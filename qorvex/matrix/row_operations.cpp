@@ -24,13 +24,13 @@ void CheckCols(const TQorMatrix<T>& matrix, Cols... cols) {
 
 }  // namespace
 
-template <NumericElement T>
+template <AnyElement T>
 void SwapMatrixRows(TQorMatrix<T>& matrix, std::uint32_t row1, std::uint32_t row2) {
   const std::size_t width = CheckedWidth(matrix, row1, row2);
   detail::SwapElements(matrix[row1].data(), matrix[row2].data(), width);
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void SwapMatrixCols(TQorMatrix<T>& matrix, std::uint32_t col1, std::uint32_t col2) {
   CheckCols(matrix, col1, col2);
   for (TQorVector<T>& row : matrix) SwapXY(row[col1], row[col2]);
@@ -69,7 +69,7 @@ void AddMatrixCols(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t so
 #define QORVEX_INSTANTIATE(T)                                                 \
   template void SwapMatrixRows(TQorMatrix<T>&, std::uint32_t, std::uint32_t); \
   template void SwapMatrixCols(TQorMatrix<T>&, std::uint32_t, std::uint32_t);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                                                             \

@@ -22,13 +22,13 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-/// Exchanges two rows element by element; the same index twice changes nothing. For all numeric
+/// Exchanges two rows element by element; the same index twice changes nothing. For all
 /// elements. O(columns).
-template <NumericElement T>
+template <AnyElement T>
 QORVEX_EXPORT void SwapMatrixRows(TQorMatrix<T>& matrix, std::uint32_t row1, std::uint32_t row2);
 
-/// Exchanges two columns; the same index twice changes nothing. For all numeric elements. O(rows).
-template <NumericElement T>
+/// Exchanges two columns; the same index twice changes nothing. For all elements. O(rows).
+template <AnyElement T>
 QORVEX_EXPORT void SwapMatrixCols(TQorMatrix<T>& matrix, std::uint32_t col1, std::uint32_t col2);
 
 /// Multiplies a row by a factor. The factor 1 returns at once, before any check. For Float, Double,

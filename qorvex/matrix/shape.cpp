@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <mutex>
 
+#include "qorvex/matrix/currency_shape.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
 
@@ -42,7 +43,7 @@ std::uint32_t MatrixCols(const TQorMatrix<T>& matrix) noexcept {
   return detail::ShapeOf(matrix, false).cols;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void MatrixDimensions(const TQorMatrix<T>& matrix, std::uint32_t& rows, std::uint32_t& cols,
                       bool& rectangular) noexcept {
   const detail::Shape shape = detail::ShapeOf(matrix);
@@ -51,20 +52,20 @@ void MatrixDimensions(const TQorMatrix<T>& matrix, std::uint32_t& rows, std::uin
   rectangular = shape.rectangular;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 bool MatrixIsRectangular(const TQorMatrix<T>& matrix) noexcept {
   return !matrix.empty() && std::ranges::all_of(matrix, [&](const TQorVector<T>& row) {
     return row.size() == matrix[0].size();
   });
 }
 
-template <NumericElement T>
+template <AnyElement T>
 bool MatrixIsSquare(const TQorMatrix<T>& matrix) noexcept {
   const detail::Shape shape = detail::ShapeOf(matrix);
   return shape.rectangular && shape.rows == shape.cols;
 }
 
-template <NumericElement T>
+template <AnyElement T>
 bool MatricesSameDimensions(const TQorMatrix<T>& a, const TQorMatrix<T>& b) noexcept {
   const detail::Shape shape_a = detail::ShapeOf(a);
   const detail::Shape shape_b = detail::ShapeOf(b);
@@ -72,15 +73,25 @@ bool MatricesSameDimensions(const TQorMatrix<T>& a, const TQorMatrix<T>& b) noex
          shape_a.cols == shape_b.cols;
 }
 
+#define QORVEX_INSTANTIATE(T)                                       \
+  template std::uint32_t MatrixRows(const TQorMatrix<T>&) noexcept; \
+  template std::uint32_t MatrixCols(const TQorMatrix<T>&) noexcept;
+QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
 #define QORVEX_INSTANTIATE(T)                                                          \
-  template std::uint32_t MatrixRows(const TQorMatrix<T>&) noexcept;                    \
-  template std::uint32_t MatrixCols(const TQorMatrix<T>&) noexcept;                    \
   template void MatrixDimensions(const TQorMatrix<T>&, std::uint32_t&, std::uint32_t&, \
                                  bool&) noexcept;                                      \
   template bool MatrixIsRectangular(const TQorMatrix<T>&) noexcept;                    \
   template bool MatrixIsSquare(const TQorMatrix<T>&) noexcept;                         \
   template bool MatricesSameDimensions(const TQorMatrix<T>&, const TQorMatrix<T>&) noexcept;
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexMatrix
+
+namespace qorvex::inline QorvexFinMatrix {
+
+constinit std::atomic<bool> QorMatrixRectangularCheck = true;
+
+}  // namespace qorvex::inline QorvexFinMatrix

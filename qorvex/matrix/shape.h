@@ -4,7 +4,8 @@
 /// The shape of a matrix, and the switch that decides whether routines compare the lengths of rows.
 ///
 /// Shapes are asked for here and nowhere else, so that every matrix routine agrees on what is empty
-/// and what is rectangular. None of these routines raises; all work for the ten numeric elements.
+/// and what is rectangular. None of these routines raises; all but the two
+/// counts work for all elements. Currency matrices obey the switch of the unit QorvexFinMatrix.
 /// Counts are of 32 bits: a matrix has fewer than 2^32 rows and columns.
 
 #include <atomic>
@@ -34,24 +35,24 @@ template <NumericElement T>
 /// all rows have one length. A ragged matrix gives 0 columns. With QorMatrixRectangularCheck off
 /// rectangular is always true, even for an empty matrix, and cols is the length of the first row.
 /// O(rows), or O(1) with the switch off.
-template <NumericElement T>
+template <AnyElement T>
 QORVEX_EXPORT void MatrixDimensions(const TQorMatrix<T>& matrix, std::uint32_t& rows,
                                     std::uint32_t& cols, bool& rectangular) noexcept;
 
 /// True when the matrix has rows and all of them have one length, which may be 0: unlike
 /// MatrixDimensions it takes rows without elements for rectangular, and it does not ask the switch.
 /// O(rows).
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT bool MatrixIsRectangular(const TQorMatrix<T>& matrix) noexcept;
 
 /// True when MatrixDimensions finds the matrix rectangular with as many rows as columns. An empty
 /// matrix is square only with the switch off. O(rows).
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT bool MatrixIsSquare(const TQorMatrix<T>& matrix) noexcept;
 
 /// True when MatrixDimensions finds both matrices rectangular, with equal counts. Two empty ones
 /// have the same dimensions only with the switch off. O(rows).
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT bool MatricesSameDimensions(const TQorMatrix<T>& a,
                                                         const TQorMatrix<T>& b) noexcept;
 

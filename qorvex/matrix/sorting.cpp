@@ -59,7 +59,7 @@ void PermuteCols(TQorMatrix<T>& matrix, const Order& order, T* scratch) {
 
 }  // namespace
 
-template <NumericElement T>
+template <AnyElement T>
 void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascending) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return;
@@ -72,7 +72,7 @@ void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascendi
   PermuteRows(matrix, std::move(order), shape.cols, scratch.get());
 }
 
-template <NumericElement T>
+template <AnyElement T>
 void QSortMatrixColsOnRow(TQorMatrix<T>& matrix, std::uint32_t row, bool ascending) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return;
@@ -89,7 +89,7 @@ void QSortMatrixColsOnRow(TQorMatrix<T>& matrix, std::uint32_t row, bool ascendi
 #define QORVEX_INSTANTIATE(T)                                              \
   template void QSortMatrixRowsOnCol(TQorMatrix<T>&, std::uint32_t, bool); \
   template void QSortMatrixColsOnRow(TQorMatrix<T>&, std::uint32_t, bool);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -28,10 +28,10 @@ namespace qorvex::inline QorvexMatrix {
 /// The keys are sorted as by QSortVector, in O(n log n) or better and with 36 bytes of memory a key
 /// and a row for scratch; then the elements are moved once, O(elements): rows follow the cycles of
 /// the permutation through one scratch row (Knuth 1998, "The Art of Computer Programming", volume
-/// 3, 5.2). For all numeric elements.
-template <NumericElement T>
+/// 3, 5.2). For all elements.
+template <AnyElement T>
 QORVEX_EXPORT void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascending);
-template <NumericElement T>
+template <AnyElement T>
 QORVEX_EXPORT void QSortMatrixColsOnRow(TQorMatrix<T>& matrix, std::uint32_t row, bool ascending);
 /// @}
 

@@ -1,5 +1,6 @@
 #include "qorvex/matrix/sums.h"
 
+#include "qorvex/base/rounding.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
@@ -35,12 +36,15 @@ void AddRow(const TQorLIntVector& row, Extended& sum) {
   sum += static_cast<Extended>(row_sum.Value());
 }
 
-}  // namespace
+template <CurrencyElement T>
+void AddRow(const TQorVector<T>& row, Int64Sum& sum) {
+  for (const T x : row) sum.Add(x.stored());
+}
 
-template <SignedArithmeticElement T>
-Extended GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count) {
+// Adds all elements and counts them.
+template <AdditiveElement T, class Sum>
+void AddRows(const TQorMatrix<T>& matrix, std::uint32_t& count, Sum& sum) {
   detail::RequireRows(matrix);
-  Extended sum = 0;
   std::size_t elements = 0;
   for (const TQorVector<T>& row : matrix) {
     elements += row.size();
@@ -48,7 +52,22 @@ Extended GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count) {
   }
   count = static_cast<std::uint32_t>(elements);
   if (elements == 0) RaiseMathError(rsMatrixIsEmpty);
-  return sum / static_cast<Extended>(elements);
+}
+
+}  // namespace
+
+template <SignedArithmeticElement T>
+Extended GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count) {
+  Extended sum = 0;
+  AddRows(matrix, count, sum);
+  return sum / static_cast<Extended>(count);
+}
+
+template <CurrencyElement T>
+T GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count) {
+  Int64Sum sum;
+  AddRows(matrix, count, sum);
+  return T(static_cast<typename T::StoredType>(DivideHalfEven(sum.Value(), count)));
 }
 
 template <NumericElement T>
@@ -72,6 +91,10 @@ requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixCol(const TQorMatrix<
 
 #define QORVEX_INSTANTIATE(T) template Extended GrandMean(const TQorMatrix<T>&, std::uint32_t&);
 QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+#define QORVEX_INSTANTIATE(T) template T GrandMean(const TQorMatrix<T>&, std::uint32_t&);
+QORVEX_FOR_CURRENCY_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                                          \

@@ -23,6 +23,12 @@ namespace qorvex::inline QorvexMatrix {
 template <SignedArithmeticElement T>
 [[nodiscard]] QORVEX_EXPORT Extended GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count);
 
+/// The mean of all amounts: the sum of their stored integers, which wraps around at 64 bits,
+/// divided by their number and rounded to the nearest amount, ties to even. Errors and count as
+/// above. For the currencies. O(elements).
+template <CurrencyElement T>
+[[nodiscard]] QORVEX_EXPORT T GrandMean(const TQorMatrix<T>& matrix, std::uint32_t& count);
+
 /// @{
 /// The sum of one row or one column: extended for floating elements; int64, which wraps around
 /// silently, for integers. EMathError: rsMatrixIsEmpty for a matrix without rows or columns, or a

@@ -29,7 +29,7 @@ constexpr auto kNotPositive = [](auto x) { return x <= 0; };
 
 }  // namespace
 
-template <SignedArithmeticElement T>
+template <AdditiveElement T>
 void LinearTransformMatrix(TQorMatrix<T>& matrix, FactorOf<T> multiplier, FactorOf<T> offset) {
   detail::RequireRows(matrix);
   for (TQorVector<T>& row : matrix) {
@@ -67,7 +67,7 @@ void Log10Matrix(TQorMatrix<T>& matrix) {
 
 #define QORVEX_INSTANTIATE(T) \
   template void LinearTransformMatrix(TQorMatrix<T>&, FactorOf<T>, FactorOf<T>);
-QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ADDITIVE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                 \

@@ -19,8 +19,9 @@
 namespace qorvex::inline QorvexMatrix {
 
 /// Replaces each element x by multiplier * x + offset: two roundings in extended precision for
-/// floating elements, wrapping arithmetic for integers. For floating elements, Int64 and LInt.
-template <SignedArithmeticElement T>
+/// floating elements, wrapping arithmetic for integers. Amounts are transformed in units and
+/// rounded, as LinearTransformVector does. For floating elements, Int64, LInt and the currencies.
+template <AdditiveElement T>
 QORVEX_EXPORT void LinearTransformMatrix(TQorMatrix<T>& matrix, FactorOf<T> multiplier,
                                          FactorOf<T> offset);
 

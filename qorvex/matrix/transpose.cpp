@@ -19,7 +19,7 @@ constexpr std::size_t kBlockCols = 32;
 
 }  // namespace
 
-template <NumericElement T>
+template <AnyElement T>
 TQorMatrix<T> TransposeMatrix(const TQorMatrix<T>& matrix) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   detail::RequireRectangular(shape);
@@ -41,7 +41,7 @@ TQorMatrix<T> TransposeMatrix(const TQorMatrix<T>& matrix) {
 }
 
 #define QORVEX_INSTANTIATE(T) template TQorMatrix<T> TransposeMatrix(const TQorMatrix<T>&);
-QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -10,9 +10,9 @@ namespace qorvex::inline QorvexMatrix {
 
 /// A new matrix whose element [j][i] has the bits of matrix[i][j]. EMathError with rsMatrixRect for
 /// a ragged or empty matrix; with the shape switch off an empty one gives an empty result, and one
-/// with a row shorter than the first raises. For all numeric elements. O(elements), in blocks that
+/// with a row shorter than the first raises. For all elements. O(elements), in blocks that
 /// suit the caches.
-template <NumericElement T>
+template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> TransposeMatrix(const TQorMatrix<T>& matrix);
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -4,7 +4,6 @@
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/vector/detail/checks.h"
-#include "qorvex/vector/detail/currency_arithmetic.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 #include "qorvex/vector/sign_tests.h"
@@ -73,7 +72,7 @@ void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope,
 template <CurrencyElement T>
 void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept) {
   detail::RequireElements(vector);
-  for (T& x : vector) x = detail::LinearTransform(x, slope, intercept);
+  for (T& x : vector) x = detail::ProductPlus(x, slope, intercept);
 }
 
 template <FloatElement T>

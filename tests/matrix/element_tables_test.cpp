@@ -1,6 +1,7 @@
 // Which element types each routine exists for. What a table leaves out must not compile, so that no
 // call converts, rounds or wraps in a width that nobody chose.
 
+#include "qorvex/matrix/QorvexFinMatrix.h"
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "support/element_probe.h"
 #include "support/test.h"
@@ -13,23 +14,23 @@ void ExpectTypes(const std::string& types, const std::vector<std::string>& routi
 }
 
 TEST(MatrixElementTables, EveryRoutineTakesWhatItIsMeantFor) {
+  ExpectTypes("gdfjuiwsbt", {TYPES_OF(MatrixRows(m)), TYPES_OF(MatrixCols(m))});
   ExpectTypes(
-      "gdfjuiwsbt",
-      {TYPES_OF(MatrixRows(m)), TYPES_OF(MatrixCols(m)), TYPES_OF(MatrixDimensions(m, i, i, b)),
-       TYPES_OF(MatrixIsRectangular(m)), TYPES_OF(MatrixIsSquare(m)),
-       TYPES_OF(MatricesSameDimensions(m, m)), TYPES_OF(CopyMatrix(m)),
+      "gdfjuiwsbtCSL",
+      {TYPES_OF(MatrixDimensions(m, i, i, b)), TYPES_OF(MatrixIsRectangular(m)),
+       TYPES_OF(MatrixIsSquare(m)), TYPES_OF(MatricesSameDimensions(m, m)), TYPES_OF(CopyMatrix(m)),
        TYPES_OF(Matrix2FloatMatrix(m)), TYPES_OF(TransposeMatrix(m)),
        TYPES_OF(ExtractMatrixRow(m, 0)), TYPES_OF(ExtractMatrixCol(m, 0)),
-       TYPES_OF(OverwriteMatrixRow(m, 0, v, 0)), TYPES_OF(OverwriteMatrixCol(m, 0, v, 0)),
+       TYPES_OF(OverwriteMatrixRow(m, 0, v, x)), TYPES_OF(OverwriteMatrixCol(m, 0, v, x)),
        TYPES_OF(QSortMatrixRowsOnCol(m, 0, true)), TYPES_OF(QSortMatrixColsOnRow(m, 0, true)),
        TYPES_OF(SwapMatrixRows(m, 0, 1)), TYPES_OF(SwapMatrixCols(m, 0, 1))});
-  ExpectTypes("gdfji",
+  ExpectTypes("gdfjiCSL",
               {TYPES_OF(AddMatrices(m, m)), TYPES_OF(AddToMatrix(m, m)),
                TYPES_OF(SubtractMatrices(m, m)), TYPES_OF(SubtractFromMatrix(m, m)),
                TYPES_OF(MultiplyMatrixByConst(m, 2)), TYPES_OF(MultiplyMatrixByConst2(m, 2)),
-               TYPES_OF(LinearTransformMatrix(m, 2, 1)), TYPES_OF(GrandMean(m, i)),
-               TYPES_OF(ScaleMatrixRow(m, 0, 2)), TYPES_OF(ScaleMatrixCol(m, 0, 2)),
-               TYPES_OF(AddMatrixRows(m, 0, 1, 2)), TYPES_OF(AddMatrixCols(m, 0, 1, 2))});
+               TYPES_OF(LinearTransformMatrix(m, 2, 1)), TYPES_OF(GrandMean(m, i))});
+  ExpectTypes("gdfji", {TYPES_OF(ScaleMatrixRow(m, 0, 2)), TYPES_OF(ScaleMatrixCol(m, 0, 2)),
+                        TYPES_OF(AddMatrixRows(m, 0, 1, 2)), TYPES_OF(AddMatrixCols(m, 0, 1, 2))});
   ExpectTypes(
       "gdf", {TYPES_OF(MatrixZeroRows(m)), TYPES_OF(MatrixIsIdentity(m)), TYPES_OF(SquareMatrix(m)),
               TYPES_OF(SqrtMatrix(m)), TYPES_OF(InvMatrix(m)), TYPES_OF(LnMatrix(m)),
@@ -40,6 +41,7 @@ TEST(MatrixElementTables, EveryRoutineTakesWhatItIsMeantFor) {
 }
 
 static_assert(std::is_same_v<FactorOf<float>, Extended>);
+static_assert(std::is_same_v<FactorOf<QorCurrency>, Extended>);
 static_assert(std::is_same_v<FactorOf<std::int64_t>, std::int64_t>);
 static_assert(std::is_same_v<FactorOf<std::int32_t>, std::int32_t>);
 static_assert(std::is_same_v<decltype(SumMatrixRow(TQorSingleMatrix(), 0)), Extended>);

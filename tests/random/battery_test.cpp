@@ -298,6 +298,10 @@ const std::vector<Variate>& Variates() {
   return variates;
 }
 
+void PrintTo(const Variate& variate, std::ostream* out) {
+  *out << variate.name;
+}
+
 class Battery : public ::testing::TestWithParam<Variate> {};
 
 TEST_P(Battery, Agrees) {

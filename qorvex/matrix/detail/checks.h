@@ -8,6 +8,7 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/matrix/currency_shape.h"
 #include "qorvex/matrix/shape.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
@@ -21,7 +22,7 @@ struct Shape {
   [[nodiscard]] bool AtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
 };
 
-// What MatrixDimensions reports. compare_rows is the unit's shape switch.
+// What MatrixDimensions reports. compare_rows is a shape switch.
 template <class T>
 [[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix, bool compare_rows) noexcept {
   Shape shape;
@@ -42,10 +43,14 @@ template <class T>
   return shape;
 }
 
-// The same with this unit's switch.
+// The same with the switch of the unit that the elements belong to.
 template <class T>
 [[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix) noexcept {
-  return ShapeOf(matrix, QorMatrixRectangularCheck);
+  if constexpr (CurrencyElement<T>) {
+    return ShapeOf(matrix, QorvexFinMatrix::QorMatrixRectangularCheck);
+  } else {
+    return ShapeOf(matrix, QorvexMatrix::QorMatrixRectangularCheck);
+  }
 }
 
 // For routines that take rows of any lengths.

@@ -24,10 +24,20 @@ template <class T>
   return matrix;
 }
 
+// One, or one unit of a currency.
+template <class T>
+[[nodiscard]] constexpr T One() noexcept {
+  if constexpr (CurrencyElement<T>) {
+    return T(static_cast<typename T::StoredType>(T::kScale));
+  } else {
+    return 1;
+  }
+}
+
 template <class T>
 [[nodiscard]] TQorMatrix<T> NewIdentityMatrix(std::size_t order) {
   auto matrix = NewMatrix<T>(order, order);
-  for (std::size_t i = 0; i < order; ++i) matrix[i][i] = 1;
+  for (std::size_t i = 0; i < order; ++i) matrix[i][i] = One<T>();
   return matrix;
 }
 

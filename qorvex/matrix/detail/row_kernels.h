@@ -12,7 +12,7 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-template <NumericElement T>
+template <AnyElement T>
 void SwapElements(T* a, T* b, std::size_t count) noexcept {
   for (std::size_t i = 0; i < count; ++i) SwapXY(a[i], b[i]);
 }

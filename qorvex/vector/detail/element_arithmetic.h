@@ -3,11 +3,14 @@
 // Sums and products of elements. Floating ones are formed in extended precision, each operation
 // rounding once, and then rounded to their own type; integers and
 // the stored integers of amounts wrap around. Factors and addends of
-// products are extended for floating elements and of the element's type for integers.
+// products are extended for floating elements and of the element's type for integers; of amounts
+// they are extended and in units.
 
 #include <type_traits>
 
+#include "qorvex/base/rounding.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/vector/detail/currency_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
 namespace qorvex::inline QorvexVector::detail {
@@ -34,19 +37,23 @@ constexpr T Difference(T x, T y) noexcept {
   }
 }
 
-template <SignedArithmeticElement T, class Factor>
+template <AdditiveElement T, class Factor>
 constexpr T Product(T x, Factor factor) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) * factor);
+  } else if constexpr (CurrencyElement<T>) {
+    return T(RoundToInteger<typename T::StoredType>(static_cast<Extended>(x.stored()) * factor));
   } else {
     return WrappingMultiply(x, factor);
   }
 }
 
-template <SignedArithmeticElement T, class Factor>
+template <AdditiveElement T, class Factor>
 constexpr T ProductPlus(T x, Factor factor, std::type_identity_t<Factor> addend) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) * factor + addend);
+  } else if constexpr (CurrencyElement<T>) {
+    return LinearTransform(x, factor, addend);
   } else {
     return WrappingAdd(WrappingMultiply(x, factor), addend);
   }

@@ -1,0 +1,48 @@
+#pragma once
+
+/// @file
+/// Unit QorvexFinMatrix: matrices of the three currencies.
+///
+/// A currency is a type of its own, so the routines are those of the unit QorvexMatrix and the
+/// element type of a matrix decides what they do with it. They work on the stored integers, exactly
+/// and wrapping around, but for what the comments of MultiplyMatrixByConst, LinearTransformMatrix
+/// and GrandMean say of amounts. There is no row reduction and no matrix product of money.
+
+#include "qorvex/matrix/access.h"
+#include "qorvex/matrix/arithmetic.h"
+#include "qorvex/matrix/building.h"
+#include "qorvex/matrix/currency_building.h"
+#include "qorvex/matrix/currency_shape.h"
+#include "qorvex/matrix/row_operations.h"
+#include "qorvex/matrix/shape.h"
+#include "qorvex/matrix/sorting.h"
+#include "qorvex/matrix/sums.h"
+#include "qorvex/matrix/transforms.h"
+#include "qorvex/matrix/transpose.h"
+
+namespace qorvex::inline QorvexFinMatrix {
+
+using QorvexMatrix::AddMatrices;
+using QorvexMatrix::AddToMatrix;
+using QorvexMatrix::CopyMatrix;
+using QorvexMatrix::ExtractMatrixCol;
+using QorvexMatrix::ExtractMatrixRow;
+using QorvexMatrix::GrandMean;
+using QorvexMatrix::LinearTransformMatrix;
+using QorvexMatrix::MatricesSameDimensions;
+using QorvexMatrix::MatrixDimensions;
+using QorvexMatrix::MatrixIsRectangular;
+using QorvexMatrix::MatrixIsSquare;
+using QorvexMatrix::MultiplyMatrixByConst;
+using QorvexMatrix::MultiplyMatrixByConst2;
+using QorvexMatrix::OverwriteMatrixCol;
+using QorvexMatrix::OverwriteMatrixRow;
+using QorvexMatrix::QSortMatrixColsOnRow;
+using QorvexMatrix::QSortMatrixRowsOnCol;
+using QorvexMatrix::SubtractFromMatrix;
+using QorvexMatrix::SubtractMatrices;
+using QorvexMatrix::SwapMatrixCols;
+using QorvexMatrix::SwapMatrixRows;
+using QorvexMatrix::TransposeMatrix;
+
+}  // namespace qorvex::inline QorvexFinMatrix
