@@ -22,10 +22,13 @@
 ///
 /// All conversions round to the nearest value, ties to even. What the target cannot hold becomes
 /// the target's smallest value.
+///
+/// Text is in currency_text.h, the formatter for libfmt in currency_format.h.
 
 #include <compare>
 #include <concepts>
 #include <cstdint>
+#include <iosfwd>
 #include <type_traits>
 
 #include "qorvex/base/element_types.h"
@@ -43,6 +46,12 @@ class QORVEX_EXPORT BasicCurrency {
   using StoredType = Stored;
   /// The stored value of one currency unit.
   static constexpr std::int64_t kScale = Scale;
+  /// The fixed decimals that the scale stands for.
+  static constexpr int kDecimals = [] {
+    int decimals = 0;
+    for (std::int64_t power = 1; power < Scale; power *= 10) ++decimals;
+    return decimals;
+  }();
 
   constexpr BasicCurrency() noexcept = default;
   /// The amount whose stored integer is given: Currency(15000) is 1.5000 units.
@@ -111,6 +120,11 @@ using Currency = BasicCurrency<std::int64_t, 10'000>;
 using QorCurrency = BasicCurrency<std::int32_t, 100>;
 /// The long currency: six fixed decimals in an int64.
 using QorLongCurrency = BasicCurrency<std::int64_t, 1'000'000>;
+
+/// Writes all fixed decimals, as Currency2EStr gives them, with the stream's width and fill.
+/// Locale, precision and number flags play no part.
+template <class Stored, std::int64_t Scale>
+QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, BasicCurrency<Stored, Scale> amount);
 
 /// The three currencies.
 template <class T>
