@@ -6,6 +6,12 @@
 
 #include "support/test.h"
 
+#ifdef QORVEX_HAS_FMT
+#include <fmt/ranges.h>
+
+#include "qorvex/base/currency_format.h"
+#endif
+
 namespace qorvex {
 
 constexpr std::int64_t kSmallest64 = std::numeric_limits<std::int64_t>::min();
@@ -98,5 +104,18 @@ TEST(CurrencyText, StreamsWithWidthAndFill) {
       << std::showpos << std::setprecision(1) << Currency(12'345) << QorLongCurrency(1);
   EXPECT_EQ(out.str(), "***-12.051.2345**0.000001");
 }
+
+#ifdef QORVEX_HAS_FMT
+TEST(CurrencyText, FormatsAsStringsDo) {
+  const QorCurrency amount(-1205);
+  EXPECT_EQ(fmt::format("{}|{:>8}|{:.^10}|{:{}}|", amount, amount, amount, Currency(1), 7),
+            "-12.05|  -12.05|..-12.05..|0.0001 |");
+  EXPECT_EQ(fmt::format("{}", std::vector{amount, QorCurrency(7)}), "[-12.05, 0.07]");
+  for (const char* refused : {"{:.2}", "{:>9.2}", "{:.>9.2}", "{:.{}}", "{:?}", "{:d}", "{:+}"})
+    EXPECT_THROW(static_cast<void>(fmt::format(fmt::runtime(refused), amount, 2)),
+                 fmt::format_error)
+        << refused;
+}
+#endif
 
 }  // namespace qorvex
