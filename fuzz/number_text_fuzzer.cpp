@@ -1,16 +1,20 @@
 // Whatever the text: only EConvertErrors are raised, a number has the value that the C library
-// finds, and texts of values give the values back.
+// finds, an amount is the number rounded, and texts of values give the values back.
 
-#include "qorvex/base/errors.h"
-#include "qorvex/base/fractions.h"
-#include "qorvex/base/text.h"
-
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
+#include <limits>
 #include <string>
 #include <string_view>
+
+#include "qorvex/base/currency_text.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/fractions.h"
+#include "qorvex/base/text.h"
 
 namespace {
 
@@ -62,11 +66,50 @@ void CheckFraction(const std::string& text) {
   }
 }
 
+template <CurrencyElement C>
+void CheckAmount(const std::string& text, C (&read)(std::string_view)) {
+  const auto comes_back = [&](C amount) { return read(Currency2EStr(amount)) == amount; };
+  typename C::StoredType stored = 0;
+  std::memcpy(&stored, text.data(), std::min(sizeof stored, text.size()));
+  Require(comes_back(C(stored)), "Currency2EStr does not come back");
+
+  Extended number = 0;
+  bool is_number = true;
+  try {
+    number = Str2Float(text) * static_cast<Extended>(C::kScale);
+  } catch (const EConvertError& error) {
+    // Beyond the extended range is beyond every amount.
+    number = std::numeric_limits<Extended>::infinity();
+    is_number = error.message_id() == rsNumberTooLarge;
+  }
+  constexpr auto limit = static_cast<Extended>(std::numeric_limits<typename C::StoredType>::max());
+  try {
+    const C amount = read(text);
+    Require(comes_back(amount), "an amount that was read does not come back");
+    // The number was rounded, to at best half a part of the largest amounts, and then scaled.
+    Require(std::fabs(static_cast<Extended>(amount.stored()) - number) <= 1.5L,
+            "the amount is not the number");
+    Require(std::fabs(number) >= 1e9L ||
+                std::fabs(static_cast<Extended>(amount.stored()) - number) <= 0.50001L,
+            "the amount is not the nearest one");
+  } catch (const EConvertError& error) {
+    if (error.message_id() == rsNumberTooLarge) {
+      Require(is_number && std::fabs(number) > limit - 1, "the amount is not too large");
+    } else {
+      Require(error.message_id() == rsNotANumber, "another message");
+      Require(!is_number || !std::isfinite(number), "a number is refused");
+    }
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);
   CheckNumber(text);
   CheckFraction(text);
+  CheckAmount(text, Str2Currency);
+  CheckAmount(text, Str2QorCurrency);
+  CheckAmount(text, Str2QorLongCurrency);
   return 0;
 }

@@ -11,6 +11,7 @@ packages=(
   qt6-base-dev       # the components
   libcli11-dev       # the command line
   libgtest-dev       # the tests
+  libfmt-dev         # the test of the formatter of amounts
   libbenchmark-dev   # the benchmarks, and the libraries that they compare with
   libgsl-dev libeigen3-dev liblapack-dev r-mathlib
   doxygen            # the check of the documentation

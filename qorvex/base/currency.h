@@ -1,19 +1,35 @@
 #pragma once
 
 /// @file
-/// The three currency types and the conversions between them.
+/// The three currency types: their arithmetic, and the conversions between them.
 ///
-/// | type              | stored in | one unit  | resolution | range (units)             |
-/// |-------------------|-----------|-----------|------------|---------------------------|
-/// | `QorCurrency`     | int32     | 100       | 0.01       | about +-21.4 million      |
-/// | `Currency`        | int64     | 10,000    | 0.0001     | about +-922 million million |
-/// | `QorLongCurrency` | int64     | 1,000,000 | 0.000001   | about +-9.2 million million |
+/// | type              | stored in | one unit  | resolution |
+/// |-------------------|-----------|-----------|------------|
+/// | `QorCurrency`     | int32     | 100       | 0.01       |
+/// | `Currency`        | int64     | 10,000    | 0.0001     |
+/// | `QorLongCurrency` | int64     | 1,000,000 | 0.000001   |
+///
+/// | type              | smallest amount           | largest amount           |
+/// |-------------------|---------------------------|--------------------------|
+/// | `QorCurrency`     | -21,474,836.48            | 21,474,836.47            |
+/// | `Currency`        | -922,337,203,685,477.5808 | 922,337,203,685,477.5807 |
+/// | `QorLongCurrency` | -9,223,372,036,854.775808 | 9,223,372,036,854.775807 |
+///
+/// Every amount in a range is held exactly. Sums, differences and products are those of the stored
+/// integers: exact while the result is in range, and wrapping around in the stored width beyond it,
+/// so the largest amount plus its resolution is the smallest amount. There is no arithmetic
+/// between scales or with floating-point values: convert first, which shows where rounding happens.
 ///
 /// All conversions round to the nearest value, ties to even. What the target cannot hold becomes
 /// the target's smallest value.
+///
+/// Text is in currency_text.h, the formatter for libfmt in currency_format.h.
 
 #include <compare>
+#include <concepts>
 #include <cstdint>
+#include <iosfwd>
+#include <type_traits>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -30,6 +46,12 @@ class QORVEX_EXPORT BasicCurrency {
   using StoredType = Stored;
   /// The stored value of one currency unit.
   static constexpr std::int64_t kScale = Scale;
+  /// The fixed decimals that the scale stands for.
+  static constexpr int kDecimals = [] {
+    int decimals = 0;
+    for (std::int64_t power = 1; power < Scale; power *= 10) ++decimals;
+    return decimals;
+  }();
 
   constexpr BasicCurrency() noexcept = default;
   /// The amount whose stored integer is given: Currency(15000) is 1.5000 units.
@@ -41,7 +63,54 @@ class QORVEX_EXPORT BasicCurrency {
   /// Amounts compare as their stored integers do.
   friend constexpr auto operator<=>(BasicCurrency, BasicCurrency) noexcept = default;
 
+  /// The sum; wraps around in the stored width.
+  constexpr BasicCurrency& operator+=(BasicCurrency other) noexcept {
+    return Store(Bits(stored_) + Bits(other.stored_));
+  }
+  /// The difference; wraps around in the stored width.
+  constexpr BasicCurrency& operator-=(BasicCurrency other) noexcept {
+    return Store(Bits(stored_) - Bits(other.stored_));
+  }
+  /// So many times the amount; wraps around in the stored width.
+  constexpr BasicCurrency& operator*=(std::integral auto factor) noexcept {
+    return Store(Bits(stored_) * Bits(factor));
+  }
+
+  /// The amount with the other sign; the smallest amount stays as it is.
+  [[nodiscard]] friend constexpr BasicCurrency operator-(BasicCurrency amount) noexcept {
+    return BasicCurrency() -= amount;
+  }
+  /// @{
+  /// As the assignments do.
+  [[nodiscard]] friend constexpr BasicCurrency operator+(BasicCurrency x,
+                                                         BasicCurrency y) noexcept {
+    return x += y;
+  }
+  [[nodiscard]] friend constexpr BasicCurrency operator-(BasicCurrency x,
+                                                         BasicCurrency y) noexcept {
+    return x -= y;
+  }
+  [[nodiscard]] friend constexpr BasicCurrency operator*(BasicCurrency amount,
+                                                         std::integral auto factor) noexcept {
+    return amount *= factor;
+  }
+  [[nodiscard]] friend constexpr BasicCurrency operator*(std::integral auto factor,
+                                                         BasicCurrency amount) noexcept {
+    return amount *= factor;
+  }
+  /// @}
+
  private:
+  // Only unsigned arithmetic wraps around.
+  using Unsigned = std::make_unsigned_t<Stored>;
+  static constexpr Unsigned Bits(std::integral auto value) noexcept {
+    return static_cast<Unsigned>(value);
+  }
+  constexpr BasicCurrency& Store(Unsigned bits) noexcept {
+    stored_ = static_cast<Stored>(bits);
+    return *this;
+  }
+
   Stored stored_ = 0;
 };
 
@@ -51,6 +120,11 @@ using Currency = BasicCurrency<std::int64_t, 10'000>;
 using QorCurrency = BasicCurrency<std::int32_t, 100>;
 /// The long currency: six fixed decimals in an int64.
 using QorLongCurrency = BasicCurrency<std::int64_t, 1'000'000>;
+
+/// Writes all fixed decimals, as Currency2EStr gives them, with the stream's width and fill.
+/// Locale, precision and number flags play no part.
+template <class Stored, std::int64_t Scale>
+QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, BasicCurrency<Stored, Scale> amount);
 
 /// The three currencies.
 template <class T>

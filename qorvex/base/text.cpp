@@ -9,23 +9,12 @@
 #include <limits>
 #include <locale.h>
 
+#include "qorvex/base/detail/decimal_text.h"
 #include "qorvex/base/errors.h"
 
 namespace qorvex::inline QorvexGlobals {
 
 namespace {
-
-constexpr std::string_view kBlanks = " \t";
-
-std::string_view WithoutBlanks(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
-
-constexpr bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 bool EqualsIgnoringCase(std::string_view text, std::string_view lower_case) {
   if (text.size() != lower_case.size()) return false;
@@ -35,54 +24,6 @@ bool EqualsIgnoringCase(std::string_view text, std::string_view lower_case) {
     if (c != lower_case[i]) return false;
   }
   return true;
-}
-
-// An unsigned decimal number: significand times 10^exponent while it has at most 19 significant
-// digits.
-struct Decimal {
-  std::uint64_t significand = 0;
-  int digits = 0;
-  std::int64_t exponent = 0;
-  bool valid = false;
-};
-
-// Far beyond the range of the format, far below the range of int64.
-constexpr std::int64_t kExponentLimit = 1'000'000'000;
-
-Decimal Scan(std::string_view text) {
-  Decimal number;
-  bool any_digit = false;
-  bool after_point = false;
-  std::size_t at = 0;
-  for (; at < text.size(); ++at) {
-    const char c = text[at];
-    if (c == '.' && !after_point) {
-      after_point = true;
-    } else if (IsDigit(c)) {
-      any_digit = true;
-      if (number.digits > 0 || c != '0') ++number.digits;
-      number.significand = number.significand * 10 + static_cast<std::uint64_t>(c - '0');
-      if (after_point) --number.exponent;
-    } else {
-      break;
-    }
-  }
-  if (!any_digit) return number;
-  if (at < text.size()) {
-    if (text[at] != 'e' && text[at] != 'E') return number;
-    ++at;
-    const bool negative = at < text.size() && text[at] == '-';
-    if (at < text.size() && (text[at] == '-' || text[at] == '+')) ++at;
-    if (at == text.size()) return number;
-    std::int64_t exponent = 0;
-    for (; at < text.size(); ++at) {
-      if (!IsDigit(text[at])) return number;
-      if (exponent < kExponentLimit) exponent = exponent * 10 + (text[at] - '0');
-    }
-    number.exponent += negative ? -exponent : exponent;
-  }
-  number.valid = true;
-  return number;
 }
 
 // 10^27 is the largest power of ten that 64 bits of mantissa hold exactly.
@@ -104,7 +45,7 @@ Extended ConvertLongNumber(std::string_view digits) {
 
 // The value of unsigned text.
 Extended Magnitude(std::string_view text, std::string_view whole) {
-  const Decimal number = Scan(text);
+  const detail::DecimalText number = detail::ScanDecimal(text);
   if (!number.valid) {
     if (EqualsIgnoringCase(text, "inf") || EqualsIgnoringCase(text, "infinity")) {
       return std::numeric_limits<Extended>::infinity();
@@ -143,9 +84,8 @@ std::string Formatted(std::size_t longest, Format format) {
 }  // namespace
 
 Extended Str2Float(std::string_view text) {
-  std::string_view number = WithoutBlanks(text);
-  const bool negative = number.starts_with('-');
-  if (negative || number.starts_with('+')) number.remove_prefix(1);
+  std::string_view number = detail::WithoutBlanks(text);
+  const bool negative = detail::TakeSign(number);
   const Extended magnitude = Magnitude(number, text);
   return negative ? -magnitude : magnitude;
 }
@@ -173,7 +113,7 @@ std::string StripTChStr(std::string_view text, char trailing) {
   const auto without_point = [](std::string_view number) {
     return std::string(number.ends_with('.') ? number.substr(0, number.size() - 1) : number);
   };
-  if (IsDigit(trailing)) {
+  if (detail::IsDigit(trailing)) {
     const std::size_t point = text.find('.');
     const bool in_decimals =
         point != std::string_view::npos &&

@@ -57,6 +57,44 @@ TEST(Currency, WideningAndBackIsExact) {
   }
 }
 
+template <class X, class Y>
+concept Summable = requires(X x, Y y) {
+  x + y;
+};
+template <class X, class Y>
+concept Multipliable = requires(X x, Y y) {
+  x* y;
+};
+static_assert(!Summable<Currency, QorCurrency> && !Summable<Currency, int>);
+static_assert(!Multipliable<Currency, double> && !Multipliable<Currency, Currency>);
+static_assert(QorCurrency(1250) * 3 - QorCurrency(50) == QorCurrency(3700));
+
+template <class C>
+void ExpectWrappingArithmetic() {
+  using Stored = typename C::StoredType;
+  constexpr Stored smallest = std::numeric_limits<Stored>::min();
+  constexpr Stored largest = std::numeric_limits<Stored>::max();
+  std::vector<Stored> values{smallest, smallest + 1, -7, -1, 0, 1, 100, largest - 1, largest};
+  std::mt19937_64 engine(12);
+  for (int i = 0; i < 30; ++i) values.push_back(static_cast<Stored>(engine()));
+  for (const Stored x : values) {
+    EXPECT_EQ((-C(x)).stored(), static_cast<Stored>(-static_cast<__int128>(x)));
+    for (const Stored y : values) {
+      const auto wide = static_cast<__int128>(x);
+      EXPECT_EQ((C(x) + C(y)).stored(), static_cast<Stored>(wide + y));
+      EXPECT_EQ((C(x) - C(y)).stored(), static_cast<Stored>(wide - y));
+      EXPECT_EQ((C(x) * y).stored(), static_cast<Stored>(wide * y));
+      EXPECT_EQ((std::int64_t{y} * C(x)).stored(), static_cast<Stored>(wide * y));
+    }
+  }
+}
+
+TEST(Currency, ArithmeticIsExactAndWrapsInTheStoredWidth) {
+  ExpectWrappingArithmetic<QorCurrency>();
+  ExpectWrappingArithmetic<Currency>();
+  ExpectWrappingArithmetic<QorLongCurrency>();
+}
+
 TEST(RoundToInteger, RoundsTiesToEvenAndMarksWhatDoesNotFit) {
   EXPECT_EQ(RoundToInteger<std::int32_t>(2.5L), 2);
   EXPECT_EQ(RoundToInteger<std::int32_t>(-3.5L), -4);
