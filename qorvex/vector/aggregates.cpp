@@ -31,9 +31,9 @@ std::int64_t SumOfTerms(const TQorVector<T>& vector, Term term) {
 
 template <CurrencyElement T>
 T SumOfTerms(const TQorVector<T>& vector, decltype(kItself)) {
-  detail::Int64Sum sum;
-  for (const T x : vector) sum.Add(x.stored());
-  return T(static_cast<typename T::StoredType>(sum.Value()));
+  T sum;
+  for (const T x : vector) sum += x;
+  return sum;
 }
 
 }  // namespace

@@ -20,7 +20,7 @@ constexpr T Sum(T x, T y) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) + static_cast<Extended>(y));
   } else if constexpr (CurrencyElement<T>) {
-    return T(WrappingAdd(x.stored(), y.stored()));
+    return x + y;
   } else {
     return WrappingAdd(x, y);
   }
@@ -31,7 +31,7 @@ constexpr T Difference(T x, T y) noexcept {
   if constexpr (FloatElement<T>) {
     return static_cast<T>(static_cast<Extended>(x) - static_cast<Extended>(y));
   } else if constexpr (CurrencyElement<T>) {
-    return T(WrappingSubtract(x.stored(), y.stored()));
+    return x - y;
   } else {
     return WrappingSubtract(x, y);
   }
