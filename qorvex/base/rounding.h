@@ -7,6 +7,7 @@
 #include <concepts>
 #include <cstdint>
 #include <limits>
+#include <utility>
 
 #include "qorvex/base/element_types.h"
 
@@ -17,13 +18,12 @@ namespace qorvex {
 /// conversion with for int32 and int64.
 template <std::integral Int>
 [[nodiscard]] inline Int RoundToInteger(Extended value) noexcept {
-  // Both bounds are exact: the smallest value is 0 or a power of two, and the largest plus one is a
-  // power of two.
-  constexpr Extended lowest = static_cast<Extended>(std::numeric_limits<Int>::min());
-  constexpr Extended beyond = static_cast<Extended>(std::numeric_limits<Int>::max()) + 1.0L;
-  const Extended rounded = std::nearbyint(value);
-  if (!(rounded >= lowest && rounded < beyond)) return std::numeric_limits<Int>::min();
-  return static_cast<Int>(rounded);
+  static_assert(std::in_range<std::int64_t>(std::numeric_limits<Int>::max()));
+  constexpr Int smallest = std::numeric_limits<Int>::min();
+  // What int64 holds; the half below 2^63 is a tie that rounds up to it.
+  if (!(value >= -0x1p63L && value < 0x1p63L - 0.5L)) return smallest;
+  const std::int64_t rounded = std::llrint(value);
+  return std::in_range<Int>(rounded) ? static_cast<Int>(rounded) : smallest;
 }
 
 /// The nearest integer to a quotient, ties to even. For a divisor from 1 to 2^62.

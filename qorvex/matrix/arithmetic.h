@@ -21,8 +21,7 @@ namespace qorvex::inline QorvexMatrix {
 /// A new matrix with a[i][j] + b[i][j], or a[i][j] - b[i][j]. EMathError: rsMatrixIsEmpty when a
 /// has no rows or its first row no elements, rsSameDimensions unless MatricesSameDimensions, then
 /// rsMatrixRect when, with the shape switch off, a row of either is shorter than the first of a.
-/// For floating elements, Int64, LInt and the
-/// currencies.
+/// For floating elements, Int64, LInt and the currencies.
 template <AdditiveElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> AddMatrices(const TQorMatrix<T>& a,
                                                       const TQorMatrix<T>& b);
@@ -33,8 +32,7 @@ template <AdditiveElement T>
 
 /// @{
 /// Adds b[i][j] to a[i][j], or subtracts it, with the errors of AddMatrices, which leave a as it
-/// is. For floating elements, Int64, LInt and the
-/// currencies.
+/// is. For floating elements, Int64, LInt and the currencies.
 template <AdditiveElement T>
 QORVEX_EXPORT void AddToMatrix(TQorMatrix<T>& a, const TQorMatrix<T>& b);
 template <AdditiveElement T>

@@ -5,8 +5,8 @@
 ///
 /// None of these routines raises: positions out of range are absorbed, and an empty vector is valid
 /// everywhere. Running out of memory leaves the vector unchanged; only a deletion from a shared
-/// buffer has moved its elements by then. Values are copied bit for bit,
-/// NaN and infinities included.
+/// buffer has moved its elements by then. Values are copied bit for bit, NaN and infinities
+/// included.
 
 #include <cstdint>
 #include <type_traits>
@@ -22,16 +22,14 @@ template <WideElement T>
 QORVEX_EXPORT void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value);
 
 /// Inserts a value before the position; a position that no element has appends instead. The buffer
-/// becomes private. For the elements of at least 32 bits and the
-/// currencies. O(n).
+/// becomes private. For the elements of at least 32 bits and the currencies. O(n).
 template <WideElement T>
 QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value,
                                    std::int32_t position);
 
 /// Deletes the element at the position; nothing happens when there is none. Deleting the only
 /// element leaves the vector empty. While the elements move down, other handles of the same buffer
-/// see the move. For the elements of at least 32 bits and the
-/// currencies. O(n).
+/// see the move. For the elements of at least 32 bits and the currencies. O(n).
 template <WideElement T>
 QORVEX_EXPORT void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position);
 

@@ -24,7 +24,7 @@ template <AnyElement T>
 
 /// Both extremes, the first position of each, and whether each occurs exactly once. The outputs are
 /// untouched when the vector is empty; positions are exact for vectors of up to 2^32 elements. For
-/// all numeric elements.
+/// all elements.
 template <AnyElement T>
 QORVEX_EXPORT void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value,
                                 std::uint32_t& min_index, std::uint32_t& max_index,

@@ -102,6 +102,9 @@ TEST(RoundToInteger, RoundsTiesToEvenAndMarksWhatDoesNotFit) {
   EXPECT_EQ(RoundToInteger<std::int32_t>(2147483647.5L), kSmallest32);
   EXPECT_EQ(RoundToInteger<std::int64_t>(9223372036854775807.0L), kLargest64);
   EXPECT_EQ(RoundToInteger<std::int64_t>(9223372036854775808.0L), kSmallest64);
+  EXPECT_EQ(RoundToInteger<std::int64_t>(9223372036854775807.5L), kSmallest64);
+  EXPECT_EQ(RoundToInteger<std::int64_t>(9223372036854775806.5L), kLargest64 - 1);
+  EXPECT_EQ(RoundToInteger<std::int64_t>(-9223372036854775808.0L), kSmallest64);
   EXPECT_EQ(RoundToInteger<std::uint32_t>(-0.5L), 0U);
   EXPECT_EQ(RoundToInteger<std::uint32_t>(4294967295.0L), 4294967295U);
 }

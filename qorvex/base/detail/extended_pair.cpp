@@ -53,7 +53,7 @@ ExtendedPair Ln(ExtendedPair x) {
     --exponent;
   }
   // x = 2^exponent * grid * (1 + s) / (1 - s)
-  const Extended rounded = std::nearbyint(mantissa * kOne);
+  const Extended rounded = std::rint(mantissa * kOne);
   const Extended grid = rounded / kOne;
   const Extended low = std::ldexp(x.lo, -exponent);
   const ExtendedPair s =

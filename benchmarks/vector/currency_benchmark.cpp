@@ -1,0 +1,111 @@
+// Vectors of amounts beside the plain loop and the routines for the integers that they store.
+
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "qorvex/vector/QorvexFinVector.h"
+#include "qorvex/vector/QorvexVector.h"
+#include "support/compare.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+template <class T>
+TQorVector<T> Amounts(std::size_t n, std::size_t seed) {
+  std::mt19937_64 engine(seed);
+  auto amounts = TQorVector<T>::ForOverwrite(n);
+  for (T& x : amounts) x = T(static_cast<std::int32_t>(engine()) / 8);
+  return amounts;
+}
+
+// Registers work(vector), with a copy where work changes the vector. The vectors differ from call
+// to call, so that no predictor learns them.
+template <class T, class Work>
+void Register(const std::string& routine, const std::string& type, const std::string& who,
+              Work work) {
+  for (const std::size_t n : {1'000U, 100'000U}) {
+    const std::string name = routine + "/" + type + "/" + who + "/" + std::to_string(n);
+    benchmark::RegisterBenchmark(name.c_str(), [n, work](benchmark::State& state) {
+      std::vector<TQorVector<T>> samples;
+      for (std::size_t seed = 0; seed < 16'000 / n + 2; ++seed)
+        samples.push_back(Amounts<T>(n, seed));
+      std::size_t next = 0;
+      for (auto _ : state) {
+        const TQorVector<T>& amounts = samples[next];
+        next = (next + 1) % samples.size();
+        if constexpr (std::invocable<Work, const TQorVector<T>&>) {
+          benchmark::DoNotOptimize(work(amounts));
+        } else {
+          TQorVector<T> changed = CopyVector(amounts);
+          work(changed);
+          benchmark::ClobberMemory();
+        }
+      }
+      state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(n));
+    });
+  }
+}
+
+template <class T>
+void RegisterCurrency(const std::string& type) {
+  using Stored = typename T::StoredType;
+  Register<T>("SumVector", type, "ours", [](const TQorVector<T>& v) { return SumVector(v); });
+  Register<T>("SumVector", type, "loop", [](const TQorVector<T>& v) {
+    T sum;
+    for (const T x : v) sum += x;
+    return sum;
+  });
+  Register<Stored>("SumVector", type, "integers",
+                   [](const TQorVector<Stored>& v) { return SumVector(v); });
+
+  Register<T>("QSortVector", type, "ours", [](TQorVector<T>& v) { QSortVector(v, true); });
+  Register<T>("QSortVector", type, "std::sort", [](TQorVector<T>& v) { std::ranges::sort(v); });
+  Register<Stored>("QSortVector", type, "integers",
+                   [](TQorVector<Stored>& v) { QSortVector(v, true); });
+
+  Register<T>("LinearTransformVector", type, "ours",
+              [](TQorVector<T>& v) { LinearTransformVector(v, 1.19L, 0.5L); });
+  Register<T>("LinearTransformVector", type, "loop", [](TQorVector<T>& v) {
+    constexpr auto scale = static_cast<Extended>(T::kScale);
+    for (T& x : v)
+      x = T(
+          static_cast<Stored>(std::llrint(1.19L * static_cast<Extended>(x.stored()) + scale / 2)));
+  });
+
+  Register<T>("Vector2FloatVector", type, "ours",
+              [](const TQorVector<T>& v) { return Vector2FloatVector(v); });
+  Register<T>("Vector2FloatVector", type, "loop", [](const TQorVector<T>& v) {
+    auto floats = TQorFloatVector::ForOverwrite(v.size());
+    for (std::size_t i = 0; i < v.size(); ++i)
+      floats[i] = static_cast<Extended>(v[i].stored()) / static_cast<Extended>(T::kScale);
+    return floats;
+  });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  RegisterCurrency<QorCurrency>("QorCurrency");
+  RegisterCurrency<Currency>("Currency");
+  RegisterCurrency<QorLongCurrency>("QorLongCurrency");
+
+  Register<Currency>("Vector2QorCurrVector", "Currency", "ours",
+                     [](const TQorCurrencyVector& v) { return Vector2QorCurrVector(v); });
+  // Of amounts that are not negative, and without a look at the range.
+  Register<Currency>("Vector2QorCurrVector", "Currency", "loop", [](const TQorCurrencyVector& v) {
+    auto cents = TQorCurrVector::ForOverwrite(v.size());
+    for (std::size_t i = 0; i < v.size(); ++i) {
+      const std::int64_t quotient = v[i].stored() / 100;
+      const std::int64_t rest = v[i].stored() % 100;
+      const bool up = rest > 50 || (rest == 50 && quotient % 2 != 0);
+      cents[i] = QorCurrency(static_cast<std::int32_t>(quotient + (up ? 1 : 0)));
+    }
+    return cents;
+  });
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
