@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/currency_text.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 
@@ -12,6 +13,19 @@ namespace {
 [[noreturn]] void FailAt(const CellPlace& place, InputFault fault, const std::string& what) {
   throw InputError(fault, place.input, place.line,
                    ColumnTitle(place.column, place.column_name) + ": " + what);
+}
+
+[[noreturn]] void RefuseAmount(std::string_view cell, const CellPlace& place) {
+  FailAt(place, InputFault::kNotANumber,
+         Excerpt(cell) + " is not an amount: digits with at most four decimals");
+}
+
+// Whether the cell, if it is a number, is one that Str2Currency does not round.
+bool IsWrittenAsAmount(std::string_view cell) {
+  if (cell.find_first_of("eE") != std::string_view::npos) return false;
+  const std::size_t point = cell.find('.');
+  return point == std::string_view::npos ||
+         cell.find_last_of("0123456789") <= point + Currency::kDecimals;
 }
 
 }  // namespace
@@ -55,6 +69,17 @@ Extended NumberIn(std::string_view cell, const CellPlace& place) {
     FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a finite number");
   }
   return value;
+}
+
+Currency AmountIn(std::string_view cell, const CellPlace& place) {
+  if (cell.empty()) RefuseEmptyCell(place);
+  if (!IsWrittenAsAmount(cell)) RefuseAmount(cell, place);
+  try {
+    return Str2Currency(cell);
+  } catch (const EConvertError& error) {
+    if (error.message_id() != rsNumberTooLarge) RefuseAmount(cell, place);
+  }
+  FailAt(place, InputFault::kOutOfRange, Excerpt(cell) + " is beyond the range of amounts");
 }
 
 void RefuseEmptyCell(const CellPlace& place) {

@@ -9,6 +9,7 @@
 
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/row_reader.h"
+#include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 
 namespace qorvex::cli {
@@ -38,6 +39,11 @@ struct CellPlace {
 /// The number in a cell, converted by Str2Float, so to 80 bits. Raises InputError, which tells the
 /// place: kEmptyCell; kNotANumber, also for infinities and NaN, which are no data; kOutOfRange.
 [[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place);
+
+/// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
+/// would have to be rounded, and whoever wrote an exponent most likely rounded already. Raises
+/// InputError, which tells the place: kEmptyCell, kNotANumber, kOutOfRange.
+[[nodiscard]] Currency AmountIn(std::string_view cell, const CellPlace& place);
 
 /// Raises InputError (kEmptyCell), as NumberIn does.
 [[noreturn]] void RefuseEmptyCell(const CellPlace& place);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -17,8 +18,11 @@
 #include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/comparisons.h"
+#include "qorvex/base/currency_text.h"
 #include "qorvex/base/text.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "qorvex/stats/descriptive_stats.h"
+#include "qorvex/vector/QorvexFinVector.h"
 
 namespace qorvex::cli {
 
@@ -29,6 +33,7 @@ constexpr const char* kExamples = R"(
 Examples:
   qorvex describe speeds.csv --column speed
   qorvex describe speeds.csv --column 3 --column 4 --decimals 2
+  qorvex describe invoices.csv --column total --currency
   grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty)";
 
 constexpr int kDefaultDecimals = 4;
@@ -40,6 +45,37 @@ struct DescribeArguments {
   bool json = false;
 };
 
+// The figures of a column of amounts that are amounts themselves.
+struct ExactFigures {
+  Currency maximum;
+  Currency minimum;
+  Currency range;
+  Currency sum;
+};
+
+// Wide enough for the sum of any column, so that the order of the amounts does not matter.
+__extension__ typedef __int128 Int128;
+
+ExactFigures ExactFiguresOf(const TableColumn& column, const DescribeArguments& arguments) {
+  const auto amount = [&](Int128 parts, const char* figure) {
+    const auto stored = static_cast<std::int64_t>(parts);
+    if (stored != parts) {
+      throw InputError(InputFault::kOutOfRange, InputName(arguments.table.file),
+                       column.Title() + ": the amounts are too large; their " + figure +
+                           " is beyond the range of amounts");
+    }
+    return Currency(stored);
+  };
+  Int128 sum = 0;
+  for (const Currency term : column.amounts) sum += term.stored();
+  const Currency maximum = MaxVector(column.amounts);
+  const Currency minimum = MinVector(column.amounts);
+  return {.maximum = maximum,
+          .minimum = minimum,
+          .range = amount(Int128{maximum.stored()} - minimum.stored(), "range"),
+          .sum = amount(sum, "sum")};
+}
+
 bool AllFinite(const DescriptiveResults& results) {
   const Extended range = results.maximum - results.minimum;
   return std::ranges::all_of(std::array{results.sum, results.sum_sq, results.variance, results.skew,
@@ -47,10 +83,22 @@ bool AllFinite(const DescriptiveResults& results) {
                              [](Extended figure) { return std::isfinite(figure); });
 }
 
-// Computes the statistics of a column, whose values move into them. Figures that overflow are
-// refused rather than printed as infinities, from which others would follow that mean nothing.
-DescriptiveStats StatisticsOf(TableColumn& column, const DescribeArguments& arguments) {
+struct ColumnFigures {
   DescriptiveStats statistics;
+  // Only for amounts.
+  std::optional<ExactFigures> exact;
+};
+
+// Computes the figures of a column, whose values move into them. Figures that overflow are
+// refused rather than printed as infinities, from which others would follow that mean nothing.
+ColumnFigures FiguresOf(TableColumn& column, const DescribeArguments& arguments) {
+  ColumnFigures figures;
+  if (arguments.table.selection.currency) {
+    figures.exact = ExactFiguresOf(column, arguments);
+    column.values = Vector2FloatVector(column.amounts);
+    column.amounts = {};
+  }
+  DescriptiveStats& statistics = figures.statistics;
   statistics.SetPopulation(arguments.population);
   statistics.SetValues(std::move(column.values));
   if (!AllFinite(statistics.Results())) {
@@ -59,23 +107,44 @@ DescriptiveStats StatisticsOf(TableColumn& column, const DescribeArguments& argu
                          ": the values are too large; their statistics are beyond the range of "
                          "extended precision");
   }
-  return statistics;
+  return figures;
 }
 
-std::string TextReport(const TableColumn& column, DescriptiveStats& statistics, int decimals) {
+// Replaces figures of the report by the exact ones.
+void PutExactFigures(std::vector<std::string>& lines, const ExactFigures& exact) {
+  for (const auto& [id, amount] : {std::pair(rsDSMaximum, exact.maximum),
+                                   {rsDSMinimum, exact.minimum},
+                                   {rsDSRange, exact.range},
+                                   {rsDSSum, exact.sum}}) {
+    const std::string label = ReportText(id) + '\t';
+    for (std::string& line : lines) {
+      if (line.starts_with(label)) line = label + Currency2EStr(amount);
+    }
+  }
+}
+
+std::string TextReport(const TableColumn& column, ColumnFigures& figures, int decimals) {
+  std::vector<std::string> lines = figures.statistics.Report(decimals);
+  if (figures.exact) PutExactFigures(lines, *figures.exact);
   std::string text = "Column " + Int2EStr(column.number);
   if (!column.name.empty()) text += ": " + OnOneLine(column.name);
   text += '\n';
-  for (const std::string& line : statistics.Report(decimals)) text += line + '\n';
+  for (const std::string& line : lines) text += line + '\n';
   return text;
 }
 
-void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveStats& statistics) {
+void WriteJson(JsonWriter& json, const TableColumn& column, const ColumnFigures& figures) {
+  const DescriptiveStats& statistics = figures.statistics;
   const DescriptiveResults& results = statistics.Results();
   const std::size_t count = statistics.NoOfValues();
   const auto figure = [&](std::string_view key, Extended value, bool exists = true) {
     json.Key(key);
     json.Number(exists ? std::optional(value) : std::nullopt);
+  };
+  const auto amount = [&](std::string_view key, Currency ExactFigures::*exact, Extended value) {
+    if (!figures.exact) return figure(key, value);
+    json.Key(key);
+    json.Amount(*figures.exact.*exact);
   };
   const bool has_variance = count >= 2 || statistics.Population();
   const bool has_skewness = count >= 3 && FloatIsNotZero(results.std_dev);
@@ -94,19 +163,19 @@ void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveSta
   json.Integer(count);
   json.Key("skipped");
   json.Integer(column.skipped);
-  figure("sum", results.sum);
+  amount("sum", &ExactFigures::sum, results.sum);
   figure("sum_of_squares", results.sum_sq);
   figure("mean", results.mean);
   figure("variance", results.variance, has_variance);
   figure("standard_deviation", results.std_dev, has_variance);
   figure("skewness", results.skew, has_skewness);
   figure("excess_kurtosis", results.kurtosis, has_kurtosis);
-  figure("minimum", results.minimum);
+  amount("minimum", &ExactFigures::minimum, results.minimum);
   figure("first_quartile", results.quartile_1st);
   figure("median", results.median);
   figure("third_quartile", results.quartile_3rd);
-  figure("maximum", results.maximum);
-  figure("range", results.maximum - results.minimum);
+  amount("maximum", &ExactFigures::maximum, results.maximum);
+  amount("range", &ExactFigures::range, results.maximum - results.minimum);
   figure("interquartile_range", results.inter_quartile_range);
   figure("mode", results.mode, results.mode_exists);
   json.EndObject();
@@ -116,9 +185,9 @@ void WriteJson(JsonWriter& json, const TableColumn& column, const DescriptiveSta
 std::string TextOf(std::vector<TableColumn>& columns, const DescribeArguments& arguments) {
   std::string text;
   for (TableColumn& column : columns) {
-    DescriptiveStats statistics = StatisticsOf(column, arguments);
+    ColumnFigures figures = FiguresOf(column, arguments);
     if (!text.empty()) text += '\n';
-    text += TextReport(column, statistics, arguments.decimals.value_or(kDefaultDecimals));
+    text += TextReport(column, figures, arguments.decimals.value_or(kDefaultDecimals));
   }
   return text;
 }
@@ -133,8 +202,7 @@ std::string JsonOf(std::vector<TableColumn>& columns, const DescribeArguments& a
   json.Key("columns");
   json.BeginArray();
   for (TableColumn& column : columns) {
-    const DescriptiveStats statistics = StatisticsOf(column, arguments);
-    WriteJson(json, column, statistics);
+    WriteJson(json, column, FiguresOf(column, arguments));
   }
   json.EndArray();
   json.EndObject();
@@ -155,6 +223,9 @@ void AddDescribe(CLI::App& program) {
   arguments->table.AddTo(command);
   command.add_flag("--population", arguments->population,
                    "The values are the whole population: divide by n, not by n - 1");
+  command.add_flag("--currency", arguments->table.selection.currency,
+                   "The values are amounts of money with at most four decimals: sum, minimum,\n"
+                   "maximum and range are exact, always with four decimals");
   AddDecimals(command, arguments->decimals,
               "Decimals of the report. Default: " + Int2EStr(kDefaultDecimals));
   command.add_flag("--json", arguments->json,

@@ -17,9 +17,9 @@ enum class InputFault {
   kNoValues,        ///< no row, or no value in a column
   kNoSuchColumn,    ///< a column that is not there, or whose name is not unique
   kTextInFirstRow,  ///< text where a finite number belongs and a header may stand
-  kNotANumber,      ///< text where a finite number belongs
+  kNotANumber,      ///< text where a finite number or an amount belongs
   kEmptyCell,       ///< nothing where a number belongs
-  kOutOfRange,      ///< numbers beyond the extended range, or whose results are
+  kOutOfRange,      ///< numbers or amounts beyond their range, or whose results are
   kNoResult,        ///< no inverse, no product, or parameters that a distribution refuses
 };
 

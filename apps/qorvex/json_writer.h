@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "qorvex/base/currency_text.h"
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/text.h"
 
@@ -32,6 +33,8 @@ class JsonWriter {
   /// The shortest text that gives the same 80-bit value back; null for nothing, for NaN and for an
   /// infinity.
   void Number(std::optional<Extended> value);
+  /// A number with all four decimals, exactly.
+  void Amount(Currency amount) { Raw(Currency2EStr(amount)); }
   void Null() { Raw("null"); }
 
   /// The document with a line break at its end. The writer is empty afterwards.

@@ -81,6 +81,7 @@ class ColumnCollector {
       : rows_(rows),
         skip_empty_(selection.skip_empty),
         whole_rows_(selection.whole_rows),
+        currency_(selection.currency),
         first_line_(rows.Line()),
         width_(rows.Cells().size()) {
     std::vector<std::string> names;
@@ -114,6 +115,8 @@ class ColumnCollector {
       const std::string_view cell = cell_of(column);
       if (cell.empty()) {
         Skip(column, rows_.Line());
+      } else if (currency_) {
+        column.amounts.Append(AmountIn(cell, Place(column, rows_.Line())));
       } else {
         column.values.Append(NumberIn(cell, Place(column, rows_.Line())));
       }
@@ -122,10 +125,11 @@ class ColumnCollector {
 
   [[nodiscard]] std::vector<TableColumn> Finish() {
     for (TableColumn& column : columns_) {
-      if (column.values.empty()) {
+      if (column.values.empty() && column.amounts.empty()) {
         throw InputError(InputFault::kNoValues, rows_.Name(), column.Title() + " has no values");
       }
       column.values.ShrinkToFit();
+      column.amounts.ShrinkToFit();
     }
     return std::move(columns_);
   }
@@ -147,6 +151,7 @@ class ColumnCollector {
   RowReader& rows_;
   bool skip_empty_;
   bool whole_rows_;
+  bool currency_;
   std::size_t first_line_;
   std::size_t width_;
   bool has_header_ = false;

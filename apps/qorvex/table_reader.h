@@ -25,6 +25,8 @@ struct TableSelection {
   /// With skip_empty, leave out the values of every chosen column in a row where one is empty, so
   /// that values of one index belong to one row.
   bool whole_rows = false;
+  /// Take the cells for amounts of money.
+  bool currency = false;
 };
 
 /// A column of a table.
@@ -34,6 +36,8 @@ struct TableColumn {
   /// Empty when the table has no header.
   std::string name = {};
   TQorFloatVector values = {};
+  /// What takes the place of values when amounts are read.
+  TQorCurrencyVector amounts = {};
   /// The number of empty cells, or of rows, that were left out.
   std::size_t skipped = 0;
 
@@ -44,7 +48,8 @@ struct TableColumn {
 /// Reads the chosen columns. Other columns may hold any text.
 ///
 /// The first row is a header when one of its cells is neither empty nor a number. Cells are
-/// converted by Str2Float, so to 80 bits; infinities and NaN are no data. A blank line between the
+/// converted by Str2Float, so to 80 bits, or by Str2Currency without rounding; infinities and NaN
+/// are no data. A blank line between the
 /// rows counts as a row of empty cells, one before the first row or after the last counts for
 /// nothing.
 ///
@@ -53,7 +58,7 @@ struct TableColumn {
 /// kEmptyCell, kNotANumber and kOutOfRange for a cell. Otherwise every column has at least one
 /// value. The first line at fault is the one that is reported.
 ///
-/// Memory: 16 bytes a value, at most 40 while a column grows.
+/// Memory: 16 bytes a value, at most 40 while a column grows; half of it for amounts.
 [[nodiscard]] std::vector<TableColumn> ReadTable(TextInput input, const TableSelection& selection);
 
 }  // namespace qorvex::cli

@@ -52,6 +52,44 @@ TEST(Describe, RefusesBadInputWithStatusTwo) {
                 "the range of extended precision");
 }
 
+TEST(Describe, AddsMoneyExactly) {
+  // The extended sum cannot hold tenths beside so large an amount.
+  const std::string tenths =
+      "{ echo 900000000000000.0001; yes 0.1 | head -n 200000; } | qorvex describe - --currency ";
+  ExpectOutput(tenths + "--decimals 1 | sed -n '3,6p'",
+               "Maximum:\t900000000000000.0001\nMinimum:\t0.1000\n"
+               "Range:\t899999999999999.9001\nSum:\t900000000020000.0001\n");
+  ExpectOutput(tenths + "--json | grep -E '\"(sum|minimum|median|maximum|range)\"' | tr -d ' \\n'",
+               R"("sum":900000000020000.0001,"minimum":0.1000,"median":0.1,)"
+               R"("maximum":900000000000000.0001,"range":899999999999999.9001,)");
+  // Partial sums may be beyond the range; a point needs digits on one side only.
+  ExpectOutput(R"(x=400000000000000; printf '%s\n' $x $x $x -$x -$x +.5 '" -7. "' -0.0001 |
+                  qorvex describe - --currency | grep Sum:)",
+               "Sum:\t399999999999993.4999\n");
+}
+
+TEST(Describe, RefusesWhatCannotBeAnExactAmount) {
+  for (const char* cell : {"0.12345", "1.00000", "-.00001", "1e3", "15E-1", "nan", "inf", "."}) {
+    ExpectRefusal(std::string("printf 'id,total\\n1,2.5\\n2,") + cell +
+                      "\\n' | qorvex describe - --currency --column total",
+                  std::string("standard input:3: column 2 (total): \"") + cell +
+                      "\" is not an amount: digits with at most four decimals");
+  }
+  const std::string largest = "922337203685477.5807";
+  ExpectOutput("echo " + largest + " | qorvex describe - --currency | grep Sum:",
+               "Sum:\t" + largest + "\n");
+  const std::string beyond = " is beyond the range of amounts";
+  const std::string too_large = "standard input: column 1: the amounts are too large; their ";
+  for (const auto& [input, message] :
+       {std::pair<std::string, std::string>("922337203685477.5808",
+                                            "standard input:1: column 1: \"922337203685477.5808\""),
+        {largest + "\\n0.0001", too_large + "sum"},
+        {"-" + largest + "\\n-0.0002", too_large + "sum"},
+        {largest + "\\n-0.0001", too_large + "range"}}) {
+    ExpectRefusal("printf -- '" + input + "\\n' | qorvex describe - --currency", message + beyond);
+  }
+}
+
 TEST(Describe, ReadsDecimalsAsDecimals) {
   ExpectOutput("echo 1 | qorvex describe - --decimals 010 | grep Mean", "Mean:\t1.0000000000\n");
 }
