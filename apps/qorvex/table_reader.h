@@ -49,9 +49,8 @@ struct TableColumn {
 ///
 /// The first row is a header when one of its cells is neither empty nor a number. Cells are
 /// converted by Str2Float, so to 80 bits, or by Str2Currency without rounding; infinities and NaN
-/// are no data. A blank line between the
-/// rows counts as a row of empty cells, one before the first row or after the last counts for
-/// nothing.
+/// are no data. A blank line between the rows counts as a row of empty cells, one before the first
+/// row or after the last counts for nothing.
 ///
 /// Raises InputError for what RowReader refuses; kNoValues for a text without rows, and for a
 /// column without values; kNoSuchColumn; kMalformed for a row that is not as long as the first;

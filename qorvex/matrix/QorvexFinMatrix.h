@@ -5,8 +5,9 @@
 ///
 /// A currency is a type of its own, so the routines are those of the unit QorvexMatrix and the
 /// element type of a matrix decides what they do with it. They work on the stored integers, exactly
-/// and wrapping around, but for what the comments of MultiplyMatrixByConst, LinearTransformMatrix
-/// and GrandMean say of amounts. There is no row reduction and no matrix product of money.
+/// and wrapping around, but for what the comments of MultiplyMatrixByConst, LinearTransformMatrix,
+/// GrandMean and Matrix2FloatMatrix say of amounts. There is no row reduction and no matrix product
+/// of money.
 
 #include "qorvex/matrix/access.h"
 #include "qorvex/matrix/arithmetic.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Moving single rows and columns between a matrix and a vector. All for the ten numeric elements.
+/// Moving single rows and columns between a matrix and a vector. All for all elements.
 ///
 /// Where MatrixDimensions counts a single row or column, or none, the matrix is left alone whatever
 /// the index: the vector that comes out is empty, nothing is written, and nothing raises. With the

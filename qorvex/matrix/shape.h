@@ -4,9 +4,9 @@
 /// The shape of a matrix, and the switch that decides whether routines compare the lengths of rows.
 ///
 /// Shapes are asked for here and nowhere else, so that every matrix routine agrees on what is empty
-/// and what is rectangular. None of these routines raises; all but the two
-/// counts work for all elements. Currency matrices obey the switch of the unit QorvexFinMatrix.
-/// Counts are of 32 bits: a matrix has fewer than 2^32 rows and columns.
+/// and what is rectangular. None of these routines raises; all but the two counts work for all
+/// elements. Currency matrices obey the switch of the unit QorvexFinMatrix. Counts are of 32 bits:
+/// a matrix has fewer than 2^32 rows and columns.
 
 #include <atomic>
 #include <cstdint>

@@ -4,8 +4,8 @@
 /// Arithmetic between two vectors of equal length.
 ///
 /// Floating elements are computed in extended precision and rounded to their type when stored; NaN
-/// and infinities are what the processor makes of them. Integers wrap around silently. A vector may
-/// be both arguments. O(n).
+/// and infinities are what the processor makes of them. Integers and the stored integers of amounts
+/// wrap around silently. A vector may be both arguments. O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"

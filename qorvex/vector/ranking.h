@@ -5,8 +5,8 @@
 ///
 /// The rank of a value is the first position in the sorted vector whose element equals it, so ties
 /// share the lowest rank: (10, 20, 20, 30) ascending has the ranks (0, 1, 1, 3). Integers and
-/// amounts are compared exactly, floating elements with SameFloat in their own precision. NaN sorts last and
-/// equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all elements;
+/// amounts are compared exactly, floating elements with SameFloat in their own precision. NaN sorts
+/// last and equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all elements;
 /// nothing raises for any input.
 
 #include <cstdint>

@@ -105,19 +105,22 @@ TEST(CurrencyVectors, SignsOfCurrencyAreJudgedWithinTheTolerance) {
       << "ranks have no tolerance";
 }
 
-// (numerator * amount / denominator + intercept) in stored units, rounded half to even.
+// dividend / divisor, rounded half to even, as an amount or the smallest one.
+template <class T>
+T Rounded(Int128 dividend, Int128 divisor) {
+  Int128 quotient = dividend / divisor;
+  const Int128 twice = 2 * (dividend % divisor);
+  const Int128 size = twice < 0 ? -twice : twice;
+  if (size > divisor || (size == divisor && quotient % 2 != 0)) quotient += dividend < 0 ? -1 : 1;
+  const auto stored = static_cast<typename T::StoredType>(quotient);
+  return T(stored == quotient ? stored : std::numeric_limits<typename T::StoredType>::min());
+}
+
+// numerator / denominator * amount + intercept, which is in stored units.
 template <class T>
 T Transformed(T amount, int numerator, int denominator, std::int64_t intercept) {
-  const Int128 dividend = Int128{amount.stored()} * numerator + Int128{intercept} * denominator;
-  Int128 quotient = dividend / denominator;
-  const Int128 twice = 2 * (dividend % denominator);
-  const Int128 size = twice < 0 ? -twice : twice;
-  if (size > denominator || (size == denominator && quotient % 2 != 0))
-    quotient += dividend < 0 ? -1 : 1;
-  using Stored = typename T::StoredType;
-  const bool fits = quotient >= std::numeric_limits<Stored>::min() &&
-                    quotient <= std::numeric_limits<Stored>::max();
-  return T(fits ? static_cast<Stored>(quotient) : std::numeric_limits<Stored>::min());
+  return Rounded<T>(Int128{amount.stored()} * numerator + Int128{intercept} * denominator,
+                    denominator);
 }
 
 // Slopes and intercepts that extended precision holds exactly.
@@ -139,6 +142,35 @@ TEST(CurrencyVectors, LinearTransformationsRoundAmountsToEven) {
     LinearTransformVector(w, 3, -7);
     ASSERT_EQ(w[0], Transformed(short_before, 3, 1, -700)) << short_before.stored();
   }
+}
+
+template <class To, class From>
+void ExpectExact(const TQorVector<From>& amounts, const TQorVector<To>& converted) {
+  for (std::size_t i = 0; i < amounts.size(); ++i)
+    EXPECT_EQ(converted[i], Rounded<To>(Int128{amounts[i].stored()} * To::kScale, From::kScale));
+}
+
+// Ends of the ranges, where 32 bits end, and what lies beside ties.
+TEST(CurrencyVectors, ConversionsAreExactAtTheBoundaries) {
+  TQorCurrencyVector amounts;
+  for (const std::int64_t centre :
+       {std::int64_t{0}, kSmallest64, kLargest64, kSmallest64 / 100, kLargest64 / 100,
+        std::int64_t{kSmallest32} * 100, std::int64_t{kLargest32} * 100,
+        std::int64_t{kSmallest32} * 10'000, std::int64_t{kLargest32} * 10'000}) {
+    for (std::int64_t offset = -15'100; offset <= 15'100; offset += 25) {
+      for (const std::int64_t beside : {-1, 0, 1}) {
+        std::int64_t stored = 0;
+        if (!__builtin_add_overflow(centre, offset + beside, &stored))
+          AppendValue2Vector(amounts, Currency(stored));
+      }
+    }
+  }
+  TQorLongCurrVector millionths;
+  for (const Currency x : amounts) AppendValue2Vector(millionths, QorLongCurrency(x.stored()));
+  ExpectExact(amounts, Vector2QorCurrVector(amounts));
+  ExpectExact(amounts, Vector2QorLongCurrVector(amounts));
+  ExpectExact(millionths, Vector2QorCurrVector(millionths));
+  ExpectExact(millionths, Vector2QorCurrencyVector(millionths));
 }
 
 TEST(CurrencyVectors, ConvertElementByElement) {

@@ -1,10 +1,9 @@
 #pragma once
 
 // Sums and products of elements. Floating ones are formed in extended precision, each operation
-// rounding once, and then rounded to their own type; integers and
-// the stored integers of amounts wrap around. Factors and addends of
-// products are extended for floating elements and of the element's type for integers; of amounts
-// they are extended and in units.
+// rounding once, and then rounded to their own type; integers and sums of amounts wrap around;
+// products of amounts are rounded to the nearest one. Factors and addends of products are of the
+// element's type for integers and extended for the others; what is added to an amount is in units.
 
 #include <type_traits>
 

@@ -15,7 +15,7 @@ int main() {
 
   qorvex::TQorFloatMatrix matrix = {{0, 2}, {4, 0}};
   expect(MatrixInverse(matrix, matrix) && matrix == qorvex::TQorFloatMatrix{{0, 0.25L}, {0.5L, 0}});
-  expect(SumMatrixRow(matrix, 1) == 0.5L && qorvex::QorMatrixRectangularCheck);
+  expect(SumMatrixRow(matrix, 1) == 0.5L && qorvex::QorvexMatrix::QorMatrixRectangularCheck);
 
   // An error that a library raises is caught here by its type.
   try {
