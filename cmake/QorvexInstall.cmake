@@ -55,7 +55,7 @@ qorvex_install(numerics
 if(TARGET Qorvex::stats_rt)
   qorvex_install(stats_rt
     DESCRIPTION "Vectors, matrices and statistics with 64 bits of mantissa as Qt 6 components"
-    REQUIRES "qorvex-numerics = ${PROJECT_VERSION}" "Qt6Core >= ${QORVEX_QT_VERSION}")
+    REQUIRES "qorvex-numerics = ${PROJECT_VERSION}" "Qt6Widgets >= ${QORVEX_QT_VERSION}")
 endif()
 
 # Minor releases may break source while the major version is 0.

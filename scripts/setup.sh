@@ -9,6 +9,8 @@ packages=(
   g++ cmake ninja-build ccache pkg-config
   libboost-dev       # the special functions, headers only
   qt6-base-dev       # the components
+  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # their translations and the Designer plugin
+  fonts-dejavu-core  # what the tests of widgets draw with
   libcli11-dev       # the command line
   libgtest-dev       # the tests
   libfmt-dev         # the test of the formatter of amounts

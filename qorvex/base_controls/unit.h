@@ -1,0 +1,16 @@
+#pragma once
+
+/// @file
+/// How a unit of widgets opens its namespace.
+
+/// A form names a widget by what moc records of it. Forms are to say qorvex::TQorVectorEdit, as
+/// programs do, so moc does not see the inline namespace of the unit.
+#ifdef Q_MOC_RUN
+#define QORVEX_WIDGET_UNIT(unit) qorvex
+#else
+#define QORVEX_WIDGET_UNIT(unit) qorvex::inline unit
+#endif
+
+/// A published property whose accessors go by its name: Name, setName and resetName.
+#define QORVEX_PUBLISHED(Type, Name) \
+  Q_PROPERTY(Type Name READ Name WRITE set##Name RESET reset##Name)
