@@ -1,14 +1,14 @@
 #pragma once
 
 /// @file
-/// How a unit of widgets opens its namespace.
+/// How a unit of widgets opens its namespace: QORVEX_WIDGET_UNIT(QorvexVectorEdit) {.
 
 /// A form names a widget by what moc records of it. Forms are to say qorvex::TQorVectorEdit, as
 /// programs do, so moc does not see the inline namespace of the unit.
 #ifdef Q_MOC_RUN
-#define QORVEX_WIDGET_UNIT(unit) qorvex
+#define QORVEX_WIDGET_UNIT(unit) namespace qorvex
 #else
-#define QORVEX_WIDGET_UNIT(unit) qorvex::inline unit
+#define QORVEX_WIDGET_UNIT(unit) namespace qorvex::inline unit
 #endif
 
 /// A published property whose accessors go by its name: Name, setName and resetName.

@@ -1,0 +1,122 @@
+#pragma once
+
+/// @file
+/// The properties that single cells, panels of cells and the shared settings have in common.
+
+#include <QColor>
+#include <QString>
+#include <algorithm>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base_controls/cell_settings.h"
+#include "qorvex/base_controls/edit_color_set.h"
+#include "qorvex/base_controls/unit.h"
+
+/// The colours of the owned colour set as properties of the control, since a form cannot hold the
+/// set itself.
+#define QORVEX_PUBLISHED_COLORS                        \
+  QORVEX_PUBLISHED(QColor, ColorSetText)               \
+  QORVEX_PUBLISHED(QColor, ColorSetBackground)         \
+  QORVEX_PUBLISHED(QColor, ColorSetNegativeText)       \
+  QORVEX_PUBLISHED(QColor, ColorSetFocusBackground)    \
+  QORVEX_PUBLISHED(QColor, ColorSetReadOnlyBackground) \
+  QORVEX_PUBLISHED(QColor, ColorSetInvalidText)        \
+  QORVEX_PUBLISHED(QColor, ColorSetInvalidBackground)
+
+namespace qorvex::inline QorvexBaseControls {
+
+/// Accessors of the settings of cells, for a class that publishes them as properties. See
+/// CellSettings for what each means and what it is at first. Setting the value that is there
+/// already does nothing.
+class QORVEX_EXPORT CellProperties {
+ public:
+  CellProperties(const CellProperties&) = delete;
+  CellProperties& operator=(const CellProperties&) = delete;
+
+  /// The colours, as an object of their own that lives as long as its owner.
+  [[nodiscard]] TQorEditColorSet* ColorSet() noexcept { return &color_set_; }
+
+  /// @{
+  /// All settings at once.
+  [[nodiscard]] CellSettings Settings() const;
+  void setSettings(const CellSettings& settings);
+  /// @}
+
+#define QORVEX_CELL_PROPERTY(Type, Name, member) \
+  [[nodiscard]] Type Name() const {              \
+    return settings_.member;                     \
+  }                                              \
+  void set##Name(Type value) {                   \
+    Assign(settings_.member, value);             \
+  }                                              \
+  void reset##Name() {                           \
+    set##Name(CellSettings().member);            \
+  }
+#define QORVEX_COLOR_SET_PROPERTY(Name)         \
+  [[nodiscard]] QColor ColorSet##Name() const { \
+    return color_set_.Name();                   \
+  }                                             \
+  void setColorSet##Name(const QColor& color) { \
+    color_set_.set##Name(color);                \
+  }                                             \
+  void resetColorSet##Name() {                  \
+    color_set_.reset##Name();                   \
+  }
+  /// @{
+  /// One setting. DecimalPlaces is clamped to 0 to 255.
+  QORVEX_CELL_PROPERTY(bool, TrimTrailingZeroes, number.trim_trailing_zeroes)
+  QORVEX_CELL_PROPERTY(bool, FullAccuracy, number.full_accuracy)
+  QORVEX_CELL_PROPERTY(Qt::Alignment, Alignment, number.alignment)
+  QORVEX_CELL_PROPERTY(bool, AutoSelectClick, selection.auto_select_click)
+  QORVEX_CELL_PROPERTY(bool, AutoSelect, selection.auto_select)
+  QORVEX_CELL_PROPERTY(bool, AllowKbdNull, nulls.allow_kbd_null)
+  QORVEX_CELL_PROPERTY(bool, BlankWhenZero, nulls.blank_when_zero)
+  QORVEX_CELL_PROPERTY(bool, BlankWhenNull, nulls.blank_when_null)
+  QORVEX_CELL_PROPERTY(QString, NullStr, nulls.null_str)
+  QORVEX_CELL_PROPERTY(bool, ReadOnly, read_only)
+  [[nodiscard]] int DecimalPlaces() const {
+    return settings_.number.decimal_places;
+  }
+  void setDecimalPlaces(int places) {
+    Assign(settings_.number.decimal_places, std::clamp(places, 0, 255));
+  }
+  void resetDecimalPlaces() {
+    setDecimalPlaces(NumberFormat().decimal_places);
+  }
+  /// @}
+  /// @{
+  /// One colour of the set.
+  QORVEX_COLOR_SET_PROPERTY(Text)
+  QORVEX_COLOR_SET_PROPERTY(Background)
+  QORVEX_COLOR_SET_PROPERTY(NegativeText)
+  QORVEX_COLOR_SET_PROPERTY(FocusBackground)
+  QORVEX_COLOR_SET_PROPERTY(ReadOnlyBackground)
+  QORVEX_COLOR_SET_PROPERTY(InvalidText)
+  QORVEX_COLOR_SET_PROPERTY(InvalidBackground)
+  /// @}
+#undef QORVEX_CELL_PROPERTY
+#undef QORVEX_COLOR_SET_PROPERTY
+
+ protected:
+  CellProperties();
+  virtual ~CellProperties();
+
+  /// Some setting but the colours has changed.
+  virtual void SettingsChanged() = 0;
+  /// Some colour has changed.
+  virtual void DoColorSetChange() = 0;
+
+ private:
+  template <class T>
+  void Assign(T& member, const T& value) {
+    if (member == value) return;
+    member = value;
+    SettingsChanged();
+  }
+
+  // Without the colours, which are in the set.
+  CellSettings settings_;
+  TQorEditColorSet color_set_;
+};
+
+}  // namespace qorvex::inline QorvexBaseControls

@@ -1,0 +1,264 @@
+#include "qorvex/base_controls/custom_edit.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QStyleOptionFrame>
+#include <QToolTip>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+#include "qorvex/base/text.h"
+#include "qorvex/base_controls/detail/number_text.h"
+#include "qorvex/base_controls/detail/same_element.h"
+
+namespace qorvex::inline QorvexBaseControls {
+
+namespace {
+
+constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
+
+}  // namespace
+
+TQorCustomEdit::TQorCustomEdit(QWidget* parent) : TextCell(parent) {
+  QLineEdit::setAlignment(Alignment());
+  // Another text is not the one that was marked.
+  connect(this, &QLineEdit::textEdited, this, [this] { Mark(false); });
+}
+
+TQorCustomEdit::~TQorCustomEdit() = default;
+
+void TQorCustomEdit::setValue(Extended value) {
+  Show(value, true, false);
+}
+
+void TQorCustomEdit::Refresh(Extended value) {
+  Show(value, true, true);
+}
+
+void TQorCustomEdit::ShowNothing() {
+  Show(kNull, false, false);
+}
+
+void TQorCustomEdit::ShowAnew() {
+  Show(value_, has_value_, true);
+}
+
+void TQorCustomEdit::Show(Extended value, bool has_value, bool keep_pending) {
+  value_ = value;
+  has_value_ = has_value;
+  ShowText(ShownText(), keep_pending);
+}
+
+bool TQorCustomEdit::Null() const noexcept {
+  return std::isnan(value_);
+}
+
+void TQorCustomEdit::setNull(bool null) {
+  if (null != Null()) setValue(null ? kNull : 0);
+}
+
+QString TQorCustomEdit::ShownText() const {
+  if (!has_value_) return {};
+  if (Null()) return BlankWhenNull() ? QString() : NullStr();
+  if (value_ == 0 && BlankWhenZero()) return {};
+  return TextOf(value_);
+}
+
+bool TQorCustomEdit::Commit() {
+  if (Pending()) {
+    const std::optional<Extended> parsed = Parsed(text());
+    if (!parsed) {
+      Mark(true);
+      return false;
+    }
+    const Extended before = value_;
+    setValue(*parsed);
+    if (detail::SameElement(before, value_)) return true;
+    if (Null()) Q_EMIT OnNull();
+    Q_EMIT Changed(before);
+  } else {
+    Restore();
+  }
+  return true;
+}
+
+void TQorCustomEdit::Restore() {
+  TextCell::Restore();
+  Mark(false);
+}
+
+std::optional<Extended> TQorCustomEdit::Parsed(const QString& text) const {
+  const QString trimmed = text.trimmed();
+  if (trimmed.isEmpty() || trimmed == NullStr()) {
+    if (AllowKbdNull()) return kNull;
+    if (trimmed.isEmpty()) return BlankWhenZero() ? std::optional<Extended>(0) : std::nullopt;
+  }
+  return ValueOf(trimmed);
+}
+
+QString TQorCustomEdit::ExactText(Extended value) const {
+  return std::isnan(value) ? NullStr() : detail::LocalNumber(Float2Str(value), locale());
+}
+
+void TQorCustomEdit::SetSpecialColor(const QColor& color) {
+  special_color_ = color;
+  ApplyColors();
+}
+
+void TQorCustomEdit::SettingsChanged() {
+  SetSelectionBehaviour({.auto_select = AutoSelect(), .auto_select_click = AutoSelectClick()});
+  if (QLineEdit::alignment() != Alignment()) QLineEdit::setAlignment(Alignment());
+  if (QLineEdit::isReadOnly() != ReadOnly()) {
+    if (ReadOnly()) Restore();
+    QLineEdit::setReadOnly(ReadOnly());
+  }
+  ShowAnew();
+  ApplyColors();
+}
+
+void TQorCustomEdit::DoColorSetChange() {
+  ApplyColors();
+}
+
+void TQorCustomEdit::Mark(bool invalid) {
+  if (invalid != invalid_) {
+    invalid_ = invalid;
+    setAccessibleDescription(invalid ? tr("Not a number") : QString());
+  }
+  ApplyColors();
+}
+
+void TQorCustomEdit::ApplyColors() {
+  const TQorEditColorSet& colors = *ColorSet();
+  const auto pick = [](const QColor& first, const QColor& otherwise) {
+    return first.isValid() ? first : otherwise;
+  };
+  QColor text = pick(special_color_, value_ < 0 ? colors.NegativeText() : QColor());
+  text = pick(text, colors.Text());
+  QColor background = colors.Background();
+  if (ReadOnly()) background = pick(colors.ReadOnlyBackground(), background);
+  if (Inside()) background = pick(colors.FocusBackground(), background);
+  if (invalid_) {
+    const bool dark = QApplication::palette(this).color(QPalette::Base).lightness() < 128;
+    text = pick(colors.InvalidText(), dark ? QColor(0xff, 0xb4, 0xab) : QColor(0x93, 0x00, 0x0a));
+    background = pick(colors.InvalidBackground(),
+                      dark ? QColor(0x5c, 0x14, 0x14) : QColor(0xff, 0xda, 0xd6));
+  }
+  // Only the roles that differ are set, so the others follow the application's palette.
+  QPalette palette;
+  if (text.isValid()) palette.setColor(QPalette::Text, text);
+  if (background.isValid()) palette.setColor(QPalette::Base, background);
+  const bool own = text.isValid() || background.isValid();
+  if (!own && !testAttribute(Qt::WA_SetPalette)) return;
+  applying_colors_ = true;
+  setPalette(palette);
+  applying_colors_ = false;
+}
+
+bool TQorCustomEdit::IsCutOff() const {
+  QStyleOptionFrame option;
+  initStyleOption(&option);
+  const int width = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).width();
+  // The line edit keeps two pixels free on either side of its text.
+  return fontMetrics().horizontalAdvance(text()) > width - 4;
+}
+
+bool TQorCustomEdit::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+    const auto& help = static_cast<const QHelpEvent&>(*event);
+    QString tip;
+    if (invalid_) {
+      tip = tr("\"%1\" is not a number. Escape brings back the value.").arg(text());
+    } else if (IsCutOff()) {
+      tip = text();
+    }
+    if (!tip.isEmpty()) {
+      QToolTip::showText(help.globalPos(), tip.toHtmlEscaped(), this);
+      return true;
+    }
+  }
+  return TextCell::event(event);
+}
+
+void TQorCustomEdit::changeEvent(QEvent* event) {
+  TextCell::changeEvent(event);
+  if (event->type() == QEvent::LocaleChange) ShowAnew();
+  if (event->type() == QEvent::PaletteChange && !applying_colors_ && invalid_) ApplyColors();
+}
+
+void TQorCustomEdit::focusInEvent(QFocusEvent* event) {
+  TextCell::focusInEvent(event);
+  ApplyColors();
+}
+
+void TQorCustomEdit::focusOutEvent(QFocusEvent* event) {
+  TextCell::focusOutEvent(event);
+  ApplyColors();
+}
+
+void TQorCustomEdit::keyPressEvent(QKeyEvent* event) {
+  if (event == QKeySequence::Paste) {
+    if (!ReadOnly()) Paste(QApplication::clipboard()->mimeData());
+    return;
+  }
+  if (event->modifiers().testFlag(Qt::KeypadModifier) && !ReadOnly() &&
+      (event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma)) {
+    QKeyEvent separator(event->type(), event->key(), Qt::NoModifier, locale().decimalPoint());
+    TextCell::keyPressEvent(&separator);
+    return;
+  }
+  TextCell::keyPressEvent(event);
+}
+
+void TQorCustomEdit::mouseReleaseEvent(QMouseEvent* event) {
+  QClipboard& clipboard = *QApplication::clipboard();
+  if (event->button() == Qt::MiddleButton && clipboard.supportsSelection()) {
+    if (!ReadOnly()) Paste(clipboard.mimeData(QClipboard::Selection));
+    return;
+  }
+  TextCell::mouseReleaseEvent(event);
+}
+
+void TQorCustomEdit::dropEvent(QDropEvent* event) {
+  if (ReadOnly() || !event->mimeData()->hasText()) return;
+  Paste(event->mimeData());
+  event->acceptProposedAction();
+}
+
+void TQorCustomEdit::Paste(const QMimeData* contents) {
+  if (contents == nullptr || !contents->hasText()) return;
+  const QString pasted = contents->text();
+  const QString line = pasted.trimmed();
+  if (line.contains(QLatin1Char('\t')) || line.contains(QLatin1Char('\n')) ||
+      line.contains(QLatin1Char('\r'))) {
+    Q_EMIT BlockPasted(pasted);
+  } else {
+    insert(line);
+    Q_EMIT textEdited(text());
+  }
+}
+
+QMenu* TQorCustomEdit::CreateContextMenu() {
+  QMenu* menu = createStandardContextMenu();
+  // The line edit would paste tabs and line ends into the text.
+  if (QAction* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
+    paste->disconnect(this);
+    connect(paste, &QAction::triggered, this,
+            [this] { Paste(QApplication::clipboard()->mimeData()); });
+  }
+  Q_EMIT MenuOpening(menu);
+  return menu;
+}
+
+void TQorCustomEdit::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(CreateContextMenu());
+  menu->exec(event->globalPos());
+}
+
+}  // namespace qorvex::inline QorvexBaseControls

@@ -1,0 +1,130 @@
+#pragma once
+
+/// @file
+/// TQorCustomEdit, a cell that holds an exact value and shows it as text.
+
+#include <QMenu>
+#include <QString>
+#include <optional>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
+#include "qorvex/base_controls/cell_properties.h"
+#include "qorvex/base_controls/text_cell.h"
+#include "qorvex/base_controls/unit.h"
+
+class QMimeData;
+
+QORVEX_WIDGET_UNIT(QorvexBaseControls) {
+
+/// A text cell around an 80-bit value.
+///
+/// Typing is free. Enter and leaving the cell commit: the text becomes the value, or, when it is
+/// no number, Enter marks it and stays, and leaving restores the value that was there. Escape
+/// restores too. A text that is back to what the cell showed is no change, so a value that was
+/// rounded for display keeps every bit until something else is typed.
+///
+/// NaN is null: it shows as NullStr, and an empty text or NullStr commits it, where AllowKbdNull
+/// permits. Where it does not, an empty text is 0 in a cell with BlankWhenZero, and no number in
+/// others.
+///
+/// Numbers are written and read as the widget's locale has them, without separators of groups;
+/// the decimal key of the keypad types the separator of the locale. A text that is cut off shows
+/// whole in a tool tip.
+class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
+  Q_OBJECT
+
+ public:
+  ~TQorCustomEdit() override;
+
+  // The line edit has members of these names for its text alone.
+  using CellProperties::setAlignment;
+  using CellProperties::setReadOnly;
+
+  /// @{
+  /// The value. Setting it gives up what has been typed and raises no signal.
+  [[nodiscard]] Extended Value() const noexcept { return value_; }
+  void setValue(Extended value);
+  /// @}
+
+  /// The value may have changed elsewhere: shows it, but leaves a text that is being typed alone.
+  void Refresh(Extended value);
+
+  /// Shows nothing, for a cell without a value behind it. Value() is null then.
+  void ShowNothing();
+
+  /// @{
+  /// Whether the value is null. Setting true gives up the value; setting false makes a null 0.
+  [[nodiscard]] bool Null() const noexcept;
+  void setNull(bool null);
+  void resetNull() { setNull(false); }
+  /// @}
+
+  /// Makes the text the value. A text that is no number is marked and stays, and the value stays
+  /// too; false then.
+  bool Commit() override;
+  /// Shows the value again.
+  void Restore() override;
+
+  /// The value that a text stands for; nothing when it is none. This is what Commit goes by.
+  [[nodiscard]] std::optional<Extended> Parsed(const QString& text) const;
+  /// The text of a value with all its digits, as it is copied to other programs.
+  [[nodiscard]] QString ExactText(Extended value) const;
+
+  /// A colour for the text of this value, in place of the settings'; invalid for none.
+  void SetSpecialColor(const QColor& color);
+
+  /// The menu that a click on the cell opens; the caller owns it.
+  [[nodiscard]] QMenu* CreateContextMenu();
+
+  /// The owner's number of this cell.
+  int Tag = 0;
+
+ Q_SIGNALS:
+  /// A commit has changed the value; it was the given one.
+  void Changed(long double before);
+  /// A commit has made the value null; Changed follows.
+  void OnNull();
+  /// A text of more than one cell is to be pasted here.
+  void BlockPasted(const QString& text);
+  /// A menu is about to open; the owner may add to it.
+  void MenuOpening(QMenu* menu);
+
+ protected:
+  explicit TQorCustomEdit(QWidget* parent = nullptr);
+
+  /// The text of a value that is not null, as the cell shows it.
+  [[nodiscard]] virtual QString TextOf(Extended value) const = 0;
+  /// The value of a text that is not blank; nothing when it is none.
+  [[nodiscard]] virtual std::optional<Extended> ValueOf(const QString& text) const = 0;
+  /// What decides the text has changed: shows the value anew.
+  void ShowAnew();
+
+  void SettingsChanged() override;
+  void DoColorSetChange() override;
+
+  bool event(QEvent* event) override;
+  void changeEvent(QEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  [[nodiscard]] QString ShownText() const;
+  void Show(Extended value, bool has_value, bool keep_pending);
+  void Mark(bool invalid);
+  void ApplyColors();
+  void Paste(const QMimeData* contents);
+  [[nodiscard]] bool IsCutOff() const;
+
+  Extended value_ = 0;
+  bool has_value_ = true;
+  bool invalid_ = false;
+  bool applying_colors_ = false;
+  QColor special_color_;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -1,0 +1,52 @@
+#pragma once
+
+/// @file
+/// TQorFloatEdit, a cell for a decimal number.
+
+#include <functional>
+#include <optional>
+
+#include "qorvex/base_controls/custom_edit.h"
+
+QORVEX_WIDGET_UNIT(QorvexBaseControls) {
+
+/// Turns the text of a cell into a value; nothing when the text is none. The text is not blank
+/// and has no blanks around it.
+using TQorConvertEvent = std::function<std::optional<Extended>(const QString& text)>;
+
+/// A cell that shows its value with DecimalPlaces decimals, correctly rounded, or with all digits
+/// where FullAccuracy is set. From 2^63 on, where a value has no decimals, all digits show in
+/// scientific notation.
+class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
+  Q_OBJECT
+  /// @{
+  /// Published: see CellSettings and TQorCustomEdit.
+  QORVEX_PUBLISHED(bool, TrimTrailingZeroes)
+  QORVEX_PUBLISHED(bool, FullAccuracy)
+  QORVEX_PUBLISHED(Qt::Alignment, Alignment)
+  QORVEX_PUBLISHED(bool, AutoSelectClick)
+  QORVEX_PUBLISHED(bool, AutoSelect)
+  QORVEX_PUBLISHED(bool, AllowKbdNull)
+  QORVEX_PUBLISHED(bool, BlankWhenZero)
+  QORVEX_PUBLISHED(bool, BlankWhenNull)
+  QORVEX_PUBLISHED(int, DecimalPlaces)
+  QORVEX_PUBLISHED(bool, Null)
+  QORVEX_PUBLISHED(QString, NullStr)
+  QORVEX_PUBLISHED(bool, ReadOnly)
+  QORVEX_PUBLISHED_COLORS
+  /// @}
+
+ public:
+  /// A cell with the value 0.
+  explicit TQorFloatEdit(QWidget* parent = nullptr);
+  ~TQorFloatEdit() override;
+
+  /// Reads texts in place of the cell itself; empty for none.
+  TQorConvertEvent OnConvert;
+
+ protected:
+  [[nodiscard]] QString TextOf(Extended value) const override;
+  [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -1,0 +1,64 @@
+#pragma once
+
+/// @file
+/// TextCell, a line edit as one of many cells: what is typed into it counts once it is committed.
+
+#include <QLineEdit>
+#include <QString>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base_controls/cell_settings.h"
+#include "qorvex/base_controls/unit.h"
+
+QORVEX_WIDGET_UNIT(QorvexBaseControls) {
+
+/// A line edit that knows what it shows while nothing is typed, and that tells when the focus comes
+/// from another widget and when it has gone to one. A menu that opens or a window that becomes
+/// inactive is neither; the latter commits.
+class QORVEX_EXPORT TextCell : public QLineEdit {
+  Q_OBJECT
+
+ public:
+  ~TextCell() override;
+
+  /// Something has been typed that is neither committed nor what the cell showed.
+  [[nodiscard]] bool Pending() const;
+  /// Makes the text that is typed count. False when it cannot; the text stays then.
+  virtual bool Commit() = 0;
+  /// Gives up what is typed.
+  virtual void Restore();
+  /// Commits, or restores where that fails.
+  void CommitOrRestore();
+  /// Leaves the cell as a change of the focus does: CommitOrRestore, then Left. Nothing happens
+  /// when the cell has not been entered.
+  void Leave();
+
+  /// What gets selected on entry.
+  void SetSelectionBehaviour(const SelectionBehaviour& behaviour) { behaviour_ = behaviour; }
+
+ Q_SIGNALS:
+  /// The focus has come in from another widget.
+  void Entered();
+  /// The focus has gone to another widget, and the text is committed or restored.
+  void Left();
+
+ protected:
+  explicit TextCell(QWidget* parent = nullptr);
+
+  /// Shows the text; one that is being typed can be kept over it.
+  void ShowText(const QString& text, bool keep_pending);
+  /// Between Entered and Left.
+  [[nodiscard]] bool Inside() const noexcept { return inside_; }
+
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  QString shown_;
+  SelectionBehaviour behaviour_;
+  bool inside_ = false;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

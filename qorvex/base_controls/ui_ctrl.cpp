@@ -1,0 +1,17 @@
+#include "qorvex/base_controls/ui_ctrl.h"
+
+namespace qorvex::inline QorvexBaseControls {
+
+TQorUICtrl::TQorUICtrl(QObject* owner) : QObject(owner) {}
+TQorUICtrl::~TQorUICtrl() = default;
+
+CellSettings TQorUICtrl::Merged(CellSettings own, TQorUIUsage usage) const {
+  const CellSettings shared = Settings();
+  if (usage.testFlag(uuColors)) own.colors = shared.colors;
+  if (usage.testFlag(uuNumberFormat)) own.number = shared.number;
+  if (usage.testFlag(uuNullHandling)) own.nulls = shared.nulls;
+  if (usage.testFlag(uuBehaviour)) own.selection = shared.selection;
+  return own;
+}
+
+}  // namespace qorvex::inline QorvexBaseControls

@@ -1,0 +1,65 @@
+#pragma once
+
+/// @file
+/// TQorUICtrl, settings that several controls share.
+
+#include <QObject>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base_controls/cell_properties.h"
+#include "qorvex/base_controls/unit.h"
+
+QORVEX_WIDGET_UNIT(QorvexBaseControls) {
+
+/// The settings of cells for any number of controls. A control that is linked to it takes from
+/// here what its property UIUsage names, and keeps its own settings for the rest and for the time
+/// after this object is gone.
+class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
+  Q_OBJECT
+  /// @{
+  /// Published: see the members of CellSettings of the same names.
+  QORVEX_PUBLISHED(bool, TrimTrailingZeroes)
+  QORVEX_PUBLISHED(bool, FullAccuracy)
+  QORVEX_PUBLISHED(Qt::Alignment, Alignment)
+  QORVEX_PUBLISHED(int, DecimalPlaces)
+  QORVEX_PUBLISHED(bool, AllowKbdNull)
+  QORVEX_PUBLISHED(bool, BlankWhenZero)
+  QORVEX_PUBLISHED(bool, BlankWhenNull)
+  QORVEX_PUBLISHED(QString, NullStr)
+  QORVEX_PUBLISHED(bool, AutoSelectClick)
+  QORVEX_PUBLISHED(bool, AutoSelect)
+  QORVEX_PUBLISHED_COLORS
+  /// @}
+
+ public:
+  /// What a control takes from the shared settings.
+  enum TQorUIUsageTypes {
+    uuColors = 1,        ///< EditColors.
+    uuNumberFormat = 2,  ///< NumberFormat.
+    uuNullHandling = 4,  ///< NullHandling.
+    uuBehaviour = 8      ///< SelectionBehaviour.
+  };
+  /// A set of them.
+  Q_DECLARE_FLAGS(TQorUIUsage, TQorUIUsageTypes)
+  Q_FLAG(TQorUIUsage)
+
+  /// The defaults of CellSettings.
+  explicit TQorUICtrl(QObject* owner = nullptr);
+  ~TQorUICtrl() override;
+
+  /// The settings of a control whose own ones are given, when it takes what usage names from
+  /// here.
+  [[nodiscard]] CellSettings Merged(CellSettings own, TQorUIUsage usage) const;
+
+ Q_SIGNALS:
+  /// A setting is another one now.
+  void Changed();
+
+ private:
+  void SettingsChanged() override { Q_EMIT Changed(); }
+  void DoColorSetChange() override { Q_EMIT Changed(); }
+};
+
+Q_DECLARE_OPERATORS_FOR_FLAGS(TQorUICtrl::TQorUIUsage)
+
+}  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -1,0 +1,7 @@
+#pragma once
+
+/// @file
+/// Unit QorvexVectorEdit: the editors of vectors.
+
+#include "qorvex/controls/labelled_vector_edit.h"
+#include "qorvex/controls/vector_edit.h"

@@ -1,0 +1,166 @@
+// Copying and pasting blocks of cells, and taking back changes.
+
+#include <QApplication>
+#include <QClipboard>
+#include <QMenu>
+#include <QToolTip>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+#include <utility>
+
+#include "qorvex/base_controls/detail/same_element.h"
+#include "qorvex/controls/cell_panel.h"
+#include "qorvex/controls/detail/block_text.h"
+#include "qorvex/controls/detail/edit_window.h"
+
+namespace qorvex::inline QorvexControls {
+
+QString CellPanel::BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const {
+  if (cells_.empty()) return {};
+  detail::TextBlock block(rows, std::vector<std::string>(cols));
+  for (quint32 r = 0; r < rows; ++r) {
+    for (quint32 c = 0; c < cols; ++c) {
+      block[r][c] = Cell(0, 0)->ExactText(Value(row + r, col + c)).toStdString();
+    }
+  }
+  return QString::fromStdString(detail::FormatBlock(block));
+}
+
+void CellPanel::CopyAll() {
+  CommitPending();
+  QApplication::clipboard()->setText(BlockText(0, Rows().Count(), 0, Cols().Count()));
+}
+
+void CellPanel::RefusePaste(const QString& message) {
+  if (entered_ != nullptr && isVisible()) {
+    QToolTip::showText(entered_->mapToGlobal(entered_->rect().bottomLeft()),
+                       message.toHtmlEscaped(), entered_);
+  }
+  Q_EMIT OnPasteRefused(message);
+}
+
+bool CellPanel::PasteBlock(const QString& text) {
+  CommitPending();
+  const detail::TextBlock block = detail::ParseBlock(text.toStdString());
+  const quint32 first_row = Rows().Top() + Rows().Focus();
+  const quint32 first_col = Cols().Top() + Cols().Focus();
+  std::size_t width = 0;
+  for (const auto& row : block) width = std::max(width, row.size());
+  const std::size_t room_below = Rows().Count() - std::min(first_row, Rows().Count());
+  const std::size_t room_beside = Cols().Count() - std::min(first_col, Cols().Count());
+  if (EffectiveSettings().read_only) {
+    RefusePaste(tr("These values cannot be changed."));
+    return false;
+  }
+  if (block.size() > room_below || cells_.empty()) {
+    RefusePaste(tr("%1 rows do not fit: there are %2 from here on.")
+                    .arg(block.size())
+                    .arg(cells_.empty() ? 0 : room_below));
+    return false;
+  }
+  if (width > room_beside) {
+    RefusePaste(
+        tr("%1 columns do not fit: there are %2 from here on.").arg(width).arg(room_beside));
+    return false;
+  }
+
+  ElementChanges changes;
+  for (std::size_t r = 0; r < block.size(); ++r) {
+    for (std::size_t c = 0; c < block[r].size(); ++c) {
+      const QString cell_text = QString::fromStdString(block[r][c]);
+      const auto value = Cell(0, 0)->Parsed(cell_text);
+      const quint32 row = first_row + static_cast<quint32>(r);
+      if (!value) {
+        RefusePaste(tr("Row %1: \"%2\" is not a number.").arg(row + 1).arg(cell_text));
+        return false;
+      }
+      changes.push_back({row, first_col + static_cast<quint32>(c), *value});
+    }
+  }
+  ExchangeElements(changes);
+  RememberElements(std::move(changes));
+  return true;
+}
+
+void CellPanel::ExchangeElements(ElementChanges& changes) {
+  const QPointer<CellPanel> self(this);
+  BeginUpdate();
+  for (ElementChange& change : changes) {
+    // A handler may have shortened the table.
+    if (change.row >= Rows().Count() || change.col >= Cols().Count()) continue;
+    const Extended before = Value(change.row, change.col);
+    if (QorvexBaseControls::detail::SameElement(before, change.value)) continue;
+    Store(change.row, change.col, std::exchange(change.value, before));
+    if (!self) return;
+    NotifyChange(change.row, change.col);
+    if (!self) return;
+  }
+  EndUpdate();
+}
+
+void CellPanel::NotifyChange(quint32 row, quint32 col) {
+  const QPointer<CellPanel> self(this);
+  if (std::isnan(Value(row, col))) Notify(CellEvent::kNull, row, col);
+  if (self) Notify(CellEvent::kChange, row, col);
+}
+
+void CellPanel::RememberElements(ElementChanges changes) {
+  Remember([this, shared = std::make_shared<ElementChanges>(std::move(changes))] {
+    ExchangeElements(*shared);
+  });
+}
+
+void CellPanel::Remember(std::function<void()> exchange) {
+  exchange_ = std::move(exchange);
+  undone_ = false;
+}
+
+void CellPanel::AlsoExchange(std::function<void()> exchange) {
+  Remember([first = std::move(exchange_), second = std::move(exchange)] {
+    first();
+    second();
+  });
+}
+
+void CellPanel::Forget() {
+  exchange_ = nullptr;
+}
+
+void CellPanel::Undo() {
+  CommitPending();
+  if (CanUndo()) Exchange(true);
+}
+
+void CellPanel::Redo() {
+  CommitPending();
+  if (CanRedo()) Exchange(false);
+}
+
+void CellPanel::Exchange(bool undone) {
+  undone_ = undone;
+  // A copy, since a handler may make the panel forget what it is doing.
+  const std::function<void()> exchange = exchange_;
+  exchange();
+}
+
+void CellPanel::Command(const std::function<void()>& command) {
+  CommitPending();
+  BeginUpdate();
+  try {
+    if (!VirtualMode()) command();
+  } catch (...) {
+    EndUpdate();
+    throw;
+  }
+  EndUpdate();
+}
+
+void CellPanel::AddToMenu(QMenu* menu) {
+  menu->addSeparator();
+  menu->addAction(tr("Copy All Values"), this, &CellPanel::CopyAll);
+  menu->addAction(tr("Undo Last Change"), this, &CellPanel::Undo)->setEnabled(CanUndo());
+  menu->addAction(tr("Redo Last Change"), this, &CellPanel::Redo)->setEnabled(CanRedo());
+}
+
+}  // namespace qorvex::inline QorvexControls

@@ -1,0 +1,255 @@
+// What the user does with a panel of cells: focus, keys, wheel, mouse.
+
+#include <QApplication>
+#include <QContextMenuEvent>
+#include <QFocusEvent>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScrollBar>
+#include <QWheelEvent>
+#include <cstdlib>
+
+#include "qorvex/controls/cell_panel.h"
+#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/detail/grid_navigation.h"
+
+namespace qorvex::inline QorvexControls {
+
+namespace {
+
+// The modifiers that the user holds; keys of the keypad count like the others.
+Qt::KeyboardModifiers Held(const QKeyEvent& event) {
+  return event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+}
+
+}  // namespace
+
+void CellPanel::Watch(QWidget* widget) {
+  widget->installEventFilter(this);
+}
+
+void CellPanel::CommitPending() {
+  if (entered_ != nullptr) entered_->CommitOrRestore();
+}
+
+void CellPanel::EnterText(TextCell* text, quint32 row_edit, quint32 col_edit) {
+  // A cell that lost the focus while the window was inactive has not noticed.
+  if (entered_ != nullptr && entered_ != text) entered_->Leave();
+  entered_ = text;
+  rows_.window->Enter(row_edit);
+  cols_.window->Enter(col_edit);
+}
+
+void CellPanel::LeaveText(const TextCell* text) {
+  if (entered_ == text) entered_ = nullptr;
+}
+
+void CellPanel::EditEnter(TQorCustomEdit* cell) {
+  EnterText(cell, RowOf(cell) - Rows().Top(), ColOf(cell) - Cols().Top());
+  Notify(CellEvent::kEnter, RowOf(cell), ColOf(cell));
+}
+
+void CellPanel::EditExit(TQorCustomEdit* cell) {
+  LeaveText(cell);
+  Notify(CellEvent::kExit, RowOf(cell), ColOf(cell));
+}
+
+void CellPanel::DoChange(TQorCustomEdit* cell, Extended before) {
+  const quint32 row = RowOf(cell);
+  const quint32 col = ColOf(cell);
+  Store(row, col, cell->Value());
+  RememberElements({{row, col, before}});
+  NotifyChange(row, col);
+}
+
+bool CellPanel::FocusInside() const {
+  const QWidget* const focus = QApplication::focusWidget();
+  return focus != nullptr && (focus == this || isAncestorOf(focus));
+}
+
+void CellPanel::FocusCell(std::size_t row_edit, std::size_t col_edit) {
+  if (row_edit >= Rows().UsedEdits() || col_edit >= Cols().UsedEdits()) return;
+  // An inactive window gets no focus events until it is active again.
+  if (!isActiveWindow()) {
+    rows_.window->Enter(static_cast<quint32>(row_edit));
+    cols_.window->Enter(static_cast<quint32>(col_edit));
+  }
+  Cell(row_edit, col_edit)->setFocus(Qt::OtherFocusReason);
+}
+
+void CellPanel::Park(const Axis& axis) {
+  axis.bar->setFocus(Qt::OtherFocusReason);
+}
+
+void CellPanel::Step(Axis& along, Axis& across, bool forward) {
+  const QPointer<CellPanel> self(this);
+  // A text that is no number keeps the focus.
+  if (entered_ != nullptr && !entered_->Commit()) return;
+  if (!self) return;
+  const auto state = [this](const Axis& axis) {
+    const detail::EditWindow& window = *axis.window;
+    const bool follows_top = rule_ == detail::CurrentRule::kFollowsTop;
+    return detail::AxisState{window.Top(),
+                             window.LargestTop(),
+                             window.Focus(),
+                             window.UsedEdits(),
+                             follows_top ? window.Current() : window.Top() + window.Focus(),
+                             window.Count()};
+  };
+  const auto step = detail::NextCell(state(along), state(across), forward);
+  if (!step) return;
+  if (step->scrolls) {
+    // The cell is left under its old row and entered again under its new one.
+    Park(step->along.top != along.window->Top() ? along : across);
+    if (!self) return;
+    along.window->SetTop(step->along.top);
+    if (!self) return;
+    across.window->SetTop(step->across.top);
+    if (!self) return;
+  }
+  const bool vertical = &along == &rows_;
+  const detail::AxisStep& row = vertical ? step->along : step->across;
+  const detail::AxisStep& col = vertical ? step->across : step->along;
+  if (row.edit >= Rows().UsedEdits() || col.edit >= Cols().UsedEdits()) return;
+  NavigationTarget(row.edit, col.edit)->setFocus(Qt::OtherFocusReason);
+}
+
+bool CellPanel::IsOwnKey(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers held = Held(event);
+  switch (event.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return true;
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_Y:
+      return held == Qt::ControlModifier;
+    case Qt::Key_Z:
+      return held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier);
+    case Qt::Key_C:
+      return held == (Qt::ControlModifier | Qt::ShiftModifier);
+    default:
+      return false;
+  }
+}
+
+bool CellPanel::UseKey(const QKeyEvent& event) {
+  if (!IsOwnKey(event)) return false;
+  switch (event.key()) {
+    case Qt::Key_Up:
+      Step(rows_, cols_, false);
+      return true;
+    case Qt::Key_C:
+      CopyAll();
+      return true;
+    case Qt::Key_Y:
+    case Qt::Key_Z: {
+      if (entered_ != nullptr && entered_->Pending()) return false;
+      const bool redo = event.key() == Qt::Key_Y || Held(event).testFlag(Qt::ShiftModifier);
+      redo ? Redo() : Undo();
+      return true;
+    }
+    default:
+      Step(rows_, cols_, true);
+      return true;
+  }
+}
+
+bool CellPanel::EditKeyDown(QKeyEvent* event) {
+  const QPointer<CellPanel> self(this);
+  event->setAccepted(false);
+  Q_EMIT OnKeyDown(event);
+  if (!self || event->isAccepted()) return true;
+  // Left unaccepted, a key would be handled again by every parent.
+  event->accept();
+  return UseKey(*event);
+}
+
+bool CellPanel::EditKeyPress(QKeyEvent* event) {
+  if (event->text().isEmpty()) return false;
+  const QPointer<CellPanel> self(this);
+  event->setAccepted(false);
+  Q_EMIT OnKeyPress(event);
+  if (!self || event->isAccepted()) return true;
+  event->accept();
+  return false;
+}
+
+void CellPanel::EditMouseWheel(QWheelEvent* event) {
+  if (!FocusInside()) {
+    wheel_rest_ = 0;
+    event->ignore();
+    return;
+  }
+  event->accept();
+  int amount = event->angleDelta().y();
+  int rows = amount / 100;
+  // Touch pads and free wheels send many small amounts, which make a notch together.
+  if (event->phase() != Qt::NoScrollPhase || !event->pixelDelta().isNull()) {
+    constexpr int notch = 120;
+    if ((amount < 0) != (wheel_rest_ < 0)) wheel_rest_ = 0;
+    wheel_rest_ += amount;
+    rows = wheel_rest_ / notch;
+    wheel_rest_ %= notch;
+  }
+  if (rows > 0) ScrollUp(static_cast<quint32>(rows));
+  if (rows < 0) ScrollDown(static_cast<quint32>(-rows));
+}
+
+bool CellPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Wheel) {
+    EditMouseWheel(static_cast<QWheelEvent*>(event));
+    return true;
+  }
+  if (watched == rows_.bar) return TQorCustomPanel::eventFilter(watched, event);
+  const QPointer<CellPanel> self(this);
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      // An action of the application with the same keys would take them otherwise.
+      if (IsOwnKey(static_cast<const QKeyEvent&>(*event))) event->accept();
+      break;
+    case QEvent::KeyPress: {
+      auto* const key = static_cast<QKeyEvent*>(event);
+      if (EditKeyDown(key) || EditKeyPress(key)) return true;
+      break;
+    }
+    case QEvent::KeyRelease:
+      Q_EMIT OnKeyUp(static_cast<QKeyEvent*>(event));
+      break;
+    case QEvent::MouseButtonPress:
+      Q_EMIT OnMouseDown(static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::MouseMove:
+      Q_EMIT OnMouseMove(static_cast<QMouseEvent*>(event));
+      break;
+    case QEvent::MouseButtonRelease: {
+      const auto* const mouse = static_cast<QMouseEvent*>(event);
+      Q_EMIT OnMouseUp(static_cast<QMouseEvent*>(event));
+      if (self && mouse->button() == Qt::LeftButton &&
+          static_cast<QWidget*>(watched)->rect().contains(mouse->position().toPoint())) {
+        Q_EMIT OnClick();
+      }
+      break;
+    }
+    case QEvent::MouseButtonDblClick:
+      Q_EMIT OnDblClick();
+      break;
+    default:
+      break;
+  }
+  return !self || TQorCustomPanel::eventFilter(watched, event);
+}
+
+void CellPanel::focusInEvent(QFocusEvent* event) {
+  TQorCustomPanel::focusInEvent(event);
+  FocusCell(Rows().Focus(), Cols().Focus());
+}
+
+void CellPanel::hideEvent(QHideEvent* event) {
+  // A page of tabs that is turned loses nothing. Nobody leaves the cell, though: the control may be
+  // on its way out, and handlers with it.
+  CommitPending();
+  TQorCustomPanel::hideEvent(event);
+}
+
+}  // namespace qorvex::inline QorvexControls

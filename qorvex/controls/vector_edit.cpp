@@ -1,0 +1,221 @@
+#include "qorvex/controls/vector_edit.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <algorithm>
+#include <limits>
+#include <memory>
+#include <stdexcept>
+#include <utility>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/base/swap.h"
+#include "qorvex/base_controls/detail/number_text.h"
+#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/sorting.h"
+#include "qorvex/vector/transforms.h"
+
+namespace qorvex::inline QorvexVectorEdit {
+
+TQorVectorEdit::TQorVectorEdit(QWidget* parent)
+    : CellPanel(parent, QorvexControls::detail::CurrentRule::kFollowsTop, [this](QWidget* panel) {
+        auto* const cell = new TQorFloatEdit(panel);
+        cell->OnConvert = [this](const QString& text) { return DoConvert(text); };
+        return cell;
+      }) {
+  SetColCount(1);
+  SetColEdits(1);
+  SetRowEdits(kDefaultEdits);
+}
+
+TQorVectorEdit::~TQorVectorEdit() = default;
+
+int TQorVectorEdit::NoOfEdits() const noexcept {
+  return static_cast<int>(Rows().Edits());
+}
+
+void TQorVectorEdit::setNoOfEdits(int edits) {
+  SetRowEdits(edits);
+}
+
+quint32 TQorVectorEdit::NoOfRows() const noexcept {
+  return Rows().Count();
+}
+
+void TQorVectorEdit::setNoOfRows(quint32 rows) {
+  if (rows == NoOfRows()) return;
+  // Handlers that run on the way may read any element that the count promises.
+  if (!VirtualMode() && store_.size() < rows) store_.SetLength(rows);
+  SetRowCount(rows);
+  if (!VirtualMode()) store_.SetLength(NoOfRows());
+  Forget();
+  Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+TQorFloatVector TQorVectorEdit::Vector() const {
+  if (!VirtualMode()) return TQorFloatVector(std::span<const Extended>(store_));
+  auto vector = TQorFloatVector::ForOverwrite(NoOfRows());
+  for (quint32 row = 0; row < NoOfRows(); ++row) vector[row] = Value(row, 0);
+  return vector;
+}
+
+void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
+  if (vector.size() > std::numeric_limits<quint32>::max()) {
+    throw std::length_error("A vector edit has at most 4294967295 rows");
+  }
+  const TQorFloatVector copy{std::span<const Extended>(vector)};
+  CommitPending();
+  BeginUpdate();
+  setNoOfRows(static_cast<quint32>(copy.size()));
+  if (VirtualMode()) {
+    for (quint32 row = 0; row < NoOfRows(); ++row) Store(row, 0, copy[row]);
+  } else if (NoOfRows() == copy.size()) {
+    store_ = copy;
+  }
+  Forget();
+  EndUpdate();
+}
+
+void TQorVectorEdit::CheckRow(quint32 row) const {
+  if (NoOfRows() == 0) RaiseMathError(rsVectorIsEmpty);
+  if (row >= NoOfRows()) RaiseMathError(rsInvalidRow);
+}
+
+Extended TQorVectorEdit::Element(quint32 row) const {
+  CheckRow(row);
+  return Value(row, 0);
+}
+
+void TQorVectorEdit::setElement(quint32 row, Extended value) {
+  CheckRow(row);
+  CommitPending();
+  Store(row, 0, value);
+  Forget();
+  Redisplay();
+}
+
+quint32 TQorVectorEdit::EditFocus() const noexcept {
+  return Rows().Focus();
+}
+
+void TQorVectorEdit::setEditFocus(quint32 edit) {
+  FocusCell(edit, 0);
+}
+
+Extended TQorVectorEdit::Value(quint32 row, quint32) const {
+  if (VirtualMode()) return OnGetElement ? OnGetElement(row) : static_cast<Extended>(row);
+  return row < store_.size() ? std::as_const(store_)[row] : 0;
+}
+
+void TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
+  if (VirtualMode()) {
+    Q_EMIT OnSetElement(row, value);
+  } else if (row < store_.size()) {
+    store_[row] = value;
+  }
+}
+
+void TQorVectorEdit::Notify(CellEvent what, quint32 row, quint32) {
+  switch (what) {
+    case CellEvent::kEnter:
+      Q_EMIT OnCellEnter(row);
+      break;
+    case CellEvent::kExit:
+      Q_EMIT OnCellExit(row);
+      break;
+    case CellEvent::kNull:
+      Q_EMIT OnNull(row);
+      break;
+    case CellEvent::kChange:
+      Q_EMIT OnChange(row);
+      break;
+  }
+}
+
+void TQorVectorEdit::NotifyText(quint32 row, quint32, const QString& text) {
+  Q_EMIT OnChangeText(row, text);
+}
+
+QString TQorVectorEdit::CellName(quint32 row, quint32) const {
+  return tr("Row %1").arg(qint64{row} + 1);
+}
+
+void TQorVectorEdit::AfterTopChange(quint32 top) {
+  Q_EMIT OnAfterTopChange(top);
+}
+
+void TQorVectorEdit::VirtualModeChanged() {
+  if (!VirtualMode()) store_.SetLength(NoOfRows());
+}
+
+std::optional<Extended> TQorVectorEdit::DoConvert(const QString& text) const {
+  return OnConvert ? OnConvert(text) : QorvexBaseControls::detail::ParseLocalNumber(text, locale());
+}
+
+void TQorVectorEdit::VectorCommand(const std::function<void()>& command) {
+  Command([&] {
+    const auto before = std::make_shared<TQorFloatVector>(std::span<const Extended>(store_));
+    command();
+    Remember([this, before] {
+      std::swap(store_, *before);
+      Redisplay();
+    });
+  });
+}
+
+void TQorVectorEdit::Clear() {
+  VectorCommand([this] { ClearVector(store_); });
+}
+
+void TQorVectorEdit::Fill(Extended value) {
+  VectorCommand([this, value] { FillVector(store_, value); });
+}
+
+void TQorVectorEdit::Invert() {
+  VectorCommand([this] { InvVector(store_); });
+}
+
+void TQorVectorEdit::Sqr() {
+  VectorCommand([this] { SquareVector(store_); });
+}
+
+void TQorVectorEdit::Sqrt() {
+  VectorCommand([this] { SqrtVector(store_); });
+}
+
+void TQorVectorEdit::Ln() {
+  VectorCommand([this] { LnVector(store_); });
+}
+
+void TQorVectorEdit::Log10() {
+  VectorCommand([this] { Log10Vector(store_); });
+}
+
+void TQorVectorEdit::LinearTransform(Extended slope, Extended intercept) {
+  VectorCommand([=, this] { LinearTransformVector(store_, slope, intercept); });
+}
+
+void TQorVectorEdit::Sort() {
+  VectorCommand([this] { QSortVector(store_, true); });
+}
+
+void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
+  CheckRow(first);
+  CheckRow(second);
+  Command([=, this] {
+    const auto swap = [=, this] { SwapXY(store_[first], store_[second]); };
+    swap();
+    Remember([this, swap] {
+      swap();
+      Redisplay();
+    });
+  });
+}
+
+void TQorVectorEdit::CopyRows(quint32 first, quint32 count) const {
+  const quint32 begin = std::min(first, NoOfRows());
+  QApplication::clipboard()->setText(BlockText(begin, std::min(count, NoOfRows() - begin), 0, 1));
+}
+
+}  // namespace qorvex::inline QorvexVectorEdit

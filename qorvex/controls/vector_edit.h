@@ -1,0 +1,176 @@
+#pragma once
+
+/// @file
+/// TQorVectorEdit, an editor of a vector.
+
+#include <functional>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+#include "qorvex/base_controls/float_edit.h"
+#include "qorvex/base_controls/unit.h"
+#include "qorvex/controls/cell_panel.h"
+
+QORVEX_WIDGET_UNIT(QorvexVectorEdit) {
+
+/// @{
+/// Handlers of the events of an element: an element that changed, a text that is typed, a request
+/// for an element's value, a value that is to be kept elsewhere, another number of rows or another
+/// top, and another current row. Requests are members of the control, the rest are signals with
+/// these parameters.
+using TQorVectorChangeEvent = std::function<void(quint32 row)>;
+using TQorVectorChangeTextEvent = std::function<void(quint32 row, const QString& text)>;
+using TQorGetVectorElementEvent = std::function<Extended(quint32 row)>;
+using TQorSetVectorElementEvent = std::function<void(quint32 row, Extended value)>;
+using TQorRowChangeEvent = std::function<void(quint32 row)>;
+using TQorCurrentChangeEvent = std::function<void(quint32 before, quint32 now)>;
+/// @}
+
+/// A column of cells that shows and edits a vector of any length; CellPanel says how.
+///
+/// The vector is kept here, or in virtual mode elsewhere: then OnGetElement gives each element that
+/// is to be shown (the row's own index where it is empty), OnSetElement tells of each one that was
+/// changed, and commands on the whole vector only redisplay.
+///
+/// A NaN in the vector is null. What the user types, pastes or takes back raises OnChange; what the
+/// program sets does not.
+class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
+  Q_OBJECT
+  /// @{
+  /// Published: see the accessor of the same name here, in CellPanel or in CellProperties.
+  Q_PROPERTY(QString UICtrl READ UICtrlName WRITE setUICtrl RESET resetUICtrl)
+  Q_PROPERTY(
+      qorvex::TQorUICtrl::TQorUIUsage UIUsage READ UIUsage WRITE setUIUsage RESET resetUIUsage)
+  QORVEX_PUBLISHED_COLORS
+  QORVEX_PUBLISHED(bool, TrimTrailingZeroes)
+  QORVEX_PUBLISHED(bool, FullAccuracy)
+  QORVEX_PUBLISHED(Qt::Alignment, Alignment)
+  QORVEX_PUBLISHED(bool, AutoSelectClick)
+  QORVEX_PUBLISHED(bool, AutoSelect)
+  QORVEX_PUBLISHED(bool, AllowKbdNull)
+  QORVEX_PUBLISHED(bool, BlankWhenZero)
+  QORVEX_PUBLISHED(bool, BlankWhenNull)
+  QORVEX_PUBLISHED(int, CellHeight)
+  QORVEX_PUBLISHED(int, CellWidth)
+  QORVEX_PUBLISHED(int, DecimalPlaces)
+  QORVEX_PUBLISHED(uint, DisplayTopRow)
+  QORVEX_PUBLISHED(int, NoOfEdits)
+  QORVEX_PUBLISHED(bool, Null)
+  QORVEX_PUBLISHED(QString, NullStr)
+  QORVEX_PUBLISHED(uint, NoOfRows)
+  QORVEX_PUBLISHED(bool, ReadOnly)
+  QORVEX_PUBLISHED(bool, TabStop)
+  QORVEX_PUBLISHED(bool, VirtualMode)
+  /// @}
+
+ public:
+  /// Four cells and an empty vector.
+  explicit TQorVectorEdit(QWidget* parent = nullptr);
+  ~TQorVectorEdit() override;
+
+  /// @{
+  /// The number of cells, 4 at first, clamped to 0 to 255.
+  [[nodiscard]] int NoOfEdits() const noexcept;
+  void setNoOfEdits(int edits);
+  void resetNoOfEdits() { setNoOfEdits(kDefaultEdits); }
+  /// @}
+
+  /// @{
+  /// The length of the vector, 0 at first. New elements are 0. A top beyond the new last page moves
+  /// there. Raises OnRowNoChange. O(length), in virtual mode O(1).
+  [[nodiscard]] quint32 NoOfRows() const noexcept;
+  void setNoOfRows(quint32 rows);
+  void resetNoOfRows() { setNoOfRows(0); }
+  /// @}
+
+  /// @{
+  /// The whole vector, as a copy with a buffer of its own. Setting copies as well, and sets the
+  /// number of rows; in virtual mode each element goes through the events. std::length_error for
+  /// more than 2^32 - 1 elements. O(length).
+  [[nodiscard]] TQorFloatVector Vector() const;
+  void setVector(const TQorFloatVector& vector);
+  /// @}
+
+  /// @{
+  /// One element. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such element.
+  [[nodiscard]] Extended Element(quint32 row) const;
+  void setElement(quint32 row, Extended value);
+  /// @}
+
+  /// @{
+  /// The cell that has the focus, or had it last, counted from 0. Setting gives the focus to a
+  /// cell that shows an element; others are ignored.
+  [[nodiscard]] quint32 EditFocus() const noexcept;
+  void setEditFocus(quint32 edit);
+  /// @}
+
+  /// @{
+  /// The routine of vectors of the same effect, on the whole vector: see ClearVector, FillVector,
+  /// InvVector, SquareVector, SqrtVector, LnVector, Log10Vector, LinearTransformVector, and
+  /// QSortVector, ascending. What they raise reaches the caller. Each can be taken back, for which
+  /// it keeps a copy of the vector. In virtual mode they only redisplay.
+  void Clear();
+  void Fill(Extended value);
+  void Invert();
+  void Sqr();
+  void Sqrt();
+  void Ln();
+  void Log10();
+  void LinearTransform(Extended slope, Extended intercept);
+  virtual void Sort();
+  /// @}
+  /// Exchanges two elements. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such
+  /// element. In virtual mode it only redisplays after that.
+  virtual void SwapElements(quint32 first, quint32 second);
+
+  /// Copies a part of the vector to the clipboard, as CopyAll does. Rows that there are not are
+  /// left out.
+  void CopyRows(quint32 first, quint32 count) const;
+
+  /// Gives the elements in virtual mode; may be called at any time.
+  TQorGetVectorElementEvent OnGetElement;
+  /// Reads the texts of cells in place of the control; empty for none.
+  TQorConvertEvent OnConvert;
+
+ Q_SIGNALS:
+  /// The user has changed the element.
+  void OnChange(quint32 row);
+  /// The user is typing this text into the cell of the element.
+  void OnChangeText(quint32 row, const QString& text);
+  /// The user has made the element null; OnChange follows.
+  void OnNull(quint32 row);
+  /// In virtual mode: keep this value.
+  void OnSetElement(quint32 row, long double value);
+  /// The number of rows is another one.
+  void OnRowNoChange(quint32 rows);
+  /// DisplayTopRow has become the given row, and the cells show it.
+  void OnAfterTopChange(quint32 top);
+  /// The focus has left the cell of the element, whose text is committed.
+  void OnCellExit(quint32 row);
+  /// The focus has come to the cell of the element.
+  void OnCellEnter(quint32 row);
+
+ protected:
+  [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
+  void Store(quint32 row, quint32 col, Extended value) override;
+  void Notify(CellEvent what, quint32 row, quint32 col) override;
+  void NotifyText(quint32 row, quint32 col, const QString& text) override;
+  [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
+  void AfterTopChange(quint32 top) override;
+  void VirtualModeChanged() override;
+
+  /// Reads the text of a cell by OnConvert, or as a number.
+  [[nodiscard]] std::optional<Extended> DoConvert(const QString& text) const;
+  /// EMathError unless there is such an element.
+  void CheckRow(quint32 row) const;
+
+ private:
+  static constexpr int kDefaultEdits = 4;
+
+  // A command on the store that can be taken back.
+  void VectorCommand(const std::function<void()>& command);
+
+  TQorFloatVector store_;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexVectorEdit)
