@@ -14,8 +14,9 @@ namespace qorvex::inline QorvexControls::detail {
 /// What a window tells its owner, in the order in which it happens. Empty callbacks are passed
 /// over.
 struct EditWindowEvents {
-  /// The top is about to become the given one. While it runs, further changes of the top are
-  /// ignored, so two windows that follow each other do not call each other for ever.
+  /// The top is about to become the given one. While it runs, requests for another top or current
+  /// element are ignored, so two windows that follow each other do not call each other for ever.
+  /// It may change the axis: the top is then the nearest one to the given one.
   std::function<void(std::uint32_t)> before_top;
   /// The top has changed: a scroll bar is to be moved.
   std::function<void()> place_bar;
@@ -50,14 +51,14 @@ class QORVEX_EXPORT EditWindow {
 
   /// How many edits show an element: they are the first ones.
   [[nodiscard]] std::uint32_t UsedEdits() const noexcept;
-  /// The top of the last page: Count() - Edits(), or 0 where all elements fit.
+  /// The top of the last page: Count() - Edits(), or 0 where all elements fit. Without edits it is
+  /// Count().
   [[nodiscard]] std::uint32_t LargestTop() const noexcept;
 
   /// Scrolls to the top, clamped to LargestTop(). Nothing happens when it is the top already.
   /// Otherwise before_top, place_bar, current_changed (kFollowsTop, where it differs), redisplay,
-  /// after_top. The callback before_top may change the axis: the top is clamped again after it.
-  /// With kFollowsEntry a top that is clamped to the present one still places the bar and
-  /// redisplays, without before_top.
+  /// after_top. A top that only the clamp makes the present one changes nothing either, but with
+  /// kFollowsEntry it still places the bar and redisplays.
   void SetTop(std::uint32_t top);
   /// Scrolls up, or does nothing when there are not as many elements above.
   void ScrollUp(std::uint32_t elements);
@@ -66,31 +67,38 @@ class QORVEX_EXPORT EditWindow {
 
   /// What the scroll bar does: the top follows a position of the bar between 0 and BarMaximum().
   /// Other positions are ignored. Neither the bar nor the current element is moved: before_top,
-  /// redisplay, after_top.
+  /// redisplay, after_top. Only where before_top shortens the axis, both are kept within it.
   void SetTopFromBar(int position);
   /// The largest position of a bar over this axis. A bar counts in int, an axis reaches 2^32 - 1;
-  /// beyond 2^31 - 1 a position stands for two elements.
+  /// where LargestTop() is beyond 2^31 - 1, a position stands for two elements.
   [[nodiscard]] int BarMaximum() const noexcept;
   /// Where the bar stands for the present top; the last page is always BarMaximum().
   [[nodiscard]] int BarPosition() const noexcept;
 
-  /// Asks for a current element: scrolls so that it comes under the focused edit, or to the first
-  /// edit where there are too few elements above it. The top is clamped, so near the end
-  /// the current element is the one under the focused edit, not the wanted one. With kFollowsEntry
-  /// the current element becomes the one under the focus then.
+  /// Asks for a current element other than the present one: scrolls so that it shows in the focused
+  /// edit, or in the first edit where there are too few elements above it. The focus stays and the
+  /// top is clamped, so near both ends the current element is the one under the focus, not the
+  /// wanted one. With kFollowsTop it changes only if the top does, which matters after
+  /// SetTopFromBar; with kFollowsEntry it becomes the one under the focus in any case.
   void SetCurrent(std::uint32_t element);
 
-  /// An edit has got the focus: it and its element are the current ones now.
+  /// An edit has got the focus: it and its element are the current ones now. An edit that shows
+  /// no element is ignored.
   void Enter(std::uint32_t edit);
 
-  /// Other numbers of edits or elements. A top beyond the new last page is moved there as SetTop
-  /// does. The focus is kept inside the used edits (0 when there are none), and the current
-  /// element under it when it would lie outside the axis. Places the bar and redisplays.
+  /// Other numbers of edits or elements. A top beyond the new last page is moved there with the
+  /// events of SetTop; otherwise the bar is placed and the elements are redisplayed. The focus is
+  /// kept inside the used edits (0 when there are none). Where it has to move, or the current
+  /// element is no longer on the axis, the current element becomes the one under the focus.
   void SetEdits(std::uint32_t edits);
   void SetCount(std::uint32_t count);
 
  private:
-  void MakeCurrent(std::uint32_t element);
+  void Announce(std::uint32_t top);
+  void MoveTop(std::uint32_t top);
+  void FollowFocus();
+  void Show(bool follow_focus);
+  bool FitFocus();
   void Refit();
 
   CurrentRule rule_;

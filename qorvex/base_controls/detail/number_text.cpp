@@ -1,0 +1,129 @@
+#include "qorvex/base_controls/detail/number_text.h"
+
+#include <string>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+
+namespace qorvex::inline QorvexBaseControls::detail {
+
+namespace {
+
+constexpr bool IsDigit(char32_t character) {
+  return character >= U'0' && character <= U'9';
+}
+
+/// Texts of right-to-left locales carry marks that steer how they are shown.
+QString WithoutDirectionMarks(QString text) {
+  return text.removeIf([](QChar c) { return c == u'\u200E' || c == u'\u200F' || c == u'\u061C'; });
+}
+
+/// The digits of a locale, which may lie beyond 16 bits.
+char32_t ZeroOf(const QLocale& locale) {
+  return locale.zeroDigit().toUcs4().value(0, U'0');
+}
+
+/// Reads the characters of a number as a locale writes them.
+class LocalReader {
+ public:
+  explicit LocalReader(const QLocale& locale)
+      : zero_(ZeroOf(locale)),
+        point_groups_(locale.groupSeparator() == u'.'),
+        signs_{{WithoutDirectionMarks(locale.exponential()), 'e'},
+               {WithoutDirectionMarks(locale.negativeSign()), '-'},
+               {WithoutDirectionMarks(locale.positiveSign()), '+'},
+               {locale.decimalPoint(), '.'}} {}
+
+  /// Takes one character off the front of the text and returns the plain one, or 0 when there is
+  /// none.
+  [[nodiscard]] char Take(QStringView& text) const {
+    const char plain = Plain(text.front().unicode());
+    if (plain != 0) {
+      text = text.sliced(1);
+      return plain;
+    }
+    for (const auto& [local, sign] : signs_) {
+      if (!local.isEmpty() && text.startsWith(local)) {
+        text = text.sliced(local.size());
+        return sign;
+      }
+    }
+    const char32_t character = FirstCharacter(text);
+    if (character < zero_ || character - zero_ > 9) return 0;
+    text = text.sliced(QChar::requiresSurrogates(character) ? 2 : 1);
+    return static_cast<char>('0' + (character - zero_));
+  }
+
+ private:
+  [[nodiscard]] char Plain(char16_t character) const {
+    if (IsDigit(character)) return static_cast<char>(character);
+    switch (character) {
+      case u'+':
+        return '+';
+      case u'-':
+      case u'\u2212':
+        return '-';
+      case u'e':
+      case u'E':
+        return 'e';
+      case u'.':
+        return point_groups_ ? '\0' : '.';
+      default:
+        return 0;
+    }
+  }
+
+  static char32_t FirstCharacter(QStringView text) {
+    const QChar first = text.front();
+    if (!first.isHighSurrogate() || text.size() == 1 || !text[1].isLowSurrogate()) {
+      return first.unicode();
+    }
+    return QChar::surrogateToUcs4(first, text[1]);
+  }
+
+  struct Sign {
+    QString local;
+    char plain;
+  };
+
+  char32_t zero_;
+  bool point_groups_;
+  Sign signs_[4];
+};
+
+}  // namespace
+
+QString LocalNumber(std::string_view plain, const QLocale& locale) {
+  const char32_t zero = ZeroOf(locale);
+  QString text;
+  for (const char character : plain) {
+    if (IsDigit(static_cast<unsigned char>(character))) {
+      text += QChar::fromUcs4(zero + static_cast<char32_t>(character - '0'));
+    } else if (character == '.') {
+      text += locale.decimalPoint();
+    } else if (character == '-') {
+      text += locale.negativeSign();
+    } else {
+      text += QLatin1Char(character);
+    }
+  }
+  return text;
+}
+
+std::optional<Extended> ParseLocalNumber(const QString& text, const QLocale& locale) {
+  const LocalReader reader(locale);
+  const QString trimmed = WithoutDirectionMarks(text).trimmed();
+  std::string plain;
+  for (QStringView rest = trimmed; !rest.empty();) {
+    const char character = reader.Take(rest);
+    if (character == 0) return std::nullopt;
+    plain += character;
+  }
+  try {
+    return Str2Float(plain);
+  } catch (const EConvertError&) {
+    return std::nullopt;
+  }
+}
+
+}  // namespace qorvex::inline QorvexBaseControls::detail

@@ -1,0 +1,145 @@
+#include "qorvex/base_controls/detail/number_text.h"
+
+#include <cmath>
+#include <random>
+#include <vector>
+
+#include "qorvex/base/text.h"
+#include "support/test.h"
+
+namespace qorvex::inline QorvexBaseControls::detail {
+namespace {
+
+QLocale Locale(const char* name) {
+  const QLocale locale(QString::fromLatin1(name));
+  // An unknown name would give another locale, and the test would check nothing.
+  EXPECT_EQ(locale.name().section(u'_', 0, 0), QString::fromLatin1(name).section(u'_', 0, 0));
+  return locale;
+}
+
+// Locales of every kind: either separator as the decimal one, points and apostrophes as groups,
+// other digits, signs with marks of direction, exponents of several characters, digits beyond 16
+// bits.
+constexpr const char* kLocales[] = {"C",     "en", "de", "fr", "de_CH", "sv",     "es",
+                                    "ar_EG", "fa", "hi", "mr", "he",    "ff_Adlm"};
+
+Extended RandomNumber(std::mt19937_64& engine) {
+  const auto mantissa = static_cast<Extended>(static_cast<std::int64_t>(engine()));
+  return std::ldexp(mantissa, static_cast<int>(engine() % 32800) - 16500);
+}
+
+TEST(NumberText, EveryBitComesBackInEveryLocale) {
+  const auto seed = std::random_device{}();
+  SCOPED_TRACE(seed);
+  std::mt19937_64 engine(seed);
+  for (const char* name : kLocales) {
+    const QLocale locale = Locale(name);
+    std::vector<Extended> values = {0, -0.0L, 1 / 3.0L, -1234567.25L, 1e21L, -1e-7L};
+    values.push_back(std::numeric_limits<Extended>::max());
+    values.push_back(-std::numeric_limits<Extended>::denorm_min());
+    for (int i = 0; i < 200; ++i) values.push_back(RandomNumber(engine));
+    for (const Extended value : values) {
+      const QString text = LocalNumber(Float2Str(value), locale);
+      const auto back = ParseLocalNumber(text, locale);
+      ASSERT_TRUE(back.has_value()) << name << ' ' << text.toStdString();
+      EXPECT_EQ(*back, value) << name << ' ' << text.toStdString();
+      EXPECT_EQ(std::signbit(*back), std::signbit(value)) << name;
+    }
+  }
+}
+
+TEST(NumberText, WritesDigitsPointAndMinusOfTheLocale) {
+  const struct {
+    const char* locale;
+    const char16_t* text;
+  } cases[] = {{"C", u"-1234567.25"},
+               {"de", u"-1234567,25"},
+               {"sv", u"\u22121234567,25"},
+               {"hi", u"-1234567.25"},
+               {"mr", u"-\u0967\u0968\u0969\u096A\u096B\u096C\u096D.\u0968\u096B"},
+               {"fa", u"\u200E\u2212\u06F1\u06F2\u06F3\u06F4\u06F5\u06F6\u06F7\u066B\u06F2\u06F5"}};
+  for (const auto& [locale, text] : cases) {
+    EXPECT_EQ(LocalNumber("-1234567.25", Locale(locale)), QString::fromUtf16(text)) << locale;
+  }
+  EXPECT_EQ(LocalNumber("-1.5e-20", Locale("sv")), QString::fromUtf16(u"\u22121,5e\u221220"));
+  EXPECT_EQ(LocalNumber("nan", Locale("de")), QStringLiteral("nan"));
+}
+
+TEST(NumberText, ReadsWhatPeopleTypeAndPaste) {
+  const struct {
+    const char* locale;
+    const char16_t* text;
+    Extended value;
+  } cases[] = {
+      {"en", u"+1.5", 1.5L},
+      {"en", u"\u22121.5E3", -1500},
+      {"en", u".5", 0.5L},
+      {"en", u"\t 12\u00A0\u202F\r\n", 12},
+      {"de", u"1,5", 1.5L},
+      {"de", u"-0,1", -0.1L},
+      {"fr", u"1.5", 1.5L},
+      {"fr", u"1,5", 1.5L},
+      {"de_CH", u"1.5", 1.5L},
+      {"sv", u"\u22121,5\u00D710^\u22122", -0.015L},
+      {"sv", u"-1.5e2", -150},
+      {"fa", u"\u06F1\u066B\u06F5\u00D7\u06F1\u06F0^\u06F2", 150},
+      {"fa", u"1.5", 1.5L},
+      {"fa", u"\u200E\u2212\u06F1\u066B5", -1.5L},
+      {"ar_EG", u"\u061C-\u0661\u066B\u0665", -1.5L},
+      {"he", u"\u200E-1.5", -1.5L},
+      {"ff_Adlm", u"\U0001E951.\U0001E955", 1.5L},
+      {"C", u"18446744073709551615", 18446744073709551615.0L},
+  };
+  for (const auto& [locale, text, value] : cases) {
+    const auto read = ParseLocalNumber(QString::fromUtf16(text), Locale(locale));
+    ASSERT_TRUE(read.has_value()) << locale << ' ' << QString::fromUtf16(text).toStdString();
+    EXPECT_EQ(*read, value) << locale << ' ' << QString::fromUtf16(text).toStdString();
+  }
+}
+
+TEST(NumberText, RefusesWhatIsNoNumberOrCouldBeAnother) {
+  const struct {
+    const char* locale;
+    const char16_t* text;
+  } cases[] = {
+      {"en", u"1,234"},
+      {"en", u"1,5"},
+      {"C", u"1,5"},
+      {"de", u"1.234"},
+      {"de", u"1.5"},
+      {"de", u"1.234,5"},
+      {"es", u"1.5"},
+      {"fr", u"1\u202F234"},
+      {"sv", u"1\u00A0234"},
+      {"de_CH", u"1\u2019234"},
+      {"fa", u"\u06F1\u066C\u06F2"},
+      {"fa", u"1,5"},
+      {"hi", u"1,00,000"},
+      {"en", u""},
+      {"en", u" \t"},
+      {"en", u"1 2"},
+      {"en", u"nan"},
+      {"en", u"inf"},
+      {"en", u"-Infinity"},
+      {"en", u"\u221E"},
+      {"en", u"1e5000"},
+      {"en", u"0x10"},
+      {"en", u"1.2.3"},
+      {"en", u"+-1"},
+      {"en", u"1-"},
+      {"en", u"e5"},
+      {"en", u"1e"},
+      {"en", u"."},
+      {"en", u"12abc"},
+      {"en", u"1\u0967"},
+      {"en", u"\xD83A"},
+      {"ff_Adlm", u"1\xD83A"},
+  };
+  for (const auto& [locale, text] : cases) {
+    EXPECT_EQ(ParseLocalNumber(QString::fromUtf16(text), Locale(locale)), std::nullopt)
+        << locale << ' ' << QString::fromUtf16(text).toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace qorvex::inline QorvexBaseControls::detail
