@@ -14,4 +14,12 @@ CellSettings TQorUICtrl::Merged(CellSettings own, TQorUIUsage usage) const {
   return own;
 }
 
+void TQorUICtrl::SettingsChanged() {
+  Q_EMIT Changed();
+}
+
+void TQorUICtrl::DoColorSetChange() {
+  Q_EMIT Changed();
+}
+
 }  // namespace qorvex::inline QorvexBaseControls

@@ -56,8 +56,8 @@ class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   void Changed();
 
  private:
-  void SettingsChanged() override { Q_EMIT Changed(); }
-  void DoColorSetChange() override { Q_EMIT Changed(); }
+  void SettingsChanged() override;
+  void DoColorSetChange() override;
 };
 
 Q_DECLARE_OPERATORS_FOR_FLAGS(TQorUICtrl::TQorUIUsage)

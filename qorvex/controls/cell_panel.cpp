@@ -30,7 +30,7 @@ CellPanel::CellPanel(QWidget* parent, detail::CurrentRule rule, CellFactory make
   rows_.bar->installEventFilter(this);
   // Unlike valueChanged, this comes from the user alone.
   connect(rows_.bar, &QScrollBar::actionTriggered, this,
-          [this] { SBScroll(rows_.bar->sliderPosition()); });
+          [this](int action) { UseBar(rows_, action); });
 
   detail::EditWindowEvents events;
   events.before_top = [this](quint32 top) {
@@ -161,6 +161,20 @@ void CellPanel::ScrollBottom() {
 
 void CellPanel::SBScroll(int position) {
   rows_.window->SetTopFromBar(position);
+}
+
+void CellPanel::UseBar(const Axis& axis, int action) {
+  const QPointer<CellPanel> self(this);
+  switch (action) {
+    case QAbstractSlider::SliderSingleStepAdd:
+    case QAbstractSlider::SliderSingleStepSub:
+      axis.window->StepFromBar(action == QAbstractSlider::SliderSingleStepAdd);
+      break;
+    default:
+      SBScroll(axis.bar->sliderPosition());
+  }
+  // Qt moves the bar to its slider next.
+  if (self) axis.bar->setSliderPosition(axis.window->BarPosition());
 }
 
 void CellPanel::setNull(bool null) {

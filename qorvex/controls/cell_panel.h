@@ -305,6 +305,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   static constexpr TQorUICtrl::TQorUIUsage kUseAll{0xF};
 
   void PlaceBar(const Axis& axis);
+  void UseBar(const Axis& axis, int action);
   void SetEdits(Axis& axis, int edits);
   void SetCount(Axis& axis, quint32 count);
   // Whether the focus is on a cell that shows an element from the given one of the axis on.

@@ -56,6 +56,16 @@ void EditWindow::SetTopFromBar(int position) {
   const std::uint32_t top = position == BarMaximum()
                                 ? LargestTop()
                                 : static_cast<std::uint32_t>(position) << BarShift(LargestTop());
+  FollowBar(top);
+}
+
+void EditWindow::StepFromBar(bool forward) {
+  if (announcing_) return;
+  if (forward && top_ < LargestTop()) FollowBar(top_ + 1);
+  if (!forward && top_ > 0) FollowBar(top_ - 1);
+}
+
+void EditWindow::FollowBar(std::uint32_t top) {
   if (top == top_) return;
   Announce(top);
   top_ = std::min(top, LargestTop());

@@ -69,6 +69,9 @@ class QORVEX_EXPORT EditWindow {
   /// Other positions are ignored. Neither the bar nor the current element is moved: before_top,
   /// redisplay, after_top. Only where before_top shortens the axis, both are kept within it.
   void SetTopFromBar(int position);
+  /// What an arrow of the scroll bar does: the same by one element, which a bar may be too coarse
+  /// to name.
+  void StepFromBar(bool forward);
   /// The largest position of a bar over this axis. A bar counts in int, an axis reaches 2^32 - 1;
   /// where LargestTop() is beyond 2^31 - 1, a position stands for two elements.
   [[nodiscard]] int BarMaximum() const noexcept;
@@ -96,6 +99,7 @@ class QORVEX_EXPORT EditWindow {
  private:
   void Announce(std::uint32_t top);
   void MoveTop(std::uint32_t top);
+  void FollowBar(std::uint32_t top);
   void FollowFocus();
   void Show(bool follow_focus);
   bool FitFocus();

@@ -1,0 +1,122 @@
+#pragma once
+
+/// @file
+/// A window with an editor in it, whose signals are written down as one short text each.
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QStringList>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+#include <QtTest/QTest>
+#include <QtTest/qtestspontaneevent.h>
+#include <memory>
+#include <string>
+
+#include "qorvex/base/text.h"
+#include "qorvex/controls/QorvexVectorEdit.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+inline QString Text(Extended value) {
+  return QString::fromStdString(Float2Str(value));
+}
+
+/// A wheel event as from a mouse: what nobody handles goes to the parent.
+inline void TurnWheel(QWidget* widget, int amount, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
+  const QPointF place(2, 2);
+  QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, amount}, Qt::NoButton,
+                    Qt::NoModifier, phase, false);
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  QApplication::instance()->notify(widget, &event);
+}
+
+/// Editor is a TQorVectorEdit or derived from it.
+template <class Editor>
+struct EditorFixture : testing::Test {
+  // Declared first, so that signals of widgets on their way out find it.
+  QStringList log;
+  std::unique_ptr<QWidget> window = std::make_unique<QWidget>();
+  Editor* editor = new Editor;
+  QLineEdit* other = new QLineEdit;
+
+  EditorFixture() {
+    QLocale::setDefault(QLocale::c());
+    auto* const layout = new QVBoxLayout(window.get());
+    layout->addWidget(editor);
+    layout->addWidget(other);
+    other->setFocus();
+    Record();
+  }
+
+  void Show() {
+    window->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+    log.clear();
+  }
+
+  /// Rows 0, 1, 2, ... behind the given number of cells, in a window that is shown.
+  void Open(quint32 rows, int edits = 4) {
+    editor->setNoOfEdits(edits);
+    editor->setNoOfRows(rows);
+    editor->Fill(1);
+    for (quint32 row = 0; row < rows; ++row) editor->setElement(row, row);
+    Show();
+  }
+
+  /// What has happened since the last call.
+  std::string Take() {
+    const std::string text = log.join(QLatin1String(", ")).toStdString();
+    log.clear();
+    return text;
+  }
+
+  TQorFloatEdit* Cell(int edit) const {
+    return editor->template findChildren<TQorFloatEdit*>().at(edit);
+  }
+  QScrollBar* Bar() const { return editor->template findChild<QScrollBar*>(); }
+
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(window->windowHandle(), key, modifiers);
+  }
+  void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+
+  std::string Texts() const {
+    QStringList texts;
+    for (const TQorFloatEdit* cell : editor->template findChildren<TQorFloatEdit*>()) {
+      if (!cell->isHidden()) texts.append(cell->text());
+    }
+    return texts.join(QLatin1Char('|')).toStdString();
+  }
+
+ private:
+  template <class Sender, class... Arguments>
+  void On(void (Sender::*signal)(Arguments...), const char* name) {
+    QObject::connect(editor, signal, editor, [this, name](Arguments... arguments) {
+      QStringList words{QLatin1String(name)};
+      (words.append(Word(arguments)), ...);
+      log.append(words.join(QLatin1Char(' ')));
+    });
+  }
+  static QString Word(quint32 row) { return QString::number(row); }
+  static QString Word(Extended value) { return Text(value); }
+  static QString Word(const QString& text) { return text; }
+  static QString Word(const QEvent*) { return {}; }
+
+  void Record() {
+    On(&Editor::OnChange, "change");
+    On(&Editor::OnChangeText, "text");
+    On(&Editor::OnNull, "null");
+    On(&Editor::OnSetElement, "set");
+    On(&Editor::OnRowNoChange, "rows");
+    On(&Editor::ontopChange, "top");
+    On(&Editor::OnAfterTopChange, "after");
+    On(&Editor::OnCurrRowChange, "current");
+    On(&Editor::OnCellEnter, "in");
+    On(&Editor::OnCellExit, "out");
+  }
+};
+
+}  // namespace qorvex

@@ -1,0 +1,443 @@
+#include <QAction>
+#include <QScrollArea>
+#include <QSignalSpy>
+#include <QStyleOptionSlider>
+#include <cmath>
+#include <limits>
+#include <memory>
+
+#include "controls/editor_fixture.h"
+#include "qorvex/base/errors.h"
+
+namespace qorvex {
+
+using VectorEdit = EditorFixture<TQorVectorEdit>;
+
+TEST_F(VectorEdit, TellsWhatHappensInOrder) {
+  Open(10);
+  const struct {
+    const char* action;
+    std::function<void()> run;
+    const char* events;
+  } steps[] = {
+      {"a program scrolls", [&] { editor->setDisplayTopRow(2); }, "top 2, current 0 2, after 2"},
+      {"the same again", [&] { editor->setDisplayTopRow(2); }, ""},
+      {"beyond the end", [&] { editor->setDisplayTopRow(99); }, "top 6, current 2 6, after 6"},
+      {"beyond the end again", [&] { editor->setDisplayTopRow(99); }, ""},
+      {"more rows up than there are", [&] { editor->ScrollUp(7); }, ""},
+      {"six rows up", [&] { editor->ScrollUp(6); }, "top 0, current 6 0, after 0"},
+      {"the focus comes", [&] { Cell(0)->setFocus(); }, "in 0"},
+      {"Enter", [&] { Press(Qt::Key_Return); }, "out 0, current 0 1, in 1"},
+      {"Ctrl+Down", [&] { Press(Qt::Key_Down, Qt::ControlModifier); }, "out 1, current 1 2, in 2"},
+      {"typing", [&] { Type("7"); }, "text 2 7"},
+      {"a program scrolls while a text is typed", [&] { editor->ScrollDown(1); },
+       "change 2, top 1, current 2 3, after 1"},
+      {"keypad Enter", [&] { Press(Qt::Key_Enter, Qt::KeypadModifier); },
+       "out 3, current 3 4, in 4"},
+      {"Ctrl+Down at the last cell", [&] { Press(Qt::Key_Down, Qt::ControlModifier); },
+       "out 4, top 2, current 4 5, after 2, in 5"},
+      {"Ctrl+Shift+Up, which is no key of ours",
+       [&] { Press(Qt::Key_Up, Qt::ControlModifier | Qt::ShiftModifier); }, ""},
+      {"the row under the focus is asked for", [&] { editor->setCurrentRow(8); },
+       "top 5, current 5 8, after 5"},
+      {"a row that the first page has", [&] { editor->setCurrentRow(1); },
+       "top 1, current 8 4, after 1"},
+      {"another cell", [&] { editor->setEditFocus(0); }, "out 4, current 4 1, in 1"},
+      {"Ctrl+Up at the first cell", [&] { Press(Qt::Key_Up, Qt::ControlModifier); },
+       "out 1, top 0, current 1 0, after 0, in 0"},
+      {"Ctrl+Up at the first row", [&] { Press(Qt::Key_Up, Qt::ControlModifier); }, ""},
+      {"a wheel notch", [&] { TurnWheel(Cell(0), -120); }, "top 1, current 0 1, after 1"},
+      {"to the end", [&] { editor->ScrollBottom(); }, "top 6, current 1 6, after 6"},
+      {"the focus goes", [&] { other->setFocus(); }, "out 6"},
+  };
+  for (const auto& [action, run, events] : steps) {
+    SCOPED_TRACE(action);
+    run();
+    EXPECT_EQ(Take(), events);
+    EXPECT_EQ(Bar()->value(), static_cast<int>(editor->DisplayTopRow()));
+  }
+  EXPECT_EQ(editor->Element(2), 7);
+}
+
+TEST_F(VectorEdit, KeepsTheFocusOnAnElementThatStays) {
+  Open(10);
+  editor->setDisplayTopRow(6);
+  editor->setEditFocus(3);
+  // Handlers run in the midst of it, and find every element that they are told of.
+  auto reader = std::make_unique<QObject>();
+  for (auto signal : {&TQorVectorEdit::OnCellExit, &TQorVectorEdit::OnCellEnter}) {
+    QObject::connect(editor, signal, reader.get(),
+                     [this](quint32 row) { EXPECT_EQ(editor->Element(row), row); });
+  }
+  Take();
+  editor->setNoOfRows(3);
+  EXPECT_EQ(Take(), "out 9, top 0, current 9 2, after 0, in 2, rows 3");
+  EXPECT_EQ(Texts(), "0.0000|1.0000|2.0000|");
+  reader.reset();
+  editor->setNoOfRows(0);
+  EXPECT_EQ(Take(), "out 2, current 2 0, rows 0");
+  EXPECT_EQ(Texts(), "|||");
+  editor->setNoOfRows(8);
+  editor->setElement(5, 5.5L);
+  editor->setDisplayTopRow(2);
+  editor->setEditFocus(3);
+  Type("6");
+  Take();
+  editor->setNoOfEdits(2);
+  EXPECT_EQ(Take(), "change 5, out 5, current 5 3, in 3");
+  EXPECT_EQ(Texts(), "0.0000|0.0000");
+  EXPECT_EQ(editor->Element(5), 6);
+  editor->setNoOfEdits(300);
+  EXPECT_EQ(editor->NoOfEdits(), 255);
+  EXPECT_EQ(editor->DisplayTopRow(), 0U);
+  editor->setNoOfEdits(-1);
+  EXPECT_EQ(editor->NoOfEdits(), 0);
+  editor->ScrollBottom();
+  editor->setNoOfEdits(4);
+  EXPECT_EQ(Texts(), "0.0000|6.0000|0.0000|0.0000");
+}
+
+TEST_F(VectorEdit, TheBarScrollsWithoutMovingTheCurrentRow) {
+  Open(10);
+  editor->setEditFocus(0);
+  Type("5");
+  Take();
+  QStyleOptionSlider option;
+  option.initFrom(Bar());
+  option.orientation = Qt::Vertical;
+  option.maximum = Bar()->maximum();
+  option.pageStep = Bar()->pageStep();
+  option.subControls = QStyle::SC_All;
+  const QRect arrow = Bar()->style()->subControlRect(QStyle::CC_ScrollBar, &option,
+                                                     QStyle::SC_ScrollBarAddLine, Bar());
+  QTest::mouseClick(Bar(), Qt::LeftButton, {}, arrow.center());
+  EXPECT_EQ(Take(), "change 0, out 0, top 1, after 1") << "the typed text belongs to the old row";
+  EXPECT_EQ(editor->Element(0), 5);
+  EXPECT_EQ(editor->CurrentRow(), 0U);
+  Bar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+  EXPECT_EQ(Take(), "top 5, after 5");
+  Press(Qt::Key_Down);
+  EXPECT_EQ(Take(), "top 6, after 6");
+  Bar()->triggerAction(QAbstractSlider::SliderToMinimum);
+  EXPECT_EQ(Take(), "top 0, after 0");
+  EXPECT_EQ(Bar()->value(), 0);
+  Bar()->setValue(4);
+  EXPECT_EQ(Take(), "") << "only the user scrolls by the bar";
+}
+
+TEST_F(VectorEdit, TheWheelTurnsWholeRowsWhereTheFocusIs) {
+  Open(30);
+  QScrollArea area;
+  area.setWidget(window.release());
+  area.resize(100, 60);
+  area.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
+  other->setFocus();
+  const int before = area.verticalScrollBar()->value();
+  TurnWheel(Cell(1), -120);
+  EXPECT_EQ(editor->DisplayTopRow(), 0U);
+  EXPECT_NE(area.verticalScrollBar()->value(), before) << "without the focus the parent scrolls";
+
+  Cell(1)->setFocus();
+  const int parent = area.verticalScrollBar()->value();
+  const struct {
+    int amount;
+    quint32 top;
+  } turns[] = {{-120, 1}, {-99, 1}, {-240, 3}, {-600, 9}, {99, 9}, {120, 8}, {199, 7}, {900, 7}};
+  for (const auto& [amount, top] : turns) {
+    TurnWheel(Cell(0), amount);
+    EXPECT_EQ(editor->DisplayTopRow(), top) << amount;
+  }
+  TurnWheel(Bar(), 120);
+  EXPECT_EQ(editor->DisplayTopRow(), 6U);
+  // A touch pad: small amounts add up to a notch, and a turn back begins anew.
+  for (int i = 0; i < 5; ++i) TurnWheel(Cell(0), -50, Qt::ScrollUpdate);
+  EXPECT_EQ(editor->DisplayTopRow(), 8U);
+  for (int i = 0; i < 2; ++i) TurnWheel(Cell(0), 50, Qt::ScrollUpdate);
+  EXPECT_EQ(editor->DisplayTopRow(), 8U);
+  EXPECT_EQ(area.verticalScrollBar()->value(), parent);
+}
+
+TEST_F(VectorEdit, CommandsDoWhatTheRoutinesDoAndCanBeTakenBack) {
+  const TQorFloatVector values = {4, 0.25L, 16};
+  editor->setVector(values);
+  Show();
+  const struct {
+    const char* name;
+    std::function<void()> run;
+    TQorFloatVector result;
+  } commands[] = {
+      {"Clear", [&] { editor->Clear(); }, {0, 0, 0}},
+      {"Fill", [&] { editor->Fill(3); }, {3, 3, 3}},
+      {"Invert", [&] { editor->Invert(); }, {0.25L, 4, 0.0625L}},
+      {"Sqr", [&] { editor->Sqr(); }, {16, 0.0625L, 256}},
+      {"Sqrt", [&] { editor->Sqrt(); }, {2, 0.5L, 4}},
+      {"Ln", [&] { editor->Ln(); }, {std::log(4.0L), std::log(0.25L), std::log(16.0L)}},
+      {"Log10", [&] { editor->Log10(); }, {std::log10(4.0L), std::log10(0.25L), std::log10(16.0L)}},
+      {"LinearTransform", [&] { editor->LinearTransform(2, 1); }, {9, 1.5L, 33}},
+      {"Sort", [&] { editor->Sort(); }, {0.25L, 4, 16}},
+      {"SwapElements", [&] { editor->SwapElements(0, 2); }, {16, 0.25L, 4}},
+  };
+  for (const auto& [name, run, result] : commands) {
+    SCOPED_TRACE(name);
+    run();
+    EXPECT_TRUE(std::ranges::equal(editor->Vector(), result));
+    EXPECT_EQ(Cell(0)->Value(), result[0]);
+    editor->Undo();
+    EXPECT_TRUE(std::ranges::equal(editor->Vector(), values));
+    editor->Redo();
+    EXPECT_TRUE(std::ranges::equal(editor->Vector(), result));
+    editor->Undo();
+    EXPECT_FALSE(editor->CanUndo());
+    EXPECT_EQ(Cell(0)->Value(), 4);
+  }
+  EXPECT_EQ(Take(), "") << "programs are not told what they have done";
+
+  editor->setElement(1, -1);
+  EXPECT_FALSE(editor->CanRedo());
+  EXPECT_MATH_ERROR(editor->Sqrt(), rsVectorNeg);
+  EXPECT_MATH_ERROR(editor->SwapElements(0, 3), rsInvalidRow);
+  EXPECT_MATH_ERROR(std::ignore = editor->Element(3), rsInvalidRow);
+  EXPECT_MATH_ERROR(editor->setElement(3, 0), rsInvalidRow);
+  EXPECT_FALSE(editor->CanUndo());
+  EXPECT_FALSE(editor->Updating()) << "an error ends the update";
+  editor->setNoOfRows(0);
+  EXPECT_MATH_ERROR(editor->SwapElements(0, 0), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(std::ignore = editor->Element(0), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(editor->Sqr(), rsVectorIsEmpty);
+}
+
+TEST_F(VectorEdit, OwnsItsVector) {
+  TQorFloatVector mine = {1, 2, 3};
+  editor->setVector(mine);
+  mine[0] = 9;
+  EXPECT_EQ(editor->Element(0), 1);
+  TQorFloatVector read = editor->Vector();
+  read[1] = 9;
+  EXPECT_EQ(editor->Element(1), 2);
+  EXPECT_EQ(Take(), "rows 3");
+}
+
+TEST_F(VectorEdit, VirtualModeAsksForWhatItShows) {
+  QList<quint32> asked;
+  QHash<quint32, Extended> kept;
+  QObject::connect(editor, &TQorVectorEdit::OnSetElement, editor,
+                   [&kept](quint32 row, Extended value) { kept[row] = value; });
+  editor->setNoOfRows(2);
+  editor->Fill(8);
+  editor->setVirtualMode(true);
+  editor->setNoOfRows(4'000'000'000U);
+  Show();
+  EXPECT_EQ(Texts(), "0.0000|1.0000|2.0000|3.0000") << "without a source rows show their index";
+  editor->OnGetElement = [&](quint32 row) {
+    asked.append(row);
+    return kept.value(row, 2.0L * row);
+  };
+  editor->ScrollBottom();
+  EXPECT_EQ(asked, QList<quint32>({3999999996U, 3999999997U, 3999999998U, 3999999999U}));
+  EXPECT_EQ(editor->Element(3'999'999'999U), 7999999998.0L);
+  EXPECT_EQ(Bar()->value(), Bar()->maximum());
+  Bar()->triggerAction(QAbstractSlider::SliderSingleStepSub);
+  EXPECT_EQ(editor->DisplayTopRow(), 3'999'999'995U) << "one row, though the bar is coarser";
+  Bar()->triggerAction(QAbstractSlider::SliderSingleStepAdd);
+  EXPECT_EQ(editor->DisplayTopRow(), 3'999'999'996U);
+
+  editor->setEditFocus(1);
+  Take();
+  Type("1.5");
+  Press(Qt::Key_Escape);
+  Type("12");
+  Take();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Take(),
+            "set 3999999997 12, change 3999999997, out 3999999997, "
+            "current 3999999997 3999999998, in 3999999998");
+  editor->Sqr();
+  editor->Undo();
+  EXPECT_EQ(Take(), "set 3999999997 7999999994, change 3999999997")
+      << "a command has left the elements alone, so what was typed is taken back";
+  editor->setElement(7, 3);
+  EXPECT_EQ(Take(), "set 7 3");
+  editor->setNoOfRows(3);
+  editor->setVirtualMode(false);
+  EXPECT_EQ(Texts(), "8.0000|8.0000|0.0000|");
+}
+
+TEST_F(VectorEdit, ABatchShowsNothingUntilItEnds) {
+  Open(6);
+  editor->BeginUpdate();
+  editor->BeginUpdate();
+  editor->setElement(0, 5);
+  editor->ScrollDown(1);
+  editor->EndUpdate();
+  EXPECT_EQ(Texts(), "0.0000|1.0000|2.0000|3.0000");
+  EXPECT_EQ(Take(), "top 1, current 0 1, after 1") << "events do not wait";
+  editor->EndUpdate();
+  EXPECT_EQ(Texts(), "1.0000|2.0000|3.0000|4.0000");
+  editor->EndUpdate();
+  editor->setElement(1, 7);
+  EXPECT_EQ(Cell(0)->text(), "7.0000");
+}
+
+TEST_F(VectorEdit, AFormMaySetTheTopBeforeTheRows) {
+  editor->setDisplayTopRow(5);
+  editor->setNoOfRows(3);
+  editor->setNoOfRows(100);
+  EXPECT_EQ(editor->DisplayTopRow(), 5U);
+  Show();
+  editor->setNoOfRows(3);
+  editor->setNoOfRows(100);
+  EXPECT_EQ(editor->DisplayTopRow(), 0U);
+}
+
+TEST_F(VectorEdit, HandlersMayChangeTheEditorUnderTheirFeet) {
+  Open(10);
+  editor->setEditFocus(3);
+  auto once = std::make_unique<QObject>();
+  QObject::connect(editor, &TQorVectorEdit::OnKeyDown, once.get(),
+                   [this] { editor->setNoOfEdits(1); });
+  Press(Qt::Key_X);
+  EXPECT_EQ(editor->NoOfEdits(), 1);
+  once = std::make_unique<QObject>();
+  editor->setNoOfEdits(4);
+
+  // Two editors that follow each other do not follow for ever.
+  TQorVectorEdit second;
+  second.setNoOfRows(10);
+  QObject::connect(editor, &TQorVectorEdit::ontopChange, &second,
+                   &TQorVectorEdit::setDisplayTopRow);
+  QObject::connect(&second, &TQorVectorEdit::ontopChange, editor,
+                   &TQorVectorEdit::setDisplayTopRow);
+  second.setDisplayTopRow(3);
+  EXPECT_EQ(editor->DisplayTopRow(), 3U);
+
+  // A handler that shortens the vector while a block is pasted, and one that takes keys away.
+  QObject::connect(editor, &TQorVectorEdit::OnChange, once.get(),
+                   [this] { editor->setNoOfRows(4); });
+  editor->setDisplayTopRow(0);
+  editor->setEditFocus(2);
+  EXPECT_TRUE(editor->PasteBlock("20\n30\n40\n50"));
+  EXPECT_EQ(editor->NoOfRows(), 4U);
+  EXPECT_EQ(editor->Element(3), 30);
+  once = std::make_unique<QObject>();
+  QObject::connect(editor, &TQorVectorEdit::OnKeyPress, once.get(),
+                   [](QKeyEvent* event) { event->setAccepted(event->text() == "5"); });
+  editor->setEditFocus(0);
+  Type("456");
+  EXPECT_EQ(Cell(0)->text(), "46");
+  once = std::make_unique<QObject>();
+
+  const QPointer<TQorVectorEdit> gone(editor);
+  QObject::connect(editor, &TQorVectorEdit::OnKeyDown, editor, [this] { editor->deleteLater(); });
+  Press(Qt::Key_Return);
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_TRUE(gone.isNull());
+}
+
+TEST_F(VectorEdit, TakesItsKeysBeforeTheApplicationDoes) {
+  Open(10);
+  QAction action;
+  action.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down));
+  window->addAction(&action);
+  QSignalSpy taken(&action, &QAction::triggered);
+  editor->setEditFocus(0);
+  Press(Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_EQ(editor->CurrentRow(), 1U);
+  EXPECT_EQ(taken.count(), 0);
+  other->setFocus();
+  Press(Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_EQ(taken.count(), 1);
+  // Each cell is one stop of the tab key, in order, with those that came later.
+  editor->setNoOfEdits(5);
+  Cell(2)->setFocus();
+  for (int edit : {3, 4}) {
+    Press(Qt::Key_Tab);
+    EXPECT_TRUE(Cell(edit)->hasFocus()) << edit;
+  }
+  Press(Qt::Key_Tab);
+  EXPECT_TRUE(other->hasFocus());
+  editor->setTabStop(false);
+  Press(Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_FALSE(Cell(4)->hasFocus());
+}
+
+TEST_F(VectorEdit, AWindowThatIsLeftAndComesBackIsOneEntry) {
+  Open(5);
+  editor->setEditFocus(2);
+  Type("9");
+  Take();
+  QWidget second;
+  second.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
+  EXPECT_EQ(Take(), "change 2");
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  EXPECT_EQ(Take(), "");
+  Type("8");
+  Take();
+  window->hide();
+  EXPECT_EQ(Take(), "change 2") << "what is typed on a page that is turned is not lost";
+}
+
+TEST_F(VectorEdit, SharesSettingsAndOutlivesThem) {
+  Open(3);
+  editor->setNullStr("none");
+  auto shared = std::make_unique<TQorUICtrl>();
+  shared->setDecimalPlaces(1);
+  shared->setNullStr("n/a");
+  shared->setColorSetBackground(Qt::yellow);
+  editor->setUICtrl(shared.get());
+  editor->setElement(0, kNaN);
+  EXPECT_EQ(Texts(), "n/a|1.0|2.0|");
+  EXPECT_EQ(Cell(1)->palette().color(QPalette::Base), QColor(Qt::yellow));
+  editor->setUIUsage(TQorUICtrl::uuNumberFormat);
+  EXPECT_EQ(Texts(), "none|1.0|2.0|");
+  EXPECT_NE(Cell(1)->palette().color(QPalette::Base), QColor(Qt::yellow));
+  shared->setDecimalPlaces(2);
+  EXPECT_EQ(Texts(), "none|1.00|2.00|");
+  EXPECT_EQ(editor->DecimalPlaces(), 4);
+  shared.reset();
+  EXPECT_EQ(Texts(), "none|1.0000|2.0000|");
+  EXPECT_EQ(editor->UICtrl(), nullptr);
+  QSignalSpy colors(editor, &TQorVectorEdit::OnColorSetChange);
+  editor->ColorSet()->setText(Qt::blue);
+  EXPECT_EQ(Cell(1)->palette().color(QPalette::Text), QColor(Qt::blue));
+  EXPECT_EQ(colors.count(), 1);
+}
+
+TEST_F(VectorEdit, NamesItsCellsForScreenReadersAndMirrors) {
+  Open(9);
+  editor->setDisplayTopRow(4);
+  EXPECT_EQ(Cell(0)->accessibleName(), "Row 5");
+  const QRect left = Cell(0)->geometry();
+  EXPECT_LT(left.x(), Bar()->x());
+  EXPECT_EQ(left.size(), QSize(81, 21));
+  EXPECT_EQ(editor->sizeHint(), QSize(81 + Bar()->width(), 4 * 21));
+  editor->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_GT(Cell(0)->x(), Bar()->x());
+  QFont large = editor->font();
+  large.setPointSize(40);
+  editor->setFont(large);
+  EXPECT_GE(Cell(0)->height(), QFontMetrics(large).height());
+}
+
+TEST_F(VectorEdit, Deletes) {
+  // In each order of the editor, its shared settings and its window, with a text half typed.
+  for (int order = 0; order < 3; ++order) {
+    auto* const shared = new TQorUICtrl;
+    auto* const form = new QWidget;
+    auto* const edit = new TQorVectorEdit(form);
+    edit->setUICtrl(shared);
+    edit->setNoOfRows(2);
+    form->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
+    edit->setEditFocus(1);
+    Type("3");
+    if (order == 0) delete edit;
+    if (order == 1) delete shared;
+    delete form;
+    if (order != 1) delete shared;
+  }
+}
+
+}  // namespace qorvex
