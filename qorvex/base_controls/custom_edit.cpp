@@ -240,16 +240,17 @@ void TQorCustomEdit::Paste(const QMimeData* contents) {
     Q_EMIT BlockPasted(pasted);
   } else {
     insert(line);
-    Q_EMIT textEdited(text());
   }
 }
 
 QMenu* TQorCustomEdit::CreateContextMenu() {
   QMenu* menu = createStandardContextMenu();
   // The line edit would paste tabs and line ends into the text.
-  if (QAction* paste = menu->findChild<QAction*>(QStringLiteral("edit-paste"))) {
-    paste->disconnect(this);
-    connect(paste, &QAction::triggered, this,
+  const QString paste = QLineEdit::tr("&Paste");
+  for (QAction* action : menu->actions()) {
+    if (action->text().section(QLatin1Char('\t'), 0, 0) != paste) continue;
+    action->disconnect(this);
+    connect(action, &QAction::triggered, this,
             [this] { Paste(QApplication::clipboard()->mimeData()); });
   }
   Q_EMIT MenuOpening(menu);

@@ -1,0 +1,83 @@
+#include <QClipboard>
+#include <QSignalSpy>
+
+#include "controls/editor_fixture.h"
+
+namespace qorvex {
+
+using BlockPaste = EditorFixture<TQorVectorEdit>;
+
+TEST_F(BlockPaste, FillsTheVectorFromTheFocusedCellAndIsTakenBackInOneStep) {
+  Open(6);
+  editor->setDisplayTopRow(1);
+  editor->setEditFocus(1);
+  Take();
+  QApplication::clipboard()->setText("20\r\n3\r\n\r\n");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(Take(), "change 2, null 4, change 4") << "row 3 was 3 already";
+  EXPECT_EQ(Texts(), "1.0000|20.0000|3.0000|");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(Take(), "change 2, change 4");
+  EXPECT_EQ(Texts(), "1.0000|2.0000|3.0000|4.0000");
+  Press(Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(Texts(), "1.0000|20.0000|3.0000|");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+
+  // What is being typed is taken back by the cell itself, what was typed by the editor.
+  Type("77");
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NE(Cell(1)->text(), "77");
+  Press(Qt::Key_Escape);
+  Type("88");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(editor->Element(2), 88);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(editor->Element(2), 2);
+  editor->setElement(0, 5);
+  EXPECT_FALSE(editor->CanRedo());
+}
+
+TEST_F(BlockPaste, RefusesAWholeTextWithAReason) {
+  Open(4);
+  editor->setEditFocus(1);
+  QSignalSpy refused(editor, &TQorVectorEdit::OnPasteRefused);
+  const struct {
+    const char* text;
+    const char* message;
+  } cases[] = {
+      {"5\n6x\n7", "Row 3: \"6x\" is not a number."},
+      {"5\n1,000", "Row 3: \"1,000\" is not a number."},
+      {"1\n2\n3\n4", "4 rows do not fit: there are 3 from here on."},
+      {"1\t2", "2 columns do not fit: there are 1 from here on."},
+  };
+  for (const auto& [text, message] : cases) {
+    EXPECT_FALSE(editor->PasteBlock(text));
+    EXPECT_EQ(refused.takeFirst()[0].toString().toStdString(), message);
+  }
+  editor->setAllowKbdNull(false);
+  EXPECT_FALSE(editor->PasteBlock("1\n\n2"));
+  EXPECT_EQ(refused.takeFirst()[0].toString(), "Row 3: \"\" is not a number.");
+  editor->setReadOnly(true);
+  EXPECT_FALSE(editor->PasteBlock("1\n2"));
+  EXPECT_EQ(refused.takeFirst()[0].toString(), "These values cannot be changed.");
+  EXPECT_EQ(Texts(), "0.0000|1.0000|2.0000|3.0000");
+}
+
+TEST_F(BlockPaste, CopiesEveryDigitAndTakesItBack) {
+  const TQorFloatVector values = {1 / 3.0L, -1e-4000L, 12345678.9L, kNaN};
+  editor->setVector(values);
+  editor->setLocale(QLocale(QLocale::German));
+  Show();
+  editor->setEditFocus(0);
+  Press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "0,33333333333333333334\n-1e-4000\n12345678,9\n\n");
+  editor->Fill(0);
+  EXPECT_TRUE(editor->PasteBlock(QApplication::clipboard()->text()));
+  const TQorFloatVector pasted = editor->Vector();
+  EXPECT_TRUE(std::equal(values.begin(), values.begin() + 3, pasted.begin()));
+  EXPECT_TRUE(std::isnan(pasted[3]));
+  editor->CopyRows(2, 99);
+  EXPECT_EQ(QApplication::clipboard()->text(), "12345678,9\n\n");
+}
+
+}  // namespace qorvex

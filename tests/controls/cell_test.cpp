@@ -1,0 +1,288 @@
+#include <QApplication>
+#include <QClipboard>
+#include <QHelpEvent>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QtTest/QTest>
+#include <algorithm>
+#include <cmath>
+#include <memory>
+
+#include "qorvex/base_controls/float_edit.h"
+#include "qorvex/base_controls/fract_edit.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+template <class Edit>
+struct Cells : testing::Test {
+  QWidget window;
+  Edit* cell = new Edit;
+  QLineEdit* other = new QLineEdit;
+
+  Cells() {
+    QLocale::setDefault(QLocale::c());
+    auto* const layout = new QVBoxLayout(&window);
+    layout->addWidget(cell);
+    layout->addWidget(other);
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    other->setFocus();
+  }
+  void Type(const char* text) {
+    cell->setFocus();
+    cell->selectAll();
+    QTest::keyClicks(cell, text);
+  }
+  void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
+    QTest::keyClick(cell, key, modifiers);
+  }
+};
+using FloatCell = Cells<TQorFloatEdit>;
+using FractCell = Cells<TQorFractEdit>;
+using CellTypes = testing::Types<TQorFloatEdit, TQorFractEdit>;
+TYPED_TEST_SUITE(Cells, CellTypes);
+
+TYPED_TEST(Cells, CommitExactlyWhatIsTypedAndNothingElse) {
+  TypeParam* const edit = this->cell;
+  QSignalSpy changed(edit, &TQorCustomEdit::Changed);
+  const Extended pi = std::acos(-1.0L);
+  edit->setValue(pi);
+  const QString shown = edit->text();
+  // Entered, left, typed and taken back, selected, committed: not a bit is lost.
+  edit->setFocus();
+  this->Press(Qt::Key_End);
+  QTest::keyClicks(edit, "5");
+  this->Press(Qt::Key_Backspace);
+  this->Press(Qt::Key_Return);
+  this->other->setFocus();
+  EXPECT_EQ(edit->Value(), pi);
+  EXPECT_EQ(changed.count(), 0);
+
+  this->Type("2.5");
+  EXPECT_EQ(edit->Value(), pi) << "typing is free";
+  this->Press(Qt::Key_Escape);
+  EXPECT_EQ(edit->text(), shown);
+  EXPECT_EQ(edit->selectedText(), shown) << "the next key types over it";
+  this->Type("2.5");
+  this->Press(Qt::Key_Enter, Qt::KeypadModifier);
+  EXPECT_EQ(edit->Value(), 2.5L);
+  this->Type("-4");
+  this->other->setFocus();
+  EXPECT_EQ(edit->Value(), -4);
+  EXPECT_EQ(changed.count(), 2);
+  EXPECT_EQ(changed[1][0].value<long double>(), 2.5L);
+}
+
+TYPED_TEST(Cells, MarkWhatIsNoNumberAndNeverStoreIt) {
+  TypeParam* const edit = this->cell;
+  edit->setValue(7);
+  const QColor base = edit->palette().color(QPalette::Base);
+  this->Type("12x");
+  this->Press(Qt::Key_Return);
+  EXPECT_EQ(edit->text(), "12x");
+  EXPECT_EQ(edit->accessibleDescription(), "Not a number");
+  EXPECT_NE(edit->palette().color(QPalette::Base), base);
+  this->Press(Qt::Key_Backspace);
+  EXPECT_TRUE(edit->accessibleDescription().isEmpty()) << "the text is another one";
+  EXPECT_EQ(edit->palette().color(QPalette::Base), base);
+  QTest::keyClicks(edit, "y");
+  this->Press(Qt::Key_Return);
+  this->Press(Qt::Key_Escape);
+  EXPECT_EQ(edit->text(), edit->metaObject()->className() == QLatin1String("qorvex::TQorFloatEdit")
+                              ? "7.0000"
+                              : "7");
+  for (const char* text : {"nan", "inf", "1,5", "1e", "--1"}) {
+    this->Type(text);
+    this->other->setFocus();
+    EXPECT_EQ(edit->Value(), 7) << text;
+    EXPECT_FALSE(edit->Pending());
+  }
+  edit->setReadOnly(true);
+  this->Type("8");
+  this->other->setFocus();
+  EXPECT_EQ(edit->Value(), 7);
+}
+
+TYPED_TEST(Cells, KnowNullAndZero) {
+  TypeParam* const edit = this->cell;
+  edit->setNullStr("n/a");
+  QSignalSpy nulls(edit, &TQorCustomEdit::OnNull);
+  this->Type("");
+  this->Press(Qt::Key_Delete);
+  this->Press(Qt::Key_Return);
+  EXPECT_TRUE(edit->Null());
+  EXPECT_EQ(edit->text(), "n/a");
+  EXPECT_EQ(nulls.count(), 1);
+  edit->setBlankWhenNull(true);
+  EXPECT_EQ(edit->text(), "");
+  edit->setNull(false);
+  EXPECT_EQ(edit->Value(), 0);
+  edit->setBlankWhenZero(true);
+  EXPECT_EQ(edit->text(), "");
+  edit->setAllowKbdNull(false);
+  edit->setValue(3);
+  this->Type("n/a");
+  this->other->setFocus();
+  EXPECT_EQ(edit->Value(), 3) << "null cannot be typed now";
+  this->Type(" ");
+  this->other->setFocus();
+  EXPECT_EQ(edit->Value(), 0) << "blank is what a zero looks like";
+  edit->setBlankWhenZero(false);
+  edit->setValue(3);
+  this->Type(" ");
+  this->other->setFocus();
+  EXPECT_EQ(edit->Value(), 3);
+}
+
+TYPED_TEST(Cells, SelectOnEntryAndOnClickWhereTheyShall) {
+  TypeParam* const edit = this->cell;
+  edit->setValue(25);
+  const auto enter = [this, edit] {
+    this->other->setFocus();
+    edit->setFocus(Qt::TabFocusReason);
+    return edit->hasSelectedText();
+  };
+  const auto click = [this, edit] {
+    this->other->setFocus();
+    QTest::mouseClick(edit, Qt::LeftButton);
+    return edit->hasSelectedText();
+  };
+  EXPECT_TRUE(enter());
+  EXPECT_FALSE(click());
+  edit->setAutoSelect(false);
+  edit->setAutoSelectClick(true);
+  EXPECT_FALSE(enter());
+  EXPECT_TRUE(click());
+}
+
+TEST_F(FloatCell, ShowsAsManyDigitsAsItIsTold) {
+  const struct {
+    Extended value;
+    int decimals;
+    bool full;
+    bool trim;
+    const char* text;
+  } cases[] = {
+      {1 / 3.0L, 4, false, false, "0.3333"},  {1 / 3.0L, 4, true, false, "0.33333333333333333334"},
+      {2.5L, 4, false, true, "2.5"},          {100, 0, false, true, "100"},
+      {-0.00001L, 4, false, false, "0.0000"}, {0.125L, 2, false, false, "0.12"},
+      {1e4000L, 4, false, false, "1e+4000"},  {-kInfinity, 4, false, true, "-inf"},
+  };
+  for (const auto& [value, decimals, full, trim, text] : cases) {
+    cell->setDecimalPlaces(decimals);
+    cell->setFullAccuracy(full);
+    cell->setTrimTrailingZeroes(trim);
+    cell->setValue(value);
+    EXPECT_EQ(cell->text(), text);
+  }
+  cell->setDecimalPlaces(1000);
+  EXPECT_EQ(cell->DecimalPlaces(), 255);
+}
+
+TEST_F(FloatCell, SpeaksTheLanguageOfItsLocale) {
+  cell->setValue(-1.5L);
+  cell->setLocale(QLocale(QLocale::German));
+  EXPECT_EQ(cell->text(), "-1,5000");
+  Type("2,25");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(cell->Value(), 2.25L);
+  Type("3");
+  // The keypad's point is what a German keypad labels a comma.
+  Press(Qt::Key_Period, Qt::KeypadModifier);
+  QTest::keyClicks(cell, "75");
+  EXPECT_EQ(cell->text(), "3,75");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(cell->Value(), 3.75L);
+  cell->OnConvert = [](const QString& text) -> std::optional<Extended> {
+    return text == "dozen" ? std::optional<Extended>(12) : std::nullopt;
+  };
+  Type("dozen");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(cell->text(), "12,0000");
+}
+
+TEST_F(FloatCell, PastesOneNumberAndHandsBlocksOn) {
+  QSignalSpy blocks(cell, &TQorCustomEdit::BlockPasted);
+  QSignalSpy typed(cell, &QLineEdit::textEdited);
+  const auto paste = [this](const char* text) {
+    QApplication::clipboard()->setText(text);
+    cell->setFocus();
+    cell->selectAll();
+    Press(Qt::Key_V, Qt::ControlModifier);
+  };
+  paste(" 4.5\r\n");
+  EXPECT_EQ(cell->text(), "4.5") << "a spreadsheet ends a single cell with a line end, too";
+  EXPECT_EQ(typed.count(), 1);
+  paste("1\t2");
+  EXPECT_EQ(blocks.count(), 1);
+  EXPECT_EQ(cell->text(), "4.5");
+  const std::unique_ptr<QMenu> menu(cell->CreateContextMenu());
+  const QList<QAction*> actions = menu->actions();
+  const auto action = std::ranges::find_if(
+      actions, [](const QAction* one) { return one->text().startsWith("&Paste"); });
+  ASSERT_TRUE(action != actions.end());
+  (*action)->trigger();
+  EXPECT_EQ(blocks.count(), 2) << "the menu pastes like the key";
+}
+
+TEST_F(FloatCell, TellsInATipWhatIsCutOff) {
+  const auto tip = [this] {
+    QToolTip::hideText();
+    QHelpEvent event(QEvent::ToolTip, {3, 3}, cell->mapToGlobal(QPoint(3, 3)));
+    QApplication::sendEvent(cell, &event);
+    return QToolTip::text();
+  };
+  cell->setFixedWidth(60);
+  cell->setValue(1.5L);
+  EXPECT_EQ(tip(), "");
+  cell->setValue(12345678901.5L);
+  EXPECT_EQ(tip(), "12345678901.5000");
+}
+
+TEST_F(FloatCell, KeepsToThePaletteUntilAColourIsSet) {
+  EXPECT_FALSE(cell->testAttribute(Qt::WA_SetPalette));
+  cell->setColorSetNegativeText(Qt::red);
+  cell->setColorSetText(Qt::blue);
+  cell->setValue(-1);
+  EXPECT_EQ(cell->palette().color(QPalette::Text), QColor(Qt::red));
+  cell->setValue(1);
+  EXPECT_EQ(cell->palette().color(QPalette::Text), QColor(Qt::blue));
+  cell->setColorSetReadOnlyBackground(Qt::lightGray);
+  cell->setReadOnly(true);
+  EXPECT_EQ(cell->palette().color(QPalette::Base), QColor(Qt::lightGray));
+  cell->setColorSetFocusBackground(Qt::yellow);
+  cell->setFocus();
+  EXPECT_EQ(cell->palette().color(QPalette::Base), QColor(Qt::yellow));
+  other->setFocus();
+  cell->setReadOnly(false);
+  cell->resetColorSetText();
+  cell->resetColorSetNegativeText();
+  EXPECT_FALSE(cell->testAttribute(Qt::WA_SetPalette));
+}
+
+TEST_F(FractCell, ShowsAndTakesFractions) {
+  cell->setValue(7 / 3.0L);
+  EXPECT_EQ(cell->text(), "2 1/3");
+  cell->setFractionDisplay(TQorFractEdit::fdImproper);
+  EXPECT_EQ(cell->text(), "7/3");
+  cell->setDecimalsFract(1);
+  cell->setValue(std::acos(-1.0L));
+  EXPECT_EQ(cell->text(), "22/7");
+  Type("-1 3/4");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(cell->Value(), -1.75L);
+  Type("1/0");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(cell->Value(), -1.75L);
+  Press(Qt::Key_Escape);
+  cell->resetDecimalsFract();
+  Type("0.2");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(cell->Value(), 0.2L);
+  EXPECT_EQ(cell->text(), "1/5");
+}
+
+}  // namespace qorvex

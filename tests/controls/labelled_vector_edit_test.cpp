@@ -1,0 +1,131 @@
+#include <QSignalSpy>
+#include <tuple>
+
+#include "controls/editor_fixture.h"
+
+namespace qorvex {
+
+struct LabelledVectorEdit : EditorFixture<TQorLabelledVectorEdit> {
+  QLineEdit* LabelCell(int edit) const {
+    QList<QLineEdit*> labels;
+    for (QLineEdit* cell : editor->findChildren<QLineEdit*>()) {
+      if (qobject_cast<TQorFloatEdit*>(cell) == nullptr) labels.append(cell);
+    }
+    return labels.at(edit);
+  }
+  std::string Labels() const {
+    QStringList labels;
+    for (quint32 row = 0; row < editor->NoOfRows(); ++row) labels.append(editor->Label(row));
+    return labels.join(QLatin1Char('|')).toStdString();
+  }
+  void Name(const QStringList& labels) {
+    editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
+    for (int row = 0; row < labels.size(); ++row) {
+      editor->setLabel(static_cast<quint32>(row), labels[row]);
+    }
+  }
+};
+
+TEST_F(LabelledVectorEdit, LabelsRowsByTheirType) {
+  EXPECT_MATH_ERROR(std::ignore = editor->Label(0), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(editor->setLabel(0, "a"), rsVectorIsEmpty);
+  Open(3);
+  EXPECT_EQ(Labels(), "1|2|3");
+  EXPECT_EQ(LabelCell(2)->text(), "3");
+  EXPECT_EQ(LabelCell(3)->text(), "");
+  EXPECT_MATH_ERROR(std::ignore = editor->Label(3), rsInvalidRow);
+  editor->setLabel(1, "ignored");
+  editor->setLabelNumOffSet(-1);
+  EXPECT_EQ(Labels(), "-1|0|1");
+
+  editor->setLabelType(TQorLabelledVectorEdit::ltSupplied);
+  EXPECT_EQ(Labels(), "0|1|2");
+  editor->OnGetLabel = [](quint32 row) { return QString(static_cast<int>(row) + 1, 'x'); };
+  editor->setLabel(1, "ignored");
+  EXPECT_EQ(Labels(), "x|xx|xxx");
+
+  Name({"b", "C", "a"});
+  editor->setNoOfRows(4);
+  EXPECT_EQ(Labels(), "b|C|a|") << "a row that came later has no label yet";
+  EXPECT_EQ(Cell(1)->accessibleName(), "C, Row 2");
+  editor->setLabelsEditable(true);
+  editor->setLabelType(TQorLabelledVectorEdit::ltNumbered);
+  EXPECT_FALSE(editor->LabelsEditable());
+}
+
+TEST_F(LabelledVectorEdit, SortsBothColumnsForThemselves) {
+  editor->setVector({3, 1, 2});
+  Name({"b", "C", "a"});
+  editor->Sort();
+  EXPECT_EQ(Labels(), "a|b|C");
+  EXPECT_EQ(Texts(), "1.0000|2.0000|3.0000|");
+  editor->Undo();
+  EXPECT_EQ(Labels(), "b|C|a");
+  EXPECT_EQ(Texts(), "3.0000|1.0000|2.0000|");
+  editor->SwapElements(0, 2);
+  EXPECT_EQ(Labels(), "a|C|b");
+  EXPECT_EQ(Texts(), "2.0000|1.0000|3.0000|");
+  editor->Undo();
+  EXPECT_EQ(Labels(), "b|C|a");
+  editor->setLabelType(TQorLabelledVectorEdit::ltNumbered);
+  editor->Sort();
+  editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
+  EXPECT_EQ(Labels(), "b|C|a") << "labels that do not show are not sorted";
+  editor->setVirtualMode(true);
+  editor->Sort();
+  EXPECT_EQ(Labels(), "b|C|a");
+  QSignalSpy kept(editor, &TQorLabelledVectorEdit::OnSetLabel);
+  editor->setLabel(1, "new");
+  EXPECT_EQ(kept.count(), 1);
+  EXPECT_EQ(Labels(), "b|C|a");
+}
+
+TEST_F(LabelledVectorEdit, KeepsNavigationInTheColumnOfLabels) {
+  Open(6);
+  Name({"a", "b", "c", "d", "e", "f"});
+  editor->setLabelsEditable(true);
+  QStringList labels;
+  QObject::connect(editor, &TQorLabelledVectorEdit::OnLabelChange, editor,
+                   [&](quint32 row) { labels << "change " + QString::number(row); });
+  QObject::connect(editor, &TQorLabelledVectorEdit::OnLabelExit, editor,
+                   [&](quint32 row) { labels << "exit " + QString::number(row); });
+  LabelCell(2)->setFocus();
+  EXPECT_EQ(LabelCell(2)->selectedText(), "c");
+  Take();
+  Type("see");
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(LabelCell(3)->hasFocus());
+  EXPECT_EQ(editor->CurrentRow(), 3U);
+  Type("dee");
+  Press(Qt::Key_Down, Qt::ControlModifier);
+  EXPECT_TRUE(LabelCell(3)->hasFocus());
+  EXPECT_EQ(Take(), "current 2 3, top 1, current 3 4, after 1");
+  EXPECT_EQ(labels.join(", ").toStdString(), "change 2, exit 2, change 3, exit 3");
+  EXPECT_EQ(Labels(), "a|b|see|dee|e|f");
+  EXPECT_EQ(LabelCell(3)->text(), "e");
+  Type("x");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(LabelCell(3)->text(), "e");
+  Type("y");
+  editor->ScrollDown(1);
+  EXPECT_EQ(editor->Label(4), "y") << "the text belongs to the row where it was typed";
+
+  Cell(0)->setFocus();
+  Press(Qt::Key_Return);
+  EXPECT_TRUE(Cell(1)->hasFocus());
+  editor->setLabelsEditable(false);
+  LabelCell(0)->setFocus();
+  Type("z");
+  Cell(0)->setFocus();
+  EXPECT_EQ(editor->Label(2), "see");
+  LabelCell(3)->setFocus();
+  editor->setNoOfEdits(2);
+  editor->setNoOfEdits(4);
+  EXPECT_EQ(LabelCell(1)->geometry().right() + 1, Cell(1)->geometry().left());
+  editor->setLabelWidth(30);
+  EXPECT_EQ(Cell(0)->x(), 30);
+  editor->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_GT(LabelCell(0)->x(), Cell(0)->x());
+}
+
+}  // namespace qorvex
