@@ -27,7 +27,7 @@ TEST_F(BlockPaste, FillsTheVectorFromTheFocusedCellAndIsTakenBackInOneStep) {
   Type("77");
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_NE(Cell(1)->text(), "77");
-  Press(Qt::Key_Escape);
+  Press(Qt::Key_A, Qt::ControlModifier);
   Type("88");
   Press(Qt::Key_Return);
   EXPECT_EQ(editor->Element(2), 88);

@@ -1,0 +1,106 @@
+// One step down a long column with twenty rows in sight, beside Qt's table view over a model of the
+// same vector. Nothing is seen: windows are offscreen.
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QHeaderView>
+#include <QScrollBar>
+#include <QTableView>
+#include <memory>
+#include <string>
+
+#include "qorvex/base/text.h"
+#include "qorvex/controls/QorvexVectorEdit.h"
+#include "support/compare.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+constexpr int kVisible = 20;
+
+void StartApplication() {
+  if (QApplication::instance() != nullptr) return;
+  static int count = 1;
+  static char name[] = "controls_benchmark";
+  static char* arguments[] = {name, nullptr};
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Lives as long as the process: Qt wants to be last.
+  new QApplication(count, arguments);
+  QApplication::setStyle("Fusion");
+}
+
+class VectorModel : public QAbstractTableModel {
+ public:
+  explicit VectorModel(TQorFloatVector vector) : vector_(std::move(vector)) {}
+  int rowCount(const QModelIndex&) const override { return static_cast<int>(vector_.size()); }
+  int columnCount(const QModelIndex&) const override { return 1; }
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role != Qt::DisplayRole) return {};
+    const Extended value = vector_[static_cast<std::size_t>(index.row())];
+    return QString::fromStdString(Float2EStr(value, 4));
+  }
+
+ private:
+  TQorFloatVector vector_;
+};
+
+// A shown widget that scrolls to a row.
+class Editor {
+ public:
+  explicit Editor(std::size_t n) {
+    widget_.setNoOfEdits(kVisible);
+    widget_.setVector(Sample<Extended>(n, 1));
+    widget_.show();
+  }
+  void ScrollTo(std::size_t row) { widget_.setDisplayTopRow(static_cast<quint32>(row)); }
+  void Paint() { widget_.repaint(); }
+
+ private:
+  TQorVectorEdit widget_;
+};
+
+class View {
+ public:
+  explicit View(std::size_t n) : model_(Sample<Extended>(n, 1)) {
+    view_.horizontalHeader()->hide();
+    view_.verticalHeader()->hide();
+    view_.setModel(&model_);
+    view_.resize(110, kVisible * view_.rowHeight(0));
+    view_.show();
+  }
+  void ScrollTo(std::size_t row) { view_.verticalScrollBar()->setValue(static_cast<int>(row)); }
+  void Paint() { view_.viewport()->repaint(); }
+
+ private:
+  VectorModel model_;
+  QTableView view_;
+};
+
+template <class Widget>
+void Register(const std::string& what, const std::string& who, std::size_t n, bool paint) {
+  const std::string name = what + "/Float/" + who + "/" + std::to_string(n);
+  benchmark::RegisterBenchmark(name.c_str(), [n, paint](benchmark::State& state) {
+    StartApplication();
+    Widget widget(n);
+    QApplication::processEvents();
+    std::size_t row = 0;
+    for (auto _ : state) {
+      row = (row + 1) % (n - kVisible);
+      widget.ScrollTo(row);
+      if (paint) widget.Paint();
+    }
+    state.SetItemsProcessed(state.iterations());
+  });
+}
+
+const bool registered = [] {
+  for (const std::size_t n : {30U, 1'000U, 10'000'000U}) {
+    Register<Editor>("scroll step", "ours", n, false);
+    Register<Editor>("scroll step and paint", "ours", n, true);
+    Register<View>("scroll step and paint", "QTableView", n, true);
+  }
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
