@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QDropEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -129,7 +130,8 @@ void TQorCustomEdit::DoColorSetChange() {
 void TQorCustomEdit::Mark(bool invalid) {
   if (invalid != invalid_) {
     invalid_ = invalid;
-    setAccessibleDescription(invalid ? tr("Not a number") : QString());
+    setAccessibleDescription(invalid ? QCoreApplication::translate("TQorCustomEdit", "Not a number")
+                                     : QString());
   }
   ApplyColors();
 }
@@ -174,7 +176,9 @@ bool TQorCustomEdit::event(QEvent* event) {
     const auto& help = static_cast<const QHelpEvent&>(*event);
     QString tip;
     if (invalid_) {
-      tip = tr("\"%1\" is not a number. Escape brings back the value.").arg(text());
+      tip = QCoreApplication::translate("TQorCustomEdit",
+                                        "\"%1\" is not a number. Escape brings back the value.")
+                .arg(text());
     } else if (IsCutOff()) {
       tip = text();
     }
@@ -245,8 +249,10 @@ void TQorCustomEdit::Paste(const QMimeData* contents) {
 
 QMenu* TQorCustomEdit::CreateContextMenu() {
   QMenu* menu = createStandardContextMenu();
-  // The line edit would paste tabs and line ends into the text.
-  const QString paste = QLineEdit::tr("&Paste");
+  // The line edit would paste tabs and line ends into the text. Its action has no name but its
+  // text, which Qt translates.
+  constexpr const char* text_of_paste = "&Paste";
+  const QString paste = QLineEdit::tr(text_of_paste);
   for (QAction* action : menu->actions()) {
     if (action->text().section(QLatin1Char('\t'), 0, 0) != paste) continue;
     action->disconnect(this);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QMenu>
 #include <QToolTip>
 #include <algorithm>
@@ -50,18 +51,22 @@ bool CellPanel::PasteBlock(const QString& text) {
   const std::size_t room_below = Rows().Count() - std::min(first_row, Rows().Count());
   const std::size_t room_beside = Cols().Count() - std::min(first_col, Cols().Count());
   if (EffectiveSettings().read_only) {
-    RefusePaste(tr("These values cannot be changed."));
+    RefusePaste(QCoreApplication::translate("CellPanel", "These values cannot be changed."));
     return false;
   }
   if (block.size() > room_below || cells_.empty()) {
-    RefusePaste(tr("%1 rows do not fit: there are %2 from here on.")
+    RefusePaste(QCoreApplication::translate(
+                    "CellPanel", "The block does not fit. Its rows: %1, rows from here on: %2.")
                     .arg(block.size())
                     .arg(cells_.empty() ? 0 : room_below));
     return false;
   }
   if (width > room_beside) {
     RefusePaste(
-        tr("%1 columns do not fit: there are %2 from here on.").arg(width).arg(room_beside));
+        QCoreApplication::translate(
+            "CellPanel", "The block does not fit. Its columns: %1, columns from here on: %2.")
+            .arg(width)
+            .arg(room_beside));
     return false;
   }
 
@@ -72,7 +77,9 @@ bool CellPanel::PasteBlock(const QString& text) {
       const auto value = Cell(0, 0)->Parsed(cell_text);
       const quint32 row = first_row + static_cast<quint32>(r);
       if (!value) {
-        RefusePaste(tr("Row %1: \"%2\" is not a number.").arg(row + 1).arg(cell_text));
+        RefusePaste(QCoreApplication::translate("CellPanel", "Row %1: \"%2\" is not a number.")
+                        .arg(row + 1)
+                        .arg(cell_text));
         return false;
       }
       changes.push_back({row, first_col + static_cast<quint32>(c), *value});
@@ -158,9 +165,14 @@ void CellPanel::Command(const std::function<void()>& command) {
 
 void CellPanel::AddToMenu(QMenu* menu) {
   menu->addSeparator();
-  menu->addAction(tr("Copy All Values"), this, &CellPanel::CopyAll);
-  menu->addAction(tr("Undo Last Change"), this, &CellPanel::Undo)->setEnabled(CanUndo());
-  menu->addAction(tr("Redo Last Change"), this, &CellPanel::Redo)->setEnabled(CanRedo());
+  menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
+                  &CellPanel::CopyAll);
+  menu->addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
+                  &CellPanel::Undo)
+      ->setEnabled(CanUndo());
+  menu->addAction(QCoreApplication::translate("CellPanel", "Redo Last Change"), this,
+                  &CellPanel::Redo)
+      ->setEnabled(CanRedo());
 }
 
 }  // namespace qorvex::inline QorvexControls

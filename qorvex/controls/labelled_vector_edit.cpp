@@ -1,5 +1,6 @@
 #include "qorvex/controls/labelled_vector_edit.h"
 
+#include <QCoreApplication>
 #include <algorithm>
 #include <utility>
 
@@ -151,7 +152,9 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
   const QString name = TQorVectorEdit::CellName(row, col);
   if (label_type_ == ltNumbered || row >= NoOfRows()) return name;
-  return tr("%1, %2", "label of a row, name of the row").arg(Label(row), name);
+  return QCoreApplication::translate("TQorLabelledVectorEdit", "%1, %2",
+                                     "label of a row, name of the row")
+      .arg(Label(row), name);
 }
 
 void TQorLabelledVectorEdit::Notify(CellEvent what, quint32 row, quint32 col) {
@@ -231,7 +234,9 @@ void TQorLabelledVectorEdit::Redisplayed() {
     const bool used = edit < Rows().UsedEdits();
     label->Show(used ? Label(row) : QString());
     label->setEnabled(used);
-    label->setAccessibleName(tr("Label of row %1").arg(qint64{row} + 1));
+    label->setAccessibleName(
+        QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1")
+            .arg(qint64{row} + 1));
   }
 }
 

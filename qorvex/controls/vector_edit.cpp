@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QCoreApplication>
 #include <algorithm>
 #include <limits>
 #include <memory>
@@ -138,7 +139,7 @@ void TQorVectorEdit::NotifyText(quint32 row, quint32, const QString& text) {
 }
 
 QString TQorVectorEdit::CellName(quint32 row, quint32) const {
-  return tr("Row %1").arg(qint64{row} + 1);
+  return QCoreApplication::translate("TQorVectorEdit", "Row %1").arg(qint64{row} + 1);
 }
 
 void TQorVectorEdit::AfterTopChange(quint32 top) {

@@ -1,7 +1,9 @@
 #include <QClipboard>
 #include <QSignalSpy>
+#include <QTranslator>
 
 #include "controls/editor_fixture.h"
+#include "qorvex/base_controls/translation.h"
 
 namespace qorvex {
 
@@ -47,8 +49,8 @@ TEST_F(BlockPaste, RefusesAWholeTextWithAReason) {
   } cases[] = {
       {"5\n6x\n7", "Row 3: \"6x\" is not a number."},
       {"5\n1,000", "Row 3: \"1,000\" is not a number."},
-      {"1\n2\n3\n4", "4 rows do not fit: there are 3 from here on."},
-      {"1\t2", "2 columns do not fit: there are 1 from here on."},
+      {"1\n2\n3\n4", "The block does not fit. Its rows: 4, rows from here on: 3."},
+      {"1\t2", "The block does not fit. Its columns: 2, columns from here on: 1."},
   };
   for (const auto& [text, message] : cases) {
     EXPECT_FALSE(editor->PasteBlock(text));
@@ -78,6 +80,20 @@ TEST_F(BlockPaste, CopiesEveryDigitAndTakesItBack) {
   EXPECT_TRUE(std::isnan(pasted[3]));
   editor->CopyRows(2, 99);
   EXPECT_EQ(QApplication::clipboard()->text(), "12345678,9\n\n");
+}
+
+TEST_F(BlockPaste, SpeaksGerman) {
+  Open(4);
+  editor->setDecimalPlaces(1);
+  EXPECT_FALSE(InstallTranslation(QLocale(QLocale::Zulu)));
+  ASSERT_TRUE(InstallTranslation(QLocale(QLocale::German, QLocale::Austria)));
+  QApplication::processEvents();
+  EXPECT_EQ(Cell(1)->accessibleName(), "Zeile 2");
+  EXPECT_EQ(Texts(), "0.0|1.0|2.0|3.0") << "numbers go by the locale of the widget";
+  QSignalSpy refused(editor, &TQorVectorEdit::OnPasteRefused);
+  EXPECT_FALSE(editor->PasteBlock("1\nx"));
+  EXPECT_EQ(refused.takeFirst()[0].toString(), QString::fromUtf8("Zeile 2: „x“ ist keine Zahl."));
+  delete QApplication::instance()->findChild<QTranslator*>();
 }
 
 }  // namespace qorvex

@@ -1,0 +1,65 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>CellPanel</name>
+    <message>
+        <source>These values cannot be changed.</source>
+        <translation>Diese Werte lassen sich nicht ändern.</translation>
+    </message>
+    <message>
+        <source>Row %1: &quot;%2&quot; is not a number.</source>
+        <translation>Zeile %1: „%2“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>Copy All Values</source>
+        <translation>Alle Werte kopieren</translation>
+    </message>
+    <message>
+        <source>Undo Last Change</source>
+        <translation>Letzte Änderung rückgängig machen</translation>
+    </message>
+    <message>
+        <source>Redo Last Change</source>
+        <translation>Letzte Änderung wiederherstellen</translation>
+    </message>
+    <message>
+        <source>The block does not fit. Its rows: %1, rows from here on: %2.</source>
+        <translation>Der Block passt nicht. Seine Zeilen: %1, Zeilen ab hier: %2.</translation>
+    </message>
+    <message>
+        <source>The block does not fit. Its columns: %1, columns from here on: %2.</source>
+        <translation>Der Block passt nicht. Seine Spalten: %1, Spalten ab hier: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>TQorCustomEdit</name>
+    <message>
+        <source>Not a number</source>
+        <translation>Keine Zahl</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number. Escape brings back the value.</source>
+        <translation>„%1“ ist keine Zahl. Escape holt den Wert zurück.</translation>
+    </message>
+</context>
+<context>
+    <name>TQorLabelledVectorEdit</name>
+    <message>
+        <source>%1, %2</source>
+        <comment>label of a row, name of the row</comment>
+        <translation>%1, %2</translation>
+    </message>
+    <message>
+        <source>Label of row %1</source>
+        <translation>Beschriftung der Zeile %1</translation>
+    </message>
+</context>
+<context>
+    <name>TQorVectorEdit</name>
+    <message>
+        <source>Row %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+</context>
+</TS>
