@@ -29,6 +29,7 @@ const struct {
 } kPictures[] = {
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
+    {"vector_edit", VectorEdits},
 };
 
 QPalette DarkPalette() {

@@ -8,3 +8,4 @@
 
 std::unique_ptr<QWidget> MathLabels();
 std::unique_ptr<QWidget> MathSymbols();
+std::unique_ptr<QWidget> VectorEdits();

@@ -219,7 +219,12 @@ void TQorLabelledVectorEdit::CellSettingsApplied() {
 
 void TQorLabelledVectorEdit::ApplyLabelSettings() {
   const CellSettings settings = EffectiveSettings();
+  // Labels that nobody types look like the header of a table.
+  QPalette palette;
+  if (!labels_editable_) palette.setColor(QPalette::Base, Qt::transparent);
   for (LabelCell* label : labels_) {
+    label->setPalette(palette);
+    label->setFrame(labels_editable_);
     label->setAlignment(label_alignment_);
     label->setReadOnly(!labels_editable_);
     label->setFocusPolicy(labels_editable_ && TabStop() ? Qt::StrongFocus : Qt::ClickFocus);
