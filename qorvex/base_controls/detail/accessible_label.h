@@ -1,0 +1,12 @@
+#pragma once
+
+/// @file
+/// What screen readers learn of labels.
+
+namespace qorvex::inline QorvexBaseControls::detail {
+
+/// Makes every TQorCustomLabel a static text to screen readers, which names the widget that its
+/// accelerator focuses. Further calls do nothing.
+void RegisterAccessibleLabels();
+
+}  // namespace qorvex::inline QorvexBaseControls::detail

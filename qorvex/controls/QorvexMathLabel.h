@@ -1,0 +1,6 @@
+#pragma once
+
+/// @file
+/// Unit QorvexMathLabel: the label for mathematical text.
+
+#include "qorvex/controls/math_label.h"

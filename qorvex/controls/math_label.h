@@ -1,0 +1,55 @@
+#pragma once
+
+/// @file
+/// Unit QorvexMathLabel: TQorMathLabel, a label for mathematical text.
+
+#include <QFont>
+#include <QString>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base_controls/custom_label.h"
+#include "qorvex/base_controls/unit.h"
+
+QORVEX_WIDGET_UNIT(QorvexMathLabel) {
+
+/// A label whose caption holds mathematical symbols.
+///
+/// A caret makes a symbol of the character after it: "^a" is alpha, "^+" is not equal, "^^" is a
+/// caret. docs/controls/math_label.md has the table. Screen readers get the symbols themselves.
+///
+/// Characters are drawn one by one from left to right, each with its own width, without kerning
+/// or ligatures; alignment and line breaks concern whole lines. A line that is too wide begins at
+/// the left edge and ends with the first character that reaches beyond the right one. Scripts
+/// that run from right to left belong into a TQorCustomLabel.
+class QORVEX_EXPORT TQorMathLabel : public TQorCustomLabel {
+  Q_OBJECT
+  /// Published: see the accessor.
+  QORVEX_PUBLISHED(QString, SymbolFamily)
+
+ public:
+  /// An empty label.
+  explicit TQorMathLabel(QWidget* parent = nullptr);
+  ~TQorMathLabel() override;
+
+  /// @{
+  /// The family of the symbols' font, whose size and style are those of the label's font. Empty,
+  /// as at first: the family of the label's font.
+  [[nodiscard]] QString SymbolFamily() const { return symbol_family_; }
+  void setSymbolFamily(const QString& family);
+  void resetSymbolFamily() { setSymbolFamily({}); }
+  /// @}
+
+ protected:
+  /// @{
+  /// See TQorCustomLabel.
+  void DoDrawLabel(QPainter& painter, QRect& rectangle, int flags) const override;
+  [[nodiscard]] QString DisplayText() const override;
+  /// @}
+
+ private:
+  [[nodiscard]] QFont SymbolFont() const;
+
+  QString symbol_family_;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexMathLabel)

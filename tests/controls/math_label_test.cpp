@@ -1,0 +1,409 @@
+#include <QAccessible>
+#include <QFontMetricsF>
+#include <QHBoxLayout>
+#include <QImage>
+#include <QLineEdit>
+#include <QMetaProperty>
+#include <QPainter>
+#include <QTest>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "qorvex/controls/QorvexMathLabel.h"
+#include "qorvex/controls/detail/math_caption.h"
+
+namespace qorvex {
+
+using QorvexControls::detail::CaptionRun;
+using QorvexControls::detail::CaptionText;
+using QorvexControls::detail::ParseCaption;
+
+// By name: or, degree, infinity, the arrows <-> and <=>, times, not equal, ellipsis, plus-minus,
+// bullet, division, empty set, union, intersection, the supersets, not a subset, the subsets,
+// element, not an element, less or equal, almost equal, greater or equal, and, the arrows
+// => <= -> <-; then the letters.
+const std::map<char32_t, char32_t> kSymbols = [] {
+  std::map<char32_t, char32_t> symbols = {
+      {'!', 0x2228}, {'%', 0xB0},   {'&', 0x221E}, {'(', 0x2194}, {')', 0x21D4}, {'*', 0xD7},
+      {'+', 0x2260}, {',', 0x2026}, {'-', 0xB1},   {'.', 0x2022}, {'/', 0xF7},   {'0', 0x2205},
+      {'1', 0x222A}, {'2', 0x2229}, {'3', 0x2283}, {'4', 0x2287}, {'5', 0x2284}, {'6', 0x2282},
+      {'7', 0x2286}, {'8', 0x2208}, {'9', 0x2209}, {'<', 0x2264}, {'=', 0x2248}, {'>', 0x2265},
+      {'@', 0x2227}, {'[', 0x21D2}, {']', 0x21D0}, {'{', 0x2192}, {'}', 0x2190}};
+  constexpr char32_t kSmall[] = {0x3B1, 0x3B2, 0x3C7, 0x3B4, 0x3B5, 0x3C6, 0x3B3, 0x3B7, 0x3B9,
+                                 0x3D5, 0x3BA, 0x3BB, 0x3BC, 0x3BD, 0x3BF, 0x3C0, 0x3B8, 0x3C1,
+                                 0x3C3, 0x3C4, 0x3C5, 0x3D6, 0x3C9, 0x3BE, 0x3C8, 0x3B6};
+  for (char32_t i = 0; i < 26; ++i) {
+    symbols['a' + i] = kSmall[i];
+    // Capital letters precede the small ones by 32, but for the variants of theta and sigma.
+    symbols['A' + i] = i == 'J' - 'A' ? 0x3D1 : i == 'V' - 'A' ? 0x3C2 : kSmall[i] - 32;
+  }
+  return symbols;
+}();
+
+TEST(MathCaption, EveryEscapeGivesItsSymbolOrASpace) {
+  for (char32_t escaped = 1; escaped < 0x180; ++escaped) {
+    if (escaped == '^') continue;
+    const auto symbol = kSymbols.find(escaped);
+    const std::u32string expected(1, symbol == kSymbols.end() ? U' ' : symbol->second);
+    EXPECT_EQ(ParseCaption(std::u32string{U'^', escaped}),
+              (std::vector<CaptionRun>{{expected, true}}))
+        << static_cast<unsigned>(escaped);
+  }
+}
+
+TEST(MathCaption, SplitsIntoRunsOfOneFont) {
+  const struct {
+    const char32_t* caption;
+    std::vector<CaptionRun> runs;
+  } cases[] = {
+      {U"", {}},
+      {U"^", {}},
+      {U"plain", {{U"plain", false}}},
+      {U"a^a", {{U"a", false}, {U"α", true}}},
+      {U"x^+y", {{U"x", false}, {U"≠", true}, {U"y", false}}},
+      {U"^a^b c^", {{U"αβ", true}, {U" c", false}}},
+      {U"2^^^^3", {{U"2^^3", false}}},
+      {U"^^^a", {{U"^", false}, {U"α", true}}},
+      {U"^~^ ^😀^é", {{U"    ", true}}},
+      {U"𝑥^8^{", {{U"𝑥", false}, {U"∈→", true}}},
+  };
+  for (const auto& [caption, runs] : cases) {
+    EXPECT_EQ(ParseCaption(caption), runs);
+    std::u32string text;
+    for (const CaptionRun& run : runs) text += run.text;
+    EXPECT_EQ(CaptionText(caption), text);
+  }
+}
+
+// A label whose drawing step can be called.
+template <class Label>
+struct Drawn : Label {
+  Drawn() {
+    // Without smooth edges every pixel has one of the colours.
+    QFont font("DejaVu Sans", 12);
+    font.setStyleStrategy(QFont::NoAntialias);
+    this->setFont(font);
+    QPalette colors(Qt::black);
+    colors.setColor(QPalette::WindowText, Qt::red);
+    colors.setColor(QPalette::Disabled, QPalette::WindowText, Qt::gray);
+    colors.setColor(QPalette::Light, Qt::yellow);
+    colors.setColor(QPalette::Dark, Qt::blue);
+    this->setPalette(colors);
+  }
+
+  QSize Measured(const QString& caption, int width = 1000, int flags = 0) {
+    this->setCaption(caption);
+    QPainter none;
+    QRect rectangle(7, 5, width, 1);
+    this->DoDrawLabel(none, rectangle, flags | Label::kMeasureOnly);
+    EXPECT_EQ(rectangle.topLeft(), QPoint(7, 5));
+    return rectangle.size();
+  }
+
+  QImage Drawing(const QString& caption, int width = 1000, int flags = 0) {
+    this->setCaption(caption);
+    QImage image(300, 100, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QRect rectangle(10, 10, width, 50);
+    this->DoDrawLabel(painter, rectangle, flags);
+    return image;
+  }
+
+  qreal Advance(const QString& text) const {
+    return QFontMetricsF(this->font()).horizontalAdvance(text);
+  }
+};
+using BaseLabel = Drawn<TQorCustomLabel>;
+using MathLabel = Drawn<TQorMathLabel>;
+
+template <class Label>
+struct Labels : testing::Test {};
+using LabelTypes = testing::Types<BaseLabel, MathLabel>;
+TYPED_TEST_SUITE(Labels, LabelTypes);
+
+// The pixels that are not white.
+QRect Ink(const QImage& image) {
+  QRegion ink;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      if (image.pixelColor(x, y) != Qt::white) ink += QRect(x, y, 1, 1);
+    }
+  }
+  return ink.boundingRect();
+}
+
+TYPED_TEST(Labels, EmbossedTextHasACopyOneToTheLowerRight) {
+  TypeParam label;
+  const QImage plain = label.Drawing("W M");
+  const struct {
+    TQorCustomLabel::TQorEmbossedStyle style;
+    QColor copy;
+  } cases[] = {{TQorCustomLabel::esRaised, Qt::blue}, {TQorCustomLabel::esLowered, Qt::yellow}};
+  EXPECT_EQ(TQorCustomLabel::esRaised, 1);
+  EXPECT_EQ(TQorCustomLabel::esLowered, 2);
+  for (const auto& [style, copy] : cases) {
+    label.setEmbossedStyle(style);
+    for (const bool enabled : {true, false}) {
+      label.setEnabled(enabled);
+      const QColor face = enabled ? Qt::red : Qt::gray;
+      const QImage embossed = label.Drawing("W M");
+      int copied = 0;
+      for (int y = 1; y < plain.height(); ++y) {
+        for (int x = 1; x < plain.width(); ++x) {
+          const bool in_face = plain.pixelColor(x, y) == Qt::red;
+          const bool in_copy = plain.pixelColor(x - 1, y - 1) == Qt::red;
+          ASSERT_EQ(embossed.pixelColor(x, y), in_face ? face : in_copy ? copy : QColor(Qt::white));
+          if (in_copy && !in_face) ++copied;
+        }
+      }
+      EXPECT_GT(copied, 10);
+    }
+  }
+}
+
+TYPED_TEST(Labels, AcceleratorsTakeNoWidthAndUnderline) {
+  TypeParam label;
+  label.setShowAccelChar(false);
+  const QSize plain = label.Measured("il");
+  const QImage without = label.Drawing("il");
+  EXPECT_GT(label.Measured("i&l").width(), plain.width());
+  EXPECT_EQ(label.AccessibleText(), "i&l");
+  label.setShowAccelChar(true);
+  EXPECT_EQ(label.Measured("i&l"), plain);
+  EXPECT_EQ(label.AccessibleText(), "il");
+  const QRect letters = Ink(without);
+  const QRect underlined = Ink(label.Drawing("i&l"));
+  EXPECT_EQ(underlined.top(), letters.top());
+  EXPECT_GT(underlined.bottom(), letters.bottom());
+  QImage line = label.Drawing("i&l").copy(0, letters.bottom() + 1, 300, 20);
+  EXPECT_GE(Ink(line).left(), 10 + std::floor(label.Advance("i")) - 1) << "under the l alone";
+
+  const QImage doubled = label.Drawing("i&&l");
+  label.setShowAccelChar(false);
+  EXPECT_EQ(doubled, label.Drawing("i&l"));
+  label.setShowAccelChar(true);
+  label.setCaption("a && &b &");
+  EXPECT_EQ(label.AccessibleText(), "a & b ");
+  for (const char* const nothing : {"", "&"})
+    EXPECT_EQ(label.Measured(nothing), label.Measured(" "));
+  EXPECT_GT(label.Measured("").height(), 10);
+}
+
+TYPED_TEST(Labels, WrappedLinesAreThoseThatEndThere) {
+  TypeParam label;
+  const int width = static_cast<int>(std::ceil(label.Advance("aaa bb")));
+  for (const int alignment : {0x1, 0x2, 0x4}) {  // Qt::AlignLeft, AlignRight, AlignHCenter
+    const int flags = alignment | Qt::TextWordWrap;
+    const QImage wrapped = label.Drawing("aaa bb cccc d\nee  ", width, flags);
+    EXPECT_EQ(wrapped, label.Drawing("aaa bb\ncccc d\nee  ", width, alignment));
+    EXPECT_NE(wrapped, label.Drawing("aaa bb cccc d\nee  ", width, alignment));
+  }
+  label.setWordWrap(true);
+  label.setCaption("aaa bb cccc d");
+  const int line = label.heightForWidth(1000);
+  EXPECT_GE(label.heightForWidth(width), line + static_cast<int>(label.Advance("M")));
+  EXPECT_EQ(label.heightForWidth(1), label.heightForWidth(label.minimumSizeHint().width()));
+  EXPECT_EQ(label.sizeHint().height(), line);
+}
+
+TYPED_TEST(Labels, SizeFollowsTheText) {
+  QWidget window;
+  auto* const label = new TypeParam;
+  label->setParent(&window);
+  label->setGeometry(100, 50, 60, 10);
+  label->setAlignment(TQorCustomLabel::laTrailing);
+  label->setCaption("a long caption");
+  EXPECT_EQ(label->geometry(), QRect(100, 50, 60, 10)) << "a form is still being set up";
+  label->ensurePolished();
+  const QSize plain = label->Measured("a long caption");
+  EXPECT_EQ(label->geometry(), QRect(QPoint(160 - plain.width(), 50), plain));
+  label->setEmbossedStyle(TQorCustomLabel::esLowered);
+  label->setContentsMargins(1, 2, 3, 4);
+  EXPECT_EQ(label->size(), plain + QSize(1 + 4, 1 + 6));
+  EXPECT_EQ(label->geometry().right(), 159);
+  label->setAutoSize(false);
+  label->setCaption("short");
+  EXPECT_EQ(label->size(), plain + QSize(1 + 4, 1 + 6));
+  label->setAutoSize(true);
+  EXPECT_EQ(label->size(), label->sizeHint());
+
+  label->setWordWrap(true);
+  label->setCaption("several words in lines");
+  window.show();
+  label->resize(70, 5);
+  EXPECT_EQ(label->size(), QSize(70, label->heightForWidth(70)));
+
+  QHBoxLayout layout(&window);
+  auto* const inner = new QHBoxLayout;
+  layout.addLayout(inner);
+  inner->addWidget(label);
+  label->resize(200, 100);
+  EXPECT_EQ(label->size(), QSize(200, 100)) << "the layout decides";
+}
+
+TYPED_TEST(Labels, TextStandsWhereItIsPutOnTheGroundItIsGiven) {
+  TypeParam label;
+  label.setAutoSize(false);
+  label.setCaption("M");
+  label.resize(100, 90);
+  label.setTransparent(false);
+  QPalette colors = label.palette();
+  colors.setColor(QPalette::Window, Qt::white);
+  label.setPalette(colors);
+  const auto centre = [&label] { return Ink(label.grab().toImage()).center(); };
+  const auto third = [](int position, int size) { return 3 * position / size; };
+  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    label.setLayoutDirection(direction);
+    const int leading = direction == Qt::LeftToRight ? 0 : 2;
+    label.setAlignment(TQorCustomLabel::laLeading);
+    label.setLayout(TQorCustomLabel::llTop);
+    EXPECT_EQ(third(centre().x(), 100), leading);
+    EXPECT_EQ(third(centre().y(), 90), 0);
+    label.setAlignment(TQorCustomLabel::laCentered);
+    label.setLayout(TQorCustomLabel::llCentered);
+    EXPECT_EQ(third(centre().x(), 100), 1);
+    EXPECT_EQ(third(centre().y(), 90), 1);
+    label.setAlignment(TQorCustomLabel::laTrailing);
+    label.setLayout(TQorCustomLabel::llBottom);
+    EXPECT_EQ(third(centre().x(), 100), 2 - leading);
+    EXPECT_EQ(third(centre().y(), 90), 2);
+  }
+}
+
+TEST(MathLabel, DrawsSymbolsInTheirFontAndWithTheirWidth) {
+  MathLabel label;
+  EXPECT_EQ(label.Measured("x^+y").width(),
+            std::ceil(label.Advance("x") + label.Advance("≠") + label.Advance("y")));
+  EXPECT_EQ(label.Drawing("x^+y ^^^~2"), label.Drawing("x≠y ^^ 2"));
+  EXPECT_EQ(label.Drawing("x^"), label.Drawing("x"));
+  EXPECT_EQ(label.Drawing("&^a"), label.Drawing("&α"));
+  EXPECT_EQ(label.Drawing("e\u0301"), label.Drawing("é")) << "one character with its mark";
+
+  const QImage same_family = label.Drawing("a^a");
+  label.setSymbolFamily("DejaVu Serif");
+  EXPECT_NE(label.Drawing("a^a"), same_family);
+  EXPECT_EQ(label.Drawing("aα"), same_family);
+  QFont serif = label.font();
+  serif.setFamily("DejaVu Serif");
+  serif.setBold(true);
+  serif.setPointSize(20);
+  label.setFont(serif);
+  EXPECT_EQ(label.Drawing("a^a"), label.Drawing("aα")) << "size and style are the label's";
+}
+
+TEST(MathLabel, ALineThatIsTooWideEndsWithTheCharacterThatPassesTheEdge) {
+  MathLabel label;
+  const qreal three = label.Advance("W") + label.Advance("i") + label.Advance("^");
+  const struct {
+    int width;
+    const char* drawn;
+  } cases[] = {{0, "W"},  // The left edge has to pass the right one.
+               {static_cast<int>(std::ceil(three)) - 1, "Wi^"},
+               {static_cast<int>(std::floor(three)) + 1, "Wi^W"}};
+  for (const auto& [width, drawn] : cases) {
+    for (const int alignment : {0x1, 0x2, 0x4}) {
+      const QString characters = QString(drawn).replace("^", "^^");
+      EXPECT_EQ(label.Drawing("Wi^^Wi", width, alignment), label.Drawing(characters)) << width;
+    }
+  }
+}
+
+TEST(MathLabel, AcceleratorsFocusTheirControl) {
+  QWidget window;
+  auto* const label = new TQorMathLabel(&window);
+  label->setCaption("^b^+&Beta ^&");
+  label->setFocusControl("later");
+  EXPECT_EQ(label->FocusControl(), nullptr);
+  auto* const first = new QLineEdit(&window);
+  auto* const later = new QLineEdit(&window);
+  later->setObjectName("later");
+  EXPECT_EQ(label->FocusControl(), later);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  const auto focus_after = [&](Qt::Key key) {
+    first->setFocus();
+    QTest::keyClick(&window, key, Qt::AltModifier);
+    return QApplication::focusWidget();
+  };
+  EXPECT_EQ(focus_after(Qt::Key_B), later);
+  label->setCaption("&Gamma");
+  EXPECT_EQ(focus_after(Qt::Key_B), first);
+  EXPECT_EQ(focus_after(Qt::Key_G), later);
+  label->setShowAccelChar(false);
+  EXPECT_EQ(focus_after(Qt::Key_G), first);
+  label->setShowAccelChar(true);
+  label->setFocusControl(QString());
+  EXPECT_EQ(focus_after(Qt::Key_G), first);
+  auto third = std::make_unique<QLineEdit>(&window);
+  third->setObjectName("third");
+  third->show();
+  label->setFocusControl(third.get());
+  EXPECT_EQ(label->FocusControlName(), "third");
+  EXPECT_EQ(focus_after(Qt::Key_G), third.get());
+  third.reset();
+  EXPECT_EQ(label->FocusControl(), nullptr);
+  EXPECT_EQ(focus_after(Qt::Key_G), first);
+}
+
+TEST(MathLabel, ScreenReadersGetTheSymbols) {
+  QWidget window;
+  auto* const label = new TQorMathLabel(&window);
+  auto* const edit = new QLineEdit(&window);
+  label->setCaption("&x^<^p/2 ^& ^^");
+  label->setFocusControl(edit);
+  QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(label);
+  ASSERT_NE(accessible, nullptr);
+  EXPECT_EQ(accessible->role(), QAccessible::StaticText);
+  EXPECT_EQ(accessible->text(QAccessible::Name), QString("x≤π/2 ∞ ^"));
+  const auto relations = accessible->relations(QAccessible::Labelled);
+  ASSERT_EQ(relations.size(), 1);
+  EXPECT_EQ(relations[0].first->object(), edit);
+  label->setAccessibleName("Upper bound");
+  EXPECT_EQ(accessible->text(QAccessible::Name), QString("Upper bound"));
+}
+
+TEST(MathLabel, ServesADesigner) {
+  const struct {
+    const char* name;
+    QVariant initial;
+    QVariant changed;
+  } properties[] = {
+      {"Alignment", QVariant::fromValue(TQorCustomLabel::laLeading),
+       QVariant::fromValue(TQorCustomLabel::laCentered)},
+      {"AutoSize", true, false},
+      {"Caption", "", "^a"},
+      {"EmbossedStyle", QVariant::fromValue(TQorCustomLabel::esNone),
+       QVariant::fromValue(TQorCustomLabel::esLowered)},
+      {"FocusControl", "", "edit"},
+      {"Layout", QVariant::fromValue(TQorCustomLabel::llCentered),
+       QVariant::fromValue(TQorCustomLabel::llBottom)},
+      {"ShowAccelChar", true, false},
+      {"Transparent", true, false},
+      {"WordWrap", false, true},
+      {"SymbolFamily", "", "DejaVu Serif"},
+  };
+  TQorMathLabel label;
+  const QMetaObject& meta = TQorMathLabel::staticMetaObject;
+  EXPECT_STREQ(meta.className(), "qorvex::TQorMathLabel");
+  int index = TQorCustomLabel::staticMetaObject.propertyOffset();
+  for (const auto& [name, initial, changed] : properties) {
+    SCOPED_TRACE(name);
+    const QMetaProperty property = meta.property(index++);
+    EXPECT_STREQ(property.name(), name);
+    EXPECT_TRUE(property.hasStdCppSet());
+    EXPECT_TRUE(property.isStored());
+    EXPECT_EQ(property.read(&label), initial);
+    EXPECT_TRUE(property.write(&label, changed));
+    EXPECT_EQ(property.read(&label), changed);
+    EXPECT_TRUE(property.reset(&label));
+    EXPECT_EQ(property.read(&label), initial);
+  }
+  EXPECT_EQ(index, meta.propertyCount());
+}
+
+}  // namespace qorvex
