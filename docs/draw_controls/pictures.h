@@ -1,0 +1,10 @@
+#pragma once
+
+/// @file
+/// The widgets that are drawn for the documentation: main.cpp has a line for each.
+
+#include <QWidget>
+#include <memory>
+
+std::unique_ptr<QWidget> MathLabels();
+std::unique_ptr<QWidget> MathSymbols();
