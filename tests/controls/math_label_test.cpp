@@ -255,23 +255,24 @@ TYPED_TEST(Labels, TextStandsWhereItIsPutOnTheGroundItIsGiven) {
   QPalette colors = label.palette();
   colors.setColor(QPalette::Window, Qt::white);
   label.setPalette(colors);
-  const auto centre = [&label] { return Ink(label.grab().toImage()).center(); };
-  const auto third = [](int position, int size) { return 3 * position / size; };
+  // In which of three columns and rows the text stands.
+  const auto thirds = [&label] {
+    const QImage image = label.grab().toImage();
+    const QPoint centre = Ink(image).center();
+    return QPoint(3 * centre.x() / image.width(), 3 * centre.y() / image.height());
+  };
   for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
     label.setLayoutDirection(direction);
     const int leading = direction == Qt::LeftToRight ? 0 : 2;
     label.setAlignment(TQorCustomLabel::laLeading);
     label.setLayout(TQorCustomLabel::llTop);
-    EXPECT_EQ(third(centre().x(), 100), leading);
-    EXPECT_EQ(third(centre().y(), 90), 0);
+    EXPECT_EQ(thirds(), QPoint(leading, 0));
     label.setAlignment(TQorCustomLabel::laCentered);
     label.setLayout(TQorCustomLabel::llCentered);
-    EXPECT_EQ(third(centre().x(), 100), 1);
-    EXPECT_EQ(third(centre().y(), 90), 1);
+    EXPECT_EQ(thirds(), QPoint(1, 1));
     label.setAlignment(TQorCustomLabel::laTrailing);
     label.setLayout(TQorCustomLabel::llBottom);
-    EXPECT_EQ(third(centre().x(), 100), 2 - leading);
-    EXPECT_EQ(third(centre().y(), 90), 2);
+    EXPECT_EQ(thirds(), QPoint(2 - leading, 2));
   }
 }
 
