@@ -42,6 +42,7 @@ class QORVEX_EXPORT CellProperties {
   void setSettings(const CellSettings& settings);
   /// @}
 
+/// @cond internal
 #define QORVEX_CELL_PROPERTY(Type, Name, member) \
   [[nodiscard]] Type Name() const {              \
     return settings_.member;                     \
@@ -62,6 +63,7 @@ class QORVEX_EXPORT CellProperties {
   void resetColorSet##Name() {                  \
     color_set_.reset##Name();                   \
   }
+  /// @endcond
   /// @{
   /// One setting. DecimalPlaces is clamped to 0 to 255.
   QORVEX_CELL_PROPERTY(bool, TrimTrailingZeroes, number.trim_trailing_zeroes)

@@ -91,6 +91,7 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   void MenuOpening(QMenu* menu);
 
  protected:
+  /// A cell that shows nothing until a derived class sets its value.
   explicit TQorCustomEdit(QWidget* parent = nullptr);
 
   /// The text of a value that is not null, as the cell shows it.
@@ -100,9 +101,14 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// What decides the text has changed: shows the value anew.
   void ShowAnew();
 
+  /// @{
+  /// The cell shows its new settings.
   void SettingsChanged() override;
   void DoColorSetChange() override;
+  /// @}
 
+  /// @{
+  /// Qt's events.
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
@@ -111,6 +117,7 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  /// @}
 
  private:
   [[nodiscard]] QString ShownText() const;

@@ -16,6 +16,7 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   Q_OBJECT
 
  public:
+  /// An empty panel.
   explicit TQorCustomPanel(QWidget* parent = nullptr);
   ~TQorCustomPanel() override;
 
@@ -37,6 +38,7 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   /// Whether that has been.
   [[nodiscard]] bool IsLoaded() const noexcept { return loaded_; }
 
+  /// Qt's events.
   bool event(QEvent* event) override;
 
  private:

@@ -39,6 +39,7 @@ class QORVEX_EXPORT TQorEditColorSet : public QObject {
   void setColors(const EditColors& colors);
   /// @}
 
+/// @cond internal
 #define QORVEX_COLOR(Name, member)      \
   [[nodiscard]] QColor Name() const {   \
     return colors_.member;              \
@@ -51,6 +52,7 @@ class QORVEX_EXPORT TQorEditColorSet : public QObject {
   void reset##Name() {                  \
     set##Name({});                      \
   }
+  /// @endcond
   /// @{
   /// One colour.
   QORVEX_COLOR(Text, text)

@@ -43,6 +43,7 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   void Left();
 
  protected:
+  /// An empty cell.
   explicit TextCell(QWidget* parent = nullptr);
 
   /// Shows the text; one that is being typed can be kept over it.
@@ -50,10 +51,13 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// Between Entered and Left.
   [[nodiscard]] bool Inside() const noexcept { return inside_; }
 
+  /// @{
+  /// Qt's events.
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  /// @}
 
  private:
   QString shown_;

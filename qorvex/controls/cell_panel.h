@@ -147,8 +147,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Redo();
   /// @}
 
+  /// @{
+  /// The room that the cells, what is in front of them and the bar take.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
+  /// @}
 
  Q_SIGNALS:
   /// DisplayTopRow is about to become the given row.
@@ -245,6 +248,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Watch(QWidget* widget);
   /// Places the cells and the bar.
   virtual void Arrange();
+  /// Shows the elements in the cells, unless an update is under way.
   void Redisplay() override;
   /// The names of the cells are others now, though the rows are the same.
   void RenameCells() noexcept { cells_named_ = false; }
@@ -277,15 +281,21 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void EditMouseWheel(QWheelEvent* event);
   /// @}
 
+  /// @{
+  /// The form is complete, a setting or a colour has changed.
   void Loaded() override;
   void SettingsChanged() override;
   void DoColorSetChange() override;
+  /// @}
 
+  /// @{
+  /// Qt's events.
   bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  /// @}
 
  private:
   struct Axis {

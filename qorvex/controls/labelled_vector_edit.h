@@ -109,6 +109,8 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void OnLabelExit(quint32 row);
 
  protected:
+  /// @{
+  /// The labels in the panel.
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   void GridBuilt() override;
   void Redisplayed() override;
@@ -118,6 +120,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void Arrange() override;
   void Notify(CellEvent what, quint32 row, quint32 col) override;
   void CellSettingsApplied() override;
+  /// @}
 
  private:
   class LabelCell;

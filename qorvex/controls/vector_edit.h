@@ -151,6 +151,8 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
   void OnCellEnter(quint32 row);
 
  protected:
+  /// @{
+  /// The vector as the table of the panel.
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
   void Store(quint32 row, quint32 col, Extended value) override;
   void Notify(CellEvent what, quint32 row, quint32 col) override;
@@ -158,6 +160,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   void AfterTopChange(quint32 top) override;
   void VirtualModeChanged() override;
+  /// @}
 
   /// Reads the text of a cell by OnConvert, or as a number.
   [[nodiscard]] std::optional<Extended> DoConvert(const QString& text) const;
