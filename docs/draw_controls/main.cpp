@@ -27,6 +27,7 @@ const struct {
   const char* name;
   std::unique_ptr<QWidget> (*make)();
 } kPictures[] = {
+    {"cells", Cells},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"vector_edit", VectorEdits},

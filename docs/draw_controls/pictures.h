@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <memory>
 
+std::unique_ptr<QWidget> Cells();
 std::unique_ptr<QWidget> MathLabels();
 std::unique_ptr<QWidget> MathSymbols();
 std::unique_ptr<QWidget> VectorEdits();

@@ -9,13 +9,22 @@ namespace qorvex::inline QorvexVector {
 
 namespace {
 
+// What is compared with the tolerance: the element itself, or what an amount is in units.
+template <class T>
+T Judged(T x) {
+  return x;
+}
+Extended Judged(Currency x) {
+  return Currency2Float(x);
+}
+
 // How the sign of one element is judged.
 template <SignTestElement T>
 struct Sign {
-  static bool IsZero(T x) { return FloatIsZero(x); }
-  static bool IsExcludedZero(T x) { return FloatIsZero(x); }
-  static bool IsPositive(T x) { return FloatIsPositive(x); }
-  static bool IsNegative(T x) { return FloatIsNegative(x); }
+  static bool IsZero(T x) { return FloatIsZero(Judged(x)); }
+  static bool IsExcludedZero(T x) { return FloatIsZero(Judged(x)); }
+  static bool IsPositive(T x) { return FloatIsPositive(Judged(x)); }
+  static bool IsNegative(T x) { return FloatIsNegative(Judged(x)); }
 };
 
 template <>
@@ -37,14 +46,6 @@ template <>
 struct Sign<QorCurrency> : ExactSign<QorCurrency> {};
 template <>
 struct Sign<QorLongCurrency> : ExactSign<QorLongCurrency> {};
-
-template <>
-struct Sign<Currency> {
-  static bool IsZero(Currency x) { return FloatIsZero(Currency2Float(x)); }
-  static bool IsExcludedZero(Currency x) { return FloatIsZero(Currency2Float(x)); }
-  static bool IsPositive(Currency x) { return FloatIsPositive(Currency2Float(x)); }
-  static bool IsNegative(Currency x) { return FloatIsNegative(Currency2Float(x)); }
-};
 
 }  // namespace
 
