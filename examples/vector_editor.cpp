@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
   };
   QObject::connect(&editor, &qorvex::TQorVectorEdit::OnChange, report);
   QObject::connect(
-      &editor, &qorvex::TQorVectorEdit::OnPasteRefused,
+      &editor, &qorvex::TQorVectorEdit::OnBlockRefused,
       [](const QString& message) { std::cout << message.toStdString() << '\n'; });
   report();
 

@@ -97,9 +97,14 @@ CellSettings CellPanel::EffectiveSettings() const {
 void CellPanel::ApplySettings() {
   const CellSettings settings = EffectiveSettings();
   for (const auto& row : cells_) {
-    for (TQorCustomEdit* cell : row) cell->setSettings(settings);
+    for (TQorCustomEdit* cell : row) ApplyTo(*cell, settings);
   }
   CellSettingsApplied();
+}
+
+void CellPanel::ApplyTo(TQorCustomEdit& cell, const CellSettings& settings) const {
+  cell.setSettings(settings);
+  cell.setFocusPolicy(tab_stop_ ? Qt::StrongFocus : Qt::ClickFocus);
 }
 
 void CellPanel::SettingsChanged() {
@@ -193,11 +198,7 @@ void CellPanel::setNull(bool null) {
 
 void CellPanel::setTabStop(bool stop) {
   tab_stop_ = stop;
-  for (const auto& row : cells_) {
-    for (TQorCustomEdit* cell : row) {
-      cell->setFocusPolicy(stop ? Qt::StrongFocus : Qt::ClickFocus);
-    }
-  }
+  ApplySettings();
 }
 
 void CellPanel::setVirtualMode(bool on) {
@@ -224,6 +225,7 @@ TextCell* CellPanel::NavigationTarget(std::size_t row_edit, std::size_t col_edit
 
 void CellPanel::SetRowEdits(int edits) {
   SetEdits(rows_, edits);
+  ApplyWantedTop();
 }
 
 void CellPanel::SetColEdits(int edits) {
@@ -232,6 +234,10 @@ void CellPanel::SetColEdits(int edits) {
 
 void CellPanel::SetRowCount(quint32 count) {
   SetCount(rows_, count);
+  ApplyWantedTop();
+}
+
+void CellPanel::ApplyWantedTop() {
   if (wanted_top_ > Rows().Top()) rows_.window->SetTop(wanted_top_);
 }
 
@@ -297,12 +303,10 @@ void CellPanel::FitGrid() {
 TQorCustomEdit* CellPanel::MakeCell(std::size_t row_edit, std::size_t col_edit) {
   TQorCustomEdit* const cell = make_cell_(this);
   cell->Tag = static_cast<int>(row_edit * (kMostEdits + 1) + col_edit);
-  cell->setSettings(EffectiveSettings());
-  cell->setFocusPolicy(tab_stop_ ? Qt::StrongFocus : Qt::ClickFocus);
+  ApplyTo(*cell, EffectiveSettings());
   connect(cell, &TQorCustomEdit::Entered, this, [this, cell] { EditEnter(cell); });
   connect(cell, &TQorCustomEdit::Left, this, [this, cell] { EditExit(cell); });
-  connect(cell, &TQorCustomEdit::Changed, this,
-          [this, cell](Extended before) { DoChange(cell, before); });
+  connect(cell, &TQorCustomEdit::Changed, this, [this, cell] { DoChange(cell); });
   connect(cell, &TQorCustomEdit::textEdited, this,
           [this, cell](const QString& text) { NotifyText(RowOf(cell), ColOf(cell), text); });
   connect(cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);

@@ -36,10 +36,11 @@ enum class CurrentRule;
 /// DisplayTopRow; the table itself is behind the pure functions below.
 ///
 /// Keys: Enter and Ctrl+Down go to the cell below, Ctrl+Up to the one above, and the table scrolls
-/// where the window ends. Ctrl+Z takes back the last change by typing, pasting or a command, and
-/// Ctrl+Y or Ctrl+Shift+Z makes it again; while a text is being typed, they work on the text.
-/// Ctrl+Shift+C copies the whole table. A text of several cells that is pasted, as spreadsheets put
-/// it on the clipboard, fills the table from the cell with the focus on, all of it or nothing.
+/// where the window ends; the page keys scroll by a window. Ctrl+Z takes back the last change by
+/// typing, pasting or a command, and Ctrl+Y or Ctrl+Shift+Z makes it again; while a text is being
+/// typed, they work on the text. Ctrl+Shift+C copies the whole table. A text of several cells that
+/// is pasted, as spreadsheets put it on the clipboard, fills the table from the cell with the focus
+/// on, all of it or nothing.
 ///
 /// Before anything moves or changes under a cell, the text that is typed there is committed, or
 /// given up where it is no number.
@@ -129,12 +130,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// Fills the table from the focused cell on with the cells of a text: rows end with line ends,
   /// cells with tabs. A text that does not fit, a cell that is no number, or a control that is
-  /// read-only refuses the whole text: nothing changes, OnPasteRefused tells why, and false comes
+  /// read-only refuses the whole text: nothing changes, OnBlockRefused tells why, and false comes
   /// back. Each element that changes raises the event of a change.
   bool PasteBlock(const QString& text);
 
   /// Copies the whole table to the clipboard with all digits, in the numbers of the locale, as
-  /// PasteBlock and spreadsheets take it.
+  /// PasteBlock and spreadsheets take it. More than ten million elements are refused.
   void CopyAll();
 
   /// @{
@@ -160,8 +161,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnCurrRowChange(quint32 before, quint32 now);
   /// A colour of the set has changed.
   void OnColorSetChange();
-  /// A text could not be pasted; the message says which row and why.
-  void OnPasteRefused(const QString& message);
+  /// A block could not be pasted or copied; the message says why, and which row is to blame.
+  void OnBlockRefused(const QString& message);
 
   /// @{
   /// What happens in any of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event
@@ -255,8 +256,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// The settings that count: the control's own or the shared ones.
   [[nodiscard]] CellSettings EffectiveSettings() const;
 
-  /// The text of a part of the table with all digits, as PasteBlock takes it.
-  [[nodiscard]] QString BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const;
+  /// Copies a part of the table to the clipboard, as CopyAll does.
+  void CopyBlock(quint32 row, quint32 rows, quint32 col, quint32 cols);
   /// Remembers how to take back a change: exchange is called alternately to undo and to redo it.
   /// Copies of it must share what they exchange.
   void Remember(std::function<void()> exchange);
@@ -274,7 +275,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// Handlers of a cell.
   void EditEnter(TQorCustomEdit* cell);
   void EditExit(TQorCustomEdit* cell);
-  void DoChange(TQorCustomEdit* cell, Extended before);
+  void DoChange(const TQorCustomEdit* cell);
   /// True when the key is used up.
   bool EditKeyDown(QKeyEvent* event);
   bool EditKeyPress(QKeyEvent* event);
@@ -295,6 +296,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   /// @}
 
  private:
@@ -328,6 +330,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] int RowHeight() const;
   [[nodiscard]] int BarExtent() const;
   void ApplySettings();
+  void ApplyTo(TQorCustomEdit& cell, const CellSettings& settings) const;
+  void ApplyWantedTop();
   void FindUICtrl();
 
   [[nodiscard]] quint32 RowOf(const TQorCustomEdit* cell) const;
@@ -337,7 +341,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool UseKey(const QKeyEvent& event);
   void Step(Axis& along, Axis& across, bool forward);
 
-  void RefusePaste(const QString& message);
+  [[nodiscard]] QString BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const;
+  void RefuseBlock(const QString& message);
   // Puts the other values in the elements, and those that were there in the changes.
   void ExchangeElements(ElementChanges& changes);
   void RememberElements(ElementChanges changes);

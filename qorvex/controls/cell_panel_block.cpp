@@ -18,27 +18,40 @@
 namespace qorvex::inline QorvexControls {
 
 QString CellPanel::BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const {
-  if (cells_.empty()) return {};
-  detail::TextBlock block(rows, std::vector<std::string>(cols));
+  if (cells_.empty() || cells_.front().empty()) return {};
+  const TQorCustomEdit& cell = *Cell(0, 0);
+  std::string text;
+  detail::TextBlock line(1, std::vector<std::string>(cols));
   for (quint32 r = 0; r < rows; ++r) {
     for (quint32 c = 0; c < cols; ++c) {
-      block[r][c] = Cell(0, 0)->ExactText(Value(row + r, col + c)).toStdString();
+      line[0][c] = cell.ExactText(Value(row + r, col + c)).toStdString();
     }
+    text += detail::FormatBlock(line);
   }
-  return QString::fromStdString(detail::FormatBlock(block));
+  return QString::fromStdString(text);
+}
+
+void CellPanel::CopyBlock(quint32 row, quint32 rows, quint32 col, quint32 cols) {
+  constexpr quint64 most = 10'000'000;
+  CommitPending();
+  if (quint64{rows} * cols > most) {
+    RefuseBlock(QCoreApplication::translate("CellPanel", "Too many values to copy: %1.")
+                    .arg(quint64{rows} * cols));
+    return;
+  }
+  QApplication::clipboard()->setText(BlockText(row, rows, col, cols));
 }
 
 void CellPanel::CopyAll() {
-  CommitPending();
-  QApplication::clipboard()->setText(BlockText(0, Rows().Count(), 0, Cols().Count()));
+  CopyBlock(0, Rows().Count(), 0, Cols().Count());
 }
 
-void CellPanel::RefusePaste(const QString& message) {
+void CellPanel::RefuseBlock(const QString& message) {
   if (entered_ != nullptr && isVisible()) {
     QToolTip::showText(entered_->mapToGlobal(entered_->rect().bottomLeft()),
                        message.toHtmlEscaped(), entered_);
   }
-  Q_EMIT OnPasteRefused(message);
+  Q_EMIT OnBlockRefused(message);
 }
 
 bool CellPanel::PasteBlock(const QString& text) {
@@ -51,18 +64,18 @@ bool CellPanel::PasteBlock(const QString& text) {
   const std::size_t room_below = Rows().Count() - std::min(first_row, Rows().Count());
   const std::size_t room_beside = Cols().Count() - std::min(first_col, Cols().Count());
   if (EffectiveSettings().read_only) {
-    RefusePaste(QCoreApplication::translate("CellPanel", "These values cannot be changed."));
+    RefuseBlock(QCoreApplication::translate("CellPanel", "These values cannot be changed."));
     return false;
   }
   if (block.size() > room_below || cells_.empty()) {
-    RefusePaste(QCoreApplication::translate(
+    RefuseBlock(QCoreApplication::translate(
                     "CellPanel", "The block does not fit. Its rows: %1, rows from here on: %2.")
                     .arg(block.size())
                     .arg(cells_.empty() ? 0 : room_below));
     return false;
   }
   if (width > room_beside) {
-    RefusePaste(
+    RefuseBlock(
         QCoreApplication::translate(
             "CellPanel", "The block does not fit. Its columns: %1, columns from here on: %2.")
             .arg(width)
@@ -77,7 +90,7 @@ bool CellPanel::PasteBlock(const QString& text) {
       const auto value = Cell(0, 0)->Parsed(cell_text);
       const quint32 row = first_row + static_cast<quint32>(r);
       if (!value) {
-        RefusePaste(QCoreApplication::translate("CellPanel", "Row %1: \"%2\" is not a number.")
+        RefuseBlock(QCoreApplication::translate("CellPanel", "Row %1: \"%2\" is not a number.")
                         .arg(row + 1)
                         .arg(cell_text));
         return false;

@@ -7,7 +7,7 @@
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QWheelEvent>
-#include <cstdlib>
+#include <algorithm>
 
 #include "qorvex/controls/cell_panel.h"
 #include "qorvex/controls/detail/edit_window.h"
@@ -54,9 +54,11 @@ void CellPanel::EditExit(TQorCustomEdit* cell) {
   Notify(CellEvent::kExit, RowOf(cell), ColOf(cell));
 }
 
-void CellPanel::DoChange(TQorCustomEdit* cell, Extended before) {
+void CellPanel::DoChange(const TQorCustomEdit* cell) {
   const quint32 row = RowOf(cell);
   const quint32 col = ColOf(cell);
+  // The cell may have shown null in place of the element.
+  const Extended before = Value(row, col);
   Store(row, col, cell->Value());
   RememberElements({{row, col, before}});
   NotifyChange(row, col);
@@ -120,6 +122,9 @@ bool CellPanel::IsOwnKey(const QKeyEvent& event) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
       return true;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      return held == Qt::NoModifier;
     case Qt::Key_Up:
     case Qt::Key_Down:
     case Qt::Key_Y:
@@ -138,6 +143,12 @@ bool CellPanel::UseKey(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Up:
       Step(rows_, cols_, false);
+      return true;
+    case Qt::Key_PageUp:
+      ScrollUp(std::min(Rows().Edits(), Rows().Top()));
+      return true;
+    case Qt::Key_PageDown:
+      ScrollDown(Rows().Edits());
       return true;
     case Qt::Key_C:
       CopyAll();
@@ -238,6 +249,11 @@ bool CellPanel::eventFilter(QObject* watched, QEvent* event) {
       break;
   }
   return !self || TQorCustomPanel::eventFilter(watched, event);
+}
+
+void CellPanel::wheelEvent(QWheelEvent* event) {
+  // Cells without an element are disabled and pass it on.
+  EditMouseWheel(event);
 }
 
 void CellPanel::focusInEvent(QFocusEvent* event) {

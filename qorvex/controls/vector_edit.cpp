@@ -1,7 +1,5 @@
 #include "qorvex/controls/vector_edit.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QCoreApplication>
 #include <algorithm>
 #include <limits>
@@ -90,7 +88,6 @@ Extended TQorVectorEdit::Element(quint32 row) const {
 
 void TQorVectorEdit::setElement(quint32 row, Extended value) {
   CheckRow(row);
-  CommitPending();
   Store(row, 0, value);
   Forget();
   Redisplay();
@@ -214,9 +211,9 @@ void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
   });
 }
 
-void TQorVectorEdit::CopyRows(quint32 first, quint32 count) const {
+void TQorVectorEdit::CopyRows(quint32 first, quint32 count) {
   const quint32 begin = std::min(first, NoOfRows());
-  QApplication::clipboard()->setText(BlockText(begin, std::min(count, NoOfRows() - begin), 0, 1));
+  CopyBlock(begin, std::min(count, NoOfRows() - begin), 0, 1);
 }
 
 }  // namespace qorvex::inline QorvexVectorEdit

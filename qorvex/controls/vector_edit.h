@@ -92,7 +92,8 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
   /// @}
 
   /// @{
-  /// One element. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such element.
+  /// One element. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such element. A
+  /// text that is being typed stays, whichever element is set.
   [[nodiscard]] Extended Element(quint32 row) const;
   void setElement(quint32 row, Extended value);
   /// @}
@@ -125,7 +126,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
 
   /// Copies a part of the vector to the clipboard, as CopyAll does. Rows that there are not are
   /// left out.
-  void CopyRows(quint32 first, quint32 count) const;
+  void CopyRows(quint32 first, quint32 count);
 
   /// Gives the elements in virtual mode; may be called at any time.
   TQorGetVectorElementEvent OnGetElement;

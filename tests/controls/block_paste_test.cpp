@@ -42,7 +42,7 @@ TEST_F(BlockPaste, FillsTheVectorFromTheFocusedCellAndIsTakenBackInOneStep) {
 TEST_F(BlockPaste, RefusesAWholeTextWithAReason) {
   Open(4);
   editor->setEditFocus(1);
-  QSignalSpy refused(editor, &TQorVectorEdit::OnPasteRefused);
+  QSignalSpy refused(editor, &TQorVectorEdit::OnBlockRefused);
   const struct {
     const char* text;
     const char* message;
@@ -78,6 +78,14 @@ TEST_F(BlockPaste, CopiesEveryDigitAndTakesItBack) {
   const TQorFloatVector pasted = editor->Vector();
   EXPECT_TRUE(std::equal(values.begin(), values.begin() + 3, pasted.begin()));
   EXPECT_TRUE(std::isnan(pasted[3]));
+  QSignalSpy refused(editor, &TQorVectorEdit::OnBlockRefused);
+  editor->setVirtualMode(true);
+  editor->setNoOfRows(4'000'000'000U);
+  editor->CopyAll();
+  EXPECT_EQ(refused.takeFirst()[0].toString(), "Too many values to copy: 4000000000.");
+  editor->setNoOfRows(4);
+  editor->setVirtualMode(false);
+  editor->setVector(values);
   editor->CopyRows(2, 99);
   EXPECT_EQ(QApplication::clipboard()->text(), "12345678,9\n\n");
 }
@@ -90,7 +98,7 @@ TEST_F(BlockPaste, SpeaksGerman) {
   QApplication::processEvents();
   EXPECT_EQ(Cell(1)->accessibleName(), "Zeile 2");
   EXPECT_EQ(Texts(), "0.0|1.0|2.0|3.0") << "numbers go by the locale of the widget";
-  QSignalSpy refused(editor, &TQorVectorEdit::OnPasteRefused);
+  QSignalSpy refused(editor, &TQorVectorEdit::OnBlockRefused);
   EXPECT_FALSE(editor->PasteBlock("1\nx"));
   EXPECT_EQ(refused.takeFirst()[0].toString(), QString::fromUtf8("Zeile 2: „x“ ist keine Zahl."));
   delete QApplication::instance()->findChild<QTranslator*>();

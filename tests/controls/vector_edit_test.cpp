@@ -155,6 +155,9 @@ TEST_F(VectorEdit, TheWheelTurnsWholeRowsWhereTheFocusIs) {
   EXPECT_EQ(editor->DisplayTopRow(), 8U);
   for (int i = 0; i < 2; ++i) TurnWheel(Cell(0), 50, Qt::ScrollUpdate);
   EXPECT_EQ(editor->DisplayTopRow(), 8U);
+  // Where a cell has no element it is no other.
+  editor->setNoOfRows(2);
+  TurnWheel(Cell(3), -120);
   EXPECT_EQ(area.verticalScrollBar()->value(), parent);
 }
 
@@ -263,6 +266,31 @@ TEST_F(VectorEdit, VirtualModeAsksForWhatItShows) {
   EXPECT_EQ(Texts(), "8.0000|8.0000|0.0000|");
 }
 
+TEST_F(VectorEdit, KeepsWhatIsBeingTypedWhileElementsChange) {
+  Open(9);
+  editor->setEditFocus(1);
+  Type("12");
+  editor->setElement(0, 50);
+  editor->setElement(1, 60);
+  EXPECT_EQ(Texts(), "50.0000|12|2.0000|3.0000");
+  Press(Qt::Key_Escape);
+  EXPECT_EQ(Cell(1)->Value(), 60);
+  // Null in sight only: what is typed over it is a change of the element behind it.
+  editor->setNull(true);
+  EXPECT_EQ(Texts(), "|||");
+  EXPECT_EQ(editor->Element(1), 60);
+  Type("7");
+  Press(Qt::Key_PageDown);
+  EXPECT_EQ(Texts(), "4.0000|5.0000|6.0000|7.0000");
+  Press(Qt::Key_PageDown);
+  EXPECT_EQ(editor->DisplayTopRow(), 5U);
+  Press(Qt::Key_PageUp);
+  Press(Qt::Key_PageUp);
+  EXPECT_EQ(Texts(), "50.0000|7.0000|2.0000|3.0000");
+  editor->Undo();
+  EXPECT_EQ(editor->Element(1), 60);
+}
+
 TEST_F(VectorEdit, ABatchShowsNothingUntilItEnds) {
   Open(6);
   editor->BeginUpdate();
@@ -279,15 +307,17 @@ TEST_F(VectorEdit, ABatchShowsNothingUntilItEnds) {
   EXPECT_EQ(Cell(0)->text(), "7.0000");
 }
 
-TEST_F(VectorEdit, AFormMaySetTheTopBeforeTheRows) {
-  editor->setDisplayTopRow(5);
+TEST_F(VectorEdit, AFormMaySetTheTopBeforeTheRowsAndTheCells) {
+  editor->setDisplayTopRow(98);
   editor->setNoOfRows(3);
   editor->setNoOfRows(100);
-  EXPECT_EQ(editor->DisplayTopRow(), 5U);
+  EXPECT_EQ(editor->DisplayTopRow(), 96U);
+  editor->setNoOfEdits(2);
+  EXPECT_EQ(editor->DisplayTopRow(), 98U);
   Show();
   editor->setNoOfRows(3);
   editor->setNoOfRows(100);
-  EXPECT_EQ(editor->DisplayTopRow(), 0U);
+  EXPECT_EQ(editor->DisplayTopRow(), 1U);
 }
 
 TEST_F(VectorEdit, HandlersMayChangeTheEditorUnderTheirFeet) {

@@ -12,6 +12,10 @@
         <translation>Zeile %1: „%2“ ist keine Zahl.</translation>
     </message>
     <message>
+        <source>Too many values to copy: %1.</source>
+        <translation>Zu viele Werte zum Kopieren: %1.</translation>
+    </message>
+    <message>
         <source>Copy All Values</source>
         <translation>Alle Werte kopieren</translation>
     </message>
