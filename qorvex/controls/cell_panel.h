@@ -19,7 +19,7 @@
 #include "qorvex/base_controls/cell_properties.h"
 #include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/base_controls/custom_panel.h"
-#include "qorvex/base_controls/ui_ctrl.h"
+#include "qorvex/base_controls/uictrl.h"
 #include "qorvex/base_controls/unit.h"
 
 class QScrollBar;

@@ -1,4 +1,4 @@
-#include "qorvex/base_controls/ui_ctrl.h"
+#include "qorvex/base_controls/uictrl.h"
 
 namespace qorvex::inline QorvexBaseControls {
 
