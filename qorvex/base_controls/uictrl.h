@@ -9,6 +9,20 @@
 #include "qorvex/base_controls/cell_properties.h"
 #include "qorvex/base_controls/unit.h"
 
+/// The settings that controls can share, as properties.
+#define QORVEX_PUBLISHED_SHARED_SETTINGS     \
+  QORVEX_PUBLISHED(bool, TrimTrailingZeroes) \
+  QORVEX_PUBLISHED(bool, FullAccuracy)       \
+  QORVEX_PUBLISHED(Qt::Alignment, Alignment) \
+  QORVEX_PUBLISHED(int, DecimalPlaces)       \
+  QORVEX_PUBLISHED(bool, AllowKbdNull)       \
+  QORVEX_PUBLISHED(bool, BlankWhenZero)      \
+  QORVEX_PUBLISHED(bool, BlankWhenNull)      \
+  QORVEX_PUBLISHED(QString, NullStr)         \
+  QORVEX_PUBLISHED(bool, AutoSelectClick)    \
+  QORVEX_PUBLISHED(bool, AutoSelect)         \
+  QORVEX_PUBLISHED_COLORS
+
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// The settings of cells for any number of controls. A control that is linked to it takes from
@@ -18,17 +32,7 @@ class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   Q_OBJECT
   /// @{
   /// Published: see the members of CellSettings of the same names.
-  QORVEX_PUBLISHED(bool, TrimTrailingZeroes)
-  QORVEX_PUBLISHED(bool, FullAccuracy)
-  QORVEX_PUBLISHED(Qt::Alignment, Alignment)
-  QORVEX_PUBLISHED(int, DecimalPlaces)
-  QORVEX_PUBLISHED(bool, AllowKbdNull)
-  QORVEX_PUBLISHED(bool, BlankWhenZero)
-  QORVEX_PUBLISHED(bool, BlankWhenNull)
-  QORVEX_PUBLISHED(QString, NullStr)
-  QORVEX_PUBLISHED(bool, AutoSelectClick)
-  QORVEX_PUBLISHED(bool, AutoSelect)
-  QORVEX_PUBLISHED_COLORS
+  QORVEX_PUBLISHED_SHARED_SETTINGS
   /// @}
 
  public:
