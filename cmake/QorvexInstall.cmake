@@ -4,7 +4,6 @@
 
 include(CMakePackageConfigHelpers)
 
-option(QORVEX_INSTALL "Install Qorvex with the project" ${PROJECT_IS_TOP_LEVEL})
 if(NOT QORVEX_INSTALL)
   return()
 endif()
