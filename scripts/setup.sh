@@ -10,6 +10,7 @@ packages=(
   libboost-dev       # the special functions, headers only
   qt6-base-dev       # the components
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # their translations and the Designer plugin
+  libqt6opengl6-dev  # what qt6-tools-dev expects of programs that load forms
   fonts-dejavu-core  # what the tests of widgets draw with
   libcli11-dev       # the command line
   libgtest-dev       # the tests

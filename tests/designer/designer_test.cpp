@@ -1,0 +1,210 @@
+#include <QApplication>
+#include <QCoreApplication>
+#include <QDesignerComponents>
+#include <QDesignerFormEditorInterface>
+#include <QDesignerFormWindowCursorInterface>
+#include <QDesignerFormWindowInterface>
+#include <QDesignerFormWindowManagerInterface>
+#include <QDesignerIntegration>
+#include <QDesignerPropertyEditorInterface>
+#include <QDesignerPropertySheetExtension>
+#include <QDesignerWidgetBoxInterface>
+#include <QDir>
+#include <QExtensionManager>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QMap>
+#include <QMetaProperty>
+#include <QPluginLoader>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTreeWidget>
+#include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "changed_value.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+// A Qt Designer without windows, and one form with a widget in it.
+class Designer : public testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    QDir plugins = QFileInfo(PLUGIN).dir();
+    plugins.cdUp();
+    QCoreApplication::addLibraryPath(plugins.path());
+    core_ = QDesignerComponents::createFormEditor(nullptr);
+    window_ = new QWidget;
+    core_->setWidgetBox(QDesignerComponents::createWidgetBox(core_, window_));
+    core_->setPropertyEditor(QDesignerComponents::createPropertyEditor(core_, window_));
+    core_->setObjectInspector(QDesignerComponents::createObjectInspector(core_, window_));
+    QDesignerComponents::initializePlugins(core_);
+    new QDesignerIntegration(core_, core_);
+  }
+
+  static void TearDownTestSuite() {
+    delete window_;
+    delete core_;
+  }
+
+  static QList<QDesignerCustomWidgetInterface*> Widgets() {
+    QPluginLoader loader(PLUGIN);
+    auto* plugin = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader.instance());
+    return plugin == nullptr ? QList<QDesignerCustomWidgetInterface*>() : plugin->customWidgets();
+  }
+
+  void Load(const QString& contents) {
+    form_.reset(core_->formWindowManager()->createFormWindow());
+    ASSERT_TRUE(form_->setContents(contents));
+    widget_ = form_->mainContainer()->findChild<QWidget*>("tested");
+    ASSERT_TRUE(widget_);
+    sheet_ = qt_extension<QDesignerPropertySheetExtension*>(core_->extensionManager(), widget_);
+    ASSERT_TRUE(sheet_);
+  }
+
+  void LoadNew(const QString& class_name) {
+    Load(QString(R"(<ui version="4.0"><class>Form</class><widget class="QWidget" name="Form">
+                    <property name="geometry"><rect><width>300</width><height>200</height></rect></property>
+                    <widget class="%1" name="tested"/></widget></ui>)")
+             .arg(class_name));
+  }
+
+  // The published properties, those that others depend on first.
+  [[nodiscard]] std::vector<QMetaProperty> Published() const {
+    const QMetaObject* meta = widget_->metaObject();
+    std::vector<QMetaProperty> properties;
+    for (int i = meta->propertyCount() - 1; i >= 0; --i) {
+      const QMetaProperty property = meta->property(i);
+      if (QByteArray(property.enclosingMetaObject()->className()).startsWith("qorvex::")) {
+        properties.push_back(property);
+      }
+    }
+    return properties;
+  }
+
+  [[nodiscard]] QVariant Value(const QMetaProperty& property) const {
+    return PlainValue(property, property.read(widget_));
+  }
+
+  // What the saved form says of the property.
+  [[nodiscard]] std::string Saved(const char* property) const {
+    const QRegularExpression element(
+        QString(R"(<property name="%1">\s*(.*?)\s*</property>)").arg(property),
+        QRegularExpression::DotMatchesEverythingOption);
+    return element.match(form_->contents()).captured(1).toStdString();
+  }
+
+  // Types a text into the property editor.
+  void Type(const char* property, const QString& text) {
+    core_->formWindowManager()->setActiveFormWindow(form_.get());
+    QDesignerPropertyEditorInterface* editor = core_->propertyEditor();
+    window_->show();
+    QApplication::processEvents();
+    form_->selectWidget(widget_);
+    editor->setObject(widget_);
+    auto* tree = editor->findChild<QTreeWidget*>();
+    ASSERT_TRUE(tree);
+    const auto items = tree->findItems(property, Qt::MatchExactly | Qt::MatchRecursive);
+    ASSERT_EQ(items.size(), 1);
+    tree->setCurrentItem(items[0]);
+    tree->editItem(items[0], 1);
+    auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+    ASSERT_TRUE(line);
+    line->selectAll();
+    QTest::keyClicks(line, text);
+    QTest::keyClick(line, Qt::Key_Return);
+  }
+
+  static inline QWidget* window_ = nullptr;
+  static inline QDesignerFormEditorInterface* core_ = nullptr;
+  std::unique_ptr<QDesignerFormWindowInterface> form_;
+  QWidget* widget_ = nullptr;
+  QDesignerPropertySheetExtension* sheet_ = nullptr;
+};
+
+TEST_F(Designer, SavesEveryPropertyThatWasChangedUntilItIsReset) {
+  ASSERT_FALSE(Widgets().isEmpty());
+  for (QDesignerCustomWidgetInterface* entry : Widgets()) {
+    SCOPED_TRACE(entry->name().toStdString());
+    EXPECT_EQ(entry->group(), "Qorvex");
+    EXPECT_FALSE(entry->icon().isNull());
+    ASSERT_NO_FATAL_FAILURE(LoadNew(entry->name()));
+    EXPECT_EQ(widget_->metaObject()->className(), entry->name());
+    const std::vector<QMetaProperty> properties = Published();
+    EXPECT_FALSE(properties.empty());
+    QMap<QString, QVariant> initial;
+    QMap<QString, QVariant> changed;
+    for (const QMetaProperty& property : properties) {
+      initial[property.name()] = Value(property);
+    }
+    for (const QMetaProperty& property : properties) {
+      SCOPED_TRACE(property.name());
+      const int index = sheet_->indexOf(property.name());
+      ASSERT_GE(index, 0);
+      EXPECT_TRUE(sheet_->isVisible(index));
+      EXPECT_TRUE(sheet_->hasReset(index));
+      form_->cursor()->setWidgetProperty(widget_, property.name(),
+                                         ChangedValue(property, initial[property.name()]));
+      EXPECT_TRUE(sheet_->isChanged(index));
+      changed[property.name()] = Value(property);
+      EXPECT_EQ(changed[property.name()] != initial[property.name()], property.isStored());
+      EXPECT_NE(Saved(property.name()).empty(), property.isStored());
+    }
+    const QString contents = form_->contents();
+    EXPECT_TRUE(contents.contains("<widget class=\"" + entry->name() + "\" name=\"tested\">"));
+    EXPECT_TRUE(contents.contains("<header>" + entry->includeFile() + "</header>"));
+
+    ASSERT_NO_FATAL_FAILURE(Load(contents));
+    EXPECT_EQ(form_->contents().toStdString(), contents.toStdString());
+    for (const QMetaProperty& property : properties) {
+      if (!property.isStored()) continue;
+      SCOPED_TRACE(property.name());
+      EXPECT_EQ(Value(property), changed[property.name()]);
+    }
+    for (const QMetaProperty& property : properties) {
+      form_->cursor()->resetWidgetProperty(widget_, property.name());
+    }
+    for (const QMetaProperty& property : properties) {
+      SCOPED_TRACE(property.name());
+      EXPECT_EQ(Value(property), initial[property.name()]);
+      EXPECT_EQ(Saved(property.name()), "");
+    }
+  }
+}
+
+TEST_F(Designer, KeepsNumbersAndNamesFromTranslators) {
+  const struct {
+    const char* class_name;
+    const char* property;
+    const char* saved;
+  } kCases[] = {
+      {"qorvex::TQorVectorEdit", "UICtrl", "<string notr=\"true\">typed</string>"},
+      {"qorvex::TQorVectorEdit", "NullStr", "<string>typed</string>"},
+      {"qorvex::TQorMathLabel", "FocusControl", "<string notr=\"true\">typed</string>"},
+      {"qorvex::TQorMathLabel", "Caption", "<string>typed</string>"},
+  };
+  for (const auto& [class_name, property, saved] : kCases) {
+    SCOPED_TRACE(property);
+    ASSERT_NO_FATAL_FAILURE(LoadNew(class_name));
+    ASSERT_NO_FATAL_FAILURE(Type(property, "typed"));
+    EXPECT_EQ(Saved(property), saved);
+  }
+}
+
+TEST_F(Designer, ShowsComponentsWithoutAPictureAndTheirResults) {
+  ASSERT_NO_FATAL_FAILURE(LoadNew("qorvex::TQorDescStatsHolder"));
+  EXPECT_FALSE(widget_->isHidden());
+  form_->cursor()->setWidgetProperty(widget_, "Items", QStringList{"1", "2", "6"});
+  EXPECT_EQ(widget_->property("Mean"), "3");
+  // Drawn differently once there is a problem to tell.
+  widget_->resize(200, 40);
+  const QImage image = widget_->grab().toImage();
+  form_->cursor()->setWidgetProperty(widget_, "Items", QStringList{"1", "two"});
+  EXPECT_EQ(widget_->property("Mean"), "3");
+  EXPECT_NE(widget_->grab().toImage(), image);
+}
+
+}  // namespace qorvex

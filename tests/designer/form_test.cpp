@@ -1,0 +1,126 @@
+#include <QApplication>
+#include <QFile>
+#include <QUiLoader>
+#include <QWidget>
+#include <memory>
+
+#include "qorvex/base_controls/fract_edit.h"
+#include "qorvex/controls/QorvexMathLabel.h"
+#include "qorvex/controls/QorvexVectorEdit.h"
+#include "qorvex/controls/desc_stats_holder.h"
+#include "qorvex/controls/uictrl_holder.h"
+#include "support/test.h"
+#include "ui_form.h"
+
+namespace qorvex {
+namespace {
+
+// What the form sets in every widget that has the setting.
+CellSettings SettingsOfForm() {
+  CellSettings settings;
+  settings.number = {true, true, 7, Qt::AlignHCenter | Qt::AlignTop};
+  settings.nulls = {false, true, true, "none"};
+  settings.selection = {false, true};
+  settings.colors = {{10, 20, 30}, {20, 20, 30}, {30, 20, 30}, {40, 20, 30},
+                     {50, 20, 30}, {60, 20, 30}, {70, 20, 30}};
+  settings.read_only = true;
+  return settings;
+}
+
+void ExpectVectorEdit(const TQorVectorEdit& edit, const TQorUICtrl* shared) {
+  EXPECT_EQ(edit.UICtrl(), shared);
+  EXPECT_EQ(edit.UIUsage(), TQorUICtrl::uuColors | TQorUICtrl::uuNullHandling);
+  EXPECT_EQ(edit.Settings(), SettingsOfForm());
+  EXPECT_EQ(edit.CellHeight(), 30);
+  EXPECT_EQ(edit.CellWidth(), 90);
+  EXPECT_EQ(edit.DisplayTopRow(), 5U);
+  EXPECT_EQ(edit.NoOfEdits(), 6);
+  EXPECT_TRUE(edit.Null());
+  EXPECT_EQ(edit.NoOfRows(), 12U);
+  EXPECT_FALSE(edit.TabStop());
+  EXPECT_TRUE(edit.VirtualMode());
+}
+
+void ExpectAsWritten(QWidget& form) {
+  form.show();
+  QApplication::processEvents();
+
+  const auto* shared = form.findChild<TQorUICtrlHolder*>("shared");
+  ASSERT_TRUE(shared);
+  EXPECT_TRUE(shared->isHidden());
+  CellSettings settings = SettingsOfForm();
+  settings.read_only = false;
+  settings.colors = {{10, 200, 30}, {20, 200, 30}, {30, 200, 30}, {40, 200, 30},
+                     {50, 200, 30}, {60, 200, 30}, {70, 200, 30}};
+  EXPECT_EQ(shared->Settings(), settings);
+  EXPECT_EQ(shared->UICtrl()->Settings(), settings);
+
+  const auto* vector = form.findChild<TQorVectorEdit*>("vector");
+  ASSERT_TRUE(vector);
+  ExpectVectorEdit(*vector, shared->UICtrl());
+
+  const auto* labelled = form.findChild<TQorLabelledVectorEdit*>("labelled");
+  ASSERT_TRUE(labelled);
+  ExpectVectorEdit(*labelled, shared->UICtrl());
+  EXPECT_EQ(labelled->LabelAlignment(), Qt::AlignRight | Qt::AlignBottom);
+  EXPECT_EQ(labelled->LabelNumOffSet(), -3);
+  EXPECT_EQ(labelled->LabelType(), TQorLabelledVectorEdit::ltCustom);
+  EXPECT_TRUE(labelled->LabelsEditable());
+  EXPECT_EQ(labelled->LabelWidth(), 100);
+
+  const auto* number = form.findChild<TQorFloatEdit*>("number");
+  ASSERT_TRUE(number);
+  EXPECT_EQ(number->Settings(), SettingsOfForm());
+  EXPECT_TRUE(number->Null());
+
+  const auto* fraction = form.findChild<TQorFractEdit*>("fraction");
+  ASSERT_TRUE(fraction);
+  settings = SettingsOfForm();
+  settings.number = NumberFormat();
+  settings.number.alignment = SettingsOfForm().number.alignment;
+  EXPECT_EQ(fraction->Settings(), settings);
+  EXPECT_TRUE(fraction->Null());
+  EXPECT_EQ(fraction->DecimalsFract(), 3);
+  EXPECT_EQ(fraction->FractionDisplay(), TQorFractEdit::fdImproper);
+
+  const auto* sample = form.findChild<TQorDescStatsHolder*>("sample");
+  ASSERT_TRUE(sample);
+  EXPECT_TRUE(sample->isHidden());
+  EXPECT_EQ(sample->DecimalPlaces(), 3);
+  EXPECT_EQ(sample->Items(), (QStringList{"1", "2", "6"}));
+  EXPECT_TRUE(sample->Population());
+  EXPECT_EQ(sample->Stats()->Mean(), 3);
+
+  const auto* label = form.findChild<TQorMathLabel*>("label");
+  ASSERT_TRUE(label);
+  EXPECT_EQ(label->Alignment(), TQorMathLabel::laCentered);
+  EXPECT_FALSE(label->AutoSize());
+  EXPECT_EQ(label->Caption(), "&Mean");
+  EXPECT_EQ(label->EmbossedStyle(), TQorMathLabel::esLowered);
+  EXPECT_EQ(label->FocusControl(), number);
+  EXPECT_EQ(label->Layout(), TQorMathLabel::llBottom);
+  EXPECT_FALSE(label->ShowAccelChar());
+  EXPECT_FALSE(label->Transparent());
+  EXPECT_TRUE(label->WordWrap());
+  EXPECT_EQ(label->SymbolFamily(), "DejaVu Serif");
+}
+
+TEST(Form, BecomesAProgram) {
+  QWidget form;
+  Ui::Form ui;
+  ui.setupUi(&form);
+  ExpectAsWritten(form);
+}
+
+TEST(Form, LoadsWhileTheProgramRuns) {
+  QUiLoader loader;
+  loader.addPluginPath(PLUGIN_DIRECTORY);
+  QFile file(FORM);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const std::unique_ptr<QWidget> form(loader.load(&file));
+  ASSERT_TRUE(form) << loader.errorString().toStdString();
+  ExpectAsWritten(*form);
+}
+
+}  // namespace
+}  // namespace qorvex
