@@ -21,16 +21,12 @@ constexpr int kMostEdits = 255;
 
 }  // namespace
 
-CellPanel::CellPanel(QWidget* parent, detail::CurrentRule rule, CellFactory make_cell)
+CellPanel::CellPanel(QWidget* parent, GridAxes axes, detail::CurrentRule rule,
+                     CellFactory make_cell)
     : TQorCustomPanel(parent), make_cell_(std::move(make_cell)), rule_(rule) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  rows_.bar = new QScrollBar(Qt::Vertical, this);
-  // A click on the bar must take the focus out of a cell, or its text would end up in another row.
-  rows_.bar->setFocusPolicy(Qt::ClickFocus);
-  rows_.bar->installEventFilter(this);
-  // Unlike valueChanged, this comes from the user alone.
-  connect(rows_.bar, &QScrollBar::actionTriggered, this,
-          [this](int action) { UseBar(rows_, action); });
+  MakeBar(rows_, Qt::Vertical);
+  if (axes == GridAxes::kRowsAndCols) MakeBar(cols_, Qt::Horizontal);
 
   detail::EditWindowEvents events;
   events.before_top = [this](quint32 top) {
@@ -44,7 +40,26 @@ CellPanel::CellPanel(QWidget* parent, detail::CurrentRule rule, CellFactory make
   events.redisplay = [this] { Redisplay(); };
   events.after_top = [this](quint32 top) { AfterTopChange(top); };
   rows_.window = std::make_unique<detail::EditWindow>(rule, std::move(events));
-  cols_.window = std::make_unique<detail::EditWindow>(rule, detail::EditWindowEvents());
+
+  events = {};
+  events.before_top = [this](quint32 left) {
+    CommitPending();
+    LeftChange(left);
+  };
+  events.place_bar = [this] { PlaceBar(cols_); };
+  events.current_changed = [this](quint32 before, quint32 now) { CurrColChange(before, now); };
+  events.redisplay = [this] { Redisplay(); };
+  cols_.window = std::make_unique<detail::EditWindow>(rule, std::move(events));
+}
+
+void CellPanel::MakeBar(Axis& axis, Qt::Orientation orientation) {
+  axis.bar = new QScrollBar(orientation, this);
+  // A click on the bar must take the focus out of a cell, or its text would end up in another row.
+  axis.bar->setFocusPolicy(Qt::ClickFocus);
+  axis.bar->installEventFilter(this);
+  // Unlike valueChanged, this comes from the user alone.
+  connect(axis.bar, &QScrollBar::actionTriggered, this,
+          [this, &axis](int action) { SBScroll(axis, action); });
 }
 
 CellPanel::~CellPanel() {
@@ -118,7 +133,8 @@ void CellPanel::DoColorSetChange() {
 
 void CellPanel::Loaded() {
   FindUICtrl();
-  wanted_top_ = 0;
+  rows_.wanted_top = 0;
+  cols_.wanted_top = 0;
 }
 
 void CellPanel::setCellHeight(int height) {
@@ -136,8 +152,20 @@ quint32 CellPanel::DisplayTopRow() const noexcept {
 }
 
 void CellPanel::setDisplayTopRow(quint32 row) {
-  wanted_top_ = IsLoaded() ? 0 : row;
-  rows_.window->SetTop(row);
+  SetTop(rows_, row);
+}
+
+void CellPanel::SetLeft(quint32 left) {
+  SetTop(cols_, left);
+}
+
+void CellPanel::SetTop(Axis& axis, quint32 top) {
+  axis.wanted_top = IsLoaded() ? 0 : top;
+  axis.window->SetTop(top);
+}
+
+void CellPanel::SetCurrentCol(quint32 col) {
+  cols_.window->SetCurrent(col);
 }
 
 quint32 CellPanel::CurrentRow() const noexcept {
@@ -164,11 +192,7 @@ void CellPanel::ScrollBottom() {
   rows_.window->SetTop(Rows().Count());
 }
 
-void CellPanel::SBScroll(int position) {
-  rows_.window->SetTopFromBar(position);
-}
-
-void CellPanel::UseBar(const Axis& axis, int action) {
+void CellPanel::SBScroll(const Axis& axis, int action) {
   const QPointer<CellPanel> self(this);
   switch (action) {
     case QAbstractSlider::SliderSingleStepAdd:
@@ -176,7 +200,7 @@ void CellPanel::UseBar(const Axis& axis, int action) {
       axis.window->StepFromBar(action == QAbstractSlider::SliderSingleStepAdd);
       break;
     default:
-      SBScroll(axis.bar->sliderPosition());
+      axis.window->SetTopFromBar(axis.bar->sliderPosition());
   }
   // Qt moves the bar to its slider next.
   if (self) axis.bar->setSliderPosition(axis.window->BarPosition());
@@ -211,9 +235,15 @@ void CellPanel::setVirtualMode(bool on) {
 }
 
 void CellPanel::AfterTopChange(quint32) {}
+void CellPanel::LeftChange(quint32) {}
+void CellPanel::CurrColChange(quint32, quint32) {}
 void CellPanel::GridBuilt() {}
 void CellPanel::Redisplayed() {}
 void CellPanel::CellSettingsApplied() {}
+
+QColor CellPanel::SpecialColor(quint32, quint32, Extended) const {
+  return {};
+}
 
 int CellPanel::LeadingWidth() const {
   return 0;
@@ -225,7 +255,6 @@ TextCell* CellPanel::NavigationTarget(std::size_t row_edit, std::size_t col_edit
 
 void CellPanel::SetRowEdits(int edits) {
   SetEdits(rows_, edits);
-  ApplyWantedTop();
 }
 
 void CellPanel::SetColEdits(int edits) {
@@ -234,11 +263,6 @@ void CellPanel::SetColEdits(int edits) {
 
 void CellPanel::SetRowCount(quint32 count) {
   SetCount(rows_, count);
-  ApplyWantedTop();
-}
-
-void CellPanel::ApplyWantedTop() {
-  if (wanted_top_ > Rows().Top()) rows_.window->SetTop(wanted_top_);
 }
 
 void CellPanel::SetColCount(quint32 count) {
@@ -258,6 +282,7 @@ void CellPanel::SetEdits(Axis& axis, int edits) {
   axis.window->SetEdits(wanted);
   if (moves) FocusCell(Rows().Focus(), Cols().Focus());
   FitGrid();
+  if (axis.wanted_top > axis.window->Top()) axis.window->SetTop(axis.wanted_top);
 }
 
 void CellPanel::SetCount(Axis& axis, quint32 count) {
@@ -267,6 +292,7 @@ void CellPanel::SetCount(Axis& axis, quint32 count) {
   if (moves) Park(axis);
   axis.window->SetCount(count);
   if (moves) FocusCell(Rows().Focus(), Cols().Focus());
+  if (axis.wanted_top > axis.window->Top()) axis.window->SetTop(axis.wanted_top);
 }
 
 void CellPanel::FitGrid() {
@@ -333,6 +359,7 @@ quint32 CellPanel::ColOf(const TQorCustomEdit* cell) const {
 }
 
 void CellPanel::PlaceBar(const Axis& axis) {
+  if (axis.bar == nullptr) return;
   axis.bar->setRange(0, axis.window->BarMaximum());
   axis.bar->setPageStep(std::max(static_cast<int>(axis.window->Edits()), 1));
   axis.bar->setValue(axis.window->BarPosition());
@@ -347,7 +374,9 @@ void CellPanel::Redisplay() {
       TQorCustomEdit* const cell = cells_[r][c];
       const bool used = r < used_rows && c < used_cols;
       if (used) {
-        cell->Refresh(Value(RowOf(cell), ColOf(cell)));
+        const Extended value = Value(RowOf(cell), ColOf(cell));
+        cell->Refresh(value);
+        cell->SetSpecialColor(SpecialColor(RowOf(cell), ColOf(cell), value));
       } else {
         cell->ShowNothing();
       }
@@ -395,12 +424,18 @@ void CellPanel::Arrange() {
   const int cells_width = LeadingWidth() + static_cast<int>(Cols().Edits()) * cell_width_;
   const int cells_height = static_cast<int>(Rows().Edits()) * RowHeight();
   rows_.bar->setGeometry(Placed({cells_width, 0, BarExtent(), cells_height}));
+  if (cols_.bar) cols_.bar->setGeometry(Placed({0, cells_height, cells_width, BarExtent()}));
   updateGeometry();
+}
+
+QRect CellPanel::CornerRect() const {
+  return Placed({LeadingWidth() + static_cast<int>(Cols().Edits()) * cell_width_,
+                 static_cast<int>(Rows().Edits()) * RowHeight(), BarExtent(), BarExtent()});
 }
 
 QSize CellPanel::sizeHint() const {
   const int width = LeadingWidth() + static_cast<int>(Cols().Edits()) * cell_width_ + BarExtent();
-  const int height = static_cast<int>(Rows().Edits()) * RowHeight();
+  const int height = static_cast<int>(Rows().Edits()) * RowHeight() + (cols_.bar ? BarExtent() : 0);
   return QSize(width, height) + QSize(2 * frameWidth(), 2 * frameWidth());
 }
 

@@ -4,6 +4,7 @@
 /// CellPanel, a grid of cells that is a window on a longer and wider table. What the editors of
 /// vectors and matrices have in common.
 
+#include <QColor>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPair>
@@ -183,8 +184,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// What happens to an element in its cell.
   enum class CellEvent { kEnter, kExit, kNull, kChange };
 
+  /// In which directions the table is longer than the grid.
+  enum class GridAxes { kRows, kRowsAndCols };
+
   /// A grid without cells.
-  CellPanel(QWidget* parent, detail::CurrentRule rule, CellFactory make_cell);
+  CellPanel(QWidget* parent, GridAxes axes, detail::CurrentRule rule, CellFactory make_cell);
 
   /// @{
   /// The table. Store also tells the owner in virtual mode.
@@ -196,6 +200,14 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   virtual void Notify(CellEvent what, quint32 row, quint32 col) = 0;
   virtual void NotifyText(quint32 row, quint32 col, const QString& text) = 0;
   /// @}
+  /// @{
+  /// What a table with columns tells of them: the first column in sight is about to change, and the
+  /// current column has changed.
+  virtual void LeftChange(quint32 left);
+  virtual void CurrColChange(quint32 before, quint32 now);
+  /// @}
+  /// A colour for the text of an element in place of the settings'; invalid for none.
+  [[nodiscard]] virtual QColor SpecialColor(quint32 row, quint32 col, Extended value) const;
   /// What a screen reader calls the cell of an element.
   [[nodiscard]] virtual QString CellName(quint32 row, quint32 col) const = 0;
 
@@ -228,12 +240,19 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SetRowCount(quint32 count);
   void SetColCount(quint32 count);
   /// @}
+  /// @{
+  /// Scrolls to a first column, and asks for a current one.
+  void SetLeft(quint32 left);
+  void SetCurrentCol(quint32 col);
+  /// @}
   /// A cell of the grid.
   [[nodiscard]] TQorCustomEdit* Cell(std::size_t row_edit, std::size_t col_edit) const {
     return cells_[row_edit][col_edit];
   }
   /// Where a cell is, in this widget.
   [[nodiscard]] QRect CellRect(std::size_t row_edit, std::size_t col_edit) const;
+  /// Where the bars meet.
+  [[nodiscard]] QRect CornerRect() const;
   /// A rectangle given as in a left-to-right layout, where the layout has it.
   [[nodiscard]] QRect Placed(const QRect& rectangle) const;
   /// Gives the cell the focus, if it can take it.
@@ -269,8 +288,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// the table is not here, only the latter.
   void Command(const std::function<void()>& command);
 
-  /// A position of the scroll bar that the user has chosen.
-  void SBScroll(int position);
   /// @{
   /// Handlers of a cell.
   void EditEnter(TQorCustomEdit* cell);
@@ -303,6 +320,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   struct Axis {
     std::unique_ptr<detail::EditWindow> window;
     QScrollBar* bar = nullptr;
+    // A top that a form has set before the table was as long.
+    quint32 wanted_top = 0;
   };
   // One element of a change that can be taken back.
   struct ElementChange {
@@ -316,8 +335,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   static constexpr int kDefaultCellWidth = 81;
   static constexpr TQorUICtrl::TQorUIUsage kUseAll{0xF};
 
+  void MakeBar(Axis& axis, Qt::Orientation orientation);
   void PlaceBar(const Axis& axis);
-  void UseBar(const Axis& axis, int action);
+  void SBScroll(const Axis& axis, int action);
   void SetEdits(Axis& axis, int edits);
   void SetCount(Axis& axis, quint32 count);
   // Whether the focus is on a cell that shows an element from the given one of the axis on.
@@ -331,13 +351,13 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] int BarExtent() const;
   void ApplySettings();
   void ApplyTo(TQorCustomEdit& cell, const CellSettings& settings) const;
-  void ApplyWantedTop();
+  void SetTop(Axis& axis, quint32 top);
   void FindUICtrl();
 
   [[nodiscard]] quint32 RowOf(const TQorCustomEdit* cell) const;
   [[nodiscard]] quint32 ColOf(const TQorCustomEdit* cell) const;
   [[nodiscard]] bool FocusInside() const;
-  [[nodiscard]] static bool IsOwnKey(const QKeyEvent& event);
+  [[nodiscard]] bool IsOwnKey(const QKeyEvent& event);
   bool UseKey(const QKeyEvent& event);
   void Step(Axis& along, Axis& across, bool forward);
 
@@ -369,10 +389,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool null_ = false;
   bool tab_stop_ = true;
   bool virtual_mode_ = false;
-  // A top that a form has set before the table had as many rows.
-  quint32 wanted_top_ = 0;
-  // What a finely resolved wheel has turned since the last whole notch.
-  int wheel_rest_ = 0;
+  // What a finely resolved wheel has turned since the last whole notch, across and down.
+  QPoint wheel_rest_;
 
   std::function<void()> exchange_;
   bool undone_ = false;

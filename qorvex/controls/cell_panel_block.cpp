@@ -89,13 +89,14 @@ bool CellPanel::PasteBlock(const QString& text) {
       const QString cell_text = QString::fromStdString(block[r][c]);
       const auto value = Cell(0, 0)->Parsed(cell_text);
       const quint32 row = first_row + static_cast<quint32>(r);
+      const quint32 col = first_col + static_cast<quint32>(c);
       if (!value) {
-        RefuseBlock(QCoreApplication::translate("CellPanel", "Row %1: \"%2\" is not a number.")
-                        .arg(row + 1)
-                        .arg(cell_text));
+        RefuseBlock(QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number.",
+                                                "name of a cell, its text")
+                        .arg(CellName(row, col), cell_text));
         return false;
       }
-      changes.push_back({row, first_col + static_cast<quint32>(c), *value});
+      changes.push_back({row, col, *value});
     }
   }
   ExchangeElements(changes);

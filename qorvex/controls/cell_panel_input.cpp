@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
+#include <utility>
 
 #include "qorvex/controls/cell_panel.h"
 #include "qorvex/controls/detail/edit_window.h"
@@ -129,6 +130,9 @@ bool CellPanel::IsOwnKey(const QKeyEvent& event) {
     case Qt::Key_Down:
     case Qt::Key_Y:
       return held == Qt::ControlModifier;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+      return cols_.bar != nullptr && held == Qt::ControlModifier;
     case Qt::Key_Z:
       return held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier);
     case Qt::Key_C:
@@ -144,6 +148,13 @@ bool CellPanel::UseKey(const QKeyEvent& event) {
     case Qt::Key_Up:
       Step(rows_, cols_, false);
       return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right: {
+      // Left and right are where the eye sees them.
+      const bool mirrored = layoutDirection() == Qt::RightToLeft;
+      Step(cols_, rows_, (event.key() == Qt::Key_Right) != mirrored);
+      return true;
+    }
     case Qt::Key_PageUp:
       ScrollUp(std::min(Rows().Edits(), Rows().Top()));
       return true;
@@ -188,23 +199,26 @@ bool CellPanel::EditKeyPress(QKeyEvent* event) {
 
 void CellPanel::EditMouseWheel(QWheelEvent* event) {
   if (!FocusInside()) {
-    wheel_rest_ = 0;
+    wheel_rest_ = {};
     event->ignore();
     return;
   }
   event->accept();
-  int amount = event->angleDelta().y();
-  int rows = amount / 100;
-  // Touch pads and free wheels send many small amounts, which make a notch together.
-  if (event->phase() != Qt::NoScrollPhase || !event->pixelDelta().isNull()) {
+  const bool fine = event->phase() != Qt::NoScrollPhase || !event->pixelDelta().isNull();
+  const auto notches = [fine](int amount, int& rest) {
+    if (!fine) return amount / 100;
+    // Touch pads and free wheels send many small amounts, which make a notch together.
     constexpr int notch = 120;
-    if ((amount < 0) != (wheel_rest_ < 0)) wheel_rest_ = 0;
-    wheel_rest_ += amount;
-    rows = wheel_rest_ / notch;
-    wheel_rest_ %= notch;
-  }
-  if (rows > 0) ScrollUp(static_cast<quint32>(rows));
-  if (rows < 0) ScrollDown(static_cast<quint32>(-rows));
+    if ((amount < 0) != (rest < 0)) rest = 0;
+    rest += amount;
+    return std::exchange(rest, rest % notch) / notch;
+  };
+  const auto scroll = [](detail::EditWindow& window, int steps) {
+    if (steps > 0) window.ScrollUp(static_cast<quint32>(steps));
+    if (steps < 0) window.ScrollDown(static_cast<quint32>(-steps));
+  };
+  scroll(*rows_.window, notches(event->angleDelta().y(), wheel_rest_.ry()));
+  if (cols_.bar) scroll(*cols_.window, notches(event->angleDelta().x(), wheel_rest_.rx()));
 }
 
 bool CellPanel::eventFilter(QObject* watched, QEvent* event) {
@@ -212,7 +226,8 @@ bool CellPanel::eventFilter(QObject* watched, QEvent* event) {
     EditMouseWheel(static_cast<QWheelEvent*>(event));
     return true;
   }
-  if (watched == rows_.bar) return TQorCustomPanel::eventFilter(watched, event);
+  if (watched == rows_.bar || watched == cols_.bar)
+    return TQorCustomPanel::eventFilter(watched, event);
   const QPointer<CellPanel> self(this);
   switch (event->type()) {
     case QEvent::ShortcutOverride:

@@ -18,11 +18,12 @@
 namespace qorvex::inline QorvexVectorEdit {
 
 TQorVectorEdit::TQorVectorEdit(QWidget* parent)
-    : CellPanel(parent, QorvexControls::detail::CurrentRule::kFollowsTop, [this](QWidget* panel) {
-        auto* const cell = new TQorFloatEdit(panel);
-        cell->OnConvert = [this](const QString& text) { return DoConvert(text); };
-        return cell;
-      }) {
+    : CellPanel(parent, GridAxes::kRows, QorvexControls::detail::CurrentRule::kFollowsTop,
+                [this](QWidget* panel) {
+                  auto* const cell = new TQorFloatEdit(panel);
+                  cell->OnConvert = [this](const QString& text) { return DoConvert(text); };
+                  return cell;
+                }) {
   SetColCount(1);
   SetColEdits(1);
   SetRowEdits(kDefaultEdits);

@@ -8,8 +8,9 @@
         <translation>Diese Werte lassen sich nicht ändern.</translation>
     </message>
     <message>
-        <source>Row %1: &quot;%2&quot; is not a number.</source>
-        <translation>Zeile %1: „%2“ ist keine Zahl.</translation>
+        <source>%1: &quot;%2&quot; is not a number.</source>
+        <comment>name of a cell, its text</comment>
+        <translation>%1: „%2“ ist keine Zahl.</translation>
     </message>
     <message>
         <source>Too many values to copy: %1.</source>
@@ -34,6 +35,13 @@
     <message>
         <source>The block does not fit. Its columns: %1, columns from here on: %2.</source>
         <translation>Der Block passt nicht. Seine Spalten: %1, Spalten ab hier: %2.</translation>
+    </message>
+</context>
+<context>
+    <name>TQorCustomMatrixEdit</name>
+    <message>
+        <source>Row %1, column %2</source>
+        <translation>Zeile %1, Spalte %2</translation>
     </message>
 </context>
 <context>

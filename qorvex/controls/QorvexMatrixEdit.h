@@ -1,0 +1,6 @@
+#pragma once
+
+/// @file
+/// Unit QorvexMatrixEdit: the editor of a matrix.
+
+#include "qorvex/controls/matrix_edit.h"

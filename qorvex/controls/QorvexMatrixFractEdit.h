@@ -1,0 +1,6 @@
+#pragma once
+
+/// @file
+/// Unit QorvexMatrixFractEdit: the editor of a matrix of fractions.
+
+#include "qorvex/controls/matrix_fract_edit.h"

@@ -1,0 +1,211 @@
+#pragma once
+
+/// @file
+/// TQorCustomMatrixEdit, what the editors of matrices have in common.
+
+#include <QColor>
+#include <functional>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+#include "qorvex/base_controls/unit.h"
+#include "qorvex/controls/cell_panel.h"
+
+class QToolButton;
+
+QORVEX_WIDGET_UNIT(QorvexMatrixEdit) {
+
+/// @{
+/// Handlers of the events of an element: an element that changed, a text that is typed, a request
+/// for an element's value, a value that is to be kept elsewhere, and a request for the colour of an
+/// element's text, which comes with the one that it would have. Requests are members of the
+/// control, the rest are signals with these parameters.
+using TQorMatrixChangeEvent = std::function<void(quint32 row, quint32 col)>;
+using TQorMatrixChangeTextEvent =
+    std::function<void(quint32 row, quint32 col, const QString& text)>;
+using TQorGetMatrixElementEvent = std::function<Extended(quint32 row, quint32 col)>;
+using TQorSetMatrixElementEvent = std::function<void(quint32 row, quint32 col, Extended value)>;
+using TQorSpecialColorEvent =
+    std::function<void(quint32 row, quint32 col, Extended value, QColor& color)>;
+/// @}
+
+/// A grid of cells that shows and edits a matrix of any size; CellPanel says how. Ctrl+Left and
+/// Ctrl+Right go along a row as Ctrl+Up and Ctrl+Down go along a column; at the end of the matrix
+/// they go on in the next row or column.
+///
+/// The matrix is kept here, or in virtual mode elsewhere: then OnGetElement gives each element that
+/// is to be shown (its position by rows where it is empty), OnSetElement tells of each one that was
+/// changed, and commands on the whole matrix only redisplay.
+///
+/// A NaN in the matrix is null. What the user types, pastes or takes back raises OnChange; what the
+/// program sets does not. The current row and column are those of the cell that was entered last,
+/// until another one is entered or asked for: scrolling leaves them.
+class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
+  Q_OBJECT
+
+ public:
+  ~TQorCustomMatrixEdit() override;
+
+  /// @{
+  /// The column that the first cells show, 0 at first; see DisplayTopRow.
+  [[nodiscard]] quint32 DisplayLeftCol() const noexcept;
+  void setDisplayLeftCol(quint32 col);
+  void resetDisplayLeftCol() { setDisplayLeftCol(0); }
+  /// @}
+
+  /// @{
+  /// The number of cells in a row and in a column, 3 and 4 at first, clamped to 0 to 255.
+  [[nodiscard]] int NoOfColEdits() const noexcept;
+  void setNoOfColEdits(int edits);
+  void resetNoOfColEdits() { setNoOfColEdits(kDefaultColEdits); }
+  [[nodiscard]] int NoOfRowEdits() const noexcept;
+  void setNoOfRowEdits(int edits);
+  void resetNoOfRowEdits() { setNoOfRowEdits(kDefaultRowEdits); }
+  /// @}
+
+  /// @{
+  /// The size of the matrix, 0 by 0 at first. New elements are 0. Raises OnNoColsChange or
+  /// OnNoRowsChange. O(elements), in virtual mode O(1).
+  [[nodiscard]] quint32 NoOfCols() const noexcept;
+  void setNoOfCols(quint32 cols);
+  void resetNoOfCols() { setNoOfCols(0); }
+  [[nodiscard]] quint32 NoOfRows() const noexcept;
+  void setNoOfRows(quint32 rows);
+  void resetNoOfRows() { setNoOfRows(0); }
+  /// @}
+
+  /// @{
+  /// The whole matrix, as a copy with buffers of its own. Setting copies as well, and sets the
+  /// numbers of rows and columns; in virtual mode each element goes through the events. EMathError
+  /// with rsMatrixRect for rows of different lengths. O(elements).
+  [[nodiscard]] TQorFloatMatrix Matrix() const;
+  void setMatrix(const TQorFloatMatrix& matrix);
+  /// @}
+
+  /// @{
+  /// One element. EMathError: rsMatrixIsEmpty, then rsInvalidRow, then rsInvalidCol when there is
+  /// no such element. A text that is being typed stays, whichever element is set.
+  [[nodiscard]] Extended Element(quint32 row, quint32 col) const;
+  void setElement(quint32 row, quint32 col, Extended value);
+  /// @}
+
+  /// @{
+  /// The current column; see CurrentRow.
+  [[nodiscard]] quint32 CurrentCol() const noexcept;
+  void setCurrentCol(quint32 col);
+  /// @}
+
+  /// @{
+  /// The row and the column of cells that have the focus, or had it last, counted from 0. Setting
+  /// gives the focus to a cell that shows an element; others are ignored.
+  [[nodiscard]] quint32 RowEditFocus() const noexcept;
+  void setRowEditFocus(quint32 edit);
+  [[nodiscard]] quint32 ColEditFocus() const noexcept;
+  void setColEditFocus(quint32 edit);
+  /// @}
+
+  /// @{
+  /// Scrolls the columns as ScrollUp, ScrollDown, ScrollTop and ScrollBottom scroll the rows.
+  void ScrollLeft(quint32 cols);
+  void ScrollRight(quint32 cols);
+  void ScrollLeftMost();
+  void ScrollRightMost();
+  /// @}
+
+  /// @{
+  /// The routine of matrices of the same effect, on the whole matrix: see SwapMatrixRows,
+  /// SwapMatrixCols, LinearTransformMatrix, SquareMatrix, SqrtMatrix, InvMatrix (reciprocals of the
+  /// elements), LnMatrix, Log10Matrix, TransposeMatrix, RowEchelonForm, ScaleMatrixRow,
+  /// ScaleMatrixCol, AddMatrixRows and AddMatrixCols. What they raise reaches the caller. Each can
+  /// be taken back, for which it keeps a copy of the matrix. In virtual mode they only redisplay.
+  void SwapRows(quint32 first, quint32 second);
+  void SwapColumns(quint32 first, quint32 second);
+  void LinearTransform(Extended slope, Extended intercept);
+  void Sqr();
+  void Sqrt();
+  void Invert();
+  void Ln();
+  void Log10();
+  void Transpose();
+  void RowReduce();
+  void ScaleRow(quint32 row, Extended factor);
+  void ScaleCol(quint32 col, Extended factor);
+  void AddRows(quint32 target, quint32 source, Extended factor);
+  void AddCols(quint32 target, quint32 source, Extended factor);
+  /// @}
+  /// The inverse matrix, by MatrixInverse. EMathError with rsNoInvert for a singular matrix, which
+  /// stays as it is. In virtual mode it only redisplays.
+  void Inverse();
+
+  /// Gives the elements in virtual mode; may be called at any time.
+  TQorGetMatrixElementEvent OnGetElement;
+  /// Gives the colours of texts, at every redisplay; empty for none.
+  TQorSpecialColorEvent OnSpecialColor;
+
+ Q_SIGNALS:
+  /// The user has changed the element.
+  void OnChange(quint32 row, quint32 col);
+  /// The user is typing this text into the cell of the element.
+  void OnChangeText(quint32 row, quint32 col, const QString& text);
+  /// The user has made the element null; OnChange follows.
+  void OnNull(quint32 row, quint32 col);
+  /// In virtual mode: keep this value.
+  void OnSetElement(quint32 row, quint32 col, long double value);
+  /// DisplayLeftCol is about to become the given column.
+  void OnLeftChange(quint32 left);
+  /// @{
+  /// The number of rows or columns is another one.
+  void OnNoRowsChange(quint32 rows);
+  void OnNoColsChange(quint32 cols);
+  /// @}
+  /// The current column has changed.
+  void OnCurrColChange(quint32 before, quint32 now);
+  /// The focus has left the cell of the element, whose text is committed.
+  void OnCellExit(quint32 row, quint32 col);
+  /// The focus has come to the cell of the element.
+  void OnCellEnter(quint32 row, quint32 col);
+  /// The button in the corner where the scroll bars meet has been clicked.
+  void OnCornerBtnClick();
+
+ protected:
+  /// A grid without cells, which the derived class builds when it can make them.
+  TQorCustomMatrixEdit(QWidget* parent, CellFactory make_cell);
+  /// Makes the cells of an empty matrix.
+  void BuildGrid();
+
+  /// @{
+  /// The matrix as the table of the panel.
+  [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
+  void Store(quint32 row, quint32 col, Extended value) override;
+  void Notify(CellEvent what, quint32 row, quint32 col) override;
+  void NotifyText(quint32 row, quint32 col, const QString& text) override;
+  [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
+  [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
+  void LeftChange(quint32 left) override;
+  void CurrColChange(quint32 before, quint32 now) override;
+  void VirtualModeChanged() override;
+  void Arrange() override;
+  /// @}
+
+  /// The button in the corner has been clicked.
+  void CornerClick();
+  /// EMathError unless there is such an element; as many columns as given count as there.
+  void CheckElement(quint32 row, quint32 col, quint64 cols) const;
+
+ private:
+  static constexpr int kDefaultColEdits = 3;
+  static constexpr int kDefaultRowEdits = 4;
+
+  void ResizeRows(quint32 rows);
+  void ResizeCols(quint32 cols);
+  void FitStore(quint32 rows, quint32 cols);
+  // Takes a matrix with buffers of its own in place of the one that is here.
+  void Take(TQorFloatMatrix matrix);
+  // A command that makes one matrix of another and can be taken back.
+  void MatrixCommand(const std::function<void(TQorFloatMatrix& matrix)>& command);
+
+  QToolButton* corner_ = nullptr;
+  TQorFloatMatrix store_;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexMatrixEdit)

@@ -1,0 +1,96 @@
+// The commands of the editors of matrices.
+
+#include <memory>
+#include <utility>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/controls/custom_matrix_edit.h"
+#include "qorvex/matrix/building.h"
+#include "qorvex/matrix/reduction.h"
+#include "qorvex/matrix/row_operations.h"
+#include "qorvex/matrix/transforms.h"
+#include "qorvex/matrix/transpose.h"
+
+namespace qorvex::inline QorvexMatrixEdit {
+
+void TQorCustomMatrixEdit::MatrixCommand(
+    const std::function<void(TQorFloatMatrix& matrix)>& command) {
+  Command([&] {
+    // The command works on a copy, and the matrix that it began with is what brings it back.
+    const auto other = std::make_shared<TQorFloatMatrix>(CopyMatrix(store_));
+    command(*other);
+    const auto exchange = [this, other] {
+      TQorFloatMatrix before = store_;
+      Take(std::exchange(*other, TQorFloatMatrix()));
+      *other = std::move(before);
+    };
+    exchange();
+    Remember(exchange);
+  });
+}
+
+void TQorCustomMatrixEdit::SwapRows(quint32 first, quint32 second) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { SwapMatrixRows(matrix, first, second); });
+}
+
+void TQorCustomMatrixEdit::SwapColumns(quint32 first, quint32 second) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { SwapMatrixCols(matrix, first, second); });
+}
+
+void TQorCustomMatrixEdit::LinearTransform(Extended slope, Extended intercept) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { LinearTransformMatrix(matrix, slope, intercept); });
+}
+
+void TQorCustomMatrixEdit::Sqr() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { SquareMatrix(matrix); });
+}
+
+void TQorCustomMatrixEdit::Sqrt() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { SqrtMatrix(matrix); });
+}
+
+void TQorCustomMatrixEdit::Invert() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { InvMatrix(matrix); });
+}
+
+void TQorCustomMatrixEdit::Ln() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { LnMatrix(matrix); });
+}
+
+void TQorCustomMatrixEdit::Log10() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { Log10Matrix(matrix); });
+}
+
+void TQorCustomMatrixEdit::Transpose() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { matrix = TransposeMatrix(matrix); });
+}
+
+void TQorCustomMatrixEdit::RowReduce() {
+  MatrixCommand([](TQorFloatMatrix& matrix) { RowEchelonForm(matrix); });
+}
+
+void TQorCustomMatrixEdit::ScaleRow(quint32 row, Extended factor) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { ScaleMatrixRow(matrix, row, factor); });
+}
+
+void TQorCustomMatrixEdit::ScaleCol(quint32 col, Extended factor) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { ScaleMatrixCol(matrix, col, factor); });
+}
+
+void TQorCustomMatrixEdit::AddRows(quint32 target, quint32 source, Extended factor) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { AddMatrixRows(matrix, target, source, factor); });
+}
+
+void TQorCustomMatrixEdit::AddCols(quint32 target, quint32 source, Extended factor) {
+  MatrixCommand([=](TQorFloatMatrix& matrix) { AddMatrixCols(matrix, target, source, factor); });
+}
+
+void TQorCustomMatrixEdit::Inverse() {
+  MatrixCommand([](TQorFloatMatrix& matrix) {
+    TQorFloatMatrix inverse;
+    if (!MatrixInverse(matrix, inverse)) RaiseMathError(rsNoInvert);
+    matrix = inverse;
+  });
+}
+
+}  // namespace qorvex::inline QorvexMatrixEdit
