@@ -4,6 +4,7 @@
 /// A window with an editor in it, whose signals are written down as one short text each.
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QStringList>
