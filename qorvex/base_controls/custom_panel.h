@@ -32,7 +32,9 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   /// Brackets an update for as long as it lives, whatever is raised meanwhile.
   class [[nodiscard]] Update {
    public:
+    /// Begins the update.
     explicit Update(TQorCustomPanel& panel) noexcept : panel_(panel) { panel_.BeginUpdate(); }
+    /// Ends it.
     ~Update() noexcept(false) { panel_.EndUpdate(); }
     Update(const Update&) = delete;
     Update& operator=(const Update&) = delete;
