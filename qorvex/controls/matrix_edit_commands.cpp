@@ -26,7 +26,8 @@ void TQorCustomMatrixEdit::MatrixCommand(
 }
 
 void TQorCustomMatrixEdit::ExchangeStore(TQorFloatMatrix& other) {
-  TQorFloatMatrix before = FullStore();
+  // Moved out, since the store must not share rows that are about to change their lengths.
+  TQorFloatMatrix before = std::move(FullStore());
   Take(std::exchange(other, std::move(before)));
 }
 
