@@ -243,9 +243,14 @@ QString TQorCustomMatrixEdit::CellName(quint32 row, quint32 col) const {
 }
 
 QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended value) const {
-  QColor color;
-  if (OnSpecialColor) OnSpecialColor(row, col, value, color);
-  return color;
+  if (!OnSpecialColor) return {};
+  const EditColors colors = EffectiveSettings().colors;
+  QColor usual = palette().color(QPalette::Text);
+  if (colors.text.isValid()) usual = colors.text;
+  if (value < 0 && colors.negative_text.isValid()) usual = colors.negative_text;
+  QColor color = usual;
+  OnSpecialColor(row, col, value, color);
+  return color == usual ? QColor() : color;
 }
 
 void TQorCustomMatrixEdit::LeftChange(quint32 left) {

@@ -231,12 +231,14 @@ TEST_F(MatrixEdit, VirtualModeAsksForWhatItShows) {
 
 TEST_F(MatrixEdit, ColoursCopiesPastesAndNamesItsCells) {
   Open(3, 3);
+  editor->setColorSetText(Qt::blue);
   editor->OnSpecialColor = [](quint32 row, quint32 col, Extended, QColor& color) {
+    EXPECT_EQ(color, QColor(Qt::blue));
     if (row == col) color = Qt::red;
   };
   editor->Redisplay();
   EXPECT_EQ(At(1, 1)->palette().color(QPalette::Text), QColor(Qt::red));
-  EXPECT_NE(At(1, 0)->palette().color(QPalette::Text), QColor(Qt::red));
+  EXPECT_EQ(At(1, 0)->palette().color(QPalette::Text), QColor(Qt::blue));
   EXPECT_EQ(At(2, 1)->accessibleName(), "Row 3, column 2");
   editor->CopyAll();
   EXPECT_EQ(QApplication::clipboard()->text(), "0\t1\t2\n10\t11\t12\n20\t21\t22\n");
