@@ -32,8 +32,9 @@ enum class CurrentRule;
 }  // namespace detail
 /// @endcond
 
-/// A grid of cells with a scroll bar beside it. The cells show the part of a table that begins at
-/// DisplayTopRow; the table itself is behind the pure functions below.
+/// A grid of cells with a scroll bar beside it, and one below it where the table has columns. The
+/// cells show the part of a table that begins at DisplayTopRow; the table itself is behind the pure
+/// functions below.
 ///
 /// Keys: Enter and Ctrl+Down go to the cell below, Ctrl+Up to the one above, and the table scrolls
 /// where the window ends; the page keys scroll by a window. Ctrl+Z takes back the last change by
@@ -46,8 +47,8 @@ enum class CurrentRule;
 /// given up where it is no number.
 ///
 /// Handlers of signals may do anything but destroy the control: deleteLater serves, unless the
-/// handler runs an event loop of its own.
-/// A redisplay costs O(cells), whatever the size of the table.
+/// handler runs an event loop of its own. A redisplay costs O(cells), whatever the size of the
+/// table.
 class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   Q_OBJECT
 
@@ -275,7 +276,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void CommitPending();
   /// Lets the keys, the wheel and the mouse of a widget count as those of a cell.
   void Watch(QWidget* widget);
-  /// Places the cells and the bar.
+  /// Places the cells and the bars.
   virtual void Arrange();
   /// The settings that count: the control's own or the shared ones.
   [[nodiscard]] CellSettings EffectiveSettings() const;
