@@ -111,7 +111,7 @@ TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
 }
 
 void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
-  if (!MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
+  if (!matrix.empty() && !MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
   CommitPending();
   Forget();
   Take(CopyMatrix(matrix));

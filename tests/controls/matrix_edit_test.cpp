@@ -199,7 +199,9 @@ TEST_F(MatrixEdit, OwnsARectangularMatrix) {
   editor->setNoOfCols(3);
   editor->setElement(0, 2, 5);
   EXPECT_TRUE(Same(editor->Matrix(), {{0, 0, 5}, {10, 0, 0}}));
-  editor->setNoOfRows(0);
+  editor->setMatrix({});
+  EXPECT_EQ(editor->NoOfRows(), 0U);
+  EXPECT_EQ(editor->NoOfCols(), 0U);
   EXPECT_MATH_ERROR(std::ignore = editor->Element(0, 0), rsMatrixIsEmpty);
 }
 
