@@ -1,0 +1,1 @@
+#include "apps/qorvex-gallery/plot/plot_view.h"
