@@ -23,7 +23,8 @@ void BackgroundTask::Start(Work work) {
     } catch (const std::exception& exception) {
       error = QString::fromUtf8(exception.what());
     }
-    QMetaObject::invokeMethod(this, [this, error] { Finish(error); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, error] { Finish(error); }, Qt::QueuedConnection);
   });
 }
 

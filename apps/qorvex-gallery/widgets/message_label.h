@@ -7,8 +7,8 @@
 
 namespace qorvex::gallery {
 
-/// A line or two in a warning colour that suits light and dark palettes. It keeps its place while it
-/// is empty, so that nothing jumps.
+/// A line or two in a warning colour that suits light and dark palettes. It keeps its place while
+/// it is empty, so that nothing jumps.
 class MessageLabel : public QLabel {
   Q_OBJECT
 

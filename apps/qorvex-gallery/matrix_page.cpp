@@ -1,0 +1,277 @@
+#include "apps/qorvex-gallery/matrix_page.h"
+
+#include <QFileDialog>
+#include <QFontDatabase>
+#include <QFormLayout>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QTimer>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <exception>
+
+#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/widgets/parameter_form.h"
+#include "apps/qorvex-gallery/widgets/side_panel.h"
+#include "apps/qorvex/matrix_reader.h"
+#include "qorvex/base_controls/text_cell.h"
+#include "qorvex/controls/QorvexMatrixEdit.h"
+#include "qorvex/controls/QorvexMatrixFractEdit.h"
+#include "qorvex/matrix/building.h"
+#include "qorvex/matrix/reduction.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+constexpr int kMostRows = 1000;
+// An elimination of this size takes some milliseconds, as does whatever happens at every key.
+constexpr std::size_t kMostEliminated = 200;
+constexpr int kRowCells = 7;
+constexpr int kColCells = 4;
+
+// Bit by bit, so that a null equals itself.
+bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
+  const auto same_element = [](Extended x, Extended y) { return x == y || (x != x && y != y); };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](const auto& x, const auto& y) {
+    return std::equal(x.begin(), x.end(), y.begin(), y.end(), same_element);
+  });
+}
+
+QSpinBox* SizeBox(const char* name, const QString& accessible_name) {
+  auto* const box = new QSpinBox;
+  box->setObjectName(QLatin1String(name));
+  box->setAccessibleName(accessible_name);
+  box->setRange(1, kMostRows);
+  box->setKeyboardTracking(false);
+  return box;
+}
+
+QLabel* FigureLabel(const char* name) {
+  auto* const label = new QLabel;
+  label->setObjectName(QLatin1String(name));
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  return label;
+}
+
+}  // namespace
+
+MatrixPage::MatrixPage(QWidget* parent)
+    : QWidget(parent),
+      decimals_(new TQorMatrixEdit),
+      fractions_(new TQorMatrixFractEdit),
+      rows_(SizeBox("rows", tr("Rows"))),
+      cols_(SizeBox("columns", tr("Columns"))),
+      determinant_(FigureLabel("determinant")),
+      rank_(FigureLabel("rank")),
+      message_(new MessageLabel),
+      edited_(decimals_) {
+  setObjectName(QStringLiteral("matrix"));
+  decimals_->setObjectName(QStringLiteral("decimals"));
+  fractions_->setObjectName(QStringLiteral("fractions"));
+  message_->setObjectName(QStringLiteral("message"));
+  for (TQorCustomMatrixEdit* const editor : {static_cast<TQorCustomMatrixEdit*>(decimals_),
+                                             static_cast<TQorCustomMatrixEdit*>(fractions_)}) {
+    editor->setNoOfRowEdits(kRowCells);
+    editor->setNoOfColEdits(kColCells);
+    editor->setCellHeight(26);
+    editor->setCellWidth(88);
+    connect(editor, &TQorCustomMatrixEdit::OnChange, this, [this, editor] {
+      edited_ = editor;
+      message_->clear();
+      Follow();
+    });
+    connect(editor, &TQorCustomMatrixEdit::OnBlockRefused, message_, &QLabel::setText);
+  }
+  decimals_->setDecimalPlaces(6);
+  decimals_->setTrimTrailingZeroes(true);
+  // A command that is taken back by a key or the menu tells nobody, but is displayed.
+  decimals_->OnSpecialColor = [this](quint32, quint32, Extended, QColor&) {
+    if (follow_pending_) return;
+    follow_pending_ = true;
+    QTimer::singleShot(0, this, &MatrixPage::Follow);
+  };
+
+  auto* const panel = new SidePanel;
+  QVBoxLayout* const matrix = panel->AddGroup(tr("Matrix"));
+  auto* const size = new QHBoxLayout;
+  size->addWidget(rows_, 1);
+  size->addWidget(new QLabel(QStringLiteral("×")));
+  size->addWidget(cols_, 1);
+  auto* const form = new QFormLayout;
+  form->addRow(tr("Size"), size);
+  matrix->addLayout(form);
+  auto* const sources = new QHBoxLayout;
+  auto* const example = new QPushButton(tr("&Example"));
+  auto* const open = new QPushButton(tr("&Open…"));
+  sources->addWidget(example, 1);
+  sources->addWidget(open, 1);
+  matrix->addLayout(sources);
+  panel->AddGroup(tr("Commands"))->addWidget(MakeCommands());
+  QVBoxLayout* const properties = panel->AddGroup(tr("Properties"));
+  auto* const figures = new QFormLayout;
+  figures->addRow(tr("Determinant"), determinant_);
+  figures->addRow(tr("Rank"), rank_);
+  properties->addLayout(figures);
+  panel->Finish();
+
+  auto* const grid = new QGridLayout;
+  grid->setContentsMargins(12, 4, 4, 4);
+  grid->setHorizontalSpacing(24);
+  grid->setVerticalSpacing(8);
+  grid->addWidget(new QLabel(tr("Decimals")), 0, 0);
+  grid->addWidget(new QLabel(tr("Fractions")), 0, 1);
+  grid->addWidget(decimals_, 1, 0, Qt::AlignLeft | Qt::AlignTop);
+  grid->addWidget(fractions_, 1, 1, Qt::AlignLeft | Qt::AlignTop);
+  grid->addWidget(message_, 2, 0, 1, 2);
+  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(3, 1);
+  auto* const layout = new QHBoxLayout(this);
+  layout->addWidget(panel);
+  layout->addLayout(grid, 1);
+
+  for (QSpinBox* const box : {rows_, cols_})
+    connect(box, &QSpinBox::valueChanged, this, &MatrixPage::Resize);
+  connect(example, &QPushButton::clicked, this, &MatrixPage::ShowExample);
+  connect(open, &QPushButton::clicked, this, &MatrixPage::AskAndOpen);
+  ShowExample();
+}
+
+MatrixPage::~MatrixPage() = default;
+
+QWidget* MatrixPage::MakeCommands() {
+  auto* const bar = new QWidget;
+  auto* const grid = new QGridLayout(bar);
+  grid->setContentsMargins(0, 0, 0, 0);
+  const auto add_command = [&](const QString& text, const char* name, const QString& tip,
+                               void (TQorMatrixEdit::*command)()) {
+    AddButton(bar, text, name, tip, [this, command] { Run([&] { (decimals_->*command)(); }); });
+  };
+  add_command(tr("&Transpose"), "transpose", tr("Rows become columns"), &TQorMatrixEdit::Transpose);
+  add_command(tr("&Inverse"), "inverse", tr("The inverse of the matrix"), &TQorMatrixEdit::Inverse);
+  add_command(tr("Row &Echelon"), "row_reduce", tr("Reduces the matrix to row echelon form"),
+              &TQorMatrixEdit::RowReduce);
+  add_command(tr("Reci&procals"), "reciprocals", tr("1 divided by each element"),
+              &TQorMatrixEdit::Invert);
+  add_command(tr("S&quares"), "squares", tr("Each element squared"), &TQorMatrixEdit::Sqr);
+  add_command(tr("Square &Roots"), "square_roots", tr("The square root of each element"),
+              &TQorMatrixEdit::Sqrt);
+  add_command(tr("&ln"), "ln", tr("The natural logarithm of each element"), &TQorMatrixEdit::Ln);
+  add_command(tr("lo&g10"), "log10", tr("The decimal logarithm of each element"),
+              &TQorMatrixEdit::Log10);
+  AddButton(bar, tr("&Undo"), "undo", tr("Takes the last change back"), [this] { Exchange(true); });
+  AddButton(bar, tr("Re&do"), "redo", tr("Makes the last change again"),
+            [this] { Exchange(false); });
+  return bar;
+}
+
+void MatrixPage::AddButton(QWidget* bar, const QString& text, const char* name, const QString& tip,
+                           const std::function<void()>& action) {
+  auto* const button = new QPushButton(text);
+  button->setObjectName(QLatin1String(name));
+  button->setToolTip(tip);
+  auto* const grid = static_cast<QGridLayout*>(bar->layout());
+  const int index = grid->count();
+  grid->addWidget(button, index / 2, index % 2);
+  connect(button, &QPushButton::clicked, this, action);
+}
+
+void MatrixPage::Run(const std::function<void()>& command) {
+  CommitTexts();
+  message_->clear();
+  try {
+    command();
+    edited_ = decimals_;
+  } catch (const std::exception& error) {
+    message_->setText(QString::fromUtf8(error.what()));
+  }
+  Follow();
+}
+
+void MatrixPage::Exchange(bool undo) {
+  CommitTexts();
+  message_->clear();
+  undo ? edited_->Undo() : edited_->Redo();
+  Follow();
+}
+
+void MatrixPage::CommitTexts() {
+  for (TextCell* const cell : findChildren<TextCell*>()) cell->CommitOrRestore();
+}
+
+void MatrixPage::ShowExample() {
+  Run([this] { decimals_->setMatrix({{2, 1, 1}, {1, 3, 2}, {1, 0, 4}}); });
+}
+
+void MatrixPage::AskAndOpen() {
+  const QString path = QFileDialog::getOpenFileName(
+      this, tr("Open a Matrix"), {}, tr("Delimited text (*.csv *.tsv *.txt);;All files (*)"));
+  if (!path.isEmpty()) Open(path);
+}
+
+void MatrixPage::Open(const QString& path) {
+  Run([&] {
+    const TQorFloatMatrix matrix =
+        cli::ReadMatrix(cli::OpenTextInput(path.toStdString()), cli::MatrixLayout{});
+    if (matrix.size() > kMostRows || matrix[0].size() > kMostRows) {
+      message_->setText(tr("More than %L1 rows or columns are too many here").arg(kMostRows));
+      return;
+    }
+    decimals_->setMatrix(matrix);
+  });
+}
+
+void MatrixPage::Resize() {
+  Run([this] {
+    decimals_->setNoOfRows(static_cast<quint32>(rows_->value()));
+    decimals_->setNoOfCols(static_cast<quint32>(cols_->value()));
+  });
+}
+
+void MatrixPage::Follow() {
+  follow_pending_ = false;
+  const TQorFloatMatrix matrix = edited_->Matrix();
+  if (Same(matrix, shown_)) return;
+  shown_ = matrix;
+  if (edited_ == decimals_) {
+    fractions_->setMatrix(matrix);
+  } else {
+    decimals_->setMatrix(matrix);
+  }
+  const QSignalBlocker no_rows(rows_);
+  const QSignalBlocker no_cols(cols_);
+  rows_->setValue(static_cast<int>(decimals_->NoOfRows()));
+  cols_->setValue(static_cast<int>(decimals_->NoOfCols()));
+  ShowProperties(matrix);
+}
+
+void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
+  determinant_->setText(QStringLiteral("—"));
+  rank_->setText(QStringLiteral("—"));
+  const QString too_large = tr("Not computed beyond %L1 rows").arg(kMostEliminated);
+  determinant_->setToolTip({});
+  const std::size_t rows = matrix.size();
+  const std::size_t cols = rows == 0 ? 0 : matrix[0].size();
+  if (std::max(rows, cols) > kMostEliminated) {
+    determinant_->setText(too_large);
+    rank_->setText(too_large);
+    return;
+  }
+  try {
+    TQorFloatMatrix reduced = CopyMatrix(matrix);
+    std::uint32_t rank = 0;
+    RowEchelonFormRank(reduced, rank);
+    rank_->setText(QLocale().toString(rank));
+    reduced = CopyMatrix(matrix);
+    determinant_->setText(rows == cols ? ExactText(MatrixDeterminant(reduced))
+                                       : tr("of square matrices only"));
+  } catch (const std::exception& error) {
+    determinant_->setToolTip(QString::fromUtf8(error.what()));
+  }
+}
+
+}  // namespace qorvex::gallery
