@@ -1,0 +1,31 @@
+#pragma once
+
+/// @file
+/// TallEditor, room for an editor of a vector that shows as many elements as fit.
+
+#include <QWidget>
+
+#include "qorvex/controls/QorvexVectorEdit.h"
+
+namespace qorvex::gallery {
+
+/// Holds an editor, as wide as that, and gives it as many cells as the height has room for.
+class TallEditor : public QWidget {
+ public:
+  /// Takes the editor over.
+  explicit TallEditor(TQorVectorEdit* editor, QWidget* parent = nullptr);
+  ~TallEditor() override;
+
+  [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  [[nodiscard]] int HeightOf(int cells) const;
+
+  TQorVectorEdit* editor_;
+};
+
+}  // namespace qorvex::gallery
