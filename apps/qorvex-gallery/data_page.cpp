@@ -135,8 +135,8 @@ DataPage::DataPage(QWidget* parent)
   results->addWidget(MakeHeading(tr("Histogram")));
   results->addWidget(plot_, 1);
   auto* const body = new QHBoxLayout;
-  body->setSpacing(2 * fontMetrics().height());
   body->addLayout(values);
+  body->addSpacing(fontMetrics().height());
   body->addLayout(results, 1);
 
   auto* const layout = new QVBoxLayout(this);
@@ -340,10 +340,20 @@ void DataPage::EndReading(const Reading& reading) {
   } else {
     message_->SetText(std::get<QString>(reading));
   }
+  editor_->setLabelWidth(LabelWidth());
   editor_->setVector(values);
   editor_->ScrollTop();
   Refresh();
   Q_EMIT ReadingEnded();
+}
+
+// Of the names that are seen first, within bounds.
+int DataPage::LabelWidth() const {
+  constexpr qsizetype looked_at = 1000;
+  int width = 6 * fontMetrics().averageCharWidth();
+  for (const QString& name : row_names_.mid(0, looked_at))
+    width = std::max(width, fontMetrics().horizontalAdvance(name + QStringLiteral("  ")));
+  return std::min(width, 20 * fontMetrics().averageCharWidth());
 }
 
 void DataPage::ShowSource() {

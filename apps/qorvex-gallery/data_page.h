@@ -72,6 +72,7 @@ class DataPage : public QWidget {
   void StopReading();
   void CancelReading();
   void EndReading(const Reading& reading);
+  [[nodiscard]] int LabelWidth() const;
   void ShowSource();
   void RefreshSoon();
   void Refresh();

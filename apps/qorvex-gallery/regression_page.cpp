@@ -14,10 +14,10 @@
 #include <optional>
 #include <utility>
 
+#include "apps/qorvex-gallery/example_pairs.h"
 #include "apps/qorvex-gallery/figure_table.h"
 #include "apps/qorvex-gallery/heading.h"
 #include "apps/qorvex-gallery/message_bar.h"
-#include "apps/qorvex-gallery/norris.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/tall_editor.h"
 #include "apps/qorvex/pair_fit.h"
@@ -91,8 +91,8 @@ RegressionPage::RegressionPage(QWidget* parent)
       remark_(new QLabel) {
   setObjectName("regressionPage");
   auto* const body = new QHBoxLayout;
-  body->setSpacing(2 * fontMetrics().height());
   body->addLayout(MakeEditors());
+  body->addSpacing(fontMetrics().height());
   body->addLayout(MakeResults(), 1);
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(message_);
@@ -124,7 +124,8 @@ QLayout* RegressionPage::MakeEditors() {
   auto* const rows_label = new QLabel(tr("&Pairs:"));
   rows_label->setBuddy(rows_);
   auto* const example = new QPushButton(tr("&Example"));
-  example->setToolTip(tr("Calibration of an ozone monitor, NIST set Norris"));
+  example->setToolTip(
+      tr("Year, and people of 14 years and more in the USA in thousands; Longley 1967"));
   connect(example, &QPushButton::clicked, this, &RegressionPage::ShowExample);
   auto* const head = new QHBoxLayout;
   head->addWidget(rows_label);
@@ -166,12 +167,12 @@ QLayout* RegressionPage::MakeResults() {
 
 void RegressionPage::ShowExample() {
   TQorFloatVector x, y;
-  for (const auto& [of_customer, of_standard] : kNorris) {
-    x.Append(of_customer);
-    y.Append(of_standard);
+  for (const auto& [year, people] : kExamplePairs) {
+    x.Append(year);
+    y.Append(people);
   }
   const QSignalBlocker blocker(rows_);
-  rows_->setValue(static_cast<int>(std::size(kNorris)));
+  rows_->setValue(static_cast<int>(std::size(kExamplePairs)));
   x_->setVector(x);
   y_->setVector(y);
   Refresh();

@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/tall_editor.h"
 
+#include <QEvent>
 #include <algorithm>
 
 namespace qorvex::gallery {
@@ -23,7 +24,20 @@ QSize TallEditor::minimumSizeHint() const {
   return {editor_->sizeHint().width(), HeightOf(4)};
 }
 
+bool TallEditor::event(QEvent* event) {
+  // The editor has become wider or narrower.
+  if (event->type() == QEvent::LayoutRequest) {
+    updateGeometry();
+    Fit();
+  }
+  return QWidget::event(event);
+}
+
 void TallEditor::resizeEvent(QResizeEvent*) {
+  Fit();
+}
+
+void TallEditor::Fit() {
   const int cells = (height() - HeightOf(0)) / editor_->CellHeight();
   editor_->setNoOfEdits(std::max(1, cells));
   editor_->resize(editor_->sizeHint());

@@ -20,9 +20,11 @@ class TallEditor : public QWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void Fit();
   [[nodiscard]] int HeightOf(int cells) const;
 
   TQorVectorEdit* editor_;

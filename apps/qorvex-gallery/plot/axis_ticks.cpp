@@ -15,8 +15,12 @@ Extended PowerOfTen(int exponent) {
 QString Label(double value, double largest, const RoundStep& step, const QLocale& locale) {
   constexpr double plain_below = 1e7;
   constexpr int plain_decimals = 5;
-  if (largest < plain_below && step.exponent >= -plain_decimals)
-    return locale.toString(value, 'f', std::max(0, -step.exponent));
+  if (largest < plain_below && step.exponent >= -plain_decimals) {
+    QLocale plain = locale;
+    // Years have no groups.
+    if (largest < 10000) plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    return plain.toString(value, 'f', std::max(0, -step.exponent));
+  }
   if (value == 0) return locale.toString(0);
   const int digits = static_cast<int>(std::floor(std::log10(std::fabs(value)))) - step.exponent;
   return locale.toString(value, 'e', std::max(0, digits));
