@@ -50,10 +50,11 @@ AxisTicks TicksBetween(double low, double high, int most, const QLocale& locale)
   if (range < distinct * largest) return ticks;
 
   const RoundStep step = RoundStep::AtLeast(range / static_cast<Extended>(std::max(2, most)));
-  const Extended first = std::ceil(low / step.Times(1));
-  for (Extended i = first; step.Times(i) <= high; ++i) {
+  // As doubles, because the ends may be round numbers that were rounded to doubles.
+  for (Extended i = std::floor(low / step.Times(1));; ++i) {
     const auto value = static_cast<double>(step.Times(i));
     if (value < low) continue;
+    if (value > high) break;
     ticks.values.push_back(value);
     ticks.labels.append(Label(value, largest, step, locale));
   }
