@@ -64,7 +64,7 @@ PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_de
   constexpr Extended reach = 3;
   PlotLayer layer{PlotShape::kLine,
                   PlotRole::kModel,
-                  DataPage::tr("Normal density with their mean and standard deviation"),
+                  DataPage::tr("Normal density of the same mean and standard deviation"),
                   {}};
   const Extended low = std::min(histogram.edges.front(), mean - reach * std_dev);
   const Extended high = std::max(histogram.edges.back(), mean + reach * std_dev);
@@ -102,6 +102,7 @@ DataPage::DataPage(QWidget* parent)
       message_(new MessageBar),
       progress_(MakeProgress()),
       editor_(new TQorLabelledVectorEdit),
+      tall_editor_(new TallEditor(editor_)),
       decimals_(new QSpinBox),
       population_(new QCheckBox(tr("Whole &population (divide by n)"))),
       report_(new FigureTable(
@@ -118,7 +119,6 @@ DataPage::DataPage(QWidget* parent)
   };
   editor_->setCellWidth(14 * fontMetrics().averageCharWidth());
   editor_->setBlankWhenNull(true);
-  editor_->setFullAccuracy(true);
   connect(editor_, &TQorVectorEdit::OnChange, this, &DataPage::RefreshSoon);
   connect(editor_, &TQorVectorEdit::OnBlockRefused, message_, &MessageBar::SetText);
 
@@ -127,20 +127,24 @@ DataPage::DataPage(QWidget* parent)
   plot_->SetPlaceholder(tr("No values to show"));
 
   auto* const values = new QVBoxLayout;
-  values->addWidget(MakeHeading(tr("&Values"), editor_));
-  values->addWidget(new TallEditor(editor_), 1);
+  QLabel* const heading = MakeHeading(tr("&Values"), editor_);
+  // On the line of the other heading, which has a spin box beside it.
+  heading->setMinimumHeight(decimals_->sizeHint().height());
+  values->addWidget(heading);
+  values->addWidget(tall_editor_, 1);
   auto* const results = new QVBoxLayout;
   results->addLayout(MakeReport());
   results->addSpacing(fontMetrics().height() / 2);
   results->addWidget(MakeHeading(tr("Histogram")));
   results->addWidget(plot_, 1);
   auto* const body = new QHBoxLayout;
-  body->setSpacing(2 * fontMetrics().height());
   body->addLayout(values);
+  body->addSpacing(fontMetrics().height());
   body->addLayout(results, 1);
 
   auto* const layout = new QVBoxLayout(this);
   layout->addLayout(MakeHeader());
+  layout->addSpacing(fontMetrics().height() / 2);
   layout->addWidget(message_);
   layout->addWidget(progress_);
   layout->addLayout(body, 1);
@@ -340,10 +344,20 @@ void DataPage::EndReading(const Reading& reading) {
   } else {
     message_->SetText(std::get<QString>(reading));
   }
+  editor_->setLabelWidth(LabelWidth());
   editor_->setVector(values);
   editor_->ScrollTop();
   Refresh();
   Q_EMIT ReadingEnded();
+}
+
+// Of the names that are seen first, within bounds.
+int DataPage::LabelWidth() const {
+  constexpr qsizetype looked_at = 1000;
+  int width = 6 * fontMetrics().averageCharWidth();
+  for (const QString& name : row_names_.mid(0, looked_at))
+    width = std::max(width, fontMetrics().horizontalAdvance(name + QStringLiteral("  ")));
+  return std::min(width, 20 * fontMetrics().averageCharWidth());
 }
 
 void DataPage::ShowSource() {
@@ -364,6 +378,7 @@ void DataPage::Refresh() {
   refresh_is_due_ = false;
   const TQorFloatVector all = editor_->Vector();
   const TQorFloatVector values = WithoutNulls(all);
+  tall_editor_->FitFormat(values);
   stats_.setDecimalPlaces(decimals_->value());
   stats_.setPopulation(population_->isChecked());
   stats_.setValues(values);

@@ -22,6 +22,7 @@ namespace qorvex::gallery {
 class FigureTable;
 class MessageBar;
 class PlotView;
+class TallEditor;
 
 /// Shows a column of a file in an editor, its descriptive statistics, and its histogram with the
 /// normal density of the same mean and standard deviation. All of it follows every edit. Begins
@@ -72,6 +73,7 @@ class DataPage : public QWidget {
   void StopReading();
   void CancelReading();
   void EndReading(const Reading& reading);
+  [[nodiscard]] int LabelWidth() const;
   void ShowSource();
   void RefreshSoon();
   void Refresh();
@@ -90,6 +92,7 @@ class DataPage : public QWidget {
   QWidget* progress_;
   QProgressBar* progress_bar_;
   TQorLabelledVectorEdit* editor_;
+  TallEditor* tall_editor_;
   QSpinBox* decimals_;
   QCheckBox* population_;
   FigureTable* report_;

@@ -1,17 +1,15 @@
 #include "apps/qorvex-gallery/distribution_page.h"
 
 #include <QComboBox>
-#include <QFrame>
-#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QScrollArea>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
 #include <exception>
 
 #include "apps/qorvex-gallery/distribution_curve.h"
+#include "apps/qorvex-gallery/figure_table.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/message_label.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
@@ -22,7 +20,6 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr std::size_t kFigures = 5;
 // Beyond these, stems would merge into an area.
 constexpr std::size_t kMostStems = 150;
 
@@ -34,13 +31,6 @@ Points Within(const Points& curve, Extended from, Extended to) {
   std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
                [&](const QPointF& point) { return point.x() >= from && point.x() <= to; });
   return part;
-}
-
-QLabel* SelectableLabel(QWidget* parent) {
-  auto* const label = new QLabel(parent);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  label->setTextFormat(Qt::PlainText);
-  return label;
 }
 
 }  // namespace
@@ -58,10 +48,11 @@ DistributionPage::DistributionPage(QWidget* parent)
       points_message_(new MessageLabel),
       side_(new QComboBox),
       probability_(MakeNumberCell(0.975L, tr("Probability"), this)),
-      quantile_(SelectableLabel(this)),
+      quantile_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       quantile_message_(new MessageLabel),
-      plot_(new PlotView) {
-  setObjectName(QStringLiteral("distribution"));
+      plot_(new PlotView),
+      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})) {
+  setObjectName(QStringLiteral("distributionPage"));
   family_->setObjectName(QStringLiteral("family"));
   family_->setAccessibleName(tr("Family of distributions"));
   question_->setObjectName(QStringLiteral("question"));
@@ -72,6 +63,7 @@ DistributionPage::DistributionPage(QWidget* parent)
   side_->setAccessibleName(tr("Which probability"));
   quantile_->setObjectName(QStringLiteral("quantile"));
   plot_->setObjectName(QStringLiteral("plot"));
+  figures_->setObjectName(QStringLiteral("figures"));
 
   for (const cli::Distribution& distribution : cli::Distributions())
     family_->addItem(Title(QString::fromUtf8(distribution.name)));
@@ -104,21 +96,9 @@ DistributionPage::DistributionPage(QWidget* parent)
   quantile->addWidget(quantile_message_);
   panel->Finish();
 
-  auto* const figures = new QFrame;
-  auto* const grid = new QGridLayout(figures);
-  grid->setContentsMargins(12, 0, 12, 4);
-  grid->setHorizontalSpacing(16);
-  grid->setColumnStretch(1, 1);
-  for (std::size_t i = 0; i < kFigures; ++i) {
-    names_.push_back(new QLabel);
-    texts_.push_back(SelectableLabel(this));
-    texts_.back()->setObjectName(QStringLiteral("figure%1").arg(i));
-    grid->addWidget(names_.back(), static_cast<int>(i), 0);
-    grid->addWidget(texts_.back(), static_cast<int>(i), 1);
-  }
   auto* const right = new QVBoxLayout;
   right->addWidget(plot_, 1);
-  right->addWidget(figures);
+  right->addWidget(figures_);
 
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
@@ -182,11 +162,11 @@ void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
   if (Interval()) points.push_back(second_->Value());
   const cli::NumberKind kind =
       Family().is_discrete ? cli::NumberKind::kCount : cli::NumberKind::kReal;
-  points_message_->clear();
+  points_message_->Say({});
   for (const Extended point : points) {
     const char* const wrong = cli::WhatIsWrong(point, kind);
     if (wrong == nullptr) continue;
-    points_message_->setText(ExactText(point) + ' ' + tr(wrong));
+    points_message_->Say(ExactText(point) + ' ' + tr(wrong));
     return;
   }
   std::sort(points.begin(), points.end());
@@ -195,7 +175,7 @@ void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
     return ExactText(FigureAt(routine, parameters, point));
   };
   try {
-    std::vector<Figure> figures;
+    QList<QStringList> figures;
     const Extended a = points.front();
     if (Interval()) {
       std::vector<Extended> arguments = parameters;
@@ -223,34 +203,26 @@ void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
                  {tr("ln P(X > x)"), figure(routines.log_upper, a)}};
     }
     Draw(parameters, points);
-    ShowFigures(figures);
+    figures_->SetRows(figures);
   } catch (const std::exception& error) {
-    points_message_->setText(QString::fromUtf8(error.what()));
+    points_message_->Say(QString::fromUtf8(error.what()));
   }
 }
 
 void DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters) {
   const Extended probability = probability_->Value();
-  quantile_message_->clear();
+  quantile_message_->Say({});
   if (const char* const wrong = cli::WhatIsWrong(probability, cli::NumberKind::kProbability)) {
-    quantile_message_->setText(ExactText(probability) + ' ' + tr(wrong));
+    quantile_message_->Say(ExactText(probability) + ' ' + tr(wrong));
     return;
   }
   const cli::FullPrecisionRoutines& routines = Family().full_precision;
   try {
-    quantile_->setText(
-        ExactText(FigureAt(side_->currentIndex() == 0 ? routines.quantile : routines.upper_quantile,
-                           parameters, probability)));
+    const cli::DistributionRoutine routine =
+        side_->currentIndex() == 0 ? routines.quantile : routines.upper_quantile;
+    quantile_->SetRows({{tr("Quantile"), ExactText(FigureAt(routine, parameters, probability))}});
   } catch (const std::exception& error) {
-    quantile_message_->setText(QString::fromUtf8(error.what()));
-  }
-}
-
-void DistributionPage::ShowFigures(const std::vector<Figure>& figures) {
-  for (std::size_t i = 0; i < kFigures; ++i) {
-    names_[i]->setText(figures[i].name);
-    texts_[i]->setText(figures[i].text);
-    texts_[i]->setAccessibleName(figures[i].name);
+    quantile_message_->Say(QString::fromUtf8(error.what()));
   }
 }
 

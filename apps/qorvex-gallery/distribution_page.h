@@ -3,14 +3,12 @@
 /// @file
 /// DistributionPage, probabilities, densities and quantiles.
 
-#include <QString>
 #include <QWidget>
 #include <vector>
 
 #include "apps/qorvex/distributions.h"
 
 class QComboBox;
-class QGridLayout;
 class QLabel;
 
 namespace qorvex {
@@ -21,6 +19,7 @@ class TQorFloatEdit;
 
 namespace qorvex::gallery {
 
+class FigureTable;
 class MessageLabel;
 class ParameterForm;
 class PlotView;
@@ -36,16 +35,10 @@ class DistributionPage : public QWidget {
   ~DistributionPage() override;
 
  private:
-  struct Figure {
-    QString name;
-    QString text;
-  };
-
   void ShowFamily();
   void Update();
   void UpdatePoints(const std::vector<Extended>& parameters);
   void UpdateQuantile(const std::vector<Extended>& parameters);
-  void ShowFigures(const std::vector<Figure>& figures);
   void Draw(const std::vector<Extended>& parameters, const std::vector<Extended>& points);
   [[nodiscard]] const cli::Distribution& Family() const;
   [[nodiscard]] bool Interval() const;
@@ -61,11 +54,10 @@ class DistributionPage : public QWidget {
   MessageLabel* points_message_;
   QComboBox* side_;
   TQorFloatEdit* probability_;
-  QLabel* quantile_;
+  FigureTable* quantile_;
   MessageLabel* quantile_message_;
   PlotView* plot_;
-  std::vector<QLabel*> names_;
-  std::vector<QLabel*> texts_;
+  FigureTable* figures_;
 };
 
 }  // namespace qorvex::gallery

@@ -9,7 +9,7 @@ namespace qorvex::gallery {
 FigureTable::FigureTable(std::vector<Column> columns, QWidget* parent)
     : QWidget(parent), columns_(std::move(columns)), grid_(new QGridLayout(this)) {
   grid_->setContentsMargins(0, 0, 0, 0);
-  grid_->setHorizontalSpacing(2 * fontMetrics().averageCharWidth());
+  grid_->setHorizontalSpacing(3 * fontMetrics().averageCharWidth());
   grid_->setVerticalSpacing(4);
   // What is left of the width stays beside the table.
   grid_->setColumnStretch(static_cast<int>(columns_.size()), 1);

@@ -36,17 +36,22 @@ MainWindow::MainWindow(QWidget* parent)
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
-  pages_->addTab(data_, tr("Data"));
-  pages_->addTab(new MatrixPage, tr("Matrix"));
-  pages_->addTab(new DistributionPage, tr("Distribution"));
-  pages_->addTab(new RandomPage, tr("Random"));
-  pages_->addTab(new RegressionPage, tr("Regression"));
+  AddPage(data_, "data", tr("Data"));
+  AddPage(new MatrixPage, "matrix", tr("Matrix"));
+  AddPage(new DistributionPage, "distribution", tr("Distribution"));
+  AddPage(new RandomPage, "random", tr("Random"));
+  AddPage(new RegressionPage, "regression", tr("Regression"));
   setCentralWidget(pages_);
   MakeMenus();
   resize(1100, 720);
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::AddPage(QWidget* page, const char* name, const QString& title) {
+  page->setObjectName(QLatin1String(name));
+  pages_->addTab(page, title);
+}
 
 void MainWindow::MakeMenus() {
   QMenu* const file = menuBar()->addMenu(tr("&File"));

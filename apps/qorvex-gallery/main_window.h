@@ -23,7 +23,7 @@ class MainWindow : public QMainWindow {
   /// Shows the file on the page of data.
   void Open(const QString& path);
 
-  /// The pages, each with its name as objectName.
+  /// The pages, each with the name of its picture as objectName.
   [[nodiscard]] QTabWidget* Pages() const { return pages_; }
 
  protected:
@@ -31,6 +31,7 @@ class MainWindow : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
+  void AddPage(QWidget* page, const char* name, const QString& title);
   void MakeMenus();
   void ShowAbout();
 

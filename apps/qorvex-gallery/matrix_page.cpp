@@ -1,10 +1,8 @@
 #include "apps/qorvex-gallery/matrix_page.h"
 
 #include <QFileDialog>
-#include <QFontDatabase>
 #include <QFormLayout>
 #include <QGridLayout>
-#include <QGroupBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalBlocker>
@@ -14,10 +12,13 @@
 #include <algorithm>
 #include <exception>
 
-#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/figure_table.h"
+#include "apps/qorvex-gallery/heading.h"
+#include "apps/qorvex-gallery/message_bar.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 #include "apps/qorvex/matrix_reader.h"
+#include "qorvex/base/errors.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
@@ -31,8 +32,9 @@ namespace {
 constexpr int kMostRows = 1000;
 // An elimination of this size takes some milliseconds, as does whatever happens at every key.
 constexpr std::size_t kMostEliminated = 200;
-constexpr int kRowCells = 7;
-constexpr int kColCells = 4;
+// More scroll.
+constexpr quint32 kMostRowCells = 20;
+constexpr quint32 kMostColCells = 4;
 
 // Bit by bit, so that a null equals itself.
 bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
@@ -51,13 +53,6 @@ QSpinBox* SizeBox(const char* name, const QString& accessible_name) {
   return box;
 }
 
-QLabel* FigureLabel(const char* name) {
-  auto* const label = new QLabel;
-  label->setObjectName(QLatin1String(name));
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  return label;
-}
-
 }  // namespace
 
 MatrixPage::MatrixPage(QWidget* parent)
@@ -66,26 +61,22 @@ MatrixPage::MatrixPage(QWidget* parent)
       fractions_(new TQorMatrixFractEdit),
       rows_(SizeBox("rows", tr("Rows"))),
       cols_(SizeBox("columns", tr("Columns"))),
-      determinant_(FigureLabel("determinant")),
-      rank_(FigureLabel("rank")),
-      message_(new MessageLabel),
+      properties_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      message_(new MessageBar),
       edited_(decimals_) {
-  setObjectName(QStringLiteral("matrix"));
+  setObjectName(QStringLiteral("matrixPage"));
   decimals_->setObjectName(QStringLiteral("decimals"));
   fractions_->setObjectName(QStringLiteral("fractions"));
-  message_->setObjectName(QStringLiteral("message"));
-  for (TQorCustomMatrixEdit* const editor : {static_cast<TQorCustomMatrixEdit*>(decimals_),
-                                             static_cast<TQorCustomMatrixEdit*>(fractions_)}) {
-    editor->setNoOfRowEdits(kRowCells);
-    editor->setNoOfColEdits(kColCells);
-    editor->setCellHeight(26);
-    editor->setCellWidth(88);
+  properties_->setObjectName(QStringLiteral("properties"));
+  for (TQorCustomMatrixEdit* const editor : Editors()) {
+    editor->setCellHeight(25);
+    editor->setCellWidth(82);
     connect(editor, &TQorCustomMatrixEdit::OnChange, this, [this, editor] {
       edited_ = editor;
-      message_->clear();
+      message_->SetText({});
       Follow();
     });
-    connect(editor, &TQorCustomMatrixEdit::OnBlockRefused, message_, &QLabel::setText);
+    connect(editor, &TQorCustomMatrixEdit::OnBlockRefused, message_, &MessageBar::SetText);
   }
   decimals_->setDecimalPlaces(6);
   decimals_->setTrimTrailingZeroes(true);
@@ -112,27 +103,25 @@ MatrixPage::MatrixPage(QWidget* parent)
   sources->addWidget(open, 1);
   matrix->addLayout(sources);
   panel->AddGroup(tr("Commands"))->addWidget(MakeCommands());
-  QVBoxLayout* const properties = panel->AddGroup(tr("Properties"));
-  auto* const figures = new QFormLayout;
-  figures->addRow(tr("Determinant"), determinant_);
-  figures->addRow(tr("Rank"), rank_);
-  properties->addLayout(figures);
+  panel->AddGroup(tr("Properties"))->addWidget(properties_);
   panel->Finish();
 
   auto* const grid = new QGridLayout;
   grid->setContentsMargins(12, 4, 4, 4);
   grid->setHorizontalSpacing(24);
   grid->setVerticalSpacing(8);
-  grid->addWidget(new QLabel(tr("Decimals")), 0, 0);
-  grid->addWidget(new QLabel(tr("Fractions")), 0, 1);
+  grid->addWidget(MakeHeading(tr("Decimals")), 0, 0);
+  grid->addWidget(MakeHeading(tr("Fractions")), 0, 1);
   grid->addWidget(decimals_, 1, 0, Qt::AlignLeft | Qt::AlignTop);
   grid->addWidget(fractions_, 1, 1, Qt::AlignLeft | Qt::AlignTop);
-  grid->addWidget(message_, 2, 0, 1, 2);
   grid->setColumnStretch(2, 1);
-  grid->setRowStretch(3, 1);
+  grid->setRowStretch(2, 1);
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
-  layout->addLayout(grid, 1);
+  auto* const right = new QVBoxLayout;
+  right->addWidget(message_);
+  right->addLayout(grid, 1);
+  layout->addLayout(right, 1);
 
   for (QSpinBox* const box : {rows_, cols_})
     connect(box, &QSpinBox::valueChanged, this, &MatrixPage::Resize);
@@ -142,6 +131,10 @@ MatrixPage::MatrixPage(QWidget* parent)
 }
 
 MatrixPage::~MatrixPage() = default;
+
+std::array<TQorCustomMatrixEdit*, 2> MatrixPage::Editors() const {
+  return {decimals_, fractions_};
+}
 
 QWidget* MatrixPage::MakeCommands() {
   auto* const bar = new QWidget;
@@ -182,19 +175,19 @@ void MatrixPage::AddButton(QWidget* bar, const QString& text, const char* name, 
 
 void MatrixPage::Run(const std::function<void()>& command) {
   CommitTexts();
-  message_->clear();
+  message_->SetText({});
   try {
     command();
     edited_ = decimals_;
   } catch (const std::exception& error) {
-    message_->setText(QString::fromUtf8(error.what()));
+    message_->SetText(QString::fromUtf8(error.what()));
   }
   Follow();
 }
 
 void MatrixPage::Exchange(bool undo) {
   CommitTexts();
-  message_->clear();
+  message_->SetText({});
   undo ? edited_->Undo() : edited_->Redo();
   Follow();
 }
@@ -204,7 +197,7 @@ void MatrixPage::CommitTexts() {
 }
 
 void MatrixPage::ShowExample() {
-  Run([this] { decimals_->setMatrix({{2, 1, 1}, {1, 3, 2}, {1, 0, 4}}); });
+  Run([this] { decimals_->setMatrix({{2, 0.5L, 1}, {1, 3, 2}, {0.25L, 0, 4}}); });
 }
 
 void MatrixPage::AskAndOpen() {
@@ -218,7 +211,7 @@ void MatrixPage::Open(const QString& path) {
     const TQorFloatMatrix matrix =
         cli::ReadMatrix(cli::OpenTextInput(path.toStdString()), cli::MatrixLayout{});
     if (matrix.size() > kMostRows || matrix[0].size() > kMostRows) {
-      message_->setText(tr("More than %L1 rows or columns are too many here").arg(kMostRows));
+      message_->SetText(tr("More than %L1 rows or columns are too many here").arg(kMostRows));
       return;
     }
     decimals_->setMatrix(matrix);
@@ -242,6 +235,10 @@ void MatrixPage::Follow() {
   } else {
     decimals_->setMatrix(matrix);
   }
+  for (TQorCustomMatrixEdit* const editor : Editors()) {
+    editor->setNoOfRowEdits(static_cast<int>(std::min(decimals_->NoOfRows(), kMostRowCells)));
+    editor->setNoOfColEdits(static_cast<int>(std::min(decimals_->NoOfCols(), kMostColCells)));
+  }
   const QSignalBlocker no_rows(rows_);
   const QSignalBlocker no_cols(cols_);
   rows_->setValue(static_cast<int>(decimals_->NoOfRows()));
@@ -250,28 +247,25 @@ void MatrixPage::Follow() {
 }
 
 void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
-  determinant_->setText(QStringLiteral("—"));
-  rank_->setText(QStringLiteral("—"));
-  const QString too_large = tr("Not computed beyond %L1 rows").arg(kMostEliminated);
-  determinant_->setToolTip({});
   const std::size_t rows = matrix.size();
   const std::size_t cols = rows == 0 ? 0 : matrix[0].size();
+  QString determinant = rows == cols ? QStringLiteral("—") : tr("of square matrices only");
+  QString rank_text = QStringLiteral("—");
   if (std::max(rows, cols) > kMostEliminated) {
-    determinant_->setText(too_large);
-    rank_->setText(too_large);
-    return;
+    determinant = rank_text = tr("not beyond %L1 rows").arg(kMostEliminated);
+  } else {
+    try {
+      TQorFloatMatrix reduced = CopyMatrix(matrix);
+      std::uint32_t rank = 0;
+      RowEchelonFormRank(reduced, rank);
+      rank_text = QLocale().toString(rank);
+      reduced = CopyMatrix(matrix);
+      if (rows == cols) determinant = ExactText(MatrixDeterminant(reduced));
+    } catch (const EMathError&) {
+      // A null, or a figure that is out of range: there is nothing to show.
+    }
   }
-  try {
-    TQorFloatMatrix reduced = CopyMatrix(matrix);
-    std::uint32_t rank = 0;
-    RowEchelonFormRank(reduced, rank);
-    rank_->setText(QLocale().toString(rank));
-    reduced = CopyMatrix(matrix);
-    determinant_->setText(rows == cols ? ExactText(MatrixDeterminant(reduced))
-                                       : tr("of square matrices only"));
-  } catch (const std::exception& error) {
-    determinant_->setToolTip(QString::fromUtf8(error.what()));
-  }
+  properties_->SetRows({{tr("Determinant"), determinant}, {tr("Rank"), rank_text}});
 }
 
 }  // namespace qorvex::gallery

@@ -5,12 +5,11 @@
 
 #include <QString>
 #include <QWidget>
+#include <array>
 #include <functional>
 
 #include "qorvex/base/vector_types.h"
 
-class QLabel;
-class QPushButton;
 class QSpinBox;
 
 namespace qorvex {
@@ -25,7 +24,8 @@ class TQorMatrixFractEdit;
 
 namespace qorvex::gallery {
 
-class MessageLabel;
+class FigureTable;
+class MessageBar;
 
 /// A matrix as decimals and as fractions, either of which can be edited, with commands on the whole
 /// of it, its determinant and its rank.
@@ -40,6 +40,7 @@ class MatrixPage : public QWidget {
   void Open(const QString& path);
 
  private:
+  [[nodiscard]] std::array<TQorCustomMatrixEdit*, 2> Editors() const;
   QWidget* MakeCommands();
   void AddButton(QWidget* bar, const QString& text, const char* name, const QString& tip,
                  const std::function<void()>& action);
@@ -58,9 +59,8 @@ class MatrixPage : public QWidget {
   TQorMatrixFractEdit* fractions_;
   QSpinBox* rows_;
   QSpinBox* cols_;
-  QLabel* determinant_;
-  QLabel* rank_;
-  MessageLabel* message_;
+  FigureTable* properties_;
+  MessageBar* message_;
   // The one that was edited last, which knows how to take it back.
   TQorCustomMatrixEdit* edited_;
   // What the page shows.

@@ -4,7 +4,6 @@
 #include <QComboBox>
 #include <QFileDialog>
 #include <QFormLayout>
-#include <QFrame>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLocale>
@@ -18,6 +17,8 @@
 #include <stdexcept>
 
 #include "apps/qorvex-gallery/distribution_curve.h"
+#include "apps/qorvex-gallery/figure_table.h"
+#include "apps/qorvex-gallery/heading.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/variate_theory.h"
 #include "apps/qorvex-gallery/widgets/message_label.h"
@@ -33,13 +34,6 @@ namespace {
 constexpr int kMostValues = 10'000'000;
 // More would fill the memory of whatever they are pasted into.
 constexpr std::size_t kMostCopied = 1'000'000;
-
-QLabel* FigureLabel(const char* name) {
-  auto* const label = new QLabel(QStringLiteral("—"));
-  label->setObjectName(QLatin1String(name));
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  return label;
-}
 
 QString TextOrDash(std::optional<Extended> figure) {
   return figure ? ExactText(*figure) : QStringLiteral("—");
@@ -79,19 +73,17 @@ RandomPage::RandomPage(QWidget* parent)
       copy_(new QPushButton(tr("&Copy"))),
       save_(new QPushButton(tr("&Save…"))),
       plot_(new PlotView),
-      title_(new QLabel),
-      sample_mean_(FigureLabel("sample_mean")),
-      sample_variance_(FigureLabel("sample_variance")),
-      mean_(FigureLabel("mean")),
-      variance_(FigureLabel("variance")),
+      title_(MakeHeading({})),
+      moments_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
       task_(this) {
-  setObjectName(QStringLiteral("random"));
+  setObjectName(QStringLiteral("randomPage"));
   variate_->setObjectName(QStringLiteral("variate"));
   variate_->setAccessibleName(tr("Variate"));
   size_->setObjectName(QStringLiteral("size"));
   seed_->setObjectName(QStringLiteral("seed"));
   generate_->setObjectName(QStringLiteral("generate"));
   cancel_->setObjectName(QStringLiteral("cancel"));
+  moments_->setObjectName(QStringLiteral("moments"));
   message_->setObjectName(QStringLiteral("message"));
 
   // Vectors of variates have no histogram.
@@ -107,7 +99,7 @@ RandomPage::RandomPage(QWidget* parent)
   summary_->setWordWrap(true);
   size_->setRange(2, kMostValues);
   size_->setGroupSeparatorShown(true);
-  size_->setValue(100'000);
+  size_->setValue(10'000);
   progress_->setRange(0, 1000);
   progress_->setTextVisible(false);
   plot_->SetPlaceholder(tr("No sample yet"));
@@ -127,35 +119,24 @@ RandomPage::RandomPage(QWidget* parent)
   seed_line->addWidget(new_seed);
   form->addRow(tr("Seed"), seed_line);
   how->addLayout(form);
-  how->addWidget(message_);
   auto* const buttons = new QHBoxLayout;
   buttons->addWidget(generate_, 1);
   buttons->addWidget(cancel_, 1);
   how->addLayout(buttons);
   how->addWidget(progress_);
+  how->addWidget(message_);
   panel->Finish();
 
-  QFont large = title_->font();
-  large.setBold(true);
-  title_->setFont(large);
-  auto* const grid = new QGridLayout;
-  grid->setContentsMargins(12, 0, 12, 4);
-  grid->setHorizontalSpacing(24);
-  grid->setColumnStretch(3, 1);
-  grid->addWidget(new QLabel(tr("Sample")), 0, 1);
-  grid->addWidget(new QLabel(tr("Distribution")), 0, 2);
-  grid->addWidget(new QLabel(tr("Mean")), 1, 0);
-  grid->addWidget(sample_mean_, 1, 1);
-  grid->addWidget(mean_, 1, 2);
-  grid->addWidget(new QLabel(tr("Variance")), 2, 0);
-  grid->addWidget(sample_variance_, 2, 1);
-  grid->addWidget(variance_, 2, 2);
-  grid->addWidget(copy_, 1, 4);
-  grid->addWidget(save_, 2, 4);
+  auto* const buttons_of_values = new QVBoxLayout;
+  buttons_of_values->addWidget(copy_);
+  buttons_of_values->addWidget(save_);
+  auto* const below = new QHBoxLayout;
+  below->addWidget(moments_, 1, Qt::AlignTop);
+  below->addLayout(buttons_of_values);
   auto* const right = new QVBoxLayout;
   right->addWidget(title_);
   right->addWidget(plot_, 1);
-  right->addLayout(grid);
+  right->addLayout(below);
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
   layout->addLayout(right, 1);
@@ -172,7 +153,7 @@ RandomPage::RandomPage(QWidget* parent)
   connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
   connect(&task_, &BackgroundTask::Progressed, progress_, &QProgressBar::setValue);
   connect(&task_, &BackgroundTask::Finished, this, [this](const QString& error, bool cancelled) {
-    message_->setText(cancelled ? tr("Cancelled") : QString());
+    message_->Say(cancelled ? tr("Cancelled") : QString());
     const std::shared_ptr<RandomSample> result = std::move(result_);
     if (!error.isEmpty()) {
       parameters_->ShowInconsistency(error.toStdString());
@@ -205,9 +186,9 @@ void RandomPage::ShowVariate() {
 void RandomPage::Generate() {
   const auto parameters = parameters_->Numbers();
   if (!parameters || task_.Running()) return;
-  message_->clear();
+  message_->Say({});
   if (const char* const wrong = cli::WhatIsWrong(seed_->Value(), cli::NumberKind::kUint64)) {
-    message_->setText(tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(wrong)));
+    message_->Say(tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(wrong)));
     return;
   }
   if (const auto inconsistency = Chosen().methods.front().inconsistency) {
@@ -236,6 +217,7 @@ void RandomPage::ShowRunning() {
   copy_->setEnabled(!running && sample_ != nullptr);
   save_->setEnabled(!running && sample_ != nullptr);
   progress_->setValue(0);
+  progress_->setVisible(running);
 }
 
 void RandomPage::ShowSample() {
@@ -245,10 +227,9 @@ void RandomPage::ShowSample() {
                       .arg(Title(QString::fromUtf8(order.variate->name)))
                       .arg(order.size)
                       .arg(order.seed));
-  sample_mean_->setText(ExactText(sample_->mean));
-  sample_variance_->setText(ExactText(sample_->variance));
-  mean_->setText(TextOrDash(theory.mean));
-  variance_->setText(TextOrDash(theory.variance));
+  moments_->SetRows({{QString(), tr("Sample"), tr("Distribution")},
+                     {tr("Mean"), ExactText(sample_->mean), TextOrDash(theory.mean)},
+                     {tr("Variance"), ExactText(sample_->variance), TextOrDash(theory.variance)}});
 
   const QString name =
       sample_->is_cropped ? tr("Sample, without the outermost hundredth") : tr("Sample");
@@ -267,7 +248,7 @@ void RandomPage::ShowSample() {
 
 void RandomPage::Copy() {
   if (sample_->values.size() > kMostCopied) {
-    message_->setText(tr("More than %L1 values are saved rather than copied").arg(kMostCopied));
+    message_->Say(tr("More than %L1 values are saved rather than copied").arg(kMostCopied));
     return;
   }
   QString text;

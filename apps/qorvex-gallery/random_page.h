@@ -25,6 +25,7 @@ class TQorFloatEdit;
 
 namespace qorvex::gallery {
 
+class FigureTable;
 class MessageLabel;
 class ParameterForm;
 class PlotView;
@@ -76,10 +77,7 @@ class RandomPage : public QWidget {
   QPushButton* save_;
   PlotView* plot_;
   QLabel* title_;
-  QLabel* sample_mean_;
-  QLabel* sample_variance_;
-  QLabel* mean_;
-  QLabel* variance_;
+  FigureTable* moments_;
   // Last, so that the work ends before what it uses.
   BackgroundTask task_;
 };

@@ -87,7 +87,8 @@ void MakeBars(RandomSample& sample) {
 
 RandomSample DrawSample(const SampleOrder& order,
                         const std::function<bool(std::size_t done, std::size_t total)>& proceed) {
-  RandomSample sample = {.order = order};
+  RandomSample sample;
+  sample.order = order;
   TQorFloatVector values = TQorFloatVector::WithLength(order.size);
   try {
     if (!DrawValues(order, values, proceed)) return sample;

@@ -14,10 +14,10 @@
 #include <optional>
 #include <utility>
 
+#include "apps/qorvex-gallery/example_pairs.h"
 #include "apps/qorvex-gallery/figure_table.h"
 #include "apps/qorvex-gallery/heading.h"
 #include "apps/qorvex-gallery/message_bar.h"
-#include "apps/qorvex-gallery/norris.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/tall_editor.h"
 #include "apps/qorvex/pair_fit.h"
@@ -86,13 +86,15 @@ RegressionPage::RegressionPage(QWidget* parent)
       rows_(new QSpinBox),
       x_(new TQorLabelledVectorEdit),
       y_(new TQorVectorEdit),
+      tall_x_(new TallEditor(x_)),
+      tall_y_(new TallEditor(y_)),
       plot_(new PlotView),
       figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
       remark_(new QLabel) {
   setObjectName("regressionPage");
   auto* const body = new QHBoxLayout;
-  body->setSpacing(2 * fontMetrics().height());
   body->addLayout(MakeEditors());
+  body->addSpacing(fontMetrics().height());
   body->addLayout(MakeResults(), 1);
   auto* const layout = new QVBoxLayout(this);
   layout->addWidget(message_);
@@ -108,7 +110,6 @@ QLayout* RegressionPage::MakeEditors() {
   y_->setObjectName("y");
   for (TQorVectorEdit* const editor : {static_cast<TQorVectorEdit*>(x_), y_}) {
     editor->setCellWidth(14 * fontMetrics().averageCharWidth());
-    editor->setFullAccuracy(true);
     editor->setBlankWhenNull(true);
     connect(editor, &TQorVectorEdit::OnChange, this, &RegressionPage::RefreshSoon);
     connect(editor, &TQorVectorEdit::OnBlockRefused, message_, &MessageBar::SetText);
@@ -124,7 +125,8 @@ QLayout* RegressionPage::MakeEditors() {
   auto* const rows_label = new QLabel(tr("&Pairs:"));
   rows_label->setBuddy(rows_);
   auto* const example = new QPushButton(tr("&Example"));
-  example->setToolTip(tr("Calibration of an ozone monitor, NIST set Norris"));
+  example->setToolTip(
+      tr("Year, and people of 14 years and more in the USA in thousands; Longley 1967"));
   connect(example, &QPushButton::clicked, this, &RegressionPage::ShowExample);
   auto* const head = new QHBoxLayout;
   head->addWidget(rows_label);
@@ -133,11 +135,10 @@ QLayout* RegressionPage::MakeEditors() {
   head->addWidget(example);
 
   auto* const editors = new QHBoxLayout;
-  for (auto [editor, name] :
-       {std::pair(static_cast<TQorVectorEdit*>(x_), tr("&x")), std::pair(y_, tr("&y"))}) {
+  for (const auto& [editor, name] : {std::pair(tall_x_, tr("&x")), std::pair(tall_y_, tr("&y"))}) {
     auto* const column = new QVBoxLayout;
     column->addWidget(MakeHeading(name, editor));
-    column->addWidget(new TallEditor(editor), 1);
+    column->addWidget(editor, 1);
     editors->addLayout(column);
   }
   auto* const layout = new QVBoxLayout;
@@ -153,7 +154,10 @@ QLayout* RegressionPage::MakeResults() {
   plot_->SetPlaceholder(tr("No pairs to show"));
   figures_->setObjectName("figures");
   auto* const head = new QHBoxLayout;
-  head->addWidget(MakeHeading(tr("Least-squares line and parabola")));
+  QLabel* const heading = MakeHeading(tr("Least-squares line and parabola"));
+  // On the line of the spin box beside it.
+  heading->setMinimumHeight(rows_->sizeHint().height());
+  head->addWidget(heading);
   head->addWidget(remark_);
   head->addStretch(1);
   auto* const layout = new QVBoxLayout;
@@ -166,12 +170,12 @@ QLayout* RegressionPage::MakeResults() {
 
 void RegressionPage::ShowExample() {
   TQorFloatVector x, y;
-  for (const auto& [of_customer, of_standard] : kNorris) {
-    x.Append(of_customer);
-    y.Append(of_standard);
+  for (const auto& [year, people] : kExamplePairs) {
+    x.Append(year);
+    y.Append(people);
   }
   const QSignalBlocker blocker(rows_);
-  rows_->setValue(static_cast<int>(std::size(kNorris)));
+  rows_->setValue(static_cast<int>(std::size(kExamplePairs)));
   x_->setVector(x);
   y_->setVector(y);
   Refresh();
@@ -198,6 +202,8 @@ void RegressionPage::RefreshSoon() {
 
 void RegressionPage::Refresh() {
   refresh_is_due_ = false;
+  tall_x_->FitFormat(x_->Vector());
+  tall_y_->FitFormat(y_->Vector());
   const Pairs pairs = CompletePairs(x_->Vector(), y_->Vector());
   remark_->setText(pairs.left_out == 0
                        ? QString()
@@ -219,9 +225,10 @@ void RegressionPage::Refresh() {
   PlotLayer points{PlotShape::kPoints, PlotRole::kData, tr("Pairs"), {}};
   for (std::size_t i = 0; i < pairs.x.size(); ++i)
     points.points.emplace_back(static_cast<double>(pairs.x[i]), static_cast<double>(pairs.y[i]));
-  std::vector<PlotLayer> layers{std::move(points)};
+  std::vector<PlotLayer> layers;
   if (line) layers.push_back(Curve(*line, pairs.x, PlotRole::kModel, tr("Line")));
   if (parabola) layers.push_back(Curve(*parabola, pairs.x, PlotRole::kSecondModel, tr("Parabola")));
+  layers.push_back(std::move(points));
   plot_->SetLayers(std::move(layers));
 
   const auto number = [this](std::optional<Extended> figure) {

@@ -15,6 +15,7 @@ namespace qorvex::gallery {
 class FigureTable;
 class MessageBar;
 class PlotView;
+class TallEditor;
 
 /// Two editors, of the x and of the y, that scroll together; the pairs in a diagram with their
 /// least-squares line and parabola; and the coefficients of both with all digits. All of it follows
@@ -43,6 +44,8 @@ class RegressionPage : public QWidget {
   QSpinBox* rows_;
   TQorLabelledVectorEdit* x_;
   TQorVectorEdit* y_;
+  TallEditor* tall_x_;
+  TallEditor* tall_y_;
   PlotView* plot_;
   FigureTable* figures_;
   QLabel* remark_;

@@ -35,6 +35,8 @@ bool WriteScreenshots(MainWindow& window, const QString& directory) {
     std::fprintf(stderr, "qorvex-gallery: cannot make the directory %s\n", qPrintable(directory));
     return false;
   }
+  // Laid out as if it were shown.
+  window.setAttribute(Qt::WA_DontShowOnScreen);
   window.show();
   for (int i = 0; i < pages.count(); ++i) {
     pages.setCurrentIndex(i);

@@ -15,8 +15,12 @@ Extended PowerOfTen(int exponent) {
 QString Label(double value, double largest, const RoundStep& step, const QLocale& locale) {
   constexpr double plain_below = 1e7;
   constexpr int plain_decimals = 5;
-  if (largest < plain_below && step.exponent >= -plain_decimals)
-    return locale.toString(value, 'f', std::max(0, -step.exponent));
+  if (largest < plain_below && step.exponent >= -plain_decimals) {
+    QLocale plain = locale;
+    // Years have no groups.
+    if (largest < 10000) plain.setNumberOptions(QLocale::OmitGroupSeparator);
+    return plain.toString(value, 'f', std::max(0, -step.exponent));
+  }
   if (value == 0) return locale.toString(0);
   const int digits = static_cast<int>(std::floor(std::log10(std::fabs(value)))) - step.exponent;
   return locale.toString(value, 'e', std::max(0, digits));
@@ -46,10 +50,11 @@ AxisTicks TicksBetween(double low, double high, int most, const QLocale& locale)
   if (range < distinct * largest) return ticks;
 
   const RoundStep step = RoundStep::AtLeast(range / static_cast<Extended>(std::max(2, most)));
-  const Extended first = std::ceil(low / step.Times(1));
-  for (Extended i = first; step.Times(i) <= high; ++i) {
+  // As doubles, because the ends may be round numbers that were rounded to doubles.
+  for (Extended i = std::floor(low / step.Times(1));; ++i) {
     const auto value = static_cast<double>(step.Times(i));
     if (value < low) continue;
+    if (value > high) break;
     ticks.values.push_back(value);
     ticks.labels.append(Label(value, largest, step, locale));
   }

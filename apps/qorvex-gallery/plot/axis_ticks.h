@@ -29,8 +29,8 @@ struct AxisTicks {
   QStringList labels;
 };
 
-/// Ticks at the round numbers from low to high, at most as many as wanted, though at least two are
-/// sought. Labels have the decimals that tell them apart, and an exponent where numbers are very
+/// Ticks at the round numbers from low to high, at most one more than wanted, which is two at
+/// least. Labels have the decimals that tell them apart, and an exponent where numbers are very
 /// large or small. No ticks unless low is below high and both are finite, nor where so many digits
 /// are in common that a double does not tell ticks apart.
 [[nodiscard]] AxisTicks TicksBetween(double low, double high, int most, const QLocale& locale);

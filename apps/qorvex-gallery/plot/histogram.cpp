@@ -50,11 +50,15 @@ std::vector<Extended> RoundEdges(Extended low, Extended high, Extended width) {
   return edges;
 }
 
-std::vector<Extended> PlainEdges(Extended low, Extended high, Extended classes) {
+std::vector<Extended> PlainEdges(Extended low, Extended high, Extended least_classes) {
   std::vector<Extended> edges;
+  // The width of one class may be beyond the range.
+  const Extended classes = std::max<Extended>(2, least_classes);
   const Extended width = high / classes - low / classes;
   for (Extended i = 0; i < classes; ++i) edges.push_back(low + i * width);
   edges.push_back(std::nextafter(high, std::numeric_limits<Extended>::infinity()));
+  // Between values that are neighbours there is room for fewer.
+  edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
   return edges;
 }
 

@@ -338,7 +338,7 @@ class Drawing {
   void DrawDot(const QPointF& at, PlotRole role, double radius) {
     painter_.setPen(Qt::NoPen);
     QColor color = RoleColor(role, palette_);
-    color.setAlpha(190);
+    color.setAlpha(225);
     painter_.setBrush(color);
     painter_.drawEllipse(at, radius, radius);
     painter_.setBrush(Qt::NoBrush);

@@ -10,8 +10,13 @@ MessageLabel::MessageLabel(QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setTextInteractionFlags(Qt::TextSelectableByMouse);
   setAlignment(Qt::AlignLeft | Qt::AlignTop);
-  setMinimumHeight(fontMetrics().lineSpacing());
   ApplyColor();
+  hide();
+}
+
+void MessageLabel::Say(const QString& text) {
+  setText(text);
+  setVisible(!text.isEmpty());
 }
 
 void MessageLabel::changeEvent(QEvent* event) {

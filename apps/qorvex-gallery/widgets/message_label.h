@@ -7,13 +7,16 @@
 
 namespace qorvex::gallery {
 
-/// A line or two in a warning colour that suits light and dark palettes. It keeps its place while
-/// it is empty, so that nothing jumps.
+/// A line or two in a warning colour that suits light and dark palettes. Hidden while there is
+/// nothing to say.
 class MessageLabel : public QLabel {
   Q_OBJECT
 
  public:
   explicit MessageLabel(QWidget* parent = nullptr);
+
+  /// Shows the text; an empty one hides the label.
+  void Say(const QString& text);
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -6,6 +6,7 @@
 
 #include "apps/qorvex-gallery/widgets/message_label.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
@@ -47,7 +48,6 @@ ParameterForm::ParameterForm(QWidget* parent)
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
   layout->addWidget(inconsistency_);
-  inconsistency_->hide();
 }
 
 ParameterForm::~ParameterForm() = default;
@@ -71,7 +71,6 @@ void ParameterForm::SetParameters(std::span<const cli::NumberParameter> paramete
     cell->setObjectName(QString::fromUtf8(parameter.option).mid(2));
     label->setBuddy(cell);
     auto* const message = new MessageLabel(holder);
-    message->hide();
     for (QWidget* const widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(cell),
                                   static_cast<QWidget*>(message)}) {
       lines->addWidget(widget);
@@ -89,10 +88,8 @@ std::optional<std::vector<Extended>> ParameterForm::Numbers() {
   for (const Row& row : rows_) {
     numbers.push_back(row.cell->Value());
     const char* const wrong = cli::WhatIsWrong(numbers.back(), row.parameter->kind);
-    row.message->setVisible(wrong != nullptr);
-    if (wrong == nullptr) continue;
-    row.message->setText(ExactText(numbers.back()) + ' ' + tr(wrong));
-    all_fine = false;
+    row.message->Say(wrong == nullptr ? QString() : ExactText(numbers.back()) + ' ' + tr(wrong));
+    if (wrong != nullptr) all_fine = false;
   }
   if (!all_fine) return std::nullopt;
   return numbers;
@@ -102,8 +99,7 @@ void ParameterForm::ShowInconsistency(const std::string& text) {
   QString shown = QString::fromStdString(text);
   for (const Row& row : rows_)
     shown.replace(QLatin1String(row.parameter->option), '"' + LabelOf(*row.parameter) + '"');
-  inconsistency_->setText(shown);
-  inconsistency_->show();
+  inconsistency_->Say(shown);
 }
 
 TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QWidget* parent) {
@@ -116,7 +112,7 @@ TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QW
 }
 
 QString ExactText(Extended value) {
-  return QString::fromStdString(Float2Str(value)).replace('.', QLocale().decimalPoint());
+  return QorvexBaseControls::detail::LocalNumber(Float2Str(value), QLocale());
 }
 
 QString Title(const QString& text) {

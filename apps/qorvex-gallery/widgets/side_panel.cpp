@@ -1,28 +1,30 @@
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 
-#include <QGroupBox>
 #include <QVBoxLayout>
+
+#include "apps/qorvex-gallery/heading.h"
 
 namespace qorvex::gallery {
 
 SidePanel::SidePanel(QWidget* parent) : QScrollArea(parent) {
   auto* const content = new QWidget;
   groups_ = new QVBoxLayout(content);
-  groups_->setContentsMargins(0, 0, 6, 0);
-  groups_->setSpacing(10);
+  groups_->setContentsMargins(0, 0, 12, 0);
+  groups_->setSpacing(8);
   setWidget(content);
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  // Some forty figures, so that it grows with the font.
-  setFixedWidth(42 * fontMetrics().horizontalAdvance('0') + 40);
+  // Room for a number with all its digits, in any font.
+  setFixedWidth(38 * fontMetrics().horizontalAdvance('0'));
 }
 
 QVBoxLayout* SidePanel::AddGroup(const QString& title) {
-  auto* const group = new QGroupBox(title);
-  auto* const layout = new QVBoxLayout(group);
+  if (groups_->count() > 0) groups_->addSpacing(fontMetrics().height());
+  groups_->addWidget(MakeHeading(title));
+  auto* const layout = new QVBoxLayout;
   layout->setSpacing(8);
-  groups_->addWidget(group);
+  groups_->addLayout(layout);
   return layout;
 }
 

@@ -1,9 +1,8 @@
 #include "apps/qorvex-gallery/distribution_page.h"
 
 #include <QComboBox>
-#include <QLabel>
 
-#include "apps/gallery/page_test.h"
+#include "apps/gallery/cells_and_remarks.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/full_precision.h"
@@ -13,31 +12,25 @@ namespace {
 
 namespace fp = full_precision;
 
-struct DistributionPageTest : testing::Test {
-  DistributionPage page;
-
-  DistributionPageTest() { page.resize(1100, 700); }
+struct DistributionPageTest : PageFixture<DistributionPage> {
   void Choose(const char* family) {
-    auto* const box = Child<QComboBox>(page, "family");
-    box->setCurrentIndex(box->findText(QLatin1String(family)));
-    ASSERT_EQ(box->currentText(), family);
+    auto& box = Find<QComboBox>("family");
+    box.setCurrentIndex(box.findText(QLatin1String(family)));
+    ASSERT_EQ(box.currentText(), family);
   }
-  void EnterNumber(const char* name, const char* text) {
-    Enter(Child<QLineEdit>(page, name), text);
-  }
-  [[nodiscard]] std::vector<std::string> Figures() const {
+  void EnterNumber(const char* name, const char* text) { Enter(Find<QLineEdit>(name), text); }
+  [[nodiscard]] std::vector<std::string> Figures() {
     std::vector<std::string> figures;
-    for (const char* const name : {"figure0", "figure1", "figure2", "figure3", "figure4"})
-      figures.push_back(Child<QLabel>(page, name)->text().toStdString());
+    // Labels and figures alternate.
+    const QStringList texts = Texts("figures");
+    for (int i = 1; i < texts.size(); i += 2) figures.push_back(texts[i].toStdString());
     return figures;
   }
-  [[nodiscard]] std::string Quantile() const {
-    return Child<QLabel>(page, "quantile")->text().toStdString();
-  }
-  [[nodiscard]] QImage Plot() const { return Child<PlotView>(page, "plot")->grab().toImage(); }
+  [[nodiscard]] std::string Quantile() { return Figure("quantile", "Quantile"); }
+  [[nodiscard]] QImage Plot() { return Find<PlotView>("plot").grab().toImage(); }
 };
 
-std::vector<std::string> Texts(const std::vector<Extended>& figures) {
+std::vector<std::string> Exact(const std::vector<Extended>& figures) {
   std::vector<std::string> texts;
   for (const Extended figure : figures) texts.push_back(Float2Str(figure));
   return texts;
@@ -49,7 +42,7 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAPoint) {
   EnterNumber("std-dev", "0.5");
   EnterNumber("first", "5.5");
   EnterNumber("probability", "0.1");
-  EXPECT_EQ(Figures(), Texts({fp::NormalPdf(1, 0.5L, 5.5L), fp::NormalLower(1, 0.5L, 5.5L),
+  EXPECT_EQ(Figures(), Exact({fp::NormalPdf(1, 0.5L, 5.5L), fp::NormalLower(1, 0.5L, 5.5L),
                               fp::NormalUpper(1, 0.5L, 5.5L), fp::NormalLogLower(1, 0.5L, 5.5L),
                               fp::NormalLogUpper(1, 0.5L, 5.5L)}));
   EXPECT_EQ(Quantile(), Float2Str(fp::NormalQuantile(1, 0.5L, 0.1L)));
@@ -60,11 +53,11 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAPoint) {
   EnterNumber("first", "3");
   EXPECT_EQ(Figures()[2], Float2Str(fp::FDistUpper(2.5L, 7, 3)));
   EXPECT_EQ(Quantile(), Float2Str(fp::FDistQuantile(2.5L, 7, 0.1L)));
-  EXPECT_EQ(Messages(page), "");
+  EXPECT_EQ(Remarks(page), "");
 }
 
 TEST_F(DistributionPageTest, GivesTheFiguresOfAnInterval) {
-  Child<QComboBox>(page, "question")->setCurrentIndex(1);
+  Find<QComboBox>("question").setCurrentIndex(1);
   Choose("Binomial");
   EnterNumber("success-probability", "0.25");
   EnterNumber("trials", "8");
@@ -99,12 +92,12 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresBesideWhatIsRefused) {
   for (const auto& c : cases) {
     Choose("Gamma");
     Choose(c.family);
-    Child<QLineEdit>(page, c.cell)->clearFocus();
+    Find<QLineEdit>(c.cell).clearFocus();
     const auto figures = Figures();
     const std::string quantile = Quantile();
     const QImage plot = Plot();
     EnterNumber(c.cell, c.number);
-    EXPECT_EQ(Messages(page), c.message);
+    EXPECT_EQ(Remarks(page), c.message);
     EXPECT_EQ(Figures(), figures) << c.family;
     EXPECT_EQ(Quantile(), quantile) << c.family;
     EXPECT_EQ(Plot(), plot) << c.family;
@@ -113,14 +106,14 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresBesideWhatIsRefused) {
 }
 
 TEST_F(DistributionPageTest, ShowsEveryFamily) {
-  auto* const box = Child<QComboBox>(page, "family");
-  ASSERT_EQ(box->count(), 11);
+  auto& box = Find<QComboBox>("family");
+  ASSERT_EQ(box.count(), 11);
   QImage before;
-  for (int i = 0; i < box->count(); ++i) {
-    box->setCurrentIndex(i);
-    EXPECT_EQ(Messages(page), "") << box->currentText().toStdString();
+  for (int i = 0; i < box.count(); ++i) {
+    box.setCurrentIndex(i);
+    EXPECT_EQ(Remarks(page), "") << box.currentText().toStdString();
     const QImage plot = Plot();
-    EXPECT_NE(plot, before) << box->currentText().toStdString();
+    EXPECT_NE(plot, before) << box.currentText().toStdString();
     before = plot;
   }
 }

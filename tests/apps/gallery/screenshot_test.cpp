@@ -9,7 +9,7 @@ namespace qorvex::gallery {
 namespace {
 
 // The answer of the program, with its exit status at the end.
-QString Run(const QStringList& arguments) {
+QString Answer(const QStringList& arguments) {
   QProcess program;
   program.setProcessChannelMode(QProcess::MergedChannels);
   program.start(QORVEX_GALLERY, arguments);
@@ -23,7 +23,7 @@ TEST(Screenshot, ShowsEveryPage) {
   QString expected;
   const QStringList pages = {"data", "matrix", "distribution", "random", "regression"};
   for (const QString& page : pages) expected += folder + '/' + page + ".png\n";
-  EXPECT_EQ(Run({"--screenshot", folder}), expected + '0');
+  EXPECT_EQ(Answer({"--screenshot", folder}), expected + '0');
   QImage before;
   for (const QString& page : pages) {
     const QImage picture(folder + '/' + page + ".png");
@@ -34,7 +34,7 @@ TEST(Screenshot, ShowsEveryPage) {
 }
 
 TEST(Screenshot, SaysWhereItCannotWrite) {
-  EXPECT_EQ(Run({"--screenshot", "/dev/null/pictures"}),
+  EXPECT_EQ(Answer({"--screenshot", "/dev/null/pictures"}),
             "qorvex-gallery: cannot make the directory /dev/null/pictures\n1");
 }
 
