@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 
+#include <QLabel>
 #include <QVBoxLayout>
 
 #include "apps/qorvex-gallery/heading.h"

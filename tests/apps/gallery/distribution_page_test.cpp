@@ -65,7 +65,7 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAnInterval) {
   EnterNumber("first", "5");
   EnterNumber("second", "2");
   EXPECT_EQ(Figures(),
-            Texts({fp::BinomialUpper(0.25L, 8, 2) - fp::BinomialUpper(0.25L, 8, 4),
+            Exact({fp::BinomialUpper(0.25L, 8, 2) - fp::BinomialUpper(0.25L, 8, 4),
                    fp::BinomialLower(0.25L, 8, 2), fp::BinomialUpper(0.25L, 8, 4),
                    fp::BinomialLogLower(0.25L, 8, 2), fp::BinomialLogUpper(0.25L, 8, 4)}));
   // No count is less than 0.

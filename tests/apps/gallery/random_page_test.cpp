@@ -104,8 +104,8 @@ TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
   Click("generate");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
   ASSERT_NE(page.Sample(), first);
-  EXPECT_TRUE(std::equal(first->values.begin(), first->values.end(), page.Sample().values.begin(),
-                         page.Sample().values.end()));
+  EXPECT_TRUE(std::equal(first->values.begin(), first->values.end(), page.Sample()->values.begin(),
+                         page.Sample()->values.end()));
   EXPECT_EQ(Figure("moments", "Mean"), Float2Str(first->mean));
   EXPECT_EQ(Figure("moments", "Variance", 2), "1");
 

@@ -8,13 +8,18 @@
 namespace qorvex::gallery {
 namespace {
 
-// The answer of the program, with its exit status at the end.
-QString Answer(const QStringList& arguments) {
+struct Outcome {
+  int status;
+  QString output;
+  QString errors;
+};
+
+Outcome RunGallery(const QStringList& arguments) {
   QProcess program;
-  program.setProcessChannelMode(QProcess::MergedChannels);
   program.start(QORVEX_GALLERY, arguments);
   program.waitForFinished(120'000);
-  return program.readAll() + QString::number(program.exitCode());
+  const QString output = program.readAllStandardOutput();
+  return {program.exitCode(), output, program.readAllStandardError()};
 }
 
 TEST(Screenshot, ShowsEveryPage) {
@@ -23,7 +28,9 @@ TEST(Screenshot, ShowsEveryPage) {
   QString expected;
   const QStringList pages = {"data", "matrix", "distribution", "random", "regression"};
   for (const QString& page : pages) expected += folder + '/' + page + ".png\n";
-  EXPECT_EQ(Answer({"--screenshot", folder}), expected + '0');
+  const Outcome outcome = RunGallery({"--screenshot", folder});
+  EXPECT_EQ(outcome.status, 0);
+  EXPECT_EQ(outcome.output, expected);
   QImage before;
   for (const QString& page : pages) {
     const QImage picture(folder + '/' + page + ".png");
@@ -34,8 +41,11 @@ TEST(Screenshot, ShowsEveryPage) {
 }
 
 TEST(Screenshot, SaysWhereItCannotWrite) {
-  EXPECT_EQ(Answer({"--screenshot", "/dev/null/pictures"}),
-            "qorvex-gallery: cannot make the directory /dev/null/pictures\n1");
+  const Outcome outcome = RunGallery({"--screenshot", "/dev/null/pictures"});
+  EXPECT_EQ(outcome.status, 1);
+  EXPECT_EQ(outcome.output, "");
+  EXPECT_TRUE(outcome.errors.contains("cannot make the directory /dev/null/pictures\n"))
+      << outcome.errors.toStdString();
 }
 
 }  // namespace
