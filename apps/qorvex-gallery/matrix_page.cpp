@@ -33,7 +33,7 @@ constexpr int kMostRows = 1000;
 // An elimination of this size takes some milliseconds, as does whatever happens at every key.
 constexpr std::size_t kMostEliminated = 200;
 // More scroll.
-constexpr quint32 kMostRowCells = 20;
+constexpr quint32 kMostRowCells = 10;
 constexpr quint32 kMostColCells = 4;
 
 // Bit by bit, so that a null equals itself.
@@ -59,6 +59,9 @@ MatrixPage::MatrixPage(QWidget* parent)
     : QWidget(parent),
       decimals_(new TQorMatrixEdit),
       fractions_(new TQorMatrixFractEdit),
+      inverse_decimals_(new TQorMatrixEdit),
+      inverse_fractions_(new TQorMatrixFractEdit),
+      no_inverse_(new QLabel),
       rows_(SizeBox("rows", tr("Rows"))),
       cols_(SizeBox("columns", tr("Columns"))),
       properties_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
@@ -67,6 +70,8 @@ MatrixPage::MatrixPage(QWidget* parent)
   setObjectName(QStringLiteral("matrixPage"));
   decimals_->setObjectName(QStringLiteral("decimals"));
   fractions_->setObjectName(QStringLiteral("fractions"));
+  inverse_fractions_->setObjectName(QStringLiteral("inverseFractions"));
+  no_inverse_->setObjectName(QStringLiteral("noInverse"));
   properties_->setObjectName(QStringLiteral("properties"));
   for (TQorCustomMatrixEdit* const editor : Editors()) {
     editor->setCellHeight(25);
@@ -78,8 +83,12 @@ MatrixPage::MatrixPage(QWidget* parent)
     });
     connect(editor, &TQorCustomMatrixEdit::OnBlockRefused, message_, &MessageBar::SetText);
   }
-  decimals_->setDecimalPlaces(6);
-  decimals_->setTrimTrailingZeroes(true);
+  for (TQorMatrixEdit* const editor : {decimals_, inverse_decimals_}) {
+    editor->setDecimalPlaces(6);
+    editor->setTrimTrailingZeroes(true);
+  }
+  inverse_decimals_->setReadOnly(true);
+  inverse_fractions_->setReadOnly(true);
   // A command that is taken back by a key or the menu tells nobody, but is displayed.
   decimals_->OnSpecialColor = [this](quint32, quint32, Extended, QColor&) {
     if (follow_pending_) return;
@@ -115,7 +124,12 @@ MatrixPage::MatrixPage(QWidget* parent)
   grid->addWidget(decimals_, 1, 0, Qt::AlignLeft | Qt::AlignTop);
   grid->addWidget(fractions_, 1, 1, Qt::AlignLeft | Qt::AlignTop);
   grid->setColumnStretch(2, 1);
-  grid->setRowStretch(2, 1);
+  grid->setRowMinimumHeight(2, fontMetrics().height() / 2);
+  grid->addWidget(MakeHeading(tr("Inverse")), 3, 0);
+  grid->addWidget(no_inverse_, 4, 0, 1, 2);
+  grid->addWidget(inverse_decimals_, 5, 0, Qt::AlignLeft | Qt::AlignTop);
+  grid->addWidget(inverse_fractions_, 5, 1, Qt::AlignLeft | Qt::AlignTop);
+  grid->setRowStretch(6, 1);
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
   auto* const right = new QVBoxLayout;
@@ -132,8 +146,8 @@ MatrixPage::MatrixPage(QWidget* parent)
 
 MatrixPage::~MatrixPage() = default;
 
-std::array<TQorCustomMatrixEdit*, 2> MatrixPage::Editors() const {
-  return {decimals_, fractions_};
+std::array<TQorCustomMatrixEdit*, 4> MatrixPage::Editors() const {
+  return {decimals_, fractions_, inverse_decimals_, inverse_fractions_};
 }
 
 QWidget* MatrixPage::MakeCommands() {
@@ -249,23 +263,47 @@ void MatrixPage::Follow() {
 void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
   const std::size_t rows = matrix.size();
   const std::size_t cols = rows == 0 ? 0 : matrix[0].size();
+  if (std::max(rows, cols) > kMostEliminated) {
+    const QString too_large = tr("not beyond %L1 rows").arg(kMostEliminated);
+    properties_->SetRows({{tr("Determinant"), too_large}, {tr("Rank"), too_large}});
+    ShowInverse({}, too_large);
+    return;
+  }
   QString determinant = rows == cols ? QStringLiteral("—") : tr("of square matrices only");
   QString rank_text = QStringLiteral("—");
-  if (std::max(rows, cols) > kMostEliminated) {
-    determinant = rank_text = tr("not beyond %L1 rows").arg(kMostEliminated);
-  } else {
-    try {
-      TQorFloatMatrix reduced = CopyMatrix(matrix);
-      std::uint32_t rank = 0;
-      RowEchelonFormRank(reduced, rank);
-      rank_text = QLocale().toString(rank);
+  TQorFloatMatrix inverse;
+  QString why_not = rows == cols ? QString() : determinant;
+  try {
+    TQorFloatMatrix reduced = CopyMatrix(matrix);
+    std::uint32_t rank = 0;
+    RowEchelonFormRank(reduced, rank);
+    rank_text = QLocale().toString(rank);
+    if (rows == cols) {
       reduced = CopyMatrix(matrix);
-      if (rows == cols) determinant = ExactText(MatrixDeterminant(reduced));
-    } catch (const EMathError&) {
-      // A null, or a figure that is out of range: there is nothing to show.
+      determinant = ExactText(MatrixDeterminant(reduced));
+      reduced = CopyMatrix(matrix);
+      if (!MatrixInverse(reduced, inverse)) {
+        inverse = {};
+        why_not = tr("none, the matrix is singular");
+      }
     }
+  } catch (const EMathError& error) {
+    // A null, or a figure that is out of range.
+    inverse = {};
+    why_not = QString::fromUtf8(error.what());
   }
   properties_->SetRows({{tr("Determinant"), determinant}, {tr("Rank"), rank_text}});
+  ShowInverse(inverse, why_not);
+}
+
+void MatrixPage::ShowInverse(const TQorFloatMatrix& inverse, const QString& why_not) {
+  no_inverse_->setText(why_not);
+  no_inverse_->setVisible(!why_not.isEmpty());
+  for (TQorCustomMatrixEdit* const editor :
+       std::initializer_list<TQorCustomMatrixEdit*>{inverse_decimals_, inverse_fractions_}) {
+    editor->setMatrix(inverse);
+    editor->setVisible(why_not.isEmpty());
+  }
 }
 
 }  // namespace qorvex::gallery

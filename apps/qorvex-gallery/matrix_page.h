@@ -10,6 +10,7 @@
 
 #include "qorvex/base/vector_types.h"
 
+class QLabel;
 class QSpinBox;
 
 namespace qorvex {
@@ -28,7 +29,7 @@ class FigureTable;
 class MessageBar;
 
 /// A matrix as decimals and as fractions, either of which can be edited, with commands on the whole
-/// of it, its determinant and its rank.
+/// of it, its determinant, its rank and its inverse.
 class MatrixPage : public QWidget {
   Q_OBJECT
 
@@ -40,7 +41,7 @@ class MatrixPage : public QWidget {
   void Open(const QString& path);
 
  private:
-  [[nodiscard]] std::array<TQorCustomMatrixEdit*, 2> Editors() const;
+  [[nodiscard]] std::array<TQorCustomMatrixEdit*, 4> Editors() const;
   QWidget* MakeCommands();
   void AddButton(QWidget* bar, const QString& text, const char* name, const QString& tip,
                  const std::function<void()>& action);
@@ -54,9 +55,14 @@ class MatrixPage : public QWidget {
   // Whatever the matrix has become, the rest of the page shows it.
   void Follow();
   void ShowProperties(const TQorFloatMatrix& matrix);
+  // An empty one for none, with the reason.
+  void ShowInverse(const TQorFloatMatrix& inverse, const QString& why_not);
 
   TQorMatrixEdit* decimals_;
   TQorMatrixFractEdit* fractions_;
+  TQorMatrixEdit* inverse_decimals_;
+  TQorMatrixFractEdit* inverse_fractions_;
+  QLabel* no_inverse_;
   QSpinBox* rows_;
   QSpinBox* cols_;
   FigureTable* properties_;

@@ -53,10 +53,7 @@ ParameterForm::ParameterForm(QWidget* parent)
 ParameterForm::~ParameterForm() = default;
 
 void ParameterForm::SetParameters(std::span<const cli::NumberParameter> parameters) {
-  for (const Row& row : rows_) {
-    row.holder->hide();
-    row.holder->deleteLater();
-  }
+  for (const Row& row : rows_) delete row.holder;
   rows_.clear();
   inconsistency_->hide();
   auto* const layout = static_cast<QVBoxLayout*>(this->layout());

@@ -32,7 +32,10 @@ struct MatrixPageTest : PageFixture<MatrixPage> {
 TEST_F(MatrixPageTest, ShowsTheInverseInBothEditorsAndTakesItBack) {
   EXPECT_EQ(Determinant(), "21.5");
   EXPECT_EQ(Rank(), "3");
+  auto& inverse = Find<TQorMatrixFractEdit>("inverseFractions");
+  EXPECT_EQ(inverse.FractElement(0, 0).denominator, 43);
   Click("inverse");
+  EXPECT_NEAR(static_cast<double>(inverse.Element(0, 1)), 0.5, 1e-15);
   for (quint32 row = 0; row < 3; ++row) {
     for (quint32 col = 0; col < 3; ++col) {
       EXPECT_NEAR(static_cast<double>(decimals->Element(row, col) * 21.5L), kAdjugate[row][col],
@@ -75,6 +78,7 @@ TEST_F(MatrixPageTest, SaysWhatIsWrongAndKeepsTheMatrix) {
   decimals->setMatrix({{1, 2}, {2, 4}});
   ASSERT_TRUE(QTest::qWaitFor([&] { return Rank() == "1"; }));
   EXPECT_EQ(Find<QSpinBox>("rows").value(), 2);
+  EXPECT_EQ(Find<QLabel>("noInverse").text(), "none, the matrix is singular");
   Click("inverse");
   EXPECT_EQ(Message(), "The matrix has no inverse");
   EXPECT_EQ(decimals->Element(1, 1), 4);
