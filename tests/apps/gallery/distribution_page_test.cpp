@@ -17,6 +17,8 @@ struct DistributionPageTest : PageFixture<DistributionPage> {
     auto& box = Find<QComboBox>("family");
     box.setCurrentIndex(box.findText(QLatin1String(family)));
     ASSERT_EQ(box.currentText(), family);
+    // The new cells show.
+    QApplication::processEvents();
   }
   void EnterNumber(const char* name, const char* text) { Enter(Find<QLineEdit>(name), text); }
   [[nodiscard]] std::vector<std::string> Figures() {
