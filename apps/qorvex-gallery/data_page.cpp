@@ -29,6 +29,7 @@
 #include "apps/qorvex-gallery/tall_editor.h"
 #include "apps/qorvex/input_error.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/stats/full_precision.h"
 
@@ -76,6 +77,14 @@ PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_de
   return layer;
 }
 
+// Figures that are too long to be read get an exponent.
+QString Readable(const QString& figure, const QLocale& locale) {
+  constexpr qsizetype most_digits = 32;
+  std::string text = figure.toStdString();
+  if (figure.size() > most_digits) text = Float2Str(Str2Float(text));
+  return QorvexBaseControls::detail::LocalNumber(text, locale);
+}
+
 // The lines of a report, label and figure, in two columns of pairs.
 QList<QStringList> InTwoColumns(const QStringList& lines, const QLocale& locale) {
   const qsizetype rows = (lines.size() + 1) / 2;
@@ -83,8 +92,7 @@ QList<QStringList> InTwoColumns(const QStringList& lines, const QLocale& locale)
   for (qsizetype i = 0; i < lines.size(); ++i) {
     const QString& line = lines[i];
     table[i % rows].append(line.section('\t', 0, 0));
-    table[i % rows].append(
-        QorvexBaseControls::detail::LocalNumber(line.section('\t', 1).toStdString(), locale));
+    table[i % rows].append(Readable(line.section('\t', 1), locale));
   }
   return table;
 }
@@ -165,8 +173,11 @@ QLayout* DataPage::MakeHeader() {
 
   file_->setObjectName("file");
   file_->setTextFormat(Qt::PlainText);
+  // A long name does not widen the page.
+  file_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   columns_->setObjectName("column");
   columns_->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  columns_->setMaximumWidth(40 * fontMetrics().averageCharWidth());
   connect(columns_, &QComboBox::activated, this, &DataPage::ChooseColumn);
   auto* const column_label = new QLabel(tr("&Column:"));
   column_label->setBuddy(columns_);
@@ -362,6 +373,7 @@ int DataPage::LabelWidth() const {
 
 void DataPage::ShowSource() {
   file_->setText(chosen_.title);
+  file_->setToolTip(chosen_.title);
   const QSignalBlocker blocker(columns_);
   columns_->clear();
   for (const TableHead::Column& column : chosen_.head.columns) columns_->addItem(column.title);

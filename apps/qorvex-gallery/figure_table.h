@@ -24,7 +24,8 @@ class FigureTable : public QWidget {
   FigureTable(std::vector<Column> columns, QWidget* parent = nullptr);
   ~FigureTable() override;
 
-  /// Shows these rows, each with a text a column; cells that are not given are empty.
+  /// Shows these rows, each with a text a column; cells that are not given are empty. The table
+  /// never becomes lower, so that what is below it stays in its place.
   void SetRows(const QList<QStringList>& rows);
 
  private:

@@ -319,7 +319,12 @@ class Drawing {
     }
   }
 
-  void DrawTitles(const QString& x_title, const QString& y_title) {
+  void DrawTitles(const QString& whole_x_title, const QString& whole_y_title) {
+    const auto fitted = [this](const QString& title, double room) {
+      return metrics_.elidedText(title, Qt::ElideMiddle, static_cast<int>(room));
+    };
+    const QString x_title = fitted(whole_x_title, area_.width());
+    const QString y_title = fitted(whole_y_title, area_.height());
     painter_.setPen(palette_.color(QPalette::Text));
     const QRect window = painter_.window();
     const int gap = metrics_.height() / 2;

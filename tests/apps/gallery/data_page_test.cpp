@@ -64,6 +64,13 @@ TEST_F(DataPageTest, FollowsEditsAndUndo) {
   EXPECT_EQ(Figure("report", "Mean:"), "3.0");
 }
 
+TEST_F(DataPageTest, KeepsItsWidthWhateverTheValuesAndTitles) {
+  page.Open(Write("huge.csv", QByteArray(5000, 'x') + "\n1e4000\n-1e-4000\n3e4931\n"));
+  EXPECT_EQ(Figure("report", "Maximum:"), "3e+4931");
+  QApplication::processEvents();
+  EXPECT_LE(page.minimumSizeHint().width(), 1100);
+}
+
 TEST_F(DataPageTest, LeavesEmptyCellsOut) {
   page.Open(Write("gap.csv", "a,b\n1,4\n2,\n\n3,8\n"));
   Find<QComboBox>("column").setCurrentIndex(1);
