@@ -12,6 +12,7 @@
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/fractions.h"
+#include "qorvex/base/package_units.h"
 #include "qorvex/base/random.h"
 #include "qorvex/base/rounding.h"
 #include "qorvex/base/special_functions.h"

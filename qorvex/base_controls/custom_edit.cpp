@@ -1,18 +1,14 @@
 #include "qorvex/base_controls/custom_edit.h"
 
 #include <QApplication>
-#include <QClipboard>
 #include <QCoreApplication>
-#include <QDropEvent>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QMenu>
-#include <QMimeData>
+#include <QRegularExpression>
 #include <QStyleOptionFrame>
 #include <QToolTip>
 #include <cmath>
 #include <limits>
-#include <memory>
 
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
@@ -82,7 +78,7 @@ bool TQorCustomEdit::Commit() {
     setValue(*parsed);
     if (detail::SameElement(before, value_)) return true;
     if (Null()) Q_EMIT OnNull();
-    Q_EMIT Changed(before);
+    Q_EMIT Changed();
   } else {
     Restore();
   }
@@ -116,7 +112,7 @@ void TQorCustomEdit::SettingsChanged() {
   SetSelectionBehaviour({.auto_select = AutoSelect(), .auto_select_click = AutoSelectClick()});
   if (QLineEdit::alignment() != Alignment()) QLineEdit::setAlignment(Alignment());
   if (QLineEdit::isReadOnly() != ReadOnly()) {
-    if (ReadOnly()) Restore();
+    CommitOrRestore();
     QLineEdit::setReadOnly(ReadOnly());
   }
   ShowAnew();
@@ -147,7 +143,8 @@ void TQorCustomEdit::ApplyColors() {
   if (ReadOnly()) background = pick(colors.ReadOnlyBackground(), background);
   if (Inside()) background = pick(colors.FocusBackground(), background);
   if (invalid_) {
-    const bool dark = QApplication::palette(this).color(QPalette::Base).lightness() < 128;
+    const QPalette around = parentWidget() ? parentWidget()->palette() : QApplication::palette();
+    const bool dark = around.color(QPalette::Base).lightness() < 128;
     text = pick(colors.InvalidText(), dark ? QColor(0xff, 0xb4, 0xab) : QColor(0x93, 0x00, 0x0a));
     background = pick(colors.InvalidBackground(),
                       dark ? QColor(0x5c, 0x14, 0x14) : QColor(0xff, 0xda, 0xd6));
@@ -207,11 +204,7 @@ void TQorCustomEdit::focusOutEvent(QFocusEvent* event) {
 }
 
 void TQorCustomEdit::keyPressEvent(QKeyEvent* event) {
-  if (event == QKeySequence::Paste) {
-    if (!ReadOnly()) Paste(QApplication::clipboard()->mimeData());
-    return;
-  }
-  if (event->modifiers().testFlag(Qt::KeypadModifier) && !ReadOnly() &&
+  if (event->modifiers() == Qt::KeypadModifier &&
       (event->key() == Qt::Key_Period || event->key() == Qt::Key_Comma)) {
     QKeyEvent separator(event->type(), event->key(), Qt::NoModifier, locale().decimalPoint());
     TextCell::keyPressEvent(&separator);
@@ -220,52 +213,17 @@ void TQorCustomEdit::keyPressEvent(QKeyEvent* event) {
   TextCell::keyPressEvent(event);
 }
 
-void TQorCustomEdit::mouseReleaseEvent(QMouseEvent* event) {
-  QClipboard& clipboard = *QApplication::clipboard();
-  if (event->button() == Qt::MiddleButton && clipboard.supportsSelection()) {
-    if (!ReadOnly()) Paste(clipboard.mimeData(QClipboard::Selection));
-    return;
-  }
-  TextCell::mouseReleaseEvent(event);
-}
-
-void TQorCustomEdit::dropEvent(QDropEvent* event) {
-  if (ReadOnly() || !event->mimeData()->hasText()) return;
-  Paste(event->mimeData());
-  event->acceptProposedAction();
-}
-
-void TQorCustomEdit::Paste(const QMimeData* contents) {
-  if (contents == nullptr || !contents->hasText()) return;
-  const QString pasted = contents->text();
-  const QString line = pasted.trimmed();
-  if (line.contains(QLatin1Char('\t')) || line.contains(QLatin1Char('\n')) ||
-      line.contains(QLatin1Char('\r'))) {
-    Q_EMIT BlockPasted(pasted);
+void TQorCustomEdit::Paste(const QString& text) {
+  // Spreadsheets end even a single cell with a line end.
+  static const QRegularExpression last_line_end(QStringLiteral("(\r\n|\n|\r)$"));
+  static const QRegularExpression separator(QStringLiteral("[\t\r\n]"));
+  QString line = text;
+  line.remove(last_line_end);
+  if (line.contains(separator)) {
+    Q_EMIT BlockPasted(text);
   } else {
-    insert(line);
+    TextCell::Paste(line);
   }
-}
-
-QMenu* TQorCustomEdit::CreateContextMenu() {
-  QMenu* menu = createStandardContextMenu();
-  // The line edit would paste tabs and line ends into the text. Its action has no name but its
-  // text, which Qt translates.
-  constexpr const char* text_of_paste = "&Paste";
-  const QString paste = QLineEdit::tr(text_of_paste);
-  for (QAction* action : menu->actions()) {
-    if (action->text().section(QLatin1Char('\t'), 0, 0) != paste) continue;
-    action->disconnect(this);
-    connect(action, &QAction::triggered, this,
-            [this] { Paste(QApplication::clipboard()->mimeData()); });
-  }
-  Q_EMIT MenuOpening(menu);
-  return menu;
-}
-
-void TQorCustomEdit::contextMenuEvent(QContextMenuEvent* event) {
-  const std::unique_ptr<QMenu> menu(CreateContextMenu());
-  menu->exec(event->globalPos());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

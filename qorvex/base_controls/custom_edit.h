@@ -3,7 +3,6 @@
 /// @file
 /// TQorCustomEdit, a cell that holds an exact value and shows it as text.
 
-#include <QMenu>
 #include <QString>
 #include <optional>
 
@@ -12,8 +11,6 @@
 #include "qorvex/base_controls/cell_properties.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/base_controls/unit.h"
-
-class QMimeData;
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
@@ -74,21 +71,16 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// A colour for the text of this value, in place of the settings'; invalid for none.
   void SetSpecialColor(const QColor& color);
 
-  /// The menu that a click on the cell opens; the caller owns it.
-  [[nodiscard]] QMenu* CreateContextMenu();
-
   /// The owner's number of this cell.
   int Tag = 0;
 
  Q_SIGNALS:
-  /// A commit has changed the value; it was the given one.
-  void Changed(long double before);
+  /// A commit has changed the value.
+  void Changed();
   /// A commit has made the value null; Changed follows.
   void OnNull();
   /// A text of more than one cell is to be pasted here.
   void BlockPasted(const QString& text);
-  /// A menu is about to open; the owner may add to it.
-  void MenuOpening(QMenu* menu);
 
  protected:
   /// A cell that shows nothing until a derived class sets its value.
@@ -98,6 +90,8 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   [[nodiscard]] virtual QString TextOf(Extended value) const = 0;
   /// The value of a text that is not blank; nothing when it is none.
   [[nodiscard]] virtual std::optional<Extended> ValueOf(const QString& text) const = 0;
+  /// A text of several cells goes to the owner, another one into the text.
+  void Paste(const QString& text) override;
   /// What decides the text has changed: shows the value anew.
   void ShowAnew();
 
@@ -111,12 +105,9 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// Qt's events.
   bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
-  void contextMenuEvent(QContextMenuEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
   /// @}
 
  private:
@@ -124,7 +115,6 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   void Show(Extended value, bool has_value, bool keep_pending);
   void Mark(bool invalid);
   void ApplyColors();
-  void Paste(const QMimeData* contents);
   [[nodiscard]] bool IsCutOff() const;
 
   Extended value_ = 0;

@@ -29,9 +29,24 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   [[nodiscard]] bool Updating() const noexcept { return updates_ > 0; }
   /// @}
 
- protected:
+  /// Brackets an update for as long as it lives, whatever is raised meanwhile.
+  class [[nodiscard]] Update {
+   public:
+    /// Begins the update.
+    explicit Update(TQorCustomPanel& panel) noexcept : panel_(panel) { panel_.BeginUpdate(); }
+    /// Ends it.
+    ~Update() noexcept(false) { panel_.EndUpdate(); }
+    Update(const Update&) = delete;
+    Update& operator=(const Update&) = delete;
+
+   private:
+    TQorCustomPanel& panel_;
+  };
+
   /// Shows everything anew, unless an update is under way.
   virtual void Redisplay() = 0;
+
+ protected:
   /// The panel has its properties: it is shown for the first time, or the event loop has started.
   /// Qt has no other sign of it. Called once.
   virtual void Loaded() = 0;

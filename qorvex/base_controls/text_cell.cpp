@@ -1,8 +1,15 @@
 #include "qorvex/base_controls/text_cell.h"
 
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
+#include <QRegularExpression>
+#include <memory>
+#include <utility>
 
 namespace qorvex::inline QorvexBaseControls {
 
@@ -21,7 +28,10 @@ void TextCell::ShowText(const QString& text, bool keep_pending) {
 
 void TextCell::Restore() {
   // Setting the same text would give up the selection.
-  if (text() != shown_) setText(shown_);
+  if (text() != shown_) {
+    setText(shown_);
+    if (inside_ && behaviour_.auto_select) selectAll();
+  }
   setModified(false);
 }
 
@@ -40,7 +50,8 @@ void TextCell::focusInEvent(QFocusEvent* event) {
   QLineEdit::focusInEvent(event);
   if (inside_) return;
   inside_ = true;
-  if (event->reason() != Qt::MouseFocusReason) {
+  entered_by_mouse_ = event->reason() == Qt::MouseFocusReason;
+  if (!entered_by_mouse_) {
     if (behaviour_.auto_select) {
       selectAll();
     } else {
@@ -71,24 +82,72 @@ void TextCell::keyPressEvent(QKeyEvent* event) {
       // Without anything to give up, the key is a dialog's.
       if (!Pending()) break;
       Restore();
-      if (behaviour_.auto_select) selectAll();
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       if (!Commit()) return;
       break;
     default:
+      if (event == QKeySequence::Paste) {
+        PasteFrom(QApplication::clipboard()->mimeData());
+        return;
+      }
       break;
   }
   QLineEdit::keyPressEvent(event);
 }
 
 void TextCell::mouseReleaseEvent(QMouseEvent* event) {
-  QLineEdit::mouseReleaseEvent(event);
-  // A selection that was drawn with the mouse stays.
-  if (event->button() == Qt::LeftButton && behaviour_.auto_select_click && !hasSelectedText()) {
-    selectAll();
+  QClipboard& clipboard = *QApplication::clipboard();
+  if (event->button() == Qt::MiddleButton && clipboard.supportsSelection()) {
+    deselect();
+    PasteFrom(clipboard.mimeData(QClipboard::Selection));
+    return;
   }
+  QLineEdit::mouseReleaseEvent(event);
+  if (event->button() != Qt::LeftButton) return;
+  // A selection that was drawn with the mouse stays, and a second click places the cursor.
+  const bool entered = std::exchange(entered_by_mouse_, false);
+  if (entered && behaviour_.auto_select_click && !hasSelectedText()) selectAll();
+}
+
+void TextCell::dropEvent(QDropEvent* event) {
+  // What is dropped takes the place of what the cell showed, and is committed when the cell is
+  // left.
+  setFocus(Qt::OtherFocusReason);
+  selectAll();
+  PasteFrom(event->mimeData());
+  event->acceptProposedAction();
+}
+
+void TextCell::PasteFrom(const QMimeData* contents) {
+  if (!isReadOnly() && contents != nullptr && contents->hasText()) Paste(contents->text());
+}
+
+void TextCell::Paste(const QString& text) {
+  static const QRegularExpression separator(QStringLiteral("[\t\r\n]"));
+  insert(text.section(separator, 0, 0).trimmed());
+}
+
+QMenu* TextCell::CreateContextMenu() {
+  QMenu* menu = createStandardContextMenu();
+  // The line edit would paste tabs and line ends into the text. Its action has no name but its
+  // text, which Qt translates.
+  constexpr const char* text_of_paste = "&Paste";
+  const QString paste = QLineEdit::tr(text_of_paste);
+  for (QAction* action : menu->actions()) {
+    if (action->text().section(QLatin1Char('\t'), 0, 0) != paste) continue;
+    action->disconnect(this);
+    connect(action, &QAction::triggered, this,
+            [this] { PasteFrom(QApplication::clipboard()->mimeData()); });
+  }
+  Q_EMIT MenuOpening(menu);
+  return menu;
+}
+
+void TextCell::contextMenuEvent(QContextMenuEvent* event) {
+  const std::unique_ptr<QMenu> menu(CreateContextMenu());
+  menu->exec(event->globalPos());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

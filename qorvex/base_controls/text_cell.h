@@ -4,17 +4,21 @@
 /// TextCell, a line edit as one of many cells: what is typed into it counts once it is committed.
 
 #include <QLineEdit>
+#include <QMenu>
 #include <QString>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/cell_settings.h"
 #include "qorvex/base_controls/unit.h"
 
+class QMimeData;
+
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// A line edit that knows what it shows while nothing is typed, and that tells when the focus comes
 /// from another widget and when it has gone to one. A menu that opens or a window that becomes
-/// inactive is neither; the latter commits.
+/// inactive is neither; the latter commits. What is pasted or dropped goes through Paste, by
+/// whatever way it comes.
 class QORVEX_EXPORT TextCell : public QLineEdit {
   Q_OBJECT
 
@@ -33,7 +37,11 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// when the cell has not been entered.
   void Leave();
 
-  /// What gets selected on entry.
+  /// The menu that a click on the cell opens; the caller owns it.
+  [[nodiscard]] QMenu* CreateContextMenu();
+
+  /// What gets selected on entry. A cell with auto_select selects a text that takes the place of
+  /// another while the focus is there, too.
   void SetSelectionBehaviour(const SelectionBehaviour& behaviour) { behaviour_ = behaviour; }
 
  Q_SIGNALS:
@@ -41,6 +49,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   void Entered();
   /// The focus has gone to another widget, and the text is committed or restored.
   void Left();
+  /// A menu is about to open; the owner may add to it.
+  void MenuOpening(QMenu* menu);
 
  protected:
   /// An empty cell.
@@ -48,11 +58,16 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
 
   /// Shows the text; one that is being typed can be kept over it.
   void ShowText(const QString& text, bool keep_pending);
+  /// Takes a text that is pasted or dropped. This one takes what stands in front of the first tab
+  /// or line end, without the blanks around it.
+  virtual void Paste(const QString& text);
   /// Between Entered and Left.
   [[nodiscard]] bool Inside() const noexcept { return inside_; }
 
   /// @{
   /// Qt's events.
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -60,9 +75,12 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// @}
 
  private:
+  void PasteFrom(const QMimeData* contents);
+
   QString shown_;
   SelectionBehaviour behaviour_;
   bool inside_ = false;
+  bool entered_by_mouse_ = false;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -30,6 +30,7 @@ CellPanel::CellPanel(QWidget* parent, GridAxes axes, detail::CurrentRule rule,
 
   detail::EditWindowEvents events;
   events.before_top = [this](quint32 top) {
+    rows_.wanted_top = 0;
     CommitPending();
     Q_EMIT ontopChange(top);
   };
@@ -43,6 +44,7 @@ CellPanel::CellPanel(QWidget* parent, GridAxes axes, detail::CurrentRule rule,
 
   events = {};
   events.before_top = [this](quint32 left) {
+    cols_.wanted_top = 0;
     CommitPending();
     LeftChange(left);
   };
@@ -57,9 +59,9 @@ void CellPanel::MakeBar(Axis& axis, Qt::Orientation orientation) {
   // A click on the bar must take the focus out of a cell, or its text would end up in another row.
   axis.bar->setFocusPolicy(Qt::ClickFocus);
   axis.bar->installEventFilter(this);
-  // Unlike valueChanged, this comes from the user alone.
   connect(axis.bar, &QScrollBar::actionTriggered, this,
           [this, &axis](int action) { SBScroll(axis, action); });
+  connect(axis.bar, &QScrollBar::valueChanged, this, [this, &axis] { FollowBar(axis); });
 }
 
 CellPanel::~CellPanel() {
@@ -160,8 +162,8 @@ void CellPanel::SetLeft(quint32 left) {
 }
 
 void CellPanel::SetTop(Axis& axis, quint32 top) {
-  axis.wanted_top = IsLoaded() ? 0 : top;
   axis.window->SetTop(top);
+  axis.wanted_top = IsLoaded() ? 0 : top;
 }
 
 void CellPanel::SetCurrentCol(quint32 col) {
@@ -193,7 +195,6 @@ void CellPanel::ScrollBottom() {
 }
 
 void CellPanel::SBScroll(const Axis& axis, int action) {
-  const QPointer<CellPanel> self(this);
   switch (action) {
     case QAbstractSlider::SliderSingleStepAdd:
     case QAbstractSlider::SliderSingleStepSub:
@@ -203,7 +204,15 @@ void CellPanel::SBScroll(const Axis& axis, int action) {
       axis.window->SetTopFromBar(axis.bar->sliderPosition());
   }
   // Qt moves the bar to its slider next.
-  if (self) axis.bar->setSliderPosition(axis.window->BarPosition());
+  axis.bar->setSliderPosition(axis.window->BarPosition());
+}
+
+void CellPanel::FollowBar(const Axis& axis) {
+  // The bar's menu and assistive programs set its value without an action.
+  const int position = axis.bar->value();
+  if (!placing_bar_ && position != axis.window->BarPosition()) {
+    axis.window->SetTopFromBar(position);
+  }
 }
 
 void CellPanel::setNull(bool null) {
@@ -280,9 +289,9 @@ void CellPanel::SetEdits(Axis& axis, int edits) {
   const bool moves = FocusIsBeyond(axis, wanted);
   if (moves) Park(axis);
   axis.window->SetEdits(wanted);
-  if (moves) FocusCell(Rows().Focus(), Cols().Focus());
+  if (moves) Navigate(Rows().Focus(), Cols().Focus());
   FitGrid();
-  if (axis.wanted_top > axis.window->Top()) axis.window->SetTop(axis.wanted_top);
+  if (axis.wanted_top > axis.window->Top()) SetTop(axis, axis.wanted_top);
 }
 
 void CellPanel::SetCount(Axis& axis, quint32 count) {
@@ -291,8 +300,8 @@ void CellPanel::SetCount(Axis& axis, quint32 count) {
   const bool moves = FocusIsBeyond(axis, count > top ? count - top : 0);
   if (moves) Park(axis);
   axis.window->SetCount(count);
-  if (moves) FocusCell(Rows().Focus(), Cols().Focus());
-  if (axis.wanted_top > axis.window->Top()) axis.window->SetTop(axis.wanted_top);
+  if (moves) Navigate(Rows().Focus(), Cols().Focus());
+  if (axis.wanted_top > axis.window->Top()) SetTop(axis, axis.wanted_top);
 }
 
 void CellPanel::FitGrid() {
@@ -311,6 +320,7 @@ void CellPanel::FitGrid() {
       cells_[r].pop_back();
       DropCell(dropped);
     }
+    if (!cells_[r].empty()) previous = cells_[r].back();
     while (cells_[r].size() < cols) {
       TQorCustomEdit* const cell = MakeCell(r, cells_[r].size());
       cells_[r].push_back(cell);
@@ -318,11 +328,9 @@ void CellPanel::FitGrid() {
       previous = cell;
       cell->show();
     }
-    if (cols > 0) previous = cells_[r].back();
   }
   GridBuilt();
   Arrange();
-  RenameCells();
   Redisplay();
 }
 
@@ -360,41 +368,43 @@ quint32 CellPanel::ColOf(const TQorCustomEdit* cell) const {
 
 void CellPanel::PlaceBar(const Axis& axis) {
   if (axis.bar == nullptr) return;
+  placing_bar_ = true;
   axis.bar->setRange(0, axis.window->BarMaximum());
-  axis.bar->setPageStep(std::max(static_cast<int>(axis.window->Edits()), 1));
+  axis.bar->setPageStep(axis.window->BarPageStep());
   axis.bar->setValue(axis.window->BarPosition());
+  placing_bar_ = false;
+}
+
+void CellPanel::EnableUsedCells() {
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+      cells_[r][c]->setEnabled(r < Rows().UsedEdits() && c < Cols().UsedEdits());
+    }
+  }
 }
 
 void CellPanel::Redisplay() {
+  // At once, since a cell may be given the focus before the update ends.
+  EnableUsedCells();
   if (Updating()) return;
-  const std::size_t used_rows = Rows().UsedEdits();
-  const std::size_t used_cols = Cols().UsedEdits();
   for (std::size_t r = 0; r < cells_.size(); ++r) {
     for (std::size_t c = 0; c < cells_[r].size(); ++c) {
       TQorCustomEdit* const cell = cells_[r][c];
-      const bool used = r < used_rows && c < used_cols;
-      if (used) {
-        const Extended value = Value(RowOf(cell), ColOf(cell));
+      const quint32 row = RowOf(cell);
+      const quint32 col = ColOf(cell);
+      // Asking for an element may change how many there are.
+      if (r < Rows().UsedEdits() && c < Cols().UsedEdits()) {
+        const Extended value = Value(row, col);
         cell->Refresh(value);
-        cell->SetSpecialColor(SpecialColor(RowOf(cell), ColOf(cell), value));
+        cell->SetSpecialColor(SpecialColor(row, col, value));
       } else {
         cell->ShowNothing();
       }
-      cell->setEnabled(used);
+      const QString name = CellName(row, col);
+      if (cell->accessibleName() != name) cell->setAccessibleName(name);
     }
   }
-  NameCells();
   Redisplayed();
-}
-
-void CellPanel::NameCells() {
-  const QPair<quint32, quint32> tops(Rows().Top(), Cols().Top());
-  if (cells_named_ && tops == named_tops_) return;
-  for (const auto& row : cells_) {
-    for (TQorCustomEdit* cell : row) cell->setAccessibleName(CellName(RowOf(cell), ColOf(cell)));
-  }
-  cells_named_ = true;
-  named_tops_ = tops;
 }
 
 int CellPanel::RowHeight() const {
@@ -452,7 +462,6 @@ void CellPanel::changeEvent(QEvent* event) {
       Arrange();
       break;
     case QEvent::LanguageChange:
-      RenameCells();
       Redisplay();
       break;
     default:

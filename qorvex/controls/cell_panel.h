@@ -7,7 +7,6 @@
 #include <QColor>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPair>
 #include <QPointer>
 #include <QString>
 #include <cstdint>
@@ -33,8 +32,9 @@ enum class CurrentRule;
 }  // namespace detail
 /// @endcond
 
-/// A grid of cells with a scroll bar beside it. The cells show the part of a table that begins at
-/// DisplayTopRow; the table itself is behind the pure functions below.
+/// A grid of cells with a scroll bar beside it, and one below it where the table has columns. The
+/// cells show the part of a table that begins at DisplayTopRow; the table itself is behind the pure
+/// functions below.
 ///
 /// Keys: Enter and Ctrl+Down go to the cell below, Ctrl+Up to the one above, and the table scrolls
 /// where the window ends; the page keys scroll by a window. Ctrl+Z takes back the last change by
@@ -46,8 +46,9 @@ enum class CurrentRule;
 /// Before anything moves or changes under a cell, the text that is typed there is committed, or
 /// given up where it is no number.
 ///
-/// Handlers of signals may do anything but destroy the control at once; deleteLater is what serves.
-/// A redisplay costs O(cells), whatever the size of the table.
+/// Handlers of signals may do anything but destroy the control: deleteLater serves, unless the
+/// handler runs an event loop of its own. A redisplay costs O(cells), whatever the size of the
+/// table.
 class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   Q_OBJECT
 
@@ -91,7 +92,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @}
 
   /// @{
-  /// Setting it makes every visible cell show null until the next redisplay; the elements stay.
+  /// Setting it makes every visible cell show null until the next redisplay; the elements stay. It
+  /// reads as it was set last.
   [[nodiscard]] bool Null() const noexcept { return null_; }
   void setNull(bool null);
   void resetNull() { setNull(false); }
@@ -136,13 +138,19 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool PasteBlock(const QString& text);
 
   /// Copies the whole table to the clipboard with all digits, in the numbers of the locale, as
-  /// PasteBlock and spreadsheets take it. More than ten million elements are refused.
+  /// PasteBlock and spreadsheets take it; infinities are copied as "inf", which PasteBlock refuses
+  /// like any text that is no number. More than ten million elements are refused.
   void CopyAll();
 
+  /// Shows the elements in the cells, unless an update is under way. In virtual mode this is how to
+  /// say that they are others now.
+  void Redisplay() override;
+
   /// @{
-  /// Takes back, and makes again, the last change by typing, pasting or a command. Any other change
-  /// of the elements or of their number ends the possibility. Elements that were typed or pasted
-  /// raise the events of a change again.
+  /// Takes back, and makes again, the last change by typing, pasting or a command. What was typed
+  /// or pasted raises the events of a change again, and concerns its own elements, whatever has
+  /// become of others. A command can be taken back until anything else changes, and nothing after a
+  /// change of the number of elements.
   [[nodiscard]] bool CanUndo() const noexcept { return exchange_ && !undone_; }
   [[nodiscard]] bool CanRedo() const noexcept { return exchange_ && undone_; }
   void Undo();
@@ -167,7 +175,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// @{
   /// What happens in any of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event
-  /// takes the key away; OnKeyPress comes for keys that type something, after OnKeyDown.
+  /// takes the key away; OnKeyPress comes after OnKeyDown for keys that stand for a character,
+  /// those that control among them.
   void OnClick();
   void OnDblClick();
   void OnKeyDown(QKeyEvent* event);
@@ -213,9 +222,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// @{
   /// What a derived control adds: after the top has changed; after cells were made or dropped;
-  /// after a redisplay; after the settings of
-  /// cells have changed; room in front of the cells; where a navigation key leads
-  /// that points at a cell.
+  /// after a redisplay; after the settings of cells have changed; room in front of the cells; what
+  /// takes the focus that a key or a change of size leads to a cell.
   virtual void AfterTopChange(quint32 top);
   virtual void GridBuilt();
   virtual void Redisplayed();
@@ -257,6 +265,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] QRect Placed(const QRect& rectangle) const;
   /// Gives the cell the focus, if it can take it.
   void FocusCell(std::size_t row_edit, std::size_t col_edit);
+  /// The same for what navigation leads to there.
+  void Navigate(std::size_t row_edit, std::size_t col_edit);
   /// @{
   /// A cell, or another text that belongs to it, has been entered or left.
   void EnterText(TextCell* text, quint32 row_edit, quint32 col_edit);
@@ -266,24 +276,22 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void CommitPending();
   /// Lets the keys, the wheel and the mouse of a widget count as those of a cell.
   void Watch(QWidget* widget);
-  /// Places the cells and the bar.
+  /// Places the cells and the bars.
   virtual void Arrange();
-  /// Shows the elements in the cells, unless an update is under way.
-  void Redisplay() override;
-  /// The names of the cells are others now, though the rows are the same.
-  void RenameCells() noexcept { cells_named_ = false; }
   /// The settings that count: the control's own or the shared ones.
   [[nodiscard]] CellSettings EffectiveSettings() const;
 
   /// Copies a part of the table to the clipboard, as CopyAll does.
   void CopyBlock(quint32 row, quint32 rows, quint32 col, quint32 cols);
-  /// Remembers how to take back a change: exchange is called alternately to undo and to redo it.
+  /// Remembers how to take back a command: exchange is called alternately to undo and to redo it.
   /// Copies of it must share what they exchange.
   void Remember(std::function<void()> exchange);
   /// Adds to what Remember was told last.
   void AlsoExchange(std::function<void()> exchange);
-  /// The elements are others now; nothing is left to take back.
+  /// The number of elements is another one: nothing is left to take back.
   void Forget();
+  /// Something else than elements through their cells has changed: no command is left to take back.
+  void ForgetCommand();
   /// Runs a command on the whole table and redisplays, also when it raises. In virtual mode, where
   /// the table is not here, only the latter.
   void Command(const std::function<void()>& command);
@@ -292,7 +300,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// Handlers of a cell.
   void EditEnter(TQorCustomEdit* cell);
   void EditExit(TQorCustomEdit* cell);
-  void DoChange(const TQorCustomEdit* cell);
+  void DoChange(TQorCustomEdit* cell);
   /// True when the key is used up.
   bool EditKeyDown(QKeyEvent* event);
   bool EditKeyPress(QKeyEvent* event);
@@ -337,7 +345,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   void MakeBar(Axis& axis, Qt::Orientation orientation);
   void PlaceBar(const Axis& axis);
+  // What the user does with a bar, and what others do.
   void SBScroll(const Axis& axis, int action);
+  void FollowBar(const Axis& axis);
   void SetEdits(Axis& axis, int edits);
   void SetCount(Axis& axis, quint32 count);
   // Whether the focus is on a cell that shows an element from the given one of the axis on.
@@ -346,7 +356,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void FitGrid();
   TQorCustomEdit* MakeCell(std::size_t row_edit, std::size_t col_edit);
   void DropCell(TQorCustomEdit* cell);
-  void NameCells();
+  void EnableUsedCells();
   [[nodiscard]] int RowHeight() const;
   [[nodiscard]] int BarExtent() const;
   void ApplySettings();
@@ -359,6 +369,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] bool FocusInside() const;
   [[nodiscard]] bool IsOwnKey(const QKeyEvent& event);
   bool UseKey(const QKeyEvent& event);
+  void ForwardMouse(const QWidget& widget, QMouseEvent* event);
   void Step(Axis& along, Axis& across, bool forward);
 
   [[nodiscard]] QString BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const;
@@ -366,7 +377,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   // Puts the other values in the elements, and those that were there in the changes.
   void ExchangeElements(ElementChanges& changes);
   void RememberElements(ElementChanges changes);
-  void NotifyChange(quint32 row, quint32 col);
+  void NotifyChanges(const ElementChanges& changes);
   void Exchange(bool undone);
   void AddToMenu(QMenu* menu);
 
@@ -377,9 +388,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   std::vector<std::vector<TQorCustomEdit*>> cells_;
   // The cell, or the text beside one, that has been entered and not left.
   TextCell* entered_ = nullptr;
-  // The tops that the cells' names are for.
-  bool cells_named_ = false;
-  QPair<quint32, quint32> named_tops_;
 
   QPointer<TQorUICtrl> ui_ctrl_;
   QString ui_ctrl_name_;
@@ -393,7 +401,10 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   QPoint wheel_rest_;
 
   std::function<void()> exchange_;
+  bool exchanges_command_ = false;
   bool undone_ = false;
+  // The bar is being moved by the panel.
+  bool placing_bar_ = false;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexControls)

@@ -18,7 +18,6 @@
 namespace qorvex::inline QorvexControls {
 
 QString CellPanel::BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const {
-  if (cells_.empty() || cells_.front().empty()) return {};
   const TQorCustomEdit& cell = *Cell(0, 0);
   std::string text;
   detail::TextBlock line(1, std::vector<std::string>(cols));
@@ -34,6 +33,7 @@ QString CellPanel::BlockText(quint32 row, quint32 rows, quint32 col, quint32 col
 void CellPanel::CopyBlock(quint32 row, quint32 rows, quint32 col, quint32 cols) {
   constexpr quint64 most = 10'000'000;
   CommitPending();
+  if (cells_.empty() || cells_.front().empty()) return;
   if (quint64{rows} * cols > most) {
     RefuseBlock(QCoreApplication::translate("CellPanel", "Too many values to copy: %1.")
                     .arg(quint64{rows} * cols));
@@ -96,44 +96,50 @@ bool CellPanel::PasteBlock(const QString& text) {
                         .arg(CellName(row, col), cell_text));
         return false;
       }
-      changes.push_back({row, col, *value});
+      if (!QorvexBaseControls::detail::SameElement(Value(row, col), *value)) {
+        changes.push_back({row, col, *value});
+      }
     }
   }
-  ExchangeElements(changes);
+  if (changes.empty()) return true;
   RememberElements(std::move(changes));
+  Exchange(false);
   return true;
 }
 
 void CellPanel::ExchangeElements(ElementChanges& changes) {
-  const QPointer<CellPanel> self(this);
-  BeginUpdate();
-  for (ElementChange& change : changes) {
-    // A handler may have shortened the table.
-    if (change.row >= Rows().Count() || change.col >= Cols().Count()) continue;
-    const Extended before = Value(change.row, change.col);
-    if (QorvexBaseControls::detail::SameElement(before, change.value)) continue;
-    Store(change.row, change.col, std::exchange(change.value, before));
-    if (!self) return;
-    NotifyChange(change.row, change.col);
-    if (!self) return;
+  {
+    const Update update(*this);
+    for (ElementChange& change : changes) {
+      // A handler may have shortened the table.
+      if (change.row >= Rows().Count() || change.col >= Cols().Count()) continue;
+      const Extended before = Value(change.row, change.col);
+      Store(change.row, change.col, std::exchange(change.value, before));
+    }
   }
-  EndUpdate();
+  NotifyChanges(changes);
 }
 
-void CellPanel::NotifyChange(quint32 row, quint32 col) {
-  const QPointer<CellPanel> self(this);
-  if (std::isnan(Value(row, col))) Notify(CellEvent::kNull, row, col);
-  if (self) Notify(CellEvent::kChange, row, col);
+void CellPanel::NotifyChanges(const ElementChanges& changes) {
+  for (const auto& [row, col, before] : changes) {
+    if (row >= Rows().Count() || col >= Cols().Count()) continue;
+    if (std::isnan(Value(row, col))) Notify(CellEvent::kNull, row, col);
+    Notify(CellEvent::kChange, row, col);
+  }
 }
 
 void CellPanel::RememberElements(ElementChanges changes) {
   Remember([this, shared = std::make_shared<ElementChanges>(std::move(changes))] {
-    ExchangeElements(*shared);
+    // A handler may make the panel forget what it is doing.
+    const auto kept = shared;
+    ExchangeElements(*kept);
   });
+  exchanges_command_ = false;
 }
 
 void CellPanel::Remember(std::function<void()> exchange) {
   exchange_ = std::move(exchange);
+  exchanges_command_ = true;
   undone_ = false;
 }
 
@@ -148,6 +154,10 @@ void CellPanel::Forget() {
   exchange_ = nullptr;
 }
 
+void CellPanel::ForgetCommand() {
+  if (exchanges_command_) Forget();
+}
+
 void CellPanel::Undo() {
   CommitPending();
   if (CanUndo()) Exchange(true);
@@ -160,27 +170,21 @@ void CellPanel::Redo() {
 
 void CellPanel::Exchange(bool undone) {
   undone_ = undone;
-  // A copy, since a handler may make the panel forget what it is doing.
   const std::function<void()> exchange = exchange_;
   exchange();
 }
 
 void CellPanel::Command(const std::function<void()>& command) {
   CommitPending();
-  BeginUpdate();
-  try {
-    if (!VirtualMode()) command();
-  } catch (...) {
-    EndUpdate();
-    throw;
-  }
-  EndUpdate();
+  const Update update(*this);
+  if (!VirtualMode()) command();
 }
 
 void CellPanel::AddToMenu(QMenu* menu) {
   menu->addSeparator();
   menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
                   &CellPanel::CopyAll);
+  if (EffectiveSettings().read_only) return;
   menu->addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
                   &CellPanel::Undo)
       ->setEnabled(CanUndo());

@@ -55,14 +55,16 @@ void CellPanel::EditExit(TQorCustomEdit* cell) {
   Notify(CellEvent::kExit, RowOf(cell), ColOf(cell));
 }
 
-void CellPanel::DoChange(const TQorCustomEdit* cell) {
+void CellPanel::DoChange(TQorCustomEdit* cell) {
   const quint32 row = RowOf(cell);
   const quint32 col = ColOf(cell);
   // The cell may have shown null in place of the element.
   const Extended before = Value(row, col);
   Store(row, col, cell->Value());
+  // Whoever keeps the elements in virtual mode may have kept another value.
+  cell->Refresh(Value(row, col));
   RememberElements({{row, col, before}});
-  NotifyChange(row, col);
+  NotifyChanges({{row, col, before}});
 }
 
 bool CellPanel::FocusInside() const {
@@ -80,15 +82,20 @@ void CellPanel::FocusCell(std::size_t row_edit, std::size_t col_edit) {
   Cell(row_edit, col_edit)->setFocus(Qt::OtherFocusReason);
 }
 
+void CellPanel::Navigate(std::size_t row_edit, std::size_t col_edit) {
+  if (row_edit >= Rows().UsedEdits() || col_edit >= Cols().UsedEdits()) return;
+  NavigationTarget(row_edit, col_edit)->setFocus(Qt::OtherFocusReason);
+}
+
 void CellPanel::Park(const Axis& axis) {
+  // In an inactive window the cell would not notice.
+  if (entered_ != nullptr) entered_->Leave();
   axis.bar->setFocus(Qt::OtherFocusReason);
 }
 
 void CellPanel::Step(Axis& along, Axis& across, bool forward) {
-  const QPointer<CellPanel> self(this);
   // A text that is no number keeps the focus.
   if (entered_ != nullptr && !entered_->Commit()) return;
-  if (!self) return;
   const auto state = [this](const Axis& axis) {
     const detail::EditWindow& window = *axis.window;
     const bool follows_top = rule_ == detail::CurrentRule::kFollowsTop;
@@ -103,18 +110,14 @@ void CellPanel::Step(Axis& along, Axis& across, bool forward) {
   if (!step) return;
   if (step->scrolls) {
     // The cell is left under its old row and entered again under its new one.
-    Park(step->along.top != along.window->Top() ? along : across);
-    if (!self) return;
+    Park(step->across.top != across.window->Top() ? across : along);
     along.window->SetTop(step->along.top);
-    if (!self) return;
     across.window->SetTop(step->across.top);
-    if (!self) return;
   }
   const bool vertical = &along == &rows_;
   const detail::AxisStep& row = vertical ? step->along : step->across;
   const detail::AxisStep& col = vertical ? step->across : step->along;
-  if (row.edit >= Rows().UsedEdits() || col.edit >= Cols().UsedEdits()) return;
-  NavigationTarget(row.edit, col.edit)->setFocus(Qt::OtherFocusReason);
+  Navigate(row.edit, col.edit);
 }
 
 bool CellPanel::IsOwnKey(const QKeyEvent& event) {
@@ -167,6 +170,7 @@ bool CellPanel::UseKey(const QKeyEvent& event) {
     case Qt::Key_Y:
     case Qt::Key_Z: {
       if (entered_ != nullptr && entered_->Pending()) return false;
+      if (EffectiveSettings().read_only) return true;
       const bool redo = event.key() == Qt::Key_Y || Held(event).testFlag(Qt::ShiftModifier);
       redo ? Redo() : Undo();
       return true;
@@ -178,10 +182,9 @@ bool CellPanel::UseKey(const QKeyEvent& event) {
 }
 
 bool CellPanel::EditKeyDown(QKeyEvent* event) {
-  const QPointer<CellPanel> self(this);
   event->setAccepted(false);
   Q_EMIT OnKeyDown(event);
-  if (!self || event->isAccepted()) return true;
+  if (event->isAccepted()) return true;
   // Left unaccepted, a key would be handled again by every parent.
   event->accept();
   return UseKey(*event);
@@ -189,10 +192,9 @@ bool CellPanel::EditKeyDown(QKeyEvent* event) {
 
 bool CellPanel::EditKeyPress(QKeyEvent* event) {
   if (event->text().isEmpty()) return false;
-  const QPointer<CellPanel> self(this);
   event->setAccepted(false);
   Q_EMIT OnKeyPress(event);
-  if (!self || event->isAccepted()) return true;
+  if (event->isAccepted()) return true;
   event->accept();
   return false;
 }
@@ -209,6 +211,7 @@ void CellPanel::EditMouseWheel(QWheelEvent* event) {
     if (!fine) return amount / 100;
     // Touch pads and free wheels send many small amounts, which make a notch together.
     constexpr int notch = 120;
+    if (amount == 0) return 0;
     if ((amount < 0) != (rest < 0)) rest = 0;
     rest += amount;
     return std::exchange(rest, rest % notch) / notch;
@@ -228,7 +231,7 @@ bool CellPanel::eventFilter(QObject* watched, QEvent* event) {
   }
   if (watched == rows_.bar || watched == cols_.bar)
     return TQorCustomPanel::eventFilter(watched, event);
-  const QPointer<CellPanel> self(this);
+  const auto* const widget = static_cast<const QWidget*>(watched);
   switch (event->type()) {
     case QEvent::ShortcutOverride:
       // An action of the application with the same keys would take them otherwise.
@@ -243,27 +246,35 @@ bool CellPanel::eventFilter(QObject* watched, QEvent* event) {
       Q_EMIT OnKeyUp(static_cast<QKeyEvent*>(event));
       break;
     case QEvent::MouseButtonPress:
-      Q_EMIT OnMouseDown(static_cast<QMouseEvent*>(event));
-      break;
-    case QEvent::MouseMove:
-      Q_EMIT OnMouseMove(static_cast<QMouseEvent*>(event));
-      break;
-    case QEvent::MouseButtonRelease: {
-      const auto* const mouse = static_cast<QMouseEvent*>(event);
-      Q_EMIT OnMouseUp(static_cast<QMouseEvent*>(event));
-      if (self && mouse->button() == Qt::LeftButton &&
-          static_cast<QWidget*>(watched)->rect().contains(mouse->position().toPoint())) {
-        Q_EMIT OnClick();
-      }
-      break;
-    }
     case QEvent::MouseButtonDblClick:
-      Q_EMIT OnDblClick();
+    case QEvent::MouseMove:
+    case QEvent::MouseButtonRelease:
+      if (widget->isEnabled()) ForwardMouse(*widget, static_cast<QMouseEvent*>(event));
       break;
     default:
       break;
   }
-  return !self || TQorCustomPanel::eventFilter(watched, event);
+  return TQorCustomPanel::eventFilter(watched, event);
+}
+
+void CellPanel::ForwardMouse(const QWidget& widget, QMouseEvent* event) {
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+      Q_EMIT OnMouseDown(event);
+      break;
+    case QEvent::MouseButtonDblClick:
+      Q_EMIT OnDblClick();
+      break;
+    case QEvent::MouseMove:
+      Q_EMIT OnMouseMove(event);
+      break;
+    default:
+      Q_EMIT OnMouseUp(event);
+      if (event->button() == Qt::LeftButton &&
+          widget.rect().contains(event->position().toPoint())) {
+        Q_EMIT OnClick();
+      }
+  }
 }
 
 void CellPanel::wheelEvent(QWheelEvent* event) {

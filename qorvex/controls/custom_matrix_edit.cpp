@@ -9,6 +9,7 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/controls/detail/edit_window.h"
 #include "qorvex/matrix/building.h"
+#include "qorvex/matrix/shape.h"
 
 namespace qorvex::inline QorvexMatrixEdit {
 
@@ -60,41 +61,47 @@ quint32 TQorCustomMatrixEdit::NoOfRows() const noexcept {
   return Rows().Count();
 }
 
-void TQorCustomMatrixEdit::FitStore(quint32 rows, quint32 cols) {
-  if (VirtualMode()) return;
-  store_.SetLength(rows);
-  for (TQorFloatVector& row : store_) row.SetLength(cols);
-}
-
 void TQorCustomMatrixEdit::setNoOfCols(quint32 cols) {
-  Forget();
-  ResizeCols(cols);
-}
-
-void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
-  Forget();
-  ResizeRows(rows);
-}
-
-void TQorCustomMatrixEdit::ResizeCols(quint32 cols) {
   if (cols == NoOfCols()) return;
-  // Handlers that run on the way may read any element that the counts promise.
-  if (cols > NoOfCols()) FitStore(NoOfRows(), cols);
-  SetColCount(cols);
-  FitStore(NoOfRows(), NoOfCols());
+  ResizeCols(cols);
+  Forget();
   Q_EMIT OnNoColsChange(NoOfCols());
 }
 
-void TQorCustomMatrixEdit::ResizeRows(quint32 rows) {
+void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
   if (rows == NoOfRows()) return;
-  if (rows > NoOfRows()) FitStore(rows, NoOfCols());
-  SetRowCount(rows);
-  FitStore(NoOfRows(), NoOfCols());
+  ResizeRows(rows);
+  Forget();
   Q_EMIT OnNoRowsChange(NoOfRows());
 }
 
+void TQorCustomMatrixEdit::ResizeCols(quint32 cols) {
+  SetColCount(cols);
+  // Handlers that ran on the way could read the elements that are going.
+  if (!VirtualMode()) TrimStore();
+}
+
+void TQorCustomMatrixEdit::ResizeRows(quint32 rows) {
+  SetRowCount(rows);
+  if (!VirtualMode()) TrimStore();
+}
+
+void TQorCustomMatrixEdit::TrimStore() {
+  if (store_.size() > NoOfRows()) store_.SetLength(NoOfRows());
+  for (TQorFloatVector& row : store_) {
+    if (row.size() > NoOfCols()) row.SetLength(NoOfCols());
+  }
+}
+
+TQorFloatMatrix& TQorCustomMatrixEdit::FullStore() {
+  if (store_.size() < NoOfRows()) store_.SetLength(NoOfRows());
+  for (TQorFloatVector& row : store_) {
+    if (row.size() < NoOfCols()) row.SetLength(NoOfCols());
+  }
+  return store_;
+}
+
 TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
-  if (!VirtualMode()) return CopyMatrix(store_);
   auto matrix = TQorFloatMatrix::WithLength(NoOfRows());
   for (quint32 row = 0; row < NoOfRows(); ++row) {
     matrix[row] = TQorFloatVector::ForOverwrite(NoOfCols());
@@ -104,30 +111,31 @@ TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
 }
 
 void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
-  TQorFloatMatrix copy = CopyMatrix(matrix);
-  const std::size_t cols = copy.empty() ? 0 : std::as_const(copy)[0].size();
-  for (const TQorFloatVector& row : std::as_const(copy)) {
-    if (row.size() != cols) RaiseMathError(rsMatrixRect);
-  }
+  if (!MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
   CommitPending();
-  Take(std::move(copy));
   Forget();
+  Take(CopyMatrix(matrix));
 }
 
 void TQorCustomMatrixEdit::Take(TQorFloatMatrix matrix) {
-  const std::size_t rows = matrix.size();
-  const std::size_t cols = matrix.empty() ? 0 : std::as_const(matrix)[0].size();
-  BeginUpdate();
-  ResizeRows(static_cast<quint32>(rows));
-  ResizeCols(static_cast<quint32>(cols));
+  const quint32 rows = MatrixRows(matrix);
+  const quint32 cols = MatrixCols(matrix);
+  const quint32 rows_before = NoOfRows();
+  const quint32 cols_before = NoOfCols();
+  const Update update(*this);
+  ResizeRows(rows);
+  ResizeCols(cols);
   if (VirtualMode()) {
-    for (quint32 row = 0; row < NoOfRows(); ++row) {
-      for (quint32 col = 0; col < NoOfCols(); ++col) Store(row, col, matrix[row][col]);
+    for (quint32 row = 0; row < std::min(rows, NoOfRows()); ++row) {
+      for (quint32 col = 0; col < std::min(cols, NoOfCols()); ++col) {
+        Store(row, col, matrix[row][col]);
+      }
     }
   } else if (NoOfRows() == rows && NoOfCols() == cols) {
     store_ = std::move(matrix);
   }
-  EndUpdate();
+  if (NoOfRows() != rows_before) Q_EMIT OnNoRowsChange(NoOfRows());
+  if (NoOfCols() != cols_before) Q_EMIT OnNoColsChange(NoOfCols());
 }
 
 void TQorCustomMatrixEdit::CheckElement(quint32 row, quint32 col, quint64 cols) const {
@@ -144,7 +152,7 @@ Extended TQorCustomMatrixEdit::Element(quint32 row, quint32 col) const {
 void TQorCustomMatrixEdit::setElement(quint32 row, quint32 col, Extended value) {
   CheckElement(row, col, NoOfCols());
   Store(row, col, value);
-  Forget();
+  ForgetCommand();
   Redisplay();
 }
 
@@ -201,7 +209,8 @@ Extended TQorCustomMatrixEdit::Value(quint32 row, quint32 col) const {
 void TQorCustomMatrixEdit::Store(quint32 row, quint32 col, Extended value) {
   if (VirtualMode()) {
     Q_EMIT OnSetElement(row, col, value);
-  } else if (row < store_.size() && col < store_[row].size()) {
+  } else if (row < NoOfRows() && col < NoOfCols()) {
+    if (row >= store_.size() || col >= store_[row].size()) FullStore();
     store_[row][col] = value;
   }
 }
@@ -234,9 +243,14 @@ QString TQorCustomMatrixEdit::CellName(quint32 row, quint32 col) const {
 }
 
 QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended value) const {
-  QColor color;
-  if (OnSpecialColor) OnSpecialColor(row, col, value, color);
-  return color;
+  if (!OnSpecialColor) return {};
+  const EditColors colors = EffectiveSettings().colors;
+  QColor usual = palette().color(QPalette::Text);
+  if (colors.text.isValid()) usual = colors.text;
+  if (value < 0 && colors.negative_text.isValid()) usual = colors.negative_text;
+  QColor color = usual;
+  OnSpecialColor(row, col, value, color);
+  return color == usual ? QColor() : color;
 }
 
 void TQorCustomMatrixEdit::LeftChange(quint32 left) {
@@ -248,7 +262,7 @@ void TQorCustomMatrixEdit::CurrColChange(quint32 before, quint32 now) {
 }
 
 void TQorCustomMatrixEdit::VirtualModeChanged() {
-  FitStore(NoOfRows(), NoOfCols());
+  if (!VirtualMode()) TrimStore();
 }
 
 void TQorCustomMatrixEdit::CornerClick() {

@@ -13,6 +13,35 @@
 
 class QToolButton;
 
+/// What both editors of matrices publish, in this order.
+#define QORVEX_PUBLISHED_MATRIX_EDIT                                                            \
+  Q_PROPERTY(QString UICtrl READ UICtrlName WRITE setUICtrl RESET resetUICtrl)                  \
+  Q_PROPERTY(                                                                                   \
+      qorvex::TQorUICtrl::TQorUIUsage UIUsage READ UIUsage WRITE setUIUsage RESET resetUIUsage) \
+  QORVEX_PUBLISHED_COLORS                                                                       \
+  QORVEX_PUBLISHED(bool, TrimTrailingZeroes)                                                    \
+  QORVEX_PUBLISHED(bool, FullAccuracy)                                                          \
+  QORVEX_PUBLISHED(bool, AutoSelectClick)                                                       \
+  QORVEX_PUBLISHED(bool, BlankWhenZero)                                                         \
+  QORVEX_PUBLISHED(bool, BlankWhenNull)                                                         \
+  QORVEX_PUBLISHED(bool, Null)                                                                  \
+  QORVEX_PUBLISHED(bool, ReadOnly)                                                              \
+  QORVEX_PUBLISHED(bool, VirtualMode)                                                           \
+  QORVEX_PUBLISHED(bool, AutoSelect)                                                            \
+  QORVEX_PUBLISHED(bool, AllowKbdNull)                                                          \
+  QORVEX_PUBLISHED(bool, TabStop)                                                               \
+  QORVEX_PUBLISHED(Qt::Alignment, Alignment)                                                    \
+  QORVEX_PUBLISHED(int, CellHeight)                                                             \
+  QORVEX_PUBLISHED(int, CellWidth)                                                              \
+  QORVEX_PUBLISHED(int, DecimalPlaces)                                                          \
+  QORVEX_PUBLISHED(uint, DisplayLeftCol)                                                        \
+  QORVEX_PUBLISHED(uint, DisplayTopRow)                                                         \
+  QORVEX_PUBLISHED(int, NoOfColEdits)                                                           \
+  QORVEX_PUBLISHED(int, NoOfRowEdits)                                                           \
+  QORVEX_PUBLISHED(uint, NoOfCols)                                                              \
+  QORVEX_PUBLISHED(uint, NoOfRows)                                                              \
+  QORVEX_PUBLISHED(QString, NullStr)
+
 QORVEX_WIDGET_UNIT(QorvexMatrixEdit) {
 
 /// @{
@@ -65,7 +94,7 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
 
   /// @{
   /// The size of the matrix, 0 by 0 at first. New elements are 0. Raises OnNoColsChange or
-  /// OnNoRowsChange. O(elements), in virtual mode O(1).
+  /// OnNoRowsChange. Memory for new elements is taken when one is set. O(rows).
   [[nodiscard]] quint32 NoOfCols() const noexcept;
   void setNoOfCols(quint32 cols);
   void resetNoOfCols() { setNoOfCols(0); }
@@ -196,15 +225,20 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
   static constexpr int kDefaultColEdits = 3;
   static constexpr int kDefaultRowEdits = 4;
 
+  // Change the numbers of rows and columns but for the events.
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
-  void FitStore(quint32 rows, quint32 cols);
+  void TrimStore();
+  // The store with an element for each row and column.
+  TQorFloatMatrix& FullStore();
   // Takes a matrix with buffers of its own in place of the one that is here.
   void Take(TQorFloatMatrix matrix);
+  void ExchangeStore(TQorFloatMatrix& other);
   // A command that makes one matrix of another and can be taken back.
   void MatrixCommand(const std::function<void(TQorFloatMatrix& matrix)>& command);
 
   QToolButton* corner_ = nullptr;
+  // Elements beyond its ends are 0.
   TQorFloatMatrix store_;
 };
 

@@ -55,7 +55,6 @@ void TQorLabelledVectorEdit::setLabelAlignment(Qt::Alignment alignment) {
 
 void TQorLabelledVectorEdit::setLabelNumOffSet(int offset) {
   label_offset_ = offset;
-  RenameCells();
   Redisplay();
 }
 
@@ -65,7 +64,6 @@ void TQorLabelledVectorEdit::setLabelType(TQorLabelType type) {
   label_type_ = type;
   if (type == ltNumbered) setLabelsEditable(false);
   if (type == ltCustom) GrowCustomLabels(NoOfRows());
-  RenameCells();
   Redisplay();
 }
 
@@ -101,9 +99,8 @@ void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
     return;
   } else {
     SetCustomLabel(row, label);
-    Forget();
+    ForgetCommand();
   }
-  RenameCells();
   Redisplay();
 }
 
@@ -117,41 +114,39 @@ void TQorLabelledVectorEdit::SetCustomLabel(quint32 row, const QString& label) {
 }
 
 void TQorLabelledVectorEdit::Sort() {
-  BeginUpdate();
+  const Update update(*this);
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto before = std::make_shared<QStringList>(custom_labels_);
     AlsoExchange([this, before] {
       std::swap(custom_labels_, *before);
-      RenameCells();
       Redisplay();
     });
     custom_labels_.sort(Qt::CaseInsensitive);
-    RenameCells();
   }
-  EndUpdate();
 }
 
 void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
-  BeginUpdate();
+  const Update update(*this);
   TQorVectorEdit::SwapElements(first, second);
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto swap = [=, this] {
       const QString label = custom_labels_.value(first);
       SetCustomLabel(first, custom_labels_.value(second));
       SetCustomLabel(second, label);
-      RenameCells();
       Redisplay();
     };
     swap();
     AlsoExchange(swap);
   }
-  EndUpdate();
 }
 
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
   const QString name = TQorVectorEdit::CellName(row, col);
-  if (label_type_ == ltNumbered || row >= NoOfRows()) return name;
+  if (row >= NoOfRows()) return name;
+  if (label_type_ == ltNumbered) {
+    return QCoreApplication::translate("TQorVectorEdit", "Row %1").arg(Label(row));
+  }
   return QCoreApplication::translate("TQorLabelledVectorEdit", "%1, %2",
                                      "label of a row, name of the row")
       .arg(Label(row), name);
@@ -239,9 +234,9 @@ void TQorLabelledVectorEdit::Redisplayed() {
     const bool used = edit < Rows().UsedEdits();
     label->Show(used ? Label(row) : QString());
     label->setEnabled(used);
-    label->setAccessibleName(
-        QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1")
-            .arg(qint64{row} + 1));
+    const QString name = QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1")
+                             .arg(qint64{row} + 1);
+    if (label->accessibleName() != name) label->setAccessibleName(name);
   }
 }
 

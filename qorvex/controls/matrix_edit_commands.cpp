@@ -5,6 +5,7 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/controls/custom_matrix_edit.h"
+#include "qorvex/controls/detail/edit_window.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/reduction.h"
 #include "qorvex/matrix/row_operations.h"
@@ -17,16 +18,17 @@ void TQorCustomMatrixEdit::MatrixCommand(
     const std::function<void(TQorFloatMatrix& matrix)>& command) {
   Command([&] {
     // The command works on a copy, and the matrix that it began with is what brings it back.
-    const auto other = std::make_shared<TQorFloatMatrix>(CopyMatrix(store_));
+    const auto other = std::make_shared<TQorFloatMatrix>(CopyMatrix(FullStore()));
     command(*other);
-    const auto exchange = [this, other] {
-      TQorFloatMatrix before = store_;
-      Take(std::exchange(*other, TQorFloatMatrix()));
-      *other = std::move(before);
-    };
-    exchange();
-    Remember(exchange);
+    ExchangeStore(*other);
+    Remember([this, other] { ExchangeStore(*other); });
   });
+}
+
+void TQorCustomMatrixEdit::ExchangeStore(TQorFloatMatrix& other) {
+  // Moved out, since the store must not share rows that are about to change their lengths.
+  TQorFloatMatrix before = std::move(FullStore());
+  Take(std::exchange(other, std::move(before)));
 }
 
 void TQorCustomMatrixEdit::SwapRows(quint32 first, quint32 second) {

@@ -18,32 +18,7 @@ class QORVEX_EXPORT TQorMatrixFractEdit final : public TQorCustomMatrixEdit {
   /// @{
   /// Published: see the accessor of the same name here, in TQorCustomMatrixEdit, CellPanel or
   /// CellProperties.
-  Q_PROPERTY(QString UICtrl READ UICtrlName WRITE setUICtrl RESET resetUICtrl)
-  Q_PROPERTY(
-      qorvex::TQorUICtrl::TQorUIUsage UIUsage READ UIUsage WRITE setUIUsage RESET resetUIUsage)
-  QORVEX_PUBLISHED_COLORS
-  QORVEX_PUBLISHED(bool, TrimTrailingZeroes)
-  QORVEX_PUBLISHED(bool, FullAccuracy)
-  QORVEX_PUBLISHED(bool, AutoSelectClick)
-  QORVEX_PUBLISHED(bool, BlankWhenZero)
-  QORVEX_PUBLISHED(bool, BlankWhenNull)
-  QORVEX_PUBLISHED(bool, Null)
-  QORVEX_PUBLISHED(bool, ReadOnly)
-  QORVEX_PUBLISHED(bool, VirtualMode)
-  QORVEX_PUBLISHED(bool, AutoSelect)
-  QORVEX_PUBLISHED(bool, AllowKbdNull)
-  QORVEX_PUBLISHED(bool, TabStop)
-  QORVEX_PUBLISHED(Qt::Alignment, Alignment)
-  QORVEX_PUBLISHED(int, CellHeight)
-  QORVEX_PUBLISHED(int, CellWidth)
-  QORVEX_PUBLISHED(int, DecimalPlaces)
-  QORVEX_PUBLISHED(uint, DisplayLeftCol)
-  QORVEX_PUBLISHED(uint, DisplayTopRow)
-  QORVEX_PUBLISHED(int, NoOfColEdits)
-  QORVEX_PUBLISHED(int, NoOfRowEdits)
-  QORVEX_PUBLISHED(uint, NoOfCols)
-  QORVEX_PUBLISHED(uint, NoOfRows)
-  QORVEX_PUBLISHED(QString, NullStr)
+  QORVEX_PUBLISHED_MATRIX_EDIT
   QORVEX_PUBLISHED(qorvex::TQorFractEdit::FractionDisplayMode, FractionDisplay)
   QORVEX_PUBLISHED(int, DecimalsFract)
   /// @}

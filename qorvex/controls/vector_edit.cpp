@@ -45,16 +45,27 @@ quint32 TQorVectorEdit::NoOfRows() const noexcept {
 
 void TQorVectorEdit::setNoOfRows(quint32 rows) {
   if (rows == NoOfRows()) return;
-  // Handlers that run on the way may read any element that the count promises.
-  if (!VirtualMode() && store_.size() < rows) store_.SetLength(rows);
-  SetRowCount(rows);
-  if (!VirtualMode()) store_.SetLength(NoOfRows());
-  Forget();
+  Resize(rows);
   Q_EMIT OnRowNoChange(NoOfRows());
 }
 
+void TQorVectorEdit::Resize(quint32 rows) {
+  SetRowCount(rows);
+  // Handlers that ran on the way could read the elements that are going.
+  if (!VirtualMode()) TrimStore();
+  Forget();
+}
+
+void TQorVectorEdit::TrimStore() {
+  if (store_.size() > NoOfRows()) store_.SetLength(NoOfRows());
+}
+
+TQorFloatVector& TQorVectorEdit::FullStore() {
+  if (store_.size() < NoOfRows()) store_.SetLength(NoOfRows());
+  return store_;
+}
+
 TQorFloatVector TQorVectorEdit::Vector() const {
-  if (!VirtualMode()) return TQorFloatVector(std::span<const Extended>(store_));
   auto vector = TQorFloatVector::ForOverwrite(NoOfRows());
   for (quint32 row = 0; row < NoOfRows(); ++row) vector[row] = Value(row, 0);
   return vector;
@@ -65,16 +76,18 @@ void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
     throw std::length_error("A vector edit has at most 4294967295 rows");
   }
   const TQorFloatVector copy{std::span<const Extended>(vector)};
+  const quint32 rows_before = NoOfRows();
+  const Update update(*this);
   CommitPending();
-  BeginUpdate();
-  setNoOfRows(static_cast<quint32>(copy.size()));
+  Resize(static_cast<quint32>(copy.size()));
   if (VirtualMode()) {
-    for (quint32 row = 0; row < NoOfRows(); ++row) Store(row, 0, copy[row]);
+    for (quint32 row = 0; row < std::min<std::size_t>(NoOfRows(), copy.size()); ++row) {
+      Store(row, 0, copy[row]);
+    }
   } else if (NoOfRows() == copy.size()) {
     store_ = copy;
   }
-  Forget();
-  EndUpdate();
+  if (NoOfRows() != rows_before) Q_EMIT OnRowNoChange(NoOfRows());
 }
 
 void TQorVectorEdit::CheckRow(quint32 row) const {
@@ -90,7 +103,7 @@ Extended TQorVectorEdit::Element(quint32 row) const {
 void TQorVectorEdit::setElement(quint32 row, Extended value) {
   CheckRow(row);
   Store(row, 0, value);
-  Forget();
+  ForgetCommand();
   Redisplay();
 }
 
@@ -110,8 +123,8 @@ Extended TQorVectorEdit::Value(quint32 row, quint32) const {
 void TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
   if (VirtualMode()) {
     Q_EMIT OnSetElement(row, value);
-  } else if (row < store_.size()) {
-    store_[row] = value;
+  } else if (row < NoOfRows()) {
+    FullStore()[row] = value;
   }
 }
 
@@ -145,7 +158,7 @@ void TQorVectorEdit::AfterTopChange(quint32 top) {
 }
 
 void TQorVectorEdit::VirtualModeChanged() {
-  if (!VirtualMode()) store_.SetLength(NoOfRows());
+  if (!VirtualMode()) TrimStore();
 }
 
 std::optional<Extended> TQorVectorEdit::DoConvert(const QString& text) const {
@@ -154,7 +167,7 @@ std::optional<Extended> TQorVectorEdit::DoConvert(const QString& text) const {
 
 void TQorVectorEdit::VectorCommand(const std::function<void()>& command) {
   Command([&] {
-    const auto before = std::make_shared<TQorFloatVector>(std::span<const Extended>(store_));
+    const auto before = std::make_shared<TQorFloatVector>(std::span<const Extended>(FullStore()));
     command();
     Remember([this, before] {
       std::swap(store_, *before);
@@ -200,10 +213,11 @@ void TQorVectorEdit::Sort() {
 }
 
 void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
+  CommitPending();
   CheckRow(first);
   CheckRow(second);
   Command([=, this] {
-    const auto swap = [=, this] { SwapXY(store_[first], store_[second]); };
+    const auto swap = [=, this] { SwapXY(FullStore()[first], FullStore()[second]); };
     swap();
     Remember([this, swap] {
       swap();

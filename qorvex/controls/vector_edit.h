@@ -76,8 +76,8 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
   /// @}
 
   /// @{
-  /// The length of the vector, 0 at first. New elements are 0. A top beyond the new last page moves
-  /// there. Raises OnRowNoChange. O(length), in virtual mode O(1).
+  /// The length of the vector, 0 at first. New elements are 0; memory for them is taken when one is
+  /// set. A top beyond the new last page moves there. Raises OnRowNoChange. O(1).
   [[nodiscard]] quint32 NoOfRows() const noexcept;
   void setNoOfRows(quint32 rows);
   void resetNoOfRows() { setNoOfRows(0); }
@@ -174,6 +174,13 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
   // A command on the store that can be taken back.
   void VectorCommand(const std::function<void()>& command);
 
+  // Changes the number of rows but for the event.
+  void Resize(quint32 rows);
+  void TrimStore();
+  // The store with an element for each row.
+  TQorFloatVector& FullStore();
+
+  // Elements beyond its end are 0.
   TQorFloatVector store_;
 };
 

@@ -36,7 +36,11 @@ TEST_F(BlockPaste, FillsTheVectorFromTheFocusedCellAndIsTakenBackInOneStep) {
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(editor->Element(2), 2);
   editor->setElement(0, 5);
+  EXPECT_TRUE(editor->CanRedo()) << "another element has nothing to do with it";
+  editor->setNoOfRows(7);
   EXPECT_FALSE(editor->CanRedo());
+  EXPECT_TRUE(editor->PasteBlock(""));
+  EXPECT_FALSE(editor->CanUndo()) << "nothing has changed";
 }
 
 TEST_F(BlockPaste, RefusesAWholeTextWithAReason) {

@@ -73,7 +73,6 @@ TYPED_TEST(Cells, CommitExactlyWhatIsTypedAndNothingElse) {
   this->other->setFocus();
   EXPECT_EQ(edit->Value(), -4);
   EXPECT_EQ(changed.count(), 2);
-  EXPECT_EQ(changed[1][0].value<long double>(), 2.5L);
 }
 
 TYPED_TEST(Cells, MarkWhatIsNoNumberAndNeverStoreIt) {
@@ -156,6 +155,8 @@ TYPED_TEST(Cells, SelectOnEntryAndOnClickWhereTheyShall) {
   edit->setAutoSelectClick(true);
   EXPECT_FALSE(enter());
   EXPECT_TRUE(click());
+  QTest::mouseClick(edit, Qt::LeftButton);
+  EXPECT_FALSE(edit->hasSelectedText()) << "a second click places the cursor";
 }
 
 TEST_F(FloatCell, ShowsAsManyDigitsAsItIsTold) {
@@ -261,6 +262,12 @@ TEST_F(FloatCell, KeepsToThePaletteUntilAColourIsSet) {
   cell->resetColorSetText();
   cell->resetColorSetNegativeText();
   EXPECT_FALSE(cell->testAttribute(Qt::WA_SetPalette));
+  // The mark of an invalid text has contrast on the form that it is on.
+  window.setPalette(QPalette(Qt::black));
+  Type("x");
+  Press(Qt::Key_Return);
+  EXPECT_LT(cell->palette().color(QPalette::Base).lightness(), 128);
+  EXPECT_GT(cell->palette().color(QPalette::Text).lightness(), 128);
 }
 
 TEST_F(FractCell, ShowsAndTakesFractions) {

@@ -4,6 +4,7 @@
 /// A window with an editor in it, whose signals are written down as one short text each.
 
 #include <QApplication>
+#include <QClipboard>
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QStringList>
@@ -11,10 +12,13 @@
 #include <QWheelEvent>
 #include <QtTest/QTest>
 #include <QtTest/qtestspontaneevent.h>
+#include <concepts>
 #include <memory>
 #include <string>
 
 #include "qorvex/base/text.h"
+#include "qorvex/controls/QorvexMatrixEdit.h"
+#include "qorvex/controls/QorvexMatrixFractEdit.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 #include "support/test.h"
 
@@ -33,7 +37,7 @@ inline void TurnWheel(QWidget* widget, int amount, Qt::ScrollPhase phase = Qt::N
   QApplication::instance()->notify(widget, &event);
 }
 
-/// Editor is a TQorVectorEdit or derived from it.
+/// Editor is one of the editors of vectors or matrices.
 template <class Editor>
 struct EditorFixture : testing::Test {
   // Declared first, so that signals of widgets on their way out find it.
@@ -73,8 +77,8 @@ struct EditorFixture : testing::Test {
     return text;
   }
 
-  TQorFloatEdit* Cell(int edit) const {
-    return editor->template findChildren<TQorFloatEdit*>().at(edit);
+  TQorCustomEdit* Cell(int edit) const {
+    return editor->template findChildren<TQorCustomEdit*>().at(edit);
   }
   QScrollBar* Bar() const { return editor->template findChild<QScrollBar*>(); }
 
@@ -85,7 +89,7 @@ struct EditorFixture : testing::Test {
 
   std::string Texts() const {
     QStringList texts;
-    for (const TQorFloatEdit* cell : editor->template findChildren<TQorFloatEdit*>()) {
+    for (const TQorCustomEdit* cell : editor->template findChildren<TQorCustomEdit*>()) {
       if (!cell->isHidden()) texts.append(cell->text());
     }
     return texts.join(QLatin1Char('|')).toStdString();
@@ -110,9 +114,16 @@ struct EditorFixture : testing::Test {
     On(&Editor::OnChangeText, "text");
     On(&Editor::OnNull, "null");
     On(&Editor::OnSetElement, "set");
-    On(&Editor::OnRowNoChange, "rows");
+    if constexpr (std::derived_from<Editor, TQorVectorEdit>) {
+      On(&Editor::OnRowNoChange, "rows");
+      On(&Editor::OnAfterTopChange, "after");
+    } else {
+      On(&Editor::OnNoRowsChange, "rows");
+      On(&Editor::OnNoColsChange, "cols");
+      On(&Editor::OnLeftChange, "left");
+      On(&Editor::OnCurrColChange, "column");
+    }
     On(&Editor::ontopChange, "top");
-    On(&Editor::OnAfterTopChange, "after");
     On(&Editor::OnCurrRowChange, "current");
     On(&Editor::OnCellEnter, "in");
     On(&Editor::OnCellExit, "out");

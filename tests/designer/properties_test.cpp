@@ -5,6 +5,8 @@
 
 #include "changed_value.h"
 #include "qorvex/base_controls/fract_edit.h"
+#include "qorvex/controls/QorvexMatrixEdit.h"
+#include "qorvex/controls/QorvexMatrixFractEdit.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 #include "qorvex/controls/desc_stats_holder.h"
 #include "qorvex/controls/uictrl_holder.h"
@@ -47,6 +49,18 @@ const Table kLabelledVectorEdit = kVectorEdit + Table{{"LabelAlignment", int{Qt:
                                                       {"LabelType", 1},
                                                       {"LabelsEditable", false},
                                                       {"LabelWidth", 81}};
+const Table kMatrixEdit =
+    Table{{"UICtrl", ""}, {"UIUsage", 15}} + kColors + kFormat +
+    Table{{"AutoSelectClick", false}, {"BlankWhenZero", false},
+          {"BlankWhenNull", false},   {"Null", false},
+          {"ReadOnly", false},        {"VirtualMode", false},
+          {"AutoSelect", true},       {"AllowKbdNull", true},
+          {"TabStop", true}} +
+    kAlignment +
+    Table{{"CellHeight", 21},    {"CellWidth", 81},    {"DecimalPlaces", 4}, {"DisplayLeftCol", 0U},
+          {"DisplayTopRow", 0U}, {"NoOfColEdits", 3},  {"NoOfRowEdits", 4},  {"NoOfCols", 0U},
+          {"NoOfRows", 0U},      {"NullStr", kNullStr}};
+const Table kMatrixFractEdit = kMatrixEdit + Table{{"FractionDisplay", 0}, {"DecimalsFract", 9}};
 const Table kFloatEdit = kFormat + kCell + Table{{"DecimalPlaces", 4}} + kState + kColors;
 const Table kFractEdit =
     kCell + Table{{"DecimalsFract", 9}, {"FractionDisplay", 0}} + kState + kColors;
@@ -86,6 +100,8 @@ void ExpectPublished(const Table& table) {
 TEST(PublishedProperties, HaveTheirOrderAndDefaults) {
   ExpectPublished<TQorVectorEdit>(kVectorEdit);
   ExpectPublished<TQorLabelledVectorEdit>(kLabelledVectorEdit);
+  ExpectPublished<TQorMatrixEdit>(kMatrixEdit);
+  ExpectPublished<TQorMatrixFractEdit>(kMatrixFractEdit);
   ExpectPublished<TQorFloatEdit>(kFloatEdit);
   ExpectPublished<TQorFractEdit>(kFractEdit);
   ExpectPublished<TQorUICtrlHolder>(kUICtrlHolder);

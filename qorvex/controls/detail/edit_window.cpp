@@ -78,6 +78,10 @@ int EditWindow::BarMaximum() const noexcept {
   return static_cast<int>(LargestTop() >> BarShift(LargestTop()));
 }
 
+int EditWindow::BarPageStep() const noexcept {
+  return std::max(static_cast<int>(edits_ >> BarShift(LargestTop())), 1);
+}
+
 int EditWindow::BarPosition() const noexcept {
   return static_cast<int>(top_ >> BarShift(LargestTop()));
 }

@@ -75,6 +75,8 @@ class QORVEX_EXPORT EditWindow {
   /// The largest position of a bar over this axis. A bar counts in int, an axis reaches 2^32 - 1;
   /// where LargestTop() is beyond 2^31 - 1, a position stands for two elements.
   [[nodiscard]] int BarMaximum() const noexcept;
+  /// How many positions of the bar a page is, at least one.
+  [[nodiscard]] int BarPageStep() const noexcept;
   /// Where the bar stands for the present top; the last page is always BarMaximum().
   [[nodiscard]] int BarPosition() const noexcept;
 

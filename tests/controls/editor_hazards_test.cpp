@@ -1,0 +1,219 @@
+// What happens to an editor while something else is going on: handlers that change it, windows that
+// are inactive, texts that come from elsewhere than the keyboard.
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <algorithm>
+#include <memory>
+
+#include "controls/editor_fixture.h"
+
+namespace qorvex {
+
+using EditorHazards = EditorFixture<TQorVectorEdit>;
+
+TEST_F(EditorHazards, AKeyAfterTheBarLeavesTheCellAndComesBack) {
+  Open(10);
+  editor->setDisplayTopRow(3);
+  editor->setEditFocus(0);
+  Bar()->triggerAction(QAbstractSlider::SliderToMinimum);
+  Take();
+  Press(Qt::Key_Up, Qt::ControlModifier);
+  EXPECT_EQ(Take(), "out 0, current 3 0, in 0") << "the current row was out of date";
+  editor->setEditFocus(3);
+  Bar()->triggerAction(QAbstractSlider::SliderToMaximum);
+  Take();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Take(), "out 9, current 3 9, in 9");
+  // A whole page, however coarse the bar is.
+  editor->setVirtualMode(true);
+  editor->setNoOfRows(4'000'000'000U);
+  editor->ScrollTop();
+  Bar()->triggerAction(QAbstractSlider::SliderPageStepAdd);
+  EXPECT_EQ(editor->DisplayTopRow(), 4U);
+}
+
+TEST_F(EditorHazards, ADropGoesToTheCellUnderIt) {
+  Open(10);
+  editor->setEditFocus(0);
+  const auto drop = [this](int edit, const char* text) {
+    QMimeData contents;
+    contents.setText(text);
+    QDragEnterEvent enter({2, 2}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Cell(edit), &enter);
+    QDropEvent event({2, 2}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(Cell(edit), &event);
+  };
+  drop(2, "77");
+  EXPECT_EQ(Texts(), "0.0000|1.0000|77|3.0000");
+  editor->ScrollDown(3);
+  EXPECT_EQ(editor->Element(2), 77);
+  drop(1, "8\n9\n");
+  EXPECT_EQ(Texts(), "3.0000|8.0000|9.0000|6.0000");
+  drop(0, "\n55\n");
+  EXPECT_EQ(Texts(), "|55.0000|9.0000|6.0000") << "an empty cell stands above the number";
+  editor->setReadOnly(true);
+  drop(3, "1");
+  EXPECT_EQ(editor->Element(6), 6);
+}
+
+TEST_F(EditorHazards, HandlersThatChangeTheVectorLoseNothing) {
+  editor->setVector({0, 1, 2, 3, -1});
+  Show();
+  auto handler = std::make_unique<QObject>();
+  QObject::connect(editor, &TQorVectorEdit::OnChange, handler.get(), [this](quint32 row) {
+    if (row == 1) editor->Sort();
+  });
+  EXPECT_TRUE(editor->PasteBlock("10\n20"));
+  EXPECT_TRUE(std::ranges::equal(editor->Vector(), TQorFloatVector{-1, 2, 3, 10, 20}));
+  handler.reset();
+  editor->Undo();
+  EXPECT_TRUE(std::ranges::equal(editor->Vector(), TQorFloatVector{10, 20, 2, 3, -1}));
+
+  // A sum that a handler keeps in the last row does not stand in the way of the user's undo.
+  handler = std::make_unique<QObject>();
+  QObject::connect(editor, &TQorVectorEdit::OnChange, handler.get(),
+                   [this] { editor->setElement(4, editor->Element(0) + editor->Element(1)); });
+  editor->setEditFocus(0);
+  Type("1");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(editor->Element(4), 21);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(editor->Element(4), 30);
+  Press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(editor->Element(4), 21);
+
+  // What is typed is committed before rows are checked: the handler shortens the vector.
+  handler = std::make_unique<QObject>();
+  QObject::connect(editor, &TQorVectorEdit::OnChange, handler.get(),
+                   [this] { editor->setNoOfRows(2); });
+  Type("5");
+  EXPECT_MATH_ERROR(editor->SwapElements(0, 4), rsInvalidRow);
+  handler.reset();
+
+  // A handler of the number of rows finds the new elements.
+  handler = std::make_unique<QObject>();
+  QObject::connect(editor, &TQorVectorEdit::OnRowNoChange, handler.get(),
+                   [this] { EXPECT_EQ(editor->Element(2), 9); });
+  editor->setVector({7, 8, 9});
+}
+
+TEST_F(EditorHazards, AnOwnerMayKeepAnotherValueOrFewerRows) {
+  editor->setNoOfRows(4'000'000'000U);
+  editor->setVirtualMode(true);
+  Extended kept = 1;
+  QObject::connect(editor, &TQorVectorEdit::OnSetElement, editor,
+                   [&kept](quint32, Extended value) { kept = std::min(value, 10.0L); });
+  editor->OnGetElement = [&kept](quint32) { return kept; };
+  Show();
+  editor->setEditFocus(0);
+  Type("99");
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Cell(0)->text(), "10.0000");
+  editor->OnGetElement = [this](quint32 row) {
+    editor->setNoOfRows(2);
+    return static_cast<Extended>(row);
+  };
+  editor->Redisplay();
+  EXPECT_EQ(Texts(), "0.0000|1.0000||");
+}
+
+TEST_F(EditorHazards, AnInactiveWindowTellsNothingOfRowsThatThereAreNot) {
+  Open(10);
+  editor->setDisplayTopRow(6);
+  editor->setEditFocus(3);
+  QWidget second;
+  second.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
+  Take();
+  editor->setNoOfRows(3);
+  EXPECT_EQ(Take(), "out 9, top 0, current 9 2, after 0, rows 3");
+  window->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  EXPECT_EQ(Take(), "in 2");
+}
+
+TEST_F(EditorHazards, TheNextKeyTypesOverAnElementThatHasTakenAnothersPlace) {
+  Open(5);
+  editor->setEditFocus(1);
+  TurnWheel(Cell(1), -120);
+  Type("7");
+  EXPECT_EQ(Cell(1)->text(), "7");
+  // The last row keeps the focus when Enter cannot go on.
+  editor->setEditFocus(3);
+  Type("5");
+  Press(Qt::Key_Return);
+  Type("6");
+  EXPECT_EQ(Cell(3)->text(), "6");
+  // What is typed is not lost when the editor becomes read-only, and is not taken back then.
+  editor->setReadOnly(true);
+  EXPECT_EQ(editor->Element(4), 6);
+  Press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(editor->Element(4), 6);
+}
+
+TEST_F(EditorHazards, ABatchMayMoveTheFocusToCellsThatItBringsIntoUse) {
+  Open(1);
+  editor->BeginUpdate();
+  editor->setNoOfRows(5);
+  editor->setEditFocus(2);
+  editor->EndUpdate();
+  EXPECT_TRUE(Cell(2)->hasFocus());
+  editor->setDisplayTopRow(1);
+  editor->ScrollTop();
+  editor->setNoOfRows(3);
+  EXPECT_EQ(Cell(3)->accessibleName(), "Row 4");
+  other->setFocus();
+  editor->setFocus();
+  EXPECT_TRUE(Cell(2)->hasFocus()) << "the editor hands the focus on to its cell";
+}
+
+TEST_F(EditorHazards, ForwardsTheMouseOfCellsInUse) {
+  Open(2);
+  QStringList mouse;
+  for (const auto& [signal, name] : {std::pair(&TQorVectorEdit::OnClick, "click"),
+                                     std::pair(&TQorVectorEdit::OnDblClick, "double")}) {
+    QObject::connect(editor, signal, editor, [&mouse, name = name] { mouse.append(name); });
+  }
+  QObject::connect(editor, &TQorVectorEdit::OnMouseDown, editor, [&] { mouse.append("down"); });
+  QObject::connect(editor, &TQorVectorEdit::OnMouseUp, editor, [&] { mouse.append("up"); });
+  QObject::connect(editor, &TQorVectorEdit::OnKeyUp, editor, [&] { mouse.append("key"); });
+  const auto take = [&mouse] { return std::exchange(mouse, {}).join(' ').toStdString(); };
+  QTest::mouseClick(Cell(1), Qt::LeftButton);
+  EXPECT_EQ(take(), "down up click");
+  QTest::mousePress(Cell(1), Qt::LeftButton);
+  QTest::mouseRelease(Cell(1), Qt::LeftButton, {}, {-9, -9});
+  EXPECT_EQ(take(), "down up") << "released elsewhere";
+  QTest::mouseDClick(Cell(1), Qt::LeftButton);
+  EXPECT_TRUE(QString::fromStdString(take()).contains("double"));
+  Press(Qt::Key_X);
+  EXPECT_EQ(take(), "key");
+  QTest::mouseClick(Cell(3), Qt::LeftButton);
+  EXPECT_EQ(take(), "") << "no element is there";
+}
+
+struct LabelHazards : EditorFixture<TQorLabelledVectorEdit> {};
+
+TEST_F(LabelHazards, AnErrorEndsTheUpdate) {
+  Open(3);
+  EXPECT_MATH_ERROR(editor->SwapElements(0, 99), rsInvalidRow);
+  EXPECT_FALSE(editor->Updating());
+  editor->setLabelNumOffSet(0);
+  EXPECT_EQ(Cell(0)->accessibleName(), "Row 0") << "the row has the name that can be seen";
+  editor->setTabStop(false);
+  editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
+  editor->setLabelsEditable(true);
+  auto* const label = editor->childAt(5, 5);
+  ASSERT_NE(label, nullptr);
+  EXPECT_EQ(label->focusPolicy(), Qt::ClickFocus);
+  EXPECT_FALSE(editor->childAt(5, 5 + 3 * 21)->isEnabled()) << "there is no such row";
+  label->setFocus();
+  QApplication::clipboard()->setText("one\ttwo\nthree");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  editor->childAt(5, 5 + 2 * 21)->setFocus();
+  EXPECT_EQ(editor->Label(0), "one");
+  editor->setNoOfRows(2);
+  EXPECT_TRUE(editor->childAt(5, 5 + 21)->hasFocus()) << "the focus stays among the labels";
+}
+
+}  // namespace qorvex

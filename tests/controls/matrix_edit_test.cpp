@@ -1,0 +1,310 @@
+#include <QSignalSpy>
+#include <QToolButton>
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <tuple>
+
+#include "controls/editor_fixture.h"
+#include "qorvex/matrix/QorvexMatrix.h"
+
+namespace qorvex {
+
+template <class Editor>
+struct MatrixFixture : EditorFixture<Editor> {
+  using EditorFixture<Editor>::editor;
+
+  /// Elements 10 * row + col in a window that is shown.
+  void Open(quint32 rows, quint32 cols) {
+    editor->setMatrix(Numbered(rows, cols));
+    editor->setNoOfRows(rows);
+    editor->setNoOfCols(cols);
+    this->Show();
+  }
+  static TQorFloatMatrix Numbered(quint32 rows, quint32 cols) {
+    auto matrix = CreateFloatMatrix(rows, cols);
+    for (quint32 r = 0; r < rows; ++r) {
+      for (quint32 c = 0; c < cols; ++c) matrix[r][c] = 10.0L * r + c;
+    }
+    return matrix;
+  }
+  /// The cell in a row and a column of the grid, of the size that it has at first.
+  TQorCustomEdit* At(int row, int col) const { return this->Cell(row * 3 + col); }
+  static bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
+    return std::ranges::equal(a, b, [](const TQorFloatVector& x, const TQorFloatVector& y) {
+      return std::ranges::equal(x, y);
+    });
+  }
+};
+using MatrixEdit = MatrixFixture<TQorMatrixEdit>;
+using MatrixFractEdit = MatrixFixture<TQorMatrixFractEdit>;
+
+TEST_F(MatrixEdit, TellsWhatHappensInOrder) {
+  Open(6, 5);
+  const auto press = [this](Qt::Key key) { return [=, this] { Press(key, Qt::ControlModifier); }; };
+  const struct {
+    const char* action;
+    std::function<void()> run;
+    const char* events;
+  } steps[] = {
+      {"a program scrolls", [&] { editor->setDisplayTopRow(99); }, "top 2"},
+      {"beyond the end again", [&] { editor->setDisplayTopRow(99); }, ""},
+      {"a program scrolls across", [&] { editor->ScrollRight(1); }, "left 1"},
+      {"the focus comes", [&] { At(3, 2)->setFocus(); }, "current 0 5, column 0 3, in 5 3"},
+      {"to the last column", press(Qt::Key_Right), "out 5 3, left 2, column 3 4, in 5 4"},
+      {"at the end of the matrix", press(Qt::Key_Right), ""},
+      {"nor further down", [&] { Press(Qt::Key_Return, Qt::ShiftModifier); }, ""},
+      {"up", press(Qt::Key_Up), "out 5 4, current 5 4, in 4 4"},
+      {"left", press(Qt::Key_Left), "out 4 4, column 4 3, in 4 3"},
+      {"down", press(Qt::Key_Down), "out 4 3, current 4 5, in 5 3"},
+      {"typing", [&] { Type("8"); }, "text 5 3 8"},
+      {"down from the last row goes to the top of the next column", press(Qt::Key_Down),
+       "change 5 3, out 5 3, top 0, current 5 0, column 3 4, in 0 4"},
+      {"and up again", press(Qt::Key_Up), "out 0 4, top 2, current 0 5, column 4 3, in 5 3"},
+      {"a notch of the wheel leaves the current row", [&] { TurnWheel(At(0, 0), 120); }, "top 1"},
+      {"as does the other bar",
+       [&] {
+         editor->findChildren<QScrollBar*>().at(1)->triggerAction(
+             QAbstractSlider::SliderSingleStepSub);
+       },
+       "left 1"},
+      {"a row that is asked for", [&] { editor->setCurrentRow(3); }, "top 0, current 5 3"},
+      {"a column", [&] { editor->setCurrentCol(4); }, "left 2"},
+      {"fewer columns", [&] { editor->setNoOfCols(2); },
+       "out 3 3, left 0, column 3 1, in 3 1, cols 2"},
+      {"fewer rows", [&] { editor->setNoOfRows(1); }, "out 3 1, current 3 0, in 0 1, rows 1"},
+  };
+  for (const auto& [action, run, events] : steps) {
+    SCOPED_TRACE(action);
+    run();
+    EXPECT_EQ(Take(), events);
+  }
+}
+
+// Walks a matrix from corner to corner by each key and sees every element once, in order.
+TEST_F(MatrixEdit, NavigationReachesEveryElementOfAnyMatrix) {
+  for (const quint32 rows : {1U, 2U, 4U, 7U}) {
+    for (const quint32 cols : {1U, 2U, 3U, 6U}) {
+      SCOPED_TRACE(testing::Message() << rows << " x " << cols);
+      Open(rows, cols);
+      for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Up, Qt::Key_Left}) {
+        const bool along_columns = key == Qt::Key_Down || key == Qt::Key_Up;
+        const bool forward = key == Qt::Key_Down || key == Qt::Key_Right;
+        forward ? editor->ScrollTop() : editor->ScrollBottom();
+        forward ? editor->ScrollLeftMost() : editor->ScrollRightMost();
+        const int row_edit = forward ? 0 : static_cast<int>(std::min(rows, 4U)) - 1;
+        const int col_edit = forward ? 0 : static_cast<int>(std::min(cols, 3U)) - 1;
+        At(row_edit, col_edit)->setFocus();
+        for (quint32 step = 0; step < rows * cols; ++step) {
+          const quint32 element = forward ? step : rows * cols - 1 - step;
+          const quint32 row = along_columns ? element % rows : element / cols;
+          const quint32 col = along_columns ? element / rows : element % cols;
+          auto* const cell = qobject_cast<TQorFloatEdit*>(QApplication::focusWidget());
+          ASSERT_NE(cell, nullptr);
+          ASSERT_EQ(cell->Value(), 10.0L * row + col) << key;
+          ASSERT_EQ(editor->CurrentRow(), row);
+          ASSERT_EQ(editor->CurrentCol(), col);
+          Press(key, Qt::ControlModifier);
+        }
+        other->setFocus();
+      }
+    }
+  }
+}
+
+TEST_F(MatrixEdit, CommandsDoWhatTheRoutinesDoAndCanBeTakenBack) {
+  const TQorFloatMatrix start = {{4, 1}, {0.25L, 2}};
+  editor->setMatrix(start);
+  Show();
+  const auto each = [&start](Extended (*function)(Extended)) {
+    TQorFloatMatrix matrix = CopyMatrix(start);
+    for (TQorFloatVector& row : matrix) std::ranges::transform(row, row.begin(), function);
+    return matrix;
+  };
+  const struct {
+    const char* name;
+    std::function<void()> run;
+    TQorFloatMatrix result;
+  } commands[] = {
+      {"SwapRows", [&] { editor->SwapRows(0, 1); }, {{0.25L, 2}, {4, 1}}},
+      {"SwapColumns", [&] { editor->SwapColumns(0, 1); }, {{1, 4}, {2, 0.25L}}},
+      {"LinearTransform", [&] { editor->LinearTransform(2, 1); }, {{9, 3}, {1.5L, 5}}},
+      {"Sqr", [&] { editor->Sqr(); }, {{16, 1}, {0.0625L, 4}}},
+      {"Sqrt", [&] { editor->Sqrt(); }, each([](Extended x) { return std::sqrt(x); })},
+      {"Invert", [&] { editor->Invert(); }, {{0.25L, 1}, {4, 0.5L}}},
+      {"Ln", [&] { editor->Ln(); }, each([](Extended x) { return std::log(x); })},
+      {"Log10", [&] { editor->Log10(); }, each([](Extended x) { return std::log10(x); })},
+      {"Transpose", [&] { editor->Transpose(); }, {{4, 0.25L}, {1, 2}}},
+      {"Inverse",
+       [&] { editor->setElement(1, 0, 0), editor->Inverse(); },
+       {{0.25L, -0.125L}, {0, 0.5L}}},
+      {"RowReduce", [&] { editor->RowReduce(); }, {{1, 0.25L}, {0, 1}}},
+      {"ScaleRow", [&] { editor->ScaleRow(1, 4); }, {{4, 1}, {1, 8}}},
+      {"ScaleCol", [&] { editor->ScaleCol(0, 2); }, {{8, 1}, {0.5L, 2}}},
+      {"AddRows", [&] { editor->AddRows(0, 1, 4); }, {{5, 9}, {0.25L, 2}}},
+      {"AddCols", [&] { editor->AddCols(1, 0, 2); }, {{4, 9}, {0.25L, 2.5L}}},
+  };
+  for (const auto& [name, run, result] : commands) {
+    SCOPED_TRACE(name);
+    editor->setMatrix(start);
+    run();
+    EXPECT_TRUE(Same(editor->Matrix(), result));
+    EXPECT_EQ(At(1, 0)->Value(), result[1][0]);
+    editor->Undo();
+    EXPECT_EQ(editor->Element(0, 1), 1);
+    editor->Redo();
+    EXPECT_TRUE(Same(editor->Matrix(), result));
+  }
+  editor->setMatrix({{1, 2}, {2, 4}});
+  EXPECT_MATH_ERROR(editor->Inverse(), rsNoInvert);
+  EXPECT_TRUE(Same(editor->Matrix(), {{1, 2}, {2, 4}}));
+  EXPECT_MATH_ERROR(editor->SwapRows(0, 2), rsInvalidRow);
+  EXPECT_FALSE(editor->CanUndo());
+  EXPECT_FALSE(editor->Updating());
+  editor->setNoOfCols(0);
+  EXPECT_MATH_ERROR(editor->RowReduce(), rsMatrixIsEmpty);
+}
+
+TEST_F(MatrixEdit, ATransposeChangesTheShapeThereAndBack) {
+  Open(5, 2);
+  At(3, 1)->setFocus();
+  Take();
+  editor->Transpose();
+  EXPECT_EQ(editor->NoOfRows(), 2U);
+  EXPECT_EQ(editor->NoOfCols(), 5U);
+  EXPECT_EQ(editor->Element(1, 4), 41);
+  EXPECT_EQ(Texts(), "0.0000|10.0000|20.0000|1.0000|11.0000|21.0000||||||");
+  EXPECT_TRUE(editor->CanUndo());
+  editor->Undo();
+  EXPECT_TRUE(Same(editor->Matrix(), Numbered(5, 2)));
+  EXPECT_TRUE(editor->CanRedo());
+  editor->Redo();
+  EXPECT_EQ(editor->Element(1, 4), 41);
+}
+
+TEST_F(MatrixEdit, OwnsARectangularMatrix) {
+  TQorFloatMatrix mine = Numbered(2, 2);
+  editor->setMatrix(mine);
+  mine[0][0] = 99;
+  EXPECT_EQ(editor->Element(0, 0), 0);
+  TQorFloatMatrix read = editor->Matrix();
+  read[1][1] = 99;
+  EXPECT_EQ(editor->Element(1, 1), 11);
+  EXPECT_MATH_ERROR(editor->setMatrix({{1, 2}, {3}}), rsMatrixRect);
+  EXPECT_MATH_ERROR(std::ignore = editor->Element(2, 0), rsInvalidRow);
+  EXPECT_MATH_ERROR(std::ignore = editor->Element(0, 2), rsInvalidCol);
+  EXPECT_MATH_ERROR(editor->setElement(2, 2, 0), rsInvalidRow);
+  // What has gone does not come back with the columns.
+  editor->setNoOfCols(1);
+  editor->setNoOfCols(3);
+  editor->setElement(0, 2, 5);
+  EXPECT_TRUE(Same(editor->Matrix(), {{0, 0, 5}, {10, 0, 0}}));
+  editor->setNoOfRows(0);
+  EXPECT_MATH_ERROR(std::ignore = editor->Element(0, 0), rsMatrixIsEmpty);
+}
+
+TEST_F(MatrixEdit, VirtualModeAsksForWhatItShows) {
+  editor->setVirtualMode(true);
+  editor->setNoOfRows(4'000'000'000U);
+  editor->setNoOfCols(4'000'000'000U);
+  Show();
+  EXPECT_EQ(editor->Element(2, 3), 8000000003.0L) << "the position of the element by rows";
+  int asked = 0;
+  editor->OnGetElement = [&asked](quint32 row, quint32 col) {
+    ++asked;
+    return static_cast<Extended>(row) - static_cast<Extended>(col);
+  };
+  editor->ScrollRightMost();
+  EXPECT_EQ(asked, 12);
+  At(1, 0)->setFocus();
+  Take();
+  Type("5");
+  Take();
+  Press(Qt::Key_Return);
+  EXPECT_EQ(Take(),
+            "set 1 3999999997 5, change 1 3999999997, out 1 3999999997, current 1 2, "
+            "in 2 3999999997");
+  editor->Inverse();
+  editor->Transpose();
+  EXPECT_EQ(Take(), "");
+}
+
+TEST_F(MatrixEdit, ColoursCopiesPastesAndNamesItsCells) {
+  Open(3, 3);
+  editor->setColorSetText(Qt::blue);
+  editor->OnSpecialColor = [](quint32 row, quint32 col, Extended, QColor& color) {
+    EXPECT_EQ(color, QColor(Qt::blue));
+    if (row == col) color = Qt::red;
+  };
+  editor->Redisplay();
+  EXPECT_EQ(At(1, 1)->palette().color(QPalette::Text), QColor(Qt::red));
+  EXPECT_EQ(At(1, 0)->palette().color(QPalette::Text), QColor(Qt::blue));
+  EXPECT_EQ(At(2, 1)->accessibleName(), "Row 3, column 2");
+  editor->CopyAll();
+  EXPECT_EQ(QApplication::clipboard()->text(), "0\t1\t2\n10\t11\t12\n20\t21\t22\n");
+  At(1, 1)->setFocus();
+  EXPECT_TRUE(editor->PasteBlock("5\t6\n7\n"));
+  EXPECT_TRUE(Same(editor->Matrix(), {{0, 1, 2}, {10, 5, 6}, {20, 7, 22}}));
+  QSignalSpy refused(editor, &TQorMatrixEdit::OnBlockRefused);
+  EXPECT_FALSE(editor->PasteBlock("1\tx"));
+  EXPECT_EQ(refused.takeFirst()[0].toString(), "Row 2, column 3: \"x\" is not a number.");
+  EXPECT_FALSE(editor->PasteBlock("1\t2\t3"));
+  EXPECT_FALSE(editor->PasteBlock("1\n2\n3"));
+  editor->Undo();
+  EXPECT_TRUE(Same(editor->Matrix(), Numbered(3, 3)));
+  QSignalSpy corner(editor, &TQorMatrixEdit::OnCornerBtnClick);
+  QTest::mouseClick(editor->findChild<QToolButton*>(), Qt::LeftButton);
+  EXPECT_EQ(corner.count(), 1);
+  editor->setLayoutDirection(Qt::RightToLeft);
+  EXPECT_GT(At(0, 0)->x(), At(0, 1)->x());
+  At(0, 0)->setFocus();
+  Press(Qt::Key_Left, Qt::ControlModifier);
+  EXPECT_TRUE(At(0, 1)->hasFocus()) << "left is where the eye sees it";
+}
+
+TEST_F(MatrixFractEdit, ShowsAndTakesFractions) {
+  EXPECT_MATH_ERROR(std::ignore = editor->FractElement(0, 0), rsMatrixIsEmpty);
+  editor->setMatrix({{0.5L, 7 / 3.0L}, {-1.75L, 3}});
+  Show();
+  EXPECT_EQ(Texts(), "1/2|2 1/3||-1 3/4|3|||||||");
+  editor->setFractionDisplay(TQorFractEdit::fdImproper);
+  EXPECT_EQ(At(0, 1)->text(), "7/3");
+  editor->setNoOfColEdits(4);
+  editor->setNoOfCols(4);
+  editor->setDecimalsFract(1);
+  editor->setElement(0, 3, std::acos(-1.0L));
+  EXPECT_EQ(editor->FractElement(0, 3), (TQorMixedFraction{3, 1, 7}));
+  EXPECT_TRUE(QString::fromStdString(Texts()).contains("22/7")) << "a new cell is like the others";
+  editor->setFractElement(1, 0, {2, 1, 3});
+  EXPECT_EQ(editor->Element(1, 0), 2 + 1 / 3.0L);
+  EXPECT_ERROR(editor->setFractElement(1, 0, {1, 1, 0}), EZeroDivide, rsZeroDivide);
+
+  EXPECT_EQ(editor->FractElement(1, 4), TQorMixedFraction{}) << "one past the last reads as 0";
+  editor->setFractElement(1, 4, {9, 0, 1});
+  EXPECT_EQ(editor->FractElement(1, 4), TQorMixedFraction{});
+  EXPECT_MATH_ERROR(std::ignore = editor->FractElement(1, 5), rsInvalidCol);
+  EXPECT_MATH_ERROR(std::ignore = editor->FractElement(2, 9), rsInvalidRow);
+  EXPECT_MATH_ERROR(std::ignore = editor->Element(1, 4), rsInvalidCol);
+  editor->setVirtualMode(true);
+  editor->setNoOfCols(5);
+  EXPECT_EQ(editor->FractElement(1, 2), (TQorMixedFraction{7, 0, 1}));
+}
+
+TEST_F(MatrixFractEdit, ReadsWhatIsTypedExactly) {
+  Open(3, 3);
+  At(0, 0)->setFocus();
+  const struct {
+    const char* text;
+    Extended value;
+  } cases[] = {
+      {"2 1/3", 2 + 1 / 3.0L}, {"-7/5", -7 / 5.0L}, {"0.2", 0.2L}, {"1/0", 0.2L}, {"5", 5}};
+  for (const auto& [text, value] : cases) {
+    Press(Qt::Key_A, Qt::ControlModifier);
+    Type(text);
+    other->setFocus();
+    EXPECT_EQ(editor->Element(0, 0), value) << text;
+    At(0, 0)->setFocus();
+  }
+}
+
+}  // namespace qorvex
