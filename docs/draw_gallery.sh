@@ -9,6 +9,7 @@ gallery=build/release/apps/qorvex-gallery/qorvex-gallery
 images=docs/images/gallery
 dark=$(mktemp -d)
 trap 'rm -r "$dark"' EXIT
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$dark}
 "$gallery" --screenshot "$images"
 "$gallery" --dark --screenshot "$dark"
 cp "$dark/distribution.png" "$images/distribution_dark.png"

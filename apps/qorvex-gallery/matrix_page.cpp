@@ -283,13 +283,11 @@ void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
       determinant = ExactText(MatrixDeterminant(reduced));
       reduced = CopyMatrix(matrix);
       if (!MatrixInverse(reduced, inverse)) {
-        inverse = {};
         why_not = tr("none, the matrix is singular");
       }
     }
   } catch (const EMathError& error) {
     // A null, or a figure that is out of range.
-    inverse = {};
     why_not = QString::fromUtf8(error.what());
   }
   properties_->SetRows({{tr("Determinant"), determinant}, {tr("Rank"), rank_text}});
@@ -301,7 +299,7 @@ void MatrixPage::ShowInverse(const TQorFloatMatrix& inverse, const QString& why_
   no_inverse_->setVisible(!why_not.isEmpty());
   for (TQorCustomMatrixEdit* const editor :
        std::initializer_list<TQorCustomMatrixEdit*>{inverse_decimals_, inverse_fractions_}) {
-    editor->setMatrix(inverse);
+    if (why_not.isEmpty()) editor->setMatrix(inverse);
     editor->setVisible(why_not.isEmpty());
   }
 }

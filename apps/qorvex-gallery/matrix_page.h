@@ -55,7 +55,7 @@ class MatrixPage : public QWidget {
   // Whatever the matrix has become, the rest of the page shows it.
   void Follow();
   void ShowProperties(const TQorFloatMatrix& matrix);
-  // An empty one for none, with the reason.
+  // The inverse, or why there is none.
   void ShowInverse(const TQorFloatMatrix& inverse, const QString& why_not);
 
   TQorMatrixEdit* decimals_;
