@@ -33,8 +33,8 @@ int main(int argc, char** argv) {
       QStringLiteral("Statistics, matrices, distributions and random variates in 80-bit "
                      "arithmetic."));
   parser.addOptions({screenshot, dark});
-  parser.addHelpOption();
-  parser.addVersionOption();
+  const QCommandLineOption help = parser.addHelpOption();
+  const QCommandLineOption version = parser.addVersionOption();
   parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("Delimited text to open."),
                                QStringLiteral("[file]"));
 
@@ -43,7 +43,8 @@ int main(int argc, char** argv) {
   for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
   parser.parse(arguments);
   const bool takes_pictures = parser.isSet(screenshot);
-  if (takes_pictures) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (takes_pictures || parser.isSet(help) || parser.isSet(version))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
 
   const QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));

@@ -3,6 +3,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
+#include "qorvex/base/version.h"
 #include "support/test.h"
 
 namespace qorvex::gallery {
@@ -38,6 +39,11 @@ TEST(Screenshot, ShowsEveryPage) {
     EXPECT_NE(picture, before) << page.toStdString();
     before = picture;
   }
+}
+
+TEST(Gallery, TellsItsVersionWithoutADisplay) {
+  qunsetenv("QT_QPA_PLATFORM");
+  EXPECT_EQ(RunGallery({"--version"}).output, "qorvex-gallery " QORVEX_VERSION "\n");
 }
 
 TEST(Screenshot, SaysWhereItCannotWrite) {
