@@ -1,6 +1,5 @@
 #include "apps/qorvex/dist.h"
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -137,24 +136,7 @@ Extended Greater(const Distribution& distribution, const DistArguments& argument
 
 Extended Between(const Distribution& distribution, const DistArguments& arguments) {
   if (arguments.prescribed) return Existing(distribution.prescribed.between)(arguments.numbers);
-  Numbers first = arguments.numbers;
-  const Extended point = first.back();
-  first.pop_back();
-  Numbers second = first;
-  first.back() = std::min(first.back(), point);
-  second.back() = std::max(second.back(), point);
-  // Fewer than a count are at most the one before it.
-  if (distribution.is_discrete && second.back() > first.back()) --second.back();
-
-  // A difference of the tails on the side where they are small, or what both leave where the
-  // median is between the points.
-  constexpr Extended half = 0.5L;
-  const FullPrecisionRoutines& routines = distribution.full_precision;
-  const Extended lower = routines.lower(second);
-  if (lower <= half) return lower - routines.lower(first);
-  const Extended upper = routines.upper(first);
-  if (upper <= half) return upper - routines.upper(second);
-  return 1 - routines.lower(first) - routines.upper(second);
+  return ProbabilityBetween(distribution, arguments.numbers);
 }
 
 Extended Quantile(const Distribution& distribution, const DistArguments& arguments) {

@@ -1,5 +1,6 @@
 #include "apps/qorvex/distributions.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <utility>
@@ -199,6 +200,27 @@ std::vector<Distribution> AllDistributions() {
 #undef QORVEX_FULL_PRECISION
 
 }  // namespace
+
+Extended ProbabilityBetween(const Distribution& distribution, DistributionArguments arguments) {
+  std::vector<Extended> first(arguments.begin(), arguments.end());
+  const Extended point = first.back();
+  first.pop_back();
+  std::vector<Extended> second = first;
+  first.back() = std::min(first.back(), point);
+  second.back() = std::max(second.back(), point);
+  // Fewer than a count are at most the one before it.
+  if (distribution.is_discrete && second.back() > first.back()) --second.back();
+
+  // A difference of the tails on the side where they are small, or what both leave where the
+  // median is between the points.
+  constexpr Extended half = 0.5L;
+  const FullPrecisionRoutines& routines = distribution.full_precision;
+  const Extended lower = routines.lower(second);
+  if (lower <= half) return lower - routines.lower(first);
+  const Extended upper = routines.upper(first);
+  if (upper <= half) return upper - routines.upper(second);
+  return 1 - routines.lower(first) - routines.upper(second);
+}
 
 std::span<const Distribution> Distributions() {
   static const std::vector<Distribution> distributions = AllDistributions();

@@ -7,7 +7,7 @@
 #include <span>
 #include <vector>
 
-#include "apps/qorvex/parameters.h"
+#include "apps/qorvex/number_parameter.h"
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex::cli {
@@ -52,6 +52,11 @@ struct Distribution {
   /// be.
   const char* (*inconsistency)(DistributionArguments parameters) = nullptr;
 };
+
+/// The probability between two points, in either order, both excluded, with full relative accuracy
+/// where it is small because the points are in one tail. The points follow the parameters.
+[[nodiscard]] Extended ProbabilityBetween(const Distribution& distribution,
+                                          DistributionArguments arguments);
 
 /// The distributions in the order of --help.
 [[nodiscard]] std::span<const Distribution> Distributions();

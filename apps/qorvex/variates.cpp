@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <limits>
 
+#include "apps/qorvex/input_error.h"
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/qorvex/parameters.h"
+#include "apps/qorvex/number_parameter.h"
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex::cli {

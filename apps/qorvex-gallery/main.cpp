@@ -1,0 +1,74 @@
+// qorvex-gallery [FILE]: shows what Qorvex does, in a window.
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLocale>
+#include <QStyleFactory>
+
+#include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/screenshots.h"
+#include "qorvex/base/version.h"
+#include "qorvex/base_controls/translation.h"
+
+namespace {
+
+// The same pictures on every machine that has the font.
+void FixAppearance() {
+  QLocale::setDefault(QLocale(QLocale::English));
+  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCommandLineOption screenshot(
+      QStringLiteral("screenshot"),
+      QStringLiteral("Write a picture of each page to the directory instead; needs no screen."),
+      QStringLiteral("directory"));
+  const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Begin in dark colours."));
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      QStringLiteral("Statistics, matrices, distributions and random variates in 80-bit "
+                     "arithmetic."));
+  parser.addOptions({screenshot, dark});
+  const QCommandLineOption help = parser.addHelpOption();
+  const QCommandLineOption version = parser.addVersionOption();
+  parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("Delimited text to open."),
+                               QStringLiteral("[file]"));
+
+  // The platform is chosen before there is an application to ask for its arguments.
+  QStringList arguments;
+  for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+  parser.parse(arguments);
+  const bool takes_pictures = parser.isSet(screenshot);
+  if (takes_pictures || parser.isSet(help) || parser.isSet(version))
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+
+  const QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
+  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  parser.process(application);
+  if (takes_pictures) {
+    FixAppearance();
+  } else {
+    qorvex::InstallTranslation();
+  }
+  using qorvex::gallery::Appearance;
+  qorvex::gallery::SetAppearance(Appearance::kSystem);
+  if (parser.isSet(dark)) {
+    qorvex::gallery::SetAppearance(Appearance::kDark);
+  } else if (takes_pictures) {
+    qorvex::gallery::SetAppearance(Appearance::kLight);
+  }
+
+  qorvex::gallery::MainWindow window;
+  if (!parser.positionalArguments().isEmpty()) window.Open(parser.positionalArguments().front());
+  if (takes_pictures) {
+    return qorvex::gallery::WriteScreenshots(window, parser.value(screenshot)) ? 0 : 1;
+  }
+  window.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,107 @@
+#include "apps/qorvex-gallery/main_window.h"
+
+#include <QActionGroup>
+#include <QDragEnterEvent>
+#include <QKeySequence>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QTabWidget>
+#include <QUrl>
+
+#include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/data_page.h"
+#include "apps/qorvex-gallery/distribution_page.h"
+#include "apps/qorvex-gallery/matrix_page.h"
+#include "apps/qorvex-gallery/random_page.h"
+#include "apps/qorvex-gallery/regression_page.h"
+#include "qorvex/base/version.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+// The file that is dragged; empty for anything but one.
+QString DraggedFile(const QDropEvent& event) {
+  const QList<QUrl> urls = event.mimeData()->urls();
+  return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+}
+
+}  // namespace
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent), pages_(new QTabWidget), data_(new DataPage) {
+  setWindowTitle(tr("Qorvex Gallery"));
+  setAcceptDrops(true);
+  pages_->setDocumentMode(true);
+  pages_->setAccessibleName(tr("Pages"));
+  AddPage(data_, "data", tr("Data"));
+  AddPage(new MatrixPage, "matrix", tr("Matrix"));
+  AddPage(new DistributionPage, "distribution", tr("Distribution"));
+  AddPage(new RandomPage, "random", tr("Random"));
+  AddPage(new RegressionPage, "regression", tr("Regression"));
+  setCentralWidget(pages_);
+  MakeMenus();
+  resize(1100, 720);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::AddPage(QWidget* page, const char* name, const QString& title) {
+  page->setObjectName(QLatin1String(name));
+  pages_->addTab(page, title);
+}
+
+void MainWindow::MakeMenus() {
+  QMenu* const file = menuBar()->addMenu(tr("&File"));
+  QAction* const open = file->addAction(tr("&Open…"), this, [this] {
+    pages_->setCurrentWidget(data_);
+    data_->ChooseFile();
+  });
+  open->setShortcut(QKeySequence::Open);
+  file->addSeparator();
+  QAction* const quit = file->addAction(tr("&Quit"), this, &QWidget::close);
+  quit->setShortcut(QKeySequence::Quit);
+
+  QMenu* const view = menuBar()->addMenu(tr("&View"));
+  auto* const appearances = new QActionGroup(this);
+  const auto add_appearance = [&](const QString& text, Appearance appearance) {
+    QAction* const action =
+        view->addAction(text, this, [appearance] { SetAppearance(appearance); });
+    action->setCheckable(true);
+    action->setActionGroup(appearances);
+    return action;
+  };
+  add_appearance(tr("&System Colors"), Appearance::kSystem)->setChecked(true);
+  add_appearance(tr("&Light"), Appearance::kLight);
+  add_appearance(tr("&Dark"), Appearance::kDark);
+
+  QMenu* const help = menuBar()->addMenu(tr("&Help"));
+  help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
+}
+
+void MainWindow::ShowAbout() {
+  QMessageBox::about(
+      this, tr("About Qorvex Gallery"),
+      tr("<h3>Qorvex %1</h3><p>Vectors, matrices, statistics and Qt components in 80-bit "
+         "arithmetic.</p><p>Copyright © 2026 The Qorvex developers, under the MIT licence.</p>"
+         "<p>Uses Qt %2 under the LGPL, version 3.</p>")
+          .arg(QStringLiteral(QORVEX_VERSION), QString::fromLatin1(qVersion())));
+}
+
+void MainWindow::Open(const QString& path) {
+  pages_->setCurrentWidget(data_);
+  data_->Open(path);
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
+  if (!DraggedFile(*event).isEmpty()) event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent* event) {
+  event->acceptProposedAction();
+  Open(DraggedFile(*event));
+}
+
+}  // namespace qorvex::gallery

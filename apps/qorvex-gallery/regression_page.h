@@ -1,0 +1,54 @@
+#pragma once
+
+/// @file
+/// RegressionPage, where a line and a parabola go through pairs of numbers.
+
+#include <QWidget>
+
+#include "qorvex/controls/labelled_vector_edit.h"
+
+class QLabel;
+class QSpinBox;
+
+namespace qorvex::gallery {
+
+class FigureTable;
+class MessageBar;
+class PlotView;
+class TallEditor;
+
+/// Two editors, of the x and of the y, that scroll together; the pairs in a diagram with their
+/// least-squares line and parabola; and the coefficients of both with all digits. All of it follows
+/// every edit. Begins with an example. Pairs without an x or a y are left out.
+class RegressionPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit RegressionPage(QWidget* parent = nullptr);
+  ~RegressionPage() override;
+
+ public Q_SLOTS:
+  /// Shows the pairs of the example.
+  void ShowExample();
+
+ private:
+  QLayout* MakeEditors();
+  QLayout* MakeResults();
+  void SetRows(int rows);
+  void RefreshSoon();
+  void Refresh();
+
+  bool refresh_is_due_ = false;
+
+  MessageBar* message_;
+  QSpinBox* rows_;
+  TQorLabelledVectorEdit* x_;
+  TQorVectorEdit* y_;
+  TallEditor* tall_x_;
+  TallEditor* tall_y_;
+  PlotView* plot_;
+  FigureTable* figures_;
+  QLabel* remark_;
+};
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,36 @@
+#include "apps/qorvex-gallery/widgets/side_panel.h"
+
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "apps/qorvex-gallery/heading.h"
+
+namespace qorvex::gallery {
+
+SidePanel::SidePanel(QWidget* parent) : QScrollArea(parent) {
+  auto* const content = new QWidget;
+  groups_ = new QVBoxLayout(content);
+  groups_->setContentsMargins(0, 0, 12, 0);
+  groups_->setSpacing(8);
+  setWidget(content);
+  setWidgetResizable(true);
+  setFrameShape(QFrame::NoFrame);
+  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  // Room for a number with all its digits, in any font.
+  setFixedWidth(38 * fontMetrics().horizontalAdvance('0'));
+}
+
+QVBoxLayout* SidePanel::AddGroup(const QString& title) {
+  if (groups_->count() > 0) groups_->addSpacing(fontMetrics().height());
+  groups_->addWidget(MakeHeading(title));
+  auto* const layout = new QVBoxLayout;
+  layout->setSpacing(8);
+  groups_->addLayout(layout);
+  return layout;
+}
+
+void SidePanel::Finish() {
+  groups_->addStretch();
+}
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,15 @@
+#!/usr/bin/env bash
+# docs/draw_gallery.sh: builds the desktop program and lets it write its pictures to docs/images/gallery.
+# Needs no screen. The same Qt and the same fonts write the same files again.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+scripts/setup.sh qorvex-gallery
+gallery=build/release/apps/qorvex-gallery/qorvex-gallery
+images=docs/images/gallery
+dark=$(mktemp -d)
+trap 'rm -r "$dark"' EXIT
+export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$dark}
+"$gallery" --screenshot "$images"
+"$gallery" --dark --screenshot "$dark"
+cp "$dark/distribution.png" "$images/distribution_dark.png"

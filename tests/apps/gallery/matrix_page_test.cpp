@@ -1,0 +1,106 @@
+#include "apps/qorvex-gallery/matrix_page.h"
+
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryFile>
+
+#include "apps/gallery/cells_and_remarks.h"
+#include "qorvex/controls/QorvexMatrixEdit.h"
+#include "qorvex/controls/QorvexMatrixFractEdit.h"
+
+namespace qorvex::gallery {
+namespace {
+
+// The example of the page: its determinant is 21.5, by which its inverse is this matrix divided.
+constexpr double kAdjugate[3][3] = {{12, -2, -2}, {-3.5, 7.75, -3}, {-0.75, 0.125, 5.5}};
+
+struct MatrixPageTest : PageFixture<MatrixPage> {
+  TQorMatrixEdit* decimals = &Find<TQorMatrixEdit>("decimals");
+  TQorMatrixFractEdit* fractions = &Find<TQorMatrixFractEdit>("fractions");
+
+  void Click(const char* button) { Find<QPushButton>(button).click(); }
+  [[nodiscard]] std::string Determinant() { return Figure("properties", "Determinant"); }
+  [[nodiscard]] std::string Rank() { return Figure("properties", "Rank"); }
+  // The cell in the first row and column.
+  static QLineEdit& Cell(TQorCustomMatrixEdit* editor) {
+    editor->setRowEditFocus(0);
+    editor->setColEditFocus(0);
+    return *qobject_cast<QLineEdit*>(QApplication::focusWidget());
+  }
+};
+
+TEST_F(MatrixPageTest, ShowsTheInverseInBothEditorsAndTakesItBack) {
+  EXPECT_EQ(Determinant(), "21.5");
+  EXPECT_EQ(Rank(), "3");
+  auto& inverse = Find<TQorMatrixFractEdit>("inverseFractions");
+  EXPECT_EQ(inverse.FractElement(0, 0).denominator, 43);
+  Click("inverse");
+  EXPECT_NEAR(static_cast<double>(inverse.Element(0, 1)), 0.5, 1e-15);
+  for (quint32 row = 0; row < 3; ++row) {
+    for (quint32 col = 0; col < 3; ++col) {
+      EXPECT_NEAR(static_cast<double>(decimals->Element(row, col) * 21.5L), kAdjugate[row][col],
+                  1e-15);
+      EXPECT_EQ(decimals->Element(row, col), fractions->Element(row, col));
+    }
+  }
+  const TQorMixedFraction fraction = fractions->FractElement(0, 0);
+  EXPECT_EQ(fraction.numerator, 24);
+  EXPECT_EQ(fraction.denominator, 43);
+  Click("undo");
+  EXPECT_EQ(Determinant(), "21.5");
+  EXPECT_EQ(fractions->Element(0, 0), 2);
+  Click("redo");
+  EXPECT_LT(fractions->Element(0, 0), 1);
+  // By the control itself, behind the back of the page.
+  decimals->Undo();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return Determinant() == "21.5"; }));
+  EXPECT_EQ(fractions->Element(0, 0), 2);
+}
+
+TEST_F(MatrixPageTest, TakesWhatIsTypedIntoEitherEditor) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
+  Enter(Cell(fractions), "7/2");
+  EXPECT_EQ(decimals->Element(0, 0), 3.5L);
+  EXPECT_EQ(Determinant(), "39.5");
+  Click("undo");
+  EXPECT_EQ(decimals->Element(0, 0), 2);
+  Enter(Cell(decimals), "0.25");
+  EXPECT_EQ(fractions->Element(0, 0), 0.25L);
+  // A text that is still being typed is not lost, nor does it undo the command.
+  Cell(fractions).selectAll();
+  QTest::keyClicks(QApplication::focusWidget(), "4");
+  Click("squares");
+  EXPECT_EQ(decimals->Element(0, 0), 16);
+  EXPECT_EQ(fractions->Element(0, 0), 16);
+}
+
+TEST_F(MatrixPageTest, SaysWhatIsWrongAndKeepsTheMatrix) {
+  decimals->setMatrix({{1, 2}, {2, 4}});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Rank() == "1"; }));
+  EXPECT_EQ(Find<QSpinBox>("rows").value(), 2);
+  EXPECT_EQ(Find<QLabel>("noInverse").text(), "none, the matrix is singular");
+  Click("inverse");
+  EXPECT_EQ(Message(), "The matrix has no inverse");
+  EXPECT_EQ(decimals->Element(1, 1), 4);
+  Click("transpose");
+  EXPECT_EQ(Message(), "");
+  page.Open("/nowhere/matrix.csv");
+  EXPECT_NE(Message().find("/nowhere/matrix.csv"), std::string::npos) << Message();
+}
+
+TEST_F(MatrixPageTest, OpensFilesAndChangesTheSize) {
+  QTemporaryFile file;
+  ASSERT_TRUE(file.open());
+  file.write("1,2,3\n4,5,6\n");
+  file.close();
+  page.Open(file.fileName());
+  EXPECT_EQ(fractions->Element(1, 2), 6);
+  EXPECT_EQ(Determinant(), "of square matrices only");
+  EXPECT_EQ(Rank(), "2");
+  Find<QSpinBox>("columns").setValue(2);
+  EXPECT_EQ(Determinant(), "-3");
+  EXPECT_EQ(fractions->NoOfCols(), 2U);
+}
+
+}  // namespace
+}  // namespace qorvex::gallery

@@ -1,0 +1,148 @@
+#include "apps/qorvex-gallery/random_page.h"
+
+#include <QComboBox>
+#include <QFile>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTemporaryDir>
+#include <cmath>
+
+#include "apps/gallery/cells_and_remarks.h"
+#include "apps/qorvex-gallery/variate_theory.h"
+#include "qorvex/base/random.h"
+#include "qorvex/base/text.h"
+#include "qorvex/random/QorvexRandom.h"
+
+namespace qorvex::gallery {
+namespace {
+
+bool GoOn(std::size_t, std::size_t) {
+  return true;
+}
+
+const cli::Variate& VariateOf(std::string_view name) {
+  for (const cli::Variate& variate : cli::Variates()) {
+    if (variate.name == name) return variate;
+  }
+  throw std::invalid_argument("no such variate");
+}
+
+TEST(RandomSample, IsThatOfItsSeed) {
+  const SampleOrder order = {&VariateOf("normal"), {2, 3}, 10000, 7};
+  const RandomSample sample = DrawSample(order, GoOn);
+  SetRandSeed(7);
+  for (const Extended value : sample.values) ASSERT_EQ(value, Random_Normal(2, 3));
+}
+
+TEST(RandomSample, EndsWhenItIsNotToGoOn) {
+  int calls = 0;
+  const SampleOrder order = {&VariateOf("uniform"), {}, 100000, 1};
+  EXPECT_TRUE(
+      DrawSample(order, [&](std::size_t, std::size_t) { return ++calls < 3; }).values.empty());
+  EXPECT_EQ(calls, 3);
+}
+
+TEST(RandomSample, AgreesWithTheTheory) {
+  const struct {
+    const char* variate;
+    std::vector<Extended> parameters;
+  } cases[] = {
+      {"uniform", {}},          {"normal", {5, 2}},        {"exponential", {3}},
+      {"gamma", {2.5L, 3}},     {"chi-square", {4}},       {"weibull", {1.5L, 2}},
+      {"weibull", {-6, 2}},     {"beta", {2, 5, -1, 3}},   {"student-t", {6}},
+      {"cauchy", {1, 2}},       {"log-normal", {0, 0.5L}}, {"von-mises", {2}},
+      {"binomial", {0.3L, 40}}, {"poisson", {6}},          {"negative-binomial", {0.4L, 3.5L}},
+      {"poisson", {1e6L}},
+  };
+  for (const auto& c : cases) {
+    const cli::Variate& variate = VariateOf(c.variate);
+    const RandomSample sample = DrawSample({&variate, c.parameters, 40000, 1}, GoOn);
+    const VariateTheory theory = TheoryOf(variate, c.parameters);
+    if (theory.mean) {
+      const Extended error = std::sqrt(sample.variance / 40000);
+      EXPECT_NEAR(static_cast<double>((sample.mean - *theory.mean) / error), 0, 4) << c.variate;
+    }
+    if (theory.variance) {
+      EXPECT_NEAR(static_cast<double>(sample.variance / *theory.variance), 1, 0.1) << c.variate;
+    }
+    // What the bars cover that the density does not, and the other way round.
+    ASSERT_TRUE(theory.density) << c.variate;
+    double difference = 0;
+    for (std::size_t i = 1; i < sample.bars.size(); ++i) {
+      const double left = sample.bars[i - 1].x();
+      const double width = sample.bars[i].x() - left;
+      double middle = left + width / 2;
+      if (theory.is_count) middle = std::round(middle);
+      difference +=
+          width * std::abs(sample.bars[i].y() - static_cast<double>(theory.density(middle)));
+    }
+    EXPECT_LT(difference, 0.08) << c.variate;
+  }
+  EXPECT_FALSE(TheoryOf(VariateOf("cauchy"), std::vector<Extended>{0, 1}).mean);
+}
+
+struct RandomPageTest : PageFixture<RandomPage> {
+  // Done with the sample that comes by itself.
+  void SetUp() override {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  }
+  void Choose(const char* variate, int size) {
+    auto& box = Find<QComboBox>("variate");
+    box.setCurrentIndex(box.findText(QLatin1String(variate)));
+    Find<QSpinBox>("size").setValue(size);
+  }
+  void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
+  [[nodiscard]] bool Idle() { return Find<QPushButton>("generate").isEnabled(); }
+};
+
+TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
+  Choose("Normal", 1000);
+  Enter(Find<QLineEdit>("seed"), "12");
+  Click("generate");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  const auto first = page.Sample();
+  Click("generate");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  ASSERT_NE(page.Sample(), first);
+  EXPECT_TRUE(std::equal(first->values.begin(), first->values.end(), page.Sample()->values.begin(),
+                         page.Sample()->values.end()));
+  EXPECT_EQ(Figure("moments", "Mean"), Float2Str(first->mean));
+  EXPECT_EQ(Figure("moments", "Variance", 2), "1");
+
+  const QTemporaryDir directory;
+  const QString path = directory.filePath("values.txt");
+  page.Save(path);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+  ASSERT_EQ(lines.size(), 1000);
+  EXPECT_EQ(Str2Float(lines.back().toStdString()), first->values[999]);
+}
+
+TEST_F(RandomPageTest, KeepsTheSampleWhenTheNextIsCancelledOrRefused) {
+  Choose("Gamma", 1000);
+  page.Generate();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  const auto sample = page.Sample();
+  ASSERT_NE(sample, nullptr);
+
+  Choose("Gamma", 10'000'000);
+  page.Generate();
+  EXPECT_FALSE(Idle());
+  Click("cancel");
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  EXPECT_EQ(Remarks(page), "Cancelled");
+  EXPECT_EQ(page.Sample(), sample);
+
+  Choose("Chi-square", 1000);
+  Enter(Find<QLineEdit>("df"), "0");
+  page.Generate();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  EXPECT_NE(Remarks(page).find("\"Degrees of freedom\" is at least 1"), std::string::npos)
+      << Remarks(page);
+  EXPECT_EQ(page.Sample(), sample);
+}
+
+}  // namespace
+}  // namespace qorvex::gallery

@@ -1,0 +1,71 @@
+#include "apps/qorvex-gallery/regression_page.h"
+
+#include <QSpinBox>
+#include <cmath>
+
+#include "apps/gallery/page_fixture.h"
+#include "apps/qorvex-gallery/plot/plot_view.h"
+#include "support/table.h"
+
+namespace qorvex::gallery {
+namespace {
+
+struct RegressionPageTest : PageFixture<RegressionPage> {
+  void Show(const TQorFloatVector& x, const TQorFloatVector& y) {
+    Find<QSpinBox>("rows").setValue(0);
+    Find<QSpinBox>("rows").setValue(static_cast<int>(x.size()));
+    Find<TQorVectorEdit>("x").setVector(x);
+    Find<TQorVectorEdit>("y").setVector(y);
+    QApplication::processEvents();
+  }
+};
+
+TEST_F(RegressionPageTest, ShowsCertifiedCoefficientsWithAllDigits) {
+  const testing::Table certified("nist/regression.csv");
+  TQorFloatVector x, y;
+  std::ifstream norris(QORVEX_TEST_DATA "/nist/Norris.txt");
+  for (std::string line; std::getline(norris, line);) {
+    if (line.front() == '#') continue;
+    const std::size_t gap = line.find(' ');
+    x.Append(Str2Float(line.substr(0, gap)));
+    y.Append(Str2Float(line.substr(gap + 1)));
+  }
+  Show(x, y);
+  const auto expect = [&](const char* label, const char* column) {
+    const Extended expected = certified.Value(0, column);
+    EXPECT_NEAR(static_cast<double>(Str2Float(Figure("figures", label)) / expected - 1), 0, 1e-15)
+        << label;
+  };
+  ASSERT_EQ(certified.Text(0, "name"), "Norris");
+  expect("Constant", "b0");
+  expect("Coefficient of x", "b1");
+  expect("Sum of squared errors", "rss");
+  expect("Coefficient of determination", "r2");
+}
+
+TEST_F(RegressionPageTest, FollowsEdits) {
+  Show({0, 1, 2, 3}, {1, 2, 5, 10});
+  EXPECT_EQ(Figure("figures", "Coefficient of x²", 2), "1");
+  EXPECT_EQ(Figure("figures", "Constant", 1), "0");
+  const QString before = Find<PlotView>("scatter").accessibleDescription();
+  Type("y", "16");
+  EXPECT_NE(Figure("figures", "Coefficient of x²", 2), "1");
+  EXPECT_NE(Find<PlotView>("scatter").accessibleDescription(), before);
+}
+
+TEST_F(RegressionPageTest, TellsOnThePageWhyThereIsNoCurve) {
+  EXPECT_EQ(Message(), "");
+  Show({0, 0, 2, 2}, {1, 1, 4, 4});
+  EXPECT_EQ(Message(), "A parabola needs three different x.");
+  EXPECT_EQ(Figure("figures", "Coefficient of x"), "1.5");
+  Show({1, 1, NAN}, {1, 2, 3});
+  EXPECT_EQ(Message(), "A line needs two different x.");
+  Find<QSpinBox>("rows").setValue(0);
+  QApplication::processEvents();
+  EXPECT_EQ(Figure("figures", "Constant"), "–");
+  page.ShowExample();
+  EXPECT_EQ(Message(), "");
+}
+
+}  // namespace
+}  // namespace qorvex::gallery
