@@ -6,6 +6,8 @@
 
 #include "qorvex/base_controls/fract_edit.h"
 #include "qorvex/controls/QorvexMathLabel.h"
+#include "qorvex/controls/QorvexMatrixEdit.h"
+#include "qorvex/controls/QorvexMatrixFractEdit.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 #include "qorvex/controls/desc_stats_holder.h"
 #include "qorvex/controls/uictrl_holder.h"
@@ -27,18 +29,32 @@ CellSettings SettingsOfForm() {
   return settings;
 }
 
-void ExpectVectorEdit(const TQorVectorEdit& edit, const TQorUICtrl* shared) {
+// What the form sets in every editor of a vector or a matrix.
+template <class Editor>
+void ExpectEditor(const Editor& edit, const TQorUICtrl* shared) {
   EXPECT_EQ(edit.UICtrl(), shared);
   EXPECT_EQ(edit.UIUsage(), TQorUICtrl::uuColors | TQorUICtrl::uuNullHandling);
   EXPECT_EQ(edit.Settings(), SettingsOfForm());
   EXPECT_EQ(edit.CellHeight(), 30);
   EXPECT_EQ(edit.CellWidth(), 90);
   EXPECT_EQ(edit.DisplayTopRow(), 5U);
-  EXPECT_EQ(edit.NoOfEdits(), 6);
   EXPECT_TRUE(edit.Null());
   EXPECT_EQ(edit.NoOfRows(), 12U);
   EXPECT_FALSE(edit.TabStop());
   EXPECT_TRUE(edit.VirtualMode());
+}
+
+void ExpectVectorEdit(const TQorVectorEdit& edit, const TQorUICtrl* shared) {
+  ExpectEditor(edit, shared);
+  EXPECT_EQ(edit.NoOfEdits(), 6);
+}
+
+void ExpectMatrixEdit(const TQorCustomMatrixEdit& edit, const TQorUICtrl* shared) {
+  ExpectEditor(edit, shared);
+  EXPECT_EQ(edit.DisplayLeftCol(), 3U);
+  EXPECT_EQ(edit.NoOfColEdits(), 2);
+  EXPECT_EQ(edit.NoOfRowEdits(), 6);
+  EXPECT_EQ(edit.NoOfCols(), 8U);
 }
 
 void ExpectAsWritten(QWidget& form) {
@@ -67,6 +83,16 @@ void ExpectAsWritten(QWidget& form) {
   EXPECT_EQ(labelled->LabelType(), TQorLabelledVectorEdit::ltCustom);
   EXPECT_TRUE(labelled->LabelsEditable());
   EXPECT_EQ(labelled->LabelWidth(), 100);
+
+  const auto* matrix = form.findChild<TQorMatrixEdit*>("matrix");
+  ASSERT_TRUE(matrix);
+  ExpectMatrixEdit(*matrix, shared->UICtrl());
+
+  const auto* fractions = form.findChild<TQorMatrixFractEdit*>("fractions");
+  ASSERT_TRUE(fractions);
+  ExpectMatrixEdit(*fractions, shared->UICtrl());
+  EXPECT_EQ(fractions->FractionDisplay(), TQorFractEdit::fdImproper);
+  EXPECT_EQ(fractions->DecimalsFract(), 3);
 
   const auto* number = form.findChild<TQorFloatEdit*>("number");
   ASSERT_TRUE(number);
