@@ -30,6 +30,7 @@ const struct {
     {"cells", Cells},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
+    {"matrix_edit", MatrixEdits},
     {"vector_edit", VectorEdits},
 };
 
