@@ -9,6 +9,7 @@
 #include <memory>
 #include <string>
 
+#include "controls/application.h"
 #include "qorvex/base/text.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 #include "support/compare.h"
@@ -17,17 +18,6 @@ namespace qorvex::benchmarks {
 namespace {
 
 constexpr int kVisible = 20;
-
-void StartApplication() {
-  if (QApplication::instance() != nullptr) return;
-  static int count = 1;
-  static char name[] = "controls_benchmark";
-  static char* arguments[] = {name, nullptr};
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  // Lives as long as the process: Qt wants to be last.
-  new QApplication(count, arguments);
-  QApplication::setStyle("Fusion");
-}
 
 class VectorModel : public QAbstractTableModel {
  public:

@@ -1,0 +1,208 @@
+// Editors of matrices. A step through a large matrix with 20 x 20 cells in sight, beside Qt's table
+// view over a model of the same matrix; a grid of cells, beside one of Qt's line edits; and
+// commands beside the routines that they call. Nothing is seen: windows are offscreen.
+
+#include <QAbstractTableModel>
+#include <QApplication>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QScrollBar>
+#include <QTableView>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "controls/application.h"
+#include "qorvex/base/text.h"
+#include "qorvex/controls/QorvexMatrixEdit.h"
+#include "qorvex/matrix/QorvexMatrix.h"
+#include "support/compare_matrices.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+constexpr int kVisible = 20;
+
+class MatrixModel : public QAbstractTableModel {
+ public:
+  explicit MatrixModel(TQorFloatMatrix matrix) : matrix_(std::move(matrix)) {}
+  int rowCount(const QModelIndex&) const override { return static_cast<int>(matrix_.size()); }
+  int columnCount(const QModelIndex&) const override { return static_cast<int>(matrix_.size()); }
+  QVariant data(const QModelIndex& index, int role) const override {
+    if (role != Qt::DisplayRole) return {};
+    const auto row = static_cast<std::size_t>(index.row());
+    const auto col = static_cast<std::size_t>(index.column());
+    return QString::fromStdString(Float2EStr(std::as_const(matrix_)[row][col], 4));
+  }
+
+ private:
+  TQorFloatMatrix matrix_;
+};
+
+// A shown widget that scrolls down to a row or right to a column, and tells how far it has got.
+class Editor {
+ public:
+  explicit Editor(std::size_t order) {
+    widget_.setNoOfRowEdits(kVisible);
+    widget_.setNoOfColEdits(kVisible);
+    widget_.setMatrix(OurMatrix<Extended>(order));
+    widget_.show();
+  }
+  void ScrollDown(std::size_t row) { widget_.setDisplayTopRow(static_cast<quint32>(row)); }
+  void ScrollRight(std::size_t col) { widget_.setDisplayLeftCol(static_cast<quint32>(col)); }
+  void Paint() { widget_.repaint(); }
+
+ private:
+  TQorMatrixEdit widget_;
+};
+
+class View {
+ public:
+  explicit View(std::size_t order) : model_(OurMatrix<Extended>(order)) {
+    view_.horizontalHeader()->hide();
+    view_.verticalHeader()->hide();
+    view_.setHorizontalScrollMode(QAbstractItemView::ScrollPerItem);
+    view_.setModel(&model_);
+    view_.horizontalHeader()->setDefaultSectionSize(81);
+    view_.resize(kVisible * view_.columnWidth(0), kVisible * view_.rowHeight(0));
+    view_.show();
+  }
+  void ScrollDown(std::size_t row) { view_.verticalScrollBar()->setValue(static_cast<int>(row)); }
+  void ScrollRight(std::size_t col) {
+    view_.horizontalScrollBar()->setValue(static_cast<int>(col));
+  }
+  void Paint() { view_.viewport()->repaint(); }
+
+ private:
+  MatrixModel model_;
+  QTableView view_;
+};
+
+template <class Widget>
+void RegisterStep(const std::string& what, const std::string& who,
+                  void (Widget::*scroll)(std::size_t), bool paint) {
+  constexpr std::size_t order = 2'000;
+  const std::string name = what + "/Float/" + who + "/" + std::to_string(order);
+  benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+    StartApplication();
+    Widget widget(order);
+    QApplication::processEvents();
+    std::size_t place = 0;
+    for (auto _ : state) {
+      place = (place + 1) % (order - kVisible);
+      (widget.*scroll)(place);
+      if (paint) widget.Paint();
+    }
+    state.SetItemsProcessed(state.iterations());
+  });
+}
+
+template <class Widget>
+void RegisterSteps(const std::string& who, bool paint) {
+  const std::string suffix = paint ? " and paint" : "";
+  RegisterStep<Widget>("step down a matrix" + suffix, who, &Widget::ScrollDown, paint);
+  RegisterStep<Widget>("step across a matrix" + suffix, who, &Widget::ScrollRight, paint);
+}
+
+// Makes and shows a grid of cells; an item is a cell.
+void RegisterGrid(const std::string& who,
+                  const std::function<void(QWidget& window, int edits)>& fill) {
+  constexpr int edits = 100;
+  const std::string name = "grid of cells/Float/" + who + "/" + std::to_string(edits * edits);
+  benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+    StartApplication();
+    for (auto _ : state) {
+      QWidget window;
+      fill(window, edits);
+      window.show();
+      QApplication::processEvents();
+    }
+    state.SetItemsProcessed(state.iterations() * edits * edits);
+  });
+}
+
+void FillWithCells(QWidget& window, int edits) {
+  auto* const editor = new TQorMatrixEdit(&window);
+  editor->setNoOfRowEdits(edits);
+  editor->setNoOfColEdits(edits);
+  editor->setMatrix(OurMatrix<Extended>(static_cast<std::size_t>(edits)));
+  editor->resize(editor->sizeHint());
+  window.resize(editor->size());
+}
+
+void FillWithLineEdits(QWidget& window, int edits) {
+  const auto matrix = OurMatrix<Extended>(static_cast<std::size_t>(edits));
+  const QSize size(81, 21);
+  for (int row = 0; row < edits; ++row) {
+    for (int col = 0; col < edits; ++col) {
+      auto* const cell = new QLineEdit(&window);
+      cell->setGeometry(QRect({col * size.width(), row * size.height()}, size));
+      const auto& elements = matrix[static_cast<std::size_t>(row)];
+      const Extended value = elements[static_cast<std::size_t>(col)];
+      cell->setText(QString::fromStdString(Float2EStr(value, 4)));
+    }
+  }
+  window.resize(edits * size);
+}
+
+// A command of the editor, which copies the matrix so that it can be taken back and shows the
+// result, beside the routine alone. Both change what the call before has left.
+void RegisterCommand(const std::string& what, std::size_t order, int power,
+                     const std::function<void(TQorMatrixEdit& editor)>& command,
+                     const std::function<void(TQorFloatMatrix& matrix)>& routine) {
+  const auto add = [&](const std::string& who, const auto& run) {
+    const std::string name = what + "/Float/" + who + "/" + std::to_string(order);
+    benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
+      run(state);
+      std::size_t items = 1;
+      for (int i = 0; i < power; ++i) items *= order;
+      state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(items));
+    });
+  };
+  add("ours", [=](benchmark::State& state) {
+    StartApplication();
+    TQorMatrixEdit editor;
+    editor.setMatrix(OurMatrix<Extended>(order));
+    editor.show();
+    QApplication::processEvents();
+    for (auto _ : state) command(editor);
+  });
+  add("routine alone", [=](benchmark::State& state) {
+    auto matrix = OurMatrix<Extended>(order);
+    for (auto _ : state) routine(matrix);
+  });
+}
+
+const bool registered = [] {
+  RegisterSteps<Editor>("ours", false);
+  RegisterSteps<Editor>("ours", true);
+  RegisterSteps<View>("QTableView", true);
+
+  RegisterGrid("ours", FillWithCells);
+  RegisterGrid("QLineEdit", FillWithLineEdits);
+
+  using Edit = TQorMatrixEdit;
+  using Matrix = TQorFloatMatrix;
+  constexpr std::size_t large = 2'000;
+  RegisterCommand(
+      "command Sqr", large, 2, [](Edit& editor) { editor.Sqr(); },
+      [](Matrix& matrix) { SquareMatrix(matrix); });
+  // Keeps the elements where they are, as repeated squares do.
+  RegisterCommand(
+      "command LinearTransform", large, 2, [](Edit& editor) { editor.LinearTransform(-1, 0.5L); },
+      [](Matrix& matrix) { LinearTransformMatrix(matrix, Extended{-1}, Extended{0.5L}); });
+  RegisterCommand(
+      "command Transpose", large, 2, [](Edit& editor) { editor.Transpose(); },
+      [](Matrix& matrix) { matrix = TransposeMatrix(matrix); });
+  RegisterCommand(
+      "command Inverse", 200, 3, [](Edit& editor) { editor.Inverse(); },
+      [](Matrix& matrix) {
+        Matrix inverse;
+        benchmark::DoNotOptimize(MatrixInverse(matrix, inverse));
+        matrix = inverse;
+      });
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
