@@ -39,7 +39,7 @@ class MatrixModel : public QAbstractTableModel {
   TQorFloatMatrix matrix_;
 };
 
-// A shown widget that scrolls down to a row or right to a column, and tells how far it has got.
+// A shown widget that scrolls down to a row or right to a column.
 class Editor {
  public:
   explicit Editor(std::size_t order) {

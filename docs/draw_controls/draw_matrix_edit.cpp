@@ -1,27 +1,27 @@
 #include <QHBoxLayout>
 #include <QVBoxLayout>
 #include <QtTest/QTest>
+#include <cstdlib>
 
 #include "pictures.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
 
-using qorvex::TQorFloatEdit;
 using qorvex::TQorMatrixEdit;
 using qorvex::TQorMatrixFractEdit;
 
 namespace {
 
-// Correlations of one series with itself, of which the strong ones stand out.
+// Correlations of a series with itself: ones on the diagonal, negative ones and zeroes stand out.
 TQorMatrixEdit* Coloured() {
   auto* const editor = new TQorMatrixEdit;
   editor->setNoOfRowEdits(8);
   editor->setNoOfColEdits(5);
   editor->setCellWidth(64);
   editor->setDecimalPlaces(3);
-  editor->setNoOfRows(12);
-  editor->setNoOfCols(12);
   constexpr int order = 12;
+  editor->setNoOfRows(order);
+  editor->setNoOfCols(order);
   for (int row = 0; row < order; ++row) {
     for (int col = 0; col < order; ++col) {
       // A wave of eight steps that fades.
