@@ -7,7 +7,6 @@
 #include <QPushButton>
 #include <QSignalBlocker>
 #include <QSpinBox>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <exception>
@@ -76,11 +75,13 @@ MatrixPage::MatrixPage(QWidget* parent)
   for (TQorCustomMatrixEdit* const editor : Editors()) {
     editor->setCellHeight(25);
     editor->setCellWidth(82);
-    connect(editor, &TQorCustomMatrixEdit::OnChange, this, [this, editor] {
+    const auto follow = [this, editor] {
       edited_ = editor;
       message_->SetText({});
       Follow();
-    });
+    };
+    connect(editor, &TQorCustomMatrixEdit::OnChange, this, follow);
+    connect(editor, &TQorCustomMatrixEdit::OnUndo, this, follow);
     connect(editor, &TQorCustomMatrixEdit::OnBlockRefused, message_, &MessageBar::SetText);
   }
   for (TQorMatrixEdit* const editor : {decimals_, inverse_decimals_}) {
@@ -89,13 +90,6 @@ MatrixPage::MatrixPage(QWidget* parent)
   }
   inverse_decimals_->setReadOnly(true);
   inverse_fractions_->setReadOnly(true);
-  // A command that is taken back by a key or the menu tells nobody, but is displayed.
-  decimals_->OnSpecialColor = [this](quint32, quint32, Extended, QColor&) {
-    if (follow_pending_) return;
-    follow_pending_ = true;
-    QTimer::singleShot(0, this, &MatrixPage::Follow);
-  };
-
   auto* const panel = new SidePanel;
   QVBoxLayout* const matrix = panel->AddGroup(tr("Matrix"));
   auto* const size = new QHBoxLayout;
@@ -240,7 +234,6 @@ void MatrixPage::Resize() {
 }
 
 void MatrixPage::Follow() {
-  follow_pending_ = false;
   const TQorFloatMatrix matrix = edited_->Matrix();
   if (Same(matrix, shown_)) return;
   shown_ = matrix;

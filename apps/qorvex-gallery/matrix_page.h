@@ -71,7 +71,6 @@ class MatrixPage : public QWidget {
   TQorCustomMatrixEdit* edited_;
   // What the page shows.
   TQorFloatMatrix shown_;
-  bool follow_pending_ = false;
 };
 
 }  // namespace qorvex::gallery

@@ -170,6 +170,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnCurrRowChange(quint32 before, quint32 now);
   /// A colour of the set has changed.
   void OnColorSetChange();
+  /// Undo or Redo has put elements back.
+  void OnUndo();
   /// A block could not be pasted or copied; the message says why, and which row is to blame.
   void OnBlockRefused(const QString& message);
 
@@ -376,7 +378,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void RefuseBlock(const QString& message);
   // Puts the other values in the elements, and those that were there in the changes.
   void ExchangeElements(ElementChanges& changes);
-  void RememberElements(ElementChanges changes);
+  void RememberElements(const std::shared_ptr<ElementChanges>& changes);
   void NotifyChanges(const ElementChanges& changes);
   void Exchange(bool undone);
   void AddToMenu(QMenu* menu);

@@ -102,8 +102,9 @@ bool CellPanel::PasteBlock(const QString& text) {
     }
   }
   if (changes.empty()) return true;
-  RememberElements(std::move(changes));
-  Exchange(false);
+  const auto shared = std::make_shared<ElementChanges>(std::move(changes));
+  RememberElements(shared);
+  ExchangeElements(*shared);
   return true;
 }
 
@@ -128,12 +129,8 @@ void CellPanel::NotifyChanges(const ElementChanges& changes) {
   }
 }
 
-void CellPanel::RememberElements(ElementChanges changes) {
-  Remember([this, shared = std::make_shared<ElementChanges>(std::move(changes))] {
-    // A handler may make the panel forget what it is doing.
-    const auto kept = shared;
-    ExchangeElements(*kept);
-  });
+void CellPanel::RememberElements(const std::shared_ptr<ElementChanges>& changes) {
+  Remember([this, changes] { ExchangeElements(*changes); });
   exchanges_command_ = false;
 }
 
@@ -170,8 +167,10 @@ void CellPanel::Redo() {
 
 void CellPanel::Exchange(bool undone) {
   undone_ = undone;
+  // A copy, since a handler may make the panel forget what it is doing.
   const std::function<void()> exchange = exchange_;
   exchange();
+  Q_EMIT OnUndo();
 }
 
 void CellPanel::Command(const std::function<void()>& command) {

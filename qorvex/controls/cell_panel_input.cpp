@@ -8,6 +8,7 @@
 #include <QScrollBar>
 #include <QWheelEvent>
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include "qorvex/controls/cell_panel.h"
@@ -63,7 +64,7 @@ void CellPanel::DoChange(TQorCustomEdit* cell) {
   Store(row, col, cell->Value());
   // Whoever keeps the elements in virtual mode may have kept another value.
   cell->Refresh(Value(row, col));
-  RememberElements({{row, col, before}});
+  RememberElements(std::make_shared<ElementChanges>(ElementChanges{{row, col, before}}));
   NotifyChanges({{row, col, before}});
 }
 

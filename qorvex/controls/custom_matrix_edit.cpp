@@ -18,7 +18,7 @@ TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent, CellFactory make_cel
                 std::move(make_cell)),
       corner_(new QToolButton(this)) {
   corner_->setFocusPolicy(Qt::NoFocus);
-  corner_->setAutoRaise(true);
+  corner_->setAccessibleName(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner"));
   connect(corner_, &QToolButton::clicked, this, &TQorCustomMatrixEdit::CornerClick);
 }
 

@@ -174,8 +174,10 @@ TEST_F(MatrixEdit, ATransposeChangesTheShapeThereAndBack) {
   EXPECT_EQ(editor->NoOfCols(), 5U);
   EXPECT_EQ(editor->Element(1, 4), 41);
   EXPECT_EQ(Texts(), "0.0000|10.0000|20.0000|1.0000|11.0000|21.0000||||||");
+  QSignalSpy undone(editor, &TQorMatrixEdit::OnUndo);
   EXPECT_TRUE(editor->CanUndo());
   editor->Undo();
+  EXPECT_EQ(undone.count(), 1);
   EXPECT_TRUE(Same(editor->Matrix(), Numbered(5, 2)));
   EXPECT_TRUE(editor->CanRedo());
   editor->Redo();

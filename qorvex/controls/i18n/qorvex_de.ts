@@ -40,6 +40,10 @@
 <context>
     <name>TQorCustomMatrixEdit</name>
     <message>
+        <source>Corner</source>
+        <translation>Ecke</translation>
+    </message>
+    <message>
         <source>Row %1, column %2</source>
         <translation>Zeile %1, Spalte %2</translation>
     </message>
