@@ -10,6 +10,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 #include <exception>
+#include <functional>
 
 #include "apps/qorvex-gallery/figure_table.h"
 #include "apps/qorvex-gallery/heading.h"
@@ -149,21 +150,25 @@ QWidget* MatrixPage::MakeCommands() {
   auto* const grid = new QGridLayout(bar);
   grid->setContentsMargins(0, 0, 0, 0);
   const auto add_command = [&](const QString& text, const char* name, const QString& tip,
-                               void (TQorMatrixEdit::*command)()) {
-    AddButton(bar, text, name, tip, [this, command] { Run([&] { (decimals_->*command)(); }); });
+                               void (TQorCustomMatrixEdit::*command)()) {
+    const std::function<void()> run = std::bind_front(command, decimals_);
+    AddButton(bar, text, name, tip, [this, run] { Run(run); });
   };
-  add_command(tr("&Transpose"), "transpose", tr("Rows become columns"), &TQorMatrixEdit::Transpose);
-  add_command(tr("&Inverse"), "inverse", tr("The inverse of the matrix"), &TQorMatrixEdit::Inverse);
+  add_command(tr("&Transpose"), "transpose", tr("Rows become columns"),
+              &TQorCustomMatrixEdit::Transpose);
+  add_command(tr("&Inverse"), "inverse", tr("The inverse of the matrix"),
+              &TQorCustomMatrixEdit::Inverse);
   add_command(tr("Row &Echelon"), "row_reduce", tr("Reduces the matrix to row echelon form"),
-              &TQorMatrixEdit::RowReduce);
+              &TQorCustomMatrixEdit::RowReduce);
   add_command(tr("Reci&procals"), "reciprocals", tr("1 divided by each element"),
-              &TQorMatrixEdit::Invert);
-  add_command(tr("S&quares"), "squares", tr("Each element squared"), &TQorMatrixEdit::Sqr);
+              &TQorCustomMatrixEdit::Invert);
+  add_command(tr("S&quares"), "squares", tr("Each element squared"), &TQorCustomMatrixEdit::Sqr);
   add_command(tr("Square &Roots"), "square_roots", tr("The square root of each element"),
-              &TQorMatrixEdit::Sqrt);
-  add_command(tr("&ln"), "ln", tr("The natural logarithm of each element"), &TQorMatrixEdit::Ln);
+              &TQorCustomMatrixEdit::Sqrt);
+  add_command(tr("&ln"), "ln", tr("The natural logarithm of each element"),
+              &TQorCustomMatrixEdit::Ln);
   add_command(tr("lo&g10"), "log10", tr("The decimal logarithm of each element"),
-              &TQorMatrixEdit::Log10);
+              &TQorCustomMatrixEdit::Log10);
   AddButton(bar, tr("&Undo"), "undo", tr("Takes the last change back"), [this] { Exchange(true); });
   AddButton(bar, tr("Re&do"), "redo", tr("Makes the last change again"),
             [this] { Exchange(false); });
