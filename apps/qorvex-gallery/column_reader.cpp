@@ -90,6 +90,10 @@ TableColumn ReadColumn(cli::TextInput input, std::size_t index) {
   cli::RequireFirstRow(rows);
   const std::size_t width = rows.Cells().size();
   const std::size_t first_line = rows.Line();
+  if (index >= width) {
+    throw InputError(InputFault::kMalformed, rows.Name(),
+                     "the file has fewer columns than when it was opened");
+  }
   const std::string title = IsHeader(rows) ? std::string(rows.Cells()[index]) : std::string();
   const bool has_row = IsHeader(rows) ? rows.Next() : true;
   const bool has_names = has_row && index > 0 && cli::IsText(rows.Cells()[0]);

@@ -347,6 +347,7 @@ void DataPage::CancelReading() {
 void DataPage::EndReading(const Reading& reading) {
   progress_->hide();
   shown_ = chosen_;
+  // A column that cannot be read shows none, since its name stands over it.
   TQorFloatVector values;
   row_names_.clear();
   if (const auto* const column = std::get_if<TableColumn>(&reading)) {

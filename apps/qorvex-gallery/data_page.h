@@ -44,6 +44,9 @@ class DataPage : public QWidget {
   /// Opens the example.
   void OpenExample();
 
+  /// A file is being read on another thread.
+  [[nodiscard]] bool IsReading() const { return !progress_->isHidden(); }
+
  Q_SIGNALS:
   /// A column has been read, has been refused, or its reading has been cancelled.
   void ReadingEnded();

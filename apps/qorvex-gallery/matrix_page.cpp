@@ -29,7 +29,7 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr int kMostRows = 1000;
+constexpr int kMostRows = 400;
 // An elimination of this size takes some milliseconds, as does whatever happens at every key.
 constexpr std::size_t kMostEliminated = 200;
 // More scroll.

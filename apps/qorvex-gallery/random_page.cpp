@@ -24,6 +24,7 @@
 #include "apps/qorvex-gallery/widgets/message_label.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
+#include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/float_edit.h"
 
@@ -155,7 +156,9 @@ RandomPage::RandomPage(QWidget* parent)
   connect(&task_, &BackgroundTask::Finished, this, [this](const QString& error, bool cancelled) {
     message_->Say(cancelled ? tr("Cancelled") : QString());
     const std::shared_ptr<RandomSample> result = std::move(result_);
-    if (!error.isEmpty()) {
+    if (!error.isEmpty() && !saved_path_.isEmpty()) {
+      message_->Say(tr("%1: %2").arg(saved_path_, error));
+    } else if (!error.isEmpty()) {
       parameters_->ShowInconsistency(error.toStdString());
     } else if (!cancelled && result != nullptr) {
       sample_ = result;
@@ -202,6 +205,7 @@ void RandomPage::Generate() {
   }
   const SampleOrder order = {&Chosen(), *parameters, static_cast<std::size_t>(size_->value()),
                              static_cast<std::uint64_t>(seed_->Value())};
+  saved_path_.clear();
   result_ = std::make_shared<RandomSample>();
   task_.Start([order, result = result_](BackgroundTask& task) {
     *result = DrawSample(
@@ -234,14 +238,16 @@ void RandomPage::ShowSample() {
   const QString name =
       sample_->is_cropped ? tr("Sample, without the outermost hundredth") : tr("Sample");
   std::vector<PlotLayer> layers = {{PlotShape::kBars, PlotRole::kData, name, sample_->bars}};
-  if (theory.density && !sample_->bars.empty()) {
-    Range range = {static_cast<Extended>(sample_->bars.front().x()),
-                   static_cast<Extended>(sample_->bars.back().x())};
-    if (theory.is_count) range = {std::ceil(range.from), std::floor(range.to)};
-    const auto curve = DensityAt(theory.density, PlottedPoints(range, theory.is_count));
-    layers.push_back({PlotShape::kLine, PlotRole::kModel,
-                      theory.is_count ? tr("Probabilities") : tr("Density"), curve});
-  }
+  if (theory.density && !sample_->bars.empty()) try {
+      Range range = {static_cast<Extended>(sample_->bars.front().x()),
+                     static_cast<Extended>(sample_->bars.back().x())};
+      if (theory.is_count) range = {std::ceil(range.from), std::floor(range.to)};
+      const auto curve = DensityAt(theory.density, PlottedPoints(range, theory.is_count));
+      layers.push_back({PlotShape::kLine, PlotRole::kModel,
+                        theory.is_count ? tr("Probabilities") : tr("Density"), curve});
+    } catch (const EMathError&) {
+      // Variates reach further than densities; the sample is shown by itself then.
+    }
   plot_->SetAxisTitles(tr("Value"), theory.is_count ? tr("Share") : tr("Density"));
   plot_->SetLayers(std::move(layers));
 }
@@ -264,6 +270,7 @@ void RandomPage::AskAndSave() {
 
 void RandomPage::Save(const QString& path) {
   if (sample_ == nullptr || task_.Running()) return;
+  saved_path_ = path;
   task_.Start(
       [sample = sample_, path](BackgroundTask& task) { WriteValues(sample->values, path, task); });
   ShowRunning();

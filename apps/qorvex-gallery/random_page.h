@@ -70,6 +70,8 @@ class RandomPage : public QWidget {
   QSpinBox* size_;
   TQorFloatEdit* seed_;
   MessageLabel* message_;
+  // What the task writes to; empty while it draws.
+  QString saved_path_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;

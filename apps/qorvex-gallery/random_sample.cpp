@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/random_sample.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <stdexcept>
 #include <string>
@@ -16,8 +17,6 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr std::size_t kBlock = 4096;
-
 // False when it was not to go on.
 bool DrawValues(const SampleOrder& order, TQorFloatVector& values,
                 const std::function<bool(std::size_t, std::size_t)>& proceed) {
@@ -26,8 +25,14 @@ bool DrawValues(const SampleOrder& order, TQorFloatVector& values,
   const auto draw = order.variate->methods.front().draw;
   TQorFloatVector figure = TQorFloatVector::WithLength(1);
   SetRandSeed(order.seed);
+  // Some variates take nanoseconds, others milliseconds.
+  using Clock = std::chrono::steady_clock;
+  Clock::time_point next = Clock::now();
   for (std::size_t i = 0; i < order.size; ++i) {
-    if (i % kBlock == 0 && !proceed(i, order.size)) return false;
+    if (const Clock::time_point now = Clock::now(); now >= next) {
+      if (!proceed(i, order.size)) return false;
+      next = now + std::chrono::milliseconds(20);
+    }
     draw(arguments, figure);
     values[i] = CheckedFinite(figure[0]);
   }

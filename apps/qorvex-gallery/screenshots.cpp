@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "apps/qorvex-gallery/data_page.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/widgets/background_task.h"
 
@@ -18,12 +19,14 @@ namespace {
 // Until no page works any more, and what they have queued is done.
 void Settle(const MainWindow& window) {
   const QList<BackgroundTask*> tasks = window.findChildren<BackgroundTask*>();
+  const auto* const data = window.findChild<DataPage*>();
   QElapsedTimer quiet;
   quiet.start();
   while (quiet.elapsed() < 200) {
     QApplication::processEvents(QEventLoop::AllEvents, 20);
     const auto is_running = [](const BackgroundTask* task) { return task->Running(); };
-    if (std::any_of(tasks.begin(), tasks.end(), is_running)) quiet.restart();
+    const bool reads = data != nullptr && data->IsReading();
+    if (reads || std::any_of(tasks.begin(), tasks.end(), is_running)) quiet.restart();
   }
 }
 

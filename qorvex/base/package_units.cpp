@@ -41,8 +41,8 @@ PackageSession::PackageSession(std::span<const PackageUnit> units) : units_(unit
   try {
     for (const PackageUnit& unit : units_) {
       if (unit.initialise != nullptr) unit.initialise();
-      Note(unit.name, true);
       ++initialised_;
+      Note(unit.name, true);
     }
   } catch (...) {
     Finalise();

@@ -23,7 +23,8 @@ struct PackageUnit {
 
 /// Initialises units, each after those before it, and finalises them in the reverse order when it
 /// is destroyed: a package has one of these as a global object. When an initialisation raises, the
-/// units before it are finalised, and the error reaches the caller.
+/// units before it are finalised, and the error reaches the caller; from a global object it ends
+/// the program.
 class QORVEX_EXPORT PackageSession {
  public:
   /// The units must outlive the session.

@@ -387,12 +387,12 @@ void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   EnableUsedCells();
   if (Updating()) return;
+  // Asking for an element may change how many there are, and how many cells.
   for (std::size_t r = 0; r < cells_.size(); ++r) {
-    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+    for (std::size_t c = 0; r < cells_.size() && c < cells_[r].size(); ++c) {
       TQorCustomEdit* const cell = cells_[r][c];
       const quint32 row = RowOf(cell);
       const quint32 col = ColOf(cell);
-      // Asking for an element may change how many there are.
       if (r < Rows().UsedEdits() && c < Cols().UsedEdits()) {
         const Extended value = Value(row, col);
         cell->Refresh(value);

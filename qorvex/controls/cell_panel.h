@@ -172,7 +172,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnColorSetChange();
   /// Undo or Redo has put elements back.
   void OnUndo();
-  /// A block could not be pasted or copied; the message says why, and which row is to blame.
+  /// A block could not be pasted or copied, or a value that was typed could not be kept; the
+  /// message says why, and which row is to blame.
   void OnBlockRefused(const QString& message);
 
   /// @{
@@ -375,6 +376,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Step(Axis& along, Axis& across, bool forward);
 
   [[nodiscard]] QString BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const;
+  [[nodiscard]] static QString OutOfMemory();
   void RefuseBlock(const QString& message);
   // Puts the other values in the elements, and those that were there in the changes.
   void ExchangeElements(ElementChanges& changes);

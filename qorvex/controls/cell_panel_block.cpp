@@ -67,11 +67,12 @@ bool CellPanel::PasteBlock(const QString& text) {
     RefuseBlock(QCoreApplication::translate("CellPanel", "These values cannot be changed."));
     return false;
   }
-  if (block.size() > room_below || cells_.empty()) {
+  const bool has_cells = !cells_.empty() && !cells_.front().empty();
+  if (block.size() > room_below || !has_cells) {
     RefuseBlock(QCoreApplication::translate(
                     "CellPanel", "The block does not fit. Its rows: %1, rows from here on: %2.")
                     .arg(block.size())
-                    .arg(cells_.empty() ? 0 : room_below));
+                    .arg(has_cells ? room_below : 0));
     return false;
   }
   if (width > room_beside) {
@@ -104,8 +105,18 @@ bool CellPanel::PasteBlock(const QString& text) {
   if (changes.empty()) return true;
   const auto shared = std::make_shared<ElementChanges>(std::move(changes));
   RememberElements(shared);
-  ExchangeElements(*shared);
+  try {
+    ExchangeElements(*shared);
+  } catch (const std::bad_alloc&) {
+    Forget();
+    RefuseBlock(OutOfMemory());
+    return false;
+  }
   return true;
+}
+
+QString CellPanel::OutOfMemory() {
+  return QCoreApplication::translate("CellPanel", "There is not enough memory for these values.");
 }
 
 void CellPanel::ExchangeElements(ElementChanges& changes) {

@@ -9,6 +9,7 @@
 #include <QWheelEvent>
 #include <algorithm>
 #include <memory>
+#include <new>
 #include <utility>
 
 #include "qorvex/controls/cell_panel.h"
@@ -61,7 +62,14 @@ void CellPanel::DoChange(TQorCustomEdit* cell) {
   const quint32 col = ColOf(cell);
   // The cell may have shown null in place of the element.
   const Extended before = Value(row, col);
-  Store(row, col, cell->Value());
+  try {
+    Store(row, col, cell->Value());
+  } catch (const std::bad_alloc&) {
+    // A table whose size was promised lightly takes its memory now.
+    cell->Refresh(before);
+    RefuseBlock(OutOfMemory());
+    return;
+  }
   // Whoever keeps the elements in virtual mode may have kept another value.
   cell->Refresh(Value(row, col));
   RememberElements(std::make_shared<ElementChanges>(ElementChanges{{row, col, before}}));

@@ -166,6 +166,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
   /// stays as it is. In virtual mode it only redisplays.
   void Inverse();
 
+  /// What a click on the button in the corner does: OnCornerBtnClick.
+  void CornerClick();
+
   /// Gives the elements in virtual mode; may be called at any time.
   TQorGetMatrixElementEvent OnGetElement;
   /// Gives the colours of texts, at every redisplay; empty for none.
@@ -216,8 +219,6 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
   void Arrange() override;
   /// @}
 
-  /// The button in the corner has been clicked.
-  void CornerClick();
   /// EMathError unless there is such an element; as many columns as given count as there.
   void CheckElement(quint32 row, quint32 col, quint64 cols) const;
 

@@ -20,6 +20,8 @@ void TQorCustomMatrixEdit::MatrixCommand(
     // The command works on a copy, and the matrix that it began with is what brings it back.
     const auto other = std::make_shared<TQorFloatMatrix>(CopyMatrix(FullStore()));
     command(*other);
+    // Without rows a matrix cannot tell how many columns it has.
+    if (NoOfRows() == 0) return;
     ExchangeStore(*other);
     Remember([this, other] { ExchangeStore(*other); });
   });

@@ -36,6 +36,7 @@ void TQorMatrixFractEdit::ApplyToCells() {
       cell->setDecimalsFract(decimals_);
     }
   }
+  Redisplay();
 }
 
 TQorMixedFraction TQorMatrixFractEdit::FractElement(quint32 row, quint32 col) const {
@@ -47,7 +48,7 @@ void TQorMatrixFractEdit::setFractElement(quint32 row, quint32 col,
                                           const TQorMixedFraction& fraction) {
   CheckElement(row, col, quint64{NoOfCols()} + 1);
   Store(row, col, Fraction2Float(fraction));
-  Forget();
+  ForgetCommand();
   Redisplay();
 }
 

@@ -14,6 +14,9 @@ namespace qorvex {
 /// initialises them in this order, once, however often it is loaded; unloading finalises them in
 /// the reverse order.
 ///
+/// In a static library there is no loading: a program that does not call this function leaves the
+/// list out, and the units are as their initialisation would leave them.
+///
 /// A program that has made widgets must keep the package loaded: Qt holds on to their types.
 [[nodiscard]] QORVEX_EXPORT std::span<const PackageUnit> PackageUnits() noexcept;
 

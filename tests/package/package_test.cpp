@@ -9,7 +9,7 @@
 #include "support/test.h"
 
 // Qt does not free what it allocates while it is loaded.
-extern "C" const char* __asan_default_options() {
+extern "C" __attribute__((visibility("default"))) const char* __asan_default_options() {
   return "detect_leaks=0";
 }
 

@@ -13,6 +13,10 @@
         <translation>%1: „%2“ ist keine Zahl.</translation>
     </message>
     <message>
+        <source>There is not enough memory for these values.</source>
+        <translation>Für diese Werte reicht der Speicher nicht.</translation>
+    </message>
+    <message>
         <source>Too many values to copy: %1.</source>
         <translation>Zu viele Werte zum Kopieren: %1.</translation>
     </message>
