@@ -28,7 +28,7 @@ struct FullPrecisionRoutines {
 };
 
 /// The routines of the unit QorvexStatistics; null where it has none.
-struct PrescribedRoutines {
+struct ClassicRoutines {
   DistributionRoutine density = nullptr;
   DistributionRoutine less = nullptr;
   DistributionRoutine greater = nullptr;
@@ -47,7 +47,7 @@ struct Distribution {
   /// Whether its points are counts.
   bool is_discrete;
   FullPrecisionRoutines full_precision;
-  PrescribedRoutines prescribed;
+  ClassicRoutines classic;
   /// What is wrong with parameters that are fine one by one, or null; null itself where nothing can
   /// be.
   const char* (*inconsistency)(DistributionArguments parameters) = nullptr;

@@ -181,7 +181,7 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
       {"matrix ", {"invert -", "inverse", "inverse - -", "multiply -", "multiply - -"}},
       {"dist ",
        {"", "gauss", "normal", "normal most", "normal inv", "normal inv --p .5 --upper-p .5",
-        "normal less --x 1 --log --prescribed"}},
+        "normal less --x 1 --log --classic"}},
       {"random ", {"", "gauss", "uniform --seed 1 2"}},
       {"fit ", {"", "line", "line -", "line - --x 1", "line - --y 1", "cubic - --x 1 --y 2"}},
       {"matrix rank - ", {"--decimals 2", "--tolerance x", "--tolerance nan", "--tolerance=-1"}},

@@ -84,17 +84,17 @@ TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
            std::pair("beta table --a 1 --b 1 --upper-end 2 --from 1 --to 3 --n 1 --decimals 2",
                      "1.00,0.50\n3.00,0.00\n"),
        }) {
-    ExpectOutput(std::string("qorvex dist ") + question + " --prescribed", answer);
+    ExpectOutput(std::string("qorvex dist ") + question + " --classic", answer);
   }
-  ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --prescribed", "0\n");
-  ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --prescribed",
-                "chi-square pdf: The value must not be negative; without --prescribed there is no "
+  ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --classic", "0\n");
+  ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --classic",
+                "chi-square pdf: The value must not be negative; without --classic there is no "
                 "such limit");
   const std::string beyond =
       ": the figure, or one on the way to it, is beyond the range of extended precision";
-  ExpectRefusal("qorvex dist normal pdf --std-dev 1e3000 --x 1e3000 --prescribed",
-                "normal pdf" + beyond + "; without --prescribed there is no such limit");
-  ExpectRefusal("qorvex dist log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --prescribed",
+  ExpectRefusal("qorvex dist normal pdf --std-dev 1e3000 --x 1e3000 --classic",
+                "normal pdf" + beyond + "; without --classic there is no such limit");
+  ExpectRefusal("qorvex dist log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --classic",
                 "log-normal inv" + beyond);
   ExpectRefusal("qorvex dist hypergeometric pdf --pop-size 3 --sample-size 4 --successes 1 --k 1",
                 "hypergeometric pdf: The hypergeometric distribution needs a population and a "
@@ -115,9 +115,8 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
                      "--trials: \"4294967296\" is not a whole number from 0 to 4294967295"),
            std::pair("binomial pdf --trials 1 --success-probability 1.1 --k 1",
                      "--success-probability: \"1.1\" is not from 0 to 1"),
-           std::pair(
-               "f less --df1 1 --df2 2.5 --x 1 --prescribed",
-               "--df2: 2.5 is not a whole number from 0 to 4294967295, as --prescribed needs"),
+           std::pair("f less --df1 1 --df2 2.5 --x 1 --classic",
+                     "--df2: 2.5 is not a whole number from 0 to 4294967295, as --classic needs"),
            std::pair("beta pdf --a 1 --b 1 --lower-end 1 --x 1",
                      "--upper-end must be greater than --lower-end"),
            std::pair("beta pdf --a 1 --b 1 --lower-end -1e4932 --upper-end 1e4932 --x 1",
@@ -128,8 +127,8 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
                      "--to: counts ascend, so it must not be below --from"),
            std::pair("poisson table --lambda 1 --from 5 --to 10000005",
                      "--to: a table has at most 10000000 points"),
-           std::pair("exponential inv --mean 1 --p 0.5 --prescribed",
-                     "--prescribed: there is no such routine in QorvexStatistics"),
+           std::pair("exponential inv --mean 1 --p 0.5 --classic",
+                     "--classic: there is no such routine in QorvexStatistics"),
        }) {
     ExpectRefusal(
         std::string("qorvex dist ") + question,
