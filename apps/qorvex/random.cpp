@@ -22,7 +22,8 @@ namespace {
 
 constexpr const char* kVariatesHelp = R"(Variates:
   One a line, printed as they are drawn. A seed gives the same ones on every
-  machine; without it every run gives others.)";
+  processor of one family; on others the last digit of what is not a count can
+  differ, and rarely more. Without a seed every run gives others.)";
 
 struct RandomArguments {
   VariateArguments parameters;
