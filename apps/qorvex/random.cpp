@@ -89,7 +89,7 @@ void PrintVariates(const RandomArguments& arguments) {
   TQorFloatVector figures = TQorFloatVector::WithLength(1);
   std::string line;
   for (std::uint64_t i = 0; i < arguments.count; ++i) {
-    arguments.method->draw(arguments.parameters, figures);
+    arguments.method->draw(arguments.parameters, figures, ClassicRandom);
     for (const Extended figure : figures) CheckedFinite(figure);
     line.clear();
     AppendLine(line, figures, arguments.decimals);
@@ -113,9 +113,9 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
   } catch (const EMathError& error) {
     // The lines in front of the failing one go out before the message.
     WriteResult("");
-    const bool limited =
-        *variate.limits != '\0' && dynamic_cast<const EOverflow*>(&error) == nullptr;
-    throw Refusal(variate.name, error, limited ? std::string(": ") + variate.limits : "");
+    const std::string limits = arguments.method->limits;
+    const bool limited = !limits.empty() && dynamic_cast<const EOverflow*>(&error) == nullptr;
+    throw Refusal(variate.name, error, limited ? ": " + limits : "");
   }
 }
 
@@ -126,6 +126,11 @@ void AddVariate(CLI::App& random, const Variate& variate) {
     AddParameter(command, parameter, arguments);
   arguments->method = &variate.methods.front();
   if (variate.methods.size() > 1) AddMethods(command, variate, arguments);
+  if (variate.classic) {
+    command.add_flag_callback(
+        "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
+        "Draw with the classic routine of QorvexRandom, limits included");
+  }
   AddNumber(command, "--count", "How many variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
   AddNumber(command, "--seed",
