@@ -52,6 +52,29 @@ TEST(Describe, RefusesBadInputWithStatusTwo) {
                 "the range of extended precision");
 }
 
+TEST(Describe, RemarksOnARowThatMayNotBeAHeader) {
+  const std::string doubt = "qorvex: standard input: the first row was taken for a header because ";
+  const std::string decide = "; --header and --no-header decide\n";
+  for (const auto& [input, remark] : {
+           std::pair("NA,2\\n1,3\\n5,4' | qorvex describe -",
+                     doubt + "\"NA\" is not a number, though \"2\" is" + decide),
+           std::pair("id,NA,1e9\\na,1,3\\nb,5,4' | qorvex fit line - --x 2 --y 3",
+                     doubt + "\"id\" is not a number, though \"1e9\" is" + decide),
+           std::pair("1.2.3\\n4' | qorvex describe -",
+                     doubt + "\"1.2.3\" is not a number" + decide),
+           std::pair("x,y\\n1,3\\n5,4' | qorvex describe -", std::string()),
+           std::pair("x,2\\n1,3\\n5,4' | qorvex describe - --header", std::string()),
+           std::pair("NA,2\\n1,3\\n5,4' | qorvex describe - --no-header --column 2", std::string()),
+       }) {
+    ExpectOutput(std::string("printf '") + input + " 2>&1 >/dev/null", remark);
+  }
+  ExpectOutput("printf '2019\\n1\\n3' | qorvex describe - --header | grep -E 'Column|Mean'",
+               "Column 1: 2019\nMean:\t2.0000\n");
+  ExpectRefusal("printf 'NA,2\\n1,3' | qorvex describe - --no-header",
+                "standard input:1: column 1: \"NA\" is not a number; --column chooses the columns "
+                "to read");
+}
+
 TEST(Describe, AddsMoneyExactly) {
   // The extended sum cannot hold tenths beside so large an amount.
   const std::string tenths =
@@ -177,7 +200,8 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
       {"", {"", "decsribe x", "describe", "matrix"}},
       {"describe - ",
        {"--decimals -1", "--decimals 256", "--decimals x", "--decimals 0x10", "--delimiter 5",
-        "--delimiter ''", "--delimiter ab", "--nosuch", "--column 1 extra", "--column"}},
+        "--delimiter ''", "--delimiter ab", "--nosuch", "--column 1 extra", "--column",
+        "--header --no-header"}},
       {"matrix ", {"invert -", "inverse", "inverse - -", "multiply -", "multiply - -"}},
       {"dist ",
        {"", "gauss", "normal", "normal most", "normal inv", "normal inv --p .5 --upper-p .5",
