@@ -75,6 +75,39 @@ TEST(Describe, RemarksOnARowThatMayNotBeAHeader) {
                 "to read");
 }
 
+TEST(Describe, RemarksOnFiguresThatShowNoDigit) {
+  const std::string remark = "qorvex: standard input: column 1: ";
+  const std::string enough = " or --json shows all\n";
+  // Sum of squares 1.4e-17, variance 1e-18, and ten figures from 1e-9 on.
+  const std::string small = "printf '1e-9\\n2e-9\\n3e-9\\n' | qorvex describe - ";
+  for (const auto& [command, remarks] : {
+           std::pair(small, remark +
+                                "12 figures other than 0 without a digit in 4 decimals; "
+                                "--decimals 21" +
+                                enough),
+           std::pair(small + "--decimals 9", remark +
+                                                 "2 figures other than 0 without a digit in 9 "
+                                                 "decimals; --decimals 21" +
+                                                 enough),
+           std::pair(small + "--decimals 21", std::string()),
+           std::pair(small + "--json", std::string()),
+           std::pair(std::string("printf '1e-200\\n' | qorvex describe - --decimals 1"),
+                     remark + "9 figures other than 0 without a digit in 1 decimal; --json shows "
+                              "all\n"),
+           // Sums of what cancels, and means of equal values, leave rounding errors.
+           std::pair(std::string("printf '0.1\\n-0.3\\n0.2\\n' | qorvex describe -"),
+                     std::string()),
+           std::pair(std::string("yes 0.1 | head -n 77 | qorvex describe -"), std::string()),
+           std::pair(std::string("printf '0.0001\\n-0.0001\\n' | qorvex describe - --currency "
+                                 "--decimals 2"),
+                     remark +
+                         "6 figures other than 0 without a digit in 2 decimals; --decimals 11" +
+                         enough),
+       }) {
+    ExpectOutput(command + " 2>&1 >/dev/null", remarks);
+  }
+}
+
 TEST(Describe, AddsMoneyExactly) {
   // The extended sum cannot hold tenths beside so large an amount.
   const std::string tenths =
