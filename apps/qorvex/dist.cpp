@@ -110,13 +110,20 @@ Routine Existing(Routine routine) {
   throw CLI::ValidationError("--classic", "there is no such routine in QorvexStatistics");
 }
 
+// Rounding can leave a classic sum above 1, and what it leaves of 1 below 0.
+Extended ClassicProbability(DistributionRoutine routine, const DistArguments& arguments) {
+  const Extended probability = Existing(routine)(arguments.numbers);
+  if (probability < 0) return 0;
+  return probability > 1 ? 1 : probability;
+}
+
 Numbers WithLast(Numbers numbers, Extended last) {
   numbers.back() = last;
   return numbers;
 }
 
 Extended Less(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return Existing(distribution.classic.less)(arguments.numbers);
+  if (arguments.classic) return ClassicProbability(distribution.classic.less, arguments);
   const FullPrecisionRoutines& routines = distribution.full_precision;
   const DistributionRoutine lower = arguments.log ? routines.log_lower : routines.lower;
   if (!distribution.is_discrete) return lower(arguments.numbers);
@@ -129,13 +136,13 @@ Extended Less(const Distribution& distribution, const DistArguments& arguments) 
 }
 
 Extended Greater(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return Existing(distribution.classic.greater)(arguments.numbers);
+  if (arguments.classic) return ClassicProbability(distribution.classic.greater, arguments);
   const FullPrecisionRoutines& routines = distribution.full_precision;
   return (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
 }
 
 Extended Between(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return Existing(distribution.classic.between)(arguments.numbers);
+  if (arguments.classic) return ClassicProbability(distribution.classic.between, arguments);
   return ProbabilityBetween(distribution, arguments.numbers);
 }
 

@@ -87,6 +87,10 @@ TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
     ExpectOutput(std::string("qorvex dist ") + question + " --classic", answer);
   }
   ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --classic", "0\n");
+  // Their sums come out above 1 here.
+  const std::string trials = " --success-probability 0.15 --trials 24 --classic";
+  ExpectOutput("qorvex dist binomial greater --k 23" + trials, "0\n");
+  ExpectOutput("qorvex dist binomial less --k 24" + trials, "1\n");
   ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --classic",
                 "chi-square pdf: The value must not be negative; without --classic there is no "
                 "such limit");
