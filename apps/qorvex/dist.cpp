@@ -122,11 +122,23 @@ Numbers WithLast(Numbers numbers, Extended last) {
   return numbers;
 }
 
+// A figure for the last of the numbers, a point. At an end of the support and beyond it, a
+// logarithm or a density can be infinite; anywhere else it is a finite one beyond the range.
+Extended InRange(Extended figure, const Distribution& distribution, const Numbers& numbers) {
+  if (!std::isinf(figure) || distribution.is_discrete) return figure;
+  const Support support =
+      distribution.support == nullptr ? Support() : distribution.support(numbers);
+  const Extended point = numbers.back();
+  if (point > support.least && point < support.greatest) throw EOverflow();
+  return figure;
+}
+
 Extended Less(const Distribution& distribution, const DistArguments& arguments) {
   if (arguments.classic) return ClassicProbability(distribution.classic.less, arguments);
   const FullPrecisionRoutines& routines = distribution.full_precision;
   const DistributionRoutine lower = arguments.log ? routines.log_lower : routines.lower;
-  if (!distribution.is_discrete) return lower(arguments.numbers);
+  if (!distribution.is_discrete)
+    return InRange(lower(arguments.numbers), distribution, arguments.numbers);
   // Fewer than k are at most k - 1; fewer than none is impossible, though the parameters are
   // checked all the same.
   const Extended k = arguments.numbers.back();
@@ -138,7 +150,8 @@ Extended Less(const Distribution& distribution, const DistArguments& arguments) 
 Extended Greater(const Distribution& distribution, const DistArguments& arguments) {
   if (arguments.classic) return ClassicProbability(distribution.classic.greater, arguments);
   const FullPrecisionRoutines& routines = distribution.full_precision;
-  return (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
+  const Extended upper = (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
+  return InRange(upper, distribution, arguments.numbers);
 }
 
 Extended Between(const Distribution& distribution, const DistArguments& arguments) {
@@ -158,8 +171,9 @@ Extended Quantile(const Distribution& distribution, const DistArguments& argumen
 }
 
 Extended Density(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return Existing(distribution.classic.density)(arguments.numbers);
-  return distribution.full_precision.density(arguments.numbers);
+  const DistributionRoutine density = arguments.classic ? Existing(distribution.classic.density)
+                                                        : distribution.full_precision.density;
+  return InRange(density(arguments.numbers), distribution, arguments.numbers);
 }
 
 std::string Text(Extended value, const DistArguments& arguments) {
@@ -190,13 +204,13 @@ std::string Table(const Distribution& distribution, const DistArguments& argumen
   const auto n = static_cast<std::int32_t>(arguments.steps);
   TQorFloatVector x_values;
   TQorFloatVector densities;
+  Numbers numbers = arguments.numbers;
+  const Extended to = numbers.back();
+  numbers.pop_back();
+  const Extended from = numbers.back();
   if (arguments.classic) {
     Existing(distribution.classic.table)(arguments.numbers, n, x_values, densities);
   } else {
-    Numbers numbers = arguments.numbers;
-    const Extended to = numbers.back();
-    numbers.pop_back();
-    const Extended from = numbers.back();
     const Extended step = n >= 1 ? (to - from) / arguments.steps : 0;
     const std::size_t length = static_cast<std::size_t>(n) + 1;
     x_values = TQorFloatVector::ForOverwrite(length);
@@ -207,8 +221,11 @@ std::string Table(const Distribution& distribution, const DistArguments& argumen
     }
   }
   std::string lines;
-  for (std::size_t i = 0; i < x_values.size(); ++i)
-    lines += Text(x_values[i], arguments) + ',' + Text(densities[i], arguments) + '\n';
+  for (std::size_t i = 0; i < x_values.size(); ++i) {
+    const Extended x = numbers.back() = x_values[i];
+    const Extended density = InRange(densities[i], distribution, numbers);
+    lines += Text(x, arguments) + ',' + Text(density, arguments) + '\n';
+  }
   return lines;
 }
 

@@ -4,6 +4,7 @@
 /// The distributions that `dist` knows, their parameters and routines.
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -40,6 +41,12 @@ struct ClassicRoutines {
                 TQorFloatVector& y_values) = nullptr;
 };
 
+/// The ends of a continuous distribution.
+struct Support {
+  Extended least = -std::numeric_limits<Extended>::infinity();
+  Extended greatest = std::numeric_limits<Extended>::infinity();
+};
+
 struct Distribution {
   const char* name;
   const char* summary;
@@ -48,6 +55,8 @@ struct Distribution {
   bool is_discrete;
   FullPrecisionRoutines full_precision;
   ClassicRoutines classic;
+  /// Null where a continuous distribution has no ends.
+  Support (*support)(DistributionArguments parameters) = nullptr;
   /// What is wrong with parameters that are fine one by one, or null; null itself where nothing can
   /// be.
   const char* (*inconsistency)(DistributionArguments parameters) = nullptr;

@@ -105,6 +105,29 @@ TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
                 "sample of at least one, and neither sample nor successes above the population");
 }
 
+TEST(Dist, PrintsInfinitiesOnlyAtTheEndsOfTheSupport) {
+  for (const char* question :
+       {"normal less --x -1e3000 --log", "log-normal greater --std-dev 1e-3000 --x 2 --log",
+        "exponential greater --mean 1e-3000 --x 1e2000 --log",
+        "gamma pdf --shape 0.5 --scale 1e-4931 --x 1e-4940",
+        "gamma table --shape 0.5 --scale 1e-4931 --from 0 --to 1e-4940 --n 1"}) {
+    const std::string name(question, std::string(question).find(" --"));
+    ExpectRefusal(
+        std::string("qorvex dist ") + question,
+        name + ": the figure, or one on the way to it, is beyond the range of extended precision");
+  }
+  for (const auto& [question, answer] : {
+           std::pair("exponential less --mean 2 --x 0 --log", "-inf\n"),
+           std::pair("beta greater --a 2 --b 2 --upper-end 3 --x 4 --log", "-inf\n"),
+           std::pair("poisson less --lambda 2 --k 0 --log", "-inf\n"),
+           std::pair("beta pdf --a 0.5 --b 2 --lower-end 1 --upper-end 3 --x 1", "inf\n"),
+           std::pair("chi-square table --df 1 --from 0 --to 2 --n 1 --decimals 2",
+                     "0.00,inf\n2.00,0.10\n"),
+       }) {
+    ExpectOutput(std::string("qorvex dist ") + question, answer);
+  }
+}
+
 TEST(Dist, NamesTheOptionThatIsWrong) {
   for (const auto& [question, message] : {
            std::pair("normal pdf --x 1,5", "--x: \"1,5\" is not a number"),
