@@ -13,7 +13,7 @@ namespace qorvex::cli {
 enum class NumberKind {
   kReal,
   kReals,  ///< with commas between them
-  kPositive,
+  kPositive,  ///< and not subnormal
   kShape,             ///< a shape, in the range of the full-precision routines
   kDegreesOfFreedom,  ///< the same, and whole for the classic routines
   kShare,             ///< from 0 to 1

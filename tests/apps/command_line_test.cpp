@@ -255,6 +255,25 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
   }
 }
 
+TEST(Program, NamesWhatNothingTakesInTheOrderInWhichItStands) {
+  for (const auto& [command, message] : {
+           std::pair("desc ok.csv",
+                     "there is no command \"desc\"; there are describe, fit, matrix, dist, random"),
+           std::pair("dist normal inv --p 0.5 1", "dist normal inv: unexpected \"1\""),
+           std::pair("fit --x 2 t.csv", "fit: unexpected \"--x\", \"2\", \"t.csv\""),
+           std::pair(
+               "dist beta most --a 1",
+               "dist beta: there is no command \"most\"; there are less, greater, between, inv, "
+               "pdf, table"),
+           std::pair("describe a.csv b.csv --nosuch",
+                     "describe: unexpected \"b.csv\", \"--nosuch\""),
+       }) {
+    ExpectRefusal(std::string("qorvex ") + command,
+                  message + std::string("\nqorvex: --help tells what the program and its commands "
+                                        "take"));
+  }
+}
+
 TEST(Program, TellsItsVersionAndHelpAndWhetherTheyCouldBeWritten) {
   ExpectOutput("qorvex --version", "qorvex " QORVEX_VERSION "\n");
   ExpectOutput("qorvex describe --help >/dev/null", "");

@@ -135,6 +135,10 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
            std::pair("normal pdf --x 1e5000", "--x: \"1e5000\" is too large a number"),
            std::pair("normal pdf", "--x is required"),
            std::pair("normal pdf --std-dev 0 --x 1", "--std-dev: \"0\" is not greater than 0"),
+           std::pair(
+               "poisson less --lambda 1e-4940 --k 1",
+               "--lambda: \"1e-4940\" is below 3.362103143112093506e-4932, the smallest number "
+               "with all digits"),
            std::pair("normal inv --p 1", "--p: \"1\" is not between 0 and 1"),
            std::pair("normal table --from 0 --to 1 --n -1",
                      "--n: \"-1\" is not a whole number from 0 to 9999999"),
