@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -24,6 +25,22 @@ constexpr const char* kVariatesHelp = R"(Variates:
   One a line, printed as they are drawn. A seed gives the same ones on every
   processor of one family; on others the last digit of what is not a count can
   differ, and rarely more. Without a seed every run gives others.)";
+
+// The section of --help that says what a variate takes of the parameters' numbers; empty if all.
+std::string LimitsHelp(const Variate& variate) {
+  const bool classic_is_narrower = variate.classic && *variate.classic->limits != '\0';
+  std::istringstream words(classic_is_narrower ? variate.classic->limits
+                                               : variate.methods.front().limits);
+  constexpr std::size_t width = 78;
+  std::string text;
+  std::size_t length = width;
+  for (std::string word; words >> word; length += 1 + word.size()) {
+    const bool fits = length + 1 + word.size() <= width;
+    text += (fits ? " " : "\n  ") + word;
+    if (!fits) length = 1;
+  }
+  return text.empty() ? "" : "\n\nLimits:" + text + '.';
+}
 
 struct RandomArguments {
   VariateArguments parameters;
@@ -139,7 +156,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
             [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  command.footer(std::string(kVariatesHelp) + kExitStatusHelp);
+  command.footer(kVariatesHelp + LimitsHelp(variate) + kExitStatusHelp);
   command.callback([&variate, arguments] { Run(variate, *arguments); });
 }
 

@@ -126,8 +126,9 @@ std::vector<Variate> AllVariates() {
        "Generalised inverse Gaussian variates; density as x^(b-1) exp(-h/2 (x + 1/x))",
        {{"--h", "The concentration h", positive}, {"--b", "The order b, at least 0", real}},
        {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Inv_Gauss(a[0], a[1], s); },
-         "--b is at least 0, both are at most 1e14, and --h is neither tiny nor small beside "
-         "--b"}}},
+         "--b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below 1, and --h "
+         "is "
+         "neither tiny nor small beside --b"}}},
       {"von-mises",
        "Angles of the von Mises distribution, from -pi to pi",
        {{"--concentration", "The concentration", real}},
@@ -158,8 +159,8 @@ std::vector<Variate> AllVariates() {
        {{kSuccessProbability.option, kSuccessProbability.description, NumberKind::kProbability},
         {"--failures", "The number of failures, which need not be whole", positive}},
        {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Neg_Binomial(a[1], a[0], s); },
-         "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 1e8 beyond, where p is not "
-         "within 1e-8 of 1"}}},
+         "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 2e7 beyond, where p is not "
+         "within 5e-8 of 1"}}},
       {"poisson",
        "Poisson variates",
        {kLambda},

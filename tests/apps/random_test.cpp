@@ -68,6 +68,16 @@ TEST(RandomCommand, TakesASeedFromTheSystemWhenNoneIsGiven) {
   EXPECT_NE(Shell("qorvex random uniform"), Shell("qorvex random uniform"));
 }
 
+TEST(RandomCommand, TellsItsLimits) {
+  ExpectOutput("qorvex random von-mises --help | sed -n '/^Limits/,/^$/p'",
+               "Limits:\n  --concentration is at least 0 and, with --classic, below 10.\n\n");
+  ExpectOutput(
+      "qorvex random inverse-gaussian --help | sed -n '/^Limits/,/^$/p'",
+      "Limits:\n  --b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below 1,\n"
+      "  and --h is neither tiny nor small beside --b.\n\n");
+  ExpectOutput("qorvex random normal --help | grep -c Limits", "0\nexit status 1\n");
+}
+
 TEST(RandomCommand, PrintsAsItDraws) {
   ExpectOutput("qorvex random uniform --count 1e19 | head -n 4000 | wc -l", "4000\n");
   ExpectOutput("qorvex random uniform --count 1e19 >/dev/full",
