@@ -28,6 +28,13 @@ function(qorvex_compile_settings target)
     $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 endfunction()
 
+# Headers of Qt that most sources of widgets include, parsed once a target.
+function(qorvex_precompile_qt target)
+  target_precompile_headers(${target} PRIVATE
+    <QApplication> <QKeyEvent> <QLineEdit> <QMenu> <QPainter> <QStyle>
+    <algorithm> <functional> <memory> <vector>)
+endfunction()
+
 # qorvex_library(<component> HEADERS <files> SOURCES <files> LINK_PUBLIC <targets> LINK_PRIVATE <targets>)
 # defines libqorvex_<component>_rt and its alias Qorvex::<component>, ready to install. A component that ends in
 # _rt keeps its name, so stats_rt becomes libqorvex_stats_rt.

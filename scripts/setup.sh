@@ -93,10 +93,12 @@ install_missing() {
   step packages.log "Installing ${missing[*]}" apt_install "${missing[@]}"
 }
 
-# ccache is used where it is there. It fails, and every compilation with it, where it cannot write its files.
+# The launcher of the compiler: ccache where it is there. It fails, and every compilation with it, where it cannot write
+# its files; and it keeps what was compiled with precompiled headers only when told so.
 usable_ccache() {
   local directory
-  directory=$(ccache --get-config cache_dir 2>/dev/null) && mkdir -p "$directory" && [[ -w $directory ]] && echo ccache
+  directory=$(ccache --get-config cache_dir 2>/dev/null) && mkdir -p "$directory" && [[ -w $directory ]] &&
+    echo 'cmake;-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache'
 }
 
 # A build directory that was copied from elsewhere, or half made, is configured afresh.
