@@ -73,8 +73,8 @@ TEST(RandomCommand, TellsItsLimits) {
                "Limits:\n  --concentration is at least 0 and, with --classic, below 10.\n\n");
   ExpectOutput(
       "qorvex random inverse-gaussian --help | sed -n '/^Limits/,/^$/p'",
-      "Limits:\n  --b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below 1,\n"
-      "  and --h is neither tiny nor small beside --b.\n\n");
+      "Limits:\n  --b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below\n"
+      "  1, and --h is neither tiny nor small beside --b.\n\n");
   ExpectOutput("qorvex random normal --help | grep -c Limits", "0\nexit status 1\n");
 }
 
