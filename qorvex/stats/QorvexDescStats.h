@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <cstdint>
 
+#include "qorvex/base/errors.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/base_controls/unit.h"
