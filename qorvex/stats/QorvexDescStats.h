@@ -126,6 +126,7 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   /// @{
   /// A result, as the last update found it; see BeginUpdate. Mode is the unique mode when
   /// ModeExists; Kurtosis is the excess kurtosis. The inter-quartile range is not published.
+  [[nodiscard]] const DescriptiveResults& Results() const noexcept { return stats_.Results(); }
   [[nodiscard]] Extended Maximum() const noexcept { return stats_.Results().maximum; }
   [[nodiscard]] Extended Mean() const noexcept { return stats_.Results().mean; }
   [[nodiscard]] Extended Median() const noexcept { return stats_.Results().median; }
