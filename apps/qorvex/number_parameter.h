@@ -12,8 +12,8 @@ namespace qorvex::cli {
 /// The numbers that an option takes, all finite.
 enum class NumberKind {
   kReal,
-  kReals,  ///< with commas between them
-  kPositive,  ///< and not subnormal
+  kReals,             ///< with commas between them
+  kPositive,          ///< and not subnormal
   kShape,             ///< a shape, in the range of the full-precision routines
   kDegreesOfFreedom,  ///< the same, and whole for the classic routines
   kShare,             ///< from 0 to 1

@@ -66,12 +66,12 @@ TEST(UnlimitedVariates, HaveTheDistributionsThatTheyName) {
       {"poisson", {0.3L, 9.99L}, Poisson},
       {"von-mises", {10, 12.5L, 1e4L, 1e12L}, VonMises},
   };
-  for (const auto& [name, parameters, reference] : cases) {
-    for (const Extended parameter : parameters) {
-      SCOPED_TRACE(::testing::Message() << name << ' ' << parameter);
-      testing::ExpectAgreement(
-          [&](auto source) { return Drawn(VariateOf(name).methods.front(), parameter, source); },
-          reference(parameter));
+  for (const auto& c : cases) {
+    const VariateMethod& method = VariateOf(c.variate).methods.front();
+    for (const Extended parameter : c.parameters) {
+      SCOPED_TRACE(::testing::Message() << c.variate << ' ' << parameter);
+      testing::ExpectAgreement([&](auto source) { return Drawn(method, parameter, source); },
+                               c.reference(parameter));
     }
   }
 }
