@@ -41,8 +41,8 @@ class RowReader {
                      std::size_t block_size = kBlockSize);
 
   /// Reads the next row; false at the end of the text. Raises InputError (kMalformed) for a quote
-  /// that is not closed, for text after a closing quote, for lines that end with CR alone, for a row
-  /// beyond kLongestRow and for UTF-16; and what the input raises.
+  /// that is not closed, for text after a closing quote, for lines that end with CR alone, for a
+  /// row beyond kLongestRow and for UTF-16; and what the input raises.
   bool Next();
 
   /// The cells of the row, at least one. Valid until the next call of Next.

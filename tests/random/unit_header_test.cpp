@@ -1,8 +1,8 @@
 // What a program gets that includes the header of the unit only.
 
-#include "qorvex/random/QorvexRandom.h"
-
 #include <gtest/gtest.h>
+
+#include "qorvex/random/QorvexRandom.h"
 
 TEST(UnitHeader, BringsTheSeedAndTheErrors) {
   qorvex::SetRandSeed(3);
