@@ -36,8 +36,7 @@ QString TQorFractEdit::TextOf(Extended value) const {
 }
 
 FloatDigits TQorFractEdit::Digits() const {
-  // No fraction ends in zeroes.
-  return {.decimals = decimals_, .all = decimals_ >= kAllDecimals, .trim = true};
+  return {.decimals = decimals_, .all = decimals_ >= kAllDecimals};
 }
 
 std::optional<Extended> TQorFractEdit::ValueOf(const QString& text) const {

@@ -80,8 +80,8 @@ void TextCell::Leave() {
 bool TextCell::IsEdited() const {
   // A text that is not the cell's own has been typed, or set by the program.
   if (text() != shown_) return true;
-  if (!hasFocus()) return false;
-  return !isReadOnly() || (hasSelectedText() && selectedText() != text());
+  const bool partly_selected = hasSelectedText() && selectedText() != text();
+  return partly_selected || (hasFocus() && !isReadOnly());
 }
 
 QString TextCell::PaintedText() const {

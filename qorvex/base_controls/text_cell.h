@@ -42,7 +42,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   void Leave();
 
   /// What is painted: the text where it has room or is being edited, its shorter form elsewhere. A
-  /// read-only text counts as being edited while a part of it is selected.
+  /// text is being edited while it has the focus, unless it is read-only, and while a part of it is
+  /// selected.
   [[nodiscard]] QString PaintedText() const;
 
   /// The menu that a click on the cell opens; the caller owns it.
