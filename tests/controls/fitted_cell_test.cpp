@@ -115,6 +115,12 @@ TEST(FittedCells, PaintEveryFractionWholeOrAsDecimals) {
   ExpectNoNumberIsCutOff<TQorFractEdit>();
 }
 
+QString TipOf(TextCell& cell) {
+  QHelpEvent event(QEvent::ToolTip, {3, 3}, cell.mapToGlobal(QPoint(3, 3)));
+  QApplication::sendEvent(&cell, &event);
+  return event.isAccepted() ? QToolTip::text() : QString();
+}
+
 struct PaintCounter : QObject {
   int count = 0;
   bool eventFilter(QObject*, QEvent* event) override {
@@ -150,9 +156,8 @@ TEST_F(FittedVector, HasTheWholeTextForEditingTipsAndScreenReaders) {
   TQorCustomEdit* const cell = Cell(0);
   const QString painted = cell->PaintedText();
   EXPECT_NE(painted, whole);
-  QHelpEvent event(QEvent::ToolTip, {3, 3}, cell->mapToGlobal(QPoint(3, 3)));
-  QApplication::sendEvent(cell, &event);
-  EXPECT_EQ(QToolTip::text(), whole);
+  EXPECT_EQ(TipOf(*cell), whole);
+  EXPECT_EQ(TipOf(*Cell(1)), "") << "nothing is missing";
   EXPECT_EQ(QAccessible::queryAccessibleInterface(cell)->text(QAccessible::Value), whole);
   editor->setEditFocus(0);
   EXPECT_EQ(cell->PaintedText(), whole) << "it is edited";
@@ -226,9 +231,7 @@ TEST_F(FittedVector, ElidesLabelsAtTheirEnd) {
   ASSERT_TRUE(label);
   EXPECT_TRUE(label->PaintedText().startsWith("Mou"));
   EXPECT_TRUE(label->PaintedText().endsWith(QChar(0x2026)));
-  QHelpEvent event(QEvent::ToolTip, {3, 3}, label->mapToGlobal(QPoint(3, 3)));
-  QApplication::sendEvent(label, &event);
-  EXPECT_EQ(QToolTip::text(), "Mount Kilimanjaro");
+  EXPECT_EQ(TipOf(*label), "Mount Kilimanjaro");
 }
 
 }  // namespace
