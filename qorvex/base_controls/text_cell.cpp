@@ -18,6 +18,8 @@
 #include <memory>
 #include <utility>
 
+#include "qorvex/base_controls/detail/tool_tip.h"
+
 namespace qorvex::inline QorvexBaseControls {
 
 namespace {
@@ -154,7 +156,7 @@ bool TextCell::event(QEvent* event) {
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
     const QString tip = Tip();
     if (!tip.isEmpty()) {
-      QToolTip::showText(static_cast<const QHelpEvent&>(*event).globalPos(), tip.toHtmlEscaped(),
+      QToolTip::showText(static_cast<const QHelpEvent&>(*event).globalPos(), detail::AsToolTip(tip),
                          this);
       return true;
     }

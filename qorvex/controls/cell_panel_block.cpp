@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "qorvex/base_controls/detail/same_element.h"
+#include "qorvex/base_controls/detail/tool_tip.h"
 #include "qorvex/controls/cell_panel.h"
 #include "qorvex/controls/detail/block_text.h"
 #include "qorvex/controls/detail/edit_window.h"
@@ -49,7 +50,7 @@ void CellPanel::CopyAll() {
 void CellPanel::RefuseBlock(const QString& message) {
   if (entered_ != nullptr && isVisible()) {
     QToolTip::showText(entered_->mapToGlobal(entered_->rect().bottomLeft()),
-                       message.toHtmlEscaped(), entered_);
+                       QorvexBaseControls::detail::AsToolTip(message), entered_);
   }
   Q_EMIT OnBlockRefused(message);
 }
