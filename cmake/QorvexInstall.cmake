@@ -40,6 +40,13 @@ function(qorvex_install component)
   set(PC_DESCRIPTION "${ARG_DESCRIPTION}")
   list(JOIN ARG_REQUIRES ", " PC_REQUIRES)
   set(PC_LIBRARY ${target})
+  set(PC_LINK_OPTIONS)
+  get_target_property(link_options ${target} INTERFACE_LINK_OPTIONS)
+  if(link_options)
+    list(TRANSFORM link_options REPLACE "^LINKER:" "${CMAKE_CXX_LINKER_WRAPPER_FLAG}")
+    list(JOIN link_options " " PC_LINK_OPTIONS)
+    string(APPEND PC_LINK_OPTIONS " ")
+  endif()
   configure_file("${PROJECT_SOURCE_DIR}/cmake/qorvex.pc.in"
     "${PROJECT_BINARY_DIR}/package/${PC_MODULE}.pc" @ONLY)
   install(FILES "${PROJECT_BINARY_DIR}/package/${PC_MODULE}.pc"

@@ -11,6 +11,10 @@ function(qorvex_compile_settings target)
     POSITION_INDEPENDENT_CODE ON
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON)
+  # A project that names no build type would get a library several times slower.
+  if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES AND NOT CMAKE_CXX_FLAGS MATCHES "(^| )-O")
+    target_compile_options(${target} PRIVATE -O2)
+  endif()
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow
     $<$<BOOL:${QORVEX_WERROR}>:-Werror>
@@ -22,6 +26,13 @@ function(qorvex_compile_settings target)
     -fno-math-errno
     # Unique symbols would keep a loaded module from being unloaded.
     $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
+endfunction()
+
+# Headers of Qt that most sources of widgets include, parsed once a target.
+function(qorvex_precompile_qt target)
+  target_precompile_headers(${target} PRIVATE
+    <QApplication> <QKeyEvent> <QLineEdit> <QMenu> <QPainter> <QStyle>
+    <algorithm> <functional> <memory> <vector>)
 endfunction()
 
 # qorvex_library(<component> HEADERS <files> SOURCES <files> LINK_PUBLIC <targets> LINK_PRIVATE <targets>)

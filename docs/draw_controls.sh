@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-scripts/setup.sh draw_controls
+scripts/setup.sh tests draw_controls
 images=docs/images/controls
 mkdir -p "$images"
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8

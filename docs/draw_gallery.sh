@@ -4,7 +4,7 @@
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
-scripts/setup.sh qorvex-gallery
+scripts/setup.sh programs qorvex-gallery
 gallery=build/release/apps/qorvex-gallery/qorvex-gallery
 images=docs/images/gallery
 dark=$(mktemp -d)

@@ -68,7 +68,7 @@ auto Try(auto read) -> std::optional<decltype(read())> {
 }
 
 void CheckTable(std::string_view text, const TableSelection& selection) {
-  const auto table = Try([&] { return ReadTable(SourceOf(text), selection); });
+  const auto table = Try([&] { return ReadTable(SourceOf(text), selection).columns; });
   if (!table) return;
   for (const TableColumn& column : *table) {
     Require(!column.values.empty(), "a column without values");
@@ -83,21 +83,15 @@ void CheckTable(std::string_view text, const TableSelection& selection) {
 
 void CheckMatrix(std::string_view text, std::optional<char> delimiter, bool has_header) {
   const auto matrix = Try([&] { return ReadMatrix(SourceOf(text), {delimiter, has_header}); });
-  const auto table = Try([&] { return ReadTable(SourceOf(text), {.delimiter = delimiter}); });
-  const bool table_has_header =
-      table && std::ranges::any_of(*table, [](const TableColumn& c) { return !c.name.empty(); });
-  if (table_has_header == has_header) {
-    Require(matrix.has_value() == table.has_value(), "only a table or only a matrix");
-  }
-  if (!matrix || !table) return;
-  // A header of numbers is a row of the table.
-  const std::size_t more_rows = has_header && !table_has_header ? 1 : 0;
+  const TableSelection selection{.delimiter = delimiter, .header = has_header};
+  const auto table = Try([&] { return ReadTable(SourceOf(text), selection).columns; });
+  Require(matrix.has_value() == table.has_value(), "only a table or only a matrix");
+  if (!matrix) return;
   for (const TableColumn& column : *table) {
-    Require(column.values.size() == matrix->size() + more_rows, "another number of rows");
+    Require(column.values.size() == matrix->size(), "another number of rows");
     for (std::size_t row = 0; row < matrix->size(); ++row) {
       Require((*matrix)[row].size() == table->size(), "another number of columns");
-      Require((*matrix)[row][column.number - 1] == column.values[row + more_rows],
-              "another number");
+      Require((*matrix)[row][column.number - 1] == column.values[row], "another number");
     }
   }
 }
@@ -119,6 +113,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   selection.delimiter = delimiter;
   selection.skip_empty = (options & 4) != 0;
   selection.whole_rows = (options & 32) != 0;
+  if ((options & 64) != 0) selection.header = (options & 128) != 0;
   if ((options & 8) != 0) selection.columns = {"a", "1"};
   CheckTable(text, selection);
   CheckMatrix(text, delimiter, (options & 16) != 0);

@@ -1,24 +1,54 @@
 #!/usr/bin/env bash
-# scripts/setup.sh [target...]: installs the Debian packages that are missing, configures the release preset
-# and builds the targets (default: all). Logs go to build/, a failing step shows the end of its own.
-# It may be interrupted and run again at any time; with nothing to install it needs no network.
+# scripts/setup.sh programs|tests|benchmarks [target...]: installs the Debian packages that are missing, configures
+# build/release and builds the targets.
+#
+#   programs    what ./run takes: the command line and the desktop program, nothing else is installed or configured
+#   tests       all but the benchmarks whose peers are missing (default: every target)
+#   benchmarks  with the peers that the benchmarks compare with
+#
+# Logs go to build/, a failing step shows the end of its own. It may be interrupted and run again at any time; with
+# nothing to install it needs no network. A directory that is configured for tests stays so.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
+purpose=${1:-}
 packages=(
-  g++ cmake ninja-build ccache pkg-config
+  g++ cmake ninja-build
   libboost-dev       # the special functions, headers only
   qt6-base-dev       # the components
-  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # their translations and the Designer plugin
-  libqt6opengl6-dev  # what qt6-tools-dev expects of programs that load forms
-  fonts-dejavu-core  # what the tests of widgets draw with
   libcli11-dev       # the command line
-  libgtest-dev       # the tests
-  libfmt-dev         # the test of the formatter of amounts
-  libbenchmark-dev   # the benchmarks, and the libraries that they compare with
-  libgsl-dev libeigen3-dev liblapack-dev r-mathlib
+  fonts-dejavu-core  # what pictures and the tests of widgets draw with
+)
+parts=(-D QORVEX_BENCHMARKS=ON -D QORVEX_DESIGNER=ON -D QORVEX_EXAMPLES=ON -D QORVEX_TESTS=ON
+  -D QORVEX_TRANSLATIONS=ON)
+test_packages=(
+  qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # translations, and the plugin of Qt Designer
+  libqt6opengl6-dev  # what qt6-tools-dev expects of programs that load forms
+  libgtest-dev
+  libfmt-dev         # the formatter of amounts
+  pkg-config         # programs that find the library with it
   doxygen            # the check of the documentation
 )
+case $purpose in
+  programs)
+    parts=("${parts[@]/%=ON/=OFF}")
+    targets=(qorvex qorvex-gallery)
+    ;;
+  tests)
+    packages+=("${test_packages[@]}")
+    targets=(all)
+    ;;
+  benchmarks)
+    packages+=("${test_packages[@]}" libbenchmark-dev libeigen3-dev libgsl-dev liblapack-dev r-mathlib)
+    targets=(all)
+    ;;
+  *)
+    sed -n '2,/^set/{/^#/s/^# \{0,1\}//p}' "${BASH_SOURCE[0]}" >&2
+    exit 2
+    ;;
+esac
+shift
+[[ $# == 0 ]] || targets=("$@")
 
 # step <log> <what it does> <command...>: runs a command with its output in build/<log>.
 step() {
@@ -63,19 +93,22 @@ install_missing() {
   step packages.log "Installing ${missing[*]}" apt_install "${missing[@]}"
 }
 
-# ccache fails, and every compilation with it, where it cannot write its files.
+# The launcher of the compiler: ccache where it is there. It fails, and every compilation with it, where it cannot write
+# its files; and it keeps what was compiled with precompiled headers only when told so.
 usable_ccache() {
   local directory
-  directory=$(ccache --get-config cache_dir) && mkdir -p "$directory" && [[ -w $directory ]] && echo ccache
+  directory=$(ccache --get-config cache_dir 2>/dev/null) && mkdir -p "$directory" && [[ -w $directory ]] &&
+    echo 'cmake;-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache'
 }
 
 # A build directory that was copied from elsewhere, or half made, is configured afresh.
 configure() {
-  local options=(--preset release -D CMAKE_CXX_COMPILER_LAUNCHER="$(usable_ccache)")
-  cmake "${options[@]}" || cmake --fresh "${options[@]}"
+  local options=(--preset release -D CMAKE_CXX_COMPILER_LAUNCHER="$(usable_ccache)") changed=("${parts[@]}")
+  [[ $purpose == programs && -f build/release/CMakeCache.txt ]] && changed=()
+  cmake "${options[@]}" "${changed[@]}" || cmake --fresh "${options[@]}" "${parts[@]}"
 }
 
 mkdir -p build
 install_missing
 step configure.log "Configuring build/release" configure
-step build.log "Building" cmake --build --preset release --parallel "$(nproc)" --target "${@:-all}"
+step build.log "Building" cmake --build --preset release --parallel "$(nproc)" --target "${targets[@]}"

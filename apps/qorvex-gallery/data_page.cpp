@@ -9,16 +9,18 @@
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <memory>
 #include <utility>
 
 #include "apps/qorvex-gallery/figure_table.h"
@@ -26,12 +28,15 @@
 #include "apps/qorvex-gallery/message_bar.h"
 #include "apps/qorvex-gallery/plot/histogram.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/table_input.h"
 #include "apps/qorvex-gallery/tall_editor.h"
+#include "apps/qorvex/hidden_figures.h"
 #include "apps/qorvex/input_error.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/stats/full_precision.h"
+#include "qorvex/vector/building.h"
 
 namespace qorvex::gallery {
 
@@ -122,9 +127,7 @@ DataPage::DataPage(QWidget* parent)
 
   editor_->setObjectName("values");
   editor_->setLabelType(TQorLabelledVectorEdit::ltSupplied);
-  editor_->OnGetLabel = [this](quint32 row) {
-    return row_names_.isEmpty() ? locale().toString(row + 1) : row_names_.value(row);
-  };
+  editor_->OnGetLabel = [this](quint32 row) { return table_.RowName(row); };
   editor_->setCellWidth(14 * fontMetrics().averageCharWidth());
   editor_->setBlankWhenNull(true);
   connect(editor_, &TQorVectorEdit::OnChange, this, &DataPage::RefreshSoon);
@@ -153,9 +156,9 @@ DataPage::DataPage(QWidget* parent)
   auto* const layout = new QVBoxLayout(this);
   layout->addLayout(MakeHeader());
   layout->addSpacing(fontMetrics().height() / 2);
-  layout->addWidget(message_);
-  layout->addWidget(progress_);
   layout->addLayout(body, 1);
+  layout->addWidget(progress_);
+  layout->addWidget(message_);
   OpenExample();
 }
 
@@ -167,6 +170,9 @@ QLayout* DataPage::MakeHeader() {
   auto* const open = new QPushButton(tr("&Open…"));
   open->setToolTip(tr("Open a CSV file; you can also drop one onto the page"));
   connect(open, &QPushButton::clicked, this, &DataPage::ChooseFile);
+  auto* const save = new QPushButton(tr("&Save As…"));
+  save->setToolTip(tr("Write the table with your changes to a CSV file"));
+  connect(save, &QPushButton::clicked, this, &DataPage::SaveAs);
   auto* const example = new QPushButton(tr("&Example"));
   example->setToolTip(tr("Michelson's determinations of the velocity of light, 1879"));
   connect(example, &QPushButton::clicked, this, &DataPage::OpenExample);
@@ -184,6 +190,7 @@ QLayout* DataPage::MakeHeader() {
 
   auto* const header = new QHBoxLayout;
   header->addWidget(open);
+  header->addWidget(save);
   header->addWidget(example);
   header->addSpacing(fontMetrics().height());
   header->addWidget(file_, 1);
@@ -211,7 +218,7 @@ QWidget* DataPage::MakeProgress() {
 QLayout* DataPage::MakeReport() {
   report_->setObjectName("report");
   decimals_->setObjectName("decimals");
-  decimals_->setRange(0, 20);
+  decimals_->setRange(0, 40);
   decimals_->setValue(stats_.DecimalPlaces());
   connect(decimals_, &QSpinBox::valueChanged, this, &DataPage::RefreshSoon);
   population_->setObjectName("population");
@@ -234,7 +241,7 @@ QLayout* DataPage::MakeReport() {
 }
 
 void DataPage::Open(const QString& file) {
-  OpenSource(file, QFileInfo(file).fileName(), {});
+  OpenSource({file, QFileInfo(file).fileName(), {}});
 }
 
 void DataPage::ChooseFile() {
@@ -244,8 +251,8 @@ void DataPage::ChooseFile() {
 }
 
 void DataPage::OpenExample() {
-  OpenSource(":/qorvex/gallery/michelson_1879.csv",
-             tr("Example: the velocity of light, Michelson 1879"), "speed_km_s");
+  OpenSource({":/qorvex/gallery/michelson_1879.csv",
+              tr("Example: the velocity of light, Michelson 1879"), "speed_km_s"});
 }
 
 void DataPage::dragEnterEvent(QDragEnterEvent* event) {
@@ -257,51 +264,24 @@ void DataPage::dropEvent(QDropEvent* event) {
   Open(FileOf(*event->mimeData()));
 }
 
-// The column of that name, or the first one of numbers.
-void DataPage::OpenSource(const QString& file, const QString& title, const QString& column) {
+void DataPage::OpenSource(const Source& source) {
+  if (!MayGo()) return;
   StopReading();
-  Source source{file, title, {}, 0};
+  const qint64 size = QFileInfo(source.file).size();
+  if (size > kReadAtOnce) return ReadOnThread(source, size);
   try {
-    source.head = ReadHead(OpenFile(file));
+    EndReading(source, DataTable(OpenFile(source.file)));
   } catch (const cli::InputError& error) {
-    chosen_ = shown_;
-    ShowSource();
-    message_->SetText(QString::fromUtf8(error.what()));
-    Q_EMIT ReadingEnded();
-    return;
-  }
-  const auto& columns = source.head.columns;
-  const auto named = std::ranges::find(columns, column, &TableHead::Column::title);
-  source.column = named == columns.end() ? source.head.FirstOfNumbers()
-                                         : static_cast<std::size_t>(named - columns.begin());
-  chosen_ = std::move(source);
-  Read();
-}
-
-void DataPage::ChooseColumn(int index) {
-  chosen_.column = static_cast<std::size_t>(index);
-  Read();
-}
-
-void DataPage::Read() {
-  StopReading();
-  message_->SetText({});
-  ShowSource();
-  const qint64 size = QFileInfo(chosen_.file).size();
-  if (size > kReadAtOnce) return ReadOnThread(size);
-  try {
-    EndReading(ReadColumn(OpenFile(chosen_.file), chosen_.column));
-  } catch (const cli::InputError& error) {
-    EndReading(QString::fromUtf8(error.what()));
+    RefuseReading(QString::fromUtf8(error.what()));
   }
 }
 
-void DataPage::ReadOnThread(qint64 size) {
+void DataPage::ReadOnThread(const Source& source, qint64 size) {
   progress_bar_->setRange(0, 100);
   progress_bar_->setValue(0);
   progress_bar_->setFormat(
-      tr("Reading %1 (%2): %p %").arg(chosen_.title, locale().formattedDataSize(size)));
-  progress_->show();
+      tr("Reading %1 (%2): %p %").arg(source.title, locale().formattedDataSize(size)));
+  SetBusy(true);
 
   // What a reading tells is heard only while it is the current one.
   const auto tell = [this, number = reading_number_](auto what) {
@@ -312,83 +292,170 @@ void DataPage::ReadOnThread(qint64 size) {
         },
         Qt::QueuedConnection);
   };
-  reader_ = std::jthread(
-      [this, tell, size, file = chosen_.file, column = chosen_.column](std::stop_token stop) {
-        const auto progress = [this, tell, size, last = 0](qint64 bytes) mutable {
-          const int percent = static_cast<int>(100 * bytes / size);
-          if (percent == std::exchange(last, percent)) return;
-          tell([this, percent] { progress_bar_->setValue(percent); });
-        };
-        Reading reading;
-        try {
-          reading = ReadColumn(Observed(OpenFile(file), std::move(stop), progress), column);
-        } catch (const ReadingStopped&) {
-          return;
-        } catch (const std::exception& error) {
-          reading = QString::fromUtf8(error.what());
-        }
-        tell([this, reading = std::move(reading)] { EndReading(reading); });
-      });
+  reader_ = std::jthread([this, tell, size, source](std::stop_token stop) {
+    const auto progress = [this, tell, size, last = 0](qint64 bytes) mutable {
+      const int percent = static_cast<int>(100 * bytes / size);
+      if (percent == std::exchange(last, percent)) return;
+      tell([this, percent] { progress_bar_->setValue(percent); });
+    };
+    try {
+      const auto table =
+          std::make_shared<DataTable>(Observed(OpenFile(source.file), std::move(stop), progress));
+      tell([this, source, table] { EndReading(source, std::move(*table)); });
+    } catch (const ReadingStopped&) {
+    } catch (const std::exception& error) {
+      tell([this, why = QString::fromUtf8(error.what())] { RefuseReading(why); });
+    }
+  });
 }
 
 void DataPage::StopReading() {
   ++reading_number_;
   reader_ = {};
-  progress_->hide();
+  SetBusy(false);
 }
 
 void DataPage::CancelReading() {
   StopReading();
-  chosen_ = shown_;
-  ShowSource();
   Q_EMIT ReadingEnded();
 }
 
-void DataPage::EndReading(const Reading& reading) {
-  progress_->hide();
-  shown_ = chosen_;
-  // A column that cannot be read shows none, since its name stands over it.
-  TQorFloatVector values;
-  row_names_.clear();
-  if (const auto* const column = std::get_if<TableColumn>(&reading)) {
-    values = column->values;
-    row_names_ = column->row_names;
-  } else {
-    message_->SetText(std::get<QString>(reading));
+void DataPage::RefuseReading(const QString& why) {
+  SetBusy(false);
+  message_->SetText(why);
+  Q_EMIT ReadingEnded();
+}
+
+void DataPage::EndReading(const Source& source, DataTable table) {
+  SetBusy(false);
+  table_ = std::move(table);
+  column_ = table_.Find(source.column);
+  {
+    const QSignalBlocker blocker(columns_);
+    columns_->clear();
+    for (std::size_t i = 0; i < table_.Columns(); ++i) columns_->addItem(table_.Title(i));
+    columns_->setCurrentIndex(static_cast<int>(column_));
+  }
+  SetTitle(source.title);
+  ShowColumn();
+  if (message_->Text().isEmpty() && table_.HasDoubtfulHeader())
+    message_->SetText(tr("The first row was taken for names, although it holds a number"));
+  Q_EMIT ReadingEnded();
+}
+
+// What was typed into the table that is being replaced would be lost.
+void DataPage::SetBusy(bool busy) {
+  progress_->setVisible(busy);
+  tall_editor_->setEnabled(!busy);
+}
+
+void DataPage::SetTitle(const QString& title) {
+  title_ = title;
+  file_->setText(title);
+  file_->setToolTip(QStringLiteral("<p>%1</p>").arg(title.toHtmlEscaped()));
+  Q_EMIT TitleChanged();
+}
+
+void DataPage::ChooseColumn(int index) {
+  CommitTexts();
+  column_ = static_cast<std::size_t>(index);
+  ShowColumn();
+}
+
+// A column that cannot be read shows no values, since its name stands over it.
+void DataPage::ShowColumn() {
+  message_->SetText({});
+  try {
+    stored_ = table_.Numbers(column_);
+  } catch (const cli::InputError& error) {
+    stored_ = {};
+    message_->SetText(QString::fromUtf8(error.what()));
   }
   editor_->setLabelWidth(LabelWidth());
-  editor_->setVector(values);
+  editor_->setVector(CopyVector(stored_));
   editor_->ScrollTop();
   Refresh();
-  Q_EMIT ReadingEnded();
+}
+
+// A text that is still being typed counts from now on.
+void DataPage::CommitTexts() {
+  for (TextCell* const cell : editor_->findChildren<TextCell*>()) cell->CommitOrRestore();
+  StoreEdits();
+}
+
+// Puts what differs from the table into it.
+void DataPage::StoreEdits() {
+  const TQorFloatVector values = editor_->Vector();
+  for (std::size_t row = 0; row < stored_.size(); ++row) {
+    const Extended value = values[row];
+    const bool same = std::isnan(value) ? std::isnan(stored_[row])
+                                        : value == stored_[row] &&
+                                              std::signbit(value) == std::signbit(stored_[row]);
+    if (same) continue;
+    table_.SetNumber(row, column_, value);
+    stored_[row] = value;
+  }
+  Q_EMIT TitleChanged();
+}
+
+bool DataPage::MayGo() {
+  CommitTexts();
+  if (!IsChanged()) return true;
+  QMessageBox question(QMessageBox::Warning, tr("Unsaved changes"),
+                       tr("Save the changes in the table?"),
+                       QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
+  question.setInformativeText(title_);
+  const int answer = question.exec();
+  return answer == QMessageBox::Discard || (answer == QMessageBox::Save && SaveAs());
+}
+
+bool DataPage::SaveAs() {
+  const QString name = QFileInfo(title_).completeBaseName() + QStringLiteral(".csv");
+  const QString file =
+      QFileDialog::getSaveFileName(this, tr("Save the table"), name, tr("CSV files (*.csv)"));
+  return !file.isEmpty() && Save(file);
+}
+
+bool DataPage::Save(const QString& file) {
+  CommitTexts();
+  QSaveFile out(file);
+  if (out.open(QIODevice::WriteOnly)) {
+    table_.WriteCsv([&out](std::string_view text) {
+      out.write(text.data(), static_cast<qsizetype>(text.size()));
+    });
+  }
+  const QString name = QFileInfo(file).fileName();
+  if (!out.commit()) {
+    message_->SetText(QStringLiteral("%1: %2").arg(name, out.errorString()));
+    return false;
+  }
+  message_->SetText({});
+  table_.SetSaved();
+  SetTitle(name);
+  return true;
 }
 
 // Of the names that are seen first, within bounds.
 int DataPage::LabelWidth() const {
-  constexpr qsizetype looked_at = 1000;
+  constexpr std::size_t looked_at = 1000;
   int width = 6 * fontMetrics().averageCharWidth();
-  for (const QString& name : row_names_.mid(0, looked_at))
-    width = std::max(width, fontMetrics().horizontalAdvance(name + QStringLiteral("  ")));
+  for (std::size_t row = 0; row < std::min(looked_at, table_.Rows()); ++row) {
+    const QString name = table_.RowName(row) + QStringLiteral("  ");
+    width = std::max(width, fontMetrics().horizontalAdvance(name));
+  }
   return std::min(width, 20 * fontMetrics().averageCharWidth());
-}
-
-void DataPage::ShowSource() {
-  file_->setText(chosen_.title);
-  file_->setToolTip(chosen_.title);
-  const QSignalBlocker blocker(columns_);
-  columns_->clear();
-  for (const TableHead::Column& column : chosen_.head.columns) columns_->addItem(column.title);
-  columns_->setCurrentIndex(static_cast<int>(chosen_.column));
 }
 
 // Pasting changes many elements, one after the other.
 void DataPage::RefreshSoon() {
+  message_->SetText({});
   if (std::exchange(refresh_is_due_, true)) return;
   QTimer::singleShot(0, this, &DataPage::Refresh);
 }
 
 void DataPage::Refresh() {
   refresh_is_due_ = false;
+  StoreEdits();
   const TQorFloatVector all = editor_->Vector();
   const TQorFloatVector values = WithoutNulls(all);
   tall_editor_->FitFormat(values);
@@ -396,10 +463,23 @@ void DataPage::Refresh() {
   stats_.setPopulation(population_->isChecked());
   stats_.setValues(values);
   report_->SetRows(InTwoColumns(stats_.DescStats(), locale()));
-  const std::size_t empty = all.size() - values.size();
-  remark_->setText(empty == 0 ? QString()
-                              : tr("without %1 empty cells").arg(locale().toString(empty)));
+  RefreshRemark(all.size() - values.size(), values.size());
   RefreshPlot(values);
+}
+
+// What the report leaves out, of the column and of its figures.
+void DataPage::RefreshRemark(std::size_t empty, std::size_t count) {
+  QStringList remarks;
+  if (empty > 0) remarks += tr("without %1 empty cells").arg(locale().toString(empty));
+  const cli::HiddenFigures hidden = cli::HiddenBy(stats_.Results(), count, decimals_->value());
+  if (hidden.count > 0) {
+    remarks += hidden.enough_decimals <= decimals_->maximum()
+                   ? tr("%1 figures show no digit, which takes %2 decimals")
+                         .arg(hidden.count)
+                         .arg(hidden.enough_decimals)
+                   : tr("%1 figures are too small to show a digit").arg(hidden.count);
+  }
+  remark_->setText(remarks.join(QStringLiteral("; ")));
 }
 
 void DataPage::RefreshPlot(const TQorFloatVector& values) {
@@ -414,7 +494,7 @@ void DataPage::RefreshPlot(const TQorFloatVector& values) {
       // Of values whose squares are beyond the range there is no density.
     }
   }
-  plot_->SetAxisTitles(shown_.head.columns[shown_.column].title, tr("Density"));
+  plot_->SetAxisTitles(table_.Title(column_), tr("Density"));
   plot_->SetLayers(std::move(layers));
 }
 

@@ -5,9 +5,8 @@
 
 #include <QWidget>
 #include <thread>
-#include <variant>
 
-#include "apps/qorvex-gallery/column_reader.h"
+#include "apps/qorvex-gallery/data_table.h"
 #include "qorvex/controls/labelled_vector_edit.h"
 #include "qorvex/stats/QorvexDescStats.h"
 
@@ -24,17 +23,31 @@ class MessageBar;
 class PlotView;
 class TallEditor;
 
-/// Shows a column of a file in an editor, its descriptive statistics, and its histogram with the
+/// Shows a column of a table in an editor, its descriptive statistics, and its histogram with the
 /// normal density of the same mean and standard deviation. All of it follows every edit. Begins
 /// with an example. Empty cells are left out of the statistics.
 ///
-/// A large file is read on a thread of its own, while the page shows what it did before.
+/// Edits stay in the table when another column is chosen, can be saved as CSV, and are not given up
+/// without a question. A large file is read on a thread of its own, while the page shows what it
+/// did before and takes no edits.
 class DataPage : public QWidget {
   Q_OBJECT
 
  public:
   explicit DataPage(QWidget* parent = nullptr);
   ~DataPage() override;
+
+  /// The name of the file, or what the example is.
+  [[nodiscard]] const QString& Title() const { return title_; }
+  /// Whether there are changes that have not been saved.
+  [[nodiscard]] bool IsChanged() const { return table_.IsChanged(); }
+  /// A file is being read on another thread.
+  [[nodiscard]] bool IsReading() const { return !progress_->isHidden(); }
+  /// Whether the table may go: with changes, the user is asked to save or to discard them, and may
+  /// refuse.
+  [[nodiscard]] bool MayGo();
+  /// Writes the table to a file, as CSV. Says on the page why it cannot, and returns false then.
+  bool Save(const QString& file);
 
  public Q_SLOTS:
   /// Opens a file of delimited text. A reading that is under way stops.
@@ -43,50 +56,54 @@ class DataPage : public QWidget {
   void ChooseFile();
   /// Opens the example.
   void OpenExample();
-
-  /// A file is being read on another thread.
-  [[nodiscard]] bool IsReading() const { return !progress_->isHidden(); }
+  /// Asks for a file and writes the table to it.
+  bool SaveAs();
 
  Q_SIGNALS:
-  /// A column has been read, has been refused, or its reading has been cancelled.
+  /// A table has been read, has been refused, or its reading has been cancelled.
   void ReadingEnded();
+  /// Title or IsChanged may have another value.
+  void TitleChanged();
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
 
  private:
-  // Which column of which file.
+  // What is to be shown of which file.
   struct Source {
     QString file;
     QString title;
-    TableHead head;
-    std::size_t column = 0;
+    QString column;
   };
-  // A column, or why there is none.
-  using Reading = std::variant<TableColumn, QString>;
 
   QLayout* MakeHeader();
   QWidget* MakeProgress();
   QLayout* MakeReport();
-  void OpenSource(const QString& file, const QString& title, const QString& column);
-  void ChooseColumn(int index);
-  void Read();
-  void ReadOnThread(qint64 size);
+  void OpenSource(const Source& source);
+  void ReadOnThread(const Source& source, qint64 size);
   void StopReading();
   void CancelReading();
-  void EndReading(const Reading& reading);
+  void EndReading(const Source& source, DataTable table);
+  void RefuseReading(const QString& why);
+  void SetBusy(bool busy);
+  void ChooseColumn(int index);
+  void ShowColumn();
+  void CommitTexts();
+  void StoreEdits();
+  void SetTitle(const QString& title);
   [[nodiscard]] int LabelWidth() const;
-  void ShowSource();
   void RefreshSoon();
   void Refresh();
+  void RefreshRemark(std::size_t empty, std::size_t count);
   void RefreshPlot(const TQorFloatVector& values);
 
-  Source shown_;
-  // What is chosen in the header: the source shown, or the one that is being read.
-  Source chosen_;
+  DataTable table_;
+  QString title_;
+  std::size_t column_ = 0;
+  // The numbers of the column as the table has them.
+  TQorFloatVector stored_;
   TQorDescStats stats_;
-  QStringList row_names_;
   bool refresh_is_due_ = false;
 
   QLabel* file_;

@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/main_window.h"
 
 #include <QActionGroup>
+#include <QCloseEvent>
 #include <QDragEnterEvent>
 #include <QKeySequence>
 #include <QMenu>
@@ -32,7 +33,6 @@ QString DraggedFile(const QDropEvent& event) {
 
 MainWindow::MainWindow(QWidget* parent)
     : QMainWindow(parent), pages_(new QTabWidget), data_(new DataPage) {
-  setWindowTitle(tr("Qorvex Gallery"));
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
@@ -43,6 +43,8 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new RegressionPage, "regression", tr("Regression"));
   setCentralWidget(pages_);
   MakeMenus();
+  connect(data_, &DataPage::TitleChanged, this, &MainWindow::ShowTitle);
+  ShowTitle();
   resize(1100, 720);
 }
 
@@ -60,6 +62,8 @@ void MainWindow::MakeMenus() {
     data_->ChooseFile();
   });
   open->setShortcut(QKeySequence::Open);
+  QAction* const save = file->addAction(tr("Save Data &As…"), data_, &DataPage::SaveAs);
+  save->setShortcut(QKeySequence::SaveAs);
   file->addSeparator();
   QAction* const quit = file->addAction(tr("&Quit"), this, &QWidget::close);
   quit->setShortcut(QKeySequence::Quit);
@@ -79,6 +83,16 @@ void MainWindow::MakeMenus() {
 
   QMenu* const help = menuBar()->addMenu(tr("&Help"));
   help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
+}
+
+// A star stands for changes that have not been saved.
+void MainWindow::ShowTitle() {
+  setWindowTitle(tr("%1[*] – Qorvex Gallery").arg(data_->Title()));
+  setWindowModified(data_->IsChanged());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->setAccepted(data_->MayGo());
 }
 
 void MainWindow::ShowAbout() {

@@ -29,10 +29,12 @@ class MainWindow : public QMainWindow {
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void closeEvent(QCloseEvent* event) override;
 
  private:
   void AddPage(QWidget* page, const char* name, const QString& title);
   void MakeMenus();
+  void ShowTitle();
   void ShowAbout();
 
   QTabWidget* pages_;

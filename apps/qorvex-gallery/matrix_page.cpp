@@ -128,8 +128,8 @@ MatrixPage::MatrixPage(QWidget* parent)
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
   auto* const right = new QVBoxLayout;
-  right->addWidget(message_);
   right->addLayout(grid, 1);
+  right->addWidget(message_);
   layout->addLayout(right, 1);
 
   for (QSpinBox* const box : {rows_, cols_})

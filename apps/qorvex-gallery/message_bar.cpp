@@ -3,21 +3,22 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QStyle>
 #include <QToolButton>
 
 namespace qorvex::gallery {
 
-MessageBar::MessageBar(QWidget* parent) : QFrame(parent), label_(new QLabel) {
+MessageBar::MessageBar(QWidget* parent) : QFrame(parent), text_(new QLineEdit) {
   setObjectName("messageBar");
   auto* const icon = new QLabel;
   const int size = style()->pixelMetric(QStyle::PM_SmallIconSize);
   icon->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(size, size));
 
-  label_->setWordWrap(true);
-  label_->setTextFormat(Qt::PlainText);
-  label_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  text_->setReadOnly(true);
+  text_->setFrame(false);
+  text_->setStyleSheet(QStringLiteral("background: transparent"));
 
   auto* const close = new QToolButton;
   close->setAutoRaise(true);
@@ -29,15 +30,21 @@ MessageBar::MessageBar(QWidget* parent) : QFrame(parent), label_(new QLabel) {
   auto* const layout = new QHBoxLayout(this);
   layout->setContentsMargins(10, 5, 5, 5);
   layout->addWidget(icon);
-  layout->addWidget(label_, 1);
+  layout->addWidget(text_, 1);
   layout->addWidget(close);
+  QSizePolicy keeps_room(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  keeps_room.setRetainSizeWhenHidden(true);
+  setSizePolicy(keeps_room);
   hide();
 }
 
 MessageBar::~MessageBar() = default;
 
 void MessageBar::SetText(const QString& text) {
-  label_->setText(text);
+  text_->setText(text);
+  text_->setCursorPosition(0);
+  // As a paragraph the tool tip breaks its lines.
+  text_->setToolTip(QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
   setAccessibleName(text);
   setVisible(!text.isEmpty());
   if (text.isEmpty()) return;
@@ -46,7 +53,7 @@ void MessageBar::SetText(const QString& text) {
 }
 
 QString MessageBar::Text() const {
-  return isHidden() ? QString() : label_->text();
+  return isHidden() ? QString() : text_->text();
 }
 
 // An amber that lets the text of light and dark themes stay readable.

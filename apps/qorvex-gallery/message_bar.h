@@ -6,11 +6,13 @@
 #include <QFrame>
 #include <QString>
 
-class QLabel;
+class QLineEdit;
 
 namespace qorvex::gallery {
 
-/// A line of text that appears on the page it concerns, and stays until it is closed or cleared.
+/// A line of text on the page that it concerns, which stays until it is closed, replaced or
+/// cleared. It keeps its room while it is hidden, so that nothing moves when it comes and goes; a
+/// text that is too long for it can be scrolled, selected, and read in the tool tip.
 class MessageBar : public QFrame {
   Q_OBJECT
 
@@ -27,7 +29,7 @@ class MessageBar : public QFrame {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QLabel* label_;
+  QLineEdit* text_;
 };
 
 }  // namespace qorvex::gallery

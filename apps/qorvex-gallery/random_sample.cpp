@@ -33,7 +33,7 @@ bool DrawValues(const SampleOrder& order, TQorFloatVector& values,
       if (!proceed(i, order.size)) return false;
       next = now + std::chrono::milliseconds(20);
     }
-    draw(arguments, figure);
+    draw(arguments, figure, ClassicRandom);
     values[i] = CheckedFinite(figure[0]);
   }
   return true;
@@ -98,7 +98,7 @@ RandomSample DrawSample(const SampleOrder& order,
   try {
     if (!DrawValues(order, values, proceed)) return sample;
   } catch (const EMathError& error) {
-    const std::string limits = order.variate->limits;
+    const std::string limits = order.variate->methods.front().limits;
     throw std::runtime_error(error.what() + (limits.empty() ? "" : ": " + limits));
   }
   sample.values = std::move(values);

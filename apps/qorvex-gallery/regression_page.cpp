@@ -97,8 +97,8 @@ RegressionPage::RegressionPage(QWidget* parent)
   body->addSpacing(fontMetrics().height());
   body->addLayout(MakeResults(), 1);
   auto* const layout = new QVBoxLayout(this);
-  layout->addWidget(message_);
   layout->addLayout(body, 1);
+  layout->addWidget(message_);
   ShowExample();
 }
 
@@ -196,6 +196,7 @@ void RegressionPage::SetRows(int rows) {
 
 // Pasting changes many elements, one after the other.
 void RegressionPage::RefreshSoon() {
+  message_->SetText({});
   if (std::exchange(refresh_is_due_, true)) return;
   QTimer::singleShot(0, this, &RegressionPage::Refresh);
 }

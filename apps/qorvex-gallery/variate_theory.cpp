@@ -35,19 +35,24 @@ Extended CauchyDensity(Parameters p, Extended x) {
   return std::numbers::inv_pi_v<Extended> / (p[1] * (1 + distance * distance));
 }
 
-// The power series of the Bessel function I0; concentrations are below 10.
-Extended BesselI0(Extended x) {
+// The Bessel function I0 of x >= 0, times e^-x: by its power series, and by its asymptotic one
+// where the terms of that fall below 1e-20.
+Extended ScaledBesselI0(Extended x) {
+  const bool far = x > 30;
   Extended term = 1;
   Extended sum = 1;
   for (int i = 1; term > sum * 1e-20L; ++i) {
-    term *= x * x / 4 / (static_cast<Extended>(i) * static_cast<Extended>(i));
+    const auto n = static_cast<Extended>(i);
+    term *= far ? (2 * n - 1) * (2 * n - 1) / (8 * n * x) : x * x / (4 * n * n);
     sum += term;
   }
-  return sum;
+  return sum * (far ? 1 / std::sqrt(2 * std::numbers::pi_v<Extended> * x) : std::exp(-x));
 }
 
 Extended VonMisesDensity(Parameters p, Extended x) {
-  return std::exp(p[0] * std::cos(x)) / (2 * std::numbers::pi_v<Extended> * BesselI0(p[0]));
+  const Extended sine = std::sin(x / 2);
+  return std::exp(-2 * p[0] * sine * sine) /
+         (2 * std::numbers::pi_v<Extended> * ScaledBesselI0(p[0]));
 }
 
 Extended NegativeBinomialProbability(Parameters p, Extended k) {

@@ -71,7 +71,7 @@ void AddDelimiter(CLI::App& command, std::optional<char>& delimiter) {
 void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description) {
   command.add_option("--decimals", decimals, description)
       ->transform(CLI::Validator(PlainDecimal, ""))
-      ->check(CLI::Range(0, 255))
+      ->check(CLI::Range(0, kMostDecimals))
       ->option_text("N (0 to 255)");
 }
 

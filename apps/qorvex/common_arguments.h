@@ -23,7 +23,10 @@ void AddFile(CLI::App& command, std::string& file, const std::string& name,
 /// Adds --delimiter, which stays empty when it is not given.
 void AddDelimiter(CLI::App& command, std::optional<char>& delimiter);
 
-/// Adds --decimals, 0 to 255, which stays empty when it is not given.
+/// The largest number that --decimals takes.
+inline constexpr int kMostDecimals = 255;
+
+/// Adds --decimals, 0 to kMostDecimals, which stays empty when it is not given.
 void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description);
 
 /// Lets an app with subcommands take one of them a call, and complains of its absence by the given

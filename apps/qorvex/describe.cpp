@@ -11,7 +11,9 @@
 #include <utility>
 #include <vector>
 
+#include "apps/qorvex/cells.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/hidden_figures.h"
 #include "apps/qorvex/input_error.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/table_arguments.h"
@@ -133,6 +135,22 @@ std::string TextReport(const TableColumn& column, ColumnFigures& figures, int de
   return text;
 }
 
+void RemarkOnHiddenFigures(const TableColumn& column, const ColumnFigures& figures, int decimals,
+                           const std::string& file) {
+  DescriptiveResults results = figures.statistics.Results();
+  // These are amounts, which have all their decimals.
+  if (figures.exact) results.maximum = results.minimum = results.sum = 0;
+  const HiddenFigures hidden = HiddenBy(results, figures.statistics.NoOfValues(), decimals);
+  if (hidden.count == 0) return;
+  const std::string enough = hidden.enough_decimals <= kMostDecimals
+                                 ? "--decimals " + Int2EStr(hidden.enough_decimals) + " or "
+                                 : "";
+  WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": " +
+              Cardinal(hidden.count, "figure") + " other than 0 without a digit in " +
+              Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " + enough +
+              "--json shows all");
+}
+
 void WriteJson(JsonWriter& json, const TableColumn& column, const ColumnFigures& figures) {
   const DescriptiveStats& statistics = figures.statistics;
   const DescriptiveResults& results = statistics.Results();
@@ -187,7 +205,9 @@ std::string TextOf(std::vector<TableColumn>& columns, const DescribeArguments& a
   for (TableColumn& column : columns) {
     ColumnFigures figures = FiguresOf(column, arguments);
     if (!text.empty()) text += '\n';
-    text += TextReport(column, figures, arguments.decimals.value_or(kDefaultDecimals));
+    const int decimals = arguments.decimals.value_or(kDefaultDecimals);
+    text += TextReport(column, figures, decimals);
+    RemarkOnHiddenFigures(column, figures, decimals, arguments.table.file);
   }
   return text;
 }

@@ -23,7 +23,7 @@ namespace {
 
 constexpr const char* kNumbersHelp = R"(Numbers:
   Finite, with a decimal point and an optional exponent, read to 80 bits.
-  Figures keep full relative accuracy in both tails. --prescribed computes with
+  Figures keep full relative accuracy in both tails. --classic computes with
   the classic routines of the unit QorvexStatistics, which lose small tails.)";
 
 using Numbers = std::vector<Extended>;
@@ -37,7 +37,7 @@ struct DistArguments {
   Extended steps = 0;
   std::optional<int> decimals;
   bool log = false;
-  bool prescribed = false;
+  bool classic = false;
 };
 
 using SharedArguments = std::shared_ptr<DistArguments>;
@@ -69,7 +69,7 @@ void AddPointAndLog(CLI::App& command, const Distribution& distribution,
   command
       .add_flag("--log", arguments->log,
                 "The natural logarithm, also where the probability underflows")
-      ->excludes(command.get_option("--prescribed"));
+      ->excludes(command.get_option("--classic"));
 }
 
 void AddTwoPoints(CLI::App& command, const Distribution& distribution,
@@ -107,7 +107,14 @@ void AddRange(CLI::App& command, const Distribution& distribution,
 template <class Routine>
 Routine Existing(Routine routine) {
   if (routine != nullptr) return routine;
-  throw CLI::ValidationError("--prescribed", "there is no such routine in QorvexStatistics");
+  throw CLI::ValidationError("--classic", "there is no such routine in QorvexStatistics");
+}
+
+// Rounding can leave a classic sum above 1, and what it leaves of 1 below 0.
+Extended ClassicProbability(DistributionRoutine routine, const DistArguments& arguments) {
+  const Extended probability = Existing(routine)(arguments.numbers);
+  if (probability < 0) return 0;
+  return probability > 1 ? 1 : probability;
 }
 
 Numbers WithLast(Numbers numbers, Extended last) {
@@ -115,11 +122,23 @@ Numbers WithLast(Numbers numbers, Extended last) {
   return numbers;
 }
 
+// A figure for the last of the numbers, a point. At an end of the support and beyond it, a
+// logarithm or a density can be infinite; anywhere else it is a finite one beyond the range.
+Extended InRange(Extended figure, const Distribution& distribution, const Numbers& numbers) {
+  if (!std::isinf(figure) || distribution.is_discrete) return figure;
+  const Support support =
+      distribution.support == nullptr ? Support() : distribution.support(numbers);
+  const Extended point = numbers.back();
+  if (point > support.least && point < support.greatest) throw EOverflow();
+  return figure;
+}
+
 Extended Less(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.prescribed) return Existing(distribution.prescribed.less)(arguments.numbers);
+  if (arguments.classic) return ClassicProbability(distribution.classic.less, arguments);
   const FullPrecisionRoutines& routines = distribution.full_precision;
   const DistributionRoutine lower = arguments.log ? routines.log_lower : routines.lower;
-  if (!distribution.is_discrete) return lower(arguments.numbers);
+  if (!distribution.is_discrete)
+    return InRange(lower(arguments.numbers), distribution, arguments.numbers);
   // Fewer than k are at most k - 1; fewer than none is impossible, though the parameters are
   // checked all the same.
   const Extended k = arguments.numbers.back();
@@ -129,13 +148,14 @@ Extended Less(const Distribution& distribution, const DistArguments& arguments) 
 }
 
 Extended Greater(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.prescribed) return Existing(distribution.prescribed.greater)(arguments.numbers);
+  if (arguments.classic) return ClassicProbability(distribution.classic.greater, arguments);
   const FullPrecisionRoutines& routines = distribution.full_precision;
-  return (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
+  const Extended upper = (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
+  return InRange(upper, distribution, arguments.numbers);
 }
 
 Extended Between(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.prescribed) return Existing(distribution.prescribed.between)(arguments.numbers);
+  if (arguments.classic) return ClassicProbability(distribution.classic.between, arguments);
   return ProbabilityBetween(distribution, arguments.numbers);
 }
 
@@ -144,15 +164,16 @@ Extended Quantile(const Distribution& distribution, const DistArguments& argumen
   const bool from_below = arguments.lower_probability.has_value();
   numbers.push_back(from_below ? *arguments.lower_probability : *arguments.upper_probability);
   const FullPrecisionRoutines& full_precision = distribution.full_precision;
-  const PrescribedRoutines& prescribed = distribution.prescribed;
-  if (!arguments.prescribed)
+  const ClassicRoutines& classic = distribution.classic;
+  if (!arguments.classic)
     return (from_below ? full_precision.quantile : full_precision.upper_quantile)(numbers);
-  return Existing(from_below ? prescribed.quantile : prescribed.upper_quantile)(numbers);
+  return Existing(from_below ? classic.quantile : classic.upper_quantile)(numbers);
 }
 
 Extended Density(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.prescribed) return Existing(distribution.prescribed.density)(arguments.numbers);
-  return distribution.full_precision.density(arguments.numbers);
+  const DistributionRoutine density = arguments.classic ? Existing(distribution.classic.density)
+                                                        : distribution.full_precision.density;
+  return InRange(density(arguments.numbers), distribution, arguments.numbers);
 }
 
 std::string Text(Extended value, const DistArguments& arguments) {
@@ -183,13 +204,13 @@ std::string Table(const Distribution& distribution, const DistArguments& argumen
   const auto n = static_cast<std::int32_t>(arguments.steps);
   TQorFloatVector x_values;
   TQorFloatVector densities;
-  if (arguments.prescribed) {
-    Existing(distribution.prescribed.table)(arguments.numbers, n, x_values, densities);
+  Numbers numbers = arguments.numbers;
+  const Extended to = numbers.back();
+  numbers.pop_back();
+  const Extended from = numbers.back();
+  if (arguments.classic) {
+    Existing(distribution.classic.table)(arguments.numbers, n, x_values, densities);
   } else {
-    Numbers numbers = arguments.numbers;
-    const Extended to = numbers.back();
-    numbers.pop_back();
-    const Extended from = numbers.back();
     const Extended step = n >= 1 ? (to - from) / arguments.steps : 0;
     const std::size_t length = static_cast<std::size_t>(n) + 1;
     x_values = TQorFloatVector::ForOverwrite(length);
@@ -200,8 +221,11 @@ std::string Table(const Distribution& distribution, const DistArguments& argumen
     }
   }
   std::string lines;
-  for (std::size_t i = 0; i < x_values.size(); ++i)
-    lines += Text(x_values[i], arguments) + ',' + Text(densities[i], arguments) + '\n';
+  for (std::size_t i = 0; i < x_values.size(); ++i) {
+    const Extended x = numbers.back() = x_values[i];
+    const Extended density = InRange(densities[i], distribution, numbers);
+    lines += Text(x, arguments) + ',' + Text(density, arguments) + '\n';
+  }
   return lines;
 }
 
@@ -231,15 +255,15 @@ void RequireWholeNumbers(const Distribution& distribution, const DistArguments& 
     if (parameter.kind != NumberKind::kDegreesOfFreedom) continue;
     if (const char* const wrong = WhatIsWrong(value, NumberKind::kCount)) {
       throw CLI::ValidationError(parameter.option,
-                                 Float2Str(value) + ' ' + wrong + ", as --prescribed needs");
+                                 Float2Str(value) + ' ' + wrong + ", as --classic needs");
     }
   }
 }
 
-// Whether the full-precision routines answer what the prescribed ones did not.
+// Whether the full-precision routines answer what the classic ones did not.
 bool AnswersInFullPrecision(const Distribution& distribution, const Question& question,
                             DistArguments arguments) {
-  arguments.prescribed = false;
+  arguments.classic = false;
   try {
     question.answer(distribution, arguments);
     return true;
@@ -250,15 +274,14 @@ bool AnswersInFullPrecision(const Distribution& distribution, const Question& qu
 
 [[noreturn]] void RefuseAnswer(const EMathError& error, const Distribution& distribution,
                                const Question& question, const DistArguments& arguments) {
-  const bool helps =
-      arguments.prescribed && AnswersInFullPrecision(distribution, question, arguments);
+  const bool helps = arguments.classic && AnswersInFullPrecision(distribution, question, arguments);
   throw Refusal(std::string(distribution.name) + ' ' + question.name, error,
-                helps ? "; without --prescribed there is no such limit" : "");
+                helps ? "; without --classic there is no such limit" : "");
 }
 
 void Run(const Distribution& distribution, const Question& question,
          const DistArguments& arguments) {
-  if (arguments.prescribed) RequireWholeNumbers(distribution, arguments);
+  if (arguments.classic) RequireWholeNumbers(distribution, arguments);
   if (distribution.inconsistency != nullptr) {
     if (const char* const what = distribution.inconsistency(arguments.numbers))
       throw CLI::ValidationError(what);
@@ -275,7 +298,7 @@ void AddQuestion(CLI::App& family, const Distribution& distribution, const Quest
   const auto arguments = std::make_shared<DistArguments>();
   for (const NumberParameter& parameter : distribution.parameters)
     AddNumberInOrder(command, arguments, parameter);
-  command.add_flag("--prescribed", arguments->prescribed,
+  command.add_flag("--classic", arguments->classic,
                    "Compute with the classic routines of QorvexStatistics");
   question.add_options(command, distribution, arguments);
   AddDecimals(command, arguments->decimals,

@@ -79,6 +79,10 @@ Extended ScaledIncompleteGamma(Arguments arguments) {
   return IncompleteGamma(arguments[0], arguments[2] / arguments[1]);
 }
 
+Support PositiveAxis(Arguments) {
+  return {.least = 0};
+}
+
 constexpr auto kShape = NumberKind::kShape;
 
 std::vector<Distribution> AllDistributions() {
@@ -103,7 +107,8 @@ std::vector<Distribution> AllDistributions() {
         Call<LogNormalBetween>, Call<InvLogNormalLess>, Call<InvLogNormalGreater>,
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           LogNormalPDFValues(a[0], a[1], a[2], a[3], n, xs, ys);
-        }}},
+        }},
+       PositiveAxis},
       {"exponential",
        "The exponential distribution",
        {{"--mean", "The mean, 1 / rate", NumberKind::kPositive}},
@@ -113,13 +118,15 @@ std::vector<Distribution> AllDistributions() {
         Call<ExponentialBetween>, nullptr, nullptr,
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           ExponentialPDFValues(a[0], a[1], a[2], n, xs, ys);
-        }}},
+        }},
+       PositiveAxis},
       {"gamma",
        "The gamma distribution",
        {{"--shape", "The shape", kShape}, kScale},
        false,
        QORVEX_FULL_PRECISION(Gamma, Pdf),
-       {.less = ScaledIncompleteGamma}},
+       {.less = ScaledIncompleteGamma},
+       PositiveAxis},
       {"chi-square",
        "The chi-square distribution",
        {df},
@@ -130,7 +137,8 @@ std::vector<Distribution> AllDistributions() {
         Call<InvChiSquareLess>, Call<InvChiSquareGreater>,
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           ChiSquarePDFValues(static_cast<std::uint32_t>(a[0]), a[1], a[2], n, xs, ys);
-        }}},
+        }},
+       PositiveAxis},
       {"student-t",
        "Student's t distribution",
        {df},
@@ -152,7 +160,8 @@ std::vector<Distribution> AllDistributions() {
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           FDistPDFValues(static_cast<std::uint32_t>(a[0]), static_cast<std::uint32_t>(a[1]), a[2],
                          a[3], n, xs, ys);
-        }}},
+        }},
+       PositiveAxis},
       {"beta",
        "The beta distribution, on [0, 1] or between two ends",
        {{"--a", "The first shape", kShape},
@@ -172,6 +181,7 @@ std::vector<Distribution> AllDistributions() {
         [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
           BetaPDFValues(a[0], a[1], a[2], a[3], a[4], a[5], n, xs, ys);
         }},
+       [](Arguments a) { return Support{.least = a[2], .greatest = a[3]}; },
        [](Arguments a) { return WhatIsWrongWithEnds(a[2], a[3]); }},
       {"binomial",
        "The binomial distribution: successes in independent trials",

@@ -4,6 +4,7 @@
 /// The distributions that `dist` knows, their parameters and routines.
 
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <vector>
 
@@ -28,7 +29,7 @@ struct FullPrecisionRoutines {
 };
 
 /// The routines of the unit QorvexStatistics; null where it has none.
-struct PrescribedRoutines {
+struct ClassicRoutines {
   DistributionRoutine density = nullptr;
   DistributionRoutine less = nullptr;
   DistributionRoutine greater = nullptr;
@@ -40,6 +41,12 @@ struct PrescribedRoutines {
                 TQorFloatVector& y_values) = nullptr;
 };
 
+/// The ends of a continuous distribution.
+struct Support {
+  Extended least = -std::numeric_limits<Extended>::infinity();
+  Extended greatest = std::numeric_limits<Extended>::infinity();
+};
+
 struct Distribution {
   const char* name;
   const char* summary;
@@ -47,7 +54,9 @@ struct Distribution {
   /// Whether its points are counts.
   bool is_discrete;
   FullPrecisionRoutines full_precision;
-  PrescribedRoutines prescribed;
+  ClassicRoutines classic;
+  /// Null where a continuous distribution has no ends.
+  Support (*support)(DistributionArguments parameters) = nullptr;
   /// What is wrong with parameters that are fine one by one, or null; null itself where nothing can
   /// be.
   const char* (*inconsistency)(DistributionArguments parameters) = nullptr;

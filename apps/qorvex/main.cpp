@@ -3,6 +3,7 @@
 #include <new>
 #include <sstream>
 #include <string>
+#include <vector>
 
 #include "apps/qorvex/describe.h"
 #include "apps/qorvex/dist.h"
@@ -18,6 +19,45 @@ namespace qorvex::cli {
 namespace {
 
 enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
+
+int RefuseUsage(const std::string& what) {
+  WriteRemark(what);
+  WriteRemark("--help tells what the program and its commands take");
+  return kBadInput;
+}
+
+std::string NamesOf(const std::vector<const CLI::App*>& commands) {
+  std::string names;
+  for (const CLI::App* const command : commands)
+    names += (names.empty() ? "" : ", ") + command->get_name();
+  return names;
+}
+
+// What is wrong with arguments that nothing takes: a command that does not exist, or whatever
+// stands too much, in the order in which it was given.
+std::string WhatIsUnexpected(const CLI::App& program) {
+  const CLI::App* app = &program;
+  std::string path;
+  while (app->remaining().empty() && !app->get_subcommands().empty()) {
+    app = app->get_subcommands().front();
+    path += (path.empty() ? "" : " ") + app->get_name();
+  }
+  if (!path.empty()) path += ": ";
+  const std::vector<std::string> unexpected = app->remaining();
+  // Groups of options are apps without a name.
+  const auto commands =
+      app->get_subcommands([](const CLI::App* command) { return !command->get_name().empty(); });
+  const bool is_command =
+      !commands.empty() && app->get_subcommands().empty() && !unexpected.front().starts_with('-');
+  if (is_command) {
+    return path + "there is no command " + Excerpt(unexpected.front()) + "; there are " +
+           NamesOf(commands);
+  }
+  std::string what = path + "unexpected ";
+  for (const std::string& text : unexpected)
+    what += (what.ends_with(' ') ? "" : ", ") + Excerpt(text);
+  return what;
+}
 
 int Run(int argc, char** argv) {
   CLI::App program(
@@ -37,13 +77,11 @@ int Run(int argc, char** argv) {
     // Asked here and not by require_subcommand, so that a misspelt command is named.
     if (program.get_subcommands().empty()) throw CLI::RequiredError("A command");
     return kSuccess;
+  } catch (const CLI::ExtrasError&) {
+    return RefuseUsage(WhatIsUnexpected(program));
   } catch (const CLI::Error& error) {
     // The requests for help and for the version arrive here too.
-    if (error.get_exit_code() != 0) {
-      WriteRemark(error.what());
-      WriteRemark("--help tells what the program and its commands take");
-      return kBadInput;
-    }
+    if (error.get_exit_code() != 0) return RefuseUsage(error.what());
     std::ostringstream text;
     program.exit(error, text);
     WriteResult(text.str());

@@ -16,7 +16,10 @@ const char* WhatIsWrong(Extended value, NumberKind kind) {
     case NumberKind::kReals:
       break;
     case NumberKind::kPositive:
-      return value > 0 ? nullptr : "is not greater than 0";
+      if (!(value > 0)) return "is not greater than 0";
+      return std::isnormal(value) ? nullptr
+                                  : "is below 3.362103143112093506e-4932, the smallest number with "
+                                    "all digits";
     case NumberKind::kShape:
     case NumberKind::kDegreesOfFreedom:
       return value >= 1e-17L && value <= 1e15L ? nullptr : "is not from 1e-17 to 1e15";

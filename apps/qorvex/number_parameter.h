@@ -12,10 +12,10 @@ namespace qorvex::cli {
 /// The numbers that an option takes, all finite.
 enum class NumberKind {
   kReal,
-  kReals,  ///< with commas between them
-  kPositive,
+  kReals,             ///< with commas between them
+  kPositive,          ///< and not subnormal
   kShape,             ///< a shape, in the range of the full-precision routines
-  kDegreesOfFreedom,  ///< the same, and whole for the prescribed routines
+  kDegreesOfFreedom,  ///< the same, and whole for the classic routines
   kShare,             ///< from 0 to 1
   kProbability,       ///< between 0 and 1
   // From here on whole numbers from 0.

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,7 +23,24 @@ namespace {
 
 constexpr const char* kVariatesHelp = R"(Variates:
   One a line, printed as they are drawn. A seed gives the same ones on every
-  machine; without it every run gives others.)";
+  processor of one family; on others the last digit of what is not a count can
+  differ, and rarely more. Without a seed every run gives others.)";
+
+// The section of --help that says what a variate takes of the parameters' numbers; empty if all.
+std::string LimitsHelp(const Variate& variate) {
+  const bool classic_is_narrower = variate.classic && *variate.classic->limits != '\0';
+  std::istringstream words(classic_is_narrower ? variate.classic->limits
+                                               : variate.methods.front().limits);
+  constexpr std::size_t width = 78;
+  std::string text;
+  std::size_t length = width;
+  for (std::string word; words >> word; length += 1 + word.size()) {
+    const bool fits = length + 1 + word.size() <= width;
+    text += (fits ? " " : "\n  ") + word;
+    if (!fits) length = 1;
+  }
+  return text.empty() ? "" : "\n\nLimits:" + text + '.';
+}
 
 struct RandomArguments {
   VariateArguments parameters;
@@ -88,7 +106,7 @@ void PrintVariates(const RandomArguments& arguments) {
   TQorFloatVector figures = TQorFloatVector::WithLength(1);
   std::string line;
   for (std::uint64_t i = 0; i < arguments.count; ++i) {
-    arguments.method->draw(arguments.parameters, figures);
+    arguments.method->draw(arguments.parameters, figures, ClassicRandom);
     for (const Extended figure : figures) CheckedFinite(figure);
     line.clear();
     AppendLine(line, figures, arguments.decimals);
@@ -112,9 +130,9 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
   } catch (const EMathError& error) {
     // The lines in front of the failing one go out before the message.
     WriteResult("");
-    const bool limited =
-        *variate.limits != '\0' && dynamic_cast<const EOverflow*>(&error) == nullptr;
-    throw Refusal(variate.name, error, limited ? std::string(": ") + variate.limits : "");
+    const std::string limits = arguments.method->limits;
+    const bool limited = !limits.empty() && dynamic_cast<const EOverflow*>(&error) == nullptr;
+    throw Refusal(variate.name, error, limited ? ": " + limits : "");
   }
 }
 
@@ -125,6 +143,11 @@ void AddVariate(CLI::App& random, const Variate& variate) {
     AddParameter(command, parameter, arguments);
   arguments->method = &variate.methods.front();
   if (variate.methods.size() > 1) AddMethods(command, variate, arguments);
+  if (variate.classic) {
+    command.add_flag_callback(
+        "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
+        "Draw with the classic routine of QorvexRandom, limits included");
+  }
   AddNumber(command, "--count", "How many variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
   AddNumber(command, "--seed",
@@ -133,7 +156,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
             [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  command.footer(std::string(kVariatesHelp) + kExitStatusHelp);
+  command.footer(kVariatesHelp + LimitsHelp(variate) + kExitStatusHelp);
   command.callback([&variate, arguments] { Run(variate, *arguments); });
 }
 

@@ -41,7 +41,7 @@ void RowReader::Start() {
 
   if (!delimiter_) delimiter_ = DetectDelimiter();
   delimiter_is_blank_ = *delimiter_ == ' ';
-  ends_plain_cell_[Index('\n')] = true;
+  ends_plain_cell_[Index('\r')] = ends_plain_cell_[Index('\n')] = true;
   ends_plain_cell_[Index(*delimiter_)] = true;
   if (delimiter_is_blank_) ends_plain_cell_[Index('\t')] = true;
 }
@@ -134,13 +134,23 @@ bool RowReader::ScanRow() {
   return true;
 }
 
-// Both scans append the cell and give the position of the delimiter or line feed that ends it; null
-// when that is not in the buffer.
+// The scans give the position of the delimiter or line feed that ends a cell, and append the cell;
+// null, or the buffer's end from EndOfPlainCell, when that is not in the buffer.
+const char* RowReader::EndOfPlainCell(const char* at) const {
+  const char* const end = End();
+  for (;; ++at) {
+    while (at != end && !ends_plain_cell_[Index(*at)]) ++at;
+    if (at == end || *at != '\r') return at;
+    if (at + 1 == end) return end;
+    if (!ends_plain_cell_[Index(at[1])] && !IsBlank(at[1]))
+      FailAt(at, "a line ends with CR alone; LF or CR LF is needed");
+  }
+}
+
 const char* RowReader::ScanPlainCell(const char* at) {
   const char* const cell = at;
-  const char* const end = End();
-  while (at != end && !ends_plain_cell_[Index(*at)]) ++at;
-  if (at == end) return nullptr;
+  at = EndOfPlainCell(at);
+  if (at == End()) return nullptr;
 
   std::string_view text(cell, at);
   if (*at == '\n' && text.ends_with('\r')) text.remove_suffix(1);
@@ -167,7 +177,7 @@ const char* RowReader::ScanQuotedCell(const char* at) {
   if (!delimiter_is_blank_) at = SkipBlanks(at);
   if (at == end) return nullptr;
   if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
-  if (!ends_plain_cell_[Index(*at)]) {
+  if (*at == '\r' || !ends_plain_cell_[Index(*at)]) {
     if (ScanPlainCell(at) == nullptr) return nullptr;
     FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
   }

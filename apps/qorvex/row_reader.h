@@ -19,7 +19,8 @@ namespace qorvex::cli {
 /// Reads delimited text (RFC 4180, or columns separated by blanks) row by row, in large blocks,
 /// without copying cells.
 ///
-/// - Lines end with LF or CR LF; the last may lack its end. A UTF-8 byte order mark is skipped.
+/// - Lines end with LF or CR LF; the last may lack its end. Outside quotes, a CR with text right
+///   behind it is taken for a line end of its own and refused. A UTF-8 byte order mark is skipped.
 /// - A blank as the delimiter stands for any run of spaces and tabs, and none around a line counts.
 /// - A cell that starts with a double quote ends at the next single one. Inside, two quotes mean
 ///   one, and delimiters and line breaks are text. A quote further inside a cell is text.
@@ -40,8 +41,8 @@ class RowReader {
                      std::size_t block_size = kBlockSize);
 
   /// Reads the next row; false at the end of the text. Raises InputError (kMalformed) for a quote
-  /// that is not closed, for text after a closing quote, for a row beyond kLongestRow and for
-  /// UTF-16; and what the input raises.
+  /// that is not closed, for text after a closing quote, for lines that end with CR alone, for a
+  /// row beyond kLongestRow and for UTF-16; and what the input raises.
   bool Next();
 
   /// The cells of the row, at least one. Valid until the next call of Next.
@@ -60,6 +61,7 @@ class RowReader {
   bool ScanRow();
   const char* ScanQuotedCell(const char* at);
   const char* ScanPlainCell(const char* at);
+  [[nodiscard]] const char* EndOfPlainCell(const char* at) const;
   [[nodiscard]] const char* SkipBlanks(const char* at) const;
   void JoinDoubledQuotes();
   [[nodiscard]] const char* End() const { return buffer_.data() + end_; }

@@ -1,6 +1,9 @@
 #include "apps/qorvex/table_arguments.h"
 
+#include <algorithm>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 #include "apps/qorvex/cells.h"
 #include "apps/qorvex/common_arguments.h"
@@ -32,13 +35,36 @@ bool LooksLikeADamagedNumber(std::string_view name) {
   return begins_like_one && !IsNumber(name);
 }
 
+// What tells that a row which was taken for a header may be one of data; empty if nothing does.
+std::string DoubtOf(const Table& table) {
+  const auto is_number = [](std::string_view cell) { return !cell.empty() && IsNumber(cell); };
+  const auto number = std::ranges::find_if(table.header, is_number);
+  if (number != table.header.end()) {
+    return Excerpt(*std::ranges::find_if(table.header, IsText)) + " is not a number, though " +
+           Excerpt(*number) + " is";
+  }
+  const auto damaged =
+      std::ranges::find_if(table.columns, LooksLikeADamagedNumber, &TableColumn::name);
+  return damaged == table.columns.end() ? "" : Excerpt(damaged->name) + " is not a number";
+}
+
+void AddHeader(CLI::App& command, std::optional<bool>& header) {
+  const auto add = [&](const char* name, bool value, const char* description) {
+    return command.add_flag_callback(
+        name, [&header, value] { header = value; }, description);
+  };
+  CLI::Option* const with =
+      add("--header", true, "The first row is a header. Default: if any of its cells is text");
+  add("--no-header", false, "The first row is data")->excludes(with);
+}
+
 }  // namespace
 
 std::string TableHelp() {
   return std::string(R"(Tables:
   One row a line; every row has as many cells as the first.
   The first row is a header when any of its cells is text, that is, neither empty
-  nor a number.)") +
+  nor a number; --header and --no-header decide otherwise.)") +
          kTextHelp + R"(
   Blank lines before the first row and after the last are ignored; one between
   rows counts as a row of empty cells.)";
@@ -52,6 +78,7 @@ void TableArguments::AddTo(CLI::App& command) {
                   "Repeat it for more columns. Default: every column")
       ->type_name("NAME|N")
       ->allow_extra_args(false);
+  AddHeader(command, selection.header);
   AddDelimiter(command, selection.delimiter);
   command.add_flag("--skip-empty", selection.skip_empty,
                    "Skip empty cells and say how many, instead of refusing them");
@@ -70,6 +97,7 @@ void TableArguments::AddPairTo(CLI::App& command) {
              "The column of the x, by name or by number from 1;\n"
              "a name wins over a number");
   add_column(1, "--y", "The column of the y");
+  AddHeader(command, selection.header);
   AddDelimiter(command, selection.delimiter);
   command.add_flag("--skip-empty", selection.skip_empty,
                    "Skip rows in which x or y is empty and say how many,\n"
@@ -78,12 +106,14 @@ void TableArguments::AddPairTo(CLI::App& command) {
 
 std::vector<TableColumn> TableArguments::Read() const {
   try {
-    std::vector<TableColumn> columns = ReadTable(OpenTextInput(file), selection);
+    Table table = ReadTable(OpenTextInput(file), selection);
+    const std::string doubt = selection.header ? "" : DoubtOf(table);
+    if (!doubt.empty()) {
+      WriteRemark(OnOneLine(InputName(file)) + ": the first row was taken for a header because " +
+                  doubt + "; --header and --no-header decide");
+    }
+    std::vector<TableColumn>& columns = table.columns;
     for (const TableColumn& column : columns) {
-      if (LooksLikeADamagedNumber(column.name)) {
-        WriteRemark(OnOneLine(InputName(file)) + ": the first row was taken for a header because " +
-                    Excerpt(column.name) + " is not a number");
-      }
       if (column.skipped == 0 || selection.whole_rows) continue;
       WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": skipped " +
                   Cardinal(column.skipped, "empty cell"));
@@ -92,7 +122,7 @@ std::vector<TableColumn> TableArguments::Read() const {
       WriteRemark(OnOneLine(InputName(file)) + ": skipped " + Cardinal(columns[0].skipped, "row") +
                   " with an empty cell");
     }
-    return columns;
+    return std::move(columns);
   } catch (const InputError& error) {
     throw InputError(error.Fault(), error.what() + Hint(error.Fault(), selection));
   }

@@ -14,7 +14,7 @@ namespace qorvex::cli {
 /// What every --help of a command that reads a table says about tables.
 [[nodiscard]] std::string TableHelp();
 
-/// FILE, --column or --x and --y, --delimiter and --skip-empty.
+/// FILE, --column or --x and --y, --header and --no-header, --delimiter and --skip-empty.
 struct TableArguments {
   std::string file;
   TableSelection selection;
@@ -25,8 +25,9 @@ struct TableArguments {
   /// As AddTo, with --x and --y for two columns of which the values of one index belong to one row.
   void AddPairTo(CLI::App& command);
 
-  /// Reads the table. Remarks on standard error how many empty cells, or rows, were skipped.
-  /// InputErrors name the argument that helps, where one does.
+  /// Reads the table. Remarks on standard error how many empty cells, or rows, were skipped, and on
+  /// a guessed header that may be a row of data. InputErrors name the argument that helps, where
+  /// one does.
   [[nodiscard]] std::vector<TableColumn> Read() const;
 };
 

@@ -18,7 +18,7 @@ namespace {
 
 using Cells = std::span<const std::string_view>;
 
-bool IsHeader(Cells cells) {
+bool HoldsText(Cells cells) {
   return std::ranges::any_of(cells, IsText);
 }
 
@@ -84,16 +84,14 @@ class ColumnCollector {
         currency_(selection.currency),
         first_line_(rows.Line()),
         width_(rows.Cells().size()) {
-    std::vector<std::string> names;
-    has_header_ = IsHeader(rows.Cells());
-    if (has_header_) names.assign(rows.Cells().begin(), rows.Cells().end());
-
-    for (const std::size_t index : ChosenColumns(selection.columns, names, width_, rows.Name())) {
-      columns_.push_back({.number = index + 1, .name = has_header_ ? names[index] : ""});
+    if (selection.header.value_or(HoldsText(rows.Cells())))
+      header_.assign(rows.Cells().begin(), rows.Cells().end());
+    for (const std::size_t index : ChosenColumns(selection.columns, header_, width_, rows.Name())) {
+      columns_.push_back({.number = index + 1, .name = HasHeader() ? header_[index] : ""});
     }
   }
 
-  [[nodiscard]] bool HasHeader() const { return has_header_; }
+  [[nodiscard]] bool HasHeader() const { return !header_.empty(); }
 
   // The blank lines before the row, then the row.
   void AddRow() {
@@ -123,7 +121,7 @@ class ColumnCollector {
     }
   }
 
-  [[nodiscard]] std::vector<TableColumn> Finish() {
+  [[nodiscard]] Table Finish() {
     for (TableColumn& column : columns_) {
       if (column.values.empty() && column.amounts.empty()) {
         throw InputError(InputFault::kNoValues, rows_.Name(), column.Title() + " has no values");
@@ -131,7 +129,7 @@ class ColumnCollector {
       column.values.ShrinkToFit();
       column.amounts.ShrinkToFit();
     }
-    return std::move(columns_);
+    return {std::move(columns_), std::move(header_)};
   }
 
  private:
@@ -154,7 +152,7 @@ class ColumnCollector {
   bool currency_;
   std::size_t first_line_;
   std::size_t width_;
-  bool has_header_ = false;
+  std::vector<std::string> header_;
   std::vector<TableColumn> columns_;
 };
 
@@ -164,7 +162,7 @@ std::string TableColumn::Title() const {
   return ColumnTitle(number, name);
 }
 
-std::vector<TableColumn> ReadTable(TextInput input, const TableSelection& selection) {
+Table ReadTable(TextInput input, const TableSelection& selection) {
   RowReader rows(std::move(input), selection.delimiter);
   RequireFirstRow(rows);
   ColumnCollector collector(rows, selection);

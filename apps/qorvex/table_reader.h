@@ -20,6 +20,8 @@ struct TableSelection {
   std::vector<std::string> columns = {};
   /// As for RowReader: nothing detects it, a blank is any run of spaces and tabs.
   std::optional<char> delimiter = {};
+  /// Whether the first row is a header; nothing guesses it: one with text in any cell is.
+  std::optional<bool> header = {};
   /// Skip empty cells instead of refusing them.
   bool skip_empty = false;
   /// With skip_empty, leave out the values of every chosen column in a row where one is empty, so
@@ -45,12 +47,18 @@ struct TableColumn {
   [[nodiscard]] std::string Title() const;
 };
 
-/// Reads the chosen columns. Other columns may hold any text.
-///
-/// The first row is a header when one of its cells is neither empty nor a number. Cells are
-/// converted by Str2Float, so to 80 bits, or by Str2Currency without rounding; infinities and NaN
-/// are no data. A blank line between the rows counts as a row of empty cells, one before the first
-/// row or after the last counts for nothing.
+/// What was taken from a table.
+struct Table {
+  /// The chosen columns.
+  std::vector<TableColumn> columns;
+  /// The cells of the header; empty when there is none.
+  std::vector<std::string> header;
+};
+
+/// Reads the chosen columns. Other columns may hold any text. Cells are converted by Str2Float, so
+/// to 80 bits, or by Str2Currency without rounding; infinities and NaN are no data. A blank line
+/// between the rows counts as a row of empty cells, one before the first row or after the last
+/// counts for nothing.
 ///
 /// Raises InputError for what RowReader refuses; kNoValues for a text without rows, and for a
 /// column without values; kNoSuchColumn; kMalformed for a row that is not as long as the first;
@@ -58,6 +66,6 @@ struct TableColumn {
 /// value. The first line at fault is the one that is reported.
 ///
 /// Memory: 16 bytes a value, at most 40 while a column grows; half of it for amounts.
-[[nodiscard]] std::vector<TableColumn> ReadTable(TextInput input, const TableSelection& selection);
+[[nodiscard]] Table ReadTable(TextInput input, const TableSelection& selection);
 
 }  // namespace qorvex::cli

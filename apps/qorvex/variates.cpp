@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "apps/qorvex/input_error.h"
+#include "apps/qorvex/unlimited_variates.h"
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"
@@ -14,11 +15,12 @@ namespace {
 
 using Arguments = const VariateArguments&;
 using Figures = TQorFloatVector&;
+using Source = UniformSource;
 
-void DrawMultivariateNormal(Arguments a, Figures x) {
+void DrawMultivariateNormal(Arguments a, Figures x, Source s) {
   TQorFloatVector factor;
   std::int32_t error = 0;
-  Random_MVNorm(a.List(0), a.List(1), factor, x, error);
+  Random_MVNorm(a.List(0), a.List(1), factor, x, error, s);
   if (error != 0) {
     throw InputError(InputFault::kNoResult, "multivariate-normal",
                      "the covariance matrix is not positive definite");
@@ -47,99 +49,123 @@ std::string WhatIsWrongWithInversion(Arguments a) {
              : "--trials: " + Float2EStr(a[1], 0) + ' ' + wrong + ", as --method inversion needs";
 }
 
+std::string WhatIsWrongWithWholeDf(Arguments a) {
+  const char* const wrong = WhatIsWrong(a[0], NumberKind::kInt32);
+  return wrong == nullptr ? "" : "--df: " + Float2Str(a[0]) + ' ' + wrong + ", as --classic needs";
+}
+
 std::vector<Variate> AllVariates() {
   constexpr auto real = NumberKind::kReal;
   constexpr auto positive = NumberKind::kPositive;
-  const NumberParameter df = {"--df", "The degrees of freedom", NumberKind::kInt32};
+  constexpr const char* df = "--df";
+  constexpr const char* of_df = "The degrees of freedom";
   const NumberParameter location = {"--location", "The median. Default: 0", real, 0};
   return {
       {"uniform",
        "Uniform values, from 0 to below 1",
        {},
-       {{"", [](Arguments, Figures x) { x[0] = ClassicRandom(); }}}},
+       {{"", [](Arguments, Figures x, Source s) { x[0] = s(); }}}},
       {"normal",
        "Normal variates",
        {kMean, kStdDev},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_Normal(a[0], a[1]); }}}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Normal(a[0], a[1], s); }}}},
       {"exponential",
        "Exponential variates",
        {{"--mean", "The mean, 1 / rate. Default: 1", positive, 1}},
-       {{"", [](Arguments a, Figures x) { x[0] = a[0] * Random_Exponential(); }}}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[0] * Random_Exponential(s); }}}},
       {"gamma",
        "Gamma variates",
        {{"--shape", "The shape", positive}, kScale},
-       {{"", [](Arguments a, Figures x) { x[0] = a[1] * Random_Gamma(a[0]); }}},
-       "--shape is at least 5e-324"},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[1] * Random_Gamma(a[0], s); },
+         "--shape is at least 5e-324"}}},
       {"chi-square",
        "Chi-square variates",
-       {df},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_ChiSq(static_cast<std::int32_t>(a[0])); }}},
-       "--df is at least 1"},
+       {{df, of_df, NumberKind::kInt32}},
+       {{"",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = Random_ChiSq(static_cast<std::int32_t>(a[0]), s);
+         },
+         "--df is at least 1"}}},
       {"weibull",
        "Weibull variates; with a negative shape, reciprocals of them (Frechet variates)",
        {{"--shape", "The shape", real}, kScale},
-       {{"", [](Arguments a, Figures x) { x[0] = a[1] * Random_Weibull(a[0]); }}},
-       "--shape is not 0, nor within 5e-324 of it"},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[1] * Random_Weibull(a[0], s); },
+         "--shape is not 0, nor within 5e-324 of it"}}},
       {"beta",
        "Beta variates, in [0, 1] or between two ends",
        {{"--a", "The first shape", positive},
         {"--b", "The second shape", positive},
         kLowerEnd,
         kUpperEnd},
-       {{"", [](Arguments a, Figures x) { x[0] = a[2] + (a[3] - a[2]) * Random_Beta(a[0], a[1]); },
-         WhatIsWrongWithSupport}},
-       "--a and --b add up to at most 1e18, and neither is tiny beside the other"},
+       {{"",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = a[2] + (a[3] - a[2]) * Random_Beta(a[0], a[1], s);
+         },
+         "--a and --b add up to at most 1e18, and neither is tiny beside the other",
+         WhatIsWrongWithSupport}}},
       {"student-t",
        "Student's t variates",
-       {df},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_T(static_cast<std::int32_t>(a[0])); }}},
-       "--df is at least 1"},
+       {{df, of_df, NumberKind::kDegreesOfFreedom}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawStudentT(a[0], s); }}},
+       VariateMethod{"",
+                     [](Arguments a, Figures x, Source s) {
+                       x[0] = Random_T(static_cast<std::int32_t>(a[0]), s);
+                     },
+                     "", WhatIsWrongWithWholeDf}},
       {"cauchy",
        "Cauchy variates",
        {location, kScale},
-       {{"", [](Arguments a, Figures x) { x[0] = a[0] + a[1] * Random_Cauchy(); }}}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[0] + a[1] * Random_Cauchy(s); }}}},
       {"log-normal",
        "Log-normal variates; mean and standard deviation of ln X",
        {kMean, kStdDev},
        // Random_LogNormal takes exponentials of these, which need not be in range.
-       {{"", [](Arguments a, Figures x) { x[0] = CheckedExp(Random_Normal(a[0], a[1])); }}}},
+       {{"", [](Arguments a, Figures x,
+                Source s) { x[0] = CheckedExp(Random_Normal(a[0], a[1], s)); }}}},
       {"inverse-gaussian",
        "Generalised inverse Gaussian variates; density as x^(b-1) exp(-h/2 (x + 1/x))",
        {{"--h", "The concentration h", positive}, {"--b", "The order b, at least 0", real}},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_Inv_Gauss(a[0], a[1]); }}},
-       "--b is at least 0, both are at most 1e14, and --h is neither tiny nor small beside --b"},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Inv_Gauss(a[0], a[1], s); },
+         "--b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below 1, and --h "
+         "is "
+         "neither tiny nor small beside --b"}}},
       {"von-mises",
        "Angles of the von Mises distribution, from -pi to pi",
        {{"--concentration", "The concentration", real}},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_von_Mises(a[0]); }}},
-       "--concentration is at least 0 and below 10"},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawVonMises(a[0], s); },
+         "--concentration is at least 0"}},
+       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_von_Mises(a[0], s); },
+                     "--concentration is at least 0 and, with --classic, below 10"}},
       {"multivariate-normal",
        "Vectors of normal variates, one a line",
        {{"--mean", "The means", NumberKind::kReals},
         {"--covariance", "The upper triangle of the covariance matrix, column by column",
          NumberKind::kReals}},
-       {{"", DrawMultivariateNormal, WhatIsWrongWithCovariance}}},
+       {{"", DrawMultivariateNormal, "", WhatIsWrongWithCovariance}}},
       {"binomial",
        "Binomial variates: successes in independent trials",
        {kSuccessProbability, {"--trials", "The number of trials", NumberKind::kInt64}},
-       {{"btpe", [](Arguments a,
-                    Figures x) { x[0] = Random_Binomial2(static_cast<std::int64_t>(a[1]), a[0]); }},
+       {{"btpe",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = Random_Binomial2(static_cast<std::int64_t>(a[1]), a[0], s);
+         }},
         {"inversion",
-         [](Arguments a, Figures x) {
-           x[0] = Random_Binomial1(static_cast<std::int32_t>(a[1]), a[0]);
+         [](Arguments a, Figures x, Source s) {
+           x[0] = Random_Binomial1(static_cast<std::int32_t>(a[1]), a[0], s);
          },
-         WhatIsWrongWithInversion}}},
+         "", WhatIsWrongWithInversion}}},
       {"negative-binomial",
        "Negative binomial variates: successes before a given number of failures",
        {{kSuccessProbability.option, kSuccessProbability.description, NumberKind::kProbability},
         {"--failures", "The number of failures, which need not be whole", positive}},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_Neg_Binomial(a[1], a[0]); }}},
-       "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 1e8 beyond, where p is not "
-       "within 1e-8 of 1"},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Neg_Binomial(a[1], a[0], s); },
+         "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 2e7 beyond, where p is not "
+         "within 5e-8 of 1"}}},
       {"poisson",
        "Poisson variates",
        {kLambda},
-       {{"", [](Arguments a, Figures x) { x[0] = Random_Poisson(a[0]); }}}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawPoisson(a[0], s); }}},
+       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Poisson(a[0], s); }}},
   };
 }
 

@@ -4,12 +4,14 @@
 /// The variates that `random` knows, their parameters and routines.
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "apps/qorvex/number_parameter.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/random/uniform_source.h"
 
 namespace qorvex::cli {
 
@@ -29,11 +31,14 @@ class VariateArguments {
   std::vector<TQorFloatVector> lists_;
 };
 
+/// A way to draw a variate.
 struct VariateMethod {
   /// Empty where there is only one.
   const char* name;
-  /// Draws from the library's own source into a vector of one element, or of its own length.
-  void (*draw)(const VariateArguments& arguments, TQorFloatVector& variate);
+  /// Draws into a vector of one element, or of its own length.
+  void (*draw)(const VariateArguments& arguments, TQorFloatVector& variate, UniformSource source);
+  /// What it takes of the parameters' numbers, or empty if all.
+  const char* limits = "";
   /// What is wrong with parameters that are fine one by one, or empty; null where nothing can be.
   std::string (*inconsistency)(const VariateArguments& arguments) = nullptr;
 };
@@ -44,8 +49,8 @@ struct Variate {
   std::vector<NumberParameter> parameters;
   /// The first one is taken when none is asked for.
   std::vector<VariateMethod> methods;
-  /// What the routine takes of the parameters' numbers, or empty if all.
-  const char* limits = "";
+  /// The classic routine, where the methods go beyond it.
+  std::optional<VariateMethod> classic = std::nullopt;
 };
 
 /// The variates in the order of --help.

@@ -1,4 +1,5 @@
 #include <QFormLayout>
+#include <QHBoxLayout>
 #include <QtTest/QTest>
 #include <cmath>
 #include <limits>
@@ -34,6 +35,14 @@ std::unique_ptr<QWidget> Cells() {
   cell("Improper fraction", new TQorFractEdit, 2 + third)
       ->setFractionDisplay(TQorFractEdit::fdImproper);
   cell("DecimalsFract 2", new TQorFractEdit, std::acos(-1.0L))->setDecimalsFract(2);
+  auto* const narrow = new QHBoxLayout;
+  for (const int width : {76, 56, 30}) {
+    auto* const edit = new TQorFloatEdit;
+    edit->setValue(-7654321.5L);
+    edit->setFixedWidth(width);
+    narrow->addWidget(edit);
+  }
+  rows->addRow("-7654321.5 in narrow cells", narrow);
   TQorFloatEdit* const marked = cell("No number", new TQorFloatEdit, 0);
   form->show();
   if (!QTest::qWaitForWindowActive(form.get())) return form;

@@ -11,6 +11,7 @@
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/base/fitted_text.h"
 #include "qorvex/base/fractions.h"
 #include "qorvex/base/package_units.h"
 #include "qorvex/base/random.h"

@@ -2,11 +2,8 @@
 
 #include <QApplication>
 #include <QCoreApplication>
-#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QRegularExpression>
-#include <QStyleOptionFrame>
-#include <QToolTip>
 #include <cmath>
 #include <limits>
 
@@ -47,6 +44,8 @@ void TQorCustomEdit::ShowAnew() {
 }
 
 void TQorCustomEdit::Show(Extended value, bool has_value, bool keep_pending) {
+  // Values with the same text may have different shorter ones.
+  if (!detail::SameElement(value, value_)) update();
   value_ = value;
   has_value_ = has_value;
   ShowText(ShownText(), keep_pending);
@@ -160,31 +159,19 @@ void TQorCustomEdit::ApplyColors() {
   applying_colors_ = false;
 }
 
-bool TQorCustomEdit::IsCutOff() const {
-  QStyleOptionFrame option;
-  initStyleOption(&option);
-  const int width = style()->subElementRect(QStyle::SE_LineEditContents, &option, this).width();
-  // The line edit keeps two pixels free on either side of its text.
-  return fontMetrics().horizontalAdvance(text()) > width - 4;
+QString TQorCustomEdit::ShorterText() const {
+  // What a null shows is no number.
+  if (Null()) return TextCell::ShorterText();
+  const auto local = [this](std::string_view text) { return detail::LocalNumber(text, locale()); };
+  return local(FittedFloatText(
+      value_, Digits(), [this, local](std::string_view text) { return HasRoom(local(text)); }));
 }
 
-bool TQorCustomEdit::event(QEvent* event) {
-  if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
-    const auto& help = static_cast<const QHelpEvent&>(*event);
-    QString tip;
-    if (invalid_) {
-      tip = QCoreApplication::translate("TQorCustomEdit",
-                                        "\"%1\" is not a number. Escape brings back the value.")
-                .arg(text());
-    } else if (IsCutOff()) {
-      tip = text();
-    }
-    if (!tip.isEmpty()) {
-      QToolTip::showText(help.globalPos(), tip.toHtmlEscaped(), this);
-      return true;
-    }
-  }
-  return TextCell::event(event);
+QString TQorCustomEdit::Tip() const {
+  if (!invalid_) return TextCell::Tip();
+  return QCoreApplication::translate("TQorCustomEdit",
+                                     "\"%1\" is not a number. Escape brings back the value.")
+      .arg(text());
 }
 
 void TQorCustomEdit::changeEvent(QEvent* event) {

@@ -8,6 +8,7 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
+#include "qorvex/base/fitted_text.h"
 #include "qorvex/base_controls/cell_properties.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/base_controls/unit.h"
@@ -26,8 +27,10 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 /// others.
 ///
 /// Numbers are written and read as the widget's locale has them, without separators of groups;
-/// the decimal key of the keypad types the separator of the locale. A text that is cut off shows
-/// whole in a tool tip.
+/// the decimal key of the keypad types the separator of the locale.
+///
+/// A number that is wider than the cell is painted with fewer digits, or as kNoRoom: see
+/// FittedFloatText.
 class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Q_OBJECT
 
@@ -88,10 +91,15 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
 
   /// The text of a value that is not null, as the cell shows it.
   [[nodiscard]] virtual QString TextOf(Extended value) const = 0;
+  /// The digits of a value whose text has no room, before any are given up.
+  [[nodiscard]] virtual FloatDigits Digits() const = 0;
   /// The value of a text that is not blank; nothing when it is none.
   [[nodiscard]] virtual std::optional<Extended> ValueOf(const QString& text) const = 0;
   /// A text of several cells goes to the owner, another one into the text.
   void Paste(const QString& text) override;
+  [[nodiscard]] QString ShorterText() const override;
+  /// What is wrong with a text that is marked.
+  [[nodiscard]] QString Tip() const override;
   /// What decides the text has changed: shows the value anew.
   void ShowAnew();
 
@@ -103,7 +111,6 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
 
   /// @{
   /// Qt's events.
-  bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
@@ -115,7 +122,6 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   void Show(Extended value, bool has_value, bool keep_pending);
   void Mark(bool invalid);
   void ApplyColors();
-  [[nodiscard]] bool IsCutOff() const;
 
   Extended value_ = 0;
   bool has_value_ = true;

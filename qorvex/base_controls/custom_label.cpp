@@ -10,6 +10,7 @@
 #include <algorithm>
 
 #include "qorvex/base_controls/detail/accessible_label.h"
+#include "qorvex/base_controls/detail/find_by_name.h"
 
 namespace qorvex::inline QorvexBaseControls {
 
@@ -55,10 +56,7 @@ void TQorCustomLabel::setWordWrap(bool wrap) {
 
 QWidget* TQorCustomLabel::FocusControl() const {
   if (focus_control_name_.isEmpty()) return focus_control_;
-  for (const QWidget* ancestor = parentWidget(); ancestor; ancestor = ancestor->parentWidget()) {
-    if (auto* const control = ancestor->findChild<QWidget*>(focus_control_name_)) return control;
-  }
-  return nullptr;
+  return detail::FindByName<QWidget>(*this, focus_control_name_);
 }
 
 QString TQorCustomLabel::FocusControlName() const {

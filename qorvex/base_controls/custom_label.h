@@ -101,7 +101,8 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
 
   /// @{
   /// The widget that the accelerator focuses; none at first. It may be named, as forms do, before
-  /// it exists: when it is needed, the nearest ancestor that has a child of the name decides.
+  /// it exists: when it is needed, the nearest ancestor in its window that has a child of the name
+  /// decides.
   [[nodiscard]] QWidget* FocusControl() const;
   [[nodiscard]] QString FocusControlName() const;
   void setFocusControl(QWidget* control);

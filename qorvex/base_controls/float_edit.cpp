@@ -1,9 +1,5 @@
 #include "qorvex/base_controls/float_edit.h"
 
-#include <cmath>
-#include <string>
-
-#include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 
 namespace qorvex::inline QorvexBaseControls {
@@ -15,10 +11,11 @@ TQorFloatEdit::TQorFloatEdit(QWidget* parent) : TQorCustomEdit(parent) {
 TQorFloatEdit::~TQorFloatEdit() = default;
 
 QString TQorFloatEdit::TextOf(Extended value) const {
-  const bool exact = FullAccuracy() || std::fabs(value) >= 0x1p63L;
-  std::string text = exact ? Float2Str(value) : Float2EStr(value, DecimalPlaces());
-  if (TrimTrailingZeroes()) text = StripTChStr(text, '0');
-  return detail::LocalNumber(text, locale());
+  return detail::LocalNumber(FloatText(value, Digits()), locale());
+}
+
+FloatDigits TQorFloatEdit::Digits() const {
+  return {.decimals = DecimalPlaces(), .all = FullAccuracy(), .trim = TrimTrailingZeroes()};
 }
 
 std::optional<Extended> TQorFloatEdit::ValueOf(const QString& text) const {

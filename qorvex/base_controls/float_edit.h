@@ -46,6 +46,7 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
 
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
+  [[nodiscard]] FloatDigits Digits() const override;
   [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
 };
 

@@ -7,6 +7,12 @@
 
 namespace qorvex::inline QorvexBaseControls {
 
+namespace {
+
+constexpr int kAllDecimals = 18;
+
+}  // namespace
+
 TQorFractEdit::TQorFractEdit(QWidget* parent) : TQorCustomEdit(parent) {
   setValue(0);
 }
@@ -27,6 +33,10 @@ QString TQorFractEdit::TextOf(Extended value) const {
   const auto display = static_cast<TQorFractionDisplay>(display_);
   return detail::LocalNumber(Fraction2Str(Float2MixedFraction(value, decimals_), display),
                              locale());
+}
+
+FloatDigits TQorFractEdit::Digits() const {
+  return {.decimals = decimals_, .all = decimals_ >= kAllDecimals};
 }
 
 std::optional<Extended> TQorFractEdit::ValueOf(const QString& text) const {

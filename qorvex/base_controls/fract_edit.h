@@ -12,7 +12,8 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// A cell that shows its value as a fraction which agrees with it to DecimalsFract decimals, and
 /// takes fractions ("2 1/3", "-7/5") as well as decimal numbers. The value is a float all the
-/// same: a fraction that is typed is rounded to 80 bits once.
+/// same: a fraction that is typed is rounded to 80 bits once. A fraction that is wider than the
+/// cell is painted as a decimal number of DecimalsFract decimals, as far as these have room.
 class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
   Q_OBJECT
   /// @{
@@ -60,6 +61,7 @@ class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
 
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
+  [[nodiscard]] FloatDigits Digits() const override;
   [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
 
  private:

@@ -4,14 +4,45 @@
 #include <QClipboard>
 #include <QDropEvent>
 #include <QFocusEvent>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QRegularExpression>
+#include <QStyle>
+#include <QStyleOptionFrame>
+#include <QTextLayout>
+#include <QToolTip>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
 namespace qorvex::inline QorvexBaseControls {
+
+namespace {
+
+// What the line edit leaves free around its text.
+constexpr int kMarginAtSide = 2;
+constexpr int kMarginAbove = 1;
+
+QTextLine LineOf(QTextLayout& layout) {
+  layout.beginLayout();
+  const QTextLine line = layout.createLine();
+  layout.endLayout();
+  return line;
+}
+
+// The pixels that the line edit counts for a text, and those that it has.
+int WidthOf(const QTextLine& line) {
+  return qRound(line.naturalTextWidth()) + 1;
+}
+
+int RoomFor(const QRect& contents) {
+  return contents.width() - 2 * kMarginAtSide;
+}
+
+}  // namespace
 
 TextCell::TextCell(QWidget* parent) : QLineEdit(parent) {}
 TextCell::~TextCell() = default;
@@ -44,6 +75,91 @@ void TextCell::Leave() {
   inside_ = false;
   CommitOrRestore();
   Q_EMIT Left();
+}
+
+bool TextCell::IsEdited() const {
+  // A text that is not the cell's own has been typed, or set by the program.
+  if (text() != shown_) return true;
+  const bool partly_selected = hasSelectedText() && selectedText() != text();
+  return partly_selected || (hasFocus() && !isReadOnly());
+}
+
+QString TextCell::PaintedText() const {
+  const QString whole = displayText();
+  return IsEdited() || HasRoom(whole) ? whole : ShorterText();
+}
+
+QString TextCell::ShorterText() const {
+  return fontMetrics().elidedText(displayText(), Qt::ElideRight, RoomFor(Contents()) - 1);
+}
+
+QString TextCell::Tip() const {
+  return HasRoom(displayText()) ? QString() : text();
+}
+
+bool TextCell::HasRoom(const QString& text) const {
+  const int room = RoomFor(Contents());
+  // Most texts have room to spare, and this takes half the time of a layout.
+  constexpr int spare = 3;
+  if (fontMetrics().horizontalAdvance(text) + spare <= room) return true;
+  QTextLayout layout(text, font(), this);
+  return WidthOf(LineOf(layout)) <= room;
+}
+
+QRect TextCell::Contents() const {
+  QStyleOptionFrame frame;
+  initStyleOption(&frame);
+  const QRect contents = style()->subElementRect(QStyle::SE_LineEditContents, &frame, this);
+  return contents.marginsRemoved(textMargins());
+}
+
+void TextCell::paintEvent(QPaintEvent* event) {
+  const QString painted = PaintedText();
+  if (painted == displayText()) {
+    QLineEdit::paintEvent(event);
+    return;
+  }
+  QPainter painter(this);
+  QStyleOptionFrame frame;
+  initStyleOption(&frame);
+  style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
+
+  // The shorter text stands where the line edit would have it, whose direction is the text's.
+  QTextLayout layout(painted, font(), this);
+  const QTextLine line = LineOf(layout);
+  const QFontMetrics metrics = fontMetrics();
+  const QSize size(WidthOf(line),
+                   std::max(metrics.height(), metrics.boundingRect(painted).height()));
+  const QRect contents = Contents();
+  const auto direction = painted.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+  const Qt::Alignment alignment = QStyle::visualAlignment(direction, this->alignment());
+  QPoint place(contents.x() + kMarginAtSide,
+               contents.y() + (contents.height() - size.height() + 1) / 2);
+  const int free = RoomFor(contents) - size.width();
+  if (alignment.testFlag(Qt::AlignRight)) place.rx() += free - 1;
+  if (alignment.testFlag(Qt::AlignHCenter)) place.rx() += free / 2;
+  if (alignment.testFlag(Qt::AlignTop)) place.setY(contents.y() + kMarginAbove);
+  if (alignment.testFlag(Qt::AlignBottom)) {
+    place.setY(contents.y() + contents.height() - size.height() - kMarginAbove);
+  }
+
+  painter.setClipRect(contents);
+  const bool selected = hasSelectedText();
+  if (selected) painter.fillRect(QRect(place, size), palette().highlight());
+  painter.setPen(palette().color(selected ? QPalette::HighlightedText : QPalette::Text));
+  layout.draw(&painter, place + QPoint(0, metrics.ascent() - qRound(line.ascent())));
+}
+
+bool TextCell::event(QEvent* event) {
+  if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
+    const QString tip = Tip();
+    if (!tip.isEmpty()) {
+      QToolTip::showText(static_cast<const QHelpEvent&>(*event).globalPos(), tip.toHtmlEscaped(),
+                         this);
+      return true;
+    }
+  }
+  return QLineEdit::event(event);
 }
 
 void TextCell::focusInEvent(QFocusEvent* event) {

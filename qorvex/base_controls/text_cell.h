@@ -19,6 +19,10 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 /// from another widget and when it has gone to one. A menu that opens or a window that becomes
 /// inactive is neither; the latter commits. What is pasted or dropped goes through Paste, by
 /// whatever way it comes.
+///
+/// A text that is wider than the cell is not painted in part, which could be read as another one,
+/// but in a shorter form, unless it is being edited; a tool tip shows it whole. text() is the whole
+/// text at all times.
 class QORVEX_EXPORT TextCell : public QLineEdit {
   Q_OBJECT
 
@@ -36,6 +40,11 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// Leaves the cell as a change of the focus does: CommitOrRestore, then Left. Nothing happens
   /// when the cell has not been entered.
   void Leave();
+
+  /// What is painted: the text where it has room or is being edited, its shorter form elsewhere. A
+  /// text is being edited while it has the focus, unless it is read-only, and while a part of it is
+  /// selected.
+  [[nodiscard]] QString PaintedText() const;
 
   /// The menu that a click on the cell opens; the caller owns it.
   [[nodiscard]] QMenu* CreateContextMenu();
@@ -61,6 +70,13 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// Takes a text that is pasted or dropped. This one takes what stands in front of the first tab
   /// or line end, without the blanks around it.
   virtual void Paste(const QString& text);
+  /// What is painted in place of the text that the cell shows, which has no room. This one is the
+  /// front of it with an ellipsis.
+  [[nodiscard]] virtual QString ShorterText() const;
+  /// Whether a text can be painted in full width.
+  [[nodiscard]] bool HasRoom(const QString& text) const;
+  /// What a tool tip shows: the text, where it has no room; empty for no tip.
+  [[nodiscard]] virtual QString Tip() const;
   /// Between Entered and Left.
   [[nodiscard]] bool Inside() const noexcept { return inside_; }
 
@@ -68,14 +84,19 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// Qt's events.
   void contextMenuEvent(QContextMenuEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
   /// @}
 
  private:
   void PasteFrom(const QMimeData* contents);
+  [[nodiscard]] bool IsEdited() const;
+  // Where the frame and the margins leave place for a text.
+  [[nodiscard]] QRect Contents() const;
 
   QString shown_;
   SelectionBehaviour behaviour_;

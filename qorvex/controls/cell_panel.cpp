@@ -8,6 +8,7 @@
 #include <limits>
 #include <utility>
 
+#include "qorvex/base_controls/detail/find_by_name.h"
 #include "qorvex/controls/detail/edit_window.h"
 
 namespace qorvex::inline QorvexControls {
@@ -77,9 +78,13 @@ QString CellPanel::UICtrlName() const {
 }
 
 void CellPanel::setUICtrl(TQorUICtrl* settings) {
+  ui_ctrl_name_.clear();
+  LinkTo(settings);
+}
+
+void CellPanel::LinkTo(TQorUICtrl* settings) {
   if (ui_ctrl_) ui_ctrl_->disconnect(this);
   ui_ctrl_ = settings;
-  ui_ctrl_name_.clear();
   if (ui_ctrl_) {
     connect(ui_ctrl_, &TQorUICtrl::Changed, this, &CellPanel::ApplySettings);
     connect(ui_ctrl_, &QObject::destroyed, this, &CellPanel::ApplySettings);
@@ -91,11 +96,14 @@ void CellPanel::setUICtrl(const QString& name) {
   setUICtrl(nullptr);
   ui_ctrl_name_ = name;
   FindUICtrl();
+  // A page comes into its form, and is polished, before the form is complete.
+  QMetaObject::invokeMethod(this, &CellPanel::FindUICtrl, Qt::QueuedConnection);
 }
 
 void CellPanel::FindUICtrl() {
   if (ui_ctrl_name_.isEmpty()) return;
-  if (auto* settings = window()->findChild<TQorUICtrl*>(ui_ctrl_name_)) setUICtrl(settings);
+  auto* const settings = QorvexBaseControls::detail::FindByName<TQorUICtrl>(*this, ui_ctrl_name_);
+  if (settings != nullptr && settings != ui_ctrl_) LinkTo(settings);
 }
 
 void CellPanel::setUIUsage(TQorUICtrl::TQorUIUsage usage) {

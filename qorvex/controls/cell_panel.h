@@ -57,7 +57,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// @{
   /// The shared settings that this control is linked to; none at first. A form names them by their
-  /// object name, which is looked up in the control's window, again when the form is complete.
+  /// object name. The nearest of that name in the control's window is looked up at once, in the
+  /// next turn of the event loop, and whenever the control is shown.
   [[nodiscard]] TQorUICtrl* UICtrl() const noexcept { return ui_ctrl_; }
   [[nodiscard]] QString UICtrlName() const;
   void setUICtrl(TQorUICtrl* settings);
@@ -324,6 +325,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void focusInEvent(QFocusEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   /// @}
 
@@ -365,6 +367,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ApplySettings();
   void ApplyTo(TQorCustomEdit& cell, const CellSettings& settings) const;
   void SetTop(Axis& axis, quint32 top);
+  void LinkTo(TQorUICtrl* settings);
   void FindUICtrl();
 
   [[nodiscard]] quint32 RowOf(const TQorCustomEdit* cell) const;

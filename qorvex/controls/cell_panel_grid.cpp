@@ -229,4 +229,9 @@ void CellPanel::resizeEvent(QResizeEvent* event) {
   Arrange();
 }
 
+void CellPanel::showEvent(QShowEvent* event) {
+  TQorCustomPanel::showEvent(event);
+  FindUICtrl();
+}
+
 }  // namespace qorvex::inline QorvexControls

@@ -9,6 +9,7 @@
 /// GrandMean and Matrix2FloatMatrix say of amounts. There is no row reduction and no matrix product
 /// of money.
 
+#include "qorvex/base/errors.h"
 #include "qorvex/matrix/access.h"
 #include "qorvex/matrix/arithmetic.h"
 #include "qorvex/matrix/building.h"

@@ -3,6 +3,7 @@
 /// @file
 /// Unit QorvexMatrix: matrices of the ten numeric element types.
 
+#include "qorvex/base/errors.h"
 #include "qorvex/matrix/access.h"
 #include "qorvex/matrix/arithmetic.h"
 #include "qorvex/matrix/building.h"

@@ -3,6 +3,8 @@
 /// @file
 /// Unit QorvexRandom: random variates.
 
+#include "qorvex/base/errors.h"
+#include "qorvex/base/random.h"
 #include "qorvex/random/beta.h"
 #include "qorvex/random/binomial_btpe.h"
 #include "qorvex/random/binomial_inversion.h"

@@ -17,8 +17,9 @@ namespace qorvex::inline QorvexRandom {
 /// unit of sk, as the number of successes before a failure. Stuck, if there are any, on 0 and NaN.
 /// O(mean) for p up to 0.7, O(sk + 1/(1-p)) above.
 ///
-/// EMathError rsInvalidValue: unless sk > 0, p > 0 and p < 1; for more than 1E8 steps to be
-/// expected; when the probability of 0, from which the inversion starts, is below 5E-324.
+/// EMathError rsInvalidValue: unless sk > 0, p > 0 and p < 1; for more than 2E7 steps to be
+/// expected, about 1.5 s; when the probability of 0, from which the inversion starts, is below
+/// 5E-324.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Neg_Binomial(Extended sk, Extended p,
                                                          UniformSource source);
 [[nodiscard]] inline Extended Random_Neg_Binomial(Extended sk, Extended p) {

@@ -5,9 +5,12 @@
 ///
 /// Every variate of the unit takes its uniform values from a source, which is its last parameter,
 /// and has a short form without it that draws from ClassicRandom. Nothing is kept between calls:
-/// every call computes what its parameters need, so equal sources give equal variates, and calls
-/// that draw from sources of their own may run on several threads. Whole numbers are held in
-/// extended values, too.
+/// every call computes what its parameters need, so that calls which draw from sources of their own
+/// may run on several threads. Whole numbers are held in extended values, too.
+///
+/// Equal sources give the same bits on processors of one family. Logarithms and exponentials are
+/// the processor's, whose last bit differs between makes: elsewhere the last digit of what is not a
+/// count can differ, and rarely a rejection loop takes another branch.
 ///
 /// A source is expected to return independent values in [0, 1), with all 64 bits if the far tails
 /// matter: a source with a step of 2^-53 has no normal variate beyond 12.1, for instance. Values

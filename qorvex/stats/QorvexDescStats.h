@@ -8,6 +8,7 @@
 #include <QStringList>
 #include <cstdint>
 
+#include "qorvex/base/errors.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/base_controls/unit.h"
@@ -125,6 +126,7 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   /// @{
   /// A result, as the last update found it; see BeginUpdate. Mode is the unique mode when
   /// ModeExists; Kurtosis is the excess kurtosis. The inter-quartile range is not published.
+  [[nodiscard]] const DescriptiveResults& Results() const noexcept { return stats_.Results(); }
   [[nodiscard]] Extended Maximum() const noexcept { return stats_.Results().maximum; }
   [[nodiscard]] Extended Mean() const noexcept { return stats_.Results().mean; }
   [[nodiscard]] Extended Median() const noexcept { return stats_.Results().median; }

@@ -3,6 +3,7 @@
 /// @file
 /// Unit QorvexStatistics: statistics over vectors, and probability distributions.
 
+#include "qorvex/base/errors.h"
 #include "qorvex/stats/beta_distribution.h"
 #include "qorvex/stats/binomial.h"
 #include "qorvex/stats/chi_square.h"

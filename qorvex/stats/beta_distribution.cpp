@@ -86,9 +86,8 @@ Extended BetaDistBetween(Extended x1, Extended x2, Extended a, Extended b) {
 
 Extended BetaDistBetween(Extended x1, Extended x2, Extended a, Extended b, Extended lower,
                          Extended upper) {
-  RequireShapes(a, b);
-  const Support support(lower, upper);
-  return BetaDistBetween(support.ToUnit(x1), support.ToUnit(x2), a, b);
+  return detail::ProbabilityBetween(
+      x1, x2, [=](Extended x) { return BetaDistLess(x, a, b, lower, upper); });
 }
 
 Extended InvBetaDistLess(Extended a, Extended b, Extended p) {

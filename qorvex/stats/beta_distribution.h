@@ -45,8 +45,7 @@ QORVEX_EXPORT void BetaPDFValues(Extended a, Extended b, Extended lower, Extende
 
 /// @{
 /// The probability of at most x, of more than x (1 - less), and of the interval between two points
-/// in either order, which is 0 for points that are the same within QorTolerance: on [0, 1] before
-/// any check, otherwise after all, for the scaled points.
+/// in either order, which is 0, before any check, for points that are the same by SameFloat.
 [[nodiscard]] QORVEX_EXPORT Extended BetaDistLess(Extended x, Extended a, Extended b);
 [[nodiscard]] QORVEX_EXPORT Extended BetaDistLess(Extended x, Extended a, Extended b,
                                                   Extended lower, Extended upper);

@@ -14,7 +14,7 @@
 /// - 1 - p rounds, and (1 - p)^(n - k) multiplies that error by n - k: with four billion trials and
 ///   a small p, 1e-10 of the probability.
 /// - Upper probabilities are 1 less the lower ones, with an absolute error of about 1e-19 n; small
-///   ones lose their digits.
+///   ones lose their digits and can be negative by as much, where the sum has come out above 1.
 ///
 /// EMathError: rsBinomDistInvalid unless n > 0, no count exceeds n and 0 <= p <= 1, which NaN is
 /// not; then rsBinomOverflowed. A probability costs one BinomialCoeff and two powers. Sums add one

@@ -139,7 +139,6 @@ Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean, bool samp
 }
 
 Extended GeometricStdDev(const TQorFloatVector& vector, bool sample) {
-  CheckedDivisor(vector, sample ? Divisor::kSample : Divisor::kPopulation);
   return GeometricStdDev(vector, GeometricMean(vector), sample);
 }
 

@@ -67,8 +67,9 @@ QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended
 /// ln mean) squared over n - 1 when `sample` is true, over n when it is false (Standardise's flag
 /// has the opposite sense). EMathError: rsVectorIsEmpty; for the sample form rsVectorG1 for one
 /// element; rsVectorNotPos unless every element is greater than QorTolerance; EInvalidOp for a
-/// negative mean and EZeroDivide for a mean of 0. The form without a mean takes GeometricMean. A
-/// mean without the flag does not compile: it would pass for the flag.
+/// negative mean and EZeroDivide for a mean of 0. The form without a mean takes GeometricMean
+/// first, so that rsVectorNotPos comes before rsVectorG1. A mean without the flag does not compile:
+/// it would pass for the flag.
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean,
                                                      bool sample);
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, bool sample);

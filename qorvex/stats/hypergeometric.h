@@ -11,7 +11,8 @@
 /// - C(pop_size, sample_size) may be beyond the extended range, which raises EMathError with
 ///   rsBinomOverflowed; a sample of half the population does so from pop_size = 16392 on.
 /// - Upper probabilities are 1 less the lower ones, with an absolute error of about 1e-19
-///   sample_size; small ones lose their digits.
+///   sample_size; small ones lose their digits and can be negative by as much, where the sum has
+///   come out above 1.
 ///
 /// EMathError: rsHyperGeometricInvalid unless pop_size > 0, sample_size > 0 and neither sample_size
 /// nor successes exceeds pop_size; then rsBinomOverflowed. A probability costs three BinomialCoeff.

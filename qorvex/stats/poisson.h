@@ -11,7 +11,8 @@
 ///
 /// - Factorials end at 1754: a count above it raises EMathError with rsFactOverflow.
 /// - Upper probabilities are 1 less the lower ones, with an absolute error of about 1e-19 lambda;
-///   small ones lose their digits.
+///   small ones lose their digits and can be negative by as much, where the sum has come out above
+///   1.
 ///
 /// EMathError: rsPoissonInvalid for lambda <= 0, then rsFactOverflow. NaN gives NaN, except in the
 /// table, which rejects it, and in PoissonLess for k = 0; for an infinite lambda every count has

@@ -9,6 +9,7 @@
 /// LinearTransformVector say of amounts. SameCurrency decides which amounts are equal in a ranking.
 /// There are no squares, products, element-wise functions or moving averages of money.
 
+#include "qorvex/base/errors.h"
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/arithmetic.h"
 #include "qorvex/vector/building.h"

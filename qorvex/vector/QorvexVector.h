@@ -3,6 +3,7 @@
 /// @file
 /// Unit QorvexVector: vectors of the ten numeric element types.
 
+#include "qorvex/base/errors.h"
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/arithmetic.h"
 #include "qorvex/vector/building.h"

@@ -52,6 +52,62 @@ TEST(Describe, RefusesBadInputWithStatusTwo) {
                 "the range of extended precision");
 }
 
+TEST(Describe, RemarksOnARowThatMayNotBeAHeader) {
+  const std::string doubt = "qorvex: standard input: the first row was taken for a header because ";
+  const std::string decide = "; --header and --no-header decide\n";
+  for (const auto& [input, remark] : {
+           std::pair("NA,2\\n1,3\\n5,4' | qorvex describe -",
+                     doubt + "\"NA\" is not a number, though \"2\" is" + decide),
+           std::pair("id,NA,1e9\\na,1,3\\nb,5,4' | qorvex fit line - --x 2 --y 3",
+                     doubt + "\"id\" is not a number, though \"1e9\" is" + decide),
+           std::pair("1.2.3\\n4' | qorvex describe -",
+                     doubt + "\"1.2.3\" is not a number" + decide),
+           std::pair("x,y\\n1,3\\n5,4' | qorvex describe -", std::string()),
+           std::pair("x,2\\n1,3\\n5,4' | qorvex describe - --header", std::string()),
+           std::pair("NA,2\\n1,3\\n5,4' | qorvex describe - --no-header --column 2", std::string()),
+       }) {
+    ExpectOutput(std::string("printf '") + input + " 2>&1 >/dev/null", remark);
+  }
+  ExpectOutput("printf '2019\\n1\\n3' | qorvex describe - --header | grep -E 'Column|Mean'",
+               "Column 1: 2019\nMean:\t2.0000\n");
+  ExpectRefusal("printf 'NA,2\\n1,3' | qorvex describe - --no-header",
+                "standard input:1: column 1: \"NA\" is not a number; --column chooses the columns "
+                "to read");
+}
+
+TEST(Describe, RemarksOnFiguresThatShowNoDigit) {
+  const std::string remark = "qorvex: standard input: column 1: ";
+  const std::string enough = " or --json shows all\n";
+  // Sum of squares 1.4e-17, variance 1e-18, and ten figures from 1e-9 on.
+  const std::string small = "printf '1e-9\\n2e-9\\n3e-9\\n' | qorvex describe - ";
+  for (const auto& [command, remarks] : {
+           std::pair(small, remark +
+                                "12 figures other than 0 without a digit in 4 decimals; "
+                                "--decimals 21" +
+                                enough),
+           std::pair(small + "--decimals 9", remark +
+                                                 "2 figures other than 0 without a digit in 9 "
+                                                 "decimals; --decimals 21" +
+                                                 enough),
+           std::pair(small + "--decimals 21", std::string()),
+           std::pair(small + "--json", std::string()),
+           std::pair(std::string("printf '1e-200\\n' | qorvex describe - --decimals 1"),
+                     remark + "9 figures other than 0 without a digit in 1 decimal; --json shows "
+                              "all\n"),
+           // Sums of what cancels, and means of equal values, leave rounding errors.
+           std::pair(std::string("printf '0.1\\n-0.3\\n0.2\\n' | qorvex describe -"),
+                     std::string()),
+           std::pair(std::string("yes 0.1 | head -n 77 | qorvex describe -"), std::string()),
+           std::pair(std::string("printf '0.0001\\n-0.0001\\n' | qorvex describe - --currency "
+                                 "--decimals 2"),
+                     remark +
+                         "6 figures other than 0 without a digit in 2 decimals; --decimals 11" +
+                         enough),
+       }) {
+    ExpectOutput(command + " 2>&1 >/dev/null", remarks);
+  }
+}
+
 TEST(Describe, AddsMoneyExactly) {
   // The extended sum cannot hold tenths beside so large an amount.
   const std::string tenths =
@@ -177,11 +233,12 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
       {"", {"", "decsribe x", "describe", "matrix"}},
       {"describe - ",
        {"--decimals -1", "--decimals 256", "--decimals x", "--decimals 0x10", "--delimiter 5",
-        "--delimiter ''", "--delimiter ab", "--nosuch", "--column 1 extra", "--column"}},
+        "--delimiter ''", "--delimiter ab", "--nosuch", "--column 1 extra", "--column",
+        "--header --no-header"}},
       {"matrix ", {"invert -", "inverse", "inverse - -", "multiply -", "multiply - -"}},
       {"dist ",
        {"", "gauss", "normal", "normal most", "normal inv", "normal inv --p .5 --upper-p .5",
-        "normal less --x 1 --log --prescribed"}},
+        "normal less --x 1 --log --classic"}},
       {"random ", {"", "gauss", "uniform --seed 1 2"}},
       {"fit ", {"", "line", "line -", "line - --x 1", "line - --y 1", "cubic - --x 1 --y 2"}},
       {"matrix rank - ", {"--decimals 2", "--tolerance x", "--tolerance nan", "--tolerance=-1"}},
@@ -195,6 +252,25 @@ TEST(Program, RefusesWrongUsageWithStatusTwo) {
           << command << ending << '\n'
           << output;
     }
+  }
+}
+
+TEST(Program, NamesWhatNothingTakesInTheOrderInWhichItStands) {
+  for (const auto& [command, message] : {
+           std::pair("desc ok.csv",
+                     "there is no command \"desc\"; there are describe, fit, matrix, dist, random"),
+           std::pair("dist normal inv --p 0.5 1", "dist normal inv: unexpected \"1\""),
+           std::pair("fit --x 2 t.csv", "fit: unexpected \"--x\", \"2\", \"t.csv\""),
+           std::pair(
+               "dist beta most --a 1",
+               "dist beta: there is no command \"most\"; there are less, greater, between, inv, "
+               "pdf, table"),
+           std::pair("describe a.csv b.csv --nosuch",
+                     "describe: unexpected \"b.csv\", \"--nosuch\""),
+       }) {
+    ExpectRefusal(std::string("qorvex ") + command,
+                  message + std::string("\nqorvex: --help tells what the program and its commands "
+                                        "take"));
   }
 }
 

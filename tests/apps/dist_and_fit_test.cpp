@@ -84,21 +84,48 @@ TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
            std::pair("beta table --a 1 --b 1 --upper-end 2 --from 1 --to 3 --n 1 --decimals 2",
                      "1.00,0.50\n3.00,0.00\n"),
        }) {
-    ExpectOutput(std::string("qorvex dist ") + question + " --prescribed", answer);
+    ExpectOutput(std::string("qorvex dist ") + question + " --classic", answer);
   }
-  ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --prescribed", "0\n");
-  ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --prescribed",
-                "chi-square pdf: The value must not be negative; without --prescribed there is no "
+  ExpectOutput("qorvex dist chi-square greater --df 2 --x 200 --classic", "0\n");
+  // Their sums come out above 1 here.
+  const std::string trials = " --success-probability 0.15 --trials 24 --classic";
+  ExpectOutput("qorvex dist binomial greater --k 23" + trials, "0\n");
+  ExpectOutput("qorvex dist binomial less --k 24" + trials, "1\n");
+  ExpectRefusal("qorvex dist chi-square pdf --df 3 --x -1 --classic",
+                "chi-square pdf: The value must not be negative; without --classic there is no "
                 "such limit");
   const std::string beyond =
       ": the figure, or one on the way to it, is beyond the range of extended precision";
-  ExpectRefusal("qorvex dist normal pdf --std-dev 1e3000 --x 1e3000 --prescribed",
-                "normal pdf" + beyond + "; without --prescribed there is no such limit");
-  ExpectRefusal("qorvex dist log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --prescribed",
+  ExpectRefusal("qorvex dist normal pdf --std-dev 1e3000 --x 1e3000 --classic",
+                "normal pdf" + beyond + "; without --classic there is no such limit");
+  ExpectRefusal("qorvex dist log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --classic",
                 "log-normal inv" + beyond);
   ExpectRefusal("qorvex dist hypergeometric pdf --pop-size 3 --sample-size 4 --successes 1 --k 1",
                 "hypergeometric pdf: The hypergeometric distribution needs a population and a "
                 "sample of at least one, and neither sample nor successes above the population");
+}
+
+TEST(Dist, PrintsInfinitiesOnlyAtTheEndsOfTheSupport) {
+  for (const char* question :
+       {"normal less --x -1e3000 --log", "log-normal greater --std-dev 1e-3000 --x 2 --log",
+        "exponential greater --mean 1e-3000 --x 1e2000 --log",
+        "gamma pdf --shape 0.5 --scale 1e-4931 --x 1e-4940",
+        "gamma table --shape 0.5 --scale 1e-4931 --from 0 --to 1e-4940 --n 1"}) {
+    const std::string name(question, std::string(question).find(" --"));
+    ExpectRefusal(
+        std::string("qorvex dist ") + question,
+        name + ": the figure, or one on the way to it, is beyond the range of extended precision");
+  }
+  for (const auto& [question, answer] : {
+           std::pair("exponential less --mean 2 --x 0 --log", "-inf\n"),
+           std::pair("beta greater --a 2 --b 2 --upper-end 3 --x 4 --log", "-inf\n"),
+           std::pair("poisson less --lambda 2 --k 0 --log", "-inf\n"),
+           std::pair("beta pdf --a 0.5 --b 2 --lower-end 1 --upper-end 3 --x 1", "inf\n"),
+           std::pair("chi-square table --df 1 --from 0 --to 2 --n 1 --decimals 2",
+                     "0.00,inf\n2.00,0.10\n"),
+       }) {
+    ExpectOutput(std::string("qorvex dist ") + question, answer);
+  }
 }
 
 TEST(Dist, NamesTheOptionThatIsWrong) {
@@ -108,6 +135,10 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
            std::pair("normal pdf --x 1e5000", "--x: \"1e5000\" is too large a number"),
            std::pair("normal pdf", "--x is required"),
            std::pair("normal pdf --std-dev 0 --x 1", "--std-dev: \"0\" is not greater than 0"),
+           std::pair(
+               "poisson less --lambda 1e-4940 --k 1",
+               "--lambda: \"1e-4940\" is below 3.362103143112093506e-4932, the smallest number "
+               "with all digits"),
            std::pair("normal inv --p 1", "--p: \"1\" is not between 0 and 1"),
            std::pair("normal table --from 0 --to 1 --n -1",
                      "--n: \"-1\" is not a whole number from 0 to 9999999"),
@@ -115,9 +146,8 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
                      "--trials: \"4294967296\" is not a whole number from 0 to 4294967295"),
            std::pair("binomial pdf --trials 1 --success-probability 1.1 --k 1",
                      "--success-probability: \"1.1\" is not from 0 to 1"),
-           std::pair(
-               "f less --df1 1 --df2 2.5 --x 1 --prescribed",
-               "--df2: 2.5 is not a whole number from 0 to 4294967295, as --prescribed needs"),
+           std::pair("f less --df1 1 --df2 2.5 --x 1 --classic",
+                     "--df2: 2.5 is not a whole number from 0 to 4294967295, as --classic needs"),
            std::pair("beta pdf --a 1 --b 1 --lower-end 1 --x 1",
                      "--upper-end must be greater than --lower-end"),
            std::pair("beta pdf --a 1 --b 1 --lower-end -1e4932 --upper-end 1e4932 --x 1",
@@ -128,8 +158,8 @@ TEST(Dist, NamesTheOptionThatIsWrong) {
                      "--to: counts ascend, so it must not be below --from"),
            std::pair("poisson table --lambda 1 --from 5 --to 10000005",
                      "--to: a table has at most 10000000 points"),
-           std::pair("exponential inv --mean 1 --p 0.5 --prescribed",
-                     "--prescribed: there is no such routine in QorvexStatistics"),
+           std::pair("exponential inv --mean 1 --p 0.5 --classic",
+                     "--classic: there is no such routine in QorvexStatistics"),
        }) {
     ExpectRefusal(
         std::string("qorvex dist ") + question,

@@ -29,6 +29,8 @@ TEST(RandomCommand, PrintsTheLibrarysVariatesOfTheSeed) {
       {"beta --a 0.5 --b 3", [] { return Random_Beta(0.5L, 3); }},
       {"beta --a 2 --b 3 --lower-end -1 --upper-end 4", [] { return -1 + 5 * Random_Beta(2, 3); }},
       {"student-t --df 4", [] { return Random_T(4); }},
+      {"student-t --df 1", [] { return Random_Cauchy(); }},
+      {"student-t --df 2 --classic", [] { return Random_T(2); }},
       {"cauchy --location 1 --scale 2", [] { return 1 + 2 * Random_Cauchy(); }},
       {"log-normal --mean 1 --std-dev 0.5", [] { return std::exp(Random_Normal(1, 0.5L)); }},
       {"inverse-gaussian --h 2 --b 0.5", [] { return Random_Inv_Gauss(2, 0.5L); }},
@@ -40,6 +42,7 @@ TEST(RandomCommand, PrintsTheLibrarysVariatesOfTheSeed) {
       {"negative-binomial --success-probability 0.4 --failures 2.5",
        [] { return Random_Neg_Binomial(2.5L, 0.4L); }},
       {"poisson --lambda 12.5", [] { return Random_Poisson(12.5L); }},
+      {"poisson --lambda 2 --classic", [] { return Random_Poisson(2); }},
   };
   constexpr std::uint64_t seed = 18446744073709551615U;
   for (const auto& [arguments, draw] : variates) {
@@ -65,6 +68,16 @@ TEST(RandomCommand, TakesASeedFromTheSystemWhenNoneIsGiven) {
   EXPECT_NE(Shell("qorvex random uniform"), Shell("qorvex random uniform"));
 }
 
+TEST(RandomCommand, TellsItsLimits) {
+  ExpectOutput("qorvex random von-mises --help | sed -n '/^Limits/,/^$/p'",
+               "Limits:\n  --concentration is at least 0 and, with --classic, below 10.\n\n");
+  ExpectOutput(
+      "qorvex random inverse-gaussian --help | sed -n '/^Limits/,/^$/p'",
+      "Limits:\n  --b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below\n"
+      "  1, and --h is neither tiny nor small beside --b.\n\n");
+  ExpectOutput("qorvex random normal --help | grep -c Limits", "0\nexit status 1\n");
+}
+
 TEST(RandomCommand, PrintsAsItDraws) {
   ExpectOutput("qorvex random uniform --count 1e19 | head -n 4000 | wc -l", "4000\n");
   ExpectOutput("qorvex random uniform --count 1e19 >/dev/full",
@@ -74,11 +87,16 @@ TEST(RandomCommand, PrintsAsItDraws) {
 
 TEST(RandomCommand, RefusesWhatTheRoutineRefuses) {
   for (const auto& [arguments, message] : {
-           std::pair("student-t --df 0",
-                     "student-t: The value is out of range: --df is at least 1"),
-           std::pair("von-mises --concentration 10",
-                     "von-mises: The value is out of range: --concentration is at least 0 and "
-                     "below 10"),
+           std::pair("chi-square --df 0",
+                     "chi-square: The shape parameter is out of range: --df is at least 1"),
+           std::pair("student-t --df 1e-6",
+                     "student-t: the figure, or one on the way to it, is beyond the range of "
+                     "extended precision"),
+           std::pair("von-mises --concentration=-1",
+                     "von-mises: The value is out of range: --concentration is at least 0"),
+           std::pair("von-mises --concentration 10 --classic",
+                     "von-mises: The value is out of range: --concentration is at least 0 and, "
+                     "with --classic, below 10"),
            std::pair("log-normal --mean 1e5",
                      "log-normal: the figure, or one on the way to it, is "
                      "beyond the range of extended precision"),
@@ -93,8 +111,9 @@ TEST(RandomCommand, RefusesWhatTheRoutineRefuses) {
   for (const auto& [arguments, message] : {
            std::pair("gamma", "--shape is required"),
            std::pair("gamma --shape 0", "--shape: \"0\" is not greater than 0"),
-           std::pair("student-t --df 2.5",
-                     "--df: \"2.5\" is not a whole number from 0 to 2147483647"),
+           std::pair("student-t --df 0", "--df: \"0\" is not from 1e-17 to 1e15"),
+           std::pair("student-t --df 2.5 --classic",
+                     "--df: 2.5 is not a whole number from 0 to 2147483647, as --classic needs"),
            std::pair("uniform --seed=-1",
                      "--seed: \"-1\" is not a whole number from 0 to 18446744073709551615"),
            std::pair("multivariate-normal --mean 1,,2 --covariance 1",

@@ -15,7 +15,7 @@ using Cases = std::initializer_list<ReadingCase<TableSelection>>;
 std::string Read(const std::string& text, const TableSelection& selection) {
   return ResultOrError([&] {
     std::string columns;
-    for (const TableColumn& column : ReadTable(SourceOf(text), selection)) {
+    for (const TableColumn& column : ReadTable(SourceOf(text), selection).columns) {
       columns += column.Title() + ':';
       for (const Extended value : column.values) columns += ' ' + Float2Str(value);
       columns += "; " + Int2EStr(column.skipped) + '\n';
@@ -42,6 +42,10 @@ TEST(TableReader, TakesEveryColumnOrTheChosenOnesInTheirOrder) {
            {"x,y,z\n1,,a\n\n  ,4,b\n3,5,c\n\n\n",
             "column 1 (x): 1 3; 2\ncolumn 2 (y): 4 5; 2\n",
             {.columns = {"x", "y"}, .skip_empty = true}},
+           {"2019 2020\n1 2\n",
+            "column 2 (2020): 2; 0\ncolumn 1 (2019): 1; 0\n",
+            {.columns = {"2020", "2019"}, .header = true}},
+           {"x,2\n3,4\n", "column 2: 2 4; 0\n", {.columns = {"2"}, .header = false}},
            {"0.1\n\" +1e4000 \"\n18446744073709551615\n-1.25E-3\n",
             "column 1: 0.1 1e+4000 18446744073709551615 -0.00125; 0\n"},
        }) {
@@ -57,6 +61,8 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x,y\n1,2\n\n3,a b\n", "3: column 1 (x): the cell is empty", {.columns = {"x"}}},
            {"x,y\n1,2\n3,\n", "3: column 2 (y): the cell is empty"},
            {"x,y\n1,2\n3,a\tb\n", "3: column 2 (y): \"a\\tb\" is not a number"},
+           {"NA,2\n3,4\n", "1: column 1: \"NA\" is not a number", {.header = false}},
+           {"1,2\n", " column 1 (1) has no values", {.header = true}},
            {"1\n1e\n", "2: column 1: \"1e\" is not a number"},
            {"1\nnan\n", "2: column 1: \"nan\" is not a finite number"},
            {"-inf\n1\n", "1: column 1: \"-inf\" is not a finite number"},

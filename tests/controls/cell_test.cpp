@@ -1,9 +1,7 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QHelpEvent>
 #include <QMimeData>
 #include <QSignalSpy>
-#include <QToolTip>
 #include <QVBoxLayout>
 #include <QtTest/QTest>
 #include <algorithm>
@@ -227,20 +225,6 @@ TEST_F(FloatCell, PastesOneNumberAndHandsBlocksOn) {
   ASSERT_TRUE(action != actions.end());
   (*action)->trigger();
   EXPECT_EQ(blocks.count(), 2) << "the menu pastes like the key";
-}
-
-TEST_F(FloatCell, TellsInATipWhatIsCutOff) {
-  const auto tip = [this] {
-    QToolTip::hideText();
-    QHelpEvent event(QEvent::ToolTip, {3, 3}, cell->mapToGlobal(QPoint(3, 3)));
-    QApplication::sendEvent(cell, &event);
-    return QToolTip::text();
-  };
-  cell->setFixedWidth(60);
-  cell->setValue(1.5L);
-  EXPECT_EQ(tip(), "");
-  cell->setValue(12345678901.5L);
-  EXPECT_EQ(tip(), "12345678901.5000");
 }
 
 TEST_F(FloatCell, KeepsToThePaletteUntilAColourIsSet) {

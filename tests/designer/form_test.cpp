@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QFile>
 #include <QUiLoader>
+#include <QVBoxLayout>
 #include <QWidget>
 #include <memory>
 
@@ -12,6 +13,7 @@
 #include "qorvex/controls/desc_stats_holder.h"
 #include "qorvex/controls/uictrl_holder.h"
 #include "support/test.h"
+#include "ui_by_name.h"
 #include "ui_form.h"
 
 namespace qorvex {
@@ -138,14 +140,82 @@ TEST(Form, BecomesAProgram) {
   ExpectAsWritten(form);
 }
 
-TEST(Form, LoadsWhileTheProgramRuns) {
+std::unique_ptr<QWidget> Loaded(const QString& name, QWidget* parent = nullptr) {
   QUiLoader loader;
   loader.addPluginPath(PLUGIN_DIRECTORY);
-  QFile file(FORM);
-  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-  const std::unique_ptr<QWidget> form(loader.load(&file));
-  ASSERT_TRUE(form) << loader.errorString().toStdString();
+  QFile file(FORMS "/" + name);
+  EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+  std::unique_ptr<QWidget> form(loader.load(&file, parent));
+  EXPECT_TRUE(form) << loader.errorString().toStdString();
+  return form;
+}
+
+TEST(Form, LoadsWhileTheProgramRuns) {
+  const auto form = Loaded("form.ui");
+  ASSERT_TRUE(form);
   ExpectAsWritten(*form);
+}
+
+// Each editor of by_name.ui is called after its page and the holder that it names.
+void ExpectLinked(const QWidget& form) {
+  const auto editors = form.findChildren<CellPanel*>();
+  EXPECT_EQ(editors.size(), 11);
+  for (const CellPanel* editor : editors) {
+    const QString name = editor->objectName().section('_', 1);
+    EXPECT_EQ(editor->UICtrl(), form.findChild<TQorUICtrlHolder*>(name)->UICtrl())
+        << editor->objectName().toStdString();
+    EXPECT_EQ(editor->UICtrlName(), name);
+  }
+}
+
+TEST(SharedSettings, AreFoundByNameFromEveryPageOfAProgram) {
+  QWidget form;
+  Ui::ByName ui;
+  ui.setupUi(&form);
+  // The pages that are not in front have never been shown.
+  QApplication::processEvents();
+  ExpectLinked(form);
+  ui.after->setDecimalPlaces(1);
+  EXPECT_EQ(ui.page2_after->findChild<TQorFloatEdit*>()->DecimalPlaces(), 1);
+}
+
+TEST(SharedSettings, AreFoundByNameFromEveryPageOfALoadedForm) {
+  const auto form = Loaded("by_name.ui");
+  ASSERT_TRUE(form);
+  QApplication::processEvents();
+  ExpectLinked(*form);
+}
+
+TEST(SharedSettings, AreThoseOfTheOwnCopyOfAForm) {
+  QWidget window;
+  auto* const layout = new QVBoxLayout(&window);
+  QWidget* const forms[] = {new QWidget(&window), Loaded("by_name.ui", &window).release(),
+                            new QWidget(&window), Loaded("by_name.ui").release()};
+  for (QWidget* form : forms) {
+    if (form->findChild<CellPanel*>() == nullptr) Ui::ByName().setupUi(form);
+    layout->addWidget(form);
+  }
+  QApplication::processEvents();
+  for (const QWidget* form : forms) ExpectLinked(*form);
+}
+
+TEST(SharedSettings, AreFoundWhenAnEditorIsShownAmongThem) {
+  auto* const page = new QWidget;
+  auto* const editor = new TQorVectorEdit(page);
+  editor->setUICtrl(QStringLiteral("late"));
+  QApplication::processEvents();
+  EXPECT_EQ(editor->UICtrl(), nullptr);
+  QWidget window;
+  TQorUICtrlHolder holder(&window);
+  holder.setObjectName("late");
+  page->setParent(&window);
+  window.show();
+  EXPECT_EQ(editor->UICtrl(), holder.UICtrl());
+  editor->resetUICtrl();
+  QApplication::processEvents();
+  window.hide();
+  window.show();
+  EXPECT_EQ(editor->UICtrl(), nullptr) << "nothing is looked up any more";
 }
 
 }  // namespace

@@ -54,15 +54,16 @@ TEST(Limits, ParametersAreCheckedBeforeAnyDraw) {
   EXPECT_MATH_ERROR(Random_Binomial2(5, 1.5L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Binomial2(-1, 0.5L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Neg_Binomial(2, 1, NoDraw), rsInvalidValue);
-  // (1 - p)^sk would be 2^-1100; 1e9 draws and 1e15 steps.
+  // (1 - p)^sk would be 2^-1100; too many draws, and 2.5e7 steps.
   EXPECT_MATH_ERROR(Random_Neg_Binomial(1100, 0.5L, NoDraw), rsInvalidValue);
-  EXPECT_MATH_ERROR(Random_Neg_Binomial(2e9L, 0.75L, NoDraw), rsInvalidValue);
-  EXPECT_MATH_ERROR(Random_Neg_Binomial(0.5L, 1 - 1e-15L, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Neg_Binomial(2.1e7L, 0.75L, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Neg_Binomial(0.5L, 1 - 2e-8L, NoDraw), rsInvalidValue);
   // Modes that rounding has moved, or left nothing of, and too many attempts.
   EXPECT_MATH_ERROR(Random_Inv_Gauss(4e-7L, 1000, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(0.36385554075241088867L, 34480642, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-12L, 1, NoDraw), rsInvalidValue);
-  EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-9L, 0, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(0x1p-30L, 0, NoDraw), rsInvalidValue);
+  EXPECT_GT(Random_Inv_Gauss(1.1e-8L, 0, ScriptedSource({1e-8L, 0.5L})), 0);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(1, 3.3e153L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(2e15L, 1, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Beta(1e18L, 1e18L, NoDraw), rsInvalidValue);

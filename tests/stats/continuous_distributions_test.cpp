@@ -190,7 +190,8 @@ TEST(ContinuousDistributions, RaiseTheFirstErrorOfSeveral) {
   for (const Extended lower : {2.0L, 3.0L, -kInfinity, kNaN}) {
     EXPECT_MATH_ERROR(BetaDistLess(0.5L, 0, 1, lower, 2), rsValueGZero);
     EXPECT_MATH_ERROR(BetaDistLess(0.5L, 1, 1, lower, 2), rsInvalidValue);
-    EXPECT_MATH_ERROR(BetaDistBetween(0.5L, 0.5L, 1, 1, lower, 2), rsInvalidValue);
+    EXPECT_MATH_ERROR(BetaDistBetween(0.25L, 0.5L, 1, 1, lower, 2), rsInvalidValue);
+    EXPECT_EQ(BetaDistBetween(0.5L, 0.5L, 0, 1, lower, 2), 0);
     EXPECT_MATH_ERROR(BetaPDF(0.5L, 1, 1, lower, 2), rsInvalidValue);
     EXPECT_MATH_ERROR(InvBetaDistLess(1, 1, lower, 2, 0.5L), rsInvalidValue);
     EXPECT_MATH_ERROR(InvBetaDistLess(1, 0, lower, 2, 0.5L), rsValueGZero);

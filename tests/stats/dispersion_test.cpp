@@ -141,7 +141,8 @@ TEST(Dispersion, MeansAndSpreadOfPositiveElements) {
   EXPECT_MATH_ERROR(HarmonicMean({1, -1}), rsVectorNotPos);
   EXPECT_MATH_ERROR(RootMeanSquare({}), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(GeometricStdDev({}, true), rsVectorIsEmpty);
-  EXPECT_MATH_ERROR(GeometricStdDev({-1}, true), rsVectorG1);
+  EXPECT_MATH_ERROR(GeometricStdDev({-1}, true), rsVectorNotPos);
+  EXPECT_MATH_ERROR(GeometricStdDev({1}, true), rsVectorG1);
   EXPECT_MATH_ERROR(GeometricStdDev({-1}, false), rsVectorNotPos);
   EXPECT_MATH_ERROR(GeometricStdDev({-1}, 2, true), rsVectorG1);
   EXPECT_MATH_ERROR(GeometricStdDev({-1, 3}, -2, true), rsVectorNotPos);

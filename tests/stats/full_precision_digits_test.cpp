@@ -1,5 +1,7 @@
 #include <boost/math/special_functions/beta.hpp>
+#include <boost/math/special_functions/expm1.hpp>
 #include <boost/math/special_functions/gamma.hpp>
+#include <boost/math/special_functions/log1p.hpp>
 #include <boost/multiprecision/cpp_bin_float.hpp>
 #include <cmath>
 
@@ -47,6 +49,71 @@ TEST(FullPrecision, AgreesWithAComputationInHigherPrecision) {
     if (y == 1) continue;
     ASSERT_LT(Units(fp::BetaLower(a, b, y), boost::math::ibeta(Real(a), Real(b), Real(y))), 60);
     ASSERT_LT(Units(fp::BetaUpper(a, b, y), boost::math::ibetac(Real(a), Real(b), Real(y))), 60);
+  }
+}
+
+// Probabilities of whole numbers are rounded once, so that those of 64 bits come out as they are.
+TEST(FullPrecision, IsExactForFewTrialsAndSmallWholeShapes) {
+  for (const std::uint32_t n : {1U, 2U, 4U, 5U, 17U, 30U}) {
+    for (const Extended p : {0.5L, 0.25L, 0.6875L, 0.3L, 1e-10L}) {
+      const Real success = p;
+      std::vector<Real> exact;
+      Real ways = 1;
+      for (std::uint32_t k = 0; k <= n; ++k) {
+        exact.push_back(ways * pow(success, k) * pow(1 - success, n - k));
+        ways = ways * (n - k) / (k + 1);
+      }
+      Real below = 0;
+      for (std::uint32_t k = 0; k <= n; ++k) {
+        SCOPED_TRACE(::testing::Message() << n << ' ' << k << ' ' << p);
+        EXPECT_EQ(fp::BinomialPmf(p, n, k), static_cast<Extended>(exact[k]));
+        const Extended density = fp::BetaPdf(k + 1, n - k + 1, p);
+        EXPECT_EQ(density, static_cast<Extended>((n + 1) * exact[k]));
+        below += exact[k];
+        const auto lower = static_cast<Extended>(below);
+        if (k < n) {
+          ASSERT_LE(Units(fp::BinomialLower(p, n, k), below), 3);
+        }
+        if (Real(lower) != below || below > 1 - Real(1e-12L)) continue;
+        EXPECT_EQ(fp::BinomialLower(p, n, k), lower);
+        EXPECT_EQ(fp::BinomialUpper(p, n, k), 1 - lower);
+        EXPECT_EQ(fp::BetaUpper(k + 1, n - k, p), lower);
+      }
+    }
+  }
+  EXPECT_EQ(fp::HyperGeometricPmf(50, 5, 13, 2), static_cast<Extended>(Real(606060) / 2118760));
+  EXPECT_EQ(fp::FDistUpper(2, 4, 2), 0.25L);
+}
+
+TEST(FullPrecision, HasClosedFormsAtTheEdgesAndSymmetryAtOneHalf) {
+  for (const Extended shape : {1e-3L, 0.4L, 1.0L, 2.5L, 300.25L, 1e6L}) {
+    for (const Extended x : {1e-2000L, 1e-250L, 1e-9L, 0.001L, 0.3L, 0.5L, 0.99L, 1 - 0x1p-60L}) {
+      SCOPED_TRACE(::testing::Message() << shape << ' ' << x);
+      const Real power = exp(Real(shape) * log(Real(x)));
+      const Real power_of_rest = exp(Real(shape) * boost::math::log1p(-Real(x)));
+      const Real above = -boost::math::expm1(Real(shape) * log(Real(x)));
+      const Real below = -boost::math::expm1(Real(shape) * boost::math::log1p(-Real(x)));
+      if (power > 1e-4900L) {
+        ASSERT_LT(Units(fp::BetaLower(shape, 1, x), power), 10);
+      }
+      ASSERT_LT(Units(fp::BetaUpper(shape, 1, x), above), 10);
+      if (power_of_rest > 1e-4900L) {
+        ASSERT_LT(Units(fp::BetaUpper(1, shape, x), power_of_rest), 10);
+      }
+      ASSERT_LT(Units(fp::BetaLower(1, shape, x), below), 10);
+    }
+    EXPECT_EQ(fp::BetaLower(shape, shape, 0.5L), 0.5L);
+    EXPECT_EQ(fp::BetaQuantile(shape, shape, 0.5L), 0.5L);
+    EXPECT_EQ(fp::FDistLower(shape, shape, 1), 0.5L);
+    EXPECT_EQ(fp::FDistUpperQuantile(shape, shape, 0.5L), 1);
+    EXPECT_EQ(fp::BetaLower(shape, 7, 0.5L), fp::BetaUpper(7, shape, 0.5L));
+    EXPECT_EQ(fp::BetaPdf(shape, 7, 0.5L), fp::BetaPdf(7, shape, 0.5L));
+  }
+  EXPECT_EQ(fp::BetaQuantile(1, 1, 0.3L), 0.3L);
+  for (const std::uint32_t n : {7U, 1001U, 4'000'000'001U}) {
+    EXPECT_EQ(fp::BinomialLower(0.5L, n, n / 2), 0.5L);
+    EXPECT_EQ(fp::BinomialPmf(0.5L, n, 3), fp::BinomialPmf(0.5L, n, n - 3));
+    EXPECT_EQ(fp::BinomialLower(0.5L, n, 2), fp::BinomialUpper(0.5L, n, n - 3));
   }
 }
 

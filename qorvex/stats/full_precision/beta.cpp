@@ -2,6 +2,7 @@
 
 #include "qorvex/stats/full_precision.h"
 #include "qorvex/stats/full_precision/detail/shared.h"
+#include "qorvex/stats/full_precision/detail/whole_shapes.h"
 
 namespace qorvex::full_precision {
 
@@ -25,13 +26,15 @@ Tails TailsAt(Extended a, Extended b, Extended x) {
   if (AnyNaN(a, b, x)) return Unknown();
   if (x <= 0) return BelowAll();
   if (x >= 1) return AboveAll();
-  return RegularisedBeta(a, b).At(OddsOf(x));
+  return BetaTails(a, b, OddsOf(x));
 }
 
 Extended Quantile(Extended a, Extended b, Tail tail, Extended p) {
   RequireProbability(p);
   Check(a, b);
   if (AnyNaN(a, b, p)) return kNaN;
+  if (a == 1 && b == 1) return tail == Tail::kLower ? p : 1 - p;
+  if (a == b && p == 0.5L) return p;
   return FromOdds(RegularisedBeta(a, b).QuantileOdds(tail, p));
 }
 
@@ -43,7 +46,7 @@ Extended BetaPdf(Extended a, Extended b, Extended x) {
   if (x == 0) return DensityAtEnd(a, b);
   if (x == 1) return DensityAtEnd(b, a);
   if (x < 0 || x > 1) return 0;
-  return RegularisedBeta(a, b).Density(OddsOf(x), -1, -1).Value();
+  return BetaDensity(a, b, OddsOf(x));
 }
 
 Extended BetaLower(Extended a, Extended b, Extended x) {

@@ -4,6 +4,7 @@
 #include "qorvex/stats/full_precision.h"
 #include "qorvex/stats/full_precision/detail/shared.h"
 #include "qorvex/stats/full_precision/detail/smallest_count.h"
+#include "qorvex/stats/full_precision/detail/whole_shapes.h"
 
 namespace qorvex::full_precision {
 
@@ -24,8 +25,7 @@ Tails TailsAt(Extended p, std::uint32_t n, std::uint32_t k) {
   if (std::isnan(p)) return Unknown();
   if (k >= n || p == 0) return AboveAll();
   if (p == 1) return BelowAll();
-  return RegularisedBeta(static_cast<Extended>(n - k), static_cast<Extended>(k) + 1)
-      .At({Complement(p), p});
+  return BetaTails(static_cast<Extended>(n - k), static_cast<Extended>(k) + 1, {Complement(p), p});
 }
 
 std::uint32_t Quantile(Extended p, std::uint32_t n, Tail tail, Extended probability) {
@@ -44,8 +44,9 @@ Extended BinomialPmf(Extended p, std::uint32_t n, std::uint32_t k) {
   if (std::isnan(p)) return p;
   if (k > n) return 0;
   if (p == 0 || p == 1) return k == (p == 0 ? 0 : n) ? 1 : 0;
-  const Scaled ways = FactorialOf(n) / FactorialOf(k) / FactorialOf(n - k);
-  return (ways * Power(p, k) * Power(Complement(p), n - k)).Value();
+  // Symmetric for one half.
+  const bool mirrored = p == 0.5L && k > n / 2;
+  return BinomialProbability(n, mirrored ? n - k : k, p, Complement(p)).Value();
 }
 
 Extended BinomialLower(Extended p, std::uint32_t n, std::uint32_t k) {

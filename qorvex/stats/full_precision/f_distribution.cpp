@@ -2,6 +2,7 @@
 
 #include "qorvex/stats/full_precision.h"
 #include "qorvex/stats/full_precision/detail/shared.h"
+#include "qorvex/stats/full_precision/detail/whole_shapes.h"
 
 namespace qorvex::full_precision {
 
@@ -26,13 +27,14 @@ Tails TailsAt(Extended df1, Extended df2, Extended f) {
   if (AnyNaN(df1, df2, f)) return Unknown();
   if (f <= 0) return BelowAll();
   if (std::isinf(f)) return AboveAll();
-  return RegularisedBeta(df1 / 2, df2 / 2).At(OddsOf(df1, df2, f));
+  return BetaTails(df1 / 2, df2 / 2, OddsOf(df1, df2, f));
 }
 
 Extended Quantile(Extended df1, Extended df2, Tail tail, Extended p) {
   RequireProbability(p);
   Check(df1, df2);
   if (AnyNaN(df1, df2, p)) return kNaN;
+  if (df1 == df2 && p == 0.5L) return 1;
   const Scaled odds = RegularisedBeta(df1 / 2, df2 / 2).QuantileOdds(tail, p);
   return CheckedFinite((odds * Scaled{df2, ExtendedPair()} / Scaled{df1, ExtendedPair()}).Value());
 }

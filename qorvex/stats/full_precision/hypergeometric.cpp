@@ -6,6 +6,7 @@
 #include "qorvex/stats/full_precision.h"
 #include "qorvex/stats/full_precision/detail/shared.h"
 #include "qorvex/stats/full_precision/detail/smallest_count.h"
+#include "qorvex/stats/full_precision/detail/whole_shapes.h"
 
 namespace qorvex::full_precision {
 
@@ -40,17 +41,11 @@ struct Draw {
   std::int64_t successes;
 };
 
-Scaled Factorial(std::int64_t n) {
-  return FactorialOf(static_cast<Extended>(n));
-}
-
 Scaled Probability(const Draw& draw, std::int64_t k) {
   if (k < draw.Least() || k > draw.Most()) return Scaled{0, ExtendedPair()};
-  const auto ways = [](std::int64_t n, std::int64_t r) {
-    return Factorial(n) / Factorial(r) / Factorial(n - r);
-  };
-  return ways(draw.successes, k) * ways(draw.population - draw.successes, draw.sample - k) /
-         ways(draw.population, draw.sample);
+  return Coefficient(draw.successes, k) *
+         Coefficient(draw.population - draw.successes, draw.sample - k) /
+         Coefficient(draw.population, draw.sample);
 }
 
 constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 8;

@@ -5,15 +5,19 @@
 #include <QDropEvent>
 #include <QFile>
 #include <QLabel>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QUrl>
 #include <QtTest/QSignalSpy>
 
 #include "apps/gallery/page_fixture.h"
+#include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/table_input.h"
 
 namespace qorvex::gallery {
 namespace {
@@ -25,6 +29,25 @@ struct DataPageTest : PageFixture<DataPage> {
     EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(text) == text.size());
     return path;
   }
+  QByteArray Read(const char* name) {
+    QFile file(folder.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return file.readAll();
+  }
+  void Choose(int column) {
+    Find<QComboBox>("column").setCurrentIndex(column);
+    Q_EMIT Find<QComboBox>("column").activated(column);
+  }
+  // Presses a button of the question that comes next.
+  void Answer(QMessageBox::StandardButton button) {
+    ++asked;
+    QTimer::singleShot(0, &page, [this, button] {
+      auto* const question = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(question, nullptr);
+      --asked;
+      question->button(button)->click();
+    });
+  }
   // More than is read at once.
   QString WriteLarge() {
     QByteArray text = "value\n";
@@ -35,6 +58,8 @@ struct DataPageTest : PageFixture<DataPage> {
   QString Picture() { return Find<PlotView>("histogram").accessibleDescription(); }
 
   QTemporaryDir folder;
+  // Questions that have not come.
+  int asked = 0;
 };
 
 TEST_F(DataPageTest, BeginsWithTheExample) {
@@ -64,6 +89,100 @@ TEST_F(DataPageTest, FollowsEditsAndUndo) {
   EXPECT_EQ(Figure("report", "Mean:"), "3.0");
 }
 
+TEST_F(DataPageTest, KeepsTheEditsOfEveryColumn) {
+  page.Open(Write("two.csv", "name;a;b\n\"x, y\";1.50;2\nz;3.50;\n"));
+  Type("values", "10");
+  Choose(2);
+  EXPECT_EQ(Values()[0], 2);
+  // Still being typed when the column is left.
+  auto& values = Find<TQorVectorEdit>("values");
+  values.setEditFocus(1);
+  QTest::keyClicks(QApplication::focusWidget(), "0.1");
+  Choose(1);
+  EXPECT_EQ(Values()[0], 10);
+  EXPECT_EQ(Figure("report", "Mean:"), "6.7500");
+
+  ASSERT_TRUE(page.Save(folder.filePath("out.csv")));
+  EXPECT_EQ(Read("out.csv"), "name,a,b\n\"x, y\",10,2\nz,3.50,0.1\n");
+  EXPECT_EQ(page.Title(), "out.csv");
+  EXPECT_FALSE(page.IsChanged());
+  EXPECT_FALSE(page.Save(folder.filePath("none/out.csv")));
+  EXPECT_TRUE(Message().starts_with("out.csv: ")) << Message();
+}
+
+TEST_F(DataPageTest, AsksBeforeEditsAreLost) {
+  const QString small = Write("small.csv", "1\n2\n"), other = Write("other.csv", "7\n9\n");
+  page.Open(small);
+  Type("values", "10");
+  EXPECT_TRUE(page.IsChanged());
+  Find<TQorVectorEdit>("values").Undo();
+  QApplication::processEvents();
+  EXPECT_FALSE(page.IsChanged());
+
+  Type("values", "10");
+  Answer(QMessageBox::Cancel);
+  page.Open(other);
+  EXPECT_EQ(page.Title(), "small.csv");
+  EXPECT_EQ(Values()[0], 10);
+  Answer(QMessageBox::Discard);
+  page.Open(other);
+  EXPECT_EQ(Values()[0], 7);
+  EXPECT_EQ(asked, 0);
+  EXPECT_FALSE(page.IsChanged());
+}
+
+TEST_F(DataPageTest, AWindowWithEditsShowsAStarAndAsksWhenClosed) {
+  MainWindow window;
+  window.Open(Write("small.csv", "1\n2\n"));
+  EXPECT_EQ(window.windowTitle(), "small.csv[*] – Qorvex Gallery");
+  EXPECT_FALSE(window.isWindowModified());
+  window.show();
+  auto& values = *window.findChild<TQorVectorEdit*>("values");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  values.setEditFocus(0);
+  QTest::keyClicks(QApplication::focusWidget(), "5\t");
+  QApplication::processEvents();
+  EXPECT_TRUE(window.isWindowModified());
+  Answer(QMessageBox::Cancel);
+  EXPECT_FALSE(window.close());
+  Answer(QMessageBox::Discard);
+  EXPECT_TRUE(window.close());
+  EXPECT_EQ(asked, 0);
+}
+
+TEST_F(DataPageTest, TellsOfFiguresWithoutADigit) {
+  page.Open(Write("tiny.csv", "1e-9\n2e-9\n4e-9\n"));
+  const auto remark = [this] {
+    QStringList texts;
+    for (const QLabel* const label : page.findChildren<QLabel*>()) texts.append(label->text());
+    return texts.filter("no digit").join('\n').toStdString();
+  };
+  EXPECT_EQ(remark(), "12 figures show no digit, which takes 21 decimals");
+  Find<QSpinBox>("decimals").setValue(21);
+  QApplication::processEvents();
+  EXPECT_EQ(remark(), "");
+}
+
+// Neither where the cells are nor how wide the page is hangs on a message.
+TEST_F(DataPageTest, MessagesMoveNothing) {
+  auto& values = Find<TQorVectorEdit>("values");
+  const QPoint place = values.mapTo(&page, QPoint());
+  const int width = page.minimumSizeHint().width();
+  page.Open(Write("binary.csv", "1\n" + QByteArray(6000, 'x') + "\n"));
+  EXPECT_NE(Message(), "");
+  QApplication::processEvents();
+  EXPECT_EQ(values.mapTo(&page, QPoint()), place);
+  EXPECT_LE(page.minimumSizeHint().width(), width);
+
+  page.OpenExample();
+  EXPECT_EQ(Message(), "");
+  values.setEditFocus(0);
+  EXPECT_FALSE(values.PasteBlock("1\tx"));
+  EXPECT_NE(Message(), "");
+  Type("values", "1");
+  EXPECT_EQ(Message(), "");
+}
+
 TEST_F(DataPageTest, KeepsItsWidthWhateverTheValuesAndTitles) {
   page.Open(Write("huge.csv", QByteArray(5000, 'x') + "\n1e4000\n-1e-4000\n3e4931\n"));
   EXPECT_EQ(Figure("report", "Maximum:"), "3e+4931");
@@ -73,8 +192,7 @@ TEST_F(DataPageTest, KeepsItsWidthWhateverTheValuesAndTitles) {
 
 TEST_F(DataPageTest, LeavesEmptyCellsOut) {
   page.Open(Write("gap.csv", "a,b\n1,4\n2,\n\n3,8\n"));
-  Find<QComboBox>("column").setCurrentIndex(1);
-  Q_EMIT Find<QComboBox>("column").activated(1);
+  Choose(1);
   EXPECT_EQ(Values().size(), 4U);
   EXPECT_EQ(Figure("report", "Number of Values:"), "2");
   EXPECT_EQ(Figure("report", "Mean:"), "6.0000");
@@ -94,6 +212,8 @@ TEST_F(DataPageTest, TellsOnThePageWhatIsWrong) {
     page.Open(Write("bad.csv", text));
     EXPECT_TRUE(Message().starts_with(message)) << Message();
   }
+  page.Open(Write("doubtful.csv", "1.5,NA\n2,3\n"));
+  EXPECT_EQ(Message(), "The first row was taken for names, although it holds a number");
   page.Open(Write("good.csv", "size\n1\n2\n"));
   EXPECT_EQ(Message(), "");
   EXPECT_EQ(Values().size(), 2U);
@@ -135,7 +255,7 @@ TEST_F(DataPageTest, TakesADroppedFile) {
   EXPECT_EQ(Figure("report", "Mean:"), "8.0000");
 }
 
-TEST(ColumnReader, StopsWhenAsked) {
+TEST(DataTableReading, StopsWhenAsked) {
   std::stop_source stop;
   qint64 read = 0;
   const auto input = Observed(OpenFile(QORVEX_EXAMPLE_DATA "/michelson_1879.csv"), stop.get_token(),
@@ -143,7 +263,7 @@ TEST(ColumnReader, StopsWhenAsked) {
                                 read = bytes;
                                 stop.request_stop();
                               });
-  EXPECT_THROW((void)ReadColumn(input, 2), ReadingStopped);
+  EXPECT_THROW(DataTable{input}, ReadingStopped);
   EXPECT_GT(read, 0);
 }
 

@@ -1,0 +1,120 @@
+#include "qorvex/base/fitted_text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+#include "qorvex/base/text.h"
+
+namespace qorvex::inline QorvexGlobals {
+
+namespace {
+
+constexpr std::string_view kNonZero = "123456789";
+
+std::string Trimmed(std::string text, bool trim) {
+  return trim ? StripTChStr(text, '0') : text;
+}
+
+std::string FixedText(Extended value, int decimals, bool trim) {
+  return Trimmed(Float2EStr(value, decimals), trim);
+}
+
+// The exponent has no plus sign and no leading zeroes, which say nothing.
+std::string ExponentText(Extended value, int decimals, bool trim) {
+  constexpr std::size_t around_decimals = 16;
+  std::string text(static_cast<std::size_t>(decimals) + around_decimals, '\0');
+  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
+                                          std::chars_format::scientific, decimals);
+  text.resize(static_cast<std::size_t>(end - text.data()));
+  const std::size_t e = text.find('e');
+  const bool negative = text[e + 1] == '-';
+  const std::size_t digits = std::min(text.find_first_of(kNonZero, e), text.size() - 1);
+  return Trimmed(text.substr(0, e), trim) + (negative ? "e-" : "e") + text.substr(digits);
+}
+
+// The text with the most digits that fits, of those with least to most; nothing when none does.
+template <class MakeText>
+std::optional<std::string> LongestThatFits(int least, int most, MakeText make_text,
+                                           const TextFits& fits) {
+  std::optional<std::string> longest;
+  while (least <= most) {
+    const int digits = least + (most - least) / 2;
+    std::string text = make_text(digits);
+    if (fits(text)) {
+      longest = std::move(text);
+      least = digits + 1;
+    } else {
+      most = digits - 1;
+    }
+  }
+  return longest;
+}
+
+// What a text of a finite number has.
+struct Digits {
+  bool fixed;
+  int decimals = 0;
+  // The decimals up to the first digit that is not 0.
+  int leading_decimals = 0;
+  // The digits from that one on; none in a zero.
+  int significant = 0;
+
+  explicit Digits(std::string_view text) {
+    const std::size_t e = text.find('e');
+    fixed = e == std::string_view::npos;
+    text = text.substr(0, e);
+    const std::size_t point = std::min(text.find('.'), text.size());
+    const auto decimals_to = [point](std::size_t end) {
+      return end > point ? static_cast<int>(end - point) - 1 : 0;
+    };
+    decimals = decimals_to(text.size());
+    const std::size_t first = text.find_first_of(kNonZero);
+    if (first == std::string_view::npos) return;
+    leading_decimals = decimals_to(first + 1);
+    significant = static_cast<int>(text.size() - first) - (first < point && point < text.size());
+  }
+};
+
+}  // namespace
+
+std::string FloatText(Extended value, const FloatDigits& digits) {
+  constexpr Extended no_decimals = 0x1p63L;
+  const bool all = digits.all || std::fabs(value) >= no_decimals;
+  if (value == 0 && all) return "0";
+  return Trimmed(all ? Float2Str(value) : Float2EStr(value, digits.decimals), digits.trim);
+}
+
+std::string FittedFloatText(Extended value, const FloatDigits& digits, const TextFits& fits) {
+  std::string text = FloatText(value, digits);
+  if (fits(text)) return text;
+  std::optional<std::string> fitted;
+  if (std::isfinite(value)) {
+    const Digits whole(text);
+    if (whole.fixed) {
+      const auto fixed = [&](int decimals) { return FixedText(value, decimals, digits.trim); };
+      fitted = LongestThatFits(whole.leading_decimals, whole.decimals - 1, fixed, fits);
+    }
+    if (!fitted) {
+      const auto exponent = [&](int decimals) {
+        return ExponentText(value, decimals, digits.trim);
+      };
+      fitted = LongestThatFits(0, whole.significant - 1, exponent, fits);
+    }
+  }
+  if (!fitted) {
+    const auto mark = [](int length) {
+      return std::string(kNoRoom.substr(0, static_cast<std::size_t>(length)));
+    };
+    fitted = LongestThatFits(1, static_cast<int>(kNoRoom.size()), mark, fits);
+  }
+  return fitted.value_or(std::string());
+}
+
+std::string FittedFloatText(Extended value, const FloatDigits& digits, std::size_t length) {
+  return FittedFloatText(value, digits,
+                         [length](std::string_view text) { return text.size() <= length; });
+}
+
+}  // namespace qorvex::inline QorvexGlobals

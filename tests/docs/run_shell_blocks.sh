@@ -1,0 +1,89 @@
+#!/usr/bin/env bash
+# run_shell_blocks.sh <source directory> <build directory> <empty directory>: copies every block of shell commands of the
+# README and of docs/ into a shell, as a reader would. It runs in a directory that looks like a checkout whose
+# build/release is the build directory. Blocks that cannot run stand in the list below, each with its reason. Blocks of
+# docs/command_line.md that show output (console) are run and compared by another test.
+set -euo pipefail
+source=$1 build=$2 scratch=$3
+failures=0
+
+# By document and first line.
+declare -A cannot_run=(
+  ["README.md: ./run "]="CI runs both in a bare system"
+  ["docs/gallery.md: build/release/apps/qorvex-gallery/qorvex-gallery "]="needs a display"
+  ["docs/controls/designer.md: QT_PLUGIN_PATH="]="needs a display"
+  ["docs/performance.md: scripts/setup.sh benchmarks"]="measures for half an hour, beside libraries that tests do not need"
+)
+
+# fail <message>...
+fail() {
+  printf '%s\n' "$@" >&2
+  failures=$((failures + 1))
+}
+
+# reason_not_to_run <document> <block>: whether the block is in the list.
+reason_not_to_run() {
+  local start
+  for start in "${!cannot_run[@]}"; do
+    if [[ "$1: $2" == "$start"* ]]; then
+      unset "cannot_run[$start]"
+      return
+    fi
+  done
+  return 1
+}
+
+# What stands for a placeholder.
+filled_in() {
+  local block=${1//<directory>/$scratch/installed}
+  printf '%s' "${block//program.cpp/examples/quick_start.cpp}"
+}
+
+# run_block <document> <line> <block>
+run_block() {
+  local block output
+  if reason_not_to_run "$1" "$3"; then return; fi
+  block=$(filled_in "$3")
+  if [[ $block =~ \<[a-z\ ]+\> ]]; then
+    fail "$1:$2: nothing stands for the placeholder ${BASH_REMATCH[0]}"
+  elif ! output=$(cd "$scratch" && bash -euc "$block" 2>&1 </dev/null); then
+    fail "$1:$2: these commands fail:" "$block" "${output: -2000}"
+  fi
+}
+
+# read_document <document>: runs its blocks.
+read_document() {
+  local line number=0 start kind= block=
+  local command='^ *(\$ |\./|build/|docs/[a-z_]*\.(sh|py)|scripts/|cmake |ctest |doxygen |g\+\+ |qorvex |qorvex-gallery )'
+  while IFS= read -r line; do
+    number=$((number + 1))
+    if [[ $line != '```'* ]]; then
+      [[ -z $kind ]] || block+=$line$'\n'
+      [[ -n $kind || ! $line =~ $command ]] || fail "$1:$number: a command outside a block: $line"
+    elif [[ -z $kind ]]; then
+      kind=${line#'```'} start=$number block=
+    else
+      case "$kind $1" in
+        sh\ *) run_block "$1" "$start" "$block" ;;
+        "console docs/command_line.md" | cmake\ * | cpp\ * | text\ *) ;;
+        *) fail "$1:$start: a block of an unknown kind: ${kind:-none}" ;;
+      esac
+      kind=
+    fi
+  done <"$source/$1"
+  [[ -z $kind ]] || fail "$1:$start: a block without an end"
+}
+
+rm -rf "$scratch"
+mkdir -p "$scratch/build"
+for entry in "$source"/*; do
+  [[ $entry == */build ]] || ln -s "$entry" "$scratch/"
+done
+ln -s "$build" "$scratch/build/release"
+
+cd "$source"
+documents=(README.md $(find docs -name '*.md' | sort))
+[[ ${#documents[@]} -gt 10 ]] || fail "only ${#documents[@]} documents were found"
+for document in "${documents[@]}"; do read_document "$document"; done
+for start in "${!cannot_run[@]}"; do fail "listed, but not there: $start"; done
+[[ $failures == 0 ]]
