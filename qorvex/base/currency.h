@@ -39,7 +39,7 @@ namespace qorvex {
 
 /// A fixed-point amount of money: an integer that counts parts of a currency unit. Each stored
 /// width and scale is a type of its own, so an amount is never taken for an integer or for an
-/// amount of another scale.
+/// amount of another scale. std::numeric_limits has the range, and the resolution as epsilon().
 template <class Stored, std::int64_t Scale>
 class QORVEX_EXPORT BasicCurrency {
  public:
@@ -185,8 +185,8 @@ QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
 
 }  // namespace qorvex
 
-/// The range of the amounts and their resolution, epsilon(). They wrap around like unsigned
-/// integers.
+/// @cond internal
+// Amounts wrap around like unsigned integers.
 template <class Stored, std::int64_t Scale>
 struct std::numeric_limits<qorvex::BasicCurrency<Stored, Scale>> : std::numeric_limits<Stored> {
   using Amount = qorvex::BasicCurrency<Stored, Scale>;
@@ -205,3 +205,4 @@ struct std::numeric_limits<qorvex::BasicCurrency<Stored, Scale>> : std::numeric_
   static constexpr Amount signaling_NaN() noexcept { return Amount(); }
   static constexpr Amount denorm_min() noexcept { return Amount(); }
 };
+/// @endcond

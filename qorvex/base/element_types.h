@@ -55,8 +55,10 @@ concept NumericElement = FloatElement<T> || IntegerElement<T>;
 template <class T>
 class WholeNumber {
  public:
+  /// Converts the integers that convert to T.
   constexpr WholeNumber(T value) noexcept : value_(value) {}
   WholeNumber(std::floating_point auto) = delete;
+  /// The integer.
   constexpr operator T() const noexcept { return value_; }
 
  private:
