@@ -65,8 +65,8 @@ Examples:
      .result = "the determinant",
      .takes_tolerance = true,
      .compute = Determinant,
-     .help = R"(The determinant is a product over the steps of an elimination. For a singular
-matrix rounding may leave a tiny number in place of 0.
+     .help = R"(The determinant is a product over the steps of an elimination. It is 0 where the
+rank is lower than the order; rounding may hide that and leave a tiny number.
 
 Examples:
   qorvex matrix determinant system.csv
@@ -77,7 +77,7 @@ Examples:
      .takes_tolerance = true,
      .takes_decimals = false,
      .compute = Rank,
-     .help = R"(The rank is the number of rows that are not zero after an elimination.
+     .help = R"(The rank is the number of rows that an elimination does not turn into zeros.
 
 Examples:
   qorvex matrix rank system.csv
@@ -88,8 +88,7 @@ Examples:
      .takes_tolerance = true,
      .compute = Echelon,
      .help = R"(Each row starts with a one, further right than the row above, and the rows of
-zeros come last. What stands above a leading one is not eliminated. Rounding may
-leave tiny numbers where zeros belong.
+zeros come last. What stands above a leading one is not eliminated.
 
 Example:
   qorvex matrix echelon system.csv --decimals 3)"},

@@ -1,5 +1,5 @@
 // Prints what docs/accuracy.md says of matrices: the digits that determinants and inverses keep,
-// beside Eigen in long double and LAPACK in double, and how many singular matrices are recognised.
+// beside Eigen in long double and LAPACK in double, and how often ranks are right.
 
 #include <Eigen/LU>
 #include <algorithm>
@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <functional>
+#include <initializer_list>
 #include <limits>
 #include <random>
 #include <string>
@@ -149,79 +150,174 @@ void PrintHilbert() {
   }
 }
 
+// The correlations of so many variables, in four times as many observations with a strong common
+// part, computed in double: rounding leaves some of the ones on the diagonal a last bit beside one.
+TQorFloatMatrix CorrelationsInDouble(std::size_t variables, std::mt19937_64& engine) {
+  std::normal_distribution<double> normal;
+  const std::size_t observations = 4 * variables;
+  std::vector<std::vector<double>> deviations(variables, std::vector<double>(observations));
+  std::vector<double> common(observations);
+  for (double& x : common) x = normal(engine);
+  for (std::vector<double>& deviation : deviations) {
+    double sum = 0;
+    for (std::size_t k = 0; k < observations; ++k) {
+      sum += deviation[k] = 3 * common[k] + normal(engine);
+    }
+    for (double& x : deviation) x -= sum / static_cast<double>(observations);
+  }
+  const auto products = [&](std::size_t i, std::size_t j) {
+    double sum = 0;
+    for (std::size_t k = 0; k < observations; ++k) sum += deviations[i][k] * deviations[j][k];
+    return sum;
+  };
+  return MatrixOf(variables, [&](std::size_t i, std::size_t j) {
+    return products(i, j) / (std::sqrt(products(i, i)) * std::sqrt(products(j, j)));
+  });
+}
+
 // The largest element of A A^-1 - I over random matrices.
+template <class Make>
+void PrintResiduals(const char* elements, std::initializer_list<std::size_t> orders,
+                    const Make& make) {
+  for (const std::size_t order : orders) {
+    std::mt19937_64 engine(order);
+    Extended worst[4] = {};
+    for (int repetition = 0; repetition < (order < 100 ? 50 : 3); ++repetition) {
+      const TQorFloatMatrix given = make(order, engine);
+      const auto identity = CreateFloatIdentityMatrix(static_cast<std::uint32_t>(order));
+      const Solution at_default = Ours(given);
+      const Extended tolerance = std::exchange(QorTolerance, 1e-18L);
+      const Solution solutions[] = {at_default, Ours(given), EigenInLongDouble(given),
+                                    LapackInDouble(given)};
+      QorTolerance = tolerance;
+      for (std::size_t who = 0; who < std::size(solutions); ++who) {
+        const auto product = MultiplyMatrices(given, solutions[who].inverse);
+        worst[who] = std::max(worst[who], LargestDifference(product, identity));
+      }
+    }
+    std::printf("| %zu | %s | %.1Le | %.1Le | %.1Le | %.1Le |\n", order, elements, worst[0],
+                worst[1], worst[2], worst[3]);
+  }
+}
+
 void PrintResiduals() {
   std::puts("| order | elements | ours | ours, tolerance 1e-18 | Eigen | LAPACK |");
   std::puts("|---|---|---|---|---|---|");
-  for (const int magnitude : {1, 9, 100, 10000}) {
-    for (const std::size_t order : {5U, 10U, 20U, 50U, 100U, 200U}) {
-      std::mt19937_64 engine(order);
-      std::uniform_real_distribution<Extended> uniform(-magnitude, magnitude);
-      Extended worst[4] = {};
-      for (int repetition = 0; repetition < (order < 100 ? 50 : 3); ++repetition) {
-        const auto given = MatrixOf(order, [&](auto...) {
-          return magnitude == 1 ? uniform(engine) : std::round(uniform(engine));
-        });
-        const auto identity = CreateFloatIdentityMatrix(static_cast<std::uint32_t>(order));
-        const Solution at_default = Ours(given);
-        const Extended tolerance = std::exchange(QorTolerance, 1e-18L);
-        const Solution solutions[] = {at_default, Ours(given), EigenInLongDouble(given),
-                                      LapackInDouble(given)};
-        QorTolerance = tolerance;
-        for (std::size_t who = 0; who < std::size(solutions); ++who) {
-          const auto product = MultiplyMatrices(given, solutions[who].inverse);
-          worst[who] = std::max(worst[who], LargestDifference(product, identity));
-        }
-      }
-      std::printf("| %zu | %s %d | %.1Le | %.1Le | %.1Le | %.1Le |\n", order,
-                  magnitude == 1 ? "real, up to" : "integer, up to", magnitude, worst[0], worst[1],
-                  worst[2], worst[3]);
-    }
-  }
+  const auto orders = {5UL, 10UL, 20UL, 50UL, 100UL, 200UL};
+  const auto integers = [](int magnitude) {
+    return [magnitude](std::size_t order, std::mt19937_64& engine) {
+      std::uniform_int_distribution<int> uniform(-magnitude, magnitude);
+      return MatrixOf(order, [&](auto...) { return uniform(engine); });
+    };
+  };
+  PrintResiduals("real, up to 1", orders, [](std::size_t order, std::mt19937_64& engine) {
+    std::uniform_real_distribution<Extended> uniform(-1, 1);
+    return MatrixOf(order, [&](auto...) { return uniform(engine); });
+  });
+  PrintResiduals("integer, up to 9", orders, integers(9));
+  PrintResiduals("integer, up to 10000", orders, integers(10000));
+  PrintResiduals("correlations in double", {5UL, 10UL, 20UL, 50UL}, CorrelationsInDouble);
 }
 
-// The share of singular matrices that MatrixInverse refuses. They are integer with elements up to 9
-// in magnitude: the last row is made of two others.
 template <FloatElement T>
-double ShareRecognised(std::size_t order, int matrices) {
-  std::mt19937_64 engine(order);
+TQorMatrix<T> Digits(std::size_t rows, std::size_t cols, std::mt19937_64& engine) {
   std::uniform_int_distribution<int> digit(-9, 9);
-  int recognised = 0;
-  for (int i = 0; i < matrices; ++i) {
-    auto matrix = TQorMatrix<T>::WithLength(order);
-    for (TQorVector<T>& row : matrix) {
-      row.SetLength(order);
-      for (T& x : row) x = static_cast<T>(digit(engine));
-    }
-    const auto a = static_cast<T>(digit(engine));
-    const auto b = static_cast<T>(digit(engine));
-    for (std::size_t j = 0; j < order; ++j) {
-      matrix[order - 1][j] = a * matrix[0][j] + b * matrix[order > 2 ? 1 : 0][j];
-    }
-    TQorMatrix<T> inverse;
-    if (!MatrixInverse(matrix, inverse)) ++recognised;
+  auto matrix = TQorMatrix<T>::WithLength(rows);
+  for (TQorVector<T>& row : matrix) {
+    row.SetLength(cols);
+    for (T& x : row) x = static_cast<T>(digit(engine));
   }
-  return 100.0 * recognised / matrices;
+  return matrix;
 }
 
-void PrintSingular() {
-  constexpr int matrices = 20000;
-  std::puts("| order | Float | Double | Single | Float, 1e-12 | Double, 1e-10 | Single, 1e-3 |");
-  std::puts("|---|---|---|---|---|---|---|");
-  for (std::size_t order = 2; order <= 12; ++order) {
-    const double by_default[] = {ShareRecognised<Extended>(order, matrices),
-                                 ShareRecognised<double>(order, matrices),
-                                 ShareRecognised<float>(order, matrices)};
-    const Extended tolerance = std::exchange(QorTolerance, 1e-12L);
-    double raised[3];
-    raised[0] = ShareRecognised<Extended>(order, matrices);
-    QorTolerance = 1e-10L;
-    raised[1] = ShareRecognised<double>(order, matrices);
-    QorTolerance = 1e-3L;
-    raised[2] = ShareRecognised<float>(order, matrices);
-    QorTolerance = tolerance;
-    std::printf("| %zu | %.2f | %.1f | %.1f | %.2f | %.1f | %.1f |\n", order, by_default[0],
-                by_default[1], by_default[2], raised[0], raised[1], raised[2]);
+// Integer matrices with elements up to 9 in magnitude whose last row is made of two others.
+template <FloatElement T>
+TQorMatrix<T> OfRankOneLess(std::size_t order, std::mt19937_64& engine) {
+  auto matrix = Digits<T>(order, order, engine);
+  const auto factors = Digits<T>(1, 2, engine);
+  for (std::size_t j = 0; j < order; ++j) {
+    matrix[order - 1][j] =
+        factors[0][0] * matrix[0][j] + factors[0][1] * matrix[order > 2 ? 1 : 0][j];
+  }
+  return matrix;
+}
+
+// Products of two such matrices, the first with half as many columns as rows.
+template <FloatElement T>
+TQorMatrix<T> OfHalfTheRank(std::size_t order, std::mt19937_64& engine) {
+  return MultiplyMatrices(Digits<T>(order, order / 2, engine), Digits<T>(order / 2, order, engine));
+}
+
+// The rank of an integer matrix by elimination modulo 2^61 - 1, which could only be smaller than
+// the exact one where that prime divides a minor.
+template <FloatElement T>
+std::size_t ExactRank(const TQorMatrix<T>& matrix) {
+  using Wide = unsigned __int128;
+  constexpr std::uint64_t prime = (std::uint64_t{1} << 61) - 1;
+  const auto times = [](std::uint64_t a, std::uint64_t b) {
+    return static_cast<std::uint64_t>(static_cast<Wide>(a) * b % prime);
+  };
+  std::vector<std::vector<std::uint64_t>> rows;
+  for (const TQorVector<T>& row : matrix) {
+    std::vector<std::uint64_t>& residues = rows.emplace_back();
+    for (const T x : row) {
+      const auto integer = static_cast<std::int64_t>(x);
+      residues.push_back(static_cast<std::uint64_t>(integer) + (integer < 0 ? prime : 0));
+    }
+  }
+  std::size_t rank = 0;
+  for (std::size_t col = 0; col < matrix[0].size() && rank < rows.size(); ++col) {
+    const auto pivot = std::find_if(rows.begin() + static_cast<std::ptrdiff_t>(rank), rows.end(),
+                                    [&](const auto& row) { return row[col] != 0; });
+    if (pivot == rows.end()) continue;
+    std::swap(rows[rank], *pivot);
+    // row * pivot - pivot row * element, which needs no reciprocal.
+    for (std::size_t r = rank + 1; r < rows.size(); ++r) {
+      const std::uint64_t element = rows[r][col];
+      for (std::size_t j = col; j < rows[r].size(); ++j) {
+        rows[r][j] =
+            (times(rows[r][j], rows[rank][col]) + prime - times(rows[rank][j], element)) % prime;
+      }
+    }
+    ++rank;
+  }
+  return rank;
+}
+
+// Per cent of matrices whose rank is that of exact arithmetic.
+template <FloatElement T>
+double ShareRight(std::size_t order, TQorMatrix<T> (*make)(std::size_t, std::mt19937_64&),
+                  Extended tolerance, int matrices) {
+  const Extended kept = std::exchange(QorTolerance, tolerance);
+  std::mt19937_64 engine(order);
+  int right = 0;
+  for (int i = 0; i < matrices; ++i) {
+    auto matrix = make(order, engine);
+    const std::size_t expected = ExactRank(matrix);
+    std::uint32_t rank = 0;
+    RowEchelonFormRank(matrix, rank);
+    if (rank == expected) ++right;
+  }
+  QorTolerance = kept;
+  return 100.0 * right / matrices;
+}
+
+void PrintRanks() {
+  const auto print = [](std::size_t order, const char* which, int matrices, auto make) {
+    const auto right = [&]<class T>(T, Extended tolerance) {
+      return ShareRight<T>(order, make.template operator()<T>(), tolerance, matrices);
+    };
+    std::printf("| %zu | %s | %.2f | %.1f | %.1f | %.2f | %.1f | %.1f |\n", order, which,
+                right(Extended(), 1e-15L), right(double(), 1e-15L), right(float(), 1e-15L),
+                right(Extended(), 1e-12L), right(double(), 1e-10L), right(float(), 1e-3L));
+  };
+  std::puts(
+      "| order | rank | Float | Double | Single | Float, 1e-12 | Double, 1e-10 | Single, 1e-3 |");
+  std::puts("|---|---|---|---|---|---|---|---|");
+  for (const std::size_t order : {2UL, 3UL, 4UL, 6UL, 8UL, 12UL, 20UL, 50UL}) {
+    const int matrices = order < 20 ? 20000 : 500;
+    print(order, "one less", matrices, []<class T>() { return OfRankOneLess<T>; });
+    print(order, "half", matrices, []<class T>() { return OfHalfTheRank<T>; });
   }
 }
 
@@ -234,6 +330,6 @@ int main() {
   PrintHilbert();
   std::puts("\nThe largest element of A A^-1 - I, random matrices\n");
   PrintResiduals();
-  std::puts("\nPer cent of singular matrices recognised, by element type and tolerance\n");
-  PrintSingular();
+  std::puts("\nPer cent of ranks that are right, by element type and tolerance\n");
+  PrintRanks();
 }

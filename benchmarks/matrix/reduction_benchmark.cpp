@@ -11,7 +11,7 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// The elimination as loops over whole rows, with the same roundings as ours.
+// The elimination as loops over rows, with the same roundings as ours.
 template <FloatElement T>
 class Loops {
  public:
@@ -24,7 +24,10 @@ class Loops {
     }
     Eliminate();
     for (std::size_t col = Order() - 1; col > 0; --col) {
-      for (std::size_t row = col; row-- > 0;) AddToBoth(row, col, -Extended(matrix_[row][col]));
+      for (std::size_t row = col; row-- > 0;) {
+        AddRow(inverse_, row, col, 0, -Extended(matrix_[row][col]));
+        matrix_[row][col] = 0;
+      }
     }
     return inverse_;
   }
@@ -37,14 +40,12 @@ class Loops {
  private:
   std::size_t Order() const { return matrix_.size(); }
 
-  void AddToBoth(std::size_t target, std::size_t source, Extended factor) {
-    for (TQorMatrix<T>* m : {&matrix_, &inverse_}) {
-      if (m->empty()) continue;
-      T* const to = (*m)[target].data();
-      const T* const from = (*m)[source].data();
-      for (std::size_t j = 0; j < Order(); ++j) {
-        to[j] = static_cast<T>(Extended(from[j]) * factor + Extended(to[j]));
-      }
+  void AddRow(TQorMatrix<T>& m, std::size_t target, std::size_t source, std::size_t from,
+              Extended factor) {
+    T* const to = m[target].data();
+    const T* const added = m[source].data();
+    for (std::size_t j = from; j < Order(); ++j) {
+      to[j] = static_cast<T>(Extended(added[j]) * factor + Extended(to[j]));
     }
   }
 
@@ -63,7 +64,10 @@ class Loops {
         for (T& x : (*m)[col]) x = static_cast<T>(Extended(x) * (1 / pivot));
       }
       for (std::size_t row = col + 1; row < Order(); ++row) {
-        AddToBoth(row, col, -Extended(matrix_[row][col]));
+        const Extended factor = -Extended(matrix_[row][col]);
+        matrix_[row][col] = 0;
+        AddRow(matrix_, row, col, col + 1, factor);
+        if (!inverse_.empty()) AddRow(inverse_, row, col, 0, factor);
       }
     }
   }

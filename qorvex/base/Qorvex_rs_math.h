@@ -28,7 +28,7 @@ namespace qorvex::inline Qorvex_rs_math {
   X(rsVectorG1, "The vector must have at least two elements")                                  \
   X(rsVectorG2, "The vector must have at least three elements")                                \
   X(rsVectorG3, "The vector must have at least four elements")                                 \
-  X(rsMatrixIsEmpty, "The matrix is empty")                                                    \
+  X(rsMatrixIsEmpty, "The matrix is empty or its rows differ in length")                       \
   X(rsMatrixRect, "The matrix must be rectangular")                                            \
   X(rsInvalidCol, "The column index is out of range")                                          \
   X(rsInvalidRow, "The row index is out of range")                                             \

@@ -14,7 +14,7 @@
 namespace qorvex::inline QorvexGlobals {
 
 /// The tolerance of every comparison here, initially 1.0e-15. The zero and sign tests compare with
-/// it as it is; SameFloat scales it with values above 1.
+/// it as it is; SameFloat scales it with the values.
 ///
 /// A program may change it for data of another scale, while no other thread uses the library. Raise
 /// it where rounding residue of long computations should count as zero, such as elimination on
@@ -41,26 +41,29 @@ extern QORVEX_EXPORT Extended QorTolerance;
   return x < -QorTolerance;
 }
 
-/// Equality for ties and duplicates: x == y, or both are finite and
-/// |x - y| <= max(QorTolerance, 4 eps) * max(1, |x|, |y|), computed in the wider of the two types
-/// with that type's eps. NaN is the same as nothing; an infinity only as itself.
+/// Equality for ties and duplicates, whatever the unit of the values: x == y, or both are finite
+/// and |x - y| <= max(QorTolerance, 4 eps) * max(|x|, |y|), computed in the wider of the two types
+/// with that type's eps. NaN is the same as nothing; an infinity only as itself, and zero only as
+/// zero while the tolerance is below 1.
 ///
 /// Over sorted finite values the values that are the same as a given one are contiguous, as long as
 /// the tolerance is below 0.5.
 template <FloatElement X, FloatElement Y>
 [[nodiscard]] inline bool SameFloat(X x, Y y) noexcept {
   using T = std::common_type_t<X, Y>;
-  const T a = x;
-  const T b = y;
-  if (a == b) return true;
+  if (static_cast<T>(x) == static_cast<T>(y)) return true;
+  if (!std::isfinite(x) || !std::isfinite(y)) return false;
   constexpr T rounding = 4 * std::numeric_limits<T>::epsilon();
   // A tolerance that is NaN compares false, which leaves the rounding bound.
   const T given = static_cast<T>(QorTolerance);
   const T tolerance = given > rounding ? given : rounding;
-  const T larger = std::max(std::fabs(a), std::fabs(b));
-  // NaN fails the first comparison; an infinity passes it and fails the second.
-  return std::fabs(a - b) <= tolerance * std::max(T(1), larger) &&
-         larger <= std::numeric_limits<T>::max();
+  // By a power of two both sides keep their digits: the difference of large values does not
+  // overflow then, nor does the bound for small ones underflow.
+  const bool large = std::fabs(x) > 1 || std::fabs(y) > 1;
+  const T scale = large ? T(0.5) : T(0x1p64);
+  const T a = x * scale;
+  const T b = y * scale;
+  return std::fabs(a - b) <= tolerance * std::max(std::fabs(a), std::fabs(b));
 }
 
 /// The negation of SameFloat for extended values.

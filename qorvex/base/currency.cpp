@@ -16,7 +16,7 @@ Extended ToFloat(C amount) noexcept {
 
 template <CurrencyElement C>
 C FromFloat(Extended value) noexcept {
-  return C(RoundToInteger<typename C::StoredType>(value * static_cast<Extended>(C::kScale)));
+  return C(RoundProduct<typename C::StoredType>(value, C::kScale));
 }
 
 template <CurrencyElement To, CurrencyElement From>

@@ -21,7 +21,7 @@
 /// between scales or with floating-point values: convert first, which shows where rounding happens.
 ///
 /// All conversions round to the nearest value, ties to even. What the target cannot hold becomes
-/// the target's smallest value.
+/// the target's smallest value. Every amount survives the way through Currency2Float and back.
 ///
 /// Text is in currency_text.h, the formatter for libfmt in currency_format.h.
 
@@ -29,6 +29,7 @@
 #include <concepts>
 #include <cstdint>
 #include <iosfwd>
+#include <limits>
 #include <type_traits>
 
 #include "qorvex/base/element_types.h"
@@ -38,7 +39,7 @@ namespace qorvex {
 
 /// A fixed-point amount of money: an integer that counts parts of a currency unit. Each stored
 /// width and scale is a type of its own, so an amount is never taken for an integer or for an
-/// amount of another scale.
+/// amount of another scale. std::numeric_limits has the range, and the resolution as epsilon().
 template <class Stored, std::int64_t Scale>
 class QORVEX_EXPORT BasicCurrency {
  public:
@@ -54,8 +55,17 @@ class QORVEX_EXPORT BasicCurrency {
   }();
 
   constexpr BasicCurrency() noexcept = default;
-  /// The amount whose stored integer is given: Currency(15000) is 1.5000 units.
+  /// The amount whose stored integer is given: Currency(15000) is 1.5000 units. No floating value
+  /// is taken, which could be meant in units: convert it.
   explicit constexpr BasicCurrency(Stored stored) noexcept : stored_(stored) {}
+  explicit BasicCurrency(std::floating_point auto) = delete;
+
+  /// The amount of whole units: Currency::Units(12) is 12.0000. What does not fit does not compile
+  /// as a constant; otherwise it becomes the smallest amount.
+  [[nodiscard]] static constexpr BasicCurrency Units(std::integral auto units) noexcept {
+    Stored stored = 0;
+    return __builtin_mul_overflow(units, Scale, &stored) ? OutOfRange() : BasicCurrency(stored);
+  }
 
   /// The stored integer: the amount times the scale.
   [[nodiscard]] constexpr Stored stored() const noexcept { return stored_; }
@@ -111,6 +121,11 @@ class QORVEX_EXPORT BasicCurrency {
     return *this;
   }
 
+  // Not constexpr, so that no constant is out of range.
+  static BasicCurrency OutOfRange() noexcept {
+    return BasicCurrency(std::numeric_limits<Stored>::min());
+  }
+
   Stored stored_ = 0;
 };
 
@@ -140,8 +155,10 @@ inline namespace QorvexGlobals {
 /// @}
 
 /// @{
-/// The value in units as an amount: value times the scale, rounded to extended and then to an
-/// integer. NaN and what does not fit give the smallest amount.
+/// The value in units as an amount: value times the scale, rounded to an integer. The product is
+/// rounded to extended first, so that 0.015 units, which are no binary number, are a tie; where
+/// that would round the integer itself, from 2^62 on, the exact product decides. NaN and what does
+/// not fit give the smallest amount.
 [[nodiscard]] QORVEX_EXPORT Currency Float2Currency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency Float2QorCurrency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorLongCurrency Float2QorLongCurrency(Extended value) noexcept;
@@ -167,3 +184,25 @@ QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
 }  // namespace QorvexGlobals
 
 }  // namespace qorvex
+
+/// @cond internal
+// Amounts wrap around like unsigned integers.
+template <class Stored, std::int64_t Scale>
+struct std::numeric_limits<qorvex::BasicCurrency<Stored, Scale>> : std::numeric_limits<Stored> {
+  using Amount = qorvex::BasicCurrency<Stored, Scale>;
+
+  static constexpr bool is_integer = false;
+  static constexpr bool is_modulo = true;
+  static constexpr bool traps = false;
+
+  static constexpr Amount min() noexcept { return Amount(std::numeric_limits<Stored>::min()); }
+  static constexpr Amount lowest() noexcept { return min(); }
+  static constexpr Amount max() noexcept { return Amount(std::numeric_limits<Stored>::max()); }
+  static constexpr Amount epsilon() noexcept { return Amount(Stored(1)); }
+  static constexpr Amount round_error() noexcept { return Amount(); }
+  static constexpr Amount infinity() noexcept { return Amount(); }
+  static constexpr Amount quiet_NaN() noexcept { return Amount(); }
+  static constexpr Amount signaling_NaN() noexcept { return Amount(); }
+  static constexpr Amount denorm_min() noexcept { return Amount(); }
+};
+/// @endcond

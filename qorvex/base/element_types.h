@@ -51,15 +51,38 @@ concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std:
 template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
 
+/// An integer argument. A floating one, which would be cut off, does not compile.
+template <class T>
+class WholeNumber {
+ public:
+  /// Converts the integers that convert to T.
+  constexpr WholeNumber(T value) noexcept : value_(value) {}
+  WholeNumber(std::floating_point auto) = delete;
+  /// The integer.
+  constexpr operator T() const noexcept { return value_; }
+
+ private:
+  T value_;
+};
+
 /// @cond internal
-// A class of its own, because compilers mangle a concept within a function's type differently, and
-// a program of one could not be linked to a library of the other.
+// Classes of their own, because compilers mangle a concept within a function's type differently,
+// and a program of one could not be linked to a library of the other.
 template <class T>
 struct SumType {
   using Type = std::conditional_t<FloatElement<T>, Extended,
                                   std::conditional_t<IntegerElement<T>, std::int64_t, T>>;
 };
+template <class T>
+struct ScalarType {
+  using Type = std::conditional_t<IntegerElement<T>, WholeNumber<T>, T>;
+};
 /// @endcond
+
+/// The type of an argument that stands for an element of T: T itself, for integers a WholeNumber.
+/// Calls convert to it, since it takes no part in deduction.
+template <class T>
+using ScalarOf = typename ScalarType<T>::Type;
 
 /// The type in which sums over elements of T accumulate and are returned: currencies add up to
 /// amounts of their own type.

@@ -37,8 +37,9 @@ inline constexpr std::string_view QorNullStr = "";
 /// The smaller of two values; x when they are equal or when one is NaN.
 template <class T>
 requires NumericElement<T>
-[[nodiscard]] constexpr T MinXY(T x, std::type_identity_t<T> y) noexcept {
-  return y < x ? y : x;
+[[nodiscard]] constexpr T MinXY(T x, ScalarOf<T> y) noexcept {
+  const T other = y;
+  return other < x ? other : x;
 }
 
 }  // namespace qorvex::inline QorvexGlobals

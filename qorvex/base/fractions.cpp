@@ -42,6 +42,22 @@ Ratio FirstConvergentWithin(Extended f, Extended tolerance) noexcept {
   return current;
 }
 
+using Wide = unsigned __int128;
+
+// n / d, rounded once, for n below 2^127.
+Extended Quotient(Wide n, std::uint64_t d) noexcept {
+  const auto low = [](Wide x) { return static_cast<Extended>(static_cast<std::uint64_t>(x)); };
+  const Wide whole = n / d;
+  const Wide rest = n % d;
+  if (whole == 0) return low(rest) / low(d);
+  // The quotient in binary, at least two places longer than the result. Its last bit is set also
+  // for what comes after it, so that the sum of its halves rounds as the quotient would.
+  const int places = whole < Wide{1} << 62 ? 65 : 3;
+  Wide digits = (whole << places) + (rest << places) / d;
+  if ((rest << places) % d != 0) digits |= 1;
+  return std::ldexp(low(digits >> 64) * 0x1p64L + low(digits), -places);
+}
+
 std::string RatioText(Ratio ratio) {
   return Int2EStr(ratio.numerator) + '/' + Int2EStr(ratio.denominator);
 }
@@ -81,8 +97,18 @@ TQorMixedFraction Float2MixedFraction(Extended value, int decimals) noexcept {
 }
 
 Extended Fraction2Float(const TQorMixedFraction& fraction) {
-  return fraction.whole + CheckedDivide(static_cast<Extended>(fraction.numerator),
-                                        static_cast<Extended>(fraction.denominator));
+  const auto [whole, numerator, denominator] = fraction;
+  const Extended part =
+      CheckedDivide(static_cast<Extended>(numerator), static_cast<Extended>(denominator));
+  // Beside a larger whole, how the part was rounded makes no difference.
+  const bool is_integer = std::fabs(whole) < 0x1p63L && whole == std::trunc(whole);
+  if (whole == 0 || !is_integer) return whole + part;
+  auto improper = static_cast<__int128>(static_cast<std::int64_t>(whole)) * denominator + numerator;
+  if (denominator < 0) improper = -improper;
+  const auto divisor = static_cast<std::uint64_t>(denominator);
+  const Extended magnitude = Quotient(static_cast<Wide>(improper < 0 ? -improper : improper),
+                                      denominator < 0 ? 0 - divisor : divisor);
+  return improper < 0 ? -magnitude : magnitude;
 }
 
 std::string Fraction2Str(const TQorMixedFraction& fraction, TQorFractionDisplay display) {

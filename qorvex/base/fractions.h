@@ -43,8 +43,9 @@ enum TQorFractionDisplay {
 [[nodiscard]] QORVEX_EXPORT TQorMixedFraction Float2MixedFraction(Extended value,
                                                                   int decimals) noexcept;
 
-/// The fraction's value, whole + numerator / denominator in extended precision. A denominator of 0
-/// raises EZeroDivide, or EInvalidOp when the numerator is 0 too.
+/// The fraction's value: the extended number nearest to whole + numerator / denominator. NaN or an
+/// infinity in whole is the result, and a whole that is no integer is added after the division. A
+/// denominator of 0 raises EZeroDivide, or EInvalidOp when the numerator is 0 too.
 [[nodiscard]] QORVEX_EXPORT Extended Fraction2Float(const TQorMixedFraction& fraction);
 
 /// The fraction's text; a whole number shows no fraction. fdImproper falls back to the mixed form

@@ -26,6 +26,22 @@ template <std::integral Int>
   return std::in_range<Int>(rounded) ? static_cast<Int>(rounded) : smallest;
 }
 
+/// RoundToInteger of a product, for factors up to 2^24. From 2^62 on a product has only halves left
+/// in extended precision, so a half there goes by what the product was rounded by.
+template <std::integral Int>
+[[nodiscard]] inline Int RoundProduct(Extended value, std::int64_t factor) noexcept {
+  const auto wide_factor = static_cast<Extended>(factor);
+  Extended product = value * wide_factor;
+  if (std::fabs(product) >= 0x1p62L && std::fabs(product) < 0x1p63L) {
+    // Both parts of the value times the factor are exact, and so is what the sum loses.
+    const auto leading = static_cast<Extended>(static_cast<float>(value));
+    const Extended lost = (value - leading) * wide_factor - (product - leading * wide_factor);
+    const Extended below = std::floor(product);
+    if (product != below && lost != 0) product = lost > 0 ? below + 1 : below;
+  }
+  return RoundToInteger<Int>(product);
+}
+
 /// The nearest integer to a quotient, ties to even. For a divisor from 1 to 2^62.
 [[nodiscard]] constexpr std::int64_t DivideHalfEven(std::int64_t dividend,
                                                     std::int64_t divisor) noexcept {

@@ -162,8 +162,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
   void AddRows(quint32 target, quint32 source, Extended factor);
   void AddCols(quint32 target, quint32 source, Extended factor);
   /// @}
-  /// The inverse matrix, by MatrixInverse. EMathError with rsNoInvert for a singular matrix, which
-  /// stays as it is. In virtual mode it only redisplays.
+  /// The inverse matrix, by MatrixInverse. EMathError with rsNoInvert for a singular matrix and for
+  /// one with a null, which stay as they are. In virtual mode it only redisplays.
   void Inverse();
 
   /// What a click on the button in the corner does: OnCornerBtnClick.

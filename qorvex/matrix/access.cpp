@@ -30,7 +30,7 @@ TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix, std::uint32_t col) {
 
 template <AnyElement T>
 void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVector<T>& vector,
-                        std::type_identity_t<T> fill) {
+                        ScalarOf<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return;
   detail::RequireRow(shape, row);
@@ -38,12 +38,12 @@ void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVect
   T* const elements = matrix[row].data();
   const std::size_t given = std::min<std::size_t>(vector.size(), shape.cols);
   std::copy_n(vector.data(), given, elements);
-  std::fill(elements + given, elements + shape.cols, fill);
+  std::fill(elements + given, elements + shape.cols, static_cast<T>(fill));
 }
 
 template <AnyElement T>
 void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVector<T>& vector,
-                        std::type_identity_t<T> fill) {
+                        ScalarOf<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.AtMostOneLine()) return;
   detail::RequireCol(shape, col);
@@ -53,11 +53,13 @@ void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVect
   for (std::size_t i = given; i < shape.rows; ++i) matrix[i][col] = fill;
 }
 
-#define QORVEX_INSTANTIATE(T)                                                               \
-  template TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>&, std::uint32_t);             \
-  template TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>&, std::uint32_t);             \
-  template void OverwriteMatrixRow(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, T); \
-  template void OverwriteMatrixCol(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, T);
+#define QORVEX_INSTANTIATE(T)                                                           \
+  template TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>&, std::uint32_t);         \
+  template TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>&, std::uint32_t);         \
+  template void OverwriteMatrixRow(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, \
+                                   ScalarOf<T>);                                        \
+  template void OverwriteMatrixCol(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, \
+                                   ScalarOf<T>);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -12,7 +12,6 @@
 /// written is shorter than the first.
 
 #include <cstdint>
-#include <type_traits>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -36,10 +35,10 @@ template <AnyElement T>
 /// through every handle of a row's buffer. O(rows + columns).
 template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
-                                      const TQorVector<T>& vector, std::type_identity_t<T> fill);
+                                      const TQorVector<T>& vector, ScalarOf<T> fill);
 template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col,
-                                      const TQorVector<T>& vector, std::type_identity_t<T> fill);
+                                      const TQorVector<T>& vector, ScalarOf<T> fill);
 /// @}
 
 }  // namespace qorvex::inline QorvexMatrix

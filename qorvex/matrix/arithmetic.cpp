@@ -66,7 +66,7 @@ void SubtractFromMatrix(TQorMatrix<T>& a, const TQorMatrix<T>& b) {
 }
 
 template <AdditiveElement T>
-TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>& matrix, FactorOf<T> factor) {
+TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>& matrix, ScalarOf<FactorOf<T>> factor) {
   detail::RequireRows(matrix);
   auto result = TQorMatrix<T>::WithLength(matrix.size());
   std::ranges::transform(matrix, result.begin(), [=](const TQorVector<T>& row) {
@@ -78,20 +78,20 @@ TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>& matrix, FactorOf<T> fac
 }
 
 template <AdditiveElement T>
-void MultiplyMatrixByConst2(TQorMatrix<T>& matrix, FactorOf<T> factor) {
+void MultiplyMatrixByConst2(TQorMatrix<T>& matrix, ScalarOf<FactorOf<T>> factor) {
   detail::RequireRows(matrix);
   for (TQorVector<T>& row : matrix) {
     for (T& x : row) x = Product(x, factor);
   }
 }
 
-#define QORVEX_INSTANTIATE(T)                                                          \
-  template TQorMatrix<T> AddMatrices(const TQorMatrix<T>&, const TQorMatrix<T>&);      \
-  template TQorMatrix<T> SubtractMatrices(const TQorMatrix<T>&, const TQorMatrix<T>&); \
-  template void AddToMatrix(TQorMatrix<T>&, const TQorMatrix<T>&);                     \
-  template void SubtractFromMatrix(TQorMatrix<T>&, const TQorMatrix<T>&);              \
-  template TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>&, FactorOf<T>);     \
-  template void MultiplyMatrixByConst2(TQorMatrix<T>&, FactorOf<T>);
+#define QORVEX_INSTANTIATE(T)                                                                \
+  template TQorMatrix<T> AddMatrices(const TQorMatrix<T>&, const TQorMatrix<T>&);            \
+  template TQorMatrix<T> SubtractMatrices(const TQorMatrix<T>&, const TQorMatrix<T>&);       \
+  template void AddToMatrix(TQorMatrix<T>&, const TQorMatrix<T>&);                           \
+  template void SubtractFromMatrix(TQorMatrix<T>&, const TQorMatrix<T>&);                    \
+  template TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>&, ScalarOf<FactorOf<T>>); \
+  template void MultiplyMatrixByConst2(TQorMatrix<T>&, ScalarOf<FactorOf<T>>);
 QORVEX_FOR_ADDITIVE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

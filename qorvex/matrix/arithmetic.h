@@ -44,12 +44,12 @@ QORVEX_EXPORT void SubtractFromMatrix(TQorMatrix<T>& a, const TQorMatrix<T>& b);
 /// LInt and the currencies.
 template <AdditiveElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> MultiplyMatrixByConst(const TQorMatrix<T>& matrix,
-                                                                FactorOf<T> factor);
+                                                                ScalarOf<FactorOf<T>> factor);
 
 /// Multiplies every element by the factor; rows may differ in length. A matrix without rows raises
 /// EMathError with rsMatrixIsEmpty. For floating elements, Int64, LInt and the
 /// currencies.
 template <AdditiveElement T>
-QORVEX_EXPORT void MultiplyMatrixByConst2(TQorMatrix<T>& matrix, FactorOf<T> factor);
+QORVEX_EXPORT void MultiplyMatrixByConst2(TQorMatrix<T>& matrix, ScalarOf<FactorOf<T>> factor);
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -1,6 +1,7 @@
 #include "qorvex/matrix/reduction.h"
 
 #include <algorithm>
+#include <cmath>
 #include <concepts>
 #include <utility>
 #include <vector>
@@ -11,7 +12,6 @@
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
-#include "qorvex/matrix/properties.h"
 #include "qorvex/vector/building.h"
 
 namespace qorvex::inline QorvexMatrix {
@@ -50,34 +50,53 @@ auto WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
   return reduce(detail::DirectRows<T>(matrix, cols));
 }
 
+template <FloatElement T>
+std::size_t ReduceToEchelonForm(TQorMatrix<T>& matrix) {
+  const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
+  const detail::RectangularCheckPause pause;
+  return WithRows(matrix, shape.cols, [&](auto rows) {
+    return detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
+  });
+}
+
 // Repeats the steps on the rows of the inverse.
 template <class Rows>
 class InverseObserver {
  public:
   explicit InverseObserver(Rows& rows) : rows_(rows) {}
   void Swapped(std::size_t row1, std::size_t row2) { rows_.Swap(row1, row2); }
-  void Scaled(std::size_t row, Extended /*pivot*/, Extended factor) { rows_.Scale(row, 0, factor); }
+  void Scaled(std::size_t row, Extended pivot, Extended factor) {
+    rows_.Scale(row, factor);
+    pivots_are_finite_ &= std::isfinite(pivot);
+  }
   void Added(std::size_t target, std::size_t source, Extended factor) {
     rows_.Add(target, source, factor);
   }
+  [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
 
  private:
   Rows& rows_;
+  bool pivots_are_finite_ = true;
 };
 
-// Clears what is above the ones of the main diagonal, with the same steps on the inverse.
-template <class Rows>
-void SubstituteBack(Rows& rows, std::size_t order, Rows& inverse_rows) {
-  for (std::size_t col = order - 1; col > 0; --col) {
+// Clears what is above the pivots of the main diagonal, with the additions that would do it on the
+// inverse alone: in the matrix they would add zeros.
+template <FloatElement T, class Rows>
+void SubstituteBack(TQorMatrix<T>& matrix, Rows& inverse_rows) {
+  for (std::size_t col = matrix.size() - 1; col > 0; --col) {
     for (std::size_t row = col; row-- > 0;) {
-      const Extended element = rows.At(row, col);
-      if (FloatIsZero(element)) continue;
-      rows.Add(row, col, -element);
-      inverse_rows.Add(row, col, -element);
+      const auto element = static_cast<Extended>(std::exchange(matrix[row][col], T(0)));
+      if (FloatIsNotZero(element)) inverse_rows.Add(row, col, -element);
     }
   }
-  rows.Settle();
   inverse_rows.Settle();
+}
+
+template <FloatElement T>
+bool IsFinite(const TQorMatrix<T>& matrix) {
+  return std::ranges::all_of(matrix, [](const TQorVector<T>& row) {
+    return std::ranges::all_of(row, [](T x) { return std::isfinite(x); });
+  });
 }
 
 class DeterminantObserver {
@@ -95,18 +114,13 @@ class DeterminantObserver {
 
 template <FloatElement T>
 void RowEchelonForm(TQorMatrix<T>& matrix) {
-  const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
-  const detail::RectangularCheckPause pause;
-  WithRows(matrix, shape.cols, [&](auto rows) {
-    detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
-  });
+  ReduceToEchelonForm(matrix);
 }
 
 template <FloatElement T>
 void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank) {
   rank = 0;
-  RowEchelonForm(matrix);
-  rank = MatrixRows(matrix) - MatrixZeroRows(matrix);
+  rank = static_cast<std::uint32_t>(ReduceToEchelonForm(matrix));
 }
 
 template <FloatElement T>
@@ -117,11 +131,12 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   auto result = detail::NewIdentityMatrix<T>(order);
   const bool regular = WithRows(matrix, order, [&]<class Rows>(Rows rows) {
     Rows result_rows(result, order);
-    detail::Eliminate(rows, order, order, InverseObserver(result_rows));
+    InverseObserver observer(result_rows);
+    const std::size_t rank = detail::Eliminate(rows, order, order, observer);
     result_rows.Settle();
-    if (MatrixZeroRows(matrix) != 0) return false;
-    SubstituteBack(rows, order, result_rows);
-    return true;
+    if (rank < order || !observer.PivotsAreFinite()) return false;
+    SubstituteBack(matrix, result_rows);
+    return IsFinite(result);
   });
   inverse = std::move(result);
   return regular;

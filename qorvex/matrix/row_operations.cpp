@@ -37,14 +37,14 @@ void SwapMatrixCols(TQorMatrix<T>& matrix, std::uint32_t col1, std::uint32_t col
 }
 
 template <SignedArithmeticElement T>
-void ScaleMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, FactorOf<T> factor) {
+void ScaleMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, ScalarOf<FactorOf<T>> factor) {
   if (factor == 1) return;
   const std::size_t width = CheckedWidth(matrix, row);
   detail::ScaleElements(matrix[row].data(), width, factor);
 }
 
 template <SignedArithmeticElement T>
-void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, FactorOf<T> factor) {
+void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, ScalarOf<FactorOf<T>> factor) {
   if (factor == 1) return;
   CheckCols(matrix, col);
   for (TQorVector<T>& row : matrix) row[col] = QorvexVector::detail::Product(row[col], factor);
@@ -52,14 +52,14 @@ void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, FactorOf<T> factor
 
 template <SignedArithmeticElement T>
 void AddMatrixRows(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
-                   FactorOf<T> factor) {
+                   ScalarOf<FactorOf<T>> factor) {
   const std::size_t width = CheckedWidth(matrix, target, source);
   detail::AddElements(matrix[target].data(), matrix[source].data(), width, factor);
 }
 
 template <SignedArithmeticElement T>
 void AddMatrixCols(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
-                   FactorOf<T> factor) {
+                   ScalarOf<FactorOf<T>> factor) {
   CheckCols(matrix, target, source);
   for (TQorVector<T>& row : matrix) {
     row[target] = QorvexVector::detail::ProductPlus(row[source], factor, row[target]);
@@ -72,11 +72,12 @@ void AddMatrixCols(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t so
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                                                             \
-  template void ScaleMatrixRow(TQorMatrix<T>&, std::uint32_t, FactorOf<T>);               \
-  template void ScaleMatrixCol(TQorMatrix<T>&, std::uint32_t, FactorOf<T>);               \
-  template void AddMatrixRows(TQorMatrix<T>&, std::uint32_t, std::uint32_t, FactorOf<T>); \
-  template void AddMatrixCols(TQorMatrix<T>&, std::uint32_t, std::uint32_t, FactorOf<T>);
+#define QORVEX_INSTANTIATE(T)                                                         \
+  template void ScaleMatrixRow(TQorMatrix<T>&, std::uint32_t, ScalarOf<FactorOf<T>>); \
+  template void ScaleMatrixCol(TQorMatrix<T>&, std::uint32_t, ScalarOf<FactorOf<T>>); \
+  template void AddMatrixRows(TQorMatrix<T>&, std::uint32_t, std::uint32_t,           \
+                              ScalarOf<FactorOf<T>>);                                 \
+  template void AddMatrixCols(TQorMatrix<T>&, std::uint32_t, std::uint32_t, ScalarOf<FactorOf<T>>);
 QORVEX_FOR_SIGNED_ARITHMETIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -34,23 +34,25 @@ QORVEX_EXPORT void SwapMatrixCols(TQorMatrix<T>& matrix, std::uint32_t col1, std
 /// Multiplies a row by a factor. The factor 1 returns at once, before any check. For Float, Double,
 /// Single, Int64 and LInt elements. O(columns).
 template <SignedArithmeticElement T>
-QORVEX_EXPORT void ScaleMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, FactorOf<T> factor);
+QORVEX_EXPORT void ScaleMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
+                                  ScalarOf<FactorOf<T>> factor);
 
 /// Multiplies a column by a factor. The factor 1 returns at once, before any check. For Float,
 /// Double, Single, Int64 and LInt elements. O(rows).
 template <SignedArithmeticElement T>
-QORVEX_EXPORT void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, FactorOf<T> factor);
+QORVEX_EXPORT void ScaleMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col,
+                                  ScalarOf<FactorOf<T>> factor);
 
 /// Adds a row times a factor to the target row, which may be the same. For Float, Double, Single,
 /// Int64 and LInt elements. O(columns).
 template <SignedArithmeticElement T>
 QORVEX_EXPORT void AddMatrixRows(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
-                                 FactorOf<T> factor);
+                                 ScalarOf<FactorOf<T>> factor);
 
 /// Adds a column times a factor to the target column, which may be the same. For Float, Double,
 /// Single, Int64 and LInt elements. O(rows).
 template <SignedArithmeticElement T>
 QORVEX_EXPORT void AddMatrixCols(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
-                                 FactorOf<T> factor);
+                                 ScalarOf<FactorOf<T>> factor);
 
 }  // namespace qorvex::inline QorvexMatrix

@@ -30,7 +30,8 @@ constexpr auto kNotPositive = [](auto x) { return x <= 0; };
 }  // namespace
 
 template <AdditiveElement T>
-void LinearTransformMatrix(TQorMatrix<T>& matrix, FactorOf<T> multiplier, FactorOf<T> offset) {
+void LinearTransformMatrix(TQorMatrix<T>& matrix, ScalarOf<FactorOf<T>> multiplier,
+                           ScalarOf<FactorOf<T>> offset) {
   detail::RequireRows(matrix);
   for (TQorVector<T>& row : matrix) {
     for (T& x : row) x = QorvexVector::detail::ProductPlus(x, multiplier, offset);
@@ -66,7 +67,7 @@ void Log10Matrix(TQorMatrix<T>& matrix) {
 }
 
 #define QORVEX_INSTANTIATE(T) \
-  template void LinearTransformMatrix(TQorMatrix<T>&, FactorOf<T>, FactorOf<T>);
+  template void LinearTransformMatrix(TQorMatrix<T>&, ScalarOf<FactorOf<T>>, ScalarOf<FactorOf<T>>);
 QORVEX_FOR_ADDITIVE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -22,8 +22,8 @@ namespace qorvex::inline QorvexMatrix {
 /// floating elements, wrapping arithmetic for integers. Amounts are transformed in units and
 /// rounded, as LinearTransformVector does. For floating elements, Int64, LInt and the currencies.
 template <AdditiveElement T>
-QORVEX_EXPORT void LinearTransformMatrix(TQorMatrix<T>& matrix, FactorOf<T> multiplier,
-                                         FactorOf<T> offset);
+QORVEX_EXPORT void LinearTransformMatrix(TQorMatrix<T>& matrix, ScalarOf<FactorOf<T>> multiplier,
+                                         ScalarOf<FactorOf<T>> offset);
 
 /// Squares each element; MultiplyMatrices forms the square of a matrix. For floating elements.
 template <FloatElement T>

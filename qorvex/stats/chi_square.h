@@ -31,7 +31,7 @@ QORVEX_EXPORT void ChiSquarePDFValues(std::uint32_t df, Extended x_low, Extended
 
 /// @{
 /// The probability of at most x, of more than x (1 - less), and of the interval between two points
-/// in either order, which is 0 for points that are the same within QorTolerance, before any check.
+/// in either order, which is 0 for points that SameFloat finds the same, before any check.
 /// EMathError: rsValueGEZero for x < 0; rsDF for df = 0; rsValueGZero for df > 2000 where x is
 /// below the centre.
 [[nodiscard]] QORVEX_EXPORT Extended ChiSquareLess(Extended x, std::uint32_t df);

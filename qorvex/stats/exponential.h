@@ -29,7 +29,7 @@ QORVEX_EXPORT void ExponentialPDFValues(Extended mean, Extended x_low, Extended 
 
 /// @{
 /// The probability of less than x, of more than x (1 - less), and of the interval between two
-/// points in either order, which is 0 for points that are the same within QorTolerance, before any
+/// points in either order, which is 0 for points that SameFloat finds the same, before any
 /// check.
 [[nodiscard]] QORVEX_EXPORT Extended ExponentialLess(Extended mean, Extended x);
 [[nodiscard]] QORVEX_EXPORT Extended ExponentialGreater(Extended mean, Extended x);

@@ -32,7 +32,7 @@ QORVEX_EXPORT void FDistPDFValues(std::uint32_t df1, std::uint32_t df2, Extended
 
 /// @{
 /// The probability of at most f, of more than f (1 - less), and of the interval between two points
-/// in either order, which is 0 for points that are the same within QorTolerance, before any check.
+/// in either order, which is 0 for points that SameFloat finds the same, before any check.
 /// EMathError: rsValueGZero for f <= 0, though the probability at 0 would be 0; rsDF when df1 or
 /// df2 is 0.
 [[nodiscard]] QORVEX_EXPORT Extended FDistLess(Extended f, std::uint32_t df1, std::uint32_t df2);

@@ -31,7 +31,7 @@ QORVEX_EXPORT void LogNormalPDFValues(Extended mean, Extended std_dev, Extended 
 
 /// @{
 /// The probability of less than x, of more than x (1 - less), and of the interval between two
-/// points in either order, which is 0 for points that are the same within QorTolerance, before any
+/// points in either order, which is 0 for points that SameFloat finds the same, before any
 /// check. EMathError rsStdDev unless std_dev is positive; EZeroDivide for x = 0 and EInvalidOp for
 /// a negative x, which have no logarithm.
 [[nodiscard]] QORVEX_EXPORT Extended LogNormalLess(Extended mean, Extended std_dev, Extended x);

@@ -51,7 +51,7 @@ QORVEX_EXPORT void NormalPDFValues(Extended mean, Extended std_dev, Extended x_l
 
 /// @{
 /// The probability of less than x, of more than x (1 - less), and of the interval between two
-/// points in either order, which is 0 for points that are the same within QorTolerance, before any
+/// points in either order, which is 0 for points that SameFloat finds the same, before any
 /// check. EMathError rsStdDev unless std_dev is positive.
 [[nodiscard]] QORVEX_EXPORT Extended NormalDistLess(Extended mean, Extended std_dev, Extended x);
 [[nodiscard]] QORVEX_EXPORT Extended NormalDistGreater(Extended mean, Extended std_dev, Extended x);

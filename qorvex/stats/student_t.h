@@ -33,7 +33,7 @@ QORVEX_EXPORT void StudentTPDFValues(std::uint32_t df, Extended t_low, Extended 
 
 /// @{
 /// The probability of at most t, of more than t (1 - less), and of the interval between two points
-/// in either order, which is 0 for points that are the same within QorTolerance, before any check.
+/// in either order, which is 0 for points that SameFloat finds the same, before any check.
 /// EMathError rsDF for df = 0.
 [[nodiscard]] QORVEX_EXPORT Extended StudentTLess(Extended t, std::uint32_t df);
 [[nodiscard]] QORVEX_EXPORT Extended StudentTGreater(Extended t, std::uint32_t df);

@@ -55,7 +55,7 @@ SumOf<T> SumSqVector(const TQorVector<T>& vector) {
 }
 
 template <FloatElement T>
-Extended SumSqDiffVector(const TQorVector<T>& vector, std::type_identity_t<T> mean) {
+Extended SumSqDiffVector(const TQorVector<T>& vector, ScalarOf<T> mean) {
   return detail::SumSqDiffFromExtended(vector, mean);
 }
 

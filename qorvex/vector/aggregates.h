@@ -45,8 +45,7 @@ template <NumericElement T>
 /// The sum of (element - mean) squared, in extended precision, for a mean of the element type. An
 /// empty vector raises EMathError with rsVectorIsEmpty.
 template <FloatElement T>
-[[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(const TQorVector<T>& vector,
-                                                     std::type_identity_t<T> mean);
+[[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(const TQorVector<T>& vector, ScalarOf<T> mean);
 
 /// @cond internal
 namespace detail {

@@ -6,12 +6,12 @@
 namespace qorvex::inline QorvexVector {
 
 template <WideElement T>
-void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value) {
+void AppendValue2Vector(TQorVector<T>& vector, ScalarOf<T> value) {
   vector.Append(value);
 }
 
 template <WideElement T>
-void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value, std::int32_t position) {
+void AddValue2Vector(TQorVector<T>& vector, ScalarOf<T> value, std::int32_t position) {
   vector.Append(value);
   if (position < 0 || position >= vector.High()) return;
   T* const place = vector.data() + position;
@@ -30,8 +30,8 @@ void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position) {
 }
 
 template <AnyElement T>
-void FillVector(TQorVector<T>& vector, std::type_identity_t<T> value) {
-  std::fill(vector.begin(), vector.end(), value);
+void FillVector(TQorVector<T>& vector, ScalarOf<T> value) {
+  std::fill(vector.begin(), vector.end(), static_cast<T>(value));
 }
 
 template <AnyElement T>
@@ -51,15 +51,15 @@ TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
   return result;
 }
 
-#define QORVEX_INSTANTIATE(T)                                     \
-  template void AppendValue2Vector(TQorVector<T>&, T);            \
-  template void AddValue2Vector(TQorVector<T>&, T, std::int32_t); \
+#define QORVEX_INSTANTIATE(T)                                               \
+  template void AppendValue2Vector(TQorVector<T>&, ScalarOf<T>);            \
+  template void AddValue2Vector(TQorVector<T>&, ScalarOf<T>, std::int32_t); \
   template void DeleteValueFromVector(TQorVector<T>&, std::int32_t);
 QORVEX_FOR_WIDE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
 #define QORVEX_INSTANTIATE(T)                              \
-  template void FillVector(TQorVector<T>&, T);             \
+  template void FillVector(TQorVector<T>&, ScalarOf<T>);   \
   template void ClearVector(TQorVector<T>&);               \
   template TQorVector<T> CopyVector(const TQorVector<T>&); \
   template TQorVector<T> ReverseVector(const TQorVector<T>&);

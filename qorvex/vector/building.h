@@ -9,7 +9,6 @@
 /// included.
 
 #include <cstdint>
-#include <type_traits>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -19,13 +18,12 @@ namespace qorvex::inline QorvexVector {
 /// Appends a value; the vector's buffer becomes private. For the elements of at least 32 bits and
 /// the currencies. Amortised O(1).
 template <WideElement T>
-QORVEX_EXPORT void AppendValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value);
+QORVEX_EXPORT void AppendValue2Vector(TQorVector<T>& vector, ScalarOf<T> value);
 
 /// Inserts a value before the position; a position that no element has appends instead. The buffer
 /// becomes private. For the elements of at least 32 bits and the currencies. O(n).
 template <WideElement T>
-QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, std::type_identity_t<T> value,
-                                   std::int32_t position);
+QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, ScalarOf<T> value, std::int32_t position);
 
 /// Deletes the element at the position; nothing happens when there is none. Deleting the only
 /// element leaves the vector empty. While the elements move down, other handles of the same buffer
@@ -36,7 +34,7 @@ QORVEX_EXPORT void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t pos
 /// Gives every element the value, seen through every handle of the buffer. For all
 /// elements. O(n).
 template <AnyElement T>
-QORVEX_EXPORT void FillVector(TQorVector<T>& vector, std::type_identity_t<T> value);
+QORVEX_EXPORT void FillVector(TQorVector<T>& vector, ScalarOf<T> value);
 
 /// Gives every element zero and keeps the length. For all elements. O(n).
 template <AnyElement T>

@@ -79,15 +79,14 @@ std::int32_t Vector2Rank(const TQorVector<T>& vector, std::uint32_t index, bool 
 }
 
 template <AnyElement T>
-std::int32_t Vector2RankValue(const TQorVector<T>& vector, std::type_identity_t<T> value,
-                              bool ascending) {
-  return RankByCounting(vector, value, ascending);
+std::int32_t Vector2RankValue(const TQorVector<T>& vector, ScalarOf<T> value, bool ascending) {
+  return RankByCounting<T>(vector, value, ascending);
 }
 
 #define QORVEX_INSTANTIATE(T)                                                   \
   template TQorLIntVector Vector2RankVector(const TQorVector<T>&, bool);        \
   template std::int32_t Vector2Rank(const TQorVector<T>&, std::uint32_t, bool); \
-  template std::int32_t Vector2RankValue(const TQorVector<T>&, T, bool);
+  template std::int32_t Vector2RankValue(const TQorVector<T>&, ScalarOf<T>, bool);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

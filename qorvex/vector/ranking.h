@@ -10,7 +10,6 @@
 /// nothing raises for any input.
 
 #include <cstdint>
-#include <type_traits>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -33,7 +32,6 @@ template <AnyElement T>
 /// The rank of a value; -1 when no element equals it. O(n), without a copy.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(const TQorVector<T>& vector,
-                                                          std::type_identity_t<T> value,
-                                                          bool ascending);
+                                                          ScalarOf<T> value, bool ascending);
 
 }  // namespace qorvex::inline QorvexVector

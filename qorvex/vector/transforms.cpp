@@ -62,8 +62,7 @@ void Log2Vector(TQorVector<T>& vector) {
 
 template <class T>
 requires FloatElement<T> || std::same_as<T, std::int64_t>
-void LinearTransformVector(TQorVector<T>& vector, std::type_identity_t<T> slope,
-                           std::type_identity_t<T> intercept) {
+void LinearTransformVector(TQorVector<T>& vector, ScalarOf<T> slope, ScalarOf<T> intercept) {
   detail::RequireElements(vector);
   using Constant = std::conditional_t<FloatElement<T>, Extended, T>;
   for (T& x : vector) x = detail::ProductPlus<T, Constant>(x, slope, intercept);
@@ -100,7 +99,8 @@ QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 QORVEX_FOR_CURRENCY_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T) template void LinearTransformVector(TQorVector<T>&, T, T);
+#define QORVEX_INSTANTIATE(T) \
+  template void LinearTransformVector(TQorVector<T>&, ScalarOf<T>, ScalarOf<T>);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 QORVEX_INSTANTIATE(std::int64_t)
 #undef QORVEX_INSTANTIATE

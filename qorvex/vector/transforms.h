@@ -52,7 +52,7 @@ QORVEX_EXPORT void Log2Vector(TQorVector<T>& vector);
 /// rsVectorIsEmpty. For floating elements and Int64.
 template <class T>
 requires FloatElement<T> || std::same_as<T, std::int64_t> QORVEX_EXPORT void LinearTransformVector(
-    TQorVector<T>& vector, std::type_identity_t<T> slope, std::type_identity_t<T> intercept);
+    TQorVector<T>& vector, ScalarOf<T> slope, ScalarOf<T> intercept);
 
 /// Replaces each amount by slope * amount + intercept in units, computed in extended precision and
 /// rounded to the nearest amount, ties to even; what does not fit becomes the smallest amount. For

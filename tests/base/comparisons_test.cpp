@@ -21,28 +21,66 @@ TEST(Tolerance, ZeroAndSignTestsAreAbsolute) {
   EXPECT_TRUE(FloatIsZero(0.05L));
 }
 
-TEST(Tolerance, SameFloatIsRelativeBeyondOneAndUsesTheTypesOwnPrecision) {
-  EXPECT_TRUE(SameFloat(1.0L, 1.0L + 0.9e-15L));
-  EXPECT_FALSE(SameFloat(1.0L, 1.0L + 2e-15L));
-  EXPECT_TRUE(SameFloat(1e6L, 1e6L + 0.9e-9L));
-  EXPECT_TRUE(SameFloat(1e-20L, -1e-20L)) << "absolute near zero";
-  EXPECT_TRUE(SameFloat(1.0F, 1.0F + 3 * std::numeric_limits<float>::epsilon()));
-  EXPECT_FALSE(SameFloat(1.0F, 1.0F + 5 * std::numeric_limits<float>::epsilon()));
-  EXPECT_FALSE(SameFloat(1.0, 1.0 + 5 * std::numeric_limits<double>::epsilon()));
-  EXPECT_TRUE(SameFloat(0.5L, 0.5)) << "mixed types compare in the wider one";
-  EXPECT_FALSE(SameFloat(0.1L, 0.1F));
-  EXPECT_TRUE(NotSameFloat(1, 2));
+template <class T>
+class SameFloatOf : public ::testing::Test {};
+TYPED_TEST_SUITE(SameFloatOf, FloatTypes, );
+
+// The unit of the values plays no part, from the least subnormal number to the largest one.
+TYPED_TEST(SameFloatOf, IsRelativeAtEverySize) {
+  using T = TypeParam;
+  using Limits = std::numeric_limits<T>;
+  constexpr T eps = Limits::epsilon();
+  const testing::KeptTolerance kept;
+  const struct {
+    Extended tolerance;
+    T x, y;
+    bool same;
+  } cases[] = {
+      {0, 1, 1 + 3 * eps, true},
+      {0, 1, 1 + 5 * eps, false},
+      {1e-15L, 1, T(1 + 0.9e-15L), true},
+      {1e-15L, 1, T(1 + 2e-15L), 4 * eps > 2e-15L},
+      {1e-15L, T(-1.5L), T(-1.5L) - eps, true},
+      {1e-15L, 1, -1, false},
+      {1e-15L, 1, 0, false},
+      {0.1L, 1, T(0.9L) + eps, true},
+      {0.1L, 1, T(0.89L), false},
+      {0.6L, 1, 0, false},
+      {0.6L, 1, 0.5L, true},
+      {1, 1, 0, true},
+      {1, 1, -eps, false},
+      {1.5L, 1, T(-0.9L), false},
+      {1.5L, 1, -0.5L, true},
+      {3, 1, -1, true},
+      {kNaN, 1, 1 + 3 * eps, true},
+      {kNaN, 1, 1 + 5 * eps, false},
+  };
+  for (const auto& [tolerance, x, y, same] : cases) {
+    QorTolerance = tolerance;
+    for (int exponent = Limits::min_exponent - Limits::digits; exponent < Limits::max_exponent;
+         ++exponent) {
+      const T a = std::ldexp(x, exponent);
+      const T b = std::ldexp(y, exponent);
+      if (std::ldexp(a, -exponent) != x || std::ldexp(b, -exponent) != y) continue;
+      ASSERT_EQ(SameFloat(a, b), same) << tolerance << ": " << x << ' ' << y << " e" << exponent;
+      ASSERT_EQ(SameFloat(b, a), same);
+    }
+  }
+  EXPECT_TRUE(SameFloat(Limits::infinity(), Limits::infinity()));
+  EXPECT_TRUE(SameFloat(T(0), T(-0.0)));
+  for (const Extended tolerance : {1e-15L, kInfinity}) {
+    QorTolerance = tolerance;
+    EXPECT_FALSE(SameFloat(Limits::infinity(), -Limits::infinity()));
+    EXPECT_FALSE(SameFloat(Limits::infinity(), Limits::max()));
+    EXPECT_FALSE(SameFloat(Limits::quiet_NaN(), Limits::quiet_NaN()));
+    EXPECT_FALSE(SameFloat(Limits::quiet_NaN(), T(1)));
+  }
 }
 
-TEST(Tolerance, SameFloatTakesInfinitiesAndNaNExactly) {
-  const testing::KeptTolerance kept;
-  EXPECT_TRUE(SameFloat(kInfinity, kInfinity));
-  EXPECT_FALSE(SameFloat(kInfinity, -kInfinity));
-  EXPECT_FALSE(SameFloat(kInfinity, std::numeric_limits<Extended>::max()));
-  EXPECT_FALSE(SameFloat(kNaN, kNaN));
-  QorTolerance = kNaN;
-  EXPECT_TRUE(SameFloat(1.0L, 1.0L + 2 * std::numeric_limits<Extended>::epsilon()));
-  EXPECT_FALSE(SameFloat(1.0L, 1.0L + 1e-16L)) << "a tolerance that is no number leaves rounding";
+TEST(Tolerance, SameFloatComparesMixedTypesInTheWiderOne) {
+  EXPECT_TRUE(SameFloat(0.5L, 0.5));
+  EXPECT_FALSE(SameFloat(0.1L, 0.1F));
+  EXPECT_TRUE(NotSameFloat(1, 2));
 }
 
 TEST(Elementary, LogarithmsPowersAndArcCosine) {

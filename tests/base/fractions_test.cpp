@@ -4,6 +4,7 @@
 #include <random>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/text.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -63,6 +64,50 @@ TEST(Fractions, ParseAndPrint) {
     EXPECT_EQ(Fraction2Str(Str2Fraction(text), fdImproper), improper) << text;
   }
   EXPECT_EQ(Fraction2Float(Str2Fraction("-1 3/4")), -1.75L);
+}
+
+// Checks in 128-bit integers that a value is the nearest one of 64 bits to n / d, the even one of
+// two.
+::testing::AssertionResult IsNearest(Extended value, unsigned __int128 n, std::uint64_t d) {
+  int exponent = 0;
+  const auto digits = static_cast<std::uint64_t>(std::ldexp(std::frexp(value, &exponent), 64));
+  // digits - n / d * 2^places, times 2d. It is small, so that it is right modulo 2^128.
+  const auto product = static_cast<unsigned __int128>(digits) * d;
+  const auto twice_off = static_cast<__int128>(product - (n << (64 - exponent))) * 2;
+  const auto off = twice_off < 0 ? -twice_off : twice_off;
+  if (off < d || (off == d && digits % 2 == 0)) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << value << " for /" << d;
+}
+
+TEST(Fraction2Float, IsTheNearestNumber) {
+  for (std::int64_t d = 1; d <= 200; ++d) {
+    for (std::int64_t n = 1; n < 10 * d; ++n) {
+      const std::string improper = Int2EStr(n) + '/' + Int2EStr(d);
+      const Extended value = Fraction2Float(Str2Fraction(improper));
+      ASSERT_TRUE(IsNearest(value, static_cast<std::uint64_t>(n), static_cast<std::uint64_t>(d)));
+      ASSERT_EQ(Fraction2Float(Str2Fraction('-' + improper)), -value);
+      ASSERT_EQ(Fraction2Float({Extended(n / d), n % d, d}), value);
+    }
+  }
+  std::mt19937_64 engine(8);
+  const auto any = [&] { return static_cast<std::int64_t>(engine() >> (1 + engine() % 63)); };
+  for (int i = 0; i < 100'000; ++i) {
+    const std::int64_t whole = any();
+    const std::int64_t d = std::max<std::int64_t>(any(), 1);
+    const std::int64_t n = any() % d;
+    const auto improper = static_cast<unsigned __int128>(whole) * static_cast<std::uint64_t>(d) +
+                          static_cast<std::uint64_t>(n);
+    if (improper == 0) continue;
+    const Extended value = Fraction2Float({static_cast<Extended>(whole), n, d});
+    ASSERT_TRUE(IsNearest(value, improper, static_cast<std::uint64_t>(d)));
+    // Signs may differ and the fraction may be improper.
+    ASSERT_EQ(Fraction2Float({static_cast<Extended>(whole + 1), n - d, d}), value);
+    ASSERT_EQ(Fraction2Float({static_cast<Extended>(-whole), n, -d}), -value);
+  }
+  EXPECT_EQ(Fraction2Float({0x1p63L, 2, 3}), 0x1p63L + 1);
+  EXPECT_EQ(Fraction2Float({0x1p63L - 1, 0x7fffffffffffffff, 1}), 0x1p64L - 2);
+  EXPECT_EQ(Fraction2Float({0.5L, 1, 4}), 0.75L);
+  EXPECT_EQ(Fraction2Float({-kInfinity, 1, 4}), -kInfinity);
 }
 
 TEST(Fractions, RefuseBadInput) {

@@ -40,6 +40,18 @@ TEST(MatrixElementTables, EveryRoutineTakesWhatItIsMeantFor) {
   ExpectTypes("gdfjuwsbt", {TYPES_OF(SumMatrixRow(m, 0)), TYPES_OF(SumMatrixCol(m, 0))});
 }
 
+// A factor or an element that would be cut off.
+TEST(MatrixElementTables, IntegersTakeNoFloatingNumbers) {
+  ExpectTypes("gdf", {TYPES_OF(ScaleMatrixRow(m, 0, 0.5)), TYPES_OF(ScaleMatrixCol(m, 0, 0.5F)),
+                      TYPES_OF(AddMatrixRows(m, 0, 1, 0.5L)), TYPES_OF(AddMatrixCols(m, 0, 1, 0.5)),
+                      TYPES_OF(OverwriteMatrixRow(m, 0, v, 0.5)),
+                      TYPES_OF(OverwriteMatrixCol(m, 0, v, 0.5))});
+  ExpectTypes(
+      "gdfCSL",
+      {TYPES_OF(MultiplyMatrixByConst(m, 0.5)), TYPES_OF(MultiplyMatrixByConst2(m, 0.5)),
+       TYPES_OF(LinearTransformMatrix(m, 0.5, 1)), TYPES_OF(LinearTransformMatrix(m, 1, 0.5))});
+}
+
 static_assert(std::is_same_v<FactorOf<float>, Extended>);
 static_assert(std::is_same_v<FactorOf<QorCurrency>, Extended>);
 static_assert(std::is_same_v<FactorOf<std::int64_t>, std::int64_t>);

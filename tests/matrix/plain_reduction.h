@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <utility>
@@ -17,8 +16,8 @@ struct PlainReduction {
   TQorMatrix<T>& matrix;
   TQorMatrix<T>* inverse = nullptr;
   Extended determinant = 1;
-  // The largest element in front of a pivot, or in a row without one, after Eliminate.
-  Extended residue = 0;
+  std::size_t rank = 0;
+  bool finite_pivots = true;
 
   std::size_t Rows() const { return matrix.size(); }
   std::size_t Cols() const { return matrix[0].size(); }
@@ -28,67 +27,69 @@ struct PlainReduction {
       m[row][j] = static_cast<T>(static_cast<Extended>(m[row][j]) * factor);
     }
   }
-  static void Add(TQorMatrix<T>& m, std::size_t target, std::size_t source, Extended factor) {
-    for (std::size_t j = 0; j < m[0].size(); ++j) {
+  static void Add(TQorMatrix<T>& m, std::size_t target, std::size_t source, std::size_t from,
+                  Extended factor) {
+    for (std::size_t j = from; j < m[0].size(); ++j) {
       const Extended product = static_cast<Extended>(m[source][j]) * factor;
       m[target][j] = static_cast<T>(product + static_cast<Extended>(m[target][j]));
     }
   }
-  // Makes an element zero that is not, by the row whose element in its column is one.
-  void Clear(std::size_t row, std::size_t col, std::size_t source) {
+  // Makes an element zero by the row whose pivot is in its column.
+  void Clear(std::size_t row, std::size_t col, std::size_t pivot_row) {
     const Extended x = matrix[row][col];
+    matrix[row][col] = 0;
     if (FloatIsZero(x)) return;
-    Add(matrix, row, source, -x);
-    if (inverse != nullptr) Add(*inverse, row, source, -x);
+    // Above its diagonal a pivot has nothing on its right by now.
+    if (row > pivot_row) Add(matrix, row, pivot_row, col + 1, -x);
+    if (inverse != nullptr) Add(*inverse, row, pivot_row, 0, -x);
   }
-  void NoteResidue(std::size_t row, std::size_t count) {
-    for (std::size_t j = 0; j < count; ++j) {
-      residue = std::max(residue, std::fabs(static_cast<Extended>(matrix[row][j])));
+
+  // The row of the column's pivot, or the row count.
+  std::size_t PivotRow(std::size_t col) const {
+    std::size_t best = Rows();
+    for (std::size_t r = Rows(); r-- > rank;) {
+      const Extended x = std::fabs(static_cast<Extended>(matrix[r][col]));
+      if (FloatIsZero(x)) continue;
+      const Extended largest = best < Rows() ? matrix[best][col] : 0;
+      if (std::isnan(x) || (!std::isnan(largest) && x >= std::fabs(largest))) best = r;
     }
+    return best;
   }
 
   void Eliminate() {
-    std::size_t pivot_row = 0;
-    for (std::size_t col = 0; col < Cols() && pivot_row < Rows(); ++col) {
-      Extended largest = 0;
-      std::size_t largest_row = 0;
-      for (std::size_t r = pivot_row; r < Rows(); ++r) {
-        const Extended magnitude = std::fabs(static_cast<Extended>(matrix[r][col]));
-        if (FloatIsNotZero(magnitude) && magnitude > largest) {
-          largest = magnitude;
-          largest_row = r;
-        }
+    for (std::size_t col = 0; col < Cols() && rank < Rows(); ++col) {
+      const std::size_t best = PivotRow(col);
+      if (best == Rows()) {
+        for (std::size_t r = rank; r < Rows(); ++r) matrix[r][col] = 0;
+        continue;
       }
-      if (largest == 0) continue;
-      if (largest_row != pivot_row) {
-        std::swap(matrix[pivot_row], matrix[largest_row]);
-        if (inverse != nullptr) std::swap((*inverse)[pivot_row], (*inverse)[largest_row]);
+      if (best != rank) {
+        std::swap(matrix[rank], matrix[best]);
+        if (inverse != nullptr) std::swap((*inverse)[rank], (*inverse)[best]);
         determinant *= -1;
       }
-      const Extended pivot = matrix[pivot_row][col];
+      const Extended pivot = matrix[rank][col];
+      finite_pivots &= std::isfinite(pivot);
       if (FloatIsNotZero(pivot - 1)) {
-        Scale(matrix, pivot_row, col, 1 / pivot);
-        if (inverse != nullptr) Scale(*inverse, pivot_row, 0, 1 / pivot);
+        Scale(matrix, rank, col, 1 / pivot);
+        if (inverse != nullptr) Scale(*inverse, rank, 0, 1 / pivot);
         determinant *= pivot;
       }
-      NoteResidue(pivot_row, col);
-      for (std::size_t r = pivot_row + 1; r < Rows(); ++r) Clear(r, col, pivot_row);
-      ++pivot_row;
+      for (std::size_t r = rank + 1; r < Rows(); ++r) Clear(r, col, rank);
+      ++rank;
     }
-    for (; pivot_row < Rows(); ++pivot_row) NoteResidue(pivot_row, Cols());
-  }
-
-  std::size_t Rank() const {
-    return static_cast<std::size_t>(std::ranges::count_if(matrix, [](const TQorVector<T>& row) {
-      return !std::ranges::all_of(row, [](T x) { return FloatIsZero(x); });
-    }));
   }
 
   bool Invert() {
     Eliminate();
-    if (Rank() != Rows()) return false;
+    if (rank != Rows() || !finite_pivots) return false;
     for (std::size_t c = Cols() - 1; c >= 1; --c) {
       for (std::size_t r = c; r-- > 0;) Clear(r, c, c);
+    }
+    for (const TQorVector<T>& row : *inverse) {
+      for (const T x : row) {
+        if (!std::isfinite(x)) return false;
+      }
     }
     return true;
   }

@@ -120,6 +120,8 @@ TEST(MatrixProperties, NeedElementsInRowsOfOneLength) {
     EXPECT_MATH_ERROR(MatrixZeroRows(m), rsMatrixIsEmpty);
     EXPECT_MATH_ERROR(MatrixIsIdentity(m), rsMatrixIsEmpty);
   }
+  EXPECT_STREQ(EMathError(rsMatrixIsEmpty).what(),
+               "The matrix is empty or its rows differ in length");
   EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0, 0}, {0, 1, 0}}), rsMatrixSqr);
   const RectangularCheckOff off;
   EXPECT_MATH_ERROR(MatrixZeroRows(ragged), rsMatrixRect);

@@ -41,6 +41,9 @@ TEST(Mode, IsTheLongestRunUnlessTied) {
       // Neighbours within the tolerance are one run, known by its last element, unless it is all.
       {{1, 1 + near, 3}, true, 1 + near, {1 + near}},
       {{5, 5 + 2 * near, 5 + 4 * near}, true, 5 + 4 * near, {5}},
+      // The tolerance goes with the values, so that their unit plays no part.
+      {{1e-19L, 2e-19L, 2e-19L, 4e-19L}, true, 2e-19L, {2e-19L}},
+      {{-3e-4940L, 0, 1e-4940L}, false, none, {}},
   };
   Extended mode = 42;
   EXPECT_MATH_ERROR(GetMode({}, mode), rsVectorIsEmpty);

@@ -4,6 +4,7 @@
 #include <array>
 #include <type_traits>
 
+#include "qorvex/base/elementary.h"
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/vector/QorvexVector.h"
 #include "support/element_probe.h"
@@ -59,6 +60,15 @@ TEST(ElementTables, SortingAndArithmetic) {
                       TYPES_OF(TransformVector(v, nullptr)), TYPES_OF(MovingAverage(v, 1, 0))});
   EXPECT_EQ(TYPES_OF(LinearTransformVector(v, 1, 0)), "gdfjCSL");
   EXPECT_EQ(TYPES_OF(QorPolynomial(v, 1)), "g");
+}
+
+// A factor or an element that would be cut off.
+TEST(ElementTables, IntegersTakeNoFloatingNumbers) {
+  ExpectTypes("gdf", {TYPES_OF(AppendValue2Vector(v, 0.5)), TYPES_OF(AddValue2Vector(v, 0.5L, 0)),
+                      TYPES_OF(FillVector(v, 0.5F)), TYPES_OF(Vector2RankValue(v, 0.5, true)),
+                      TYPES_OF(MinXY(x, 0.5))});
+  ExpectTypes("gdfCSL", {TYPES_OF(LinearTransformVector(v, 0.5, 1)),
+                         TYPES_OF(LinearTransformVector(v, 1, 0.5))});
 }
 
 TEST(ElementTables, Estimators) {

@@ -62,6 +62,8 @@ TEST(Ranking, ValuesWithinTheToleranceShareARank) {
   const TQorFloatVector v{1 + 0.5e-15L, 2, 1};
   EXPECT_EQ(Vector2RankVector(v, true), (TQorLIntVector{0, 2, 0}));
   EXPECT_EQ(Vector2RankValue(v, 2 + 1e-15L, true), 2);
+  EXPECT_EQ(Vector2RankVector(TQorFloatVector{1e-19L, 3e-19L, 1e-19L}, true),
+            (TQorLIntVector{0, 2, 0}));
 }
 
 // Chains of near-ties, where neighbours are the same but the ends are not, decide whether the runs
@@ -71,10 +73,10 @@ TQorVector<T> Chain(Engine& engine, std::size_t n) {
   auto vector = TQorVector<T>::WithLength(n);
   const auto tolerance =
       std::max(static_cast<T>(QorTolerance), 4 * std::numeric_limits<T>::epsilon());
-  const T scales[] = {0, 1, -1, T(0.999), 1000, -1000};
+  const T scales[] = {0, 1, -1, T(0.999), 1000, -1000, T(1e-30L)};
   for (T& x : vector) {
-    const T scale = scales[engine() % 6];
-    const T step = tolerance * std::max(T(1), std::fabs(scale)) / 4;
+    const T scale = scales[engine() % 7];
+    const T step = tolerance * std::fabs(scale) / 4;
     x = scale + static_cast<T>(static_cast<int>(engine() % 25) - 12) * step;
   }
   if (n > 3) {

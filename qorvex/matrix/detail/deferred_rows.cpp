@@ -11,7 +11,7 @@ namespace qorvex::inline QorvexMatrix::detail {
 
 DeferredRows::DeferredRows(TQorFloatMatrix& matrix, std::size_t cols) : cols_(cols) {
   rows_.reserve(matrix.size());
-  for (TQorFloatVector& row : matrix) rows_.push_back({.elements = row.data(), .factors = {}});
+  for (TQorFloatVector& row : matrix) rows_.push_back({.elements = row.data()});
   sources_.reserve(kDepth);
   quads_ = std::make_unique_for_overwrite<SplitQuad[]>((cols + kQuad - 1) / kQuad * kDepth);
 }
@@ -26,28 +26,35 @@ Extended DeferredRows::At(std::size_t row, std::size_t col) const {
   return x;
 }
 
+void DeferredRows::Clear(std::size_t row, std::size_t col) {
+  assert(rows_[row].slot == kNoSlot && rows_[row].cleared == col);
+  rows_[row].elements[col] = 0;
+  rows_[row].cleared = col + 1;
+}
+
 void DeferredRows::Swap(std::size_t row1, std::size_t row2) {
-  assert(rows_[row1].slot == kNoSlot && rows_[row2].slot == kNoSlot);
-  SwapElements(rows_[row1].elements, rows_[row2].elements, cols_);
-  std::swap(rows_[row1].factors, rows_[row2].factors);
-  std::swap(rows_[row1].waiting, rows_[row2].waiting);
+  Row& a = rows_[row1];
+  Row& b = rows_[row2];
+  assert(a.slot == kNoSlot && b.slot == kNoSlot);
+  SwapElements(a.elements, b.elements, cols_);
+  std::swap(a.cleared, b.cleared);
+  std::swap(a.factors, b.factors);
+  std::swap(a.waiting, b.waiting);
 }
 
-std::span<Extended> DeferredRows::Elements(std::size_t row) {
-  assert(rows_[row].slot == kNoSlot);
-  SettleRow(rows_[row]);
-  return {rows_[row].elements, cols_};
-}
-
-void DeferredRows::Scale(std::size_t row, std::size_t from_col, Extended factor) {
-  ScaleElements(Elements(row).data() + from_col, cols_ - from_col, factor);
+void DeferredRows::Scale(std::size_t row, Extended factor) {
+  Row& scaled = rows_[row];
+  assert(scaled.slot == kNoSlot);
+  SettleRow(scaled);
+  ScaleElements(scaled.elements + scaled.cleared, cols_ - scaled.cleared, factor);
 }
 
 void DeferredRows::Add(std::size_t target, std::size_t source, Extended factor) {
   Row& row = rows_[target];
   if (!BecomeSource(source)) {
     SettleRow(row);
-    AddElements(row.elements, rows_[source].elements, cols_, factor);
+    AddElements(row.elements + row.cleared, rows_[source].elements + row.cleared,
+                cols_ - row.cleared, factor);
     return;
   }
   const std::size_t slot = rows_[source].slot;
@@ -70,7 +77,7 @@ bool DeferredRows::BecomeSource(std::size_t source) {
   SettleRow(row);
   const std::size_t slot = sources_.size();
   bool exact = true;
-  for (std::size_t col = 0; col < cols_; col += kQuad) {
+  for (std::size_t col = FirstQuad(row); col < cols_; col += kQuad) {
     exact &= Quads(col)[slot].Store(row.elements + col, std::min(kQuad, cols_ - col));
   }
   if (!exact) return false;
@@ -80,15 +87,18 @@ bool DeferredRows::BecomeSource(std::size_t source) {
 }
 
 void DeferredRows::SettleRow(Row& row) {
+  const std::size_t first_col = FirstQuad(row);
   while (row.waiting != 0) {
     // Sources side by side, mostly all of them, are one run.
     const auto first = static_cast<std::size_t>(std::countr_zero(row.waiting));
     const auto count = static_cast<std::size_t>(std::countr_one(row.waiting >> first));
-    for (std::size_t col = 0; col < cols_; col += kQuad) {
+    for (std::size_t col = first_col; col < cols_; col += kQuad) {
       AddProducts(row.elements + col, &row.factors[first], Quads(col) + first, count, cols_ - col);
     }
     row.waiting &= ~(((1U << count) - 1) << first);
   }
+  // The first quad may begin among the cleared elements.
+  std::fill(row.elements + first_col, row.elements + row.cleared, Extended(0));
 }
 
 }  // namespace qorvex::inline QorvexMatrix::detail

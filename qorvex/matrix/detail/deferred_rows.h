@@ -3,7 +3,6 @@
 #include <array>
 #include <cstddef>
 #include <memory>
-#include <span>
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
@@ -25,9 +24,9 @@ class DeferredRows {
   DeferredRows(TQorFloatMatrix& matrix, std::size_t cols);
 
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const;
-  [[nodiscard]] std::span<Extended> Elements(std::size_t row);
+  void Clear(std::size_t row, std::size_t col);
   void Swap(std::size_t row1, std::size_t row2);
-  void Scale(std::size_t row, std::size_t from_col, Extended factor);
+  void Scale(std::size_t row, Extended factor);
   void Add(std::size_t target, std::size_t source, Extended factor);
   void Settle();
 
@@ -38,6 +37,7 @@ class DeferredRows {
 
   struct Row {
     Extended* elements;
+    std::size_t cleared = 0;
     // Of the additions that wait: the factors, for those slots of sources whose bit is set.
     std::array<Extended, kDepth> factors = {};
     unsigned waiting = 0;
@@ -45,6 +45,7 @@ class DeferredRows {
     std::size_t slot = kNoSlot;
   };
 
+  [[nodiscard]] static std::size_t FirstQuad(const Row& row) { return row.cleared / kQuad * kQuad; }
   [[nodiscard]] SplitQuad* Quads(std::size_t col) { return &quads_[col / kQuad * kDepth]; }
   bool BecomeSource(std::size_t row);
   void SettleRow(Row& row);

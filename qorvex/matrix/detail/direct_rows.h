@@ -1,7 +1,8 @@
 #pragma once
 
+#include <cassert>
 #include <cstddef>
-#include <span>
+#include <utility>
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
@@ -11,34 +12,50 @@ namespace qorvex::inline QorvexMatrix::detail {
 
 // The rows of a matrix under elementary operations, each made at once. The matrix must outlive this
 // and keep its row buffers.
+//
+// Each row has leading elements that are cleared, none to begin with, and stay +0: scalings and
+// additions leave them out.
 template <FloatElement T>
 class DirectRows {
  public:
   DirectRows(TQorMatrix<T>& matrix, std::size_t cols) : cols_(cols) {
     rows_.reserve(matrix.size());
-    for (TQorVector<T>& row : matrix) rows_.push_back(row.data());
+    for (TQorVector<T>& row : matrix) rows_.push_back({.elements = row.data()});
   }
 
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const {
-    return static_cast<Extended>(rows_[row][col]);
+    return static_cast<Extended>(rows_[row].elements[col]);
   }
-  // The elements of a row, up to date and free to be changed.
-  [[nodiscard]] std::span<T> Elements(std::size_t row) { return {rows_[row], cols_}; }
-  void Swap(std::size_t row1, std::size_t row2) { SwapElements(rows_[row1], rows_[row2], cols_); }
-  // Scales the elements from a column on.
-  void Scale(std::size_t row, std::size_t from_col, Extended factor) {
-    ScaleElements(rows_[row] + from_col, cols_ - from_col, factor);
+  // Sets the next element of the row that is not cleared yet, the one of this column, to +0.
+  void Clear(std::size_t row, std::size_t col) {
+    assert(rows_[row].cleared == col);
+    rows_[row].elements[col] = 0;
+    rows_[row].cleared = col + 1;
+  }
+  void Swap(std::size_t row1, std::size_t row2) {
+    SwapElements(rows_[row1].elements, rows_[row2].elements, cols_);
+    std::swap(rows_[row1].cleared, rows_[row2].cleared);
+  }
+  void Scale(std::size_t row, Extended factor) {
+    const auto [elements, cleared] = rows_[row];
+    ScaleElements(elements + cleared, cols_ - cleared, factor);
   }
   // Adds the source row times the factor to the target row.
   void Add(std::size_t target, std::size_t source, Extended factor) {
-    AddElements(rows_[target], rows_[source], cols_, factor);
+    const auto [elements, cleared] = rows_[target];
+    AddElements(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
   }
   // Brings the matrix up to date.
   void Settle() {}
 
  private:
+  struct Row {
+    T* elements;
+    std::size_t cleared = 0;
+  };
+
   std::size_t cols_;
-  std::vector<T*> rows_;
+  std::vector<Row> rows_;
 };
 
 }  // namespace qorvex::inline QorvexMatrix::detail

@@ -6,8 +6,8 @@
 
 namespace qorvex::inline QorvexStatistics::detail {
 
-/// The probability that lies between two points in either order; 0 for points that are the same
-/// within QorTolerance, whatever the parameters are. less(x2) is asked before less(x1).
+/// The probability that lies between two points in either order; 0 for points that SameFloat finds
+/// the same, whatever the parameters are. less(x2) is asked before less(x1).
 template <class Less>
 [[nodiscard]] Extended ProbabilityBetween(Extended x1, Extended x2, Less less) {
   if (SameFloat(x1, x2)) return 0;

@@ -43,7 +43,7 @@ constexpr T Product(T x, Factor factor) noexcept {
   } else if constexpr (CurrencyElement<T>) {
     return T(RoundToInteger<typename T::StoredType>(static_cast<Extended>(x.stored()) * factor));
   } else {
-    return WrappingMultiply(x, factor);
+    return WrappingMultiply<T>(x, factor);
   }
 }
 
@@ -54,7 +54,7 @@ constexpr T ProductPlus(T x, Factor factor, std::type_identity_t<Factor> addend)
   } else if constexpr (CurrencyElement<T>) {
     return LinearTransform(x, factor, addend);
   } else {
-    return WrappingAdd(WrappingMultiply(x, factor), addend);
+    return WrappingAdd<T>(WrappingMultiply<T>(x, factor), addend);
   }
 }
 
