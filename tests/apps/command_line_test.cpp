@@ -267,6 +267,7 @@ TEST(Program, NamesWhatNothingTakesInTheOrderInWhichItStands) {
                "pdf, table"),
            std::pair("describe a.csv b.csv --nosuch",
                      "describe: unexpected \"b.csv\", \"--nosuch\""),
+           std::pair("describe -- a.csv b.csv", "describe: unexpected \"b.csv\""),
        }) {
     ExpectRefusal(std::string("qorvex ") + command,
                   message + std::string("\nqorvex: --help tells what the program and its commands "
