@@ -1,6 +1,6 @@
 // Conversions and linear transformations of the short currency against exact integer arithmetic:
-// every 4096th block of amounts in the fast tests, every 16th in the slow ones. All 2^32 amounts take
-// two minutes, with QORVEX_EVERY_NTH_BLOCK=1 in the environment.
+// every 4096th block of amounts in the fast tests, every 16th in the slow ones. All 2^32 amounts
+// take two minutes, with QORVEX_EVERY_NTH_BLOCK=1 in the environment.
 
 #include <cstdint>
 #include <limits>
