@@ -69,7 +69,10 @@ void TextCell::Restore() {
 }
 
 void TextCell::CommitOrRestore() {
-  if (!Commit()) Restore();
+  if (Commit()) return;
+  const QString refused = text();
+  Restore();
+  Q_EMIT Refused(refused);
 }
 
 void TextCell::Leave() {
@@ -228,6 +231,19 @@ void TextCell::mouseReleaseEvent(QMouseEvent* event) {
   // A selection that was drawn with the mouse stays, and a second click places the cursor.
   const bool entered = std::exchange(entered_by_mouse_, false);
   if (entered && behaviour_.auto_select_click && !hasSelectedText()) selectAll();
+}
+
+void TextCell::dragEnterEvent(QDragEnterEvent* event) {
+  dragMoveEvent(event);
+}
+
+void TextCell::dragMoveEvent(QDragMoveEvent* event) {
+  // Files and links, which have a text as well, are for what is around the cell.
+  if (event->mimeData()->hasUrls()) {
+    event->ignore();
+  } else {
+    QLineEdit::dragMoveEvent(event);
+  }
 }
 
 void TextCell::dropEvent(QDropEvent* event) {
