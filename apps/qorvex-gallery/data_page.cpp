@@ -2,15 +2,13 @@
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDragEnterEvent>
-#include <QDropEvent>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
-#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSaveFile>
@@ -30,6 +28,7 @@
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/table_input.h"
 #include "apps/qorvex-gallery/tall_editor.h"
+#include "apps/qorvex-gallery/tool_tip.h"
 #include "apps/qorvex/hidden_figures.h"
 #include "apps/qorvex/input_error.h"
 #include "qorvex/base/errors.h"
@@ -102,8 +101,11 @@ QList<QStringList> InTwoColumns(const QStringList& lines, const QLocale& locale)
   return table;
 }
 
-QString FileOf(const QMimeData& data) {
-  return data.urls().size() == 1 ? data.urls().first().toLocalFile() : QString();
+// The file as CSV: beside it, or, for the example, where the program runs.
+QString CsvFileFor(const QString& path) {
+  const QFileInfo file(path);
+  const QString name = file.completeBaseName() + QStringLiteral(".csv");
+  return path.startsWith(u':') ? name : file.dir().filePath(name);
 }
 
 }  // namespace
@@ -123,7 +125,6 @@ DataPage::DataPage(QWidget* parent)
       remark_(new QLabel),
       plot_(new PlotView) {
   setObjectName("dataPage");
-  setAcceptDrops(true);
 
   editor_->setObjectName("values");
   editor_->setLabelType(TQorLabelledVectorEdit::ltSupplied);
@@ -132,6 +133,7 @@ DataPage::DataPage(QWidget* parent)
   editor_->setBlankWhenNull(true);
   connect(editor_, &TQorVectorEdit::OnChange, this, &DataPage::RefreshSoon);
   connect(editor_, &TQorVectorEdit::OnBlockRefused, message_, &MessageBar::SetText);
+  connect(editor_, &TQorVectorEdit::OnTextRefused, this, &DataPage::RefuseText);
 
   plot_->setObjectName("histogram");
   plot_->setAccessibleName(tr("Histogram"));
@@ -164,6 +166,8 @@ DataPage::DataPage(QWidget* parent)
 
 DataPage::~DataPage() {
   StopReading();
+  // A text that is being typed is committed when the editor goes.
+  editor_->disconnect(this);
 }
 
 QLayout* DataPage::MakeHeader() {
@@ -221,6 +225,9 @@ QLayout* DataPage::MakeReport() {
   decimals_->setRange(0, 40);
   decimals_->setValue(stats_.DecimalPlaces());
   connect(decimals_, &QSpinBox::valueChanged, this, &DataPage::RefreshSoon);
+  remark_->setObjectName("remark");
+  // Its length does not widen the page.
+  remark_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   population_->setObjectName("population");
   connect(population_, &QCheckBox::toggled, this, &DataPage::RefreshSoon);
   auto* const decimals_label = new QLabel(tr("&Decimals:"));
@@ -228,8 +235,7 @@ QLayout* DataPage::MakeReport() {
 
   auto* const head = new QHBoxLayout;
   head->addWidget(MakeHeading(tr("Statistics")));
-  head->addWidget(remark_);
-  head->addStretch(1);
+  head->addWidget(remark_, 1);
   head->addWidget(population_);
   head->addSpacing(fontMetrics().height());
   head->addWidget(decimals_label);
@@ -253,15 +259,6 @@ void DataPage::ChooseFile() {
 void DataPage::OpenExample() {
   OpenSource({":/qorvex/gallery/michelson_1879.csv",
               tr("Example: the velocity of light, Michelson 1879"), "speed_km_s"});
-}
-
-void DataPage::dragEnterEvent(QDragEnterEvent* event) {
-  if (!FileOf(*event->mimeData()).isEmpty()) event->acceptProposedAction();
-}
-
-void DataPage::dropEvent(QDropEvent* event) {
-  event->acceptProposedAction();
-  Open(FileOf(*event->mimeData()));
 }
 
 void DataPage::OpenSource(const Source& source) {
@@ -316,6 +313,7 @@ void DataPage::StopReading() {
 }
 
 void DataPage::CancelReading() {
+  if (!IsReading()) return;
   StopReading();
   Q_EMIT ReadingEnded();
 }
@@ -336,7 +334,8 @@ void DataPage::EndReading(const Source& source, DataTable table) {
     for (std::size_t i = 0; i < table_.Columns(); ++i) columns_->addItem(table_.Title(i));
     columns_->setCurrentIndex(static_cast<int>(column_));
   }
-  SetTitle(source.title);
+  SetSource(source.file, source.title);
+  refusal_.clear();
   ShowColumn();
   if (message_->Text().isEmpty() && table_.HasDoubtfulHeader())
     message_->SetText(tr("The first row was taken for names, although it holds a number"));
@@ -349,10 +348,11 @@ void DataPage::SetBusy(bool busy) {
   tall_editor_->setEnabled(!busy);
 }
 
-void DataPage::SetTitle(const QString& title) {
+void DataPage::SetSource(const QString& file, const QString& title) {
+  path_ = file;
   title_ = title;
   file_->setText(title);
-  file_->setToolTip(QStringLiteral("<p>%1</p>").arg(title.toHtmlEscaped()));
+  file_->setToolTip(ToolTipOf(title));
   Q_EMIT TitleChanged();
 }
 
@@ -364,13 +364,14 @@ void DataPage::ChooseColumn(int index) {
 
 // A column that cannot be read shows no values, since its name stands over it.
 void DataPage::ShowColumn() {
-  message_->SetText({});
+  QStringList messages(std::exchange(refusal_, {}));
   try {
     stored_ = table_.Numbers(column_);
   } catch (const cli::InputError& error) {
     stored_ = {};
-    message_->SetText(QString::fromUtf8(error.what()));
+    messages.append(QString::fromUtf8(error.what()));
   }
+  message_->SetText(messages.join(u' ').trimmed());
   editor_->setLabelWidth(LabelWidth());
   editor_->setVector(CopyVector(stored_));
   editor_->ScrollTop();
@@ -381,6 +382,11 @@ void DataPage::ShowColumn() {
 void DataPage::CommitTexts() {
   for (TextCell* const cell : editor_->findChildren<TextCell*>()) cell->CommitOrRestore();
   StoreEdits();
+}
+
+void DataPage::RefuseText(const QString& message) {
+  refusal_ = message;
+  message_->SetText(message);
 }
 
 // Puts what differs from the table into it.
@@ -401,6 +407,8 @@ void DataPage::StoreEdits() {
 bool DataPage::MayGo() {
   CommitTexts();
   if (!IsChanged()) return true;
+  // The table that is asked about must not be replaced meanwhile.
+  CancelReading();
   QMessageBox question(QMessageBox::Warning, tr("Unsaved changes"),
                        tr("Save the changes in the table?"),
                        QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, this);
@@ -410,10 +418,14 @@ bool DataPage::MayGo() {
 }
 
 bool DataPage::SaveAs() {
-  const QString name = QFileInfo(title_).completeBaseName() + QStringLiteral(".csv");
-  const QString file =
-      QFileDialog::getSaveFileName(this, tr("Save the table"), name, tr("CSV files (*.csv)"));
-  return !file.isEmpty() && Save(file);
+  CancelReading();
+  CommitTexts();
+  const QFileInfo offered(CsvFileFor(path_));
+  QFileDialog dialog(this, tr("Save the table"), offered.path(), tr("CSV files (*.csv)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("csv"));
+  dialog.selectFile(offered.fileName());
+  return dialog.exec() == QDialog::Accepted && Save(dialog.selectedFiles().constFirst());
 }
 
 bool DataPage::Save(const QString& file) {
@@ -429,9 +441,9 @@ bool DataPage::Save(const QString& file) {
     message_->SetText(QStringLiteral("%1: %2").arg(name, out.errorString()));
     return false;
   }
-  message_->SetText({});
+  message_->SetText(std::exchange(refusal_, {}));
   table_.SetSaved();
-  SetTitle(name);
+  SetSource(file, name);
   return true;
 }
 
@@ -448,6 +460,7 @@ int DataPage::LabelWidth() const {
 
 // Pasting changes many elements, one after the other.
 void DataPage::RefreshSoon() {
+  refusal_.clear();
   message_->SetText({});
   if (std::exchange(refresh_is_due_, true)) return;
   QTimer::singleShot(0, this, &DataPage::Refresh);
@@ -469,17 +482,24 @@ void DataPage::Refresh() {
 
 // What the report leaves out, of the column and of its figures.
 void DataPage::RefreshRemark(std::size_t empty, std::size_t count) {
+  const auto in_number = [this](std::size_t n, const QString& one, const QString& several) {
+    return n == 1 ? one : several.arg(locale().toString(n));
+  };
   QStringList remarks;
-  if (empty > 0) remarks += tr("without %1 empty cells").arg(locale().toString(empty));
+  if (empty > 0) {
+    remarks += in_number(empty, tr("without 1 empty cell"), tr("without %1 empty cells"));
+  }
   const cli::HiddenFigures hidden = cli::HiddenBy(stats_.Results(), count, decimals_->value());
-  if (hidden.count > 0) {
-    remarks += hidden.enough_decimals <= decimals_->maximum()
-                   ? tr("%1 figures show no digit, which takes %2 decimals")
-                         .arg(hidden.count)
-                         .arg(hidden.enough_decimals)
-                   : tr("%1 figures are too small to show a digit").arg(hidden.count);
+  if (hidden.count > 0 && hidden.enough_decimals <= decimals_->maximum()) {
+    remarks += in_number(hidden.count, tr("1 figure needs up to %1 decimals"),
+                         tr("%1 figures need up to %2 decimals"))
+                   .arg(hidden.enough_decimals);
+  } else if (hidden.count > 0) {
+    remarks += in_number(hidden.count, tr("1 figure is too small to show a digit"),
+                         tr("%1 figures are too small to show a digit"));
   }
   remark_->setText(remarks.join(QStringLiteral("; ")));
+  remark_->setToolTip(ToolTipOf(remark_->text()));
 }
 
 void DataPage::RefreshPlot(const TQorFloatVector& values) {

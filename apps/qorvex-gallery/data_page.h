@@ -44,7 +44,7 @@ class DataPage : public QWidget {
   /// A file is being read on another thread.
   [[nodiscard]] bool IsReading() const { return !progress_->isHidden(); }
   /// Whether the table may go: with changes, the user is asked to save or to discard them, and may
-  /// refuse.
+  /// refuse. A reading that is under way stops before the question.
   [[nodiscard]] bool MayGo();
   /// Writes the table to a file, as CSV. Says on the page why it cannot, and returns false then.
   bool Save(const QString& file);
@@ -56,7 +56,7 @@ class DataPage : public QWidget {
   void ChooseFile();
   /// Opens the example.
   void OpenExample();
-  /// Asks for a file and writes the table to it.
+  /// Asks for a file and writes the table to it. A reading that is under way stops first.
   bool SaveAs();
 
  Q_SIGNALS:
@@ -64,10 +64,6 @@ class DataPage : public QWidget {
   void ReadingEnded();
   /// Title or IsChanged may have another value.
   void TitleChanged();
-
- protected:
-  void dragEnterEvent(QDragEnterEvent* event) override;
-  void dropEvent(QDropEvent* event) override;
 
  private:
   // What is to be shown of which file.
@@ -90,8 +86,9 @@ class DataPage : public QWidget {
   void ChooseColumn(int index);
   void ShowColumn();
   void CommitTexts();
+  void RefuseText(const QString& message);
   void StoreEdits();
-  void SetTitle(const QString& title);
+  void SetSource(const QString& file, const QString& title);
   [[nodiscard]] int LabelWidth() const;
   void RefreshSoon();
   void Refresh();
@@ -99,12 +96,15 @@ class DataPage : public QWidget {
   void RefreshPlot(const TQorFloatVector& values);
 
   DataTable table_;
+  QString path_;
   QString title_;
   std::size_t column_ = 0;
   // The numbers of the column as the table has them.
   TQorFloatVector stored_;
   TQorDescStats stats_;
   bool refresh_is_due_ = false;
+  // The message of a text that was no number. It outlives the action for which the text was left.
+  QString refusal_;
 
   QLabel* file_;
   QComboBox* columns_;

@@ -115,7 +115,9 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  Open(DraggedFile(*event));
+  // The program that the file comes from waits until this is done, and Open may ask a question.
+  QMetaObject::invokeMethod(
+      this, [this, file = DraggedFile(*event)] { Open(file); }, Qt::QueuedConnection);
 }
 
 }  // namespace qorvex::gallery

@@ -9,6 +9,7 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <functional>
 
@@ -42,6 +43,24 @@ bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](const auto& x, const auto& y) {
     return std::equal(x.begin(), x.end(), y.begin(), y.end(), same_element);
   });
+}
+
+bool AnyElement(const TQorFloatMatrix& matrix, bool (*holds)(Extended)) {
+  return std::any_of(matrix.begin(), matrix.end(), [holds](const auto& row) {
+    return std::any_of(row.begin(), row.end(), holds);
+  });
+}
+
+// Of a square matrix that has none.
+QString WhyNoInverse(const TQorFloatMatrix& matrix, std::uint32_t rank) {
+  if (AnyElement(matrix, [](Extended x) { return std::isnan(x); })) {
+    return MatrixPage::tr("none, an element is null");
+  }
+  if (AnyElement(matrix, [](Extended x) { return std::isinf(x); })) {
+    return MatrixPage::tr("none, an element is infinite");
+  }
+  if (rank < matrix.size()) return MatrixPage::tr("none, the matrix is singular");
+  return MatrixPage::tr("none, its elements would be beyond the range");
 }
 
 QSpinBox* SizeBox(const char* name, const QString& accessible_name) {
@@ -281,7 +300,7 @@ void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
       determinant = ExactText(MatrixDeterminant(reduced));
       reduced = CopyMatrix(matrix);
       if (!MatrixInverse(reduced, inverse)) {
-        why_not = tr("none, the matrix is singular");
+        why_not = WhyNoInverse(matrix, rank);
       }
     }
   } catch (const EMathError& error) {

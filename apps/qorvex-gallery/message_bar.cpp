@@ -8,6 +8,8 @@
 #include <QStyle>
 #include <QToolButton>
 
+#include "apps/qorvex-gallery/tool_tip.h"
+
 namespace qorvex::gallery {
 
 MessageBar::MessageBar(QWidget* parent) : QFrame(parent), text_(new QLineEdit) {
@@ -18,7 +20,10 @@ MessageBar::MessageBar(QWidget* parent) : QFrame(parent), text_(new QLineEdit) {
 
   text_->setReadOnly(true);
   text_->setFrame(false);
-  text_->setStyleSheet(QStringLiteral("background: transparent"));
+  // Other colours follow the application's.
+  QPalette palette;
+  palette.setColor(QPalette::Base, Qt::transparent);
+  text_->setPalette(palette);
 
   auto* const close = new QToolButton;
   close->setAutoRaise(true);
@@ -43,8 +48,7 @@ MessageBar::~MessageBar() = default;
 void MessageBar::SetText(const QString& text) {
   text_->setText(text);
   text_->setCursorPosition(0);
-  // As a paragraph the tool tip breaks its lines.
-  text_->setToolTip(QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped()));
+  text_->setToolTip(ToolTipOf(text));
   setAccessibleName(text);
   setVisible(!text.isEmpty());
   if (text.isEmpty()) return;

@@ -21,17 +21,23 @@ std::string FixedText(Extended value, int decimals, bool trim) {
   return Trimmed(Float2EStr(value, decimals), trim);
 }
 
-// The exponent has no plus sign and no leading zeroes, which say nothing.
+// The same text, whose exponent, if it has one, has neither a plus sign nor leading zeroes, which
+// say nothing.
+std::string WithShortExponent(const std::string& text, bool trim) {
+  const std::size_t e = text.find('e');
+  if (e == std::string::npos) return Trimmed(text, trim);
+  const bool negative = text[e + 1] == '-';
+  const std::size_t digits = std::min(text.find_first_of(kNonZero, e), text.size() - 1);
+  return Trimmed(text.substr(0, e), trim) + (negative ? "e-" : "e") + text.substr(digits);
+}
+
 std::string ExponentText(Extended value, int decimals, bool trim) {
   constexpr std::size_t around_decimals = 16;
   std::string text(static_cast<std::size_t>(decimals) + around_decimals, '\0');
   const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value,
                                           std::chars_format::scientific, decimals);
   text.resize(static_cast<std::size_t>(end - text.data()));
-  const std::size_t e = text.find('e');
-  const bool negative = text[e + 1] == '-';
-  const std::size_t digits = std::min(text.find_first_of(kNonZero, e), text.size() - 1);
-  return Trimmed(text.substr(0, e), trim) + (negative ? "e-" : "e") + text.substr(digits);
+  return WithShortExponent(text, trim);
 }
 
 // The text with the most digits that fits, of those with least to most; nothing when none does.
@@ -83,7 +89,8 @@ std::string FloatText(Extended value, const FloatDigits& digits) {
   constexpr Extended no_decimals = 0x1p63L;
   const bool all = digits.all || std::fabs(value) >= no_decimals;
   if (value == 0 && all) return "0";
-  return Trimmed(all ? Float2Str(value) : Float2EStr(value, digits.decimals), digits.trim);
+  return all ? WithShortExponent(Float2Str(value), digits.trim)
+             : FixedText(value, digits.decimals, digits.trim);
 }
 
 std::string FittedFloatText(Extended value, const FloatDigits& digits, const TextFits& fits) {

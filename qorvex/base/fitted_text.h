@@ -16,13 +16,13 @@ namespace qorvex::inline QorvexGlobals {
 /// The digits that a number is written with.
 struct FloatDigits {
   int decimals = 4;   ///< Decimals of fixed notation; negative counts as 0.
-  bool all = false;   ///< All digits in place of them, as in Float2Str.
+  bool all = false;   ///< All digits in place of them: as many as Float2Str gives.
   bool trim = false;  ///< Without the zeroes that end the decimals.
 };
 
 /// The number with these digits, correctly rounded. From 2^63 on, where it has no decimals, it is
-/// written with all its digits, in scientific notation where that is shorter. Zero has no sign. NaN
-/// is "nan", the infinities are "inf" and "-inf".
+/// written with all its digits, in exponent form, "1.2e300", where that is shorter. Zero has no
+/// sign. NaN is "nan", the infinities are "inf" and "-inf".
 [[nodiscard]] QORVEX_EXPORT std::string FloatText(Extended value, const FloatDigits& digits);
 
 /// What stands for a number that has no room.

@@ -69,7 +69,10 @@ void TextCell::Restore() {
 }
 
 void TextCell::CommitOrRestore() {
-  if (!Commit()) Restore();
+  if (Commit()) return;
+  const QString refused = text();
+  Restore();
+  Q_EMIT Refused(refused);
 }
 
 void TextCell::Leave() {
@@ -101,9 +104,10 @@ QString TextCell::Tip() const {
 
 bool TextCell::HasRoom(const QString& text) const {
   const int room = RoomFor(Contents());
-  // Most texts have room to spare, and this takes half the time of a layout.
-  constexpr int spare = 3;
-  if (fontMetrics().horizontalAdvance(text) + spare <= room) return true;
+  // Most texts have room to spare, and this takes half the time of a layout. Slanted glyphs reach
+  // beyond their advance, but not by the height of the font.
+  const QFontMetrics metrics = fontMetrics();
+  if (metrics.horizontalAdvance(text) + metrics.height() <= room) return true;
   QTextLayout layout(text, font(), this);
   return WidthOf(LineOf(layout)) <= room;
 }
@@ -227,6 +231,19 @@ void TextCell::mouseReleaseEvent(QMouseEvent* event) {
   // A selection that was drawn with the mouse stays, and a second click places the cursor.
   const bool entered = std::exchange(entered_by_mouse_, false);
   if (entered && behaviour_.auto_select_click && !hasSelectedText()) selectAll();
+}
+
+void TextCell::dragEnterEvent(QDragEnterEvent* event) {
+  dragMoveEvent(event);
+}
+
+void TextCell::dragMoveEvent(QDragMoveEvent* event) {
+  // Files and links, which have a text as well, are for what is around the cell.
+  if (event->mimeData()->hasUrls()) {
+    event->ignore();
+  } else {
+    QLineEdit::dragMoveEvent(event);
+  }
 }
 
 void TextCell::dropEvent(QDropEvent* event) {

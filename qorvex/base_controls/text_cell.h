@@ -18,7 +18,8 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 /// A line edit that knows what it shows while nothing is typed, and that tells when the focus comes
 /// from another widget and when it has gone to one. A menu that opens or a window that becomes
 /// inactive is neither; the latter commits. What is pasted or dropped goes through Paste, by
-/// whatever way it comes.
+/// whatever way it comes. Files and links are not taken, so that they can be dropped on what is
+/// around the cell.
 ///
 /// A text that is wider than the cell is not painted in part, which could be read as another one,
 /// but in a shorter form, unless it is being edited; a tool tip shows it whole. text() is the whole
@@ -58,6 +59,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   void Entered();
   /// The focus has gone to another widget, and the text is committed or restored.
   void Left();
+  /// CommitOrRestore has given up this text.
+  void Refused(const QString& text);
   /// A menu is about to open; the owner may add to it.
   void MenuOpening(QMenu* menu);
 
@@ -83,6 +86,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// @{
   /// Qt's events.
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
   void dropEvent(QDropEvent* event) override;
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;

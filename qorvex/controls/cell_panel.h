@@ -176,6 +176,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// A block could not be pasted or copied, or a value that was typed could not be kept; the
   /// message says why, and which row is to blame.
   void OnBlockRefused(const QString& message);
+  /// A text that was typed is no number and has been given up; the message names the element and
+  /// the text.
+  void OnTextRefused(const QString& message);
 
   /// @{
   /// What happens in any of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event
@@ -381,6 +384,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] QString BlockText(quint32 row, quint32 rows, quint32 col, quint32 cols) const;
   [[nodiscard]] static QString OutOfMemory();
   void RefuseBlock(const QString& message);
+  void RefuseText(quint32 row, quint32 col, const QString& text);
   // Puts the other values in the elements, and those that were there in the changes.
   void ExchangeElements(ElementChanges& changes);
   void RememberElements(const std::shared_ptr<ElementChanges>& changes);

@@ -55,6 +55,13 @@ void CellPanel::RefuseBlock(const QString& message) {
   Q_EMIT OnBlockRefused(message);
 }
 
+void CellPanel::RefuseText(quint32 row, quint32 col, const QString& text) {
+  Q_EMIT OnTextRefused(QCoreApplication::translate("CellPanel",
+                                                   "%1: \"%2\" is not a number. The value stays.",
+                                                   "name of a cell, its text")
+                           .arg(CellName(row, col), text));
+}
+
 bool CellPanel::PasteBlock(const QString& text) {
   CommitPending();
   const detail::TextBlock block = detail::ParseBlock(text.toStdString());

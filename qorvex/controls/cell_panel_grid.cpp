@@ -98,6 +98,8 @@ TQorCustomEdit* CellPanel::MakeCell(std::size_t row_edit, std::size_t col_edit) 
   connect(cell, &TQorCustomEdit::Changed, this, [this, cell] { DoChange(cell); });
   connect(cell, &TQorCustomEdit::textEdited, this,
           [this, cell](const QString& text) { NotifyText(RowOf(cell), ColOf(cell), text); });
+  connect(cell, &TQorCustomEdit::Refused, this,
+          [this, cell](const QString& text) { RefuseText(RowOf(cell), ColOf(cell), text); });
   connect(cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
   connect(cell, &TQorCustomEdit::MenuOpening, this, &CellPanel::AddToMenu);
   Watch(cell);

@@ -52,6 +52,12 @@ TEST_F(EditorHazards, ADropGoesToTheCellUnderIt) {
   EXPECT_EQ(Texts(), "3.0000|8.0000|9.0000|6.0000");
   drop(0, "\n55\n");
   EXPECT_EQ(Texts(), "|55.0000|9.0000|6.0000") << "an empty cell stands above the number";
+  QMimeData file;
+  file.setUrls({QUrl("file:///data.csv")});
+  file.setText("1");
+  QDragEnterEvent enter({2, 2}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(Cell(3), &enter);
+  EXPECT_FALSE(enter.isAccepted());
   editor->setReadOnly(true);
   drop(3, "1");
   EXPECT_EQ(editor->Element(6), 6);

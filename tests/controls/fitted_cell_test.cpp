@@ -40,8 +40,10 @@ QImage Picture(const TQorCustomEdit& cell, const QString& text) {
   return plain.grab().toImage();
 }
 
+// Slanted glyphs reach beyond their advance.
 qreal Width(const QLineEdit& edit, const QString& text) {
-  return QFontMetricsF(edit.font()).horizontalAdvance(text);
+  const QFontMetricsF metrics(edit.font());
+  return std::max(metrics.horizontalAdvance(text), metrics.boundingRect(text).right());
 }
 
 // What the frame leaves for a text, without the two pixels that a line edit keeps free around it.

@@ -87,6 +87,15 @@ TEST_F(MatrixPageTest, SaysWhatIsWrongAndKeepsTheMatrix) {
   Click("inverse");
   EXPECT_EQ(Message(), "The matrix has no inverse");
   EXPECT_EQ(decimals->Element(1, 1), 4);
+  const auto why_not = [this](Extended a, Extended d, Extended c = 0) {
+    decimals->setMatrix({{a, 0}, {c, d}});
+    Click("transpose");
+    return Find<QLabel>("noInverse").text().toStdString();
+  };
+  EXPECT_EQ(why_not(1, kNaN), "none, an element is null");
+  EXPECT_EQ(why_not(kInfinity, 1), "none, an element is infinite");
+  EXPECT_EQ(why_not(1e-4940L, 1), "none, the matrix is singular") << "zero within the tolerance";
+  EXPECT_EQ(why_not(1, 1e-10L, 1e4930L), "none, its elements would be beyond the range");
   Click("transpose");
   EXPECT_EQ(Message(), "");
   page.Open("/nowhere/matrix.csv");
