@@ -11,8 +11,10 @@ function(qorvex_compile_settings target)
     POSITION_INDEPENDENT_CODE ON
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON)
-  # A project that names no build type would get a library several times slower.
-  if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES AND NOT CMAKE_CXX_FLAGS MATCHES "(^| )-O")
+  # A project that asks for no optimisation at all, not even for none, would get a library several times slower.
+  get_directory_property(options COMPILE_OPTIONS)
+  if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES
+      AND NOT "${CMAKE_CXX_FLAGS};${options}" MATCHES "(^|[ ;])-O")
     target_compile_options(${target} PRIVATE -O2)
   endif()
   target_compile_options(${target} PRIVATE

@@ -18,9 +18,9 @@ bool ShowsADigit(Extended figure, int decimals) {
 
 HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int decimals) {
   constexpr Extended epsilon = std::numeric_limits<Extended>::epsilon();
-  const Extended mean_square = results.sum_sq / static_cast<Extended>(n);
-  const Extended noise = static_cast<Extended>(n) * epsilon * std::sqrt(mean_square);
-  const Extended noise_of_squares = static_cast<Extended>(n) * epsilon * mean_square;
+  const auto count = static_cast<Extended>(n);
+  // What rounding in the sum can leave of a mean of 0, and of deviations from it.
+  const Extended noise = count * epsilon * std::sqrt(results.sum_sq / count);
 
   HiddenFigures hidden;
   const auto look_at = [&](Extended figure, Extended negligible) {
@@ -30,15 +30,18 @@ HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int dec
     const int enough = 3 - static_cast<int>(std::floor(std::log10(size)));
     hidden.enough_decimals = std::max(hidden.enough_decimals, enough);
   };
+  look_at(results.sum, count * noise);
+  look_at(results.mean, noise);
+  look_at(results.std_dev, noise);
+  look_at(results.variance, noise * noise);
+  // No sum that cancels is behind these.
   const Extended mode = results.mode_exists ? results.mode : 0;
   for (const Extended figure :
-       {results.sum, results.mean, results.std_dev, results.median, mode, results.minimum,
-        results.maximum, results.maximum - results.minimum, results.quartile_1st,
-        results.quartile_3rd, results.inter_quartile_range}) {
-    look_at(figure, noise);
+       {results.sum_sq, results.median, mode, results.minimum, results.maximum,
+        results.maximum - results.minimum, results.quartile_1st, results.quartile_3rd,
+        results.inter_quartile_range}) {
+    look_at(figure, 0);
   }
-  for (const Extended figure : {results.sum_sq, results.variance})
-    look_at(figure, noise_of_squares);
   return hidden;
 }
 

@@ -17,8 +17,8 @@ struct HiddenFigures {
 };
 
 /// What a report with that many decimals hides of a sample of n values. Skewness and kurtosis do
-/// not count, since they have no unit that could be too large; nor does what is below the rounding
-/// errors of a sum of n values, such as the mean of values that cancel.
+/// not count, since they have no unit that could be too large; nor does what rounding can leave of
+/// a sum, mean, variance or standard deviation that is 0.
 [[nodiscard]] HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n,
                                      int decimals);
 

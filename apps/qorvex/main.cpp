@@ -1,4 +1,5 @@
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <exception>
 #include <new>
 #include <sstream>
@@ -33,17 +34,25 @@ std::string NamesOf(const std::vector<const CLI::App*>& commands) {
   return names;
 }
 
+// The arguments that nothing takes, without the "--" that says that no options follow.
+std::vector<std::string> Remaining(const CLI::App& app) {
+  std::vector<std::string> texts = app.remaining();
+  const auto end_of_options = std::find(texts.begin(), texts.end(), "--");
+  if (end_of_options != texts.end()) texts.erase(end_of_options);
+  return texts;
+}
+
 // What is wrong with arguments that nothing takes: a command that does not exist, or whatever
 // stands too much, in the order in which it was given.
 std::string WhatIsUnexpected(const CLI::App& program) {
   const CLI::App* app = &program;
   std::string path;
-  while (app->remaining().empty() && !app->get_subcommands().empty()) {
+  while (Remaining(*app).empty() && !app->get_subcommands().empty()) {
     app = app->get_subcommands().front();
     path += (path.empty() ? "" : " ") + app->get_name();
   }
   if (!path.empty()) path += ": ";
-  const std::vector<std::string> unexpected = app->remaining();
+  const std::vector<std::string> unexpected = Remaining(*app);
   // Groups of options are apps without a name.
   const auto commands =
       app->get_subcommands([](const CLI::App* command) { return !command->get_name().empty(); });

@@ -146,7 +146,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
   if (variate.classic) {
     command.add_flag_callback(
         "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
-        "Draw with the classic routine of QorvexRandom, limits included");
+        "Draw with the classic routine of QorvexRandom, within its limits: see the end");
   }
   AddNumber(command, "--count", "How many variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });

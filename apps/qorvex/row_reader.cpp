@@ -142,8 +142,7 @@ const char* RowReader::EndOfPlainCell(const char* at) const {
     while (at != end && !ends_plain_cell_[Index(*at)]) ++at;
     if (at == end || *at != '\r') return at;
     if (at + 1 == end) return end;
-    if (!ends_plain_cell_[Index(at[1])] && !IsBlank(at[1]))
-      FailAt(at, "a line ends with CR alone; LF or CR LF is needed");
+    if (at[1] != '\n') FailAt(at, "a line ends with CR alone; LF or CR LF is needed");
   }
 }
 

@@ -105,13 +105,16 @@ std::vector<Variate> AllVariates() {
          WhatIsWrongWithSupport}}},
       {"student-t",
        "Student's t variates",
-       {{df, of_df, NumberKind::kDegreesOfFreedom}},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawStudentT(a[0], s); }}},
+       {{df, "The degrees of freedom, which need not be whole", NumberKind::kDegreesOfFreedom}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawStudentT(a[0], s); },
+         "--df is from 1e-17 to 1e15"}},
        VariateMethod{"",
                      [](Arguments a, Figures x, Source s) {
                        x[0] = Random_T(static_cast<std::int32_t>(a[0]), s);
                      },
-                     "", WhatIsWrongWithWholeDf}},
+                     "--df is from 1e-17 to 1e15; with --classic it is a whole number up to "
+                     "2147483647, and 1 and 2 draw as 3 does",
+                     WhatIsWrongWithWholeDf}},
       {"cauchy",
        "Cauchy variates",
        {location, kScale},
@@ -126,9 +129,8 @@ std::vector<Variate> AllVariates() {
        "Generalised inverse Gaussian variates; density as x^(b-1) exp(-h/2 (x + 1/x))",
        {{"--h", "The concentration h", positive}, {"--b", "The order b, at least 0", real}},
        {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Inv_Gauss(a[0], a[1], s); },
-         "--b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below 1, and --h "
-         "is "
-         "neither tiny nor small beside --b"}}},
+         "--b is at least 0, both are at most 1e14, and --h is neither tiny nor small beside --b: "
+         "1e-8 and 1e-4 times --b suffice"}}},
       {"von-mises",
        "Angles of the von Mises distribution, from -pi to pi",
        {{"--concentration", "The concentration", real}},
@@ -165,7 +167,8 @@ std::vector<Variate> AllVariates() {
        "Poisson variates",
        {kLambda},
        {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawPoisson(a[0], s); }}},
-       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Poisson(a[0], s); }}},
+       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Poisson(a[0], s); },
+                     "with --classic and --lambda below 10, no variate exceeds 35"}},
   };
 }
 

@@ -51,7 +51,8 @@ concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std:
 template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
 
-/// An integer argument. A floating one, which would be cut off, does not compile.
+/// An integer argument. A floating one, which would be cut off, does not compile, nor does an
+/// object of a class that converts to an integer: that would be a second conversion. Cast it.
 template <class T>
 class WholeNumber {
  public:

@@ -28,19 +28,17 @@ Extended Mode(Extended h, Extended k, Extended b) {
 }  // namespace
 
 Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
-  // Attempts succeed once in the root of the larger parameter or, for b below 1, in h^(b-1).
+  // A variate takes about as many attempts as the root of the larger parameter is.
   constexpr Extended largest_parameter = 1e14L;
-  constexpr Extended most_attempts = 1e8L;
   if (!(b >= 0 && h > 0)) RaiseMathError(rsInvalidValue);
   if (b > 0.25L * h * std::sqrt(detail::kVeryLarge)) RaiseMathError(rsInvalidValue);
   if (std::max(h, b) > largest_parameter) RaiseMathError(rsInvalidValue);
-  if (b < 1 && XtoY(h, b - 1) > most_attempts) RaiseMathError(rsInvalidValue);
   const Extended ym = Mode(h, -(b + 1), b);
   const Extended xm = Mode(h, b - 1, b);
   const Extended c = -0.25L * h;
   const Extended r = XtoY(xm * ym, -0.5L * b) * std::sqrt(xm / ym) *
                      std::exp(0.25L * h * ((xm + 1 / xm) - ym - 1 / ym));
-  if (!(r >= detail::kVerySmall)) RaiseMathError(rsInvalidValue);
+  if (!(r >= detail::kVerySmall && std::isfinite(r))) RaiseMathError(rsInvalidValue);
   const Extended power = 0.5L * (b - 1);
   const Extended at_mode = -power * std::log(xm) - c * (xm + 1 / xm);
   for (;;) {

@@ -9,8 +9,7 @@
 /// - `...Pdf`, `...Pmf`: the density, or the probability of a count;
 /// - `...Lower`, `...Upper`: the probability of at most x, and of more than x. Neither is formed as
 ///   1 less the other where that would lose digits;
-/// - `...LogLower`, `...LogUpper`: their natural logarithms, also far beyond where the
-/// probabilities
+/// - `...LogLower`, `...LogUpper`: their natural logarithms, also far beyond where the probabilities
 ///   themselves underflow to 0;
 /// - `...Quantile`, `...UpperQuantile`: the point with a given lower or upper probability; of a
 ///   count the smallest with P(X <= k) >= p, or with P(X > k) <= q.
@@ -37,8 +36,9 @@
 /// of DiDonato and Morris (1992, "Algorithm 708"), in closed form for a shape of 1 and for equal
 /// shapes in the middle; powers and factorials in them with exponents of 95 bits; quantiles by
 /// Halley's iteration on the logarithm of the smaller tail. Binomial probabilities of up to 255
-/// trials, and beta tails of whole shapes that are sums of up to 16 of these, are products of 125
-/// bits: those that have 64 bits, such as 3/8 for two heads in four tosses, are exact.
+/// trials, of no success and of successes only are products of 125 bits, and so are sums of up to
+/// 16 of them that are beta tails, with x and 1 - x above 1e-4900: those that have 64 bits, such as
+/// 3/8 for two heads in four tosses, are exact.
 
 #include <cstdint>
 

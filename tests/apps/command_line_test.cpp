@@ -98,6 +98,13 @@ TEST(Describe, RemarksOnFiguresThatShowNoDigit) {
            std::pair(std::string("printf '0.1\\n-0.3\\n0.2\\n' | qorvex describe -"),
                      std::string()),
            std::pair(std::string("yes 0.1 | head -n 77 | qorvex describe -"), std::string()),
+           // Values are not the result of a sum, however small they are beside others.
+           std::pair(std::string("printf '1e15\\n1e-5\\n-1e15\\n' | qorvex describe -"),
+                     remark + "1 figure other than 0 without a digit in 4 decimals; --decimals 8" +
+                         enough),
+           std::pair(std::string("printf '3e-25\\n0.2\\n0.5\\n0.9\\n' | qorvex describe -"),
+                     remark + "1 figure other than 0 without a digit in 4 decimals; --decimals 28" +
+                         enough),
            std::pair(std::string("printf '0.0001\\n-0.0001\\n' | qorvex describe - --currency "
                                  "--decimals 2"),
                      remark +
@@ -267,6 +274,7 @@ TEST(Program, NamesWhatNothingTakesInTheOrderInWhichItStands) {
                "pdf, table"),
            std::pair("describe a.csv b.csv --nosuch",
                      "describe: unexpected \"b.csv\", \"--nosuch\""),
+           std::pair("describe -- a.csv b.csv", "describe: unexpected \"b.csv\""),
        }) {
     ExpectRefusal(std::string("qorvex ") + command,
                   message + std::string("\nqorvex: --help tells what the program and its commands "

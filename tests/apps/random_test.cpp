@@ -73,8 +73,13 @@ TEST(RandomCommand, TellsItsLimits) {
                "Limits:\n  --concentration is at least 0 and, with --classic, below 10.\n\n");
   ExpectOutput(
       "qorvex random inverse-gaussian --help | sed -n '/^Limits/,/^$/p'",
-      "Limits:\n  --b is at least 0, both are at most 1e14, h^(b-1) is at most 1e8 for b below\n"
-      "  1, and --h is neither tiny nor small beside --b.\n\n");
+      "Limits:\n  --b is at least 0, both are at most 1e14, and --h is neither tiny nor small\n"
+      "  beside --b: 1e-8 and 1e-4 times --b suffice.\n\n");
+  ExpectOutput(
+      "for v in student-t poisson; do "
+      "qorvex random $v --help | sed -n '/^Limits/,/^$/p' | grep -o 'with --classic.*'; done",
+      "with --classic it is a whole number up to\n"
+      "with --classic and --lambda below 10, no variate exceeds 35.\n");
   ExpectOutput("qorvex random normal --help | grep -c Limits", "0\nexit status 1\n");
 }
 

@@ -47,7 +47,7 @@ run_block() {
   if [[ $block =~ \<[a-z\ ]+\> ]]; then
     fail "$1:$2: nothing stands for the placeholder ${BASH_REMATCH[0]}"
   elif ! output=$(cd "$scratch" && bash -euc "$block" 2>&1 </dev/null); then
-    fail "$1:$2: these commands fail:" "$block" "${output: -2000}"
+    fail "$1:$2: these commands fail:" "$block" "$(tail -n 20 <<<"$output")"
   fi
 }
 
@@ -73,6 +73,9 @@ read_document() {
   done <"$source/$1"
   [[ -z $kind ]] || fail "$1:$start: a block without an end"
 }
+
+# What is built here runs once.
+export CMAKE_BUILD_TYPE=Debug
 
 rm -rf "$scratch"
 mkdir -p "$scratch/build"

@@ -17,7 +17,6 @@ namespace fp = full_precision;
 using testing::Draw;
 using testing::ExpectAgreement;
 using testing::Judge;
-using testing::kDraws;
 using testing::Moments;
 using testing::Reference;
 using testing::Support;
@@ -185,7 +184,7 @@ struct Variate {
   std::vector<Parameters> cases;
   std::function<Extended(const Parameters&, UniformSource)> draw;
   std::function<Reference(const Parameters&)> reference;
-  int draws = kDraws;
+  int draws = testing::UsualDraws();
 };
 
 const std::vector<Variate>& Variates() {
@@ -251,7 +250,7 @@ const std::vector<Variate>& Variates() {
        {{0}, {0.3L}, {0.5L}, {0.75L}, {1}, {3}, {9.4L}, {9.99L}},
        [](P p, auto s) { return Random_von_Mises(p[0], s); },
        [](P p) { return VonMises(p[0]); },
-       kDraws / 5},
+       testing::UsualDraws() / 5},
       {"Binomial1",
        {{1, 0.3L}, {3, 0.2L}, {50, 0.9L}, {300, 0.7L}, {1000, 0.1L}, {1e4L, 0.5L}},
        [](P p, auto s) { return Random_Binomial1(static_cast<std::int32_t>(p[0]), p[1], s); },

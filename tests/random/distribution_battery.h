@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "qorvex/random/uniform_source.h"
+#include "support/environment.h"
 #include "support/test.h"
 
 namespace qorvex::testing {
@@ -63,12 +64,14 @@ struct Verdict {
 };
 
 /// 100,000 in the fast tests, which see an error of 1 %; 1,000,000 in the slow ones.
-inline constexpr int kDraws = QORVEX_BATTERY_DRAWS;
+inline int UsualDraws() {
+  return FromEnvironment("QORVEX_BATTERY_DRAWS", 100'000);
+}
 
 /// Judges so many variates, drawn from an engine with a fixed seed.
-Verdict Judge(const Draw& draw, const Reference& reference, int draws = kDraws);
+Verdict Judge(const Draw& draw, const Reference& reference, int draws = UsualDraws());
 
 /// Expects a good verdict.
-void ExpectAgreement(const Draw& draw, const Reference& reference, int draws = kDraws);
+void ExpectAgreement(const Draw& draw, const Reference& reference, int draws = UsualDraws());
 
 }  // namespace qorvex::testing

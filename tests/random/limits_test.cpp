@@ -58,12 +58,14 @@ TEST(Limits, ParametersAreCheckedBeforeAnyDraw) {
   EXPECT_MATH_ERROR(Random_Neg_Binomial(1100, 0.5L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Neg_Binomial(2.1e7L, 0.75L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Neg_Binomial(0.5L, 1 - 2e-8L, NoDraw), rsInvalidValue);
-  // Modes that rounding has moved, or left nothing of, and too many attempts.
+  // Modes that rounding has moved, or left nothing of, and too many attempts: 3e9 for (1e-10, 0).
   EXPECT_MATH_ERROR(Random_Inv_Gauss(4e-7L, 1000, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(0.36385554075241088867L, 34480642, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-12L, 1, NoDraw), rsInvalidValue);
-  EXPECT_MATH_ERROR(Random_Inv_Gauss(0x1p-30L, 0, NoDraw), rsInvalidValue);
-  EXPECT_GT(Random_Inv_Gauss(1.1e-8L, 0, ScriptedSource({1e-8L, 0.5L})), 0);
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(1e-10L, 0, NoDraw), rsInvalidValue);
+  EXPECT_MATH_ERROR(Random_Inv_Gauss(1512287331.5694793626L, 71147053822427.973824L, NoDraw),
+                    rsInvalidValue);
+  EXPECT_GT(Random_Inv_Gauss(6e-9L, 0, ScriptedSource({1e-8L, 0.5L})), 0);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(1, 3.3e153L, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Inv_Gauss(2e15L, 1, NoDraw), rsInvalidValue);
   EXPECT_MATH_ERROR(Random_Beta(1e18L, 1e18L, NoDraw), rsInvalidValue);

@@ -54,8 +54,8 @@ TEST(FullPrecision, AgreesWithAComputationInHigherPrecision) {
 
 // Probabilities of whole numbers are rounded once, so that those of 64 bits come out as they are.
 TEST(FullPrecision, IsExactForFewTrialsAndSmallWholeShapes) {
-  for (const std::uint32_t n : {1U, 2U, 4U, 5U, 17U, 30U}) {
-    for (const Extended p : {0.5L, 0.25L, 0.6875L, 0.3L, 1e-10L}) {
+  for (const std::uint32_t n : {1U, 2U, 4U, 5U, 17U, 30U, 255U}) {
+    for (const Extended p : {0.5L, 0.25L, 0.6875L, 0.3L, 1e-10L, 0x1p-60L, 1 - 0x1p-60L}) {
       const Real success = p;
       std::vector<Real> exact;
       Real ways = 1;
@@ -72,9 +72,10 @@ TEST(FullPrecision, IsExactForFewTrialsAndSmallWholeShapes) {
         below += exact[k];
         const auto lower = static_cast<Extended>(below);
         if (k < n) {
-          ASSERT_LE(Units(fp::BinomialLower(p, n, k), below), 3);
+          ASSERT_LE(Units(fp::BinomialLower(p, n, k), below), 13);
         }
-        if (Real(lower) != below || below > 1 - Real(1e-12L)) continue;
+        const bool beyond_sums = k >= 16 && (n - k > 16 || below < 1e-12L);
+        if (Real(lower) != below || below > 1 - Real(1e-12L) || beyond_sums) continue;
         EXPECT_EQ(fp::BinomialLower(p, n, k), lower);
         EXPECT_EQ(fp::BinomialUpper(p, n, k), 1 - lower);
         EXPECT_EQ(fp::BetaUpper(k + 1, n - k, p), lower);
@@ -83,6 +84,15 @@ TEST(FullPrecision, IsExactForFewTrialsAndSmallWholeShapes) {
   }
   EXPECT_EQ(fp::HyperGeometricPmf(50, 5, 13, 2), static_cast<Extended>(Real(606060) / 2118760));
   EXPECT_EQ(fp::FDistUpper(2, 4, 2), 0.25L);
+  // Powers of whole numbers, whatever their size.
+  EXPECT_EQ(fp::BinomialPmf(0.5L, 16'382, 0), 0x1p-16382L);
+  EXPECT_EQ(fp::BinomialPmf(0x1p-9L, 1'700, 1'700), 0x1p-15300L);
+  EXPECT_EQ(fp::BinomialUpper(0.5L, 300, 299), 0x1p-300L);
+  EXPECT_EQ(fp::BetaLower(300, 1, 0.5L), 0x1p-300L);
+  EXPECT_EQ(fp::BetaPdf(1, 512, 0.5L), 0x1p-502L);
+  const Real ln_2 = log(Real(2));
+  EXPECT_LT(Units(fp::BetaLogUpper(1, 1e15L, 0.5L), -1'000'000'000'000'000 * ln_2), 2);
+  EXPECT_LT(Units(fp::BinomialLogUpper(0x1p-300L, 200, 199), -60'000 * ln_2), 2);
 }
 
 TEST(FullPrecision, HasClosedFormsAtTheEdgesAndSymmetryAtOneHalf) {

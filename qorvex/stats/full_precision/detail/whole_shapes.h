@@ -18,8 +18,8 @@ namespace qorvex::full_precision::detail {
 [[nodiscard]] Scaled Coefficient(std::int64_t n, std::int64_t k);
 
 /// As RegularisedBeta(a, b).At(odds), with closed forms for shapes of 1 and for equal shapes at
-/// equal odds, and with sums of up to 16 terms for whole shapes. Exchanged shapes and odds give
-/// exchanged tails.
+/// equal odds, and with sums of up to 16 terms for whole shapes that add up to 256 at most.
+/// Exchanged shapes and odds give exchanged tails.
 [[nodiscard]] Tails BetaTails(Extended a, Extended b, const Odds& odds);
 
 /// The density of the beta distribution at x = in_favour of odds that add up to 1.
