@@ -21,20 +21,15 @@
 #include <memory>
 #include <utility>
 
+#include "apps/qorvex-gallery/column_figures.h"
 #include "apps/qorvex-gallery/figure_table.h"
 #include "apps/qorvex-gallery/heading.h"
 #include "apps/qorvex-gallery/message_bar.h"
-#include "apps/qorvex-gallery/plot/histogram.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/table_input.h"
 #include "apps/qorvex-gallery/tall_editor.h"
 #include "apps/qorvex-gallery/tool_tip.h"
-#include "apps/qorvex/hidden_figures.h"
 #include "apps/qorvex/input_error.h"
-#include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
-#include "qorvex/stats/full_precision.h"
 #include "qorvex/vector/building.h"
 
 namespace qorvex::gallery {
@@ -51,54 +46,6 @@ TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
     if (!std::isnan(value)) kept[count++] = value;
   kept.SetLength(count);
   return kept;
-}
-
-PlotLayer Bars(const Histogram& histogram) {
-  PlotLayer layer{PlotShape::kBars, PlotRole::kData, DataPage::tr("Values"), {}};
-  for (std::size_t i = 0; i < histogram.edges.size(); ++i) {
-    const Extended density = i == 0 ? 0 : histogram.Density(i - 1);
-    layer.points.emplace_back(static_cast<double>(histogram.edges[i]),
-                              static_cast<double>(density));
-  }
-  return layer;
-}
-
-// Over the bars, and as far as the density shows.
-PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_dev) {
-  constexpr int steps = 240;
-  constexpr Extended reach = 3;
-  PlotLayer layer{PlotShape::kLine,
-                  PlotRole::kModel,
-                  DataPage::tr("Normal density of the same mean and standard deviation"),
-                  {}};
-  const Extended low = std::min(histogram.edges.front(), mean - reach * std_dev);
-  const Extended high = std::max(histogram.edges.back(), mean + reach * std_dev);
-  for (int i = 0; i <= steps; ++i) {
-    const Extended x = low + (high - low) * i / steps;
-    layer.points.emplace_back(static_cast<double>(x),
-                              static_cast<double>(full_precision::NormalPdf(mean, std_dev, x)));
-  }
-  return layer;
-}
-
-// Figures that are too long to be read get an exponent.
-QString Readable(const QString& figure, const QLocale& locale) {
-  constexpr qsizetype most_digits = 32;
-  std::string text = figure.toStdString();
-  if (figure.size() > most_digits) text = Float2Str(Str2Float(text));
-  return QorvexBaseControls::detail::LocalNumber(text, locale);
-}
-
-// The lines of a report, label and figure, in two columns of pairs.
-QList<QStringList> InTwoColumns(const QStringList& lines, const QLocale& locale) {
-  const qsizetype rows = (lines.size() + 1) / 2;
-  QList<QStringList> table(rows);
-  for (qsizetype i = 0; i < lines.size(); ++i) {
-    const QString& line = lines[i];
-    table[i % rows].append(line.section('\t', 0, 0));
-    table[i % rows].append(Readable(line.section('\t', 1), locale));
-  }
-  return table;
 }
 
 // The file as CSV: beside it, or, for the example, where the program runs.
@@ -475,47 +422,11 @@ void DataPage::Refresh() {
   stats_.setDecimalPlaces(decimals_->value());
   stats_.setPopulation(population_->isChecked());
   stats_.setValues(values);
-  report_->SetRows(InTwoColumns(stats_.DescStats(), locale()));
-  RefreshRemark(all.size() - values.size(), values.size());
-  RefreshPlot(values);
-}
-
-// What the report leaves out, of the column and of its figures.
-void DataPage::RefreshRemark(std::size_t empty, std::size_t count) {
-  const auto in_number = [this](std::size_t n, const QString& one, const QString& several) {
-    return n == 1 ? one : several.arg(locale().toString(n));
-  };
-  QStringList remarks;
-  if (empty > 0) {
-    remarks += in_number(empty, tr("without 1 empty cell"), tr("without %1 empty cells"));
-  }
-  const cli::HiddenFigures hidden = cli::HiddenBy(stats_.Results(), count, decimals_->value());
-  if (hidden.count > 0 && hidden.enough_decimals <= decimals_->maximum()) {
-    remarks += in_number(hidden.count, tr("1 figure needs up to %1 decimals"),
-                         tr("%1 figures need up to %2 decimals"))
-                   .arg(hidden.enough_decimals);
-  } else if (hidden.count > 0) {
-    remarks += in_number(hidden.count, tr("1 figure is too small to show a digit"),
-                         tr("%1 figures are too small to show a digit"));
-  }
-  remark_->setText(remarks.join(QStringLiteral("; ")));
+  report_->SetRows(ReportTable(stats_.DescStats(), locale()));
+  remark_->setText(RemarkOn(stats_, all.size() - values.size(), decimals_->maximum(), locale()));
   remark_->setToolTip(ToolTipOf(remark_->text()));
-}
-
-void DataPage::RefreshPlot(const TQorFloatVector& values) {
-  std::vector<PlotLayer> layers;
-  const Histogram histogram = HistogramOf(values);
-  if (histogram.total > 0) {
-    layers.push_back(Bars(histogram));
-    try {
-      if (stats_.StdDev() > 0)
-        layers.push_back(NormalCurve(histogram, stats_.Mean(), stats_.StdDev()));
-    } catch (const EMathError&) {
-      // Of values whose squares are beyond the range there is no density.
-    }
-  }
   plot_->SetAxisTitles(table_.Title(column_), tr("Density"));
-  plot_->SetLayers(std::move(layers));
+  plot_->SetLayers(HistogramLayers(stats_, values));
 }
 
 }  // namespace qorvex::gallery

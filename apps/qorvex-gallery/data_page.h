@@ -92,8 +92,6 @@ class DataPage : public QWidget {
   [[nodiscard]] int LabelWidth() const;
   void RefreshSoon();
   void Refresh();
-  void RefreshRemark(std::size_t empty, std::size_t count);
-  void RefreshPlot(const TQorFloatVector& values);
 
   DataTable table_;
   QString path_;

@@ -113,6 +113,7 @@ QLayout* RegressionPage::MakeEditors() {
     editor->setBlankWhenNull(true);
     connect(editor, &TQorVectorEdit::OnChange, this, &RegressionPage::RefreshSoon);
     connect(editor, &TQorVectorEdit::OnBlockRefused, message_, &MessageBar::SetText);
+    connect(editor, &TQorVectorEdit::OnTextRefused, message_, &MessageBar::SetText);
   }
   connect(x_, &TQorVectorEdit::OnAfterTopChange, y_,
           [this](quint32 top) { y_->setDisplayTopRow(top); });
