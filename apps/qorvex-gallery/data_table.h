@@ -44,7 +44,7 @@ class DataTable {
   [[nodiscard]] QString RowName(std::size_t row) const;
 
   /// The numbers of a column, a NaN for each empty cell. Raises InputError, which names line and
-  /// text, for a cell that is no number and for a column that has been read without any.
+  /// text, for a cell that is not a number and for a column that was read without any number.
   [[nodiscard]] TQorFloatVector Numbers(std::size_t column) const;
   /// Changes a cell; NaN empties it. The number that was read brings its own text back.
   void SetNumber(std::size_t row, std::size_t column, Extended number);
@@ -70,7 +70,7 @@ class DataTable {
   std::string input_name_;
   bool has_header_ = false;
   bool first_column_names_rows_ = false;
-  // A name for each column, empty where there is none.
+  // Of each column; empty texts without a header.
   std::vector<std::string> names_;
   // The cells one after the other, row by row, and where each ends.
   std::string text_;

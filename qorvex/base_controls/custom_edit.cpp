@@ -160,7 +160,7 @@ void TQorCustomEdit::ApplyColors() {
 }
 
 QString TQorCustomEdit::ShorterText() const {
-  // What a null shows is no number.
+  // A null shows a text of its own.
   if (Null()) return TextCell::ShorterText();
   const auto local = [this](std::string_view text) { return detail::LocalNumber(text, locale()); };
   return local(FittedFloatText(

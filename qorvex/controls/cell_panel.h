@@ -176,7 +176,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// A block could not be pasted or copied, or a value that was typed could not be kept; the
   /// message says why, and which row is to blame.
   void OnBlockRefused(const QString& message);
-  /// A text that was typed is no number and has been given up; the message names the element and
+  /// A typed text is not a number and has been discarded; the message names the element and
   /// the text.
   void OnTextRefused(const QString& message);
 
