@@ -182,6 +182,9 @@ TEST(Fit, ReportsTheCurveAndWhatItLeaves) {
                "Coefficient of Determination\t1\n");
   ExpectOutput(R"(printf '1 5\n2 3\n3 1\n' | qorvex fit line - --x 1 --y 2 | grep Line)",
                "Regression Line:\t7 - 2 x\n");
+  ExpectOutput(R"(printf '9,9\n1,5\n2,3\n3,1\n' | qorvex fit line - --x 1 --y 2 --header |
+                  grep Line)",
+               "Regression Line:\t7 - 2 x\n");
   // Skipping an empty cell must not pair the values of different rows.
   ExpectOutput(R"(printf '1,2\n,9\n3,\n4,8\n' | qorvex fit line - --x 1 --y 2 --skip-empty |
                   grep -E 'Num|Line')",

@@ -26,6 +26,7 @@ constexpr bool kHasItsLimits = [] {
   using Stored = typename C::StoredType;
   return Limits::is_specialized && Limits::is_signed && Limits::is_exact && !Limits::is_integer &&
          Limits::digits10 == std::numeric_limits<Stored>::digits10 &&
+         Limits::is_modulo && !Limits::traps &&
          Limits::max() == C(std::numeric_limits<Stored>::max()) &&
          Limits::min() == -Limits::min() && Limits::lowest() == Limits::min() &&
          Limits::max() + Limits::epsilon() == Limits::min();
