@@ -51,7 +51,7 @@ struct TableColumn {
 struct Table {
   /// The chosen columns.
   std::vector<TableColumn> columns;
-  /// The cells of the header; empty when there is none.
+  /// The cells of the header; empty without a header.
   std::vector<std::string> header;
 };
 

@@ -113,7 +113,7 @@ TYPED_TEST(ReductionOf, WritesZerosInFrontOfThePivotsAndBesideTheOnesOfAnInverte
     QorTolerance = 2e3L * std::numeric_limits<T>::epsilon();
     EXPECT_TRUE(MatrixIsIdentity(product));
 
-    // Two rows make a third. Rounding in T may still leave a pivot that is none.
+    // Two rows make a third. Rounding in T may leave a small pivot where exact arithmetic has zero.
     QorTolerance = 1e5L * std::numeric_limits<T>::epsilon();
     matrix = CopyMatrix(given);
     for (std::size_t j = 0; j < order; ++j) matrix[order - 1][j] = matrix[0][j] - matrix[1][j];
@@ -132,7 +132,7 @@ TYPED_TEST(ReductionOf, WritesZerosInFrontOfThePivotsAndBesideTheOnesOfAnInverte
   }
 }
 
-// A matrix with zeros outside its diagonal and a full one, with one element that is no number.
+// A diagonal matrix and a full one, each with one element that is NaN or infinite.
 TYPED_TEST(ReductionOf, RefusesNaNAndInfinityWhereverTheyAre) {
   using T = TypeParam;
   constexpr T values[] = {std::numeric_limits<T>::quiet_NaN(), std::numeric_limits<T>::infinity(),

@@ -8,7 +8,7 @@
 
 namespace qorvex::inline QorvexBaseControls::detail {
 
-/// The object of this class and name in the same window; nothing when there is none. Where a window
+/// The object of this class and name in the same window, or a null pointer. Where a window
 /// holds a form more than once, each copy finds its own: the nearest ancestor with such a
 /// descendant decides.
 template <class Object>
