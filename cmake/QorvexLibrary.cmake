@@ -37,24 +37,20 @@ function(qorvex_precompile_qt target)
     <algorithm> <functional> <memory> <vector>)
 endfunction()
 
-# qorvex_library(<component> HEADERS <files> SOURCES <files> LINK_PUBLIC <targets> LINK_PRIVATE <targets>)
-# defines libqorvex_<component>_rt and its alias Qorvex::<component>, ready to install. A component that ends in
-# _rt keeps its name, so stats_rt becomes libqorvex_stats_rt.
+# qorvex_library(<component> [LINK_PUBLIC <targets>]) defines libqorvex_<component>_rt and its alias Qorvex::<component>,
+# ready to install; its rooms add their sources. A component that ends in _rt keeps its name, so stats_rt becomes
+# libqorvex_stats_rt.
 #
 # The shared-object version is major.minor while the major version is 0, since every minor release may then
 # change the binary interface; from 1.0 on it is the major version alone.
 function(qorvex_library component)
-  cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINK_PUBLIC;LINK_PRIVATE" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "LINK_PUBLIC" ${ARGN})
   string(REGEX REPLACE "_rt$" "" stem ${component})
   set(target qorvex_${stem}_rt)
-  add_library(${target} ${ARG_SOURCES})
+  add_library(${target})
   add_library(Qorvex::${component} ALIAS ${target})
   qorvex_compile_settings(${target})
-
-  target_sources(${target} PUBLIC FILE_SET HEADERS
-    BASE_DIRS "${PROJECT_SOURCE_DIR}"
-    FILES ${ARG_HEADERS})
-  target_link_libraries(${target} PUBLIC ${ARG_LINK_PUBLIC} PRIVATE ${ARG_LINK_PRIVATE})
+  target_link_libraries(${target} PUBLIC ${ARG_LINK_PUBLIC})
   if(BUILD_SHARED_LIBS)
     set(exports "${PROJECT_SOURCE_DIR}/cmake/exports.map")
     target_link_options(${target} PRIVATE "LINKER:--version-script=${exports}")
@@ -72,4 +68,18 @@ function(qorvex_library component)
     SOVERSION ${soversion}
     VERIFY_INTERFACE_HEADER_SETS ON
     INSTALL_RPATH "$ORIGIN")
+endfunction()
+
+# qorvex_room(<library target> [EXCEPT <headers>]) adds what is in the calling folder and below it to a library: every
+# source, and every header as one to install, but for those in folders called detail.
+function(qorvex_room target)
+  cmake_parse_arguments(ARG "" "" "EXCEPT" ${ARGN})
+  file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")
+  file(GLOB_RECURSE headers CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.h")
+  list(FILTER headers EXCLUDE REGEX "/detail/")
+  list(TRANSFORM ARG_EXCEPT PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
+  list(REMOVE_ITEM headers "" ${ARG_EXCEPT})
+  target_sources(${target}
+    PRIVATE ${sources}
+    PUBLIC FILE_SET HEADERS BASE_DIRS "${PROJECT_SOURCE_DIR}" FILES ${headers})
 endfunction()

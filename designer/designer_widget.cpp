@@ -10,7 +10,7 @@
 #include <QXmlStreamWriter>
 #include <algorithm>
 
-#include "qorvex/controls/component_holder.h"
+#include "qorvex/components/component_holder.h"
 
 namespace qorvex {
 namespace {

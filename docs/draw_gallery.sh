@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 scripts/setup.sh programs qorvex-gallery
-gallery=build/release/apps/qorvex-gallery/qorvex-gallery
+gallery=build/release/bin/qorvex-gallery
 images=docs/images/gallery
 dark=$(mktemp -d)
 trap 'rm -r "$dark"' EXIT

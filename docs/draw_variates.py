@@ -3,7 +3,7 @@
 
 Needs the Debian package python3-matplotlib, which nothing else here does, and the built program:
 
-    docs/draw_variates.py [--program build/release/apps/qorvex] [--format svg] [--folder docs/images]
+    docs/draw_variates.py [--program build/release/bin/qorvex] [--format svg] [--folder docs/images]
 
 The same program and the same matplotlib write the same files again.
 """
@@ -137,7 +137,7 @@ PICTURES = [
 def main():
     root = pathlib.Path(__file__).resolve().parent.parent
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--program", default=root / "build/release/apps/qorvex")
+    parser.add_argument("--program", default=root / "build/release/bin/qorvex")
     parser.add_argument("--format", default="svg")
     parser.add_argument("--folder", type=pathlib.Path, default=root / "docs/images")
     options = parser.parse_args()

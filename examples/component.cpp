@@ -4,7 +4,7 @@
 #include <iostream>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/stats/QorvexDescStats.h"
+#include "qorvex/components/QorvexDescStats.h"
 
 int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);

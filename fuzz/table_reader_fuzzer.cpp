@@ -12,14 +12,14 @@
 #include <string_view>
 #include <vector>
 
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/matrix_reader.h"
-#include "apps/qorvex/row_reader.h"
-#include "apps/qorvex/table_reader.h"
+#include "apps/common/input_error.h"
+#include "apps/common/matrix_reader.h"
+#include "apps/common/row_reader.h"
+#include "apps/common/table_reader.h"
 
 namespace {
 
-using namespace qorvex::cli;
+using namespace qorvex::apps;
 
 void Require(bool condition, const char* what) {
   if (condition) return;

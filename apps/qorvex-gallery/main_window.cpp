@@ -12,11 +12,11 @@
 #include <QUrl>
 
 #include "apps/qorvex-gallery/appearance.h"
-#include "apps/qorvex-gallery/data_page.h"
-#include "apps/qorvex-gallery/distribution_page.h"
-#include "apps/qorvex-gallery/matrix_page.h"
-#include "apps/qorvex-gallery/random_page.h"
-#include "apps/qorvex-gallery/regression_page.h"
+#include "apps/qorvex-gallery/pages/data_page.h"
+#include "apps/qorvex-gallery/pages/distribution_page.h"
+#include "apps/qorvex-gallery/pages/matrix_page.h"
+#include "apps/qorvex-gallery/pages/random_page.h"
+#include "apps/qorvex-gallery/pages/regression_page.h"
 #include "qorvex/base/version.h"
 
 namespace qorvex::gallery {

@@ -8,8 +8,8 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "apps/qorvex-gallery/data_page.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/widgets/background_task.h"
 
 namespace qorvex::gallery {

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <string_view>
 
-#include "apps/qorvex/input_error.h"
+#include "apps/common/input_error.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 const char* const kTextHelp = R"(
   The delimiter is the comma, semicolon or tab (the first of these three that the
@@ -83,4 +83,4 @@ void RequireOneCommand(CLI::App& app, const std::string& name) {
   });
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

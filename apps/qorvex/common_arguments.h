@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// What a --help says about delimiters, quotes, encodings and numbers.
 extern const char* const kTextHelp;
@@ -33,4 +33,4 @@ void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::str
 /// name.
 void RequireOneCommand(CLI::App& app, const std::string& name);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

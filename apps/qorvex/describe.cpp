@@ -11,13 +11,13 @@
 #include <utility>
 #include <vector>
 
-#include "apps/qorvex/cells.h"
+#include "apps/common/cells.h"
+#include "apps/common/hidden_figures.h"
+#include "apps/common/input_error.h"
+#include "apps/common/json_writer.h"
+#include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/hidden_figures.h"
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/table_arguments.h"
-#include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/currency_text.h"
@@ -26,7 +26,7 @@
 #include "qorvex/stats/descriptive_stats.h"
 #include "qorvex/vector/QorvexFinVector.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -255,4 +255,4 @@ void AddDescribe(CLI::App& program) {
   command.callback([arguments] { Describe(*arguments); });
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

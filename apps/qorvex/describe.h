@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// Adds the command `describe`: the descriptive statistics of columns of numbers.
 void AddDescribe(CLI::App& program);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

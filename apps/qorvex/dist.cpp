@@ -10,14 +10,14 @@
 #include <utility>
 #include <vector>
 
+#include "apps/common/distributions.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/distributions.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -321,4 +321,4 @@ void AddDist(CLI::App& program) {
   RequireOneCommand(dist, "A distribution");
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

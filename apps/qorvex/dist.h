@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// Adds the command `dist`: probabilities, densities and quantiles of distributions.
 void AddDist(CLI::App& program);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -9,18 +9,18 @@
 #include <utility>
 #include <vector>
 
+#include "apps/common/input_error.h"
+#include "apps/common/json_writer.h"
+#include "apps/common/pair_fit.h"
+#include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/json_writer.h"
-#include "apps/qorvex/pair_fit.h"
 #include "apps/qorvex/table_arguments.h"
-#include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -167,4 +167,4 @@ void AddFit(CLI::App& program) {
   RequireOneCommand(fit, "A command of fit");
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// Adds the command `fit`, whose commands fit a line or a parabola to two columns of a table.
 void AddFit(CLI::App& program);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -6,16 +6,16 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/input_error.h"
 #include "apps/qorvex/describe.h"
 #include "apps/qorvex/dist.h"
 #include "apps/qorvex/fit.h"
-#include "apps/qorvex/input_error.h"
 #include "apps/qorvex/matrix.h"
 #include "apps/qorvex/random.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/version.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -100,10 +100,10 @@ int Run(int argc, char** argv) {
 
 }  // namespace
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps
 
 int main(int argc, char** argv) {
-  using namespace qorvex::cli;
+  using namespace qorvex::apps;
   try {
     return Run(argc, argv);
   } catch (const InputError& error) {

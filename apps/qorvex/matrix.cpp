@@ -8,18 +8,18 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/input_error.h"
+#include "apps/common/matrix_reader.h"
+#include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/input_error.h"
 #include "apps/qorvex/matrix_operations.h"
-#include "apps/qorvex/matrix_reader.h"
-#include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/matrix/shape.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -160,4 +160,4 @@ void AddMatrix(CLI::App& program) {
   RequireOneCommand(matrix, "A command of matrix");
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -6,7 +6,7 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/matrix/QorvexMatrix.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -116,4 +116,4 @@ std::span<const MatrixOperation> MatrixOperations() {
   return kOperations;
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -8,7 +8,7 @@
 
 #include "qorvex/base/vector_types.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 using Matrices = std::vector<TQorFloatMatrix>;
 
@@ -31,4 +31,4 @@ struct MatrixOperation {
 /// The commands in the order of --help.
 [[nodiscard]] std::span<const MatrixOperation> MatrixOperations();
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -2,7 +2,7 @@
 
 #include "qorvex/base/text.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 Extended ParseNumber(const std::string& option, const std::string& text, NumberKind kind) {
   Extended value = 0;
@@ -24,4 +24,4 @@ InputError Refusal(const std::string& name, const EMathError& error, const std::
   return {overflow ? InputFault::kOutOfRange : InputFault::kNoResult, name, what + remark};
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -6,12 +6,12 @@
 #include <CLI/CLI.hpp>
 #include <string>
 
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/number_parameter.h"
+#include "apps/common/input_error.h"
+#include "apps/common/number_parameter.h"
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/errors.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// The number of the given kind that was passed to an option.
 [[nodiscard]] Extended ParseNumber(const std::string& option, const std::string& text,
@@ -35,4 +35,4 @@ CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::
 [[nodiscard]] InputError Refusal(const std::string& name, const EMathError& error,
                                  const std::string& remark);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -9,15 +9,15 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/variates.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
-#include "apps/qorvex/variates.h"
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/random.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -168,4 +168,4 @@ void AddRandom(CLI::App& program) {
   RequireOneCommand(random, "A variate");
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -2,9 +2,9 @@
 
 #include <CLI/CLI.hpp>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// Adds the command `random`: random variates.
 void AddRandom(CLI::App& program);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

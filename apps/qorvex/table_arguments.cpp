@@ -5,13 +5,13 @@
 #include <string_view>
 #include <utility>
 
-#include "apps/qorvex/cells.h"
+#include "apps/common/cells.h"
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/text_input.h"
 #include "apps/qorvex/text_output.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -128,4 +128,4 @@ std::vector<TableColumn> TableArguments::Read() const {
   }
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "apps/qorvex/table_reader.h"
+#include "apps/common/table_reader.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// What every --help of a command that reads a table says about tables.
 [[nodiscard]] std::string TableHelp();
@@ -31,4 +31,4 @@ struct TableArguments {
   [[nodiscard]] std::vector<TableColumn> Read() const;
 };
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -6,7 +6,7 @@
 
 #include "qorvex/base/text.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -43,4 +43,4 @@ void WriteRemark(std::string_view text) {
   static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -10,7 +10,7 @@
 
 #include "qorvex/base/element_types.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// A figure with that many decimals, or the shortest text that keeps all its bits.
 [[nodiscard]] std::string FigureText(Extended figure, std::optional<int> decimals);
@@ -29,4 +29,4 @@ void WritePart(std::string_view text);
 /// Writes one line to standard error, after the program's name.
 void WriteRemark(std::string_view text);
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

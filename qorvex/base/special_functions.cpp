@@ -6,19 +6,19 @@
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
-#include "qorvex/base/detail/boost_math.h"
-#include "qorvex/base/detail/regularised_beta.h"
-#include "qorvex/base/detail/shape_range.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/regularised_beta.h"
+#include "qorvex/base/special/shape_range.h"
 
 namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
-using detail::Evaluate;
-using detail::IsShapeOutOfRange;
-using detail::kBoostPolicy;
-using detail::kLargestShape;
+using special::Evaluate;
+using special::IsShapeOutOfRange;
+using special::kBoostPolicy;
+using special::kLargestShape;
 
 // Raises unless value is in [0, 1] and the shapes are in range; NaN passes.
 void RequireUnitAndShapes(Extended value, Extended a, Extended b) {
@@ -48,22 +48,22 @@ Extended LnGamma(Extended x) {
 Extended Beta(Extended a, Extended b) {
   if (std::isnan(a) || std::isnan(b)) return a + b;
   if (a <= 0 || b <= 0 || a > kLargestShape || b > kLargestShape) throw EInvalidOp();
-  return CheckedFinite((detail::Scaled() / detail::RegularisedBeta(a, b).InverseBeta()).Value());
+  return CheckedFinite((special::Scaled() / special::RegularisedBeta(a, b).InverseBeta()).Value());
 }
 
 Extended IncompleteBeta(Extended x, Extended a, Extended b) {
   if (std::isnan(x) || std::isnan(a) || std::isnan(b)) return x + a + b;
   RequireUnitAndShapes(x, a, b);
   if (x == 0 || x == 1) return x;
-  const detail::Odds odds{x, detail::ExactSum(1, -x)};
-  return detail::RegularisedBeta(a, b).At(odds).Probability(detail::Tail::kLower);
+  const special::Odds odds{x, special::ExactSum(1, -x)};
+  return special::RegularisedBeta(a, b).At(odds).Probability(special::Tail::kLower);
 }
 
 Extended InverseIncompleteBeta(Extended p, Extended a, Extended b) {
   if (std::isnan(p) || std::isnan(a) || std::isnan(b)) return p + a + b;
   RequireUnitAndShapes(p, a, b);
   if (p == 0 || p == 1) return p;
-  return detail::FromOdds(detail::RegularisedBeta(a, b).QuantileOdds(detail::Tail::kLower, p));
+  return special::FromOdds(special::RegularisedBeta(a, b).QuantileOdds(special::Tail::kLower, p));
 }
 
 Extended InverseErfc(Extended y) {

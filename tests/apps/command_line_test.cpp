@@ -8,7 +8,7 @@
 #include "apps/shell.h"
 #include "qorvex/base/version.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 TEST(Describe, ReportsColumnsOneBelowTheOther) {
   // By hand: mean 5, squares about it 32; the third and fourth moments about it are 42/8 and 356/8.
@@ -311,4 +311,4 @@ TEST(Documentation, ShowsWhatTheProgramPrints) {
   for (const auto& [command, output] : examples) EXPECT_EQ(Shell(command), output) << command;
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

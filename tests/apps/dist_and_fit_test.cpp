@@ -6,7 +6,7 @@
 
 #include "apps/shell.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 TEST(Dist, AnswersForEveryDistribution) {
   for (const auto& [question, answer] : {
@@ -258,4 +258,4 @@ TEST(Fit, RefusesBadInputWithStatusTwo) {
   }
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -1,9 +1,9 @@
-#include "apps/qorvex/json_writer.h"
+#include "apps/common/json_writer.h"
 
 #include <gtest/gtest.h>
 #include <limits>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 TEST(JsonWriter, NestsValuesAndKeepsTheirBits) {
   using Limits = std::numeric_limits<Extended>;
@@ -58,4 +58,4 @@ TEST(JsonWriter, EscapesStringsAndReplacesWhatIsNotUtf8) {
   }
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -1,11 +1,11 @@
-#include "apps/qorvex/matrix_reader.h"
+#include "apps/common/matrix_reader.h"
 
 #include <gtest/gtest.h>
 
 #include "apps/text_source.h"
 #include "qorvex/base/text.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 namespace {
 
 using Cases = std::initializer_list<ReadingCase<MatrixLayout>>;
@@ -63,4 +63,4 @@ TEST(MatrixReader, SaysWhatIsWrongAndWhere) {
 }
 
 }  // namespace
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

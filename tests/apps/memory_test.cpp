@@ -5,7 +5,7 @@
 
 #include "apps/shell.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 // The largest resident size, in bytes, of all processes that have been run so far.
 long PeakAfter(const std::string& command) {
@@ -30,4 +30,4 @@ TEST(Memory, StaysBelow56BytesAValue) {
   RecordProperty("one_column", std::to_string(one_column));
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

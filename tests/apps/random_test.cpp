@@ -13,7 +13,7 @@
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 // Parameters that differ from one another, so that none can stand for another.
 TEST(RandomCommand, PrintsTheLibrarysVariatesOfTheSeed) {
@@ -139,4 +139,4 @@ TEST(RandomCommand, RefusesWhatTheRoutineRefuses) {
   }
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

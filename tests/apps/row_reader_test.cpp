@@ -1,4 +1,4 @@
-#include "apps/qorvex/row_reader.h"
+#include "apps/common/row_reader.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include "apps/text_source.h"
 #include "qorvex/base/text.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 namespace {
 
 using Case = ReadingCase<std::optional<char>>;
@@ -122,4 +122,4 @@ TEST(RowReader, ReadsBackRandomTables) {
 }
 
 }  // namespace
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

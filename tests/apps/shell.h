@@ -4,7 +4,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// What a shell command prints, on standard output and standard error together. It runs with the
 /// built program on the path, in the folder of the example data.
@@ -30,4 +30,4 @@ inline void ExpectRefusal(const std::string& command, const std::string& message
   ExpectOutput(command, "qorvex: " + message + "\nexit status 2\n");
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

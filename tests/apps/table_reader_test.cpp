@@ -1,11 +1,11 @@
-#include "apps/qorvex/table_reader.h"
+#include "apps/common/table_reader.h"
 
 #include <gtest/gtest.h>
 
 #include "apps/text_source.h"
 #include "qorvex/base/text.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 namespace {
 
 using Cases = std::initializer_list<ReadingCase<TableSelection>>;
@@ -85,4 +85,4 @@ TEST(TableReader, CutsLongTextInMessagesBetweenCharacters) {
 }
 
 }  // namespace
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -4,10 +4,10 @@
 #include <string>
 #include <utility>
 
-#include "apps/qorvex/input_error.h"
-#include "apps/qorvex/text_input.h"
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 /// An input that gives a text, three bytes at a time.
 inline TextInput SourceOf(std::string text) {
@@ -37,4 +37,4 @@ std::string ResultOrError(Read read) {
   }
 }
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

@@ -2,7 +2,7 @@
 // four checks fail at p < 1e-6 each: another engine, or a change of a stream, would raise a false
 // alarm with a probability of 5e-5. With the fixed seed the outcome is always the same.
 
-#include "apps/qorvex/variates.h"
+#include "apps/common/variates.h"
 
 #include <cmath>
 
@@ -13,7 +13,7 @@
 #include "random/distribution_battery.h"
 #include "random/scripted_source.h"
 
-namespace qorvex::cli {
+namespace qorvex::apps {
 
 namespace {
 
@@ -141,4 +141,4 @@ TEST(UnlimitedVariates, AreTheClassicOnesElsewhereAndOnRequest) {
 
 }  // namespace
 
-}  // namespace qorvex::cli
+}  // namespace qorvex::apps

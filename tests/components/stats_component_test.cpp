@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "qorvex/base/version.h"
-#include "qorvex/stats/QorvexDescStats.h"
+#include "qorvex/components/QorvexDescStats.h"
 #include "support/test.h"
 
 namespace qorvex {

@@ -6,12 +6,12 @@
 #include <memory>
 
 #include "qorvex/base_controls/fract_edit.h"
+#include "qorvex/components/desc_stats_holder.h"
+#include "qorvex/components/uictrl_holder.h"
 #include "qorvex/controls/QorvexMathLabel.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
-#include "qorvex/controls/desc_stats_holder.h"
-#include "qorvex/controls/uictrl_holder.h"
 #include "support/test.h"
 #include "ui_by_name.h"
 #include "ui_form.h"

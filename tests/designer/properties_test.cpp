@@ -5,11 +5,11 @@
 
 #include "changed_value.h"
 #include "qorvex/base_controls/fract_edit.h"
+#include "qorvex/components/desc_stats_holder.h"
+#include "qorvex/components/uictrl_holder.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
-#include "qorvex/controls/desc_stats_holder.h"
-#include "qorvex/controls/uictrl_holder.h"
 #include "support/test.h"
 
 namespace qorvex {

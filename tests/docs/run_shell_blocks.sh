@@ -10,7 +10,7 @@ failures=0
 # By document and first line.
 declare -A cannot_run=(
   ["README.md: ./run "]="CI runs both in a bare system"
-  ["docs/gallery.md: build/release/apps/qorvex-gallery/qorvex-gallery "]="needs a display"
+  ["docs/gallery.md: build/release/bin/qorvex-gallery "]="needs a display"
   ["docs/controls/designer.md: QT_PLUGIN_PATH="]="needs a display"
   ["docs/performance.md: scripts/setup.sh benchmarks"]="measures for half an hour, beside libraries that tests do not need"
 )

@@ -15,7 +15,7 @@ namespace {
 
 // Numbers to start from where the parameter has none of its own, chosen for a curve that shows
 // something.
-Extended StartNumber(const cli::NumberParameter& parameter) {
+Extended StartNumber(const apps::NumberParameter& parameter) {
   if (parameter.standard) return *parameter.standard;
   static constexpr struct {
     std::string_view option;
@@ -26,14 +26,14 @@ Extended StartNumber(const cli::NumberParameter& parameter) {
   for (const auto& start : kStarts) {
     if (start.option == parameter.option) return start.number;
   }
-  return parameter.kind >= cli::NumberKind::kSteps ||
-                 parameter.kind == cli::NumberKind::kDegreesOfFreedom
+  return parameter.kind >= apps::NumberKind::kSteps ||
+                 parameter.kind == apps::NumberKind::kDegreesOfFreedom
              ? 5
              : 2;
 }
 
 // "The lower end of the support. Default: 0" as a label: "Lower end of the support".
-QString LabelOf(const cli::NumberParameter& parameter) {
+QString LabelOf(const apps::NumberParameter& parameter) {
   QString text = QString::fromUtf8(parameter.description);
   text = text.section(QStringLiteral(". "), 0, 0);
   if (text.startsWith(QStringLiteral("The "))) text = Title(text.mid(4));
@@ -52,12 +52,12 @@ ParameterForm::ParameterForm(QWidget* parent)
 
 ParameterForm::~ParameterForm() = default;
 
-void ParameterForm::SetParameters(std::span<const cli::NumberParameter> parameters) {
+void ParameterForm::SetParameters(std::span<const apps::NumberParameter> parameters) {
   for (const Row& row : rows_) delete row.holder;
   rows_.clear();
   inconsistency_->hide();
   auto* const layout = static_cast<QVBoxLayout*>(this->layout());
-  for (const cli::NumberParameter& parameter : parameters) {
+  for (const apps::NumberParameter& parameter : parameters) {
     auto* const holder = new QWidget(this);
     auto* const lines = new QVBoxLayout(holder);
     lines->setContentsMargins(0, 0, 0, 0);
@@ -84,7 +84,7 @@ std::optional<std::vector<Extended>> ParameterForm::Numbers() {
   bool all_fine = true;
   for (const Row& row : rows_) {
     numbers.push_back(row.cell->Value());
-    const char* const wrong = cli::WhatIsWrong(numbers.back(), row.parameter->kind);
+    const char* const wrong = apps::WhatIsWrong(numbers.back(), row.parameter->kind);
     row.message->Say(wrong == nullptr ? QString() : ExactText(numbers.back()) + ' ' + tr(wrong));
     if (wrong != nullptr) all_fine = false;
   }

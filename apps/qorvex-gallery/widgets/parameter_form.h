@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/qorvex/number_parameter.h"
+#include "apps/common/number_parameter.h"
 
 class QFormLayout;
 class QLabel;
@@ -34,7 +34,7 @@ class ParameterForm : public QWidget {
   ~ParameterForm() override;
 
   /// Cells for these parameters, which have to outlive the form, with numbers to start from.
-  void SetParameters(std::span<const cli::NumberParameter> parameters);
+  void SetParameters(std::span<const apps::NumberParameter> parameters);
 
   /// The numbers in order; nothing while one of them is refused, which the form shows.
   [[nodiscard]] std::optional<std::vector<Extended>> Numbers();
@@ -52,7 +52,7 @@ class ParameterForm : public QWidget {
 
  private:
   struct Row {
-    const cli::NumberParameter* parameter;
+    const apps::NumberParameter* parameter;
     QWidget* holder;
     TQorFloatEdit* cell;
     MessageLabel* message;

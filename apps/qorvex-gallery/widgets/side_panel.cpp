@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "apps/qorvex-gallery/heading.h"
+#include "apps/qorvex-gallery/widgets/heading.h"
 
 namespace qorvex::gallery {
 

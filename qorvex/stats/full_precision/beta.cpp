@@ -18,7 +18,7 @@ void Check(Extended a, Extended b) {
 }
 
 Odds OddsOf(Extended x) {
-  return {x, QorvexGlobals::detail::ExactSum(1, -x)};
+  return {x, special::ExactSum(1, -x)};
 }
 
 Tails TailsAt(Extended a, Extended b, Extended x) {

@@ -17,7 +17,7 @@ void Check(Extended p) {
 }
 
 ExtendedPair Complement(Extended p) {
-  return QorvexGlobals::detail::ExactSum(1, -p);
+  return special::ExactSum(1, -p);
 }
 
 Tails TailsAt(Extended p, std::uint32_t n, std::uint32_t k) {

@@ -1,4 +1,4 @@
-#include "apps/qorvex-gallery/data_page.h"
+#include "apps/qorvex-gallery/pages/data_page.h"
 
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -20,8 +20,8 @@
 
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/table_input.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
-#include "apps/qorvex-gallery/table_input.h"
 
 namespace qorvex::gallery {
 namespace {

@@ -1,4 +1,4 @@
-#include "apps/qorvex-gallery/data_table.h"
+#include "apps/qorvex-gallery/model/data_table.h"
 
 #include <cmath>
 #include <gtest/gtest.h>
@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "apps/qorvex/input_error.h"
+#include "apps/common/input_error.h"
 #include "apps/text_source.h"
 
 namespace qorvex::gallery {
@@ -16,7 +16,7 @@ namespace {
 constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
 
 DataTable TableOf(const std::string& text) {
-  return DataTable(cli::SourceOf(text));
+  return DataTable(apps::SourceOf(text));
 }
 
 std::string Csv(const DataTable& table) {
@@ -55,7 +55,7 @@ TEST(DataTable, NamesTheLineOfACellThatIsNoNumber) {
   try {
     static_cast<void>(table.Numbers(1));
     FAIL();
-  } catch (const cli::InputError& error) {
+  } catch (const apps::InputError& error) {
     EXPECT_STREQ(error.what(), "data.csv:2: column 2 (b): \"two\\nlines\" is not a number");
   }
   EXPECT_EQ(table.Numbers(0).size(), 3U);

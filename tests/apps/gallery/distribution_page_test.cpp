@@ -1,4 +1,4 @@
-#include "apps/qorvex-gallery/distribution_page.h"
+#include "apps/qorvex-gallery/pages/distribution_page.h"
 
 #include <QComboBox>
 

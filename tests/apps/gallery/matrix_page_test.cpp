@@ -1,4 +1,4 @@
-#include "apps/qorvex-gallery/matrix_page.h"
+#include "apps/qorvex-gallery/pages/matrix_page.h"
 
 #include <QPushButton>
 #include <QSpinBox>

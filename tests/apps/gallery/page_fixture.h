@@ -9,7 +9,7 @@
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
 
-#include "apps/qorvex-gallery/message_bar.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 
 namespace qorvex::gallery {

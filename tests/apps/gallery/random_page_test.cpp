@@ -1,4 +1,4 @@
-#include "apps/qorvex-gallery/random_page.h"
+#include "apps/qorvex-gallery/pages/random_page.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -8,7 +8,7 @@
 #include <cmath>
 
 #include "apps/gallery/cells_and_remarks.h"
-#include "apps/qorvex-gallery/variate_theory.h"
+#include "apps/qorvex-gallery/model/variate_theory.h"
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/random.h"
 #include "qorvex/base/text.h"
@@ -21,8 +21,8 @@ bool GoOn(std::size_t, std::size_t) {
   return true;
 }
 
-const cli::Variate& VariateOf(std::string_view name) {
-  for (const cli::Variate& variate : cli::Variates()) {
+const apps::Variate& VariateOf(std::string_view name) {
+  for (const apps::Variate& variate : apps::Variates()) {
     if (variate.name == name) return variate;
   }
   throw std::invalid_argument("no such variate");
@@ -57,7 +57,7 @@ TEST(RandomSample, AgreesWithTheTheory) {
       {"von-mises", {50}},
   };
   for (const auto& c : cases) {
-    const cli::Variate& variate = VariateOf(c.variate);
+    const apps::Variate& variate = VariateOf(c.variate);
     const RandomSample sample = DrawSample({&variate, c.parameters, 40000, 1}, GoOn);
     const VariateTheory theory = TheoryOf(variate, c.parameters);
     if (theory.mean) {

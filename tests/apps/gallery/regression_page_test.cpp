@@ -1,4 +1,4 @@
-#include "apps/qorvex-gallery/regression_page.h"
+#include "apps/qorvex-gallery/pages/regression_page.h"
 
 #include <QSpinBox>
 #include <cmath>

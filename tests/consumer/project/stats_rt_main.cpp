@@ -1,5 +1,5 @@
 #include <QVariant>
-#include <qorvex/stats/QorvexDescStats.h>
+#include <qorvex/components/QorvexDescStats.h>
 
 // In the second translation unit: gives the component its lines and counts how often it was
 // updated.

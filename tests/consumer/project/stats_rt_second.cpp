@@ -1,4 +1,4 @@
-#include <qorvex/stats/QorvexDescStats.h>
+#include <qorvex/components/QorvexDescStats.h>
 
 int Fill(qorvex::TQorDescStats& stats, const QStringList& lines) {
   int updates = 0;

@@ -7,30 +7,30 @@
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
-#include "qorvex/base/detail/normal_tail.h"
-#include "qorvex/base/detail/regularised_beta.h"
-#include "qorvex/base/detail/regularised_gamma.h"
-#include "qorvex/base/detail/shape_range.h"
-#include "qorvex/base/detail/tails.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/base/special/normal_tail.h"
+#include "qorvex/base/special/regularised_beta.h"
+#include "qorvex/base/special/regularised_gamma.h"
+#include "qorvex/base/special/shape_range.h"
+#include "qorvex/base/special/tails.h"
 
 namespace qorvex::full_precision::detail {
 
-using QorvexGlobals::detail::ExtendedPair;
-using QorvexGlobals::detail::FactorialOf;
-using QorvexGlobals::detail::FromOdds;
-using QorvexGlobals::detail::Ln;
-using QorvexGlobals::detail::LnOfRatio;
-using QorvexGlobals::detail::NormalDensity;
-using QorvexGlobals::detail::NormalUpperTail;
-using QorvexGlobals::detail::Odds;
-using QorvexGlobals::detail::Power;
-using QorvexGlobals::detail::RegularisedBeta;
-using QorvexGlobals::detail::RegularisedGamma;
-using QorvexGlobals::detail::Scaled;
-using QorvexGlobals::detail::SquareRoot;
-using QorvexGlobals::detail::Tail;
-using QorvexGlobals::detail::Tails;
+using special::ExtendedPair;
+using special::FactorialOf;
+using special::FromOdds;
+using special::Ln;
+using special::LnOfRatio;
+using special::NormalDensity;
+using special::NormalUpperTail;
+using special::Odds;
+using special::Power;
+using special::RegularisedBeta;
+using special::RegularisedGamma;
+using special::Scaled;
+using special::SquareRoot;
+using special::Tail;
+using special::Tails;
 
 inline constexpr Extended kLargest = std::numeric_limits<Extended>::max();
 inline constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
@@ -61,7 +61,7 @@ inline void RequireFinite(Extended parameter) {
 
 /// Raises EInvalidOp for a shape beyond the range of the methods.
 inline void RequireShape(Extended shape) {
-  if (QorvexGlobals::detail::IsShapeOutOfRange(shape)) throw EInvalidOp();
+  if (special::IsShapeOutOfRange(shape)) throw EInvalidOp();
 }
 
 /// The tails below the whole of a distribution, or at its lower end.

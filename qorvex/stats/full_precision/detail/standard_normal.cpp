@@ -31,7 +31,7 @@ ExtendedPair RefinedNormalQuantile(Tail tail, Extended p) {
   // One step of Newton's method.
   const Scaled upper = NormalUpperTail(z);
   const Extended error = (upper.Value() - p) / NormalDensity(z, 1).Value();
-  const ExtendedPair refined = QorvexGlobals::detail::OrderedSum(z, error);
+  const ExtendedPair refined = special::OrderedSum(z, error);
   return tail == Tail::kUpper ? refined : -refined;
 }
 

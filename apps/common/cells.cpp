@@ -1,0 +1,102 @@
+#include "apps/common/cells.h"
+
+#include <cmath>
+
+#include "qorvex/base/currency_text.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+[[noreturn]] void FailAt(const CellPlace& place, InputFault fault, const std::string& what) {
+  throw InputError(fault, place.input, place.line,
+                   ColumnTitle(place.column, place.column_name) + ": " + what);
+}
+
+[[noreturn]] void RefuseAmount(std::string_view cell, const CellPlace& place) {
+  FailAt(place, InputFault::kNotANumber,
+         Excerpt(cell) + " is not an amount: digits with at most four decimals");
+}
+
+// Whether the cell, if it is a number, is one that Str2Currency does not round.
+bool IsWrittenAsAmount(std::string_view cell) {
+  if (cell.find_first_of("eE") != std::string_view::npos) return false;
+  const std::size_t point = cell.find('.');
+  return point == std::string_view::npos ||
+         cell.find_last_of("0123456789") <= point + Currency::kDecimals;
+}
+
+}  // namespace
+
+bool IsNumber(std::string_view text) {
+  try {
+    static_cast<void>(Str2Float(text));
+  } catch (const EConvertError& error) {
+    return error.message_id() == rsNumberTooLarge;
+  }
+  return true;
+}
+
+bool IsText(std::string_view cell) {
+  return !cell.empty() && !IsNumber(cell);
+}
+
+std::string ColumnTitle(std::size_t number, std::string_view name) {
+  std::string title = "column " + Int2EStr(number);
+  if (!name.empty()) title += " (" + OnOneLine(name) + ')';
+  return title;
+}
+
+std::string Cardinal(std::size_t count, const char* noun) {
+  return Int2EStr(count) + ' ' + noun + (count == 1 ? "" : "s");
+}
+
+Extended NumberIn(std::string_view cell, const CellPlace& place) {
+  if (cell.empty()) RefuseEmptyCell(place);
+  Extended value = 0;
+  try {
+    value = Str2Float(cell);
+  } catch (const EConvertError& error) {
+    if (error.message_id() == rsNumberTooLarge) {
+      FailAt(place, InputFault::kOutOfRange,
+             Excerpt(cell) + " is beyond the range of extended precision");
+    }
+    FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a number");
+  }
+  if (!std::isfinite(value)) {
+    FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a finite number");
+  }
+  return value;
+}
+
+Currency AmountIn(std::string_view cell, const CellPlace& place) {
+  if (cell.empty()) RefuseEmptyCell(place);
+  if (!IsWrittenAsAmount(cell)) RefuseAmount(cell, place);
+  try {
+    return Str2Currency(cell);
+  } catch (const EConvertError& error) {
+    if (error.message_id() != rsNumberTooLarge) RefuseAmount(cell, place);
+  }
+  FailAt(place, InputFault::kOutOfRange, Excerpt(cell) + " is beyond the range of amounts");
+}
+
+void RefuseEmptyCell(const CellPlace& place) {
+  FailAt(place, InputFault::kEmptyCell, "the cell is empty");
+}
+
+void RequireFirstRow(RowReader& rows) {
+  if (rows.Next()) return;
+  throw InputError(InputFault::kNoValues, rows.Name(), "there is nothing to read");
+}
+
+void RequireWidth(const RowReader& rows, std::size_t width, std::size_t first_line) {
+  const std::size_t cells = rows.Cells().size();
+  if (cells == width) return;
+  throw InputError(InputFault::kMalformed, rows.Name(), rows.Line(),
+                   "the row has " + Cardinal(cells, "cell") + " where line " +
+                       Int2EStr(first_line) + " has " + Int2EStr(width));
+}
+
+}  // namespace qorvex::apps

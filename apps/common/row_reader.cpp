@@ -1,0 +1,214 @@
+#include "apps/common/row_reader.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace qorvex::apps {
+
+namespace {
+
+constexpr bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+constexpr std::size_t Index(char c) {
+  return static_cast<unsigned char>(c);
+}
+
+}  // namespace
+
+RowReader::RowReader(TextInput input, std::optional<char> delimiter, std::size_t block_size)
+    : input_(std::move(input)),
+      delimiter_(delimiter),
+      buffer_(std::max<std::size_t>(block_size, 4)) {}
+
+bool RowReader::Next() {
+  if (!std::exchange(started_, true)) Start();
+  for (blank_lines_ = 0; ReadLine(); ++blank_lines_) {
+    if (!cells_.empty()) return true;
+  }
+  return false;
+}
+
+void RowReader::Start() {
+  Refill();
+  const std::string_view text(buffer_.data(), end_);
+  if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
+    FailAt(buffer_.data(), "the text is UTF-16; UTF-8 is needed");
+  }
+  if (text.starts_with("\xEF\xBB\xBF")) begin_ = 3;
+
+  if (!delimiter_) delimiter_ = DetectDelimiter();
+  delimiter_is_blank_ = *delimiter_ == ' ';
+  ends_plain_cell_[Index('\r')] = ends_plain_cell_[Index('\n')] = true;
+  ends_plain_cell_[Index(*delimiter_)] = true;
+  if (delimiter_is_blank_) ends_plain_cell_[Index('\t')] = true;
+}
+
+char RowReader::DetectDelimiter() {
+  bool semicolon = false;
+  bool tab = false;
+  bool in_quotes = false;
+  bool blank_line = true;
+  char previous = '\n';
+  for (std::size_t offset = 0; begin_ + offset < end_ || Refill(); ++offset) {
+    const char c = buffer_[begin_ + offset];
+    // Only at the start of a cell, or right after a quote that it doubles, does a quote open.
+    constexpr std::string_view before_quote = "\n\" \t,;";
+    if (c == '"') {
+      in_quotes = !in_quotes && before_quote.find(previous) != std::string_view::npos;
+    } else if (!in_quotes) {
+      if (c == ',') return ',';
+      if (c == '\n') {
+        if (!blank_line) break;
+        tab = false;
+      }
+      semicolon |= c == ';';
+      tab |= c == '\t';
+    }
+    blank_line &= IsBlank(c) || c == '\r' || c == '\n';
+    previous = c;
+  }
+  if (semicolon) return ';';
+  return tab ? '\t' : ' ';
+}
+
+// Moves the unread bytes to the front and reads until the buffer is full. False at the text's end.
+bool RowReader::Refill() {
+  if (input_ended_) return false;
+  const std::size_t unread = end_ - begin_;
+  std::memmove(buffer_.data(), buffer_.data() + begin_, unread);
+  begin_ = 0;
+  end_ = unread;
+  // One byte is kept for the line end that the last line may lack.
+  if (end_ + 1 == buffer_.size()) {
+    if (buffer_.size() >= kLongestRow) {
+      FailAt(buffer_.data(),
+             "the row is too long (more than 64 MiB); a closing quote may be missing");
+    }
+    buffer_.resize(2 * buffer_.size());
+  }
+  while (!input_ended_ && end_ + 1 < buffer_.size()) {
+    const std::size_t count = input_.read(buffer_.data() + end_, buffer_.size() - 1 - end_);
+    end_ += count;
+    input_ended_ = count == 0;
+  }
+  // After a line that has its own end this adds a blank line, which counts for nothing here.
+  if (input_ended_) buffer_[end_++] = '\n';
+  return true;
+}
+
+// Reads one line, or several when quotes hold line breaks, into cells_; a blank line gives none.
+bool RowReader::ReadLine() {
+  line_ = next_line_;
+  while (!ScanRow()) {
+    if (input_ended_) return false;
+    Refill();
+  }
+  return true;
+}
+
+// False when the row does not end within the buffer. It is then scanned again after a refill: one
+// more row for each block, and one more pass for each doubling of the buffer under a long row.
+bool RowReader::ScanRow() {
+  cells_.clear();
+  cells_with_doubled_quotes_.clear();
+  const char* const row = buffer_.data() + begin_;
+  const char* at = row;
+  bool any_quoted = false;
+  for (;; ++at) {
+    at = SkipBlanks(at);
+    if (at == End()) return false;
+    const bool quoted = *at == '"';
+    any_quoted |= quoted;
+    at = quoted ? ScanQuotedCell(at) : ScanPlainCell(at);
+    if (at == nullptr) return false;
+    if (*at == '\n') break;
+  }
+  ++at;
+  if (cells_.size() == 1 && cells_[0].empty() && !any_quoted) cells_.clear();
+  next_line_ = line_ + (any_quoted ? static_cast<std::size_t>(std::count(row, at, '\n')) : 1);
+  begin_ += static_cast<std::size_t>(at - row);
+  JoinDoubledQuotes();
+  return true;
+}
+
+// The scans give the position of the delimiter or line feed that ends a cell, and append the cell;
+// null, or the buffer's end from EndOfPlainCell, when that is not in the buffer.
+const char* RowReader::EndOfPlainCell(const char* at) const {
+  const char* const end = End();
+  for (;; ++at) {
+    while (at != end && !ends_plain_cell_[Index(*at)]) ++at;
+    if (at == end || *at != '\r') return at;
+    if (at + 1 == end) return end;
+    if (at[1] != '\n') FailAt(at, "a line ends with CR alone; LF or CR LF is needed");
+  }
+}
+
+const char* RowReader::ScanPlainCell(const char* at) {
+  const char* const cell = at;
+  at = EndOfPlainCell(at);
+  if (at == End()) return nullptr;
+
+  std::string_view text(cell, at);
+  if (*at == '\n' && text.ends_with('\r')) text.remove_suffix(1);
+  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  // Blanks before the line end separate no further cell.
+  if (!delimiter_is_blank_ || !text.empty()) cells_.push_back(text);
+  return at;
+}
+
+const char* RowReader::ScanQuotedCell(const char* at) {
+  const char* const quote = at;
+  const char* const end = End();
+  bool doubled = false;
+  for (++at;; at += 2) {
+    at = static_cast<const char*>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
+    if (at == nullptr && input_ended_) FailAt(quote, "the quote is not closed");
+    if (at == nullptr || at + 1 == end) return nullptr;
+    if (at[1] != '"') break;
+    doubled = true;
+  }
+  const std::string_view text(quote + 1, at);
+
+  ++at;
+  if (!delimiter_is_blank_) at = SkipBlanks(at);
+  if (at == end) return nullptr;
+  if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
+  if (*at == '\r' || !ends_plain_cell_[Index(*at)]) {
+    if (ScanPlainCell(at) == nullptr) return nullptr;
+    FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
+  }
+  if (doubled) cells_with_doubled_quotes_.push_back(cells_.size());
+  cells_.push_back(text);
+  return at;
+}
+
+const char* RowReader::SkipBlanks(const char* at) const {
+  const char* const end = End();
+  while (at != end && IsBlank(*at) && (delimiter_is_blank_ || *at != *delimiter_)) ++at;
+  return at;
+}
+
+// In place, once the row is complete and no scan will see its bytes again.
+void RowReader::JoinDoubledQuotes() {
+  for (const std::size_t index : cells_with_doubled_quotes_) {
+    std::string_view& cell = cells_[index];
+    char* const first = buffer_.data() + (cell.data() - buffer_.data());
+    char* out = first;
+    for (std::size_t i = 0; i < cell.size(); ++i) {
+      *out++ = cell[i];
+      if (cell[i] == '"') ++i;
+    }
+    cell = {first, out};
+  }
+}
+
+void RowReader::FailAt(const char* position, const std::string& what) const {
+  const auto lines_before = std::count(buffer_.data() + begin_, position, '\n');
+  throw InputError(InputFault::kMalformed, input_.name,
+                   line_ + static_cast<std::size_t>(lines_before), what);
+}
+
+}  // namespace qorvex::apps

@@ -1,0 +1,81 @@
+#include "apps/common/unlimited_variates.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "qorvex/base/elementary.h"
+#include "qorvex/random/QorvexRandom.h"
+#include "qorvex/stats/full_precision.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+Extended PositiveUniform(UniformSource source) {
+  Extended u = source();
+  while (u == 0) u = source();
+  return u;
+}
+
+// The method draws the cosine f of the angle, which is close to 1 for a large k. So it is 1 - f
+// that is computed here, and r - 1, from h = 1/(2k) instead of k. All are then free of
+// cancellation.
+class WrappedCauchyRejection {
+ public:
+  explicit WrappedCauchyRejection(Extended k) : k_(k) {
+    const Extended h = 0.5L / k;
+    const Extended q_less_1 = h + h * h / (std::sqrt(1 + h * h) + 1);
+    const Extended rho_below_1 = std::sqrt(2 * h * (1 + q_less_1)) - q_less_1;
+    r_less_1_ = rho_below_1 * rho_below_1 / (2 * (1 - rho_below_1));
+  }
+
+  // From 0 to pi.
+  [[nodiscard]] Extended Draw(UniformSource source) const {
+    for (;;) {
+      const Extended half = QorPi / 2 * source();
+      const Extended sine = std::sin(half);
+      const Extended cosine = std::cos(half);
+      const Extended f_below_1 = 2 * r_less_1_ * sine * sine / (r_less_1_ + 2 * cosine * cosine);
+      const Extended c = k_ * (r_less_1_ + f_below_1);
+      const Extended u = source();
+      if (u < c * (2 - c) || u <= c * std::exp(1 - c))
+        return 2 * std::asin(std::sqrt(f_below_1 / 2));
+    }
+  }
+
+ private:
+  Extended k_;
+  Extended r_less_1_;
+};
+
+}  // namespace
+
+Extended DrawStudentT(Extended df, UniformSource source) {
+  constexpr Extended largest_classic = std::numeric_limits<std::int32_t>::max();
+  if (df == 1) return Random_Cauchy(source);
+  if (df >= 3 && df <= largest_classic && df == std::trunc(df))
+    return Random_T(static_cast<std::int32_t>(df), source);
+  const Extended normal = Random_Normal(source);
+  if (df >= 2) return normal / std::sqrt(2 * Random_Gamma(df / 2, source) / df);
+  const Extended gamma = Random_Gamma(df / 2 + 1, source);
+  return normal * std::sqrt(df / (2 * gamma)) * std::pow(PositiveUniform(source), -1 / df);
+}
+
+Extended DrawPoisson(Extended mean, UniformSource source) {
+  if (mean >= 10) return Random_Poisson(mean, source);
+  const Extended u = source();
+  const Extended above = 1 - u;
+  // More than the classic search leaves out.
+  constexpr Extended far_tail = 1e-9L;
+  if (above > far_tail) return Random_Poisson(mean, [u] { return u; });
+  return static_cast<Extended>(full_precision::PoissonUpperQuantile(mean, above));
+}
+
+Extended DrawVonMises(Extended k, UniformSource source) {
+  if (!(k >= 10)) return Random_von_Mises(k, source);
+  const Extended angle = WrappedCauchyRejection(k).Draw(source);
+  return source() < 0.5L ? -angle : angle;
+}
+
+}  // namespace qorvex::apps

@@ -1,0 +1,182 @@
+#include "apps/common/variates.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "apps/common/input_error.h"
+#include "apps/common/unlimited_variates.h"
+#include "qorvex/base/checked_math.h"
+#include "qorvex/base/text.h"
+#include "qorvex/random/QorvexRandom.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+using Arguments = const VariateArguments&;
+using Figures = TQorFloatVector&;
+using Source = UniformSource;
+
+void DrawMultivariateNormal(Arguments a, Figures x, Source s) {
+  TQorFloatVector factor;
+  std::int32_t error = 0;
+  Random_MVNorm(a.List(0), a.List(1), factor, x, error, s);
+  if (error != 0) {
+    throw InputError(InputFault::kNoResult, "multivariate-normal",
+                     "the covariance matrix is not positive definite");
+  }
+}
+
+std::string WhatIsWrongWithCovariance(Arguments a) {
+  const std::size_t n = a.List(0).size();
+  const std::size_t needed = n * (n + 1) / 2;
+  const std::size_t given = a.List(1).size();
+  if (given == needed) return "";
+  return "--covariance: the upper triangle for " + Int2EStr(n) + (n == 1 ? " mean" : " means") +
+         " has " + Int2EStr(needed) + (needed == 1 ? " number" : " numbers") + ", not " +
+         Int2EStr(given);
+}
+
+std::string WhatIsWrongWithSupport(Arguments a) {
+  const char* const wrong = WhatIsWrongWithEnds(a[2], a[3]);
+  return wrong == nullptr ? "" : wrong;
+}
+
+std::string WhatIsWrongWithInversion(Arguments a) {
+  const char* const wrong = WhatIsWrong(a[1], NumberKind::kInt32);
+  return wrong == nullptr
+             ? ""
+             : "--trials: " + Float2EStr(a[1], 0) + ' ' + wrong + ", as --method inversion needs";
+}
+
+std::string WhatIsWrongWithWholeDf(Arguments a) {
+  const char* const wrong = WhatIsWrong(a[0], NumberKind::kInt32);
+  return wrong == nullptr ? "" : "--df: " + Float2Str(a[0]) + ' ' + wrong + ", as --classic needs";
+}
+
+std::vector<Variate> AllVariates() {
+  constexpr auto real = NumberKind::kReal;
+  constexpr auto positive = NumberKind::kPositive;
+  constexpr const char* df = "--df";
+  constexpr const char* of_df = "The degrees of freedom";
+  const NumberParameter location = {"--location", "The median. Default: 0", real, 0};
+  return {
+      {"uniform",
+       "Uniform values, from 0 to below 1",
+       {},
+       {{"", [](Arguments, Figures x, Source s) { x[0] = s(); }}}},
+      {"normal",
+       "Normal variates",
+       {kMean, kStdDev},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Normal(a[0], a[1], s); }}}},
+      {"exponential",
+       "Exponential variates",
+       {{"--mean", "The mean, 1 / rate. Default: 1", positive, 1}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[0] * Random_Exponential(s); }}}},
+      {"gamma",
+       "Gamma variates",
+       {{"--shape", "The shape", positive}, kScale},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[1] * Random_Gamma(a[0], s); },
+         "--shape is at least 5e-324"}}},
+      {"chi-square",
+       "Chi-square variates",
+       {{df, of_df, NumberKind::kInt32}},
+       {{"",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = Random_ChiSq(static_cast<std::int32_t>(a[0]), s);
+         },
+         "--df is at least 1"}}},
+      {"weibull",
+       "Weibull variates; with a negative shape, reciprocals of them (Frechet variates)",
+       {{"--shape", "The shape", real}, kScale},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[1] * Random_Weibull(a[0], s); },
+         "--shape is not 0, nor within 5e-324 of it"}}},
+      {"beta",
+       "Beta variates, in [0, 1] or between two ends",
+       {{"--a", "The first shape", positive},
+        {"--b", "The second shape", positive},
+        kLowerEnd,
+        kUpperEnd},
+       {{"",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = a[2] + (a[3] - a[2]) * Random_Beta(a[0], a[1], s);
+         },
+         "--a and --b add up to at most 1e18, and neither is tiny beside the other",
+         WhatIsWrongWithSupport}}},
+      {"student-t",
+       "Student's t variates",
+       {{df, "The degrees of freedom, which need not be whole", NumberKind::kDegreesOfFreedom}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawStudentT(a[0], s); },
+         "--df is from 1e-17 to 1e15"}},
+       VariateMethod{"",
+                     [](Arguments a, Figures x, Source s) {
+                       x[0] = Random_T(static_cast<std::int32_t>(a[0]), s);
+                     },
+                     "--df is from 1e-17 to 1e15; with --classic it is a whole number up to "
+                     "2147483647, and 1 and 2 draw as 3 does",
+                     WhatIsWrongWithWholeDf}},
+      {"cauchy",
+       "Cauchy variates",
+       {location, kScale},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[0] + a[1] * Random_Cauchy(s); }}}},
+      {"log-normal",
+       "Log-normal variates; mean and standard deviation of ln X",
+       {kMean, kStdDev},
+       // Random_LogNormal takes exponentials of these, which need not be in range.
+       {{"", [](Arguments a, Figures x,
+                Source s) { x[0] = CheckedExp(Random_Normal(a[0], a[1], s)); }}}},
+      {"inverse-gaussian",
+       "Generalised inverse Gaussian variates; density as x^(b-1) exp(-h/2 (x + 1/x))",
+       {{"--h", "The concentration h", positive}, {"--b", "The order b, at least 0", real}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Inv_Gauss(a[0], a[1], s); },
+         "--b is at least 0, both are at most 1e14, and --h is neither tiny nor small beside --b: "
+         "1e-8 and 1e-4 times --b suffice"}}},
+      {"von-mises",
+       "Angles of the von Mises distribution, from -pi to pi",
+       {{"--concentration", "The concentration", real}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawVonMises(a[0], s); },
+         "--concentration is at least 0"}},
+       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_von_Mises(a[0], s); },
+                     "--concentration is at least 0 and, with --classic, below 10"}},
+      {"multivariate-normal",
+       "Vectors of normal variates, one a line",
+       {{"--mean", "The means", NumberKind::kReals},
+        {"--covariance", "The upper triangle of the covariance matrix, column by column",
+         NumberKind::kReals}},
+       {{"", DrawMultivariateNormal, "", WhatIsWrongWithCovariance}}},
+      {"binomial",
+       "Binomial variates: successes in independent trials",
+       {kSuccessProbability, {"--trials", "The number of trials", NumberKind::kInt64}},
+       {{"btpe",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = Random_Binomial2(static_cast<std::int64_t>(a[1]), a[0], s);
+         }},
+        {"inversion",
+         [](Arguments a, Figures x, Source s) {
+           x[0] = Random_Binomial1(static_cast<std::int32_t>(a[1]), a[0], s);
+         },
+         "", WhatIsWrongWithInversion}}},
+      {"negative-binomial",
+       "Negative binomial variates: successes before a given number of failures",
+       {{kSuccessProbability.option, kSuccessProbability.description, NumberKind::kProbability},
+        {"--failures", "The number of failures, which need not be whole", positive}},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Neg_Binomial(a[1], a[0], s); },
+         "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 2e7 beyond, where p is not "
+         "within 5e-8 of 1"}}},
+      {"poisson",
+       "Poisson variates",
+       {kLambda},
+       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawPoisson(a[0], s); }}},
+       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Poisson(a[0], s); },
+                     "with --classic and --lambda below 10, no variate exceeds 35"}},
+  };
+}
+
+}  // namespace
+
+std::span<const Variate> Variates() {
+  static const std::vector<Variate> variates = AllVariates();
+  return variates;
+}
+
+}  // namespace qorvex::apps

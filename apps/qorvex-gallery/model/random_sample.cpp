@@ -1,0 +1,110 @@
+#include "apps/qorvex-gallery/model/random_sample.h"
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <stdexcept>
+#include <string>
+
+#include "apps/qorvex-gallery/model/variate_theory.h"
+#include "apps/qorvex-gallery/plot/histogram.h"
+#include "qorvex/base/checked_math.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/random.h"
+#include "qorvex/stats/dispersion.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+// False when it was not to go on.
+bool DrawValues(const SampleOrder& order, TQorFloatVector& values,
+                const std::function<bool(std::size_t, std::size_t)>& proceed) {
+  apps::VariateArguments arguments;
+  for (const Extended parameter : order.parameters) arguments.Append({parameter});
+  const auto draw = order.variate->methods.front().draw;
+  TQorFloatVector figure = TQorFloatVector::WithLength(1);
+  SetRandSeed(order.seed);
+  // Some variates take nanoseconds, others milliseconds.
+  using Clock = std::chrono::steady_clock;
+  Clock::time_point next = Clock::now();
+  for (std::size_t i = 0; i < order.size; ++i) {
+    if (const Clock::time_point now = Clock::now(); now >= next) {
+      if (!proceed(i, order.size)) return false;
+      next = now + std::chrono::milliseconds(20);
+    }
+    draw(arguments, figure, ClassicRandom);
+    values[i] = CheckedFinite(figure[0]);
+  }
+  return true;
+}
+
+std::vector<QPointF> BarsOfCounts(const TQorFloatVector& values, Extended least,
+                                  Extended greatest) {
+  std::vector<std::size_t> counts(static_cast<std::size_t>(greatest - least) + 1);
+  for (const Extended value : values) ++counts[static_cast<std::size_t>(value - least)];
+  const auto left = static_cast<double>(least) - 0.5;
+  const auto total = static_cast<double>(values.size());
+  std::vector<QPointF> bars = {{left, 0}};
+  for (const std::size_t count : counts) {
+    bars.emplace_back(left + static_cast<double>(bars.size()), static_cast<double>(count) / total);
+  }
+  return bars;
+}
+
+std::vector<QPointF> BarsOfClasses(const Histogram& histogram, Extended share) {
+  if (histogram.counts.empty()) return {};
+  std::vector<QPointF> bars = {{static_cast<double>(histogram.edges.front()), 0}};
+  for (std::size_t i = 0; i < histogram.counts.size(); ++i) {
+    bars.emplace_back(static_cast<double>(histogram.edges[i + 1]),
+                      static_cast<double>(histogram.Density(i) * share));
+  }
+  return bars;
+}
+
+void MakeBars(RandomSample& sample) {
+  // Few enough for a bar each.
+  constexpr Extended most_counts = 300;
+  const auto [least, greatest] = std::minmax_element(sample.values.begin(), sample.values.end());
+  const Extended width = *greatest - *least;
+  if (TheoryOf(*sample.order.variate, sample.order.parameters).is_count && width <= most_counts) {
+    sample.bars = BarsOfCounts(sample.values, *least, *greatest);
+    return;
+  }
+  std::vector<Extended> middle(sample.values.begin(), sample.values.end());
+  const auto cut = static_cast<std::ptrdiff_t>(middle.size() / 200);
+  const auto first = middle.begin() + cut;
+  const auto last = middle.end() - 1 - cut;
+  std::nth_element(middle.begin(), first, middle.end());
+  std::nth_element(first, last, middle.end());
+  sample.is_cropped = width > 4 * (*last - *first) && cut > 0;
+  if (!sample.is_cropped) {
+    sample.bars = BarsOfClasses(HistogramOf(sample.values), 1);
+    return;
+  }
+  const TQorFloatVector inner(std::vector<Extended>(first, last + 1));
+  const Extended share =
+      static_cast<Extended>(inner.size()) / static_cast<Extended>(sample.values.size());
+  sample.bars = BarsOfClasses(HistogramOf(inner), share);
+}
+
+}  // namespace
+
+RandomSample DrawSample(const SampleOrder& order,
+                        const std::function<bool(std::size_t done, std::size_t total)>& proceed) {
+  RandomSample sample;
+  sample.order = order;
+  TQorFloatVector values = TQorFloatVector::WithLength(order.size);
+  try {
+    if (!DrawValues(order, values, proceed)) return sample;
+  } catch (const EMathError& error) {
+    const std::string limits = order.variate->methods.front().limits;
+    throw std::runtime_error(error.what() + (limits.empty() ? "" : ": " + limits));
+  }
+  sample.values = std::move(values);
+  SampleVarianceAndMean(sample.values, sample.variance, sample.mean);
+  MakeBars(sample);
+  return sample;
+}
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,270 @@
+#include "apps/qorvex-gallery/pages/distribution_page.h"
+
+#include <QComboBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <cmath>
+#include <exception>
+
+#include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/figure_table.h"
+#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/widgets/parameter_form.h"
+#include "apps/qorvex-gallery/widgets/side_panel.h"
+#include "qorvex/base_controls/float_edit.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+// Beyond these, stems would merge into an area.
+constexpr std::size_t kMostStems = 150;
+
+using Points = std::vector<QPointF>;
+
+// The points whose first coordinate is in the range.
+Points Within(const Points& curve, Extended from, Extended to) {
+  Points part;
+  std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
+               [&](const QPointF& point) { return point.x() >= from && point.x() <= to; });
+  return part;
+}
+
+}  // namespace
+
+DistributionPage::DistributionPage(QWidget* parent)
+    : QWidget(parent),
+      family_(new QComboBox),
+      summary_(new QLabel),
+      parameters_(new ParameterForm),
+      question_(new QComboBox),
+      first_label_(new QLabel),
+      first_(MakeNumberCell(1, tr("Point"), this)),
+      second_label_(new QLabel),
+      second_(MakeNumberCell(2, tr("Upper end of the interval"), this)),
+      points_message_(new MessageLabel),
+      side_(new QComboBox),
+      probability_(MakeNumberCell(0.975L, tr("Probability"), this)),
+      quantile_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      quantile_message_(new MessageLabel),
+      plot_(new PlotView),
+      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})) {
+  setObjectName(QStringLiteral("distributionPage"));
+  family_->setObjectName(QStringLiteral("family"));
+  family_->setAccessibleName(tr("Family of distributions"));
+  question_->setObjectName(QStringLiteral("question"));
+  question_->setAccessibleName(tr("Question"));
+  first_->setObjectName(QStringLiteral("first"));
+  second_->setObjectName(QStringLiteral("second"));
+  probability_->setObjectName(QStringLiteral("probability"));
+  side_->setAccessibleName(tr("Which probability"));
+  quantile_->setObjectName(QStringLiteral("quantile"));
+  plot_->setObjectName(QStringLiteral("plot"));
+  figures_->setObjectName(QStringLiteral("figures"));
+
+  for (const apps::Distribution& distribution : apps::Distributions())
+    family_->addItem(Title(QString::fromUtf8(distribution.name)));
+  question_->addItems({tr("Both sides of a point"), tr("Inside and outside an interval")});
+  side_->addItems({tr("At most the quantile"), tr("More than the quantile")});
+  summary_->setWordWrap(true);
+  first_label_->setBuddy(first_);
+  second_label_->setBuddy(second_);
+
+  auto* const panel = new SidePanel;
+  QVBoxLayout* const distribution = panel->AddGroup(tr("Distribution"));
+  distribution->addWidget(family_);
+  distribution->addWidget(summary_);
+  distribution->addWidget(parameters_);
+  QVBoxLayout* const probabilities = panel->AddGroup(tr("Probabilities"));
+  probabilities->addWidget(question_);
+  auto* const ends = new QHBoxLayout;
+  for (const auto& [label, cell] : {std::pair(first_label_, first_), {second_label_, second_}}) {
+    ends->addWidget(label);
+    ends->addWidget(cell, 1);
+  }
+  probabilities->addLayout(ends);
+  probabilities->addWidget(points_message_);
+  QVBoxLayout* const quantile = panel->AddGroup(tr("Quantile"));
+  auto* const asked = new QHBoxLayout;
+  asked->addWidget(side_);
+  asked->addWidget(probability_, 1);
+  quantile->addLayout(asked);
+  quantile->addWidget(quantile_);
+  quantile->addWidget(quantile_message_);
+  panel->Finish();
+
+  auto* const right = new QVBoxLayout;
+  right->addWidget(plot_, 1);
+  right->addWidget(figures_);
+
+  auto* const layout = new QHBoxLayout(this);
+  layout->addWidget(panel);
+  layout->addLayout(right, 1);
+
+  connect(family_, &QComboBox::currentIndexChanged, this, &DistributionPage::ShowFamily);
+  connect(parameters_, &ParameterForm::Changed, this, &DistributionPage::Update);
+  for (QComboBox* const box : {question_, side_})
+    connect(box, &QComboBox::currentIndexChanged, this, &DistributionPage::Update);
+  for (TQorFloatEdit* const cell : {first_, second_, probability_})
+    connect(cell, &TQorFloatEdit::Changed, this, &DistributionPage::Update);
+  ShowFamily();
+}
+
+DistributionPage::~DistributionPage() = default;
+
+const apps::Distribution& DistributionPage::Family() const {
+  return apps::Distributions()[static_cast<std::size_t>(std::max(family_->currentIndex(), 0))];
+}
+
+bool DistributionPage::Interval() const {
+  return question_->currentIndex() == 1;
+}
+
+void DistributionPage::ShowFamily() {
+  summary_->setText(tr(Family().summary));
+  parameters_->SetParameters(Family().parameters);
+  // Points that are in sight, whatever the family.
+  if (const auto parameters = parameters_->Numbers()) {
+    const apps::DistributionRoutine quantile = Family().full_precision.quantile;
+    const auto point = [&](Extended p) {
+      const Extended exact = FigureAt(quantile, *parameters, p);
+      return Family().is_discrete ? exact : std::round(exact * 100) / 100;
+    };
+    first_->setValue(point(0.2L));
+    second_->setValue(point(0.9L));
+  }
+  Update();
+}
+
+void DistributionPage::Update() {
+  second_->setVisible(Interval());
+  second_label_->setVisible(Interval());
+  const QString variable = Family().is_discrete ? QStringLiteral("k") : QStringLiteral("x");
+  first_label_->setText(Interval() ? QStringLiteral("a") : variable);
+  second_label_->setText(QStringLiteral("b"));
+  const auto parameters = parameters_->Numbers();
+  if (!parameters) return;
+  if (const auto inconsistency = Family().inconsistency) {
+    if (const char* const what = inconsistency(*parameters)) {
+      parameters_->ShowInconsistency(what);
+      return;
+    }
+  }
+  UpdatePoints(*parameters);
+  UpdateQuantile(*parameters);
+}
+
+void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
+  std::vector<Extended> points = {first_->Value()};
+  if (Interval()) points.push_back(second_->Value());
+  const apps::NumberKind kind =
+      Family().is_discrete ? apps::NumberKind::kCount : apps::NumberKind::kReal;
+  points_message_->Say({});
+  for (const Extended point : points) {
+    const char* const wrong = apps::WhatIsWrong(point, kind);
+    if (wrong == nullptr) continue;
+    points_message_->Say(ExactText(point) + ' ' + tr(wrong));
+    return;
+  }
+  std::sort(points.begin(), points.end());
+  const apps::FullPrecisionRoutines& routines = Family().full_precision;
+  const auto figure = [&](apps::DistributionRoutine routine, Extended point) {
+    return ExactText(FigureAt(routine, parameters, point));
+  };
+  try {
+    QList<QStringList> figures;
+    const Extended a = points.front();
+    if (Interval()) {
+      std::vector<Extended> arguments = parameters;
+      arguments.insert(arguments.end(), points.begin(), points.end());
+      // At least a count is more than the one before it.
+      const bool is_count = Family().is_discrete;
+      const Extended below_b = points.back() - (is_count ? 1 : 0);
+      const bool all = is_count && points.back() == 0;
+      figures = {{tr("P(a < X < b)"), ExactText(apps::ProbabilityBetween(Family(), arguments))},
+                 {tr("P(X ≤ a)"), figure(routines.lower, a)},
+                 {tr("P(X ≥ b)"), all ? ExactText(1) : figure(routines.upper, below_b)},
+                 {tr("ln P(X ≤ a)"), figure(routines.log_lower, a)},
+                 {tr("ln P(X ≥ b)"), all ? ExactText(0) : figure(routines.log_upper, below_b)}};
+    } else if (Family().is_discrete) {
+      figures = {{tr("P(X = k)"), figure(routines.density, a)},
+                 {tr("P(X ≤ k)"), figure(routines.lower, a)},
+                 {tr("P(X > k)"), figure(routines.upper, a)},
+                 {tr("ln P(X ≤ k)"), figure(routines.log_lower, a)},
+                 {tr("ln P(X > k)"), figure(routines.log_upper, a)}};
+    } else {
+      figures = {{tr("Density at x"), figure(routines.density, a)},
+                 {tr("P(X ≤ x)"), figure(routines.lower, a)},
+                 {tr("P(X > x)"), figure(routines.upper, a)},
+                 {tr("ln P(X ≤ x)"), figure(routines.log_lower, a)},
+                 {tr("ln P(X > x)"), figure(routines.log_upper, a)}};
+    }
+    Draw(parameters, points);
+    figures_->SetRows(figures);
+  } catch (const std::exception& error) {
+    points_message_->Say(QString::fromUtf8(error.what()));
+  }
+}
+
+void DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters) {
+  const Extended probability = probability_->Value();
+  quantile_message_->Say({});
+  if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability)) {
+    quantile_message_->Say(ExactText(probability) + ' ' + tr(wrong));
+    return;
+  }
+  const apps::FullPrecisionRoutines& routines = Family().full_precision;
+  try {
+    const apps::DistributionRoutine routine =
+        side_->currentIndex() == 0 ? routines.quantile : routines.upper_quantile;
+    quantile_->SetRows({{tr("Quantile"), ExactText(FigureAt(routine, parameters, probability))}});
+  } catch (const std::exception& error) {
+    quantile_message_->Say(QString::fromUtf8(error.what()));
+  }
+}
+
+void DistributionPage::Draw(const std::vector<Extended>& parameters,
+                            const std::vector<Extended>& points) {
+  Range range = MiddleOf(Family(), parameters);
+  // Points just outside stay in sight; beyond, the curve is flat.
+  const Extended margin = range.to - range.from;
+  const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
+  if (*least < range.from && *least >= range.from - margin) range.from = *least;
+  if (*greatest > range.to && *greatest <= range.to + margin) range.to = *greatest;
+  std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
+  // The areas end where they are asked to.
+  for (const Extended point : points) {
+    if (Family().is_discrete || !(point > range.from) || !(point < range.to)) continue;
+    places.insert(std::upper_bound(places.begin(), places.end(), point), point);
+  }
+  const Points curve = DensityAt(
+      [&](Extended x) { return FigureAt(Family().full_precision.density, parameters, x); }, places);
+  const bool stems = Family().is_discrete && curve.size() <= kMostStems;
+  const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
+  const Extended infinity = HUGE_VALL;
+  // A count at the point belongs to the side that includes it; an area has no such end.
+  const double gap = Family().is_discrete ? 0.5 : 0;
+  const auto a = static_cast<double>(points.front());
+  const auto b = static_cast<double>(points.back());
+  std::vector<PlotLayer> layers;
+  if (Interval()) {
+    layers.push_back({shape, PlotRole::kData, tr("P(a < X < b)"), Within(curve, a + gap, b - gap)});
+    layers.push_back({shape, PlotRole::kTail, tr("Outside"), Within(curve, -infinity, a)});
+    layers.push_back({shape, PlotRole::kTail, {}, Within(curve, b, infinity)});
+  } else {
+    const bool is_count = Family().is_discrete;
+    layers.push_back({shape, PlotRole::kTail, is_count ? tr("P(X ≤ k)") : tr("P(X ≤ x)"),
+                      Within(curve, -infinity, a)});
+    layers.push_back({shape, PlotRole::kData, is_count ? tr("P(X > k)") : tr("P(X > x)"),
+                      Within(curve, a + gap, infinity)});
+  }
+  if (!stems) layers.push_back({PlotShape::kLine, PlotRole::kModel, {}, curve});
+  plot_->SetAxisTitles(Family().is_discrete ? tr("k") : tr("x"),
+                       Family().is_discrete ? tr("Probability") : tr("Density"));
+  plot_->SetLayers(std::move(layers));
+}
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,279 @@
+#include "apps/qorvex-gallery/pages/random_page.h"
+
+#include <QClipboard>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRandomGenerator>
+#include <QSaveFile>
+#include <QSpinBox>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <stdexcept>
+
+#include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/variate_theory.h"
+#include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/figure_table.h"
+#include "apps/qorvex-gallery/widgets/heading.h"
+#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/widgets/parameter_form.h"
+#include "apps/qorvex-gallery/widgets/side_panel.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
+#include "qorvex/base_controls/float_edit.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+constexpr int kMostValues = 10'000'000;
+// More would fill the memory of whatever they are pasted into.
+constexpr std::size_t kMostCopied = 1'000'000;
+
+QString TextOrDash(std::optional<Extended> figure) {
+  return figure ? ExactText(*figure) : QStringLiteral("—");
+}
+
+void WriteValues(const TQorFloatVector& values, const QString& path, BackgroundTask& task) {
+  QSaveFile file(path);
+  const auto check = [&file](bool success) {
+    if (!success) throw std::runtime_error(file.errorString().toStdString());
+  };
+  check(file.open(QIODevice::WriteOnly));
+  std::string block;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    block += Float2Str(values[i]) + '\n';
+    if (block.size() < std::size_t{1} << 16) continue;
+    if (!task.Proceed(i, values.size())) return;
+    check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
+    block.clear();
+  }
+  check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
+  check(file.commit());
+}
+
+}  // namespace
+
+RandomPage::RandomPage(QWidget* parent)
+    : QWidget(parent),
+      variate_(new QComboBox),
+      summary_(new QLabel),
+      parameters_(new ParameterForm),
+      size_(new QSpinBox),
+      seed_(MakeNumberCell(1, tr("Seed"), this)),
+      message_(new MessageLabel),
+      generate_(new QPushButton(tr("&Generate"))),
+      cancel_(new QPushButton(tr("Cancel"))),
+      progress_(new QProgressBar),
+      copy_(new QPushButton(tr("&Copy"))),
+      save_(new QPushButton(tr("&Save…"))),
+      plot_(new PlotView),
+      title_(MakeHeading({})),
+      moments_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
+      task_(this) {
+  setObjectName(QStringLiteral("randomPage"));
+  variate_->setObjectName(QStringLiteral("variate"));
+  variate_->setAccessibleName(tr("Variate"));
+  size_->setObjectName(QStringLiteral("size"));
+  seed_->setObjectName(QStringLiteral("seed"));
+  generate_->setObjectName(QStringLiteral("generate"));
+  cancel_->setObjectName(QStringLiteral("cancel"));
+  moments_->setObjectName(QStringLiteral("moments"));
+  message_->setObjectName(QStringLiteral("message"));
+
+  // Vectors of variates have no histogram.
+  for (const apps::Variate& variate : apps::Variates()) {
+    if (std::any_of(variate.parameters.begin(), variate.parameters.end(),
+                    [](const auto& p) { return p.kind == apps::NumberKind::kReals; })) {
+      continue;
+    }
+    variates_.push_back(&variate);
+    variate_->addItem(Title(QString::fromUtf8(variate.name)));
+  }
+  variate_->setCurrentIndex(variate_->findText(QStringLiteral("Gamma")));
+  summary_->setWordWrap(true);
+  size_->setRange(2, kMostValues);
+  size_->setGroupSeparatorShown(true);
+  size_->setValue(10'000);
+  progress_->setRange(0, 1000);
+  progress_->setTextVisible(false);
+  plot_->SetPlaceholder(tr("No sample yet"));
+
+  auto* const panel = new SidePanel;
+  QVBoxLayout* const what = panel->AddGroup(tr("Variate"));
+  what->addWidget(variate_);
+  what->addWidget(summary_);
+  what->addWidget(parameters_);
+  QVBoxLayout* const how = panel->AddGroup(tr("Sample"));
+  auto* const form = new QFormLayout;
+  form->addRow(tr("Values"), size_);
+  auto* const seed_line = new QHBoxLayout;
+  auto* const new_seed = new QPushButton(tr("&New"));
+  new_seed->setToolTip(tr("Takes another seed by chance"));
+  seed_line->addWidget(seed_, 1);
+  seed_line->addWidget(new_seed);
+  form->addRow(tr("Seed"), seed_line);
+  how->addLayout(form);
+  auto* const buttons = new QHBoxLayout;
+  buttons->addWidget(generate_, 1);
+  buttons->addWidget(cancel_, 1);
+  how->addLayout(buttons);
+  how->addWidget(progress_);
+  how->addWidget(message_);
+  panel->Finish();
+
+  auto* const buttons_of_values = new QVBoxLayout;
+  buttons_of_values->addWidget(copy_);
+  buttons_of_values->addWidget(save_);
+  auto* const below = new QHBoxLayout;
+  below->addWidget(moments_, 1, Qt::AlignTop);
+  below->addLayout(buttons_of_values);
+  auto* const right = new QVBoxLayout;
+  right->addWidget(title_);
+  right->addWidget(plot_, 1);
+  right->addLayout(below);
+  auto* const layout = new QHBoxLayout(this);
+  layout->addWidget(panel);
+  layout->addLayout(right, 1);
+
+  connect(variate_, &QComboBox::currentIndexChanged, this, &RandomPage::ShowVariate);
+  connect(parameters_, &ParameterForm::Changed, this, [this] { (void)parameters_->Numbers(); });
+  connect(new_seed, &QPushButton::clicked, this, [this] {
+    seed_->setValue(static_cast<Extended>(QRandomGenerator::system()->generate64() >> 32));
+    Generate();
+  });
+  connect(generate_, &QPushButton::clicked, this, &RandomPage::Generate);
+  connect(cancel_, &QPushButton::clicked, this, [this] { task_.Cancel(); });
+  connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
+  connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
+  connect(&task_, &BackgroundTask::Progressed, progress_, &QProgressBar::setValue);
+  connect(&task_, &BackgroundTask::Finished, this, [this](const QString& error, bool cancelled) {
+    message_->Say(cancelled ? tr("Cancelled") : QString());
+    const std::shared_ptr<RandomSample> result = std::move(result_);
+    if (!error.isEmpty() && !saved_path_.isEmpty()) {
+      message_->Say(tr("%1: %2").arg(saved_path_, error));
+    } else if (!error.isEmpty()) {
+      parameters_->ShowInconsistency(error.toStdString());
+    } else if (!cancelled && result != nullptr) {
+      sample_ = result;
+      ShowSample();
+    }
+    ShowRunning();
+  });
+  ShowVariate();
+  ShowRunning();
+}
+
+RandomPage::~RandomPage() = default;
+
+const apps::Variate& RandomPage::Chosen() const {
+  return *variates_[static_cast<std::size_t>(std::max(variate_->currentIndex(), 0))];
+}
+
+void RandomPage::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  if (sample_ == nullptr) Generate();
+}
+
+void RandomPage::ShowVariate() {
+  summary_->setText(tr(Chosen().summary));
+  parameters_->SetParameters(Chosen().parameters);
+}
+
+void RandomPage::Generate() {
+  const auto parameters = parameters_->Numbers();
+  if (!parameters || task_.Running()) return;
+  message_->Say({});
+  if (const char* const wrong = apps::WhatIsWrong(seed_->Value(), apps::NumberKind::kUint64)) {
+    message_->Say(tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(wrong)));
+    return;
+  }
+  if (const auto inconsistency = Chosen().methods.front().inconsistency) {
+    apps::VariateArguments arguments;
+    for (const Extended parameter : *parameters) arguments.Append({parameter});
+    const std::string what = inconsistency(arguments);
+    if (!what.empty()) {
+      parameters_->ShowInconsistency(what);
+      return;
+    }
+  }
+  const SampleOrder order = {&Chosen(), *parameters, static_cast<std::size_t>(size_->value()),
+                             static_cast<std::uint64_t>(seed_->Value())};
+  saved_path_.clear();
+  result_ = std::make_shared<RandomSample>();
+  task_.Start([order, result = result_](BackgroundTask& task) {
+    *result = DrawSample(
+        order, [&task](std::size_t done, std::size_t total) { return task.Proceed(done, total); });
+  });
+  ShowRunning();
+}
+
+void RandomPage::ShowRunning() {
+  const bool running = task_.Running();
+  generate_->setEnabled(!running);
+  cancel_->setEnabled(running);
+  copy_->setEnabled(!running && sample_ != nullptr);
+  save_->setEnabled(!running && sample_ != nullptr);
+  progress_->setValue(0);
+  progress_->setVisible(running);
+}
+
+void RandomPage::ShowSample() {
+  const SampleOrder& order = sample_->order;
+  const VariateTheory theory = TheoryOf(*order.variate, order.parameters);
+  title_->setText(tr("%1: %L2 values, seed %3")
+                      .arg(Title(QString::fromUtf8(order.variate->name)))
+                      .arg(order.size)
+                      .arg(order.seed));
+  moments_->SetRows({{QString(), tr("Sample"), tr("Distribution")},
+                     {tr("Mean"), ExactText(sample_->mean), TextOrDash(theory.mean)},
+                     {tr("Variance"), ExactText(sample_->variance), TextOrDash(theory.variance)}});
+
+  const QString name =
+      sample_->is_cropped ? tr("Sample, without the outermost hundredth") : tr("Sample");
+  std::vector<PlotLayer> layers = {{PlotShape::kBars, PlotRole::kData, name, sample_->bars}};
+  if (theory.density && !sample_->bars.empty()) try {
+      Range range = {static_cast<Extended>(sample_->bars.front().x()),
+                     static_cast<Extended>(sample_->bars.back().x())};
+      if (theory.is_count) range = {std::ceil(range.from), std::floor(range.to)};
+      const auto curve = DensityAt(theory.density, PlottedPoints(range, theory.is_count));
+      layers.push_back({PlotShape::kLine, PlotRole::kModel,
+                        theory.is_count ? tr("Probabilities") : tr("Density"), curve});
+    } catch (const EMathError&) {
+      // Variates reach further than densities; the sample is shown by itself then.
+    }
+  plot_->SetAxisTitles(tr("Value"), theory.is_count ? tr("Share") : tr("Density"));
+  plot_->SetLayers(std::move(layers));
+}
+
+void RandomPage::Copy() {
+  if (sample_->values.size() > kMostCopied) {
+    message_->Say(tr("More than %L1 values are saved rather than copied").arg(kMostCopied));
+    return;
+  }
+  QString text;
+  for (const Extended value : sample_->values) text += ExactText(value) + '\n';
+  QGuiApplication::clipboard()->setText(text);
+}
+
+void RandomPage::AskAndSave() {
+  const QString path = QFileDialog::getSaveFileName(
+      this, tr("Save the Values"), QStringLiteral("variates.csv"), tr("Text (*.csv *.txt)"));
+  if (!path.isEmpty()) Save(path);
+}
+
+void RandomPage::Save(const QString& path) {
+  if (sample_ == nullptr || task_.Running()) return;
+  saved_path_ = path;
+  task_.Start(
+      [sample = sample_, path](BackgroundTask& task) { WriteValues(sample->values, path, task); });
+  ShowRunning();
+}
+
+}  // namespace qorvex::gallery

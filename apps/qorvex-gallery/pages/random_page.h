@@ -1,0 +1,87 @@
+#pragma once
+
+/// @file
+/// RandomPage, samples of random variates.
+
+#include <QWidget>
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "apps/qorvex-gallery/model/random_sample.h"
+#include "apps/qorvex-gallery/widgets/background_task.h"
+
+class QComboBox;
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class QSpinBox;
+
+namespace qorvex {
+inline namespace QorvexBaseControls {
+class TQorFloatEdit;
+}
+}  // namespace qorvex
+
+namespace qorvex::gallery {
+
+class FigureTable;
+class MessageLabel;
+class ParameterForm;
+class PlotView;
+
+/// Draws a sample on another thread and shows its histogram against the density, and its mean and
+/// variance beside those of the distribution. The values can be copied and saved. What is shown
+/// stays until the next sample is there.
+class RandomPage : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit RandomPage(QWidget* parent = nullptr);
+  ~RandomPage() override;
+
+  /// Draws a sample of what is chosen, unless something is wrong or under way.
+  void Generate();
+  /// The last sample; null before the first one.
+  [[nodiscard]] std::shared_ptr<const RandomSample> Sample() const { return sample_; }
+  /// Writes the values to a file, one a line with all digits, on another thread.
+  void Save(const QString& path);
+
+ protected:
+  /// The first time, a sample comes by itself.
+  void showEvent(QShowEvent* event) override;
+
+ private:
+  void ShowVariate();
+  void ShowSample();
+  void ShowRunning();
+  void Copy();
+  void AskAndSave();
+  [[nodiscard]] const apps::Variate& Chosen() const;
+
+  std::vector<const apps::Variate*> variates_;
+  std::shared_ptr<const RandomSample> sample_;
+  // What the task makes.
+  std::shared_ptr<RandomSample> result_;
+
+  QComboBox* variate_;
+  QLabel* summary_;
+  ParameterForm* parameters_;
+  QSpinBox* size_;
+  TQorFloatEdit* seed_;
+  MessageLabel* message_;
+  // What the task writes to; empty while it draws.
+  QString saved_path_;
+  QPushButton* generate_;
+  QPushButton* cancel_;
+  QProgressBar* progress_;
+  QPushButton* copy_;
+  QPushButton* save_;
+  PlotView* plot_;
+  QLabel* title_;
+  FigureTable* moments_;
+  // Last, so that the work ends before what it uses.
+  BackgroundTask task_;
+};
+
+}  // namespace qorvex::gallery

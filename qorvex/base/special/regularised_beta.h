@@ -1,0 +1,61 @@
+#pragma once
+
+/// @file
+/// The beta distribution with full relative accuracy in both tails.
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/special/tails.h"
+
+namespace qorvex::special {
+
+/// A point of [0, 1] as the odds for : against, so x = for / (for + against), which keeps the
+/// distance from 1 as well as the one from 0.
+struct Odds {
+  ExtendedPair in_favour;
+  ExtendedPair against;
+};
+
+/// The point with the given odds.
+[[nodiscard]] inline Extended FromOdds(const Scaled& odds) {
+  const Extended value = odds.Value();
+  return value < 1 ? value / (1 + value) : 1 / (1 + 1 / value);
+}
+
+/// The beta distribution with shapes from 1e-18 to 1e15.
+///
+/// The continued fraction of DiDonato and Morris (1992), "Algorithm 708", gives the tail on the far
+/// side of the mean, in at most some tens of terms times the square root of the shapes. Boost.Math
+/// gives the tails of small shapes where that fraction is slow, or where the tail is what the other
+/// leaves of 1.
+class QORVEX_EXPORT RegularisedBeta {
+ public:
+  RegularisedBeta(Extended a, Extended b);
+
+  /// Both tails at odds above 0 and below infinity.
+  [[nodiscard]] Tails At(const Odds& odds) const;
+  /// x^(a + extra_x) (1 - x)^(b + extra_y) / B(a, b): the density of the logarithm of the odds, and
+  /// with -1 and -1 that of x.
+  [[nodiscard]] Scaled Density(const Odds& odds, Extended extra_x, Extended extra_y) const;
+  /// 1 / B(a, b).
+  [[nodiscard]] const Scaled& InverseBeta() const { return inverse_beta_; }
+  /// The odds x / (1 - x) of the point with the given tail, 0 < p < 1.
+  [[nodiscard]] Scaled QuantileOdds(Tail tail, Extended p) const;
+
+ private:
+  // x and y = 1 - x, and their logarithms.
+  struct Point {
+    explicit Point(const Odds& odds);
+    ExtendedPair x;
+    ExtendedPair y;
+    ExtendedPair ln_x;
+    ExtendedPair ln_y;
+  };
+  [[nodiscard]] Scaled LogOddsDensity(const Point& point) const;
+  [[nodiscard]] Tails TailsAt(const Point& point, Scaled density) const;
+
+  Extended a_;
+  Extended b_;
+  Scaled inverse_beta_;
+};
+
+}  // namespace qorvex::special

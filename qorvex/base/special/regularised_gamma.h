@@ -1,0 +1,49 @@
+#pragma once
+
+/// @file
+/// The gamma distribution with full relative accuracy in both tails.
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/special/tails.h"
+
+namespace qorvex::special {
+
+/// The gamma distribution of a shape from 1e-18 to 1e15 and scale 1.
+///
+/// Below the shape the power series gives the lower tail, above it the continued fraction gives the
+/// upper one, each in some hundred terms at most, because around large shapes an expansion takes
+/// over. For small shapes Boost.Math gives the upper tail where it is what the lower one leaves
+/// of 1.
+class QORVEX_EXPORT RegularisedGamma {
+ public:
+  explicit RegularisedGamma(Extended shape);
+
+  /// A point 0 < x < infinity and its logarithm, which may say more than an x that underflowed.
+  struct Point {
+    explicit Point(ExtendedPair value) : x(value), ln_x(Ln(value)) {}
+    /// numerator / denominator.
+    Point(ExtendedPair numerator, ExtendedPair denominator)
+        : x(numerator / denominator), ln_x(LnOfRatio(x, numerator, denominator)) {}
+    ExtendedPair x;
+    ExtendedPair ln_x;
+  };
+
+  /// Both tails at a point.
+  [[nodiscard]] Tails At(const Point& point) const;
+  /// x^(a + extra_power) e^-x / Gamma(a): the density of ln X, and with -1 that of X.
+  [[nodiscard]] Scaled Density(const Point& point, Extended extra_power) const;
+  /// The point with the given tail, 0 < p < 1. 0 where it is too small for the format.
+  [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
+
+ private:
+  // The expansion holds at x.
+  [[nodiscard]] bool IsUniform(Extended x) const;
+  // The tails from the density, where the expansion does not hold.
+  [[nodiscard]] Tails TailsFrom(Extended x, Scaled density) const;
+  [[nodiscard]] Extended Start(Tail tail, Extended p, Extended asymptote) const;
+
+  Extended shape_;
+  Scaled factorial_;  // of the shape
+};
+
+}  // namespace qorvex::special
