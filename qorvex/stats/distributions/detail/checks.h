@@ -1,39 +1,21 @@
 #pragma once
 
 /// @file
-/// Checks and shapes that the families share.
+/// Checks and limits that the families share.
 
 #include <cmath>
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/special/normal_tail.h"
-#include "qorvex/base/special/regularised_beta.h"
-#include "qorvex/base/special/regularised_gamma.h"
 #include "qorvex/base/special/shape_range.h"
-#include "qorvex/base/special/tails.h"
+#include "qorvex/stats/distributions/distribution.h"
 
-namespace qorvex::full_precision::detail {
-
-using special::ExtendedPair;
-using special::FactorialOf;
-using special::FromOdds;
-using special::Ln;
-using special::LnOfRatio;
-using special::NormalDensity;
-using special::NormalUpperTail;
-using special::Odds;
-using special::Power;
-using special::RegularisedBeta;
-using special::RegularisedGamma;
-using special::Scaled;
-using special::SquareRoot;
-using special::Tail;
-using special::Tails;
+namespace qorvex::distributions {
 
 inline constexpr Extended kLargest = std::numeric_limits<Extended>::max();
-inline constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
+inline constexpr Extended kInfinite = std::numeric_limits<Extended>::infinity();
+inline constexpr Extended kNotANumber = std::numeric_limits<Extended>::quiet_NaN();
 
 /// Whether any of the values is NaN.
 template <class... Values>
@@ -59,30 +41,30 @@ inline void RequireFinite(Extended parameter) {
   if (std::isinf(parameter)) throw EInvalidOp();
 }
 
-/// Raises EInvalidOp for a shape beyond the range of the methods.
+/// Raises EInvalidOp for a shape beyond the range of the methods; NaN passes.
 inline void RequireShape(Extended shape) {
   if (special::IsShapeOutOfRange(shape)) throw EInvalidOp();
 }
 
-/// The tails below the whole of a distribution, or at its lower end.
+/// The tails below the support, or at its lower end.
 inline Tails BelowAll() {
-  return {Tail::kLower, Scaled{0, ExtendedPair()}};
+  return {Tail::kLower, special::Scaled{0, special::ExtendedPair()}};
 }
 
-/// The tails above the whole of a distribution.
+/// The tails above the support, or at its upper end.
 inline Tails AboveAll() {
-  return {Tail::kUpper, Scaled{0, ExtendedPair()}};
+  return {Tail::kUpper, special::Scaled{0, special::ExtendedPair()}};
 }
 
 /// The tails at a point that is NaN, or with a parameter that is.
-inline Tails Unknown() {
-  return {Tail::kLower, Scaled{kNaN, ExtendedPair()}};
+inline Tails UnknownTails() {
+  return {Tail::kLower, special::Scaled{kNotANumber, special::ExtendedPair()}};
 }
 
 /// The density at the end of a support where it is c x^(shape - 1): 0, c or infinity.
 inline Extended DensityAtEnd(Extended shape, Extended c) {
   if (shape == 1) return c;
-  return shape < 1 ? std::numeric_limits<Extended>::infinity() : 0;
+  return shape < 1 ? kInfinite : 0;
 }
 
-}  // namespace qorvex::full_precision::detail
+}  // namespace qorvex::distributions

@@ -1,4 +1,4 @@
-#include "qorvex/base/special/uniform_gamma.h"
+#include "qorvex/base/special/detail/uniform_gamma.h"
 
 #include <array>
 #include <cmath>

@@ -1,10 +1,14 @@
-#include "qorvex/stats/full_precision/detail/standard_normal.h"
+#include "qorvex/stats/distributions/detail/standard_normal.h"
 
 #include <cmath>
 
+#include "qorvex/base/special/normal_tail.h"
 #include "qorvex/base/special_functions.h"
 
-namespace qorvex::full_precision::detail {
+namespace qorvex::distributions {
+
+using special::ExtendedPair;
+using special::Scaled;
 
 ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev) {
   // So far out 64 bits will do, and near the end of the range pairs would overflow.
@@ -17,7 +21,7 @@ ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev) {
 Tails StandardNormalTails(ExtendedPair z) {
   if (z.hi < 0) return StandardNormalTails(-z).Mirrored();
   if (std::isinf(z.hi)) return AboveAll();
-  return {Tail::kUpper, NormalUpperTail(z)};
+  return {Tail::kUpper, special::NormalUpperTail(z)};
 }
 
 Extended StandardNormalQuantile(Tail tail, Extended p) {
@@ -29,10 +33,10 @@ ExtendedPair RefinedNormalQuantile(Tail tail, Extended p) {
   if (p > 0.5L) return RefinedNormalQuantile(Opposite(tail), 1 - p);
   const Extended z = StandardNormalQuantile(Tail::kUpper, p);
   // One step of Newton's method.
-  const Scaled upper = NormalUpperTail(z);
-  const Extended error = (upper.Value() - p) / NormalDensity(z, 1).Value();
+  const Scaled upper = special::NormalUpperTail(z);
+  const Extended error = (upper.Value() - p) / special::NormalDensity(z, 1).Value();
   const ExtendedPair refined = special::OrderedSum(z, error);
   return tail == Tail::kUpper ? refined : -refined;
 }
 
-}  // namespace qorvex::full_precision::detail
+}  // namespace qorvex::distributions
