@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <random>
 #include <span>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -31,9 +30,8 @@ TEST(Streams, AreThoseOfTheMethods) {
   const testing::Table table("tables/variate_streams.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     SCOPED_TRACE("row " + std::to_string(row + 1));
-    std::istringstream draws(table.Text(row, "draws"));
-    std::vector<Extended> script;
-    for (Extended draw = 0; draws >> draw;) script.push_back(draw * 0x1p-24L);
+    std::vector<Extended> script = table.Values(row, "draws");
+    for (Extended& draw : script) draw *= 0x1p-24L;
     ScriptedSource source(script);
     const Extended value = DrawRow(table, row, source);
     EXPECT_EQ(source.left(), 0U);
