@@ -40,7 +40,7 @@ QString TextOrDash(std::optional<Extended> figure) {
   return figure ? ExactText(*figure) : QStringLiteral("—");
 }
 
-void WriteValues(const TQorFloatVector& values, const QString& path, BackgroundTask& task) {
+void WriteValues(const TQorFloatVector& values, const QString& path, const Proceed& proceed) {
   QSaveFile file(path);
   const auto check = [&file](bool success) {
     if (!success) throw std::runtime_error(file.errorString().toStdString());
@@ -50,7 +50,7 @@ void WriteValues(const TQorFloatVector& values, const QString& path, BackgroundT
   for (std::size_t i = 0; i < values.size(); ++i) {
     block += Float2Str(values[i]) + '\n';
     if (block.size() < std::size_t{1} << 16) continue;
-    if (!task.Proceed(i, values.size())) return;
+    if (!proceed(i, values.size())) return;
     check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
     block.clear();
   }
@@ -76,7 +76,7 @@ RandomPage::RandomPage(QWidget* parent)
       plot_(new PlotView),
       title_(MakeHeading({})),
       moments_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
-      task_(this) {
+      work_(this) {
   setObjectName(QStringLiteral("randomPage"));
   variate_->setObjectName(QStringLiteral("variate"));
   variate_->setAccessibleName(tr("Variate"));
@@ -149,23 +149,14 @@ RandomPage::RandomPage(QWidget* parent)
     Generate();
   });
   connect(generate_, &QPushButton::clicked, this, &RandomPage::Generate);
-  connect(cancel_, &QPushButton::clicked, this, [this] { task_.Cancel(); });
-  connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
-  connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
-  connect(&task_, &BackgroundTask::Progressed, progress_, &QProgressBar::setValue);
-  connect(&task_, &BackgroundTask::Finished, this, [this](const QString& error, bool cancelled) {
-    message_->Say(cancelled ? tr("Cancelled") : QString());
-    const std::shared_ptr<RandomSample> result = std::move(result_);
-    if (!error.isEmpty() && !saved_path_.isEmpty()) {
-      message_->Say(tr("%1: %2").arg(saved_path_, error));
-    } else if (!error.isEmpty()) {
-      parameters_->ShowInconsistency(error.toStdString());
-    } else if (!cancelled && result != nullptr) {
-      sample_ = result;
-      ShowSample();
-    }
+  connect(cancel_, &QPushButton::clicked, this, [this] {
+    work_.Stop();
+    message_->Say(tr("Cancelled"));
     ShowRunning();
   });
+  connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
+  connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
+  connect(&work_, &BackgroundWork::Progressed, progress_, &QProgressBar::setValue);
   ShowVariate();
   ShowRunning();
 }
@@ -188,7 +179,7 @@ void RandomPage::ShowVariate() {
 
 void RandomPage::Generate() {
   const auto parameters = parameters_->Numbers();
-  if (!parameters || task_.Running()) return;
+  if (!parameters || work_.IsRunning()) return;
   message_->Say({});
   if (const char* const wrong = apps::WhatIsWrong(seed_->Value(), apps::NumberKind::kUint64)) {
     message_->Say(tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(wrong)));
@@ -205,17 +196,22 @@ void RandomPage::Generate() {
   }
   const SampleOrder order = {&Chosen(), *parameters, static_cast<std::size_t>(size_->value()),
                              static_cast<std::uint64_t>(seed_->Value())};
-  saved_path_.clear();
-  result_ = std::make_shared<RandomSample>();
-  task_.Start([order, result = result_](BackgroundTask& task) {
-    *result = DrawSample(
-        order, [&task](std::size_t done, std::size_t total) { return task.Proceed(done, total); });
-  });
+  const auto sample = std::make_shared<RandomSample>();
+  work_.Start([order, sample](const Proceed& proceed) { *sample = DrawSample(order, proceed); },
+              [this, sample] {
+                sample_ = sample;
+                ShowSample();
+                ShowRunning();
+              },
+              [this](const QString& why) {
+                parameters_->ShowInconsistency(why.toStdString());
+                ShowRunning();
+              });
   ShowRunning();
 }
 
 void RandomPage::ShowRunning() {
-  const bool running = task_.Running();
+  const bool running = work_.IsRunning();
   generate_->setEnabled(!running);
   cancel_->setEnabled(running);
   copy_->setEnabled(!running && sample_ != nullptr);
@@ -269,10 +265,14 @@ void RandomPage::AskAndSave() {
 }
 
 void RandomPage::Save(const QString& path) {
-  if (sample_ == nullptr || task_.Running()) return;
-  saved_path_ = path;
-  task_.Start(
-      [sample = sample_, path](BackgroundTask& task) { WriteValues(sample->values, path, task); });
+  if (sample_ == nullptr || work_.IsRunning()) return;
+  work_.Start([sample = sample_,
+               path](const Proceed& proceed) { WriteValues(sample->values, path, proceed); },
+              [this] { ShowRunning(); },
+              [this, path](const QString& why) {
+                message_->Say(tr("%1: %2").arg(path, why));
+                ShowRunning();
+              });
   ShowRunning();
 }
 
