@@ -26,7 +26,7 @@ class TQorFloatEdit;
 namespace qorvex::gallery {
 
 class FigureTable;
-class MessageLabel;
+class MessageBar;
 class ParameterForm;
 class PlotView;
 
@@ -58,6 +58,7 @@ class RandomPage : public QWidget {
   void Copy();
   void AskAndSave();
   [[nodiscard]] const apps::Variate& Chosen() const;
+  [[nodiscard]] QString WhatIsWrong(const std::vector<Extended>& parameters) const;
 
   std::vector<const apps::Variate*> variates_;
   std::shared_ptr<const RandomSample> sample_;
@@ -67,7 +68,7 @@ class RandomPage : public QWidget {
   ParameterForm* parameters_;
   QSpinBox* size_;
   TQorFloatEdit* seed_;
-  MessageLabel* message_;
+  MessageBar* message_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;

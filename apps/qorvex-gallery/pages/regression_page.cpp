@@ -241,7 +241,7 @@ void RegressionPage::Refresh() {
   plot_->SetLayers(std::move(layers));
 
   const auto number = [this](std::optional<Extended> figure) {
-    if (!figure) return QStringLiteral("–");
+    if (!figure) return QStringLiteral("—");
     return QorvexBaseControls::detail::LocalNumber(Float2Str(*figure), locale());
   };
   const auto row = [&](const QString& label, auto figure) {
