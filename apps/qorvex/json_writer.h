@@ -26,8 +26,10 @@ class JsonWriter {
   /// The key of the next value.
   void Key(std::string_view key);
 
-  /// A string; bytes that are no UTF-8 become U+FFFD.
+  /// A string; bytes that are not valid UTF-8 become U+FFFD.
   void String(std::string_view text);
+  /// A string, or null for an empty one.
+  void StringOrNull(std::string_view text);
   void Bool(bool value) { Raw(value ? "true" : "false"); }
   void Integer(std::integral auto value) { Raw(Int2EStr(value)); }
   /// The shortest text that gives the same 80-bit value back; null for nothing, for NaN and for an

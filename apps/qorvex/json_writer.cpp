@@ -1,4 +1,4 @@
-#include "apps/common/json_writer.h"
+#include "apps/qorvex/json_writer.h"
 
 #include <cmath>
 #include <utility>
@@ -79,6 +79,10 @@ void JsonWriter::Key(std::string_view key) {
 
 void JsonWriter::String(std::string_view text) {
   Raw(Quoted(text));
+}
+
+void JsonWriter::StringOrNull(std::string_view text) {
+  text.empty() ? Null() : String(text);
 }
 
 void JsonWriter::Number(std::optional<Extended> value) {
