@@ -1,13 +1,14 @@
 #include "apps/qorvex-gallery/model/variate_theory.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
+#include <memory>
 #include <numbers>
 #include <string_view>
 #include <vector>
 
 #include "apps/common/distributions.h"
-#include "apps/qorvex-gallery/model/distribution_curve.h"
 
 namespace qorvex::gallery {
 
@@ -68,35 +69,14 @@ struct Moments {
 
 constexpr Moments kMoments[] = {
     {"uniform", [](Parameters) { return 0.5L; }, [](Parameters) { return 1 / 12.0L; }},
-    {"normal", [](Parameters p) { return p[0]; }, [](Parameters p) { return p[1] * p[1]; }},
-    {"exponential", [](Parameters p) { return p[0]; }, [](Parameters p) { return p[0] * p[0]; }},
-    {"gamma", [](Parameters p) { return p[0] * p[1]; },
-     [](Parameters p) { return p[0] * p[1] * p[1]; }},
-    {"chi-square", [](Parameters p) { return p[0]; }, [](Parameters p) { return 2 * p[0]; }},
     {"weibull", [](Parameters p) { return p[1] * WeibullMoment(p, 1); },
      [](Parameters p) {
        const Extended mean = WeibullMoment(p, 1);
        return p[1] * p[1] * (WeibullMoment(p, 2) - mean * mean);
      }},
-    {"beta", [](Parameters p) { return p[2] + (p[3] - p[2]) * p[0] / (p[0] + p[1]); },
-     [](Parameters p) {
-       const Extended sum = p[0] + p[1];
-       const Extended width = p[3] - p[2];
-       return width * width * p[0] * p[1] / (sum * sum * (sum + 1));
-     }},
-    {"student-t", [](Parameters p) { return p[0] > 1 ? 0 : kNone; },
-     [](Parameters p) { return p[0] > 2 ? p[0] / (p[0] - 2) : kNone; }},
-    {"log-normal", [](Parameters p) { return std::exp(p[0] + p[1] * p[1] / 2); },
-     [](Parameters p) {
-       const Extended square = p[1] * p[1];
-       return std::expm1(square) * std::exp(2 * p[0] + square);
-     }},
     {"von-mises", [](Parameters) { return 0.0L; }, [](Parameters) { return kNone; }},
-    {"binomial", [](Parameters p) { return p[0] * p[1]; },
-     [](Parameters p) { return p[0] * p[1] * (1 - p[0]); }},
     {"negative-binomial", [](Parameters p) { return p[1] * p[0] / (1 - p[0]); },
      [](Parameters p) { return p[1] * p[0] / ((1 - p[0]) * (1 - p[0])); }},
-    {"poisson", [](Parameters p) { return p[0]; }, [](Parameters p) { return p[0]; }},
 };
 
 struct OwnDensity {
@@ -113,6 +93,14 @@ constexpr OwnDensity kOwnDensities[] = {
     {"negative-binomial", NegativeBinomialProbability},
 };
 
+// A variate may go beyond what the family computes, such as 2^32 trials.
+bool Takes(const apps::Family& family, Parameters parameters) {
+  return std::equal(parameters.begin(), parameters.end(), family.parameters.begin(),
+                    [](Extended number, const apps::NumberParameter& parameter) {
+                      return apps::WhatIsWrong(number, parameter.kind) == nullptr;
+                    });
+}
+
 std::optional<Extended> Existing(Extended value) {
   return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
@@ -120,16 +108,17 @@ std::optional<Extended> Existing(Extended value) {
 }  // namespace
 
 VariateTheory TheoryOf(const apps::Variate& variate, Parameters parameters) {
+  VariateTheory theory;
+  const apps::Family* const family = apps::FindFamily(variate.name);
+  theory.is_count = family != nullptr && family->is_discrete;
+  if (family != nullptr && Takes(*family, parameters)) {
+    const std::shared_ptr<const apps::AnyDistribution> distribution = family->make(parameters);
+    theory.density = [distribution](Extended x) { return distribution->Pdf(x); };
+    theory.mean = Existing(distribution->Mean());
+    theory.variance = Existing(distribution->Variance());
+  }
   const std::string_view name = variate.name;
   const std::vector<Extended> kept(parameters.begin(), parameters.end());
-  VariateTheory theory;
-  for (const apps::Distribution& distribution : apps::Distributions()) {
-    if (distribution.name != name) continue;
-    theory.is_count = distribution.is_discrete;
-    theory.density = [&distribution, kept](Extended x) {
-      return FigureAt(distribution.full_precision.density, kept, x);
-    };
-  }
   for (const OwnDensity& own : kOwnDensities) {
     if (own.variate != name) continue;
     theory.is_count = own.density == NegativeBinomialProbability;
