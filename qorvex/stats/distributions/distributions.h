@@ -11,6 +11,7 @@
 #include "qorvex/stats/distributions/f_distribution.h"
 #include "qorvex/stats/distributions/figures.h"
 #include "qorvex/stats/distributions/gamma.h"
+#include "qorvex/stats/distributions/generalised_inverse_gaussian.h"
 #include "qorvex/stats/distributions/geometric.h"
 #include "qorvex/stats/distributions/gumbel.h"
 #include "qorvex/stats/distributions/hypergeometric.h"
@@ -21,4 +22,5 @@
 #include "qorvex/stats/distributions/poisson.h"
 #include "qorvex/stats/distributions/student_t.h"
 #include "qorvex/stats/distributions/uniform.h"
+#include "qorvex/stats/distributions/von_mises.h"
 #include "qorvex/stats/distributions/weibull.h"
