@@ -223,31 +223,30 @@ class Quadrature:
         return total
 
     def quantile(self, *arguments):
+        """By Newton's iteration for the logarithm of the smaller tail in the logarithm of a distance."""
         *parameters, p, q = arguments
-        if p == q and self.is_even:
-            return mpf(0)
         side, log_tail = (0, mp.log(p)) if p < q else (1, mp.log(q))
 
-        def newton_step(x):
-            tail = self.tail(side, *parameters, x)
-            step = (mp.log(tail) - log_tail) * tail / self.density(*parameters, x)
-            return self.limited(step if side == 1 else -step, x)
-        x = self.start(*parameters, p, q)
+        def newton_step(distance):
+            tail = self.tail_at(side, *parameters, distance)
+            slope = distance * self.density(*parameters, self.point(side, distance)) / tail
+            return (log_tail - mp.log(tail)) / slope
+        distance = self.start(*parameters)
         with mp.workdps(20):
-            for _ in range(200):
-                step = newton_step(x)
-                x += step
-                if abs(step) < abs(x) * mpf(10) ** -12:
-                    break
+            step = 1
+            while abs(step) > mpf(10) ** -12:
+                step = self.limited(newton_step(distance))
+                distance *= mp.exp(step if self.grows(side) else -step)
         for _ in range(3):
-            x += newton_step(x)
-        return x
+            step = newton_step(distance)
+            distance *= mp.exp(step if self.grows(side) else -step)
+        assert abs(step) < mpf(10) ** -(DIGITS + 3), (arguments, step)
+        return self.point(side, distance)
 
 
 class VonMises(Quadrature):
     columns = ["concentration"]
     parameters = [(0,), (0.01,), (0.5,), (2,), (9.5,), (40,), (600,), (1e5,), (1e12,)]
-    is_even = True
 
     def points(self, k):
         width = min(mpf(1), 1 / mp.sqrt(k) if k > 0 else mpf(1))
@@ -256,19 +255,32 @@ class VonMises(Quadrature):
         return points + [-points[3], -points[-3]]
 
     def tails(self, k, x):
-        upper = self.tail(1, k, abs(x))
+        upper = self.tail_at(1, k, mp.pi - abs(x))
         return whole_tails(upper=upper) if x > 0 else whole_tails(lower=upper)
 
-    def tail(self, side, k, x):
-        assert (x >= 0) == (side == 1)
-        x = abs(x)
+    def tail_at(self, side, k, distance):
+        """The tail at a distance from pi or -pi."""
+        def step(s):
+            return min(mpf(1) / 2, 3 / (k * mp.sin(s) + mp.sqrt(k) + 1))
+        area = self.integral(lambda s: -2 * k * mp.cos(s / 2) ** 2, distance, step, mpf(0))
+        return area * self.density(k, self.point(1, distance))
 
-        def step(t):
-            return min(mpf(1) / 2, 3 / (k * mp.sin(t) + mp.sqrt(k) + 1))
+    def point(self, side, distance):
+        """Quantiles are found as distances from pi, which may be far below the working precision."""
+        return mp.pi - distance if side == 1 else distance - mp.pi
 
-        def versine(t):
-            return 2 * mp.sin(t / 2) ** 2
-        return self.integral(lambda t: -k * versine(t), x, step, +mp.pi) * self.density(k, x)
+    def quantile(self, k, p, q):
+        return mpf(0) if p == q else super().quantile(k, p, q)
+
+    def grows(self, side):
+        """Whether the tail grows with the distance."""
+        return True
+
+    def start(self, k):
+        return +mp.pi
+
+    def limited(self, step):
+        return step
 
     def density(self, k, x):
         # The scaled Bessel function; for large arguments by its asymptotic series.
@@ -284,21 +296,11 @@ class VonMises(Quadrature):
             scaled /= mp.sqrt(2 * mp.pi * k)
         return mp.exp(-2 * k * mp.sin(x / 2) ** 2) / (2 * mp.pi * scaled)
 
-    def start(self, k, p, q):
-        side = -1 if p < q else 1
-        # Where the density has fallen by the tail.
-        return side * min(mpf(3), mp.sqrt(-2 * mp.log(2 * min(p, q)) / max(k, 1)))
-
-    def limited(self, step, x):
-        target = x + step
-        return (mp.sign(x) * mp.pi + x) / 2 - x if abs(target) > mp.pi or target * x < 0 and abs(x) > 1 else step
-
 
 class GeneralisedInverseGaussian(Quadrature):
     columns = ["h", "b"]
     parameters = [(2, 0.5), (2, -0.5), (1, 0), (0.1, 3), (30, -7), (1e-3, 0.25), (1e-8, 1), (1e4, 12), (5, 1e5), (1e9, -0.5)]
     distances = [-160, -60, -30, -12, -5, -1.5, 0, 0.7, 2, 6, 15, 40, 160]
-    is_even = False
 
     def mode(self, h, b):
         return mp.asinh(mpf(b) / h)
@@ -315,11 +317,11 @@ class GeneralisedInverseGaussian(Quadrature):
         return x ** (b - 1) * mp.exp(-h / 2 * (x + 1 / x)) / (2 * mp.besselk(b, h))
 
     def tails(self, h, b, x):
-        lower, upper = self.tail(0, h, b, x), self.tail(1, h, b, x)
+        lower, upper = self.tail_at(0, h, b, x), self.tail_at(1, h, b, x)
         assert abs(lower + upper - 1) < mpf(10) ** -(DIGITS + 3)
         return lower, upper
 
-    def tail(self, side, h, b, x):
+    def tail_at(self, side, h, b, x):
         def phi(u):
             power = mp.exp(u)
             return b * u - h / 2 * (power + 1 / power)
@@ -334,11 +336,17 @@ class GeneralisedInverseGaussian(Quadrature):
         parts = self.integral(phi, mode, step, u) + self.integral(phi, mode, step, end)
         return parts * mp.exp(phi(mode) - phi(u)) * at_point
 
-    def start(self, h, b, p, q):
+    def point(self, side, distance):
+        return distance
+
+    def grows(self, side):
+        return side == 0
+
+    def start(self, h, b):
         return mp.exp(self.mode(h, b))
 
-    def limited(self, step, x):
-        return max(-x / 2, min(x, step))
+    def limited(self, step):
+        return max(mpf(-1), min(mpf(1), step))
 
 
 FAMILIES = {

@@ -11,19 +11,19 @@ namespace qorvex {
 
 /// The generalised inverse Gaussian distribution.
 ///
-/// - Density: proportional to z^(b - 1) exp(-h / 2 (z + 1 / z)) for z = x / s, with concentration
-/// h,
-///   order b and scale s. Random_Inv_Gauss(h, b) draws for s = 1; b may be negative here, which
-///   gives the reciprocal for s = 1.
+/// - Density: proportional to z^(b - 1) exp(-h / 2 (z + 1 / z)) for z = x / s, with scale s,
+///   concentration h and order b. Random_Inv_Gauss(h, b) draws from that of scale 1, and -b
+///   gives the distribution of its reciprocal.
 /// - Support: x >= 0.
 /// - Errors: rsInvalidValue unless h > 0; rsValueGZero unless scale > 0; EInvalidOp for h outside
 ///   1e-18 to 1e15, and for b outside -1e15 to 1e15.
-/// - Accuracy: Skewness loses digits as it nears 0.
+/// - Accuracy: quantiles are off by up to 20 units for small h. Skewness loses digits near 0.
 /// - Cost: a tail 64 exponentials, and more where h is small: 700 for h = 1e-18.
-/// - Method: Gauss-Legendre quadrature of the density of ln X, relative to that at the point, with
-///   an error below 1e-20 of the tail; the exponent in 125 bits. The same rule gives the constant,
-///   for which others take the Bessel function K. Quantiles by Halley's iteration on the logarithm
-///   of the smaller tail.
+/// - Method: Gauss-Legendre quadrature (Davis and Rabinowitz 1984, "Methods of numerical
+///   integration") of the density of ln X, relative to that at the point, with an error below 1e-20
+///   of the tail; the exponent in 125 bits. The normalising constant comes from the same rule
+///   instead of the Bessel function K. Quantiles by Halley's iteration on the logarithm of the
+///   smaller tail.
 class QORVEX_EXPORT GeneralisedInverseGaussianDistribution {
  public:
   /// The type of the points.

@@ -17,8 +17,7 @@ namespace qorvex {
 /// - Probability of k: Gamma(k + r) / (Gamma(r) k!) p^k (1 - p)^r.
 /// - Support: all counts.
 /// - Errors: rsInvalidValue unless 0 < p < 1 and failures > 0; EInvalidOp for failures outside
-/// 1e-18
-///   to 1e15. For a parameter of NaN Quantile and Mode raise rsInvalidValue.
+///   1e-18 to 1e15. For a parameter of NaN Quantile and Mode raise rsInvalidValue.
 /// - Method: beta tails with shapes r and k + 1.
 class QORVEX_EXPORT NegativeBinomialDistribution {
  public:

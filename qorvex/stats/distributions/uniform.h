@@ -16,7 +16,7 @@ namespace qorvex {
 /// - Errors: rsInvalidValue unless least < greatest; EInvalidOp where an end is infinite or the
 ///   ends are farther apart than the format reaches.
 /// - Mode: least.
-/// - Accuracy: correctly rounded but for rare cases.
+/// - Accuracy: within one unit in the last place.
 class QORVEX_EXPORT UniformDistribution {
  public:
   /// The type of the points.

@@ -78,21 +78,23 @@ Extended VonMisesDistribution::Quantile(Tail tail, Extended p) const {
   // Closer to pi than the format resolves.
   if (UpperTailAt(kLastAngle).probability.Value() >= p) return on_side(QorPi);
   const Extended ln_p = std::log(p);
-  constexpr Extended enough = 1e-12L;
-  constexpr Extended near = 0.5L;
+  constexpr Extended tolerance = 1e-12L;
+  constexpr Extended newton_threshold = 0.5L;
   constexpr Extended unit = 1e-19L;
   Extended below = 0;
   Extended above = kLastAngle;
   Extended x = std::fmin(std::sqrt(-2 * std::log(2 * p) * Variance()), QorPi / 2);
-  for (Extended excess = 1, step = 1; std::fabs(excess) > enough && std::fabs(step) > unit * x;) {
+  for (Extended excess = 1, step = 1;
+       std::fabs(excess) > tolerance && std::fabs(step) > unit * x;) {
     const UpperTail upper = UpperTailAt(x);
     const Extended relative = upper.probability.Value() / p - 1;
-    excess = std::fabs(relative) < near ? std::log1p(relative) : upper.probability.Log() - ln_p;
+    excess = std::fabs(relative) < newton_threshold ? std::log1p(relative)
+                                                    : upper.probability.Log() - ln_p;
     (excess > 0 ? below : above) = x;
     // Newton's step for the logarithm of the distance from pi, which the tail is about a power of.
     const Extended rest = (kPi - x).hi;
     Extended next = x - rest * std::expm1(-excess * upper.relative / rest);
-    if (std::fabs(excess) > near && !(next > below && next < above))
+    if (std::fabs(excess) > newton_threshold && !(next > below && next < above))
       next = below + (above - below) / 2;
     step = next - x;
     x = next;

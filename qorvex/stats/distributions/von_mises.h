@@ -18,9 +18,10 @@ namespace qorvex {
 /// - Accuracy: a quantile near 0, which takes p to be near 1/2, is off by 2e-19 times the standard
 ///   deviation.
 /// - Cost: a tail some 64 exponentials and 128 sines.
-/// - Method: Gauss-Legendre quadrature of the tail from the point outwards, relative to the density
-///   there, with an error below 1e-20 of the tail; the exponent k (1 - cos x) in 125 bits.
-///   Quantiles by Newton's iteration on the logarithm of the tail, with bisection as a fallback.
+/// - Method: Gauss-Legendre quadrature (Davis and Rabinowitz 1984, "Methods of numerical
+///   integration") of the tail from the point outwards, relative to the density there, with an
+///   error below 1e-20 of the tail; the exponent k (1 - cos x) in 125 bits. Quantiles by Newton's
+///   iteration on the logarithm of the tail, with bisection as a fallback.
 class QORVEX_EXPORT VonMisesDistribution {
  public:
   /// The type of the points.

@@ -11,13 +11,12 @@ namespace qorvex {
 
 /// The Weibull distribution, and with a negative shape the Frechet distribution.
 ///
-/// - Density: |a| t e^-t / x for t = (x / s)^a, with shape a and scale s. t is exponential with
-/// mean
-///   1, and Random_Weibull(a) draws for s = 1.
+/// - Density: |a| t e^-t / x for t = (x / s)^a, with shape a and scale s. t has the exponential
+///   distribution with mean 1. Random_Weibull(a) draws from that of scale 1.
 /// - Support: x >= 0.
 /// - Errors: rsInvalidValue for a shape of 0; rsValueGZero unless scale > 0; EInvalidOp for a shape
 ///   outside 1e-18 to 1e15 in size.
-/// - Skewness loses digits as the shape grows, about as many as the shape has before the point.
+/// - Accuracy: Skewness loses about as many digits as the shape has before the point.
 /// - Method: closed forms, with t in 125 bits.
 class QORVEX_EXPORT WeibullDistribution {
  public:
