@@ -49,6 +49,14 @@
 #define QORVEX_DESC_STATS_FIGURE(Name, member) QORVEX_DESC_STATS_RESULT(QString, Name, Name##Text)
 /// Publishes any other result.
 #define QORVEX_DESC_STATS_SHOWN(Type, Name) QORVEX_DESC_STATS_RESULT(Type, Name, Name)
+/// The accessors of a figure: the number and its published text.
+#define QORVEX_DESC_STATS_ACCESSORS(Name, member) \
+  [[nodiscard]] Extended Name() const noexcept {  \
+    return Results().member;                      \
+  }                                               \
+  [[nodiscard]] QString Name##Text() const {      \
+    return Text(Results().member);                \
+  }
 
 QORVEX_WIDGET_UNIT(QorvexDescStats) {
 
@@ -130,22 +138,12 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   [[nodiscard]] Extended InterQuartileRange() const noexcept {
     return Results().inter_quartile_range;
   }
-/// @cond internal
-#define QORVEX_DESC_STATS_ACCESSORS(Name, member) \
-  [[nodiscard]] Extended Name() const noexcept {  \
-    return Results().member;                      \
-  }                                               \
-  [[nodiscard]] QString Name##Text() const {      \
-    return Text(Results().member);                \
-  }
-  /// @endcond
   /// @{
   /// A figure of Results and the text that is published. Mode is meaningful when ModeExists;
   /// Kurtosis is the excess kurtosis.
   QORVEX_DESC_STATS_PROPERTIES(QORVEX_DESC_STATS_SKIP, QORVEX_DESC_STATS_ACCESSORS,
                                QORVEX_DESC_STATS_SKIP)
   /// @}
-#undef QORVEX_DESC_STATS_ACCESSORS
 
   /// The version of the library.
   [[nodiscard]] QString Version() const;
@@ -164,9 +162,7 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
 
   /// Suspends computation until EndUpdate. This is a flag, not a counter: the first EndUpdate ends
   /// any number of BeginUpdate calls.
-  void BeginUpdate() noexcept {
-    stats_.BeginUpdate();
-  }
+  void BeginUpdate() noexcept { stats_.BeginUpdate(); }
   /// Ends an update and computes the results.
   void EndUpdate();
 
@@ -175,9 +171,7 @@ class QORVEX_EXPORT TQorDescStats : public QObject {
   void ConvertItems();
   /// For forms, after they have set the properties: calls ConvertItems. Forms need not call it,
   /// since setItems has converted the lines.
-  void Loaded() {
-    ConvertItems();
-  }
+  void Loaded() { ConvertItems(); }
 
   /// The report, one line per figure: label, tab, and value with DecimalPlaces decimals. Ends an
   /// update first. For an empty sample it is one line, the message rsVectorIsEmpty.

@@ -49,6 +49,7 @@ class QORVEX_EXPORT TQorDescStatsHolder : public ComponentHolder {
   void StatsUpdated();
 
  private:
+  /// @cond internal
 #define QORVEX_FORWARD(Type, Name) \
   Type Name() const {              \
     return stats_->Name();         \
@@ -57,6 +58,7 @@ class QORVEX_EXPORT TQorDescStatsHolder : public ComponentHolder {
   QORVEX_DESC_STATS_PROPERTIES(QORVEX_DESC_STATS_SKIP, QORVEX_FORWARD_TEXT, QORVEX_FORWARD)
 #undef QORVEX_FORWARD
 #undef QORVEX_FORWARD_TEXT
+  /// @endcond
 
   template <class T>
   void ignore(const T&) noexcept {}
