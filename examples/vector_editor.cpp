@@ -20,8 +20,9 @@ int main(int argc, char** argv) {
     std::cout << "Mean " << qorvex::Float2EStr(mean, 3) << " g\n";
   };
   QObject::connect(&editor, &qorvex::TQorVectorEdit::OnChange, report);
-  QObject::connect(&editor, &qorvex::TQorVectorEdit::OnBlockRefused,
-                   [](const QString& message) { std::cout << message.toStdString() << '\n'; });
+  QObject::connect(
+      &editor, &qorvex::TQorVectorEdit::OnBlockRefused,
+      [](const QString& message) { std::cout << message.toStdString() << '\n'; });
   report();
 
   // What a spreadsheet puts on the clipboard, as Ctrl+V would paste it.
