@@ -48,17 +48,6 @@ Reference ReferenceOf(const D& d, bool has_fourth_moment = true) {
           {static_cast<Extended>(least), static_cast<Extended>(greatest), DiscreteDistribution<D>}};
 }
 
-/// The distribution with the probabilities of at most points[i], given up to a common factor.
-Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,
-                    Support support);
-
-/// The distribution of map(t), map being increasing, for t in [lo, hi] with a density proportional
-/// to exp(log_density(t)): integrated over 8192 intervals by a Gauss rule. The moments take the
-/// middle of an interval for its mean, which is off by a millionth.
-Reference Integrated(const std::function<Extended(Extended)>& log_density,
-                     const std::function<Extended(Extended)>& map, Extended lo, Extended hi,
-                     Support support);
-
 using Draw = std::function<Extended(UniformSource)>;
 
 /// What the battery found: whether all variates are in the support, and the p-values of its four

@@ -68,7 +68,10 @@ inline std::vector<Figure> DistributionFigures() {
       {"lower", Lower<apps::AnyDistribution>},
       {"upper", Upper<apps::AnyDistribution>},
       {"density", [](const apps::AnyDistribution& d, Extended x) { return d.Pdf(x); }},
-      {"quantile", Quantile<apps::AnyDistribution>}};
+      {"quantile", Quantile<apps::AnyDistribution>},
+      {"log lower", LogLower<apps::AnyDistribution>},
+      {"log upper", LogUpper<apps::AnyDistribution>},
+      {"upper quantile", UpperQuantile<apps::AnyDistribution>}};
   std::vector<Figure> figures;
   const Table tables("tables/distribution_tables.csv");
   for (std::size_t i = 0; i < tables.size(); ++i) {
