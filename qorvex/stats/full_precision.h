@@ -8,27 +8,27 @@
 /// @cond
 namespace qorvex::full_precision {
 
-#define QORVEX_FAMILY(Name, Class, density, Point, PARAMETERS, ARGUMENTS)                        \
-  inline Extended Name##density(QORVEX_LIST PARAMETERS, Point x) {                               \
-    return Density(Class ARGUMENTS, x);                                                          \
-  }                                                                                              \
-  inline Extended Name##Lower(QORVEX_LIST PARAMETERS, Point x) {                                 \
-    return Lower(Class ARGUMENTS, x);                                                            \
-  }                                                                                              \
-  inline Extended Name##Upper(QORVEX_LIST PARAMETERS, Point x) {                                 \
-    return Upper(Class ARGUMENTS, x);                                                            \
-  }                                                                                              \
-  inline Extended Name##LogLower(QORVEX_LIST PARAMETERS, Point x) {                              \
-    return LogLower(Class ARGUMENTS, x);                                                         \
-  }                                                                                              \
-  inline Extended Name##LogUpper(QORVEX_LIST PARAMETERS, Point x) {                              \
-    return LogUpper(Class ARGUMENTS, x);                                                         \
-  }                                                                                              \
-  inline Point Name##Quantile(QORVEX_LIST PARAMETERS, Extended prob) {                           \
-    return Quantile(Class ARGUMENTS, prob);                                                      \
-  }                                                                                              \
-  inline Point Name##UpperQuantile(QORVEX_LIST PARAMETERS, Extended prob) {                      \
-    return UpperQuantile(Class ARGUMENTS, prob);                                                 \
+#define QORVEX_FAMILY(Name, Class, density, Point, PARAMETERS, ARGUMENTS)   \
+  inline Extended Name##density(QORVEX_LIST PARAMETERS, Point x) {          \
+    return Density(Class ARGUMENTS, x);                                     \
+  }                                                                         \
+  inline Extended Name##Lower(QORVEX_LIST PARAMETERS, Point x) {            \
+    return Lower(Class ARGUMENTS, x);                                       \
+  }                                                                         \
+  inline Extended Name##Upper(QORVEX_LIST PARAMETERS, Point x) {            \
+    return Upper(Class ARGUMENTS, x);                                       \
+  }                                                                         \
+  inline Extended Name##LogLower(QORVEX_LIST PARAMETERS, Point x) {         \
+    return LogLower(Class ARGUMENTS, x);                                    \
+  }                                                                         \
+  inline Extended Name##LogUpper(QORVEX_LIST PARAMETERS, Point x) {         \
+    return LogUpper(Class ARGUMENTS, x);                                    \
+  }                                                                         \
+  inline Point Name##Quantile(QORVEX_LIST PARAMETERS, Extended prob) {      \
+    return Quantile(Class ARGUMENTS, prob);                                 \
+  }                                                                         \
+  inline Point Name##UpperQuantile(QORVEX_LIST PARAMETERS, Extended prob) { \
+    return UpperQuantile(Class ARGUMENTS, prob);                            \
   }
 #define QORVEX_LIST(...) __VA_ARGS__
 QORVEX_FAMILY(Normal, NormalDistribution, Pdf, Extended, (Extended a, Extended b), (a, b))
