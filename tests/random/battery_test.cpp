@@ -1,6 +1,8 @@
-// Each variate at parameters that reach every branch of its method. About 90 judgements of at most
-// four checks fail at p < 1e-6 each: another engine, or a change of a stream, would raise a false
-// alarm with a probability of 4e-4. With the fixed seed the outcome is always the same.
+// Statistical tests of each variate, at parameters that reach every branch of its method.
+//
+// The seed is fixed, so the outcome never changes. About 90 tests make up to four checks each,
+// which fail at p < 1e-6: with another engine or after a change of a stream, the probability of a
+// false alarm is 4e-4.
 
 #include <array>
 #include <cmath>
@@ -25,8 +27,8 @@ using testing::Support;
 constexpr Support kPositive{0, kInfinity};
 constexpr Support kCounts{0, kInfinity, true};
 
-// A distribution of the library. The variance is not tested where it depends on a few variates, or
-// where the fourth moment is infinite.
+// A distribution of the library. The variance is not tested if a few variates dominate it, or if
+// the fourth moment is infinite.
 template <Distribution D>
 Reference Of(const D& d, bool test_variance = true) {
   const auto support = d.Support();
@@ -68,7 +70,7 @@ Reference StudentT(Extended df) {
 
 Reference Weibull(Extended a, Extended = 0) {
   const Extended mean = std::tgamma(1 + 1 / a);
-  // The variance does not exist for negative shapes down to -2.
+  // For negative shapes the variance exists only below -2.
   const Moments moments = a > 0 ? Moments{mean, std::tgamma(1 + 2 / a) - mean * mean} : Moments{};
   return {[a](Extended x) {
             const Extended power = std::pow(x, a);
@@ -85,7 +87,7 @@ Reference Cauchy(Extended = 0, Extended = 0) {
           {-kInfinity, kInfinity}};
 }
 
-// Over the logarithm of x, down to e^-60 of the greatest density.
+// Integrated over the logarithm of x, as far as the density exceeds e^-60 of its maximum.
 Reference GeneralisedInverseGaussian(Extended h, Extended b) {
   const auto log_density = [=](Extended t) { return b * t - h * std::cosh(t); };
   const Extended mode = std::asinh(b / h);
@@ -98,7 +100,7 @@ Reference GeneralisedInverseGaussian(Extended h, Extended b) {
       log_density, [](Extended t) { return std::exp(t); }, end(-1), end(1), kPositive);
 }
 
-// The integrated distribution chooses the cells of the closed form.
+// In closed form. The integrated distribution serves only to choose the cells.
 Reference InverseGaussian(Extended mean, Extended shape) {
   const Reference reciprocal = GeneralisedInverseGaussian(shape / mean, 0.5L);
   const NormalDistribution normal(0, 1);
@@ -126,7 +128,7 @@ Reference Binomial(Extended n, Extended p) {
   return n > 0x1p32L ? Poisson(n * p) : Of(BinomialDistribution(p, static_cast<std::uint32_t>(n)));
 }
 
-// By the quotients of neighbouring probabilities.
+// From quotients of neighbouring probabilities.
 Reference NegativeBinomial(Extended sk, Extended p) {
   const Extended mean = sk * p / (1 - p);
   Extended probability = std::pow(1 - p, sk);
@@ -154,7 +156,7 @@ TQorFloatVector DeviationsFromMean(UniformSource source) {
   return variate;
 }
 
-// With the inverse of the matrix, by its cofactors.
+// The inverse of the matrix is computed from cofactors.
 Extended MahalanobisDistance(const TQorFloatVector& x) {
   Extended sum = 0;
   Extended determinant = 0;
