@@ -8,6 +8,7 @@ namespace qorvex::apps {
 
 namespace {
 
+constexpr auto kReal = NumberKind::kReal;
 constexpr auto kShape = NumberKind::kShape;
 constexpr auto kDegrees = NumberKind::kDegreesOfFreedom;
 constexpr auto kCount = NumberKind::kCount;
@@ -18,6 +19,7 @@ std::uint32_t Count(Extended number) {
 
 std::vector<Family> AllFamilies() {
   const NumberParameter df = {"--df", "degrees of freedom", kDegrees, 5};
+  const NumberParameter location = {"--location", "location", kReal, 0, true};
   return {
       {.name = "normal",
        .aliases = {"gaussian"},
@@ -69,6 +71,44 @@ std::vector<Family> AllFamilies() {
            [](Numbers p) { return Erase(BetweenEnds(BetaDistribution(p[0], p[1]), p[2], p[3])); },
        .classic = kClassicBeta,
        .inconsistency = [](Numbers p) { return WhatIsWrongWithEnds(p[2], p[3]); }},
+      {.name = "uniform",
+       .summary = "The continuous uniform distribution between two ends",
+       .parameters = {kLowerEnd, kUpperEnd},
+       .make = [](Numbers p) { return Erase(UniformDistribution(p[0], p[1])); },
+       .inconsistency = [](Numbers p) { return WhatIsWrongWithEnds(p[0], p[1]); }},
+      {.name = "weibull",
+       .summary = "The Weibull distribution; with a negative shape the Frechet distribution",
+       .parameters = {{"--shape", "shape", kReal, 2}, kScale},
+       .make = [](Numbers p) { return Erase(WeibullDistribution(p[0], p[1])); }},
+      {.name = "gumbel",
+       .aliases = {"extreme-value"},
+       .summary = "The Gumbel distribution of maxima",
+       .parameters = {location, kScale},
+       .make = [](Numbers p) { return Erase(GumbelDistribution(p[0], p[1])); }},
+      {.name = "logistic",
+       .summary = "The logistic distribution",
+       .parameters = {location, kScale},
+       .make = [](Numbers p) { return Erase(LogisticDistribution(p[0], p[1])); }},
+      {.name = "cauchy",
+       .aliases = {"lorentz"},
+       .summary = "The Cauchy distribution",
+       .parameters = {location, kScale},
+       .make = [](Numbers p) { return Erase(CauchyDistribution(p[0], p[1])); }},
+      {.name = "von-mises",
+       .summary = "The von Mises distribution of angles from -pi to pi",
+       .parameters = {{"--concentration", "concentration", kReal, 2}},
+       .make = [](Numbers p) { return Erase(VonMisesDistribution(p[0])); }},
+      {.name = "generalised-inverse-gaussian",
+       .aliases = {"inverse-gaussian"},
+       .summary = "The generalised inverse Gaussian distribution; density as "
+                  "x^(b-1) exp(-h/2 (x + 1/x))",
+       .parameters = {{"--h", "concentration h", kShape, 2},
+                      {"--b", "order b", kReal, 0.5L},
+                      kScale},
+       .make =
+           [](Numbers p) {
+             return Erase(GeneralisedInverseGaussianDistribution(p[0], p[1], p[2]));
+           }},
       {.name = "binomial",
        .summary = "The binomial distribution: successes in independent trials",
        .parameters = {kSuccessProbability, {"--trials", "number of trials", kCount, 20}},
@@ -93,6 +133,18 @@ std::vector<Family> AllFamilies() {
        .make = [](Numbers p) { return Erase(PoissonDistribution(p[0])); },
        .is_discrete = true,
        .classic = kClassicPoisson},
+      {.name = "geometric",
+       .summary = "The geometric distribution: failures before the first success",
+       .parameters = {kSuccessProbability},
+       .make = [](Numbers p) { return Erase(GeometricDistribution(p[0])); },
+       .is_discrete = true},
+      {.name = "negative-binomial",
+       .summary = "The negative binomial distribution: successes before a given number of failures",
+       .parameters = {{kSuccessProbability.option, kSuccessProbability.name,
+                       NumberKind::kProbability, kSuccessProbability.start},
+                      {"--failures", "number of failures, which need not be whole", kShape, 5}},
+       .make = [](Numbers p) { return Erase(NegativeBinomialDistribution(p[0], p[1])); },
+       .is_discrete = true},
   };
 }
 
