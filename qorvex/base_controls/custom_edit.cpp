@@ -67,20 +67,28 @@ QString TQorCustomEdit::ShownText() const {
 }
 
 bool TQorCustomEdit::Commit() {
-  if (Pending()) {
-    const std::optional<Extended> parsed = Parsed(text());
-    if (!parsed) {
-      Mark(true);
-      return false;
-    }
-    const Extended before = value_;
-    setValue(*parsed);
-    if (detail::SameElement(before, value_)) return true;
-    if (Null()) Q_EMIT OnNull();
-    Q_EMIT Changed();
-  } else {
+  if (!Pending()) {
     Restore();
+    return true;
   }
+  const std::optional<Extended> parsed = Parsed(text());
+  if (!parsed) {
+    Mark(true);
+    return false;
+  }
+  const bool same = detail::SameElement(*parsed, value_);
+  if (!same && StoreElsewhere) {
+    // No longer pending: what follows may redisplay the cell.
+    setModified(false);
+    // A copy, since the cell may be dropped meanwhile.
+    const auto store = StoreElsewhere;
+    store(*parsed);
+    return true;
+  }
+  setValue(*parsed);
+  if (same) return true;
+  if (Null()) Q_EMIT OnNull();
+  Q_EMIT Changed();
   return true;
 }
 

@@ -19,7 +19,7 @@ FloatDigits TQorFloatEdit::Digits() const {
 }
 
 std::optional<Extended> TQorFloatEdit::ValueOf(const QString& text) const {
-  return OnConvert ? OnConvert(text) : detail::ParseLocalNumber(text, locale());
+  return *convert_ ? (*convert_)(text) : detail::ParseLocalNumber(text, locale());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

@@ -41,13 +41,18 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
   explicit TQorFloatEdit(QWidget* parent = nullptr);
   ~TQorFloatEdit() override;
 
-  /// Reads texts in place of the cell itself; empty for none.
+  /// Reads texts in place of the cell; empty by default.
   TQorConvertEvent OnConvert;
+  /// Reads texts by a function of the owner, which may change, instead of OnConvert.
+  void UseConvert(const TQorConvertEvent& convert) { convert_ = &convert; }
 
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
   [[nodiscard]] FloatDigits Digits() const override;
   [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
+
+ private:
+  const TQorConvertEvent* convert_ = &OnConvert;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)
