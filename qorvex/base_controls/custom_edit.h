@@ -128,8 +128,10 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Extended value_ = 0;
   bool has_value_ = true;
   bool invalid_ = false;
-  bool applying_colors_ = false;
   QColor special_color_;
+  // The colours of the palette that was set last.
+  QColor applied_text_;
+  QColor applied_background_;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -37,6 +37,7 @@ TQorLabelledVectorEdit::TQorLabelledVectorEdit(QWidget* parent) : TQorVectorEdit
       {.make = [this](QWidget* panel, quint32 row_edit) { return MakeLabel(panel, row_edit); },
        .show = [this](TextCell& label, quint32 row_edit,
                       bool used) { ShowLabel(label, row_edit, used); },
+       .name = [this](quint32 row_edit) { return LabelName(row_edit); },
        .apply = [this](TextCell& label,
                        const CellSettings& settings) { ApplyTo(label, settings); }});
   Parts().grid.SetHeaderWidth(label_width_);
@@ -197,9 +198,11 @@ void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool u
   const quint32 row = Rows().Top() + row_edit;
   static_cast<LabelCell&>(label).Show(used ? Label(row) : QString());
   label.setEnabled(used);
-  const QString name =
-      QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1").arg(qint64{row} + 1);
-  if (label.accessibleName() != name) label.setAccessibleName(name);
+}
+
+QString TQorLabelledVectorEdit::LabelName(quint32 row_edit) const {
+  return QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1")
+      .arg(qint64{Rows().Top()} + row_edit + 1);
 }
 
 }  // namespace qorvex::inline QorvexVectorEdit

@@ -116,6 +116,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   LabelCell* MakeLabel(QWidget* panel, quint32 row_edit);
   void ChangeLabel(quint32 row_edit, const QString& text);
   void ShowLabel(TextCell& label, quint32 row_edit, bool used);
+  [[nodiscard]] QString LabelName(quint32 row_edit) const;
   void ApplyTo(TextCell& label, const CellSettings& settings) const;
   void ApplyLabelSettings();
   void GrowCustomLabels(qsizetype count);

@@ -114,7 +114,7 @@ void CellPanel::FitGrid() {
 void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
-  if (!Updating()) parts_->grid.Show(table_);
+  if (!Updating()) parts_->grid.Show();
 }
 
 void CellPanel::Watch(TextCell& text) {

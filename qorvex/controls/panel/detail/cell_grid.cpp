@@ -16,10 +16,14 @@ void PlaceInTabOrder(QWidget* previous, QWidget* widget) {
 
 }  // namespace
 
-CellGrid::CellGrid(QWidget& panel, const EditWindow& rows, const EditWindow& cols, Owner owner)
-    : panel_(panel), rows_(rows), cols_(cols), owner_(std::move(owner)) {}
+CellGrid::CellGrid(QWidget& panel, const CellTable& table, const EditWindow& rows,
+                   const EditWindow& cols, Owner owner)
+    : panel_(panel), table_(table), rows_(rows), cols_(cols), owner_(std::move(owner)) {
+  QAccessible::installActivationObserver(this);
+}
 
 CellGrid::~CellGrid() {
+  QAccessible::removeActivationObserver(this);
   // Left to the base class of the panel, they would signal into a panel that is half destroyed.
   const auto remove = [this](TextCell* text) {
     text->disconnect(&panel_);
@@ -132,7 +136,7 @@ void CellGrid::EnableUsedCells() {
   }
 }
 
-void CellGrid::Show(const CellTable& table) {
+void CellGrid::Show() {
   // Asking for an element may change how many there are, and how many cells.
   for (std::size_t r = 0; r < cells_.size(); ++r) {
     for (std::size_t c = 0; r < cells_.size() && c < cells_[r].size(); ++c) {
@@ -140,18 +144,39 @@ void CellGrid::Show(const CellTable& table) {
       const quint32 row = rows_.Top() + static_cast<quint32>(r);
       const quint32 col = cols_.Top() + static_cast<quint32>(c);
       if (IsUsed(r, c)) {
-        const Extended value = table.Value(row, col);
+        const Extended value = table_.Value(row, col);
         cell->Refresh(value);
-        cell->SetSpecialColor(table.SpecialColor(row, col, value));
+        cell->SetSpecialColor(table_.SpecialColor(row, col, value));
       } else {
         cell->ShowNothing();
       }
-      const QString name = table.CellName(row, col);
-      if (cell->accessibleName() != name) cell->setAccessibleName(name);
     }
   }
   for (std::size_t r = 0; r < header_texts_.size(); ++r) {
     header_.show(*header_texts_[r], static_cast<quint32>(r), r < rows_.UsedEdits());
+  }
+  if (is_named_) NameCells();
+}
+
+void CellGrid::accessibilityActiveChanged(bool active) {
+  is_named_ = active;
+  if (active) NameCells();
+}
+
+void CellGrid::NameCells() {
+  // An editor that is being constructed has no elements and cannot name them yet.
+  if (rows_.Count() == 0 || cols_.Count() == 0) return;
+  const auto name = [](TextCell& text, const QString& its_name) {
+    if (text.accessibleName() != its_name) text.setAccessibleName(its_name);
+  };
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    const quint32 row = rows_.Top() + static_cast<quint32>(r);
+    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+      name(*cells_[r][c], table_.CellName(row, cols_.Top() + static_cast<quint32>(c)));
+    }
+  }
+  for (std::size_t r = 0; r < header_texts_.size(); ++r) {
+    name(*header_texts_[r], header_.name(static_cast<quint32>(r)));
   }
 }
 

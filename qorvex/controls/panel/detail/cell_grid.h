@@ -3,6 +3,7 @@
 /// @file
 /// CellGrid, the cells of a panel: how many there are, where they are and what they show.
 
+#include <QAccessible>
 #include <QRect>
 #include <QSize>
 #include <QWidget>
@@ -28,13 +29,18 @@ struct RowHeader {
   std::function<TextCell*(QWidget* panel, quint32 row)> make;
   /// Shows what belongs to the row's element; a row without an element shows nothing.
   std::function<void(TextCell& text, quint32 row, bool used)> show;
+  /// The name of the text for screen readers.
+  std::function<QString(quint32 row)> name;
   /// Applies the settings of the cells, as far as they concern the text.
   std::function<void(TextCell& text, const CellSettings& settings)> apply;
 };
 
 /// Rows of cells, which are children of a panel. The first cells show the elements of a table from
 /// the tops of two windows on; further cells are disabled. A redisplay costs O(cells).
-class CellGrid {
+///
+/// Cells have accessible names while assistive technology is active: a step of a scroll bar renames
+/// every cell, which takes a tenth of the time of the step.
+class CellGrid : private QAccessible::ActivationObserver {
  public:
   static constexpr int kDefaultCellHeight = 21;
   static constexpr int kDefaultCellWidth = 81;
@@ -46,9 +52,10 @@ class CellGrid {
   };
 
   /// A grid without cells.
-  CellGrid(QWidget& panel, const EditWindow& rows, const EditWindow& cols, Owner owner);
+  CellGrid(QWidget& panel, const CellTable& table, const EditWindow& rows, const EditWindow& cols,
+           Owner owner);
   /// Deletes the cells.
-  ~CellGrid();
+  ~CellGrid() override;
   CellGrid(const CellGrid&) = delete;
   CellGrid& operator=(const CellGrid&) = delete;
 
@@ -84,7 +91,7 @@ class CellGrid {
   /// Enables the cells that show an element.
   void EnableUsedCells();
   /// Shows the elements.
-  void Show(const CellTable& table);
+  void Show();
 
   /// @{
   /// The size of a cell in pixels. A cell is never lower than a line of its font.
@@ -102,6 +109,8 @@ class CellGrid {
   [[nodiscard]] QRect Placed(const QRect& rectangle) const;
 
  private:
+  void accessibilityActiveChanged(bool active) override;
+  void NameCells();
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
   void FitHeader();
   void DropCell(TQorCustomEdit* cell);
@@ -109,6 +118,7 @@ class CellGrid {
   [[nodiscard]] int RowHeight() const;
 
   QWidget& panel_;
+  const CellTable& table_;
   const EditWindow& rows_;
   const EditWindow& cols_;
   Owner owner_;
@@ -119,6 +129,7 @@ class CellGrid {
   int cell_height_ = kDefaultCellHeight;
   int cell_width_ = kDefaultCellWidth;
   int header_width_ = 0;
+  bool is_named_ = QAccessible::isActive();
 };
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -27,7 +27,7 @@ struct PanelParts {
                 }),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
-        grid(panel, rows.Window(), cols.Window(),
+        grid(panel, panel.table_, rows.Window(), cols.Window(),
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
               .drop =
