@@ -8,6 +8,11 @@ TQorFloatEdit::TQorFloatEdit(QWidget* parent) : TQorCustomEdit(parent) {
   setValue(0);
 }
 
+TQorFloatEdit::TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert)
+    : TQorCustomEdit(parent), convert_(&convert) {
+  ShowNothing();
+}
+
 TQorFloatEdit::~TQorFloatEdit() = default;
 
 QString TQorFloatEdit::TextOf(Extended value) const {

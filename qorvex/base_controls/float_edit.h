@@ -39,12 +39,13 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
  public:
   /// A cell with the value 0.
   explicit TQorFloatEdit(QWidget* parent = nullptr);
+  /// A cell of a panel, which shows nothing. A function of the panel, which may change, reads texts
+  /// in place of OnConvert.
+  TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert);
   ~TQorFloatEdit() override;
 
   /// Reads texts in place of the cell; empty by default.
   TQorConvertEvent OnConvert;
-  /// Reads texts by a function of the owner, which may change, instead of OnConvert.
-  void UseConvert(const TQorConvertEvent& convert) { convert_ = &convert; }
 
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;

@@ -3,11 +3,7 @@
 namespace qorvex::inline QorvexMatrixEdit {
 
 TQorMatrixEdit::TQorMatrixEdit(QWidget* parent) : TQorCustomMatrixEdit(parent) {
-  BuildGrid([this](QWidget* panel) {
-    auto* const cell = new TQorFloatEdit(panel);
-    cell->UseConvert(OnConvert);
-    return cell;
-  });
+  BuildGrid([this](QWidget* panel) { return new TQorFloatEdit(panel, OnConvert); });
 }
 
 TQorMatrixEdit::~TQorMatrixEdit() = default;

@@ -7,11 +7,7 @@
 namespace qorvex::inline QorvexMatrixFractEdit {
 
 TQorMatrixFractEdit::TQorMatrixFractEdit(QWidget* parent) : TQorCustomMatrixEdit(parent) {
-  BuildGrid([this](QWidget* panel) {
-    auto* const cell = new TQorFractEdit(panel);
-    ApplyTo(*cell);
-    return cell;
-  });
+  BuildGrid([this](QWidget* panel) { return new TQorFractEdit(panel, display_, decimals_); });
 }
 
 TQorMatrixFractEdit::~TQorMatrixFractEdit() = default;
@@ -26,14 +22,12 @@ void TQorMatrixFractEdit::setDecimalsFract(int decimals) {
   ApplyToCells();
 }
 
-void TQorMatrixFractEdit::ApplyTo(TQorFractEdit& cell) const {
-  cell.setFractionDisplay(display_);
-  cell.setDecimalsFract(decimals_);
-}
-
 void TQorMatrixFractEdit::ApplyToCells() {
-  Parts().grid.ForEach(
-      [this](TQorCustomEdit& cell) { ApplyTo(static_cast<TQorFractEdit&>(cell)); });
+  Parts().grid.ForEach([this](TQorCustomEdit& cell) {
+    auto& fraction = static_cast<TQorFractEdit&>(cell);
+    fraction.setFractionDisplay(display_);
+    fraction.setDecimalsFract(decimals_);
+  });
   Redisplay();
 }
 

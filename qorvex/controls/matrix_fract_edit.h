@@ -57,7 +57,6 @@ class QORVEX_EXPORT TQorMatrixFractEdit final : public TQorCustomMatrixEdit {
  private:
   static constexpr int kDefaultDecimals = 9;
 
-  void ApplyTo(TQorFractEdit& cell) const;
   void ApplyToCells();
 
   TQorFractEdit::FractionDisplayMode display_ = TQorFractEdit::fdMixed;
