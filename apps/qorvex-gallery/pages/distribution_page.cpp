@@ -9,6 +9,7 @@
 #include <exception>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"

@@ -15,13 +15,12 @@
 #include <utility>
 
 #include "apps/common/pair_fit.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/tall_editor.h"
-#include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
 
 namespace qorvex::gallery {
 
@@ -240,13 +239,9 @@ void RegressionPage::Refresh() {
   layers.push_back(std::move(points));
   plot_->SetLayers(std::move(layers));
 
-  const auto number = [this](std::optional<Extended> figure) {
-    if (!figure) return QStringLiteral("—");
-    return QorvexBaseControls::detail::LocalNumber(Float2Str(*figure), locale());
-  };
   const auto row = [&](const QString& label, auto figure) {
     const auto text = [&](const std::optional<PairFit>& of) {
-      return number(of ? figure(*of) : std::optional<Extended>());
+      return ExactTextOrDash(of ? figure(*of) : std::optional<Extended>());
     };
     return QStringList{label, text(line), text(parabola)};
   };
@@ -263,7 +258,7 @@ void RegressionPage::Refresh() {
        row(tr("Coefficient of x²"), coefficient(2)),
        row(tr("Sum of squared errors"), [](const PairFit& of) { return std::optional(of.sse); }),
        row(tr("Coefficient of determination"), [](const PairFit& of) { return of.determination; }),
-       {tr("Correlation of x and y"), number(line ? line->correlation : std::nullopt)}});
+       {tr("Correlation of x and y"), ExactTextOrDash(line ? line->correlation : std::nullopt)}});
 }
 
 }  // namespace qorvex::gallery
