@@ -31,16 +31,16 @@ PlotLayer Bars(const Histogram& histogram) {
 
 // Covers the bars and three standard deviations on both sides of the mean.
 PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_dev) {
-  constexpr int kSteps = 240;
-  constexpr Extended kReach = 3;
+  constexpr int steps = 240;
+  constexpr Extended reach = 3;
   PlotLayer layer{PlotShape::kLine,
                   PlotRole::kModel,
                   Text("Normal density of the same mean and standard deviation"),
                   {}};
-  const Extended low = std::min(histogram.edges.front(), mean - kReach * std_dev);
-  const Extended high = std::max(histogram.edges.back(), mean + kReach * std_dev);
-  for (int i = 0; i <= kSteps; ++i) {
-    const Extended x = low + (high - low) * i / kSteps;
+  const Extended low = std::min(histogram.edges.front(), mean - reach * std_dev);
+  const Extended high = std::max(histogram.edges.back(), mean + reach * std_dev);
+  for (int i = 0; i <= steps; ++i) {
+    const Extended x = low + (high - low) * i / steps;
     layer.points.emplace_back(static_cast<double>(x),
                               static_cast<double>(full_precision::NormalPdf(mean, std_dev, x)));
   }
