@@ -15,8 +15,8 @@
 
 namespace qorvex::apps {
 
-// Parameters that differ from one another, so that none can stand for another.
-TEST(RandomCommand, PrintsTheLibrarysVariatesOfTheSeed) {
+// All parameters are different, so that mixing them up is detected.
+TEST(RandomCommand, PrintsTheVariatesOfTheLibraryForASeed) {
   const std::pair<const char*, std::function<Extended()>> variates[] = {
       {"uniform", [] { return Random(); }},
       {"normal", [] { return Random_Normal(); }},
@@ -64,7 +64,7 @@ TEST(RandomCommand, PrintsTheLibrarysVariatesOfTheSeed) {
                "8.00\n");
 }
 
-TEST(RandomCommand, TakesASeedFromTheSystemWhenNoneIsGiven) {
+TEST(RandomCommand, TakesASeedFromTheSystemByDefault) {
   EXPECT_NE(Shell("qorvex random uniform"), Shell("qorvex random uniform"));
 }
 

@@ -21,12 +21,12 @@ namespace qorvex::gallery {
 
 namespace {
 
-// Beyond these, stems would merge into an area.
+// With more counts, the stems would merge into an area.
 constexpr std::size_t kMostStems = 150;
 
 using Points = std::vector<QPointF>;
 
-// The points whose first coordinate is in the range.
+// The points whose x is in the range.
 Points Within(const Points& curve, Extended from, Extended to) {
   Points part;
   std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
@@ -178,7 +178,7 @@ QString DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) 
     if (Interval()) {
       std::vector<Extended> arguments = parameters;
       arguments.insert(arguments.end(), points.begin(), points.end());
-      // At least a count is more than the one before it.
+      // At least b is the same as more than b - 1.
       const bool is_count = Family().is_discrete;
       const Extended below_b = points.back() - (is_count ? 1 : 0);
       const bool all = is_count && points.back() == 0;
@@ -226,13 +226,13 @@ QString DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters
 void DistributionPage::Draw(const std::vector<Extended>& parameters,
                             const std::vector<Extended>& points) {
   Range range = MiddleOf(Family(), parameters);
-  // Points just outside stay in sight; beyond, the curve is flat.
+  // The range extends to points just outside; further out, the curve is flat.
   const Extended margin = range.to - range.from;
   const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
   if (*least < range.from && *least >= range.from - margin) range.from = *least;
   if (*greatest > range.to && *greatest <= range.to + margin) range.to = *greatest;
   std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
-  // The areas end where they are asked to.
+  // The areas end exactly at these points.
   for (const Extended point : points) {
     if (Family().is_discrete || !(point > range.from) || !(point < range.to)) continue;
     places.insert(std::upper_bound(places.begin(), places.end(), point), point);
@@ -242,7 +242,7 @@ void DistributionPage::Draw(const std::vector<Extended>& parameters,
   const bool stems = Family().is_discrete && curve.size() <= kMostStems;
   const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
   const Extended infinity = HUGE_VALL;
-  // A count at the point belongs to the side that includes it; an area has no such end.
+  // A count belongs to the side that includes it; for areas, the end makes no difference.
   const double gap = Family().is_discrete ? 0.5 : 0;
   const auto a = static_cast<double>(points.front());
   const auto b = static_cast<double>(points.back());

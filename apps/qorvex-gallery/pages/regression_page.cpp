@@ -30,9 +30,9 @@ using apps::PairFit;
 
 constexpr int kMostRows = 1'000'000;
 
-// Years, and thousands of people of 14 years and more in the United States. From J. W. Longley, An
+// Years, and thousands of people aged 14 and over in the United States. From J. W. Longley, An
 // appraisal of least squares programs for the electronic computer from the point of view of the
-// user, 1967. The digits that the years share are what such programs lost.
+// user, 1967. Such programs lost the digits that the years have in common.
 constexpr std::pair<int, int> kExamplePairs[] = {
     {1947, 107608}, {1948, 108632}, {1949, 109773}, {1950, 110929}, {1951, 112075}, {1952, 113270},
     {1953, 115094}, {1954, 116219}, {1955, 117388}, {1956, 118734}, {1957, 120445}, {1958, 121950},
@@ -133,7 +133,7 @@ QLayout* RegressionPage::MakeEditors() {
   rows_label->setBuddy(rows_);
   auto* const example = new QPushButton(tr("&Example"));
   example->setToolTip(
-      tr("Year, and people of 14 years and more in the USA in thousands; Longley 1967"));
+      tr("Year, and thousands of people aged 14 and over in the USA; Longley 1967"));
   connect(example, &QPushButton::clicked, this, &RegressionPage::ShowExample);
   auto* const head = new QHBoxLayout;
   head->addWidget(rows_label);
@@ -162,7 +162,7 @@ QLayout* RegressionPage::MakeResults() {
   figures_->setObjectName("figures");
   auto* const head = new QHBoxLayout;
   QLabel* const heading = MakeHeading(tr("Least-squares line and parabola"));
-  // On the line of the spin box beside it.
+  // Level with the spin box beside it.
   heading->setMinimumHeight(rows_->sizeHint().height());
   head->addWidget(heading);
   head->addWidget(remark_);
@@ -201,7 +201,7 @@ void RegressionPage::SetRows(int rows) {
   RefreshSoon();
 }
 
-// Pasting changes many elements, one after the other.
+// Pasting changes many elements one after the other; one refresh is enough.
 void RegressionPage::RefreshSoon() {
   message_->SetText({});
   if (std::exchange(refresh_is_due_, true)) return;
