@@ -41,12 +41,12 @@ extern QORVEX_EXPORT Extended QorTolerance;
   return x < -QorTolerance;
 }
 
-/// Approximate equality for ties and duplicates, relative at every magnitude, so that the unit of the
-/// values does not matter.
+/// Approximate equality for ties and duplicates, relative at every magnitude, so that the unit of
+/// the values does not matter.
 ///
-/// - True if x == y; otherwise false if x or y is not finite; otherwise
-///   |x - y| <= max(QorTolerance, 4 eps) * max(|x|, |y|), computed in the wider of the two types
-///   with the eps of that type.
+/// - True if x == y; otherwise false if x or y is not finite.
+/// - Otherwise |x - y| <= max(QorTolerance, 4 eps) * max(|x|, |y|), computed in the wider of the two
+///   types with the eps of that type.
 /// - NaN: always false. An infinity is the same only as itself.
 /// - Zero is the same only as zero if the tolerance is below 1.
 /// - In a sorted sequence of finite values, the values that are the same as a given one are
@@ -60,8 +60,8 @@ template <FloatElement X, FloatElement Y>
   // If the tolerance is NaN the comparison is false, which leaves the rounding bound.
   const T given = static_cast<T>(QorTolerance);
   const T tolerance = given > rounding ? given : rounding;
-  // Scaling by a power of two is exact. It keeps the difference of large values from overflowing and
-  // the bound for small values from underflowing.
+  // Scaling by a power of two is exact. It keeps the difference of large values from overflowing
+  // and the bound for small values from underflowing.
   const bool large = std::fabs(x) > 1 || std::fabs(y) > 1;
   const T scale = large ? T(0.5) : T(0x1p64);
   const T a = x * scale;

@@ -139,8 +139,8 @@ using QorCurrency = BasicCurrency<std::int32_t, 100>;
 /// The long currency: six fixed decimals in an int64.
 using QorLongCurrency = BasicCurrency<std::int64_t, 1'000'000>;
 
-/// Writes the text of Currency2EStr with the stream's width, fill and adjustment. Ignores its locale,
-/// precision and number flags.
+/// Writes the text of Currency2EStr with the stream's width, fill and adjustment. Ignores its
+/// locale, precision and number flags.
 template <class Stored, std::int64_t Scale>
 QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, BasicCurrency<Stored, Scale> amount);
 

@@ -32,8 +32,8 @@ std::string_view Write(C amount, Buffer& buffer) {
   return {first, end};
 }
 
-// number * 10^decimals, rounded to an integer, ties to even; some value above the limit if the result
-// is above it. The limit is at most 2^63.
+// number * 10^decimals, rounded to an integer, ties to even; some value above the limit if the
+// result is above it. The limit is at most 2^63.
 std::uint64_t CountParts(const detail::DecimalText& number, int decimals, std::uint64_t limit) {
   const std::uint64_t above_limit = limit + 1;
   std::uint64_t parts = 0;

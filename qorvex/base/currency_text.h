@@ -16,10 +16,11 @@ template <CurrencyElement C>
 [[nodiscard]] QORVEX_EXPORT std::string Currency2EStr(C amount);
 
 /// @{
-/// The amount that the text represents in units, rounded from the decimal text itself, ties to even.
+/// The amount that the text represents in units, rounded from the decimal text itself, ties to
+/// even.
 ///
-/// - Accepts what Str2Float accepts except infinities and NaN: surrounding blanks (spaces and tabs),
-///   one leading sign, digits with an optional decimal point, an optional exponent.
+/// - Accepts what Str2Float accepts except infinities and NaN: surrounding blanks (spaces and
+///   tabs), one leading sign, digits with an optional decimal point, an optional exponent.
 /// - EConvertError, which quotes the text: rsNotANumber for any other text, rsNumberTooLarge if the
 ///   rounded amount is out of range.
 /// - O(length of the text).

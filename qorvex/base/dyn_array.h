@@ -36,8 +36,8 @@ concept ElementFrom = std::convertible_to<From, To> &&
 /// - Copying a handle shares the buffer, so a change to an element is seen through every handle.
 /// - Changing the length first gives the handle its own buffer. An array of length 0 has no buffer.
 /// - A moved-from handle is empty.
-/// - Handles may be copied and destroyed on several threads at once; writing elements needs external
-///   synchronisation.
+/// - Handles may be copied and destroyed on several threads at once; writing elements needs
+///   external synchronisation.
 /// - Constness is deep: through a const handle the elements can only be read.
 /// - New elements of trivially copyable types have all bits zero.
 /// - One allocation holds the header and the elements. Capacity grows by half, so appending is

@@ -51,8 +51,8 @@ concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std:
 template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
 
-/// An integer argument. Floating-point arguments, which would be truncated, do not compile. Objects of
-/// classes that convert to an integer need a cast, because only one user-defined conversion is
+/// An integer argument. Floating-point arguments, which would be truncated, do not compile. Objects
+/// of classes that convert to an integer need a cast, because only one user-defined conversion is
 /// implicit.
 template <class T>
 class WholeNumber {
@@ -68,8 +68,8 @@ class WholeNumber {
 };
 
 /// @cond internal
-// Separate classes, because GCC and Clang mangle concepts in a function's signature differently, and
-// a program built with one could not be linked to a library built with the other.
+// Separate classes, because GCC and Clang mangle concepts in a function's signature differently,
+// and a program built with one could not be linked to a library built with the other.
 template <class T>
 struct SumType {
   using Type = std::conditional_t<FloatElement<T>, Extended,
@@ -81,8 +81,8 @@ struct ScalarType {
 };
 /// @endcond
 
-/// The type of a scalar argument of element type T: T itself, or WholeNumber<T> for integers. It does
-/// not take part in template argument deduction, so arguments convert to it.
+/// The type of a scalar argument of element type T: T itself, or WholeNumber<T> for integers. It
+/// does not take part in template argument deduction, so arguments convert to it.
 template <class T>
 using ScalarOf = typename ScalarType<T>::Type;
 
