@@ -4,7 +4,7 @@
 /// Zero and identity matrices of amounts, and conversion to extended precision.
 ///
 /// - The results share no buffers with any other matrix.
-/// - Every shape is accepted, including empty and ragged matrices. No errors but std::bad_alloc.
+/// - Every shape is accepted, including empty and ragged matrices. No errors except std::bad_alloc.
 /// - O(number of elements).
 
 #include <cstdint>

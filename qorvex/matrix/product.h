@@ -15,8 +15,8 @@ namespace qorvex::inline QorvexMatrix {
 ///   sum is then rounded to the element type.
 /// - NaN and infinities propagate as in IEEE 754 arithmetic.
 /// - Both arguments may be the same matrix.
-/// - EMathError, in this order: rsMatrixRect if a matrix is ragged or empty, with the shape switch
-///   on; rsMatrixIsEmpty if a matrix has no rows; rsMatrixMult if the number of columns of a
+/// - EMathError, in this order: with the shape switch on rsMatrixRect if a matrix is ragged or
+///   empty; rsMatrixIsEmpty if a matrix has no rows; rsMatrixMult if the number of columns of a
 ///   differs from the number of rows of b; with the shape switch off rsMatrixRect if a row is
 ///   shorter than the first row of its matrix.
 /// - O(rows of a x columns of a x columns of b), with up to 128 bytes of working memory per column
