@@ -13,7 +13,7 @@
 
 using namespace qorvex;
 
-// An engine of one's own as a source of uniform values with all their 64 bits.
+// A custom engine as a source of uniform values with 64 random bits.
 class OwnSource {
  public:
   explicit OwnSource(std::uint64_t seed) : engine_(seed) {}
@@ -23,8 +23,9 @@ class OwnSource {
   std::mt19937_64 engine_;
 };
 
-// The months with more than 60 mm of rain, when four storms are to be expected and each one brings
-// a gamma variate of shape 2 and scale 5 mm. Storms add up to a gamma variate too.
+// The number of months with more than 60 mm of rain. A month has a Poisson number of storms with
+// mean 4. The rain of each is a gamma variate of shape 2 and scale 5 mm, so their sum is a gamma
+// variate too.
 int WetMonths(int months, std::uint64_t seed) {
   OwnSource source(seed);
   int wet = 0;
@@ -36,7 +37,7 @@ int WetMonths(int months, std::uint64_t seed) {
 }
 
 int main() {
-  // The short forms draw from the library's generator. A seed fixes what it gives.
+  // The short forms draw from the library's generator. The same seed gives the same variates.
   SetRandSeed(1879);
   for (int i = 0; i < 3; ++i) std::cout << Float2Str(Random_Normal()) << '\n';
 
@@ -46,7 +47,7 @@ int main() {
   std::cout << "Heights: " << Float2EStr(QorMean(heights), 2) << " +- "
             << Float2EStr(SampleStdDev(heights), 2) << " cm\n";
 
-  // Four threads, each with a source of its own.
+  // Four threads, each with its own source.
   constexpr int months = 250'000;
   std::array<int, 4> wet;
   {
