@@ -15,7 +15,7 @@ purpose=${1:-}
 packages=(
   g++ cmake ninja-build
   libboost-dev       # the special functions, headers only
-  qt6-base-dev       # the components
+  qt6-base-dev       # the components, and threads for the desktop program
   libcli11-dev       # the command line
   fonts-dejavu-core  # the font of pictures and widget tests
 )

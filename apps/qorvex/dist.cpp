@@ -1,5 +1,3 @@
-#include "apps/qorvex/dist.h"
-
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -11,6 +9,7 @@
 #include <vector>
 
 #include "apps/common/distributions.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"

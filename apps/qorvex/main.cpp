@@ -7,11 +7,7 @@
 #include <vector>
 
 #include "apps/common/input_error.h"
-#include "apps/qorvex/describe.h"
-#include "apps/qorvex/dist.h"
-#include "apps/qorvex/fit.h"
-#include "apps/qorvex/matrix.h"
-#include "apps/qorvex/random.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/version.h"
 

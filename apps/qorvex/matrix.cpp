@@ -1,5 +1,3 @@
-#include "apps/qorvex/matrix.h"
-
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -11,6 +9,7 @@
 #include "apps/common/input_error.h"
 #include "apps/common/matrix_reader.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/matrix_operations.h"
 #include "apps/qorvex/text_output.h"

@@ -1,4 +1,4 @@
-#include "apps/qorvex/random.h"
+#include "qorvex/base/random.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,12 +10,12 @@
 #include <vector>
 
 #include "apps/common/variates.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/random.h"
 
 namespace qorvex::apps {
 

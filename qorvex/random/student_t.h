@@ -9,7 +9,7 @@
 /// the distribution, and what it leaves is the region of three: Random_T(1) and Random_T(2) have
 /// the distribution of Random_T(3). The probability of a size above 10 is then 0.0021 instead of
 /// 0.063 and 0.0099. Random_Cauchy is the variate of one degree of freedom; for two, and wherever
-/// the tails matter, take full_precision::StudentTQuantile of a uniform value.
+/// the tails matter, use a StudentTDistribution quantile of a uniform value.
 
 #include <cstdint>
 

@@ -7,7 +7,7 @@
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/beta.h"
 
 namespace qorvex::inline QorvexStatistics {
 
@@ -26,8 +26,8 @@ class Support {
   }
   [[nodiscard]] Extended ToUnit(Extended x) const { return (x - lower_) / width_; }
   [[nodiscard]] Extended FromUnit(Extended x) const { return lower_ + width_ * x; }
-  [[nodiscard]] Extended Density(Extended x, Extended a, Extended b) const {
-    return full_precision::BetaPdf(a, b, ToUnit(x)) / width_;
+  [[nodiscard]] Extended Density(Extended x, const BetaDistribution& beta) const {
+    return beta.Pdf(ToUnit(x)) / width_;
   }
 
  private:
@@ -39,12 +39,12 @@ class Support {
 
 Extended BetaPDF(Extended x, Extended a, Extended b) {
   RequireShapes(a, b);
-  return full_precision::BetaPdf(a, b, x);
+  return BetaDistribution(a, b).Pdf(x);
 }
 
 Extended BetaPDF(Extended x, Extended a, Extended b, Extended lower, Extended upper) {
   RequireShapes(a, b);
-  return Support(lower, upper).Density(x, a, b);
+  return Support(lower, upper).Density(x, BetaDistribution(a, b));
 }
 
 void BetaPDFValues(Extended a, Extended b, Extended x_low, Extended x_high, std::int32_t n,
@@ -57,7 +57,9 @@ void BetaPDFValues(Extended a, Extended b, Extended lower, Extended upper, Exten
                    TQorFloatVector& y_values) {
   detail::FillDensityTable({x_low, x_high, n, x_values, y_values}, [=] {
     RequireShapes(a, b);
-    return [=, support = Support(lower, upper)](Extended x) { return support.Density(x, a, b); };
+    const Support support(lower, upper);
+    return
+        [support, beta = BetaDistribution(a, b)](Extended x) { return support.Density(x, beta); };
   });
 }
 
@@ -93,13 +95,13 @@ Extended BetaDistBetween(Extended x1, Extended x2, Extended a, Extended b, Exten
 Extended InvBetaDistLess(Extended a, Extended b, Extended p) {
   detail::RequireProbability(p);
   RequireShapes(a, b);
-  return full_precision::BetaQuantile(a, b, p);
+  return BetaDistribution(a, b).Quantile(Tail::kLower, p);
 }
 
 Extended InvBetaDistLess(Extended a, Extended b, Extended lower, Extended upper, Extended p) {
   detail::RequireProbability(p);
   RequireShapes(a, b);
-  return Support(lower, upper).FromUnit(full_precision::BetaQuantile(a, b, p));
+  return Support(lower, upper).FromUnit(BetaDistribution(a, b).Quantile(Tail::kLower, p));
 }
 
 Extended InvBetaDistGreater(Extended a, Extended b, Extended p) {

@@ -8,9 +8,8 @@
 /// says little about its distance from the end.
 ///
 /// Lower probabilities are the incomplete beta function, good to some 1e-17 of themselves. Upper
-/// ones are formed as 1 - lower: do not rely on the digits of small ones. full_precision::BetaUpper
-/// keeps them. Densities and quantiles are the full-precision ones already, exact to a few units of
-/// the 64-bit mantissa.
+/// ones are formed as 1 - lower: do not rely on the digits of small ones. BetaDistribution keeps
+/// them. Densities and quantiles are computed with it, exact to a few units of the 64-bit mantissa.
 ///
 /// EMathError, in this order: for quantiles rsValue01 unless 0 < p < 1; rsValueGZero unless a and b
 /// are positive; rsInvalidValue unless the upper end is above the lower, both are finite, and their
@@ -60,7 +59,7 @@ QORVEX_EXPORT void BetaPDFValues(Extended a, Extended b, Extended lower, Extende
 
 /// @{
 /// The point with the given lower or upper probability; the upper one is that of 1 - p, so that
-/// p < 2^-65 raises rsValue01 and full_precision::BetaUpperQuantile is the way to small ones.
+/// p < 2^-65 raises rsValue01; use UpperQuantile of a BetaDistribution for smaller ones.
 [[nodiscard]] QORVEX_EXPORT Extended InvBetaDistLess(Extended a, Extended b, Extended p);
 [[nodiscard]] QORVEX_EXPORT Extended InvBetaDistLess(Extended a, Extended b, Extended lower,
                                                      Extended upper, Extended p);

@@ -4,8 +4,7 @@
 /// The binomial distribution: the number of successes in n trials, each with probability p.
 ///
 /// A probability is C(n, k) p^k (1 - p)^(n - k) in this order, and a lower probability the sum of
-/// these from 0 on. That limits them, and qorvex/stats/full_precision.h has routines without these
-/// limits:
+/// these from 0 on. This has limits, which BinomialDistribution does not have:
 ///
 /// - The coefficient may be beyond the extended range where the probability is not: from n = 16392
 ///   on, counts near n/2 raise EMathError with rsBinomOverflowed. Nothing else overflows.

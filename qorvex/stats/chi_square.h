@@ -6,8 +6,8 @@
 /// Probabilities come from IncompleteGamma(df / 2, x / 2), with its limits: an absolute error of up
 /// to 2e-15; above 2000 degrees of freedom a normal approximation, which raises rsValueGZero for
 /// points below the centre. Upper ones are formed as 1 - lower, so do not rely on the digits of
-/// those below 1e-5. full_precision::ChiSquareLower and ChiSquareUpper have none of these limits.
-/// Densities and quantiles are theirs already, exact to a few units of the 64-bit mantissa.
+/// those below 1e-5. ChiSquareDistribution has none of these limits. Densities and quantiles are
+/// computed with it, exact to a few units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.
 
@@ -41,7 +41,7 @@ QORVEX_EXPORT void ChiSquarePDFValues(std::uint32_t df, Extended x_low, Extended
 
 /// @{
 /// The point with the given lower or upper probability; the upper one is that of 1 - p, so that
-/// p < 2^-65 raises rsValue01 and full_precision::ChiSquareUpperQuantile is the way to small ones.
+/// p < 2^-65 raises rsValue01; use UpperQuantile of a ChiSquareDistribution for smaller ones.
 /// EMathError: rsValue01 unless 0 < p < 1; rsDF for df = 0.
 [[nodiscard]] QORVEX_EXPORT Extended InvChiSquareLess(std::uint32_t df, Extended p);
 [[nodiscard]] QORVEX_EXPORT Extended InvChiSquareGreater(std::uint32_t df, Extended p);

@@ -7,7 +7,6 @@
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
-#include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/stats/shape.h"
 #include "qorvex/vector/aggregates.h"
@@ -46,6 +45,15 @@ void EraseSorted(TQorFloatVector& sorted, Extended value) {
 }
 
 }  // namespace
+
+std::string ReportFigure::Text(int decimals) const {
+  if (!value) return "";
+  return Float2EStr(*value, label == rsDSNoOfValues ? 0 : decimals);
+}
+
+std::string ReportLine(const ReportFigure& figure, const std::string& text) {
+  return figure.value ? ReportText(figure.label) + '\t' + text : ReportText(figure.label);
+}
 
 DescriptiveStats::DescriptiveStats(const DescriptiveStats& other)
     : values_(CopyVector(other.values_)),
@@ -191,56 +199,44 @@ void DescriptiveStats::UpdateFromSums() {
   r.inter_quartile_range = r.quartile_3rd - r.quartile_1st;
 }
 
-std::vector<std::string> DescriptiveStats::Report(int decimals) {
+std::vector<ReportFigure> DescriptiveStats::Figures() {
   if (updating_) EndUpdate();
   const std::size_t count = values_.size();
-  if (count == 0) return {MessageText(rsVectorIsEmpty)};
+  if (count == 0) return {};
 
-  std::vector<std::string> lines;
-  const auto label = [&](ReportTextId id) { lines.push_back(ReportText(id)); };
-  const auto figure = [&](ReportTextId id, Extended value) {
-    lines.push_back(ReportText(id) + '\t' + Float2EStr(value, decimals));
-  };
   const DescriptiveResults& r = results_;
-  const bool no_spread = FloatIsZero(r.std_dev);
+  const auto moment = [&](ReportTextId id, Extended value, std::size_t least,
+                          ReportTextId not_enough, ReportTextId no_spread) -> ReportFigure {
+    if (count < least) return {not_enough};
+    if (FloatIsZero(r.std_dev)) return {no_spread};
+    return {id, value};
+  };
+  const bool has_variance = population_ || count > 1;
+  return {
+      {rsDSNoOfValues, static_cast<Extended>(count)},
+      {rsDSMaximum, r.maximum},
+      {rsDSMinimum, r.minimum},
+      {rsDSRange, r.maximum - r.minimum},
+      {rsDSSum, r.sum},
+      {rsDSSumSQ, r.sum_sq},
+      {rsDSMean, r.mean},
+      r.mode_exists ? ReportFigure{rsDSMode, r.mode} : ReportFigure{rsDSNoMode},
+      {rsDSMedian, r.median},
+      has_variance ? ReportFigure{rsDSVariance, r.variance} : ReportFigure{rsDSNEVariance},
+      has_variance ? ReportFigure{rsDSStdDev, r.std_dev} : ReportFigure{rsDSNEStdDev},
+      moment(rsDSKurtosis, r.kurtosis, kLeastForKurtosis, rsDSNEKurtosis, rsDSSDKurtosis),
+      moment(rsDSSkew, r.skew, kLeastForSkew, rsDSNESkew, rsDSSDSkew),
+      {rsDSQtr1, r.quartile_1st},
+      {rsDSQtr3, r.quartile_3rd},
+      {rsDSIQR, r.inter_quartile_range},
+  };
+}
 
-  lines.push_back(ReportText(rsDSNoOfValues) + '\t' + Int2EStr(count));
-  figure(rsDSMaximum, r.maximum);
-  figure(rsDSMinimum, r.minimum);
-  figure(rsDSRange, r.maximum - r.minimum);
-  figure(rsDSSum, r.sum);
-  figure(rsDSSumSQ, r.sum_sq);
-  figure(rsDSMean, r.mean);
-  if (r.mode_exists) {
-    figure(rsDSMode, r.mode);
-  } else {
-    label(rsDSNoMode);
-  }
-  figure(rsDSMedian, r.median);
-  if (!population_ && count == 1) {
-    label(rsDSNEVariance);
-    label(rsDSNEStdDev);
-  } else {
-    figure(rsDSVariance, r.variance);
-    figure(rsDSStdDev, r.std_dev);
-  }
-  if (count < kLeastForKurtosis) {
-    label(rsDSNEKurtosis);
-  } else if (no_spread) {
-    label(rsDSSDKurtosis);
-  } else {
-    figure(rsDSKurtosis, r.kurtosis);
-  }
-  if (count < kLeastForSkew) {
-    label(rsDSNESkew);
-  } else if (no_spread) {
-    label(rsDSSDSkew);
-  } else {
-    figure(rsDSSkew, r.skew);
-  }
-  figure(rsDSQtr1, r.quartile_1st);
-  figure(rsDSQtr3, r.quartile_3rd);
-  figure(rsDSIQR, r.inter_quartile_range);
+std::vector<std::string> DescriptiveStats::Report(int decimals) {
+  std::vector<std::string> lines;
+  for (const ReportFigure& figure : Figures())
+    lines.push_back(ReportLine(figure, figure.Text(decimals)));
+  if (lines.empty()) lines.push_back(MessageText(rsVectorIsEmpty));
   return lines;
 }
 

@@ -5,11 +5,13 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex {
 
@@ -47,6 +49,21 @@ struct DescriptiveResults {
   /// The third quartile less the first.
   Extended inter_quartile_range = 0;
 };
+
+/// A line of a report.
+struct QORVEX_EXPORT ReportFigure {
+  /// What the figure is, or why it does not exist.
+  ReportTextId label;
+  /// Empty if the figure does not exist.
+  std::optional<Extended> value = std::nullopt;
+
+  /// The value to the given number of decimals; a number of values has none. Empty without a value.
+  [[nodiscard]] std::string Text(int decimals) const;
+};
+
+/// A line of a report as text: the label, then, if the figure exists, a tab and its text.
+[[nodiscard]] QORVEX_EXPORT std::string ReportLine(const ReportFigure& figure,
+                                                   const std::string& text);
 
 /// A sample of values, in insertion order, whose descriptive statistics are kept current after
 /// every change.
@@ -99,6 +116,9 @@ class QORVEX_EXPORT DescriptiveStats {
 
   /// The statistics; the reference stays valid and follows every change.
   [[nodiscard]] const DescriptiveResults& Results() const noexcept { return results_; }
+
+  /// The figures of the report in their order; none for an empty sample. Ends an update first.
+  [[nodiscard]] std::vector<ReportFigure> Figures();
 
   /// The labelled report, a line for each figure: label, tab, value to the given number of
   /// decimals. Ends an update first. An empty sample gives one line, the message rsVectorIsEmpty.

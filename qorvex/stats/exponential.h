@@ -5,7 +5,7 @@
 ///
 /// Lower probabilities are formed as 1 - exp(-x / mean) and upper ones as 1 - lower, so either has
 /// an absolute error of some 1e-19: points far below the mean and upper tails lose digits.
-/// full_precision::ExponentialLower and ExponentialUpper keep them all.
+/// ExponentialDistribution keeps them all.
 ///
 /// EMathError rsExpDistInvalid unless mean > 0 and x >= 0, and so for NaN; then EOverflow where
 /// 1 / mean is beyond the extended range, for means below some 8.4e-4933.

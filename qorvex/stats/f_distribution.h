@@ -7,8 +7,8 @@
 /// 1 - lower, so either has an absolute error, and small ones have few digits or none: some 4e-19
 /// for f from 1 up and few degrees of freedom, 3e-15 for 4e9 of them, 1e-18 at 0.01, and more
 /// towards 0, where that quotient rounds to 1 (with df1 = 1 up to 2e-10, at some 1e-18).
-/// full_precision::FDistLower and FDistUpper keep all digits.
-/// Densities and quantiles are theirs already, exact to a few units of the 64-bit mantissa.
+/// FDistribution keeps all digits. Densities and quantiles are computed with it, exact to a few
+/// units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.
 
@@ -43,7 +43,7 @@ QORVEX_EXPORT void FDistPDFValues(std::uint32_t df1, std::uint32_t df2, Extended
 
 /// @{
 /// The point with the given lower or upper probability; the upper one is that of 1 - p, so that
-/// p < 2^-65 raises rsValue01 and full_precision::FDistUpperQuantile is the way to small ones.
+/// p < 2^-65 raises rsValue01; use UpperQuantile of an FDistribution for smaller ones.
 /// EMathError: rsValue01 unless 0 < p < 1; rsDF when df1 or df2 is 0.
 [[nodiscard]] QORVEX_EXPORT Extended InvFDistLess(std::uint32_t df1, std::uint32_t df2, Extended p);
 [[nodiscard]] QORVEX_EXPORT Extended InvFDistGreater(std::uint32_t df1, std::uint32_t df2,

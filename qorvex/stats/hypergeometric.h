@@ -5,8 +5,8 @@
 /// without replacement from a population of pop_size of which `successes` are successes.
 ///
 /// A probability is C(successes, x) C(pop_size - successes, sample_size - x) / C(pop_size,
-/// sample_size) in this order, and a lower probability the sum of these from 0 on. That limits
-/// them, and qorvex/stats/full_precision.h has routines without these limits:
+/// sample_size) in this order, and a lower probability the sum of these from 0 on. This has limits,
+/// which HypergeometricDistribution does not have:
 ///
 /// - C(pop_size, sample_size) may be beyond the extended range, which raises EMathError with
 ///   rsBinomOverflowed; a sample of half the population does so from pop_size = 16392 on.

@@ -8,7 +8,7 @@
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special_functions.h"
-#include "qorvex/stats/chi_square.h"
+#include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/normal.h"
 
 namespace qorvex::inline QorvexStatistics {
@@ -108,7 +108,10 @@ Extended IncompleteGamma2(Extended a, Extended x) {
   if (std::isnan(a) || std::isnan(x)) return a + x;
   if (std::isinf(a)) throw EInvalidOp();
   const Extended gamma = Gamma(a);
-  return gamma * ChiSquareGreater(2 * x, static_cast<std::uint32_t>(std::nearbyint(2 * a)));
+  // The upper probability of 2 x under a chi-square distribution.
+  const auto df = static_cast<std::uint32_t>(std::nearbyint(2 * a));
+  detail::RequireDegreesOfFreedom(df);
+  return gamma * (1 - IncompleteGamma(static_cast<Extended>(df) / 2, 2 * x / 2));
 }
 
 }  // namespace qorvex::inline QorvexStatistics

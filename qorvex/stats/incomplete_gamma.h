@@ -14,8 +14,8 @@
 /// NormalLess: points below the centre raise rsValueGZero. Just above 1000 P is off by up to 5e-6
 /// of itself and the upper tail, 1 - P, by 5e-4 of itself three standard deviations out and by 4e-3
 /// at five; larger shapes have proportionally smaller errors. From nine standard deviations on the
-/// tail means nothing, from ten on P is 0.5. full_precision::GammaLower and GammaUpper (with
-/// scale 1) have none of these limits.
+/// tail means nothing, from ten on P is 0.5. GammaDistribution (with scale 1) has none of
+/// these limits.
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -34,7 +34,7 @@ namespace qorvex::inline QorvexStatistics {
 /// number, ties to even: exact only where 2a is one. EMathError: rsValueGEZero for x < 0;
 /// rsValueGZero for a <= 0, and for a > 1000 where x is below the centre; EOverflow above about
 /// a = 1755.5; EInvalidOp for an infinite a; rsDF where 2a rounds to 0. Then NaN gives NaN.
-/// full_precision::GammaUpper(a, 1, x) times Gamma(a) rounds nothing.
+/// The upper tail of GammaDistribution(a) times Gamma(a) rounds nothing.
 [[nodiscard]] QORVEX_EXPORT Extended IncompleteGamma2(Extended a, Extended x);
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -5,8 +5,7 @@
 ///
 /// Probabilities and quantiles are those of the normal distribution at ln x, with its limits: do
 /// not rely on them where ln x is more than 8.5 standard deviations from the mean, nor on the
-/// digits of a small tail (see normal.h). full_precision::LogNormalLower, LogNormalUpper and
-/// LogNormalQuantile keep all digits.
+/// digits of a small tail (see normal.h). LogNormalDistribution keeps all digits.
 ///
 /// NaN gives NaN where no error is stated for it. A standard deviation, and the point of a density,
 /// count as positive when they exceed QorTolerance.

@@ -9,16 +9,16 @@
 /// convergence, it is 0.5 instead of nearly 1. So do not rely on NormalLess and what is made of it
 /// more than 8.5 standard deviations from the mean. Upper tails are formed as 1 - lower, and lower
 /// tails below the mean as 1 - upper: their absolute error is some 1e-19, so a tail of 1e-10 has
-/// nine digits left. full_precision::NormalLower and NormalUpper keep all digits in both tails.
+/// nine digits left. NormalDistribution keeps all digits in both tails.
 ///
 /// Quantiles have 16 digits: 8e-17 relative error at worst, for probabilities down to 2.5e-317, and
 /// fewer below (2e-14 at 1e-400, 2e-8 at 1e-4930). Upper quantiles are those of 1 - p, so p loses
-/// its digits when it is small and raises rsValue01 below 2^-65. full_precision::NormalQuantile and
-/// NormalUpperQuantile have neither limit.
+/// its digits when it is small and raises rsValue01 below 2^-65. NormalDistribution has
+/// neither limit.
 ///
 /// NaN gives NaN where no error is stated for it. A density is NaN, too, where (x - mean)^2 and the
 /// variance are both beyond the extended range, as NormalPDF(1e3000, 0, 1e3000) is;
-/// full_precision::NormalPdf is not. A standard deviation counts as positive when it exceeds
+/// that of NormalDistribution is not. A standard deviation counts as positive when it exceeds
 /// QorTolerance.
 
 #include <cstdint>

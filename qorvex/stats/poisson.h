@@ -6,8 +6,8 @@
 /// A probability is exp(-lambda) lambda^k / k! in this order, and a lower probability the sum of
 /// these from 0 on. Where exp(-lambda) or lambda^k is beyond the normal extended range, for lambda
 /// above about 11355 or k near a thousand and more, the probability is the exponential of its
-/// logarithm, with up to 16 correct digits. This has limits, and qorvex/stats/full_precision.h has
-/// routines without them:
+/// logarithm, with up to 16 correct digits. This has limits, which PoissonDistribution
+/// does not have:
 ///
 /// - Factorials end at 1754: a count above it raises EMathError with rsFactOverflow.
 /// - Upper probabilities are 1 less the lower ones, with an absolute error of about 1e-19 lambda;

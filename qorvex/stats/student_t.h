@@ -9,8 +9,8 @@
 /// 4e-15 at 1e-3 and to 2e-18 above 1; for many it is some 5e-20 df wherever t is moderate, 2e-12
 /// for 4e9. Tails on both sides, (1 - S) / 2 and 1 - less, are differences of numbers near 1 with
 /// an absolute error of 1e-19 and more: do not rely on the digits of those below 1e-10.
-/// full_precision::StudentTLower and StudentTUpper keep all digits everywhere. Densities and
-/// quantiles are theirs already, exact to a few units of the 64-bit mantissa.
+/// StudentTDistribution keeps all digits everywhere. Densities and quantiles are computed with it,
+/// exact to a few units of the 64-bit mantissa.
 ///
 /// NaN points give NaN.
 
@@ -42,7 +42,7 @@ QORVEX_EXPORT void StudentTPDFValues(std::uint32_t df, Extended t_low, Extended 
 
 /// @{
 /// The point with the given lower or upper probability; the upper one is that of 1 - p, so that
-/// p < 2^-65 raises rsValue01 and full_precision::StudentTUpperQuantile is the way to small ones.
+/// p < 2^-65 raises rsValue01; use UpperQuantile of a StudentTDistribution for smaller ones.
 /// EMathError: rsValue01 unless 0 < p < 1; rsDF for df = 0.
 [[nodiscard]] QORVEX_EXPORT Extended InvStudentTLess(std::uint32_t df, Extended p);
 [[nodiscard]] QORVEX_EXPORT Extended InvStudentTGreater(std::uint32_t df, Extended p);

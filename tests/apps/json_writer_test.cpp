@@ -1,4 +1,4 @@
-#include "apps/common/json_writer.h"
+#include "apps/qorvex/json_writer.h"
 
 #include <gtest/gtest.h>
 #include <limits>

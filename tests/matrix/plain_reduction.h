@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <utility>
@@ -86,12 +87,9 @@ struct PlainReduction {
     for (std::size_t c = Cols() - 1; c >= 1; --c) {
       for (std::size_t r = c; r-- > 0;) Clear(r, c, c);
     }
-    for (const TQorVector<T>& row : *inverse) {
-      for (const T x : row) {
-        if (!std::isfinite(x)) return false;
-      }
-    }
-    return true;
+    return std::ranges::all_of(*inverse, [](const TQorVector<T>& row) {
+      return std::ranges::all_of(row, [](T x) { return std::isfinite(x); });
+    });
   }
 
   Extended Determinant() {

@@ -4,14 +4,12 @@
 #include "qorvex/matrix/transpose.h"
 #include "support/failing_allocation.h"
 #include "support/random_matrices.h"
-#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {
 
 using testing::Engine;
 using testing::RandomMatrix;
-using testing::RectangularCheckOff;
 
 // The rows come in the order of their keys and are those of the source, whole.
 template <class T>
@@ -90,34 +88,6 @@ TEST(MatrixSortingLines, SharedRowsLoseNothing) {
   twice.Append(twice[0]);
   QSortMatrixColsOnRow(twice, 0, true);
   EXPECT_EQ(twice[0], (TQorByteVector{2, 3, 1})) << "(1, 2, 3), permuted once more";
-}
-
-TEST(MatrixSortingLines, GuardsAndErrorsComeInOrder) {
-  for (const TQorWordMatrix& before :
-       {TQorWordMatrix(), TQorWordMatrix{{}, {}}, TQorWordMatrix{{3, 1}}, TQorWordMatrix{{3}, {1}},
-        TQorWordMatrix{{3, 1}, {1}}}) {
-    TQorWordMatrix m = CopyMatrix(before);
-    for (const std::uint32_t index : {0U, 99U}) {
-      QSortMatrixRowsOnCol(m, index, true);
-      QSortMatrixColsOnRow(m, index, true);
-    }
-    EXPECT_EQ(m, before);
-  }
-  TQorWordMatrix wide{{3, 2, 1}, {1, 2, 3}};
-  EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(wide, 3, true), rsInvalidCol);
-  EXPECT_MATH_ERROR(QSortMatrixColsOnRow(wide, 2, true), rsInvalidRow);
-
-  const RectangularCheckOff off;
-  TQorWordMatrix ragged{{3, 2}, {2, 1}, {1}};
-  EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 2, true), rsInvalidCol);
-  EXPECT_MATH_ERROR(QSortMatrixRowsOnCol(ragged, 0, true), rsMatrixRect);
-  EXPECT_MATH_ERROR(QSortMatrixColsOnRow(ragged, 0, true), rsMatrixRect);
-  EXPECT_EQ(ragged, (TQorWordMatrix{{3, 2}, {2, 1}, {1}}));
-  TQorWordMatrix longer{{3, 2}, {1, 7, 9}};
-  QSortMatrixRowsOnCol(longer, 0, true);
-  EXPECT_EQ(longer, (TQorWordMatrix{{1, 7}, {3, 2, 9}})) << "the columns are those of row 0";
-  QSortMatrixColsOnRow(longer, 1, true);
-  EXPECT_EQ(longer, (TQorWordMatrix{{7, 1}, {2, 3, 9}}));
 }
 
 TEST(MatrixSortingLines, LackOfMemoryLeavesTheMatrixUnchanged) {

@@ -2,12 +2,14 @@
 // four checks fail at p < 1e-6 each: another engine, or a change of a stream, would raise a false
 // alarm with a probability of 4e-4. With the fixed seed the outcome is always the same.
 
+#include <array>
 #include <cmath>
+#include <string>
 
 #include "qorvex/base/elementary.h"
-#include "qorvex/random/QorvexRandom.h"
 #include "qorvex/stats/full_precision.h"
 #include "random/distribution_battery.h"
+#include "random/variates.h"
 
 namespace qorvex {
 
@@ -20,8 +22,6 @@ using testing::Judge;
 using testing::Moments;
 using testing::Reference;
 using testing::Support;
-
-using Parameters = std::vector<Extended>;
 
 constexpr Support kReal{-kInfinity, kInfinity};
 constexpr Support kPositive{0, kInfinity};
@@ -42,14 +42,14 @@ Reference Normal(Extended mean, Extended std_dev) {
 }
 
 // Variates below 5E-324 are 0. The variance of small shapes depends on a few variates.
-Reference Gamma(Extended shape) {
+Reference Gamma(Extended shape, Extended = 0) {
   Reference gamma = Family(fp::GammaLower, fp::GammaQuantile, {shape, shape < 0.1L ? kNaN : shape},
                            kPositive, shape, 1);
   gamma.quantile = [exact = gamma.quantile](Extended p) { return std::max(exact(p), 5e-324L); };
   return gamma;
 }
 
-Reference ChiSquare(Extended df) {
+Reference ChiSquare(Extended df, Extended = 0) {
   return Family(fp::ChiSquareLower, fp::ChiSquareQuantile, {df, 2 * df}, kPositive, df);
 }
 
@@ -73,7 +73,7 @@ Reference LogNormal(Extended m, Extended s) {
                 kPositive, m, s);
 }
 
-Reference Weibull(Extended a) {
+Reference Weibull(Extended a, Extended = 0) {
   const Extended mean = std::tgamma(1 + 1 / a);
   // The variance does not exist for negative shapes down to -2.
   const Moments moments = a > 0 ? Moments{mean, std::tgamma(1 + 2 / a) - mean * mean} : Moments{};
@@ -85,7 +85,7 @@ Reference Weibull(Extended a) {
           moments, kPositive};
 }
 
-Reference Cauchy() {
+Reference Cauchy(Extended = 0, Extended = 0) {
   return {[](Extended x) { return 0.5L + std::atan(x) / QorPi; },
           [](Extended p) { return std::tan(QorPi * (p - 0.5L)); },
           {},
@@ -118,12 +118,12 @@ Reference InverseGaussian(Extended mean, Extended shape) {
           kPositive};
 }
 
-Reference VonMises(Extended k) {
+Reference VonMises(Extended k, Extended = 0) {
   return testing::Integrated([k](Extended t) { return k * std::cos(t); },
                              [](Extended t) { return t; }, -QorPi, QorPi, {-QorPi, QorPi});
 }
 
-Reference Poisson(Extended mu) {
+Reference Poisson(Extended mu, Extended = 0) {
   return Family<std::uint32_t>(fp::PoissonLower, fp::PoissonQuantile, {mu, mu}, kCounts, mu);
 }
 
@@ -179,143 +179,116 @@ Extended MahalanobisDistance(const TQorFloatVector& x) {
   return sum / determinant;
 }
 
-struct Variate {
-  const char* name;
-  std::vector<Parameters> cases;
-  std::function<Extended(const Parameters&, UniformSource)> draw;
-  std::function<Reference(const Parameters&)> reference;
+struct Judged {
+  const char* variate;  // as in testing::Variates()
+  std::vector<std::array<Extended, 2>> cases;
+  Reference (*reference)(Extended a, Extended b);
   int draws = testing::UsualDraws();
 };
 
-const std::vector<Variate>& Variates() {
-  using P = const Parameters&;
-  static const std::vector<Variate> variates = {
-      {"StandardNormal",
-       {{}},
-       [](P, auto s) { return Random_Normal(s); },
-       [](P) { return Normal(0, 1); }},
-      {"Normal",
-       {{3, 0.2L}},
-       [](P p, auto s) { return Random_Normal(p[0], p[1], s); },
-       [](P p) { return Normal(p[0], p[1]); }},
-      {"Gamma",
-       {{0.001L}, {0.1L}, {0.5L}, {0.95L}, {1}, {1.2L}, {3.5L}, {50}, {1e6L}},
-       [](P p, auto s) { return Random_Gamma(p[0], s); },
-       [](P p) { return Gamma(p[0]); }},
-      {"ChiSquare",
-       {{1}, {2}, {7}},
-       [](P p, auto s) { return Random_ChiSq(static_cast<int>(p[0]), s); },
-       [](P p) { return ChiSquare(p[0]); }},
-      {"Exponential",
-       {{}},
-       [](P, auto s) { return Random_Exponential(s); },
-       [](P) { return Gamma(1); }},
-      {"Weibull",
-       {{0.7L}, {2}, {-2}},
-       [](P p, auto s) { return Random_Weibull(p[0], s); },
-       [](P p) { return Weibull(p[0]); }},
-      {"Beta",
-       {{0.3L, 0.4L},
-        {0.5L, 3},
-        {3, 0.5L},
-        {1, 1},
-        {2, 1},
-        {1.5L, 2.5L},
-        {20, 3},
-        {500, 800},
-        {1, 0.001L}},
-       [](P p, auto s) { return Random_Beta(p[0], p[1], s); },
-       [](P p) { return Beta(p[0], p[1]); }},
-      // The curve of the quick rejection, f/(3 + q), is the boundary of the region for three
-      // degrees of freedom up to a factor. It touches the boundaries for one and two from below, so
-      // that what is left of their regions is that for three.
-      {"StudentT",
-       {{1}, {2}, {3}, {5}, {30}, {1e6L}},
-       [](P p, auto s) { return Random_T(static_cast<int>(p[0]), s); },
-       [](P p) { return StudentT(std::max(p[0], 3.0L)); }},
-      {"Cauchy", {{}}, [](P, auto s) { return Random_Cauchy(s); }, [](P) { return Cauchy(); }},
-      {"LogNormal",
-       {{0, 0.5L}, {-3, 0.1L}, {2, 0.8L}},
-       [](P p, auto s) { return Random_LogNormal(std::exp(p[0]), std::exp(p[1] * p[1] / 2), s); },
-       [](P p) { return LogNormal(p[0], p[1]); }},
-      {"GeneralisedInverseGaussian",
-       {{0.05L, 0}, {0.05L, 3}, {2, 0.5L}, {3, 1}, {3, 3}, {20, 100}, {1e4L, 0.5L}},
-       [](P p, auto s) { return Random_Inv_Gauss(p[0], p[1], s); },
-       [](P p) { return GeneralisedInverseGaussian(p[0], p[1]); }},
-      {"InverseGaussian",
-       {{1.5L, 4}},
-       [](P p, auto s) { return p[0] / Random_Inv_Gauss(p[1] / p[0], 0.5L, s); },
-       [](P p) { return InverseGaussian(p[0], p[1]); }},
-      {"VonMises",
-       {{0}, {0.3L}, {0.5L}, {0.75L}, {1}, {3}, {9.4L}, {9.99L}},
-       [](P p, auto s) { return Random_von_Mises(p[0], s); },
-       [](P p) { return VonMises(p[0]); },
-       testing::UsualDraws() / 5},
-      {"Binomial1",
-       {{1, 0.3L}, {3, 0.2L}, {50, 0.9L}, {300, 0.7L}, {1000, 0.1L}, {1e4L, 0.5L}},
-       [](P p, auto s) { return Random_Binomial1(static_cast<std::int32_t>(p[0]), p[1], s); },
-       [](P p) { return Binomial(p[0], p[1]); }},
-      {"Binomial2",
-       {{1, 0.3L},
-        {50, 0.9L},
-        {61, 0.5L},
-        {100, 0.31L},
-        {300, 0.7L},
-        {1000, 0.1L},
-        {1e5L, 0.5L},
-
-        {2e9L, 0.5L},
-        {1e17L, 1e-16L}},
-       [](P p, auto s) { return Random_Binomial2(static_cast<std::int64_t>(p[0]), p[1], s); },
-       [](P p) { return Binomial(p[0], p[1]); }},
-      {"NegativeBinomial",
-       {{0.4L, 0.3L}, {3, 0.69L}, {300.5L, 0.4L}, {3, 0.71L}, {0.5L, 0.9L}, {12.5L, 0.95L}},
-       [](P p, auto s) { return Random_Neg_Binomial(p[0], p[1], s); },
-       [](P p) { return NegativeBinomial(p[0], p[1]); }},
-      {"Poisson",
-       {{0.3L}, {5}, {9.99L}, {10}, {12}, {50}, {1e4L}, {1e9L}},
-       [](P p, auto s) { return Random_Poisson(p[0], s); },
-       [](P p) { return Poisson(p[0]); }},
-      // Sums of weighted components: their variances tell all covariances.
-      {"MultivariateNormal",
-       {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}},
-       [](P p, auto s) {
-         const TQorFloatVector x = DeviationsFromMean(s);
-         return p[0] * x[0] + p[1] * x[1] + p[2] * x[2];
-       },
-       [](P p) {
-         Extended variance = 0;
-         for (std::size_t i = 0; i < 3; ++i)
-           for (std::size_t j = 0; j < 3; ++j) variance += p[i] * kMatrix[i][j] * p[j];
-         return Normal(0, std::sqrt(variance));
-       }},
-      {"MultivariateNormalDistance",
-       {{}},
-       [](P, auto s) { return MahalanobisDistance(DeviationsFromMean(s)); },
-       [](P) { return ChiSquare(3); }},
-  };
-  return variates;
+void PrintTo(const Judged& judged, std::ostream* out) {
+  *out << judged.variate;
 }
 
-void PrintTo(const Variate& variate, std::ostream* out) {
-  *out << variate.name;
-}
-
-class Battery : public ::testing::TestWithParam<Variate> {};
+class Battery : public ::testing::TestWithParam<Judged> {};
 
 TEST_P(Battery, Agrees) {
-  const Variate& variate = GetParam();
-  for (const Parameters& p : variate.cases) {
-    SCOPED_TRACE(::testing::PrintToString(p));
-    ExpectAgreement([&](auto source) { return variate.draw(p, source); }, variate.reference(p),
-                    variate.draws);
+  const auto& [variate, cases, reference, draws] = GetParam();
+  const testing::NamedDraw draw = testing::Variates().at(variate);
+  for (const auto [a, b] : cases) {
+    SCOPED_TRACE(::testing::Message() << a << ' ' << b);
+    ExpectAgreement([=](auto source) { return draw(a, b, source); }, reference(a, b), draws);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Variates, Battery, ::testing::ValuesIn(Variates()),
-                         [](const auto& test) { return test.param.name; });
+const Judged kVariates[] = {
+    {"normal", {{0, 1}}, Normal},
+    {"scaled-normal", {{3, 0.2L}}, Normal},
+    {"gamma", {{0.001L}, {0.1L}, {0.5L}, {0.95L}, {1}, {1.2L}, {3.5L}, {50}, {1e6L}}, Gamma},
+    {"chi-square", {{1}, {2}, {7}}, ChiSquare},
+    {"exponential", {{1}}, Gamma},
+    {"weibull", {{0.7L}, {2}, {-2}}, Weibull},
+    {"beta",
+     {{0.3L, 0.4L},
+      {0.5L, 3},
+      {3, 0.5L},
+      {1, 1},
+      {2, 1},
+      {1.5L, 2.5L},
+      {20, 3},
+      {500, 800},
+      {1, 0.001L}},
+     Beta},
+    // The curve of the quick rejection, f/(3 + q), is the boundary of the region for three degrees
+    // of freedom up to a factor. It touches the boundaries for one and two from below, so what
+    // remains of their regions is the region for three.
+    {"student-t",
+     {{1}, {2}, {3}, {5}, {30}, {1e6L}},
+     [](Extended df, Extended) { return StudentT(std::max(df, 3.0L)); }},
+    {"cauchy", {{}}, Cauchy},
+    {"log-normal",
+     {{1, 1.13L}, {0.05L, 1.005L}, {7, 1.38L}},
+     [](Extended median, Extended s) {
+       return LogNormal(std::log(median), std::sqrt(2 * std::log(s)));
+     }},
+    {"inverse-gaussian",
+     {{0.05L, 0}, {0.05L, 3}, {2, 0.5L}, {3, 1}, {3, 3}, {20, 100}, {1e4L, 0.5L}},
+     GeneralisedInverseGaussian},
+    {"von-mises",
+     {{0}, {0.3L}, {0.5L}, {0.75L}, {1}, {3}, {9.4L}, {9.99L}},
+     VonMises,
+     testing::UsualDraws() / 5},
+    {"binomial-1",
+     {{1, 0.3L}, {3, 0.2L}, {50, 0.9L}, {300, 0.7L}, {1000, 0.1L}, {1e4L, 0.5L}},
+     Binomial},
+    {"binomial-2",
+     {{1, 0.3L},
+      {50, 0.9L},
+      {61, 0.5L},
+      {100, 0.31L},
+      {300, 0.7L},
+      {1000, 0.1L},
+      {1e5L, 0.5L},
+      {2e9L, 0.5L},
+      {1e17L, 1e-16L}},
+     Binomial},
+    {"negative-binomial",
+     {{0.4L, 0.3L}, {3, 0.69L}, {300.5L, 0.4L}, {3, 0.71L}, {0.5L, 0.9L}, {12.5L, 0.95L}},
+     NegativeBinomial},
+    {"poisson", {{0.3L}, {5}, {9.99L}, {10}, {12}, {50}, {1e4L}, {1e9L}}, Poisson},
+};
 
-TEST(PlantedDefects, AreSeen) {
+INSTANTIATE_TEST_SUITE_P(Variates, Battery, ::testing::ValuesIn(kVariates), [](const auto& test) {
+  std::string name = test.param.variate;
+  std::ranges::replace(name, '-', '_');
+  return name;
+});
+
+TEST(Battery, InverseGaussianFromTheGeneralisedVariate) {
+  const Extended mean = 1.5L;
+  const Extended shape = 4;
+  ExpectAgreement([=](auto s) { return mean / Random_Inv_Gauss(shape / mean, 0.5L, s); },
+                  InverseGaussian(mean, shape));
+}
+
+// The variances of weighted sums of components show all covariances.
+TEST(Battery, MultivariateNormal) {
+  using Weights = std::array<Extended, 3>;
+  for (const auto& w : {Weights{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}}) {
+    SCOPED_TRACE(::testing::PrintToString(w));
+    Extended variance = 0;
+    for (std::size_t i = 0; i < 3; ++i)
+      for (std::size_t j = 0; j < 3; ++j) variance += w[i] * kMatrix[i][j] * w[j];
+    const auto draw = [&w](UniformSource s) {
+      const TQorFloatVector x = DeviationsFromMean(s);
+      return w[0] * x[0] + w[1] * x[1] + w[2] * x[2];
+    };
+    ExpectAgreement(draw, Normal(0, std::sqrt(variance)));
+  }
+  ExpectAgreement([](auto s) { return MahalanobisDistance(DeviationsFromMean(s)); }, ChiSquare(3));
+}
+
+TEST(PlantedDefects, AreFound) {
   struct Defect {
     const char* name;
     Reference reference;

@@ -28,7 +28,7 @@ TQorMatrix<T> MatrixOf(std::size_t rows, std::size_t cols, const Making<T>& elem
 }
 
 /// A matrix of rows x cols elements like those of RandomVector.
-template <NumericElement T>
+template <AnyElement T>
 TQorMatrix<T> RandomMatrix(Engine& engine, std::size_t rows, std::size_t cols) {
   auto matrix = TQorMatrix<T>::WithLength(rows);
   for (TQorVector<T>& row : matrix) row = RandomVector<T>(engine, cols);

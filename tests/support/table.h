@@ -41,6 +41,13 @@ class Table {
   [[nodiscard]] Extended Value(std::size_t row, const std::string& column) const {
     return Str2Float(Text(row, column));
   }
+  /// The numbers of a cell that has several, between blanks.
+  [[nodiscard]] std::vector<Extended> Values(std::size_t row, const std::string& column) const {
+    std::istringstream numbers(Text(row, column));
+    std::vector<Extended> values;
+    for (std::string number; numbers >> number;) values.push_back(Str2Float(number));
+    return values;
+  }
 
  private:
   std::map<std::string, std::size_t> columns_;

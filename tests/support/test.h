@@ -27,6 +27,7 @@ using WideTypes =
 using AllTypes =
     ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
                      std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
+using CurrencyTypes = ::testing::Types<Currency, QorCurrency, QorLongCurrency>;
 
 /// Expects that the statement raises an error of exactly the given type with the given message.
 #define EXPECT_ERROR(statement, Type, id)                           \

@@ -72,7 +72,7 @@ TEST(Transforms, LinearAndCallerSupplied) {
     return x < 0 ? throw std::domain_error("negative") : -x;
   };
   EXPECT_THROW(TransformVector(v, negate_positive), std::domain_error);
-  EXPECT_EQ(v, (TQorFloatVector{-1, -2, -3, 4})) << "the earlier elements are already replaced";
+  EXPECT_EQ(v, (TQorFloatVector{-1, -2, -3, 4})) << "the elements before are replaced";
 }
 
 TEST(MovingAverage, WritesAtTheOffsetOfEachWindow) {
@@ -108,7 +108,7 @@ TYPED_TEST(MovingAverages, SumEveryWindowAfresh) {
 TEST(Polynomial, AddsAscendingPowers) {
   EXPECT_EQ(QorPolynomial({1, 2, 3}, 2), 17);
   EXPECT_EQ(QorPolynomial({}, 2), 0);
-  // Horner's scheme would add the last two terms exactly and keep their difference.
+  // Horner's scheme would add the last two terms exactly and keep the result.
   EXPECT_EQ(QorPolynomial({0, 1, -0x1p-64L}, 0x1p64L), 0);
   const Extended x = 0.3L;
   EXPECT_EQ(QorPolynomial({0.1L, 0.7L, 0.9L, 0.4L}, x),

@@ -31,11 +31,11 @@ std::string CsvCell(std::string_view cell) {
   return quoted + '"';
 }
 
+}  // namespace
+
 bool SameNumber(Extended a, Extended b) {
   return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);
 }
-
-}  // namespace
 
 DataTable::DataTable(apps::TextInput input) : input_name_(input.name) {
   apps::RowReader rows(std::move(input));

@@ -16,6 +16,9 @@
 
 namespace qorvex::gallery {
 
+/// Whether two numbers are the same, sign of zero included; NaN is the same as NaN.
+[[nodiscard]] bool SameNumber(Extended a, Extended b);
+
 /// The cells of a table as they were read, and what has been changed since. A column of numbers can
 /// be changed cell by cell. What is not changed is written again letter by letter.
 ///

@@ -18,8 +18,7 @@ namespace qorvex::gallery {
 namespace {
 
 // False when it was not to go on.
-bool DrawValues(const SampleOrder& order, TQorFloatVector& values,
-                const std::function<bool(std::size_t, std::size_t)>& proceed) {
+bool DrawValues(const SampleOrder& order, TQorFloatVector& values, const Proceed& proceed) {
   apps::VariateArguments arguments;
   for (const Extended parameter : order.parameters) arguments.Append({parameter});
   const auto draw = order.variate->methods.front().draw;
@@ -90,8 +89,7 @@ void MakeBars(RandomSample& sample) {
 
 }  // namespace
 
-RandomSample DrawSample(const SampleOrder& order,
-                        const std::function<bool(std::size_t done, std::size_t total)>& proceed) {
+RandomSample DrawSample(const SampleOrder& order, const Proceed& proceed) {
   RandomSample sample;
   sample.order = order;
   TQorFloatVector values = TQorFloatVector::WithLength(order.size);

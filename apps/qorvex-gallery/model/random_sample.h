@@ -6,10 +6,10 @@
 #include <QPointF>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <vector>
 
 #include "apps/common/variates.h"
+#include "apps/qorvex-gallery/model/background_work.h"
 
 namespace qorvex::gallery {
 
@@ -35,8 +35,6 @@ struct RandomSample {
 /// with how much is done whether to go on; an order without values comes back if not. Draws from
 /// the one generator of the program, so only one thread may at a time. Raises std::runtime_error
 /// with what the variate refuses.
-[[nodiscard]] RandomSample DrawSample(
-    const SampleOrder& order,
-    const std::function<bool(std::size_t done, std::size_t total)>& proceed);
+[[nodiscard]] RandomSample DrawSample(const SampleOrder& order, const Proceed& proceed);
 
 }  // namespace qorvex::gallery

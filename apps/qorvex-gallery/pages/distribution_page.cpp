@@ -11,7 +11,7 @@
 #include "apps/qorvex-gallery/model/distribution_curve.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
-#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 #include "qorvex/base_controls/float_edit.h"
@@ -45,13 +45,12 @@ DistributionPage::DistributionPage(QWidget* parent)
       first_(MakeNumberCell(1, tr("Point"), this)),
       second_label_(new QLabel),
       second_(MakeNumberCell(2, tr("Upper end of the interval"), this)),
-      points_message_(new MessageLabel),
       side_(new QComboBox),
       probability_(MakeNumberCell(0.975L, tr("Probability"), this)),
       quantile_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
-      quantile_message_(new MessageLabel),
       plot_(new PlotView),
-      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})) {
+      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      message_(new MessageBar) {
   setObjectName(QStringLiteral("distributionPage"));
   family_->setObjectName(QStringLiteral("family"));
   family_->setAccessibleName(tr("Family of distributions"));
@@ -86,19 +85,18 @@ DistributionPage::DistributionPage(QWidget* parent)
     ends->addWidget(cell, 1);
   }
   probabilities->addLayout(ends);
-  probabilities->addWidget(points_message_);
   QVBoxLayout* const quantile = panel->AddGroup(tr("Quantile"));
   auto* const asked = new QHBoxLayout;
   asked->addWidget(side_);
   asked->addWidget(probability_, 1);
   quantile->addLayout(asked);
   quantile->addWidget(quantile_);
-  quantile->addWidget(quantile_message_);
   panel->Finish();
 
   auto* const right = new QVBoxLayout;
   right->addWidget(plot_, 1);
   right->addWidget(figures_);
+  right->addWidget(message_);
 
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
@@ -126,16 +124,13 @@ bool DistributionPage::Interval() const {
 void DistributionPage::ShowFamily() {
   summary_->setText(tr(Family().summary));
   parameters_->SetParameters(Family().parameters);
-  // Points that are in sight, whatever the family.
-  if (const auto parameters = parameters_->Numbers()) {
-    const apps::DistributionRoutine quantile = Family().full_precision.quantile;
-    const auto point = [&](Extended p) {
-      const Extended exact = FigureAt(quantile, *parameters, p);
-      return Family().is_discrete ? exact : std::round(exact * 100) / 100;
-    };
-    first_->setValue(point(0.2L));
-    second_->setValue(point(0.9L));
-  }
+  // Points that the diagram shows, whatever the family.
+  const auto point = [this](Extended p) {
+    const Extended exact = FigureAt(Family().full_precision.quantile, parameters_->Numbers(), p);
+    return Family().is_discrete ? exact : std::round(exact * 100) / 100;
+  };
+  first_->setValue(point(0.2L));
+  second_->setValue(point(0.9L));
   Update();
 }
 
@@ -145,29 +140,31 @@ void DistributionPage::Update() {
   const QString variable = Family().is_discrete ? QStringLiteral("k") : QStringLiteral("x");
   first_label_->setText(Interval() ? QStringLiteral("a") : variable);
   second_label_->setText(QStringLiteral("b"));
-  const auto parameters = parameters_->Numbers();
-  if (!parameters) return;
-  if (const auto inconsistency = Family().inconsistency) {
-    if (const char* const what = inconsistency(*parameters)) {
-      parameters_->ShowInconsistency(what);
-      return;
-    }
-  }
-  UpdatePoints(*parameters);
-  UpdateQuantile(*parameters);
+  const std::vector<Extended> parameters = parameters_->Numbers();
+  const QString wrong = WhatIsWrong(parameters);
+  if (!wrong.isEmpty()) return message_->SetText(wrong);
+  QStringList messages = {UpdatePoints(parameters), UpdateQuantile(parameters)};
+  messages.removeAll(QString());
+  message_->SetText(messages.join(QStringLiteral("; ")));
 }
 
-void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
+QString DistributionPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
+  const QString wrong = parameters_->WhatIsWrong();
+  if (!wrong.isEmpty() || Family().inconsistency == nullptr) return wrong;
+  const char* const what = Family().inconsistency(parameters);
+  return what == nullptr ? QString() : parameters_->Labelled(what);
+}
+
+QString DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
   std::vector<Extended> points = {first_->Value()};
   if (Interval()) points.push_back(second_->Value());
   const apps::NumberKind kind =
       Family().is_discrete ? apps::NumberKind::kCount : apps::NumberKind::kReal;
-  points_message_->Say({});
-  for (const Extended point : points) {
-    const char* const wrong = apps::WhatIsWrong(point, kind);
-    if (wrong == nullptr) continue;
-    points_message_->Say(ExactText(point) + ' ' + tr(wrong));
-    return;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    if (const char* const wrong = apps::WhatIsWrong(points[i], kind)) {
+      return tr("%1: %2 %3")
+          .arg((i == 0 ? first_label_ : second_label_)->text(), ExactText(points[i]), tr(wrong));
+    }
   }
   std::sort(points.begin(), points.end());
   const apps::FullPrecisionRoutines& routines = Family().full_precision;
@@ -205,25 +202,24 @@ void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
     Draw(parameters, points);
     figures_->SetRows(figures);
   } catch (const std::exception& error) {
-    points_message_->Say(QString::fromUtf8(error.what()));
+    return QString::fromUtf8(error.what());
   }
+  return {};
 }
 
-void DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters) {
+QString DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters) {
   const Extended probability = probability_->Value();
-  quantile_message_->Say({});
-  if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability)) {
-    quantile_message_->Say(ExactText(probability) + ' ' + tr(wrong));
-    return;
-  }
+  if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability))
+    return tr("Probability: %1 %2").arg(ExactText(probability), tr(wrong));
   const apps::FullPrecisionRoutines& routines = Family().full_precision;
   try {
     const apps::DistributionRoutine routine =
         side_->currentIndex() == 0 ? routines.quantile : routines.upper_quantile;
     quantile_->SetRows({{tr("Quantile"), ExactText(FigureAt(routine, parameters, probability))}});
   } catch (const std::exception& error) {
-    quantile_message_->Say(QString::fromUtf8(error.what()));
+    return QString::fromUtf8(error.what());
   }
+  return {};
 }
 
 void DistributionPage::Draw(const std::vector<Extended>& parameters,

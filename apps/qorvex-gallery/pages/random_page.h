@@ -8,8 +8,8 @@
 #include <memory>
 #include <vector>
 
+#include "apps/qorvex-gallery/model/background_work.h"
 #include "apps/qorvex-gallery/model/random_sample.h"
-#include "apps/qorvex-gallery/widgets/background_task.h"
 
 class QComboBox;
 class QLabel;
@@ -26,7 +26,7 @@ class TQorFloatEdit;
 namespace qorvex::gallery {
 
 class FigureTable;
-class MessageLabel;
+class MessageBar;
 class ParameterForm;
 class PlotView;
 
@@ -58,20 +58,17 @@ class RandomPage : public QWidget {
   void Copy();
   void AskAndSave();
   [[nodiscard]] const apps::Variate& Chosen() const;
+  [[nodiscard]] QString WhatIsWrong(const std::vector<Extended>& parameters) const;
 
   std::vector<const apps::Variate*> variates_;
   std::shared_ptr<const RandomSample> sample_;
-  // What the task makes.
-  std::shared_ptr<RandomSample> result_;
 
   QComboBox* variate_;
   QLabel* summary_;
   ParameterForm* parameters_;
   QSpinBox* size_;
   TQorFloatEdit* seed_;
-  MessageLabel* message_;
-  // What the task writes to; empty while it draws.
-  QString saved_path_;
+  MessageBar* message_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;
@@ -80,8 +77,9 @@ class RandomPage : public QWidget {
   PlotView* plot_;
   QLabel* title_;
   FigureTable* moments_;
-  // Last, so that the work ends before what it uses.
-  BackgroundTask task_;
+  // Declared last: its destructor waits for the thread before the members it reports to are
+  // destroyed.
+  BackgroundWork work_;
 };
 
 }  // namespace qorvex::gallery

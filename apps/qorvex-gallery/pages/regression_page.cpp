@@ -15,7 +15,6 @@
 #include <utility>
 
 #include "apps/common/pair_fit.h"
-#include "apps/qorvex-gallery/model/example_pairs.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
@@ -31,6 +30,14 @@ namespace {
 using apps::PairFit;
 
 constexpr int kMostRows = 1'000'000;
+
+// Years, and thousands of people of 14 years and more in the United States. From J. W. Longley, An
+// appraisal of least squares programs for the electronic computer from the point of view of the
+// user, 1967. The digits that the years share are what such programs lost.
+constexpr std::pair<int, int> kExamplePairs[] = {
+    {1947, 107608}, {1948, 108632}, {1949, 109773}, {1950, 110929}, {1951, 112075}, {1952, 113270},
+    {1953, 115094}, {1954, 116219}, {1955, 117388}, {1956, 118734}, {1957, 120445}, {1958, 121950},
+    {1959, 123366}, {1960, 125368}, {1961, 127852}, {1962, 130081}};
 
 struct Pairs {
   TQorFloatVector x, y;
@@ -234,7 +241,7 @@ void RegressionPage::Refresh() {
   plot_->SetLayers(std::move(layers));
 
   const auto number = [this](std::optional<Extended> figure) {
-    if (!figure) return QStringLiteral("–");
+    if (!figure) return QStringLiteral("—");
     return QorvexBaseControls::detail::LocalNumber(Float2Str(*figure), locale());
   };
   const auto row = [&](const QString& label, auto figure) {

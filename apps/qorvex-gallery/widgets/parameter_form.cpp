@@ -4,7 +4,6 @@
 #include <QLocale>
 #include <QVBoxLayout>
 
-#include "apps/qorvex-gallery/widgets/message_label.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/base_controls/float_edit.h"
@@ -42,12 +41,10 @@ QString LabelOf(const apps::NumberParameter& parameter) {
 
 }  // namespace
 
-ParameterForm::ParameterForm(QWidget* parent)
-    : QWidget(parent), inconsistency_(new MessageLabel(this)) {
+ParameterForm::ParameterForm(QWidget* parent) : QWidget(parent) {
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
-  layout->addWidget(inconsistency_);
 }
 
 ParameterForm::~ParameterForm() = default;
@@ -55,7 +52,6 @@ ParameterForm::~ParameterForm() = default;
 void ParameterForm::SetParameters(std::span<const apps::NumberParameter> parameters) {
   for (const Row& row : rows_) delete row.holder;
   rows_.clear();
-  inconsistency_->hide();
   auto* const layout = static_cast<QVBoxLayout*>(this->layout());
   for (const apps::NumberParameter& parameter : parameters) {
     auto* const holder = new QWidget(this);
@@ -67,36 +63,37 @@ void ParameterForm::SetParameters(std::span<const apps::NumberParameter> paramet
     auto* const cell = MakeNumberCell(StartNumber(parameter), label->text(), holder);
     cell->setObjectName(QString::fromUtf8(parameter.option).mid(2));
     label->setBuddy(cell);
-    auto* const message = new MessageLabel(holder);
-    for (QWidget* const widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(cell),
-                                  static_cast<QWidget*>(message)}) {
-      lines->addWidget(widget);
-    }
-    layout->insertWidget(layout->count() - 1, holder);
-    rows_.push_back({&parameter, holder, cell, message});
+    lines->addWidget(label);
+    lines->addWidget(cell);
+    layout->addWidget(holder);
+    rows_.push_back({&parameter, holder, cell});
     connect(cell, &TQorFloatEdit::Changed, this, &ParameterForm::Changed);
   }
 }
 
-std::optional<std::vector<Extended>> ParameterForm::Numbers() {
-  inconsistency_->hide();
+std::vector<Extended> ParameterForm::Numbers() const {
   std::vector<Extended> numbers;
-  bool all_fine = true;
-  for (const Row& row : rows_) {
-    numbers.push_back(row.cell->Value());
-    const char* const wrong = apps::WhatIsWrong(numbers.back(), row.parameter->kind);
-    row.message->Say(wrong == nullptr ? QString() : ExactText(numbers.back()) + ' ' + tr(wrong));
-    if (wrong != nullptr) all_fine = false;
-  }
-  if (!all_fine) return std::nullopt;
+  for (const Row& row : rows_) numbers.push_back(row.cell->Value());
   return numbers;
 }
 
-void ParameterForm::ShowInconsistency(const std::string& text) {
-  QString shown = QString::fromStdString(text);
+QString ParameterForm::WhatIsWrong() const {
+  QStringList messages;
+  for (const Row& row : rows_) {
+    const Extended number = row.cell->Value();
+    if (const char* const wrong = apps::WhatIsWrong(number, row.parameter->kind)) {
+      messages +=
+          LabelOf(*row.parameter) + QStringLiteral(": ") + ExactText(number) + ' ' + tr(wrong);
+    }
+  }
+  return messages.join(QStringLiteral("; "));
+}
+
+QString ParameterForm::Labelled(const std::string& message) const {
+  QString text = QString::fromStdString(message);
   for (const Row& row : rows_)
-    shown.replace(QLatin1String(row.parameter->option), '"' + LabelOf(*row.parameter) + '"');
-  inconsistency_->Say(shown);
+    text.replace(QLatin1String(row.parameter->option), '"' + LabelOf(*row.parameter) + '"');
+  return text;
 }
 
 TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QWidget* parent) {

@@ -2,7 +2,7 @@
 
 #include <QComboBox>
 
-#include "apps/gallery/cells_and_remarks.h"
+#include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/full_precision.h"
@@ -55,7 +55,7 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAPoint) {
   EnterNumber("first", "3");
   EXPECT_EQ(Figures()[2], Float2Str(fp::FDistUpper(2.5L, 7, 3)));
   EXPECT_EQ(Quantile(), Float2Str(fp::FDistQuantile(2.5L, 7, 0.1L)));
-  EXPECT_EQ(Remarks(page), "");
+  EXPECT_EQ(Message(), "");
 }
 
 TEST_F(DistributionPageTest, GivesTheFiguresOfAnInterval) {
@@ -84,10 +84,11 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresBesideWhatIsRefused) {
     const char* number;
     const char* message;
   } const cases[] = {
-      {"Normal", "std-dev", "-1", "-1 is not greater than 0"},
-      {"Binomial", "success-probability", "1.5", "1.5 is not from 0 to 1"},
-      {"Poisson", "first", "2.5", "2.5 is not a whole number from 0 to 4294967295"},
-      {"Normal", "probability", "1", "1 is not between 0 and 1"},
+      {"Normal", "std-dev", "-1", "Standard deviation: -1 is not greater than 0"},
+      {"Binomial", "success-probability", "1.5",
+       "Probability of success in each trial: 1.5 is not from 0 to 1"},
+      {"Poisson", "first", "2.5", "k: 2.5 is not a whole number from 0 to 4294967295"},
+      {"Normal", "probability", "1", "Probability: 1 is not between 0 and 1"},
       {"Beta", "lower-end", "3",
        "\"Upper end of the support\" must be greater than \"Lower end of the support\""},
   };
@@ -99,7 +100,7 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresBesideWhatIsRefused) {
     const std::string quantile = Quantile();
     const QImage plot = Plot();
     EnterNumber(c.cell, c.number);
-    EXPECT_EQ(Remarks(page), c.message);
+    EXPECT_EQ(Message(), c.message);
     EXPECT_EQ(Figures(), figures) << c.family;
     EXPECT_EQ(Quantile(), quantile) << c.family;
     EXPECT_EQ(Plot(), plot) << c.family;
@@ -113,7 +114,7 @@ TEST_F(DistributionPageTest, ShowsEveryFamily) {
   QImage before;
   for (int i = 0; i < box.count(); ++i) {
     box.setCurrentIndex(i);
-    EXPECT_EQ(Remarks(page), "") << box.currentText().toStdString();
+    EXPECT_EQ(Message(), "") << box.currentText().toStdString();
     const QImage plot = Plot();
     EXPECT_NE(plot, before) << box.currentText().toStdString();
     before = plot;

@@ -4,7 +4,7 @@
 #include <QSpinBox>
 #include <QTemporaryFile>
 
-#include "apps/gallery/cells_and_remarks.h"
+#include "apps/gallery/page_fixture.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
 

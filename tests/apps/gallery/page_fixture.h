@@ -1,10 +1,11 @@
 #pragma once
 
 /// @file
-/// A page in a window, and what it shows.
+/// A page in a window, what it shows, and what a user types.
 
 #include <QApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QStringList>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
@@ -13,6 +14,13 @@
 #include "qorvex/controls/QorvexVectorEdit.h"
 
 namespace qorvex::gallery {
+
+/// Types a text into a cell, in place of what is there, and enters it.
+inline void Enter(QLineEdit& cell, const char* text) {
+  cell.selectAll();
+  QTest::keyClicks(&cell, QString::fromLatin1(text));
+  QTest::keyClick(&cell, Qt::Key_Return);
+}
 
 template <class Page>
 struct PageFixture : testing::Test {

@@ -7,7 +7,7 @@
 #include <QTemporaryDir>
 #include <cmath>
 
-#include "apps/gallery/cells_and_remarks.h"
+#include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/model/variate_theory.h"
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/random.h"
@@ -145,15 +145,14 @@ TEST_F(RandomPageTest, KeepsTheSampleWhenTheNextIsCancelledOrRefused) {
   EXPECT_FALSE(Idle());
   Click("cancel");
   ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
-  EXPECT_EQ(Remarks(page), "Cancelled");
+  EXPECT_EQ(Message(), "Cancelled");
   EXPECT_EQ(page.Sample(), sample);
 
   Choose("Chi-square", 1000);
   Enter(Find<QLineEdit>("df"), "0");
   page.Generate();
   ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
-  EXPECT_NE(Remarks(page).find("\"Degrees of freedom\" is at least 1"), std::string::npos)
-      << Remarks(page);
+  EXPECT_NE(Message().find("\"Degrees of freedom\" is at least 1"), std::string::npos) << Message();
   EXPECT_EQ(page.Sample(), sample);
 }
 

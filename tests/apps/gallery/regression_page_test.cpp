@@ -62,7 +62,7 @@ TEST_F(RegressionPageTest, TellsOnThePageWhyThereIsNoCurve) {
   EXPECT_EQ(Message(), "A line needs two different x.");
   Find<QSpinBox>("rows").setValue(0);
   QApplication::processEvents();
-  EXPECT_EQ(Figure("figures", "Constant"), "–");
+  EXPECT_EQ(Figure("figures", "Constant"), "—");
   page.ShowExample();
   EXPECT_EQ(Message(), "");
 }

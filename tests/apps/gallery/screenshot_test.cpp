@@ -50,7 +50,7 @@ TEST(Screenshot, SaysWhereItCannotWrite) {
   const Outcome outcome = RunGallery({"--screenshot", "/dev/null/pictures"});
   EXPECT_EQ(outcome.status, 1);
   EXPECT_EQ(outcome.output, "");
-  EXPECT_TRUE(outcome.errors.contains("cannot make the directory /dev/null/pictures\n"))
+  EXPECT_TRUE(outcome.errors.contains("cannot create the directory /dev/null/pictures\n"))
       << outcome.errors.toStdString();
 }
 
