@@ -1,4 +1,4 @@
-// The statistics component without a form. It emits a signal when its results change.
+// The statistics component outside a form: it tells when its results change.
 
 #include <QCoreApplication>
 #include <iostream>
@@ -13,16 +13,16 @@ int main(int argc, char** argv) {
     std::cout << stats.NoOfValues() << " values, mean " << stats.MeanText().toStdString() << '\n';
   });
 
-  // One line per value, as entered in Qt Designer.
+  // One line a value, as a designer enters them.
   stats.setItems({"3.2", "2.9", "3.4"});
   stats.AddValue(3.1L);
 
-  // The results of a batch are computed once, at its end.
+  // A batch is computed once, at its end.
   stats.BeginUpdate();
   for (const long double value : {2.8L, 3.0L, 3.6L}) stats.AddValue(value);
   stats.EndUpdate();
 
-  // A line that is not a number raises an error that quotes it; the values stay unchanged.
+  // A line that is no number is refused by name, and the values stay.
   try {
     stats.setItems({"3.2", "three"});
   } catch (const qorvex::EConvertError& error) {

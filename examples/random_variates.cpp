@@ -9,11 +9,11 @@
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"
 #include "qorvex/stats/QorvexStatistics.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 
 using namespace qorvex;
 
-// A custom engine as a source of uniform values with 64 random bits.
+// An engine of one's own as a source of uniform values with all their 64 bits.
 class OwnSource {
  public:
   explicit OwnSource(std::uint64_t seed) : engine_(seed) {}
@@ -23,9 +23,8 @@ class OwnSource {
   std::mt19937_64 engine_;
 };
 
-// The number of months with more than 60 mm of rain. A month has a Poisson number of storms with
-// mean 4. The rain of each is a gamma variate of shape 2 and scale 5 mm, so their sum is a gamma
-// variate too.
+// The months with more than 60 mm of rain, when four storms are to be expected and each one brings
+// a gamma variate of shape 2 and scale 5 mm. Storms add up to a gamma variate too.
 int WetMonths(int months, std::uint64_t seed) {
   OwnSource source(seed);
   int wet = 0;
@@ -37,7 +36,7 @@ int WetMonths(int months, std::uint64_t seed) {
 }
 
 int main() {
-  // The short forms draw from the library's generator. The same seed gives the same variates.
+  // The short forms draw from the library's generator. A seed fixes what it gives.
   SetRandSeed(1879);
   for (int i = 0; i < 3; ++i) std::cout << Float2Str(Random_Normal()) << '\n';
 
@@ -47,7 +46,7 @@ int main() {
   std::cout << "Heights: " << Float2EStr(QorMean(heights), 2) << " +- "
             << Float2EStr(SampleStdDev(heights), 2) << " cm\n";
 
-  // Four threads, each with its own source.
+  // Four threads, each with a source of its own.
   constexpr int months = 250'000;
   std::array<int, 4> wet;
   {
@@ -60,7 +59,7 @@ int main() {
 
   Extended exact = 0;
   for (std::uint32_t n = 1; n < 60; ++n)
-    exact += full_precision::PoissonPmf(4, n) * full_precision::GammaUpper(2 * n, 5, 60);
+    exact += PoissonDistribution(4).Pmf(n) * Upper(GammaDistribution(2 * n, 5), 60);
   std::cout << "More than 60 mm: " << Float2EStr(share, 4) << " +- " << Float2EStr(error, 4)
             << ", exactly " << Float2EStr(exact, 6) << '\n';
 }

@@ -12,7 +12,7 @@ int main() {
   std::cout << "Mean " << Float2EStr(QorMean(lifetimes), 3) << ", standard deviation "
             << Float2EStr(SampleStdDev(lifetimes), 3) << '\n';
 
-  QSortVector(lifetimes, true);  // order statistics need a sorted vector
+  QSortVector(lifetimes, true);  // order statistics expect a sorted vector
   Extended q1 = 0;
   Extended q3 = 0;
   GetQuartiles(lifetimes, q1, q3);
@@ -20,7 +20,7 @@ int main() {
             << Float2EStr(q1, 1) << " and " << Float2EStr(q3, 1) << ", trimmed mean "
             << Float2EStr(TrimmedMean(lifetimes, 0.125L), 3) << '\n';
 
-  DescriptiveStats stats;  // keeps every figure up to date
+  DescriptiveStats stats;  // keeps every figure current
   for (const Extended lifetime : lifetimes) stats.AddValue(lifetime);
   stats.DeleteValue(7);  // the outlier, now last
   std::cout << "Without the outlier: mode " << Float2EStr(stats.Results().mode, 0) << ", skewness "
