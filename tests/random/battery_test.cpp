@@ -22,50 +22,36 @@ using testing::ExpectAgreement;
 using testing::Judge;
 using testing::Moments;
 using testing::Reference;
+using testing::ReferenceOf;
 using testing::Support;
 
 constexpr Support kPositive{0, kInfinity};
 constexpr Support kCounts{0, kInfinity, true};
 
-// A distribution of the library. The variance is not tested if a few variates dominate it, or if
-// the fourth moment is infinite.
-template <Distribution D>
-Reference Of(const D& d, bool test_variance = true) {
-  const auto support = d.Support();
-  const bool whole = DiscreteDistribution<D>;
-  const bool bounded = !whole || support.greatest < 0xFFFFFFFF;
-  const Extended variance = d.Variance();
-  return {[d](Extended x) { return Lower(d, static_cast<typename D::Point>(x)); },
-          [d](Extended p) { return static_cast<Extended>(Quantile(d, p)); },
-          {std::isfinite(variance) ? d.Mean() : kNaN, test_variance ? variance : kNaN},
-          {static_cast<Extended>(support.least),
-           bounded ? static_cast<Extended>(support.greatest) : kInfinity, whole}};
-}
-
 Reference Normal(Extended mean, Extended std_dev) {
-  return Of(NormalDistribution(mean, std_dev));
+  return ReferenceOf(NormalDistribution(mean, std_dev));
 }
 
 // Variates below 5E-324 are 0.
 Reference Gamma(Extended shape, Extended = 0) {
-  Reference gamma = Of(GammaDistribution(shape), shape >= 0.1L);
+  Reference gamma = ReferenceOf(GammaDistribution(shape), shape >= 0.1L);
   gamma.quantile = [exact = gamma.quantile](Extended p) { return std::max(exact(p), 5e-324L); };
   return gamma;
 }
 
 Reference ChiSquare(Extended df, Extended = 0) {
-  return Of(ChiSquareDistribution(df));
+  return ReferenceOf(ChiSquareDistribution(df));
 }
 
 // Variates close to 1 are rounded to it.
 Reference Beta(Extended a, Extended b) {
-  Reference beta = Of(BetaDistribution(a, b));
+  Reference beta = ReferenceOf(BetaDistribution(a, b));
   beta.quantile = [exact = beta.quantile](Extended p) { return std::min(exact(p), 1 - 1e-16L); };
   return beta;
 }
 
 Reference StudentT(Extended df) {
-  return Of(StudentTDistribution(df), df > 4);
+  return ReferenceOf(StudentTDistribution(df), df > 4);
 }
 
 Reference Weibull(Extended a, Extended = 0) {
@@ -120,12 +106,13 @@ Reference VonMises(Extended k, Extended = 0) {
 }
 
 Reference Poisson(Extended mu, Extended = 0) {
-  return Of(PoissonDistribution(mu));
+  return ReferenceOf(PoissonDistribution(mu));
 }
 
 // For more trials than the class takes, the Poisson distribution, whose error is at most p.
 Reference Binomial(Extended n, Extended p) {
-  return n > 0x1p32L ? Poisson(n * p) : Of(BinomialDistribution(p, static_cast<std::uint32_t>(n)));
+  return n > 0x1p32L ? Poisson(n * p)
+                     : ReferenceOf(BinomialDistribution(p, static_cast<std::uint32_t>(n)));
 }
 
 // From quotients of neighbouring probabilities.
@@ -223,7 +210,7 @@ const Judged kVariates[] = {
     {"log-normal",
      {{1, 1.13L}, {0.05L, 1.005L}, {7, 1.38L}},
      [](Extended median, Extended s) {
-       return Of(LogNormalDistribution(std::log(median), std::sqrt(2 * std::log(s))));
+       return ReferenceOf(LogNormalDistribution(std::log(median), std::sqrt(2 * std::log(s))));
      }},
     {"inverse-gaussian",
      {{0.05L, 0}, {0.05L, 3}, {2, 0.5L}, {3, 1}, {3, 3}, {20, 100}, {1e4L, 0.5L}},
@@ -304,7 +291,7 @@ TEST(PlantedDefects, AreFound) {
       {"t of 1 as it is", StudentT(1), [](auto s) { return Random_T(1, s); }},
       {"t of 2 as it is", StudentT(2), [](auto s) { return Random_T(2, s); }},
       {"Cauchy, one-sided", Cauchy(), [](auto s) { return std::fabs(Random_Cauchy(s)); }},
-      {"log-normal, shifted", Of(LogNormalDistribution(0, 0.14L)),
+      {"log-normal, shifted", ReferenceOf(LogNormalDistribution(0, 0.14L)),
        [](auto s) { return Random_LogNormal(shift, std::exp(0.0098L), s); }},
       {"inverse Gaussian, shifted", GeneralisedInverseGaussian(20, 100),
        [](auto s) { return Random_Inv_Gauss(20, 100, s) * shift; }},

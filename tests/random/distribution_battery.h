@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "qorvex/random/uniform_source.h"
+#include "qorvex/stats/distributions/figures.h"
 #include "support/environment.h"
 #include "support/test.h"
 
@@ -35,6 +36,21 @@ struct Reference {
   Moments moments;
   Support support;
 };
+
+/// A distribution of the library. The variance is not tested if a few variates dominate it, or if
+/// the fourth moment is infinite.
+template <Distribution D>
+Reference ReferenceOf(const D& d, bool test_variance = true) {
+  const auto support = d.Support();
+  const bool whole = DiscreteDistribution<D>;
+  const bool bounded = !whole || support.greatest < 0xFFFFFFFF;
+  const bool has_variance = std::isfinite(d.Variance());
+  return {[d](Extended x) { return Lower(d, static_cast<typename D::Point>(x)); },
+          [d](Extended p) { return static_cast<Extended>(Quantile(d, p)); },
+          {has_variance ? d.Mean() : kNaN, test_variance ? d.Variance() : kNaN},
+          {static_cast<Extended>(support.least),
+           bounded ? static_cast<Extended>(support.greatest) : kInfinity, whole}};
+}
 
 /// The distribution with P(X <= points[i]) proportional to cumulative[i].
 Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,

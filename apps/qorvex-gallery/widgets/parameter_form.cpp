@@ -1,42 +1,17 @@
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 
 #include <QLabel>
-#include <QLocale>
 #include <QVBoxLayout>
 
-#include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
-// Numbers to start from where the parameter has none of its own, chosen for a curve that shows
-// something.
-Extended StartNumber(const apps::NumberParameter& parameter) {
-  if (parameter.standard) return *parameter.standard;
-  static constexpr struct {
-    std::string_view option;
-    Extended number;
-  } kStarts[] = {{"--pop-size", 100},  {"--successes", 30}, {"--trials", 20},
-                 {"--b", 5},           {"--lambda", 4},     {"--success-probability", 0.3L},
-                 {"--sample-size", 20}};
-  for (const auto& start : kStarts) {
-    if (start.option == parameter.option) return start.number;
-  }
-  return parameter.kind >= apps::NumberKind::kSteps ||
-                 parameter.kind == apps::NumberKind::kDegreesOfFreedom
-             ? 5
-             : 2;
-}
-
-// "The lower end of the support. Default: 0" as a label: "Lower end of the support".
 QString LabelOf(const apps::NumberParameter& parameter) {
-  QString text = QString::fromUtf8(parameter.description);
-  text = text.section(QStringLiteral(". "), 0, 0);
-  if (text.startsWith(QStringLiteral("The "))) text = Title(text.mid(4));
-  return text;
+  return Title(QString::fromUtf8(parameter.name));
 }
 
 }  // namespace
@@ -60,7 +35,7 @@ void ParameterForm::SetParameters(std::span<const apps::NumberParameter> paramet
     lines->setSpacing(2);
     auto* const label = new QLabel(LabelOf(parameter), holder);
     label->setWordWrap(true);
-    auto* const cell = MakeNumberCell(StartNumber(parameter), label->text(), holder);
+    auto* const cell = MakeNumberCell(parameter.start, label->text(), holder);
     cell->setObjectName(QString::fromUtf8(parameter.option).mid(2));
     label->setBuddy(cell);
     lines->addWidget(label);
@@ -103,14 +78,6 @@ TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QW
   cell->setValue(value);
   cell->setAccessibleName(accessible_name);
   return cell;
-}
-
-QString ExactText(Extended value) {
-  return QorvexBaseControls::detail::LocalNumber(Float2Str(value), QLocale());
-}
-
-QString Title(const QString& text) {
-  return text.left(1).toUpper() + text.mid(1);
 }
 
 }  // namespace qorvex::gallery
