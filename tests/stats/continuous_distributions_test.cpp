@@ -171,7 +171,7 @@ TEST(ContinuousDistributions, AgreeWithTheReferenceTables) {
     const char* column;
     Extended limit;
     std::size_t least_rows;
-    bool (*serves)(const Value&);
+    bool (*applies)(const Value&);
     std::function<Extended(const Value&)> figure;
   } references[] = {
       {"normal_cdf", "cdf", 8e-19L, 100, [](auto& v) { return std::fabs(v("x_dec")) <= 8.5L; },
@@ -194,12 +194,12 @@ TEST(ContinuousDistributions, AgreeWithTheReferenceTables) {
       {"f_cdf", "cdf", 1e-17L, 150, [](auto& v) { return v("x_dec") >= 0.0625L; },
        [&](auto& v) { return FDistLess(v("x_dec"), df(v("d1_dec")), df(v("d2_dec"))); }},
   };
-  for (const auto& [file, column, limit, least_rows, serves, figure] : references) {
+  for (const auto& [file, column, limit, least_rows, applies, figure] : references) {
     const testing::Table table("tables/" + std::string(file) + ".csv");
     std::size_t judged = 0;
     for (std::size_t row = 0; row < table.size(); ++row) {
       const auto value = [&](const char* name) { return table.Value(row, name); };
-      if (!serves(value)) continue;
+      if (!applies(value)) continue;
       try {
         EXPECT_LE(std::fabs(figure(value) - value(column)), limit) << file << ", row " << row + 1;
         ++judged;
