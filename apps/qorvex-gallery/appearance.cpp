@@ -1,7 +1,6 @@
 #include "apps/qorvex-gallery/appearance.h"
 
 #include <QApplication>
-#include <QPalette>
 
 namespace qorvex::gallery {
 
@@ -19,6 +18,8 @@ QPalette LightPalette() {
   return palette;
 }
 
+}  // namespace
+
 QPalette DarkPalette() {
   const QColor text(0xdf, 0xe1, 0xe5);
   const QColor grey(0x80, 0x83, 0x88);
@@ -34,8 +35,6 @@ QPalette DarkPalette() {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   return palette;
 }
-
-}  // namespace
 
 void SetAppearance(Appearance appearance) {
   static const QPalette system = QApplication::palette();

@@ -1,13 +1,18 @@
 #pragma once
 
 /// @file
-/// Light and dark.
+/// The light and the dark palette.
+
+#include <QPalette>
 
 namespace qorvex::gallery {
 
 enum class Appearance { kSystem, kLight, kDark };
 
-/// Gives the application the colours. The system's are those that it had at the first call.
+/// The dark palette of the program and of all pictures.
+[[nodiscard]] QPalette DarkPalette();
+
+/// Sets the palette of the application. kSystem is the palette that it had at the first call.
 void SetAppearance(Appearance appearance);
 
 }  // namespace qorvex::gallery

@@ -9,24 +9,20 @@
 #include <cstdio>
 
 #include "apps/qorvex-gallery/main_window.h"
-#include "apps/qorvex-gallery/pages/data_page.h"
-#include "apps/qorvex-gallery/widgets/background_task.h"
+#include "apps/qorvex-gallery/model/background_work.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
-// Until no page works any more, and what they have queued is done.
-void Settle(const MainWindow& window) {
-  const QList<BackgroundTask*> tasks = window.findChildren<BackgroundTask*>();
-  const auto* const data = window.findChild<DataPage*>();
+// Waits until no page has work in the background and all queued events have been handled.
+void WaitUntilIdle(const MainWindow& window) {
+  const QList<BackgroundWork*> works = window.findChildren<BackgroundWork*>();
   QElapsedTimer quiet;
   quiet.start();
   while (quiet.elapsed() < 200) {
     QApplication::processEvents(QEventLoop::AllEvents, 20);
-    const auto is_running = [](const BackgroundTask* task) { return task->Running(); };
-    const bool reads = data != nullptr && data->IsReading();
-    if (reads || std::any_of(tasks.begin(), tasks.end(), is_running)) quiet.restart();
+    if (std::ranges::any_of(works, &BackgroundWork::IsRunning)) quiet.restart();
   }
 }
 
@@ -35,15 +31,15 @@ void Settle(const MainWindow& window) {
 bool WriteScreenshots(MainWindow& window, const QString& directory) {
   QTabWidget& pages = *window.Pages();
   if (!QDir().mkpath(directory)) {
-    std::fprintf(stderr, "qorvex-gallery: cannot make the directory %s\n", qPrintable(directory));
+    std::fprintf(stderr, "qorvex-gallery: cannot create the directory %s\n", qPrintable(directory));
     return false;
   }
-  // Laid out as if it were shown.
+  // The layout is that of a window that is shown.
   window.setAttribute(Qt::WA_DontShowOnScreen);
   window.show();
   for (int i = 0; i < pages.count(); ++i) {
     pages.setCurrentIndex(i);
-    Settle(window);
+    WaitUntilIdle(window);
     const QString file = QDir(directory).filePath(pages.widget(i)->objectName() + ".png");
     if (!window.grab().save(file)) {
       std::fprintf(stderr, "qorvex-gallery: cannot write %s\n", qPrintable(file));

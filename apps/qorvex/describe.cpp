@@ -1,28 +1,25 @@
-#include "apps/qorvex/describe.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "apps/common/cells.h"
 #include "apps/common/hidden_figures.h"
 #include "apps/common/input_error.h"
-#include "apps/common/json_writer.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/table_arguments.h"
 #include "apps/qorvex/text_output.h"
-#include "qorvex/base/comparisons.h"
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/text.h"
-#include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "qorvex/stats/descriptive_stats.h"
 #include "qorvex/vector/QorvexFinVector.h"
 
@@ -48,14 +45,9 @@ struct DescribeArguments {
 };
 
 // The figures of a column of amounts that are amounts themselves.
-struct ExactFigures {
-  Currency maximum;
-  Currency minimum;
-  Currency range;
-  Currency sum;
-};
+using ExactFigures = std::map<ReportTextId, Currency>;
 
-// Wide enough for the sum of any column, so that the order of the amounts does not matter.
+// Holds the sum of any column, so that the order of the amounts does not matter.
 __extension__ typedef __int128 Int128;
 
 ExactFigures ExactFiguresOf(const TableColumn& column, const DescribeArguments& arguments) {
@@ -72,10 +64,10 @@ ExactFigures ExactFiguresOf(const TableColumn& column, const DescribeArguments& 
   for (const Currency term : column.amounts) sum += term.stored();
   const Currency maximum = MaxVector(column.amounts);
   const Currency minimum = MinVector(column.amounts);
-  return {.maximum = maximum,
-          .minimum = minimum,
-          .range = amount(Int128{maximum.stored()} - minimum.stored(), "range"),
-          .sum = amount(sum, "sum")};
+  return {{rsDSMaximum, maximum},
+          {rsDSMinimum, minimum},
+          {rsDSRange, amount(Int128{maximum.stored()} - minimum.stored(), "range")},
+          {rsDSSum, amount(sum, "sum")}};
 }
 
 bool AllFinite(const DescriptiveResults& results) {
@@ -87,12 +79,12 @@ bool AllFinite(const DescriptiveResults& results) {
 
 struct ColumnFigures {
   DescriptiveStats statistics;
-  // Only for amounts.
-  std::optional<ExactFigures> exact;
+  // Empty unless the values are amounts.
+  ExactFigures exact;
 };
 
-// Computes the figures of a column, whose values move into them. Figures that overflow are
-// refused rather than printed as infinities, from which others would follow that mean nothing.
+// Computes the figures of a column, whose values move into them. Figures that overflow are refused
+// rather than printed as infinities, because further figures computed from these mean nothing.
 ColumnFigures FiguresOf(TableColumn& column, const DescribeArguments& arguments) {
   ColumnFigures figures;
   if (arguments.table.selection.currency) {
@@ -112,94 +104,81 @@ ColumnFigures FiguresOf(TableColumn& column, const DescribeArguments& arguments)
   return figures;
 }
 
-// Replaces figures of the report by the exact ones.
-void PutExactFigures(std::vector<std::string>& lines, const ExactFigures& exact) {
-  for (const auto& [id, amount] : {std::pair(rsDSMaximum, exact.maximum),
-                                   {rsDSMinimum, exact.minimum},
-                                   {rsDSRange, exact.range},
-                                   {rsDSSum, exact.sum}}) {
-    const std::string label = ReportText(id) + '\t';
-    for (std::string& line : lines) {
-      if (line.starts_with(label)) line = label + Currency2EStr(amount);
-    }
-  }
-}
-
 std::string TextReport(const TableColumn& column, ColumnFigures& figures, int decimals) {
-  std::vector<std::string> lines = figures.statistics.Report(decimals);
-  if (figures.exact) PutExactFigures(lines, *figures.exact);
   std::string text = "Column " + Int2EStr(column.number);
   if (!column.name.empty()) text += ": " + OnOneLine(column.name);
   text += '\n';
-  for (const std::string& line : lines) text += line + '\n';
+  for (const ReportFigure& figure : figures.statistics.Figures()) {
+    const auto amount = figures.exact.find(figure.label);
+    const bool is_exact = amount != figures.exact.end();
+    text += ReportLine(figure, is_exact ? Currency2EStr(amount->second) : figure.Text(decimals));
+    text += '\n';
+  }
   return text;
 }
 
 void RemarkOnHiddenFigures(const TableColumn& column, const ColumnFigures& figures, int decimals,
                            const std::string& file) {
   DescriptiveResults results = figures.statistics.Results();
-  // These are amounts, which have all their decimals.
-  if (figures.exact) results.maximum = results.minimum = results.sum = 0;
+  // Amounts are printed with all their decimals.
+  if (!figures.exact.empty()) results.maximum = results.minimum = results.sum = 0;
   const HiddenFigures hidden = HiddenBy(results, figures.statistics.NoOfValues(), decimals);
   if (hidden.count == 0) return;
   const std::string enough = hidden.enough_decimals <= kMostDecimals
                                  ? "--decimals " + Int2EStr(hidden.enough_decimals) + " or "
                                  : "";
   WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": " +
-              Cardinal(hidden.count, "figure") + " other than 0 without a digit in " +
-              Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " + enough +
-              "--json shows all");
+              Cardinal(hidden.count, "figure") + (hidden.count == 1 ? " is" : " are") +
+              " too small for " + Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " +
+              enough + "--json shows all");
 }
 
-void WriteJson(JsonWriter& json, const TableColumn& column, const ColumnFigures& figures) {
-  const DescriptiveStats& statistics = figures.statistics;
-  const DescriptiveResults& results = statistics.Results();
-  const std::size_t count = statistics.NoOfValues();
-  const auto figure = [&](std::string_view key, Extended value, bool exists = true) {
-    json.Key(key);
-    json.Number(exists ? std::optional(value) : std::nullopt);
-  };
-  const auto amount = [&](std::string_view key, Currency ExactFigures::*exact, Extended value) {
-    if (!figures.exact) return figure(key, value);
-    json.Key(key);
-    json.Amount(*figures.exact.*exact);
-  };
-  const bool has_variance = count >= 2 || statistics.Population();
-  const bool has_skewness = count >= 3 && FloatIsNotZero(results.std_dev);
-  const bool has_kurtosis = has_skewness && count >= 4;
+// The keys of the figures in a JSON document, in their order.
+constexpr std::pair<const char*, ReportTextId> kJsonFigures[] = {
+    {"sum", rsDSSum},
+    {"sum_of_squares", rsDSSumSQ},
+    {"mean", rsDSMean},
+    {"variance", rsDSVariance},
+    {"standard_deviation", rsDSStdDev},
+    {"skewness", rsDSSkew},
+    {"excess_kurtosis", rsDSKurtosis},
+    {"minimum", rsDSMinimum},
+    {"first_quartile", rsDSQtr1},
+    {"median", rsDSMedian},
+    {"third_quartile", rsDSQtr3},
+    {"maximum", rsDSMaximum},
+    {"range", rsDSRange},
+    {"interquartile_range", rsDSIQR},
+    {"mode", rsDSMode},
+};
 
+void WriteJson(JsonWriter& json, const TableColumn& column, ColumnFigures figures) {
+  std::map<ReportTextId, std::optional<Extended>> values;
+  for (const ReportFigure& figure : figures.statistics.Figures())
+    values.emplace(figure.label, figure.value);
   json.BeginObject();
   json.Key("column");
   json.Integer(column.number);
   json.Key("name");
-  if (column.name.empty()) {
-    json.Null();
-  } else {
-    json.String(column.name);
-  }
+  json.StringOrNull(column.name);
   json.Key("count");
-  json.Integer(count);
+  json.Integer(figures.statistics.NoOfValues());
   json.Key("skipped");
   json.Integer(column.skipped);
-  amount("sum", &ExactFigures::sum, results.sum);
-  figure("sum_of_squares", results.sum_sq);
-  figure("mean", results.mean);
-  figure("variance", results.variance, has_variance);
-  figure("standard_deviation", results.std_dev, has_variance);
-  figure("skewness", results.skew, has_skewness);
-  figure("excess_kurtosis", results.kurtosis, has_kurtosis);
-  amount("minimum", &ExactFigures::minimum, results.minimum);
-  figure("first_quartile", results.quartile_1st);
-  figure("median", results.median);
-  figure("third_quartile", results.quartile_3rd);
-  amount("maximum", &ExactFigures::maximum, results.maximum);
-  amount("range", &ExactFigures::range, results.maximum - results.minimum);
-  figure("interquartile_range", results.inter_quartile_range);
-  figure("mode", results.mode, results.mode_exists);
+  for (const auto& [key, id] : kJsonFigures) {
+    json.Key(key);
+    const auto amount = figures.exact.find(id);
+    if (amount != figures.exact.end()) {
+      json.Amount(amount->second);
+    } else {
+      // A figure that does not exist has another label.
+      json.Number(values[id]);
+    }
+  }
   json.EndObject();
 }
 
-// Each column's sorted copy is gone before the next one is made.
+// The sorted copy of each column is released before the next one is made.
 std::string TextOf(std::vector<TableColumn>& columns, const DescribeArguments& arguments) {
   std::string text;
   for (TableColumn& column : columns) {
@@ -249,8 +228,8 @@ void AddDescribe(CLI::App& program) {
   AddDecimals(command, arguments->decimals,
               "Decimals of the report. Default: " + Int2EStr(kDefaultDecimals));
   command.add_flag("--json", arguments->json,
-                   "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
-                   "null for those that do not exist");
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Describe(*arguments); });
 }

@@ -1,5 +1,3 @@
-#include "apps/qorvex/fit.h"
-
 #include <cmath>
 #include <cstddef>
 #include <functional>
@@ -10,10 +8,11 @@
 #include <vector>
 
 #include "apps/common/input_error.h"
-#include "apps/common/json_writer.h"
 #include "apps/common/pair_fit.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/table_arguments.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/errors.h"
@@ -96,11 +95,7 @@ std::string JsonOf(const TableColumn& x, const TableColumn& y, const PairFit& fi
     json.Key("column");
     json.Integer(of.number);
     json.Key("name");
-    if (of.name.empty()) {
-      json.Null();
-    } else {
-      json.String(of.name);
-    }
+    json.StringOrNull(of.name);
     json.EndObject();
   };
   const auto figure = [&json](const char* key, std::optional<Extended> value) {
@@ -152,8 +147,8 @@ void AddCurve(CLI::App& fit, const char* name, const char* summary, std::size_t 
   AddDecimals(command, arguments->decimals,
               "Decimals of the report. Default: the shortest text that keeps all 80 bits");
   command.add_flag("--json", arguments->json,
-                   "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
-                   "null for those that do not exist");
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Fit(*arguments); });
 }

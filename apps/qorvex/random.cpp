@@ -1,4 +1,4 @@
-#include "apps/qorvex/random.h"
+#include "qorvex/base/random.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,23 +10,23 @@
 #include <vector>
 
 #include "apps/common/variates.h"
+#include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/random.h"
 
 namespace qorvex::apps {
 
 namespace {
 
 constexpr const char* kVariatesHelp = R"(Variates:
-  One a line, printed as they are drawn. A seed gives the same ones on every
-  processor of one family; on others the last digit of what is not a count can
-  differ, and rarely more. Without a seed every run gives others.)";
+  One per line, printed as they are drawn. A seed gives the same variates on all
+  processors of a family. On other processors, the last digit of variates that are
+  not counts can differ, rarely more. Without a seed, every run is different.)";
 
-// The section of --help that says what a variate takes of the parameters' numbers; empty if all.
+// The section of --help on the limits of the parameters; empty if there are none.
 std::string LimitsHelp(const Variate& variate) {
   const bool classic_is_narrower = variate.classic && *variate.classic->limits != '\0';
   std::istringstream words(classic_is_narrower ? variate.classic->limits
@@ -65,7 +65,7 @@ TQorFloatVector ParseList(const std::string& option, const std::string& text, Nu
 void AddParameter(CLI::App& command, const NumberParameter& parameter,
                   const SharedArguments& arguments) {
   const std::size_t index = arguments->parameters.size();
-  arguments->parameters.Append({parameter.standard.value_or(0)});
+  arguments->parameters.Append({parameter.start});
   const std::string name = parameter.option;
   CLI::Option& option =
       parameter.kind == NumberKind::kReals
@@ -75,12 +75,12 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
                      [arguments, index, name](const std::string& text) {
                        arguments->parameters.Set(index, ParseList(name, text, NumberKind::kReals));
                      },
-                     parameter.description)
+                     parameter.Description())
                  ->type_name("X,X,...")
           : AddNumber(
-                command, name, parameter.description, parameter.kind,
+                command, name, parameter.Description(), parameter.kind,
                 [arguments, index](Extended value) { arguments->parameters.Set(index, {value}); });
-  if (!parameter.standard) option.required();
+  if (!parameter.has_default) option.required();
 }
 
 void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments& arguments) {
@@ -98,7 +98,7 @@ void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments
             }
             throw CLI::ValidationError("--method", Excerpt(name) + " is not one of " + names);
           },
-          std::string("How they are drawn. Default: ") + variate.methods.front().name)
+          std::string("The algorithm. Default: ") + variate.methods.front().name)
       ->type_name(names);
 }
 
@@ -128,7 +128,7 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
   try {
     PrintVariates(arguments);
   } catch (const EMathError& error) {
-    // The lines in front of the failing one go out before the message.
+    // The lines before the failing one are printed before the message.
     WriteResult("");
     const std::string limits = arguments.method->limits;
     const bool limited = !limits.empty() && dynamic_cast<const EOverflow*>(&error) == nullptr;
@@ -146,12 +146,12 @@ void AddVariate(CLI::App& random, const Variate& variate) {
   if (variate.classic) {
     command.add_flag_callback(
         "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
-        "Draw with the classic routine of QorvexRandom, within its limits: see the end");
+        "Draw with the classic routine of QorvexRandom, which has the limits below");
   }
-  AddNumber(command, "--count", "How many variates. Default: 1", NumberKind::kUint64,
+  AddNumber(command, "--count", "The number of variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
   AddNumber(command, "--seed",
-            "The seed, up to 18446744073709551615. Default: one from the operating system",
+            "The seed, up to 18446744073709551615. Default: taken from the operating system",
             NumberKind::kUint64,
             [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
   AddDecimals(command, arguments->decimals,

@@ -19,6 +19,7 @@
 #include <utility>
 #include <vector>
 
+#include "apps/qorvex-gallery/appearance.h"
 #include "pictures.h"
 
 namespace {
@@ -33,23 +34,6 @@ const struct {
     {"matrix_edit", MatrixEdits},
     {"vector_edit", VectorEdits},
 };
-
-QPalette DarkPalette() {
-  const QColor ground(0x2b, 0x2d, 0x30);
-  const QColor text(0xdf, 0xe1, 0xe5);
-  const QColor grey(0x80, 0x83, 0x88);
-  QPalette palette(QColor(0x3a, 0x3d, 0x41), ground);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(role, text);
-    palette.setColor(QPalette::Disabled, role, grey);
-  }
-  palette.setColor(QPalette::PlaceholderText, grey);
-  palette.setColor(QPalette::Base, QColor(0x1e, 0x1f, 0x22));
-  palette.setColor(QPalette::AlternateBase, QColor(0x26, 0x28, 0x2b));
-  palette.setColor(QPalette::Highlight, QColor(0x2f, 0x65, 0xca));
-  palette.setColor(QPalette::HighlightedText, Qt::white);
-  return palette;
-}
 
 // A picture of at most 256 colours, the most frequent ones, which is a fraction of the size.
 QImage WithColorTable(const QImage& picture) {
@@ -97,9 +81,9 @@ int main(int argc, char** argv) {
   QApplication::setCursorFlashTime(0);
   const QPalette light = QApplication::style()->standardPalette();
   const QDir directory(argv[1]);
-  const bool drawn =
-      application.devicePixelRatio() > 1
-          ? Draw(light, directory, "_2x")
-          : Draw(light, directory, "_light") && Draw(DarkPalette(), directory, "_dark");
+  const bool drawn = application.devicePixelRatio() > 1
+                         ? Draw(light, directory, "_2x")
+                         : Draw(light, directory, "_light") &&
+                               Draw(qorvex::gallery::DarkPalette(), directory, "_dark");
   return drawn ? 0 : 1;
 }

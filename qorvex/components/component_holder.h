@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// ComponentHolder, the base of widgets that put a component without a picture on a form.
+/// ComponentHolder, the base of widgets that put a non-visual component on a form.
 
 #include <QIcon>
 #include <QString>
@@ -12,20 +12,19 @@
 
 QORVEX_WIDGET_UNIT(QorvexControls) {
 
-/// A widget around a component that is none, since designers and loaders of forms know nothing but
-/// widgets. It publishes the component's properties and is hidden: it takes no room in a program's
-/// window.
+/// Wraps a non-visual component in a widget, because Qt Designer can only place widgets on a form.
+/// It publishes the component's properties. In a program it is hidden and takes no space.
 class QORVEX_EXPORT ComponentHolder : public QWidget {
   Q_OBJECT
 
  public:
   ~ComponentHolder() override;
 
-  /// Shows the holder, as this icon with the name of its class, on a form that is being designed.
+  /// Shows the holder, as this icon and its class name, on a form that is being designed.
   void ShowAtDesignTime(const QIcon& icon);
 
   /// @{
-  /// The size of the icon and the name.
+  /// Room for the icon and the text.
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
   /// @}
@@ -34,14 +33,14 @@ class QORVEX_EXPORT ComponentHolder : public QWidget {
   /// A hidden widget.
   explicit ComponentHolder(QWidget* parent);
 
-  /// Gives the component the holder's object name for as long as both are there, so that it can be
-  /// found by that name and its own class.
+  /// Keeps the component's object name equal to the holder's, so that findChild finds it by that
+  /// name and its own class.
   void ShareName(QObject* component);
-  /// Warns of a property that the component cannot take, and shows the message on the form; an
-  /// empty one takes it away.
+  /// Reports a property that the component rejects: the message goes to Qt's log and is painted in
+  /// place of the class name. An empty message clears it.
   void SetProblem(const QString& message);
 
-  /// Draws the icon and the name.
+  /// Draws the icon and the class name or the message.
   void paintEvent(QPaintEvent* event) override;
 
  private:

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// TQorUICtrlHolder, settings that several controls of a form share.
+/// TQorUICtrlHolder, settings shared by several controls of a form.
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/cell_properties.h"
@@ -11,8 +11,8 @@
 
 QORVEX_WIDGET_UNIT(QorvexControls) {
 
-/// Puts a TQorUICtrl on a form. Controls of the window whose property UICtrl has the holder's
-/// object name are linked to it.
+/// Puts a TQorUICtrl on a form. A control of the same window whose property UICtrl is the object
+/// name of the holder takes its settings from it.
 class QORVEX_EXPORT TQorUICtrlHolder : public ComponentHolder, public CellProperties {
   Q_OBJECT
   /// @{
@@ -25,8 +25,8 @@ class QORVEX_EXPORT TQorUICtrlHolder : public ComponentHolder, public CellProper
   explicit TQorUICtrlHolder(QWidget* parent = nullptr);
   ~TQorUICtrlHolder() override;
 
-  /// The settings as controls are linked to them. They and the properties of the holder follow
-  /// each other.
+  /// The object that controls link to. Its settings and the properties of the holder are always the
+  /// same.
   [[nodiscard]] TQorUICtrl* UICtrl() const noexcept { return ui_ctrl_; }
 
  private:

@@ -7,7 +7,7 @@
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/beta.h"
 
 namespace qorvex::inline QorvexStatistics {
 
@@ -17,7 +17,7 @@ void RequireShapes(Extended a, Extended b) {
   if (a <= 0 || b <= 0) RaiseMathError(rsValueGZero);
 }
 
-// The interval from one end of the support to the other.
+// The support, and its map to [0, 1].
 class Support {
  public:
   Support(Extended lower, Extended upper) : lower_(lower), width_(upper - lower) {
@@ -26,8 +26,8 @@ class Support {
   }
   [[nodiscard]] Extended ToUnit(Extended x) const { return (x - lower_) / width_; }
   [[nodiscard]] Extended FromUnit(Extended x) const { return lower_ + width_ * x; }
-  [[nodiscard]] Extended Density(Extended x, Extended a, Extended b) const {
-    return full_precision::BetaPdf(a, b, ToUnit(x)) / width_;
+  [[nodiscard]] Extended Density(Extended x, const BetaDistribution& beta) const {
+    return beta.Pdf(ToUnit(x)) / width_;
   }
 
  private:
@@ -39,12 +39,12 @@ class Support {
 
 Extended BetaPDF(Extended x, Extended a, Extended b) {
   RequireShapes(a, b);
-  return full_precision::BetaPdf(a, b, x);
+  return BetaDistribution(a, b).Pdf(x);
 }
 
 Extended BetaPDF(Extended x, Extended a, Extended b, Extended lower, Extended upper) {
   RequireShapes(a, b);
-  return Support(lower, upper).Density(x, a, b);
+  return Support(lower, upper).Density(x, BetaDistribution(a, b));
 }
 
 void BetaPDFValues(Extended a, Extended b, Extended x_low, Extended x_high, std::int32_t n,
@@ -57,13 +57,15 @@ void BetaPDFValues(Extended a, Extended b, Extended lower, Extended upper, Exten
                    TQorFloatVector& y_values) {
   detail::FillDensityTable({x_low, x_high, n, x_values, y_values}, [=] {
     RequireShapes(a, b);
-    return [=, support = Support(lower, upper)](Extended x) { return support.Density(x, a, b); };
+    const Support support(lower, upper);
+    return
+        [support, beta = BetaDistribution(a, b)](Extended x) { return support.Density(x, beta); };
   });
 }
 
 Extended BetaDistLess(Extended x, Extended a, Extended b) {
   RequireShapes(a, b);
-  // A positive zero also for -0; NaN stays.
+  // Points up to 0, including -0, become +0. NaN stays NaN.
   return IncompleteBeta(x <= 0 ? 0 : std::min<Extended>(x, 1), a, b);
 }
 
@@ -93,13 +95,13 @@ Extended BetaDistBetween(Extended x1, Extended x2, Extended a, Extended b, Exten
 Extended InvBetaDistLess(Extended a, Extended b, Extended p) {
   detail::RequireProbability(p);
   RequireShapes(a, b);
-  return full_precision::BetaQuantile(a, b, p);
+  return BetaDistribution(a, b).Quantile(Tail::kLower, p);
 }
 
 Extended InvBetaDistLess(Extended a, Extended b, Extended lower, Extended upper, Extended p) {
   detail::RequireProbability(p);
   RequireShapes(a, b);
-  return Support(lower, upper).FromUnit(full_precision::BetaQuantile(a, b, p));
+  return Support(lower, upper).FromUnit(BetaDistribution(a, b).Quantile(Tail::kLower, p));
 }
 
 Extended InvBetaDistGreater(Extended a, Extended b, Extended p) {

@@ -3,7 +3,7 @@
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/chi_square.h"
 #include "qorvex/stats/incomplete_gamma.h"
 
 namespace qorvex::inline QorvexStatistics {
@@ -19,14 +19,14 @@ void RequireValid(Extended x, std::uint32_t df) {
 
 Extended ChiSquarePDF(Extended x, std::uint32_t df) {
   RequireValid(x, df);
-  return full_precision::ChiSquarePdf(df, x);
+  return ChiSquareDistribution(df).Pdf(x);
 }
 
 void ChiSquarePDFValues(std::uint32_t df, Extended x_low, Extended x_high, std::int32_t n,
                         TQorFloatVector& x_values, TQorFloatVector& y_values) {
   detail::FillDensityTable({x_low, x_high, n, x_values, y_values}, [=] {
     detail::RequireDegreesOfFreedom(df);
-    return [=](Extended x) { return full_precision::ChiSquarePdf(df, x); };
+    return [distribution = ChiSquareDistribution(df)](Extended x) { return distribution.Pdf(x); };
   });
 }
 
@@ -46,7 +46,7 @@ Extended ChiSquareBetween(Extended x1, Extended x2, std::uint32_t df) {
 Extended InvChiSquareLess(std::uint32_t df, Extended p) {
   detail::RequireProbability(p);
   detail::RequireDegreesOfFreedom(df);
-  return full_precision::ChiSquareQuantile(df, p);
+  return ChiSquareDistribution(df).Quantile(Tail::kLower, p);
 }
 
 Extended InvChiSquareGreater(std::uint32_t df, Extended p) {

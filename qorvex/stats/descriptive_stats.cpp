@@ -7,7 +7,7 @@
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
-#include "qorvex/stats/Qorvex_RS_DescStats.h"
+#include "qorvex/stats/detail/moments.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/stats/shape.h"
 #include "qorvex/vector/aggregates.h"
@@ -17,17 +17,17 @@
 
 namespace qorvex {
 
+using QorvexStatistics::detail::kMinCountForKurtosis;
+using QorvexStatistics::detail::kMinCountForSkew;
+
 namespace {
 
-constexpr std::size_t kLeastForSkew = 3;
-constexpr std::size_t kLeastForKurtosis = 4;
-
-// NaN sorts last, so the last element tells whether there is one.
+// NaN sorts last.
 bool HoldsNaN(const TQorFloatVector& sorted) {
   return !sorted.empty() && std::isnan(sorted[sorted.size() - 1]);
 }
 
-// Inserts a value where QSortVector would put it.
+// Inserts a value at the place where QSortVector would put it.
 void InsertSorted(TQorFloatVector& sorted, Extended value) {
   sorted.Append(value);
   Extended* const last = sorted.end() - 1;
@@ -37,7 +37,7 @@ void InsertSorted(TQorFloatVector& sorted, Extended value) {
   *place = value;
 }
 
-// Removes an element with exactly the bits of the value.
+// Removes an element that has exactly the bits of the value.
 void EraseSorted(TQorFloatVector& sorted, Extended value) {
   Extended* const place = std::lower_bound(sorted.begin(), sorted.end(), value,
                                            QorvexVector::detail::SortsBefore<Extended>);
@@ -46,6 +46,15 @@ void EraseSorted(TQorFloatVector& sorted, Extended value) {
 }
 
 }  // namespace
+
+std::string ReportFigure::Text(int decimals) const {
+  if (!value) return "";
+  return Float2EStr(*value, label == rsDSNoOfValues ? 0 : decimals);
+}
+
+std::string ReportLine(const ReportFigure& figure, const std::string& text) {
+  return figure.value ? ReportText(figure.label) + '\t' + text : ReportText(figure.label);
+}
 
 DescriptiveStats::DescriptiveStats(const DescriptiveStats& other)
     : values_(CopyVector(other.values_)),
@@ -83,7 +92,7 @@ TQorFloatVector DescriptiveStats::Values() const {
 void DescriptiveStats::AddValue(Extended value) {
   values_.Append(value);
   if (updating_) return;
-  // The first value starts the sums instead of being added to 0, which would lose a negative zero.
+  // The first value must start the sums: added to 0, a negative zero would be lost.
   const bool continues = !sorted_.empty() && sorted_.size() + 1 == values_.size();
   if (!continues || std::isnan(value) || HoldsNaN(sorted_)) {
     UpdateStats();
@@ -127,7 +136,7 @@ void DescriptiveStats::EndUpdate() {
 void DescriptiveStats::SetPopulation(bool population) {
   if (population == population_) return;
   population_ = population;
-  // The divisor touches neither the order nor the sums.
+  // The divisor affects neither the order nor the sums.
   const bool in_step = !updating_ && !values_.empty() && sorted_.size() == values_.size();
   if (in_step) {
     UpdateFromSums();
@@ -143,8 +152,8 @@ void DescriptiveStats::UpdateStats() {
     results_ = {};
     return;
   }
-  // Only a copy that is sorted replaces the old one: lack of memory leaves none, and the next
-  // update then starts afresh.
+  // The copy is stored only after it has been sorted. If memory runs out, no sorted copy remains,
+  // and the next update starts from the values.
   TQorFloatVector sorted = CopyVector(values_);
   QSortVector(sorted, true);
   sorted_ = std::move(sorted);
@@ -177,12 +186,12 @@ void DescriptiveStats::UpdateFromSums() {
 
   const bool spread = FloatIsNotZero(r.std_dev);
   r.kurtosis = 0;
-  if (count >= kLeastForKurtosis && spread) {
+  if (count >= kMinCountForKurtosis && spread) {
     r.kurtosis = population_ ? GetPopulationKurtosis(values_, r.mean, r.std_dev)
                              : GetSampleKurtosis(values_, r.mean, r.std_dev);
   }
   r.skew = 0;
-  if (count >= kLeastForSkew && spread) {
+  if (count >= kMinCountForSkew && spread) {
     r.skew = population_ ? GetPopulationSkew(values_, r.mean, r.std_dev)
                          : GetSampleSkew(values_, r.mean, r.std_dev);
   }
@@ -191,56 +200,44 @@ void DescriptiveStats::UpdateFromSums() {
   r.inter_quartile_range = r.quartile_3rd - r.quartile_1st;
 }
 
-std::vector<std::string> DescriptiveStats::Report(int decimals) {
+std::vector<ReportFigure> DescriptiveStats::Figures() {
   if (updating_) EndUpdate();
   const std::size_t count = values_.size();
-  if (count == 0) return {MessageText(rsVectorIsEmpty)};
+  if (count == 0) return {};
 
-  std::vector<std::string> lines;
-  const auto label = [&](ReportTextId id) { lines.push_back(ReportText(id)); };
-  const auto figure = [&](ReportTextId id, Extended value) {
-    lines.push_back(ReportText(id) + '\t' + Float2EStr(value, decimals));
-  };
   const DescriptiveResults& r = results_;
-  const bool no_spread = FloatIsZero(r.std_dev);
+  const auto moment = [&](ReportTextId id, Extended value, std::size_t least,
+                          ReportTextId not_enough, ReportTextId no_spread) -> ReportFigure {
+    if (count < least) return {not_enough};
+    if (FloatIsZero(r.std_dev)) return {no_spread};
+    return {id, value};
+  };
+  const bool has_variance = population_ || count > 1;
+  return {
+      {rsDSNoOfValues, static_cast<Extended>(count)},
+      {rsDSMaximum, r.maximum},
+      {rsDSMinimum, r.minimum},
+      {rsDSRange, r.maximum - r.minimum},
+      {rsDSSum, r.sum},
+      {rsDSSumSQ, r.sum_sq},
+      {rsDSMean, r.mean},
+      r.mode_exists ? ReportFigure{rsDSMode, r.mode} : ReportFigure{rsDSNoMode},
+      {rsDSMedian, r.median},
+      has_variance ? ReportFigure{rsDSVariance, r.variance} : ReportFigure{rsDSNEVariance},
+      has_variance ? ReportFigure{rsDSStdDev, r.std_dev} : ReportFigure{rsDSNEStdDev},
+      moment(rsDSKurtosis, r.kurtosis, kMinCountForKurtosis, rsDSNEKurtosis, rsDSSDKurtosis),
+      moment(rsDSSkew, r.skew, kMinCountForSkew, rsDSNESkew, rsDSSDSkew),
+      {rsDSQtr1, r.quartile_1st},
+      {rsDSQtr3, r.quartile_3rd},
+      {rsDSIQR, r.inter_quartile_range},
+  };
+}
 
-  lines.push_back(ReportText(rsDSNoOfValues) + '\t' + Int2EStr(count));
-  figure(rsDSMaximum, r.maximum);
-  figure(rsDSMinimum, r.minimum);
-  figure(rsDSRange, r.maximum - r.minimum);
-  figure(rsDSSum, r.sum);
-  figure(rsDSSumSQ, r.sum_sq);
-  figure(rsDSMean, r.mean);
-  if (r.mode_exists) {
-    figure(rsDSMode, r.mode);
-  } else {
-    label(rsDSNoMode);
-  }
-  figure(rsDSMedian, r.median);
-  if (!population_ && count == 1) {
-    label(rsDSNEVariance);
-    label(rsDSNEStdDev);
-  } else {
-    figure(rsDSVariance, r.variance);
-    figure(rsDSStdDev, r.std_dev);
-  }
-  if (count < kLeastForKurtosis) {
-    label(rsDSNEKurtosis);
-  } else if (no_spread) {
-    label(rsDSSDKurtosis);
-  } else {
-    figure(rsDSKurtosis, r.kurtosis);
-  }
-  if (count < kLeastForSkew) {
-    label(rsDSNESkew);
-  } else if (no_spread) {
-    label(rsDSSDSkew);
-  } else {
-    figure(rsDSSkew, r.skew);
-  }
-  figure(rsDSQtr1, r.quartile_1st);
-  figure(rsDSQtr3, r.quartile_3rd);
-  figure(rsDSIQR, r.inter_quartile_range);
+std::vector<std::string> DescriptiveStats::Report(int decimals) {
+  std::vector<std::string> lines;
+  for (const ReportFigure& figure : Figures())
+    lines.push_back(ReportLine(figure, figure.Text(decimals)));
+  if (lines.empty()) lines.push_back(MessageText(rsVectorIsEmpty));
   return lines;
 }
 

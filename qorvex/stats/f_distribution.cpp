@@ -4,7 +4,7 @@
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/f_distribution.h"
 
 namespace qorvex::inline QorvexStatistics {
 
@@ -20,14 +20,14 @@ void RequireBoth(std::uint32_t df1, std::uint32_t df2) {
 Extended FDistPDF(Extended f, std::uint32_t df1, std::uint32_t df2) {
   if (f < 0) RaiseMathError(rsValueGZero);
   RequireBoth(df1, df2);
-  return full_precision::FDistPdf(df1, df2, f);
+  return FDistribution(df1, df2).Pdf(f);
 }
 
 void FDistPDFValues(std::uint32_t df1, std::uint32_t df2, Extended f_low, Extended f_high,
                     std::int32_t n, TQorFloatVector& f_values, TQorFloatVector& y_values) {
   detail::FillDensityTable({f_low, f_high, n, f_values, y_values}, [=] {
     RequireBoth(df1, df2);
-    return [=](Extended f) { return full_precision::FDistPdf(df1, df2, f); };
+    return [distribution = FDistribution(df1, df2)](Extended f) { return distribution.Pdf(f); };
   });
 }
 
@@ -51,7 +51,7 @@ Extended FDistBetween(Extended f1, Extended f2, std::uint32_t df1, std::uint32_t
 Extended InvFDistLess(std::uint32_t df1, std::uint32_t df2, Extended p) {
   detail::RequireProbability(p);
   RequireBoth(df1, df2);
-  return full_precision::FDistQuantile(df1, df2, p);
+  return FDistribution(df1, df2).Quantile(Tail::kLower, p);
 }
 
 Extended InvFDistGreater(std::uint32_t df1, std::uint32_t df2, Extended p) {

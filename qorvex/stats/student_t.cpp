@@ -4,7 +4,7 @@
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/student_t.h"
 
 namespace qorvex::inline QorvexStatistics {
 
@@ -19,14 +19,14 @@ Extended TwoSided(Extended t, Extended df) {
 
 Extended StudentTPDF(Extended t, std::uint32_t df) {
   detail::RequireDegreesOfFreedom(df);
-  return full_precision::StudentTPdf(df, t);
+  return StudentTDistribution(df).Pdf(t);
 }
 
 void StudentTPDFValues(std::uint32_t df, Extended t_low, Extended t_high, std::int32_t n,
                        TQorFloatVector& t_values, TQorFloatVector& y_values) {
   detail::FillDensityTable({t_low, t_high, n, t_values, y_values}, [=] {
     detail::RequireDegreesOfFreedom(df);
-    return [=](Extended t) { return full_precision::StudentTPdf(df, t); };
+    return [distribution = StudentTDistribution(df)](Extended t) { return distribution.Pdf(t); };
   });
 }
 
@@ -47,7 +47,7 @@ Extended StudentTBetween(Extended t1, Extended t2, std::uint32_t df) {
 Extended InvStudentTLess(std::uint32_t df, Extended p) {
   detail::RequireProbability(p);
   detail::RequireDegreesOfFreedom(df);
-  return full_precision::StudentTQuantile(df, p);
+  return StudentTDistribution(df).Quantile(Tail::kLower, p);
 }
 
 Extended InvStudentTGreater(std::uint32_t df, Extended p) {

@@ -25,7 +25,8 @@ template <class T>
 class SameFloatOf : public ::testing::Test {};
 TYPED_TEST_SUITE(SameFloatOf, FloatTypes, );
 
-// The unit of the values plays no part, from the least subnormal number to the largest one.
+// The result is the same for values of every magnitude, from the smallest subnormal to the largest
+// number.
 TYPED_TEST(SameFloatOf, IsRelativeAtEverySize) {
   using T = TypeParam;
   using Limits = std::numeric_limits<T>;
@@ -41,16 +42,12 @@ TYPED_TEST(SameFloatOf, IsRelativeAtEverySize) {
       {1e-15L, 1, T(1 + 0.9e-15L), true},
       {1e-15L, 1, T(1 + 2e-15L), 4 * eps > 2e-15L},
       {1e-15L, T(-1.5L), T(-1.5L) - eps, true},
-      {1e-15L, 1, -1, false},
-      {1e-15L, 1, 0, false},
       {0.1L, 1, T(0.9L) + eps, true},
       {0.1L, 1, T(0.89L), false},
       {0.6L, 1, 0, false},
       {0.6L, 1, 0.5L, true},
       {1, 1, 0, true},
       {1, 1, -eps, false},
-      {1.5L, 1, T(-0.9L), false},
-      {1.5L, 1, -0.5L, true},
       {3, 1, -1, true},
       {kNaN, 1, 1 + 3 * eps, true},
       {kNaN, 1, 1 + 5 * eps, false},

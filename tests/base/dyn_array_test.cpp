@@ -65,7 +65,7 @@ TEST(DynArray, ConvertsFromAndToRanges) {
   static_assert(std::constructible_from<TQorDoubleVector, TQorFloatVector>);
   static_assert(!std::constructible_from<TQorLIntVector, TQorFloatVector>);
   static_assert(!std::constructible_from<TQorLIntVector, TQorLWordVector>);
-  // Not a view of the standard library: Clang 14 cannot read that of GCC 12.
+  // Not a view: Clang 14 cannot compile those of GCC 12's standard library.
   struct ThrowsLate {
     Extended x;
     operator Extended() const { return x > 1 ? throw std::domain_error("late") : x; }
@@ -93,7 +93,7 @@ TEST(DynArray, AppendingIsAmortised) {
   EXPECT_EQ(v[99'999], static_cast<std::uint8_t>(99'999));
 }
 
-TEST(DynArray, HandlesMayBeCopiedAndDroppedOnAnyThread) {
+TEST(DynArray, HandlesMayBeCopiedAndDestroyedOnAnyThread) {
   const TQorFloatMatrix shared{{1, 2}, {3, 4}};
   {
     std::vector<std::jthread> threads;

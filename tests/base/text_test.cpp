@@ -25,7 +25,7 @@ TEST(Str2Float, RoundsCorrectly) {
       {"1e-5000", 0},
       {"inf", kInfinity},
       {"-Infinity", -kInfinity},
-      // Half way between 1 and its successor goes to even; a digit more goes up.
+      // Halfway between 1 and the next number, which rounds to even, and just above.
       {"1.0000000000000000000542101086242752217003726400434970855712890625", 1},
       {"1.00000000000000000005421010862427522170037264004349708557128906250001",
        1 + std::numeric_limits<Extended>::epsilon()},
@@ -35,7 +35,7 @@ TEST(Str2Float, RoundsCorrectly) {
   EXPECT_TRUE(std::isnan(Str2Float("NaN")));
 }
 
-TEST(Str2Float, RefusesWhatIsNoNumberAndNamesIt) {
+TEST(Str2Float, RefusesOtherTextAndNamesIt) {
   for (const char* text : {"", "  ", ".", "-", "e5", "1e", "1e+", "1.2.3", "1,5", "0x10", "1 2",
                            "--1", "+-1", "nan(1)", "infinit", "12a", "1_000",
                            "\xE2\x88\x92"
@@ -86,11 +86,11 @@ TEST(Float2EStr, RoundsTheExactValueHalfToEven) {
   EXPECT_EQ(Int2EStr(std::int8_t{-5}), "-5");
 }
 
-TEST(StripTChStr, StripsDecimalsAndTheDanglingPoint) {
+TEST(StripTChStr, StripsDecimalsAndAPointThatIsLeftAtTheEnd) {
   EXPECT_EQ(StripTChStr("2.50000", '0'), "2.5");
   EXPECT_EQ(StripTChStr("3.000", '0'), "3");
   EXPECT_EQ(StripTChStr("0.00", '0'), "0");
-  EXPECT_EQ(StripTChStr("100", '0'), "100") << "not one";
+  EXPECT_EQ(StripTChStr("100", '0'), "100") << "these are not decimals";
   EXPECT_EQ(StripTChStr("1.5e10", '0'), "1.5e10");
   EXPECT_EQ(StripTChStr("abcxx", 'x'), "abc");
   EXPECT_EQ(StripTChStr("", '0'), "");

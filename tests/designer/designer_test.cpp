@@ -13,18 +13,18 @@
 #include <QExtensionManager>
 #include <QFileInfo>
 #include <QLineEdit>
-#include <QMap>
 #include <QMetaProperty>
 #include <QPluginLoader>
 #include <QRegularExpression>
 #include <QTest>
 #include <QTreeWidget>
 #include <QtUiPlugin/QDesignerCustomWidgetCollectionInterface>
+#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "changed_value.h"
+#include "support/properties.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -72,24 +72,7 @@ class Designer : public testing::Test {
              .arg(class_name));
   }
 
-  // The published properties, those that others depend on first.
-  [[nodiscard]] std::vector<QMetaProperty> Published() const {
-    const QMetaObject* meta = widget_->metaObject();
-    std::vector<QMetaProperty> properties;
-    for (int i = meta->propertyCount() - 1; i >= 0; --i) {
-      const QMetaProperty property = meta->property(i);
-      if (QByteArray(property.enclosingMetaObject()->className()).startsWith("qorvex::")) {
-        properties.push_back(property);
-      }
-    }
-    return properties;
-  }
-
-  [[nodiscard]] QVariant Value(const QMetaProperty& property) const {
-    return PlainValue(property, property.read(widget_));
-  }
-
-  // What the saved form says of the property.
+  // What the saved form contains for the property.
   [[nodiscard]] std::string Saved(const char* property) const {
     const QRegularExpression element(
         QString(R"(<property name="%1">\s*(.*?)\s*</property>)").arg(property),
@@ -133,45 +116,37 @@ TEST_F(Designer, SavesEveryPropertyThatWasChangedUntilItIsReset) {
     EXPECT_FALSE(entry->icon().isNull());
     ASSERT_NO_FATAL_FAILURE(LoadNew(entry->name()));
     EXPECT_EQ(widget_->metaObject()->className(), entry->name());
-    const std::vector<QMetaProperty> properties = Published();
+    const std::string initial = PropertyTable(*widget_);
+    const QString unchanged = form_->contents();
+    // From the last to the first, because later properties determine the range of earlier ones.
+    std::vector<QMetaProperty> properties = Published(widget_);
+    std::ranges::reverse(properties);
     EXPECT_FALSE(properties.empty());
-    QMap<QString, QVariant> initial;
-    QMap<QString, QVariant> changed;
-    for (const QMetaProperty& property : properties) {
-      initial[property.name()] = Value(property);
-    }
     for (const QMetaProperty& property : properties) {
       SCOPED_TRACE(property.name());
       const int index = sheet_->indexOf(property.name());
       ASSERT_GE(index, 0);
       EXPECT_TRUE(sheet_->isVisible(index));
       EXPECT_TRUE(sheet_->hasReset(index));
-      form_->cursor()->setWidgetProperty(widget_, property.name(),
-                                         ChangedValue(property, initial[property.name()]));
+      const QVariant before = property.read(widget_);
+      form_->cursor()->setWidgetProperty(widget_, property.name(), ChangedValue(property, before));
       EXPECT_TRUE(sheet_->isChanged(index));
-      changed[property.name()] = Value(property);
-      EXPECT_EQ(changed[property.name()] != initial[property.name()], property.isStored());
+      EXPECT_EQ(ValueText(property, widget_) != ValueText(property, before), property.isStored());
       EXPECT_NE(Saved(property.name()).empty(), property.isStored());
     }
+    const std::string changed = PropertyTable(*widget_);
     const QString contents = form_->contents();
     EXPECT_TRUE(contents.contains("<widget class=\"" + entry->name() + "\" name=\"tested\">"));
     EXPECT_TRUE(contents.contains("<header>" + entry->includeFile() + "</header>"));
 
     ASSERT_NO_FATAL_FAILURE(Load(contents));
     EXPECT_EQ(form_->contents().toStdString(), contents.toStdString());
-    for (const QMetaProperty& property : properties) {
-      if (!property.isStored()) continue;
-      SCOPED_TRACE(property.name());
-      EXPECT_EQ(Value(property), changed[property.name()]);
-    }
+    EXPECT_EQ(PropertyTable(*widget_), changed);
     for (const QMetaProperty& property : properties) {
       form_->cursor()->resetWidgetProperty(widget_, property.name());
     }
-    for (const QMetaProperty& property : properties) {
-      SCOPED_TRACE(property.name());
-      EXPECT_EQ(Value(property), initial[property.name()]);
-      EXPECT_EQ(Saved(property.name()), "");
-    }
+    EXPECT_EQ(PropertyTable(*widget_), initial);
+    EXPECT_EQ(form_->contents().toStdString(), unchanged.toStdString());
   }
 }
 
@@ -194,12 +169,28 @@ TEST_F(Designer, KeepsNumbersAndNamesFromTranslators) {
   }
 }
 
-TEST_F(Designer, ShowsComponentsWithoutAPictureAndTheirResults) {
+TEST_F(Designer, OffersWidgetsUnderTheirQtClass) {
+  const auto widgets = Widgets();
+  const auto holder = std::ranges::find(widgets, QString("qorvex::TQorUICtrlHolder"),
+                                        &QDesignerCustomWidgetInterface::name);
+  ASSERT_NE(holder, widgets.end());
+  EXPECT_EQ((*holder)->domXml().toStdString(),
+            R"(<ui language="c++" displayname="TQorUICtrlHolder">)"
+            R"(<widget class="qorvex::TQorUICtrlHolder" name="uiCtrlHolder"/>)"
+            R"(<customwidgets><customwidget><class>qorvex::TQorUICtrlHolder</class>)"
+            R"(<extends>QWidget</extends><header>qorvex/components/uictrl_holder.h</header>)"
+            R"(<propertyspecifications>)"
+            R"(<stringpropertyspecification name="NullStr" type="singleline"/>)"
+            R"(</propertyspecifications></customwidget></customwidgets></ui>)"
+            "\n");
+}
+
+TEST_F(Designer, ShowsNonVisualComponentsAndTheirResults) {
   ASSERT_NO_FATAL_FAILURE(LoadNew("qorvex::TQorDescStatsHolder"));
   EXPECT_FALSE(widget_->isHidden());
   form_->cursor()->setWidgetProperty(widget_, "Items", QStringList{"1", "2", "6"});
   EXPECT_EQ(widget_->property("Mean"), "3");
-  // Drawn differently once there is a problem to tell.
+  // A line that is not a number is reported in the picture.
   widget_->resize(200, 40);
   const QImage image = widget_->grab().toImage();
   form_->cursor()->setWidgetProperty(widget_, "Items", QStringList{"1", "two"});

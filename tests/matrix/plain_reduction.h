@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <utility>
@@ -9,8 +10,8 @@
 
 namespace qorvex::testing {
 
-/// The reductions as loops over single elements, in the order of operations that is part of their
-/// results: what the fast ones must agree with in every bit.
+/// The reductions as plain loops, with the order of operations that is part of their results. The
+/// results of the library must be bitwise identical.
 template <FloatElement T>
 struct PlainReduction {
   TQorMatrix<T>& matrix;
@@ -34,17 +35,17 @@ struct PlainReduction {
       m[target][j] = static_cast<T>(product + static_cast<Extended>(m[target][j]));
     }
   }
-  // Makes an element zero by the row whose pivot is in its column.
+  // Eliminates an element with the row whose pivot is in its column.
   void Clear(std::size_t row, std::size_t col, std::size_t pivot_row) {
     const Extended x = matrix[row][col];
     matrix[row][col] = 0;
     if (FloatIsZero(x)) return;
-    // Above its diagonal a pivot has nothing on its right by now.
+    // In back substitution all elements to the right of the pivot are already zero.
     if (row > pivot_row) Add(matrix, row, pivot_row, col + 1, -x);
     if (inverse != nullptr) Add(*inverse, row, pivot_row, 0, -x);
   }
 
-  // The row of the column's pivot, or the row count.
+  // The row of the column's pivot, or the number of rows.
   std::size_t PivotRow(std::size_t col) const {
     std::size_t best = Rows();
     for (std::size_t r = Rows(); r-- > rank;) {
@@ -86,12 +87,9 @@ struct PlainReduction {
     for (std::size_t c = Cols() - 1; c >= 1; --c) {
       for (std::size_t r = c; r-- > 0;) Clear(r, c, c);
     }
-    for (const TQorVector<T>& row : *inverse) {
-      for (const T x : row) {
-        if (!std::isfinite(x)) return false;
-      }
-    }
-    return true;
+    return std::ranges::all_of(*inverse, [](const TQorVector<T>& row) {
+      return std::ranges::all_of(row, [](T x) { return std::isfinite(x); });
+    });
   }
 
   Extended Determinant() {

@@ -1,9 +1,7 @@
 #include "qorvex/matrix/product.h"
 
-#include "qorvex/matrix/building.h"
-#include "qorvex/matrix/shape.h"
+#include "qorvex/matrix/transpose.h"
 #include "support/random_matrices.h"
-#include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -15,16 +13,16 @@ template <class T>
 class Product : public ::testing::Test {};
 TYPED_TEST_SUITE(Product, FloatTypes, );
 
-TYPED_TEST(Product, AgreesInEveryBitWithThePlainLoops) {
+TYPED_TEST(Product, IsBitwiseThatOfPlainLoops) {
   using T = TypeParam;
   Engine engine(20261121);
-  for (const auto& [name, making] : testing::FloatMakings<T>(engine, 1)) {
+  for (const auto& [name, element] : testing::ElementFunctions<T>(engine, 1)) {
     for (int repetition = 0; repetition < 100; ++repetition) {
       const std::size_t rows = 1 + engine() % 9;
       const std::size_t inner = 1 + engine() % 9;
       const std::size_t cols = 1 + engine() % 11;
-      const auto a = MatrixOf<T>(rows, inner, making);
-      const auto b = MatrixOf<T>(inner, cols, making);
+      const auto a = MatrixOf<T>(rows, inner, element);
+      const auto b = MatrixOf<T>(inner, cols, element);
       const auto expected = MatrixOf<T>(rows, cols, [&](std::size_t i, std::size_t j) {
         T sum = 0;
         for (std::size_t k = 0; k < inner; ++k) {
@@ -46,20 +44,27 @@ TEST(ProductOfFloats, AMatrixMayBeBothFactors) {
   EXPECT_EQ(MultiplyMatrices(matrix, matrix), (TQorFloatMatrix{{3, 6}, {3, 6}}));
 }
 
-TEST(ProductOfFloats, ShapesAreCheckedInOrder) {
-  const auto zeros = CreateFloatMatrix;
-  const TQorFloatMatrix ragged{{1, 2}, {3}};
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(0, 0), zeros(2, 2)), rsMatrixRect);
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 2), ragged), rsMatrixRect);
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 3), zeros(2, 3)), rsMatrixMult);
-  const testing::RectangularCheckOff off;
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(0, 0), zeros(2, 2)), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 2), zeros(0, 0)), rsMatrixIsEmpty);
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 0), zeros(1, 2)), rsMatrixMult);
-  EXPECT_MATH_ERROR(MultiplyMatrices(zeros(2, 2), ragged), rsMatrixRect);
-  EXPECT_MATH_ERROR(MultiplyMatrices(ragged, zeros(2, 2)), rsMatrixRect);
-  EXPECT_MATH_ERROR(MultiplyMatrices(ragged, zeros(3, 2)), rsMatrixMult);
-  EXPECT_EQ(MultiplyMatrices(zeros(2, 3), zeros(3, 0)), zeros(2, 0));
+template <class T>
+class Transposing : public ::testing::Test {};
+TYPED_TEST_SUITE(Transposing, AllTypes);
+
+TYPED_TEST(Transposing, CopiesEveryBit) {
+  using T = TypeParam;
+  constexpr std::size_t value_bytes = std::min<std::size_t>(sizeof(T), 10);
+  Engine engine(21);
+  const std::pair<std::size_t, std::size_t> shapes[] = {{1, 1},   {1, 70},  {70, 1},
+                                                        {16, 32}, {17, 33}, {50, 71}};
+  for (const auto& [rows, cols] : shapes) {
+    auto m = testing::RandomMatrix<T>(engine, rows, cols);
+    if constexpr (FloatElement<T>) m[0][0] = std::numeric_limits<T>::signaling_NaN();
+    const TQorMatrix<T> transpose = TransposeMatrix(m);
+    ASSERT_EQ(transpose.size(), cols);
+    for (std::size_t j = 0; j < cols; ++j) {
+      ASSERT_EQ(transpose[j].size(), rows);
+      for (std::size_t i = 0; i < rows; ++i)
+        ASSERT_EQ(std::memcmp(&transpose[j][i], &m[i][j], value_bytes), 0) << i << ',' << j;
+    }
+  }
 }
 
 }  // namespace qorvex

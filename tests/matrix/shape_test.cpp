@@ -1,14 +1,11 @@
 #include "qorvex/matrix/shape.h"
 
-#include "qorvex/base/comparisons.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/properties.h"
 #include "support/rectangular_check_off.h"
 #include "support/test.h"
 
 namespace qorvex {
-
-using testing::RectangularCheckOff;
 
 struct Dimensions {
   std::uint32_t rows, cols;
@@ -22,48 +19,39 @@ Dimensions DimensionsOf(const TQorFloatMatrix& matrix) {
   return d;
 }
 
-TEST(Shape, DimensionsFollowTheSwitch) {
-  struct Case {
+TEST(Shape, DependsOnTheSwitch) {
+  const struct {
     TQorFloatMatrix matrix;
     Dimensions checked, unchecked;
     bool is_rectangular;
-  };
-  const Case cases[] = {
+  } cases[] = {
       {CreateFloatMatrix(0, 3), {0, 0, false}, {0, 0, true}, false},
       {CreateFloatMatrix(3, 0), {3, 0, false}, {3, 0, true}, true},
       {CreateFloatMatrix(2, 3), {2, 3, true}, {2, 3, true}, true},
+      {CreateFloatMatrix(2, 2), {2, 2, true}, {2, 2, true}, true},
+      {CreateFloatMatrix(3, 3), {3, 3, true}, {3, 3, true}, true},
       {{{1, 2}, {1, 2, 3}}, {2, 0, false}, {2, 2, true}, false},
       {{{1, 2}, {1, 2}, {1}}, {3, 0, false}, {3, 2, true}, false},
       {{{}, {1}}, {2, 0, false}, {2, 0, true}, false},
   };
-  for (const Case& c : cases) {
-    EXPECT_EQ(DimensionsOf(c.matrix), c.checked);
-    EXPECT_EQ(MatrixRows(c.matrix), c.unchecked.rows);
-    EXPECT_EQ(MatrixCols(c.matrix), c.unchecked.cols) << "the first row's, ragged or not";
-    const RectangularCheckOff off;
-    EXPECT_EQ(DimensionsOf(c.matrix), c.unchecked);
-    EXPECT_EQ(MatrixIsRectangular(c.matrix), c.is_rectangular) << "whatever the switch";
-  }
-}
-
-TEST(Shape, SquareAndSameDimensionsNeedARectangle) {
-  const TQorLIntMatrix square{{1, 2}, {3, 4}};
-  const TQorLIntMatrix wide{{1, 2, 3}, {4, 5, 6}};
-  const TQorLIntMatrix ragged{{1, 2}, {3}};
-  EXPECT_TRUE(MatrixIsSquare(square));
-  EXPECT_FALSE(MatrixIsSquare(wide));
-  EXPECT_TRUE(MatricesSameDimensions(wide, TQorLIntMatrix{{0, 0, 0}, {0, 0, 0}}));
-  EXPECT_FALSE(MatricesSameDimensions(square, wide));
-  EXPECT_FALSE(MatricesSameDimensions(square, TQorLIntMatrix{{1, 2}}));
-  const auto expect_shapes = [&](bool rectangular) {
-    EXPECT_EQ(MatrixIsSquare(ragged), rectangular);
-    EXPECT_EQ(MatricesSameDimensions(ragged, square), rectangular);
-    EXPECT_EQ(MatricesSameDimensions(square, ragged), rectangular);
-    EXPECT_EQ(MatrixIsSquare(TQorLIntMatrix()), rectangular);
+  const auto expect_shapes = [&](const auto dimensions) {
+    for (const auto& a : cases) {
+      const Dimensions& of_a = a.*dimensions;
+      EXPECT_EQ(DimensionsOf(a.matrix), of_a);
+      EXPECT_EQ(MatrixIsSquare(a.matrix), of_a.rectangular && of_a.rows == of_a.cols);
+      EXPECT_EQ(MatrixRows(a.matrix), a.unchecked.rows);
+      EXPECT_EQ(MatrixCols(a.matrix), a.unchecked.cols) << "those of the first row";
+      EXPECT_EQ(MatrixIsRectangular(a.matrix), a.is_rectangular);
+      for (const auto& b : cases) {
+        EXPECT_EQ(MatricesSameDimensions(a.matrix, b.matrix),
+                  of_a.rectangular && of_a == b.*dimensions);
+      }
+    }
   };
-  expect_shapes(false);
-  const RectangularCheckOff off;
-  expect_shapes(true);
+  using Case = std::remove_cvref_t<decltype(cases[0])>;
+  expect_shapes(&Case::checked);
+  const testing::RectangularCheckOff off;
+  expect_shapes(&Case::unchecked);
 }
 
 TEST(MatrixBuilding, EveryTypeIsCreated) {
@@ -112,21 +100,6 @@ TEST(MatrixProperties, ZeroAndIdentityWithinTheTolerance) {
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {0, 1 - 2e-15L}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorFloatMatrix{{1, 0}, {kNaN, 1}}));
   EXPECT_FALSE(MatrixIsIdentity(TQorSingleMatrix{{1 + 0x1p-23F}}));
-}
-
-TEST(MatrixProperties, NeedElementsInRowsOfOneLength) {
-  const TQorFloatMatrix ragged{{0, 0}, {0}};
-  for (const TQorFloatMatrix& m : {TQorFloatMatrix(), TQorFloatMatrix{{}, {}}, ragged}) {
-    EXPECT_MATH_ERROR(MatrixZeroRows(m), rsMatrixIsEmpty);
-    EXPECT_MATH_ERROR(MatrixIsIdentity(m), rsMatrixIsEmpty);
-  }
-  EXPECT_STREQ(EMathError(rsMatrixIsEmpty).what(),
-               "The matrix is empty or its rows differ in length");
-  EXPECT_MATH_ERROR(MatrixIsIdentity(TQorFloatMatrix{{1, 0, 0}, {0, 1, 0}}), rsMatrixSqr);
-  const RectangularCheckOff off;
-  EXPECT_MATH_ERROR(MatrixZeroRows(ragged), rsMatrixRect);
-  EXPECT_MATH_ERROR(MatrixIsIdentity(ragged), rsMatrixRect);
-  EXPECT_EQ(MatrixZeroRows(TQorFloatMatrix{{0}, {0, 5}}), 1U) << "rows count whole";
 }
 
 }  // namespace qorvex

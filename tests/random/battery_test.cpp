@@ -1,81 +1,62 @@
-// Each variate at parameters that reach every branch of its method. About 90 judgements of at most
-// four checks fail at p < 1e-6 each: another engine, or a change of a stream, would raise a false
-// alarm with a probability of 4e-4. With the fixed seed the outcome is always the same.
+// Statistical tests of each variate, at parameters that reach every branch of its method.
+//
+// The seed is fixed, so the outcome never changes. About 90 tests make up to four checks each,
+// which fail at p < 1e-6: with another engine or after a change of a stream, the probability of a
+// false alarm is 4e-4.
 
+#include <array>
 #include <cmath>
+#include <string>
 
 #include "qorvex/base/elementary.h"
-#include "qorvex/random/QorvexRandom.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 #include "random/distribution_battery.h"
+#include "random/variates.h"
 
 namespace qorvex {
 
 namespace {
 
-namespace fp = full_precision;
 using testing::Draw;
 using testing::ExpectAgreement;
 using testing::Judge;
 using testing::Moments;
 using testing::Reference;
+using testing::ReferenceOf;
 using testing::Support;
 
-using Parameters = std::vector<Extended>;
-
-constexpr Support kReal{-kInfinity, kInfinity};
 constexpr Support kPositive{0, kInfinity};
 constexpr Support kCounts{0, kInfinity, true};
 
-// A family of the library whose points are of the given type.
-template <class Point = Extended, class Lower, class Quantile, class... FamilyParameters>
-Reference Family(Lower lower, Quantile quantile, Moments moments, Support support,
-                 FamilyParameters... parameters) {
-  return {[=](Extended x) { return lower(parameters..., static_cast<Point>(x)); },
-          [=](Extended p) { return static_cast<Extended>(quantile(parameters..., p)); }, moments,
-          support};
-}
-
 Reference Normal(Extended mean, Extended std_dev) {
-  return Family(fp::NormalLower, fp::NormalQuantile, {mean, std_dev * std_dev}, kReal, mean,
-                std_dev);
+  return ReferenceOf(NormalDistribution(mean, std_dev));
 }
 
-// Variates below 5E-324 are 0. The variance of small shapes depends on a few variates.
-Reference Gamma(Extended shape) {
-  Reference gamma = Family(fp::GammaLower, fp::GammaQuantile, {shape, shape < 0.1L ? kNaN : shape},
-                           kPositive, shape, 1);
+// Variates below 5E-324 are 0.
+Reference Gamma(Extended shape, Extended = 0) {
+  Reference gamma = ReferenceOf(GammaDistribution(shape), shape >= 0.1L);
   gamma.quantile = [exact = gamma.quantile](Extended p) { return std::max(exact(p), 5e-324L); };
   return gamma;
 }
 
-Reference ChiSquare(Extended df) {
-  return Family(fp::ChiSquareLower, fp::ChiSquareQuantile, {df, 2 * df}, kPositive, df);
+Reference ChiSquare(Extended df, Extended = 0) {
+  return ReferenceOf(ChiSquareDistribution(df));
 }
 
 // Variates close to 1 are rounded to it.
 Reference Beta(Extended a, Extended b) {
-  const Extended sum = a + b;
-  Reference beta = Family(fp::BetaLower, fp::BetaQuantile,
-                          {a / sum, a * b / (sum * sum * (sum + 1))}, {0, 1}, a, b);
+  Reference beta = ReferenceOf(BetaDistribution(a, b));
   beta.quantile = [exact = beta.quantile](Extended p) { return std::min(exact(p), 1 - 1e-16L); };
   return beta;
 }
 
 Reference StudentT(Extended df) {
-  return Family(fp::StudentTLower, fp::StudentTQuantile,
-                {df > 2 ? 0 : kNaN, df > 4 ? df / (df - 2) : kNaN}, kReal, df);
+  return ReferenceOf(StudentTDistribution(df), df > 4);
 }
 
-Reference LogNormal(Extended m, Extended s) {
-  const Extended mean = std::exp(m + s * s / 2);
-  return Family(fp::LogNormalLower, fp::LogNormalQuantile, {mean, mean * mean * std::expm1(s * s)},
-                kPositive, m, s);
-}
-
-Reference Weibull(Extended a) {
+Reference Weibull(Extended a, Extended = 0) {
   const Extended mean = std::tgamma(1 + 1 / a);
-  // The variance does not exist for negative shapes down to -2.
+  // For negative shapes the variance exists only below -2.
   const Moments moments = a > 0 ? Moments{mean, std::tgamma(1 + 2 / a) - mean * mean} : Moments{};
   return {[a](Extended x) {
             const Extended power = std::pow(x, a);
@@ -85,14 +66,14 @@ Reference Weibull(Extended a) {
           moments, kPositive};
 }
 
-Reference Cauchy() {
+Reference Cauchy(Extended = 0, Extended = 0) {
   return {[](Extended x) { return 0.5L + std::atan(x) / QorPi; },
           [](Extended p) { return std::tan(QorPi * (p - 0.5L)); },
           {},
-          kReal};
+          {-kInfinity, kInfinity}};
 }
 
-// Over the logarithm of x, down to e^-60 of the greatest density.
+// Integrated over the logarithm of x, as far as the density exceeds e^-60 of its maximum.
 Reference GeneralisedInverseGaussian(Extended h, Extended b) {
   const auto log_density = [=](Extended t) { return b * t - h * std::cosh(t); };
   const Extended mode = std::asinh(b / h);
@@ -105,36 +86,36 @@ Reference GeneralisedInverseGaussian(Extended h, Extended b) {
       log_density, [](Extended t) { return std::exp(t); }, end(-1), end(1), kPositive);
 }
 
-// The integrated distribution chooses the cells of the closed form.
+// In closed form. The integrated distribution serves only to choose the cells.
 Reference InverseGaussian(Extended mean, Extended shape) {
   const Reference reciprocal = GeneralisedInverseGaussian(shape / mean, 0.5L);
+  const NormalDistribution normal(0, 1);
   return {[=](Extended x) {
             const Extended root = std::sqrt(shape / x);
-            return fp::NormalLower(0, 1, root * (x / mean - 1)) +
-                   std::exp(2 * shape / mean) * fp::NormalLower(0, 1, -root * (x / mean + 1));
+            return Lower(normal, root * (x / mean - 1)) +
+                   std::exp(2 * shape / mean) * Lower(normal, -root * (x / mean + 1));
           },
           [=](Extended p) { return mean / reciprocal.quantile(1 - p); },
           {mean, mean * mean * mean / shape},
           kPositive};
 }
 
-Reference VonMises(Extended k) {
+Reference VonMises(Extended k, Extended = 0) {
   return testing::Integrated([k](Extended t) { return k * std::cos(t); },
                              [](Extended t) { return t; }, -QorPi, QorPi, {-QorPi, QorPi});
 }
 
-Reference Poisson(Extended mu) {
-  return Family<std::uint32_t>(fp::PoissonLower, fp::PoissonQuantile, {mu, mu}, kCounts, mu);
+Reference Poisson(Extended mu, Extended = 0) {
+  return ReferenceOf(PoissonDistribution(mu));
 }
 
-// For more trials than the family takes the Poisson distribution, which is off by p at most.
+// For more trials than the class takes, the Poisson distribution, whose error is at most p.
 Reference Binomial(Extended n, Extended p) {
-  if (n > 0x1p32L) return Poisson(n * p);
-  return Family<std::uint32_t>(fp::BinomialLower, fp::BinomialQuantile, {n * p, n * p * (1 - p)},
-                               {0, n, true}, p, static_cast<std::uint32_t>(n));
+  return n > 0x1p32L ? Poisson(n * p)
+                     : ReferenceOf(BinomialDistribution(p, static_cast<std::uint32_t>(n)));
 }
 
-// By the quotients of neighbouring probabilities.
+// From quotients of neighbouring probabilities.
 Reference NegativeBinomial(Extended sk, Extended p) {
   const Extended mean = sk * p / (1 - p);
   Extended probability = std::pow(1 - p, sk);
@@ -162,7 +143,7 @@ TQorFloatVector DeviationsFromMean(UniformSource source) {
   return variate;
 }
 
-// With the inverse of the matrix, by its cofactors.
+// The inverse of the matrix is computed from cofactors.
 Extended MahalanobisDistance(const TQorFloatVector& x) {
   Extended sum = 0;
   Extended determinant = 0;
@@ -179,143 +160,116 @@ Extended MahalanobisDistance(const TQorFloatVector& x) {
   return sum / determinant;
 }
 
-struct Variate {
-  const char* name;
-  std::vector<Parameters> cases;
-  std::function<Extended(const Parameters&, UniformSource)> draw;
-  std::function<Reference(const Parameters&)> reference;
+struct Judged {
+  const char* variate;  // as in testing::Variates()
+  std::vector<std::array<Extended, 2>> cases;
+  Reference (*reference)(Extended a, Extended b);
   int draws = testing::UsualDraws();
 };
 
-const std::vector<Variate>& Variates() {
-  using P = const Parameters&;
-  static const std::vector<Variate> variates = {
-      {"StandardNormal",
-       {{}},
-       [](P, auto s) { return Random_Normal(s); },
-       [](P) { return Normal(0, 1); }},
-      {"Normal",
-       {{3, 0.2L}},
-       [](P p, auto s) { return Random_Normal(p[0], p[1], s); },
-       [](P p) { return Normal(p[0], p[1]); }},
-      {"Gamma",
-       {{0.001L}, {0.1L}, {0.5L}, {0.95L}, {1}, {1.2L}, {3.5L}, {50}, {1e6L}},
-       [](P p, auto s) { return Random_Gamma(p[0], s); },
-       [](P p) { return Gamma(p[0]); }},
-      {"ChiSquare",
-       {{1}, {2}, {7}},
-       [](P p, auto s) { return Random_ChiSq(static_cast<int>(p[0]), s); },
-       [](P p) { return ChiSquare(p[0]); }},
-      {"Exponential",
-       {{}},
-       [](P, auto s) { return Random_Exponential(s); },
-       [](P) { return Gamma(1); }},
-      {"Weibull",
-       {{0.7L}, {2}, {-2}},
-       [](P p, auto s) { return Random_Weibull(p[0], s); },
-       [](P p) { return Weibull(p[0]); }},
-      {"Beta",
-       {{0.3L, 0.4L},
-        {0.5L, 3},
-        {3, 0.5L},
-        {1, 1},
-        {2, 1},
-        {1.5L, 2.5L},
-        {20, 3},
-        {500, 800},
-        {1, 0.001L}},
-       [](P p, auto s) { return Random_Beta(p[0], p[1], s); },
-       [](P p) { return Beta(p[0], p[1]); }},
-      // The curve of the quick rejection, f/(3 + q), is the boundary of the region for three
-      // degrees of freedom up to a factor. It touches the boundaries for one and two from below, so
-      // that what is left of their regions is that for three.
-      {"StudentT",
-       {{1}, {2}, {3}, {5}, {30}, {1e6L}},
-       [](P p, auto s) { return Random_T(static_cast<int>(p[0]), s); },
-       [](P p) { return StudentT(std::max(p[0], 3.0L)); }},
-      {"Cauchy", {{}}, [](P, auto s) { return Random_Cauchy(s); }, [](P) { return Cauchy(); }},
-      {"LogNormal",
-       {{0, 0.5L}, {-3, 0.1L}, {2, 0.8L}},
-       [](P p, auto s) { return Random_LogNormal(std::exp(p[0]), std::exp(p[1] * p[1] / 2), s); },
-       [](P p) { return LogNormal(p[0], p[1]); }},
-      {"GeneralisedInverseGaussian",
-       {{0.05L, 0}, {0.05L, 3}, {2, 0.5L}, {3, 1}, {3, 3}, {20, 100}, {1e4L, 0.5L}},
-       [](P p, auto s) { return Random_Inv_Gauss(p[0], p[1], s); },
-       [](P p) { return GeneralisedInverseGaussian(p[0], p[1]); }},
-      {"InverseGaussian",
-       {{1.5L, 4}},
-       [](P p, auto s) { return p[0] / Random_Inv_Gauss(p[1] / p[0], 0.5L, s); },
-       [](P p) { return InverseGaussian(p[0], p[1]); }},
-      {"VonMises",
-       {{0}, {0.3L}, {0.5L}, {0.75L}, {1}, {3}, {9.4L}, {9.99L}},
-       [](P p, auto s) { return Random_von_Mises(p[0], s); },
-       [](P p) { return VonMises(p[0]); },
-       testing::UsualDraws() / 5},
-      {"Binomial1",
-       {{1, 0.3L}, {3, 0.2L}, {50, 0.9L}, {300, 0.7L}, {1000, 0.1L}, {1e4L, 0.5L}},
-       [](P p, auto s) { return Random_Binomial1(static_cast<std::int32_t>(p[0]), p[1], s); },
-       [](P p) { return Binomial(p[0], p[1]); }},
-      {"Binomial2",
-       {{1, 0.3L},
-        {50, 0.9L},
-        {61, 0.5L},
-        {100, 0.31L},
-        {300, 0.7L},
-        {1000, 0.1L},
-        {1e5L, 0.5L},
-
-        {2e9L, 0.5L},
-        {1e17L, 1e-16L}},
-       [](P p, auto s) { return Random_Binomial2(static_cast<std::int64_t>(p[0]), p[1], s); },
-       [](P p) { return Binomial(p[0], p[1]); }},
-      {"NegativeBinomial",
-       {{0.4L, 0.3L}, {3, 0.69L}, {300.5L, 0.4L}, {3, 0.71L}, {0.5L, 0.9L}, {12.5L, 0.95L}},
-       [](P p, auto s) { return Random_Neg_Binomial(p[0], p[1], s); },
-       [](P p) { return NegativeBinomial(p[0], p[1]); }},
-      {"Poisson",
-       {{0.3L}, {5}, {9.99L}, {10}, {12}, {50}, {1e4L}, {1e9L}},
-       [](P p, auto s) { return Random_Poisson(p[0], s); },
-       [](P p) { return Poisson(p[0]); }},
-      // Sums of weighted components: their variances tell all covariances.
-      {"MultivariateNormal",
-       {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}},
-       [](P p, auto s) {
-         const TQorFloatVector x = DeviationsFromMean(s);
-         return p[0] * x[0] + p[1] * x[1] + p[2] * x[2];
-       },
-       [](P p) {
-         Extended variance = 0;
-         for (std::size_t i = 0; i < 3; ++i)
-           for (std::size_t j = 0; j < 3; ++j) variance += p[i] * kMatrix[i][j] * p[j];
-         return Normal(0, std::sqrt(variance));
-       }},
-      {"MultivariateNormalDistance",
-       {{}},
-       [](P, auto s) { return MahalanobisDistance(DeviationsFromMean(s)); },
-       [](P) { return ChiSquare(3); }},
-  };
-  return variates;
+void PrintTo(const Judged& judged, std::ostream* out) {
+  *out << judged.variate;
 }
 
-void PrintTo(const Variate& variate, std::ostream* out) {
-  *out << variate.name;
-}
-
-class Battery : public ::testing::TestWithParam<Variate> {};
+class Battery : public ::testing::TestWithParam<Judged> {};
 
 TEST_P(Battery, Agrees) {
-  const Variate& variate = GetParam();
-  for (const Parameters& p : variate.cases) {
-    SCOPED_TRACE(::testing::PrintToString(p));
-    ExpectAgreement([&](auto source) { return variate.draw(p, source); }, variate.reference(p),
-                    variate.draws);
+  const auto& [variate, cases, reference, draws] = GetParam();
+  const testing::NamedDraw draw = testing::Variates().at(variate);
+  for (const auto [a, b] : cases) {
+    SCOPED_TRACE(::testing::Message() << a << ' ' << b);
+    ExpectAgreement([=](auto source) { return draw(a, b, source); }, reference(a, b), draws);
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Variates, Battery, ::testing::ValuesIn(Variates()),
-                         [](const auto& test) { return test.param.name; });
+const Judged kVariates[] = {
+    {"normal", {{0, 1}}, Normal},
+    {"scaled-normal", {{3, 0.2L}}, Normal},
+    {"gamma", {{0.001L}, {0.1L}, {0.5L}, {0.95L}, {1}, {1.2L}, {3.5L}, {50}, {1e6L}}, Gamma},
+    {"chi-square", {{1}, {2}, {7}}, ChiSquare},
+    {"exponential", {{1}}, Gamma},
+    {"weibull", {{0.7L}, {2}, {-2}}, Weibull},
+    {"beta",
+     {{0.3L, 0.4L},
+      {0.5L, 3},
+      {3, 0.5L},
+      {1, 1},
+      {2, 1},
+      {1.5L, 2.5L},
+      {20, 3},
+      {500, 800},
+      {1, 0.001L}},
+     Beta},
+    // The curve of the quick rejection, f/(3 + q), is the boundary of the region for three degrees
+    // of freedom up to a factor. It touches the boundaries for one and two from below, so what
+    // remains of their regions is the region for three.
+    {"student-t",
+     {{1}, {2}, {3}, {5}, {30}, {1e6L}},
+     [](Extended df, Extended) { return StudentT(std::max(df, 3.0L)); }},
+    {"cauchy", {{}}, Cauchy},
+    {"log-normal",
+     {{1, 1.13L}, {0.05L, 1.005L}, {7, 1.38L}},
+     [](Extended median, Extended s) {
+       return ReferenceOf(LogNormalDistribution(std::log(median), std::sqrt(2 * std::log(s))));
+     }},
+    {"inverse-gaussian",
+     {{0.05L, 0}, {0.05L, 3}, {2, 0.5L}, {3, 1}, {3, 3}, {20, 100}, {1e4L, 0.5L}},
+     GeneralisedInverseGaussian},
+    {"von-mises",
+     {{0}, {0.3L}, {0.5L}, {0.75L}, {1}, {3}, {9.4L}, {9.99L}},
+     VonMises,
+     testing::UsualDraws() / 5},
+    {"binomial-1",
+     {{1, 0.3L}, {3, 0.2L}, {50, 0.9L}, {300, 0.7L}, {1000, 0.1L}, {1e4L, 0.5L}},
+     Binomial},
+    {"binomial-2",
+     {{1, 0.3L},
+      {50, 0.9L},
+      {61, 0.5L},
+      {100, 0.31L},
+      {300, 0.7L},
+      {1000, 0.1L},
+      {1e5L, 0.5L},
+      {2e9L, 0.5L},
+      {1e17L, 1e-16L}},
+     Binomial},
+    {"negative-binomial",
+     {{0.4L, 0.3L}, {3, 0.69L}, {300.5L, 0.4L}, {3, 0.71L}, {0.5L, 0.9L}, {12.5L, 0.95L}},
+     NegativeBinomial},
+    {"poisson", {{0.3L}, {5}, {9.99L}, {10}, {12}, {50}, {1e4L}, {1e9L}}, Poisson},
+};
 
-TEST(PlantedDefects, AreSeen) {
+INSTANTIATE_TEST_SUITE_P(Variates, Battery, ::testing::ValuesIn(kVariates), [](const auto& test) {
+  std::string name = test.param.variate;
+  std::ranges::replace(name, '-', '_');
+  return name;
+});
+
+TEST(Battery, InverseGaussianFromTheGeneralisedVariate) {
+  const Extended mean = 1.5L;
+  const Extended shape = 4;
+  ExpectAgreement([=](auto s) { return mean / Random_Inv_Gauss(shape / mean, 0.5L, s); },
+                  InverseGaussian(mean, shape));
+}
+
+// The variances of weighted sums of components show all covariances.
+TEST(Battery, MultivariateNormal) {
+  using Weights = std::array<Extended, 3>;
+  for (const auto& w : {Weights{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}}) {
+    SCOPED_TRACE(::testing::PrintToString(w));
+    Extended variance = 0;
+    for (std::size_t i = 0; i < 3; ++i)
+      for (std::size_t j = 0; j < 3; ++j) variance += w[i] * kMatrix[i][j] * w[j];
+    const auto draw = [&w](UniformSource s) {
+      const TQorFloatVector x = DeviationsFromMean(s);
+      return w[0] * x[0] + w[1] * x[1] + w[2] * x[2];
+    };
+    ExpectAgreement(draw, Normal(0, std::sqrt(variance)));
+  }
+  ExpectAgreement([](auto s) { return MahalanobisDistance(DeviationsFromMean(s)); }, ChiSquare(3));
+}
+
+TEST(PlantedDefects, AreFound) {
   struct Defect {
     const char* name;
     Reference reference;
@@ -337,7 +291,7 @@ TEST(PlantedDefects, AreSeen) {
       {"t of 1 as it is", StudentT(1), [](auto s) { return Random_T(1, s); }},
       {"t of 2 as it is", StudentT(2), [](auto s) { return Random_T(2, s); }},
       {"Cauchy, one-sided", Cauchy(), [](auto s) { return std::fabs(Random_Cauchy(s)); }},
-      {"log-normal, shifted", LogNormal(0, 0.14L),
+      {"log-normal, shifted", ReferenceOf(LogNormalDistribution(0, 0.14L)),
        [](auto s) { return Random_LogNormal(shift, std::exp(0.0098L), s); }},
       {"inverse Gaussian, shifted", GeneralisedInverseGaussian(20, 100),
        [](auto s) { return Random_Inv_Gauss(20, 100, s) * shift; }},

@@ -1,17 +1,15 @@
-// Variates of scripted uniform values: which values are taken, in which order, and what becomes of
-// them.
+// Variates of scripted uniform values: which values they draw, in which order, and what they make
+// of them.
 
 #include <cstdint>
-#include <map>
 #include <random>
-#include <sstream>
+#include <span>
 #include <string>
 #include <vector>
 
 #include "qorvex/base/elementary.h"
-#include "qorvex/base/random.h"
-#include "qorvex/random/QorvexRandom.h"
 #include "random/scripted_source.h"
+#include "random/variates.h"
 #include "support/table.h"
 #include "support/test.h"
 
@@ -20,50 +18,20 @@ namespace {
 
 using testing::ScriptedSource;
 
-using Variate = Extended (*)(Extended a, Extended b, UniformSource source);
-
-const std::map<std::string, Variate>& Variates() {
-  using S = UniformSource;
-  static const std::map<std::string, Variate> variates = {
-      {"normal", [](Extended, Extended, S s) { return Random_Normal(s); }},
-      {"exponential", [](Extended, Extended, S s) { return Random_Exponential(s); }},
-      {"cauchy", [](Extended, Extended, S s) { return Random_Cauchy(s); }},
-      {"gamma", [](Extended a, Extended, S s) { return Random_Gamma(a, s); }},
-      {"chi-square",
-       [](Extended a, Extended, S s) { return Random_ChiSq(static_cast<std::int32_t>(a), s); }},
-      {"weibull", [](Extended a, Extended, S s) { return Random_Weibull(a, s); }},
-      {"student-t",
-       [](Extended a, Extended, S s) { return Random_T(static_cast<std::int32_t>(a), s); }},
-      {"log-normal", [](Extended a, Extended b, S s) { return Random_LogNormal(a, b, s); }},
-      {"beta", [](Extended a, Extended b, S s) { return Random_Beta(a, b, s); }},
-      {"inverse-gaussian", [](Extended a, Extended b, S s) { return Random_Inv_Gauss(a, b, s); }},
-      {"von-mises", [](Extended a, Extended, S s) { return Random_von_Mises(a, s); }},
-      {"binomial-1", [](Extended a, Extended b,
-                        S s) { return Random_Binomial1(static_cast<std::int32_t>(a), b, s); }},
-      {"binomial-2", [](Extended a, Extended b,
-                        S s) { return Random_Binomial2(static_cast<std::int64_t>(a), b, s); }},
-      {"negative-binomial",
-       [](Extended a, Extended b, S s) { return Random_Neg_Binomial(a, b, s); }},
-      {"poisson", [](Extended a, Extended, S s) { return Random_Poisson(a, s); }},
-  };
-  return variates;
-}
-
 Extended DrawRow(const testing::Table& table, std::size_t row, UniformSource source) {
   const auto parameter = [&](const char* name) {
     return table.Text(row, name).empty() ? 0 : table.Value(row, name);
   };
-  return Variates().at(table.Text(row, "variate"))(parameter("a"), parameter("b"), source);
+  return testing::Variates().at(table.Text(row, "variate"))(parameter("a"), parameter("b"), source);
 }
 
-// The scripts of the table take the branches of every method.
-TEST(Streams, AreThoseOfTheMethods) {
+// The scripts of the table reach every branch of every method.
+TEST(Streams, AgreeWithTheTable) {
   const testing::Table table("tables/variate_streams.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     SCOPED_TRACE("row " + std::to_string(row + 1));
-    std::istringstream draws(table.Text(row, "draws"));
-    std::vector<Extended> script;
-    for (Extended draw = 0; draws >> draw;) script.push_back(draw * 0x1p-24L);
+    std::vector<Extended> script = table.Values(row, "draws");
+    for (Extended& draw : script) draw *= 0x1p-24L;
     ScriptedSource source(script);
     const Extended value = DrawRow(table, row, source);
     EXPECT_EQ(source.left(), 0U);
@@ -73,8 +41,8 @@ TEST(Streams, AreThoseOfTheMethods) {
   }
 }
 
-// A constant that decides what is accepted shows in the count of draws.
-TEST(Streams, KeepTheirPaceOverManyVariates) {
+// A wrong constant in an acceptance test changes the number of draws.
+TEST(Streams, TakeTheExpectedNumberOfDrawsForManyVariates) {
   const testing::Table table("tables/variate_sums.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     SCOPED_TRACE("row " + std::to_string(row + 1));
@@ -91,10 +59,9 @@ TEST(Streams, KeepTheirPaceOverManyVariates) {
   }
 }
 
-TEST(Streams, ScaledNormalUsesMeanAndDeviationUnchecked) {
+TEST(Streams, ScaledNormalDoesNotCheckMeanAndDeviation) {
   const auto scaled = [](Extended mean, Extended std_dev) {
-    ScriptedSource source({0.5L, 0.75L});
-    return Random_Normal(mean, std_dev, source);
+    return Random_Normal(mean, std_dev, ScriptedSource({0.5L, 0.75L}));
   };
   const Extended standard = scaled(0, 1);
   EXPECT_EQ(scaled(3, 2), standard * 2 + 3);
@@ -102,81 +69,65 @@ TEST(Streams, ScaledNormalUsesMeanAndDeviationUnchecked) {
   EXPECT_EQ(scaled(3, 0), 3);
 }
 
-TEST(Streams, UnitDeviationGivesTheMeanOfTheLogNormalExactly) {
-  for (const Extended mean : {1.0L, 7.0L, 0.1L, 1e4000L}) {
-    ScriptedSource source({0.5L, 0.75L});
-    EXPECT_EQ(Random_LogNormal(mean, 1, source), mean);
-    EXPECT_EQ(source.left(), 0U);
-  }
-}
+struct ExactVariate {
+  const char* variate;
+  Extended a, b;
+  std::vector<Extended> script;
+  Extended value;
+};
 
-TEST(Streams, CertainOutcomesOfTheBinomials) {
-  ScriptedSource source({0.3L, 0.3L, 0.3L, 0.3L, 0.3L});
-  EXPECT_EQ(Random_Binomial1(7, 0, source), 0);
-  EXPECT_EQ(Random_Binomial1(7, 1, source), 7);
-  EXPECT_EQ(Random_Binomial1(0, 0.5L, source), 0);
-  EXPECT_EQ(Random_Binomial2(7, 1, source), 7);
-  EXPECT_EQ(Random_Binomial2(0, 0.5L, source), 0);
-  EXPECT_EQ(source.left(), 0U);
-}
-
-TEST(Streams, BoundsThatDrawsMayHit) {
-  const auto draw = [](auto variate, std::vector<Extended> script) {
-    ScriptedSource source(std::move(script));
-    const Extended value = variate(UniformSource(source));
-    EXPECT_EQ(source.left(), 0U);
-    return value;
+TEST(Streams, ExactVariatesAtTheLimitsOfTheMethods) {
+  constexpr Extended many = 0x1p62L;
+  const ExactVariate cases[] = {
+      // A standard deviation of 1 gives the mean itself.
+      {"log-normal", 1, 1, {0.5L, 0.75L}, 1},
+      {"log-normal", 0.1L, 1, {0.5L, 0.75L}, 0.1L},
+      {"log-normal", 1e4000L, 1, {0.5L, 0.75L}, 1e4000L},
+      // Outcomes that are certain still take their draw.
+      {"binomial-1", 7, 0, {0.3L}, 0},
+      {"binomial-1", 7, 1, {0.3L}, 7},
+      {"binomial-1", 0, 0.5L, {0.3L}, 0},
+      {"binomial-2", 7, 1, {0.3L}, 7},
+      {"binomial-2", 0, 0.5L, {0.3L}, 0},
+      // Draws and parameters exactly at a bound.
+      {"exponential", 0, 0, {5e-324L, 0.5L}, std::log(2.0L)},
+      {"beta", 1, 1, {1e-330L, 0.5L, 0.5L, 0.5L}, 0.5L},
+      {"gamma", 5e-324L, 0, {0.5L}, 0},
+      {"weibull", 1e-300L, 0, {0.5L}, 0},
+      {"negative-binomial", 1, 0.5L, {0.5L}, 1},
+      {"negative-binomial", 2, 0.7L, {0.05L}, 0},
+      {"binomial-1", 1, 0.5L, {0.5L}, 0},
+      {"binomial-1", 5, 1 - 0x1p-64L, {0.5L}, 5},
+      {"binomial-2", 1, 0.5L, {0.5L}, 1},
+      {"binomial-2", 60, 0.5L, {0, 0.5L}, 27},
+      {"poisson", 0.5L, 0, {std::exp(-0.5L)}, 0},
+      // Where 2k is whole, the last interval has neither width nor weight to divide by.
+      {"von-mises", 1, 0, {1.5L, 0.5L, 0.75L}, QorPi},
+      {"von-mises", 9.5L, 0, {1.5L, 0.5L, 0.75L}, QorPi},
+      {"von-mises", 0.75L, 0, {1.5L, 0.5L, 0.75L}, std::acos(1 - 1 / 0.75L)},
+      // Draws above the sum of all probabilities: the mode, or another draw.
+      {"binomial-1", 10, 0.5L, {2}, 5},
+      {"binomial-1", 2e9L, 0.5L, {2}, 1e9L},
+      {"binomial-2", 1, 0.25L, {2, 0.5L}, 0},
+      {"poisson", 0.5L, 0, {2, 0.5L}, 0},
+      // 1 - p rounds to 1, but n p is 1.
+      {"binomial-2", many, 1 / many, {0.36L}, 0},
+      {"binomial-2", many, 1 / many, {0.37L}, 1},
+      {"binomial-2", many, 1 / many, {0.73L}, 1},
+      {"binomial-2", many, 1 / many, {0.74L}, 2},
+      {"negative-binomial", many, 1 / many, {0.36L}, 0},
+      {"negative-binomial", many, 1 / many, {0.37L}, 1},
+      {"negative-binomial", many, 1 / many, {0.73L}, 1},
+      {"negative-binomial", many, 1 / many, {0.74L}, 2},
   };
-  using S = UniformSource;
-  EXPECT_EQ(draw([](S s) { return Random_Exponential(s); }, {5e-324L, 0.5L}), std::log(2.0L));
-  EXPECT_EQ(draw([](S s) { return Random_Beta(1, 1, s); }, {1e-330L, 0.5L, 0.5L, 0.5L}), 0.5L);
-  EXPECT_EQ(draw([](S s) { return Random_Gamma(5e-324L, s); }, {0.5L}), 0);
-  EXPECT_EQ(draw([](S s) { return Random_Neg_Binomial(1, 0.5L, s); }, {0.5L}), 1);
-  EXPECT_EQ(draw([](S s) { return Random_Neg_Binomial(2, 0.7L, s); }, {0.05L}), 0);
-  EXPECT_EQ(draw([](S s) { return Random_Binomial1(1, 0.5L, s); }, {0.5L}), 0);
-  EXPECT_EQ(draw([](S s) { return Random_Binomial1(5, 1 - 0x1p-64L, s); }, {0.5L}), 5);
-  EXPECT_EQ(draw([](S s) { return Random_Binomial2(1, 0.5L, s); }, {0.5L}), 1);
-  EXPECT_EQ(draw([](S s) { return Random_Binomial2(60, 0.5L, s); }, {0, 0.5L}), 27)
-      << "the regions serve from n p = 30 on";
-  EXPECT_EQ(draw([](S s) { return Random_Poisson(0.5L, s); }, {std::exp(-0.5L)}), 0);
-  EXPECT_GT(draw([](S s) { return Random_von_Mises(0.25L, s); }, {0.5L, 0.75L, 0.5L}), 0);
-}
-
-// Where 2k is whole, the last interval has no width; a draw beyond all weights must not divide by
-// its weight.
-TEST(Streams, VonMisesTakesTheLastIntervalForARemainder) {
-  for (const Extended k : {1.0L, 9.5L}) {
-    ScriptedSource source({1.5L, 0.5L, 0.75L});
-    EXPECT_EQ(Random_von_Mises(k, source), QorPi);
+  for (const auto& [variate, a, b, script, value] : cases) {
+    SCOPED_TRACE(::testing::Message() << variate << ' ' << a << ' ' << b);
+    ScriptedSource source(script);
+    EXPECT_EQ(testing::Variates().at(variate)(a, b, source), value);
+    EXPECT_EQ(source.left(), 0U);
   }
-  ScriptedSource source({1.5L, 0.5L, 0.75L});
-  EXPECT_EQ(Random_von_Mises(0.75L, source), std::acos(1 - 1 / 0.75L)) << "the end of the first";
-}
-
-// One sum of probabilities stays below the draw: the mode, not an endless search.
-TEST(Streams, BinomialInversionGivesTheModeForARemainder) {
-  ScriptedSource source({2, 2});
-  EXPECT_EQ(Random_Binomial1(10, 0.5L, source), 5);
-  EXPECT_EQ(Random_Binomial1(2'000'000'000, 0.5L, source), 1'000'000'000);
-}
-
-TEST(Streams, SumsOfProbabilitiesThatRoundingLeftShortDrawAgain) {
-  ScriptedSource source({2, 0.5L, 2, 0.5L});
-  EXPECT_EQ(Random_Binomial2(1, 0.25L, source), 0);
-  EXPECT_EQ(Random_Poisson(0.5L, source), 0);
-  ScriptedSource short_sum({1});
-  EXPECT_GT(Random_Neg_Binomial(2, 0.5L, short_sum), 50);
-}
-
-// 1 - p rounds to 1, and p n is 1.
-TEST(Streams, TinyProbabilitiesCountWhereTheTrialsAreMany) {
-  constexpr Extended p = 0x1p-62L;
-  constexpr auto n = std::int64_t{1} << 62;
-  for (const auto& [u, successes] : {std::pair{0.36L, 0}, {0.37L, 1}, {0.73L, 1}, {0.74L, 2}}) {
-    ScriptedSource source({u, u});
-    EXPECT_EQ(Random_Binomial2(n, p, source), successes);
-    EXPECT_EQ(Random_Neg_Binomial(static_cast<Extended>(n), p, source), successes);
-  }
+  EXPECT_GT(Random_von_Mises(0.25L, ScriptedSource({0.5L, 0.75L, 0.5L})), 0);
+  EXPECT_GT(Random_Neg_Binomial(2, 0.5L, ScriptedSource({1})), 50);
 }
 
 TEST(Streams, MultivariateNormalAddsTheFactoredVariates) {
@@ -199,6 +150,7 @@ TEST(Streams, MultivariateNormalAddsTheFactoredVariates) {
   EXPECT_EQ(source.left(), 0U);
 }
 
+// SetRandSeed comes with the header of the unit.
 TEST(Streams, ShortFormsDrawFromTheRuntime) {
   TQorFloatVector factor;
   TQorFloatVector variate;
@@ -233,6 +185,32 @@ TEST(Streams, ShortFormsDrawFromTheRuntime) {
 #undef EXPECT_SAME_STREAM
 }
 
+TEST(Fillers, DrawWhatSingleCallsDraw) {
+  const auto expect_same = [](auto fill, auto draw) {
+    std::mt19937_64 first(7);
+    std::mt19937_64 second(7);
+    const auto source_of = [](std::mt19937_64& engine) {
+      return [&engine] { return static_cast<Extended>(engine()) * 0x1p-64L; };
+    };
+    auto source = source_of(first);
+    auto other = source_of(second);
+    auto filled = TQorFloatVector::WithLength(100);
+    fill(std::span(filled.begin(), filled.end()), source);
+    for (const Extended x : filled) EXPECT_EQ(x, draw(other));
+    EXPECT_EQ(first, second);
+  };
+  expect_same([](auto range, auto& s) { FillUniform(range, s); }, [](auto& s) { return s(); });
+  expect_same([](auto range, auto& s) { FillNormal(range, s); },
+              [](auto& s) { return Random_Normal(s); });
+  expect_same([](auto range, auto& s) { FillNormal(range, 3, -2, s); },
+              [](auto& s) { return Random_Normal(3, -2, s); });
+  expect_same([](auto range, auto& s) { FillExponential(range, s); },
+              [](auto& s) { return Random_Exponential(s); });
+  for (const Extended shape : {0.001L, 0.3L, 1.0L, 1.5L, 70.0L})
+    expect_same([=](auto range, auto& s) { FillGamma(range, shape, s); },
+                [=](auto& s) { return Random_Gamma(shape, s); });
+}
+
 Extended ExtendedHalf() {
   return 0.5L;
 }
@@ -240,7 +218,7 @@ double DoubleQuarter() {
   return 0.25;
 }
 
-TEST(UniformSource, TakesWhateverReturnsAFloatingValue) {
+TEST(UniformSource, TakesAnyCallableThatReturnsAFloatingValue) {
   struct Counter {
     float operator()() { return static_cast<float>(++calls) / 4; }
     int calls = 0;
@@ -259,11 +237,12 @@ TEST(UniformSource, TakesWhateverReturnsAFloatingValue) {
   EXPECT_EQ(draw(constant), 0.125L);
   EXPECT_EQ(draw([] { return 0.75; }), 0.75L);
   EXPECT_EQ(draw(counter), 0.25L);
-  EXPECT_EQ(draw(counter), 0.5L) << "the callable is referred to, not copied";
+  EXPECT_EQ(draw(counter), 0.5L) << "the callable is not copied";
 
   static_assert(std::is_nothrow_convertible_v<TQorRandomFunc, UniformSource>);
   static_assert(!std::is_convertible_v<std::nullptr_t, UniformSource>);
-  static_assert(!std::is_convertible_v<int (*)(), UniformSource>, "no integers of an engine");
+  static_assert(!std::is_convertible_v<int (*)(), UniformSource>,
+                "integers of an engine are not uniform values");
   static_assert(!std::is_convertible_v<Extended, UniformSource>);
 }
 

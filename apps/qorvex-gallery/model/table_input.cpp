@@ -29,15 +29,12 @@ apps::TextInput OpenFile(const QString& path) {
           }};
 }
 
-apps::TextInput Observed(apps::TextInput input, std::stop_token stop,
-                         std::function<void(qint64 bytes)> progress) {
-  return {input.name,
-          [read = std::move(input.read), stop = std::move(stop), progress = std::move(progress),
-           total = qint64{0}](char* buffer, std::size_t size) mutable {
-            if (stop.stop_requested()) throw ReadingStopped();
+apps::TextInput Observed(apps::TextInput input, std::function<bool(std::size_t bytes)> proceed) {
+  return {input.name, [read = std::move(input.read), proceed = std::move(proceed),
+                       total = std::size_t{0}](char* buffer, std::size_t size) mutable {
+            if (!proceed(total)) throw ReadingStopped();
             const std::size_t count = read(buffer, size);
-            total += static_cast<qint64>(count);
-            progress(total);
+            total += count;
             return count;
           }};
 }

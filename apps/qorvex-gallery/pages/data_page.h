@@ -1,35 +1,30 @@
 #pragma once
 
 /// @file
-/// DataPage, where a column of numbers is read, edited and described.
+/// DataPage, which reads, edits and describes a column of numbers.
 
 #include <QWidget>
-#include <thread>
 
 #include "apps/qorvex-gallery/model/data_table.h"
-#include "qorvex/components/QorvexDescStats.h"
 #include "qorvex/controls/labelled_vector_edit.h"
 
-class QCheckBox;
 class QComboBox;
 class QLabel;
-class QProgressBar;
-class QSpinBox;
 
 namespace qorvex::gallery {
 
-class FigureTable;
+class ColumnReport;
 class MessageBar;
-class PlotView;
+class TableLoader;
 class TallEditor;
 
-/// Shows a column of a table in an editor, its descriptive statistics, and its histogram with the
-/// normal density of the same mean and standard deviation. All of it follows every edit. Begins
-/// with an example. Empty cells are left out of the statistics.
+/// Shows one column of a table in an editor, its descriptive statistics, and its histogram with the
+/// normal density of the same mean and standard deviation. Every edit updates all of these. Empty
+/// cells are left out of the statistics. The page starts with an example.
 ///
-/// Edits stay in the table when another column is chosen, can be saved as CSV, and are not given up
-/// without a question. A large file is read on a thread of its own, while the page shows what it
-/// did before and takes no edits.
+/// Edits are kept when another column is chosen, can be saved as CSV, and are never discarded
+/// without asking. A large file is read in the background; until it has been read, the page keeps
+/// showing the previous table but does not let it be edited.
 class DataPage : public QWidget {
   Q_OBJECT
 
@@ -37,36 +32,34 @@ class DataPage : public QWidget {
   explicit DataPage(QWidget* parent = nullptr);
   ~DataPage() override;
 
-  /// The name of the file, or what the example is.
+  /// The name of the file, or a description of the example.
   [[nodiscard]] const QString& Title() const { return title_; }
-  /// Whether there are changes that have not been saved.
+  /// Whether there are unsaved changes.
   [[nodiscard]] bool IsChanged() const { return table_.IsChanged(); }
-  /// A file is being read on another thread.
-  [[nodiscard]] bool IsReading() const { return !progress_->isHidden(); }
-  /// Whether the table may go: with changes, the user is asked to save or to discard them, and may
-  /// refuse. A reading that is under way stops before the question.
+  /// Whether the table may be replaced or closed. If there are unsaved changes, asks the user, who
+  /// can save them, discard them or cancel; a reading in progress stops before the question.
   [[nodiscard]] bool MayGo();
-  /// Writes the table to a file, as CSV. Says on the page why it cannot, and returns false then.
+  /// Writes the table to a CSV file. If that fails, shows why on the page and returns false.
   bool Save(const QString& file);
 
  public Q_SLOTS:
-  /// Opens a file of delimited text. A reading that is under way stops.
+  /// Opens a file of delimited text. A reading in progress stops.
   void Open(const QString& file);
   /// Asks for a file and opens it.
   void ChooseFile();
   /// Opens the example.
   void OpenExample();
-  /// Asks for a file and writes the table to it. A reading that is under way stops first.
+  /// Asks for a file and writes the table to it. A reading in progress stops first.
   bool SaveAs();
 
  Q_SIGNALS:
-  /// A table has been read, has been refused, or its reading has been cancelled.
+  /// A reading in the background has ended: its table is shown, or it was refused or stopped.
   void ReadingEnded();
-  /// Title or IsChanged may have another value.
+  /// Title or IsChanged may have changed.
   void TitleChanged();
 
  private:
-  // What is to be shown of which file.
+  // A file, and the column of it to show first.
   struct Source {
     QString file;
     QString title;
@@ -74,15 +67,9 @@ class DataPage : public QWidget {
   };
 
   QLayout* MakeHeader();
-  QWidget* MakeProgress();
-  QLayout* MakeReport();
+  QLayout* MakeBody();
   void OpenSource(const Source& source);
-  void ReadOnThread(const Source& source, qint64 size);
-  void StopReading();
-  void CancelReading();
-  void EndReading(const Source& source, DataTable table);
-  void RefuseReading(const QString& why);
-  void SetBusy(bool busy);
+  void ShowTable(const Source& source, DataTable table);
   void ChooseColumn(int index);
   void ShowColumn();
   void CommitTexts();
@@ -97,30 +84,20 @@ class DataPage : public QWidget {
   QString path_;
   QString title_;
   std::size_t column_ = 0;
-  // The numbers of the column as the table has them.
+  // The numbers of the column as they are in the table.
   TQorFloatVector stored_;
-  TQorDescStats stats_;
   bool refresh_is_due_ = false;
-  // The message of a text that was no number. It outlives the action for which the text was left.
+  // The message about a text that is not a number. The action that took the focus from the text
+  // does not clear it.
   QString refusal_;
 
   QLabel* file_;
   QComboBox* columns_;
   MessageBar* message_;
-  QWidget* progress_;
-  QProgressBar* progress_bar_;
+  TableLoader* loader_;
   TQorLabelledVectorEdit* editor_;
   TallEditor* tall_editor_;
-  QSpinBox* decimals_;
-  QCheckBox* population_;
-  FigureTable* report_;
-  QLabel* remark_;
-  PlotView* plot_;
-
-  // Messages of earlier readings may still be under way.
-  int reading_number_ = 0;
-  // Last, so that it ends before what it tells its results to.
-  std::jthread reader_;
+  ColumnReport* report_;
 };
 
 }  // namespace qorvex::gallery

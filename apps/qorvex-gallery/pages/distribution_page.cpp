@@ -9,9 +9,10 @@
 #include <exception>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
-#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 #include "qorvex/base_controls/float_edit.h"
@@ -20,12 +21,12 @@ namespace qorvex::gallery {
 
 namespace {
 
-// Beyond these, stems would merge into an area.
+// With more counts, the stems would merge into an area.
 constexpr std::size_t kMostStems = 150;
 
 using Points = std::vector<QPointF>;
 
-// The points whose first coordinate is in the range.
+// The points whose x is in the range.
 Points Within(const Points& curve, Extended from, Extended to) {
   Points part;
   std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
@@ -45,13 +46,12 @@ DistributionPage::DistributionPage(QWidget* parent)
       first_(MakeNumberCell(1, tr("Point"), this)),
       second_label_(new QLabel),
       second_(MakeNumberCell(2, tr("Upper end of the interval"), this)),
-      points_message_(new MessageLabel),
       side_(new QComboBox),
       probability_(MakeNumberCell(0.975L, tr("Probability"), this)),
       quantile_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
-      quantile_message_(new MessageLabel),
       plot_(new PlotView),
-      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})) {
+      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      message_(new MessageBar) {
   setObjectName(QStringLiteral("distributionPage"));
   family_->setObjectName(QStringLiteral("family"));
   family_->setAccessibleName(tr("Family of distributions"));
@@ -65,8 +65,8 @@ DistributionPage::DistributionPage(QWidget* parent)
   plot_->setObjectName(QStringLiteral("plot"));
   figures_->setObjectName(QStringLiteral("figures"));
 
-  for (const apps::Distribution& distribution : apps::Distributions())
-    family_->addItem(Title(QString::fromUtf8(distribution.name)));
+  for (const apps::Family& family : apps::Families())
+    family_->addItem(Title(QString::fromUtf8(family.name)));
   question_->addItems({tr("Both sides of a point"), tr("Inside and outside an interval")});
   side_->addItems({tr("At most the quantile"), tr("More than the quantile")});
   summary_->setWordWrap(true);
@@ -86,19 +86,18 @@ DistributionPage::DistributionPage(QWidget* parent)
     ends->addWidget(cell, 1);
   }
   probabilities->addLayout(ends);
-  probabilities->addWidget(points_message_);
   QVBoxLayout* const quantile = panel->AddGroup(tr("Quantile"));
   auto* const asked = new QHBoxLayout;
   asked->addWidget(side_);
   asked->addWidget(probability_, 1);
   quantile->addLayout(asked);
   quantile->addWidget(quantile_);
-  quantile->addWidget(quantile_message_);
   panel->Finish();
 
   auto* const right = new QVBoxLayout;
   right->addWidget(plot_, 1);
   right->addWidget(figures_);
+  right->addWidget(message_);
 
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
@@ -115,142 +114,136 @@ DistributionPage::DistributionPage(QWidget* parent)
 
 DistributionPage::~DistributionPage() = default;
 
-const apps::Distribution& DistributionPage::Family() const {
-  return apps::Distributions()[static_cast<std::size_t>(std::max(family_->currentIndex(), 0))];
+const apps::Family& DistributionPage::Family() const {
+  return apps::Families()[static_cast<std::size_t>(std::max(family_->currentIndex(), 0))];
 }
 
-bool DistributionPage::Interval() const {
+bool DistributionPage::IsInterval() const {
   return question_->currentIndex() == 1;
 }
 
 void DistributionPage::ShowFamily() {
   summary_->setText(tr(Family().summary));
   parameters_->SetParameters(Family().parameters);
-  // Points that are in sight, whatever the family.
-  if (const auto parameters = parameters_->Numbers()) {
-    const apps::DistributionRoutine quantile = Family().full_precision.quantile;
-    const auto point = [&](Extended p) {
-      const Extended exact = FigureAt(quantile, *parameters, p);
-      return Family().is_discrete ? exact : std::round(exact * 100) / 100;
-    };
-    first_->setValue(point(0.2L));
-    second_->setValue(point(0.9L));
-  }
+  // Points that the diagram shows, whatever the family.
+  const auto distribution = Family().make(parameters_->Numbers());
+  const auto point = [&](Extended p) {
+    const Extended exact = distribution->Quantile(Tail::kLower, p);
+    return Family().is_discrete ? exact : std::round(exact * 100) / 100;
+  };
+  first_->setValue(point(0.2L));
+  second_->setValue(point(0.9L));
   Update();
 }
 
 void DistributionPage::Update() {
-  second_->setVisible(Interval());
-  second_label_->setVisible(Interval());
+  second_->setVisible(IsInterval());
+  second_label_->setVisible(IsInterval());
   const QString variable = Family().is_discrete ? QStringLiteral("k") : QStringLiteral("x");
-  first_label_->setText(Interval() ? QStringLiteral("a") : variable);
+  first_label_->setText(IsInterval() ? QStringLiteral("a") : variable);
   second_label_->setText(QStringLiteral("b"));
-  const auto parameters = parameters_->Numbers();
-  if (!parameters) return;
-  if (const auto inconsistency = Family().inconsistency) {
-    if (const char* const what = inconsistency(*parameters)) {
-      parameters_->ShowInconsistency(what);
-      return;
-    }
+  const std::vector<Extended> parameters = parameters_->Numbers();
+  const QString wrong = WhatIsWrong(parameters);
+  if (!wrong.isEmpty()) return message_->SetText(wrong);
+  try {
+    const auto distribution = Family().make(parameters);
+    QStringList messages = {UpdatePoints(*distribution), UpdateQuantile(*distribution)};
+    messages.removeAll(QString());
+    message_->SetText(messages.join(QStringLiteral("; ")));
+  } catch (const std::exception& error) {
+    message_->SetText(QString::fromUtf8(error.what()));
   }
-  UpdatePoints(*parameters);
-  UpdateQuantile(*parameters);
 }
 
-void DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
+QString DistributionPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
+  const QString wrong = parameters_->WhatIsWrong();
+  if (!wrong.isEmpty() || Family().inconsistency == nullptr) return wrong;
+  const char* const what = Family().inconsistency(parameters);
+  return what == nullptr ? QString() : parameters_->Labelled(what);
+}
+
+QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution) {
   std::vector<Extended> points = {first_->Value()};
-  if (Interval()) points.push_back(second_->Value());
+  if (IsInterval()) points.push_back(second_->Value());
   const apps::NumberKind kind =
       Family().is_discrete ? apps::NumberKind::kCount : apps::NumberKind::kReal;
-  points_message_->Say({});
-  for (const Extended point : points) {
-    const char* const wrong = apps::WhatIsWrong(point, kind);
-    if (wrong == nullptr) continue;
-    points_message_->Say(ExactText(point) + ' ' + tr(wrong));
-    return;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    if (const char* const wrong = apps::WhatIsWrong(points[i], kind)) {
+      return tr("%1: %2 %3")
+          .arg((i == 0 ? first_label_ : second_label_)->text(), ExactText(points[i]), tr(wrong));
+    }
   }
   std::sort(points.begin(), points.end());
-  const apps::FullPrecisionRoutines& routines = Family().full_precision;
-  const auto figure = [&](apps::DistributionRoutine routine, Extended point) {
-    return ExactText(FigureAt(routine, parameters, point));
-  };
   try {
+    const Tails tails = distribution.At(points.front());
     QList<QStringList> figures;
     const Extended a = points.front();
-    if (Interval()) {
-      std::vector<Extended> arguments = parameters;
-      arguments.insert(arguments.end(), points.begin(), points.end());
+    if (IsInterval()) {
+      const Extended b = points.back();
       // At least a count is more than the one before it.
-      const bool is_count = Family().is_discrete;
-      const Extended below_b = points.back() - (is_count ? 1 : 0);
-      const bool all = is_count && points.back() == 0;
-      figures = {{tr("P(a < X < b)"), ExactText(apps::ProbabilityBetween(Family(), arguments))},
-                 {tr("P(X ≤ a)"), figure(routines.lower, a)},
-                 {tr("P(X ≥ b)"), all ? ExactText(1) : figure(routines.upper, below_b)},
-                 {tr("ln P(X ≤ a)"), figure(routines.log_lower, a)},
-                 {tr("ln P(X ≥ b)"), all ? ExactText(0) : figure(routines.log_upper, below_b)}};
-    } else if (Family().is_discrete) {
-      figures = {{tr("P(X = k)"), figure(routines.density, a)},
-                 {tr("P(X ≤ k)"), figure(routines.lower, a)},
-                 {tr("P(X > k)"), figure(routines.upper, a)},
-                 {tr("ln P(X ≤ k)"), figure(routines.log_lower, a)},
-                 {tr("ln P(X > k)"), figure(routines.log_upper, a)}};
+      const Tails at_b = distribution.At(Family().is_discrete ? b - 1 : b);
+      figures = {{tr("P(a < X < b)"), ExactText(distribution.ProbabilityBetween(a, b))},
+                 {tr("P(X ≤ a)"), ExactText(tails.Probability(Tail::kLower))},
+                 {tr("P(X ≥ b)"), ExactText(at_b.Probability(Tail::kUpper))},
+                 {tr("ln P(X ≤ a)"), ExactText(tails.LogProbability(Tail::kLower))},
+                 {tr("ln P(X ≥ b)"), ExactText(at_b.LogProbability(Tail::kUpper))}};
     } else {
-      figures = {{tr("Density at x"), figure(routines.density, a)},
-                 {tr("P(X ≤ x)"), figure(routines.lower, a)},
-                 {tr("P(X > x)"), figure(routines.upper, a)},
-                 {tr("ln P(X ≤ x)"), figure(routines.log_lower, a)},
-                 {tr("ln P(X > x)"), figure(routines.log_upper, a)}};
+      const bool is_count = Family().is_discrete;
+      figures = {
+          {is_count ? tr("P(X = k)") : tr("Density at x"), ExactText(distribution.Pdf(a))},
+          {is_count ? tr("P(X ≤ k)") : tr("P(X ≤ x)"), ExactText(tails.Probability(Tail::kLower))},
+          {is_count ? tr("P(X > k)") : tr("P(X > x)"), ExactText(tails.Probability(Tail::kUpper))},
+          {is_count ? tr("ln P(X ≤ k)") : tr("ln P(X ≤ x)"),
+           ExactText(tails.LogProbability(Tail::kLower))},
+          {is_count ? tr("ln P(X > k)") : tr("ln P(X > x)"),
+           ExactText(tails.LogProbability(Tail::kUpper))}};
     }
-    Draw(parameters, points);
+    Draw(distribution, points);
     figures_->SetRows(figures);
   } catch (const std::exception& error) {
-    points_message_->Say(QString::fromUtf8(error.what()));
+    return QString::fromUtf8(error.what());
   }
+  return {};
 }
 
-void DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters) {
+QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distribution) {
   const Extended probability = probability_->Value();
-  quantile_message_->Say({});
-  if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability)) {
-    quantile_message_->Say(ExactText(probability) + ' ' + tr(wrong));
-    return;
-  }
-  const apps::FullPrecisionRoutines& routines = Family().full_precision;
+  if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability))
+    return tr("Probability: %1 %2").arg(ExactText(probability), tr(wrong));
   try {
-    const apps::DistributionRoutine routine =
-        side_->currentIndex() == 0 ? routines.quantile : routines.upper_quantile;
-    quantile_->SetRows({{tr("Quantile"), ExactText(FigureAt(routine, parameters, probability))}});
+    const Tail tail = side_->currentIndex() == 0 ? Tail::kLower : Tail::kUpper;
+    quantile_->SetRows({{tr("Quantile"), ExactText(distribution.Quantile(tail, probability))}});
   } catch (const std::exception& error) {
-    quantile_message_->Say(QString::fromUtf8(error.what()));
+    return QString::fromUtf8(error.what());
   }
+  return {};
 }
 
-void DistributionPage::Draw(const std::vector<Extended>& parameters,
+void DistributionPage::Draw(const apps::AnyDistribution& distribution,
                             const std::vector<Extended>& points) {
-  Range range = MiddleOf(Family(), parameters);
-  // Points just outside stay in sight; beyond, the curve is flat.
-  const Extended margin = range.to - range.from;
+  Interval<Extended> range = MiddleOf(distribution);
+  // The range extends to points just outside; further out, the curve is flat.
+  const Extended margin = range.greatest - range.least;
   const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
-  if (*least < range.from && *least >= range.from - margin) range.from = *least;
-  if (*greatest > range.to && *greatest <= range.to + margin) range.to = *greatest;
+  if (*least < range.least && *least >= range.least - margin) range.least = *least;
+  if (*greatest > range.greatest && *greatest <= range.greatest + margin)
+    range.greatest = *greatest;
   std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
-  // The areas end where they are asked to.
+  // The areas end exactly at these points.
   for (const Extended point : points) {
-    if (Family().is_discrete || !(point > range.from) || !(point < range.to)) continue;
+    if (Family().is_discrete || !(point > range.least) || !(point < range.greatest)) continue;
     places.insert(std::upper_bound(places.begin(), places.end(), point), point);
   }
-  const Points curve = DensityAt(
-      [&](Extended x) { return FigureAt(Family().full_precision.density, parameters, x); }, places);
+  const Points curve = DensityAt([&](Extended x) { return distribution.Pdf(x); }, places);
   const bool stems = Family().is_discrete && curve.size() <= kMostStems;
   const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
   const Extended infinity = HUGE_VALL;
-  // A count at the point belongs to the side that includes it; an area has no such end.
+  // A count belongs to the side that includes it; for areas, the end makes no difference.
   const double gap = Family().is_discrete ? 0.5 : 0;
   const auto a = static_cast<double>(points.front());
   const auto b = static_cast<double>(points.back());
   std::vector<PlotLayer> layers;
-  if (Interval()) {
+  if (IsInterval()) {
     layers.push_back({shape, PlotRole::kData, tr("P(a < X < b)"), Within(curve, a + gap, b - gap)});
     layers.push_back({shape, PlotRole::kTail, tr("Outside"), Within(curve, -infinity, a)});
     layers.push_back({shape, PlotRole::kTail, {}, Within(curve, b, infinity)});

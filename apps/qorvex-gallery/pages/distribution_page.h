@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// DistributionPage, probabilities, densities and quantiles.
+/// DistributionPage, probabilities, densities and quantiles of distributions.
 
 #include <QWidget>
 #include <vector>
@@ -20,13 +20,13 @@ class TQorFloatEdit;
 namespace qorvex::gallery {
 
 class FigureTable;
-class MessageLabel;
+class MessageBar;
 class ParameterForm;
 class PlotView;
 
-/// A family of distributions with its parameters, a point or an interval with the probabilities on
-/// its sides, drawn and with all digits, and a quantile. What is refused is said beside it; the
-/// diagram and the figures stay those of the last numbers that were fine.
+/// A family of distributions with its parameters, the probabilities on both sides of a point or of
+/// an interval, as a diagram and with all digits, and a quantile. When numbers are refused, the
+/// message bar says why, and the diagram and the figures stay those of the last valid numbers.
 class DistributionPage : public QWidget {
   Q_OBJECT
 
@@ -37,11 +37,13 @@ class DistributionPage : public QWidget {
  private:
   void ShowFamily();
   void Update();
-  void UpdatePoints(const std::vector<Extended>& parameters);
-  void UpdateQuantile(const std::vector<Extended>& parameters);
-  void Draw(const std::vector<Extended>& parameters, const std::vector<Extended>& points);
-  [[nodiscard]] const apps::Distribution& Family() const;
-  [[nodiscard]] bool Interval() const;
+  // These return what is wrong, or an empty text.
+  [[nodiscard]] QString UpdatePoints(const apps::AnyDistribution& distribution);
+  [[nodiscard]] QString UpdateQuantile(const apps::AnyDistribution& distribution);
+  [[nodiscard]] QString WhatIsWrong(const std::vector<Extended>& parameters) const;
+  void Draw(const apps::AnyDistribution& distribution, const std::vector<Extended>& points);
+  [[nodiscard]] const apps::Family& Family() const;
+  [[nodiscard]] bool IsInterval() const;
 
   QComboBox* family_;
   QLabel* summary_;
@@ -51,13 +53,12 @@ class DistributionPage : public QWidget {
   TQorFloatEdit* first_;
   QLabel* second_label_;
   TQorFloatEdit* second_;
-  MessageLabel* points_message_;
   QComboBox* side_;
   TQorFloatEdit* probability_;
   FigureTable* quantile_;
-  MessageLabel* quantile_message_;
   PlotView* plot_;
   FigureTable* figures_;
+  MessageBar* message_;
 };
 
 }  // namespace qorvex::gallery

@@ -10,22 +10,20 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRandomGenerator>
-#include <QSaveFile>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <stdexcept>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/model/variate_theory.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
-#include "apps/qorvex-gallery/widgets/message_label.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
@@ -33,30 +31,8 @@ namespace qorvex::gallery {
 namespace {
 
 constexpr int kMostValues = 10'000'000;
-// More would fill the memory of whatever they are pasted into.
+// More values could exhaust the memory of the program that they are pasted into.
 constexpr std::size_t kMostCopied = 1'000'000;
-
-QString TextOrDash(std::optional<Extended> figure) {
-  return figure ? ExactText(*figure) : QStringLiteral("—");
-}
-
-void WriteValues(const TQorFloatVector& values, const QString& path, BackgroundTask& task) {
-  QSaveFile file(path);
-  const auto check = [&file](bool success) {
-    if (!success) throw std::runtime_error(file.errorString().toStdString());
-  };
-  check(file.open(QIODevice::WriteOnly));
-  std::string block;
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    block += Float2Str(values[i]) + '\n';
-    if (block.size() < std::size_t{1} << 16) continue;
-    if (!task.Proceed(i, values.size())) return;
-    check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
-    block.clear();
-  }
-  check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
-  check(file.commit());
-}
 
 }  // namespace
 
@@ -67,7 +43,7 @@ RandomPage::RandomPage(QWidget* parent)
       parameters_(new ParameterForm),
       size_(new QSpinBox),
       seed_(MakeNumberCell(1, tr("Seed"), this)),
-      message_(new MessageLabel),
+      message_(new MessageBar),
       generate_(new QPushButton(tr("&Generate"))),
       cancel_(new QPushButton(tr("Cancel"))),
       progress_(new QProgressBar),
@@ -76,7 +52,7 @@ RandomPage::RandomPage(QWidget* parent)
       plot_(new PlotView),
       title_(MakeHeading({})),
       moments_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
-      task_(this) {
+      work_(this) {
   setObjectName(QStringLiteral("randomPage"));
   variate_->setObjectName(QStringLiteral("variate"));
   variate_->setAccessibleName(tr("Variate"));
@@ -85,9 +61,8 @@ RandomPage::RandomPage(QWidget* parent)
   generate_->setObjectName(QStringLiteral("generate"));
   cancel_->setObjectName(QStringLiteral("cancel"));
   moments_->setObjectName(QStringLiteral("moments"));
-  message_->setObjectName(QStringLiteral("message"));
 
-  // Vectors of variates have no histogram.
+  // Only single numbers have a histogram.
   for (const apps::Variate& variate : apps::Variates()) {
     if (std::any_of(variate.parameters.begin(), variate.parameters.end(),
                     [](const auto& p) { return p.kind == apps::NumberKind::kReals; })) {
@@ -115,7 +90,7 @@ RandomPage::RandomPage(QWidget* parent)
   form->addRow(tr("Values"), size_);
   auto* const seed_line = new QHBoxLayout;
   auto* const new_seed = new QPushButton(tr("&New"));
-  new_seed->setToolTip(tr("Takes another seed by chance"));
+  new_seed->setToolTip(tr("Take a random seed and generate"));
   seed_line->addWidget(seed_, 1);
   seed_line->addWidget(new_seed);
   form->addRow(tr("Seed"), seed_line);
@@ -125,7 +100,6 @@ RandomPage::RandomPage(QWidget* parent)
   buttons->addWidget(cancel_, 1);
   how->addLayout(buttons);
   how->addWidget(progress_);
-  how->addWidget(message_);
   panel->Finish();
 
   auto* const buttons_of_values = new QVBoxLayout;
@@ -138,34 +112,27 @@ RandomPage::RandomPage(QWidget* parent)
   right->addWidget(title_);
   right->addWidget(plot_, 1);
   right->addLayout(below);
+  right->addWidget(message_);
   auto* const layout = new QHBoxLayout(this);
   layout->addWidget(panel);
   layout->addLayout(right, 1);
 
   connect(variate_, &QComboBox::currentIndexChanged, this, &RandomPage::ShowVariate);
-  connect(parameters_, &ParameterForm::Changed, this, [this] { (void)parameters_->Numbers(); });
+  connect(parameters_, &ParameterForm::Changed, this,
+          [this] { message_->SetText(parameters_->WhatIsWrong()); });
   connect(new_seed, &QPushButton::clicked, this, [this] {
     seed_->setValue(static_cast<Extended>(QRandomGenerator::system()->generate64() >> 32));
     Generate();
   });
   connect(generate_, &QPushButton::clicked, this, &RandomPage::Generate);
-  connect(cancel_, &QPushButton::clicked, this, [this] { task_.Cancel(); });
-  connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
-  connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
-  connect(&task_, &BackgroundTask::Progressed, progress_, &QProgressBar::setValue);
-  connect(&task_, &BackgroundTask::Finished, this, [this](const QString& error, bool cancelled) {
-    message_->Say(cancelled ? tr("Cancelled") : QString());
-    const std::shared_ptr<RandomSample> result = std::move(result_);
-    if (!error.isEmpty() && !saved_path_.isEmpty()) {
-      message_->Say(tr("%1: %2").arg(saved_path_, error));
-    } else if (!error.isEmpty()) {
-      parameters_->ShowInconsistency(error.toStdString());
-    } else if (!cancelled && result != nullptr) {
-      sample_ = result;
-      ShowSample();
-    }
+  connect(cancel_, &QPushButton::clicked, this, [this] {
+    work_.Stop();
+    message_->SetText(tr("Cancelled"));
     ShowRunning();
   });
+  connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
+  connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
+  connect(&work_, &BackgroundWork::Progressed, progress_, &QProgressBar::setValue);
   ShowVariate();
   ShowRunning();
 }
@@ -186,36 +153,42 @@ void RandomPage::ShowVariate() {
   parameters_->SetParameters(Chosen().parameters);
 }
 
+QString RandomPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
+  const QString wrong = parameters_->WhatIsWrong();
+  if (!wrong.isEmpty()) return wrong;
+  if (const char* const what = apps::WhatIsWrong(seed_->Value(), apps::NumberKind::kUint64))
+    return tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(what));
+  const auto inconsistency = Chosen().methods.front().inconsistency;
+  if (inconsistency == nullptr) return {};
+  apps::VariateArguments arguments;
+  for (const Extended parameter : parameters) arguments.Append({parameter});
+  return parameters_->Labelled(inconsistency(arguments));
+}
+
 void RandomPage::Generate() {
-  const auto parameters = parameters_->Numbers();
-  if (!parameters || task_.Running()) return;
-  message_->Say({});
-  if (const char* const wrong = apps::WhatIsWrong(seed_->Value(), apps::NumberKind::kUint64)) {
-    message_->Say(tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(wrong)));
-    return;
-  }
-  if (const auto inconsistency = Chosen().methods.front().inconsistency) {
-    apps::VariateArguments arguments;
-    for (const Extended parameter : *parameters) arguments.Append({parameter});
-    const std::string what = inconsistency(arguments);
-    if (!what.empty()) {
-      parameters_->ShowInconsistency(what);
-      return;
-    }
-  }
-  const SampleOrder order = {&Chosen(), *parameters, static_cast<std::size_t>(size_->value()),
+  if (work_.IsRunning()) return;
+  const std::vector<Extended> parameters = parameters_->Numbers();
+  const QString wrong = WhatIsWrong(parameters);
+  message_->SetText(wrong);
+  if (!wrong.isEmpty()) return;
+  const SampleOrder order = {&Chosen(), parameters, static_cast<std::size_t>(size_->value()),
                              static_cast<std::uint64_t>(seed_->Value())};
-  saved_path_.clear();
-  result_ = std::make_shared<RandomSample>();
-  task_.Start([order, result = result_](BackgroundTask& task) {
-    *result = DrawSample(
-        order, [&task](std::size_t done, std::size_t total) { return task.Proceed(done, total); });
-  });
+  const auto sample = std::make_shared<RandomSample>();
+  work_.Start([order, sample](const Proceed& proceed) { *sample = DrawSample(order, proceed); },
+              [this, sample] {
+                sample_ = sample;
+                ShowSample();
+                ShowRunning();
+              },
+              [this](const QString& why) {
+                message_->SetText(parameters_->Labelled(why.toStdString()));
+                ShowRunning();
+              });
   ShowRunning();
 }
 
 void RandomPage::ShowRunning() {
-  const bool running = task_.Running();
+  const bool running = work_.IsRunning();
   generate_->setEnabled(!running);
   cancel_->setEnabled(running);
   copy_->setEnabled(!running && sample_ != nullptr);
@@ -231,22 +204,23 @@ void RandomPage::ShowSample() {
                       .arg(Title(QString::fromUtf8(order.variate->name)))
                       .arg(order.size)
                       .arg(order.seed));
-  moments_->SetRows({{QString(), tr("Sample"), tr("Distribution")},
-                     {tr("Mean"), ExactText(sample_->mean), TextOrDash(theory.mean)},
-                     {tr("Variance"), ExactText(sample_->variance), TextOrDash(theory.variance)}});
+  moments_->SetRows(
+      {{QString(), tr("Sample"), tr("Distribution")},
+       {tr("Mean"), ExactText(sample_->mean), ExactTextOrDash(theory.mean)},
+       {tr("Variance"), ExactText(sample_->variance), ExactTextOrDash(theory.variance)}});
 
   const QString name =
       sample_->is_cropped ? tr("Sample, without the outermost hundredth") : tr("Sample");
   std::vector<PlotLayer> layers = {{PlotShape::kBars, PlotRole::kData, name, sample_->bars}};
   if (theory.density && !sample_->bars.empty()) try {
-      Range range = {static_cast<Extended>(sample_->bars.front().x()),
-                     static_cast<Extended>(sample_->bars.back().x())};
-      if (theory.is_count) range = {std::ceil(range.from), std::floor(range.to)};
+      Interval<Extended> range = {static_cast<Extended>(sample_->bars.front().x()),
+                                  static_cast<Extended>(sample_->bars.back().x())};
+      if (theory.is_count) range = {std::ceil(range.least), std::floor(range.greatest)};
       const auto curve = DensityAt(theory.density, PlottedPoints(range, theory.is_count));
       layers.push_back({PlotShape::kLine, PlotRole::kModel,
                         theory.is_count ? tr("Probabilities") : tr("Density"), curve});
     } catch (const EMathError&) {
-      // Variates reach further than densities; the sample is shown by itself then.
+      // Some variates lie where the density cannot be computed; the sample is then shown alone.
     }
   plot_->SetAxisTitles(tr("Value"), theory.is_count ? tr("Share") : tr("Density"));
   plot_->SetLayers(std::move(layers));
@@ -254,7 +228,7 @@ void RandomPage::ShowSample() {
 
 void RandomPage::Copy() {
   if (sample_->values.size() > kMostCopied) {
-    message_->Say(tr("More than %L1 values are saved rather than copied").arg(kMostCopied));
+    message_->SetText(tr("More than %L1 values are saved rather than copied").arg(kMostCopied));
     return;
   }
   QString text;
@@ -269,10 +243,14 @@ void RandomPage::AskAndSave() {
 }
 
 void RandomPage::Save(const QString& path) {
-  if (sample_ == nullptr || task_.Running()) return;
-  saved_path_ = path;
-  task_.Start(
-      [sample = sample_, path](BackgroundTask& task) { WriteValues(sample->values, path, task); });
+  if (sample_ == nullptr || work_.IsRunning()) return;
+  work_.Start([sample = sample_,
+               path](const Proceed& proceed) { SaveValues(sample->values, path, proceed); },
+              [this] { ShowRunning(); },
+              [this, path](const QString& why) {
+                message_->SetText(tr("%1: %2").arg(path, why));
+                ShowRunning();
+              });
   ShowRunning();
 }
 

@@ -8,8 +8,8 @@
 #include <memory>
 #include <vector>
 
+#include "apps/qorvex-gallery/model/background_work.h"
 #include "apps/qorvex-gallery/model/random_sample.h"
-#include "apps/qorvex-gallery/widgets/background_task.h"
 
 class QComboBox;
 class QLabel;
@@ -26,13 +26,13 @@ class TQorFloatEdit;
 namespace qorvex::gallery {
 
 class FigureTable;
-class MessageLabel;
+class MessageBar;
 class ParameterForm;
 class PlotView;
 
-/// Draws a sample on another thread and shows its histogram against the density, and its mean and
-/// variance beside those of the distribution. The values can be copied and saved. What is shown
-/// stays until the next sample is there.
+/// Draws a sample in the background and shows its histogram with the density, and its mean and
+/// variance next to those of the distribution. The values can be copied and saved. A sample is
+/// shown until the next one is complete.
 class RandomPage : public QWidget {
   Q_OBJECT
 
@@ -40,15 +40,15 @@ class RandomPage : public QWidget {
   explicit RandomPage(QWidget* parent = nullptr);
   ~RandomPage() override;
 
-  /// Draws a sample of what is chosen, unless something is wrong or under way.
+  /// Draws a sample with the chosen settings, unless they are invalid or work is in progress.
   void Generate();
-  /// The last sample; null before the first one.
+  /// The last sample, or null.
   [[nodiscard]] std::shared_ptr<const RandomSample> Sample() const { return sample_; }
-  /// Writes the values to a file, one a line with all digits, on another thread.
+  /// Writes the values to a file in the background, one per line with all digits.
   void Save(const QString& path);
 
  protected:
-  /// The first time, a sample comes by itself.
+  /// Draws the first sample.
   void showEvent(QShowEvent* event) override;
 
  private:
@@ -58,20 +58,17 @@ class RandomPage : public QWidget {
   void Copy();
   void AskAndSave();
   [[nodiscard]] const apps::Variate& Chosen() const;
+  [[nodiscard]] QString WhatIsWrong(const std::vector<Extended>& parameters) const;
 
   std::vector<const apps::Variate*> variates_;
   std::shared_ptr<const RandomSample> sample_;
-  // What the task makes.
-  std::shared_ptr<RandomSample> result_;
 
   QComboBox* variate_;
   QLabel* summary_;
   ParameterForm* parameters_;
   QSpinBox* size_;
   TQorFloatEdit* seed_;
-  MessageLabel* message_;
-  // What the task writes to; empty while it draws.
-  QString saved_path_;
+  MessageBar* message_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;
@@ -80,8 +77,9 @@ class RandomPage : public QWidget {
   PlotView* plot_;
   QLabel* title_;
   FigureTable* moments_;
-  // Last, so that the work ends before what it uses.
-  BackgroundTask task_;
+  // Declared last: its destructor waits for the thread before the members it reports to are
+  // destroyed.
+  BackgroundWork work_;
 };
 
 }  // namespace qorvex::gallery

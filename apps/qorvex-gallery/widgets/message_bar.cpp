@@ -20,7 +20,7 @@ MessageBar::MessageBar(QWidget* parent) : QFrame(parent), text_(new QLineEdit) {
 
   text_->setReadOnly(true);
   text_->setFrame(false);
-  // Other colours follow the application's.
+  // All other colours follow the application.
   QPalette palette;
   palette.setColor(QPalette::Base, Qt::transparent);
   text_->setPalette(palette);
@@ -60,7 +60,7 @@ QString MessageBar::Text() const {
   return isHidden() ? QString() : text_->text();
 }
 
-// An amber that lets the text of light and dark themes stay readable.
+// Amber, on which text is readable in light and dark themes.
 void MessageBar::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);

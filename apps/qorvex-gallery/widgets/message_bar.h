@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// MessageBar, where a page tells what went wrong.
+/// MessageBar, the place on a page for error messages.
 
 #include <QFrame>
 #include <QString>
@@ -10,14 +10,14 @@ class QLineEdit;
 
 namespace qorvex::gallery {
 
-/// A line of text on the page that it concerns, which stays until it is closed, replaced or
-/// cleared. It keeps its room while it is hidden, so that nothing moves when it comes and goes; a
-/// text that is too long for it can be scrolled, selected, and read in the tool tip.
+/// One line of text that stays on its page until it is closed, replaced or cleared. The bar keeps
+/// its space while it is hidden, so nothing moves when it appears. A text that is too long for the
+/// bar can be scrolled and selected, and its tool tip shows more of it.
 class MessageBar : public QFrame {
   Q_OBJECT
 
  public:
-  /// Hidden.
+  /// Hidden until it has a text.
   explicit MessageBar(QWidget* parent = nullptr);
   ~MessageBar() override;
 

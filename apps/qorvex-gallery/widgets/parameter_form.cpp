@@ -1,53 +1,25 @@
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 
 #include <QLabel>
-#include <QLocale>
 #include <QVBoxLayout>
 
-#include "apps/qorvex-gallery/widgets/message_label.h"
-#include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
-// Numbers to start from where the parameter has none of its own, chosen for a curve that shows
-// something.
-Extended StartNumber(const apps::NumberParameter& parameter) {
-  if (parameter.standard) return *parameter.standard;
-  static constexpr struct {
-    std::string_view option;
-    Extended number;
-  } kStarts[] = {{"--pop-size", 100},  {"--successes", 30}, {"--trials", 20},
-                 {"--b", 5},           {"--lambda", 4},     {"--success-probability", 0.3L},
-                 {"--sample-size", 20}};
-  for (const auto& start : kStarts) {
-    if (start.option == parameter.option) return start.number;
-  }
-  return parameter.kind >= apps::NumberKind::kSteps ||
-                 parameter.kind == apps::NumberKind::kDegreesOfFreedom
-             ? 5
-             : 2;
-}
-
-// "The lower end of the support. Default: 0" as a label: "Lower end of the support".
 QString LabelOf(const apps::NumberParameter& parameter) {
-  QString text = QString::fromUtf8(parameter.description);
-  text = text.section(QStringLiteral(". "), 0, 0);
-  if (text.startsWith(QStringLiteral("The "))) text = Title(text.mid(4));
-  return text;
+  return Title(QString::fromUtf8(parameter.name));
 }
 
 }  // namespace
 
-ParameterForm::ParameterForm(QWidget* parent)
-    : QWidget(parent), inconsistency_(new MessageLabel(this)) {
+ParameterForm::ParameterForm(QWidget* parent) : QWidget(parent) {
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
-  layout->addWidget(inconsistency_);
 }
 
 ParameterForm::~ParameterForm() = default;
@@ -55,7 +27,6 @@ ParameterForm::~ParameterForm() = default;
 void ParameterForm::SetParameters(std::span<const apps::NumberParameter> parameters) {
   for (const Row& row : rows_) delete row.holder;
   rows_.clear();
-  inconsistency_->hide();
   auto* const layout = static_cast<QVBoxLayout*>(this->layout());
   for (const apps::NumberParameter& parameter : parameters) {
     auto* const holder = new QWidget(this);
@@ -64,39 +35,40 @@ void ParameterForm::SetParameters(std::span<const apps::NumberParameter> paramet
     lines->setSpacing(2);
     auto* const label = new QLabel(LabelOf(parameter), holder);
     label->setWordWrap(true);
-    auto* const cell = MakeNumberCell(StartNumber(parameter), label->text(), holder);
+    auto* const cell = MakeNumberCell(parameter.start, label->text(), holder);
     cell->setObjectName(QString::fromUtf8(parameter.option).mid(2));
     label->setBuddy(cell);
-    auto* const message = new MessageLabel(holder);
-    for (QWidget* const widget : {static_cast<QWidget*>(label), static_cast<QWidget*>(cell),
-                                  static_cast<QWidget*>(message)}) {
-      lines->addWidget(widget);
-    }
-    layout->insertWidget(layout->count() - 1, holder);
-    rows_.push_back({&parameter, holder, cell, message});
+    lines->addWidget(label);
+    lines->addWidget(cell);
+    layout->addWidget(holder);
+    rows_.push_back({&parameter, holder, cell});
     connect(cell, &TQorFloatEdit::Changed, this, &ParameterForm::Changed);
   }
 }
 
-std::optional<std::vector<Extended>> ParameterForm::Numbers() {
-  inconsistency_->hide();
+std::vector<Extended> ParameterForm::Numbers() const {
   std::vector<Extended> numbers;
-  bool all_fine = true;
-  for (const Row& row : rows_) {
-    numbers.push_back(row.cell->Value());
-    const char* const wrong = apps::WhatIsWrong(numbers.back(), row.parameter->kind);
-    row.message->Say(wrong == nullptr ? QString() : ExactText(numbers.back()) + ' ' + tr(wrong));
-    if (wrong != nullptr) all_fine = false;
-  }
-  if (!all_fine) return std::nullopt;
+  for (const Row& row : rows_) numbers.push_back(row.cell->Value());
   return numbers;
 }
 
-void ParameterForm::ShowInconsistency(const std::string& text) {
-  QString shown = QString::fromStdString(text);
+QString ParameterForm::WhatIsWrong() const {
+  QStringList messages;
+  for (const Row& row : rows_) {
+    const Extended number = row.cell->Value();
+    if (const char* const wrong = apps::WhatIsWrong(number, row.parameter->kind)) {
+      messages +=
+          LabelOf(*row.parameter) + QStringLiteral(": ") + ExactText(number) + ' ' + tr(wrong);
+    }
+  }
+  return messages.join(QStringLiteral("; "));
+}
+
+QString ParameterForm::Labelled(const std::string& message) const {
+  QString text = QString::fromStdString(message);
   for (const Row& row : rows_)
-    shown.replace(QLatin1String(row.parameter->option), '"' + LabelOf(*row.parameter) + '"');
-  inconsistency_->Say(shown);
+    text.replace(QLatin1String(row.parameter->option), '"' + LabelOf(*row.parameter) + '"');
+  return text;
 }
 
 TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QWidget* parent) {
@@ -106,14 +78,6 @@ TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QW
   cell->setValue(value);
   cell->setAccessibleName(accessible_name);
   return cell;
-}
-
-QString ExactText(Extended value) {
-  return QorvexBaseControls::detail::LocalNumber(Float2Str(value), QLocale());
-}
-
-QString Title(const QString& text) {
-  return text.left(1).toUpper() + text.mid(1);
 }
 
 }  // namespace qorvex::gallery

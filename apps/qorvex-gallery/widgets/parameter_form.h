@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// ParameterForm, cells for the parameters of a distribution or of a variate.
+/// ParameterForm, cells for the parameters of a distribution or variate.
 
 #include <QString>
 #include <QWidget>
@@ -12,9 +12,6 @@
 
 #include "apps/common/number_parameter.h"
 
-class QFormLayout;
-class QLabel;
-
 namespace qorvex {
 inline namespace QorvexBaseControls {
 class TQorFloatEdit;
@@ -23,9 +20,7 @@ class TQorFloatEdit;
 
 namespace qorvex::gallery {
 
-class MessageLabel;
-
-/// One labelled cell for each parameter, with what is wrong with its number beneath.
+/// One labelled cell for each parameter.
 class ParameterForm : public QWidget {
   Q_OBJECT
 
@@ -33,18 +28,15 @@ class ParameterForm : public QWidget {
   explicit ParameterForm(QWidget* parent = nullptr);
   ~ParameterForm() override;
 
-  /// Cells for these parameters, which have to outlive the form, with numbers to start from.
+  /// Replaces the cells by cells for these parameters, which have to outlive the form.
   void SetParameters(std::span<const apps::NumberParameter> parameters);
 
-  /// The numbers in order; nothing while one of them is refused, which the form shows.
-  [[nodiscard]] std::optional<std::vector<Extended>> Numbers();
-
-  /// Shows what is wrong with the numbers together. Options in the text become the names that the
-  /// cells have here.
-  void ShowInconsistency(const std::string& text);
-
-  /// The cell of a parameter.
-  [[nodiscard]] TQorFloatEdit* Cell(std::size_t index) const { return rows_[index].cell; }
+  /// The numbers in order.
+  [[nodiscard]] std::vector<Extended> Numbers() const;
+  /// What is wrong with the numbers, each taken by itself; empty if nothing is.
+  [[nodiscard]] QString WhatIsWrong() const;
+  /// A message with the labels of the cells in place of command line options.
+  [[nodiscard]] QString Labelled(const std::string& message) const;
 
  Q_SIGNALS:
   /// A number has changed.
@@ -55,21 +47,13 @@ class ParameterForm : public QWidget {
     const apps::NumberParameter* parameter;
     QWidget* holder;
     TQorFloatEdit* cell;
-    MessageLabel* message;
   };
 
   std::vector<Row> rows_;
-  MessageLabel* inconsistency_;
 };
 
-/// A cell that shows every digit of a number.
+/// A cell that shows all digits of its number.
 [[nodiscard]] TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name,
                                             QWidget* parent);
-
-/// A number with all its digits, as the locale writes numbers, without separators of groups.
-[[nodiscard]] QString ExactText(Extended value);
-
-/// "log-normal" as it begins a line: "Log-normal".
-[[nodiscard]] QString Title(const QString& text);
 
 }  // namespace qorvex::gallery

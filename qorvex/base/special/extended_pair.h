@@ -14,13 +14,19 @@ namespace qorvex::special {
 
 /// hi + lo, where |lo| is at most half a unit in the last place of hi.
 struct ExtendedPair {
+  /// The sum, rounded.
   Extended hi = 0;
+  /// What rounding took from it.
   Extended lo = 0;
 
+  /// 0.
   constexpr ExtendedPair() = default;
-  constexpr ExtendedPair(Extended value) : hi(value) {}  // NOLINT: a pair is a wider number
+  /// A single value, which converts implicitly: a pair is a wider number.
+  constexpr ExtendedPair(Extended value) : hi(value) {}  // NOLINT
+  /// The two parts as they are.
   constexpr ExtendedPair(Extended high, Extended low) : hi(high), lo(low) {}
 
+  /// The negative.
   constexpr ExtendedPair operator-() const { return {-hi, -lo}; }
 };
 
@@ -37,8 +43,8 @@ constexpr ExtendedPair ExactSum(Extended a, Extended b) {
   return {sum, (a - (sum - b_part)) + (b - b_part)};
 }
 
-/// a * b, exactly unless a factor exceeds 2^16350 or the product nears the smallest number; the
-/// product is then rounded.
+/// a * b, exactly unless a factor exceeds 2^16350 or the product is close to the smallest number;
+/// the product is then rounded.
 constexpr ExtendedPair ExactProduct(Extended a, Extended b) {
   constexpr Extended splitter = 0x1p32L + 1;
   const Extended product = a * b;
@@ -53,6 +59,7 @@ constexpr ExtendedPair ExactProduct(Extended a, Extended b) {
   return {product, error == error ? error : 0};
 }
 
+/// The sum, off by a few units of 2^-125.
 constexpr ExtendedPair operator+(ExtendedPair a, ExtendedPair b) {
   const ExtendedPair sum = ExactSum(a.hi, b.hi);
   const ExtendedPair rest = ExactSum(a.lo, b.lo);
@@ -60,16 +67,18 @@ constexpr ExtendedPair operator+(ExtendedPair a, ExtendedPair b) {
   return OrderedSum(partial.hi, partial.lo + rest.lo);
 }
 
+/// The difference, off by a few units of 2^-125.
 constexpr ExtendedPair operator-(ExtendedPair a, ExtendedPair b) {
   return a + -b;
 }
 
+/// The product, off by a few units of 2^-125.
 constexpr ExtendedPair operator*(ExtendedPair a, ExtendedPair b) {
   const ExtendedPair product = ExactProduct(a.hi, b.hi);
   return OrderedSum(product.hi, product.lo + (a.hi * b.lo + a.lo * b.hi));
 }
 
-/// For divisors that are not subnormal.
+/// The quotient, off by a few units of 2^-125, for divisors that are not subnormal.
 constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
   const Extended reciprocal = 1 / b.hi;
   const Extended quotient = a.hi * reciprocal;
@@ -80,6 +89,9 @@ constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
 
 /// The natural logarithm of a positive finite value, off by at most 2^-98, and by 2^-93 of itself.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Ln(ExtendedPair x);
+
+/// The exponential function, off by 2^-93 times |x| of itself; 0 and infinity beyond the format.
+[[nodiscard]] QORVEX_EXPORT ExtendedPair Exp(ExtendedPair x);
 
 /// The natural logarithm of a quotient that may be beyond the format.
 [[nodiscard]] inline ExtendedPair LnOfRatio(ExtendedPair ratio, ExtendedPair numerator,

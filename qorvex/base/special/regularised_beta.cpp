@@ -6,7 +6,8 @@
 #include <utility>
 
 #include "qorvex/base/special/detail/boost_math.h"
-#include "qorvex/base/special/tail_solver.h"
+#include "qorvex/base/special/detail/tail_solver.h"
+#include "qorvex/base/special/factorial.h"
 
 namespace qorvex::special {
 

@@ -11,7 +11,9 @@ namespace qorvex::special {
 /// A point of [0, 1] as the odds for : against, so x = for / (for + against), which keeps the
 /// distance from 1 as well as the one from 0.
 struct Odds {
+  /// Proportional to x.
   ExtendedPair in_favour;
+  /// Proportional to 1 - x.
   ExtendedPair against;
 };
 
@@ -21,14 +23,15 @@ struct Odds {
   return value < 1 ? value / (1 + value) : 1 / (1 + 1 / value);
 }
 
-/// The beta distribution with shapes from 1e-18 to 1e15.
+/// The beta distribution with shapes from 1e-18 to 1e15. A shape of NaN gives NaN.
 ///
 /// The continued fraction of DiDonato and Morris (1992), "Algorithm 708", gives the tail on the far
 /// side of the mean, in at most some tens of terms times the square root of the shapes. Boost.Math
-/// gives the tails of small shapes where that fraction is slow, or where the tail is what the other
-/// leaves of 1.
+/// gives the tails of small shapes where that fraction is slow, or where the tail is 1 minus the
+/// other.
 class QORVEX_EXPORT RegularisedBeta {
  public:
+  /// The shapes are not checked.
   RegularisedBeta(Extended a, Extended b);
 
   /// Both tails at odds above 0 and below infinity.

@@ -5,8 +5,9 @@
 #include <limits>
 
 #include "qorvex/base/special/detail/boost_math.h"
-#include "qorvex/base/special/tail_solver.h"
-#include "qorvex/base/special/uniform_gamma.h"
+#include "qorvex/base/special/detail/tail_solver.h"
+#include "qorvex/base/special/detail/uniform_gamma.h"
+#include "qorvex/base/special/factorial.h"
 
 namespace qorvex::special {
 

@@ -8,23 +8,27 @@
 
 namespace qorvex::special {
 
-/// The gamma distribution of a shape from 1e-18 to 1e15 and scale 1.
+/// The gamma distribution with a shape from 1e-18 to 1e15 and scale 1. A shape of NaN gives NaN.
 ///
 /// Below the shape the power series gives the lower tail, above it the continued fraction gives the
-/// upper one, each in some hundred terms at most, because around large shapes an expansion takes
-/// over. For small shapes Boost.Math gives the upper tail where it is what the lower one leaves
-/// of 1.
+/// upper one, each in some hundred terms at most, because around large shapes Temme's expansion
+/// takes over. For small shapes Boost.Math gives the upper tail where it is 1 minus the lower
+/// one.
 class QORVEX_EXPORT RegularisedGamma {
  public:
+  /// The shape is not checked.
   explicit RegularisedGamma(Extended shape);
 
-  /// A point 0 < x < infinity and its logarithm, which may say more than an x that underflowed.
+  /// A point 0 < x < infinity and its logarithm, which keeps its digits where x underflows.
   struct Point {
+    /// The point itself.
     explicit Point(ExtendedPair value) : x(value), ln_x(Ln(value)) {}
     /// numerator / denominator.
     Point(ExtendedPair numerator, ExtendedPair denominator)
         : x(numerator / denominator), ln_x(LnOfRatio(x, numerator, denominator)) {}
+    /// The point.
     ExtendedPair x;
+    /// Its natural logarithm.
     ExtendedPair ln_x;
   };
 

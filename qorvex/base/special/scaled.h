@@ -13,7 +13,9 @@ namespace qorvex::special {
 
 /// factor * e^exponent. The exponent keeps its precision when large ones cancel.
 struct Scaled {
+  /// What the power is multiplied by.
   Extended factor = 1;
+  /// The exponent of e.
   ExtendedPair exponent;
 
   /// The number itself; 0 or infinity beyond the range.
@@ -21,9 +23,11 @@ struct Scaled {
   /// Its natural logarithm.
   [[nodiscard]] QORVEX_EXPORT Extended Log() const;
 
+  /// The product.
   friend Scaled operator*(const Scaled& a, const Scaled& b) {
     return {a.factor * b.factor, a.exponent + b.exponent};
   }
+  /// The quotient.
   friend Scaled operator/(const Scaled& a, const Scaled& b) {
     return {a.factor / b.factor, a.exponent - b.exponent};
   }
@@ -41,8 +45,5 @@ struct Scaled {
 
 /// x^y for x > 0; 1 for y = 0.
 [[nodiscard]] QORVEX_EXPORT Scaled Power(ExtendedPair x, ExtendedPair y);
-
-/// Gamma(a + 1), the factorial of a >= 0, by Stirling's series from 16 on.
-[[nodiscard]] QORVEX_EXPORT Scaled FactorialOf(ExtendedPair a);
 
 }  // namespace qorvex::special

@@ -1,5 +1,8 @@
 #pragma once
 
+/// @file
+/// The shapes of gamma and beta distributions that can be computed.
+
 #include "qorvex/base/element_types.h"
 
 namespace qorvex::special {

@@ -9,17 +9,22 @@
 
 namespace qorvex::special {
 
-/// Which side of the point.
-enum class Tail { kLower, kUpper };
+/// A side of a point.
+enum class Tail {
+  kLower,  ///< at most the point
+  kUpper,  ///< more than the point
+};
 
+/// The other side.
 constexpr Tail Opposite(Tail tail) {
   return tail == Tail::kLower ? Tail::kUpper : Tail::kLower;
 }
 
-/// The probabilities on both sides of a point, from the one that is known with full relative
-/// accuracy; the other is not much smaller.
+/// The probabilities on both sides of a point. One of them is known with full relative accuracy,
+/// the other, which is not much smaller, as 1 minus it.
 class Tails {
  public:
+  /// From the tail that is known.
   Tails(Tail known_tail, const Scaled& probability)
       : known_tail_(known_tail), known_(probability) {}
 
@@ -27,9 +32,11 @@ class Tails {
   [[nodiscard]] Scaled ScaledProbability(Tail tail) const {
     return tail == known_tail_ ? known_ : Scaled{1 - known_.Value(), ExtendedPair()};
   }
+  /// The probability of a tail; 0 where it is too small for the format.
   [[nodiscard]] Extended Probability(Tail tail) const { return ScaledProbability(tail).Value(); }
+  /// The natural logarithm of the probability of a tail, also where the probability underflows.
   [[nodiscard]] Extended LogProbability(Tail tail) const {
-    // Adding 0 takes the sign off a zero.
+    // Adding 0 turns -0 into 0.
     return tail == known_tail_ ? known_.Log() : std::log1p(-known_.Value()) + 0;
   }
   /// The tails of the mirrored distribution.

@@ -1,0 +1,83 @@
+#include "apps/qorvex-gallery/widgets/table_loader.h"
+
+#include <QFileInfo>
+#include <QHBoxLayout>
+#include <QProgressBar>
+#include <QPushButton>
+#include <memory>
+#include <utility>
+
+#include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/table_input.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+// Larger files are read in the background.
+constexpr qint64 kMostReadAtOnce = qint64{1} << 20;
+
+}  // namespace
+
+TableLoader::TableLoader(QWidget* parent) : QWidget(parent), bar_(new QProgressBar), work_(this) {
+  setObjectName("progress");
+  bar_->setAccessibleName(tr("Reading progress"));
+  bar_->setRange(0, 1000);
+  auto* const cancel = new QPushButton(tr("Cancel"));
+  cancel->setObjectName("cancel");
+  auto* const layout = new QHBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(bar_, 1);
+  layout->addWidget(cancel);
+  connect(cancel, &QPushButton::clicked, this, &TableLoader::Stop);
+  connect(&work_, &BackgroundWork::Progressed, bar_, &QProgressBar::setValue);
+  hide();
+}
+
+TableLoader::~TableLoader() = default;
+
+void TableLoader::Load(const QString& file, const QString& title, const Loaded& loaded,
+                       const Failed& failed) {
+  Stop();
+  const qint64 size = QFileInfo(file).size();
+  if (size <= kMostReadAtOnce) {
+    try {
+      loaded(DataTable(OpenFile(file)));
+    } catch (const apps::InputError& error) {
+      failed(QString::fromUtf8(error.what()));
+    }
+    return;
+  }
+  const auto table = std::make_shared<DataTable>();
+  work_.Start(
+      [table, file, size](const Proceed& proceed) {
+        *table = DataTable(Observed(OpenFile(file), [&proceed, size](std::size_t bytes) {
+          return proceed(bytes, static_cast<std::size_t>(size));
+        }));
+      },
+      [this, table, loaded] {
+        loaded(std::move(*table));
+        End();
+      },
+      [this, failed](const QString& why) {
+        failed(why);
+        End();
+      });
+  bar_->setValue(0);
+  bar_->setFormat(tr("Reading %1 (%2): %p %").arg(title, locale().formattedDataSize(size)));
+  show();
+  Q_EMIT Started();
+}
+
+void TableLoader::Stop() {
+  if (!IsLoading()) return;
+  work_.Stop();
+  End();
+}
+
+void TableLoader::End() {
+  hide();
+  Q_EMIT Ended();
+}
+
+}  // namespace qorvex::gallery

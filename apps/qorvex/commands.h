@@ -1,0 +1,25 @@
+#pragma once
+
+/// @file
+/// The commands of the program. Each function adds one, with its options and what it runs.
+
+#include <CLI/CLI.hpp>
+
+namespace qorvex::apps {
+
+/// `describe`: the descriptive statistics of columns of numbers.
+void AddDescribe(CLI::App& program);
+
+/// `fit`: a line or a parabola through the pairs in two columns of a table.
+void AddFit(CLI::App& program);
+
+/// `matrix`: inverses, products and ranks of matrices.
+void AddMatrix(CLI::App& program);
+
+/// `dist`: probabilities, densities and quantiles.
+void AddDist(CLI::App& program);
+
+/// `random`: random variates.
+void AddRandom(CLI::App& program);
+
+}  // namespace qorvex::apps

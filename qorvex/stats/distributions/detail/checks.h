@@ -1,0 +1,70 @@
+#pragma once
+
+/// @file
+/// Checks and limits that the families share.
+
+#include <cmath>
+#include <limits>
+
+#include "qorvex/base/checked_math.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/special/shape_range.h"
+#include "qorvex/stats/distributions/distribution.h"
+
+namespace qorvex::distributions {
+
+inline constexpr Extended kLargest = std::numeric_limits<Extended>::max();
+inline constexpr Extended kInfinite = std::numeric_limits<Extended>::infinity();
+inline constexpr Extended kNotANumber = std::numeric_limits<Extended>::quiet_NaN();
+
+/// Whether any of the values is NaN.
+template <class... Values>
+bool AnyNaN(Values... values) {
+  return (std::isnan(values) || ...);
+}
+
+/// Raises rsValue01 unless 0 < p < 1; NaN passes.
+inline void RequireProbability(Extended p) {
+  if (p <= 0 || p >= 1) RaiseMathError(rsValue01);
+}
+
+/// Raises the message unless the parameter is positive, finite and not subnormal, so that it can be
+/// divided by; NaN passes.
+inline void RequirePositive(Extended parameter, MessageId message) {
+  if (parameter < std::numeric_limits<Extended>::min() || std::isinf(parameter)) {
+    RaiseMathError(message);
+  }
+}
+
+/// Raises EInvalidOp for an infinite parameter.
+inline void RequireFinite(Extended parameter) {
+  if (std::isinf(parameter)) throw EInvalidOp();
+}
+
+/// Raises EInvalidOp for a shape beyond the range of the methods; NaN passes.
+inline void RequireShape(Extended shape) {
+  if (special::IsShapeOutOfRange(shape)) throw EInvalidOp();
+}
+
+/// The tails below the support, or at its lower end.
+inline Tails BelowAll() {
+  return {Tail::kLower, special::Scaled{0, special::ExtendedPair()}};
+}
+
+/// The tails above the support, or at its upper end.
+inline Tails AboveAll() {
+  return {Tail::kUpper, special::Scaled{0, special::ExtendedPair()}};
+}
+
+/// The tails at a point that is NaN, or with a parameter that is.
+inline Tails UnknownTails() {
+  return {Tail::kLower, special::Scaled{kNotANumber, special::ExtendedPair()}};
+}
+
+/// The density at the end of a support where it is c x^(shape - 1): 0, c or infinity.
+inline Extended DensityAtEnd(Extended shape, Extended c) {
+  if (shape == 1) return c;
+  return shape < 1 ? kInfinite : 0;
+}
+
+}  // namespace qorvex::distributions

@@ -1,0 +1,41 @@
+#pragma once
+
+/// @file
+/// ExponentialDistribution.
+
+#include "qorvex/base/export.h"
+#include "qorvex/stats/distributions/distribution.h"
+
+namespace qorvex {
+
+/// The exponential distribution.
+///
+/// - Density: exp(-x / m) / m, with mean m.
+/// - Support: x >= 0.
+/// - Errors: rsExpDistInvalid unless mean > 0.
+/// - Method: closed forms, with x / m in 125 bits.
+class QORVEX_EXPORT ExponentialDistribution {
+ public:
+  /// The type of the points.
+  using Point = Extended;
+
+  /// The mean, 1 / rate.
+  explicit ExponentialDistribution(Extended mean = 1);
+
+  /// @{
+  /// As for every ContinuousDistribution.
+  [[nodiscard]] Extended Pdf(Extended x) const;
+  [[nodiscard]] Tails At(Extended x) const;
+  [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
+  [[nodiscard]] Extended Mean() const { return mean_; }
+  [[nodiscard]] Extended Variance() const { return mean_ * mean_; }
+  [[nodiscard]] Extended Skewness() const { return 2; }
+  [[nodiscard]] Extended Mode() const { return 0; }
+  [[nodiscard]] Interval<Extended> Support() const;
+  /// @}
+
+ private:
+  Extended mean_;
+};
+
+}  // namespace qorvex
