@@ -1,9 +1,10 @@
+#include "qorvex/stats/distributions/distributions.h"
+
 #include <cmath>
 #include <iostream>
 
 #include "qorvex/base/text.h"
 #include "qorvex/stats/QorvexStatistics.h"
-#include "qorvex/stats/full_precision.h"
 
 using namespace qorvex;
 
@@ -25,7 +26,7 @@ int main() {
 
   // Nine standard deviations out the classic upper tail has no digits left.
   std::cout << "Beyond 9: " << Float2Str(NormalDistGreater(0, 1, 9)) << ", in full precision "
-            << Float2Str(full_precision::NormalUpper(0, 1, 9)) << '\n';
+            << Float2Str(Upper(NormalDistribution(), 9)) << '\n';
 
   TQorFloatVector points;
   TQorFloatVector densities;

@@ -9,7 +9,7 @@
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"
 #include "qorvex/stats/QorvexStatistics.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 
 using namespace qorvex;
 
@@ -59,7 +59,7 @@ int main() {
 
   Extended exact = 0;
   for (std::uint32_t n = 1; n < 60; ++n)
-    exact += full_precision::PoissonPmf(4, n) * full_precision::GammaUpper(2 * n, 5, 60);
+    exact += PoissonDistribution(4).Pmf(n) * Upper(GammaDistribution(2 * n, 5), 60);
   std::cout << "More than 60 mm: " << Float2EStr(share, 4) << " +- " << Float2EStr(error, 4)
             << ", exactly " << Float2EStr(exact, 6) << '\n';
 }

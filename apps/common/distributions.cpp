@@ -1,240 +1,166 @@
 #include "apps/common/distributions.h"
 
 #include <algorithm>
-#include <cmath>
-#include <cstddef>
-#include <utility>
 
-#include "qorvex/stats/QorvexStatistics.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-using Arguments = DistributionArguments;
-
-template <class Result, class... Parameters, std::size_t... i>
-Extended Apply(Result (*routine)(Parameters...), Arguments arguments, std::size_t first,
-               std::index_sequence<i...>) {
-  return routine(static_cast<Parameters>(arguments[(i + first) % sizeof...(Parameters)])...);
-}
-
-template <class Result, class... Parameters>
-Extended Apply(Result (*routine)(Parameters...), Arguments arguments, std::size_t points) {
-  return Apply(routine, arguments, sizeof...(Parameters) - points,
-               std::index_sequence_for<Parameters...>());
-}
-
-// Calls a routine that takes its parameters first.
-template <auto routine>
-Extended Call(Arguments arguments) {
-  return Apply(routine, arguments, 0);
-}
-
-// Calls a routine that takes its points first.
-template <auto routine, std::size_t points = 1>
-Extended CallPointFirst(Arguments arguments) {
-  return Apply(routine, arguments, points);
-}
-
-// The overloads that take the ends of the support.
-using FiveNumbers = Extended (*)(Extended, Extended, Extended, Extended, Extended);
-using SixNumbers = Extended (*)(Extended, Extended, Extended, Extended, Extended, Extended);
-
-namespace fp = full_precision;
-
-#define QORVEX_FULL_PRECISION(Family, density)                                              \
-  {                                                                                         \
-    Call<fp::Family##density>, Call<fp::Family##Lower>, Call<fp::Family##Upper>,            \
-        Call<fp::Family##LogLower>, Call<fp::Family##LogUpper>, Call<fp::Family##Quantile>, \
-        Call<fp::Family##UpperQuantile>                                                     \
-  }
-
-// A beta distribution between two ends, which are the last two of its parameters.
-struct BetaSupport {
-  explicit BetaSupport(Arguments arguments)
-      : lower(arguments[2]), width(arguments[3] - arguments[2]) {}
-  Extended lower;
-  Extended width;
-};
-
-template <auto routine>
-Extended AtScaledPoint(Arguments arguments) {
-  const BetaSupport support(arguments);
-  return routine(arguments[0], arguments[1], (arguments[4] - support.lower) / support.width);
-}
-
-Extended ScaledDensity(Arguments arguments) {
-  return AtScaledPoint<fp::BetaPdf>(arguments) / BetaSupport(arguments).width;
-}
-
-template <auto routine>
-Extended ScaledQuantile(Arguments arguments) {
-  const BetaSupport support(arguments);
-  return support.lower + support.width * routine(arguments[0], arguments[1], arguments[4]);
-}
-
-Extended ScaledIncompleteGamma(Arguments arguments) {
-  return IncompleteGamma(arguments[0], arguments[2] / arguments[1]);
-}
-
-Support PositiveAxis(Arguments) {
-  return {.least = 0};
-}
-
+constexpr auto kReal = NumberKind::kReal;
 constexpr auto kShape = NumberKind::kShape;
+constexpr auto kDegrees = NumberKind::kDegreesOfFreedom;
+constexpr auto kCount = NumberKind::kCount;
 
-std::vector<Distribution> AllDistributions() {
-  const NumberParameter df = {"--df", "The degrees of freedom", NumberKind::kDegreesOfFreedom};
+std::uint32_t Count(Extended number) {
+  return static_cast<std::uint32_t>(number);
+}
+
+std::vector<Family> AllFamilies() {
+  const NumberParameter df = {"--df", "degrees of freedom", kDegrees, 5};
+  const NumberParameter location = {"--location", "location", kReal, 0, true};
   return {
-      {"normal",
-       "The normal distribution",
-       {kMean, kStdDev},
-       false,
-       QORVEX_FULL_PRECISION(Normal, Pdf),
-       {CallPointFirst<NormalPDF>, Call<NormalDistLess>, Call<NormalDistGreater>,
-        Call<NormalDistBetween>, Call<InvNormalDistLess>, Call<InvNormalDistGreater>,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          NormalPDFValues(a[0], a[1], a[2], a[3], n, xs, ys);
-        }}},
-      {"log-normal",
-       "The log-normal distribution; mean and standard deviation of ln X",
-       {kMean, kStdDev},
-       false,
-       QORVEX_FULL_PRECISION(LogNormal, Pdf),
-       {CallPointFirst<LogNormalPDF>, Call<LogNormalLess>, Call<LogNormalGreater>,
-        Call<LogNormalBetween>, Call<InvLogNormalLess>, Call<InvLogNormalGreater>,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          LogNormalPDFValues(a[0], a[1], a[2], a[3], n, xs, ys);
-        }},
-       PositiveAxis},
-      {"exponential",
-       "The exponential distribution",
-       {{"--mean", "The mean, 1 / rate", NumberKind::kPositive}},
-       false,
-       QORVEX_FULL_PRECISION(Exponential, Pdf),
-       {CallPointFirst<ExponentialPDF>, Call<ExponentialLess>, Call<ExponentialGreater>,
-        Call<ExponentialBetween>, nullptr, nullptr,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          ExponentialPDFValues(a[0], a[1], a[2], n, xs, ys);
-        }},
-       PositiveAxis},
-      {"gamma",
-       "The gamma distribution",
-       {{"--shape", "The shape", kShape}, kScale},
-       false,
-       QORVEX_FULL_PRECISION(Gamma, Pdf),
-       {.less = ScaledIncompleteGamma},
-       PositiveAxis},
-      {"chi-square",
-       "The chi-square distribution",
-       {df},
-       false,
-       QORVEX_FULL_PRECISION(ChiSquare, Pdf),
-       {CallPointFirst<ChiSquarePDF>, CallPointFirst<ChiSquareLess>,
-        CallPointFirst<ChiSquareGreater>, CallPointFirst<ChiSquareBetween, 2>,
-        Call<InvChiSquareLess>, Call<InvChiSquareGreater>,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          ChiSquarePDFValues(static_cast<std::uint32_t>(a[0]), a[1], a[2], n, xs, ys);
-        }},
-       PositiveAxis},
-      {"student-t",
-       "Student's t distribution",
-       {df},
-       false,
-       QORVEX_FULL_PRECISION(StudentT, Pdf),
-       {CallPointFirst<StudentTPDF>, CallPointFirst<StudentTLess>, CallPointFirst<StudentTGreater>,
-        CallPointFirst<StudentTBetween, 2>, Call<InvStudentTLess>, Call<InvStudentTGreater>,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          StudentTPDFValues(static_cast<std::uint32_t>(a[0]), a[1], a[2], n, xs, ys);
-        }}},
-      {"f",
-       "The F distribution",
-       {{"--df1", "The degrees of freedom of the numerator", NumberKind::kDegreesOfFreedom},
-        {"--df2", "The degrees of freedom of the denominator", NumberKind::kDegreesOfFreedom}},
-       false,
-       QORVEX_FULL_PRECISION(FDist, Pdf),
-       {CallPointFirst<FDistPDF>, CallPointFirst<FDistLess>, CallPointFirst<FDistGreater>,
-        CallPointFirst<FDistBetween, 2>, Call<InvFDistLess>, Call<InvFDistGreater>,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          FDistPDFValues(static_cast<std::uint32_t>(a[0]), static_cast<std::uint32_t>(a[1]), a[2],
-                         a[3], n, xs, ys);
-        }},
-       PositiveAxis},
-      {"beta",
-       "The beta distribution, on [0, 1] or between two ends",
-       {{"--a", "The first shape", kShape},
-        {"--b", "The second shape", kShape},
-        kLowerEnd,
-        kUpperEnd},
-       false,
-       {ScaledDensity, AtScaledPoint<fp::BetaLower>, AtScaledPoint<fp::BetaUpper>,
-        AtScaledPoint<fp::BetaLogLower>, AtScaledPoint<fp::BetaLogUpper>,
-        ScaledQuantile<fp::BetaQuantile>, ScaledQuantile<fp::BetaUpperQuantile>},
-       {CallPointFirst<static_cast<FiveNumbers>(BetaPDF)>,
-        CallPointFirst<static_cast<FiveNumbers>(BetaDistLess)>,
-        CallPointFirst<static_cast<FiveNumbers>(BetaDistGreater)>,
-        CallPointFirst<static_cast<SixNumbers>(BetaDistBetween), 2>,
-        Call<static_cast<FiveNumbers>(InvBetaDistLess)>,
-        Call<static_cast<FiveNumbers>(InvBetaDistGreater)>,
-        [](Arguments a, std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
-          BetaPDFValues(a[0], a[1], a[2], a[3], a[4], a[5], n, xs, ys);
-        }},
-       [](Arguments a) { return Support{.least = a[2], .greatest = a[3]}; },
-       [](Arguments a) { return WhatIsWrongWithEnds(a[2], a[3]); }},
-      {"binomial",
-       "The binomial distribution: successes in independent trials",
-       {kSuccessProbability, {"--trials", "The number of trials", NumberKind::kCount}},
-       true,
-       QORVEX_FULL_PRECISION(Binomial, Pmf),
-       {Call<BinomialEq>, Call<BinomialLess>, Call<BinomialGreater>, Call<BinomialBetween>}},
-      {"hypergeometric",
-       "The hypergeometric distribution: successes in a sample drawn without replacement",
-       {{"--pop-size", "The size of the population", NumberKind::kCount},
-        {"--sample-size", "The size of the sample", NumberKind::kCount},
-        {"--successes", "The successes in the population", NumberKind::kCount}},
-       true,
-       QORVEX_FULL_PRECISION(HyperGeometric, Pmf),
-       {Call<HyperGeometricEq>, Call<HyperGeometricLess>, Call<HyperGeometricGreater>,
-        Call<HyperGeometricBetween>}},
-      {"poisson",
-       "The Poisson distribution",
-       {kLambda},
-       true,
-       QORVEX_FULL_PRECISION(Poisson, Pmf),
-       {Call<PoissonEq>, Call<PoissonLess>, Call<PoissonGreater>, Call<PoissonBetween>}},
+      {.name = "normal",
+       .aliases = {"gaussian"},
+       .summary = "The normal distribution",
+       .parameters = {kMean, kStdDev},
+       .make = [](Numbers p) { return Erase(NormalDistribution(p[0], p[1])); },
+       .classic = kClassicNormal},
+      {.name = "log-normal",
+       .aliases = {"lognormal"},
+       .summary = "The log-normal distribution; mean and standard deviation of ln X",
+       .parameters = {kMean, kStdDev},
+       .make = [](Numbers p) { return Erase(LogNormalDistribution(p[0], p[1])); },
+       .classic = kClassicLogNormal},
+      {.name = "exponential",
+       .summary = "The exponential distribution",
+       .parameters = {{"--mean", "mean, 1 / rate", NumberKind::kPositive, 2}},
+       .make = [](Numbers p) { return Erase(ExponentialDistribution(p[0])); },
+       .classic = kClassicExponential},
+      {.name = "gamma",
+       .summary = "The gamma distribution",
+       .parameters = {{"--shape", "shape", kShape, 2}, kScale},
+       .make = [](Numbers p) { return Erase(GammaDistribution(p[0], p[1])); },
+       .classic = kClassicGamma},
+      {.name = "chi-square",
+       .aliases = {"chi-squared"},
+       .summary = "The chi-square distribution",
+       .parameters = {df},
+       .make = [](Numbers p) { return Erase(ChiSquareDistribution(p[0])); },
+       .classic = kClassicChiSquare},
+      {.name = "student-t",
+       .aliases = {"t"},
+       .summary = "Student's t distribution",
+       .parameters = {df},
+       .make = [](Numbers p) { return Erase(StudentTDistribution(p[0])); },
+       .classic = kClassicStudentT},
+      {.name = "f",
+       .summary = "The F distribution",
+       .parameters = {{"--df1", "degrees of freedom of the numerator", kDegrees, 5},
+                      {"--df2", "degrees of freedom of the denominator", kDegrees, 5}},
+       .make = [](Numbers p) { return Erase(FDistribution(p[0], p[1])); },
+       .classic = kClassicF},
+      {.name = "beta",
+       .summary = "The beta distribution, on [0, 1] or between two ends",
+       .parameters = {{"--a", "first shape", kShape, 2},
+                      {"--b", "second shape", kShape, 5},
+                      kLowerEnd,
+                      kUpperEnd},
+       .make =
+           [](Numbers p) { return Erase(BetweenEnds(BetaDistribution(p[0], p[1]), p[2], p[3])); },
+       .classic = kClassicBeta,
+       .inconsistency = [](Numbers p) { return WhatIsWrongWithEnds(p[2], p[3]); }},
+      {.name = "uniform",
+       .summary = "The continuous uniform distribution between two ends",
+       .parameters = {kLowerEnd, kUpperEnd},
+       .make = [](Numbers p) { return Erase(UniformDistribution(p[0], p[1])); },
+       .inconsistency = [](Numbers p) { return WhatIsWrongWithEnds(p[0], p[1]); }},
+      {.name = "weibull",
+       .summary = "The Weibull distribution; with a negative shape the Frechet distribution",
+       .parameters = {{"--shape", "shape", kReal, 2}, kScale},
+       .make = [](Numbers p) { return Erase(WeibullDistribution(p[0], p[1])); }},
+      {.name = "gumbel",
+       .aliases = {"extreme-value"},
+       .summary = "The Gumbel distribution of maxima",
+       .parameters = {location, kScale},
+       .make = [](Numbers p) { return Erase(GumbelDistribution(p[0], p[1])); }},
+      {.name = "logistic",
+       .summary = "The logistic distribution",
+       .parameters = {location, kScale},
+       .make = [](Numbers p) { return Erase(LogisticDistribution(p[0], p[1])); }},
+      {.name = "cauchy",
+       .aliases = {"lorentz"},
+       .summary = "The Cauchy distribution",
+       .parameters = {location, kScale},
+       .make = [](Numbers p) { return Erase(CauchyDistribution(p[0], p[1])); }},
+      {.name = "von-mises",
+       .summary = "The von Mises distribution of angles from -pi to pi",
+       .parameters = {{"--concentration", "concentration", kReal, 2}},
+       .make = [](Numbers p) { return Erase(VonMisesDistribution(p[0])); }},
+      {.name = "generalised-inverse-gaussian",
+       .aliases = {"inverse-gaussian"},
+       .summary = "The generalised inverse Gaussian distribution; density as "
+                  "x^(b-1) exp(-h/2 (x + 1/x))",
+       .parameters = {{"--h", "concentration h", kShape, 2},
+                      {"--b", "order b", kReal, 0.5L},
+                      kScale},
+       .make =
+           [](Numbers p) {
+             return Erase(GeneralisedInverseGaussianDistribution(p[0], p[1], p[2]));
+           }},
+      {.name = "binomial",
+       .summary = "The binomial distribution: successes in independent trials",
+       .parameters = {kSuccessProbability, {"--trials", "number of trials", kCount, 20}},
+       .make = [](Numbers p) { return Erase(BinomialDistribution(p[0], Count(p[1]))); },
+       .is_discrete = true,
+       .classic = kClassicBinomial},
+      {.name = "hypergeometric",
+       .summary =
+           "The hypergeometric distribution: successes in a sample drawn without replacement",
+       .parameters = {{"--pop-size", "size of the population", kCount, 100},
+                      {"--sample-size", "size of the sample", kCount, 20},
+                      {"--successes", "successes in the population", kCount, 30}},
+       .make =
+           [](Numbers p) {
+             return Erase(HypergeometricDistribution(Count(p[0]), Count(p[1]), Count(p[2])));
+           },
+       .is_discrete = true,
+       .classic = kClassicHypergeometric},
+      {.name = "poisson",
+       .summary = "The Poisson distribution",
+       .parameters = {kLambda},
+       .make = [](Numbers p) { return Erase(PoissonDistribution(p[0])); },
+       .is_discrete = true,
+       .classic = kClassicPoisson},
+      {.name = "geometric",
+       .summary = "The geometric distribution: failures before the first success",
+       .parameters = {kSuccessProbability},
+       .make = [](Numbers p) { return Erase(GeometricDistribution(p[0])); },
+       .is_discrete = true},
+      {.name = "negative-binomial",
+       .summary = "The negative binomial distribution: successes before a given number of failures",
+       .parameters = {{kSuccessProbability.option, kSuccessProbability.name,
+                       NumberKind::kProbability, kSuccessProbability.start},
+                      {"--failures", "number of failures, which need not be whole", kShape, 5}},
+       .make = [](Numbers p) { return Erase(NegativeBinomialDistribution(p[0], p[1])); },
+       .is_discrete = true},
   };
 }
 
-#undef QORVEX_FULL_PRECISION
-
 }  // namespace
 
-Extended ProbabilityBetween(const Distribution& distribution, DistributionArguments arguments) {
-  std::vector<Extended> first(arguments.begin(), arguments.end());
-  const Extended point = first.back();
-  first.pop_back();
-  std::vector<Extended> second = first;
-  first.back() = std::min(first.back(), point);
-  second.back() = std::max(second.back(), point);
-  // Fewer than a count are at most the one before it.
-  if (distribution.is_discrete && second.back() > first.back()) --second.back();
-
-  // A difference of the tails on the side where they are small, or what both leave where the
-  // median is between the points.
-  constexpr Extended half = 0.5L;
-  const FullPrecisionRoutines& routines = distribution.full_precision;
-  const Extended lower = routines.lower(second);
-  if (lower <= half) return lower - routines.lower(first);
-  const Extended upper = routines.upper(first);
-  if (upper <= half) return upper - routines.upper(second);
-  return 1 - routines.lower(first) - routines.upper(second);
+std::span<const Family> Families() {
+  static const std::vector<Family> families = AllFamilies();
+  return families;
 }
 
-std::span<const Distribution> Distributions() {
-  static const std::vector<Distribution> distributions = AllDistributions();
-  return distributions;
+const Family* FindFamily(std::string_view name) {
+  const auto is_named = [name](const Family& family) {
+    return name == family.name || std::ranges::find(family.aliases, name) != family.aliases.end();
+  };
+  const auto found = std::ranges::find_if(Families(), is_named);
+  return found == Families().end() ? nullptr : &*found;
 }
 
 }  // namespace qorvex::apps

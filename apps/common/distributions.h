@@ -1,73 +1,40 @@
 #pragma once
 
 /// @file
-/// The distributions that `dist` knows, their parameters and routines.
+/// The catalogue of distributions for both programs. A family is added with one entry.
 
-#include <cstdint>
-#include <limits>
+#include <memory>
 #include <span>
+#include <string_view>
 #include <vector>
 
+#include "apps/common/any_distribution.h"
+#include "apps/common/classic_routines.h"
 #include "apps/common/number_parameter.h"
-#include "qorvex/base/vector_types.h"
 
 namespace qorvex::apps {
 
-/// The distribution's parameters in order, then a point, two points or a probability.
-using DistributionArguments = std::span<const Extended>;
-using DistributionRoutine = Extended (*)(DistributionArguments);
-
-/// The routines with full relative accuracy in both tails. Lower is at most x, upper more than x.
-struct FullPrecisionRoutines {
-  DistributionRoutine density;
-  DistributionRoutine lower;
-  DistributionRoutine upper;
-  DistributionRoutine log_lower;
-  DistributionRoutine log_upper;
-  DistributionRoutine quantile;
-  DistributionRoutine upper_quantile;
-};
-
-/// The routines of the unit QorvexStatistics; null where it has none.
-struct ClassicRoutines {
-  DistributionRoutine density = nullptr;
-  DistributionRoutine less = nullptr;
-  DistributionRoutine greater = nullptr;
-  DistributionRoutine between = nullptr;
-  DistributionRoutine quantile = nullptr;
-  DistributionRoutine upper_quantile = nullptr;
-  /// Takes the parameters and the ends of the range.
-  void (*table)(DistributionArguments arguments, std::int32_t n, TQorFloatVector& x_values,
-                TQorFloatVector& y_values) = nullptr;
-};
-
-/// The ends of a continuous distribution.
-struct Support {
-  Extended least = -std::numeric_limits<Extended>::infinity();
-  Extended greatest = std::numeric_limits<Extended>::infinity();
-};
-
-struct Distribution {
+/// An entry of the catalogue.
+struct Family {
   const char* name;
+  /// Other names by which it is found.
+  std::vector<const char*> aliases = {};
   const char* summary;
   std::vector<NumberParameter> parameters;
+  /// The distribution with the given parameters. EMathError as its class raises it.
+  std::unique_ptr<const AnyDistribution> (*make)(Numbers parameters);
   /// Whether its points are counts.
-  bool is_discrete;
-  FullPrecisionRoutines full_precision;
-  ClassicRoutines classic;
-  /// Null where a continuous distribution has no ends.
-  Support (*support)(DistributionArguments parameters) = nullptr;
-  /// What is wrong with parameters that are fine one by one, or null; null itself where nothing can
-  /// be.
-  const char* (*inconsistency)(DistributionArguments parameters) = nullptr;
+  bool is_discrete = false;
+  ClassicRoutines classic = {};
+  /// What is wrong with parameters that are valid one by one, or null; null itself where nothing
+  /// can be.
+  const char* (*inconsistency)(Numbers parameters) = nullptr;
 };
 
-/// The probability between two points, in either order, both excluded, with full relative accuracy
-/// where it is small because the points are in one tail. The points follow the parameters.
-[[nodiscard]] Extended ProbabilityBetween(const Distribution& distribution,
-                                          DistributionArguments arguments);
+/// The families in the order of --help.
+[[nodiscard]] std::span<const Family> Families();
 
-/// The distributions in the order of --help.
-[[nodiscard]] std::span<const Distribution> Distributions();
+/// The family with the given name or alias; null if there is none.
+[[nodiscard]] const Family* FindFamily(std::string_view name);
 
 }  // namespace qorvex::apps

@@ -4,7 +4,13 @@
 #include <cstdint>
 #include <limits>
 
+#include "qorvex/base/text.h"
+
 namespace qorvex::apps {
+
+std::string NumberParameter::Description() const {
+  return std::string("The ") + name + (has_default ? ". Default: " + Float2Str(start) : "");
+}
 
 const char* WhatIsWrong(Extended value, NumberKind kind) {
   const auto is_whole = [value](Extended largest) {

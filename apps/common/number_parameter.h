@@ -1,9 +1,9 @@
 #pragma once
 
 /// @file
-/// Numbers that distributions and variates take, and what they may be.
+/// The parameters of distributions and variates, and which numbers they take.
 
-#include <optional>
+#include <string>
 
 #include "qorvex/base/element_types.h"
 
@@ -14,7 +14,7 @@ enum class NumberKind {
   kReal,
   kReals,             ///< with commas between them
   kPositive,          ///< and not subnormal
-  kShape,             ///< a shape, in the range of the full-precision routines
+  kShape,             ///< a shape, in the range of the distributions
   kDegreesOfFreedom,  ///< the same, and whole for the classic routines
   kShare,             ///< from 0 to 1
   kProbability,       ///< between 0 and 1
@@ -29,31 +29,36 @@ enum class NumberKind {
 /// The most points of a table, which is in memory before any of it is printed.
 inline constexpr Extended kMostPoints = 1e7L;
 
+/// A parameter, for both programs: an option of a command and a cell of a form.
 struct NumberParameter {
   const char* option;
-  const char* description;
+  /// As it follows "The": "degrees of freedom".
+  const char* name;
   NumberKind kind;
-  /// What it is when it is not given; none if it has to be.
-  std::optional<Extended> standard = std::nullopt;
+  /// What a form starts with, and the option's default if it has one.
+  Extended start = 0;
+  bool has_default = false;
+
+  /// "The scale. Default: 1"
+  [[nodiscard]] std::string Description() const;
 };
 
-inline constexpr NumberParameter kMean = {"--mean", "The mean. Default: 0", NumberKind::kReal, 0};
-inline constexpr NumberParameter kStdDev = {"--std-dev", "The standard deviation. Default: 1",
-                                            NumberKind::kPositive, 1};
-inline constexpr NumberParameter kScale = {"--scale", "The scale. Default: 1",
-                                           NumberKind::kPositive, 1};
-inline constexpr NumberParameter kLowerEnd = {
-    "--lower-end", "The lower end of the support. Default: 0", NumberKind::kReal, 0};
-inline constexpr NumberParameter kUpperEnd = {
-    "--upper-end", "The upper end of the support. Default: 1", NumberKind::kReal, 1};
+inline constexpr NumberParameter kMean = {"--mean", "mean", NumberKind::kReal, 0, true};
+inline constexpr NumberParameter kStdDev = {"--std-dev", "standard deviation",
+                                            NumberKind::kPositive, 1, true};
+inline constexpr NumberParameter kScale = {"--scale", "scale", NumberKind::kPositive, 1, true};
+inline constexpr NumberParameter kLowerEnd = {"--lower-end", "lower end of the support",
+                                              NumberKind::kReal, 0, true};
+inline constexpr NumberParameter kUpperEnd = {"--upper-end", "upper end of the support",
+                                              NumberKind::kReal, 1, true};
 inline constexpr NumberParameter kSuccessProbability = {
-    "--success-probability", "The probability of success in each trial", NumberKind::kShare};
-inline constexpr NumberParameter kLambda = {"--lambda", "The mean", NumberKind::kPositive};
+    "--success-probability", "probability of success in each trial", NumberKind::kShare, 0.3L};
+inline constexpr NumberParameter kLambda = {"--lambda", "mean", NumberKind::kPositive, 4};
 
-/// What is wrong with a number of the given kind; null if it is fine.
+/// What is wrong with a number of the given kind; null if it is valid.
 [[nodiscard]] const char* WhatIsWrong(Extended value, NumberKind kind);
 
-/// What is wrong with the ends of a support; null if they are fine.
+/// What is wrong with the ends of a support; null if they are valid.
 [[nodiscard]] const char* WhatIsWrongWithEnds(Extended lower, Extended upper);
 
 }  // namespace qorvex::apps

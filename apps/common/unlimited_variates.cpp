@@ -6,7 +6,8 @@
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/random/QorvexRandom.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/figures.h"
+#include "qorvex/stats/distributions/poisson.h"
 
 namespace qorvex::apps {
 
@@ -69,7 +70,7 @@ Extended DrawPoisson(Extended mean, UniformSource source) {
   // More than the classic search leaves out.
   constexpr Extended far_tail = 1e-9L;
   if (above > far_tail) return Random_Poisson(mean, [u] { return u; });
-  return static_cast<Extended>(full_precision::PoissonUpperQuantile(mean, above));
+  return static_cast<Extended>(UpperQuantile(PoissonDistribution(mean), above));
 }
 
 Extended DrawVonMises(Extended k, UniformSource source) {

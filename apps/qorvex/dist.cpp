@@ -25,11 +25,9 @@ constexpr const char* kNumbersHelp = R"(Numbers:
   Figures keep full relative accuracy in both tails. --classic computes with
   the classic routines of the unit QorvexStatistics, which lose small tails.)";
 
-using Numbers = std::vector<Extended>;
-
 struct DistArguments {
   /// The parameters, then the points or the range.
-  Numbers numbers;
+  std::vector<Extended> numbers;
   std::optional<Extended> lower_probability;
   std::optional<Extended> upper_probability;
   /// The steps of a continuous table.
@@ -44,42 +42,38 @@ using SharedArguments = std::shared_ptr<DistArguments>;
 void AddNumberInOrder(CLI::App& command, const SharedArguments& arguments,
                       const NumberParameter& parameter) {
   const std::size_t index = arguments->numbers.size();
-  arguments->numbers.push_back(parameter.standard.value_or(0));
+  arguments->numbers.push_back(parameter.start);
   CLI::Option& option =
-      AddNumber(command, parameter.option, parameter.description, parameter.kind,
+      AddNumber(command, parameter.option, parameter.Description(), parameter.kind,
                 [arguments, index](Extended value) { arguments->numbers[index] = value; });
-  if (!parameter.standard) option.required();
+  if (!parameter.has_default) option.required();
 }
 
-NumberKind PointKind(const Distribution& distribution) {
-  return distribution.is_discrete ? NumberKind::kCount : NumberKind::kReal;
+NumberKind PointKind(const Family& family) {
+  return family.is_discrete ? NumberKind::kCount : NumberKind::kReal;
 }
 
-void AddPoint(CLI::App& command, const Distribution& distribution,
-              const SharedArguments& arguments) {
-  AddNumberInOrder(
-      command, arguments,
-      {distribution.is_discrete ? "--k" : "--x", "The point", PointKind(distribution)});
+void AddPoint(CLI::App& command, const Family& family, const SharedArguments& arguments) {
+  AddNumberInOrder(command, arguments,
+                   {family.is_discrete ? "--k" : "--x", "point", PointKind(family)});
 }
 
-void AddPointAndLog(CLI::App& command, const Distribution& distribution,
-                    const SharedArguments& arguments) {
-  AddPoint(command, distribution, arguments);
+void AddPointAndLog(CLI::App& command, const Family& family, const SharedArguments& arguments) {
+  AddPoint(command, family, arguments);
   command
       .add_flag("--log", arguments->log,
                 "The natural logarithm, also where the probability underflows")
       ->excludes(command.get_option("--classic"));
 }
 
-void AddTwoPoints(CLI::App& command, const Distribution& distribution,
-                  const SharedArguments& arguments) {
-  const NumberKind kind = PointKind(distribution);
-  const bool discrete = distribution.is_discrete;
-  AddNumberInOrder(command, arguments, {discrete ? "--k1" : "--x1", "One point", kind});
-  AddNumberInOrder(command, arguments, {discrete ? "--k2" : "--x2", "The other point", kind});
+void AddTwoPoints(CLI::App& command, const Family& family, const SharedArguments& arguments) {
+  const NumberKind kind = PointKind(family);
+  const bool discrete = family.is_discrete;
+  AddNumberInOrder(command, arguments, {discrete ? "--k1" : "--x1", "first point", kind});
+  AddNumberInOrder(command, arguments, {discrete ? "--k2" : "--x2", "second point", kind});
 }
 
-void AddProbability(CLI::App& command, const Distribution&, const SharedArguments& arguments) {
+void AddProbability(CLI::App& command, const Family&, const SharedArguments& arguments) {
   CLI::Option_group& group = *command.add_option_group("Probability", "One of");
   const auto add = [&](const char* option, const char* description,
                        std::optional<Extended> DistArguments::*probability) {
@@ -91,12 +85,11 @@ void AddProbability(CLI::App& command, const Distribution&, const SharedArgument
   group.require_option(1);
 }
 
-void AddRange(CLI::App& command, const Distribution& distribution,
-              const SharedArguments& arguments) {
-  const NumberKind kind = PointKind(distribution);
-  AddNumberInOrder(command, arguments, {"--from", "The first point", kind});
-  AddNumberInOrder(command, arguments, {"--to", "The last point", kind});
-  if (distribution.is_discrete) return;
+void AddRange(CLI::App& command, const Family& family, const SharedArguments& arguments) {
+  const NumberKind kind = PointKind(family);
+  AddNumberInOrder(command, arguments, {"--from", "first point", kind});
+  AddNumberInOrder(command, arguments, {"--to", "last point", kind});
+  if (family.is_discrete) return;
   AddNumber(command, "--n", "The number of steps; there is one point more", NumberKind::kSteps,
             [arguments](Extended n) { arguments->steps = n; })
       .required();
@@ -109,70 +102,72 @@ Routine Existing(Routine routine) {
   throw CLI::ValidationError("--classic", "there is no such routine in QorvexStatistics");
 }
 
-// Rounding can leave a classic sum above 1, and what it leaves of 1 below 0.
-Extended ClassicProbability(DistributionRoutine routine, const DistArguments& arguments) {
+// Rounding can raise a classic sum above 1, and so 1 minus it below 0.
+Extended ClassicProbability(ClassicRoutines::Routine routine, const DistArguments& arguments) {
   const Extended probability = Existing(routine)(arguments.numbers);
   if (probability < 0) return 0;
   return probability > 1 ? 1 : probability;
 }
 
-Numbers WithLast(Numbers numbers, Extended last) {
-  numbers.back() = last;
-  return numbers;
+std::unique_ptr<const AnyDistribution> DistributionOf(const Family& family,
+                                                      const DistArguments& arguments) {
+  return family.make(Numbers(arguments.numbers).first(family.parameters.size()));
 }
 
-// A figure for the last of the numbers, a point. At an end of the support and beyond it, a
-// logarithm or a density can be infinite; anywhere else it is a finite one beyond the range.
-Extended InRange(Extended figure, const Distribution& distribution, const Numbers& numbers) {
-  if (!std::isinf(figure) || distribution.is_discrete) return figure;
-  const Support support =
-      distribution.support == nullptr ? Support() : distribution.support(numbers);
-  const Extended point = numbers.back();
-  if (point > support.least && point < support.greatest) throw EOverflow();
+// A figure at a point. At an end of the support and beyond it, a logarithm or a density can be
+// infinite; anywhere else that is a finite figure beyond the range.
+Extended InRange(Extended figure, const Family& family, const AnyDistribution& distribution,
+                 Extended point) {
+  if (!std::isinf(figure) || family.is_discrete) return figure;
+  const auto [least, greatest] = distribution.Support();
+  if (point > least && point < greatest) throw EOverflow();
   return figure;
 }
 
-Extended Less(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return ClassicProbability(distribution.classic.less, arguments);
-  const FullPrecisionRoutines& routines = distribution.full_precision;
-  const DistributionRoutine lower = arguments.log ? routines.log_lower : routines.lower;
-  if (!distribution.is_discrete)
-    return InRange(lower(arguments.numbers), distribution, arguments.numbers);
-  // Fewer than k are at most k - 1; fewer than none is impossible, though the parameters are
-  // checked all the same.
-  const Extended k = arguments.numbers.back();
-  const Extended at_most = lower(WithLast(arguments.numbers, k > 0 ? k - 1 : 0));
-  if (k > 0) return at_most;
-  return arguments.log ? -std::numeric_limits<Extended>::infinity() : 0;
+Extended Less(const Family& family, const DistArguments& arguments) {
+  if (arguments.classic) return ClassicProbability(family.classic.less, arguments);
+  const auto distribution = DistributionOf(family, arguments);
+  // Fewer than k are at most k - 1; below 0 there is none.
+  const Extended point = arguments.numbers.back() - (family.is_discrete ? 1 : 0);
+  const Extended figure =
+      arguments.log ? LogLower(*distribution, point) : Lower(*distribution, point);
+  return InRange(figure, family, *distribution, point);
 }
 
-Extended Greater(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return ClassicProbability(distribution.classic.greater, arguments);
-  const FullPrecisionRoutines& routines = distribution.full_precision;
-  const Extended upper = (arguments.log ? routines.log_upper : routines.upper)(arguments.numbers);
-  return InRange(upper, distribution, arguments.numbers);
+Extended Greater(const Family& family, const DistArguments& arguments) {
+  if (arguments.classic) return ClassicProbability(family.classic.greater, arguments);
+  const auto distribution = DistributionOf(family, arguments);
+  const Extended point = arguments.numbers.back();
+  const Extended figure =
+      arguments.log ? LogUpper(*distribution, point) : Upper(*distribution, point);
+  return InRange(figure, family, *distribution, point);
 }
 
-Extended Between(const Distribution& distribution, const DistArguments& arguments) {
-  if (arguments.classic) return ClassicProbability(distribution.classic.between, arguments);
-  return ProbabilityBetween(distribution, arguments.numbers);
+Extended Between(const Family& family, const DistArguments& arguments) {
+  if (arguments.classic) return ClassicProbability(family.classic.between, arguments);
+  const Numbers points = Numbers(arguments.numbers).last(2);
+  return DistributionOf(family, arguments)->ProbabilityBetween(points[0], points[1]);
 }
 
-Extended Quantile(const Distribution& distribution, const DistArguments& arguments) {
-  Numbers numbers = arguments.numbers;
+Extended Quantile(const Family& family, const DistArguments& arguments) {
   const bool from_below = arguments.lower_probability.has_value();
-  numbers.push_back(from_below ? *arguments.lower_probability : *arguments.upper_probability);
-  const FullPrecisionRoutines& full_precision = distribution.full_precision;
-  const ClassicRoutines& classic = distribution.classic;
-  if (!arguments.classic)
-    return (from_below ? full_precision.quantile : full_precision.upper_quantile)(numbers);
-  return Existing(from_below ? classic.quantile : classic.upper_quantile)(numbers);
+  const Extended probability =
+      from_below ? *arguments.lower_probability : *arguments.upper_probability;
+  if (!arguments.classic) {
+    return DistributionOf(family, arguments)
+        ->Quantile(from_below ? Tail::kLower : Tail::kUpper, probability);
+  }
+  std::vector<Extended> numbers = arguments.numbers;
+  numbers.push_back(probability);
+  return Existing(from_below ? family.classic.quantile : family.classic.upper_quantile)(numbers);
 }
 
-Extended Density(const Distribution& distribution, const DistArguments& arguments) {
-  const DistributionRoutine density = arguments.classic ? Existing(distribution.classic.density)
-                                                        : distribution.full_precision.density;
-  return InRange(density(arguments.numbers), distribution, arguments.numbers);
+Extended Density(const Family& family, const DistArguments& arguments) {
+  const auto distribution = DistributionOf(family, arguments);
+  const Extended point = arguments.numbers.back();
+  const Extended density = arguments.classic ? Existing(family.classic.density)(arguments.numbers)
+                                             : distribution->Pdf(point);
+  return InRange(density, family, *distribution, point);
 }
 
 std::string Text(Extended value, const DistArguments& arguments) {
@@ -181,60 +176,54 @@ std::string Text(Extended value, const DistArguments& arguments) {
   return FigureText(value, arguments.decimals);
 }
 
-template <Extended (*compute)(const Distribution&, const DistArguments&)>
-std::string OneLine(const Distribution& distribution, const DistArguments& arguments) {
-  return Text(compute(distribution, arguments), arguments) + '\n';
+template <Extended (*compute)(const Family&, const DistArguments&)>
+std::string OneLine(const Family& family, const DistArguments& arguments) {
+  return Text(compute(family, arguments), arguments) + '\n';
 }
 
-std::string TableOfCounts(const Distribution& distribution, DistArguments arguments) {
+std::string TableOfCounts(const Family& family, DistArguments arguments) {
   const Extended last = arguments.numbers.back();
   arguments.numbers.pop_back();
   Extended& k = arguments.numbers.back();
   if (last < k) throw CLI::ValidationError("--to", "counts ascend, so it must not be below --from");
   if (last - k >= kMostPoints)
     throw CLI::ValidationError("--to", "a table has at most 10000000 points");
+  const auto distribution = DistributionOf(family, arguments);
   std::string lines;
-  for (; k <= last; ++k) lines += Float2Str(k) + ',' + OneLine<Density>(distribution, arguments);
+  for (; k <= last; ++k) {
+    const Extended density = arguments.classic ? Existing(family.classic.density)(arguments.numbers)
+                                               : distribution->Pdf(k);
+    lines += Float2Str(k) + ',' + Text(density, arguments) + '\n';
+  }
   return lines;
 }
 
-std::string Table(const Distribution& distribution, const DistArguments& arguments) {
-  if (distribution.is_discrete) return TableOfCounts(distribution, arguments);
-  const auto n = static_cast<std::int32_t>(arguments.steps);
-  TQorFloatVector x_values;
-  TQorFloatVector densities;
-  Numbers numbers = arguments.numbers;
-  const Extended to = numbers.back();
-  numbers.pop_back();
-  const Extended from = numbers.back();
+std::string TableOf(const Family& family, const DistArguments& arguments) {
+  if (family.is_discrete) return TableOfCounts(family, arguments);
+  const auto distribution = DistributionOf(family, arguments);
+  DensityTable<Extended> table;
   if (arguments.classic) {
-    Existing(distribution.classic.table)(arguments.numbers, n, x_values, densities);
+    Existing(family.classic.table)(arguments.numbers, static_cast<std::int32_t>(arguments.steps),
+                                   table.points, table.densities);
   } else {
-    const Extended step = n >= 1 ? (to - from) / arguments.steps : 0;
-    const std::size_t length = static_cast<std::size_t>(n) + 1;
-    x_values = TQorFloatVector::ForOverwrite(length);
-    densities = TQorFloatVector::ForOverwrite(length);
-    for (std::size_t i = 0; i < length; ++i) {
-      x_values[i] = numbers.back() = static_cast<Extended>(i) * step + from;
-      densities[i] = distribution.full_precision.density(numbers);
-    }
+    const Numbers range = Numbers(arguments.numbers).last(2);
+    table = Table(*distribution, range[0], range[1], static_cast<std::uint32_t>(arguments.steps));
   }
   std::string lines;
-  for (std::size_t i = 0; i < x_values.size(); ++i) {
-    const Extended x = numbers.back() = x_values[i];
-    const Extended density = InRange(densities[i], distribution, numbers);
+  for (std::size_t i = 0; i < table.points.size(); ++i) {
+    const Extended x = table.points[i];
+    const Extended density = InRange(table.densities[i], family, *distribution, x);
     lines += Text(x, arguments) + ',' + Text(density, arguments) + '\n';
   }
   return lines;
 }
 
-// A command of every distribution.
+// A command of every family.
 struct Question {
   const char* name;
   const char* summary;
-  void (*add_options)(CLI::App& command, const Distribution& distribution,
-                      const SharedArguments& arguments);
-  std::string (*answer)(const Distribution& distribution, const DistArguments& arguments);
+  void (*add_options)(CLI::App& command, const Family& family, const SharedArguments& arguments);
+  std::string (*answer)(const Family& family, const DistArguments& arguments);
 };
 
 constexpr Question kQuestions[] = {
@@ -244,12 +233,12 @@ constexpr Question kQuestions[] = {
      OneLine<Between>},
     {"inv", "The point with a given lower or upper probability", AddProbability, OneLine<Quantile>},
     {"pdf", "The density at a point, or the probability of a count", AddPoint, OneLine<Density>},
-    {"table", "The densities over a range, one line \"point,density\" each", AddRange, Table},
+    {"table", "The densities over a range, one line \"point,density\" each", AddRange, TableOf},
 };
 
-void RequireWholeNumbers(const Distribution& distribution, const DistArguments& arguments) {
-  for (std::size_t i = 0; i < distribution.parameters.size(); ++i) {
-    const NumberParameter& parameter = distribution.parameters[i];
+void RequireWholeNumbers(const Family& family, const DistArguments& arguments) {
+  for (std::size_t i = 0; i < family.parameters.size(); ++i) {
+    const NumberParameter& parameter = family.parameters[i];
     const Extended value = arguments.numbers[i];
     if (parameter.kind != NumberKind::kDegreesOfFreedom) continue;
     if (const char* const wrong = WhatIsWrong(value, NumberKind::kCount)) {
@@ -259,52 +248,50 @@ void RequireWholeNumbers(const Distribution& distribution, const DistArguments& 
   }
 }
 
-// Whether the full-precision routines answer what the classic ones did not.
-bool AnswersInFullPrecision(const Distribution& distribution, const Question& question,
-                            DistArguments arguments) {
+// Whether there is an answer without --classic.
+bool AnswersWithoutClassic(const Family& family, const Question& question,
+                           DistArguments arguments) {
   arguments.classic = false;
   try {
-    question.answer(distribution, arguments);
+    question.answer(family, arguments);
     return true;
   } catch (const EMathError&) {
     return false;
   }
 }
 
-[[noreturn]] void RefuseAnswer(const EMathError& error, const Distribution& distribution,
+[[noreturn]] void RefuseAnswer(const EMathError& error, const Family& family,
                                const Question& question, const DistArguments& arguments) {
-  const bool helps = arguments.classic && AnswersInFullPrecision(distribution, question, arguments);
-  throw Refusal(std::string(distribution.name) + ' ' + question.name, error,
+  const bool helps = arguments.classic && AnswersWithoutClassic(family, question, arguments);
+  throw Refusal(std::string(family.name) + ' ' + question.name, error,
                 helps ? "; without --classic there is no such limit" : "");
 }
 
-void Run(const Distribution& distribution, const Question& question,
-         const DistArguments& arguments) {
-  if (arguments.classic) RequireWholeNumbers(distribution, arguments);
-  if (distribution.inconsistency != nullptr) {
-    if (const char* const what = distribution.inconsistency(arguments.numbers))
+void Run(const Family& family, const Question& question, const DistArguments& arguments) {
+  if (arguments.classic) RequireWholeNumbers(family, arguments);
+  if (family.inconsistency != nullptr) {
+    if (const char* const what = family.inconsistency(arguments.numbers))
       throw CLI::ValidationError(what);
   }
   try {
-    WriteResult(question.answer(distribution, arguments));
+    WriteResult(question.answer(family, arguments));
   } catch (const EMathError& error) {
-    RefuseAnswer(error, distribution, question, arguments);
+    RefuseAnswer(error, family, question, arguments);
   }
 }
 
-void AddQuestion(CLI::App& family, const Distribution& distribution, const Question& question) {
-  CLI::App& command = *family.add_subcommand(question.name, question.summary);
+void AddQuestion(CLI::App& parent, const Family& family, const Question& question) {
+  CLI::App& command = *parent.add_subcommand(question.name, question.summary);
   const auto arguments = std::make_shared<DistArguments>();
-  for (const NumberParameter& parameter : distribution.parameters)
+  for (const NumberParameter& parameter : family.parameters)
     AddNumberInOrder(command, arguments, parameter);
   command.add_flag("--classic", arguments->classic,
                    "Compute with the classic routines of QorvexStatistics");
-  question.add_options(command, distribution, arguments);
+  question.add_options(command, family, arguments);
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
   command.footer(std::string(kNumbersHelp) + kExitStatusHelp + kNothingPrintedHelp);
-  command.callback(
-      [&distribution, &question, arguments] { Run(distribution, question, *arguments); });
+  command.callback([&family, &question, arguments] { Run(family, question, *arguments); });
 }
 
 }  // namespace
@@ -312,10 +299,11 @@ void AddQuestion(CLI::App& family, const Distribution& distribution, const Quest
 void AddDist(CLI::App& program) {
   CLI::App& dist =
       *program.add_subcommand("dist", "Probabilities, densities and quantiles of distributions");
-  for (const Distribution& distribution : Distributions()) {
-    CLI::App& family = *dist.add_subcommand(distribution.name, distribution.summary);
-    for (const Question& question : kQuestions) AddQuestion(family, distribution, question);
-    RequireOneCommand(family, std::string("A command of dist ") + distribution.name);
+  for (const Family& family : Families()) {
+    CLI::App& command = *dist.add_subcommand(family.name, family.summary);
+    for (const char* const alias : family.aliases) command.alias(alias);
+    for (const Question& question : kQuestions) AddQuestion(command, family, question);
+    RequireOneCommand(command, std::string("A command of dist ") + family.name);
   }
   RequireOneCommand(dist, "A distribution");
 }

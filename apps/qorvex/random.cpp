@@ -65,7 +65,7 @@ TQorFloatVector ParseList(const std::string& option, const std::string& text, Nu
 void AddParameter(CLI::App& command, const NumberParameter& parameter,
                   const SharedArguments& arguments) {
   const std::size_t index = arguments->parameters.size();
-  arguments->parameters.Append({parameter.standard.value_or(0)});
+  arguments->parameters.Append({parameter.start});
   const std::string name = parameter.option;
   CLI::Option& option =
       parameter.kind == NumberKind::kReals
@@ -75,12 +75,12 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
                      [arguments, index, name](const std::string& text) {
                        arguments->parameters.Set(index, ParseList(name, text, NumberKind::kReals));
                      },
-                     parameter.description)
+                     parameter.Description())
                  ->type_name("X,X,...")
           : AddNumber(
-                command, name, parameter.description, parameter.kind,
+                command, name, parameter.Description(), parameter.kind,
                 [arguments, index](Extended value) { arguments->parameters.Set(index, {value}); });
-  if (!parameter.standard) option.required();
+  if (!parameter.has_default) option.required();
 }
 
 void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments& arguments) {

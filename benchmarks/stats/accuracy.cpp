@@ -1,4 +1,4 @@
-// Prints the errors of the distributions' routines beside other libraries', over tables of 30-digit
+// Prints the errors of the distributions beside those of other libraries, over tables of 30-digit
 // values, as Markdown.
 
 #include <algorithm>
@@ -71,17 +71,20 @@ std::string Summary(const Errors& errors) {
 
 void Print() {
   std::puts(
-      "| routine | table, column | rows | full precision, all rows | full precision | classic | "
-      "Boost.Math | GSL | R |");
+      "| figure | table, column | rows | classes, all rows | classes | classic | Boost.Math | GSL "
+      "| R "
+      "|");
   std::puts("|---|---|---|---|---|---|---|---|---|");
   constexpr Extended usual = 1e-20L;
-  for (const Figure& figure : testing::FullPrecisionFigures()) {
-    const Table table(std::string("tables/") + figure.table + ".csv");
-    const Contestants& others = AllContestants().at(figure.routine);
+  for (const Figure& figure : testing::DistributionFigures()) {
+    const Table table(figure.file);
+    const auto found = AllContestants().find(figure.name);
+    const Contestants others = found == AllContestants().end() ? Contestants() : found->second;
     const auto cell = [&](const Routine& routine, Extended least) {
       std::printf(" %s |", routine ? Summary(Measure(table, figure, routine, least)).c_str() : "-");
     };
-    std::printf("| %s | %s, %s | %zu |", figure.routine, figure.table, figure.column, table.size());
+    std::printf("| %s | %s, %s | %zu |", figure.name.c_str(), figure.file.c_str(),
+                figure.column.c_str(), table.size());
     cell(figure.compute, std::numeric_limits<Extended>::min());
     for (const Routine& routine :
          {figure.compute, others.classic, others.boost, others.gsl, others.r}) {

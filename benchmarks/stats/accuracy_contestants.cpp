@@ -49,27 +49,27 @@ Hypergeometric Draws(const Row& row) {
 // Counts below are inclusive in these libraries, exclusive in our classic routines.
 const std::map<std::string, Contestants>& AllContestants() {
   static const std::map<std::string, Contestants> all{
-      {"NormalLower",
+      {"normal lower",
        {[](const Row& r) -> Extended { return NormalDistLess(0, 1, r("x_dec")); },
         [](const Row& r) -> Extended { return cdf(Normal(), r("x_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_ugaussian_P(D(r, "x_dec")); },
         [](const Row& r) -> Extended { return pnorm(D(r, "x_dec"), 0, 1, 1, 0); }}},
-      {"NormalUpper",
+      {"normal upper",
        {[](const Row& r) -> Extended { return NormalDistGreater(0, 1, r("x_dec")); },
         [](const Row& r) -> Extended { return cdf(complement(Normal(), r("x_dec"))); },
         [](const Row& r) -> Extended { return gsl_cdf_ugaussian_Q(D(r, "x_dec")); },
         [](const Row& r) -> Extended { return pnorm(D(r, "x_dec"), 0, 1, 0, 0); }}},
-      {"NormalPdf",
+      {"normal density",
        {[](const Row& r) -> Extended { return NormalPDF(r("x_dec"), 0, 1); },
         [](const Row& r) -> Extended { return pdf(Normal(), r("x_dec")); },
         [](const Row& r) -> Extended { return gsl_ran_ugaussian_pdf(D(r, "x_dec")); },
         [](const Row& r) -> Extended { return dnorm(D(r, "x_dec"), 0, 1, 0); }}},
-      {"NormalQuantile",
+      {"normal quantile",
        {[](const Row& r) -> Extended { return InvNormalLess(r("p_dec")); },
         [](const Row& r) -> Extended { return quantile(Normal(), r("p_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_ugaussian_Pinv(D(r, "p_dec")); },
         [](const Row& r) -> Extended { return qnorm(D(r, "p_dec"), 0, 1, 1, 0); }}},
-      {"LogNormalLower",
+      {"log-normal lower",
        {[](const Row& r) -> Extended {
           return LogNormalLess(r("mu_dec"), r("sigma_dec"), r("x_dec"));
         },
@@ -82,7 +82,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return plnorm(D(r, "x_dec"), D(r, "mu_dec"), D(r, "sigma_dec"), 1, 0);
         }}},
-      {"LogNormalUpper",
+      {"log-normal upper",
        {[](const Row& r) -> Extended {
           return LogNormalGreater(r("mu_dec"), r("sigma_dec"), r("x_dec"));
         },
@@ -95,7 +95,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return plnorm(D(r, "x_dec"), D(r, "mu_dec"), D(r, "sigma_dec"), 0, 0);
         }}},
-      {"ExponentialLower",
+      {"exponential lower",
        {[](const Row& r) -> Extended {
           return ExponentialLess(testing::MeanOf(r), testing::PointOf(r));
         },
@@ -110,7 +110,7 @@ const std::map<std::string, Contestants>& AllContestants() {
           return pexp(static_cast<double>(testing::PointOf(r)),
                       static_cast<double>(testing::MeanOf(r)), 1, 0);
         }}},
-      {"ExponentialUpper",
+      {"exponential upper",
        {[](const Row& r) -> Extended {
           return ExponentialGreater(testing::MeanOf(r), testing::PointOf(r));
         },
@@ -125,56 +125,56 @@ const std::map<std::string, Contestants>& AllContestants() {
           return pexp(static_cast<double>(testing::PointOf(r)),
                       static_cast<double>(testing::MeanOf(r)), 0, 0);
         }}},
-      {"GammaLower",
+      {"gamma lower",
        {[](const Row& r) -> Extended { return IncompleteGamma(r("a_dec"), r("x_dec")); },
         [](const Row& r) -> Extended { return cdf(Gamma(r("a_dec")), r("x_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_gamma_P(D(r, "x_dec"), D(r, "a_dec"), 1); },
         [](const Row& r) -> Extended { return pgamma(D(r, "x_dec"), D(r, "a_dec"), 1, 1, 0); }}},
-      {"GammaUpper",
+      {"gamma upper",
        {{},
         [](const Row& r) -> Extended { return cdf(complement(Gamma(r("a_dec")), r("x_dec"))); },
         [](const Row& r) -> Extended { return gsl_cdf_gamma_Q(D(r, "x_dec"), D(r, "a_dec"), 1); },
         [](const Row& r) -> Extended { return pgamma(D(r, "x_dec"), D(r, "a_dec"), 1, 0, 0); }}},
-      {"GammaQuantile",
+      {"gamma quantile",
        {{},
         [](const Row& r) -> Extended { return quantile(Gamma(r("a_dec")), r("p_dec")); },
         [](const Row& r) -> Extended {
           return gsl_cdf_gamma_Pinv(D(r, "p_dec"), D(r, "a_dec"), 1);
         },
         [](const Row& r) -> Extended { return qgamma(D(r, "p_dec"), D(r, "a_dec"), 1, 1, 0); }}},
-      {"ChiSquareLower",
+      {"chi-square lower",
        {[](const Row& r) -> Extended { return ChiSquareLess(r("x_dec"), r.Count("df")); },
         [](const Row& r) -> Extended { return cdf(ChiSquared(r("df")), r("x_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_chisq_P(D(r, "x_dec"), D(r, "df")); },
         [](const Row& r) -> Extended { return pchisq(D(r, "x_dec"), D(r, "df"), 1, 0); }}},
-      {"ChiSquareUpper",
+      {"chi-square upper",
        {[](const Row& r) -> Extended { return ChiSquareGreater(r("x_dec"), r.Count("df")); },
         [](const Row& r) -> Extended { return cdf(complement(ChiSquared(r("df")), r("x_dec"))); },
         [](const Row& r) -> Extended { return gsl_cdf_chisq_Q(D(r, "x_dec"), D(r, "df")); },
         [](const Row& r) -> Extended { return pchisq(D(r, "x_dec"), D(r, "df"), 0, 0); }}},
-      {"ChiSquareQuantile",
+      {"chi-square quantile",
        {[](const Row& r) -> Extended { return InvChiSquareLess(r.Count("df"), r("p_dec")); },
         [](const Row& r) -> Extended { return quantile(ChiSquared(r("df")), r("p_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_chisq_Pinv(D(r, "p_dec"), D(r, "df")); },
         [](const Row& r) -> Extended { return qchisq(D(r, "p_dec"), D(r, "df"), 1, 0); }}},
-      {"StudentTLower",
+      {"student-t lower",
        {[](const Row& r) -> Extended { return StudentTLess(r("t_dec"), Whole(r, "df_dec")); },
         [](const Row& r) -> Extended { return cdf(StudentsT(r("df_dec")), r("t_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_tdist_P(D(r, "t_dec"), D(r, "df_dec")); },
         [](const Row& r) -> Extended { return pt(D(r, "t_dec"), D(r, "df_dec"), 1, 0); }}},
-      {"StudentTUpper",
+      {"student-t upper",
        {[](const Row& r) -> Extended { return StudentTGreater(r("t_dec"), Whole(r, "df_dec")); },
         [](const Row& r) -> Extended {
           return cdf(complement(StudentsT(r("df_dec")), r("t_dec")));
         },
         [](const Row& r) -> Extended { return gsl_cdf_tdist_Q(D(r, "t_dec"), D(r, "df_dec")); },
         [](const Row& r) -> Extended { return pt(D(r, "t_dec"), D(r, "df_dec"), 0, 0); }}},
-      {"StudentTQuantile",
+      {"student-t quantile",
        {[](const Row& r) -> Extended { return InvStudentTLess(r.Count("df"), r("p_dec")); },
         [](const Row& r) -> Extended { return quantile(StudentsT(r("df")), r("p_dec")); },
         [](const Row& r) -> Extended { return gsl_cdf_tdist_Pinv(D(r, "p_dec"), D(r, "df")); },
         [](const Row& r) -> Extended { return qt(D(r, "p_dec"), D(r, "df"), 1, 0); }}},
-      {"FDistLower",
+      {"f lower",
        {[](const Row& r) -> Extended {
           return FDistLess(r("x_dec"), Whole(r, "d1_dec"), Whole(r, "d2_dec"));
         },
@@ -185,7 +185,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return pf(D(r, "x_dec"), D(r, "d1_dec"), D(r, "d2_dec"), 1, 0);
         }}},
-      {"FDistUpper",
+      {"f upper",
        {[](const Row& r) -> Extended {
           return FDistGreater(r("x_dec"), Whole(r, "d1_dec"), Whole(r, "d2_dec"));
         },
@@ -198,7 +198,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return pf(D(r, "x_dec"), D(r, "d1_dec"), D(r, "d2_dec"), 0, 0);
         }}},
-      {"FDistQuantile",
+      {"f quantile",
        {[](const Row& r) -> Extended {
           return InvFDistLess(r.Count("d1"), r.Count("d2"), r("p_dec"));
         },
@@ -207,7 +207,7 @@ const std::map<std::string, Contestants>& AllContestants() {
           return gsl_cdf_fdist_Pinv(D(r, "p_dec"), D(r, "d1"), D(r, "d2"));
         },
         [](const Row& r) -> Extended { return qf(D(r, "p_dec"), D(r, "d1"), D(r, "d2"), 1, 0); }}},
-      {"BetaLower",
+      {"beta lower",
        {[](const Row& r) -> Extended { return BetaDistLess(r("x_dec"), r("a_dec"), r("b_dec")); },
         [](const Row& r) -> Extended { return cdf(Beta(r("a_dec"), r("b_dec")), r("x_dec")); },
         [](const Row& r) -> Extended {
@@ -216,7 +216,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return pbeta(D(r, "x_dec"), D(r, "a_dec"), D(r, "b_dec"), 1, 0);
         }}},
-      {"BetaUpper",
+      {"beta upper",
        {[](const Row& r) -> Extended {
           return BetaDistGreater(r("x_dec"), r("a_dec"), r("b_dec"));
         },
@@ -229,7 +229,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return pbeta(D(r, "x_dec"), D(r, "a_dec"), D(r, "b_dec"), 0, 0);
         }}},
-      {"BetaQuantile",
+      {"beta quantile",
        {[](const Row& r) -> Extended {
           return InvBetaDistLess(r("a_dec"), r("b_dec"), r("p_dec"));
         },
@@ -240,14 +240,14 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return qbeta(D(r, "p_dec"), D(r, "a_dec"), D(r, "b_dec"), 1, 0);
         }}},
-      {"BinomialPmf",
+      {"binomial density",
        {[](const Row& r) -> Extended { return BinomialEq(r("p_dec"), r.Count("n"), r.Count("k")); },
         [](const Row& r) -> Extended { return pdf(Binomial(r("n"), r("p_dec")), r("k")); },
         [](const Row& r) -> Extended {
           return gsl_ran_binomial_pdf(r.Count("k"), D(r, "p_dec"), r.Count("n"));
         },
         [](const Row& r) -> Extended { return dbinom(D(r, "k"), D(r, "n"), D(r, "p_dec"), 0); }}},
-      {"BinomialLower",
+      {"binomial lower",
        {[](const Row& r) -> Extended {
           return BinomialLess(r("p_dec"), r.Count("n"), r.Count("k") + 1);
         },
@@ -258,7 +258,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return pbinom(D(r, "k"), D(r, "n"), D(r, "p_dec"), 1, 0);
         }}},
-      {"BinomialUpper",
+      {"binomial upper",
        {[](const Row& r) -> Extended {
           return BinomialGreater(r("p_dec"), r.Count("n"), r.Count("k"));
         },
@@ -271,7 +271,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return pbinom(D(r, "k"), D(r, "n"), D(r, "p_dec"), 0, 0);
         }}},
-      {"HyperGeometricPmf",
+      {"hypergeometric density",
        {[](const Row& r) -> Extended {
           return HyperGeometricEq(r.Count("N"), r.Count("n"), r.Count("K"), r.Count("k"));
         },
@@ -283,7 +283,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return dhyper(D(r, "k"), D(r, "K"), D(r, "N") - D(r, "K"), D(r, "n"), 0);
         }}},
-      {"HyperGeometricLower",
+      {"hypergeometric lower",
        {[](const Row& r) -> Extended {
           return HyperGeometricLess(r.Count("N"), r.Count("n"), r.Count("K"), r.Count("k") + 1);
         },
@@ -295,7 +295,7 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return phyper(D(r, "k"), D(r, "K"), D(r, "N") - D(r, "K"), D(r, "n"), 1, 0);
         }}},
-      {"HyperGeometricUpper",
+      {"hypergeometric upper",
        {[](const Row& r) -> Extended {
           return HyperGeometricGreater(r.Count("N"), r.Count("n"), r.Count("K"), r.Count("k"));
         },
@@ -307,21 +307,21 @@ const std::map<std::string, Contestants>& AllContestants() {
         [](const Row& r) -> Extended {
           return phyper(D(r, "k"), D(r, "K"), D(r, "N") - D(r, "K"), D(r, "n"), 0, 0);
         }}},
-      {"PoissonPmf",
+      {"poisson density",
        {[](const Row& r) -> Extended { return PoissonEq(r("lambda_dec"), r.Count("k")); },
         [](const Row& r) -> Extended { return pdf(Poisson(r("lambda_dec")), r("k")); },
         [](const Row& r) -> Extended {
           return gsl_ran_poisson_pdf(r.Count("k"), D(r, "lambda_dec"));
         },
         [](const Row& r) -> Extended { return dpois(D(r, "k"), D(r, "lambda_dec"), 0); }}},
-      {"PoissonLower",
+      {"poisson lower",
        {[](const Row& r) -> Extended { return PoissonLess(r("lambda_dec"), r.Count("k") + 1); },
         [](const Row& r) -> Extended { return cdf(Poisson(r("lambda_dec")), r("k")); },
         [](const Row& r) -> Extended {
           return gsl_cdf_poisson_P(r.Count("k"), D(r, "lambda_dec"));
         },
         [](const Row& r) -> Extended { return ppois(D(r, "k"), D(r, "lambda_dec"), 1, 0); }}},
-      {"PoissonUpper",
+      {"poisson upper",
        {[](const Row& r) -> Extended { return PoissonGreater(r("lambda_dec"), r.Count("k")); },
         [](const Row& r) -> Extended { return cdf(complement(Poisson(r("lambda_dec")), r("k"))); },
         [](const Row& r) -> Extended {

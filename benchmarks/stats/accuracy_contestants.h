@@ -18,7 +18,7 @@ struct Contestants {
   Routine r;
 };
 
-/// By the name of our full-precision function.
+/// By the name of the figure: "gamma lower".
 const std::map<std::string, Contestants>& AllContestants();
 
 }  // namespace qorvex::benchmarks

@@ -1,6 +1,6 @@
-// What one figure of each distribution costs, and a table of a hundred thousand densities. Ours are
-// the routines with full precision; "classic" are those of QorvexStatistics. Boost computes in
-// long double, GSL in double.
+// What one figure of each distribution costs, a table of a hundred thousand densities, and a curve
+// of a thousand points. Ours are the classes; "classic" are the routines of QorvexStatistics. Boost
+// computes in long double, GSL in double.
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -14,15 +14,19 @@
 #include <vector>
 
 #include "qorvex/stats/QorvexStatistics.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 
 namespace qorvex::benchmarks {
 namespace {
 
-namespace fp = full_precision;
 namespace bm = boost::math;
 
 using Routine = Extended (*)(Extended);
+
+template <class D>
+typename D::Point ToPoint(Extended x) {
+  return static_cast<typename D::Point>(x);
+}
 
 // The figures of a distribution with given parameters; null where the contestant has none.
 struct Figures {
@@ -32,12 +36,13 @@ struct Figures {
   Routine quantile = nullptr;
 };
 
-#define QORVEX_FULL(Family, density, Point, ...)                                               \
-  Figures {                                                                                    \
-    [](Extended x) { return fp::Family##density(__VA_ARGS__, static_cast<Point>(x)); },        \
-        [](Extended x) { return fp::Family##Lower(__VA_ARGS__, static_cast<Point>(x)); },      \
-        [](Extended x) { return fp::Family##Upper(__VA_ARGS__, static_cast<Point>(x)); },      \
-        [](Extended p) { return static_cast<Extended>(fp::Family##Quantile(__VA_ARGS__, p)); } \
+// A distribution is made anew for each figure, as the classic routines and the peers do.
+#define QORVEX_CLASS(...)                                                                 \
+  Figures {                                                                               \
+    [](Extended x) { return Density(__VA_ARGS__, ToPoint<decltype(__VA_ARGS__)>(x)); },   \
+        [](Extended x) { return Lower(__VA_ARGS__, ToPoint<decltype(__VA_ARGS__)>(x)); }, \
+        [](Extended x) { return Upper(__VA_ARGS__, ToPoint<decltype(__VA_ARGS__)>(x)); }, \
+        [](Extended p) { return static_cast<Extended>(Quantile(__VA_ARGS__, p)); }        \
   }
 
 #define QORVEX_PARAMETERS_FIRST(Family, Distribution, ...)                 \
@@ -174,18 +179,41 @@ void CompareTables(const std::string& family, TableRoutine ours,
   }
 }
 
+// A curve of a thousand lower probabilities from one object, and from one made for each point.
+template <class Make>
+void CompareCurves(const std::string& family, Make make) {
+  using D = decltype(make());
+  std::vector<typename D::Point> points;
+  for (const Extended p : Probabilities()) points.push_back(Quantile(make(), p));
+  const auto add = [&](const char* who, auto fill) {
+    benchmark::RegisterBenchmark(
+        (family + " curve/Float/" + who + "/1000").c_str(), [=](benchmark::State& state) {
+          std::vector<Extended> out(points.size());
+          for (auto _ : state) {
+            fill(points, out);
+            benchmark::DoNotOptimize(out.data());
+          }
+          state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(points.size()));
+        });
+  };
+  add("ours", [=](const auto& in, auto& out) { Evaluate(make(), Lower<D>, in, out); });
+  add("an object a point", [=](const auto& in, auto& out) {
+    std::ranges::transform(in, out.begin(), [=](auto x) { return Lower(make(), x); });
+  });
+}
+
 [[maybe_unused]] const bool registered = [] {
   const Figures boost_normal = QORVEX_BOOST(normal_distribution<Extended>(0, 1));
   const Figures gsl_normal = QORVEX_GSL(gaussian, 1);
-  CompareFigures("normal", {{"ours", QORVEX_FULL(Normal, Pdf, Extended, 0, 1)},
+  CompareFigures("normal", {{"ours", QORVEX_CLASS(NormalDistribution(0, 1))},
                             {"classic", QORVEX_PARAMETERS_FIRST(Normal, NormalDist, 0, 1)},
                             {"Boost", boost_normal},
                             {"GSL", gsl_normal}});
-  CompareFigures("log-normal", {{"ours", QORVEX_FULL(LogNormal, Pdf, Extended, 0.5L, 2)},
+  CompareFigures("log-normal", {{"ours", QORVEX_CLASS(LogNormalDistribution(0.5L, 2))},
                                 {"classic", QORVEX_PARAMETERS_FIRST(LogNormal, LogNormal, 0.5L, 2)},
                                 {"Boost", QORVEX_BOOST(lognormal_distribution<Extended>(0.5L, 2))},
                                 {"GSL", QORVEX_GSL(lognormal, 0.5, 2)}});
-  CompareFigures("exponential", {{"ours", QORVEX_FULL(Exponential, Pdf, Extended, 2)},
+  CompareFigures("exponential", {{"ours", QORVEX_CLASS(ExponentialDistribution(2))},
                                  {"classic",
                                   {[](Extended x) { return ExponentialPDF(x, 2); },
                                    [](Extended x) { return ExponentialLess(2, x); },
@@ -193,42 +221,46 @@ void CompareTables(const std::string& family, TableRoutine ours,
                                  {"Boost", QORVEX_BOOST(exponential_distribution<Extended>(0.5L))},
                                  {"GSL", QORVEX_GSL(exponential, 2)}});
   CompareFigures("gamma",
-                 {{"ours", QORVEX_FULL(Gamma, Pdf, Extended, 3.5L, 1)},
+                 {{"ours", QORVEX_CLASS(GammaDistribution(3.5L, 1))},
                   {"classic", {.lower = [](Extended x) { return IncompleteGamma(3.5L, x); }}},
                   {"Boost", QORVEX_BOOST(gamma_distribution<Extended>(3.5L, 1))},
                   {"GSL", QORVEX_GSL(gamma, 3.5, 1)}});
   const Figures boost_chi_square = QORVEX_BOOST(chi_squared_distribution<Extended>(10));
   const Figures gsl_chi_square = QORVEX_GSL(chisq, 10);
-  CompareFigures("chi-square", {{"ours", QORVEX_FULL(ChiSquare, Pdf, Extended, 10)},
+  CompareFigures("chi-square", {{"ours", QORVEX_CLASS(ChiSquareDistribution(10))},
                                 {"classic", QORVEX_POINT_FIRST(ChiSquare, ChiSquare, 10)},
                                 {"Boost", boost_chi_square},
                                 {"GSL", gsl_chi_square}});
-  CompareFigures("Student t", {{"ours", QORVEX_FULL(StudentT, Pdf, Extended, 7)},
+  CompareFigures("Student t", {{"ours", QORVEX_CLASS(StudentTDistribution(7))},
                                {"classic", QORVEX_POINT_FIRST(StudentT, StudentT, 7)},
                                {"Boost", QORVEX_BOOST(students_t_distribution<Extended>(7))},
                                {"GSL", QORVEX_GSL(tdist, 7)}});
-  CompareFigures("F", {{"ours", QORVEX_FULL(FDist, Pdf, Extended, 5, 12)},
+  CompareFigures("F", {{"ours", QORVEX_CLASS(FDistribution(5, 12))},
                        {"classic", QORVEX_POINT_FIRST(FDist, FDist, 5, 12)},
                        {"Boost", QORVEX_BOOST(fisher_f_distribution<Extended>(5, 12))},
                        {"GSL", QORVEX_GSL(fdist, 5, 12)}});
-  CompareFigures("beta", {{"ours", QORVEX_FULL(Beta, Pdf, Extended, 2.5L, 1.5L)},
+  CompareFigures("beta", {{"ours", QORVEX_CLASS(BetaDistribution(2.5L, 1.5L))},
                           {"classic", QORVEX_POINT_FIRST(Beta, BetaDist, 2.5L, 1.5L)},
                           {"Boost", QORVEX_BOOST(beta_distribution<Extended>(2.5L, 1.5L))},
                           {"GSL", QORVEX_GSL(beta, 2.5, 1.5)}});
-  CompareFigures("binomial", {{"ours", QORVEX_FULL(Binomial, Pmf, std::uint32_t, 0.3L, 100)},
+  CompareFigures("binomial", {{"ours", QORVEX_CLASS(BinomialDistribution(0.3L, 100))},
                               {"classic", QORVEX_COUNTS(Binomial, 0.3L, 100)},
                               {"Boost", QORVEX_BOOST(binomial_distribution<Extended>(100, 0.3L))},
                               {"GSL", QORVEX_GSL_DISCRETE(binomial, 0.3, 100)}});
   CompareFigures("hypergeometric",
-                 {{"ours", QORVEX_FULL(HyperGeometric, Pmf, std::uint32_t, 500, 60, 100)},
+                 {{"ours", QORVEX_CLASS(HypergeometricDistribution(500, 60, 100))},
                   {"classic", QORVEX_COUNTS(HyperGeometric, 500, 60, 100)},
                   {"Boost", QORVEX_BOOST(hypergeometric_distribution<Extended>(100, 60, 500))},
                   {"GSL", QORVEX_GSL_DISCRETE(hypergeometric, 100, 400, 60)}});
-  CompareFigures("Poisson", {{"ours", QORVEX_FULL(Poisson, Pmf, std::uint32_t, 12.5L)},
+  CompareFigures("Poisson", {{"ours", QORVEX_CLASS(PoissonDistribution(12.5L))},
                              {"classic", QORVEX_COUNTS(Poisson, 12.5L)},
                              {"Boost", QORVEX_BOOST(poisson_distribution<Extended>(12.5L))},
                              {"GSL", QORVEX_GSL_DISCRETE(poisson, 12.5)}});
 
+  CompareCurves("gamma", [] { return GammaDistribution(3.7L); });
+  CompareCurves("beta", [] { return BetaDistribution(2.7L, 1.6L); });
+  CompareCurves("F", [] { return FDistribution(5, 12); });
+  CompareCurves("Student t", [] { return StudentTDistribution(7.3L); });
   CompareTables("normal",
                 [](std::int32_t n, TQorFloatVector& xs, TQorFloatVector& ys) {
                   NormalPDFValues(0, 1, 0.01L, 8, n, xs, ys);

@@ -9,7 +9,7 @@
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/QorvexRandom.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 #include "random/distribution_battery.h"
 #include "random/scripted_source.h"
 
@@ -17,7 +17,6 @@ namespace qorvex::apps {
 
 namespace {
 
-namespace fp = full_precision;
 using testing::Reference;
 using testing::ScriptedSource;
 
@@ -36,17 +35,11 @@ Extended Drawn(const VariateMethod& method, Extended parameter, UniformSource so
 }
 
 Reference StudentT(Extended df) {
-  return {[df](Extended x) { return fp::StudentTLower(df, x); },
-          [df](Extended p) { return fp::StudentTQuantile(df, p); },
-          {df > 2 ? 0 : kNaN, df > 4 ? df / (df - 2) : kNaN},
-          {-kInfinity, kInfinity}};
+  return testing::ReferenceOf(StudentTDistribution(df), df > 4);
 }
 
 Reference Poisson(Extended mean) {
-  return {[mean](Extended x) { return fp::PoissonLower(mean, static_cast<std::uint32_t>(x)); },
-          [mean](Extended p) { return static_cast<Extended>(fp::PoissonQuantile(mean, p)); },
-          {mean, mean},
-          {0, kInfinity, true}};
+  return testing::ReferenceOf(PoissonDistribution(mean));
 }
 
 // By integration as far as 12 standard deviations out.

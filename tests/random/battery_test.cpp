@@ -7,7 +7,7 @@
 #include <string>
 
 #include "qorvex/base/elementary.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 #include "random/distribution_battery.h"
 #include "random/variates.h"
 
@@ -15,62 +15,47 @@ namespace qorvex {
 
 namespace {
 
-namespace fp = full_precision;
 using testing::Draw;
 using testing::ExpectAgreement;
 using testing::Judge;
 using testing::Moments;
 using testing::Reference;
+using testing::ReferenceOf;
 using testing::Support;
 
 constexpr Support kReal{-kInfinity, kInfinity};
 constexpr Support kPositive{0, kInfinity};
 constexpr Support kCounts{0, kInfinity, true};
 
-// A family of the library whose points are of the given type.
-template <class Point = Extended, class Lower, class Quantile, class... FamilyParameters>
-Reference Family(Lower lower, Quantile quantile, Moments moments, Support support,
-                 FamilyParameters... parameters) {
-  return {[=](Extended x) { return lower(parameters..., static_cast<Point>(x)); },
-          [=](Extended p) { return static_cast<Extended>(quantile(parameters..., p)); }, moments,
-          support};
-}
-
 Reference Normal(Extended mean, Extended std_dev) {
-  return Family(fp::NormalLower, fp::NormalQuantile, {mean, std_dev * std_dev}, kReal, mean,
-                std_dev);
+  return ReferenceOf(NormalDistribution(mean, std_dev));
 }
 
 // Variates below 5E-324 are 0. The variance of small shapes depends on a few variates.
 Reference Gamma(Extended shape, Extended = 0) {
-  Reference gamma = Family(fp::GammaLower, fp::GammaQuantile, {shape, shape < 0.1L ? kNaN : shape},
-                           kPositive, shape, 1);
+  Reference gamma = ReferenceOf(GammaDistribution(shape));
+  if (shape < 0.1L) gamma.moments.variance = kNaN;
   gamma.quantile = [exact = gamma.quantile](Extended p) { return std::max(exact(p), 5e-324L); };
   return gamma;
 }
 
 Reference ChiSquare(Extended df, Extended = 0) {
-  return Family(fp::ChiSquareLower, fp::ChiSquareQuantile, {df, 2 * df}, kPositive, df);
+  return ReferenceOf(ChiSquareDistribution(df));
 }
 
 // Variates close to 1 are rounded to it.
 Reference Beta(Extended a, Extended b) {
-  const Extended sum = a + b;
-  Reference beta = Family(fp::BetaLower, fp::BetaQuantile,
-                          {a / sum, a * b / (sum * sum * (sum + 1))}, {0, 1}, a, b);
+  Reference beta = ReferenceOf(BetaDistribution(a, b));
   beta.quantile = [exact = beta.quantile](Extended p) { return std::min(exact(p), 1 - 1e-16L); };
   return beta;
 }
 
 Reference StudentT(Extended df) {
-  return Family(fp::StudentTLower, fp::StudentTQuantile,
-                {df > 2 ? 0 : kNaN, df > 4 ? df / (df - 2) : kNaN}, kReal, df);
+  return ReferenceOf(StudentTDistribution(df), df > 4);
 }
 
 Reference LogNormal(Extended m, Extended s) {
-  const Extended mean = std::exp(m + s * s / 2);
-  return Family(fp::LogNormalLower, fp::LogNormalQuantile, {mean, mean * mean * std::expm1(s * s)},
-                kPositive, m, s);
+  return ReferenceOf(LogNormalDistribution(m, s));
 }
 
 Reference Weibull(Extended a, Extended = 0) {
@@ -110,8 +95,8 @@ Reference InverseGaussian(Extended mean, Extended shape) {
   const Reference reciprocal = GeneralisedInverseGaussian(shape / mean, 0.5L);
   return {[=](Extended x) {
             const Extended root = std::sqrt(shape / x);
-            return fp::NormalLower(0, 1, root * (x / mean - 1)) +
-                   std::exp(2 * shape / mean) * fp::NormalLower(0, 1, -root * (x / mean + 1));
+            return Lower(NormalDistribution(), root * (x / mean - 1)) +
+                   std::exp(2 * shape / mean) * Lower(NormalDistribution(), -root * (x / mean + 1));
           },
           [=](Extended p) { return mean / reciprocal.quantile(1 - p); },
           {mean, mean * mean * mean / shape},
@@ -124,14 +109,13 @@ Reference VonMises(Extended k, Extended = 0) {
 }
 
 Reference Poisson(Extended mu, Extended = 0) {
-  return Family<std::uint32_t>(fp::PoissonLower, fp::PoissonQuantile, {mu, mu}, kCounts, mu);
+  return ReferenceOf(PoissonDistribution(mu));
 }
 
 // For more trials than the family takes the Poisson distribution, which is off by p at most.
 Reference Binomial(Extended n, Extended p) {
   if (n > 0x1p32L) return Poisson(n * p);
-  return Family<std::uint32_t>(fp::BinomialLower, fp::BinomialQuantile, {n * p, n * p * (1 - p)},
-                               {0, n, true}, p, static_cast<std::uint32_t>(n));
+  return ReferenceOf(BinomialDistribution(p, static_cast<std::uint32_t>(n)));
 }
 
 // By the quotients of neighbouring probabilities.

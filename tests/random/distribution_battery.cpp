@@ -5,7 +5,7 @@
 #include <numeric>
 #include <random>
 
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/distributions.h"
 
 namespace qorvex::testing {
 
@@ -53,7 +53,7 @@ Extended ChiSquareP(const Cells& cells, const std::vector<int>& counts, int draw
     const Extended excess = counts[i] - expected;
     chi_square += excess * excess / expected;
   }
-  return full_precision::ChiSquareUpper(static_cast<Extended>(counts.size() - 1), chi_square);
+  return Upper(ChiSquareDistribution(static_cast<Extended>(counts.size() - 1)), chi_square);
 }
 
 // The greatest difference is looked for at the edges only. In between it can be larger by what
@@ -75,7 +75,7 @@ Extended KolmogorovSmirnovP(const Cells& cells, const std::vector<int>& counts, 
 }
 
 Extended NormalP(Extended z) {
-  return 2 * full_precision::NormalUpper(0, 1, std::fabs(z));
+  return 2 * Upper(NormalDistribution(), std::fabs(z));
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "qorvex/random/uniform_source.h"
+#include "qorvex/stats/distributions/figures.h"
 #include "support/environment.h"
 #include "support/test.h"
 
@@ -35,6 +36,17 @@ struct Reference {
   Moments moments;
   Support support;
 };
+
+/// A distribution of the library; without its variance where the fourth moment is infinite.
+template <Distribution D>
+Reference ReferenceOf(const D& d, bool has_fourth_moment = true) {
+  const auto [least, greatest] = d.Support();
+  const bool has_variance = std::isfinite(d.Variance());
+  return {[d](Extended x) { return Lower(d, static_cast<typename D::Point>(x)); },
+          [d](Extended p) { return static_cast<Extended>(Quantile(d, p)); },
+          {has_variance ? d.Mean() : kNaN, has_fourth_moment ? d.Variance() : kNaN},
+          {static_cast<Extended>(least), static_cast<Extended>(greatest), DiscreteDistribution<D>}};
+}
 
 /// The distribution with the probabilities of at most points[i], given up to a common factor.
 Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,

@@ -9,7 +9,7 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
-#include "qorvex/stats/full_precision.h"
+#include "qorvex/stats/distributions/normal.h"
 
 namespace qorvex::gallery {
 
@@ -39,10 +39,10 @@ PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_de
                   {}};
   const Extended low = std::min(histogram.edges.front(), mean - reach * std_dev);
   const Extended high = std::max(histogram.edges.back(), mean + reach * std_dev);
+  const NormalDistribution normal(mean, std_dev);
   for (int i = 0; i <= steps; ++i) {
     const Extended x = low + (high - low) * i / steps;
-    layer.points.emplace_back(static_cast<double>(x),
-                              static_cast<double>(full_precision::NormalPdf(mean, std_dev, x)));
+    layer.points.emplace_back(static_cast<double>(x), static_cast<double>(normal.Pdf(x)));
   }
   return layer;
 }

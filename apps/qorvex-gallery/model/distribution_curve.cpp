@@ -5,29 +5,21 @@
 
 namespace qorvex::gallery {
 
-Extended FigureAt(apps::DistributionRoutine routine, std::span<const Extended> parameters,
-                  Extended point) {
-  std::vector<Extended> arguments(parameters.begin(), parameters.end());
-  arguments.push_back(point);
-  return routine(arguments);
-}
-
-Range MiddleOf(const apps::Distribution& distribution, std::span<const Extended> parameters) {
+Interval<Extended> MiddleOf(const apps::AnyDistribution& distribution) {
   constexpr Extended tail = 1e-3L;
-  return {FigureAt(distribution.full_precision.quantile, parameters, tail),
-          FigureAt(distribution.full_precision.upper_quantile, parameters, tail)};
+  return {distribution.Quantile(Tail::kLower, tail), distribution.Quantile(Tail::kUpper, tail)};
 }
 
-std::vector<Extended> PlottedPoints(const Range& range, bool counts) {
+std::vector<Extended> PlottedPoints(const Interval<Extended>& range, bool counts) {
   constexpr Extended most_steps = 400;
-  const Extended width = range.to - range.from;
+  const Extended width = range.greatest - range.least;
   Extended step = width / most_steps;
   if (counts) step = std::max<Extended>(1, std::ceil(step));
   std::vector<Extended> points;
-  if (!(step > 0) || !std::isfinite(step)) return {range.from};
+  if (!(step > 0) || !std::isfinite(step)) return {range.least};
   const auto steps = static_cast<int>(width / step);
-  for (int i = 0; i < steps; ++i) points.push_back(range.from + step * i);
-  points.push_back(range.to);
+  for (int i = 0; i < steps; ++i) points.push_back(range.least + step * i);
+  points.push_back(range.greatest);
   return points;
 }
 

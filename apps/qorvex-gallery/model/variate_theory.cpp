@@ -1,13 +1,12 @@
 #include "apps/qorvex-gallery/model/variate_theory.h"
 
+#include <algorithm>
 #include <cmath>
-#include <limits>
-#include <numbers>
-#include <string_view>
+#include <memory>
 #include <vector>
 
 #include "apps/common/distributions.h"
-#include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "qorvex/base/errors.h"
 
 namespace qorvex::gallery {
 
@@ -15,103 +14,28 @@ namespace {
 
 using Parameters = std::span<const Extended>;
 
-// NaN for what there is not.
-constexpr Extended kNone = std::numeric_limits<Extended>::quiet_NaN();
-
-Extended WeibullDensity(Parameters p, Extended x) {
-  if (!(x > 0)) return 0;
-  const Extended power = std::pow(x / p[1], p[0]);
-  return std::abs(p[0]) / x * power * std::exp(-power);
+// A variate may go beyond what the family computes, such as 2^32 trials.
+bool Takes(const apps::Family& family, Parameters parameters) {
+  return std::equal(parameters.begin(), parameters.end(), family.parameters.begin(),
+                    [](Extended number, const apps::NumberParameter& parameter) {
+                      return apps::WhatIsWrong(number, parameter.kind) == nullptr;
+                    });
 }
 
-// The mean of the power of a Weibull variate of scale 1.
-Extended WeibullMoment(Parameters p, int power) {
-  const Extended argument = 1 + static_cast<Extended>(power) / p[0];
-  return argument > 0 ? std::tgamma(argument) : kNone;
-}
-
-Extended CauchyDensity(Parameters p, Extended x) {
-  const Extended distance = (x - p[0]) / p[1];
-  return std::numbers::inv_pi_v<Extended> / (p[1] * (1 + distance * distance));
-}
-
-// The Bessel function I0 of x >= 0, times e^-x: by its power series, and by its asymptotic one
-// where the terms of that fall below 1e-20.
-Extended ScaledBesselI0(Extended x) {
-  const bool far = x > 30;
-  Extended term = 1;
-  Extended sum = 1;
-  for (int i = 1; term > sum * 1e-20L; ++i) {
-    const auto n = static_cast<Extended>(i);
-    term *= far ? (2 * n - 1) * (2 * n - 1) / (8 * n * x) : x * x / (4 * n * n);
-    sum += term;
+// The variate's distribution, or null where the family does not take the parameters.
+std::shared_ptr<const apps::AnyDistribution> DistributionOf(const apps::Family& family,
+                                                            Parameters parameters) {
+  if (!Takes(family, parameters)) return nullptr;
+  std::vector<Extended> numbers(parameters.begin(), parameters.end());
+  // What a variate leaves out, such as the ends of uniform values, has a default.
+  while (numbers.size() < family.parameters.size())
+    numbers.push_back(family.parameters[numbers.size()].start);
+  try {
+    return family.make(numbers);
+  } catch (const EMathError&) {
+    return nullptr;
   }
-  return sum * (far ? 1 / std::sqrt(2 * std::numbers::pi_v<Extended> * x) : std::exp(-x));
 }
-
-Extended VonMisesDensity(Parameters p, Extended x) {
-  const Extended sine = std::sin(x / 2);
-  return std::exp(-2 * p[0] * sine * sine) /
-         (2 * std::numbers::pi_v<Extended> * ScaledBesselI0(p[0]));
-}
-
-Extended NegativeBinomialProbability(Parameters p, Extended k) {
-  return std::exp(std::lgamma(k + p[1]) - std::lgamma(k + 1) - std::lgamma(p[1]) +
-                  k * std::log(p[0]) + p[1] * std::log1p(-p[0]));
-}
-
-struct Moments {
-  std::string_view variate;
-  Extended (*mean)(Parameters p);
-  Extended (*variance)(Parameters p);
-};
-
-constexpr Moments kMoments[] = {
-    {"uniform", [](Parameters) { return 0.5L; }, [](Parameters) { return 1 / 12.0L; }},
-    {"normal", [](Parameters p) { return p[0]; }, [](Parameters p) { return p[1] * p[1]; }},
-    {"exponential", [](Parameters p) { return p[0]; }, [](Parameters p) { return p[0] * p[0]; }},
-    {"gamma", [](Parameters p) { return p[0] * p[1]; },
-     [](Parameters p) { return p[0] * p[1] * p[1]; }},
-    {"chi-square", [](Parameters p) { return p[0]; }, [](Parameters p) { return 2 * p[0]; }},
-    {"weibull", [](Parameters p) { return p[1] * WeibullMoment(p, 1); },
-     [](Parameters p) {
-       const Extended mean = WeibullMoment(p, 1);
-       return p[1] * p[1] * (WeibullMoment(p, 2) - mean * mean);
-     }},
-    {"beta", [](Parameters p) { return p[2] + (p[3] - p[2]) * p[0] / (p[0] + p[1]); },
-     [](Parameters p) {
-       const Extended sum = p[0] + p[1];
-       const Extended width = p[3] - p[2];
-       return width * width * p[0] * p[1] / (sum * sum * (sum + 1));
-     }},
-    {"student-t", [](Parameters p) { return p[0] > 1 ? 0 : kNone; },
-     [](Parameters p) { return p[0] > 2 ? p[0] / (p[0] - 2) : kNone; }},
-    {"log-normal", [](Parameters p) { return std::exp(p[0] + p[1] * p[1] / 2); },
-     [](Parameters p) {
-       const Extended square = p[1] * p[1];
-       return std::expm1(square) * std::exp(2 * p[0] + square);
-     }},
-    {"von-mises", [](Parameters) { return 0.0L; }, [](Parameters) { return kNone; }},
-    {"binomial", [](Parameters p) { return p[0] * p[1]; },
-     [](Parameters p) { return p[0] * p[1] * (1 - p[0]); }},
-    {"negative-binomial", [](Parameters p) { return p[1] * p[0] / (1 - p[0]); },
-     [](Parameters p) { return p[1] * p[0] / ((1 - p[0]) * (1 - p[0])); }},
-    {"poisson", [](Parameters p) { return p[0]; }, [](Parameters p) { return p[0]; }},
-};
-
-struct OwnDensity {
-  std::string_view variate;
-  Extended (*density)(Parameters p, Extended x);
-};
-
-// Of the variates that are no families of distributions.
-constexpr OwnDensity kOwnDensities[] = {
-    {"uniform", [](Parameters, Extended x) { return x >= 0 && x < 1 ? 1.0L : 0.0L; }},
-    {"weibull", WeibullDensity},
-    {"cauchy", CauchyDensity},
-    {"von-mises", VonMisesDensity},
-    {"negative-binomial", NegativeBinomialProbability},
-};
 
 std::optional<Extended> Existing(Extended value) {
   return std::isfinite(value) ? std::optional(value) : std::nullopt;
@@ -120,25 +44,14 @@ std::optional<Extended> Existing(Extended value) {
 }  // namespace
 
 VariateTheory TheoryOf(const apps::Variate& variate, Parameters parameters) {
-  const std::string_view name = variate.name;
-  const std::vector<Extended> kept(parameters.begin(), parameters.end());
+  const apps::Family* const family = apps::FindFamily(variate.name);
+  if (family == nullptr) return {};
   VariateTheory theory;
-  for (const apps::Distribution& distribution : apps::Distributions()) {
-    if (distribution.name != name) continue;
-    theory.is_count = distribution.is_discrete;
-    theory.density = [&distribution, kept](Extended x) {
-      return FigureAt(distribution.full_precision.density, kept, x);
-    };
-  }
-  for (const OwnDensity& own : kOwnDensities) {
-    if (own.variate != name) continue;
-    theory.is_count = own.density == NegativeBinomialProbability;
-    theory.density = [&own, kept](Extended x) { return own.density(kept, x); };
-  }
-  for (const Moments& moments : kMoments) {
-    if (moments.variate != name) continue;
-    theory.mean = Existing(moments.mean(parameters));
-    theory.variance = Existing(moments.variance(parameters));
+  theory.is_count = family->is_discrete;
+  if (const auto distribution = DistributionOf(*family, parameters)) {
+    theory.density = [distribution](Extended x) { return distribution->Pdf(x); };
+    theory.mean = Existing(distribution->Mean());
+    theory.variance = Existing(distribution->Variance());
   }
   return theory;
 }

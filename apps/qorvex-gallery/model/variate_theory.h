@@ -11,7 +11,8 @@
 
 namespace qorvex::gallery {
 
-/// Empty is what has no closed form, or does not exist.
+/// From the catalogue of distributions. Empty where no family has the variate, and where a moment is
+/// infinite or does not exist.
 struct VariateTheory {
   /// The density, or the probability of a count.
   std::function<Extended(Extended)> density;

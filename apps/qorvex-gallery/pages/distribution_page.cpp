@@ -65,8 +65,8 @@ DistributionPage::DistributionPage(QWidget* parent)
   plot_->setObjectName(QStringLiteral("plot"));
   figures_->setObjectName(QStringLiteral("figures"));
 
-  for (const apps::Distribution& distribution : apps::Distributions())
-    family_->addItem(Title(QString::fromUtf8(distribution.name)));
+  for (const apps::Family& family : apps::Families())
+    family_->addItem(Title(QString::fromUtf8(family.name)));
   question_->addItems({tr("Both sides of a point"), tr("Inside and outside an interval")});
   side_->addItems({tr("At most the quantile"), tr("More than the quantile")});
   summary_->setWordWrap(true);
@@ -114,11 +114,11 @@ DistributionPage::DistributionPage(QWidget* parent)
 
 DistributionPage::~DistributionPage() = default;
 
-const apps::Distribution& DistributionPage::Family() const {
-  return apps::Distributions()[static_cast<std::size_t>(std::max(family_->currentIndex(), 0))];
+const apps::Family& DistributionPage::Family() const {
+  return apps::Families()[static_cast<std::size_t>(std::max(family_->currentIndex(), 0))];
 }
 
-bool DistributionPage::Interval() const {
+bool DistributionPage::IsInterval() const {
   return question_->currentIndex() == 1;
 }
 
@@ -126,8 +126,9 @@ void DistributionPage::ShowFamily() {
   summary_->setText(tr(Family().summary));
   parameters_->SetParameters(Family().parameters);
   // Points that the diagram shows, whatever the family.
-  const auto point = [this](Extended p) {
-    const Extended exact = FigureAt(Family().full_precision.quantile, parameters_->Numbers(), p);
+  const auto distribution = Family().make(parameters_->Numbers());
+  const auto point = [&](Extended p) {
+    const Extended exact = distribution->Quantile(Tail::kLower, p);
     return Family().is_discrete ? exact : std::round(exact * 100) / 100;
   };
   first_->setValue(point(0.2L));
@@ -136,17 +137,22 @@ void DistributionPage::ShowFamily() {
 }
 
 void DistributionPage::Update() {
-  second_->setVisible(Interval());
-  second_label_->setVisible(Interval());
+  second_->setVisible(IsInterval());
+  second_label_->setVisible(IsInterval());
   const QString variable = Family().is_discrete ? QStringLiteral("k") : QStringLiteral("x");
-  first_label_->setText(Interval() ? QStringLiteral("a") : variable);
+  first_label_->setText(IsInterval() ? QStringLiteral("a") : variable);
   second_label_->setText(QStringLiteral("b"));
   const std::vector<Extended> parameters = parameters_->Numbers();
   const QString wrong = WhatIsWrong(parameters);
   if (!wrong.isEmpty()) return message_->SetText(wrong);
-  QStringList messages = {UpdatePoints(parameters), UpdateQuantile(parameters)};
-  messages.removeAll(QString());
-  message_->SetText(messages.join(QStringLiteral("; ")));
+  try {
+    const auto distribution = Family().make(parameters);
+    QStringList messages = {UpdatePoints(*distribution), UpdateQuantile(*distribution)};
+    messages.removeAll(QString());
+    message_->SetText(messages.join(QStringLiteral("; ")));
+  } catch (const std::exception& error) {
+    message_->SetText(QString::fromUtf8(error.what()));
+  }
 }
 
 QString DistributionPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
@@ -156,9 +162,9 @@ QString DistributionPage::WhatIsWrong(const std::vector<Extended>& parameters) c
   return what == nullptr ? QString() : parameters_->Labelled(what);
 }
 
-QString DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) {
+QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution) {
   std::vector<Extended> points = {first_->Value()};
-  if (Interval()) points.push_back(second_->Value());
+  if (IsInterval()) points.push_back(second_->Value());
   const apps::NumberKind kind =
       Family().is_discrete ? apps::NumberKind::kCount : apps::NumberKind::kReal;
   for (std::size_t i = 0; i < points.size(); ++i) {
@@ -168,39 +174,31 @@ QString DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) 
     }
   }
   std::sort(points.begin(), points.end());
-  const apps::FullPrecisionRoutines& routines = Family().full_precision;
-  const auto figure = [&](apps::DistributionRoutine routine, Extended point) {
-    return ExactText(FigureAt(routine, parameters, point));
-  };
   try {
+    const Tails tails = distribution.At(points.front());
     QList<QStringList> figures;
     const Extended a = points.front();
-    if (Interval()) {
-      std::vector<Extended> arguments = parameters;
-      arguments.insert(arguments.end(), points.begin(), points.end());
+    if (IsInterval()) {
+      const Extended b = points.back();
       // At least b is the same as more than b - 1.
-      const bool is_count = Family().is_discrete;
-      const Extended below_b = points.back() - (is_count ? 1 : 0);
-      const bool all = is_count && points.back() == 0;
-      figures = {{tr("P(a < X < b)"), ExactText(apps::ProbabilityBetween(Family(), arguments))},
-                 {tr("P(X ≤ a)"), figure(routines.lower, a)},
-                 {tr("P(X ≥ b)"), all ? ExactText(1) : figure(routines.upper, below_b)},
-                 {tr("ln P(X ≤ a)"), figure(routines.log_lower, a)},
-                 {tr("ln P(X ≥ b)"), all ? ExactText(0) : figure(routines.log_upper, below_b)}};
-    } else if (Family().is_discrete) {
-      figures = {{tr("P(X = k)"), figure(routines.density, a)},
-                 {tr("P(X ≤ k)"), figure(routines.lower, a)},
-                 {tr("P(X > k)"), figure(routines.upper, a)},
-                 {tr("ln P(X ≤ k)"), figure(routines.log_lower, a)},
-                 {tr("ln P(X > k)"), figure(routines.log_upper, a)}};
+      const Tails at_b = distribution.At(Family().is_discrete ? b - 1 : b);
+      figures = {{tr("P(a < X < b)"), ExactText(distribution.ProbabilityBetween(a, b))},
+                 {tr("P(X ≤ a)"), ExactText(tails.Probability(Tail::kLower))},
+                 {tr("P(X ≥ b)"), ExactText(at_b.Probability(Tail::kUpper))},
+                 {tr("ln P(X ≤ a)"), ExactText(tails.LogProbability(Tail::kLower))},
+                 {tr("ln P(X ≥ b)"), ExactText(at_b.LogProbability(Tail::kUpper))}};
     } else {
-      figures = {{tr("Density at x"), figure(routines.density, a)},
-                 {tr("P(X ≤ x)"), figure(routines.lower, a)},
-                 {tr("P(X > x)"), figure(routines.upper, a)},
-                 {tr("ln P(X ≤ x)"), figure(routines.log_lower, a)},
-                 {tr("ln P(X > x)"), figure(routines.log_upper, a)}};
+      const bool is_count = Family().is_discrete;
+      figures = {
+          {is_count ? tr("P(X = k)") : tr("Density at x"), ExactText(distribution.Pdf(a))},
+          {is_count ? tr("P(X ≤ k)") : tr("P(X ≤ x)"), ExactText(tails.Probability(Tail::kLower))},
+          {is_count ? tr("P(X > k)") : tr("P(X > x)"), ExactText(tails.Probability(Tail::kUpper))},
+          {is_count ? tr("ln P(X ≤ k)") : tr("ln P(X ≤ x)"),
+           ExactText(tails.LogProbability(Tail::kLower))},
+          {is_count ? tr("ln P(X > k)") : tr("ln P(X > x)"),
+           ExactText(tails.LogProbability(Tail::kUpper))}};
     }
-    Draw(parameters, points);
+    Draw(distribution, points);
     figures_->SetRows(figures);
   } catch (const std::exception& error) {
     return QString::fromUtf8(error.what());
@@ -208,37 +206,35 @@ QString DistributionPage::UpdatePoints(const std::vector<Extended>& parameters) 
   return {};
 }
 
-QString DistributionPage::UpdateQuantile(const std::vector<Extended>& parameters) {
+QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distribution) {
   const Extended probability = probability_->Value();
   if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability))
     return tr("Probability: %1 %2").arg(ExactText(probability), tr(wrong));
-  const apps::FullPrecisionRoutines& routines = Family().full_precision;
   try {
-    const apps::DistributionRoutine routine =
-        side_->currentIndex() == 0 ? routines.quantile : routines.upper_quantile;
-    quantile_->SetRows({{tr("Quantile"), ExactText(FigureAt(routine, parameters, probability))}});
+    const Tail tail = side_->currentIndex() == 0 ? Tail::kLower : Tail::kUpper;
+    quantile_->SetRows({{tr("Quantile"), ExactText(distribution.Quantile(tail, probability))}});
   } catch (const std::exception& error) {
     return QString::fromUtf8(error.what());
   }
   return {};
 }
 
-void DistributionPage::Draw(const std::vector<Extended>& parameters,
+void DistributionPage::Draw(const apps::AnyDistribution& distribution,
                             const std::vector<Extended>& points) {
-  Range range = MiddleOf(Family(), parameters);
+  Interval<Extended> range = MiddleOf(distribution);
   // The range extends to points just outside; further out, the curve is flat.
-  const Extended margin = range.to - range.from;
+  const Extended margin = range.greatest - range.least;
   const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
-  if (*least < range.from && *least >= range.from - margin) range.from = *least;
-  if (*greatest > range.to && *greatest <= range.to + margin) range.to = *greatest;
+  if (*least < range.least && *least >= range.least - margin) range.least = *least;
+  if (*greatest > range.greatest && *greatest <= range.greatest + margin)
+    range.greatest = *greatest;
   std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
   // The areas end exactly at these points.
   for (const Extended point : points) {
-    if (Family().is_discrete || !(point > range.from) || !(point < range.to)) continue;
+    if (Family().is_discrete || !(point > range.least) || !(point < range.greatest)) continue;
     places.insert(std::upper_bound(places.begin(), places.end(), point), point);
   }
-  const Points curve = DensityAt(
-      [&](Extended x) { return FigureAt(Family().full_precision.density, parameters, x); }, places);
+  const Points curve = DensityAt([&](Extended x) { return distribution.Pdf(x); }, places);
   const bool stems = Family().is_discrete && curve.size() <= kMostStems;
   const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
   const Extended infinity = HUGE_VALL;
@@ -247,7 +243,7 @@ void DistributionPage::Draw(const std::vector<Extended>& parameters,
   const auto a = static_cast<double>(points.front());
   const auto b = static_cast<double>(points.back());
   std::vector<PlotLayer> layers;
-  if (Interval()) {
+  if (IsInterval()) {
     layers.push_back({shape, PlotRole::kData, tr("P(a < X < b)"), Within(curve, a + gap, b - gap)});
     layers.push_back({shape, PlotRole::kTail, tr("Outside"), Within(curve, -infinity, a)});
     layers.push_back({shape, PlotRole::kTail, {}, Within(curve, b, infinity)});

@@ -38,12 +38,12 @@ class DistributionPage : public QWidget {
   void ShowFamily();
   void Update();
   // These return what is wrong, or an empty text.
-  [[nodiscard]] QString UpdatePoints(const std::vector<Extended>& parameters);
-  [[nodiscard]] QString UpdateQuantile(const std::vector<Extended>& parameters);
+  [[nodiscard]] QString UpdatePoints(const apps::AnyDistribution& distribution);
+  [[nodiscard]] QString UpdateQuantile(const apps::AnyDistribution& distribution);
   [[nodiscard]] QString WhatIsWrong(const std::vector<Extended>& parameters) const;
-  void Draw(const std::vector<Extended>& parameters, const std::vector<Extended>& points);
-  [[nodiscard]] const apps::Distribution& Family() const;
-  [[nodiscard]] bool Interval() const;
+  void Draw(const apps::AnyDistribution& distribution, const std::vector<Extended>& points);
+  [[nodiscard]] const apps::Family& Family() const;
+  [[nodiscard]] bool IsInterval() const;
 
   QComboBox* family_;
   QLabel* summary_;

@@ -213,9 +213,9 @@ void RandomPage::ShowSample() {
       sample_->is_cropped ? tr("Sample, without the outermost hundredth") : tr("Sample");
   std::vector<PlotLayer> layers = {{PlotShape::kBars, PlotRole::kData, name, sample_->bars}};
   if (theory.density && !sample_->bars.empty()) try {
-      Range range = {static_cast<Extended>(sample_->bars.front().x()),
-                     static_cast<Extended>(sample_->bars.back().x())};
-      if (theory.is_count) range = {std::ceil(range.from), std::floor(range.to)};
+      Interval<Extended> range = {static_cast<Extended>(sample_->bars.front().x()),
+                                  static_cast<Extended>(sample_->bars.back().x())};
+      if (theory.is_count) range = {std::ceil(range.least), std::floor(range.greatest)};
       const auto curve = DensityAt(theory.density, PlottedPoints(range, theory.is_count));
       layers.push_back({PlotShape::kLine, PlotRole::kModel,
                         theory.is_count ? tr("Probabilities") : tr("Density"), curve});

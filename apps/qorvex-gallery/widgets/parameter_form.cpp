@@ -10,31 +10,8 @@ namespace qorvex::gallery {
 
 namespace {
 
-// Numbers to start from where the parameter has none of its own, chosen for a curve that shows
-// something.
-Extended StartNumber(const apps::NumberParameter& parameter) {
-  if (parameter.standard) return *parameter.standard;
-  static constexpr struct {
-    std::string_view option;
-    Extended number;
-  } kStarts[] = {{"--pop-size", 100},  {"--successes", 30}, {"--trials", 20},
-                 {"--b", 5},           {"--lambda", 4},     {"--success-probability", 0.3L},
-                 {"--sample-size", 20}};
-  for (const auto& start : kStarts) {
-    if (start.option == parameter.option) return start.number;
-  }
-  return parameter.kind >= apps::NumberKind::kSteps ||
-                 parameter.kind == apps::NumberKind::kDegreesOfFreedom
-             ? 5
-             : 2;
-}
-
-// "The lower end of the support. Default: 0" as a label: "Lower end of the support".
 QString LabelOf(const apps::NumberParameter& parameter) {
-  QString text = QString::fromUtf8(parameter.description);
-  text = text.section(QStringLiteral(". "), 0, 0);
-  if (text.startsWith(QStringLiteral("The "))) text = Title(text.mid(4));
-  return text;
+  return Title(QString::fromUtf8(parameter.name));
 }
 
 }  // namespace
@@ -58,7 +35,7 @@ void ParameterForm::SetParameters(std::span<const apps::NumberParameter> paramet
     lines->setSpacing(2);
     auto* const label = new QLabel(LabelOf(parameter), holder);
     label->setWordWrap(true);
-    auto* const cell = MakeNumberCell(StartNumber(parameter), label->text(), holder);
+    auto* const cell = MakeNumberCell(parameter.start, label->text(), holder);
     cell->setObjectName(QString::fromUtf8(parameter.option).mid(2));
     label->setBuddy(cell);
     lines->addWidget(label);

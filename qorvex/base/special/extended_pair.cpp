@@ -62,4 +62,11 @@ ExtendedPair Ln(ExtendedPair x) {
   return kLn2 * ExtendedPair(exponent) + ln_of_grid + TwiceArtanh(s);
 }
 
+ExtendedPair Exp(ExtendedPair x) {
+  const Extended rough = std::exp(x.hi);
+  if (!(rough > 0 && std::isfinite(rough))) return rough;
+  // A step of Newton's iteration for Ln y = x.
+  return OrderedSum(rough, rough * (x - Ln(rough)).hi);
+}
+
 }  // namespace qorvex::special

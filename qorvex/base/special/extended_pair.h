@@ -90,6 +90,9 @@ constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
 /// The natural logarithm of a positive finite value, off by at most 2^-98, and by 2^-93 of itself.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Ln(ExtendedPair x);
 
+/// The exponential function, off by 2^-93 times |x| of itself; 0 and infinity beyond the format.
+[[nodiscard]] QORVEX_EXPORT ExtendedPair Exp(ExtendedPair x);
+
 /// The natural logarithm of a quotient that may be beyond the format.
 [[nodiscard]] inline ExtendedPair LnOfRatio(ExtendedPair ratio, ExtendedPair numerator,
                                             ExtendedPair denominator) {

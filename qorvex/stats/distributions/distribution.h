@@ -16,9 +16,9 @@
 /// - Quantile raises rsValue01 unless 0 < p < 1, and EOverflow where the point is beyond the
 /// format.
 ///   A point too small for the format is 0.
-/// - Mean, Variance and Skewness are NaN where they do not exist, and infinite where they are or
-///   where they exceed the format. Mode is the point of the greatest density or probability, the
-///   least of several.
+/// - Mean, Variance and Skewness are NaN where they do not exist or depend on a parameter that is
+///   NaN, and infinite where they are infinite or exceed the format. Mode is the point of the
+///   greatest density or probability, the least of several.
 /// - Probabilities are off by a dozen units of the 64-bit mantissa at most, in the farthest tail
 ///   too, unless the class says otherwise; quantiles by a few. docs/accuracy.md has the measured
 ///   figures.

@@ -39,22 +39,6 @@ Extended ExponentialDistribution::Quantile(Tail tail, Extended p) const {
   return CheckedFinite(-mean_ * (tail == Tail::kLower ? std::log1p(-p) : std::log(p)));
 }
 
-Extended ExponentialDistribution::Mean() const {
-  return mean_;
-}
-
-Extended ExponentialDistribution::Variance() const {
-  return mean_ * mean_;
-}
-
-Extended ExponentialDistribution::Skewness() const {
-  return AnyNaN(mean_) ? kNotANumber : 2;
-}
-
-Extended ExponentialDistribution::Mode() const {
-  return AnyNaN(mean_) ? kNotANumber : 0;
-}
-
 Interval<Extended> ExponentialDistribution::Support() const {
   return {0, kInfinite};
 }

@@ -27,10 +27,10 @@ class QORVEX_EXPORT ExponentialDistribution {
   [[nodiscard]] Extended Pdf(Extended x) const;
   [[nodiscard]] Tails At(Extended x) const;
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
-  [[nodiscard]] Extended Mean() const;
-  [[nodiscard]] Extended Variance() const;
-  [[nodiscard]] Extended Skewness() const;
-  [[nodiscard]] Extended Mode() const;
+  [[nodiscard]] Extended Mean() const { return mean_; }
+  [[nodiscard]] Extended Variance() const { return mean_ * mean_; }
+  [[nodiscard]] Extended Skewness() const { return 2; }
+  [[nodiscard]] Extended Mode() const { return 0; }
   [[nodiscard]] Interval<Extended> Support() const;
   /// @}
 

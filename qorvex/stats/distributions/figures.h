@@ -6,7 +6,6 @@
 #include <cmath>
 #include <cstddef>
 #include <functional>
-#include <limits>
 #include <span>
 #include <utility>
 
@@ -83,14 +82,6 @@ template <Distribution D>
   return {d.At(a), d.At(b)};
 }
 
-/// ln(e^x - e^y) for x >= y.
-[[nodiscard]] inline Extended LogDifference(Extended x, Extended y) {
-  constexpr Extended ln_2 = 0.69314718055994530942L;
-  if (std::isinf(x)) return x;
-  const Extended d = x - y;
-  return x + (d > ln_2 ? std::log1p(-std::exp(-d)) : std::log(-std::expm1(-d)));
-}
-
 }  // namespace distributions
 
 /// The probability between two points in either order, both excluded; 0 for equal points. The
@@ -116,11 +107,11 @@ template <Distribution D>
   for (const Tail tail : {Tail::kLower, Tail::kUpper}) {
     const Tails& larger = tail == Tail::kLower ? second : first;
     const Tails& smaller = tail == Tail::kLower ? first : second;
-    const Extended probability = larger.Probability(tail);
-    if (!(probability <= half)) continue;
-    const Extended between = probability - smaller.Probability(tail);
-    if (between >= std::numeric_limits<Extended>::min()) return std::log(between);
-    return distributions::LogDifference(larger.LogProbability(tail), smaller.LogProbability(tail));
+    if (!(larger.Probability(tail) <= half)) continue;
+    const special::Scaled minuend = larger.ScaledProbability(tail);
+    const special::Scaled subtrahend = smaller.ScaledProbability(tail);
+    const special::Scaled taken{subtrahend.factor, subtrahend.exponent - minuend.exponent};
+    return special::Scaled{minuend.factor - taken.Value(), minuend.exponent}.Log();
   }
   return std::log1p(-first.Probability(Tail::kLower) - second.Probability(Tail::kUpper));
 }

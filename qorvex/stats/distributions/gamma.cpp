@@ -62,7 +62,7 @@ Extended GammaDistribution::Variance() const {
 }
 
 Extended GammaDistribution::Skewness() const {
-  return AnyNaN(scale_) ? kNotANumber : 2 / std::sqrt(shape_);
+  return 2 / std::sqrt(shape_);
 }
 
 Extended GammaDistribution::Mode() const {

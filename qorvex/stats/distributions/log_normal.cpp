@@ -54,7 +54,7 @@ Extended LogNormalDistribution::Variance() const {
 
 Extended LogNormalDistribution::Skewness() const {
   const Extended square = log_std_dev_ * log_std_dev_;
-  return AnyNaN(log_mean_) ? kNotANumber : (std::exp(square) + 2) * std::sqrt(std::expm1(square));
+  return (std::exp(square) + 2) * std::sqrt(std::expm1(square));
 }
 
 Extended LogNormalDistribution::Mode() const {

@@ -33,10 +33,6 @@ Extended NormalDistribution::Quantile(Tail tail, Extended p) const {
   return CheckedFinite(StandardNormalQuantile(tail, p) * std_dev_ + mean_);
 }
 
-Extended NormalDistribution::Skewness() const {
-  return AnyNaN(mean_, std_dev_) ? kNotANumber : 0;
-}
-
 Interval<Extended> NormalDistribution::Support() const {
   return {-kInfinite, kInfinite};
 }

@@ -32,7 +32,7 @@ class QORVEX_EXPORT NormalDistribution {
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
   [[nodiscard]] Extended Mean() const { return mean_; }
   [[nodiscard]] Extended Variance() const { return std_dev_ * std_dev_; }
-  [[nodiscard]] Extended Skewness() const;
+  [[nodiscard]] Extended Skewness() const { return 0; }
   [[nodiscard]] Extended Mode() const { return mean_; }
   [[nodiscard]] Interval<Extended> Support() const;
   /// @}

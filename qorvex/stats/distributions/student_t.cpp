@@ -73,10 +73,6 @@ Extended StudentTDistribution::Skewness() const {
   return df_ > 3 ? 0 : kNotANumber;
 }
 
-Extended StudentTDistribution::Mode() const {
-  return AnyNaN(df_) ? kNotANumber : 0;
-}
-
 Interval<Extended> StudentTDistribution::Support() const {
   return {-kInfinite, kInfinite};
 }

@@ -33,7 +33,7 @@ class QORVEX_EXPORT StudentTDistribution {
   [[nodiscard]] Extended Mean() const;
   [[nodiscard]] Extended Variance() const;
   [[nodiscard]] Extended Skewness() const;
-  [[nodiscard]] Extended Mode() const;
+  [[nodiscard]] Extended Mode() const { return 0; }
   [[nodiscard]] Interval<Extended> Support() const;
   /// @}
 

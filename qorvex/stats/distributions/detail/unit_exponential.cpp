@@ -1,0 +1,23 @@
+#include "qorvex/stats/distributions/detail/unit_exponential.h"
+
+#include <cmath>
+
+namespace qorvex::distributions {
+
+using special::ExtendedPair;
+using special::Scaled;
+
+Tails UnitExponentialTails(ExtendedPair ln_t) {
+  // So far down the lower tail is t, which may be too small for the format.
+  constexpr Extended far_down = -60;
+  if (ln_t.hi < far_down) return {Tail::kLower, Scaled{1, ln_t}};
+  const ExtendedPair t = Exp(ln_t);
+  if (t.hi < 1) return {Tail::kLower, Scaled{-std::expm1(-t.hi), ExtendedPair()}};
+  return {Tail::kUpper, Scaled{1, -t}};
+}
+
+ExtendedPair LnUnitExponentialQuantile(Tail tail, Extended p) {
+  return Ln(-Ln(tail == Tail::kUpper ? ExtendedPair(p) : special::ExactSum(1, -p)));
+}
+
+}  // namespace qorvex::distributions
