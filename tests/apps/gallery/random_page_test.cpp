@@ -117,6 +117,7 @@ TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
   const QString path = directory.filePath("values.txt");
   page.Save(path);
   WaitUntilIdle();
+  EXPECT_EQ(Message(), "");
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
