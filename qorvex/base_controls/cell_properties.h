@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QString>
 #include <algorithm>
+#include <memory>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/cell_settings.h"
@@ -33,12 +34,13 @@ class QORVEX_EXPORT CellProperties {
   CellProperties(const CellProperties&) = delete;
   CellProperties& operator=(const CellProperties&) = delete;
 
-  /// The colours, as an object of their own that lives as long as its owner.
-  [[nodiscard]] TQorEditColorSet* ColorSet() noexcept { return &color_set_; }
+  /// The colours as an object, which is made when it is first asked for and lives as long as its
+  /// owner.
+  [[nodiscard]] TQorEditColorSet* ColorSet();
 
   /// @{
   /// All settings at once.
-  [[nodiscard]] CellSettings Settings() const;
+  [[nodiscard]] const CellSettings& Settings() const noexcept { return settings_; }
   void setSettings(const CellSettings& settings);
   /// @}
 
@@ -53,15 +55,17 @@ class QORVEX_EXPORT CellProperties {
   void reset##Name() {                           \
     set##Name(CellSettings().member);            \
   }
-#define QORVEX_COLOR_SET_PROPERTY(Name)         \
+#define QORVEX_COLOR_SET_PROPERTY(Name, member) \
   [[nodiscard]] QColor ColorSet##Name() const { \
-    return color_set_.Name();                   \
+    return settings_.colors.member;             \
   }                                             \
   void setColorSet##Name(const QColor& color) { \
-    color_set_.set##Name(color);                \
+    EditColors colors = settings_.colors;       \
+    colors.member = color;                      \
+    SetColors(colors);                          \
   }                                             \
   void resetColorSet##Name() {                  \
-    color_set_.reset##Name();                   \
+    setColorSet##Name({});                      \
   }
   /// @endcond
   /// @{
@@ -88,13 +92,13 @@ class QORVEX_EXPORT CellProperties {
   /// @}
   /// @{
   /// One colour of the set.
-  QORVEX_COLOR_SET_PROPERTY(Text)
-  QORVEX_COLOR_SET_PROPERTY(Background)
-  QORVEX_COLOR_SET_PROPERTY(NegativeText)
-  QORVEX_COLOR_SET_PROPERTY(FocusBackground)
-  QORVEX_COLOR_SET_PROPERTY(ReadOnlyBackground)
-  QORVEX_COLOR_SET_PROPERTY(InvalidText)
-  QORVEX_COLOR_SET_PROPERTY(InvalidBackground)
+  QORVEX_COLOR_SET_PROPERTY(Text, text)
+  QORVEX_COLOR_SET_PROPERTY(Background, background)
+  QORVEX_COLOR_SET_PROPERTY(NegativeText, negative_text)
+  QORVEX_COLOR_SET_PROPERTY(FocusBackground, focus_background)
+  QORVEX_COLOR_SET_PROPERTY(ReadOnlyBackground, read_only_background)
+  QORVEX_COLOR_SET_PROPERTY(InvalidText, invalid_text)
+  QORVEX_COLOR_SET_PROPERTY(InvalidBackground, invalid_background)
   /// @}
 #undef QORVEX_CELL_PROPERTY
 #undef QORVEX_COLOR_SET_PROPERTY
@@ -116,9 +120,10 @@ class QORVEX_EXPORT CellProperties {
     SettingsChanged();
   }
 
-  // Without the colours, which are in the set.
+  void SetColors(const EditColors& colors);
+
   CellSettings settings_;
-  TQorEditColorSet color_set_;
+  std::unique_ptr<TQorEditColorSet> color_set_;
 };
 
 }  // namespace qorvex::inline QorvexBaseControls

@@ -4,6 +4,7 @@
 /// TQorCustomEdit, a cell that holds an exact value and shows it as text.
 
 #include <QString>
+#include <functional>
 #include <optional>
 
 #include "qorvex/base/element_types.h"
@@ -74,8 +75,9 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// A colour for the text of this value, in place of the settings'; invalid for none.
   void SetSpecialColor(const QColor& color);
 
-  /// The owner's number of this cell.
-  int Tag = 0;
+  /// Stores a committed value in place of the cell and ends with Refresh; the cell then keeps its
+  /// value until that, and raises no signal. Empty by default.
+  std::function<void(Extended value)> StoreElsewhere;
 
  Q_SIGNALS:
   /// A commit has changed the value.
@@ -126,8 +128,10 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Extended value_ = 0;
   bool has_value_ = true;
   bool invalid_ = false;
-  bool applying_colors_ = false;
   QColor special_color_;
+  // The colours of the palette that was set last.
+  QColor applied_text_;
+  QColor applied_background_;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -39,15 +39,21 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
  public:
   /// A cell with the value 0.
   explicit TQorFloatEdit(QWidget* parent = nullptr);
+  /// A cell of a panel, which shows nothing. A function of the panel, which may change, reads texts
+  /// in place of OnConvert.
+  TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert);
   ~TQorFloatEdit() override;
 
-  /// Reads texts in place of the cell itself; empty for none.
+  /// Reads texts in place of the cell; empty by default.
   TQorConvertEvent OnConvert;
 
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
   [[nodiscard]] FloatDigits Digits() const override;
   [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
+
+ private:
+  const TQorConvertEvent* convert_ = &OnConvert;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

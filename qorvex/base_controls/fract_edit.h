@@ -42,6 +42,8 @@ class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
 
   /// A cell with the value 0.
   explicit TQorFractEdit(QWidget* parent = nullptr);
+  /// A cell of a panel, which shows nothing.
+  TQorFractEdit(QWidget* parent, FractionDisplayMode display, int decimals);
   ~TQorFractEdit() override;
 
   /// @{

@@ -104,10 +104,14 @@ QString TextCell::Tip() const {
 
 bool TextCell::HasRoom(const QString& text) const {
   const int room = RoomFor(Contents());
-  // Most texts have room to spare, and this takes half the time of a layout. Slanted glyphs reach
-  // beyond their advance, but not by the height of the font.
+  // Most texts have room to spare, and adding up their characters takes a fraction of the time of a
+  // layout. The height of the font covers kerning, and slanted glyphs that reach beyond their
+  // advance.
   const QFontMetrics metrics = fontMetrics();
-  if (metrics.horizontalAdvance(text) + metrics.height() <= room) return true;
+  int width = metrics.height();
+  for (const QChar character : text) width += metrics.horizontalAdvance(character);
+  const bool is_simple = std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
+  if (is_simple && width <= room) return true;
   QTextLayout layout(text, font(), this);
   return WidthOf(LineOf(layout)) <= room;
 }

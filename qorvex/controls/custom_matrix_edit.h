@@ -9,9 +9,7 @@
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/base_controls/unit.h"
-#include "qorvex/controls/cell_panel.h"
-
-class QToolButton;
+#include "qorvex/controls/panel/cell_panel.h"
 
 /// What both editors of matrices publish, in this order.
 #define QORVEX_PUBLISHED_MATRIX_EDIT                                                            \
@@ -69,7 +67,7 @@ using TQorSpecialColorEvent =
 /// A NaN in the matrix is null. What the user types, pastes or takes back raises OnChange; what the
 /// program sets does not. The current row and column are those of the cell that was entered last,
 /// until another one is entered or asked for: scrolling leaves them.
-class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
+class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable {
   Q_OBJECT
 
  public:
@@ -200,23 +198,22 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
   void OnCornerBtnClick();
 
  protected:
-  /// A grid without cells, which the derived class builds when it can make them.
-  TQorCustomMatrixEdit(QWidget* parent, CellFactory make_cell);
+  /// A grid without cells.
+  explicit TQorCustomMatrixEdit(QWidget* parent);
   /// Makes the cells of an empty matrix.
-  void BuildGrid();
+  void BuildGrid(CellFactory make_cell);
 
   /// @{
   /// The matrix as the table of the panel.
+  [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
+  [[nodiscard]] quint32 ColCount() const override { return NoOfCols(); }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
   void Store(quint32 row, quint32 col, Extended value) override;
-  void Notify(CellEvent what, quint32 row, quint32 col) override;
-  void NotifyText(quint32 row, quint32 col, const QString& text) override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
-  void LeftChange(quint32 left) override;
-  void CurrColChange(quint32 before, quint32 now) override;
+  void Notify(CellEvent event, quint32 row, quint32 col) override;
+  void NotifyText(quint32 row, quint32 col, const QString& text) override;
   void VirtualModeChanged() override;
-  void Arrange() override;
   /// @}
 
   /// EMathError unless there is such an element; as many columns as given count as there.
@@ -238,7 +235,6 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel {
   // A command that makes one matrix of another and can be taken back.
   void MatrixCommand(const std::function<void(TQorFloatMatrix& matrix)>& command);
 
-  QToolButton* corner_ = nullptr;
   // Elements beyond its ends are 0.
   TQorFloatMatrix store_;
 };

@@ -5,8 +5,6 @@
 
 #include <QStringList>
 #include <functional>
-#include <memory>
-#include <vector>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/unit.h"
@@ -109,34 +107,21 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void OnLabelExit(quint32 row);
 
  protected:
-  /// @{
-  /// The labels in the panel.
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
-  void GridBuilt() override;
-  void Redisplayed() override;
-  [[nodiscard]] int LeadingWidth() const override;
-  [[nodiscard]] TextCell* NavigationTarget(std::size_t row_edit,
-                                           std::size_t col_edit) const override;
-  void Arrange() override;
-  void Notify(CellEvent what, quint32 row, quint32 col) override;
-  void CellSettingsApplied() override;
-  /// @}
 
  private:
   class LabelCell;
   static constexpr int kDefaultLabelWidth = 81;
 
-  LabelCell* MakeLabel(quint32 row_edit);
-  void LabelEnter(quint32 row_edit);
-  void LabelExit(quint32 row_edit);
+  LabelCell* MakeLabel(QWidget* panel, quint32 row_edit);
   void ChangeLabel(quint32 row_edit, const QString& text);
+  void ShowLabel(TextCell& label, quint32 row_edit, bool used);
+  [[nodiscard]] QString LabelName(quint32 row_edit) const;
+  void ApplyTo(TextCell& label, const CellSettings& settings) const;
   void ApplyLabelSettings();
   void GrowCustomLabels(qsizetype count);
   void SetCustomLabel(quint32 row, const QString& label);
 
-  std::vector<LabelCell*> labels_;
-  // The focus came to a label last, so navigation stays among the labels.
-  bool in_labels_ = false;
   QStringList custom_labels_;
   Qt::Alignment label_alignment_ = Qt::AlignCenter;
   int label_offset_ = 1;

@@ -26,9 +26,6 @@ class QORVEX_EXPORT TQorMatrixEdit final : public TQorCustomMatrixEdit {
 
   /// Reads the texts of cells in place of the control; empty for none.
   TQorConvertEvent OnConvert;
-
- private:
-  [[nodiscard]] std::optional<Extended> DoConvert(const QString& text) const;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexMatrixEdit)

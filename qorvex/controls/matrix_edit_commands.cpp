@@ -5,7 +5,7 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/controls/custom_matrix_edit.h"
-#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/reduction.h"
 #include "qorvex/matrix/row_operations.h"
@@ -23,7 +23,7 @@ void TQorCustomMatrixEdit::MatrixCommand(
     // Without rows a matrix cannot tell how many columns it has.
     if (NoOfRows() == 0) return;
     ExchangeStore(*other);
-    Remember([this, other] { ExchangeStore(*other); });
+    Parts().history.RecordCommand([this, other] { ExchangeStore(*other); });
   });
 }
 

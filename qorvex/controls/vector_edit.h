@@ -9,7 +9,7 @@
 #include "qorvex/base/vector_types.h"
 #include "qorvex/base_controls/float_edit.h"
 #include "qorvex/base_controls/unit.h"
-#include "qorvex/controls/cell_panel.h"
+#include "qorvex/controls/panel/cell_panel.h"
 
 QORVEX_WIDGET_UNIT(QorvexVectorEdit) {
 
@@ -34,7 +34,7 @@ using TQorCurrentChangeEvent = std::function<void(quint32 before, quint32 now)>;
 ///
 /// A NaN in the vector is null. What the user types, pastes or takes back raises OnChange; what the
 /// program sets does not.
-class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
+class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   Q_OBJECT
   /// @{
   /// Published: see the accessor of the same name here, in CellPanel or in CellProperties.
@@ -154,17 +154,17 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel {
  protected:
   /// @{
   /// The vector as the table of the panel.
+  [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
+  [[nodiscard]] quint32 ColCount() const override { return 1; }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
   void Store(quint32 row, quint32 col, Extended value) override;
-  void Notify(CellEvent what, quint32 row, quint32 col) override;
-  void NotifyText(quint32 row, quint32 col, const QString& text) override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
-  void AfterTopChange(quint32 top) override;
+  [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
+  void Notify(CellEvent event, quint32 row, quint32 col) override;
+  void NotifyText(quint32 row, quint32 col, const QString& text) override;
   void VirtualModeChanged() override;
   /// @}
 
-  /// Reads the text of a cell by OnConvert, or as a number.
-  [[nodiscard]] std::optional<Extended> DoConvert(const QString& text) const;
   /// EMathError unless there is such an element.
   void CheckRow(quint32 row) const;
 

@@ -3,6 +3,7 @@
 /// @file
 /// A window with an editor in it, whose signals are written down as one short text each.
 
+#include <QAccessible>
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
@@ -48,6 +49,8 @@ struct EditorFixture : testing::Test {
 
   EditorFixture() {
     QLocale::setDefault(QLocale::c());
+    // As while a screen reader runs.
+    QAccessible::setActive(true);
     auto* const layout = new QVBoxLayout(window.get());
     layout->addWidget(editor);
     layout->addWidget(other);

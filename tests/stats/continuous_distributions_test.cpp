@@ -1,4 +1,4 @@
-// The classic continuous distributions: what they share, their errors and their figures.
+// The classic continuous distributions.
 
 #include <functional>
 
@@ -73,7 +73,7 @@ const Family kFamilies[] = {Normal(0.5L, 2),   LogNormal(0.5L, 2),   Exponential
                             ChiSquare(3),      StudentT(3),          FDist(3, 7),
                             BetaDist(2, 0.5L), BetaDist(2, 3, -1, 4)};
 
-TEST(ContinuousDistributions, ProbabilitiesFitTogether) {
+TEST(ContinuousDistributions, FunctionsOfAFamilyAreConsistent) {
   for (const Family& family : kFamilies) {
     SCOPED_TRACE(family.name);
     for (const Extended x : {0.125L, 0.5L, 0.875L}) {
@@ -83,7 +83,7 @@ TEST(ContinuousDistributions, ProbabilitiesFitTogether) {
       EXPECT_EQ(family.between(x + 0.0625L, x), between);
       EXPECT_GT(between, 0);
       EXPECT_EQ(family.between(x, x + 1e-17L), 0);
-      // The density is the slope of the probability, to the square of the distance.
+      // The density is the slope of the probability.
       const Extended slope = (family.less(x + 1e-5L) - family.less(x - 1e-5L)) / 2e-5L;
       EXPECT_LE(std::fabs(slope / family.density(x) - 1), 1e-7L);
     }
@@ -92,7 +92,7 @@ TEST(ContinuousDistributions, ProbabilitiesFitTogether) {
       EXPECT_LE(std::fabs(family.less(family.inverse_less(p)) - p), 2e-15L) << p;
       EXPECT_EQ(family.inverse_greater(p), family.inverse_less(1 - p)) << p;
     }
-    // So small an upper probability is lost in 1 - p.
+    // 1 - p rounds to 1.
     EXPECT_MATH_ERROR(family.inverse_greater(1e-20L), rsValue01);
     for (const Extended p : {0.0L, 1.0L, -0.5L, 1.5L, kNaN, kInfinity}) {
       EXPECT_MATH_ERROR(family.inverse_less(p), rsValue01);
@@ -101,7 +101,7 @@ TEST(ContinuousDistributions, ProbabilitiesFitTogether) {
   }
 }
 
-TEST(ContinuousDistributions, TabulateTheirDensities) {
+TEST(ContinuousDistributions, TablesOfDensities) {
   for (const Family& family : kFamilies) {
     SCOPED_TRACE(family.name);
     Values xs{7, 7};
@@ -158,7 +158,7 @@ TEST(ContinuousDistributions, RefuseBadParameters) {
     EXPECT_MATH_ERROR(family.less(0.5L), id);
     EXPECT_MATH_ERROR(family.greater(0.5L), id);
     EXPECT_MATH_ERROR(family.between(0.25L, 0.5L), id);
-    EXPECT_EQ(family.between(0.5L, 0.5L), 0) << "no check for a point and itself";
+    EXPECT_EQ(family.between(0.5L, 0.5L), 0) << "equal points are not checked";
     EXPECT_MATH_ERROR(family.density(0.5L), id);
     Values xs{1, 2};
     Values ys{3};
@@ -203,7 +203,7 @@ TEST(ContinuousDistributions, RefusePointsOutsideTheirDomain) {
   EXPECT_TRUE(xs.empty() && ys.empty());
 }
 
-TEST(ContinuousDistributions, TakeInfinitiesAndNaN) {
+TEST(ContinuousDistributions, InfinitiesAndNaN) {
   EXPECT_EQ(NormalDistLess(0, 1, -kInfinity), 0.5L);
   EXPECT_EQ(LogNormalLess(0, 1, kInfinity), 0.5L);
   EXPECT_EQ(NormalPDF(kInfinity, 0, 1), 0);
@@ -229,7 +229,7 @@ TEST(ContinuousDistributions, TakeInfinitiesAndNaN) {
 }
 
 TEST(ContinuousDistributions, TakeTheirParametersInOrder) {
-  // By hand, from the closed forms of special cases.
+  // From closed forms of special cases.
   for (const auto& [figure, expected] : {
            std::pair(ChiSquarePDF(4, 2), std::exp(-2.0L) / 2),
            {StudentTPDF(1, 1), 0.5L / QorPi},
@@ -249,7 +249,7 @@ TEST(ContinuousDistributions, TakeTheirParametersInOrder) {
   EXPECT_LE(std::fabs(ZAlpha(0.05L) - 1.64485362695147271486L), 2e-16L);
 }
 
-// Absolute errors over the rows that the classic routines serve: most of them.
+// Absolute errors over those rows for which the classic routines are accurate, which are most rows.
 TEST(ContinuousDistributions, AgreeWithTheReferenceTables) {
   using Value = std::function<Extended(const char*)>;
   // Degrees of freedom; 0, which raises an error, unless they are whole.

@@ -74,7 +74,7 @@ void ExpectFormulas(const Distribution& d, Count k1, Count k2) {
   EXPECT_EQ(d.between(k1, k2), k1 == k2 ? d.formula(k1) : k1 < k2 ? between : -between);
 }
 
-TEST(DiscreteDistributions, FollowTheirFormulasToTheBit) {
+TEST(DiscreteDistributions, AgreeWithTheirFormulasToTheLastBit) {
   testing::Engine engine(1);
   const auto below = [&](Count end) { return static_cast<Count>(engine() % end); };
   for (int i = 0; i < 200; ++i) {
@@ -157,7 +157,7 @@ TEST(DiscreteDistributions, ImpossibleAndCertainCounts) {
   EXPECT_EQ(PoissonBetween(7, 5, 6), PoissonEq(7, 5)) << "counts are compared by SameFloat";
 }
 
-// Their exact values, to 20 digits.
+// Reference values: logarithms of the exact probabilities, to 20 digits.
 TEST(DiscreteDistributions, PoissonProbabilitiesWhoseFactorsLeaveTheRange) {
   struct Case {
     Extended lambda;

@@ -8,7 +8,7 @@
 
 namespace qorvex {
 
-TEST(IncompleteGamma, StopsAtTheTolerance) {
+TEST(IncompleteGamma, AgreesWithTheTableForSeveralTolerances) {
   const testing::KeptTolerance kept;
   const testing::Table table("tables/incomplete_gamma.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
@@ -64,7 +64,7 @@ TEST(IncompleteGamma, ChecksThePointFirst) {
 TEST(IncompleteGamma2, RoundsTheDegreesOfFreedom) {
   for (const auto& [a, df] : {std::pair(1.3L, 3U), {1.25L, 2U}, {1.75L, 4U}, {2.5L, 5U}})
     EXPECT_EQ(IncompleteGamma2(a, 2), Gamma(a) * ChiSquareGreater(4, df)) << a;
-  // The integral of t exp(-t) from 3 on.
+  // The integral of t exp(-t) from 3 to infinity.
   EXPECT_LE(std::fabs(IncompleteGamma2(2, 3) - 4 * std::exp(-3.0L)), 1e-15L);
 }
 

@@ -19,7 +19,7 @@ std::array<Extended, 3> Parabola(const TQorFloatVector& x, const TQorFloatVector
   return parabola;
 }
 
-TEST(PairStats, FollowsItsFormulasToTheBit) {
+TEST(PairStats, AgreesWithTheTableToTheLastBit) {
   const testing::Table table("tables/pairs.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     const TQorFloatVector x(table.Values(row, "x"));
@@ -40,7 +40,7 @@ TEST(PairStats, FollowsItsFormulasToTheBit) {
   }
 }
 
-TEST(PairStats, FindsExactLinesAndParabolas) {
+TEST(PairStats, ExactLinesAndParabolas) {
   const std::array<Extended, 2> line{0, 2};
   EXPECT_EQ(Line({1, 2, 3}, {2, 4, 6}), line);
   EXPECT_EQ(GetSSE({1, 2, 3}, {2, 4, 6}, 0, 2), 0);
@@ -49,7 +49,7 @@ TEST(PairStats, FindsExactLinesAndParabolas) {
   EXPECT_EQ(CoeffCorrelation({1, 2, 3}, {6, 4, 2}), -1);
   const std::array<Extended, 3> simple{1, 0, 1};
   EXPECT_EQ(Parabola({0, 1, 2}, {1, 2, 5}), simple);
-  // Integers whose sums and determinants are all exact.
+  // Integers, so that all sums and determinants are exact.
   testing::Engine engine(1);
   const auto small = [&engine] { return static_cast<Extended>(engine() % 21) - 10; };
   for (int round = 0; round < 50; ++round) {
@@ -62,7 +62,7 @@ TEST(PairStats, FindsExactLinesAndParabolas) {
   }
 }
 
-TEST(PairStats, FindsParabolasOverSmallSpreadsAfterScaling) {
+TEST(PairStats, ParabolasOverASmallSpreadNeedScaling) {
   const TQorFloatVector x = {0, 0x1p-14L, 0x1p-13L};
   const TQorFloatVector y = {1, 2, 5};
   EXPECT_MATH_ERROR(Parabola(x, y), rsDivideByZero);

@@ -17,15 +17,15 @@ struct EditWindowEvents {
   /// The top is about to become the given one. While it runs, requests for another top or current
   /// element are ignored, so two windows that follow each other do not call each other for ever.
   /// It may change the axis: the top is then the nearest one to the given one.
-  std::function<void(std::uint32_t)> before_top;
+  std::function<void(std::uint32_t)> before_top{};
   /// The top has changed: a scroll bar is to be moved.
-  std::function<void()> place_bar;
+  std::function<void()> place_bar{};
   /// The current element has changed, from the first to the second.
-  std::function<void(std::uint32_t, std::uint32_t)> current_changed;
+  std::function<void(std::uint32_t, std::uint32_t)> current_changed{};
   /// The elements in the window are others now.
-  std::function<void()> redisplay;
+  std::function<void()> redisplay{};
   /// The top has become the given one, and everything shows it.
-  std::function<void(std::uint32_t)> after_top;
+  std::function<void(std::uint32_t)> after_top{};
 };
 
 /// Which element is the current one.
