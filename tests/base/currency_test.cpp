@@ -4,8 +4,8 @@
 
 #include "qorvex/base/rounding.h"
 #include "qorvex/base/swap.h"
+#include "support/amounts.h"
 #include "support/environment.h"
-#include "support/nearest_amount.h"
 #include "support/test.h"
 
 namespace qorvex {
