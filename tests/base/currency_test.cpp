@@ -72,7 +72,7 @@ void ExpectExactConversions(QorCurrency cents) {
   ExpectExact(cents, Float2QorCurrency(Currency2Float(cents)));
 }
 
-// At the ends of the ranges of 32 and 64 bits, at ties and beside them, and anywhere.
+// At the ends of the 32-bit and 64-bit ranges, at ties and next to them, and at random.
 TEST(Currency, ConversionsRoundToEvenOrGiveTheSmallestAmount) {
   constexpr Int128 centres[] = {0,
                                 INT64_MIN,
@@ -85,8 +85,8 @@ TEST(Currency, ConversionsRoundToEvenOrGiveTheSmallestAmount) {
                                 INT32_MAX * 10'000LL};
   for (const Int128 centre : centres) {
     for (int offset = -15'100; offset <= 15'100; offset += 25) {
-      for (const int beside : {-1, 0, 1}) {
-        const Int128 stored = centre + offset + beside;
+      for (const int step : {-1, 0, 1}) {
+        const Int128 stored = centre + offset + step;
         if (stored == static_cast<std::int64_t>(stored))
           ExpectExactConversions(static_cast<std::int64_t>(stored));
       }
