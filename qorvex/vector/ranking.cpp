@@ -22,14 +22,14 @@ bool Equal(T x, T y) {
   }
 }
 
-// The strict order of the sort; NaN comes before nothing.
+// The strict order of the sort. False if x is NaN.
 template <AnyElement T>
 bool Before(T x, T y, bool ascending) {
   return ascending ? x < y : x > y;
 }
 
-// The first position in sorted order of an element that equals the value, found by counting what
-// sorts before it.
+// The first position in sorted order of an element that equals the value, found by counting the
+// elements that sort before it.
 template <AnyElement T>
 std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending) {
   const T* first_equal = nullptr;
@@ -43,8 +43,8 @@ std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending
       std::ranges::count_if(vector, [=](T x) { return Before(x, first, ascending); }));
 }
 
-// Ranks all elements from their sorted order. Elements that equal one another lie together, and the
-// first equal of a later element is never before that of an earlier one.
+// Ranks all elements in one pass over their sorted order. Elements that equal a given one are
+// contiguous, and the first of them never moves back from one element to the next.
 template <AnyElement T>
 void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& ranks) {
   const detail::SortedIndices<T> sorted(vector.size(), ascending,
@@ -52,7 +52,7 @@ void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& 
   std::size_t first_equal = 0;
   for (std::size_t position = 0; position < vector.size(); ++position) {
     const T x = sorted.Value(position);
-    if (!Equal(x, x)) break;  // NaN, as all that follow
+    if (!Equal(x, x)) break;  // NaN, like all elements that follow
     while (!Equal(sorted.Value(first_equal), x)) ++first_equal;
     ranks[sorted.Index(position)] = static_cast<std::int32_t>(first_equal);
   }

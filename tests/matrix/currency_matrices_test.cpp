@@ -22,7 +22,7 @@ template <class T>
 class AmountMatrices : public ::testing::Test {};
 TYPED_TEST_SUITE(AmountMatrices, CurrencyTypes);
 
-// The routines for integers have tests of their own.
+// The routines for integers are tested elsewhere.
 TYPED_TEST(AmountMatrices, BehaveAsMatricesOfTheStoredIntegers) {
   using T = TypeParam;
   testing::Engine engine(25);

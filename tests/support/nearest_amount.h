@@ -8,8 +8,8 @@ namespace qorvex::testing {
 
 __extension__ typedef __int128 Int128;
 
-/// The amount whose stored integer is dividend / divisor, rounded half to even; the smallest amount
-/// where that does not fit. For a positive divisor.
+/// The amount whose stored integer is dividend / divisor, rounded to nearest, ties to even; the
+/// smallest amount if that is out of range. For positive divisors.
 template <CurrencyElement T>
 T NearestAmount(Int128 dividend, Int128 divisor) {
   using Stored = typename T::StoredType;

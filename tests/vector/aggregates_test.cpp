@@ -8,7 +8,7 @@
 
 namespace qorvex {
 
-// Smallest and largest value, their indices, and whether each is unique.
+// The smallest and the largest value, their indices, and whether each is unique.
 using Extremes = std::tuple<Extended, Extended, std::uint32_t, std::uint32_t, bool, bool>;
 
 Extremes MinMax(const TQorFloatVector& v) {
@@ -17,7 +17,7 @@ Extremes MinMax(const TQorFloatVector& v) {
   return extremes;
 }
 
-TEST(Extremes, FirstOfEqualExtremesWins) {
+TEST(Extremes, AreTheFirstOfEqualOnes) {
   EXPECT_EQ(MinMax({3, 1, 1, 5, 5}), Extremes(1, 5, 1, 3, false, false));
   EXPECT_EQ(MinMax({2, 2, 1}), Extremes(1, 2, 2, 0, true, false));
   EXPECT_EQ(MinMax({7}), Extremes(7, 7, 0, 0, true, true));
@@ -33,7 +33,7 @@ TEST(Extremes, NaNIsIgnoredUnlessItIsFirst) {
   EXPECT_TRUE(std::isnan(MaxVector(TQorFloatVector{kNaN, 1})));
 }
 
-TEST(Extremes, EmptyRaisesAndLeavesTheOutputs) {
+TEST(Extremes, OfAnEmptyVectorRaiseAndLeaveTheOutputs) {
   EXPECT_MATH_ERROR(MinVector(TQorSIntVector()), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(MaxVector(TQorFloatVector()), rsVectorIsEmpty);
   std::uint16_t value = 42;
@@ -60,7 +60,7 @@ TEST(Sums, FloatsAccumulateInExtendedInOrder) {
   EXPECT_TRUE(std::isnan(SumVector(TQorFloatVector{1, kNaN})));
 }
 
-// The square of 50000 in 32 bits with a sign.
+// 50000 squared, in signed 32 bits.
 constexpr std::int64_t kWrappedSquare = 2'500'000'000 - 4'294'967'296;
 
 TEST(Sums, IntegerSquaresKeepTheirNarrowWidth) {
@@ -90,7 +90,7 @@ TEST(Sums, SquaredDifferencesFromMeansAndOfTwoVectors) {
   EXPECT_EQ(SumSqDiffVectors(TQorDoubleVector{1}, TQorDoubleVector{-0x1p-60}),
             (1 + 0x1p-60L) * (1 + 0x1p-60L));
   EXPECT_EQ(SumSqDiffVectors(TQorLWordVector{0}, TQorLWordVector{50000}), kWrappedSquare)
-      << "a signed square even for unsigned elements";
+      << "signed, even for unsigned elements";
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector{1}, TQorLIntVector()), rsSameDimensions);
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector{1}), rsSameDimensions);
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector()), rsVectorIsEmpty);

@@ -25,7 +25,7 @@ TQorVector<typename T::StoredType> Stored(const TQorVector<T>& amounts) {
   return stored;
 }
 
-// The routines for integers have tests of their own.
+// The routines for integers are tested elsewhere.
 TYPED_TEST(AmountVectors, BehaveAsVectorsOfTheStoredIntegers) {
   using T = TypeParam;
   testing::Engine engine(6);
@@ -104,7 +104,7 @@ TYPED_TEST(AmountVectors, AreTransformedInUnits) {
   ExpectTransformed(std::numeric_limits<T>::max(), 8, 2);
 }
 
-// Only for Currency is the stored integer not divided first, which may miss a tie.
+// Only for Currency: the other amounts are divided by their scale first, which may miss a tie.
 TEST(CurrencyVectors, LinearTransformationsRoundTiesToEven) {
   testing::Engine engine(8);
   for (int i = 0; i < 20'000; ++i) {
@@ -113,7 +113,7 @@ TEST(CurrencyVectors, LinearTransformationsRoundTiesToEven) {
   }
 }
 
-// The conversions of single amounts have tests of their own.
+// The conversions of single amounts are tested with the base.
 template <class From, class To>
 void ExpectConverted(const TQorVector<From>& vector, const TQorVector<To>& converted,
                      std::type_identity_t<To (*)(From)> convert) {
