@@ -1,5 +1,6 @@
-// Prints what docs/accuracy.md says of matrices: the digits that determinants and inverses keep,
-// beside Eigen in long double and LAPACK in double, and how often ranks are right.
+// Prints the figures on matrices in docs/accuracy.md: the correct digits of determinants and
+// inverses, compared with Eigen in long double and LAPACK in double, and how often ranks are
+// correct.
 
 #include <Eigen/LU>
 #include <algorithm>
@@ -119,7 +120,7 @@ Extended Binomial(std::size_t n, std::size_t k) {
   return result;
 }
 
-// Hilbert's matrices: elements 1/(i + j + 1), integer inverses known in closed form.
+// Hilbert matrices have the elements 1 / (i + j + 1) and integer inverses in closed form.
 void PrintHilbert() {
   std::puts("| order | determinant: ours | Eigen | LAPACK | inverse: ours | Eigen | LAPACK |");
   std::puts("|---|---|---|---|---|---|---|");
@@ -150,8 +151,8 @@ void PrintHilbert() {
   }
 }
 
-// The correlations of so many variables, in four times as many observations with a strong common
-// part, computed in double: rounding leaves some of the ones on the diagonal a last bit beside one.
+// The correlation matrix, computed in double, of variables with a strong common part. Because of
+// rounding some elements of the diagonal differ from one in the last bit.
 TQorFloatMatrix CorrelationsInDouble(std::size_t variables, std::mt19937_64& engine) {
   std::normal_distribution<double> normal;
   const std::size_t observations = 4 * variables;
@@ -230,7 +231,7 @@ TQorMatrix<T> Digits(std::size_t rows, std::size_t cols, std::mt19937_64& engine
   return matrix;
 }
 
-// Integer matrices with elements up to 9 in magnitude whose last row is made of two others.
+// Matrices of integers up to 9 in magnitude, whose last row is a linear combination of two others.
 template <FloatElement T>
 TQorMatrix<T> OfRankOneLess(std::size_t order, std::mt19937_64& engine) {
   auto matrix = Digits<T>(order, order, engine);
@@ -242,14 +243,14 @@ TQorMatrix<T> OfRankOneLess(std::size_t order, std::mt19937_64& engine) {
   return matrix;
 }
 
-// Products of two such matrices, the first with half as many columns as rows.
+// Products of two matrices of integers, the first with half as many columns as rows.
 template <FloatElement T>
 TQorMatrix<T> OfHalfTheRank(std::size_t order, std::mt19937_64& engine) {
   return MultiplyMatrices(Digits<T>(order, order / 2, engine), Digits<T>(order / 2, order, engine));
 }
 
-// The rank of an integer matrix by elimination modulo 2^61 - 1, which could only be smaller than
-// the exact one where that prime divides a minor.
+// The rank of an integer matrix by elimination modulo 2^61 - 1. It could only be less than the
+// exact rank if that prime divided a minor.
 template <FloatElement T>
 std::size_t ExactRank(const TQorMatrix<T>& matrix) {
   using Wide = unsigned __int128;
@@ -271,7 +272,7 @@ std::size_t ExactRank(const TQorMatrix<T>& matrix) {
                                     [&](const auto& row) { return row[col] != 0; });
     if (pivot == rows.end()) continue;
     std::swap(rows[rank], *pivot);
-    // row * pivot - pivot row * element, which needs no reciprocal.
+    // row * pivot - pivot row * element, without a division.
     for (std::size_t r = rank + 1; r < rows.size(); ++r) {
       const std::uint64_t element = rows[r][col];
       for (std::size_t j = col; j < rows[r].size(); ++j) {
@@ -284,28 +285,28 @@ std::size_t ExactRank(const TQorMatrix<T>& matrix) {
   return rank;
 }
 
-// Per cent of matrices whose rank is that of exact arithmetic.
+// The percentage of matrices for which we find the exact rank.
 template <FloatElement T>
-double ShareRight(std::size_t order, TQorMatrix<T> (*make)(std::size_t, std::mt19937_64&),
-                  Extended tolerance, int matrices) {
+double PercentageCorrect(std::size_t order, TQorMatrix<T> (*make)(std::size_t, std::mt19937_64&),
+                         Extended tolerance, int matrices) {
   const Extended kept = std::exchange(QorTolerance, tolerance);
   std::mt19937_64 engine(order);
-  int right = 0;
+  int correct = 0;
   for (int i = 0; i < matrices; ++i) {
     auto matrix = make(order, engine);
     const std::size_t expected = ExactRank(matrix);
     std::uint32_t rank = 0;
     RowEchelonFormRank(matrix, rank);
-    if (rank == expected) ++right;
+    if (rank == expected) ++correct;
   }
   QorTolerance = kept;
-  return 100.0 * right / matrices;
+  return 100.0 * correct / matrices;
 }
 
 void PrintRanks() {
   const auto print = [](std::size_t order, const char* which, int matrices, auto make) {
     const auto right = [&]<class T>(T, Extended tolerance) {
-      return ShareRight<T>(order, make.template operator()<T>(), tolerance, matrices);
+      return PercentageCorrect<T>(order, make.template operator()<T>(), tolerance, matrices);
     };
     std::printf("| %zu | %s | %.2f | %.1f | %.1f | %.2f | %.1f | %.1f |\n", order, which,
                 right(Extended(), 1e-15L), right(double(), 1e-15L), right(float(), 1e-15L),
@@ -330,6 +331,6 @@ int main() {
   PrintHilbert();
   std::puts("\nThe largest element of A A^-1 - I, random matrices\n");
   PrintResiduals();
-  std::puts("\nPer cent of ranks that are right, by element type and tolerance\n");
+  std::puts("\nPercentage of correct ranks, by element type and tolerance\n");
   PrintRanks();
 }

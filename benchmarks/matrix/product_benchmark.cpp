@@ -6,7 +6,7 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// The textbook's three loops, with the same roundings as ours.
+// The three textbook loops, with the same rounding as ours.
 template <FloatElement T>
 TQorMatrix<T> LoopProduct(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   const std::size_t order = a.size();

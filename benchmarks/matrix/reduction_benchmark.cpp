@@ -1,4 +1,4 @@
-// The inverse and the determinant. Every contestant keeps its argument, so ours works on a copy.
+// The inverse and the determinant. The peers do not change their argument, so ours work on a copy.
 
 #include <Eigen/LU>
 #include <cmath>
@@ -11,7 +11,7 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// The elimination as loops over rows, with the same roundings as ours.
+// The elimination as loops over rows, with the same rounding as ours.
 template <FloatElement T>
 class Loops {
  public:

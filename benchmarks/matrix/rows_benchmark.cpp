@@ -10,7 +10,7 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// An operation on rows as it is, and with the comparison of all rows' lengths switched off.
+// A row operation, with and without the comparison of the lengths of all rows.
 template <FloatElement T, class Operation>
 void RegisterOurs(const std::string& routine, Operation operation) {
   const auto orders = {64UL, 1000UL};
@@ -26,7 +26,7 @@ void RegisterOurs(const std::string& routine, Operation operation) {
   });
 }
 
-// Two rows of one matrix at a time. An item is an element; the factor keeps the elements in range.
+// Operations on one or two rows. An item is an element; the factors keep the elements in range.
 template <FloatElement T>
 void RegisterOperations() {
   using Matrix = TQorMatrix<T>;
@@ -79,7 +79,7 @@ void RegisterUblas() {
   });
 }
 
-// The plain quicksort, which exchanges whole rows as it goes.
+// A plain quicksort that exchanges whole rows.
 template <FloatElement T>
 void QuickSortRows(TQorMatrix<T>& m, std::size_t col) {
   std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>> segments{
@@ -104,8 +104,8 @@ void QuickSortRows(TQorMatrix<T>& m, std::size_t col) {
   }
 }
 
-// Sorted by one column and the next in turn, so that the rows are never in order already. The loop
-// sorts handles of rows, which is less: no element moves.
+// Sorts by each column in turn, so that the rows are never already in order. std::sort sorts
+// handles of rows, which is less work: no element is moved.
 template <FloatElement T>
 void RegisterSort() {
   const auto orders = {100UL, 1000UL};

@@ -5,16 +5,17 @@
 
 namespace qorvex::benchmarks {
 
-/// Boost uBLAS on square matrices of long double. Its headers do not compile as C++20, so they stay
-/// behind this class, in a source of an older standard.
+/// A square matrix of long double in Boost uBLAS. The headers of uBLAS do not compile as C++20, so
+/// only the source of this class, which is compiled with an older standard, includes them.
 class UblasPeer {
  public:
-  /// elements: row by row.
+  /// The elements are given row by row.
   UblasPeer(const long double* elements, std::size_t order);
   ~UblasPeer();
   UblasPeer(UblasPeer&&) noexcept;
 
-  /// The product with itself. Each gives one element, so that nothing is left out.
+  /// Each returns one element of the result, so that the compiler cannot omit the computation.
+  /// Product multiplies the matrix by itself.
   long double Product() const;
   long double Inverse() const;
   long double Determinant() const;

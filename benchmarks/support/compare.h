@@ -47,9 +47,9 @@ TQorVector<T> Sample(std::size_t n, std::size_t seed) {
   return vector;
 }
 
-/// Registers work(vector), or work(vector, other vector), under "routine/type/who/n" for a
-/// thousand, a hundred thousand and a million elements. The vectors differ from call to call, so
-/// that no predictor learns them.
+/// Registers work(vector), or work(vector, other vector), as "routine/type/who/n" for a thousand, a
+/// hundred thousand and a million elements. The vectors differ from call to call, so that the
+/// branch predictor cannot learn them.
 template <NumericElement T, class Work>
 void Compare(const std::string& routine, const std::string& who, Work work) {
   for (const std::size_t n : {1'000U, 100'000U, 1'000'000U}) {

@@ -14,7 +14,8 @@
 
 namespace qorvex::benchmarks {
 
-/// The elements of a square matrix of an order, row by row, and the matrix of each contestant.
+/// The elements of a square matrix, row by row; the functions below make the matrix of each
+/// library.
 template <FloatElement T>
 std::vector<T> SampleElements(std::size_t order) {
   std::mt19937_64 engine(order);
@@ -48,8 +49,7 @@ inline UblasPeer UblasMatrix(std::size_t order) {
   return UblasPeer(SampleElements<Extended>(order).data(), order);
 }
 
-/// Registers work(matrix), for the matrix that make(order) gives, under "routine/type/who/order".
-/// An item is one of order^power.
+/// Registers work(make(order)) as "routine/type/who/order". It counts as order^power items.
 template <FloatElement T, class Make, class Work>
 void CompareMatrices(const std::string& routine, const std::string& who,
                      std::initializer_list<std::size_t> orders, int power, Make make, Work work) {

@@ -1,6 +1,6 @@
-// The main program of every benchmark: runs all contestants in random order, several times each,
-// and prints for every routine, type and size the time an item (an element, or a multiplication) of
-// our routine and how many times longer its peers take.
+// The main program of every benchmark. Runs everything in random order, several times, and prints
+// for every routine, type and size the time per item (an element or a multiplication) of our
+// routine, and the times of its peers as multiples of it.
 
 #include <algorithm>
 #include <benchmark/benchmark.h>
@@ -37,23 +37,23 @@ class RatioReporter : public benchmark::BenchmarkReporter {
       std::getline(name, who, '/');
       std::getline(name, size, '/');
       key.size = std::stoul(size);
-      // The fastest of the repetitions is the one that other programs disturbed least.
+      // The fastest repetition is the one that other programs disturbed least.
       const double nanoseconds = 1e9 / run.counters.at("items_per_second").value;
-      auto [place, fresh] = times_[key].try_emplace(who, nanoseconds);
-      if (!fresh) place->second = std::min(place->second, nanoseconds);
+      auto [place, is_new] = times_[key].try_emplace(who, nanoseconds);
+      if (!is_new) place->second = std::min(place->second, nanoseconds);
     }
   }
 
   void Finalize() override {
     std::puts("| routine | elements | n | ours, ns | peers, times ours |");
     std::puts("|---|---|---|---|---|");
-    for (const auto& [key, contestants] : times_) {
-      const auto ours = contestants.find("ours");
-      if (ours == contestants.end()) continue;
+    for (const auto& [key, times] : times_) {
+      const auto ours = times.find("ours");
+      if (ours == times.end()) continue;
       std::printf("| %s | %s | %zu | %.2f |", key.routine.c_str(), key.type.c_str(), key.size,
                   ours->second);
       const char* separator = " ";
-      for (const auto& [who, time] : contestants) {
+      for (const auto& [who, time] : times) {
         if (who == "ours") continue;
         std::printf("%s%s %.2f", separator, who.c_str(), time / ours->second);
         separator = ", ";

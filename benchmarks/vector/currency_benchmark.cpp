@@ -1,4 +1,4 @@
-// Vectors of amounts beside the plain loop and the routines for the integers that they store.
+// Vectors of amounts, compared with the plain loop and with the routines for the stored integers.
 
 #include <algorithm>
 #include <cmath>
@@ -22,8 +22,8 @@ TQorVector<T> Amounts(std::size_t n, std::size_t seed) {
   return amounts;
 }
 
-// Registers work(vector), with a copy where work changes the vector. The vectors differ from call
-// to call, so that no predictor learns them.
+// Registers work(vector), on a copy if work changes the vector. The vectors differ from call to
+// call, so that the branch predictor cannot learn them.
 template <class T, class Work>
 void Register(const std::string& routine, const std::string& type, const std::string& who,
               Work work) {
@@ -93,7 +93,7 @@ void RegisterCurrency(const std::string& type) {
 
   Register<Currency>("Vector2QorCurrVector", "Currency", "ours",
                      [](const TQorCurrencyVector& v) { return Vector2QorCurrVector(v); });
-  // Of amounts that are not negative, and without a look at the range.
+  // Without a range check, and only correct for amounts that are not negative.
   Register<Currency>("Vector2QorCurrVector", "Currency", "loop", [](const TQorCurrencyVector& v) {
     auto cents = TQorCurrVector::ForOverwrite(v.size());
     for (std::size_t i = 0; i < v.size(); ++i) {

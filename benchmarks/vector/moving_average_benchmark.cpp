@@ -1,4 +1,4 @@
-// The moving average over 8 elements beside the plain double loop.
+// The moving average over 8 elements, compared with the plain double loop.
 
 #include "qorvex/vector/moving_average.h"
 #include "support/compare.h"
@@ -6,7 +6,7 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// Known at run time only, as it is for callers.
+// Volatile, because callers do not know the period at compile time.
 volatile std::uint32_t eight = 8;
 
 template <FloatElement T>

@@ -1,4 +1,4 @@
-// Sorting and ranking beside std::sort, and beside sorting pairs of value and position.
+// Sorting and ranking, compared with std::sort and with sorting pairs of value and position.
 
 #include <algorithm>
 #include <utility>
@@ -10,7 +10,7 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// Sorts a fresh copy each time: a sorted input would teach the branch predictor.
+// Sorts a new copy each time, because an input that is already sorted is easy to predict.
 template <NumericElement T>
 void RegisterSort() {
   Compare<T>("QSortVector", "ours", [](const TQorVector<T>& v) {

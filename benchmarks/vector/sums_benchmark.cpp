@@ -1,5 +1,5 @@
-// Sums, sums of squares, dot products and extremes, beside the plain loop in long double and the
-// statistics libraries.
+// Sums, sums of squares, dot products and extremes, compared with the plain loop in long double and
+// with statistics libraries.
 
 #include <Eigen/Core>
 #include <algorithm>

@@ -2,7 +2,7 @@
 
 /// @file
 /// Unit QorvexGlobals: element, vector and matrix types, currencies, comparisons, constants,
-/// elementary and special functions, text, fractions and the runtime's Random.
+/// elementary and special functions, text, fractions and random numbers.
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/comparisons.h"

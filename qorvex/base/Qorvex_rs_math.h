@@ -2,8 +2,7 @@
 
 /// @file
 /// Unit Qorvex_rs_math: the messages of the library's errors. A message is an identifier; its text
-/// is looked up when an error is raised, and an application may replace it at any time, on any
-/// thread.
+/// is looked up when an error is raised. Applications may replace texts at any time, on any thread.
 
 #include <cstdint>
 #include <functional>
@@ -16,7 +15,7 @@
 namespace qorvex::inline Qorvex_rs_math {
 
 /// @cond internal
-// Identifier and English text. %1 stands for the offending text.
+// Identifier and English text. %1 stands for the text that was rejected.
 #define QORVEX_MATH_MESSAGES(X)                                                                \
   X(rsVectorIsEmpty, "The vector is empty")                                                    \
   X(rsSameDimensions, "The dimensions must be the same")                                       \
@@ -90,12 +89,12 @@ enum class MessageId : std::uint16_t {
 
 using enum MessageId;
 
-/// The current text of a message: what the look-up function gives, else the replacement, else the
-/// English text.
+/// The current text of a message: the result of the look-up function if it has one, otherwise the
+/// replacement if one is set, otherwise the English text.
 [[nodiscard]] QORVEX_EXPORT std::string MessageText(MessageId id);
 
-/// The English text of a message, whatever replaces it: what a translator looks up. Valid for the
-/// life of the program.
+/// The English text of a message, even if it has been replaced: the source text for translators.
+/// Valid for the lifetime of the program.
 [[nodiscard]] QORVEX_EXPORT std::string_view EnglishMessageText(MessageId id) noexcept;
 
 /// Replaces the text of a message.
@@ -104,11 +103,13 @@ QORVEX_EXPORT void SetMessageText(MessageId id, std::string text);
 /// Restores the English text of a message.
 QORVEX_EXPORT void ResetMessageText(MessageId id);
 
-/// Sets a function that is asked for every text first, such as a translator's; it gives nothing for
-/// a message that it does not know. An empty function removes it, though a call that has begun on
-/// another thread still ends. It may be called on any thread that raises an error, must not ask for
-/// the text of the message itself (EnglishMessageText gives the source), and what it throws
-/// replaces the error.
+/// Sets a function that is asked for every text first, such as a translator.
+///
+/// - It returns std::nullopt for messages that it does not know.
+/// - It is called on the thread that raises the error, without a lock held.
+/// - It must not call MessageText for the same message; EnglishMessageText gives the source text.
+/// - An exception that it throws replaces the error.
+/// - An empty function removes it; calls already running on other threads are completed.
 QORVEX_EXPORT void SetMessageLookup(std::function<std::optional<std::string>(MessageId)> lookup);
 
 }  // namespace qorvex::inline Qorvex_rs_math

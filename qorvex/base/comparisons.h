@@ -13,12 +13,12 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// The tolerance of every comparison here, initially 1.0e-15. The zero and sign tests compare with
-/// it as it is; SameFloat scales it with the values.
+/// The tolerance of every comparison in this header, initially 1.0e-15. It is absolute in the zero
+/// and sign tests; SameFloat scales it with the values.
 ///
-/// A program may change it for data of another scale, while no other thread uses the library. Raise
-/// it where rounding residue of long computations should count as zero, such as elimination on
-/// large or badly scaled matrices; lower it where values below 1e-15 carry meaning.
+/// A program may change it, but only while no other thread uses the library. Raise it if the
+/// rounding errors of long computations should count as zero, such as those of an elimination on a
+/// large or badly scaled matrix; lower it if values below 1e-15 are significant.
 extern QORVEX_EXPORT Extended QorTolerance;
 
 /// |x| <= QorTolerance. False for NaN.
@@ -26,7 +26,7 @@ extern QORVEX_EXPORT Extended QorTolerance;
   return std::fabs(x) <= QorTolerance;
 }
 
-/// The negation of FloatIsZero; true for NaN.
+/// !FloatIsZero(x). True for NaN.
 [[nodiscard]] inline bool FloatIsNotZero(Extended x) noexcept {
   return !FloatIsZero(x);
 }
@@ -41,24 +41,27 @@ extern QORVEX_EXPORT Extended QorTolerance;
   return x < -QorTolerance;
 }
 
-/// Equality for ties and duplicates, whatever the unit of the values: x == y, or both are finite
-/// and |x - y| <= max(QorTolerance, 4 eps) * max(|x|, |y|), computed in the wider of the two types
-/// with that type's eps. NaN is the same as nothing; an infinity only as itself, and zero only as
-/// zero while the tolerance is below 1.
+/// Approximate equality for ties and duplicates, relative at every magnitude, so that the unit of
+/// the values does not matter.
 ///
-/// Over sorted finite values the values that are the same as a given one are contiguous, as long as
-/// the tolerance is below 0.5.
+/// - True if x == y; otherwise false if x or y is not finite.
+/// - Otherwise |x - y| <= max(QorTolerance, 4 eps) * max(|x|, |y|), computed in the wider of the two
+///   types with the eps of that type.
+/// - NaN: always false. An infinity is the same only as itself.
+/// - Zero is the same only as zero if the tolerance is below 1.
+/// - In a sorted sequence of finite values, the values that are the same as a given one are
+///   contiguous if the tolerance is below 0.5.
 template <FloatElement X, FloatElement Y>
 [[nodiscard]] inline bool SameFloat(X x, Y y) noexcept {
   using T = std::common_type_t<X, Y>;
   if (static_cast<T>(x) == static_cast<T>(y)) return true;
   if (!std::isfinite(x) || !std::isfinite(y)) return false;
   constexpr T rounding = 4 * std::numeric_limits<T>::epsilon();
-  // A tolerance that is NaN compares false, which leaves the rounding bound.
+  // If the tolerance is NaN the comparison is false, which leaves the rounding bound.
   const T given = static_cast<T>(QorTolerance);
   const T tolerance = given > rounding ? given : rounding;
-  // By a power of two both sides keep their digits: the difference of large values does not
-  // overflow then, nor does the bound for small ones underflow.
+  // Scaling by a power of two is exact. It keeps the difference of large values from overflowing
+  // and the bound for small values from underflowing.
   const bool large = std::fabs(x) > 1 || std::fabs(y) > 1;
   const T scale = large ? T(0.5) : T(0x1p64);
   const T a = x * scale;
@@ -66,7 +69,7 @@ template <FloatElement X, FloatElement Y>
   return std::fabs(a - b) <= tolerance * std::max(std::fabs(a), std::fabs(b));
 }
 
-/// The negation of SameFloat for extended values.
+/// !SameFloat(x, y) for extended values.
 [[nodiscard]] inline bool NotSameFloat(Extended x, Extended y) noexcept {
   return !SameFloat(x, y);
 }

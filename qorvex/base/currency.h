@@ -15,15 +15,17 @@
 /// | `Currency`        | -922,337,203,685,477.5808 | 922,337,203,685,477.5807 |
 /// | `QorLongCurrency` | -9,223,372,036,854.775808 | 9,223,372,036,854.775807 |
 ///
-/// Every amount in a range is held exactly. Sums, differences and products are those of the stored
-/// integers: exact while the result is in range, and wrapping around in the stored width beyond it,
-/// so the largest amount plus its resolution is the smallest amount. There is no arithmetic
-/// between scales or with floating-point values: convert first, which shows where rounding happens.
+/// - Every multiple of the resolution in the range is represented exactly.
+/// - Sums, differences and products with integers are computed on the stored integers: exact while
+///   the result is in range, wrapping around in the stored width otherwise, so the largest amount
+///   plus the resolution is the smallest amount.
+/// - There is no arithmetic between types, nor with floating-point values: convert first, so that
+///   the program shows where it rounds.
+/// - Conversions round to the nearest amount, ties to even. Values that the target cannot hold
+///   become its smallest amount. Converting an amount with Currency2Float and back is exact.
 ///
-/// All conversions round to the nearest value, ties to even. What the target cannot hold becomes
-/// the target's smallest value. Every amount survives the way through Currency2Float and back.
-///
-/// Text is in currency_text.h, the formatter for libfmt in currency_format.h.
+/// currency_text.h converts amounts to text and back; currency_format.h has the formatter for
+/// libfmt.
 
 #include <compare>
 #include <concepts>
@@ -37,9 +39,10 @@
 
 namespace qorvex {
 
-/// A fixed-point amount of money: an integer that counts parts of a currency unit. Each stored
-/// width and scale is a type of its own, so an amount is never taken for an integer or for an
-/// amount of another scale. std::numeric_limits has the range, and the resolution as epsilon().
+/// A fixed-point amount of money: an integer that counts parts of a currency unit. Each combination
+/// of stored type and scale is a separate type, so an amount cannot be confused with an integer or
+/// with an amount of another scale. std::numeric_limits has the range, and the resolution as
+/// epsilon().
 template <class Stored, std::int64_t Scale>
 class QORVEX_EXPORT BasicCurrency {
  public:
@@ -47,7 +50,7 @@ class QORVEX_EXPORT BasicCurrency {
   using StoredType = Stored;
   /// The stored value of one currency unit.
   static constexpr std::int64_t kScale = Scale;
-  /// The fixed decimals that the scale stands for.
+  /// The number of decimals.
   static constexpr int kDecimals = [] {
     int decimals = 0;
     for (std::int64_t power = 1; power < Scale; power *= 10) ++decimals;
@@ -55,13 +58,13 @@ class QORVEX_EXPORT BasicCurrency {
   }();
 
   constexpr BasicCurrency() noexcept = default;
-  /// The amount whose stored integer is given: Currency(15000) is 1.5000 units. No floating value
-  /// is taken, which could be meant in units: convert it.
+  /// The amount with this stored integer: Currency(15000) is 1.5000 units. Floating-point values,
+  /// which might be meant in units, do not compile: convert them.
   explicit constexpr BasicCurrency(Stored stored) noexcept : stored_(stored) {}
   explicit BasicCurrency(std::floating_point auto) = delete;
 
-  /// The amount of whole units: Currency::Units(12) is 12.0000. What does not fit does not compile
-  /// as a constant; otherwise it becomes the smallest amount.
+  /// The amount of this many whole units: Currency::Units(12) is 12.0000. A value out of range does
+  /// not compile in a constant expression; otherwise it gives the smallest amount.
   [[nodiscard]] static constexpr BasicCurrency Units(std::integral auto units) noexcept {
     Stored stored = 0;
     return __builtin_mul_overflow(units, Scale, &stored) ? OutOfRange() : BasicCurrency(stored);
@@ -70,7 +73,7 @@ class QORVEX_EXPORT BasicCurrency {
   /// The stored integer: the amount times the scale.
   [[nodiscard]] constexpr Stored stored() const noexcept { return stored_; }
 
-  /// Amounts compare as their stored integers do.
+  /// Compares the stored integers.
   friend constexpr auto operator<=>(BasicCurrency, BasicCurrency) noexcept = default;
 
   /// The sum; wraps around in the stored width.
@@ -81,17 +84,17 @@ class QORVEX_EXPORT BasicCurrency {
   constexpr BasicCurrency& operator-=(BasicCurrency other) noexcept {
     return Store(Bits(stored_) - Bits(other.stored_));
   }
-  /// So many times the amount; wraps around in the stored width.
+  /// The product with an integer; wraps around in the stored width.
   constexpr BasicCurrency& operator*=(std::integral auto factor) noexcept {
     return Store(Bits(stored_) * Bits(factor));
   }
 
-  /// The amount with the other sign; the smallest amount stays as it is.
+  /// The amount with the opposite sign. Negating the smallest amount gives the same amount.
   [[nodiscard]] friend constexpr BasicCurrency operator-(BasicCurrency amount) noexcept {
     return BasicCurrency() -= amount;
   }
   /// @{
-  /// As the assignments do.
+  /// The same as the compound assignments.
   [[nodiscard]] friend constexpr BasicCurrency operator+(BasicCurrency x,
                                                          BasicCurrency y) noexcept {
     return x += y;
@@ -111,7 +114,7 @@ class QORVEX_EXPORT BasicCurrency {
   /// @}
 
  private:
-  // Only unsigned arithmetic wraps around.
+  // Unsigned arithmetic, because signed overflow is undefined.
   using Unsigned = std::make_unsigned_t<Stored>;
   static constexpr Unsigned Bits(std::integral auto value) noexcept {
     return static_cast<Unsigned>(value);
@@ -121,7 +124,7 @@ class QORVEX_EXPORT BasicCurrency {
     return *this;
   }
 
-  // Not constexpr, so that no constant is out of range.
+  // Not constexpr, so that a constant expression that is out of range does not compile.
   static BasicCurrency OutOfRange() noexcept {
     return BasicCurrency(std::numeric_limits<Stored>::min());
   }
@@ -136,8 +139,8 @@ using QorCurrency = BasicCurrency<std::int32_t, 100>;
 /// The long currency: six fixed decimals in an int64.
 using QorLongCurrency = BasicCurrency<std::int64_t, 1'000'000>;
 
-/// Writes all fixed decimals, as Currency2EStr gives them, with the stream's width and fill.
-/// Locale, precision and number flags play no part.
+/// Writes the text of Currency2EStr with the stream's width, fill and adjustment. Ignores its
+/// locale, precision and number flags.
 template <class Stored, std::int64_t Scale>
 QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, BasicCurrency<Stored, Scale> amount);
 
@@ -148,17 +151,19 @@ concept CurrencyElement = OneOf<T, Currency, QorCurrency, QorLongCurrency>;
 inline namespace QorvexGlobals {
 
 /// @{
-/// The amount in units, exact to 64 bits of mantissa.
+/// The amount in units: stored / scale, rounded to 64 bits of mantissa.
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(Currency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorCurrency amount) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended Currency2Float(QorLongCurrency amount) noexcept;
 /// @}
 
 /// @{
-/// The value in units as an amount: value times the scale, rounded to an integer. The product is
-/// rounded to extended first, so that 0.015 units, which are no binary number, are a tie; where
-/// that would round the integer itself, from 2^62 on, the exact product decides. NaN and what does
-/// not fit give the smallest amount.
+/// Converts a value in units: value * scale, rounded to an integer, ties to even.
+///
+/// - The product is first rounded to extended precision, so that 0.015 units, which has no exact
+///   binary representation, counts as a tie.
+/// - From 2^62 on, where that rounding could change the integer, the exact product is rounded.
+/// - NaN and values out of range give the smallest amount.
 [[nodiscard]] QORVEX_EXPORT Currency Float2Currency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorCurrency Float2QorCurrency(Extended value) noexcept;
 [[nodiscard]] QORVEX_EXPORT QorLongCurrency Float2QorLongCurrency(Extended value) noexcept;
@@ -176,7 +181,7 @@ QorCurrency2QorLongCurrency(QorCurrency amount) noexcept;
 QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
 /// @}
 
-/// True when the stored integers are equal: money has no tolerance.
+/// True if the amounts are equal. There is no tolerance.
 [[nodiscard]] inline bool SameCurrency(Currency x, Currency y) noexcept {
   return x == y;
 }
@@ -186,7 +191,7 @@ QorLongCurrency2QorCurrency(QorLongCurrency amount) noexcept;
 }  // namespace qorvex
 
 /// @cond internal
-// Amounts wrap around like unsigned integers.
+// is_modulo: amounts wrap around.
 template <class Stored, std::int64_t Scale>
 struct std::numeric_limits<qorvex::BasicCurrency<Stored, Scale>> : std::numeric_limits<Stored> {
   using Amount = qorvex::BasicCurrency<Stored, Scale>;

@@ -1,12 +1,13 @@
 #pragma once
 
 /// @file
-/// Amounts as arguments of libfmt, for programs that have it: fmt::format("{:>14}", amount).
+/// Amounts as arguments of libfmt, for programs that use it: fmt::format("{:>14}", amount).
 ///
-/// The text is that of Currency2EStr. Fill, alignment and width are those of strings, so amounts
-/// stand on the left unless told otherwise. A precision is refused, since cutting the text would
-/// change the amount, and so is '?', which would put it in quotes. The library itself neither
-/// includes this header nor needs libfmt.
+/// - The text is that of Currency2EStr. Fill, alignment and width are those of strings, so amounts
+///   are left-aligned by default.
+/// - A precision is rejected, because truncating the text would change the amount. '?', which would
+///   add quotes, is rejected too.
+/// - The library itself neither includes this header nor needs libfmt.
 
 #include <fmt/format.h>
 #include <string_view>
@@ -18,17 +19,17 @@ namespace fmt {
 /// Formats amounts.
 template <class Stored, std::int64_t Scale>
 struct formatter<qorvex::BasicCurrency<Stored, Scale>> {
-  /// Reads the format specification; raises fmt::format_error for what it refuses.
+  /// Parses the format specification; throws fmt::format_error if it is not valid for amounts.
   constexpr auto parse(format_parse_context& context) {
     const auto* const first = context.begin();
     const auto* const last = text_.parse(context);
     const std::string_view specification(first, static_cast<std::size_t>(last - first));
-    // A point in front of the alignment is the fill.
+    // A point before the alignment is the fill character.
     const bool filled = specification.size() > 1 &&
                         std::string_view("<>^").find(specification[1]) != std::string_view::npos;
     if (specification.find('.', filled ? 1 : 0) != std::string_view::npos)
-      throw format_error("an amount takes no precision");
-    if (specification.ends_with('?')) throw format_error("an amount takes no quotes");
+      throw format_error("an amount has no precision");
+    if (specification.ends_with('?')) throw format_error("an amount has no quoted form");
     return last;
   }
 

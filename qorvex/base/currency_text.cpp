@@ -10,7 +10,7 @@ namespace qorvex {
 
 namespace {
 
-// The longest text is that of the smallest 64-bit amounts: 19 digits, point and sign.
+// The longest text is that of the smallest 64-bit amount: 19 digits, point and sign.
 using Buffer = char[21];
 
 template <CurrencyElement C>
@@ -32,23 +32,23 @@ std::string_view Write(C amount, Buffer& buffer) {
   return {first, end};
 }
 
-// The number in parts of 10^-decimals, rounded half to even; any value above the limit when it is
-// beyond it. The limit is at most 2^63.
+// number * 10^decimals, rounded to an integer, ties to even; some value above the limit if the
+// result is above it. The limit is at most 2^63.
 std::uint64_t CountParts(const detail::DecimalText& number, int decimals, std::uint64_t limit) {
-  const std::uint64_t beyond = limit + 1;
+  const std::uint64_t above_limit = limit + 1;
   std::uint64_t parts = 0;
   unsigned tenths = 0;
   bool below_tenths = false;
 
   const bool has_point = number.mantissa.find('.') != std::string_view::npos;
   const auto digits = static_cast<std::int64_t>(number.mantissa.size() - (has_point ? 1 : 0));
-  // The power of ten of the next digit, counted in parts.
+  // The next digit stands for digit * 10^power.
   std::int64_t power = number.exponent + decimals + digits - 1;
   for (const char c : number.mantissa) {
     if (c == '.') continue;
     const auto digit = static_cast<unsigned>(c - '0');
     if (power >= 0) {
-      if (parts > limit / 10) return beyond;
+      if (parts > limit / 10) return above_limit;
       parts = parts * 10 + digit;
     } else if (power == -1) {
       tenths = digit;
@@ -58,7 +58,7 @@ std::uint64_t CountParts(const detail::DecimalText& number, int decimals, std::u
     --power;
   }
   for (; power >= 0 && parts != 0; --power) {
-    if (parts > limit / 10) return beyond;
+    if (parts > limit / 10) return above_limit;
     parts *= 10;
   }
   const bool tie = tenths == 5 && !below_tenths;

@@ -23,7 +23,7 @@
 namespace qorvex {
 
 /// @cond internal
-// To can be made from From without losing more than the rounding of a floating value.
+// A conversion from From to To can at most round a floating-point value.
 template <class To, class From>
 concept ElementFrom = std::convertible_to<From, To> &&
     (!std::integral<To> || !std::is_arithmetic_v<From> ||
@@ -33,21 +33,20 @@ concept ElementFrom = std::convertible_to<From, To> &&
 
 /// A zero-based dynamic array whose handles share one reference-counted buffer.
 ///
-/// Copying a handle shares the buffer; there is one set of elements, whichever handle writes to it.
-/// Changing the length first gives the handle a buffer of its own. Length 0 holds no buffer at all,
-/// and a moved-from handle is empty.
-///
-/// Copies of a handle may be made and destroyed by several threads at once; writes to elements need
-/// the caller's own synchronisation. One allocation holds the header and the elements. Capacity
-/// grows by half, so appending is amortised O(1).
-///
-/// Access is const-deep: through a const handle the elements can only be read. New elements of
-/// trivially copyable types have all bits zero.
+/// - Copying a handle shares the buffer, so a change to an element is seen through every handle.
+/// - Changing the length first gives the handle its own buffer. An array of length 0 has no buffer.
+/// - A moved-from handle is empty.
+/// - Handles may be copied and destroyed on several threads at once; writing elements needs
+///   external synchronisation.
+/// - Constness is deep: through a const handle the elements can only be read.
+/// - New elements of trivially copyable types have all bits zero.
+/// - One allocation holds the header and the elements. Capacity grows by half, so appending is
+///   amortised O(1).
 template <class T>
 class DynArray {
  public:
   /// @{
-  /// The types of a standard container.
+  /// The member types of a standard container.
   using value_type = T;
   using size_type = std::size_t;
   using difference_type = std::ptrdiff_t;
@@ -61,7 +60,7 @@ class DynArray {
   DynArray() noexcept = default;
 
   /// @{
-  /// An array of the given values, with a buffer of its own.
+  /// An array of the given values.
   DynArray(std::initializer_list<T> values) : DynArray(std::span<const T>(values)) {}
 
   explicit DynArray(std::span<const T> values) {
@@ -72,8 +71,8 @@ class DynArray {
   }
   /// @}
 
-  /// Copies any sized range, converting each value to T. Floating values do not convert to integers
-  /// here, nor integers to ones that cannot hold them all.
+  /// Copies any sized range, converting each value to T. Conversions from floating-point to integer
+  /// elements, or to an integer type that cannot hold all values, do not compile.
   template <std::ranges::sized_range Range>
   requires(!std::same_as<std::remove_cvref_t<Range>, DynArray> &&
            ElementFrom<T, std::ranges::range_value_t<Range>>) explicit DynArray(Range&& range)
@@ -89,7 +88,7 @@ class DynArray {
     return array;
   }
 
-  /// An array of the given length for a caller that writes every element before reading any.
+  /// An array of the given length with uninitialised elements: write each before reading it.
   [[nodiscard]] static DynArray ForOverwrite(
       size_type length) requires std::is_trivially_copyable_v<T> {
     DynArray array;
@@ -104,26 +103,26 @@ class DynArray {
   DynArray(const DynArray& other) noexcept : header_(other.header_) {
     if (header_ != nullptr) header_->references.fetch_add(1, std::memory_order_relaxed);
   }
-  /// Takes the handle over and leaves the other empty.
+  /// Takes over the buffer and leaves the other handle empty.
   DynArray(DynArray&& other) noexcept : header_(std::exchange(other.header_, nullptr)) {}
-  /// Lets go of this buffer and shares, or takes over, the other.
+  /// Releases this buffer and shares, or takes over, the other.
   DynArray& operator=(DynArray other) noexcept {
     std::swap(header_, other.header_);
     return *this;
   }
-  ~DynArray() { Drop(header_); }
+  ~DynArray() { Release(header_); }
 
   /// The number of elements.
   [[nodiscard]] size_type size() const noexcept { return header_ == nullptr ? 0 : header_->length; }
-  /// True for length 0.
+  /// True if the length is 0.
   [[nodiscard]] bool empty() const noexcept { return header_ == nullptr; }
-  /// The highest index: the length less one, and so -1 for an empty array.
+  /// The highest index: length - 1, so -1 for an empty array.
   [[nodiscard]] difference_type High() const noexcept {
     return static_cast<difference_type>(size()) - 1;
   }
 
   /// @{
-  /// The elements; null for an empty array. Valid until the length changes.
+  /// The elements; nullptr for an empty array. Valid until the length changes.
   [[nodiscard]] T* data() noexcept { return header_ == nullptr ? nullptr : Elements(header_); }
   [[nodiscard]] const T* data() const noexcept {
     return header_ == nullptr ? nullptr : Elements(header_);
@@ -135,7 +134,7 @@ class DynArray {
   /// @}
 
   /// @{
-  /// Unchecked access; the index must be below the length (asserted in debug builds).
+  /// Unchecked access: the index must be less than the length (asserted in debug builds).
   [[nodiscard]] T& operator[](size_type index) noexcept {
     assert(index < size());
     return Elements(header_)[index];
@@ -147,24 +146,26 @@ class DynArray {
   /// @}
 
   /// @{
-  /// Checked access; std::out_of_range beyond the length.
+  /// Checked access: throws std::out_of_range if the index is not less than the length.
   [[nodiscard]] T& at(size_type index) {
-    CheckIndex(index);
+    RequireIndex(index);
     return Elements(header_)[index];
   }
   [[nodiscard]] const T& at(size_type index) const {
-    CheckIndex(index);
+    RequireIndex(index);
     return Elements(header_)[index];
   }
-
   /// @}
 
-  /// Sets the length. A shared buffer is left to its other handles and this one gets its own with
-  /// copies of the elements that both lengths have; those that are new are zero. Length 0 releases
-  /// the handle's share. On std::bad_alloc the array is unchanged.
+  /// Sets the length.
+  ///
+  /// - If the buffer is shared, the other handles keep it and this handle gets a private copy.
+  /// - Existing elements up to the new length are kept; new elements are zero.
+  /// - Length 0 releases the buffer.
+  /// - If std::bad_alloc is thrown, the array is unchanged.
   void SetLength(size_type length) {
     if (length == 0) {
-      Drop(std::exchange(header_, nullptr));
+      Release(std::exchange(header_, nullptr));
     } else if (header_ == nullptr || IsShared() || length > header_->capacity) {
       Reallocate(length);
     } else if (length < header_->length) {
@@ -176,27 +177,27 @@ class DynArray {
     }
   }
 
-  /// Appends one element, making the buffer private first.
+  /// Appends one element. The buffer becomes private.
   void Append(T value) {
     SetLength(size() + 1);
     (*this)[size() - 1] = std::move(value);
   }
 
-  /// Gives back capacity that the length does not need, which makes a shared buffer private.
+  /// Releases unused capacity. A shared buffer with unused capacity becomes private.
   void ShrinkToFit() {
     if (header_ != nullptr && header_->capacity > header_->length) Reallocate(header_->length);
   }
 
-  /// True when another handle shares the buffer.
+  /// True if another handle shares the buffer.
   [[nodiscard]] bool IsShared() const noexcept {
     return header_ != nullptr && header_->references.load(std::memory_order_acquire) != 1;
   }
-  /// True when both handles have the same buffer; two empty ones have none.
+  /// True if both handles share one buffer; false for empty arrays.
   [[nodiscard]] bool SharesBufferWith(const DynArray& other) const noexcept {
     return header_ != nullptr && header_ == other.header_;
   }
 
-  /// Equal lengths and equal elements, whether or not the buffer is the same.
+  /// True if lengths and elements are equal.
   friend bool operator==(const DynArray& a, const DynArray& b) { return std::ranges::equal(a, b); }
 
  private:
@@ -221,7 +222,7 @@ class DynArray {
     static_assert(std::is_nothrow_default_constructible_v<T> &&
                       std::is_nothrow_copy_constructible_v<T> &&
                       std::is_nothrow_move_constructible_v<T>,
-                  "only the allocation may fail, so that an array is unchanged when it does");
+                  "only the allocation may fail, so that a failure leaves the array unchanged");
     constexpr size_type limit =
         (static_cast<size_type>(std::numeric_limits<difference_type>::max()) - kElementsOffset) /
         sizeof(T);
@@ -236,7 +237,7 @@ class DynArray {
     ::operator delete (header, std::align_val_t{kAlignment});
   }
 
-  static void Drop(Header* header) noexcept {
+  static void Release(Header* header) noexcept {
     if (header == nullptr) return;
     if (header->references.fetch_sub(1, std::memory_order_acq_rel) != 1) return;
     std::destroy_n(Elements(header), header->length);
@@ -251,8 +252,8 @@ class DynArray {
     }
   }
 
-  // Moves to a new, private buffer of the given length. Growing a private buffer leaves room for
-  // more.
+  // Moves the elements to a new, private buffer of the given length. Growing a private buffer
+  // reserves additional capacity.
   void Reallocate(size_type length) {
     const bool shared = IsShared();
     const size_type old_length = size();
@@ -269,11 +270,11 @@ class DynArray {
     }
     Zero(Elements(fresh) + kept, length - kept);
     fresh->length = length;
-    Drop(std::exchange(header_, fresh));
+    Release(std::exchange(header_, fresh));
   }
 
-  void CheckIndex(size_type index) const {
-    if (index >= size()) throw std::out_of_range("DynArray: index beyond the length");
+  void RequireIndex(size_type index) const {
+    if (index >= size()) throw std::out_of_range("DynArray: index out of range");
   }
 
   Header* header_ = nullptr;

@@ -19,7 +19,7 @@ static_assert(LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
               "Qorvex needs the 80-bit extended format as long double: x86-64 with GCC or Clang "
               "(not -mlong-double-64, not MSVC)");
 
-/// T is one of the listed types, exactly.
+/// T is one of the listed types.
 template <class T, class... List>
 concept OneOf = (std::same_as<T, List> || ...);
 
@@ -39,11 +39,11 @@ concept NarrowIntegerElement = OneOf<T, std::uint16_t, std::int16_t, std::uint8_
 template <class T>
 concept IntegerElement = WideIntegerElement<T> || NarrowIntegerElement<T>;
 
-/// The six elements of at least 32 bits: the floating ones, int64, uint32 and int32.
+/// The six numeric elements of at least 32 bits: the floating ones, int64, uint32 and int32.
 template <class T>
 concept WideNumericElement = FloatElement<T> || WideIntegerElement<T>;
 
-/// The elements that add and subtract: the floating ones, int64 and int32.
+/// The numeric elements with addition and subtraction: the floating ones, int64 and int32.
 template <class T>
 concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std::int32_t>;
 
@@ -51,12 +51,13 @@ concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std:
 template <class T>
 concept NumericElement = FloatElement<T> || IntegerElement<T>;
 
-/// An integer argument. A floating one, which would be cut off, does not compile, nor does an
-/// object of a class that converts to an integer: that would be a second conversion. Cast it.
+/// An integer argument. Floating-point arguments, which would be truncated, do not compile. Objects
+/// of classes that convert to an integer need a cast, because only one user-defined conversion is
+/// implicit.
 template <class T>
 class WholeNumber {
  public:
-  /// Converts the integers that convert to T.
+  /// Implicit, for every argument that converts to T.
   constexpr WholeNumber(T value) noexcept : value_(value) {}
   WholeNumber(std::floating_point auto) = delete;
   /// The integer.
@@ -67,8 +68,8 @@ class WholeNumber {
 };
 
 /// @cond internal
-// Classes of their own, because compilers mangle a concept within a function's type differently,
-// and a program of one could not be linked to a library of the other.
+// Separate classes, because GCC and Clang mangle concepts in a function's signature differently,
+// and a program built with one could not be linked to a library built with the other.
 template <class T>
 struct SumType {
   using Type = std::conditional_t<FloatElement<T>, Extended,
@@ -80,13 +81,13 @@ struct ScalarType {
 };
 /// @endcond
 
-/// The type of an argument that stands for an element of T: T itself, for integers a WholeNumber.
-/// Calls convert to it, since it takes no part in deduction.
+/// The type of a scalar argument of element type T: T itself, or WholeNumber<T> for integers. It
+/// does not take part in template argument deduction, so arguments convert to it.
 template <class T>
 using ScalarOf = typename ScalarType<T>::Type;
 
-/// The type in which sums over elements of T accumulate and are returned: currencies add up to
-/// amounts of their own type.
+/// The type of sums over elements of T: Extended for floating elements, int64 for integers, T for
+/// currencies.
 template <class T>
 using SumOf = typename SumType<T>::Type;
 

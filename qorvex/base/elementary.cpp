@@ -20,8 +20,8 @@ Extended QorArcCos(Extended x) noexcept {
 }
 
 Extended XtoY(Extended x, Extended y) noexcept {
-  constexpr Extended largest_product = 8;
-  if (!(y >= 0 && y <= largest_product) || y != std::trunc(y)) return std::pow(x, y);
+  constexpr Extended most_factors = 8;
+  if (!(y >= 0 && y <= most_factors) || y != std::trunc(y)) return std::pow(x, y);
   Extended product = 1;
   for (int factors = static_cast<int>(y); factors > 0; --factors) product *= x;
   return product;

@@ -18,23 +18,27 @@ inline constexpr Extended QorPi = 3.14159265358979323846264338327950288L;
 inline constexpr std::string_view QorNullStr = "";
 
 /// @{
-/// The base-2 and base-10 logarithms: -infinity for 0, NaN for negative values and NaN, infinity
-/// for infinity. Within two units in the last place.
+/// The base-2 and base-10 logarithms, accurate to two units in the last place. The result is
+/// -infinity for 0, infinity for infinity, and NaN for negative x and NaN.
 [[nodiscard]] QORVEX_EXPORT Extended QorLog2(Extended x) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended QorLog10(Extended x) noexcept;
 /// @}
 
-/// The arc cosine in radians, from 0 to pi. Values outside [-1, 1] by at most QorTolerance are
-/// taken for rounding errors of the nearer end, which makes 0 of the angle between parallel
-/// vectors; all others outside, and NaN, give NaN.
+/// The arc cosine in radians, in [0, pi].
+///
+/// - An x outside [-1, 1] by at most QorTolerance is treated as -1 or 1, so that rounding errors do
+///   not turn the angle between parallel vectors into NaN.
+/// - NaN for any other x outside [-1, 1], and for NaN.
 [[nodiscard]] QORVEX_EXPORT Extended QorArcCos(Extended x) noexcept;
 
-/// x to the power y. XtoY(0, 0) is 1. Integer exponents up to 8 are repeated products from the
-/// left; all others are the C++ library's power, NaN for a negative finite x with a finite y that
-/// is no integer.
+/// x to the power y.
+///
+/// - Integer exponents from 0 to 8: the product x * x * ..., from left to right. XtoY(x, 0) is 1.
+/// - Other exponents: the result of std::pow, which is NaN if x is finite and negative and y is
+///   finite and not an integer.
 [[nodiscard]] QORVEX_EXPORT Extended XtoY(Extended x, Extended y) noexcept;
 
-/// The smaller of two values; x when they are equal or when one is NaN.
+/// The smaller of two values; x if they are equal or one is NaN.
 template <class T>
 requires NumericElement<T>
 [[nodiscard]] constexpr T MinXY(T x, ScalarOf<T> y) noexcept {

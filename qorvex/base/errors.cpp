@@ -6,17 +6,17 @@ namespace qorvex {
 
 namespace {
 
-constexpr std::size_t kLongestOffendingText = 60;
+constexpr std::size_t kLongestQuotedText = 60;
 
 constexpr bool IsUtf8Continuation(char c) {
   return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
-std::string TextWith(MessageId id, std::string_view offending) {
-  std::string shown(offending);
-  if (offending.size() > kLongestOffendingText) {
-    std::size_t end = kLongestOffendingText;
-    while (end > 0 && IsUtf8Continuation(offending[end])) --end;
+std::string TextWith(MessageId id, std::string_view rejected) {
+  std::string shown(rejected);
+  if (rejected.size() > kLongestQuotedText) {
+    std::size_t end = kLongestQuotedText;
+    while (end > 0 && IsUtf8Continuation(rejected[end])) --end;
     shown.replace(end, std::string::npos, "...");
   }
   std::string text = MessageText(id);
@@ -29,8 +29,8 @@ std::string TextWith(MessageId id, std::string_view offending) {
 
 }  // namespace
 
-// The destructors are defined here so that each type has one home for its type information across
-// modules.
+// The destructors are defined here so that the type information of each class is emitted in this
+// library only.
 Exception::~Exception() = default;
 EMathError::~EMathError() = default;
 EZeroDivide::~EZeroDivide() = default;
@@ -38,8 +38,8 @@ EInvalidOp::~EInvalidOp() = default;
 EOverflow::~EOverflow() = default;
 EConvertError::~EConvertError() = default;
 
-EConvertError::EConvertError(MessageId id, std::string_view offending)
-    : Exception(id, TextWith(id, offending)) {}
+EConvertError::EConvertError(MessageId id, std::string_view rejected)
+    : Exception(id, TextWith(id, rejected)) {}
 
 void RaiseMathError(MessageId id) {
   throw EMathError(id);

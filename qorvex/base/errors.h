@@ -4,7 +4,7 @@
 /// The exceptions of the library.
 ///
 /// `Exception` <- `EMathError` <- `EZeroDivide`, `EInvalidOp`, `EOverflow`, and `Exception` <-
-/// `EConvertError` for text that is no number. Running out of memory stays std::bad_alloc.
+/// `EConvertError` for text that cannot be converted. Running out of memory raises std::bad_alloc.
 
 #include <stdexcept>
 #include <string>
@@ -15,59 +15,60 @@
 
 namespace qorvex {
 
-/// The root of the library's exceptions.
+/// The base class of the library's exceptions.
 class QORVEX_EXPORT Exception : public std::runtime_error {
  public:
   ~Exception() override;
-  /// The message that was raised, so that a program can branch without comparing texts.
+  /// Identifies the message, so that a program need not compare texts.
   [[nodiscard]] MessageId message_id() const noexcept { return id_; }
 
  protected:
-  /// The text is what() gives.
+  /// what() returns the text.
   Exception(MessageId id, const std::string& text) : std::runtime_error(text), id_(id) {}
 
  private:
   MessageId id_;
 };
 
-/// Input that a routine rejects. The text is the message's current text at the moment of the raise.
+/// Raised for input that a routine rejects, with the text that the message has at that moment.
 class QORVEX_EXPORT EMathError : public Exception {
  public:
-  /// Takes the message's current text.
+  /// Uses the current text of the message.
   explicit EMathError(MessageId id) : Exception(id, MessageText(id)) {}
   ~EMathError() override;
 };
 
-/// Division of a non-zero value by zero, or the logarithm of zero.
+/// Raised for the division of a non-zero value by zero, and for the logarithm of zero.
 class QORVEX_EXPORT EZeroDivide : public EMathError {
  public:
   EZeroDivide() : EMathError(rsZeroDivide) {}
   ~EZeroDivide() override;
 };
 
-/// An operation without a value, such as 0/0 or the square root of a negative number.
+/// Raised for an operation without a defined result, such as 0 / 0 or the square root of a negative
+/// number.
 class QORVEX_EXPORT EInvalidOp : public EMathError {
  public:
   EInvalidOp() : EMathError(rsInvalidOp) {}
   ~EInvalidOp() override;
 };
 
-/// Finite operands whose result is beyond the extended range.
+/// Raised if finite operands give a result beyond the extended range.
 class QORVEX_EXPORT EOverflow : public EMathError {
  public:
   EOverflow() : EMathError(rsOverflow) {}
   ~EOverflow() override;
 };
 
-/// Text that does not convert. The message names the text.
+/// Raised for text that cannot be converted. The message quotes the text.
 class QORVEX_EXPORT EConvertError : public Exception {
  public:
-  /// offending replaces %1 in the message; long texts are cut.
-  EConvertError(MessageId id, std::string_view offending);
+  /// The rejected text replaces %1 in the message; long texts are shortened.
+  EConvertError(MessageId id, std::string_view rejected);
   ~EConvertError() override;
 };
 
-/// Raises EMathError with the current text of a message; out of line, so that checks stay small.
+/// Raises EMathError with the current text of a message. Out of line, so that checks stay small.
 [[noreturn]] QORVEX_EXPORT void RaiseMathError(MessageId id);
 
 }  // namespace qorvex

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Visibility of public symbols. Everything else in the libraries is hidden.
+/// Visibility of public symbols; all others are hidden.
 
-/// Marks what a library offers to its users.
+/// Marks a symbol as part of the public interface.
 #define QORVEX_EXPORT __attribute__((visibility("default")))

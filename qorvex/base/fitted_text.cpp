@@ -21,8 +21,7 @@ std::string FixedText(Extended value, int decimals, bool trim) {
   return Trimmed(Float2EStr(value, decimals), trim);
 }
 
-// The same text, whose exponent, if it has one, has neither a plus sign nor leading zeroes, which
-// say nothing.
+// Removes the plus sign and the leading zeros of the exponent.
 std::string WithShortExponent(const std::string& text, bool trim) {
   const std::size_t e = text.find('e');
   if (e == std::string::npos) return Trimmed(text, trim);
@@ -40,7 +39,7 @@ std::string ExponentText(Extended value, int decimals, bool trim) {
   return WithShortExponent(text, trim);
 }
 
-// The text with the most digits that fits, of those with least to most; nothing when none does.
+// The longest text that fits among those with least to most digits, found by bisection.
 template <class MakeText>
 std::optional<std::string> LongestThatFits(int least, int most, MakeText make_text,
                                            const TextFits& fits) {
@@ -58,13 +57,13 @@ std::optional<std::string> LongestThatFits(int least, int most, MakeText make_te
   return longest;
 }
 
-// What a text of a finite number has.
+// The digits of a finite number's text.
 struct Digits {
   bool fixed;
   int decimals = 0;
-  // The decimals up to the first digit that is not 0.
+  // The number of decimals up to the first non-zero digit.
   int leading_decimals = 0;
-  // The digits from that one on; none in a zero.
+  // The number of digits from the first non-zero one on; 0 for zero.
   int significant = 0;
 
   explicit Digits(std::string_view text) {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Numbers as texts with as many digits as are wanted, or as there is room for.
+/// Numbers as text with a given number of digits, or with as many digits as fit.
 
 #include <cstddef>
 #include <functional>
@@ -13,38 +13,41 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// The digits that a number is written with.
+/// How many digits of a number are shown.
 struct FloatDigits {
-  int decimals = 4;   ///< Decimals of fixed notation; negative counts as 0.
-  bool all = false;   ///< All digits in place of them: as many as Float2Str gives.
-  bool trim = false;  ///< Without the zeroes that end the decimals.
+  int decimals = 4;   ///< Decimals in fixed notation; negative values count as 0.
+  bool all = false;   ///< Show the digits of Float2Str instead of a number of decimals.
+  bool trim = false;  ///< Remove trailing zeros after the decimal point.
 };
 
-/// The number with these digits, correctly rounded. From 2^63 on, where it has no decimals, it is
-/// written with all its digits, in exponent form, "1.2e300", where that is shorter. Zero has no
-/// sign. NaN is "nan", the infinities are "inf" and "-inf".
+/// The number with these digits, correctly rounded.
+///
+/// - From 2^63 on, where a number has no decimals, all its digits are shown, in exponent form
+///   ("1.2e300") if that is shorter.
+/// - Zero has no sign.
+/// - NaN is "nan", the infinities are "inf" and "-inf".
 [[nodiscard]] QORVEX_EXPORT std::string FloatText(Extended value, const FloatDigits& digits);
 
-/// What stands for a number that has no room.
+/// Shown instead of a number that does not fit.
 inline constexpr std::string_view kNoRoom = "####";
 
-/// Whether a text has room. Where one has, the same with fewer digits is expected to have room too.
+/// Tells whether a text fits. If a text fits, the same number with fewer digits must fit too.
 using TextFits = std::function<bool(std::string_view text)>;
 
-/// The number in a text that fits. The first of these that does:
-/// - FloatText;
-/// - fixed notation with as many of its decimals as fit, but no fewer than it takes to show the
-///   first digit that is not 0: a number does not turn into zero;
-/// - exponent form, "-1.2e-5", with as many of its digits as fit;
-/// - kNoRoom, or as many of its characters as fit.
+/// The number as a text that fits: the first of the following that does.
 ///
-/// Each text is rounded correctly from the value itself, ties to even, and no number is cut off:
-/// what is not kNoRoom is within half a unit of the last digit shown. NaN and the infinities have
-/// no shorter form. Asks fits about the binary logarithm of the number of digits.
+/// - FloatText.
+/// - Fixed notation with fewer decimals, as many as fit, but at least enough to show the first
+///   non-zero digit, so that no number is shown as zero.
+/// - Exponent form, "-1.2e-5", with as many digits as fit.
+/// - kNoRoom, shortened to as many characters as fit.
+///
+/// Every number is correctly rounded from the value itself, ties to even, and never truncated. NaN
+/// and the infinities have no shorter form. Calls fits O(log(number of digits)) times.
 [[nodiscard]] QORVEX_EXPORT std::string FittedFloatText(Extended value, const FloatDigits& digits,
                                                         const TextFits& fits);
 
-/// The same in at most this many characters.
+/// The same with at most this many characters.
 [[nodiscard]] QORVEX_EXPORT std::string FittedFloatText(Extended value, const FloatDigits& digits,
                                                         std::size_t length);
 

@@ -15,8 +15,6 @@ namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
-constexpr int kMostDecimals = 18;
-
 struct Ratio {
   std::int64_t numerator;
   std::int64_t denominator;
@@ -50,8 +48,9 @@ Extended Quotient(Wide n, std::uint64_t d) noexcept {
   const Wide whole = n / d;
   const Wide rest = n % d;
   if (whole == 0) return low(rest) / low(d);
-  // The quotient in binary, at least two places longer than the result. Its last bit is set also
-  // for what comes after it, so that the sum of its halves rounds as the quotient would.
+  // The quotient in binary, with at least two bits more than the result. The last bit is also set
+  // if any bit after it would be, so that the sum of the two halves rounds as the exact quotient
+  // would.
   const int places = whole < Wide{1} << 62 ? 65 : 3;
   Wide digits = (whole << places) + (rest << places) / d;
   if ((rest << places) % d != 0) digits |= 1;
@@ -62,7 +61,7 @@ std::string RatioText(Ratio ratio) {
   return Int2EStr(ratio.numerator) + '/' + Int2EStr(ratio.denominator);
 }
 
-// Reads the digits at the front of rest and removes them.
+// Parses the digits at the front of rest and removes them.
 std::int64_t TakeDigits(std::string_view& rest, std::string_view text) {
   std::int64_t value = 0;
   const bool is_digit = !rest.empty() && rest.front() >= '0' && rest.front() <= '9';
@@ -81,7 +80,8 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 TQorMixedFraction Float2MixedFraction(Extended value, int decimals) noexcept {
   if (!std::isfinite(value)) return {.whole = value};
-  const Extended tolerance = 0.5L * std::pow(10.0L, -std::clamp(decimals, 0, kMostDecimals));
+  const Extended tolerance =
+      0.5L * std::pow(10.0L, -std::clamp(decimals, 0, kMostFractionDecimals));
   Extended whole = 0;
   const Extended fraction = std::modf(std::fabs(value), &whole);
   Ratio ratio = FirstConvergentWithin(fraction, tolerance);
@@ -100,7 +100,7 @@ Extended Fraction2Float(const TQorMixedFraction& fraction) {
   const auto [whole, numerator, denominator] = fraction;
   const Extended part =
       CheckedDivide(static_cast<Extended>(numerator), static_cast<Extended>(denominator));
-  // Beside a larger whole, how the part was rounded makes no difference.
+  // With a larger whole, the rounding of the fraction part makes no difference.
   const bool is_integer = std::fabs(whole) < 0x1p63L && whole == std::trunc(whole);
   if (whole == 0 || !is_integer) return whole + part;
   auto improper = static_cast<__int128>(static_cast<std::int64_t>(whole)) * denominator + numerator;

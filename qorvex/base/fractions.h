@@ -12,19 +12,19 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// whole + numerator / denominator. In the fractions that the library makes, whole and numerator
-/// carry the sign of the value, the numerator is smaller than the denominator, the denominator is
-/// positive and the fraction is in lowest terms.
+/// whole + numerator / denominator. In the fractions that the library returns, whole and numerator
+/// have the sign of the value, the denominator is positive and greater than the magnitude of the
+/// numerator, and the fraction is in lowest terms.
 struct TQorMixedFraction {
-  /// The whole part is extended so that every value has one; it is NaN or infinite for such a
-  /// value.
+  /// The whole part; NaN or infinite if the value is. It is extended because an integer type could
+  /// not hold the whole part of every value.
   Extended whole = 0;
   /// The part above the fraction bar.
   std::int64_t numerator = 0;
   /// The part below the fraction bar.
   std::int64_t denominator = 1;
 
-  /// Equal part by part, not by value.
+  /// Compares the parts, not the values.
   friend bool operator==(const TQorMixedFraction&, const TQorMixedFraction&) = default;
 };
 
@@ -34,28 +34,36 @@ enum TQorFractionDisplay {
   fdImproper  ///< "7/3"
 };
 
-/// A simple fraction that agrees with the value to the given number of decimals (0 to 18; others
-/// are clamped): the first convergent of the continued fraction of its fractional part within half
-/// a unit of the last decimal. NaN and the infinities become the whole part.
+/// The largest number of decimals for Float2MixedFraction.
+inline constexpr int kMostFractionDecimals = 18;
+
+/// A simple fraction that agrees with the value to a number of decimals.
 ///
-/// The convergents are found with exact remainders, so no rounding enters (Hardy and Wright 1979,
-/// "An introduction to the theory of numbers", chapter X).
+/// - The fraction is the first convergent of the continued fraction of the fractional part that is
+///   within half a unit of the last decimal. The remainders are exact, so no rounding errors occur
+///   (Hardy and Wright 1979, "An introduction to the theory of numbers", chapter X).
+/// - decimals is clamped to 0 to kMostFractionDecimals.
+/// - NaN and infinities become the whole part of the result.
 [[nodiscard]] QORVEX_EXPORT TQorMixedFraction Float2MixedFraction(Extended value,
                                                                   int decimals) noexcept;
 
-/// The fraction's value: the extended number nearest to whole + numerator / denominator. NaN or an
-/// infinity in whole is the result, and a whole that is no integer is added after the division. A
-/// denominator of 0 raises EZeroDivide, or EInvalidOp when the numerator is 0 too.
+/// The fraction's value: the extended number nearest to whole + numerator / denominator.
+///
+/// - If whole is not an integer, it is added after the division, with a second rounding.
+/// - If whole is NaN or infinite, so is the result.
+/// - A denominator of 0 raises EZeroDivide, or EInvalidOp if the numerator is 0 too.
 [[nodiscard]] QORVEX_EXPORT Extended Fraction2Float(const TQorMixedFraction& fraction);
 
-/// The fraction's text; a whole number shows no fraction. fdImproper falls back to the mixed form
-/// where the numerator would need more than 64 bits.
+/// The fraction as text, without the fraction part if the numerator is 0. The mixed form is used
+/// instead of fdImproper if the numerator would need more than 64 bits.
 [[nodiscard]] QORVEX_EXPORT std::string Fraction2Str(const TQorMixedFraction& fraction,
                                                      TQorFractionDisplay display);
 
-/// The fraction that a text such as "3", "-7/5" or "2 1/3" names, exactly, in lowest terms.
-/// Surrounding blanks and one leading sign are accepted. Raises EConvertError: rsNotAFraction for
-/// other texts and for a denominator of 0, rsNumberTooLarge for parts beyond int64.
+/// The fraction that a text such as "3", "-7/5" or "2 1/3" represents, exactly and in lowest terms.
+///
+/// - Accepts surrounding blanks and one leading sign.
+/// - EConvertError, which quotes the text: rsNotAFraction for any other text and for a denominator
+///   of 0, rsNumberTooLarge if a part does not fit int64.
 [[nodiscard]] QORVEX_EXPORT TQorMixedFraction Str2Fraction(std::string_view text);
 
 }  // namespace qorvex::inline QorvexGlobals

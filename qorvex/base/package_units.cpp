@@ -14,13 +14,13 @@ struct Journal {
   std::atomic<PackageObserver> observer = nullptr;
 };
 
-// Made by the first package that is loaded, so it outlives the session of the last.
+// Constructed by the first session, so it is destroyed after the last.
 Journal& TheJournal() {
   static Journal journal;
   return journal;
 }
 
-void Note(std::string_view unit, bool initialised) {
+void Record(std::string_view unit, bool initialised) {
   Journal& journal = TheJournal();
   {
     const std::lock_guard lock(journal.mutex);
@@ -42,7 +42,7 @@ PackageSession::PackageSession(std::span<const PackageUnit> units) : units_(unit
     for (const PackageUnit& unit : units_) {
       if (unit.initialise != nullptr) unit.initialise();
       ++initialised_;
-      Note(unit.name, true);
+      Record(unit.name, true);
     }
   } catch (...) {
     Finalise();
@@ -58,7 +58,7 @@ void PackageSession::Finalise() noexcept {
   while (initialised_ > 0) {
     const PackageUnit& unit = units_[--initialised_];
     if (unit.finalise != nullptr) unit.finalise();
-    Note(unit.name, false);
+    Record(unit.name, false);
   }
 }
 

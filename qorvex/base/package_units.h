@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// Packages: loadable modules made of units, which are initialised when the module is loaded and
-/// finalised in the reverse order when it is unloaded.
+/// Packages: loadable modules that consist of units. The units are initialised when the module is
+/// loaded and finalised in reverse order when it is unloaded.
 
 #include <cstddef>
 #include <span>
@@ -14,17 +14,18 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// One unit of a package, and what is done for it; either function may be null.
+/// A unit of a package. Either function may be null.
 struct PackageUnit {
   std::string_view name;           ///< The unit's name.
   void (*initialise)() = nullptr;  ///< Called when the package is loaded.
   void (*finalise)() = nullptr;    ///< Called when the package is unloaded.
 };
 
-/// Initialises units, each after those before it, and finalises them in the reverse order when it
-/// is destroyed: a package has one of these as a global object. When an initialisation raises, the
-/// units before it are finalised, and the error reaches the caller; from a global object it ends
-/// the program.
+/// Initialises units in order and finalises them in reverse order when it is destroyed. A package
+/// has a session as a global object.
+///
+/// If an initialisation throws, the units before it are finalised and the exception is passed on;
+/// thrown from a global object, it terminates the program.
 class QORVEX_EXPORT PackageSession {
  public:
   /// The units must outlive the session.
@@ -40,15 +41,15 @@ class QORVEX_EXPORT PackageSession {
   std::size_t initialised_ = 0;
 };
 
-/// The names of all units of packages that are initialised now, in the order in which they were.
-/// May be called on any thread.
+/// The names of the units that are currently initialised, in the order of their initialisation.
+/// Safe to call on any thread.
 [[nodiscard]] QORVEX_EXPORT std::vector<std::string> InitialisedUnits();
 
-/// Is told of a unit after its initialisation (true) and after its finalisation (false), on the
-/// thread that loads or unloads.
+/// Called after the initialisation (true) and after the finalisation (false) of a unit, on the
+/// thread that loads or unloads the package.
 using PackageObserver = void (*)(std::string_view unit, bool initialised);
 
-/// Sets the observer of all packages, in place of the one before; null for none.
+/// Replaces the observer of all packages; null removes it.
 QORVEX_EXPORT void SetPackageObserver(PackageObserver observer) noexcept;
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -1,11 +1,11 @@
-// Refuses to run where long double does not compute with 64 bits of mantissa: emulators (valgrind
-// among them) and code that lowers the precision of the x87 control word would make every figure of
-// the library quietly wrong.
+// Aborts if long double does not compute with 64 bits of mantissa. In emulators such as valgrind,
+// or with a lower precision in the x87 control word, all results of the library would silently be
+// wrong.
 
 #include <cstdio>
 #include <cstdlib>
 
-// The name lets a static link ask for this file, which nothing else would.
+// Static links request this file by the name, since no other file refers to it.
 extern "C" [[gnu::constructor]] void qorvex_probe_extended_precision() {
   const volatile long double one = 1.0L;
   const volatile long double last_bit = 0x1p-63L;

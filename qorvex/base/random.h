@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The runtime's uniform random numbers.
+/// Uniform random numbers.
 
 #include <cstdint>
 
@@ -12,17 +12,18 @@ namespace qorvex::inline QorvexGlobals {
 
 /// The next uniform value in [0, 1): a 64-bit integer times 2^-64, exact in extended precision.
 ///
-/// One generator serves the whole program: the 64-bit Mersenne twister MT19937-64 (Matsumoto and
-/// Nishimura 1998, "Mersenne twister: a 623-dimensionally equidistributed uniform pseudo-random
-/// number generator"; Nishimura 2000, "Tables of 64-bit Mersenne twisters"). A seed's stream does
-/// not depend on the machine or the compiler. Calls from several threads need the caller's own
-/// lock. Before any seed is set, the stream is that of SetRandSeed(5489).
+/// - The program has one generator: the 64-bit Mersenne twister MT19937-64 (Matsumoto and Nishimura
+///   1998, "Mersenne twister: a 623-dimensionally equidistributed uniform pseudo-random number
+///   generator"; Nishimura 2000, "Tables of 64-bit Mersenne twisters").
+/// - A seed gives the same stream on every machine and with every compiler. The initial seed is
+///   5489.
+/// - Not thread-safe: calls on several threads need a lock.
 QORVEX_EXPORT Extended Random() noexcept;
 
-/// Starts the stream of the given seed.
+/// Restarts the stream with the given seed.
 QORVEX_EXPORT void SetRandSeed(std::uint64_t seed) noexcept;
 
-/// Starts a stream from a seed that the operating system supplies.
+/// Restarts the stream with a seed from the operating system.
 QORVEX_EXPORT void Randomize();
 
 }  // namespace qorvex::inline QorvexGlobals

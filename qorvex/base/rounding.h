@@ -13,27 +13,28 @@
 
 namespace qorvex {
 
-/// Rounds to the nearest integer, ties to even. What the target cannot hold, NaN included, gives
-/// the target's smallest value: 0 for unsigned targets, and what the processor itself marks such a
-/// conversion with for int32 and int64.
+/// Rounds to the nearest integer, ties to even. NaN and values that Int cannot hold give the
+/// smallest value of Int: 0 for unsigned types, and for int32 and int64 the processor's
+/// integer-indefinite value.
 template <std::integral Int>
 [[nodiscard]] inline Int RoundToInteger(Extended value) noexcept {
   static_assert(std::in_range<std::int64_t>(std::numeric_limits<Int>::max()));
   constexpr Int smallest = std::numeric_limits<Int>::min();
-  // What int64 holds; the half below 2^63 is a tie that rounds up to it.
+  // The range of int64; 2^63 - 0.5 is a tie that would round to 2^63.
   if (!(value >= -0x1p63L && value < 0x1p63L - 0.5L)) return smallest;
   const std::int64_t rounded = std::llrint(value);
   return std::in_range<Int>(rounded) ? static_cast<Int>(rounded) : smallest;
 }
 
-/// RoundToInteger of a product, for factors up to 2^24. From 2^62 on a product has only halves left
-/// in extended precision, so a half there goes by what the product was rounded by.
+/// RoundToInteger(value * factor), for factors up to 2^24. The product is rounded to extended
+/// precision first. From 2^62 on, where that leaves a resolution of one half, a half is rounded in
+/// the direction of the exact product.
 template <std::integral Int>
 [[nodiscard]] inline Int RoundProduct(Extended value, std::int64_t factor) noexcept {
   const auto wide_factor = static_cast<Extended>(factor);
   Extended product = value * wide_factor;
   if (std::fabs(product) >= 0x1p62L && std::fabs(product) < 0x1p63L) {
-    // Both parts of the value times the factor are exact, and so is what the sum loses.
+    // The products of both parts of the value are exact, and so is the rounding error of the sum.
     const auto leading = static_cast<Extended>(static_cast<float>(value));
     const Extended lost = (value - leading) * wide_factor - (product - leading * wide_factor);
     const Extended below = std::floor(product);
@@ -42,7 +43,7 @@ template <std::integral Int>
   return RoundToInteger<Int>(product);
 }
 
-/// The nearest integer to a quotient, ties to even. For a divisor from 1 to 2^62.
+/// dividend / divisor, rounded to the nearest integer, ties to even. For divisors from 1 to 2^62.
 [[nodiscard]] constexpr std::int64_t DivideHalfEven(std::int64_t dividend,
                                                     std::int64_t divisor) noexcept {
   const std::int64_t quotient = dividend / divisor;

@@ -11,9 +11,9 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// Exchanges the two referenced values, for every element type. Bits are moved as they are, so NaNs
-/// and signed zeros pass unchanged; extended values move through integer registers, which is
-/// several times faster than through the floating stack. x and y may be the same object.
+/// Exchanges two elements bit by bit, so that NaN payloads and signed zeros are kept. x and y may
+/// be the same object. Extended values move through integer registers, which is several times
+/// faster than through the x87 register stack.
 template <class T>
 requires NumericElement<T> || CurrencyElement<T>
 inline void SwapXY(T& x, T& y) noexcept {

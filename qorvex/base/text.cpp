@@ -34,16 +34,16 @@ constexpr auto kPowersOfTen = [] {
   return powers;
 }();
 
-// Correctly rounded for any length and exponent. The C locale is named explicitly because an
-// application may have changed the global one; std::from_chars would do, but the one of GCC 12
-// refuses subnormal values.
+// Correctly rounded for any length and exponent. Uses the C locale explicitly because an
+// application may have changed the global locale. std::from_chars would be simpler, but in GCC 12
+// it rejects subnormal values.
 Extended ConvertLongNumber(std::string_view digits) {
-  static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
+  static const locale_t c_locale = newlocale(LC_ALL_MASK, "C", nullptr);
   const std::string terminated(digits);
-  return strtold_l(terminated.c_str(), nullptr, plain);
+  return strtold_l(terminated.c_str(), nullptr, c_locale);
 }
 
-// The value of unsigned text.
+// The value of the unsigned text; whole is the text for error messages.
 Extended Magnitude(std::string_view text, std::string_view whole) {
   const detail::DecimalText number = detail::ScanDecimal(text);
   if (!number.valid) {
@@ -53,7 +53,7 @@ Extended Magnitude(std::string_view text, std::string_view whole) {
     if (EqualsIgnoringCase(text, "nan")) return std::numeric_limits<Extended>::quiet_NaN();
     throw EConvertError(rsNotANumber, whole);
   }
-  // Both operands are exact, so the one operation rounds correctly (Clinger 1990, "How to read
+  // Both operands are exact, so a single operation is correctly rounded (Clinger 1990, "How to read
   // floating point numbers accurately").
   constexpr std::int64_t limit = kPowersOfTen.size() - 1;
   if (number.digits <= 19 && number.exponent >= -limit && number.exponent <= limit) {
@@ -67,7 +67,7 @@ Extended Magnitude(std::string_view text, std::string_view whole) {
   return value;
 }
 
-// Writes through format(first, last) into a buffer that is large enough.
+// The text that format(first, last) writes, which is at most longest characters.
 template <class Format>
 std::string Formatted(std::size_t longest, Format format) {
   char small[128];

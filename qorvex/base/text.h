@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Numbers to text and back: exact, and the same under every locale.
+/// Converts numbers to text and back, exactly and independently of the locale.
 
 #include <charconv>
 #include <concepts>
@@ -13,22 +13,25 @@
 
 namespace qorvex::inline QorvexGlobals {
 
-/// The text's value, correctly rounded to 64 bits of mantissa.
+/// The value of the text, correctly rounded to 64 bits of mantissa.
 ///
-/// Accepts surrounding blanks (spaces and tabs), one leading sign, digits with an optional decimal
-/// point, an optional exponent, and "inf", "infinity" and "nan" in any case. Values too small for
-/// the format become 0 or subnormal. Raises EConvertError, naming the text: rsNotANumber for
-/// anything else, rsNumberTooLarge for a number beyond the extended range. Quickest for up to 19
-/// digits and powers of ten up to 27.
+/// - Accepts surrounding blanks (spaces and tabs), one leading sign, digits with an optional
+///   decimal point, an optional exponent, and "inf", "infinity" and "nan" in any case.
+/// - Values too small for the format become 0 or subnormal.
+/// - EConvertError, which quotes the text: rsNotANumber for any other text, rsNumberTooLarge for a
+///   number beyond the extended range.
+/// - Fastest for up to 19 digits and powers of ten from -27 to 27.
 [[nodiscard]] QORVEX_EXPORT Extended Str2Float(std::string_view text);
 
-/// Fixed notation with the given number of decimals (negative counts as 0), correctly rounded, ties
-/// of the exact value to even. A value that rounds to zero has no sign. NaN is "nan", the
-/// infinities are "inf" and "-inf".
+/// The value in fixed notation with the given number of decimals, correctly rounded, ties to even.
+///
+/// - Negative decimals count as 0.
+/// - A value that rounds to zero has no sign.
+/// - NaN is "nan", the infinities are "inf" and "-inf".
 [[nodiscard]] QORVEX_EXPORT std::string Float2EStr(Extended value, int decimals);
 
-/// The shortest text from which Str2Float gives back the same value, in fixed or scientific
-/// notation.
+/// The shortest text, in fixed or scientific notation, that Str2Float converts back to the same
+/// value.
 [[nodiscard]] QORVEX_EXPORT std::string Float2Str(Extended value);
 
 /// The decimal text of an integer.
@@ -39,9 +42,9 @@ template <std::integral Int>
   return {buffer, end};
 }
 
-/// The text without the given character at its end, and without a decimal point that then ends it.
-/// A digit is stripped from the decimals only, so "2.500" becomes "2.5" and "3.000" becomes "3",
-/// while "100" and "1e10" stay.
+/// Removes the given character from the end of the text, and then a decimal point at its end.
+/// Digits are only removed from decimals: "2.500" becomes "2.5" and "3.000" becomes "3", while
+/// "100" and "1e10" stay unchanged.
 [[nodiscard]] QORVEX_EXPORT std::string StripTChStr(std::string_view text, char trailing);
 
 }  // namespace qorvex::inline QorvexGlobals

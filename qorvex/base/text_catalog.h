@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// A catalogue of texts that an application can replace while the program runs.
+/// A catalogue of texts that applications can replace at run time.
 
 #include <cstddef>
 #include <functional>
@@ -17,23 +17,22 @@
 
 namespace qorvex {
 
-/// Texts by identifier, an enumeration that counts from 0. Every member may be called on any
-/// thread.
+/// Texts by identifier, an enumeration that starts from 0. All members are thread-safe.
 ///
-/// A text is found in this order: the look-up function, when one is set and gives a text; the
-/// replacement, when one is set; the default.
+/// A text is the result of the look-up function if it has one, otherwise the replacement if one is
+/// set, otherwise the default.
 template <class Id>
 class TextCatalog {
  public:
-  /// Gives the text for an identifier, or nothing to leave it to the catalogue.
+  /// Returns the text for an identifier, or std::nullopt to use that of the catalogue.
   using Lookup = std::function<std::optional<std::string>(Id)>;
 
   /// The defaults must outlive the catalogue.
   explicit TextCatalog(std::span<const std::string_view> defaults)
       : defaults_(defaults), replacements_(defaults.size()) {}
 
-  /// The current text. The look-up function is called without any lock held, so it may ask for
-  /// other texts of the catalogue.
+  /// The current text. The look-up function is called without a lock held, so it may use other
+  /// texts of the catalogue.
   [[nodiscard]] std::string Text(Id id) const {
     const auto index = static_cast<std::size_t>(id);
     std::shared_ptr<const Lookup> lookup;
@@ -49,7 +48,7 @@ class TextCatalog {
     return stored;
   }
 
-  /// Replaces a text; nothing restores the default.
+  /// Replaces a text; std::nullopt restores the default.
   void SetText(Id id, std::optional<std::string> text) {
     const std::unique_lock lock(mutex_);
     replacements_.at(static_cast<std::size_t>(id)) = std::move(text);

@@ -17,7 +17,7 @@ concept AnyElement = NumericElement<T> || CurrencyElement<T>;
 template <class T>
 concept WideElement = WideNumericElement<T> || CurrencyElement<T>;
 
-/// The elements that add and subtract: the floating ones, int64, int32 and the currencies.
+/// The elements with addition and subtraction: the floating ones, int64, int32 and the currencies.
 template <class T>
 concept AdditiveElement = SignedArithmeticElement<T> || CurrencyElement<T>;
 

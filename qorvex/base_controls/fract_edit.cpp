@@ -7,14 +7,13 @@
 
 namespace qorvex::inline QorvexBaseControls {
 
-namespace {
-
-constexpr int kAllDecimals = 18;
-
-}  // namespace
-
 TQorFractEdit::TQorFractEdit(QWidget* parent) : TQorCustomEdit(parent) {
   setValue(0);
+}
+
+TQorFractEdit::TQorFractEdit(QWidget* parent, FractionDisplayMode display, int decimals)
+    : TQorCustomEdit(parent), display_(display), decimals_(std::clamp(decimals, 0, 255)) {
+  ShowNothing();
 }
 
 TQorFractEdit::~TQorFractEdit() = default;
@@ -36,7 +35,7 @@ QString TQorFractEdit::TextOf(Extended value) const {
 }
 
 FloatDigits TQorFractEdit::Digits() const {
-  return {.decimals = decimals_, .all = decimals_ >= kAllDecimals};
+  return {.decimals = decimals_, .all = decimals_ >= kMostFractionDecimals};
 }
 
 std::optional<Extended> TQorFractEdit::ValueOf(const QString& text) const {

@@ -3,11 +3,13 @@
 /// @file
 /// Unit QorvexFinMatrix: matrices of the three currencies.
 ///
-/// A currency is a type of its own, so the routines are those of the unit QorvexMatrix and the
-/// element type of a matrix decides what they do with it. They work on the stored integers, exactly
-/// and wrapping around, but for what the comments of MultiplyMatrixByConst, LinearTransformMatrix,
-/// GrandMean and Matrix2FloatMatrix say of amounts. There is no row reduction and no matrix product
-/// of money.
+/// The routines are templates of the unit QorvexMatrix; the element type selects the version for
+/// amounts.
+///
+/// - They work on the stored integers, exactly and wrapping around. MultiplyMatrixByConst,
+///   LinearTransformMatrix, GrandMean and Matrix2FloatMatrix state where amounts are treated
+///   differently.
+/// - There are no row reductions, element-wise functions or matrix products of money.
 
 #include "qorvex/base/errors.h"
 #include "qorvex/matrix/access.h"

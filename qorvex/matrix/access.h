@@ -1,15 +1,15 @@
 #pragma once
 
 /// @file
-/// Moving single rows and columns between a matrix and a vector. All for all elements.
+/// Copying single rows and columns between a matrix and a vector.
 ///
-/// Where MatrixDimensions counts a single row or column, or none, the matrix is left alone whatever
-/// the index: the vector that comes out is empty, nothing is written, and nothing raises. With the
-/// shape switch on a ragged matrix is among them, since it counts as having no columns.
-///
-/// Otherwise EMathError, before anything is written: rsInvalidRow or rsInvalidCol for an index
-/// beyond the last; then rsMatrixRect when, with the shape switch off, a row that is read or
-/// written is shorter than the first.
+/// - If MatrixDimensions reports at most one row or at most one column, nothing is written, the
+///   extracted vector is empty and no error is raised, for any index. With the shape switch on this
+///   includes ragged matrices, which count as having no columns.
+/// - Otherwise EMathError, in this order and before anything is written: rsInvalidRow or
+///   rsInvalidCol if the index is out of range; with the shape switch off rsMatrixRect if a row
+///   that is read or written is shorter than the first.
+/// - For all element types.
 
 #include <cstdint>
 
@@ -19,8 +19,7 @@
 namespace qorvex::inline QorvexMatrix {
 
 /// @{
-/// A copy of one row, as long as the matrix has columns, or of one column, as long as it has rows.
-/// O(rows + columns).
+/// A copy of one row or one column. O(rows + columns).
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix,
                                                            std::uint32_t row);
@@ -30,8 +29,8 @@ template <AnyElement T>
 /// @}
 
 /// @{
-/// Writes the elements of the vector into one row or one column, in ascending order, and the fill
-/// value where the vector is too short; what it has in excess is left out. The change is seen
+/// Overwrites one row or one column with the elements of the vector. If the vector is shorter, the
+/// remaining elements are set to the fill value; excess elements are ignored. The change is seen
 /// through every handle of a row's buffer. O(rows + columns).
 template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,

@@ -14,7 +14,7 @@ using QorvexVector::detail::Difference;
 using QorvexVector::detail::Product;
 using QorvexVector::detail::Sum;
 
-// The shape that both matrices have.
+// Requires that both matrices have the same shape, and returns it.
 template <class T>
 detail::Shape CommonShape(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   const detail::Shape shape = detail::ShapeOf(a, false);

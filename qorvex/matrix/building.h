@@ -1,10 +1,11 @@
 #pragma once
 
 /// @file
-/// Making matrices: zero and identity matrices, copies, conversion to extended precision.
+/// Zero and identity matrices, copies, and conversion to extended precision.
 ///
-/// The results are new matrices that share nothing with any other. Nothing here raises but
-/// std::bad_alloc; every shape is accepted, empty and ragged ones too. O(elements).
+/// - The results share no buffers with any other matrix.
+/// - Every shape is accepted, including empty and ragged matrices. No errors except std::bad_alloc.
+/// - O(number of elements).
 
 #include <cstdint>
 
@@ -14,8 +15,8 @@
 namespace qorvex::inline QorvexMatrix {
 
 /// @{
-/// A matrix of so many rows and columns, all elements zero. Without rows it is empty, whatever the
-/// count of columns; without columns its rows have the length 0.
+/// A matrix of the given shape with all elements zero. With rows = 0 it is empty; with cols = 0 its
+/// rows are empty.
 [[nodiscard]] QORVEX_EXPORT TQorFloatMatrix CreateFloatMatrix(std::uint32_t rows,
                                                               std::uint32_t cols);
 [[nodiscard]] QORVEX_EXPORT TQorDoubleMatrix CreateDoubleMatrix(std::uint32_t rows,
@@ -35,8 +36,7 @@ namespace qorvex::inline QorvexMatrix {
 /// @}
 
 /// @{
-/// The identity matrix of an order: ones on the main diagonal and zeros elsewhere; empty for the
-/// order 0.
+/// The identity matrix: ones on the main diagonal and zeros elsewhere. Empty for order 0.
 [[nodiscard]] QORVEX_EXPORT TQorFloatMatrix CreateFloatIdentityMatrix(std::uint32_t order);
 [[nodiscard]] QORVEX_EXPORT TQorDoubleMatrix CreateDoubleIdentityMatrix(std::uint32_t order);
 [[nodiscard]] QORVEX_EXPORT TQorSingleMatrix CreateSingleIdentityMatrix(std::uint32_t order);
@@ -49,13 +49,13 @@ namespace qorvex::inline QorvexMatrix {
 [[nodiscard]] QORVEX_EXPORT TQorSIntMatrix CreateSIntIdentityMatrix(std::uint32_t order);
 /// @}
 
-/// A copy with rows of its own. Ragged shapes and rows without elements are kept; rows that shared
-/// a buffer no longer do. For all elements.
+/// A deep copy: every row gets its own buffer, even if rows of the matrix share one. Ragged shapes
+/// and empty rows are kept. For all element types.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> CopyMatrix(const TQorMatrix<T>& matrix);
 
-/// The elements in extended precision, each converted exactly, in rows of the same lengths; a copy
-/// for a float matrix. For all numeric elements.
+/// A new matrix with the same elements in extended precision, which is exact, and the same row
+/// lengths. For all numeric element types.
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT TQorFloatMatrix Matrix2FloatMatrix(const TQorMatrix<T>& matrix);
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The type of the constants that matrices are multiplied by.
+/// The type of the constants in products and linear transformations of matrices.
 
 #include <type_traits>
 
@@ -10,15 +10,15 @@
 namespace qorvex::inline QorvexMatrix {
 
 /// @cond internal
-// A class of its own for the reason that SumType is one.
+// A separate class for the same reason as SumType.
 template <class T>
 struct FactorType {
   using Type = std::conditional_t<IntegerElement<T>, T, Extended>;
 };
 /// @endcond
 
-/// Extended for floating elements and currencies, so that a factor keeps all its digits; an
-/// integer's own type.
+/// The element type for integers; Extended for floating elements and currencies, so that factors
+/// keep all their digits.
 template <AdditiveElement T>
 using FactorOf = typename FactorType<T>::Type;
 

@@ -12,8 +12,8 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// Four columns of the right factor at a time, so that they stay in the fastest cache while all rows
-// of the left factor pass.
+// Works on four columns of the right factor at a time. They stay in the first-level cache while
+// they are multiplied by all rows of the left factor.
 class QuadProduct {
  public:
   QuadProduct(const TQorFloatMatrix& a, const TQorFloatMatrix& b, std::size_t inner)
@@ -22,7 +22,7 @@ class QuadProduct {
         inner_(inner),
         split_(std::make_unique_for_overwrite<detail::SplitQuad[]>(inner)) {}
 
-  // Writes the columns from col on, four or as many as the product has.
+  // Computes the columns from col on, as many as width, at most four.
   void AddTo(TQorFloatMatrix& product, std::size_t col, std::size_t width) {
     bool exact = true;
     for (std::size_t k = 0; k < inner_; ++k) exact &= split_[k].Store(&b_[k][col], width);
@@ -71,8 +71,8 @@ TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
       quads.AddTo(product, col, std::min(detail::kQuad, right.cols - col));
     }
   } else {
-    // Row by row, so that the sums of a row wait in memory for one another's next product instead
-    // of for their own last one.
+    // Row by row: the sums of a row are independent of one another, so that no addition waits for
+    // the one before.
     for (std::size_t i = 0; i < left.rows; ++i) {
       for (std::size_t k = 0; k < left.cols; ++k) {
         detail::AddElements(product[i].data(), b[k].data(), right.cols,

@@ -8,16 +8,19 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-/// The matrix product: element [i][j] is the sum of a[i][k] b[k][j], added in ascending order of k
-/// from zero. Each product and each sum is rounded to extended precision; in Double and Single
-/// matrices each sum is rounded to the element type as well. NaN and infinities are what the
-/// processor makes of them. A matrix may be both arguments.
+/// The matrix product: element [i][j] is the sum of a[i][k] * b[k][j], added in ascending order of
+/// k, starting from zero.
 ///
-/// EMathError: rsMatrixRect when either matrix is ragged or, with the shape switch on, empty;
-/// rsMatrixIsEmpty when either has no rows; rsMatrixMult when the columns of a are not as many as
-/// the rows of b; then rsMatrixRect when, with the shape switch off, a row is shorter than its
-/// matrix's first. For floating elements. O(rows of a x columns of a x columns of b), with
-/// working memory of up to 128 bytes a column of a.
+/// - Each product and each sum is rounded to extended precision. In Double and Single matrices each
+///   sum is then rounded to the element type.
+/// - NaN and infinities propagate as in IEEE 754 arithmetic.
+/// - Both arguments may be the same matrix.
+/// - EMathError, in this order: with the shape switch on rsMatrixRect if a matrix is ragged or
+///   empty; rsMatrixIsEmpty if a matrix has no rows; rsMatrixMult if the number of columns of a
+///   differs from the number of rows of b; with the shape switch off rsMatrixRect if a row is
+///   shorter than the first row of its matrix.
+/// - O(rows of a x columns of a x columns of b), with up to 128 bytes of working memory per column
+///   of a. For floating elements.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a,
                                                            const TQorMatrix<T>& b);

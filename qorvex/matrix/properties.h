@@ -1,9 +1,9 @@
 #pragma once
 
 /// @file
-/// Questions about the elements of a matrix, within QorTolerance of zero and one.
+/// Tests for zero rows and for the identity matrix, within QorTolerance.
 ///
-/// Elements of every floating type are compared in extended precision. O(elements).
+/// Elements are compared in extended precision. O(number of elements). For floating elements.
 
 #include <cstdint>
 
@@ -12,16 +12,18 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-/// The number of rows whose elements are all zero; NaN and infinities are not. EMathError:
-/// rsMatrixIsEmpty for a matrix without rows or columns, or a ragged one; then rsMatrixRect when,
-/// with the shape switch off, a row is shorter than the first. For floating elements.
+/// The number of rows whose elements are all zero. NaN and infinities are not zero.
+///
+/// EMathError, in this order: rsMatrixIsEmpty for a matrix without rows or columns, or a ragged
+/// one; with the shape switch off rsMatrixRect if a row is shorter than the first.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT std::uint32_t MatrixZeroRows(const TQorMatrix<T>& matrix);
 
-/// True when every element of the main diagonal is one and every other one zero; NaN is neither.
-/// EMathError: rsMatrixIsEmpty for a matrix without rows or columns, or a ragged one; rsMatrixSqr
-/// when it is not square; then rsMatrixRect when, with the shape switch off, a row is shorter than
-/// the first. For floating elements.
+/// True if every element on the main diagonal is one and all others are zero. NaN is neither.
+///
+/// EMathError, in this order: rsMatrixIsEmpty for a matrix without rows or columns, or a ragged
+/// one; rsMatrixSqr if it is not square; with the shape switch off rsMatrixRect if a row is shorter
+/// than the first.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT bool MatrixIsIdentity(const TQorMatrix<T>& matrix);
 

@@ -18,11 +18,11 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// From this many rows on, additions that wait for one another save more than keeping them costs.
+// From this many rows on, deferring additions saves more time than it costs.
 constexpr std::size_t kLeastDeferredRows = 14;
 
-// Gives rows that share a buffer with an earlier row of the matrix one of their own: reduced rows
-// differ.
+// Gives rows that share a buffer with an earlier row of the matrix their own buffer, because
+// reduced rows differ.
 template <FloatElement T>
 void SeparateRows(TQorMatrix<T>& matrix) {
   std::vector<TQorVector<T>*> shared;
@@ -40,7 +40,7 @@ void SeparateRows(TQorMatrix<T>& matrix) {
   }
 }
 
-// Calls reduce with the rows of the matrix in the form that suits them.
+// Calls reduce with the rows of the matrix as DirectRows or DeferredRows, whichever is faster.
 template <FloatElement T, class Reduce>
 auto WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
   SeparateRows(matrix);
@@ -79,8 +79,8 @@ class InverseObserver {
   bool pivots_are_finite_ = true;
 };
 
-// Clears what is above the pivots of the main diagonal, with the additions that would do it on the
-// inverse alone: in the matrix they would add zeros.
+// Clears the elements above the pivots on the main diagonal. The row additions that this takes are
+// only performed on the inverse, since in the matrix they would add zeros.
 template <FloatElement T, class Rows>
 void SubstituteBack(TQorMatrix<T>& matrix, Rows& inverse_rows) {
   for (std::size_t col = matrix.size() - 1; col > 0; --col) {
@@ -89,7 +89,7 @@ void SubstituteBack(TQorMatrix<T>& matrix, Rows& inverse_rows) {
       if (FloatIsNotZero(element)) inverse_rows.Add(row, col, -element);
     }
   }
-  inverse_rows.Settle();
+  inverse_rows.Flush();
 }
 
 template <FloatElement T>
@@ -133,7 +133,7 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
     Rows result_rows(result, order);
     InverseObserver observer(result_rows);
     const std::size_t rank = detail::Eliminate(rows, order, order, observer);
-    result_rows.Settle();
+    result_rows.Flush();
     if (rank < order || !observer.PivotsAreFinite()) return false;
     SubstituteBack(matrix, result_rows);
     return IsFinite(result);

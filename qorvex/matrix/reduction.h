@@ -3,31 +3,33 @@
 /// @file
 /// Row reduction, rank, inverse and determinant by Gaussian elimination with partial pivoting.
 ///
-/// All four routines work on the caller's matrix and leave it reduced; pass a copy (CopyMatrix) to
-/// keep it. An element counts as zero when its magnitude is at most QorTolerance, which is
-/// absolute: raise it for large or badly scaled elements, lower it for tiny ones. Rounding may hide
-/// that a matrix is singular: docs/accuracy.md has the figures.
+/// All four routines reduce the caller's matrix in place; pass a copy (CopyMatrix) to keep it. An
+/// element counts as zero if its magnitude is at most QorTolerance. The tolerance is absolute:
+/// raise it for large or badly scaled elements, lower it for tiny ones. Because of rounding, a
+/// singular matrix may not be recognised as such: docs/accuracy.md has the figures.
 ///
-/// - The pivot of a column is its largest element in magnitude, at or below the pivot's row, that
-///   is not zero; the topmost of equal ones. The topmost NaN goes before all others.
-/// - A pivot p that is not one within the tolerance is scaled to p * (1 / p), and its row with it.
-/// - What is below a pivot, or below the last one in a column without a pivot, is set to +0; what
-///   is above a pivot too, when a matrix is inverted. So the rank is the number of pivots, and all
-///   rows after the last pivot's are +0.
-/// - Computation is in extended precision; Double and Single matrices round each element once a
-///   step. NaN and infinite elements spread as the processor computes them.
-/// - Rows are changed in their buffers, so every handle of a row sees it reduced; of rows of the
-///   matrix that share a buffer the first keeps it and the others get their own.
+/// - The pivot of a column is, in the pivot's row or below, the element of largest magnitude that
+///   is not zero, the topmost of several. The topmost NaN takes precedence over all other elements.
+/// - A pivot p that is not one within the tolerance is scaled to p * (1 / p), together with its
+///   row.
+/// - Elements below a pivot are set to +0, and so are all remaining elements of a column without a
+///   pivot; in an inversion also the elements above a pivot. So the rank is the number of pivots,
+///   and all elements in rows below the last pivot are +0.
+/// - Computations are in extended precision; elements of Double and Single matrices are rounded to
+///   their type in each step. NaN and infinities propagate as in IEEE 754 arithmetic.
+/// - The change is seen through every handle of a row's buffer. If rows of the matrix share a
+///   buffer, the first keeps it and the others get their own.
+/// - EMathError, in this order and before anything is changed: rsMatrixIsEmpty for a matrix without
+///   rows or columns, or a ragged one; rsMatrixSqr if a square matrix is required; with the shape
+///   switch off rsMatrixRect if a row is shorter than the first. Running out of memory changes no
+///   element either.
+/// - The shape switch is off during a reduction and is restored at its end, also after an
+///   exception.
+/// - O(rows x columns x min(rows, columns)), with working memory of up to 180 bytes per row and 130
+///   bytes per column, twice as much for an inverse. For floating elements.
 ///
-/// Errors are EMathError, checked before anything changes: rsMatrixIsEmpty for a matrix without
-/// rows or columns, or a ragged one; rsMatrixSqr where a square matrix is needed; then rsMatrixRect
-/// when, with the shape switch off, a row is shorter than the first. Lack of memory leaves all
-/// elements as they are, too. The shape switch is off while a reduction runs and is restored when
-/// it ends, however it ends.
-///
-/// O(rows x columns x the smaller of both), with working memory of up to 180 bytes a row and 130 a
-/// column; an inverse takes that twice. For floating elements. Golub and Van Loan 2013, "Matrix
-/// Computations", 3.4, describe the elimination with partial pivoting.
+/// Source: Gaussian elimination with partial pivoting as in Golub and Van Loan 2013, "Matrix
+/// Computations", 3.4.
 
 #include <cstdint>
 
@@ -36,30 +38,37 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-/// Turns the matrix into a row echelon form: each row begins, after zeros, with a one (within the
-/// tolerance) that is further right than that of the row above, and rows of zeros come last. What
-/// is above a leading one stays. A pivot that is NaN or infinite leaves NaN in place of the one.
+/// Transforms the matrix to row echelon form: the first non-zero element of each row is one within
+/// the tolerance and is to the right of that of the row above; rows of zeros are last. Elements
+/// above the leading ones are not eliminated. A pivot that is NaN or infinite becomes NaN instead
+/// of one.
 template <FloatElement T>
 QORVEX_EXPORT void RowEchelonForm(TQorMatrix<T>& matrix);
 
-/// RowEchelonForm, and sets rank to the number of pivots: of the rows that are not zero in it. The
-/// rank is 0 after an error.
+/// The same as RowEchelonForm, and sets rank to the number of pivots, which is the number of
+/// non-zero rows of the result. After an error rank is 0.
 template <FloatElement T>
 QORVEX_EXPORT void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank);
 
-/// Sets inverse to the inverse matrix and returns true; matrix is then exactly zero beside its
-/// diagonal and one within the tolerance on it. Returns false when the rank is below the order,
-/// when a pivot is NaN or infinite, and when an element of the inverse would be: so a matrix with a
-/// NaN has none. The matrix is then reduced as far as it went, and inverse holds a matrix that
-/// means nothing. Both may be the same variable, which holds what inverse would.
+/// Sets inverse to the inverse matrix.
+///
+/// - Returns true if there is an inverse. Then the diagonal of matrix is one within the tolerance,
+///   and all other elements are zero.
+/// - Returns false if the rank is less than the order, or if a pivot or an element of the inverse
+///   is NaN or infinite, as for any matrix with a NaN. Then matrix is only partly reduced, and
+///   inverse has no meaningful value.
+/// - Both arguments may be the same variable, which receives the inverse.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse);
 
-/// The determinant: the product of the pivots, and of -1 for each exchange of rows, in the order in
-/// which they come up, and of the diagonal that the elimination leaves. Exactly zero when the rank
-/// is below the order, unless the product of the pivots overflows, which gives NaN. NaN when a
-/// pivot is NaN or infinite; a NaN that no pivot meets plays no part: [[1, NaN], [0, 1]] has 1.
-/// Leaves the matrix in row echelon form.
+/// The determinant. The matrix is transformed to row echelon form.
+///
+/// - Computed as the product of the pivots and of -1 for each exchange of rows, in the order of
+///   their occurrence, and then of the diagonal elements of the echelon form.
+/// - Exactly zero if the rank is less than the order, unless the product of the pivots overflows;
+///   then the result is NaN.
+/// - NaN if a pivot is NaN or infinite. A NaN elsewhere may not affect the result: the determinant
+///   of [[1, NaN], [0, 1]] is 1.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT Extended MatrixDeterminant(TQorMatrix<T>& matrix);
 

@@ -13,7 +13,7 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// The index of the line that belongs at each position.
+// The index of the row or column that belongs at each position.
 using Order = std::vector<std::uint32_t>;
 
 template <class T, class ElementAt>
@@ -26,8 +26,8 @@ Order SortedOrder(std::size_t count, bool ascending, ElementAt element_at) {
   return order;
 }
 
-// Copies the contents of rows along each cycle of the order, which it uses up, so that every row is
-// read before it is written. The scratch row keeps the first of a cycle.
+// Moves the contents of rows along each cycle of the permutation, so that every row is read before
+// it is written. The scratch row holds the first row of a cycle.
 template <class T>
 void PermuteRows(TQorMatrix<T>& matrix, Order order, std::size_t cols, T* scratch) {
   const auto copy = [bytes = cols * sizeof(T)](T* to, const T* from) {
@@ -46,7 +46,7 @@ void PermuteRows(TQorMatrix<T>& matrix, Order order, std::size_t cols, T* scratc
   }
 }
 
-// Gathers each row through the scratch row.
+// Permutes each row by way of the scratch row.
 template <class T>
 void PermuteCols(TQorMatrix<T>& matrix, const Order& order, T* scratch) {
   const std::size_t cols = order.size();
@@ -62,7 +62,7 @@ void PermuteCols(TQorMatrix<T>& matrix, const Order& order, T* scratch) {
 template <AnyElement T>
 void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascending) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return;
+  if (shape.HasAtMostOneLine()) return;
   detail::RequireRectangular(shape);
   detail::RequireCol(shape, col);
   detail::RequireLengths(matrix, shape.cols);
@@ -75,7 +75,7 @@ void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascendi
 template <AnyElement T>
 void QSortMatrixColsOnRow(TQorMatrix<T>& matrix, std::uint32_t row, bool ascending) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return;
+  if (shape.HasAtMostOneLine()) return;
   detail::RequireRectangular(shape);
   detail::RequireRow(shape, row);
   detail::RequireLengths(matrix, shape.cols);

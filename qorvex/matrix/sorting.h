@@ -11,24 +11,24 @@
 namespace qorvex::inline QorvexMatrix {
 
 /// @{
-/// Brings the rows into the order of their elements in one column, or the columns into the order of
-/// their elements in one row. Keys are compared exactly, without tolerance; NaN goes last,
-/// ascending or descending. Callers must not rely on the order of rows or columns with equal keys.
+/// Sorts the rows by their elements in one column, or the columns by their elements in one row.
 ///
-/// Row buffers stay where they are and their contents move, seen through every handle of them. Rows
-/// of the matrix that share a buffer stay equal and so may end out of order, though no contents are
-/// lost; a column sort permutes a shared buffer once for each of its rows.
-///
-/// Where MatrixDimensions counts a single row or column, or none, the matrix is left alone whatever
-/// the index; with the shape switch on a ragged matrix is among them. Otherwise EMathError:
-/// rsInvalidCol or rsInvalidRow for an index beyond the last; then rsMatrixRect when, with the
-/// shape switch off, a row is shorter than the first. A raise, or lack of memory, leaves the matrix
-/// as it is.
-///
-/// The keys are sorted as by QSortVector, in O(n log n) or better and with 36 bytes of memory a key
-/// and a row for scratch; then the elements are moved once, O(elements): rows follow the cycles of
-/// the permutation through one scratch row (Knuth 1998, "The Art of Computer Programming", volume
-/// 3, 5.2). For all elements.
+/// - Keys are compared exactly, without tolerance. NaN is last in both orders. The order of rows or
+///   columns with equal keys is unspecified.
+/// - Contents are moved, row buffers are not exchanged. So the change is seen through every handle
+///   of a row's buffer.
+/// - Rows that share a buffer stay equal, so they may be out of order afterwards; no contents are
+///   lost. Sorting columns permutes a shared buffer once for each of its rows.
+/// - If MatrixDimensions reports at most one row or at most one column, nothing happens, whatever
+///   the index. With the shape switch on this includes ragged matrices.
+/// - Otherwise EMathError, in this order: rsInvalidCol or rsInvalidRow if the index is out of
+///   range; with the shape switch off rsMatrixRect if a row is shorter than the first. An error, or
+///   running out of memory, leaves the matrix unchanged.
+/// - Keys are sorted as by QSortVector, in O(n log n) or better, with 36 bytes of memory per key.
+///   Then every element is moved once, in O(number of elements): rows along the cycles of the
+///   permutation, with one additional row of memory (Knuth 1998, "The Art of Computer Programming",
+///   volume 3, 5.2).
+/// - For all element types.
 template <AnyElement T>
 QORVEX_EXPORT void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascending);
 template <AnyElement T>

@@ -10,7 +10,8 @@ namespace {
 
 using QorvexVector::detail::Int64Sum;
 
-// The sum of element(0) to element(count - 1). As in SumVector, a lone negative zero stays one.
+// The sum of element(0) to element(count - 1). As in SumVector, the sum of a single negative zero
+// is negative zero.
 template <NumericElement T, class Element>
 SumOf<T> SumInOrder(std::size_t count, Element element) {
   if constexpr (FloatElement<T>) {
@@ -29,7 +30,7 @@ void AddRow(const TQorVector<T>& row, Extended& sum) {
   for (const T x : row) sum += static_cast<Extended>(x);
 }
 
-// Sums of fewer than 2^32 such elements are exact in int64 and in extended precision alike.
+// The sum of fewer than 2^32 such elements is exact both in int64 and in extended precision.
 void AddRow(const TQorLIntVector& row, Extended& sum) {
   Int64Sum row_sum;
   for (const std::int32_t x : row) row_sum.Add(x);
@@ -41,7 +42,7 @@ void AddRow(const TQorVector<T>& row, Int64Sum& sum) {
   for (const T x : row) sum.Add(x.stored());
 }
 
-// Adds all elements and counts them.
+// Counts and adds all elements.
 template <AdditiveElement T, class Sum>
 void AddRows(const TQorMatrix<T>& matrix, std::uint32_t& count, Sum& sum) {
   detail::RequireRows(matrix);

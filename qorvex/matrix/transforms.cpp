@@ -10,22 +10,22 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// Replaces each element by function(element), computed in extended precision; the first that is
-// refused raises.
-template <FloatElement T, class Refused, class Function>
-void Replace(TQorMatrix<T>& matrix, Refused refused, MessageId error, Function function) {
+// Replaces each element by function(element), computed in extended precision. The first element
+// that is invalid raises the error.
+template <FloatElement T, class IsInvalid, class Function>
+void Replace(TQorMatrix<T>& matrix, IsInvalid is_invalid, MessageId error, Function function) {
   detail::RequireRows(matrix);
   for (TQorVector<T>& row : matrix) {
     for (T& x : row) {
-      if (refused(x)) RaiseMathError(error);
+      if (is_invalid(x)) RaiseMathError(error);
       x = static_cast<T>(function(static_cast<Extended>(x)));
     }
   }
 }
 
-constexpr auto kNegative = [](auto x) { return x < 0; };
-constexpr auto kZero = [](auto x) { return x == 0; };
-constexpr auto kNotPositive = [](auto x) { return x <= 0; };
+constexpr auto kIsNegative = [](auto x) { return x < 0; };
+constexpr auto kIsZero = [](auto x) { return x == 0; };
+constexpr auto kIsNotPositive = [](auto x) { return x <= 0; };
 
 }  // namespace
 
@@ -48,22 +48,22 @@ void SquareMatrix(TQorMatrix<T>& matrix) {
 
 template <FloatElement T>
 void SqrtMatrix(TQorMatrix<T>& matrix) {
-  Replace(matrix, kNegative, rsMatrixNeg, [](Extended x) { return std::sqrt(x); });
+  Replace(matrix, kIsNegative, rsMatrixNeg, [](Extended x) { return std::sqrt(x); });
 }
 
 template <FloatElement T>
 void InvMatrix(TQorMatrix<T>& matrix) {
-  Replace(matrix, kZero, rsMatrixZero, [](Extended x) { return 1 / x; });
+  Replace(matrix, kIsZero, rsMatrixZero, [](Extended x) { return 1 / x; });
 }
 
 template <FloatElement T>
 void LnMatrix(TQorMatrix<T>& matrix) {
-  Replace(matrix, kNotPositive, rsMatrixNotPos, [](Extended x) { return std::log(x); });
+  Replace(matrix, kIsNotPositive, rsMatrixNotPos, [](Extended x) { return std::log(x); });
 }
 
 template <FloatElement T>
 void Log10Matrix(TQorMatrix<T>& matrix) {
-  Replace(matrix, kNotPositive, rsMatrixNotPos, QorLog10);
+  Replace(matrix, kIsNotPositive, rsMatrixNotPos, QorLog10);
 }
 
 #define QORVEX_INSTANTIATE(T) \

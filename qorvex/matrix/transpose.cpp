@@ -11,9 +11,8 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// A block of the source has this many rows and columns. Its rows and those of the result stay in
-// the first cache together, also for extended elements, and the lines that both touch are used up
-// before they leave it.
+// The size of a block of the source. Its rows and those of the result fit the first-level cache
+// together, even for extended elements, so that each cache line is loaded only once.
 constexpr std::size_t kBlockRows = 16;
 constexpr std::size_t kBlockCols = 32;
 

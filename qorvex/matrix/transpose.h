@@ -8,10 +8,11 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-/// A new matrix whose element [j][i] has the bits of matrix[i][j]. EMathError with rsMatrixRect for
-/// a ragged or empty matrix; with the shape switch off an empty one gives an empty result, and one
-/// with a row shorter than the first raises. For all elements. O(elements), in blocks that
-/// suit the caches.
+/// A new matrix whose element [j][i] is a bitwise copy of matrix[i][j].
+///
+/// - EMathError with rsMatrixRect for a ragged or empty matrix. With the shape switch off only if a
+///   row is shorter than the first; an empty matrix gives an empty result.
+/// - O(number of elements), in blocks that fit the caches. For all element types.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> TransposeMatrix(const TQorMatrix<T>& matrix);
 

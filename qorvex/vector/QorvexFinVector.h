@@ -3,11 +3,13 @@
 /// @file
 /// Unit QorvexFinVector: vectors of the three currencies.
 ///
-/// A currency is a type of its own, so the routines are those of the unit QorvexVector and the
-/// element type of a vector decides what they do with it. They work on the stored integers, exactly
-/// and wrapping around, but for what the comments of SumVector, the sign tests and
-/// LinearTransformVector say of amounts. SameCurrency decides which amounts are equal in a ranking.
-/// There are no squares, products, element-wise functions or moving averages of money.
+/// The routines are templates of the unit QorvexVector; the element type selects the version for
+/// amounts.
+///
+/// - They work on the stored integers, exactly and wrapping around. SumVector, the sign tests and
+///   LinearTransformVector state where amounts are treated differently.
+/// - SameCurrency decides which amounts are equal in a ranking.
+/// - There are no squares, products, element-wise functions or moving averages of money.
 
 #include "qorvex/base/errors.h"
 #include "qorvex/vector/aggregates.h"

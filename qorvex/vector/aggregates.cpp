@@ -13,8 +13,8 @@ namespace {
 constexpr auto kItself = [](auto x) { return x; };
 constexpr auto kSquare = [](Extended x) { return x * x; };
 
-// Adds term(element) in ascending order, starting with the first term itself, so that a lone
-// negative zero stays one.
+// Adds term(element) in ascending order. The sum starts with the first term instead of zero, so
+// that the sum of a single negative zero is negative zero.
 template <FloatElement T, class Term>
 Extended SumOfTerms(const TQorVector<T>& vector, Term term) {
   Extended sum = term(static_cast<Extended>(vector[0]));

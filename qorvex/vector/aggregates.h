@@ -1,12 +1,14 @@
 #pragma once
 
 /// @file
-/// Sums of elements, of their squares and of squared differences, and magnitudes.
+/// Sums of elements, of squares and of squared differences, and magnitudes.
 ///
-/// Floating elements are summed in extended precision, in ascending order of their index: the order
-/// is part of the result. NaN gives NaN, infinities what the processor makes of them. Integer
-/// elements are summed in int64, which wraps around silently, and their squares are formed in the
-/// narrow widths that SumSqVector lists. Nothing is written. O(n).
+/// - Floating elements are summed in extended precision, in ascending order of their index. The
+///   order is part of the result.
+/// - NaN and infinities propagate as in IEEE 754 arithmetic.
+/// - Integer elements are summed in int64, which wraps around silently. Their squares are computed
+///   in the narrow widths that SumSqVector lists.
+/// - O(n).
 
 #include <concepts>
 #include <cstdint>
@@ -17,17 +19,19 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The sum of the elements: extended for floating elements, int64 for integers, and for currencies
-/// an amount of their own type, whose stored integer wraps around. An empty vector raises
-/// EMathError with rsVectorIsEmpty. For all elements.
+/// The sum of the elements: Extended for floating elements, int64 for integers, and an amount of
+/// the same type, whose stored integer wraps around, for currencies.
+///
+/// - n = 0: EMathError with rsVectorIsEmpty. n = 1: the element.
+/// - For all element types.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT SumOf<T> SumVector(const TQorVector<T>& vector);
 
-/// The sum of the squares. An empty vector raises EMathError with rsVectorIsEmpty. For all numeric
-/// elements.
+/// The sum of the squares: Extended for floating elements, int64 for integers.
 ///
-/// Each integer square keeps only the low bits of its narrow width and is then added in
-/// int64:
+/// - n = 0: EMathError with rsVectorIsEmpty.
+/// - For all numeric element types. For exact sums of large integers convert with
+///   Vector2FloatVector first, because only the low bits of each square are added:
 ///
 /// | element      | square                                                                     |
 /// |--------------|----------------------------------------------------------------------------|
@@ -37,13 +41,11 @@ template <AnyElement T>
 /// | uint16       | low 16 bits, zero-extended                                                  |
 /// | int16        | low 16 bits, sign-extended                                                  |
 /// | uint8, int8  | low 16 bits, sign-extended (255 squared adds -511)                          |
-///
-/// For exact sums of large integers convert with Vector2FloatVector first.
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqVector(const TQorVector<T>& vector);
 
-/// The sum of (element - mean) squared, in extended precision, for a mean of the element type. An
-/// empty vector raises EMathError with rsVectorIsEmpty.
+/// The sum of (element - mean)^2 in extended precision, for a mean of the element type. n = 0
+/// raises EMathError with rsVectorIsEmpty. For floating elements.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(const TQorVector<T>& vector, ScalarOf<T> mean);
 
@@ -56,31 +58,33 @@ QORVEX_EXPORT Extended SumSqDiffFromExtended(const TQorVector<T>& vector, Extend
 }  // namespace detail
 /// @endcond
 
-/// The int64 sum of (element - mean) squared for an integral mean, which is converted to the
-/// element type. The difference wraps in the element's width and is squared as SumSqVector squares
-/// an element. An empty vector raises EMathError with rsVectorIsEmpty. For int64, uint32 and int32.
+/// The int64 sum of (element - mean)^2 for an integer mean, which is converted to the element type.
+/// The difference wraps around in the element's width and is squared as in SumSqVector. n = 0
+/// raises EMathError with rsVectorIsEmpty. For int64, uint32 and int32.
 template <WideIntegerElement T, std::integral Mean>
 [[nodiscard]] std::int64_t SumSqDiffVector(const TQorVector<T>& vector, Mean mean) {
   return detail::SumSqDiffFromInteger(vector, static_cast<T>(mean));
 }
 
-/// The extended sum of (element - mean) squared for a floating mean. An empty vector raises
-/// EMathError with rsVectorIsEmpty. For int64, uint32 and int32.
+/// The sum of (element - mean)^2 in extended precision for a floating mean. n = 0 raises EMathError
+/// with rsVectorIsEmpty. For int64, uint32 and int32.
 template <WideIntegerElement T, std::floating_point Mean>
 [[nodiscard]] Extended SumSqDiffVector(const TQorVector<T>& vector, Mean mean) {
   return detail::SumSqDiffFromExtended(vector, static_cast<Extended>(mean));
 }
 
-/// The squares of a[i] - b[i], summed: extended for floating elements; int64 for integers, whose
-/// 64-bit difference is squared in its low 32 bits as a signed product, also for uint32.
-/// EMathError: rsSameDimensions for different lengths, then rsVectorIsEmpty. For the six elements
-/// of at least 32 bits.
+/// The sum of (a[i] - b[i])^2.
+///
+/// - Extended for floating elements. int64 for integers: of the 64-bit difference the low 32 bits
+///   are squared, as a signed product for uint32 too.
+/// - EMathError, in this order: rsSameDimensions for different lengths, rsVectorIsEmpty for n = 0.
+/// - For the six numeric element types of at least 32 bits.
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqDiffVectors(const TQorVector<T>& a,
                                                       const TQorVector<T>& b);
 
-/// The square root of the sum of the squares, all in extended precision; 0 for an empty vector. For
-/// all numeric elements.
+/// The square root of the sum of the squares, in extended precision; 0 for n = 0. For all numeric
+/// element types.
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended VectorMagnitude(const TQorVector<T>& vector);
 

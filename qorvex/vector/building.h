@@ -3,10 +3,11 @@
 /// @file
 /// Growing, shrinking, filling, copying and reversing vectors.
 ///
-/// None of these routines raises: positions out of range are absorbed, and an empty vector is valid
-/// everywhere. Running out of memory leaves the vector unchanged; only a deletion from a shared
-/// buffer has moved its elements by then. Values are copied bit for bit, NaN and infinities
-/// included.
+/// - No routine raises an error: each states what it does for a position out of range, and an empty
+///   vector is valid everywhere.
+/// - Running out of memory leaves the vector unchanged, except that a deletion from a shared buffer
+///   may already have moved its elements.
+/// - Values are copied bit for bit, including NaN and infinities.
 
 #include <cstdint>
 
@@ -15,36 +16,37 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// Appends a value; the vector's buffer becomes private. For the elements of at least 32 bits and
-/// the currencies. Amortised O(1).
+/// Appends a value. The buffer becomes private. Amortised O(1). For numeric elements of at least 32
+/// bits and the currencies.
 template <WideElement T>
 QORVEX_EXPORT void AppendValue2Vector(TQorVector<T>& vector, ScalarOf<T> value);
 
-/// Inserts a value before the position; a position that no element has appends instead. The buffer
-/// becomes private. For the elements of at least 32 bits and the currencies. O(n).
+/// Inserts a value before the element at the position, or appends it if the position is out of
+/// range. The buffer becomes private. O(n). For numeric elements of at least 32 bits and the
+/// currencies.
 template <WideElement T>
 QORVEX_EXPORT void AddValue2Vector(TQorVector<T>& vector, ScalarOf<T> value, std::int32_t position);
 
-/// Deletes the element at the position; nothing happens when there is none. Deleting the only
-/// element leaves the vector empty. While the elements move down, other handles of the same buffer
-/// see the move. For the elements of at least 32 bits and the currencies. O(n).
+/// Deletes the element at the position. Does nothing if the position is out of range. If the buffer
+/// is shared, the other handles see the elements move, but keep their length. O(n). For numeric
+/// elements of at least 32 bits and the currencies.
 template <WideElement T>
 QORVEX_EXPORT void DeleteValueFromVector(TQorVector<T>& vector, std::int32_t position);
 
-/// Gives every element the value, seen through every handle of the buffer. For all
-/// elements. O(n).
+/// Sets every element to the value. The change is seen through every handle of the buffer. O(n).
+/// For all element types.
 template <AnyElement T>
 QORVEX_EXPORT void FillVector(TQorVector<T>& vector, ScalarOf<T> value);
 
-/// Gives every element zero and keeps the length. For all elements. O(n).
+/// Sets every element to zero and keeps the length. O(n). For all element types.
 template <AnyElement T>
 QORVEX_EXPORT void ClearVector(TQorVector<T>& vector);
 
-/// A new vector with the same elements and a buffer of its own. For all elements. O(n).
+/// A new vector with the same elements that does not share the buffer. O(n). For all element types.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> CopyVector(const TQorVector<T>& vector);
 
-/// A new vector with the elements in opposite order. For all elements. O(n).
+/// A new vector with the elements in reverse order. O(n). For all element types.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> ReverseVector(const TQorVector<T>& vector);
 

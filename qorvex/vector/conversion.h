@@ -3,9 +3,10 @@
 /// @file
 /// Widening conversions of arrays and vectors.
 ///
-/// Every conversion is exact: to Extended from any element, to int64 from any integer, to int32
-/// from int32 and the 8- and 16-bit integers. Conversions that could round, truncate or overflow do
-/// not exist. An empty source gives an empty result; nothing raises; NaN and infinities stay. O(n).
+/// - Every conversion is exact: to Extended from any numeric element, to int64 from any integer, to
+///   int32 from int32 and the 8- and 16-bit integers. Conversions that could round, truncate or
+///   overflow do not exist.
+/// - n = 0 gives an empty result. NaN and infinities are kept. No errors. O(n).
 
 #include <concepts>
 #include <ranges>
@@ -36,40 +37,40 @@ QORVEX_EXPORT TQorVector<To> Widened(std::span<const From> values);
 }  // namespace detail
 /// @endcond
 
-/// An array's values as a float vector.
+/// The values of an array as a new float vector.
 template <detail::OpenArray Range>
 requires detail::WidensToFloat<std::ranges::range_value_t<Range>>
 [[nodiscard]] TQorFloatVector Array2FloatVector(const Range& values) {
   return detail::Widened<Extended>(std::span<const std::ranges::range_value_t<Range>>(values));
 }
 
-/// An array's values as an int64 vector.
+/// The values of an array as a new int64 vector.
 template <detail::OpenArray Range>
 requires detail::WidensToInt64<std::ranges::range_value_t<Range>>
 [[nodiscard]] TQorInt64Vector Array2Int64Vector(const Range& values) {
   return detail::Widened<std::int64_t>(std::span<const std::ranges::range_value_t<Range>>(values));
 }
 
-/// An array's values as an int32 vector.
+/// The values of an array as a new int32 vector.
 template <detail::OpenArray Range>
 requires detail::WidensToLInt<std::ranges::range_value_t<Range>>
 [[nodiscard]] TQorLIntVector Array2LIntVector(const Range& values) {
   return detail::Widened<std::int32_t>(std::span<const std::ranges::range_value_t<Range>>(values));
 }
 
-/// A vector's elements as a new float vector; a copy for a float vector.
+/// The elements of a vector as a new float vector, which never shares the buffer.
 template <detail::WidensToFloat T>
 [[nodiscard]] TQorFloatVector Vector2FloatVector(const TQorVector<T>& vector) {
   return detail::Widened<Extended>(std::span<const T>(vector));
 }
 
-/// A vector's elements as a new int64 vector; a copy for an int64 vector.
+/// The elements of a vector as a new int64 vector, which never shares the buffer.
 template <detail::WidensToInt64 T>
 [[nodiscard]] TQorInt64Vector Vector2Int64Vector(const TQorVector<T>& vector) {
   return detail::Widened<std::int64_t>(std::span<const T>(vector));
 }
 
-/// A vector's elements as a new int32 vector; a copy for an int32 vector.
+/// The elements of a vector as a new int32 vector, which never shares the buffer.
 template <detail::WidensToLInt T>
 [[nodiscard]] TQorLIntVector Vector2LIntVector(const TQorVector<T>& vector) {
   return detail::Widened<std::int32_t>(std::span<const T>(vector));

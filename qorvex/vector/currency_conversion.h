@@ -1,11 +1,12 @@
 #pragma once
 
 /// @file
-/// Conversions of currency vectors to one another and from and to float vectors.
+/// Conversions between currency vectors, and between currency and float vectors.
 ///
-/// Each returns a new vector of the source's length, empty for an empty one, whose elements are
-/// what the conversion of one amount gives: the nearest amount, ties to even, and the smallest
-/// amount for what the target cannot hold, NaN included. Nothing raises. O(n).
+/// - Each returns a new vector of the same length; n = 0 gives an empty result.
+/// - Values are rounded to the nearest amount, ties to even. NaN and values out of range become the
+///   smallest amount.
+/// - No errors. O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -13,14 +14,14 @@
 namespace qorvex::inline QorvexFinVector {
 
 /// @{
-/// The amounts as QorCurrency: with two decimals.
+/// The amounts as QorCurrency, with two decimals.
 [[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(const TQorLongCurrVector& vector);
 [[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(const TQorCurrencyVector& vector);
 [[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(const TQorFloatVector& vector);
 /// @}
 
 /// @{
-/// The amounts as QorLongCurrency: with six decimals.
+/// The amounts as QorLongCurrency, with six decimals.
 [[nodiscard]] QORVEX_EXPORT TQorLongCurrVector
 Vector2QorLongCurrVector(const TQorCurrVector& vector);
 [[nodiscard]] QORVEX_EXPORT TQorLongCurrVector
@@ -30,7 +31,7 @@ Vector2QorLongCurrVector(const TQorFloatVector& vector);
 /// @}
 
 /// @{
-/// The amounts as Currency: with four decimals. A copy for a Currency vector.
+/// The amounts as Currency, with four decimals. A Currency vector is copied.
 [[nodiscard]] QORVEX_EXPORT TQorCurrencyVector
 Vector2QorCurrencyVector(const TQorCurrVector& vector);
 [[nodiscard]] QORVEX_EXPORT TQorCurrencyVector

@@ -23,9 +23,9 @@ struct FourSums {
   Extended sum3 = 0;
 };
 
-// The sums of four windows that start at successive elements, for a period of at least 3. Each is
-// summed in its own order, but every element is loaded once and four independent additions are in
-// flight.
+// The sums of four windows that start at successive elements, for a period of at least 3. Each
+// window is summed in ascending order, but every element is loaded only once, and four independent
+// additions run at a time.
 template <FloatElement T>
 FourSums FourWindowSums(const T* first, std::size_t period) {
   FourSums s;

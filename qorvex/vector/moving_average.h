@@ -10,14 +10,16 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// A new vector of the same length with the mean of each window of `period` elements, written at
-/// index `offset` of the window: 0 is its first element; anything beyond the last counts as the
-/// last. Positions that no window reaches are 0, and all are when the period exceeds the length.
+/// A new vector of the same length with the mean of each window of `period` elements.
 ///
-/// Every window is summed afresh in extended precision, in ascending order, so no rounding error
-/// travels from one window to the next and NaN or an infinity spoils only the windows that hold it.
-/// EMathError: rsVectorIsEmpty for an empty vector, then rsValueNotZero for a period of 0. For
-/// floating elements. O(n period).
+/// - The mean is stored at position `offset` within the window: 0 is the first element. An offset
+///   of period or more counts as period - 1, the last element.
+/// - Elements without a window are 0; all are if the period exceeds the length.
+/// - Every window is summed separately in extended precision, in ascending order. So rounding
+///   errors do not accumulate over windows, and NaN and infinities affect only the windows that
+///   contain them.
+/// - EMathError, in this order: rsVectorIsEmpty for n = 0, rsValueNotZero for a period of 0.
+/// - O(n * period). For floating elements.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> MovingAverage(const TQorVector<T>& vector,
                                                         std::uint32_t period, std::uint32_t offset);

@@ -8,10 +8,13 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The polynomial's value at x; the constant term comes first, and an empty vector gives 0. The
-/// powers of x are formed in ascending order and the terms added in that order, which is part of
-/// the result: Horner's scheme would round otherwise. NaN and infinities are what the processor
-/// makes of them. O(n).
+/// c[0] + c[1] x + c[2] x^2 + ...
+///
+/// - n = 0: the result is 0.
+/// - Powers are computed and terms are added in ascending order. The order is part of the result:
+///   Horner's scheme would round differently.
+/// - NaN and infinities propagate as in IEEE 754 arithmetic.
+/// - O(n).
 [[nodiscard]] QORVEX_EXPORT Extended QorPolynomial(const TQorFloatVector& coefficients,
                                                    Extended x) noexcept;
 

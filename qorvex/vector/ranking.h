@@ -3,11 +3,12 @@
 /// @file
 /// Zero-based ranks of elements and values.
 ///
-/// The rank of a value is the first position in the sorted vector whose element equals it, so ties
-/// share the lowest rank: (10, 20, 20, 30) ascending has the ranks (0, 1, 1, 3). Integers and
-/// amounts are compared exactly, floating elements with SameFloat in their own precision. NaN sorts
-/// last and equals nothing. Ranks are exact for vectors of up to 2^31 elements. For all elements;
-/// nothing raises for any input.
+/// - The rank of a value is the first position in the sorted vector whose element equals the value,
+///   so ties share the lowest rank: (10, 20, 20, 30) ascending has the ranks (0, 1, 1, 3).
+/// - Integers and amounts are compared exactly, floating elements with SameFloat in their own
+///   precision.
+/// - NaN sorts last and equals nothing.
+/// - No errors. Ranks are correct for up to 2^31 elements. For all element types.
 
 #include <cstdint>
 
@@ -16,20 +17,21 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The rank of every element; 0 for NaN. Empty for an empty vector. The cost of a sort, with 32
-/// bytes of memory an element; O(n^2) once QorTolerance is 0.5 or more, where the elements that
-/// equal a value need not lie together.
+/// The rank of every element; 0 for NaN. n = 0 gives an empty result.
+///
+/// Costs a sort and 32 bytes of memory per element. For floating elements O(n^2) if QorTolerance is
+/// 0.5 or more, because the elements that equal a value may then not be contiguous.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(const TQorVector<T>& vector,
                                                              bool ascending);
 
-/// The rank of the element at the index; -1 when there is no such element or it is NaN. O(n),
-/// without a copy.
+/// The rank of the element at the index; -1 if the index is out of range or the element is NaN.
+/// O(n), without a copy.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT std::int32_t Vector2Rank(const TQorVector<T>& vector,
                                                      std::uint32_t index, bool ascending);
 
-/// The rank of a value; -1 when no element equals it. O(n), without a copy.
+/// The rank of a value; -1 if no element equals it. O(n), without a copy.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(const TQorVector<T>& vector,
                                                           ScalarOf<T> value, bool ascending);

@@ -9,22 +9,22 @@ namespace qorvex::inline QorvexVector {
 
 namespace {
 
-// What is compared with the tolerance: the element itself, or what an amount is in units.
+// The value that is compared with the tolerance: the element, or the amount in units.
 template <class T>
-T Judged(T x) {
+T ComparedValue(T x) {
   return x;
 }
-Extended Judged(Currency x) {
+Extended ComparedValue(Currency x) {
   return Currency2Float(x);
 }
 
-// How the sign of one element is judged.
+// The sign of one element.
 template <SignTestElement T>
 struct Sign {
-  static bool IsZero(T x) { return FloatIsZero(Judged(x)); }
-  static bool IsExcludedZero(T x) { return FloatIsZero(Judged(x)); }
-  static bool IsPositive(T x) { return FloatIsPositive(Judged(x)); }
-  static bool IsNegative(T x) { return FloatIsNegative(Judged(x)); }
+  static bool IsZero(T x) { return FloatIsZero(ComparedValue(x)); }
+  static bool IsExcludedZero(T x) { return FloatIsZero(ComparedValue(x)); }
+  static bool IsPositive(T x) { return FloatIsPositive(ComparedValue(x)); }
+  static bool IsNegative(T x) { return FloatIsNegative(ComparedValue(x)); }
 };
 
 template <>

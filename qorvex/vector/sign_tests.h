@@ -3,11 +3,11 @@
 /// @file
 /// Tests of the signs of all elements.
 ///
-/// Each looks at elements from the front only until the answer is certain. Floating elements are
-/// judged within QorTolerance, and so are the amounts of Currency vectors; int64 elements and the
-/// other currencies exactly. An empty vector raises EMathError with rsVectorIsEmpty. A NaN element
-/// counts as not zero, not positive and not negative. For Float, Double, Single and Int64 vectors
-/// and those of the currencies. O(n).
+/// - Floating elements and amounts of type Currency are compared with zero within QorTolerance;
+///   int64 elements and the other currencies exactly.
+/// - n = 0: EMathError with rsVectorIsEmpty.
+/// - NaN is not zero, not positive and not negative.
+/// - O(n); elements after the one that decides the result are not read.
 
 #include <concepts>
 #include <cstdint>
@@ -17,7 +17,7 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// The elements that the sign tests know.
+/// The element types that have sign tests.
 template <class T>
 concept SignTestElement = FloatElement<T> || std::same_as<T, std::int64_t> || CurrencyElement<T>;
 
@@ -25,8 +25,8 @@ concept SignTestElement = FloatElement<T> || std::same_as<T, std::int64_t> || Cu
 template <SignTestElement T>
 [[nodiscard]] QORVEX_EXPORT bool VectorZero(const TQorVector<T>& vector);
 
-/// No element is zero. Elements of a Single vector are compared with zero exactly, so a tiny single
-/// counts as non-zero.
+/// No element is zero. Elements of a Single vector are compared with zero exactly, so that tiny
+/// values count as non-zero.
 template <SignTestElement T>
 [[nodiscard]] QORVEX_EXPORT bool VectorNonZero(const TQorVector<T>& vector);
 

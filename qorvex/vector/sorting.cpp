@@ -10,7 +10,7 @@ namespace qorvex::inline QorvexVector {
 
 namespace {
 
-// Sorts elements that are not NaN, through keys that take the elements' own place in memory.
+// Sorts elements that are not NaN by replacing them in memory with their keys while it sorts.
 template <AnyElement T, class Key>
 void SortInPlace(T* elements, std::size_t count, bool ascending, detail::KeySorter<Key>& sorter) {
   using Traits = detail::SortKey<T>;

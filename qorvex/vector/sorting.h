@@ -8,18 +8,19 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// Sorts the elements ascending or descending, exactly (no tolerance), in the buffer that all
-/// handles share. Vectors of fewer than two elements are left alone. NaN of either sign goes to the
-/// end, ascending or descending; -0 counts as less than +0, so the result is unique but for the
-/// order of different NaNs. For all elements.
+/// Sorts the elements in ascending or descending order. The change is seen through every handle of
+/// the buffer.
 ///
-/// Expected O(n) on keys that spread, O(n log n) on ones that do not; nothing recurses. From some
-/// 400 elements on the sort needs memory for as many elements again; running out of it raises
-/// std::bad_alloc with the vector unchanged.
-///
-/// The method is a radix sort of integer keys with a quicksort on an explicit stack for short
-/// vectors and for runs that the radix digits do not tell apart (Knuth 1998, "The Art of Computer
-/// Programming", volume 3, 5.2.5 and 5.2.2).
+/// - Comparisons are exact, without tolerance. -0 sorts before +0.
+/// - NaN, of either sign, is last in both orders. The order of different NaNs is unspecified.
+/// - n = 0 and n = 1: nothing happens.
+/// - Expected O(n) for evenly distributed keys, at most O(n log n), without recursion.
+/// - From 400 elements on the sort allocates memory for as many elements again. If that fails,
+///   std::bad_alloc is thrown and the vector is unchanged.
+/// - Method: a radix sort of integer keys, and a quicksort with an explicit stack for short vectors
+///   and for runs of keys with equal digits (Knuth 1998, "The Art of Computer Programming", volume
+///   3, 5.2.5 and 5.2.2).
+/// - For all element types.
 template <AnyElement T>
 QORVEX_EXPORT void QSortVector(TQorVector<T>& vector, bool ascending);
 

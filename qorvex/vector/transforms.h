@@ -1,13 +1,14 @@
 #pragma once
 
 /// @file
-/// Functions applied to every element of a vector in place, seen through every handle of its
-/// buffer.
+/// Functions applied to every element of a vector in place.
 ///
-/// Floating elements are computed in extended precision and rounded to their type when stored. A
-/// check that fails raises before anything has changed. NaN elements pass the checks for zero and
-/// for negative values but not the one for positive values; infinite elements give what the
-/// processor makes of them. O(n).
+/// - The change is seen through every handle of the buffer.
+/// - Floating elements are computed in extended precision and rounded to their type when stored.
+/// - Elements are checked before anything is changed. NaN passes the checks for zero and for
+///   negative elements, but not the check for positive elements.
+/// - NaN and infinities propagate as in IEEE 754 arithmetic.
+/// - O(n).
 
 #include <concepts>
 #include <cstdint>
@@ -18,27 +19,34 @@
 
 namespace qorvex::inline QorvexVector {
 
-/// Squares each element. Int64 elements square their low 32 bits and keep the 32-bit product,
-/// sign-extended; LInt and LWord keep the low 32 bits. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For the six elements of at least 32 bits.
+/// Squares each element. Of an int64 element the low 32 bits are squared and the low 32 bits of the
+/// product are sign-extended; int32 and uint32 elements keep the low 32 bits. n = 0 raises
+/// EMathError with rsVectorIsEmpty. For the six numeric element types of at least 32 bits.
 template <WideNumericElement T>
 QORVEX_EXPORT void SquareVector(TQorVector<T>& vector);
 
-/// Replaces each element by its square root. EMathError: rsVectorIsEmpty, then rsVectorNeg when an
-/// element is negative by more than QorTolerance; one that is negative within it becomes NaN. For
-/// floating elements.
+/// Replaces each element by its square root.
+///
+/// - EMathError, in this order: rsVectorIsEmpty for n = 0, rsVectorNeg if an element is less than
+///   -QorTolerance. Negative elements within the tolerance become NaN.
+/// - For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void SqrtVector(TQorVector<T>& vector);
 
-/// Replaces each element by its reciprocal. EMathError: rsVectorIsEmpty, then rsVectorZero when an
-/// element is zero within QorTolerance (exactly zero in a Single vector). For floating elements.
+/// Replaces each element by its reciprocal.
+///
+/// - EMathError, in this order: rsVectorIsEmpty for n = 0, rsVectorZero if an element is zero
+///   within QorTolerance, or exactly zero in a Single vector.
+/// - For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void InvVector(TQorVector<T>& vector);
 
 /// @{
-/// Replaces each element by its natural, base-10 or base-2 logarithm. EMathError: rsVectorIsEmpty,
-/// then rsVectorNotPos when an element is not greater than QorTolerance (NaN is not). For floating
-/// elements.
+/// Replaces each element by its natural, base-10 or base-2 logarithm.
+///
+/// - EMathError, in this order: rsVectorIsEmpty for n = 0, rsVectorNotPos if an element is NaN or
+///   not greater than QorTolerance.
+/// - For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void LnVector(TQorVector<T>& vector);
 template <FloatElement T>
@@ -47,24 +55,29 @@ template <FloatElement T>
 QORVEX_EXPORT void Log2Vector(TQorVector<T>& vector);
 /// @}
 
-/// Replaces each element x by slope * x + intercept: two roundings in extended precision for
-/// floating elements, wrapping arithmetic for Int64. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For floating elements and Int64.
+/// Replaces each element x by slope * x + intercept. The product and the sum are each rounded to
+/// extended precision for floating elements; int64 arithmetic wraps around. n = 0 raises EMathError
+/// with rsVectorIsEmpty. For floating elements and int64.
 template <class T>
 requires FloatElement<T> || std::same_as<T, std::int64_t> QORVEX_EXPORT void LinearTransformVector(
     TQorVector<T>& vector, ScalarOf<T> slope, ScalarOf<T> intercept);
 
-/// Replaces each amount by slope * amount + intercept in units, computed in extended precision and
-/// rounded to the nearest amount, ties to even; what does not fit becomes the smallest amount. For
-/// QorCurrency and QorLongCurrency the amount is divided by its scale first; Currency elements
-/// compute slope * stored + intercept * 10,000. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For the currencies.
+/// Replaces each amount by slope * amount + intercept in units, computed in extended precision.
+///
+/// - The result is rounded to the nearest amount, ties to even. Values out of range become the
+///   smallest amount.
+/// - QorCurrency and QorLongCurrency amounts are divided by their scale first. For Currency the
+///   stored integer becomes slope * stored + intercept * 10,000.
+/// - n = 0: EMathError with rsVectorIsEmpty.
 template <CurrencyElement T>
 QORVEX_EXPORT void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept);
 
-/// Replaces each element x by func(x), once an element in ascending order. What func throws passes
-/// through, with the earlier elements already replaced; func must not be null nor change the
-/// vector's length. An empty vector raises EMathError with rsVectorIsEmpty. For floating elements.
+/// Replaces each element x by func(x), which is called once for each element in ascending order.
+///
+/// - func must not be null, and must not change the length of the vector.
+/// - Exceptions from func are passed on; the elements before are already replaced then.
+/// - n = 0: EMathError with rsVectorIsEmpty.
+/// - For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func);
 

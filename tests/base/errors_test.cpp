@@ -49,7 +49,7 @@ TEST_F(Messages, TextIsLookedUpAtTheRaise) {
   EXPECT_EQ(raised(), "The vector is empty");
 }
 
-TEST_F(Messages, MayBeReplacedWhileOtherThreadsRaise) {
+TEST_F(Messages, CanBeReplacedWhileOtherThreadsRaise) {
   std::jthread writer([](const std::stop_token& stop) {
     while (!stop.stop_requested()) {
       SetMessageText(rsVectorIsEmpty, "a");

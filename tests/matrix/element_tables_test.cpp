@@ -1,5 +1,5 @@
-// Which element types each routine exists for. What a table leaves out must not compile, so that no
-// call converts, rounds or wraps in a width that nobody chose.
+// The element types that each routine accepts. Other types must not compile, so that no call
+// converts or rounds its arguments implicitly.
 
 #include "qorvex/matrix/QorvexFinMatrix.h"
 #include "qorvex/matrix/QorvexMatrix.h"
@@ -8,12 +8,7 @@
 
 namespace qorvex {
 
-void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {
-  for (std::size_t i = 0; i < routines.size(); ++i)
-    EXPECT_EQ(routines[i], types) << "routine " << i;
-}
-
-TEST(MatrixElementTables, EveryRoutineTakesWhatItIsMeantFor) {
+TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
   ExpectTypes("gdfjuiwsbt", {TYPES_OF(MatrixRows(m)), TYPES_OF(MatrixCols(m))});
   ExpectTypes(
       "gdfjuiwsbtCSL",
@@ -40,8 +35,8 @@ TEST(MatrixElementTables, EveryRoutineTakesWhatItIsMeantFor) {
   ExpectTypes("gdfjuwsbt", {TYPES_OF(SumMatrixRow(m, 0)), TYPES_OF(SumMatrixCol(m, 0))});
 }
 
-// A factor or an element that would be cut off.
-TEST(MatrixElementTables, IntegersTakeNoFloatingNumbers) {
+// Floating-point factors and elements would be truncated.
+TEST(MatrixElementTables, IntegersTakeNoFloatingPointValues) {
   ExpectTypes("gdf", {TYPES_OF(ScaleMatrixRow(m, 0, 0.5)), TYPES_OF(ScaleMatrixCol(m, 0, 0.5F)),
                       TYPES_OF(AddMatrixRows(m, 0, 1, 0.5L)), TYPES_OF(AddMatrixCols(m, 0, 1, 0.5)),
                       TYPES_OF(OverwriteMatrixRow(m, 0, v, 0.5)),

@@ -1,4 +1,5 @@
-// Sums, products with constants and transforms, which do to every row what the vector routines do.
+// Sums, products with constants and transforms, most of which are compared with the vector
+// routines.
 
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "qorvex/vector/QorvexVector.h"
@@ -13,7 +14,7 @@ using AdditiveTypes = ::testing::Types<Extended, double, float, std::int64_t, st
                                        Currency, QorCurrency, QorLongCurrency>;
 TYPED_TEST_SUITE(Elementwise, AdditiveTypes);
 
-TYPED_TEST(Elementwise, SumsAndLinearTransformsAreThoseOfTheRows) {
+TYPED_TEST(Elementwise, SumsAndLinearTransformsAgreeWithThoseOfTheRows) {
   using T = TypeParam;
   testing::Engine engine(26);
   const auto a = testing::RandomMatrix<T>(engine, 3, 50);
@@ -45,7 +46,7 @@ TYPED_TEST(Elementwise, SumsAndLinearTransformsAreThoseOfTheRows) {
   }
 }
 
-TEST(ElementwiseProducts, OfConstantsTakeRaggedRowsAndWrap) {
+TEST(ElementwiseProducts, AcceptRaggedRowsAndWrap) {
   TQorLIntMatrix m{{1, -2}, {}, {65537}};
   EXPECT_EQ(MultiplyMatrixByConst(m, -65536), (TQorLIntMatrix{{-65536, 131072}, {}, {-65536}}));
   EXPECT_EQ(m, (TQorLIntMatrix{{1, -2}, {}, {65537}}));
@@ -60,7 +61,7 @@ TEST(ElementwiseProducts, OfConstantsTakeRaggedRowsAndWrap) {
             (TQorInt64Matrix{{1LL << 40}}));
 }
 
-TEST(ElementwiseProducts, ConstantsOfFloatingMatricesAreExtended) {
+TEST(ElementwiseProducts, HaveExtendedFactorsForFloatingElements) {
   EXPECT_EQ(MultiplyMatrixByConst(TQorDoubleMatrix{{1e-300}}, 0x1p1100L)[0][0],
             1e-300 * 0x1p1000 * 0x1p100);
   TQorSingleMatrix singles{{1}};
@@ -72,7 +73,7 @@ template <class T>
 class Transforms : public ::testing::Test {};
 TYPED_TEST_SUITE(Transforms, FloatTypes);
 
-TYPED_TEST(Transforms, AreThoseOfTheRowsAndLetNaNPass) {
+TYPED_TEST(Transforms, AgreeWithThoseOfTheRowsAndAcceptNaN) {
   using T = TypeParam;
   testing::Engine engine(27);
   auto given = testing::RandomMatrix<T>(engine, 3, 20);
@@ -99,7 +100,7 @@ TYPED_TEST(Transforms, AreThoseOfTheRowsAndLetNaNPass) {
   }
 }
 
-// Unlike those of vectors, these checks are exact and leave the elements before it transformed.
+// Unlike those of vectors these checks are exact, and earlier elements are already transformed.
 TEST(MatrixTransforms, StopAtTheFirstInvalidElement) {
   const struct {
     void (*routine)(TQorFloatMatrix&);

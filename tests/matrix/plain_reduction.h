@@ -10,8 +10,8 @@
 
 namespace qorvex::testing {
 
-/// The reductions as loops over single elements, in the order of operations that is part of their
-/// results: what the fast ones must agree with in every bit.
+/// The reductions as plain loops, with the order of operations that is part of their results. The
+/// results of the library must be bitwise identical.
 template <FloatElement T>
 struct PlainReduction {
   TQorMatrix<T>& matrix;
@@ -35,17 +35,17 @@ struct PlainReduction {
       m[target][j] = static_cast<T>(product + static_cast<Extended>(m[target][j]));
     }
   }
-  // Makes an element zero by the row whose pivot is in its column.
+  // Eliminates an element with the row whose pivot is in its column.
   void Clear(std::size_t row, std::size_t col, std::size_t pivot_row) {
     const Extended x = matrix[row][col];
     matrix[row][col] = 0;
     if (FloatIsZero(x)) return;
-    // Above its diagonal a pivot has nothing on its right by now.
+    // In back substitution all elements to the right of the pivot are already zero.
     if (row > pivot_row) Add(matrix, row, pivot_row, col + 1, -x);
     if (inverse != nullptr) Add(*inverse, row, pivot_row, 0, -x);
   }
 
-  // The row of the column's pivot, or the row count.
+  // The row of the column's pivot, or the number of rows.
   std::size_t PivotRow(std::size_t col) const {
     std::size_t best = Rows();
     for (std::size_t r = Rows(); r-- > rank;) {

@@ -13,16 +13,16 @@ template <class T>
 class Product : public ::testing::Test {};
 TYPED_TEST_SUITE(Product, FloatTypes, );
 
-TYPED_TEST(Product, AgreesInEveryBitWithThePlainLoops) {
+TYPED_TEST(Product, IsBitwiseThatOfPlainLoops) {
   using T = TypeParam;
   Engine engine(20261121);
-  for (const auto& [name, making] : testing::FloatMakings<T>(engine, 1)) {
+  for (const auto& [name, element] : testing::ElementFunctions<T>(engine, 1)) {
     for (int repetition = 0; repetition < 100; ++repetition) {
       const std::size_t rows = 1 + engine() % 9;
       const std::size_t inner = 1 + engine() % 9;
       const std::size_t cols = 1 + engine() % 11;
-      const auto a = MatrixOf<T>(rows, inner, making);
-      const auto b = MatrixOf<T>(inner, cols, making);
+      const auto a = MatrixOf<T>(rows, inner, element);
+      const auto b = MatrixOf<T>(inner, cols, element);
       const auto expected = MatrixOf<T>(rows, cols, [&](std::size_t i, std::size_t j) {
         T sum = 0;
         for (std::size_t k = 0; k < inner; ++k) {
@@ -48,7 +48,7 @@ template <class T>
 class Transposing : public ::testing::Test {};
 TYPED_TEST_SUITE(Transposing, AllTypes);
 
-TYPED_TEST(Transposing, MovesEveryBit) {
+TYPED_TEST(Transposing, CopiesEveryBit) {
   using T = TypeParam;
   constexpr std::size_t value_bytes = std::min<std::size_t>(sizeof(T), 10);
   Engine engine(21);

@@ -20,7 +20,8 @@ using testing::MatrixOf;
 using testing::PlainReduction;
 using testing::SameBits;
 
-// The reduced matrix, the rank, the inverse and the determinant agree in every bit.
+// Expects that the reduced matrix, the rank, the inverse and the determinant are bitwise those of
+// the plain loops.
 template <FloatElement T>
 void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
   auto plain = CopyMatrix(given);
@@ -52,22 +53,22 @@ template <class T>
 class ReductionOf : public ::testing::Test {};
 TYPED_TEST_SUITE(ReductionOf, FloatTypes, );
 
-TYPED_TEST(ReductionOf, AgreesInEveryBitWithThePlainLoops) {
+TYPED_TEST(ReductionOf, IsBitwiseThatOfPlainLoops) {
   using T = TypeParam;
   Engine engine(20261121);
   const std::pair<std::size_t, std::size_t> shapes[] = {{1, 1},  {1, 7},   {7, 1},   {2, 2},
                                                         {3, 5},  {5, 3},   {4, 4},   {15, 15},
                                                         {20, 6}, {17, 17}, {14, 30}, {31, 31}};
-  for (const auto& [name, making] : testing::FloatMakings<T>(engine, 8)) {
+  for (const auto& [name, element] : testing::ElementFunctions<T>(engine, 8)) {
     for (const auto& [rows, cols] : shapes) {
       SCOPED_TRACE(std::string(name) + ' ' + Int2EStr(rows) + " x " + Int2EStr(cols));
       for (int repetition = 0; repetition < 8; ++repetition) {
-        ExpectWhatPlainLoopsGive(MatrixOf<T>(rows, cols, making));
+        ExpectWhatPlainLoopsGive(MatrixOf<T>(rows, cols, element));
         if (this->HasFailure()) return;
       }
     }
   }
-  // Of low rank, so that columns without a pivot lie between the others.
+  // Matrices of low rank, in which columns without a pivot lie between the others.
   const auto digit = [&](auto...) { return static_cast<T>(engine() % 3); };
   for (const std::size_t order : {2U, 3U, 4U, 6U, 16U, 33U}) {
     const auto a = MatrixOf<T>(order, order / 2, digit);
@@ -122,7 +123,7 @@ TYPED_TEST(ReductionOf, FindsTheInverseAndTheRankOfRandomMatrices) {
   }
 }
 
-TYPED_TEST(ReductionOf, KnownMatricesHaveTheirEchelonFormDeterminantAndInverse) {
+TYPED_TEST(ReductionOf, HasTheKnownResultsOfSmallMatrices) {
   using T = TypeParam;
   constexpr T nan = std::numeric_limits<T>::quiet_NaN();
   constexpr T inf = std::numeric_limits<T>::infinity();
@@ -135,11 +136,11 @@ TYPED_TEST(ReductionOf, KnownMatricesHaveTheirEchelonFormDeterminantAndInverse) 
       {{{0, 2}, {0, 4}}, {{0, 1}, {0, 0}}, 0, false},
       {{{0, 1}, {1, 0}}, {{1, 0}, {0, 1}}, -1, true},
       {{{4}}, {{1}}, 4, true},
-      // The pivot is the topmost of equal magnitudes, and is not scaled when it is one within the
+      // The pivot is the topmost of equal magnitudes. It is not scaled if it is one within the
       // tolerance.
       {{{-2, 1}, {2, 3}}, {{1, -0.5}, {0, 1}}, -8, true},
       {{{near_one, 3}, {0, 1}}, {{near_one, 3}, {0, 1}}, near_one, true},
-      // The topmost NaN goes before all other elements. Rows with a zero below it are not changed.
+      // The topmost NaN takes precedence as pivot. Rows with a zero below it are not changed.
       {{{1}, {nan}, {0}}, {{nan}, {0}, {0}}},
       {{{0, 4}, {nan, 1}}, {{nan, nan}, {0, 1}}, kNaN, false},
       {{{inf, 1, 2}, {0, 4, 8}, {nan, 1, 1}}, {{nan, nan, nan}, {0, nan, nan}, {0, 0, nan}}, kNaN},
@@ -147,7 +148,7 @@ TYPED_TEST(ReductionOf, KnownMatricesHaveTheirEchelonFormDeterminantAndInverse) 
       {{{1}, {-inf}}, {{nan}, {0}}},
       {{{2, inf, nan}}, {{1, inf, nan}}},
       {{{inf, 0}, {0, 1}}, {{nan, 0}, {0, 1}}, kNaN, false},
-      // Above the diagonal no pivot meets the NaN.
+      // Elements above the diagonal do not affect the pivots.
       {{{1, nan}, {0, 1}}, {{1, nan}, {0, 1}}, 1, false},
       {{{1, inf}, {0, 1}}, {{1, inf}, {0, 1}}, 1, false},
   };
@@ -158,14 +159,14 @@ TYPED_TEST(ReductionOf, KnownMatricesHaveTheirEchelonFormDeterminantAndInverse) 
     EXPECT_TRUE(SameBits(matrix, echelon));
     if (given.size() != given[0].size()) continue;
     matrix = CopyMatrix(given);
-    EXPECT_TRUE(SameBits(MatrixDeterminant(matrix) + 0, determinant)) << "but for the sign of 0";
+    EXPECT_TRUE(SameBits(MatrixDeterminant(matrix) + 0, determinant)) << "except the sign of 0";
     matrix = CopyMatrix(given);
     TQorMatrix<T> inverse;
     EXPECT_EQ(MatrixInverse(matrix, inverse), regular);
   }
 }
 
-TEST(Reduction, RefusesAnInverseThatOverflows) {
+TEST(Reduction, FindsNoInverseIfItOverflows) {
   const testing::KeptTolerance kept;
   QorTolerance = 0;
   TQorSingleMatrix matrix{{1e-20F, 0}, {0, 1e-40F}};
@@ -181,7 +182,7 @@ TEST(Reduction, InvertsIntoTheMatrixItself) {
   EXPECT_EQ(handle, (TQorFloatMatrix{{1}}));
 }
 
-TEST(Reduction, LackOfMemoryChangesNoElement) {
+TEST(Reduction, RunningOutOfMemoryChangesNoElement) {
   Engine engine(5);
   const auto given = testing::RandomMatrix<Extended>(engine, 14, 14);
   auto matrix = CopyMatrix(given);
@@ -193,7 +194,7 @@ TEST(Reduction, LackOfMemoryChangesNoElement) {
       [&] { return matrix == before && inverse[0][0] == 7 && QorMatrixRectangularCheck; });
 }
 
-TEST(Reduction, SwitchesTheCheckOffAndRestoresItEvenWhenThreadsReduceTogether) {
+TEST(Reduction, TurnsTheCheckOffAndRestoresItEvenOnSeveralThreads) {
   std::atomic<bool> seen_off = false;
   std::atomic<bool> done = false;
   std::thread observer([&] {
@@ -216,7 +217,7 @@ TEST(Reduction, SwitchesTheCheckOffAndRestoresItEvenWhenThreadsReduceTogether) {
 
 // The tables have the exact inverses and determinants of Hilbert matrices, up to the order whose
 // condition exceeds the precision of the elements.
-TEST(Reduction, HilbertMatricesKeepTheDigitsThatTheirConditionLeaves) {
+TEST(Reduction, HilbertMatricesKeepAsManyDigitsAsTheirConditionAllows) {
   const testing::Table determinants("tables/hilbert.csv");
   const testing::Table inverses("tables/hilbert_inverse.csv");
   const testing::KeptTolerance kept;

@@ -4,7 +4,7 @@
 
 namespace qorvex {
 
-TEST(RowOperations, ExchangeContentsSeenThroughEveryHandle) {
+TEST(RowOperations, ExchangesAreSeenThroughEveryHandle) {
   TQorByteMatrix matrix{{1, 2, 3}, {4, 5, 6}};
   const TQorByteVector row = matrix[0];
   SwapMatrixRows(matrix, 0, 1);

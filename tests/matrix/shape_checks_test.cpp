@@ -1,4 +1,4 @@
-// The errors of the matrix routines, in their order, and what the shape switch changes.
+// The errors of the matrix routines in their order, and the effects of the shape switch.
 
 #include <functional>
 #include <optional>
@@ -31,7 +31,7 @@ const Matrix kWide{{1, 2, 3}, {4, 5, 6}};
 const Matrix kRagged{{1, 2}, {3}};
 
 struct Errors {
-  // For a matrix without rows or columns, and with the shape switch on for a ragged one too.
+  // For a matrix without rows or columns and, with the shape switch on, for a ragged one.
   Error empty, empty_with_switch_off;
   // For an index beyond the last, or a matrix that is not square.
   Error invalid;
@@ -39,7 +39,7 @@ struct Errors {
 
 using Routine = void (*)(Matrix& m, std::uint32_t index);
 
-// Expects the errors of every routine, and that a routine that raises changes nothing.
+// Expects these errors of every routine, and that an error leaves the matrix unchanged.
 void ExpectErrors(const Errors& errors, const std::vector<Routine>& routines) {
   for (std::size_t i = 0; i < routines.size(); ++i) {
     const auto expect = [&](const Matrix& given, std::uint32_t index, Error error) {
@@ -130,7 +130,7 @@ TEST(MatrixErrors, OfTwoMatricesComeInOrderAndLeaveTheFirst) {
   }
 }
 
-TEST(MatrixErrors, ElementwiseRoutinesRefuseOnlyAMatrixWithoutRows) {
+TEST(MatrixErrors, ElementwiseRoutinesRejectOnlyAMatrixWithoutRows) {
   Matrix empty;
   Matrix without_columns{{}, {}};
   for (void (*routine)(Matrix&) :
@@ -143,7 +143,7 @@ TEST(MatrixErrors, ElementwiseRoutinesRefuseOnlyAMatrixWithoutRows) {
   }
 }
 
-TEST(ShapeSwitch, WhenOffTheFirstRowDecidesHowManyColumnsThereAre) {
+TEST(ShapeSwitch, WhenOffTheFirstRowDeterminesTheNumberOfColumns) {
   const RectangularCheckOff off;
   const TQorLIntMatrix longer{{3, 2}, {1, 7, 9}};
   EXPECT_EQ(TransposeMatrix(longer), (TQorLIntMatrix{{3, 1}, {2, 7}}));

@@ -19,7 +19,7 @@ Dimensions DimensionsOf(const TQorFloatMatrix& matrix) {
   return d;
 }
 
-TEST(Shape, FollowsTheSwitch) {
+TEST(Shape, DependsOnTheSwitch) {
   const struct {
     TQorFloatMatrix matrix;
     Dimensions checked, unchecked;

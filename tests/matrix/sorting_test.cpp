@@ -11,7 +11,7 @@ namespace qorvex {
 using testing::Engine;
 using testing::RandomMatrix;
 
-// The rows come in the order of their keys and are those of the source, whole.
+// Expects that the rows are those of the source, sorted by their keys.
 template <class T>
 void ExpectSorted(const TQorMatrix<T>& matrix, const TQorMatrix<T>& source, std::uint32_t key,
                   bool ascending) {
@@ -25,7 +25,7 @@ template <class T>
 class MatrixSorting : public ::testing::Test {};
 TYPED_TEST_SUITE(MatrixSorting, AllTypes);
 
-TYPED_TEST(MatrixSorting, LinesStayWholeInTheOrderOfTheirKeys) {
+TYPED_TEST(MatrixSorting, SortsWholeRowsAndColumns) {
   using T = TypeParam;
   Engine engine(77);
   const std::pair<std::uint32_t, std::uint32_t> shapes[] = {{2, 2},  {2, 9},   {9, 2},
@@ -50,7 +50,7 @@ TYPED_TEST(MatrixSorting, LinesStayWholeInTheOrderOfTheirKeys) {
   }
 }
 
-TEST(MatrixSortingLines, NaNIsLastBothWays) {
+TEST(MatrixSortingLines, NaNIsLastInBothOrders) {
   const TQorDoubleMatrix source{{std::nan(""), 0}, {-1, 1}, {-std::nan(""), 2}, {HUGE_VAL, 3}};
   for (const bool ascending : {true, false}) {
     TQorDoubleMatrix m = CopyMatrix(source);
@@ -87,10 +87,10 @@ TEST(MatrixSortingLines, SharedRowsLoseNothing) {
   TQorByteMatrix twice{{3, 1, 2}};
   twice.Append(twice[0]);
   QSortMatrixColsOnRow(twice, 0, true);
-  EXPECT_EQ(twice[0], (TQorByteVector{2, 3, 1})) << "(1, 2, 3), permuted once more";
+  EXPECT_EQ(twice[0], (TQorByteVector{2, 3, 1})) << "(1, 2, 3) permuted a second time";
 }
 
-TEST(MatrixSortingLines, LackOfMemoryLeavesTheMatrixUnchanged) {
+TEST(MatrixSortingLines, RunningOutOfMemoryLeavesTheMatrixUnchanged) {
   Engine engine(9);
   const auto before = RandomMatrix<double>(engine, 500, 500);
   for (void (*sort)(TQorDoubleMatrix&, std::uint32_t, bool) :

@@ -18,7 +18,7 @@ TEST(MatrixSums, GrandMeanCountsRaggedRows) {
   EXPECT_TRUE(std::isnan(GrandMean(TQorFloatMatrix{{1, kNaN}}, count)));
 
   EXPECT_MATH_ERROR(GrandMean(TQorFloatMatrix(), count), rsMatrixIsEmpty);
-  EXPECT_EQ(count, 2U) << "as it was";
+  EXPECT_EQ(count, 2U) << "unchanged";
   EXPECT_MATH_ERROR(GrandMean(TQorLIntMatrix{{}, {}}, count), rsMatrixIsEmpty);
   EXPECT_EQ(count, 0U);
 }
@@ -36,7 +36,7 @@ TEST(MatrixSums, RowsAndColumnsWidenAndWrap) {
   const TQorSingleMatrix singles{{1, 0x1p-60F}, {0x1p64F, 1}, {1, 5}};
   EXPECT_EQ(SumMatrixRow(singles, 0), 1 + 0x1p-60L);
   EXPECT_EQ(SumMatrixCol(singles, 0), 0x1p64L) << "in ascending order each 1 is lost";
-  EXPECT_TRUE(std::signbit(SumMatrixRow(TQorDoubleMatrix{{-0.0}}, 0))) << "as SumVector gives it";
+  EXPECT_TRUE(std::signbit(SumMatrixRow(TQorDoubleMatrix{{-0.0}}, 0))) << "as in SumVector";
 }
 
 }  // namespace qorvex

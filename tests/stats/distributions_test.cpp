@@ -68,7 +68,7 @@ TEST(Distributions, AllHaveAnInstanceAndATable) {
 TEST(Distributions, AgreeWithTheTablesIntoTheFarthestTails) {
   for (const testing::Figure& figure : testing::DistributionFigures()) {
     SCOPED_TRACE(figure.name);
-    const testing::Table table(figure.file);
+    const testing::Table table = figure.Open();
     testing::ExpectWorstError(
         table, figure.column, figure.units,
         [&](std::size_t row) {

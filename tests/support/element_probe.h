@@ -1,17 +1,19 @@
 #pragma once
 
 /// @file
-/// Asks which element types a routine exists for.
+/// Finds out which element types a routine accepts.
 
+#include <gtest/gtest.h>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex {
 
-/// The types that the probe accepts, one letter an element type: g d f (floating), j u i (64- and
-/// 32-bit integers), w s b t (16- and 8-bit integers), and the currencies C S L.
+/// The types that the probe accepts, as one letter per element type: g d f (floating), j u i (64-
+/// and 32-bit integers), w s b t (16- and 8-bit integers), and the currencies C S L.
 template <class Probe>
 std::string Exists(Probe probe) {
   std::string types;
@@ -34,8 +36,8 @@ std::string Exists(Probe probe) {
   return types;
 }
 
-/// The types for which the expression compiles. In it, v is a vector and m a matrix of the type
-/// asked for, and the others are outputs that some routines need.
+/// The types for which the expression compiles. In it, v is a vector and m a matrix of the type;
+/// the other variables are for outputs.
 #define TYPES_OF(expression)                                                                      \
   Exists([]<class T>(std::type_identity<T>) {                                                     \
     return requires(TQorVector<T> & v, TQorMatrix<T> & m, T & x, Extended & e, std::uint32_t & i, \
@@ -43,5 +45,10 @@ std::string Exists(Probe probe) {
       expression;                                                                                 \
     };                                                                                            \
   })
+
+/// Expects that every routine of the list accepts these types.
+inline void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {
+  EXPECT_EQ(routines, std::vector(routines.size(), types));
+}
 
 }  // namespace qorvex

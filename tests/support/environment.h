@@ -1,17 +1,17 @@
 #pragma once
 
 /// @file
-/// How much a test tries, which its slow run sets.
+/// Parameters of tests that differ in their slow run.
 
 #include <cstdlib>
 #include <string>
 
 namespace qorvex::testing {
 
-/// The whole number that a variable of the environment holds, or the usual one without it.
-inline int FromEnvironment(const char* variable, int usual) {
+/// The integer in an environment variable, or the default if the variable is not set.
+inline int FromEnvironment(const char* variable, int by_default) {
   const char* const text = std::getenv(variable);
-  return text == nullptr ? usual : std::stoi(text);
+  return text == nullptr ? by_default : std::stoi(text);
 }
 
 }  // namespace qorvex::testing

@@ -5,12 +5,12 @@
 
 namespace qorvex::testing {
 
-/// So many more allocations by operator new succeed, the next one fails, and all after it succeed
-/// again; none fails while it is negative. Programs that link failing_allocation.cpp.
+/// The number of allocations by operator new that succeed before one fails. All allocations after
+/// that succeed. If it is negative, none fails. Needs failing_allocation.cpp.
 extern int allocations_left;
 
-/// Calls work with its first allocation failing, then with its second, and so on until none fails.
-/// Each failure must raise std::bad_alloc and leave unchanged() true. Expects at least one.
+/// Calls work() repeatedly: first its first allocation fails, then its second, and so on until none
+/// fails. Expects at least one failure, and that after each unchanged() is true.
 template <class Work, class Unchanged>
 void ExpectFailuresChangeNothing(Work work, Unchanged unchanged) {
   for (int allocation = 0;; ++allocation) {

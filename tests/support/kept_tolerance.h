@@ -4,7 +4,7 @@
 
 namespace qorvex::testing {
 
-/// QorTolerance has its old value again when it dies.
+/// Restores QorTolerance in its destructor.
 class KeptTolerance {
  public:
   KeptTolerance() = default;

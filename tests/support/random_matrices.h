@@ -14,11 +14,11 @@
 namespace qorvex::testing {
 
 template <NumericElement T>
-using Making = std::function<T(std::size_t row, std::size_t col)>;
+using ElementFunction = std::function<T(std::size_t row, std::size_t col)>;
 
-/// A matrix of rows x cols elements of the given making.
+/// A matrix of rows x cols elements from the given function.
 template <NumericElement T>
-TQorMatrix<T> MatrixOf(std::size_t rows, std::size_t cols, const Making<T>& element) {
+TQorMatrix<T> MatrixOf(std::size_t rows, std::size_t cols, const ElementFunction<T>& element) {
   auto matrix = TQorMatrix<T>::WithLength(rows);
   for (std::size_t i = 0; i < rows; ++i) {
     matrix[i].SetLength(cols);
@@ -35,17 +35,19 @@ TQorMatrix<T> RandomMatrix(Engine& engine, std::size_t rows, std::size_t cols) {
   return matrix;
 }
 
-/// Makings, with their names, in which faults of fast floating-point loops show. In one of them
-/// every so many elements, on average, one is far from the others.
+/// Functions for elements that reveal faults of optimised floating-point loops, with their names.
+/// In "far away" one of so_many elements, on average, differs from the others by orders of
+/// magnitude.
 template <FloatElement T>
-std::vector<std::pair<const char*, Making<T>>> FloatMakings(Engine& engine, unsigned so_many) {
+std::vector<std::pair<const char*, ElementFunction<T>>> ElementFunctions(Engine& engine,
+                                                                         unsigned so_many) {
   using Limits = std::numeric_limits<T>;
   const auto real = [&](auto...) {
     return static_cast<T>(static_cast<Extended>(static_cast<std::int64_t>(engine())) * 0x1p-64L);
   };
   const auto small = [&](auto...) { return static_cast<T>(static_cast<int>(engine() % 5) - 2); };
   const auto signed_zeros = [&, real](auto...) { return engine() % 3 == 0 ? real() : T(-0.0); };
-  // Extended elements pass both limits of a double.
+  // Extended elements exceed the range of double in both directions.
   const auto far_away = [&, real, so_many](auto...) {
     constexpr int range = std::min(Limits::max_exponent - 1, 1100);
     const int exponent = static_cast<int>(engine() % (2 * range)) - range;
@@ -62,7 +64,7 @@ std::vector<std::pair<const char*, Making<T>>> FloatMakings(Engine& engine, unsi
           {"special", special}};
 }
 
-/// Equal with the sign of zeros; any two NaNs are the same.
+/// True if the values and the signs of zeros are equal, or if both are NaN.
 template <FloatElement T>
 bool SameBits(T a, T b) {
   return (a == b && std::signbit(a) == std::signbit(b)) || (a != a && b != b);

@@ -11,8 +11,8 @@ namespace qorvex::testing {
 
 using Engine = std::mt19937_64;
 
-/// A vector of n elements: floating ones with signs and spread exponents, integers and stored
-/// integers of amounts over their whole range.
+/// A vector of n random elements: floating ones with random signs and exponents; integers and
+/// stored integers of amounts over the whole range.
 template <AnyElement T>
 TQorVector<T> RandomVector(Engine& engine, std::size_t n) {
   auto vector = TQorVector<T>::WithLength(n);

@@ -4,7 +4,7 @@
 
 namespace qorvex::testing {
 
-/// QorMatrixRectangularCheck off while it lives.
+/// Turns QorMatrixRectangularCheck off during its lifetime.
 class RectangularCheckOff {
  public:
   RectangularCheckOff() { QorMatrixRectangularCheck = false; }

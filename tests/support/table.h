@@ -13,7 +13,7 @@
 
 namespace qorvex::testing {
 
-/// A comma-separated reference table with a header line; lines that start with # are remarks.
+/// A comma-separated reference table with a header line. Lines that start with # are comments.
 class Table {
  public:
   explicit Table(const std::string& file) {
@@ -54,9 +54,9 @@ class Table {
   std::vector<std::vector<std::string>> rows_;
 };
 
-/// The largest relative error of compute(row) against a column, over the rows whose expected value
-/// is at least `least` in magnitude. The error is in units of 1e-19; rounding to 80 bits alone
-/// makes 0.54.
+/// Expects that the relative errors of compute(row) against a column are at most the limit, in
+/// units of 1e-19. Rounding to 80 bits alone causes an error of 0.54. Skips rows whose expected
+/// value is less than `least` in magnitude.
 template <class Compute>
 void ExpectWorstError(const Table& table, const std::string& column, Extended limit,
                       Compute compute, Extended least = 1e-20L) {
@@ -80,8 +80,7 @@ void ExpectWorstError(const Table& table, const std::string& column, Extended li
   ::testing::Test::RecordProperty("worst_" + column, Float2EStr(worst, 2));
 }
 
-/// The values of a file whose lines have numbers between blanks; lines that start with # are
-/// remarks.
+/// The numbers in a file, separated by blanks. Lines that start with # are comments.
 inline std::vector<Extended> ReadNumbers(const std::string& file) {
   std::ifstream in(std::string(QORVEX_TEST_DATA) + "/" + file);
   if (!in) throw std::runtime_error("no reference data " + file);

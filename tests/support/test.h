@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What most tests of the numerics need.
+/// Definitions for most tests of the numerics.
 
 #include <algorithm>
 #include <cmath>
@@ -29,7 +29,7 @@ using AllTypes =
                      std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
 using CurrencyTypes = ::testing::Types<Currency, QorCurrency, QorLongCurrency>;
 
-/// Expects that the statement raises an error of exactly the given type with the given message.
+/// Expects that the statement raises an error of exactly this type with this message.
 #define EXPECT_ERROR(statement, Type, id)                           \
   do {                                                              \
     try {                                                           \

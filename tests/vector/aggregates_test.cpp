@@ -8,7 +8,7 @@
 
 namespace qorvex {
 
-// Smallest and largest value, their indices, and whether each is unique.
+// The smallest and the largest value, their indices, and whether each is unique.
 using Extremes = std::tuple<Extended, Extended, std::uint32_t, std::uint32_t, bool, bool>;
 
 Extremes MinMax(const TQorFloatVector& v) {
@@ -17,7 +17,7 @@ Extremes MinMax(const TQorFloatVector& v) {
   return extremes;
 }
 
-TEST(Extremes, FirstOfEqualExtremesWins) {
+TEST(Extremes, AreTheFirstOfEqualOnes) {
   EXPECT_EQ(MinMax({3, 1, 1, 5, 5}), Extremes(1, 5, 1, 3, false, false));
   EXPECT_EQ(MinMax({2, 2, 1}), Extremes(1, 2, 2, 0, true, false));
   EXPECT_EQ(MinMax({7}), Extremes(7, 7, 0, 0, true, true));
@@ -33,7 +33,7 @@ TEST(Extremes, NaNIsIgnoredUnlessItIsFirst) {
   EXPECT_TRUE(std::isnan(MaxVector(TQorFloatVector{kNaN, 1})));
 }
 
-TEST(Extremes, EmptyRaisesAndLeavesTheOutputs) {
+TEST(Extremes, OfAnEmptyVectorRaiseAndLeaveTheOutputs) {
   EXPECT_MATH_ERROR(MinVector(TQorSIntVector()), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(MaxVector(TQorFloatVector()), rsVectorIsEmpty);
   std::uint16_t value = 42;
@@ -60,7 +60,7 @@ TEST(Sums, FloatsAccumulateInExtendedInOrder) {
   EXPECT_TRUE(std::isnan(SumVector(TQorFloatVector{1, kNaN})));
 }
 
-// The square of 50000 in 32 bits with a sign.
+// 50000 squared, in signed 32 bits.
 constexpr std::int64_t kWrappedSquare = 2'500'000'000 - 4'294'967'296;
 
 TEST(Sums, IntegerSquaresKeepTheirNarrowWidth) {
@@ -90,7 +90,7 @@ TEST(Sums, SquaredDifferencesFromMeansAndOfTwoVectors) {
   EXPECT_EQ(SumSqDiffVectors(TQorDoubleVector{1}, TQorDoubleVector{-0x1p-60}),
             (1 + 0x1p-60L) * (1 + 0x1p-60L));
   EXPECT_EQ(SumSqDiffVectors(TQorLWordVector{0}, TQorLWordVector{50000}), kWrappedSquare)
-      << "a signed square even for unsigned elements";
+      << "signed, even for unsigned elements";
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector{1}, TQorLIntVector()), rsSameDimensions);
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector{1}), rsSameDimensions);
   EXPECT_MATH_ERROR(SumSqDiffVectors(TQorLIntVector(), TQorLIntVector()), rsVectorIsEmpty);
@@ -105,28 +105,25 @@ TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
   EXPECT_EQ(VectorMagnitude(TQorByteVector{255}), 255);
 }
 
-TEST(SignTests, UseTheToleranceExceptVectorNonZeroOfSingles) {
+TEST(SignTests, HaveAToleranceExceptForInt64AndForVectorNonZeroOfSingles) {
+  using Signs = std::tuple<bool, bool, bool, bool>;
+  const auto signs = [](const auto& v) {
+    return Signs(VectorZero(v), VectorNonZero(v), VectorPositive(v), VectorNonNegative(v));
+  };
   constexpr float tiny = 1e-30F;
-  EXPECT_TRUE(VectorZero(TQorFloatVector{0, tiny}));
-  EXPECT_TRUE(VectorZero(TQorSingleVector{0, tiny}));
-  EXPECT_FALSE(VectorNonZero(TQorFloatVector{1, tiny}));
-  EXPECT_FALSE(VectorNonZero(TQorDoubleVector{1, tiny}));
-  EXPECT_TRUE(VectorNonZero(TQorSingleVector{1, tiny}));
-  EXPECT_FALSE(VectorNonZero(TQorSingleVector{1, 0}));
-  EXPECT_FALSE(VectorPositive(TQorFloatVector{1, 0, 2}));
-  EXPECT_FALSE(VectorPositive(TQorSingleVector{1, tiny}));
-  EXPECT_TRUE(VectorNonNegative(TQorDoubleVector{0, -1e-16}));
-  EXPECT_FALSE(VectorNonNegative(TQorDoubleVector{0, -1e-14}));
-  EXPECT_FALSE(VectorPositive(TQorFloatVector{kNaN}));
-  EXPECT_TRUE(VectorNonNegative(TQorFloatVector{kNaN}) && VectorNonZero(TQorFloatVector{kNaN}));
-}
-
-TEST(SignTests, Int64IsExactAndEmptyRaises) {
-  EXPECT_TRUE(VectorZero(TQorInt64Vector{0, 0}));
-  EXPECT_FALSE(VectorNonZero(TQorInt64Vector{1, 0}));
-  EXPECT_TRUE(VectorPositive(TQorInt64Vector{1}));
-  EXPECT_TRUE(VectorNonNegative(TQorInt64Vector{0, 0}));
-  EXPECT_FALSE(VectorNonNegative(TQorInt64Vector{0, -1}));
+  EXPECT_EQ(signs(TQorFloatVector{0, tiny}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorFloatVector{1, tiny}), Signs(false, false, false, true));
+  EXPECT_EQ(signs(TQorFloatVector{1, 2}), Signs(false, true, true, true));
+  EXPECT_EQ(signs(TQorFloatVector{kNaN}), Signs(false, true, false, true));
+  EXPECT_EQ(signs(TQorDoubleVector{1, tiny}), Signs(false, false, false, true));
+  EXPECT_EQ(signs(TQorDoubleVector{0, -1e-16}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorDoubleVector{0, -1e-14}), Signs(false, false, false, false));
+  EXPECT_EQ(signs(TQorSingleVector{0, tiny}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorSingleVector{1, tiny}), Signs(false, true, false, true));
+  EXPECT_EQ(signs(TQorInt64Vector{0, 0}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorInt64Vector{1, 0}), Signs(false, false, false, true));
+  EXPECT_EQ(signs(TQorInt64Vector{1}), Signs(false, true, true, true));
+  EXPECT_EQ(signs(TQorInt64Vector{0, -1}), Signs(false, false, false, false));
   for (bool (*test)(const TQorSingleVector&) :
        {VectorZero<float>, VectorNonZero<float>, VectorPositive<float>, VectorNonNegative<float>}) {
     EXPECT_MATH_ERROR(test({}), rsVectorIsEmpty);

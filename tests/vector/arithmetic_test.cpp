@@ -24,8 +24,8 @@ TEST(Arithmetic, IntegersWrapAndDoublesRoundTwice) {
   EXPECT_EQ(AddVectors(TQorLIntVector{largest}, TQorLIntVector{1}), (TQorLIntVector{-largest - 1}));
   EXPECT_EQ(SubtractVectors(TQorInt64Vector{smallest}, TQorInt64Vector{1}),
             (TQorInt64Vector{std::numeric_limits<std::int64_t>::max()}));
-  // The exact result lies just above the middle of two doubles. To 80 bits it is the middle itself,
-  // which then rounds to the even neighbour; a double operation would have rounded up.
+  // The exact result is just above the middle of two doubles. Rounded to 80 bits it is the middle,
+  // which then rounds to even; an operation in double would round up.
   constexpr double half_and_more = 0x1p-53 + 0x1p-80;
   EXPECT_EQ(AddVectors(TQorDoubleVector{1}, TQorDoubleVector{half_and_more})[0], 1);
   EXPECT_EQ(SubtractVectors(TQorDoubleVector{1}, TQorDoubleVector{-half_and_more})[0], 1);

@@ -33,7 +33,7 @@ TEST(Building, PositionsOutOfRangeAppendOrDoNothing) {
   EXPECT_EQ(empty, (TQorSingleVector{5}));
 }
 
-TEST(Building, DeleteClosesTheGap) {
+TEST(Building, DeleteMovesTheElementsBehind) {
   TQorInt64Vector v{1, 2, 3, 4};
   const TQorInt64Vector shared = v;
   DeleteValueFromVector(v, 1);

@@ -3,8 +3,8 @@
 #include <tuple>
 
 #include "qorvex/vector/QorvexFinVector.h"
+#include "support/amounts.h"
 #include "support/kept_tolerance.h"
-#include "support/nearest_amount.h"
 #include "support/random_vectors.h"
 #include "support/test.h"
 
@@ -13,19 +13,13 @@ namespace {
 
 using testing::Int128;
 using testing::NearestAmount;
+using testing::Stored;
 
 template <class T>
 class AmountVectors : public ::testing::Test {};
 TYPED_TEST_SUITE(AmountVectors, CurrencyTypes);
 
-template <class T>
-TQorVector<typename T::StoredType> Stored(const TQorVector<T>& amounts) {
-  TQorVector<typename T::StoredType> stored;
-  for (const T x : amounts) stored.Append(x.stored());
-  return stored;
-}
-
-// The routines for integers have tests of their own.
+// The routines for integers are tested elsewhere.
 TYPED_TEST(AmountVectors, BehaveAsVectorsOfTheStoredIntegers) {
   using T = TypeParam;
   testing::Engine engine(6);
@@ -104,7 +98,7 @@ TYPED_TEST(AmountVectors, AreTransformedInUnits) {
   ExpectTransformed(std::numeric_limits<T>::max(), 8, 2);
 }
 
-// Only for Currency is the stored integer not divided first, which may miss a tie.
+// Only for Currency: the other amounts are divided by their scale first, which may miss a tie.
 TEST(CurrencyVectors, LinearTransformationsRoundTiesToEven) {
   testing::Engine engine(8);
   for (int i = 0; i < 20'000; ++i) {
@@ -113,7 +107,7 @@ TEST(CurrencyVectors, LinearTransformationsRoundTiesToEven) {
   }
 }
 
-// The conversions of single amounts have tests of their own.
+// The conversions of single amounts are tested with the base.
 template <class From, class To>
 void ExpectConverted(const TQorVector<From>& vector, const TQorVector<To>& converted,
                      std::type_identity_t<To (*)(From)> convert) {

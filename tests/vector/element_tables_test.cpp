@@ -1,5 +1,5 @@
-// Which element types each routine exists for. What a table leaves out must not compile, so that no
-// call converts, rounds or squares in a width that nobody chose.
+// The element types that each routine accepts. Other types must not compile, so that no call
+// converts or rounds its arguments implicitly.
 
 #include <array>
 #include <type_traits>
@@ -11,11 +11,6 @@
 #include "support/test.h"
 
 namespace qorvex {
-
-// Every routine of the list exists for the same types.
-void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {
-  EXPECT_EQ(routines, std::vector(routines.size(), types));
-}
 
 TEST(ElementTables, Building) {
   ExpectTypes("gdfjuiCSL", {TYPES_OF(AppendValue2Vector(v, x)), TYPES_OF(AddValue2Vector(v, x, 0)),
@@ -62,8 +57,8 @@ TEST(ElementTables, SortingAndArithmetic) {
   EXPECT_EQ(TYPES_OF(QorPolynomial(v, 1)), "g");
 }
 
-// A factor or an element that would be cut off.
-TEST(ElementTables, IntegersTakeNoFloatingNumbers) {
+// Floating-point factors and elements would be truncated.
+TEST(ElementTables, IntegersTakeNoFloatingPointValues) {
   ExpectTypes("gdf", {TYPES_OF(AppendValue2Vector(v, 0.5)), TYPES_OF(AddValue2Vector(v, 0.5L, 0)),
                       TYPES_OF(FillVector(v, 0.5F)), TYPES_OF(Vector2RankValue(v, 0.5, true)),
                       TYPES_OF(MinXY(x, 0.5))});
@@ -87,8 +82,8 @@ TEST(ElementTables, Estimators) {
             TYPES_OF(Standardise(v, 0, 1, true)), TYPES_OF(Standardise(v, 0, 1, 0, 1)),
             TYPES_OF(GeometricMean(v)), TYPES_OF(GeometricStdDev(v, true)),
             TYPES_OF(HarmonicMean(v)), TYPES_OF(RootMeanSquare(v)), TYPES_OF(MeanDeviation(v, 0))});
-  EXPECT_EQ(TYPES_OF(Standardise(v, 0, 1, 1.0L)), "") << "a figure is no flag";
-  EXPECT_EQ(TYPES_OF(GeometricStdDev(v, 1.0L)), "") << "a figure is no flag";
+  EXPECT_EQ(TYPES_OF(Standardise(v, 0, 1, 1.0L)), "") << "a number is not a flag";
+  EXPECT_EQ(TYPES_OF(GeometricStdDev(v, 1.0L)), "") << "a number is not a flag";
 }
 
 }  // namespace qorvex

@@ -11,7 +11,7 @@ namespace qorvex {
 
 using testing::Engine;
 
-// The definition: sort a copy and scan it from the front for the first equal element.
+// The definition: the first equal element in a sorted copy.
 template <class T>
 std::int32_t ScannedRank(const TQorVector<T>& vector, T value, bool ascending) {
   TQorVector<T> sorted = CopyVector(vector);
@@ -73,7 +73,7 @@ TQorVector<T> Chain(Engine& engine, std::size_t n) {
   return vector;
 }
 
-TEST(Ranking, RanksAsTheLinearScanDoes) {
+TEST(Ranking, AgreesWithALinearScan) {
   const testing::KeptTolerance kept;
   Engine engine(2026);
   for (const Extended tolerance : {0.0L, 1e-15L, 1e-6L, 0.1L, 0.499L, 0.5L, 0.9L, 3.0L}) {

@@ -24,7 +24,7 @@ void ExpectSortsLikeTheLibrary(TQorVector<T> vector) {
   ASSERT_TRUE(std::equal(vector.begin(), vector.end(), expected.rbegin()));
 }
 
-TYPED_TEST(Sorting, OrdersRandomVectorsOfEveryLengthBothWays) {
+TYPED_TEST(Sorting, SortsRandomVectorsOfEveryLengthInBothOrders) {
   Engine engine(42);
   for (std::size_t n = 0; n < 60; ++n)
     ExpectSortsLikeTheLibrary(RandomVector<TypeParam>(engine, n));
@@ -32,9 +32,9 @@ TYPED_TEST(Sorting, OrdersRandomVectorsOfEveryLengthBothWays) {
     ExpectSortsLikeTheLibrary(RandomVector<TypeParam>(engine, n));
 }
 
-// Inputs that defeat the radix digits or a naive pivot: keys that differ in their lowest bits only,
-// few distinct keys, ordered runs, and one outlier that hides all other bits.
-TYPED_TEST(Sorting, OrdersAdversarialVectors) {
+// Inputs that are hard for a radix sort or for a naive pivot: keys that only differ in their lowest
+// bits, few distinct keys, sorted runs, and outliers that hide the low bits.
+TYPED_TEST(Sorting, SortsAdversarialVectors) {
   constexpr std::size_t n = 5000;
   Engine engine(43);
   auto low_bits = TQorVector<TypeParam>::WithLength(n);
@@ -52,9 +52,9 @@ TYPED_TEST(Sorting, OrdersAdversarialVectors) {
   ExpectSortsLikeTheLibrary(low_bits);
 }
 
-// Two outliers keep the radix digits off the low bits, where an organ pipe defeats the middle
-// pivot.
-TEST(SortingFloats, OrdersAnOrganPipeBehindOutliers) {
+// Because of the two outliers the radix sort does not reach the low bits. These form an organ pipe,
+// for which the middle element is a bad pivot.
+TEST(SortingFloats, SortsAnOrganPipeWithOutliers) {
   constexpr std::size_t n = 100'000;
   auto pipe = TQorFloatVector::WithLength(n);
   for (std::size_t i = 0; i < n; ++i)
@@ -64,7 +64,7 @@ TEST(SortingFloats, OrdersAnOrganPipeBehindOutliers) {
   ExpectSortsLikeTheLibrary(pipe);
 }
 
-TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
+TEST(SortingFloats, RunningOutOfMemoryLeavesTheVectorUnchanged) {
   Engine engine(1);
   auto v = RandomVector<Extended>(engine, 1000);
   v[3] = kNaN;
@@ -74,7 +74,7 @@ TEST(SortingFloats, LackOfMemoryLeavesTheVectorUnchanged) {
       [&] { return std::memcmp(v.data(), before.data(), v.size() * sizeof(Extended)) == 0; });
 }
 
-TEST(SortingFloats, NaNIsLastBothWaysAndTheRestIsOrderedBitForBit) {
+TEST(SortingFloats, NaNIsLastInBothOrdersAndZerosKeepTheirSign) {
   constexpr Extended subnormal = std::numeric_limits<Extended>::denorm_min();
   TQorFloatVector v{kNaN, 1, -kNaN, kInfinity, 0.0L, -kInfinity, -0.0L, subnormal, -subnormal};
   const TQorFloatVector shared = v;

@@ -1,14 +1,14 @@
 #pragma once
 
 /// @file
-/// The grammar of decimal numbers in text, for every kind of number that reads it.
+/// Parses decimal numbers in text.
 
 #include <cstdint>
 #include <string_view>
 
 namespace qorvex::inline QorvexGlobals::detail {
 
-/// The text without spaces and tabs around it.
+/// The text without leading and trailing spaces and tabs.
 inline std::string_view WithoutBlanks(std::string_view text) {
   constexpr std::string_view kBlanks = " \t";
   const std::size_t first = text.find_first_not_of(kBlanks);
@@ -16,7 +16,7 @@ inline std::string_view WithoutBlanks(std::string_view text) {
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
-/// Removes a sign at the front; true when it is a minus.
+/// Removes a leading sign. Returns true if it is a minus sign.
 inline bool TakeSign(std::string_view& number) {
   const bool negative = number.starts_with('-');
   if (negative || number.starts_with('+')) number.remove_prefix(1);
@@ -29,21 +29,21 @@ constexpr bool IsDigit(char c) {
 
 /// An unsigned decimal number.
 struct DecimalText {
-  /// The number is significand times 10^exponent while it has at most 19 significant digits.
+  /// The number is significand * 10^exponent if it has at most 19 significant digits.
   std::uint64_t significand = 0;
-  /// The significant digits.
+  /// The number of significant digits.
   int digits = 0;
   /// The power of ten of the last digit.
   std::int64_t exponent = 0;
-  /// The digits, with leading zeros and perhaps a point.
+  /// The text before the exponent: digits, with leading zeros and an optional point.
   std::string_view mantissa;
   bool valid = false;
 };
 
-/// Far beyond the range of any number, far below the range of int64.
+/// Far above the exponent of any number that is in range, far below the limit of int64.
 inline constexpr std::int64_t kExponentLimit = 1'000'000'000;
 
-/// Reads unsigned text: digits with an optional decimal point and an optional exponent.
+/// Parses an unsigned number: digits with an optional decimal point and an optional exponent.
 inline DecimalText ScanDecimal(std::string_view text) {
   DecimalText number;
   bool any_digit = false;

@@ -1,7 +1,6 @@
 #pragma once
 
-// The shape of a matrix, and the checks that matrix routines share. They run in the order in which
-// each routine's comment lists its errors.
+// The shape of a matrix, and the checks that matrix routines share.
 
 #include <cstddef>
 #include <cstdint>
@@ -18,11 +17,11 @@ struct Shape {
   std::uint32_t cols = 0;
   bool rectangular = false;
 
-  [[nodiscard]] bool Empty() const noexcept { return rows == 0 || cols == 0; }
-  [[nodiscard]] bool AtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
+  [[nodiscard]] bool IsEmpty() const noexcept { return rows == 0 || cols == 0; }
+  [[nodiscard]] bool HasAtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
 };
 
-// What MatrixDimensions reports. compare_rows is a shape switch.
+// The shape that MatrixDimensions reports. compare_rows is the value of a shape switch.
 template <class T>
 [[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix, bool compare_rows) noexcept {
   Shape shape;
@@ -32,7 +31,7 @@ template <class T>
     shape.rectangular = true;
     return shape;
   }
-  if (shape.Empty()) return shape;
+  if (shape.IsEmpty()) return shape;
   for (const TQorVector<T>& row : matrix) {
     if (row.size() != shape.cols) {
       shape.cols = 0;
@@ -43,7 +42,7 @@ template <class T>
   return shape;
 }
 
-// The same with the switch of the unit that the elements belong to.
+// The same with the shape switch for the element type.
 template <class T>
 [[nodiscard]] Shape ShapeOf(const TQorMatrix<T>& matrix) noexcept {
   if constexpr (CurrencyElement<T>) {
@@ -53,17 +52,17 @@ template <class T>
   }
 }
 
-// For routines that take rows of any lengths.
+// For routines that accept rows of different lengths.
 template <class T>
 void RequireRows(const TQorMatrix<T>& matrix) {
   if (matrix.empty()) RaiseMathError(rsMatrixIsEmpty);
 }
 
 inline void RequireElements(const Shape& shape) {
-  if (shape.Empty()) RaiseMathError(rsMatrixIsEmpty);
+  if (shape.IsEmpty()) RaiseMathError(rsMatrixIsEmpty);
 }
 
-// Routines that ask for elements first never raise this: a ragged matrix has no columns.
+// Never fails after RequireElements, because a ragged matrix counts as having no columns.
 inline void RequireRectangular(const Shape& shape) {
   if (!shape.rectangular) RaiseMathError(rsMatrixRect);
 }
@@ -80,7 +79,7 @@ inline void RequireCol(const Shape& shape, std::uint32_t col) {
   if (col >= shape.cols) RaiseMathError(rsInvalidCol);
 }
 
-// With the shape switch off nobody has compared the rows, and one that is shorter than the first
+// With the shape switch off the lengths of the rows have not been compared. A row that is too short
 // must not be read beyond its end.
 template <class T>
 void RequireLength(const TQorVector<T>& row, std::size_t length) {
@@ -92,8 +91,8 @@ void RequireLengths(const TQorMatrix<T>& matrix, std::size_t length) {
   for (const TQorVector<T>& row : matrix) RequireLength(row, length);
 }
 
-// The shape of a matrix that has elements and, as far as ShapeOf looks, rows of one length. For
-// routines that check indices next, and then the lengths of the rows that they touch.
+// Requires a matrix that has elements and that ShapeOf reports as rectangular. For routines that
+// then check indices, and last the lengths of the rows that they use.
 template <class T>
 Shape RequireRectangularShape(const TQorMatrix<T>& matrix) {
   const Shape shape = ShapeOf(matrix);
@@ -102,7 +101,7 @@ Shape RequireRectangularShape(const TQorMatrix<T>& matrix) {
   return shape;
 }
 
-// The same for routines that touch all rows.
+// The same, and requires that no row is shorter than the first.
 template <class T>
 Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
   const Shape shape = RequireRectangularShape(matrix);
@@ -110,7 +109,7 @@ Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
   return shape;
 }
 
-// The same of a square matrix.
+// The same for a square matrix.
 template <class T>
 Shape RequireSquareMatrix(const TQorMatrix<T>& matrix) {
   const Shape shape = ShapeOf(matrix);

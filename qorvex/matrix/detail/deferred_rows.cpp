@@ -12,15 +12,15 @@ namespace qorvex::inline QorvexMatrix::detail {
 DeferredRows::DeferredRows(TQorFloatMatrix& matrix, std::size_t cols) : cols_(cols) {
   rows_.reserve(matrix.size());
   for (TQorFloatVector& row : matrix) rows_.push_back({.elements = row.data()});
-  sources_.reserve(kDepth);
-  quads_ = std::make_unique_for_overwrite<SplitQuad[]>((cols + kQuad - 1) / kQuad * kDepth);
+  sources_.reserve(kMostSources);
+  quads_ = std::make_unique_for_overwrite<SplitQuad[]>((cols + kQuad - 1) / kQuad * kMostSources);
 }
 
 Extended DeferredRows::At(std::size_t row, std::size_t col) const {
   const Row& target = rows_[row];
   Extended x = target.elements[col];
-  for (unsigned waiting = target.waiting; waiting != 0; waiting &= waiting - 1) {
-    const auto source = static_cast<std::size_t>(std::countr_zero(waiting));
+  for (unsigned pending = target.pending; pending != 0; pending &= pending - 1) {
+    const auto source = static_cast<std::size_t>(std::countr_zero(pending));
     x += rows_[sources_[source]].elements[col] * target.factors[source];
   }
   return x;
@@ -39,42 +39,43 @@ void DeferredRows::Swap(std::size_t row1, std::size_t row2) {
   SwapElements(a.elements, b.elements, cols_);
   std::swap(a.cleared, b.cleared);
   std::swap(a.factors, b.factors);
-  std::swap(a.waiting, b.waiting);
+  std::swap(a.pending, b.pending);
 }
 
 void DeferredRows::Scale(std::size_t row, Extended factor) {
   Row& scaled = rows_[row];
   assert(scaled.slot == kNoSlot);
-  SettleRow(scaled);
+  FlushRow(scaled);
   ScaleElements(scaled.elements + scaled.cleared, cols_ - scaled.cleared, factor);
 }
 
 void DeferredRows::Add(std::size_t target, std::size_t source, Extended factor) {
   Row& row = rows_[target];
-  if (!BecomeSource(source)) {
-    SettleRow(row);
+  if (!MakeSource(source)) {
+    FlushRow(row);
     AddElements(row.elements + row.cleared, rows_[source].elements + row.cleared,
                 cols_ - row.cleared, factor);
     return;
   }
   const std::size_t slot = rows_[source].slot;
-  assert(row.slot == kNoSlot && row.waiting >> slot == 0);
+  assert(row.slot == kNoSlot && row.pending >> slot == 0);
   row.factors[slot] = factor;
-  row.waiting |= 1U << slot;
+  row.pending |= 1U << slot;
 }
 
-void DeferredRows::Settle() {
-  for (Row& row : rows_) SettleRow(row);
+void DeferredRows::Flush() {
+  for (Row& row : rows_) FlushRow(row);
   for (const std::size_t source : sources_) rows_[source].slot = kNoSlot;
   sources_.clear();
 }
 
-// Gives the row a slot. False when its elements do not split; it then has none.
-bool DeferredRows::BecomeSource(std::size_t source) {
+// Assigns the row a slot and stores its elements there. Returns false, and assigns none, if an
+// element is not exactly the sum of two doubles.
+bool DeferredRows::MakeSource(std::size_t source) {
   Row& row = rows_[source];
   if (row.slot != kNoSlot) return true;
-  if (sources_.size() == kDepth) Settle();
-  SettleRow(row);
+  if (sources_.size() == kMostSources) Flush();
+  FlushRow(row);
   const std::size_t slot = sources_.size();
   bool exact = true;
   for (std::size_t col = FirstQuad(row); col < cols_; col += kQuad) {
@@ -86,18 +87,18 @@ bool DeferredRows::BecomeSource(std::size_t source) {
   return true;
 }
 
-void DeferredRows::SettleRow(Row& row) {
+void DeferredRows::FlushRow(Row& row) {
   const std::size_t first_col = FirstQuad(row);
-  while (row.waiting != 0) {
-    // Sources side by side, mostly all of them, are one run.
-    const auto first = static_cast<std::size_t>(std::countr_zero(row.waiting));
-    const auto count = static_cast<std::size_t>(std::countr_one(row.waiting >> first));
+  while (row.pending != 0) {
+    // Adjacent sources, usually all of them, are added in one pass.
+    const auto first = static_cast<std::size_t>(std::countr_zero(row.pending));
+    const auto count = static_cast<std::size_t>(std::countr_one(row.pending >> first));
     for (std::size_t col = first_col; col < cols_; col += kQuad) {
       AddProducts(row.elements + col, &row.factors[first], Quads(col) + first, count, cols_ - col);
     }
-    row.waiting &= ~(((1U << count) - 1) << first);
+    row.pending &= ~(((1U << count) - 1) << first);
   }
-  // The first quad may begin among the cleared elements.
+  // The first quad may start with cleared elements.
   std::fill(row.elements + first_col, row.elements + row.cleared, Extended(0));
 }
 

@@ -10,15 +10,16 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-// DirectRows for extended elements, two to three times as fast, with the same results bit for bit.
+// A faster DirectRows for extended elements, with bitwise identical results.
 //
-// Loading and storing an element costs more than adding a product to it, so additions wait until a
-// row has several, and one pass over the row makes them all: each element still takes its products
-// in the order in which they were asked for. At gives an element as if nothing waited; the matrix
-// itself is up to date after Settle.
+// Loading and storing an element costs more than adding a product to it. So additions to a row are
+// deferred until there are several, and then performed in one pass over the row. Each element still
+// receives its products in the order of the calls. At returns an element as if no addition were
+// deferred; the matrix itself is up to date after Flush.
 //
-// This serves eliminations: no two rows may share a buffer, a source is final, and it is added to a
-// row at most once and after all earlier sources. Settle begins anew.
+// Meant for eliminations: no two rows may share a buffer, the elements of a source row do not
+// change any more, and a source is added to a row at most once, after all earlier sources. Flush
+// ends these restrictions.
 class DeferredRows {
  public:
   DeferredRows(TQorFloatMatrix& matrix, std::size_t cols);
@@ -28,33 +29,34 @@ class DeferredRows {
   void Swap(std::size_t row1, std::size_t row2);
   void Scale(std::size_t row, Extended factor);
   void Add(std::size_t target, std::size_t source, Extended factor);
-  void Settle();
+  void Flush();
 
  private:
-  // How many sources there are at a time, and so how many additions to a row wait at most.
-  static constexpr std::size_t kDepth = 8;
-  static constexpr std::size_t kNoSlot = kDepth;
+  // The largest number of sources at a time, and so of deferred additions to a row.
+  static constexpr std::size_t kMostSources = 8;
+  static constexpr std::size_t kNoSlot = kMostSources;
 
   struct Row {
     Extended* elements;
     std::size_t cleared = 0;
-    // Of the additions that wait: the factors, for those slots of sources whose bit is set.
-    std::array<Extended, kDepth> factors = {};
-    unsigned waiting = 0;
-    // The slot in which other rows know this one as a source.
+    // The deferred additions: bit i of pending is set if factors[i] times the source in slot i is
+    // to be added.
+    std::array<Extended, kMostSources> factors = {};
+    unsigned pending = 0;
+    // The slot of this row if it is a source.
     std::size_t slot = kNoSlot;
   };
 
   [[nodiscard]] static std::size_t FirstQuad(const Row& row) { return row.cleared / kQuad * kQuad; }
-  [[nodiscard]] SplitQuad* Quads(std::size_t col) { return &quads_[col / kQuad * kDepth]; }
-  bool BecomeSource(std::size_t row);
-  void SettleRow(Row& row);
+  [[nodiscard]] SplitQuad* Quads(std::size_t col) { return &quads_[col / kQuad * kMostSources]; }
+  bool MakeSource(std::size_t row);
+  void FlushRow(Row& row);
 
   std::size_t cols_;
   std::vector<Row> rows_;
   // The row in each slot.
   std::vector<std::size_t> sources_;
-  // The sources' elements: for every four columns, the quads of all slots side by side.
+  // The elements of the sources: for every four columns, the quads of all slots in sequence.
   std::unique_ptr<SplitQuad[]> quads_;
 };
 

@@ -10,11 +10,10 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-// The rows of a matrix under elementary operations, each made at once. The matrix must outlive this
-// and keep its row buffers.
+// The rows of a matrix, with the elementary row operations. The matrix must outlive this object and
+// keep its row buffers.
 //
-// Each row has leading elements that are cleared, none to begin with, and stay +0: scalings and
-// additions leave them out.
+// Leading elements of a row that have been cleared stay +0: scalings and additions skip them.
 template <FloatElement T>
 class DirectRows {
  public:
@@ -26,7 +25,7 @@ class DirectRows {
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const {
     return static_cast<Extended>(rows_[row].elements[col]);
   }
-  // Sets the next element of the row that is not cleared yet, the one of this column, to +0.
+  // Sets an element to +0. All elements to its left must have been cleared already.
   void Clear(std::size_t row, std::size_t col) {
     assert(rows_[row].cleared == col);
     rows_[row].elements[col] = 0;
@@ -40,13 +39,13 @@ class DirectRows {
     const auto [elements, cleared] = rows_[row];
     ScaleElements(elements + cleared, cols_ - cleared, factor);
   }
-  // Adds the source row times the factor to the target row.
+  // Adds factor * source row to the target row.
   void Add(std::size_t target, std::size_t source, Extended factor) {
     const auto [elements, cleared] = rows_[target];
     AddElements(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
   }
-  // Brings the matrix up to date.
-  void Settle() {}
+  // Does nothing, because no operation is deferred.
+  void Flush() {}
 
  private:
   struct Row {

@@ -7,16 +7,16 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-// An observer for whom the row echelon form is all.
+// For callers that only need the row echelon form.
 struct NoObserver {
   void Swapped(std::size_t, std::size_t) {}
   void Scaled(std::size_t, Extended /*pivot*/, Extended /*factor*/) {}
   void Added(std::size_t, std::size_t, Extended) {}
 };
 
-// The row, from the first one given on, whose element of the column is the pivot: the topmost NaN,
-// or else the largest in magnitude of those that are not zero within QorTolerance, the topmost of
-// equals. row_count when the column has none.
+// The row of the column's pivot, from first_row on: the topmost NaN, otherwise the element of
+// largest magnitude that is not zero within QorTolerance, the topmost of several. row_count if
+// there is none.
 template <class Rows>
 std::size_t FindPivot(const Rows& rows, std::size_t first_row, std::size_t row_count,
                       std::size_t col) {
@@ -33,13 +33,13 @@ std::size_t FindPivot(const Rows& rows, std::size_t first_row, std::size_t row_c
   return best_row;
 }
 
-// Gaussian elimination with partial pivoting to row echelon form, telling the observer each step
-// after it is made. Returns the number of pivots, the rank.
+// Gaussian elimination with partial pivoting to row echelon form. Notifies the observer after each
+// step. Returns the rank, which is the number of pivots.
 //
-// Pivots that are not one within QorTolerance are scaled to it, with what is right of them. What is
-// to become zero is set to +0 and not computed: rounding would leave residue there that grows from
-// pivot to pivot. So rows are added right of the pivot only, and the rows after the last pivot are
-// +0 throughout.
+// Rows whose pivot is not one within QorTolerance are scaled. Elements to be eliminated are set to
+// +0 instead of being computed, because rounding would leave residues that grow from pivot to
+// pivot. So rows are added only to the right of the pivot, and all rows below the last pivot are
+// +0.
 template <class Rows, class Observer>
 std::size_t Eliminate(Rows& rows, std::size_t row_count, std::size_t col_count,
                       Observer&& observer) {
@@ -70,7 +70,7 @@ std::size_t Eliminate(Rows& rows, std::size_t row_count, std::size_t col_count,
     }
     ++pivot_row;
   }
-  rows.Settle();
+  rows.Flush();
   return pivot_row;
 }
 

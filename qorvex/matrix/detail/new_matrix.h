@@ -1,6 +1,6 @@
 #pragma once
 
-// Matrices for routines that compute their elements.
+// Creates matrices.
 
 #include <cstddef>
 
@@ -16,7 +16,7 @@ template <class T>
   return matrix;
 }
 
-// For a caller that writes every element before reading any.
+// Uninitialised: every element must be written before it is read.
 template <class T>
 [[nodiscard]] TQorMatrix<T> NewMatrixForOverwrite(std::size_t rows, std::size_t cols) {
   auto matrix = TQorMatrix<T>::WithLength(rows);
@@ -24,7 +24,7 @@ template <class T>
   return matrix;
 }
 
-// One, or one unit of a currency.
+// One, or one currency unit.
 template <class T>
 [[nodiscard]] constexpr T One() noexcept {
   if constexpr (CurrencyElement<T>) {

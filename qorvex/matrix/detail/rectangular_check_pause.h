@@ -2,8 +2,8 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-// Turns QorMatrixRectangularCheck off while it lives. Reductions on several threads overlap, so the
-// first pause keeps the program's value and the last one restores it.
+// Turns QorMatrixRectangularCheck off during its lifetime. Pauses on several threads may overlap:
+// the first one saves the value and the last one restores it.
 class RectangularCheckPause {
  public:
   RectangularCheckPause();

@@ -1,7 +1,7 @@
 #pragma once
 
-// The elementary operations on rows, as loops over their elements. They count by pointer: by index
-// GCC 12 keeps a second counter, which the floating-point unit waits for.
+// The elementary row operations as loops over elements. The loops advance pointers because with an
+// index GCC 12 generates a second counter, which delays the floating-point operations.
 
 #include <algorithm>
 #include <cstddef>

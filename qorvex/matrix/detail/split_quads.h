@@ -1,11 +1,11 @@
 #pragma once
 
-// Sums of products in extended precision at the speed of the floating-point unit.
+// Sums of products in extended precision.
 //
-// Loading an 80-bit value costs a processor several times as much as loading a double, and an
-// addition waits some cycles for the one before. So values that serve many products are stored as
-// the sum of two doubles, which is exact, and four sums run side by side. Each sum still adds its
-// products one by one, in ascending order, and rounds each product and each sum to 64 bits.
+// Loading an 80-bit value takes several times as long as loading a double, and each addition has to
+// wait for the one before it. So values that are used in many products are stored as the sum of two
+// doubles, which is exact, and four sums are computed at a time. Each sum still adds its products
+// one by one, in ascending order, and rounds each product and each sum to 64 bits.
 
 #include <cmath>
 #include <cstddef>
@@ -16,7 +16,7 @@ namespace qorvex::inline QorvexMatrix::detail {
 
 inline constexpr std::size_t kQuad = 4;
 
-// Four values side by side in a row, each high[i] + low[i].
+// Four adjacent elements of a row, each stored as high[i] + low[i].
 struct SplitQuad {
   double high[kQuad];
   double low[kQuad];
@@ -25,8 +25,8 @@ struct SplitQuad {
     return static_cast<Extended>(high[i]) + static_cast<Extended>(low[i]);
   }
 
-  // Stores count values and zeros behind them. False when one is not the sum of two doubles: it is
-  // infinite, NaN or far from one.
+  // Stores count values, followed by zeros. Returns false if a value is not exactly the sum of two
+  // doubles: if it is infinite, NaN, or too large or too small.
   [[nodiscard]] bool Store(const Extended* values, std::size_t count) noexcept {
     constexpr Extended largest = 0x1p+1000L;
     constexpr Extended smallest = 0x1p-900L;
@@ -36,15 +36,15 @@ struct SplitQuad {
       const Extended magnitude = std::fabs(x);
       exact &= x == 0 || (magnitude >= smallest && magnitude <= largest);
       high[i] = static_cast<double>(x);
-      // -(high - x), not x - high: a remainder of nothing is then -0, which keeps the sign of
-      // zeros.
+      // -(high - x) instead of x - high: a remainder of zero is then -0, so that adding it keeps
+      // the sign of a zero.
       low[i] = static_cast<double>(-(static_cast<Extended>(high[i]) - x));
     }
     return exact;
   }
 };
 
-// Four values as they are.
+// Four adjacent elements of a row, stored in extended precision.
 struct PlainQuad {
   Extended values[kQuad];
 
@@ -76,7 +76,7 @@ inline void AddProducts(Extended* sums, const Extended* factors, const Quad* qua
   sums[3] = sum3;
 }
 
-// The same for the first few sums of a row's last, incomplete four.
+// The same for the last quad of a row, which may have fewer than four elements.
 template <class Quad>
 inline void AddProducts(Extended* sums, const Extended* factors, const Quad* quads,
                         std::size_t count, std::size_t width) noexcept {

@@ -1,18 +1,34 @@
 #pragma once
 
-// Sums and products of elements. Floating ones are formed in extended precision, each operation
-// rounding once, and then rounded to their own type; integers and sums of amounts wrap around;
-// products of amounts are rounded to the nearest one. Factors and addends of products are of the
-// element's type for integers and extended for the others; what is added to an amount is in units.
+// Sums and products of elements.
+//
+// - Floating elements are computed in extended precision and then rounded to their type.
+// - Integers and sums of amounts wrap around. Products of amounts are rounded to the nearest
+//   amount.
+// - Factors and addends are of the element type for integers and extended otherwise. The addend of
+//   an amount is in units.
 
 #include <type_traits>
 
 #include "qorvex/base/rounding.h"
 #include "qorvex/base/vector_types.h"
-#include "qorvex/vector/detail/currency_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
 namespace qorvex::inline QorvexVector::detail {
+
+// slope * amount + intercept in units.
+inline QorCurrency LinearTransform(QorCurrency x, Extended slope, Extended intercept) noexcept {
+  return Float2QorCurrency(slope * Currency2Float(x) + intercept);
+}
+inline QorLongCurrency LinearTransform(QorLongCurrency x, Extended slope,
+                                       Extended intercept) noexcept {
+  return Float2QorLongCurrency(slope * Currency2Float(x) + intercept);
+}
+inline Currency LinearTransform(Currency x, Extended slope, Extended intercept) noexcept {
+  return Currency(
+      RoundToInteger<std::int64_t>(slope * static_cast<Extended>(x.stored()) +
+                                   intercept * static_cast<Extended>(Currency::kScale)));
+}
 
 template <AdditiveElement T>
 constexpr T Sum(T x, T y) noexcept {

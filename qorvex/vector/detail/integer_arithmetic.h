@@ -1,7 +1,7 @@
 #pragma once
 
-// Integer sums, squares and products with the widths that the vector routines promise. All
-// arithmetic is unsigned, so wrapping around is defined; the signed result takes the low bits.
+// Integer sums, squares and products with the widths that the vector routines document. All
+// arithmetic is unsigned, because signed overflow is undefined.
 
 #include <concepts>
 #include <cstdint>
@@ -23,15 +23,15 @@ constexpr T WrappingSubtract(T x, T y) noexcept {
   return static_cast<T>(static_cast<Unsigned>(static_cast<Unsigned>(x) - static_cast<Unsigned>(y)));
 }
 
-// For elements of at least 32 bits: narrower unsigned operands would promote to int and overflow
-// it.
+// Only for elements of at least 32 bits: narrower unsigned operands are promoted to int, which
+// might overflow.
 template <WideIntegerElement T>
 constexpr T WrappingMultiply(T x, T y) noexcept {
   using Unsigned = std::make_unsigned_t<T>;
   return static_cast<T>(static_cast<Unsigned>(x) * static_cast<Unsigned>(y));
 }
 
-// The type that keeps the low bits of a square, and so decides how the square extends to int64.
+// The type that a square is truncated to before it is extended to int64.
 template <IntegerElement T>
 struct SquareWidth {
   using Type = T;
@@ -49,15 +49,15 @@ struct SquareWidth<std::int8_t> {
   using Type = std::int16_t;
 };
 
-// The square of x in its narrow width: an int64 squares its low 32 bits only, and a byte 255 gives
-// -511.
+// The square of x in its narrow width. Of an int64 only the low 32 bits are squared; the square of
+// the byte 255 is -511.
 template <IntegerElement T>
 constexpr std::int64_t NarrowSquare(T x) noexcept {
   const auto low_bits = static_cast<std::uint32_t>(x);
   return static_cast<typename SquareWidth<T>::Type>(low_bits * low_bits);
 }
 
-// Adds in int64, wrapping.
+// A sum in int64 that wraps around.
 class Int64Sum {
  public:
   constexpr void Add(std::int64_t value) noexcept { bits_ += static_cast<std::uint64_t>(value); }

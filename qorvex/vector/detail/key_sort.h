@@ -1,6 +1,6 @@
 #pragma once
 
-// Sorts unsigned keys ascending without recursion.
+// Sorts unsigned keys in ascending order, without recursion.
 
 #include <algorithm>
 #include <array>
@@ -31,7 +31,7 @@ void InsertionSort(Key* first, Key* last) {
 // Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978,
 // "Implementing quicksort programs"). The smaller side is sorted first and the larger one deferred,
 // so the stack never holds more than log2(n) entries. A segment that has been divided twice as
-// often as halving would need goes to a heap sort, which bounds the whole to O(n log n) (Musser
+// often as halving would need is sorted by a heap sort, which bounds the cost to O(n log n) (Musser
 // 1997, "Introspective sorting and selection algorithms").
 template <class Key>
 void QuickSort(Key* first, Key* last) {
@@ -74,20 +74,20 @@ void QuickSort(Key* first, Key* last) {
   }
 }
 
-// Below this length the counters of a radix pass cost more than they save.
+// For shorter inputs, maintaining the counters of a radix pass costs more than it saves.
 constexpr std::size_t kShortestRadixSort = 400;
 
-// Least-significant-digit radix sort of the highest bits in which the keys differ, as many as tell
-// most keys apart; quicksort then orders the runs of keys that agree in those bits. scratch holds
-// as many keys as the input.
+// Least-significant-digit radix sort of the highest bits in which the keys differ, as many as
+// distinguish most keys. A quicksort then sorts the runs of keys that are equal in those bits.
+// scratch has room for count keys.
 template <class Key>
 void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   constexpr int widest_digit = 11;
   Key varying = 0;
   for (std::size_t i = 1; i < count; ++i) varying |= keys[i] ^ keys[0];
   const int width = BitWidth(varying);
-  // Half as many bits again as the count needs leaves few equal runs; signs and exponents of
-  // floating keys take some 14 more that hardly tell keys apart.
+  // One and a half times the bits of the count leave few runs of equal keys. The 14 additional bits
+  // are for the sign and exponent of floating keys, which hardly distinguish keys.
   const int sorted_bits = std::min(width, 3 * BitWidth(count) / 2 + 14);
   if (sorted_bits == 0) return;
   const int passes = (sorted_bits + widest_digit - 1) / widest_digit;
@@ -120,8 +120,8 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   }
 }
 
-// Sorts up to a given number of keys by the method that suits them. Construction allocates all that
-// the sort needs, so that it can fail before a key has moved.
+// Sorts up to a given number of keys. The constructor allocates all memory, so that a failure
+// occurs before a key is moved.
 template <class Key>
 class KeySorter {
  public:

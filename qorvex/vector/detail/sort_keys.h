@@ -1,8 +1,8 @@
 #pragma once
 
-// Unsigned keys in the order of the elements; kKeyMask has the bits that a key may use, so that xor
-// with it turns the order. Sorting keys instead of elements makes floating comparisons integer ones
-// and lets a radix sort read the bits.
+// Maps elements to unsigned keys with the same order, so that floating-point comparisons become
+// integer comparisons and a radix sort can use the bits. kKeyMask has all bits that a key may use:
+// a key xor kKeyMask sorts in the reverse order.
 
 #include <concepts>
 #include <cstdint>
@@ -33,7 +33,7 @@ struct SortKey<T> {
   static T Value(Key key) noexcept { return static_cast<T>(static_cast<Key>(key ^ kFlip)); }
 };
 
-// Amounts sort as their stored integers do.
+// Amounts sort by their stored integers.
 template <CurrencyElement T>
 struct SortKey<T> {
   using Stored = SortKey<typename T::StoredType>;
@@ -47,8 +47,8 @@ struct SortKey<T> {
   static T Value(Key key) noexcept { return T(Stored::Value(key)); }
 };
 
-// IEEE formats are sign and magnitude: negative values flip all bits, others the sign bit. -0 comes
-// before +0.
+// IEEE formats are sign and magnitude: all bits of negative values are flipped, and the sign bit of
+// others. -0 sorts before +0.
 template <class T, class Bits>
 struct IeeeSortKey {
   using Key = Bits;
@@ -72,7 +72,7 @@ struct SortKey<float> : IeeeSortKey<float, std::uint32_t> {};
 template <>
 struct SortKey<double> : IeeeSortKey<double, std::uint64_t> {};
 
-// The extended format has its sign and exponent above an explicit 64-bit mantissa; six bytes of the
+// The extended format has sign and exponent above an explicit 64-bit mantissa; six bytes of the
 // object are padding.
 template <>
 struct SortKey<Extended> {
@@ -109,7 +109,7 @@ struct SortKey<Extended> {
   static constexpr std::uint16_t kSign = 0x8000;
 };
 
-// The strict total order that QSortVector sorts in, NaN left aside.
+// The strict total order of QSortVector, for elements that are not NaN.
 template <class T>
 [[nodiscard]] inline bool SortsBefore(const T& a, const T& b) noexcept {
   return SortKey<T>::Read(&a) < SortKey<T>::Read(&b);

@@ -10,12 +10,13 @@
 
 namespace qorvex::inline QorvexVector::detail {
 
-// Sorts records that hold an element's key above its index, so elements with equal keys stay in the
-// order of their indices. NaN is last in either direction. All memory is allocated at construction.
+// Sorts records with an element's key in the high bits and its index in the low bits, so elements
+// with equal keys stay in the order of their indices. NaN is last in both orders. The constructor
+// allocates all memory.
 template <AnyElement T>
 class SortedIndices {
  public:
-  // element_at(i) refers to the element with the index i.
+  // element_at(i) returns a reference to the element with index i.
   template <class ElementAt>
   SortedIndices(std::size_t count, bool ascending, ElementAt element_at)
       : index_bits_(BitWidth(count)),
@@ -43,7 +44,7 @@ class SortedIndices {
 
   Key DirectedKey(const T& element) const noexcept {
     if constexpr (FloatElement<T>) {
-      // The highest key is a NaN's in both directions.
+      // The largest key is NaN in both orders.
       if (element != element) return Traits::kKeyMask;
     }
     return static_cast<Key>(Traits::Read(&element) ^ direction_);
