@@ -15,8 +15,6 @@ using special::Scaled;
 UniformDistribution::UniformDistribution(Extended least, Extended greatest)
     : least_(least), greatest_(greatest), width_(ExactSum(greatest, -least)) {
   if (least >= greatest) RaiseMathError(rsInvalidValue);
-  RequireFinite(least);
-  RequireFinite(greatest);
   RequireFinite(width_.hi);
 }
 

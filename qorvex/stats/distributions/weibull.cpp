@@ -90,18 +90,16 @@ Extended WeibullDistribution::LnMomentRatio(int n) const {
 }
 
 Extended WeibullDistribution::Mean() const {
-  return AnyNaN(shape_, scale_) ? kNotANumber : Moment(1).Value() * scale_;
+  return Moment(1).Value() * scale_;
 }
 
 Extended WeibullDistribution::Variance() const {
-  if (AnyNaN(shape_, scale_)) return kNotANumber;
   if (shape_ < 0 && shape_ >= -2) return shape_ < -1 ? kInfinite : kNotANumber;
   const Extended mean = Mean();
   return mean * std::expm1(LnMomentRatio(2)) * mean;
 }
 
 Extended WeibullDistribution::Skewness() const {
-  if (AnyNaN(shape_, scale_)) return kNotANumber;
   if (shape_ < 0 && shape_ >= -3) return shape_ < -2 ? kInfinite : kNotANumber;
   const Extended ln_second = LnMomentRatio(2);
   const Extended ln_third = LnMomentRatio(3);
@@ -113,7 +111,6 @@ Extended WeibullDistribution::Skewness() const {
 }
 
 Extended WeibullDistribution::Mode() const {
-  if (AnyNaN(shape_, scale_)) return kNotANumber;
   return shape_ > 0 && shape_ <= 1 ? 0 : scale_ * std::exp(std::log1p(-1 / shape_) / shape_);
 }
 
