@@ -224,7 +224,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// Runs a command, but not in virtual mode, and redisplays, even when it raises.
   void Command(const std::function<void()>& command);
 
-  // Events of the base classes.
+  /// @{
+  /// Events of the base classes.
   void Loaded() override;
   void SettingsChanged() override;
   void DoColorSetChange() override;
@@ -234,6 +235,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  /// @}
 
  private:
   friend struct detail::PanelParts;
