@@ -1,6 +1,6 @@
-# What `cmake --install` puts in place besides the programs: the libraries with their headers, a CMake package with one
-# component a library, and a pkg-config file for each. The install component Runtime is what running a program takes,
-# Devel what building one takes besides.
+# What `cmake --install` installs besides the programs: the libraries with their headers, a CMake package with one
+# component per library, and a pkg-config file for each. The install component Runtime is needed to run a program, Devel
+# to build one.
 
 include(CMakePackageConfigHelpers)
 
@@ -11,7 +11,7 @@ endif()
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Qorvex")
 set(pkgconfig_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 
-# Directories as a pkg-config file sees them from its own place, so that the installed tree can be moved.
+# Directories relative to the pkg-config file, so that the installed tree can be moved.
 file(RELATIVE_PATH PC_PREFIX
   "${CMAKE_INSTALL_FULL_LIBDIR}/pkgconfig" "${CMAKE_INSTALL_PREFIX}")
 string(REGEX REPLACE "/$" "" PC_PREFIX "${PC_PREFIX}")

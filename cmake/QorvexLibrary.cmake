@@ -1,9 +1,9 @@
-# Helpers shared by every target of the build.
+# Helpers for every target of the build.
 
 # The oldest Qt that the components build with.
 set(QORVEX_QT_VERSION 6.4)
 
-# Compiler settings of our own code: warnings, and what the numerics rely on.
+# Compiler settings of our own code: warnings, and options that the numerics depend on.
 function(qorvex_compile_settings target)
   target_compile_features(${target} PUBLIC cxx_std_20)
   set_target_properties(${target} PROPERTIES
@@ -11,7 +11,7 @@ function(qorvex_compile_settings target)
     POSITION_INDEPENDENT_CODE ON
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON)
-  # A project that asks for no optimisation at all, not even for none, would get a library several times slower.
+  # Without this, a project that states no optimisation level would get a library that is several times slower.
   get_directory_property(options COMPILE_OPTIONS)
   if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES
       AND NOT "${CMAKE_CXX_FLAGS};${options}" MATCHES "(^|[ ;])-O")
@@ -20,29 +20,29 @@ function(qorvex_compile_settings target)
   target_compile_options(${target} PRIVATE
     -Wall -Wextra -Wconversion -Wsign-conversion -Wshadow
     $<$<BOOL:${QORVEX_WERROR}>:-Werror>
-    # A fused multiply-add would change the rounding that each routine promises.
+    # A fused multiply-add would change the documented rounding.
     -ffp-contract=off
-    # Our own calls of exported routines are direct ones.
+    # Calls of exported routines within a library are direct.
     -fno-semantic-interposition
-    # Square roots report through their result, never through errno.
+    # Nothing reads errno after a square root.
     -fno-math-errno
-    # Unique symbols would keep a loaded module from being unloaded.
+    # A module with unique symbols cannot be unloaded.
     $<$<CXX_COMPILER_ID:GNU>:-fno-gnu-unique>)
 endfunction()
 
-# Headers of Qt that most sources of widgets include, parsed once a target.
+# Precompiles the Qt headers that most sources of widgets include.
 function(qorvex_precompile_qt target)
   target_precompile_headers(${target} PRIVATE
     <QApplication> <QKeyEvent> <QLineEdit> <QMenu> <QPainter> <QStyle>
     <algorithm> <functional> <memory> <vector>)
 endfunction()
 
-# qorvex_library(<component> [LINK_PUBLIC <targets>]) defines libqorvex_<component>_rt and its alias Qorvex::<component>,
-# ready to install; its rooms add their sources. A component that ends in _rt keeps its name, so stats_rt becomes
-# libqorvex_stats_rt.
+# qorvex_library(<component> [LINK_PUBLIC <targets>]) defines libqorvex_<component>_rt and its alias
+# Qorvex::<component>, ready to install; its rooms add their sources. A component that already ends in _rt keeps its
+# name: stats_rt is libqorvex_stats_rt.
 #
-# The shared-object version is major.minor while the major version is 0, since every minor release may then
-# change the binary interface; from 1.0 on it is the major version alone.
+# While the major version is 0, every minor release may change the binary interface, so the shared-object version is
+# major.minor; from 1.0 on it is the major version alone.
 function(qorvex_library component)
   cmake_parse_arguments(ARG "" "" "LINK_PUBLIC" ${ARGN})
   string(REGEX REPLACE "_rt$" "" stem ${component})
@@ -70,8 +70,8 @@ function(qorvex_library component)
     INSTALL_RPATH "$ORIGIN")
 endfunction()
 
-# qorvex_room(<library target> [EXCEPT <headers>]) adds what is in the calling folder and below it to a library: every
-# source, and every header as one to install, but for those in folders called detail.
+# qorvex_room(<library target> [EXCEPT <headers>]) adds every source in the calling folder and below it to a library,
+# and every header as one to install, except those listed and those in folders called detail.
 function(qorvex_room target)
   cmake_parse_arguments(ARG "" "" "EXCEPT" ${ARGN})
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/*.cpp")

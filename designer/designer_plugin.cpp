@@ -9,7 +9,7 @@
 
 namespace qorvex {
 
-/// All our widgets for Qt Designer and QUiLoader.
+/// Offers the widgets to Qt Designer and QUiLoader.
 class DesignerPlugin final : public QObject, public QDesignerCustomWidgetCollectionInterface {
   Q_OBJECT
   Q_INTERFACES(QDesignerCustomWidgetCollectionInterface)

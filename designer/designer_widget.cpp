@@ -19,14 +19,14 @@ bool IsOurs(const QMetaObject& meta) {
   return QByteArrayView(meta.className()).startsWith("qorvex::");
 }
 
-// The class of Qt that ours derives from.
+// The nearest base class that belongs to Qt.
 const QMetaObject& QtClass(const QMetaObject& meta) {
   const QMetaObject* ancestor = &meta;
   while (IsOurs(*ancestor)) ancestor = ancestor->superClass();
   return *ancestor;
 }
 
-// A loader of forms makes widgets through the plugin too, and so does a preview.
+// Form loaders and previews create widgets through the plugin too.
 bool IsBeingDesigned(const QObject* form_part) {
   while (form_part != nullptr && !form_part->inherits("QDesignerFormWindowInterface")) {
     form_part = form_part->parent();
@@ -34,7 +34,7 @@ bool IsBeingDesigned(const QObject* form_part) {
   return form_part != nullptr;
 }
 
-// TQorUICtrlHolder makes uiCtrlHolder.
+// For example uiCtrlHolder for TQorUICtrlHolder.
 QString FirstObjectName(const QMetaObject& meta) {
   QString name = QString::fromLatin1(meta.className()).section("::", -1).remove(0, 4);
   const auto word_end =
@@ -43,7 +43,7 @@ QString FirstObjectName(const QMetaObject& meta) {
   return name.left(capitals).toLower() + name.mid(capitals);
 }
 
-// Texts that a user of the program reads; others are numbers and names, which no translator sees.
+// Texts that users read. All others are numbers and names, which must not be translated.
 bool IsTranslatable(const QMetaProperty& property) {
   static const QByteArrayList kNames{"Caption", "NullStr"};
   return kNames.contains(property.name());

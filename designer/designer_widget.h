@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// DesignerWidget, what a designer asks about one class of widgets.
+/// DesignerWidget, which describes one class of widgets to Qt Designer.
 
 #include <QIcon>
 #include <QMetaObject>
@@ -10,17 +10,17 @@
 
 namespace qorvex {
 
-/// What the plugin says about a class; the rest comes from its meta-object.
+/// What the plugin states about a class; the rest comes from its meta-object.
 struct WidgetEntry {
   const QMetaObject& meta;
   QString header;
-  QString sign;  ///< What its icon shows, a few characters.
+  QString sign;  ///< The few characters that its icon shows.
   QString tool_tip;
   QWidget* (*create)(QWidget* parent);
 };
 
-/// One class in the group of ours. On a form that is being designed, components without a picture
-/// show themselves.
+/// One class in the group Qorvex. Holders of non-visual components are visible on a form that is
+/// being designed.
 class DesignerWidget final : public QDesignerCustomWidgetInterface {
  public:
   explicit DesignerWidget(WidgetEntry entry) : entry_(std::move(entry)) {}

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # docs/draw_controls.sh: builds the program that draws the controls and writes docs/images/controls/*.png.
-# Needs no screen. The same Qt and the same fonts write the same files again.
+# Needs no display. The same version of Qt and the same fonts always give the same files.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

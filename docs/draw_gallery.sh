@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# docs/draw_gallery.sh: builds the desktop program and lets it write its pictures to docs/images/gallery.
-# Needs no screen. The same Qt and the same fonts write the same files again.
+# docs/draw_gallery.sh: builds the desktop program and writes its pictures to docs/images/gallery.
+# Needs no display. The same version of Qt and the same fonts always give the same files.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 

@@ -1,11 +1,11 @@
 #!/usr/bin/python3
-"""Draws the histograms of docs/random_variates.md from what the command line prints.
+"""Draws the histograms of docs/random_variates.md from the output of qorvex random and qorvex dist.
 
-Needs the Debian package python3-matplotlib, which nothing else here does, and the built program:
+This is the only script that needs matplotlib (the Debian package python3-matplotlib). Build the program first:
 
     docs/draw_variates.py [--program build/release/bin/qorvex] [--format svg] [--folder docs/images]
 
-The same program and the same matplotlib write the same files again.
+With the same versions of the program and matplotlib, the files are identical.
 """
 
 import argparse
@@ -60,7 +60,7 @@ class Program:
 
 
 def draw_bars(axes, left, width, heights, bottom, label):
-    """All bars as one path, which makes the file a third shorter."""
+    """Draws all bars as one path, which makes the file a third smaller."""
     right = left + width
     base = np.full_like(heights, bottom)
     corners = [(left, base), (left, heights), (right, heights), (right, base), (left, base)]
@@ -73,7 +73,7 @@ def draw_continuous(axes, program, arguments, ends, top=None, density=None, bins
     sample = program.sample(arguments)
     counts, edges = np.histogram(sample, bins=bins, range=ends)
     widths = np.diff(edges)
-    # Variates beyond the ends count, though they are not shown.
+    # Variates beyond the ends count, although they are not shown.
     heights = counts / (len(sample) * widths)
     draw_bars(axes, edges[:-1] + 0.05 * widths, 0.9 * widths, np.maximum(heights, bottom), bottom,
               "histogram")
@@ -121,14 +121,14 @@ def draw_discrete(axes, program, arguments, ends):
     axes.set_ylabel("probability")
 
 
-# File name, title, and how the rest of the picture is drawn.
+# File name, title, function that draws the picture, and its arguments.
 PICTURES = [
     ("gamma", "Gamma, shape 2.5", draw_continuous, "gamma --shape 2.5", (0.0, 10.0)),
     ("beta", "Beta, shapes 0.6 and 0.8", draw_continuous, "beta --a 0.6 --b 0.8", (0.0, 1.0), 2.6),
     ("student_t", "Student t, 4 degrees of freedom",
      draw_tails, "student-t --df 4", (-12.0, 12.0), 2e-5),
     ("von_mises", "Von Mises, concentration 2", draw_von_mises, 2),
-    ("binomial", "Binomial, 40 trials of probability 0.3",
+    ("binomial", "Binomial, 40 trials with probability 0.3",
      draw_discrete, "binomial --trials 40 --success-probability 0.3", (1, 24)),
     ("poisson", "Poisson, mean 15", draw_discrete, "poisson --lambda 15", (2, 31)),
 ]

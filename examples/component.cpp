@@ -1,4 +1,4 @@
-// The statistics component outside a form: it tells when its results change.
+// The statistics component without a form. A signal reports every change of its results.
 
 #include <QCoreApplication>
 #include <iostream>
@@ -13,16 +13,16 @@ int main(int argc, char** argv) {
     std::cout << stats.NoOfValues() << " values, mean " << stats.MeanText().toStdString() << '\n';
   });
 
-  // One line a value, as a designer enters them.
+  // One line per value, as entered in Qt Designer.
   stats.setItems({"3.2", "2.9", "3.4"});
   stats.AddValue(3.1L);
 
-  // A batch is computed once, at its end.
+  // Results are computed once, at the end of an update.
   stats.BeginUpdate();
   for (const long double value : {2.8L, 3.0L, 3.6L}) stats.AddValue(value);
   stats.EndUpdate();
 
-  // A line that is no number is refused by name, and the values stay.
+  // The error names a line that is not a number. The values do not change.
   try {
     stats.setItems({"3.2", "three"});
   } catch (const qorvex::EConvertError& error) {

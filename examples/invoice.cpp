@@ -13,7 +13,7 @@ int main() {
   const TQorCurrencyVector prices = {Str2Currency("0.0347"), Str2Currency("12.495"),
                                      Str2Currency("3.335")};
 
-  // A price has four decimals, and so has any whole number of it: nothing rounds here.
+  // A price has four decimals, and so has any multiple of it: nothing is rounded here.
   auto lines = CopyVector(prices);
   for (std::size_t i = 0; i < lines.size(); ++i) lines[i] *= kQuantities[i];
   const TQorCurrVector cents = Vector2QorCurrVector(lines);
@@ -23,10 +23,10 @@ int main() {
               << std::setw(6) << cents[i] << '\n';
   }
 
-  // Two ways to a total in cents: round every line and add, or add the exact lines and round once.
+  // Two ways to compute the total in cents: add rounded lines, or add exact lines and round once.
   const TQorCurrVector net = {SumVector(cents), Currency2QorCurrency(SumVector(lines))};
 
-  // A quarter of whole cents has four decimals at most, so the only rounding is the one to cents.
+  // A quarter of a whole number of cents has at most four decimals, so only the result is rounded.
   auto exact_tax = Vector2QorCurrencyVector(net);
   LinearTransformVector(exact_tax, 0.25L, 0);
   const TQorCurrVector tax = Vector2QorCurrVector(exact_tax);

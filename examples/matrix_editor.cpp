@@ -1,4 +1,4 @@
-// An editor of a matrix in fractions that is inverted, with the diagonal in a colour of its own.
+// An editor of a matrix in fractions with a coloured diagonal. The program inverts the matrix.
 
 #include <QApplication>
 #include <iostream>
@@ -34,7 +34,7 @@ int main(int argc, char** argv) {
   Print(editor);
   editor.Undo();
 
-  // Blocks of a spreadsheet have tabs between their cells.
+  // Spreadsheets separate cells with tabs.
   editor.PasteBlock("1\t2\n3\t1/0\n");
   editor.PasteBlock("2\t4\t0\n1\t2\t1/2\n");
   try {
@@ -46,7 +46,7 @@ int main(int argc, char** argv) {
     std::cout << error.what() << '\n';
   }
 
-  // Without a screen nobody would ever close the window.
+  // Without a screen, the window could never be closed.
   if (QGuiApplication::platformName() == "offscreen") return 0;
   editor.show();
   return application.exec();

@@ -7,7 +7,7 @@
 using namespace qorvex;
 
 int main() {
-  // A stone that falls: seconds, and metres fallen.
+  // A falling stone: seconds, and metres fallen.
   const TQorFloatVector seconds{0.5L, 1.0L, 1.5L, 2.0L, 2.5L};
   const TQorFloatVector metres{1.2L, 4.9L, 11.1L, 19.6L, 30.7L};
   Extended a = 0;
@@ -23,7 +23,7 @@ int main() {
   std::cout << "Parabola: " << Float2EStr(a0, 3) << " + " << Float2EStr(a1, 3) << " t + "
             << Float2EStr(a2, 3) << " t^2\n";
 
-  // Waiting times in minutes, counted in classes from 0 to 5, 5 to 10 and so on.
+  // Waiting times in minutes: the numbers of values from 0 to 5, from 5 to 10 and so on.
   const TQorLWordVector waiting{12, 31, 24, 9, 4};
   const Extended first = 0;
   const Extended width = 5;

@@ -20,7 +20,7 @@ int main() {
             << Float2EStr(q1, 1) << " and " << Float2EStr(q3, 1) << ", trimmed mean "
             << Float2EStr(TrimmedMean(lifetimes, 0.125L), 3) << '\n';
 
-  DescriptiveStats stats;  // keeps every figure current
+  DescriptiveStats stats;  // keeps all figures up to date
   for (const Extended lifetime : lifetimes) stats.AddValue(lifetime);
   stats.DeleteValue(7);  // the outlier, now last
   std::cout << "Without the outlier: mode " << Float2EStr(stats.Results().mode, 0) << ", skewness "

@@ -1,4 +1,4 @@
-// An editor of weighings that tells their mean after every change.
+// An editor of weighings. The program prints their mean after every change.
 
 #include <QApplication>
 #include <iostream>
@@ -20,17 +20,16 @@ int main(int argc, char** argv) {
     std::cout << "Mean " << qorvex::Float2EStr(mean, 3) << " g\n";
   };
   QObject::connect(&editor, &qorvex::TQorVectorEdit::OnChange, report);
-  QObject::connect(
-      &editor, &qorvex::TQorVectorEdit::OnBlockRefused,
-      [](const QString& message) { std::cout << message.toStdString() << '\n'; });
+  QObject::connect(&editor, &qorvex::TQorVectorEdit::OnBlockRefused,
+                   [](const QString& message) { std::cout << message.toStdString() << '\n'; });
   report();
 
-  // What a spreadsheet puts on the clipboard, as Ctrl+V would paste it.
+  // The text that a spreadsheet puts on the clipboard, pasted as by Ctrl+V.
   editor.PasteBlock("10.5\n10,7\n");
   editor.PasteBlock("10.5\n10.7\n");
   editor.Undo();
 
-  // Without a screen nobody would ever close the window.
+  // Without a screen, the window could never be closed.
   if (QGuiApplication::platformName() == "offscreen") return 0;
   editor.show();
   return application.exec();

@@ -1,5 +1,5 @@
-// Whatever the text: only EConvertErrors are raised, a number has the value that the C library
-// finds, an amount is the number rounded, and texts of values give the values back.
+// For any text: only EConvertError is thrown, a number has the value that the C library reads, an
+// amount is the rounded number, and the texts of values are read back as the same values.
 
 #include <algorithm>
 #include <cmath>
@@ -36,15 +36,17 @@ void CheckNumber(const std::string& text) {
     value = Str2Float(text);
   } catch (const EConvertError& error) {
     Require(error.message_id() == rsNotANumber || error.message_id() == rsNumberTooLarge,
-            "another message");
+            "an unexpected message");
     return;
   }
   // The fuzzer runs in the C locale, so the C library reads the same grammar and more.
   char* end = nullptr;
   const Extended expected = std::strtold(text.c_str(), &end);
   Require(Identical(value, expected) || std::isnan(value), "Str2Float and strtold differ");
-  Require(Identical(Str2Float(Float2Str(value)), value), "Float2Str does not come back");
-  Require(Float2EStr(value, text.empty() ? 0 : text[0] % 40) != "", "no text");
+  Require(Identical(Str2Float(Float2Str(value)), value),
+          "the text of Float2Str is read as another value");
+  Require(Float2EStr(value, text.empty() ? 0 : text[0] % 40) != "",
+          "Float2EStr gives an empty text");
 }
 
 void CheckFraction(const std::string& text) {
@@ -53,7 +55,7 @@ void CheckFraction(const std::string& text) {
     fraction = Str2Fraction(text);
   } catch (const EConvertError& error) {
     Require(error.message_id() == rsNotAFraction || error.message_id() == rsNumberTooLarge,
-            "another message");
+            "an unexpected message");
     return;
   }
   Require(fraction.denominator > 0, "the denominator is not positive");
@@ -62,7 +64,7 @@ void CheckFraction(const std::string& text) {
   Require(std::isfinite(value), "the value is not finite");
   for (const TQorFractionDisplay display : {fdMixed, fdImproper}) {
     Require(Str2Fraction(Fraction2Str(fraction, display)) == fraction,
-            "Fraction2Str does not come back");
+            "the text of Fraction2Str is read as another fraction");
   }
 }
 
@@ -71,22 +73,22 @@ void CheckAmount(const std::string& text, C (&read)(std::string_view)) {
   const auto comes_back = [&](C amount) { return read(Currency2EStr(amount)) == amount; };
   typename C::StoredType stored = 0;
   std::memcpy(&stored, text.data(), std::min(sizeof stored, text.size()));
-  Require(comes_back(C(stored)), "Currency2EStr does not come back");
+  Require(comes_back(C(stored)), "the text of Currency2EStr is read as another amount");
 
   Extended number = 0;
   bool is_number = true;
   try {
     number = Str2Float(text) * static_cast<Extended>(C::kScale);
   } catch (const EConvertError& error) {
-    // Beyond the extended range is beyond every amount.
+    // A number beyond the extended range is beyond every amount.
     number = std::numeric_limits<Extended>::infinity();
     is_number = error.message_id() == rsNumberTooLarge;
   }
   constexpr auto limit = static_cast<Extended>(std::numeric_limits<typename C::StoredType>::max());
   try {
     const C amount = read(text);
-    Require(comes_back(amount), "an amount that was read does not come back");
-    // The number was rounded, to at best half a part of the largest amounts, and then scaled.
+    Require(comes_back(amount), "the text of an amount that was read is read as another amount");
+    // The number was rounded, for the largest amounts to no more than half a part, and then scaled.
     Require(std::fabs(static_cast<Extended>(amount.stored()) - number) <= 1.5L,
             "the amount is not the number");
     Require(std::fabs(number) >= 1e9L ||
@@ -96,8 +98,8 @@ void CheckAmount(const std::string& text, C (&read)(std::string_view)) {
     if (error.message_id() == rsNumberTooLarge) {
       Require(is_number && std::fabs(number) > limit - 1, "the amount is not too large");
     } else {
-      Require(error.message_id() == rsNotANumber, "another message");
-      Require(!is_number || !std::isfinite(number), "a number is refused");
+      Require(error.message_id() == rsNotANumber, "an unexpected message");
+      Require(!is_number || !std::isfinite(number), "a finite number is refused");
     }
   }
 }

@@ -1,6 +1,6 @@
-// The first byte chooses the options, the rest is the text. Whatever the text: only InputErrors are
-// raised, the size of blocks changes nothing, what is returned keeps the promises of ReadTable, and
-// ReadMatrix reads exactly the texts that are a table without a header, to the same numbers.
+// The first byte selects the options, the rest is the text. For any text: only InputError is
+// thrown, the block size makes no difference, the result satisfies the contract of ReadTable, and
+// ReadMatrix reads the same texts as ReadTable, to the same numbers.
 
 #include <algorithm>
 #include <cmath>
@@ -36,7 +36,7 @@ TextInput SourceOf(std::string_view text) {
           }};
 }
 
-// Everything that the reader tells, as one text.
+// All results of the reader as one text.
 std::string Account(std::string_view text, std::optional<char> delimiter, std::size_t block_size) {
   std::string account;
   try {
@@ -56,13 +56,13 @@ std::string Account(std::string_view text, std::optional<char> delimiter, std::s
   return account;
 }
 
-// What is read, or nothing when an InputError is raised.
+// The result of read(), or nothing if it throws InputError.
 auto Try(auto read) -> std::optional<decltype(read())> {
   try {
     return read();
   } catch (const InputError& error) {
     Require(std::string_view(error.what()).find('\n') == std::string_view::npos,
-            "a message of two lines");
+            "a message with two lines");
     return std::nullopt;
   }
 }
@@ -74,10 +74,10 @@ void CheckTable(std::string_view text, const TableSelection& selection) {
     Require(!column.values.empty(), "a column without values");
     Require(std::ranges::all_of(column.values, [](long double x) { return std::isfinite(x); }),
             "a value is not finite");
-    Require(column.skipped == 0 || selection.skip_empty, "a cell was skipped");
+    Require(column.skipped == 0 || selection.skip_empty, "a cell was skipped without the option");
     Require(!selection.whole_rows || column.values.size() == table->front().values.size(),
-            "values of different rows have one index");
-    Require(column.Title().find('\n') == std::string::npos, "a title of two lines");
+            "values of different rows have the same index");
+    Require(column.Title().find('\n') == std::string::npos, "a title with two lines");
   }
 }
 
@@ -85,13 +85,14 @@ void CheckMatrix(std::string_view text, std::optional<char> delimiter, bool has_
   const auto matrix = Try([&] { return ReadMatrix(SourceOf(text), {delimiter, has_header}); });
   const TableSelection selection{.delimiter = delimiter, .header = has_header};
   const auto table = Try([&] { return ReadTable(SourceOf(text), selection).columns; });
-  Require(matrix.has_value() == table.has_value(), "only a table or only a matrix");
+  Require(matrix.has_value() == table.has_value(),
+          "only ReadTable or only ReadMatrix accepts the text");
   if (!matrix) return;
   for (const TableColumn& column : *table) {
-    Require(column.values.size() == matrix->size(), "another number of rows");
+    Require(column.values.size() == matrix->size(), "a different number of rows");
     for (std::size_t row = 0; row < matrix->size(); ++row) {
-      Require((*matrix)[row].size() == table->size(), "another number of columns");
-      Require((*matrix)[row][column.number - 1] == column.values[row], "another number");
+      Require((*matrix)[row].size() == table->size(), "a different number of columns");
+      Require((*matrix)[row][column.number - 1] == column.values[row], "a different number");
     }
   }
 }
@@ -107,7 +108,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
   const std::string account = Account(text, delimiter, std::max<std::size_t>(text.size() + 2, 64));
   const std::size_t small_block = 4 + (options >> 3);
-  Require(Account(text, delimiter, small_block) == account, "the size of blocks matters");
+  Require(Account(text, delimiter, small_block) == account, "the block size makes a difference");
 
   TableSelection selection;
   selection.delimiter = delimiter;

@@ -2,12 +2,12 @@
 # scripts/setup.sh programs|tests|benchmarks [target...]: installs the Debian packages that are missing, configures
 # build/release and builds the targets.
 #
-#   programs    what ./run takes: the command line and the desktop program, nothing else is installed or configured
-#   tests       all but the benchmarks whose peers are missing (default: every target)
-#   benchmarks  with the peers that the benchmarks compare with
+#   programs    only what ./run needs: the command line and the desktop program
+#   tests       everything except benchmarks whose peers are missing (default: every target)
+#   benchmarks  everything, with the peers that the benchmarks compare with
 #
-# Logs go to build/, a failing step shows the end of its own. It may be interrupted and run again at any time; with
-# nothing to install it needs no network. A directory that is configured for tests stays so.
+# Logs go to build/; a failing step shows the end of its log. The script can be interrupted and run again at any time,
+# and needs no network if nothing is missing. A build directory that is configured for tests stays so.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
@@ -17,17 +17,17 @@ packages=(
   libboost-dev       # the special functions, headers only
   qt6-base-dev       # the components, and threads for the desktop program
   libcli11-dev       # the command line
-  fonts-dejavu-core  # what pictures and the tests of widgets draw with
+  fonts-dejavu-core  # the font of pictures and widget tests
 )
 parts=(-D QORVEX_BENCHMARKS=ON -D QORVEX_DESIGNER=ON -D QORVEX_EXAMPLES=ON -D QORVEX_TESTS=ON
   -D QORVEX_TRANSLATIONS=ON)
 test_packages=(
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # translations, and the plugin of Qt Designer
-  libqt6opengl6-dev  # what qt6-tools-dev expects of programs that load forms
+  libqt6opengl6-dev  # needed by qt6-tools-dev for programs that load forms
   libgtest-dev
-  libfmt-dev         # the formatter of amounts
-  pkg-config         # programs that find the library with it
-  doxygen            # the check of the documentation
+  libfmt-dev         # tests of formatting amounts
+  pkg-config         # tests of installed libraries
+  doxygen            # tests of the documentation
 )
 case $purpose in
   programs)
@@ -63,11 +63,11 @@ step() {
 }
 
 is_installed() {
-  # One line an architecture.
+  # One line per architecture.
   dpkg-query --show --showformat='${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed
 }
 
-# The lists may be out of date or missing; whether they serve shows when the packages are fetched.
+# An update that fails does not matter if the old lists still work.
 apt_install() {
   local as_root=(env DEBIAN_FRONTEND=noninteractive)
   [[ $(id -u) == 0 ]] || as_root=(sudo "${as_root[@]}")
@@ -79,7 +79,7 @@ apt_install() {
 install_missing() {
   local missing=() package
   if ! command -v dpkg-query >/dev/null; then
-    printf 'Not a Debian system: expecting what these packages hold: %s\n' "${packages[*]}"
+    printf 'Not a Debian system; assuming that the contents of these packages are installed: %s\n' "${packages[*]}"
     return
   fi
   for package in "${packages[@]}"; do
@@ -87,21 +87,21 @@ install_missing() {
   done
   [[ ${#missing[@]} == 0 ]] && return
   if [[ $(id -u) != 0 ]] && ! command -v sudo >/dev/null; then
-    printf 'Missing packages, and neither root nor sudo to install them: %s\n' "${missing[*]}" >&2
+    printf 'Missing packages, and no root or sudo to install them: %s\n' "${missing[*]}" >&2
     return 1
   fi
   step packages.log "Installing ${missing[*]}" apt_install "${missing[@]}"
 }
 
-# The launcher of the compiler: ccache where it is there. It fails, and every compilation with it, where it cannot write
-# its files; and it keeps what was compiled with precompiled headers only when told so.
+# The compiler launcher: ccache if it is installed and can write its directory (otherwise every compilation would fail).
+# It caches compilations with precompiled headers only with these settings.
 usable_ccache() {
   local directory
   directory=$(ccache --get-config cache_dir 2>/dev/null) && mkdir -p "$directory" && [[ -w $directory ]] &&
     echo 'cmake;-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros;ccache'
 }
 
-# A build directory that was copied from elsewhere, or half made, is configured afresh.
+# A build directory that was copied or is incomplete is configured from scratch.
 configure() {
   local options=(--preset release -D CMAKE_CXX_COMPILER_LAUNCHER="$(usable_ccache)") changed=("${parts[@]}")
   [[ $purpose == programs && -f build/release/CMakeCache.txt ]] && changed=()

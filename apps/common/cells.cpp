@@ -20,7 +20,7 @@ namespace {
          Excerpt(cell) + " is not an amount: digits with at most four decimals");
 }
 
-// Whether the cell, if it is a number, is one that Str2Currency does not round.
+// Whether Str2Currency would read the cell, if it is a number, without rounding.
 bool IsWrittenAsAmount(std::string_view cell) {
   if (cell.find_first_of("eE") != std::string_view::npos) return false;
   const std::size_t point = cell.find('.');

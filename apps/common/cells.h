@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Numbers in the cells of rows, and what is said of rows and cells that are not as they should be.
+/// Numbers in cells, and the errors for cells and rows that cannot be used.
 
 #include <cstddef>
 #include <string>
@@ -14,11 +14,11 @@
 
 namespace qorvex::apps {
 
-/// Whether the text is a number, even one beyond the range of extended precision, or "nan" or
-/// "inf".
+/// Whether the text is a number. Numbers beyond the range of extended precision, "nan" and "inf"
+/// count.
 [[nodiscard]] bool IsNumber(std::string_view text);
 
-/// Whether the cell is neither empty nor a number, as the names in a header are.
+/// Whether the cell is neither empty nor a number, like a name in a header.
 [[nodiscard]] bool IsText(std::string_view cell);
 
 /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
@@ -27,32 +27,32 @@ namespace qorvex::apps {
 /// "1 cell", "2 cells".
 [[nodiscard]] std::string Cardinal(std::size_t count, const char* noun);
 
-/// Where a cell stands.
+/// The position of a cell.
 struct CellPlace {
   const std::string& input;
   std::size_t line;
-  /// Its column, from 1, and that column's name, if it has one.
+  /// The number of its column, from 1, and the name of that column, if any.
   std::size_t column;
   std::string_view column_name = {};
 };
 
-/// The number in a cell, converted by Str2Float, so to 80 bits. Raises InputError, which tells the
-/// place: kEmptyCell; kNotANumber, also for infinities and NaN, which are no data; kOutOfRange.
+/// The number in a cell, converted to 80 bits by Str2Float. Throws InputError with the position of
+/// the cell: kEmptyCell; kNotANumber, also for infinities and NaN; kOutOfRange.
 [[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place);
 
 /// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
-/// would have to be rounded, and whoever wrote an exponent most likely rounded already. Raises
-/// InputError, which tells the place: kEmptyCell, kNotANumber, kOutOfRange.
+/// would have to be rounded, and a program that writes an exponent has probably rounded already.
+/// Throws InputError with the position of the cell: kEmptyCell, kNotANumber, kOutOfRange.
 [[nodiscard]] Currency AmountIn(std::string_view cell, const CellPlace& place);
 
-/// Raises InputError (kEmptyCell), as NumberIn does.
+/// Throws the same InputError (kEmptyCell) as NumberIn.
 [[noreturn]] void RefuseEmptyCell(const CellPlace& place);
 
-/// Raises InputError (kMalformed) unless the row has as many cells as the first one, which started
-/// on the line given.
+/// Throws InputError (kMalformed) unless the row has as many cells as the first one, which started
+/// on first_line.
 void RequireWidth(const RowReader& rows, std::size_t width, std::size_t first_line);
 
-/// Reads the first row; raises InputError (kNoValues) when there is none.
+/// Reads the first row. Throws InputError (kNoValues) if the text has no rows.
 void RequireFirstRow(RowReader& rows);
 
 }  // namespace qorvex::apps

@@ -19,7 +19,7 @@ bool ShowsADigit(Extended figure, int decimals) {
 HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int decimals) {
   constexpr Extended epsilon = std::numeric_limits<Extended>::epsilon();
   const auto count = static_cast<Extended>(n);
-  // What rounding in the sum can leave of a mean of 0, and of deviations from it.
+  // The error that rounding in the sum can cause in the mean and in deviations from it.
   const Extended noise = count * epsilon * std::sqrt(results.sum_sq / count);
 
   HiddenFigures hidden;
@@ -34,7 +34,7 @@ HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int dec
   look_at(results.mean, noise);
   look_at(results.std_dev, noise);
   look_at(results.variance, noise * noise);
-  // No sum that cancels is behind these.
+  // These are not computed from sums in which terms could cancel.
   const Extended mode = results.mode_exists ? results.mode : 0;
   for (const Extended figure :
        {results.sum_sq, results.median, mode, results.minimum, results.maximum,

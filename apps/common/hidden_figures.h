@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Figures of a report that its decimals leave no digit of.
+/// Figures that a report rounds to zero.
 
 #include <cstddef>
 
@@ -9,16 +9,17 @@
 
 namespace qorvex::apps {
 
+/// How many figures a report hides, and how to see them.
 struct HiddenFigures {
-  /// How many figures are not zero and show zeros only.
+  /// The number of figures that are not zero but are printed as zero.
   std::size_t count = 0;
-  /// The decimals that show four digits of the smallest of them; 0 without any.
+  /// The decimals that show four digits of the smallest of these; 0 if there are none.
   int enough_decimals = 0;
 };
 
-/// What a report with that many decimals hides of a sample of n values. Skewness and kurtosis do
-/// not count, since they have no unit that could be too large; nor does what rounding can leave of
-/// a sum, mean, variance or standard deviation that is 0.
+/// The figures of a sample of n values that a report with that many decimals hides. Skewness and
+/// kurtosis are not checked, because they do not depend on the unit of the values. A sum, mean,
+/// variance or standard deviation is ignored if rounding errors explain that it is not 0.
 [[nodiscard]] HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n,
                                      int decimals);
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What is wrong with the text that a program was given.
+/// InputError, a fault in the input of a program.
 
 #include <cstddef>
 #include <stdexcept>
@@ -10,20 +10,20 @@
 
 namespace qorvex::apps {
 
-/// The kind of fault, so that a command can say which of its options helps.
+/// The kind of fault. A command uses it to suggest an option.
 enum class InputFault {
   kUnreadable,      ///< the file cannot be opened or read
-  kMalformed,       ///< quotes, ragged rows, rows without end, another encoding
+  kMalformed,       ///< wrong quotes, ragged or endless rows, wrong encoding
   kNoValues,        ///< no row, or no value in a column
-  kNoSuchColumn,    ///< a column that is not there, or whose name is not unique
-  kTextInFirstRow,  ///< text where a finite number belongs and a header may stand
-  kNotANumber,      ///< text where a finite number or an amount belongs
-  kEmptyCell,       ///< nothing where a number belongs
-  kOutOfRange,      ///< numbers or amounts beyond their range, or whose results are
-  kNoResult,        ///< no inverse, no product, or parameters that a distribution refuses
+  kNoSuchColumn,    ///< a column that does not exist, or whose name is ambiguous
+  kTextInFirstRow,  ///< text instead of a finite number, where a header may be
+  kNotANumber,      ///< text instead of a finite number or an amount
+  kEmptyCell,       ///< no text where a number is needed
+  kOutOfRange,      ///< numbers, amounts or results beyond their range
+  kNoResult,        ///< no inverse, no product, or parameters outside the domain
 };
 
-/// A fault of the input. The text reads "name: what" or "name:line: what".
+/// A fault in the input. The text is "name: what" or "name:line: what".
 class InputError : public std::runtime_error {
  public:
   InputError(InputFault fault, const std::string& text) : std::runtime_error(text), fault_(fault) {}
@@ -36,10 +36,10 @@ class InputError : public std::runtime_error {
   InputFault fault_;
 };
 
-/// The text on one line: control characters become escapes (\n, \t, \x1B), everything else stays.
+/// The text on one line: control characters become escapes (\n, \t, \x1B).
 [[nodiscard]] std::string OnOneLine(std::string_view text);
 
-/// The text in double quotes, on one line, cut after 40 bytes.
+/// The text in double quotes, on one line, truncated after 40 bytes.
 [[nodiscard]] std::string Excerpt(std::string_view text);
 
 }  // namespace qorvex::apps

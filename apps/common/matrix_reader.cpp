@@ -13,7 +13,7 @@ namespace qorvex::apps {
 
 namespace {
 
-// Where a header may have been forgotten, so that a program can say what to do about one.
+// A fault of its own, because the option for a header may have been forgotten.
 void RefuseText(const RowReader& rows) {
   const auto text = std::ranges::find_if(rows.Cells(), IsText);
   if (text == rows.Cells().end()) return;

@@ -10,27 +10,25 @@
 
 namespace qorvex::apps {
 
-/// How a matrix is written.
+/// The format of a matrix.
 struct MatrixLayout {
-  /// As for RowReader: nothing detects it, a blank is any run of spaces and tabs.
+  /// As for RowReader: detected if not set; a space stands for any run of spaces and tabs.
   std::optional<char> delimiter = {};
-  /// Whether the first row holds names, to be skipped.
+  /// Whether to skip the first row, which contains names.
   bool has_header = false;
 };
 
 /// Reads a matrix: one row for each row of the text, one element for each cell.
 ///
-/// Cells are converted by Str2Float, so to 80 bits; infinities and NaN are no data. Nothing guesses
-/// a header, since a damaged number would silently cost a row. Blank lines before the first row and
-/// after the last count for nothing.
-///
-/// Raises InputError for what RowReader refuses; kNoValues for a text without rows, or with nothing
-/// but a header; kMalformed for a row, or a header, that is not as long as the others and for a
-/// blank line between rows; kTextInFirstRow for a first row with a cell that is neither empty nor a
-/// number; kEmptyCell, kNotANumber and kOutOfRange for another cell. Otherwise the matrix is
-/// rectangular, with at least one element. The first line at fault is the one that is reported.
-///
-/// Memory: 16 bytes an element, and some 60 a row.
+/// - Cells are converted to 80 bits by Str2Float; infinities and NaN are refused.
+/// - A header is never guessed, because a row with a damaged number would be lost without notice.
+/// - Blank lines before the first row and after the last are ignored.
+/// - The result is rectangular and has at least one element.
+/// - Throws InputError for the first faulty line: for what RowReader refuses; kNoValues for a text
+///   without rows below the header; kMalformed for rows (or a header) of different lengths and for
+///   a blank line between rows; kTextInFirstRow for text in the first row; kEmptyCell, kNotANumber
+///   and kOutOfRange for other cells.
+/// - Memory: 16 bytes per element and about 60 per row.
 [[nodiscard]] TQorFloatMatrix ReadMatrix(TextInput input, const MatrixLayout& layout);
 
 }  // namespace qorvex::apps

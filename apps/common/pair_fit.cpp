@@ -13,7 +13,7 @@ namespace qorvex::apps {
 
 namespace {
 
-// The number of different values, but at most enough.
+// The number of different values, counted up to enough.
 std::size_t DifferentValues(const TQorFloatVector& values, std::size_t enough) {
   std::vector<Extended> different;
   for (const Extended value : values) {
@@ -23,7 +23,7 @@ std::size_t DifferentValues(const TQorFloatVector& values, std::size_t enough) {
   return different.size();
 }
 
-// The figures of others would be rounding residue.
+// With fewer different x, the figures would consist of rounding errors.
 void RequireDifferentX(const TQorFloatVector& x, std::size_t degree) {
   const std::size_t needed = degree + 1;
   if (DifferentValues(x, needed) == needed) return;
@@ -38,8 +38,8 @@ void RequireDifferentX(const TQorFloatVector& x, std::size_t degree) {
       "the values are too large; their sums are beyond the range of extended precision");
 }
 
-// A column as numbers near zero that spread over 1 to 2: values / 2^exponent - offset. With a whole
-// offset that is exact, unless the column mixes large numbers with far smaller ones.
+// A column scaled to a range of 1 to 2 about zero: values / 2^exponent - offset. The offset is
+// whole, so this is exact unless the column mixes large numbers with far smaller ones.
 struct ScaledColumn {
   TQorFloatVector values;
   int exponent;
@@ -76,7 +76,7 @@ std::vector<Extended> ScaledCoefficients(const ScaledColumn& x, const ScaledColu
   return c;
 }
 
-// From a polynomial in the scaled x that gives scaled y.
+// The coefficients of the polynomial in the original units.
 std::vector<Extended> Coefficients(std::vector<Extended> c, const ScaledColumn& x,
                                    const ScaledColumn& y) {
   for (std::size_t i = 0; i + 1 < c.size(); ++i) {
@@ -119,8 +119,8 @@ bool AllFinite(const PairFit& fit) {
 
 }  // namespace
 
-// All but the means comes from the scaled columns, so that digits which the values share cost none
-// and their size does not matter.
+// Everything except the means is computed from the scaled columns, so that neither a large offset
+// nor the magnitude of the values costs digits.
 PairFit FitPairs(const TQorFloatVector& x_values, const TQorFloatVector& y_values,
                  std::size_t degree) {
   RequireDifferentX(x_values, degree);
@@ -140,7 +140,7 @@ PairFit FitPairs(const TQorFloatVector& x_values, const TQorFloatVector& y_value
               .correlation = {},
               .determination = {}};
   if (DifferentValues(y.values, 2) == 2) {
-    // Rounding may leave a little more than 1.
+    // Rounding errors can push it slightly above 1.
     const Extended correlation = std::clamp<Extended>(CoeffCorrelation(x.values, y.values), -1, 1);
     fit.correlation = correlation;
     fit.determination = degree == 1 ? correlation * correlation

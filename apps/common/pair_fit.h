@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// A line or a parabola through pairs of numbers, whatever their size and the digits they share.
+/// Least-squares lines and parabolas through pairs of numbers of any magnitude and offset.
 
 #include <cstddef>
 #include <optional>
@@ -12,14 +12,14 @@
 
 namespace qorvex::apps {
 
-/// Why there is no curve through the pairs.
+/// Why a fit fails.
 enum class PairFitFault {
   kTooFewDifferentX,  ///< A line needs two different x, a parabola three.
-  kNearlyTwoPlaces,   ///< The x of a parabola lie too close to only two places.
+  kNearlyTwoPlaces,   ///< The x are too close to only two places for a parabola.
   kTooLarge           ///< Sums are beyond the range of extended precision.
 };
 
-/// A fault of the pairs, in words.
+/// A failed fit.
 class PairFitError : public std::runtime_error {
  public:
   PairFitError(PairFitFault fault, const char* text) : std::runtime_error(text), fault_(fault) {}
@@ -30,19 +30,22 @@ class PairFitError : public std::runtime_error {
   PairFitFault fault_;
 };
 
-/// A curve through pairs and what it leaves.
+/// A fitted curve and its statistics.
 struct PairFit {
   Extended mean_x, mean_y;
   Extended std_dev_x, std_dev_y;
   Extended covariance;
-  std::vector<Extended> coefficients;  ///< Of 1, x, x^2.
+  std::vector<Extended> coefficients;  ///< Of 1, x and x^2.
   Extended sse;                        ///< The sum of the squared errors.
-  /// Without a value when the y are all the same.
+  /// Empty if all y are equal.
   std::optional<Extended> correlation, determination;
 };
 
-/// The least-squares polynomial of degree 1 or 2 through pairs of finite numbers, as many x as y.
-/// Raises PairFitError; every figure is finite otherwise. O(n).
+/// The least-squares polynomial of degree 1 or 2 through pairs of finite numbers.
+///
+/// - There are as many x as y. All figures of the result are finite.
+/// - Throws PairFitError.
+/// - O(n).
 [[nodiscard]] PairFit FitPairs(const TQorFloatVector& x, const TQorFloatVector& y,
                                std::size_t degree);
 

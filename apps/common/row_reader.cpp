@@ -54,7 +54,8 @@ char RowReader::DetectDelimiter() {
   char previous = '\n';
   for (std::size_t offset = 0; begin_ + offset < end_ || Refill(); ++offset) {
     const char c = buffer_[begin_ + offset];
-    // Only at the start of a cell, or right after a quote that it doubles, does a quote open.
+    // A quote opens a quoted cell only at the start of a cell or right after the quote that it
+    // doubles.
     constexpr std::string_view before_quote = "\n\" \t,;";
     if (c == '"') {
       in_quotes = !in_quotes && before_quote.find(previous) != std::string_view::npos;
@@ -74,14 +75,14 @@ char RowReader::DetectDelimiter() {
   return tab ? '\t' : ' ';
 }
 
-// Moves the unread bytes to the front and reads until the buffer is full. False at the text's end.
+// Moves the unread bytes to the front and fills the buffer. Returns false at the end of the text.
 bool RowReader::Refill() {
   if (input_ended_) return false;
   const std::size_t unread = end_ - begin_;
   std::memmove(buffer_.data(), buffer_.data() + begin_, unread);
   begin_ = 0;
   end_ = unread;
-  // One byte is kept for the line end that the last line may lack.
+  // One byte is reserved for the end of the last line, which may be missing.
   if (end_ + 1 == buffer_.size()) {
     if (buffer_.size() >= kLongestRow) {
       FailAt(buffer_.data(),
@@ -94,12 +95,12 @@ bool RowReader::Refill() {
     end_ += count;
     input_ended_ = count == 0;
   }
-  // After a line that has its own end this adds a blank line, which counts for nothing here.
+  // If the last line has an end, this adds a blank line, which is ignored at the end of the text.
   if (input_ended_) buffer_[end_++] = '\n';
   return true;
 }
 
-// Reads one line, or several when quotes hold line breaks, into cells_; a blank line gives none.
+// Reads one line, or several if quotes contain line breaks, into cells_; a blank line has no cells.
 bool RowReader::ReadLine() {
   line_ = next_line_;
   while (!ScanRow()) {
@@ -109,8 +110,8 @@ bool RowReader::ReadLine() {
   return true;
 }
 
-// False when the row does not end within the buffer. It is then scanned again after a refill: one
-// more row for each block, and one more pass for each doubling of the buffer under a long row.
+// Returns false if the row does not end within the buffer. It is scanned again after a refill,
+// which costs one row per block, and one pass over a long row each time the buffer doubles.
 bool RowReader::ScanRow() {
   cells_.clear();
   cells_with_doubled_quotes_.clear();
@@ -134,8 +135,8 @@ bool RowReader::ScanRow() {
   return true;
 }
 
-// The scans give the position of the delimiter or line feed that ends a cell, and append the cell;
-// null, or the buffer's end from EndOfPlainCell, when that is not in the buffer.
+// The scanning functions append a cell and return the position of the delimiter or line feed that
+// ends it. If that is not in the buffer, they return null, EndOfPlainCell the end of the buffer.
 const char* RowReader::EndOfPlainCell(const char* at) const {
   const char* const end = End();
   for (;; ++at) {
@@ -154,7 +155,7 @@ const char* RowReader::ScanPlainCell(const char* at) {
   std::string_view text(cell, at);
   if (*at == '\n' && text.ends_with('\r')) text.remove_suffix(1);
   while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  // Blanks before the line end separate no further cell.
+  // Blanks before the end of a line do not start another cell.
   if (!delimiter_is_blank_ || !text.empty()) cells_.push_back(text);
   return at;
 }
@@ -191,7 +192,7 @@ const char* RowReader::SkipBlanks(const char* at) const {
   return at;
 }
 
-// In place, once the row is complete and no scan will see its bytes again.
+// Works in place, after the row is complete and will not be scanned again.
 void RowReader::JoinDoubledQuotes() {
   for (const std::size_t index : cells_with_doubled_quotes_) {
     std::string_view& cell = cells_[index];

@@ -17,32 +17,34 @@
 namespace qorvex::apps {
 
 /// Reads delimited text (RFC 4180, or columns separated by blanks) row by row, in large blocks,
-/// without copying cells.
+/// without copying cells. Blanks are spaces and tabs.
 ///
-/// - Lines end with LF or CR LF; the last may lack its end. Outside quotes, a CR with text right
-///   behind it is taken for a line end of its own and refused. A UTF-8 byte order mark is skipped.
-/// - A blank as the delimiter stands for any run of spaces and tabs, and none around a line counts.
-/// - A cell that starts with a double quote ends at the next single one. Inside, two quotes mean
-///   one, and delimiters and line breaks are text. A quote further inside a cell is text.
+/// - Lines end with LF or CR LF; the end of the last line may be missing. Outside quotes, a CR
+///   without LF is refused. A UTF-8 byte order mark is skipped.
+/// - The delimiter ' ' stands for any run of blanks; blanks at both ends of a line are ignored.
+/// - A cell that starts with a double quote ends at the next quote that is not doubled. Within it,
+/// a
+///   doubled quote stands for one quote, and delimiters and line breaks are text. In other cells, a
+///   quote is text.
 /// - Blanks around quotes and around unquoted cells are ignored.
-/// - Blank lines are no rows, but are counted, so that a caller can tell a gap from the end.
+/// - Blank lines are not rows. They are counted, so that the caller can detect gaps between rows.
 ///
-/// Memory: one block, or twice the longest row when that is longer.
+/// Memory: one block, or twice the longest row if that is longer.
 class RowReader {
  public:
   static constexpr std::size_t kBlockSize = std::size_t{1} << 18;
-  /// A longer row is refused: most likely a quote is missing, and reading on would only fill the
-  /// memory.
+  /// Longer rows are refused: most likely a closing quote is missing, and the rest of the file
+  /// would be read into memory.
   static constexpr std::size_t kLongestRow = std::size_t{1} << 26;
 
-  /// Without a delimiter, the first line that is not blank decides: a comma, else a semicolon, else
-  /// a tab that stands outside quotes in it, else blanks.
+  /// Without a delimiter, it is the comma, else the semicolon, else the tab, if the first line that
+  /// is not blank contains one outside quotes; otherwise blanks.
   explicit RowReader(TextInput input, std::optional<char> delimiter = std::nullopt,
                      std::size_t block_size = kBlockSize);
 
-  /// Reads the next row; false at the end of the text. Raises InputError (kMalformed) for a quote
-  /// that is not closed, for text after a closing quote, for lines that end with CR alone, for a
-  /// row beyond kLongestRow and for UTF-16; and what the input raises.
+  /// Reads the next row; returns false at the end of the text. Throws InputError (kMalformed) for a
+  /// quote that is not closed, for text after a closing quote, for lines that end with CR alone,
+  /// for rows longer than kLongestRow and for UTF-16. Exceptions of the input pass through.
   bool Next();
 
   /// The cells of the row, at least one. Valid until the next call of Next.
@@ -72,7 +74,7 @@ class RowReader {
   bool delimiter_is_blank_ = false;
   std::array<bool, 256> ends_plain_cell_{};
 
-  // The bytes from begin_ to end_ are not read yet; a row that is being read starts at begin_.
+  // The bytes from begin_ to end_ have not been read; the row that is being read starts at begin_.
   std::vector<char> buffer_;
   std::size_t begin_ = 0;
   std::size_t end_ = 0;

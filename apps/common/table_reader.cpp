@@ -58,7 +58,8 @@ std::size_t FindColumn(const std::string& chosen, std::span<const std::string> n
   return number - 1;
 }
 
-// The positions, from 0, of the chosen columns, each once; of all columns when none is chosen.
+// The positions, from 0, of the chosen columns without duplicates; of all columns if none is
+// chosen.
 std::vector<std::size_t> ChosenColumns(std::span<const std::string> chosen,
                                        std::span<const std::string> names, std::size_t width,
                                        const std::string& input_name) {
@@ -93,7 +94,7 @@ class ColumnCollector {
 
   [[nodiscard]] bool HasHeader() const { return !header_.empty(); }
 
-  // The blank lines before the row, then the row.
+  // Adds the blank lines before the row, then the row.
   void AddRow() {
     const std::size_t first_blank = rows_.Line() - rows_.BlankLines();
     for (std::size_t line = first_blank; line < rows_.Line(); ++line) SkipRow(line);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Where text comes from.
+/// Sources of text.
 
 #include <cstddef>
 #include <functional>
@@ -9,19 +9,19 @@
 
 namespace qorvex::apps {
 
-/// A text to read once, from front to back.
+/// A text that is read once, from start to end.
 struct TextInput {
   /// The name in messages.
   std::string name;
-  /// Fills the front of the buffer and gives the number of bytes; 0 only at the end of the text.
-  /// Raises InputError.
+  /// Reads bytes into the buffer and returns how many; 0 only at the end of the text. Throws
+  /// InputError.
   std::function<std::size_t(char* buffer, std::size_t size)> read;
 };
 
-/// The name in messages of the file at the path; "-" is standard input.
+/// The name of a file in messages; "-" is standard input.
 [[nodiscard]] std::string InputName(const std::string& path);
 
-/// The file at the path, or standard input for "-". Raises InputError when it cannot be opened.
+/// Opens a file, or standard input for "-". Throws InputError if it cannot be opened.
 [[nodiscard]] TextInput OpenTextInput(const std::string& path);
 
 }  // namespace qorvex::apps

@@ -1,4 +1,4 @@
-// qorvex-gallery [FILE]: shows what Qorvex does, in a window.
+// qorvex-gallery [FILE]: statistics, matrices, distributions and random variates in a window.
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -13,7 +13,7 @@
 
 namespace {
 
-// The same pictures on every machine that has the font.
+// Makes the pictures the same on every machine that has the font.
 void FixAppearance() {
   QLocale::setDefault(QLocale(QLocale::English));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
@@ -25,9 +25,9 @@ void FixAppearance() {
 int main(int argc, char** argv) {
   const QCommandLineOption screenshot(
       QStringLiteral("screenshot"),
-      QStringLiteral("Write a picture of each page to the directory instead; needs no screen."),
+      QStringLiteral("Write a picture of each page to the directory and exit; needs no display."),
       QStringLiteral("directory"));
-  const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Begin in dark colours."));
+  const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Start in dark colours."));
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Statistics, matrices, distributions and random variates in 80-bit "
@@ -38,7 +38,7 @@ int main(int argc, char** argv) {
   parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("Delimited text to open."),
                                QStringLiteral("[file]"));
 
-  // The platform is chosen before there is an application to ask for its arguments.
+  // The platform has to be chosen before the application, which handles the arguments, exists.
   QStringList arguments;
   for (int i = 0; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
   parser.parse(arguments);

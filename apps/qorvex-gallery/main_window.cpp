@@ -23,7 +23,7 @@ namespace qorvex::gallery {
 
 namespace {
 
-// The file that is dragged; empty for anything but one.
+// The path of the dragged file; empty unless exactly one file is dragged.
 QString DraggedFile(const QDropEvent& event) {
   const QList<QUrl> urls = event.mimeData()->urls();
   return urls.size() == 1 ? urls.front().toLocalFile() : QString();
@@ -85,7 +85,7 @@ void MainWindow::MakeMenus() {
   help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
 }
 
-// A star stands for changes that have not been saved.
+// A star marks unsaved changes.
 void MainWindow::ShowTitle() {
   setWindowTitle(tr("%1[*] – Qorvex Gallery").arg(data_->Title()));
   setWindowModified(data_->IsChanged());
@@ -115,7 +115,7 @@ void MainWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void MainWindow::dropEvent(QDropEvent* event) {
   event->acceptProposedAction();
-  // The program that the file comes from waits until this is done, and Open may ask a question.
+  // The program that the file comes from waits until this returns, and Open may ask a question.
   QMetaObject::invokeMethod(
       this, [this, file = DraggedFile(*event)] { Open(file); }, Qt::QueuedConnection);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// MainWindow, the pages of the program.
+/// MainWindow, the window of the program.
 
 #include <QMainWindow>
 #include <QString>
@@ -12,7 +12,8 @@ namespace qorvex::gallery {
 
 class DataPage;
 
-/// The pages behind tabs. A file that is opened or dropped goes to the page of data.
+/// The pages of the program in tabs. Files that are opened or dropped are shown on the page of
+/// data.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -20,10 +21,10 @@ class MainWindow : public QMainWindow {
   explicit MainWindow(QWidget* parent = nullptr);
   ~MainWindow() override;
 
-  /// Shows the file on the page of data.
+  /// Opens a file on the page of data.
   void Open(const QString& path);
 
-  /// The pages, each with the name of its picture as objectName.
+  /// The pages. The object name of a page is the name of its picture.
   [[nodiscard]] QTabWidget* Pages() const { return pages_; }
 
  protected:

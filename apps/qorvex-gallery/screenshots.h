@@ -9,8 +9,8 @@ namespace qorvex::gallery {
 
 class MainWindow;
 
-/// Writes a picture of the window with each page to <directory>/<page>.png and prints the files'
-/// names. False, with a remark on standard error, when one cannot be written.
+/// Writes a picture of the window with each page to <directory>/<page>.png and prints the file
+/// names. If a file cannot be written, reports that on standard error and returns false.
 bool WriteScreenshots(MainWindow& window, const QString& directory);
 
 }  // namespace qorvex::gallery

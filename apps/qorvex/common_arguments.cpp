@@ -10,19 +10,19 @@ namespace qorvex::apps {
 const char* const kTextHelp = R"(
   The delimiter is the comma, semicolon or tab (the first of these three that the
   first line contains outside quotes), otherwise any run of blanks.
-  Cells may be quoted: "1.5", "a, b", "say ""hello""", also across lines.
+  Cells may be quoted: "1.5", "a, b", "say ""hello""", even across lines.
   UTF-8 with or without byte order mark; lines end with LF or CR LF.
-  Numbers have a decimal point and an optional exponent and are read to 80 bits
-  (64 bits of mantissa), correctly rounded, under every locale. Infinities and
-  NaN are refused. There are no comments.)";
+  Numbers have a decimal point and an optional exponent, whatever the locale. They
+  are rounded correctly to 80 bits (64 bits of mantissa). Infinities and NaN are
+  refused. There is no syntax for comments.)";
 
 const char* const kExitStatusHelp = R"(
 
 Exit status:
-  0 success; 2 wrong usage or bad input; 1 anything else.)";
+  0 success; 2 wrong usage or bad input; 1 any other failure.)";
 
-const char* const kNothingPrintedHelp = R"( Nothing is printed on
-  standard output unless all input is good.)";
+const char* const kNothingPrintedHelp = R"( Nothing is
+  printed on standard output unless all input is valid.)";
 
 namespace {
 
@@ -42,7 +42,7 @@ char ParseDelimiter(const std::string& text) {
   return text[0];
 }
 
-// Keeps the parser of options from reading 010 as eight and 0x10 as sixteen. Gives what is wrong.
+// Prevents the parser of options from reading 010 as eight and 0x10 as sixteen. Returns the error.
 std::string PlainDecimal(std::string& text) {
   if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos) {
     return Excerpt(text) + " is not a whole number";
@@ -77,7 +77,7 @@ void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::str
 
 void RequireOneCommand(CLI::App& app, const std::string& name) {
   app.require_subcommand(0, 1);
-  // Asked here and not by require_subcommand, so that a misspelt command is named.
+  // Checked here and not by require_subcommand, so that the message can quote a misspelt command.
   app.callback([&app, name] {
     if (app.get_subcommands().empty()) throw CLI::RequiredError(name);
   });

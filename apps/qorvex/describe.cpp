@@ -47,7 +47,7 @@ struct DescribeArguments {
 // The figures of a column of amounts that are amounts themselves.
 using ExactFigures = std::map<ReportTextId, Currency>;
 
-// Wide enough for the sum of any column, so that the order of the amounts does not matter.
+// Holds the sum of any column, so that the order of the amounts does not matter.
 __extension__ typedef __int128 Int128;
 
 ExactFigures ExactFiguresOf(const TableColumn& column, const DescribeArguments& arguments) {
@@ -79,7 +79,7 @@ bool AllFinite(const DescriptiveResults& results) {
 
 struct ColumnFigures {
   DescriptiveStats statistics;
-  // None unless the values are amounts.
+  // Empty unless the values are amounts.
   ExactFigures exact;
 };
 
@@ -128,9 +128,9 @@ void RemarkOnHiddenFigures(const TableColumn& column, const ColumnFigures& figur
                                  ? "--decimals " + Int2EStr(hidden.enough_decimals) + " or "
                                  : "";
   WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": " +
-              Cardinal(hidden.count, "figure") + " other than 0 without a digit in " +
-              Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " + enough +
-              "--json shows all");
+              Cardinal(hidden.count, "figure") + (hidden.count == 1 ? " is" : " are") +
+              " too small for " + Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " +
+              enough + "--json shows all");
 }
 
 // The keys of the figures in a JSON document, in their order.
@@ -178,7 +178,7 @@ void WriteJson(JsonWriter& json, const TableColumn& column, ColumnFigures figure
   json.EndObject();
 }
 
-// Each column's sorted copy is gone before the next one is made.
+// The sorted copy of each column is released before the next one is made.
 std::string TextOf(std::vector<TableColumn>& columns, const DescribeArguments& arguments) {
   std::string text;
   for (TableColumn& column : columns) {
@@ -228,8 +228,8 @@ void AddDescribe(CLI::App& program) {
   AddDecimals(command, arguments->decimals,
               "Decimals of the report. Default: " + Int2EStr(kDefaultDecimals));
   command.add_flag("--json", arguments->json,
-                   "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
-                   "null for those that do not exist");
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Describe(*arguments); });
 }

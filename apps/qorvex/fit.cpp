@@ -147,8 +147,8 @@ void AddCurve(CLI::App& fit, const char* name, const char* summary, std::size_t 
   AddDecimals(command, arguments->decimals,
               "Decimals of the report. Default: the shortest text that keeps all 80 bits");
   command.add_flag("--json", arguments->json,
-                   "One JSON document; figures in the shortest text that keeps all 80 bits,\n"
-                   "null for those that do not exist");
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Fit(*arguments); });
 }

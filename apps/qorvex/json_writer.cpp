@@ -7,8 +7,8 @@ namespace qorvex::apps {
 
 namespace {
 
-// The length of the UTF-8 character at the front of the text (Unicode Standard, table 3-7), or 0
-// when there is none.
+// The length of the UTF-8 character at the start of the text (Unicode Standard, table 3-7), or 0 if
+// the text does not start with one.
 std::size_t CharacterLength(std::string_view text) {
   const auto byte = [&](std::size_t i) {
     return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U;
@@ -116,7 +116,7 @@ void JsonWriter::Raw(std::string_view token) {
   text_ += token;
 }
 
-// What stands before a value or a key: nothing after a key, else the comma and the line break.
+// Writes what precedes a value or a key: nothing after a key, otherwise comma and line break.
 void JsonWriter::StartValue() {
   if (std::exchange(after_key_, false)) return;
   if (!first_in_container_) text_ += ',';

@@ -14,8 +14,8 @@
 
 namespace qorvex::apps {
 
-/// Writes one JSON document (RFC 8259), indented by two blanks. The caller keeps the order of
-/// calls: in an object, a key before each value.
+/// Writes one JSON document (RFC 8259), indented by two spaces. The caller is responsible for the
+/// order of calls: in an object, a key before each value.
 class JsonWriter {
  public:
   void BeginObject() { Open('{'); }
@@ -32,14 +32,14 @@ class JsonWriter {
   void StringOrNull(std::string_view text);
   void Bool(bool value) { Raw(value ? "true" : "false"); }
   void Integer(std::integral auto value) { Raw(Int2EStr(value)); }
-  /// The shortest text that gives the same 80-bit value back; null for nothing, for NaN and for an
-  /// infinity.
+  /// The shortest text that is read back as the same 80-bit value; null for no value, NaN and
+  /// infinities.
   void Number(std::optional<Extended> value);
-  /// A number with all four decimals, exactly.
+  /// The exact amount, as a number with four decimals.
   void Amount(Currency amount) { Raw(Currency2EStr(amount)); }
   void Null() { Raw("null"); }
 
-  /// The document with a line break at its end. The writer is empty afterwards.
+  /// The document, with a line break at the end. Leaves the writer empty.
   [[nodiscard]] std::string TakeText();
 
  private:

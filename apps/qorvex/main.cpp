@@ -4,6 +4,7 @@
 #include <new>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "apps/common/input_error.h"
@@ -19,7 +20,7 @@ enum ExitStatus { kSuccess = 0, kFailure = 1, kBadInput = 2 };
 
 int RefuseUsage(const std::string& what) {
   WriteRemark(what);
-  WriteRemark("--help tells what the program and its commands take");
+  WriteRemark("--help describes the program and its commands");
   return kBadInput;
 }
 
@@ -30,32 +31,28 @@ std::string NamesOf(const std::vector<const CLI::App*>& commands) {
   return names;
 }
 
-// The arguments that nothing takes, without the "--" that says that no options follow.
-std::vector<std::string> Remaining(const CLI::App& app) {
-  std::vector<std::string> texts = app.remaining();
-  const auto end_of_options = std::find(texts.begin(), texts.end(), "--");
-  if (end_of_options != texts.end()) texts.erase(end_of_options);
-  return texts;
-}
-
-// What is wrong with arguments that nothing takes: a command that does not exist, or whatever
-// stands too much, in the order in which it was given.
-std::string WhatIsUnexpected(const CLI::App& program) {
+// The error message for arguments that the parser did not accept: a command that does not exist, or
+// the unexpected arguments in their order. The parser leaves arguments after "--" to the parents of
+// the command that they were given to.
+std::string WhatIsUnexpected(const CLI::App& program, bool has_end_of_options) {
   const CLI::App* app = &program;
+  std::vector<std::string> unexpected = app->remaining();
   std::string path;
-  while (Remaining(*app).empty() && !app->get_subcommands().empty()) {
+  while ((unexpected.empty() || has_end_of_options) && !app->get_subcommands().empty()) {
     app = app->get_subcommands().front();
     path += (path.empty() ? "" : " ") + app->get_name();
+    const std::vector<std::string> texts = app->remaining();
+    unexpected.insert(unexpected.begin(), texts.begin(), texts.end());
   }
+  std::erase(unexpected, "--");
   if (!path.empty()) path += ": ";
-  const std::vector<std::string> unexpected = Remaining(*app);
-  // Groups of options are apps without a name.
+  // Option groups are apps without a name.
   const auto commands =
       app->get_subcommands([](const CLI::App* command) { return !command->get_name().empty(); });
-  const bool is_command =
-      !commands.empty() && app->get_subcommands().empty() && !unexpected.front().starts_with('-');
+  const bool is_command = !commands.empty() && app->get_subcommands().empty() &&
+                          !has_end_of_options && !unexpected.front().starts_with('-');
   if (is_command) {
-    return path + "there is no command " + Excerpt(unexpected.front()) + "; there are " +
+    return path + "there is no command " + Excerpt(unexpected.front()) + "; the commands are " +
            NamesOf(commands);
   }
   std::string what = path + "unexpected ";
@@ -74,18 +71,19 @@ int Run(int argc, char** argv) {
   AddMatrix(program);
   AddDist(program);
   AddRandom(program);
-  // One command a call, so that a file may bear the name of another.
+  // At most one command, so that a file may have the name of another.
   program.require_subcommand(0, 1);
 
   try {
     program.parse(argc, argv);
-    // Asked here and not by require_subcommand, so that a misspelt command is named.
+    // Checked here and not by require_subcommand, so that the message can quote a misspelt command.
     if (program.get_subcommands().empty()) throw CLI::RequiredError("A command");
     return kSuccess;
   } catch (const CLI::ExtrasError&) {
-    return RefuseUsage(WhatIsUnexpected(program));
+    return RefuseUsage(WhatIsUnexpected(
+        program, std::find(argv, argv + argc, std::string_view("--")) != argv + argc));
   } catch (const CLI::Error& error) {
-    // The requests for help and for the version arrive here too.
+    // --help and --version end here, too.
     if (error.get_exit_code() != 0) return RefuseUsage(error.what());
     std::ostringstream text;
     program.exit(error, text);

@@ -25,13 +25,13 @@ namespace {
 constexpr const char* kRowsHelp = R"(
 
 Matrices:
-  One row a line; every row has as many cells as the first.
-  Every cell is a number. No header is guessed, since a damaged number would then
-  cost a row; --header skips one.)";
+  Each line is a row; every row has as many cells as the first.
+  Every cell is a number. A header is never guessed, because a row with a damaged
+  number would be lost; --header skips one.)";
 
 constexpr const char* kResultHelp = R"(
   Blank lines before the first row and after the last are ignored.
-  The result has commas between its cells, so that it can be read again.)";
+  The cells of the result are separated by commas, so it can be read again.)";
 
 struct MatrixArguments {
   std::vector<std::string> files;
@@ -60,7 +60,7 @@ std::string WhatIsWrong(const EMathError& error, const Matrices& operands) {
   return text;
 }
 
-// The names of the files, for faults that are not in one line of one of them.
+// The names of the files, for errors that do not belong to a line of one of them.
 std::string Names(const std::vector<std::string>& files) {
   std::string names = InputName(files[0]);
   if (files.size() == 2) names += ", " + InputName(files[1]);
@@ -75,8 +75,8 @@ TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
   } catch (const EMathError& error) {
     throw InputError(InputFault::kNoResult, names, WhatIsWrong(error, operands));
   }
-  // An elimination leaves its steps in the operand, where an overflow shows that the result, such
-  // as a rank, may hide.
+  // An elimination works in the operand, so this also detects an overflow that does not show in the
+  // result, for example in a rank.
   if (!AllFinite(result) || !std::ranges::all_of(operands, AllFinite)) {
     throw InputError(InputFault::kOutOfRange, names,
                      std::string(operation.result) + " is beyond the range of extended precision");
@@ -116,7 +116,7 @@ Extended ParseTolerance(const std::string& text) {
   } catch (const EConvertError&) {
   }
   if (std::isfinite(tolerance) && tolerance >= 0) return tolerance;
-  throw CLI::ValidationError("--tolerance", Excerpt(text) + " is not a number from 0 up");
+  throw CLI::ValidationError("--tolerance", Excerpt(text) + " is not a number of at least 0");
 }
 
 void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
@@ -132,7 +132,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
   }
   AddDelimiter(command, arguments->layout.delimiter);
   command.add_flag("--header", arguments->layout.has_header,
-                   "Skip the first row, which holds names");
+                   "Skip the first row, which contains names");
   if (operation.takes_decimals) {
     AddDecimals(command, arguments->decimals,
                 "Decimals of the result. Default: the shortest text that keeps all 80 bits");
@@ -141,8 +141,8 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
     command
         .add_option_function<std::string>(
             "--tolerance", [](const std::string& text) { QorTolerance = ParseTolerance(text); },
-            "Elements that near to zero count as zero, and pivots that near to one\n"
-            "as one; large or badly scaled numbers need more. Default: " +
+            "Elements within X of zero count as zero, and pivots within X of one as one;\n"
+            "large or badly scaled numbers need a larger tolerance. Default: " +
                 Float2Str(QorTolerance))
         ->type_name("X");
   }

@@ -14,7 +14,7 @@ TQorFloatMatrix SingleElement(Extended value) {
   return {TQorFloatVector{value}};
 }
 
-// An elimination gives zeros the signs of pivots and of exchanges, which mean nothing.
+// In an elimination, zeros get meaningless signs from pivots and row exchanges.
 TQorFloatMatrix WithUnsignedZeros(TQorFloatMatrix matrix) {
   for (TQorFloatVector& row : matrix) std::ranges::replace(row, 0.0L, 0.0L);
   return matrix;
@@ -55,7 +55,7 @@ constexpr MatrixOperation kOperations[] = {
      .result = "the inverse",
      .takes_tolerance = true,
      .compute = Inverse,
-     .help = R"(A matrix without an inverse is bad input.
+     .help = R"(A matrix without an inverse is refused.
 
 Examples:
   qorvex matrix inverse system.csv
@@ -65,8 +65,9 @@ Examples:
      .result = "the determinant",
      .takes_tolerance = true,
      .compute = Determinant,
-     .help = R"(The determinant is a product over the steps of an elimination. It is 0 where the
-rank is lower than the order; rounding may hide that and leave a tiny number.
+     .help = R"(The determinant is the product of the pivots of an elimination, with the sign of
+its row exchanges. It is 0 if the rank is less than the order, but rounding can
+leave a tiny number instead.
 
 Examples:
   qorvex matrix determinant system.csv
@@ -77,7 +78,7 @@ Examples:
      .takes_tolerance = true,
      .takes_decimals = false,
      .compute = Rank,
-     .help = R"(The rank is the number of rows that an elimination does not turn into zeros.
+     .help = R"(The rank is the number of rows that are not zero after an elimination.
 
 Examples:
   qorvex matrix rank system.csv
@@ -87,8 +88,8 @@ Examples:
      .result = "the echelon form",
      .takes_tolerance = true,
      .compute = Echelon,
-     .help = R"(Each row starts with a one, further right than the row above, and the rows of
-zeros come last. What stands above a leading one is not eliminated.
+     .help = R"(Each row starts with a one, further right than in the row above, and rows of
+zeros come last. Elements above a leading one are not eliminated.
 
 Example:
   qorvex matrix echelon system.csv --decimals 3)"},
@@ -97,7 +98,7 @@ Example:
      .result = "the product",
      .takes_two_files = true,
      .compute = Multiply,
-     .help = R"(The columns of LEFT must be as many as the rows of RIGHT.
+     .help = R"(LEFT must have as many columns as RIGHT has rows.
 
 Examples:
   qorvex matrix multiply a.csv b.csv

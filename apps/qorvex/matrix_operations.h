@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the commands of `matrix` compute, and what their --help says.
+/// The commands of `matrix`: what they compute, and their --help.
 
 #include <span>
 #include <vector>
@@ -16,14 +16,14 @@ using Matrices = std::vector<TQorFloatMatrix>;
 struct MatrixOperation {
   const char* name;
   const char* summary;
-  /// What it computes, as messages call it.
+  /// The result, as messages name it.
   const char* result;
   bool takes_two_files = false;
-  /// Whether it eliminates, and so has to know what counts as zero.
+  /// Whether it eliminates and therefore depends on what counts as zero.
   bool takes_tolerance = false;
   bool takes_decimals = true;
-  /// Takes rectangular matrices, one or two, and may change them. Raises EMathError for shapes that
-  /// do not fit, and when a matrix has no inverse.
+  /// Takes one or two rectangular matrices and may change them. Throws EMathError for shapes that
+  /// do not match and for a matrix without an inverse.
   TQorFloatMatrix (*compute)(Matrices& operands);
   const char* help;
 };

@@ -19,7 +19,7 @@ Extended ParseNumber(const std::string& option, const std::string& text, NumberK
 InputError Refusal(const std::string& name, const EMathError& error, const std::string& remark) {
   const bool overflow = dynamic_cast<const EOverflow*>(&error) != nullptr;
   const std::string what =
-      overflow ? "the figure, or one on the way to it, is beyond the range of extended precision"
+      overflow ? "the result or an intermediate result is beyond the range of extended precision"
                : error.what();
   return {overflow ? InputFault::kOutOfRange : InputFault::kNoResult, name, what + remark};
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Options that take numbers, and what is said when a routine refuses them.
+/// Options that take numbers, and the errors of routines that refuse them.
 
 #include <CLI/CLI.hpp>
 #include <string>
@@ -13,11 +13,11 @@
 
 namespace qorvex::apps {
 
-/// The number of the given kind that was passed to an option.
+/// The number of the given kind in the argument of an option. Throws CLI::ValidationError.
 [[nodiscard]] Extended ParseNumber(const std::string& option, const std::string& text,
                                    NumberKind kind);
 
-/// Adds an option that takes one number. Set is called with it when the option is given.
+/// Adds an option that takes one number. If the option is given, set is called with the number.
 template <class Set>
 CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::string& description,
                        NumberKind kind, Set set) {
@@ -31,7 +31,7 @@ CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::
               ->type_name(kind >= NumberKind::kSteps ? "N" : "X");
 }
 
-/// The error of a routine as the program's own, "name: what", with a remark behind it.
+/// Converts the error of a routine into one of the program: "name: what", followed by the remark.
 [[nodiscard]] InputError Refusal(const std::string& name, const EMathError& error,
                                  const std::string& remark);
 

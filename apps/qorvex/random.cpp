@@ -22,11 +22,11 @@ namespace qorvex::apps {
 namespace {
 
 constexpr const char* kVariatesHelp = R"(Variates:
-  One a line, printed as they are drawn. A seed gives the same ones on every
-  processor of one family; on others the last digit of what is not a count can
-  differ, and rarely more. Without a seed every run gives others.)";
+  One per line, printed as they are drawn. A seed gives the same variates on all
+  processors of a family. On other processors, the last digit of variates that are
+  not counts can differ, rarely more. Without a seed, every run is different.)";
 
-// The section of --help that says what a variate takes of the parameters' numbers; empty if all.
+// The section of --help on the limits of the parameters; empty if there are none.
 std::string LimitsHelp(const Variate& variate) {
   const bool classic_is_narrower = variate.classic && *variate.classic->limits != '\0';
   std::istringstream words(classic_is_narrower ? variate.classic->limits
@@ -98,7 +98,7 @@ void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments
             }
             throw CLI::ValidationError("--method", Excerpt(name) + " is not one of " + names);
           },
-          std::string("How they are drawn. Default: ") + variate.methods.front().name)
+          std::string("The algorithm. Default: ") + variate.methods.front().name)
       ->type_name(names);
 }
 
@@ -128,7 +128,7 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
   try {
     PrintVariates(arguments);
   } catch (const EMathError& error) {
-    // The lines in front of the failing one go out before the message.
+    // The lines before the failing one are printed before the message.
     WriteResult("");
     const std::string limits = arguments.method->limits;
     const bool limited = !limits.empty() && dynamic_cast<const EOverflow*>(&error) == nullptr;
@@ -146,12 +146,12 @@ void AddVariate(CLI::App& random, const Variate& variate) {
   if (variate.classic) {
     command.add_flag_callback(
         "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
-        "Draw with the classic routine of QorvexRandom, within its limits: see the end");
+        "Draw with the classic routine of QorvexRandom, which has the limits below");
   }
-  AddNumber(command, "--count", "How many variates. Default: 1", NumberKind::kUint64,
+  AddNumber(command, "--count", "The number of variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
   AddNumber(command, "--seed",
-            "The seed, up to 18446744073709551615. Default: one from the operating system",
+            "The seed, up to 18446744073709551615. Default: taken from the operating system",
             NumberKind::kUint64,
             [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
   AddDecimals(command, arguments->decimals,

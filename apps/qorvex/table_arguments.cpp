@@ -26,7 +26,7 @@ std::string Hint(InputFault fault, const TableSelection& selection) {
   return "";
 }
 
-// Such a name may well be a damaged number in a table without a header.
+// In a table without a header, such a name may be a damaged number.
 bool LooksLikeADamagedNumber(std::string_view name) {
   constexpr std::string_view minus_sign = "\xE2\x88\x92";
   constexpr std::string_view starts = "0123456789+-.";
@@ -35,12 +35,12 @@ bool LooksLikeADamagedNumber(std::string_view name) {
   return begins_like_one && !IsNumber(name);
 }
 
-// What tells that a row which was taken for a header may be one of data; empty if nothing does.
+// Why a row that was read as a header may be data; empty if there is no reason to think so.
 std::string DoubtOf(const Table& table) {
   const auto is_number = [](std::string_view cell) { return !cell.empty() && IsNumber(cell); };
   const auto number = std::ranges::find_if(table.header, is_number);
   if (number != table.header.end()) {
-    return Excerpt(*std::ranges::find_if(table.header, IsText)) + " is not a number, though " +
+    return Excerpt(*std::ranges::find_if(table.header, IsText)) + " is not a number, although " +
            Excerpt(*number) + " is";
   }
   const auto damaged =
@@ -62,26 +62,26 @@ void AddHeader(CLI::App& command, std::optional<bool>& header) {
 
 std::string TableHelp() {
   return std::string(R"(Tables:
-  One row a line; every row has as many cells as the first.
-  The first row is a header when any of its cells is text, that is, neither empty
-  nor a number; --header and --no-header decide otherwise.)") +
+  Each line is a row; every row has as many cells as the first.
+  The first row is a header if any of its cells is text, that is, neither empty
+  nor a number; --header or --no-header overrides this.)") +
          kTextHelp + R"(
-  Blank lines before the first row and after the last are ignored; one between
-  rows counts as a row of empty cells.)";
+  Blank lines before the first row and after the last are ignored; a blank line
+  between rows is a row of empty cells.)";
 }
 
 void TableArguments::AddTo(CLI::App& command) {
   AddFile(command, file, "FILE", "The table to read");
   command
       .add_option("--column", selection.columns,
-                  "A column, by name or by number from 1; a name wins over a number.\n"
+                  "A column, by name or by number from 1; a name takes precedence.\n"
                   "Repeat it for more columns. Default: every column")
       ->type_name("NAME|N")
       ->allow_extra_args(false);
   AddHeader(command, selection.header);
   AddDelimiter(command, selection.delimiter);
   command.add_flag("--skip-empty", selection.skip_empty,
-                   "Skip empty cells and say how many, instead of refusing them");
+                   "Skip empty cells and report how many, instead of refusing them");
 }
 
 void TableArguments::AddPairTo(CLI::App& command) {
@@ -94,13 +94,13 @@ void TableArguments::AddPairTo(CLI::App& command) {
         ->required();
   };
   add_column(0, "--x",
-             "The column of the x, by name or by number from 1;\n"
-             "a name wins over a number");
-  add_column(1, "--y", "The column of the y");
+             "The column of x, by name or by number from 1;\n"
+             "a name takes precedence");
+  add_column(1, "--y", "The column of y");
   AddHeader(command, selection.header);
   AddDelimiter(command, selection.delimiter);
   command.add_flag("--skip-empty", selection.skip_empty,
-                   "Skip rows in which x or y is empty and say how many,\n"
+                   "Skip rows in which x or y is empty and report how many,\n"
                    "instead of refusing them");
 }
 
@@ -109,8 +109,8 @@ std::vector<TableColumn> TableArguments::Read() const {
     Table table = ReadTable(OpenTextInput(file), selection);
     const std::string doubt = selection.header ? "" : DoubtOf(table);
     if (!doubt.empty()) {
-      WriteRemark(OnOneLine(InputName(file)) + ": the first row was taken for a header because " +
-                  doubt + "; --header and --no-header decide");
+      WriteRemark(OnOneLine(InputName(file)) + ": the first row was read as a header because " +
+                  doubt + "; --header or --no-header overrides this");
     }
     std::vector<TableColumn>& columns = table.columns;
     for (const TableColumn& column : columns) {

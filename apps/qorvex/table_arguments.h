@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The arguments by which a command is told which table, and what of it, to read.
+/// The arguments that select a table and its columns.
 
 #include <CLI/CLI.hpp>
 #include <string>
@@ -11,7 +11,7 @@
 
 namespace qorvex::apps {
 
-/// What every --help of a command that reads a table says about tables.
+/// The section on tables of the --help of a command that reads one.
 [[nodiscard]] std::string TableHelp();
 
 /// FILE, --column or --x and --y, --header and --no-header, --delimiter and --skip-empty.
@@ -19,15 +19,15 @@ struct TableArguments {
   std::string file;
   TableSelection selection;
 
-  /// Adds the arguments to a command; this object must then outlive the parsing.
+  /// Adds the arguments to a command. This object must outlive the parsing.
   void AddTo(CLI::App& command);
 
-  /// As AddTo, with --x and --y for two columns of which the values of one index belong to one row.
+  /// The same with --x and --y for two columns whose values with the same index are from one row.
   void AddPairTo(CLI::App& command);
 
-  /// Reads the table. Remarks on standard error how many empty cells, or rows, were skipped, and on
-  /// a guessed header that may be a row of data. InputErrors name the argument that helps, where
-  /// one does.
+  /// Reads the table. Writes to standard error how many empty cells, or rows, were skipped, and
+  /// warns if the row that was read as a header may be data. The text of an InputError suggests an
+  /// argument where one helps.
   [[nodiscard]] std::vector<TableColumn> Read() const;
 };
 

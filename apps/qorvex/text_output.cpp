@@ -39,7 +39,7 @@ void WritePart(std::string_view text) {
 
 void WriteRemark(std::string_view text) {
   const std::string line = "qorvex: " + std::string(text) + '\n';
-  // There is nowhere left to say that standard error cannot be written.
+  // If standard error cannot be written, there is no place left to report it.
   static_cast<void>(std::fwrite(line.data(), 1, line.size(), stderr));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// How figures are written, and where results and remarks go.
+/// Formatting of figures, standard output and standard error.
 
 #include <optional>
 #include <span>
@@ -12,21 +12,21 @@
 
 namespace qorvex::apps {
 
-/// A figure with that many decimals, or the shortest text that keeps all its bits.
+/// A figure with the given number of decimals, or the shortest text that keeps all its bits.
 [[nodiscard]] std::string FigureText(Extended figure, std::optional<int> decimals);
 
-/// Appends a line of figures with commas between them.
+/// Appends a line of figures separated by commas.
 void AppendLine(std::string& text, std::span<const Extended> figures, std::optional<int> decimals);
 
-/// Writes a command's whole result to standard output, so that a command which fails halfway prints
-/// none. Raises std::system_error when not every byte could be written.
+/// Writes the whole result of a command to standard output. A command that fails halfway thus
+/// prints nothing. Throws std::system_error if any byte could not be written.
 void WriteResult(std::string_view text);
 
-/// Writes a part of a command's result to standard output, of which the last one is a call of
-/// WriteResult. Raises std::system_error as that does, as soon as the fault shows.
+/// Writes a part of a result to standard output; the last part must be written with WriteResult.
+/// Throws std::system_error as soon as an error is detected.
 void WritePart(std::string_view text);
 
-/// Writes one line to standard error, after the program's name.
+/// Writes one line to standard error, preceded by the name of the program.
 void WriteRemark(std::string_view text);
 
 }  // namespace qorvex::apps

@@ -1,6 +1,6 @@
-// Random variates beside the standard library's distributions of long double and GSL's of double,
-// all of which draw from the same generator. The standard library's objects are prepared once for
-// all draws; our routines and GSL's prepare each draw anew.
+// Random variates, compared with the distributions of the standard library in long double and of
+// GSL in double. All draw from the same generator. Objects of the standard library are prepared
+// once for all draws; our routines and those of GSL prepare every draw.
 
 #include <cstdint>
 #include <gsl/gsl_randist.h>
@@ -16,7 +16,8 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// Marsaglia's xorshift with Vigna's multiplier: so quick that the distributions are what is timed.
+// Marsaglia's xorshift with Vigna's multiplier: so fast that the benchmark measures the
+// distributions.
 class Generator {
  public:
   using result_type = std::uint64_t;
@@ -40,7 +41,7 @@ Extended Uniform() {
   return static_cast<Extended>(centred) * 0x1p-64L + 0.5L;
 }
 
-// The generator as one of GSL's.
+// The generator as a GSL generator.
 const gsl_rng* GslGenerator() {
   static const gsl_rng_type type = {
       "xorshift",
@@ -56,7 +57,7 @@ const gsl_rng* GslGenerator() {
 
 constexpr std::size_t kDraws = 1000;
 
-// Registers draw(), called a thousand times an iteration.
+// Registers a benchmark that calls draw() a thousand times per iteration.
 template <class Draw>
 void Register(const std::string& variate, const std::string& parameters, const std::string& who,
               Draw draw) {
@@ -69,7 +70,8 @@ void Register(const std::string& variate, const std::string& parameters, const s
   });
 }
 
-// Registers fill(vector), for a thousand variates an iteration, beside draw() for each element.
+// Registers a benchmark of fill(vector) for a thousand variates, and one that calls draw() for each
+// element.
 template <class Fill, class Draw>
 void RegisterFill(const std::string& variate, const std::string& parameters, Fill fill, Draw draw) {
   const auto add = [&](const std::string& who, auto work) {
@@ -96,7 +98,7 @@ void RegisterStd(const std::string& variate, const std::string& parameters,
            [distribution]() mutable { return distribution(generator); });
 }
 
-// What depends on the method, with the parameters of each routine in the order of its own.
+// Parameters that reach the different methods, in the order of each routine.
 [[maybe_unused]] const bool registered = [] {
   const gsl_rng* const gsl = GslGenerator();
 

@@ -1,5 +1,5 @@
-// A whole set of descriptive statistics, and the variance alone, beside the statistics libraries in
-// long double.
+// All descriptive statistics, and the variance alone, compared with statistics libraries in long
+// double.
 
 #include <Eigen/Core>
 #include <boost/math/statistics/univariate_statistics.hpp>
@@ -23,7 +23,7 @@ using EigenArray = Eigen::Map<const Eigen::Array<Extended, Eigen::Dynamic, 1>>;
     stats.SetValues(v);
     return stats.Results().kurtosis;
   });
-  // The same figures but the mode, as its users would put them together.
+  // The same figures except the mode, as a user of GSL would compute them.
   Compare<Extended>("DescriptiveStats", "GSL", [](const TQorFloatVector& v) {
     TQorFloatVector sorted = CopyVector(v);
     gsl_sort_long_double(sorted.data(), 1, sorted.size());

@@ -1,4 +1,4 @@
-// Statistics of frequency tables, beside the plain loop.
+// Statistics of frequency tables, compared with plain loops.
 
 #include <cstdint>
 #include <vector>
@@ -46,7 +46,7 @@ constexpr Extended kWidth = 0.25L;
     return squares / (total - 1);
   });
 
-  // Random frequencies would wrap around; equal ones put the median in the middle.
+  // Equal frequencies, because the sums of random ones would wrap around.
   Compare<std::uint32_t>("GroupedMedian", "ours", [](const TQorLWordVector& sample) {
     static TQorLWordVector freq;
     if (freq.size() != sample.size()) {

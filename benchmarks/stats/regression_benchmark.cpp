@@ -1,4 +1,4 @@
-// Lines, parabolas and correlations of pairs, beside GSL in double and the plain loop.
+// Lines, parabolas and correlations of pairs, compared with GSL in double and plain loops.
 
 #include <cmath>
 #include <gsl/gsl_fit.h>
@@ -28,7 +28,7 @@ const double* Doubles(const TQorFloatVector& vector) {
                       GetRegressionLine(x, y, a, b);
                       return a + b;
                     });
-  // One loop after the other, as the formulas are written.
+  // One loop for each sum, as the formulas are written.
   Compare<Extended>("GetRegressionLine", "loop",
                     [](const TQorFloatVector& x, const TQorFloatVector& y) {
                       Extended sx = 0, sy = 0, sxx = 0, sxy = 0;

@@ -2,22 +2,31 @@
 
 namespace qorvex::inline QorvexBaseControls {
 
-CellProperties::CellProperties() {
-  QObject::connect(&color_set_, &TQorEditColorSet::Changed, [this] { DoColorSetChange(); });
-}
-
+CellProperties::CellProperties() = default;
 CellProperties::~CellProperties() = default;
 
-CellSettings CellProperties::Settings() const {
-  CellSettings settings = settings_;
-  settings.colors = color_set_.Colors();
-  return settings;
+TQorEditColorSet* CellProperties::ColorSet() {
+  if (!color_set_) {
+    color_set_ = std::make_unique<TQorEditColorSet>();
+    color_set_->setColors(settings_.colors);
+    QObject::connect(color_set_.get(), &TQorEditColorSet::Changed,
+                     [this] { SetColors(color_set_->Colors()); });
+  }
+  return color_set_.get();
+}
+
+void CellProperties::SetColors(const EditColors& colors) {
+  if (colors == settings_.colors) return;
+  settings_.colors = colors;
+  // Its own signal comes back here, where the colours are the same then.
+  if (color_set_) color_set_->setColors(colors);
+  DoColorSetChange();
 }
 
 void CellProperties::setSettings(const CellSettings& settings) {
-  color_set_.setColors(settings.colors);
+  SetColors(settings.colors);
   CellSettings rest = settings;
-  rest.colors = {};
+  rest.colors = settings_.colors;
   rest.number.decimal_places = std::clamp(rest.number.decimal_places, 0, 255);
   Assign(settings_, rest);
 }

@@ -1,19 +1,20 @@
 #pragma once
 
 /// @file
-/// The properties that single cells, panels of cells and the shared settings have in common.
+/// The properties that single cells, panels of cells and shared settings have in common.
 
 #include <QColor>
 #include <QString>
 #include <algorithm>
+#include <memory>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/cell_settings.h"
 #include "qorvex/base_controls/edit_color_set.h"
 #include "qorvex/base_controls/unit.h"
 
-/// The colours of the owned colour set as properties of the control, since a form cannot hold the
-/// set itself.
+/// The colours of the owned colour set as properties of the control, since a form cannot store the
+/// set.
 #define QORVEX_PUBLISHED_COLORS                        \
   QORVEX_PUBLISHED(QColor, ColorSetText)               \
   QORVEX_PUBLISHED(QColor, ColorSetBackground)         \
@@ -26,19 +27,19 @@
 namespace qorvex::inline QorvexBaseControls {
 
 /// Accessors of the settings of cells, for a class that publishes them as properties. See
-/// CellSettings for what each means and what it is at first. Setting the value that is there
-/// already does nothing.
+/// CellSettings for their meaning and defaults. Setting the current value does nothing.
 class QORVEX_EXPORT CellProperties {
  public:
   CellProperties(const CellProperties&) = delete;
   CellProperties& operator=(const CellProperties&) = delete;
 
-  /// The colours, as an object of their own that lives as long as its owner.
-  [[nodiscard]] TQorEditColorSet* ColorSet() noexcept { return &color_set_; }
+  /// The colours as an object, which is made when it is first asked for and lives as long as its
+  /// owner.
+  [[nodiscard]] TQorEditColorSet* ColorSet();
 
   /// @{
   /// All settings at once.
-  [[nodiscard]] CellSettings Settings() const;
+  [[nodiscard]] const CellSettings& Settings() const noexcept { return settings_; }
   void setSettings(const CellSettings& settings);
   /// @}
 
@@ -53,15 +54,17 @@ class QORVEX_EXPORT CellProperties {
   void reset##Name() {                           \
     set##Name(CellSettings().member);            \
   }
-#define QORVEX_COLOR_SET_PROPERTY(Name)         \
+#define QORVEX_COLOR_SET_PROPERTY(Name, member) \
   [[nodiscard]] QColor ColorSet##Name() const { \
-    return color_set_.Name();                   \
+    return settings_.colors.member;             \
   }                                             \
   void setColorSet##Name(const QColor& color) { \
-    color_set_.set##Name(color);                \
+    EditColors colors = settings_.colors;       \
+    colors.member = color;                      \
+    SetColors(colors);                          \
   }                                             \
   void resetColorSet##Name() {                  \
-    color_set_.reset##Name();                   \
+    setColorSet##Name({});                      \
   }
   /// @endcond
   /// @{
@@ -88,13 +91,13 @@ class QORVEX_EXPORT CellProperties {
   /// @}
   /// @{
   /// One colour of the set.
-  QORVEX_COLOR_SET_PROPERTY(Text)
-  QORVEX_COLOR_SET_PROPERTY(Background)
-  QORVEX_COLOR_SET_PROPERTY(NegativeText)
-  QORVEX_COLOR_SET_PROPERTY(FocusBackground)
-  QORVEX_COLOR_SET_PROPERTY(ReadOnlyBackground)
-  QORVEX_COLOR_SET_PROPERTY(InvalidText)
-  QORVEX_COLOR_SET_PROPERTY(InvalidBackground)
+  QORVEX_COLOR_SET_PROPERTY(Text, text)
+  QORVEX_COLOR_SET_PROPERTY(Background, background)
+  QORVEX_COLOR_SET_PROPERTY(NegativeText, negative_text)
+  QORVEX_COLOR_SET_PROPERTY(FocusBackground, focus_background)
+  QORVEX_COLOR_SET_PROPERTY(ReadOnlyBackground, read_only_background)
+  QORVEX_COLOR_SET_PROPERTY(InvalidText, invalid_text)
+  QORVEX_COLOR_SET_PROPERTY(InvalidBackground, invalid_background)
   /// @}
 #undef QORVEX_CELL_PROPERTY
 #undef QORVEX_COLOR_SET_PROPERTY
@@ -103,9 +106,9 @@ class QORVEX_EXPORT CellProperties {
   CellProperties();
   virtual ~CellProperties();
 
-  /// Some setting but the colours has changed.
+  /// A setting other than a colour has changed.
   virtual void SettingsChanged() = 0;
-  /// Some colour has changed.
+  /// A colour has changed.
   virtual void DoColorSetChange() = 0;
 
  private:
@@ -116,9 +119,10 @@ class QORVEX_EXPORT CellProperties {
     SettingsChanged();
   }
 
-  // Without the colours, which are in the set.
+  void SetColors(const EditColors& colors);
+
   CellSettings settings_;
-  TQorEditColorSet color_set_;
+  std::unique_ptr<TQorEditColorSet> color_set_;
 };
 
 }  // namespace qorvex::inline QorvexBaseControls

@@ -21,7 +21,7 @@ constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
 
 TQorCustomEdit::TQorCustomEdit(QWidget* parent) : TextCell(parent) {
   QLineEdit::setAlignment(Alignment());
-  // Another text is not the one that was marked.
+  // The mark belongs to the text before.
   connect(this, &QLineEdit::textEdited, this, [this] { Mark(false); });
 }
 
@@ -44,7 +44,7 @@ void TQorCustomEdit::ShowAnew() {
 }
 
 void TQorCustomEdit::Show(Extended value, bool has_value, bool keep_pending) {
-  // Values with the same text may have different shorter ones.
+  // Values with the same text may have different shorter texts.
   if (!detail::SameElement(value, value_)) update();
   value_ = value;
   has_value_ = has_value;
@@ -67,20 +67,28 @@ QString TQorCustomEdit::ShownText() const {
 }
 
 bool TQorCustomEdit::Commit() {
-  if (Pending()) {
-    const std::optional<Extended> parsed = Parsed(text());
-    if (!parsed) {
-      Mark(true);
-      return false;
-    }
-    const Extended before = value_;
-    setValue(*parsed);
-    if (detail::SameElement(before, value_)) return true;
-    if (Null()) Q_EMIT OnNull();
-    Q_EMIT Changed();
-  } else {
+  if (!Pending()) {
     Restore();
+    return true;
   }
+  const std::optional<Extended> parsed = Parsed(text());
+  if (!parsed) {
+    Mark(true);
+    return false;
+  }
+  const bool same = detail::SameElement(*parsed, value_);
+  if (!same && StoreElsewhere) {
+    // No longer pending: what follows may redisplay the cell.
+    setModified(false);
+    // A copy, since the cell may be dropped meanwhile.
+    const auto store = StoreElsewhere;
+    store(*parsed);
+    return true;
+  }
+  setValue(*parsed);
+  if (same) return true;
+  if (Null()) Q_EMIT OnNull();
+  Q_EMIT Changed();
   return true;
 }
 
@@ -103,6 +111,7 @@ QString TQorCustomEdit::ExactText(Extended value) const {
 }
 
 void TQorCustomEdit::SetSpecialColor(const QColor& color) {
+  if (color == special_color_) return;
   special_color_ = color;
   ApplyColors();
 }
@@ -132,35 +141,34 @@ void TQorCustomEdit::Mark(bool invalid) {
 }
 
 void TQorCustomEdit::ApplyColors() {
-  const TQorEditColorSet& colors = *ColorSet();
+  const EditColors& colors = Settings().colors;
   const auto pick = [](const QColor& first, const QColor& otherwise) {
     return first.isValid() ? first : otherwise;
   };
-  QColor text = pick(special_color_, value_ < 0 ? colors.NegativeText() : QColor());
-  text = pick(text, colors.Text());
-  QColor background = colors.Background();
-  if (ReadOnly()) background = pick(colors.ReadOnlyBackground(), background);
-  if (Inside()) background = pick(colors.FocusBackground(), background);
+  QColor text = pick(special_color_, value_ < 0 ? colors.negative_text : QColor());
+  text = pick(text, colors.text);
+  QColor background = colors.background;
+  if (ReadOnly()) background = pick(colors.read_only_background, background);
+  if (Inside()) background = pick(colors.focus_background, background);
   if (invalid_) {
     const QPalette around = parentWidget() ? parentWidget()->palette() : QApplication::palette();
     const bool dark = around.color(QPalette::Base).lightness() < 128;
-    text = pick(colors.InvalidText(), dark ? QColor(0xff, 0xb4, 0xab) : QColor(0x93, 0x00, 0x0a));
-    background = pick(colors.InvalidBackground(),
-                      dark ? QColor(0x5c, 0x14, 0x14) : QColor(0xff, 0xda, 0xd6));
+    text = pick(colors.invalid_text, dark ? QColor(0xff, 0xb4, 0xab) : QColor(0x93, 0x00, 0x0a));
+    background =
+        pick(colors.invalid_background, dark ? QColor(0x5c, 0x14, 0x14) : QColor(0xff, 0xda, 0xd6));
   }
+  if (text == applied_text_ && background == applied_background_) return;
+  applied_text_ = text;
+  applied_background_ = background;
   // Only the roles that differ are set, so the others follow the application's palette.
   QPalette palette;
   if (text.isValid()) palette.setColor(QPalette::Text, text);
   if (background.isValid()) palette.setColor(QPalette::Base, background);
-  const bool own = text.isValid() || background.isValid();
-  if (!own && !testAttribute(Qt::WA_SetPalette)) return;
-  applying_colors_ = true;
   setPalette(palette);
-  applying_colors_ = false;
 }
 
 QString TQorCustomEdit::ShorterText() const {
-  // A null shows a text of its own.
+  // A null is not shown as a number.
   if (Null()) return TextCell::ShorterText();
   const auto local = [this](std::string_view text) { return detail::LocalNumber(text, locale()); };
   return local(FittedFloatText(
@@ -177,7 +185,8 @@ QString TQorCustomEdit::Tip() const {
 void TQorCustomEdit::changeEvent(QEvent* event) {
   TextCell::changeEvent(event);
   if (event->type() == QEvent::LocaleChange) ShowAnew();
-  if (event->type() == QEvent::PaletteChange && !applying_colors_ && invalid_) ApplyColors();
+  // The colours of the mark depend on the palette around the cell.
+  if (event->type() == QEvent::PaletteChange && invalid_) ApplyColors();
 }
 
 void TQorCustomEdit::focusInEvent(QFocusEvent* event) {

@@ -8,6 +8,11 @@ TQorFloatEdit::TQorFloatEdit(QWidget* parent) : TQorCustomEdit(parent) {
   setValue(0);
 }
 
+TQorFloatEdit::TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert)
+    : TQorCustomEdit(parent), convert_(&convert) {
+  ShowNothing();
+}
+
 TQorFloatEdit::~TQorFloatEdit() = default;
 
 QString TQorFloatEdit::TextOf(Extended value) const {
@@ -19,7 +24,7 @@ FloatDigits TQorFloatEdit::Digits() const {
 }
 
 std::optional<Extended> TQorFloatEdit::ValueOf(const QString& text) const {
-  return OnConvert ? OnConvert(text) : detail::ParseLocalNumber(text, locale());
+  return *convert_ ? (*convert_)(text) : detail::ParseLocalNumber(text, locale());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

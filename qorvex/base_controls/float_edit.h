@@ -10,12 +10,11 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// Turns the text of a cell into a value; nothing when the text is none. The text is not blank
-/// and has no blanks around it.
+/// Reads the text of a cell; nothing if it is not a number. The text is trimmed and not empty.
 using TQorConvertEvent = std::function<std::optional<Extended>(const QString& text)>;
 
 /// A cell that shows its value with DecimalPlaces decimals, correctly rounded, or with all digits
-/// where FullAccuracy is set. From 2^63 on, where a value has no decimals, all digits show in
+/// if FullAccuracy is set. Values from 2^63 on have no decimals and are shown with all digits in
 /// scientific notation.
 class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
   Q_OBJECT
@@ -39,15 +38,21 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
  public:
   /// A cell with the value 0.
   explicit TQorFloatEdit(QWidget* parent = nullptr);
+  /// A cell of a panel, which shows nothing. A function of the panel, which may change, reads texts
+  /// in place of OnConvert.
+  TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert);
   ~TQorFloatEdit() override;
 
-  /// Reads texts in place of the cell itself; empty for none.
+  /// Reads texts in place of the cell; empty by default.
   TQorConvertEvent OnConvert;
 
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
   [[nodiscard]] FloatDigits Digits() const override;
   [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
+
+ private:
+  const TQorConvertEvent* convert_ = &OnConvert;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

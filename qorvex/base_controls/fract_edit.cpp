@@ -11,6 +11,11 @@ TQorFractEdit::TQorFractEdit(QWidget* parent) : TQorCustomEdit(parent) {
   setValue(0);
 }
 
+TQorFractEdit::TQorFractEdit(QWidget* parent, FractionDisplayMode display, int decimals)
+    : TQorCustomEdit(parent), display_(display), decimals_(std::clamp(decimals, 0, 255)) {
+  ShowNothing();
+}
+
 TQorFractEdit::~TQorFractEdit() = default;
 
 void TQorFractEdit::setFractionDisplay(FractionDisplayMode display) {

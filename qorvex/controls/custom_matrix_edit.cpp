@@ -7,26 +7,29 @@
 #include <utility>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/shape.h"
 
 namespace qorvex::inline QorvexMatrixEdit {
 
-TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent, CellFactory make_cell)
-    : CellPanel(parent, GridAxes::kRowsAndCols, QorvexControls::detail::CurrentRule::kFollowsEntry,
-                std::move(make_cell)),
-      corner_(new QToolButton(this)) {
-  corner_->setFocusPolicy(Qt::NoFocus);
-  corner_->setAccessibleName(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner"));
-  connect(corner_, &QToolButton::clicked, this, &TQorCustomMatrixEdit::CornerClick);
+TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent)
+    : CellPanel(parent, *this, GridAxes::kRowsAndCols,
+                QorvexControls::detail::CurrentRule::kFollowsEntry, {},
+                {.before_top = [this](quint32 left) { Q_EMIT OnLeftChange(left); },
+                 .current_changed = [this](quint32 before,
+                                           quint32 now) { Q_EMIT OnCurrColChange(before, now); }}) {
+  auto* const corner = new QToolButton(this);
+  corner->setFocusPolicy(Qt::NoFocus);
+  corner->setAccessibleName(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner"));
+  connect(corner, &QToolButton::clicked, this, &TQorCustomMatrixEdit::CornerClick);
+  SetCorner(corner);
 }
 
 TQorCustomMatrixEdit::~TQorCustomMatrixEdit() = default;
 
-void TQorCustomMatrixEdit::BuildGrid() {
-  SetColEdits(kDefaultColEdits);
-  SetRowEdits(kDefaultRowEdits);
+void TQorCustomMatrixEdit::BuildGrid(CellFactory make_cell) {
+  Build(std::move(make_cell), kDefaultRowEdits, kDefaultColEdits);
 }
 
 quint32 TQorCustomMatrixEdit::DisplayLeftCol() const noexcept {
@@ -34,7 +37,7 @@ quint32 TQorCustomMatrixEdit::DisplayLeftCol() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setDisplayLeftCol(quint32 col) {
-  SetLeft(col);
+  Parts().cols.SetTop(col);
 }
 
 int TQorCustomMatrixEdit::NoOfColEdits() const noexcept {
@@ -42,7 +45,7 @@ int TQorCustomMatrixEdit::NoOfColEdits() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setNoOfColEdits(int edits) {
-  SetColEdits(edits);
+  SetEdits(Parts().cols, edits);
 }
 
 int TQorCustomMatrixEdit::NoOfRowEdits() const noexcept {
@@ -50,7 +53,7 @@ int TQorCustomMatrixEdit::NoOfRowEdits() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setNoOfRowEdits(int edits) {
-  SetRowEdits(edits);
+  SetEdits(Parts().rows, edits);
 }
 
 quint32 TQorCustomMatrixEdit::NoOfCols() const noexcept {
@@ -64,25 +67,25 @@ quint32 TQorCustomMatrixEdit::NoOfRows() const noexcept {
 void TQorCustomMatrixEdit::setNoOfCols(quint32 cols) {
   if (cols == NoOfCols()) return;
   ResizeCols(cols);
-  Forget();
+  Parts().history.Forget();
   Q_EMIT OnNoColsChange(NoOfCols());
 }
 
 void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
   if (rows == NoOfRows()) return;
   ResizeRows(rows);
-  Forget();
+  Parts().history.Forget();
   Q_EMIT OnNoRowsChange(NoOfRows());
 }
 
 void TQorCustomMatrixEdit::ResizeCols(quint32 cols) {
-  SetColCount(cols);
-  // Handlers that ran on the way could read the elements that are going.
+  SetCount(Parts().cols, cols);
+  // After the handlers, which may still read the elements that go.
   if (!VirtualMode()) TrimStore();
 }
 
 void TQorCustomMatrixEdit::ResizeRows(quint32 rows) {
-  SetRowCount(rows);
+  SetCount(Parts().rows, rows);
   if (!VirtualMode()) TrimStore();
 }
 
@@ -112,8 +115,8 @@ TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
 
 void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
   if (!matrix.empty() && !MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
-  CommitPending();
-  Forget();
+  Parts().focus.CommitPending();
+  Parts().history.Forget();
   Take(CopyMatrix(matrix));
 }
 
@@ -152,7 +155,7 @@ Extended TQorCustomMatrixEdit::Element(quint32 row, quint32 col) const {
 void TQorCustomMatrixEdit::setElement(quint32 row, quint32 col, Extended value) {
   CheckElement(row, col, NoOfCols());
   Store(row, col, value);
-  ForgetCommand();
+  Parts().history.ForgetCommand();
   Redisplay();
 }
 
@@ -161,7 +164,7 @@ quint32 TQorCustomMatrixEdit::CurrentCol() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setCurrentCol(quint32 col) {
-  SetCurrentCol(col);
+  Parts().cols.Window().SetCurrent(col);
 }
 
 quint32 TQorCustomMatrixEdit::RowEditFocus() const noexcept {
@@ -169,7 +172,7 @@ quint32 TQorCustomMatrixEdit::RowEditFocus() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setRowEditFocus(quint32 edit) {
-  FocusCell(edit, Cols().Focus());
+  Parts().focus.FocusCell(edit, Cols().Focus());
 }
 
 quint32 TQorCustomMatrixEdit::ColEditFocus() const noexcept {
@@ -177,24 +180,24 @@ quint32 TQorCustomMatrixEdit::ColEditFocus() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setColEditFocus(quint32 edit) {
-  FocusCell(Rows().Focus(), edit);
+  Parts().focus.FocusCell(Rows().Focus(), edit);
 }
 
 void TQorCustomMatrixEdit::ScrollLeft(quint32 cols) {
-  if (cols <= DisplayLeftCol()) SetLeft(DisplayLeftCol() - cols);
+  if (cols <= DisplayLeftCol()) Parts().cols.SetTop(DisplayLeftCol() - cols);
 }
 
 void TQorCustomMatrixEdit::ScrollRight(quint32 cols) {
   const quint32 most = std::numeric_limits<quint32>::max() - DisplayLeftCol();
-  SetLeft(DisplayLeftCol() + std::min(cols, most));
+  Parts().cols.SetTop(DisplayLeftCol() + std::min(cols, most));
 }
 
 void TQorCustomMatrixEdit::ScrollLeftMost() {
-  SetLeft(0);
+  Parts().cols.SetTop(0);
 }
 
 void TQorCustomMatrixEdit::ScrollRightMost() {
-  SetLeft(NoOfCols());
+  Parts().cols.SetTop(NoOfCols());
 }
 
 Extended TQorCustomMatrixEdit::Value(quint32 row, quint32 col) const {
@@ -215,8 +218,8 @@ void TQorCustomMatrixEdit::Store(quint32 row, quint32 col, Extended value) {
   }
 }
 
-void TQorCustomMatrixEdit::Notify(CellEvent what, quint32 row, quint32 col) {
-  switch (what) {
+void TQorCustomMatrixEdit::Notify(CellEvent event, quint32 row, quint32 col) {
+  switch (event) {
     case CellEvent::kEnter:
       Q_EMIT OnCellEnter(row, col);
       break;
@@ -253,25 +256,12 @@ QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended val
   return color == usual ? QColor() : color;
 }
 
-void TQorCustomMatrixEdit::LeftChange(quint32 left) {
-  Q_EMIT OnLeftChange(left);
-}
-
-void TQorCustomMatrixEdit::CurrColChange(quint32 before, quint32 now) {
-  Q_EMIT OnCurrColChange(before, now);
-}
-
 void TQorCustomMatrixEdit::VirtualModeChanged() {
   if (!VirtualMode()) TrimStore();
 }
 
 void TQorCustomMatrixEdit::CornerClick() {
   Q_EMIT OnCornerBtnClick();
-}
-
-void TQorCustomMatrixEdit::Arrange() {
-  CellPanel::Arrange();
-  corner_->setGeometry(CornerRect());
 }
 
 }  // namespace qorvex::inline QorvexMatrixEdit

@@ -6,7 +6,7 @@
 
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/text_cell.h"
-#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexVectorEdit {
 
@@ -33,20 +33,18 @@ class TQorLabelledVectorEdit::LabelCell : public TextCell {
 };
 
 TQorLabelledVectorEdit::TQorLabelledVectorEdit(QWidget* parent) : TQorVectorEdit(parent) {
-  // The base class could not ask this one yet.
-  GridBuilt();
-  Arrange();
-  Redisplay();
+  Parts().grid.SetHeader(
+      {.make = [this](QWidget* panel, quint32 row_edit) { return MakeLabel(panel, row_edit); },
+       .show = [this](TextCell& label, quint32 row_edit,
+                      bool used) { ShowLabel(label, row_edit, used); },
+       .name = [this](quint32 row_edit) { return LabelName(row_edit); },
+       .apply = [this](TextCell& label,
+                       const CellSettings& settings) { ApplyTo(label, settings); }});
+  Parts().grid.SetHeaderWidth(label_width_);
+  FitGrid();
 }
 
-TQorLabelledVectorEdit::~TQorLabelledVectorEdit() {
-  for (LabelCell* label : labels_) {
-    label->disconnect(this);
-    label->removeEventFilter(this);
-    LeaveText(label);
-    delete label;
-  }
-}
+TQorLabelledVectorEdit::~TQorLabelledVectorEdit() = default;
 
 void TQorLabelledVectorEdit::setLabelAlignment(Qt::Alignment alignment) {
   label_alignment_ = alignment;
@@ -60,7 +58,7 @@ void TQorLabelledVectorEdit::setLabelNumOffSet(int offset) {
 
 void TQorLabelledVectorEdit::setLabelType(TQorLabelType type) {
   if (type == label_type_) return;
-  CommitPending();
+  Parts().focus.CommitPending();
   label_type_ = type;
   if (type == ltNumbered) setLabelsEditable(false);
   if (type == ltCustom) GrowCustomLabels(NoOfRows());
@@ -68,13 +66,14 @@ void TQorLabelledVectorEdit::setLabelType(TQorLabelType type) {
 }
 
 void TQorLabelledVectorEdit::setLabelsEditable(bool editable) {
-  CommitPending();
+  Parts().focus.CommitPending();
   labels_editable_ = editable;
   ApplyLabelSettings();
 }
 
 void TQorLabelledVectorEdit::setLabelWidth(int width) {
   label_width_ = std::max(width, 0);
+  Parts().grid.SetHeaderWidth(label_width_);
   Arrange();
 }
 
@@ -99,7 +98,7 @@ void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
     return;
   } else {
     SetCustomLabel(row, label);
-    ForgetCommand();
+    Parts().history.ForgetCommand();
   }
   Redisplay();
 }
@@ -118,7 +117,7 @@ void TQorLabelledVectorEdit::Sort() {
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto before = std::make_shared<QStringList>(custom_labels_);
-    AlsoExchange([this, before] {
+    Parts().history.ExtendCommand([this, before] {
       std::swap(custom_labels_, *before);
       Redisplay();
     });
@@ -137,7 +136,7 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
       Redisplay();
     };
     swap();
-    AlsoExchange(swap);
+    Parts().history.ExtendCommand(swap);
   }
 }
 
@@ -152,28 +151,19 @@ QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
       .arg(Label(row), name);
 }
 
-void TQorLabelledVectorEdit::Notify(CellEvent what, quint32 row, quint32 col) {
-  if (what == CellEvent::kEnter) in_labels_ = false;
-  TQorVectorEdit::Notify(what, row, col);
-}
-
-TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(quint32 row_edit) {
+TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* panel,
+                                                                     quint32 row_edit) {
   auto* const label =
-      new LabelCell(this, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
-  connect(label, &TextCell::Entered, this, [this, row_edit] { LabelEnter(row_edit); });
-  connect(label, &TextCell::Left, this, [this, row_edit] { LabelExit(row_edit); });
-  Watch(label);
+      new LabelCell(panel, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
+  connect(label, &TextCell::Entered, this, [this, label, row_edit] {
+    Parts().focus.Enter(*label, {row_edit, 0}, true);
+  });
+  connect(label, &TextCell::Left, this, [this, label, row_edit] {
+    Parts().focus.Leave(*label);
+    Q_EMIT OnLabelExit(Rows().Top() + row_edit);
+  });
+  Watch(*label);
   return label;
-}
-
-void TQorLabelledVectorEdit::LabelEnter(quint32 row_edit) {
-  in_labels_ = true;
-  EnterText(labels_[row_edit], row_edit, 0);
-}
-
-void TQorLabelledVectorEdit::LabelExit(quint32 row_edit) {
-  LeaveText(labels_[row_edit]);
-  Q_EMIT OnLabelExit(Rows().Top() + row_edit);
 }
 
 void TQorLabelledVectorEdit::ChangeLabel(quint32 row_edit, const QString& text) {
@@ -188,74 +178,31 @@ void TQorLabelledVectorEdit::ChangeLabel(quint32 row_edit, const QString& text) 
   }
 }
 
-void TQorLabelledVectorEdit::GridBuilt() {
-  while (labels_.size() > Rows().Edits()) {
-    LabelCell* const label = labels_.back();
-    labels_.pop_back();
-    label->disconnect(this);
-    label->removeEventFilter(this);
-    LeaveText(label);
-    label->hide();
-    label->deleteLater();
-  }
-  while (labels_.size() < Rows().Edits()) {
-    const std::size_t edit = labels_.size();
-    labels_.push_back(MakeLabel(static_cast<quint32>(edit)));
-    if (edit > 0) setTabOrder(Cell(edit - 1, 0), labels_[edit]);
-    setTabOrder(labels_[edit], Cell(edit, 0));
-    labels_[edit]->show();
-  }
-  ApplyLabelSettings();
-}
-
-void TQorLabelledVectorEdit::CellSettingsApplied() {
-  ApplyLabelSettings();
-}
-
 void TQorLabelledVectorEdit::ApplyLabelSettings() {
-  const CellSettings settings = EffectiveSettings();
-  // Labels that nobody types look like the header of a table.
+  Parts().grid.ApplyToHeader(EffectiveSettings());
+}
+
+void TQorLabelledVectorEdit::ApplyTo(TextCell& label, const CellSettings& settings) const {
+  // Labels that cannot be typed look like the header of a table.
   QPalette palette;
   if (!labels_editable_) palette.setColor(QPalette::Base, Qt::transparent);
-  for (LabelCell* label : labels_) {
-    label->setPalette(palette);
-    label->setFrame(labels_editable_);
-    label->setAlignment(label_alignment_);
-    label->setReadOnly(!labels_editable_);
-    label->setFocusPolicy(labels_editable_ && TabStop() ? Qt::StrongFocus : Qt::ClickFocus);
-    label->SetSelectionBehaviour(settings.selection);
-  }
+  label.setPalette(palette);
+  label.setFrame(labels_editable_);
+  label.setAlignment(label_alignment_);
+  label.setReadOnly(!labels_editable_);
+  label.setFocusPolicy(labels_editable_ && TabStop() ? Qt::StrongFocus : Qt::ClickFocus);
+  label.SetSelectionBehaviour(settings.selection);
 }
 
-void TQorLabelledVectorEdit::Redisplayed() {
-  for (std::size_t edit = 0; edit < labels_.size(); ++edit) {
-    LabelCell* const label = labels_[edit];
-    const quint32 row = Rows().Top() + static_cast<quint32>(edit);
-    const bool used = edit < Rows().UsedEdits();
-    label->Show(used ? Label(row) : QString());
-    label->setEnabled(used);
-    const QString name = QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1")
-                             .arg(qint64{row} + 1);
-    if (label->accessibleName() != name) label->setAccessibleName(name);
-  }
+void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool used) {
+  const quint32 row = Rows().Top() + row_edit;
+  static_cast<LabelCell&>(label).Show(used ? Label(row) : QString());
+  label.setEnabled(used);
 }
 
-int TQorLabelledVectorEdit::LeadingWidth() const {
-  return label_width_;
-}
-
-TextCell* TQorLabelledVectorEdit::NavigationTarget(std::size_t row_edit,
-                                                   std::size_t col_edit) const {
-  if (in_labels_) return labels_[row_edit];
-  return TQorVectorEdit::NavigationTarget(row_edit, col_edit);
-}
-
-void TQorLabelledVectorEdit::Arrange() {
-  TQorVectorEdit::Arrange();
-  for (std::size_t edit = 0; edit < labels_.size(); ++edit) {
-    const int height = CellRect(edit, 0).height();
-    labels_[edit]->setGeometry(Placed({0, static_cast<int>(edit) * height, label_width_, height}));
-  }
+QString TQorLabelledVectorEdit::LabelName(quint32 row_edit) const {
+  return QCoreApplication::translate("TQorLabelledVectorEdit", "Label of row %1")
+      .arg(qint64{Rows().Top()} + row_edit + 1);
 }
 
 }  // namespace qorvex::inline QorvexVectorEdit

@@ -24,11 +24,8 @@ class QORVEX_EXPORT TQorMatrixEdit final : public TQorCustomMatrixEdit {
   explicit TQorMatrixEdit(QWidget* parent = nullptr);
   ~TQorMatrixEdit() override;
 
-  /// Reads the texts of cells in place of the control; empty for none.
+  /// Reads the texts of cells in place of the control; empty by default.
   TQorConvertEvent OnConvert;
-
- private:
-  [[nodiscard]] std::optional<Extended> DoConvert(const QString& text) const;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexMatrixEdit)

@@ -2,18 +2,12 @@
 
 #include <algorithm>
 
-#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexMatrixFractEdit {
 
-TQorMatrixFractEdit::TQorMatrixFractEdit(QWidget* parent)
-    : TQorCustomMatrixEdit(parent, [this](QWidget* panel) {
-        auto* const cell = new TQorFractEdit(panel);
-        cell->setFractionDisplay(display_);
-        cell->setDecimalsFract(decimals_);
-        return cell;
-      }) {
-  BuildGrid();
+TQorMatrixFractEdit::TQorMatrixFractEdit(QWidget* parent) : TQorCustomMatrixEdit(parent) {
+  BuildGrid([this](QWidget* panel) { return new TQorFractEdit(panel, display_, decimals_); });
 }
 
 TQorMatrixFractEdit::~TQorMatrixFractEdit() = default;
@@ -29,13 +23,11 @@ void TQorMatrixFractEdit::setDecimalsFract(int decimals) {
 }
 
 void TQorMatrixFractEdit::ApplyToCells() {
-  for (std::size_t row = 0; row < Rows().Edits(); ++row) {
-    for (std::size_t col = 0; col < Cols().Edits(); ++col) {
-      auto* const cell = static_cast<TQorFractEdit*>(Cell(row, col));
-      cell->setFractionDisplay(display_);
-      cell->setDecimalsFract(decimals_);
-    }
-  }
+  Parts().grid.ForEach([this](TQorCustomEdit& cell) {
+    auto& fraction = static_cast<TQorFractEdit&>(cell);
+    fraction.setFractionDisplay(display_);
+    fraction.setDecimalsFract(decimals_);
+  });
   Redisplay();
 }
 
@@ -48,7 +40,7 @@ void TQorMatrixFractEdit::setFractElement(quint32 row, quint32 col,
                                           const TQorMixedFraction& fraction) {
   CheckElement(row, col, quint64{NoOfCols()} + 1);
   Store(row, col, Fraction2Float(fraction));
-  ForgetCommand();
+  Parts().history.ForgetCommand();
   Redisplay();
 }
 

@@ -9,8 +9,8 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/swap.h"
-#include "qorvex/base_controls/detail/number_text.h"
-#include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/vector/building.h"
 #include "qorvex/vector/sorting.h"
 #include "qorvex/vector/transforms.h"
@@ -18,15 +18,10 @@
 namespace qorvex::inline QorvexVectorEdit {
 
 TQorVectorEdit::TQorVectorEdit(QWidget* parent)
-    : CellPanel(parent, GridAxes::kRows, QorvexControls::detail::CurrentRule::kFollowsTop,
-                [this](QWidget* panel) {
-                  auto* const cell = new TQorFloatEdit(panel);
-                  cell->OnConvert = [this](const QString& text) { return DoConvert(text); };
-                  return cell;
-                }) {
-  SetColCount(1);
-  SetColEdits(1);
-  SetRowEdits(kDefaultEdits);
+    : CellPanel(parent, *this, GridAxes::kRows, QorvexControls::detail::CurrentRule::kFollowsTop,
+                {.after_top = [this](quint32 top) { Q_EMIT OnAfterTopChange(top); }}, {}) {
+  SetCount(Parts().cols, 1);
+  Build([this](QWidget* panel) { return new TQorFloatEdit(panel, OnConvert); }, kDefaultEdits, 1);
 }
 
 TQorVectorEdit::~TQorVectorEdit() = default;
@@ -36,7 +31,7 @@ int TQorVectorEdit::NoOfEdits() const noexcept {
 }
 
 void TQorVectorEdit::setNoOfEdits(int edits) {
-  SetRowEdits(edits);
+  SetEdits(Parts().rows, edits);
 }
 
 quint32 TQorVectorEdit::NoOfRows() const noexcept {
@@ -50,10 +45,10 @@ void TQorVectorEdit::setNoOfRows(quint32 rows) {
 }
 
 void TQorVectorEdit::Resize(quint32 rows) {
-  SetRowCount(rows);
-  // Handlers that ran on the way could read the elements that are going.
+  SetCount(Parts().rows, rows);
+  // After the handlers, which may still read the elements that go.
   if (!VirtualMode()) TrimStore();
-  Forget();
+  Parts().history.Forget();
 }
 
 void TQorVectorEdit::TrimStore() {
@@ -78,7 +73,7 @@ void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
   const TQorFloatVector copy{std::span<const Extended>(vector)};
   const quint32 rows_before = NoOfRows();
   const Update update(*this);
-  CommitPending();
+  Parts().focus.CommitPending();
   Resize(static_cast<quint32>(copy.size()));
   if (VirtualMode()) {
     for (quint32 row = 0; row < std::min<std::size_t>(NoOfRows(), copy.size()); ++row) {
@@ -103,7 +98,7 @@ Extended TQorVectorEdit::Element(quint32 row) const {
 void TQorVectorEdit::setElement(quint32 row, Extended value) {
   CheckRow(row);
   Store(row, 0, value);
-  ForgetCommand();
+  Parts().history.ForgetCommand();
   Redisplay();
 }
 
@@ -112,7 +107,7 @@ quint32 TQorVectorEdit::EditFocus() const noexcept {
 }
 
 void TQorVectorEdit::setEditFocus(quint32 edit) {
-  FocusCell(edit, 0);
+  Parts().focus.FocusCell(edit, 0);
 }
 
 Extended TQorVectorEdit::Value(quint32 row, quint32) const {
@@ -128,8 +123,8 @@ void TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
   }
 }
 
-void TQorVectorEdit::Notify(CellEvent what, quint32 row, quint32) {
-  switch (what) {
+void TQorVectorEdit::Notify(CellEvent event, quint32 row, quint32) {
+  switch (event) {
     case CellEvent::kEnter:
       Q_EMIT OnCellEnter(row);
       break;
@@ -153,23 +148,19 @@ QString TQorVectorEdit::CellName(quint32 row, quint32) const {
   return QCoreApplication::translate("TQorVectorEdit", "Row %1").arg(qint64{row} + 1);
 }
 
-void TQorVectorEdit::AfterTopChange(quint32 top) {
-  Q_EMIT OnAfterTopChange(top);
+QColor TQorVectorEdit::SpecialColor(quint32, quint32, Extended) const {
+  return {};
 }
 
 void TQorVectorEdit::VirtualModeChanged() {
   if (!VirtualMode()) TrimStore();
 }
 
-std::optional<Extended> TQorVectorEdit::DoConvert(const QString& text) const {
-  return OnConvert ? OnConvert(text) : QorvexBaseControls::detail::ParseLocalNumber(text, locale());
-}
-
 void TQorVectorEdit::VectorCommand(const std::function<void()>& command) {
   Command([&] {
     const auto before = std::make_shared<TQorFloatVector>(std::span<const Extended>(FullStore()));
     command();
-    Remember([this, before] {
+    Parts().history.RecordCommand([this, before] {
       std::swap(store_, *before);
       Redisplay();
     });
@@ -213,13 +204,13 @@ void TQorVectorEdit::Sort() {
 }
 
 void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
-  CommitPending();
+  Parts().focus.CommitPending();
   CheckRow(first);
   CheckRow(second);
   Command([=, this] {
     const auto swap = [=, this] { SwapXY(FullStore()[first], FullStore()[second]); };
     swap();
-    Remember([this, swap] {
+    Parts().history.RecordCommand([this, swap] {
       swap();
       Redisplay();
     });
@@ -228,7 +219,7 @@ void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
 
 void TQorVectorEdit::CopyRows(quint32 first, quint32 count) {
   const quint32 begin = std::min(first, NoOfRows());
-  CopyBlock(begin, std::min(count, NoOfRows() - begin), 0, 1);
+  CopyBlock({begin, std::min(count, NoOfRows() - begin), 0, 1});
 }
 
 }  // namespace qorvex::inline QorvexVectorEdit

@@ -7,7 +7,7 @@ namespace qorvex {
 
 namespace {
 
-// Loaded anew, a package checks shapes, whatever a program had set before.
+// A package that is loaded again checks shapes, whatever the program had set before.
 void CheckShapesOfMatrices() {
   QorvexMatrix::QorMatrixRectangularCheck = true;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The package qorvex_stats_rt: its units.
+/// The units of the package qorvex_stats_rt.
 
 #include <span>
 
@@ -10,14 +10,14 @@
 
 namespace qorvex {
 
-/// The units of the package, each after those that it builds on. Loading libqorvex_stats_rt
-/// initialises them in this order, once, however often it is loaded; unloading finalises them in
-/// the reverse order.
+/// The units of the package, each after those it depends on.
 ///
-/// In a static library there is no loading: a program that does not call this function leaves the
-/// list out, and the units are as their initialisation would leave them.
-///
-/// A program that has made widgets must keep the package loaded: Qt holds on to their types.
+/// - Loading libqorvex_stats_rt initialises them in this order, once, however often it is loaded.
+///   Unloading finalises them in reverse order.
+/// - A static library is not loaded: a program that does not call this function does not link the
+///   list, and the units are already in their initialised state.
+/// - A program that has created widgets must keep the package loaded, because Qt holds on to their
+///   types.
 [[nodiscard]] QORVEX_EXPORT std::span<const PackageUnit> PackageUnits() noexcept;
 
 }  // namespace qorvex

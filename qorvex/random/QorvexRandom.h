@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Unit QorvexRandom: random variates.
+/// Unit QorvexRandom: random variates from any source of uniform values.
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/random.h"

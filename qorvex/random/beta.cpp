@@ -11,21 +11,24 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// The draw from which on the candidate would be beyond the largest value.
+// ln 4, with the digits that the method gives it.
+constexpr Extended kLogFour = 1.3862943611198906L;
+
+// For draws from this limit on, the candidate would exceed the largest value.
 Extended Limit(Extended hi, Extended lo) {
   if (lo > 1) return 1;
-  // The power is seldom needed: below 2^-64 it leaves 1.
+  // The power is rarely needed: if it is below 2^-64, the limit rounds to 1.
   if (lo * std::ilogb(lo * detail::kVeryLarge / hi) > 64) return 1;
   return 1 / (1 + XtoY(hi / (lo * detail::kVeryLarge), lo));
 }
 
-// A variate for a first shape that is not the smaller one.
+// The variate with the first shape hi and the second shape lo, for hi >= lo.
 Extended OrderedBeta(Extended hi, Extended lo, UniformSource source) {
   const Extended ratio = hi / lo;
   const Extended sum = lo + hi;
   const Extended shape = lo <= 1 ? lo : std::sqrt((2 * lo * hi - sum) / (sum - 2));
   const Extended limit = Limit(hi, lo);
-  // Rounding would decide which candidates of larger shapes are accepted.
+  // For larger shapes, rounding would decide which candidates are accepted.
   constexpr Extended largest_sum = 1e18L;
   if (!(sum <= largest_sum && std::isfinite(ratio))) RaiseMathError(rsInvalidValue);
   for (;;) {
@@ -39,8 +42,7 @@ Extended OrderedBeta(Extended hi, Extended lo, UniformSource source) {
     }
     const Extended v = std::log(u1 / (1 - u1)) / shape;
     const Extended w = ratio * std::exp(v);
-    const Extended t =
-        v * (shape + hi) + sum * std::log((ratio + 1) / (w + 1)) - 1.3862943611198906L;
+    const Extended t = v * (shape + hi) + sum * std::log((ratio + 1) / (w + 1)) - kLogFour;
     if (z - 1 <= t || (z - z * t <= 1 && std::log(z) <= t)) return w / (1 + w);
   }
 }

@@ -11,16 +11,17 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// From 0 upwards, for n p below 30.
-Extended Inverted(Extended n, Extended p, UniformSource source) {
-  // A value that is left over here is what rounding lost of the sum of all probabilities.
+// Inversion from 0 upwards, for n p < 30.
+Extended InvertFromZero(Extended n, Extended p, UniformSource source) {
+  // A draw that is not reached by then exceeds the sum of all probabilities, which rounding has
+  // left below 1: draw again.
   const Extended last = std::min<Extended>(n, 110);
-  const Extended at_0 = detail::PowerOfComplement(p, n);
+  const Extended at_zero = detail::PowerOfComplement(p, n);
   const Extended odds = p / (1 - p);
   const Extended a = odds * (n + 1);
   for (;;) {
     Extended u = source();
-    Extended probability = at_0;
+    Extended probability = at_zero;
     for (Extended y = 0; y <= last;) {
       if (u < probability) return y;
       u -= probability;
@@ -30,7 +31,7 @@ Extended Inverted(Extended n, Extended p, UniformSource source) {
   }
 }
 
-// The regions that cover the probabilities, for p of at most 1/2 and n p of at least 30.
+// The regions that cover the probabilities, for p <= 1/2 and n p >= 30.
 class Regions {
  public:
   Regions(Extended n, Extended p) : n_(n), p_(p) {
@@ -70,13 +71,13 @@ class Regions {
         if (y > n_) continue;
         v *= (u - left_tail_) * right_rate_;
       }
-      if (IsBelow(v, y)) return y;
+      if (IsAccepted(v, y)) return y;
     }
   }
 
  private:
-  // Whether v is at most P(y) / P(mode).
-  bool IsBelow(Extended v, Extended y) const {
+  // Whether v <= P(y) / P(mode). Quick bounds decide most cases.
+  bool IsAccepted(Extended v, Extended y) const {
     const detail::BinomialRatios ratios{n_, p_, q_, mode_};
     const Extended distance = std::fabs(y - mode_);
     if (distance <= 20 || distance >= variance_ / 2 - 1) return v <= ratios.Quotient(y);
@@ -95,7 +96,7 @@ class Regions {
   Extended q_ = 1 - p_;
   Extended mode_;
   Extended variance_;
-  // The half width of the triangle, its middle and its ends.
+  // The triangle: its half width, middle and ends.
   Extended triangle_;
   Extended middle_;
   Extended left_;
@@ -103,7 +104,7 @@ class Regions {
   Extended slope_;
   Extended left_rate_;
   Extended right_rate_;
-  // The areas up to the end of each region; that of the triangle is its half width.
+  // The cumulative area at the end of each region. The area of the triangle is its half width.
   Extended parallelograms_;
   Extended left_tail_;
   Extended right_tail_;
@@ -116,7 +117,7 @@ Extended Random_Binomial2(std::int64_t n, Extended p, UniformSource source) {
   const Extended trials = static_cast<Extended>(n);
   const Extended r = std::min(p, 1 - p);
   const Extended variate =
-      trials * r < 30 ? Inverted(trials, r, source) : Regions(trials, r)(source);
+      trials * r < 30 ? InvertFromZero(trials, r, source) : Regions(trials, r)(source);
   return p > 0.5L ? trials - variate : variate;
 }
 

@@ -5,8 +5,8 @@
 ///
 /// Voratas Kachitvichyanukul and Bruce W. Schmeiser (1988), "Binomial random variate generation",
 /// Communications of the ACM 31, 216-222: a triangle, two parallelograms and two exponential tails
-/// cover the probabilities. Of the four Stirling corrections in the acceptance test the last
-/// two are subtracted, where the article adds them by mistake.
+/// cover the probabilities. The last two of the four Stirling corrections in the acceptance test
+/// are subtracted here; the article adds them by mistake.
 
 #include <cstdint>
 
@@ -17,11 +17,16 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// The number of successes in n trials of probability p, for any n that an int64 holds. Where n
-/// times the smaller of p and 1-p is below 30, one uniform value is inverted from 0 upwards;
-/// otherwise an attempt takes two, and 1.1 to 1.8 attempts are needed on average. The cost does not
-/// grow with n. EMathError rsInvalidValue unless n >= 0 and 0 <= p <= 1. Stuck on NaN, for some
-/// parameters also on 1/2 and 1 - 2^-64.
+/// The number of successes in n trials, each with probability p.
+///
+/// - Certain outcomes are exact: 0 for p = 0 or n = 0, and n for p = 1.
+/// - EMathError rsInvalidValue unless n >= 0 and 0 <= p <= 1 (NaN included).
+/// - Method: inversion from 0 upwards if n min(p, 1-p) < 30, otherwise rejection.
+/// - Draws: one uniform value for the inversion. Rejection takes two an attempt, and 1.1 to 1.8
+///   attempts on average.
+/// - Cost: does not grow with n.
+/// - Never returns if the source only ever yields NaN; for some parameters also if it only ever
+///   yields 1/2 or 1 - 2^-64.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Binomial2(std::int64_t n, Extended p,
                                                       UniformSource source);
 [[nodiscard]] inline Extended Random_Binomial2(std::int64_t n, Extended p) {

@@ -15,7 +15,7 @@ Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
   if (p == 0) return 0;
   if (p == 1) return trials;
 
-  // (n + 1) p may round to n + 1.
+  // (n + 1) p can round to n + 1.
   const Extended mode = std::min(std::trunc((trials + 1) * p), trials);
   const Extended at_mode =
       std::exp(LnGamma(trials + 1) - LnGamma(mode + 1) - LnGamma(trials - mode + 1) +
@@ -45,7 +45,8 @@ Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
       if (!passes(up)) return high;
     }
   }
-  // Either both ends are reached, or what is beyond is too small for the remainder.
+  // Both ends have been reached, or the remaining probabilities are too small to change the
+  // remainder.
   return mode;
 }
 

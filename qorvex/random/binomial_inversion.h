@@ -2,6 +2,9 @@
 
 /// @file
 /// Binomial variates by inversion from the mode.
+///
+/// C. D. Kemp (1986), "A modal method for generating binomial variables", Communications in
+/// Statistics: Theory and Methods 15, 805-813.
 
 #include <cstdint>
 
@@ -12,14 +15,17 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// The number of successes in n trials of probability p, by a search that starts at the mode and
-/// goes down and up in turn (C. D. Kemp 1986, "A modal method for generating binomial variables",
-/// Communications in Statistics: Theory and Methods 15, 805-813). Exactly one uniform value is
-/// taken, so the variate depends on it alone; the search takes about sqrt(n p (1-p)) steps.
-/// Probabilities are summed in 64-bit doubles: a value that rounding leaves over when both ends are
-/// reached gives the mode, which happens with probability 1e-16 n or so. EMathError rsInvalidValue
-/// unless n >= 0 and 0 <= p <= 1. Stuck on none. Random_Binomial2 takes larger n, and its cost does
-/// not grow.
+/// The number of successes in n trials, each with probability p. The search starts at the mode and
+/// goes down and up alternately.
+///
+/// - Certain outcomes are exact: 0 for p = 0 or n = 0, and n for p = 1.
+/// - EMathError rsInvalidValue unless n >= 0 and 0 <= p <= 1 (NaN included).
+/// - Draws: exactly one uniform value, which alone decides the variate.
+/// - Probabilities are summed in 64-bit doubles. If the search reaches both ends, which rounding
+///   causes with a probability of about 1e-16 n, the result is the mode.
+/// - Cost: about sqrt(n p (1-p)) steps. Random_Binomial2 takes larger n, and its cost does not grow
+///   with n.
+/// - Returns for every source.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Binomial1(std::int32_t n, Extended p,
                                                       UniformSource source);
 [[nodiscard]] inline Extended Random_Binomial1(std::int32_t n, Extended p) {

@@ -12,8 +12,10 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// A chi-square variate: twice a gamma variate of half the degrees of freedom, with its methods,
-/// draws and sources. EMathError rsInvalidShape for fewer than one degree of freedom.
+/// A chi-square variate with df degrees of freedom: 2 Random_Gamma(df / 2).
+///
+/// - EMathError rsInvalidShape if df < 1.
+/// - Draws and sources: as for Random_Gamma.
 [[nodiscard]] QORVEX_EXPORT Extended Random_ChiSq(std::int32_t df, UniformSource source);
 [[nodiscard]] inline Extended Random_ChiSq(std::int32_t df) {
   return Random_ChiSq(df, ClassicRandom);

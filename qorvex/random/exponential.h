@@ -10,8 +10,11 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// An exponential variate of mean 1: -ln of a uniform value, the first one above 5E-324, so at most
-/// 44.4 for ClassicRandom. One uniform value is taken but for those. Stuck on 0 and NaN.
+/// An exponential variate with mean 1: -ln(u) for the first uniform value u above 5E-324.
+///
+/// - The largest possible value with ClassicRandom is 44.4.
+/// - Draws: one uniform value, and one more for each that is at most 5E-324.
+/// - Never returns if the source only ever yields 0 or NaN.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Exponential(UniformSource source);
 [[nodiscard]] inline Extended Random_Exponential() {
   return Random_Exponential(ClassicRandom);

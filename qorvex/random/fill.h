@@ -1,13 +1,16 @@
 #pragma once
 
 /// @file
-/// Many variates at once.
+/// Routines that produce many variates at once.
 ///
-/// Each routine writes the variates that as many single calls would give, one after the other from
-/// the same source, into any contiguous range of extended values, a TQorFloatVector for instance;
-/// what depends on the parameters alone is computed once. An empty range is left alone, after the
-/// checks. Errors, draws and limits are those of the single variate; after an error in the middle
-/// the elements in front hold variates. O(n).
+/// Each routine fills a contiguous range of extended values, a TQorFloatVector for instance, with
+/// the variates that the same number of single calls would return from the same source. What
+/// depends only on the parameters is computed once.
+///
+/// - An empty range: the parameters are checked, and nothing is drawn.
+/// - Errors, draws and limits: those of the single variate. After an error in the middle, the
+///   elements before it hold variates.
+/// - Cost: O(n).
 
 #include <span>
 
@@ -17,7 +20,7 @@
 
 namespace qorvex::inline QorvexRandom {
 
-/// The source's values themselves.
+/// The values of the source.
 QORVEX_EXPORT void FillUniform(std::span<Extended> variates, UniformSource source = ClassicRandom);
 
 /// Standard normal variates; see Random_Normal.
@@ -27,11 +30,11 @@ QORVEX_EXPORT void FillNormal(std::span<Extended> variates, UniformSource source
 QORVEX_EXPORT void FillNormal(std::span<Extended> variates, Extended mean, Extended std_dev,
                               UniformSource source = ClassicRandom);
 
-/// Exponential variates of mean 1; see Random_Exponential.
+/// Exponential variates with mean 1; see Random_Exponential.
 QORVEX_EXPORT void FillExponential(std::span<Extended> variates,
                                    UniformSource source = ClassicRandom);
 
-/// Gamma variates of scale 1; see Random_Gamma. EMathError as there, before anything is written.
+/// Gamma variates with scale 1; see Random_Gamma. The shape is checked before anything is written.
 QORVEX_EXPORT void FillGamma(std::span<Extended> variates, Extended shape,
                              UniformSource source = ClassicRandom);
 

@@ -11,16 +11,16 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// (k + sqrt(h^2 + k^2)) / h, where a density is greatest. For a negative k far above h it is a
-// difference of near values. A wrong one makes the region too small, and to such an extent in b
-// that it can be out of reach.
+// The mode of a density, (k + sqrt(h^2 + k^2)) / h. For a negative k much larger than h in
+// magnitude this is a difference of nearly equal numbers. An inaccurate mode makes the region too
+// small; the larger b, the more, until no point of it is accepted.
 Extended Mode(Extended h, Extended k, Extended b) {
   const Extended root = std::sqrt(h * h + k * k);
   const Extended mode = (k + root) / h;
   const Extended exact = k < 0 ? h / (root - k) : mode;
   const Extended error = mode / exact - 1;
-  constexpr Extended harmless = 1e-4L;
-  if (!(mode >= detail::kVerySmall && (b + 1) * error * error <= harmless))
+  constexpr Extended max_error = 1e-4L;
+  if (!(mode >= detail::kVerySmall && (b + 1) * error * error <= max_error))
     RaiseMathError(rsInvalidValue);
   return mode;
 }
@@ -28,11 +28,11 @@ Extended Mode(Extended h, Extended k, Extended b) {
 }  // namespace
 
 Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
-  // A variate takes about as many attempts as the root of the larger parameter is.
-  constexpr Extended largest_parameter = 1e14L;
+  // A variate takes about sqrt(max(h, b)) attempts.
+  constexpr Extended max_parameter = 1e14L;
   if (!(b >= 0 && h > 0)) RaiseMathError(rsInvalidValue);
   if (b > 0.25L * h * std::sqrt(detail::kVeryLarge)) RaiseMathError(rsInvalidValue);
-  if (std::max(h, b) > largest_parameter) RaiseMathError(rsInvalidValue);
+  if (std::max(h, b) > max_parameter) RaiseMathError(rsInvalidValue);
   const Extended ym = Mode(h, -(b + 1), b);
   const Extended xm = Mode(h, b - 1, b);
   const Extended c = -0.25L * h;

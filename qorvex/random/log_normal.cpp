@@ -13,7 +13,7 @@ Extended Random_LogNormal(Extended mean, Extended std_dev, UniformSource source)
   if (!(std_dev > 0)) RaiseMathError(rsInvalidStdDev);
   const Extended deviation = CheckedSqrt(std::log(CheckedFinite(std_dev * std_dev)));
   const Extended logarithm = Random_Normal(std::log(mean), deviation, source);
-  // The exponential of a logarithm need not be the mean to the last bit.
+  // exp(ln(mean)) may differ from the mean in the last bit.
   return deviation == 0 ? mean : CheckedExp(logarithm);
 }
 

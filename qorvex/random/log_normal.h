@@ -10,14 +10,18 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// A normal variate's exponential. The logarithm of the variate is normal around ln(mean) with the
-/// variance ln(std_dev^2), so `mean` is the median of the variate, not its mean, and std_dev is no
-/// standard deviation either: for a logarithm of mean m and standard deviation s, pass exp(m) and
-/// exp(s^2 / 2). A std_dev of 1 gives the mean itself, and so does an infinite mean. One normal
-/// variate is drawn. Stuck on 0, 1 - 2^-64 and NaN.
+/// A log-normal variate: exp(z) for a normal variate z with mean ln(mean) and variance
+/// ln(std_dev^2).
 ///
-/// EMathError: rsInvalidMean unless mean > 0; rsInvalidStdDev unless std_dev > 0. EOverflow when
-/// std_dev^2 or the variate is beyond the extended range; EInvalidOp for std_dev < 1.
+/// - `mean` is therefore the median of the variate, and `std_dev` is not its standard deviation.
+///   For a logarithm with mean m and standard deviation s, pass exp(m) and exp(s^2 / 2).
+/// - std_dev = 1 gives `mean` exactly; so does an infinite mean.
+/// - EMathError: rsInvalidMean unless mean > 0; then rsInvalidStdDev unless std_dev > 0 (NaN
+///   included in both).
+/// - Then EOverflow if std_dev^2 is beyond the extended range, EInvalidOp if std_dev < 1, and
+///   EOverflow if the variate is beyond the extended range.
+/// - Draws: those of one normal variate.
+/// - Never returns if the source only ever yields 0, 1 - 2^-64 or NaN.
 [[nodiscard]] QORVEX_EXPORT Extended Random_LogNormal(Extended mean, Extended std_dev,
                                                       UniformSource source);
 [[nodiscard]] inline Extended Random_LogNormal(Extended mean, Extended std_dev) {

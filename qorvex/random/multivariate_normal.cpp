@@ -11,17 +11,18 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// The elements (i, i) to (i, n-1) of a triangle packed by rows are those from Row(i) + i on.
+// A pointer p such that p[j] is the element (i, j), for j >= i, of a triangle packed by rows.
 Extended* Row(TQorFloatVector& triangle, std::size_t n, std::size_t i) {
   return triangle.data() + i * (2 * n - i - 1) / 2;
 }
 
-// The factor of a matrix packed by columns, in a zeroed triangle packed by rows. False at the first
-// pivot that is not positive.
+// Factorises a matrix packed by columns into a zeroed triangle packed by rows. Returns false at the
+// first pivot that is not positive.
 bool Factorise(const TQorFloatVector& covariance, std::size_t n, TQorFloatVector& factor) {
   for (std::size_t i = 0; i < n; ++i) {
     Extended* const row = Row(factor, n, i);
-    // Sums first, in the places of the row: they do not wait for one another.
+    // The row first holds the sums of products. They are independent of one another, so the
+    // processor computes several at a time.
     for (std::size_t above = 0; above < i; ++above) {
       const Extended* const other = Row(factor, n, above);
       for (std::size_t j = i; j < n; ++j) row[j] += other[i] * other[j];

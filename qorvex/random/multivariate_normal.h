@@ -12,19 +12,23 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// A vector of n normal variates with the given means and covariances, n being the length of mean.
+/// A vector of n normal variates with the given means and covariances, where n is the length of
+/// `mean`.
 ///
-/// `covariance` is the upper triangle of the matrix, packed by columns: the element of row r and
-/// column c, counted from 1, is the c(c-1)/2 + r-th; elements beyond the first n(n+1)/2 are not
-/// read. `factor` receives the upper triangular U with U^T U = covariance, packed by rows: element
-/// (r, c) is the (r-1)(2n-r)/2 + c-th. `variate` receives mean + U^T z for n standard normal
-/// variates z, which are drawn in the order of the components. `error` becomes 0; or 1 when the
-/// matrix is not positive definite within rounding or holds NaN, and then `factor` is finished only
-/// up to the failing row, nothing is drawn and `variate` stays as it was.
-///
-/// EMathError: rsVectorEmpty for an empty mean; rsVectorTooSmall for a covariance with fewer than
-/// n(n+1)/2 elements. After an error, the source's own included, nothing has changed. O(n^3). Stuck
-/// on 0, 1 - 2^-64 and NaN.
+/// - `covariance` is the upper triangle of the matrix, packed by columns: the element in row r and
+///   column c, counted from 1, is at position c(c-1)/2 + r. Elements beyond the first n(n+1)/2 are
+///   ignored.
+/// - `factor` receives the upper triangular matrix U with U^T U = covariance, packed by rows:
+///   element (r, c) is at position (r-1)(2n-r)/2 + c.
+/// - `variate` receives mean + U^T z. The n standard normal variates z are drawn in the order of
+///   the components.
+/// - `error` receives 0; or 1 if the matrix is not positive definite within rounding or contains
+///   NaN. Then `factor` is complete only up to the failing row, nothing is drawn, and `variate`
+///   keeps its value.
+/// - EMathError: rsVectorEmpty if `mean` is empty; rsVectorTooSmall if `covariance` has fewer than
+///   n(n+1)/2 elements. No output changes after an error, including errors of the source.
+/// - Cost: O(n^3).
+/// - Never returns if the source only ever yields 0, 1 - 2^-64 or NaN.
 QORVEX_EXPORT void Random_MVNorm(const TQorFloatVector& mean, const TQorFloatVector& covariance,
                                  TQorFloatVector& factor, TQorFloatVector& variate,
                                  std::int32_t& error, UniformSource source);

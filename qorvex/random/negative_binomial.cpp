@@ -10,8 +10,8 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// From 0 upwards.
-Extended Inverted(Extended sk, Extended p, Extended u) {
+// Inversion from 0 upwards.
+Extended InvertFromZero(Extended sk, Extended p, Extended u) {
   Extended probability = detail::PowerOfComplement(p, sk);
   Extended g = sk;
   Extended s = 0;
@@ -20,7 +20,8 @@ Extended Inverted(Extended sk, Extended p, Extended u) {
     ++s;
     const Extended next = g * p * probability / s;
     ++g;
-    // What rounding lost of the sum of all probabilities is not found in those beyond.
+    // Rounding can leave the sum of all probabilities below the draw. Then the remaining terms are
+    // too small to reach it.
     if (next < probability && u - next == u) break;
     probability = next;
   }
@@ -31,12 +32,12 @@ Extended Inverted(Extended sk, Extended p, Extended u) {
 
 Extended Random_Neg_Binomial(Extended sk, Extended p, UniformSource source) {
   if (!(sk > 0 && p > 0 && p < 1)) RaiseMathError(rsInvalidValue);
-  // Some 65 ns each.
-  constexpr Extended most_steps = 2e7L;
+  // A step takes about 65 ns.
+  constexpr Extended max_steps = 2e7L;
   const bool is_direct = p > 0.7L;
   const Extended direct = is_direct ? std::trunc(sk) : 0;
   const Extended rest = sk - direct;
-  if (direct > most_steps || rest * p / (1 - p) > most_steps) RaiseMathError(rsInvalidValue);
+  if (direct > max_steps || rest * p / (1 - p) > max_steps) RaiseMathError(rsInvalidValue);
 
   const Extended log_p = std::log(p);
   Extended x = 0;
@@ -45,9 +46,9 @@ Extended Random_Neg_Binomial(Extended sk, Extended p, UniformSource source) {
     while (!(r > 0)) r = source();
     x += std::trunc(std::log(r) / log_p);
   }
-  // The starting probability would underflow.
+  // The probability of 0 would underflow.
   if (std::log(detail::kVerySmall) / std::log1p(-p) < rest) RaiseMathError(rsInvalidValue);
-  return std::trunc(x + Inverted(rest, p, source()) + 0.5L);
+  return std::trunc(x + InvertFromZero(rest, p, source()) + 0.5L);
 }
 
 }  // namespace qorvex::inline QorvexRandom

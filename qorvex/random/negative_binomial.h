@@ -10,16 +10,16 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// The number of trials of probability p that succeed before the sk-th failure; sk need not be
-/// whole. The mean is sk p / (1-p).
+/// The number of successes, each with probability p, before failure number sk. The count sk need
+/// not be whole. The mean is sk p / (1-p).
 ///
-/// One uniform value is inverted from 0 upwards. For p above 0.7, one more is taken for each whole
-/// unit of sk, as the number of successes before a failure. Stuck, if there are any, on 0 and NaN.
-/// O(mean) for p up to 0.7, O(sk + 1/(1-p)) above.
-///
-/// EMathError rsInvalidValue: unless sk > 0, p > 0 and p < 1; for more than 2E7 steps to be
-/// expected, about 1.5 s; when the probability of 0, from which the inversion starts, is below
-/// 5E-324.
+/// - EMathError rsInvalidValue unless sk > 0 and 0 < p < 1 (NaN included); if more than 2E7 steps,
+///   or about 1.5 s, are expected; or if the probability of 0, where the inversion starts, is below
+///   5E-324.
+/// - Draws: one uniform value, inverted from 0 upwards. If p > 0.7, one more for each whole unit of
+///   sk: the number of successes before one failure.
+/// - Cost: O(mean) if p <= 0.7, otherwise O(sk + 1/(1-p)).
+/// - Never returns if p > 0.7, sk >= 1 and the source only ever yields 0 or NaN.
 [[nodiscard]] QORVEX_EXPORT Extended Random_Neg_Binomial(Extended sk, Extended p,
                                                          UniformSource source);
 [[nodiscard]] inline Extended Random_Neg_Binomial(Extended sk, Extended p) {

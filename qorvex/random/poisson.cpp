@@ -11,8 +11,9 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// For means of at least 10: a normal variate rounded down or, where that is too large too often,
-// one of the difference, below a double exponential hat.
+// For means from 10 on: a normal variate rounded down. Where its probability exceeds the Poisson
+// probability it is accepted only in part; the rest comes from the difference of the two, drawn
+// under a double exponential hat.
 Extended CorrectedNormal(Extended mu, UniformSource source) {
   const Extended deviation = std::sqrt(mu);
   const Extended g = mu + deviation * Random_Normal(source);
@@ -40,14 +41,14 @@ Extended CorrectedNormal(Extended mu, UniformSource source) {
   }
 }
 
-// For smaller means, from 0 upwards.
-Extended Inverted(Extended mu, UniformSource source) {
-  const Extended at_0 = std::exp(-mu);
+// For smaller means: inversion from 0 upwards.
+Extended InvertFromZero(Extended mu, UniformSource source) {
+  const Extended at_zero = std::exp(-mu);
   for (;;) {
     const Extended u = source();
-    if (u <= at_0) return 0;
-    Extended probability = at_0;
-    Extended sum = at_0;
+    if (u <= at_zero) return 0;
+    Extended probability = at_zero;
+    Extended sum = at_zero;
     for (int k = 1; k <= 35; ++k) {
       probability *= mu / static_cast<Extended>(k);
       sum += probability;
@@ -60,7 +61,7 @@ Extended Inverted(Extended mu, UniformSource source) {
 
 Extended Random_Poisson(const Extended& mu, UniformSource source) {
   if (!(mu >= 0 && std::isfinite(mu))) RaiseMathError(rsInvalidValue);
-  return mu >= 10 ? CorrectedNormal(mu, source) : Inverted(mu, source);
+  return mu >= 10 ? CorrectedNormal(mu, source) : InvertFromZero(mu, source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

@@ -11,8 +11,8 @@ Extended Random_T(std::int32_t df, UniformSource source) {
   if (df < 1) RaiseMathError(rsInvalidValue);
   const Extended s = static_cast<Extended>(df);
   const Extended c = -0.25L * (s + 1);
-  // (1 + x/s)^c. Only comparisons need it, so it need not be XtoY's, which takes four times as
-  // long.
+  // (1 + x/s)^c. Only comparisons use it, so the accuracy of XtoY, which takes four times as long,
+  // is not needed.
   const auto power = [s, c](Extended x) { return std::exp(c * std::log1p(x / s)); };
   const Extended a = 4 / power(1);
   const Extended f = 16 / a;

@@ -4,12 +4,13 @@
 /// Student t variates by the ratio of uniforms.
 ///
 /// A. J. Kinderman and J. F. Monahan (1980), "New methods for generating Student's t and gamma
-/// variables", Computing 25, 369-377, with a quick rejection that spares most powers. That test is
-/// exact from three degrees of freedom on. For one and two it also rejects points that belong to
-/// the distribution, and what it leaves is the region of three: Random_T(1) and Random_T(2) have
-/// the distribution of Random_T(3). The probability of a size above 10 is then 0.0021 instead of
-/// 0.063 and 0.0099. Random_Cauchy is the variate of one degree of freedom; for two, and wherever
-/// the tails matter, use a StudentTDistribution quantile of a uniform value.
+/// variables", Computing 25, 369-377, with a quick rejection test that avoids most powers.
+///
+/// That test is exact from three degrees of freedom on. For one and two it also rejects points that
+/// belong to the distribution, and what remains is the region for three: Random_T(1) and
+/// Random_T(2) have the distribution of Random_T(3). P(|T| > 10) is then 0.0021 instead of 0.063
+/// and 0.0099. For one degree of freedom, use Random_Cauchy. For two, and wherever the tails
+/// matter, use the quantile of a StudentTDistribution at a uniform value.
 
 #include <cstdint>
 
@@ -20,9 +21,13 @@
 namespace qorvex::inline QorvexRandom {
 
 /// @{
-/// A t variate. An attempt takes two uniform values; 1.3 to 1.4 attempts are needed on average, 1.7
-/// for one degree of freedom. EMathError rsInvalidValue for fewer than one degree of freedom. Stuck
-/// on 0, 1 - 2^-64 and NaN.
+/// A t variate with df degrees of freedom.
+///
+/// - For df = 1 and df = 2 the distribution is that of df = 3; see above.
+/// - EMathError rsInvalidValue if df < 1.
+/// - Draws: two uniform values an attempt. On average 1.3 to 1.4 attempts are needed, and 1.7 for
+///   one degree of freedom.
+/// - Never returns if the source only ever yields 0, 1 - 2^-64 or NaN.
 [[nodiscard]] QORVEX_EXPORT Extended Random_T(std::int32_t df, UniformSource source);
 [[nodiscard]] inline Extended Random_T(std::int32_t df) {
   return Random_T(df, ClassicRandom);

@@ -1,25 +1,27 @@
 #pragma once
 
 /// @file
-/// Where variates get their uniform values from.
+/// Sources of uniform values, from which all variates are made.
 ///
-/// Every variate of the unit takes its uniform values from a source, which is its last parameter,
-/// and has a short form without it that draws from ClassicRandom. Nothing is kept between calls:
-/// every call computes what its parameters need, so that calls which draw from sources of their own
-/// may run on several threads. Whole numbers are held in extended values, too.
+/// Every routine takes the source as its last parameter. Its short form has no such parameter and
+/// draws from ClassicRandom.
 ///
-/// Equal sources give the same bits on processors of one family. Logarithms and exponentials are
-/// the processor's, whose last bit differs between makes: elsewhere the last digit of what is not a
-/// count can differ, and rarely a rejection loop takes another branch.
-///
-/// A source is expected to return independent values in [0, 1), with all 64 bits if the far tails
-/// matter: a source with a step of 2^-53 has no normal variate beyond 12.1, for instance. Values
-/// outside are not guarded against. A drawn 0 whose logarithm the normal or the gamma variate needs
-/// raises EZeroDivide, a negative value EInvalidOp; exceptions of the source pass through.
-///
-/// Rejection draws again, so a call does not return while the source keeps returning one value that
-/// is never accepted. Each routine names those of 0, 1/2, 1 - 2^-64 and NaN on which it is "stuck".
-/// With a source that moves, every call ends, whatever the parameters.
+/// - State: none is kept between calls. Every call computes what its parameters need, so calls with
+///   different sources may run on different threads at the same time.
+/// - Results: extended values, including whole numbers.
+/// - Requirements: a source should return independent values in [0, 1), with all 64 bits if the far
+///   tails matter. A source with steps of 2^-53, for instance, yields no normal variate beyond
+///   12.1. Values outside [0, 1) are not checked.
+/// - Reproducibility: equal sources give the same bits on processors of one family. Logarithms and
+///   exponentials are the processor's, and their last bit differs between makes of processors. On
+///   another make, variates other than counts may differ in the last digit, and rarely a rejection
+///   loop takes a different branch.
+/// - Errors: if the normal or the gamma variate needs the logarithm of a drawn value, 0 raises
+///   EZeroDivide and a negative value EInvalidOp. Exceptions of the source pass through.
+/// - Termination: rejection methods draw again until a candidate is accepted, so a call never
+///   returns if the source keeps returning a value that is never accepted. For each routine the
+///   documentation names those among 0, 1/2, 1 - 2^-64 and NaN. If the values vary, every call
+///   returns, whatever its parameters.
 
 #include <concepts>
 #include <cstddef>
@@ -42,7 +44,7 @@ template <class Callable>
 inline constexpr bool kIsFunction =
     std::is_function_v<std::remove_pointer_t<std::remove_cvref_t<Callable>>>;
 
-// A source that is no TQorRandomFunc.
+// A callable that returns floating values and does not convert to a TQorRandomFunc.
 template <class Callable>
 concept OtherSource =
     !std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
@@ -50,12 +52,12 @@ concept OtherSource =
     std::floating_point<std::remove_cvref_t<std::invoke_result_t<Callable&>>>;
 /// @endcond
 
-/// A reference to a uniform source: a TQorRandomFunc, or any other callable without arguments whose
-/// result is a floating value, such as a lambda around an engine of the application's own.
+/// A reference to a uniform source: a TQorRandomFunc, or any other callable without arguments that
+/// returns a floating value, such as a lambda around your own engine.
 ///
-/// The callable is not copied and must outlive the reference, which is meant for parameters: one
-/// that is written in the call lives long enough. A plain function must not be null. Drawing costs
-/// one indirect call.
+/// The class is meant for parameters. The callable is not copied and must outlive the reference; a
+/// temporary in the call expression does. A function pointer must not be null. Each draw costs one
+/// indirect call.
 class UniformSource {
  public:
   /// @{
@@ -97,8 +99,8 @@ class UniformSource {
   Extended (*call_)(Target) = nullptr;
 };
 
-/// The source of the short forms: the next value of Random(), of the one generator that
-/// SetRandSeed and Randomize seed and that threads must not use at the same time.
+/// The source of the short forms: the next value of Random(). All calls share the one generator
+/// that SetRandSeed and Randomize seed, so threads must not call it at the same time.
 [[nodiscard]] QORVEX_EXPORT Extended ClassicRandom() noexcept;
 
 }  // namespace qorvex::inline QorvexRandom

@@ -11,16 +11,16 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-constexpr std::size_t kMostIntervals = 20;
+constexpr std::size_t kMaxIntervals = 20;
 
-// The cosine of an angle from 0 to pi, from a sine or cosine of at most pi/4: beyond, the C library
-// takes ten times as long.
+// The cosine of an angle from 0 to pi, reduced to a sine or cosine of an angle up to pi/4, because
+// the C library takes ten times as long for larger ones.
 Extended Cosine(Extended x) {
   if (x < QorPi / 4) return std::cos(x);
   return x < 3 * QorPi / 4 ? std::sin(QorPi / 2 - x) : -std::cos(QorPi - x);
 }
 
-// The integral of exp(k cos x).
+// The integral of exp(k cos x) from lo to hi.
 Extended Integral(Extended k, Extended lo, Extended hi) {
   struct Node {
     Extended abscissa;
@@ -39,12 +39,12 @@ Extended Integral(Extended k, Extended lo, Extended hi) {
   return half * sum;
 }
 
-// The intervals of (0, pi) over each of which k cos x falls by at most 1.
+// The intervals of (0, pi), over each of which k cos x falls by at most 1, and their probabilities.
 struct Intervals {
   explicit Intervals(Extended k) {
     if (!(k >= 0)) RaiseMathError(rsInvalidValue);
     const Extended length = std::trunc(2 * k + 1);
-    if (length > kMostIntervals) RaiseMathError(rsInvalidValue);
+    if (length > kMaxIntervals) RaiseMathError(rsInvalidValue);
     count = k <= 0.5L ? 1 : static_cast<std::size_t>(length);
     ends[count] = QorPi;
     weights[0] = 1;
@@ -59,12 +59,12 @@ struct Intervals {
   }
 
   std::size_t count;
-  std::array<Extended, kMostIntervals + 1> ends{};
-  std::array<Extended, kMostIntervals> weights;
+  std::array<Extended, kMaxIntervals + 1> ends{};
+  std::array<Extended, kMaxIntervals> weights;
 };
 
-// True with probability exp(-x) for x in [0, 1]: the length of a descending run of uniform values
-// that starts below x is even.
+// True with probability exp(-x), for x in [0, 1]: if the longest descending run of uniform values
+// below x has an even length.
 bool IsAccepted(Extended x, UniformSource source) {
   bool accepted = true;
   for (Extended u = source(); u <= x; u = source()) {
@@ -82,8 +82,9 @@ Extended Random_von_Mises(Extended k, UniformSource source) {
   std::size_t j = 0;
   u -= intervals.weights[0];
   while (!(u < 0) && j + 1 < intervals.count) u -= intervals.weights[++j];
-  // Places run backwards. When rounding leaves a remainder, it is 0 in the last interval, which has
-  // neither width nor weight where 2k is whole.
+  // The place runs from the end of the interval to its start. Rounding can leave a remainder after
+  // the last interval; the place is then 0, without a division by the weight, which is 0 if 2k is
+  // whole.
   Extended place = u < 0 ? -u / intervals.weights[j] : 0;
   for (;;) {
     const Extended lo = intervals.ends[j];

@@ -1,8 +1,8 @@
 #pragma once
 
 /// @file
-/// Unit QorvexPairStats: statistics over two vectors of which the elements of one index belong
-/// together.
+/// Unit QorvexPairStats: regression and correlation of paired vectors, in which elements with equal
+/// indices belong together.
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/correlation.h"

@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// Unit QorvexStatistics: statistics over vectors, and probability distributions.
+/// Unit QorvexStatistics: estimators over vectors and frequency tables, and the classic routines of
+/// probability distributions.
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/beta_distribution.h"

@@ -1,9 +1,9 @@
 #pragma once
 
 /// @file
-/// Unit Qorvex_RS_DescStats: the texts of statistical reports. They can be replaced like the
-/// messages of errors. The texts that no report of the library uses are here for applications;
-/// trailing blanks are part of a text.
+/// Unit Qorvex_RS_DescStats: the texts of statistical reports. Programs can replace them like error
+/// messages. Texts that the library itself does not use are meant for applications. Trailing blanks
+/// are part of a text.
 
 #include <cstdint>
 #include <functional>
@@ -80,11 +80,12 @@ enum class ReportTextId : std::uint16_t {
 
 using enum ReportTextId;
 
-/// The current text: what the look-up function gives, else the replacement, else the English text.
+/// The current text: the result of the look-up function if it has one, otherwise the replacement if
+/// one is set, otherwise the English text.
 [[nodiscard]] QORVEX_EXPORT std::string ReportText(ReportTextId id);
 
-/// The English text, whatever replaces it: what a translator looks up. Valid for the life of the
-/// program.
+/// The English text, even if it has been replaced: the key that translators look up. The view stays
+/// valid until the program ends.
 [[nodiscard]] QORVEX_EXPORT std::string_view EnglishReportText(ReportTextId id) noexcept;
 
 /// Replaces a text.
@@ -93,9 +94,9 @@ QORVEX_EXPORT void SetReportText(ReportTextId id, std::string text);
 /// Restores the English text.
 QORVEX_EXPORT void ResetReportText(ReportTextId id);
 
-/// Sets a function that is asked for every text first, such as a translator's; it gives nothing for
-/// a text that it does not know. An empty function removes it. It must not ask for the same text
-/// itself; EnglishReportText gives the source.
+/// Sets a function that is called first for every text, such as a translator's. It returns nothing
+/// for texts that it does not know. An empty function removes the look-up. The function must not
+/// request the same text through ReportText; use EnglishReportText for the source.
 QORVEX_EXPORT void SetReportLookup(std::function<std::optional<std::string>(ReportTextId)> lookup);
 
 }  // namespace qorvex::inline Qorvex_RS_DescStats

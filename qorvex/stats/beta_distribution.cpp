@@ -17,7 +17,7 @@ void RequireShapes(Extended a, Extended b) {
   if (a <= 0 || b <= 0) RaiseMathError(rsValueGZero);
 }
 
-// The interval from one end of the support to the other.
+// The support, and its map to [0, 1].
 class Support {
  public:
   Support(Extended lower, Extended upper) : lower_(lower), width_(upper - lower) {
@@ -65,7 +65,7 @@ void BetaPDFValues(Extended a, Extended b, Extended lower, Extended upper, Exten
 
 Extended BetaDistLess(Extended x, Extended a, Extended b) {
   RequireShapes(a, b);
-  // A positive zero also for -0; NaN stays.
+  // Points up to 0, including -0, become +0. NaN stays NaN.
   return IncompleteBeta(x <= 0 ? 0 : std::min<Extended>(x, 1), a, b);
 }
 

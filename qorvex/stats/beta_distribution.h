@@ -3,19 +3,20 @@
 /// @file
 /// The beta distribution with shapes a and b, on [0, 1] or between two given ends.
 ///
-/// The forms with a lower and an upper end scale the point x to (x - lower) / (upper - lower), and
-/// densities and quantiles back. That difference rounds: near an end other than 0 the point itself
-/// says little about its distance from the end.
+/// The forms with two ends evaluate the distribution on [0, 1] at (x - lower) / (upper - lower),
+/// and scale densities and quantiles back.
 ///
-/// Lower probabilities are the incomplete beta function, good to some 1e-17 of themselves. Upper
-/// ones are formed as 1 - lower: do not rely on the digits of small ones. BetaDistribution keeps
-/// them. Densities and quantiles are computed with it, exact to a few units of the 64-bit mantissa.
-///
-/// EMathError, in this order: for quantiles rsValue01 unless 0 < p < 1; rsValueGZero unless a and b
-/// are positive; rsInvalidValue unless the upper end is above the lower, both are finite, and their
-/// difference is within the extended range. EInvalidOp for shapes below 1e-18 and above 1e15.
-/// Points outside the support are no error: probabilities take them as the nearer end, and their
-/// density is 0. NaN gives NaN, except for p and the ends.
+/// - Lower probabilities: I(x; a, b), the regularised incomplete beta function, with relative
+///   errors up to about 1e-17.
+/// - Upper probabilities: 1 - lower, so small ones lose their digits. BetaDistribution keeps them.
+/// - Densities and quantiles: computed by BetaDistribution, to a few units of the 64-bit mantissa.
+/// - Ends: x - lower rounds. Near an end other than 0, x itself says little about its distance from
+///   the end.
+/// - Points outside the support: probabilities are those of the nearer end, densities are 0.
+/// - NaN gives NaN, except for p and the ends.
+/// - EMathError, in this order: for quantiles rsValue01 unless 0 < p < 1; rsValueGZero if a <= 0
+///   or b <= 0; rsInvalidValue unless lower < upper and both ends and their difference are finite.
+/// - Then EInvalidOp for shapes below 1e-18 or above 1e15.
 
 #include <cstdint>
 
@@ -25,15 +26,19 @@
 namespace qorvex::inline QorvexStatistics {
 
 /// @{
-/// The density, at the ends its limit, infinity included.
+/// The density. At the ends it is the limit, which can be infinite.
 [[nodiscard]] QORVEX_EXPORT Extended BetaPDF(Extended x, Extended a, Extended b);
 [[nodiscard]] QORVEX_EXPORT Extended BetaPDF(Extended x, Extended a, Extended b, Extended lower,
                                              Extended upper);
 /// @}
 
 /// @{
-/// n + 1 points from x_low to x_high in equal steps, and the density at each: one point at x_low
-/// for n = 0, none for a negative n. Both vectors are released first. O(n).
+/// Fills the vectors with n + 1 points in equal steps from x_low to x_high, and the density at
+/// each.
+///
+/// - n = 0: one point, x_low. n < 0: no points.
+/// - Both vectors are released before the checks.
+/// - Cost: O(n).
 QORVEX_EXPORT void BetaPDFValues(Extended a, Extended b, Extended x_low, Extended x_high,
                                  std::int32_t n, TQorFloatVector& x_values,
                                  TQorFloatVector& y_values);
@@ -43,8 +48,8 @@ QORVEX_EXPORT void BetaPDFValues(Extended a, Extended b, Extended lower, Extende
 /// @}
 
 /// @{
-/// The probability of at most x, of more than x (1 - less), and of the interval between two points
-/// in either order, which is 0, before any check, for points that are the same by SameFloat.
+/// P(X <= x), P(X > x) computed as 1 - less, and the probability between two points in either
+/// order. If SameFloat(x1, x2), the latter is 0 without any check of the parameters.
 [[nodiscard]] QORVEX_EXPORT Extended BetaDistLess(Extended x, Extended a, Extended b);
 [[nodiscard]] QORVEX_EXPORT Extended BetaDistLess(Extended x, Extended a, Extended b,
                                                   Extended lower, Extended upper);
@@ -58,8 +63,9 @@ QORVEX_EXPORT void BetaPDFValues(Extended a, Extended b, Extended lower, Extende
 /// @}
 
 /// @{
-/// The point with the given lower or upper probability; the upper one is that of 1 - p, so that
-/// p < 2^-65 raises rsValue01; use UpperQuantile of a BetaDistribution for smaller ones.
+/// The point with the lower probability p, and the point with the upper probability p. The latter
+/// is the point with the lower probability 1 - p, so p < 2^-65 raises rsValue01; for smaller p use
+/// UpperQuantile of a BetaDistribution.
 [[nodiscard]] QORVEX_EXPORT Extended InvBetaDistLess(Extended a, Extended b, Extended p);
 [[nodiscard]] QORVEX_EXPORT Extended InvBetaDistLess(Extended a, Extended b, Extended lower,
                                                      Extended upper, Extended p);

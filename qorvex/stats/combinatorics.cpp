@@ -17,7 +17,7 @@ Extended Factorial(std::uint32_t n) {
 Extended Permutation(std::uint32_t n, std::uint32_t r) {
   if (n < r) RaiseMathError(rsPermInvalid);
   if (n == 0) return 0;
-  // The product of r factors is at least r!.
+  // A product of r factors is at least r!.
   if (r > detail::kLargestFactorial) RaiseMathError(rsPermOverflowed);
   Extended product = 1;
   for (std::uint32_t i = 0; i < r; ++i) product *= static_cast<Extended>(n - i);

@@ -7,6 +7,7 @@
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
+#include "qorvex/stats/detail/moments.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/stats/shape.h"
 #include "qorvex/vector/aggregates.h"
@@ -16,17 +17,17 @@
 
 namespace qorvex {
 
+using QorvexStatistics::detail::kMinCountForKurtosis;
+using QorvexStatistics::detail::kMinCountForSkew;
+
 namespace {
 
-constexpr std::size_t kLeastForSkew = 3;
-constexpr std::size_t kLeastForKurtosis = 4;
-
-// NaN sorts last, so the last element tells whether there is one.
+// NaN sorts last.
 bool HoldsNaN(const TQorFloatVector& sorted) {
   return !sorted.empty() && std::isnan(sorted[sorted.size() - 1]);
 }
 
-// Inserts a value where QSortVector would put it.
+// Inserts a value at the place where QSortVector would put it.
 void InsertSorted(TQorFloatVector& sorted, Extended value) {
   sorted.Append(value);
   Extended* const last = sorted.end() - 1;
@@ -36,7 +37,7 @@ void InsertSorted(TQorFloatVector& sorted, Extended value) {
   *place = value;
 }
 
-// Removes an element with exactly the bits of the value.
+// Removes an element that has exactly the bits of the value.
 void EraseSorted(TQorFloatVector& sorted, Extended value) {
   Extended* const place = std::lower_bound(sorted.begin(), sorted.end(), value,
                                            QorvexVector::detail::SortsBefore<Extended>);
@@ -91,7 +92,7 @@ TQorFloatVector DescriptiveStats::Values() const {
 void DescriptiveStats::AddValue(Extended value) {
   values_.Append(value);
   if (updating_) return;
-  // The first value starts the sums instead of being added to 0, which would lose a negative zero.
+  // The first value must start the sums: added to 0, a negative zero would be lost.
   const bool continues = !sorted_.empty() && sorted_.size() + 1 == values_.size();
   if (!continues || std::isnan(value) || HoldsNaN(sorted_)) {
     UpdateStats();
@@ -135,7 +136,7 @@ void DescriptiveStats::EndUpdate() {
 void DescriptiveStats::SetPopulation(bool population) {
   if (population == population_) return;
   population_ = population;
-  // The divisor touches neither the order nor the sums.
+  // The divisor affects neither the order nor the sums.
   const bool in_step = !updating_ && !values_.empty() && sorted_.size() == values_.size();
   if (in_step) {
     UpdateFromSums();
@@ -151,8 +152,8 @@ void DescriptiveStats::UpdateStats() {
     results_ = {};
     return;
   }
-  // Only a copy that is sorted replaces the old one: lack of memory leaves none, and the next
-  // update then starts afresh.
+  // The copy is stored only after it has been sorted. If memory runs out, no sorted copy remains,
+  // and the next update starts from the values.
   TQorFloatVector sorted = CopyVector(values_);
   QSortVector(sorted, true);
   sorted_ = std::move(sorted);
@@ -185,12 +186,12 @@ void DescriptiveStats::UpdateFromSums() {
 
   const bool spread = FloatIsNotZero(r.std_dev);
   r.kurtosis = 0;
-  if (count >= kLeastForKurtosis && spread) {
+  if (count >= kMinCountForKurtosis && spread) {
     r.kurtosis = population_ ? GetPopulationKurtosis(values_, r.mean, r.std_dev)
                              : GetSampleKurtosis(values_, r.mean, r.std_dev);
   }
   r.skew = 0;
-  if (count >= kLeastForSkew && spread) {
+  if (count >= kMinCountForSkew && spread) {
     r.skew = population_ ? GetPopulationSkew(values_, r.mean, r.std_dev)
                          : GetSampleSkew(values_, r.mean, r.std_dev);
   }
@@ -224,8 +225,8 @@ std::vector<ReportFigure> DescriptiveStats::Figures() {
       {rsDSMedian, r.median},
       has_variance ? ReportFigure{rsDSVariance, r.variance} : ReportFigure{rsDSNEVariance},
       has_variance ? ReportFigure{rsDSStdDev, r.std_dev} : ReportFigure{rsDSNEStdDev},
-      moment(rsDSKurtosis, r.kurtosis, kLeastForKurtosis, rsDSNEKurtosis, rsDSSDKurtosis),
-      moment(rsDSSkew, r.skew, kLeastForSkew, rsDSNESkew, rsDSSDSkew),
+      moment(rsDSKurtosis, r.kurtosis, kMinCountForKurtosis, rsDSNEKurtosis, rsDSSDKurtosis),
+      moment(rsDSSkew, r.skew, kMinCountForSkew, rsDSNESkew, rsDSSDSkew),
       {rsDSQtr1, r.quartile_1st},
       {rsDSQtr3, r.quartile_3rd},
       {rsDSIQR, r.inter_quartile_range},

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// DescriptiveStats, a sample whose statistics are always current, and its report.
+/// DescriptiveStats: a sample whose statistics are always up to date, and its report.
 
 #include <cstddef>
 #include <cstdint>
@@ -15,11 +15,11 @@
 
 namespace qorvex {
 
-/// The statistics of one sample. All are 0, and mode_exists is false, for an empty one.
+/// The statistics of one sample. For an empty sample all are 0, and mode_exists is false.
 struct DescriptiveResults {
-  /// In insertion order.
+  /// The sum, added in insertion order.
   Extended sum = 0;
-  /// The sum of the squares, in insertion order.
+  /// The sum of the squares, added in insertion order.
   Extended sum_sq = 0;
   /// The arithmetic mean, sum / n.
   Extended mean = 0;
@@ -27,26 +27,25 @@ struct DescriptiveResults {
   Extended variance = 0;
   /// The square root of the variance.
   Extended std_dev = 0;
-  /// As GetMedian.
+  /// See GetMedian.
   Extended median = 0;
-  /// The unique mode when mode_exists; otherwise what GetMode leaves.
+  /// The mode if mode_exists; otherwise what GetMode stores.
   Extended mode = 0;
-  /// Whether one value is more frequent than every other.
+  /// Whether one value occurs more often than every other.
   bool mode_exists = false;
-  /// The first in sorted order.
+  /// The first value in sorted order.
   Extended minimum = 0;
-  /// The last in sorted order, so NaN when there is one.
+  /// The last value in sorted order; NaN if the sample contains one.
   Extended maximum = 0;
-  /// 0 below three values or when the standard deviation is zero within QorTolerance.
+  /// 0 if n < 3, or if the standard deviation is zero within QorTolerance.
   Extended skew = 0;
-  /// Excess kurtosis; 0 below four values or when the standard deviation is zero within
-  /// QorTolerance.
+  /// Excess kurtosis; 0 if n < 4, or if the standard deviation is zero within QorTolerance.
   Extended kurtosis = 0;
-  /// As GetQuartiles.
+  /// See GetQuartiles.
   Extended quartile_1st = 0;
-  /// As GetQuartiles.
+  /// See GetQuartiles.
   Extended quartile_3rd = 0;
-  /// The third quartile less the first.
+  /// The third quartile minus the first.
   Extended inter_quartile_range = 0;
 };
 
@@ -65,72 +64,78 @@ struct QORVEX_EXPORT ReportFigure {
 [[nodiscard]] QORVEX_EXPORT std::string ReportLine(const ReportFigure& figure,
                                                    const std::string& text);
 
-/// A sample of values, in insertion order, whose descriptive statistics are kept current after
-/// every change.
+/// A sample of values in insertion order. Its descriptive statistics are updated after every
+/// change.
 ///
-/// Every result is, bit for bit, what a fresh computation on the values gives, whether they came at
-/// once or one by one. NaN among the values makes the figures that depend on it NaN; it sorts last,
-/// so it is the maximum. When memory runs out, the values may hold the change already; the results
-/// follow with the next change or EndUpdate. Costs: setting n values O(n log n); adding or deleting
-/// one O(n), without a sort unless the sample holds NaN. Memory: the values and a sorted copy, 32
-/// bytes a value (48 while they grow one by one), and 16 more while sorting.
+/// - Every result has exactly the bits that a computation from all values gives, whether the values
+///   were set at once or one by one.
+/// - NaN among the values makes the results that depend on it NaN. It sorts last, so it becomes the
+///   maximum.
+/// - If memory runs out during a change, the values may already include it. The results follow at
+///   the next change or EndUpdate.
+/// - Cost: O(n log n) to set n values; O(n) to add or delete one, without sorting unless the sample
+///   contains NaN.
+/// - Memory: the values and a sorted copy, 32 bytes a value (48 while values are added one by one),
+///   and 16 more during a sort.
 class QORVEX_EXPORT DescriptiveStats {
  public:
-  /// An empty sample.
+  /// Creates an empty sample.
   DescriptiveStats() = default;
-  /// A sample of its own with the same values.
+  /// Copies the values; the two samples are independent.
   DescriptiveStats(const DescriptiveStats& other);
-  /// Takes the sample over and leaves the other empty.
+  /// Moves the values; the other sample becomes empty.
   DescriptiveStats(DescriptiveStats&& other) noexcept;
-  /// Lets go of this sample and copies, or takes over, the other.
+  /// Copies or moves the other sample.
   DescriptiveStats& operator=(DescriptiveStats other) noexcept;
   ~DescriptiveStats() = default;
 
-  /// Replaces the sample. The values become the sample's own: they are copied unless the argument
-  /// was the only handle.
+  /// Replaces all values. They are copied unless the argument is the only handle to its buffer.
   void SetValues(TQorFloatVector values);
-  /// A copy of the values, so that nobody writes into the sample behind its back.
+  /// A copy of the values, so that changes to it do not affect the sample.
   [[nodiscard]] TQorFloatVector Values() const;
   /// The number of values, n.
   [[nodiscard]] std::size_t NoOfValues() const noexcept { return values_.size(); }
 
   /// Appends one value.
   void AddValue(Extended value);
-  /// Removes the value at the index. False, and nothing happens, when there is none.
+  /// Removes the value at the index. Returns false, without any change, if the index is out of
+  /// range.
   bool DeleteValue(std::int64_t index);
-  /// Removes all values and ends an update.
+  /// Removes all values, and ends an update.
   void Clear();
 
-  /// While updating, changes leave the results as they are. The flag does not count: the first
-  /// EndUpdate ends it.
+  /// Suspends the computation of results until EndUpdate. Calls do not nest: the first EndUpdate
+  /// ends all.
   void BeginUpdate() noexcept { updating_ = true; }
-  /// Ends an update and brings the results up to date.
+  /// Ends an update and computes the results.
   void EndUpdate();
-  /// Whether an update has begun and not ended.
+  /// Whether an update is in progress.
   [[nodiscard]] bool Updating() const noexcept { return updating_; }
 
-  /// Population (divide by n) instead of sample statistics (divide by n - 1); initially false.
+  /// Whether the statistics are those of a population (divided by n) instead of a sample (divided
+  /// by n - 1); false by default.
   [[nodiscard]] bool Population() const noexcept { return population_; }
-  /// Chooses between the two; the results follow.
+  /// Chooses between the two, and updates the results.
   void SetPopulation(bool population);
 
-  /// The statistics; the reference stays valid and follows every change.
+  /// The current statistics. The reference stays valid and follows every change.
   [[nodiscard]] const DescriptiveResults& Results() const noexcept { return results_; }
 
   /// The figures of the report in their order; none for an empty sample. Ends an update first.
   [[nodiscard]] std::vector<ReportFigure> Figures();
 
-  /// The labelled report, a line for each figure: label, tab, value to the given number of
-  /// decimals. Ends an update first. An empty sample gives one line, the message rsVectorIsEmpty.
+  /// The report: one line for each figure, with its label, a tab, and the value to the given number
+  /// of decimals. Ends an update first. For an empty sample it is one line, the message
+  /// rsVectorIsEmpty.
   [[nodiscard]] std::vector<std::string> Report(int decimals);
 
  private:
   void Swap(DescriptiveStats& other) noexcept;
-  // Everything afresh, unless updating.
+  // Computes everything from the values, unless updating.
   void UpdateStats();
-  // The two sums afresh.
+  // Computes the two sums from the values.
   void SumUp();
-  // Everything that follows from the values, their sorted copy and the two sums.
+  // Computes what depends on the values, their sorted copy and the two sums.
   void UpdateFromSums();
 
   TQorFloatVector values_;

@@ -17,7 +17,7 @@ namespace {
 
 enum class Divisor { kSample, kPopulation };
 
-// n - 1 or n, once the vector has the elements that it needs.
+// n - 1 or n. Raises an error if the vector has too few elements.
 template <class T>
 Extended CheckedDivisor(const TQorVector<T>& vector, Divisor kind) {
   QorvexVector::detail::RequireElements(vector);
@@ -30,7 +30,7 @@ Extended CheckedDivisor(const TQorVector<T>& vector, Divisor kind) {
 template <WideNumericElement T>
 Extended TwoPassVariance(const TQorVector<T>& vector, Divisor kind) {
   const Extended divisor = CheckedDivisor(vector, kind);
-  // The mean stays extended: rounded to a single, it would add its rounding error to the variance.
+  // The mean is extended: rounded to a single, it would add its rounding error to the variance.
   return QorvexVector::detail::SumSqDiffFromExtended(vector, QorMean(vector)) / divisor;
 }
 

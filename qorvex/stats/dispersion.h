@@ -3,9 +3,12 @@
 /// @file
 /// Variances, standard deviations and other measures of spread, and standardisation.
 ///
-/// Results are extended; sample figures divide by n - 1 and population figures by n. NaN elements
-/// give NaN, except where a check for positive elements rejects them; the variance of infinite
-/// elements is NaN (infinity less infinity). O(n).
+/// For all routines:
+///
+/// - Results are extended values. Sample figures divide by n - 1, population figures by n.
+/// - NaN elements give NaN, except where a check for positive elements rejects them.
+/// - The variance of infinite elements is NaN (infinity minus infinity).
+/// - Cost: O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -13,11 +16,14 @@
 namespace qorvex::inline QorvexStatistics {
 
 /// @{
-/// The variance in two passes: the mean, then the mean squared difference from it, which keeps its
-/// accuracy when the spread is small beside the mean. EMathError: rsVectorIsEmpty, then for the
-/// sample form rsVectorG1 for one element. For the six elements of at least 32 bits; integer
-/// elements are summed in int64 for the mean. The mean stays extended for every element type:
-/// rounded to a single, it would add its own rounding error to the variance of singles.
+/// The variance in two passes: the mean, then the sum of (x - mean)^2 over n - 1 or n. It stays
+/// accurate if the spread is small compared with the mean.
+///
+/// - n = 0: EMathError rsVectorIsEmpty. n = 1: the sample form raises rsVectorG1, the population
+///   form returns 0.
+/// - Elements: the six types of at least 32 bits. Integers are summed in int64 for the mean.
+/// - The mean is extended for every element type. Rounded to a single, it would add its own
+///   rounding error to the variance of singles.
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended SampleVariance(const TQorVector<T>& vector);
 template <WideNumericElement T>
@@ -25,7 +31,7 @@ template <WideNumericElement T>
 /// @}
 
 /// @{
-/// The square root of the two-pass variance, with its errors.
+/// The square root of the two-pass variance, with the same errors.
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended SampleStdDev(const TQorVector<T>& vector);
 template <WideNumericElement T>
@@ -33,12 +39,13 @@ template <WideNumericElement T>
 /// @}
 
 /// @{
-/// Variance and mean in a single pass over the vector: (SS - S*S/n) divided by n - 1 or n, for the
-/// sum S and the sum of squares SS. Quicker than the two-pass forms, but digits cancel when the
-/// spread is small beside the mean, and rounding may even leave the variance slightly negative.
-/// Integer elements accumulate both sums in int64, wrapping. EMathError, with the outputs
-/// untouched: rsVectorIsEmpty, then for the sample form rsVectorG1 for one element. For the six
-/// elements of at least 32 bits.
+/// Variance and mean in a single pass: (SS - S*S/n) over n - 1 or n, for the sum S and the sum of
+/// squares SS. Faster than the two-pass forms, but digits cancel if the spread is small compared
+/// with the mean, and rounding can even make the variance slightly negative.
+///
+/// - n = 0: EMathError rsVectorIsEmpty. n = 1: the sample form raises rsVectorG1. The outputs keep
+///   their values.
+/// - Elements: the six types of at least 32 bits. For integers both sums are int64 and wrap around.
 template <WideNumericElement T>
 QORVEX_EXPORT void SampleVarianceAndMean(const TQorVector<T>& vector, Extended& variance,
                                          Extended& mean);
@@ -48,8 +55,8 @@ QORVEX_EXPORT void PopulationVarianceAndMean(const TQorVector<T>& vector, Extend
 /// @}
 
 /// @{
-/// The square root of the single-pass variance, and the mean, with the same errors; then EInvalidOp
-/// when rounding or wrapping has left the variance negative.
+/// The square root of the single-pass variance, and the mean, with the same errors. Then EInvalidOp
+/// if rounding or wrapping has made the variance negative.
 template <WideNumericElement T>
 QORVEX_EXPORT void SampleStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev,
                                        Extended& mean);
@@ -58,18 +65,19 @@ QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended
                                            Extended& mean);
 /// @}
 
-/// The mean absolute difference from the given mean; 0 for an empty vector, without an error.
+/// The mean of |x - mean| for the given mean; 0 for an empty vector, without an error.
 [[nodiscard]] QORVEX_EXPORT Extended MeanDeviation(const TQorFloatVector& vector,
                                                    Extended mean) noexcept;
 
 /// @{
-/// The geometric standard deviation about a geometric mean: exp of the root of the sum of (ln x -
-/// ln mean) squared over n - 1 when `sample` is true, over n when it is false (Standardise's flag
-/// has the opposite sense). EMathError: rsVectorIsEmpty; for the sample form rsVectorG1 for one
-/// element; rsVectorNotPos unless every element is greater than QorTolerance; EInvalidOp for a
-/// negative mean and EZeroDivide for a mean of 0. The form without a mean takes GeometricMean
-/// first, so that rsVectorNotPos comes before rsVectorG1. A mean without the flag does not compile:
-/// it would pass for the flag.
+/// The geometric standard deviation: exp(sqrt(sum of (ln x - ln mean)^2 / d)), where d is n - 1 if
+/// `sample` is true and n otherwise. Note that the flag of Standardise has the opposite meaning.
+///
+/// - With a mean: EMathError rsVectorIsEmpty; for the sample form rsVectorG1 if n = 1;
+///   rsVectorNotPos unless every element exceeds QorTolerance; then EInvalidOp for a negative mean
+///   and EZeroDivide for a mean of 0.
+/// - Without a mean: GeometricMean is computed first, so rsVectorNotPos comes before rsVectorG1.
+/// - A mean without the flag does not compile, because it would be taken for the flag.
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean,
                                                      bool sample);
 [[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, bool sample);
@@ -77,15 +85,16 @@ Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean) = delete;
 /// @}
 
 /// Replaces each element x by ((x - mean) / std_dev) * new_std_dev + new_mean. EMathError, before
-/// anything is written: rsVectorIsEmpty, then rsStdDev when std_dev is exactly 0 (the tolerance is
-/// not used here).
+/// anything is written: rsVectorIsEmpty; then rsStdDev if std_dev is exactly 0, without a
+/// tolerance.
 QORVEX_EXPORT void Standardise(TQorFloatVector& vector, Extended mean, Extended std_dev,
                                Extended new_mean, Extended new_std_dev);
 
 /// @{
-/// Standardises with the vector's own single-pass standard deviation and mean:
-/// PopulationStdDevAndMean when `population` is true, else SampleStdDevAndMean, with their errors.
-/// Three figures without the flag do not compile: the last would pass for it.
+/// Standardises with the single-pass mean and standard deviation of the vector:
+/// PopulationStdDevAndMean if `population` is true, otherwise SampleStdDevAndMean, with their
+/// errors. Three figures without the flag do not compile, because the last would be taken for the
+/// flag.
 QORVEX_EXPORT void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_dev,
                                bool population);
 void Standardise(TQorFloatVector& vector, Extended, Extended, Extended) = delete;

@@ -5,9 +5,8 @@
 #include <cstdint>
 
 #include "qorvex/base/checked_math.h"
-#include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/stats/detail/powers.h"
+#include "qorvex/stats/detail/moments.h"
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
@@ -16,21 +15,19 @@ namespace qorvex::inline QorvexStatistics {
 
 using detail::Cube;
 using detail::FourthPower;
+using detail::RequireSpread;
 using detail::Square;
 using QorvexVector::detail::RequireElements;
 using QorvexVector::detail::WrappingMultiply;
 
 namespace {
 
-constexpr std::int64_t kLeastForSkew = 3;
-constexpr std::int64_t kLeastForKurtosis = 4;
-
-// Where the classes lie.
+// The positions of the classes.
 struct Classes {
   Extended lower_bound;
   Extended width;
 
-  // The point part / whole of the way through a class.
+  // The point at the fraction part / whole of a class.
   [[nodiscard]] Extended Point(std::size_t index, Extended part, Extended whole) const {
     return lower_bound + static_cast<Extended>(index) * width + CheckedDivide(width * part, whole);
   }
@@ -55,7 +52,7 @@ Extended WeightedSum(const TQorLWordVector& freq, const Classes& classes, Value 
   return sum;
 }
 
-// The sum of power(midpoint - mean), each class once.
+// The sum of power(midpoint - mean), in which every class counts once.
 template <class Power>
 Extended UnweightedSum(const TQorLWordVector& freq, const Classes& classes, Extended mean,
                        Power power) {
@@ -76,13 +73,13 @@ Extended SumOfSquares(const TQorLWordVector& freq, const Classes& classes, std::
   return WeightedSum(freq, classes, [mean](Extended midpoint) { return Square(midpoint - mean); });
 }
 
-// Walks up the cumulative frequencies, which wrap around.
+// Steps through the cumulative frequencies, which wrap around.
 class Cumulation {
  public:
   explicit Cumulation(const TQorLWordVector& freq) : freq_(freq) {}
 
-  // Goes on to the first class whose cumulative frequency is at least the target, unless it is
-  // there; false when there is none. Targets must not descend.
+  // Advances to the first class whose cumulative frequency is at least the target. Returns false if
+  // no class reaches it. Targets must not decrease from call to call.
   bool Reach(Extended target) {
     const auto least = static_cast<std::int64_t>(std::ceil(target));
     while (index_ < freq_.size() && before_ + freq_[index_] < least) {
@@ -92,10 +89,10 @@ class Cumulation {
     return index_ < freq_.size();
   }
 
-  // The class that was reached.
+  // The current class.
   [[nodiscard]] std::size_t Index() const { return index_; }
 
-  // The point in it that `target` values are below.
+  // The point in the current class below which `target` values lie.
   [[nodiscard]] Extended Point(const Classes& classes, Extended target) const {
     return classes.Point(index_, target - static_cast<Extended>(before_),
                          static_cast<Extended>(freq_[index_]));
@@ -104,17 +101,13 @@ class Cumulation {
  private:
   const TQorLWordVector& freq_;
   std::size_t index_ = 0;
-  std::uint32_t before_ = 0;  // the cumulative frequency of the classes before it
+  std::uint32_t before_ = 0;  // the cumulative frequency before the current class
 };
 
 std::int64_t RequireTotal(const TQorLWordVector& freq, std::int64_t least, MessageId message) {
   const std::int64_t total = SumVector(freq);
   if (total < least) RaiseMathError(message);
   return total;
-}
-
-void RequireSpread(Extended std_dev) {
-  if (FloatIsZero(std_dev)) RaiseMathError(rsStdDev);
 }
 
 }  // namespace
@@ -229,7 +222,7 @@ Extended GetGroupedMeanDev(const TQorLWordVector& freq, Extended lower_bound, Ex
 
 Extended GetGroupedSampleSkew(const TQorLWordVector& freq, Extended lower_bound, Extended width,
                               Extended mean, Extended std_dev) {
-  const std::int64_t total = RequireTotal(freq, kLeastForSkew, rsVectorG2);
+  const std::int64_t total = RequireTotal(freq, detail::kMinCountForSkew, rsVectorG2);
   RequireSpread(std_dev);
   return UnweightedSum(freq, {lower_bound, width}, mean, Cube) /
          (static_cast<Extended>(total) * Cube(std_dev));
@@ -237,7 +230,7 @@ Extended GetGroupedSampleSkew(const TQorLWordVector& freq, Extended lower_bound,
 
 Extended GetGroupedPopulationSkew(const TQorLWordVector& freq, Extended lower_bound, Extended width,
                                   Extended mean, Extended std_dev) {
-  const std::int64_t total = RequireTotal(freq, kLeastForSkew, rsVectorG2);
+  const std::int64_t total = RequireTotal(freq, detail::kMinCountForSkew, rsVectorG2);
   RequireSpread(std_dev);
   const std::int64_t product = WrappingMultiply(total - 1, total - 2);
   return static_cast<Extended>(total) * UnweightedSum(freq, {lower_bound, width}, mean, Cube) /
@@ -246,7 +239,7 @@ Extended GetGroupedPopulationSkew(const TQorLWordVector& freq, Extended lower_bo
 
 Extended GetGroupedSampleKurtosis(const TQorLWordVector& freq, Extended lower_bound, Extended width,
                                   Extended mean, Extended std_dev) {
-  const std::int64_t total = RequireTotal(freq, kLeastForKurtosis, rsVectorG3);
+  const std::int64_t total = RequireTotal(freq, detail::kMinCountForKurtosis, rsVectorG3);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(total);
   const auto low_bits = static_cast<std::uint32_t>(total - 1);
@@ -261,7 +254,7 @@ Extended GetGroupedSampleKurtosis(const TQorLWordVector& freq, Extended lower_bo
 
 Extended GetGroupedPopulationKurtosis(const TQorLWordVector& freq, Extended lower_bound,
                                       Extended width, Extended mean, Extended std_dev) {
-  const std::int64_t total = RequireTotal(freq, kLeastForKurtosis, rsVectorG3);
+  const std::int64_t total = RequireTotal(freq, detail::kMinCountForKurtosis, rsVectorG3);
   RequireSpread(std_dev);
   return UnweightedSum(freq, {lower_bound, width}, mean, FourthPower) /
              (FourthPower(std_dev) * static_cast<Extended>(total)) -

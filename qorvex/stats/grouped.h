@@ -1,16 +1,21 @@
 #pragma once
 
 /// @file
-/// Statistics of a table of frequencies: freq[i] values in the class i, which begins at lower_bound
-/// + i * width. Every value counts as the midpoint i * width + lower_bound + width / 2 of its
-/// class; order statistics interpolate within a class.
+/// Statistics of a frequency table with classes of equal width.
 ///
-/// Sums run over the classes in ascending order, in extended precision. Cumulative frequencies are
-/// uint32 and wrap around: order statistics need a total below 2^32. A NaN or infinite bound,
-/// width, mean or standard deviation gives NaN or infinity as the processor makes it.
+/// Class i holds freq[i] values and begins at lower_bound + i * width. Every value counts as the
+/// midpoint of its class, i * width + lower_bound + width / 2; quantiles are interpolated within a
+/// class. T is the total frequency.
 ///
-/// EMathError: first of all rsVectorIsEmpty, and where nothing is found or a division fails, with
-/// the outputs untouched. Nothing is written to the table. O(n), without allocation.
+/// For all routines:
+///
+/// - Empty table: EMathError rsVectorIsEmpty, before all other errors. The outputs keep their
+///   values after an error.
+/// - Sums run over the classes in ascending order, in extended precision.
+/// - Cumulative frequencies are uint32 and wrap around: quantiles need T < 2^32.
+/// - NaN and infinite bounds, widths, means and standard deviations propagate as in IEEE 754
+///   arithmetic.
+/// - Cost: O(n), without allocation.
 
 #include <span>
 
@@ -19,36 +24,40 @@
 
 namespace qorvex::inline QorvexStatistics {
 
-/// The mean; 0 when all frequencies are 0.
+/// The mean; 0 if T = 0.
 [[nodiscard]] QORVEX_EXPORT Extended GroupedMean(const TQorLWordVector& freq, Extended lower_bound,
                                                  Extended width);
 
-/// The point that half of the values are below. EInvalidOp when all frequencies are 0;
-/// rsMedianNotFound when the cumulative frequencies wrap around before they reach it.
+/// The median: the point below which half of the values lie. EInvalidOp if T = 0; EMathError
+/// rsMedianNotFound if the cumulative frequencies wrap around before they reach T/2.
 [[nodiscard]] QORVEX_EXPORT Extended GroupedMedian(const TQorLWordVector& freq,
                                                    Extended lower_bound, Extended width);
 
-/// True, with the mode, when one class has a larger frequency than every other; otherwise false,
-/// the mode untouched. The mode divides its class in the ratio of the differences from the two
-/// neighbours' frequencies, where a neighbour beyond the table has none. EInvalidOp for one class
-/// with frequency 0.
+/// Finds the mode if exactly one class has the largest frequency.
+///
+/// - True, with the mode: it divides the class in the ratio of the differences from the frequencies
+///   of the two neighbours. Missing neighbours have the frequency 0.
+/// - False if the largest frequency occurs more than once; `mode` keeps its value.
+/// - EInvalidOp for a single class with frequency 0.
 [[nodiscard]] QORVEX_EXPORT bool GroupedMode(const TQorLWordVector& freq, Extended lower_bound,
                                              Extended width, Extended& mode);
 
-/// The points that a quarter and three quarters of the values are below, with the errors of
-/// GroupedMedian, but rsQuartilesNotFound.
+/// The quartiles: the points below which a quarter and three quarters of the values lie. The errors
+/// are those of GroupedMedian, with rsQuartilesNotFound instead of rsMedianNotFound.
 QORVEX_EXPORT void GroupedQuartiles(const TQorLWordVector& freq, Extended lower_bound,
                                     Extended width, Extended& q1, Extended& q3);
 
-/// The nine points that a tenth, two tenths ... of the values are below. But one that lies in the
-/// last class, or beyond it because the cumulative frequencies wrap around, gives instead the
-/// number of values before the last class; all are 0 when all frequencies are 0.
+/// The nine deciles.
+///
+/// - Exception: for a decile that lies in the last class, or beyond it because the cumulative
+///   frequencies wrap around, the result is the number of values before the last class instead.
+/// - T = 0: all deciles are 0.
 QORVEX_EXPORT void GetGroupedDeciles(const TQorLWordVector& freq, Extended lower_bound,
                                      Extended width, std::span<Extended, 9> deciles);
 
 /// @{
-/// The sum of the squared differences from the mean over T - 1 or T, for the total T; 0 for T < 2
-/// or T = 0.
+/// The variance: the sum of the squared differences from the mean over T - 1, or over T. The sample
+/// form returns 0 if T < 2, the population form if T = 0.
 [[nodiscard]] QORVEX_EXPORT Extended GroupedSampleVariance(const TQorLWordVector& freq,
                                                            Extended lower_bound, Extended width);
 [[nodiscard]] QORVEX_EXPORT Extended GroupedPopulationVariance(const TQorLWordVector& freq,
@@ -64,22 +73,24 @@ QORVEX_EXPORT void GetGroupedDeciles(const TQorLWordVector& freq, Extended lower
                                                              Extended lower_bound, Extended width);
 /// @}
 
-/// The sum of the values and the sum of their squares.
+/// The sum of the values, and the sum of their squares.
 QORVEX_EXPORT void GroupedSums(const TQorLWordVector& freq, Extended lower_bound, Extended width,
                                Extended& sum, Extended& sum_sq);
 
-/// The mean absolute difference from the given mean; 0 when all frequencies are 0.
+/// The mean of |x - mean| for the given mean; 0 if T = 0.
 [[nodiscard]] QORVEX_EXPORT Extended GetGroupedMeanDev(const TQorLWordVector& freq,
                                                        Extended lower_bound, Extended width,
                                                        Extended mean);
 
 /// @{
-/// The figures D / (T std_dev^3), called the sample skewness here, and T D / ((T - 1)(T - 2)
-/// std_dev^3), called the population skewness, for the total T. D is the sum of the cubed
-/// differences of the midpoints from the mean: every class counts once, whatever its frequency, so
-/// these are skewnesses of the values only where all frequencies are 1. (T - 1)(T - 2) wraps around
-/// in int64. EMathError: rsVectorIsEmpty; rsVectorG2 for T < 3; rsStdDev when the standard
-/// deviation is zero within QorTolerance.
+/// Skewness: D / (T std_dev^3), called the sample skewness here, and T D / ((T-1)(T-2) std_dev^3),
+/// called the population skewness. D is the sum of (midpoint - mean)^3.
+///
+/// - D counts every class once, whatever its frequency, so the figures are skewnesses of the values
+///   only if all frequencies are 1.
+/// - (T-1)(T-2) wraps around in int64.
+/// - EMathError: rsVectorIsEmpty; rsVectorG2 if T < 3; rsStdDev if std_dev is zero within
+///   QorTolerance.
 [[nodiscard]] QORVEX_EXPORT Extended GetGroupedSampleSkew(const TQorLWordVector& freq,
                                                           Extended lower_bound, Extended width,
                                                           Extended mean, Extended std_dev);
@@ -89,12 +100,14 @@ QORVEX_EXPORT void GroupedSums(const TQorLWordVector& freq, Extended lower_bound
 /// @}
 
 /// @{
-/// The figures T (T + 1) D / (std_dev^4 (T - 1)(T - 2)(T - 3)) - 3 (T - 1)^2 / ((T - 2)(T - 3)),
-/// called the sample excess kurtosis, and D / (std_dev^4 T) - 3, the population's, for the sum D of
-/// the fourth powers of the differences: here too every class counts once. The products of the
-/// total alone wrap around, 3 (T - 1)^2 in int32 and the others in int64, so the sample figure
-/// means nothing from T = 26756 on. EMathError: rsVectorIsEmpty; rsVectorG3 for T < 4; rsStdDev
-/// when the standard deviation is zero within QorTolerance.
+/// Excess kurtosis: T (T+1) D / (std_dev^4 (T-1)(T-2)(T-3)) - 3 (T-1)^2 / ((T-2)(T-3)) for the
+/// sample, and D / (std_dev^4 T) - 3 for the population. D is the sum of (midpoint - mean)^4.
+///
+/// - D counts every class once, whatever its frequency.
+/// - The products of T wrap around: 3 (T-1)^2 in int32, the others in int64. The sample figure is
+///   therefore meaningless from T = 26756 on.
+/// - EMathError: rsVectorIsEmpty; rsVectorG3 if T < 4; rsStdDev if std_dev is zero within
+///   QorTolerance.
 [[nodiscard]] QORVEX_EXPORT Extended GetGroupedSampleKurtosis(const TQorLWordVector& freq,
                                                               Extended lower_bound, Extended width,
                                                               Extended mean, Extended std_dev);

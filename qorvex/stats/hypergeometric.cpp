@@ -11,7 +11,7 @@ namespace qorvex::inline QorvexStatistics {
 
 namespace {
 
-// A sample and the population it is drawn from, and between which counts the successes in it lie.
+// A sample, the population that it is drawn from, and the range of possible success counts.
 struct Draw {
   std::uint32_t pop_size;
   std::uint32_t sample_size;
@@ -35,7 +35,7 @@ void RequireCount(const Draw& draw, std::uint32_t x) {
   if (x > draw.Greatest()) RaiseMathError(rsHyperGeometricInvalid);
 }
 
-// The probabilities of the possible counts from first to end - 1, if any.
+// The probabilities of the possible counts from first to end - 1. The range may be empty.
 class Probabilities {
  public:
   Probabilities(const Draw& draw, std::uint64_t first, std::uint64_t end)

@@ -15,18 +15,18 @@ namespace qorvex::inline QorvexStatistics {
 
 namespace {
 
-constexpr Extended kLargestShape = 1000;
-constexpr Extended kLargestPoint = 1e8L;
-constexpr Extended kLeastExponent = -88;
-// The fraction's numerators and denominators are scaled back when they reach this.
-constexpr Extended kLarge = 1.7e308L;
+constexpr Extended kMaxShape = 1000;
+constexpr Extended kMaxPoint = 1e8L;
+constexpr Extended kMinExponent = -88;
+// Numerators and denominators of the fraction are divided by this number when they reach it.
+constexpr Extended kRescaleThreshold = 1.7e308L;
 
 void RequireDomain(Extended a, Extended x) {
   if (x < 0) RaiseMathError(rsValueGEZero);
   if (a <= 0) RaiseMathError(rsValueGZero);
 }
 
-// The loops would never reach a tolerance that is not positive.
+// The tolerance; 4 eps if it is not positive, because the loops would never reach it.
 Extended PositiveTolerance() {
   return QorTolerance > 0 ? QorTolerance : 4 * std::numeric_limits<Extended>::epsilon();
 }
@@ -36,7 +36,7 @@ Extended NormalApproximation(Extended a, Extended x) {
   return NormalLess(3 * std::sqrt(a) * (XtoY(x / a, third) + 1 / (9 * a) - 1));
 }
 
-// The logarithm of x^a exp(-x) / gamma, times a factor given by its sum.
+// ln(x^a exp(-x) / gamma * factor).
 Extended LogarithmOf(Extended a, Extended x, Extended ln_gamma, Extended factor) {
   return a * std::log(x) - x - ln_gamma + std::log(factor);
 }
@@ -51,14 +51,14 @@ Extended LowerBySeries(Extended a, Extended x, Extended tolerance) {
     sum += term;
   } while (term > tolerance);
   const Extended exponent = LogarithmOf(a, x, LnGamma(a + 1), sum);
-  return exponent >= kLeastExponent ? std::exp(exponent) : 0;
+  return exponent >= kMinExponent ? std::exp(exponent) : 0;
 }
 
 Extended LowerByFraction(Extended shape, Extended x, Extended tolerance) {
   Extended a = 1 - shape;
   Extended b = a + x + 1;
   Extended term = 0;
-  // The convergents' numerators and denominators, one step back and two.
+  // Numerators and denominators of the last two convergents.
   Extended older_numerator = 1;
   Extended older_denominator = x;
   Extended numerator = x + 1;
@@ -80,15 +80,15 @@ Extended LowerByFraction(Extended shape, Extended x, Extended tolerance) {
     older_denominator = denominator;
     numerator = next_numerator;
     denominator = next_denominator;
-    if (std::fabs(next_numerator) >= kLarge) {
-      older_numerator /= kLarge;
-      older_denominator /= kLarge;
-      numerator /= kLarge;
-      denominator /= kLarge;
+    if (std::fabs(next_numerator) >= kRescaleThreshold) {
+      older_numerator /= kRescaleThreshold;
+      older_denominator /= kRescaleThreshold;
+      numerator /= kRescaleThreshold;
+      denominator /= kRescaleThreshold;
     }
   }
   const Extended exponent = LogarithmOf(shape, x, LnGamma(shape), fraction);
-  return exponent >= kLeastExponent ? 1 - std::exp(exponent) : 1;
+  return exponent >= kMinExponent ? 1 - std::exp(exponent) : 1;
 }
 
 }  // namespace
@@ -97,8 +97,8 @@ Extended IncompleteGamma(Extended a, Extended x) {
   RequireDomain(a, x);
   if (std::isnan(a) || std::isnan(x)) return a + x;
   if (FloatIsZero(x)) return 0;
-  if (a > kLargestShape) return NormalApproximation(a, x);
-  if (x > kLargestPoint) return 1;
+  if (a > kMaxShape) return NormalApproximation(a, x);
+  if (x > kMaxPoint) return 1;
   const Extended tolerance = PositiveTolerance();
   return x <= 1 || x < a ? LowerBySeries(a, x, tolerance) : LowerByFraction(a, x, tolerance);
 }

@@ -3,30 +3,33 @@
 /// @file
 /// Means of a vector, and the root of its sum of squares.
 ///
-/// Results are extended. NaN elements give NaN, except where a check for positive elements rejects
-/// them; infinities give what the processor makes of them. O(n).
+/// For all routines:
+///
+/// - n = 0: EMathError rsVectorIsEmpty.
+/// - Results are extended values.
+/// - NaN elements give NaN, except where a check for positive elements rejects them. Infinities
+///   propagate as in IEEE 754 arithmetic.
+/// - Cost: O(n).
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex::inline QorvexStatistics {
 
-/// The arithmetic mean: SumVector over n. Integer elements are summed in int64, which wraps around
-/// silently. An empty vector raises EMathError with rsVectorIsEmpty. For the six elements of at
-/// least 32 bits.
+/// The arithmetic mean, SumVector(vector) / n. For the six element types of at least 32 bits.
+/// Integers are summed in int64, which wraps around silently.
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended QorMean(const TQorVector<T>& vector);
 
-/// The geometric mean, exp of the mean logarithm. EMathError: rsVectorIsEmpty, then rsVectorNotPos
-/// unless every element is greater than QorTolerance.
+/// The geometric mean, exp(sum of ln x / n). EMathError: rsVectorIsEmpty; then rsVectorNotPos
+/// unless every element exceeds QorTolerance.
 [[nodiscard]] QORVEX_EXPORT Extended GeometricMean(const TQorFloatVector& vector);
 
-/// The harmonic mean, n over the sum of the reciprocals. EMathError: rsVectorIsEmpty, then
-/// rsVectorNotPos unless every element is greater than QorTolerance.
+/// The harmonic mean, n / sum of 1/x. EMathError: rsVectorIsEmpty; then rsVectorNotPos unless every
+/// element exceeds QorTolerance.
 [[nodiscard]] QORVEX_EXPORT Extended HarmonicMean(const TQorFloatVector& vector);
 
-/// The root of the sum of the squares; in spite of its name it takes no mean, so (3, 4) gives 5. An
-/// empty vector raises EMathError with rsVectorIsEmpty.
+/// The square root of the sum of squares. In spite of its name, no mean is taken: (3, 4) gives 5.
 [[nodiscard]] QORVEX_EXPORT Extended RootMeanSquare(const TQorFloatVector& vector);
 
 }  // namespace qorvex::inline QorvexStatistics

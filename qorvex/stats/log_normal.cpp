@@ -44,7 +44,7 @@ void LogNormalPDFValues(Extended mean, Extended std_dev, Extended x_low, Extende
                         std::int32_t n, TQorFloatVector& x_values, TQorFloatVector& y_values) {
   detail::FillDensityTable({x_low, x_high, n, x_values, y_values}, [=] {
     const LogNormalDensity density(mean, std_dev);
-    // Also where n is negative and there is no point.
+    // Checked even if n is negative and there are no points.
     RequirePositive(x_low);
     return density;
   });

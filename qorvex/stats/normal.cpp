@@ -28,7 +28,7 @@ class NormalDensity {
   Extended area_;
 };
 
-// A polynomial of degree 7, coefficients from degree 0 upward.
+// The coefficients of a polynomial of degree 7, lowest degree first.
 using Polynomial = std::array<Extended, 8>;
 
 Extended Evaluate(const Polynomial& c, Extended r) {
@@ -99,7 +99,7 @@ void NormalPDFValues(Extended mean, Extended std_dev, Extended x_low, Extended x
 Extended NormalLess(Extended z) {
   if (z < 0) RaiseMathError(rsValueGZero);
   const Extended density = NormalZ(z);
-  // The sum plays no part then, and could overflow.
+  // The sum has no effect then, and could overflow.
   if (density == 0) return 0.5L;
   const Extended square = z * z;
   Extended numerator = z;

@@ -16,7 +16,7 @@ namespace {
 
 constexpr Extended kNoMode = -1.1E4932L;
 
-// Calls visit(last element, length) for each run of neighbours that SameFloat joins.
+// Calls visit(last element, length) for each run of neighbours that SameFloat finds the same.
 template <class Visit>
 void ForEachRun(const TQorFloatVector& sorted, Visit visit) {
   std::size_t length = 1;
@@ -33,7 +33,7 @@ void ForEachRun(const TQorFloatVector& sorted, Visit visit) {
   visit(previous, length);
 }
 
-// The value at a one-based position between elements.
+// Interpolates between elements at a one-based position.
 Extended Interpolate(const TQorFloatVector& sorted, Extended exact_position) {
   const auto position = static_cast<float>(exact_position);
   const float whole = std::trunc(position);

@@ -4,12 +4,13 @@
 /// Median, mode, most frequent values, quartiles and deciles of a vector that is already sorted
 /// ascending.
 ///
-/// These routines never sort and never copy: a caller who needs several of them sorts once with
-/// QSortVector. An unsorted vector is indexed as it stands, so (4, 1, 3, 2) has the "median" 2.
-///
-/// QSortVector puts NaN last, where the upper order statistics meet it; each NaN is a run of its
-/// own. Interpolation beside an infinite element gives NaN where its weight is 0, else the
-/// infinity.
+/// - These routines neither sort nor copy; sort once with QSortVector and call as many as you need.
+///   They do not check the order either: the "median" of (4, 1, 3, 2) is 2.
+/// - n = 0: EMathError rsVectorIsEmpty, and the outputs keep their values.
+/// - NaN: QSortVector puts it last, so it affects the upper order statistics. Each NaN is a run of
+///   its own.
+/// - Infinity: interpolation next to an infinite element gives NaN if the weight of that element is
+///   0, otherwise the infinity.
 
 #include <span>
 
@@ -18,35 +19,45 @@
 
 namespace qorvex::inline QorvexStatistics {
 
-/// The middle element, or the mean of the two in the middle. Int64 elements are added in int64,
-/// wrapping, all others in extended precision. An empty vector raises EMathError with
-/// rsVectorIsEmpty. For the six elements of at least 32 bits. O(1).
+/// The median: the middle element, or the mean of the two middle ones.
+///
+/// - Elements: the six types of at least 32 bits. The two middle elements are added in extended
+///   precision, except int64 elements, whose sum wraps around in int64.
+/// - Cost: O(1).
 template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended GetMedian(const TQorVector<T>& sorted);
 
-/// True, with the mode, when one run of elements that SameFloat joins is longer than every other
-/// and longer than one element, or when there is only one element. Otherwise false; the mode is
-/// then -1.1E4932 when no value repeats, else the last value that led before the tie. A run's value
-/// is its last element. An empty vector raises EMathError with rsVectorIsEmpty, the output
-/// untouched. O(n).
+/// Finds the mode, the value that occurs most often. Neighbours that SameFloat finds the same form
+/// a run, whose value is its last element.
+///
+/// - True, with the mode: one run is longer than every other and longer than one element, or n = 1.
+/// - False: no value repeats, and `mode` becomes -1.1E4932; or several runs are longest, and `mode`
+///   becomes the value of the first of the longest runs.
+/// - Cost: O(n).
 [[nodiscard]] QORVEX_EXPORT bool GetMode(const TQorFloatVector& sorted, Extended& mode);
 
-/// The values of the longest runs of at least two elements that SameFloat joins, in the vector's
-/// order; empty when no value repeats. A run's value is its last element, but the first when the
-/// run is the whole vector; one element is its own result. An empty vector raises EMathError with
-/// rsVectorIsEmpty. O(n).
+/// The values of all longest runs of at least two elements, in the order of the vector. Runs are
+/// those of GetMode.
+///
+/// - Empty if no value repeats. One element is its own result.
+/// - If one run is the whole vector, its value is the first element instead of the last.
+/// - Cost: O(n).
 [[nodiscard]] QORVEX_EXPORT TQorFloatVector GetMostFrequent(const TQorFloatVector& sorted);
 
-/// The first and third quartile: linear interpolation at the one-based positions n/4 + 1/2 and 3n/4
-/// + 1/2 (method 5 of Hyndman and Fan 1996, "Sample quantiles in statistical packages"). Positions
-/// are held in single precision, which keeps the fraction to 24 bits less those of the position. An
-/// empty vector raises EMathError with rsVectorIsEmpty, the outputs untouched. O(1).
+/// The first and third quartile, by linear interpolation at the one-based positions n/4 + 1/2 and
+/// 3n/4 + 1/2: method 5 of Hyndman and Fan (1996), "Sample quantiles in statistical packages".
+///
+/// - n = 1: both are the element.
+/// - Positions are held in single precision: a fraction keeps the bits that the whole part leaves
+///   of 24.
+/// - Cost: O(1).
 QORVEX_EXPORT void GetQuartiles(const TQorFloatVector& sorted, Extended& q1, Extended& q3);
 
-/// The nine deciles, interpolated like the quartiles at the positions n i/10 + 1/2. A position
-/// before the first element, which vectors of fewer than five have, gives the first element, as one
-/// beyond the last gives the last. An empty vector raises EMathError with rsVectorIsEmpty, the
-/// output untouched. O(1).
+/// The nine deciles, interpolated like the quartiles at the positions n i/10 + 1/2.
+///
+/// - A position before the first element, which occurs for n < 5, gives the first element; one
+///   beyond the last gives the last.
+/// - Cost: O(1).
 QORVEX_EXPORT void GetDeciles(const TQorFloatVector& sorted, std::span<Extended, 9> deciles);
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -18,11 +18,11 @@ void RequireMean(Extended lambda) {
   if (lambda <= 0) RaiseMathError(rsPoissonInvalid);
 }
 
-// The probabilities of consecutive counts, upwards from the first.
+// The probabilities of consecutive counts from `first` upwards.
 class Probabilities {
  public:
   Probabilities(Extended lambda, std::uint32_t first)
-      : lambda_(lambda), none_(std::exp(-lambda)), factorial_(Factorial(first)) {}
+      : lambda_(lambda), at_zero_(std::exp(-lambda)), factorial_(Factorial(first)) {}
 
   Extended operator()(std::uint64_t count) {
     const auto k = static_cast<Extended>(count);
@@ -34,13 +34,13 @@ class Probabilities {
  private:
   [[nodiscard]] Extended Probability(Extended k) const {
     const Extended power = XtoY(lambda_, k);
-    if (std::isnormal(none_) && std::isnormal(power)) return none_ * power / factorial_;
+    if (std::isnormal(at_zero_) && std::isnormal(power)) return at_zero_ * power / factorial_;
     if (std::isinf(lambda_)) return 0;
     return std::exp(k * std::log(lambda_) - lambda_ - std::log(factorial_));
   }
 
   Extended lambda_;
-  Extended none_;       // the probability of the count 0
+  Extended at_zero_;    // the probability of the count 0
   Extended factorial_;  // of the next count
 };
 

@@ -1,23 +1,24 @@
 #pragma once
 
 /// @file
-/// The Poisson distribution of counts with mean lambda.
+/// The Poisson distribution with mean lambda.
 ///
-/// A probability is exp(-lambda) lambda^k / k! in this order, and a lower probability the sum of
-/// these from 0 on. Where exp(-lambda) or lambda^k is beyond the normal extended range, for lambda
-/// above about 11355 or k near a thousand and more, the probability is the exponential of its
-/// logarithm, with up to 16 correct digits. This has limits, which PoissonDistribution
-/// does not have:
+/// A probability is exp(-lambda) lambda^k / k!, computed in this order; a lower probability is the
+/// sum of the probabilities from 0 on. If exp(-lambda) or lambda^k leaves the normal extended
+/// range, which happens for lambda above about 11355 or k near a thousand and more, the probability
+/// is the exponential of its logarithm and has up to 16 correct digits. This order has limits,
+/// which PoissonDistribution does not have:
 ///
-/// - Factorials end at 1754: a count above it raises EMathError with rsFactOverflow.
-/// - Upper probabilities are 1 less the lower ones, with an absolute error of about 1e-19 lambda;
-///   small ones lose their digits and can be negative by as much, where the sum has come out above
-///   1.
+/// - Factorials end at 1754: larger counts raise EMathError with rsFactOverflow.
+/// - Upper probabilities are 1 - lower, with an absolute error of about 1e-19 lambda. Small ones
+///   lose their digits, and they are negative if the sum has come out above 1.
 ///
-/// EMathError: rsPoissonInvalid for lambda <= 0, then rsFactOverflow. NaN gives NaN, except in the
-/// table, which rejects it, and in PoissonLess for k = 0; for an infinite lambda every count has
-/// probability 0. A probability costs an exponential, a power and k multiplications; a sum one
-/// power a count.
+/// EMathError: rsPoissonInvalid if lambda <= 0; then rsFactOverflow.
+///
+/// - NaN gives NaN, except that the table rejects it and PoissonLess(NaN, 0) is 0.
+/// - Infinite lambda: every count has probability 0.
+/// - Cost: an exponential, a power and k multiplications for a probability; one power a count for a
+///   sum.
 
 #include <cstdint>
 
@@ -32,17 +33,21 @@ namespace qorvex::inline QorvexStatistics {
 /// P(X < k); 0 for k = 0.
 [[nodiscard]] QORVEX_EXPORT Extended PoissonLess(Extended lambda, std::uint32_t k);
 
-/// P(X > k), which is 1 - PoissonLess(lambda, k + 1).
+/// P(X > k) = 1 - PoissonLess(lambda, k + 1).
 [[nodiscard]] QORVEX_EXPORT Extended PoissonGreater(Extended lambda, std::uint32_t k);
 
-/// P(k1 < X < k2), both ends excluded, when the counts ascend; P(k2 <= X <= k1), both included,
-/// when they descend; P(X = k1) when SameFloat finds them equal in single precision.
+/// The probability between two counts:
+///
+/// - P(X = k1) if SameFloat finds the counts equal in single precision; otherwise
+/// - k1 < k2: P(k1 < X < k2), both ends excluded;
+/// - k1 > k2: P(k2 <= X <= k1), both ends included.
 [[nodiscard]] QORVEX_EXPORT Extended PoissonBetween(Extended lambda, std::uint32_t k1,
                                                     std::uint32_t k2);
 
-/// The probabilities of n consecutive counts about the mean m = trunc(lambda): n div 2 counts above
-/// it and the others from it downwards, or fewer, since none is below 0. The outputs are released
-/// before anything is checked; rsPoissonInvalid unless n > 0 and lambda > 0.
+/// Fills the vectors with n consecutive counts about m = trunc(lambda), and their probabilities: n
+/// div 2 counts above m, the others from m downwards. If these would go below 0, the table is
+/// shorter and starts at 0. Both vectors are released before the checks. EMathError:
+/// rsPoissonInvalid unless n > 0 and lambda > 0 (NaN included); then rsFactOverflow.
 QORVEX_EXPORT void PoissonPDFValues(std::int32_t n, Extended lambda, TQorLIntVector& ks,
                                     TQorFloatVector& probs);
 

@@ -25,7 +25,7 @@ void GetQuadraticCurve(const TQorFloatVector& x, const TQorFloatVector& y, Exten
                        Extended& a1, Extended& a2) {
   RequireSameLength(x, y);
   const auto n = static_cast<Extended>(x.size());
-  // Two loops, since seven sums at once do not fit into the registers.
+  // Two loops, because seven sums at once do not fit into the registers.
   Extended s1 = 0, s2 = 0, s3 = 0, s4 = 0;  // sums of the powers of x
   for (const Extended u : x) {
     const Extended square = u * u;

@@ -2,9 +2,8 @@
 
 #include <cstddef>
 
-#include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/stats/detail/powers.h"
+#include "qorvex/stats/detail/moments.h"
 #include "qorvex/stats/dispersion.h"
 #include "qorvex/vector/detail/checks.h"
 
@@ -12,24 +11,18 @@ namespace qorvex::inline QorvexStatistics {
 
 using detail::Cube;
 using detail::FourthPower;
+using detail::RequireSpread;
 
 namespace {
 
-constexpr std::size_t kLeastForSkew = 3;
-constexpr std::size_t kLeastForKurtosis = 4;
-
 void RequireForSkew(const TQorFloatVector& vector) {
   QorvexVector::detail::RequireElements(vector);
-  if (vector.size() < kLeastForSkew) RaiseMathError(rsVectorG2);
+  if (vector.size() < detail::kMinCountForSkew) RaiseMathError(rsVectorG2);
 }
 
 void RequireForKurtosis(const TQorFloatVector& vector) {
   QorvexVector::detail::RequireElements(vector);
-  if (vector.size() < kLeastForKurtosis) RaiseMathError(rsVectorG3);
-}
-
-void RequireSpread(Extended std_dev) {
-  if (FloatIsZero(std_dev)) RaiseMathError(rsStdDev);
+  if (vector.size() < detail::kMinCountForKurtosis) RaiseMathError(rsVectorG3);
 }
 
 Extended SumOfCubes(const TQorFloatVector& vector, Extended mean) {

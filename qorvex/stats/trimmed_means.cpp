@@ -13,8 +13,8 @@ namespace qorvex::inline QorvexStatistics {
 
 namespace {
 
-// The two trims differ in the largest fraction, which leaves the median, and in how many elements a
-// count cut from the vector takes from each end.
+// The two trimmed means differ in the largest fraction, which gives the median, and in
+// per_tail(count): how many elements are cut from each end for a total of trunc(n * fraction).
 template <WideNumericElement T, class PerTail>
 Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended largest_fraction,
                  PerTail per_tail) {

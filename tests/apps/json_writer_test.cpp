@@ -37,7 +37,7 @@ TEST(JsonWriter, NestsValuesAndKeepsTheirBits) {
 )");
 }
 
-TEST(JsonWriter, EscapesStringsAndReplacesWhatIsNotUtf8) {
+TEST(JsonWriter, EscapesStringsAndReplacesInvalidUtf8) {
   const auto expect = [](std::string_view text, const std::string& written) {
     JsonWriter json;
     json.String(text);
@@ -45,10 +45,10 @@ TEST(JsonWriter, EscapesStringsAndReplacesWhatIsNotUtf8) {
   };
   expect("a \"b\" \\ \n\r\t\x01\x7F/", R"(a \"b\" \\ \n\r\t\u0001\u007f/)");
   expect({"\0", 1}, "\\u0000");
-  // The first and last characters of each length, and both neighbours of the surrogates.
+  // The first and last characters of each length, and the neighbours of the surrogates.
   const std::string valid = "\u007E\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF";
   expect(valid, valid);
-  // Alone, cut off, overlong, a surrogate, beyond the last.
+  // Single bytes, truncated, overlong, a surrogate, beyond the last character.
   for (const char* invalid : {"\xE9", "\x80", "\xC3", "\xE2\x82", "\xC1\xBF", "\xE0\x9F\xBF",
                               "\xF0\x8F\xBF\xBF", "\xED\xA0\x80", "\xF4\x90\x80\x80"}) {
     std::string marks;

@@ -1,4 +1,4 @@
-// What the program needs for a million values.
+// The memory that the program needs for a million values.
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -7,7 +7,7 @@
 
 namespace qorvex::apps {
 
-// The largest resident size, in bytes, of all processes that have been run so far.
+// The largest resident size, in bytes, of all child processes so far.
 long PeakAfter(const std::string& command) {
   EXPECT_EQ(Shell(command + " | qorvex describe - >/dev/null; echo $?"), "0\n");
   rusage usage{};
@@ -17,10 +17,10 @@ long PeakAfter(const std::string& command) {
 
 TEST(Memory, StaysBelow56BytesAValue) {
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-  GTEST_SKIP() << "sanitizers keep what is freed";
+  GTEST_SKIP() << "sanitizers do not return freed memory";
 #endif
   const long base = PeakAfter("echo 1,2,3,4,5,6");
-  // Only one column at a time has its sorted copy, so 16 bytes a value and 32 more for one value in
+  // Only one column at a time has a sorted copy: 16 bytes per value, and 32 more for one value in
   // six.
   const long six_columns = PeakAfter("seq 200000 | sed 's/.*/&,&,&,&,&,&/'") - base;
   EXPECT_LT(six_columns / 1'200'000, 24);

@@ -12,8 +12,7 @@ namespace {
 
 using Case = ReadingCase<std::optional<char>>;
 
-// The rows as text, each with a dash for every blank line before it, its line and its cells; or
-// the error.
+// The rows as text: a dash for every blank line before a row, its line and its cells; or the error.
 std::string Read(const std::string& text, std::optional<char> delimiter, std::size_t block_size) {
   RowReader reader(SourceOf(text), delimiter, block_size);
   return ResultOrError([&] {
@@ -26,7 +25,8 @@ std::string Read(const std::string& text, std::optional<char> delimiter, std::si
   });
 }
 
-// Reads with blocks of every size up to the text, so that each byte is once the last of a block.
+// Reads with blocks of every size up to that of the text, so that every byte is the last of a block
+// once.
 void ExpectRows(std::initializer_list<Case> cases) {
   for (const auto& [text, rows, delimiter] : cases) {
     EXPECT_EQ(Read(text, delimiter, RowReader::kBlockSize), rows);
@@ -36,7 +36,7 @@ void ExpectRows(std::initializer_list<Case> cases) {
   }
 }
 
-TEST(RowReader, SplitsLinesWithEveryKindOfEnd) {
+TEST(RowReader, SplitsLinesWithAnyLineEnd) {
   ExpectRows({{"a,b\n1,2\n", "1:[a][b]2:[1][2]"},
               {"a,b\r\n1,2\r\n", "1:[a][b]2:[1][2]"},
               {"a,b\n1,2", "1:[a][b]2:[1][2]"},
@@ -79,17 +79,14 @@ TEST(RowReader, NamesTheLineOfAFault) {
               {"\"1\"2 3\n", "data.csv:1: \"2\" follows a closing quote", ' '},
               {"\xFF\xFE,", "data.csv:1: the text is UTF-16; UTF-8 is needed"},
               {"\xFE\xFF,", "data.csv:1: the text is UTF-16; UTF-8 is needed"}});
-  const std::string only_cr = "data.csv:1: a line ends with CR alone; LF or CR LF is needed";
   for (const char* const text :
-       {"1\r2\r3\r", " 1\r 2\r", "1,2\r,3\r", "\"1\"\r\"2\"\r", "\"1\"\r 2\r", "1\r\r\n"}) {
-    ExpectRows({{text, only_cr}});
-  }
+       {"1\r2\r3\r", " 1\r 2\r", "1,2\r,3\r", "\"1\"\r\"2\"\r", "\"1\"\r 2\r", "1\r\r\n"})
+    ExpectRows({{text, "data.csv:1: a line ends with CR alone; LF or CR LF is needed"}});
   EXPECT_EQ(Read(std::string(RowReader::kLongestRow, '"'), ',', RowReader::kBlockSize),
             "data.csv:1: the row is too long (more than 64 MiB); a closing quote may be missing");
 }
 
-// What is written by the rules of RFC 4180 is read back, whatever the cells and wherever the blocks
-// end.
+// What is written by the rules of RFC 4180 is read back, whatever the cells and the ends of blocks.
 TEST(RowReader, ReadsBackRandomTables) {
   std::mt19937 random(20240607);
   const auto below = [&](std::size_t limit) {
@@ -111,7 +108,7 @@ TEST(RowReader, ReadsBackRandomTables) {
         }
         rows += '[' + cell + ']';
         if (column > 0) text += delimiter;
-        // An empty cell that is not quoted would be no cell, or make a blank line.
+        // An empty cell without quotes could be no cell at all, or make the line blank.
         const bool plain = !cell.empty() && cell.find_first_of("\",;\t \r\n") == cell.npos;
         text += plain && below(2) == 0 ? cell : quoted + '"';
       }

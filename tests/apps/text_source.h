@@ -9,7 +9,7 @@
 
 namespace qorvex::apps {
 
-/// An input that gives a text, three bytes at a time.
+/// An input that provides a text in pieces of three bytes.
 inline TextInput SourceOf(std::string text) {
   return {"data.csv",
           [text = std::move(text), at = std::size_t{0}](char* buffer, std::size_t size) mutable {
@@ -19,7 +19,7 @@ inline TextInput SourceOf(std::string text) {
           }};
 }
 
-/// A text, what reading it must give, written as text as well, and the options of the reader.
+/// A text, the expected result of reading it, as text, and the options of the reader.
 template <class Options>
 struct ReadingCase {
   std::string text;
@@ -27,7 +27,7 @@ struct ReadingCase {
   Options options = {};
 };
 
-/// The text that read() gives, or the text of its error.
+/// The text that read() returns, or the text of its error.
 template <class Read>
 std::string ResultOrError(Read read) {
   try {

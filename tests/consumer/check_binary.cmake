@@ -1,7 +1,7 @@
-# Checks FILE, a library or program: every symbol that it exports is ours; none is unique, since a unique symbol keeps a
-# library from being unloaded; no Qt library is needed unless QT_ALLOWED.
+# Checks FILE, a library or program: all exported symbols belong to the namespace qorvex; none is unique, because a
+# library with unique symbols cannot be unloaded; no Qt library is needed unless QT_ALLOWED.
 
-# A semicolon in a demangled name would split a line.
+# A semicolon in a demangled name would split the line.
 function(lines_of output)
   execute_process(COMMAND ${ARGN} OUTPUT_VARIABLE text COMMAND_ERROR_IS_FATAL ANY)
   string(REPLACE ";" "," text "${text}")
@@ -35,6 +35,6 @@ if(FILE MATCHES "\\.so")
   list(FILTER exported EXCLUDE REGEX "qorvex::")
   if(exported)
     list(JOIN exported "\n  " exported)
-    message(SEND_ERROR "${FILE} exports what is not ours:\n  ${exported}")
+    message(SEND_ERROR "${FILE} exports foreign symbols:\n  ${exported}")
   endif()
 endif()

@@ -1,6 +1,6 @@
-# Checks BINARY_DIR, where a project without a build type has built the static base library as a part of itself: the
-# library is optimised and the project's own settings are its own; a program that is linked with the flags of
-# pkg-config checks the platform when it starts. SOURCE_DIR is that of the library, PROJECT_DIR that of the project.
+# Checks BINARY_DIR, where a project without a build type has built the static base library as a subdirectory: the
+# library is optimised and the project's own settings are unchanged; a program linked with the flags of pkg-config
+# checks the platform at start. SOURCE_DIR belongs to the library, PROJECT_DIR to the project.
 
 file(READ "${BINARY_DIR}/compile_commands.json" commands)
 string(JSON count LENGTH "${commands}")
@@ -29,7 +29,7 @@ if(ours EQUAL 0 OR theirs EQUAL 0)
 endif()
 if(wrong)
   list(JOIN wrong "\n  " wrong)
-  message(SEND_ERROR "optimised in another way than expected:\n  ${wrong}")
+  message(SEND_ERROR "unexpected optimisation:\n  ${wrong}")
 endif()
 
 execute_process(

@@ -1,4 +1,4 @@
-# Installs the build tree, moves the result to PREFIX, and makes sure that no file in it remembers where it was made.
+# Installs the build tree, moves the result to PREFIX, and checks that no installed file contains the old paths.
 
 set(first "${PREFIX}-first")
 file(REMOVE_RECURSE "${first}" "${PREFIX}")

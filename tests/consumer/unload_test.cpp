@@ -1,4 +1,4 @@
-// Loads each library that is named and unloads it again; fails when one stays in memory.
+// Loads and unloads each library given as an argument; fails if one stays in memory.
 
 #include <cstdio>
 #include <dlfcn.h>

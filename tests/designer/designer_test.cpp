@@ -169,6 +169,22 @@ TEST_F(Designer, KeepsNumbersAndNamesFromTranslators) {
   }
 }
 
+TEST_F(Designer, OffersWidgetsUnderTheirQtClass) {
+  const auto widgets = Widgets();
+  const auto holder = std::ranges::find(widgets, QString("qorvex::TQorUICtrlHolder"),
+                                        &QDesignerCustomWidgetInterface::name);
+  ASSERT_NE(holder, widgets.end());
+  EXPECT_EQ((*holder)->domXml().toStdString(),
+            R"(<ui language="c++" displayname="TQorUICtrlHolder">)"
+            R"(<widget class="qorvex::TQorUICtrlHolder" name="uiCtrlHolder"/>)"
+            R"(<customwidgets><customwidget><class>qorvex::TQorUICtrlHolder</class>)"
+            R"(<extends>QWidget</extends><header>qorvex/components/uictrl_holder.h</header>)"
+            R"(<propertyspecifications>)"
+            R"(<stringpropertyspecification name="NullStr" type="singleline"/>)"
+            R"(</propertyspecifications></customwidget></customwidgets></ui>)"
+            "\n");
+}
+
 TEST_F(Designer, ShowsNonVisualComponentsAndTheirResults) {
   ASSERT_NO_FATAL_FAILURE(LoadNew("qorvex::TQorDescStatsHolder"));
   EXPECT_FALSE(widget_->isHidden());

@@ -21,8 +21,8 @@
 namespace qorvex {
 namespace {
 
-// Compares each property that form.ui sets with what the widget says. The texts of the parts of
-// colours and lists follow one another in the file, as in ValueText.
+// Compares each property in form.ui with that of the widget. The parts of colours and lists are
+// read as one text, as in ValueText.
 void ExpectAsWritten(QWidget& form) {
   form.show();
   QApplication::processEvents();
@@ -64,7 +64,7 @@ void ExpectAsWritten(QWidget& form) {
             form.findChild<TQorFloatEdit*>("number"));
 }
 
-TEST(Form, BecomesAProgram) {
+TEST(Form, WorksCompiled) {
   QWidget form;
   Ui::Form ui;
   ui.setupUi(&form);
@@ -81,7 +81,7 @@ std::unique_ptr<QWidget> Loaded(const QString& name, QWidget* parent = nullptr) 
   return form;
 }
 
-TEST(Form, LoadsWhileTheProgramRuns) {
+TEST(Form, WorksLoadedAtRunTime) {
   const auto form = Loaded("form.ui");
   ASSERT_TRUE(form);
   ExpectAsWritten(*form);
@@ -126,7 +126,7 @@ TEST(SharedSettings, AreThoseOfTheSameCopyOfAForm) {
   for (const QWidget* form : forms) ExpectLinked(*form);
 }
 
-TEST(SharedSettings, AreFoundWhenAnEditorIsShownAmongThem) {
+TEST(SharedSettings, AreFoundWhenTheEditorIsShown) {
   auto* const page = new QWidget;
   auto* const editor = new TQorVectorEdit(page);
   editor->setUICtrl(QStringLiteral("late"));

@@ -69,6 +69,14 @@ TEST(Holders, FollowTheirComponentsAndAreHidden) {
   QObject::connect(stats, &TQorDescStatsHolder::StatsUpdated, [&updates] { ++updates; });
   stats->Stats()->setValues({1, 3});
   EXPECT_EQ(updates, 1);
+  static QString logged;
+  const auto handler = qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString& message) { logged += message; });
+  stats->setItems({"1"});
+  stats->setObjectName("sample");
+  stats->setItems({"one"});
+  qInstallMessageHandler(handler);
+  EXPECT_EQ(logged.toStdString(), "sample: \"one\" is not a number");
 
   holder->setObjectName("shared");
   EXPECT_EQ(window.findChild<TQorUICtrl*>("shared"), holder->UICtrl());

@@ -1,18 +1,20 @@
 #!/usr/bin/env bash
-# run_shell_blocks.sh <source directory> <build directory> <empty directory>: copies every block of shell commands of the
-# README and of docs/ into a shell, as a reader would. It runs in a directory that looks like a checkout whose
-# build/release is the build directory. Blocks that cannot run stand in the list below, each with its reason. Blocks of
-# docs/command_line.md that show output (console) are run and compared by another test.
+# run_shell_blocks.sh <source directory> <build directory> <empty directory>: runs every block of shell commands in
+# README.md, CONTRIBUTING.md and docs/, as a reader would. The blocks run in a directory that looks like a checkout
+# whose build/release is the build directory. The list below names the blocks that cannot run here, with the reason.
+# Another test runs the console blocks of docs/command_line.md and compares their output.
 set -euo pipefail
 source=$1 build=$2 scratch=$3
 failures=0
 
-# By document and first line.
+# Keys: document and start of the block.
 declare -A cannot_run=(
-  ["README.md: ./run "]="CI runs both in a bare system"
+  ["README.md: ./run "]="CI runs both on a bare system"
+  ["CONTRIBUTING.md: ./test"]="runs all tests, including this one"
+  ["CONTRIBUTING.md: cmake --preset asan-ubsan"]="builds everything with sanitizers"
   ["docs/gallery.md: build/release/bin/qorvex-gallery "]="needs a display"
   ["docs/controls/designer.md: QT_PLUGIN_PATH="]="needs a display"
-  ["docs/performance.md: scripts/setup.sh benchmarks"]="measures for half an hour, beside libraries that tests do not need"
+  ["docs/performance.md: scripts/setup.sh benchmarks"]="takes half an hour and needs libraries that tests do not"
 )
 
 # fail <message>...
@@ -33,7 +35,7 @@ reason_not_to_run() {
   return 1
 }
 
-# What stands for a placeholder.
+# The block with its placeholders filled in.
 filled_in() {
   local block=${1//<directory>/$scratch/installed}
   printf '%s' "${block//program.cpp/examples/quick_start.cpp}"
@@ -45,7 +47,7 @@ run_block() {
   if reason_not_to_run "$1" "$3"; then return; fi
   block=$(filled_in "$3")
   if [[ $block =~ \<[a-z\ ]+\> ]]; then
-    fail "$1:$2: nothing stands for the placeholder ${BASH_REMATCH[0]}"
+    fail "$1:$2: unknown placeholder ${BASH_REMATCH[0]}"
   elif ! output=$(cd "$scratch" && bash -euc "$block" 2>&1 </dev/null); then
     fail "$1:$2: these commands fail:" "$block" "$(tail -n 20 <<<"$output")"
   fi
@@ -74,7 +76,7 @@ read_document() {
   [[ -z $kind ]] || fail "$1:$start: a block without an end"
 }
 
-# What is built here runs once.
+# Programs built here run only once.
 export CMAKE_BUILD_TYPE=Debug
 
 rm -rf "$scratch"
@@ -85,8 +87,8 @@ done
 ln -s "$build" "$scratch/build/release"
 
 cd "$source"
-documents=(README.md $(find docs -name '*.md' | sort))
+documents=(README.md CONTRIBUTING.md $(find docs -name '*.md' | sort))
 [[ ${#documents[@]} -gt 10 ]] || fail "only ${#documents[@]} documents were found"
 for document in "${documents[@]}"; do read_document "$document"; done
-for start in "${!cannot_run[@]}"; do fail "listed, but not there: $start"; done
+for start in "${!cannot_run[@]}"; do fail "in the list of blocks that cannot run, but in no document: $start"; done
 [[ $failures == 0 ]]

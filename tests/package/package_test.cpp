@@ -1,5 +1,5 @@
-// Loads the package as a plain module, into a program that knows nothing but the base library, and
-// unloads it again.
+// Loads the package as a plain module into a program that links only the base library, and unloads
+// it again.
 
 #include <atomic>
 #include <dlfcn.h>
@@ -8,7 +8,7 @@
 #include "qorvex/base/package_units.h"
 #include "support/test.h"
 
-// Qt does not free what it allocates while it is loaded.
+// Qt does not free memory that it allocates when it is loaded.
 extern "C" __attribute__((visibility("default"))) const char* __asan_default_options() {
   return "detect_leaks=0";
 }
@@ -81,7 +81,7 @@ TEST_F(Package, InitialisesItsUnitsInOrderAndFinalisesThemInReverse) {
   }
 }
 
-TEST_F(Package, AUnitThatCannotBeInitialisedTakesTheOthersBack) {
+TEST_F(Package, AFailedInitialisationFinalisesTheUnitsBeforeIt) {
   const PackageUnit units[] = {
       {.name = "first"},
       {.name = "second", .finalise = [] { log.emplace_back("finalise second"); }},

@@ -1,8 +1,6 @@
 #include "random/distribution_battery.h"
 
 #include <algorithm>
-#include <boost/math/quadrature/gauss.hpp>
-#include <numeric>
 #include <random>
 
 #include "qorvex/stats/distributions/distributions.h"
@@ -11,16 +9,15 @@ namespace qorvex::testing {
 
 namespace {
 
-// Cell i holds the values above edges[i-1] up to edges[i], the last one all others.
+// Cell i contains the values x with edges[i-1] < x <= edges[i]; the last cell contains all others.
 struct Cells {
   std::vector<Extended> edges;
   std::vector<Extended> cumulative;
 };
 
-// 1024 cells of equal probability, of which the first and the last are halved seven times for the
-// sake of the tails. Where counts fall on the same edge or too few variates are expected, a cell is
-// united with the next one; so it is a single count that makes a cell where its probability
-// exceeds 1/1024.
+// 1024 cells of equal probability. The first and the last are halved seven times, to test the
+// tails. A cell is merged with the next one if they have the same edge, as for counts, or if too
+// few variates are expected in it. A count whose probability exceeds 1/1024 is a cell of its own.
 Cells CellsOf(const Reference& reference, int draws) {
   constexpr Extended least_expectation = 5;
   std::vector<Extended> levels;
@@ -56,9 +53,9 @@ Extended ChiSquareP(const Cells& cells, const std::vector<int>& counts, int draw
   return Upper(ChiSquareDistribution(static_cast<Extended>(counts.size() - 1)), chi_square);
 }
 
-// The greatest difference is looked for at the edges only. In between it can be larger by what
-// varies within one cell, which is a thirtieth of what the difference itself varies by: too large a
-// p-value, by some percent. Counts make it larger still.
+// The largest difference at the edges of the cells. Between edges it can be larger by about a
+// thirtieth of its standard deviation, so the p-value is too large by a few percent; for counts, by
+// more.
 Extended KolmogorovSmirnovP(const Cells& cells, const std::vector<int>& counts, int draws) {
   Extended difference = 0;
   int below = 0;
@@ -75,51 +72,10 @@ Extended KolmogorovSmirnovP(const Cells& cells, const std::vector<int>& counts, 
 }
 
 Extended NormalP(Extended z) {
-  return 2 * Upper(NormalDistribution(), std::fabs(z));
+  return 2 * Upper(NormalDistribution(0, 1), std::fabs(z));
 }
 
 }  // namespace
-
-Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,
-                    Support support) {
-  const Extended total = cumulative.back();
-  for (Extended& x : cumulative) x /= total;
-  const auto lower = [points, cumulative](Extended x) -> Extended {
-    const auto above = std::ranges::upper_bound(points, x) - points.begin();
-    return above == 0 ? 0 : cumulative[static_cast<std::size_t>(above - 1)];
-  };
-  const auto quantile = [points, cumulative](Extended p) {
-    return points[static_cast<std::size_t>(std::ranges::lower_bound(cumulative, p) -
-                                           cumulative.begin())];
-  };
-  return {lower, quantile, moments, support};
-}
-
-Reference Integrated(const std::function<Extended(Extended)>& log_density,
-                     const std::function<Extended(Extended)>& map, Extended lo, Extended hi,
-                     Support support) {
-  constexpr int intervals = 8192;
-  const auto at = [&](Extended i) { return lo + (hi - lo) * i / intervals; };
-  Extended greatest = -kInfinity;
-  for (int i = 0; i <= intervals; ++i) greatest = std::max(greatest, log_density(at(i)));
-  std::vector<Extended> points;
-  std::vector<Extended> cumulative;
-  Extended total = 0;
-  Extended sum = 0;
-  Extended squares = 0;
-  for (int i = 0; i < intervals; ++i) {
-    const Extended probability = boost::math::quadrature::gauss<Extended, 7>::integrate(
-        [&](Extended t) { return std::exp(log_density(t) - greatest); }, at(i), at(i + 1));
-    const Extended middle = map(at(i + 0.5L));
-    total += probability;
-    sum += probability * middle;
-    squares += probability * middle * middle;
-    points.push_back(map(at(i + 1)));
-    cumulative.push_back(total);
-  }
-  const Extended mean = sum / total;
-  return Tabulated(points, cumulative, {mean, squares / total - mean * mean}, support);
-}
 
 bool Verdict::IsGood() const {
   return in_support && chi_square >= limit && kolmogorov_smirnov >= limit && mean >= limit &&

@@ -186,7 +186,7 @@ TEST(Limits, ConstantSourcesOnWhichCallsNeverReturn) {
     for (const auto& [name, value] : constants) {
       try {
         static_cast<void>(Variates().at(variate)(a, b, ConstantSource(value)));
-      } catch (const ConstantSource::AskedTooOften&) {
+      } catch (const ConstantSource::TooManyDraws&) {
         found += name;
       }
     }

@@ -8,8 +8,8 @@
 
 namespace qorvex::testing {
 
-/// A uniform source that returns the values of a script and counts them; std::out_of_range beyond
-/// its end.
+/// A uniform source that returns the values of a script, and throws std::out_of_range after the
+/// last one.
 class ScriptedSource {
  public:
   explicit ScriptedSource(std::vector<Extended> script) : script_(std::move(script)) {}
@@ -23,16 +23,16 @@ class ScriptedSource {
   std::size_t drawn_ = 0;
 };
 
-/// A source that returns one value for ever, or rather until it has been asked too often.
+/// A source that always returns the same value, but throws an exception after a thousand draws.
 class ConstantSource {
  public:
-  struct AskedTooOften {};
+  struct TooManyDraws {};
 
   explicit ConstantSource(Extended value) : value_(value) {}
 
   Extended operator()() {
-    constexpr int kOften = 1000;
-    if (++drawn_ > kOften) throw AskedTooOften();
+    constexpr int max_draws = 1000;
+    if (++drawn_ > max_draws) throw TooManyDraws();
     return value_;
   }
 

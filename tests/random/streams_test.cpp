@@ -25,8 +25,8 @@ Extended DrawRow(const testing::Table& table, std::size_t row, UniformSource sou
   return testing::Variates().at(table.Text(row, "variate"))(parameter("a"), parameter("b"), source);
 }
 
-// The scripts of the table take the branches of every method.
-TEST(Streams, AreThoseOfTheMethods) {
+// The scripts of the table reach every branch of every method.
+TEST(Streams, AgreeWithTheTable) {
   const testing::Table table("tables/variate_streams.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     SCOPED_TRACE("row " + std::to_string(row + 1));
@@ -150,7 +150,7 @@ TEST(Streams, MultivariateNormalAddsTheFactoredVariates) {
   EXPECT_EQ(source.left(), 0U);
 }
 
-// Seeded with what the header of the unit brings along.
+// SetRandSeed comes with the header of the unit.
 TEST(Streams, ShortFormsDrawFromTheRuntime) {
   TQorFloatVector factor;
   TQorFloatVector variate;
@@ -218,7 +218,7 @@ double DoubleQuarter() {
   return 0.25;
 }
 
-TEST(UniformSource, TakesWhateverReturnsAFloatingValue) {
+TEST(UniformSource, TakesAnyCallableThatReturnsAFloatingValue) {
   struct Counter {
     float operator()() { return static_cast<float>(++calls) / 4; }
     int calls = 0;
@@ -237,11 +237,12 @@ TEST(UniformSource, TakesWhateverReturnsAFloatingValue) {
   EXPECT_EQ(draw(constant), 0.125L);
   EXPECT_EQ(draw([] { return 0.75; }), 0.75L);
   EXPECT_EQ(draw(counter), 0.25L);
-  EXPECT_EQ(draw(counter), 0.5L) << "the callable is referred to, not copied";
+  EXPECT_EQ(draw(counter), 0.5L) << "the callable is not copied";
 
   static_assert(std::is_nothrow_convertible_v<TQorRandomFunc, UniformSource>);
   static_assert(!std::is_convertible_v<std::nullptr_t, UniformSource>);
-  static_assert(!std::is_convertible_v<int (*)(), UniformSource>, "no integers of an engine");
+  static_assert(!std::is_convertible_v<int (*)(), UniformSource>,
+                "integers of an engine are not uniform values");
   static_assert(!std::is_convertible_v<Extended, UniformSource>);
 }
 

@@ -23,7 +23,7 @@ TEST(DescriptiveReport, ListsEveryFigureInOrder) {
                    "Third Quartile:\t6.00", "Inter-Quartile Range:\t2.00"}));
 }
 
-TEST(DescriptiveReport, SaysWhatAFewValuesCannotTell) {
+TEST(DescriptiveReport, NamesFiguresThatDoNotExist) {
   EXPECT_EQ(DescriptiveStats().Report(4), Lines{MessageText(rsVectorIsEmpty)});
   const std::string no_spread = "Standard Deviation needs to be > 0 for ";
   const std::string too_few = "Not enough Values for ";
@@ -46,7 +46,7 @@ TEST(DescriptiveReport, SaysWhatAFewValuesCannotTell) {
   EXPECT_EQ(ReportOf({5}, true)[9], "Variance:\t0.00");
 }
 
-// Independent figures: central moments of (0, 1, 1, 6) are 5.5, 13.5 and 68.5 about the mean 2.
+// By hand: the central moments of (0, 1, 1, 6) about the mean 2 are 5.5, 13.5 and 68.5.
 TEST(DescriptiveStats, HasTheFiguresOfSampleAndPopulation) {
   DescriptiveStats stats;
   stats.SetValues({6, 1, 0, 1});
@@ -75,29 +75,29 @@ TEST(DescriptiveStats, HasTheFiguresOfSampleAndPopulation) {
 
   DescriptiveStats zero;
   zero.AddValue(-0.0L);
-  EXPECT_TRUE(std::signbit(zero.Results().sum)) << "the first value starts the sums";
+  EXPECT_TRUE(std::signbit(zero.Results().sum)) << "the first value is not added to 0";
 }
 
-// All results as bytes: every figure has to agree in its last bit, signs of zeros included.
+// All results as bytes, so that figures agree only if all their bits do, including signs of zeros.
 std::string Bits(const DescriptiveResults& r) {
   std::string bits;
   for (const Extended x :
        {r.sum, r.sum_sq, r.mean, r.variance, r.std_dev, r.median, r.mode, r.minimum, r.maximum,
         r.skew, r.kurtosis, r.quartile_1st, r.quartile_3rd, r.inter_quartile_range}) {
-    // NaNs differ in sign and payload without meaning.
+    // Sign and payload of NaN have no meaning.
     const Extended shown = std::isnan(x) ? kNaN : x;
     bits.append(reinterpret_cast<const char*>(&shown), 10);
   }
   return bits + (r.mode_exists ? "m" : "-");
 }
 
-TEST(DescriptiveStats, IncrementalUpdatesEqualAFreshComputationBitForBit) {
+TEST(DescriptiveStats, IncrementalUpdatesHaveTheBitsOfAFullComputation) {
   testing::Engine engine(123);
   const Extended specials[] = {0.0L, -0.0L, 1, 1 + 0.5e-15L, kInfinity, kNaN, -kNaN};
   for (int round = 0; round < 60; ++round) {
     DescriptiveStats stats;
     stats.SetPopulation(round % 2 == 1);
-    // The later rounds meet infinities and NaN.
+    // Later rounds include infinities and NaN.
     const std::size_t kinds = round < 40 ? 4 : std::size(specials);
     for (int step = 0; step < 60; ++step) {
       if (engine() % 4 == 0) {
@@ -116,7 +116,7 @@ TEST(DescriptiveStats, IncrementalUpdatesEqualAFreshComputationBitForBit) {
   }
 }
 
-TEST(DescriptiveStats, NothingMovesWhileUpdating) {
+TEST(DescriptiveStats, ResultsDoNotChangeDuringAnUpdate) {
   DescriptiveStats stats;
   stats.SetValues({1, 2});
   stats.BeginUpdate();
@@ -126,7 +126,7 @@ TEST(DescriptiveStats, NothingMovesWhileUpdating) {
   stats.DeleteValue(0);
   EXPECT_EQ(stats.Results().mean, 1.5L);
   stats.EndUpdate();
-  EXPECT_FALSE(stats.Updating()) << "the flag does not count";
+  EXPECT_FALSE(stats.Updating()) << "calls do not nest";
   EXPECT_EQ(stats.Results().mean, 4);
   EXPECT_EQ(stats.Results().variance, 4);
 
@@ -142,7 +142,7 @@ TEST(DescriptiveStats, NothingMovesWhileUpdating) {
   EXPECT_EQ(Bits(stats.Results()), Bits(DescriptiveResults()));
 }
 
-TEST(DescriptiveStats, TheSampleIsItsOwn) {
+TEST(DescriptiveStats, SharesNoValuesWithOtherVectors) {
   DescriptiveStats stats;
   TQorFloatVector given{1, 2, 3};
   stats.SetValues(given);

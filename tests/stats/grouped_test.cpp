@@ -16,7 +16,7 @@ Deciles DecilesOf(const TQorLWordVector& freq, Extended lower_bound, Extended wi
   return deciles;
 }
 
-TEST(Grouped, FollowsItsFormulasToTheBit) {
+TEST(Grouped, AgreesWithTheTableToTheLastBit) {
   const testing::Table table("tables/grouped.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     TQorLWordVector freq;
@@ -60,7 +60,7 @@ TEST(Grouped, AgreesWithHandComputation) {
   EXPECT_EQ(GroupedPopulationVariance(freq, 0, 10), 61);
   const Extended third = 10 / 3.0L;
   EXPECT_EQ(DecilesOf(freq, 0, 10), (Deciles{5, 10, 10 + third, 10 + 2 * third, 20, 5, 5, 5, 5}))
-      << "those in the last class are the number of values before it";
+      << "deciles in the last class are the number of values before it";
 }
 
 TEST(Grouped, ModeExistsUnlessTheLargestFrequencyIsTied) {

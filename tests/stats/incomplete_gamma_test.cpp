@@ -8,7 +8,7 @@
 
 namespace qorvex {
 
-TEST(IncompleteGamma, StopsAtTheTolerance) {
+TEST(IncompleteGamma, AgreesWithTheTableForSeveralTolerances) {
   const testing::KeptTolerance kept;
   const testing::Table table("tables/incomplete_gamma.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
@@ -39,32 +39,12 @@ TEST(IncompleteGamma, EndsForEveryToleranceAndArgument) {
       EXPECT_LE(with_tolerance(kInfinity, a, x), 2) << "one term";
     }
   }
-  QorTolerance = 1e-15L;
-  EXPECT_TRUE(std::isnan(IncompleteGamma(kNaN, 1)) && std::isnan(IncompleteGamma(1, kNaN)));
-  EXPECT_TRUE(std::isnan(IncompleteGamma(kInfinity, kInfinity)));
-  EXPECT_TRUE(std::isnan(IncompleteGamma2(kNaN, 1)) && std::isnan(IncompleteGamma2(2, kNaN)));
-  EXPECT_EQ(IncompleteGamma(2000, kInfinity), 0.5L);
-  EXPECT_EQ(IncompleteGamma(1000, kInfinity), 1);
-}
-
-TEST(IncompleteGamma, ChecksThePointFirst) {
-  EXPECT_MATH_ERROR(IncompleteGamma(0, -1), rsValueGEZero);
-  EXPECT_MATH_ERROR(IncompleteGamma(0, 0), rsValueGZero);
-  EXPECT_MATH_ERROR(IncompleteGamma(-1, kNaN), rsValueGZero);
-  EXPECT_MATH_ERROR(IncompleteGamma(2000, 1900), rsValueGZero);
-  EXPECT_MATH_ERROR(IncompleteGamma(kInfinity, 1), rsValueGZero);
-  EXPECT_MATH_ERROR(IncompleteGamma2(0, -1), rsValueGEZero);
-  EXPECT_MATH_ERROR(IncompleteGamma2(0, 1), rsValueGZero);
-  EXPECT_MATH_ERROR(IncompleteGamma2(0.25L, 1), rsDF);
-  EXPECT_MATH_ERROR(IncompleteGamma2(1001, 900), rsValueGZero);
-  EXPECT_ERROR(IncompleteGamma2(1756, 1), EOverflow, rsOverflow);
-  EXPECT_ERROR(IncompleteGamma2(kInfinity, 1), EInvalidOp, rsInvalidOp);
 }
 
 TEST(IncompleteGamma2, RoundsTheDegreesOfFreedom) {
   for (const auto& [a, df] : {std::pair(1.3L, 3U), {1.25L, 2U}, {1.75L, 4U}, {2.5L, 5U}})
     EXPECT_EQ(IncompleteGamma2(a, 2), Gamma(a) * ChiSquareGreater(4, df)) << a;
-  // The integral of t exp(-t) from 3 on.
+  // The integral of t exp(-t) from 3 to infinity.
   EXPECT_LE(std::fabs(IncompleteGamma2(2, 3) - 4 * std::exp(-3.0L)), 1e-15L);
 }
 

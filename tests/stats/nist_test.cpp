@@ -1,5 +1,5 @@
-// The reference sets, judged by the number of correct digits against the exact results
-// for the data as 80 bits hold them.
+// Correct digits for the NIST reference sets, compared with the exact results for the data after
+// rounding to 80 bits.
 
 #include "qorvex/stats/QorvexPairStats.h"
 #include "qorvex/stats/QorvexStatistics.h"
@@ -9,11 +9,11 @@
 namespace qorvex {
 
 Extended CorrectDigits(Extended value, Extended exact) {
-  if (value == exact) return 19.2L;  // all that 64 bits hold
+  if (value == exact) return 19.2L;  // the precision of 64 bits
   return -std::log10(std::fabs(value - exact) / std::fabs(exact));
 }
 
-TEST(Nist, MeansReach17DigitsAndStandardDeviations17AndAHalf) {
+TEST(Nist, DigitsOfMeansAndStandardDeviations) {
   const testing::Table sets("nist/univariate.csv");
   ASSERT_EQ(sets.size(), 9U);
   for (std::size_t row = 0; row < sets.size(); ++row) {
@@ -27,7 +27,7 @@ TEST(Nist, MeansReach17DigitsAndStandardDeviations17AndAHalf) {
   }
 }
 
-TEST(Nist, LinesAndParabolasReachWhatTheNormalEquationsLeave) {
+TEST(Nist, DigitsOfLinesAndParabolas) {
   const testing::Table sets("nist/regression.csv");
   const auto expect_digits = [&](std::size_t row, const char* column, Extended value,
                                  Extended least) {

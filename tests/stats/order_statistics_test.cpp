@@ -7,20 +7,21 @@
 
 namespace qorvex {
 
-TEST(Median, TakesTheVectorAsItStands) {
+TEST(Median, DoesNotSort) {
   EXPECT_EQ(GetMedian(TQorFloatVector{4, 1, 3, 2}), 2);
   EXPECT_EQ(GetMedian(TQorSingleVector{1, 2, 9}), 2);
-  EXPECT_EQ(GetMedian(TQorSingleVector{1, 1 + 0x1p-23F}), 1 + 0x1p-24L) << "added in extended";
+  EXPECT_EQ(GetMedian(TQorSingleVector{1, 1 + 0x1p-23F}), 1 + 0x1p-24L)
+      << "added in extended precision";
   EXPECT_EQ(GetMedian(TQorLIntVector{7}), 7);
   constexpr std::int32_t largest = std::numeric_limits<std::int32_t>::max();
   EXPECT_EQ(GetMedian(TQorLIntVector{largest, largest}), largest);
   EXPECT_EQ(GetMedian(TQorLWordVector{4294967295, 4294967295}), 4294967295.0L);
   const std::int64_t huge = std::int64_t{1} << 62;
-  EXPECT_EQ(GetMedian(TQorInt64Vector{huge, huge}), -0x1p62L) << "the int64 sum wraps";
+  EXPECT_EQ(GetMedian(TQorInt64Vector{huge, huge}), -0x1p62L) << "the int64 sum wraps around";
   EXPECT_MATH_ERROR(GetMedian(TQorDoubleVector()), rsVectorIsEmpty);
 }
 
-// What the mode and the list of the most frequent values make of the same runs.
+// The mode and the list of the most frequent values, from the same runs.
 TEST(Mode, IsTheLongestRunUnlessTied) {
   constexpr Extended none = -1.1E4932L;
   constexpr Extended near = 0.5e-15L;
@@ -38,10 +39,11 @@ TEST(Mode, IsTheLongestRunUnlessTied) {
       {{1, 1, 2, 2, 3}, false, 1, {1, 2}},
       {{1, 1, 2, 2, 3, 3, 3}, true, 3, {3}},
       {{1, 1, 1, 2, 2, 3, 3, 3}, false, 1, {1, 3}},
-      // Neighbours within the tolerance are one run, known by its last element, unless it is all.
+      // Neighbours within the tolerance are one run. Its value is the last element, except in the
+      // list if the run is the whole vector.
       {{1, 1 + near, 3}, true, 1 + near, {1 + near}},
       {{5, 5 + 2 * near, 5 + 4 * near}, true, 5 + 4 * near, {5}},
-      // The tolerance goes with the values, so that their unit plays no part.
+      // The tolerance is relative to the values.
       {{1e-19L, 2e-19L, 2e-19L, 4e-19L}, true, 2e-19L, {2e-19L}},
       {{-3e-4940L, 0, 1e-4940L}, false, none, {}},
   };
@@ -79,17 +81,17 @@ TEST(Quartiles, InterpolateBetweenElements) {
   }
 }
 
-TEST(Deciles, HoldTheirPositionsInSinglePrecision) {
+TEST(Deciles, RoundPositionsToSinglePrecision) {
   using Deciles = std::array<Extended, 9>;
   Deciles deciles{};
   GetDeciles({10, 20, 30, 40, 50, 60, 70, 80, 90, 100}, deciles);
   EXPECT_EQ(deciles, (Deciles{15, 25, 35, 45, 55, 65, 75, 85, 95}));
 
   GetDeciles({0, 1, 2}, deciles);
-  // Position 3 * 4/10 + 1/2 = 1.7 as a single.
+  // The position 3 * 4/10 + 1/2 = 1.7, rounded to a single.
   EXPECT_EQ(deciles[3], static_cast<Extended>(1.7F) - 1);
-  EXPECT_EQ(deciles[0], 0) << "position 0.8 lies before the first element";
-  EXPECT_EQ(deciles[8], 2) << "position 3.2 lies beyond the last";
+  EXPECT_EQ(deciles[0], 0) << "position 0.8 is before the first element";
+  EXPECT_EQ(deciles[8], 2) << "position 3.2 is beyond the last";
 
   GetDeciles({4}, deciles);
   EXPECT_MATH_ERROR(GetDeciles({}, deciles), rsVectorIsEmpty);
@@ -99,7 +101,7 @@ TEST(Deciles, HoldTheirPositionsInSinglePrecision) {
 TEST(TrimmedMeans, CutPerTailOrInTotal) {
   const TQorFloatVector ten{0, 2, 3, 4, 5, 6, 7, 8, 9, 100};
   EXPECT_EQ(TrimmedMean(ten, 0.15L), 44 / 8.0L) << "one from each end";
-  EXPECT_EQ(ExcelTrimmedMean(ten, 0.15L), 144 / 10.0L) << "half of one is none";
+  EXPECT_EQ(ExcelTrimmedMean(ten, 0.15L), 144 / 10.0L) << "half of one is rounded down";
   EXPECT_EQ(ExcelTrimmedMean(ten, 0.2L), 44 / 8.0L);
   EXPECT_EQ(TrimmedMean(ten, -1e-16L), 14.4L) << "zero within the tolerance";
   EXPECT_EQ(TrimmedMean(ten, 0.5L), 5.5L);
@@ -108,10 +110,11 @@ TEST(TrimmedMeans, CutPerTailOrInTotal) {
   EXPECT_EQ(TrimmedMean(TQorLWordVector{4294967295, 4294967295}, 0.1L), 4294967295.0L);
   EXPECT_EQ(TrimmedMean(TQorFloatVector{8}, 0.3L), 8);
   const std::int64_t huge = std::int64_t{1} << 62;
-  EXPECT_EQ(TrimmedMean(TQorInt64Vector{huge, huge, huge, huge}, 0.25L), 0x1p62L) << "no wrapping";
+  EXPECT_EQ(TrimmedMean(TQorInt64Vector{huge, huge, huge, huge}, 0.25L), 0x1p62L)
+      << "no wrap-around";
   const TQorFloatVector skewed{0, 1, 2, 3, 4, 5, 6, 70, 80, 90};
   EXPECT_EQ(TrimmedMean(skewed, 0.3L), 18 / 4.0L);
-  EXPECT_EQ(TrimmedMean(skewed, 0.3), 90 / 6.0L) << "the double lies below the decimal";
+  EXPECT_EQ(TrimmedMean(skewed, 0.3), 90 / 6.0L) << "the double is less than the decimal";
 }
 
 TEST(TrimmedMeans, CheckTheFractionBeforeTheVector) {

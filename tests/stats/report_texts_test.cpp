@@ -10,9 +10,9 @@ constexpr ReportTextId kAllTexts[] = {
 #undef QORVEX_ID
 };
 
-// The report's own tests hold the texts that it uses; here are the ends of all, and the two long
-// texts, which span source lines.
-TEST(ReportTexts, AreTheSystemsOwn) {
+// The tests of the report check the texts that it uses. Here: which texts end in a blank, and the
+// long texts, which span source lines.
+TEST(ReportTexts, HaveTheirExactWording) {
   std::string with_trailing_blank;
   for (const ReportTextId id : kAllTexts) {
     if (ReportText(id).ends_with(' ')) with_trailing_blank += ReportText(id);

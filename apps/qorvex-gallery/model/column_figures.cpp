@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <cmath>
 
 #include "apps/common/hidden_figures.h"
 #include "apps/qorvex-gallery/plot/histogram.h"
@@ -28,7 +29,7 @@ PlotLayer Bars(const Histogram& histogram) {
   return layer;
 }
 
-// Over the bars, and as far as the density shows.
+// Covers the bars and three standard deviations on both sides of the mean.
 PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_dev) {
   constexpr int steps = 240;
   constexpr Extended reach = 3;
@@ -46,15 +47,24 @@ PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_de
   return layer;
 }
 
-// Figures that are too long to be read get an exponent.
+// Very long figures get an exponent.
 QString Readable(const QString& figure, const QLocale& locale) {
-  constexpr qsizetype most_digits = 32;
+  constexpr qsizetype kMostDigits = 32;
   std::string text = figure.toStdString();
-  if (figure.size() > most_digits) text = Float2Str(Str2Float(text));
+  if (figure.size() > kMostDigits) text = Float2Str(Str2Float(text));
   return QorvexBaseControls::detail::LocalNumber(text, locale);
 }
 
 }  // namespace
+
+TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
+  auto kept = TQorFloatVector::ForOverwrite(values.size());
+  std::size_t count = 0;
+  for (const Extended value : values)
+    if (!std::isnan(value)) kept[count++] = value;
+  kept.SetLength(count);
+  return kept;
+}
 
 QList<QStringList> ReportTable(const QStringList& lines, const QLocale& locale) {
   const qsizetype rows = (lines.size() + 1) / 2;
@@ -96,7 +106,7 @@ std::vector<PlotLayer> HistogramLayers(const TQorDescStats& stats, const TQorFlo
   try {
     if (stats.StdDev() > 0) layers.push_back(NormalCurve(histogram, stats.Mean(), stats.StdDev()));
   } catch (const EMathError&) {
-    // Of values whose squares are beyond the range there is no density.
+    // The squares of the values are beyond the range.
   }
   return layers;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the page of data shows of the values of a column.
+/// What the page of data shows about a column.
 
 #include <QList>
 #include <QLocale>
@@ -10,21 +10,24 @@
 #include <cstddef>
 #include <vector>
 
-#include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/plot/plot_layer.h"
 #include "qorvex/components/QorvexDescStats.h"
 
 namespace qorvex::gallery {
 
-/// The lines of a report, label and figure, in two columns of pairs.
+/// The values that are not NaN, which stands for an empty cell.
+[[nodiscard]] TQorFloatVector WithoutNulls(const TQorFloatVector& values);
+
+/// The lines of a report as rows of two labels, each with its figure.
 [[nodiscard]] QList<QStringList> ReportTable(const QStringList& lines, const QLocale& locale);
 
-/// What the report leaves out: so many empty cells, and figures whose digits come after its
-/// decimals, of which there can be at most most_decimals.
+/// A remark on what the report does not show: the empty cells, and figures that need more decimals,
+/// of which there can be at most most_decimals.
 [[nodiscard]] QString RemarkOn(const TQorDescStats& stats, std::size_t empty_cells,
                                int most_decimals, const QLocale& locale);
 
-/// The histogram of the values that the statistics describe, and the normal density of the same
-/// mean and standard deviation where these are in the range and not 0.
+/// The histogram of the values, and the normal density with the mean and standard deviation of the
+/// statistics, if these are finite and the latter is not 0.
 [[nodiscard]] std::vector<PlotLayer> HistogramLayers(const TQorDescStats& stats,
                                                      const TQorFloatVector& values);
 

@@ -23,7 +23,7 @@ QString FromUtf8(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// Any delimiter that a reader may take for one asks for quotes, and so do blanks.
+// Quotes cells with blanks or with any character that a reader may take for the delimiter.
 std::string CsvCell(std::string_view cell) {
   if (cell.find_first_of(",;\"\r\n\t ") == std::string_view::npos) return std::string(cell);
   std::string quoted = "\"";
@@ -138,7 +138,7 @@ void DataTable::WriteCsv(const std::function<void(std::string_view text)>& write
       if (column > 0) line += ',';
       line += CsvCell(cell(column));
     }
-    // A blank line at the end would not be a row.
+    // A blank line at the end of the file would not be read as a row.
     if (line.empty()) line = "\"\"";
     write(line + '\n');
   };

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// DataTable, the table that the page of data shows a column of.
+/// DataTable, the table on the page of data.
 
 #include <QString>
 #include <cstddef>
@@ -19,46 +19,46 @@ namespace qorvex::gallery {
 /// Whether two numbers are the same, sign of zero included; NaN is the same as NaN.
 [[nodiscard]] bool SameNumber(Extended a, Extended b);
 
-/// The cells of a table as they were read, and what has been changed since. A column of numbers can
-/// be changed cell by cell. What is not changed is written again letter by letter.
+/// The cells of a table as they were read, and the changes since. Numbers can be changed cell by
+/// cell; the text of unchanged cells is saved exactly as it was read.
 ///
-/// Memory: the text, 8 bytes a cell, and some 100 for each change.
+/// Memory: the text, 8 bytes per cell, and about 100 per change.
 class DataTable {
  public:
   /// No rows, no columns.
   DataTable() = default;
 
-  /// Reads delimited text. The first row is a header when one of its cells is neither empty nor a
-  /// number; a blank line between the rows is a row of empty cells. Raises InputError, which names
-  /// line and text, as RowReader does, for a text without rows and for rows of different lengths.
+  /// Reads delimited text. The first row is a header if any of its cells is text; a blank line
+  /// between rows is a row of empty cells. Throws InputError for what RowReader refuses, for a text
+  /// without rows and for rows of different lengths.
   explicit DataTable(apps::TextInput input);
 
-  /// Whether the first row was taken for a header although it holds a number; it may be one of
+  /// Whether the first row was taken for a header although it contains a number, so that it may be
   /// data.
   [[nodiscard]] bool HasDoubtfulHeader() const;
   [[nodiscard]] std::size_t Rows() const noexcept { return lines_.size(); }
   [[nodiscard]] std::size_t Columns() const noexcept { return names_.size(); }
-  /// The name of a column in the header, or else its number.
+  /// The name of a column, or its number if it has none.
   [[nodiscard]] QString Title(std::size_t column) const;
-  /// The column with that name, or else the first that begins with a number, or else the first.
+  /// The column with this name; otherwise the first column that starts with a number, or column 0.
   [[nodiscard]] std::size_t Find(const QString& name) const;
-  /// The text that names a row: that of the first column where this begins with text, or else its
+  /// The name of a row: its cell in the first column if that column starts with text, otherwise its
   /// number.
   [[nodiscard]] QString RowName(std::size_t row) const;
 
-  /// The numbers of a column, a NaN for each empty cell. Raises InputError, which names line and
-  /// text, for a cell that is not a number and for a column that was read without any number.
+  /// The numbers of a column, with NaN for empty cells. Throws InputError, with line and text, for
+  /// a cell that is not a number, and for a column that had no number when it was read.
   [[nodiscard]] TQorFloatVector Numbers(std::size_t column) const;
-  /// Changes a cell; NaN empties it. The number that was read brings its own text back.
+  /// Changes a cell; NaN makes it empty. The number that was read restores the original text.
   void SetNumber(std::size_t row, std::size_t column, Extended number);
 
-  /// Whether a cell is not as it was read or last saved.
+  /// Whether any cell differs from what was read or last saved.
   [[nodiscard]] bool IsChanged() const { return changes_ != saved_; }
-  /// All changes have been saved.
+  /// Marks all changes as saved.
   void SetSaved() { saved_ = changes_; }
 
-  /// Gives the table piece by piece as text: rows end with LF, cells are separated by commas and
-  /// quoted where they must be (RFC 4180).
+  /// Writes the table piece by piece as text: rows end with LF, cells are separated by commas and
+  /// quoted where necessary (RFC 4180).
   void WriteCsv(const std::function<void(std::string_view text)>& write) const;
 
  private:
@@ -73,9 +73,9 @@ class DataTable {
   std::string input_name_;
   bool has_header_ = false;
   bool first_column_names_rows_ = false;
-  // Of each column; empty texts without a header.
+  // The names of the columns; empty texts without a header.
   std::vector<std::string> names_;
-  // The cells one after the other, row by row, and where each ends.
+  // The texts of all cells, row by row, and where each ends.
   std::string text_;
   std::vector<std::size_t> ends_;
   // The line on which each row starts.

@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/model/random_sample.h"
 
+#include <QSaveFile>
 #include <algorithm>
 #include <chrono>
 #include <cmath>
@@ -11,20 +12,21 @@
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/random.h"
+#include "qorvex/base/text.h"
 #include "qorvex/stats/dispersion.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
-// False when it was not to go on.
+// Returns false if it was stopped.
 bool DrawValues(const SampleOrder& order, TQorFloatVector& values, const Proceed& proceed) {
   apps::VariateArguments arguments;
   for (const Extended parameter : order.parameters) arguments.Append({parameter});
   const auto draw = order.variate->methods.front().draw;
   TQorFloatVector figure = TQorFloatVector::WithLength(1);
   SetRandSeed(order.seed);
-  // Some variates take nanoseconds, others milliseconds.
+  // By the clock, because some variates take nanoseconds and others milliseconds.
   using Clock = std::chrono::steady_clock;
   Clock::time_point next = Clock::now();
   for (std::size_t i = 0; i < order.size; ++i) {
@@ -62,11 +64,11 @@ std::vector<QPointF> BarsOfClasses(const Histogram& histogram, Extended share) {
 }
 
 void MakeBars(RandomSample& sample) {
-  // Few enough for a bar each.
-  constexpr Extended most_counts = 300;
+  // With more counts, bars for single counts would be too narrow.
+  constexpr Extended kMostCounts = 300;
   const auto [least, greatest] = std::minmax_element(sample.values.begin(), sample.values.end());
   const Extended width = *greatest - *least;
-  if (TheoryOf(*sample.order.variate, sample.order.parameters).is_count && width <= most_counts) {
+  if (TheoryOf(*sample.order.variate, sample.order.parameters).is_count && width <= kMostCounts) {
     sample.bars = BarsOfCounts(sample.values, *least, *greatest);
     return;
   }
@@ -103,6 +105,24 @@ RandomSample DrawSample(const SampleOrder& order, const Proceed& proceed) {
   SampleVarianceAndMean(sample.values, sample.variance, sample.mean);
   MakeBars(sample);
   return sample;
+}
+
+void SaveValues(const TQorFloatVector& values, const QString& path, const Proceed& proceed) {
+  QSaveFile file(path);
+  const auto check = [&file](bool success) {
+    if (!success) throw std::runtime_error(file.errorString().toStdString());
+  };
+  check(file.open(QIODevice::WriteOnly));
+  std::string block;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    block += Float2Str(values[i]) + '\n';
+    if (block.size() < std::size_t{1} << 16) continue;
+    if (!proceed(i, values.size())) return;
+    check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
+    block.clear();
+  }
+  check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
+  check(file.commit());
 }
 
 }  // namespace qorvex::gallery

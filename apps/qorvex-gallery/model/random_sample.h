@@ -1,9 +1,10 @@
 #pragma once
 
 /// @file
-/// Samples of variates, with what a page shows of them.
+/// Random samples.
 
 #include <QPointF>
+#include <QString>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -13,6 +14,7 @@
 
 namespace qorvex::gallery {
 
+/// What to draw.
 struct SampleOrder {
   const apps::Variate* variate = nullptr;
   std::vector<Extended> parameters;
@@ -20,21 +22,26 @@ struct SampleOrder {
   std::uint64_t seed = 0;
 };
 
+/// A sample and what the page shows about it.
 struct RandomSample {
   SampleOrder order;
   TQorFloatVector values;
   Extended mean = 0;
   Extended variance = 0;
-  /// Shares by width, comparable with a density: the right upper corners, the first a left edge.
+  /// The histogram, on the scale of a density: the left edge of the first bar, then the upper right
+  /// corner of each bar.
   std::vector<QPointF> bars;
-  /// Whether the bars leave out the outermost hundredth, beside which they would be one line.
+  /// Whether the bars leave out the outermost hundredth, which would squeeze the rest into a line.
   bool is_cropped = false;
 };
 
-/// Draws a sample of at least two values, of a variate that gives one at a time. Asks now and then
-/// with how much is done whether to go on; an order without values comes back if not. Draws from
-/// the one generator of the program, so only one thread may at a time. Raises std::runtime_error
-/// with what the variate refuses.
+/// Draws a sample of at least two values of a variate that is a single number. If proceed stops it,
+/// the sample has no values. Uses the generator of the program, so only one thread at a time may
+/// call it. Throws std::runtime_error if the variate refuses the parameters.
 [[nodiscard]] RandomSample DrawSample(const SampleOrder& order, const Proceed& proceed);
+
+/// Writes the values to a file, one per line with all digits. If proceed stops it, the file stays
+/// as it was. Throws std::runtime_error if the file cannot be written.
+void SaveValues(const TQorFloatVector& values, const QString& path, const Proceed& proceed);
 
 }  // namespace qorvex::gallery

@@ -14,10 +14,10 @@
 #include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/column_figures.h"
 #include "apps/qorvex-gallery/widgets/column_report.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
@@ -29,15 +29,6 @@
 namespace qorvex::gallery {
 
 namespace {
-
-TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
-  auto kept = TQorFloatVector::ForOverwrite(values.size());
-  std::size_t count = 0;
-  for (const Extended value : values)
-    if (!std::isnan(value)) kept[count++] = value;
-  kept.SetLength(count);
-  return kept;
-}
 
 // Where to save a file as CSV: in its folder, or, for the example, in the current one.
 QString CsvFileFor(const QString& path) {
@@ -172,7 +163,7 @@ void DataPage::ShowTable(const Source& source, DataTable table) {
   refusal_.clear();
   ShowColumn();
   if (message_->Text().isEmpty() && table_.HasDoubtfulHeader())
-    message_->SetText(tr("The first row was taken for names, although it contains a number"));
+    message_->SetText(tr("The first row was read as names, although it contains a number"));
 }
 
 void DataPage::SetSource(const QString& file, const QString& title) {

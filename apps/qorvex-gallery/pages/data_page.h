@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// DataPage, where a column of numbers is read, edited and described.
+/// DataPage, which reads, edits and describes a column of numbers.
 
 #include <QWidget>
 

@@ -9,6 +9,7 @@
 #include <exception>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
@@ -20,12 +21,12 @@ namespace qorvex::gallery {
 
 namespace {
 
-// Beyond these, stems would merge into an area.
+// With more counts, the stems would merge into an area.
 constexpr std::size_t kMostStems = 150;
 
 using Points = std::vector<QPointF>;
 
-// The points whose first coordinate is in the range.
+// The points whose x is in the range.
 Points Within(const Points& curve, Extended from, Extended to) {
   Points part;
   std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
@@ -179,7 +180,7 @@ QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution
     const Extended a = points.front();
     if (IsInterval()) {
       const Extended b = points.back();
-      // At least a count is more than the one before it.
+      // At least b is the same as more than b - 1.
       const Tails at_b = distribution.At(Family().is_discrete ? b - 1 : b);
       figures = {{tr("P(a < X < b)"), ExactText(distribution.ProbabilityBetween(a, b))},
                  {tr("P(X ≤ a)"), ExactText(tails.Probability(Tail::kLower))},
@@ -221,14 +222,14 @@ QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distributi
 void DistributionPage::Draw(const apps::AnyDistribution& distribution,
                             const std::vector<Extended>& points) {
   Interval<Extended> range = MiddleOf(distribution);
-  // Points just outside stay in sight; beyond, the curve is flat.
+  // The range extends to points just outside; further out, the curve is flat.
   const Extended margin = range.greatest - range.least;
   const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
   if (*least < range.least && *least >= range.least - margin) range.least = *least;
   if (*greatest > range.greatest && *greatest <= range.greatest + margin)
     range.greatest = *greatest;
   std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
-  // The areas end where they are asked to.
+  // The areas end exactly at these points.
   for (const Extended point : points) {
     if (Family().is_discrete || !(point > range.least) || !(point < range.greatest)) continue;
     places.insert(std::upper_bound(places.begin(), places.end(), point), point);
@@ -237,7 +238,7 @@ void DistributionPage::Draw(const apps::AnyDistribution& distribution,
   const bool stems = Family().is_discrete && curve.size() <= kMostStems;
   const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
   const Extended infinity = HUGE_VALL;
-  // A count at the point belongs to the side that includes it; an area has no such end.
+  // A count belongs to the side that includes it; for areas, the end makes no difference.
   const double gap = Family().is_discrete ? 0.5 : 0;
   const auto a = static_cast<double>(points.front());
   const auto b = static_cast<double>(points.back());

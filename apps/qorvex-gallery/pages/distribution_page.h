@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// DistributionPage, probabilities, densities and quantiles.
+/// DistributionPage, probabilities, densities and quantiles of distributions.
 
 #include <QWidget>
 #include <vector>

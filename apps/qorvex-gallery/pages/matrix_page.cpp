@@ -9,58 +9,34 @@
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <cmath>
 #include <exception>
 #include <functional>
 
 #include "apps/common/matrix_reader.h"
+#include "apps/qorvex-gallery/model/matrix_properties.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
-#include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
-#include "qorvex/base/errors.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
-#include "qorvex/matrix/building.h"
-#include "qorvex/matrix/reduction.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
 constexpr int kMostRows = 400;
-// An elimination of this size takes some milliseconds, as does whatever happens at every key.
-constexpr std::size_t kMostEliminated = 200;
-// More scroll.
+// Editors of larger matrices scroll.
 constexpr quint32 kMostRowCells = 10;
 constexpr quint32 kMostColCells = 4;
 
-// Bit by bit, so that a null equals itself.
+// NaN, which stands for a null element, equals itself here.
 bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
   const auto same_element = [](Extended x, Extended y) { return x == y || (x != x && y != y); };
   return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](const auto& x, const auto& y) {
     return std::equal(x.begin(), x.end(), y.begin(), y.end(), same_element);
   });
-}
-
-bool AnyElement(const TQorFloatMatrix& matrix, bool (*holds)(Extended)) {
-  return std::any_of(matrix.begin(), matrix.end(), [holds](const auto& row) {
-    return std::any_of(row.begin(), row.end(), holds);
-  });
-}
-
-// Of a square matrix that has none.
-QString WhyNoInverse(const TQorFloatMatrix& matrix, std::uint32_t rank) {
-  if (AnyElement(matrix, [](Extended x) { return std::isnan(x); })) {
-    return MatrixPage::tr("none, an element is null");
-  }
-  if (AnyElement(matrix, [](Extended x) { return std::isinf(x); })) {
-    return MatrixPage::tr("none, an element is infinite");
-  }
-  if (rank < matrix.size()) return MatrixPage::tr("none, the matrix is singular");
-  return MatrixPage::tr("none, its elements would be beyond the range");
 }
 
 QSpinBox* SizeBox(const char* name, const QString& accessible_name) {
@@ -279,46 +255,16 @@ void MatrixPage::Follow() {
 }
 
 void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
-  const std::size_t rows = matrix.size();
-  const std::size_t cols = rows == 0 ? 0 : matrix[0].size();
-  if (std::max(rows, cols) > kMostEliminated) {
-    const QString too_large = tr("not beyond %L1 rows").arg(kMostEliminated);
-    properties_->SetRows({{tr("Determinant"), too_large}, {tr("Rank"), too_large}});
-    ShowInverse({}, too_large);
-    return;
-  }
-  QString determinant = rows == cols ? QStringLiteral("—") : tr("of square matrices only");
-  QString rank_text = QStringLiteral("—");
-  TQorFloatMatrix inverse;
-  QString why_not = rows == cols ? QString() : determinant;
-  try {
-    TQorFloatMatrix reduced = CopyMatrix(matrix);
-    std::uint32_t rank = 0;
-    RowEchelonFormRank(reduced, rank);
-    rank_text = QLocale().toString(rank);
-    if (rows == cols) {
-      reduced = CopyMatrix(matrix);
-      determinant = ExactText(MatrixDeterminant(reduced));
-      reduced = CopyMatrix(matrix);
-      if (!MatrixInverse(reduced, inverse)) {
-        why_not = WhyNoInverse(matrix, rank);
-      }
-    }
-  } catch (const EMathError& error) {
-    // A null, or a figure that is out of range.
-    why_not = QString::fromUtf8(error.what());
-  }
-  properties_->SetRows({{tr("Determinant"), determinant}, {tr("Rank"), rank_text}});
-  ShowInverse(inverse, why_not);
-}
-
-void MatrixPage::ShowInverse(const TQorFloatMatrix& inverse, const QString& why_not) {
-  no_inverse_->setText(why_not);
-  no_inverse_->setVisible(!why_not.isEmpty());
+  const MatrixProperties properties = PropertiesOf(matrix);
+  properties_->SetRows(
+      {{tr("Determinant"), properties.determinant}, {tr("Rank"), properties.rank}});
+  const bool has_inverse = properties.why_no_inverse.isEmpty();
+  no_inverse_->setText(properties.why_no_inverse);
+  no_inverse_->setVisible(!has_inverse);
   for (TQorCustomMatrixEdit* const editor :
        std::initializer_list<TQorCustomMatrixEdit*>{inverse_decimals_, inverse_fractions_}) {
-    if (why_not.isEmpty()) editor->setMatrix(inverse);
-    editor->setVisible(why_not.isEmpty());
+    if (has_inverse) editor->setMatrix(properties.inverse);
+    editor->setVisible(has_inverse);
   }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// MatrixPage, an editor of a matrix with its commands.
+/// MatrixPage, an editor for a matrix, with commands.
 
 #include <QString>
 #include <QWidget>
@@ -28,8 +28,8 @@ namespace qorvex::gallery {
 class FigureTable;
 class MessageBar;
 
-/// A matrix as decimals and as fractions, either of which can be edited, with commands on the whole
-/// of it, its determinant, its rank and its inverse.
+/// A matrix as decimals and as fractions, both of which can be edited, with commands on the whole
+/// matrix, its determinant, its rank and its inverse.
 class MatrixPage : public QWidget {
   Q_OBJECT
 
@@ -37,7 +37,7 @@ class MatrixPage : public QWidget {
   explicit MatrixPage(QWidget* parent = nullptr);
   ~MatrixPage() override;
 
-  /// Shows the matrix of a file; what is wrong with it is said on the page.
+  /// Shows the matrix in a file, or on the message bar why it cannot.
   void Open(const QString& path);
 
  private:
@@ -47,16 +47,14 @@ class MatrixPage : public QWidget {
                  const std::function<void()>& action);
   void Run(const std::function<void()>& command);
   void Exchange(bool undo);
-  // Texts that are being typed count from now on.
+  // Commits the texts that are being typed.
   void CommitTexts();
   void ShowExample();
   void AskAndOpen();
   void Resize();
-  // Whatever the matrix has become, the rest of the page shows it.
+  // Shows the current matrix everywhere on the page.
   void Follow();
   void ShowProperties(const TQorFloatMatrix& matrix);
-  // The inverse, or why there is none.
-  void ShowInverse(const TQorFloatMatrix& inverse, const QString& why_not);
 
   TQorMatrixEdit* decimals_;
   TQorMatrixFractEdit* fractions_;
@@ -67,9 +65,9 @@ class MatrixPage : public QWidget {
   QSpinBox* cols_;
   FigureTable* properties_;
   MessageBar* message_;
-  // The one that was edited last, which knows how to take it back.
+  // The editor that was edited last, which can undo that.
   TQorCustomMatrixEdit* edited_;
-  // What the page shows.
+  // The matrix that the page shows.
   TQorFloatMatrix shown_;
 };
 

@@ -10,13 +10,12 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRandomGenerator>
-#include <QSaveFile>
 #include <QSpinBox>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <stdexcept>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/model/variate_theory.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
@@ -25,7 +24,6 @@
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
@@ -33,30 +31,8 @@ namespace qorvex::gallery {
 namespace {
 
 constexpr int kMostValues = 10'000'000;
-// More would fill the memory of whatever they are pasted into.
+// More values could exhaust the memory of the program that they are pasted into.
 constexpr std::size_t kMostCopied = 1'000'000;
-
-QString TextOrDash(std::optional<Extended> figure) {
-  return figure ? ExactText(*figure) : QStringLiteral("—");
-}
-
-void WriteValues(const TQorFloatVector& values, const QString& path, const Proceed& proceed) {
-  QSaveFile file(path);
-  const auto check = [&file](bool success) {
-    if (!success) throw std::runtime_error(file.errorString().toStdString());
-  };
-  check(file.open(QIODevice::WriteOnly));
-  std::string block;
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    block += Float2Str(values[i]) + '\n';
-    if (block.size() < std::size_t{1} << 16) continue;
-    if (!proceed(i, values.size())) return;
-    check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
-    block.clear();
-  }
-  check(file.write(block.data(), static_cast<qint64>(block.size())) >= 0);
-  check(file.commit());
-}
 
 }  // namespace
 
@@ -86,7 +62,7 @@ RandomPage::RandomPage(QWidget* parent)
   cancel_->setObjectName(QStringLiteral("cancel"));
   moments_->setObjectName(QStringLiteral("moments"));
 
-  // Vectors of variates have no histogram.
+  // Only single numbers have a histogram.
   for (const apps::Variate& variate : apps::Variates()) {
     if (std::any_of(variate.parameters.begin(), variate.parameters.end(),
                     [](const auto& p) { return p.kind == apps::NumberKind::kReals; })) {
@@ -114,7 +90,7 @@ RandomPage::RandomPage(QWidget* parent)
   form->addRow(tr("Values"), size_);
   auto* const seed_line = new QHBoxLayout;
   auto* const new_seed = new QPushButton(tr("&New"));
-  new_seed->setToolTip(tr("Takes another seed by chance"));
+  new_seed->setToolTip(tr("Take a random seed and generate"));
   seed_line->addWidget(seed_, 1);
   seed_line->addWidget(new_seed);
   form->addRow(tr("Seed"), seed_line);
@@ -175,6 +151,7 @@ void RandomPage::showEvent(QShowEvent* event) {
 void RandomPage::ShowVariate() {
   summary_->setText(tr(Chosen().summary));
   parameters_->SetParameters(Chosen().parameters);
+  message_->SetText({});
 }
 
 QString RandomPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
@@ -228,9 +205,10 @@ void RandomPage::ShowSample() {
                       .arg(Title(QString::fromUtf8(order.variate->name)))
                       .arg(order.size)
                       .arg(order.seed));
-  moments_->SetRows({{QString(), tr("Sample"), tr("Distribution")},
-                     {tr("Mean"), ExactText(sample_->mean), TextOrDash(theory.mean)},
-                     {tr("Variance"), ExactText(sample_->variance), TextOrDash(theory.variance)}});
+  moments_->SetRows(
+      {{QString(), tr("Sample"), tr("Distribution")},
+       {tr("Mean"), ExactText(sample_->mean), ExactTextOrDash(theory.mean)},
+       {tr("Variance"), ExactText(sample_->variance), ExactTextOrDash(theory.variance)}});
 
   const QString name =
       sample_->is_cropped ? tr("Sample, without the outermost hundredth") : tr("Sample");
@@ -243,7 +221,7 @@ void RandomPage::ShowSample() {
       layers.push_back({PlotShape::kLine, PlotRole::kModel,
                         theory.is_count ? tr("Probabilities") : tr("Density"), curve});
     } catch (const EMathError&) {
-      // Variates reach further than densities; the sample is shown by itself then.
+      // Some variates lie where the density cannot be computed; the sample is then shown alone.
     }
   plot_->SetAxisTitles(tr("Value"), theory.is_count ? tr("Share") : tr("Density"));
   plot_->SetLayers(std::move(layers));
@@ -267,8 +245,9 @@ void RandomPage::AskAndSave() {
 
 void RandomPage::Save(const QString& path) {
   if (sample_ == nullptr || work_.IsRunning()) return;
+  message_->SetText({});
   work_.Start([sample = sample_,
-               path](const Proceed& proceed) { WriteValues(sample->values, path, proceed); },
+               path](const Proceed& proceed) { SaveValues(sample->values, path, proceed); },
               [this] { ShowRunning(); },
               [this, path](const QString& why) {
                 message_->SetText(tr("%1: %2").arg(path, why));

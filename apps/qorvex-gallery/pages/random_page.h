@@ -30,9 +30,9 @@ class MessageBar;
 class ParameterForm;
 class PlotView;
 
-/// Draws a sample on another thread and shows its histogram against the density, and its mean and
-/// variance beside those of the distribution. The values can be copied and saved. What is shown
-/// stays until the next sample is there.
+/// Draws a sample in the background and shows its histogram with the density, and its mean and
+/// variance next to those of the distribution. The values can be copied and saved. A sample is
+/// shown until the next one is complete.
 class RandomPage : public QWidget {
   Q_OBJECT
 
@@ -40,15 +40,15 @@ class RandomPage : public QWidget {
   explicit RandomPage(QWidget* parent = nullptr);
   ~RandomPage() override;
 
-  /// Draws a sample of what is chosen, unless something is wrong or under way.
+  /// Draws a sample with the chosen settings, unless they are invalid or work is in progress.
   void Generate();
-  /// The last sample; null before the first one.
+  /// The last sample, or null.
   [[nodiscard]] std::shared_ptr<const RandomSample> Sample() const { return sample_; }
-  /// Writes the values to a file, one a line with all digits, on another thread.
+  /// Writes the values to a file in the background, one per line with all digits.
   void Save(const QString& path);
 
  protected:
-  /// The first time, a sample comes by itself.
+  /// Draws the first sample.
   void showEvent(QShowEvent* event) override;
 
  private:

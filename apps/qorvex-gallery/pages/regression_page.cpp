@@ -15,13 +15,12 @@
 #include <utility>
 
 #include "apps/common/pair_fit.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/tall_editor.h"
-#include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
 
 namespace qorvex::gallery {
 
@@ -31,9 +30,9 @@ using apps::PairFit;
 
 constexpr int kMostRows = 1'000'000;
 
-// Years, and thousands of people of 14 years and more in the United States. From J. W. Longley, An
+// Years, and thousands of people aged 14 and over in the United States. From J. W. Longley, An
 // appraisal of least squares programs for the electronic computer from the point of view of the
-// user, 1967. The digits that the years share are what such programs lost.
+// user, 1967. Such programs lost the digits that the years have in common.
 constexpr std::pair<int, int> kExamplePairs[] = {
     {1947, 107608}, {1948, 108632}, {1949, 109773}, {1950, 110929}, {1951, 112075}, {1952, 113270},
     {1953, 115094}, {1954, 116219}, {1955, 117388}, {1956, 118734}, {1957, 120445}, {1958, 121950},
@@ -134,7 +133,7 @@ QLayout* RegressionPage::MakeEditors() {
   rows_label->setBuddy(rows_);
   auto* const example = new QPushButton(tr("&Example"));
   example->setToolTip(
-      tr("Year, and people of 14 years and more in the USA in thousands; Longley 1967"));
+      tr("Year, and thousands of people aged 14 and over in the USA; Longley 1967"));
   connect(example, &QPushButton::clicked, this, &RegressionPage::ShowExample);
   auto* const head = new QHBoxLayout;
   head->addWidget(rows_label);
@@ -163,7 +162,7 @@ QLayout* RegressionPage::MakeResults() {
   figures_->setObjectName("figures");
   auto* const head = new QHBoxLayout;
   QLabel* const heading = MakeHeading(tr("Least-squares line and parabola"));
-  // On the line of the spin box beside it.
+  // Level with the spin box beside it.
   heading->setMinimumHeight(rows_->sizeHint().height());
   head->addWidget(heading);
   head->addWidget(remark_);
@@ -202,7 +201,7 @@ void RegressionPage::SetRows(int rows) {
   RefreshSoon();
 }
 
-// Pasting changes many elements, one after the other.
+// Pasting changes many elements one after the other; one refresh is enough.
 void RegressionPage::RefreshSoon() {
   message_->SetText({});
   if (std::exchange(refresh_is_due_, true)) return;
@@ -240,13 +239,9 @@ void RegressionPage::Refresh() {
   layers.push_back(std::move(points));
   plot_->SetLayers(std::move(layers));
 
-  const auto number = [this](std::optional<Extended> figure) {
-    if (!figure) return QStringLiteral("—");
-    return QorvexBaseControls::detail::LocalNumber(Float2Str(*figure), locale());
-  };
   const auto row = [&](const QString& label, auto figure) {
     const auto text = [&](const std::optional<PairFit>& of) {
-      return number(of ? figure(*of) : std::optional<Extended>());
+      return ExactTextOrDash(of ? figure(*of) : std::optional<Extended>());
     };
     return QStringList{label, text(line), text(parabola)};
   };
@@ -263,7 +258,7 @@ void RegressionPage::Refresh() {
        row(tr("Coefficient of x²"), coefficient(2)),
        row(tr("Sum of squared errors"), [](const PairFit& of) { return std::optional(of.sse); }),
        row(tr("Coefficient of determination"), [](const PairFit& of) { return of.determination; }),
-       {tr("Correlation of x and y"), number(line ? line->correlation : std::nullopt)}});
+       {tr("Correlation of x and y"), ExactTextOrDash(line ? line->correlation : std::nullopt)}});
 }
 
 }  // namespace qorvex::gallery

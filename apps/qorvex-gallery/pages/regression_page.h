@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// RegressionPage, where a line and a parabola go through pairs of numbers.
+/// RegressionPage, lines and parabolas through pairs of numbers.
 
 #include <QWidget>
 
@@ -17,9 +17,9 @@ class MessageBar;
 class PlotView;
 class TallEditor;
 
-/// Two editors, of the x and of the y, that scroll together; the pairs in a diagram with their
-/// least-squares line and parabola; and the coefficients of both with all digits. All of it follows
-/// every edit. Begins with an example. Pairs without an x or a y are left out.
+/// Two editors, for x and y, that scroll together; a diagram of the pairs with their least-squares
+/// line and parabola; and the coefficients of both with all digits. Every edit updates all of
+/// these. Incomplete pairs are left out. The page starts with an example.
 class RegressionPage : public QWidget {
   Q_OBJECT
 

@@ -17,7 +17,7 @@ QString Label(double value, double largest, const RoundStep& step, const QLocale
   constexpr int plain_decimals = 5;
   if (largest < plain_below && step.exponent >= -plain_decimals) {
     QLocale plain = locale;
-    // Years have no groups.
+    // No group separators in years.
     if (largest < 10000) plain.setNumberOptions(QLocale::OmitGroupSeparator);
     return plain.toString(value, 'f', std::max(0, -step.exponent));
   }
@@ -30,7 +30,7 @@ QString Label(double value, double largest, const RoundStep& step, const QLocale
 
 RoundStep RoundStep::AtLeast(Extended width) {
   const int exponent = static_cast<int>(std::floor(std::log10(width)));
-  // The logarithm may be rounded over a power of ten.
+  // The logarithm may have been rounded across a power of ten.
   for (const RoundStep step : {RoundStep{1, exponent}, {2, exponent}, {5, exponent}})
     if (step.Times(1) >= width) return step;
   return {1, exponent + 1};
@@ -50,7 +50,7 @@ AxisTicks TicksBetween(double low, double high, int most, const QLocale& locale)
   if (range < distinct * largest) return ticks;
 
   const RoundStep step = RoundStep::AtLeast(range / static_cast<Extended>(std::max(2, most)));
-  // As doubles, because the ends may be round numbers that were rounded to doubles.
+  // Compared as doubles, because the ends may be round numbers that were rounded to doubles.
   for (Extended i = std::floor(low / step.Times(1));; ++i) {
     const auto value = static_cast<double>(step.Times(i));
     if (value < low) continue;

@@ -16,23 +16,23 @@ struct RoundStep {
   int digit = 1;
   int exponent = 0;
 
-  /// The smallest one that is not below the width, which is positive and finite.
+  /// The smallest step of at least the width, which must be positive and finite.
   [[nodiscard]] static RoundStep AtLeast(Extended width);
-  /// The number that lies this many steps from zero: what the digits of its decimal text are read
-  /// as, so that 0.3 is an edge of classes of 0.1.
+  /// The number that is this many steps from zero, exactly as its decimal text is read, so that 0.3
+  /// is an edge of classes of width 0.1.
   [[nodiscard]] Extended Times(Extended count) const;
 };
 
-/// Where an axis has ticks, and what is written there.
+/// The ticks of an axis and their labels.
 struct AxisTicks {
   std::vector<double> values;
   QStringList labels;
 };
 
-/// Ticks at the round numbers from low to high, at most one more than wanted, which is two at
-/// least. Labels have the decimals that tell them apart, and an exponent where numbers are very
-/// large or small. No ticks unless low is below high and both are finite, nor where so many digits
-/// are in common that a double does not tell ticks apart.
+/// Ticks at the round numbers from low to high: at most one more than `most`, which is at least
+/// two. Labels have as many decimals as they need to be different, and an exponent for very large
+/// or small numbers. There are no ticks unless low < high and both are finite, nor if doubles
+/// cannot represent the differences between ticks.
 [[nodiscard]] AxisTicks TicksBetween(double low, double high, int most, const QLocale& locale);
 
 }  // namespace qorvex::gallery

@@ -24,7 +24,7 @@ TQorFloatVector SortedFinite(const TQorFloatVector& values) {
   return finite;
 }
 
-// Differences are taken of halves, since whole ones may be beyond the range.
+// Halves are subtracted, because the whole difference may be beyond the range.
 Extended ClassesByRule(const TQorFloatVector& sorted, ClassRule rule) {
   const auto count = static_cast<Extended>(sorted.size());
   const Extended half_range = sorted[sorted.size() - 1] / 2 - sorted[0] / 2;
@@ -38,14 +38,14 @@ Extended ClassesByRule(const TQorFloatVector& sorted, ClassRule rule) {
 }
 
 std::vector<Extended> RoundEdges(Extended low, Extended high, Extended width) {
-  // A width that is nearer to the next smaller step gets that.
+  // Rounds to the smaller step if that is nearer.
   constexpr Extended towards_smaller = 1.5L;
   const RoundStep step = RoundStep::AtLeast(width / towards_smaller);
   const Extended first = std::floor(low / step.Times(1));
   std::vector<Extended> edges;
   for (Extended i = first; edges.empty() || edges.back() <= high; ++i)
     edges.push_back(step.Times(i));
-  // The quotient may have been rounded up to an edge.
+  // The quotient may have been rounded up to a whole number.
   if (edges.front() > low) edges.insert(edges.begin(), step.Times(first - 1));
   return edges;
 }
@@ -57,7 +57,7 @@ std::vector<Extended> PlainEdges(Extended low, Extended high, Extended least_cla
   const Extended width = high / classes - low / classes;
   for (Extended i = 0; i < classes; ++i) edges.push_back(low + i * width);
   edges.push_back(std::nextafter(high, std::numeric_limits<Extended>::infinity()));
-  // Between values that are neighbours there is room for fewer.
+  // Adjacent floating-point numbers leave space for fewer classes.
   edges.erase(std::unique(edges.begin(), edges.end()), edges.end());
   return edges;
 }

@@ -11,7 +11,7 @@ FigureTable::FigureTable(std::vector<Column> columns, QWidget* parent)
   grid_->setContentsMargins(0, 0, 0, 0);
   grid_->setHorizontalSpacing(3 * fontMetrics().averageCharWidth());
   grid_->setVerticalSpacing(4);
-  // What is left of the width stays beside the table.
+  // The rest of the width is left empty.
   grid_->setColumnStretch(static_cast<int>(columns_.size()), 1);
   setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
 }
@@ -48,7 +48,7 @@ QLabel* FigureTable::AddCell(int row, int column) {
     cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     cell->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   } else {
-    // Room between one pair of columns and the next.
+    // Space between one pair of columns and the next.
     if (column > 0) cell->setIndent(4 * fontMetrics().averageCharWidth());
   }
   grid_->addWidget(cell, row, column);

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// FigureTable, labels and figures in columns.
+/// FigureTable, a table of labels and figures.
 
 #include <QStringList>
 #include <QWidget>
@@ -12,20 +12,20 @@ class QLabel;
 
 namespace qorvex::gallery {
 
-/// A table of texts. Columns of labels stand on the left of columns of figures, which are aligned
-/// to the right; figures can be selected and copied.
+/// A table of texts. Labels are to the left of their figures. Figures are aligned to the right and
+/// can be selected and copied.
 class FigureTable : public QWidget {
   Q_OBJECT
 
  public:
-  /// What is in a column.
+  /// The contents of a column.
   enum Column { kLabel, kFigure };
 
   FigureTable(std::vector<Column> columns, QWidget* parent = nullptr);
   ~FigureTable() override;
 
-  /// Shows these rows, each with a text a column; cells that are not given are empty. The table
-  /// never becomes lower, so that what is below it stays in its place.
+  /// Shows these rows, with one text per column; missing cells are empty. The table never shrinks,
+  /// so that widgets below it do not move.
   void SetRows(const QList<QStringList>& rows);
 
  private:

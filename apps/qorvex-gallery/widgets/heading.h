@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The headings of the parts of a page.
+/// Headings on a page.
 
 #include <QString>
 
@@ -10,7 +10,7 @@ class QWidget;
 
 namespace qorvex::gallery {
 
-/// A label in bold, whose mnemonic, if any, leads to the buddy.
+/// A bold label. Its mnemonic, if any, moves the focus to the buddy.
 [[nodiscard]] QLabel* MakeHeading(const QString& text, QWidget* buddy = nullptr);
 
 }  // namespace qorvex::gallery

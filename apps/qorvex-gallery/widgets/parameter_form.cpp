@@ -1,11 +1,9 @@
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 
 #include <QLabel>
-#include <QLocale>
 #include <QVBoxLayout>
 
-#include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
@@ -80,14 +78,6 @@ TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QW
   cell->setValue(value);
   cell->setAccessibleName(accessible_name);
   return cell;
-}
-
-QString ExactText(Extended value) {
-  return QorvexBaseControls::detail::LocalNumber(Float2Str(value), QLocale());
-}
-
-QString Title(const QString& text) {
-  return text.left(1).toUpper() + text.mid(1);
 }
 
 }  // namespace qorvex::gallery

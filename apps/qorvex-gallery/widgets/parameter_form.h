@@ -52,14 +52,8 @@ class ParameterForm : public QWidget {
   std::vector<Row> rows_;
 };
 
-/// A cell that shows every digit of a number.
+/// A cell that shows all digits of its number.
 [[nodiscard]] TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name,
                                             QWidget* parent);
-
-/// A number with all its digits in the format of the locale, without group separators.
-[[nodiscard]] QString ExactText(Extended value);
-
-/// The text with a capital first letter.
-[[nodiscard]] QString Title(const QString& text);
 
 }  // namespace qorvex::gallery

@@ -16,7 +16,7 @@ SidePanel::SidePanel(QWidget* parent) : QScrollArea(parent) {
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  // Room for a number with all its digits, in any font.
+  // Wide enough for a number with all its digits in any font.
   setFixedWidth(38 * fontMetrics().horizontalAdvance('0'));
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// SidePanel, what can be chosen on a page.
+/// SidePanel, the choices on a page.
 
 #include <QScrollArea>
 #include <QString>
@@ -10,16 +10,17 @@ class QVBoxLayout;
 
 namespace qorvex::gallery {
 
-/// Titled groups below one another, as wide on every page, which scroll where the window is low.
+/// Titled groups of widgets in a column of the same width on every page. It scrolls if the window
+/// is too low.
 class SidePanel : public QScrollArea {
   Q_OBJECT
 
  public:
   explicit SidePanel(QWidget* parent = nullptr);
 
-  /// A new group below the others, whose layout takes its widgets.
+  /// Adds a group below the others and returns its layout.
   QVBoxLayout* AddGroup(const QString& title);
-  /// After the last group.
+  /// To be called after the last group.
   void Finish();
 
  private:

@@ -9,7 +9,7 @@ namespace qorvex::gallery {
 TallEditor::TallEditor(TQorVectorEdit* editor, QWidget* parent) : QWidget(parent), editor_(editor) {
   editor_->setParent(this);
   editor_->move(0, 0);
-  // Never lower than what the editor needs, so that all cells have this height.
+  // At least as high as the editor needs, so that all cells have this height.
   editor_->setCellHeight(editor_->fontMetrics().height() + 8);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
   setFocusProxy(editor_);
@@ -19,7 +19,7 @@ TallEditor::TallEditor(TQorVectorEdit* editor, QWidget* parent) : QWidget(parent
 TallEditor::~TallEditor() = default;
 
 void TallEditor::FitFormat(const TQorFloatVector& values) {
-  // So that the decimals leave room for the digits in front of them.
+  // Leaves enough space for the digits before the point.
   constexpr int decimals = 10;
   constexpr Extended least = 1e-5L;
   constexpr Extended most = 1e9L;
@@ -41,7 +41,7 @@ QSize TallEditor::minimumSizeHint() const {
 }
 
 bool TallEditor::event(QEvent* event) {
-  // The editor has become wider or narrower.
+  // The width of the editor has changed.
   if (event->type() == QEvent::LayoutRequest) {
     updateGeometry();
     Fit();

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// TallEditor, room for an editor of a vector that shows as many elements as fit.
+/// TallEditor, which gives a vector editor as many cells as fit.
 
 #include <QWidget>
 
@@ -9,16 +9,16 @@
 
 namespace qorvex::gallery {
 
-/// Holds an editor, as wide as that, and gives it as many cells as the height has room for and the
-/// vector has elements.
+/// Contains an editor and has its width. The editor gets as many cells as fit into the height, but
+/// not more than the vector has elements.
 class TallEditor : public QWidget {
  public:
-  /// Takes the editor over.
+  /// Takes ownership of the editor.
   explicit TallEditor(TQorVectorEdit* editor, QWidget* parent = nullptr);
   ~TallEditor() override;
 
-  /// Writes numbers plainly when they are of ordinary size, as people do, and with all digits and
-  /// an exponent otherwise.
+  /// Chooses the format for the values: plain decimals if all magnitudes are ordinary, all digits
+  /// and exponents otherwise.
   void FitFormat(const TQorFloatVector& values);
 
   [[nodiscard]] QSize sizeHint() const override;

@@ -1,19 +1,19 @@
 #pragma once
 
 /// @file
-/// Texts of any length as tool tips.
+/// Tool tips for texts of any length.
 
 #include <QRegularExpression>
 #include <QString>
 
 namespace qorvex::gallery {
 
-/// A paragraph, whose lines the tool tip breaks, of the first hundreds of characters. Words that
-/// are longer than a line are broken too.
+/// The first few hundred characters of the text as a paragraph, so that the tool tip breaks its
+/// lines. Words that are longer than a line are broken as well.
 [[nodiscard]] inline QString ToolTipOf(const QString& text) {
-  constexpr qsizetype most = 400;
+  constexpr qsizetype kMostCharacters = 400;
   static const QRegularExpression long_word(QStringLiteral("(\\S{40})"));
-  QString shown = text.size() > most ? text.left(most) + QChar(0x2026) : text;
+  QString shown = text.size() > kMostCharacters ? text.left(kMostCharacters) + QChar(0x2026) : text;
   shown.replace(long_word, QStringLiteral("\\1\u200B"));
   return QStringLiteral("<p>%1</p>").arg(shown.toHtmlEscaped());
 }

@@ -34,8 +34,7 @@ class LocalReader {
                {WithoutDirectionMarks(locale.positiveSign()), '+'},
                {locale.decimalPoint(), '.'}} {}
 
-  /// Takes one character off the front of the text and returns the plain one, or 0 when there is
-  /// none.
+  /// Removes one character from the front of the text and returns its plain form; 0 if it has none.
   [[nodiscard]] char Take(QStringView& text) const {
     const char plain = Plain(text.front().unicode());
     if (plain != 0) {
@@ -95,18 +94,15 @@ class LocalReader {
 
 QString LocalNumber(std::string_view plain, const QLocale& locale) {
   const char32_t zero = ZeroOf(locale);
-  QString text;
-  for (const char character : plain) {
-    if (IsDigit(static_cast<unsigned char>(character))) {
-      text += QChar::fromUcs4(zero + static_cast<char32_t>(character - '0'));
-    } else if (character == '.') {
-      text += locale.decimalPoint();
-    } else if (character == '-') {
-      text += locale.negativeSign();
-    } else {
-      text += QLatin1Char(character);
+  QString text = QString::fromLatin1(plain.data(), static_cast<qsizetype>(plain.size()));
+  if (zero != U'0') {
+    for (char16_t digit = 0; digit <= 9; ++digit) {
+      const char32_t local = zero + digit;
+      text.replace(QChar(u'0' + digit), QString::fromUcs4(&local, 1));
     }
   }
+  if (plain.find('.') != plain.npos) text.replace(u'.', locale.decimalPoint());
+  if (plain.find('-') != plain.npos) text.replace(u'-', locale.negativeSign());
   return text;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-// Probabilities of a binomial distribution in relation to that of its mode.
+// Binomial probabilities relative to the probability of the mode.
 
 #include <cmath>
 
@@ -8,7 +8,7 @@
 
 namespace qorvex::inline QorvexRandom::detail {
 
-// What Stirling's formula lacks of ln Gamma(z).
+// The error of Stirling's formula: ln Gamma(z) - ((z - 1/2) ln z - z + ln(2 pi)/2).
 inline Extended StirlingCorrection(Extended z) {
   const Extended z2 = z * z;
   return (13860 - (462 - (132 - (99 - 140 / z2) / z2) / z2) / z2) / z / 166320;
@@ -20,7 +20,7 @@ struct BinomialRatios {
   Extended q;
   Extended mode;
 
-  // P(y) / P(mode), as the product of the quotients of neighbours.
+  // P(y) / P(mode), as a product of quotients of neighbouring probabilities.
   Extended Quotient(Extended y) const {
     const Extended odds = p / q;
     const Extended a = odds * (n + 1);
@@ -30,8 +30,8 @@ struct BinomialRatios {
     return quotient;
   }
 
-  // Its logarithm by Stirling's formula, for y of at least 0 far from 0 and n. Logarithms of
-  // quotients near 1 are taken of what they exceed it by, since they are multiplied by counts.
+  // ln(P(y) / P(mode)) by Stirling's formula, for y not close to 0 or n. log1p keeps the digits of
+  // logarithms near 0, which are multiplied by large counts.
   Extended LogQuotient(Extended y) const {
     const Extended above_mode = mode + 1;
     const Extended above_y = y + 1;

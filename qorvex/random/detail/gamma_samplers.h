@@ -1,6 +1,6 @@
 #pragma once
 
-// The methods behind Random_Gamma, prepared once for any number of variates.
+// The methods of Random_Gamma. A sampler is prepared once and draws any number of variates.
 
 #include <cmath>
 
@@ -13,7 +13,7 @@
 
 namespace qorvex::inline QorvexRandom::detail {
 
-// Marsaglia and Tsang (2000), for shapes above 1.
+// For shapes above 1: Marsaglia and Tsang (2000).
 class CubedNormal {
  public:
   explicit CubedNormal(Extended shape)
@@ -34,7 +34,7 @@ class CubedNormal {
   }
 
  private:
-  // 1 - v + ln v. Large shapes multiply what is left of it near 1.
+  // 1 - v + ln v. Large shapes multiply it, so it must keep its digits for v near 1.
   static Extended LogExcess(Extended v) {
     return v > 0.5L ? std::log1p(v - 1) - (v - 1) : 1 - v + std::log(v);
   }
@@ -43,8 +43,8 @@ class CubedNormal {
   Extended c_;
 };
 
-// Ahrens and Dieter (1974), for shapes below 1: the density is covered by a power near 0 and an
-// exponential tail.
+// For shapes below 1: Ahrens and Dieter (1974). A power near 0 and an exponential tail cover the
+// density.
 class PowerAndTail {
  public:
   explicit PowerAndTail(Extended shape) : shape_(shape), a_(1 - shape) {
@@ -82,13 +82,13 @@ class PowerAndTail {
   Extended a_;
   Extended reciprocal_shape_;
   Extended power_share_;
-  // Only draws up to this one can give a variate below the smallest, which becomes 0: the power
-  // that decides it is seldom needed.
+  // Only draws up to this bound can give a variate that becomes 0, so the power that decides it is
+  // rarely computed.
   Extended zero_bound_;
   Extended d_;
 };
 
-// Calls use with the sampler for the shape.
+// Calls use(sampler) with the sampler for the shape.
 template <class Use>
 auto WithGammaSampler(Extended shape, Use use) {
   if (!(shape > 0)) RaiseMathError(rsInvalidShape);

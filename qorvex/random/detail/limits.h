@@ -4,8 +4,9 @@
 
 namespace qorvex::inline QorvexRandom::detail {
 
-// The ends of the range that the published methods were written for. They belong to the streams:
-// widening them to the extended range would change which draws are taken again.
+// The smallest and largest number of the arithmetic that the published methods were written for.
+// They are part of the streams: with the limits of the extended range, other draws would be
+// rejected.
 inline constexpr Extended kVerySmall = 5.0E-324L;
 inline constexpr Extended kVeryLarge = 1.7E+308L;
 

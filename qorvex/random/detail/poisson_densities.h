@@ -6,8 +6,8 @@
 
 namespace qorvex::inline QorvexRandom::detail {
 
-// At a count k, the Poisson probability as p_factor exp(p_exponent), and the density of the
-// discretised normal variate as n_factor exp(n_exponent).
+// At a count k: the Poisson probability p_factor exp(p_exponent), and the density of the
+// discretised normal variate, n_factor exp(n_exponent).
 struct PoissonAndNormal {
   Extended p_exponent;
   Extended p_factor;
@@ -15,7 +15,7 @@ struct PoissonAndNormal {
   Extended n_factor;
 };
 
-// Procedure F of Ahrens and Dieter (1982), with their constants of seven digits.
+// Procedure F of Ahrens and Dieter (1982), with its constants of seven digits.
 class PoissonDensities {
  public:
   PoissonDensities(Extended mu, Extended deviation) : mu_(mu), deviation_(deviation) {

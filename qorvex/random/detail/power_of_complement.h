@@ -6,8 +6,8 @@
 
 namespace qorvex::inline QorvexRandom::detail {
 
-// (1 - p)^n. For small whole exponents XtoY multiplies; for others 1 - p would have lost the digits
-// of a small p, and a large n would show it.
+// (1 - p)^n. For small whole exponents XtoY multiplies. Otherwise 1 - p would lose digits of a
+// small p, and a large n would magnify the error.
 inline Extended PowerOfComplement(Extended p, Extended n) {
   return n <= 8 && n == std::trunc(n) ? XtoY(1 - p, n) : std::exp(n * std::log1p(-p));
 }

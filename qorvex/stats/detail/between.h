@@ -1,13 +1,13 @@
 #pragma once
 
-// The probability between two points, the same for every family.
+// The probability between two points, for all families.
 
 #include "qorvex/base/comparisons.h"
 
 namespace qorvex::inline QorvexStatistics::detail {
 
-/// The probability that lies between two points in either order; 0 for points that SameFloat finds
-/// the same, whatever the parameters are. less(x2) is asked before less(x1).
+/// The probability between two points in either order; 0 if SameFloat(x1, x2), without any check of
+/// the parameters. less(x2) is called before less(x1).
 template <class Less>
 [[nodiscard]] Extended ProbabilityBetween(Extended x1, Extended x2, Less less) {
   if (SameFloat(x1, x2)) return 0;

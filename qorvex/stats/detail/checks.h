@@ -1,6 +1,6 @@
 #pragma once
 
-// The checks that distributions share.
+// Checks that the distributions share.
 
 #include <cstdint>
 

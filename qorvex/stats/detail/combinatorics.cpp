@@ -9,11 +9,11 @@ namespace qorvex::inline QorvexStatistics::detail {
 
 namespace {
 
-// C(n, k) is at least 2^k for k <= n/2, which from here on is beyond the extended range.
-constexpr std::uint64_t kOverflowing = 16384;
+// C(n, k) >= 2^k for k <= n/2, so from this k on it exceeds the extended range.
+constexpr std::uint64_t kOverflowFrom = 16384;
 
-// C(n, k), C(n, k + 1), ... for 1 <= k, up to n/2, each by products and quotients in turn, which
-// keeps them as small as they can be.
+// C(n, k), C(n, k + 1), ... for 1 <= k, up to n/2. Products and quotients alternate, which keeps
+// the intermediate results small.
 template <std::size_t kCount>
 void ComputeSideBySide(std::uint64_t n, std::uint64_t k, Extended* coefficients) {
   std::array<Extended, kCount> values;
@@ -36,8 +36,8 @@ void ComputeSideBySide(std::uint64_t n, std::uint64_t k, Extended* coefficients)
 Extended ComputeOne(std::uint64_t n, std::uint64_t k) {
   if (k == 0) return 1;
   Extended coefficient = 0;
-  if (k < kOverflowing) ComputeSideBySide<1>(n, k, &coefficient);
-  if (k >= kOverflowing || std::isinf(coefficient)) RaiseMathError(rsBinomOverflowed);
+  if (k < kOverflowFrom) ComputeSideBySide<1>(n, k, &coefficient);
+  if (k >= kOverflowFrom || std::isinf(coefficient)) RaiseMathError(rsBinomOverflowed);
   return coefficient;
 }
 
@@ -56,7 +56,7 @@ BinomialCoefficients::BinomialCoefficients(std::uint32_t n, std::uint64_t first,
   least_ = std::min(Nearer(first), Nearer(last));
   const std::uint64_t greatest = has_middle ? middle : std::max(Nearer(first), Nearer(last));
 
-  // The largest comes first: where it is in range, all are.
+  // The largest coefficient first: if it is in range, all are.
   const Extended largest = ComputeOne(n_, greatest);
   coefficients_ = TQorFloatVector::ForOverwrite(greatest - least_ + 1);
   Extended* const coefficients = coefficients_.data();

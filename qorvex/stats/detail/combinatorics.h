@@ -1,6 +1,6 @@
 #pragma once
 
-// What counting and the discrete distributions share.
+// Binomial coefficients, for combinatorics and the discrete distributions.
 
 #include <algorithm>
 #include <cstddef>
@@ -10,20 +10,20 @@
 
 namespace qorvex::inline QorvexStatistics::detail {
 
-/// The largest number whose factorial is in the extended range.
+/// The largest n for which n! is in the extended range.
 inline constexpr std::uint32_t kLargestFactorial = 1754;
 
-/// C(n, k) for k <= n, where C(0, 0) = 1. Raises EMathError with rsBinomOverflowed beyond the
-/// extended range, after at most 16384 steps.
+/// C(n, k) for k <= n, with C(0, 0) = 1. EMathError rsBinomOverflowed if it exceeds the extended
+/// range. At most 16384 steps.
 [[nodiscard]] Extended BinomialCoefficient(std::uint32_t n, std::uint32_t k);
 
-/// The coefficients C(n, k) for a run of k, with the bits of BinomialCoefficient. Several are
-/// computed side by side, since each waits for its own divisions, and C(n, k) is the same as
-/// C(n, n - k). At most 16384 elements.
+/// The coefficients C(n, k) for consecutive k, with the bits of BinomialCoefficient. Several are
+/// computed side by side, because each one waits for its own divisions. C(n, k) and C(n, n - k)
+/// share an element, and there are at most 16384 elements.
 class BinomialCoefficients {
  public:
-  /// For first <= k < end, where end <= n + 1. Raises EMathError with rsBinomOverflowed when one of
-  /// them is beyond the extended range, before computing the others.
+  /// For first <= k < end, where end <= n + 1. EMathError rsBinomOverflowed if one of them exceeds
+  /// the extended range, before the others are computed.
   BinomialCoefficients(std::uint32_t n, std::uint64_t first, std::uint64_t end);
 
   [[nodiscard]] Extended operator[](std::uint64_t k) const noexcept {

@@ -1,6 +1,6 @@
 #pragma once
 
-// Sums of the probabilities of counts, and the rule for the probability between two of them.
+// Sums of the probabilities of counts, for all discrete distributions.
 
 #include <algorithm>
 #include <cstdint>
@@ -9,25 +9,25 @@
 
 namespace qorvex::inline QorvexStatistics::detail {
 
-/// The sum, and on it term(first), ..., term(end - 1) in this order.
+/// Adds term(first), ..., term(end - 1) to the sum, in this order.
 template <class Term>
 Extended AddTerms(Extended sum, std::uint64_t first, std::uint64_t end, Term& term) {
   for (std::uint64_t count = first; count < end; ++count) sum += term(count);
   return sum;
 }
 
-/// P(X < end), the sum of all terms of terms_below(end). Counts below the least one are impossible.
+/// P(X < end). Counts below `least` are impossible. See CountBetween for terms_below.
 template <class TermsBelow>
 Extended LowerProbability(std::uint64_t least, std::uint64_t end, TermsBelow terms_below) {
   auto term = terms_below(end);
   return AddTerms(0, least, end, term);
 }
 
-/// P(X < k2) - P(X < k1 + 1), negated when k1 > k2, for different counts: P(k1 < X < k2), or
-/// P(k2 <= X <= k1). The one sum is the beginning of the other.
+/// For k1 < k2, P(X < k2) - P(X < k1 + 1) = P(k1 < X < k2). For k1 > k2, its negative, which is
+/// P(k2 <= X <= k1). The shorter sum is the beginning of the longer one.
 ///
-/// terms_below(end) gives a function of the counts below end, which is called for the least count
-/// and then for one after the other.
+/// terms_below(end) returns a function that gives the probability of a count below `end`. It is
+/// called for consecutive counts, starting with `least`.
 template <class TermsBelow>
 Extended CountBetween(std::uint64_t least, std::uint32_t k1, std::uint32_t k2,
                       TermsBelow terms_below) {

@@ -1,6 +1,6 @@
 #pragma once
 
-// The tabulation of a density over an interval, the same for every family.
+// Tables of densities over an interval, for all families.
 
 #include <cstddef>
 #include <cstdint>
@@ -19,9 +19,9 @@ struct DensityTable {
   TQorFloatVector& y_values;
 };
 
-/// Releases both vectors, calls prepare, which checks the family's parameters and gives the density
-/// as a function of the point, and fills both vectors with n + 1 points and their densities. They
-/// stay released when a check or a density raises.
+/// Releases both vectors, then fills them with n + 1 points and their densities. prepare() checks
+/// the parameters of the family and returns the density as a function of the point. If it or a
+/// density raises an error, both vectors stay empty.
 template <class Prepare>
 void FillDensityTable(const DensityTable& table, Prepare prepare) {
   table.x_values = TQorFloatVector();

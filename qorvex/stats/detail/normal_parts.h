@@ -1,6 +1,6 @@
 #pragma once
 
-// What the normal and the log-normal distribution share.
+// What the normal and the log-normal density share.
 
 #include <cmath>
 
@@ -8,10 +8,10 @@
 
 namespace qorvex::inline QorvexStatistics::detail {
 
-/// The square root of 2 pi, rounded to 64 bits as the processor's root is.
+/// sqrt(2 pi), rounded to 64 bits.
 inline constexpr Extended kRootTwoPi = 2.50662827463100050241576528481104525L;
 
-/// exp(-(x - mean)^2 / (2 std_dev^2)), with the divisor given.
+/// exp(-(x - mean)^2 / twice_variance).
 inline Extended Bell(Extended x, Extended mean, Extended twice_variance) {
   const Extended difference = x - mean;
   return std::exp(-(difference * difference) / twice_variance);

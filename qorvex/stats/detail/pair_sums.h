@@ -1,6 +1,6 @@
 #pragma once
 
-// The sums over pairs from which lines and correlations follow.
+// The sums over pairs that lines and correlations are computed from.
 
 #include <cstddef>
 
@@ -15,13 +15,13 @@ struct PairSums {
   Extended x = 0, y = 0;
   Extended xx = 0, xy = 0, yy = 0;
 
-  /// n times the covariances and variances of a population. EInvalidOp for no pair.
+  /// Sums of products of deviations from the means. EInvalidOp for no pairs.
   [[nodiscard]] Extended DeviationsXX() const { return xx - CheckedDivide(x * x, n); }
   [[nodiscard]] Extended DeviationsXY() const { return xy - CheckedDivide(x * y, n); }
   [[nodiscard]] Extended DeviationsYY() const { return yy - CheckedDivide(y * y, n); }
 };
 
-/// In one pass: the five sums do not wait for one another.
+/// All five sums in one pass; they are independent of one another.
 inline PairSums SumPairs(const TQorFloatVector& x, const TQorFloatVector& y) {
   PairSums sums{.n = static_cast<Extended>(x.size())};
   for (std::size_t i = 0; i < x.size(); ++i) {

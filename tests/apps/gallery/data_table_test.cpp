@@ -7,8 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/table_input.h"
 #include "apps/text_source.h"
+#include "qorvex/base/text.h"
 
 namespace qorvex::gallery {
 namespace {
@@ -50,18 +51,22 @@ TEST(DataTable, WritesWhatWasNotChangedLetterByLetter) {
   EXPECT_EQ(Csv(table), unchanged);
 }
 
-TEST(DataTable, NamesTheLineOfACellThatIsNoNumber) {
+TEST(DataTable, NamesTheLineOfACellThatIsNotANumber) {
   const DataTable table = TableOf("a,b\n1,\"two\nlines\"\n\n3,4\n");
-  try {
-    static_cast<void>(table.Numbers(1));
-    FAIL();
-  } catch (const apps::InputError& error) {
-    EXPECT_STREQ(error.what(), "data.csv:2: column 2 (b): \"two\\nlines\" is not a number");
-  }
+  EXPECT_EQ(apps::ResultOrError([&] { return Float2Str(table.Numbers(1)[0]); }),
+            "data.csv:2: column 2 (b): \"two\\nlines\" is not a number");
   EXPECT_EQ(table.Numbers(0).size(), 3U);
 }
 
-// Whatever the cells hold, what was written reads as the same table.
+TEST(DataTable, IsNotReadWhenStopped) {
+  std::size_t read = 0;
+  const auto input =
+      Observed(apps::SourceOf("a,b\n1,2\n"), [&](std::size_t bytes) { return (read = bytes) < 6; });
+  EXPECT_THROW(DataTable{input}, ReadingStopped);
+  EXPECT_EQ(read, 6U);
+}
+
+// What was written reads as the same table, whatever the cells contain.
 TEST(DataTable, ReadsWhatItHasWritten) {
   std::mt19937 random(1);
   const std::string letters = "a1,;\"\n\r\t .";

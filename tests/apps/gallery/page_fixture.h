@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QStringList>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
@@ -14,13 +15,6 @@
 #include "qorvex/controls/QorvexVectorEdit.h"
 
 namespace qorvex::gallery {
-
-/// Types a text into a cell, in place of what is there, and enters it.
-inline void Enter(QLineEdit& cell, const char* text) {
-  cell.selectAll();
-  QTest::keyClicks(&cell, QString::fromLatin1(text));
-  QTest::keyClick(&cell, Qt::Key_Return);
-}
 
 template <class Page>
 struct PageFixture : testing::Test {
@@ -34,12 +28,10 @@ struct PageFixture : testing::Test {
   Widget& Find(const char* name) {
     return *page.template findChild<Widget*>(name);
   }
-
   [[nodiscard]] std::string Message() {
     return Find<MessageBar>("messageBar").Text().toStdString();
   }
-
-  /// The texts of a table of figures, in the order of its cells.
+  /// The texts in a table of figures, in the order of the cells.
   [[nodiscard]] QStringList Texts(const char* table) {
     QStringList texts;
     for (const QLabel* const label : Find<QWidget>(table).template findChildren<QLabel*>())
@@ -52,15 +44,21 @@ struct PageFixture : testing::Test {
     return texts.value(texts.indexOf(label) + column).toStdString();
   }
 
-  /// Types into the first cell of an editor, as a user does.
-  void Type(const char* editor, const char* text) {
-    auto& edit = Find<TQorVectorEdit>(editor);
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
-    edit.setEditFocus(0);
-    QTest::keyClicks(QApplication::focusWidget(), text);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  void Click(const char* button) { Find<QPushButton>(button).click(); }
+  /// Replaces the text of a cell and presses Return.
+  static void Enter(QLineEdit& cell, const char* text) {
+    cell.selectAll();
+    QTest::keyClicks(&cell, QString::fromLatin1(text));
+    QTest::keyClick(&cell, Qt::Key_Return);
+  }
+  /// Types into the first cell of an editor without leaving it.
+  void Type(TQorVectorEdit& editor, const char* keys) {
+    ASSERT_TRUE(QTest::qWaitForWindowActive(editor.window()));
+    editor.setEditFocus(0);
+    QTest::keyClicks(QApplication::focusWidget(), keys);
     QApplication::processEvents();
   }
+  void Type(const char* editor, const char* keys) { Type(Find<TQorVectorEdit>(editor), keys); }
 
   Page page;
 };

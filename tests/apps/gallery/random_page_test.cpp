@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <algorithm>
 #include <cmath>
 
 #include "apps/gallery/page_fixture.h"
@@ -17,7 +18,7 @@
 namespace qorvex::gallery {
 namespace {
 
-bool GoOn(std::size_t, std::size_t) {
+bool Proceeds(std::size_t, std::size_t) {
   return true;
 }
 
@@ -28,14 +29,14 @@ const apps::Variate& VariateOf(std::string_view name) {
   throw std::invalid_argument("no such variate");
 }
 
-TEST(RandomSample, IsThatOfItsSeed) {
+TEST(RandomSample, DependsOnItsSeed) {
   const SampleOrder order = {&VariateOf("normal"), {2, 3}, 10000, 7};
-  const RandomSample sample = DrawSample(order, GoOn);
+  const RandomSample sample = DrawSample(order, Proceeds);
   SetRandSeed(7);
   for (const Extended value : sample.values) ASSERT_EQ(value, Random_Normal(2, 3));
 }
 
-TEST(RandomSample, EndsWhenItIsNotToGoOn) {
+TEST(RandomSample, HasNoValuesWhenItIsStopped) {
   int calls = 0;
   const SampleOrder order = {&VariateOf("uniform"), {}, 10'000'000, 1};
   EXPECT_TRUE(
@@ -58,7 +59,7 @@ TEST(RandomSample, AgreesWithTheTheory) {
   };
   for (const auto& c : cases) {
     const apps::Variate& variate = VariateOf(c.variate);
-    const RandomSample sample = DrawSample({&variate, c.parameters, 40000, 1}, GoOn);
+    const RandomSample sample = DrawSample({&variate, c.parameters, 40000, 1}, Proceeds);
     const VariateTheory theory = TheoryOf(variate, c.parameters);
     if (theory.mean) {
       const Extended error = std::sqrt(sample.variance / 40000);
@@ -67,7 +68,7 @@ TEST(RandomSample, AgreesWithTheTheory) {
     if (theory.variance) {
       EXPECT_NEAR(static_cast<double>(sample.variance / *theory.variance), 1, 0.1) << c.variate;
     }
-    // What the bars cover that the density does not, and the other way round.
+    // The area between the bars and the density.
     ASSERT_TRUE(theory.density) << c.variate;
     double difference = 0;
     for (std::size_t i = 1; i < sample.bars.size(); ++i) {
@@ -84,37 +85,42 @@ TEST(RandomSample, AgreesWithTheTheory) {
 }
 
 struct RandomPageTest : PageFixture<RandomPage> {
-  // Done with the sample that comes by itself.
+  // Waits for the sample that the page draws when it is shown.
   void SetUp() override {
-    ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+    WaitUntilIdle();
+    ASSERT_NE(page.Sample(), nullptr);
   }
-  void Choose(const char* variate, int size) {
+  void WaitUntilIdle() {
+    ASSERT_TRUE(QTest::qWaitFor([&] { return Find<QPushButton>("generate").isEnabled(); }));
+  }
+  void Generate(const char* variate, int size) {
     auto& box = Find<QComboBox>("variate");
     box.setCurrentIndex(box.findText(QLatin1String(variate)));
     Find<QSpinBox>("size").setValue(size);
+    Click("generate");
   }
-  void Click(const char* button) { QTest::mouseClick(&Find<QPushButton>(button), Qt::LeftButton); }
-  [[nodiscard]] bool Idle() { return Find<QPushButton>("generate").isEnabled(); }
 };
 
 TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
-  Choose("Normal", 1000);
   Enter(Find<QLineEdit>("seed"), "12");
-  Click("generate");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  Generate("Normal", 1000);
+  WaitUntilIdle();
   const auto first = page.Sample();
   Click("generate");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  WaitUntilIdle();
   ASSERT_NE(page.Sample(), first);
-  EXPECT_TRUE(std::equal(first->values.begin(), first->values.end(), page.Sample()->values.begin(),
-                         page.Sample()->values.end()));
+  EXPECT_TRUE(std::ranges::equal(first->values, page.Sample()->values));
   EXPECT_EQ(Figure("moments", "Mean"), Float2Str(first->mean));
   EXPECT_EQ(Figure("moments", "Variance", 2), "1");
 
   const QTemporaryDir directory;
+  page.Save(directory.filePath("none/values.txt"));
+  WaitUntilIdle();
+  EXPECT_NE(Message().find("none/values.txt: "), std::string::npos) << Message();
   const QString path = directory.filePath("values.txt");
   page.Save(path);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  WaitUntilIdle();
+  EXPECT_EQ(Message(), "");
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
@@ -123,25 +129,20 @@ TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
 }
 
 TEST_F(RandomPageTest, KeepsTheSampleWhenTheNextIsCancelledOrRefused) {
-  Choose("Gamma", 1000);
-  page.Generate();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  Generate("Gamma", 1000);
+  WaitUntilIdle();
   const auto sample = page.Sample();
-  ASSERT_NE(sample, nullptr);
-
-  Choose("Gamma", 10'000'000);
-  page.Generate();
-  EXPECT_FALSE(Idle());
+  Generate("Gamma", 10'000'000);
+  EXPECT_FALSE(Find<QPushButton>("generate").isEnabled());
   Click("cancel");
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  WaitUntilIdle();
   EXPECT_EQ(Message(), "Cancelled");
-  EXPECT_EQ(page.Sample(), sample);
-
-  Choose("Chi-square", 1000);
+  Find<QComboBox>("variate").setCurrentText("Chi-square");
   Enter(Find<QLineEdit>("df"), "0");
-  page.Generate();
-  ASSERT_TRUE(QTest::qWaitFor([&] { return Idle(); }));
+  Generate("Chi-square", 1000);
+  WaitUntilIdle();
   EXPECT_NE(Message().find("\"Degrees of freedom\" is at least 1"), std::string::npos) << Message();
+  QApplication::processEvents();
   EXPECT_EQ(page.Sample(), sample);
 }
 

@@ -48,12 +48,12 @@ TEST_F(RegressionPageTest, FollowsEdits) {
   EXPECT_EQ(Figure("figures", "Coefficient of x²", 2), "1");
   EXPECT_EQ(Figure("figures", "Constant", 1), "0");
   const QString before = Find<PlotView>("scatter").accessibleDescription();
-  Type("y", "16");
+  Type("y", "16\r");
   EXPECT_NE(Figure("figures", "Coefficient of x²", 2), "1");
   EXPECT_NE(Find<PlotView>("scatter").accessibleDescription(), before);
 }
 
-TEST_F(RegressionPageTest, TellsOnThePageWhyThereIsNoCurve) {
+TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
   EXPECT_EQ(Message(), "");
   Show({0, 0, 2, 2}, {1, 1, 4, 4});
   EXPECT_EQ(Message(), "A parabola needs three different x.");

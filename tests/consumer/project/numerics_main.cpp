@@ -1,6 +1,6 @@
 #include <every_numerics_header.h>
 
-// In the second translation unit: the report of a sample.
+// Defined in the second translation unit.
 std::vector<std::string> ReportOf(const qorvex::TQorFloatVector& values);
 
 int main() {
@@ -17,7 +17,7 @@ int main() {
   expect(MatrixInverse(matrix, matrix) && matrix == qorvex::TQorFloatMatrix{{0, 0.25L}, {0.5L, 0}});
   expect(SumMatrixRow(matrix, 1) == 0.5L && qorvex::QorvexMatrix::QorMatrixRectangularCheck);
 
-  // An error that a library raises is caught here by its type.
+  // Exceptions cross the library boundary with their types.
   try {
     static_cast<void>(qorvex::CheckedDivide(1, 0));
     ++failures;
@@ -25,7 +25,7 @@ int main() {
     expect(error.message_id() == qorvex::rsZeroDivide);
   }
 
-  // One variable and one catalogue of texts for the program and the libraries.
+  // Program and libraries share one variable and one catalogue of texts.
   qorvex::QorTolerance = 0.5L;
   expect(qorvex::SameFloat(1.0L, 1.25L));
   qorvex::SetMessageText(qorvex::rsVectorIsEmpty, "nothing there");

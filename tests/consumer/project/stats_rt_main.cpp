@@ -1,8 +1,7 @@
 #include <QVariant>
 #include <qorvex/components/QorvexDescStats.h>
 
-// In the second translation unit: gives the component its lines and counts how often it was
-// updated.
+// Defined in the second translation unit: sets the lines and returns the number of updates.
 int Fill(qorvex::TQorDescStats& stats, const QStringList& lines);
 
 int main() {

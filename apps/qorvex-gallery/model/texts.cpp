@@ -1,0 +1,22 @@
+#include "apps/qorvex-gallery/model/texts.h"
+
+#include <QLocale>
+
+#include "qorvex/base/text.h"
+#include "qorvex/base_controls/detail/number_text.h"
+
+namespace qorvex::gallery {
+
+QString ExactText(Extended value) {
+  return QorvexBaseControls::detail::LocalNumber(Float2Str(value), QLocale());
+}
+
+QString ExactTextOrDash(const std::optional<Extended>& value) {
+  return value ? ExactText(*value) : QStringLiteral("—");
+}
+
+QString Title(const QString& text) {
+  return text.left(1).toUpper() + text.mid(1);
+}
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,190 @@
+#include "qorvex/controls/panel/cell_panel.h"
+
+#include <QEvent>
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
+
+namespace qorvex::inline QorvexControls {
+
+namespace {
+
+constexpr int kMaxEdits = 255;
+
+}  // namespace
+
+CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::CurrentRule rule,
+                     detail::EditWindowEvents row_events, detail::EditWindowEvents col_events)
+    : TQorCustomPanel(parent), table_(table) {
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  row_events.before_top = [this](quint32 top) {
+    parts_->focus.CommitPending();
+    Q_EMIT ontopChange(top);
+  };
+  row_events.current_changed = [this](quint32 before, quint32 now) {
+    Q_EMIT OnCurrRowChange(before, now);
+  };
+  row_events.redisplay = [this] { Redisplay(); };
+  col_events.before_top = [this, announce = std::move(col_events.before_top)](quint32 left) {
+    parts_->focus.CommitPending();
+    if (announce) announce(left);
+  };
+  col_events.redisplay = [this] { Redisplay(); };
+  parts_ = std::make_unique<detail::PanelParts>(*this, rule, std::move(row_events),
+                                                std::move(col_events));
+
+  parts_->rows.AddBar(Qt::Vertical, *this);
+  parts_->keys.WatchBar(*parts_->rows.Bar());
+  if (axes == GridAxes::kRows) return;
+  parts_->cols.AddBar(Qt::Horizontal, *this);
+  parts_->keys.WatchBar(*parts_->cols.Bar());
+}
+
+CellPanel::~CellPanel() = default;
+
+void CellPanel::Build(CellFactory make_cell, int row_edits, int col_edits) {
+  parts_->grid.SetCellFactory(std::move(make_cell));
+  SetEdits(parts_->cols, col_edits);
+  SetEdits(parts_->rows, row_edits);
+}
+
+void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
+  const auto row = [this, place] { return Rows().Top() + place.row; };
+  const auto col = [this, place] { return Cols().Top() + place.col; };
+  connect(&cell, &TQorCustomEdit::Entered, this, [=, this, &cell] {
+    parts_->focus.Enter(cell, place, false);
+    table_.Notify(CellEvent::kEnter, row(), col());
+  });
+  connect(&cell, &TQorCustomEdit::Left, this, [=, this, &cell] {
+    parts_->focus.Leave(cell);
+    table_.Notify(CellEvent::kExit, row(), col());
+  });
+  connect(&cell, &TQorCustomEdit::textEdited, this,
+          [=, this](const QString& text) { table_.NotifyText(row(), col(), text); });
+  connect(&cell, &TQorCustomEdit::Refused, this,
+          [=, this](const QString& text) { RefuseText(row(), col(), text); });
+  connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
+  connect(&cell, &TQorCustomEdit::MenuOpening, this, &CellPanel::AddToMenu);
+  cell.StoreElsewhere = [=, this, &cell](Extended value) { DoChange(cell, row(), col(), value); };
+  Watch(cell);
+}
+
+void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+  // The cell may have shown null in place of the element.
+  const Extended before = table_.Value(row, col);
+  try {
+    table_.Store(row, col, value);
+  } catch (const std::bad_alloc&) {
+    // A table that is longer than memory allows gets its memory now.
+    cell.Refresh(before);
+    RefuseBlock(detail::OutOfMemory());
+    return;
+  }
+  // In virtual mode the program may have stored another value.
+  const Extended now = table_.Value(row, col);
+  cell.Refresh(now);
+  parts_->history.Record({row, col, before}, now);
+}
+
+void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
+  const auto wanted = static_cast<quint32>(std::clamp(edits, 0, kMaxEdits));
+  if (wanted == axis.Window().Edits()) return;
+  parts_->focus.CommitPending();
+  parts_->focus.Keep(axis, wanted, [&] { axis.Window().SetEdits(wanted); });
+  FitGrid();
+  axis.ReachWantedTop();
+}
+
+void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
+  parts_->focus.CommitPending();
+  const quint32 top = axis.Window().Top();
+  parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
+  axis.ReachWantedTop();
+}
+
+void CellPanel::FitGrid() {
+  parts_->grid.Fit(EffectiveSettings(), CellFocusPolicy());
+  Arrange();
+  Redisplay();
+}
+
+void CellPanel::Redisplay() {
+  // At once, since a cell may be given the focus before the update ends.
+  parts_->grid.EnableUsedCells();
+  if (!Updating()) parts_->grid.Show();
+}
+
+void CellPanel::Watch(TextCell& text) {
+  parts_->keys.Watch(text);
+}
+
+void CellPanel::ApplySettings() {
+  parts_->grid.Apply(EffectiveSettings(), CellFocusPolicy());
+}
+
+Qt::FocusPolicy CellPanel::CellFocusPolicy() const {
+  return tab_stop_ ? Qt::StrongFocus : Qt::ClickFocus;
+}
+
+void CellPanel::SettingsChanged() {
+  ApplySettings();
+}
+
+void CellPanel::DoColorSetChange() {
+  ApplySettings();
+  Q_EMIT OnColorSetChange();
+}
+
+void CellPanel::Loaded() {
+  parts_->settings.Find();
+  parts_->rows.Loaded();
+  parts_->cols.Loaded();
+}
+
+void CellPanel::changeEvent(QEvent* event) {
+  TQorCustomPanel::changeEvent(event);
+  switch (event->type()) {
+    case QEvent::FontChange:
+    case QEvent::StyleChange:
+    case QEvent::LayoutDirectionChange:
+      Arrange();
+      break;
+    case QEvent::LanguageChange:
+      Redisplay();
+      break;
+    default:
+      break;
+  }
+}
+
+void CellPanel::resizeEvent(QResizeEvent* event) {
+  TQorCustomPanel::resizeEvent(event);
+  Arrange();
+}
+
+void CellPanel::showEvent(QShowEvent* event) {
+  TQorCustomPanel::showEvent(event);
+  parts_->settings.Find();
+}
+
+void CellPanel::wheelEvent(QWheelEvent* event) {
+  // Cells without an element are disabled and pass it on.
+  parts_->keys.EditMouseWheel(*event);
+}
+
+void CellPanel::focusInEvent(QFocusEvent* event) {
+  TQorCustomPanel::focusInEvent(event);
+  parts_->focus.FocusCell(Rows().Focus(), Cols().Focus());
+}
+
+void CellPanel::hideEvent(QHideEvent* event) {
+  // Turning a page of tabs loses nothing. The cell is not left, though: the control may be about to
+  // be deleted, and what its handlers refer to with it.
+  parts_->focus.CommitPending();
+  TQorCustomPanel::hideEvent(event);
+}
+
+}  // namespace qorvex::inline QorvexControls

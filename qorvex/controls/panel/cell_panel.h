@@ -1,0 +1,256 @@
+#pragma once
+
+/// @file
+/// CellPanel, the grid of cells that the editors of vectors and matrices share.
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QString>
+#include <functional>
+#include <memory>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base_controls/custom_edit.h"
+#include "qorvex/base_controls/custom_panel.h"
+#include "qorvex/base_controls/uictrl.h"
+#include "qorvex/base_controls/unit.h"
+#include "qorvex/controls/panel/cell_table.h"
+
+QORVEX_WIDGET_UNIT(QorvexControls) {
+/// @cond internal
+namespace detail {
+class EditWindow;
+class PanelAxis;
+struct CellPlace;
+struct EditWindowEvents;
+struct PanelParts;
+struct TableBlock;
+enum class CurrentRule;
+}  // namespace detail
+/// @endcond
+
+/// A grid of cells with a scroll bar beside it, and one below it if the table has columns. The
+/// cells show the part of a CellTable that begins at DisplayTopRow.
+///
+/// Keys: Enter, Ctrl+Down and Ctrl+Up move by a row, and scroll at the edge of the grid; the page
+/// keys scroll by a page. Ctrl+Z undoes the last change, Ctrl+Y or Ctrl+Shift+Z redoes it; while a
+/// text is being typed, they work on the text. Ctrl+Shift+C copies the whole table, and several
+/// cells of a spreadsheet can be pasted.
+///
+/// Before anything scrolls or changes under a cell, the text that is being typed there is
+/// committed, or discarded if it is not a number.
+///
+/// Handlers of signals may do anything except delete the control; they may call deleteLater unless
+/// they run an event loop of their own. A redisplay costs O(cells), whatever the size of the table.
+class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
+  Q_OBJECT
+
+ public:
+  ~CellPanel() override;
+
+  /// @{
+  /// The shared settings that this control is linked to; none by default. A form names them: the
+  /// nearest object of that name in the control's window is looked up at once, in the next turn of
+  /// the event loop, and whenever the control is shown.
+  [[nodiscard]] TQorUICtrl* UICtrl() const noexcept;
+  [[nodiscard]] QString UICtrlName() const;
+  void setUICtrl(TQorUICtrl* settings);
+  void setUICtrl(const QString& name);
+  void resetUICtrl() { setUICtrl(nullptr); }
+  /// @}
+
+  /// @{
+  /// Which settings come from the shared ones; all of them by default.
+  [[nodiscard]] TQorUICtrl::TQorUIUsage UIUsage() const noexcept;
+  void setUIUsage(TQorUICtrl::TQorUIUsage usage);
+  void resetUIUsage();
+  /// @}
+
+  /// The settings of the cells: the control's own or the shared ones.
+  [[nodiscard]] CellSettings EffectiveSettings() const;
+
+  /// @{
+  /// The size of a cell in pixels, 21 and 81 by default; negative sizes count as 0. A cell is never
+  /// lower than a line of its font.
+  [[nodiscard]] int CellHeight() const noexcept;
+  void setCellHeight(int height);
+  void resetCellHeight();
+  [[nodiscard]] int CellWidth() const noexcept;
+  void setCellWidth(int width);
+  void resetCellWidth();
+  /// @}
+
+  /// @{
+  /// The row that the first cells show, 0 by default. Rows beyond the last page are clamped. A form
+  /// may set it before the number of rows: it is clamped when the form is complete.
+  [[nodiscard]] quint32 DisplayTopRow() const noexcept;
+  void setDisplayTopRow(quint32 row);
+  void resetDisplayTopRow() { setDisplayTopRow(0); }
+  /// @}
+
+  /// @{
+  /// Makes every visible cell show null until the next redisplay. The elements keep their values.
+  [[nodiscard]] bool Null() const noexcept { return null_; }
+  void setNull(bool null);
+  void resetNull() { setNull(false); }
+  /// @}
+
+  /// @{
+  /// The tab key stops at the cells; true by default.
+  [[nodiscard]] bool TabStop() const noexcept { return tab_stop_; }
+  void setTabStop(bool stop);
+  void resetTabStop() { setTabStop(true); }
+  /// @}
+
+  /// @{
+  /// Whether the elements are requested and passed on one by one instead of being stored here;
+  /// false by default. Leaving the mode shows the elements that were stored before it.
+  [[nodiscard]] bool VirtualMode() const noexcept { return virtual_mode_; }
+  void setVirtualMode(bool on);
+  void resetVirtualMode() { setVirtualMode(false); }
+  /// @}
+
+  /// @{
+  /// The current row. Setting it scrolls until that row is under the focused cell, or under the
+  /// first cell if there are too few rows above it. On the last page the row under the focused cell
+  /// becomes the current one.
+  [[nodiscard]] quint32 CurrentRow() const noexcept;
+  void setCurrentRow(quint32 row);
+  /// @}
+
+  /// @{
+  /// Scrolls up by this many rows, or not at all if there are fewer above; down by this many, at
+  /// most to the last page; to the first row; to the last page.
+  void ScrollUp(quint32 rows);
+  void ScrollDown(quint32 rows);
+  void ScrollTop();
+  void ScrollBottom();
+  /// @}
+
+  /// Pastes a text over the table from the focused cell on: line ends separate rows, tabs separate
+  /// cells. Each element that changes raises OnChange. If a cell does not fit or is not a number,
+  /// or the control is read-only, nothing changes, OnBlockRefused says why, and the result is
+  /// false.
+  bool PasteBlock(const QString& text);
+
+  /// Copies the whole table to the clipboard with all digits, in the numbers of the locale;
+  /// infinities as "inf", which PasteBlock refuses. More than ten million elements are refused.
+  void CopyAll();
+
+  /// Shows the elements in the cells, unless an update is in progress. In virtual mode, call it
+  /// when the elements have changed.
+  void Redisplay() override;
+
+  /// @{
+  /// Undoes and redoes the last change by typing, pasting or a command. Typed and pasted elements
+  /// raise OnChange again. A command can be undone until anything else changes, and nothing can be
+  /// undone once the number of elements changes.
+  [[nodiscard]] bool CanUndo() const noexcept;
+  [[nodiscard]] bool CanRedo() const noexcept;
+  void Undo();
+  void Redo();
+  /// @}
+
+  /// The size of the cells, the texts in front of them and the bars.
+  [[nodiscard]] QSize sizeHint() const override;
+  /// The same.
+  [[nodiscard]] QSize minimumSizeHint() const override;
+
+ Q_SIGNALS:
+  /// DisplayTopRow is about to become the given row.
+  void ontopChange(quint32 top);
+  /// The current row has changed.
+  void OnCurrRowChange(quint32 before, quint32 now);
+  /// A colour of the set has changed.
+  void OnColorSetChange();
+  /// Undo or Redo has restored elements.
+  void OnUndo();
+  /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
+  void OnBlockRefused(const QString& message);
+  /// A typed text is not a number and has been discarded; the message names element and text.
+  void OnTextRefused(const QString& message);
+
+  /// @{
+  /// Events of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event suppresses
+  /// the key. OnKeyPress follows OnKeyDown for keys that produce a character or control character.
+  void OnClick();
+  void OnDblClick();
+  void OnKeyDown(QKeyEvent* event);
+  void OnKeyPress(QKeyEvent* event);
+  void OnKeyUp(QKeyEvent* event);
+  void OnMouseDown(QMouseEvent* event);
+  void OnMouseMove(QMouseEvent* event);
+  void OnMouseUp(QMouseEvent* event);
+  /// @}
+
+ protected:
+  /// In which directions the table may be longer than the grid.
+  enum class GridAxes { kRows, kRowsAndCols };
+  /// Makes one cell.
+  using CellFactory = std::function<TQorCustomEdit*(QWidget* panel)>;
+
+  /// A grid without cells. The table is not used until it has elements. The events are the editor's
+  /// own: after_top of the rows, before_top and current_changed of the columns.
+  CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::CurrentRule rule,
+            detail::EditWindowEvents row_events, detail::EditWindowEvents col_events);
+  /// Makes the cells.
+  void Build(CellFactory make_cell, int row_edits, int col_edits);
+
+  /// @{
+  /// The parts of the panel, and the windows on its rows and columns.
+  [[nodiscard]] detail::PanelParts& Parts() const noexcept { return *parts_; }
+  [[nodiscard]] const detail::EditWindow& Rows() const noexcept;
+  [[nodiscard]] const detail::EditWindow& Cols() const noexcept;
+  /// @}
+
+  /// @{
+  /// Changes the number of cells or of elements along an axis. A focus that would be lost goes to
+  /// the last cell in use.
+  void SetEdits(detail::PanelAxis& axis, int edits);
+  void SetCount(detail::PanelAxis& axis, quint32 count);
+  /// @}
+  /// Makes the missing cells and drops those that are too many.
+  void FitGrid();
+  /// Places the cells, the bars and the corner.
+  void Arrange();
+  /// Places a widget where the bars meet.
+  void SetCorner(QWidget* corner);
+  /// Lets the keys, the wheel and the mouse of a text in front of the cells count as those of a
+  /// cell.
+  void Watch(TextCell& text);
+
+  /// Copies a part of the table to the clipboard, as CopyAll does.
+  void CopyBlock(const detail::TableBlock& block);
+  /// Runs a command, but not in virtual mode, and redisplays, even when it raises.
+  void Command(const std::function<void()>& command);
+
+  // Events of the base classes.
+  void Loaded() override;
+  void SettingsChanged() override;
+  void DoColorSetChange() override;
+  void changeEvent(QEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void showEvent(QShowEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+
+ private:
+  friend struct detail::PanelParts;
+
+  void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
+  void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
+  void ApplySettings();
+  [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
+  void RefuseBlock(const QString& message);
+  void RefuseText(quint32 row, quint32 col, const QString& text);
+  void AddToMenu(QMenu* menu);
+
+  CellTable& table_;
+  bool null_ = false;
+  bool tab_stop_ = true;
+  bool virtual_mode_ = false;
+  std::unique_ptr<detail::PanelParts> parts_;
+};
+
+}  // QORVEX_WIDGET_UNIT(QorvexControls)

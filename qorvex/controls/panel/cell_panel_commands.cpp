@@ -1,0 +1,104 @@
+// What a user or a program does with a whole panel of cells: copying, pasting, undoing.
+
+#include <QApplication>
+#include <QClipboard>
+#include <QCoreApplication>
+#include <QMenu>
+#include <QToolTip>
+#include <new>
+#include <utility>
+
+#include "qorvex/base_controls/detail/tool_tip.h"
+#include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
+
+namespace qorvex::inline QorvexControls {
+
+namespace {
+
+constexpr quint64 kMaxCopiedValues = 10'000'000;
+
+}  // namespace
+
+bool CellPanel::PasteBlock(const QString& text) {
+  parts_->focus.CommitPending();
+  if (EffectiveSettings().read_only) {
+    RefuseBlock(detail::NotChangeable());
+    return false;
+  }
+  detail::PasteResult paste =
+      detail::PlanPaste(table_, parts_->grid.IsEmpty() ? nullptr : parts_->grid.Cell(0, 0), text,
+                        Rows().Top() + Rows().Focus(), Cols().Top() + Cols().Focus());
+  if (paste.refusal.isEmpty()) {
+    if (paste.changes.empty()) return true;
+    try {
+      parts_->history.Apply(std::move(paste.changes));
+      return true;
+    } catch (const std::bad_alloc&) {
+      paste.refusal = detail::OutOfMemory();
+    }
+  }
+  RefuseBlock(paste.refusal);
+  return false;
+}
+
+void CellPanel::CopyBlock(const detail::TableBlock& block) {
+  parts_->focus.CommitPending();
+  if (parts_->grid.IsEmpty()) return;
+  const quint64 values = quint64{block.rows} * block.cols;
+  if (values > kMaxCopiedValues) {
+    RefuseBlock(detail::TooManyValues(values));
+    return;
+  }
+  QApplication::clipboard()->setText(detail::BlockText(table_, *parts_->grid.Cell(0, 0), block));
+}
+
+void CellPanel::CopyAll() {
+  CopyBlock({0, table_.RowCount(), 0, table_.ColCount()});
+}
+
+void CellPanel::RefuseBlock(const QString& message) {
+  if (TextCell* const text = parts_->focus.Entered(); text != nullptr && isVisible()) {
+    QToolTip::showText(text->mapToGlobal(text->rect().bottomLeft()),
+                       QorvexBaseControls::detail::AsToolTip(message), text);
+  }
+  Q_EMIT OnBlockRefused(message);
+}
+
+void CellPanel::RefuseText(quint32 row, quint32 col, const QString& text) {
+  Q_EMIT OnTextRefused(QCoreApplication::translate("CellPanel",
+                                                   "%1: \"%2\" is not a number. The value stays.",
+                                                   "name of a cell, its text")
+                           .arg(table_.CellName(row, col), text));
+}
+
+void CellPanel::Undo() {
+  parts_->focus.CommitPending();
+  if (parts_->history.Undo()) Q_EMIT OnUndo();
+}
+
+void CellPanel::Redo() {
+  parts_->focus.CommitPending();
+  if (parts_->history.Redo()) Q_EMIT OnUndo();
+}
+
+void CellPanel::Command(const std::function<void()>& command) {
+  parts_->focus.CommitPending();
+  const Update update(*this);
+  if (!VirtualMode()) command();
+}
+
+void CellPanel::AddToMenu(QMenu* menu) {
+  menu->addSeparator();
+  menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
+                  &CellPanel::CopyAll);
+  if (EffectiveSettings().read_only) return;
+  menu->addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
+                  &CellPanel::Undo)
+      ->setEnabled(CanUndo());
+  menu->addAction(QCoreApplication::translate("CellPanel", "Redo Last Change"), this,
+                  &CellPanel::Redo)
+      ->setEnabled(CanRedo());
+}
+
+}  // namespace qorvex::inline QorvexControls

@@ -1,0 +1,51 @@
+#pragma once
+
+/// @file
+/// CellTable, the interface through which a panel of cells reads and writes its elements.
+
+#include <QColor>
+#include <QString>
+
+#include "qorvex/base/element_types.h"
+
+namespace qorvex::inline QorvexControls {
+
+/// What happens to an element in its cell.
+enum class CellEvent {
+  kEnter,  ///< The focus has come to its cell.
+  kExit,   ///< The focus has left its cell, whose text is committed.
+  kNull,   ///< The user has made it null; kChange follows.
+  kChange  ///< The user has changed it.
+};
+
+/// A table of elements. An editor implements it over the vector or matrix that it stores, or over
+/// the requests that it sends in virtual mode.
+class CellTable {
+ public:
+  /// @{
+  /// The size of the table.
+  [[nodiscard]] virtual quint32 RowCount() const = 0;
+  [[nodiscard]] virtual quint32 ColCount() const = 0;
+  /// @}
+  /// @{
+  /// One element, of which there is one in the given row and column. NaN is null.
+  [[nodiscard]] virtual Extended Value(quint32 row, quint32 col) const = 0;
+  virtual void Store(quint32 row, quint32 col, Extended value) = 0;
+  /// @}
+  /// The name of the element's cell, for screen readers and messages.
+  [[nodiscard]] virtual QString CellName(quint32 row, quint32 col) const = 0;
+  /// The colour of the element's text; invalid for the colour that the settings give it.
+  [[nodiscard]] virtual QColor SpecialColor(quint32 row, quint32 col, Extended value) const = 0;
+  /// @{
+  /// Raises the signals of the element: an event, or a text that is being typed into its cell.
+  virtual void Notify(CellEvent event, quint32 row, quint32 col) = 0;
+  virtual void NotifyText(quint32 row, quint32 col, const QString& text) = 0;
+  /// @}
+  /// Virtual mode has been turned on or off.
+  virtual void VirtualModeChanged() = 0;
+
+ protected:
+  ~CellTable() = default;
+};
+
+}  // namespace qorvex::inline QorvexControls

@@ -1,0 +1,92 @@
+#include "qorvex/controls/panel/detail/block_clipboard.h"
+
+#include <QCoreApplication>
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "qorvex/base_controls/detail/same_element.h"
+#include "qorvex/controls/detail/block_text.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+namespace {
+
+QString TooManyRows(std::size_t rows, std::size_t room) {
+  return QCoreApplication::translate("CellPanel",
+                                     "The block does not fit. Its rows: %1, rows from here on: %2.")
+      .arg(rows)
+      .arg(room);
+}
+
+QString TooManyCols(std::size_t cols, std::size_t room) {
+  return QCoreApplication::translate(
+             "CellPanel", "The block does not fit. Its columns: %1, columns from here on: %2.")
+      .arg(cols)
+      .arg(room);
+}
+
+QString NotANumber(const QString& cell_name, const QString& text) {
+  return QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number.",
+                                     "name of a cell, its text")
+      .arg(cell_name, text);
+}
+
+std::size_t RoomFrom(quint32 first, quint32 count) {
+  return count - std::min(first, count);
+}
+
+}  // namespace
+
+QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TableBlock& block) {
+  std::string text;
+  TextBlock line(1, std::vector<std::string>(block.cols));
+  for (quint32 r = 0; r < block.rows; ++r) {
+    for (quint32 c = 0; c < block.cols; ++c) {
+      line[0][c] = cell.ExactText(table.Value(block.row + r, block.col + c)).toStdString();
+    }
+    text += FormatBlock(line);
+  }
+  return QString::fromStdString(text);
+}
+
+PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
+                      quint32 first_row, quint32 first_col) {
+  const TextBlock block = ParseBlock(text.toStdString());
+  std::size_t width = 0;
+  for (const auto& row : block) width = std::max(width, row.size());
+  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount()) : 0;
+  const std::size_t room_beside = RoomFrom(first_col, table.ColCount());
+  if (block.size() > room_below || !cell) return {{}, TooManyRows(block.size(), room_below)};
+  if (width > room_beside) return {{}, TooManyCols(width, room_beside)};
+
+  PasteResult result;
+  for (std::size_t r = 0; r < block.size(); ++r) {
+    for (std::size_t c = 0; c < block[r].size(); ++c) {
+      const QString cell_text = QString::fromStdString(block[r][c]);
+      const auto value = cell->Parsed(cell_text);
+      const quint32 row = first_row + static_cast<quint32>(r);
+      const quint32 col = first_col + static_cast<quint32>(c);
+      if (!value) return {{}, NotANumber(table.CellName(row, col), cell_text)};
+      if (!QorvexBaseControls::detail::SameElement(table.Value(row, col), *value)) {
+        result.changes.push_back({row, col, *value});
+      }
+    }
+  }
+  return result;
+}
+
+QString TooManyValues(quint64 values) {
+  return QCoreApplication::translate("CellPanel", "Too many values to copy: %1.").arg(values);
+}
+
+QString OutOfMemory() {
+  return QCoreApplication::translate("CellPanel", "There is not enough memory for these values.");
+}
+
+QString NotChangeable() {
+  return QCoreApplication::translate("CellPanel", "These values cannot be changed.");
+}
+
+}  // namespace qorvex::inline QorvexControls::detail

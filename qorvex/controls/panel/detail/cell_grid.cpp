@@ -1,0 +1,214 @@
+#include "qorvex/controls/panel/detail/cell_grid.h"
+
+#include <QStyle>
+#include <algorithm>
+#include <utility>
+
+namespace qorvex::inline QorvexControls::detail {
+
+namespace {
+
+void PlaceInTabOrder(QWidget* previous, QWidget* widget) {
+  if (previous != nullptr && previous->nextInFocusChain() != widget) {
+    QWidget::setTabOrder(previous, widget);
+  }
+}
+
+}  // namespace
+
+CellGrid::CellGrid(QWidget& panel, const CellTable& table, const EditWindow& rows,
+                   const EditWindow& cols, Owner owner)
+    : panel_(panel), table_(table), rows_(rows), cols_(cols), owner_(std::move(owner)) {
+  QAccessible::installActivationObserver(this);
+}
+
+CellGrid::~CellGrid() {
+  QAccessible::removeActivationObserver(this);
+  // Left to the base class of the panel, they would signal into a panel that is half destroyed.
+  const auto remove = [this](TextCell* text) {
+    text->disconnect(&panel_);
+    delete text;
+  };
+  for (TextCell* text : header_texts_) remove(text);
+  for (const auto& row : cells_) {
+    for (TQorCustomEdit* cell : row) remove(cell);
+  }
+}
+
+void CellGrid::SetCellFactory(std::function<TQorCustomEdit*(QWidget* panel)> make) {
+  make_cell_ = std::move(make);
+}
+
+void CellGrid::SetHeader(RowHeader header) {
+  header_ = std::move(header);
+}
+
+void CellGrid::ForEach(const std::function<void(TQorCustomEdit& cell)>& function) const {
+  for (const auto& row : cells_) {
+    for (TQorCustomEdit* cell : row) function(*cell);
+  }
+}
+
+void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus) {
+  const std::size_t rows = rows_.Edits();
+  const std::size_t cols = cols_.Edits();
+  while (cells_.size() > rows) {
+    const std::vector<TQorCustomEdit*> dropped = std::move(cells_.back());
+    cells_.pop_back();
+    for (TQorCustomEdit* cell : dropped) DropCell(cell);
+  }
+  cells_.resize(rows);
+  QWidget* previous = nullptr;
+  for (std::size_t r = 0; r < rows; ++r) {
+    while (cells_[r].size() > cols) {
+      TQorCustomEdit* const dropped = cells_[r].back();
+      cells_[r].pop_back();
+      DropCell(dropped);
+    }
+    if (!cells_[r].empty()) previous = cells_[r].back();
+    while (cells_[r].size() < cols) {
+      const CellPlace place{static_cast<quint32>(r), static_cast<quint32>(cells_[r].size())};
+      TQorCustomEdit* const cell = MakeCell(place, settings, focus);
+      cells_[r].push_back(cell);
+      PlaceInTabOrder(previous, cell);
+      previous = cell;
+      cell->show();
+    }
+  }
+  FitHeader();
+  ApplyToHeader(settings);
+}
+
+TQorCustomEdit* CellGrid::MakeCell(CellPlace place, const CellSettings& settings,
+                                   Qt::FocusPolicy focus) {
+  TQorCustomEdit* const cell = make_cell_(&panel_);
+  cell->setSettings(settings);
+  cell->setFocusPolicy(focus);
+  owner_.connect(*cell, place);
+  return cell;
+}
+
+void CellGrid::FitHeader() {
+  if (!header_.make) return;
+  while (header_texts_.size() > cells_.size()) {
+    TextCell* const text = header_texts_.back();
+    header_texts_.pop_back();
+    Drop(text);
+  }
+  while (header_texts_.size() < cells_.size()) {
+    const std::size_t row = header_texts_.size();
+    TextCell* const text = header_.make(&panel_, static_cast<quint32>(row));
+    header_texts_.push_back(text);
+    if (row > 0) QWidget::setTabOrder(Cell(row - 1, 0), text);
+    QWidget::setTabOrder(text, Cell(row, 0));
+    text->show();
+  }
+}
+
+void CellGrid::DropCell(TQorCustomEdit* cell) {
+  cell->StoreElsewhere = nullptr;
+  Drop(cell);
+}
+
+void CellGrid::Drop(TextCell* text) {
+  // It may be the one whose event is being handled, so it is deleted later.
+  text->disconnect(&panel_);
+  owner_.drop(*text);
+  text->hide();
+  text->deleteLater();
+}
+
+void CellGrid::Apply(const CellSettings& settings, Qt::FocusPolicy focus) {
+  ForEach([&](TQorCustomEdit& cell) {
+    cell.setSettings(settings);
+    cell.setFocusPolicy(focus);
+  });
+  ApplyToHeader(settings);
+}
+
+void CellGrid::ApplyToHeader(const CellSettings& settings) {
+  for (TextCell* text : header_texts_) header_.apply(*text, settings);
+}
+
+void CellGrid::EnableUsedCells() {
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    for (std::size_t c = 0; c < cells_[r].size(); ++c) cells_[r][c]->setEnabled(IsUsed(r, c));
+  }
+}
+
+void CellGrid::Show() {
+  // Asking for an element may change how many there are, and how many cells.
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    for (std::size_t c = 0; r < cells_.size() && c < cells_[r].size(); ++c) {
+      TQorCustomEdit* const cell = cells_[r][c];
+      const quint32 row = rows_.Top() + static_cast<quint32>(r);
+      const quint32 col = cols_.Top() + static_cast<quint32>(c);
+      if (IsUsed(r, c)) {
+        const Extended value = table_.Value(row, col);
+        cell->Refresh(value);
+        cell->SetSpecialColor(table_.SpecialColor(row, col, value));
+      } else {
+        cell->ShowNothing();
+      }
+    }
+  }
+  for (std::size_t r = 0; r < header_texts_.size(); ++r) {
+    header_.show(*header_texts_[r], static_cast<quint32>(r), r < rows_.UsedEdits());
+  }
+  if (is_named_) NameCells();
+}
+
+void CellGrid::accessibilityActiveChanged(bool active) {
+  is_named_ = active;
+  if (active) NameCells();
+}
+
+void CellGrid::NameCells() {
+  // An editor that is being constructed has no elements and cannot name them yet.
+  if (rows_.Count() == 0 || cols_.Count() == 0) return;
+  const auto name = [](TextCell& text, const QString& its_name) {
+    if (text.accessibleName() != its_name) text.setAccessibleName(its_name);
+  };
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    const quint32 row = rows_.Top() + static_cast<quint32>(r);
+    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+      name(*cells_[r][c], table_.CellName(row, cols_.Top() + static_cast<quint32>(c)));
+    }
+  }
+  for (std::size_t r = 0; r < header_texts_.size(); ++r) {
+    name(*header_texts_[r], header_.name(static_cast<quint32>(r)));
+  }
+}
+
+int CellGrid::RowHeight() const {
+  constexpr int frame = 4;
+  return std::max(cell_height_, panel_.fontMetrics().height() + frame);
+}
+
+QSize CellGrid::Size() const {
+  return {header_width_ + static_cast<int>(cols_.Edits()) * cell_width_,
+          static_cast<int>(rows_.Edits()) * RowHeight()};
+}
+
+QRect CellGrid::Placed(const QRect& rectangle) const {
+  const QRect contents = panel_.contentsRect();
+  return QStyle::visualRect(panel_.layoutDirection(), contents,
+                            rectangle.translated(contents.topLeft()));
+}
+
+void CellGrid::Arrange() const {
+  const int height = RowHeight();
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    const int y = static_cast<int>(r) * height;
+    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+      const int x = header_width_ + static_cast<int>(c) * cell_width_;
+      cells_[r][c]->setGeometry(Placed({x, y, cell_width_, height}));
+    }
+  }
+  for (std::size_t r = 0; r < header_texts_.size(); ++r) {
+    const int y = static_cast<int>(r) * height;
+    header_texts_[r]->setGeometry(Placed({0, y, header_width_, height}));
+  }
+}
+
+}  // namespace qorvex::inline QorvexControls::detail

@@ -1,0 +1,59 @@
+#pragma once
+
+/// @file
+/// PanelFocus, which cell of a panel is being edited and where keys move the focus.
+
+#include "qorvex/base_controls/text_cell.h"
+#include "qorvex/controls/panel/detail/cell_grid.h"
+#include "qorvex/controls/panel/detail/panel_axis.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+/// The focus within a grid of cells. Keys move it in the grid, and at the edge of the grid they
+/// scroll the table under it.
+class PanelFocus {
+ public:
+  PanelFocus(PanelAxis& rows, PanelAxis& cols, const CellGrid& grid, CurrentRule rule);
+
+  /// The text that has been entered and not left, or a null pointer.
+  [[nodiscard]] TextCell* Entered() const noexcept { return entered_; }
+  /// @{
+  /// A cell or a text of the header has been entered or left.
+  void Enter(TextCell& text, CellPlace place, bool in_header);
+  void Leave(const TextCell& text);
+  /// @}
+  /// Commits what is being typed, or discards it if it is not a number.
+  void CommitPending();
+
+  /// Gives the focus to a cell that shows an element; others are ignored.
+  void FocusCell(std::size_t row, std::size_t col);
+  /// The same, but when the focus was last in the header, it stays in the header.
+  void Navigate(std::size_t row, std::size_t col);
+
+  /// Moves the focus one cell along an axis. A text that is not a number keeps it.
+  void Step(PanelAxis& along, PanelAxis& across, bool forward);
+
+  /// Runs a change of an axis, after which its edits from the given one on are gone or show no
+  /// element. A focus there leaves its cell before the change and goes to the last used cell
+  /// after it.
+  template <class Change>
+  void Keep(PanelAxis& axis, quint32 first_gone, Change change) {
+    const bool moves = entered_ != nullptr && axis.Window().Focus() >= first_gone;
+    if (moves) Park(axis);
+    change();
+    if (moves) Navigate(rows_.Window().Focus(), cols_.Window().Focus());
+  }
+
+ private:
+  // Leaves the cell; the focus waits on the bar.
+  void Park(const PanelAxis& axis);
+
+  PanelAxis& rows_;
+  PanelAxis& cols_;
+  const CellGrid& grid_;
+  CurrentRule rule_;
+  TextCell* entered_ = nullptr;
+  bool in_header_ = false;
+};
+
+}  // namespace qorvex::inline QorvexControls::detail

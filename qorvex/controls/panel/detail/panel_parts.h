@@ -1,0 +1,51 @@
+#pragma once
+
+/// @file
+/// The parts that a CellPanel is made of.
+
+#include <utility>
+
+#include "qorvex/controls/panel/cell_panel.h"
+#include "qorvex/controls/panel/detail/cell_grid.h"
+#include "qorvex/controls/panel/detail/change_history.h"
+#include "qorvex/controls/panel/detail/panel_axis.h"
+#include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_keys.h"
+#include "qorvex/controls/panel/detail/shared_settings.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+/// Each part knows only those before it.
+struct PanelParts {
+  PanelParts(CellPanel& panel, CurrentRule rule, EditWindowEvents row_events,
+             EditWindowEvents col_events)
+      : settings(panel, [&panel] { panel.ApplySettings(); }),
+        history(panel.table_,
+                [&panel](const std::function<void()>& run) {
+                  const CellPanel::Update update(panel);
+                  run();
+                }),
+        rows(rule, std::move(row_events)),
+        cols(rule, std::move(col_events)),
+        grid(panel, panel.table_, rows.Window(), cols.Window(),
+             {.connect = [&panel](TQorCustomEdit& cell,
+                                  CellPlace place) { panel.ConnectCell(cell, place); },
+              .drop =
+                  [this](TextCell& text) {
+                    text.removeEventFilter(&keys);
+                    focus.Leave(text);
+                  }}),
+        focus(rows, cols, grid, rule),
+        keys(panel, rows, cols, focus) {}
+
+  SharedSettings settings;
+  ChangeHistory history;
+  PanelAxis rows;
+  PanelAxis cols;
+  CellGrid grid;
+  PanelFocus focus;
+  PanelKeys keys;
+  QWidget* corner = nullptr;
+};
+
+}  // namespace qorvex::inline QorvexControls::detail
