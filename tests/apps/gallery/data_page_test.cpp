@@ -264,7 +264,7 @@ TEST_F(DataPageTest, SaysWhatIsWrongWithAFile) {
       {"size\n", "bad.csv: column 1 (size) has no values"},
       {"1,2\n3\n", "bad.csv:2: "},
       {"", "bad.csv: "},
-      {"1.5,NA\n2,3\n", "The first row was taken for names, although it contains a number"}};
+      {"1.5,NA\n2,3\n", "The first row was read as names, although it contains a number"}};
   for (const auto& [text, message] : cases) {
     Open("bad.csv", text);
     EXPECT_TRUE(Message().starts_with(message)) << Message();
