@@ -128,7 +128,8 @@ TEST_P(Battery, Agrees) {
   const testing::NamedDraw draw = testing::Variates().at(variate);
   for (const auto [a, b] : cases) {
     SCOPED_TRACE(::testing::Message() << a << ' ' << b);
-    ExpectAgreement([=](auto source) { return draw(a, b, source); }, reference(a, b), draws);
+    ExpectAgreement([draw, a = a, b = b](auto source) { return draw(a, b, source); },
+                    reference(a, b), draws);
   }
 }
 
