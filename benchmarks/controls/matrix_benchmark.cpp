@@ -1,6 +1,7 @@
-// Editors of matrices. A step through a large matrix with 20 x 20 cells in sight, beside Qt's table
-// view over a model of the same matrix; a grid of cells, beside one of Qt's line edits; and
-// commands beside the routines that they call. Nothing is seen: windows are offscreen.
+// Editors of matrices. A step through a large matrix with 20 x 20 visible cells, compared with as
+// many bare line edits and with Qt's table view over a model of the same matrix; a grid of cells,
+// compared with one of bare line edits; and commands, compared with the routines that they call.
+// Windows are offscreen.
 
 #include <QAbstractTableModel>
 #include <QApplication>
@@ -54,6 +55,36 @@ class Editor {
 
  private:
   TQorMatrixEdit widget_;
+};
+
+// The line edits alone, with the same texts.
+class Lines {
+ public:
+  explicit Lines(std::size_t order) : matrix_(OurMatrix<Extended>(order)) {
+    const QSize size(81, 21);
+    for (int cell = 0; cell < kVisible * kVisible; ++cell) {
+      auto* const line = new QLineEdit(&window_);
+      line->setGeometry(
+          QRect({cell % kVisible * size.width(), cell / kVisible * size.height()}, size));
+      line->setAlignment(Qt::AlignRight);
+      lines_.append(line);
+    }
+    window_.resize(kVisible * size);
+    window_.show();
+  }
+  void ScrollDown(std::size_t row) {
+    for (qsizetype cell = 0; cell < lines_.size(); ++cell) {
+      const auto r = row + static_cast<std::size_t>(cell / kVisible);
+      const Extended value = std::as_const(matrix_)[r][static_cast<std::size_t>(cell % kVisible)];
+      lines_[cell]->setText(QString::fromStdString(Float2EStr(value, 4)));
+    }
+  }
+  void Paint() { window_.repaint(); }
+
+ private:
+  TQorFloatMatrix matrix_;
+  QWidget window_;
+  QList<QLineEdit*> lines_;
 };
 
 class View {
@@ -145,8 +176,8 @@ void FillWithLineEdits(QWidget& window, int edits) {
   window.resize(edits * size);
 }
 
-// A command of the editor, which copies the matrix so that it can be taken back and shows the
-// result, beside the routine alone. Both change what the call before has left.
+// A command of the editor, which copies the matrix for undo and shows the result, and the routine
+// alone. Each call changes the result of the one before.
 void RegisterCommand(const std::string& what, std::size_t order, int power,
                      const std::function<void(TQorMatrixEdit& editor)>& command,
                      const std::function<void(TQorFloatMatrix& matrix)>& routine) {
@@ -177,6 +208,8 @@ const bool registered = [] {
   RegisterSteps<Editor>("ours", false);
   RegisterSteps<Editor>("ours", true);
   RegisterSteps<View>("QTableView", true);
+  RegisterStep<Lines>("step down a matrix", "QLineEdit", &Lines::ScrollDown, false);
+  RegisterStep<Lines>("step down a matrix and paint", "QLineEdit", &Lines::ScrollDown, true);
 
   RegisterGrid("ours", FillWithCells);
   RegisterGrid("QLineEdit", FillWithLineEdits);
@@ -187,7 +220,7 @@ const bool registered = [] {
   RegisterCommand(
       "command Sqr", large, 2, [](Edit& editor) { editor.Sqr(); },
       [](Matrix& matrix) { SquareMatrix(matrix); });
-  // Keeps the elements where they are, as repeated squares do.
+  // Does not let the elements grow or vanish; nor do repeated squares.
   RegisterCommand(
       "command LinearTransform", large, 2, [](Edit& editor) { editor.LinearTransform(-1, 0.5L); },
       [](Matrix& matrix) { LinearTransformMatrix(matrix, Extended{-1}, Extended{0.5L}); });

@@ -1,5 +1,5 @@
-// One step down a long column with twenty rows in sight, beside Qt's table view over a model of the
-// same vector. Nothing is seen: windows are offscreen.
+// One step down a long column with twenty visible rows, compared with Qt's table view over a model
+// of the same vector. Windows are offscreen.
 
 #include <QAbstractTableModel>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The properties that single cells, panels of cells and the shared settings have in common.
+/// The properties that single cells, panels of cells and shared settings have in common.
 
 #include <QColor>
 #include <QString>
@@ -13,8 +13,8 @@
 #include "qorvex/base_controls/edit_color_set.h"
 #include "qorvex/base_controls/unit.h"
 
-/// The colours of the owned colour set as properties of the control, since a form cannot hold the
-/// set itself.
+/// The colours of the owned colour set as properties of the control, since a form cannot store the
+/// set.
 #define QORVEX_PUBLISHED_COLORS                        \
   QORVEX_PUBLISHED(QColor, ColorSetText)               \
   QORVEX_PUBLISHED(QColor, ColorSetBackground)         \
@@ -27,8 +27,7 @@
 namespace qorvex::inline QorvexBaseControls {
 
 /// Accessors of the settings of cells, for a class that publishes them as properties. See
-/// CellSettings for what each means and what it is at first. Setting the value that is there
-/// already does nothing.
+/// CellSettings for their meaning and defaults. Setting the current value does nothing.
 class QORVEX_EXPORT CellProperties {
  public:
   CellProperties(const CellProperties&) = delete;
@@ -107,9 +106,9 @@ class QORVEX_EXPORT CellProperties {
   CellProperties();
   virtual ~CellProperties();
 
-  /// Some setting but the colours has changed.
+  /// A setting other than a colour has changed.
   virtual void SettingsChanged() = 0;
-  /// Some colour has changed.
+  /// A colour has changed.
   virtual void DoColorSetChange() = 0;
 
  private:

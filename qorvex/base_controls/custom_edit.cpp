@@ -21,7 +21,7 @@ constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
 
 TQorCustomEdit::TQorCustomEdit(QWidget* parent) : TextCell(parent) {
   QLineEdit::setAlignment(Alignment());
-  // Another text is not the one that was marked.
+  // The mark belongs to the text before.
   connect(this, &QLineEdit::textEdited, this, [this] { Mark(false); });
 }
 
@@ -44,7 +44,7 @@ void TQorCustomEdit::ShowAnew() {
 }
 
 void TQorCustomEdit::Show(Extended value, bool has_value, bool keep_pending) {
-  // Values with the same text may have different shorter ones.
+  // Values with the same text may have different shorter texts.
   if (!detail::SameElement(value, value_)) update();
   value_ = value;
   has_value_ = has_value;
@@ -168,7 +168,7 @@ void TQorCustomEdit::ApplyColors() {
 }
 
 QString TQorCustomEdit::ShorterText() const {
-  // A null shows a text of its own.
+  // A null is not shown as a number.
   if (Null()) return TextCell::ShorterText();
   const auto local = [this](std::string_view text) { return detail::LocalNumber(text, locale()); };
   return local(FittedFloatText(

@@ -18,17 +18,16 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// A text cell around an 80-bit value.
 ///
-/// Typing is free. Enter and leaving the cell commit: the text becomes the value, or, when it is
-/// no number, Enter marks it and stays, and leaving restores the value that was there. Escape
-/// restores too. A text that is back to what the cell showed is no change, so a value that was
-/// rounded for display keeps every bit until something else is typed.
+/// Any text can be typed. Enter and leaving the cell commit it: the text becomes the value. If it
+/// is not a number, Enter marks it and the focus stays, and leaving restores the value; so does
+/// Escape. Committing the text that the cell showed is not a change, so a value that was rounded
+/// for display keeps every bit until something else is typed.
 ///
-/// NaN is null: it shows as NullStr, and an empty text or NullStr commits it, where AllowKbdNull
-/// permits. Where it does not, an empty text is 0 in a cell with BlankWhenZero, and no number in
-/// others.
+/// NaN is null: it shows as NullStr, and if AllowKbdNull is set, an empty text or NullStr commits
+/// it. Otherwise an empty text is 0 in a cell with BlankWhenZero, and not a number in others.
 ///
-/// Numbers are written and read as the widget's locale has them, without separators of groups;
-/// the decimal key of the keypad types the separator of the locale.
+/// Numbers are written and read in the widget's locale, without group separators; the decimal key
+/// of the keypad types the decimal separator of the locale.
 ///
 /// A number that is wider than the cell is painted with fewer digits, or as kNoRoom: see
 /// FittedFloatText.
@@ -38,45 +37,45 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
  public:
   ~TQorCustomEdit() override;
 
-  // The line edit has members of these names for its text alone.
+  // The line edit has members of the same names, which affect its text only.
   using CellProperties::setAlignment;
   using CellProperties::setReadOnly;
 
   /// @{
-  /// The value. Setting it gives up what has been typed and raises no signal.
+  /// The value. Setting it discards what has been typed and raises no signal.
   [[nodiscard]] Extended Value() const noexcept { return value_; }
   void setValue(Extended value);
   /// @}
 
-  /// The value may have changed elsewhere: shows it, but leaves a text that is being typed alone.
+  /// Shows a value that may have changed elsewhere, but keeps a text that is being typed.
   void Refresh(Extended value);
 
-  /// Shows nothing, for a cell without a value behind it. Value() is null then.
+  /// Shows nothing, for a cell without a value. Value() is then null.
   void ShowNothing();
 
   /// @{
-  /// Whether the value is null. Setting true gives up the value; setting false makes a null 0.
+  /// Whether the value is null. Setting true discards the value; setting false turns a null into 0.
   [[nodiscard]] bool Null() const noexcept;
   void setNull(bool null);
   void resetNull() { setNull(false); }
   /// @}
 
-  /// Makes the text the value. A text that is no number is marked and stays, and the value stays
-  /// too; false then.
+  /// Makes the text the value. If it is not a number, it is marked, the value stays, and the result
+  /// is false.
   bool Commit() override;
-  /// Shows the value again.
+  /// Discards the text and shows the value.
   void Restore() override;
 
-  /// The value that a text stands for; nothing when it is none. This is what Commit goes by.
+  /// The value of a text, as Commit reads it; nothing if it is not a number.
   [[nodiscard]] std::optional<Extended> Parsed(const QString& text) const;
-  /// The text of a value with all its digits, as it is copied to other programs.
+  /// The text of a value with all its digits, for other programs.
   [[nodiscard]] QString ExactText(Extended value) const;
 
-  /// A colour for the text of this value, in place of the settings'; invalid for none.
+  /// The colour of this value's text; invalid for the colour that the settings give it.
   void SetSpecialColor(const QColor& color);
 
-  /// Stores a committed value in place of the cell and ends with Refresh; the cell then keeps its
-  /// value until that, and raises no signal. Empty by default.
+  /// Stores a committed value in place of the cell, and ends with Refresh; the cell keeps its value
+  /// until then and raises no signal. Empty by default.
   std::function<void(Extended value)> StoreElsewhere;
 
  Q_SIGNALS:
@@ -84,7 +83,7 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   void Changed();
   /// A commit has made the value null; Changed follows.
   void OnNull();
-  /// A text of more than one cell is to be pasted here.
+  /// A text of several cells is to be pasted here.
   void BlockPasted(const QString& text);
 
  protected:
@@ -93,16 +92,16 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
 
   /// The text of a value that is not null, as the cell shows it.
   [[nodiscard]] virtual QString TextOf(Extended value) const = 0;
-  /// The digits of a value whose text has no room, before any are given up.
+  /// The digits of a value whose text does not fit, before it is shortened.
   [[nodiscard]] virtual FloatDigits Digits() const = 0;
-  /// The value of a text that is not blank; nothing when it is none.
+  /// The value of a text that is not blank; nothing if it is not a number.
   [[nodiscard]] virtual std::optional<Extended> ValueOf(const QString& text) const = 0;
-  /// A text of several cells goes to the owner, another one into the text.
+  /// A text of several cells goes to the owner, any other one into the cell.
   void Paste(const QString& text) override;
   [[nodiscard]] QString ShorterText() const override;
-  /// What is wrong with a text that is marked.
+  /// Explains a marked text.
   [[nodiscard]] QString Tip() const override;
-  /// What decides the text has changed: shows the value anew.
+  /// Shows the value again after a change of what determines its text.
   void ShowAnew();
 
   /// @{

@@ -78,7 +78,7 @@ void TQorCustomLabel::setFocusControl(const QString& object_name) {
 QString TQorCustomLabel::AccessibleText() const {
   QString text = DisplayText();
   if (!ShowAccelChar()) return text;
-  // The character after a mark stays, whatever it is.
+  // Keep the character after a mark, even another ampersand.
   for (qsizetype i = 0; (i = text.indexOf(u'&', i)) >= 0; ++i) text.remove(i, 1);
   return text;
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Unit QorvexBaseControls: TQorCustomLabel, the label that others are made from.
+/// Unit QorvexBaseControls: TQorCustomLabel, the base of labels.
 
 #include <QColor>
 #include <QList>
@@ -15,12 +15,12 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// A label of plain text whose drawing a derived class can replace.
+/// A label for plain text. Derived classes can override how it is drawn.
 ///
-/// Its colours come from the palette: the foreground role's colour, which is the grey one while
-/// the label is disabled, and for embossed text Light and Dark. In right-to-left layouts leading
-/// text stands at the right. Screen readers get AccessibleText, unless the widget's accessible
-/// name is set. The setters may be called in any order.
+/// Its colours come from the palette: that of the foreground role, which is grey while the label is
+/// disabled, and Light and Dark for embossed text. In right-to-left layouts leading text is at the
+/// right. Screen readers get AccessibleText, unless the widget has an accessible name. The setters
+/// may be called in any order.
 class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   Q_OBJECT
   /// @{
@@ -38,15 +38,15 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   /// @}
 
  public:
-  /// Where the lines of a text stand.
+  /// The alignment of the lines of a text.
   enum TQorLabelAlignment {
-    laLeading,   ///< At the left, or at the right in right-to-left layouts.
-    laTrailing,  ///< On the other side.
-    laCentered   ///< In the middle.
+    laLeading,   ///< Left, or right in right-to-left layouts.
+    laTrailing,  ///< The opposite side.
+    laCentered   ///< Centred.
   };
   Q_ENUM(TQorLabelAlignment)
 
-  /// Where a text stands that is lower than its label.
+  /// The vertical position of a text that is lower than its label.
   enum TQorLabelLayout {
     llTop,       ///< At the top.
     llCentered,  ///< In the middle.
@@ -54,11 +54,11 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   };
   Q_ENUM(TQorLabelLayout)
 
-  /// How a text stands out from its ground.
+  /// The embossing of a text.
   enum TQorEmbossedStyle {
-    esNone,    ///< It does not.
-    esRaised,  ///< Above it, with a shadow at the lower right.
-    esLowered  ///< Cut into it, with light on the lower right edges.
+    esNone,    ///< Flat.
+    esRaised,  ///< Raised, with a shadow at the lower right.
+    esLowered  ///< Lowered, with light on the lower right edges.
   };
   Q_ENUM(TQorEmbossedStyle)
 
@@ -67,17 +67,17 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   ~TQorCustomLabel() override;
 
   /// @{
-  /// Where the lines stand; laLeading at first.
+  /// The alignment of the lines; laLeading by default.
   [[nodiscard]] TQorLabelAlignment Alignment() const noexcept { return settings_.alignment; }
   void setAlignment(TQorLabelAlignment alignment) { Assign(settings_.alignment, alignment); }
   void resetAlignment() { setAlignment(Settings().alignment); }
   /// @}
 
   /// @{
-  /// The label takes the size of its text once it is polished, which is before it is shown, and
-  /// whenever the text changes: true at first. The edge at which the text is aligned, or the
-  /// middle, and the top stay. With WordWrap the width stays too and the height follows it. A
-  /// label in a layout has the size that the layout gives it.
+  /// Whether the label takes the size of its text when it is polished, which is before it is shown,
+  /// and whenever the text changes; true by default. The top, and the edge or middle to which the
+  /// text is aligned, stay where they are. With WordWrap the width is kept and the height follows
+  /// it. In a layout, the layout determines the size.
   [[nodiscard]] bool AutoSize() const noexcept { return settings_.auto_size; }
   void setAutoSize(bool auto_size) { Assign(settings_.auto_size, auto_size); }
   void resetAutoSize() { setAutoSize(Settings().auto_size); }
@@ -91,7 +91,7 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   /// @}
 
   /// @{
-  /// How the text stands out; esNone at first.
+  /// The embossing; esNone by default.
   [[nodiscard]] TQorEmbossedStyle EmbossedStyle() const noexcept {
     return settings_.embossed_style;
   }
@@ -100,9 +100,9 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   /// @}
 
   /// @{
-  /// The widget that the accelerator focuses; none at first. It may be named, as forms do, before
-  /// it exists: when it is needed, the nearest ancestor in its window that has a child of the name
-  /// decides.
+  /// The widget that the accelerator focuses; none by default. Forms name it, possibly before it
+  /// exists: it is looked up when needed, in the nearest ancestor in the window that has a child of
+  /// that name.
   [[nodiscard]] QWidget* FocusControl() const;
   [[nodiscard]] QString FocusControlName() const;
   void setFocusControl(QWidget* control);
@@ -111,39 +111,39 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   /// @}
 
   /// @{
-  /// Where the text stands from top to bottom; llCentered at first.
+  /// The vertical position of the text; llCentered by default.
   [[nodiscard]] TQorLabelLayout Layout() const noexcept { return settings_.layout; }
   void setLayout(TQorLabelLayout layout) { Assign(settings_.layout, layout); }
   void resetLayout() { setLayout(Settings().layout); }
   /// @}
-  // The other one would be hidden.
+  // Otherwise it would be hidden.
   using QWidget::setLayout;
 
   /// @{
-  /// An ampersand underlines the character after it and makes Alt and that character focus
-  /// FocusControl; two of them are one. True at first. False: ampersands are characters like any
-  /// other.
+  /// If true, the default, an ampersand underlines the character after it, Alt and that character
+  /// focus FocusControl, and two ampersands stand for one. If false, ampersands are ordinary
+  /// characters.
   [[nodiscard]] bool ShowAccelChar() const noexcept { return settings_.show_accel_char; }
   void setShowAccelChar(bool show);
   void resetShowAccelChar() { setShowAccelChar(Settings().show_accel_char); }
   /// @}
 
   /// @{
-  /// What is behind the label shows between its characters: true at first. False: it is filled
-  /// with the colour of its background role. The opposite of the widget's autoFillBackground.
+  /// Whether the background shows through, which is the default, or the label is filled with the
+  /// colour of its background role: the opposite of the widget's autoFillBackground.
   [[nodiscard]] bool Transparent() const { return !autoFillBackground(); }
   void setTransparent(bool transparent) { setAutoFillBackground(!transparent); }
   void resetTransparent() { setTransparent(true); }
   /// @}
 
   /// @{
-  /// Lines that are too wide are broken between words; false at first.
+  /// Whether lines that are too wide are broken between words; false by default.
   [[nodiscard]] bool WordWrap() const noexcept { return settings_.word_wrap; }
   void setWordWrap(bool wrap);
   void resetWordWrap() { setWordWrap(Settings().word_wrap); }
   /// @}
 
-  /// The caption as it reads, without the marks of accelerators.
+  /// The displayed caption without the marks of accelerators.
   [[nodiscard]] QString AccessibleText() const;
 
   /// The size of the text. With WordWrap lines end at about 60 characters.
@@ -157,34 +157,34 @@ class QORVEX_EXPORT TQorCustomLabel : public QWidget {
   /// @}
 
  protected:
-  /// A flag for DoDrawLabel beside those of Qt: draw nothing, find the size.
+  /// A flag for DoDrawLabel in addition to Qt's: only measure the text.
   static constexpr int kMeasureOnly = 1 << 30;
 
-  /// One of the copies of a text that are drawn above one another.
+  /// One of the copies of an embossed text.
   struct TextLayer {
     int offset = 0;  ///< Right and down.
     QColor color;    ///< The pen's.
   };
 
-  /// Draws the caption, or finds its size, in a rectangle. The flags are Qt::AlignLeft,
-  /// AlignRight or AlignHCenter, and Qt::TextWordWrap; AddAccelerator adds what says how
-  /// ampersands are drawn. Text begins at the top. Nothing is clipped. With kMeasureOnly the
-  /// painter may be inactive, and the rectangle gets the size of the text instead.
+  /// Draws the caption in a rectangle, from its top, without clipping. The flags are Qt::AlignLeft,
+  /// AlignRight or AlignHCenter, and Qt::TextWordWrap; AddAccelerator adds the one for ampersands.
+  /// With kMeasureOnly the painter may be inactive, and the rectangle gets the size of the text
+  /// instead.
   virtual void DoDrawLabel(QPainter& painter, QRect& rectangle, int flags) const;
 
-  /// The caption as it reads, with the marks of accelerators.
+  /// The displayed caption with the marks of accelerators.
   [[nodiscard]] virtual QString DisplayText() const { return Caption(); }
 
-  /// The flags and Qt::TextShowMnemonic where accelerators are underlined, Qt::TextHideMnemonic
-  /// where the style does not want that, neither where ampersands are characters.
+  /// Adds Qt::TextShowMnemonic if accelerators are underlined, Qt::TextHideMnemonic if the style
+  /// does not underline them, and nothing if ampersands are ordinary characters.
   [[nodiscard]] int AddAccelerator(int flags) const;
-  /// The text to draw or measure: a space is measured in place of one that shows nothing, so that
-  /// a label keeps its height.
+  /// The text to draw or measure. A space is measured in place of an empty text, so that the label
+  /// keeps its height.
   [[nodiscard]] QString TextFor(const QString& text, int flags) const;
-  /// The copies that make a text of EmbossedStyle, the lowest first.
+  /// The copies of a text in EmbossedStyle, the lowest first.
   [[nodiscard]] QList<TextLayer> TextLayers() const;
 
-  /// To be called after a change of what DoDrawLabel measures.
+  /// Call after a change that affects the size of the text.
   void TextSizeChanged();
 
   /// @{

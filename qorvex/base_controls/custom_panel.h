@@ -10,8 +10,8 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// A panel whose display can be held back while many changes are made, and that learns when a
-/// form has given it its properties. The frame around it is QFrame's, none at first.
+/// A panel whose display can be suspended while many changes are made, and that is notified when a
+/// form has set its properties. The frame is QFrame's, none by default.
 class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   Q_OBJECT
 
@@ -21,15 +21,14 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   ~TQorCustomPanel() override;
 
   /// @{
-  /// Until the EndUpdate that belongs to it, the panel shows what it showed before. Brackets
-  /// nest; an EndUpdate without its BeginUpdate does nothing. What the panel holds changes at
-  /// once all the same, and so do its events.
+  /// Suspend and resume the display. Pairs nest; an EndUpdate without its BeginUpdate does nothing.
+  /// Only the display waits: data and events do not.
   void BeginUpdate() noexcept { ++updates_; }
   void EndUpdate();
   [[nodiscard]] bool Updating() const noexcept { return updates_ > 0; }
   /// @}
 
-  /// Brackets an update for as long as it lives, whatever is raised meanwhile.
+  /// Suspends the display during its lifetime.
   class [[nodiscard]] Update {
    public:
     /// Begins the update.
@@ -43,14 +42,14 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
     TQorCustomPanel& panel_;
   };
 
-  /// Shows everything anew, unless an update is under way.
+  /// Shows everything again, unless an update is in progress.
   virtual void Redisplay() = 0;
 
  protected:
   /// The panel has its properties: it is shown for the first time, or the event loop has started.
-  /// Qt has no other sign of it. Called once.
+  /// Called once. Qt has no other notification for it.
   virtual void Loaded() = 0;
-  /// Whether that has been.
+  /// Whether Loaded has been called.
   [[nodiscard]] bool IsLoaded() const noexcept { return loaded_; }
 
   /// Qt's events.

@@ -12,9 +12,9 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// The colours of cells as an object that tells when one changes. EditColors says what each is
-/// for and what an invalid colour stands for. A control owns its colour set; forms reach the
-/// colours through the control's properties ColorSetText, ColorSetBackground and so on.
+/// The colours of cells as an object with a signal. See EditColors for their meaning and for
+/// invalid colours. A control owns its colour set; forms reach the colours through the control's
+/// properties ColorSetText, ColorSetBackground and so on.
 class QORVEX_EXPORT TQorEditColorSet : public QObject {
   Q_OBJECT
   /// @{
@@ -66,7 +66,7 @@ class QORVEX_EXPORT TQorEditColorSet : public QObject {
 #undef QORVEX_COLOR
 
  Q_SIGNALS:
-  /// A colour is another one now.
+  /// A colour has changed.
   void Changed();
 
  private:

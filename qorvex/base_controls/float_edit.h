@@ -10,12 +10,11 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// Turns the text of a cell into a value; nothing when the text is none. The text is not blank
-/// and has no blanks around it.
+/// Reads the text of a cell; nothing if it is not a number. The text is trimmed and not empty.
 using TQorConvertEvent = std::function<std::optional<Extended>(const QString& text)>;
 
 /// A cell that shows its value with DecimalPlaces decimals, correctly rounded, or with all digits
-/// where FullAccuracy is set. From 2^63 on, where a value has no decimals, all digits show in
+/// if FullAccuracy is set. Values from 2^63 on have no decimals and are shown with all digits in
 /// scientific notation.
 class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
   Q_OBJECT

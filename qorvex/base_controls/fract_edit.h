@@ -11,9 +11,9 @@
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// A cell that shows its value as a fraction which agrees with it to DecimalsFract decimals, and
-/// takes fractions ("2 1/3", "-7/5") as well as decimal numbers. The value is a float all the
-/// same: a fraction that is typed is rounded to 80 bits once. A fraction that is wider than the
-/// cell is painted as a decimal number of DecimalsFract decimals, as far as these have room.
+/// takes fractions ("2 1/3", "-7/5") as well as decimal numbers. The value is still a float: a
+/// typed fraction is rounded to 80 bits once. A fraction that is wider than the cell is painted as
+/// a decimal number with up to DecimalsFract decimals.
 class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
   Q_OBJECT
   /// @{
@@ -33,7 +33,7 @@ class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
   /// @}
 
  public:
-  /// TQorFractionDisplay as a form knows it.
+  /// TQorFractionDisplay for forms.
   enum FractionDisplayMode {
     fdMixed = qorvex::fdMixed,       ///< "2 1/3"
     fdImproper = qorvex::fdImproper  ///< "7/3"
@@ -47,15 +47,15 @@ class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
   ~TQorFractEdit() override;
 
   /// @{
-  /// How a fraction is shown; mixed at first.
+  /// How fractions are shown; mixed by default.
   [[nodiscard]] FractionDisplayMode FractionDisplay() const noexcept { return display_; }
   void setFractionDisplay(FractionDisplayMode display);
   void resetFractionDisplay() { setFractionDisplay(fdMixed); }
   /// @}
 
   /// @{
-  /// The decimals to which the fraction agrees with the value, clamped to 0 to 255; 9 at first.
-  /// From 18 on the fraction has all the accuracy that there is.
+  /// The decimals to which the fraction agrees with the value, clamped to 0 to 255; 9 by default.
+  /// From 18 on the fraction has full accuracy.
   [[nodiscard]] int DecimalsFract() const noexcept { return decimals_; }
   void setDecimalsFract(int decimals);
   void resetDecimalsFract() { setDecimalsFract(kDefaultDecimals); }

@@ -24,7 +24,7 @@ namespace qorvex::inline QorvexBaseControls {
 
 namespace {
 
-// What the line edit leaves free around its text.
+// The margins of a line edit around its text.
 constexpr int kMarginAtSide = 2;
 constexpr int kMarginAbove = 1;
 
@@ -35,7 +35,7 @@ QTextLine LineOf(QTextLayout& layout) {
   return line;
 }
 
-// The pixels that the line edit counts for a text, and those that it has.
+// The width of a text and the available width, as the line edit counts them.
 int WidthOf(const QTextLine& line) {
   return qRound(line.naturalTextWidth()) + 1;
 }
@@ -60,7 +60,7 @@ void TextCell::ShowText(const QString& text, bool keep_pending) {
 }
 
 void TextCell::Restore() {
-  // Setting the same text would give up the selection.
+  // Setting the same text would lose the selection.
   if (text() != shown_) {
     setText(shown_);
     if (inside_ && behaviour_.auto_select) selectAll();
@@ -83,7 +83,7 @@ void TextCell::Leave() {
 }
 
 bool TextCell::IsEdited() const {
-  // A text that is not the cell's own has been typed, or set by the program.
+  // Another text has been typed or set by the program.
   if (text() != shown_) return true;
   const bool partly_selected = hasSelectedText() && selectedText() != text();
   return partly_selected || (hasFocus() && !isReadOnly());
@@ -134,7 +134,7 @@ void TextCell::paintEvent(QPaintEvent* event) {
   initStyleOption(&frame);
   style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
 
-  // The shorter text stands where the line edit would have it, whose direction is the text's.
+  // The shorter text is placed where the line edit would place it, in the direction of the text.
   QTextLayout layout(painted, font(), this);
   const QTextLine line = LineOf(layout);
   const QFontMetrics metrics = fontMetrics();
@@ -205,7 +205,7 @@ void TextCell::focusOutEvent(QFocusEvent* event) {
 void TextCell::keyPressEvent(QKeyEvent* event) {
   switch (event->key()) {
     case Qt::Key_Escape:
-      // Without anything to give up, the key is a dialog's.
+      // With nothing to discard, the key is for the dialog.
       if (!Pending()) break;
       Restore();
       return;
@@ -232,7 +232,7 @@ void TextCell::mouseReleaseEvent(QMouseEvent* event) {
   }
   QLineEdit::mouseReleaseEvent(event);
   if (event->button() != Qt::LeftButton) return;
-  // A selection that was drawn with the mouse stays, and a second click places the cursor.
+  // A selection by dragging stays, and a second click places the cursor.
   const bool entered = std::exchange(entered_by_mouse_, false);
   if (entered && behaviour_.auto_select_click && !hasSelectedText()) selectAll();
 }
@@ -242,7 +242,7 @@ void TextCell::dragEnterEvent(QDragEnterEvent* event) {
 }
 
 void TextCell::dragMoveEvent(QDragMoveEvent* event) {
-  // Files and links, which have a text as well, are for what is around the cell.
+  // Files and links, which have a text as well, are for the parent.
   if (event->mimeData()->hasUrls()) {
     event->ignore();
   } else {
@@ -251,8 +251,7 @@ void TextCell::dragMoveEvent(QDragMoveEvent* event) {
 }
 
 void TextCell::dropEvent(QDropEvent* event) {
-  // What is dropped takes the place of what the cell showed, and is committed when the cell is
-  // left.
+  // The dropped text replaces the text of the cell, and is committed when the cell is left.
   setFocus(Qt::OtherFocusReason);
   selectAll();
   PasteFrom(event->mimeData());
@@ -270,8 +269,8 @@ void TextCell::Paste(const QString& text) {
 
 QMenu* TextCell::CreateContextMenu() {
   QMenu* menu = createStandardContextMenu();
-  // The line edit would paste tabs and line ends into the text. Its action has no name but its
-  // text, which Qt translates.
+  // The line edit would paste tabs and line ends into the text. Its action can only be identified
+  // by its text, which Qt translates.
   constexpr const char* text_of_paste = "&Paste";
   const QString paste = QLineEdit::tr(text_of_paste);
   for (QAction* action : menu->actions()) {

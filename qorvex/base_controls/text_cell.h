@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// TextCell, a line edit as one of many cells: what is typed into it counts once it is committed.
+/// TextCell, a line edit for a cell whose text takes effect when it is committed.
 
 #include <QLineEdit>
 #include <QMenu>
@@ -15,34 +15,32 @@ class QMimeData;
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// A line edit that knows what it shows while nothing is typed, and that tells when the focus comes
-/// from another widget and when it has gone to one. A menu that opens or a window that becomes
-/// inactive is neither; the latter commits. What is pasted or dropped goes through Paste, by
-/// whatever way it comes. Files and links are not taken, so that they can be dropped on what is
-/// around the cell.
+/// A line edit that keeps the text that it shows while nothing is being typed, and signals when the
+/// focus comes from or goes to another widget. Opening a menu or deactivating the window does not
+/// count as leaving; the latter commits. All pasted and dropped text goes through Paste. Files and
+/// links are ignored, so that they can be dropped on the parent.
 ///
-/// A text that is wider than the cell is not painted in part, which could be read as another one,
-/// but in a shorter form, unless it is being edited; a tool tip shows it whole. text() is the whole
-/// text at all times.
+/// A text that is wider than the cell is painted in a shorter form, never cut off, which could be
+/// misread, unless it is being edited; a tool tip shows all of it. text() is always the whole text.
 class QORVEX_EXPORT TextCell : public QLineEdit {
   Q_OBJECT
 
  public:
   ~TextCell() override;
 
-  /// Something has been typed that is neither committed nor what the cell showed.
+  /// Whether a text has been typed that is not committed and differs from the one shown before.
   [[nodiscard]] bool Pending() const;
-  /// Makes the text that is typed count. False when it cannot; the text stays then.
+  /// Commits the typed text. False if that is not possible; the text then stays.
   virtual bool Commit() = 0;
-  /// Gives up what is typed.
+  /// Discards the typed text.
   virtual void Restore();
-  /// Commits, or restores where that fails.
+  /// Commits, or restores if that fails.
   void CommitOrRestore();
-  /// Leaves the cell as a change of the focus does: CommitOrRestore, then Left. Nothing happens
-  /// when the cell has not been entered.
+  /// Leaves the cell like a change of focus: CommitOrRestore, then Left. Does nothing if the cell
+  /// has not been entered.
   void Leave();
 
-  /// What is painted: the text where it has room or is being edited, its shorter form elsewhere. A
+  /// The painted text: the whole text if it fits or is being edited, otherwise its shorter form. A
   /// text is being edited while it has the focus, unless it is read-only, and while a part of it is
   /// selected.
   [[nodiscard]] QString PaintedText() const;
@@ -50,16 +48,16 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// The menu that a click on the cell opens; the caller owns it.
   [[nodiscard]] QMenu* CreateContextMenu();
 
-  /// What gets selected on entry. A cell with auto_select selects a text that takes the place of
-  /// another while the focus is there, too.
+  /// When the whole text gets selected. With auto_select this includes a text that replaces another
+  /// one while the cell has the focus.
   void SetSelectionBehaviour(const SelectionBehaviour& behaviour) { behaviour_ = behaviour; }
 
  Q_SIGNALS:
-  /// The focus has come in from another widget.
+  /// The focus has come from another widget.
   void Entered();
   /// The focus has gone to another widget, and the text is committed or restored.
   void Left();
-  /// CommitOrRestore has given up this text.
+  /// CommitOrRestore has discarded this text.
   void Refused(const QString& text);
   /// A menu is about to open; the owner may add to it.
   void MenuOpening(QMenu* menu);
@@ -68,17 +66,17 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// An empty cell.
   explicit TextCell(QWidget* parent = nullptr);
 
-  /// Shows the text; one that is being typed can be kept over it.
+  /// Shows the text, or keeps a text that is being typed.
   void ShowText(const QString& text, bool keep_pending);
-  /// Takes a text that is pasted or dropped. This one takes what stands in front of the first tab
-  /// or line end, without the blanks around it.
+  /// Inserts a pasted or dropped text: by default the part before the first tab or line end,
+  /// trimmed.
   virtual void Paste(const QString& text);
-  /// What is painted in place of the text that the cell shows, which has no room. This one is the
-  /// front of it with an ellipsis.
+  /// The text that is painted if the shown text does not fit: by default its beginning with an
+  /// ellipsis.
   [[nodiscard]] virtual QString ShorterText() const;
-  /// Whether a text can be painted in full width.
+  /// Whether a text fits.
   [[nodiscard]] bool HasRoom(const QString& text) const;
-  /// What a tool tip shows: the text, where it has no room; empty for no tip.
+  /// The text of the tool tip: the whole text if it does not fit; empty for no tip.
   [[nodiscard]] virtual QString Tip() const;
   /// Between Entered and Left.
   [[nodiscard]] bool Inside() const noexcept { return inside_; }

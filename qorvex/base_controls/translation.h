@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The texts of the widgets in other languages.
+/// Translations of the texts of the widgets.
 
 #include <QLocale>
 
@@ -9,12 +9,12 @@
 
 namespace qorvex::inline QorvexBaseControls {
 
-/// Makes the widgets speak the language of the locale, besides English, in which they are written:
-/// German so far. The translations are part of the library. True when there is one for the locale;
-/// the application keeps it then, and widgets that are there already change their texts.
+/// Installs the translation of the widgets' English texts for a locale; there is one for German.
+/// The translations are part of the library. True if there is one for the locale; existing widgets
+/// then change their texts.
 ///
-/// Needs a QCoreApplication, and is called on its thread. Qt's own texts, those of the context menu
-/// among them, have translations of their own.
+/// Requires a QCoreApplication, and must be called on its thread. Qt's own texts, for example in
+/// the context menu, have their own translations.
 QORVEX_EXPORT bool InstallTranslation(const QLocale& locale = QLocale());
 
 }  // namespace qorvex::inline QorvexBaseControls

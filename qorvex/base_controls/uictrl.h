@@ -25,9 +25,9 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// The settings of cells for any number of controls. A control that is linked to it takes from
-/// here what its property UIUsage names, and keeps its own settings for the rest and for the time
-/// after this object is gone.
+/// The settings of cells for any number of controls. A control that is linked to it uses the
+/// settings that its property UIUsage names, and its own settings for the others and after this
+/// object is deleted.
 class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   Q_OBJECT
   /// @{
@@ -36,7 +36,7 @@ class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   /// @}
 
  public:
-  /// What a control takes from the shared settings.
+  /// Groups of shared settings.
   enum TQorUIUsageTypes {
     uuColors = 1,        ///< EditColors.
     uuNumberFormat = 2,  ///< NumberFormat.
@@ -51,12 +51,11 @@ class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   explicit TQorUICtrl(QObject* owner = nullptr);
   ~TQorUICtrl() override;
 
-  /// The settings of a control whose own ones are given, when it takes what usage names from
-  /// here.
+  /// The given settings of a control with those that usage names replaced by the shared ones.
   [[nodiscard]] CellSettings Merged(CellSettings own, TQorUIUsage usage) const;
 
  Q_SIGNALS:
-  /// A setting is another one now.
+  /// A setting has changed.
   void Changed();
 
  private:

@@ -3,8 +3,8 @@
 /// @file
 /// How a unit of widgets opens its namespace: QORVEX_WIDGET_UNIT(QorvexVectorEdit) {.
 
-/// A form names a widget by what moc records of it. Forms are to say qorvex::TQorVectorEdit, as
-/// programs do, so moc does not see the inline namespace of the unit.
+/// A form names a widget by what moc records of it. moc does not see the inline namespace of the
+/// unit, so that forms name qorvex::TQorVectorEdit as programs do.
 #ifdef Q_MOC_RUN
 #define QORVEX_WIDGET_UNIT(unit) namespace qorvex
 #else

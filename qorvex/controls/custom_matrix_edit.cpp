@@ -80,7 +80,7 @@ void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
 
 void TQorCustomMatrixEdit::ResizeCols(quint32 cols) {
   SetCount(Parts().cols, cols);
-  // Handlers that ran on the way could read the elements that are going.
+  // After the handlers, which may still read the elements that go.
   if (!VirtualMode()) TrimStore();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// TQorCustomMatrixEdit, what the editors of matrices have in common.
+/// TQorCustomMatrixEdit, the base of the editors of matrices.
 
 #include <QColor>
 #include <functional>
@@ -11,7 +11,7 @@
 #include "qorvex/base_controls/unit.h"
 #include "qorvex/controls/panel/cell_panel.h"
 
-/// What both editors of matrices publish, in this order.
+/// The properties of both editors of matrices, in their order.
 #define QORVEX_PUBLISHED_MATRIX_EDIT                                                            \
   Q_PROPERTY(QString UICtrl READ UICtrlName WRITE setUICtrl RESET resetUICtrl)                  \
   Q_PROPERTY(                                                                                   \
@@ -43,10 +43,9 @@
 QORVEX_WIDGET_UNIT(QorvexMatrixEdit) {
 
 /// @{
-/// Handlers of the events of an element: an element that changed, a text that is typed, a request
-/// for an element's value, a value that is to be kept elsewhere, and a request for the colour of an
-/// element's text, which comes with the one that it would have. Requests are members of the
-/// control, the rest are signals with these parameters.
+/// Handlers of events: a changed element, a text that is being typed, a request for an element, an
+/// element to store, and a request for the colour of an element's text, which holds the usual
+/// colour. Requests are members of the control, the others are signals with these parameters.
 using TQorMatrixChangeEvent = std::function<void(quint32 row, quint32 col)>;
 using TQorMatrixChangeTextEvent =
     std::function<void(quint32 row, quint32 col, const QString& text)>;
@@ -56,17 +55,17 @@ using TQorSpecialColorEvent =
     std::function<void(quint32 row, quint32 col, Extended value, QColor& color)>;
 /// @}
 
-/// A grid of cells that shows and edits a matrix of any size; CellPanel says how. Ctrl+Left and
-/// Ctrl+Right go along a row as Ctrl+Up and Ctrl+Down go along a column; at the end of the matrix
-/// they go on in the next row or column.
+/// A grid of cells that shows and edits a matrix of any size. See CellPanel for keys, pasting and
+/// undo. Ctrl+Left and Ctrl+Right move along a row as Ctrl+Up and Ctrl+Down move along a column; at
+/// the end of a row or column they continue in the next one.
 ///
-/// The matrix is kept here, or in virtual mode elsewhere: then OnGetElement gives each element that
-/// is to be shown (its position by rows where it is empty), OnSetElement tells of each one that was
-/// changed, and commands on the whole matrix only redisplay.
+/// The matrix is stored here. In virtual mode the program stores it: OnGetElement supplies each
+/// element that is shown (its row-major position if it is empty), OnSetElement passes on each one
+/// that the user changes, and commands on the whole matrix only redisplay.
 ///
-/// A NaN in the matrix is null. What the user types, pastes or takes back raises OnChange; what the
-/// program sets does not. The current row and column are those of the cell that was entered last,
-/// until another one is entered or asked for: scrolling leaves them.
+/// A NaN in the matrix is null. OnChange is raised when the user types, pastes or undoes, not when
+/// the program sets elements. The current row and column are those of the cell that was entered
+/// last; scrolling does not change them.
 class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable {
   Q_OBJECT
 
@@ -74,14 +73,14 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   ~TQorCustomMatrixEdit() override;
 
   /// @{
-  /// The column that the first cells show, 0 at first; see DisplayTopRow.
+  /// The column that the first cells show, 0 by default; see DisplayTopRow.
   [[nodiscard]] quint32 DisplayLeftCol() const noexcept;
   void setDisplayLeftCol(quint32 col);
   void resetDisplayLeftCol() { setDisplayLeftCol(0); }
   /// @}
 
   /// @{
-  /// The number of cells in a row and in a column, 3 and 4 at first, clamped to 0 to 255.
+  /// The number of cells in a row and in a column, 3 and 4 by default, clamped to 0 to 255.
   [[nodiscard]] int NoOfColEdits() const noexcept;
   void setNoOfColEdits(int edits);
   void resetNoOfColEdits() { setNoOfColEdits(kDefaultColEdits); }
@@ -91,8 +90,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// @}
 
   /// @{
-  /// The size of the matrix, 0 by 0 at first. New elements are 0. Raises OnNoColsChange or
-  /// OnNoRowsChange. Memory for new elements is taken when one is set. O(rows).
+  /// The size of the matrix, 0 by 0 by default. New elements are 0; their memory is allocated when
+  /// one of them is set. Raises OnNoColsChange or OnNoRowsChange. O(rows).
   [[nodiscard]] quint32 NoOfCols() const noexcept;
   void setNoOfCols(quint32 cols);
   void resetNoOfCols() { setNoOfCols(0); }
@@ -102,16 +101,16 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// @}
 
   /// @{
-  /// The whole matrix, as a copy with buffers of its own. Setting copies as well, and sets the
-  /// numbers of rows and columns; in virtual mode each element goes through the events. EMathError
-  /// with rsMatrixRect for rows of different lengths. O(elements).
+  /// The whole matrix, as a copy that shares no memory with the control. Setting copies too, and
+  /// sets the numbers of rows and columns; in virtual mode each element goes through the events.
+  /// EMathError with rsMatrixRect for rows of different lengths. O(elements).
   [[nodiscard]] TQorFloatMatrix Matrix() const;
   void setMatrix(const TQorFloatMatrix& matrix);
   /// @}
 
   /// @{
-  /// One element. EMathError: rsMatrixIsEmpty, then rsInvalidRow, then rsInvalidCol when there is
-  /// no such element. A text that is being typed stays, whichever element is set.
+  /// One element. EMathError: rsMatrixIsEmpty, then rsInvalidRow, then rsInvalidCol if there is no
+  /// such element. Setting an element does not affect a text that is being typed.
   [[nodiscard]] Extended Element(quint32 row, quint32 col) const;
   void setElement(quint32 row, quint32 col, Extended value);
   /// @}
@@ -123,8 +122,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// @}
 
   /// @{
-  /// The row and the column of cells that have the focus, or had it last, counted from 0. Setting
-  /// gives the focus to a cell that shows an element; others are ignored.
+  /// The row and the column, in the grid, of the cell that has the focus, or had it last. Setting
+  /// them gives the focus to a cell that shows an element; others are ignored.
   [[nodiscard]] quint32 RowEditFocus() const noexcept;
   void setRowEditFocus(quint32 edit);
   [[nodiscard]] quint32 ColEditFocus() const noexcept;
@@ -140,11 +139,11 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// @}
 
   /// @{
-  /// The routine of matrices of the same effect, on the whole matrix: see SwapMatrixRows,
-  /// SwapMatrixCols, LinearTransformMatrix, SquareMatrix, SqrtMatrix, InvMatrix (reciprocals of the
-  /// elements), LnMatrix, Log10Matrix, TransposeMatrix, RowEchelonForm, ScaleMatrixRow,
-  /// ScaleMatrixCol, AddMatrixRows and AddMatrixCols. What they raise reaches the caller. Each can
-  /// be taken back, for which it keeps a copy of the matrix. In virtual mode they only redisplay.
+  /// Apply a routine to the whole matrix: SwapMatrixRows, SwapMatrixCols, LinearTransformMatrix,
+  /// SquareMatrix, SqrtMatrix, InvMatrix (reciprocals of the elements), LnMatrix, Log10Matrix,
+  /// TransposeMatrix, RowEchelonForm, ScaleMatrixRow, ScaleMatrixCol, AddMatrixRows and
+  /// AddMatrixCols. Their errors reach the caller. Each command keeps a copy of the matrix so that
+  /// it can be undone. In virtual mode they only redisplay.
   void SwapRows(quint32 first, quint32 second);
   void SwapColumns(quint32 first, quint32 second);
   void LinearTransform(Extended slope, Extended intercept);
@@ -161,15 +160,15 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void AddCols(quint32 target, quint32 source, Extended factor);
   /// @}
   /// The inverse matrix, by MatrixInverse. EMathError with rsNoInvert for a singular matrix and for
-  /// one with a null, which stay as they are. In virtual mode it only redisplays.
+  /// one with a null, which are left unchanged. In virtual mode it only redisplays.
   void Inverse();
 
-  /// What a click on the button in the corner does: OnCornerBtnClick.
+  /// Raises OnCornerBtnClick, like a click on the button in the corner.
   void CornerClick();
 
-  /// Gives the elements in virtual mode; may be called at any time.
+  /// Supplies the elements in virtual mode; may be called at any time.
   TQorGetMatrixElementEvent OnGetElement;
-  /// Gives the colours of texts, at every redisplay; empty for none.
+  /// Supplies the colours of texts at every redisplay; empty by default.
   TQorSpecialColorEvent OnSpecialColor;
 
  Q_SIGNALS:
@@ -179,12 +178,12 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void OnChangeText(quint32 row, quint32 col, const QString& text);
   /// The user has made the element null; OnChange follows.
   void OnNull(quint32 row, quint32 col);
-  /// In virtual mode: keep this value.
+  /// In virtual mode: store this value.
   void OnSetElement(quint32 row, quint32 col, long double value);
   /// DisplayLeftCol is about to become the given column.
   void OnLeftChange(quint32 left);
   /// @{
-  /// The number of rows or columns is another one.
+  /// The number of rows or columns has changed.
   void OnNoRowsChange(quint32 rows);
   void OnNoColsChange(quint32 cols);
   /// @}
@@ -216,23 +215,23 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void VirtualModeChanged() override;
   /// @}
 
-  /// EMathError unless there is such an element; as many columns as given count as there.
+  /// Raises EMathError if there is no such element in a matrix of the given number of columns.
   void CheckElement(quint32 row, quint32 col, quint64 cols) const;
 
  private:
   static constexpr int kDefaultColEdits = 3;
   static constexpr int kDefaultRowEdits = 4;
 
-  // Change the numbers of rows and columns but for the events.
+  // Change the numbers of rows and columns without the events.
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
   void TrimStore();
-  // The store with an element for each row and column.
+  // The store, extended to all rows and columns.
   TQorFloatMatrix& FullStore();
-  // Takes a matrix with buffers of its own in place of the one that is here.
+  // Stores a matrix that shares no memory with another one.
   void Take(TQorFloatMatrix matrix);
   void ExchangeStore(TQorFloatMatrix& other);
-  // A command that makes one matrix of another and can be taken back.
+  // Runs a command on the matrix that can be undone.
   void MatrixCommand(const std::function<void(TQorFloatMatrix& matrix)>& command);
 
   // Elements beyond its ends are 0.

@@ -13,16 +13,16 @@
 QORVEX_WIDGET_UNIT(QorvexVectorEdit) {
 
 /// @{
-/// Handlers of labels: a request for the label of a row, and a label that is to be kept elsewhere.
+/// Handlers of events of labels: a request for the label of a row, and a label to store.
 using TQorGetLabelEvent = std::function<QString(quint32 row)>;
 using TQorSetLabelEvent = std::function<void(quint32 row, const QString& label)>;
 /// @}
 
-/// A TQorVectorEdit with a column of labels in front of the cells. Everything else is as there; the
-/// navigation keys work in the labels too, and stay in their column.
+/// A TQorVectorEdit with a column of labels in front of the cells. The navigation keys work in the
+/// labels too, and stay in their column.
 ///
-/// Labels do not belong to the numbers. SwapElements exchanges custom labels with the elements, but
-/// Sort sorts them by themselves, in the order of their texts whatever the case of letters.
+/// Labels are not tied to the elements. SwapElements exchanges custom labels along with the
+/// elements, but Sort sorts the labels independently, by their texts and regardless of case.
 class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   Q_OBJECT
   /// @{
@@ -37,9 +37,9 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
  public:
   /// Where labels come from.
   enum TQorLabelType {
-    ltCustom,    ///< A list that is kept here; rows beyond its end have empty labels.
+    ltCustom,    ///< A list stored here; rows beyond its end have empty labels.
     ltNumbered,  ///< The row's index plus LabelNumOffSet.
-    ltSupplied   ///< OnGetLabel, or the row's index where it is empty.
+    ltSupplied   ///< OnGetLabel, or the row's index if it is empty.
   };
   Q_ENUM(TQorLabelType)
 
@@ -48,45 +48,44 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   ~TQorLabelledVectorEdit() override;
 
   /// @{
-  /// Where the text of a label stands; centred at first.
+  /// The alignment of the labels; centred by default.
   [[nodiscard]] Qt::Alignment LabelAlignment() const noexcept { return label_alignment_; }
   void setLabelAlignment(Qt::Alignment alignment);
   void resetLabelAlignment() { setLabelAlignment(Qt::AlignCenter); }
   /// @}
 
   /// @{
-  /// What is added to a row's index in numbered labels; 1 at first.
+  /// The number that is added to a row's index in numbered labels; 1 by default.
   [[nodiscard]] int LabelNumOffSet() const noexcept { return label_offset_; }
   void setLabelNumOffSet(int offset);
   void resetLabelNumOffSet() { setLabelNumOffSet(1); }
   /// @}
 
   /// @{
-  /// Where labels come from; numbered at first. Numbered labels cannot be typed, so this turns
-  /// LabelsEditable off. A list of custom labels is filled up with empty ones to the number of
-  /// rows.
+  /// Where labels come from; numbered by default. Numbered labels cannot be typed, so ltNumbered
+  /// turns LabelsEditable off. ltCustom extends the list with empty labels to the number of rows.
   [[nodiscard]] TQorLabelType LabelType() const noexcept { return label_type_; }
   void setLabelType(TQorLabelType type);
   void resetLabelType() { setLabelType(ltNumbered); }
   /// @}
 
   /// @{
-  /// Whether the user may type labels; false at first.
+  /// Whether the user may type labels; false by default.
   [[nodiscard]] bool LabelsEditable() const noexcept { return labels_editable_; }
   void setLabelsEditable(bool editable);
   void resetLabelsEditable() { setLabelsEditable(false); }
   /// @}
 
   /// @{
-  /// The width of the labels in pixels, 81 at first; negative widths count as 0.
+  /// The width of the labels in pixels, 81 by default; negative widths count as 0.
   [[nodiscard]] int LabelWidth() const noexcept { return label_width_; }
   void setLabelWidth(int width);
   void resetLabelWidth() { setLabelWidth(kDefaultLabelWidth); }
   /// @}
 
   /// @{
-  /// The label of a row. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such row.
-  /// Only custom labels can be set, others stay as they are; in virtual mode every label that is
+  /// The label of a row. EMathError: rsVectorIsEmpty, then rsInvalidRow if there is no such row.
+  /// Only custom labels can be set; others are left unchanged. In virtual mode every label that is
   /// set goes to OnSetLabel instead.
   [[nodiscard]] QString Label(quint32 row) const;
   void setLabel(quint32 row, const QString& label);
@@ -95,11 +94,11 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void Sort() override;
   void SwapElements(quint32 first, quint32 second) override;
 
-  /// Gives the labels of type ltSupplied.
+  /// Supplies the labels of type ltSupplied.
   TQorGetLabelEvent OnGetLabel;
 
  Q_SIGNALS:
-  /// In virtual mode: keep this label.
+  /// In virtual mode: store this label.
   void OnSetLabel(quint32 row, const QString& label);
   /// The user has changed the label.
   void OnLabelChange(quint32 row);
@@ -107,6 +106,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void OnLabelExit(quint32 row);
 
  protected:
+  /// The name of the cell in a vector edit, preceded by the label of its row.
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
 
  private:

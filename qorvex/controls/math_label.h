@@ -12,15 +12,15 @@
 
 QORVEX_WIDGET_UNIT(QorvexMathLabel) {
 
-/// A label whose caption holds mathematical symbols.
+/// A label whose caption may contain mathematical symbols.
 ///
-/// A caret makes a symbol of the character after it: "^a" is alpha, "^+" is not equal, "^^" is a
+/// A caret turns the character after it into a symbol: "^a" is alpha, "^+" is not equal, "^^" is a
 /// caret. docs/controls/math_label.md has the table. Screen readers get the symbols themselves.
 ///
-/// Characters are drawn one by one from left to right, each with its own width, without kerning
-/// or ligatures; alignment and line breaks concern whole lines. A line that is too wide begins at
-/// the left edge and ends with the first character that reaches beyond the right one. Scripts
-/// that run from right to left belong into a TQorCustomLabel.
+/// Characters are drawn one by one from left to right, each with its own width, without kerning or
+/// ligatures; alignment and line breaks apply to whole lines. A line that is too wide begins at the
+/// left edge and ends with the first character that reaches beyond the right one. For right-to-left
+/// scripts use a TQorCustomLabel.
 class QORVEX_EXPORT TQorMathLabel : public TQorCustomLabel {
   Q_OBJECT
   /// Published: see the accessor.
@@ -32,8 +32,8 @@ class QORVEX_EXPORT TQorMathLabel : public TQorCustomLabel {
   ~TQorMathLabel() override;
 
   /// @{
-  /// The family of the symbols' font, whose size and style are those of the label's font. Empty,
-  /// as at first: the family of the label's font.
+  /// The family of the symbols' font, whose size and style are those of the label's font. If empty,
+  /// which is the default, the family of the label's font is used.
   [[nodiscard]] QString SymbolFamily() const { return symbol_family_; }
   void setSymbolFamily(const QString& family);
   void resetSymbolFamily() { setSymbolFamily({}); }

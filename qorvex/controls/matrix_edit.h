@@ -24,7 +24,7 @@ class QORVEX_EXPORT TQorMatrixEdit final : public TQorCustomMatrixEdit {
   explicit TQorMatrixEdit(QWidget* parent = nullptr);
   ~TQorMatrixEdit() override;
 
-  /// Reads the texts of cells in place of the control; empty for none.
+  /// Reads the texts of cells in place of the control; empty by default.
   TQorConvertEvent OnConvert;
 };
 

@@ -17,10 +17,10 @@ namespace qorvex::inline QorvexMatrixEdit {
 void TQorCustomMatrixEdit::MatrixCommand(
     const std::function<void(TQorFloatMatrix& matrix)>& command) {
   Command([&] {
-    // The command works on a copy, and the matrix that it began with is what brings it back.
+    // The command works on a copy; exchanging it with the old matrix undoes the command.
     const auto other = std::make_shared<TQorFloatMatrix>(CopyMatrix(FullStore()));
     command(*other);
-    // Without rows a matrix cannot tell how many columns it has.
+    // A matrix without rows has no number of columns.
     if (NoOfRows() == 0) return;
     ExchangeStore(*other);
     Parts().history.RecordCommand([this, other] { ExchangeStore(*other); });
@@ -28,7 +28,7 @@ void TQorCustomMatrixEdit::MatrixCommand(
 }
 
 void TQorCustomMatrixEdit::ExchangeStore(TQorFloatMatrix& other) {
-  // Moved out, since the store must not share rows that are about to change their lengths.
+  // Moved, since the store must not share rows whose lengths are about to change.
   TQorFloatMatrix before = std::move(FullStore());
   Take(std::exchange(other, std::move(before)));
 }

@@ -12,7 +12,7 @@
 QORVEX_WIDGET_UNIT(QorvexMatrixFractEdit) {
 
 /// A TQorCustomMatrixEdit whose cells show and take fractions, as TQorFractEdit does. The elements
-/// are floats all the same: fractions are how they look.
+/// are still floats; only their display is a fraction.
 class QORVEX_EXPORT TQorMatrixFractEdit final : public TQorCustomMatrixEdit {
   Q_OBJECT
   /// @{
@@ -29,7 +29,7 @@ class QORVEX_EXPORT TQorMatrixFractEdit final : public TQorCustomMatrixEdit {
   ~TQorMatrixFractEdit() override;
 
   /// @{
-  /// How a fraction is shown; mixed at first.
+  /// How fractions are shown; mixed by default.
   [[nodiscard]] TQorFractEdit::FractionDisplayMode FractionDisplay() const noexcept {
     return display_;
   }
@@ -38,7 +38,7 @@ class QORVEX_EXPORT TQorMatrixFractEdit final : public TQorCustomMatrixEdit {
   /// @}
 
   /// @{
-  /// The decimals to which a fraction agrees with its element, clamped to 0 to 255; 9 at first.
+  /// The decimals to which a fraction agrees with its element, clamped to 0 to 255; 9 by default.
   [[nodiscard]] int DecimalsFract() const noexcept { return decimals_; }
   void setDecimalsFract(int decimals);
   void resetDecimalsFract() { setDecimalsFract(kDefaultDecimals); }
@@ -46,10 +46,10 @@ class QORVEX_EXPORT TQorMatrixFractEdit final : public TQorCustomMatrixEdit {
 
   /// @{
   /// One element as a fraction that agrees with it to DecimalsFract decimals, and the element that
-  /// a fraction stands for. EMathError: rsMatrixIsEmpty, then rsInvalidRow, then rsInvalidCol when
-  /// there is no such element; what Fraction2Float raises comes after that. A column one past the
-  /// last is let through: it reads as 0 and takes nothing, and in virtual mode it is asked for and
-  /// handed over like the others.
+  /// a fraction stands for. EMathError: rsMatrixIsEmpty, then rsInvalidRow, then rsInvalidCol if
+  /// there is no such element; then what Fraction2Float raises. The column one past the last is
+  /// accepted: it reads as 0 and writing to it has no effect, and in virtual mode it is requested
+  /// and passed on like the others.
   [[nodiscard]] TQorMixedFraction FractElement(quint32 row, quint32 col) const;
   void setFractElement(quint32 row, quint32 col, const TQorMixedFraction& fraction);
   /// @}

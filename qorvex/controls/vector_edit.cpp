@@ -46,7 +46,7 @@ void TQorVectorEdit::setNoOfRows(quint32 rows) {
 
 void TQorVectorEdit::Resize(quint32 rows) {
   SetCount(Parts().rows, rows);
-  // Handlers that ran on the way could read the elements that are going.
+  // After the handlers, which may still read the elements that go.
   if (!VirtualMode()) TrimStore();
   Parts().history.Forget();
 }

@@ -14,10 +14,9 @@
 QORVEX_WIDGET_UNIT(QorvexVectorEdit) {
 
 /// @{
-/// Handlers of the events of an element: an element that changed, a text that is typed, a request
-/// for an element's value, a value that is to be kept elsewhere, another number of rows or another
-/// top, and another current row. Requests are members of the control, the rest are signals with
-/// these parameters.
+/// Handlers of events: a changed element, a text that is being typed, a request for an element, an
+/// element to store, a new number of rows or a new top, and a new current row. Requests are members
+/// of the control, the others are signals with these parameters.
 using TQorVectorChangeEvent = std::function<void(quint32 row)>;
 using TQorVectorChangeTextEvent = std::function<void(quint32 row, const QString& text)>;
 using TQorGetVectorElementEvent = std::function<Extended(quint32 row)>;
@@ -26,14 +25,15 @@ using TQorRowChangeEvent = std::function<void(quint32 row)>;
 using TQorCurrentChangeEvent = std::function<void(quint32 before, quint32 now)>;
 /// @}
 
-/// A column of cells that shows and edits a vector of any length; CellPanel says how.
+/// A column of cells that shows and edits a vector of any length. See CellPanel for keys, pasting
+/// and undo.
 ///
-/// The vector is kept here, or in virtual mode elsewhere: then OnGetElement gives each element that
-/// is to be shown (the row's own index where it is empty), OnSetElement tells of each one that was
-/// changed, and commands on the whole vector only redisplay.
+/// The vector is stored here. In virtual mode the program stores it: OnGetElement supplies each
+/// element that is shown (the row's index if it is empty), OnSetElement passes on each one that the
+/// user changes, and commands on the whole vector only redisplay.
 ///
-/// A NaN in the vector is null. What the user types, pastes or takes back raises OnChange; what the
-/// program sets does not.
+/// A NaN in the vector is null. OnChange is raised when the user types, pastes or undoes, not when
+/// the program sets elements.
 class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   Q_OBJECT
   /// @{
@@ -69,47 +69,47 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   ~TQorVectorEdit() override;
 
   /// @{
-  /// The number of cells, 4 at first, clamped to 0 to 255.
+  /// The number of cells, 4 by default, clamped to 0 to 255.
   [[nodiscard]] int NoOfEdits() const noexcept;
   void setNoOfEdits(int edits);
   void resetNoOfEdits() { setNoOfEdits(kDefaultEdits); }
   /// @}
 
   /// @{
-  /// The length of the vector, 0 at first. New elements are 0; memory for them is taken when one is
-  /// set. A top beyond the new last page moves there. Raises OnRowNoChange. O(1).
+  /// The length of the vector, 0 by default. New elements are 0; their memory is allocated when one
+  /// of them is set. A top beyond the new last page moves there. Raises OnRowNoChange. O(1).
   [[nodiscard]] quint32 NoOfRows() const noexcept;
   void setNoOfRows(quint32 rows);
   void resetNoOfRows() { setNoOfRows(0); }
   /// @}
 
   /// @{
-  /// The whole vector, as a copy with a buffer of its own. Setting copies as well, and sets the
-  /// number of rows; in virtual mode each element goes through the events. std::length_error for
-  /// more than 2^32 - 1 elements. O(length).
+  /// The whole vector, as a copy that shares no memory with the control. Setting copies too, and
+  /// sets the number of rows; in virtual mode each element goes through the events.
+  /// std::length_error for more than 2^32 - 1 elements. O(length).
   [[nodiscard]] TQorFloatVector Vector() const;
   void setVector(const TQorFloatVector& vector);
   /// @}
 
   /// @{
-  /// One element. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such element. A
-  /// text that is being typed stays, whichever element is set.
+  /// One element. EMathError: rsVectorIsEmpty, then rsInvalidRow if there is no such element.
+  /// Setting an element does not affect a text that is being typed.
   [[nodiscard]] Extended Element(quint32 row) const;
   void setElement(quint32 row, Extended value);
   /// @}
 
   /// @{
-  /// The cell that has the focus, or had it last, counted from 0. Setting gives the focus to a
-  /// cell that shows an element; others are ignored.
+  /// The index of the cell that has the focus, or had it last. Setting it gives the focus to a cell
+  /// that shows an element; others are ignored.
   [[nodiscard]] quint32 EditFocus() const noexcept;
   void setEditFocus(quint32 edit);
   /// @}
 
   /// @{
-  /// The routine of vectors of the same effect, on the whole vector: see ClearVector, FillVector,
-  /// InvVector, SquareVector, SqrtVector, LnVector, Log10Vector, LinearTransformVector, and
-  /// QSortVector, ascending. What they raise reaches the caller. Each can be taken back, for which
-  /// it keeps a copy of the vector. In virtual mode they only redisplay.
+  /// Apply a routine to the whole vector: ClearVector, FillVector, InvVector, SquareVector,
+  /// SqrtVector, LnVector, Log10Vector, LinearTransformVector, or QSortVector in ascending order.
+  /// Their errors reach the caller. Each command keeps a copy of the vector so that it can be
+  /// undone. In virtual mode they only redisplay.
   void Clear();
   void Fill(Extended value);
   void Invert();
@@ -120,17 +120,17 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   void LinearTransform(Extended slope, Extended intercept);
   virtual void Sort();
   /// @}
-  /// Exchanges two elements. EMathError: rsVectorIsEmpty, then rsInvalidRow when there is no such
-  /// element. In virtual mode it only redisplays after that.
+  /// Exchanges two elements. EMathError: rsVectorIsEmpty, then rsInvalidRow if there is no such
+  /// element. In virtual mode it checks the rows and redisplays.
   virtual void SwapElements(quint32 first, quint32 second);
 
-  /// Copies a part of the vector to the clipboard, as CopyAll does. Rows that there are not are
-  /// left out.
+  /// Copies a part of the vector to the clipboard, as CopyAll does. Rows beyond the end are left
+  /// out.
   void CopyRows(quint32 first, quint32 count);
 
-  /// Gives the elements in virtual mode; may be called at any time.
+  /// Supplies the elements in virtual mode; may be called at any time.
   TQorGetVectorElementEvent OnGetElement;
-  /// Reads the texts of cells in place of the control; empty for none.
+  /// Reads the texts of cells in place of the control; empty by default.
   TQorConvertEvent OnConvert;
 
  Q_SIGNALS:
@@ -140,11 +140,11 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   void OnChangeText(quint32 row, const QString& text);
   /// The user has made the element null; OnChange follows.
   void OnNull(quint32 row);
-  /// In virtual mode: keep this value.
+  /// In virtual mode: store this value.
   void OnSetElement(quint32 row, long double value);
-  /// The number of rows is another one.
+  /// The number of rows has changed.
   void OnRowNoChange(quint32 rows);
-  /// DisplayTopRow has become the given row, and the cells show it.
+  /// DisplayTopRow is now the given row, and the cells show it.
   void OnAfterTopChange(quint32 top);
   /// The focus has left the cell of the element, whose text is committed.
   void OnCellExit(quint32 row);
@@ -165,7 +165,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   void VirtualModeChanged() override;
   /// @}
 
-  /// EMathError unless there is such an element.
+  /// Raises EMathError if there is no such element.
   void CheckRow(quint32 row) const;
 
  private:
@@ -174,10 +174,10 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   // A command on the store that can be taken back.
   void VectorCommand(const std::function<void()>& command);
 
-  // Changes the number of rows but for the event.
+  // Changes the number of rows without the event.
   void Resize(quint32 rows);
   void TrimStore();
-  // The store with an element for each row.
+  // The store, extended to all rows.
   TQorFloatVector& FullStore();
 
   // Elements beyond its end are 0.

@@ -168,7 +168,7 @@ TEST_F(FloatCell, ShowsAsManyDigitsAsItIsTold) {
       {1 / 3.0L, 4, false, false, "0.3333"},  {1 / 3.0L, 4, true, false, "0.33333333333333333334"},
       {2.5L, 4, false, true, "2.5"},          {100, 0, false, true, "100"},
       {-0.00001L, 4, false, false, "0.0000"}, {0.125L, 2, false, false, "0.12"},
-      {1e4000L, 4, false, false, "1e4000"},  {-kInfinity, 4, false, true, "-inf"},
+      {1e4000L, 4, false, false, "1e4000"},   {-kInfinity, 4, false, true, "-inf"},
   };
   for (const auto& [value, decimals, full, trim, text] : cases) {
     cell->setDecimalPlaces(decimals);

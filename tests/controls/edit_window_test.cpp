@@ -196,22 +196,6 @@ TEST(EditWindow, OtherSizesKeepTopFocusAndCurrentElementOnTheAxis) {
   }
 }
 
-TEST(EditWindow, TwoWindowsFollowEachOther) {
-  Recorded a(CurrentRule::kFollowsTop, 4, 100);
-  Recorded b(CurrentRule::kFollowsEntry, 4, 50);
-  a.on_before_top = [&](std::uint32_t top) { b.window.SetTop(top); };
-  b.on_before_top = [&](std::uint32_t top) { a.window.SetTop(top); };
-  a.window.SetTop(20);
-  EXPECT_EQ(a.Take(), "t20 bar c0>20 show after20");
-  EXPECT_EQ(b.Take(), "t20 bar show after20");
-  b.window.SetTopFromBar(30);
-  EXPECT_EQ(a.window.Top(), 30U);
-  EXPECT_EQ(b.window.Top(), 30U);
-  a.window.SetTop(90);
-  EXPECT_EQ(a.window.Top(), 90U);
-  EXPECT_EQ(b.window.Top(), 46U) << "the shorter one ends earlier";
-}
-
 TEST(EditWindow, AHandlerShortensTheAxis) {
   for (const CurrentRule rule : {CurrentRule::kFollowsTop, CurrentRule::kFollowsEntry}) {
     Recorded r(rule, 4, 100);

@@ -64,12 +64,47 @@ struct EditorFixture : testing::Test {
     log.clear();
   }
 
+  static constexpr bool kIsVector = std::derived_from<Editor, TQorVectorEdit>;
+
+  /// @{
+  /// One column of cells and elements in any editor.
+  void SetCells(int edits) {
+    if constexpr (kIsVector) {
+      editor->setNoOfEdits(edits);
+    } else {
+      editor->setNoOfColEdits(1);
+      editor->setNoOfRowEdits(edits);
+    }
+  }
+  void SetRows(quint32 rows) {
+    if constexpr (!kIsVector) editor->setNoOfCols(1);
+    editor->setNoOfRows(rows);
+  }
+  Extended Get(quint32 row) const {
+    if constexpr (kIsVector)
+      return editor->Element(row);
+    else
+      return editor->Element(row, 0);
+  }
+  void Set(quint32 row, Extended value) {
+    if constexpr (kIsVector)
+      editor->setElement(row, value);
+    else
+      editor->setElement(row, 0, value);
+  }
+  void FocusEdit(quint32 edit) {
+    if constexpr (kIsVector)
+      editor->setEditFocus(edit);
+    else
+      editor->setRowEditFocus(edit);
+  }
+  /// @}
+
   /// Rows 0, 1, 2, ... behind the given number of cells, in a window that is shown.
   void Open(quint32 rows, int edits = 4) {
-    editor->setNoOfEdits(edits);
-    editor->setNoOfRows(rows);
-    editor->Fill(1);
-    for (quint32 row = 0; row < rows; ++row) editor->setElement(row, row);
+    SetCells(edits);
+    SetRows(rows);
+    for (quint32 row = 0; row < rows; ++row) Set(row, row);
     Show();
   }
 
@@ -80,9 +115,13 @@ struct EditorFixture : testing::Test {
     return text;
   }
 
-  TQorCustomEdit* Cell(int edit) const {
-    return editor->template findChildren<TQorCustomEdit*>().at(edit);
+  QList<TQorCustomEdit*> Cells() const {
+    auto cells = editor->template findChildren<TQorCustomEdit*>();
+    // Dropped cells are hidden until they are deleted.
+    cells.removeIf([](const TQorCustomEdit* cell) { return cell->isHidden(); });
+    return cells;
   }
+  TQorCustomEdit* Cell(int edit) const { return Cells().at(edit); }
   QScrollBar* Bar() const { return editor->template findChild<QScrollBar*>(); }
 
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -92,9 +131,7 @@ struct EditorFixture : testing::Test {
 
   std::string Texts() const {
     QStringList texts;
-    for (const TQorCustomEdit* cell : editor->template findChildren<TQorCustomEdit*>()) {
-      if (!cell->isHidden()) texts.append(cell->text());
-    }
+    for (const TQorCustomEdit* cell : Cells()) texts.append(cell->text());
     return texts.join(QLatin1Char('|')).toStdString();
   }
 
@@ -117,7 +154,7 @@ struct EditorFixture : testing::Test {
     On(&Editor::OnChangeText, "text");
     On(&Editor::OnNull, "null");
     On(&Editor::OnSetElement, "set");
-    if constexpr (std::derived_from<Editor, TQorVectorEdit>) {
+    if constexpr (kIsVector) {
       On(&Editor::OnRowNoChange, "rows");
       On(&Editor::OnAfterTopChange, "after");
     } else {

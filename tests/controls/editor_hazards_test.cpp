@@ -33,36 +33,6 @@ TEST_F(EditorHazards, AKeyAfterTheBarLeavesTheCellAndComesBack) {
   EXPECT_EQ(editor->DisplayTopRow(), 4U);
 }
 
-TEST_F(EditorHazards, ADropGoesToTheCellUnderIt) {
-  Open(10);
-  editor->setEditFocus(0);
-  const auto drop = [this](int edit, const char* text) {
-    QMimeData contents;
-    contents.setText(text);
-    QDragEnterEvent enter({2, 2}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(Cell(edit), &enter);
-    QDropEvent event({2, 2}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
-    QApplication::sendEvent(Cell(edit), &event);
-  };
-  drop(2, "77");
-  EXPECT_EQ(Texts(), "0.0000|1.0000|77|3.0000");
-  editor->ScrollDown(3);
-  EXPECT_EQ(editor->Element(2), 77);
-  drop(1, "8\n9\n");
-  EXPECT_EQ(Texts(), "3.0000|8.0000|9.0000|6.0000");
-  drop(0, "\n55\n");
-  EXPECT_EQ(Texts(), "|55.0000|9.0000|6.0000") << "an empty cell stands above the number";
-  QMimeData file;
-  file.setUrls({QUrl("file:///data.csv")});
-  file.setText("1");
-  QDragEnterEvent enter({2, 2}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(Cell(3), &enter);
-  EXPECT_FALSE(enter.isAccepted());
-  editor->setReadOnly(true);
-  drop(3, "1");
-  EXPECT_EQ(editor->Element(6), 6);
-}
-
 TEST_F(EditorHazards, HandlersThatChangeTheVectorLoseNothing) {
   editor->setVector({0, 1, 2, 3, -1});
   Show();
@@ -137,65 +107,6 @@ TEST_F(EditorHazards, AnInactiveWindowTellsNothingOfRowsThatThereAreNot) {
   window->activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
   EXPECT_EQ(Take(), "in 2");
-}
-
-TEST_F(EditorHazards, TheNextKeyTypesOverAnElementThatHasTakenAnothersPlace) {
-  Open(5);
-  editor->setEditFocus(1);
-  TurnWheel(Cell(1), -120);
-  Type("7");
-  EXPECT_EQ(Cell(1)->text(), "7");
-  // The last row keeps the focus when Enter cannot go on.
-  editor->setEditFocus(3);
-  Type("5");
-  Press(Qt::Key_Return);
-  Type("6");
-  EXPECT_EQ(Cell(3)->text(), "6");
-  // What is typed is not lost when the editor becomes read-only, and is not taken back then.
-  editor->setReadOnly(true);
-  EXPECT_EQ(editor->Element(4), 6);
-  Press(Qt::Key_Z, Qt::ControlModifier);
-  EXPECT_EQ(editor->Element(4), 6);
-}
-
-TEST_F(EditorHazards, ABatchMayMoveTheFocusToCellsThatItBringsIntoUse) {
-  Open(1);
-  editor->BeginUpdate();
-  editor->setNoOfRows(5);
-  editor->setEditFocus(2);
-  editor->EndUpdate();
-  EXPECT_TRUE(Cell(2)->hasFocus());
-  editor->setDisplayTopRow(1);
-  editor->ScrollTop();
-  editor->setNoOfRows(3);
-  EXPECT_EQ(Cell(3)->accessibleName(), "Row 4");
-  other->setFocus();
-  editor->setFocus();
-  EXPECT_TRUE(Cell(2)->hasFocus()) << "the editor hands the focus on to its cell";
-}
-
-TEST_F(EditorHazards, ForwardsTheMouseOfCellsInUse) {
-  Open(2);
-  QStringList mouse;
-  for (const auto& [signal, name] : {std::pair(&TQorVectorEdit::OnClick, "click"),
-                                     std::pair(&TQorVectorEdit::OnDblClick, "double")}) {
-    QObject::connect(editor, signal, editor, [&mouse, name = name] { mouse.append(name); });
-  }
-  QObject::connect(editor, &TQorVectorEdit::OnMouseDown, editor, [&] { mouse.append("down"); });
-  QObject::connect(editor, &TQorVectorEdit::OnMouseUp, editor, [&] { mouse.append("up"); });
-  QObject::connect(editor, &TQorVectorEdit::OnKeyUp, editor, [&] { mouse.append("key"); });
-  const auto take = [&mouse] { return std::exchange(mouse, {}).join(' ').toStdString(); };
-  QTest::mouseClick(Cell(1), Qt::LeftButton);
-  EXPECT_EQ(take(), "down up click");
-  QTest::mousePress(Cell(1), Qt::LeftButton);
-  QTest::mouseRelease(Cell(1), Qt::LeftButton, {}, {-9, -9});
-  EXPECT_EQ(take(), "down up") << "released elsewhere";
-  QTest::mouseDClick(Cell(1), Qt::LeftButton);
-  EXPECT_TRUE(QString::fromStdString(take()).contains("double"));
-  Press(Qt::Key_X);
-  EXPECT_EQ(take(), "key");
-  QTest::mouseClick(Cell(3), Qt::LeftButton);
-  EXPECT_EQ(take(), "") << "no element is there";
 }
 
 struct LabelHazards : EditorFixture<TQorLabelledVectorEdit> {};

@@ -82,37 +82,6 @@ TEST_F(MatrixEdit, TellsWhatHappensInOrder) {
   }
 }
 
-// Walks a matrix from corner to corner by each key and sees every element once, in order.
-TEST_F(MatrixEdit, NavigationReachesEveryElementOfAnyMatrix) {
-  for (const quint32 rows : {1U, 2U, 4U, 7U}) {
-    for (const quint32 cols : {1U, 2U, 3U, 6U}) {
-      SCOPED_TRACE(testing::Message() << rows << " x " << cols);
-      Open(rows, cols);
-      for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Up, Qt::Key_Left}) {
-        const bool along_columns = key == Qt::Key_Down || key == Qt::Key_Up;
-        const bool forward = key == Qt::Key_Down || key == Qt::Key_Right;
-        forward ? editor->ScrollTop() : editor->ScrollBottom();
-        forward ? editor->ScrollLeftMost() : editor->ScrollRightMost();
-        const int row_edit = forward ? 0 : static_cast<int>(std::min(rows, 4U)) - 1;
-        const int col_edit = forward ? 0 : static_cast<int>(std::min(cols, 3U)) - 1;
-        At(row_edit, col_edit)->setFocus();
-        for (quint32 step = 0; step < rows * cols; ++step) {
-          const quint32 element = forward ? step : rows * cols - 1 - step;
-          const quint32 row = along_columns ? element % rows : element / cols;
-          const quint32 col = along_columns ? element / rows : element % cols;
-          auto* const cell = qobject_cast<TQorFloatEdit*>(QApplication::focusWidget());
-          ASSERT_NE(cell, nullptr);
-          ASSERT_EQ(cell->Value(), 10.0L * row + col) << key;
-          ASSERT_EQ(editor->CurrentRow(), row);
-          ASSERT_EQ(editor->CurrentCol(), col);
-          Press(key, Qt::ControlModifier);
-        }
-        other->setFocus();
-      }
-    }
-  }
-}
-
 TEST_F(MatrixEdit, CommandsDoWhatTheRoutinesDoAndCanBeTakenBack) {
   const TQorFloatMatrix start = {{4, 1}, {0.25L, 2}};
   editor->setMatrix(start);

@@ -127,42 +127,6 @@ TEST_F(VectorEdit, TheBarScrollsWithoutMovingTheCurrentRow) {
   EXPECT_EQ(Take(), "top 0, after 0") << "and what the editor does to its bar comes back to nobody";
 }
 
-TEST_F(VectorEdit, TheWheelTurnsWholeRowsWhereTheFocusIs) {
-  Open(30);
-  QScrollArea area;
-  area.setWidget(window.release());
-  area.resize(100, 60);
-  area.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&area));
-  other->setFocus();
-  const int before = area.verticalScrollBar()->value();
-  TurnWheel(Cell(1), -120);
-  EXPECT_EQ(editor->DisplayTopRow(), 0U);
-  EXPECT_NE(area.verticalScrollBar()->value(), before) << "without the focus the parent scrolls";
-
-  Cell(1)->setFocus();
-  const int parent = area.verticalScrollBar()->value();
-  const struct {
-    int amount;
-    quint32 top;
-  } turns[] = {{-120, 1}, {-99, 1}, {-240, 3}, {-600, 9}, {99, 9}, {120, 8}, {199, 7}, {900, 7}};
-  for (const auto& [amount, top] : turns) {
-    TurnWheel(Cell(0), amount);
-    EXPECT_EQ(editor->DisplayTopRow(), top) << amount;
-  }
-  TurnWheel(Bar(), 120);
-  EXPECT_EQ(editor->DisplayTopRow(), 6U);
-  // A touch pad: small amounts add up to a notch, and a turn back begins anew.
-  for (int i = 0; i < 5; ++i) TurnWheel(Cell(0), -50, Qt::ScrollUpdate);
-  EXPECT_EQ(editor->DisplayTopRow(), 8U);
-  for (int i = 0; i < 2; ++i) TurnWheel(Cell(0), 50, Qt::ScrollUpdate);
-  EXPECT_EQ(editor->DisplayTopRow(), 8U);
-  // Where a cell has no element it is no other.
-  editor->setNoOfRows(2);
-  TurnWheel(Cell(3), -120);
-  EXPECT_EQ(area.verticalScrollBar()->value(), parent);
-}
-
 TEST_F(VectorEdit, CommandsDoWhatTheRoutinesDoAndCanBeTakenBack) {
   const TQorFloatVector values = {4, 0.25L, 16};
   editor->setVector(values);
@@ -268,131 +232,6 @@ TEST_F(VectorEdit, VirtualModeAsksForWhatItShows) {
   EXPECT_EQ(Texts(), "8.0000|8.0000|0.0000|");
 }
 
-TEST_F(VectorEdit, KeepsWhatIsBeingTypedWhileElementsChange) {
-  Open(9);
-  editor->setEditFocus(1);
-  Type("12");
-  editor->setElement(0, 50);
-  editor->setElement(1, 60);
-  EXPECT_EQ(Texts(), "50.0000|12|2.0000|3.0000");
-  Press(Qt::Key_Escape);
-  EXPECT_EQ(Cell(1)->Value(), 60);
-  // Null in sight only: what is typed over it is a change of the element behind it.
-  editor->setNull(true);
-  EXPECT_EQ(Texts(), "|||");
-  EXPECT_EQ(editor->Element(1), 60);
-  Type("7");
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(Texts(), "4.0000|5.0000|6.0000|7.0000");
-  Press(Qt::Key_PageDown);
-  EXPECT_EQ(editor->DisplayTopRow(), 5U);
-  Press(Qt::Key_PageUp);
-  Press(Qt::Key_PageUp);
-  EXPECT_EQ(Texts(), "50.0000|7.0000|2.0000|3.0000");
-  editor->Undo();
-  EXPECT_EQ(editor->Element(1), 60);
-}
-
-TEST_F(VectorEdit, ABatchShowsNothingUntilItEnds) {
-  Open(6);
-  editor->BeginUpdate();
-  editor->BeginUpdate();
-  editor->setElement(0, 5);
-  editor->ScrollDown(1);
-  editor->EndUpdate();
-  EXPECT_EQ(Texts(), "0.0000|1.0000|2.0000|3.0000");
-  EXPECT_EQ(Take(), "top 1, current 0 1, after 1") << "events do not wait";
-  editor->EndUpdate();
-  EXPECT_EQ(Texts(), "1.0000|2.0000|3.0000|4.0000");
-  editor->EndUpdate();
-  editor->setElement(1, 7);
-  EXPECT_EQ(Cell(0)->text(), "7.0000");
-}
-
-TEST_F(VectorEdit, AFormMaySetTheTopBeforeTheRowsAndTheCells) {
-  editor->setDisplayTopRow(98);
-  editor->setNoOfRows(3);
-  editor->setNoOfRows(100);
-  EXPECT_EQ(editor->DisplayTopRow(), 96U);
-  editor->setNoOfEdits(2);
-  EXPECT_EQ(editor->DisplayTopRow(), 98U);
-  Show();
-  editor->setNoOfRows(3);
-  editor->setNoOfRows(100);
-  EXPECT_EQ(editor->DisplayTopRow(), 1U);
-}
-
-TEST_F(VectorEdit, HandlersMayChangeTheEditorUnderTheirFeet) {
-  Open(10);
-  editor->setEditFocus(3);
-  auto once = std::make_unique<QObject>();
-  QObject::connect(editor, &TQorVectorEdit::OnKeyDown, once.get(),
-                   [this] { editor->setNoOfEdits(1); });
-  Press(Qt::Key_X);
-  EXPECT_EQ(editor->NoOfEdits(), 1);
-  once = std::make_unique<QObject>();
-  editor->setNoOfEdits(4);
-
-  // Two editors that follow each other do not follow for ever.
-  TQorVectorEdit second;
-  second.setNoOfRows(10);
-  QObject::connect(editor, &TQorVectorEdit::ontopChange, &second,
-                   &TQorVectorEdit::setDisplayTopRow);
-  QObject::connect(&second, &TQorVectorEdit::ontopChange, editor,
-                   &TQorVectorEdit::setDisplayTopRow);
-  second.setDisplayTopRow(3);
-  EXPECT_EQ(editor->DisplayTopRow(), 3U);
-
-  // A handler that shortens the vector while a block is pasted, and one that takes keys away.
-  QObject::connect(editor, &TQorVectorEdit::OnChange, once.get(),
-                   [this] { editor->setNoOfRows(4); });
-  editor->setDisplayTopRow(0);
-  editor->setEditFocus(2);
-  EXPECT_TRUE(editor->PasteBlock("20\n30\n40\n50"));
-  EXPECT_EQ(editor->NoOfRows(), 4U);
-  EXPECT_EQ(editor->Element(3), 30);
-  once = std::make_unique<QObject>();
-  QObject::connect(editor, &TQorVectorEdit::OnKeyPress, once.get(),
-                   [](QKeyEvent* event) { event->setAccepted(event->text() == "5"); });
-  editor->setEditFocus(0);
-  Type("456");
-  EXPECT_EQ(Cell(0)->text(), "46");
-  once = std::make_unique<QObject>();
-
-  const QPointer<TQorVectorEdit> gone(editor);
-  QObject::connect(editor, &TQorVectorEdit::OnKeyDown, editor, [this] { editor->deleteLater(); });
-  Press(Qt::Key_Return);
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  EXPECT_TRUE(gone.isNull());
-}
-
-TEST_F(VectorEdit, TakesItsKeysBeforeTheApplicationDoes) {
-  Open(10);
-  QAction action;
-  action.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Down));
-  window->addAction(&action);
-  QSignalSpy taken(&action, &QAction::triggered);
-  editor->setEditFocus(0);
-  Press(Qt::Key_Down, Qt::ControlModifier);
-  EXPECT_EQ(editor->CurrentRow(), 1U);
-  EXPECT_EQ(taken.count(), 0);
-  other->setFocus();
-  Press(Qt::Key_Down, Qt::ControlModifier);
-  EXPECT_EQ(taken.count(), 1);
-  // Each cell is one stop of the tab key, in order, with those that came later.
-  editor->setNoOfEdits(5);
-  Cell(2)->setFocus();
-  for (int edit : {3, 4}) {
-    Press(Qt::Key_Tab);
-    EXPECT_TRUE(Cell(edit)->hasFocus()) << edit;
-  }
-  Press(Qt::Key_Tab);
-  EXPECT_TRUE(other->hasFocus());
-  editor->setTabStop(false);
-  Press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_FALSE(Cell(4)->hasFocus());
-}
-
 TEST_F(VectorEdit, AWindowThatIsLeftAndComesBackIsOneEntry) {
   Open(5);
   editor->setEditFocus(2);
@@ -411,32 +250,6 @@ TEST_F(VectorEdit, AWindowThatIsLeftAndComesBackIsOneEntry) {
   EXPECT_EQ(Take(), "change 2") << "what is typed on a page that is turned is not lost";
 }
 
-TEST_F(VectorEdit, SharesSettingsAndOutlivesThem) {
-  Open(3);
-  editor->setNullStr("none");
-  auto shared = std::make_unique<TQorUICtrl>();
-  shared->setDecimalPlaces(1);
-  shared->setNullStr("n/a");
-  shared->setColorSetBackground(Qt::yellow);
-  editor->setUICtrl(shared.get());
-  editor->setElement(0, kNaN);
-  EXPECT_EQ(Texts(), "n/a|1.0|2.0|");
-  EXPECT_EQ(Cell(1)->palette().color(QPalette::Base), QColor(Qt::yellow));
-  editor->setUIUsage(TQorUICtrl::uuNumberFormat);
-  EXPECT_EQ(Texts(), "none|1.0|2.0|");
-  EXPECT_NE(Cell(1)->palette().color(QPalette::Base), QColor(Qt::yellow));
-  shared->setDecimalPlaces(2);
-  EXPECT_EQ(Texts(), "none|1.00|2.00|");
-  EXPECT_EQ(editor->DecimalPlaces(), 4);
-  shared.reset();
-  EXPECT_EQ(Texts(), "none|1.0000|2.0000|");
-  EXPECT_EQ(editor->UICtrl(), nullptr);
-  QSignalSpy colors(editor, &TQorVectorEdit::OnColorSetChange);
-  editor->ColorSet()->setText(Qt::blue);
-  EXPECT_EQ(Cell(1)->palette().color(QPalette::Text), QColor(Qt::blue));
-  EXPECT_EQ(colors.count(), 1);
-}
-
 TEST_F(VectorEdit, NamesItsCellsForScreenReadersAndMirrors) {
   Open(9);
   editor->setDisplayTopRow(4);
@@ -451,25 +264,6 @@ TEST_F(VectorEdit, NamesItsCellsForScreenReadersAndMirrors) {
   large.setPointSize(40);
   editor->setFont(large);
   EXPECT_GE(Cell(0)->height(), QFontMetrics(large).height());
-}
-
-TEST_F(VectorEdit, Deletes) {
-  // In each order of the editor, its shared settings and its window, with a text half typed.
-  for (int order = 0; order < 3; ++order) {
-    auto* const shared = new TQorUICtrl;
-    auto* const form = new QWidget;
-    auto* const edit = new TQorVectorEdit(form);
-    edit->setUICtrl(shared);
-    edit->setNoOfRows(2);
-    form->show();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(form));
-    edit->setEditFocus(1);
-    Type("3");
-    if (order == 0) delete edit;
-    if (order == 1) delete shared;
-    delete form;
-    if (order != 1) delete shared;
-  }
 }
 
 }  // namespace qorvex

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What screen readers learn of labels.
+/// Labels for screen readers.
 
 namespace qorvex::inline QorvexBaseControls::detail {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// What the parts of a form call by name.
+/// Looks up the parts of a form by name.
 
 #include <QString>
 #include <QWidget>

@@ -34,8 +34,7 @@ class LocalReader {
                {WithoutDirectionMarks(locale.positiveSign()), '+'},
                {locale.decimalPoint(), '.'}} {}
 
-  /// Takes one character off the front of the text and returns the plain one, or 0 when there is
-  /// none.
+  /// Removes one character from the front of the text and returns its plain form; 0 if it has none.
   [[nodiscard]] char Take(QStringView& text) const {
     const char plain = Plain(text.front().unicode());
     if (plain != 0) {

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Numbers as people of a country write them, with every bit kept.
+/// Numbers in the notation of a locale, without loss of a bit.
 
 #include <QLocale>
 #include <QString>
@@ -14,19 +14,20 @@
 namespace qorvex::inline QorvexBaseControls::detail {
 
 /// The plain text of a number, as Float2EStr and Float2Str write it, with the digits, the decimal
-/// point and the minus sign of a locale. Groups are not separated, since a copied number must stay
-/// one. The exponent keeps its e, which other programs read, unlike the locale's own sign.
+/// point and the minus sign of a locale. There are no group separators, so that other programs can
+/// read a copied number. For the same reason the exponent is marked with e, not with the locale's
+/// own sign.
 [[nodiscard]] QORVEX_EXPORT QString LocalNumber(std::string_view plain, const QLocale& locale);
 
-/// The value of a text that was typed or pasted, correctly rounded to 64 bits, or nothing when it
-/// is no finite number.
+/// The value of a text that was typed or pasted, correctly rounded to 64 bits, or nothing if it is
+/// not a finite number.
 ///
-/// Understood are the digits and signs of the locale and the ASCII ones, U+2212 as minus, a leading
+/// Accepted are the digits and signs of the locale and the ASCII ones, U+2212 as minus, a leading
 /// plus sign, exponents with e or E or the locale's own sign, surrounding blanks (no-break spaces
-/// and line ends too), and as decimal separator the locale's own or a point where the locale does
-/// not group with it. Marks of writing direction are passed over. Nothing that could be a group
-/// separator is taken: "1,234" is no number in English, since one reader in two would mean 1.234.
-/// Neither "nan" nor "inf" enters data by typing, nor does a number beyond the extended range.
+/// and line ends too), and as decimal separator the locale's own, or a point unless the locale uses
+/// it to separate groups. Direction marks are ignored. Group separators are refused: "1,234" is not
+/// a number in English, since the user may mean 1.234. "nan", "inf" and numbers beyond the extended
+/// range are refused too.
 [[nodiscard]] QORVEX_EXPORT std::optional<Extended> ParseLocalNumber(const QString& text,
                                                                      const QLocale& locale);
 

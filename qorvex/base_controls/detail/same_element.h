@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// When an element has not changed.
+/// Whether an element has changed.
 
 #include <cmath>
 
@@ -9,7 +9,8 @@
 
 namespace qorvex::inline QorvexBaseControls::detail {
 
-/// Nulls are alike; numbers are when they are equal and of one sign, zero too.
+/// Nulls are the same; numbers are the same if they are equal and have the same sign, zeros
+/// included.
 inline bool SameElement(Extended a, Extended b) {
   if (std::isnan(a) || std::isnan(b)) return std::isnan(a) && std::isnan(b);
   return a == b && std::signbit(a) == std::signbit(b);

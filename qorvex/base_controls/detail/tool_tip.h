@@ -8,7 +8,7 @@
 
 namespace qorvex::inline QorvexBaseControls::detail {
 
-/// What to give a tool tip, which takes some texts for markup, so that it shows the text itself.
+/// A tool tip that shows the text literally, even if it looks like markup.
 inline QString AsToolTip(const QString& text) {
   if (!Qt::mightBeRichText(text)) return text;
   return QStringLiteral("<p>%1</p>").arg(text.toHtmlEscaped());

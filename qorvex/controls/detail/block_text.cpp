@@ -9,11 +9,11 @@ namespace {
 
 constexpr std::string_view kCellEnds = "\t\r\n";
 
-/// Takes a quoted cell off the front of the text, or nothing where no closing quote ends a cell.
+/// Removes a quoted cell from the front of the text; nothing if no closing quote ends a cell.
 ///
-/// Trying this at every cell that begins with a quote is linear all the same: where a scan runs
-/// over the beginning of a later cell, an even number of quotes stands there, and the scan of that
-/// cell ends at the last of them.
+/// Trying this at every cell that begins with a quote is still linear: where a scan passes the
+/// beginning of a later cell, there is an even number of quotes, and the scan of that cell ends at
+/// the last of them.
 std::optional<std::string> TakeQuoted(std::string_view& text) {
   if (!text.starts_with('"')) return std::nullopt;
   std::string cell;

@@ -17,7 +17,7 @@ bool IsSpace(const CaptionCharacter& character) {
   return character.text.front().isSpace();
 }
 
-// For each character whether a line may begin with it.
+// Whether a line may begin with each character.
 std::vector<bool> LineStarts(const std::vector<CaptionCharacter>& characters) {
   QString text;
   for (const CaptionCharacter& character : characters) text += character.text;

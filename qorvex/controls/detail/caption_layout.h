@@ -12,7 +12,7 @@
 
 namespace qorvex::inline QorvexControls::detail {
 
-/// What is drawn in one piece: a character with the marks that combine with it.
+/// A unit of drawing: a character with its combining marks.
 struct CaptionCharacter {
   QString text;
   qreal width = 0;          ///< Its advance; 0 for an end of line.
@@ -27,15 +27,15 @@ struct CaptionLine {
   qreal width = 0;
 };
 
-/// The drawn characters of a caption (ParseCaption). With accelerators, an ampersand of the text
-/// is not drawn but underlines the character after it; two of them are one. O(length).
+/// The drawn characters of a caption (ParseCaption). With accelerators, an ampersand of the text is
+/// not drawn but underlines the character after it; two ampersands stand for one. O(length).
 [[nodiscard]] std::vector<CaptionCharacter> CaptionCharacters(std::u32string_view caption,
                                                               bool accelerators,
                                                               const QFontMetricsF& text_metrics,
                                                               const QFontMetricsF& symbol_metrics);
 
 /// The lines of characters, at least one. They end at line ends, and where the next word would pass
-/// the largest width; a word that is wider has a line of its own. O(length).
+/// the largest width; a wider word has its own line. O(length).
 [[nodiscard]] std::vector<CaptionLine> CaptionLines(const std::vector<CaptionCharacter>& characters,
                                                     qreal largest_width);
 

@@ -14,7 +14,7 @@ void Tell(const std::function<void(Args...)>& callback, std::type_identity_t<Arg
   if (callback) callback(args...);
 }
 
-/// How far an element number is shifted to be a position of a bar.
+/// The shift that turns the index of an element into a position of the bar.
 int BarShift(std::uint32_t largest_top) {
   return largest_top > std::uint32_t{std::numeric_limits<int>::max()} ? 1 : 0;
 }
@@ -125,7 +125,7 @@ void EditWindow::MoveTop(std::uint32_t top) {
   top_ = std::min(top, LargestTop());
   const bool refocused = FitFocus();
   Show(refocused || rule_ == CurrentRule::kFollowsTop);
-  // A callback may have scrolled on: who follows this window ends where it is.
+  // A callback may have scrolled further: a follower of this window gets the final top.
   Tell(events_.after_top, top_);
 }
 
@@ -143,7 +143,7 @@ void EditWindow::Show(bool follow_focus) {
   Tell(events_.redisplay);
 }
 
-/// Keeps the focus inside the used edits, and tells whether it had to move.
+/// Keeps the focus within the used edits; true if it had to move.
 bool EditWindow::FitFocus() {
   const std::uint32_t last = std::max(UsedEdits(), 1U) - 1;
   return std::exchange(focus_, std::min(focus_, last)) > last;

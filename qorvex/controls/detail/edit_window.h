@@ -2,7 +2,7 @@
 
 /// @file
 /// The window of a few edits over one long axis of elements, the rows of a vector or the rows or
-/// columns of a matrix. It knows no screen: who owns it says through callbacks what is to happen.
+/// columns of a matrix. It does not depend on a screen: its owner supplies callbacks.
 
 #include <cstdint>
 #include <functional>
@@ -11,20 +11,19 @@
 
 namespace qorvex::inline QorvexControls::detail {
 
-/// What a window tells its owner, in the order in which it happens. Empty callbacks are passed
-/// over.
+/// Events of a window, in the order in which they occur. Empty callbacks are skipped.
 struct EditWindowEvents {
   /// The top is about to become the given one. While it runs, requests for another top or current
-  /// element are ignored, so two windows that follow each other do not call each other for ever.
-  /// It may change the axis: the top is then the nearest one to the given one.
+  /// element are ignored, so that two windows that follow each other do not call each other
+  /// forever. The callback may change the axis: the top then becomes the nearest possible one.
   std::function<void(std::uint32_t)> before_top{};
-  /// The top has changed: a scroll bar is to be moved.
+  /// The top has changed: move the scroll bar.
   std::function<void()> place_bar{};
   /// The current element has changed, from the first to the second.
   std::function<void(std::uint32_t, std::uint32_t)> current_changed{};
-  /// The elements in the window are others now.
+  /// The elements in the window have changed.
   std::function<void()> redisplay{};
-  /// The top has become the given one, and everything shows it.
+  /// The top is the given one, and it has been displayed.
   std::function<void(std::uint32_t)> after_top{};
 };
 
@@ -35,7 +34,7 @@ enum class CurrentRule {
 };
 
 /// Top, focus, current element, number of edits and number of elements of one axis. Edit k shows
-/// element Top() + k. Every member costs O(1), however long the axis is.
+/// element Top() + k. Every member function is O(1).
 class QORVEX_EXPORT EditWindow {
  public:
   EditWindow(CurrentRule rule, EditWindowEvents events);
@@ -49,52 +48,52 @@ class QORVEX_EXPORT EditWindow {
   [[nodiscard]] std::uint32_t Edits() const noexcept { return edits_; }
   [[nodiscard]] std::uint32_t Count() const noexcept { return count_; }
 
-  /// How many edits show an element: they are the first ones.
+  /// The number of edits that show an element: the first ones.
   [[nodiscard]] std::uint32_t UsedEdits() const noexcept;
-  /// The top of the last page: Count() - Edits(), or 0 where all elements fit. Without edits it is
+  /// The top of the last page: Count() - Edits(), or 0 if all elements fit. Without edits it is
   /// Count().
   [[nodiscard]] std::uint32_t LargestTop() const noexcept;
 
-  /// Scrolls to the top, clamped to LargestTop(). Nothing happens when it is the top already.
-  /// Otherwise before_top, place_bar, current_changed (kFollowsTop, where it differs), redisplay,
-  /// after_top. A top that only the clamp makes the present one changes nothing either, but with
-  /// kFollowsEntry it still places the bar and redisplays.
+  /// Scrolls to the top, clamped to LargestTop(). Does nothing if it is already the top. Otherwise
+  /// before_top, place_bar, current_changed (kFollowsTop, where it differs), redisplay, after_top.
+  /// If only the clamp makes it the current top, nothing changes, but with kFollowsEntry the bar is
+  /// placed and the elements are redisplayed.
   void SetTop(std::uint32_t top);
-  /// Scrolls up, or does nothing when there are not as many elements above.
+  /// Scrolls up, or does nothing if there are fewer elements above.
   void ScrollUp(std::uint32_t elements);
   /// Scrolls down, at most to the last page.
   void ScrollDown(std::uint32_t elements);
 
-  /// What the scroll bar does: the top follows a position of the bar between 0 and BarMaximum().
-  /// Other positions are ignored. Neither the bar nor the current element is moved: before_top,
-  /// redisplay, after_top. Only where before_top shortens the axis, both are kept within it.
+  /// The scroll bar has moved: the top follows its position, from 0 to BarMaximum(). Other
+  /// positions are ignored. Neither the bar nor the current element moves: before_top, redisplay,
+  /// after_top. If before_top shortens the axis, both are kept within it.
   void SetTopFromBar(int position);
-  /// What an arrow of the scroll bar does: the same by one element, which a bar may be too coarse
-  /// to name.
+  /// An arrow of the scroll bar has been pressed: the same by one element, which may be less than
+  /// one position of the bar.
   void StepFromBar(bool forward);
   /// The largest position of a bar over this axis. A bar counts in int, an axis reaches 2^32 - 1;
-  /// where LargestTop() is beyond 2^31 - 1, a position stands for two elements.
+  /// if LargestTop() is beyond 2^31 - 1, a position stands for two elements.
   [[nodiscard]] int BarMaximum() const noexcept;
-  /// How many positions of the bar a page is, at least one.
+  /// The length of a page in positions of the bar, at least one.
   [[nodiscard]] int BarPageStep() const noexcept;
-  /// Where the bar stands for the present top; the last page is always BarMaximum().
+  /// The position of the bar for the current top; for the last page it is BarMaximum().
   [[nodiscard]] int BarPosition() const noexcept;
 
-  /// Asks for a current element other than the present one: scrolls so that it shows in the focused
-  /// edit, or in the first edit where there are too few elements above it. The focus stays and the
-  /// top is clamped, so near both ends the current element is the one under the focus, not the
-  /// wanted one. With kFollowsTop it changes only if the top does, which matters after
-  /// SetTopFromBar; with kFollowsEntry it becomes the one under the focus in any case.
+  /// Requests another current element: scrolls until it shows in the focused edit, or in the first
+  /// edit if there are too few elements above it. The focus stays and the top is clamped, so near
+  /// both ends the current element becomes the one under the focus, not the requested one. With
+  /// kFollowsTop it changes only if the top does, which matters after SetTopFromBar; with
+  /// kFollowsEntry it always becomes the one under the focus.
   void SetCurrent(std::uint32_t element);
 
-  /// An edit has got the focus: it and its element are the current ones now. An edit that shows
-  /// no element is ignored.
+  /// An edit has received the focus: it and its element become the current ones. An edit without an
+  /// element is ignored.
   void Enter(std::uint32_t edit);
 
-  /// Other numbers of edits or elements. A top beyond the new last page is moved there with the
-  /// events of SetTop; otherwise the bar is placed and the elements are redisplayed. The focus is
-  /// kept inside the used edits (0 when there are none). Where it has to move, or the current
-  /// element is no longer on the axis, the current element becomes the one under the focus.
+  /// Sets the number of edits or elements. A top beyond the new last page is moved there with the
+  /// events of SetTop; otherwise the bar is placed and the elements are redisplayed. The focus
+  /// stays within the used edits (0 if there are none). If it has to move, or the current element
+  /// is no longer on the axis, the element under the focus becomes the current one.
   void SetEdits(std::uint32_t edits);
   void SetCount(std::uint32_t count);
 

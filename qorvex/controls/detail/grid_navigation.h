@@ -16,11 +16,11 @@ struct AxisState {
   std::uint32_t largest_top = 0;  ///< The top of the last page.
   std::uint32_t edit = 0;         ///< The edit that has the focus.
   std::uint32_t used_edits = 0;   ///< How many edits show an element.
-  std::uint32_t current = 0;      ///< What counts as the current element: is there a further one?
-  std::uint32_t count = 0;        ///< The number of elements.
+  std::uint32_t current = 0;  ///< The current element, which decides whether there is another one.
+  std::uint32_t count = 0;    ///< The number of elements.
 };
 
-/// Where one axis stands after a step.
+/// The state of one axis after a step.
 struct AxisStep {
   std::uint32_t top = 0;   ///< The new top.
   std::uint32_t edit = 0;  ///< The edit that gets the focus.

@@ -6,8 +6,8 @@ namespace {
 
 constexpr char32_t kEscape = U'^';
 
-// What ! to } stand for: the characters that Adobe's "Symbol Encoding to Unicode" (1999) gives for
-// the codes of the Symbol character set. A space where a character stands for no symbol.
+// The symbols for ! to }: the characters that Adobe's "Symbol Encoding to Unicode" (1999) gives for
+// the codes of the Symbol character set. A space where there is none.
 constexpr std::u32string_view kSymbols =
     // !"#$%&'()*+,-./
     U"∨   °∞ ↔⇔×≠…±•÷"

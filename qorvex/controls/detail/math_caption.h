@@ -13,16 +13,16 @@ namespace qorvex::inline QorvexControls::detail {
 
 /// Neighbouring characters of a caption that are drawn in the same font.
 struct CaptionRun {
-  std::u32string text;  ///< What is drawn: never empty.
-  bool symbol = false;  ///< In the font of the symbols, not in the one of the text.
+  std::u32string text;  ///< The characters to draw, at least one.
+  bool symbol = false;  ///< Drawn in the symbols' font instead of the text's.
 
   friend bool operator==(const CaptionRun&, const CaptionRun&) = default;
 };
 
-/// The runs of a caption. A caret draws nothing and makes a symbol of the character after it:
-/// letters are the Greek ones of the Symbol character set, signs and digits are operators, and what
-/// stands for no symbol is a space in the symbols' font. Two carets are a caret of the text. A
-/// caret at the end is left out. O(length).
+/// The runs of a caption. A caret is not drawn; it turns the character after it into a symbol:
+/// letters become the Greek letters of the Symbol character set, signs and digits become operators,
+/// and any other character becomes a space in the symbols' font. Two carets stand for one caret in
+/// the text's font. A caret at the end is ignored. O(length).
 [[nodiscard]] QORVEX_EXPORT std::vector<CaptionRun> ParseCaption(std::u32string_view caption);
 
 /// The text of all runs: the caption as it reads.

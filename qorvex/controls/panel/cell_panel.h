@@ -10,7 +10,6 @@
 #include <memory>
 
 #include "qorvex/base/export.h"
-#include "qorvex/base_controls/cell_properties.h"
 #include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/base_controls/custom_panel.h"
 #include "qorvex/base_controls/uictrl.h"
@@ -33,12 +32,10 @@ enum class CurrentRule;
 /// A grid of cells with a scroll bar beside it, and one below it if the table has columns. The
 /// cells show the part of a CellTable that begins at DisplayTopRow.
 ///
-/// Keys: Enter and Ctrl+Down go to the cell below, Ctrl+Up to the one above, and the table scrolls
-/// at the edge of the grid; the page keys scroll by a page. Ctrl+Z undoes the last change by
-/// typing, pasting or a command, and Ctrl+Y or Ctrl+Shift+Z redoes it; while a text is being typed,
-/// they work on the text. Ctrl+Shift+C copies the whole table. Pasting several cells, as
-/// spreadsheets put them on the clipboard, fills the table from the focused cell on; if they do not
-/// all fit, nothing is pasted.
+/// Keys: Enter, Ctrl+Down and Ctrl+Up move by a row, and scroll at the edge of the grid; the page
+/// keys scroll by a page. Ctrl+Z undoes the last change, Ctrl+Y or Ctrl+Shift+Z redoes it; while a
+/// text is being typed, they work on the text. Ctrl+Shift+C copies the whole table, and several
+/// cells of a spreadsheet can be pasted.
 ///
 /// Before anything scrolls or changes under a cell, the text that is being typed there is
 /// committed, or discarded if it is not a number.
@@ -52,9 +49,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   ~CellPanel() override;
 
   /// @{
-  /// The shared settings that this control is linked to; none by default. A form names them by
-  /// their object name: the nearest object of that name in the control's window is looked up at
-  /// once, in the next turn of the event loop, and whenever the control is shown.
+  /// The shared settings that this control is linked to; none by default. A form names them: the
+  /// nearest object of that name in the control's window is looked up at once, in the next turn of
+  /// the event loop, and whenever the control is shown.
   [[nodiscard]] TQorUICtrl* UICtrl() const noexcept;
   [[nodiscard]] QString UICtrlName() const;
   void setUICtrl(TQorUICtrl* settings);
@@ -92,8 +89,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @}
 
   /// @{
-  /// Setting it makes every visible cell show null until the next redisplay; the elements keep
-  /// their values.
+  /// Makes every visible cell show null until the next redisplay. The elements keep their values.
   [[nodiscard]] bool Null() const noexcept { return null_; }
   void setNull(bool null);
   void resetNull() { setNull(false); }
@@ -115,9 +111,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @}
 
   /// @{
-  /// The current row. Setting another one scrolls until that row is under the focused cell, or
-  /// under the first cell if there are too few rows above it. Near the end, where the last page
-  /// stops, the row under the focused cell becomes the current one instead.
+  /// The current row. Setting it scrolls until that row is under the focused cell, or under the
+  /// first cell if there are too few rows above it. On the last page the row under the focused cell
+  /// becomes the current one.
   [[nodiscard]] quint32 CurrentRow() const noexcept;
   void setCurrentRow(quint32 row);
   /// @}
@@ -132,14 +128,13 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @}
 
   /// Pastes a text over the table from the focused cell on: line ends separate rows, tabs separate
-  /// cells. A text that does not fit, a cell that is not a number, or a read-only control refuses
-  /// the whole text: nothing changes, OnBlockRefused says why, and the result is false. Each
-  /// element that changes raises the event of a change.
+  /// cells. Each element that changes raises OnChange. If a cell does not fit or is not a number,
+  /// or the control is read-only, nothing changes, OnBlockRefused says why, and the result is
+  /// false.
   bool PasteBlock(const QString& text);
 
-  /// Copies the whole table to the clipboard with all digits, in the numbers of the locale, in the
-  /// form that PasteBlock and spreadsheets read; infinities are copied as "inf", which PasteBlock
-  /// refuses. More than ten million elements are refused.
+  /// Copies the whole table to the clipboard with all digits, in the numbers of the locale;
+  /// infinities as "inf", which PasteBlock refuses. More than ten million elements are refused.
   void CopyAll();
 
   /// Shows the elements in the cells, unless an update is in progress. In virtual mode, call it
@@ -147,20 +142,19 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Redisplay() override;
 
   /// @{
-  /// Undoes and redoes the last change by typing, pasting or a command. Elements that were typed or
-  /// pasted raise the events of a change again, and only they are restored. A command can be undone
-  /// until anything else changes, and nothing can be undone after the number of elements changes.
+  /// Undoes and redoes the last change by typing, pasting or a command. Typed and pasted elements
+  /// raise OnChange again. A command can be undone until anything else changes, and nothing can be
+  /// undone once the number of elements changes.
   [[nodiscard]] bool CanUndo() const noexcept;
   [[nodiscard]] bool CanRedo() const noexcept;
   void Undo();
   void Redo();
   /// @}
 
-  /// @{
-  /// The size of the cells, what is in front of them and the bars.
+  /// The size of the cells, the texts in front of them and the bars.
   [[nodiscard]] QSize sizeHint() const override;
+  /// The same.
   [[nodiscard]] QSize minimumSizeHint() const override;
-  /// @}
 
  Q_SIGNALS:
   /// DisplayTopRow is about to become the given row.
@@ -171,16 +165,14 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnColorSetChange();
   /// Undo or Redo has restored elements.
   void OnUndo();
-  /// A block could not be pasted or copied, or a typed value could not be stored; the message says
-  /// why, and in which row.
+  /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
   /// A typed text is not a number and has been discarded; the message names element and text.
   void OnTextRefused(const QString& message);
 
   /// @{
-  /// What happens in any of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event
-  /// suppresses the key. OnKeyPress follows OnKeyDown for keys that produce a character, control
-  /// characters included.
+  /// Events of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event suppresses
+  /// the key. OnKeyPress follows OnKeyDown for keys that produce a character or control character.
   void OnClick();
   void OnDblClick();
   void OnKeyDown(QKeyEvent* event);
@@ -229,12 +221,10 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// Copies a part of the table to the clipboard, as CopyAll does.
   void CopyBlock(const detail::TableBlock& block);
-  /// Runs a command on the whole table and redisplays, even when it raises. In virtual mode, where
-  /// the table is not stored here, it only redisplays.
+  /// Runs a command, but not in virtual mode, and redisplays, even when it raises.
   void Command(const std::function<void()>& command);
 
-  /// @{
-  /// Events of the base classes.
+  // Events of the base classes.
   void Loaded() override;
   void SettingsChanged() override;
   void DoColorSetChange() override;
@@ -244,7 +234,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
-  /// @}
 
  private:
   friend struct detail::PanelParts;

@@ -55,12 +55,4 @@ Extended UniformDistribution::Variance() const {
   return width_.hi / 12 * width_.hi;
 }
 
-Extended UniformDistribution::Skewness() const {
-  return AnyNaN(least_, greatest_) ? kNotANumber : 0;
-}
-
-Extended UniformDistribution::Mode() const {
-  return AnyNaN(greatest_) ? kNotANumber : least_;
-}
-
 }  // namespace qorvex

@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "qorvex/base/special/factorial.h"
-#include "qorvex/base/special_functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
@@ -67,7 +66,9 @@ Extended WeibullDistribution::Quantile(Tail tail, Extended p) const {
 Scaled WeibullDistribution::Moment(int n) const {
   const ExtendedPair power = ExtendedPair(static_cast<Extended>(n)) / shape_;
   if (power.hi >= 0) return special::FactorialOf(power);
-  return {power.hi > -1 ? Gamma(1 + power.hi) : kInfinite, ExtendedPair()};
+  if (power.hi <= -1) return {kInfinite, ExtendedPair()};
+  const ExtendedPair argument = power + 1;
+  return special::FactorialOf(argument) / Scaled{argument.hi, ExtendedPair()};
 }
 
 Extended WeibullDistribution::LnMomentRatio(int n) const {
