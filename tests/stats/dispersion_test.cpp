@@ -112,34 +112,4 @@ TEST(Dispersion, StandardiseWorksInPlaceAndRefusesOnlyAnExactZero) {
   EXPECT_MATH_ERROR(Standardise(one, 0, 1, true), rsStdDev);
 }
 
-TEST(Dispersion, MeansAndSpreadsOfPositiveElements) {
-  const TQorFloatVector v{1, 2, 4};
-  EXPECT_EQ(HarmonicMean(v), 3 / 1.75L);
-  EXPECT_EQ(RootMeanSquare({3, 4}), 5);
-  EXPECT_EQ(MeanDeviation({1, 2, 6}, 3), 2);
-  EXPECT_EQ(MeanDeviation({}, 5), 0);
-  // The logarithms are 0, ln 2 and 2 ln 2.
-  const std::pair<Extended, Extended> logarithmic[] = {
-      {GeometricMean(v), 2},
-      {GeometricStdDev(v, true), 2},
-      {GeometricStdDev(v, 2, false), std::pow(2, std::sqrt(2 / 3.0L))},
-  };
-  for (const auto& [value, expected] : logarithmic) {
-    EXPECT_LT(std::fabs(value - expected), 1e-18L) << expected;
-  }
-
-  EXPECT_MATH_ERROR(GeometricMean({}), rsVectorIsEmpty);
-  EXPECT_MATH_ERROR(GeometricMean({1, 1e-16L}), rsVectorNotPos);
-  EXPECT_MATH_ERROR(HarmonicMean({}), rsVectorIsEmpty);
-  EXPECT_MATH_ERROR(HarmonicMean({1, -1}), rsVectorNotPos);
-  EXPECT_MATH_ERROR(RootMeanSquare({}), rsVectorIsEmpty);
-  EXPECT_MATH_ERROR(GeometricStdDev({}, true), rsVectorIsEmpty);
-  EXPECT_MATH_ERROR(GeometricStdDev({-1}, true), rsVectorNotPos);
-  EXPECT_MATH_ERROR(GeometricStdDev({1}, true), rsVectorG1);
-  EXPECT_MATH_ERROR(GeometricStdDev({-1}, false), rsVectorNotPos);
-  EXPECT_MATH_ERROR(GeometricStdDev({-1}, 2, true), rsVectorG1);
-  EXPECT_MATH_ERROR(GeometricStdDev({-1, 3}, -2, true), rsVectorNotPos);
-  EXPECT_ERROR(GeometricStdDev(v, -1, true), EInvalidOp, rsInvalidOp);
-}
-
 }  // namespace qorvex

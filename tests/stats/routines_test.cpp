@@ -1,12 +1,15 @@
-// Single calls of the routines whose arguments and results are numbers: errors in their order,
-// points outside the support, infinities, NaN, and closed forms.
+// Single calls of the routines that return a number: errors in their order, points outside the
+// support, infinities, NaN, and closed forms.
 
+#include <concepts>
 #include <functional>
 #include <map>
+#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
+#include "qorvex/stats/QorvexPairStats.h"
 #include "qorvex/stats/QorvexStatistics.h"
 #include "support/table.h"
 #include "support/test.h"
@@ -14,14 +17,33 @@
 namespace qorvex {
 namespace {
 
-using Arguments = std::vector<Extended>;
-using Routine = std::function<Extended(const Arguments&)>;
+using Texts = std::vector<std::string>;
+using Routine = std::function<Extended(const Texts&)>;
+
+Extended Number(const std::string& text) {
+  if (text == "nan") return kNaN;
+  if (text.ends_with("inf")) return text.front() == '-' ? -kInfinity : kInfinity;
+  return Str2Float(text);
+}
+
+// A number, or the elements of a vector between semicolons, or "-" for an empty vector.
+template <class T>
+T Argument(const std::string& text) {
+  if constexpr (std::same_as<T, TQorFloatVector>) {
+    TQorFloatVector vector;
+    std::istringstream elements(text == "-" ? "" : text);
+    for (std::string element; std::getline(elements, element, ';');) vector.Append(Number(element));
+    return vector;
+  } else {
+    return static_cast<T>(Number(text));
+  }
+}
 
 template <class... Parameters>
 Routine Wrap(Extended (*routine)(Parameters...)) {
-  return [routine](const Arguments& arguments) {
+  return [routine](const Texts& arguments) {
     return [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
-      return routine(static_cast<Parameters>(arguments.at(kIndex))...);
+      return routine(Argument<std::remove_cvref_t<Parameters>>(arguments.at(kIndex))...);
     }
     (std::index_sequence_for<Parameters...>());
   };
@@ -35,6 +57,10 @@ Routine Wrap(Extended (*routine)(Parameters...)) {
 #define BETA(name, ...)                      \
   std::pair(#name, Wrap<__VA_ARGS__>(name)), \
       std::pair(#name "5", Wrap<__VA_ARGS__, Extended, Extended>(name))
+// The form with a mean and a standard deviation has "3" appended to its name.
+#define SHAPE(name)                                     \
+  std::pair(#name, Wrap<const TQorFloatVector&>(name)), \
+      std::pair(#name "3", Wrap<const TQorFloatVector&, Extended, Extended>(name))
 
 const std::map<std::string, Routine> kRoutines = {
     ROUTINE(Factorial),
@@ -73,13 +99,22 @@ const std::map<std::string, Routine> kRoutines = {
     BETA(InvBetaDistGreater, Extended, Extended, Extended),
     ROUTINE(IncompleteGamma),
     ROUTINE(IncompleteGamma2),
+    ROUTINE(GeometricMean),
+    ROUTINE(HarmonicMean),
+    ROUTINE(RootMeanSquare),
+    ROUTINE(MeanDeviation),
+    {"GeometricStdDev", Wrap<const TQorFloatVector&, Extended, bool>(GeometricStdDev)},
+    {"GeometricStdDev2", Wrap<const TQorFloatVector&, bool>(GeometricStdDev)},
+    SHAPE(GetSampleSkew),
+    SHAPE(GetPopulationSkew),
+    SHAPE(GetSampleKurtosis),
+    SHAPE(GetPopulationKurtosis),
+    {"TrimmedMean", Wrap(TrimmedMean<Extended>)},
+    {"ExcelTrimmedMean", Wrap(ExcelTrimmedMean<Extended>)},
+    ROUTINE(CoeffCorrelation),
+    ROUTINE(CoeffDetermination),
+    ROUTINE(GetSSE),
 };
-
-Extended Number(const std::string& text) {
-  if (text == "nan") return kNaN;
-  if (text.ends_with("inf")) return text.front() == '-' ? -kInfinity : kInfinity;
-  return Str2Float(text);
-}
 
 constexpr const char* kMessageNames[] = {
 #define NAME(id, text) #id,
@@ -89,8 +124,7 @@ constexpr const char* kMessageNames[] = {
 
 // What the routine returns, or the name of the message that it raises. The expected text stands for
 // every number that agrees with it.
-std::string ResultOf(const Routine& routine, const Arguments& arguments,
-                     const std::string& expected) {
+std::string ResultOf(const Routine& routine, const Texts& arguments, const std::string& expected) {
   try {
     const Extended result = routine(arguments);
     if (std::isnan(result)) return "nan";
@@ -104,12 +138,12 @@ std::string ResultOf(const Routine& routine, const Arguments& arguments,
   }
 }
 
-TEST(ClassicRoutines, AgreeWithTheTable) {
-  const testing::Table table("tables/classic_routines.csv");
+TEST(Routines, AgreeWithTheTable) {
+  const testing::Table table("tables/routines.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
-    Arguments arguments;
+    Texts arguments;
     std::istringstream texts(table.Text(row, "arguments"));
-    for (std::string text; texts >> text;) arguments.push_back(Number(text));
+    for (std::string text; texts >> text;) arguments.push_back(text);
     const std::string& expected = table.Text(row, "result");
     EXPECT_EQ(ResultOf(kRoutines.at(table.Text(row, "routine")), arguments, expected), expected)
         << table.Text(row, "routine") << ' ' << table.Text(row, "arguments");
