@@ -17,7 +17,7 @@ TQorMathLabel* Label(const QString& caption) {
   return label;
 }
 
-// A caption as it is written.
+// A caption as typed.
 TQorCustomLabel* Source(const QString& caption) {
   auto* const label = new TQorCustomLabel;
   label->setShowAccelChar(false);

@@ -12,7 +12,7 @@ using qorvex::TQorMatrixFractEdit;
 
 namespace {
 
-// Correlations of a series with itself: ones on the diagonal, negative ones and zeroes stand out.
+// Autocorrelations of a series, with colours for the diagonal, negative elements and zeros.
 TQorMatrixEdit* Coloured() {
   auto* const editor = new TQorMatrixEdit;
   editor->setNoOfRowEdits(8);

@@ -11,7 +11,7 @@ namespace qorvex {
 
 using BlockPaste = EditorFixture<TQorVectorEdit>;
 
-TEST_F(BlockPaste, FillsTheVectorFromTheFocusedCellAndIsTakenBackInOneStep) {
+TEST_F(BlockPaste, FillsTheVectorFromTheFocusedCellAndIsUndoneInOneStep) {
   Open(6);
   editor->setDisplayTopRow(1);
   editor->setEditFocus(1);

@@ -60,7 +60,7 @@ TYPED_TEST(Cells, CommitExactlyWhatIsTypedAndNothingElse) {
   EXPECT_EQ(changed.count(), 0);
 
   this->Type("2.5");
-  EXPECT_EQ(edit->Value(), pi) << "typing is free";
+  EXPECT_EQ(edit->Value(), pi) << "typing alone changes nothing";
   this->Press(Qt::Key_Escape);
   EXPECT_EQ(edit->text(), shown);
   EXPECT_EQ(edit->selectedText(), shown) << "the next key types over it";
@@ -73,7 +73,7 @@ TYPED_TEST(Cells, CommitExactlyWhatIsTypedAndNothingElse) {
   EXPECT_EQ(changed.count(), 2);
 }
 
-TYPED_TEST(Cells, MarkWhatIsNoNumberAndNeverStoreIt) {
+TYPED_TEST(Cells, MarkInvalidTextAndNeverStoreIt) {
   TypeParam* const edit = this->cell;
   edit->setValue(7);
   const QColor base = edit->palette().color(QPalette::Base);
@@ -103,7 +103,7 @@ TYPED_TEST(Cells, MarkWhatIsNoNumberAndNeverStoreIt) {
   EXPECT_EQ(edit->Value(), 7);
 }
 
-TYPED_TEST(Cells, KnowNullAndZero) {
+TYPED_TEST(Cells, ReadAndShowNullAndZero) {
   TypeParam* const edit = this->cell;
   edit->setNullStr("n/a");
   QSignalSpy nulls(edit, &TQorCustomEdit::OnNull);
@@ -123,10 +123,10 @@ TYPED_TEST(Cells, KnowNullAndZero) {
   edit->setValue(3);
   this->Type("n/a");
   this->other->setFocus();
-  EXPECT_EQ(edit->Value(), 3) << "null cannot be typed now";
+  EXPECT_EQ(edit->Value(), 3) << "null cannot be typed";
   this->Type(" ");
   this->other->setFocus();
-  EXPECT_EQ(edit->Value(), 0) << "blank is what a zero looks like";
+  EXPECT_EQ(edit->Value(), 0) << "a zero shows as blank";
   edit->setBlankWhenZero(false);
   edit->setValue(3);
   this->Type(" ");
@@ -134,7 +134,7 @@ TYPED_TEST(Cells, KnowNullAndZero) {
   EXPECT_EQ(edit->Value(), 3);
 }
 
-TYPED_TEST(Cells, SelectOnEntryAndOnClickWhereTheyShall) {
+TYPED_TEST(Cells, SelectTheirTextOnEntryOrOnClick) {
   TypeParam* const edit = this->cell;
   edit->setValue(25);
   const auto enter = [this, edit] {
@@ -157,7 +157,7 @@ TYPED_TEST(Cells, SelectOnEntryAndOnClickWhereTheyShall) {
   EXPECT_FALSE(edit->hasSelectedText()) << "a second click places the cursor";
 }
 
-TEST_F(FloatCell, ShowsAsManyDigitsAsItIsTold) {
+TEST_F(FloatCell, ShowsTheDigitsThatItsSettingsAskFor) {
   const struct {
     Extended value;
     int decimals;
@@ -181,7 +181,7 @@ TEST_F(FloatCell, ShowsAsManyDigitsAsItIsTold) {
   EXPECT_EQ(cell->DecimalPlaces(), 255);
 }
 
-TEST_F(FloatCell, SpeaksTheLanguageOfItsLocale) {
+TEST_F(FloatCell, FollowsItsLocale) {
   cell->setValue(-1.5L);
   cell->setLocale(QLocale(QLocale::German));
   EXPECT_EQ(cell->text(), "-1,5000");
@@ -203,7 +203,7 @@ TEST_F(FloatCell, SpeaksTheLanguageOfItsLocale) {
   EXPECT_EQ(cell->text(), "12,0000");
 }
 
-TEST_F(FloatCell, PastesOneNumberAndHandsBlocksOn) {
+TEST_F(FloatCell, PastesOneNumberAndPassesBlocksOn) {
   QSignalSpy blocks(cell, &TQorCustomEdit::BlockPasted);
   QSignalSpy typed(cell, &QLineEdit::textEdited);
   const auto paste = [this](const char* text) {

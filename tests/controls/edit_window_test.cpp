@@ -124,7 +124,7 @@ TEST(EditWindow, TheBarMovesNeitherItselfNorTheCurrentElement) {
   }
 }
 
-TEST(EditWindow, ACurrentElementIsAskedFor) {
+TEST(EditWindow, RequestingACurrentElementScrollsToIt) {
   struct {
     std::uint32_t element;
     State reached;
@@ -192,7 +192,7 @@ TEST(EditWindow, OtherSizesKeepTopFocusAndCurrentElementOnTheAxis) {
     EXPECT_EQ(w.Current(), rule == CurrentRule::kFollowsTop ? 299U : 45U);
     r.Take();
     w.Enter(0);
-    EXPECT_EQ(r.Take(), "") << "there is no edit";
+    EXPECT_EQ(r.Take(), "") << "there are no edits";
   }
 }
 
@@ -261,8 +261,8 @@ TEST(EditWindow, ABarReachesEveryPartOfALongAxis) {
   }
 }
 
-// An owner who knows only the events knows everything, whatever the order of operations.
-TEST(EditWindow, EventsTellEveryChange) {
+// The events alone give the full state, whatever the order of operations.
+TEST(EditWindow, EventsReportEveryChange) {
   const auto seed = std::random_device{}();
   SCOPED_TRACE(seed);
   std::mt19937 engine(seed);

@@ -29,7 +29,7 @@ inline QString Text(Extended value) {
   return QString::fromStdString(Float2Str(value));
 }
 
-/// A wheel event as from a mouse: what nobody handles goes to the parent.
+/// A wheel event as from a mouse: an unhandled event goes to the parent.
 inline void TurnWheel(QWidget* widget, int amount, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
   const QPointF place(2, 2);
   QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, amount}, Qt::NoButton,

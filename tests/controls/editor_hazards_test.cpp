@@ -1,8 +1,6 @@
-// What happens to an editor while something else is going on: handlers that change it, windows that
-// are inactive, texts that come from elsewhere than the keyboard.
+// Editors under unusual conditions: handlers that change them, inactive windows, and texts that are
+// not typed.
 
-#include <QDropEvent>
-#include <QMimeData>
 #include <algorithm>
 #include <memory>
 
@@ -74,7 +72,7 @@ TEST_F(EditorHazards, HandlersThatChangeTheVectorLoseNothing) {
   editor->setVector({7, 8, 9});
 }
 
-TEST_F(EditorHazards, AnOwnerMayKeepAnotherValueOrFewerRows) {
+TEST_F(EditorHazards, TheProgramMayStoreAnotherValueOrFewerRows) {
   editor->setNoOfRows(4'000'000'000U);
   editor->setVirtualMode(true);
   Extended kept = 1;
@@ -94,7 +92,7 @@ TEST_F(EditorHazards, AnOwnerMayKeepAnotherValueOrFewerRows) {
   EXPECT_EQ(Texts(), "0.0000|1.0000||");
 }
 
-TEST_F(EditorHazards, AnInactiveWindowTellsNothingOfRowsThatThereAreNot) {
+TEST_F(EditorHazards, AnInactiveWindowRaisesNoEventsForRowsThatAreGone) {
   Open(10);
   editor->setDisplayTopRow(6);
   editor->setEditFocus(3);

@@ -98,7 +98,7 @@ TYPED_TEST(Editors, ShowNothingOfABatchUntilItEnds) {
   this->editor->ScrollDown(1);
   this->editor->EndUpdate();
   EXPECT_EQ(this->Texts(), "0|1|2|3");
-  EXPECT_TRUE(this->Take().starts_with("top 1")) << "events do not wait";
+  EXPECT_TRUE(this->Take().starts_with("top 1")) << "events are not delayed";
   this->editor->EndUpdate();
   EXPECT_EQ(this->Texts(), "1|2|3|4");
   this->editor->EndUpdate();

@@ -98,7 +98,7 @@ void ExpectNoNumberIsCutOff() {
     ASSERT_TRUE(painted.isEmpty() || Width(cell, painted) <= room);
     if (painted == cell.text()) continue;
     ++shorter;
-    ASSERT_GT(Width(cell, cell.text()), room - 2) << "it would have fit";
+    ASSERT_GT(Width(cell, cell.text()), room - 2) << "it would have fitted";
     if (QLatin1String("####").startsWith(painted)) continue;
     const auto value = QorvexBaseControls::detail::ParseLocalNumber(painted, cell.locale());
     ASSERT_TRUE(value);
@@ -162,7 +162,7 @@ TEST_F(FittedVector, HasTheWholeTextForEditingTipsAndScreenReaders) {
   EXPECT_EQ(TipOf(*Cell(1)), "") << "nothing is missing";
   EXPECT_EQ(QAccessible::queryAccessibleInterface(cell)->text(QAccessible::Value), whole);
   editor->setEditFocus(0);
-  EXPECT_EQ(cell->PaintedText(), whole) << "it is edited";
+  EXPECT_EQ(cell->PaintedText(), whole) << "it is being edited";
   EXPECT_EQ(cell->selectedText(), whole);
   other->setFocus();
   EXPECT_EQ(cell->PaintedText(), painted);
@@ -174,7 +174,7 @@ TEST_F(FittedVector, HasTheWholeTextForEditingTipsAndScreenReaders) {
   EXPECT_EQ(cell->PaintedText(), painted);
   EXPECT_NE(cell->grab().toImage(), selected);
   cell->setSelection(0, 3);
-  EXPECT_EQ(cell->PaintedText(), whole) << "what is selected shows";
+  EXPECT_EQ(cell->PaintedText(), whole) << "a selected text is shown whole";
 }
 
 TEST_F(FittedVector, FollowsWidthFontAndSettings) {
@@ -201,7 +201,7 @@ TEST_F(FittedVector, FollowsWidthFontAndSettings) {
   editor->setElement(0, kNaN);
   editor->setCellWidth(40);
   EXPECT_TRUE(cell->PaintedText().startsWith("not"));
-  EXPECT_TRUE(cell->PaintedText().endsWith(QChar(0x2026))) << "no number";
+  EXPECT_TRUE(cell->PaintedText().endsWith(QChar(0x2026))) << "not a number";
 }
 
 TEST_F(FittedVector, PaintsAnotherValueOfTheSameText) {

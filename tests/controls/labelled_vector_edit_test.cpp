@@ -53,7 +53,7 @@ TEST_F(LabelledVectorEdit, LabelsRowsByTheirType) {
   EXPECT_FALSE(editor->LabelsEditable());
 }
 
-TEST_F(LabelledVectorEdit, SortsBothColumnsForThemselves) {
+TEST_F(LabelledVectorEdit, SortsBothColumnsIndependently) {
   editor->setVector({3, 1, 2});
   Name({"b", "C", "a"});
   editor->Sort();

@@ -3,7 +3,6 @@
 #include <QHBoxLayout>
 #include <QImage>
 #include <QLineEdit>
-#include <QMetaProperty>
 #include <QPainter>
 #include <QTest>
 #include <cmath>
@@ -12,9 +11,9 @@
 #include <string>
 #include <vector>
 
-#include "designer/changed_value.h"
 #include "qorvex/controls/QorvexMathLabel.h"
 #include "qorvex/controls/detail/math_caption.h"
+#include "support/properties.h"
 
 namespace qorvex {
 
@@ -356,30 +355,9 @@ TEST(MathLabel, ScreenReadersGetTheSymbols) {
 }
 
 TEST(MathLabel, PublishesItsPropertiesWithTheirDefaults) {
-  const std::pair<const char*, QVariant> properties[] = {{"Alignment", TQorCustomLabel::laLeading},
-                                                         {"AutoSize", true},
-                                                         {"Caption", ""},
-                                                         {"EmbossedStyle", TQorCustomLabel::esNone},
-                                                         {"FocusControl", ""},
-                                                         {"Layout", TQorCustomLabel::llCentered},
-                                                         {"ShowAccelChar", true},
-                                                         {"Transparent", true},
-                                                         {"WordWrap", false},
-                                                         {"SymbolFamily", ""}};
-  TQorMathLabel label;
-  const QMetaObject& meta = TQorMathLabel::staticMetaObject;
-  int index = TQorCustomLabel::staticMetaObject.propertyOffset();
-  for (const auto& [name, initial] : properties) {
-    SCOPED_TRACE(name);
-    const QMetaProperty property = meta.property(index++);
-    EXPECT_STREQ(property.name(), name);
-    EXPECT_TRUE(property.hasStdCppSet());
-    EXPECT_TRUE(property.write(&label, ChangedValue(property, initial)));
-    EXPECT_NE(PlainValue(property, property.read(&label)), initial);
-    EXPECT_TRUE(property.reset(&label));
-    EXPECT_EQ(PlainValue(property, property.read(&label)), initial);
-  }
-  EXPECT_EQ(index, meta.propertyCount());
+  EXPECT_EQ(PropertyTable(TQorMathLabel()),
+            "Alignment=0 AutoSize=true Caption= EmbossedStyle=0 FocusControl= Layout=1 "
+            "ShowAccelChar=true Transparent=true WordWrap=false SymbolFamily=");
 }
 
 }  // namespace qorvex

@@ -40,7 +40,7 @@ struct MatrixFixture : EditorFixture<Editor> {
 using MatrixEdit = MatrixFixture<TQorMatrixEdit>;
 using MatrixFractEdit = MatrixFixture<TQorMatrixFractEdit>;
 
-TEST_F(MatrixEdit, TellsWhatHappensInOrder) {
+TEST_F(MatrixEdit, RaisesEventsInOrder) {
   Open(6, 5);
   const auto press = [this](Qt::Key key) { return [=, this] { Press(key, Qt::ControlModifier); }; };
   const struct {
@@ -82,7 +82,7 @@ TEST_F(MatrixEdit, TellsWhatHappensInOrder) {
   }
 }
 
-TEST_F(MatrixEdit, CommandsDoWhatTheRoutinesDoAndCanBeTakenBack) {
+TEST_F(MatrixEdit, CommandsApplyTheRoutinesAndCanBeUndone) {
   const TQorFloatMatrix start = {{4, 1}, {0.25L, 2}};
   editor->setMatrix(start);
   Show();

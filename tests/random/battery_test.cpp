@@ -126,10 +126,10 @@ class Battery : public ::testing::TestWithParam<Judged> {};
 TEST_P(Battery, Agrees) {
   const auto& [variate, cases, reference, draws] = GetParam();
   const testing::NamedDraw draw = testing::Variates().at(variate);
-  for (const auto& p : cases) {
-    SCOPED_TRACE(::testing::PrintToString(p));
-    ExpectAgreement([&](auto source) { return draw(p[0], p[1], source); }, reference(p[0], p[1]),
-                    draws);
+  for (const auto [a, b] : cases) {
+    SCOPED_TRACE(::testing::Message() << a << ' ' << b);
+    ExpectAgreement([draw, a = a, b = b](auto source) { return draw(a, b, source); },
+                    reference(a, b), draws);
   }
 }
 

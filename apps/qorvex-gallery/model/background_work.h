@@ -24,8 +24,8 @@ class BackgroundWork : public QObject {
   ~BackgroundWork() override;
 
   /// Starts the work, which calls proceed regularly and returns soon after it gives false. Then
-  /// calls done on the thread of this object, or failed with the text of the exception that the work
-  /// has thrown. Stops other work first.
+  /// calls done on the thread of this object, or failed with the text of the exception that the
+  /// work has thrown. Stops other work first.
   void Start(std::function<void(const Proceed& proceed)> work, std::function<void()> done,
              std::function<void(const QString& why)> failed);
   /// Stops the work and waits until it has ended; neither done nor failed is called.

@@ -65,13 +65,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void setUIUsage(TQorUICtrl::TQorUIUsage usage);
   void resetUIUsage();
   /// @}
-
   /// The settings of the cells: the control's own or the shared ones.
   [[nodiscard]] CellSettings EffectiveSettings() const;
 
   /// @{
-  /// The size of a cell in pixels, 21 and 81 by default; negative sizes count as 0. A cell is never
-  /// lower than a line of its font.
+  /// The size of a cell in pixels, 21 and 81 by default; at least 0 and a line of its font.
   [[nodiscard]] int CellHeight() const noexcept;
   void setCellHeight(int height);
   void resetCellHeight();
@@ -94,7 +92,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void setNull(bool null);
   void resetNull() { setNull(false); }
   /// @}
-
   /// @{
   /// The tab key stops at the cells; true by default.
   [[nodiscard]] bool TabStop() const noexcept { return tab_stop_; }
@@ -127,18 +124,16 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ScrollBottom();
   /// @}
 
-  /// Pastes a text over the table from the focused cell on: line ends separate rows, tabs separate
-  /// cells. Each element that changes raises OnChange. If a cell does not fit or is not a number,
-  /// or the control is read-only, nothing changes, OnBlockRefused says why, and the result is
-  /// false.
+  /// Pastes a text from the focused cell on: line ends separate rows, tabs separate cells. Each
+  /// element that changes raises OnChange. If a cell does not fit or is not a number, or the
+  /// control is read-only, nothing changes, OnBlockRefused says why, and the result is false.
   bool PasteBlock(const QString& text);
 
   /// Copies the whole table to the clipboard with all digits, in the numbers of the locale;
   /// infinities as "inf", which PasteBlock refuses. More than ten million elements are refused.
   void CopyAll();
 
-  /// Shows the elements in the cells, unless an update is in progress. In virtual mode, call it
-  /// when the elements have changed.
+  /// Shows the elements, unless an update is in progress. In virtual mode, call it if they change.
   void Redisplay() override;
 
   /// @{
@@ -221,10 +216,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// Copies a part of the table to the clipboard, as CopyAll does.
   void CopyBlock(const detail::TableBlock& block);
-  /// Runs a command, but not in virtual mode, and redisplays, even when it raises.
+  /// Runs a command, but not in virtual mode, and redisplays, even if it raises.
   void Command(const std::function<void()>& command);
 
-  // Events of the base classes.
+  /// @{
+  /// Events of the base classes.
   void Loaded() override;
   void SettingsChanged() override;
   void DoColorSetChange() override;
@@ -234,10 +230,10 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  /// @}
 
  private:
   friend struct detail::PanelParts;
-
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
   void ApplySettings();
@@ -245,7 +241,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void RefuseBlock(const QString& message);
   void RefuseText(quint32 row, quint32 col, const QString& text);
   void AddToMenu(QMenu* menu);
-
   CellTable& table_;
   bool null_ = false;
   bool tab_stop_ = true;

@@ -7,6 +7,7 @@
 #include <QString>
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
 
 namespace qorvex::inline QorvexControls {
 
@@ -20,7 +21,7 @@ enum class CellEvent {
 
 /// A table of elements. An editor implements it over the vector or matrix that it stores, or over
 /// the requests that it sends in virtual mode.
-class CellTable {
+class QORVEX_EXPORT CellTable {
  public:
   /// @{
   /// The size of the table.
