@@ -99,24 +99,25 @@ TEST(DiscreteDistributions, AgreeWithTheirFormulasToTheLastBit) {
 TEST(DiscreteDistributions, AgreeWithTheTables) {
   using Value = std::function<Extended(const char*)>;
   const auto count = [](Extended x) { return static_cast<Count>(x); };
-  const struct {
+  struct Reference {
     const char* file;
     std::function<Distribution(const Value&)> of_row;
     Extended eq_limit, less_limit;
-  } references[] = {
+  };
+  const Reference references[] = {
       {"binomial", [&](auto& v) { return Binomial(v("p_dec"), count(v("n"))); }, 50, 15},
       {"hypergeometric",
        [&](auto& v) { return HyperGeometric(count(v("N")), count(v("n")), count(v("K"))); }, 50,
        50},
       {"poisson", [&](auto& v) { return Poisson(v("lambda_dec")); }, 15, 15},
   };
-  for (const auto& [file, of_row, eq_limit, less_limit] : references) {
-    const testing::Table table("tables/" + std::string(file) + ".csv");
+  for (const Reference& reference : references) {
+    const testing::Table table("tables/" + std::string(reference.file) + ".csv");
     const auto expect_worst = [&](const char* column, Extended limit, auto routine) {
       testing::ExpectWorstError(table, column, limit, [&](std::size_t row) {
         const auto value = [&](const char* name) { return table.Value(row, name); };
         try {
-          return (of_row(value).*routine)(count(value("k")));
+          return (reference.of_row(value).*routine)(count(value("k")));
         } catch (const EMathError& error) {
           EXPECT_EQ(error.message_id(), rsBinomOverflowed);
           EXPECT_EQ(value("N"), 20000);
@@ -124,8 +125,8 @@ TEST(DiscreteDistributions, AgreeWithTheTables) {
         }
       });
     };
-    expect_worst("pmf", eq_limit, &Distribution::eq);
-    expect_worst("cdf_lt", less_limit, &Distribution::less);
+    expect_worst("pmf", reference.eq_limit, &Distribution::eq);
+    expect_worst("cdf_lt", reference.less_limit, &Distribution::less);
   }
 }
 
