@@ -46,7 +46,7 @@ int main() {
   std::cout << "Heights: " << Float2EStr(QorMean(heights), 2) << " +- "
             << Float2EStr(SampleStdDev(heights), 2) << " cm\n";
 
-  // Four threads, each with a source of its own.
+  // Four threads, each with its own source.
   constexpr int months = 250'000;
   std::array<int, 4> wet;
   {

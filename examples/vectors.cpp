@@ -11,7 +11,7 @@ int main() {
   AppendValue2Vector(speeds, 300.07L);
 
   TQorFloatVector shared = speeds;         // the same elements
-  const auto copy = CopyVector(speeds);    // new elements
+  const auto copy = CopyVector(speeds);    // an independent copy
   LinearTransformVector(shared, 1000, 0);  // kilometres to metres, seen through both handles
   std::cout << Float2EStr(MaxVector(speeds), 0) << " m/s, was " << Float2EStr(MaxVector(copy), 2)
             << " km/s\n";

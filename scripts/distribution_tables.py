@@ -231,8 +231,8 @@ class Quadrature:
             tail = self.tail_at(side, *parameters, distance)
             slope = distance * self.density(*parameters, self.point(side, distance)) / tail
             return (log_tail - mp.log(tail)) / slope
-        distance = self.start(*parameters)
         with mp.workdps(20):
+            distance = self.start(*parameters, min(p, q))
             step = 1
             while abs(step) > mpf(10) ** -12:
                 step = self.limited(newton_step(distance))
@@ -276,8 +276,15 @@ class VonMises(Quadrature):
         """Whether the tail grows with the distance."""
         return True
 
-    def start(self, k):
-        return +mp.pi
+    def start(self, k, p):
+        nearby = p / self.density(k, +mp.pi)
+        if nearby < 0.1:
+            return nearby
+        low, high = mpf(0), +mp.pi
+        for _ in range(40):
+            middle = (low + high) / 2
+            low, high = (low, middle) if self.tail_at(1, k, middle) > p else (middle, high)
+        return low
 
     def limited(self, step):
         return step
@@ -342,7 +349,7 @@ class GeneralisedInverseGaussian(Quadrature):
     def grows(self, side):
         return side == 0
 
-    def start(self, h, b):
+    def start(self, h, b, p):
         return mp.exp(self.mode(h, b))
 
     def limited(self, step):

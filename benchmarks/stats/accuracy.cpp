@@ -77,7 +77,7 @@ void Print() {
   std::puts("|---|---|---|---|---|---|---|---|---|");
   constexpr Extended usual = 1e-20L;
   for (const Figure& figure : testing::DistributionFigures()) {
-    const Table table(figure.file);
+    const Table table = figure.Open();
     const auto found = AllContestants().find(figure.name);
     const Contestants others = found == AllContestants().end() ? Contestants() : found->second;
     const auto cell = [&](const Routine& routine, Extended least) {

@@ -257,6 +257,31 @@ void CompareCurves(const std::string& family, Make make) {
                              {"Boost", QORVEX_BOOST(poisson_distribution<Extended>(12.5L))},
                              {"GSL", QORVEX_GSL_DISCRETE(poisson, 12.5)}});
 
+  CompareFigures("uniform", {{"ours", QORVEX_CLASS(UniformDistribution(-1, 3))},
+                             {"Boost", QORVEX_BOOST(uniform_distribution<Extended>(-1, 3))},
+                             {"GSL", QORVEX_GSL(flat, -1, 3)}});
+  CompareFigures("Weibull", {{"ours", QORVEX_CLASS(WeibullDistribution(2.5L, 3))},
+                             {"Boost", QORVEX_BOOST(weibull_distribution<Extended>(2.5L, 3))},
+                             {"GSL", QORVEX_GSL(weibull, 3, 2.5)}});
+  CompareFigures("Gumbel", {{"ours", QORVEX_CLASS(GumbelDistribution(1, 2))},
+                            {"Boost", QORVEX_BOOST(extreme_value_distribution<Extended>(1, 2))}});
+  CompareFigures("logistic", {{"ours", QORVEX_CLASS(LogisticDistribution(1, 2))},
+                              {"Boost", QORVEX_BOOST(logistic_distribution<Extended>(1, 2))}});
+  CompareFigures("Cauchy", {{"ours", QORVEX_CLASS(CauchyDistribution(1, 2))},
+                            {"Boost", QORVEX_BOOST(cauchy_distribution<Extended>(1, 2))}});
+  CompareFigures("von Mises", {{"ours", QORVEX_CLASS(VonMisesDistribution(2))}});
+  using GeneralisedInverseGaussian = GeneralisedInverseGaussianDistribution;
+  CompareFigures("generalised inverse Gaussian",
+                 {{"ours", QORVEX_CLASS(GeneralisedInverseGaussian(2, 0.5L))}});
+  CompareFigures("inverse Gaussian",
+                 {{"ours", QORVEX_CLASS(GeneralisedInverseGaussian::InverseGaussian(3, 7))},
+                  {"Boost", QORVEX_BOOST(inverse_gaussian_distribution<Extended>(3, 7))}});
+  CompareFigures("geometric", {{"ours", QORVEX_CLASS(GeometricDistribution(0.3L))},
+                               {"Boost", QORVEX_BOOST(geometric_distribution<Extended>(0.3L))}});
+  CompareFigures("negative binomial",
+                 {{"ours", QORVEX_CLASS(NegativeBinomialDistribution(0.6L, 3.5L))},
+                  {"Boost", QORVEX_BOOST(negative_binomial_distribution<Extended>(3.5L, 0.4L))}});
+
   CompareCurves("gamma", [] { return GammaDistribution(3.7L); });
   CompareCurves("beta", [] { return BetaDistribution(2.7L, 1.6L); });
   CompareCurves("F", [] { return FDistribution(5, 12); });

@@ -34,7 +34,7 @@ enum TQorFractionDisplay {
   fdImproper  ///< "7/3"
 };
 
-/// The largest number of decimals that a fraction can be asked to agree with its value to.
+/// The largest number of decimals for Float2MixedFraction.
 inline constexpr int kMostFractionDecimals = 18;
 
 /// A simple fraction that agrees with the value to a number of decimals.

@@ -11,7 +11,7 @@ namespace qorvex::inline QorvexMatrix {
 template <AnyElement T>
 TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix, std::uint32_t row) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return {};
+  if (shape.HasAtMostOneLine()) return {};
   detail::RequireRow(shape, row);
   detail::RequireLength(matrix[row], shape.cols);
   return TQorVector<T>(std::span(matrix[row]).first(shape.cols));
@@ -20,7 +20,7 @@ TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>& matrix, std::uint32_t row) {
 template <AnyElement T>
 TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix, std::uint32_t col) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return {};
+  if (shape.HasAtMostOneLine()) return {};
   detail::RequireCol(shape, col);
   detail::RequireLengths(matrix, shape.cols);
   auto result = TQorVector<T>::ForOverwrite(shape.rows);
@@ -32,7 +32,7 @@ template <AnyElement T>
 void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVector<T>& vector,
                         ScalarOf<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return;
+  if (shape.HasAtMostOneLine()) return;
   detail::RequireRow(shape, row);
   detail::RequireLength(matrix[row], shape.cols);
   T* const elements = matrix[row].data();
@@ -45,7 +45,7 @@ template <AnyElement T>
 void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVector<T>& vector,
                         ScalarOf<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return;
+  if (shape.HasAtMostOneLine()) return;
   detail::RequireCol(shape, col);
   detail::RequireLengths(matrix, shape.cols);
   const std::size_t given = std::min<std::size_t>(vector.size(), shape.rows);

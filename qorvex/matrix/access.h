@@ -4,8 +4,8 @@
 /// Copying single rows and columns between a matrix and a vector.
 ///
 /// - If MatrixDimensions reports at most one row or at most one column, nothing is written, the
-///   extracted vector is empty and no error is raised, whatever the index. With the shape switch on
-///   this includes ragged matrices, which count as having no columns.
+///   extracted vector is empty and no error is raised, for any index. With the shape switch on this
+///   includes ragged matrices, which count as having no columns.
 /// - Otherwise EMathError, in this order and before anything is written: rsInvalidRow or
 ///   rsInvalidCol if the index is out of range; with the shape switch off rsMatrixRect if a row
 ///   that is read or written is shorter than the first.

@@ -62,7 +62,7 @@ void PermuteCols(TQorMatrix<T>& matrix, const Order& order, T* scratch) {
 template <AnyElement T>
 void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascending) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return;
+  if (shape.HasAtMostOneLine()) return;
   detail::RequireRectangular(shape);
   detail::RequireCol(shape, col);
   detail::RequireLengths(matrix, shape.cols);
@@ -75,7 +75,7 @@ void QSortMatrixRowsOnCol(TQorMatrix<T>& matrix, std::uint32_t col, bool ascendi
 template <AnyElement T>
 void QSortMatrixColsOnRow(TQorMatrix<T>& matrix, std::uint32_t row, bool ascending) {
   const detail::Shape shape = detail::ShapeOf(matrix);
-  if (shape.AtMostOneLine()) return;
+  if (shape.HasAtMostOneLine()) return;
   detail::RequireRectangular(shape);
   detail::RequireRow(shape, row);
   detail::RequireLengths(matrix, shape.cols);

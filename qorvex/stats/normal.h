@@ -6,10 +6,10 @@
 /// Limits of the probabilities, which all come from the power series of NormalLess:
 ///
 /// - Up to z = 8.5 the error is at most six units of the 64-bit mantissa.
-/// - Beyond, the hundred terms do not suffice: the result is too small by 3e-16 at 9 and by 2e-13
-///   at 9.5. From about 9.95 on it is 0.5 instead of nearly 1, because the first terms already pass
-///   the test of convergence. Do not rely on results more than 8.5 standard deviations from the
-///   mean.
+/// - Beyond that, the hundred terms do not suffice: the result is too small by 3e-16 at 9 and by
+///   2e-13 at 9.5. From about 9.95 on it is 0.5 instead of nearly 1, because the first terms
+///   already pass the test of convergence. Do not rely on results more than 8.5 standard deviations
+///   from the mean.
 /// - Upper tails are 1 - lower, and lower tails below the mean are 1 - upper. Their absolute error
 ///   is about 1e-19, so a tail of 1e-10 has nine digits left. NormalDistribution keeps all digits
 ///   in both tails.

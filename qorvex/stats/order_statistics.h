@@ -7,8 +7,8 @@
 /// - These routines neither sort nor copy; sort once with QSortVector and call as many as you need.
 ///   They do not check the order either: the "median" of (4, 1, 3, 2) is 2.
 /// - n = 0: EMathError rsVectorIsEmpty, and the outputs keep their values.
-/// - NaN: QSortVector puts it last, so it affects the upper order statistics. Each NaN is a run of
-///   its own.
+/// - NaN: QSortVector puts it last, so it affects the upper order statistics. Each NaN forms its
+///   own run.
 /// - Infinity: interpolation next to an infinite element gives NaN if the weight of that element is
 ///   0, otherwise the infinity.
 

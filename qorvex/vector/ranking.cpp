@@ -14,7 +14,7 @@ constexpr std::int32_t kNoRank = -1;
 constexpr Extended kContiguityLimit = 0.5L;
 
 template <AnyElement T>
-bool Equal(T x, T y) {
+bool AreEqual(T x, T y) {
   if constexpr (FloatElement<T>) {
     return SameFloat(x, y);
   } else {
@@ -24,7 +24,7 @@ bool Equal(T x, T y) {
 
 // The strict order of the sort. False if x is NaN.
 template <AnyElement T>
-bool Before(T x, T y, bool ascending) {
+bool IsBefore(T x, T y, bool ascending) {
   return ascending ? x < y : x > y;
 }
 
@@ -34,13 +34,13 @@ template <AnyElement T>
 std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending) {
   const T* first_equal = nullptr;
   for (const T& x : vector) {
-    if (Equal(x, value) && (first_equal == nullptr || Before(x, *first_equal, ascending)))
+    if (AreEqual(x, value) && (first_equal == nullptr || IsBefore(x, *first_equal, ascending)))
       first_equal = &x;
   }
   if (first_equal == nullptr) return kNoRank;
   const T first = *first_equal;
   return static_cast<std::int32_t>(
-      std::ranges::count_if(vector, [=](T x) { return Before(x, first, ascending); }));
+      std::ranges::count_if(vector, [=](T x) { return IsBefore(x, first, ascending); }));
 }
 
 // Ranks all elements in one pass over their sorted order. Elements that equal a given one are
@@ -52,8 +52,8 @@ void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& 
   std::size_t first_equal = 0;
   for (std::size_t position = 0; position < vector.size(); ++position) {
     const T x = sorted.Value(position);
-    if (!Equal(x, x)) break;  // NaN, like all elements that follow
-    while (!Equal(sorted.Value(first_equal), x)) ++first_equal;
+    if (!AreEqual(x, x)) break;  // NaN, like all elements that follow
+    while (!AreEqual(sorted.Value(first_equal), x)) ++first_equal;
     ranks[sorted.Index(position)] = static_cast<std::int32_t>(first_equal);
   }
 }

@@ -29,6 +29,15 @@ beta pdf --a 2 --b 3 --lower-end 1 --upper-end 5 --x 2 --decimals 12 => 0.421875
 hypergeometric pdf --pop-size 10 --sample-size 3 --successes 4 --k 1 --decimals 12 => 0.500000000000
 poisson less --lambda 2 --k 1 --decimals 12 => 0.135335283237
 poisson inv --lambda 2 --upper-p 0.3 => 3
+uniform less --lower-end 1 --upper-end 5 --x 2 => 0.25
+weibull less --shape 2 --scale 3 --x 3 --decimals 12 => 0.632120558829
+gumbel less --location 1 --scale 2 --x 3 --decimals 12 => 0.692200627555
+logistic less --location 1 --scale 2 --x 3 --decimals 12 => 0.731058578630
+cauchy less --location 1 --scale 2 --x 3 => 0.75
+von-mises pdf --concentration 1 --x 0 --decimals 12 => 0.341710488623
+generalised-inverse-gaussian pdf --h 2 --b 0.5 --scale 3 --x 6 --decimals 12 => 0.080656908173
+geometric pdf --success-probability 0.25 --k 2 => 0.140625
+negative-binomial pdf --success-probability 0.25 --failures 2 --k 1 => 0.28125
 )");
   // By the asymptotic series -800 - ln(40 sqrt(2 pi)) + ln(1 - 1/1600 + ...).
   ExpectOutput("qorvex dist normal greater --x 40 --log --decimals 8", "-804.60844201\n");

@@ -35,6 +35,10 @@ TEST(SpecialFunctions, RaiseOutsideTheirDomains) {
   EXPECT_ERROR(IncompleteBeta(1.1L, 1, 1), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(IncompleteBeta(0.5L, 1e25L, 1e27L), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(InverseIncompleteBeta(-0.1L, 1, 1), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(InverseErfc(-0.1L), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(InverseErfc(2.1L), EInvalidOp, rsInvalidOp);
+  EXPECT_EQ(InverseErfc(0), kInfinity);
+  EXPECT_EQ(InverseErfc(2), -kInfinity);
   EXPECT_EQ(Gamma(kInfinity), kInfinity);
   EXPECT_EQ(IncompleteBeta(1, 2, 3), 1);
   EXPECT_EQ(InverseIncompleteBeta(0, 2, 3), 0);

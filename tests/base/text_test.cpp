@@ -92,6 +92,7 @@ TEST(StripTChStr, StripsDecimalsAndAPointThatIsLeftAtTheEnd) {
   EXPECT_EQ(StripTChStr("0.00", '0'), "0");
   EXPECT_EQ(StripTChStr("100", '0'), "100") << "these are not decimals";
   EXPECT_EQ(StripTChStr("1.5e10", '0'), "1.5e10");
+  EXPECT_EQ(StripTChStr("1.e10", '0'), "1.e10");
   EXPECT_EQ(StripTChStr("abcxx", 'x'), "abc");
   EXPECT_EQ(StripTChStr("", '0'), "");
   EXPECT_EQ(StripTChStr("xx", 'x'), "");

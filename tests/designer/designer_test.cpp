@@ -114,6 +114,7 @@ TEST_F(Designer, SavesEveryPropertyThatWasChangedUntilItIsReset) {
     SCOPED_TRACE(entry->name().toStdString());
     EXPECT_EQ(entry->group(), "Qorvex");
     EXPECT_FALSE(entry->icon().isNull());
+    EXPECT_FALSE(entry->isContainer());
     ASSERT_NO_FATAL_FAILURE(LoadNew(entry->name()));
     EXPECT_EQ(widget_->metaObject()->className(), entry->name());
     const std::string initial = PropertyTable(*widget_);
@@ -196,6 +197,8 @@ TEST_F(Designer, ShowsNonVisualComponentsAndTheirResults) {
   form_->cursor()->setWidgetProperty(widget_, "Items", QStringList{"1", "two"});
   EXPECT_EQ(widget_->property("Mean"), "3");
   EXPECT_NE(widget_->grab().toImage(), image);
+  form_->cursor()->setWidgetProperty(widget_, "Items", QStringList{"3"});
+  EXPECT_EQ(widget_->grab().toImage(), image);
 }
 
 }  // namespace qorvex

@@ -2,21 +2,14 @@
 
 #include "qorvex/matrix/QorvexFinMatrix.h"
 #include "qorvex/matrix/QorvexMatrix.h"
+#include "support/amounts.h"
 #include "support/random_matrices.h"
 #include "support/test.h"
 
 namespace qorvex {
 namespace {
 
-template <class T>
-TQorMatrix<typename T::StoredType> Stored(const TQorMatrix<T>& matrix) {
-  using Integer = typename T::StoredType;
-  auto stored = TQorMatrix<Integer>::WithLength(matrix.size());
-  for (std::size_t i = 0; i < matrix.size(); ++i) {
-    for (const T x : matrix[i]) stored[i].Append(x.stored());
-  }
-  return stored;
-}
+using testing::Stored;
 
 template <class T>
 class AmountMatrices : public ::testing::Test {};

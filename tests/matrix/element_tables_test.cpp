@@ -8,11 +8,6 @@
 
 namespace qorvex {
 
-void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {
-  for (std::size_t i = 0; i < routines.size(); ++i)
-    EXPECT_EQ(routines[i], types) << "routine " << i;
-}
-
 TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
   ExpectTypes("gdfjuiwsbt", {TYPES_OF(MatrixRows(m)), TYPES_OF(MatrixCols(m))});
   ExpectTypes(

@@ -1,8 +1,6 @@
 #include "random/distribution_battery.h"
 
 #include <algorithm>
-#include <boost/math/quadrature/gauss.hpp>
-#include <numeric>
 #include <random>
 
 #include "qorvex/stats/distributions/distributions.h"
@@ -78,47 +76,6 @@ Extended NormalP(Extended z) {
 }
 
 }  // namespace
-
-Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,
-                    Support support) {
-  const Extended total = cumulative.back();
-  for (Extended& x : cumulative) x /= total;
-  const auto lower = [points, cumulative](Extended x) -> Extended {
-    const auto above = std::ranges::upper_bound(points, x) - points.begin();
-    return above == 0 ? 0 : cumulative[static_cast<std::size_t>(above - 1)];
-  };
-  const auto quantile = [points, cumulative](Extended p) {
-    return points[static_cast<std::size_t>(std::ranges::lower_bound(cumulative, p) -
-                                           cumulative.begin())];
-  };
-  return {lower, quantile, moments, support};
-}
-
-Reference Integrated(const std::function<Extended(Extended)>& log_density,
-                     const std::function<Extended(Extended)>& map, Extended lo, Extended hi,
-                     Support support) {
-  constexpr int intervals = 8192;
-  const auto at = [&](Extended i) { return lo + (hi - lo) * i / intervals; };
-  Extended greatest = -kInfinity;
-  for (int i = 0; i <= intervals; ++i) greatest = std::max(greatest, log_density(at(i)));
-  std::vector<Extended> points;
-  std::vector<Extended> cumulative;
-  Extended total = 0;
-  Extended sum = 0;
-  Extended squares = 0;
-  for (int i = 0; i < intervals; ++i) {
-    const Extended probability = boost::math::quadrature::gauss<Extended, 7>::integrate(
-        [&](Extended t) { return std::exp(log_density(t) - greatest); }, at(i), at(i + 1));
-    const Extended middle = map(at(i + 0.5L));
-    total += probability;
-    sum += probability * middle;
-    squares += probability * middle * middle;
-    points.push_back(map(at(i + 1)));
-    cumulative.push_back(total);
-  }
-  const Extended mean = sum / total;
-  return Tabulated(points, cumulative, {mean, squares / total - mean * mean}, support);
-}
 
 bool Verdict::IsGood() const {
   return in_support && chi_square >= limit && kolmogorov_smirnov >= limit && mean >= limit &&

@@ -52,17 +52,6 @@ Reference ReferenceOf(const D& d, bool test_variance = true) {
            bounded ? static_cast<Extended>(support.greatest) : kInfinity, whole}};
 }
 
-/// The distribution with P(X <= points[i]) proportional to cumulative[i].
-Reference Tabulated(std::vector<Extended> points, std::vector<Extended> cumulative, Moments moments,
-                    Support support);
-
-/// The distribution of map(t), for t in [lo, hi] with a density proportional to exp(log_density(t))
-/// and an increasing map. A Gauss rule integrates over 8192 intervals. The moments use the middle
-/// of an interval as its mean, with an error of a millionth.
-Reference Integrated(const std::function<Extended(Extended)>& log_density,
-                     const std::function<Extended(Extended)>& map, Extended lo, Extended hi,
-                     Support support);
-
 using Draw = std::function<Extended(UniformSource)>;
 
 /// The result of the battery: whether all variates are in the support, and the p-values of its four

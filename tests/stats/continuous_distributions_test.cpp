@@ -131,122 +131,34 @@ TEST(ContinuousDistributions, TablesOfDensities) {
   EXPECT_EQ(ys, (Values{0, 0.5L, 0.5L, 0}));
 }
 
-TEST(ContinuousDistributions, RefuseBadParameters) {
+TEST(ContinuousDistributions, TablesStayEmptyAfterAnError) {
   const std::pair<MessageId, Family> refused[] = {
       {rsStdDev, Normal(0, 0)},
-      {rsStdDev, Normal(0, -1)},
-      {rsStdDev, Normal(0, 1e-15L)},
-      {rsStdDev, LogNormal(0, 0)},
-      {rsStdDev, LogNormal(0, 1e-15L)},
+      {rsStdDev, LogNormal(0, -1)},
       {rsExpDistInvalid, Exponential(0)},
-      {rsExpDistInvalid, Exponential(-1)},
       {rsDF, ChiSquare(0)},
       {rsDF, StudentT(0)},
       {rsDF, FDist(0, 1)},
       {rsDF, FDist(1, 0)},
       {rsValueGZero, BetaDist(0, 1)},
-      {rsValueGZero, BetaDist(1, -1)},
-      {rsValueGZero, BetaDist(0, 1, 3, 2)},
-      {rsValueGZero, BetaDist(1, 0, 0, 2)},
-      {rsInvalidValue, BetaDist(1, 1, 2, 2)},
-      {rsInvalidValue, BetaDist(1, 1, 3, 2)},
-      {rsInvalidValue, BetaDist(1, 1, -kInfinity, 2)},
-      {rsInvalidValue, BetaDist(1, 1, kNaN, 2)},
+      {rsInvalidValue, BetaDist(1, 1, 2, 1)},
   };
+  Values xs;
+  Values ys;
   for (const auto& [id, family] : refused) {
-    SCOPED_TRACE(family.name);
-    EXPECT_MATH_ERROR(family.less(0.5L), id);
-    EXPECT_MATH_ERROR(family.greater(0.5L), id);
-    EXPECT_MATH_ERROR(family.between(0.25L, 0.5L), id);
-    EXPECT_EQ(family.between(0.5L, 0.5L), 0) << "equal points are not checked";
-    EXPECT_MATH_ERROR(family.density(0.5L), id);
-    Values xs{1, 2};
-    Values ys{3};
+    xs = {1, 2};
+    ys = {3};
     EXPECT_MATH_ERROR(family.table(0, 1, 4, xs, ys), id);
-    EXPECT_TRUE(xs.empty() && ys.empty());
-    if (!family.inverse_less) continue;
-    EXPECT_MATH_ERROR(family.inverse_less(0.5L), id);
-    EXPECT_MATH_ERROR(family.inverse_greater(0.5L), id);
-    EXPECT_MATH_ERROR(family.inverse_less(1), rsValue01);  // checked first
-    EXPECT_MATH_ERROR(family.inverse_greater(0), rsValue01);
+    EXPECT_TRUE(xs.empty() && ys.empty()) << family.name;
   }
-}
-
-TEST(ContinuousDistributions, RefusePointsOutsideTheirDomain) {
-  const std::pair<MessageId, std::function<Extended()>> refused[] = {
-      {rsStdDev, [] { return LogNormalPDF(0, 0, 0); }},
-      {rsValueGZero, [] { return LogNormalPDF(0, 0, 1); }},
-      {rsValueGZero, [] { return LogNormalPDF(1e-15L, 0, 1); }},
-      {rsStdDev, [] { return LogNormalLess(0, 0, 0); }},
-      {rsExpDistInvalid, [] { return ExponentialLess(1, -1); }},
-      {rsExpDistInvalid, [] { return ExponentialPDF(-1, 1); }},
-      {rsExpDistInvalid, [] { return ExponentialPDF(1, kNaN); }},
-      {rsValueGEZero, [] { return ChiSquareLess(-1, 0); }},
-      {rsValueGEZero, [] { return ChiSquarePDF(-1, 0); }},
-      {rsValueGZero, [] { return FDistLess(0, 0, 4); }},
-      {rsValueGZero, [] { return FDistPDF(-1, 0, 4); }},
-      {rsDF, [] { return FDistPDF(0, 3, 0); }},
-      {rsValueGZero, [] { return NormalLess(-1); }},
-      {rsValue01, [] { return ZAlpha(1); }},
-  };
-  for (const auto& [id, call] : refused) EXPECT_MATH_ERROR(call(), id);
-  EXPECT_ERROR(LogNormalLess(0, 1, 0), EZeroDivide, rsZeroDivide);
-  EXPECT_ERROR(LogNormalBetween(0, 1, 1, -1), EInvalidOp, rsInvalidOp);
-  EXPECT_ERROR(InvLogNormalLess(0, 1e5L, 0.9L), EOverflow, rsOverflow);
-  EXPECT_ERROR(ExponentialPDF(1, 1e-4940L), EOverflow, rsOverflow);
-  EXPECT_ERROR(ExponentialLess(1e-4940L, 0), EOverflow, rsOverflow);
-  Values xs{1};
-  Values ys{1};
   EXPECT_MATH_ERROR(LogNormalPDFValues(0, 1, 0, 1, -1, xs, ys), rsValueGZero);
   EXPECT_MATH_ERROR(LogNormalPDFValues(0, 1, 1, -1, 4, xs, ys), rsValueGZero);
   EXPECT_ERROR(ExponentialPDFValues(1e-4940L, 0, 1, 4, xs, ys), EOverflow, rsOverflow);
-  EXPECT_TRUE(xs.empty() && ys.empty());
 }
 
-TEST(ContinuousDistributions, InfinitiesAndNaN) {
-  EXPECT_EQ(NormalDistLess(0, 1, -kInfinity), 0.5L);
-  EXPECT_EQ(LogNormalLess(0, 1, kInfinity), 0.5L);
-  EXPECT_EQ(NormalPDF(kInfinity, 0, 1), 0);
-  EXPECT_EQ(ExponentialLess(2, kInfinity), 1);
-  EXPECT_EQ(ChiSquareLess(kInfinity, 3), 1);
-  EXPECT_EQ(StudentTLess(kInfinity, 3), 1);
-  EXPECT_EQ(StudentTLess(-kInfinity, 3), 0);
-  EXPECT_EQ(FDistLess(kInfinity, 3, 4), 1);
-  EXPECT_EQ(BetaDistLess(kInfinity, 3, 4), 1);
-  EXPECT_EQ(BetaDistLess(-1, 3, 4), 0);
+TEST(ContinuousDistributions, BetaProbabilitiesHaveNoNegativeZero) {
   EXPECT_FALSE(std::signbit(BetaDistLess(-0.0L, 2, 3)));
   EXPECT_FALSE(std::signbit(BetaDistLess(-0.0L, 2, 3, 0, 5)));
-  EXPECT_EQ(BetaPDF(-1, 3, 4), 0);
-  EXPECT_EQ(ChiSquarePDF(0, 1), kInfinity);
-  EXPECT_EQ(BetaPDF(1, 3, 0.5L, 0, 1), kInfinity);
-  for (const Extended figure :
-       {NormalDistLess(kNaN, 1, 0), NormalPDF(kNaN, 0, 1), InvNormalDistLess(0, kNaN, 0.5L),
-        LogNormalLess(0, 1, kNaN), ChiSquareLess(kNaN, 3), StudentTLess(kNaN, 3),
-        FDistLess(kNaN, 3, 4), BetaDistLess(kNaN, 3, 4), BetaDistLess(0.5L, 3, kNaN),
-        StudentTPDF(kNaN, 3), BetaPDF(kNaN, 3, 4, 0, 2)}) {
-    EXPECT_TRUE(std::isnan(figure));
-  }
-}
-
-TEST(ContinuousDistributions, TakeTheirParametersInOrder) {
-  // From closed forms of special cases.
-  for (const auto& [figure, expected] : {
-           std::pair(ChiSquarePDF(4, 2), std::exp(-2.0L) / 2),
-           {StudentTPDF(1, 1), 0.5L / QorPi},
-           {FDistPDF(1, 2, 4), 8 / 27.0L},
-           {BetaPDF(0.25L, 2, 3), 1.6875L},
-           {BetaPDF(2, 2, 3, 1, 5), 1.6875L / 4},
-           {InvChiSquareLess(2, 0.75L), 2 * std::log(4.0L)},
-           {InvStudentTLess(1, 0.75L), 1},
-           {InvFDistLess(2, 4, 5 / 9.0L), 1},
-           {InvBetaDistLess(2, 1, 0.25L), 0.5L},
-           {InvBetaDistLess(2, 1, 1, 5, 0.25L), 3},
-           {BetaDistLess(3, 2, 1, 1, 5), 0.25L},
-           {FDistLess(1, 2, 4), 5 / 9.0L},
-       }) {
-    EXPECT_LE(std::fabs(figure / expected - 1), 5e-19L) << expected;
-  }
-  EXPECT_LE(std::fabs(ZAlpha(0.05L) - 1.64485362695147271486L), 2e-16L);
 }
 
 // Absolute errors over those rows for which the classic routines are accurate, which are most rows.
@@ -259,7 +171,7 @@ TEST(ContinuousDistributions, AgreeWithTheReferenceTables) {
     const char* column;
     Extended limit;
     std::size_t least_rows;
-    bool (*serves)(const Value&);
+    bool (*applies)(const Value&);
     std::function<Extended(const Value&)> figure;
   } references[] = {
       {"normal_cdf", "cdf", 8e-19L, 100, [](auto& v) { return std::fabs(v("x_dec")) <= 8.5L; },
@@ -282,12 +194,12 @@ TEST(ContinuousDistributions, AgreeWithTheReferenceTables) {
       {"f_cdf", "cdf", 1e-17L, 150, [](auto& v) { return v("x_dec") >= 0.0625L; },
        [&](auto& v) { return FDistLess(v("x_dec"), df(v("d1_dec")), df(v("d2_dec"))); }},
   };
-  for (const auto& [file, column, limit, least_rows, serves, figure] : references) {
+  for (const auto& [file, column, limit, least_rows, applies, figure] : references) {
     const testing::Table table("tables/" + std::string(file) + ".csv");
     std::size_t judged = 0;
     for (std::size_t row = 0; row < table.size(); ++row) {
       const auto value = [&](const char* name) { return table.Value(row, name); };
-      if (!serves(value)) continue;
+      if (!applies(value)) continue;
       try {
         EXPECT_LE(std::fabs(figure(value) - value(column)), limit) << file << ", row " << row + 1;
         ++judged;

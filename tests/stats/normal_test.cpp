@@ -53,6 +53,7 @@ TEST(InvNormalLess, HasSixteenDigits) {
     EXPECT_EQ(InvNormalDistLess(7, 0.25L, p), z * 0.25L + 7) << p;
   }
   EXPECT_EQ(InvNormalLess(0.5L), 0);
+  EXPECT_LE(std::fabs(ZAlpha(0.05L) - 1.64485362695147271486L), 2e-16L);
 }
 
 }  // namespace qorvex

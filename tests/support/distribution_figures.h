@@ -40,6 +40,16 @@ struct Row {
   }
 };
 
+/// The mean and the point of an exponential row, both exact: the rates are powers of two, or their
+/// products with x have few bits.
+inline Extended MeanOf(const Row& row) {
+  const Extended rate = row("rate_dec");
+  return std::exp2(std::round(std::log2(rate))) == rate ? 1 / rate : 1;
+}
+inline Extended PointOf(const Row& row) {
+  return MeanOf(row) == 1 ? row("x_dec") * row("rate_dec") : row("x_dec");
+}
+
 /// A column of a table of 30-digit values, and how it is computed.
 struct Figure {
   std::string name;  ///< "gamma lower"
@@ -47,16 +57,21 @@ struct Figure {
   std::string column;
   Extended units;
   std::function<Extended(const Row&)> compute;
+
+  [[nodiscard]] Table Open() const { return Table("tables/" + file + ".csv"); }
 };
 
 /// The columns of all tables.
 inline std::vector<Figure> DistributionFigures() {
   using Compute = Extended (*)(const apps::AnyDistribution& distribution, Extended point);
   const std::pair<const char*, Compute> kinds[] = {
-      {"density", [](const apps::AnyDistribution& d, Extended x) { return d.Pdf(x); }},
       {"lower", Lower<apps::AnyDistribution>},
       {"upper", Upper<apps::AnyDistribution>},
-      {"quantile", Quantile<apps::AnyDistribution>}};
+      {"density", [](const apps::AnyDistribution& d, Extended x) { return d.Pdf(x); }},
+      {"quantile", Quantile<apps::AnyDistribution>},
+      {"log lower", LogLower<apps::AnyDistribution>},
+      {"log upper", LogUpper<apps::AnyDistribution>},
+      {"upper quantile", UpperQuantile<apps::AnyDistribution>}};
   std::vector<Figure> figures;
   const Table tables("tables/distribution_tables.csv");
   for (std::size_t i = 0; i < tables.size(); ++i) {
@@ -71,17 +86,13 @@ inline std::vector<Figure> DistributionFigures() {
         for (const std::string& name : columns) parameters.push_back(row(name));
         Extended point = row(point_column);
         if (family == "exponential") {
-          // The mean where it is exact, for rates that are powers of two. The other rates times x
-          // have few bits.
-          const Extended rate = parameters[0];
-          const bool is_exact = std::exp2(std::round(std::log2(rate))) == rate;
-          parameters[0] = is_exact ? 1 / rate : 1;
-          if (!is_exact) point *= rate;
+          parameters[0] = MeanOf(row);
+          point = PointOf(row);
         }
         return compute(*MakeDistribution(*apps::FindFamily(family), parameters), point);
       };
-      figures.push_back({family + ' ' + kind, "tables/" + tables.Text(i, "file") + ".csv", column,
-                         tables.Value(i, "units"), figure});
+      figures.push_back(
+          {family + ' ' + kind, tables.Text(i, "file"), column, tables.Value(i, "units"), figure});
     }
   }
   return figures;

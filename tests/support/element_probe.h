@@ -3,8 +3,10 @@
 /// @file
 /// Finds out which element types a routine accepts.
 
+#include <gtest/gtest.h>
 #include <string>
 #include <type_traits>
+#include <vector>
 
 #include "qorvex/base/vector_types.h"
 
@@ -43,5 +45,10 @@ std::string Exists(Probe probe) {
       expression;                                                                                 \
     };                                                                                            \
   })
+
+/// Expects that every routine of the list accepts these types.
+inline void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {
+  EXPECT_EQ(routines, std::vector(routines.size(), types));
+}
 
 }  // namespace qorvex

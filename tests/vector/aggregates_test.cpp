@@ -105,28 +105,25 @@ TEST(Magnitude, IsTheEuclideanLengthWithoutNarrowSquares) {
   EXPECT_EQ(VectorMagnitude(TQorByteVector{255}), 255);
 }
 
-TEST(SignTests, UseTheToleranceExceptVectorNonZeroOfSingles) {
+TEST(SignTests, HaveAToleranceExceptForInt64AndForVectorNonZeroOfSingles) {
+  using Signs = std::tuple<bool, bool, bool, bool>;
+  const auto signs = [](const auto& v) {
+    return Signs(VectorZero(v), VectorNonZero(v), VectorPositive(v), VectorNonNegative(v));
+  };
   constexpr float tiny = 1e-30F;
-  EXPECT_TRUE(VectorZero(TQorFloatVector{0, tiny}));
-  EXPECT_TRUE(VectorZero(TQorSingleVector{0, tiny}));
-  EXPECT_FALSE(VectorNonZero(TQorFloatVector{1, tiny}));
-  EXPECT_FALSE(VectorNonZero(TQorDoubleVector{1, tiny}));
-  EXPECT_TRUE(VectorNonZero(TQorSingleVector{1, tiny}));
-  EXPECT_FALSE(VectorNonZero(TQorSingleVector{1, 0}));
-  EXPECT_FALSE(VectorPositive(TQorFloatVector{1, 0, 2}));
-  EXPECT_FALSE(VectorPositive(TQorSingleVector{1, tiny}));
-  EXPECT_TRUE(VectorNonNegative(TQorDoubleVector{0, -1e-16}));
-  EXPECT_FALSE(VectorNonNegative(TQorDoubleVector{0, -1e-14}));
-  EXPECT_FALSE(VectorPositive(TQorFloatVector{kNaN}));
-  EXPECT_TRUE(VectorNonNegative(TQorFloatVector{kNaN}) && VectorNonZero(TQorFloatVector{kNaN}));
-}
-
-TEST(SignTests, Int64IsExactAndEmptyRaises) {
-  EXPECT_TRUE(VectorZero(TQorInt64Vector{0, 0}));
-  EXPECT_FALSE(VectorNonZero(TQorInt64Vector{1, 0}));
-  EXPECT_TRUE(VectorPositive(TQorInt64Vector{1}));
-  EXPECT_TRUE(VectorNonNegative(TQorInt64Vector{0, 0}));
-  EXPECT_FALSE(VectorNonNegative(TQorInt64Vector{0, -1}));
+  EXPECT_EQ(signs(TQorFloatVector{0, tiny}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorFloatVector{1, tiny}), Signs(false, false, false, true));
+  EXPECT_EQ(signs(TQorFloatVector{1, 2}), Signs(false, true, true, true));
+  EXPECT_EQ(signs(TQorFloatVector{kNaN}), Signs(false, true, false, true));
+  EXPECT_EQ(signs(TQorDoubleVector{1, tiny}), Signs(false, false, false, true));
+  EXPECT_EQ(signs(TQorDoubleVector{0, -1e-16}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorDoubleVector{0, -1e-14}), Signs(false, false, false, false));
+  EXPECT_EQ(signs(TQorSingleVector{0, tiny}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorSingleVector{1, tiny}), Signs(false, true, false, true));
+  EXPECT_EQ(signs(TQorInt64Vector{0, 0}), Signs(true, false, false, true));
+  EXPECT_EQ(signs(TQorInt64Vector{1, 0}), Signs(false, false, false, true));
+  EXPECT_EQ(signs(TQorInt64Vector{1}), Signs(false, true, true, true));
+  EXPECT_EQ(signs(TQorInt64Vector{0, -1}), Signs(false, false, false, false));
   for (bool (*test)(const TQorSingleVector&) :
        {VectorZero<float>, VectorNonZero<float>, VectorPositive<float>, VectorNonNegative<float>}) {
     EXPECT_MATH_ERROR(test({}), rsVectorIsEmpty);

@@ -3,8 +3,8 @@
 #include <tuple>
 
 #include "qorvex/vector/QorvexFinVector.h"
+#include "support/amounts.h"
 #include "support/kept_tolerance.h"
-#include "support/nearest_amount.h"
 #include "support/random_vectors.h"
 #include "support/test.h"
 
@@ -13,17 +13,11 @@ namespace {
 
 using testing::Int128;
 using testing::NearestAmount;
+using testing::Stored;
 
 template <class T>
 class AmountVectors : public ::testing::Test {};
 TYPED_TEST_SUITE(AmountVectors, CurrencyTypes);
-
-template <class T>
-TQorVector<typename T::StoredType> Stored(const TQorVector<T>& amounts) {
-  TQorVector<typename T::StoredType> stored;
-  for (const T x : amounts) stored.Append(x.stored());
-  return stored;
-}
 
 // The routines for integers are tested elsewhere.
 TYPED_TEST(AmountVectors, BehaveAsVectorsOfTheStoredIntegers) {

@@ -12,11 +12,6 @@
 
 namespace qorvex {
 
-// Expects that every routine accepts the same types.
-void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {
-  EXPECT_EQ(routines, std::vector(routines.size(), types));
-}
-
 TEST(ElementTables, Building) {
   ExpectTypes("gdfjuiCSL", {TYPES_OF(AppendValue2Vector(v, x)), TYPES_OF(AddValue2Vector(v, x, 0)),
                             TYPES_OF(DeleteValueFromVector(v, 0))});

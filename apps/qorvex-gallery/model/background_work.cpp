@@ -30,7 +30,7 @@ void BackgroundWork::Start(std::function<void(const Proceed&)> work, std::functi
         return !promise.isCanceled();
       });
     } catch (...) {
-      // QtConcurrent alone would hide it in a QUnhandledException.
+      // QtConcurrent itself would wrap it in a QUnhandledException, without its text.
       promise.setException(std::current_exception());
     }
   }));
@@ -38,21 +38,24 @@ void BackgroundWork::Start(std::function<void(const Proceed&)> work, std::functi
 
 void BackgroundWork::Stop() {
   running_ = false;
+  // Releases what they hold, such as a large sample.
+  done_ = {};
+  failed_ = {};
   watcher_.cancel();
   try {
     watcher_.waitForFinished();
   } catch (const std::exception&) {
-    // Raised before the work was asked to stop; what it would have reported is no longer wanted.
+    // Thrown before the work was cancelled; its result is no longer wanted.
   }
 }
 
 void BackgroundWork::Finish() {
-  // Stopped work finishes as well.
+  // The watcher also reports that stopped work has finished.
   if (!std::exchange(running_, false)) return;
   const auto done = std::exchange(done_, {});
   const auto failed = std::exchange(failed_, {});
   try {
-    // Raises what the work has raised.
+    // Rethrows the exception of the work.
     watcher_.waitForFinished();
   } catch (const std::exception& error) {
     return failed(QString::fromUtf8(error.what()));

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// BackgroundWork, long work beside the user interface.
+/// BackgroundWork, which keeps long work from blocking the user interface.
 
 #include <QFutureWatcher>
 #include <QObject>
@@ -23,9 +23,9 @@ class BackgroundWork : public QObject {
   /// Stops the work.
   ~BackgroundWork() override;
 
-  /// Starts the work, which calls proceed regularly and returns soon after that gives false.
-  /// Afterwards calls done on the thread of this object, or failed with the text of the exception
-  /// that the work has raised. Work that is running stops first.
+  /// Starts the work, which calls proceed regularly and returns soon after it gives false. Then
+  /// calls done on the thread of this object, or failed with the text of the exception that the
+  /// work has thrown. Stops other work first.
   void Start(std::function<void(const Proceed& proceed)> work, std::function<void()> done,
              std::function<void(const QString& why)> failed);
   /// Stops the work and waits until it has ended; neither done nor failed is called.
@@ -33,7 +33,7 @@ class BackgroundWork : public QObject {
   [[nodiscard]] bool IsRunning() const noexcept { return running_; }
 
  Q_SIGNALS:
-  /// So many thousandths are done.
+  /// How many thousandths are done.
   void Progressed(int thousandths);
 
  private:

@@ -163,7 +163,7 @@ void DataPage::ShowTable(const Source& source, DataTable table) {
   refusal_.clear();
   ShowColumn();
   if (message_->Text().isEmpty() && table_.HasDoubtfulHeader())
-    message_->SetText(tr("The first row was taken for names, although it contains a number"));
+    message_->SetText(tr("The first row was read as names, although it contains a number"));
 }
 
 void DataPage::SetSource(const QString& file, const QString& title) {

@@ -180,7 +180,7 @@ QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution
     const Extended a = points.front();
     if (IsInterval()) {
       const Extended b = points.back();
-      // At least a count is more than the one before it.
+      // At least b is the same as more than b - 1.
       const Tails at_b = distribution.At(Family().is_discrete ? b - 1 : b);
       figures = {{tr("P(a < X < b)"), ExactText(distribution.ProbabilityBetween(a, b))},
                  {tr("P(X ≤ a)"), ExactText(tails.Probability(Tail::kLower))},

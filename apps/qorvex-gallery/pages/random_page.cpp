@@ -151,6 +151,7 @@ void RandomPage::showEvent(QShowEvent* event) {
 void RandomPage::ShowVariate() {
   summary_->setText(tr(Chosen().summary));
   parameters_->SetParameters(Chosen().parameters);
+  message_->SetText({});
 }
 
 QString RandomPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
@@ -244,6 +245,7 @@ void RandomPage::AskAndSave() {
 
 void RandomPage::Save(const QString& path) {
   if (sample_ == nullptr || work_.IsRunning()) return;
+  message_->SetText({});
   work_.Start([sample = sample_,
                path](const Proceed& proceed) { SaveValues(sample->values, path, proceed); },
               [this] { ShowRunning(); },

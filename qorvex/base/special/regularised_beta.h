@@ -34,6 +34,11 @@ class QORVEX_EXPORT RegularisedBeta {
   /// The shapes are not checked.
   RegularisedBeta(Extended a, Extended b);
 
+  /// @{
+  /// The shapes.
+  [[nodiscard]] Extended A() const { return a_; }
+  [[nodiscard]] Extended B() const { return b_; }
+  /// @}
   /// Both tails at odds above 0 and below infinity.
   [[nodiscard]] Tails At(const Odds& odds) const;
   /// x^(a + extra_x) (1 - x)^(b + extra_y) / B(a, b): the density of the logarithm of the odds, and

@@ -55,15 +55,21 @@ Tails PowerTails(Extended b, ExtendedPair x, ExtendedPair y) {
 }  // namespace
 
 SymmetricBeta::SymmetricBeta(Extended a, Extended b)
-    : is_exchanged_(a > b), a_(is_exchanged_ ? b : a), b_(is_exchanged_ ? a : b), beta_(a_, b_) {}
+    : is_exchanged_(a > b), beta_(is_exchanged_ ? b : a, is_exchanged_ ? a : b) {}
+
+SymmetricBeta::SymmetricBeta(const RegularisedBeta& beta)
+    : is_exchanged_(beta.A() > beta.B()),
+      beta_(is_exchanged_ ? RegularisedBeta(beta.B(), beta.A()) : beta) {}
 
 Tails SymmetricBeta::At(const Odds& odds) const {
   return is_exchanged_ ? OrderedAt(Exchanged(odds)).Mirrored() : OrderedAt(odds);
 }
 
 Tails SymmetricBeta::OrderedAt(const Odds& odds) const {
+  const Extended a = beta_.A();
+  const Extended b = beta_.B();
   const bool even = odds.in_favour.hi == odds.against.hi && odds.in_favour.lo == odds.against.lo;
-  if (a_ == b_ && even) return {Tail::kLower, Scaled{0.5L, ExtendedPair()}};
+  if (a == b && even) return {Tail::kLower, Scaled{0.5L, ExtendedPair()}};
 
   const ExtendedPair sum = odds.in_favour + odds.against;
   const ExtendedPair x = odds.in_favour / sum;
@@ -71,20 +77,22 @@ Tails SymmetricBeta::OrderedAt(const Odds& odds) const {
   // Beyond, pairs come too close to the end of the format.
   constexpr Extended least = 1e-4900L;
   if (x.hi > least && y.hi > least) {
-    if (const auto tails = SumTails(a_, b_, x, y)) return *tails;
-    if (const auto tails = SumTails(b_, a_, y, x)) return tails->Mirrored();
-    if (a_ == 1) return PowerTails(b_, x, y);
-    if (b_ == 1) return PowerTails(a_, y, x).Mirrored();
+    if (const auto tails = SumTails(a, b, x, y)) return *tails;
+    if (const auto tails = SumTails(b, a, y, x)) return tails->Mirrored();
+    if (a == 1) return PowerTails(b, x, y);
+    if (b == 1) return PowerTails(a, y, x).Mirrored();
   }
   return beta_.At(odds);
 }
 
 Extended SymmetricBeta::Density(const Odds& odds) const {
+  const Extended a = beta_.A();
+  const Extended b = beta_.B();
   const Odds ordered = is_exchanged_ ? Exchanged(odds) : odds;
-  const Extended n = a_ + b_ - 2;
-  if (IsWhole(a_) && IsWhole(b_) && HasExactCoefficient(n, a_ - 1)) {
+  const Extended n = a + b - 2;
+  if (IsWhole(a) && IsWhole(b) && HasExactCoefficient(n, a - 1)) {
     const Binary probability =
-        ExactProbability(static_cast<std::uint64_t>(n), static_cast<std::uint64_t>(a_ - 1),
+        ExactProbability(static_cast<std::uint64_t>(n), static_cast<std::uint64_t>(a - 1),
                          ordered.in_favour, ordered.against);
     return ToScaled(MakeBinary(n + 1) * probability).Value();
   }

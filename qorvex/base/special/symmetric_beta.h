@@ -20,6 +20,8 @@ class QORVEX_EXPORT SymmetricBeta {
  public:
   /// The shapes are not checked.
   SymmetricBeta(Extended a, Extended b);
+  /// With the shapes of a distribution that exists already.
+  explicit SymmetricBeta(const RegularisedBeta& beta);
 
   /// Both tails at odds above 0 and below infinity.
   [[nodiscard]] Tails At(const Odds& odds) const;
@@ -31,10 +33,7 @@ class QORVEX_EXPORT SymmetricBeta {
   [[nodiscard]] Tails OrderedAt(const Odds& odds) const;
 
   bool is_exchanged_;
-  // The smaller and the larger shape.
-  Extended a_;
-  Extended b_;
-  RegularisedBeta beta_;
+  RegularisedBeta beta_;  // the smaller shape first
 };
 
 }  // namespace qorvex::special

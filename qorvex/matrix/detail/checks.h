@@ -17,8 +17,8 @@ struct Shape {
   std::uint32_t cols = 0;
   bool rectangular = false;
 
-  [[nodiscard]] bool Empty() const noexcept { return rows == 0 || cols == 0; }
-  [[nodiscard]] bool AtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
+  [[nodiscard]] bool IsEmpty() const noexcept { return rows == 0 || cols == 0; }
+  [[nodiscard]] bool HasAtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
 };
 
 // The shape that MatrixDimensions reports. compare_rows is the value of a shape switch.
@@ -31,7 +31,7 @@ template <class T>
     shape.rectangular = true;
     return shape;
   }
-  if (shape.Empty()) return shape;
+  if (shape.IsEmpty()) return shape;
   for (const TQorVector<T>& row : matrix) {
     if (row.size() != shape.cols) {
       shape.cols = 0;
@@ -59,7 +59,7 @@ void RequireRows(const TQorMatrix<T>& matrix) {
 }
 
 inline void RequireElements(const Shape& shape) {
-  if (shape.Empty()) RaiseMathError(rsMatrixIsEmpty);
+  if (shape.IsEmpty()) RaiseMathError(rsMatrixIsEmpty);
 }
 
 // Never fails after RequireElements, because a ragged matrix counts as having no columns.

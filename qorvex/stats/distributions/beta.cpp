@@ -25,7 +25,7 @@ special::Odds OddsOf(Extended x) {
 }  // namespace
 
 BetaDistribution::BetaDistribution(Extended a, Extended b)
-    : a_(CheckedA(a, b)), b_(b), beta_(a, b), tails_(a, b) {}
+    : a_(CheckedA(a, b)), b_(b), beta_(a, b), tails_(beta_) {}
 
 Extended BetaDistribution::Pdf(Extended x) const {
   if (AnyNaN(a_, b_, x)) return kNotANumber;

@@ -60,10 +60,6 @@ Extended CauchyDistribution::Skewness() const {
   return kNotANumber;
 }
 
-Extended CauchyDistribution::Mode() const {
-  return AnyNaN(scale_) ? kNotANumber : location_;
-}
-
 Interval<Extended> CauchyDistribution::Support() const {
   return {-kInfinite, kInfinite};
 }

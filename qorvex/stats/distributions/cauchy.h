@@ -31,7 +31,7 @@ class QORVEX_EXPORT CauchyDistribution {
   [[nodiscard]] Extended Mean() const;
   [[nodiscard]] Extended Variance() const;
   [[nodiscard]] Extended Skewness() const;
-  [[nodiscard]] Extended Mode() const;
+  [[nodiscard]] Extended Mode() const { return location_; }
   [[nodiscard]] Interval<Extended> Support() const;
   /// @}
 

@@ -14,8 +14,7 @@
 /// - Parameters that must be positive must also be finite and not subnormal, since they are divided
 ///   by. Shapes, and half of degrees of freedom, must be from 1e-18 to 1e15: EInvalidOp.
 /// - Quantile raises rsValue01 unless 0 < p < 1, and EOverflow where the point is beyond the
-/// format.
-///   A point too small for the format is 0.
+///   format. A point too small for the format is 0.
 /// - Mean, Variance and Skewness are NaN where they do not exist or depend on a parameter that is
 ///   NaN, and infinite where they are infinite or exceed the format. Mode is the point of the
 ///   greatest density or probability, the least of several.
@@ -50,8 +49,7 @@ struct Interval {
 ///
 /// - At(x): the probabilities of at most x and of more than x.
 /// - Quantile(tail, p): the point with the lower or upper probability p; of counts the smallest
-/// with
-///   P(X <= k) >= p, or with P(X > k) <= p.
+///   with P(X <= k) >= p, or with P(X > k) <= p.
 /// - Support(): where the density is not 0, ends included.
 /// - Mode(), Mean(), Variance(), Skewness(): see above.
 template <class D>

@@ -27,7 +27,7 @@ FDistribution::FDistribution(Extended df1, Extended df2)
       df2_(df2),
       ratio_(ExtendedPair(df2) / df1),
       beta_(df1 / 2, df2 / 2),
-      tails_(df1 / 2, df2 / 2) {}
+      tails_(beta_) {}
 
 Extended FDistribution::Pdf(Extended x) const {
   if (AnyNaN(df1_, df2_, x)) return kNotANumber;

@@ -65,11 +65,11 @@ template <Distribution D>
 
 namespace distributions {
 
-/// The tails that bound an open interval: P(a < X < b) is what both leave of 1.
+/// The tails at both ends of an interval.
 struct Bounds {
   /// At the lower end.
   Tails first;
-  /// At the upper end, or at the count before it.
+  /// At the upper end, or at the count before it, since the end itself is excluded.
   Tails second;
 };
 

@@ -48,18 +48,13 @@ Extended GumbelDistribution::Mean() const {
 }
 
 Extended GumbelDistribution::Variance() const {
-  if (AnyNaN(location_)) return kNotANumber;
   const Extended std_dev = scale_ * (QorPi / std::sqrt(6.0L));
   return std_dev * std_dev;
 }
 
 Extended GumbelDistribution::Skewness() const {
   // 12 sqrt(6) zeta(3) / pi^3
-  return AnyNaN(location_, scale_) ? kNotANumber : 1.139547099404648657493L;
-}
-
-Extended GumbelDistribution::Mode() const {
-  return AnyNaN(scale_) ? kNotANumber : location_;
+  return 1.139547099404648657493L;
 }
 
 Interval<Extended> GumbelDistribution::Support() const {

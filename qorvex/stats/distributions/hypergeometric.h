@@ -13,9 +13,8 @@ namespace qorvex {
 
 /// The hypergeometric distribution of the successes in a sample that is drawn without replacement.
 ///
-/// - Probability of k: C(K, k) C(N - K, n - k) / C(N, n), for a population of N with K successes
-/// and
-///   a sample of n.
+/// - Probability of k: C(K, k) C(N - K, n - k) / C(N, n), for a population of N with K
+///   successes and a sample of n.
 /// - Support: max(0, n + K - N) to min(n, K).
 /// - Skewness: NaN where the variance is 0.
 /// - Errors: rsHyperGeometricInvalid unless neither sample_size nor successes exceeds pop_size.
@@ -65,7 +64,7 @@ class QORVEX_EXPORT HypergeometricDistribution {
   std::int64_t population_;
   std::int64_t sample_;
   std::int64_t successes_;
-  special::Scaled samples_;  // how many different ones there are
+  special::Scaled samples_;  // the number of possible samples
 };
 
 }  // namespace qorvex

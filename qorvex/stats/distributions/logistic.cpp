@@ -43,22 +43,9 @@ Extended LogisticDistribution::Quantile(Tail tail, Extended p) const {
   return CheckedFinite((location_ + (tail == Tail::kLower ? ln_odds : -ln_odds) * scale_).hi);
 }
 
-Extended LogisticDistribution::Mean() const {
-  return AnyNaN(scale_) ? kNotANumber : location_;
-}
-
 Extended LogisticDistribution::Variance() const {
-  if (AnyNaN(location_)) return kNotANumber;
   const Extended std_dev = scale_ * (QorPi / std::sqrt(3.0L));
   return std_dev * std_dev;
-}
-
-Extended LogisticDistribution::Skewness() const {
-  return AnyNaN(location_, scale_) ? kNotANumber : 0;
-}
-
-Extended LogisticDistribution::Mode() const {
-  return Mean();
 }
 
 Interval<Extended> LogisticDistribution::Support() const {

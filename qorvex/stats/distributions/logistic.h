@@ -27,10 +27,10 @@ class QORVEX_EXPORT LogisticDistribution {
   [[nodiscard]] Extended Pdf(Extended x) const;
   [[nodiscard]] Tails At(Extended x) const;
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
-  [[nodiscard]] Extended Mean() const;
+  [[nodiscard]] Extended Mean() const { return location_; }
   [[nodiscard]] Extended Variance() const;
-  [[nodiscard]] Extended Skewness() const;
-  [[nodiscard]] Extended Mode() const;
+  [[nodiscard]] Extended Skewness() const { return 0; }
+  [[nodiscard]] Extended Mode() const { return location_; }
   [[nodiscard]] Interval<Extended> Support() const;
   /// @}
 

@@ -11,8 +11,7 @@ namespace qorvex {
 /// The normal distribution.
 ///
 /// - Density: exp(-z^2 / 2) / (s sqrt(2 pi)) for z = (x - m) / s, with mean m and standard
-/// deviation
-///   s.
+///   deviation s.
 /// - Support: all real numbers.
 /// - Errors: rsStdDev unless std_dev > 0; EInvalidOp for an infinite mean.
 /// - Method: z in 125 bits, the C library's erfc, and its asymptotic series 100 standard deviations

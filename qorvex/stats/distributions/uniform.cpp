@@ -15,8 +15,6 @@ using special::Scaled;
 UniformDistribution::UniformDistribution(Extended least, Extended greatest)
     : least_(least), greatest_(greatest), width_(ExactSum(greatest, -least)) {
   if (least >= greatest) RaiseMathError(rsInvalidValue);
-  RequireFinite(least);
-  RequireFinite(greatest);
   RequireFinite(width_.hi);
 }
 
@@ -53,14 +51,6 @@ Extended UniformDistribution::Mean() const {
 
 Extended UniformDistribution::Variance() const {
   return width_.hi / 12 * width_.hi;
-}
-
-Extended UniformDistribution::Skewness() const {
-  return AnyNaN(least_, greatest_) ? kNotANumber : 0;
-}
-
-Extended UniformDistribution::Mode() const {
-  return AnyNaN(greatest_) ? kNotANumber : least_;
 }
 
 }  // namespace qorvex

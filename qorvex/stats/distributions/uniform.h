@@ -32,8 +32,8 @@ class QORVEX_EXPORT UniformDistribution {
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
   [[nodiscard]] Extended Mean() const;
   [[nodiscard]] Extended Variance() const;
-  [[nodiscard]] Extended Skewness() const;
-  [[nodiscard]] Extended Mode() const;
+  [[nodiscard]] Extended Skewness() const { return 0; }
+  [[nodiscard]] Extended Mode() const { return least_; }
   [[nodiscard]] Interval<Extended> Support() const { return {least_, greatest_}; }
   /// @}
 

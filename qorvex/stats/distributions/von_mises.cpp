@@ -102,10 +102,6 @@ Extended VonMisesDistribution::Quantile(Tail tail, Extended p) const {
   return on_side(x);
 }
 
-Extended VonMisesDistribution::Mean() const {
-  return AnyNaN(concentration_) ? kNotANumber : 0;
-}
-
 Extended VonMisesDistribution::Variance() const {
   if (AnyNaN(concentration_)) return kNotANumber;
   const Extended k = concentration_;
@@ -115,14 +111,6 @@ Extended VonMisesDistribution::Variance() const {
                     return x * x * std::exp(-2 * k * sine * sine);
                   }) /
          half_mass_;
-}
-
-Extended VonMisesDistribution::Skewness() const {
-  return Mean();
-}
-
-Extended VonMisesDistribution::Mode() const {
-  return Mean();
 }
 
 Interval<Extended> VonMisesDistribution::Support() const {

@@ -35,10 +35,10 @@ class QORVEX_EXPORT VonMisesDistribution {
   [[nodiscard]] Extended Pdf(Extended x) const;
   [[nodiscard]] Tails At(Extended x) const;
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
-  [[nodiscard]] Extended Mean() const;
+  [[nodiscard]] Extended Mean() const { return 0; }
   [[nodiscard]] Extended Variance() const;
-  [[nodiscard]] Extended Skewness() const;
-  [[nodiscard]] Extended Mode() const;
+  [[nodiscard]] Extended Skewness() const { return 0; }
+  [[nodiscard]] Extended Mode() const { return 0; }
   [[nodiscard]] Interval<Extended> Support() const;
   /// @}
 

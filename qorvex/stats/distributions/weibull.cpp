@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "qorvex/base/special/factorial.h"
-#include "qorvex/base/special_functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
@@ -67,7 +66,9 @@ Extended WeibullDistribution::Quantile(Tail tail, Extended p) const {
 Scaled WeibullDistribution::Moment(int n) const {
   const ExtendedPair power = ExtendedPair(static_cast<Extended>(n)) / shape_;
   if (power.hi >= 0) return special::FactorialOf(power);
-  return {power.hi > -1 ? Gamma(1 + power.hi) : kInfinite, ExtendedPair()};
+  if (power.hi <= -1) return {kInfinite, ExtendedPair()};
+  const ExtendedPair argument = power + 1;
+  return special::FactorialOf(argument) / Scaled{argument.hi, ExtendedPair()};
 }
 
 Extended WeibullDistribution::LnMomentRatio(int n) const {
@@ -89,18 +90,16 @@ Extended WeibullDistribution::LnMomentRatio(int n) const {
 }
 
 Extended WeibullDistribution::Mean() const {
-  return AnyNaN(shape_, scale_) ? kNotANumber : Moment(1).Value() * scale_;
+  return Moment(1).Value() * scale_;
 }
 
 Extended WeibullDistribution::Variance() const {
-  if (AnyNaN(shape_, scale_)) return kNotANumber;
   if (shape_ < 0 && shape_ >= -2) return shape_ < -1 ? kInfinite : kNotANumber;
   const Extended mean = Mean();
   return mean * std::expm1(LnMomentRatio(2)) * mean;
 }
 
 Extended WeibullDistribution::Skewness() const {
-  if (AnyNaN(shape_, scale_)) return kNotANumber;
   if (shape_ < 0 && shape_ >= -3) return shape_ < -2 ? kInfinite : kNotANumber;
   const Extended ln_second = LnMomentRatio(2);
   const Extended ln_third = LnMomentRatio(3);
@@ -112,7 +111,6 @@ Extended WeibullDistribution::Skewness() const {
 }
 
 Extended WeibullDistribution::Mode() const {
-  if (AnyNaN(shape_, scale_)) return kNotANumber;
   return shape_ > 0 && shape_ <= 1 ? 0 : scale_ * std::exp(std::log1p(-1 / shape_) / shape_);
 }
 

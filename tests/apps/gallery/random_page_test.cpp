@@ -86,7 +86,10 @@ TEST(RandomSample, AgreesWithTheTheory) {
 
 struct RandomPageTest : PageFixture<RandomPage> {
   // Waits for the sample that the page draws when it is shown.
-  void SetUp() override { WaitUntilIdle(); }
+  void SetUp() override {
+    WaitUntilIdle();
+    ASSERT_NE(page.Sample(), nullptr);
+  }
   void WaitUntilIdle() {
     ASSERT_TRUE(QTest::qWaitFor([&] { return Find<QPushButton>("generate").isEnabled(); }));
   }
@@ -117,6 +120,7 @@ TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
   const QString path = directory.filePath("values.txt");
   page.Save(path);
   WaitUntilIdle();
+  EXPECT_EQ(Message(), "");
   QFile file(path);
   ASSERT_TRUE(file.open(QIODevice::ReadOnly));
   const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
@@ -128,7 +132,6 @@ TEST_F(RandomPageTest, KeepsTheSampleWhenTheNextIsCancelledOrRefused) {
   Generate("Gamma", 1000);
   WaitUntilIdle();
   const auto sample = page.Sample();
-  ASSERT_NE(sample, nullptr);
   Generate("Gamma", 10'000'000);
   EXPECT_FALSE(Find<QPushButton>("generate").isEnabled());
   Click("cancel");

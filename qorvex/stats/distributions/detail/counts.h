@@ -21,14 +21,14 @@ inline void RequireCountable(Extended p) {
 /// is none.
 template <DiscreteDistribution D>
 std::uint32_t SmallestCount(const D& d, Tail tail, Extended p) {
-  // The smaller tail decides, so that no digits are lost.
+  // The smaller tail has more digits.
   if (p > 0.5L) return SmallestCount(d, Opposite(tail), 1 - p);
   const auto reached = [&](std::int64_t k) {
     const Extended probability = d.At(static_cast<std::uint32_t>(k)).Probability(tail);
     return tail == Tail::kLower ? probability >= p : probability <= p;
   };
   const auto [least, greatest] = d.Support();
-  // All counts up to below fall short, all from above on reach p.
+  // Counts up to `below` do not reach p, those from `above` on do.
   std::int64_t below = std::int64_t{least} - 1;
   std::int64_t above = std::int64_t{greatest} + 1;
   auto k = static_cast<std::int64_t>(std::clamp<Extended>(d.Mean(), least, greatest));
@@ -55,7 +55,7 @@ std::uint32_t SmallestCount(const D& d, Tail tail, Extended p) {
 /// `greatest`.
 [[nodiscard]] inline std::uint32_t CountBelow(special::ExtendedPair bound, std::uint32_t greatest) {
   const Extended ceiling = std::ceil(bound.hi);
-  // A whole number may have been rounded down to.
+  // Rounding the product may have lost what it exceeds a whole number by.
   const Extended count = ceiling == bound.hi && bound.lo > 0 ? ceiling : ceiling - 1;
   if (count > static_cast<Extended>(greatest)) throw EOverflow();
   return static_cast<std::uint32_t>(std::max<Extended>(count, 0));

@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "qorvex/base/currency.h"
+#include "qorvex/base/vector_types.h"
 
 namespace qorvex::testing {
 
@@ -20,6 +20,20 @@ T NearestAmount(Int128 dividend, Int128 divisor) {
     quotient += dividend < 0 ? -1 : 1;
   const auto stored = static_cast<Stored>(quotient);
   return T(stored == quotient ? stored : std::numeric_limits<Stored>::min());
+}
+
+/// The stored integers of a vector or a matrix of amounts.
+template <CurrencyElement T>
+TQorVector<typename T::StoredType> Stored(const TQorVector<T>& amounts) {
+  TQorVector<typename T::StoredType> stored;
+  for (const T x : amounts) stored.Append(x.stored());
+  return stored;
+}
+template <CurrencyElement T>
+TQorMatrix<typename T::StoredType> Stored(const TQorMatrix<T>& amounts) {
+  TQorMatrix<typename T::StoredType> stored;
+  for (const TQorVector<T>& row : amounts) stored.Append(Stored(row));
+  return stored;
 }
 
 }  // namespace qorvex::testing
