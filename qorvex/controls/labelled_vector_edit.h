@@ -106,7 +106,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void OnLabelExit(quint32 row);
 
  protected:
-  /// The label and the row, or the number of a numbered row.
+  /// The name of the cell in a vector edit, preceded by the label of its row.
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
 
  private:
