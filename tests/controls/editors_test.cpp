@@ -321,12 +321,10 @@ TYPED_TEST(Editors, ForwardTheMouseOfCellsInUse) {
 TYPED_TEST(Editors, NameTheirCellsOnceAssistiveTechnologyIsActive) {
   QAccessible::setActive(false);
   TypeParam unnamed;
-  unnamed.setNoOfRows(3);
-  unnamed.setProperty("NoOfCols", 1);
   auto* const cell = unnamed.template findChild<TQorCustomEdit*>();
   EXPECT_EQ(cell->accessibleName(), "");
   QAccessible::setActive(true);
-  EXPECT_TRUE(cell->accessibleName().startsWith("Row 1") || cell->accessibleName() == "1, Row 1");
+  EXPECT_TRUE(cell->accessibleName().startsWith("Row 1")) << "even without an element";
 }
 
 }  // namespace qorvex

@@ -46,7 +46,7 @@ TEST_F(LabelledVectorEdit, LabelsRowsByTheirType) {
 
   Name({"b", "C", "a"});
   editor->setNoOfRows(4);
-  EXPECT_EQ(Labels(), "b|C|a|") << "a row that came later has no label yet";
+  EXPECT_EQ(Labels(), "b|C|a|") << "a new row has no label yet";
   EXPECT_EQ(Cell(1)->accessibleName(), "C, Row 2");
   editor->setLabelsEditable(true);
   editor->setLabelType(TQorLabelledVectorEdit::ltNumbered);
@@ -128,6 +128,22 @@ TEST_F(LabelledVectorEdit, KeepsNavigationInTheColumnOfLabels) {
   EXPECT_EQ(Cell(0)->x(), 30);
   editor->setLayoutDirection(Qt::RightToLeft);
   EXPECT_GT(LabelCell(0)->x(), Cell(0)->x());
+}
+
+TEST_F(LabelledVectorEdit, SurvivesARequestForALabelThatDropsCells) {
+  Open(3);
+  EXPECT_EQ(Cell(3)->accessibleName(), "Row 4") << "there is no such row";
+  editor->setLabelType(TQorLabelledVectorEdit::ltSupplied);
+  int requests = 0;
+  editor->OnGetLabel = [&](quint32 row) {
+    // The first request shows the label, the second names the cell.
+    if (row == 2 && ++requests == 2) editor->setNoOfEdits(1);
+    return QString("x");
+  };
+  editor->Redisplay();
+  EXPECT_EQ(Cells().size(), 1);
+  editor->setNoOfRows(0);
+  EXPECT_EQ(Cell(0)->accessibleName(), "Row 1") << "the label is gone";
 }
 
 }  // namespace qorvex

@@ -40,6 +40,8 @@ enum class CurrentRule;
 /// Before anything scrolls or changes under a cell, the text that is being typed there is
 /// committed, or discarded if it is not a number.
 ///
+/// Every cell has an accessible name while assistive technology is active.
+///
 /// Handlers of signals may do anything except delete the control; they may call deleteLater unless
 /// they run an event loop of their own. A redisplay costs O(cells), whatever the size of the table.
 class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {

@@ -164,15 +164,15 @@ void CellGrid::accessibilityActiveChanged(bool active) {
 }
 
 void CellGrid::NameCells() {
-  // An editor that is being constructed has no elements and cannot name them yet.
-  if (rows_.Count() == 0 || cols_.Count() == 0) return;
   const auto name = [](TextCell& text, const QString& its_name) {
     if (text.accessibleName() != its_name) text.setAccessibleName(its_name);
   };
+  // Asking for a name may change how many cells there are.
   for (std::size_t r = 0; r < cells_.size(); ++r) {
     const quint32 row = rows_.Top() + static_cast<quint32>(r);
-    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
-      name(*cells_[r][c], table_.CellName(row, cols_.Top() + static_cast<quint32>(c)));
+    for (std::size_t c = 0; r < cells_.size() && c < cells_[r].size(); ++c) {
+      TQorCustomEdit* const cell = cells_[r][c];
+      name(*cell, table_.CellName(row, cols_.Top() + static_cast<quint32>(c)));
     }
   }
   for (std::size_t r = 0; r < header_texts_.size(); ++r) {
