@@ -106,12 +106,15 @@ bool TextCell::HasRoom(const QString& text) const {
   const int room = RoomFor(Contents());
   // Most texts have room to spare, and adding up their characters takes a fraction of the time of a
   // layout. The height of the font covers kerning, and slanted glyphs that reach beyond their
-  // advance.
-  const QFontMetrics metrics = fontMetrics();
-  int width = metrics.height();
-  for (const QChar character : text) width += metrics.horizontalAdvance(character);
-  const bool is_simple = std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
-  if (is_simple && width <= room) return true;
+  // advance; half a pixel per character covers the rounding of its advance.
+  const bool is_simple = font().letterSpacing() == 0 && font().wordSpacing() == 0 &&
+                         std::ranges::all_of(text, [](QChar c) { return c.unicode() < 0x80; });
+  if (is_simple) {
+    const QFontMetrics metrics = fontMetrics();
+    int width = metrics.height() + static_cast<int>(text.size()) / 2;
+    for (const QChar character : text) width += metrics.horizontalAdvance(character);
+    if (width <= room) return true;
+  }
   QTextLayout layout(text, font(), this);
   return WidthOf(LineOf(layout)) <= room;
 }

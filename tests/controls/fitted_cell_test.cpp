@@ -71,6 +71,7 @@ void ExpectNoNumberIsCutOff() {
       font = QFont(one_of("DejaVu Sans", "DejaVu Sans Mono"), 6 + static_cast<int>(engine() % 12));
       font.setItalic(one_of(true, false));
       font.setBold(one_of(true, false));
+      font.setLetterSpacing(QFont::AbsoluteSpacing, one_of(0, 4));
     }
     Edit cell;
     cell.setFont(font);
