@@ -8,8 +8,8 @@ TQorFloatEdit::TQorFloatEdit(QWidget* parent) : TQorCustomEdit(parent) {
   setValue(0);
 }
 
-TQorFloatEdit::TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert)
-    : TQorCustomEdit(parent), convert_(&convert) {
+TQorFloatEdit::TQorFloatEdit(QWidget* parent, const TQorConvertEvent* convert)
+    : TQorCustomEdit(parent), convert_(convert) {
   ShowNothing();
 }
 

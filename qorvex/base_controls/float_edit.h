@@ -38,9 +38,9 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
  public:
   /// A cell with the value 0.
   explicit TQorFloatEdit(QWidget* parent = nullptr);
-  /// A cell of a panel, which shows nothing. A function of the panel, which may change, reads texts
-  /// in place of OnConvert.
-  TQorFloatEdit(QWidget* parent, const TQorConvertEvent& convert);
+  /// A cell of a panel, which shows nothing. It keeps the pointer to the panel's function, which
+  /// reads texts in place of the cell's own OnConvert.
+  TQorFloatEdit(QWidget* parent, const TQorConvertEvent* convert);
   ~TQorFloatEdit() override;
 
   /// Reads texts in place of the cell; empty by default.

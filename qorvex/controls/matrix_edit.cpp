@@ -3,7 +3,7 @@
 namespace qorvex::inline QorvexMatrixEdit {
 
 TQorMatrixEdit::TQorMatrixEdit(QWidget* parent) : TQorCustomMatrixEdit(parent) {
-  BuildGrid([this](QWidget* panel) { return new TQorFloatEdit(panel, OnConvert); });
+  BuildGrid([this](QWidget* panel) { return new TQorFloatEdit(panel, &OnConvert); });
 }
 
 TQorMatrixEdit::~TQorMatrixEdit() = default;

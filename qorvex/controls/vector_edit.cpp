@@ -21,7 +21,7 @@ TQorVectorEdit::TQorVectorEdit(QWidget* parent)
     : CellPanel(parent, *this, GridAxes::kRows, QorvexControls::detail::CurrentRule::kFollowsTop,
                 {.after_top = [this](quint32 top) { Q_EMIT OnAfterTopChange(top); }}, {}) {
   SetCount(Parts().cols, 1);
-  Build([this](QWidget* panel) { return new TQorFloatEdit(panel, OnConvert); }, kDefaultEdits, 1);
+  Build([this](QWidget* panel) { return new TQorFloatEdit(panel, &OnConvert); }, kDefaultEdits, 1);
 }
 
 TQorVectorEdit::~TQorVectorEdit() = default;

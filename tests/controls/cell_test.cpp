@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <type_traits>
 
 #include "qorvex/base_controls/float_edit.h"
 #include "qorvex/base_controls/fract_edit.h"
@@ -276,5 +277,8 @@ TEST_F(FractCell, ShowsAndTakesFractions) {
   EXPECT_EQ(cell->Value(), 0.2L);
   EXPECT_EQ(cell->text(), "1/5");
 }
+
+// It would keep a pointer to a temporary.
+static_assert(!std::is_constructible_v<TQorFloatEdit, QWidget*, TQorConvertEvent>);
 
 }  // namespace qorvex
