@@ -16,10 +16,13 @@ TQorEditColorSet* CellProperties::ColorSet() {
 }
 
 void CellProperties::SetColors(const EditColors& colors) {
+  if (color_set_ && color_set_->Colors() != colors) {
+    // Its signal calls this again, before it reaches the program.
+    color_set_->setColors(colors);
+    return;
+  }
   if (colors == settings_.colors) return;
   settings_.colors = colors;
-  // Its own signal comes back here, where the colours are the same then.
-  if (color_set_) color_set_->setColors(colors);
   DoColorSetChange();
 }
 
