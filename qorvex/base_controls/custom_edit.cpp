@@ -49,6 +49,8 @@ void TQorCustomEdit::Show(Extended value, bool has_value, bool keep_pending) {
   value_ = value;
   has_value_ = has_value;
   ShowText(ShownText(), keep_pending);
+  // A text that is being typed has the colour of the new value.
+  if (Pending()) ApplyColors();
 }
 
 bool TQorCustomEdit::Null() const noexcept {

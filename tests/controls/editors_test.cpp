@@ -67,17 +67,19 @@ TYPED_TEST(Editors, ScrollWholeRowsByTheWheelWhereTheFocusIs) {
 
 TYPED_TEST(Editors, KeepWhatIsBeingTypedWhileElementsChange) {
   this->Open(9);
+  this->editor->setColorSetNegativeText(Qt::red);
   this->FocusEdit(1);
   this->Type("12");
   this->Set(0, 50);
-  this->Set(1, 60);
+  this->Set(1, -60);
   EXPECT_EQ(this->Texts(), "50|12|2|3");
+  EXPECT_EQ(this->Cell(1)->palette().color(QPalette::Text), QColor(Qt::red));
   this->Press(Qt::Key_Escape);
-  EXPECT_EQ(this->Cell(1)->Value(), 60);
+  EXPECT_EQ(this->Cell(1)->Value(), -60);
   // The cells show null, but typing over one changes the element behind it.
   this->editor->setNull(true);
   EXPECT_EQ(this->Texts(), "|||");
-  EXPECT_EQ(this->Get(1), 60);
+  EXPECT_EQ(this->Get(1), -60);
   this->Type("7");
   this->Press(Qt::Key_PageDown);
   EXPECT_EQ(this->Texts(), "4|5|6|7");
@@ -87,7 +89,7 @@ TYPED_TEST(Editors, KeepWhatIsBeingTypedWhileElementsChange) {
   this->Press(Qt::Key_PageUp);
   EXPECT_EQ(this->Texts(), "50|7|2|3");
   this->editor->Undo();
-  EXPECT_EQ(this->Get(1), 60);
+  EXPECT_EQ(this->Get(1), -60);
 }
 
 TYPED_TEST(Editors, ShowNothingOfABatchUntilItEnds) {
