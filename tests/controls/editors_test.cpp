@@ -184,8 +184,8 @@ TYPED_TEST(Editors, TakeTheirKeysBeforeTheApplicationDoes) {
   this->other->setFocus();
   this->Press(Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(taken.count(), 1);
-  // Each cell is one stop of the tab key, in order, including those that came later.
-  this->SetCells(5);
+  // Each cell is one stop of the tab key, in order, including those that are added later.
+  for (int edits : {0, 4, 5}) this->SetCells(edits);
   this->Cell(2)->setFocus();
   for (int edit : {3, 4}) {
     this->Press(Qt::Key_Tab);
@@ -193,6 +193,10 @@ TYPED_TEST(Editors, TakeTheirKeysBeforeTheApplicationDoes) {
   }
   this->Press(Qt::Key_Tab);
   EXPECT_TRUE(this->other->hasFocus());
+  this->other->clearFocus();
+  this->Press(Qt::Key_Tab);
+  EXPECT_TRUE(this->Cell(0)->hasFocus()) << "the editor is the first in its window";
+  this->other->setFocus();
   this->editor->setTabStop(false);
   this->Press(Qt::Key_Backtab, Qt::ShiftModifier);
   EXPECT_FALSE(this->Cell(4)->hasFocus());

@@ -106,7 +106,7 @@ void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
 }
 
 void CellPanel::FitGrid() {
-  parts_->grid.Fit(EffectiveSettings(), CellFocusPolicy());
+  parts_->grid.Fit(EffectiveSettings(), CellFocusPolicy(), parts_->rows.Bar());
   Arrange();
   Redisplay();
 }

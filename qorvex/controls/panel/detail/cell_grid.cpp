@@ -9,9 +9,7 @@ namespace qorvex::inline QorvexControls::detail {
 namespace {
 
 void PlaceInTabOrder(QWidget* previous, QWidget* widget) {
-  if (previous != nullptr && previous->nextInFocusChain() != widget) {
-    QWidget::setTabOrder(previous, widget);
-  }
+  if (previous->nextInFocusChain() != widget) QWidget::setTabOrder(previous, widget);
 }
 
 }  // namespace
@@ -49,7 +47,7 @@ void CellGrid::ForEach(const std::function<void(TQorCustomEdit& cell)>& function
   }
 }
 
-void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus) {
+void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus, QWidget* before) {
   const std::size_t rows = rows_.Edits();
   const std::size_t cols = cols_.Edits();
   while (cells_.size() > rows) {
@@ -58,7 +56,7 @@ void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus) {
     for (TQorCustomEdit* cell : dropped) DropCell(cell);
   }
   cells_.resize(rows);
-  QWidget* previous = nullptr;
+  QWidget* previous = before;
   for (std::size_t r = 0; r < rows; ++r) {
     while (cells_[r].size() > cols) {
       TQorCustomEdit* const dropped = cells_[r].back();
@@ -75,7 +73,7 @@ void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus) {
       cell->show();
     }
   }
-  FitHeader();
+  FitHeader(before);
   ApplyToHeader(settings);
 }
 
@@ -88,7 +86,7 @@ TQorCustomEdit* CellGrid::MakeCell(CellPlace place, const CellSettings& settings
   return cell;
 }
 
-void CellGrid::FitHeader() {
+void CellGrid::FitHeader(QWidget* before) {
   if (!header_.make) return;
   while (header_texts_.size() > cells_.size()) {
     TextCell* const text = header_texts_.back();
@@ -99,7 +97,7 @@ void CellGrid::FitHeader() {
     const std::size_t row = header_texts_.size();
     TextCell* const text = header_.make(&panel_, static_cast<quint32>(row));
     header_texts_.push_back(text);
-    if (row > 0) QWidget::setTabOrder(Cell(row - 1, 0), text);
+    QWidget::setTabOrder(row > 0 ? Cell(row - 1, 0) : before, text);
     QWidget::setTabOrder(text, Cell(row, 0));
     text->show();
   }

@@ -81,8 +81,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   void ForEach(const std::function<void(TQorCustomEdit& cell)>& function) const;
 
   /// Makes and drops cells until there are as many as the windows have edits. New ones get the
-  /// settings.
-  void Fit(const CellSettings& settings, Qt::FocusPolicy focus);
+  /// settings. In the tab order they follow a widget of the panel, which must accept the focus.
+  void Fit(const CellSettings& settings, Qt::FocusPolicy focus, QWidget* before);
   /// Applies the settings to every cell.
   void Apply(const CellSettings& settings, Qt::FocusPolicy focus);
   /// Applies the settings to the texts of the header.
@@ -112,7 +112,7 @@ class CellGrid : private QAccessible::ActivationObserver {
   void accessibilityActiveChanged(bool active) override;
   void NameCells();
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
-  void FitHeader();
+  void FitHeader(QWidget* before);
   void DropCell(TQorCustomEdit* cell);
   void Drop(TextCell* text);
   [[nodiscard]] int RowHeight() const;
