@@ -15,7 +15,7 @@
 
 namespace qorvex::inline QorvexControls::detail {
 
-/// Each part knows only those before it.
+/// The grid comes last, so that its cells are deleted before the parts that watch them.
 struct PanelParts {
   PanelParts(CellPanel& panel, CurrentRule rule, EditWindowEvents row_events,
              EditWindowEvents col_events)
@@ -27,6 +27,8 @@ struct PanelParts {
                 }),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
+        focus(rows, cols, grid, rule),
+        keys(panel, rows, cols, focus),
         grid(panel, panel.table_, rows.Window(), cols.Window(),
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
@@ -34,17 +36,15 @@ struct PanelParts {
                   [this](TextCell& text) {
                     text.removeEventFilter(&keys);
                     focus.Leave(text);
-                  }}),
-        focus(rows, cols, grid, rule),
-        keys(panel, rows, cols, focus) {}
+                  }}) {}
 
   SharedSettings settings;
   ChangeHistory history;
   PanelAxis rows;
   PanelAxis cols;
-  CellGrid grid;
   PanelFocus focus;
   PanelKeys keys;
+  CellGrid grid;
   QWidget* corner = nullptr;
 };
 
