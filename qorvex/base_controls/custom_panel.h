@@ -49,8 +49,6 @@ class QORVEX_EXPORT TQorCustomPanel : public QFrame {
   /// The panel has its properties: it is shown for the first time, or the event loop has started.
   /// Called once. Qt has no other notification for it.
   virtual void Loaded() = 0;
-  /// Whether Loaded has been called.
-  [[nodiscard]] bool IsLoaded() const noexcept { return loaded_; }
 
   /// Qt's events.
   bool event(QEvent* event) override;

@@ -171,7 +171,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
  private:
   static constexpr int kDefaultEdits = 4;
 
-  // A command on the store that can be taken back.
+  // A command on the store that can be undone.
   void VectorCommand(const std::function<void()>& command);
 
   // Changes the number of rows without the event.

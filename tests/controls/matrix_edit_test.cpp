@@ -28,7 +28,7 @@ struct MatrixFixture : EditorFixture<Editor> {
     }
     return matrix;
   }
-  /// The cell in a row and a column of the grid, of the size that it has at first.
+  /// The cell in a row and a column of the grid, whose size is the default.
   TQorCustomEdit* At(int row, int col) const { return this->Cell(row * 3 + col); }
   static bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
     const auto same = [](Extended x, Extended y) { return x == y || (x != x && y != y); };
@@ -236,7 +236,7 @@ TEST_F(MatrixEdit, ColoursCopiesPastesAndNamesItsCells) {
   EXPECT_GT(At(0, 0)->x(), At(0, 1)->x());
   At(0, 0)->setFocus();
   Press(Qt::Key_Left, Qt::ControlModifier);
-  EXPECT_TRUE(At(0, 1)->hasFocus()) << "left is where the eye sees it";
+  EXPECT_TRUE(At(0, 1)->hasFocus()) << "left is a direction on the screen";
 }
 
 TEST_F(MatrixFractEdit, ShowsAndTakesFractions) {

@@ -209,7 +209,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void FitGrid();
   /// Places the cells, the bars and the corner.
   void Arrange();
-  /// Places a widget where the bars meet.
+  /// Sets the widget that Arrange places where the bars meet.
   void SetCorner(QWidget* corner);
   /// Lets the keys, the wheel and the mouse of a text in front of the cells count as those of a
   /// cell.
