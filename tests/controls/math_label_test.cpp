@@ -334,6 +334,7 @@ TEST(MathLabel, AcceleratorsFocusTheirControl) {
   }
   EXPECT_EQ(label->FocusControlName(), "third");
   third.reset();
+  QTest::keyClick(&window, Qt::Key_G, Qt::AltModifier);
   EXPECT_EQ(label->FocusControl(), nullptr);
 }
 

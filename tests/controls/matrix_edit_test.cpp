@@ -82,6 +82,22 @@ TEST_F(MatrixEdit, RaisesEventsInOrder) {
   }
 }
 
+TEST_F(MatrixEdit, KeysReachEveryElement) {
+  Open(7, 6);
+  At(0, 0)->setFocus();
+  for (const Qt::Key key : {Qt::Key_Down, Qt::Key_Up, Qt::Key_Right, Qt::Key_Left}) {
+    const bool by_columns = key == Qt::Key_Down || key == Qt::Key_Up;
+    const bool back = key == Qt::Key_Up || key == Qt::Key_Left;
+    for (int step = 0; step < 7 * 6; ++step) {
+      const int i = back ? 7 * 6 - 1 - step : step;
+      const auto* const cell = qobject_cast<TQorCustomEdit*>(QApplication::focusWidget());
+      ASSERT_TRUE(cell);
+      ASSERT_EQ(cell->Value(), by_columns ? 10 * (i % 7) + i / 7 : 10 * (i / 6) + i % 6) << key;
+      Press(key, Qt::ControlModifier);
+    }
+  }
+}
+
 TEST_F(MatrixEdit, CommandsApplyTheRoutinesAndCanBeUndone) {
   const TQorFloatMatrix start = {{4, 1}, {0.25L, 2}};
   editor->setMatrix(start);
