@@ -34,7 +34,7 @@ struct Family {
 /// The families in the order of --help.
 [[nodiscard]] std::span<const Family> Families();
 
-/// The family with the given name or alias; null if there is none.
+/// The family with the given name or alias; null if no family has it.
 [[nodiscard]] const Family* FindFamily(std::string_view name);
 
 }  // namespace qorvex::apps

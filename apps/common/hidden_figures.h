@@ -13,7 +13,7 @@ namespace qorvex::apps {
 struct HiddenFigures {
   /// The number of figures that are not zero but are printed as zero.
   std::size_t count = 0;
-  /// The decimals that show four digits of the smallest of these; 0 if there are none.
+  /// The decimals that show four digits of the smallest of these, or 0.
   int enough_decimals = 0;
 };
 

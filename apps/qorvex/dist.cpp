@@ -127,7 +127,7 @@ Extended InRange(Extended figure, const Family& family, const AnyDistribution& d
 Extended Less(const Family& family, const DistArguments& arguments) {
   if (arguments.classic) return ClassicProbability(family.classic.less, arguments);
   const auto distribution = DistributionOf(family, arguments);
-  // Fewer than k are at most k - 1; below 0 there is none.
+  // Less than k means at most k - 1; no count is below 0.
   const Extended point = arguments.numbers.back() - (family.is_discrete ? 1 : 0);
   const Extended figure =
       arguments.log ? LogLower(*distribution, point) : Lower(*distribution, point);

@@ -26,7 +26,7 @@ constexpr const char* kVariatesHelp = R"(Variates:
   processors of a family. On other processors, the last digit of variates that are
   not counts can differ, rarely more. Without a seed, every run is different.)";
 
-// The section of --help on the limits of the parameters; empty if there are none.
+// The section of --help on the limits of the parameters; empty if nothing limits them.
 std::string LimitsHelp(const Variate& variate) {
   const bool classic_is_narrower = variate.classic && *variate.classic->limits != '\0';
   std::istringstream words(classic_is_narrower ? variate.classic->limits

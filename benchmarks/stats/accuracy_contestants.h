@@ -10,7 +10,7 @@ namespace qorvex::benchmarks {
 
 using Routine = std::function<Extended(const testing::Row&)>;
 
-/// The routines that compute the same figure; an empty one where there is none.
+/// The routines that compute the same figure; empty where the library has no such routine.
 struct Contestants {
   Routine classic;
   Routine boost;

@@ -36,7 +36,7 @@ struct Figures {
   Routine quantile = nullptr;
 };
 
-// A distribution is made anew for each figure, as the classic routines and the peers do.
+// Each call constructs the distribution, as the classic routines and the peers do.
 #define QORVEX_CLASS(...)                                                                 \
   Figures {                                                                               \
     [](Extended x) { return Density(__VA_ARGS__, ToPoint<decltype(__VA_ARGS__)>(x)); },   \

@@ -29,7 +29,7 @@ struct Histogram {
   [[nodiscard]] Extended Density(std::size_t index) const;
 };
 
-/// The histogram of the finite values; no classes if there are none.
+/// The histogram of the finite values; without classes if no value is finite.
 ///
 /// - The width is rounded to 1, 2 or 5 times a power of ten, and the edges are multiples of it.
 ///   Readers expect this, and rounded data spread evenly over such classes.

@@ -7,7 +7,7 @@ namespace {
 constexpr char32_t kEscape = U'^';
 
 // The symbols for ! to }: the characters that Adobe's "Symbol Encoding to Unicode" (1999) gives for
-// the codes of the Symbol character set. A space where there is none.
+// the codes of the Symbol character set. Codes without a character give a space.
 constexpr std::u32string_view kSymbols =
     // !"#$%&'()*+,-./
     U"∨   °∞ ↔⇔×≠…±•÷"

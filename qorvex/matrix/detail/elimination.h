@@ -16,7 +16,7 @@ struct NoObserver {
 
 // The row of the column's pivot, from first_row on: the topmost NaN, otherwise the element of
 // largest magnitude that is not zero within QorTolerance, the topmost of several. row_count if
-// there is none.
+// all are zero.
 template <class Rows>
 std::size_t FindPivot(const Rows& rows, std::size_t first_row, std::size_t row_count,
                       std::size_t col) {

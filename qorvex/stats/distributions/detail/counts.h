@@ -17,8 +17,8 @@ inline void RequireCountable(Extended p) {
 }
 
 /// The smallest count of the support with P(X <= k) >= p, or with P(X > k) <= p for the upper tail,
-/// where 0 < p < 1. Steps away from the mean in doubling strides, then halves. EOverflow when there
-/// is none.
+/// where 0 < p < 1. Steps away from the mean in doubling strides, then halves. EOverflow if
+/// every count falls short.
 template <DiscreteDistribution D>
 std::uint32_t SmallestCount(const D& d, Tail tail, Extended p) {
   // The smaller tail has more digits.
