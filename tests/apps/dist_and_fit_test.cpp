@@ -114,6 +114,7 @@ exponential less --mean 2 --x 0 --log => -inf
 beta greater --a 2 --b 2 --upper-end 3 --x 4 --log => -inf
 poisson less --lambda 2 --k 0 --log => -inf
 beta pdf --a 0.5 --b 2 --lower-end 1 --upper-end 3 --x 1 => inf
+beta pdf --a 2 --b 0.5 --lower-end -3 --upper-end 0.2 --x 0.2 => inf
 chi-square table --df 1 --from 0 --to 2 --n 1 --decimals 2 => 0.00,inf|2.00,0.10
 )");
 }
