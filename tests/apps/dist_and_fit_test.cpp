@@ -209,6 +209,7 @@ x,y\n1,2\n1,3\n2,3' | qorvex fit quadratic - --x x --y y => : column 1 (x): a pa
 1e4932 1\n-1e4932 2' | qorvex fit line - --x 1 --y 2 => : the values are too large; their sums are beyond the range of extended precision
 1 1e4000\n2 2\n3 2' | qorvex fit line - --x 1 --y 2 => : the values are too large; their sums are beyond the range of extended precision
 x,y\n1,2\n2,' | qorvex fit line - --x x --y y => :3: column 2 (y): the cell is empty; --skip-empty skips such rows
+x,y\n1,2' | qorvex fit line - --x x --y z => : there is no column "z"; the columns are 1 (x), 2 (y)
 x,y\n1,2' | qorvex fit line - --x x --y 1 => : x and y are both column 1 (x)
 )",
                  "standard input");
