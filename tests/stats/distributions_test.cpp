@@ -293,6 +293,10 @@ TEST(Distributions, IncludeTheInverseGaussian) {
   expect_close(Lower(distribution, 0x1p-9L), 1.297111556661623280487767e-15L);
   EXPECT_MATH_ERROR(GeneralisedInverseGaussianDistribution::InverseGaussian(0, 1), rsValueGZero);
   EXPECT_MATH_ERROR(GeneralisedInverseGaussianDistribution::InverseGaussian(1, 0), rsValueGZero);
+  for (const Extended mean : {1e-4000L, 1e4000L}) {
+    EXPECT_ERROR(GeneralisedInverseGaussianDistribution::InverseGaussian(mean, 1 / mean),
+                 EInvalidOp, rsInvalidOp);
+  }
 }
 
 TEST(DistributionFunctions, KeepTheAccuracyOfTailsBetweenTwoPoints) {
