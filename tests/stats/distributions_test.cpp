@@ -262,6 +262,8 @@ TEST(Distributions, RefuseBadParametersAndProbabilities) {
     }
   }
   EXPECT_ERROR(Quantile(PoissonDistribution(1e10L), 0.5L), EOverflow, rsOverflow);
+  EXPECT_ERROR(Quantile(LogisticDistribution(0, 1e4932L), 1e-100L), EOverflow, rsOverflow);
+  EXPECT_ERROR(UpperQuantile(GumbelDistribution(0, 1e4932L), 1e-100L), EOverflow, rsOverflow);
   EXPECT_ERROR((void)PoissonDistribution(1e10L).Mode(), EOverflow, rsOverflow);
 }
 
