@@ -316,6 +316,8 @@ TEST(DistributionFunctions, KeepTheAccuracyOfTailsBetweenTwoPoints) {
   EXPECT_EQ(Between(normal, 1, 1), 0);
   EXPECT_EQ(LogBetween(normal, 200, 200), -kInfinity);
   EXPECT_EQ(LogBetween(ExponentialDistribution(1), -2, -1), -kInfinity);
+  EXPECT_EQ(LogBetween(normal, 1e3000L, 2e3000L), -kInfinity);
+  EXPECT_EQ(LogBetween(normal, 30, 1e3000L), LogUpper(normal, 30));
   EXPECT_TRUE(std::isnan(Between(normal, kNaN, 1)) && std::isnan(LogBetween(normal, 1, kNaN)));
   const PoissonDistribution poisson(4);
   expect_close(Between(poisson, 25, 20), 1.921489145633260056441e-9L);
