@@ -282,6 +282,11 @@ TEST(Distributions, HaveMomentsThatAreInfiniteOrDoNotExist) {
     expect_same(d->Skewness(), "skewness");
     expect_same(d->Mode(), "mode");
   }
+  // Products within the format of factors beyond it.
+  const Extended mean = WeibullDistribution(0x1p-11L, 1e-4000L).Mean();
+  EXPECT_LT(std::fabs(mean / 1.672691931910011705169952e1894L - 1), 1e-17L);
+  const Extended variance = LogNormalDistribution(12000, 1e-3000L).Variance();
+  EXPECT_LT(std::fabs(variance / 1.168330402273039364869878e4423L - 1), 1e-17L);
 }
 
 TEST(Distributions, IncludeTheInverseGaussian) {
