@@ -41,7 +41,7 @@ enum class CurrentRule;
 /// committed, or discarded if it is not a number.
 ///
 /// Handlers of signals may do anything except delete the control; they may call deleteLater unless
-/// they run an event loop of their own. A redisplay costs O(cells), whatever the size of the table.
+/// they run a nested event loop. A redisplay costs O(cells), whatever the size of the table.
 class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   Q_OBJECT
 
