@@ -88,14 +88,14 @@ template <Distribution D>
   return std::make_unique<ErasedDistribution<D>>(distribution);
 }
 
-/// The distribution of lower + (upper - lower) X.
+/// The distribution of lower + (upper - lower) X for X from 0 to 1.
 template <ContinuousDistribution D>
 class BetweenEnds {
  public:
   using Point = Extended;
 
   BetweenEnds(const D& distribution, Extended lower, Extended upper)
-      : d_(distribution), lower_(lower), width_(upper - lower) {}
+      : d_(distribution), lower_(lower), upper_(upper), width_(upper - lower) {}
 
   [[nodiscard]] Extended Pdf(Extended x) const { return d_.Pdf(ToUnit(x)) / width_; }
   [[nodiscard]] Tails At(Extended x) const { return d_.At(ToUnit(x)); }
@@ -106,9 +106,7 @@ class BetweenEnds {
   [[nodiscard]] Extended Variance() const { return width_ * width_ * d_.Variance(); }
   [[nodiscard]] Extended Skewness() const { return d_.Skewness(); }
   [[nodiscard]] Extended Mode() const { return FromUnit(d_.Mode()); }
-  [[nodiscard]] Interval<Extended> Support() const {
-    return {FromUnit(d_.Support().least), FromUnit(d_.Support().greatest)};
-  }
+  [[nodiscard]] Interval<Extended> Support() const { return {lower_, upper_}; }
 
  private:
   [[nodiscard]] Extended ToUnit(Extended x) const { return (x - lower_) / width_; }
@@ -116,6 +114,7 @@ class BetweenEnds {
 
   D d_;
   Extended lower_;
+  Extended upper_;
   Extended width_;
 };
 

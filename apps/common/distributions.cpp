@@ -100,8 +100,10 @@ std::vector<Family> AllFamilies() {
        .make = [](Numbers p) { return Erase(VonMisesDistribution(p[0])); }},
       {.name = "generalised-inverse-gaussian",
        .aliases = {"inverse-gaussian"},
-       .summary = "The generalised inverse Gaussian distribution; density as "
-                  "x^(b-1) exp(-h/2 (x + 1/x))",
+       .summary =
+           "The generalised inverse Gaussian distribution; density as "
+           "x^(b-1) exp(-h/2 (x + 1/x)). The inverse Gaussian distribution with a mean and a "
+           "shape has h = shape / mean, b = -1/2 and scale = mean",
        .parameters = {{"--h", "concentration h", kShape, 2},
                       {"--b", "order b", kReal, 0.5L},
                       kScale},

@@ -13,7 +13,7 @@ namespace qorvex::apps {
 
 namespace {
 
-// A fault of its own, because the option for a header may have been forgotten.
+// A separate fault, because the option for a header may have been forgotten.
 void RefuseText(const RowReader& rows) {
   const auto text = std::ranges::find_if(rows.Cells(), IsText);
   if (text == rows.Cells().end()) return;

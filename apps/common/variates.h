@@ -35,7 +35,7 @@ class VariateArguments {
 struct VariateMethod {
   /// Empty where there is only one.
   const char* name;
-  /// Draws into a vector of one element, or of its own length.
+  /// Draws into a vector of one element, or of as many as the variate has.
   void (*draw)(const VariateArguments& arguments, TQorFloatVector& variate, UniformSource source);
   /// What it takes of the parameters' numbers, or empty if all.
   const char* limits = "";

@@ -31,7 +31,7 @@ struct FloatDigits {
 /// Shown instead of a number that does not fit.
 inline constexpr std::string_view kNoRoom = "####";
 
-/// Tells whether a text fits. If a text fits, the same number with fewer digits must fit too.
+/// Whether a text fits. If a text fits, the same number with fewer digits must fit too.
 using TextFits = std::function<bool(std::string_view text)>;
 
 /// The number as a text that fits: the first of the following that does.

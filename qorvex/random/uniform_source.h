@@ -6,8 +6,8 @@
 /// Every routine takes the source as its last parameter. Its short form has no such parameter and
 /// draws from ClassicRandom.
 ///
-/// - State: none is kept between calls. Every call computes what its parameters need, so calls with
-///   different sources may run on different threads at the same time.
+/// - State: nothing is kept between calls. Every call computes what its parameters need, so calls
+///   with different sources may run on different threads at the same time.
 /// - Results: extended values, including whole numbers.
 /// - Requirements: a source should return independent values in [0, 1), with all 64 bits if the far
 ///   tails matter. A source with steps of 2^-53, for instance, yields no normal variate beyond

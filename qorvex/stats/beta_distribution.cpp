@@ -57,9 +57,9 @@ void BetaPDFValues(Extended a, Extended b, Extended lower, Extended upper, Exten
                    TQorFloatVector& y_values) {
   detail::FillDensityTable({x_low, x_high, n, x_values, y_values}, [=] {
     RequireShapes(a, b);
-    const Support support(lower, upper);
-    return
-        [support, beta = BetaDistribution(a, b)](Extended x) { return support.Density(x, beta); };
+    return [=, support = Support(lower, upper)](Extended x) {
+      return support.Density(x, BetaDistribution(a, b));
+    };
   });
 }
 

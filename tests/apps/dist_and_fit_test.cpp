@@ -114,6 +114,7 @@ exponential less --mean 2 --x 0 --log => -inf
 beta greater --a 2 --b 2 --upper-end 3 --x 4 --log => -inf
 poisson less --lambda 2 --k 0 --log => -inf
 beta pdf --a 0.5 --b 2 --lower-end 1 --upper-end 3 --x 1 => inf
+beta pdf --a 2 --b 0.5 --lower-end -3 --upper-end 0.2 --x 0.2 => inf
 chi-square table --df 1 --from 0 --to 2 --n 1 --decimals 2 => 0.00,inf|2.00,0.10
 )");
 }
@@ -208,6 +209,7 @@ x,y\n1,2\n1,3\n2,3' | qorvex fit quadratic - --x x --y y => : column 1 (x): a pa
 1e4932 1\n-1e4932 2' | qorvex fit line - --x 1 --y 2 => : the values are too large; their sums are beyond the range of extended precision
 1 1e4000\n2 2\n3 2' | qorvex fit line - --x 1 --y 2 => : the values are too large; their sums are beyond the range of extended precision
 x,y\n1,2\n2,' | qorvex fit line - --x x --y y => :3: column 2 (y): the cell is empty; --skip-empty skips such rows
+x,y\n1,2' | qorvex fit line - --x x --y z => : there is no column "z"; the columns are 1 (x), 2 (y)
 x,y\n1,2' | qorvex fit line - --x x --y 1 => : x and y are both column 1 (x)
 )",
                  "standard input");

@@ -129,6 +129,9 @@ TEST(ContinuousDistributions, TablesOfDensities) {
   EXPECT_EQ(ys, (Values{0, 0, 1}));
   BetaPDFValues(1, 1, 2, 4, 0, 6, 3, xs, ys);
   EXPECT_EQ(ys, (Values{0, 0.5L, 0.5L, 0}));
+  // Shapes are out of range only at a point.
+  BetaPDFValues(1e16L, 1, 0, 1, -1, xs, ys);
+  EXPECT_TRUE(ys.empty());
 }
 
 TEST(ContinuousDistributions, TablesStayEmptyAfterAnError) {

@@ -262,6 +262,8 @@ TEST(Distributions, RefuseBadParametersAndProbabilities) {
     }
   }
   EXPECT_ERROR(Quantile(PoissonDistribution(1e10L), 0.5L), EOverflow, rsOverflow);
+  EXPECT_ERROR(Quantile(LogisticDistribution(0, 1e4932L), 1e-100L), EOverflow, rsOverflow);
+  EXPECT_ERROR(UpperQuantile(GumbelDistribution(0, 1e4932L), 1e-100L), EOverflow, rsOverflow);
   EXPECT_ERROR((void)PoissonDistribution(1e10L).Mode(), EOverflow, rsOverflow);
 }
 
@@ -280,6 +282,11 @@ TEST(Distributions, HaveMomentsThatAreInfiniteOrDoNotExist) {
     expect_same(d->Skewness(), "skewness");
     expect_same(d->Mode(), "mode");
   }
+  // Products within the format of factors beyond it.
+  const Extended mean = WeibullDistribution(0x1p-11L, 1e-4000L).Mean();
+  EXPECT_LT(std::fabs(mean / 1.672691931910011705169952e1894L - 1), 1e-17L);
+  const Extended variance = LogNormalDistribution(12000, 1e-3000L).Variance();
+  EXPECT_LT(std::fabs(variance / 1.168330402273039364869878e4423L - 1), 1e-17L);
 }
 
 TEST(Distributions, IncludeTheInverseGaussian) {
@@ -293,6 +300,10 @@ TEST(Distributions, IncludeTheInverseGaussian) {
   expect_close(Lower(distribution, 0x1p-9L), 1.297111556661623280487767e-15L);
   EXPECT_MATH_ERROR(GeneralisedInverseGaussianDistribution::InverseGaussian(0, 1), rsValueGZero);
   EXPECT_MATH_ERROR(GeneralisedInverseGaussianDistribution::InverseGaussian(1, 0), rsValueGZero);
+  for (const Extended mean : {1e-4000L, 1e4000L}) {
+    EXPECT_ERROR(GeneralisedInverseGaussianDistribution::InverseGaussian(mean, 1 / mean),
+                 EInvalidOp, rsInvalidOp);
+  }
 }
 
 TEST(DistributionFunctions, KeepTheAccuracyOfTailsBetweenTwoPoints) {
@@ -310,6 +321,8 @@ TEST(DistributionFunctions, KeepTheAccuracyOfTailsBetweenTwoPoints) {
   EXPECT_EQ(Between(normal, 1, 1), 0);
   EXPECT_EQ(LogBetween(normal, 200, 200), -kInfinity);
   EXPECT_EQ(LogBetween(ExponentialDistribution(1), -2, -1), -kInfinity);
+  EXPECT_EQ(LogBetween(normal, 1e3000L, 2e3000L), -kInfinity);
+  EXPECT_EQ(LogBetween(normal, 30, 1e3000L), LogUpper(normal, 30));
   EXPECT_TRUE(std::isnan(Between(normal, kNaN, 1)) && std::isnan(LogBetween(normal, 1, kNaN)));
   const PoissonDistribution poisson(4);
   expect_close(Between(poisson, 25, 20), 1.921489145633260056441e-9L);

@@ -72,7 +72,7 @@ Extended LowerFraction(Extended a, Extended b, Extended x, Extended lambda) {
   return fraction;
 }
 
-// The tails where the fraction is slow or its tail not the one to know. x and y sum to one.
+// The tails where the fraction is slow or gives the larger tail. x and y sum to one.
 Tails BoostTails(Tail tail, Extended a, Extended b, Extended x, Extended y) {
   // The smaller of x and y is the one that is known well.
   const bool mirrored = x > y;

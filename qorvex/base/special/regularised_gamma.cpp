@@ -16,8 +16,9 @@ namespace {
 constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 4;
 
 // The lower tail is x^a e^-x / Gamma(a + 1) times this series: 1 + x / (a + 1) +
-// x^2 / ((a + 1) (a + 2)) + ... One division serves two terms and does not wait for them. The terms
-// that are left sum to less than term * x / (divisor - x), once that is positive.
+// x^2 / ((a + 1) (a + 2)) + ... One division serves two terms and needs neither, so that the
+// processor can start it early. The terms that are left sum to less than term * x / (divisor - x),
+// once that is positive.
 Extended LowerSeries(Extended a, Extended x) {
   Extended sum = 1;
   Extended term = 1;

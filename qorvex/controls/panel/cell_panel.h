@@ -43,7 +43,7 @@ enum class CurrentRule;
 /// Every cell has an accessible name while assistive technology is active.
 ///
 /// Handlers of signals may do anything except delete the control; they may call deleteLater unless
-/// they run an event loop of their own. A redisplay costs O(cells), whatever the size of the table.
+/// they run a nested event loop. A redisplay costs O(cells), whatever the size of the table.
 class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   Q_OBJECT
 

@@ -16,10 +16,12 @@ namespace qorvex {
 /// - Support: 0 to n.
 /// - Skewness: NaN where the variance is 0.
 /// - Errors: rsBinomDistInvalid unless 0 <= p <= 1. For a p of NaN Quantile and Mode raise it.
-/// - Accuracy: up to 255 trials the probability of a count is correctly rounded. Tails are those of
+/// - Accuracy: up to 255 trials the probability of a count is a product of 125 bits, so that
+///   one with 64 bits, such as 3/8 for two heads in four tosses, is exact. Tails are those of
 ///   BetaDistribution with shapes k + 1 and n - k: those with 64 bits, such as 11/16 for at most
 ///   two heads in four tosses, are exact up to 255 trials as long as they are sums of at most 16
 ///   terms.
+/// - Cost: a tail as that of BetaDistribution with shapes k + 1 and n - k.
 /// - Method: products of 125 bits; Stirling's series beyond 255 trials; tails as beta tails.
 class QORVEX_EXPORT BinomialDistribution {
  public:

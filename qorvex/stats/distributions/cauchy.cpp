@@ -43,9 +43,12 @@ Extended CauchyDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(location_, scale_, p)) return kNotANumber;
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
-  // The cotangent of pi p.
-  const Extended z = p < 0.25L ? 1 / std::tan(QorPi * p) : std::tan(QorPi * (0.5L - p));
-  return CheckedFinite(location_ + (tail == Tail::kLower ? -z : z) * scale_);
+  // The scale times the cotangent of pi p, which is 1 / (pi p) for tiny p.
+  constexpr Extended tiny = 1e-30L;
+  Extended distance = scale_ / QorPi / p;
+  if (p >= tiny)
+    distance = p < 0.25L ? scale_ / std::tan(QorPi * p) : std::tan(QorPi * (0.5L - p)) * scale_;
+  return CheckedFinite(location_ + (tail == Tail::kLower ? -distance : distance));
 }
 
 Extended CauchyDistribution::Mean() const {

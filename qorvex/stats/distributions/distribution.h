@@ -7,8 +7,8 @@
 /// depend on the point. All classes share this contract:
 ///
 /// - Points outside the support are valid: their density is 0 and their tails are 0 and 1. Infinite
-///   points give the limits. At an end of the support the density is its limit, which may be
-///   infinite.
+///   points give the limits, and points whose distance from the location exceeds the format count
+///   as infinite. At an end of the support the density is its limit, which may be infinite.
 /// - NaN, as a point, a probability or a parameter, gives NaN. A count cannot be NaN: where one is
 ///   asked for, NaN raises as a value out of range does.
 /// - Parameters that must be positive must also be finite and not subnormal, since they are divided
@@ -22,7 +22,9 @@
 ///   too, unless the class says otherwise; quantiles by a few. docs/accuracy.md has the measured
 ///   figures.
 /// - A probability costs some hundred to thousand arithmetic operations, a quantile three to six
-///   times as much, whatever the parameters, unless the class says otherwise.
+///   times as much, whatever the parameters, unless the class says otherwise. The quantile of a
+///   count takes about as many tails as the standard deviation has binary digits, and a few more in
+///   a far tail.
 /// - Objects are immutable but for assignment, and can be used by several threads at once.
 
 #include <concepts>

@@ -99,7 +99,7 @@ template <Distribution D>
 }
 
 /// The natural logarithm of Between, also where the probability underflows; -infinity for equal
-/// points.
+/// points, and where the logarithm exceeds the format.
 template <Distribution D>
 [[nodiscard]] Extended LogBetween(const D& d, typename D::Point a, typename D::Point b) {
   constexpr Extended half = 0.5L;
@@ -110,6 +110,8 @@ template <Distribution D>
     if (!(larger.Probability(tail) <= half)) continue;
     const special::Scaled minuend = larger.ScaledProbability(tail);
     const special::Scaled subtrahend = smaller.ScaledProbability(tail);
+    // Too small for the format of logarithms, and for that of pairs.
+    if (std::isinf(subtrahend.exponent.hi)) return minuend.Log();
     const special::Scaled taken{subtrahend.factor, subtrahend.exponent - minuend.exponent};
     return special::Scaled{minuend.factor - taken.Value(), minuend.exponent}.Log();
   }

@@ -51,6 +51,8 @@ Extended ModeOf(Extended h, Extended b) {
 ExtendedPair CheckedRatio(Extended mean, Extended shape) {
   RequirePositive(mean, rsValueGZero);
   RequirePositive(shape, rsValueGZero);
+  // Beyond the format, pairs are NaN.
+  RequireShape(shape / mean);
   return ExtendedPair(shape) / mean;
 }
 
@@ -69,6 +71,7 @@ struct GeneralisedInverseGaussianDistribution::Descent {
     const Extended shrunk = fall / shrinking;
     Extended s = std::fmin(std::log1p(grown + std::sqrt(2 * grown)),
                            (shrunk + std::sqrt(shrunk * (shrunk + 8))) / 2);
+    if (slope > 0) s = std::fmin(s, fall / slope);
     constexpr Extended little = 1.05L;
     for (Extended at = At(s); at > little * fall; at = At(s)) {
       s -= (at - fall) / (slope + growing * std::expm1(s) - shrinking * std::expm1(-s));
@@ -121,6 +124,7 @@ GeneralisedInverseGaussianDistribution::Descent GeneralisedInverseGaussianDistri
 }
 
 ExtendedPair GeneralisedInverseGaussianDistribution::FallAt(ExtendedPair x) const {
+  if (!(x.hi > 0 && x.hi <= kLargest)) return kInfinite;
   const ExtendedPair ratio = x / mode_;
   // h / 2 (x + 1 / x - mode - 1 / mode) without cancellation.
   const ExtendedPair change = (x - mode_) * (1 - 1 / x / mode_);

@@ -18,7 +18,8 @@ namespace qorvex {
 /// - Errors: rsInvalidValue unless h > 0; rsValueGZero unless scale > 0; EInvalidOp for h outside
 ///   1e-18 to 1e15, and for b outside -1e15 to 1e15.
 /// - Accuracy: quantiles are off by up to 20 units for small h. Skewness loses digits near 0.
-/// - Cost: a tail 64 exponentials, and more where h is small: 700 for h = 1e-18.
+/// - Cost: a tail twice 64 exponentials, twice that for one above 0.6, and more where h is small:
+///   twice 700 for h = 1e-18.
 /// - Method: Gauss-Legendre quadrature (Davis and Rabinowitz 1984, "Methods of numerical
 ///   integration") of the density of ln X, relative to that at the point, with an error below 1e-20
 ///   of the tail; the exponent in 125 bits. The normalising constant comes from the same rule
@@ -63,7 +64,8 @@ class QORVEX_EXPORT GeneralisedInverseGaussianDistribution {
   struct Descent;
   // How the logarithm of the density of ln X falls from x on, for scale 1, towards the given tail.
   [[nodiscard]] Descent DescentFrom(special::ExtendedPair x, Tail tail) const;
-  // By how much it has fallen at x since the mode.
+  // By how much it has fallen at x since the mode; infinite for quotients beyond the format, which
+  // are 0 or NaN.
   [[nodiscard]] special::ExtendedPair FallAt(special::ExtendedPair x) const;
   [[nodiscard]] Tails TailsFrom(special::ExtendedPair x, special::ExtendedPair fall) const;
   // The mean of (X / (s mode) - 1 - shift)^power.

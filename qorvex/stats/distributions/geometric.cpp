@@ -13,7 +13,8 @@ using special::ExtendedPair;
 using special::Scaled;
 
 GeometricDistribution::GeometricDistribution(Extended p) : p_(p) {
-  if (p <= 0 || p > 1) RaiseMathError(rsInvalidValue);
+  RequirePositive(p, rsInvalidValue);
+  if (p > 1) RaiseMathError(rsInvalidValue);
   if (p < 1) ln_q_ = Ln(special::ExactSum(1, -p));
 }
 
@@ -27,8 +28,8 @@ Tails GeometricDistribution::At(std::uint32_t k) const {
   if (AnyNaN(p_)) return UnknownTails();
   if (p_ == 1) return AboveAll();
   const ExtendedPair ln_upper = ln_q_ * (static_cast<Extended>(k) + 1);
-  constexpr Extended ln_of_half = -0.7L;
-  if (ln_upper.hi < ln_of_half) return {Tail::kUpper, Scaled{1, ln_upper}};
+  constexpr Extended lower_tail_above = -0.7L;
+  if (ln_upper.hi < lower_tail_above) return {Tail::kUpper, Scaled{1, ln_upper}};
   return {Tail::kLower, Scaled{-std::expm1(ln_upper.hi), ExtendedPair()}};
 }
 

@@ -39,8 +39,7 @@ Tails GumbelDistribution::At(Extended x) const {
 Extended GumbelDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(location_, scale_, p)) return kNotANumber;
-  const ExtendedPair z = -LnUnitExponentialQuantile(Opposite(tail), p);
-  return CheckedFinite((location_ + z * scale_).hi);
+  return PointAt(-LnUnitExponentialQuantile(Opposite(tail), p), location_, scale_);
 }
 
 Extended GumbelDistribution::Mean() const {

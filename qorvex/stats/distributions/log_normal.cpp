@@ -1,6 +1,7 @@
 #include "qorvex/stats/distributions/log_normal.h"
 
 #include <cmath>
+#include <limits>
 
 #include "qorvex/base/special/normal_tail.h"
 #include "qorvex/stats/distributions/detail/checks.h"
@@ -49,6 +50,10 @@ Extended LogNormalDistribution::Variance() const {
   // e^(2 m + s^2) (e^(s^2) - 1), arranged so that no factor overflows before the product does.
   const Extended square = log_std_dev_ * log_std_dev_;
   const Extended root = std::exp(log_mean_ + square);
+  if (std::isinf(root) && square < std::numeric_limits<Extended>::min()) {
+    const Extended std_dev = Scaled{log_std_dev_, log_mean_}.Value();
+    return std_dev * std_dev;
+  }
   return -std::expm1(-square) * root * root;
 }
 

@@ -40,7 +40,7 @@ Extended LogisticDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(location_, scale_, p)) return kNotANumber;
   const ExtendedPair ln_odds = Ln(p / special::ExactSum(1, -p));
-  return CheckedFinite((location_ + (tail == Tail::kLower ? ln_odds : -ln_odds) * scale_).hi);
+  return PointAt(tail == Tail::kLower ? ln_odds : -ln_odds, location_, scale_);
 }
 
 Extended LogisticDistribution::Variance() const {

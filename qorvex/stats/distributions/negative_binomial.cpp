@@ -20,7 +20,7 @@ NegativeBinomialDistribution::NegativeBinomialDistribution(Extended p, Extended 
 
 Extended NegativeBinomialDistribution::Pmf(std::uint32_t k) const {
   if (AnyNaN(p_, failures_)) return kNotANumber;
-  // k / (k + r) times the density of the logarithm of beta odds, or q^r.
+  // q^r p^k / B(r, k + 1) divided by k + r.
   const auto count = static_cast<Extended>(k);
   special::Scaled density = special::RegularisedBeta(failures_, count + 1).Density({q_, p_}, 0, -1);
   density.factor /= failures_ + count;

@@ -18,6 +18,7 @@ namespace qorvex {
 /// - Support: all counts.
 /// - Errors: rsInvalidValue unless 0 < p < 1 and failures > 0; EInvalidOp for failures outside
 ///   1e-18 to 1e15. For a parameter of NaN Quantile and Mode raise rsInvalidValue.
+/// - Cost: a tail as that of BetaDistribution with shapes r and k + 1.
 /// - Method: beta tails with shapes r and k + 1.
 class QORVEX_EXPORT NegativeBinomialDistribution {
  public:

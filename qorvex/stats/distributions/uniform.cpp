@@ -1,6 +1,7 @@
 #include "qorvex/stats/distributions/uniform.h"
 
 #include <cmath>
+#include <limits>
 
 #include "qorvex/stats/distributions/detail/checks.h"
 
@@ -14,7 +15,9 @@ using special::Scaled;
 
 UniformDistribution::UniformDistribution(Extended least, Extended greatest)
     : least_(least), greatest_(greatest), width_(ExactSum(greatest, -least)) {
-  if (least >= greatest) RaiseMathError(rsInvalidValue);
+  if (least >= greatest || width_.hi < std::numeric_limits<Extended>::min()) {
+    RaiseMathError(rsInvalidValue);
+  }
   RequireFinite(width_.hi);
 }
 

@@ -13,8 +13,8 @@ namespace qorvex {
 ///
 /// - Density: 1 / (greatest - least).
 /// - Support: least <= x <= greatest.
-/// - Errors: rsInvalidValue unless least < greatest; EInvalidOp where an end is infinite or the
-///   ends are farther apart than the format reaches.
+/// - Errors: rsInvalidValue unless least < greatest, and where the difference is subnormal;
+///   EInvalidOp where an end is infinite or the difference exceeds the format.
 /// - Mode: least.
 /// - Accuracy: within one unit in the last place.
 class QORVEX_EXPORT UniformDistribution {

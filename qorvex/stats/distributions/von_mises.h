@@ -13,6 +13,7 @@ namespace qorvex {
 ///
 /// - Density: exp(k cos x) / (2 pi I0(k)), with concentration k. For k = 0 it is uniform.
 /// - Support: -pi to pi.
+/// - Mode: 0, for k = 0 too.
 /// - Variance: that of the angle as a number, not the circular variance.
 /// - Errors: rsInvalidValue unless concentration >= 0; EInvalidOp for one above 1e15.
 /// - Accuracy: a quantile near 0, which takes p to be near 1/2, is off by 2e-19 times the standard

@@ -90,7 +90,7 @@ Extended WeibullDistribution::LnMomentRatio(int n) const {
 }
 
 Extended WeibullDistribution::Mean() const {
-  return Moment(1).Value() * scale_;
+  return (Moment(1) * Scaled{scale_, ExtendedPair()}).Value();
 }
 
 Extended WeibullDistribution::Variance() const {

@@ -18,6 +18,13 @@ ExtendedPair Standardised(ExtendedPair x, Extended mean, Extended std_dev) {
   return (x - ExtendedPair(mean)) / ExtendedPair(std_dev);
 }
 
+Extended PointAt(ExtendedPair z, Extended location, Extended scale) {
+  const Extended x = (z * scale + location).hi;
+  // Pairs that overflow are NaN.
+  if (!std::isfinite(x)) throw EOverflow();
+  return x;
+}
+
 Tails StandardNormalTails(ExtendedPair z) {
   if (z.hi < 0) return StandardNormalTails(-z).Mirrored();
   if (std::isinf(z.hi)) return AboveAll();

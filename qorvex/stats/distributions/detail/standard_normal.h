@@ -17,6 +17,9 @@ inline void RequireNormal(Extended mean, Extended std_dev) {
 [[nodiscard]] special::ExtendedPair Standardised(special::ExtendedPair x, Extended mean,
                                                  Extended std_dev);
 
+/// location + z scale. EOverflow beyond the format.
+[[nodiscard]] Extended PointAt(special::ExtendedPair z, Extended location, Extended scale);
+
 /// Both tails at any z but NaN.
 [[nodiscard]] Tails StandardNormalTails(special::ExtendedPair z);
 

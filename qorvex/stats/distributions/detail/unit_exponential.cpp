@@ -17,6 +17,9 @@ Tails UnitExponentialTails(ExtendedPair ln_t) {
 }
 
 ExtendedPair LnUnitExponentialQuantile(Tail tail, Extended p) {
+  // So small a lower tail is the point itself.
+  constexpr Extended tiny = 1e-30L;
+  if (tail == Tail::kLower && p < tiny) return Ln(ExtendedPair(p));
   return Ln(-Ln(tail == Tail::kUpper ? ExtendedPair(p) : special::ExactSum(1, -p)));
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
 /// @file
-/// The exponential distribution with mean 1, which others are transformations of.
+/// The exponential distribution with mean 1. The Weibull and the Gumbel distribution are those of
+/// functions of its variable.
 
 #include "qorvex/base/special/extended_pair.h"
 #include "qorvex/stats/distributions/detail/checks.h"
