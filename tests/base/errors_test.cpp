@@ -42,7 +42,6 @@ TEST_F(Messages, TextIsLookedUpAtTheRaise) {
     return "looked up, instead of " + std::to_string(MessageText(rsNA).size());
   });
   EXPECT_EQ(raised(), "looked up, instead of 13");
-  EXPECT_STREQ(EMathError(rsNA).what(), "Not available");
   SetMessageLookup(nullptr);
   EXPECT_EQ(raised(), "Der Vektor ist leer");
   ResetMessageText(rsVectorIsEmpty);
@@ -69,7 +68,6 @@ static_assert(!std::derived_from<EConvertError, EMathError>);
 
 TEST(CheckedMath, RaisesTheRuntimeErrors) {
   EXPECT_ERROR(CheckedDivide(1, 0), EZeroDivide, rsZeroDivide);
-  EXPECT_ERROR(CheckedDivide(0, 0), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(CheckedDivide(kInfinity, kInfinity), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(CheckedDivide(1, 1e-4940L), EOverflow, rsOverflow);
   EXPECT_ERROR(CheckedSqrt(-1), EInvalidOp, rsInvalidOp);
