@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "qorvex/base/rounding.h"
-#include "qorvex/base/swap.h"
 #include "support/amounts.h"
 #include "support/test.h"
 
@@ -160,15 +159,6 @@ TEST(RoundProduct, RoundsAsTheExactProductDoes) {
     ASSERT_EQ(rounded(value), NearestAmount<Currency>(product, divisor).stored());
     ASSERT_EQ(rounded(-value), NearestAmount<Currency>(-product, divisor).stored());
   }
-}
-
-TEST(SwapXY, ExchangesBits) {
-  Extended x = -0.0L;
-  Extended y = kInfinity;
-  SwapXY(x, y);
-  EXPECT_TRUE(std::isinf(x) && std::signbit(y));
-  SwapXY(x, x);
-  EXPECT_TRUE(std::isinf(x));
 }
 
 }  // namespace qorvex

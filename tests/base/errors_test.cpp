@@ -52,6 +52,7 @@ static_assert(!std::derived_from<EConvertError, EMathError>);
 
 TEST(CheckedMath, RaisesTheRuntimeErrors) {
   EXPECT_ERROR(CheckedDivide(1, 0), EZeroDivide, rsZeroDivide);
+  EXPECT_ERROR(CheckedDivide(0, 0), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(CheckedDivide(kInfinity, kInfinity), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(CheckedDivide(1, 1e-4940L), EOverflow, rsOverflow);
   EXPECT_ERROR(CheckedSqrt(-1), EInvalidOp, rsInvalidOp);

@@ -65,30 +65,18 @@ TEST(ElementwiseProducts, HaveExtendedFactorsForFloatingElements) {
   EXPECT_EQ(singles[0][0], 0x1p-60F);
 }
 
-template <class T>
-class Transforms : public ::testing::Test {};
-TYPED_TEST_SUITE(Transforms, FloatTypes);
-
-TYPED_TEST(Transforms, AgreeWithThoseOfTheRowsAndAcceptNaN) {
-  using T = TypeParam;
-  testing::Engine engine(27);
-  auto given = testing::RandomMatrix<T>(engine, 3, 20);
-  for (T& x : given[0]) x = std::fabs(x);
-  given[1].SetLength(0);
-  given[2] = {std::numeric_limits<T>::quiet_NaN()};
-  const std::pair<void (*)(TQorMatrix<T>&), void (*)(TQorVector<T>&)> routines[] = {
-      {SquareMatrix<T>, SquareVector<T>},
-      {SqrtMatrix<T>, SqrtVector<T>},
-      {InvMatrix<T>, InvVector<T>},
-      {LnMatrix<T>, LnVector<T>},
-      {Log10Matrix<T>, Log10Vector<T>}};
-  for (const auto& [transform_matrix, transform_vector] : routines) {
-    auto matrix = CopyMatrix(given);
-    auto row = CopyVector(given[0]);
-    transform_matrix(matrix);
-    transform_vector(row);
-    EXPECT_EQ(matrix[0], row);
-    EXPECT_TRUE(std::isnan(matrix[2][0]));
+TEST(MatrixTransforms, ComputeInExtendedPrecisionAndAcceptNaN) {
+  const std::pair<void (*)(TQorDoubleMatrix&), Extended> cases[] = {
+      {SquareMatrix<double>, 2731 * 2731},
+      {SqrtMatrix<double>, std::sqrt(2731.0L)},
+      {InvMatrix<double>, 1 / 2731.0L},
+      {LnMatrix<double>, std::log(2731.0L)},
+      {Log10Matrix<double>, std::log10(2731.0L)}};
+  for (const auto& [transform, expected] : cases) {
+    TQorDoubleMatrix m{{2731}, {}, {std::nan("")}};
+    transform(m);
+    EXPECT_EQ(m[0][0], static_cast<double>(expected));
+    EXPECT_TRUE(std::isnan(m[2][0]));
   }
 }
 

@@ -11,6 +11,7 @@ TEST(RowOperations, ExchangesAreSeenThroughEveryHandle) {
   EXPECT_EQ(row, (TQorByteVector{4, 5, 6}));
   SwapMatrixCols(matrix, 0, 2);
   SwapMatrixRows(matrix, 1, 1);
+  SwapMatrixCols(matrix, 1, 1);
   EXPECT_EQ(matrix, (TQorByteMatrix{{6, 5, 4}, {3, 2, 1}}));
 }
 

@@ -48,18 +48,6 @@ TYPED_TEST(MatrixSorting, SortsWholeRowsAndColumns) {
   }
 }
 
-TEST(MatrixSortingLines, NaNIsLastInBothOrders) {
-  const TQorDoubleMatrix source{{std::nan(""), 0}, {-1, 1}, {-std::nan(""), 2}, {HUGE_VAL, 3}};
-  for (const bool ascending : {true, false}) {
-    TQorDoubleMatrix m = CopyMatrix(source);
-    QSortMatrixRowsOnCol(m, 0, ascending);
-    EXPECT_EQ(m[0][1], ascending ? 1 : 3);
-    EXPECT_EQ(m[1][1], ascending ? 3 : 1);
-    EXPECT_TRUE(std::isnan(m[2][0]) && std::isnan(m[3][0]));
-    EXPECT_EQ(m[2][1] + m[3][1], 2);
-  }
-}
-
 TEST(MatrixSortingLines, ContentsMoveAndBuffersStay) {
   TQorLIntMatrix m{{3, 30}, {1, 10}, {2, 20}};
   const TQorLIntVector first = m[0];
