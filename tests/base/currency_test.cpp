@@ -1,5 +1,6 @@
 #include "qorvex/base/currency.h"
 
+#include <functional>
 #include <random>
 #include <utility>
 
@@ -96,16 +97,10 @@ TEST(Currency, ConvertsFloatingValuesInUnits) {
   EXPECT_TRUE(SameCurrency(Currency(3), Currency(3)) && !SameCurrency(Currency(3), Currency(4)));
 }
 
-template <class X, class Y>
-concept Summable = requires(X x, Y y) {
-  x + y;
-};
-template <class X, class Y>
-concept Multipliable = requires(X x, Y y) {
-  x* y;
-};
-static_assert(!Summable<Currency, QorCurrency> && !Summable<Currency, int>);
-static_assert(!Multipliable<Currency, double> && !Multipliable<Currency, Currency>);
+static_assert(!std::is_invocable_v<std::plus<>, Currency, QorCurrency> &&
+              !std::is_invocable_v<std::plus<>, Currency, int> &&
+              !std::is_invocable_v<std::multiplies<>, Currency, double> &&
+              !std::is_invocable_v<std::multiplies<>, Currency, Currency>);
 static_assert(QorCurrency(1250) * 3 - QorCurrency(50) == QorCurrency(3700));
 
 template <class C>
