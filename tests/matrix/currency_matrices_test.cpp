@@ -27,19 +27,17 @@ TYPED_TEST(AmountMatrices, BehaveAsMatricesOfTheStoredIntegers) {
 
     auto amounts = CopyMatrix(given);
     auto integers = Stored(given);
-    const auto do_with_both = [&](const auto& change) {
-      change(amounts);
-      change(integers);
-      EXPECT_EQ(Stored(amounts), integers);
-    };
-    do_with_both([](auto& m) { QSortMatrixRowsOnCol(m, 1, true); });
-    do_with_both([](auto& m) { QSortMatrixColsOnRow(m, 0, false); });
-    do_with_both([](auto& m) { SwapMatrixRows(m, 0, 1); });
-    do_with_both([](auto& m) { SwapMatrixCols(m, 0, 1); });
-    do_with_both([](auto& m) {
+    const auto change = [](auto& m) {
+      QSortMatrixRowsOnCol(m, 1, true);
+      QSortMatrixColsOnRow(m, 0, false);
+      SwapMatrixRows(m, 0, 1);
+      SwapMatrixCols(m, 0, 1);
       OverwriteMatrixRow(m, 1, {m[0][0]}, m[0][1]);
       OverwriteMatrixCol(m, 0, {m[1][1]}, m[0][1]);
-    });
+    };
+    change(amounts);
+    change(integers);
+    EXPECT_EQ(Stored(amounts), integers);
   }
 }
 
