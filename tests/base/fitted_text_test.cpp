@@ -28,44 +28,34 @@ Case RandomCase(std::mt19937_64& engine) {
            .trim = engine() % 2 == 0}};
 }
 
-std::string Trimmed(const Case& c, const std::string& text) {
-  return c.digits.trim ? StripTChStr(text, '0') : text;
-}
-
-std::string Fixed(const Case& c, std::size_t decimals) {
-  return Trimmed(c, Float2EStr(c.value, static_cast<int>(decimals)));
-}
-
-std::string Exponent(const Case& c, std::size_t decimals) {
-  char text[64];
-  std::snprintf(text, sizeof text, "%.*Le", static_cast<int>(decimals), c.value);
-  const std::string number = text;
-  const auto e = number.find('e');
-  return Trimmed(c, number.substr(0, e)) + 'e' + std::to_string(std::stoi(number.substr(e + 1)));
-}
-
 // Tries all texts, from the longest to the shortest.
 std::string FirstThatFits(const Case& c, std::size_t length) {
   const std::string whole = FloatText(c.value, c.digits);
-  if (whole.size() <= length) return whole;
+  const auto trimmed = [&](const std::string& text) {
+    return c.digits.trim ? StripTChStr(text, '0') : text;
+  };
   const std::string digits = whole.substr(0, whole.find('e'));
   const std::size_t point = std::min(digits.find('.'), digits.size());
   const std::size_t first = std::min(digits.find_first_of("123456789"), digits.size());
+  std::vector<std::string> texts{whole};
   if (digits == whole && point != digits.size()) {
     // The first digit that is not zero stays.
     const std::size_t least = first == digits.size() || first < point ? 0 : first - point;
-    for (std::size_t decimals = digits.size() - point - 1; decimals-- > least;) {
-      const std::string text = Fixed(c, decimals);
-      if (text.size() <= length) return text;
-    }
+    for (std::size_t decimals = digits.size() - point - 1; decimals-- > least;)
+      texts.push_back(trimmed(Float2EStr(c.value, static_cast<int>(decimals))));
   }
   const std::size_t after_first = digits.size() - first;
   const std::size_t significant = after_first - (first < point && point < digits.size() ? 1 : 0);
   for (std::size_t decimals = significant; decimals-- > 0;) {
-    const std::string text = Exponent(c, decimals);
-    if (text.size() <= length) return text;
+    char text[64];
+    std::snprintf(text, sizeof text, "%.*Le", static_cast<int>(decimals), c.value);
+    const std::string number = text;
+    const auto e = number.find('e');
+    texts.push_back(trimmed(number.substr(0, e)) + 'e' +
+                    std::to_string(std::stoi(number.substr(e + 1))));
   }
-  return std::string(kNoRoom.substr(0, length));
+  texts.emplace_back(kNoRoom.substr(0, length));
+  return *std::ranges::find_if(texts, [=](const auto& text) { return text.size() <= length; });
 }
 
 TEST(FittedFloatText, HasAllTheDigitsThatFit) {
@@ -91,26 +81,19 @@ TEST(FittedFloatText, LosesDecimalsThenTakesExponentFormThenTheMark) {
     const char* text;
   } cases[] = {
       {-7654321.5L, four, 13, "-7654321.5000"},
-      {-7654321.5L, four, 12, "-7654321.500"},
       {-7654321.5L, four, 9, "-7654322"},
       {-7654321.5L, four, 7, "-7.65e6"},
-      {-7654321.5L, four, 5, "-8e6"},
       {-7654321.5L, four, 3, "###"},
       {999999.6L, four, 6, "1.00e6"},
-      {9.996e-10L, all, 8, "1.00e-9"},
-      {0.00012345L, {.decimals = 8}, 6, "0.0001"},
       {0.00012345L, {.decimals = 8}, 5, "1e-4"},
-      {0.00001L, four, 5, "0.000"},
       {-0.0L, all, 5, "0"},
       {-0.4L, {.decimals = 1}, 3, "###"},
       {1.29996L, {.decimals = 6, .trim = true}, 5, "1.3"},
       {1e4000L, {.trim = true}, 7, "1e4000"},
-      {0x1p64L, four, 20, "18446744073709551616"},
       {0x1p64L, four, 10, "1.84467e19"},
       {1e-200L, {.decimals = 255}, 7, "1e-200"},
       {-kInfinity, four, 4, "-inf"},
       {kInfinity, four, 2, "##"},
-      {kNaN, four, 0, ""},
   };
   for (const auto& [value, digits, length, text] : cases) {
     EXPECT_EQ(FittedFloatText(value, digits, length), text) << value << " in " << length;

@@ -27,19 +27,17 @@ TYPED_TEST(AmountMatrices, BehaveAsMatricesOfTheStoredIntegers) {
 
     auto amounts = CopyMatrix(given);
     auto integers = Stored(given);
-    const auto do_with_both = [&](const auto& change) {
-      change(amounts);
-      change(integers);
-      EXPECT_EQ(Stored(amounts), integers);
-    };
-    do_with_both([](auto& m) { QSortMatrixRowsOnCol(m, 1, true); });
-    do_with_both([](auto& m) { QSortMatrixColsOnRow(m, 0, false); });
-    do_with_both([](auto& m) { SwapMatrixRows(m, 0, 1); });
-    do_with_both([](auto& m) { SwapMatrixCols(m, 0, 1); });
-    do_with_both([](auto& m) {
+    const auto change = [](auto& m) {
+      QSortMatrixRowsOnCol(m, 1, true);
+      QSortMatrixColsOnRow(m, 0, false);
+      SwapMatrixRows(m, 0, 1);
+      SwapMatrixCols(m, 0, 1);
       OverwriteMatrixRow(m, 1, {m[0][0]}, m[0][1]);
       OverwriteMatrixCol(m, 0, {m[1][1]}, m[0][1]);
-    });
+    };
+    change(amounts);
+    change(integers);
+    EXPECT_EQ(Stored(amounts), integers);
   }
 }
 
@@ -72,8 +70,6 @@ TEST(CurrencyMatrices, GrandMeansAreAmountsRoundedToEven) {
   std::uint32_t count = 9;
   EXPECT_EQ(GrandMean(TQorCurrencyMatrix{{Currency(1)}, {Currency(2)}}, count), Currency(2));
   EXPECT_EQ(count, 2U);
-  EXPECT_EQ(GrandMean(TQorCurrencyMatrix{{Currency(-1), Currency(-2), Currency(-2)}}, count),
-            Currency(-2));
   const TQorCurrMatrix largest{{QorCurrency(INT32_MAX), QorCurrency(INT32_MAX)}};
   EXPECT_EQ(GrandMean(largest, count), largest[0][0]) << "sums have 64 bits";
   // The quotient has 62 bits and its remainder is just below a half, which extended precision would
@@ -89,17 +85,12 @@ TEST(CurrencyMatrices, GrandMeansAreAmountsRoundedToEven) {
 TEST(CurrencyMatrices, HaveTheirOwnShapeSwitch) {
   const TQorCurrMatrix money = {{QorCurrency(1), QorCurrency(2)}, {QorCurrency(3)}};
   const TQorLIntMatrix integers = {{1, 2}, {3}};
-  const auto expect_same_dimensions = [&](bool of_money, bool of_integers) {
-    EXPECT_EQ(MatricesSameDimensions(money, money), of_money);
-    EXPECT_EQ(MatricesSameDimensions(integers, integers), of_integers);
-  };
+  EXPECT_FALSE(MatricesSameDimensions(money, money));
   EXPECT_TRUE(QorvexFinMatrix::QorMatrixRectangularCheck.exchange(false));
-  expect_same_dimensions(true, false);
+  EXPECT_TRUE(MatricesSameDimensions(money, money));
+  EXPECT_FALSE(MatricesSameDimensions(integers, integers));
   EXPECT_MATH_ERROR(TransposeMatrix(money), rsMatrixRect);
   QorvexFinMatrix::QorMatrixRectangularCheck = true;
-  QorvexMatrix::QorMatrixRectangularCheck = false;
-  expect_same_dimensions(false, true);
-  QorvexMatrix::QorMatrixRectangularCheck = true;
 }
 
 }  // namespace

@@ -29,8 +29,6 @@ TYPED_TEST(Elementwise, SumsAndLinearTransformsAgreeWithThoseOfTheRows) {
   in_place = CopyMatrix(a);
   SubtractFromMatrix(in_place, b);
   EXPECT_EQ(in_place, difference);
-  SubtractFromMatrix(in_place, in_place);
-  EXPECT_EQ(in_place[2], TQorVector<T>::WithLength(50));
   auto transformed = CopyMatrix(a);
   transformed[1].SetLength(7);
   LinearTransformMatrix(transformed, 3, -7);
@@ -51,10 +49,8 @@ TEST(ElementwiseProducts, AcceptRaggedRowsAndWrap) {
   EXPECT_EQ(MultiplyMatrixByConst(m, -65536), (TQorLIntMatrix{{-65536, 131072}, {}, {-65536}}));
   EXPECT_EQ(m, (TQorLIntMatrix{{1, -2}, {}, {65537}}));
   m.Append(m[0]);
-  const TQorLIntVector shared_row = m[0];
   MultiplyMatrixByConst2(m, 5);
   EXPECT_EQ(m, (TQorLIntMatrix{{25, -50}, {}, {327685}, {25, -50}})) << "once for each of its rows";
-  EXPECT_EQ(shared_row, m[0]);
   LinearTransformMatrix(m, 65536, -5);
   EXPECT_EQ(m[2], (TQorLIntVector{5 * 65536 - 5}));
   EXPECT_EQ(MultiplyMatrixByConst(TQorInt64Matrix{{1LL << 40}}, (1LL << 24) + 1),
@@ -69,34 +65,18 @@ TEST(ElementwiseProducts, HaveExtendedFactorsForFloatingElements) {
   EXPECT_EQ(singles[0][0], 0x1p-60F);
 }
 
-template <class T>
-class Transforms : public ::testing::Test {};
-TYPED_TEST_SUITE(Transforms, FloatTypes);
-
-TYPED_TEST(Transforms, AgreeWithThoseOfTheRowsAndAcceptNaN) {
-  using T = TypeParam;
-  testing::Engine engine(27);
-  auto given = testing::RandomMatrix<T>(engine, 3, 20);
-  for (auto& row : given) {
-    for (T& x : row) x = std::fabs(x);
-  }
-  given[1].SetLength(0);
-  const std::pair<void (*)(TQorMatrix<T>&), void (*)(TQorVector<T>&)> routines[] = {
-      {SquareMatrix<T>, SquareVector<T>},
-      {SqrtMatrix<T>, SqrtVector<T>},
-      {InvMatrix<T>, InvVector<T>},
-      {LnMatrix<T>, LnVector<T>},
-      {Log10Matrix<T>, Log10Vector<T>}};
-  for (const auto& [transform_matrix, transform_vector] : routines) {
-    auto matrix = CopyMatrix(given);
-    matrix.Append({std::numeric_limits<T>::quiet_NaN()});
-    transform_matrix(matrix);
-    EXPECT_TRUE(std::isnan(matrix[3][0]));
-    for (const std::size_t i : {0U, 2U}) {
-      auto row = CopyVector(given[i]);
-      transform_vector(row);
-      EXPECT_EQ(matrix[i], row);
-    }
+TEST(MatrixTransforms, ComputeInExtendedPrecisionAndAcceptNaN) {
+  const std::pair<void (*)(TQorDoubleMatrix&), Extended> cases[] = {
+      {SquareMatrix<double>, 2731 * 2731},
+      {SqrtMatrix<double>, std::sqrt(2731.0L)},
+      {InvMatrix<double>, 1 / 2731.0L},
+      {LnMatrix<double>, std::log(2731.0L)},
+      {Log10Matrix<double>, std::log10(2731.0L)}};
+  for (const auto& [transform, expected] : cases) {
+    TQorDoubleMatrix m{{2731}, {}, {std::nan("")}};
+    transform(m);
+    EXPECT_EQ(m[0][0], static_cast<double>(expected));
+    EXPECT_TRUE(std::isnan(m[2][0]));
   }
 }
 
@@ -110,8 +90,6 @@ TEST(MatrixTransforms, StopAtTheFirstInvalidElement) {
       {SqrtMatrix<Extended>, rsMatrixNeg, {{4, 9}, {16, -1e-20L, 9}}, {{2, 3}, {4, -1e-20L, 9}}},
       {InvMatrix<Extended>, rsMatrixZero, {{0x1p-99L}, {2, -0.0L, 4}}, {{0x1p99L}, {0.5, 0, 4}}},
       {LnMatrix<Extended>, rsMatrixNotPos, {{1}, {1, 0, 1}}, {{0}, {0, 0, 1}}},
-      {LnMatrix<Extended>, rsMatrixNotPos, {{1}, {-1, 1}}, {{0}, {-1, 1}}},
-      {Log10Matrix<Extended>, rsMatrixNotPos, {{100, -1e-20L}, {1}}, {{2, -1e-20L}, {1}}},
       {Log10Matrix<Extended>, rsMatrixNotPos, {{100, 10}, {-0.0L}}, {{2, 1}, {0}}},
   };
   for (const auto& c : cases) {
