@@ -69,33 +69,6 @@ TEST(GridNavigation, AWalkVisitsEveryCellInEachDirection) {
   }
 }
 
-// The way of scrolling: 7 rows in 4 edits, 6 columns in 3 edits.
-TEST(GridNavigation, AStepScrollsNoMoreThanItMust) {
-  const auto rows = [](std::uint32_t top, std::uint32_t edit) { return Axis(4, 7, top, edit); };
-  const auto cols = [](std::uint32_t left, std::uint32_t edit) { return Axis(3, 6, left, edit); };
-  struct {
-    AxisState along, across;
-    bool forward;
-    GridStep step;
-  } const cases[] = {
-      {rows(1, 2), cols(1, 1), true, {{1, 3}, {1, 1}, false}},
-      {rows(1, 3), cols(1, 1), true, {{2, 3}, {1, 1}, true}},
-      {rows(3, 3), cols(1, 1), true, {{0, 0}, {1, 2}, true}},
-      {rows(3, 3), cols(1, 2), true, {{0, 0}, {2, 2}, true}},
-      {rows(1, 1), cols(1, 1), false, {{1, 0}, {1, 1}, false}},
-      {rows(1, 0), cols(1, 1), false, {{0, 0}, {1, 1}, true}},
-      {rows(0, 0), cols(1, 1), false, {{3, 3}, {1, 0}, true}},
-      {rows(0, 0), cols(1, 0), false, {{3, 3}, {0, 0}, true}},
-      // One page of rows: the wrap itself scrolls nothing.
-      {Axis(4, 4, 0, 3), cols(1, 1), true, {{0, 0}, {1, 2}, false}},
-      {Axis(4, 2, 0, 0), cols(1, 1), false, {{0, 1}, {1, 0}, false}},
-  };
-  for (const auto& [along, across, forward, step] : cases) {
-    EXPECT_EQ(NextCell(along, across, forward), step)
-        << along.top << ' ' << along.edit << ' ' << across.top << ' ' << across.edit;
-  }
-}
-
 TEST(GridNavigation, InAColumnTheCurrentElementDecidesWhereItDiffersFromTheFocus) {
   const AxisState single = Axis(1, 1, 0, 0);
   const auto rows = [](std::uint32_t top, std::uint32_t edit, std::uint32_t current) {
