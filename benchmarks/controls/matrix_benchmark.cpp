@@ -209,7 +209,6 @@ const bool registered = [] {
   RegisterSteps<Editor>("ours", true);
   RegisterSteps<View>("QTableView", true);
   RegisterStep<Lines>("step down a matrix", "QLineEdit", &Lines::ScrollDown, false);
-  RegisterStep<Lines>("step down a matrix and paint", "QLineEdit", &Lines::ScrollDown, true);
 
   RegisterGrid("ours", FillWithCells);
   RegisterGrid("QLineEdit", FillWithLineEdits);

@@ -46,6 +46,7 @@ TYPED_TEST_SUITE(Cells, CellTypes);
 TYPED_TEST(Cells, CommitExactlyWhatIsTypedAndNothingElse) {
   TypeParam* const edit = this->cell;
   QSignalSpy changed(edit, &TQorCustomEdit::Changed);
+  EXPECT_EQ(edit->Value(), 0);
   const Extended pi = std::acos(-1.0L);
   edit->setValue(pi);
   const QString shown = edit->text();

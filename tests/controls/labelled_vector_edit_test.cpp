@@ -125,6 +125,8 @@ TEST_F(LabelledVectorEdit, KeepsNavigationInTheColumnOfLabels) {
   EXPECT_TRUE(LabelCell(1)->hasFocus()) << "the focus stays among the labels";
   editor->setNoOfEdits(4);
   EXPECT_EQ(LabelCell(1)->geometry().right() + 1, Cell(1)->geometry().left());
+  editor->setLabelAlignment(Qt::AlignLeft);
+  EXPECT_EQ(LabelCell(1)->alignment(), Qt::AlignLeft);
   editor->setLabelWidth(30);
   EXPECT_EQ(Cell(0)->x(), 30);
   editor->setLayoutDirection(Qt::RightToLeft);

@@ -129,8 +129,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// control is read-only, nothing changes, OnBlockRefused says why, and the result is false.
   bool PasteBlock(const QString& text);
 
-  /// Copies the whole table to the clipboard with all digits, in the numbers of the locale;
-  /// infinities as "inf", which PasteBlock refuses. More than ten million elements are refused.
+  /// Copies the whole table with all digits, in the numbers of the locale; infinities as "inf",
+  /// which PasteBlock refuses. More than ten million elements are refused.
   void CopyAll();
 
   /// Shows the elements, unless an update is in progress. In virtual mode, call it if they change.
@@ -148,8 +148,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// The size of the cells, the texts in front of them and the bars.
   [[nodiscard]] QSize sizeHint() const override;
-  /// The same.
-  [[nodiscard]] QSize minimumSizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }  ///< The same.
 
  Q_SIGNALS:
   /// DisplayTopRow is about to become the given row.

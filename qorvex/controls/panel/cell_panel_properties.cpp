@@ -167,8 +167,4 @@ QSize CellPanel::sizeHint() const {
   return parts_->grid.Size() + bars + QSize(2 * frameWidth(), 2 * frameWidth());
 }
 
-QSize CellPanel::minimumSizeHint() const {
-  return sizeHint();
-}
-
 }  // namespace qorvex::inline QorvexControls
