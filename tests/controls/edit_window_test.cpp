@@ -114,37 +114,6 @@ TEST(EditWindow, RequestingACurrentElementScrollsToIt) {
   EXPECT_EQ(matrix.Take(), "bar show") << "a top beyond the end";
 }
 
-TEST(EditWindow, OtherSizesKeepTopFocusAndCurrentElementOnTheAxis) {
-  for (const CurrentRule rule : {CurrentRule::kFollowsTop, CurrentRule::kFollowsEntry}) {
-    Recorded r(rule, 4, 10);
-    EditWindow& w = r.window;
-    w.SetTop(6);
-    w.Enter(3);
-    r.Take();
-    w.SetCount(10);
-    w.SetEdits(4);
-    EXPECT_EQ(r.Take(), "");
-    w.SetCount(3);
-    EXPECT_EQ(r.Take(), "t0 bar c9>2 show after0");
-    EXPECT_EQ(r.State(), (State{0, 2, 2}));
-    w.SetEdits(2);
-    EXPECT_EQ(r.Take(), "bar c2>1 show");
-    w.SetCount(0);
-    EXPECT_EQ(r.Take(), "bar c1>0 show");
-    EXPECT_EQ(r.State(), (State{0, 0, 0}));
-    w.SetCount(300);
-    w.SetEdits(255);
-    w.SetTop(kLargestCount);
-    w.Enter(254);
-    EXPECT_EQ(r.State(), (State{45, 254, 299}));
-    w.SetEdits(0);
-    EXPECT_EQ(r.State(), (State{45, 0, 45}));
-    w.SetTop(kLargestCount);
-    EXPECT_EQ(w.Top(), 300U);
-    EXPECT_EQ(w.Current(), rule == CurrentRule::kFollowsTop ? 299U : 45U);
-  }
-}
-
 TEST(EditWindow, AHandlerShortensTheAxisOrThrows) {
   for (const CurrentRule rule : {CurrentRule::kFollowsTop, CurrentRule::kFollowsEntry}) {
     Recorded r(rule, 4, 100);

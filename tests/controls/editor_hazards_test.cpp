@@ -82,19 +82,35 @@ TEST_F(EditorHazards, TheProgramMayStoreAnotherValueOrFewerRows) {
   EXPECT_EQ(Texts(), "0.0000|1.0000||");
 }
 
-TEST_F(EditorHazards, AnInactiveWindowRaisesNoEventsForRowsThatAreGone) {
+TEST_F(EditorHazards, AWindowThatIsLeftAndComesBackIsOneEntry) {
   Open(10);
   editor->setDisplayTopRow(6);
   editor->setEditFocus(3);
   QWidget second;
-  second.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
-  Take();
+  const auto leave = [&] {
+    Take();
+    second.show();
+    second.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
+  };
+  const auto come_back = [&] {
+    window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  };
+  Type("7");
+  leave();
+  EXPECT_EQ(Take(), "change 9");
+  come_back();
+  EXPECT_EQ(Take(), "");
+  leave();
   editor->setNoOfRows(3);
   EXPECT_EQ(Take(), "out 9, top 0, current 9 2, after 0, rows 3");
-  window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
+  come_back();
   EXPECT_EQ(Take(), "in 2");
+  Type("8");
+  Take();
+  window->hide();
+  EXPECT_EQ(Take(), "change 2") << "what is typed on a page that is turned is not lost";
 }
 
 }  // namespace qorvex

@@ -249,18 +249,4 @@ TEST_F(MatrixFractEdit, ShowsAndTakesFractions) {
   EXPECT_EQ(editor->FractElement(1, 2), (TQorMixedFraction{7, 0, 1}));
 }
 
-TEST_F(MatrixFractEdit, ReadsWhatIsTypedExactly) {
-  Open(3, 3);
-  At(0, 0)->setFocus();
-  const std::pair<const char*, Extended> cases[] = {
-      {"2 1/3", 2 + 1 / 3.0L}, {"-7/5", -7 / 5.0L}, {"0.2", 0.2L}, {"1/0", 0.2L}, {"5", 5}};
-  for (const auto& [text, value] : cases) {
-    Press(Qt::Key_A, Qt::ControlModifier);
-    Type(text);
-    other->setFocus();
-    EXPECT_EQ(editor->Element(0, 0), value) << text;
-    At(0, 0)->setFocus();
-  }
-}
-
 }  // namespace qorvex

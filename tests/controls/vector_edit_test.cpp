@@ -202,24 +202,6 @@ TEST_F(VectorEdit, VirtualModeAsksForWhatItShows) {
   EXPECT_EQ(Texts(), "8.0000|8.0000|0.0000|");
 }
 
-TEST_F(VectorEdit, AWindowThatIsLeftAndComesBackIsOneEntry) {
-  Open(5);
-  editor->setEditFocus(2);
-  Type("9");
-  Take();
-  QWidget second;
-  second.show();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
-  EXPECT_EQ(Take(), "change 2");
-  window->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(window.get()));
-  EXPECT_EQ(Take(), "");
-  Type("8");
-  Take();
-  window->hide();
-  EXPECT_EQ(Take(), "change 2") << "what is typed on a page that is turned is not lost";
-}
-
 TEST_F(VectorEdit, NamesItsCellsForScreenReadersAndMirrors) {
   Open(9);
   editor->setDisplayTopRow(4);
