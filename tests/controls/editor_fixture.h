@@ -25,11 +25,7 @@
 
 namespace qorvex {
 
-inline QString Text(Extended value) {
-  return QString::fromStdString(Float2Str(value));
-}
-
-/// A wheel event as from a mouse: an unhandled event goes to the parent.
+/// A wheel event as from a mouse: the parent gets it if the widget does not handle it.
 inline void TurnWheel(QWidget* widget, int amount, Qt::ScrollPhase phase = Qt::NoScrollPhase) {
   const QPointF place(2, 2);
   QWheelEvent event(place, widget->mapToGlobal(place), {}, {0, amount}, Qt::NoButton,
@@ -38,7 +34,6 @@ inline void TurnWheel(QWidget* widget, int amount, Qt::ScrollPhase phase = Qt::N
   QApplication::instance()->notify(widget, &event);
 }
 
-/// Editor is one of the editors of vectors or matrices.
 template <class Editor>
 struct EditorFixture : testing::Test {
   // Declared first, so that signals of widgets on their way out find it.
@@ -66,8 +61,8 @@ struct EditorFixture : testing::Test {
 
   static constexpr bool kIsVector = std::derived_from<Editor, TQorVectorEdit>;
 
-  /// @{
   /// One column of cells and elements in any editor.
+  /// @{
   void SetCells(int edits) {
     if constexpr (kIsVector) {
       editor->setNoOfEdits(edits);
@@ -145,9 +140,8 @@ struct EditorFixture : testing::Test {
     });
   }
   static QString Word(quint32 row) { return QString::number(row); }
-  static QString Word(Extended value) { return Text(value); }
+  static QString Word(Extended value) { return QString::fromStdString(Float2Str(value)); }
   static QString Word(const QString& text) { return text; }
-  static QString Word(const QEvent*) { return {}; }
 
   void Record() {
     On(&Editor::OnChange, "change");

@@ -44,10 +44,8 @@ TYPED_TEST(Editors, ScrollWholeRowsByTheWheelWhereTheFocusIs) {
 
   this->Cell(1)->setFocus();
   const int parent = area.verticalScrollBar()->value();
-  const struct {
-    int amount;
-    quint32 top;
-  } turns[] = {{-120, 1}, {-99, 1}, {-240, 3}, {-600, 9}, {99, 9}, {120, 8}, {199, 7}, {900, 7}};
+  const std::pair<int, quint32> turns[] = {{-120, 1}, {-99, 1}, {-240, 3}, {-600, 9},
+                                           {99, 9},   {120, 8}, {199, 7},  {900, 7}};
   for (const auto& [amount, top] : turns) {
     TurnWheel(this->Cell(0), amount);
     EXPECT_EQ(this->editor->DisplayTopRow(), top) << amount;
@@ -106,7 +104,7 @@ TYPED_TEST(Editors, ShowNothingOfABatchUntilItEnds) {
   EXPECT_EQ(this->Texts(), "1|2|3|4");
   this->editor->EndUpdate();
   this->Set(1, 7);
-  EXPECT_EQ(this->Cell(0)->text(), "7");
+  EXPECT_EQ(this->Texts(), "7|2|3|4");
 
   // A cell that comes into use during a batch can be given the focus.
   this->SetRows(1);
@@ -142,14 +140,6 @@ TYPED_TEST(Editors, MayBeChangedByTheirHandlers) {
   EXPECT_EQ(this->Cells().size(), 1);
   handler.reset();
   this->SetCells(4);
-
-  // Two editors that follow each other come to rest.
-  TypeParam second;
-  second.setNoOfRows(10);
-  QObject::connect(this->editor, &CellPanel::ontopChange, &second, &CellPanel::setDisplayTopRow);
-  QObject::connect(&second, &CellPanel::ontopChange, this->editor, &CellPanel::setDisplayTopRow);
-  second.setDisplayTopRow(3);
-  EXPECT_EQ(this->editor->DisplayTopRow(), 3U);
 
   // A handler that shortens the table while a block is pasted.
   handler = this->On(&TypeParam::OnChange, [this] { this->SetRows(4); });
@@ -260,11 +250,12 @@ TYPED_TEST(Editors, CanBeDeletedInAnyOrder) {
 TYPED_TEST(Editors, TakeADropInTheCellUnderIt) {
   this->Open(10);
   this->FocusEdit(0);
-  const auto drop = [this](int edit, const char* text) {
-    QMimeData contents;
+  QMimeData contents;
+  const auto drop = [&](int edit, const char* text) {
     contents.setText(text);
     QDragEnterEvent enter({2, 2}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(this->Cell(edit), &enter);
+    if (!enter.isAccepted()) return;
     QDropEvent event({2, 2}, Qt::CopyAction, &contents, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(this->Cell(edit), &event);
   };
@@ -272,19 +263,15 @@ TYPED_TEST(Editors, TakeADropInTheCellUnderIt) {
   EXPECT_EQ(this->Texts(), "0|1|77|3");
   this->editor->ScrollDown(3);
   EXPECT_EQ(this->Get(2), 77);
-  drop(1, "8\n9\n");
-  EXPECT_EQ(this->Texts(), "3|8|9|6");
   drop(0, "\n55\n");
-  EXPECT_EQ(this->Texts(), "|55|9|6") << "an empty cell stands above the number";
-  QMimeData file;
-  file.setUrls({QUrl("file:///data.csv")});
-  file.setText("1");
-  QDragEnterEvent enter({2, 2}, Qt::CopyAction, &file, Qt::LeftButton, Qt::NoModifier);
-  QApplication::sendEvent(this->Cell(3), &enter);
-  EXPECT_FALSE(enter.isAccepted());
+  EXPECT_EQ(this->Texts(), "|55|5|6") << "an empty cell stands above the number";
   this->editor->setReadOnly(true);
   drop(3, "1");
   EXPECT_EQ(this->Get(6), 6);
+  this->editor->setReadOnly(false);
+  contents.setUrls({QUrl("file:///data.csv")});
+  drop(3, "1");
+  EXPECT_EQ(this->Texts(), "|55|5|6") << "a file is for the parent";
 }
 
 TYPED_TEST(Editors, SelectANewTextSoThatTheNextKeyReplacesIt) {
