@@ -6,6 +6,7 @@
 
 #include <cmath>
 
+#include "apps/variate_of.h"
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/QorvexRandom.h"
@@ -18,13 +19,8 @@ namespace qorvex::apps {
 namespace {
 
 using testing::Reference;
+using testing::ReferenceOf;
 using testing::ScriptedSource;
-
-const Variate& VariateOf(std::string_view name) {
-  for (const Variate& variate : Variates())
-    if (variate.name == name) return variate;
-  throw std::invalid_argument("no such variate");
-}
 
 Extended Drawn(const VariateMethod& method, Extended parameter, UniformSource source) {
   VariateArguments arguments;
@@ -34,27 +30,21 @@ Extended Drawn(const VariateMethod& method, Extended parameter, UniformSource so
   return variate[0];
 }
 
-Reference StudentT(Extended df) {
-  return testing::ReferenceOf(StudentTDistribution(df), df > 4);
-}
-
-Reference Poisson(Extended mean) {
-  return testing::ReferenceOf(PoissonDistribution(mean));
-}
-
-Reference VonMises(Extended k) {
-  return testing::ReferenceOf(VonMisesDistribution(k));
-}
-
 TEST(UnlimitedVariates, HaveTheDistributionsThatTheyName) {
   const struct {
     const char* variate;
     std::vector<Extended> parameters;
     Reference (*reference)(Extended parameter);
   } cases[] = {
-      {"student-t", {0.05L, 0.5L, 1, 1.5L, 2, 2.5L, 30.5L}, StudentT},
-      {"poisson", {0.3L, 9.99L}, Poisson},
-      {"von-mises", {10, 12.5L, 1e4L, 1e12L}, VonMises},
+      {"student-t",
+       {0.05L, 0.5L, 1, 1.5L, 2, 2.5L, 30.5L},
+       [](Extended df) { return ReferenceOf(StudentTDistribution(df), df > 4); }},
+      {"poisson",
+       {0.3L, 9.99L},
+       [](Extended mean) { return ReferenceOf(PoissonDistribution(mean)); }},
+      {"von-mises",
+       {10, 12.5L, 1e4L, 1e12L},
+       [](Extended k) { return ReferenceOf(VonMisesDistribution(k)); }},
   };
   for (const auto& c : cases) {
     const VariateMethod& method = VariateOf(c.variate).methods.front();

@@ -9,7 +9,6 @@
 #include <QMimeData>
 #include <QSpinBox>
 #include <QTemporaryDir>
-#include <QTextDocument>
 #include <QTimer>
 #include <QUrl>
 #include <QtTest/QSignalSpy>
@@ -221,14 +220,10 @@ TEST_F(DataPageTest, DoesNotMoveOrWidenForMessagesAndTitles) {
   EXPECT_EQ(values.mapTo(&page, QPoint()), place);
   EXPECT_LE(page.minimumSizeHint().width(), 1100);
   const auto& text = *Find<MessageBar>("messageBar").findChild<QLineEdit*>();
-  QTextDocument tip;
-  tip.setHtml(text.toolTip());
-  const QString shown = tip.toPlainText().remove(QChar(0x200B));
-  EXPECT_TRUE(shown.size() > 100 && shown.size() < 500) << shown.size();
-  EXPECT_TRUE(text.text().startsWith(shown.chopped(1))) << shown.toStdString();
-  QLabel tip_label(text.toolTip());
-  tip_label.setWordWrap(true);
-  EXPECT_LT(tip_label.minimumSizeHint().width(), 500) << "of a line";
+  QLabel tip(text.toolTip());
+  tip.setWordWrap(true);
+  EXPECT_LT(tip.minimumSizeHint().width(), 500) << "of a line";
+  EXPECT_TRUE(tip.text().size() > 100 && tip.text().size() < 1500) << tip.text().size();
 
   Open("huge.csv", QByteArray(5000, 'x') + "\n1e4000\n-1e-4000\n3e4931\n");
   EXPECT_EQ(Figure("report", "Maximum:"), "3e+4931");

@@ -1,14 +1,9 @@
 #include "apps/qorvex-gallery/plot/histogram.h"
 
-#include <cmath>
-#include <gtest/gtest.h>
-#include <limits>
-#include <numeric>
+#include "support/test.h"
 
 namespace qorvex::gallery {
 namespace {
-
-constexpr Extended kLargest = std::numeric_limits<Extended>::max();
 
 TEST(Histogram, HasRoundEdgesAndCountsFromTheLowerOneOn) {
   // Quartiles 2.5 and 5.5: width 2 * 3 / 2, to which 2 is nearer than 5.
@@ -23,7 +18,7 @@ TEST(Histogram, HasRoundEdgesAndCountsFromTheLowerOneOn) {
 }
 
 TEST(Histogram, HoldsEveryFiniteValueOnce) {
-  const Extended infinity = std::numeric_limits<Extended>::infinity();
+  constexpr Extended kLargest = std::numeric_limits<Extended>::max();
   const TQorFloatVector samples[] = {
       {5},
       {1e4000L, 1e4000L},
@@ -32,7 +27,7 @@ TEST(Histogram, HoldsEveryFiniteValueOnce) {
       {std::numeric_limits<Extended>::denorm_min(), 0},
       {1e18L, 1e18L + 1, 1e18L + 2, 1e18L + 3},
       {0, 0, 0, 0, 0, 0, 0, 1e9L},
-      {1, NAN, 2, infinity, 3, -infinity},
+      {1, kNaN, 2, kInfinity, 3, -kInfinity},
   };
   for (const TQorFloatVector& sample : samples) {
     const Histogram histogram = HistogramOf(sample);
@@ -43,17 +38,17 @@ TEST(Histogram, HoldsEveryFiniteValueOnce) {
       const Extended low = histogram.edges[i];
       const Extended high = histogram.edges[i + 1];
       EXPECT_LT(low, high);
-      std::size_t inside = 0;
-      for (const Extended value : sample) inside += low <= value && value < high;
+      const auto inside = static_cast<std::size_t>(
+          std::ranges::count_if(sample, [=](Extended x) { return low <= x && x < high; }));
       EXPECT_EQ(histogram.counts[i], inside) << low;
       total += inside;
     }
-    std::size_t finite = 0;
-    for (const Extended value : sample) finite += std::isfinite(value);
+    const auto finite = static_cast<std::size_t>(
+        std::ranges::count_if(sample, [](Extended x) { return std::isfinite(x); }));
     EXPECT_EQ(total, finite);
     EXPECT_EQ(histogram.total, finite);
   }
-  EXPECT_TRUE(HistogramOf({NAN, infinity}).edges.empty());
+  EXPECT_TRUE(HistogramOf({kNaN, kInfinity}).edges.empty());
 }
 
 }  // namespace
