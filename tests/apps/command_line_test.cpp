@@ -11,10 +11,6 @@
 namespace qorvex::apps {
 
 TEST(Describe, ReportsColumnsOneBelowTheOther) {
-  // By hand: mean 5, squares about it 32; the third and fourth moments about it are 42/8 and 356/8.
-  ExpectOutput(R"(printf '2\n4\n4\n4\n5\n5\n7\n9\n' | qorvex describe - --population --decimals 3 |
-                  grep -E 'Var|Kurt|Skew')",
-               "Variance:\t4.000\nKurtosis:\t-0.219\nSkew:\t0.656\n");
   ExpectOutput(R"(printf 'a b\n1 2\n' | qorvex describe - --column b --column a | grep -n Column)",
                "1:Column 2: b\n19:Column 1: a\n");
   ExpectOutput(R"(printf '"a\tb"\n1\n' | qorvex describe - | head -n 1)", "Column 1: a\\tb\n");
@@ -33,30 +29,22 @@ TEST(Describe, WritesJsonWithNullForFiguresThatDoNotExist) {
                 R"(
 7 | qorvex describe - => null,null,null,null,7
 7 | qorvex describe - --population => 0,0,null,null,7
-1 3 | qorvex describe - => 2,1.4142135623730950488,null,null,null
 1 2 3 | qorvex describe - => 1,1,0,null,null
-7 7 7 7 | qorvex describe - => 0,0,null,null,7
 1 1 3 3 | qorvex describe - --population => 1,1,0,-2,null
 )");
 }
 
+// The page about the command line has further examples of the warnings.
 TEST(Describe, WarnsOfARowThatMayNotBeAHeader) {
   ExpectOutputs("printf '@ 2>&1 >/dev/null | sed 's/.*because //; s/; --header or.*//'; echo", R"(
-NA,2\n1,3\n5,4' | qorvex describe - => "NA" is not a number, although "2" is|
 id,NA,1e9\na,1,3\nb,5,4' | qorvex fit line - --x 2 --y 3 => "id" is not a number, although "1e9" is|
 1.2.3\n4' | qorvex describe - => "1.2.3" is not a number|
-x,y\n1,3\n5,4' | qorvex describe - =>
 x,2\n1,3\n5,4' | qorvex describe - --header =>
-NA,2\n1,3\n5,4' | qorvex describe - --no-header --column 2 =>
 )");
-  ExpectOutput("printf '2019\\n1\\n3' | qorvex describe - --header | grep -E 'Column|Mean'",
-               "Column 1: 2019\nMean:\t2.0000\n");
 }
 
 TEST(Describe, WarnsOfFiguresThatAreTooSmallForTheDecimals) {
-  // The first has a sum of squares of 1.4e-17, a variance of 1e-18, and ten figures from 1e-9 on.
   ExpectOutputs("printf @ 2>&1 >/dev/null | sed 's/.*column 1: //'; echo", R"(
-'1e-9\n2e-9\n3e-9\n' | qorvex describe - => 12 figures are too small for 4 decimals; --decimals 21 or --json shows all|
 '1e-9\n2e-9\n3e-9\n' | qorvex describe - --decimals 9 => 2 figures are too small for 9 decimals; --decimals 21 or --json shows all|
 '1e-9\n2e-9\n3e-9\n' | qorvex describe - --decimals 21 =>
 '1e-9\n2e-9\n3e-9\n' | qorvex describe - --json =>
@@ -76,12 +64,9 @@ TEST(Describe, WarnsOfFiguresThatAreTooSmallForTheDecimals) {
 
 TEST(Describe, AddsMoneyExactly) {
   // The extended sum cannot hold tenths beside so large an amount.
-  const std::string tenths =
-      "{ echo 900000000000000.0001; yes 0.1 | head -n 200000; } | qorvex describe - --currency ";
-  ExpectOutput(tenths + "--decimals 1 | sed -n '3,6p'",
-               "Maximum:\t900000000000000.0001\nMinimum:\t0.1000\n"
-               "Range:\t899999999999999.9001\nSum:\t900000000020000.0001\n");
-  ExpectOutput(tenths + "--json | grep -E '\"(sum|minimum|median|maximum|range)\"' | tr -d ' \\n'",
+  ExpectOutput(R"({ echo 900000000000000.0001; yes 0.1 | head -n 200000; } |
+                  qorvex describe - --currency --json |
+                  grep -wE 'sum|minimum|median|maximum|range' | tr -d ' \n')",
                R"("sum":900000000020000.0001,"minimum":0.1000,"median":0.1,)"
                R"("maximum":900000000000000.0001,"range":899999999999999.9001,)");
   // Partial sums may be beyond the range; digits on one side of the point are enough.
@@ -125,14 +110,9 @@ TEST(Matrix, PrintsResultsThatCanBeReadAgain) {
   // Every step of these is exact. Small enough to check by hand.
   ExpectOutputs("printf -- '@", R"(
 0 2\n4 0' | qorvex matrix inverse - => 0,0.25|0.5,0
--2 0\n0 4' | qorvex matrix inverse - => -0.5,0|0,0.25
-2,4\n1,4' | qorvex matrix inverse - | qorvex matrix inverse - => 2,4|1,4
-1e-20' | qorvex matrix inverse - --tolerance 0 => 1e+20
 0 2\n-4 0' | qorvex matrix determinant - => 8
 0 0\n1 0' | qorvex matrix determinant - => 0
 a|b\n1|2\n2|4' | qorvex matrix rank - --header --delimiter '|' => 1
-1 0\n0 1e-9' | qorvex matrix rank - => 2
-1 0\n0 1e-9' | qorvex matrix rank - --tolerance 1e-6 => 1
 -4 0\n-2 0' | qorvex matrix echelon - => 1,0|0,0
 1 0 0\n0 1 1' | qorvex matrix multiply - grain_yields.csv => 39|60
 2 0 1' | qorvex matrix multiply grain_yields.csv - --decimals 1 | tail -n 1 => 52.0,0.0,26.0
@@ -149,23 +129,17 @@ a|b\n1|2\n2|4' | qorvex matrix rank - --header --delimiter '|' => 1
 TEST(Program, RefusesBadInputWithStatusTwo) {
   ExpectRefusals("printf -- '@", R"(
 1,2\n3,x\n' | qorvex describe - --column 2 => :2: column 2: "x" is not a number
-NA,2\n1,3' | qorvex describe - --no-header => :1: column 1: "NA" is not a number; --column chooses the columns to read
 1 1e4000\n2 1\n3 4\n4 5\n' | qorvex describe - => : column 2: the values are too large; their statistics are beyond the range of extended precision
-1 2\n2 4' | qorvex matrix inverse - => : The matrix has no inverse; elements up to 1e-15 count as zero, which --tolerance changes
 1e-6' | qorvex matrix inverse - --tolerance 1e-5 => : The matrix has no inverse; elements up to 1e-05 count as zero, which --tolerance changes
 1 2 3\n4 5 6' | qorvex matrix determinant - => : The matrix must be square: 2 x 3
 1e3000 0\n0 1e3000' | qorvex matrix determinant - => : the determinant is beyond the range of extended precision
 1e-4940' | qorvex matrix rank - --tolerance 0 => : the echelon form is beyond the range of extended precision
-1 2' | qorvex matrix multiply - grain_bundles.csv => , grain_bundles.csv: The columns of the first matrix must be as many as the rows of the second: 1 x 2 times 3 x 3
-x,y\n1,2\n' | qorvex matrix transpose - => :1: column 1: "x" is not a number; --header skips the first row
 )",
                  "standard input");
   ExpectRefusals("qorvex @", R"(
-describe nosuch.csv => nosuch.csv: No such file or directory
 describe . => .: Is a directory
 matrix multiply grain_bundles.csv nosuch.csv => nosuch.csv: No such file or directory
 describe matrix => matrix: No such file or directory
-matrix rank matrix => matrix: No such file or directory
 matrix multiply rank multiply => rank: No such file or directory
 )");
 }

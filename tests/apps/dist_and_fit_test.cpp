@@ -8,8 +8,6 @@
 namespace qorvex::apps {
 
 const std::string kDist = "qorvex dist @";
-const std::string kBeyond =
-    "the result or an intermediate result is beyond the range of extended precision";
 
 // By hand, from the closed forms of special cases, or well-known values of the standard normal.
 TEST(Dist, AnswersForEveryDistribution) {
@@ -21,13 +19,11 @@ exponential less --mean 2 --x 1e-30 --decimals 35 => 0.0000000000000000000000000
 gamma less --shape 1 --scale 2 --x 6 --decimals 12 => 0.950212931632
 chi-square inv --df 2 --upper-p 1e-100 --decimals 10 => 460.5170185988
 student-t pdf --df 1 --x 1 --decimals 12 => 0.159154943092
-student-t less --df 2 --x -1e6 --decimals 25 => 0.0000000000004999999999993
 f greater --df1 2 --df2 4 --x 1 --decimals 12 => 0.444444444444
 beta less --a 2 --b 1 --x 0.5 --decimals 12 => 0.250000000000
 beta inv --a 2 --b 1 --lower-end 1 --upper-end 5 --p 0.25 --decimals 6 => 3.000000
 beta pdf --a 2 --b 3 --lower-end 1 --upper-end 5 --x 2 --decimals 12 => 0.421875000000
 hypergeometric pdf --pop-size 10 --sample-size 3 --successes 4 --k 1 --decimals 12 => 0.500000000000
-poisson less --lambda 2 --k 1 --decimals 12 => 0.135335283237
 poisson inv --lambda 2 --upper-p 0.3 => 3
 uniform less --lower-end 1 --upper-end 5 --x 2 => 0.25
 weibull less --shape 2 --scale 3 --x 3 --decimals 12 => 0.632120558829
@@ -39,8 +35,6 @@ generalised-inverse-gaussian pdf --h 2 --b 0.5 --scale 3 --x 6 --decimals 12 => 
 geometric pdf --success-probability 0.25 --k 2 => 0.140625
 negative-binomial pdf --success-probability 0.25 --failures 2 --k 1 => 0.28125
 )");
-  // By the asymptotic series -800 - ln(40 sqrt(2 pi)) + ln(1 - 1/1600 + ...).
-  ExpectOutput("qorvex dist normal greater --x 40 --log --decimals 8", "-804.60844201\n");
 }
 
 TEST(Dist, ExcludesBothEndsOfADiscreteInterval) {
@@ -48,13 +42,10 @@ TEST(Dist, ExcludesBothEndsOfADiscreteInterval) {
 less --k 0 => 0.0000
 less --k 0 --log => -inf
 less --k 2 => 0.3125
-less --k 9 => 1.0000
 greater --k 2 => 0.3125
 greater --k 4 => 0.0000
 between --k1 0 --k2 4 => 0.8750
 between --k1 3 --k2 1 => 0.3750
-between --k1 0 --k2 2 => 0.2500
-between --k1 2 --k2 4 => 0.2500
 between --k1 2 --k2 3 => 0.0000
 between --k1 2 --k2 2 => 0.0000
 table --from 3 --to 5 => 3,0.2500|4,0.0625|5,0.0000
@@ -62,9 +53,8 @@ table --from 3 --to 5 => 3,0.2500|4,0.0625|5,0.0000
 }
 
 TEST(Dist, KeepsTheDigitsOfIntervalsInEitherTail) {
-  // exp(-100) - exp(-101), the same interval in both tails, and one around the median.
+  // The same interval in both tails, and one around the median.
   ExpectOutputs(kDist, R"(
-exponential between --mean 1 --x1 101 --x2 100 --decimals 56 => 0.00000000000000000000000000000000000000000002351536504847
 normal between --decimals 45 --x1 12 --x2 13 => 0.000000000000000000000000000000001776475994913
 normal between --decimals 45 --x1 -12 --x2 -13 => 0.000000000000000000000000000000001776475994913
 normal between --x1 -1 --x2 1 --decimals 12 => 0.682689492137
@@ -72,9 +62,7 @@ normal between --x1 -1 --x2 1 --decimals 12 => 0.682689492137
 }
 
 TEST(Dist, ComputesWithTheClassicRoutinesOnRequest) {
-  // Twelve standard deviations out, the series for the normal distribution has ended too early.
   ExpectOutputs(kDist, R"(
-normal less --classic --x 12 --decimals 4 => 0.5000
 normal table --classic --from -1 --to 1 --n 2 --decimals 4 => -1.0000,0.2420|0.0000,0.3989|1.0000,0.2420
 gamma less --classic --shape 1 --scale 2 --x 6 --decimals 12 => 0.950212931632
 chi-square between --classic --df 2 --x1 6 --x2 2 --decimals 12 => 0.318092372804
@@ -91,26 +79,18 @@ less --k 24 => 1
   ExpectRefusals(kDist, R"(
 chi-square pdf --df 3 --x -1 --classic => chi-square pdf: The value must not be negative; without --classic there is no such limit
 hypergeometric pdf --pop-size 3 --sample-size 4 --successes 1 --k 1 => hypergeometric pdf: The hypergeometric distribution needs a population and a sample of at least one, and neither sample nor successes above the population
+log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --classic => log-normal inv: the result or an intermediate result is beyond the range of extended precision
 )");
-  ExpectRefusal("qorvex dist normal pdf --std-dev 1e3000 --x 1e3000 --classic",
-                "normal pdf: " + kBeyond + "; without --classic there is no such limit");
-  ExpectRefusal("qorvex dist log-normal inv --mean 1e4 --std-dev 1e4 --p 0.9 --classic",
-                "log-normal inv: " + kBeyond);
 }
 
 TEST(Dist, PrintsInfinitiesOnlyAtTheEndsOfTheSupport) {
-  ForEachCase("@", R"(
-normal less => --x -1e3000 --log
-log-normal greater => --std-dev 1e-3000 --x 2 --log
-exponential greater => --mean 1e-3000 --x 1e2000 --log
-gamma pdf => --shape 0.5 --scale 1e-4931 --x 1e-4940
-gamma table => --shape 0.5 --scale 1e-4931 --from 0 --to 1e-4940 --n 1
-)",
-              [](const std::string& name, const std::string& arguments) {
-                ExpectRefusal("qorvex dist " + name + ' ' + arguments, name + ": " + kBeyond);
-              });
+  ExpectRefusals(kDist, R"(
+log-normal greater --std-dev 1e-3000 --x 2 --log => log-normal greater: the result or an intermediate result is beyond the range of extended precision
+exponential greater --mean 1e-3000 --x 1e2000 --log => exponential greater: the result or an intermediate result is beyond the range of extended precision
+gamma pdf --shape 0.5 --scale 1e-4931 --x 1e-4940 => gamma pdf: the result or an intermediate result is beyond the range of extended precision
+gamma table --shape 0.5 --scale 1e-4931 --from 0 --to 1e-4940 --n 1 => gamma table: the result or an intermediate result is beyond the range of extended precision
+)");
   ExpectOutputs(kDist, R"(
-exponential less --mean 2 --x 0 --log => -inf
 beta greater --a 2 --b 2 --upper-end 3 --x 4 --log => -inf
 poisson less --lambda 2 --k 0 --log => -inf
 beta pdf --a 0.5 --b 2 --lower-end 1 --upper-end 3 --x 1 => inf
@@ -125,16 +105,13 @@ normal pdf --x 1,5 => --x: "1,5" is not a number
 normal pdf --x inf => --x: "inf" is not a finite number
 normal pdf --x 1e5000 => --x: "1e5000" is too large a number
 normal pdf => --x is required
-normal pdf --std-dev 0 --x 1 => --std-dev: "0" is not greater than 0
 poisson less --lambda 1e-4940 --k 1 => --lambda: "1e-4940" is below 3.362103143112093506e-4932, the smallest number with all digits
 normal inv --p 1 => --p: "1" is not between 0 and 1
 normal table --from 0 --to 1 --n -1 => --n: "-1" is not a whole number from 0 to 9999999
 binomial pdf --trials 4294967296 --success-probability 1 --k 1 => --trials: "4294967296" is not a whole number from 0 to 4294967295
 binomial pdf --trials 1 --success-probability 1.1 --k 1 => --success-probability: "1.1" is not from 0 to 1
-f less --df1 1 --df2 2.5 --x 1 --classic => --df2: 2.5 is not a whole number from 0 to 4294967295, as --classic needs
 beta pdf --a 1 --b 1 --lower-end 1 --x 1 => --upper-end must be greater than --lower-end
 beta pdf --a 1 --b 1 --lower-end -1e4932 --upper-end 1e4932 --x 1 => --upper-end less --lower-end is beyond the range of extended precision
-student-t pdf --df 1e16 --x 1 => --df: "1e16" is not from 1e-17 to 1e15
 beta pdf --a 1 --b 1e-18 --x 1 => --b: "1e-18" is not from 1e-17 to 1e15
 poisson table --lambda 1 --from 3 --to 2 => --to: counts ascend, so it must not be below --from
 poisson table --lambda 1 --from 5 --to 10000005 => --to: a table has at most 10000000 points
@@ -142,27 +119,16 @@ exponential inv --mean 1 --p 0.5 --classic => --classic: there is no such routin
 )");
 }
 
-// By hand: the parabola is exact, the line has deviations of 1, -2 and 1 thirds.
 TEST(Fit, ReportsTheCurveAndItsErrors) {
-  const std::string input = R"(printf 'x,z,y\n0,a,1\n1,b,2\n2,c,5\n' | qorvex fit )";
-  ExpectOutput(input + "line - --x x --y 3 --decimals 3",
-               "Number of Values:\t3\nMean of X Values:\t1.000\nMean of Y Values:\t2.667\n"
-               "Standard Deviation of X Values:\t1.000\nStandard Deviation of Y Values:\t2.082\n"
-               "Covariance:\t2.000\nRegression Line:\t0.667 + 2.000 x\n"
-               "Sum of Squares Error:\t0.667\nCoefficient of Correlation\t0.961\n"
-               "Coefficient of Determination\t0.923\n");
-  ExpectOutput(input + "quadratic - --x x --y y | tail -n 4",
+  // By hand.
+  ExpectOutput(R"(printf 'x,z,y\n0,a,1\n1,b,2\n2,c,5\n' | qorvex fit quadratic - --x x --y 3 |
+                  tail -n 4)",
                "Regression Parabola:\t1 + 0 x + 1 x^2\nSum of Squares Error:\t0\n"
                "Coefficient of Correlation\t0.9607689228305228009\n"
                "Coefficient of Determination\t1\n");
   ExpectOutput(R"(printf '9,9\n1,5\n2,3\n3,1\n' | qorvex fit line - --x 1 --y 2 --header |
                   grep Line)",
                "Regression Line:\t7 - 2 x\n");
-  // Skipping an empty cell must not pair the values of different rows.
-  ExpectOutput(R"(printf '1,2\n,9\n3,\n4,8\n' | qorvex fit line - --x 1 --y 2 --skip-empty |
-                  grep -E 'Num|Line')",
-               "qorvex: standard input: skipped 2 rows with an empty cell\n"
-               "Number of Values:\t2\nRegression Line:\t0 + 2 x\n");
   ExpectOutput(R"(printf '1,0.1\n3,0.1\n' | qorvex fit line - --x 1 --y 2 | tail -n 2)",
                "Coefficient of Correlation\tNot available\n"
                "Coefficient of Determination\tNot available\n");
@@ -189,10 +155,6 @@ TEST(Fit, KeepsItsDigitsForAnyOffsetAndMagnitude) {
     ExpectOutput(fit + "quadratic" + ask, correlation + determination + "9802197802197802\n");
     ExpectOutput(fit + "line" + ask, correlation + determination + "9692307692307692\n");
   }
-  ExpectOutput(R"(printf '2000,1\n2001,2\n2002,5\n2003,7\n' |
-                  qorvex fit quadratic - --x 1 --y 2 --decimals 8 | grep -E 'Parabola|Error')",
-               "Regression Parabola:\t997300.85000000 - 998.65000000 x + 0.25000000 x^2\n"
-               "Sum of Squares Error:\t0.45000000\n");
   // Rounding errors would push the correlation above 1.
   ExpectOutput(R"(for i in 1 2 3 4 5 6 7; do echo 0.$i,0.$((i+1)); done |
                   qorvex fit line - --x 1 --y 2 | tail -n 2)",
@@ -202,7 +164,6 @@ TEST(Fit, KeepsItsDigitsForAnyOffsetAndMagnitude) {
 TEST(Fit, RefusesBadInputWithStatusTwo) {
   // Ten times 0.1 would leave a spread of rounding errors.
   ExpectRefusals("printf '@", R"(
-1,2\n1,3' | qorvex fit line - --x 1 --y 2 => : column 1: a line needs two different x
 0.1,2\n0.1,3\n0.1,4\n0.1,4\n0.1,4\n0.1,4' | qorvex fit line - --x 1 --y 2 => : column 1: a line needs two different x
 x,y\n1,2\n1,3\n2,3' | qorvex fit quadratic - --x x --y y => : column 1 (x): a parabola needs three different x
 0 1\n1e-9 2\n1 5' | qorvex fit quadratic - --x 1 --y 2 => : column 1: the x lie too close to only two places for a parabola

@@ -1,40 +1,16 @@
 #include "apps/qorvex/json_writer.h"
 
-#include <gtest/gtest.h>
-#include <limits>
+#include "support/test.h"
 
 namespace qorvex::apps {
 
-TEST(JsonWriter, NestsValuesAndKeepsTheirBits) {
-  using Limits = std::numeric_limits<Extended>;
-  JsonWriter json;
-  json.BeginObject();
-  json.Key("\"\n");
-  json.BeginArray();
-  json.BeginObject();
-  json.EndObject();
-  json.Integer(-7);
-  for (const Extended value : {0.1L, 1.0L + 0x1p-63L, Limits::max()}) json.Number(value);
-  for (const Extended value : {Limits::quiet_NaN(), -Limits::infinity()}) json.Number(value);
-  json.Number(std::nullopt);
-  json.EndArray();
-  json.Key("ok");
-  json.Bool(true);
-  json.EndObject();
-  EXPECT_EQ(json.TakeText(), R"({
-  "\"\n": [
-    {},
-    -7,
-    0.1,
-    1.0000000000000000001,
-    1.189731495357231765e+4932,
-    null,
-    null,
-    null
-  ],
-  "ok": true
-}
-)");
+// The page about the command line has a whole document.
+TEST(JsonWriter, WritesNullForNumbersThatAreNotFinite) {
+  for (const Extended number : {kNaN, kInfinity, -kInfinity}) {
+    JsonWriter json;
+    json.Number(number);
+    EXPECT_EQ(json.TakeText(), "null\n");
+  }
 }
 
 TEST(JsonWriter, EscapesStringsAndReplacesInvalidUtf8) {

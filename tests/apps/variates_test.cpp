@@ -6,9 +6,8 @@
 
 #include <cmath>
 
+#include "apps/variate_of.h"
 #include "qorvex/base/elementary.h"
-#include "qorvex/base/errors.h"
-#include "qorvex/random/QorvexRandom.h"
 #include "qorvex/stats/distributions/distributions.h"
 #include "random/distribution_battery.h"
 #include "random/scripted_source.h"
@@ -18,13 +17,8 @@ namespace qorvex::apps {
 namespace {
 
 using testing::Reference;
+using testing::ReferenceOf;
 using testing::ScriptedSource;
-
-const Variate& VariateOf(std::string_view name) {
-  for (const Variate& variate : Variates())
-    if (variate.name == name) return variate;
-  throw std::invalid_argument("no such variate");
-}
 
 Extended Drawn(const VariateMethod& method, Extended parameter, UniformSource source) {
   VariateArguments arguments;
@@ -34,27 +28,21 @@ Extended Drawn(const VariateMethod& method, Extended parameter, UniformSource so
   return variate[0];
 }
 
-Reference StudentT(Extended df) {
-  return testing::ReferenceOf(StudentTDistribution(df), df > 4);
-}
-
-Reference Poisson(Extended mean) {
-  return testing::ReferenceOf(PoissonDistribution(mean));
-}
-
-Reference VonMises(Extended k) {
-  return testing::ReferenceOf(VonMisesDistribution(k));
-}
-
 TEST(UnlimitedVariates, HaveTheDistributionsThatTheyName) {
   const struct {
     const char* variate;
     std::vector<Extended> parameters;
     Reference (*reference)(Extended parameter);
   } cases[] = {
-      {"student-t", {0.05L, 0.5L, 1, 1.5L, 2, 2.5L, 30.5L}, StudentT},
-      {"poisson", {0.3L, 9.99L}, Poisson},
-      {"von-mises", {10, 12.5L, 1e4L, 1e12L}, VonMises},
+      {"student-t",
+       {0.05L, 0.5L, 1, 1.5L, 2, 2.5L, 30.5L},
+       [](Extended df) { return ReferenceOf(StudentTDistribution(df), df > 4); }},
+      {"poisson",
+       {0.3L, 9.99L},
+       [](Extended mean) { return ReferenceOf(PoissonDistribution(mean)); }},
+      {"von-mises",
+       {10, 12.5L, 1e4L, 1e12L},
+       [](Extended k) { return ReferenceOf(VonMisesDistribution(k)); }},
   };
   for (const auto& c : cases) {
     const VariateMethod& method = VariateOf(c.variate).methods.front();
@@ -98,35 +86,6 @@ TEST(UnlimitedVariates, KeepTheDigitsOfNarrowAngles) {
     const Extended scaled = angle * std::sqrt(k);
     EXPECT_NEAR(static_cast<double>(scaled / std::tan(QorPi / 8)), 1, 1e-9) << k;
   }
-}
-
-TEST(UnlimitedVariates, AreTheClassicOnesElsewhereAndOnRequest) {
-  const struct {
-    const char* variate;
-    Extended parameter;
-    Extended (*classic)(UniformSource source);
-    bool by_default;
-  } cases[] = {
-      {"student-t", 3, [](auto s) { return Random_T(3, s); }, true},
-      {"student-t", 1, [](auto s) { return Random_T(1, s); }, false},
-      {"poisson", 9.5L, [](auto s) { return Random_Poisson(9.5L, s); }, true},
-      {"poisson", 50, [](auto s) { return Random_Poisson(50, s); }, true},
-      {"von-mises", 9.9L, [](auto s) { return Random_von_Mises(9.9L, s); }, true},
-  };
-  for (const auto& [name, parameter, classic, by_default] : cases) {
-    const std::vector<Extended> script{0.4L, 0.3L, 0.8L, 0.6L, 0.7L, 0.2L, 0.9L, 0.1L,
-                                       0.5L, 0.4L, 0.3L, 0.8L, 0.6L, 0.7L, 0.2L};
-    ScriptedSource own(script);
-    const Extended expected = classic(own);
-    ScriptedSource source(script);
-    EXPECT_EQ(Drawn(*VariateOf(name).classic, parameter, source), expected) << name;
-    if (!by_default) continue;
-    ScriptedSource again(script);
-    EXPECT_EQ(Drawn(VariateOf(name).methods.front(), parameter, again), expected) << name;
-  }
-  ScriptedSource source({});
-  EXPECT_THROW(Drawn(*VariateOf("von-mises").classic, 10, source), EMathError);
-  EXPECT_THROW(Drawn(VariateOf("von-mises").methods.front(), -1, source), EMathError);
 }
 
 }  // namespace

@@ -52,8 +52,8 @@ class Designer : public testing::Test {
 
   static QList<QDesignerCustomWidgetInterface*> Widgets() {
     QPluginLoader loader(PLUGIN);
-    auto* plugin = qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader.instance());
-    return plugin == nullptr ? QList<QDesignerCustomWidgetInterface*>() : plugin->customWidgets();
+    return qobject_cast<QDesignerCustomWidgetCollectionInterface*>(loader.instance())
+        ->customWidgets();
   }
 
   void Load(const QString& contents) {
@@ -172,10 +172,9 @@ TEST_F(Designer, KeepsNumbersAndNamesFromTranslators) {
 
 TEST_F(Designer, OffersWidgetsUnderTheirQtClass) {
   const auto widgets = Widgets();
-  const auto holder = std::ranges::find(widgets, QString("qorvex::TQorUICtrlHolder"),
-                                        &QDesignerCustomWidgetInterface::name);
-  ASSERT_NE(holder, widgets.end());
-  EXPECT_EQ((*holder)->domXml().toStdString(),
+  const auto* const holder = *std::ranges::find(widgets, QString("qorvex::TQorUICtrlHolder"),
+                                                &QDesignerCustomWidgetInterface::name);
+  EXPECT_EQ(holder->domXml().toStdString(),
             R"(<ui language="c++" displayname="TQorUICtrlHolder">)"
             R"(<widget class="qorvex::TQorUICtrlHolder" name="uiCtrlHolder"/>)"
             R"(<customwidgets><customwidget><class>qorvex::TQorUICtrlHolder</class>)"

@@ -99,20 +99,6 @@ void ExpectLinked(const QWidget& form) {
   }
 }
 
-TEST(SharedSettings, AreFoundByNameFromEveryPage) {
-  QWidget form;
-  Ui::ByName ui;
-  ui.setupUi(&form);
-  const auto loaded = Loaded("by_name.ui");
-  ASSERT_TRUE(loaded);
-  // Pages other than the front one have never been shown.
-  QApplication::processEvents();
-  ExpectLinked(form);
-  ExpectLinked(*loaded);
-  ui.after->setDecimalPlaces(1);
-  EXPECT_EQ(ui.page2_after->findChild<TQorFloatEdit*>()->DecimalPlaces(), 1);
-}
-
 TEST(SharedSettings, AreThoseOfTheSameCopyOfAForm) {
   QWidget window;
   auto* const layout = new QVBoxLayout(&window);
@@ -122,6 +108,7 @@ TEST(SharedSettings, AreThoseOfTheSameCopyOfAForm) {
     if (form->findChild<CellPanel*>() == nullptr) Ui::ByName().setupUi(form);
     layout->addWidget(form);
   }
+  // Pages other than the front one have never been shown.
   QApplication::processEvents();
   for (const QWidget* form : forms) ExpectLinked(*form);
 }

@@ -26,20 +26,17 @@ const Strings kUnits = {"QorvexGlobals",       "Qorvex_rs_math",        "QorvexV
 
 Strings log;
 
-std::string Entry(bool initialised, std::string_view unit) {
-  return std::string(1, initialised ? '+' : '-').append(unit);
-}
-
-Strings Entries(bool initialised, Strings units) {
-  for (std::string& unit : units) unit = Entry(initialised, unit);
+Strings Prefixed(char sign, Strings units) {
+  for (std::string& unit : units) unit.insert(0, 1, sign);
   return units;
 }
 
 struct Package : testing::Test {
   Package() {
     log.clear();
-    SetPackageObserver(
-        [](std::string_view unit, bool initialised) { log.push_back(Entry(initialised, unit)); });
+    SetPackageObserver([](std::string_view unit, bool initialised) {
+      log.push_back((initialised ? "+" : "-") + std::string(unit));
+    });
   }
   ~Package() override { SetPackageObserver(nullptr); }
 };
@@ -62,7 +59,7 @@ TEST_F(Package, InitialisesItsUnitsInOrderAndFinalisesThemInReverse) {
     log.clear();
     void* const library = Load();
     ASSERT_NE(library, nullptr);
-    EXPECT_EQ(log, Entries(true, kUnits));
+    EXPECT_EQ(log, Prefixed('+', kUnits));
     EXPECT_EQ(InitialisedUnits(), kUnits);
     EXPECT_TRUE(Switch(library, matrix));
     EXPECT_TRUE(Switch(library, money));
@@ -76,7 +73,7 @@ TEST_F(Package, InitialisesItsUnitsInOrderAndFinalisesThemInReverse) {
 
     log.clear();
     dlclose(library);
-    EXPECT_EQ(log, Entries(false, Strings(kUnits.rbegin(), kUnits.rend())));
+    EXPECT_EQ(log, Prefixed('-', Strings(kUnits.rbegin(), kUnits.rend())));
     EXPECT_EQ(InitialisedUnits(), Strings());
   }
 }

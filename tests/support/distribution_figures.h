@@ -3,7 +3,6 @@
 #include <cmath>
 #include <functional>
 #include <memory>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -20,14 +19,6 @@ inline std::unique_ptr<const apps::AnyDistribution> MakeDistribution(
   for (std::size_t i = parameters.size(); i < family.parameters.size(); ++i)
     parameters.push_back(family.parameters[i].start);
   return family.make(parameters);
-}
-
-/// The words of a cell.
-inline std::vector<std::string> Words(const std::string& text) {
-  std::istringstream in(text);
-  std::vector<std::string> words;
-  for (std::string word; in >> word;) words.push_back(word);
-  return words;
 }
 
 /// A row of a table; its cells by the names of their columns.

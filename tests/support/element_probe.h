@@ -12,28 +12,21 @@
 
 namespace qorvex {
 
+/// The letters of the types that the probe accepts.
+template <class... T, class Probe>
+std::string AcceptedBy(Probe probe, const char* letter) {
+  std::string types;
+  ((probe(std::type_identity<T>()) ? types += *letter : types, ++letter), ...);
+  return types;
+}
+
 /// The types that the probe accepts, as one letter per element type: g d f (floating), j u i (64-
 /// and 32-bit integers), w s b t (16- and 8-bit integers), and the currencies C S L.
 template <class Probe>
 std::string Exists(Probe probe) {
-  std::string types;
-  const auto ask = [&]<class T>(char letter, T) {
-    if (probe(std::type_identity<T>())) types += letter;
-  };
-  ask('g', Extended());
-  ask('d', double());
-  ask('f', float());
-  ask('j', std::int64_t());
-  ask('u', std::uint32_t());
-  ask('i', std::int32_t());
-  ask('w', std::uint16_t());
-  ask('s', std::int16_t());
-  ask('b', std::uint8_t());
-  ask('t', std::int8_t());
-  ask('C', Currency());
-  ask('S', QorCurrency());
-  ask('L', QorLongCurrency());
-  return types;
+  return AcceptedBy<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
+                    std::uint16_t, std::int16_t, std::uint8_t, std::int8_t, Currency, QorCurrency,
+                    QorLongCurrency>(probe, "gdfjuiwsbtCSL");
 }
 
 /// The types for which the expression compiles. In it, v is a vector and m a matrix of the type;

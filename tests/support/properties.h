@@ -33,22 +33,13 @@ inline QVariant ChangedValue(const QMetaProperty& property, const QVariant& valu
     const QMetaEnum values = property.enumerator();
     return values.value(values.value(0) == number ? 1 : 0);
   }
-  switch (property.typeId()) {
-    case QMetaType::Bool:
-      return !value.toBool();
-    case QMetaType::Int:
-      return number + 1;
-    case QMetaType::UInt:
-      return value.toUInt() + 20;  // More rows than cells.
-    case QMetaType::QString:
-      return value.toString() + "changed";
-    case QMetaType::QStringList:
-      return value.toStringList() + QStringList{"1.5", "2.25"};
-    case QMetaType::QColor:
-      return QColor(1, 2, 3);
-    default:
-      return {};
-  }
+  const int type = property.typeId();
+  if (type == QMetaType::Bool) return !value.toBool();
+  if (type == QMetaType::Int) return number + 1;
+  if (type == QMetaType::UInt) return value.toUInt() + 20;  // More rows than cells.
+  if (type == QMetaType::QString) return value.toString() + "changed";
+  if (type == QMetaType::QStringList) return value.toStringList() + QStringList{"1.5", "2.25"};
+  return type == QMetaType::QColor ? QColor(1, 2, 3) : QVariant();
 }
 
 /// The properties that our own classes publish, in order.

@@ -13,6 +13,14 @@
 
 namespace qorvex::testing {
 
+/// The words of a text.
+inline std::vector<std::string> Words(const std::string& text) {
+  std::istringstream in(text);
+  std::vector<std::string> words;
+  for (std::string word; in >> word;) words.push_back(word);
+  return words;
+}
+
 /// A comma-separated reference table with a header line. Lines that start with # are comments.
 class Table {
  public:
@@ -43,9 +51,8 @@ class Table {
   }
   /// The numbers of a cell that has several, between blanks.
   [[nodiscard]] std::vector<Extended> Values(std::size_t row, const std::string& column) const {
-    std::istringstream numbers(Text(row, column));
     std::vector<Extended> values;
-    for (std::string number; numbers >> number;) values.push_back(Str2Float(number));
+    for (const std::string& word : Words(Text(row, column))) values.push_back(Str2Float(word));
     return values;
   }
 
@@ -60,8 +67,6 @@ class Table {
 template <class Compute>
 void ExpectWorstError(const Table& table, const std::string& column, Extended limit,
                       Compute compute, Extended least = 1e-20L) {
-  Extended worst = 0;
-  std::size_t worst_row = 0;
   std::size_t judged = 0;
   for (std::size_t row = 0; row < table.size(); ++row) {
     if (table.Text(row, column).empty()) continue;
@@ -69,15 +74,9 @@ void ExpectWorstError(const Table& table, const std::string& column, Extended li
     if (!(std::fabs(expected) >= least)) continue;
     ++judged;
     const Extended error = std::fabs(compute(row) - expected) / std::fabs(expected) * 1e19L;
-    ASSERT_FALSE(std::isnan(error)) << column << ", row " << row + 1;
-    if (error > worst) {
-      worst = error;
-      worst_row = row;
-    }
+    EXPECT_LE(error, limit) << column << ", row " << row + 1;
   }
   EXPECT_GT(judged, table.size() / 2);
-  EXPECT_LE(worst, limit) << column << ", row " << worst_row + 1 << ", of " << judged;
-  ::testing::Test::RecordProperty("worst_" + column, Float2EStr(worst, 2));
 }
 
 /// The numbers in a file, separated by blanks. Lines that start with # are comments.
@@ -87,8 +86,7 @@ inline std::vector<Extended> ReadNumbers(const std::string& file) {
   std::vector<Extended> values;
   for (std::string line; std::getline(in, line);) {
     if (!line.empty() && line.front() == '#') continue;
-    std::istringstream numbers(line);
-    for (std::string number; numbers >> number;) values.push_back(Str2Float(number));
+    for (const std::string& word : Words(line)) values.push_back(Str2Float(word));
   }
   return values;
 }

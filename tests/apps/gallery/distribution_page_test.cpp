@@ -19,22 +19,16 @@ struct DistributionPageTest : PageFixture<DistributionPage> {
     QApplication::processEvents();
   }
   void EnterNumber(const char* name, const char* text) { Enter(Find<QLineEdit>(name), text); }
-  [[nodiscard]] std::vector<std::string> Figures() {
-    std::vector<std::string> figures;
+  [[nodiscard]] std::vector<Extended> Figures() {
+    std::vector<Extended> figures;
     // Labels and figures alternate.
     const QStringList texts = Texts("figures");
-    for (int i = 1; i < texts.size(); i += 2) figures.push_back(texts[i].toStdString());
+    for (int i = 1; i < texts.size(); i += 2) figures.push_back(Str2Float(texts[i].toStdString()));
     return figures;
   }
-  [[nodiscard]] std::string Quantile() { return Figure("quantile", "Quantile"); }
+  [[nodiscard]] Extended Quantile() { return Str2Float(Figure("quantile", "Quantile")); }
   [[nodiscard]] QImage Plot() { return Find<PlotView>("plot").grab().toImage(); }
 };
-
-std::vector<std::string> Exact(const std::vector<Extended>& figures) {
-  std::vector<std::string> texts;
-  for (const Extended figure : figures) texts.push_back(Float2Str(figure));
-  return texts;
-}
 
 TEST_F(DistributionPageTest, GivesTheFiguresOfAPoint) {
   Choose("Normal");
@@ -43,17 +37,17 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAPoint) {
   EnterNumber("first", "5.5");
   EnterNumber("probability", "0.1");
   const NormalDistribution normal(1, 0.5L);
-  EXPECT_EQ(Figures(), Exact({normal.Pdf(5.5L), Lower(normal, 5.5L), Upper(normal, 5.5L),
-                              LogLower(normal, 5.5L), LogUpper(normal, 5.5L)}));
-  EXPECT_EQ(Quantile(), Float2Str(normal.Quantile(Tail::kLower, 0.1L)));
+  EXPECT_EQ(Figures(), (std::vector{normal.Pdf(5.5L), Lower(normal, 5.5L), Upper(normal, 5.5L),
+                                    LogLower(normal, 5.5L), LogUpper(normal, 5.5L)}));
+  EXPECT_EQ(Quantile(), normal.Quantile(Tail::kLower, 0.1L));
 
   Choose("F");
   EnterNumber("df1", "2.5");
   EnterNumber("df2", "7");
   EnterNumber("first", "3");
   const FDistribution f(2.5L, 7);
-  EXPECT_EQ(Figures()[2], Float2Str(Upper(f, 3)));
-  EXPECT_EQ(Quantile(), Float2Str(f.Quantile(Tail::kLower, 0.1L)));
+  EXPECT_EQ(Figures()[2], Upper(f, 3));
+  EXPECT_EQ(Quantile(), f.Quantile(Tail::kLower, 0.1L));
   EXPECT_EQ(Message(), "");
 }
 
@@ -66,13 +60,14 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAnInterval) {
   EnterNumber("first", "5");
   EnterNumber("second", "2");
   const BinomialDistribution binomial(0.25L, 8);
-  EXPECT_EQ(Figures(), Exact({Upper(binomial, 2) - Upper(binomial, 4), Lower(binomial, 2),
-                              Upper(binomial, 4), LogLower(binomial, 2), LogUpper(binomial, 4)}));
+  EXPECT_EQ(Figures(),
+            (std::vector{Upper(binomial, 2) - Upper(binomial, 4), Lower(binomial, 2),
+                         Upper(binomial, 4), LogLower(binomial, 2), LogUpper(binomial, 4)}));
   // No count is less than 0.
   EnterNumber("first", "0");
   EnterNumber("second", "0");
-  EXPECT_EQ(Figures()[2], "1");
-  EXPECT_EQ(Figures()[4], "0");
+  EXPECT_EQ(Figures()[2], 1);
+  EXPECT_EQ(Figures()[4], 0);
 }
 
 TEST_F(DistributionPageTest, KeepsPlotAndFiguresWhenANumberIsRefused) {

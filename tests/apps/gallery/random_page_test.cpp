@@ -10,6 +10,7 @@
 
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/model/variate_theory.h"
+#include "apps/variate_of.h"
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/random.h"
 #include "qorvex/base/text.h"
@@ -22,12 +23,7 @@ bool Proceeds(std::size_t, std::size_t) {
   return true;
 }
 
-const apps::Variate& VariateOf(std::string_view name) {
-  for (const apps::Variate& variate : apps::Variates()) {
-    if (variate.name == name) return variate;
-  }
-  throw std::invalid_argument("no such variate");
-}
+using apps::VariateOf;
 
 TEST(RandomSample, DependsOnItsSeed) {
   const SampleOrder order = {&VariateOf("normal"), {2, 3}, 10000, 7};
@@ -72,12 +68,11 @@ TEST(RandomSample, AgreesWithTheTheory) {
     ASSERT_TRUE(theory.density) << c.variate;
     double difference = 0;
     for (std::size_t i = 1; i < sample.bars.size(); ++i) {
-      const double left = sample.bars[i - 1].x();
-      const double width = sample.bars[i].x() - left;
-      double middle = left + width / 2;
+      const double width = sample.bars[i].x() - sample.bars[i - 1].x();
+      double middle = sample.bars[i].x() - width / 2;
       if (theory.is_count) middle = std::round(middle);
-      difference +=
-          width * std::abs(sample.bars[i].y() - static_cast<double>(theory.density(middle)));
+      const auto density = static_cast<double>(theory.density(middle));
+      difference += width * std::abs(sample.bars[i].y() - density);
     }
     EXPECT_LT(difference, 0.08) << c.variate;
   }

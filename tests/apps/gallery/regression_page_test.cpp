@@ -23,24 +23,17 @@ struct RegressionPageTest : PageFixture<RegressionPage> {
 TEST_F(RegressionPageTest, ShowsCertifiedCoefficientsWithAllDigits) {
   const testing::Table certified("nist/regression.csv");
   TQorFloatVector x, y;
-  std::ifstream norris(QORVEX_TEST_DATA "/nist/Norris.txt");
-  for (std::string line; std::getline(norris, line);) {
-    if (line.front() == '#') continue;
-    const std::size_t gap = line.find(' ');
-    x.Append(Str2Float(line.substr(0, gap)));
-    y.Append(Str2Float(line.substr(gap + 1)));
-  }
+  for (const Extended number : testing::ReadNumbers("nist/Norris.txt"))
+    (x.size() == y.size() ? x : y).Append(number);
   Show(x, y);
-  const auto expect = [&](const char* label, const char* column) {
-    const Extended expected = certified.Value(0, column);
-    EXPECT_NEAR(static_cast<double>(Str2Float(Figure("figures", label)) / expected - 1), 0, 1e-15)
-        << label;
-  };
   ASSERT_EQ(certified.Text(0, "name"), "Norris");
-  expect("Constant", "b0");
-  expect("Coefficient of x", "b1");
-  expect("Sum of squared errors", "rss");
-  expect("Coefficient of determination", "r2");
+  for (const auto& [label, column] : {std::pair{"Constant", "b0"},
+                                      {"Coefficient of x", "b1"},
+                                      {"Sum of squared errors", "rss"},
+                                      {"Coefficient of determination", "r2"}}) {
+    const Extended expected = certified.Value(0, column);
+    EXPECT_NEAR(static_cast<double>(Str2Float(Figure("figures", label)) / expected - 1), 0, 1e-15);
+  }
 }
 
 TEST_F(RegressionPageTest, FollowsEdits) {

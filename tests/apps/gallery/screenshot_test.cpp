@@ -10,16 +10,14 @@ namespace {
 
 struct Outcome {
   int status;
-  QString output;
-  QString errors;
+  QString output, errors;
 };
 
 Outcome RunGallery(const QStringList& arguments) {
   QProcess program;
   program.start(QORVEX_GALLERY, arguments);
   program.waitForFinished(120'000);
-  const QString output = program.readAllStandardOutput();
-  return {program.exitCode(), output, program.readAllStandardError()};
+  return {program.exitCode(), program.readAllStandardOutput(), program.readAllStandardError()};
 }
 
 TEST(Gallery, WritesAPictureOfEveryPage) {
