@@ -111,6 +111,9 @@ TEST(SharedSettings, AreThoseOfTheSameCopyOfAForm) {
   // Pages other than the front one have never been shown.
   QApplication::processEvents();
   for (const QWidget* form : forms) ExpectLinked(*form);
+  forms[0]->findChild<TQorUICtrlHolder*>("after")->setDecimalPlaces(1);
+  const auto* const editor = forms[0]->findChild<CellPanel*>("page2_after");
+  EXPECT_EQ(editor->findChild<TQorFloatEdit*>()->DecimalPlaces(), 1);
 }
 
 TEST(SharedSettings, AreFoundWhenTheEditorIsShown) {
