@@ -90,6 +90,7 @@ TEST(FittedFloatText, LosesDecimalsThenTakesExponentFormThenTheMark) {
       {-0.4L, {.decimals = 1}, 3, "###"},
       {1.29996L, {.decimals = 6, .trim = true}, 5, "1.3"},
       {1e4000L, {.trim = true}, 7, "1e4000"},
+      {0x1p63L, four, 30, "9223372036854775808"},
       {0x1p64L, four, 10, "1.84467e19"},
       {1e-200L, {.decimals = 255}, 7, "1e-200"},
       {-kInfinity, four, 4, "-inf"},
