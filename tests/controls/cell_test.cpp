@@ -1,6 +1,5 @@
 #include <QApplication>
 #include <QClipboard>
-#include <QMimeData>
 #include <QSignalSpy>
 #include <QVBoxLayout>
 #include <QtTest/QTest>

@@ -1,10 +1,9 @@
-#include <QSignalSpy>
 #include <cmath>
-#include <limits>
+#include <functional>
 #include <memory>
+#include <tuple>
 
 #include "controls/editor_fixture.h"
-#include "qorvex/base/errors.h"
 
 namespace qorvex {
 
