@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <random>
+#include <utility>
 
 namespace qorvex::inline QorvexControls::detail {
 namespace {

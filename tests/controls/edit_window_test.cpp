@@ -112,6 +112,10 @@ TEST(EditWindow, RequestingACurrentElementScrollsToIt) {
   matrix.Take();
   matrix.window.SetTop(7);
   EXPECT_EQ(matrix.Take(), "bar show") << "a top beyond the end";
+  matrix.window.Enter(3);
+  matrix.Take();
+  matrix.window.SetEdits(2);
+  EXPECT_EQ(matrix.Take(), "bar c9>7 show") << "the focus has moved";
 }
 
 TEST(EditWindow, AHandlerShortensTheAxisOrThrows) {

@@ -31,10 +31,7 @@ struct MatrixFixture : EditorFixture<Editor> {
   /// The cell in a row and a column of the grid, whose size is the default.
   TQorCustomEdit* At(int row, int col) const { return this->Cell(row * 3 + col); }
   static bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
-    const auto same = [](Extended x, Extended y) { return x == y || (x != x && y != y); };
-    return std::ranges::equal(a, b, [&](const TQorFloatVector& x, const TQorFloatVector& y) {
-      return std::ranges::equal(x, y, same);
-    });
+    return std::ranges::equal(a, b, [](auto& x, auto& y) { return std::ranges::equal(x, y); });
   }
 };
 using MatrixEdit = MatrixFixture<TQorMatrixEdit>;
@@ -56,12 +53,11 @@ TEST_F(MatrixEdit, RaisesEventsInOrder) {
       {"left", press(Qt::Key_Left), "out 4 4, column 4 3, in 4 3"},
       {"down", press(Qt::Key_Down), "out 4 3, current 4 5, in 5 3"},
       {"typing", [&] { Type("8"); }, "text 5 3 8"},
-      {"down from the last row goes to the top of the next column", press(Qt::Key_Down),
+      {"from the last row to the next column", press(Qt::Key_Down),
        "change 5 3, out 5 3, top 0, current 5 0, column 3 4, in 0 4"},
       {"and up again", press(Qt::Key_Up), "out 0 4, top 2, current 0 5, column 4 3, in 5 3"},
-      {"a notch of the wheel leaves the current row", [&] { TurnWheel(At(0, 0), 120); }, "top 1"},
-      {"as does the other bar", [&] { across->triggerAction(QScrollBar::SliderSingleStepSub); },
-       "left 1"},
+      {"a wheel notch", [&] { TurnWheel(At(0, 0), 120); }, "top 1"},
+      {"the other bar", [&] { across->triggerAction(QScrollBar::SliderSingleStepSub); }, "left 1"},
       {"a row that is asked for", [&] { editor->setCurrentRow(3); }, "top 0, current 5 3"},
       {"a column", [&] { editor->setCurrentCol(4); }, "left 2"},
       {"fewer columns", [&] { editor->setNoOfCols(2); },
@@ -128,12 +124,9 @@ TEST_F(MatrixEdit, CommandsApplyTheRoutinesAndCanBeUndone) {
     editor->Redo();
     EXPECT_TRUE(Same(editor->Matrix(), result));
   }
-  for (const TQorFloatMatrix& without_inverse :
-       {TQorFloatMatrix{{1, kNaN}, {0, 1}}, {{kNaN, 0}, {0, 1}}, {{1, 2}, {2, 4}}}) {
-    editor->setMatrix(without_inverse);
-    EXPECT_MATH_ERROR(editor->Inverse(), rsNoInvert);
-    EXPECT_TRUE(Same(editor->Matrix(), without_inverse));
-  }
+  editor->setMatrix({{1, 2}, {2, 4}});
+  EXPECT_MATH_ERROR(editor->Inverse(), rsNoInvert);
+  EXPECT_TRUE(Same(editor->Matrix(), {{1, 2}, {2, 4}}));
   EXPECT_MATH_ERROR(editor->SwapRows(0, 2), rsInvalidRow);
   EXPECT_FALSE(editor->CanUndo());
   EXPECT_FALSE(editor->Updating());
