@@ -47,10 +47,11 @@ Extended LogNormalDistribution::Mean() const {
 }
 
 Extended LogNormalDistribution::Variance() const {
-  // e^(2 m + s^2) (e^(s^2) - 1), arranged so that no factor overflows before the product does.
+  // e^(2 m + s^2) (e^(s^2) - 1), arranged so that no factor leaves the format before the product
+  // does.
   const Extended square = log_std_dev_ * log_std_dev_;
   const Extended root = std::exp(log_mean_ + square);
-  if (std::isinf(root) && square < std::numeric_limits<Extended>::min()) {
+  if (square < std::numeric_limits<Extended>::min()) {
     const Extended std_dev = Scaled{log_std_dev_, log_mean_}.Value();
     return std_dev * std_dev;
   }
