@@ -100,7 +100,8 @@ TYPED_TEST(FittedCells, PaintEveryNumberWithinTheDigitsShownOrTheMark) {
     ASSERT_TRUE(painted.isEmpty() || Width(cell, painted) <= room);
     if (painted == cell.text()) continue;
     ++shorter;
-    ASSERT_GT(Width(cell, cell.text()), room - 2) << "it would have fitted";
+    // The spacing after the last letter may count or not.
+    ASSERT_GT(Width(cell, cell.text()), room - 2 - font.letterSpacing()) << "it would have fitted";
     if (QLatin1String("####").startsWith(painted)) continue;
     const auto value = QorvexBaseControls::detail::ParseLocalNumber(painted, cell.locale());
     ASSERT_TRUE(value);
