@@ -92,7 +92,7 @@ class QORVEX_EXPORT EditWindow {
 
   /// Sets the number of edits or elements. A top beyond the new last page is moved there with the
   /// events of SetTop; otherwise the bar is placed and the elements are redisplayed. The focus
-  /// stays within the used edits (0 if there are none). If it has to move, or the current element
+  /// stays within the used edits, and is 0 without any. If it has to move, or the current element
   /// is no longer on the axis, the element under the focus becomes the current one.
   void SetEdits(std::uint32_t edits);
   void SetCount(std::uint32_t count);
