@@ -113,19 +113,19 @@ TEST(MatrixErrors, OfTwoMatricesComeInOrderAndLeaveTheFirst) {
       {kRagged, kSquare, rsSameDimensions, rsMatrixRect, rsMatrixRect, rsMatrixRect},
       {kRagged, high, rsSameDimensions, rsSameDimensions, rsMatrixRect, rsMatrixMult},
   };
-  for (const auto& [given, b, sum, sum_off, product, product_off] : cases) {
-    Matrix a = CopyMatrix(given);
+  for (const auto& each : cases) {
+    Matrix a = CopyMatrix(each.a);
     const auto expect_errors = [&](Error of_sum, Error of_product) {
-      EXPECT_EQ(ErrorOf([&] { std::ignore = AddMatrices(a, b); }), of_sum);
-      EXPECT_EQ(ErrorOf([&] { std::ignore = SubtractMatrices(a, b); }), of_sum);
-      EXPECT_EQ(ErrorOf([&] { AddToMatrix(a, b); }), of_sum);
-      EXPECT_EQ(ErrorOf([&] { SubtractFromMatrix(a, b); }), of_sum);
-      EXPECT_EQ(ErrorOf([&] { std::ignore = MultiplyMatrices(a, b); }), of_product);
-      EXPECT_EQ(a, given);
+      EXPECT_EQ(ErrorOf([&] { std::ignore = AddMatrices(a, each.b); }), of_sum);
+      EXPECT_EQ(ErrorOf([&] { std::ignore = SubtractMatrices(a, each.b); }), of_sum);
+      EXPECT_EQ(ErrorOf([&] { AddToMatrix(a, each.b); }), of_sum);
+      EXPECT_EQ(ErrorOf([&] { SubtractFromMatrix(a, each.b); }), of_sum);
+      EXPECT_EQ(ErrorOf([&] { std::ignore = MultiplyMatrices(a, each.b); }), of_product);
+      EXPECT_EQ(a, each.a);
     };
-    expect_errors(sum, product);
+    expect_errors(each.sum, each.product);
     const RectangularCheckOff off;
-    expect_errors(sum_off, product_off);
+    expect_errors(each.sum_with_switch_off, each.product_with_switch_off);
   }
 }
 
