@@ -21,7 +21,12 @@ static_assert(LDBL_MANT_DIG == 64 && LDBL_MAX_EXP == 16384,
 
 /// T is one of the listed types.
 template <class T, class... List>
-concept OneOf = (std::same_as<T, List> || ...);
+inline constexpr bool kIsOneOf = (std::is_same_v<T, List> || ...);
+
+/// T is one of the listed types. An atomic constraint, so that compilers print the list instead of
+/// a note for each of its types.
+template <class T, class... List>
+concept OneOf = kIsOneOf<T, List...>;
 
 /// Extended, double and float.
 template <class T>

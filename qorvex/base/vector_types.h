@@ -6,6 +6,7 @@
 #include "qorvex/base/currency.h"
 #include "qorvex/base/dyn_array.h"
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/vector_view.h"
 
 namespace qorvex {
 

@@ -1,0 +1,52 @@
+#pragma once
+
+/// @file
+/// VectorView, the parameter type of routines that read a vector.
+
+#include <concepts>
+#include <initializer_list>
+#include <ranges>
+#include <span>
+#include <type_traits>
+
+namespace qorvex {
+
+/// A range whose elements are contiguous in memory: a vector, a C array, std::vector, std::array,
+/// std::span or std::initializer_list.
+template <class Range>
+concept ContiguousRange = std::ranges::contiguous_range<Range> && std::ranges::sized_range<Range>;
+
+/// The element type of a range, without const.
+template <ContiguousRange Range>
+using ElementOf = std::remove_cv_t<std::ranges::range_value_t<Range>>;
+
+/// A read-only view of contiguous elements of type T. It copies nothing, and converts implicitly
+/// from every contiguous range of T and from a list in braces.
+///
+/// - Meant for parameters: the elements must outlive the view. Elements in braces live until the
+///   end of the full expression.
+/// - A range of another element type does not convert, so no argument is converted or rounded
+///   silently.
+template <class T>
+class VectorView : public std::span<const T> {
+ public:
+  /// No elements.
+  constexpr VectorView() noexcept = default;
+  /// The elements in braces.
+  constexpr VectorView(std::initializer_list<T> values) noexcept
+      : std::span<const T>(values.begin(), values.size()) {}
+  /// The elements of the range.
+  template <ContiguousRange Range>
+  requires std::same_as<ElementOf<Range>, T>
+  constexpr VectorView(const Range& range)
+      : std::span<const T>(std::ranges::data(range), std::ranges::size(range)) {}
+};
+
+}  // namespace qorvex
+
+/// @cond internal
+template <class T>
+inline constexpr bool std::ranges::enable_borrowed_range<qorvex::VectorView<T>> = true;
+template <class T>
+inline constexpr bool std::ranges::enable_view<qorvex::VectorView<T>> = true;
+/// @endcond
