@@ -41,7 +41,7 @@ void ClearVector(TQorVector<T>& vector) {
 
 template <AnyElement T>
 TQorVector<T> CopyVector(VectorView<T> vector) {
-  return TQorVector<T>(std::span<const T>(vector));
+  return TQorVector<T>(vector);
 }
 
 template <AnyElement T>
