@@ -21,8 +21,11 @@ namespace {
 using Floats = std::vector<Extended>;
 
 // Records the steps of an elimination, so that they can be repeated on right-hand sides.
-class StepRecorder {
+class StepRecorder : public detail::Observer {
  public:
+  // Every element is eliminated, however small, because its right-hand sides may be large.
+  [[nodiscard]] static bool IsNegligible(Extended x) { return x == 0; }
+
   explicit StepRecorder(std::size_t order)
       : factors_(order * order), scales_(order, 1), origins_(order) {
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
