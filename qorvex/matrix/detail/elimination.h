@@ -40,10 +40,9 @@ std::size_t FindPivot(const Rows& rows, std::size_t first_row, std::size_t row_c
 // Gaussian elimination with partial pivoting to row echelon form. Notifies the observer after each
 // step. Returns the rank, which is the number of pivots.
 //
-// Rows whose pivot is not one are scaled. Elements to be eliminated are set to
-// +0 instead of being computed, because rounding would leave residues that grow from pivot to
-// pivot. So rows are added only to the right of the pivot, and all rows below the last pivot are
-// +0.
+// Rows whose pivot is not one are scaled. Elements to be eliminated are set to +0 instead of being
+// computed, because rounding would leave residues that grow from pivot to pivot. So rows are added
+// only to the right of the pivot, and all rows below the last pivot are +0.
 template <class Rows, std::derived_from<Observer> SomeObserver>
 std::size_t Eliminate(Rows& rows, std::size_t row_count, std::size_t col_count,
                       SomeObserver& observer) {
