@@ -15,10 +15,11 @@
 #include <memory>
 #include <new>
 #include <ranges>
-#include <span>
 #include <stdexcept>
 #include <type_traits>
 #include <utility>
+
+#include "qorvex/base/element_types.h"
 
 namespace qorvex {
 
@@ -33,8 +34,14 @@ concept ElementFrom = std::convertible_to<From, To> &&
 
 /// A zero-based dynamic array whose handles share one reference-counted buffer.
 ///
+/// A container in the sense of the standard library, with contiguous elements, to which
+/// std::back_inserter and the algorithms apply. It differs from std::vector in these points:
+///
 /// - Copying a handle shares the buffer, so a change to an element is seen through every handle.
-/// - Changing the length first gives the handle its own buffer. An array of length 0 has no buffer.
+/// - Every member that changes the length, and reserve(), first gives the handle its own buffer, to
+///   which it copies the elements of a shared one. The other handles keep theirs.
+/// - Integer elements take no floating-point values, which would be truncated.
+/// - If std::bad_alloc is thrown, the array is unchanged. Arguments may be elements of the array.
 /// - A moved-from handle is empty.
 /// - Handles may be copied and destroyed on several threads at once; writing elements needs
 ///   external synchronisation.
@@ -54,48 +61,62 @@ class DynArray {
   using const_reference = const T&;
   using iterator = T*;
   using const_iterator = const T*;
+  using reverse_iterator = std::reverse_iterator<iterator>;
+  using const_reverse_iterator = std::reverse_iterator<const_iterator>;
   /// @}
 
   /// An empty array.
   DynArray() noexcept = default;
 
-  /// @{
-  /// An array of the given values.
-  DynArray(std::initializer_list<T> values) : DynArray(std::span<const T>(values)) {}
-
-  explicit DynArray(std::span<const T> values) {
-    if (values.empty()) return;
-    header_ = Allocate(values.size());
-    std::uninitialized_copy(values.begin(), values.end(), Elements(header_));
-    header_->length = values.size();
-  }
-  /// @}
-
-  /// Copies any sized range, converting each value to T. Conversions from floating-point to integer
-  /// elements, or to an integer type that cannot hold all values, do not compile.
-  template <std::ranges::sized_range Range>
-  requires(!std::same_as<std::remove_cvref_t<Range>, DynArray> &&
-           ElementFrom<T, std::ranges::range_value_t<Range>>) explicit DynArray(Range&& range)
-      : DynArray() {
-    SetLength(static_cast<size_type>(std::ranges::size(range)));
-    std::ranges::transform(range, begin(), [](auto&& value) { return static_cast<T>(value); });
-  }
+  /// An array of the values in braces: TQorFloatVector{3, 1} has two elements.
+  DynArray(std::initializer_list<T> values) : DynArray(values.begin(), values.end()) {}
 
   /// An array of the given length whose elements are zero (or empty, for rows).
-  [[nodiscard]] static DynArray WithLength(size_type length) {
-    DynArray array;
-    array.SetLength(length);
-    return array;
+  template <std::integral Count>
+  explicit DynArray(Count length) : DynArray() {
+    resize(static_cast<size_type>(length));
   }
+
+  /// An array of equal elements: TQorFloatVector(3, 1) has three. Each row is a copy of its own.
+  template <std::integral Count>
+  DynArray(Count length, ScalarOf<T> value) : DynArray() {
+    resize(static_cast<size_type>(length), std::move(value));
+  }
+
+  /// @{
+  /// Copies the elements of any range, converting each to T. Conversions from floating-point to
+  /// integer elements, or to an integer type that cannot hold all values, do not compile.
+  template <std::input_iterator Iterator, std::sentinel_for<Iterator> Sentinel>
+  requires ElementFrom<T, std::iter_value_t<Iterator>> DynArray(Iterator first, Sentinel last)
+      : DynArray() {
+    if constexpr (std::forward_iterator<Iterator> || std::sized_sentinel_for<Sentinel, Iterator>) {
+      const auto length = static_cast<size_type>(std::ranges::distance(first, last));
+      Extend(length, [&](T* target, size_type count) {
+        if constexpr (std::contiguous_iterator<Iterator>) {
+          std::uninitialized_copy_n(std::to_address(first), count, target);
+        } else {
+          std::ranges::uninitialized_copy(std::move(first), last, target, target + count);
+        }
+      });
+    } else {
+      for (; first != last; ++first) push_back(static_cast<T>(*first));
+    }
+  }
+
+  template <std::ranges::input_range Range>
+  requires(!std::same_as<std::remove_cvref_t<Range>, DynArray> &&
+           ElementFrom<T, std::ranges::range_value_t<Range>>) explicit DynArray(Range&& range)
+      : DynArray(std::ranges::begin(range), std::ranges::end(range)) {}
+  /// @}
+
+  /// An array of the given length whose elements are zero (or empty, for rows).
+  [[nodiscard]] static DynArray WithLength(size_type length) { return DynArray(length); }
 
   /// An array of the given length with uninitialised elements: write each before reading it.
   [[nodiscard]] static DynArray ForOverwrite(
       size_type length) requires std::is_trivially_copyable_v<T> {
     DynArray array;
-    if (length != 0) {
-      array.header_ = Allocate(length);
-      array.header_->length = length;
-    }
+    array.Extend(length, [](T*, size_type) {});
     return array;
   }
 
@@ -107,7 +128,7 @@ class DynArray {
   DynArray(DynArray&& other) noexcept : header_(std::exchange(other.header_, nullptr)) {}
   /// Releases this buffer and shares, or takes over, the other.
   DynArray& operator=(DynArray other) noexcept {
-    std::swap(header_, other.header_);
+    swap(other);
     return *this;
   }
   ~DynArray() { Release(header_); }
@@ -115,14 +136,25 @@ class DynArray {
   /// The number of elements.
   [[nodiscard]] size_type size() const noexcept { return header_ == nullptr ? 0 : header_->length; }
   /// True if the length is 0.
-  [[nodiscard]] bool empty() const noexcept { return header_ == nullptr; }
+  [[nodiscard]] bool empty() const noexcept { return size() == 0; }
   /// The highest index: length - 1, so -1 for an empty array.
   [[nodiscard]] difference_type High() const noexcept {
     return static_cast<difference_type>(size()) - 1;
   }
 
+  /// The number of elements that the buffer has room for. A private buffer does not move while the
+  /// length stays within the capacity.
+  [[nodiscard]] size_type capacity() const noexcept {
+    return header_ == nullptr ? 0 : header_->capacity;
+  }
+  /// The largest possible length.
+  [[nodiscard]] static constexpr size_type max_size() noexcept {
+    return (static_cast<size_type>(std::numeric_limits<difference_type>::max()) - kElementsOffset) /
+           sizeof(T);
+  }
+
   /// @{
-  /// The elements; nullptr for an empty array. Valid until the length changes.
+  /// The elements; nullptr without a buffer. Valid until the length changes.
   [[nodiscard]] T* data() noexcept { return header_ == nullptr ? nullptr : Elements(header_); }
   [[nodiscard]] const T* data() const noexcept {
     return header_ == nullptr ? nullptr : Elements(header_);
@@ -131,6 +163,18 @@ class DynArray {
   [[nodiscard]] iterator end() noexcept { return data() + size(); }
   [[nodiscard]] const_iterator begin() const noexcept { return data(); }
   [[nodiscard]] const_iterator end() const noexcept { return data() + size(); }
+  [[nodiscard]] const_iterator cbegin() const noexcept { return begin(); }
+  [[nodiscard]] const_iterator cend() const noexcept { return end(); }
+  [[nodiscard]] reverse_iterator rbegin() noexcept { return reverse_iterator(end()); }
+  [[nodiscard]] reverse_iterator rend() noexcept { return reverse_iterator(begin()); }
+  [[nodiscard]] const_reverse_iterator rbegin() const noexcept {
+    return const_reverse_iterator(end());
+  }
+  [[nodiscard]] const_reverse_iterator rend() const noexcept {
+    return const_reverse_iterator(begin());
+  }
+  [[nodiscard]] const_reverse_iterator crbegin() const noexcept { return rbegin(); }
+  [[nodiscard]] const_reverse_iterator crend() const noexcept { return rend(); }
   /// @}
 
   /// @{
@@ -143,6 +187,10 @@ class DynArray {
     assert(index < size());
     return Elements(header_)[index];
   }
+  [[nodiscard]] T& front() noexcept { return (*this)[0]; }
+  [[nodiscard]] const T& front() const noexcept { return (*this)[0]; }
+  [[nodiscard]] T& back() noexcept { return (*this)[size() - 1]; }
+  [[nodiscard]] const T& back() const noexcept { return (*this)[size() - 1]; }
   /// @}
 
   /// @{
@@ -162,37 +210,100 @@ class DynArray {
   /// - If the buffer is shared, the other handles keep it and this handle gets a private copy.
   /// - Existing elements up to the new length are kept; new elements are zero.
   /// - Length 0 releases the buffer.
-  /// - If std::bad_alloc is thrown, the array is unchanged.
   void SetLength(size_type length) {
     if (length == 0) {
-      Release(std::exchange(header_, nullptr));
-    } else if (header_ == nullptr || IsShared() || length > header_->capacity) {
-      Reallocate(length);
-    } else if (length < header_->length) {
-      std::destroy(Elements(header_) + length, Elements(header_) + header_->length);
-      header_->length = length;
+      Reallocate(0, 0);
     } else {
-      Zero(Elements(header_) + header_->length, length - header_->length);
-      header_->length = length;
+      resize(length);
     }
   }
 
+  /// @{
+  /// Sets the length like SetLength(). New elements are zero or have the given value; each new row
+  /// is a copy of its own. A private buffer keeps its capacity, even at length 0.
+  void resize(size_type length) {
+    if (length <= size()) {
+      Truncate(length);
+    } else {
+      Extend(length - size(), Zero);
+    }
+  }
+  void resize(size_type length, ScalarOf<T> value) {
+    if (length <= size()) {
+      Truncate(length);
+    } else if constexpr (requires { value.SharesBufferWith(value); }) {
+      DynArray rows(length - size());
+      for (T& row : rows) row = T(value.begin(), value.end());
+      Extend(rows.size(), [&](T* first, size_type count) {
+        std::uninitialized_move_n(rows.begin(), count, first);
+      });
+    } else {
+      Extend(length - size(), [element = static_cast<T>(value)](T* first, size_type count) {
+        std::uninitialized_fill_n(first, count, element);
+      });
+    }
+  }
+  /// @}
+  /// Sets the length to 0. A private buffer keeps its capacity.
+  void clear() noexcept { Truncate(0); }
+
+  /// @{
   /// Appends one element. The buffer becomes private.
-  void Append(T value) {
-    SetLength(size() + 1);
-    (*this)[size() - 1] = std::move(value);
+  void Append(ScalarOf<T> value) { push_back(std::move(value)); }
+  void push_back(ScalarOf<T> value) {
+    Extend(1, [&](T* target, size_type) { ::new (target) T(std::move(value)); });
+  }
+  /// @}
+  /// Appends an element made of the arguments, and returns it. The buffer becomes private.
+  template <class... Arguments>
+  requires std::constructible_from<ScalarOf<T>, Arguments...> T& emplace_back(
+      Arguments&&... arguments) {
+    push_back(ScalarOf<T>(std::forward<Arguments>(arguments)...));
+    return back();
+  }
+  /// Removes the last element of a non-empty array. The buffer becomes private.
+  void pop_back() {
+    assert(!empty());
+    Truncate(size() - 1);
+  }
+
+  /// @{
+  /// Replaces all elements. The other handles of a shared buffer keep it.
+  template <std::integral Count>
+  void assign(Count length, ScalarOf<T> value) {
+    *this = DynArray(length, std::move(value));
+  }
+  template <std::input_iterator Iterator, std::sentinel_for<Iterator> Sentinel>
+  requires ElementFrom<T, std::iter_value_t<Iterator>>
+  void assign(Iterator first, Sentinel last) {
+    *this = DynArray(std::move(first), std::move(last));
+  }
+  /// @}
+
+  /// Provides room for a length, so that appending up to it does not move the elements. The buffer
+  /// becomes private even if it has the room, so that sharing does not depend on capacities.
+  void reserve(size_type capacity) {
+    if (capacity > this->capacity() || IsShared()) {
+      Reallocate(size(), std::max(capacity, this->capacity()));
+    }
   }
 
   /// Releases unused capacity. A shared buffer with unused capacity becomes private.
   void ShrinkToFit() {
-    if (header_ != nullptr && header_->capacity > header_->length) Reallocate(header_->length);
+    if (capacity() > size()) Reallocate(size(), size());
   }
+
+  /// @{
+  /// Exchanges the buffers of two handles.
+  void swap(DynArray& other) noexcept { std::swap(header_, other.header_); }
+  friend void swap(DynArray& a, DynArray& b) noexcept { a.swap(b); }
+  /// @}
 
   /// True if another handle shares the buffer.
   [[nodiscard]] bool IsShared() const noexcept {
     return header_ != nullptr && header_->references.load(std::memory_order_acquire) != 1;
   }
-  /// True if both handles share one buffer; false for empty arrays.
+  /// True if both handles share one buffer; false without one.
   [[nodiscard]] bool SharesBufferWith(const DynArray& other) const noexcept {
     return header_ != nullptr && header_ == other.header_;
   }
@@ -223,10 +334,7 @@ class DynArray {
                       std::is_nothrow_copy_constructible_v<T> &&
                       std::is_nothrow_move_constructible_v<T>,
                   "only the allocation may fail, so that a failure leaves the array unchanged");
-    constexpr size_type limit =
-        (static_cast<size_type>(std::numeric_limits<difference_type>::max()) - kElementsOffset) /
-        sizeof(T);
-    if (capacity > limit) throw std::bad_array_new_length();
+    if (capacity > max_size()) throw std::bad_array_new_length();
     void* memory =
         ::operator new (kElementsOffset + capacity * sizeof(T), std::align_val_t{kAlignment});
     return ::new (memory) Header(capacity);
@@ -252,25 +360,42 @@ class DynArray {
     }
   }
 
-  // Moves the elements to a new, private buffer of the given length. Growing a private buffer
-  // reserves additional capacity.
-  void Reallocate(size_type length) {
-    const bool shared = IsShared();
-    const size_type old_length = size();
-    const bool grows_in_place = header_ != nullptr && !shared && length > old_length;
-    const size_type capacity =
-        grows_in_place ? std::max(length, old_length + old_length / 2) : length;
-    const size_type kept = std::min(length, old_length);
-
-    Header* fresh = Allocate(capacity);
-    if (shared) {
-      std::uninitialized_copy_n(Elements(header_), kept, Elements(fresh));
-    } else if (kept != 0) {
-      std::uninitialized_move_n(Elements(header_), kept, Elements(fresh));
+  // Moves the first elements to a new, private buffer. Without capacity there is no buffer.
+  void Reallocate(size_type kept, size_type capacity) {
+    Header* fresh = nullptr;
+    if (capacity != 0) {
+      fresh = Allocate(capacity);
+      if (IsShared()) {
+        std::uninitialized_copy_n(data(), kept, Elements(fresh));
+      } else {
+        std::uninitialized_move_n(data(), kept, Elements(fresh));
+      }
+      fresh->length = kept;
     }
-    Zero(Elements(fresh) + kept, length - kept);
-    fresh->length = length;
     Release(std::exchange(header_, fresh));
+  }
+
+  // Removes the elements from the length on, which is at most the present one.
+  void Truncate(size_type length) {
+    if (IsShared()) {
+      Reallocate(length, length);
+    } else if (header_ != nullptr) {
+      std::destroy(begin() + length, end());
+      header_->length = length;
+    }
+  }
+
+  // Appends elements: construct(first, count) makes them in uninitialised memory.
+  template <class Construct>
+  void Extend(size_type count, Construct construct) {
+    if (count == 0) return;
+    const size_type length = size();
+    if (count > max_size() - length) throw std::bad_array_new_length();
+    if (IsShared() || count > capacity() - length) {
+      Reallocate(length, std::max(length + count, length + length / 2));
+    }
+    construct(Elements(header_) + length, count);
+    header_->length = length + count;
   }
 
   void RequireIndex(size_type index) const {

@@ -1,14 +1,63 @@
 #include "qorvex/base/dyn_array.h"
 
 #include <array>
+#include <iterator>
+#include <list>
 #include <new>
 #include <ranges>
+#include <sstream>
 #include <stdexcept>
 #include <thread>
 
+#include "support/failing_allocation.h"
 #include "support/test.h"
 
 namespace qorvex {
+
+// What the standard requires of a reversible container with contiguous elements.
+template <class C>
+concept StandardContainer =
+    std::ranges::contiguous_range<C> && std::ranges::contiguous_range<const C> &&
+    std::ranges::sized_range<C> && std::regular<C> && std::swappable<C> &&
+    std::output_iterator < std::back_insert_iterator<C>,
+typename C::value_type > &&requires(C c, const C constant) {
+  { c.begin() } -> std::same_as<typename C::iterator>;
+  { constant.end() } -> std::same_as<typename C::const_iterator>;
+  { c.cbegin() } -> std::same_as<typename C::const_iterator>;
+  { c.cend() } -> std::same_as<typename C::const_iterator>;
+  { c.rbegin() } -> std::same_as<typename C::reverse_iterator>;
+  { constant.rend() } -> std::same_as<typename C::const_reverse_iterator>;
+  { c.crbegin() } -> std::same_as<typename C::const_reverse_iterator>;
+  { c.crend() } -> std::same_as<typename C::const_reverse_iterator>;
+  { c.max_size() } -> std::same_as<typename C::size_type>;
+  { c.front() } -> std::same_as<typename C::reference>;
+  { constant.back() } -> std::same_as<typename C::const_reference>;
+};
+static_assert(StandardContainer<TQorFloatVector> && StandardContainer<TQorByteVector> &&
+              StandardContainer<TQorLongCurrVector> && StandardContainer<TQorFloatMatrix>);
+
+template <class Vector, class Value>
+concept Appendable = requires(Vector vector, Value value) {
+  vector.push_back(value);
+}
+|| requires(Vector vector, Value value) {
+  vector.Append(value);
+}
+|| requires(Vector vector, Value value) {
+  vector.emplace_back(value);
+}
+|| requires(Vector vector, Value value) {
+  vector.resize(2, value);
+}
+|| requires(Vector vector, Value value) {
+  vector.assign(2, value);
+}
+|| requires(Value value) {
+  Vector(2, value);
+};
+static_assert(Appendable<TQorFloatVector, int> && Appendable<TQorSIntVector, int>);
+static_assert(!Appendable<TQorLIntVector, double> && !Appendable<TQorByteVector, Extended>);
+static_assert(!std::constructible_from<TQorFloatVector, double>, "a length is an integer");
 
 TEST(DynArray, HandlesShareTheBufferUntilTheLengthIsSet) {
   TQorFloatVector a{1, 2, 3};
@@ -61,7 +110,6 @@ TEST(DynArray, ConvertsFromAndToRanges) {
   const std::span<const Extended> view = v;
   EXPECT_EQ(view.data(), v.data());
   EXPECT_EQ(TQorFloatVector(view.subspan(1)), (TQorFloatVector{1.5L, 2.5L}));
-  static_assert(std::ranges::contiguous_range<TQorFloatVector>);
   static_assert(std::constructible_from<TQorDoubleVector, TQorFloatVector>);
   static_assert(!std::constructible_from<TQorLIntVector, TQorFloatVector>);
   static_assert(!std::constructible_from<TQorLIntVector, TQorLWordVector>);
@@ -80,8 +128,65 @@ TEST(DynArray, CheckedAccessAndImpossibleLengthsThrowAndChangeNothing) {
   EXPECT_EQ(v, (TQorFloatVector{1, 2}));
 }
 
-TEST(DynArray, AppendingIsAmortised) {
+TEST(DynArray, ConstructsFromCountsAndIterators) {
+  EXPECT_EQ(TQorFloatVector(3), (TQorFloatVector{0, 0, 0}));
+  EXPECT_EQ(TQorFloatVector(3, 1), (TQorFloatVector{1, 1, 1}));
+  EXPECT_EQ((TQorFloatVector{3, 1}).size(), 2U);
+  const std::list<float> list{1, 2, 3};
+  EXPECT_EQ(TQorDoubleVector(list.begin(), list.end()), (TQorDoubleVector{1, 2, 3}));
+  std::istringstream input("4 5 6");
+  std::istream_iterator<std::int32_t> numbers(input);
+  const TQorLIntVector read(numbers, std::default_sentinel);
+  EXPECT_EQ(read, (TQorLIntVector{4, 5, 6}));
+  EXPECT_EQ(TQorLIntVector(read.rbegin(), read.rend()), (TQorLIntVector{6, 5, 4}));
+  EXPECT_EQ(TQorLIntVector(read.crbegin(), read.crend() - 1), (TQorLIntVector{6, 5}));
+  EXPECT_THROW(TQorFloatVector(-1), std::bad_alloc);
+  TQorFloatMatrix zeros(2, TQorFloatVector(3));
+  zeros[0][1] = 7;
+  EXPECT_EQ(zeros, (TQorFloatMatrix{{0, 7, 0}, {0, 0, 0}})) << "rows of their own";
+}
+
+TEST(DynArray, AppendsAndRemovesLikeAStandardContainer) {
+  TQorLIntVector v{2, 3};
+  std::ranges::copy(std::array{5, 7}, std::back_inserter(v));
+  v.push_back(v.front());
+  v.resize(7, v.back());
+  EXPECT_EQ(v, (TQorLIntVector{2, 3, 5, 7, 2, 2, 2}));
+  v.resize(8);
+  v.pop_back();
+  v.resize(5, 9);
+  std::ranges::sort(v);
+  EXPECT_EQ(v, (TQorLIntVector{2, 2, 3, 5, 7}));
+  v.assign(v.begin() + 2, v.end());
+  EXPECT_EQ(v, (TQorLIntVector{3, 5, 7}));
+  v.assign(2, v[1]);
+  TQorLIntVector other{1};
+  swap(v, other);
+  EXPECT_TRUE((v == TQorLIntVector{1} && other == TQorLIntVector{5, 5}));
+
+  TQorFloatMatrix m;
+  m.emplace_back(2, 0.5L)[1] = 1;
+  m.push_back({2});
+  m.push_back(m[1]);
+  EXPECT_EQ(m, (TQorFloatMatrix{{0.5L, 1}, {2}, {2}}));
+  m.resize(1);
+  EXPECT_EQ(m.back(), (TQorFloatVector{0.5L, 1}));
+}
+
+TEST(DynArray, CapacityIsKeptByAPrivateBufferAndMakesAppendingAmortised) {
   TQorByteVector v;
+  v.reserve(100);
+  const std::uint8_t* const reserved = v.data();
+  for (std::uint8_t i = 0; i < 100; ++i) v.push_back(i);
+  v.clear();
+  EXPECT_TRUE(v.empty() && v.begin() == v.end());
+  v.resize(100, 1);
+  EXPECT_EQ(v.data(), reserved);
+  v.resize(0);
+  EXPECT_EQ(v.capacity(), 100U);
+  v.ShrinkToFit();
+  EXPECT_EQ(v.data(), nullptr);
+
   std::size_t moves = 0;
   for (int i = 0; i < 100'000; ++i) {
     const std::uint8_t* const buffer = v.data();
@@ -89,6 +194,31 @@ TEST(DynArray, AppendingIsAmortised) {
     if (v.data() != buffer) ++moves;
   }
   EXPECT_LT(moves, 40U);
+}
+
+TEST(DynArray, EveryChangeOfLengthAndReservingLeaveOtherHandlesAlone) {
+  using Change = void (*)(TQorFloatMatrix&);
+  const TQorFloatMatrix original{{1, 2}, {3}, {}};
+  for (const Change change : std::initializer_list<Change>{
+           [](TQorFloatMatrix& m) { m.push_back(m[0]); },
+           [](TQorFloatMatrix& m) { m.emplace_back(); }, [](TQorFloatMatrix& m) { m.pop_back(); },
+           [](TQorFloatMatrix& m) { m.resize(4, m[1]); },
+           [](TQorFloatMatrix& m) { m.resize(3, m[1]); }, [](TQorFloatMatrix& m) { m.resize(1); },
+           [](TQorFloatMatrix& m) { m.assign(3, m[2]); },
+           [](TQorFloatMatrix& m) { m.SetLength(3); }, [](TQorFloatMatrix& m) { m.reserve(1); },
+           [](TQorFloatMatrix& m) { m.clear(); }}) {
+    TQorFloatMatrix kept = original;
+    kept.SetLength(3);
+    TQorFloatMatrix handle = kept;
+    change(handle);
+    EXPECT_FALSE(kept.IsShared() || handle.IsShared());
+    EXPECT_EQ(kept, original);
+    // Whatever fails to allocate, both handles keep their elements.
+    if (handle.empty()) continue;
+    handle = kept;
+    testing::ExpectFailuresChangeNothing([&] { change(handle); },
+                                         [&] { return handle == original && kept == original; });
+  }
 }
 
 TEST(DynArray, HandlesMayBeCopiedAndDestroyedOnAnyThread) {
