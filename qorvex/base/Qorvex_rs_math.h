@@ -15,7 +15,8 @@
 namespace qorvex::inline Qorvex_rs_math {
 
 /// @cond internal
-// Identifier and English text. %1 stands for the text that was rejected.
+// Identifier and English text. %1 stands for the text that was rejected, in rsAtCharacter for
+// another message, and %2 for a position.
 #define QORVEX_MATH_MESSAGES(X)                                                                \
   X(rsVectorIsEmpty, "The vector is empty")                                                    \
   X(rsSameDimensions, "The dimensions must be the same")                                       \
@@ -75,7 +76,11 @@ namespace qorvex::inline Qorvex_rs_math {
   X(rsOverflow, "Floating-point overflow")                                                     \
   X(rsNotANumber, "\"%1\" is not a number")                                                    \
   X(rsNumberTooLarge, "\"%1\" is too large a number")                                          \
-  X(rsNotAFraction, "\"%1\" is not a fraction")
+  X(rsNotAFraction, "\"%1\" is not a fraction")                                                \
+  X(rsNotAnInteger, "\"%1\" is not an integer")                                                \
+  X(rsUnexpectedText, "\"%1\" is unexpected")                                                  \
+  X(rsUnexpectedEnd, "The text ends too early")                                                \
+  X(rsAtCharacter, "%1 (character %2)")
 /// @endcond
 
 /// The identifier of a message.
