@@ -7,6 +7,8 @@
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/currency.h"
+#include "qorvex/base/currency_arithmetic.h"
+#include "qorvex/base/currency_literals.h"
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary.h"

@@ -1,6 +1,7 @@
 #include "qorvex/base/Qorvex_rs_math.h"
 
 #include <cstddef>
+#include <iterator>
 #include <string_view>
 #include <utility>
 
@@ -28,7 +29,8 @@ std::string MessageText(MessageId id) {
 }
 
 std::string_view EnglishMessageText(MessageId id) noexcept {
-  return kTexts[static_cast<std::size_t>(id)];
+  const auto index = static_cast<std::size_t>(id);
+  return index < std::size(kTexts) ? kTexts[index] : std::string_view();
 }
 
 void SetMessageText(MessageId id, std::string text) {

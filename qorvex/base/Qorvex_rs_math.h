@@ -77,6 +77,9 @@ namespace qorvex::inline Qorvex_rs_math {
   X(rsNotANumber, "\"%1\" is not a number")                                                    \
   X(rsNumberTooLarge, "\"%1\" is too large a number")                                          \
   X(rsNotAFraction, "\"%1\" is not a fraction")                                                \
+  X(rsAmountOverflow, "The amount is out of range")                                            \
+  X(rsInvalidWeight, "The weights must be finite and must not be negative")                    \
+  X(rsWeightsZero, "The weights must not all be zero")                                         \
   X(rsNotAnInteger, "\"%1\" is not an integer")                                                \
   X(rsUnexpectedText, "\"%1\" is unexpected")                                                  \
   X(rsUnexpectedEnd, "The text ends too early")                                                \
@@ -90,22 +93,26 @@ enum class MessageId : std::uint16_t {
   QORVEX_MATH_MESSAGES(QORVEX_IDENTIFIER)
 #undef QORVEX_IDENTIFIER
   /// @endcond
+  /// The first of the identifiers that are left to applications: this value and all above. The
+  /// library has no texts for them.
+  rsApplication = 0x8000,
 };
 
 using enum MessageId;
 
-/// The current text of a message: the result of the look-up function if it has one, otherwise the
-/// replacement if one is set, otherwise the English text.
+/// The current text of one of the library's messages: the result of the look-up function if it has
+/// one, otherwise the replacement if one is set, otherwise the English text. std::out_of_range for
+/// identifiers of applications.
 [[nodiscard]] QORVEX_EXPORT std::string MessageText(MessageId id);
 
 /// The English text of a message, even if it has been replaced: the source text for translators.
-/// Valid for the lifetime of the program.
+/// Valid for the lifetime of the program. Empty for identifiers of applications.
 [[nodiscard]] QORVEX_EXPORT std::string_view EnglishMessageText(MessageId id) noexcept;
 
-/// Replaces the text of a message.
+/// Replaces the text of a message of the library.
 QORVEX_EXPORT void SetMessageText(MessageId id, std::string text);
 
-/// Restores the English text of a message.
+/// Restores the English text of a message of the library.
 QORVEX_EXPORT void ResetMessageText(MessageId id);
 
 /// Sets a function that is asked for every text first, such as a translator.

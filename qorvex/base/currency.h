@@ -24,6 +24,8 @@
 /// - Conversions round to the nearest amount, ties to even. Values that the target cannot hold
 ///   become its smallest amount. Converting an amount with Currency2Float and back is exact.
 ///
+/// currency_literals.h has constants such as 12.50_currency, currency_arithmetic.h division,
+/// products with a rounding mode and arithmetic that raises instead of wrapping around.
 /// currency_text.h converts amounts to text and back; currency_format.h has the formatter for
 /// libfmt.
 
@@ -32,6 +34,7 @@
 #include <cstdint>
 #include <iosfwd>
 #include <limits>
+#include <string_view>  // std::hash
 #include <type_traits>
 
 #include "qorvex/base/element_types.h"
@@ -42,7 +45,7 @@ namespace qorvex {
 /// A fixed-point amount of money: an integer that counts parts of a currency unit. Each combination
 /// of stored type and scale is a separate type, so an amount cannot be confused with an integer or
 /// with an amount of another scale. std::numeric_limits has the range, and the resolution as
-/// epsilon().
+/// epsilon(); std::hash makes amounts keys of unordered containers.
 template <class Stored, std::int64_t Scale>
 class QORVEX_EXPORT BasicCurrency {
  public:
@@ -92,6 +95,11 @@ class QORVEX_EXPORT BasicCurrency {
   /// The amount with the opposite sign. Negating the smallest amount gives the same amount.
   [[nodiscard]] friend constexpr BasicCurrency operator-(BasicCurrency amount) noexcept {
     return BasicCurrency() -= amount;
+  }
+  /// The amount without its sign. The smallest amount, whose opposite is out of range, stays as it
+  /// is.
+  [[nodiscard]] friend constexpr BasicCurrency abs(BasicCurrency amount) noexcept {
+    return amount.stored_ < 0 ? -amount : amount;
   }
   /// @{
   /// The same as the compound assignments.
@@ -209,5 +217,12 @@ struct std::numeric_limits<qorvex::BasicCurrency<Stored, Scale>> : std::numeric_
   static constexpr Amount quiet_NaN() noexcept { return Amount(); }
   static constexpr Amount signaling_NaN() noexcept { return Amount(); }
   static constexpr Amount denorm_min() noexcept { return Amount(); }
+};
+
+template <class Stored, std::int64_t Scale>
+struct std::hash<qorvex::BasicCurrency<Stored, Scale>> {
+  std::size_t operator()(qorvex::BasicCurrency<Stored, Scale> amount) const noexcept {
+    return std::hash<Stored>()(amount.stored());
+  }
 };
 /// @endcond

@@ -32,17 +32,25 @@ class QORVEX_EXPORT Exception : public std::runtime_error {
 };
 
 /// Raised for input that a routine rejects, with the text that the message has at that moment.
+/// Applications may raise it, or a class of their own derived from it, with a text of their own.
 class QORVEX_EXPORT EMathError : public Exception {
  public:
-  /// Uses the current text of the message.
+  /// Uses the current text of one of the library's messages.
   explicit EMathError(MessageId id) : Exception(id, MessageText(id)) {}
+  /// Uses the given text. The identifier is one of the library's, or one of the application's own:
+  /// rsApplication or a larger value.
+  EMathError(MessageId id, const std::string& text) : Exception(id, text) {}
+  /// Uses the given text with the identifier rsApplication.
+  explicit EMathError(const std::string& text) : Exception(rsApplication, text) {}
   ~EMathError() override;
 };
 
-/// Raised for the division of a non-zero value by zero, and for the logarithm of zero.
+/// Raised for the division of a non-zero value by zero, for the logarithm of zero, and for every
+/// division of an amount by zero.
 class QORVEX_EXPORT EZeroDivide : public EMathError {
  public:
-  EZeroDivide() : EMathError(rsZeroDivide) {}
+  /// Uses the current text of one of the library's messages.
+  explicit EZeroDivide(MessageId id = rsZeroDivide) : EMathError(id) {}
   ~EZeroDivide() override;
 };
 
@@ -54,10 +62,12 @@ class QORVEX_EXPORT EInvalidOp : public EMathError {
   ~EInvalidOp() override;
 };
 
-/// Raised if finite operands give a result beyond the extended range.
+/// Raised if finite operands give a result beyond the extended range, or an amount beyond the range
+/// of its type.
 class QORVEX_EXPORT EOverflow : public EMathError {
  public:
-  EOverflow() : EMathError(rsOverflow) {}
+  /// Uses the current text of one of the library's messages.
+  explicit EOverflow(MessageId id = rsOverflow) : EMathError(id) {}
   ~EOverflow() override;
 };
 

@@ -15,15 +15,19 @@ namespace qorvex {
 
 /// All thirteen elements of vectors and matrices.
 template <class T>
-concept AnyElement = NumericElement<T> || CurrencyElement<T>;
+concept AnyElement =
+    OneOf<T, Extended, double, float, std::int64_t, std::uint32_t, std::int32_t, std::uint16_t,
+          std::int16_t, std::uint8_t, std::int8_t, Currency, QorCurrency, QorLongCurrency>;
 
 /// The elements of at least 32 bits: six numeric ones and the currencies.
 template <class T>
-concept WideElement = WideNumericElement<T> || CurrencyElement<T>;
+concept WideElement = OneOf<T, Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
+                            Currency, QorCurrency, QorLongCurrency>;
 
 /// The elements with addition and subtraction: the floating ones, int64, int32 and the currencies.
 template <class T>
-concept AdditiveElement = SignedArithmeticElement<T> || CurrencyElement<T>;
+concept AdditiveElement = OneOf<T, Extended, double, float, std::int64_t, std::int32_t, Currency,
+                                QorCurrency, QorLongCurrency>;
 
 /// A vector: a dynamic array of one element type.
 template <class T>

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <random>
+#include <unordered_map>
 #include <utility>
 
 #include "qorvex/base/rounding.h"
@@ -118,6 +119,8 @@ TYPED_TEST(AmountOf, ArithmeticIsExactAndWrapsInTheStoredWidth) {
   for (const Stored x : values) {
     const Int128 wide = x;
     EXPECT_EQ((-C(x)).stored(), static_cast<Stored>(-wide));
+    EXPECT_EQ(abs(C(x)).stored(), static_cast<Stored>(x < 0 ? -wide : wide));
+    EXPECT_TRUE((std::unordered_map<C, int>{{C(x), 1}}.contains(C(x))));
     for (const Stored y : values) {
       EXPECT_EQ((C(x) + C(y)).stored(), static_cast<Stored>(wide + y));
       EXPECT_EQ((C(x) - C(y)).stored(), static_cast<Stored>(wide - y));

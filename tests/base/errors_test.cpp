@@ -5,6 +5,8 @@
 #include "qorvex/base/checked_math.h"
 #include "support/test.h"
 
+using namespace std::string_literals;
+
 namespace qorvex {
 
 class Messages : public ::testing::Test {
@@ -44,6 +46,26 @@ TEST_F(Messages, CanBeReplacedWhileOtherThreadsRaise) {
     const std::string text = EMathError(rsVectorIsEmpty).what();
     ASSERT_TRUE(text == "a" || text == "b" || text == "The vector is empty") << text;
   }
+}
+
+TEST(MathError, TakesTextsAndIdentifiersOfApplications) {
+  class RateError : public EMathError {
+   public:
+    RateError() : EMathError(MessageId{0x8001}, "The rate is above the cap") {}
+  };
+  const auto caught = [](auto&& error) {
+    try {
+      throw error;
+    } catch (const EMathError& e) {
+      return std::pair(e.message_id(), std::string(e.what()));
+    }
+  };
+  EXPECT_EQ(caught(RateError()), std::pair(MessageId{0x8001}, "The rate is above the cap"s));
+  EXPECT_EQ(caught(EMathError("no rate")), std::pair(rsApplication, "no rate"s));
+  EXPECT_EQ(caught(EMathError(rsInvalidValue, "no rate")), std::pair(rsInvalidValue, "no rate"s));
+  EXPECT_EQ(caught(EZeroDivide(rsDivideByZero)), std::pair(rsDivideByZero, "Division by zero"s));
+  EXPECT_EQ(EnglishMessageText(rsApplication), "");
+  EXPECT_THROW(EMathError{rsApplication}, std::out_of_range);
 }
 
 static_assert(std::derived_from<EZeroDivide, EMathError>);
