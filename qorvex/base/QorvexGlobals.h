@@ -21,5 +21,6 @@
 #include "qorvex/base/special_functions.h"
 #include "qorvex/base/swap.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base/vector_text.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/base/version.h"

@@ -19,14 +19,15 @@ template <FloatElement T>
 std::size_t ReduceToEchelonForm(TQorMatrix<T>& matrix) {
   const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
   const detail::RectangularCheckPause pause;
+  detail::Observer observer;
   return detail::WithRows(matrix, shape.cols, [&](auto rows) {
-    return detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
+    return detail::Eliminate(rows, shape.rows, shape.cols, observer);
   });
 }
 
 // Repeats the steps on the rows of the inverse.
 template <class Rows>
-class InverseObserver {
+class InverseObserver : public detail::Observer {
  public:
   explicit InverseObserver(Rows& rows) : rows_(rows) {}
   void Swapped(std::size_t row1, std::size_t row2) { rows_.Swap(row1, row2); }
@@ -64,7 +65,7 @@ bool IsFinite(const TQorMatrix<T>& matrix) {
   });
 }
 
-class DeterminantObserver {
+class DeterminantObserver : public detail::Observer {
  public:
   void Swapped(std::size_t, std::size_t) { determinant_ = -determinant_; }
   void Scaled(std::size_t, Extended pivot, Extended /*factor*/) { determinant_ *= pivot; }

@@ -21,15 +21,18 @@ namespace {
 using Floats = std::vector<Extended>;
 
 // Records the steps of an elimination, so that they can be repeated on right-hand sides.
-class StepRecorder {
+class StepRecorder : public detail::Observer {
  public:
+  // Every element is eliminated, however small, because its right-hand sides may be large.
+  [[nodiscard]] static bool IsNegligible(Extended x) { return x == 0; }
+
   explicit StepRecorder(std::size_t order)
-      : factors_(detail::NewMatrix<Extended>(order, order)), scales_(order, 1), origins_(order) {
+      : factors_(order * order), scales_(order, 1), origins_(order) {
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
   }
 
   void Swapped(std::size_t row1, std::size_t row2) {
-    std::swap(factors_[row1], factors_[row2]);
+    std::swap_ranges(FactorsOf(row1), FactorsOf(row1 + 1), FactorsOf(row2));
     std::swap(origins_[row1], origins_[row2]);
   }
   void Scaled(std::size_t row, Extended pivot, Extended factor) {
@@ -37,14 +40,14 @@ class StepRecorder {
     pivots_are_finite_ &= std::isfinite(pivot);
   }
   void Added(std::size_t target, std::size_t source, Extended factor) {
-    factors_[target][source] = factor;
+    FactorsOf(target)[source] = factor;
   }
   [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
 
   [[nodiscard]] Floats Repeat(const Floats& b) const {
     Floats result(b.size());
     for (std::size_t i = 0; i < b.size(); ++i) {
-      const Extended* const factors = factors_[i].data();
+      const Extended* const factors = &factors_[i * b.size()];
       Extended sum = b[origins_[i]];
       for (std::size_t k = 0; k < i; ++k) sum += factors[k] * result[k];
       result[i] = sum * scales_[i];
@@ -53,9 +56,11 @@ class StepRecorder {
   }
 
  private:
-  // Row i is that of the matrix after all exchanges: factors_[i][k] times row k < i was added to
-  // it, it was then multiplied by scales_[i], and it was row origins_[i] of the given matrix.
-  TQorFloatMatrix factors_;
+  Extended* FactorsOf(std::size_t row) { return factors_.data() + row * scales_.size(); }
+
+  // Row i after all exchanges was row origins_[i] of the given matrix. Row k < i was added to it,
+  // multiplied by element [i][k] of factors_, and then it was itself multiplied by scales_[i].
+  Floats factors_;
   Floats scales_;
   std::vector<std::size_t> origins_;
   bool pivots_are_finite_ = true;

@@ -5,16 +5,15 @@
 ///
 /// - One Gaussian elimination in extended precision with the pivots of MatrixInverse, and for each
 ///   right-hand side one step of iterative refinement, whose residual is summed in pairs of
-///   extended values. Until its product with 2^-64 comes near one, the condition of the matrix
-///   hardly costs the solution any digits: docs/accuracy.md has the figures.
+///   extended values. Up to a condition of 1e9 every element of the solution is off by little more
+///   than its rounding; docs/accuracy.md has the figures.
 /// - Double and Single elements are converted to Extended first, and each element of the solution
 /// is
 ///   rounded to its type once, at the end.
-/// - The result is std::nullopt if there is no unique solution: if the rank of the matrix,
-/// converted
-///   to Extended, is less than its order (an element counts as zero if its magnitude is at most
-///   QorTolerance), or if a pivot or an element of the solution is NaN or infinite. So a NaN
-///   anywhere in the matrix or in b gives no solution.
+/// - The result is std::nullopt if the elimination finds no pivot for a column, because all its
+///   elements are at most QorTolerance in magnitude, or if a pivot or an element of the solution is
+///   NaN or infinite. So a NaN anywhere in the matrix or in b gives no solution. Other elements
+///   count however small they are.
 /// - EMathError, in this order: rsMatrixIsEmpty for a matrix a without rows or columns, or a ragged
 ///   one; rsMatrixSqr if it is not square; with the shape switch off rsMatrixRect if a row is
 ///   shorter than the first; the same for a matrix b, except rsMatrixSqr; rsSameDimensions if b has

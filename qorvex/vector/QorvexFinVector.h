@@ -41,6 +41,7 @@ using QorvexVector::MinMaxVector;
 using QorvexVector::MinVector;
 using QorvexVector::QSortVector;
 using QorvexVector::ReverseVector;
+using QorvexVector::SortedVector;
 using QorvexVector::SubtractFromVector;
 using QorvexVector::SubtractVectors;
 using QorvexVector::SumVector;

@@ -1,6 +1,7 @@
 // Where vectors of amounts differ from vectors of integers.
 
 #include <array>
+#include <span>
 #include <tuple>
 
 #include "qorvex/vector/QorvexFinVector.h"
@@ -132,9 +133,9 @@ TEST(CurrencyVectors, ConvertElementByElement) {
   const TQorCurrencyVector amounts{Currency(12'500), Currency(-70'000)};
   const TQorLongCurrVector millionths{QorLongCurrency(1'250'000), QorLongCurrency(-7'000'000)};
   EXPECT_EQ(Vector2QorCurrVector(floats), cents);
-  EXPECT_EQ(Vector2QorCurrVector(amounts), cents);
+  EXPECT_EQ(Vector2QorCurrVector(std::span(amounts)), cents);
   EXPECT_EQ(Vector2QorCurrVector(millionths), cents);
-  EXPECT_EQ(Vector2QorCurrencyVector(floats), amounts);
+  EXPECT_EQ(Vector2QorCurrencyVector(std::vector{1.25L, -7.0L}), amounts);
   EXPECT_EQ(Vector2QorCurrencyVector(cents), amounts);
   EXPECT_EQ(Vector2QorCurrencyVector(millionths), amounts);
   EXPECT_EQ(Vector2QorLongCurrVector(floats), millionths);
