@@ -123,6 +123,10 @@ struct EditorFixture : testing::Test {
     QTest::keyClick(window->windowHandle(), key, modifiers);
   }
   void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+  void Enter(const char* text) {
+    Type(text);
+    Press(Qt::Key_Return);
+  }
 
   std::string Texts() const {
     QStringList texts;
@@ -161,6 +165,7 @@ struct EditorFixture : testing::Test {
     On(&Editor::OnCurrRowChange, "current");
     On(&Editor::OnCellEnter, "in");
     On(&Editor::OnCellExit, "out");
+    On(&Editor::OnBlockRefused, "refused");
   }
 };
 
