@@ -2,7 +2,8 @@
 #include <iomanip>
 #include <iostream>
 
-#include "qorvex/base/currency_text.h"
+#include "qorvex/base/currency_arithmetic.h"
+#include "qorvex/base/currency_literals.h"
 #include "qorvex/vector/QorvexFinVector.h"
 
 using namespace qorvex;
@@ -10,32 +11,37 @@ using namespace qorvex;
 int main() {
   constexpr const char* kGoods[] = {"Washers", "Steel sheets", "Hinges"};
   constexpr int kQuantities[] = {137, 3, 7};
-  const TQorCurrencyVector prices = {Str2Currency("0.0347"), Str2Currency("12.495"),
-                                     Str2Currency("3.335")};
+  constexpr QorCurrency kFreight = 9.90_qor_currency;
+  constexpr RoundingMode kCommercial = RoundingMode::kToNearestAway;
+  const TQorCurrencyVector prices = Text2QorCurrencyVector({"0.0347", "12.495", "3.335"});
 
   // A price has four decimals, and so has any multiple of it: nothing is rounded here.
   auto lines = CopyVector(prices);
-  for (std::size_t i = 0; i < lines.size(); ++i) lines[i] *= kQuantities[i];
-  const TQorCurrVector cents = Vector2QorCurrVector(lines);
+  for (std::size_t i = 0; i < lines.size(); ++i)
+    lines[i] = CheckedMultiply(lines[i], kQuantities[i]);
+
+  // The freight is divided in proportion to the lines, without losing a cent.
+  const TQorCurrVector freight = Allocate(kFreight, lines);
+  auto cents = TQorCurrVector::WithLength(lines.size());
   for (std::size_t i = 0; i < lines.size(); ++i) {
+    cents[i] = RoundAmount<QorCurrency>(lines[i], kCommercial);
     std::cout << std::setw(12) << kGoods[i] << std::setw(5) << kQuantities[i] << " x"
               << std::setw(8) << prices[i] << " =" << std::setw(8) << lines[i] << ", rounded"
-              << std::setw(6) << cents[i] << '\n';
+              << std::setw(6) << cents[i] << ", freight" << std::setw(5) << freight[i] << '\n';
   }
 
   // Two ways to compute the total in cents: add rounded lines, or add exact lines and round once.
-  const TQorCurrVector net = {SumVector(cents), Currency2QorCurrency(SumVector(lines))};
-
-  // A quarter of a whole number of cents has at most four decimals, so only the result is rounded.
-  auto exact_tax = Vector2QorCurrencyVector(net);
-  LinearTransformVector(exact_tax, 0.25L, 0);
-  const TQorCurrVector tax = Vector2QorCurrVector(exact_tax);
-  const TQorCurrVector gross = AddVectors(net, tax);
-
+  const QorCurrency totals[] = {CheckedSum(cents),
+                                RoundAmount<QorCurrency>(CheckedSum(lines), kCommercial)};
   constexpr const char* kWays[] = {"Sum of the rounded lines", "Rounded sum of the lines"};
-  for (std::size_t i = 0; i < net.size(); ++i) {
-    std::cout << kWays[i] << ' ' << net[i] << ", tax " << exact_tax[i] << " -> " << tax[i]
-              << ", to pay " << gross[i] << '\n';
+  for (std::size_t i = 0; i < 2; ++i) {
+    const QorCurrency net = totals[i] + kFreight;
+    const QorCurrency tax = MultiplyAmount(net, 25, 100, kCommercial);
+    std::cout << kWays[i] << ' ' << totals[i] << ", with freight " << net << ", 25 % tax " << tax
+              << ", to pay " << net + tax << " in";
+    for (const QorCurrency instalment : Allocate(net + tax, {1, 1, 1}))
+      std::cout << ' ' << instalment;
+    std::cout << '\n';
   }
-  std::cout << "The net totals differ by " << Currency2EStr(net[1] - net[0]) << '\n';
+  std::cout << "The totals differ by " << abs(totals[1] - totals[0]) << '\n';
 }

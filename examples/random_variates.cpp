@@ -5,7 +5,6 @@
 #include <random>
 #include <thread>
 
-#include "qorvex/base/random.h"
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"
 #include "qorvex/stats/QorvexStatistics.h"
@@ -13,46 +12,43 @@
 
 using namespace qorvex;
 
-// A standard engine as a source of uniform values with 64 random bits.
-class OwnSource {
- public:
-  explicit OwnSource(std::uint64_t seed) : engine_(seed) {}
-  Extended operator()() { return std::ldexp(static_cast<Extended>(engine_()), -64); }
-
- private:
-  std::mt19937_64 engine_;
-};
-
 // Counts the months with more than 60 mm of rain. A month has four storms on average. The rain of a
-// storm is a gamma variate with shape 2 and scale 5 mm, and so is the sum of n storms, with shape 2n.
-int WetMonths(int months, std::uint64_t seed) {
-  OwnSource source(seed);
+// storm is a gamma variate with shape 2 and scale 5 mm, and so is the sum of n storms, with shape
+// 2n.
+int WetMonths(int months, RandomStream stream) {
   int wet = 0;
   for (int i = 0; i < months; ++i) {
-    const Extended storms = Random_Poisson(4, source);
-    if (storms > 0 && 5 * Random_Gamma(2 * storms, source) > 60) ++wet;
+    const Extended storms = Random_Poisson(4, stream);
+    if (storms > 0 && 5 * Random_Gamma(2 * storms, stream) > 60) ++wet;
   }
   return wet;
 }
 
 int main() {
-  // The short forms draw from the library's generator. A seed makes the values reproducible.
+  // A stream of your own, from a seed, which makes the values reproducible. Generators of 64 bits
+  // of the standard library serve as well.
+  RandomStream stream(1879);
+  std::mt19937_64 engine(1879);
+  std::cout << Float2Str(Random_Normal(stream)) << ' ' << Float2Str(Random_Normal(engine)) << '\n';
+
+  // The short forms draw from the one generator of the program, the same Mersenne twister.
   SetRandSeed(1879);
-  for (int i = 0; i < 3; ++i) std::cout << Float2Str(Random_Normal()) << '\n';
+  std::cout << Float2Str(Random_Normal()) << '\n';
 
   // Many variates at once.
   auto heights = TQorFloatVector::ForOverwrite(100'000);
-  FillNormal(heights, 178, 7);
+  FillNormal(heights, 178, 7, stream);
   std::cout << "Heights: " << Float2EStr(QorMean(heights), 2) << " +- "
             << Float2EStr(SampleStdDev(heights), 2) << " cm\n";
 
-  // Four threads, each with its own source.
+  // Four threads, each with a substream of its own.
   constexpr int months = 250'000;
+  const RandomStream root(2026);
   std::array<int, 4> wet;
   {
     std::array<std::jthread, 4> threads;
     for (std::size_t i = 0; i < wet.size(); ++i)
-      threads[i] = std::jthread([&wet, i] { wet[i] = WetMonths(months, 100 + i); });
+      threads[i] = std::jthread([&, i] { wet[i] = WetMonths(months, root.Substream(i)); });
   }
   const Extended share = (wet[0] + wet[1] + wet[2] + wet[3]) / (4.0L * months);
   const Extended error = std::sqrt(share * (1 - share) / (4.0L * months));

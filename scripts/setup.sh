@@ -25,6 +25,7 @@ test_packages=(
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # translations, and the plugin of Qt Designer
   libqt6opengl6-dev  # needed by qt6-tools-dev for programs that load forms
   libgtest-dev
+  libeigen3-dev      # the example that shares matrices with Eigen
   libfmt-dev         # tests of formatting amounts
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation
@@ -39,7 +40,7 @@ case $purpose in
     targets=(all)
     ;;
   benchmarks)
-    packages+=("${test_packages[@]}" libbenchmark-dev libeigen3-dev libgsl-dev liblapack-dev r-mathlib)
+    packages+=("${test_packages[@]}" libbenchmark-dev libgsl-dev liblapack-dev r-mathlib)
     targets=(all)
     ;;
   *)

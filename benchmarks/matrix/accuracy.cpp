@@ -27,6 +27,10 @@ void dgetri_(const int* order, double* a, const int* stride, const int* pivots, 
 }
 
 namespace qorvex::benchmarks {
+
+// In solve_accuracy.cpp.
+void PrintSolutions();
+
 namespace {
 
 using Element = std::function<Extended(std::size_t row, std::size_t col)>;
@@ -49,9 +53,8 @@ TQorFloatMatrix MatrixOf(std::size_t order, const Element& element) {
 
 Solution Ours(const TQorFloatMatrix& given) {
   Solution solution;
+  solution.determinant = Determinant(given);
   auto matrix = CopyMatrix(given);
-  solution.determinant = MatrixDeterminant(matrix);
-  matrix = CopyMatrix(given);
   solution.found = MatrixInverse(matrix, solution.inverse);
   return solution;
 }
@@ -331,6 +334,8 @@ int main() {
   PrintHilbert();
   std::puts("\nThe largest element of A A^-1 - I, random matrices\n");
   PrintResiduals();
+  std::puts("\nThe largest relative error of an element of the solution of linear systems\n");
+  PrintSolutions();
   std::puts("\nPercentage of correct ranks, by element type and tolerance\n");
   PrintRanks();
 }

@@ -1,6 +1,7 @@
-// The product and the transpose.
+// The products and the transpose.
 
 #include "qorvex/matrix/QorvexMatrix.h"
+#include "qorvex/vector/building.h"
 #include "support/compare_matrices.h"
 
 namespace qorvex::benchmarks {
@@ -34,6 +35,20 @@ TQorMatrix<T> LoopTranspose(const TQorMatrix<T>& a) {
 }
 
 template <FloatElement T>
+TQorVector<T> LoopMatrixByVector(const TQorMatrix<T>& a, const TQorVector<T>& b) {
+  auto product = CopyVector(b);
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    T sum = 0;
+    for (std::size_t k = 0; k < b.size(); ++k) {
+      const Extended term = static_cast<Extended>(a[i][k]) * static_cast<Extended>(b[k]);
+      sum = static_cast<T>(static_cast<Extended>(sum) + term);
+    }
+    product[i] = sum;
+  }
+  return product;
+}
+
+template <FloatElement T>
 void RegisterType() {
   using Matrix = TQorMatrix<T>;
   const auto orders = {64UL, 256UL, 512UL};
@@ -41,6 +56,12 @@ void RegisterType() {
                      [](const Matrix& m) { return MultiplyMatrices(m, m); });
   CompareMatrices<T>("MultiplyMatrices", "loops", orders, 3, OurMatrix<T>,
                      [](const Matrix& m) { return LoopProduct(m, m); });
+  CompareMatrices<T>("MultiplyMatrixByVector", "ours", orders, 2, OurMatrix<T>,
+                     [](const Matrix& m) { return MultiplyMatrixByVector(m, m[0]); });
+  CompareMatrices<T>("MultiplyMatrixByVector", "loops", orders, 2, OurMatrix<T>,
+                     [](const Matrix& m) { return LoopMatrixByVector(m, m[0]); });
+  CompareMatrices<T>("MultiplyVectorByMatrix", "ours", orders, 2, OurMatrix<T>,
+                     [](const Matrix& m) { return MultiplyVectorByMatrix(m[0], m); });
   CompareMatrices<T>("TransposeMatrix", "ours", orders, 2, OurMatrix<T>,
                      [](const Matrix& m) { return TransposeMatrix(m); });
   CompareMatrices<T>("TransposeMatrix", "loops", orders, 2, OurMatrix<T>,
@@ -51,6 +72,12 @@ void RegisterType() {
 
 void RegisterPeers() {
   const auto orders = {64UL, 256UL, 512UL};
+  using Row = Eigen::Matrix<Extended, 1, Eigen::Dynamic>;
+  CompareMatrices<Extended>(
+      "MultiplyMatrixByVector", "Eigen", orders, 2, EigenMatrix<Extended>,
+      [](const EigenSquare<Extended>& m) -> Row { return (m * m.row(0).transpose()).transpose(); });
+  CompareMatrices<Extended>("MultiplyVectorByMatrix", "Eigen", orders, 2, EigenMatrix<Extended>,
+                            [](const EigenSquare<Extended>& m) -> Row { return m.row(0) * m; });
   CompareMatrices<Extended>(
       "MultiplyMatrices", "Eigen", orders, 3, EigenMatrix<Extended>,
       [](const EigenSquare<Extended>& m) -> EigenSquare<Extended> { return m * m; });

@@ -1,4 +1,5 @@
-// The inverse and the determinant. The peers do not change their argument, so ours work on a copy.
+// The inverse, the determinant, and solutions of linear systems with one right-hand side or with as
+// many as the order.
 
 #include <Eigen/LU>
 #include <cmath>
@@ -81,20 +82,31 @@ template <FloatElement T>
 void RegisterType() {
   using Matrix = TQorMatrix<T>;
   const auto orders = {5UL, 12UL, 50UL, 100UL, 200UL, 400UL};
-  CompareMatrices<T>("MatrixInverse", "ours", orders, 3, OurMatrix<T>, [](const Matrix& m) {
-    auto copy = CopyMatrix(m);
-    Matrix inverse;
-    static_cast<void>(MatrixInverse(copy, inverse));
-    return inverse;
-  });
+  CompareMatrices<T>("MatrixInverse", "ours", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return Inverse(m); });
   CompareMatrices<T>("MatrixInverse", "loops", orders, 3, OurMatrix<T>,
                      [](const Matrix& m) { return Loops<T>(m).Inverse(); });
-  CompareMatrices<T>("MatrixDeterminant", "ours", orders, 3, OurMatrix<T>, [](const Matrix& m) {
-    auto copy = CopyMatrix(m);
-    return MatrixDeterminant(copy);
-  });
+  CompareMatrices<T>("MatrixDeterminant", "ours", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return Determinant(m); });
   CompareMatrices<T>("MatrixDeterminant", "loops", orders, 3, OurMatrix<T>,
                      [](const Matrix& m) { return Loops<T>(m).Determinant(); });
+}
+
+template <FloatElement T>
+void RegisterSolve() {
+  using Matrix = TQorMatrix<T>;
+  const auto orders = {5UL, 12UL, 50UL, 100UL, 200UL, 400UL};
+  CompareMatrices<T>("Solve", "ours", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return Solve(m, m[0]); });
+  CompareMatrices<T>("Solve", "Eigen", orders, 3, EigenMatrix<T>,
+                     [](const EigenSquare<T>& m) -> EigenSquare<T> {
+                       return m.partialPivLu().solve(m.row(0).transpose());
+                     });
+  CompareMatrices<T>("Solve, n right-hand sides", "ours", orders, 3, OurMatrix<T>,
+                     [](const Matrix& m) { return Solve(m, m); });
+  CompareMatrices<T>(
+      "Solve, n right-hand sides", "Eigen", orders, 3, EigenMatrix<T>,
+      [](const EigenSquare<T>& m) -> EigenSquare<T> { return m.partialPivLu().solve(m); });
 }
 
 void RegisterPeers() {
@@ -114,6 +126,8 @@ void RegisterPeers() {
   RegisterType<Extended>();
   RegisterType<double>();
   RegisterType<float>();
+  RegisterSolve<Extended>();
+  RegisterSolve<double>();
   RegisterPeers();
   return true;
 }();

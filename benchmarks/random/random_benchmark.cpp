@@ -37,8 +37,7 @@ class Generator {
 Generator generator;
 
 Extended Uniform() {
-  const auto centred = static_cast<std::int64_t>(generator() ^ std::uint64_t{1} << 63);
-  return static_cast<Extended>(centred) * 0x1p-64L + 0.5L;
+  return UniformValue(generator());
 }
 
 // The generator as a GSL generator.
@@ -70,23 +69,26 @@ void Register(const std::string& variate, const std::string& parameters, const s
   });
 }
 
-// Registers a benchmark of fill(vector) for a thousand variates, and one that calls draw() for each
-// element.
+// Registers a benchmark of work(vector), which fills a thousand elements.
+template <class Work>
+void RegisterWork(const std::string& variate, const std::string& parameters, const std::string& who,
+                  Work work) {
+  const std::string name = variate + "/" + parameters + "/" + who + "/" + std::to_string(kDraws);
+  benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
+    auto variates = TQorFloatVector::ForOverwrite(kDraws);
+    for (auto _ : state) {
+      work(variates);
+      benchmark::ClobberMemory();
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kDraws));
+  });
+}
+
+// Registers benchmarks of fill(vector), and of calling draw() for each element.
 template <class Fill, class Draw>
 void RegisterFill(const std::string& variate, const std::string& parameters, Fill fill, Draw draw) {
-  const auto add = [&](const std::string& who, auto work) {
-    const std::string name = variate + "/" + parameters + "/" + who + "/" + std::to_string(kDraws);
-    benchmark::RegisterBenchmark(name.c_str(), [work](benchmark::State& state) {
-      auto variates = TQorFloatVector::ForOverwrite(kDraws);
-      for (auto _ : state) {
-        work(variates);
-        benchmark::ClobberMemory();
-      }
-      state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(kDraws));
-    });
-  };
-  add("ours", fill);
-  add("single calls", [draw](TQorFloatVector& variates) {
+  RegisterWork(variate, parameters, "ours", fill);
+  RegisterWork(variate, parameters, "single calls", [draw](TQorFloatVector& variates) {
     for (Extended& x : variates) x = draw();
   });
 }
@@ -116,6 +118,17 @@ void RegisterStd(const std::string& variate, const std::string& parameters,
   RegisterFill(
       "FillNormal", "-", [](TQorFloatVector& v) { FillNormal(v, Uniform); },
       [] { return Random_Normal(Uniform); });
+  const auto register_sources = [](const std::string& variate, auto fill) {
+    static RandomStream stream(1);
+    static std::mt19937_64 standard;
+    RegisterWork(variate, "by source", "ours", [fill](TQorFloatVector& v) { fill(v, stream); });
+    RegisterWork(variate, "by source", "std::mt19937_64",
+                 [fill](TQorFloatVector& v) { fill(v, standard); });
+    RegisterWork(variate, "by source", "ClassicRandom",
+                 [fill](TQorFloatVector& v) { fill(v, ClassicRandom); });
+  };
+  register_sources("FillUniform", [](auto& v, auto& source) { FillUniform(v, source); });
+  register_sources("FillNormal", [](auto& v, auto& source) { FillNormal(v, source); });
 
   Register("Random_Exponential", "-", "ours", [] { return Random_Exponential(Uniform); });
   RegisterStd("Random_Exponential", "-", std::exponential_distribution<Extended>());

@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <random>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "qorvex/base/currency_arithmetic.h"
 #include "qorvex/vector/QorvexFinVector.h"
 #include "qorvex/vector/QorvexVector.h"
 #include "support/compare.h"
@@ -87,6 +89,31 @@ void RegisterCurrency(const std::string& type) {
 }
 
 [[maybe_unused]] const bool registered = [] {
+  Register<Currency>("CheckedSum", "Currency", "ours",
+                     [](const TQorCurrencyVector& v) { return CheckedSum(v); });
+  Register<Currency>("CheckedSum", "Currency", "SumVector",
+                     [](const TQorCurrencyVector& v) { return SumVector(v); });
+  Register<Currency>("Allocate", "Currency", "ours", [](TQorCurrencyVector& v) {
+    for (Currency& x : v) x = abs(x);
+    return Allocate(Currency::Units(1'000'000), v);
+  });
+  // Cumulative rounding in doubles: the sum is right, but the parts depend on their order.
+  Register<Currency>("Allocate", "Currency", "doubles", [](TQorCurrencyVector& v) {
+    double total = 0;
+    for (const Currency x : v) total += std::fabs(static_cast<double>(x.stored()));
+    double below = 0;
+    std::int64_t given = 0;
+    for (Currency& x : v) {
+      below += std::fabs(static_cast<double>(x.stored()));
+      const std::int64_t upto = std::llrint(1e10 * (below / total));
+      x = Currency(upto - std::exchange(given, upto));
+    }
+  });
+  Register<Currency>("MultiplyAmount", "Currency", "ours", [](TQorCurrencyVector& v) {
+    for (Currency& x : v) x = MultiplyAmount(x, 119, 100, RoundingMode::kToNearestEven);
+  });
+  Register<Currency>("MultiplyAmount", "Currency", "LinearTransformVector",
+                     [](TQorCurrencyVector& v) { LinearTransformVector(v, 1.19L, 0); });
   RegisterCurrency<QorCurrency>("QorCurrency");
   RegisterCurrency<Currency>("Currency");
   RegisterCurrency<QorLongCurrency>("QorLongCurrency");

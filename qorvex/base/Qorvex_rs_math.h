@@ -15,7 +15,8 @@
 namespace qorvex::inline Qorvex_rs_math {
 
 /// @cond internal
-// Identifier and English text. %1 stands for the text that was rejected.
+// Identifier and English text. %1 stands for the text that was rejected, in rsAtCharacter for
+// another message, and %2 for a position.
 #define QORVEX_MATH_MESSAGES(X)                                                                \
   X(rsVectorIsEmpty, "The vector is empty")                                                    \
   X(rsSameDimensions, "The dimensions must be the same")                                       \
@@ -78,7 +79,11 @@ namespace qorvex::inline Qorvex_rs_math {
   X(rsNotAFraction, "\"%1\" is not a fraction")                                                \
   X(rsAmountOverflow, "The amount is out of range")                                            \
   X(rsInvalidWeight, "The weights must be finite and must not be negative")                    \
-  X(rsWeightsZero, "The weights must not all be zero")
+  X(rsWeightsZero, "The weights must not all be zero")                                         \
+  X(rsNotAnInteger, "\"%1\" is not an integer")                                                \
+  X(rsUnexpectedText, "\"%1\" is unexpected")                                                  \
+  X(rsUnexpectedEnd, "The text ends too early")                                                \
+  X(rsAtCharacter, "%1 (character %2)")
 /// @endcond
 
 /// The identifier of a message.

@@ -40,21 +40,28 @@ concept WideIntegerElement = OneOf<T, std::int64_t, std::uint32_t, std::int32_t>
 template <class T>
 concept NarrowIntegerElement = OneOf<T, std::uint16_t, std::int16_t, std::uint8_t, std::int8_t>;
 
+// The families below list all their types instead of combining smaller families, so that an error
+// message shows one list.
+
 /// The seven integer elements.
 template <class T>
-concept IntegerElement = WideIntegerElement<T> || NarrowIntegerElement<T>;
+concept IntegerElement = OneOf<T, std::int64_t, std::uint32_t, std::int32_t, std::uint16_t,
+                               std::int16_t, std::uint8_t, std::int8_t>;
 
 /// The six numeric elements of at least 32 bits: the floating ones, int64, uint32 and int32.
 template <class T>
-concept WideNumericElement = FloatElement<T> || WideIntegerElement<T>;
+concept WideNumericElement =
+    OneOf<T, Extended, double, float, std::int64_t, std::uint32_t, std::int32_t>;
 
 /// The numeric elements with addition and subtraction: the floating ones, int64 and int32.
 template <class T>
-concept SignedArithmeticElement = FloatElement<T> || OneOf<T, std::int64_t, std::int32_t>;
+concept SignedArithmeticElement = OneOf<T, Extended, double, float, std::int64_t, std::int32_t>;
 
 /// All ten numeric elements.
 template <class T>
-concept NumericElement = FloatElement<T> || IntegerElement<T>;
+concept NumericElement =
+    OneOf<T, Extended, double, float, std::int64_t, std::uint32_t, std::int32_t, std::uint16_t,
+          std::int16_t, std::uint8_t, std::int8_t>;
 
 /// An integer argument. Floating-point arguments, which would be truncated, do not compile. Objects
 /// of classes that convert to an integer need a cast, because only one user-defined conversion is

@@ -1,7 +1,5 @@
 #include "qorvex/base/errors.h"
 
-#include <cstddef>
-
 namespace qorvex {
 
 namespace {
@@ -12,6 +10,12 @@ constexpr bool IsUtf8Continuation(char c) {
   return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
+void Replace(std::string& text, std::string_view placeholder, std::string_view value) {
+  if (const std::size_t at = text.find(placeholder); at != std::string::npos) {
+    text.replace(at, placeholder.size(), value);
+  }
+}
+
 std::string TextWith(MessageId id, std::string_view rejected) {
   std::string shown(rejected);
   if (rejected.size() > kLongestQuotedText) {
@@ -20,10 +24,14 @@ std::string TextWith(MessageId id, std::string_view rejected) {
     shown.replace(end, std::string::npos, "...");
   }
   std::string text = MessageText(id);
-  constexpr std::string_view placeholder = "%1";
-  if (const std::size_t at = text.find(placeholder); at != std::string::npos) {
-    text.replace(at, placeholder.size(), shown);
-  }
+  Replace(text, "%1", shown);
+  return text;
+}
+
+std::string TextAt(std::size_t position, std::string_view message) {
+  std::string text = MessageText(rsAtCharacter);
+  Replace(text, "%2", std::to_string(position));
+  Replace(text, "%1", message);
   return text;
 }
 
@@ -40,6 +48,9 @@ EConvertError::~EConvertError() = default;
 
 EConvertError::EConvertError(MessageId id, std::string_view rejected)
     : Exception(id, TextWith(id, rejected)) {}
+
+EConvertError::EConvertError(MessageId id, std::string_view rejected, std::size_t position)
+    : Exception(id, TextAt(position, TextWith(id, rejected))) {}
 
 void RaiseMathError(MessageId id) {
   throw EMathError(id);

@@ -6,6 +6,7 @@
 /// `Exception` <- `EMathError` <- `EZeroDivide`, `EInvalidOp`, `EOverflow`, and `Exception` <-
 /// `EConvertError` for text that cannot be converted. Running out of memory raises std::bad_alloc.
 
+#include <cstddef>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -75,6 +76,9 @@ class QORVEX_EXPORT EConvertError : public Exception {
  public:
   /// The rejected text replaces %1 in the message; long texts are shortened.
   EConvertError(MessageId id, std::string_view rejected);
+  /// Also gives the position of the rejected text in a longer one: the number of its first
+  /// character, from 1.
+  EConvertError(MessageId id, std::string_view rejected, std::size_t position);
   ~EConvertError() override;
 };
 

@@ -14,9 +14,7 @@ std::mt19937_64& Generator() noexcept {
 }  // namespace
 
 Extended Random() noexcept {
-  // Converting a signed integer and adding 0.5 avoids a branch that half of all values would take.
-  const auto centred = static_cast<std::int64_t>(Generator()() ^ std::uint64_t{1} << 63);
-  return static_cast<Extended>(centred) * 0x1p-64L + 0.5L;
+  return UniformValue(Generator()());
 }
 
 void SetRandSeed(std::uint64_t seed) noexcept {

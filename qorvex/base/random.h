@@ -10,6 +10,13 @@
 
 namespace qorvex::inline QorvexGlobals {
 
+/// The uniform value in [0, 1) that 64 random bits stand for: the integer times 2^-64, exactly.
+[[nodiscard]] constexpr Extended UniformValue(std::uint64_t bits) noexcept {
+  // Converting a signed integer and adding 0.5 avoids a branch that half of all values would take.
+  const auto centred = static_cast<std::int64_t>(bits ^ std::uint64_t{1} << 63);
+  return static_cast<Extended>(centred) * 0x1p-64L + 0.5L;
+}
+
 /// The next uniform value in [0, 1): a 64-bit integer times 2^-64, exact in extended precision.
 ///
 /// - The program has one generator: the 64-bit Mersenne twister MT19937-64 (Matsumoto and Nishimura

@@ -3,24 +3,31 @@
 /// @file
 /// The thirteen vector types and the thirteen matrix types.
 
+#include <iosfwd>
+
 #include "qorvex/base/currency.h"
 #include "qorvex/base/dyn_array.h"
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
 #include "qorvex/base/vector_view.h"
 
 namespace qorvex {
 
 /// All thirteen elements of vectors and matrices.
 template <class T>
-concept AnyElement = NumericElement<T> || CurrencyElement<T>;
+concept AnyElement =
+    OneOf<T, Extended, double, float, std::int64_t, std::uint32_t, std::int32_t, std::uint16_t,
+          std::int16_t, std::uint8_t, std::int8_t, Currency, QorCurrency, QorLongCurrency>;
 
 /// The elements of at least 32 bits: six numeric ones and the currencies.
 template <class T>
-concept WideElement = WideNumericElement<T> || CurrencyElement<T>;
+concept WideElement = OneOf<T, Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
+                            Currency, QorCurrency, QorLongCurrency>;
 
 /// The elements with addition and subtraction: the floating ones, int64, int32 and the currencies.
 template <class T>
-concept AdditiveElement = SignedArithmeticElement<T> || CurrencyElement<T>;
+concept AdditiveElement = OneOf<T, Extended, double, float, std::int64_t, std::int32_t, Currency,
+                                QorCurrency, QorLongCurrency>;
 
 /// A vector: a dynamic array of one element type.
 template <class T>
@@ -62,6 +69,33 @@ using TQorSIntMatrix = TQorMatrix<std::int8_t>;
 using TQorCurrencyMatrix = TQorMatrix<Currency>;
 using TQorCurrMatrix = TQorMatrix<QorCurrency>;
 using TQorLongCurrMatrix = TQorMatrix<QorLongCurrency>;
+/// @}
+
+/// @{
+/// Writes [1, 2.5, -3], or the rows of a matrix one below the other, as vector_text.h describes.
+///
+/// - The text is exact unless std::fixed, std::scientific or a precision other than 6, which is
+/// that
+///   of a new stream, is set. (std::hexfloat counts as not set.)
+/// - Every element has the stream's width and fill. The columns of a matrix are aligned at the
+///   decimal point, or with std::left and std::right at their sides. std::showpos adds plus signs.
+/// - The width becomes 0. Locales and the other settings have no effect.
+template <AnyElement T>
+QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, const TQorVector<T>& vector);
+template <AnyElement T>
+QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, const TQorMatrix<T>& matrix);
+/// @}
+
+/// @{
+/// Lets GoogleTest print what operator<< writes. It would print six digits of each element.
+template <AnyElement T>
+inline void PrintTo(const TQorVector<T>& vector, std::ostream* out) {
+  operator<<(*out, vector);
+}
+template <AnyElement T>
+inline void PrintTo(const TQorMatrix<T>& matrix, std::ostream* out) {
+  operator<<(*out, matrix);
+}
 /// @}
 
 }  // namespace qorvex

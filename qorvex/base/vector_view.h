@@ -12,13 +12,24 @@
 namespace qorvex {
 
 /// A range whose elements are contiguous in memory: a vector, a C array, std::vector, std::array,
-/// std::span or std::initializer_list.
+/// std::span or std::initializer_list. It must be readable through a const reference.
 template <class Range>
-concept ContiguousRange = std::ranges::contiguous_range<Range> && std::ranges::sized_range<Range>;
+concept ContiguousRange =
+    std::ranges::contiguous_range<const Range> && std::ranges::sized_range<const Range>;
 
-/// The element type of a range, without const.
+/// @cond internal
+// A class, because compilers show an alias as the long type that it stands for.
+template <class Range>
+struct RangeElement {};
 template <ContiguousRange Range>
-using ElementOf = std::remove_cv_t<std::ranges::range_value_t<Range>>;
+struct RangeElement<Range> {
+  using Type = std::ranges::range_value_t<const Range>;
+};
+/// @endcond
+
+/// The element type of a contiguous range, without const.
+template <class Range>
+using ElementOf = typename RangeElement<Range>::Type;
 
 /// A read-only view of contiguous elements of type T. It copies nothing, and converts implicitly
 /// from every contiguous range of T and from a list in braces.
@@ -37,7 +48,7 @@ class VectorView : public std::span<const T> {
       : std::span<const T>(values.begin(), values.size()) {}
   /// The elements of the range.
   template <ContiguousRange Range>
-  requires std::same_as<ElementOf<Range>, T>
+  requires std::is_same_v<ElementOf<Range>, T>
   constexpr VectorView(const Range& range)
       : std::span<const T>(std::ranges::data(range), std::ranges::size(range)) {}
 };

@@ -15,8 +15,10 @@
 #include "qorvex/matrix/access.h"
 #include "qorvex/matrix/arithmetic.h"
 #include "qorvex/matrix/building.h"
+#include "qorvex/matrix/conversion.h"
 #include "qorvex/matrix/currency_building.h"
 #include "qorvex/matrix/currency_shape.h"
+#include "qorvex/matrix/row_major.h"
 #include "qorvex/matrix/row_operations.h"
 #include "qorvex/matrix/shape.h"
 #include "qorvex/matrix/sorting.h"
@@ -35,8 +37,11 @@ using QorvexMatrix::GrandMean;
 using QorvexMatrix::LinearTransformMatrix;
 using QorvexMatrix::MatricesSameDimensions;
 using QorvexMatrix::MatrixDimensions;
+using QorvexMatrix::MatrixFromRowMajor;
+using QorvexMatrix::MatrixFromRows;
 using QorvexMatrix::MatrixIsRectangular;
 using QorvexMatrix::MatrixIsSquare;
+using QorvexMatrix::MatrixToRowMajor;
 using QorvexMatrix::MultiplyMatrixByConst;
 using QorvexMatrix::MultiplyMatrixByConst2;
 using QorvexMatrix::OverwriteMatrixCol;

@@ -2,66 +2,32 @@
 
 #include <algorithm>
 #include <cmath>
-#include <concepts>
 #include <utility>
-#include <vector>
 
+#include "qorvex/matrix/building.h"
 #include "qorvex/matrix/detail/checks.h"
-#include "qorvex/matrix/detail/deferred_rows.h"
-#include "qorvex/matrix/detail/direct_rows.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
-#include "qorvex/vector/building.h"
+#include "qorvex/matrix/detail/with_rows.h"
 
 namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// From this many rows on, deferring additions saves more time than it costs.
-constexpr std::size_t kLeastDeferredRows = 14;
-
-// Gives rows that share a buffer with an earlier row of the matrix their own buffer, because
-// reduced rows differ.
-template <FloatElement T>
-void SeparateRows(TQorMatrix<T>& matrix) {
-  std::vector<TQorVector<T>*> shared;
-  for (TQorVector<T>& row : matrix) {
-    if (row.IsShared()) shared.push_back(&row);
-  }
-  std::ranges::sort(shared, {}, [](TQorVector<T>* row) { return std::pair(row->data(), row); });
-  const T* kept = nullptr;
-  for (TQorVector<T>* const row : shared) {
-    if (row->data() == kept) {
-      *row = CopyVector(*row);
-    } else {
-      kept = row->data();
-    }
-  }
-}
-
-// Calls reduce with the rows of the matrix as DirectRows or DeferredRows, whichever is faster.
-template <FloatElement T, class Reduce>
-auto WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
-  SeparateRows(matrix);
-  if constexpr (std::same_as<T, Extended>) {
-    if (matrix.size() >= kLeastDeferredRows) return reduce(detail::DeferredRows(matrix, cols));
-  }
-  return reduce(detail::DirectRows<T>(matrix, cols));
-}
-
 template <FloatElement T>
 std::size_t ReduceToEchelonForm(TQorMatrix<T>& matrix) {
   const detail::Shape shape = detail::RequireRectangularMatrix(matrix);
   const detail::RectangularCheckPause pause;
-  return WithRows(matrix, shape.cols, [&](auto rows) {
-    return detail::Eliminate(rows, shape.rows, shape.cols, detail::NoObserver());
+  detail::Observer observer;
+  return detail::WithRows(matrix, shape.cols, [&](auto rows) {
+    return detail::Eliminate(rows, shape.rows, shape.cols, observer);
   });
 }
 
 // Repeats the steps on the rows of the inverse.
 template <class Rows>
-class InverseObserver {
+class InverseObserver : public detail::Observer {
  public:
   explicit InverseObserver(Rows& rows) : rows_(rows) {}
   void Swapped(std::size_t row1, std::size_t row2) { rows_.Swap(row1, row2); }
@@ -99,7 +65,7 @@ bool IsFinite(const TQorMatrix<T>& matrix) {
   });
 }
 
-class DeterminantObserver {
+class DeterminantObserver : public detail::Observer {
  public:
   void Swapped(std::size_t, std::size_t) { determinant_ = -determinant_; }
   void Scaled(std::size_t, Extended pivot, Extended /*factor*/) { determinant_ *= pivot; }
@@ -129,7 +95,7 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
-  const bool regular = WithRows(matrix, order, [&]<class Rows>(Rows rows) {
+  const bool regular = detail::WithRows(matrix, order, [&]<class Rows>(Rows rows) {
     Rows result_rows(result, order);
     InverseObserver observer(result_rows);
     const std::size_t rank = detail::Eliminate(rows, order, order, observer);
@@ -147,17 +113,50 @@ Extended MatrixDeterminant(TQorMatrix<T>& matrix) {
   const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
   const detail::RectangularCheckPause pause;
   DeterminantObserver observer;
-  WithRows(matrix, order, [&](auto rows) { detail::Eliminate(rows, order, order, observer); });
+  detail::WithRows(matrix, order,
+                   [&](auto rows) { detail::Eliminate(rows, order, order, observer); });
   Extended determinant = observer.Determinant();
   for (std::size_t i = 0; i < order; ++i) determinant *= static_cast<Extended>(matrix[i][i]);
   return determinant;
 }
 
-#define QORVEX_INSTANTIATE(T)                                       \
-  template void RowEchelonForm(TQorMatrix<T>&);                     \
-  template void RowEchelonFormRank(TQorMatrix<T>&, std::uint32_t&); \
-  template bool MatrixInverse(TQorMatrix<T>&, TQorMatrix<T>&);      \
-  template Extended MatrixDeterminant(TQorMatrix<T>&);
+template <FloatElement T>
+std::optional<TQorMatrix<T>> Inverse(const TQorMatrix<T>& matrix) {
+  auto work = CopyMatrix(matrix);
+  if (!MatrixInverse(work, work)) return std::nullopt;
+  return work;
+}
+
+template <FloatElement T>
+Extended Determinant(const TQorMatrix<T>& matrix) {
+  auto work = CopyMatrix(matrix);
+  return MatrixDeterminant(work);
+}
+
+template <FloatElement T>
+std::uint32_t Rank(const TQorMatrix<T>& matrix) {
+  auto work = CopyMatrix(matrix);
+  std::uint32_t rank = 0;
+  RowEchelonFormRank(work, rank);
+  return rank;
+}
+
+template <FloatElement T>
+TQorMatrix<T> RowEchelon(const TQorMatrix<T>& matrix) {
+  auto work = CopyMatrix(matrix);
+  RowEchelonForm(work);
+  return work;
+}
+
+#define QORVEX_INSTANTIATE(T)                                          \
+  template void RowEchelonForm(TQorMatrix<T>&);                        \
+  template void RowEchelonFormRank(TQorMatrix<T>&, std::uint32_t&);    \
+  template bool MatrixInverse(TQorMatrix<T>&, TQorMatrix<T>&);         \
+  template Extended MatrixDeterminant(TQorMatrix<T>&);                 \
+  template std::optional<TQorMatrix<T>> Inverse(const TQorMatrix<T>&); \
+  template Extended Determinant(const TQorMatrix<T>&);                 \
+  template std::uint32_t Rank(const TQorMatrix<T>&);                   \
+  template TQorMatrix<T> RowEchelon(const TQorMatrix<T>&);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -19,6 +19,7 @@
 #include "qorvex/random/negative_binomial.h"
 #include "qorvex/random/normal.h"
 #include "qorvex/random/poisson.h"
+#include "qorvex/random/random_stream.h"
 #include "qorvex/random/student_t.h"
 #include "qorvex/random/uniform_source.h"
 #include "qorvex/random/von_mises.h"

@@ -25,11 +25,14 @@
 
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
+#include <limits>
 #include <memory>
 #include <type_traits>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
+#include "qorvex/base/random.h"
 
 namespace qorvex::inline QorvexRandom {
 
@@ -50,10 +53,25 @@ concept OtherSource =
     !std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
     !(kIsFunction<Callable> && std::convertible_to<Callable, TQorRandomFunc>)&&  //
     std::floating_point<std::remove_cvref_t<std::invoke_result_t<Callable&>>>;
+
+// A generator of random integers, as the distributions of the standard library take.
+template <class Callable>
+concept Generator = std::unsigned_integral<std::invoke_result_t<Callable&>> && requires {
+  std::remove_cvref_t<Callable>::min();
+  std::remove_cvref_t<Callable>::max();
+};
+template <Generator Callable>
+inline constexpr bool kGenerates64Bits =
+    std::remove_cvref_t<Callable>::min() == 0 && std::remove_cvref_t<Callable>::max() ==
+                                                     std::numeric_limits<std::uint64_t>::max();
 /// @endcond
 
-/// A reference to a uniform source: a TQorRandomFunc, or any other callable without arguments that
-/// returns a floating value, such as a lambda around your own engine.
+/// A reference to a uniform source:
+///
+/// - a TQorRandomFunc, or any other callable without arguments that returns a floating value, such
+///   as a lambda;
+/// - or a uniform random bit generator of 64 bits, such as RandomStream or std::mt19937_64, whose
+///   integers times 2^-64 are the uniform values. Generators of other widths do not compile.
 ///
 /// The class is meant for parameters. The callable is not copied and must outlive the reference; a
 /// temporary in the call expression does. A function pointer must not be null. Each draw costs one
@@ -73,12 +91,16 @@ class UniformSource {
         return reinterpret_cast<Function>(target.other_function)();
       };
     } else {
-      target_.object =
-          const_cast<void*>(static_cast<const volatile void*>(std::addressof(callable)));
-      call_ = [](Target target) -> Extended {
-        return (*static_cast<std::remove_reference_t<Callable>*>(target.object))();
-      };
+      target_.object = AddressOf(callable);
+      call_ = [](Target target) -> Extended { return Object<Callable>(target)(); };
     }
+  }
+
+  template <Generator Callable>
+  UniformSource(Callable&& generator) noexcept : target_{.object = AddressOf(generator)} {
+    static_assert(kGenerates64Bits<Callable>,
+                  "a generator needs values of 64 bits, as RandomStream and std::mt19937_64 have");
+    call_ = [](Target target) -> Extended { return UniformValue(Object<Callable>(target)()); };
   }
 
   UniformSource(std::nullptr_t) = delete;
@@ -93,6 +115,15 @@ class UniformSource {
     void (*other_function)();
     void* object;
   };
+
+  template <class Callable>
+  static void* AddressOf(Callable& callable) noexcept {
+    return const_cast<void*>(static_cast<const volatile void*>(std::addressof(callable)));
+  }
+  template <class Callable>
+  static std::remove_reference_t<Callable>& Object(Target target) noexcept {
+    return *static_cast<std::remove_reference_t<Callable>*>(target.object);
+  }
 
   Target target_;
   // Null for a plain function.

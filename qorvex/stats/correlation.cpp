@@ -5,7 +5,7 @@
 
 namespace qorvex::inline QorvexPairStats {
 
-Extended CoeffCorrelation(const TQorFloatVector& x, const TQorFloatVector& y) {
+Extended CoeffCorrelation(VectorView<Extended> x, VectorView<Extended> y) {
   if (x.size() != y.size() || x.size() < 2) return 0;
   const detail::PairSums sums = detail::SumPairs(x, y);
   const Extended divisor = sums.n - 1;
@@ -14,7 +14,7 @@ Extended CoeffCorrelation(const TQorFloatVector& x, const TQorFloatVector& y) {
   return CheckedDivide(sums.DeviationsXY() / divisor, std_dev_x * std_dev_y);
 }
 
-Extended CoeffDetermination(const TQorFloatVector& x, const TQorFloatVector& y) {
+Extended CoeffDetermination(VectorView<Extended> x, VectorView<Extended> y) {
   const Extended correlation = CoeffCorrelation(x, y);
   return correlation * correlation;
 }

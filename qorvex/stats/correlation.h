@@ -25,11 +25,11 @@ namespace qorvex::inline QorvexPairStats {
 ///   elements are inexact, like those of ten times 0.1, rounding errors can remain instead of zero.
 ///   A positive remainder gives a meaningless coefficient, a negative one EInvalidOp. Check that
 ///   the elements differ first.
-[[nodiscard]] QORVEX_EXPORT Extended CoeffCorrelation(const TQorFloatVector& x,
-                                                      const TQorFloatVector& y);
+[[nodiscard]] QORVEX_EXPORT Extended CoeffCorrelation(VectorView<Extended> x,
+                                                      VectorView<Extended> y);
 
 /// The coefficient of determination: the square of CoeffCorrelation, with the same errors.
-[[nodiscard]] QORVEX_EXPORT Extended CoeffDetermination(const TQorFloatVector& x,
-                                                        const TQorFloatVector& y);
+[[nodiscard]] QORVEX_EXPORT Extended CoeffDetermination(VectorView<Extended> x,
+                                                        VectorView<Extended> y);
 
 }  // namespace qorvex::inline QorvexPairStats

@@ -11,7 +11,6 @@
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/stats/shape.h"
 #include "qorvex/vector/aggregates.h"
-#include "qorvex/vector/building.h"
 #include "qorvex/vector/detail/sort_keys.h"
 #include "qorvex/vector/sorting.h"
 
@@ -152,11 +151,8 @@ void DescriptiveStats::UpdateStats() {
     results_ = {};
     return;
   }
-  // The copy is stored only after it has been sorted. If memory runs out, no sorted copy remains,
-  // and the next update starts from the values.
-  TQorFloatVector sorted = CopyVector(values_);
-  QSortVector(sorted, true);
-  sorted_ = std::move(sorted);
+  // If memory runs out, no sorted copy remains, and the next update starts from the values.
+  sorted_ = SortedVector(values_);
   SumUp();
   UpdateFromSums();
 }

@@ -3,6 +3,7 @@
 /// @file
 /// DescriptiveStats: a sample whose statistics are always up to date, and its report.
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -12,6 +13,7 @@
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
+#include "qorvex/vector/building.h"
 
 namespace qorvex {
 
@@ -89,8 +91,13 @@ class QORVEX_EXPORT DescriptiveStats {
   DescriptiveStats& operator=(DescriptiveStats other) noexcept;
   ~DescriptiveStats() = default;
 
+  /// @{
   /// Replaces all values. They are copied unless the argument is the only handle to its buffer.
   void SetValues(TQorFloatVector values);
+  template <ContiguousRange Range>
+  requires std::same_as<ElementOf<Range>, Extended>
+  void SetValues(const Range& values) { SetValues(CopyVector<Extended>(values)); }
+  /// @}
   /// A copy of the values, so that changes to it do not affect the sample.
   [[nodiscard]] TQorFloatVector Values() const;
   /// The number of values, n.

@@ -19,7 +19,7 @@ enum class Divisor { kSample, kPopulation };
 
 // n - 1 or n. Raises an error if the vector has too few elements.
 template <class T>
-Extended CheckedDivisor(const TQorVector<T>& vector, Divisor kind) {
+Extended CheckedDivisor(VectorView<T> vector, Divisor kind) {
   QorvexVector::detail::RequireElements(vector);
   const auto count = static_cast<Extended>(vector.size());
   if (kind == Divisor::kPopulation) return count;
@@ -28,7 +28,7 @@ Extended CheckedDivisor(const TQorVector<T>& vector, Divisor kind) {
 }
 
 template <WideNumericElement T>
-Extended TwoPassVariance(const TQorVector<T>& vector, Divisor kind) {
+Extended TwoPassVariance(VectorView<T> vector, Divisor kind) {
   const Extended divisor = CheckedDivisor(vector, kind);
   // The mean is extended: rounded to a single, it would add its rounding error to the variance.
   return QorvexVector::detail::SumSqDiffFromExtended(vector, QorMean(vector)) / divisor;
@@ -40,7 +40,7 @@ struct VarianceAndMean {
 };
 
 template <WideNumericElement T>
-VarianceAndMean SinglePassVariance(const TQorVector<T>& vector, Divisor kind) {
+VarianceAndMean SinglePassVariance(VectorView<T> vector, Divisor kind) {
   const Extended divisor = CheckedDivisor(vector, kind);
   Extended sum = 0;
   Extended sum_sq = 0;
@@ -64,14 +64,14 @@ VarianceAndMean SinglePassVariance(const TQorVector<T>& vector, Divisor kind) {
 }
 
 template <WideNumericElement T>
-void StoreVariance(const TQorVector<T>& vector, Divisor kind, Extended& variance, Extended& mean) {
+void StoreVariance(VectorView<T> vector, Divisor kind, Extended& variance, Extended& mean) {
   const VarianceAndMean result = SinglePassVariance(vector, kind);
   variance = result.variance;
   mean = result.mean;
 }
 
 template <WideNumericElement T>
-void StoreStdDev(const TQorVector<T>& vector, Divisor kind, Extended& std_dev, Extended& mean) {
+void StoreStdDev(VectorView<T> vector, Divisor kind, Extended& std_dev, Extended& mean) {
   const VarianceAndMean result = SinglePassVariance(vector, kind);
   std_dev = CheckedSqrt(result.variance);
   mean = result.mean;
@@ -80,53 +80,53 @@ void StoreStdDev(const TQorVector<T>& vector, Divisor kind, Extended& std_dev, E
 }  // namespace
 
 template <WideNumericElement T>
-Extended SampleVariance(const TQorVector<T>& vector) {
+Extended SampleVariance(VectorView<T> vector) {
   return TwoPassVariance(vector, Divisor::kSample);
 }
 
 template <WideNumericElement T>
-Extended PopulationVariance(const TQorVector<T>& vector) {
+Extended PopulationVariance(VectorView<T> vector) {
   return TwoPassVariance(vector, Divisor::kPopulation);
 }
 
 template <WideNumericElement T>
-Extended SampleStdDev(const TQorVector<T>& vector) {
+Extended SampleStdDev(VectorView<T> vector) {
   return std::sqrt(SampleVariance(vector));
 }
 
 template <WideNumericElement T>
-Extended PopulationStdDev(const TQorVector<T>& vector) {
+Extended PopulationStdDev(VectorView<T> vector) {
   return std::sqrt(PopulationVariance(vector));
 }
 
 template <WideNumericElement T>
-void SampleVarianceAndMean(const TQorVector<T>& vector, Extended& variance, Extended& mean) {
+void SampleVarianceAndMean(VectorView<T> vector, Extended& variance, Extended& mean) {
   StoreVariance(vector, Divisor::kSample, variance, mean);
 }
 
 template <WideNumericElement T>
-void PopulationVarianceAndMean(const TQorVector<T>& vector, Extended& variance, Extended& mean) {
+void PopulationVarianceAndMean(VectorView<T> vector, Extended& variance, Extended& mean) {
   StoreVariance(vector, Divisor::kPopulation, variance, mean);
 }
 
 template <WideNumericElement T>
-void SampleStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev, Extended& mean) {
+void SampleStdDevAndMean(VectorView<T> vector, Extended& std_dev, Extended& mean) {
   StoreStdDev(vector, Divisor::kSample, std_dev, mean);
 }
 
 template <WideNumericElement T>
-void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev, Extended& mean) {
+void PopulationStdDevAndMean(VectorView<T> vector, Extended& std_dev, Extended& mean) {
   StoreStdDev(vector, Divisor::kPopulation, std_dev, mean);
 }
 
-Extended MeanDeviation(const TQorFloatVector& vector, Extended mean) noexcept {
+Extended MeanDeviation(VectorView<Extended> vector, Extended mean) noexcept {
   if (vector.empty()) return 0;
   Extended sum = 0;
   for (const Extended x : vector) sum += std::fabs(x - mean);
   return sum / static_cast<Extended>(vector.size());
 }
 
-Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean, bool sample) {
+Extended GeometricStdDev(VectorView<Extended> vector, Extended mean, bool sample) {
   const Extended divisor = CheckedDivisor(vector, sample ? Divisor::kSample : Divisor::kPopulation);
   if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
   const Extended ln_mean = CheckedLn(mean);
@@ -138,7 +138,7 @@ Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean, bool samp
   return std::exp(std::sqrt(sum / divisor));
 }
 
-Extended GeometricStdDev(const TQorFloatVector& vector, bool sample) {
+Extended GeometricStdDev(VectorView<Extended> vector, bool sample) {
   return GeometricStdDev(vector, GeometricMean(vector), sample);
 }
 
@@ -161,15 +161,15 @@ void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_de
   Standardise(vector, mean, std_dev, new_mean, new_std_dev);
 }
 
-#define QORVEX_INSTANTIATE(T)                                                          \
-  template Extended SampleVariance(const TQorVector<T>&);                              \
-  template Extended PopulationVariance(const TQorVector<T>&);                          \
-  template Extended SampleStdDev(const TQorVector<T>&);                                \
-  template Extended PopulationStdDev(const TQorVector<T>&);                            \
-  template void SampleVarianceAndMean(const TQorVector<T>&, Extended&, Extended&);     \
-  template void PopulationVarianceAndMean(const TQorVector<T>&, Extended&, Extended&); \
-  template void SampleStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);       \
-  template void PopulationStdDevAndMean(const TQorVector<T>&, Extended&, Extended&);
+#define QORVEX_INSTANTIATE(T)                                                   \
+  template Extended SampleVariance(VectorView<T>);                              \
+  template Extended PopulationVariance(VectorView<T>);                          \
+  template Extended SampleStdDev(VectorView<T>);                                \
+  template Extended PopulationStdDev(VectorView<T>);                            \
+  template void SampleVarianceAndMean(VectorView<T>, Extended&, Extended&);     \
+  template void PopulationVarianceAndMean(VectorView<T>, Extended&, Extended&); \
+  template void SampleStdDevAndMean(VectorView<T>, Extended&, Extended&);       \
+  template void PopulationStdDevAndMean(VectorView<T>, Extended&, Extended&);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -25,17 +25,37 @@ namespace qorvex::inline QorvexStatistics {
 /// - The mean is extended for every element type. Rounded to a single, it would add its own
 ///   rounding error to the variance of singles.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended SampleVariance(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT Extended SampleVariance(VectorView<T> vector);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended SampleVariance(const Range& vector) {
+  return SampleVariance<ElementOf<Range>>(vector);
+}
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended PopulationVariance(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT Extended PopulationVariance(VectorView<T> vector);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended PopulationVariance(const Range& vector) {
+  return PopulationVariance<ElementOf<Range>>(vector);
+}
 /// @}
 
 /// @{
 /// The square root of the two-pass variance, with the same errors.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended SampleStdDev(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT Extended SampleStdDev(VectorView<T> vector);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended SampleStdDev(const Range& vector) {
+  return SampleStdDev<ElementOf<Range>>(vector);
+}
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended PopulationStdDev(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT Extended PopulationStdDev(VectorView<T> vector);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended PopulationStdDev(const Range& vector) {
+  return PopulationStdDev<ElementOf<Range>>(vector);
+}
 /// @}
 
 /// @{
@@ -47,26 +67,43 @@ template <WideNumericElement T>
 ///   their values.
 /// - Elements: the six types of at least 32 bits. For integers both sums are int64 and wrap around.
 template <WideNumericElement T>
-QORVEX_EXPORT void SampleVarianceAndMean(const TQorVector<T>& vector, Extended& variance,
-                                         Extended& mean);
+QORVEX_EXPORT void SampleVarianceAndMean(VectorView<T> vector, Extended& variance, Extended& mean);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+void SampleVarianceAndMean(const Range& vector, Extended& variance, Extended& mean) {
+  SampleVarianceAndMean<ElementOf<Range>>(vector, variance, mean);
+}
 template <WideNumericElement T>
-QORVEX_EXPORT void PopulationVarianceAndMean(const TQorVector<T>& vector, Extended& variance,
+QORVEX_EXPORT void PopulationVarianceAndMean(VectorView<T> vector, Extended& variance,
                                              Extended& mean);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+void PopulationVarianceAndMean(const Range& vector, Extended& variance, Extended& mean) {
+  PopulationVarianceAndMean<ElementOf<Range>>(vector, variance, mean);
+}
 /// @}
 
 /// @{
 /// The square root of the single-pass variance, and the mean, with the same errors. Then EInvalidOp
 /// if rounding or wrapping has made the variance negative.
 template <WideNumericElement T>
-QORVEX_EXPORT void SampleStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev,
-                                       Extended& mean);
+QORVEX_EXPORT void SampleStdDevAndMean(VectorView<T> vector, Extended& std_dev, Extended& mean);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+void SampleStdDevAndMean(const Range& vector, Extended& std_dev, Extended& mean) {
+  SampleStdDevAndMean<ElementOf<Range>>(vector, std_dev, mean);
+}
 template <WideNumericElement T>
-QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended& std_dev,
-                                           Extended& mean);
+QORVEX_EXPORT void PopulationStdDevAndMean(VectorView<T> vector, Extended& std_dev, Extended& mean);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+void PopulationStdDevAndMean(const Range& vector, Extended& std_dev, Extended& mean) {
+  PopulationStdDevAndMean<ElementOf<Range>>(vector, std_dev, mean);
+}
 /// @}
 
 /// The mean of |x - mean| for the given mean; 0 for an empty vector, without an error.
-[[nodiscard]] QORVEX_EXPORT Extended MeanDeviation(const TQorFloatVector& vector,
+[[nodiscard]] QORVEX_EXPORT Extended MeanDeviation(VectorView<Extended> vector,
                                                    Extended mean) noexcept;
 
 /// @{
@@ -78,10 +115,10 @@ QORVEX_EXPORT void PopulationStdDevAndMean(const TQorVector<T>& vector, Extended
 ///   and EZeroDivide for a mean of 0.
 /// - Without a mean: GeometricMean is computed first, so rsVectorNotPos comes before rsVectorG1.
 /// - A mean without the flag does not compile, because it would be taken for the flag.
-[[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean,
+[[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(VectorView<Extended> vector, Extended mean,
                                                      bool sample);
-[[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(const TQorFloatVector& vector, bool sample);
-Extended GeometricStdDev(const TQorFloatVector& vector, Extended mean) = delete;
+[[nodiscard]] QORVEX_EXPORT Extended GeometricStdDev(VectorView<Extended> vector, bool sample);
+Extended GeometricStdDev(VectorView<Extended> vector, Extended mean) = delete;
 /// @}
 
 /// Replaces each element x by ((x - mean) / std_dev) * new_std_dev + new_mean. EMathError, before

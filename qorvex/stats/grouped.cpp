@@ -35,7 +35,7 @@ struct Classes {
 
 // Calls visit(frequency, midpoint) for each class.
 template <class Visit>
-void ForEachClass(const TQorLWordVector& freq, const Classes& classes, Visit visit) {
+void ForEachClass(VectorView<std::uint32_t> freq, const Classes& classes, Visit visit) {
   const Extended half_width = classes.width / 2;
   for (std::size_t i = 0; i < freq.size(); ++i) {
     const auto index = static_cast<Extended>(static_cast<std::int64_t>(i));
@@ -45,7 +45,7 @@ void ForEachClass(const TQorLWordVector& freq, const Classes& classes, Visit vis
 
 // The sum of frequency * value(midpoint).
 template <class Value>
-Extended WeightedSum(const TQorLWordVector& freq, const Classes& classes, Value value) {
+Extended WeightedSum(VectorView<std::uint32_t> freq, const Classes& classes, Value value) {
   Extended sum = 0;
   ForEachClass(freq, classes,
                [&](Extended frequency, Extended midpoint) { sum += frequency * value(midpoint); });
@@ -54,21 +54,21 @@ Extended WeightedSum(const TQorLWordVector& freq, const Classes& classes, Value 
 
 // The sum of power(midpoint - mean), in which every class counts once.
 template <class Power>
-Extended UnweightedSum(const TQorLWordVector& freq, const Classes& classes, Extended mean,
+Extended UnweightedSum(VectorView<std::uint32_t> freq, const Classes& classes, Extended mean,
                        Power power) {
   Extended sum = 0;
   ForEachClass(freq, classes, [&](Extended, Extended midpoint) { sum += power(midpoint - mean); });
   return sum;
 }
 
-Extended Mean(const TQorLWordVector& freq, const Classes& classes, std::int64_t total) {
+Extended Mean(VectorView<std::uint32_t> freq, const Classes& classes, std::int64_t total) {
   if (total == 0) return 0;
   return WeightedSum(freq, classes, [](Extended midpoint) { return midpoint; }) /
          static_cast<Extended>(total);
 }
 
 // The sum of the squared differences from the mean.
-Extended SumOfSquares(const TQorLWordVector& freq, const Classes& classes, std::int64_t total) {
+Extended SumOfSquares(VectorView<std::uint32_t> freq, const Classes& classes, std::int64_t total) {
   const Extended mean = Mean(freq, classes, total);
   return WeightedSum(freq, classes, [mean](Extended midpoint) { return Square(midpoint - mean); });
 }
@@ -76,7 +76,7 @@ Extended SumOfSquares(const TQorLWordVector& freq, const Classes& classes, std::
 // Steps through the cumulative frequencies, which wrap around.
 class Cumulation {
  public:
-  explicit Cumulation(const TQorLWordVector& freq) : freq_(freq) {}
+  explicit Cumulation(VectorView<std::uint32_t> freq) : freq_(freq) {}
 
   // Advances to the first class whose cumulative frequency is at least the target. Returns false if
   // no class reaches it. Targets must not decrease from call to call.
@@ -99,12 +99,12 @@ class Cumulation {
   }
 
  private:
-  const TQorLWordVector& freq_;
+  VectorView<std::uint32_t> freq_;
   std::size_t index_ = 0;
   std::uint32_t before_ = 0;  // the cumulative frequency before the current class
 };
 
-std::int64_t RequireTotal(const TQorLWordVector& freq, std::int64_t least, MessageId message) {
+std::int64_t RequireTotal(VectorView<std::uint32_t> freq, std::int64_t least, MessageId message) {
   const std::int64_t total = SumVector(freq);
   if (total < least) RaiseMathError(message);
   return total;
@@ -112,18 +112,18 @@ std::int64_t RequireTotal(const TQorLWordVector& freq, std::int64_t least, Messa
 
 }  // namespace
 
-Extended GroupedMean(const TQorLWordVector& freq, Extended lower_bound, Extended width) {
+Extended GroupedMean(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width) {
   return Mean(freq, {lower_bound, width}, SumVector(freq));
 }
 
-Extended GroupedMedian(const TQorLWordVector& freq, Extended lower_bound, Extended width) {
+Extended GroupedMedian(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width) {
   const Extended half = static_cast<Extended>(SumVector(freq)) / 2;
   Cumulation cumulation(freq);
   if (!cumulation.Reach(half)) RaiseMathError(rsMedianNotFound);
   return cumulation.Point({lower_bound, width}, half);
 }
 
-bool GroupedMode(const TQorLWordVector& freq, Extended lower_bound, Extended width,
+bool GroupedMode(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
                  Extended& mode) {
   RequireElements(freq);
   const std::size_t last = freq.size() - 1;
@@ -143,7 +143,7 @@ bool GroupedMode(const TQorLWordVector& freq, Extended lower_bound, Extended wid
   return true;
 }
 
-void GroupedQuartiles(const TQorLWordVector& freq, Extended lower_bound, Extended width,
+void GroupedQuartiles(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
                       Extended& q1, Extended& q3) {
   const Classes classes{lower_bound, width};
   const std::int64_t total = SumVector(freq);
@@ -160,7 +160,7 @@ void GroupedQuartiles(const TQorLWordVector& freq, Extended lower_bound, Extende
   q3 = upper;
 }
 
-void GetGroupedDeciles(const TQorLWordVector& freq, Extended lower_bound, Extended width,
+void GetGroupedDeciles(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
                        std::span<Extended, 9> deciles) {
   const Classes classes{lower_bound, width};
   const std::int64_t total = SumVector(freq);
@@ -176,30 +176,31 @@ void GetGroupedDeciles(const TQorLWordVector& freq, Extended lower_bound, Extend
   }
 }
 
-Extended GroupedSampleVariance(const TQorLWordVector& freq, Extended lower_bound, Extended width) {
+Extended GroupedSampleVariance(VectorView<std::uint32_t> freq, Extended lower_bound,
+                               Extended width) {
   const std::int64_t total = SumVector(freq);
   if (total < 2) return 0;
   return SumOfSquares(freq, {lower_bound, width}, total) / static_cast<Extended>(total - 1);
 }
 
-Extended GroupedPopulationVariance(const TQorLWordVector& freq, Extended lower_bound,
+Extended GroupedPopulationVariance(VectorView<std::uint32_t> freq, Extended lower_bound,
                                    Extended width) {
   const std::int64_t total = SumVector(freq);
   if (total == 0) return 0;
   return SumOfSquares(freq, {lower_bound, width}, total) / static_cast<Extended>(total);
 }
 
-Extended GroupedSampleStdDev(const TQorLWordVector& freq, Extended lower_bound, Extended width) {
+Extended GroupedSampleStdDev(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width) {
   return std::sqrt(GroupedSampleVariance(freq, lower_bound, width));
 }
 
-Extended GroupedPopulationStdDev(const TQorLWordVector& freq, Extended lower_bound,
+Extended GroupedPopulationStdDev(VectorView<std::uint32_t> freq, Extended lower_bound,
                                  Extended width) {
   return std::sqrt(GroupedPopulationVariance(freq, lower_bound, width));
 }
 
-void GroupedSums(const TQorLWordVector& freq, Extended lower_bound, Extended width, Extended& sum,
-                 Extended& sum_sq) {
+void GroupedSums(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
+                 Extended& sum, Extended& sum_sq) {
   RequireElements(freq);
   Extended values = 0;
   Extended squares = 0;
@@ -211,7 +212,7 @@ void GroupedSums(const TQorLWordVector& freq, Extended lower_bound, Extended wid
   sum_sq = squares;
 }
 
-Extended GetGroupedMeanDev(const TQorLWordVector& freq, Extended lower_bound, Extended width,
+Extended GetGroupedMeanDev(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
                            Extended mean) {
   const std::int64_t total = SumVector(freq);
   if (total == 0) return 0;
@@ -220,7 +221,7 @@ Extended GetGroupedMeanDev(const TQorLWordVector& freq, Extended lower_bound, Ex
          static_cast<Extended>(total);
 }
 
-Extended GetGroupedSampleSkew(const TQorLWordVector& freq, Extended lower_bound, Extended width,
+Extended GetGroupedSampleSkew(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
                               Extended mean, Extended std_dev) {
   const std::int64_t total = RequireTotal(freq, detail::kMinCountForSkew, rsVectorG2);
   RequireSpread(std_dev);
@@ -228,8 +229,8 @@ Extended GetGroupedSampleSkew(const TQorLWordVector& freq, Extended lower_bound,
          (static_cast<Extended>(total) * Cube(std_dev));
 }
 
-Extended GetGroupedPopulationSkew(const TQorLWordVector& freq, Extended lower_bound, Extended width,
-                                  Extended mean, Extended std_dev) {
+Extended GetGroupedPopulationSkew(VectorView<std::uint32_t> freq, Extended lower_bound,
+                                  Extended width, Extended mean, Extended std_dev) {
   const std::int64_t total = RequireTotal(freq, detail::kMinCountForSkew, rsVectorG2);
   RequireSpread(std_dev);
   const std::int64_t product = WrappingMultiply(total - 1, total - 2);
@@ -237,8 +238,8 @@ Extended GetGroupedPopulationSkew(const TQorLWordVector& freq, Extended lower_bo
          (static_cast<Extended>(product) * Cube(std_dev));
 }
 
-Extended GetGroupedSampleKurtosis(const TQorLWordVector& freq, Extended lower_bound, Extended width,
-                                  Extended mean, Extended std_dev) {
+Extended GetGroupedSampleKurtosis(VectorView<std::uint32_t> freq, Extended lower_bound,
+                                  Extended width, Extended mean, Extended std_dev) {
   const std::int64_t total = RequireTotal(freq, detail::kMinCountForKurtosis, rsVectorG3);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(total);
@@ -252,7 +253,7 @@ Extended GetGroupedSampleKurtosis(const TQorLWordVector& freq, Extended lower_bo
          static_cast<Extended>(three_squares) / static_cast<Extended>(two_factors);
 }
 
-Extended GetGroupedPopulationKurtosis(const TQorLWordVector& freq, Extended lower_bound,
+Extended GetGroupedPopulationKurtosis(VectorView<std::uint32_t> freq, Extended lower_bound,
                                       Extended width, Extended mean, Extended std_dev) {
   const std::int64_t total = RequireTotal(freq, detail::kMinCountForKurtosis, rsVectorG3);
   RequireSpread(std_dev);

@@ -25,12 +25,12 @@
 namespace qorvex::inline QorvexStatistics {
 
 /// The mean; 0 if T = 0.
-[[nodiscard]] QORVEX_EXPORT Extended GroupedMean(const TQorLWordVector& freq, Extended lower_bound,
-                                                 Extended width);
+[[nodiscard]] QORVEX_EXPORT Extended GroupedMean(VectorView<std::uint32_t> freq,
+                                                 Extended lower_bound, Extended width);
 
 /// The median: the point below which half of the values lie. EInvalidOp if T = 0; EMathError
 /// rsMedianNotFound if the cumulative frequencies wrap around before they reach T/2.
-[[nodiscard]] QORVEX_EXPORT Extended GroupedMedian(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GroupedMedian(VectorView<std::uint32_t> freq,
                                                    Extended lower_bound, Extended width);
 
 /// Finds the mode if exactly one class has the largest frequency.
@@ -39,12 +39,12 @@ namespace qorvex::inline QorvexStatistics {
 ///   of the two neighbours. Missing neighbours have the frequency 0.
 /// - False if the largest frequency occurs more than once; `mode` keeps its value.
 /// - EInvalidOp for a single class with frequency 0.
-[[nodiscard]] QORVEX_EXPORT bool GroupedMode(const TQorLWordVector& freq, Extended lower_bound,
+[[nodiscard]] QORVEX_EXPORT bool GroupedMode(VectorView<std::uint32_t> freq, Extended lower_bound,
                                              Extended width, Extended& mode);
 
 /// The quartiles: the points below which a quarter and three quarters of the values lie. The errors
 /// are those of GroupedMedian, with rsQuartilesNotFound instead of rsMedianNotFound.
-QORVEX_EXPORT void GroupedQuartiles(const TQorLWordVector& freq, Extended lower_bound,
+QORVEX_EXPORT void GroupedQuartiles(VectorView<std::uint32_t> freq, Extended lower_bound,
                                     Extended width, Extended& q1, Extended& q3);
 
 /// The nine deciles.
@@ -52,33 +52,33 @@ QORVEX_EXPORT void GroupedQuartiles(const TQorLWordVector& freq, Extended lower_
 /// - Exception: for a decile that lies in the last class, or beyond it because the cumulative
 ///   frequencies wrap around, the result is the number of values before the last class instead.
 /// - T = 0: all deciles are 0.
-QORVEX_EXPORT void GetGroupedDeciles(const TQorLWordVector& freq, Extended lower_bound,
+QORVEX_EXPORT void GetGroupedDeciles(VectorView<std::uint32_t> freq, Extended lower_bound,
                                      Extended width, std::span<Extended, 9> deciles);
 
 /// @{
 /// The variance: the sum of the squared differences from the mean over T - 1, or over T. The sample
 /// form returns 0 if T < 2, the population form if T = 0.
-[[nodiscard]] QORVEX_EXPORT Extended GroupedSampleVariance(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GroupedSampleVariance(VectorView<std::uint32_t> freq,
                                                            Extended lower_bound, Extended width);
-[[nodiscard]] QORVEX_EXPORT Extended GroupedPopulationVariance(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GroupedPopulationVariance(VectorView<std::uint32_t> freq,
                                                                Extended lower_bound,
                                                                Extended width);
 /// @}
 
 /// @{
 /// The square root of the variance.
-[[nodiscard]] QORVEX_EXPORT Extended GroupedSampleStdDev(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GroupedSampleStdDev(VectorView<std::uint32_t> freq,
                                                          Extended lower_bound, Extended width);
-[[nodiscard]] QORVEX_EXPORT Extended GroupedPopulationStdDev(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GroupedPopulationStdDev(VectorView<std::uint32_t> freq,
                                                              Extended lower_bound, Extended width);
 /// @}
 
 /// The sum of the values, and the sum of their squares.
-QORVEX_EXPORT void GroupedSums(const TQorLWordVector& freq, Extended lower_bound, Extended width,
+QORVEX_EXPORT void GroupedSums(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width,
                                Extended& sum, Extended& sum_sq);
 
 /// The mean of |x - mean| for the given mean; 0 if T = 0.
-[[nodiscard]] QORVEX_EXPORT Extended GetGroupedMeanDev(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GetGroupedMeanDev(VectorView<std::uint32_t> freq,
                                                        Extended lower_bound, Extended width,
                                                        Extended mean);
 
@@ -91,10 +91,10 @@ QORVEX_EXPORT void GroupedSums(const TQorLWordVector& freq, Extended lower_bound
 /// - (T-1)(T-2) wraps around in int64.
 /// - EMathError: rsVectorIsEmpty; rsVectorG2 if T < 3; rsStdDev if std_dev is zero within
 ///   QorTolerance.
-[[nodiscard]] QORVEX_EXPORT Extended GetGroupedSampleSkew(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GetGroupedSampleSkew(VectorView<std::uint32_t> freq,
                                                           Extended lower_bound, Extended width,
                                                           Extended mean, Extended std_dev);
-[[nodiscard]] QORVEX_EXPORT Extended GetGroupedPopulationSkew(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GetGroupedPopulationSkew(VectorView<std::uint32_t> freq,
                                                               Extended lower_bound, Extended width,
                                                               Extended mean, Extended std_dev);
 /// @}
@@ -108,10 +108,10 @@ QORVEX_EXPORT void GroupedSums(const TQorLWordVector& freq, Extended lower_bound
 ///   therefore meaningless from T = 26756 on.
 /// - EMathError: rsVectorIsEmpty; rsVectorG3 if T < 4; rsStdDev if std_dev is zero within
 ///   QorTolerance.
-[[nodiscard]] QORVEX_EXPORT Extended GetGroupedSampleKurtosis(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GetGroupedSampleKurtosis(VectorView<std::uint32_t> freq,
                                                               Extended lower_bound, Extended width,
                                                               Extended mean, Extended std_dev);
-[[nodiscard]] QORVEX_EXPORT Extended GetGroupedPopulationKurtosis(const TQorLWordVector& freq,
+[[nodiscard]] QORVEX_EXPORT Extended GetGroupedPopulationKurtosis(VectorView<std::uint32_t> freq,
                                                                   Extended lower_bound,
                                                                   Extended width, Extended mean,
                                                                   Extended std_dev);

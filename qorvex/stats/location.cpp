@@ -9,29 +9,29 @@
 namespace qorvex::inline QorvexStatistics {
 
 template <WideNumericElement T>
-Extended QorMean(const TQorVector<T>& vector) {
+Extended QorMean(VectorView<T> vector) {
   return static_cast<Extended>(SumVector(vector)) / static_cast<Extended>(vector.size());
 }
 
-Extended GeometricMean(const TQorFloatVector& vector) {
+Extended GeometricMean(VectorView<Extended> vector) {
   if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
   Extended sum = 0;
   for (const Extended x : vector) sum += std::log(x);
   return std::exp(sum / static_cast<Extended>(vector.size()));
 }
 
-Extended HarmonicMean(const TQorFloatVector& vector) {
+Extended HarmonicMean(VectorView<Extended> vector) {
   if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
   Extended sum = 0;
   for (const Extended x : vector) sum += 1 / x;
   return static_cast<Extended>(vector.size()) / sum;
 }
 
-Extended RootMeanSquare(const TQorFloatVector& vector) {
+Extended RootMeanSquare(VectorView<Extended> vector) {
   return std::sqrt(SumSqVector(vector));
 }
 
-#define QORVEX_INSTANTIATE(T) template Extended QorMean(const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T) template Extended QorMean(VectorView<T>);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -16,20 +16,27 @@
 
 namespace qorvex::inline QorvexStatistics {
 
+/// @{
 /// The arithmetic mean, SumVector(vector) / n. For the six element types of at least 32 bits.
 /// Integers are summed in int64, which wraps around silently.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended QorMean(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT Extended QorMean(VectorView<T> vector);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended QorMean(const Range& vector) {
+  return QorMean<ElementOf<Range>>(vector);
+}
+/// @}
 
 /// The geometric mean, exp(sum of ln x / n). EMathError: rsVectorIsEmpty; then rsVectorNotPos
 /// unless every element exceeds QorTolerance.
-[[nodiscard]] QORVEX_EXPORT Extended GeometricMean(const TQorFloatVector& vector);
+[[nodiscard]] QORVEX_EXPORT Extended GeometricMean(VectorView<Extended> vector);
 
 /// The harmonic mean, n / sum of 1/x. EMathError: rsVectorIsEmpty; then rsVectorNotPos unless every
 /// element exceeds QorTolerance.
-[[nodiscard]] QORVEX_EXPORT Extended HarmonicMean(const TQorFloatVector& vector);
+[[nodiscard]] QORVEX_EXPORT Extended HarmonicMean(VectorView<Extended> vector);
 
 /// The square root of the sum of squares. In spite of its name, no mean is taken: (3, 4) gives 5.
-[[nodiscard]] QORVEX_EXPORT Extended RootMeanSquare(const TQorFloatVector& vector);
+[[nodiscard]] QORVEX_EXPORT Extended RootMeanSquare(VectorView<Extended> vector);
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -18,10 +18,10 @@ constexpr Extended kNoMode = -1.1E4932L;
 
 // Calls visit(last element, length) for each run of neighbours that SameFloat finds the same.
 template <class Visit>
-void ForEachRun(const TQorFloatVector& sorted, Visit visit) {
+void ForEachRun(VectorView<Extended> sorted, Visit visit) {
   std::size_t length = 1;
   Extended previous = sorted[0];
-  for (const Extended x : std::span(sorted).subspan(1)) {
+  for (const Extended x : sorted.subspan(1)) {
     if (SameFloat(x, previous)) {
       ++length;
     } else {
@@ -34,7 +34,7 @@ void ForEachRun(const TQorFloatVector& sorted, Visit visit) {
 }
 
 // Interpolates between elements at a one-based position.
-Extended Interpolate(const TQorFloatVector& sorted, Extended exact_position) {
+Extended Interpolate(VectorView<Extended> sorted, Extended exact_position) {
   const auto position = static_cast<float>(exact_position);
   const float whole = std::trunc(position);
   const auto k = static_cast<std::size_t>(whole);
@@ -47,7 +47,7 @@ Extended Interpolate(const TQorFloatVector& sorted, Extended exact_position) {
 }  // namespace
 
 template <WideNumericElement T>
-Extended GetMedian(const TQorVector<T>& sorted) {
+Extended GetMedian(VectorView<T> sorted) {
   RequireElements(sorted);
   const std::size_t middle = sorted.size() / 2;
   if (sorted.size() % 2 == 1) return static_cast<Extended>(sorted[middle]);
@@ -60,7 +60,7 @@ Extended GetMedian(const TQorVector<T>& sorted) {
   }
 }
 
-bool GetMode(const TQorFloatVector& sorted, Extended& mode) {
+bool GetMode(VectorView<Extended> sorted, Extended& mode) {
   RequireElements(sorted);
   if (sorted.size() == 1) {
     mode = sorted[0];
@@ -81,7 +81,7 @@ bool GetMode(const TQorFloatVector& sorted, Extended& mode) {
   return !tie;
 }
 
-TQorFloatVector GetMostFrequent(const TQorFloatVector& sorted) {
+TQorFloatVector GetMostFrequent(VectorView<Extended> sorted) {
   RequireElements(sorted);
   TQorFloatVector result;
   if (sorted.size() == 1) {
@@ -98,14 +98,14 @@ TQorFloatVector GetMostFrequent(const TQorFloatVector& sorted) {
   return result;
 }
 
-void GetQuartiles(const TQorFloatVector& sorted, Extended& q1, Extended& q3) {
+void GetQuartiles(VectorView<Extended> sorted, Extended& q1, Extended& q3) {
   RequireElements(sorted);
   const auto count = static_cast<Extended>(sorted.size());
   q1 = Interpolate(sorted, count / 4 + 0.5L);
   q3 = Interpolate(sorted, 3 * count / 4 + 0.5L);
 }
 
-void GetDeciles(const TQorFloatVector& sorted, std::span<Extended, 9> deciles) {
+void GetDeciles(VectorView<Extended> sorted, std::span<Extended, 9> deciles) {
   RequireElements(sorted);
   const auto count = static_cast<Extended>(sorted.size());
   for (std::size_t i = 1; i <= 9; ++i) {
@@ -113,7 +113,7 @@ void GetDeciles(const TQorFloatVector& sorted, std::span<Extended, 9> deciles) {
   }
 }
 
-#define QORVEX_INSTANTIATE(T) template Extended GetMedian(const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T) template Extended GetMedian(VectorView<T>);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

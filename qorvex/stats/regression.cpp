@@ -12,8 +12,7 @@ namespace qorvex::inline QorvexPairStats {
 
 using QorvexVector::detail::RequireSameLength;
 
-void GetRegressionLine(const TQorFloatVector& x, const TQorFloatVector& y, Extended& a,
-                       Extended& b) {
+void GetRegressionLine(VectorView<Extended> x, VectorView<Extended> y, Extended& a, Extended& b) {
   RequireSameLength(x, y);
   const detail::PairSums sums = detail::SumPairs(x, y);
   const Extended slope = CheckedDivide(sums.DeviationsXY(), sums.DeviationsXX());
@@ -21,8 +20,8 @@ void GetRegressionLine(const TQorFloatVector& x, const TQorFloatVector& y, Exten
   b = slope;
 }
 
-void GetQuadraticCurve(const TQorFloatVector& x, const TQorFloatVector& y, Extended& a0,
-                       Extended& a1, Extended& a2) {
+void GetQuadraticCurve(VectorView<Extended> x, VectorView<Extended> y, Extended& a0, Extended& a1,
+                       Extended& a2) {
   RequireSameLength(x, y);
   const auto n = static_cast<Extended>(x.size());
   // Two loops, because seven sums at once do not fit into the registers.
@@ -52,7 +51,7 @@ void GetQuadraticCurve(const TQorFloatVector& x, const TQorFloatVector& y, Exten
        determinant;
 }
 
-Extended GetSSE(const TQorFloatVector& x, const TQorFloatVector& y, Extended a, Extended b) {
+Extended GetSSE(VectorView<Extended> x, VectorView<Extended> y, Extended a, Extended b) {
   RequireSameLength(x, y);
   Extended sum = 0;
   for (std::size_t i = 0; i < x.size(); ++i) {

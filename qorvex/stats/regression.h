@@ -28,8 +28,8 @@ namespace qorvex::inline QorvexPairStats {
 /// - All x equal: EZeroDivide or EInvalidOp. If the sums of such x are inexact, like those of ten
 ///   times 0.1, rounding errors can remain instead of zero. Then no error is raised, and the line
 ///   is meaningless. Check that the x differ first.
-QORVEX_EXPORT void GetRegressionLine(const TQorFloatVector& x, const TQorFloatVector& y,
-                                     Extended& a, Extended& b);
+QORVEX_EXPORT void GetRegressionLine(VectorView<Extended> x, VectorView<Extended> y, Extended& a,
+                                     Extended& b);
 
 /// The least-squares parabola y = a0 + a1 x + a2 x^2, from the normal equations by Cramer's rule.
 ///
@@ -44,11 +44,11 @@ QORVEX_EXPORT void GetRegressionLine(const TQorFloatVector& x, const TQorFloatVe
 ///   fewer than three different x may go unnoticed. Fit to x - c instead, with a number c near the
 ///   middle of the x. With its coefficients a', those for x are a0' - c (a1' - c a2'), a1' - 2 c
 ///   a2' and a2'.
-QORVEX_EXPORT void GetQuadraticCurve(const TQorFloatVector& x, const TQorFloatVector& y,
-                                     Extended& a0, Extended& a1, Extended& a2);
+QORVEX_EXPORT void GetQuadraticCurve(VectorView<Extended> x, VectorView<Extended> y, Extended& a0,
+                                     Extended& a1, Extended& a2);
 
 /// The sum of ((b x + a) - y)^2; 0 for no pairs.
-[[nodiscard]] QORVEX_EXPORT Extended GetSSE(const TQorFloatVector& x, const TQorFloatVector& y,
+[[nodiscard]] QORVEX_EXPORT Extended GetSSE(VectorView<Extended> x, VectorView<Extended> y,
                                             Extended a, Extended b);
 
 }  // namespace qorvex::inline QorvexPairStats

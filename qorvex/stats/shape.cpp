@@ -15,32 +15,32 @@ using detail::RequireSpread;
 
 namespace {
 
-void RequireForSkew(const TQorFloatVector& vector) {
+void RequireForSkew(VectorView<Extended> vector) {
   QorvexVector::detail::RequireElements(vector);
   if (vector.size() < detail::kMinCountForSkew) RaiseMathError(rsVectorG2);
 }
 
-void RequireForKurtosis(const TQorFloatVector& vector) {
+void RequireForKurtosis(VectorView<Extended> vector) {
   QorvexVector::detail::RequireElements(vector);
   if (vector.size() < detail::kMinCountForKurtosis) RaiseMathError(rsVectorG3);
 }
 
-Extended SumOfCubes(const TQorFloatVector& vector, Extended mean) {
+Extended SumOfCubes(VectorView<Extended> vector, Extended mean) {
   Extended sum = 0;
   for (const Extended x : vector) sum += Cube(x - mean);
   return sum;
 }
 
-Extended SumOfFourthPowers(const TQorFloatVector& vector, Extended mean) {
+Extended SumOfFourthPowers(VectorView<Extended> vector, Extended mean) {
   Extended sum = 0;
   for (const Extended x : vector) sum += FourthPower(x - mean);
   return sum;
 }
 
-using MomentsRoutine = void (*)(const TQorFloatVector&, Extended& std_dev, Extended& mean);
-using ShapeRoutine = Extended (*)(const TQorFloatVector&, Extended mean, Extended std_dev);
+using MomentsRoutine = void (*)(VectorView<Extended>, Extended& std_dev, Extended& mean);
+using ShapeRoutine = Extended (*)(VectorView<Extended>, Extended mean, Extended std_dev);
 
-Extended WithOwnMoments(const TQorFloatVector& vector, MomentsRoutine moments, ShapeRoutine shape) {
+Extended WithOwnMoments(VectorView<Extended> vector, MomentsRoutine moments, ShapeRoutine shape) {
   Extended std_dev = 0;
   Extended mean = 0;
   moments(vector, std_dev, mean);
@@ -49,31 +49,31 @@ Extended WithOwnMoments(const TQorFloatVector& vector, MomentsRoutine moments, S
 
 }  // namespace
 
-Extended GetSampleSkew(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+Extended GetSampleSkew(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForSkew(vector);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(vector.size());
   return n * SumOfCubes(vector, mean) / ((n - 1) * (n - 2) * Cube(std_dev));
 }
 
-Extended GetSampleSkew(const TQorFloatVector& vector) {
+Extended GetSampleSkew(VectorView<Extended> vector) {
   RequireForSkew(vector);
   return WithOwnMoments(vector, SampleStdDevAndMean<Extended>, GetSampleSkew);
 }
 
-Extended GetPopulationSkew(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+Extended GetPopulationSkew(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForSkew(vector);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(vector.size());
   return SumOfCubes(vector, mean) / (n * Cube(std_dev));
 }
 
-Extended GetPopulationSkew(const TQorFloatVector& vector) {
+Extended GetPopulationSkew(VectorView<Extended> vector) {
   RequireForSkew(vector);
   return WithOwnMoments(vector, PopulationStdDevAndMean<Extended>, GetPopulationSkew);
 }
 
-Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+Extended GetSampleKurtosis(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForKurtosis(vector);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(vector.size());
@@ -82,19 +82,19 @@ Extended GetSampleKurtosis(const TQorFloatVector& vector, Extended mean, Extende
          3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3));
 }
 
-Extended GetSampleKurtosis(const TQorFloatVector& vector) {
+Extended GetSampleKurtosis(VectorView<Extended> vector) {
   RequireForKurtosis(vector);
   return WithOwnMoments(vector, SampleStdDevAndMean<Extended>, GetSampleKurtosis);
 }
 
-Extended GetPopulationKurtosis(const TQorFloatVector& vector, Extended mean, Extended std_dev) {
+Extended GetPopulationKurtosis(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForKurtosis(vector);
   RequireSpread(std_dev);
   const auto n = static_cast<Extended>(vector.size());
   return SumOfFourthPowers(vector, mean) / (FourthPower(std_dev) * n) - 3;
 }
 
-Extended GetPopulationKurtosis(const TQorFloatVector& vector) {
+Extended GetPopulationKurtosis(VectorView<Extended> vector) {
   RequireForKurtosis(vector);
   return WithOwnMoments(vector, PopulationStdDevAndMean<Extended>, GetPopulationKurtosis);
 }

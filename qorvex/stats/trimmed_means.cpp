@@ -16,7 +16,7 @@ namespace {
 // The two trimmed means differ in the largest fraction, which gives the median, and in
 // per_tail(count): how many elements are cut from each end for a total of trunc(n * fraction).
 template <WideNumericElement T, class PerTail>
-Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended largest_fraction,
+Extended Trimmed(VectorView<T> sorted, Extended fraction, Extended largest_fraction,
                  PerTail per_tail) {
   if (FloatIsZero(fraction)) return QorMean(sorted);
   if (SameFloat(fraction, largest_fraction)) return GetMedian(sorted);
@@ -36,18 +36,18 @@ Extended Trimmed(const TQorVector<T>& sorted, Extended fraction, Extended larges
 }  // namespace
 
 template <WideNumericElement T>
-Extended TrimmedMean(const TQorVector<T>& sorted, Extended fraction) {
+Extended TrimmedMean(VectorView<T> sorted, Extended fraction) {
   return Trimmed(sorted, fraction, 0.5L, [](std::size_t cut) { return cut; });
 }
 
 template <WideNumericElement T>
-Extended ExcelTrimmedMean(const TQorVector<T>& sorted, Extended fraction) {
+Extended ExcelTrimmedMean(VectorView<T> sorted, Extended fraction) {
   return Trimmed(sorted, fraction, 1.0L, [](std::size_t cut) { return cut / 2; });
 }
 
-#define QORVEX_INSTANTIATE(T)                                    \
-  template Extended TrimmedMean(const TQorVector<T>&, Extended); \
-  template Extended ExcelTrimmedMean(const TQorVector<T>&, Extended);
+#define QORVEX_INSTANTIATE(T)                             \
+  template Extended TrimmedMean(VectorView<T>, Extended); \
+  template Extended ExcelTrimmedMean(VectorView<T>, Extended);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -15,6 +15,7 @@
 
 namespace qorvex::inline QorvexStatistics {
 
+/// @{
 /// The mean without the k = trunc(n * fraction) smallest and the k largest elements: the fraction
 /// is cut from each tail.
 ///
@@ -26,8 +27,15 @@ namespace qorvex::inline QorvexStatistics {
 /// - n = 0: EMathError rsVectorIsEmpty;
 /// - n = 1: the element.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended TrimmedMean(const TQorVector<T>& sorted, Extended fraction);
+[[nodiscard]] QORVEX_EXPORT Extended TrimmedMean(VectorView<T> sorted, Extended fraction);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended TrimmedMean(const Range& vector, Extended fraction) {
+  return TrimmedMean<ElementOf<Range>>(vector, fraction);
+}
+/// @}
 
+/// @{
 /// The mean without k = trunc(n * fraction) div 2 elements at each end: the fraction is cut from
 /// both tails together, and an odd count is rounded down.
 ///
@@ -39,7 +47,12 @@ template <WideNumericElement T>
 /// - n = 0: EMathError rsVectorIsEmpty;
 /// - n = 1: the element.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended ExcelTrimmedMean(const TQorVector<T>& sorted,
-                                                      Extended fraction);
+[[nodiscard]] QORVEX_EXPORT Extended ExcelTrimmedMean(VectorView<T> sorted, Extended fraction);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended ExcelTrimmedMean(const Range& vector, Extended fraction) {
+  return ExcelTrimmedMean<ElementOf<Range>>(vector, fraction);
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexStatistics

@@ -13,9 +13,12 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/vector/aggregates.h"
+#include "qorvex/vector/allocation.h"
 #include "qorvex/vector/arithmetic.h"
 #include "qorvex/vector/building.h"
 #include "qorvex/vector/currency_conversion.h"
+#include "qorvex/vector/currency_sums.h"
+#include "qorvex/vector/currency_text.h"
 #include "qorvex/vector/extremes.h"
 #include "qorvex/vector/ranking.h"
 #include "qorvex/vector/sign_tests.h"
@@ -38,6 +41,7 @@ using QorvexVector::MinMaxVector;
 using QorvexVector::MinVector;
 using QorvexVector::QSortVector;
 using QorvexVector::ReverseVector;
+using QorvexVector::SortedVector;
 using QorvexVector::SubtractFromVector;
 using QorvexVector::SubtractVectors;
 using QorvexVector::SumVector;

@@ -1,7 +1,6 @@
 #include "qorvex/vector/aggregates.h"
 
 #include <cmath>
-#include <span>
 
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
@@ -16,21 +15,21 @@ constexpr auto kSquare = [](Extended x) { return x * x; };
 // Adds term(element) in ascending order. The sum starts with the first term instead of zero, so
 // that the sum of a single negative zero is negative zero.
 template <FloatElement T, class Term>
-Extended SumOfTerms(const TQorVector<T>& vector, Term term) {
+Extended SumOfTerms(VectorView<T> vector, Term term) {
   Extended sum = term(static_cast<Extended>(vector[0]));
-  for (const T x : std::span(vector).subspan(1)) sum += term(static_cast<Extended>(x));
+  for (const T x : vector.subspan(1)) sum += term(static_cast<Extended>(x));
   return sum;
 }
 
 template <IntegerElement T, class Term>
-std::int64_t SumOfTerms(const TQorVector<T>& vector, Term term) {
+std::int64_t SumOfTerms(VectorView<T> vector, Term term) {
   detail::Int64Sum sum;
   for (const T x : vector) sum.Add(term(x));
   return sum.Value();
 }
 
 template <CurrencyElement T>
-T SumOfTerms(const TQorVector<T>& vector, decltype(kItself)) {
+T SumOfTerms(VectorView<T> vector, decltype(kItself)) {
   T sum;
   for (const T x : vector) sum += x;
   return sum;
@@ -39,13 +38,13 @@ T SumOfTerms(const TQorVector<T>& vector, decltype(kItself)) {
 }  // namespace
 
 template <AnyElement T>
-SumOf<T> SumVector(const TQorVector<T>& vector) {
+SumOf<T> SumVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   return SumOfTerms(vector, kItself);
 }
 
 template <NumericElement T>
-SumOf<T> SumSqVector(const TQorVector<T>& vector) {
+SumOf<T> SumSqVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   if constexpr (FloatElement<T>) {
     return SumOfTerms(vector, kSquare);
@@ -55,20 +54,20 @@ SumOf<T> SumSqVector(const TQorVector<T>& vector) {
 }
 
 template <FloatElement T>
-Extended SumSqDiffVector(const TQorVector<T>& vector, ScalarOf<T> mean) {
+Extended SumSqDiffVector(VectorView<T> vector, ScalarOf<T> mean) {
   return detail::SumSqDiffFromExtended(vector, mean);
 }
 
 namespace detail {
 
 template <WideIntegerElement T>
-std::int64_t SumSqDiffFromInteger(const TQorVector<T>& vector, T mean) {
+std::int64_t SumSqDiffFromInteger(VectorView<T> vector, T mean) {
   RequireElements(vector);
   return SumOfTerms(vector, [mean](T x) { return NarrowSquare(WrappingSubtract(x, mean)); });
 }
 
 template <WideNumericElement T>
-Extended SumSqDiffFromExtended(const TQorVector<T>& vector, Extended mean) {
+Extended SumSqDiffFromExtended(VectorView<T> vector, Extended mean) {
   RequireElements(vector);
   Extended sum = 0;
   for (const T x : vector) {
@@ -81,7 +80,7 @@ Extended SumSqDiffFromExtended(const TQorVector<T>& vector, Extended mean) {
 }  // namespace detail
 
 template <WideNumericElement T>
-SumOf<T> SumSqDiffVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
+SumOf<T> SumSqDiffVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   detail::RequireElements(a);
   if constexpr (FloatElement<T>) {
@@ -101,34 +100,33 @@ SumOf<T> SumSqDiffVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
 }
 
 template <NumericElement T>
-Extended VectorMagnitude(const TQorVector<T>& vector) {
+Extended VectorMagnitude(VectorView<T> vector) {
   Extended sum = 0;
   for (const T x : vector) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
   return std::sqrt(sum);
 }
 
-#define QORVEX_INSTANTIATE(T) template SumOf<T> SumVector(const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T) template SumOf<T> SumVector(VectorView<T>);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                          \
-  template SumOf<T> SumSqVector(const TQorVector<T>&); \
-  template Extended VectorMagnitude(const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T)                   \
+  template SumOf<T> SumSqVector(VectorView<T>); \
+  template Extended VectorMagnitude(VectorView<T>);
 QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                                                     \
-  template SumOf<T> SumSqDiffVectors(const TQorVector<T>&, const TQorVector<T>&); \
-  template Extended detail::SumSqDiffFromExtended(const TQorVector<T>&, Extended);
+#define QORVEX_INSTANTIATE(T)                                       \
+  template SumOf<T> SumSqDiffVectors(VectorView<T>, VectorView<T>); \
+  template Extended detail::SumSqDiffFromExtended(VectorView<T>, Extended);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T) template Extended SumSqDiffVector(const TQorVector<T>&, T);
+#define QORVEX_INSTANTIATE(T) template Extended SumSqDiffVector(VectorView<T>, T);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T) \
-  template std::int64_t detail::SumSqDiffFromInteger(const TQorVector<T>&, T);
+#define QORVEX_INSTANTIATE(T) template std::int64_t detail::SumSqDiffFromInteger(VectorView<T>, T);
 QORVEX_FOR_WIDE_INTEGER_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -12,6 +12,7 @@
 
 #include <concepts>
 #include <cstdint>
+#include <initializer_list>
 #include <type_traits>
 
 #include "qorvex/base/export.h"
@@ -19,14 +20,22 @@
 
 namespace qorvex::inline QorvexVector {
 
+/// @{
 /// The sum of the elements: Extended for floating elements, int64 for integers, and an amount of
 /// the same type, whose stored integer wraps around, for currencies.
 ///
 /// - n = 0: EMathError with rsVectorIsEmpty. n = 1: the element.
 /// - For all element types.
 template <AnyElement T>
-[[nodiscard]] QORVEX_EXPORT SumOf<T> SumVector(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT SumOf<T> SumVector(VectorView<T> vector);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] SumOf<ElementOf<Range>> SumVector(const Range& vector) {
+  return SumVector<ElementOf<Range>>(vector);
+}
+/// @}
 
+/// @{
 /// The sum of the squares: Extended for floating elements, int64 for integers.
 ///
 /// - n = 0: EMathError with rsVectorIsEmpty.
@@ -42,37 +51,59 @@ template <AnyElement T>
 /// | int16        | low 16 bits, sign-extended                                                  |
 /// | uint8, int8  | low 16 bits, sign-extended (255 squared adds -511)                          |
 template <NumericElement T>
-[[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqVector(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqVector(VectorView<T> vector);
+template <ContiguousRange Range>
+requires NumericElement<ElementOf<Range>>
+[[nodiscard]] SumOf<ElementOf<Range>> SumSqVector(const Range& vector) {
+  return SumSqVector<ElementOf<Range>>(vector);
+}
+/// @}
 
+/// @{
 /// The sum of (element - mean)^2 in extended precision, for a mean of the element type. n = 0
 /// raises EMathError with rsVectorIsEmpty. For floating elements.
 template <FloatElement T>
-[[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(const TQorVector<T>& vector, ScalarOf<T> mean);
+[[nodiscard]] QORVEX_EXPORT Extended SumSqDiffVector(VectorView<T> vector, ScalarOf<T> mean);
+template <ContiguousRange Range>
+requires FloatElement<ElementOf<Range>>
+[[nodiscard]] Extended SumSqDiffVector(const Range& vector, ScalarOf<ElementOf<Range>> mean) {
+  return SumSqDiffVector<ElementOf<Range>>(vector, mean);
+}
+/// @}
 
 /// @cond internal
 namespace detail {
 template <WideIntegerElement T>
-QORVEX_EXPORT std::int64_t SumSqDiffFromInteger(const TQorVector<T>& vector, T mean);
+QORVEX_EXPORT std::int64_t SumSqDiffFromInteger(VectorView<T> vector, T mean);
 template <WideNumericElement T>
-QORVEX_EXPORT Extended SumSqDiffFromExtended(const TQorVector<T>& vector, Extended mean);
+QORVEX_EXPORT Extended SumSqDiffFromExtended(VectorView<T> vector, Extended mean);
 }  // namespace detail
 /// @endcond
 
-/// The int64 sum of (element - mean)^2 for an integer mean, which is converted to the element type.
-/// The difference wraps around in the element's width and is squared as in SumSqVector. n = 0
-/// raises EMathError with rsVectorIsEmpty. For int64, uint32 and int32.
-template <WideIntegerElement T, std::integral Mean>
-[[nodiscard]] std::int64_t SumSqDiffVector(const TQorVector<T>& vector, Mean mean) {
-  return detail::SumSqDiffFromInteger(vector, static_cast<T>(mean));
+/// @{
+/// The sum of (element - mean)^2 over integers. n = 0 raises EMathError with rsVectorIsEmpty. For
+/// int64, uint32 and int32.
+///
+/// - A floating mean gives the sum in extended precision.
+/// - An integer mean is converted to the element type and gives an int64 sum: the difference wraps
+///   around in the element's width and is squared as in SumSqVector.
+template <WideIntegerElement T, class Mean>
+requires std::is_arithmetic_v<Mean>
+[[nodiscard]] auto SumSqDiffVector(VectorView<T> vector, Mean mean) {
+  if constexpr (std::integral<Mean>) {
+    return detail::SumSqDiffFromInteger(vector, static_cast<T>(mean));
+  } else {
+    return detail::SumSqDiffFromExtended(vector, static_cast<Extended>(mean));
+  }
 }
-
-/// The sum of (element - mean)^2 in extended precision for a floating mean. n = 0 raises EMathError
-/// with rsVectorIsEmpty. For int64, uint32 and int32.
-template <WideIntegerElement T, std::floating_point Mean>
-[[nodiscard]] Extended SumSqDiffVector(const TQorVector<T>& vector, Mean mean) {
-  return detail::SumSqDiffFromExtended(vector, static_cast<Extended>(mean));
+template <ContiguousRange Range, class Mean>
+requires WideIntegerElement<ElementOf<Range>> && std::is_arithmetic_v<Mean>
+[[nodiscard]] auto SumSqDiffVector(const Range& vector, Mean mean) {
+  return SumSqDiffVector<ElementOf<Range>>(vector, mean);
 }
+/// @}
 
+/// @{
 /// The sum of (a[i] - b[i])^2.
 ///
 /// - Extended for floating elements. int64 for integers: of the 64-bit difference the low 32 bits
@@ -80,12 +111,30 @@ template <WideIntegerElement T, std::floating_point Mean>
 /// - EMathError, in this order: rsSameDimensions for different lengths, rsVectorIsEmpty for n = 0.
 /// - For the six numeric element types of at least 32 bits.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqDiffVectors(const TQorVector<T>& a,
-                                                      const TQorVector<T>& b);
+[[nodiscard]] QORVEX_EXPORT SumOf<T> SumSqDiffVectors(VectorView<T> a, VectorView<T> b);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] SumOf<ElementOf<Range>> SumSqDiffVectors(const Range& a,
+                                                       VectorView<ElementOf<Range>> b) {
+  return SumSqDiffVectors<ElementOf<Range>>(a, b);
+}
+template <WideNumericElement T>
+[[nodiscard]] SumOf<T> SumSqDiffVectors(std::initializer_list<std::type_identity_t<T>> a,
+                                        const TQorVector<T>& b) {
+  return SumSqDiffVectors(VectorView<T>(a), VectorView<T>(b));
+}
+/// @}
 
+/// @{
 /// The square root of the sum of the squares, in extended precision; 0 for n = 0. For all numeric
 /// element types.
 template <NumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended VectorMagnitude(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT Extended VectorMagnitude(VectorView<T> vector);
+template <ContiguousRange Range>
+requires NumericElement<ElementOf<Range>>
+[[nodiscard]] Extended VectorMagnitude(const Range& vector) {
+  return VectorMagnitude<ElementOf<Range>>(vector);
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

@@ -14,14 +14,14 @@ namespace {
 
 // Writes operation(a[i], b[i]) to result, which may be a itself.
 template <class T>
-void Combine(const TQorVector<T>& a, const TQorVector<T>& b, T* result, T (*operation)(T, T)) {
+void Combine(VectorView<T> a, VectorView<T> b, T* result, T (*operation)(T, T)) {
   std::transform(a.begin(), a.end(), b.begin(), result, operation);
 }
 
 }  // namespace
 
 template <AdditiveElement T>
-TQorVector<T> AddVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
+TQorVector<T> AddVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   auto result = TQorVector<T>::ForOverwrite(a.size());
   Combine(a, b, result.data(), detail::Sum<T>);
@@ -29,7 +29,7 @@ TQorVector<T> AddVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
 }
 
 template <AdditiveElement T>
-TQorVector<T> SubtractVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
+TQorVector<T> SubtractVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   auto result = TQorVector<T>::ForOverwrite(a.size());
   Combine(a, b, result.data(), detail::Difference<T>);
@@ -37,19 +37,19 @@ TQorVector<T> SubtractVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
 }
 
 template <AdditiveElement T>
-void AddToVector(TQorVector<T>& a, const TQorVector<T>& b) {
+void AddToVector(TQorVector<T>& a, std::type_identity_t<VectorView<T>> b) {
   detail::RequireSameLength(a, b);
-  Combine(a, b, a.data(), detail::Sum<T>);
+  Combine<T>(a, b, a.data(), detail::Sum);
 }
 
 template <AdditiveElement T>
-void SubtractFromVector(TQorVector<T>& a, const TQorVector<T>& b) {
+void SubtractFromVector(TQorVector<T>& a, std::type_identity_t<VectorView<T>> b) {
   detail::RequireSameLength(a, b);
-  Combine(a, b, a.data(), detail::Difference<T>);
+  Combine<T>(a, b, a.data(), detail::Difference);
 }
 
 template <WideNumericElement T>
-SumOf<T> DotProdVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
+SumOf<T> DotProdVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   detail::RequireElements(a);
   if constexpr (FloatElement<T>) {
@@ -66,24 +66,24 @@ SumOf<T> DotProdVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
 }
 
 template <WideNumericElement T>
-Extended AngleBetweenVectors(const TQorVector<T>& a, const TQorVector<T>& b) {
+Extended AngleBetweenVectors(VectorView<T> a, VectorView<T> b) {
   const Extended magnitude_a = VectorMagnitude(a);
   const Extended magnitude_b = VectorMagnitude(b);
   if (magnitude_a == 0 || magnitude_b == 0) RaiseMathError(rsMagZero);
   return QorArcCos(static_cast<Extended>(DotProdVectors(a, b)) / (magnitude_a * magnitude_b));
 }
 
-#define QORVEX_INSTANTIATE(T)                                                         \
-  template TQorVector<T> AddVectors(const TQorVector<T>&, const TQorVector<T>&);      \
-  template TQorVector<T> SubtractVectors(const TQorVector<T>&, const TQorVector<T>&); \
-  template void AddToVector(TQorVector<T>&, const TQorVector<T>&);                    \
-  template void SubtractFromVector(TQorVector<T>&, const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T)                                           \
+  template TQorVector<T> AddVectors(VectorView<T>, VectorView<T>);      \
+  template TQorVector<T> SubtractVectors(VectorView<T>, VectorView<T>); \
+  template void AddToVector(TQorVector<T>&, VectorView<T>);             \
+  template void SubtractFromVector(TQorVector<T>&, VectorView<T>);
 QORVEX_FOR_ADDITIVE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                                                   \
-  template SumOf<T> DotProdVectors(const TQorVector<T>&, const TQorVector<T>&); \
-  template Extended AngleBetweenVectors(const TQorVector<T>&, const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T)                                     \
+  template SumOf<T> DotProdVectors(VectorView<T>, VectorView<T>); \
+  template Extended AngleBetweenVectors(VectorView<T>, VectorView<T>);
 QORVEX_FOR_WIDE_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -6,7 +6,12 @@
 /// - Floating elements are computed in extended precision and rounded to their type when stored.
 /// - NaN and infinities propagate as in IEEE 754 arithmetic.
 /// - Integers and the stored integers of amounts wrap around silently.
-/// - Both arguments may be the same vector. O(n).
+/// - Both arguments may be the same vector. They may be ranges of different kinds, and one of them
+///   may be elements in braces.
+/// - O(n).
+
+#include <initializer_list>
+#include <type_traits>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -17,11 +22,31 @@ namespace qorvex::inline QorvexVector {
 /// A new vector with the elements a[i] + b[i], or a[i] - b[i]; empty for n = 0. Different lengths
 /// raise EMathError with rsSameDimensions. For floating elements, int64, int32 and the currencies.
 template <AdditiveElement T>
-[[nodiscard]] QORVEX_EXPORT TQorVector<T> AddVectors(const TQorVector<T>& a,
-                                                     const TQorVector<T>& b);
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> AddVectors(VectorView<T> a, VectorView<T> b);
+template <ContiguousRange Range>
+requires AdditiveElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<ElementOf<Range>> AddVectors(const Range& a,
+                                                      VectorView<ElementOf<Range>> b) {
+  return AddVectors<ElementOf<Range>>(a, b);
+}
 template <AdditiveElement T>
-[[nodiscard]] QORVEX_EXPORT TQorVector<T> SubtractVectors(const TQorVector<T>& a,
-                                                          const TQorVector<T>& b);
+[[nodiscard]] TQorVector<T> AddVectors(std::initializer_list<std::type_identity_t<T>> a,
+                                       const TQorVector<T>& b) {
+  return AddVectors(VectorView<T>(a), VectorView<T>(b));
+}
+template <AdditiveElement T>
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> SubtractVectors(VectorView<T> a, VectorView<T> b);
+template <ContiguousRange Range>
+requires AdditiveElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<ElementOf<Range>> SubtractVectors(const Range& a,
+                                                           VectorView<ElementOf<Range>> b) {
+  return SubtractVectors<ElementOf<Range>>(a, b);
+}
+template <AdditiveElement T>
+[[nodiscard]] TQorVector<T> SubtractVectors(std::initializer_list<std::type_identity_t<T>> a,
+                                            const TQorVector<T>& b) {
+  return SubtractVectors(VectorView<T>(a), VectorView<T>(b));
+}
 /// @}
 
 /// @{
@@ -29,11 +54,12 @@ template <AdditiveElement T>
 /// buffer. Different lengths raise EMathError with rsSameDimensions. For floating elements, int64,
 /// int32 and the currencies.
 template <AdditiveElement T>
-QORVEX_EXPORT void AddToVector(TQorVector<T>& a, const TQorVector<T>& b);
+QORVEX_EXPORT void AddToVector(TQorVector<T>& a, std::type_identity_t<VectorView<T>> b);
 template <AdditiveElement T>
-QORVEX_EXPORT void SubtractFromVector(TQorVector<T>& a, const TQorVector<T>& b);
+QORVEX_EXPORT void SubtractFromVector(TQorVector<T>& a, std::type_identity_t<VectorView<T>> b);
 /// @}
 
+/// @{
 /// The sum of a[i] * b[i], added in ascending order.
 ///
 /// - Extended for floating elements. int64, wrapping around, for integers: int64 elements are
@@ -42,8 +68,21 @@ QORVEX_EXPORT void SubtractFromVector(TQorVector<T>& a, const TQorVector<T>& b);
 /// - EMathError, in this order: rsSameDimensions for different lengths, rsVectorIsEmpty for n = 0.
 /// - For the six numeric element types of at least 32 bits.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT SumOf<T> DotProdVectors(const TQorVector<T>& a, const TQorVector<T>& b);
+[[nodiscard]] QORVEX_EXPORT SumOf<T> DotProdVectors(VectorView<T> a, VectorView<T> b);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] SumOf<ElementOf<Range>> DotProdVectors(const Range& a,
+                                                     VectorView<ElementOf<Range>> b) {
+  return DotProdVectors<ElementOf<Range>>(a, b);
+}
+template <WideNumericElement T>
+[[nodiscard]] SumOf<T> DotProdVectors(std::initializer_list<std::type_identity_t<T>> a,
+                                      const TQorVector<T>& b) {
+  return DotProdVectors(VectorView<T>(a), VectorView<T>(b));
+}
+/// @}
 
+/// @{
 /// The angle between two vectors in radians, from 0 to pi: QorArcCos(a . b / (|a| |b|)).
 ///
 /// - Integer vectors use the integer result of DotProdVectors, with its narrow products.
@@ -51,7 +90,17 @@ template <WideNumericElement T>
 ///   different lengths.
 /// - For the six numeric element types of at least 32 bits.
 template <WideNumericElement T>
-[[nodiscard]] QORVEX_EXPORT Extended AngleBetweenVectors(const TQorVector<T>& a,
-                                                         const TQorVector<T>& b);
+[[nodiscard]] QORVEX_EXPORT Extended AngleBetweenVectors(VectorView<T> a, VectorView<T> b);
+template <ContiguousRange Range>
+requires WideNumericElement<ElementOf<Range>>
+[[nodiscard]] Extended AngleBetweenVectors(const Range& a, VectorView<ElementOf<Range>> b) {
+  return AngleBetweenVectors<ElementOf<Range>>(a, b);
+}
+template <WideNumericElement T>
+[[nodiscard]] Extended AngleBetweenVectors(std::initializer_list<std::type_identity_t<T>> a,
+                                           const TQorVector<T>& b) {
+  return AngleBetweenVectors(VectorView<T>(a), VectorView<T>(b));
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

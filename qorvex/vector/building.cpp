@@ -40,12 +40,12 @@ void ClearVector(TQorVector<T>& vector) {
 }
 
 template <AnyElement T>
-TQorVector<T> CopyVector(const TQorVector<T>& vector) {
-  return TQorVector<T>(std::span<const T>(vector));
+TQorVector<T> CopyVector(VectorView<T> vector) {
+  return TQorVector<T>(vector);
 }
 
 template <AnyElement T>
-TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
+TQorVector<T> ReverseVector(VectorView<T> vector) {
   auto result = TQorVector<T>::ForOverwrite(vector.size());
   std::reverse_copy(vector.begin(), vector.end(), result.begin());
   return result;
@@ -58,11 +58,11 @@ TQorVector<T> ReverseVector(const TQorVector<T>& vector) {
 QORVEX_FOR_WIDE_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 
-#define QORVEX_INSTANTIATE(T)                              \
-  template void FillVector(TQorVector<T>&, ScalarOf<T>);   \
-  template void ClearVector(TQorVector<T>&);               \
-  template TQorVector<T> CopyVector(const TQorVector<T>&); \
-  template TQorVector<T> ReverseVector(const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T)                            \
+  template void FillVector(TQorVector<T>&, ScalarOf<T>); \
+  template void ClearVector(TQorVector<T>&);             \
+  template TQorVector<T> CopyVector(VectorView<T>);      \
+  template TQorVector<T> ReverseVector(VectorView<T>);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -42,12 +42,26 @@ QORVEX_EXPORT void FillVector(TQorVector<T>& vector, ScalarOf<T> value);
 template <AnyElement T>
 QORVEX_EXPORT void ClearVector(TQorVector<T>& vector);
 
+/// @{
 /// A new vector with the same elements that does not share the buffer. O(n). For all element types.
 template <AnyElement T>
-[[nodiscard]] QORVEX_EXPORT TQorVector<T> CopyVector(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> CopyVector(VectorView<T> vector);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<ElementOf<Range>> CopyVector(const Range& vector) {
+  return CopyVector<ElementOf<Range>>(vector);
+}
+/// @}
 
+/// @{
 /// A new vector with the elements in reverse order. O(n). For all element types.
 template <AnyElement T>
-[[nodiscard]] QORVEX_EXPORT TQorVector<T> ReverseVector(const TQorVector<T>& vector);
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> ReverseVector(VectorView<T> vector);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<ElementOf<Range>> ReverseVector(const Range& vector) {
+  return ReverseVector<ElementOf<Range>>(vector);
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

@@ -1,16 +1,18 @@
 #pragma once
 
 /// @file
-/// Widening conversions of arrays and vectors.
+/// Conversions of arrays and vectors from one numeric element type to another.
 ///
-/// - Every conversion is exact: to Extended from any numeric element, to int64 from any integer, to
-///   int32 from int32 and the 8- and 16-bit integers. Conversions that could round, truncate or
-///   overflow do not exist.
-/// - n = 0 gives an empty result. NaN and infinities are kept. No errors. O(n).
+/// - Exact conversions and narrowing ones have different names, so that a loss is always asked for.
+/// - Every contiguous range of numeric elements can be converted. The result never shares its
+///   buffer.
+/// - n = 0 gives an empty result. O(n).
+/// - Conversions of amounts are those of the unit QorvexFinVector.
 
 #include <concepts>
-#include <ranges>
-#include <span>
+#include <cstdint>
+#include <limits>
+#include <utility>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -20,60 +22,90 @@ namespace qorvex::inline QorvexVector {
 /// @cond internal
 namespace detail {
 
-template <class T>
-concept WidensToFloat = NumericElement<T>;
-template <class T>
-concept WidensToInt64 = IntegerElement<T>;
-template <class T>
-concept WidensToLInt = NarrowIntegerElement<T> || std::same_as<T, std::int32_t>;
-
-// A contiguous range of T, such as a C array, std::array, std::vector or std::span.
-template <class Range>
-concept OpenArray = std::ranges::contiguous_range<Range> && std::ranges::sized_range<Range>;
+template <class To, class From>
+inline constexpr bool kHoldsAll = [] {
+  using ToLimits = std::numeric_limits<To>;
+  using FromLimits = std::numeric_limits<From>;
+  if constexpr (std::integral<To> && std::integral<From>) {
+    return std::in_range<To>(FromLimits::min()) && std::in_range<To>(FromLimits::max());
+  } else {
+    // The exponents of floating types grow with their digits.
+    return !std::integral<To> && ToLimits::digits >= FromLimits::digits;
+  }
+}();
 
 template <class To, class From>
-QORVEX_EXPORT TQorVector<To> Widened(std::span<const From> values);
+QORVEX_EXPORT TQorVector<To> Converted(VectorView<From> values);
 
 }  // namespace detail
 /// @endcond
 
-/// The values of an array as a new float vector.
-template <detail::OpenArray Range>
-requires detail::WidensToFloat<std::ranges::range_value_t<Range>>
+/// Every value of the element type From is a value of the element type To: integers that the range
+/// of To includes or that its mantissa holds, and floating elements of To's precision or less.
+template <class From, class To>
+concept ConvertsExactlyTo =
+    NumericElement<From> && NumericElement<To> && detail::kHoldsAll<To, From>;
+
+/// The same values as elements of type To, for types that hold them all: ConvertVector<Extended>(v)
+/// works for every numeric v. NaN and infinities are kept. No errors.
+template <NumericElement To, ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, To>
+[[nodiscard]] TQorVector<To> ConvertVector(const Range& values) {
+  return detail::Converted<To, ElementOf<Range>>(values);
+}
+
+/// The values rounded to elements of type To: NarrowVector<float>(v),
+/// NarrowVector<std::int32_t>(v).
+///
+/// - Rounds to nearest, ties to even.
+/// - NaN and infinities stay what they are in floating elements.
+/// - EMathError with rsInvalidValue, and no result, if To cannot hold a value: if an integer would
+///   be out of range, a finite floating value would overflow, or NaN would become an integer.
+/// - For all pairs of numeric element types; those of ConvertVector raise nothing.
+template <NumericElement To, ContiguousRange Range>
+requires NumericElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<To> NarrowVector(const Range& values) {
+  return detail::Converted<To, ElementOf<Range>>(values);
+}
+
+/// The values of an array as a new float vector, which is exact.
+template <ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, Extended>
 [[nodiscard]] TQorFloatVector Array2FloatVector(const Range& values) {
-  return detail::Widened<Extended>(std::span<const std::ranges::range_value_t<Range>>(values));
+  return ConvertVector<Extended>(values);
 }
 
-/// The values of an array as a new int64 vector.
-template <detail::OpenArray Range>
-requires detail::WidensToInt64<std::ranges::range_value_t<Range>>
+/// The values of an array of integers as a new int64 vector, which is exact.
+template <ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, std::int64_t>
 [[nodiscard]] TQorInt64Vector Array2Int64Vector(const Range& values) {
-  return detail::Widened<std::int64_t>(std::span<const std::ranges::range_value_t<Range>>(values));
+  return ConvertVector<std::int64_t>(values);
 }
 
-/// The values of an array as a new int32 vector.
-template <detail::OpenArray Range>
-requires detail::WidensToLInt<std::ranges::range_value_t<Range>>
+/// The values of an array of int32 or 8- or 16-bit integers as a new int32 vector, which is exact.
+template <ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, std::int32_t>
 [[nodiscard]] TQorLIntVector Array2LIntVector(const Range& values) {
-  return detail::Widened<std::int32_t>(std::span<const std::ranges::range_value_t<Range>>(values));
+  return ConvertVector<std::int32_t>(values);
 }
 
-/// The elements of a vector as a new float vector, which never shares the buffer.
-template <detail::WidensToFloat T>
+/// The elements of a vector as a new float vector, which is exact.
+template <ConvertsExactlyTo<Extended> T>
 [[nodiscard]] TQorFloatVector Vector2FloatVector(const TQorVector<T>& vector) {
-  return detail::Widened<Extended>(std::span<const T>(vector));
+  return ConvertVector<Extended>(vector);
 }
 
-/// The elements of a vector as a new int64 vector, which never shares the buffer.
-template <detail::WidensToInt64 T>
+/// The elements of a vector of integers as a new int64 vector, which is exact.
+template <ConvertsExactlyTo<std::int64_t> T>
 [[nodiscard]] TQorInt64Vector Vector2Int64Vector(const TQorVector<T>& vector) {
-  return detail::Widened<std::int64_t>(std::span<const T>(vector));
+  return ConvertVector<std::int64_t>(vector);
 }
 
-/// The elements of a vector as a new int32 vector, which never shares the buffer.
-template <detail::WidensToLInt T>
+/// The elements of a vector of int32 or 8- or 16-bit integers as a new int32 vector, which is
+/// exact.
+template <ConvertsExactlyTo<std::int32_t> T>
 [[nodiscard]] TQorLIntVector Vector2LIntVector(const TQorVector<T>& vector) {
-  return detail::Widened<std::int32_t>(std::span<const T>(vector));
+  return ConvertVector<std::int32_t>(vector);
 }
 
 }  // namespace qorvex::inline QorvexVector

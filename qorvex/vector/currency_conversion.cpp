@@ -9,7 +9,7 @@ namespace qorvex::inline QorvexFinVector {
 namespace {
 
 template <class To, class From>
-TQorVector<To> Converted(const TQorVector<From>& vector, To (*convert)(From)) {
+TQorVector<To> Converted(VectorView<From> vector, To (*convert)(From)) {
   auto result = TQorVector<To>::ForOverwrite(vector.size());
   std::transform(vector.begin(), vector.end(), result.begin(), convert);
   return result;
@@ -17,46 +17,46 @@ TQorVector<To> Converted(const TQorVector<From>& vector, To (*convert)(From)) {
 
 }  // namespace
 
-TQorCurrVector Vector2QorCurrVector(const TQorLongCurrVector& vector) {
+TQorCurrVector Vector2QorCurrVector(VectorView<QorLongCurrency> vector) {
   return Converted<QorCurrency>(vector, QorLongCurrency2QorCurrency);
 }
-TQorCurrVector Vector2QorCurrVector(const TQorCurrencyVector& vector) {
+TQorCurrVector Vector2QorCurrVector(VectorView<Currency> vector) {
   return Converted<QorCurrency>(vector, Currency2QorCurrency);
 }
-TQorCurrVector Vector2QorCurrVector(const TQorFloatVector& vector) {
+TQorCurrVector Vector2QorCurrVector(VectorView<Extended> vector) {
   return Converted<QorCurrency>(vector, Float2QorCurrency);
 }
 
-TQorLongCurrVector Vector2QorLongCurrVector(const TQorCurrVector& vector) {
+TQorLongCurrVector Vector2QorLongCurrVector(VectorView<QorCurrency> vector) {
   return Converted<QorLongCurrency>(vector, QorCurrency2QorLongCurrency);
 }
-TQorLongCurrVector Vector2QorLongCurrVector(const TQorCurrencyVector& vector) {
+TQorLongCurrVector Vector2QorLongCurrVector(VectorView<Currency> vector) {
   return Converted<QorLongCurrency>(vector, Currency2QorLongCurrency);
 }
-TQorLongCurrVector Vector2QorLongCurrVector(const TQorFloatVector& vector) {
+TQorLongCurrVector Vector2QorLongCurrVector(VectorView<Extended> vector) {
   return Converted<QorLongCurrency>(vector, Float2QorLongCurrency);
 }
 
-TQorCurrencyVector Vector2QorCurrencyVector(const TQorCurrVector& vector) {
+TQorCurrencyVector Vector2QorCurrencyVector(VectorView<QorCurrency> vector) {
   return Converted<Currency>(vector, QorCurrency2Currency);
 }
-TQorCurrencyVector Vector2QorCurrencyVector(const TQorLongCurrVector& vector) {
+TQorCurrencyVector Vector2QorCurrencyVector(VectorView<QorLongCurrency> vector) {
   return Converted<Currency>(vector, QorLongCurrency2Currency);
 }
-TQorCurrencyVector Vector2QorCurrencyVector(const TQorCurrencyVector& vector) {
+TQorCurrencyVector Vector2QorCurrencyVector(VectorView<Currency> vector) {
   return CopyVector(vector);
 }
-TQorCurrencyVector Vector2QorCurrencyVector(const TQorFloatVector& vector) {
+TQorCurrencyVector Vector2QorCurrencyVector(VectorView<Extended> vector) {
   return Converted<Currency>(vector, Float2Currency);
 }
 
-TQorFloatVector Vector2FloatVector(const TQorCurrVector& vector) {
+TQorFloatVector Vector2FloatVector(VectorView<QorCurrency> vector) {
   return Converted<Extended>(vector, Currency2Float);
 }
-TQorFloatVector Vector2FloatVector(const TQorLongCurrVector& vector) {
+TQorFloatVector Vector2FloatVector(VectorView<QorLongCurrency> vector) {
   return Converted<Extended>(vector, Currency2Float);
 }
-TQorFloatVector Vector2FloatVector(const TQorCurrencyVector& vector) {
+TQorFloatVector Vector2FloatVector(VectorView<Currency> vector) {
   return Converted<Extended>(vector, Currency2Float);
 }
 

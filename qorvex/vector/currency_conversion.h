@@ -15,38 +15,38 @@ namespace qorvex::inline QorvexFinVector {
 
 /// @{
 /// The amounts as QorCurrency, with two decimals.
-[[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(const TQorLongCurrVector& vector);
-[[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(const TQorCurrencyVector& vector);
-[[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(const TQorFloatVector& vector);
+[[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(VectorView<QorLongCurrency> vector);
+[[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(VectorView<Currency> vector);
+[[nodiscard]] QORVEX_EXPORT TQorCurrVector Vector2QorCurrVector(VectorView<Extended> vector);
 /// @}
 
 /// @{
 /// The amounts as QorLongCurrency, with six decimals.
 [[nodiscard]] QORVEX_EXPORT TQorLongCurrVector
-Vector2QorLongCurrVector(const TQorCurrVector& vector);
+Vector2QorLongCurrVector(VectorView<QorCurrency> vector);
 [[nodiscard]] QORVEX_EXPORT TQorLongCurrVector
-Vector2QorLongCurrVector(const TQorCurrencyVector& vector);
+Vector2QorLongCurrVector(VectorView<Currency> vector);
 [[nodiscard]] QORVEX_EXPORT TQorLongCurrVector
-Vector2QorLongCurrVector(const TQorFloatVector& vector);
+Vector2QorLongCurrVector(VectorView<Extended> vector);
 /// @}
 
 /// @{
 /// The amounts as Currency, with four decimals. A Currency vector is copied.
 [[nodiscard]] QORVEX_EXPORT TQorCurrencyVector
-Vector2QorCurrencyVector(const TQorCurrVector& vector);
+Vector2QorCurrencyVector(VectorView<QorCurrency> vector);
 [[nodiscard]] QORVEX_EXPORT TQorCurrencyVector
-Vector2QorCurrencyVector(const TQorLongCurrVector& vector);
+Vector2QorCurrencyVector(VectorView<QorLongCurrency> vector);
 [[nodiscard]] QORVEX_EXPORT TQorCurrencyVector
-Vector2QorCurrencyVector(const TQorCurrencyVector& vector);
+Vector2QorCurrencyVector(VectorView<Currency> vector);
 [[nodiscard]] QORVEX_EXPORT TQorCurrencyVector
-Vector2QorCurrencyVector(const TQorFloatVector& vector);
+Vector2QorCurrencyVector(VectorView<Extended> vector);
 /// @}
 
 /// @{
 /// The amounts in units: 1.5 for QorCurrency(150).
-[[nodiscard]] QORVEX_EXPORT TQorFloatVector Vector2FloatVector(const TQorCurrVector& vector);
-[[nodiscard]] QORVEX_EXPORT TQorFloatVector Vector2FloatVector(const TQorLongCurrVector& vector);
-[[nodiscard]] QORVEX_EXPORT TQorFloatVector Vector2FloatVector(const TQorCurrencyVector& vector);
+[[nodiscard]] QORVEX_EXPORT TQorFloatVector Vector2FloatVector(VectorView<QorCurrency> vector);
+[[nodiscard]] QORVEX_EXPORT TQorFloatVector Vector2FloatVector(VectorView<QorLongCurrency> vector);
+[[nodiscard]] QORVEX_EXPORT TQorFloatVector Vector2FloatVector(VectorView<Currency> vector);
 /// @}
 
 }  // namespace qorvex::inline QorvexFinVector

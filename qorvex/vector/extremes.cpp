@@ -5,7 +5,7 @@
 namespace qorvex::inline QorvexVector {
 
 template <AnyElement T>
-T MinVector(const TQorVector<T>& vector) {
+T MinVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   T result = vector[0];
   for (const T& x : vector) result = x < result ? x : result;
@@ -13,7 +13,7 @@ T MinVector(const TQorVector<T>& vector) {
 }
 
 template <AnyElement T>
-T MaxVector(const TQorVector<T>& vector) {
+T MaxVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   T result = vector[0];
   for (const T& x : vector) result = x > result ? x : result;
@@ -21,7 +21,7 @@ T MaxVector(const TQorVector<T>& vector) {
 }
 
 template <AnyElement T>
-void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value, std::uint32_t& min_index,
+void MinMaxVector(VectorView<T> vector, T& min_value, T& max_value, std::uint32_t& min_index,
                   std::uint32_t& max_index, bool& min_unique, bool& max_unique) {
   detail::RequireElements(vector);
   T smallest = vector[0];
@@ -56,11 +56,10 @@ void MinMaxVector(const TQorVector<T>& vector, T& min_value, T& max_value, std::
   max_unique = largest_once;
 }
 
-#define QORVEX_INSTANTIATE(T)                                                                     \
-  template T MinVector(const TQorVector<T>&);                                                     \
-  template T MaxVector(const TQorVector<T>&);                                                     \
-  template void MinMaxVector(const TQorVector<T>&, T&, T&, std::uint32_t&, std::uint32_t&, bool&, \
-                             bool&);
+#define QORVEX_INSTANTIATE(T)          \
+  template T MinVector(VectorView<T>); \
+  template T MaxVector(VectorView<T>); \
+  template void MinMaxVector(VectorView<T>, T&, T&, std::uint32_t&, std::uint32_t&, bool&, bool&);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -55,8 +55,7 @@ FourSums FourWindowSums(const T* first, std::size_t period) {
 }  // namespace
 
 template <FloatElement T>
-TQorVector<T> MovingAverage(const TQorVector<T>& vector, std::uint32_t period,
-                            std::uint32_t offset) {
+TQorVector<T> MovingAverage(VectorView<T> vector, std::uint32_t period, std::uint32_t offset) {
   detail::RequireElements(vector);
   if (period == 0) RaiseMathError(rsValueNotZero);
   auto result = TQorVector<T>::WithLength(vector.size());
@@ -83,7 +82,7 @@ TQorVector<T> MovingAverage(const TQorVector<T>& vector, std::uint32_t period,
 }
 
 #define QORVEX_INSTANTIATE(T) \
-  template TQorVector<T> MovingAverage(const TQorVector<T>&, std::uint32_t, std::uint32_t);
+  template TQorVector<T> MovingAverage(VectorView<T>, std::uint32_t, std::uint32_t);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -10,6 +10,7 @@
 
 namespace qorvex::inline QorvexVector {
 
+/// @{
 /// A new vector of the same length with the mean of each window of `period` elements.
 ///
 /// - The mean is stored at position `offset` within the window: 0 is the first element. An offset
@@ -21,7 +22,14 @@ namespace qorvex::inline QorvexVector {
 /// - EMathError, in this order: rsVectorIsEmpty for n = 0, rsValueNotZero for a period of 0.
 /// - O(n * period). For floating elements.
 template <FloatElement T>
-[[nodiscard]] QORVEX_EXPORT TQorVector<T> MovingAverage(const TQorVector<T>& vector,
-                                                        std::uint32_t period, std::uint32_t offset);
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> MovingAverage(VectorView<T> vector, std::uint32_t period,
+                                                        std::uint32_t offset);
+template <ContiguousRange Range>
+requires FloatElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<ElementOf<Range>> MovingAverage(const Range& vector, std::uint32_t period,
+                                                         std::uint32_t offset) {
+  return MovingAverage<ElementOf<Range>>(vector, period, offset);
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

@@ -4,7 +4,7 @@
 
 namespace qorvex::inline QorvexVector {
 
-Extended QorPolynomial(const TQorFloatVector& coefficients, Extended x) noexcept {
+Extended QorPolynomial(VectorView<Extended> coefficients, Extended x) noexcept {
   if (coefficients.empty()) return 0;
   Extended value = coefficients[0];
   Extended power = 1;

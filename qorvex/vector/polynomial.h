@@ -15,7 +15,7 @@ namespace qorvex::inline QorvexVector {
 ///   Horner's scheme would round differently.
 /// - NaN and infinities propagate as in IEEE 754 arithmetic.
 /// - O(n).
-[[nodiscard]] QORVEX_EXPORT Extended QorPolynomial(const TQorFloatVector& coefficients,
+[[nodiscard]] QORVEX_EXPORT Extended QorPolynomial(VectorView<Extended> coefficients,
                                                    Extended x) noexcept;
 
 }  // namespace qorvex::inline QorvexVector

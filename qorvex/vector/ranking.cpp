@@ -31,7 +31,7 @@ bool IsBefore(T x, T y, bool ascending) {
 // The first position in sorted order of an element that equals the value, found by counting the
 // elements that sort before it.
 template <AnyElement T>
-std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending) {
+std::int32_t RankByCounting(VectorView<T> vector, T value, bool ascending) {
   const T* first_equal = nullptr;
   for (const T& x : vector) {
     if (AreEqual(x, value) && (first_equal == nullptr || IsBefore(x, *first_equal, ascending)))
@@ -46,7 +46,7 @@ std::int32_t RankByCounting(const TQorVector<T>& vector, T value, bool ascending
 // Ranks all elements in one pass over their sorted order. Elements that equal a given one are
 // contiguous, and the first of them never moves back from one element to the next.
 template <AnyElement T>
-void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& ranks) {
+void RankBySorting(VectorView<T> vector, bool ascending, TQorLIntVector& ranks) {
   const detail::SortedIndices<T> sorted(vector.size(), ascending,
                                         [&](std::size_t i) -> const T& { return vector[i]; });
   std::size_t first_equal = 0;
@@ -61,7 +61,7 @@ void RankBySorting(const TQorVector<T>& vector, bool ascending, TQorLIntVector& 
 }  // namespace
 
 template <AnyElement T>
-TQorLIntVector Vector2RankVector(const TQorVector<T>& vector, bool ascending) {
+TQorLIntVector Vector2RankVector(VectorView<T> vector, bool ascending) {
   auto ranks = TQorLIntVector::WithLength(vector.size());
   if (!FloatElement<T> || !(QorTolerance >= kContiguityLimit)) {
     RankBySorting(vector, ascending, ranks);
@@ -73,20 +73,20 @@ TQorLIntVector Vector2RankVector(const TQorVector<T>& vector, bool ascending) {
 }
 
 template <AnyElement T>
-std::int32_t Vector2Rank(const TQorVector<T>& vector, std::uint32_t index, bool ascending) {
+std::int32_t Vector2Rank(VectorView<T> vector, std::uint32_t index, bool ascending) {
   if (index >= vector.size()) return kNoRank;
   return RankByCounting(vector, vector[index], ascending);
 }
 
 template <AnyElement T>
-std::int32_t Vector2RankValue(const TQorVector<T>& vector, ScalarOf<T> value, bool ascending) {
+std::int32_t Vector2RankValue(VectorView<T> vector, ScalarOf<T> value, bool ascending) {
   return RankByCounting<T>(vector, value, ascending);
 }
 
-#define QORVEX_INSTANTIATE(T)                                                   \
-  template TQorLIntVector Vector2RankVector(const TQorVector<T>&, bool);        \
-  template std::int32_t Vector2Rank(const TQorVector<T>&, std::uint32_t, bool); \
-  template std::int32_t Vector2RankValue(const TQorVector<T>&, ScalarOf<T>, bool);
+#define QORVEX_INSTANTIATE(T)                                            \
+  template TQorLIntVector Vector2RankVector(VectorView<T>, bool);        \
+  template std::int32_t Vector2Rank(VectorView<T>, std::uint32_t, bool); \
+  template std::int32_t Vector2RankValue(VectorView<T>, ScalarOf<T>, bool);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

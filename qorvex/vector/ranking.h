@@ -17,23 +17,44 @@
 
 namespace qorvex::inline QorvexVector {
 
+/// @{
 /// The rank of every element; 0 for NaN. n = 0 gives an empty result.
 ///
 /// Costs a sort and 32 bytes of memory per element. For floating elements O(n^2) if QorTolerance is
 /// 0.5 or more, because the elements that equal a value may then not be contiguous.
 template <AnyElement T>
-[[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(const TQorVector<T>& vector,
-                                                             bool ascending);
+[[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(VectorView<T> vector, bool ascending);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] TQorLIntVector Vector2RankVector(const Range& vector, bool ascending) {
+  return Vector2RankVector<ElementOf<Range>>(vector, ascending);
+}
+/// @}
 
+/// @{
 /// The rank of the element at the index; -1 if the index is out of range or the element is NaN.
 /// O(n), without a copy.
 template <AnyElement T>
-[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2Rank(const TQorVector<T>& vector,
-                                                     std::uint32_t index, bool ascending);
+[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2Rank(VectorView<T> vector, std::uint32_t index,
+                                                     bool ascending);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] std::int32_t Vector2Rank(const Range& vector, std::uint32_t index, bool ascending) {
+  return Vector2Rank<ElementOf<Range>>(vector, index, ascending);
+}
+/// @}
 
+/// @{
 /// The rank of a value; -1 if no element equals it. O(n), without a copy.
 template <AnyElement T>
-[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(const TQorVector<T>& vector,
-                                                          ScalarOf<T> value, bool ascending);
+[[nodiscard]] QORVEX_EXPORT std::int32_t Vector2RankValue(VectorView<T> vector, ScalarOf<T> value,
+                                                          bool ascending);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] std::int32_t Vector2RankValue(const Range& vector, ScalarOf<ElementOf<Range>> value,
+                                            bool ascending) {
+  return Vector2RankValue<ElementOf<Range>>(vector, value, ascending);
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

@@ -50,34 +50,34 @@ struct Sign<QorLongCurrency> : ExactSign<QorLongCurrency> {};
 }  // namespace
 
 template <SignTestElement T>
-bool VectorZero(const TQorVector<T>& vector) {
+bool VectorZero(VectorView<T> vector) {
   detail::RequireElements(vector);
   return std::ranges::all_of(vector, Sign<T>::IsZero);
 }
 
 template <SignTestElement T>
-bool VectorNonZero(const TQorVector<T>& vector) {
+bool VectorNonZero(VectorView<T> vector) {
   detail::RequireElements(vector);
   return std::ranges::none_of(vector, Sign<T>::IsExcludedZero);
 }
 
 template <SignTestElement T>
-bool VectorPositive(const TQorVector<T>& vector) {
+bool VectorPositive(VectorView<T> vector) {
   detail::RequireElements(vector);
   return std::ranges::all_of(vector, Sign<T>::IsPositive);
 }
 
 template <SignTestElement T>
-bool VectorNonNegative(const TQorVector<T>& vector) {
+bool VectorNonNegative(VectorView<T> vector) {
   detail::RequireElements(vector);
   return std::ranges::none_of(vector, Sign<T>::IsNegative);
 }
 
-#define QORVEX_INSTANTIATE(T)                         \
-  template bool VectorZero(const TQorVector<T>&);     \
-  template bool VectorNonZero(const TQorVector<T>&);  \
-  template bool VectorPositive(const TQorVector<T>&); \
-  template bool VectorNonNegative(const TQorVector<T>&);
+#define QORVEX_INSTANTIATE(T)                  \
+  template bool VectorZero(VectorView<T>);     \
+  template bool VectorNonZero(VectorView<T>);  \
+  template bool VectorPositive(VectorView<T>); \
+  template bool VectorNonNegative(VectorView<T>);
 QORVEX_FOR_FLOAT_ELEMENTS(QORVEX_INSTANTIATE)
 QORVEX_INSTANTIATE(std::int64_t)
 QORVEX_FOR_CURRENCY_ELEMENTS(QORVEX_INSTANTIATE)

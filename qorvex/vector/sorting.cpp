@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <new>
 
+#include "qorvex/vector/building.h"
 #include "qorvex/vector/detail/key_sort.h"
 #include "qorvex/vector/detail/sort_keys.h"
 
@@ -42,7 +43,16 @@ void QSortVector(TQorVector<T>& vector, bool ascending) {
   SortInPlace(vector.data(), static_cast<std::size_t>(end - vector.begin()), ascending, sorter);
 }
 
-#define QORVEX_INSTANTIATE(T) template void QSortVector(TQorVector<T>&, bool);
+template <AnyElement T>
+TQorVector<T> SortedVector(VectorView<T> vector, bool ascending) {
+  auto sorted = CopyVector(vector);
+  QSortVector(sorted, ascending);
+  return sorted;
+}
+
+#define QORVEX_INSTANTIATE(T)                      \
+  template void QSortVector(TQorVector<T>&, bool); \
+  template TQorVector<T> SortedVector(VectorView<T>, bool);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

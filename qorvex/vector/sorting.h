@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Sorting vectors in place.
+/// Sorting vectors in place, and sorted copies.
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -23,5 +23,18 @@ namespace qorvex::inline QorvexVector {
 /// - For all element types.
 template <AnyElement T>
 QORVEX_EXPORT void QSortVector(TQorVector<T>& vector, bool ascending);
+
+/// @{
+/// A new vector with the elements in the order of QSortVector, for routines that expect sorted
+/// elements: GetMedian(SortedVector(data)). n = 0 gives an empty result. For all element types.
+template <AnyElement T>
+[[nodiscard]] QORVEX_EXPORT TQorVector<T> SortedVector(VectorView<T> vector, bool ascending = true);
+template <ContiguousRange Range>
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] TQorVector<ElementOf<Range>> SortedVector(const Range& vector,
+                                                        bool ascending = true) {
+  return SortedVector<ElementOf<Range>>(vector, ascending);
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

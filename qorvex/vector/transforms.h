@@ -14,6 +14,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "qorvex/base/errors.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 
@@ -72,13 +73,30 @@ requires FloatElement<T> || std::same_as<T, std::int64_t> QORVEX_EXPORT void Lin
 template <CurrencyElement T>
 QORVEX_EXPORT void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept);
 
+/// @cond internal
+// A callable other than a plain T(T), which the exported form takes.
+template <class Function, class T>
+concept ElementFunction = std::is_invocable_r_v<T, Function&, T> &&
+    !(std::is_pointer_v<std::decay_t<Function>> && std::is_convertible_v<Function, T (*)(T)>);
+/// @endcond
+
+/// @{
 /// Replaces each element x by func(x), which is called once for each element in ascending order.
 ///
+/// - func is a plain function T(T), or any callable, such as a lambda with captures, that takes a T
+///   and returns a value that converts to T. The callable is called by reference, not copied.
 /// - func must not be null, and must not change the length of the vector.
 /// - Exceptions from func are passed on; the elements before are already replaced then.
 /// - n = 0: EMathError with rsVectorIsEmpty.
 /// - For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func);
+template <FloatElement T, class Function>
+requires ElementFunction<Function, T>
+void TransformVector(TQorVector<T>& vector, Function&& func) {
+  if (vector.empty()) RaiseMathError(rsVectorIsEmpty);
+  for (T& x : vector) x = static_cast<T>(func(x));
+}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

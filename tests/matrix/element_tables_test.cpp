@@ -19,6 +19,8 @@ TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
        TYPES_OF(OverwriteMatrixRow(m, 0, v, x)), TYPES_OF(OverwriteMatrixCol(m, 0, v, x)),
        TYPES_OF(QSortMatrixRowsOnCol(m, 0, true)), TYPES_OF(QSortMatrixColsOnRow(m, 0, true)),
        TYPES_OF(SwapMatrixRows(m, 0, 1)), TYPES_OF(SwapMatrixCols(m, 0, 1))});
+  ExpectTypes("gdfjuiwsbtCSL", {TYPES_OF(MatrixFromRows(m)), TYPES_OF(MatrixFromRowMajor(v, 1)),
+                                TYPES_OF(MatrixToRowMajor(m))});
   ExpectTypes("gdfjiCSL",
               {TYPES_OF(AddMatrices(m, m)), TYPES_OF(AddToMatrix(m, m)),
                TYPES_OF(SubtractMatrices(m, m)), TYPES_OF(SubtractFromMatrix(m, m)),
@@ -32,7 +34,31 @@ TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
               TYPES_OF(Log10Matrix(m)), TYPES_OF(MultiplyMatrices(m, m)),
               TYPES_OF(RowEchelonForm(m)), TYPES_OF(RowEchelonFormRank(m, i)),
               TYPES_OF(MatrixInverse(m, m)), TYPES_OF(MatrixDeterminant(m))});
+  ExpectTypes("gdf",
+              {TYPES_OF(Inverse(m)), TYPES_OF(Determinant(m)), TYPES_OF(Rank(m)),
+               TYPES_OF(RowEchelon(m)), TYPES_OF(Solve(m, v)), TYPES_OF(Solve(m, m)),
+               TYPES_OF(MultiplyMatrixByVector(m, v)), TYPES_OF(MultiplyVectorByMatrix(v, m))});
   ExpectTypes("gdfjuwsbt", {TYPES_OF(SumMatrixRow(m, 0)), TYPES_OF(SumMatrixCol(m, 0))});
+}
+
+template <class To>
+void ExpectExactConversionsFrom(const std::string& types) {
+  ExpectTypes(types, {TYPES_OF(ConvertVector<To>(v)), TYPES_OF(ConvertMatrix<To>(m))});
+  ExpectTypes("gdfjuiwsbt", {TYPES_OF(NarrowVector<To>(v)), TYPES_OF(NarrowMatrix<To>(m))});
+}
+
+TEST(MatrixElementTables, ConversionsThatMayLoseSomethingHaveAnotherName) {
+  ExpectExactConversionsFrom<Extended>("gdfjuiwsbt");
+  ExpectExactConversionsFrom<double>("dfuiwsbt");
+  ExpectExactConversionsFrom<float>("fwsbt");
+  ExpectExactConversionsFrom<std::int64_t>("juiwsbt");
+  ExpectExactConversionsFrom<std::uint32_t>("uwb");
+  ExpectExactConversionsFrom<std::int32_t>("iwsbt");
+  ExpectExactConversionsFrom<std::uint16_t>("wb");
+  ExpectExactConversionsFrom<std::int16_t>("sbt");
+  ExpectExactConversionsFrom<std::uint8_t>("b");
+  ExpectExactConversionsFrom<std::int8_t>("t");
+  EXPECT_EQ(TYPES_OF(Solve(m, TQorFloatVector())), "g") << "b has the type of the matrix";
 }
 
 // Floating-point factors and elements would be truncated.

@@ -1,6 +1,7 @@
 #include "qorvex/matrix/product.h"
 
 #include "qorvex/matrix/transpose.h"
+#include "qorvex/matrix/vector_product.h"
 #include "support/random_matrices.h"
 #include "support/test.h"
 
@@ -33,6 +34,11 @@ TYPED_TEST(Product, IsBitwiseThatOfPlainLoops) {
       });
       ASSERT_TRUE(testing::SameBits(MultiplyMatrices(a, b), expected))
           << name << ' ' << rows << " x " << inner << " x " << cols;
+      const TQorMatrix<T> transpose = TransposeMatrix(b);
+      for (std::size_t i = 0; i < rows; ++i) {
+        ASSERT_TRUE(testing::SameBits(MultiplyVectorByMatrix(a[i], b), expected[i])) << name;
+        ASSERT_TRUE(testing::SameBits(MultiplyMatrixByVector(transpose, a[i]), expected[i]));
+      }
     }
   }
 }

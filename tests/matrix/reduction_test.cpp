@@ -21,7 +21,7 @@ using testing::PlainReduction;
 using testing::SameBits;
 
 // Expects that the reduced matrix, the rank, the inverse and the determinant are bitwise those of
-// the plain loops.
+// the plain loops, in place and by value.
 template <FloatElement T>
 void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
   PlainReduction<T> plain{CopyMatrix(given)};
@@ -31,18 +31,27 @@ void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
   RowEchelonFormRank(matrix, rank);
   EXPECT_TRUE(SameBits(matrix, plain.matrix));
   EXPECT_EQ(rank, plain.rank);
+  EXPECT_TRUE(SameBits(RowEchelon(given), plain.matrix));
+  EXPECT_EQ(Rank(given), plain.rank);
   const std::size_t order = given.size();
   if (order != given[0].size()) return;
 
   matrix = CopyMatrix(given);
   for (std::size_t i = 0; i < order; ++i) plain.determinant *= plain.matrix[i][i];
   EXPECT_TRUE(SameBits(MatrixDeterminant(matrix), plain.determinant));
+  EXPECT_TRUE(SameBits(Determinant(given), plain.determinant));
 
   matrix = CopyMatrix(given);
   TQorMatrix<T> inverse;
-  EXPECT_EQ(MatrixInverse(matrix, inverse), plain.Invert());
+  const bool regular = plain.Invert();
+  EXPECT_EQ(MatrixInverse(matrix, inverse), regular);
   EXPECT_TRUE(SameBits(matrix, plain.matrix));
   EXPECT_TRUE(SameBits(inverse, plain.inverse));
+  const std::optional<TQorMatrix<T>> by_value = Inverse(given);
+  ASSERT_EQ(by_value.has_value(), regular);
+  if (regular) {
+    EXPECT_TRUE(SameBits(*by_value, plain.inverse));
+  }
 }
 
 template <class T>
@@ -109,23 +118,18 @@ TYPED_TEST(ReductionOf, HasTheKnownResultsOfSmallMatrices) {
   };
   for (const auto& [given, echelon, determinant, regular] : cases) {
     SCOPED_TRACE(&given - &cases[0].given);
-    auto matrix = CopyMatrix(given);
-    RowEchelonForm(matrix);
-    EXPECT_TRUE(SameBits(matrix, echelon));
-    matrix = CopyMatrix(given);
-    EXPECT_TRUE(SameBits(MatrixDeterminant(matrix) + 0, determinant)) << "except the sign of 0";
-    matrix = CopyMatrix(given);
-    TQorMatrix<T> inverse;
-    EXPECT_EQ(MatrixInverse(matrix, inverse), regular);
+    const auto before = CopyMatrix(given);
+    EXPECT_TRUE(SameBits(RowEchelon(given), echelon));
+    EXPECT_TRUE(SameBits(Determinant(given) + 0, determinant)) << "except the sign of 0";
+    EXPECT_EQ(Inverse(given).has_value(), regular);
+    EXPECT_TRUE(SameBits(given, before));
   }
 }
 
 TEST(Reduction, FindsNoInverseIfItOverflows) {
   const testing::KeptTolerance kept;
   QorTolerance = 0;
-  TQorSingleMatrix matrix{{1e-20F, 0}, {0, 1e-40F}};
-  TQorSingleMatrix inverse;
-  EXPECT_FALSE(MatrixInverse(matrix, inverse));
+  EXPECT_FALSE(Inverse(TQorSingleMatrix{{1e-20F, 0}, {0, 1e-40F}}));
 }
 
 TEST(Reduction, InvertsIntoTheMatrixItself) {
@@ -179,13 +183,10 @@ TEST(Reduction, HilbertMatricesKeepAsManyDigitsAsTheirConditionAllows) {
     const auto hilbert = MatrixOf<Extended>(
         order, order, [](auto i, auto j) { return 1 / static_cast<Extended>(i + j + 1); });
     const Extended allowed = determinants.Value(row, "cond2") * 0x1p-63L;
-    auto matrix = CopyMatrix(hilbert);
-    const Extended determinant = MatrixDeterminant(matrix);
+    const Extended determinant = Determinant(hilbert);
     EXPECT_LE(std::fabs(determinant / determinants.Value(row, "det") - 1), allowed) << order;
 
-    matrix = CopyMatrix(hilbert);
-    TQorFloatMatrix inverse;
-    EXPECT_TRUE(MatrixInverse(matrix, inverse));
+    const TQorFloatMatrix inverse = Inverse(hilbert).value();
     Extended error = 0;
     Extended largest = 0;
     for (std::size_t i = 0; i < order * order; ++i) {

@@ -80,12 +80,19 @@ TEST(MatrixErrors, ComeInOrderAndLeaveTheMatrix) {
   ExpectErrors({rsMatrixIsEmpty, rsMatrixIsEmpty, kNoError},
                {[](Matrix& m, Index) { std::ignore = MatrixZeroRows(m); },
                 [](Matrix& m, Index) { RowEchelonForm(m); },
-                [](Matrix& m, Index) { RowEchelonFormRank(m, rank); }});
+                [](Matrix& m, Index) { RowEchelonFormRank(m, rank); },
+                [](Matrix& m, Index) { std::ignore = RowEchelon(m); },
+                [](Matrix& m, Index) { std::ignore = Solve(kSquare, m); }});
   EXPECT_EQ(rank, 0U);
   ExpectErrors({rsMatrixIsEmpty, rsMatrixIsEmpty, rsMatrixSqr},
                {[](Matrix& m, Index) { std::ignore = MatrixIsIdentity(m); },
                 [](Matrix& m, Index) { std::ignore = MatrixInverse(m, result); },
-                [](Matrix& m, Index) { std::ignore = MatrixDeterminant(m); }});
+                [](Matrix& m, Index) { std::ignore = MatrixDeterminant(m); },
+                [](Matrix& m, Index) { std::ignore = Inverse(m); },
+                [](Matrix& m, Index) {
+                  std::ignore = Solve(m, {1, 2});
+                },
+                [](Matrix& m, Index) { std::ignore = Solve(m, m); }});
   ExpectErrors({rsMatrixRect, kNoError, kNoError},
                {[](Matrix& m, Index) { std::ignore = TransposeMatrix(m); }});
   ExpectErrors({kNoError, kNoError, rsInvalidRow},
@@ -127,6 +134,23 @@ TEST(MatrixErrors, OfTwoMatricesComeInOrderAndLeaveTheFirst) {
     const RectangularCheckOff off;
     expect_errors(each.sum_with_switch_off, each.product_with_switch_off);
   }
+}
+
+TEST(MatrixErrors, OfAMatrixAndAnArrayOfAnotherLength) {
+  const std::vector<Extended> two{1, 2};
+  EXPECT_MATH_ERROR(Solve(kSquare, {1, 2, 3}), rsSameDimensions);
+  EXPECT_MATH_ERROR(Solve(kSquare, Matrix{{1, 2}}), rsSameDimensions);
+  EXPECT_MATH_ERROR(MultiplyMatrixByVector(kWide, two), rsMatrixMult);
+  EXPECT_MATH_ERROR(MultiplyVectorByMatrix({1, 2, 3}, kWide), rsMatrixMult);
+  EXPECT_MATH_ERROR(MultiplyMatrixByVector(kRagged, two), rsMatrixRect);
+  EXPECT_MATH_ERROR(MultiplyVectorByMatrix(two, Matrix()), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixToRowMajor(kRagged), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixFromRowMajor(two, 3), rsMatrixRect);
+  EXPECT_MATH_ERROR(MatrixFromRowMajor(two, 0), rsMatrixRect);
+  const RectangularCheckOff off;
+  EXPECT_MATH_ERROR(MultiplyMatrixByVector(kRagged, two), rsMatrixRect);
+  EXPECT_MATH_ERROR(MultiplyVectorByMatrix(two, Matrix()), rsMatrixIsEmpty);
+  EXPECT_MATH_ERROR(MatrixToRowMajor(kRagged), rsMatrixRect);
 }
 
 TEST(MatrixErrors, ElementwiseRoutinesRejectOnlyAMatrixWithoutRows) {

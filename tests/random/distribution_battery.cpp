@@ -83,11 +83,9 @@ bool Verdict::IsGood() const {
 }
 
 Verdict Judge(const Draw& draw, const Reference& reference, int draws) {
-  const auto& [known, support] = std::tie(reference.moments, reference.support);
-  const Extended centre = std::isnan(known.mean) ? 0 : known.mean;
+  const Extended centre = std::isnan(reference.mean) ? 0 : reference.mean;
   const Cells cells = CellsOf(reference, draws);
   std::mt19937_64 engine(20250707);
-  const auto source = [&engine] { return static_cast<Extended>(engine()) * 0x1p-64L; };
 
   Verdict verdict;
   std::vector<int> counts(cells.cumulative.size());
@@ -95,8 +93,9 @@ Verdict Judge(const Draw& draw, const Reference& reference, int draws) {
   Extended squares = 0;
   Extended fourth_powers = 0;
   for (int i = 0; i < draws; ++i) {
-    const Extended x = draw(source);
-    if (!(x >= support.least && x <= support.largest) || (support.whole && x != std::trunc(x)))
+    const Extended x = draw(engine);
+    if (!(x >= reference.least && x <= reference.greatest &&
+          !(reference.whole && x != std::trunc(x))))
       verdict.in_support = false;
     ++counts[static_cast<std::size_t>(std::ranges::lower_bound(cells.edges, x) -
                                       cells.edges.begin())];
@@ -108,9 +107,9 @@ Verdict Judge(const Draw& draw, const Reference& reference, int draws) {
   }
   verdict.chi_square = ChiSquareP(cells, counts, draws);
   verdict.kolmogorov_smirnov = KolmogorovSmirnovP(cells, counts, draws);
-  if (!std::isnan(known.mean)) verdict.mean = NormalP(sum / std::sqrt(squares));
-  if (!std::isnan(known.variance)) {
-    const Extended excess = squares - known.variance * draws;
+  if (!std::isnan(reference.mean)) verdict.mean = NormalP(sum / std::sqrt(squares));
+  if (!std::isnan(reference.variance)) {
+    const Extended excess = squares - reference.variance * draws;
     verdict.variance = NormalP(excess / std::sqrt(fourth_powers - squares * squares / draws));
   }
   return verdict;

@@ -14,27 +14,18 @@
 
 namespace qorvex::testing {
 
-/// The moments to test. NaN means that a moment is not tested: the test of the mean needs a finite
-/// variance, the test of the variance a finite fourth moment.
-struct Moments {
-  Extended mean = kNaN;
-  Extended variance = kNaN;
-};
-
-struct Support {
-  Extended least;
-  Extended largest;
-  bool whole = false;
-};
-
 /// The distribution that variates should have.
 struct Reference {
   /// P(X <= x).
   std::function<Extended(Extended)> lower;
   /// The point with a lower probability. It only chooses the cells and may be inexact.
   std::function<Extended(Extended)> quantile;
-  Moments moments;
-  Support support;
+  /// NaN for moments that are not tested: the test of the mean needs a finite variance, the test of
+  /// the variance a finite fourth moment.
+  Extended mean, variance;
+  /// The support.
+  Extended least, greatest;
+  bool whole;
 };
 
 /// A distribution of the library. The variance is not tested if a few variates dominate it, or if
@@ -47,9 +38,11 @@ Reference ReferenceOf(const D& d, bool test_variance = true) {
   const bool has_variance = std::isfinite(d.Variance());
   return {[d](Extended x) { return Lower(d, static_cast<typename D::Point>(x)); },
           [d](Extended p) { return static_cast<Extended>(Quantile(d, p)); },
-          {has_variance ? d.Mean() : kNaN, test_variance ? d.Variance() : kNaN},
-          {static_cast<Extended>(support.least),
-           bounded ? static_cast<Extended>(support.greatest) : kInfinity, whole}};
+          has_variance ? d.Mean() : kNaN,
+          test_variance ? d.Variance() : kNaN,
+          static_cast<Extended>(support.least),
+          bounded ? static_cast<Extended>(support.greatest) : kInfinity,
+          whole};
 }
 
 using Draw = std::function<Extended(UniformSource)>;

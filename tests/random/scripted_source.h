@@ -23,22 +23,4 @@ class ScriptedSource {
   std::size_t drawn_ = 0;
 };
 
-/// A source that always returns the same value, but throws an exception after a thousand draws.
-class ConstantSource {
- public:
-  struct TooManyDraws {};
-
-  explicit ConstantSource(Extended value) : value_(value) {}
-
-  Extended operator()() {
-    constexpr int max_draws = 1000;
-    if (++drawn_ > max_draws) throw TooManyDraws();
-    return value_;
-  }
-
- private:
-  Extended value_;
-  int drawn_ = 0;
-};
-
 }  // namespace qorvex::testing

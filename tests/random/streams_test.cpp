@@ -1,13 +1,18 @@
 // Variates of scripted uniform values: which values they draw, in which order, and what they make
 // of them.
 
+#include <array>
 #include <cstdint>
+#include <map>
 #include <random>
 #include <span>
 #include <string>
 #include <vector>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/random/detail/binomial_ratios.h"
+#include "qorvex/random/detail/poisson_densities.h"
+#include "qorvex/random/detail/power_of_complement.h"
 #include "random/scripted_source.h"
 #include "random/variates.h"
 #include "support/table.h"
@@ -18,11 +23,14 @@ namespace {
 
 using testing::ScriptedSource;
 
+// 0 for parameters that a variate does not have.
+Extended Parameter(const testing::Table& table, std::size_t row, const char* name) {
+  return table.Text(row, name).empty() ? 0 : table.Value(row, name);
+}
+
 Extended DrawRow(const testing::Table& table, std::size_t row, UniformSource source) {
-  const auto parameter = [&](const char* name) {
-    return table.Text(row, name).empty() ? 0 : table.Value(row, name);
-  };
-  return testing::Variates().at(table.Text(row, "variate"))(parameter("a"), parameter("b"), source);
+  return testing::Variates().at(table.Text(row, "variate"))(Parameter(table, row, "a"),
+                                                            Parameter(table, row, "b"), source);
 }
 
 // The scripts of the table reach every branch of every method.
@@ -41,6 +49,50 @@ TEST(Streams, AgreeWithTheTable) {
   }
 }
 
+detail::BinomialRatios Ratios(Extended n, Extended p) {
+  return {n, p, 1 - p, std::floor(n * p + p)};
+}
+
+detail::PoissonAndNormal Densities(Extended mu, Extended k) {
+  return detail::PoissonDensities(mu, std::sqrt(mu)).At(k);
+}
+
+// The angle for a uniform value that chooses an interval and a place in it; the next value accepts
+// the place.
+Extended Angle(Extended k, Extended u) {
+  return Random_von_Mises(k, ScriptedSource({u, 1 - 0x1p-64L, 0.75L}));
+}
+
+// Formulas that decide so few variates, or come so close to others, that even a million draws would
+// not show a wrong digit.
+using Formula = Extended (*)(Extended a, Extended b, Extended c);
+
+const std::map<std::string, Formula> kFormulas = {
+    {"stirling", [](auto z, auto, auto) { return detail::StirlingCorrection(z); }},
+    {"binomial-quotient", [](auto n, auto p, auto y) { return Ratios(n, p).Quotient(y); }},
+    {"binomial-log-quotient", [](auto n, auto p, auto y) { return Ratios(n, p).LogQuotient(y); }},
+    {"poisson",
+     [](auto mu, auto k, auto) {
+       const auto at = Densities(mu, k);
+       return at.p_factor * std::exp(at.p_exponent);
+     }},
+    {"normal-exponent", [](auto mu, auto k, auto) { return Densities(mu, k).n_exponent; }},
+    {"normal-factor", [](auto mu, auto k, auto) { return Densities(mu, k).n_factor; }},
+    {"power-of-complement", [](auto p, auto n, auto) { return detail::PowerOfComplement(p, n); }},
+    {"von-mises", [](auto k, auto u, auto) { return Angle(k, u); }},
+};
+
+TEST(InnerFormulas, AgreeWithTheTable) {
+  const testing::Table table("tables/variate_formulas.csv");
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    const Formula formula = kFormulas.at(table.Text(row, "formula"));
+    const Extended value =
+        formula(Parameter(table, row, "a"), Parameter(table, row, "b"), Parameter(table, row, "c"));
+    EXPECT_LE(std::fabs(value - table.Value(row, "value")), table.Value(row, "limit"))
+        << "row " << row + 1;
+  }
+}
+
 // A wrong constant in an acceptance test changes the number of draws.
 TEST(Streams, TakeTheExpectedNumberOfDrawsForManyVariates) {
   const testing::Table table("tables/variate_sums.csv");
@@ -50,7 +102,7 @@ TEST(Streams, TakeTheExpectedNumberOfDrawsForManyVariates) {
     std::uint32_t drawn = 0;
     const auto source = [&] {
       ++drawn;
-      return static_cast<Extended>(engine()) * 0x1p-64L;
+      return UniformValue(engine());
     };
     Extended sum = 0;
     for (int i = 0; i < 20'000; ++i) sum += DrawRow(table, row, source);
@@ -69,16 +121,14 @@ TEST(Streams, ScaledNormalDoesNotCheckMeanAndDeviation) {
   EXPECT_EQ(scaled(3, 0), 3);
 }
 
-struct ExactVariate {
-  const char* variate;
-  Extended a, b;
-  std::vector<Extended> script;
-  Extended value;
-};
-
 TEST(Streams, ExactVariatesAtTheLimitsOfTheMethods) {
   constexpr Extended many = 0x1p62L;
-  const ExactVariate cases[] = {
+  const struct {
+    const char* variate;
+    Extended a, b;
+    std::vector<Extended> script;
+    Extended value;
+  } cases[] = {
       // A standard deviation of 1 gives the mean itself.
       {"log-normal", 1, 1, {0.5L, 0.75L}, 1},
       {"log-normal", 0.1L, 1, {0.5L, 0.75L}, 0.1L},
@@ -157,15 +207,10 @@ TEST(Streams, ShortFormsDrawFromTheRuntime) {
   std::int32_t error = 0;
   const TQorFloatVector one = {1};
   Random_MVNorm(one, one, factor, variate, error);
-  const auto expect_same = [](auto short_form, auto full_form) {
-    SetRandSeed(77);
-    const Extended expected = full_form(UniformSource(ClassicRandom));
-    SetRandSeed(77);
-    EXPECT_EQ(short_form(), expected);
-  };
-#define EXPECT_SAME_STREAM(Routine, ...)           \
-  expect_same([] { return Routine(__VA_ARGS__); }, \
-              [](UniformSource source) { return Routine(__VA_ARGS__ __VA_OPT__(, ) source); })
+  // The generator of the runtime is the standard one.
+#define EXPECT_SAME_STREAM(Routine, ...) \
+  SetRandSeed(77);                       \
+  EXPECT_EQ(Routine(__VA_ARGS__), Routine(__VA_ARGS__ __VA_OPT__(, ) std::mt19937_64(77)))
   EXPECT_SAME_STREAM(Random_Normal);
   EXPECT_SAME_STREAM(Random_Normal, 2, 3);
   EXPECT_SAME_STREAM(Random_Gamma, 2.5L);
@@ -187,19 +232,15 @@ TEST(Streams, ShortFormsDrawFromTheRuntime) {
 
 TEST(Fillers, DrawWhatSingleCallsDraw) {
   const auto expect_same = [](auto fill, auto draw) {
-    std::mt19937_64 first(7);
-    std::mt19937_64 second(7);
-    const auto source_of = [](std::mt19937_64& engine) {
-      return [&engine] { return static_cast<Extended>(engine()) * 0x1p-64L; };
-    };
-    auto source = source_of(first);
-    auto other = source_of(second);
-    auto filled = TQorFloatVector::WithLength(100);
-    fill(std::span(filled.begin(), filled.end()), source);
+    RandomStream stream(7);
+    RandomStream other = stream;
+    std::array<Extended, 100> filled;
+    fill(std::span(filled), stream);
     for (const Extended x : filled) EXPECT_EQ(x, draw(other));
-    EXPECT_EQ(first, second);
+    EXPECT_EQ(stream, other);
   };
-  expect_same([](auto range, auto& s) { FillUniform(range, s); }, [](auto& s) { return s(); });
+  expect_same([](auto range, auto& s) { FillUniform(range, s); },
+              [](auto& s) { return UniformValue(s()); });
   expect_same([](auto range, auto& s) { FillNormal(range, s); },
               [](auto& s) { return Random_Normal(s); });
   expect_same([](auto range, auto& s) { FillNormal(range, 3, -2, s); },
@@ -211,10 +252,7 @@ TEST(Fillers, DrawWhatSingleCallsDraw) {
                 [=](auto& s) { return Random_Gamma(shape, s); });
 }
 
-Extended ExtendedHalf() {
-  return 0.5L;
-}
-double DoubleQuarter() {
+double Quarter() {
   return 0.25;
 }
 
@@ -222,28 +260,35 @@ TEST(UniformSource, TakesAnyCallableThatReturnsAFloatingValue) {
   struct Counter {
     float operator()() { return static_cast<float>(++calls) / 4; }
     int calls = 0;
-  };
-  struct Constant {
-    Extended operator()() const noexcept { return 0.125L; }
-  };
-  Counter counter;
-  const Constant constant;
-  const TQorRandomFunc plain = ExtendedHalf;
+  } counter;
+  const auto constant = [] { return 0.75; };
+  const TQorRandomFunc plain = [] { return 0.5L; };
   const auto draw = [](UniformSource source) { return source(); };
-  EXPECT_EQ(draw(ExtendedHalf), 0.5L);
   EXPECT_EQ(draw(plain), 0.5L);
-  EXPECT_EQ(draw(DoubleQuarter), 0.25L);
-  EXPECT_EQ(draw(&DoubleQuarter), 0.25L);
-  EXPECT_EQ(draw(constant), 0.125L);
-  EXPECT_EQ(draw([] { return 0.75; }), 0.75L);
+  EXPECT_EQ(draw(*plain), 0.5L);
+  EXPECT_EQ(draw(Quarter), 0.25L);
+  EXPECT_EQ(draw(&Quarter), 0.25L);
+  EXPECT_EQ(draw(constant), 0.75L);
   EXPECT_EQ(draw(counter), 0.25L);
   EXPECT_EQ(draw(counter), 0.5L) << "the callable is not copied";
 
   static_assert(std::is_nothrow_convertible_v<TQorRandomFunc, UniformSource>);
   static_assert(!std::is_convertible_v<std::nullptr_t, UniformSource>);
-  static_assert(!std::is_convertible_v<int (*)(), UniformSource>,
-                "integers of an engine are not uniform values");
+  static_assert(!std::is_convertible_v<std::uint64_t (*)(), UniformSource>,
+                "integers of an unknown range are not uniform values");
   static_assert(!std::is_convertible_v<Extended, UniformSource>);
+}
+
+// The first value of the standard engine is in the tests of Random, which the short forms use.
+TEST(UniformSource, TakesGeneratorsOf64Bits) {
+  std::mt19937_64 standard;
+  SetRandSeed(5489);
+  for (int i = 0; i < 1000; ++i) EXPECT_EQ(UniformSource(standard)(), Random());
+  EXPECT_EQ(UniformSource(RandomStream(0))(), 0x53175d61490b23dfp-64L);
+
+  static_assert(kGenerates64Bits<RandomStream> && kGenerates64Bits<std::mt19937_64&>);
+  static_assert(!kGenerates64Bits<std::mt19937> && !kGenerates64Bits<std::minstd_rand> &&
+                !kGenerates64Bits<std::ranlux48>);
 }
 
 }  // namespace

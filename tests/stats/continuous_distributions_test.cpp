@@ -119,44 +119,6 @@ TEST(ContinuousDistributions, TablesOfDensities) {
     family.table(0.25L, 99, -1, xs, ys);
     EXPECT_TRUE(xs.empty() && ys.empty());
   }
-  Values xs;
-  Values ys;
-  ExponentialPDFValues(2, -1, 1, 2, xs, ys);
-  EXPECT_EQ(ys, (Values{0, 0.5L, ExponentialPDF(1, 2)}));
-  ChiSquarePDFValues(2, -2, 0, 2, xs, ys);
-  EXPECT_EQ(ys, (Values{0, 0, 0.5L}));
-  FDistPDFValues(2, 3, -2, 0, 2, xs, ys);
-  EXPECT_EQ(ys, (Values{0, 0, 1}));
-  BetaPDFValues(1, 1, 2, 4, 0, 6, 3, xs, ys);
-  EXPECT_EQ(ys, (Values{0, 0.5L, 0.5L, 0}));
-  // Shapes are out of range only at a point.
-  BetaPDFValues(1e16L, 1, 0, 1, -1, xs, ys);
-  EXPECT_TRUE(ys.empty());
-}
-
-TEST(ContinuousDistributions, TablesStayEmptyAfterAnError) {
-  const std::pair<MessageId, Family> refused[] = {
-      {rsStdDev, Normal(0, 0)},
-      {rsStdDev, LogNormal(0, -1)},
-      {rsExpDistInvalid, Exponential(0)},
-      {rsDF, ChiSquare(0)},
-      {rsDF, StudentT(0)},
-      {rsDF, FDist(0, 1)},
-      {rsDF, FDist(1, 0)},
-      {rsValueGZero, BetaDist(0, 1)},
-      {rsInvalidValue, BetaDist(1, 1, 2, 1)},
-  };
-  Values xs;
-  Values ys;
-  for (const auto& [id, family] : refused) {
-    xs = {1, 2};
-    ys = {3};
-    EXPECT_MATH_ERROR(family.table(0, 1, 4, xs, ys), id);
-    EXPECT_TRUE(xs.empty() && ys.empty()) << family.name;
-  }
-  EXPECT_MATH_ERROR(LogNormalPDFValues(0, 1, 0, 1, -1, xs, ys), rsValueGZero);
-  EXPECT_MATH_ERROR(LogNormalPDFValues(0, 1, 1, -1, 4, xs, ys), rsValueGZero);
-  EXPECT_ERROR(ExponentialPDFValues(1e-4940L, 0, 1, 4, xs, ys), EOverflow, rsOverflow);
 }
 
 TEST(ContinuousDistributions, BetaProbabilitiesHaveNoNegativeZero) {

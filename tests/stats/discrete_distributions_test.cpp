@@ -196,39 +196,4 @@ TEST(DiscreteDistributions, FillTables) {
   }
 }
 
-TEST(DiscreteDistributions, TablesAreReleasedBeforeTheChecks) {
-  TQorLIntVector ks;
-  TQorFloatVector probs;
-  const auto binomial = [&](std::int32_t n, Extended p) { BinomialPDFValues(n, p, probs); };
-  const auto hypergeometric = [&](Count pop, Count sample, Count successes) {
-    HyperGeometricPDFValues(pop, sample, successes, probs);
-  };
-  const auto poisson = [&](std::int32_t n, Extended lambda) {
-    ks = {1};
-    PoissonPDFValues(n, lambda, ks, probs);
-  };
-  const std::pair<MessageId, std::function<void()>> cases[] = {
-      {rsBinomDistInvalid, [&] { binomial(0, 0.5L); }},
-      {rsBinomDistInvalid, [&] { binomial(-3, 0.5L); }},
-      {rsBinomDistInvalid, [&] { binomial(3, kNaN); }},
-      {rsBinomOverflowed, [&] { binomial(0x7FFFFFFF, 0.5L); }},
-      {rsHyperGeometricInvalid, [&] { hypergeometric(5, 0, 2); }},
-      {rsHyperGeometricInvalid, [&] { hypergeometric(5, 6, 2); }},
-      {rsHyperGeometricInvalid, [&] { hypergeometric(5, 2, 6); }},
-      {rsBinomOverflowed, [&] { hypergeometric(20000, 10000, 5); }},
-      {rsPoissonInvalid, [&] { poisson(0, 1); }},
-      {rsPoissonInvalid, [&] { poisson(-5, 1); }},
-      {rsPoissonInvalid, [&] { poisson(5, 0); }},
-      {rsPoissonInvalid, [&] { poisson(5, kNaN); }},
-      {rsFactOverflow, [&] { poisson(1, 1755); }},
-      {rsFactOverflow, [&] { poisson(0x7FFFFFFF, 1); }},
-      {rsFactOverflow, [&] { poisson(7, 1e4000L); }},
-  };
-  for (const auto& [id, fill] : cases) {
-    probs = {1};
-    EXPECT_MATH_ERROR(fill(), id);
-    EXPECT_TRUE(probs.empty() && ks.empty());
-  }
-}
-
 }  // namespace qorvex

@@ -13,8 +13,8 @@ TYPED_TEST_SUITE(Estimators, WideTypes);
 TYPED_TEST(Estimators, FiguresOfASmallSampleAndErrors) {
   using Vector = TQorVector<TypeParam>;
   const struct {
-    Extended (*alone)(const Vector&);
-    void (*with_mean)(const Vector&, Extended& spread, Extended& mean);
+    Extended (*alone)(VectorView<TypeParam>);
+    void (*with_mean)(VectorView<TypeParam>, Extended& spread, Extended& mean);
     bool sample;
     Extended expected;
   } estimators[] = {

@@ -1,11 +1,14 @@
-// Single calls of the routines that return a number: errors in their order, points outside the
+// Single calls of the routines that give numbers: errors in their order, points outside the
 // support, infinities, NaN, and closed forms.
 
-#include <concepts>
+#include <array>
 #include <functional>
 #include <map>
+#include <span>
 #include <sstream>
 #include <string>
+#include <tuple>
+#include <typeinfo>
 #include <utility>
 #include <vector>
 
@@ -18,7 +21,9 @@ namespace qorvex {
 namespace {
 
 using Texts = std::vector<std::string>;
-using Routine = std::function<Extended(const Texts&)>;
+using Figures = std::vector<Extended>;
+using Routine = std::function<Figures(const Texts&)>;
+using Values = VectorView<Extended>;
 
 Extended Number(const std::string& text) {
   if (text == "nan") return kNaN;
@@ -26,26 +31,97 @@ Extended Number(const std::string& text) {
   return Str2Float(text);
 }
 
-// A number, or the elements of a vector between semicolons, or "-" for an empty vector.
-template <class T>
-T Argument(const std::string& text) {
-  if constexpr (std::same_as<T, TQorFloatVector>) {
-    TQorFloatVector vector;
-    std::istringstream elements(text == "-" ? "" : text);
-    for (std::string element; std::getline(elements, element, ';');) vector.Append(Number(element));
-    return vector;
-  } else {
-    return static_cast<T>(Number(text));
-  }
+// The numbers between semicolons; none for "-".
+Texts Elements(const std::string& text) {
+  Texts elements;
+  std::istringstream in(text == "-" ? "" : text);
+  for (std::string element; std::getline(in, element, ';');) elements.push_back(element);
+  return elements;
 }
 
-template <class... Parameters>
-Routine Wrap(Extended (*routine)(Parameters...)) {
+void Append(Figures& figures, Extended figure) {
+  figures.push_back(figure);
+}
+template <ContiguousRange Range>
+void Append(Figures& figures, const Range& elements) {
+  figures.insert(figures.end(), elements.begin(), elements.end());
+}
+
+// What a parameter is bound to: the next argument, or an output, which has no text.
+template <class Parameter>
+struct Slot {
+  explicit Slot(Texts::const_iterator& text) : value(static_cast<Parameter>(Number(*text++))) {}
+  Parameter Get() { return value; }
+  void AppendTo(Figures&) const {}
+  void ExpectStateAfterError() const {}
+  Parameter value;
+};
+
+template <class T>
+struct Slot<VectorView<T>> {
+  explicit Slot(Texts::const_iterator& text) {
+    for (const std::string& element : Elements(*text++))
+      elements.push_back(static_cast<T>(Number(element)));
+  }
+  VectorView<T> Get() { return elements; }
+  void AppendTo(Figures&) const {}
+  void ExpectStateAfterError() const {}
+  std::vector<T> elements;
+};
+
+template <std::size_t kCount>
+struct OutputSlots {
+  explicit OutputSlots(Texts::const_iterator&) { values.fill(-7); }
+  void AppendTo(Figures& figures) const { Append(figures, values); }
+  void ExpectStateAfterError() const {
+    for (const Extended untouched : values) EXPECT_EQ(untouched, -7);
+  }
+  std::array<Extended, kCount> values;
+};
+template <>
+struct Slot<Extended&> : OutputSlots<1> {
+  using OutputSlots::OutputSlots;
+  Extended& Get() { return values[0]; }
+};
+template <>
+struct Slot<std::span<Extended, 9>> : OutputSlots<9> {
+  using OutputSlots::OutputSlots;
+  std::span<Extended, 9> Get() { return values; }
+};
+
+// Tables are released before the checks.
+template <class T>
+struct Slot<TQorVector<T>&> {
+  explicit Slot(Texts::const_iterator&) {}
+  TQorVector<T>& Get() { return vector; }
+  void AppendTo(Figures& figures) const { Append(figures, vector); }
+  void ExpectStateAfterError() const { EXPECT_TRUE(vector.empty()); }
+  TQorVector<T> vector{1, 2};
+};
+
+// The result and then the outputs.
+template <class Result, class... Parameters>
+Routine Wrap(Result (*routine)(Parameters...)) {
   return [routine](const Texts& arguments) {
-    return [&]<std::size_t... kIndex>(std::index_sequence<kIndex...>) {
-      return routine(Argument<std::remove_cvref_t<Parameters>>(arguments.at(kIndex))...);
-    }
-    (std::index_sequence_for<Parameters...>());
+    auto text = arguments.begin();
+    std::tuple<Slot<Parameters>...> all{Slot<Parameters>(text)...};
+    return std::apply(
+        [routine](auto&... slots) {
+          Figures figures;
+          try {
+            if constexpr (std::is_void_v<Result>) {
+              routine(slots.Get()...);
+            } else {
+              Append(figures, routine(slots.Get()...));
+            }
+          } catch (const EMathError&) {
+            (slots.ExpectStateAfterError(), ...);
+            throw;
+          }
+          (slots.AppendTo(figures), ...);
+          return figures;
+        },
+        all);
   };
 }
 
@@ -54,13 +130,13 @@ Routine Wrap(Extended (*routine)(Parameters...)) {
   ROUTINE(family##Less), ROUTINE(family##Greater), ROUTINE(family##Between)
 #define INVERSES(family) ROUTINE(Inv##family##Less), ROUTINE(Inv##family##Greater)
 // The form of a beta routine between two given ends has "5" appended to its name.
-#define BETA(name, ...)                      \
-  std::pair(#name, Wrap<__VA_ARGS__>(name)), \
-      std::pair(#name "5", Wrap<__VA_ARGS__, Extended, Extended>(name))
+#define BETA(name, ...)                                \
+  std::pair(#name, Wrap<Extended, __VA_ARGS__>(name)), \
+      std::pair(#name "5", Wrap<Extended, __VA_ARGS__, Extended, Extended>(name))
 // The form with a mean and a standard deviation has "3" appended to its name.
-#define SHAPE(name)                                     \
-  std::pair(#name, Wrap<const TQorFloatVector&>(name)), \
-      std::pair(#name "3", Wrap<const TQorFloatVector&, Extended, Extended>(name))
+#define SHAPE(name)                               \
+  std::pair(#name, Wrap<Extended, Values>(name)), \
+      std::pair(#name "3", Wrap<Extended, Values, Extended, Extended>(name))
 
 const std::map<std::string, Routine> kRoutines = {
     ROUTINE(Factorial),
@@ -103,17 +179,51 @@ const std::map<std::string, Routine> kRoutines = {
     ROUTINE(HarmonicMean),
     ROUTINE(RootMeanSquare),
     ROUTINE(MeanDeviation),
-    {"GeometricStdDev", Wrap<const TQorFloatVector&, Extended, bool>(GeometricStdDev)},
-    {"GeometricStdDev2", Wrap<const TQorFloatVector&, bool>(GeometricStdDev)},
+    {"GeometricStdDev", Wrap<Extended, Values, Extended, bool>(GeometricStdDev)},
+    {"GeometricStdDev2", Wrap<Extended, Values, bool>(GeometricStdDev)},
     SHAPE(GetSampleSkew),
     SHAPE(GetPopulationSkew),
     SHAPE(GetSampleKurtosis),
     SHAPE(GetPopulationKurtosis),
+    ROUTINE(GetMode),
+    ROUTINE(GetMostFrequent),
+    ROUTINE(GetQuartiles),
+    ROUTINE(GetDeciles),
     {"TrimmedMean", Wrap(TrimmedMean<Extended>)},
     {"ExcelTrimmedMean", Wrap(ExcelTrimmedMean<Extended>)},
     ROUTINE(CoeffCorrelation),
     ROUTINE(CoeffDetermination),
     ROUTINE(GetSSE),
+    ROUTINE(GetRegressionLine),
+    ROUTINE(GetQuadraticCurve),
+    ROUTINE(GroupedMean),
+    ROUTINE(GroupedMedian),
+    ROUTINE(GroupedMode),
+    ROUTINE(GroupedQuartiles),
+    ROUTINE(GetGroupedDeciles),
+    ROUTINE(GroupedSampleVariance),
+    ROUTINE(GroupedPopulationVariance),
+    ROUTINE(GroupedSampleStdDev),
+    ROUTINE(GroupedPopulationStdDev),
+    ROUTINE(GroupedSums),
+    ROUTINE(GetGroupedMeanDev),
+    ROUTINE(GetGroupedSampleSkew),
+    ROUTINE(GetGroupedPopulationSkew),
+    ROUTINE(GetGroupedSampleKurtosis),
+    ROUTINE(GetGroupedPopulationKurtosis),
+    ROUTINE(NormalPDFValues),
+    ROUTINE(LogNormalPDFValues),
+    ROUTINE(ExponentialPDFValues),
+    ROUTINE(ChiSquarePDFValues),
+    ROUTINE(StudentTPDFValues),
+    ROUTINE(FDistPDFValues),
+    {"BetaPDFValues", Wrap<void, Extended, Extended, Extended, Extended, std::int32_t,
+                           TQorFloatVector&, TQorFloatVector&>(BetaPDFValues)},
+    {"BetaPDFValues5", Wrap<void, Extended, Extended, Extended, Extended, Extended, Extended,
+                            std::int32_t, TQorFloatVector&, TQorFloatVector&>(BetaPDFValues)},
+    ROUTINE(BinomialPDFValues),
+    ROUTINE(HyperGeometricPDFValues),
+    ROUTINE(PoissonPDFValues),
 };
 
 constexpr const char* kMessageNames[] = {
@@ -122,31 +232,47 @@ constexpr const char* kMessageNames[] = {
 #undef NAME
 };
 
-// What the routine returns, or the name of the message that it raises. The expected text stands for
-// every number that agrees with it.
-std::string ResultOf(const Routine& routine, const Texts& arguments, const std::string& expected) {
+std::string NameOf(const EMathError& error) {
+  const std::string name = kMessageNames[static_cast<std::size_t>(error.message_id())];
+  const std::type_info& type = name == "rsInvalidOp"    ? typeid(EInvalidOp)
+                               : name == "rsZeroDivide" ? typeid(EZeroDivide)
+                               : name == "rsOverflow"   ? typeid(EOverflow)
+                                                        : typeid(EMathError);
+  EXPECT_EQ(typeid(error), type);
+  return name;
+}
+
+bool Agrees(Extended figure, const std::string& expected) {
+  const Extended number = Number(expected);
+  return figure == number || std::fabs(figure - number) <= 5e-19L * std::fabs(number) ||
+         (std::isnan(figure) && std::isnan(number));
+}
+
+// The figures, or the name of the message that the routine raises. The expected text of a figure
+// stands for every number that agrees with it.
+std::string ResultOf(const Routine& routine, const Texts& arguments, const Texts& expected) {
   try {
-    const Extended result = routine(arguments);
-    if (std::isnan(result)) return "nan";
-    if (expected == "nan" || expected.starts_with("rs")) return Float2Str(result);
-    const Extended number = Number(expected);
-    const bool agrees =
-        result == number || std::fabs(result - number) <= 5e-19L * std::fabs(number);
-    return agrees ? expected : Float2Str(result);
+    std::string result;
+    const Figures figures = routine(arguments);
+    for (std::size_t i = 0; i < figures.size(); ++i) {
+      const bool agrees =
+          i < expected.size() && !expected[i].starts_with("rs") && Agrees(figures[i], expected[i]);
+      result += (i == 0 ? "" : ";") + (agrees ? expected[i] : Float2Str(figures[i]));
+    }
+    return result.empty() ? "-" : result;
   } catch (const EMathError& error) {
-    return kMessageNames[static_cast<std::size_t>(error.message_id())];
+    return NameOf(error);
   }
 }
 
 TEST(Routines, AgreeWithTheTable) {
   const testing::Table table("tables/routines.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
-    Texts arguments;
-    std::istringstream texts(table.Text(row, "arguments"));
-    for (std::string text; texts >> text;) arguments.push_back(text);
     const std::string& expected = table.Text(row, "result");
-    EXPECT_EQ(ResultOf(kRoutines.at(table.Text(row, "routine")), arguments, expected), expected)
-        << table.Text(row, "routine") << ' ' << table.Text(row, "arguments");
+    SCOPED_TRACE(table.Text(row, "routine") + ' ' + table.Text(row, "arguments"));
+    EXPECT_EQ(ResultOf(kRoutines.at(table.Text(row, "routine")),
+                       testing::Words(table.Text(row, "arguments")), Elements(expected)),
+              expected);
   }
 }
 

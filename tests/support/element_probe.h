@@ -4,6 +4,7 @@
 /// Finds out which element types a routine accepts.
 
 #include <gtest/gtest.h>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -29,15 +30,30 @@ std::string Exists(Probe probe) {
                     QorLongCurrency>(probe, "gdfjuiwsbtCSL");
 }
 
-/// The types for which the expression compiles. In it, v is a vector and m a matrix of the type;
-/// the other variables are for outputs.
-#define TYPES_OF(expression)                                                                      \
-  Exists([]<class T>(std::type_identity<T>) {                                                     \
-    return requires(TQorVector<T> & v, TQorMatrix<T> & m, T & x, Extended & e, std::uint32_t & i, \
-                    bool& b) {                                                                    \
-      expression;                                                                                 \
-    };                                                                                            \
+/// The types for which the expression compiles. In it, v is of the given kind, w a vector and m a
+/// matrix of the type; the other variables are for outputs.
+#define TYPES_WITH(Kind, expression)                                                   \
+  Exists([]<class T>(std::type_identity<T>) {                                          \
+    return requires(Kind v, TQorVector<T> & w, TQorMatrix<T> & m, T & x, Extended & e, \
+                    std::uint32_t & i, bool& b) {                                      \
+      expression;                                                                      \
+    };                                                                                 \
   })
+/// The same for a vector v.
+#define TYPES_OF(expression) TYPES_WITH(TQorVector<T>&, expression)
+/// The same for a routine that reads v: a vector, a temporary one, std::vector or std::span. The
+/// types of each kind if they differ.
+#define TYPES_READ_BY(expression)                                      \
+  Agreed({TYPES_OF(expression), TYPES_WITH(TQorVector<T>, expression), \
+          TYPES_WITH(const std::vector<T>&, expression), TYPES_WITH(std::span<T>, expression)})
+
+inline std::string Agreed(const std::vector<std::string>& types) {
+  std::string all = types[0];
+  for (const std::string& others : types) {
+    if (others != types[0]) all += " but also " + others;
+  }
+  return all;
+}
 
 /// Expects that every routine of the list accepts these types.
 inline void ExpectTypes(const std::string& types, const std::vector<std::string>& routines) {

@@ -110,7 +110,7 @@ TEST(SignTests, HaveAToleranceExceptForInt64AndForVectorNonZeroOfSingles) {
   EXPECT_EQ(signs(TQorInt64Vector{1, 0}), Signs(false, false, false, true));
   EXPECT_EQ(signs(TQorInt64Vector{1}), Signs(false, true, true, true));
   EXPECT_EQ(signs(TQorInt64Vector{0, -1}), Signs(false, false, false, false));
-  for (bool (*test)(const TQorSingleVector&) :
+  for (bool (*test)(VectorView<float>) :
        {VectorZero<float>, VectorNonZero<float>, VectorPositive<float>, VectorNonNegative<float>}) {
     EXPECT_MATH_ERROR(test({}), rsVectorIsEmpty);
   }

@@ -1,5 +1,7 @@
 // Where vectors of amounts differ from vectors of integers.
 
+#include <array>
+#include <span>
 #include <tuple>
 
 #include "qorvex/vector/QorvexFinVector.h"
@@ -72,6 +74,36 @@ TEST(CurrencyVectors, OnlyTheSignsOfCurrencyHaveATolerance) {
   EXPECT_EQ(signs(TQorCurrVector{QorCurrency(-1)}), std::tuple(false, true, false, false));
 }
 
+// Sums of some amounts are out of range; that of all is at most at the end of the range.
+TYPED_TEST(AmountVectors, RaiseOnlyIfTheSumIsOutOfRange) {
+  using T = TypeParam;
+  using Stored = typename T::StoredType;
+  constexpr T largest = std::numeric_limits<T>::max();
+  constexpr T smallest = std::numeric_limits<T>::min();
+  constexpr T cent(Stored{1});
+  EXPECT_EQ(CheckedSum(TQorVector<T>{largest, largest, -largest, cent, -cent}), largest);
+  EXPECT_EQ(CheckedSum(std::vector<T>{-cent, -largest}), smallest);
+  EXPECT_ERROR(CheckedSum(std::array{largest, cent}), EOverflow, rsAmountOverflow);
+  EXPECT_ERROR(CheckedSum(std::array{smallest, cent, -cent, -cent}), EOverflow, rsAmountOverflow);
+  EXPECT_MATH_ERROR(CheckedSum(std::span<const T>()), rsVectorIsEmpty);
+}
+
+TEST(CurrencyVectors, FromTextOrNotAtAll) {
+  EXPECT_EQ(Text2QorCurrencyVector({"0.0347", " 12.495"}),
+            (TQorCurrencyVector{Currency(347), Currency(124'950)}));
+  EXPECT_EQ(Text2QorCurrVector(std::vector<std::string>{"1.125", "-7"}),
+            (TQorCurrVector{QorCurrency(112), QorCurrency(-700)}));
+  EXPECT_EQ(Text2QorLongCurrVector(std::array{"1e-6"}), TQorLongCurrVector{QorLongCurrency(1)});
+  EXPECT_TRUE(Text2QorCurrVector(std::vector<std::string_view>()).empty());
+  try {
+    static_cast<void>(Text2QorCurrVector({"1.25", "12.5O", "x"}));
+    ADD_FAILURE();
+  } catch (const EConvertError& error) {
+    EXPECT_STREQ(error.what(), "\"12.5O\" is not a number");
+  }
+  EXPECT_ERROR(Text2QorCurrVector({"1", "3e7"}), EConvertError, rsNumberTooLarge);
+}
+
 // Slope and intercept, in quarters, are exact in extended precision, and so is the result.
 template <class T>
 void ExpectTransformed(T amount, int slope, int intercept) {
@@ -101,9 +133,9 @@ TEST(CurrencyVectors, ConvertElementByElement) {
   const TQorCurrencyVector amounts{Currency(12'500), Currency(-70'000)};
   const TQorLongCurrVector millionths{QorLongCurrency(1'250'000), QorLongCurrency(-7'000'000)};
   EXPECT_EQ(Vector2QorCurrVector(floats), cents);
-  EXPECT_EQ(Vector2QorCurrVector(amounts), cents);
+  EXPECT_EQ(Vector2QorCurrVector(std::span(amounts)), cents);
   EXPECT_EQ(Vector2QorCurrVector(millionths), cents);
-  EXPECT_EQ(Vector2QorCurrencyVector(floats), amounts);
+  EXPECT_EQ(Vector2QorCurrencyVector(std::vector{1.25L, -7.0L}), amounts);
   EXPECT_EQ(Vector2QorCurrencyVector(cents), amounts);
   EXPECT_EQ(Vector2QorCurrencyVector(millionths), amounts);
   EXPECT_EQ(Vector2QorLongCurrVector(floats), millionths);

@@ -63,11 +63,42 @@ TEST(Transforms, WithConstantsAndWithAFunction) {
   EXPECT_EQ(doubles[0], 1) << "rounded to 80 bits first";
 
   TQorFloatVector v{1, 2, -3, 4};
-  const auto negate_positive = [](Extended x) {
+  Extended (*const negate_positive)(Extended) = [](Extended x) {
     return x < 0 ? throw std::domain_error("negative") : -x;
   };
   EXPECT_THROW(TransformVector(v, negate_positive), std::domain_error);
   EXPECT_EQ(v, (TQorFloatVector{-1, -2, -3, 4})) << "the elements before are replaced";
+}
+
+double Halve(double x) noexcept {
+  return x / 2;
+}
+
+TEST(Transforms, TakeCallablesWithState) {
+  struct RunningSum {
+    double operator()(double x) { return sum += x; }
+    double sum = 0;
+  } running_sum;
+  TQorDoubleVector v{1, 2, 3, 4};
+  TransformVector(v, running_sum);
+  EXPECT_EQ(running_sum.sum, 10) << "the callable is not copied";
+  EXPECT_EQ(v, (TQorDoubleVector{1, 3, 6, 10}));
+  const auto subtract_first = [first = v[0]](Extended x) {
+    return x > 6 ? throw std::domain_error("too large") : x - first;
+  };
+  EXPECT_THROW(TransformVector(v, subtract_first), std::domain_error);
+  EXPECT_EQ(v, (TQorDoubleVector{0, 2, 5, 10})) << "the elements before are replaced";
+  TransformVector(v, Halve);
+  TransformVector(v, std::fabs);
+  EXPECT_EQ(v, (TQorDoubleVector{0, 1, 2.5, 5}));
+  const auto takes = [](auto&& vector, auto&& function) {
+    return requires {
+      TransformVector(vector, function);
+    };
+  };
+  EXPECT_FALSE(takes(TQorInt64Vector(), [](std::int64_t x) { return x; }));
+  EXPECT_FALSE(takes(v, [](const std::string& x) { return x; }));
+  EXPECT_TRUE(takes(v, nullptr));
 }
 
 TEST(MovingAverage, WritesAtTheOffsetOfEachWindow) {

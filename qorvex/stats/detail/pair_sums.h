@@ -22,7 +22,7 @@ struct PairSums {
 };
 
 /// All five sums in one pass; they are independent of one another.
-inline PairSums SumPairs(const TQorFloatVector& x, const TQorFloatVector& y) {
+inline PairSums SumPairs(VectorView<Extended> x, VectorView<Extended> y) {
   PairSums sums{.n = static_cast<Extended>(x.size())};
   for (std::size_t i = 0; i < x.size(); ++i) {
     sums.x += x[i];

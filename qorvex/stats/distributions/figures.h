@@ -122,7 +122,7 @@ template <Distribution D>
 /// as &NormalDistribution::Pdf, or a function such as Upper<NormalDistribution>. `out` may be
 /// `points`. EInvalidOp where out has fewer elements.
 template <Distribution D, class Figure>
-void Evaluate(const D& d, Figure figure, std::span<const typename D::Point> points,
+void Evaluate(const D& d, Figure figure, VectorView<typename D::Point> points,
               std::span<Extended> out) {
   if (out.size() < points.size()) throw EInvalidOp();
   for (std::size_t i = 0; i < points.size(); ++i) out[i] = std::invoke(figure, d, points[i]);

@@ -7,13 +7,13 @@
 
 namespace qorvex::inline QorvexVector::detail {
 
-template <class T>
-inline void RequireElements(const TQorVector<T>& vector) {
+template <ContiguousRange Range>
+void RequireElements(const Range& vector) {
   if (vector.empty()) RaiseMathError(rsVectorIsEmpty);
 }
 
-template <class T>
-inline void RequireSameLength(const TQorVector<T>& a, const TQorVector<T>& b) {
+template <ContiguousRange A, ContiguousRange B>
+void RequireSameLength(const A& a, const B& b) {
   if (a.size() != b.size()) RaiseMathError(rsSameDimensions);
 }
 

@@ -1,0 +1,46 @@
+#pragma once
+
+/// @file
+/// Systems of linear equations.
+///
+/// - One Gaussian elimination in extended precision with the pivots of MatrixInverse, and for each
+///   right-hand side one step of iterative refinement, whose residual is summed in pairs of
+///   extended values. Up to a condition of 1e9 every element of the solution is off by little more
+///   than its rounding; docs/accuracy.md has the figures.
+/// - Double and Single elements are converted to Extended first, and each element of the solution
+/// is
+///   rounded to its type once, at the end.
+/// - The result is std::nullopt if the elimination finds no pivot for a column, because all its
+///   elements are at most QorTolerance in magnitude, or if a pivot or an element of the solution is
+///   NaN or infinite. So a NaN anywhere in the matrix or in b gives no solution. Other elements
+///   count however small they are.
+/// - EMathError, in this order: rsMatrixIsEmpty for a matrix a without rows or columns, or a ragged
+///   one; rsMatrixSqr if it is not square; with the shape switch off rsMatrixRect if a row is
+///   shorter than the first; the same for a matrix b, except rsMatrixSqr; rsSameDimensions if b has
+///   not as many elements, or rows, as a has rows.
+/// - O(order^3) for the elimination and O(order^2) for each right-hand side, with working memory of
+///   two extended matrices of that order. For floating elements.
+///
+/// Source: Golub and Van Loan 2013, "Matrix Computations", 3.4 and 3.5.3; residuals as in Ogita,
+/// Rump and Oishi 2005, "Accurate sum and dot product".
+
+#include <optional>
+#include <type_traits>
+
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+
+namespace qorvex::inline QorvexMatrix {
+
+/// The vector x for which a x = b. b is any contiguous range of the element type.
+template <FloatElement T>
+[[nodiscard]] QORVEX_EXPORT std::optional<TQorVector<T>> Solve(
+    const TQorMatrix<T>& a, VectorView<std::type_identity_t<T>> b);
+
+/// The matrix x for which a x = b: each column of b is a right-hand side of its own. If one of them
+/// has no solution, there is no result.
+template <FloatElement T>
+[[nodiscard]] QORVEX_EXPORT std::optional<TQorMatrix<T>> Solve(const TQorMatrix<T>& a,
+                                                               const TQorMatrix<T>& b);
+
+}  // namespace qorvex::inline QorvexMatrix

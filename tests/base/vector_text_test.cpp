@@ -1,0 +1,200 @@
+#include "qorvex/base/vector_text.h"
+
+#include <iomanip>
+#include <locale>
+#include <random>
+#include <sstream>
+
+#include "support/test.h"
+
+#ifdef QORVEX_HAS_FMT
+#include "qorvex/base/vector_format.h"
+#endif
+
+namespace qorvex {
+
+template <class T>
+class VectorText : public ::testing::Test {
+ public:
+  static std::vector<T> SpecialValues() {
+    using Limits = std::numeric_limits<T>;
+    std::vector<T> values{Limits::lowest(), Limits::max(), Limits::min(), T(), Limits::epsilon()};
+    if (FloatElement<T>)
+      for (const T x : {Limits::infinity(), Limits::quiet_NaN(), Limits::denorm_min()})
+        values.push_back(x);
+    for (const T x : std::vector<T>(values)) {
+      if constexpr (FloatElement<T>) values.push_back(-x);
+    }
+    return values;
+  }
+
+  static T Random(std::mt19937_64& engine) {
+    if constexpr (FloatElement<T>) {
+      const int exponent = static_cast<int>(engine() % (2 * std::numeric_limits<T>::max_exponent)) -
+                           std::numeric_limits<T>::max_exponent - 64;
+      return std::ldexp(static_cast<T>(engine()), exponent);
+    } else if constexpr (CurrencyElement<T>) {
+      return T(static_cast<typename T::StoredType>(engine()));
+    } else {
+      return static_cast<T>(engine());
+    }
+  }
+
+  static bool Identical(const TQorVector<T>& a, const TQorVector<T>& b) {
+    return std::ranges::equal(a, b, [](T x, T y) {
+      if constexpr (FloatElement<T>)
+        return x != x ? y != y : x == y && std::signbit(x) == std::signbit(y);
+      return x == y;
+    });
+  }
+};
+
+using AllElements = ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t,
+                                     std::int32_t, std::uint16_t, std::int16_t, std::uint8_t,
+                                     std::int8_t, Currency, QorCurrency, QorLongCurrency>;
+TYPED_TEST_SUITE(VectorText, AllElements);
+
+TYPED_TEST(VectorText, ComesBackBitForBit) {
+  std::mt19937_64 engine(2026);
+  TQorMatrix<TypeParam> matrix{{}, TQorVector<TypeParam>(TestFixture::SpecialValues()), {}};
+  for (std::size_t row = 0; row < 40; ++row) {
+    matrix.emplace_back();
+    while (matrix.back().size() < row) matrix.back().push_back(TestFixture::Random(engine));
+  }
+  const std::string text = Matrix2Str(matrix);
+  const auto read = Str2Matrix<TypeParam>(text);
+  EXPECT_TRUE(std::ranges::equal(read, matrix, TestFixture::Identical)) << text;
+  std::stringstream stream;
+  stream << matrix.back() << TQorVector<TypeParam>() << matrix << TQorMatrix<TypeParam>();
+  TQorVector<TypeParam> vector;
+  TQorVector<TypeParam> empty(1);
+  TQorMatrix<TypeParam> copy;
+  TQorMatrix<TypeParam> none(1);
+  ASSERT_TRUE(stream >> vector >> empty >> copy >> none);
+  EXPECT_TRUE(TestFixture::Identical(vector, matrix.back()) && empty.empty() && none.empty());
+  EXPECT_EQ(Matrix2Str(copy), text);
+}
+
+TEST(VectorText, IsShortestInTheTypeOfTheElements) {
+  EXPECT_EQ(Vector2Str(TQorSingleVector{0.1F, 1e20F, -0.0F}), "[0.1, 1e+20, -0]");
+  EXPECT_EQ(Vector2Str(TQorDoubleVector{0.1, 1.0 / 3}), "[0.1, 0.3333333333333333]");
+  EXPECT_EQ(Vector2Str(std::vector{0.1L, 1.0L / 3}), "[0.1, 0.33333333333333333334]");
+  EXPECT_EQ(Vector2Str(TQorByteVector{65, 255}), "[65, 255]");
+  EXPECT_EQ(Vector2Str(TQorCurrencyVector{Currency(-5), Currency(0)}), "[-0.0005, 0.0000]");
+}
+
+TEST(VectorText, AlignsColumnsAtTheDecimalPoint) {
+  EXPECT_EQ(Matrix2Str(TQorFloatMatrix{{1, 2.5L}, {30, 4}}), "[[ 1, 2.5],\n [30, 4  ]]");
+  EXPECT_EQ(Matrix2Str(TQorDoubleMatrix{{1e300, 2.5e-7}, {}, {-12.25}, {kNaN, 10, 7}}),
+            "[[  1e+300,  2.5e-07],\n [],\n [-12.25  ],\n [nan     , 10      , 7]]");
+  EXPECT_EQ(Matrix2Str(TQorSIntMatrix{{1, -128}, {10, 5}},
+                       {.alignment = ElementFormat::Alignment::kLeft}),
+            "[[1 , -128],\n [10, 5   ]]");
+}
+
+TEST(VectorText, HonoursTheSettingsOfAStream) {
+  struct Comma : std::numpunct<char> {
+    char do_decimal_point() const override { return ','; }
+    std::string do_grouping() const override { return "\3"; }
+  };
+  const auto written = [](const auto& array, auto... settings) {
+    std::ostringstream out;
+    out.imbue(std::locale(std::locale::classic(), new Comma));
+    (out << ... << settings) << array;
+    EXPECT_EQ(out.width(), 0);
+    return out.str();
+  };
+  const TQorDoubleVector v{-1234.5, 0.125, -0.004};
+  EXPECT_EQ(written(v, std::hex, std::uppercase), "[-1234.5, 0.125, -0.004]");
+  EXPECT_EQ(written(v, std::fixed, std::setprecision(2)), "[-1234.50, 0.12, 0.00]");
+  EXPECT_EQ(written(v, std::scientific), "[-1.234500e+03, 1.250000e-01, -4.000000e-03]");
+  EXPECT_EQ(written(v, std::setprecision(3)), "[-1.23e+03, 0.125, -0.004]");
+  EXPECT_EQ(written(v, std::setw(7), std::setfill('*'), std::showpos),
+            "[-1234.5, *+0.125, *-0.004]");
+  EXPECT_EQ(written(v, std::setw(8), std::left), "[-1234.5 , 0.125   , -0.004  ]");
+  EXPECT_EQ(written(TQorCurrVector{QorCurrency(7)}, std::setprecision(1), std::showpos), "[+0.07]");
+  EXPECT_EQ(written(TQorFloatMatrix{{2, 0.5L}, {1.5L}}, std::setw(4), std::setfill('0')),
+            "[[02  , 00.5],\n [01.5]]")
+      << "fills up no decimals";
+  EXPECT_EQ(::testing::PrintToString(TQorDoubleVector{1.0 / 3}), "[0.3333333333333333]");
+  EXPECT_EQ(::testing::PrintToString(TQorFloatMatrix{{1}, {}}), "[[1],\n []]");
+}
+
+TEST(VectorText, IsReadWithAnyWhiteSpaceAndRoundedOnce) {
+  EXPECT_EQ(Str2Matrix<float>("\n[\t[+1 ,\r\n-.5],[ ] ]\f"), (TQorSingleMatrix{{1, -0.5F}, {}}));
+  // Just above the point between two numbers, to which extended precision rounds it.
+  EXPECT_EQ(Str2Vector<double>("[1.00000000000000011102230246251565404236316680908203125000001]"),
+            TQorDoubleVector{1 + std::numeric_limits<double>::epsilon()});
+  EXPECT_EQ(Str2Vector<float>("[1e-50, -INF, 5.]"), (TQorSingleVector{0, -INFINITY, 5}));
+  EXPECT_EQ(Str2Vector<QorCurrency>("[0.125]"), TQorCurrVector{QorCurrency(12)});
+}
+
+TEST(VectorText, NamesThePieceThatCannotBeReadAndItsPosition) {
+  const struct {
+    const char* text;
+    MessageId id;
+    const char* message;
+  } cases[] = {
+      {"", rsUnexpectedEnd, "The text ends too early (character 1)"},
+      {"[1, 2\n", rsUnexpectedEnd, "The text ends too early (character 7)"},
+      {" 1, 2]", rsUnexpectedText, "\"1\" is unexpected (character 2)"},
+      {"[1 22 3]", rsUnexpectedText, "\"22\" is unexpected (character 4)"},
+      {"[1,]", rsUnexpectedText, "\"]\" is unexpected (character 4)"},
+      {"[[1]]", rsUnexpectedText, "\"[\" is unexpected (character 2)"},
+      {"[1]]", rsUnexpectedText, "\"]\" is unexpected (character 4)"},
+      {"[1, 1.5]", rsNotAnInteger, "\"1.5\" is not an integer (character 5)"},
+      {"[99999999999999999999x]", rsNotAnInteger, nullptr},
+      {"[99999999999999999999]", rsNumberTooLarge, nullptr},
+      {"[127, 128]", rsNumberTooLarge, "\"128\" is too large a number (character 7)"},
+      {"[-128, -129]", rsNumberTooLarge, nullptr},
+  };
+  for (const auto& [text, id, message] : cases) {
+    try {
+      static_cast<void>(Str2Vector<std::int8_t>(text));
+      ADD_FAILURE() << text;
+    } catch (const EConvertError& error) {
+      EXPECT_EQ(error.message_id(), id) << text;
+      EXPECT_STREQ(error.what(), message == nullptr ? error.what() : message);
+    }
+  }
+  for (const char* text : {"[1-]", "[nan(1)]", "[+-1]", "[0x1]", "[1e]", "[.]"})
+    EXPECT_ERROR(Str2Vector<double>(text), EConvertError, rsNotANumber);
+  EXPECT_ERROR(Str2Vector<double>("[1e309]"), EConvertError, rsNumberTooLarge);
+  EXPECT_ERROR(Str2Matrix<float>("[[1], 3e38, [1]]"), EConvertError, rsUnexpectedText);
+  EXPECT_ERROR(Str2Vector<std::uint32_t>("[-0, -1]"), EConvertError, rsNumberTooLarge);
+}
+
+TEST(VectorText, ReadingFromAStreamStopsAtTheBracketAndFailsWithoutAChange) {
+  TQorLIntVector v{7};
+  std::istringstream in(" [1, 2]] 3 [4.5] [[5]] [6");
+  EXPECT_TRUE(in >> v);
+  EXPECT_EQ(v, (TQorLIntVector{1, 2}));
+  for (const char* rest : {"] 3 ", "", "[5]] ", ""}) {
+    EXPECT_FALSE(in >> v);
+    EXPECT_EQ(v, (TQorLIntVector{1, 2}));
+    in.clear();
+    in.ignore(static_cast<std::streamsize>(std::strlen(rest)));
+  }
+}
+
+#ifdef QORVEX_HAS_FMT
+TEST(VectorText, FormatsEachElement) {
+  const TQorDoubleMatrix m{{1, 2.5}, {30, -0.04}};
+  EXPECT_EQ(fmt::format("{}", m), Matrix2Str(m));
+  EXPECT_EQ(fmt::format("{:+.1f}", m), "[[ +1.0, +2.5],\n [+30.0, +0.0]]");
+  EXPECT_EQ(fmt::format("{:*^5}|{:<3d}|{:>10.1e}", m[0], TQorByteVector{1, 2}, m[1]),
+            "[**1**, *2.5*]|[1  , 2  ]|[   3.0e+01,   -4.0e-02]");
+  EXPECT_EQ(fmt::format("{:.2}{:g}", m[1], m[1]), "[30, -0.04][30, -0.04]");
+  EXPECT_EQ(fmt::format("{}", std::vector{m[0], m[0]}), "[[1, 2.5], [1, 2.5]]");
+  for (const char* refused :
+       {"{:010}", "{:.}", "{:x}", "{:d}", "{:}>5}", "{:{>5}", "{:L}", "{:5 }", "{:9999999999}"})
+    EXPECT_THROW(static_cast<void>(fmt::format(fmt::runtime(refused), m)), fmt::format_error)
+        << refused;
+  EXPECT_THROW(static_cast<void>(fmt::format(fmt::runtime("{:.2}"), TQorLIntVector())),
+               fmt::format_error);
+  EXPECT_THROW(static_cast<void>(fmt::format(fmt::runtime("{:f}"), TQorCurrVector())),
+               fmt::format_error);
+}
+#endif
+
+}  // namespace qorvex
