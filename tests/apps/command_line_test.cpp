@@ -1,5 +1,5 @@
-// Runs the built program: the commands in commands/*.txt, those of which only a part of the output
-// is known, and the examples on the page about the command line.
+// Runs the built program: the commands in commands/*.txt, and the examples on the page about the
+// command line.
 
 #include <algorithm>
 #include <fstream>
@@ -49,32 +49,6 @@ TEST_P(Commands, PrintWhatTheirFileSays) {
 INSTANTIATE_TEST_SUITE_P(Files, Commands,
                          testing::Values("describe", "dist", "fit", "matrix", "program", "random"),
                          [](const auto& file) { return file.param; });
-
-TEST(Program, RefusesWrongUsageWithStatusTwo) {
-  const std::pair<std::string, std::vector<std::string>> commands[] = {
-      {"", {"", "--", "decsribe x", "describe", "matrix"}},
-      {"describe - ",
-       {"--decimals -1", "--decimals 256", "--decimals x", "--decimals 0x10", "--delimiter 5",
-        "--delimiter ''", "--delimiter ab", "--nosuch", "--column 1 extra", "--column",
-        "--header --no-header"}},
-      {"matrix ", {"invert -", "inverse", "inverse - -", "multiply -", "multiply - -"}},
-      {"dist ",
-       {"", "gauss", "normal", "normal most", "normal inv", "normal inv --p .5 --upper-p .5",
-        "normal less --x 1 --log --classic"}},
-      {"random ", {"", "gauss", "uniform --seed 1 2"}},
-      {"fit ", {"", "line", "line -", "line - --x 1", "line - --y 1", "cubic - --x 1 --y 2"}},
-      {"matrix rank - ", {"--decimals 2", "--tolerance x", "--tolerance nan", "--tolerance=-1"}},
-  };
-  for (const auto& [command, endings] : commands) {
-    for (const std::string& ending : endings) {
-      const std::string output = Shell("echo 1 | qorvex " + command + ending + "; echo $?");
-      EXPECT_TRUE(output.starts_with("qorvex: ") &&
-                  output.ends_with("\nqorvex: --help describes the program and its commands\n2\n"))
-          << command << ending << '\n'
-          << output;
-    }
-  }
-}
 
 TEST(Program, PrintsItsVersion) {
   ExpectOutput("qorvex --version", "qorvex " QORVEX_VERSION "\n");

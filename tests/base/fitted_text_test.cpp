@@ -73,12 +73,7 @@ TEST(FittedFloatText, HasAllTheDigitsThatFit) {
 
 // What the random numbers do not reach.
 TEST(FittedFloatText, TakesExponentFormThenTheMarkForUnusualNumbers) {
-  const struct {
-    Extended value;
-    FloatDigits digits;
-    std::size_t length;
-    const char* text;
-  } cases[] = {
+  const std::tuple<Extended, FloatDigits, std::size_t, const char*> cases[] = {
       {-7654321.5L, {}, 9, "-7654322"},
       {-7654321.5L, {}, 7, "-7.65e6"},
       {-7654321.5L, {}, 3, "###"},

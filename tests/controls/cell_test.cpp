@@ -231,10 +231,14 @@ TEST_F(FloatCell, KeepsToThePaletteUntilAColourIsSet) {
   cell->resetColorSetNegativeText();
   EXPECT_FALSE(cell->testAttribute(Qt::WA_SetPalette));
   // The mark of an invalid text has contrast on the form that it is on.
-  window.setPalette(QPalette(Qt::black));
   Enter("x");
-  EXPECT_LT(cell->palette().color(QPalette::Base).lightness(), 128);
-  EXPECT_GT(cell->palette().color(QPalette::Text).lightness(), 128);
+  for (const bool dark : {true, false}) {
+    window.setPalette(QPalette(dark ? Qt::black : Qt::white));
+    const QColor text = cell->palette().color(QPalette::Text);
+    EXPECT_EQ(cell->palette().color(QPalette::Base).lightness() < 128, dark);
+    EXPECT_EQ(text.lightness() > 128, dark);
+    EXPECT_GT(text.red(), text.green());
+  }
 }
 
 TEST_F(FractCell, ShowsAndTakesFractions) {

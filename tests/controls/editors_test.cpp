@@ -207,6 +207,8 @@ TYPED_TEST(Editors, ShareSettingsAndOutliveThem) {
   shared.reset();
   EXPECT_EQ(this->Cell(1)->alignment(), Qt::AlignRight | Qt::AlignVCenter);
   EXPECT_EQ(this->editor->UICtrl(), nullptr);
+  this->editor->setColorSetNegativeText(Qt::green);
+  EXPECT_EQ(this->editor->ColorSet()->NegativeText(), QColor(Qt::green));
   // The editor raises its signal first, whichever way the colour is set.
   this->Take();
   const auto first = this->On(&CellPanel::OnColorSetChange, [this] { this->log << "editor"; });
