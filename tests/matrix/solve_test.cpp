@@ -58,6 +58,11 @@ TEST(Solve, RefinementRestoresTheDigitsThatTheConditionCosts) {
     EXPECT_LE(std::fabs(solution[i][0] / x[i][0] - 1), 2e-18L) << i;
 }
 
+TEST(Solve, CountsElementsBelowTheTolerance) {
+  const TQorFloatMatrix a{{1, 0x1p60L}, {0x1p-56L, 32}};
+  EXPECT_EQ(Solve(a, {0x1p60L + 1, 32 + 0x1p-56L}).value(), (TQorFloatVector{1, 1}));
+}
+
 TEST(Solve, FindsNoSolutionThatIsNotUniqueOrNotFinite) {
   using Matrix = TQorFloatMatrix;
   EXPECT_FALSE(Solve(Matrix{{1, 2}, {2, 4}}, {1, 2}));
