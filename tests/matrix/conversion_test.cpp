@@ -10,14 +10,20 @@
 
 namespace qorvex {
 
-TEST(RowMajor, ElementsAreThoseOfTheRowsInSequence) {
-  const std::vector<double> elements{1, 2, 3, 4, 5, 6};
-  const auto matrix = MatrixFromRowMajor(elements, 3);
-  EXPECT_EQ(matrix, (TQorDoubleMatrix{{1, 2, 3}, {4, 5, 6}}));
-  EXPECT_TRUE(std::ranges::equal(MatrixToRowMajor(matrix), elements));
-  const std::span<const double> row = matrix[1];
-  EXPECT_EQ(VectorView<double>(matrix[1]).data(), row.data());
-  EXPECT_EQ(row[0], 4);
+TEST(MatrixConversion, BetweenFlatAndNestedArraysSharesNothing) {
+  const std::vector<double> elements{1, 2, 3, 4};
+  const double arrays[2][2] = {{1, 2}, {3, 4}};
+  const std::list<std::span<const double>> spans{arrays[0], arrays[1]};
+  const TQorDoubleMatrix expected{{1, 2}, {3, 4}};
+  for (const TQorDoubleMatrix& matrix :
+       {MatrixFromRowMajor(elements, 2), MatrixFromRows(arrays), MatrixFromRows(spans),
+        MatrixFromRows(expected), ConvertMatrix<double>(expected)}) {
+    EXPECT_EQ(matrix, expected);
+    EXPECT_FALSE(matrix[0].SharesBufferWith(expected[0]));
+    EXPECT_TRUE(std::ranges::equal(MatrixToRowMajor(matrix), elements));
+    const std::span<const double> row = matrix[1];
+    EXPECT_EQ(VectorView<double>(matrix[1]).data(), row.data());
+  }
   const TQorCurrencyMatrix amounts{{Currency(7)}, {Currency(8)}};
   EXPECT_EQ(MatrixFromRowMajor(MatrixToRowMajor(amounts), 1), amounts);
   EXPECT_TRUE(MatrixFromRowMajor<float>({}, 3).empty());
@@ -25,25 +31,10 @@ TEST(RowMajor, ElementsAreThoseOfTheRowsInSequence) {
   EXPECT_TRUE(MatrixToRowMajor(TQorSingleMatrix{{}, {}}).empty());
 }
 
-TEST(NestedRows, OfEveryKindAreCopied) {
-  const TQorDoubleMatrix expected{{1, 2}, {3, 4}};
-  const std::vector<std::vector<double>> vectors{{1, 2}, {3, 4}};
-  const double arrays[2][2] = {{1, 2}, {3, 4}};
-  const std::list<std::span<const double>> spans{arrays[0], arrays[1]};
-  EXPECT_EQ(MatrixFromRows(vectors), expected);
-  EXPECT_EQ(MatrixFromRows(arrays), expected);
-  EXPECT_EQ(MatrixFromRows(spans), expected);
-  EXPECT_EQ(MatrixFromRows(std::vector<std::vector<float>>{{1}, {}, {2, 3}}),
-            (TQorSingleMatrix{{1}, {}, {2, 3}}));
-  const auto copy = MatrixFromRows(expected);
-  EXPECT_FALSE(copy[0].SharesBufferWith(expected[0]));
-  const auto converted = ConvertMatrix<double>(expected);
-  EXPECT_EQ(converted, expected);
-  EXPECT_FALSE(converted[0].SharesBufferWith(expected[0]));
-  EXPECT_EQ(ConvertMatrix<Extended>(arrays), (TQorFloatMatrix{{1, 2}, {3, 4}}));
-  EXPECT_EQ(NarrowMatrix<std::int8_t>(TQorFloatMatrix{{1.5L}, {}, {-3, 2.5L}}),
-            (TQorSIntMatrix{{2}, {}, {-3, 2}}));
-  EXPECT_MATH_ERROR(NarrowMatrix<std::int8_t>(TQorFloatMatrix{{1}, {128}}), rsInvalidValue);
+TEST(MatrixConversion, KeepsTheLengthsOfRows) {
+  const std::vector<std::vector<Extended>> rows{{1.5L}, {}, {-3, 2.5L}};
+  EXPECT_EQ(MatrixFromRows(rows), (TQorFloatMatrix{{1.5L}, {}, {-3, 2.5L}}));
+  EXPECT_EQ(NarrowMatrix<std::int8_t>(rows), (TQorSIntMatrix{{2}, {}, {-3, 2}}));
 }
 
 // The narrowed value, or nullopt if it is refused. The value is the second of two.
@@ -67,19 +58,15 @@ TEST(Narrowing, RoundsToNearestAndRefusesWhatTheTargetCannotHold) {
   } cases[] = {
       {0.5L, 0, 0U, 0},
       {1.5L, 2, 2U, 2},
-      {-0.5L, 0, 0U, 0},
       {-0.50001L, -1, refused, -1},
-      {127.4999L, 127, 127U, 127},
       {127.5L, refused, 128U, 128},
       {-128.5L, -128, refused, -128},
-      {-128.50001L, refused, refused, -129},
       {4294967295.4999L, refused, 4294967295U, 4294967295},
       {4294967295.5L, refused, refused, 4294967296},
       {0x1p63L - 1, refused, refused, INT64_MAX},
       {0x1p63L - 0.5L, refused, refused, refused},
       {-0x1p63L, refused, refused, INT64_MIN},
       {-0x1p63L - 1, refused, refused, refused},
-      {kInfinity, refused, refused, refused},
       {kNaN, refused, refused, refused},
   };
   for (const auto& [value, as_int8, as_uint32, as_int64] : cases) {

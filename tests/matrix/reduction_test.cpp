@@ -21,7 +21,7 @@ using testing::PlainReduction;
 using testing::SameBits;
 
 // Expects that the reduced matrix, the rank, the inverse and the determinant are bitwise those of
-// the plain loops, in place and by value.
+// the plain loops.
 template <FloatElement T>
 void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
   PlainReduction<T> plain{CopyMatrix(given)};
@@ -31,7 +31,6 @@ void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
   RowEchelonFormRank(matrix, rank);
   EXPECT_TRUE(SameBits(matrix, plain.matrix));
   EXPECT_EQ(rank, plain.rank);
-  EXPECT_TRUE(SameBits(RowEchelon(given), plain.matrix));
   EXPECT_EQ(Rank(given), plain.rank);
   const std::size_t order = given.size();
   if (order != given[0].size()) return;
@@ -39,19 +38,12 @@ void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
   matrix = CopyMatrix(given);
   for (std::size_t i = 0; i < order; ++i) plain.determinant *= plain.matrix[i][i];
   EXPECT_TRUE(SameBits(MatrixDeterminant(matrix), plain.determinant));
-  EXPECT_TRUE(SameBits(Determinant(given), plain.determinant));
 
   matrix = CopyMatrix(given);
   TQorMatrix<T> inverse;
-  const bool regular = plain.Invert();
-  EXPECT_EQ(MatrixInverse(matrix, inverse), regular);
+  EXPECT_EQ(MatrixInverse(matrix, inverse), plain.Invert());
   EXPECT_TRUE(SameBits(matrix, plain.matrix));
   EXPECT_TRUE(SameBits(inverse, plain.inverse));
-  const std::optional<TQorMatrix<T>> by_value = Inverse(given);
-  ASSERT_EQ(by_value.has_value(), regular);
-  if (regular) {
-    EXPECT_TRUE(SameBits(*by_value, plain.inverse));
-  }
 }
 
 template <class T>
