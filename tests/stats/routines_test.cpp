@@ -47,10 +47,16 @@ void Append(Figures& figures, const Range& elements) {
   figures.insert(figures.end(), elements.begin(), elements.end());
 }
 
+struct Arguments {
+  const std::string& Next() { return texts.at(next++); }
+  const Texts& texts;
+  std::size_t next = 0;
+};
+
 // What a parameter is bound to: the next argument, or an output, which has no text.
 template <class Parameter>
 struct Slot {
-  explicit Slot(Texts::const_iterator& text) : value(static_cast<Parameter>(Number(*text++))) {}
+  explicit Slot(Arguments& arguments) : value(static_cast<Parameter>(Number(arguments.Next()))) {}
   Parameter Get() { return value; }
   void AppendTo(Figures&) const {}
   void ExpectStateAfterError() const {}
@@ -59,8 +65,8 @@ struct Slot {
 
 template <class T>
 struct Slot<VectorView<T>> {
-  explicit Slot(Texts::const_iterator& text) {
-    for (const std::string& element : Elements(*text++))
+  explicit Slot(Arguments& arguments) {
+    for (const std::string& element : Elements(arguments.Next()))
       elements.push_back(static_cast<T>(Number(element)));
   }
   VectorView<T> Get() { return elements; }
@@ -71,7 +77,7 @@ struct Slot<VectorView<T>> {
 
 template <std::size_t kCount>
 struct OutputSlots {
-  explicit OutputSlots(Texts::const_iterator&) { values.fill(-7); }
+  explicit OutputSlots(Arguments&) { values.fill(-7); }
   void AppendTo(Figures& figures) const { Append(figures, values); }
   void ExpectStateAfterError() const {
     for (const Extended untouched : values) EXPECT_EQ(untouched, -7);
@@ -92,19 +98,20 @@ struct Slot<std::span<Extended, 9>> : OutputSlots<9> {
 // Tables are released before the checks.
 template <class T>
 struct Slot<TQorVector<T>&> {
-  explicit Slot(Texts::const_iterator&) {}
+  explicit Slot(Arguments&) {}
   TQorVector<T>& Get() { return vector; }
   void AppendTo(Figures& figures) const { Append(figures, vector); }
   void ExpectStateAfterError() const { EXPECT_TRUE(vector.empty()); }
-  TQorVector<T> vector{1, 2};
+  TQorVector<T> vector = TQorVector<T>::WithLength(2);
 };
 
 // The result and then the outputs.
 template <class Result, class... Parameters>
 Routine Wrap(Result (*routine)(Parameters...)) {
-  return [routine](const Texts& arguments) {
-    auto text = arguments.begin();
-    std::tuple<Slot<Parameters>...> all{Slot<Parameters>(text)...};
+  return [routine](const Texts& texts) {
+    Arguments arguments{texts};
+    std::tuple<Slot<Parameters>...> all{Slot<Parameters>(arguments)...};
+    EXPECT_EQ(arguments.next, texts.size());
     return std::apply(
         [routine](auto&... slots) {
           Figures figures;
