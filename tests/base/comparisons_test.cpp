@@ -1,5 +1,7 @@
 #include "qorvex/base/comparisons.h"
 
+#include <tuple>
+
 #include "qorvex/base/elementary.h"
 #include "support/kept_tolerance.h"
 #include "support/test.h"

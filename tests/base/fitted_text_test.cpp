@@ -1,6 +1,7 @@
 #include "qorvex/base/fitted_text.h"
 
 #include <random>
+#include <tuple>
 
 #include "qorvex/base/text.h"
 #include "support/test.h"

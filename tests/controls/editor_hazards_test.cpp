@@ -2,7 +2,6 @@
 // not typed.
 
 #include <algorithm>
-#include <memory>
 
 #include "controls/editor_fixture.h"
 

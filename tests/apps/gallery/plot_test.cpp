@@ -1,4 +1,5 @@
 #include <cmath>
+#include <tuple>
 
 #include "apps/qorvex-gallery/plot/axis_ticks.h"
 #include "apps/qorvex-gallery/plot/histogram.h"

@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/pages/regression_page.h"
 
 #include <QSpinBox>
+#include <tuple>
 
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
