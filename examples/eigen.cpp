@@ -6,39 +6,33 @@
 
 using namespace qorvex;
 
-// Rows are stored one after the other. Eigen's default is columns.
+// Stored row by row. Eigen's default is column by column.
 using RowMajor = Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor>;
 
-// A view of the elements, without a copy.
-Eigen::Map<const RowMajor> View(const TQorDoubleVector& elements, std::size_t cols) {
-  return {elements.data(), static_cast<Eigen::Index>(elements.size() / cols),
-          static_cast<Eigen::Index>(cols)};
-}
-
-// Any matrix of Eigen: its elements are written row by row first.
+// Takes any matrix of doubles: one that is stored by columns is converted to rows for the call.
 TQorDoubleMatrix FromEigen(const RowMajor& matrix) {
   return MatrixFromRowMajor(std::span(matrix.data(), static_cast<std::size_t>(matrix.size())),
                             static_cast<std::size_t>(matrix.cols()));
 }
 
+RowMajor ToEigen(const TQorDoubleMatrix& matrix) {
+  const TQorDoubleVector elements = MatrixToRowMajor(matrix);
+  return Eigen::Map<const RowMajor>(elements.data(), MatrixRows(matrix), MatrixCols(matrix));
+}
+
 int main() {
-  // From Eigen: a system of equations that is solved with 64 bits.
-  Eigen::Matrix3d springs;
-  springs << 3, -1, 0, -1, 3, -1, 0, -1, 3;
-  const Eigen::Vector3d forces(1, 0, 2);
-  if (const auto shift = Solve(FromEigen(springs), std::span(forces.data(), 3))) {
-    std::cout << "Shift   " << Eigen::Map<const Eigen::RowVector3d>(shift->data()) << '\n';
-  }
+  Eigen::Matrix3d matrix;
+  matrix << 4, 2, 0, 0, 2, 1, 0, 0, 0.5;
+  const Eigen::Vector3d right_side(1, 0, 3);
 
-  // And back: an inverse that Eigen multiplies.
-  if (const auto inverse = Inverse(FromEigen(springs))) {
-    const TQorDoubleVector elements = MatrixToRowMajor(*inverse);
-    std::cout << "Shift   " << (View(elements, 3) * forces).transpose() << '\n';
+  const TQorDoubleMatrix ours = FromEigen(matrix);
+  std::cout << ours << '\n';
+  if (const auto inverse = Inverse(ours)) {
+    std::cout << ToEigen(*inverse) * matrix << '\n';
   }
-
-  // A vector of Qorvex, in place.
-  TQorDoubleVector weights{1, 2, 5};
-  Eigen::Map<Eigen::VectorXd> mapped(weights.data(), 3);
-  mapped /= mapped.sum();
-  std::cout << "Weights " << mapped.transpose() << '\n';
+  if (const auto solution = Solve(ours, std::span(right_side.data(), 3))) {
+    // Eigen uses the elements of a vector in place.
+    const Eigen::Map<const Eigen::VectorXd> mapped(solution->data(), 3);
+    std::cout << *solution << "; " << (matrix * mapped).transpose() << '\n';
+  }
 }

@@ -13,8 +13,7 @@
 using namespace qorvex;
 
 // Counts the months with more than 60 mm of rain. A month has four storms on average. The rain of a
-// storm is a gamma variate with shape 2 and scale 5 mm, and so is the sum of n storms, with shape
-// 2n.
+// storm is a gamma variate with shape 2 and scale 5 mm; that of n storms together has shape 2n.
 int WetMonths(int months, RandomStream stream) {
   int wet = 0;
   for (int i = 0; i < months; ++i) {

@@ -6,8 +6,8 @@
 ///
 /// - Everything is computed exactly in integers of 128 bits; only what states a rounding mode
 ///   rounds, once.
-/// - Errors: EZeroDivide with rsDivideByZero for a divisor of zero, whatever is divided; EOverflow
-///   with rsAmountOverflow if the result is out of range.
+/// - Errors, in this order: EZeroDivide with rsDivideByZero for a divisor of zero, whatever is
+///   divided; EOverflow with rsAmountOverflow if the result is out of range.
 /// - O(1).
 
 #include <concepts>
@@ -21,6 +21,7 @@ namespace qorvex::inline QorvexGlobals {
 
 /// @cond internal
 namespace detail {
+__extension__ typedef __int128 Int128;
 [[noreturn]] QORVEX_EXPORT void RaiseAmountOverflow();
 [[noreturn]] QORVEX_EXPORT void RaiseDivisionByZero();
 }  // namespace detail
@@ -64,28 +65,22 @@ struct AmountDivision {
 /// smallest amount divided by -1. Allocate distributes the remainder.
 template <CurrencyElement C>
 [[nodiscard]] constexpr AmountDivision<C, C> DivideAmount(C dividend, std::integral auto divisor) {
-  __extension__ typedef __int128 Wide;
   if (divisor == 0) detail::RaiseDivisionByZero();
-  const Wide quotient = Wide{dividend.stored()} / Wide{divisor};
-  const auto stored = static_cast<typename C::StoredType>(quotient);
-  if (stored != quotient) detail::RaiseAmountOverflow();
-  return {C(stored), dividend - C(stored) * divisor};
+  const detail::Int128 exact = detail::Int128{dividend.stored()} / detail::Int128{divisor};
+  const C quotient(static_cast<typename C::StoredType>(exact));
+  if (quotient.stored() != exact) detail::RaiseAmountOverflow();
+  return {quotient, dividend - quotient * divisor};
 }
 
 /// How often one amount is contained in another: 10.00 / 3.00 is 3, and 1.00 remains. EOverflow for
-/// the smallest amount divided by minus the resolution, if the quotient exceeds int64 (for Currency
-/// and QorLongCurrency).
+/// the smallest amount divided by minus the resolution, whose quotient is beyond int64 (for
+/// Currency and QorLongCurrency).
 template <CurrencyElement C>
 [[nodiscard]] constexpr AmountDivision<std::int64_t, C> DivideAmount(C dividend, C divisor) {
   if (divisor == C()) detail::RaiseDivisionByZero();
-  std::int64_t quotient = 0;
-  // Only division by -1 can exceed int64.
-  if (divisor.stored() == -1) {
-    if (__builtin_sub_overflow(0, std::int64_t{dividend.stored()}, &quotient))
-      detail::RaiseAmountOverflow();
-  } else {
-    quotient = std::int64_t{dividend.stored()} / divisor.stored();
-  }
+  const detail::Int128 exact = detail::Int128{dividend.stored()} / divisor.stored();
+  const auto quotient = static_cast<std::int64_t>(exact);
+  if (quotient != exact) detail::RaiseAmountOverflow();
   return {quotient, dividend - divisor * quotient};
 }
 

@@ -86,7 +86,7 @@ class DynArray {
   /// @{
   /// Copies the elements of any range, converting each to T. Conversions from floating-point to
   /// integer elements, or to an integer type that cannot hold all values, do not compile.
-  template <std::input_iterator Iterator, std::sentinel_for<Iterator> Sentinel>
+  template <std::input_iterator Iterator, std::sentinel_for<Iterator> Sentinel = Iterator>
   requires ElementFrom<T, std::iter_value_t<Iterator>> DynArray(Iterator first, Sentinel last)
       : DynArray() {
     if constexpr (std::forward_iterator<Iterator> || std::sized_sentinel_for<Sentinel, Iterator>) {
@@ -273,7 +273,7 @@ class DynArray {
   void assign(Count length, ScalarOf<T> value) {
     *this = DynArray(length, std::move(value));
   }
-  template <std::input_iterator Iterator, std::sentinel_for<Iterator> Sentinel>
+  template <std::input_iterator Iterator, std::sentinel_for<Iterator> Sentinel = Iterator>
   requires ElementFrom<T, std::iter_value_t<Iterator>>
   void assign(Iterator first, Sentinel last) {
     *this = DynArray(std::move(first), std::move(last));

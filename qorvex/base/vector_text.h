@@ -41,8 +41,8 @@ struct ElementFormat {
     kRight
   };
 
-  Notation notation = Notation::kExact;
-  Alignment alignment = Alignment::kPoint;
+  Notation notation = Notation::kExact;     ///< The notation.
+  Alignment alignment = Alignment::kPoint;  ///< The alignment.
   int precision = 6;      ///< Not used by the exact notation, integers and amounts.
   std::size_t width = 0;  ///< The least number of characters of each element.
   char fill = ' ';        ///< What shorter elements are filled up with, except after a point.

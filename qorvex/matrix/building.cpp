@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "qorvex/matrix/conversion.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/vector/building.h"
-#include "qorvex/vector/conversion.h"
 
 namespace qorvex::inline QorvexMatrix {
 
@@ -36,9 +36,7 @@ TQorMatrix<T> CopyMatrix(const TQorMatrix<T>& matrix) {
 
 template <NumericElement T>
 TQorFloatMatrix Matrix2FloatMatrix(const TQorMatrix<T>& matrix) {
-  auto result = TQorFloatMatrix::WithLength(matrix.size());
-  std::ranges::transform(matrix, result.begin(), Vector2FloatVector<T>);
-  return result;
+  return ConvertMatrix<Extended>(matrix);
 }
 
 #define QORVEX_INSTANTIATE(T) template TQorMatrix<T> CopyMatrix(const TQorMatrix<T>&);

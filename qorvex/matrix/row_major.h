@@ -16,6 +16,7 @@
 
 namespace qorvex::inline QorvexMatrix {
 
+/// @{
 /// A matrix with so many columns, filled row by row.
 ///
 /// - No elements give an empty matrix, for any number of columns.
@@ -30,6 +31,7 @@ requires AnyElement<ElementOf<Range>>
                                                                      std::size_t cols) {
   return MatrixFromRowMajor<ElementOf<Range>>(elements, cols);
 }
+/// @}
 
 /// The elements row by row.
 ///

@@ -7,9 +7,8 @@
 ///   right-hand side one step of iterative refinement, whose residual is summed in pairs of
 ///   extended values. Up to a condition of 1e9 every element of the solution is off by little more
 ///   than its rounding; docs/accuracy.md has the figures.
-/// - Double and Single elements are converted to Extended first, and each element of the solution
-/// is
-///   rounded to its type once, at the end.
+/// - Double and Single elements are converted to Extended first; the elements of the solution are
+///   rounded to their type once, at the end.
 /// - The result is std::nullopt if the elimination finds no pivot for a column, because all its
 ///   elements are at most QorTolerance in magnitude, or if a pivot or an element of the solution is
 ///   NaN or infinite. So a NaN anywhere in the matrix or in b gives no solution. Other elements

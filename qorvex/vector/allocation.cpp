@@ -66,6 +66,20 @@ UInt128 Shifted(ConstWords number, std::size_t shift) {
   return bits == 0 ? low : low >> bits | word(first + 2) << (128 - bits);
 }
 
+// Adds 1 to a number of shares: those with the largest remainders, and of equal ones the first.
+void AddToLargest(Words shares, std::size_t count, ConstWords remainders) {
+  const std::size_t words = remainders.size() / shares.size();
+  std::vector<std::size_t> order(shares.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  const auto last = order.begin() + static_cast<std::ptrdiff_t>(count);
+  std::ranges::nth_element(order, last, [=](std::size_t i, std::size_t j) {
+    const std::strong_ordering comparison =
+        Compare(remainders.subspan(i * words, words), remainders.subspan(j * words, words));
+    return comparison != 0 ? comparison > 0 : i < j;
+  });
+  for (auto i = order.begin(); i != last; ++i) ++shares[*i];
+}
+
 // The magnitude in proportion to the weights, each share rounded down, and what that leaves of the
 // magnitude added to the shares with the largest remainders.
 std::vector<std::uint64_t> SharesOf(std::uint64_t magnitude, std::span<const BinaryParts> weights) {
@@ -110,17 +124,7 @@ std::vector<std::uint64_t> SharesOf(std::uint64_t magnitude, std::span<const Bin
     left -= shares[i];
   }
 
-  std::vector<std::size_t> order(n);
-  std::iota(order.begin(), order.end(), std::size_t{0});
-  const auto last = order.begin() + static_cast<std::ptrdiff_t>(left);
-  std::ranges::nth_element(order, last, [&](std::size_t i, std::size_t j) {
-    const auto remainder = [&](std::size_t k) {
-      return ConstWords(remainders).subspan(k * used, used);
-    };
-    const std::strong_ordering comparison = Compare(remainder(i), remainder(j));
-    return comparison != 0 ? comparison > 0 : i < j;
-  });
-  for (auto i = order.begin(); i != last; ++i) ++shares[*i];
+  AddToLargest(shares, left, remainders);
   return shares;
 }
 

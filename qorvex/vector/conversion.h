@@ -68,44 +68,47 @@ requires NumericElement<ElementOf<Range>>
   return detail::Converted<To, ElementOf<Range>>(values);
 }
 
-/// The values of an array as a new float vector, which is exact.
+/// @{
+/// The values as a new float vector: the same as ConvertVector<Extended>.
 template <ContiguousRange Range>
 requires ConvertsExactlyTo<ElementOf<Range>, Extended>
 [[nodiscard]] TQorFloatVector Array2FloatVector(const Range& values) {
   return ConvertVector<Extended>(values);
 }
+template <ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, Extended>
+[[nodiscard]] TQorFloatVector Vector2FloatVector(const Range& values) {
+  return ConvertVector<Extended>(values);
+}
+/// @}
 
-/// The values of an array of integers as a new int64 vector, which is exact.
+/// @{
+/// The values of any integer type as a new int64 vector: the same as ConvertVector<std::int64_t>.
 template <ContiguousRange Range>
 requires ConvertsExactlyTo<ElementOf<Range>, std::int64_t>
 [[nodiscard]] TQorInt64Vector Array2Int64Vector(const Range& values) {
   return ConvertVector<std::int64_t>(values);
 }
+template <ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, std::int64_t>
+[[nodiscard]] TQorInt64Vector Vector2Int64Vector(const Range& values) {
+  return ConvertVector<std::int64_t>(values);
+}
+/// @}
 
-/// The values of an array of int32 or 8- or 16-bit integers as a new int32 vector, which is exact.
+/// @{
+/// The values of int32 or of 8- or 16-bit integers as a new int32 vector: the same as
+/// ConvertVector<std::int32_t>.
 template <ContiguousRange Range>
 requires ConvertsExactlyTo<ElementOf<Range>, std::int32_t>
 [[nodiscard]] TQorLIntVector Array2LIntVector(const Range& values) {
   return ConvertVector<std::int32_t>(values);
 }
-
-/// The elements of a vector as a new float vector, which is exact.
-template <ConvertsExactlyTo<Extended> T>
-[[nodiscard]] TQorFloatVector Vector2FloatVector(const TQorVector<T>& vector) {
-  return ConvertVector<Extended>(vector);
+template <ContiguousRange Range>
+requires ConvertsExactlyTo<ElementOf<Range>, std::int32_t>
+[[nodiscard]] TQorLIntVector Vector2LIntVector(const Range& values) {
+  return ConvertVector<std::int32_t>(values);
 }
-
-/// The elements of a vector of integers as a new int64 vector, which is exact.
-template <ConvertsExactlyTo<std::int64_t> T>
-[[nodiscard]] TQorInt64Vector Vector2Int64Vector(const TQorVector<T>& vector) {
-  return ConvertVector<std::int64_t>(vector);
-}
-
-/// The elements of a vector of int32 or 8- or 16-bit integers as a new int32 vector, which is
-/// exact.
-template <ConvertsExactlyTo<std::int32_t> T>
-[[nodiscard]] TQorLIntVector Vector2LIntVector(const TQorVector<T>& vector) {
-  return ConvertVector<std::int32_t>(vector);
-}
+/// @}
 
 }  // namespace qorvex::inline QorvexVector

@@ -1,4 +1,4 @@
-// Runs the command random of the built program.
+// Compares the command random of the built program with the routines of the library.
 
 #include "qorvex/base/random.h"
 
@@ -53,51 +53,10 @@ TEST(RandomCommand, PrintsTheVariatesOfTheLibraryForASeed) {
     ExpectOutput(std::string("qorvex random ") + arguments + " --count 20 --seed " + Int2EStr(seed),
                  lines);
   }
-  // The page about the command line has an example with a seed.
-  ExpectOutput("qorvex random multivariate-normal --mean 8 --covariance 1e-9 --decimals 2",
-               "8.00\n");
 }
 
 TEST(RandomCommand, TakesASeedFromTheSystemByDefault) {
   EXPECT_NE(Shell("qorvex random uniform"), Shell("qorvex random uniform"));
-}
-
-TEST(RandomCommand, DescribesItsLimits) {
-  ExpectOutput("qorvex random von-mises --help | sed -n '/^Limits/,/^$/p'",
-               "Limits:\n  --concentration is at least 0 and, with --classic, below 10.\n\n");
-  ExpectOutput("qorvex random poisson --help | grep -o 'with --classic.*'",
-               "with --classic and --lambda below 10, no variate exceeds 35.\n");
-  ExpectOutput("qorvex random normal --help | grep -c Limits", "0\nexit status 1\n");
-}
-
-TEST(RandomCommand, PrintsAsItDraws) {
-  ExpectOutput("qorvex random uniform --count 1e19 | head -n 4000 | wc -l", "4000\n");
-  ExpectOutput("qorvex random uniform --count 1e19 >/dev/full",
-               "qorvex: standard output: No space left on device\nexit status 1\n");
-  ExpectOutput("qorvex random uniform --count 0", "");
-}
-
-TEST(RandomCommand, RefusesWhatTheRoutineRefuses) {
-  ExpectRefusals("qorvex random @ --seed 1", R"(
-chi-square --df 0 => chi-square: The shape parameter is out of range: --df is at least 1
-student-t --df 1e-6 => student-t: the result or an intermediate result is beyond the range of extended precision
-von-mises --concentration=-1 => von-mises: The value is out of range: --concentration is at least 0
-log-normal --mean 1e5 => log-normal: the result or an intermediate result is beyond the range of extended precision
-gamma --shape 2 --scale 1e4932 => gamma: the result or an intermediate result is beyond the range of extended precision
-)");
-  ExpectUsageErrors("qorvex random @", R"(
-gamma => --shape is required
-gamma --shape 0 => --shape: "0" is not greater than 0
-student-t --df 0 => --df: "0" is not from 1e-17 to 1e15
-student-t --df 2.5 --classic => --df: 2.5 is not a whole number from 0 to 2147483647, as --classic needs
-uniform --seed=-1 => --seed: "-1" is not a whole number from 0 to 18446744073709551615
-multivariate-normal --mean 1,,2 --covariance 1 => --mean: "" is not a number
-multivariate-normal --mean 1,2 --covariance 1,2 => --covariance: the upper triangle for 2 means has 3 numbers, not 2
-beta --a 1 --b 1 --lower-end 1 => --upper-end must be greater than --lower-end
-binomial --success-probability 1 --trials 3e9 --method inversion => --trials: 3000000000 is not a whole number from 0 to 2147483647, as --method inversion needs
-)");
-  ExpectUsageError("qorvex random binomial --success-probability 1 --trials 1 --method both",
-                   "--method: \"both\" is not one of btpe|inversion");
 }
 
 }  // namespace qorvex::apps

@@ -29,11 +29,7 @@ TYPED_TEST(SameFloatOf, IsRelativeAtEverySize) {
   using Limits = std::numeric_limits<T>;
   constexpr T eps = Limits::epsilon();
   const testing::KeptTolerance kept;
-  const struct {
-    Extended tolerance;
-    T x, y;
-    bool same;
-  } cases[] = {
+  const std::tuple<Extended, T, T, bool> cases[] = {
       {0, 1, 1 + 3 * eps, true},
       {0, 1, 1 + 5 * eps, false},
       {1e-15L, 1, T(1 + 0.9e-15L), true},

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <random>
+#include <unordered_map>
 
 #include "qorvex/base/currency_literals.h"
 #include "support/amounts.h"
@@ -38,62 +39,74 @@ TEST(CurrencyLiterals, RefuseWhatIsNotExactlyAnAmount) {
 
 static_assert(DivideAmount(10.00_qor_currency, 3).remainder == 0.01_qor_currency);
 
+// The ends of the range and numbers of every size.
+template <class Stored>
+std::vector<Stored> Values() {
+  using Limits = std::numeric_limits<Stored>;
+  std::vector<Stored> values{Limits::min(),     Limits::min() + 1, -1, 0, 1,
+                             Limits::max() - 1, Limits::max()};
+  std::mt19937_64 engine(14);
+  for (unsigned i = 0; i < 40; ++i)
+    values.push_back(
+        static_cast<Stored>(static_cast<Stored>(engine()) >> (i % 8 * sizeof(Stored))));
+  return values;
+}
+
+// Expects an amount with this stored integer, or EOverflow if that is out of range.
+template <class Routine>
+void ExpectStored(Int128 expected, Routine routine) {
+  const auto stored = static_cast<typename decltype(routine())::StoredType>(expected);
+  if (expected == stored) {
+    ASSERT_EQ(routine().stored(), stored);
+  } else {
+    EXPECT_ERROR(routine(), EOverflow, rsAmountOverflow);
+  }
+}
+
 template <class C>
-class AmountsOf : public ::testing::Test {
- protected:
-  using Stored = typename C::StoredType;
-  static constexpr Stored kSmallest = std::numeric_limits<Stored>::min();
-  static constexpr Stored kLargest = std::numeric_limits<Stored>::max();
-
-  // The ends of the range and numbers of every size.
-  static std::vector<Stored> Values() {
-    std::vector<Stored> values{kSmallest, kSmallest + 1, -1, 0, 1, kLargest - 1, kLargest};
-    std::mt19937_64 engine(14);
-    for (unsigned i = 0; i < 40; ++i)
-      values.push_back(static_cast<Stored>(static_cast<Stored>(engine()) >> (i % (8 * sizeof(C)))));
-    return values;
-  }
-
-  // Expects this stored integer, or EOverflow if it is out of range.
-  template <class Routine>
-  static void ExpectStored(Int128 expected, Routine routine) {
-    if (expected == static_cast<Stored>(expected)) {
-      ASSERT_EQ(routine().stored(), static_cast<Stored>(expected));
-    } else {
-      EXPECT_ERROR(routine(), EOverflow, rsAmountOverflow);
-    }
-  }
-};
+class AmountsOf : public ::testing::Test {};
 TYPED_TEST_SUITE(AmountsOf, CurrencyTypes);
 
-TYPED_TEST(AmountsOf, AreExactOrRaise) {
+TYPED_TEST(AmountsOf, AreExactOrWrapOrRaise) {
   using C = TypeParam;
-  for (const auto x : this->Values()) {
+  using Stored = typename C::StoredType;
+  for (const Stored x : Values<Stored>()) {
     const Int128 wide = x;
-    for (const auto y : this->Values()) {
-      this->ExpectStored(wide + y, [=] { return CheckedAdd(C(x), C(y)); });
-      this->ExpectStored(wide - y, [=] { return CheckedSubtract(C(x), C(y)); });
-      this->ExpectStored(wide * y, [=] { return CheckedMultiply(C(x), y); });
+    EXPECT_EQ((-C(x)).stored(), static_cast<Stored>(-wide));
+    EXPECT_EQ(abs(C(x)).stored(), static_cast<Stored>(x < 0 ? -wide : wide));
+    for (const Stored y : Values<Stored>()) {
+      EXPECT_EQ((C(x) + C(y)).stored(), static_cast<Stored>(wide + y));
+      EXPECT_EQ((C(x) - C(y)).stored(), static_cast<Stored>(wide - y));
+      EXPECT_EQ((C(x) * y).stored(), static_cast<Stored>(wide * y));
+      EXPECT_EQ((std::int64_t{y} * C(x)).stored(), static_cast<Stored>(wide * y));
+      ExpectStored(wide + y, [=] { return CheckedAdd(C(x), C(y)); });
+      ExpectStored(wide - y, [=] { return CheckedSubtract(C(x), C(y)); });
+      ExpectStored(wide * y, [=] { return CheckedMultiply(C(x), y); });
       if (y == 0) {
         EXPECT_ERROR(DivideAmount(C(x), y), EZeroDivide, rsDivideByZero);
         EXPECT_ERROR(DivideAmount(C(x), C(y)), EZeroDivide, rsDivideByZero);
         continue;
       }
-      this->ExpectStored(wide / y, [=] { return DivideAmount(C(x), y).quotient; });
       const Int128 quotient = wide / y;
-      if (y != -1) {
-        EXPECT_EQ(DivideAmount(C(x), y).remainder.stored(), x % y);
+      const C remainder(static_cast<Stored>(wide % y));
+      ExpectStored(quotient, [=] { return DivideAmount(C(x), y).quotient; });
+      if (quotient == static_cast<Stored>(quotient)) {
+        EXPECT_EQ(DivideAmount(C(x), y).remainder, remainder);
       }
       if (quotient == static_cast<std::int64_t>(quotient)) {
-        const auto [count, rest] = DivideAmount(C(x), C(y));
-        EXPECT_TRUE(count == quotient && Int128{rest.stored()} == wide - quotient * y);
+        EXPECT_TRUE(DivideAmount(C(x), C(y)).quotient == quotient &&
+                    DivideAmount(C(x), C(y)).remainder == remainder);
       } else {
         EXPECT_ERROR(DivideAmount(C(x), C(y)), EOverflow, rsAmountOverflow);
       }
     }
-    EXPECT_EQ(DivideAmount(C(x), UINT64_MAX).quotient, C());
-    EXPECT_EQ(DivideAmount(C(x), UINT64_MAX).remainder, C(x));
+    EXPECT_EQ(DivideAmount(C(x), UINT64_MAX), (AmountDivision<C, C>{C(), C(x)}));
   }
+}
+
+TEST(CurrencyArithmetic, AmountsAreKeysOfUnorderedContainers) {
+  const std::unordered_map<Currency, int> counts{{1_currency, 3}, {2_currency, 5}};
+  EXPECT_TRUE(counts.at(2_currency) == 5 && !counts.contains(3_currency));
 }
 
 // dividend / divisor, for each mode from the floor and what is above it.
@@ -120,18 +133,18 @@ constexpr RoundingMode kModes[] = {RoundingMode::kToNearestEven, RoundingMode::k
 
 TYPED_TEST(AmountsOf, AreMultipliedWithOneRounding) {
   using C = TypeParam;
+  using Stored = typename C::StoredType;
   std::vector<std::int64_t> integers{INT64_MIN, -200, -8, -3, -1, 1, 2, 7, 16, 1000, INT64_MAX};
-  for (const auto x : this->Values()) {
+  for (const Stored x : Values<Stored>()) {
     for (const std::int64_t numerator : integers) {
       for (const std::int64_t denominator : integers) {
         const auto expected = RoundedQuotients(Int128{x} * numerator, denominator);
         for (const RoundingMode mode : kModes) {
           const Int128 rounded = expected[static_cast<std::size_t>(mode)];
-          this->ExpectStored(rounded,
-                             [=] { return MultiplyAmount(C(x), numerator, denominator, mode); });
+          ExpectStored(rounded, [=] { return MultiplyAmount(C(x), numerator, denominator, mode); });
           // Powers of two are exact as factors.
           if (denominator != 16 && denominator != -8) continue;
-          this->ExpectStored(rounded, [=] {
+          ExpectStored(rounded, [=] {
             const auto factor =
                 static_cast<Extended>(numerator) / static_cast<Extended>(denominator);
             return MultiplyAmount(C(x), factor, mode);
@@ -175,20 +188,17 @@ TEST(CurrencyArithmetic, ExtendedFactorsOfEverySize) {
 }
 
 TEST(CurrencyArithmetic, RoundsToAnotherType) {
-  for (const std::int64_t x : {16'395'050L, -16'395'050L, 16'395'000L, -5L, 100L, INT64_MAX}) {
-    const auto expected = RoundedQuotients(x, 10'000);
-    for (const RoundingMode mode : kModes) {
-      const Int128 cents = expected[static_cast<std::size_t>(mode)];
-      const auto rounded = [=] { return RoundAmount<QorCurrency>(QorLongCurrency(x), mode); };
-      if (x == INT64_MAX) {
-        EXPECT_ERROR(rounded(), EOverflow, rsAmountOverflow);
-      } else {
-        EXPECT_EQ(rounded(), QorCurrency(static_cast<std::int32_t>(cents)));
-      }
+  const auto cents = [](std::int64_t stored, RoundingMode mode) {
+    return RoundAmount<QorCurrency>(QorLongCurrency(stored), mode);
+  };
+  for (const RoundingMode mode : kModes) {
+    for (const std::int64_t x : {16'395'050, -16'395'050, 16'395'000, -5, 10'000}) {
+      const Int128 rounded = RoundedQuotients(x, 10'000)[static_cast<std::size_t>(mode)];
+      EXPECT_EQ(cents(x, mode).stored(), rounded);
     }
+    EXPECT_ERROR(cents(INT64_MAX, mode), EOverflow, rsAmountOverflow);
+    EXPECT_EQ(RoundAmount<Currency>(-12.34_qor_currency, mode), -12.34_currency);
   }
-  EXPECT_EQ(RoundAmount<QorLongCurrency>(12.34_qor_currency, RoundingMode::kUp),
-            12.34_qor_long_currency);
 }
 
 }  // namespace

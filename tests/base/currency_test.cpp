@@ -2,7 +2,6 @@
 
 #include <functional>
 #include <random>
-#include <unordered_map>
 #include <utility>
 
 #include "qorvex/base/rounding.h"
@@ -103,32 +102,6 @@ static_assert(!std::is_invocable_v<std::plus<>, Currency, QorCurrency> &&
               !std::is_invocable_v<std::multiplies<>, Currency, double> &&
               !std::is_invocable_v<std::multiplies<>, Currency, Currency>);
 static_assert(QorCurrency(1250) * 3 - QorCurrency(50) == QorCurrency(3700));
-
-template <class C>
-class AmountOf : public ::testing::Test {};
-TYPED_TEST_SUITE(AmountOf, CurrencyTypes);
-
-TYPED_TEST(AmountOf, ArithmeticIsExactAndWrapsInTheStoredWidth) {
-  using C = TypeParam;
-  using Stored = typename C::StoredType;
-  constexpr Stored smallest = std::numeric_limits<Stored>::min();
-  constexpr Stored largest = std::numeric_limits<Stored>::max();
-  std::vector<Stored> values{smallest, smallest + 1, -7, -1, 0, 1, 100, largest - 1, largest};
-  std::mt19937_64 engine(12);
-  for (int i = 0; i < 30; ++i) values.push_back(static_cast<Stored>(engine()));
-  for (const Stored x : values) {
-    const Int128 wide = x;
-    EXPECT_EQ((-C(x)).stored(), static_cast<Stored>(-wide));
-    EXPECT_EQ(abs(C(x)).stored(), static_cast<Stored>(x < 0 ? -wide : wide));
-    EXPECT_TRUE((std::unordered_map<C, int>{{C(x), 1}}.contains(C(x))));
-    for (const Stored y : values) {
-      EXPECT_EQ((C(x) + C(y)).stored(), static_cast<Stored>(wide + y));
-      EXPECT_EQ((C(x) - C(y)).stored(), static_cast<Stored>(wide - y));
-      EXPECT_EQ((C(x) * y).stored(), static_cast<Stored>(wide * y));
-      EXPECT_EQ((std::int64_t{y} * C(x)).stored(), static_cast<Stored>(wide * y));
-    }
-  }
-}
 
 TEST(RoundToInteger, MarksWhatDoesNotFit) {
   EXPECT_EQ(RoundToInteger<std::int32_t>(2147483647.4L), 2147483647);

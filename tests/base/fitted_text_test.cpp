@@ -71,30 +71,19 @@ TEST(FittedFloatText, HasAllTheDigitsThatFit) {
   }
 }
 
-TEST(FittedFloatText, LosesDecimalsThenTakesExponentFormThenTheMark) {
-  const FloatDigits four;
-  const FloatDigits all{.all = true};
-  const struct {
-    Extended value;
-    FloatDigits digits;
-    std::size_t length;
-    const char* text;
-  } cases[] = {
-      {-7654321.5L, four, 13, "-7654321.5000"},
-      {-7654321.5L, four, 9, "-7654322"},
-      {-7654321.5L, four, 7, "-7.65e6"},
-      {-7654321.5L, four, 3, "###"},
-      {999999.6L, four, 6, "1.00e6"},
-      {0.00012345L, {.decimals = 8}, 5, "1e-4"},
-      {-0.0L, all, 5, "0"},
-      {-0.4L, {.decimals = 1}, 3, "###"},
-      {1.29996L, {.decimals = 6, .trim = true}, 5, "1.3"},
+// What the random numbers do not reach.
+TEST(FittedFloatText, TakesExponentFormThenTheMarkForUnusualNumbers) {
+  const std::tuple<Extended, FloatDigits, std::size_t, const char*> cases[] = {
+      {-7654321.5L, {}, 9, "-7654322"},
+      {-7654321.5L, {}, 7, "-7.65e6"},
+      {-7654321.5L, {}, 3, "###"},
+      {-0.0L, {.all = true}, 5, "0"},
       {1e4000L, {.trim = true}, 7, "1e4000"},
-      {0x1p63L, four, 30, "9223372036854775808"},
-      {0x1p64L, four, 10, "1.84467e19"},
+      {0x1p63L, {}, 30, "9223372036854775808"},
+      {0x1p64L, {}, 10, "1.84467e19"},
       {1e-200L, {.decimals = 255}, 7, "1e-200"},
-      {-kInfinity, four, 4, "-inf"},
-      {kInfinity, four, 2, "##"},
+      {-kInfinity, {}, 4, "-inf"},
+      {kInfinity, {}, 2, "##"},
   };
   for (const auto& [value, digits, length, text] : cases) {
     EXPECT_EQ(FittedFloatText(value, digits, length), text) << value << " in " << length;

@@ -39,11 +39,7 @@ TEST(Float2MixedFraction, IsWithinHalfADecimalAndInLowestTerms) {
 }
 
 TEST(Fractions, AreReadAndWritten) {
-  const struct {
-    const char* text;
-    const char* mixed;
-    const char* improper;
-  } cases[] = {
+  const char* const cases[][3] = {
       {"2 1/3", "2 1/3", "7/3"},
       {"-7/5", "-1 2/5", "-7/5"},
       {" +3 ", "3", "3"},

@@ -7,10 +7,7 @@
 namespace qorvex {
 
 TEST(Str2Float, RoundsCorrectly) {
-  const struct {
-    const char* text;
-    Extended value;
-  } cases[] = {
+  const std::pair<const char*, Extended> cases[] = {
       {"0.1", 0.1L},
       {"  -2.5e3\t", -2500},
       {"+.5", 0.5L},

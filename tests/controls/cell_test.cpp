@@ -37,6 +37,14 @@ struct Cells : testing::Test {
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) {
     QTest::keyClick(cell, key, modifiers);
   }
+  void Enter(const char* text) {
+    Type(text);
+    Press(Qt::Key_Return);
+  }
+  void TypeAndLeave(const char* text) {
+    Type(text);
+    other->setFocus();
+  }
 };
 using FloatCell = Cells<TQorFloatEdit>;
 using FractCell = Cells<TQorFractEdit>;
@@ -68,8 +76,7 @@ TYPED_TEST(Cells, CommitExactlyWhatIsTypedAndNothingElse) {
   this->Type("2.5");
   this->Press(Qt::Key_Enter, Qt::KeypadModifier);
   EXPECT_EQ(edit->Value(), 2.5L);
-  this->Type("-4");
-  this->other->setFocus();
+  this->TypeAndLeave("-4");
   EXPECT_EQ(edit->Value(), -4);
   EXPECT_EQ(changed.count(), 2);
 }
@@ -79,8 +86,7 @@ TYPED_TEST(Cells, MarkInvalidTextAndNeverStoreIt) {
   edit->setValue(7);
   const QString shown = edit->text();
   const QColor base = edit->palette().color(QPalette::Base);
-  this->Type("12x");
-  this->Press(Qt::Key_Return);
+  this->Enter("12x");
   EXPECT_EQ(edit->text(), "12x");
   EXPECT_EQ(edit->accessibleDescription(), "Not a number");
   EXPECT_NE(edit->palette().color(QPalette::Base), base);
@@ -91,13 +97,11 @@ TYPED_TEST(Cells, MarkInvalidTextAndNeverStoreIt) {
   this->Press(Qt::Key_Return);
   this->Press(Qt::Key_Escape);
   EXPECT_EQ(edit->text(), shown);
-  this->Type("1,5");
-  this->other->setFocus();
+  this->TypeAndLeave("1,5");
   EXPECT_EQ(edit->Value(), 7);
   EXPECT_FALSE(edit->Pending());
   edit->setReadOnly(true);
-  this->Type("8");
-  this->other->setFocus();
+  this->TypeAndLeave("8");
   EXPECT_EQ(edit->Value(), 7);
 }
 
@@ -119,16 +123,13 @@ TYPED_TEST(Cells, ReadAndShowNullAndZero) {
   EXPECT_EQ(edit->text(), "");
   edit->setAllowKbdNull(false);
   edit->setValue(3);
-  this->Type("n/a");
-  this->other->setFocus();
+  this->TypeAndLeave("n/a");
   EXPECT_EQ(edit->Value(), 3) << "null cannot be typed";
-  this->Type(" ");
-  this->other->setFocus();
+  this->TypeAndLeave(" ");
   EXPECT_EQ(edit->Value(), 0) << "a zero shows as blank";
   edit->setBlankWhenZero(false);
   edit->setValue(3);
-  this->Type(" ");
-  this->other->setFocus();
+  this->TypeAndLeave(" ");
   EXPECT_EQ(edit->Value(), 3);
 }
 
@@ -172,8 +173,7 @@ TEST_F(FloatCell, FollowsItsLocale) {
   cell->setValue(-1.5L);
   cell->setLocale(QLocale(QLocale::German));
   EXPECT_EQ(cell->text(), "-1,5000");
-  Type("2,25");
-  Press(Qt::Key_Return);
+  Enter("2,25");
   EXPECT_EQ(cell->Value(), 2.25L);
   Type("3");
   // The keypad's point is what a German keypad labels a comma.
@@ -185,8 +185,7 @@ TEST_F(FloatCell, FollowsItsLocale) {
   cell->OnConvert = [](const QString& text) -> std::optional<Extended> {
     return text == "dozen" ? std::optional<Extended>(12) : std::nullopt;
   };
-  Type("dozen");
-  Press(Qt::Key_Return);
+  Enter("dozen");
   EXPECT_EQ(cell->text(), "12,0000");
 }
 
@@ -232,25 +231,28 @@ TEST_F(FloatCell, KeepsToThePaletteUntilAColourIsSet) {
   cell->resetColorSetNegativeText();
   EXPECT_FALSE(cell->testAttribute(Qt::WA_SetPalette));
   // The mark of an invalid text has contrast on the form that it is on.
-  window.setPalette(QPalette(Qt::black));
-  Type("x");
-  Press(Qt::Key_Return);
-  EXPECT_LT(cell->palette().color(QPalette::Base).lightness(), 128);
-  EXPECT_GT(cell->palette().color(QPalette::Text).lightness(), 128);
+  Enter("x");
+  for (const bool dark : {true, false}) {
+    window.setPalette(QPalette(dark ? Qt::black : Qt::white));
+    const QColor text = cell->palette().color(QPalette::Text);
+    EXPECT_EQ(cell->palette().color(QPalette::Base).lightness() < 128, dark);
+    EXPECT_EQ(text.lightness() > 128, dark);
+    EXPECT_GT(text.red(), text.green());
+  }
 }
 
 TEST_F(FractCell, ShowsAndTakesFractions) {
   cell->setValue(7 / 3.0L);
   EXPECT_EQ(cell->text(), "2 1/3");
-  Type("-1 3/4");
-  Press(Qt::Key_Return);
+  cell->setDecimalsFract(-1);
+  EXPECT_EQ(cell->text(), "2") << "no decimals";
+  cell->setDecimalsFract(9);
+  Enter("-1 3/4");
   EXPECT_EQ(cell->Value(), -1.75L);
-  Type("1/0");
-  Press(Qt::Key_Return);
+  Enter("1/0");
   EXPECT_EQ(cell->Value(), -1.75L);
   Press(Qt::Key_Escape);
-  Type("0.2");
-  Press(Qt::Key_Return);
+  Enter("0.2");
   EXPECT_EQ(cell->Value(), 0.2L);
   EXPECT_EQ(cell->text(), "1/5");
 }

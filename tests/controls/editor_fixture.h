@@ -50,7 +50,7 @@ struct EditorFixture : testing::Test {
     layout->addWidget(editor);
     layout->addWidget(other);
     other->setFocus();
-    Record();
+    RecordAll();
   }
 
   void Show() {
@@ -103,6 +103,14 @@ struct EditorFixture : testing::Test {
     Show();
   }
 
+  /// Calls a handler as long as the result lives.
+  template <class Signal, class Handler>
+  std::unique_ptr<QObject> On(Signal signal, Handler handler) {
+    auto context = std::make_unique<QObject>();
+    QObject::connect(editor, signal, context.get(), handler);
+    return context;
+  }
+
   /// What has happened since the last call.
   std::string Take() {
     const std::string text = log.join(QLatin1String(", ")).toStdString();
@@ -123,6 +131,10 @@ struct EditorFixture : testing::Test {
     QTest::keyClick(window->windowHandle(), key, modifiers);
   }
   void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
+  void Enter(const char* text) {
+    Type(text);
+    Press(Qt::Key_Return);
+  }
 
   std::string Texts() const {
     QStringList texts;
@@ -132,7 +144,7 @@ struct EditorFixture : testing::Test {
 
  private:
   template <class Sender, class... Arguments>
-  void On(void (Sender::*signal)(Arguments...), const char* name) {
+  void Record(void (Sender::*signal)(Arguments...), const char* name) {
     QObject::connect(editor, signal, editor, [this, name](Arguments... arguments) {
       QStringList words{QLatin1String(name)};
       (words.append(Word(arguments)), ...);
@@ -143,24 +155,25 @@ struct EditorFixture : testing::Test {
   static QString Word(Extended value) { return QString::fromStdString(Float2Str(value)); }
   static QString Word(const QString& text) { return text; }
 
-  void Record() {
-    On(&Editor::OnChange, "change");
-    On(&Editor::OnChangeText, "text");
-    On(&Editor::OnNull, "null");
-    On(&Editor::OnSetElement, "set");
+  void RecordAll() {
+    Record(&Editor::OnChange, "change");
+    Record(&Editor::OnChangeText, "text");
+    Record(&Editor::OnNull, "null");
+    Record(&Editor::OnSetElement, "set");
     if constexpr (kIsVector) {
-      On(&Editor::OnRowNoChange, "rows");
-      On(&Editor::OnAfterTopChange, "after");
+      Record(&Editor::OnRowNoChange, "rows");
+      Record(&Editor::OnAfterTopChange, "after");
     } else {
-      On(&Editor::OnNoRowsChange, "rows");
-      On(&Editor::OnNoColsChange, "cols");
-      On(&Editor::OnLeftChange, "left");
-      On(&Editor::OnCurrColChange, "column");
+      Record(&Editor::OnNoRowsChange, "rows");
+      Record(&Editor::OnNoColsChange, "cols");
+      Record(&Editor::OnLeftChange, "left");
+      Record(&Editor::OnCurrColChange, "column");
     }
-    On(&Editor::ontopChange, "top");
-    On(&Editor::OnCurrRowChange, "current");
-    On(&Editor::OnCellEnter, "in");
-    On(&Editor::OnCellExit, "out");
+    Record(&Editor::ontopChange, "top");
+    Record(&Editor::OnCurrRowChange, "current");
+    Record(&Editor::OnCellEnter, "in");
+    Record(&Editor::OnCellExit, "out");
+    Record(&Editor::OnBlockRefused, "refused");
   }
 };
 

@@ -28,12 +28,7 @@ TEST_F(EditorHazards, AKeyAfterTheBarLeavesTheCellAndComesBack) {
 TEST_F(EditorHazards, HandlersThatChangeTheVectorLoseNothing) {
   editor->setVector({0, 1, 2, 3, -1});
   Show();
-  std::unique_ptr<QObject> handler;
-  const auto on_change = [this, &handler](auto run) {
-    handler = std::make_unique<QObject>();
-    QObject::connect(editor, &TQorVectorEdit::OnChange, handler.get(), run);
-  };
-  on_change([this](quint32 row) {
+  auto handler = On(&TQorVectorEdit::OnChange, [this](quint32 row) {
     if (row == 1) editor->Sort();
   });
   EXPECT_TRUE(editor->PasteBlock("10\n20"));
@@ -43,10 +38,10 @@ TEST_F(EditorHazards, HandlersThatChangeTheVectorLoseNothing) {
   EXPECT_TRUE(std::ranges::equal(editor->Vector(), TQorFloatVector{10, 20, 2, 3, -1}));
 
   // A sum that a handler keeps in the last row does not stand in the way of the user's undo.
-  on_change([this] { editor->setElement(4, editor->Element(0) + editor->Element(1)); });
+  handler = On(&TQorVectorEdit::OnChange,
+               [this] { editor->setElement(4, editor->Element(0) + editor->Element(1)); });
   editor->setEditFocus(0);
-  Type("1");
-  Press(Qt::Key_Return);
+  Enter("1");
   EXPECT_EQ(editor->Element(4), 21);
   Press(Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(editor->Element(4), 30);
@@ -54,14 +49,12 @@ TEST_F(EditorHazards, HandlersThatChangeTheVectorLoseNothing) {
   EXPECT_EQ(editor->Element(4), 21);
 
   // What is typed is committed before rows are checked: the handler shortens the vector.
-  on_change([this] { editor->setNoOfRows(2); });
+  handler = On(&TQorVectorEdit::OnChange, [this] { editor->setNoOfRows(2); });
   Type("5");
   EXPECT_MATH_ERROR(editor->SwapElements(0, 4), rsInvalidRow);
-  handler.reset();
 
   // A handler of the number of rows finds the new elements.
-  QObject::connect(editor, &TQorVectorEdit::OnRowNoChange, editor,
-                   [this] { EXPECT_EQ(editor->Element(2), 9); });
+  handler = On(&TQorVectorEdit::OnRowNoChange, [this] { EXPECT_EQ(editor->Element(2), 9); });
   editor->setVector({7, 8, 9});
 }
 
@@ -74,8 +67,7 @@ TEST_F(EditorHazards, TheProgramMayStoreAnotherValueOrFewerRows) {
   editor->OnGetElement = [&kept](quint32) { return kept; };
   Show();
   editor->setEditFocus(0);
-  Type("99");
-  Press(Qt::Key_Return);
+  Enter("99");
   EXPECT_EQ(Cell(0)->text(), "10.0000");
   editor->OnGetElement = [this](quint32 row) { return editor->setNoOfRows(2), Extended(row); };
   editor->Redisplay();

@@ -16,14 +16,6 @@ template <class Editor>
 struct Editors : EditorFixture<Editor> {
   // Whole numbers then look the same as decimal numbers and as fractions.
   Editors() { this->editor->setDecimalPlaces(0); }
-
-  /// Calls a handler as long as the result lives.
-  template <class Signal, class Handler>
-  std::unique_ptr<QObject> On(Signal signal, Handler handler) {
-    auto context = std::make_unique<QObject>();
-    QObject::connect(this->editor, signal, context.get(), handler);
-    return context;
-  }
 };
 using EditorTypes =
     testing::Types<TQorVectorEdit, TQorLabelledVectorEdit, TQorMatrixEdit, TQorMatrixFractEdit>;
@@ -84,6 +76,7 @@ TYPED_TEST(Editors, KeepWhatIsBeingTypedWhileElementsChange) {
   this->Press(Qt::Key_PageDown);
   EXPECT_EQ(this->editor->DisplayTopRow(), 5U);
   this->Press(Qt::Key_PageUp);
+  EXPECT_EQ(this->editor->DisplayTopRow(), 1U);
   this->Press(Qt::Key_PageUp);
   EXPECT_EQ(this->Texts(), "50|7|2|3");
   this->editor->Undo();
@@ -214,6 +207,8 @@ TYPED_TEST(Editors, ShareSettingsAndOutliveThem) {
   shared.reset();
   EXPECT_EQ(this->Cell(1)->alignment(), Qt::AlignRight | Qt::AlignVCenter);
   EXPECT_EQ(this->editor->UICtrl(), nullptr);
+  this->editor->setColorSetNegativeText(Qt::green);
+  EXPECT_EQ(this->editor->ColorSet()->NegativeText(), QColor(Qt::green));
   // The editor raises its signal first, whichever way the colour is set.
   this->Take();
   const auto first = this->On(&CellPanel::OnColorSetChange, [this] { this->log << "editor"; });
@@ -282,8 +277,7 @@ TYPED_TEST(Editors, SelectANewTextSoThatTheNextKeyReplacesIt) {
   EXPECT_EQ(this->Cell(1)->text(), "7");
   // The last row keeps the focus when Enter cannot go on.
   this->FocusEdit(3);
-  this->Type("05");
-  this->Press(Qt::Key_Return);
+  this->Enter("05");
   this->Type("6");
   EXPECT_EQ(this->Cell(3)->text(), "6");
   // A read-only editor keeps what was typed before, and cannot undo it.

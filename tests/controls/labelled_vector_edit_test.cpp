@@ -92,8 +92,7 @@ TEST_F(LabelledVectorEdit, KeepsNavigationInTheColumnOfLabels) {
   record(&TQorLabelledVectorEdit::OnLabelExit, "exit ");
   LabelCell(2)->setFocus();
   Take();
-  Type("see");
-  Press(Qt::Key_Return);
+  Enter("see");
   EXPECT_TRUE(LabelCell(3)->hasFocus());
   EXPECT_EQ(editor->CurrentRow(), 3U);
   Type("dee");

@@ -152,17 +152,13 @@ TEST_F(Designer, SavesEveryPropertyThatWasChangedUntilItIsReset) {
 }
 
 TEST_F(Designer, KeepsNumbersAndNamesFromTranslators) {
-  const struct {
-    const char* class_name;
-    const char* property;
-    const char* saved;
-  } kCases[] = {
+  const char* const cases[][3] = {
       {"qorvex::TQorVectorEdit", "UICtrl", "<string notr=\"true\">typed</string>"},
       {"qorvex::TQorVectorEdit", "NullStr", "<string>typed</string>"},
       {"qorvex::TQorMathLabel", "FocusControl", "<string notr=\"true\">typed</string>"},
       {"qorvex::TQorMathLabel", "Caption", "<string>typed</string>"},
   };
-  for (const auto& [class_name, property, saved] : kCases) {
+  for (const auto& [class_name, property, saved] : cases) {
     SCOPED_TRACE(property);
     ASSERT_NO_FATAL_FAILURE(LoadNew(class_name));
     ASSERT_NO_FATAL_FAILURE(Type(property, "typed"));

@@ -19,8 +19,9 @@ TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
        TYPES_OF(OverwriteMatrixRow(m, 0, v, x)), TYPES_OF(OverwriteMatrixCol(m, 0, v, x)),
        TYPES_OF(QSortMatrixRowsOnCol(m, 0, true)), TYPES_OF(QSortMatrixColsOnRow(m, 0, true)),
        TYPES_OF(SwapMatrixRows(m, 0, 1)), TYPES_OF(SwapMatrixCols(m, 0, 1))});
-  ExpectTypes("gdfjuiwsbtCSL", {TYPES_OF(MatrixFromRows(m)), TYPES_OF(MatrixFromRowMajor(v, 1)),
-                                TYPES_OF(MatrixToRowMajor(m))});
+  ExpectTypes("gdfjuiwsbtCSL",
+              {TYPES_OF(MatrixFromRows(m)), TYPES_READ_BY(MatrixFromRowMajor(v, 1)),
+               TYPES_OF(MatrixToRowMajor(m))});
   ExpectTypes("gdfjiCSL",
               {TYPES_OF(AddMatrices(m, m)), TYPES_OF(AddToMatrix(m, m)),
                TYPES_OF(SubtractMatrices(m, m)), TYPES_OF(SubtractFromMatrix(m, m)),
@@ -34,17 +35,17 @@ TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
               TYPES_OF(Log10Matrix(m)), TYPES_OF(MultiplyMatrices(m, m)),
               TYPES_OF(RowEchelonForm(m)), TYPES_OF(RowEchelonFormRank(m, i)),
               TYPES_OF(MatrixInverse(m, m)), TYPES_OF(MatrixDeterminant(m))});
-  ExpectTypes("gdf",
-              {TYPES_OF(Inverse(m)), TYPES_OF(Determinant(m)), TYPES_OF(Rank(m)),
-               TYPES_OF(RowEchelon(m)), TYPES_OF(Solve(m, v)), TYPES_OF(Solve(m, m)),
-               TYPES_OF(MultiplyMatrixByVector(m, v)), TYPES_OF(MultiplyVectorByMatrix(v, m))});
+  ExpectTypes("gdf", {TYPES_OF(Inverse(m)), TYPES_OF(Determinant(m)), TYPES_OF(Rank(m)),
+                      TYPES_OF(RowEchelon(m)), TYPES_READ_BY(Solve(m, v)), TYPES_OF(Solve(m, m)),
+                      TYPES_READ_BY(MultiplyMatrixByVector(m, v)),
+                      TYPES_READ_BY(MultiplyVectorByMatrix(v, m))});
   ExpectTypes("gdfjuwsbt", {TYPES_OF(SumMatrixRow(m, 0)), TYPES_OF(SumMatrixCol(m, 0))});
 }
 
 template <class To>
 void ExpectExactConversionsFrom(const std::string& types) {
-  ExpectTypes(types, {TYPES_OF(ConvertVector<To>(v)), TYPES_OF(ConvertMatrix<To>(m))});
-  ExpectTypes("gdfjuiwsbt", {TYPES_OF(NarrowVector<To>(v)), TYPES_OF(NarrowMatrix<To>(m))});
+  ExpectTypes(types, {TYPES_READ_BY(ConvertVector<To>(v)), TYPES_OF(ConvertMatrix<To>(m))});
+  ExpectTypes("gdfjuiwsbt", {TYPES_READ_BY(NarrowVector<To>(v)), TYPES_OF(NarrowMatrix<To>(m))});
 }
 
 TEST(MatrixElementTables, ConversionsThatMayLoseSomethingHaveAnotherName) {

@@ -35,43 +35,46 @@ TQorVector<C> PartsByDefinition(C amount, const std::vector<std::int64_t>& weigh
   return parts;
 }
 
-template <class C, class Weight>
-void ExpectTheMethodOfLargestRemainders() {
+// The weights as elements of this type; floating ones times 2^-20.
+template <class Weight>
+std::vector<Weight> WeightsOf(const std::vector<std::int64_t>& integers) {
+  std::vector<Weight> weights;
+  for (const std::int64_t weight : integers) {
+    if constexpr (FloatElement<Weight>) {
+      weights.push_back(std::ldexp(static_cast<Weight>(weight), -20));
+    } else {
+      weights.push_back(Weight(static_cast<std::int32_t>(weight)));
+    }
+  }
+  return weights;
+}
+
+template <class C>
+class Allocation : public ::testing::Test {};
+TYPED_TEST_SUITE(Allocation, CurrencyTypes);
+
+TYPED_TEST(Allocation, GivesWhatIsLeftToTheLargestRemainders) {
+  using C = TypeParam;
+  using Stored = typename C::StoredType;
   std::mt19937_64 engine(21);
-  std::vector<typename C::StoredType> stored{std::numeric_limits<typename C::StoredType>::min(),
-                                             std::numeric_limits<typename C::StoredType>::max(), 0,
-                                             1, -1};
-  for (int i = 0; i < 60; ++i)
-    stored.push_back(static_cast<typename C::StoredType>(static_cast<std::int64_t>(engine()) >> i));
-  for (const auto x : stored) {
+  std::vector<Stored> amounts{std::numeric_limits<Stored>::min(),
+                              std::numeric_limits<Stored>::max(), 0, 1, -1};
+  for (int i = 0; i < 240; ++i)
+    amounts.push_back(static_cast<Stored>(static_cast<std::int64_t>(engine()) >> i % 64));
+  for (const Stored x : amounts) {
     std::vector<std::int64_t> integers(1 + engine() % 20);
     // Small ranges have equal remainders and zeros.
     const std::uint64_t range = engine() % 2 == 0 ? 3 : 128;
     for (std::int64_t& weight : integers) weight = static_cast<std::int64_t>(engine() % range);
     integers[engine() % integers.size()] = 1;
-    std::vector<Weight> weights;
-    for (const std::int64_t weight : integers) {
-      if constexpr (FloatElement<Weight>) {
-        weights.push_back(std::ldexp(static_cast<Weight>(weight), -20));
-      } else {
-        weights.push_back(Weight(static_cast<std::int32_t>(weight)));
-      }
-    }
-    ASSERT_EQ(Allocate(C(x), weights), PartsByDefinition(C(x), integers)) << x;
+    const TQorVector<C> parts = PartsByDefinition(C(x), integers);
+    const auto expect_parts = [&]<class... Weight>(::testing::Types<Weight...>) {
+      for (const auto& allocated : {Allocate(C(x), WeightsOf<Weight>(integers))...})
+        EXPECT_EQ(allocated, parts) << x;
+    };
+    expect_parts(AllTypes());
+    expect_parts(CurrencyTypes());
   }
-}
-
-template <class Weight>
-class Allocation : public ::testing::Test {};
-using WeightTypes =
-    ::testing::Types<Extended, double, float, std::int64_t, std::uint32_t, std::int32_t,
-                     std::uint16_t, std::int16_t, std::uint8_t, Currency, QorCurrency>;
-TYPED_TEST_SUITE(Allocation, WeightTypes);
-
-TYPED_TEST(Allocation, GivesWhatIsLeftToTheLargestRemainders) {
-  ExpectTheMethodOfLargestRemainders<Currency, TypeParam>();
-  ExpectTheMethodOfLargestRemainders<QorCurrency, TypeParam>();
-  ExpectTheMethodOfLargestRemainders<QorLongCurrency, TypeParam>();
 }
 
 // The parts were computed from fractions of unlimited integers; the short ones in the head.

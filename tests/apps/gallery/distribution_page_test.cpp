@@ -71,9 +71,7 @@ TEST_F(DistributionPageTest, GivesTheFiguresOfAnInterval) {
 }
 
 TEST_F(DistributionPageTest, KeepsPlotAndFiguresWhenANumberIsRefused) {
-  const struct {
-    const char *family, *cell, *number, *message;
-  } cases[] = {
+  const char* const cases[][4] = {
       {"Normal", "std-dev", "-1", "Standard deviation: -1 is not greater than 0"},
       {"Binomial", "success-probability", "1.5",
        "Probability of success in each trial: 1.5 is not from 0 to 1"},
@@ -82,15 +80,15 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresWhenANumberIsRefused) {
       {"Beta", "lower-end", "3",
        "\"Upper end of the support\" must be greater than \"Lower end of the support\""},
   };
-  for (const auto& c : cases) {
-    SCOPED_TRACE(c.message);
+  for (const auto& [family, cell, number, message] : cases) {
+    SCOPED_TRACE(message);
     Choose("Gamma");
-    Choose(c.family);
-    Find<QLineEdit>(c.cell).clearFocus();
+    Choose(family);
+    Find<QLineEdit>(cell).clearFocus();
     const auto shown = [this] { return std::tuple(Figures(), Quantile(), Plot()); };
     const auto before = shown();
-    EnterNumber(c.cell, c.number);
-    EXPECT_EQ(Message(), c.message);
+    EnterNumber(cell, number);
+    EXPECT_EQ(Message(), message);
     EXPECT_TRUE(shown() == before);
     EnterNumber("probability", "0.5");
   }

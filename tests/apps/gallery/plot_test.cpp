@@ -9,12 +9,10 @@ namespace qorvex::gallery {
 namespace {
 
 TEST(RoundStep, IsTheNextOfOneTwoAndFive) {
-  const struct {
-    Extended width;
-    int digit, exponent;
-  } cases[] = {{1, 1, 0},          {1.01L, 2, 0},        {2.5L, 5, 0},
-               {5.01L, 1, 1},      {0.001L, 1, -3},      {0.0011L, 2, -3},
-               {1e4000L, 1, 4000}, {3e-4000L, 5, -4000}, {0.1000001L, 2, -1}};
+  const std::tuple<Extended, int, int> cases[] = {
+      {1, 1, 0},          {1.01L, 2, 0},        {2.5L, 5, 0},
+      {5.01L, 1, 1},      {0.001L, 1, -3},      {0.0011L, 2, -3},
+      {1e4000L, 1, 4000}, {3e-4000L, 5, -4000}, {0.1000001L, 2, -1}};
   for (const auto& [width, digit, exponent] : cases) {
     const RoundStep step = RoundStep::AtLeast(width);
     EXPECT_EQ(step.digit, digit) << width;

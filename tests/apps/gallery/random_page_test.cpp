@@ -41,10 +41,7 @@ TEST(RandomSample, HasNoValuesWhenItIsStopped) {
 }
 
 TEST(RandomSample, AgreesWithTheTheory) {
-  const struct {
-    const char* variate;
-    std::vector<Extended> parameters;
-  } cases[] = {
+  const std::pair<const char*, std::vector<Extended>> cases[] = {
       {"uniform", {}},          {"normal", {5, 2}},        {"exponential", {3}},
       {"gamma", {2.5L, 3}},     {"chi-square", {4}},       {"weibull", {1.5L, 2}},
       {"weibull", {-6, 2}},     {"beta", {2, 5, -1, 3}},   {"student-t", {6}},
@@ -53,19 +50,20 @@ TEST(RandomSample, AgreesWithTheTheory) {
       {"poisson", {1e6L}},      {"student-t", {1}},        {"student-t", {1.5L}},
       {"von-mises", {50}},      {"weibull", {8, 1}},       {"inverse-gaussian", {2, 0.5L}},
   };
-  for (const auto& c : cases) {
-    const apps::Variate& variate = VariateOf(c.variate);
-    const RandomSample sample = DrawSample({&variate, c.parameters, 40000, 1}, Proceeds);
-    const VariateTheory theory = TheoryOf(variate, c.parameters);
+  for (const auto& [name, parameters] : cases) {
+    SCOPED_TRACE(name);
+    const apps::Variate& variate = VariateOf(name);
+    const RandomSample sample = DrawSample({&variate, parameters, 40000, 1}, Proceeds);
+    const VariateTheory theory = TheoryOf(variate, parameters);
     if (theory.mean) {
       const Extended error = std::sqrt(sample.variance / 40000);
-      EXPECT_NEAR(static_cast<double>((sample.mean - *theory.mean) / error), 0, 4) << c.variate;
+      EXPECT_NEAR(static_cast<double>((sample.mean - *theory.mean) / error), 0, 4);
     }
     if (theory.variance) {
-      EXPECT_NEAR(static_cast<double>(sample.variance / *theory.variance), 1, 0.1) << c.variate;
+      EXPECT_NEAR(static_cast<double>(sample.variance / *theory.variance), 1, 0.1);
     }
     // The area between the bars and the density.
-    ASSERT_TRUE(theory.density) << c.variate;
+    ASSERT_TRUE(theory.density);
     double difference = 0;
     for (std::size_t i = 1; i < sample.bars.size(); ++i) {
       const double width = sample.bars[i].x() - sample.bars[i - 1].x();
@@ -74,7 +72,7 @@ TEST(RandomSample, AgreesWithTheTheory) {
       const auto density = static_cast<double>(theory.density(middle));
       difference += width * std::abs(sample.bars[i].y() - density);
     }
-    EXPECT_LT(difference, 0.08) << c.variate;
+    EXPECT_LT(difference, 0.08);
   }
   EXPECT_FALSE(TheoryOf(VariateOf("cauchy"), std::vector<Extended>{0, 1}).mean);
 }
