@@ -3,7 +3,6 @@
 /// @file
 /// VectorView, the parameter type of routines that read a vector.
 
-#include <concepts>
 #include <initializer_list>
 #include <ranges>
 #include <span>
