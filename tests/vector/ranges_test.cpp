@@ -158,26 +158,16 @@ TEST(Ranges, MayBeFrequencies) {
     GroupedQuartiles(f, 0, 4, q1, q3);
     GroupedSums(f, 0, 4, sum, sum_sq);
     static_cast<void>(GroupedMode(f, 0, 4, mode));
-    return TQorFloatVector{GroupedMean(f, 0, 4),
-                           GroupedMedian(f, 0, 4),
-                           GroupedSampleVariance(f, 0, 4),
-                           GroupedPopulationVariance(f, 0, 4),
-                           GroupedSampleStdDev(f, 0, 4),
-                           GroupedPopulationStdDev(f, 0, 4),
-                           GetGroupedMeanDev(f, 0, 4, 5),
-                           GetGroupedSampleSkew(f, 0, 4, 5, 2),
-                           GetGroupedPopulationSkew(f, 0, 4, 5, 2),
-                           GetGroupedSampleKurtosis(f, 0, 4, 5, 2),
-                           GetGroupedPopulationKurtosis(f, 0, 4, 5, 2),
-                           SumVector(deciles),
-                           q1,
-                           q3,
-                           sum,
-                           sum_sq,
-                           mode};
+    return SumVector(deciles) + q1 + 2 * q3 + sum + sum_sq + mode + GroupedMean(f, 0, 4) +
+           GroupedMedian(f, 0, 4) + GroupedSampleVariance(f, 0, 4) +
+           GroupedPopulationVariance(f, 0, 4) + GroupedSampleStdDev(f, 0, 4) +
+           GroupedPopulationStdDev(f, 0, 4) + GetGroupedMeanDev(f, 0, 4, 5) +
+           GetGroupedSampleSkew(f, 0, 4, 5, 2) + GetGroupedPopulationSkew(f, 0, 4, 5, 2) +
+           GetGroupedSampleKurtosis(f, 0, 4, 5, 2) + GetGroupedPopulationKurtosis(f, 0, 4, 5, 2);
   };
-  EXPECT_EQ(figures(std::vector<std::uint32_t>{1, 3, 2}), figures(TQorLWordVector{1, 3, 2}));
-  EXPECT_EQ(GroupedMean({1, 3, 2}, 0, 4), GroupedMean(TQorLWordVector{1, 3, 2}, 0, 4));
+  const std::uint32_t frequencies[] = {1, 3, 2};
+  EXPECT_EQ(figures(frequencies), figures(TQorLWordVector{1, 3, 2}));
+  EXPECT_EQ(GroupedMean(frequencies, 0, 4), GroupedMean({1, 3, 2}, 0, 4));
 }
 
 TEST(Ranges, RaiseTheErrorsOfVectors) {
