@@ -29,8 +29,8 @@ TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>& matrix, std::uint32_t col) {
 }
 
 template <AnyElement T>
-void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVector<T>& vector,
-                        ScalarOf<T> fill) {
+void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
+                        VectorView<std::type_identity_t<T>> vector, ScalarOf<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.HasAtMostOneLine()) return;
   detail::RequireRow(shape, row);
@@ -42,8 +42,8 @@ void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row, const TQorVect
 }
 
 template <AnyElement T>
-void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVector<T>& vector,
-                        ScalarOf<T> fill) {
+void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col,
+                        VectorView<std::type_identity_t<T>> vector, ScalarOf<T> fill) {
   const detail::Shape shape = detail::ShapeOf(matrix);
   if (shape.HasAtMostOneLine()) return;
   detail::RequireCol(shape, col);
@@ -53,13 +53,11 @@ void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col, const TQorVect
   for (std::size_t i = given; i < shape.rows; ++i) matrix[i][col] = fill;
 }
 
-#define QORVEX_INSTANTIATE(T)                                                           \
-  template TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>&, std::uint32_t);         \
-  template TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>&, std::uint32_t);         \
-  template void OverwriteMatrixRow(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, \
-                                   ScalarOf<T>);                                        \
-  template void OverwriteMatrixCol(TQorMatrix<T>&, std::uint32_t, const TQorVector<T>&, \
-                                   ScalarOf<T>);
+#define QORVEX_INSTANTIATE(T)                                                                  \
+  template TQorVector<T> ExtractMatrixRow(const TQorMatrix<T>&, std::uint32_t);                \
+  template TQorVector<T> ExtractMatrixCol(const TQorMatrix<T>&, std::uint32_t);                \
+  template void OverwriteMatrixRow(TQorMatrix<T>&, std::uint32_t, VectorView<T>, ScalarOf<T>); \
+  template void OverwriteMatrixCol(TQorMatrix<T>&, std::uint32_t, VectorView<T>, ScalarOf<T>);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE
 

@@ -12,6 +12,7 @@
 /// - For all element types.
 
 #include <cstdint>
+#include <type_traits>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
@@ -29,15 +30,16 @@ template <AnyElement T>
 /// @}
 
 /// @{
-/// Overwrites one row or one column with the elements of the vector. If the vector is shorter, the
-/// remaining elements are set to the fill value; excess elements are ignored. The change is seen
-/// through every handle of a row's buffer. O(rows + columns).
+/// Overwrites one row or one column with the elements of the vector, which is any contiguous range
+/// of the element type. If it is shorter, the remaining elements are set to the fill value; excess
+/// elements are ignored. The change is seen through every handle of a row's buffer. O(rows +
+/// columns).
 template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
-                                      const TQorVector<T>& vector, ScalarOf<T> fill);
+                                      VectorView<std::type_identity_t<T>> vector, ScalarOf<T> fill);
 template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixCol(TQorMatrix<T>& matrix, std::uint32_t col,
-                                      const TQorVector<T>& vector, ScalarOf<T> fill);
+                                      VectorView<std::type_identity_t<T>> vector, ScalarOf<T> fill);
 /// @}
 
 }  // namespace qorvex::inline QorvexMatrix

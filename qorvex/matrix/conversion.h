@@ -17,14 +17,15 @@
 
 namespace qorvex::inline QorvexMatrix {
 
-/// A range of contiguous ranges, such as a matrix or a vector of vectors.
+/// A range of contiguous ranges, such as a matrix or a vector of vectors. It must be readable
+/// through a const reference.
 template <class Range>
-concept NestedRange =
-    std::ranges::sized_range<Range> && ContiguousRange<std::ranges::range_value_t<Range>>;
+concept NestedRange = std::ranges::sized_range<const Range> &&
+    ContiguousRange<std::ranges::range_value_t<const Range>>;
 
 /// The element type of a nested range.
 template <NestedRange Rows>
-using NestedElementOf = ElementOf<std::ranges::range_value_t<Rows>>;
+using NestedElementOf = ElementOf<std::ranges::range_value_t<const Rows>>;
 
 /// @cond internal
 namespace detail {

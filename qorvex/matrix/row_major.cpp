@@ -7,7 +7,7 @@
 namespace qorvex::inline QorvexMatrix {
 
 template <AnyElement T>
-TQorMatrix<T> MatrixFromRowMajor(VectorView<T> elements, std::size_t cols) {
+TQorMatrix<T> MatrixFromRowMajor(VectorView<T> elements, WholeNumber<std::size_t> cols) {
   if (elements.empty()) return {};
   if (cols == 0 || elements.size() % cols != 0) RaiseMathError(rsMatrixRect);
   auto matrix = TQorMatrix<T>::WithLength(elements.size() / cols);
@@ -27,8 +27,8 @@ TQorVector<T> MatrixToRowMajor(const TQorMatrix<T>& matrix) {
   return elements;
 }
 
-#define QORVEX_INSTANTIATE(T)                                            \
-  template TQorMatrix<T> MatrixFromRowMajor(VectorView<T>, std::size_t); \
+#define QORVEX_INSTANTIATE(T)                                                         \
+  template TQorMatrix<T> MatrixFromRowMajor(VectorView<T>, WholeNumber<std::size_t>); \
   template TQorVector<T> MatrixToRowMajor(const TQorMatrix<T>&);
 QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
 #undef QORVEX_INSTANTIATE

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numeric>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -23,14 +24,19 @@ using Floats = std::vector<Extended>;
 // Records the steps of an elimination, so that they can be repeated on right-hand sides.
 class StepRecorder : public detail::Observer {
  public:
-  // Every element is eliminated, however small, because its right-hand sides may be large.
-  [[nodiscard]] static bool IsNegligible(Extended x) { return x == 0; }
+  enum class Neglect { kWithinTolerance, kNothing };
 
-  explicit StepRecorder(std::size_t order)
-      : factors_(order * order), scales_(order, 1), origins_(order) {
+  StepRecorder(std::size_t order, Neglect neglect)
+      : neglect_(neglect), factors_(order * order), scales_(order, 1), origins_(order) {
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
   }
 
+  [[nodiscard]] bool IsNegligible(Extended x) {
+    if (x == 0) return true;
+    const bool negligible = neglect_ == Neglect::kWithinTolerance && FloatIsZero(x);
+    has_neglected_ |= negligible;
+    return negligible;
+  }
   void Swapped(std::size_t row1, std::size_t row2) {
     std::swap_ranges(FactorsOf(row1), FactorsOf(row1 + 1), FactorsOf(row2));
     std::swap(origins_[row1], origins_[row2]);
@@ -43,6 +49,8 @@ class StepRecorder : public detail::Observer {
     FactorsOf(target)[source] = factor;
   }
   [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
+  // True if an element that is not zero was treated as zero, or a pivot as one.
+  [[nodiscard]] bool HasNeglected() const { return has_neglected_; }
 
   [[nodiscard]] Floats Repeat(const Floats& b) const {
     Floats result(b.size());
@@ -58,6 +66,8 @@ class StepRecorder : public detail::Observer {
  private:
   Extended* FactorsOf(std::size_t row) { return factors_.data() + row * scales_.size(); }
 
+  Neglect neglect_;
+  bool has_neglected_ = false;
   // Row i after all exchanges was row origins_[i] of the given matrix. Row k < i was added to it,
   // multiplied by element [i][k] of factors_, and then it was itself multiplied by scales_[i].
   Floats factors_;
@@ -66,18 +76,36 @@ class StepRecorder : public detail::Observer {
   bool pivots_are_finite_ = true;
 };
 
+// A power of two that makes room for the splitting of factors in ExactProduct, which would overflow
+// near the end of the range.
+template <FloatElement T>
+Extended SplittingScale(std::span<const T> values) {
+  const bool large = std::ranges::any_of(
+      values, [](T x) { return std::fabs(static_cast<Extended>(x)) > 0x1p16300L; });
+  return large ? 0x1p-100L : 1;
+}
+
 template <FloatElement T>
 class Solver {
+  using Neglect = StepRecorder::Neglect;
+
  public:
+  // An elimination that neglects what the inverse neglects shows whether there is a solution. If it
+  // had to neglect something, it is repeated without, because right-hand sides may be large.
   explicit Solver(const TQorMatrix<T>& matrix)
       : matrix_(matrix),
         order_(matrix.size()),
         echelon_(ConvertMatrix<Extended>(matrix)),
-        steps_(order_) {
-    const std::size_t rank = detail::WithRows(echelon_, order_, [&](auto rows) {
-      return detail::Eliminate(rows, order_, order_, steps_);
-    });
-    regular_ = rank == order_ && steps_.PivotsAreFinite();
+        steps_(order_, Neglect::kWithinTolerance),
+        regular_(Eliminate()) {
+    if (regular_ && steps_.HasNeglected()) {
+      echelon_ = ConvertMatrix<Extended>(matrix);
+      steps_ = StepRecorder(order_, Neglect::kNothing);
+      regular_ = Eliminate();
+    }
+    for (const TQorVector<T>& row : matrix) {
+      scale_ = std::min(scale_, SplittingScale<T>(std::span(row).first(order_)));
+    }
   }
 
   // Calls store(i, x[i]) for the elements of the solution. Returns false if there is none.
@@ -97,6 +125,14 @@ class Solver {
   }
 
  private:
+  // Returns whether every column has a finite pivot.
+  bool Eliminate() {
+    const std::size_t rank = detail::WithRows(echelon_, order_, [&](auto rows) {
+      return detail::Eliminate(rows, order_, order_, steps_);
+    });
+    return rank == order_ && steps_.PivotsAreFinite();
+  }
+
   Floats Solved(const Floats& b) const {
     Floats x = steps_.Repeat(b);
     for (std::size_t i = order_; i-- > 0;) {
@@ -109,19 +145,22 @@ class Solver {
   }
 
   // b - matrix * x. Every product and every rounding error of the sums is taken into account.
-  Floats Residual(const Floats& b, const Floats& x) const {
+  Floats Residual(const Floats& b, Floats x) const {
+    const Extended x_scale = SplittingScale<Extended>(x);
+    for (Extended& element : x) element *= x_scale;
+    const Extended scale = scale_ * x_scale;
     Floats residual(order_);
     for (std::size_t i = 0; i < order_; ++i) {
       const T* const row = matrix_[i].data();
-      Extended sum = b[i];
+      Extended sum = b[i] * scale;
       Extended errors = 0;
       for (std::size_t j = 0; j < order_; ++j) {
-        const auto product = special::ExactProduct(-static_cast<Extended>(row[j]), x[j]);
+        const auto product = special::ExactProduct(-scale_ * static_cast<Extended>(row[j]), x[j]);
         const auto partial = special::ExactSum(sum, product.hi);
         sum = partial.hi;
         errors += partial.lo + product.lo;
       }
-      residual[i] = sum + errors;
+      residual[i] = (sum + errors) / scale;
     }
     return residual;
   }
@@ -130,7 +169,9 @@ class Solver {
   std::size_t order_;
   TQorFloatMatrix echelon_;
   StepRecorder steps_;
-  bool regular_ = false;
+  bool regular_;
+  // Factor of the matrix in residuals.
+  Extended scale_ = 1;
 };
 
 }  // namespace

@@ -3,11 +3,9 @@
 /// @file
 /// Products of a matrix and a vector.
 ///
-/// - Bit for bit the elements of MultiplyMatrices for a vector as a matrix of one column or one
-/// row:
+/// - Bit for bit the elements of the matrix product in which the vector is one column or one row:
 ///   products are added in ascending order, starting from zero; each product and each sum is
-///   rounded to extended precision, and in Double and Single matrices each sum then to the element
-///   type.
+///   rounded to extended precision, and in Double and Single matrices then to the element type.
 /// - NaN and infinities propagate as in IEEE 754 arithmetic.
 /// - The vector is any contiguous range of the element type.
 /// - EMathError, in this order: with the shape switch on rsMatrixRect for a ragged or empty matrix;

@@ -1,5 +1,8 @@
 #include "qorvex/matrix/access.h"
 
+#include <span>
+#include <vector>
+
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/sorting.h"
 #include "support/test.h"
@@ -20,6 +23,10 @@ TEST(MatrixAccess, RowsAndColumnsAreExtractedAndOverwritten) {
   EXPECT_EQ(m, (TQorLIntMatrix{{20, 11, 30}, {-1, 8, 31}}));
   OverwriteMatrixRow(m, 0, m[1], 0);
   EXPECT_EQ(m[0], m[1]);
+  const std::vector<std::int32_t> values{5, 6};
+  OverwriteMatrixRow(m, 0, values, 7);
+  OverwriteMatrixCol(m, 2, std::span(values).last(1), 3);
+  EXPECT_EQ(m, (TQorLIntMatrix{{5, 6, 6}, {-1, 8, 3}}));
 }
 
 TEST(MatrixAccess, ASingleRowOrColumnIsLeftAloneWhateverTheIndex) {

@@ -1,6 +1,10 @@
 // The element types that each routine accepts. Other types must not compile, so that no call
 // converts or rounds its arguments implicitly.
 
+#include <cstddef>
+#include <list>
+#include <vector>
+
 #include "qorvex/matrix/QorvexFinMatrix.h"
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "support/element_probe.h"
@@ -16,7 +20,7 @@ TEST(MatrixElementTables, RoutinesAcceptTheirElementTypes) {
        TYPES_OF(MatrixIsSquare(m)), TYPES_OF(MatricesSameDimensions(m, m)), TYPES_OF(CopyMatrix(m)),
        TYPES_OF(Matrix2FloatMatrix(m)), TYPES_OF(TransposeMatrix(m)),
        TYPES_OF(ExtractMatrixRow(m, 0)), TYPES_OF(ExtractMatrixCol(m, 0)),
-       TYPES_OF(OverwriteMatrixRow(m, 0, v, x)), TYPES_OF(OverwriteMatrixCol(m, 0, v, x)),
+       TYPES_READ_BY(OverwriteMatrixRow(m, 0, v, x)), TYPES_READ_BY(OverwriteMatrixCol(m, 0, v, x)),
        TYPES_OF(QSortMatrixRowsOnCol(m, 0, true)), TYPES_OF(QSortMatrixColsOnRow(m, 0, true)),
        TYPES_OF(SwapMatrixRows(m, 0, 1)), TYPES_OF(SwapMatrixCols(m, 0, 1))});
   ExpectTypes("gdfjuiwsbtCSL",
@@ -72,7 +76,17 @@ TEST(MatrixElementTables, IntegersTakeNoFloatingPointValues) {
       "gdfCSL",
       {TYPES_OF(MultiplyMatrixByConst(m, 0.5)), TYPES_OF(MultiplyMatrixByConst2(m, 0.5)),
        TYPES_OF(LinearTransformMatrix(m, 0.5, 1)), TYPES_OF(LinearTransformMatrix(m, 1, 0.5))});
+  ExpectTypes("", {TYPES_READ_BY(MatrixFromRowMajor(v, 2.5))});
 }
+
+// Conversions read through a const reference.
+struct MutableRows {
+  std::vector<double>* begin();
+  std::vector<double>* end();
+  [[nodiscard]] std::size_t size() const;
+};
+static_assert(NestedRange<std::list<std::vector<double>>> && NestedRange<const double[2][3]>);
+static_assert(!NestedRange<MutableRows>);
 
 static_assert(std::is_same_v<FactorOf<float>, Extended>);
 static_assert(std::is_same_v<FactorOf<QorCurrency>, Extended>);
