@@ -103,10 +103,11 @@ QORVEX_EXPORT C MultiplyByRatio(C amount, Int128 numerator, Int128 denominator, 
 /// @endcond
 
 /// amount * numerator / denominator, rounded once: MultiplyAmount(price, 19, 100, mode) is 19 % of
-/// a price. Integers of every type are exact.
+/// a price. The integers may have any type of up to 64 bits.
 template <CurrencyElement C>
 [[nodiscard]] C MultiplyAmount(C amount, std::integral auto numerator,
                                std::integral auto denominator, RoundingMode mode) {
+  static_assert(sizeof numerator <= 8 && sizeof denominator <= 8, "integers of up to 64 bits");
   return detail::MultiplyByRatio(amount, {numerator}, {denominator}, mode);
 }
 

@@ -37,7 +37,10 @@ const auto& Powers() {
     std::array<Polynomial, 65> squares;
     Polynomial power{2};
     for (int i = 0; i < 128; ++i) power = Square(power);
-    for (Polynomial& square : squares) power = Square(square = power);
+    for (Polynomial& square : squares) {
+      square = power;
+      power = Square(power);
+    }
     return squares;
   }();
   return powers;
