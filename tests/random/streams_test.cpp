@@ -276,6 +276,7 @@ TEST(UniformSource, TakesGeneratorsOf64Bits) {
   for (int i = 0; i < 1000; ++i) EXPECT_EQ(UniformSource(standard)(), Random());
   EXPECT_EQ(UniformSource(RandomStream(0))(), 0x53175d61490b23dfp-64L);
 
+  using detail::kGenerates64Bits;
   static_assert(kGenerates64Bits<RandomStream> && kGenerates64Bits<std::mt19937_64&>);
   static_assert(!kGenerates64Bits<std::mt19937> && !kGenerates64Bits<std::minstd_rand> &&
                 !kGenerates64Bits<std::ranlux48>);
