@@ -30,7 +30,8 @@ int main() {
   std::mt19937_64 engine(1879);
   std::cout << Float2Str(Random_Normal(stream)) << ' ' << Float2Str(Random_Normal(engine)) << '\n';
 
-  // The short forms draw from the one generator of the program, the same Mersenne twister.
+  // The short forms draw from the one generator of the program, which is also a std::mt19937_64:
+  // the same seed gives the same value.
   SetRandSeed(1879);
   std::cout << Float2Str(Random_Normal()) << '\n';
 

@@ -78,14 +78,8 @@ void CheckType(const std::string& text) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string text(reinterpret_cast<const char*>(data), size);
-  CheckType<Extended>(text);
-  CheckType<double>(text);
-  CheckType<float>(text);
-  CheckType<std::int64_t>(text);
-  CheckType<std::uint32_t>(text);
-  CheckType<std::uint16_t>(text);
-  CheckType<std::int8_t>(text);
-  CheckType<Currency>(text);
-  CheckType<QorCurrency>(text);
+#define QORVEX_CHECK(T) CheckType<T>(text);
+  QORVEX_FOR_ALL_ELEMENTS(QORVEX_CHECK)
+#undef QORVEX_CHECK
   return 0;
 }

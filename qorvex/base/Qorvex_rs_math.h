@@ -109,10 +109,12 @@ using enum MessageId;
 /// Valid for the lifetime of the program. Empty for identifiers of applications.
 [[nodiscard]] QORVEX_EXPORT std::string_view EnglishMessageText(MessageId id) noexcept;
 
-/// Replaces the text of a message of the library.
+/// Replaces the text of a message of the library. std::out_of_range for identifiers of
+/// applications.
 QORVEX_EXPORT void SetMessageText(MessageId id, std::string text);
 
-/// Restores the English text of a message of the library.
+/// Restores the English text of a message of the library. std::out_of_range for identifiers of
+/// applications.
 QORVEX_EXPORT void ResetMessageText(MessageId id);
 
 /// Sets a function that is asked for every text first, such as a translator.

@@ -96,8 +96,7 @@ class QORVEX_EXPORT BasicCurrency {
   [[nodiscard]] friend constexpr BasicCurrency operator-(BasicCurrency amount) noexcept {
     return BasicCurrency() -= amount;
   }
-  /// The amount without its sign. The smallest amount, whose opposite is out of range, stays as it
-  /// is.
+  /// The amount without its sign. The smallest amount has no opposite and stays unchanged.
   [[nodiscard]] friend constexpr BasicCurrency abs(BasicCurrency amount) noexcept {
     return amount.stored_ < 0 ? -amount : amount;
   }

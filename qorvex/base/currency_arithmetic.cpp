@@ -86,35 +86,40 @@ C Round(const Magnitude& magnitude, bool negative, RoundingMode mode) {
   return C(static_cast<Stored>(negative ? 0 - bits : bits));
 }
 
+std::uint64_t MagnitudeOf(detail::Int128 x) {
+  return static_cast<std::uint64_t>(x < 0 ? -x : x);
+}
+
 UInt128 Product(std::uint64_t x, std::uint64_t y) {
   return UInt128{x} * y;
 }
 
 // amount * numerator / denominator as an amount of type To. The denominator is not zero.
 template <CurrencyElement To>
-To RoundRatio(std::int64_t amount, std::int64_t numerator, std::int64_t denominator,
+To RoundRatio(std::int64_t amount, detail::Int128 numerator, detail::Int128 denominator,
               RoundingMode mode) {
-  const UInt128 product =
-      Product(detail::PartsOf(amount).significand, detail::PartsOf(numerator).significand);
+  const UInt128 product = Product(MagnitudeOf(amount), MagnitudeOf(numerator));
   const bool negative = ((amount < 0) != (numerator < 0)) != (denominator < 0);
-  return Round<To>(Divide(product, detail::PartsOf(denominator).significand), negative, mode);
+  return Round<To>(Divide(product, MagnitudeOf(denominator)), negative, mode);
 }
 
 }  // namespace
 
+namespace detail {
+
 template <CurrencyElement C>
-C MultiplyAmount(C amount, WholeNumber<std::int64_t> numerator,
-                 WholeNumber<std::int64_t> denominator, RoundingMode mode) {
-  if (denominator == 0) detail::RaiseDivisionByZero();
+C MultiplyByRatio(C amount, Int128 numerator, Int128 denominator, RoundingMode mode) {
+  if (denominator == 0) RaiseDivisionByZero();
   return RoundRatio<C>(amount.stored(), numerator, denominator, mode);
 }
+
+}  // namespace detail
 
 template <CurrencyElement C>
 C MultiplyAmount(C amount, Extended factor, RoundingMode mode) {
   if (!std::isfinite(factor)) throw EInvalidOp();
   const detail::BinaryParts parts = detail::PartsOf(factor);
-  const UInt128 product =
-      Product(detail::PartsOf(std::int64_t{amount.stored()}).significand, parts.significand);
+  const UInt128 product = Product(MagnitudeOf(amount.stored()), parts.significand);
   return Round<C>(Scale(product, parts.exponent), (amount.stored() < 0) != (factor < 0), mode);
 }
 
@@ -123,12 +128,11 @@ To RoundAmount(From amount, RoundingMode mode) {
   return RoundRatio<To>(amount.stored(), To::kScale, From::kScale, mode);
 }
 
-#define QORVEX_INSTANTIATE(C)                                                        \
-  template C MultiplyAmount(C, WholeNumber<std::int64_t>, WholeNumber<std::int64_t>, \
-                            RoundingMode);                                           \
-  template C MultiplyAmount(C, Extended, RoundingMode);                              \
-  template C RoundAmount<C>(Currency, RoundingMode);                                 \
-  template C RoundAmount<C>(QorCurrency, RoundingMode);                              \
+#define QORVEX_INSTANTIATE(C)                                                          \
+  template C detail::MultiplyByRatio(C, detail::Int128, detail::Int128, RoundingMode); \
+  template C MultiplyAmount(C, Extended, RoundingMode);                                \
+  template C RoundAmount<C>(Currency, RoundingMode);                                   \
+  template C RoundAmount<C>(QorCurrency, RoundingMode);                                \
   template C RoundAmount<C>(QorLongCurrency, RoundingMode);
 QORVEX_INSTANTIATE(Currency)
 QORVEX_INSTANTIATE(QorCurrency)

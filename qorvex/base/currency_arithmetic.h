@@ -94,12 +94,22 @@ enum class RoundingMode : std::uint8_t {
   kUp,             ///< the larger one
 };
 
-/// amount * numerator / denominator, rounded once: MultiplyAmount(price, 19, 100, mode) is 19 % of
-/// a price.
+/// @cond internal
+namespace detail {
+// Numerator and denominator have magnitudes below 2^64.
 template <CurrencyElement C>
-[[nodiscard]] QORVEX_EXPORT C MultiplyAmount(C amount, WholeNumber<std::int64_t> numerator,
-                                             WholeNumber<std::int64_t> denominator,
-                                             RoundingMode mode);
+QORVEX_EXPORT C MultiplyByRatio(C amount, Int128 numerator, Int128 denominator, RoundingMode mode);
+}  // namespace detail
+/// @endcond
+
+/// amount * numerator / denominator, rounded once: MultiplyAmount(price, 19, 100, mode) is 19 % of
+/// a price. The integers may have any type of up to 64 bits.
+template <CurrencyElement C>
+[[nodiscard]] C MultiplyAmount(C amount, std::integral auto numerator,
+                               std::integral auto denominator, RoundingMode mode) {
+  static_assert(sizeof numerator <= 8 && sizeof denominator <= 8, "integers of up to 64 bits");
+  return detail::MultiplyByRatio(amount, {numerator}, {denominator}, mode);
+}
 
 /// amount * factor, rounded once from the exact product.
 ///

@@ -4,9 +4,9 @@
 /// Amounts as constants: 12.50_currency.
 ///
 /// - The amount is exactly what the digits say, and is known at compile time.
-/// - Plain decimal digits, with an optional point and digit separators: 1'250.75_currency.
-///   Exponents and hexadecimal, octal or binary numbers do not compile, and neither do more
-///   decimals than the type has or an amount out of range.
+/// - Plain decimal digits without leading zeros, with an optional point and digit separators:
+///   1'250.75_currency. Exponents and hexadecimal, octal or binary numbers do not compile, and
+///   neither do more decimals than the type has or an amount out of range.
 /// - A minus sign gives negative amounts: -0.01_currency. The smallest amount, whose opposite is
 ///   out of range, is std::numeric_limits<Currency>::min().
 /// - `using namespace qorvex;` finds the suffixes, and so does `using namespace qorvex::literals;`
@@ -63,7 +63,8 @@ constexpr C AmountOfLiteral() noexcept {
   constexpr char text[] = {Text...};
   constexpr AmountLiteral<C> read = ReadAmountLiteral<C>(std::string_view(text, sizeof text));
   static_assert(read.fault != LiteralFault::kNotPlainDecimal,
-                "write the amount in plain decimal digits, with an optional point");
+                "write the amount in plain decimal digits without leading zeros, with an optional "
+                "point");
   static_assert(read.fault != LiteralFault::kTooManyDecimals,
                 "the amount has more decimals than the currency type");
   static_assert(read.fault != LiteralFault::kOutOfRange,

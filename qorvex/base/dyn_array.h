@@ -40,7 +40,8 @@ concept ElementFrom = std::convertible_to<From, To> &&
 /// - Copying a handle shares the buffer, so a change to an element is seen through every handle.
 /// - Every member that changes the length, and reserve(), first gives the handle its own buffer, to
 ///   which it copies the elements of a shared one. The other handles keep theirs.
-/// - Integer elements take no floating-point values, which would be truncated.
+/// - No constructor or member takes a floating-point value for an integer element, which would be
+///   truncated. Assignments through references and iterators convert as usual.
 /// - If std::bad_alloc is thrown, the array is unchanged. Arguments may be elements of the array.
 /// - A moved-from handle is empty.
 /// - Handles may be copied and destroyed on several threads at once; writing elements needs
@@ -69,7 +70,11 @@ class DynArray {
   DynArray() noexcept = default;
 
   /// An array of the values in braces: TQorFloatVector{3, 1} has two elements.
-  DynArray(std::initializer_list<T> values) : DynArray(values.begin(), values.end()) {}
+  DynArray(std::initializer_list<T> values) : DynArray() {
+    Extend(values.size(), [values](T* target, size_type count) {
+      std::uninitialized_copy_n(values.begin(), count, target);
+    });
+  }
 
   /// An array of the given length whose elements are zero (or empty, for rows).
   template <std::integral Count>
@@ -254,11 +259,16 @@ class DynArray {
     Extend(1, [&](T* target, size_type) { ::new (target) T(std::move(value)); });
   }
   /// @}
-  /// Appends an element made of the arguments, and returns it. The buffer becomes private.
+  /// Appends an element made of the arguments (zero without any), and returns it. The buffer
+  /// becomes private.
   template <class... Arguments>
-  requires std::constructible_from<ScalarOf<T>, Arguments...> T& emplace_back(
-      Arguments&&... arguments) {
-    push_back(ScalarOf<T>(std::forward<Arguments>(arguments)...));
+  requires(sizeof...(Arguments) == 0 || std::constructible_from<ScalarOf<T>, Arguments...>)
+      T& emplace_back(Arguments&&... arguments) {
+    if constexpr (sizeof...(Arguments) == 0) {
+      push_back(T());
+    } else {
+      push_back(ScalarOf<T>(std::forward<Arguments>(arguments)...));
+    }
     return back();
   }
   /// Removes the last element of a non-empty array. The buffer becomes private.

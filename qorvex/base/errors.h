@@ -49,8 +49,9 @@ class QORVEX_EXPORT EMathError : public Exception {
 /// division of an amount by zero.
 class QORVEX_EXPORT EZeroDivide : public EMathError {
  public:
-  /// Uses the current text of one of the library's messages.
-  explicit EZeroDivide(MessageId id = rsZeroDivide) : EMathError(id) {}
+  using EMathError::EMathError;
+  /// Uses the current text of rsZeroDivide.
+  EZeroDivide() : EMathError(rsZeroDivide) {}
   ~EZeroDivide() override;
 };
 
@@ -58,6 +59,8 @@ class QORVEX_EXPORT EZeroDivide : public EMathError {
 /// number.
 class QORVEX_EXPORT EInvalidOp : public EMathError {
  public:
+  using EMathError::EMathError;
+  /// Uses the current text of rsInvalidOp.
   EInvalidOp() : EMathError(rsInvalidOp) {}
   ~EInvalidOp() override;
 };
@@ -66,8 +69,9 @@ class QORVEX_EXPORT EInvalidOp : public EMathError {
 /// of its type.
 class QORVEX_EXPORT EOverflow : public EMathError {
  public:
-  /// Uses the current text of one of the library's messages.
-  explicit EOverflow(MessageId id = rsOverflow) : EMathError(id) {}
+  using EMathError::EMathError;
+  /// Uses the current text of rsOverflow.
+  EOverflow() : EMathError(rsOverflow) {}
   ~EOverflow() override;
 };
 

@@ -13,6 +13,7 @@
 ///   with fmt::format_error in a text given at run time.
 /// - The library itself neither includes this header nor needs libfmt.
 
+#include <algorithm>
 #include <cstddef>
 #include <fmt/ranges.h>
 #include <string_view>
@@ -53,9 +54,10 @@ class ElementSpecification {
   static constexpr bool IsAlignment(char c) { return c == '<' || c == '^' || c == '>'; }
 
   constexpr void ReadAlignment() {
+    if (Next() == '}') return;
     if (rest_.size() > 1 && IsAlignment(rest_[1])) {
       format_.fill = Take();
-      if (format_.fill == '{' || format_.fill == '}') Refuse();
+      if (format_.fill == '{') Refuse();
     }
     if (!IsAlignment(Next())) return;
     const char side = Take();
@@ -112,14 +114,14 @@ struct is_range<qorvex::DynArray<T>, char> : std::false_type {};
 template <qorvex::AnyElement T>
 struct formatter<qorvex::DynArray<T>> : qorvex::detail::ElementSpecification<T> {
   auto format(const qorvex::DynArray<T>& vector, format_context& context) const {
-    return fmt::format_to(context.out(), "{}", qorvex::Vector2Str(vector, this->format_));
+    return std::ranges::copy(qorvex::Vector2Str(vector, this->format_), context.out()).out;
   }
 };
 
 template <qorvex::AnyElement T>
 struct formatter<qorvex::DynArray<qorvex::DynArray<T>>> : qorvex::detail::ElementSpecification<T> {
   auto format(const qorvex::DynArray<qorvex::DynArray<T>>& matrix, format_context& context) const {
-    return fmt::format_to(context.out(), "{}", qorvex::Matrix2Str(matrix, this->format_));
+    return std::ranges::copy(qorvex::Matrix2Str(matrix, this->format_), context.out()).out;
   }
 };
 

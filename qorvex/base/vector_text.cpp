@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "qorvex/base/currency_text.h"
+#include "qorvex/base/detail/stream_errors.h"
 
 namespace qorvex {
 
@@ -118,8 +119,18 @@ ElementFormat FormatOf(const std::ostream& out) {
   return format;
 }
 
-std::ostream& Put(std::ostream& out, std::string_view text) {
+// Writes what text_of returns for the settings of the stream.
+template <class TextOf>
+std::ostream& Write(std::ostream& out, TextOf text_of) {
+  const ElementFormat format = FormatOf(out);
   out.width(0);
+  std::string text;
+  try {
+    text = text_of(format);
+  } catch (...) {
+    detail::HandleStreamError(out);
+    return out;
+  }
   return out << text;
 }
 
@@ -179,12 +190,12 @@ std::string Matrix2Str(const TQorMatrix<T>& matrix, const ElementFormat& format)
 
 template <AnyElement T>
 std::ostream& operator<<(std::ostream& out, const TQorVector<T>& vector) {
-  return Put(out, Vector2Str<T>(vector, FormatOf(out)));
+  return Write(out, [&](const ElementFormat& format) { return Vector2Str<T>(vector, format); });
 }
 
 template <AnyElement T>
 std::ostream& operator<<(std::ostream& out, const TQorMatrix<T>& matrix) {
-  return Put(out, Matrix2Str(matrix, FormatOf(out)));
+  return Write(out, [&](const ElementFormat& format) { return Matrix2Str(matrix, format); });
 }
 
 #define QORVEX_INSTANTIATE(T)                                                  \

@@ -45,7 +45,7 @@ struct ElementFormat {
   Alignment alignment = Alignment::kPoint;  ///< The alignment.
   int precision = 6;      ///< Not used by the exact notation, integers and amounts.
   std::size_t width = 0;  ///< The least number of characters of each element.
-  char fill = ' ';        ///< What shorter elements are filled up with, except after a point.
+  char fill = ' ';        ///< Fills up shorter elements, before their sign; not after a point.
   bool plus = false;      ///< A plus sign before elements that have no minus sign. NaN has no sign.
 };
 
@@ -73,7 +73,8 @@ template <AnyElement T>
 ///   characters than blanks. White space may surround every bracket, comma and element.
 /// - An element is what Str2Float, or for amounts Str2Currency and its siblings, accept; for
 ///   integers a sign and digits. Floating-point elements are rounded once, to their own type, so
-///   exact texts give the same bits. Values too small for the type become 0 or subnormal.
+///   exact texts give the same bits, except that NaN loses its sign and payload. Values too small
+///   for the type become 0 or subnormal.
 /// - EConvertError, which quotes the first piece that cannot be read and gives the number of its
 ///   first character, from 1: rsNotANumber or rsNotAnInteger for an element of another form;
 ///   rsNumberTooLarge for one out of range; rsUnexpectedText where a bracket, a comma, an element
@@ -91,8 +92,11 @@ namespace qorvex {
 
 /// @{
 /// Reads up to the bracket that closes the first one, and converts like Str2Vector and Str2Matrix.
-/// If that fails, it sets failbit and changes nothing. What does not begin with a bracket is not
-/// read.
+///
+/// - If that fails, it sets failbit and changes nothing. What does not begin with a bracket is not
+///   read.
+/// - Other exceptions, such as those of the stream buffer, set badbit and are passed on only if
+///   exceptions() contains badbit, as for the operators of the standard library.
 template <AnyElement T>
 QORVEX_EXPORT std::istream& operator>>(std::istream& in, TQorVector<T>& vector);
 template <AnyElement T>

@@ -9,6 +9,7 @@
 
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/detail/decimal_text.h"
+#include "qorvex/base/detail/stream_errors.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base/vector_text.h"
@@ -162,32 +163,36 @@ Array Read(std::string_view text) {
   return array;
 }
 
-// Reads up to the bracket that closes the first one, and converts that.
-template <class Array>
-std::istream& ReadFrom(std::istream& in, int deepest, Array& array) {
-  if (const std::istream::sentry ready(in); !ready) return in;
-  std::string text;
+// Takes the text up to the bracket that closes the first one. Returns failbit if that is not the
+// next one, or if brackets are nested too deeply.
+std::ios_base::iostate TakeBrackets(std::istream& in, int deepest, std::string& text) {
   int depth = 0;
   std::istreambuf_iterator<char> next(in);
   do {
-    if (next == std::default_sentinel) {
-      in.setstate(std::ios_base::eofbit | std::ios_base::failbit);
-      return in;
-    }
+    if (next == std::default_sentinel) return std::ios_base::eofbit | std::ios_base::failbit;
     if (*next == '[') ++depth;
     if (*next == ']') --depth;
-    if (depth > deepest || (depth <= 0 && text.empty())) {
-      in.setstate(std::ios_base::failbit);
-      return in;
-    }
+    if (depth > deepest || (depth <= 0 && text.empty())) return std::ios_base::failbit;
     text += *next;
     ++next;
   } while (depth > 0);
+  return std::ios_base::goodbit;
+}
+
+template <class Array>
+std::istream& ReadFrom(std::istream& in, int deepest, Array& array) {
+  if (const std::istream::sentry ready(in); !ready) return in;
+  std::ios_base::iostate state = std::ios_base::goodbit;
   try {
-    array = Read<Array>(text);
+    std::string text;
+    state = TakeBrackets(in, deepest, text);
+    if (state == std::ios_base::goodbit) array = Read<Array>(text);
   } catch (const EConvertError&) {
-    in.setstate(std::ios_base::failbit);
+    state = std::ios_base::failbit;
+  } catch (...) {
+    detail::HandleStreamError(in);
   }
+  in.setstate(state);
   return in;
 }
 

@@ -74,12 +74,13 @@ using TQorLongCurrMatrix = TQorMatrix<QorLongCurrency>;
 /// @{
 /// Writes [1, 2.5, -3], or the rows of a matrix one below the other, as vector_text.h describes.
 ///
-/// - The text is exact unless std::fixed, std::scientific or a precision other than 6, which is
-/// that
-///   of a new stream, is set. (std::hexfloat counts as not set.)
+/// - The text is exact unless std::fixed, std::scientific or a precision other than 6 is set. A new
+///   stream has the precision 6; std::hexfloat counts as not set. Vector2Str with kGeneral writes
+///   six significant digits.
 /// - Every element has the stream's width and fill. The columns of a matrix are aligned at the
 ///   decimal point, or with std::left and std::right at their sides. std::showpos adds plus signs.
-/// - The width becomes 0. Locales and the other settings have no effect.
+/// - The width becomes 0. Locales and the other settings, such as std::internal, have no effect.
+/// - Running out of memory sets badbit, and is raised only if exceptions() contains badbit.
 template <AnyElement T>
 QORVEX_EXPORT std::ostream& operator<<(std::ostream& out, const TQorVector<T>& vector);
 template <AnyElement T>

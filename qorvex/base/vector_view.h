@@ -11,10 +11,12 @@
 namespace qorvex {
 
 /// A range whose elements are contiguous in memory: a vector, a C array, std::vector, std::array,
-/// std::span or std::initializer_list. It must be readable through a const reference.
+/// std::span or std::initializer_list. It must be readable through a const reference, and its
+/// elements must not be volatile.
 template <class Range>
 concept ContiguousRange =
-    std::ranges::contiguous_range<const Range> && std::ranges::sized_range<const Range>;
+    std::ranges::contiguous_range<const Range> && std::ranges::sized_range<const Range> &&
+    !std::is_volatile_v<std::remove_reference_t<std::ranges::range_reference_t<const Range>>>;
 
 /// @cond internal
 // A class, because compilers show an alias as the long type that it stands for.
@@ -35,8 +37,8 @@ using ElementOf = typename RangeElement<Range>::Type;
 ///
 /// - Meant for parameters: the elements must outlive the view. Elements in braces live until the
 ///   end of the full expression.
-/// - A range of another element type does not convert, so no argument is converted or rounded
-///   silently.
+/// - A range of another element type does not convert, so that nothing is converted or rounded
+///   without being asked for.
 template <class T>
 class VectorView : public std::span<const T> {
  public:
@@ -48,7 +50,8 @@ class VectorView : public std::span<const T> {
   /// The elements of the range.
   template <ContiguousRange Range>
   requires std::is_same_v<ElementOf<Range>, T>
-  constexpr VectorView(const Range& range)
+  constexpr VectorView(const Range& range) noexcept(
+      noexcept(std::ranges::data(range)) && noexcept(std::ranges::size(range)))
       : std::span<const T>(std::ranges::data(range), std::ranges::size(range)) {}
 };
 

@@ -18,7 +18,7 @@ Extended* Row(TQorFloatVector& triangle, std::size_t n, std::size_t i) {
 
 // Factorises a matrix packed by columns into a zeroed triangle packed by rows. Returns false at the
 // first pivot that is not positive.
-bool Factorise(const TQorFloatVector& covariance, std::size_t n, TQorFloatVector& factor) {
+bool Factorise(VectorView<Extended> covariance, std::size_t n, TQorFloatVector& factor) {
   for (std::size_t i = 0; i < n; ++i) {
     Extended* const row = Row(factor, n, i);
     // The row first holds the sums of products. They are independent of one another, so the
@@ -39,7 +39,7 @@ bool Factorise(const TQorFloatVector& covariance, std::size_t n, TQorFloatVector
 
 }  // namespace
 
-void Random_MVNorm(const TQorFloatVector& mean, const TQorFloatVector& covariance,
+void Random_MVNorm(VectorView<Extended> mean, VectorView<Extended> covariance,
                    TQorFloatVector& factor, TQorFloatVector& variate, std::int32_t& error,
                    UniformSource source) {
   const std::size_t n = mean.size();

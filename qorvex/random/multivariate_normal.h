@@ -29,10 +29,10 @@ namespace qorvex::inline QorvexRandom {
 ///   n(n+1)/2 elements. No output changes after an error, including errors of the source.
 /// - Cost: O(n^3).
 /// - Never returns if the source only ever yields 0, 1 - 2^-64 or NaN.
-QORVEX_EXPORT void Random_MVNorm(const TQorFloatVector& mean, const TQorFloatVector& covariance,
+QORVEX_EXPORT void Random_MVNorm(VectorView<Extended> mean, VectorView<Extended> covariance,
                                  TQorFloatVector& factor, TQorFloatVector& variate,
                                  std::int32_t& error, UniformSource source);
-inline void Random_MVNorm(const TQorFloatVector& mean, const TQorFloatVector& covariance,
+inline void Random_MVNorm(VectorView<Extended> mean, VectorView<Extended> covariance,
                           TQorFloatVector& factor, TQorFloatVector& variate, std::int32_t& error) {
   Random_MVNorm(mean, covariance, factor, variate, error, ClassicRandom);
 }

@@ -42,16 +42,20 @@ using TQorRandomFunc = Extended (*)();
 /// @cond internal
 class UniformSource;
 
+namespace detail {
+
 // A function, or a pointer to one.
 template <class Callable>
 inline constexpr bool kIsFunction =
     std::is_function_v<std::remove_pointer_t<std::remove_cvref_t<Callable>>>;
 
-// A callable that returns floating values and does not convert to a TQorRandomFunc.
+template <class Callable>
+concept PlainSource = std::convertible_to<Callable, TQorRandomFunc> && kIsFunction<Callable>;
+
+// A callable other than a TQorRandomFunc that returns floating values.
 template <class Callable>
 concept OtherSource =
-    !std::same_as<std::remove_cvref_t<Callable>, UniformSource> &&
-    !(kIsFunction<Callable> && std::convertible_to<Callable, TQorRandomFunc>)&&  //
+    !std::same_as<std::remove_cvref_t<Callable>, UniformSource> && !PlainSource<Callable> &&
     std::floating_point<std::remove_cvref_t<std::invoke_result_t<Callable&>>>;
 
 // A generator of random integers, as the distributions of the standard library take.
@@ -64,6 +68,8 @@ template <Generator Callable>
 inline constexpr bool kGenerates64Bits =
     std::remove_cvref_t<Callable>::min() == 0 && std::remove_cvref_t<Callable>::max() ==
                                                      std::numeric_limits<std::uint64_t>::max();
+
+}  // namespace detail
 /// @endcond
 
 /// A reference to a uniform source:
@@ -73,18 +79,18 @@ inline constexpr bool kGenerates64Bits =
 /// - or a uniform random bit generator of 64 bits, such as RandomStream or std::mt19937_64, whose
 ///   integers times 2^-64 are the uniform values. Generators of other widths do not compile.
 ///
-/// The class is meant for parameters. The callable is not copied and must outlive the reference; a
-/// temporary in the call expression does. A function pointer must not be null. Each draw costs one
-/// indirect call.
+/// The class is meant for parameters. The callable is not copied, so it needs no std::ref, and
+/// must outlive the reference; a temporary in the call expression does. A function pointer must not
+/// be null. Each draw costs one indirect call.
 class UniformSource {
  public:
   /// @{
   /// Refers to a source.
   UniformSource(TQorRandomFunc function) noexcept : target_{.function = function} {}
 
-  template <OtherSource Callable>
+  template <detail::OtherSource Callable>
   UniformSource(Callable&& callable) noexcept {
-    if constexpr (kIsFunction<Callable>) {
+    if constexpr (detail::kIsFunction<Callable>) {
       using Function = std::decay_t<Callable>;
       target_.other_function = reinterpret_cast<void (*)()>(static_cast<Function>(callable));
       call_ = [](Target target) -> Extended {
@@ -96,9 +102,9 @@ class UniformSource {
     }
   }
 
-  template <Generator Callable>
+  template <detail::Generator Callable>
   UniformSource(Callable&& generator) noexcept : target_{.object = AddressOf(generator)} {
-    static_assert(kGenerates64Bits<Callable>,
+    static_assert(detail::kGenerates64Bits<Callable>,
                   "a generator needs values of 64 bits, as RandomStream and std::mt19937_64 have");
     call_ = [](Target target) -> Extended { return UniformValue(Object<Callable>(target)()); };
   }

@@ -130,8 +130,7 @@ QORVEX_EXPORT void Standardise(TQorFloatVector& vector, Extended mean, Extended 
 /// @{
 /// Standardises with the single-pass mean and standard deviation of the vector:
 /// PopulationStdDevAndMean if `population` is true, otherwise SampleStdDevAndMean, with their
-/// errors. Three figures without the flag do not compile, because the last would be taken for the
-/// flag.
+/// errors. Three figures alone do not compile, because the last would be taken for the flag.
 QORVEX_EXPORT void Standardise(TQorFloatVector& vector, Extended new_mean, Extended new_std_dev,
                                bool population);
 void Standardise(TQorFloatVector& vector, Extended, Extended, Extended) = delete;

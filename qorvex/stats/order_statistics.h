@@ -30,8 +30,8 @@ template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended GetMedian(VectorView<T> sorted);
 template <ContiguousRange Range>
 requires WideNumericElement<ElementOf<Range>>
-[[nodiscard]] Extended GetMedian(const Range& vector) {
-  return GetMedian<ElementOf<Range>>(vector);
+[[nodiscard]] Extended GetMedian(const Range& sorted) {
+  return GetMedian<ElementOf<Range>>(sorted);
 }
 /// @}
 

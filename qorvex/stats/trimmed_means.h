@@ -30,8 +30,8 @@ template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended TrimmedMean(VectorView<T> sorted, Extended fraction);
 template <ContiguousRange Range>
 requires WideNumericElement<ElementOf<Range>>
-[[nodiscard]] Extended TrimmedMean(const Range& vector, Extended fraction) {
-  return TrimmedMean<ElementOf<Range>>(vector, fraction);
+[[nodiscard]] Extended TrimmedMean(const Range& sorted, Extended fraction) {
+  return TrimmedMean<ElementOf<Range>>(sorted, fraction);
 }
 /// @}
 
@@ -50,8 +50,8 @@ template <WideNumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended ExcelTrimmedMean(VectorView<T> sorted, Extended fraction);
 template <ContiguousRange Range>
 requires WideNumericElement<ElementOf<Range>>
-[[nodiscard]] Extended ExcelTrimmedMean(const Range& vector, Extended fraction) {
-  return ExcelTrimmedMean<ElementOf<Range>>(vector, fraction);
+[[nodiscard]] Extended ExcelTrimmedMean(const Range& sorted, Extended fraction) {
+  return ExcelTrimmedMean<ElementOf<Range>>(sorted, fraction);
 }
 /// @}
 

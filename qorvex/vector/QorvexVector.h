@@ -3,8 +3,8 @@
 /// @file
 /// Unit QorvexVector: vectors of the ten numeric element types.
 ///
-/// Routines that only read a vector take every contiguous range of its elements, without a copy: see
-/// VectorView. Each exists twice, for elements in braces and an explicit type, as in
+/// Routines that only read a vector take every contiguous range of its elements, without a copy:
+/// see VectorView. Each exists twice, for elements in braces and an explicit type, as in
 /// SumVector<double>({1, 2}), and for ranges.
 
 #include "qorvex/base/errors.h"

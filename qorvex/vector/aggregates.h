@@ -12,7 +12,6 @@
 
 #include <concepts>
 #include <cstdint>
-#include <initializer_list>
 #include <type_traits>
 
 #include "qorvex/base/export.h"
@@ -118,10 +117,10 @@ requires WideNumericElement<ElementOf<Range>>
                                                        VectorView<ElementOf<Range>> b) {
   return SumSqDiffVectors<ElementOf<Range>>(a, b);
 }
-template <WideNumericElement T>
-[[nodiscard]] SumOf<T> SumSqDiffVectors(std::initializer_list<std::type_identity_t<T>> a,
-                                        const TQorVector<T>& b) {
-  return SumSqDiffVectors(VectorView<T>(a), VectorView<T>(b));
+template <ContiguousRange Range, std::same_as<ElementOf<Range>> T = ElementOf<Range>>
+requires WideNumericElement<T>
+[[nodiscard]] SumOf<T> SumSqDiffVectors(VectorView<T> a, const Range& b) {
+  return SumSqDiffVectors<T>(a, b);
 }
 /// @}
 

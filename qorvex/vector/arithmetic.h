@@ -10,7 +10,7 @@
 ///   may be elements in braces.
 /// - O(n).
 
-#include <initializer_list>
+#include <concepts>
 #include <type_traits>
 
 #include "qorvex/base/export.h"
@@ -29,10 +29,12 @@ requires AdditiveElement<ElementOf<Range>>
                                                       VectorView<ElementOf<Range>> b) {
   return AddVectors<ElementOf<Range>>(a, b);
 }
-template <AdditiveElement T>
-[[nodiscard]] TQorVector<T> AddVectors(std::initializer_list<std::type_identity_t<T>> a,
-                                       const TQorVector<T>& b) {
-  return AddVectors(VectorView<T>(a), VectorView<T>(b));
+// For elements in braces, from which T cannot be deduced. Other ranges do not match VectorView<T>,
+// so that error messages say little about this form.
+template <ContiguousRange Range, std::same_as<ElementOf<Range>> T = ElementOf<Range>>
+requires AdditiveElement<T>
+[[nodiscard]] TQorVector<T> AddVectors(VectorView<T> a, const Range& b) {
+  return AddVectors<T>(a, b);
 }
 template <AdditiveElement T>
 [[nodiscard]] QORVEX_EXPORT TQorVector<T> SubtractVectors(VectorView<T> a, VectorView<T> b);
@@ -42,10 +44,10 @@ requires AdditiveElement<ElementOf<Range>>
                                                            VectorView<ElementOf<Range>> b) {
   return SubtractVectors<ElementOf<Range>>(a, b);
 }
-template <AdditiveElement T>
-[[nodiscard]] TQorVector<T> SubtractVectors(std::initializer_list<std::type_identity_t<T>> a,
-                                            const TQorVector<T>& b) {
-  return SubtractVectors(VectorView<T>(a), VectorView<T>(b));
+template <ContiguousRange Range, std::same_as<ElementOf<Range>> T = ElementOf<Range>>
+requires AdditiveElement<T>
+[[nodiscard]] TQorVector<T> SubtractVectors(VectorView<T> a, const Range& b) {
+  return SubtractVectors<T>(a, b);
 }
 /// @}
 
@@ -75,10 +77,10 @@ requires WideNumericElement<ElementOf<Range>>
                                                      VectorView<ElementOf<Range>> b) {
   return DotProdVectors<ElementOf<Range>>(a, b);
 }
-template <WideNumericElement T>
-[[nodiscard]] SumOf<T> DotProdVectors(std::initializer_list<std::type_identity_t<T>> a,
-                                      const TQorVector<T>& b) {
-  return DotProdVectors(VectorView<T>(a), VectorView<T>(b));
+template <ContiguousRange Range, std::same_as<ElementOf<Range>> T = ElementOf<Range>>
+requires WideNumericElement<T>
+[[nodiscard]] SumOf<T> DotProdVectors(VectorView<T> a, const Range& b) {
+  return DotProdVectors<T>(a, b);
 }
 /// @}
 
@@ -96,10 +98,10 @@ requires WideNumericElement<ElementOf<Range>>
 [[nodiscard]] Extended AngleBetweenVectors(const Range& a, VectorView<ElementOf<Range>> b) {
   return AngleBetweenVectors<ElementOf<Range>>(a, b);
 }
-template <WideNumericElement T>
-[[nodiscard]] Extended AngleBetweenVectors(std::initializer_list<std::type_identity_t<T>> a,
-                                           const TQorVector<T>& b) {
-  return AngleBetweenVectors(VectorView<T>(a), VectorView<T>(b));
+template <ContiguousRange Range, std::same_as<ElementOf<Range>> T = ElementOf<Range>>
+requires WideNumericElement<T>
+[[nodiscard]] Extended AngleBetweenVectors(VectorView<T> a, const Range& b) {
+  return AngleBetweenVectors<T>(a, b);
 }
 /// @}
 

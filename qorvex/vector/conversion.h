@@ -4,8 +4,7 @@
 /// Conversions of arrays and vectors from one numeric element type to another.
 ///
 /// - Exact conversions and narrowing ones have different names, so that a loss is always asked for.
-/// - Every contiguous range of numeric elements can be converted. The result never shares its
-///   buffer.
+/// - Every contiguous range of numeric elements can be converted. The result is always a copy.
 /// - n = 0 gives an empty result. O(n).
 /// - Conversions of amounts are those of the unit QorvexFinVector.
 
@@ -54,8 +53,7 @@ requires ConvertsExactlyTo<ElementOf<Range>, To>
   return detail::Converted<To, ElementOf<Range>>(values);
 }
 
-/// The values rounded to elements of type To: NarrowVector<float>(v),
-/// NarrowVector<std::int32_t>(v).
+/// The values rounded to elements of type To, as in NarrowVector<float>(v).
 ///
 /// - Rounds to nearest, ties to even.
 /// - NaN and infinities stay what they are in floating elements.
@@ -75,6 +73,10 @@ requires ConvertsExactlyTo<ElementOf<Range>, Extended>
 [[nodiscard]] TQorFloatVector Array2FloatVector(const Range& values) {
   return ConvertVector<Extended>(values);
 }
+template <ConvertsExactlyTo<Extended> T>
+[[nodiscard]] TQorFloatVector Vector2FloatVector(VectorView<T> values) {
+  return ConvertVector<Extended>(values);
+}
 template <ContiguousRange Range>
 requires ConvertsExactlyTo<ElementOf<Range>, Extended>
 [[nodiscard]] TQorFloatVector Vector2FloatVector(const Range& values) {
@@ -89,6 +91,10 @@ requires ConvertsExactlyTo<ElementOf<Range>, std::int64_t>
 [[nodiscard]] TQorInt64Vector Array2Int64Vector(const Range& values) {
   return ConvertVector<std::int64_t>(values);
 }
+template <ConvertsExactlyTo<std::int64_t> T>
+[[nodiscard]] TQorInt64Vector Vector2Int64Vector(VectorView<T> values) {
+  return ConvertVector<std::int64_t>(values);
+}
 template <ContiguousRange Range>
 requires ConvertsExactlyTo<ElementOf<Range>, std::int64_t>
 [[nodiscard]] TQorInt64Vector Vector2Int64Vector(const Range& values) {
@@ -97,11 +103,15 @@ requires ConvertsExactlyTo<ElementOf<Range>, std::int64_t>
 /// @}
 
 /// @{
-/// The values of int32 or of 8- or 16-bit integers as a new int32 vector: the same as
+/// The values of int32 or narrower integers as a new int32 vector, the same as that of
 /// ConvertVector<std::int32_t>.
 template <ContiguousRange Range>
 requires ConvertsExactlyTo<ElementOf<Range>, std::int32_t>
 [[nodiscard]] TQorLIntVector Array2LIntVector(const Range& values) {
+  return ConvertVector<std::int32_t>(values);
+}
+template <ConvertsExactlyTo<std::int32_t> T>
+[[nodiscard]] TQorLIntVector Vector2LIntVector(VectorView<T> values) {
   return ConvertVector<std::int32_t>(values);
 }
 template <ContiguousRange Range>

@@ -3,7 +3,8 @@
 /// @file
 /// Vectors of amounts from decimal text.
 ///
-/// - Takes any range of text: of std::string, std::string_view, const char*, or a list in braces.
+/// - Takes any range of text, views included: of std::string, std::string_view, const char*, or a
+///   list in braces.
 /// - Each text is converted as by Str2Currency and its siblings: exactly, rounded to the decimals
 ///   of the type, ties to even.
 /// - EConvertError, which quotes the first text that cannot be converted: rsNotANumber or
@@ -23,13 +24,14 @@ namespace qorvex::inline QorvexFinVector {
 /// @cond internal
 namespace detail {
 template <class Range>
-concept TextRange = std::ranges::input_range<const Range&> &&
-    std::convertible_to<std::ranges::range_reference_t<const Range&>, std::string_view>;
+concept TextRange = std::ranges::input_range<Range> &&
+    std::convertible_to<std::ranges::range_reference_t<Range>, std::string_view>;
 
 template <CurrencyElement T, class Texts>
-TQorVector<T> AmountsOf(const Texts& texts, T (*amount_of)(std::string_view)) {
+TQorVector<T> AmountsOf(Texts&& texts, T (*amount_of)(std::string_view)) {
   TQorVector<T> amounts;
-  for (const std::string_view text : texts) amounts.Append(amount_of(text));
+  // Not a std::string_view: the range may make each text when it is read.
+  for (auto&& text : texts) amounts.Append(amount_of(text));
   return amounts;
 }
 }  // namespace detail
@@ -38,7 +40,7 @@ TQorVector<T> AmountsOf(const Texts& texts, T (*amount_of)(std::string_view)) {
 /// @{
 /// The amounts that the texts represent, as Currency.
 template <detail::TextRange Range>
-[[nodiscard]] TQorCurrencyVector Text2QorCurrencyVector(const Range& texts) {
+[[nodiscard]] TQorCurrencyVector Text2QorCurrencyVector(Range&& texts) {
   return detail::AmountsOf(texts, Str2Currency);
 }
 [[nodiscard]] inline TQorCurrencyVector Text2QorCurrencyVector(
@@ -50,7 +52,7 @@ template <detail::TextRange Range>
 /// @{
 /// The amounts that the texts represent, as QorCurrency.
 template <detail::TextRange Range>
-[[nodiscard]] TQorCurrVector Text2QorCurrVector(const Range& texts) {
+[[nodiscard]] TQorCurrVector Text2QorCurrVector(Range&& texts) {
   return detail::AmountsOf(texts, Str2QorCurrency);
 }
 [[nodiscard]] inline TQorCurrVector Text2QorCurrVector(
@@ -62,7 +64,7 @@ template <detail::TextRange Range>
 /// @{
 /// The amounts that the texts represent, as QorLongCurrency.
 template <detail::TextRange Range>
-[[nodiscard]] TQorLongCurrVector Text2QorLongCurrVector(const Range& texts) {
+[[nodiscard]] TQorLongCurrVector Text2QorLongCurrVector(Range&& texts) {
   return detail::AmountsOf(texts, Str2QorLongCurrency);
 }
 [[nodiscard]] inline TQorLongCurrVector Text2QorLongCurrVector(

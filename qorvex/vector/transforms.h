@@ -11,6 +11,7 @@
 /// - O(n).
 
 #include <concepts>
+#include <cstddef>
 #include <cstdint>
 #include <type_traits>
 
@@ -74,28 +75,46 @@ template <CurrencyElement T>
 QORVEX_EXPORT void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept);
 
 /// @cond internal
-// A callable other than a plain T(T), which the exported form takes.
+namespace detail {
+
+// The parameter of a call operator that is not a template.
+template <class Class, class Result, class Parameter>
+Parameter ParameterOf(Result (Class::*)(Parameter));
+template <class Class, class Result, class Parameter>
+Parameter ParameterOf(Result (Class::*)(Parameter) const);
+
+// A parameter that would truncate its argument.
+template <class Function>
+concept HasIntegerParameter =
+    std::integral<std::remove_cvref_t<decltype(ParameterOf(&Function::operator()))>>;
+
+// A function object for elements of T. Plain functions have the exported form.
 template <class Function, class T>
-concept ElementFunction = std::is_invocable_r_v<T, Function&, T> &&
-    !(std::is_pointer_v<std::decay_t<Function>> && std::is_convertible_v<Function, T (*)(T)>);
+concept ElementFunction =
+    std::is_class_v<Function> && !HasIntegerParameter<Function> &&
+    std::floating_point<std::remove_cvref_t<std::invoke_result_t<Function&, const T&>>>;
+
+}  // namespace detail
 /// @endcond
 
 /// @{
 /// Replaces each element x by func(x), which is called once for each element in ascending order.
 ///
-/// - func is a plain function T(T), or any callable, such as a lambda with captures, that takes a T
-///   and returns a value that converts to T. The callable is called by reference, not copied.
+/// - func is a plain function T(T), or any function object, such as a lambda with captures, that
+///   takes a floating value and returns one. The object is called by reference, not copied.
 /// - func must not be null, and must not change the length of the vector.
 /// - Exceptions from func are passed on; the elements before are already replaced then.
 /// - n = 0: EMathError with rsVectorIsEmpty.
 /// - For floating elements.
 template <FloatElement T>
 QORVEX_EXPORT void TransformVector(TQorVector<T>& vector, std::type_identity_t<T (*)(T)> func);
+template <FloatElement T>
+void TransformVector(TQorVector<T>& vector, std::nullptr_t func) = delete;
 template <FloatElement T, class Function>
-requires ElementFunction<Function, T>
+requires detail::ElementFunction<std::remove_reference_t<Function>, T>
 void TransformVector(TQorVector<T>& vector, Function&& func) {
   if (vector.empty()) RaiseMathError(rsVectorIsEmpty);
-  for (T& x : vector) x = static_cast<T>(func(x));
+  for (T& x : vector) x = static_cast<T>(func(static_cast<const T&>(x)));
 }
 /// @}
 

@@ -31,6 +31,8 @@ TEST(CurrencyLiterals, RefuseWhatIsNotExactlyAnAmount) {
       {"1e2", LiteralFault::kNotPlainDecimal},
       {"1.5e1", LiteralFault::kNotPlainDecimal},
       {"010", LiteralFault::kNotPlainDecimal},
+      {"012.5", LiteralFault::kNotPlainDecimal},
+      {"00.5", LiteralFault::kNotPlainDecimal},
       {"0x10", LiteralFault::kNotPlainDecimal},
   };
   for (const auto& [text, fault] : cases)
@@ -152,8 +154,15 @@ TYPED_TEST(AmountsOf, AreMultipliedWithOneRounding) {
         }
       }
     }
+    for (const RoundingMode mode : kModes) {
+      EXPECT_EQ(MultiplyAmount(C(x), UINT64_MAX, UINT64_MAX, mode), C(x));
+      ExpectStored(Int128{x} * UINT64_MAX,
+                   [=] { return MultiplyAmount(C(x), UINT64_MAX, 1, mode); });
+      ExpectStored(RoundedQuotients(x, UINT64_MAX)[static_cast<std::size_t>(mode)],
+                   [=] { return MultiplyAmount(C(x), 1, UINT64_MAX, mode); });
+    }
   }
-  EXPECT_ERROR(MultiplyAmount(C(0), 1, 0, RoundingMode::kUp), EZeroDivide, rsDivideByZero);
+  EXPECT_ERROR(MultiplyAmount(C(0), UINT64_MAX, 0, RoundingMode::kUp), EZeroDivide, rsDivideByZero);
 }
 
 TEST(CurrencyArithmetic, ExtendedFactorsOfEverySize) {

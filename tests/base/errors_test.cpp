@@ -64,6 +64,8 @@ TEST(MathError, TakesTextsAndIdentifiersOfApplications) {
   EXPECT_EQ(caught(EMathError("no rate")), std::pair(rsApplication, "no rate"s));
   EXPECT_EQ(caught(EMathError(rsInvalidValue, "no rate")), std::pair(rsInvalidValue, "no rate"s));
   EXPECT_EQ(caught(EZeroDivide(rsDivideByZero)), std::pair(rsDivideByZero, "Division by zero"s));
+  EXPECT_EQ(caught(EOverflow("no rate")), std::pair(rsApplication, "no rate"s));
+  EXPECT_EQ(caught(EInvalidOp(rsNA, "no rate")), std::pair(rsNA, "no rate"s));
   EXPECT_EQ(EnglishMessageText(rsApplication), "");
   EXPECT_THROW(EMathError{rsApplication}, std::out_of_range);
 }

@@ -47,7 +47,7 @@ refused("(void)SumVector(chars)" 35 "${floats}, long( int)?, unsigned int, int, 
 refused("(void)VectorPositive(words)" 35 "${floats}, long( int)?, ")
 refused("(void)MovingAverage(words, 1, 0)" 35 "${floats}[^,]")
 refused("(void)DotProdVectors(chars, chars)" 45 "${floats}, long( int)?, unsigned int, int[^,]")
-refused("(void)AddVectors(words, words)" 50 "${floats}, long( int)?, int, ")
+refused("(void)AddVectors(words, words)" 45 "${floats}, long( int)?, int, ")
 refused("(void)AddVectors(v, chars)" 30 "VectorView<double>")
 refused("(void)SumSqDiffVector(chars, 1)" 60 "${floats}[^,]")
 refused("AddToVector(v, chars)" 30 "VectorView<double>")

@@ -79,7 +79,7 @@ TEST(Limits, MultivariateNormalChangesNothingOnErrors) {
   TQorFloatVector factor = {7};
   TQorFloatVector variate = {8};
   std::int32_t status = 9;
-  const auto draw = [&](const TQorFloatVector& mean, const TQorFloatVector& covariance,
+  const auto draw = [&](VectorView<Extended> mean, VectorView<Extended> covariance,
                         UniformSource source = NoDraw) {
     Random_MVNorm(mean, covariance, factor, variate, status, source);
   };

@@ -172,9 +172,9 @@ TEST(Streams, ExactVariatesAtTheLimitsOfTheMethods) {
 }
 
 TEST(Streams, MultivariateNormalAddsTheFactoredVariates) {
-  const TQorFloatVector mean = {10, 20, 30};
+  const Extended mean[] = {10, 20, 30};
   // Columns of the upper triangle: the factor is ((2, 1, 3), (0, 3, -1), (0, 0, 0.5)).
-  const TQorFloatVector covariance = {4, 2, 10, 6, 0, 10.25L, 99};
+  const std::vector<Extended> covariance = {4, 2, 10, 6, 0, 10.25L, 99};
   const std::vector<Extended> script = {0.5L, 0.75L, 0.5L, 0.25L, 0.625L, 0.5625L};
   ScriptedSource normals(script);
   const Extended z[] = {Random_Normal(normals), Random_Normal(normals), Random_Normal(normals)};
@@ -196,8 +196,7 @@ TEST(Streams, ShortFormsDrawFromTheRuntime) {
   TQorFloatVector factor;
   TQorFloatVector variate;
   std::int32_t error = 0;
-  const TQorFloatVector one = {1};
-  Random_MVNorm(one, one, factor, variate, error);
+  Random_MVNorm({1}, {1}, factor, variate, error);
   // The generator of the runtime is the standard one.
 #define EXPECT_SAME_STREAM(Routine, ...) \
   SetRandSeed(77);                       \
@@ -277,6 +276,7 @@ TEST(UniformSource, TakesGeneratorsOf64Bits) {
   for (int i = 0; i < 1000; ++i) EXPECT_EQ(UniformSource(standard)(), Random());
   EXPECT_EQ(UniformSource(RandomStream(0))(), 0x53175d61490b23dfp-64L);
 
+  using detail::kGenerates64Bits;
   static_assert(kGenerates64Bits<RandomStream> && kGenerates64Bits<std::mt19937_64&>);
   static_assert(!kGenerates64Bits<std::mt19937> && !kGenerates64Bits<std::minstd_rand> &&
                 !kGenerates64Bits<std::ranlux48>);

@@ -5,6 +5,7 @@
 #include <random>
 
 #include "qorvex/base/currency_literals.h"
+#include "qorvex/vector/transforms.h"
 #include "support/amounts.h"
 #include "support/test.h"
 
@@ -102,7 +103,9 @@ TEST(AllocationOfAmounts, ComparesWeightsOfEverySizeExactly) {
   };
   for (const auto& [amount, weights, parts] : cases) {
     EXPECT_EQ(testing::Stored(Allocate(Currency(amount), weights)), TQorInt64Vector(parts));
-    EXPECT_EQ(testing::Stored(Allocate(-Currency(amount), weights))[0], -parts[0]);
+    TQorInt64Vector negated(parts);
+    LinearTransformVector(negated, -1, 0);
+    EXPECT_EQ(testing::Stored(Allocate(-Currency(amount), weights)), negated);
   }
   // The total of these integers takes more than 64 bits.
   const std::array<std::int64_t, 4> largest{INT64_MAX, INT64_MAX, INT64_MAX, INT64_MAX - 1};

@@ -88,6 +88,21 @@ TYPED_TEST(AmountVectors, RaiseOnlyIfTheSumIsOutOfRange) {
   EXPECT_MATH_ERROR(CheckedSum(std::span<const T>()), rsVectorIsEmpty);
 }
 
+// Like many views: makes each text when it is read, and cannot be read through a const reference.
+struct LongTexts {
+  struct Iterator {
+    using value_type = std::string;
+    using difference_type = std::ptrdiff_t;
+    std::string operator*() const { return std::string(40, '0') + std::to_string(number); }
+    Iterator& operator++() { return ++number, *this; }
+    void operator++(int) { ++number; }
+    bool operator==(const Iterator&) const = default;
+    int number;
+  };
+  Iterator begin() { return {1}; }
+  Iterator end() { return {3}; }
+};
+
 TEST(CurrencyVectors, FromTextOrNotAtAll) {
   EXPECT_EQ(Text2QorCurrencyVector({"0.0347", " 12.495"}),
             (TQorCurrencyVector{Currency(347), Currency(124'950)}));
@@ -95,6 +110,7 @@ TEST(CurrencyVectors, FromTextOrNotAtAll) {
             (TQorCurrVector{QorCurrency(112), QorCurrency(-700)}));
   EXPECT_EQ(Text2QorLongCurrVector(std::array{"1e-6"}), TQorLongCurrVector{QorLongCurrency(1)});
   EXPECT_TRUE(Text2QorCurrVector(std::vector<std::string_view>()).empty());
+  EXPECT_EQ(Text2QorCurrVector(LongTexts()), (TQorCurrVector{QorCurrency(100), QorCurrency(200)}));
   try {
     static_cast<void>(Text2QorCurrVector({"1.25", "12.5O", "x"}));
     ADD_FAILURE();

@@ -1,6 +1,7 @@
 // The element types that each routine accepts. Other types must not compile, so that no call
 // converts or rounds its arguments implicitly.
 
+#include <functional>
 #include <type_traits>
 
 #include "qorvex/base/elementary.h"
@@ -51,12 +52,30 @@ TEST(ElementTables, SortingAndArithmetic) {
                TYPES_READ_BY(AddToVector(w, v)), TYPES_READ_BY(SubtractFromVector(w, v))});
   ExpectTypes("gdfjui", {TYPES_READ_BY(DotProdVectors(v, w)),
                          TYPES_READ_BY(AngleBetweenVectors(w, v)), TYPES_OF(SquareVector(v))});
-  ExpectTypes("gdf",
-              {TYPES_OF(SqrtVector(v)), TYPES_OF(InvVector(v)), TYPES_OF(LnVector(v)),
-               TYPES_OF(Log10Vector(v)), TYPES_OF(Log2Vector(v)),
-               TYPES_OF(TransformVector(v, nullptr)), TYPES_READ_BY(MovingAverage(v, 1, 0))});
+  ExpectTypes("gdf", {TYPES_OF(SqrtVector(v)), TYPES_OF(InvVector(v)), TYPES_OF(LnVector(v)),
+                      TYPES_OF(Log10Vector(v)), TYPES_OF(Log2Vector(v)),
+                      TYPES_OF(TransformVector(v, std::negate<>())),
+                      TYPES_READ_BY(MovingAverage(v, 1, 0))});
   EXPECT_EQ(TYPES_OF(LinearTransformVector(v, 1, 0)), "gdfjCSL");
   EXPECT_EQ(TYPES_READ_BY(QorPolynomial(v, 1)), "g");
+}
+
+TEST(ElementTables, FunctionsOfElements) {
+  constexpr auto types = [](auto function) {
+    return Exists([]<class T>(std::type_identity<T>) {
+      return requires(TQorVector<T> & v, decltype(function)& f) {
+        TransformVector(v, f);
+      };
+    });
+  };
+  double (*const plain)(double) = nullptr;
+  EXPECT_EQ(types(plain), "d") << "no rounding";
+  ExpectTypes("gdf", {types([](double x) { return x; }), types([](const auto& x) { return -x; }),
+                      types([](float x) mutable { return x += 1; })});
+  ExpectTypes(
+      "", {types([](int x) { return 0.5 * x; }), types([](double) { return 1; }),
+           types([](double& x) { return x = 1; }), types([](const std::string&) { return 1.0; }),
+           types(std::function<double(const int&)>()), types(nullptr)});
 }
 
 // Floating-point factors and elements would be truncated.
