@@ -92,7 +92,8 @@ class Solver {
 
  public:
   // An elimination that neglects what the inverse neglects shows whether there is a solution. If it
-  // had to neglect something, it is repeated without, because right-hand sides may be large.
+  // neglected anything, every element is eliminated in a second one, however small, because its
+  // right-hand sides may be large.
   explicit Solver(const TQorMatrix<T>& matrix)
       : matrix_(matrix),
         order_(matrix.size()),
