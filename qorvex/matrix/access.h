@@ -30,10 +30,9 @@ template <AnyElement T>
 /// @}
 
 /// @{
-/// Overwrites one row or one column with the elements of the vector, which is any contiguous range
-/// of the element type. If it is shorter, the remaining elements are set to the fill value; excess
-/// elements are ignored. The change is seen through every handle of a row's buffer. O(rows +
-/// columns).
+/// Overwrites one row or one column with the elements of a contiguous range of the element type. If
+/// there are fewer, the others are set to the fill value; excess elements are ignored. The change
+/// is seen through every handle of a row's buffer. O(rows + columns).
 template <AnyElement T>
 QORVEX_EXPORT void OverwriteMatrixRow(TQorMatrix<T>& matrix, std::uint32_t row,
                                       VectorView<std::type_identity_t<T>> vector, ScalarOf<T> fill);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "qorvex/base/special/extended_pair.h"
+#include "qorvex/matrix/arithmetic.h"
 #include "qorvex/matrix/conversion.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/elimination.h"
@@ -91,7 +92,8 @@ class Solver {
 
  public:
   // An elimination that neglects what the inverse neglects shows whether there is a solution. If it
-  // had to neglect something, it is repeated without, because right-hand sides may be large.
+  // neglected anything, every element is eliminated in a second one, however small, because its
+  // right-hand sides may be large.
   explicit Solver(const TQorMatrix<T>& matrix)
       : matrix_(matrix),
         order_(matrix.size()),
@@ -103,9 +105,8 @@ class Solver {
       steps_ = StepRecorder(order_, Neglect::kNothing);
       regular_ = Eliminate();
     }
-    for (const TQorVector<T>& row : matrix) {
-      scale_ = std::min(scale_, SplittingScale<T>(std::span(row).first(order_)));
-    }
+    for (const TQorVector<T>& row : matrix) scale_ = std::min(scale_, SplittingScale<T>(row));
+    if (scale_ != 1) matrix_ = MultiplyMatrixByConst(matrix, scale_);
   }
 
   // Calls store(i, x[i]) for the elements of the solution. Returns false if there is none.
@@ -144,34 +145,36 @@ class Solver {
     return x;
   }
 
-  // b - matrix * x. Every product and every rounding error of the sums is taken into account.
+  // b less the given matrix times x. Every product and every rounding error of the sums is taken
+  // into account.
   Floats Residual(const Floats& b, Floats x) const {
     const Extended x_scale = SplittingScale<Extended>(x);
-    for (Extended& element : x) element *= x_scale;
+    for (Extended& element : x) element *= -x_scale;
     const Extended scale = scale_ * x_scale;
+    const Extended inverse_scale = 1 / scale;
     Floats residual(order_);
     for (std::size_t i = 0; i < order_; ++i) {
       const T* const row = matrix_[i].data();
       Extended sum = b[i] * scale;
       Extended errors = 0;
       for (std::size_t j = 0; j < order_; ++j) {
-        const auto product = special::ExactProduct(-scale_ * static_cast<Extended>(row[j]), x[j]);
+        const auto product = special::ExactProduct(static_cast<Extended>(row[j]), x[j]);
         const auto partial = special::ExactSum(sum, product.hi);
         sum = partial.hi;
         errors += partial.lo + product.lo;
       }
-      residual[i] = (sum + errors) / scale;
+      residual[i] = (sum + errors) * inverse_scale;
     }
     return residual;
   }
 
-  const TQorMatrix<T>& matrix_;
+  // The matrix times scale_, for residuals. Shares its rows with the given one if scale_ is 1.
+  TQorMatrix<T> matrix_;
+  Extended scale_ = 1;
   std::size_t order_;
   TQorFloatMatrix echelon_;
   StepRecorder steps_;
   bool regular_;
-  // Factor of the matrix in residuals.
-  Extended scale_ = 1;
 };
 
 }  // namespace

@@ -51,7 +51,8 @@ template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT std::optional<TQorMatrix<T>> Solve(const TQorMatrix<T>& a,
                                                                const TQorMatrix<T>& b);
 /// The same for a matrix b in braces, which is given by its rows: Solve(a, {{3}, {5}}) has a matrix
-/// as its result, Solve(a, {3, 5}) a vector.
+/// as its result, Solve(a, {3, 5}) a vector. A single vector variable in braces, {v}, is ambiguous:
+/// write v for a vector and TQorMatrix<T>{v} for a matrix.
 template <FloatElement T>
 [[nodiscard]] inline std::optional<TQorMatrix<T>> Solve(
     const TQorMatrix<T>& a,
