@@ -67,7 +67,7 @@ read_document() {
     else
       case "$kind $1" in
         sh\ *) run_block "$1" "$start" "$block" ;;
-        "console docs/command_line.md" | cmake\ * | cpp\ * | text\ *) ;;
+        "console docs/command_line.md" | cmake\ * | cpp\ * | r\ * | text\ *) ;;
         *) fail "$1:$start: a block of an unknown kind: ${kind:-none}" ;;
       esac
       kind=
