@@ -8,21 +8,21 @@
 using namespace qorvex;
 
 int main() {
-  TQorFloatVector lifetimes{12, 7, 9, 7, 30, 11, 8, 7};
+  const TQorFloatVector lifetimes{12, 7, 9, 7, 30, 11, 8, 7};
   std::cout << "Mean " << Float2EStr(QorMean(lifetimes), 3) << ", standard deviation "
             << Float2EStr(SampleStdDev(lifetimes), 3) << '\n';
 
-  QSortVector(lifetimes, true);  // order statistics expect a sorted vector
+  const TQorFloatVector sorted = SortedVector(lifetimes);  // for the order statistics
   Extended q1 = 0;
   Extended q3 = 0;
-  GetQuartiles(lifetimes, q1, q3);
-  std::cout << "Median " << Float2EStr(GetMedian(lifetimes), 1) << ", quartiles "
-            << Float2EStr(q1, 1) << " and " << Float2EStr(q3, 1) << ", trimmed mean "
-            << Float2EStr(TrimmedMean(lifetimes, 0.125L), 3) << '\n';
+  GetQuartiles(sorted, q1, q3);
+  std::cout << "Median " << Float2EStr(GetMedian(sorted), 1) << ", quartiles " << Float2EStr(q1, 1)
+            << " and " << Float2EStr(q3, 1) << ", trimmed mean "
+            << Float2EStr(TrimmedMean(sorted, 0.125L), 3) << '\n';
 
   DescriptiveStats stats;  // keeps all figures up to date
-  for (const Extended lifetime : lifetimes) stats.AddValue(lifetime);
-  stats.DeleteValue(7);  // the outlier, now last
+  stats.SetValues(lifetimes);
+  stats.DeleteValue(4);  // the outlier
   std::cout << "Without the outlier: mode " << Float2EStr(stats.Results().mode, 0) << ", skewness "
             << Float2EStr(stats.Results().skew, 3) << '\n';
 }

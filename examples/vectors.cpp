@@ -16,8 +16,7 @@ int main() {
   std::cout << Float2EStr(MaxVector(speeds), 0) << " m/s, was " << Float2EStr(MaxVector(copy), 2)
             << " km/s\n";
 
-  for (const std::int32_t rank : Vector2RankVector(speeds, true)) std::cout << rank << ' ';
-  std::cout << '\n';
+  std::cout << Vector2RankVector(speeds, true) << " are the ranks of " << speeds << '\n';
 
   try {
     static_cast<void>(AddVectors(speeds, TQorFloatVector{1}));
