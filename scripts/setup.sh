@@ -26,7 +26,7 @@ test_packages=(
   libqt6opengl6-dev  # needed by qt6-tools-dev for programs that load forms
   libgtest-dev
   libeigen3-dev      # the example that shares matrices with Eigen
-  libfmt-dev         # tests of formatting amounts
+  libfmt-dev         # tests of formatting amounts, vectors and matrices
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation
 )

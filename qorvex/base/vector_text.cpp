@@ -82,7 +82,7 @@ class ElementWriter {
     return std::to_chars(first, last, value);
   }
 
-  // The text without the minus sign of a rounded zero, and with a plus sign if there shall be one.
+  // The text without the minus sign of a rounded zero, and with a plus sign if the format has one.
   // There is room for a character before the text.
   std::string_view WithSign(std::string_view text) {
     if (text.front() == '-' && FloatElement<T> && format_.notation != Notation::kExact &&

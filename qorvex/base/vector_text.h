@@ -8,7 +8,7 @@
 ///     [[ 1, 2.5],
 ///      [30, 4  ]]
 ///
-/// - Without elements they are [] and [[], []]; rows may differ in length.
+/// - Without elements they are [], and an empty row is [] on its line; rows may differ in length.
 /// - Floating-point elements are the shortest text that identifies the value in its own type: 0.1
 ///   as double is 0.1. NaN is "nan", the infinities are "inf" and "-inf".
 /// - All integers are written as numbers. Amounts have all decimals of their type.

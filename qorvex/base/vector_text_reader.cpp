@@ -163,8 +163,8 @@ Array Read(std::string_view text) {
   return array;
 }
 
-// Takes the text up to the bracket that closes the first one. Returns failbit if that is not the
-// next one, or if brackets are nested too deeply.
+// Takes the text up to the bracket that closes the first one. Returns failbit if the next
+// character is not an opening bracket, or if brackets are nested too deeply.
 std::ios_base::iostate TakeBrackets(std::istream& in, int deepest, std::string& text) {
   int depth = 0;
   std::istreambuf_iterator<char> next(in);

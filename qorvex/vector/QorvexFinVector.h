@@ -6,8 +6,9 @@
 /// The routines are templates of the unit QorvexVector; the element type selects the version for
 /// amounts.
 ///
-/// - They work on the stored integers, exactly and wrapping around. SumVector, the sign tests and
-///   LinearTransformVector state where amounts are treated differently.
+/// - They work on the stored integers, exactly and wrapping around; CheckedSum raises instead.
+///   SumVector, the sign tests and LinearTransformVector state where amounts are treated
+///   differently.
 /// - SameCurrency decides which amounts are equal in a ranking.
 /// - There are no squares, products, element-wise functions or moving averages of money.
 

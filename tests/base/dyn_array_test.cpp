@@ -101,6 +101,7 @@ TEST(DynArray, ConvertsFromAndToRanges) {
 TEST(DynArray, CheckedAccessAndImpossibleLengthsThrowAndChangeNothing) {
   TQorFloatVector v{1, 2};
   EXPECT_THROW(static_cast<void>(v.at(2)), std::out_of_range);
+  EXPECT_THROW(static_cast<void>(std::as_const(v).at(2)), std::out_of_range);
   EXPECT_THROW(v.SetLength(static_cast<std::size_t>(-1) / sizeof(Extended)), std::bad_alloc);
   EXPECT_EQ(v, (TQorFloatVector{1, 2}));
 }

@@ -4,8 +4,6 @@
 /// Statistical tests of variates against the distributions that they should have.
 
 #include <functional>
-#include <utility>
-#include <vector>
 
 #include "qorvex/random/uniform_source.h"
 #include "qorvex/stats/distributions/figures.h"

@@ -90,6 +90,7 @@ TEST(AllocationOfAmounts, ComparesWeightsOfEverySizeExactly) {
       {1, {tiny, 1, 1}, {0, 1, 0}},
       {3, {1, tiny, 1}, {2, 0, 1}},
       {2, {tiny, 1, -0.0L}, {0, 2, 0}},
+      {100, {0, 0x1p200L, 0x1p201L}, {0, 33, 67}},
       {1, {tiny, 2 * tiny}, {0, 1}},
       {100, {1e4932L, 1e4932L, 1e4932L}, {34, 33, 33}},
       {1'000'000'000'000'000'001,
