@@ -35,6 +35,16 @@ void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     return nullptr;
   }
 }
+// The default forms call the ones above, but those of the address sanitizer do not.
+void* operator new[](std::size_t size) {
+  return operator new(size);
+}
+void operator delete[](void* memory) noexcept {
+  operator delete(memory);
+}
+void operator delete[](void* memory, std::size_t) noexcept {
+  operator delete(memory);
+}
 void operator delete(void* memory) noexcept {
   std::free(memory);
 }
