@@ -4,8 +4,8 @@
 /// Vectors and matrices as arguments of libfmt, for programs that use it:
 /// fmt::format("{:10.3f}", matrix).
 ///
-/// - The text is that of Vector2Str and Matrix2Str; the specification applies to each element.
-/// - The specification is [[fill]align][sign][width][.precision][type], with '<', '^' and '>' to
+/// - The text is that of Vector2Str and Matrix2Str; the format applies to each element.
+/// - The format is [[fill]align][sign][width][.precision][type], with '<', '^' and '>' to
 ///   align, '+' and '-' as signs, and the types 'f', 'e' and 'g' of floating-point elements and 'd'
 ///   of integers. Without a type and a precision the text is exact, with a precision only it is
 ///   'g'. The precision is 6 if a type comes without one.
@@ -24,9 +24,9 @@
 /// @cond internal
 namespace qorvex::detail {
 
-// Reads a specification from left to right.
+// Reads a format from left to right.
 template <AnyElement T>
-class ElementSpecification {
+class ElementFormatParser {
  public:
   constexpr const char* parse(fmt::format_parse_context& context) {
     rest_ = std::string_view(context.begin(),
@@ -112,14 +112,14 @@ template <class T>
 struct is_range<qorvex::DynArray<T>, char> : std::false_type {};
 
 template <qorvex::AnyElement T>
-struct formatter<qorvex::DynArray<T>> : qorvex::detail::ElementSpecification<T> {
+struct formatter<qorvex::DynArray<T>> : qorvex::detail::ElementFormatParser<T> {
   auto format(const qorvex::DynArray<T>& vector, format_context& context) const {
     return std::ranges::copy(qorvex::Vector2Str(vector, this->format_), context.out()).out;
   }
 };
 
 template <qorvex::AnyElement T>
-struct formatter<qorvex::DynArray<qorvex::DynArray<T>>> : qorvex::detail::ElementSpecification<T> {
+struct formatter<qorvex::DynArray<qorvex::DynArray<T>>> : qorvex::detail::ElementFormatParser<T> {
   auto format(const qorvex::DynArray<qorvex::DynArray<T>>& matrix, format_context& context) const {
     return std::ranges::copy(qorvex::Matrix2Str(matrix, this->format_), context.out()).out;
   }
