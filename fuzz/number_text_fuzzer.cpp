@@ -4,13 +4,12 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <string>
 #include <string_view>
 
+#include "fuzz/require.h"
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/fractions.h"
@@ -19,12 +18,6 @@
 namespace {
 
 using namespace qorvex;
-
-void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::fputs(what, stderr);
-  std::abort();
-}
 
 bool Identical(Extended a, Extended b) {
   return std::isnan(a) ? std::isnan(b) : a == b && std::signbit(a) == std::signbit(b);

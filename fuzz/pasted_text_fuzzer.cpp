@@ -6,10 +6,9 @@
 #include <QString>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <string_view>
 
+#include "fuzz/require.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/controls/detail/block_text.h"
@@ -17,12 +16,6 @@
 namespace {
 
 using namespace qorvex;
-
-void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::fputs(what, stderr);
-  std::abort();
-}
 
 void CheckNumber(const QString& text, const QLocale& locale) {
   using namespace QorvexBaseControls::detail;

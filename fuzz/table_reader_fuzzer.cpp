@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <cstring>
 #include <string>
 #include <string_view>
@@ -16,16 +14,12 @@
 #include "apps/common/matrix_reader.h"
 #include "apps/common/row_reader.h"
 #include "apps/common/table_reader.h"
+#include "fuzz/require.h"
 
 namespace {
 
 using namespace qorvex::apps;
-
-void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::fputs(what, stderr);
-  std::abort();
-}
+using qorvex::Require;
 
 TextInput SourceOf(std::string_view text) {
   return {"text", [text](char* buffer, std::size_t size) mutable {

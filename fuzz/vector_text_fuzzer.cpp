@@ -4,24 +4,17 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <optional>
 #include <sstream>
 #include <string>
 
+#include "fuzz/require.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/vector_text.h"
 
 namespace {
 
 using namespace qorvex;
-
-void Require(bool condition, const char* what) {
-  if (condition) return;
-  std::fputs(what, stderr);
-  std::abort();
-}
 
 template <AnyElement T>
 bool Identical(T a, T b) {

@@ -109,7 +109,7 @@ class Solver {
     if (scale_ != 1) matrix_ = MultiplyMatrixByConst(matrix, scale_);
   }
 
-  // Calls store(i, x[i]) for the elements of the solution. Returns false if there is none.
+  // Calls store(i, x[i]) for each element of the solution. Returns false without a finite solution.
   template <class Store>
   bool Solve(const Floats& b, Store store) const {
     if (!regular_) return false;
