@@ -45,11 +45,11 @@ Magnitude Divide(UInt128 dividend, std::uint64_t divisor) {
 // value * 2^exponent for values below 2^127. What is 2^64 or more is as good as 2^64, which no
 // amount can hold.
 Magnitude Scale(UInt128 value, int exponent) {
-  constexpr UInt128 too_large = UInt128{1} << 64;
+  constexpr UInt128 kTooLarge = UInt128{1} << 64;
   if (value == 0 || exponent <= -128)
     return {0, value == 0 ? Dropped::kNothing : Dropped::kLessThanHalf};
   if (exponent >= 0)
-    return {exponent >= 64 || value >= too_large >> exponent ? too_large : value << exponent,
+    return {exponent >= 64 || value >= kTooLarge >> exponent ? kTooLarge : value << exponent,
             Dropped::kNothing};
   const UInt128 kept = value >> -exponent;
   const UInt128 dropped = value - (kept << -exponent);

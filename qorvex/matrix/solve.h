@@ -22,8 +22,8 @@
 ///   or if all products of a row and their sum in b are below 1e-4900.
 /// - EMathError, in this order: rsMatrixIsEmpty for a matrix a without rows or columns, or a ragged
 ///   one; rsMatrixSqr if it is not square; with the shape switch off rsMatrixRect if a row is
-///   shorter than the first; the same for a matrix b, except rsMatrixSqr; rsSameDimensions if b has
-///   not as many elements, or rows, as a has rows.
+///   shorter than the first; the same for a matrix b, except rsMatrixSqr; rsSameDimensions if the
+///   number of elements of a vector b, or of rows of a matrix b, differs from the rows of a.
 /// - O(order^3) for the elimination and O(order^2) for each right-hand side, with working memory of
 ///   up to three extended matrices of that order. For floating elements.
 ///

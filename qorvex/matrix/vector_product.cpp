@@ -27,13 +27,14 @@ std::vector<const T*> RowsOfFactor(const TQorMatrix<T>& matrix, std::size_t leng
   return rows;
 }
 
-// Computes the sums of element(k, i) * factors[k], k ascending, for so many i from the first on.
-template <std::size_t many, FloatElement T, class Element>
+// Computes sums[i], the sum of element(k, i) * factors[k] in ascending order of k, for kCount
+// consecutive i from `first` on.
+template <std::size_t kCount, FloatElement T, class Element>
 void AddProducts(T* sums, VectorView<T> factors, std::size_t first, Element element) {
-  std::array<T, many> partial = {};
+  std::array<T, kCount> partial = {};
   for (std::size_t k = 0; k < factors.size(); ++k) {
     const auto factor = static_cast<Extended>(factors[k]);
-    for (std::size_t i = 0; i < many; ++i) {
+    for (std::size_t i = 0; i < kCount; ++i) {
       partial[i] = static_cast<T>(static_cast<Extended>(partial[i]) +
                                   static_cast<Extended>(element(k, first + i)) * factor);
     }
@@ -45,14 +46,14 @@ void AddProducts(T* sums, VectorView<T> factors, std::size_t first, Element elem
 // wait for the one before. Those of extended elements stay in registers, of which there are eight.
 template <FloatElement T, class Element>
 TQorVector<T> SumsOfProducts(std::size_t count, VectorView<T> factors, Element element) {
-  constexpr std::size_t many = std::same_as<T, Extended> ? 4 : 8;
+  constexpr std::size_t kGroup = std::same_as<T, Extended> ? 4 : 8;
   auto sums = TQorVector<T>::ForOverwrite(count);
-  if (count < many) {
+  if (count < kGroup) {
     for (std::size_t i = 0; i < count; ++i) AddProducts<1>(sums.data(), factors, i, element);
   } else {
     // The last group may overlap the one before.
-    for (std::size_t i = 0; i < count; i += many) {
-      AddProducts<many>(sums.data(), factors, std::min(i, count - many), element);
+    for (std::size_t i = 0; i < count; i += kGroup) {
+      AddProducts<kGroup>(sums.data(), factors, std::min(i, count - kGroup), element);
     }
   }
   return sums;

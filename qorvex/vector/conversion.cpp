@@ -9,31 +9,31 @@ namespace qorvex::inline QorvexVector::detail {
 
 namespace {
 
-// Sets to to the nearest value of its type. Returns false if it cannot hold the value.
+// Sets the target to the nearest value of its type. Returns false if it cannot hold the value.
 template <FloatElement To, NumericElement From>
-bool Narrow(From from, To& to) noexcept {
-  to = static_cast<To>(from);
+bool Narrow(From from, To& target) noexcept {
+  target = static_cast<To>(from);
   if constexpr (FloatElement<From>) {
-    return !std::isinf(to) || std::isinf(from);
+    return !std::isinf(target) || std::isinf(from);
   } else {
     return true;
   }
 }
 
 template <IntegerElement To, FloatElement From>
-bool Narrow(From from, To& to) noexcept {
+bool Narrow(From from, To& target) noexcept {
   // Extended holds the limits of every integer type. NaN is not within them.
   constexpr auto least = static_cast<Extended>(std::numeric_limits<To>::min());
   constexpr auto most = static_cast<Extended>(std::numeric_limits<To>::max());
   const Extended rounded = std::rint(static_cast<Extended>(from));
   const bool holds = rounded >= least && rounded <= most;
-  to = holds ? static_cast<To>(rounded) : To(0);
+  target = holds ? static_cast<To>(rounded) : To(0);
   return holds;
 }
 
 template <IntegerElement To, IntegerElement From>
-bool Narrow(From from, To& to) noexcept {
-  to = static_cast<To>(from);
+bool Narrow(From from, To& target) noexcept {
+  target = static_cast<To>(from);
   return std::in_range<To>(from);
 }
 
