@@ -83,7 +83,14 @@ namespace qorvex::inline Qorvex_rs_math {
   X(rsNotAnInteger, "\"%1\" is not an integer")                                                \
   X(rsUnexpectedText, "\"%1\" is unexpected")                                                  \
   X(rsUnexpectedEnd, "The text ends too early")                                                \
-  X(rsAtCharacter, "%1 (character %2)")
+  X(rsAtCharacter, "%1 (character %2)")                                                        \
+  X(rsWeightSum, "The weights must add up to more than one")                                   \
+  X(rsOneWeight, "At least two weights must be greater than zero")                             \
+  X(rsFrequencies, "The weights must be frequencies: whole numbers")                           \
+  X(rsInvalidClasses,                                                                          \
+    "The classes need a finite lower bound, a finite width greater than zero and a number of " \
+    "at least one")                                                                            \
+  X(rsOutsideClasses, "A value belongs to none of the classes")
 /// @endcond
 
 /// The identifier of a message.
