@@ -1,0 +1,161 @@
+#pragma once
+
+/// @file
+/// ExactSample: descriptive statistics that are exact until they are rounded once.
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+#include "qorvex/base/exact/rational.h"
+#include "qorvex/base/export.h"
+#include "qorvex/base/vector_types.h"
+#include "qorvex/stats/exact/fixed_point.h"
+
+namespace qorvex {
+
+/// What a sample says about its values, without the values: their number, the exact sums of their
+/// powers, and their extremes.
+///
+/// - Every figure is the extended number nearest to its exact value, ties to even.
+/// - The order of the values, and how they are split over several samples that are merged, makes no
+///   difference to any bit. A sample belongs to one thread at a time: several threads fill one
+///   each, and the samples are merged.
+/// - Amounts and scaled integers count as the decimal numbers that they stand for, and not as the
+///   nearest extended ones. They may be mixed with others.
+/// - kPowerSums = 2 has the figures up to the standard deviation; 4 has skewness and kurtosis too,
+///   and takes three times as long.
+/// - NaN and infinities have the result that IEEE 754 gives the formula: the mean is then NaN or
+///   infinite, the other figures are NaN. They are counted, so that they can be removed again.
+/// - No value: EMathError rsVectorIsEmpty, except for sums, which are 0.
+/// - Cost: O(1) for a value, a few microseconds for a figure. The object has some hundred bytes, at
+///   worst a few kilobytes for each power.
+template <int kPowerSums = 4>
+class QORVEX_EXPORT ExactSample {
+  static_assert(kPowerSums == 2 || kPowerSums == 4);
+
+ public:
+  /// No value.
+  ExactSample() = default;
+
+  /// Adds a value.
+  void Add(Extended x) { Add<Extended>(VectorView<Extended>({x})); }
+  /// @{
+  /// Adds every element. For all elements.
+  template <AnyElement T>
+  void Add(VectorView<T> values);
+  template <ContiguousRange Range>
+  requires AnyElement<ElementOf<Range>>
+  void Add(const Range& values) { Add<ElementOf<Range>>(VectorView<ElementOf<Range>>(values)); }
+  /// @}
+  /// Adds every integer times 10^-decimals: AddScaled({1299}, 2) adds 12.99. EMathError
+  /// rsInvalidValue unless 0 <= decimals <= kMaxDecimals.
+  void AddScaled(VectorView<std::int64_t> values, int decimals);
+  /// Adds every value of another sample.
+  void Merge(const ExactSample& other);
+
+  /// Takes back every value of another sample.
+  ///
+  /// - The values must have been added before: this is not checked beyond their number. EMathError
+  ///   rsInvalidValue if more values, NaNs or infinities are removed than the sample has. A sample
+  ///   of values that were never added may have a negative variance, whose root raises EInvalidOp.
+  /// - An extreme that is removed is not known any more.
+  void Remove(const ExactSample& other);
+  /// @{
+  /// Take back what Add and AddScaled have added.
+  template <class Values>
+  void Remove(const Values& values) {
+    ExactSample part;
+    part.Add(values);
+    Remove(part);
+  }
+  void RemoveScaled(VectorView<std::int64_t> values, int decimals) {
+    ExactSample part;
+    part.AddScaled(values, decimals);
+    Remove(part);
+  }
+  /// @}
+
+  /// The number of values, n.
+  [[nodiscard]] std::uint64_t Count() const {
+    return finite_ + nan_ + positive_infinity_ + negative_infinity_;
+  }
+  /// No value is infinite or NaN.
+  [[nodiscard]] bool IsFinite() const { return finite_ == Count(); }
+  /// The sum; infinite beyond the format. A sum of nothing but -0 is -0.
+  [[nodiscard]] Extended Sum() const;
+  /// The sum of the squares; infinite beyond the format.
+  [[nodiscard]] Extended SumOfSquares() const;
+  /// The mean, finite even where the sum is not.
+  [[nodiscard]] Extended Mean() const;
+  /// @{
+  /// The sum of (x - mean)^2 over n - 1 or n. n = 1: the sample variance raises EMathError
+  /// rsVectorG1, the population variance is 0.
+  [[nodiscard]] Extended SampleVariance() const;
+  [[nodiscard]] Extended PopulationVariance() const;
+  /// @}
+  /// @{
+  /// The root of the variance, with its errors. Rounded from the exact variance, so that it is
+  /// finite where the variance is not.
+  [[nodiscard]] Extended SampleStdDev() const;
+  [[nodiscard]] Extended PopulationStdDev() const;
+  /// @}
+  /// @{
+  /// Skewness, as GetSampleSkew and GetPopulationSkew define it. EMathError: rsVectorG2 if n < 3;
+  /// rsStdDev if all values are equal.
+  [[nodiscard]] Extended SampleSkewness() const requires(kPowerSums == 4);
+  [[nodiscard]] Extended PopulationSkewness() const requires(kPowerSums == 4);
+  /// @}
+  /// @{
+  /// Excess kurtosis, as GetSampleKurtosis and GetPopulationKurtosis define it. EMathError:
+  /// rsVectorG3 if n < 4; rsStdDev if all values are equal.
+  [[nodiscard]] Extended SampleKurtosis() const requires(kPowerSums == 4);
+  [[nodiscard]] Extended PopulationKurtosis() const requires(kPowerSums == 4);
+  /// @}
+  /// @{
+  /// The least and the greatest value, rounded if it is a decimal number. Nothing if there is no
+  /// value, or if the extreme has been removed and no other sample can know the next. NaN if a
+  /// value is NaN. -0 is less than +0.
+  [[nodiscard]] std::optional<Extended> Minimum() const;
+  [[nodiscard]] std::optional<Extended> Maximum() const;
+  /// @}
+
+  /// @{
+  /// The exact mean, the exact sum of (x - mean)^2, and the exact sum of the powers x^k for 1 <= k
+  /// <= kPowerSums. EInvalidOp unless all values are finite; EMathError rsInvalidValue for another
+  /// k.
+  [[nodiscard]] exact::Rational ExactMean() const;
+  [[nodiscard]] exact::Rational ExactSumOfSquaredDeviations() const;
+  [[nodiscard]] exact::Rational PowerSum(int k) const;
+  /// @}
+
+  /// The sample as bytes. Equal samples have equal bytes, on every machine.
+  [[nodiscard]] std::vector<std::byte> ToBytes() const;
+  /// The sample with these bytes. EMathError with a text that says what is wrong, unless ToBytes
+  /// could have written them: FromBytes accepts nothing else.
+  [[nodiscard]] static ExactSample FromBytes(std::span<const std::byte> bytes);
+
+  /// The same count, the same sums of powers, the same extremes.
+  [[nodiscard]] friend bool operator==(const ExactSample& a, const ExactSample& b) {
+    return a.IsEqual(b);
+  }
+
+  /// The largest number of decimals.
+  static constexpr int kMaxDecimals = 5000;
+
+ private:
+  [[nodiscard]] bool IsEqual(const ExactSample& other) const;
+
+  exact::FixedPoint sums_[kPowerSums];  // of the powers of x * 10^decimals_, for finite x
+  std::uint64_t finite_ = 0;
+  std::uint64_t nan_ = 0;
+  std::uint64_t positive_infinity_ = 0;
+  std::uint64_t negative_infinity_ = 0;
+  std::optional<Extended> minimum_;  // of the finite values
+  std::optional<Extended> maximum_;
+  int decimals_ = 0;
+};
+
+}  // namespace qorvex
