@@ -65,11 +65,12 @@ void CheckTable(std::string_view text, const TableSelection& selection) {
   const auto table = Try([&] { return ReadTable(SourceOf(text), selection).columns; });
   if (!table) return;
   for (const TableColumn& column : *table) {
-    Require(!column.values.empty(), "a column without values");
-    Require(std::ranges::all_of(column.values, [](long double x) { return std::isfinite(x); }),
+    Require(!column.numbers.empty(), "a column without values");
+    Require(std::ranges::all_of(column.numbers.Values(),
+                                [](long double x) { return std::isfinite(x); }),
             "a value is not finite");
     Require(column.skipped == 0 || selection.skip_empty, "a cell was skipped without the option");
-    Require(!selection.whole_rows || column.values.size() == table->front().values.size(),
+    Require(!selection.whole_rows || column.numbers.size() == table->front().numbers.size(),
             "values of different rows have the same index");
     Require(column.Title().find('\n') == std::string::npos, "a title with two lines");
   }
@@ -83,10 +84,11 @@ void CheckMatrix(std::string_view text, std::optional<char> delimiter, bool has_
           "only ReadTable or only ReadMatrix accepts the text");
   if (!matrix) return;
   for (const TableColumn& column : *table) {
-    Require(column.values.size() == matrix->size(), "a different number of rows");
+    const auto values = column.numbers.Values();
+    Require(values.size() == matrix->size(), "a different number of rows");
     for (std::size_t row = 0; row < matrix->size(); ++row) {
       Require((*matrix)[row].size() == table->size(), "a different number of columns");
-      Require((*matrix)[row][column.number - 1] == column.values[row], "a different number");
+      Require((*matrix)[row][column.number - 1] == values[row], "a different number");
     }
   }
 }

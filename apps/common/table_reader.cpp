@@ -114,21 +114,18 @@ class ColumnCollector {
       const std::string_view cell = cell_of(column);
       if (cell.empty()) {
         Skip(column, rows_.Line());
-      } else if (currency_) {
-        column.amounts.Append(AmountIn(cell, Place(column, rows_.Line())));
       } else {
-        column.values.Append(NumberIn(cell, Place(column, rows_.Line())));
+        Add(cell, column);
       }
     }
   }
 
   [[nodiscard]] Table Finish() {
     for (TableColumn& column : columns_) {
-      if (column.values.empty() && column.amounts.empty()) {
+      if (column.numbers.empty()) {
         throw InputError(InputFault::kNoValues, rows_.Name(), column.Title() + " has no values");
       }
-      column.values.ShrinkToFit();
-      column.amounts.ShrinkToFit();
+      column.numbers.ShrinkToFit();
     }
     return {std::move(columns_), std::move(header_)};
   }
@@ -136,6 +133,17 @@ class ColumnCollector {
  private:
   [[nodiscard]] CellPlace Place(const TableColumn& column, std::size_t line) const {
     return {rows_.Name(), line, column.number, column.name};
+  }
+
+  void Add(std::string_view cell, TableColumn& column) const {
+    const CellPlace place = Place(column, rows_.Line());
+    std::optional<DecimalNumber> exact;
+    if (currency_) {
+      exact = {AmountIn(cell, place).stored(), -Currency::kDecimals};
+    } else if (column.numbers.AreDecimal()) {
+      exact = ParseDecimal(cell);
+    }
+    if (!exact || !column.numbers.TryAppend(*exact)) column.numbers.Append(NumberIn(cell, place));
   }
 
   void SkipRow(std::size_t line) {

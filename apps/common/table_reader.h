@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/column_numbers.h"
 #include "apps/common/text_input.h"
-#include "qorvex/base/vector_types.h"
 
 namespace qorvex::apps {
 
@@ -37,9 +37,8 @@ struct TableColumn {
   std::size_t number = 0;
   /// Empty if the table has no header.
   std::string name = {};
-  TQorFloatVector values = {};
-  /// Used instead of values for amounts of money.
-  TQorCurrencyVector amounts = {};
+  /// For amounts of money integers with four decimals.
+  ColumnNumbers numbers = {};
   /// The number of empty cells, or of rows, that were skipped.
   std::size_t skipped = 0;
 
@@ -57,15 +56,17 @@ struct Table {
 
 /// Reads the chosen columns. The others may contain any text.
 ///
-/// - Cells are converted to 80 bits by Str2Float, or without rounding by Str2Currency; infinities
-///   and NaN are refused.
+/// - A column of decimal numbers that fit is kept without rounding; others are converted to 80 bits
+///   by Str2Float. Amounts are read without rounding by Str2Currency. Infinities and NaN are
+///   refused.
 /// - A blank line between rows is a row of empty cells. Blank lines before the first row and after
 ///   the last are ignored.
 /// - Every column of the result has at least one value.
 /// - Throws InputError for the first faulty line: for what RowReader refuses; kNoValues for a text
 ///   without rows and for a column without values; kNoSuchColumn; kMalformed for a row whose length
 ///   differs from that of the first; kEmptyCell, kNotANumber and kOutOfRange for a cell.
-/// - Memory: 16 bytes per value, at most 40 while a column grows; half of that for amounts.
+/// - Memory: 8 bytes per number without rounding and 16 otherwise, at most 2.5 times that while a
+///   column grows.
 [[nodiscard]] Table ReadTable(TextInput input, const TableSelection& selection);
 
 }  // namespace qorvex::apps

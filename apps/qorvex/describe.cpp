@@ -61,9 +61,9 @@ ExactFigures ExactFiguresOf(const TableColumn& column, const DescribeArguments& 
     return Currency(stored);
   };
   Int128 sum = 0;
-  for (const Currency term : column.amounts) sum += term.stored();
-  const Currency maximum = MaxVector(column.amounts);
-  const Currency minimum = MinVector(column.amounts);
+  for (const std::int64_t term : column.numbers.Integers()) sum += term;
+  const Currency maximum(MaxVector(column.numbers.Integers()));
+  const Currency minimum(MinVector(column.numbers.Integers()));
   return {{rsDSMaximum, maximum},
           {rsDSMinimum, minimum},
           {rsDSRange, amount(Int128{maximum.stored()} - minimum.stored(), "range")},
@@ -87,14 +87,10 @@ struct ColumnFigures {
 // rather than printed as infinities, because further figures computed from these mean nothing.
 ColumnFigures FiguresOf(TableColumn& column, const DescribeArguments& arguments) {
   ColumnFigures figures;
-  if (arguments.table.selection.currency) {
-    figures.exact = ExactFiguresOf(column, arguments);
-    column.values = Vector2FloatVector(column.amounts);
-    column.amounts = {};
-  }
+  if (arguments.table.selection.currency) figures.exact = ExactFiguresOf(column, arguments);
   DescriptiveStats& statistics = figures.statistics;
   statistics.SetPopulation(arguments.population);
-  statistics.SetValues(std::move(column.values));
+  statistics.SetValues(column.numbers.TakeValues());
   if (!AllFinite(statistics.Results())) {
     throw InputError(InputFault::kOutOfRange, InputName(arguments.table.file),
                      column.Title() +

@@ -43,7 +43,7 @@ struct FitArguments {
 
 PairFit FitOf(const TableColumn& x, const TableColumn& y, const FitArguments& arguments) {
   try {
-    return FitPairs(x.values, y.values, arguments.degree);
+    return FitPairs(x.numbers.Values(), y.numbers.Values(), arguments.degree);
   } catch (const PairFitError& error) {
     if (error.Fault() == PairFitFault::kTooLarge)
       Refuse(arguments, InputFault::kOutOfRange, error.what());
@@ -108,7 +108,7 @@ std::string JsonOf(const TableColumn& x, const TableColumn& y, const PairFit& fi
   column("x", x);
   column("y", y);
   json.Key("count");
-  json.Integer(x.values.size());
+  json.Integer(x.numbers.size());
   json.Key("skipped");
   json.Integer(x.skipped);
   figure("mean_x", figures.mean_x);
@@ -136,7 +136,7 @@ void Fit(const FitArguments& arguments) {
   const TableColumn& y = columns[1];
   const PairFit figures = FitOf(x, y, arguments);
   WriteResult(arguments.json ? JsonOf(x, y, figures, arguments)
-                             : TextOf(x.values.size(), figures, arguments));
+                             : TextOf(x.numbers.size(), figures, arguments));
 }
 
 void AddCurve(CLI::App& fit, const char* name, const char* summary, std::size_t degree) {

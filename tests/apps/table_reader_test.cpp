@@ -1,6 +1,11 @@
 #include "apps/common/table_reader.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <gtest/gtest.h>
+#include <random>
+#include <string>
+#include <vector>
 
 #include "apps/text_source.h"
 #include "qorvex/base/text.h"
@@ -16,7 +21,7 @@ std::string Read(const std::string& text, const TableSelection& selection) {
     std::string columns;
     for (const TableColumn& column : ReadTable(SourceOf(text), selection).columns) {
       columns += column.Title() + ':';
-      for (const Extended value : column.values) columns += ' ' + Float2Str(value);
+      for (const Extended value : column.numbers.Values()) columns += ' ' + Float2Str(value);
       columns += "; " + Int2EStr(column.skipped) + '\n';
     }
     return columns;
@@ -66,6 +71,57 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x,y,x\n1,2,3\n", " columns 1 and 3 are both named \"x\"", {{"x"}}},
        }) {
     EXPECT_EQ(Read(text, selection), "data.csv:" + message);
+  }
+}
+
+// The integers of a single column and their decimals; nothing for values.
+std::string IntegersOf(const std::string& text, bool currency) {
+  const Table table = ReadTable(SourceOf(text), {.header = false, .currency = currency});
+  const ColumnNumbers& numbers = table.columns[0].numbers;
+  if (!numbers.AreDecimal()) return "";
+  std::string integers;
+  for (const std::int64_t integer : numbers.Integers()) integers += Int2EStr(integer) + ' ';
+  return integers + '/' + Int2EStr(numbers.Decimals());
+}
+
+TEST(TableReader, KeepsDecimalNumbersAsIntegersWhileTheyFit) {
+  const struct {
+    const char* text;
+    const char* integers;
+    bool currency = false;
+  } cases[] = {
+      {"0.1\n-0.25\n3\n\" .5 \"\n", "10 -25 300 50 /2"},
+      {"1e3\n2.5E-3\n-0.0\n0e-99\n", "10000000 25 0 0 /4"},
+      {"9223372036854775807\n-9223372036854775807\n",
+       "9223372036854775807 -9223372036854775807 /0"},
+      {"1e-27\n9223372036.854775807e-18\n", "1 9223372036854775807 /27"},
+      {"1e-28\n", ""},
+      {"9223372036854775808\n", ""},
+      {"922337203685477581\n0.1\n", ""},
+      {"0.1\n922337203685477580.8\n", ""},
+      {"0.1\n1e99\n0.2\n", ""},
+      {"5\n12.5\n", "50000 125000 /4", true},
+      {"-922337203685477.5808\n0\n", "-9223372036854775808 0 /4", true},
+  };
+  for (const auto& [text, integers, currency] : cases)
+    EXPECT_EQ(IntegersOf(text, currency), integers) << text;
+}
+
+TEST(TableReader, HasTheSameValuesForIntegersAsForTexts) {
+  std::mt19937_64 engine(18);
+  std::string text;
+  std::vector<Extended> values;
+  for (int i = 0; i < 2000; ++i) {
+    std::string number = Int2EStr(static_cast<std::int64_t>(engine()) >> engine() % 60);
+    // Columns change from integers to values at different rows.
+    number += 'e' + Int2EStr(-static_cast<int>(engine() % 28));
+    text += number + '\n';
+    values.push_back(Str2Float(number));
+    if (engine() % 20 != 0) continue;
+    const Table table = ReadTable(SourceOf(text), {});
+    EXPECT_TRUE(std::ranges::equal(table.columns[0].numbers.Values(), values)) << text;
+    text.clear();
+    values.clear();
   }
 }
 

@@ -8,10 +8,6 @@ namespace qorvex::gallery {
 
 namespace {
 
-Extended PowerOfTen(int exponent) {
-  return std::pow(Extended{10}, static_cast<Extended>(exponent));
-}
-
 QString Label(double value, double largest, const RoundStep& step, const QLocale& locale) {
   constexpr double plain_below = 1e7;
   constexpr int plain_decimals = 5;
@@ -27,19 +23,6 @@ QString Label(double value, double largest, const RoundStep& step, const QLocale
 }
 
 }  // namespace
-
-RoundStep RoundStep::AtLeast(Extended width) {
-  const int exponent = static_cast<int>(std::floor(std::log10(width)));
-  // The logarithm may have been rounded across a power of ten.
-  for (const RoundStep step : {RoundStep{1, exponent}, {2, exponent}, {5, exponent}})
-    if (step.Times(1) >= width) return step;
-  return {1, exponent + 1};
-}
-
-Extended RoundStep::Times(Extended count) const {
-  const Extended digits = count * static_cast<Extended>(digit);
-  return exponent < 0 ? digits / PowerOfTen(-exponent) : digits * PowerOfTen(exponent);
-}
 
 AxisTicks TicksBetween(double low, double high, int most, const QLocale& locale) {
   AxisTicks ticks;

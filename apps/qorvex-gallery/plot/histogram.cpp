@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "apps/qorvex-gallery/plot/axis_ticks.h"
+#include "apps/common/round_step.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/vector/sorting.h"
 
@@ -40,7 +40,7 @@ Extended ClassesByRule(const TQorFloatVector& sorted, ClassRule rule) {
 std::vector<Extended> RoundEdges(Extended low, Extended high, Extended width) {
   // Rounds to the smaller step if that is nearer.
   constexpr Extended towards_smaller = 1.5L;
-  const RoundStep step = RoundStep::AtLeast(width / towards_smaller);
+  const apps::RoundStep step = apps::RoundStep::AtLeast(width / towards_smaller);
   const Extended first = std::floor(low / step.Times(1));
   std::vector<Extended> edges;
   for (Extended i = first; edges.empty() || edges.back() <= high; ++i)

@@ -1,0 +1,111 @@
+#include "apps/common/column_numbers.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <utility>
+
+#include "qorvex/base/detail/decimal_text.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+constexpr int kMostExactDecimals = 27;
+
+template <class Number, std::size_t kCount>
+constexpr auto kPowersOfTen = [] {
+  std::array<Number, kCount> powers{1};
+  for (std::size_t i = 1; i < kCount; ++i) powers[i] = powers[i - 1] * 10;
+  return powers;
+}();
+
+// Multiplies by 10^exponent. Returns false if 64 bits do not hold the product.
+bool Shift(std::int64_t& integer, std::int64_t exponent) {
+  constexpr auto& powers = kPowersOfTen<std::int64_t, 19>;
+  if (integer == 0) return true;
+  return std::cmp_less(exponent, powers.size()) &&
+         !__builtin_mul_overflow(integer, powers[static_cast<std::size_t>(exponent)], &integer);
+}
+
+}  // namespace
+
+std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
+  namespace decimal = QorvexGlobals::detail;
+  std::string_view number = decimal::WithoutBlanks(text);
+  const bool negative = decimal::TakeSign(number);
+  const decimal::DecimalText scanned = decimal::ScanDecimal(number);
+  constexpr int most_digits = std::numeric_limits<std::uint64_t>::digits10;
+  if (!scanned.valid || scanned.digits > most_digits ||
+      scanned.significand > std::numeric_limits<std::int64_t>::max()) {
+    return std::nullopt;
+  }
+  const auto integer = static_cast<std::int64_t>(scanned.significand);
+  return DecimalNumber{negative ? -integer : integer, scanned.exponent};
+}
+
+bool ColumnNumbers::TryAppend(DecimalNumber number) {
+  if (!are_decimal_) return false;
+  const std::int64_t needed =
+      number.integer == 0 ? decimals_ : std::max<std::int64_t>(decimals_, -number.exponent);
+  if (needed > kMostExactDecimals || !Shift(number.integer, number.exponent + needed) ||
+      !Rescale(static_cast<int>(needed))) {
+    return false;
+  }
+  const auto bits = static_cast<std::uint64_t>(number.integer);
+  largest_ = std::max(largest_, number.integer < 0 ? 0 - bits : bits);
+  integers_.Append(number.integer);
+  return true;
+}
+
+// Returns false, without any change, if an integer would not fit.
+bool ColumnNumbers::Rescale(int decimals) {
+  if (decimals == decimals_) return true;
+  const int exponent = decimals - decimals_;
+  auto largest = static_cast<std::int64_t>(largest_);
+  if (largest < 0 || !Shift(largest, exponent)) return false;
+  for (std::int64_t& integer : integers_) static_cast<void>(Shift(integer, exponent));
+  largest_ = static_cast<std::uint64_t>(largest);
+  decimals_ = decimals;
+  return true;
+}
+
+void ColumnNumbers::Append(Extended value) {
+  if (are_decimal_) {
+    values_ = TakeValues();
+    are_decimal_ = false;
+  }
+  values_.Append(value);
+}
+
+void ColumnNumbers::ShrinkToFit() {
+  integers_.ShrinkToFit();
+  values_.ShrinkToFit();
+}
+
+Extended ColumnNumbers::ValueOf(Extended units) const {
+  return units /
+         kPowersOfTen<Extended, kMostExactDecimals + 1>[static_cast<std::size_t>(decimals_)];
+}
+
+TQorFloatVector ColumnNumbers::Values() const {
+  if (!are_decimal_) return values_;
+  auto values = TQorFloatVector::ForOverwrite(integers_.size());
+  std::ranges::transform(integers_, values.begin(), [this](std::int64_t integer) {
+    return ValueOf(static_cast<Extended>(integer));
+  });
+  return values;
+}
+
+TQorFloatVector ColumnNumbers::TakeValues() {
+  TQorFloatVector values = Values();
+  integers_ = {};
+  values_ = {};
+  return values;
+}
+
+TQorInt64Vector ColumnNumbers::TakeIntegers() {
+  return std::exchange(integers_, {});
+}
+
+}  // namespace qorvex::apps

@@ -1,0 +1,32 @@
+#pragma once
+
+/// @file
+/// The test of normality of Shapiro and Wilk.
+
+#include "qorvex/base/export.h"
+#include "qorvex/stats/inference/test_result.h"
+#include "qorvex/stats/inference/values_of.h"
+
+namespace qorvex {
+
+/// @{
+/// Whether the values are normal: W, the squared correlation of the ordered values with weights
+/// that approximate the best ones.
+///
+/// - p is exact for three values, and by Royston's normal approximation of ln(1 - W) beyond; his
+///   formulas are evaluated to a few units of the last place.
+/// - Location and scale do not matter.
+/// - Errors: rsVectorG2 for fewer than three values; rsInvalidValue for more than 5000; rsSameValue
+///   where no value differs from the others.
+/// - Cost: a sort and n / 2 normal quantiles.
+/// - Source: Royston (1995), "Remark AS R94: a remark on algorithm AS 181: the W-test for
+///   normality".
+[[nodiscard]] QORVEX_EXPORT TestResult ShapiroWilkTest(VectorView<Extended> values);
+template <ContiguousRange Range>
+requires NumericElement<ElementOf<Range>>
+[[nodiscard]] TestResult ShapiroWilkTest(const Range& values) {
+  return ShapiroWilkTest(VectorView<Extended>(inference::ValuesOf(values)));
+}
+/// @}
+
+}  // namespace qorvex

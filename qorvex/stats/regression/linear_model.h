@@ -1,0 +1,88 @@
+#pragma once
+
+/// @file
+/// LinearModel: linear least squares without rounding before the results.
+
+#include <cstddef>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/base/export.h"
+#include "qorvex/stats/regression/columns.h"
+#include "qorvex/stats/regression/gram_matrix.h"
+#include "qorvex/stats/regression/linear_fit.h"
+
+namespace qorvex {
+
+/// Raised where a predictor depends linearly on the intercept and the predictors before it, so that
+/// the coefficients are not determined. The identifier is rsCollinear.
+class QORVEX_EXPORT CollinearityError : public EMathError {
+ public:
+  /// For the predictor with this index, from 0; of a polynomial, the power of x less one.
+  explicit CollinearityError(std::size_t predictor);
+  ~CollinearityError() override;
+  /// The index of the predictor, from 0.
+  [[nodiscard]] std::size_t Predictor() const { return predictor_; }
+
+ private:
+  std::size_t predictor_;
+};
+
+/// The rows of a linear regression, as the exact sums of their products.
+///
+/// - Add, Remove and Merge lose nothing: whatever the order of the rows, and however they are split
+///   over models that are merged, a fit has the same bits. The object holds p (p + 1) / 2 sums for
+///   p columns, no rows.
+/// - Every call adds as many values of each predictor and of the response. Columns of different
+///   element types and decimals can be mixed.
+/// - Powers of a polynomial are exact, so the fit is that for x itself.
+/// - A weight w counts its row w times: the sums are those of w x y, exactly. Rows of weight 0 do
+///   not count, whatever their values.
+/// - Errors, in this order: EMathError rsSameDimensions for a wrong number of predictors or columns
+///   of different lengths; rsInvalidWeight for a weight that is negative or not finite; EInvalidOp
+///   for a value that is not finite. The model then keeps its state.
+/// - Cost: for a row some 2 ns a pair of columns; several times as much for weights and
+///   polynomials.
+class QORVEX_EXPORT LinearModel {
+ public:
+  /// A model of this many predictors: y = b0 + b1 x1 + b2 x2 + ...
+  explicit LinearModel(std::size_t predictors = 1, Intercept intercept = Intercept::kIncluded);
+  /// A polynomial: y = b0 + b1 x + b2 x^2 + ... + bd x^d. Its one predictor is x.
+  [[nodiscard]] static LinearModel Polynomial(std::size_t degree,
+                                              Intercept intercept = Intercept::kIncluded);
+
+  /// Adds rows.
+  void Add(const Columns& predictors, const ColumnView& response);
+  /// Adds rows with weights.
+  void AddWeighted(const Columns& predictors, const ColumnView& response,
+                   const ColumnView& weights);
+  /// @{
+  /// Take back rows that have been added. The caller makes sure that they have; EMathError
+  /// rsInvalidValue if there are not that many.
+  void Remove(const Columns& predictors, const ColumnView& response);
+  void RemoveWeighted(const Columns& predictors, const ColumnView& response,
+                      const ColumnView& weights);
+  /// @}
+  /// Adds the rows of another model. EMathError rsSameDimensions for a model of another form.
+  void Merge(const LinearModel& other);
+
+  /// The number of rows whose weight is not 0.
+  [[nodiscard]] std::size_t Count() const { return gram_.Rows(); }
+
+  /// The least-squares fit.
+  ///
+  /// - Errors, in this order: EMathError rsVectorTooSmall for fewer rows than coefficients;
+  ///   CollinearityError for the first predictor that depends on those before it, exactly.
+  /// - Solved in integers, by the fraction-free elimination of Bareiss (1968), "Sylvester's
+  ///   identity and multistep integer-preserving Gaussian elimination", as a sweep of the symmetric
+  ///   matrix; where its numbers would get long, first with 256 bits or more, as many as the
+  ///   condition of the matrix asks for.
+  /// - Cost: O(p^3) operations on integers of up to p times the length of a sum.
+  [[nodiscard]] LinearFit Fit() const;
+
+ private:
+  explicit LinearModel(const ModelForm& form) : gram_(form) {}
+
+  GramMatrix gram_;
+};
+
+}  // namespace qorvex
