@@ -6,4 +6,5 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/correlation.h"
+#include "qorvex/stats/rank_correlation.h"
 #include "qorvex/stats/regression.h"

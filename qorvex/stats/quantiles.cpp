@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <numeric>
 
 #include "qorvex/stats/detail/quantile_rule.h"
@@ -15,7 +16,7 @@ using QorvexVector::detail::RequireElements;
 template <NumericElement T>
 Extended GetQuantile(VectorView<T> sorted, Extended p, QuantileType type) {
   RequireElements(sorted);
-  detail::RequireQuantileProbability(p);
+  detail::RequireQuantile(p, type);
   return detail::QuantileOf(sorted.size(), p, type, [sorted](std::uint64_t k) {
     return static_cast<Extended>(sorted[k - 1]);
   });
@@ -28,6 +29,7 @@ Extended MedianAbsoluteDeviation(VectorView<T> sorted) {
   const auto element = [sorted](std::size_t i) { return static_cast<Extended>(sorted[i]); };
   if (std::isnan(element(n - 1))) return element(n - 1);
   const Extended median = std::midpoint(element((n - 1) / 2), element(n / 2));
+  if (!std::isfinite(median)) return std::numeric_limits<Extended>::quiet_NaN();
 
   // The k nearest elements are neighbours. Those that begin at `first` are too far left if the next
   // element is nearer than the first.
@@ -44,7 +46,6 @@ Extended MedianAbsoluteDeviation(VectorView<T> sorted) {
     }
     return std::max(median - element(first), element(first + k - 1) - median);
   };
-  if (!std::isfinite(median)) return median - median;
   const Extended upper = distance_of_nearest(n / 2 + 1);
   return n % 2 == 1 ? upper : std::midpoint(distance_of_nearest(n / 2), upper);
 }

@@ -35,7 +35,6 @@ Extended Coefficient(bool negative, UInt128 magnitude, UInt128 a, UInt128 b) {
 }
 
 // The number of pairs of equal elements in a sorted sequence.
-// run of k equal elements.
 template <class Iterator>
 UInt128 TiedPairs(Iterator first, Iterator last) {
   UInt128 pairs = 0;

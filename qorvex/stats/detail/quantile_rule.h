@@ -14,8 +14,9 @@
 
 namespace qorvex::inline QorvexStatistics::detail {
 
-inline void RequireQuantileProbability(Extended p) {
+inline void RequireQuantile(Extended p, QuantileType type) {
   if (!(p >= 0 && p <= 1)) RaiseMathError(rsValue01Inc);
+  if (type < QuantileType::k1 || type > QuantileType::k9) RaiseMathError(rsInvalidValue);
 }
 
 /// The nearest multiple of 1/2 if the value is no more than 4 units in the last place from it,

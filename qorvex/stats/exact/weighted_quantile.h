@@ -23,7 +23,7 @@ namespace qorvex {
 /// - Cumulated weights are exact. A sum less than 4 units in the last place from p times the total
 ///   is equal to it.
 /// - A value of weight 0 does not count, not even NaN. NaN sorts last; see GetQuantile.
-/// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsSameDimensions for different
+/// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside 1 to 9; rsSameDimensions for different
 ///   lengths; rsVectorIsEmpty; rsInvalidWeight if a weight is negative, infinite or NaN;
 ///   rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9 get other weights than
 ///   frequencies.
