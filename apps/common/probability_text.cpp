@@ -34,14 +34,26 @@ std::string FromLogarithm(Extended log_p, std::optional<int> decimals) {
   return digits + 'e' + Float2EStr(exponent, 0);
 }
 
+bool IsBelowRange(Extended p, Extended log_p) {
+  return p < std::numeric_limits<Extended>::min() && std::isfinite(log_p);
+}
+
 }  // namespace
 
 std::string ProbabilityText(Extended p, Extended log_p, std::optional<int> decimals) {
-  const bool below_range = p < std::numeric_limits<Extended>::min() && std::isfinite(log_p);
-  if (below_range) return FromLogarithm(log_p, decimals);
+  if (IsBelowRange(p, log_p)) return FromLogarithm(log_p, decimals);
   if (!decimals) return Float2Str(p);
   const bool below_reach = p > 0 && p < Str2Float("1e-" + Int2EStr(*decimals));
   return below_reach ? Scientific(p, *decimals) : Float2EStr(p, *decimals);
+}
+
+std::string RoundedProbabilityText(Extended p, Extended log_p) {
+  constexpr int digits = 4;
+  if (IsBelowRange(p, log_p)) return FromLogarithm(log_p, digits - 1);
+  if (!(p > 0)) return Float2Str(p);
+  if (p < 1e-4L) return Scientific(p, digits - 1);
+  const int leading_zeros = -static_cast<int>(std::floor(std::log10(p))) - 1;
+  return Float2EStr(p, digits + std::max(leading_zeros, -1));
 }
 
 }  // namespace qorvex::apps

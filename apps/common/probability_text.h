@@ -19,4 +19,7 @@ namespace qorvex::apps {
 /// - Not negative, or NaN.
 [[nodiscard]] std::string ProbabilityText(Extended p, Extended log_p, std::optional<int> decimals);
 
+/// The same to four significant digits: 0.02432, 1.538e-6000.
+[[nodiscard]] std::string RoundedProbabilityText(Extended p, Extended log_p);
+
 }  // namespace qorvex::apps
