@@ -21,6 +21,7 @@ std::string Scientific(Extended value, int decimals) {
 }
 
 std::string FromLogarithm(Extended log_p, std::optional<int> decimals) {
+  if (log_p < -1e17L) return "exp(" + Float2Str(log_p) + ')';
   const Extended logarithm = log_p / std::numbers::ln10_v<Extended>;
   Extended exponent = std::floor(logarithm);
   // The last bits of a logarithm of ten thousand weigh as much as four decimals of the number.
