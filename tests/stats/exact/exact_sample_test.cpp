@@ -14,79 +14,108 @@
 namespace qorvex {
 
 using testing::Engine;
-using testing::Exactly;
-using testing::Fraction;
+using testing::Integer;
 using testing::Kind;
 using testing::Nearest;
 using testing::Same;
 
 using Bytes = std::vector<std::byte>;
 
-// Every figure from its definition, in fractions.
-void ExpectNearestFigures(const ExactSample<>& sample, const std::vector<Fraction>& values) {
-  const Fraction n = values.size();
-  Fraction sum = 0;
-  Fraction sum_of_squares = 0;
-  for (const Fraction& x : values) {
-    sum += x;
-    sum_of_squares += x * x;
+// Decimal and binary numbers in a unit that makes integers of all: 10^-8 2^exponent.
+struct Integers {
+  explicit Integers(int lowest_exponent) : exponent(lowest_exponent) {}
+
+  void Add(Extended x) {
+    const testing::Binary parts(x);
+    values.push_back(kDecimals * parts.mantissa << (parts.exponent - exponent));
   }
-  const Fraction mean = sum / n;
-  Fraction second = 0;
-  Fraction third = 0;
-  Fraction fourth = 0;
-  for (const Fraction& x : values) {
-    const Fraction square = (x - mean) * (x - mean);
+  void AddScaled(std::int64_t x, int decimals) {
+    values.push_back((kDecimals * x / pow(Integer(10), static_cast<unsigned>(decimals)))
+                     << -exponent);
+  }
+  [[nodiscard]] Extended Rounded(const Integer& top, const Integer& bottom, int power,
+                                 bool root = false) const {
+    const Integer unit = pow(kDecimals, static_cast<unsigned>(power)) << (-exponent * power);
+    return Nearest(top, bottom * unit, root);
+  }
+
+  inline static const Integer kDecimals = 100'000'000;
+  int exponent;
+  std::vector<Integer> values;
+};
+
+// Every figure from its definition, with deviations from n times the mean.
+void ExpectNearestFigures(const ExactSample<>& sample, const Integers& x) {
+  const Integer n = x.values.size();
+  Integer sum = 0;
+  Integer squares = 0;
+  for (const Integer& value : x.values) {
+    sum += value;
+    squares += value * value;
+  }
+  Integer second = 0;
+  Integer third = 0;
+  Integer fourth = 0;
+  for (const Integer& value : x.values) {
+    const Integer deviation = n * value - sum;
+    const Integer square = deviation * deviation;
     second += square;
-    third += square * (x - mean);
+    third += square * deviation;
     fourth += square * square;
   }
-  ASSERT_EQ(sample.Sum(), Nearest(sum));
-  ASSERT_EQ(sample.SumOfSquares(), Nearest(sum_of_squares));
-  ASSERT_EQ(sample.Mean(), Nearest(mean));
-  ASSERT_EQ(sample.PopulationVariance(), Nearest(second / n));
-  ASSERT_EQ(sample.PopulationStdDev(), Nearest(second / n, true));
-  ASSERT_EQ(*sample.Minimum(), Nearest(*std::ranges::min_element(values)));
-  ASSERT_EQ(*sample.Maximum(), Nearest(*std::ranges::max_element(values)));
+  ASSERT_EQ(sample.Sum(), x.Rounded(sum, 1, 1));
+  ASSERT_EQ(sample.SumOfSquares(), x.Rounded(squares, 1, 2));
+  ASSERT_EQ(sample.Mean(), x.Rounded(sum, n, 1));
+  ASSERT_EQ(sample.PopulationVariance(), x.Rounded(second, n * n * n, 2));
+  ASSERT_EQ(sample.PopulationStdDev(), x.Rounded(second, n * n * n, 2, true));
+  ASSERT_EQ(*sample.Minimum(), x.Rounded(*std::ranges::min_element(x.values), 1, 1));
+  ASSERT_EQ(*sample.Maximum(), x.Rounded(*std::ranges::max_element(x.values), 1, 1));
   if (n < 2) return;
-  const Fraction variance = second / (n - 1);
-  ASSERT_EQ(sample.SampleVariance(), Nearest(variance));
-  ASSERT_EQ(sample.SampleStdDev(), Nearest(variance, true));
+  const Integer divisor = n * n * (n - 1);
+  ASSERT_EQ(sample.SampleVariance(), x.Rounded(second, divisor, 2));
+  ASSERT_EQ(sample.SampleStdDev(), x.Rounded(second, divisor, 2, true));
   if (n < 3 || second == 0) return;
-  const auto skewness = [&](const Fraction& factor, const Fraction& v) {
-    const Extended root = Nearest(factor * factor * third * third / (v * v * v), true);
-    return third < 0 ? -root : root;
+  // n D / ((n - 1) (n - 2) s^3) and D / (n s^3).
+  const auto skewness = [&](const Integer& top, const Integer& bottom, const Integer& v) {
+    const Integer root = top * third;
+    const Extended nearest = Nearest(root * root * v * v * v,
+                                     bottom * bottom * pow(n, 6) * second * second * second, true);
+    return third < 0 ? -nearest : nearest;
   };
-  ASSERT_EQ(sample.SampleSkewness(), skewness(n / ((n - 1) * (n - 2)), variance));
-  ASSERT_EQ(sample.PopulationSkewness(), skewness(1 / n, second / n));
+  ASSERT_EQ(sample.SampleSkewness(), skewness(n, (n - 1) * (n - 2), divisor));
+  ASSERT_EQ(sample.PopulationSkewness(), skewness(1, n, n * n * n));
   if (n < 4) return;
-  ASSERT_EQ(sample.PopulationKurtosis(), Nearest(n * fourth / (second * second) - 3));
+  // n (n + 1) Q / (s^4 (n - 1) (n - 2) (n - 3)) - 3 (n - 1)^2 / ((n - 2) (n - 3)) and
+  // Q / (n s^4) - 3.
+  const Integer square = second * second;
+  const Integer three = 3 * (n - 1) * (n - 1);
+  const Integer pairs = (n - 2) * (n - 3);
   ASSERT_EQ(sample.SampleKurtosis(),
-            Nearest(n * (n + 1) * fourth / (variance * variance * (n - 1) * (n - 2) * (n - 3)) -
-                    3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3))));
+            Nearest((n + 1) * n * (n - 1) * fourth - three * square, pairs * square));
+  ASSERT_EQ(sample.PopulationKurtosis(), Nearest(n * fourth - 3 * square, square));
 }
 
 TEST(ExactSample, GivesTheNearestNumbers) {
   const int cases = testing::FromEnvironment("QORVEX_EXACT_CASES", 20'000);
   Engine engine(18);
   for (int i = 0; i < cases; ++i) {
-    ExactSample<> sample;
-    std::vector<Fraction> values;
-    // Few over all exponents, where fractions are slow.
+    // Few over all exponents, where long integers are slow.
     constexpr Kind kUsual[] = {Kind::kClose, Kind::kMoney, Kind::kMixed};
     const Kind kind = i < 10 ? Kind::kScattered : i < 20 ? Kind::kTiny : kUsual[i % 3];
+    ExactSample<> sample;
+    Integers values(i < 20 ? -16'600 : -200);
     const std::size_t n = 1 + engine() % 7;
     for (std::size_t k = 0; k < n; ++k) {
-      Extended x = testing::RandomValue<Extended>(engine, kind);
-      if (i % 7 == 0) x = std::rint(std::fmod(x, 50.0L));  // with ties and equal values
-      if (engine() % 4 == 0 && kind != Kind::kScattered) {
-        const auto decimals = static_cast<unsigned>(engine() % 8);
+      if (engine() % 4 == 0) {
+        const auto decimals = static_cast<int>(engine() % 9);
         const auto integer = static_cast<std::int64_t>(engine() >> (8 * (engine() % 7)));
-        sample.AddScaled({integer}, static_cast<int>(decimals));
-        values.push_back(Fraction(integer) / Fraction(pow(testing::Integer(10), decimals)));
+        sample.AddScaled({integer}, decimals);
+        values.AddScaled(integer, decimals);
       } else {
+        Extended x = testing::RandomValue<Extended>(engine, kind);
+        if (i % 7 == 0) x = std::rint(std::fmod(x, 50.0L));  // with ties and equal values
         sample.Add(x);
-        values.push_back(Exactly(x));
+        values.Add(x);
       }
     }
     SCOPED_TRACE(i);
@@ -162,9 +191,9 @@ TEST(ExactSample, HasTheNearestNumbersOfLongSamples) {
     const auto values = testing::RandomValues<Extended>(engine, kind, 3'000);
     ExactSample<> sample;
     sample.Add(values);
-    std::vector<Fraction> fractions;
-    for (const Extended x : values) fractions.push_back(Exactly(x));
-    ExpectNearestFigures(sample, fractions);
+    Integers integers(-200);
+    for (const Extended x : values) integers.Add(x);
+    ExpectNearestFigures(sample, integers);
   }
 }
 

@@ -11,7 +11,6 @@
 namespace qorvex::testing {
 
 using Integer = boost::multiprecision::cpp_int;
-using Fraction = boost::multiprecision::cpp_rational;
 
 /// A finite number as mantissa * 2^exponent.
 struct Binary {
@@ -31,31 +30,22 @@ struct Binary {
   }
 };
 
-/// The exact value of a finite number.
-inline Fraction Exactly(Extended x) {
-  const Binary parts(x);
-  return parts.exponent < 0 ? Fraction(parts.mantissa, Integer(1) << -parts.exponent)
-                            : Fraction(parts.mantissa << parts.exponent);
-}
-
-/// The extended number nearest to the fraction or to its root, ties to even.
-inline Extended Nearest(const Fraction& x, bool root = false) {
-  if (x == 0) return 0;
-  if (x < 0) return -Nearest(-x);
+/// The extended number nearest to top / bottom or to its root, ties to even.
+inline Extended Nearest(const Integer& top, const Integer& bottom, bool root = false) {
+  if (top == 0) return 0;
+  if (top.sign() != bottom.sign()) return -Nearest(abs(top), abs(bottom), root);
   const auto bits = [](const Integer& i) { return static_cast<int>(msb(i)); };
-  const int guess = (bits(numerator(x)) - bits(denominator(x))) / (root ? 2 : 1) - 66;
+  const int guess = (bits(top) - bits(bottom)) / (root ? 2 : 1) - 65;
   for (int exponent = std::max(guess, -16'445);; ++exponent) {
-    // x = top / bottom * 2^scale
     const int scale = root ? 2 * exponent : exponent;
-    const Integer top = scale < 0 ? Integer(numerator(x) << -scale) : numerator(x);
-    const Integer bottom = scale < 0 ? denominator(x) : Integer(denominator(x) << scale);
-    const Integer floor = root ? Integer(sqrt(Integer(top / bottom))) : Integer(top / bottom);
+    const Integer n = scale < 0 ? Integer(top << -scale) : top;
+    const Integer d = scale < 0 ? bottom : Integer(bottom << scale);
+    const Integer floor = root ? Integer(sqrt(Integer(n / d))) : Integer(n / d);
     if (floor != 0 && bits(floor) > 63) continue;
     const Integer twice = 2 * floor + 1;
-    const Integer above =
-        root ? Integer(4 * top - twice * twice * bottom) : Integer(2 * top - twice * bottom);
+    const Integer rest = root ? Integer(4 * n - twice * twice * d) : Integer(2 * n - twice * d);
     const auto mantissa = static_cast<std::uint64_t>(floor);
-    const bool up = above > 0 || (above == 0 && mantissa % 2 != 0);
+    const bool up = rest > 0 || (rest == 0 && mantissa % 2 != 0);
     return std::ldexp(static_cast<Extended>(mantissa) + (up ? 1 : 0), exponent);
   }
 }
