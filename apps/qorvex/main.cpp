@@ -68,6 +68,7 @@ int Run(int argc, char** argv) {
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
   AddFit(program);
+  AddTestCommands(program);
   AddMatrix(program);
   AddDist(program);
   AddRandom(program);

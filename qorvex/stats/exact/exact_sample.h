@@ -3,16 +3,19 @@
 /// @file
 /// ExactSample: descriptive statistics that are exact until they are rounded once.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "qorvex/base/Qorvex_rs_math.h"
 #include "qorvex/base/exact/rational.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/exact/fixed_point.h"
+#include "qorvex/stats/exact/special_counts.h"
 
 namespace qorvex {
 
@@ -80,11 +83,11 @@ class QORVEX_EXPORT ExactSample {
 
   /// The number of values, n.
   [[nodiscard]] std::uint64_t Count() const {
-    return finite_ + nan_ + positive_infinity_ + negative_infinity_;
+    return finite_ + static_cast<std::uint64_t>(special_.Total());
   }
   /// No value is infinite or NaN.
-  [[nodiscard]] bool IsFinite() const { return finite_ == Count(); }
-  /// The sum; infinite beyond the format. A sum of nothing but -0 is -0.
+  [[nodiscard]] bool IsFinite() const { return !special_.Any(); }
+  /// The sum; infinite beyond the format.
   [[nodiscard]] Extended Sum() const;
   /// The sum of the squares; infinite beyond the format.
   [[nodiscard]] Extended SumOfSquares() const;
@@ -116,8 +119,8 @@ class QORVEX_EXPORT ExactSample {
   /// @}
   /// @{
   /// The least and the greatest value, rounded if it is a decimal number. Nothing if there is no
-  /// value, or if the extreme has been removed and no other sample can know the next. NaN if a
-  /// value is NaN. -0 is less than +0.
+  /// value, or if the extreme has been removed, because the next one is not known. NaN if a value
+  /// is NaN. Zeros are +0.
   [[nodiscard]] std::optional<Extended> Minimum() const;
   [[nodiscard]] std::optional<Extended> Maximum() const;
   /// @}
@@ -131,10 +134,26 @@ class QORVEX_EXPORT ExactSample {
   [[nodiscard]] exact::Rational PowerSum(int k) const;
   /// @}
 
-  /// The sample as bytes. Equal samples have equal bytes, on every machine.
+  /// The sample as bytes. Equal samples have equal bytes, on every machine. Integers start with
+  /// their lowest byte:
+  ///
+  /// | bytes | contents                                                                       |
+  /// |-------|--------------------------------------------------------------------------------|
+  /// | 4     | QXSM                                                                           |
+  /// | 1     | version: 1                                                                     |
+  /// | 1     | kPowerSums                                                                     |
+  /// | 2     | decimals d, as few as possible                                                 |
+  /// | 8 * 4 | how many values are finite, NaN, positive infinities, negative infinities      |
+  /// | 1     | 1 if the minimum of the finite values is known, plus 2 if the maximum is       |
+  /// | 10    | minimum: 80 bits, 0 if unknown                                                 |
+  /// | 10    | maximum                                                                        |
+  /// | ...   | for each power k the sum of (10^d x)^k over the finite values: 4 bytes for the |
+  /// |       | signed position p, 4 for the number of words, and the words of 8 bytes. It is  |
+  /// |       | the shortest integer in two's complement, times 2^(64 p).                      |
   [[nodiscard]] std::vector<std::byte> ToBytes() const;
-  /// The sample with these bytes. EMathError with a text that says what is wrong, unless ToBytes
-  /// could have written them: FromBytes accepts nothing else.
+  /// The sample with these bytes. EMathError rsInvalidValue, with a text that says what is wrong,
+  /// unless ToBytes writes the same bytes for it and its sums are possible: a variance, for
+  /// instance, is not negative.
   [[nodiscard]] static ExactSample FromBytes(std::span<const std::byte> bytes);
 
   /// The same count, the same sums of powers, the same extremes.
@@ -146,13 +165,33 @@ class QORVEX_EXPORT ExactSample {
   static constexpr int kMaxDecimals = 5000;
 
  private:
-  [[nodiscard]] bool IsEqual(const ExactSample& other) const;
+  using Sums = std::array<exact::FixedPoint, std::size_t{kPowerSums}>;
 
-  exact::FixedPoint sums_[kPowerSums];  // of the powers of x * 10^decimals_, for finite x
+  template <class T>
+  void AddIntegers(VectorView<T> values, int decimals);
+  [[nodiscard]] bool IsEqual(const ExactSample& other) const;
+  // Changes the unit of the sums to 10^-decimals, which must not be a larger one.
+  void Refine(int decimals);
+  // The same sample in the largest unit in which all sums are multiples of powers of two.
+  [[nodiscard]] ExactSample Canonical() const;
+  // 10^decimals, to the power k.
+  [[nodiscard]] exact::Dyadic Unit(int k) const;
+  // The central moments times n^2, n^3 and n^4, in units.
+  [[nodiscard]] exact::Dyadic SecondMoment() const;
+  [[nodiscard]] exact::Dyadic ThirdMoment() const requires(kPowerSums == 4);
+  [[nodiscard]] exact::Dyadic FourthMoment() const requires(kPowerSums == 4);
+  // SecondMoment(), which must not be 0.
+  [[nodiscard]] exact::Dyadic Spread() const;
+  // The sum of (x - mean)^2 over the divisor.
+  [[nodiscard]] exact::Rational Variance(std::uint64_t divisor) const;
+  // Whether sums of any values can be like this.
+  [[nodiscard]] bool IsPossible() const;
+  void RequireCount(std::uint64_t least, MessageId error) const;
+  void RequireFinite() const;
+
+  Sums sums_;  // of the powers of x * 10^decimals_, for finite x
   std::uint64_t finite_ = 0;
-  std::uint64_t nan_ = 0;
-  std::uint64_t positive_infinity_ = 0;
-  std::uint64_t negative_infinity_ = 0;
+  exact::SpecialCounts special_;
   std::optional<Extended> minimum_;  // of the finite values
   std::optional<Extended> maximum_;
   int decimals_ = 0;

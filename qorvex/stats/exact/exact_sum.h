@@ -3,12 +3,14 @@
 /// @file
 /// ExactSum: sums of values and of products without any rounding before the result.
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/exact/fixed_point.h"
+#include "qorvex/stats/exact/special_counts.h"
 
 namespace qorvex {
 
@@ -110,7 +112,7 @@ class QORVEX_EXPORT ExactSum {
   /// The exact sum of the finite values.
   [[nodiscard]] exact::Dyadic Value() const { return total_.Value(); }
   /// No infinity and no NaN has been added, or all have been removed.
-  [[nodiscard]] bool IsFinite() const { return special_ == SpecialCounts(); }
+  [[nodiscard]] bool IsFinite() const { return !special_.Any(); }
 
   /// The same sum, and as many infinities and NaNs.
   [[nodiscard]] friend bool operator==(const ExactSum& a, const ExactSum& b) {
@@ -118,25 +120,14 @@ class QORVEX_EXPORT ExactSum {
   }
 
  private:
-  // How many values were not finite. Signed, so that they may be removed before they are added.
-  struct SpecialCounts {
-    std::int64_t nan = 0;
-    std::int64_t positive_infinity = 0;
-    std::int64_t negative_infinity = 0;
-    friend bool operator==(const SpecialCounts&, const SpecialCounts&) = default;
-  };
-
   // What a sum of zeros is.
   enum class Zero : std::uint8_t { kOfNothing, kNegative, kPositive };
 
-  template <class... Factors>
-  void AddRange(Factors... factors);
-  template <class... Factors>
-  void AddValue(Factors... factors);
-  void AddSpecial(Extended value);
+  template <class T, std::size_t kFactors>
+  void AddTerms(const std::array<const T*, kFactors>& factors, std::size_t count);
 
   exact::FixedPoint total_;
-  SpecialCounts special_;
+  exact::SpecialCounts special_;
   Zero zero_ = Zero::kOfNothing;
 };
 

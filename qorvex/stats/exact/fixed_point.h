@@ -22,6 +22,10 @@ class QORVEX_EXPORT FixedPoint {
  public:
   /// 0.
   FixedPoint() = default;
+  /// The same number.
+  explicit FixedPoint(const Dyadic& value) {
+    Add(value.Mantissa().Magnitude(), value.Exponent(), value.Sign() < 0);
+  }
 
   /// Adds magnitude * 2^exponent, or subtracts it if `negative` is set. The magnitude starts with
   /// its least significant word.
@@ -63,6 +67,7 @@ class QORVEX_EXPORT FixedPoint {
   }
   // Extends the words to [first, end) at least, with a highest word that cannot overflow.
   void Reserve(std::int32_t first, std::int32_t end);
+  void AddWords(const FixedPoint& other, bool negate);
 
   std::int32_t position_ = 0;
   Limbs words_;

@@ -23,8 +23,8 @@ namespace qorvex {
 /// - Cumulated weights are exact. A sum less than 4 units in the last place from p times the total
 ///   is equal to it.
 /// - A value of weight 0 does not count, not even NaN. NaN sorts last; see GetQuantile.
-/// - EMathError, in this order: rsSameDimensions for different lengths; rsVectorIsEmpty;
-///   rsValue01Inc unless 0 <= p <= 1; rsInvalidWeight if a weight is negative, infinite or NaN;
+/// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside 1 to 9; rsSameDimensions for different
+///   lengths; rsVectorIsEmpty; rsInvalidWeight if a weight is negative, infinite or NaN;
 ///   rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9 get other weights than
 ///   frequencies.
 /// - For all numeric elements; values and weights may differ in type. Elements that are not

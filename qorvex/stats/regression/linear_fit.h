@@ -126,6 +126,8 @@ class QORVEX_EXPORT LinearFit {
   [[nodiscard]] std::size_t Precision() const;
 
  private:
+  void RequireIndex(std::size_t i) const;
+
   std::shared_ptr<const detail::Solution> solution_;
 };
 

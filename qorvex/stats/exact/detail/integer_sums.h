@@ -1,0 +1,68 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <span>
+
+#include "qorvex/base/vector_types.h"
+#include "qorvex/stats/exact/detail/words.h"
+#include "qorvex/stats/exact/fixed_point.h"
+
+namespace qorvex::exact::detail {
+
+inline void AddToTotal(__int128 sum, FixedPoint& total) {
+  const auto bits = static_cast<unsigned __int128>(sum);
+  const unsigned __int128 magnitude = sum < 0 ? 0 - bits : bits;
+  const std::array<std::uint64_t, 2> words = {static_cast<std::uint64_t>(magnitude),
+                                              static_cast<std::uint64_t>(magnitude >> 64)};
+  total.Add(words, 0, sum < 0);
+}
+
+template <std::size_t kSize>
+inline void AddToTotal(const Counter<kSize>& counter, bool negative, FixedPoint& total) {
+  std::array<std::uint64_t, kSize + 1> words;
+  for (std::size_t i = 0; i <= kSize; ++i) words[i] = counter.words[i];
+  total.Add(words, 0, negative);
+}
+
+template <IntegerElement T>
+constexpr T IntegerOf(T value) noexcept {
+  return value;
+}
+template <CurrencyElement T>
+constexpr auto IntegerOf(T amount) noexcept {
+  return amount.stored();
+}
+
+// Adds the powers of integers, or of the stored integers of amounts, to the totals.
+template <int kPowerSums, class T>
+inline void AddIntegerPowers(std::span<const T> values, FixedPoint* totals) {
+  __int128 first = 0;
+  Counter<2> second;
+  Counter<3> third[2];
+  Counter<4> fourth;
+  for (const T value : values) {
+    const auto x = IntegerOf(value);
+    first += x;
+    if constexpr (kPowerSums > 1) {
+      const auto bits = static_cast<Word>(x);
+      const Word magnitude = x < 0 ? 0 - bits : bits;
+      const Words<2> square = Square(Words<1>{magnitude});
+      second.Add(square);
+      if constexpr (kPowerSums > 2) {
+        third[x < 0 ? 1 : 0].Add(Multiply(square, magnitude));
+        fourth.Add(Square(square));
+      }
+    }
+  }
+  AddToTotal(first, totals[0]);
+  if constexpr (kPowerSums > 1) AddToTotal(second, false, totals[1]);
+  if constexpr (kPowerSums > 2) {
+    AddToTotal(third[0], false, totals[2]);
+    AddToTotal(third[1], true, totals[2]);
+    AddToTotal(fourth, false, totals[3]);
+  }
+}
+
+}  // namespace qorvex::exact::detail

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+
+#include "qorvex/stats/exact/detail/dense_chunks.h"
+#include "qorvex/stats/exact/detail/parts.h"
+#include "qorvex/stats/exact/detail/words.h"
+#include "qorvex/stats/exact/fixed_point.h"
+
+namespace qorvex::exact::detail {
+
+// The exponents that a table has counters for.
+inline constexpr std::uint32_t kWindow = 128;
+
+// One sum of terms with kSize words. A term with the exponent e weighs
+// 2^(kStep e - kSize kExponentBias): for products e is the sum of the exponents and kStep is 1, for
+// powers e is the exponent of the value and kStep the power.
+//
+// Terms within a window of exponents go to a table with one counter for each exponent and sign,
+// where adding needs neither shift nor carry nor branch. A few others are added to the total, many
+// to dense chunks.
+template <std::size_t kSize, int kStep, bool kSigned>
+class Lane {
+ public:
+  explicit Lane(FixedPoint& total) : total_(total) {}
+
+  template <std::size_t kWords>
+  static void AddToTotal(const Words<kWords>& term, std::uint32_t exponent, bool negative,
+                         FixedPoint& total) {
+    std::array<std::uint64_t, kWords> magnitude;
+    for (std::size_t i = 0; i < kWords; ++i) magnitude[i] = term[i];
+    total.Add(magnitude,
+              std::int64_t{kStep} * exponent - static_cast<std::int64_t>(kSize) * kExponentBias,
+              negative);
+  }
+
+  void Count(const Words<kSize>& term, std::uint32_t index, std::uint32_t sign) noexcept {
+    counters_[kSigned ? 2 * index + sign : index].Add(term);
+  }
+
+  void AddOne(const Words<kSize>& term, std::uint32_t exponent, std::uint32_t sign) {
+    AddToTotal(term, exponent, kSigned && sign != 0, total_);
+  }
+
+  void AddScattered(const Words<kSize>& term, std::uint32_t exponent, std::uint32_t sign) {
+    if (!chunks_) chunks_ = std::make_unique<DenseChunks<kSize>>();
+    chunks_->Add(term, kStep * exponent, kSigned ? sign : 0, total_);
+  }
+
+  // Adds the counters to the total. The first has the given exponent.
+  void FlushCounters(std::uint32_t first) {
+    for (std::uint32_t i = 0; i < counters_.size(); ++i) {
+      if (counters_[i].IsZero()) continue;
+      AddToTotal(counters_[i].words, first + (kSigned ? i / 2 : i), kSigned && i % 2 == 1, total_);
+      counters_[i] = {};
+    }
+  }
+
+  void FlushChunks() {
+    if (chunks_) chunks_->Flush(total_);
+  }
+
+ private:
+  FixedPoint& total_;
+  std::array<Counter<kSize>, kWindow*(kSigned ? 2 : 1)> counters_;
+  std::unique_ptr<DenseChunks<kSize>> chunks_;
+};
+
+// The sum of products of kFactors numbers.
+template <std::size_t kFactors>
+class ProductLanes {
+ public:
+  explicit ProductLanes(FixedPoint* total) : product_(*total) {}
+
+  // Calls action(lane, term) for every sum that a value contributes to.
+  template <class Action>
+  void ForEachTerm(const Parts<kFactors>& x, Action action) {
+    action(product_, x.mantissa);
+  }
+  template <class Action>
+  void ForEach(Action action) {
+    action(product_);
+  }
+
+ private:
+  Lane<kFactors, 1, true> product_;
+};
+
+// The sums of the first two or four powers.
+template <int kPowerSums>
+class PowerLanes {
+ public:
+  explicit PowerLanes(FixedPoint* totals) : first_(totals[0]), second_(totals[1]) {}
+
+  template <class Action>
+  void ForEachTerm(const Parts<1>& x, Action action) {
+    action(first_, x.mantissa);
+    action(second_, Square(x.mantissa));
+  }
+  template <class Action>
+  void ForEach(Action action) {
+    action(first_);
+    action(second_);
+  }
+
+ private:
+  Lane<1, 1, true> first_;
+  Lane<2, 2, false> second_;
+};
+
+template <>
+class PowerLanes<4> {
+ public:
+  explicit PowerLanes(FixedPoint* totals)
+      : first_(totals[0]), second_(totals[1]), third_(totals[2]), fourth_(totals[3]) {}
+
+  template <class Action>
+  void ForEachTerm(const Parts<1>& x, Action action) {
+    const Words<2> square = Square(x.mantissa);
+    action(first_, x.mantissa);
+    action(second_, square);
+    action(third_, Multiply(square, x.mantissa[0]));
+    action(fourth_, Square(square));
+  }
+  template <class Action>
+  void ForEach(Action action) {
+    action(first_);
+    action(second_);
+    action(third_);
+    action(fourth_);
+  }
+
+ private:
+  Lane<1, 1, true> first_;
+  Lane<2, 2, false> second_;
+  Lane<3, 3, true> third_;
+  Lane<4, 4, false> fourth_;
+};
+
+}  // namespace qorvex::exact::detail

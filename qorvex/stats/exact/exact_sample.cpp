@@ -1,0 +1,194 @@
+#include "qorvex/stats/exact/exact_sample.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <type_traits>
+#include <utility>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/detail/extremes.h"
+#include "qorvex/stats/exact/detail/integer_sums.h"
+#include "qorvex/stats/exact/detail/windowed_sum.h"
+
+namespace qorvex {
+
+namespace {
+
+using exact::BigInteger;
+using exact::Dyadic;
+using exact::FixedPoint;
+using exact::Rational;
+using namespace exact::detail;
+
+// 10^decimals.
+Dyadic TenToThe(int decimals) {
+  return Dyadic(BigInteger::PowerOfTen(static_cast<unsigned>(decimals)));
+}
+
+// Zeros of both signs are equal, so which one came first must not matter.
+Extended WithoutSignOfZero(Extended x) noexcept {
+  return x + 0.0L;
+}
+
+// The values, for WindowedSum.
+template <class T>
+struct Values {
+  const T* values;
+  [[nodiscard]] Parts<1> operator()(std::size_t i) const noexcept { return PartsOf(values[i]); }
+  [[nodiscard]] Extended Value(std::size_t i) const noexcept { return values[i]; }
+};
+
+template <class Choose>
+std::optional<Extended> Merged(std::optional<Extended> a, std::optional<Extended> b,
+                               Choose choose) {
+  if (!a || !b) return std::nullopt;
+  return choose(*a, *b);
+}
+
+}  // namespace
+
+template <int kPowerSums>
+template <AnyElement T>
+void ExactSample<kPowerSums>::Add(VectorView<T> values) {
+  if constexpr (CurrencyElement<T>) {
+    AddIntegers(values, T::kDecimals);
+  } else if constexpr (IntegerElement<T>) {
+    AddIntegers(values, 0);
+  } else {
+    if (values.empty()) return;
+    ExactSample part;
+    using Sum = WindowedSum<PowerLanes<kPowerSums>>;
+    Sum sum(part.sums_.data());
+    Extremes<T> extremes;
+    for (std::size_t begin = 0; begin < values.size(); begin += Sum::kBlock) {
+      const std::size_t end = std::min(begin + Sum::kBlock, values.size());
+      sum.Add(Values<T>{values.data()}, begin, end, part.special_);
+      extremes.Add(values.subspan(begin, end - begin));
+    }
+    sum.Flush();
+    part.finite_ = values.size() - static_cast<std::uint64_t>(part.special_.Total());
+    if (part.finite_ > 0) {
+      part.minimum_ = WithoutSignOfZero(extremes.Least());
+      part.maximum_ = WithoutSignOfZero(extremes.Greatest());
+    }
+    Merge(part);
+  }
+}
+
+template <int kPowerSums>
+void ExactSample<kPowerSums>::AddScaled(VectorView<std::int64_t> values, int decimals) {
+  if (decimals < 0 || decimals > kMaxDecimals) RaiseMathError(rsInvalidValue);
+  AddIntegers(values, decimals);
+}
+
+template <int kPowerSums>
+template <class T>
+void ExactSample<kPowerSums>::AddIntegers(VectorView<T> values, int decimals) {
+  if (values.empty()) return;
+  ExactSample part;
+  part.decimals_ = decimals;
+  part.finite_ = values.size();
+  AddIntegerPowers<kPowerSums>(std::span<const T>(values), part.sums_.data());
+  const auto [least, greatest] = std::ranges::minmax_element(values);
+  const Dyadic unit = TenToThe(decimals);
+  part.minimum_ = Rational(IntegerOf(*least), unit).Round();
+  part.maximum_ = Rational(IntegerOf(*greatest), unit).Round();
+  Merge(part);
+}
+
+template <int kPowerSums>
+void ExactSample<kPowerSums>::Refine(int decimals) {
+  if (finite_ > 0 && decimals > decimals_) {
+    Dyadic factor = 1;
+    const Dyadic step = TenToThe(decimals - decimals_);
+    for (FixedPoint& sum : sums_) {
+      factor *= step;
+      sum = FixedPoint(sum.Value() * factor);
+    }
+  }
+  decimals_ = decimals;
+}
+
+template <int kPowerSums>
+void ExactSample<kPowerSums>::Merge(const ExactSample& other) {
+  special_ += other.special_;
+  if (other.finite_ == 0) return;
+  if (decimals_ > other.decimals_ && finite_ > 0) {
+    ExactSample refined = other;
+    refined.special_ = {};
+    refined.Refine(decimals_);
+    return Merge(refined);
+  }
+  Refine(other.decimals_);
+  for (std::size_t k = 0; k < sums_.size(); ++k) sums_[k] += other.sums_[k];
+  if (finite_ == 0) {
+    minimum_ = other.minimum_;
+    maximum_ = other.maximum_;
+  } else {
+    minimum_ =
+        Merged(minimum_, other.minimum_, [](Extended a, Extended b) { return std::min(a, b); });
+    maximum_ =
+        Merged(maximum_, other.maximum_, [](Extended a, Extended b) { return std::max(a, b); });
+  }
+  finite_ += other.finite_;
+}
+
+template <int kPowerSums>
+void ExactSample<kPowerSums>::Remove(const ExactSample& other) {
+  if (other.finite_ > finite_ || other.special_.nan > special_.nan ||
+      other.special_.positive_infinity > special_.positive_infinity ||
+      other.special_.negative_infinity > special_.negative_infinity) {
+    RaiseMathError(rsInvalidValue);
+  }
+  special_ -= other.special_;
+  if (other.finite_ == 0) return;
+  ExactSample part = other;
+  const int decimals = std::max(decimals_, part.decimals_);
+  Refine(decimals);
+  part.Refine(decimals);
+  for (std::size_t k = 0; k < sums_.size(); ++k) sums_[k] -= part.sums_[k];
+  finite_ -= part.finite_;
+  if (!(minimum_ && part.minimum_ && *minimum_ < *part.minimum_)) minimum_.reset();
+  if (!(maximum_ && part.maximum_ && *maximum_ > *part.maximum_)) maximum_.reset();
+}
+
+template <int kPowerSums>
+ExactSample<kPowerSums> ExactSample<kPowerSums>::Canonical() const {
+  ExactSample canonical = *this;
+  if (finite_ == 0) canonical.decimals_ = 0;
+  // In a unit ten times as large, the k-th sum is 10^k times smaller.
+  while (canonical.decimals_ > 0) {
+    Sums sums;
+    BigInteger divisor = 1;
+    for (std::size_t k = 0; k < sums.size(); ++k) {
+      divisor *= BigInteger(5);
+      const Dyadic sum = canonical.sums_[k].Value();
+      const auto [quotient, remainder] = Divide(sum.Mantissa(), divisor);
+      if (remainder.Sign() != 0) return canonical;
+      sums[k] = FixedPoint(Dyadic(quotient, sum.Exponent() - static_cast<std::int64_t>(k + 1)));
+    }
+    canonical.sums_ = std::move(sums);
+    --canonical.decimals_;
+  }
+  return canonical;
+}
+
+template <int kPowerSums>
+bool ExactSample<kPowerSums>::IsEqual(const ExactSample& other) const {
+  const ExactSample a = Canonical();
+  const ExactSample b = other.Canonical();
+  return a.finite_ == b.finite_ && a.special_ == b.special_ && a.decimals_ == b.decimals_ &&
+         a.minimum_ == b.minimum_ && a.maximum_ == b.maximum_ && a.sums_ == b.sums_;
+}
+
+template class ExactSample<2>;
+template class ExactSample<4>;
+
+#define QORVEX_INSTANTIATE(T)                       \
+  template void ExactSample<2>::Add(VectorView<T>); \
+  template void ExactSample<4>::Add(VectorView<T>);
+QORVEX_FOR_ALL_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex

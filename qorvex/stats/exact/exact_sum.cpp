@@ -1,0 +1,134 @@
+#include "qorvex/stats/exact/exact_sum.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/detail/integer_sums.h"
+#include "qorvex/stats/exact/detail/windowed_sum.h"
+
+namespace qorvex {
+
+namespace {
+
+using namespace exact::detail;
+
+// The products of elements with the same index, for WindowedSum.
+template <class T, std::size_t kFactors>
+struct Products {
+  std::array<const T*, kFactors> factors;
+
+  [[nodiscard]] Parts<kFactors> operator()(std::size_t i) const noexcept {
+    return Product<kFactors>(i);
+  }
+  [[nodiscard]] Extended Value(std::size_t i) const noexcept {
+    Extended product = 1;
+    for (const T* const factor : factors) product *= static_cast<Extended>(factor[i]);
+    return product;
+  }
+
+ private:
+  template <std::size_t kCount>
+  [[nodiscard]] Parts<kCount> Product(std::size_t i) const noexcept {
+    if constexpr (kCount == 1) {
+      return PartsOf(factors[0][i]);
+    } else {
+      return Multiply(Product<kCount - 1>(i), PartsOf(factors[kCount - 1][i]));
+    }
+  }
+};
+
+template <std::size_t kFactors>
+bool IsNegativeZero(const Parts<kFactors>& x) noexcept {
+  return x.mantissa == Words<kFactors>{} && x.sign != 0 && x.special == 0;
+}
+
+}  // namespace
+
+// Terms of which the first few need no table, and every other has a counter.
+template <class T, std::size_t kFactors>
+void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size_t count) {
+  const Products<T, kFactors> source{factors};
+  for (std::size_t i = 0; i < count && zero_ != Zero::kPositive; ++i) {
+    zero_ = IsNegativeZero(source(i)) ? Zero::kNegative : Zero::kPositive;
+  }
+  constexpr std::size_t kFew = 16;
+  if (count <= kFew) {
+    for (std::size_t i = 0; i < count; ++i) {
+      const auto x = source(i);
+      if (x.special != 0) {
+        special_.Add(source.Value(i));
+      } else {
+        Lane<kFactors, 1, true>::AddToTotal(x.mantissa, x.exponent, x.sign != 0, total_);
+      }
+    }
+    return;
+  }
+  if constexpr (kFactors == 1 && IntegerElement<T>) {
+    AddIntegerPowers<1>(std::span(factors[0], count), &total_);
+  } else {
+    using Sum = WindowedSum<ProductLanes<kFactors>>;
+    Sum sum(&total_);
+    for (std::size_t begin = 0; begin < count; begin += Sum::kBlock) {
+      sum.Add(source, begin, std::min(begin + Sum::kBlock, count), special_);
+    }
+    sum.Flush();
+  }
+}
+
+void ExactSum::Add(Extended x) {
+  AddTerms<Extended, 1>({&x}, 1);
+}
+
+void ExactSum::AddProduct(Extended x, Extended y) {
+  AddTerms<Extended, 2>({&x, &y}, 1);
+}
+
+void ExactSum::AddProduct(Extended x, Extended y, Extended z) {
+  AddTerms<Extended, 3>({&x, &y, &z}, 1);
+}
+
+template <NumericElement T>
+void ExactSum::Add(VectorView<T> values) {
+  AddTerms<T, 1>({values.data()}, values.size());
+}
+
+template <NumericElement T>
+void ExactSum::AddProduct(VectorView<T> x, VectorView<T> y) {
+  if (x.size() != y.size()) RaiseMathError(rsSameDimensions);
+  AddTerms<T, 2>({x.data(), y.data()}, x.size());
+}
+
+template <NumericElement T>
+void ExactSum::AddProduct(VectorView<T> x, VectorView<T> y, VectorView<T> z) {
+  if (x.size() != y.size() || x.size() != z.size()) RaiseMathError(rsSameDimensions);
+  AddTerms<T, 3>({x.data(), y.data(), z.data()}, x.size());
+}
+
+void ExactSum::Merge(const ExactSum& other) {
+  total_ += other.total_;
+  special_ += other.special_;
+  if (other.zero_ != Zero::kOfNothing) zero_ = std::max(zero_, other.zero_);
+}
+
+void ExactSum::Remove(const ExactSum& other) {
+  total_ -= other.total_;
+  special_ -= other.special_;
+  zero_ = Zero::kPositive;
+}
+
+Extended ExactSum::Round() const {
+  if (special_.Any()) return special_.Sum();
+  if (total_.Sign() == 0) return zero_ == Zero::kNegative ? -0.0L : 0.0L;
+  return total_.Value().Round();
+}
+
+#define QORVEX_INSTANTIATE(T)                                                     \
+  template QORVEX_EXPORT void ExactSum::Add(VectorView<T>);                       \
+  template QORVEX_EXPORT void ExactSum::AddProduct(VectorView<T>, VectorView<T>); \
+  template QORVEX_EXPORT void ExactSum::AddProduct(VectorView<T>, VectorView<T>, VectorView<T>);
+QORVEX_FOR_NUMERIC_ELEMENTS(QORVEX_INSTANTIATE)
+#undef QORVEX_INSTANTIATE
+
+}  // namespace qorvex
