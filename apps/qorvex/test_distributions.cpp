@@ -90,7 +90,12 @@ std::vector<TestReport> TwoDistributions(const TestArguments& arguments) {
   return {report};
 }
 
-TestReport Normality(const NumberSample& sample) {
+TestReport Normality(const NumberSample& sample, const TestArguments& arguments) {
+  constexpr std::size_t most_values = 5000;
+  if (sample.numbers.size() > most_values) {
+    throw InputError(InputFault::kNoResult, sample.Place(arguments.table.file),
+                     "the test takes at most 5000 values");
+  }
   return {.title = "Shapiro-Wilk test",
           .samples = {WithMoments(sample)},
           .null_hypothesis = "the values follow a normal distribution",

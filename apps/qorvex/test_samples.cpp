@@ -75,6 +75,17 @@ const char* WhyNot(MessageId id) {
       return "the test needs at least three values";
     case rsSameValue:
       return "the values must not all be the same";
+    case rsDF:
+      return "no degrees of freedom are left";
+    case rsVectorZero:
+      return "all counts are 0";
+    case rsVectorNotPos:
+      return "the proportions must all be greater than 0";
+    case rsInvalidRow:
+    case rsInvalidCol:
+      return "the table needs at least two rows and two columns";
+    case rsMatrixZero:
+      return "a row or a column of the table holds nothing but 0";
     default:
       return nullptr;
   }
