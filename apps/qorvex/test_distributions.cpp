@@ -121,15 +121,19 @@ void AddDistributionTests(CLI::App& test) {
                        arguments.AddAlternative(command);
                      },
                  .run = TwoDistributions});
-  AddTest(test,
-          {.name = "shapiro-wilk",
-           .summary = "Whether values are normal: the test of each column",
-           .add_options =
-               [](CLI::App& command, TestArguments& arguments) {
-                 arguments.table.AddTo(command);
-                 arguments.AddBy(command);
-               },
-           .run = [](const TestArguments& arguments) { return TestEach(arguments, Normality); }});
+  AddTest(test, {.name = "shapiro-wilk",
+                 .summary = "Whether values are normal: the test of each column",
+                 .add_options =
+                     [](CLI::App& command, TestArguments& arguments) {
+                       arguments.table.AddTo(command);
+                       arguments.AddBy(command);
+                     },
+                 .run =
+                     [](const TestArguments& arguments) {
+                       return TestEach(arguments, [&](const NumberSample& sample) {
+                         return Normality(sample, arguments);
+                       });
+                     }});
 }
 
 }  // namespace qorvex::apps
