@@ -10,8 +10,14 @@ namespace qorvex::apps {
 /// `describe`: the descriptive statistics of columns of numbers.
 void AddDescribe(CLI::App& program);
 
-/// `fit`: a line or a parabola through the pairs in two columns of a table.
+/// `compare`: two columns side by side.
+void AddCompare(CLI::App& program);
+
+/// `fit`: least-squares curves through columns of a table.
 void AddFit(CLI::App& program);
+
+/// `test`: tests of hypotheses about columns of a table.
+void AddTestCommands(CLI::App& program);
 
 /// `matrix`: inverses, products and ranks of matrices.
 void AddMatrix(CLI::App& program);

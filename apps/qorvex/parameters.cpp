@@ -1,5 +1,9 @@
 #include "apps/qorvex/parameters.h"
 
+#include <algorithm>
+#include <cstddef>
+#include <vector>
+
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -14,6 +18,16 @@ Extended ParseNumber(const std::string& option, const std::string& text, NumberK
   const char* const wrong = WhatIsWrong(value, kind);
   if (wrong == nullptr) return value;
   throw CLI::ValidationError(option, Excerpt(text) + ' ' + wrong);
+}
+
+TQorFloatVector ParseNumbers(const std::string& option, const std::string& text, NumberKind kind) {
+  std::vector<Extended> numbers;
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find(',', begin), text.size());
+    numbers.push_back(ParseNumber(option, text.substr(begin, end - begin), kind));
+    begin = end + 1;
+  }
+  return TQorFloatVector(numbers);
 }
 
 InputError Refusal(const std::string& name, const EMathError& error, const std::string& remark) {

@@ -10,12 +10,17 @@
 #include "apps/common/number_parameter.h"
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/base/vector_types.h"
 
 namespace qorvex::apps {
 
 /// The number of the given kind in the argument of an option. Throws CLI::ValidationError.
 [[nodiscard]] Extended ParseNumber(const std::string& option, const std::string& text,
                                    NumberKind kind);
+
+/// The numbers between commas. Throws CLI::ValidationError.
+[[nodiscard]] TQorFloatVector ParseNumbers(const std::string& option, const std::string& text,
+                                           NumberKind kind);
 
 /// Adds an option that takes one number. If the option is given, set is called with the number.
 template <class Set>

@@ -52,16 +52,6 @@ struct RandomArguments {
 
 using SharedArguments = std::shared_ptr<RandomArguments>;
 
-TQorFloatVector ParseList(const std::string& option, const std::string& text, NumberKind kind) {
-  std::vector<Extended> numbers;
-  for (std::size_t begin = 0; begin <= text.size();) {
-    const std::size_t end = std::min(text.find(',', begin), text.size());
-    numbers.push_back(ParseNumber(option, text.substr(begin, end - begin), kind));
-    begin = end + 1;
-  }
-  return TQorFloatVector(numbers);
-}
-
 void AddParameter(CLI::App& command, const NumberParameter& parameter,
                   const SharedArguments& arguments) {
   const std::size_t index = arguments->parameters.size();
@@ -73,7 +63,7 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
                  .add_option_function<std::string>(
                      name,
                      [arguments, index, name](const std::string& text) {
-                       arguments->parameters.Set(index, ParseList(name, text, NumberKind::kReals));
+                       arguments->parameters.Set(index, ParseNumbers(name, text, NumberKind::kReals));
                      },
                      parameter.Description())
                  ->type_name("X,X,...")

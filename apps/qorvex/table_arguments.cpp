@@ -1,6 +1,7 @@
 #include "apps/qorvex/table_arguments.h"
 
 #include <algorithm>
+#include <charconv>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -70,24 +71,26 @@ std::string TableHelp() {
   between rows is a row of empty cells.)";
 }
 
-void TableArguments::AddTo(CLI::App& command) {
+void TableArguments::AddFileTo(CLI::App& command, const char* skip_empty) {
   AddFile(command, file, "FILE", "The table to read");
+  AddHeader(command, selection.header);
+  AddDelimiter(command, selection.delimiter);
+  command.add_flag("--skip-empty", selection.skip_empty, skip_empty);
+}
+
+void TableArguments::AddTo(CLI::App& command) {
   command
       .add_option("--column", selection.columns,
                   "A column, by name or by number from 1; a name takes precedence.\n"
                   "Repeat it for more columns. Default: every column")
       ->type_name("NAME|N")
       ->allow_extra_args(false);
-  AddHeader(command, selection.header);
-  AddDelimiter(command, selection.delimiter);
-  command.add_flag("--skip-empty", selection.skip_empty,
-                   "Skip empty cells and report how many, instead of refusing them");
+  AddFileTo(command, "Skip empty cells and report how many, instead of refusing them");
 }
 
 void TableArguments::AddPairTo(CLI::App& command) {
   selection.whole_rows = true;
   selection.columns.resize(2);
-  AddFile(command, file, "FILE", "The table to read");
   const auto add_column = [&](std::size_t index, const char* name, const char* description) {
     command.add_option(name, selection.columns[index], description)
         ->type_name("NAME|N")
@@ -97,11 +100,21 @@ void TableArguments::AddPairTo(CLI::App& command) {
              "The column of x, by name or by number from 1;\n"
              "a name takes precedence");
   add_column(1, "--y", "The column of y");
-  AddHeader(command, selection.header);
-  AddDelimiter(command, selection.delimiter);
-  command.add_flag("--skip-empty", selection.skip_empty,
-                   "Skip rows in which x or y is empty and report how many,\n"
-                   "instead of refusing them");
+  AddFileTo(command,
+            "Skip rows in which x or y is empty and report how many,\n"
+            "instead of refusing them");
+}
+
+CLI::Option* TableArguments::AddWeightsTo(CLI::App& command) {
+  return command
+      .add_option_function<std::string>(
+          "--weights",
+          [this](const std::string& column) {
+            selection.weights = column;
+            selection.whole_rows = true;
+          },
+          "The column of the weights of the rows")
+      ->type_name("NAME|N");
 }
 
 std::vector<TableColumn> TableArguments::Read() const {
@@ -126,6 +139,14 @@ std::vector<TableColumn> TableArguments::Read() const {
   } catch (const InputError& error) {
     throw InputError(error.Fault(), error.what() + Hint(error.Fault(), selection));
   }
+}
+
+const TableColumn& ColumnOf(const std::vector<TableColumn>& columns, const std::string& chosen) {
+  const auto named = std::ranges::find(columns, chosen, &TableColumn::name);
+  if (named != columns.end()) return *named;
+  std::size_t number = 0;
+  std::from_chars(chosen.data(), chosen.data() + chosen.size(), number);
+  return *std::ranges::find(columns, number, &TableColumn::number);
 }
 
 }  // namespace qorvex::apps

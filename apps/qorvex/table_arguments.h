@@ -22,13 +22,24 @@ struct TableArguments {
   /// Adds the arguments to a command. This object must outlive the parsing.
   void AddTo(CLI::App& command);
 
+  /// Adds those that choose no columns. The description is that of --skip-empty.
+  void AddFileTo(CLI::App& command, const char* skip_empty);
+
   /// The same with --x and --y for two columns whose values with the same index are from one row.
   void AddPairTo(CLI::App& command);
+
+  /// Adds --weights, a column whose values with the same index are from the same row as those of
+  /// the others.
+  CLI::Option* AddWeightsTo(CLI::App& command);
 
   /// Reads the table. Writes to standard error how many empty cells, or rows, were skipped, and
   /// warns if the row that was read as a header may be data. The text of an InputError suggests an
   /// argument where one helps.
   [[nodiscard]] std::vector<TableColumn> Read() const;
 };
+
+/// The column that was chosen by this name or number.
+[[nodiscard]] const TableColumn& ColumnOf(const std::vector<TableColumn>& columns,
+                                          const std::string& chosen);
 
 }  // namespace qorvex::apps

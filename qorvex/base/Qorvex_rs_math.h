@@ -90,7 +90,9 @@ namespace qorvex::inline Qorvex_rs_math {
   X(rsInvalidClasses,                                                                          \
     "The classes need a finite lower bound, a finite width greater than zero and a number of " \
     "at least one")                                                                            \
-  X(rsOutsideClasses, "A value belongs to none of the classes")
+  X(rsOutsideClasses, "A value belongs to none of the classes")                                \
+  X(rsCovariance, "No variables can have these covariances")                                   \
+  X(rsCollinear, "Predictor %1 depends linearly on the intercept and the predictors before it")
 /// @endcond
 
 /// The identifier of a message.

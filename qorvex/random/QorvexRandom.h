@@ -16,6 +16,7 @@
 #include "qorvex/random/inverse_gaussian.h"
 #include "qorvex/random/log_normal.h"
 #include "qorvex/random/multivariate_normal.h"
+#include "qorvex/random/multivariate_normal_source.h"
 #include "qorvex/random/negative_binomial.h"
 #include "qorvex/random/normal.h"
 #include "qorvex/random/poisson.h"

@@ -6,4 +6,6 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/correlation.h"
+#include "qorvex/stats/covariance_matrix.h"
+#include "qorvex/stats/rank_correlation.h"
 #include "qorvex/stats/regression.h"

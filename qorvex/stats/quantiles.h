@@ -45,7 +45,7 @@ enum class QuantileType : std::uint8_t {
 /// @{
 /// The quantile of probability p: p = 0.25 is the first quartile.
 ///
-/// - A position less than 4 units in the last place from a whole number is that number. The product
+/// - A position within 4 units in the last place of a multiple of 1/2 is that multiple: the product
 ///   of 10 and 0.1L is a little more than 1, and the types 1 to 3 would give another element.
 /// - A position before the first element gives the first, one after the last gives the last.
 /// - Interpolated values are the nearest 80-bit numbers for the position, which is rounded. Between
@@ -53,7 +53,8 @@ enum class QuantileType : std::uint8_t {
 /// - n = 1: the element.
 /// - NaN sorts last and gives NaN where it takes part. Between -infinity and infinity the result is
 ///   NaN, between a finite element and an infinite one the infinity.
-/// - EMathError, in this order: rsVectorIsEmpty; rsValue01Inc unless 0 <= p <= 1.
+/// - EMathError, in this order: rsVectorIsEmpty; rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for
+///   a type outside 1 to 9.
 /// - For all numeric elements. O(1).
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended GetQuantile(VectorView<T> sorted, Extended p,

@@ -7,8 +7,8 @@
 /// - The moments are those of GetSampleSkew and its neighbours for T values at the midpoints of
 ///   their classes, where T is the total frequency. Each deviation is weighted by the frequency of
 ///   its class.
-/// - The figures depend neither on the lower bound of the table nor on its width, so they are no
-///   parameters.
+/// - The figures depend neither on the lower bound of the table nor on its width, so these are
+///   not asked for.
 /// - The moments are computed in integers and rounded once: the result is the nearest 80-bit
 ///   number.
 /// - Cost: O(n) for n classes.
@@ -22,8 +22,8 @@ namespace qorvex::inline QorvexStatistics {
 /// The skewness: D / (T std_dev^3) of the population, where D is the sum of frequency * (midpoint -
 /// mean)^3, and T D / ((T-1)(T-2) std_dev^3) of the sample.
 ///
-/// EMathError, in this order: rsVectorIsEmpty for no classes; rsVectorG2 if T < 3; rsSameValue if
-/// all values are in one class.
+/// EMathError, in this order: rsVectorIsEmpty for no classes; rsVectorG2 if T < 3; rsStdDev if all
+/// values are in one class.
 [[nodiscard]] QORVEX_EXPORT Extended WeightedGroupedSkew(VectorView<std::uint32_t> freq,
                                                          Estimate estimate = Estimate::kSample);
 
@@ -31,8 +31,8 @@ namespace qorvex::inline QorvexStatistics {
 /// (midpoint - mean)^4, and T (T+1) D / ((T-1)(T-2)(T-3) std_dev^4) - 3 (T-1)^2 / ((T-2)(T-3)) of
 /// the sample.
 ///
-/// EMathError, in this order: rsVectorIsEmpty for no classes; rsVectorG3 if T < 4; rsSameValue if
-/// all values are in one class.
+/// EMathError, in this order: rsVectorIsEmpty for no classes; rsVectorG3 if T < 4; rsStdDev if all
+/// values are in one class.
 [[nodiscard]] QORVEX_EXPORT Extended WeightedGroupedKurtosis(VectorView<std::uint32_t> freq,
                                                              Estimate estimate = Estimate::kSample);
 

@@ -7,15 +7,11 @@
 #include <QSpinBox>
 #include <QTimer>
 #include <QVBoxLayout>
-#include <algorithm>
-#include <cmath>
 #include <iterator>
 #include <limits>
-#include <optional>
 #include <utility>
 
-#include "apps/common/pair_fit.h"
-#include "apps/qorvex-gallery/model/texts.h"
+#include "apps/qorvex-gallery/model/regression_report.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
@@ -25,8 +21,6 @@
 namespace qorvex::gallery {
 
 namespace {
-
-using apps::PairFit;
 
 constexpr int kMostRows = 1'000'000;
 
@@ -38,52 +32,6 @@ constexpr std::pair<int, int> kExamplePairs[] = {
     {1953, 115094}, {1954, 116219}, {1955, 117388}, {1956, 118734}, {1957, 120445}, {1958, 121950},
     {1959, 123366}, {1960, 125368}, {1961, 127852}, {1962, 130081}};
 
-struct Pairs {
-  TQorFloatVector x, y;
-  std::size_t left_out;
-};
-
-Pairs CompletePairs(const TQorFloatVector& x, const TQorFloatVector& y) {
-  Pairs pairs{.x = {}, .y = {}, .left_out = 0};
-  for (std::size_t i = 0; i < x.size(); ++i) {
-    if (std::isnan(x[i]) || std::isnan(y[i])) {
-      ++pairs.left_out;
-    } else {
-      pairs.x.Append(x[i]);
-      pairs.y.Append(y[i]);
-    }
-  }
-  return pairs;
-}
-
-QString WhyNot(apps::PairFitFault fault, std::size_t degree) {
-  switch (fault) {
-    case apps::PairFitFault::kTooFewDifferentX:
-      return degree == 1 ? RegressionPage::tr("A line needs two different x.")
-                         : RegressionPage::tr("A parabola needs three different x.");
-    case apps::PairFitFault::kNearlyTwoPlaces:
-      return RegressionPage::tr("The x lie too close to only two places for a parabola.");
-    case apps::PairFitFault::kTooLarge:
-      break;
-  }
-  return RegressionPage::tr(
-      "The values are too large: their sums are beyond the range of extended precision.");
-}
-
-PlotLayer Curve(const PairFit& fit, const TQorFloatVector& x, PlotRole role, const QString& name) {
-  PlotLayer layer{PlotShape::kLine, role, name, {}};
-  const auto [low, high] = std::ranges::minmax(x);
-  const std::vector<Extended>& c = fit.coefficients;
-  const int steps = c.size() == 2 ? 1 : 200;
-  for (int i = 0; i <= steps; ++i) {
-    const Extended at = low + (high - low) * i / steps;
-    Extended y = 0;
-    for (std::size_t power = c.size(); power-- > 0;) y = y * at + c[power];
-    layer.points.emplace_back(static_cast<double>(at), static_cast<double>(y));
-  }
-  return layer;
-}
-
 }  // namespace
 
 RegressionPage::RegressionPage(QWidget* parent)
@@ -94,8 +42,12 @@ RegressionPage::RegressionPage(QWidget* parent)
       y_(new TQorVectorEdit),
       tall_x_(new TallEditor(x_)),
       tall_y_(new TallEditor(y_)),
-      plot_(new PlotView),
-      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
+      curves_(new PlotView),
+      residuals_(new PlotView),
+      coefficients_(
+          new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure,
+                           FigureTable::kFigure, FigureTable::kFigure, FigureTable::kFigure})),
+      quality_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure})),
       remark_(new QLabel) {
   setObjectName("regressionPage");
   auto* const body = new QHBoxLayout;
@@ -155,13 +107,22 @@ QLayout* RegressionPage::MakeEditors() {
 }
 
 QLayout* RegressionPage::MakeResults() {
-  plot_->setObjectName("scatter");
-  plot_->setAccessibleName(tr("Pairs with line and parabola"));
-  plot_->SetAxisTitles(tr("x"), tr("y"));
-  plot_->SetPlaceholder(tr("No pairs to show"));
-  figures_->setObjectName("figures");
+  curves_->setObjectName("scatter");
+  curves_->setAccessibleName(tr("Pairs with line and parabola"));
+  curves_->SetAxisTitles(tr("x"), tr("y"));
+  curves_->SetPlaceholder(tr("No pairs to show"));
+  residuals_->setObjectName("residuals");
+  residuals_->setAccessibleName(tr("Residuals"));
+  residuals_->SetAxisTitles(tr("x"), tr("Residual"));
+  residuals_->SetPlaceholder(tr("No residuals to show"));
+  coefficients_->setObjectName("coefficients");
+  quality_->setObjectName("quality");
+  auto* const plots = new QHBoxLayout;
+  plots->addWidget(curves_, 3);
+  plots->addWidget(residuals_, 2);
   auto* const head = new QHBoxLayout;
-  QLabel* const heading = MakeHeading(tr("Least-squares line and parabola"));
+  QLabel* const heading =
+      MakeHeading(tr("Least-squares line and parabola, with 95 % confidence bands"));
   // Level with the spin box beside it.
   heading->setMinimumHeight(rows_->sizeHint().height());
   head->addWidget(heading);
@@ -169,9 +130,11 @@ QLayout* RegressionPage::MakeResults() {
   head->addStretch(1);
   auto* const layout = new QVBoxLayout;
   layout->addLayout(head);
-  layout->addWidget(plot_, 1);
+  layout->addLayout(plots, 1);
   layout->addSpacing(fontMetrics().height() / 2);
-  layout->addWidget(figures_);
+  layout->addWidget(coefficients_);
+  layout->addSpacing(fontMetrics().height() / 2);
+  layout->addWidget(quality_);
   return layout;
 }
 
@@ -212,53 +175,19 @@ void RegressionPage::Refresh() {
   refresh_is_due_ = false;
   tall_x_->FitFormat(x_->Vector());
   tall_y_->FitFormat(y_->Vector());
-  const Pairs pairs = CompletePairs(x_->Vector(), y_->Vector());
-  remark_->setText(pairs.left_out == 0
-                       ? QString()
-                       : tr("without %1 incomplete pairs").arg(locale().toString(pairs.left_out)));
+  const RegressionReport report(x_->Vector(), y_->Vector());
+  remark_->setText(RemarkOn(report.LeftOut()));
+  message_->SetText(report.WhyNot());
+  curves_->SetLayers(report.Curves());
+  residuals_->SetLayers(report.Residuals());
+  coefficients_->SetRows(report.CoefficientRows());
+  quality_->SetRows(report.QualityRows());
+}
 
-  QString why_not;
-  const auto fit = [&](std::size_t degree) -> std::optional<PairFit> {
-    try {
-      return apps::FitPairs(pairs.x, pairs.y, degree);
-    } catch (const apps::PairFitError& error) {
-      if (why_not.isEmpty()) why_not = WhyNot(error.Fault(), degree);
-      return std::nullopt;
-    }
-  };
-  const std::optional<PairFit> line = fit(1);
-  const std::optional<PairFit> parabola = fit(2);
-  message_->SetText(why_not);
-
-  PlotLayer points{PlotShape::kPoints, PlotRole::kData, tr("Pairs"), {}};
-  for (std::size_t i = 0; i < pairs.x.size(); ++i)
-    points.points.emplace_back(static_cast<double>(pairs.x[i]), static_cast<double>(pairs.y[i]));
-  std::vector<PlotLayer> layers;
-  if (line) layers.push_back(Curve(*line, pairs.x, PlotRole::kModel, tr("Line")));
-  if (parabola) layers.push_back(Curve(*parabola, pairs.x, PlotRole::kSecondModel, tr("Parabola")));
-  layers.push_back(std::move(points));
-  plot_->SetLayers(std::move(layers));
-
-  const auto row = [&](const QString& label, auto figure) {
-    const auto text = [&](const std::optional<PairFit>& of) {
-      return ExactTextOrDash(of ? figure(*of) : std::optional<Extended>());
-    };
-    return QStringList{label, text(line), text(parabola)};
-  };
-  const auto coefficient = [](std::size_t power) {
-    return [power](const PairFit& of) -> std::optional<Extended> {
-      if (power >= of.coefficients.size()) return std::nullopt;
-      return of.coefficients[power];
-    };
-  };
-  figures_->SetRows(
-      {{QString(), tr("Line"), tr("Parabola")},
-       row(tr("Constant"), coefficient(0)),
-       row(tr("Coefficient of x"), coefficient(1)),
-       row(tr("Coefficient of x²"), coefficient(2)),
-       row(tr("Sum of squared errors"), [](const PairFit& of) { return std::optional(of.sse); }),
-       row(tr("Coefficient of determination"), [](const PairFit& of) { return of.determination; }),
-       {tr("Correlation of x and y"), ExactTextOrDash(line ? line->correlation : std::nullopt)}});
+QString RegressionPage::RemarkOn(std::size_t left_out) const {
+  if (left_out == 0) return {};
+  return left_out == 1 ? tr("without 1 incomplete pair")
+                       : tr("without %1 incomplete pairs").arg(locale().toString(left_out));
 }
 
 }  // namespace qorvex::gallery

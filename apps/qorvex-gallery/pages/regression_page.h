@@ -17,9 +17,10 @@ class MessageBar;
 class PlotView;
 class TallEditor;
 
-/// Two editors, for x and y, that scroll together; a diagram of the pairs with their least-squares
-/// line and parabola; and the coefficients of both with all digits. Every edit updates all of
-/// these. Incomplete pairs are left out. The page starts with an example.
+/// Two editors, for x and y, that scroll together; diagrams of the pairs with their least-squares
+/// line and parabola, and of the residuals; and the coefficients of both with their standard errors
+/// and intervals. Every edit updates all of these. Incomplete pairs are left out. The page starts
+/// with an example.
 class RegressionPage : public QWidget {
   Q_OBJECT
 
@@ -37,6 +38,7 @@ class RegressionPage : public QWidget {
   void SetRows(int rows);
   void RefreshSoon();
   void Refresh();
+  [[nodiscard]] QString RemarkOn(std::size_t left_out) const;
 
   bool refresh_is_due_ = false;
 
@@ -46,8 +48,10 @@ class RegressionPage : public QWidget {
   TQorVectorEdit* y_;
   TallEditor* tall_x_;
   TallEditor* tall_y_;
-  PlotView* plot_;
-  FigureTable* figures_;
+  PlotView* curves_;
+  PlotView* residuals_;
+  FigureTable* coefficients_;
+  FigureTable* quality_;
   QLabel* remark_;
 };
 

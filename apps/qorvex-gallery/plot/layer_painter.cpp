@@ -34,6 +34,9 @@ void LayerPainter::Draw(const PlotLayer& layer, const QRectF& area) {
     case PlotShape::kStems:
       DrawStems(layer);
       break;
+    case PlotShape::kBand:
+      DrawBand(layer);
+      break;
   }
 }
 
@@ -56,6 +59,15 @@ void LayerPainter::DrawArea(const PlotLayer& layer) {
     run.append(QPointF(run.front().x(), zero));
     painter_.drawPolygon(run);
   }
+  painter_.setBrush(Qt::NoBrush);
+}
+
+void LayerPainter::DrawBand(const PlotLayer& layer) {
+  painter_.setPen(Qt::NoPen);
+  QColor color = RoleColor(layer.role, palette_);
+  color.setAlpha(50);
+  painter_.setBrush(color);
+  for (const QPolygonF& run : Runs(layer)) painter_.drawPolygon(run);
   painter_.setBrush(Qt::NoBrush);
 }
 
@@ -106,6 +118,7 @@ void LayerPainter::DrawSample(const PlotLayer& layer, const QRectF& box) {
                         QPointF(box.right(), box.center().y()));
       break;
     case PlotShape::kArea:
+    case PlotShape::kBand:
     case PlotShape::kBars: {
       const double side = 0.7 * box.height();
       painter_.setPen(QPen(color, 1));

@@ -31,6 +31,7 @@ class LayerPainter {
   void DrawDot(const QPointF& at, PlotRole role, double radius);
   void DrawStems(const PlotLayer& layer);
   void DrawArea(const PlotLayer& layer);
+  void DrawBand(const PlotLayer& layer);
   void DrawBars(const PlotLayer& layer);
 
   QPainter& painter_;

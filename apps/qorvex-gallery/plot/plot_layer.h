@@ -22,7 +22,8 @@ enum class PlotShape {
   kArea,    ///< The area between this line and zero.
   kBars,    ///< Bars from zero. Each point is the upper right corner of a bar, except the first,
             ///< which gives the left edge of the first bar.
-  kStems    ///< A vertical line from zero to each point, with a dot.
+  kStems,   ///< A vertical line from zero to each point, with a dot.
+  kBand     ///< The area that the points enclose, faint.
 };
 
 /// One set of points.

@@ -21,9 +21,11 @@ QString ShapeName(PlotShape shape) {
     case PlotShape::kBars:
       return PlotView::tr("bars");
     case PlotShape::kStems:
+      return PlotView::tr("stems");
+    case PlotShape::kBand:
       break;
   }
-  return PlotView::tr("stems");
+  return PlotView::tr("band");
 }
 
 QString Description(const std::vector<PlotLayer>& layers, const QString& x_title,

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "qorvex/base/exact/dyadic.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/exact/exact_sum.h"
@@ -15,44 +16,43 @@ namespace qorvex {
 /// The exact sums over pairs of x and y, and the means, variances, covariance, correlation and
 /// least-squares line that they determine.
 ///
-/// - Every figure is the nearest 80-bit number to its exact value, infinite beyond the format.
-///   Digits that all values have in common cost nothing.
-/// - Pairs can be added in any order, to several objects that are merged, and removed again. Equal
-///   pairs give equal bits.
-/// - NaN and infinities: the means are those of IEEE 754 arithmetic, all other figures that depend
-///   on the variable are NaN.
-/// - Figures raise EMathError if there are too few pairs: rsVectorIsEmpty for none, rsVectorG1 for
-///   one pair in sample figures. Removing a pair that was not added gives meaningless figures.
-/// - Objects may be used on different threads at the same time; one object must not be changed
-///   while another thread uses it.
+/// - Every figure is the extended number nearest to its exact value, ties to even; infinite beyond
+///   the format. Digits that all values have in common cost nothing.
+/// - The order of the pairs, and how they are split over several objects that are merged, makes no
+///   difference to any bit. An object belongs to one thread at a time: several threads fill one
+///   each, and the objects are merged.
+/// - NaN and infinities: the means are those of IEEE 754 arithmetic, other figures that depend on
+///   the variable are NaN.
+/// - EMathError if there are too few pairs: rsVectorIsEmpty for none, rsVectorG1 for one pair in
+///   sample figures.
+/// - Cost: O(1) for a pair, some microseconds for a figure.
 class QORVEX_EXPORT ExactPairs {
  public:
   /// Adds a pair.
   void Add(Extended x, Extended y);
-  /// Adds the pairs (x[i], y[i]). EMathError rsSameDimensions for different lengths; then nothing
-  /// is added.
-  void Add(VectorView<Extended> x, VectorView<Extended> y);
-  /// Removes a pair that was added before. EMathError rsVectorIsEmpty if there is none.
-  void Remove(Extended x, Extended y);
-  /// Removes the pairs (x[i], y[i]). EMathError, in this order: rsSameDimensions for different
-  /// lengths; rsVectorTooSmall if there are fewer pairs. Then nothing is removed.
-  void Remove(VectorView<Extended> x, VectorView<Extended> y);
-  /// Adds the pairs of another object.
-  void Merge(const ExactPairs& other);
-
   /// @{
-  /// The same for ranges of any numeric elements, which are converted to extended precision.
+  /// Adds the pairs (x[i], y[i]). EMathError rsSameDimensions for different lengths; then nothing
+  /// is added. For all numeric elements; those that are not Extended are converted to a temporary
+  /// vector.
+  void Add(VectorView<Extended> x, VectorView<Extended> y);
   template <ContiguousRange X, ContiguousRange Y>
   requires NumericElement<ElementOf<X>> && NumericElement<ElementOf<Y>>
   void Add(const X& x, const Y& y) {
     Add(VectorView<Extended>(AsExtended(x)), VectorView<Extended>(AsExtended(y)));
   }
-  template <ContiguousRange X, ContiguousRange Y>
-  requires NumericElement<ElementOf<X>> && NumericElement<ElementOf<Y>>
-  void Remove(const X& x, const Y& y) {
-    Remove(VectorView<Extended>(AsExtended(x)), VectorView<Extended>(AsExtended(y)));
-  }
   /// @}
+  /// Adds the pairs of another object.
+  void Merge(const ExactPairs& other);
+  /// Takes back the pairs of another object. They must have been added before, which is not checked
+  /// beyond their number: EMathError rsInvalidValue if there are fewer pairs.
+  void Remove(const ExactPairs& other);
+  /// Takes back what an Add has added.
+  template <class X, class Y>
+  void Remove(const X& x, const Y& y) {
+    ExactPairs part;
+    part.Add(x, y);
+    Remove(part);
+  }
 
   /// The number of pairs.
   [[nodiscard]] std::uint64_t Count() const noexcept { return count_; }
@@ -70,7 +70,7 @@ class QORVEX_EXPORT ExactPairs {
   [[nodiscard]] Extended PopulationVarianceY() const;
   /// @}
   /// @{
-  /// The square root of the variance.
+  /// The square root of the variance, rounded once.
   [[nodiscard]] Extended SampleStdDevX() const;
   [[nodiscard]] Extended SampleStdDevY() const;
   [[nodiscard]] Extended PopulationStdDevX() const;
@@ -98,10 +98,17 @@ class QORVEX_EXPORT ExactPairs {
   /// line.
   [[nodiscard]] Extended SumOfSquaredErrors() const;
 
-  /// Equal counts and sums: the objects hold the same pairs, or pairs with the same figures.
+  /// Equal counts and equal sums.
   [[nodiscard]] friend bool operator==(const ExactPairs&, const ExactPairs&) = default;
 
  private:
+  // n times the sums of products of deviations from the means.
+  struct Deviations {
+    exact::Dyadic xx, xy, yy;
+  };
+  [[nodiscard]] Deviations ScaledDeviations() const;
+  [[nodiscard]] bool IsFinite() const { return x_.IsFinite() && y_.IsFinite(); }
+
   std::uint64_t count_ = 0;
   ExactSum x_, y_;
   ExactSum xx_, xy_, yy_;

@@ -13,8 +13,8 @@
 
 #include "qorvex/base/export.h"
 #include "qorvex/stats/distributions/distribution.h"
+#include "qorvex/stats/exact/extended_view.h"
 #include "qorvex/stats/inference/test_result.h"
-#include "qorvex/stats/inference/values_of.h"
 
 namespace qorvex {
 
@@ -53,8 +53,7 @@ template <ContiguousRange Range, ContinuousDistribution D>
 requires NumericElement<ElementOf<Range>>
 [[nodiscard]] TestResult KolmogorovSmirnovTest(const Range& values, const D& distribution,
                                                Alternative alternative = Alternative::kTwoSided) {
-  return KolmogorovSmirnovTest(VectorView<Extended>(inference::ValuesOf(values)), distribution,
-                               alternative);
+  return KolmogorovSmirnovTest(VectorView<Extended>(AsExtended(values)), distribution, alternative);
 }
 /// @}
 
@@ -75,8 +74,8 @@ template <ContiguousRange First, ContiguousRange Second>
 requires NumericElement<ElementOf<First>> && NumericElement<ElementOf<Second>>
 [[nodiscard]] TestResult KolmogorovSmirnovTest(const First& first, const Second& second,
                                                Alternative alternative = Alternative::kTwoSided) {
-  return KolmogorovSmirnovTest(VectorView<Extended>(inference::ValuesOf(first)),
-                               VectorView<Extended>(inference::ValuesOf(second)), alternative);
+  return KolmogorovSmirnovTest(VectorView<Extended>(AsExtended(first)),
+                               VectorView<Extended>(AsExtended(second)), alternative);
 }
 /// @}
 

@@ -17,8 +17,8 @@
 ///   "On a test of whether one of two random variables is stochastically larger than the other".
 
 #include "qorvex/base/export.h"
+#include "qorvex/stats/exact/extended_view.h"
 #include "qorvex/stats/inference/test_result.h"
-#include "qorvex/stats/inference/values_of.h"
 
 namespace qorvex {
 
@@ -37,8 +37,8 @@ requires NumericElement<ElementOf<First>> && NumericElement<ElementOf<Second>>
 [[nodiscard]] TestResult MannWhitneyTest(const First& first, const Second& second,
                                          Extended shift = 0,
                                          Alternative alternative = Alternative::kTwoSided) {
-  return MannWhitneyTest(VectorView<Extended>(inference::ValuesOf(first)),
-                         VectorView<Extended>(inference::ValuesOf(second)), shift, alternative);
+  return MannWhitneyTest(VectorView<Extended>(AsExtended(first)),
+                         VectorView<Extended>(AsExtended(second)), shift, alternative);
 }
 /// @}
 
@@ -55,8 +55,7 @@ template <ContiguousRange Range>
 requires NumericElement<ElementOf<Range>>
 [[nodiscard]] TestResult WilcoxonSignedRankTest(const Range& values, Extended centre = 0,
                                                 Alternative alternative = Alternative::kTwoSided) {
-  return WilcoxonSignedRankTest(VectorView<Extended>(inference::ValuesOf(values)), centre,
-                                alternative);
+  return WilcoxonSignedRankTest(VectorView<Extended>(AsExtended(values)), centre, alternative);
 }
 /// @}
 
@@ -71,8 +70,8 @@ template <ContiguousRange X, ContiguousRange Y>
 requires NumericElement<ElementOf<X>> && NumericElement<ElementOf<Y>>
 [[nodiscard]] TestResult WilcoxonSignedRankTest(const X& x, const Y& y, Extended centre = 0,
                                                 Alternative alternative = Alternative::kTwoSided) {
-  return WilcoxonSignedRankTest(VectorView<Extended>(inference::ValuesOf(x)),
-                                VectorView<Extended>(inference::ValuesOf(y)), centre, alternative);
+  return WilcoxonSignedRankTest(VectorView<Extended>(AsExtended(x)),
+                                VectorView<Extended>(AsExtended(y)), centre, alternative);
 }
 /// @}
 

@@ -3,20 +3,18 @@
 /// @file
 /// The samples that tests and intervals take, from the ranges that callers have.
 
-#include "qorvex/base/vector_types.h"
+#include "qorvex/stats/exact/exact_sample.h"
 
-namespace qorvex {
-
-template <int kPowerSums>
-class ExactSample;
-
-}  // namespace qorvex
-
+/// @cond internal
 namespace qorvex::inference {
 
-/// The exact sums of the values. Amounts count as scaled integers.
+// The exact sums of the values. Amounts count as the decimal numbers that they stand for.
 template <ContiguousRange Range>
-requires AnyElement<ElementOf<Range>>
-[[nodiscard]] ExactSample<2> SampleOf(const Range& values);
+[[nodiscard]] ExactSample<2> SampleOf(const Range& values) {
+  ExactSample<2> sample;
+  sample.Add(values);
+  return sample;
+}
 
 }  // namespace qorvex::inference
+/// @endcond

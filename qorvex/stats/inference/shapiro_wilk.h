@@ -4,8 +4,8 @@
 /// The test of normality of Shapiro and Wilk.
 
 #include "qorvex/base/export.h"
+#include "qorvex/stats/exact/extended_view.h"
 #include "qorvex/stats/inference/test_result.h"
-#include "qorvex/stats/inference/values_of.h"
 
 namespace qorvex {
 
@@ -25,7 +25,7 @@ namespace qorvex {
 template <ContiguousRange Range>
 requires NumericElement<ElementOf<Range>>
 [[nodiscard]] TestResult ShapiroWilkTest(const Range& values) {
-  return ShapiroWilkTest(VectorView<Extended>(inference::ValuesOf(values)));
+  return ShapiroWilkTest(VectorView<Extended>(AsExtended(values)));
 }
 /// @}
 

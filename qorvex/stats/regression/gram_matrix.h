@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
 #include "qorvex/base/exact/dyadic.h"
@@ -80,9 +79,10 @@ class QORVEX_EXPORT GramMatrix {
                              const ColumnView* weights) const;
   // The sums of a polynomial depend on i + j only, so there are fewer.
   [[nodiscard]] std::size_t Slot(std::size_t i, std::size_t j) const;
-  [[nodiscard]] std::size_t SlotCount() const;
-  // Brings the sums to at least these decimals.
-  void Rescale(std::span<const int> decimals);
+  // Adds the sums, or subtracts them.
+  void Combine(Batch batch, bool subtract);
+  // Changes the decimals to these, which are not fewer.
+  void Rescale(const std::vector<int>& decimals);
 
   ModelForm form_;
   std::size_t rows_ = 0;

@@ -68,6 +68,9 @@ class QORVEX_EXPORT LinearModel {
   /// The number of rows whose weight is not 0.
   [[nodiscard]] std::size_t Count() const { return gram_.Rows(); }
 
+  /// The sums that the fit is computed from.
+  [[nodiscard]] const GramMatrix& Gram() const { return gram_; }
+
   /// The least-squares fit.
   ///
   /// - Errors, in this order: EMathError rsVectorTooSmall for fewer rows than coefficients;

@@ -1,0 +1,99 @@
+#include "apps/qorvex/fit_arguments.h"
+
+#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/parameters.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+constexpr Extended kMostDegrees = 30;
+
+void AddDegree(CLI::App& command, std::size_t& degree) {
+  command
+      .add_option_function<std::string>(
+          "--degree",
+          [&degree](const std::string& text) {
+            const Extended value = ParseNumber("--degree", text, NumberKind::kCount);
+            if (value < 1 || value > kMostDegrees) {
+              throw CLI::ValidationError("--degree", text + " is not from 1 to 30");
+            }
+            degree = static_cast<std::size_t>(value);
+          },
+          "The degree of the polynomial")
+      ->type_name("N")
+      ->required();
+}
+
+void AddColumns(CLI::App& command, const FitCurve& curve, FitArguments& arguments) {
+  CLI::Option& x =
+      *command
+           .add_option("--x", arguments.x,
+                       std::string("The column of x, by name or by number from 1;\n"
+                                   "a name takes precedence") +
+                           (curve.has_several_predictors ? ". Repeat it for more columns" : ""))
+           ->type_name("NAME|N")
+           ->required()
+           ->allow_extra_args(false);
+  if (!curve.has_several_predictors) x.expected(1);
+  command.add_option("--y", arguments.y, "The column of y")->type_name("NAME|N")->required();
+  command
+      .add_option("--weights", arguments.weights,
+                  "A column of weights: a row counts as often as its weight says, and rows\n"
+                  "of weight 0 do not count")
+      ->type_name("NAME|N");
+}
+
+void AddResults(CLI::App& command, FitArguments& arguments) {
+  AddNumber(command, "--confidence", "The level of the intervals. Default: 0.95",
+            NumberKind::kProbability, [&](Extended level) { arguments.confidence = level; });
+  const bool several = arguments.curve->has_several_predictors;
+  command
+      .add_option_function<std::vector<std::string>>(
+          "--predict",
+          [&](const std::vector<std::string>& texts) {
+            for (const std::string& text : texts)
+              arguments.places.push_back(ParseNumbers("--predict", text, NumberKind::kReals));
+          },
+          several ? "The fitted value where the predictors have these values, and its intervals.\n"
+                    "Repeat it for more"
+                  : "The fitted value at x and its intervals. Repeat it for more")
+      ->type_name(several ? "X,X,..." : "X")
+      ->allow_extra_args(false);
+  command
+      .add_option("--residuals", arguments.residual_file,
+                  "A file to write: a line row,fitted,residual,leverage for each row")
+      ->type_name("FILE");
+}
+
+}  // namespace
+
+void FitArguments::AddTo(CLI::App& command) {
+  table.selection.whole_rows = true;
+  degree = curve->degree;
+  AddColumns(command, *curve, *this);
+  if (curve->IsPolynomial() && degree == 0) AddDegree(command, degree);
+  command.add_flag("--no-intercept", no_intercept, "Leave the constant out");
+  AddResults(command, *this);
+  table.AddFileTo(command,
+                  "Skip rows with an empty cell in a column of the fit and report how many,\n"
+                  "instead of refusing them");
+  AddDecimals(command, decimals,
+              "Decimals of the report. Default: the shortest text that keeps all 80 bits");
+  if (curve->has_classic_routine) {
+    CLI::Option* const option = command.add_flag(
+        "--classic", classic,
+        "Compute with the classic routines, which round at each step: the figures\n"
+        "depend on the order of the rows, and lose the digits that all x have in\n"
+        "common. No standard errors, tests or intervals");
+    for (const char* const other :
+         {"--weights", "--no-intercept", "--confidence", "--predict", "--residuals"}) {
+      option->excludes(command.get_option(other));
+    }
+  }
+  command.add_flag("--json", json,
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
+}
+
+}  // namespace qorvex::apps

@@ -1,0 +1,121 @@
+#include "apps/qorvex/fit_classic.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "apps/common/text_input.h"
+#include "apps/qorvex/fit_output.h"
+#include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/parameters.h"
+#include "apps/qorvex/text_output.h"
+#include "qorvex/base/text.h"
+#include "qorvex/stats/QorvexPairStats.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
+#include "qorvex/stats/dispersion.h"
+#include "qorvex/stats/location.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+struct Figure {
+  const char* key;
+  std::string label;
+  Extended value;
+};
+
+struct ClassicFit {
+  std::vector<Figure> columns;
+  TQorFloatVector coefficients;
+  std::vector<Figure> quality;
+};
+
+// Added in the order of the rows, as GetSSE does for a line.
+Extended SumOfSquaredErrors(const TQorFloatVector& x, const TQorFloatVector& y,
+                            const TQorFloatVector& c) {
+  if (c.size() == 2) return GetSSE(x, y, c[0], c[1]);
+  Extended sum = 0;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    const Extended residual = (c[2] * x[i] + c[1]) * x[i] + c[0] - y[i];
+    sum += residual * residual;
+  }
+  return sum;
+}
+
+ClassicFit FitOf(const TQorFloatVector& x, const TQorFloatVector& y, std::size_t degree) {
+  ClassicFit fit;
+  fit.columns = {{"mean_x", ReportText(rsDSMeanX), QorMean(x)},
+                 {"mean_y", ReportText(rsDSMeanY), QorMean(y)},
+                 {"standard_deviation_x", ReportText(rsDSStdDevX), SampleStdDev(x)},
+                 {"standard_deviation_y", ReportText(rsDSStdDevY), SampleStdDev(y)}};
+  Extended c[3];
+  if (degree == 1) {
+    GetRegressionLine(x, y, c[0], c[1]);
+  } else {
+    GetQuadraticCurve(x, y, c[0], c[1], c[2]);
+  }
+  fit.coefficients = TQorFloatVector(std::span(c, degree + 1));
+  const Extended sse = SumOfSquaredErrors(x, y, fit.coefficients);
+  const Extended determination =
+      degree == 1 ? CoeffDetermination(x, y)
+                  : 1 - sse / (PopulationVariance(y) * static_cast<Extended>(y.size()));
+  fit.quality = {{"sum_of_squared_errors", ReportText(rsDSSSE), sse},
+                 {"correlation", ReportText(rsDSCoeffCor), CoeffCorrelation(x, y)},
+                 {"determination", ReportText(rsDSCoeffDet), determination}};
+  return fit;
+}
+
+}  // namespace
+
+std::string ClassicOutput(const FitColumns& columns, const FitArguments& arguments) {
+  ClassicFit fit;
+  try {
+    fit = FitOf(columns.x[0].numbers.Values(), columns.y.numbers.Values(), arguments.degree);
+    for (const std::vector<Figure>& figures : {fit.columns, fit.quality})
+      for (const Figure& figure : figures)
+        if (!std::isfinite(figure.value)) throw EOverflow();
+  } catch (const EMathError& error) {
+    throw Refusal(InputName(arguments.table.file), error,
+                  "; without --classic there is no such limit");
+  }
+  if (arguments.json) {
+    JsonWriter json;
+    json.BeginObject();
+    json.Key("file");
+    json.String(arguments.table.file);
+    json.Key("classic");
+    json.Bool(true);
+    json.Key("count");
+    json.Integer(columns.y.numbers.size());
+    const auto add = [&json](const std::vector<Figure>& figures) {
+      for (const Figure& figure : figures) {
+        json.Key(figure.key);
+        json.Number(figure.value);
+      }
+    };
+    add(fit.columns);
+    json.Key("coefficients");
+    json.BeginArray();
+    for (const Extended coefficient : fit.coefficients) json.Number(coefficient);
+    json.EndArray();
+    add(fit.quality);
+    json.EndObject();
+    return json.TakeText();
+  }
+  std::string text;
+  const auto line = [&text](const std::string& label, const std::string& figure) {
+    text += label + '\t' + figure + '\n';
+  };
+  const auto add = [&](const std::vector<Figure>& figures) {
+    for (const Figure& figure : figures)
+      line(figure.label, FigureText(figure.value, arguments.decimals));
+  };
+  line(ReportText(rsDSNoOfValues), Int2EStr(columns.y.numbers.size()));
+  add(fit.columns);
+  line(arguments.degree == 1 ? ReportText(rsDSRegressionLine) : arguments.curve->label,
+       Formula({"Constant", "x", "x^2"}, fit.coefficients, arguments.decimals));
+  add(fit.quality);
+  return text;
+}
+
+}  // namespace qorvex::apps

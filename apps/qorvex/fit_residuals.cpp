@@ -1,0 +1,56 @@
+#include <cerrno>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+#include <system_error>
+
+#include "apps/common/column_view.h"
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
+#include "apps/qorvex/fit_model.h"
+#include "apps/qorvex/text_output.h"
+#include "qorvex/base/text.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+std::string ResidualTable(const FitColumns& columns, const LinearFit& fit,
+                          std::optional<int> decimals) {
+  const Columns predictors = columns.Predictors();
+  const TQorFloatVector fitted = fit.FittedValues(predictors);
+  const TQorFloatVector residuals = fit.Residuals(predictors, ViewOf(columns.y.numbers));
+  const TQorFloatVector leverages =
+      columns.weights ? fit.Leverages(predictors, ViewOf(columns.weights->numbers))
+                      : fit.Leverages(predictors);
+  std::string table = "row,fitted,residual,leverage\n";
+  for (std::size_t i = 0; i < fitted.size(); ++i) {
+    table += Int2EStr(i + 1) + ',';
+    AppendLine(table, std::initializer_list<Extended>{fitted[i], residuals[i], leverages[i]},
+               decimals);
+  }
+  return table;
+}
+
+}  // namespace
+
+void WriteResiduals(const FitColumns& columns, const LinearFit& fit,
+                    const FitArguments& arguments) {
+  const std::string& name = arguments.residual_file;
+  std::error_code error;
+  if (std::filesystem::equivalent(arguments.table.file, name, error)) {
+    throw InputError(InputFault::kUnreadable, InputName(name),
+                     "--residuals would replace the table");
+  }
+  const std::string table = ResidualTable(columns, fit, arguments.decimals);
+  const auto require = [&name](bool done) {
+    if (!done) throw std::system_error(errno, std::generic_category(), name);
+  };
+  const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(name.c_str(), "wb"),
+                                                             std::fclose);
+  require(file != nullptr);
+  require(std::fwrite(table.data(), 1, table.size(), file.get()) == table.size());
+  require(std::fflush(file.get()) == 0);
+}
+
+}  // namespace qorvex::apps

@@ -1,0 +1,106 @@
+#include <cmath>
+
+#include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/test_arguments.h"
+#include "apps/qorvex/test_report.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+const char* NameOf(TestForm form) {
+  switch (form) {
+    case TestForm::kExact:
+      return "exact";
+    case TestForm::kWelch:
+      return "welch";
+    case TestForm::kNormalApproximation:
+      return "normal approximation";
+    case TestForm::kChiSquareApproximation:
+      return "chi-square approximation";
+    case TestForm::kLimit:
+      break;
+  }
+  return "limit";
+}
+
+void Write(JsonWriter& json, const char* key, const std::string& text) {
+  json.Key(key);
+  json.String(text);
+}
+
+void Write(JsonWriter& json, const char* key, Extended figure) {
+  json.Key(key);
+  json.Number(figure);
+}
+
+void Write(JsonWriter& json, const std::vector<TestFigure>& figures) {
+  for (const TestFigure& figure : figures) Write(json, figure.key, figure.value);
+}
+
+void Write(JsonWriter& json, const TestSample& sample) {
+  json.BeginObject();
+  if (sample.column != 0) {
+    json.Key("column");
+    json.Integer(sample.column);
+    json.Key("name");
+    json.StringOrNull(sample.name);
+    json.Key("group");
+    json.StringOrNull(sample.group);
+  }
+  Write(json, sample.figures);
+  json.EndObject();
+}
+
+void Write(JsonWriter& json, const TestReport& report, Extended significance) {
+  const TestResult& result = report.result;
+  json.BeginObject();
+  json.Key("samples");
+  json.BeginArray();
+  for (const TestSample& sample : report.samples) Write(json, sample);
+  json.EndArray();
+  Write(json, report.figures);
+  Write(json, "null_hypothesis", report.null_hypothesis);
+  Write(json, "alternate_hypothesis", report.alternate_hypothesis);
+  Write(json, "statistic", result.statistic);
+  Write(json, "degrees_of_freedom", result.degrees_of_freedom);
+  Write(json, "second_degrees_of_freedom", result.second_degrees_of_freedom);
+  Write(json, "form", NameOf(result.form));
+  Write(json, "p", result.p);
+  Write(json, "log_p", result.log_p);
+  json.Key("rejected");
+  if (std::isnan(result.p)) {
+    json.Null();
+  } else {
+    json.Bool(result.p <= significance);
+  }
+  for (const TestInterval& interval : report.intervals) {
+    json.Key(interval.key);
+    json.BeginArray();
+    json.Number(interval.ends.least);
+    json.Number(interval.ends.greatest);
+    json.EndArray();
+  }
+  json.EndObject();
+}
+
+}  // namespace
+
+std::string JsonOf(const std::vector<TestReport>& reports, const std::string& name,
+                   const TestArguments& arguments) {
+  JsonWriter json;
+  json.BeginObject();
+  Write(json, "test", name);
+  json.Key("file");
+  json.StringOrNull(arguments.table.file);
+  Write(json, "confidence", arguments.confidence.value);
+  Write(json, "significance", arguments.Significance());
+  json.Key("results");
+  json.BeginArray();
+  for (const TestReport& report : reports) Write(json, report, arguments.Significance());
+  json.EndArray();
+  json.EndObject();
+  return json.TakeText();
+}
+
+}  // namespace qorvex::apps

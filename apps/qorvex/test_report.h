@@ -1,0 +1,73 @@
+#pragma once
+
+/// @file
+/// Reports on tests of hypotheses.
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "qorvex/stats/distributions/distribution.h"
+#include "qorvex/stats/inference/test_result.h"
+
+namespace qorvex::apps {
+
+struct TestArguments;
+
+/// A figure with its key in JSON.
+struct TestFigure {
+  const char* key;
+  std::string label;
+  Extended value;
+  bool is_count = false;
+};
+
+/// An interval with its key in JSON.
+struct TestInterval {
+  const char* key;
+  std::string label;
+  Interval<Extended> ends;
+};
+
+/// A sample of a test.
+struct TestSample {
+  /// From 1; 0 if it is no column.
+  std::size_t column = 0;
+  std::string name = {};
+  /// The label of the group; empty if it is the whole column.
+  std::string group = {};
+  std::vector<TestFigure> figures = {};
+};
+
+/// The distribution of a statistic if the null hypothesis holds.
+enum class StatisticLaw : std::uint8_t { kStudentT, kChiSquare, kF, kOther };
+
+/// A test and its result.
+struct TestReport {
+  std::string title;
+  std::vector<TestSample> samples = {};
+  std::vector<TestFigure> figures = {};
+  std::string null_hypothesis = {};
+  std::string alternate_hypothesis = {};
+  /// On which sides of its distribution the statistic speaks against the null hypothesis.
+  Alternative alternative = Alternative::kGreater;
+  /// The symbol of the statistic, and its distribution if that has known quantiles.
+  const char* symbol = "";
+  StatisticLaw law = StatisticLaw::kOther;
+  TestResult result = {};
+  std::vector<TestInterval> intervals = {};
+
+  /// States that the subject has the value, or differs from it in the direction of the alternative.
+  void SetHypotheses(const std::string& subject, const std::string& value);
+};
+
+/// The reports, separated by blank lines.
+[[nodiscard]] std::string TextOf(const std::vector<TestReport>& reports,
+                                 const TestArguments& arguments);
+
+/// One JSON document. The name is that of the command.
+[[nodiscard]] std::string JsonOf(const std::vector<TestReport>& reports, const std::string& name,
+                                 const TestArguments& arguments);
+
+}  // namespace qorvex::apps

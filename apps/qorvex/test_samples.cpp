@@ -1,0 +1,167 @@
+#include "apps/qorvex/test_samples.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "apps/common/cells.h"
+#include "apps/common/column_differences.h"
+#include "apps/common/text_input.h"
+#include "apps/qorvex/parameters.h"
+#include "qorvex/base/text.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
+#include "qorvex/stats/order_statistics.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/sorting.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+[[noreturn]] void Refuse(const TestArguments& arguments, const std::string& what) {
+  throw InputError(InputFault::kNoSuchColumn, InputName(arguments.table.file), what);
+}
+
+NumberSample SampleOf(TableColumn column) {
+  return {std::move(column.numbers), {.column = column.number, .name = column.name}};
+}
+
+// The groups are in the order in which their labels appear.
+std::vector<NumberSample> Split(const TableColumn& column, const TableColumn& labels) {
+  std::vector<NumberSample> groups;
+  std::vector<Extended> found;
+  const TQorFloatVector label_of = labels.numbers.Values();
+  const TQorFloatVector values = column.numbers.Values();
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const auto at = std::ranges::find(found, label_of[i]);
+    const auto index = static_cast<std::size_t>(at - found.begin());
+    if (at == found.end()) {
+      found.push_back(label_of[i]);
+      const std::string label = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
+      groups.push_back({{},
+                        {.column = column.number,
+                         .name = column.name,
+                         .group = label + " = " + Float2Str(label_of[i])}});
+    }
+    ColumnNumbers& numbers = groups[index].numbers;
+    const bool is_kept =
+        column.numbers.AreDecimal() &&
+        numbers.TryAppend({column.numbers.Integers()[i], -std::int64_t{column.numbers.Decimals()}});
+    if (!is_kept) numbers.Append(values[i]);
+  }
+  return groups;
+}
+
+std::vector<NumberSample> SplitSamples(const TestArguments& arguments) {
+  TableArguments table = arguments.table;
+  if (table.selection.columns.size() != 1)
+    throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
+  const std::string chosen = table.selection.columns[0];
+  table.selection.columns.push_back(*arguments.by);
+  table.selection.whole_rows = true;
+  const std::vector<TableColumn> columns = table.Read();
+  if (columns.size() == 1) Refuse(arguments, "values and labels are both " + columns[0].Title());
+  return Split(ColumnOf(columns, chosen), ColumnOf(columns, *arguments.by));
+}
+
+TestFigure CountOf(const NumberSample& sample) {
+  return {"count", ReportText(rsDSNoOfValues), static_cast<Extended>(sample.numbers.size()), true};
+}
+
+const char* WhyNot(MessageId id) {
+  switch (id) {
+    case rsVectorG1:
+      return "the test needs at least two values";
+    case rsVectorG2:
+      return "the test needs at least three values";
+    case rsSameValue:
+      return "the values must not all be the same";
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace
+
+std::string NumberSample::Place(const std::string& file) const {
+  return InputName(file) + ": " + ColumnTitle(origin.column, origin.name);
+}
+
+std::vector<NumberSample> ReadSamples(const TestArguments& arguments) {
+  if (arguments.by) return SplitSamples(arguments);
+  std::vector<NumberSample> samples;
+  for (TableColumn& column : arguments.table.Read()) samples.push_back(SampleOf(std::move(column)));
+  return samples;
+}
+
+std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments) {
+  std::vector<NumberSample> samples = ReadSamples(arguments);
+  if (samples.size() != 2) {
+    Refuse(arguments,
+           arguments.by
+               ? "the test compares two groups, and the labels make " + Int2EStr(samples.size())
+               : "the test compares two columns, and there " +
+                     std::string(samples.size() == 1 ? "is " : "are ") + Int2EStr(samples.size()));
+  }
+  return samples;
+}
+
+std::vector<NumberSample> ReadPairs(const TestArguments& arguments) {
+  std::vector<TableColumn> columns = arguments.table.Read();
+  if (columns.size() == 1) Refuse(arguments, "x and y are both " + columns[0].Title());
+  return {SampleOf(std::move(columns[0])), SampleOf(std::move(columns[1]))};
+}
+
+ExactSample<2> SumsOf(const ColumnNumbers& numbers) {
+  ExactSample<2> sums;
+  if (numbers.AreDecimal()) {
+    sums.AddScaled(numbers.Integers(), numbers.Decimals());
+  } else {
+    sums.Add(numbers.Values());
+  }
+  return sums;
+}
+
+TestSample WithMoments(const NumberSample& sample) {
+  const ExactSample<2> sums = SumsOf(sample.numbers);
+  TestSample origin = sample.origin;
+  origin.figures = {CountOf(sample), {"mean", ReportText(rsDSMean), sums.Mean()}};
+  if (sums.Count() > 1)
+    origin.figures.push_back({"standard_deviation", ReportText(rsDSStdDev), sums.SampleStdDev()});
+  return origin;
+}
+
+TestSample WithMedian(const NumberSample& sample) {
+  TQorFloatVector sorted = CopyVector(sample.numbers.Values());
+  QSortVector(sorted, true);
+  TestSample origin = sample.origin;
+  origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), GetMedian(sorted)}};
+  return origin;
+}
+
+std::vector<TestReport> TestEach(const TestArguments& arguments,
+                                 const std::function<TestReport(const NumberSample&)>& test) {
+  std::vector<TestReport> reports;
+  for (const NumberSample& sample : ReadSamples(arguments)) {
+    try {
+      reports.push_back(test(sample));
+    } catch (const EMathError& error) {
+      throw TestRefusal(sample.Place(arguments.table.file), error);
+    }
+  }
+  return reports;
+}
+
+InputError TestRefusal(const std::string& place, const EMathError& error) {
+  const char* const why = WhyNot(error.message_id());
+  return why == nullptr ? Refusal(place, error, "") : InputError(InputFault::kNoResult, place, why);
+}
+
+Shifted ShiftedBy(const WrittenNumber& hypothesis, const ColumnNumbers& numbers) {
+  if (const std::optional<DecimalNumber> decimal = ParseDecimal(hypothesis.text)) {
+    if (std::optional<ColumnNumbers> exact = ExactDifferences(numbers, *decimal))
+      return {std::move(*exact), 0};
+  }
+  return {numbers, hypothesis.value};
+}
+
+}  // namespace qorvex::apps

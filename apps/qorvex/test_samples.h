@@ -1,0 +1,59 @@
+#pragma once
+
+/// @file
+/// The columns that the commands of `test` read.
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "apps/common/column_numbers.h"
+#include "apps/common/input_error.h"
+#include "apps/qorvex/test_arguments.h"
+#include "apps/qorvex/test_report.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/exact_sample.h"
+
+namespace qorvex::apps {
+
+/// The numbers of a sample, and where they are from.
+struct NumberSample {
+  ColumnNumbers numbers;
+  TestSample origin;
+
+  /// "file: column 2 (speed)"
+  [[nodiscard]] std::string Place(const std::string& file) const;
+};
+
+/// Reads each chosen column as a sample, or splits one by its labels.
+[[nodiscard]] std::vector<NumberSample> ReadSamples(const TestArguments& arguments);
+/// The same, and requires two.
+[[nodiscard]] std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments);
+/// Reads the columns of --x and --y.
+[[nodiscard]] std::vector<NumberSample> ReadPairs(const TestArguments& arguments);
+
+/// The exact sums of the numbers.
+[[nodiscard]] ExactSample<2> SumsOf(const ColumnNumbers& numbers);
+
+/// @{
+/// The origin of a sample with its number, mean and standard deviation, or its number and median.
+[[nodiscard]] TestSample WithMoments(const NumberSample& sample);
+[[nodiscard]] TestSample WithMedian(const NumberSample& sample);
+/// @}
+
+/// The first test of each sample, in the order of the columns.
+[[nodiscard]] std::vector<TestReport> TestEach(
+    const TestArguments& arguments, const std::function<TestReport(const NumberSample&)>& test);
+
+/// The InputError for what a test refuses.
+[[nodiscard]] InputError TestRefusal(const std::string& place, const EMathError& error);
+
+/// The numbers of the first sample less the hypothetical value, and what remains to subtract:
+/// nothing if the numbers are decimal.
+struct Shifted {
+  ColumnNumbers numbers;
+  Extended rest;
+};
+[[nodiscard]] Shifted ShiftedBy(const WrittenNumber& hypothesis, const ColumnNumbers& numbers);
+
+}  // namespace qorvex::apps

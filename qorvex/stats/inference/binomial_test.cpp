@@ -1,0 +1,80 @@
+#include "qorvex/stats/inference/binomial_test.h"
+
+#include <algorithm>
+#include <cmath>
+#include <ranges>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/base/special/binomial.h"
+#include "qorvex/stats/distributions/binomial.h"
+#include "qorvex/stats/inference/detail/p_values.h"
+
+namespace qorvex {
+
+using namespace inference;
+
+namespace {
+
+// The probabilities of less than k and of at least k.
+Tails TailsBelow(const BinomialDistribution& binomial, std::uint64_t k) {
+  if (k == 0) return {Tail::kLower, Scaled{0, ExtendedPair()}};
+  return binomial.At(static_cast<std::uint32_t>(k - 1));
+}
+
+// The probability of all counts that are no more likely than the observed one, for 0 < p < 1.
+Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
+  const Extended p = binomial.SuccessProbability();
+  const std::uint64_t n = binomial.Trials();
+  const ExtendedPair mean = special::ExactProduct(static_cast<Extended>(n), p);
+  const Extended distance = (ExtendedPair(static_cast<Extended>(observed)) - mean).hi;
+  if (distance == 0) return {};
+  const auto log_probability = [&](std::uint64_t k) {
+    return special::Ln(special::BinomialProbability(
+        binomial.Trials(), static_cast<std::uint32_t>(k), p, special::ExactSum(1, -p)));
+  };
+  const ExtendedPair bound = log_probability(observed) + ExtendedPair(std::log1p(1e-7L));
+  const auto is_as_unlikely = [&](std::uint64_t k) { return (log_probability(k) - bound).hi <= 0; };
+  // On the other side of the mean the probabilities fall with the distance from it.
+  std::uint64_t first = 0;
+  std::uint64_t last = static_cast<std::uint64_t>(std::floor(mean.hi)) + 1;
+  if (distance < 0) {
+    first = static_cast<std::uint64_t>(std::ceil(mean.hi));
+    last = n + 1;
+  }
+  const auto others = std::views::iota(first, last);
+  const auto end = std::ranges::partition_point(
+      others, [&](std::uint64_t k) { return is_as_unlikely(k) == (distance > 0); });
+  const std::uint64_t bounded = first + static_cast<std::uint64_t>(end - others.begin());
+  const Tails beyond = TailsBelow(binomial, bounded);
+  if (distance > 0) {
+    return Sum(TailsBelow(binomial, observed).ScaledProbability(Tail::kUpper),
+               beyond.ScaledProbability(Tail::kLower));
+  }
+  return Sum(binomial.At(observed).ScaledProbability(Tail::kLower),
+             beyond.ScaledProbability(Tail::kUpper));
+}
+
+}  // namespace
+
+TestResult BinomialTest(std::uint32_t successes, std::uint32_t trials, Extended p,
+                        Alternative alternative) {
+  if (successes > trials) RaiseMathError(rsBinomDistInvalid);
+  const BinomialDistribution binomial(p, trials);
+  TestResult result{.statistic = static_cast<Extended>(successes)};
+  if (std::isnan(p)) return result;
+  switch (alternative) {
+    case Alternative::kLess:
+      return WithTails(result, binomial.At(successes), alternative);
+    case Alternative::kGreater:
+      return WithTails(result, TailsBelow(binomial, successes), alternative);
+    case Alternative::kTwoSided:
+      break;
+  }
+  if (p == 0 || p == 1) {
+    const bool is_certain = successes == (p == 0 ? 0 : trials);
+    return WithP(result, Scaled{is_certain ? 1.0L : 0.0L, ExtendedPair()});
+  }
+  return WithP(result, TwoSided(binomial, successes));
+}
+
+}  // namespace qorvex

@@ -1,0 +1,47 @@
+#include "qorvex/stats/inference/detail/exact_tails.h"
+
+#include <cmath>
+
+#include "qorvex/base/special/regularised_gamma.h"
+#include "qorvex/base/special/symmetric_beta.h"
+#include "qorvex/stats/distributions/chi_square.h"
+#include "qorvex/stats/distributions/f_distribution.h"
+#include "qorvex/stats/distributions/student_t.h"
+
+namespace qorvex::inference {
+
+using special::ExtendedPair;
+using special::Tail;
+using special::Tails;
+
+namespace {
+
+// Where the low part of a pair counts, and pairs neither overflow nor underflow.
+bool IsModerate(ExtendedPair x) {
+  return std::fabs(x.hi) > 1e-20L && std::fabs(x.hi) < 1e4000L;
+}
+
+}  // namespace
+
+Tails StudentTails(ExtendedPair t, Extended df) {
+  if (!IsModerate(t)) return StudentTDistribution(df).At(t.hi);
+  if (t.hi < 0) return StudentTails(-t, df).Mirrored();
+  // Half of what lies beyond -t and t.
+  special::Scaled beyond = special::RegularisedBeta(df / 2, 0.5L)
+                               .At({ExtendedPair(df) / t, t})
+                               .ScaledProbability(Tail::kLower);
+  beyond.factor /= 2;
+  return {Tail::kUpper, beyond};
+}
+
+Tails ChiSquareTails(ExtendedPair x, Extended df) {
+  if (!IsModerate(x)) return ChiSquareDistribution(df).At(x.hi);
+  return special::RegularisedGamma(df / 2).At(special::RegularisedGamma::Point(x, 2));
+}
+
+Tails FTails(ExtendedPair f, Extended df1, Extended df2) {
+  if (!IsModerate(f)) return FDistribution(df1, df2).At(f.hi);
+  return special::SymmetricBeta(df1 / 2, df2 / 2).At({f, ExtendedPair(df2) / df1});
+}
+
+}  // namespace qorvex::inference

@@ -1,0 +1,60 @@
+#pragma once
+
+/// @file
+/// p-values from tails.
+
+#include <algorithm>
+#include <cmath>
+
+#include "qorvex/base/special/tails.h"
+#include "qorvex/base/vector_view.h"
+#include "qorvex/stats/inference/test_result.h"
+
+namespace qorvex::inference {
+
+using special::ExtendedPair;
+using special::Scaled;
+using special::Tail;
+using special::Tails;
+
+/// a + b of probabilities that may be too small for the format.
+[[nodiscard]] inline Scaled Sum(const Scaled& a, const Scaled& b) {
+  if (a.factor == 0) return b;
+  if (b.factor == 0) return a;
+  if (a.exponent.hi < b.exponent.hi) return Sum(b, a);
+  const Scaled relative{b.factor, b.exponent - a.exponent};
+  return {a.factor + relative.Value(), a.exponent};
+}
+
+/// The result with this p, at most 1.
+[[nodiscard]] inline TestResult WithP(TestResult result, const Scaled& p) {
+  result.p = p.Value();
+  result.log_p = p.Log();
+  if (result.p >= 1) {
+    result.p = 1;
+    result.log_p = 0;
+  }
+  return result;
+}
+
+/// The result with the tail or, for kTwoSided, twice the smaller of the tails at the statistic.
+[[nodiscard]] inline TestResult WithTails(TestResult result, const Tails& tails,
+                                          Alternative alternative) {
+  if (alternative == Alternative::kTwoSided) {
+    const bool is_low = tails.Probability(Tail::kLower) < tails.Probability(Tail::kUpper);
+    Scaled p = tails.ScaledProbability(is_low ? Tail::kLower : Tail::kUpper);
+    p.factor *= 2;
+    return WithP(result, p);
+  }
+  const Tail tail = alternative == Alternative::kLess ? Tail::kLower : Tail::kUpper;
+  result.p = tails.Probability(tail);
+  result.log_p = tails.LogProbability(tail);
+  return result;
+}
+
+/// Whether any of the values is NaN.
+[[nodiscard]] inline bool HasNaN(VectorView<Extended> values) {
+  return std::any_of(values.begin(), values.end(), [](Extended x) { return std::isnan(x); });
+}
+
+}  // namespace qorvex::inference

@@ -1,0 +1,247 @@
+// Random models against solutions in rational numbers.
+
+#include <boost/multiprecision/cpp_int.hpp>
+
+#include "qorvex/stats/regression/linear_model.h"
+#include "qorvex/stats/regression/pair_fit.h"
+#include "support/random_vectors.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using Rational = boost::multiprecision::cpp_rational;
+using Row = std::vector<Rational>;
+using testing::Engine;
+
+Rational Exact(Extended value) {
+  int exponent = 0;
+  const auto mantissa = static_cast<std::int64_t>(std::ldexp(std::frexp(value, &exponent), 63));
+  const auto rest =
+      static_cast<std::int64_t>(std::ldexp(value, 64 - exponent) - 2 * Extended(mantissa));
+  const Rational scaled = 2 * Rational(mantissa) + rest;
+  const Rational power(boost::multiprecision::cpp_int(1) << std::abs(exponent - 64));
+  return exponent > 64 ? Rational(scaled * power) : Rational(scaled / power);
+}
+
+// The exact value is no further from this number than from its neighbours.
+::testing::AssertionResult IsNearest(Extended value, const Rational& exact) {
+  const Rational below = (Exact(value) + Exact(std::nextafter(value, -kInfinity))) / 2;
+  const Rational above = (Exact(value) + Exact(std::nextafter(value, kInfinity))) / 2;
+  if (below <= exact && exact <= above) return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << value << " for " << static_cast<Extended>(exact);
+}
+
+::testing::AssertionResult IsNearestToRoot(Extended value, const Rational& square) {
+  const Rational below = (Exact(value) + Exact(std::nextafter(value, -kInfinity))) / 2;
+  const Rational above = (Exact(value) + Exact(std::nextafter(value, kInfinity))) / 2;
+  if (value >= 0 && below * below <= square && square <= above * above)
+    return ::testing::AssertionSuccess();
+  return ::testing::AssertionFailure() << value << " for the root of " << square;
+}
+
+Rational Dot(const Row& a, const Row& b) {
+  Rational sum;
+  for (std::size_t i = 0; i < a.size(); ++i) sum += a[i] * b[i];
+  return sum;
+}
+
+// By Gauss-Jordan elimination.
+std::vector<Row> Inverse(std::vector<Row> matrix) {
+  const std::size_t n = matrix.size();
+  for (std::size_t i = 0; i < n; ++i) {
+    matrix[i].resize(2 * n);
+    matrix[i][n + i] = 1;
+  }
+  for (std::size_t k = 0; k < n; ++k) {
+    for (std::size_t j = 2 * n; j-- > k;) matrix[k][j] /= matrix[k][k];
+    for (std::size_t i = 0; i < n; ++i) {
+      if (i == k) continue;
+      for (std::size_t j = 2 * n; j-- > k;) matrix[i][j] -= matrix[i][k] * matrix[k][j];
+    }
+  }
+  for (Row& row : matrix) row.erase(row.begin(), row.begin() + static_cast<std::ptrdiff_t>(n));
+  return matrix;
+}
+
+// A model and its data, as views for the model and in rational numbers.
+struct Problem {
+  std::size_t predictors;
+  std::size_t degree;  // 0 for several predictors
+  Intercept intercept;
+  bool has_weights;
+  bool has_decimals;
+
+  std::vector<std::vector<Extended>> extended = {};  // the predictors, the response, the weights
+  std::vector<std::vector<std::int64_t>> integers = {};
+  std::vector<Row> design = {};
+  Row response = {};
+  Row weights = {};
+
+  void Fill(Engine& engine, std::size_t rows) {
+    for (std::size_t c = 0; c < predictors + 2; ++c) {
+      auto& column = extended.emplace_back();
+      const auto random = testing::RandomVector<Extended>(engine, rows);
+      column.assign(random.begin(), random.end());
+      for (std::size_t i = 0; i < rows; ++i) {
+        if (engine() % 3 == 0) column[i] = static_cast<Extended>(engine() % 8);
+        if (c > predictors) column[i] = std::fabs(column[i]);
+      }
+      auto& whole = integers.emplace_back(rows);
+      for (std::int64_t& value : whole)
+        value = c > predictors ? static_cast<std::int64_t>(engine() % 20)
+                               : static_cast<std::int64_t>(engine() >> 20) >> (engine() % 40);
+    }
+    for (std::size_t i = 0; i < rows; ++i) {
+      Row row;
+      if (intercept == Intercept::kIncluded) row.emplace_back(1);
+      Rational power = 1;
+      for (std::size_t k = 0; k < std::max(predictors, degree); ++k)
+        row.push_back(degree > 0 ? power *= Value(0, i) : Value(k, i));
+      design.push_back(row);
+      response.push_back(Value(predictors, i));
+      weights.push_back(has_weights ? Value(predictors + 1, i) : 1);
+    }
+  }
+
+  static constexpr std::int64_t kScales[] = {10, 100, 1000, 10'000, 100'000, 1'000'000};
+
+  // Decimal columns have one, two, three decimals and so on.
+  [[nodiscard]] Rational Value(std::size_t c, std::size_t i) const {
+    if (!has_decimals) return Exact(extended[c][i]);
+    return Rational(integers[c][i], kScales[c]);
+  }
+  [[nodiscard]] ColumnView View(std::size_t c, std::size_t first, std::size_t count) const {
+    if (has_decimals)
+      return {std::span(integers[c]).subspan(first, count), static_cast<int>(c) + 1};
+    return std::span(extended[c]).subspan(first, count);
+  }
+  [[nodiscard]] Columns Predictors(std::size_t first, std::size_t count) const {
+    std::vector<ColumnView> views;
+    for (std::size_t c = 0; c < predictors; ++c) views.push_back(View(c, first, count));
+    return views;
+  }
+
+  [[nodiscard]] LinearModel Empty() const {
+    return degree > 0 ? LinearModel::Polynomial(degree, intercept)
+                      : LinearModel(predictors, intercept);
+  }
+  void AddTo(LinearModel& model, std::size_t first, std::size_t count) const {
+    const ColumnView y = View(predictors, first, count);
+    if (has_weights) {
+      model.AddWeighted(Predictors(first, count), y, View(predictors + 1, first, count));
+    } else {
+      model.Add(Predictors(first, count), y);
+    }
+  }
+  void RemoveFrom(LinearModel& model, std::size_t first, std::size_t count) const {
+    const ColumnView y = View(predictors, first, count);
+    if (has_weights) {
+      model.RemoveWeighted(Predictors(first, count), y, View(predictors + 1, first, count));
+    } else {
+      model.Remove(Predictors(first, count), y);
+    }
+  }
+};
+
+void ExpectExactFit(const Problem& problem, const LinearFit& fit) {
+  const std::size_t n = problem.response.size();
+  const std::size_t p = problem.design[0].size();
+  std::vector<Row> gram(p, Row(p));
+  Row moments(p);
+  Rational sum_of_weights, sum, total;
+  std::size_t used = 0;
+  for (std::size_t i = 0; i < n; ++i) {
+    const Rational& w = problem.weights[i];
+    const Row& x = problem.design[i];
+    if (w > 0) ++used;
+    for (std::size_t j = 0; j < p; ++j) {
+      for (std::size_t k = 0; k < p; ++k) gram[j][k] += w * x[j] * x[k];
+      moments[j] += w * x[j] * problem.response[i];
+    }
+    sum_of_weights += w;
+    sum += w * problem.response[i];
+    total += w * problem.response[i] * problem.response[i];
+  }
+  const bool constant = problem.intercept == Intercept::kIncluded;
+  if (constant) total -= sum * sum / sum_of_weights;
+  const std::vector<Row> inverse = Inverse(gram);
+  Row b;
+  for (const Row& row : inverse) b.push_back(Dot(row, moments));
+
+  Rational rss;
+  const TQorFloatVector fitted = fit.FittedValues(problem.Predictors(0, n));
+  const ColumnView y = problem.View(problem.predictors, 0, n);
+  const TQorFloatVector residuals = fit.Residuals(problem.Predictors(0, n), y);
+  const TQorFloatVector leverages =
+      problem.has_weights
+          ? fit.Leverages(problem.Predictors(0, n), problem.View(problem.predictors + 1, 0, n))
+          : fit.Leverages(problem.Predictors(0, n));
+  for (std::size_t i = 0; i < n; ++i) {
+    const Row& x = problem.design[i];
+    const Rational value = Dot(x, b);
+    const Rational residual = problem.response[i] - value;
+    rss += problem.weights[i] * residual * residual;
+    EXPECT_TRUE(IsNearest(fitted[i], value));
+    EXPECT_TRUE(IsNearest(residuals[i], residual));
+    Row product;
+    for (const Row& row : inverse) product.push_back(Dot(row, x));
+    EXPECT_TRUE(IsNearest(leverages[i], problem.weights[i] * Dot(product, x)));
+  }
+  ASSERT_EQ(fit.Count(), used);
+  const Rational variance = rss / (used - p);
+  for (std::size_t j = 0; j < p; ++j) {
+    const FittedCoefficient coefficient = fit.Coefficient(j);
+    EXPECT_TRUE(IsNearest(coefficient.value, b[j]));
+    EXPECT_TRUE(IsNearestToRoot(coefficient.standard_error, variance * inverse[j][j]));
+    EXPECT_TRUE(
+        IsNearestToRoot(std::fabs(coefficient.t), b[j] * b[j] / (variance * inverse[j][j])));
+    EXPECT_TRUE(IsNearest(fit.Covariance(j, 0), variance * inverse[j][0]));
+  }
+  EXPECT_TRUE(IsNearest(fit.ResidualSumOfSquares(), rss));
+  EXPECT_TRUE(IsNearest(fit.TotalSumOfSquares(), total));
+  EXPECT_TRUE(IsNearestToRoot(fit.ResidualStdDev(), variance));
+  EXPECT_TRUE(IsNearest(fit.Determination(), 1 - rss / total));
+  const Rational total_variance = total / (used - (constant ? 1U : 0U));
+  EXPECT_TRUE(IsNearest(fit.AdjustedDetermination(), 1 - variance / total_variance));
+  const std::size_t terms = p - (constant ? 1U : 0U);
+  EXPECT_TRUE(IsNearest(fit.Anova().regression.f, (total - rss) / terms / variance));
+}
+
+void ExpectSameSums(const LinearModel& a, const LinearModel& b) {
+  ASSERT_EQ(a.Count(), b.Count());
+  for (std::size_t i = 0; i < a.Gram().Size(); ++i) {
+    for (std::size_t j = 0; j < a.Gram().Size(); ++j)
+      EXPECT_EQ(a.Gram().Sum(i, j), b.Gram().Sum(i, j)) << i << ' ' << j;
+  }
+}
+
+TEST(LinearModel, RoundsExactResultsOnceWhateverTheOrderOfItsRows) {
+  constexpr std::pair<std::size_t, std::size_t> forms[] = {{1, 0}, {2, 0}, {4, 0},
+                                                           {1, 1}, {1, 2}, {1, 4}};
+  Engine engine(20);
+  for (int i = 0; i < 60; ++i) {
+    const auto [predictors, degree] = forms[i % 6];
+    Problem problem{.predictors = predictors,
+                    .degree = degree,
+                    .intercept = i % 5 < 3 ? Intercept::kIncluded : Intercept::kOmitted,
+                    .has_weights = i % 4 > 1,
+                    .has_decimals = i % 7 > 4};
+    const std::size_t n = 12 + engine() % 8;
+    problem.Fill(engine, n);
+    SCOPED_TRACE(i);
+    LinearModel model = problem.Empty();
+    problem.AddTo(model, 0, n);
+    ExpectExactFit(problem, model.Fit());
+
+    LinearModel merged = problem.Empty();
+    LinearModel end = problem.Empty();
+    problem.AddTo(end, n - 5, 5);
+    problem.AddTo(merged, 5, n - 5);
+    problem.AddTo(merged, 0, 5);
+    problem.RemoveFrom(merged, n - 5, 5);
+    merged.Merge(end);
+    ExpectSameSums(model, merged);
+  }
+}
+
+}  // namespace qorvex

@@ -1,0 +1,167 @@
+// Errors, degenerate fits, and models that are too long for integers.
+
+#include "qorvex/stats/regression/linear_model.h"
+
+#include "qorvex/stats/regression/pair_fit.h"
+#include "support/random_vectors.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using Column = std::vector<Extended>;
+
+TEST(LinearModel, RefusesBadRowsAndKeepsItsState) {
+  const Column x{1, 2, 3, 4};
+  const Column y{2, 3, 5, 9};
+  const Column nan{1, kNaN, 3, 4};
+  LinearModel line;
+  line.Add(x, y);
+  LinearModel parabola = LinearModel::Polynomial(2);
+  EXPECT_MATH_ERROR(line.Add({x, x}, y), rsSameDimensions);
+  EXPECT_MATH_ERROR(line.Add({}, y), rsSameDimensions);
+  EXPECT_MATH_ERROR(line.Add(x, {1.0L, 2.0L}), rsSameDimensions);
+  EXPECT_MATH_ERROR(line.AddWeighted(x, y, {1.0L, 2.0L}), rsSameDimensions);
+  EXPECT_MATH_ERROR(line.AddWeighted(nan, y, {1.0L, 1.0L, -1.0L, 1.0L}), rsInvalidWeight);
+  EXPECT_MATH_ERROR(line.AddWeighted(x, y, {1.0L, 1.0L, kInfinity, 1.0L}), rsInvalidWeight);
+  EXPECT_ERROR(line.Add(nan, y), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(line.Add(x, {1.0L, 2.0L, kInfinity, 0.0L}), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(parabola.Add(nan, y), EInvalidOp, rsInvalidOp);
+  EXPECT_MATH_ERROR(line.Remove({{1.0L, 2, 3, 4, 5}}, {1.0L, 2, 3, 4, 5}), rsInvalidValue);
+  EXPECT_MATH_ERROR(line.Merge(parabola), rsSameDimensions);
+  EXPECT_MATH_ERROR(ColumnView(std::vector<std::int64_t>{1}, -1), rsInvalidValue);
+  EXPECT_MATH_ERROR(parabola.Fit(), rsVectorTooSmall);
+  EXPECT_EQ(line.Count(), 4U);
+
+  const LinearFit fit = line.Fit();
+  EXPECT_EQ(fit.Values()[1], 2.3L);
+  EXPECT_MATH_ERROR(fit.Coefficient(2), rsInvalidCol);
+  EXPECT_MATH_ERROR(fit.ConfidenceInterval(0, 1), rsValue01);
+  EXPECT_MATH_ERROR(fit.Predict({1.0L}, kNaN), rsValue01);
+  EXPECT_MATH_ERROR(fit.Predict({}), rsSameDimensions);
+  EXPECT_ERROR(fit.Predict({kNaN}), EInvalidOp, rsInvalidOp);
+  EXPECT_MATH_ERROR(fit.Residuals(x, {1.0L}), rsSameDimensions);
+  EXPECT_MATH_ERROR(fit.Leverages(x, {1.0L, 1.0L, kNaN, 1.0L}), rsInvalidWeight);
+
+  // Rows of weight 0 do not count.
+  LinearModel weighted;
+  weighted.AddWeighted({{5, 1, 2, kNaN, 3, 4}}, {kNaN, 2, 3, 7, 5, 9}, {0.0L, 1, 1, 0, 1, 1});
+  EXPECT_EQ(weighted.Count(), 4U);
+  EXPECT_EQ(weighted.Fit().Values(), fit.Values());
+}
+
+TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
+  const Column y{1, 4, 2, 8, 5, 7};
+  const Column a{1, 2, 3, 4, 5, 7};
+  const Column b{0.5L, 3.75L, 2, -9, 4.25L, 1};
+  const Column seven(6, 7);
+  Column sum(6);
+  for (std::size_t i = 0; i < 6; ++i) sum[i] = 2 * a[i] - b[i] / 4 + 1;
+  Column nearly = sum;
+  nearly[0] *= 1 + 0x1p-63L;
+  const auto expect_error = [&](const Columns& predictors, std::size_t predictor,
+                                Intercept intercept = Intercept::kIncluded) {
+    LinearModel model(predictors.Size(), intercept);
+    model.Add(predictors, y);
+    try {
+      static_cast<void>(model.Fit());
+      ADD_FAILURE() << "fits";
+    } catch (const CollinearityError& error) {
+      EXPECT_EQ(error.Predictor(), predictor);
+      EXPECT_EQ(error.message_id(), rsCollinear);
+      EXPECT_NE(std::string(error.what()).find(std::to_string(predictor + 1)), std::string::npos);
+    }
+  };
+  expect_error(seven, 0);
+  expect_error({a, a, b}, 1);
+  expect_error({a, b, sum}, 2);
+  expect_error({b, Column(6, 0)}, 1, Intercept::kOmitted);
+  expect_error(Column(6, 0), 0, Intercept::kOmitted);
+  LinearModel model(3);
+  model.Add({a, b, nearly}, y);
+  EXPECT_GT(model.Fit().ConditionBits(), 120);
+
+  LinearModel cubic = LinearModel::Polynomial(3);
+  cubic.Add({{0.1L, 0.2L, 0.7L, 0.1L}}, {1.0L, 2, 3, 4});
+  EXPECT_THROW(static_cast<void>(cubic.Fit()), CollinearityError);
+  EXPECT_MATH_ERROR(FitPairs(a, y, 0), rsValueGZero);
+}
+
+TEST(LinearModel, HasInfiniteStatisticsForPerfectFitsAndNoneWithoutDegreesOfFreedom) {
+  LinearModel model;
+  model.Add({{1.0L, 2, 3, 4}}, {0.5L, 1, 1.5L, 2});
+  const LinearFit perfect = model.Fit();
+  EXPECT_EQ(perfect.ResidualStdDev(), 0);
+  EXPECT_EQ(perfect.Determination(), 1);
+  EXPECT_EQ(perfect.Coefficient(1).t, kInfinity);
+  EXPECT_EQ(perfect.Coefficient(1).p, 0);
+  EXPECT_EQ(perfect.Coefficient(1).log_p, -kInfinity);
+  EXPECT_TRUE(std::isnan(perfect.Coefficient(0).t));  // 0 / 0
+  EXPECT_EQ(perfect.Anova().regression.f, kInfinity);
+  EXPECT_EQ(perfect.Anova().regression.p, 0);
+  EXPECT_EQ(perfect.Predict({10}).prediction.least, 5);
+
+  LinearModel constant;
+  constant.Add({{1.0L, 2, 3}}, {4.0L, 4, 4});
+  EXPECT_TRUE(std::isnan(constant.Fit().Determination()));
+  EXPECT_TRUE(std::isnan(constant.Fit().Anova().regression.f));
+
+  LinearModel through_all = LinearModel::Polynomial(2);
+  through_all.Add({{1.0L, 2, 4}}, {3.0L, 5, 1});
+  const LinearFit fit = through_all.Fit();
+  EXPECT_EQ(fit.DegreesOfFreedom(), 0U);
+  EXPECT_EQ(fit.FittedValues({{2.0L}}), (TQorFloatVector{5}));
+  for (const Extended figure :
+       {fit.ResidualStdDev(), fit.Coefficient(1).standard_error, fit.Coefficient(1).p,
+        fit.AdjustedDetermination(), fit.ConfidenceInterval(0).least, fit.Anova().regression.f,
+        fit.Anova().residual.mean_square, fit.Covariance(0, 1),
+        fit.Predict({3}).prediction.greatest})
+    EXPECT_TRUE(std::isnan(figure));
+
+  LinearModel mean(0);
+  mean.Add({}, {1.0L, 2, 6});
+  EXPECT_EQ(mean.Fit().Values(), (TQorFloatVector{3}));
+  EXPECT_EQ(mean.Fit().Residuals({}, {4.0L}), (TQorFloatVector{1}));
+  EXPECT_EQ(mean.Fit().Predict({}).standard_error, 1.527525231651946668863L);
+}
+
+// Columns of whole numbers that are nearly multiples of each other. The rows come in pairs that
+// differ in errors of 1 and -1 only, so the coefficients are known.
+TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {
+  constexpr std::size_t kPredictors = 14;
+  testing::Engine engine(3);
+  for (const int closeness : {0, 20, 50}) {
+    std::vector<Column> columns(kPredictors);
+    Column y;
+    for (std::size_t i = 0; i < 60; ++i) {
+      const auto common = std::ldexp(static_cast<Extended>(engine() % 32), closeness);
+      Extended value = 5;
+      for (std::size_t k = 0; k < kPredictors; ++k) {
+        const Extended x = common + static_cast<Extended>(engine() % 64);
+        columns[k].insert(columns[k].end(), {x, x});
+        value += static_cast<Extended>(k + 1) * x;
+      }
+      y.insert(y.end(), {value - 1, value + 1});
+    }
+    LinearModel model(kPredictors);
+    model.Add(columns, y);
+    const LinearFit fit = model.Fit();
+    EXPECT_GT(fit.Precision(), 90U);
+    EXPECT_GE(fit.ConditionBits(), 2 * closeness);
+    EXPECT_EQ(fit.ResidualSumOfSquares(), 120);
+    EXPECT_EQ(fit.Values()[0], 5);
+    for (std::size_t k = 0; k < kPredictors; ++k) EXPECT_EQ(fit.Values()[k + 1], k + 1);
+
+    // What these bits cannot tell, integers do: a perfect fit and exact collinearity.
+    for (std::size_t i = 0; i < y.size(); ++i) y[i] += i % 2 == 0 ? 1 : -1;
+    LinearModel perfect(kPredictors);
+    perfect.Add(columns, y);
+    EXPECT_EQ(perfect.Fit().Precision(), 0U);
+    EXPECT_EQ(perfect.Fit().ResidualSumOfSquares(), 0);
+    columns.back() = columns.front();
+    LinearModel dependent(kPredictors);
+    dependent.Add(columns, y);
+    EXPECT_THROW(static_cast<void>(dependent.Fit()), CollinearityError);
+  }
+}
+
+}  // namespace qorvex

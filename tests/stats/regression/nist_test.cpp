@@ -1,0 +1,101 @@
+// The linear regression and ANOVA sets of NIST: every figure is the nearest to the exact one.
+
+#include "stats/regression/nist_sets.h"
+#include "support/test.h"
+
+namespace qorvex {
+
+using testing::LinearSet;
+using testing::Table;
+
+// Expects each figure of a set to be the nearest extended number to the exact one; probabilities,
+// whose names begin with p, to be no further off than the rounding of the statistic explains.
+void ExpectFigures(const Table& table, const std::string& set, const std::string& column,
+                   const std::map<std::string, Extended>& figures) {
+  std::size_t judged = 0;
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    if (table.Text(row, "set") != set) continue;
+    ++judged;
+    const std::string& name = table.Text(row, "figure");
+    const Extended exact = table.Value(row, column);
+    if (name.starts_with("p") && exact > 0) {
+      EXPECT_LE(std::fabs(figures.at(name) - exact), 1e-18L * (1 - std::log(exact)) * exact)
+          << set << ' ' << name;
+    } else {
+      EXPECT_EQ(figures.at(name), exact) << set << ' ' << name << ' ' << column;
+    }
+  }
+  EXPECT_GE(judged, 9U) << set;
+}
+
+std::map<std::string, Extended> FiguresOf(const LinearFit& fit, Intercept intercept) {
+  std::map<std::string, Extended> figures;
+  const std::size_t first = intercept == Intercept::kOmitted ? 1 : 0;
+  for (std::size_t i = 0; i < fit.Size(); ++i) {
+    const FittedCoefficient coefficient = fit.Coefficient(i);
+    figures["B" + std::to_string(i + first)] = coefficient.value;
+    figures["sdB" + std::to_string(i + first)] = coefficient.standard_error;
+  }
+  const RegressionAnova table = fit.Anova();
+  figures["rsd"] = fit.ResidualStdDev();
+  figures["r2"] = fit.Determination();
+  figures["ssreg"] = table.regression.sum_of_squares;
+  figures["msreg"] = table.regression.mean_square;
+  figures["F"] = table.regression.f;
+  figures["p_F"] = table.regression.p;
+  figures["rss"] = table.residual.sum_of_squares;
+  figures["msres"] = table.residual.mean_square;
+  figures["tss"] = table.total.sum_of_squares;
+  return figures;
+}
+
+TEST(LinearModel, HasTheNearestNumberToEveryFigureOfTheNistSets) {
+  const Table figures("nist/linear_models.csv");
+  for (const LinearSet& set : testing::kLinearSets) {
+    const testing::DataFile data(std::string(set.name) + ".txt", set.predictors + 1);
+    for (const bool as_decimals : {false, true}) {
+      ExpectFigures(figures, set.name, as_decimals ? "decimal" : "extended",
+                    FiguresOf(testing::FitOf(set, data, as_decimals), set.intercept));
+    }
+  }
+}
+
+std::map<std::string, Extended> FiguresOf(const OneWayAnovaTable& anova) {
+  return {{"ssbetween", anova.between.sum_of_squares},
+          {"msbetween", anova.between.mean_square},
+          {"F", anova.between.f},
+          {"p_F", anova.between.p},
+          {"sswithin", anova.within.sum_of_squares},
+          {"mswithin", anova.within.mean_square},
+          {"r2", anova.determination},
+          {"rsd", anova.residual_std_dev},
+          {"tss", anova.total.sum_of_squares}};
+}
+
+TEST(OneWayAnova, HasTheNearestNumberToEveryFigureOfTheNistSets) {
+  const Table figures("nist/anova.csv");
+  for (const testing::AnovaSet& set : testing::AnovaSets()) {
+    ExpectFigures(figures, set.name, "extended", FiguresOf(OneWayAnova(set.extended)));
+    ExpectFigures(figures, set.name, "decimal", FiguresOf(OneWayAnova(set.DecimalViews())));
+  }
+}
+
+TEST(OneWayAnova, TakesLabelsInAnyOrderAndRefusesWhatHasNoFigures) {
+  const OneWayAnovaTable table =
+      OneWayAnovaByLabel(std::vector<std::string>{"b", "a", "b", "a", "c"}, {1.0L, 2, 3, 6, 3});
+  EXPECT_EQ(FiguresOf(table), FiguresOf(OneWayAnova({{2.0L, 6}, {1.0L, 3}, {3.0L}})));
+  EXPECT_EQ(table.between.degrees_of_freedom, 2U);
+  EXPECT_EQ(table.within.sum_of_squares, 10);
+  const std::vector<std::int64_t> tenths{11, 13};
+  const std::vector<std::int64_t> hundredths{120, 130};
+  EXPECT_EQ(OneWayAnova({ColumnView(tenths, 1), ColumnView(hundredths, 2)}).between.f, 0.2L);
+  EXPECT_TRUE(std::isnan(OneWayAnova({{1.0L}, {2.0L}}).between.f));
+  EXPECT_TRUE(std::isnan(OneWayAnova({{1.0L, 1}, {1.0L, 1}}).determination));
+  EXPECT_EQ(OneWayAnova({{1.0L, 1}, {2.0L, 2}}).between.f, kInfinity);
+  EXPECT_MATH_ERROR(OneWayAnova({{1.0L, 2.0L}}), rsValue2);
+  EXPECT_MATH_ERROR(OneWayAnova({{1.0L, 2.0L}, std::vector<double>()}), rsVectorIsEmpty);
+  EXPECT_MATH_ERROR(OneWayAnovaByLabel(tenths, {1.0L}), rsSameDimensions);
+  EXPECT_ERROR(OneWayAnova({{1.0L, kNaN}, {2.0L, 3.0L}}), EInvalidOp, rsInvalidOp);
+}
+
+}  // namespace qorvex
