@@ -39,7 +39,7 @@ int main() {
             << '\n';
 
   std::vector<Extended> waves;
-  for (int i = 0; i < 1'000'000; ++i) waves.push_back(1e6L + std::remainder(i * 0.37L, 1));
+  for (int i = 0; i < 1'000'000; ++i) waves.push_back(1e6L + std::fmod(i * 0.37L, 1.0L));
   const ExactSample<> sample = Describe(waves, 1);
   std::cout << "Standard deviation " << Float2Str(sample.SampleStdDev()) << ", kurtosis "
             << Float2Str(sample.SampleKurtosis()) << '\n';
