@@ -124,6 +124,27 @@ TEST(LinearModel, HasInfiniteStatisticsForPerfectFitsAndNoneWithoutDegreesOfFree
   EXPECT_EQ(mean.Fit().Predict({}).standard_error, 1.527525231651946668863L);
 }
 
+TEST(LinearModel, DoesNotDependOnUnits) {
+  const Column x{1, 2, 4, 7, 9};
+  const Column y{3, 2, 6, 5, 11};
+  const auto scaled = [](Column column, int exponent) {
+    for (Extended& value : column) value = std::ldexp(value, exponent);
+    return column;
+  };
+  const LinearFit plain = FitPairs(x, y, 2).curve;
+  for (const int exponent : {-16000, -3000, 7000}) {
+    const PairFit pairs = FitPairs(scaled(x, exponent), scaled(y, -exponent), 2);
+    EXPECT_EQ(pairs.correlation, FitPairs(x, y).correlation);
+    EXPECT_EQ(pairs.mean_x, std::ldexp(4.6L, exponent));
+    EXPECT_EQ(pairs.covariance, FitPairs(x, y).covariance);
+    for (std::size_t i = 0; i < 3; ++i) {
+      EXPECT_EQ(pairs.curve.Coefficient(i).t, plain.Coefficient(i).t);
+      EXPECT_EQ(pairs.curve.Coefficient(i).value,
+                std::ldexp(plain.Coefficient(i).value, -exponent * static_cast<int>(i + 1)));
+    }
+  }
+}
+
 // Columns of whole numbers that are nearly multiples of each other. The rows come in pairs that
 // differ in errors of 1 and -1 only, so the coefficients are known.
 TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {

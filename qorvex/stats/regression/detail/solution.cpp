@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "qorvex/stats/regression/detail/sweep.h"
@@ -92,23 +93,7 @@ std::int64_t LostBits(const GramMatrix& gram, const Solution& solution) {
   return lost + condition + 4 * static_cast<std::int64_t>(std::bit_width(size + 1));
 }
 
-}  // namespace
-
-Rational Solution::Coefficient(std::size_t i) const {
-  return Rational(coefficients[i], determinant) *
-         Rational::PowerOfTen(decimals[i] - decimals.back());
-}
-
-Rational Solution::Inverse(std::size_t i, std::size_t j) const {
-  if (i > j) std::swap(i, j);
-  return Rational(inverse[i][j - i], determinant) *
-         Rational::PowerOfTen(decimals[i] + decimals[j] + weight_decimals);
-}
-
-Rational Solution::ResidualAfter(std::size_t k) const {
-  return residual[k] * Rational::PowerOfTen(-2 * decimals.back() - weight_decimals);
-}
-
+// CollinearityError.
 Solution SolveInIntegers(const GramMatrix& gram) {
   const std::size_t size = gram.Form().Coefficients();
   SweptMatrix matrix = MatrixOf(gram, 0);
@@ -122,6 +107,7 @@ Solution SolveInIntegers(const GramMatrix& gram) {
   return SolutionOf(gram, matrix, std::move(residual));
 }
 
+// std::nullopt if too few of the bits are right in the end.
 std::optional<Solution> SolveWithBits(const GramMatrix& gram, std::size_t bits) {
   const std::size_t size = gram.Form().Coefficients();
   SweptMatrix matrix = MatrixOf(gram, bits);
@@ -137,6 +123,23 @@ std::optional<Solution> SolveWithBits(const GramMatrix& gram, std::size_t bits) 
   if (precision < static_cast<std::int64_t>(kEnoughBits)) return std::nullopt;
   solution.precision = static_cast<std::size_t>(precision);
   return solution;
+}
+
+}  // namespace
+
+Rational Solution::Coefficient(std::size_t i) const {
+  return Rational(coefficients[i], determinant) *
+         Rational::PowerOfTen(decimals[i] - decimals.back());
+}
+
+Rational Solution::Inverse(std::size_t i, std::size_t j) const {
+  if (i > j) std::swap(i, j);
+  return Rational(inverse[i][j - i], determinant) *
+         Rational::PowerOfTen(decimals[i] + decimals[j] + weight_decimals);
+}
+
+Rational Solution::ResidualAfter(std::size_t k) const {
+  return residual[k] * Rational::PowerOfTen(-2 * decimals.back() - weight_decimals);
 }
 
 Solution Solve(const GramMatrix& gram) {

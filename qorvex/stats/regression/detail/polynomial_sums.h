@@ -46,9 +46,9 @@ class WordSum {
 };
 
 /// The exact sums of w x^k for k up to twice a degree, of w x^k y up to the degree, and of w y^2.
-class PowerSums {
+class PolynomialSums {
  public:
-  explicit PowerSums(std::size_t degree);
+  explicit PolynomialSums(std::size_t degree);
 
   /// The slot of the sum with y of x to this power; for the degree plus 1, that of y^2. The sum
   /// without y is in the slot of its power.
