@@ -1,4 +1,5 @@
 #include <array>
+#include <iomanip>
 #include <iostream>
 
 #include "qorvex/base/text.h"
@@ -27,7 +28,7 @@ int main() {
             << Float2EStr(SpearmanRho(first, second), 4) << '\n';
 
   // Classes of 10 cm, from 1.5 m on.
-  const TQorFloatVector metres{1.61L, 1.72L, 1.58L, 1.8L, 1.76L, 1.69L, 1.83L, 1.7L, 1.74L, 1.9L};
+  const TQorFloatVector metres{1.61L, 1.72L, 1.58L, 1.79L, 1.76L, 1.69L, 1.83L, 1.7L, 1.74L, 1.97L};
   const TQorLWordVector classes = ClassFrequencies(metres, 1.5L, 0.1L, 5);
   std::cout << "Heights: " << classes << ", mean "
             << Float2EStr(GroupedMean(classes, 1.5L, 0.1L), 2) << ", skewness "
@@ -39,6 +40,6 @@ int main() {
   const TQorFloatVector both = AddVectors(rent, heating);
   const TQorFloatMatrix covariance = CovarianceMatrix(std::array{rent, heating, both});
   const MultivariateNormal costs({570, 90, 660}, PackedUpperTriangle(covariance));
-  std::cout << covariance << "\nRank " << costs.Rank()
+  std::cout << std::fixed << std::setprecision(2) << covariance << "\nRank " << costs.Rank()
             << ", a household: " << costs.Draw(RandomStream(18)) << '\n';
 }

@@ -6,6 +6,8 @@
 #include <utility>
 
 #include "qorvex/base/detail/decimal_text.h"
+#include "qorvex/vector/building.h"
+#include "qorvex/vector/sorting.h"
 
 namespace qorvex::apps {
 
@@ -74,8 +76,18 @@ void ColumnNumbers::Append(Extended value) {
   if (are_decimal_) {
     values_ = TakeValues();
     are_decimal_ = false;
+    decimals_ = 0;
   }
   values_.Append(value);
+}
+
+void ColumnNumbers::Sort() {
+  const auto sort = [](auto& vector) {
+    if (vector.IsShared()) vector = CopyVector(vector);
+    QSortVector(vector, true);
+  };
+  sort(integers_);
+  sort(values_);
 }
 
 void ColumnNumbers::ShrinkToFit() {
@@ -102,10 +114,6 @@ TQorFloatVector ColumnNumbers::TakeValues() {
   integers_ = {};
   values_ = {};
   return values;
-}
-
-TQorInt64Vector ColumnNumbers::TakeIntegers() {
-  return std::exchange(integers_, {});
 }
 
 }  // namespace qorvex::apps

@@ -36,6 +36,8 @@ class ColumnNumbers {
   [[nodiscard]] bool TryAppend(DecimalNumber number);
   /// Appends a value. Integers become values.
   void Append(Extended value);
+  /// Sorts the numbers in ascending order. Copies and vectors taken before keep their order.
+  void Sort();
   /// Releases memory that only further numbers would use.
   void ShrinkToFit();
 
@@ -46,16 +48,20 @@ class ColumnNumbers {
   [[nodiscard]] bool AreDecimal() const noexcept { return are_decimal_; }
   /// The integers; empty unless AreDecimal().
   [[nodiscard]] const TQorInt64Vector& Integers() const noexcept { return integers_; }
+  /// 0 for values.
   [[nodiscard]] int Decimals() const noexcept { return decimals_; }
-  /// The value of that many units, 10^-decimals each.
+  /// Calls the function with the integers or else with the values.
+  template <class Function>
+  decltype(auto) Visit(Function function) const {
+    return are_decimal_ ? function(integers_) : function(values_);
+  }
+  /// The value of that many units, 10^-decimals each; values count units of 1.
   [[nodiscard]] Extended ValueOf(Extended units) const;
 
   /// The numbers as values.
   [[nodiscard]] TQorFloatVector Values() const;
   /// The same. No numbers are left, so that the vector is the only handle to its buffer.
   [[nodiscard]] TQorFloatVector TakeValues();
-  /// The integers. No numbers are left; the decimals remain.
-  [[nodiscard]] TQorInt64Vector TakeIntegers();
 
  private:
   [[nodiscard]] bool Rescale(int decimals);

@@ -16,33 +16,38 @@ bool ShowsADigit(Extended figure, int decimals) {
 
 }  // namespace
 
-HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int decimals) {
-  constexpr Extended epsilon = std::numeric_limits<Extended>::epsilon();
-  const auto count = static_cast<Extended>(n);
-  // The error that rounding in the sum can cause in the mean and in deviations from it.
-  const Extended noise = count * epsilon * std::sqrt(results.sum_sq / count);
-
+HiddenFigures HiddenAmong(std::span<const Extended> figures, int decimals) {
   HiddenFigures hidden;
-  const auto look_at = [&](Extended figure, Extended negligible) {
+  for (const Extended figure : figures) {
     const Extended size = std::fabs(figure);
-    if (!(size > negligible) || ShowsADigit(size, decimals)) return;
+    if (!(size > 0) || ShowsADigit(size, decimals)) continue;
     ++hidden.count;
     const int enough = 3 - static_cast<int>(std::floor(std::log10(size)));
     hidden.enough_decimals = std::max(hidden.enough_decimals, enough);
-  };
-  look_at(results.sum, count * noise);
-  look_at(results.mean, noise);
-  look_at(results.std_dev, noise);
-  look_at(results.variance, noise * noise);
-  // These are not computed from sums in which terms could cancel.
-  const Extended mode = results.mode_exists ? results.mode : 0;
-  for (const Extended figure :
-       {results.sum_sq, results.median, mode, results.minimum, results.maximum,
-        results.maximum - results.minimum, results.quartile_1st, results.quartile_3rd,
-        results.inter_quartile_range}) {
-    look_at(figure, 0);
   }
   return hidden;
+}
+
+Extended MeanNoise(const DescriptiveResults& results, std::size_t n) {
+  constexpr Extended epsilon = std::numeric_limits<Extended>::epsilon();
+  const auto count = static_cast<Extended>(n);
+  return count * epsilon * std::sqrt(results.sum_sq / count);
+}
+
+HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int decimals) {
+  const Extended noise = MeanNoise(results, n);
+  const auto unless_noise = [](Extended figure, Extended negligible) {
+    return std::fabs(figure) > negligible ? figure : 0;
+  };
+  const Extended figures[] = {
+      unless_noise(results.sum, static_cast<Extended>(n) * noise),
+      unless_noise(results.mean, noise), unless_noise(results.std_dev, noise),
+      unless_noise(results.variance, noise * noise),
+      // These are not computed from sums in which terms could cancel.
+      results.sum_sq, results.median, results.mode_exists ? results.mode : 0, results.minimum,
+      results.maximum, results.maximum - results.minimum, results.quartile_1st,
+      results.quartile_3rd, results.inter_quartile_range};
+  return HiddenAmong(figures, decimals);
 }
 
 }  // namespace qorvex::apps

@@ -4,6 +4,7 @@
 /// Figures that a report rounds to zero.
 
 #include <cstddef>
+#include <span>
 
 #include "qorvex/stats/descriptive_stats.h"
 
@@ -17,9 +18,17 @@ struct HiddenFigures {
   int enough_decimals = 0;
 };
 
-/// The figures of a sample of n values that a report with that many decimals hides. Skewness and
-/// kurtosis are not checked, because they do not depend on the unit of the values. A sum, mean,
-/// variance or standard deviation is ignored if rounding errors explain that it is not 0.
+/// The figures that a report with that many decimals hides.
+[[nodiscard]] HiddenFigures HiddenAmong(std::span<const Extended> figures, int decimals);
+
+/// The error that rounding in the ordered sum of n values can cause in their mean and in deviations
+/// from it.
+[[nodiscard]] Extended MeanNoise(const DescriptiveResults& results, std::size_t n);
+
+/// The figures of the classic routines for a sample of n values that a report with that many
+/// decimals hides. Skewness and kurtosis are not checked, because they do not depend on the unit of
+/// the values. A sum, mean, variance or standard deviation is ignored if rounding errors explain
+/// that it is not 0.
 [[nodiscard]] HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n,
                                      int decimals);
 

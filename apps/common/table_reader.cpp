@@ -59,18 +59,27 @@ std::size_t FindColumn(const std::string& chosen, std::span<const std::string> n
 }
 
 // The positions, from 0, of the chosen columns without duplicates; of all columns if none is
-// chosen.
-std::vector<std::size_t> ChosenColumns(std::span<const std::string> chosen,
+// chosen. The weights are the last.
+std::vector<std::size_t> ChosenColumns(const TableSelection& selection,
                                        std::span<const std::string> names, std::size_t width,
                                        const std::string& input_name) {
   std::vector<std::size_t> indices;
-  if (chosen.empty()) {
+  if (selection.columns.empty()) {
     indices.resize(width);
     std::iota(indices.begin(), indices.end(), std::size_t{0});
   }
-  for (const std::string& column : chosen) {
+  for (const std::string& column : selection.columns) {
     const std::size_t index = FindColumn(column, names, width, input_name);
     if (std::ranges::find(indices, index) == indices.end()) indices.push_back(index);
+  }
+  if (selection.weights) {
+    const std::size_t index = FindColumn(*selection.weights, names, width, input_name);
+    std::erase(indices, index);
+    if (indices.empty()) {
+      throw InputError(InputFault::kNoSuchColumn, input_name,
+                       "there is no column beside the weights");
+    }
+    indices.push_back(index);
   }
   return indices;
 }
@@ -83,11 +92,12 @@ class ColumnCollector {
         skip_empty_(selection.skip_empty),
         whole_rows_(selection.whole_rows),
         currency_(selection.currency),
+        weighted_(selection.weights.has_value()),
         first_line_(rows.Line()),
         width_(rows.Cells().size()) {
     if (selection.header.value_or(HoldsText(rows.Cells())))
       header_.assign(rows.Cells().begin(), rows.Cells().end());
-    for (const std::size_t index : ChosenColumns(selection.columns, header_, width_, rows.Name())) {
+    for (const std::size_t index : ChosenColumns(selection, header_, width_, rows.Name())) {
       columns_.push_back({.number = index + 1, .name = HasHeader() ? header_[index] : ""});
     }
   }
@@ -138,7 +148,7 @@ class ColumnCollector {
   void Add(std::string_view cell, TableColumn& column) const {
     const CellPlace place = Place(column, rows_.Line());
     std::optional<DecimalNumber> exact;
-    if (currency_) {
+    if (currency_ && !(weighted_ && &column == &columns_.back())) {
       exact = {AmountIn(cell, place).stored(), -Currency::kDecimals};
     } else if (column.numbers.AreDecimal()) {
       exact = ParseDecimal(cell);
@@ -159,6 +169,7 @@ class ColumnCollector {
   bool skip_empty_;
   bool whole_rows_;
   bool currency_;
+  bool weighted_;
   std::size_t first_line_;
   std::size_t width_;
   std::vector<std::string> header_;

@@ -18,6 +18,9 @@ struct TableSelection {
   /// Names or 1-based numbers, in the order of the result. A name takes precedence over a number;
   /// duplicates are ignored. Empty for all columns.
   std::vector<std::string> columns = {};
+  /// The name or number of a further column, of weights, which becomes the last of the result and
+  /// is none of the others.
+  std::optional<std::string> weights = {};
   /// As for RowReader: detected if not set; a space stands for any run of spaces and tabs.
   std::optional<char> delimiter = {};
   /// Whether the first row is a header. If not set, it is one if any of its cells is text.
@@ -27,7 +30,7 @@ struct TableSelection {
   /// With skip_empty, skip the whole row if any chosen cell in it is empty, so that values with the
   /// same index belong to the same row.
   bool whole_rows = false;
-  /// Read the cells as amounts of money.
+  /// Read the cells, except weights, as amounts of money.
   bool currency = false;
 };
 

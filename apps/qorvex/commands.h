@@ -10,6 +10,9 @@ namespace qorvex::apps {
 /// `describe`: the descriptive statistics of columns of numbers.
 void AddDescribe(CLI::App& program);
 
+/// `compare`: two columns side by side.
+void AddCompare(CLI::App& program);
+
 /// `fit`: least-squares curves through columns of a table.
 void AddFit(CLI::App& program);
 

@@ -67,6 +67,7 @@ int Run(int argc, char** argv) {
       "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
+  AddCompare(program);
   AddFit(program);
   AddTestCommands(program);
   AddMatrix(program);

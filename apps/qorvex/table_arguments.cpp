@@ -105,6 +105,18 @@ void TableArguments::AddPairTo(CLI::App& command) {
             "instead of refusing them");
 }
 
+CLI::Option* TableArguments::AddWeightsTo(CLI::App& command) {
+  return command
+      .add_option_function<std::string>(
+          "--weights",
+          [this](const std::string& column) {
+            selection.weights = column;
+            selection.whole_rows = true;
+          },
+          "The column of the weights of the rows")
+      ->type_name("NAME|N");
+}
+
 std::vector<TableColumn> TableArguments::Read() const {
   try {
     Table table = ReadTable(OpenTextInput(file), selection);

@@ -28,6 +28,10 @@ struct TableArguments {
   /// The same with --x and --y for two columns whose values with the same index are from one row.
   void AddPairTo(CLI::App& command);
 
+  /// Adds --weights, a column whose values with the same index are from the same row as those of
+  /// the others.
+  CLI::Option* AddWeightsTo(CLI::App& command);
+
   /// Reads the table. Writes to standard error how many empty cells, or rows, were skipped, and
   /// warns if the row that was read as a header may be data. The text of an InputError suggests an
   /// argument where one helps.

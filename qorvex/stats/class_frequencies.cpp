@@ -11,27 +11,57 @@ namespace qorvex::inline QorvexStatistics {
 
 namespace {
 
+constexpr std::int64_t kBelow = -1;
+constexpr std::int64_t kUnknown = -2;
+
 // Finds the classes of values.
 class Classes {
  public:
   // `unit` is the relative resolution of the values.
-  Classes(Extended lower, Extended width, Extended unit)
-      : lower_(lower), width_(width), tolerance_(4 * unit), least_(std::fabs(lower)) {}
+  Classes(Extended lower, Extended width, std::uint32_t count, Extended unit)
+      : lower_(lower),
+        width_(width),
+        end_(count),
+        tolerance_(4 * unit),
+        lower_estimate_(static_cast<double>(lower)),
+        scale_(static_cast<double>(1 / width)) {
+    // Twice what the tolerance and the rounding errors of an estimate amount to.
+    const Extended extent = std::max(std::fabs(lower), std::fabs(lower + end_ * width));
+    margin_ = static_cast<double>((8 * unit + 0x1p-48L) * extent / width);
+  }
 
-  // The class of a value among unlimited many in both directions; NaN for NaN.
-  [[nodiscard]] Extended Of(Extended x) const {
-    const Extended position = (x - lower_) / width_;
-    const Extended nearest = std::rint(position);
-    const Extended tolerance = tolerance_ * std::max(least_, std::fabs(x));
-    if (std::fabs(position - nearest) * width_ <= tolerance) return nearest;
-    return std::floor(position);
+  // The class of a value; kBelow, or the number of classes or more for values above all; kUnknown
+  // for NaN.
+  template <NumericElement T>
+  [[nodiscard]] std::int64_t Of(T value) const {
+    // In doubles, which is enough unless the value is near a bound.
+    const double estimate = (static_cast<double>(value) - lower_estimate_) * scale_;
+    if (estimate > -1 && estimate < 0x1p33) {
+      const std::int64_t index = static_cast<std::int64_t>(estimate + 1) - 1;
+      const double part = estimate - static_cast<double>(index);
+      if (part > margin_ && part < 1 - margin_) return index;
+    }
+    return Exactly(static_cast<Extended>(value));
   }
 
  private:
+  [[nodiscard]] std::int64_t Exactly(Extended x) const {
+    const Extended position = (x - lower_) / width_;
+    const Extended nearest = std::rint(position);
+    const Extended tolerance = tolerance_ * std::max(std::fabs(lower_), std::fabs(x));
+    const bool at_bound = std::fabs(position - nearest) * width_ <= tolerance;
+    const Extended index = at_bound ? nearest : std::floor(position);
+    if (std::isnan(index)) return kUnknown;
+    return static_cast<std::int64_t>(std::clamp<Extended>(index, kBelow, end_));
+  }
+
   Extended lower_;
   Extended width_;
+  Extended end_;
   Extended tolerance_;
-  Extended least_;
+  double lower_estimate_;
+  double scale_;
+  double margin_;
 };
 
 template <NumericElement T>
@@ -49,20 +79,17 @@ TQorLWordVector ClassFrequencies(VectorView<T> values, Extended lower, Extended 
   if (!std::isfinite(lower) || !(width > 0) || !std::isfinite(width) || count == 0) {
     RaiseMathError(rsInvalidClasses);
   }
-  const Classes classes(lower, width, kUnit<T>);
-  const auto end = static_cast<Extended>(count);
+  const Classes classes(lower, width, count, kUnit<T>);
   OutsideClasses found;
   auto frequencies = TQorLWordVector::WithLength(count);
   for (const T value : values) {
-    const Extended index = classes.Of(static_cast<Extended>(value));
-    if (index >= 0 && index < end) {
+    const std::int64_t index = classes.Of(value);
+    if (index >= 0 && index < count) {
       if (++frequencies[static_cast<std::size_t>(index)] == 0) throw EOverflow();
-    } else if (index < 0) {
-      ++found.below;
-    } else if (index >= end) {
+    } else if (index >= 0) {
       ++found.above;
     } else {
-      ++found.not_a_number;
+      ++(index == kBelow ? found.below : found.not_a_number);
     }
   }
   outside = found;

@@ -13,7 +13,6 @@
 /// - For all numeric elements.
 /// - Cost: O(n p^2) for p columns of n values.
 
-#include <initializer_list>
 #include <vector>
 
 #include "qorvex/base/export.h"

@@ -55,6 +55,37 @@ std::string ReportLine(const ReportFigure& figure, const std::string& text) {
   return figure.value ? ReportText(figure.label) + '\t' + text : ReportText(figure.label);
 }
 
+std::vector<ReportFigure> DescriptiveFigures(const DescriptiveResults& r, std::size_t count,
+                                             bool population, bool has_spread) {
+  if (count == 0) return {};
+
+  const auto moment = [&](ReportTextId id, Extended value, std::size_t least,
+                          ReportTextId not_enough, ReportTextId no_spread) -> ReportFigure {
+    if (count < least) return {not_enough};
+    if (!has_spread) return {no_spread};
+    return {id, value};
+  };
+  const bool has_variance = population || count > 1;
+  return {
+      {rsDSNoOfValues, static_cast<Extended>(count)},
+      {rsDSMaximum, r.maximum},
+      {rsDSMinimum, r.minimum},
+      {rsDSRange, r.maximum - r.minimum},
+      {rsDSSum, r.sum},
+      {rsDSSumSQ, r.sum_sq},
+      {rsDSMean, r.mean},
+      r.mode_exists ? ReportFigure{rsDSMode, r.mode} : ReportFigure{rsDSNoMode},
+      {rsDSMedian, r.median},
+      has_variance ? ReportFigure{rsDSVariance, r.variance} : ReportFigure{rsDSNEVariance},
+      has_variance ? ReportFigure{rsDSStdDev, r.std_dev} : ReportFigure{rsDSNEStdDev},
+      moment(rsDSKurtosis, r.kurtosis, kMinCountForKurtosis, rsDSNEKurtosis, rsDSSDKurtosis),
+      moment(rsDSSkew, r.skew, kMinCountForSkew, rsDSNESkew, rsDSSDSkew),
+      {rsDSQtr1, r.quartile_1st},
+      {rsDSQtr3, r.quartile_3rd},
+      {rsDSIQR, r.inter_quartile_range},
+  };
+}
+
 DescriptiveStats::DescriptiveStats(const DescriptiveStats& other)
     : values_(CopyVector(other.values_)),
       sorted_(CopyVector(other.sorted_)),
@@ -198,35 +229,8 @@ void DescriptiveStats::UpdateFromSums() {
 
 std::vector<ReportFigure> DescriptiveStats::Figures() {
   if (updating_) EndUpdate();
-  const std::size_t count = values_.size();
-  if (count == 0) return {};
-
-  const DescriptiveResults& r = results_;
-  const auto moment = [&](ReportTextId id, Extended value, std::size_t least,
-                          ReportTextId not_enough, ReportTextId no_spread) -> ReportFigure {
-    if (count < least) return {not_enough};
-    if (FloatIsZero(r.std_dev)) return {no_spread};
-    return {id, value};
-  };
-  const bool has_variance = population_ || count > 1;
-  return {
-      {rsDSNoOfValues, static_cast<Extended>(count)},
-      {rsDSMaximum, r.maximum},
-      {rsDSMinimum, r.minimum},
-      {rsDSRange, r.maximum - r.minimum},
-      {rsDSSum, r.sum},
-      {rsDSSumSQ, r.sum_sq},
-      {rsDSMean, r.mean},
-      r.mode_exists ? ReportFigure{rsDSMode, r.mode} : ReportFigure{rsDSNoMode},
-      {rsDSMedian, r.median},
-      has_variance ? ReportFigure{rsDSVariance, r.variance} : ReportFigure{rsDSNEVariance},
-      has_variance ? ReportFigure{rsDSStdDev, r.std_dev} : ReportFigure{rsDSNEStdDev},
-      moment(rsDSKurtosis, r.kurtosis, kMinCountForKurtosis, rsDSNEKurtosis, rsDSSDKurtosis),
-      moment(rsDSSkew, r.skew, kMinCountForSkew, rsDSNESkew, rsDSSDSkew),
-      {rsDSQtr1, r.quartile_1st},
-      {rsDSQtr3, r.quartile_3rd},
-      {rsDSIQR, r.inter_quartile_range},
-  };
+  return DescriptiveFigures(results_, values_.size(), population_,
+                            FloatIsNotZero(results_.std_dev));
 }
 
 std::vector<std::string> DescriptiveStats::Report(int decimals) {

@@ -62,6 +62,11 @@ struct QORVEX_EXPORT ReportFigure {
   [[nodiscard]] std::string Text(int decimals) const;
 };
 
+/// The figures of a report on n values in their order; none for n = 0. Skewness and kurtosis exist
+/// only if the values have a spread: a standard deviation that counts as different from zero.
+[[nodiscard]] QORVEX_EXPORT std::vector<ReportFigure> DescriptiveFigures(
+    const DescriptiveResults& results, std::size_t n, bool population, bool has_spread);
+
 /// A line of a report as text: the label, then, if the figure exists, a tab and its text.
 [[nodiscard]] QORVEX_EXPORT std::string ReportLine(const ReportFigure& figure,
                                                    const std::string& text);

@@ -53,9 +53,8 @@ enum class QuantileType : std::uint8_t {
 /// - n = 1: the element.
 /// - NaN sorts last and gives NaN where it takes part. Between -infinity and infinity the result is
 ///   NaN, between a finite element and an infinite one the infinity.
-/// - EMathError, in this order: rsVectorIsEmpty; rsValue01Inc unless 0 <= p <= 1; rsInvalidValue
-/// for a type
-///   outside 1 to 9.
+/// - EMathError, in this order: rsVectorIsEmpty; rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for
+///   a type outside 1 to 9.
 /// - For all numeric elements. O(1).
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT Extended GetQuantile(VectorView<T> sorted, Extended p,

@@ -7,8 +7,8 @@
 /// - The moments are those of GetSampleSkew and its neighbours for T values at the midpoints of
 ///   their classes, where T is the total frequency. Each deviation is weighted by the frequency of
 ///   its class.
-/// - The figures depend neither on the lower bound of the table nor on its width, so they are no
-///   parameters.
+/// - The figures depend neither on the lower bound of the table nor on its width, so these are
+///   not asked for.
 /// - The moments are computed in integers and rounded once: the result is the nearest 80-bit
 ///   number.
 /// - Cost: O(n) for n classes.

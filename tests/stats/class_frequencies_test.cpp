@@ -17,9 +17,10 @@ TYPED_TEST(ClassFrequenciesOf, DecimalsAtTheBounds) {
   for (const int lower : {-700, 0, 3, 1000}) {
     for (int k = 0; k < 400; ++k) {
       const auto decimal = static_cast<TypeParam>(Extended(lower + k) / 10);
-      const TQorVector<TypeParam> values{decimal};
+      const TQorVector<TypeParam> values{decimal, decimal + TypeParam(0.04),
+                                         decimal + TypeParam(0.09)};
       const TQorLWordVector found = ClassFrequencies(values, lower / 10.0L, 0.1L, 400);
-      ASSERT_EQ(found[static_cast<std::size_t>(k)], 1U) << lower << ", " << k;
+      ASSERT_EQ(found[static_cast<std::size_t>(k)], 3U) << lower << ", " << k;
     }
   }
 }
@@ -36,6 +37,8 @@ TEST(ClassFrequencies, CountWhatIsOutside) {
   EXPECT_EQ(ClassFrequencies(TQorByteVector{255, 0, 128}, -1, 129, 2), (TQorLWordVector{1, 2}));
   EXPECT_EQ(ClassFrequencies(TQorFloatVector{1 - 0x1p-63L, 1 - 0x1p-60L}, 0, 0.5L, 3),
             (TQorLWordVector{0, 1, 1}));
+  EXPECT_EQ(ClassFrequencies(TQorFloatVector{1.25e4000L, 1e4000L}, 1e4000L, 1e3999L, 3),
+            (TQorLWordVector{1, 0, 1}));
   EXPECT_EQ(ClassFrequencies(TQorFloatVector(), 5, 1, 2), (TQorLWordVector{0, 0}));
 }
 

@@ -3,6 +3,7 @@
 
 #include "qorvex/stats/QorvexPairStats.h"
 #include "qorvex/stats/QorvexStatistics.h"
+#include "qorvex/stats/exact/exact_pairs.h"
 #include "support/table.h"
 #include "support/test.h"
 
@@ -53,6 +54,14 @@ TEST(Nist, DigitsOfLinesAndParabolas) {
   expect_digits(0, "b1", b1, 18);
   expect_digits(0, "rss", GetSSE(x, y, b0, b1), 16);
   expect_digits(0, "r2", CoeffDetermination(x, y), 18);
+
+  ExactPairs pairs;
+  pairs.Add(x, y);
+  for (const auto& [column, figure] : {std::pair("b0", pairs.Intercept()),
+                                       {"b1", pairs.Slope()},
+                                       {"rss", pairs.SumOfSquaredErrors()},
+                                       {"r2", pairs.Determination()}})
+    EXPECT_EQ(figure, sets.Value(0, column)) << column;
 
   Extended b2 = 0;
   x = y = TQorFloatVector();

@@ -96,6 +96,11 @@ TEST(ElementTables, Estimators) {
                TYPES_READ_BY(SampleStdDevAndMean(v, e, e)),
                TYPES_READ_BY(PopulationStdDevAndMean(v, e, e)), TYPES_READ_BY(GetMedian(v)),
                TYPES_READ_BY(TrimmedMean(v, 0)), TYPES_READ_BY(ExcelTrimmedMean(v, 0))});
+  ExpectTypes("gdfjuiwsbt",
+              {TYPES_READ_BY(GetQuantile(v, 1)), TYPES_READ_BY(MedianAbsoluteDeviation(v)),
+               TYPES_READ_BY(ClassFrequencies(v, 0, 1, 2)), TYPES_READ_BY(DoubledMidranks(v)),
+               TYPES_READ_BY(KendallTau(v, w)), TYPES_READ_BY(SpearmanRho(w, v)),
+               TYPES_OF(CovarianceMatrix(m)), TYPES_OF(CorrelationMatrix(m))});
   ExpectTypes("g", {TYPES_READ_BY(GetMode(v, e)),
                     TYPES_READ_BY(GetMostFrequent(v)),
                     TYPES_READ_BY(GetQuartiles(v, e, e)),

@@ -31,14 +31,6 @@ Extended WithoutSignOfZero(Extended x) noexcept {
   return x + 0.0L;
 }
 
-// The values, for WindowedSum.
-template <class T>
-struct Values {
-  const T* values;
-  [[nodiscard]] Parts<1> operator()(std::size_t i) const noexcept { return PartsOf(values[i]); }
-  [[nodiscard]] Extended Value(std::size_t i) const noexcept { return values[i]; }
-};
-
 template <class Choose>
 std::optional<Extended> Merged(std::optional<Extended> a, std::optional<Extended> b,
                                Choose choose) {
@@ -63,7 +55,7 @@ void ExactSample<kPowerSums>::Add(VectorView<T> values) {
     Extremes<T> extremes;
     for (std::size_t begin = 0; begin < values.size(); begin += Sum::kBlock) {
       const std::size_t end = std::min(begin + Sum::kBlock, values.size());
-      sum.Add(Values<T>{values.data()}, begin, end, part.special_);
+      sum.Add(Products<T, 1>({values.data()}), begin, end, part.special_);
       extremes.Add(values.subspan(begin, end - begin));
     }
     sum.Flush();

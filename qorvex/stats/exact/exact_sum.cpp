@@ -2,77 +2,49 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/detail/block_sum.h"
 #include "qorvex/stats/exact/detail/integer_sums.h"
 #include "qorvex/stats/exact/detail/windowed_sum.h"
 
 namespace qorvex {
 
-namespace {
-
 using namespace exact::detail;
 
-// The products of elements with the same index, for WindowedSum.
-template <class T, std::size_t kFactors>
-struct Products {
-  std::array<const T*, kFactors> factors;
-
-  [[nodiscard]] Parts<kFactors> operator()(std::size_t i) const noexcept {
-    return Product<kFactors>(i);
-  }
-  [[nodiscard]] Extended Value(std::size_t i) const noexcept {
-    Extended product = 1;
-    for (const T* const factor : factors) product *= static_cast<Extended>(factor[i]);
-    return product;
-  }
-
- private:
-  template <std::size_t kCount>
-  [[nodiscard]] Parts<kCount> Product(std::size_t i) const noexcept {
-    if constexpr (kCount == 1) {
-      return PartsOf(factors[0][i]);
-    } else {
-      return Multiply(Product<kCount - 1>(i), PartsOf(factors[kCount - 1][i]));
-    }
-  }
-};
-
-template <std::size_t kFactors>
-bool IsNegativeZero(const Parts<kFactors>& x) noexcept {
-  return x.mantissa == Words<kFactors>{} && x.sign != 0 && x.special == 0;
-}
-
-}  // namespace
-
-// Terms of which the first few need no table, and every other has a counter.
 template <class T, std::size_t kFactors>
 void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size_t count) {
-  const Products<T, kFactors> source{factors};
+  const Products<T, kFactors> products(factors);
   for (std::size_t i = 0; i < count && zero_ != Zero::kPositive; ++i) {
-    zero_ = IsNegativeZero(source(i)) ? Zero::kNegative : Zero::kPositive;
+    const Extended value = products.Value(i);
+    zero_ = value == 0 && std::signbit(value) ? Zero::kNegative : Zero::kPositive;
   }
   constexpr std::size_t kFew = 16;
   if (count <= kFew) {
     for (std::size_t i = 0; i < count; ++i) {
-      const auto x = source(i);
-      if (x.special != 0) {
-        special_.Add(source.Value(i));
-      } else {
-        Lane<kFactors, 1, true>::AddToTotal(x.mantissa, x.exponent, x.sign != 0, total_);
+      if (!products.IsFinite(i)) {
+        special_.Add(products.Value(i));
+        continue;
       }
+      const auto x = products(i);
+      Lane<kFactors, 1, true>::AddToTotal(x.mantissa, x.Exponent(), x.Sign() != 0, total_);
     }
-    return;
-  }
-  if constexpr (kFactors == 1 && IntegerElement<T>) {
+  } else if constexpr (kFactors == 1 && IntegerElement<T>) {
     AddIntegerPowers<1>(std::span(factors[0], count), &total_);
   } else {
     using Sum = WindowedSum<ProductLanes<kFactors>>;
     Sum sum(&total_);
+    [[maybe_unused]] BlockSum<T> blocks(total_);
     for (std::size_t begin = 0; begin < count; begin += Sum::kBlock) {
-      sum.Add(source, begin, std::min(begin + Sum::kBlock, count), special_);
+      const std::size_t end = std::min(begin + Sum::kBlock, count);
+      if constexpr (kFactors == 1) {
+        if (blocks.Add(std::span(factors[0] + begin, end - begin))) continue;
+      }
+      sum.Add(products, begin, end, special_);
     }
+    if constexpr (kFactors == 1) blocks.Flush();
     sum.Flush();
   }
 }

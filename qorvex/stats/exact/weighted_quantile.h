@@ -15,18 +15,18 @@ namespace qorvex {
 /// sorted[i].
 ///
 /// - Type 1 is the inverse of the weighted distribution function: the first value up to which the
-///   cumulated weights are at least p times their sum. Type 2 is the mean of that value and the
-///   next where they are equal. For any weights.
+///   weights add up to p times their sum or more. Type 2 is the mean of that value and the next if
+///   they add up to exactly that. For any weights.
 /// - The types 3 to 9 are GetQuantile of the sample in which each value is repeated as often as its
 ///   weight says, without building it. Frequencies are whole numbers whose sum is at most 2^62.
 ///   For such weights types 1 and 2 agree with GetQuantile as well.
-/// - Cumulated weights are exact. A sum less than 4 units in the last place from p times the total
-///   is equal to it.
+/// - Weights are added exactly. A sum within 4 units in the last place of p times the total counts
+///   as equal to it.
 /// - A value of weight 0 does not count, not even NaN. NaN sorts last; see GetQuantile.
-/// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside 1 to 9; rsSameDimensions for different
-///   lengths; rsVectorIsEmpty; rsInvalidWeight if a weight is negative, infinite or NaN;
-///   rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9 get other weights than
-///   frequencies.
+/// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside
+///   1 to 9; rsSameDimensions for different lengths; rsVectorIsEmpty; rsInvalidWeight if a weight is
+///   negative, infinite or NaN; rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9 get
+///   other weights than frequencies.
 /// - For all numeric elements; values and weights may differ in type. Elements that are not
 ///   Extended are converted to a temporary vector.
 /// - Cost: O(n).

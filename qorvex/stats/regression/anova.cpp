@@ -5,7 +5,7 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/exact/rational.h"
-#include "qorvex/stats/exact/exact_sum.h"
+#include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/stats/regression/detail/figures.h"
 
 namespace qorvex {
@@ -16,17 +16,13 @@ using exact::Rational;
 
 namespace {
 
-// The sums over a group, of the integers if it has decimal data.
-struct Group {
-  std::size_t count = 0;
-  ExactSum sum;
-  ExactSum sum_of_squares;
-};
+// A group: of decimal data the integers.
+using Group = ExactSample<2>;
 
 OneWayAnovaTable TableOf(const std::vector<Group>& groups, const std::vector<int>& decimals) {
   if (groups.size() < 2) RaiseMathError(rsValue2);
   for (const Group& group : groups) {
-    if (group.count == 0) RaiseMathError(rsVectorIsEmpty);
+    if (group.Count() == 0) RaiseMathError(rsVectorIsEmpty);
   }
   // Fractions have few denominators if groups of one size are taken together.
   std::map<std::size_t, Dyadic> squares_of_sums;
@@ -36,13 +32,12 @@ OneWayAnovaTable TableOf(const std::vector<Group>& groups, const std::vector<int
   Dyadic sum_of_squares;
   for (std::size_t g = 0; g < groups.size(); ++g) {
     const Group& group = groups[g];
-    if (!group.sum.IsFinite()) throw EInvalidOp();
     const Dyadic scale(BigInteger::PowerOfTen(static_cast<unsigned>(most - decimals[g])));
-    const Dyadic group_sum = group.sum.Value() * scale;
-    count += group.count;
+    const Dyadic group_sum = group.PowerSum(1).Numerator() * scale;
+    count += group.Count();
     sum += group_sum;
-    sum_of_squares += group.sum_of_squares.Value() * scale * scale;
-    squares_of_sums[group.count] += group_sum * group_sum;
+    sum_of_squares += group.PowerSum(2).Numerator() * scale * scale;
+    squares_of_sums[group.Count()] += group_sum * group_sum;
   }
   Rational of_groups;
   for (const auto& [size, squares] : squares_of_sums) of_groups += Rational(squares, size);
@@ -72,10 +67,7 @@ OneWayAnovaTable ByLabel(VectorView<Label> labels, const ColumnView& values) {
   for (std::size_t i = 0; i < labels.size(); ++i) by_label[labels[i]].push_back(elements[i]);
   std::vector<Group> groups;
   for (const auto& [label, members] : by_label) {
-    Group& group = groups.emplace_back();
-    group.count = members.size();
-    group.sum.Add(members);
-    group.sum_of_squares.AddSquare(members);
+    groups.emplace_back().Add(members);
   }
   return TableOf(groups, std::vector<int>(groups.size(), values.Decimals()));
 }
@@ -88,10 +80,7 @@ OneWayAnovaTable OneWayAnova(const Columns& groups) {
   std::vector<Extended> buffer;
   for (const ColumnView& column : groups) {
     const VectorView<Extended> members = column.Read(0, column.Size(), buffer);
-    Group& group = sums.emplace_back();
-    group.count = members.size();
-    group.sum.Add(members);
-    group.sum_of_squares.AddSquare(members);
+    sums.emplace_back().Add(members);
     decimals.push_back(column.Decimals());
   }
   return TableOf(sums, decimals);

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/stats/regression/detail/power_sums.h"
 
@@ -63,6 +64,64 @@ std::size_t ForEachBlock(const std::vector<ColumnView>& columns, bool has_weight
   return rows;
 }
 
+// The sums of w z_i z_j over blocks. The first column may be the constant 1, which is not in the
+// blocks; the weights are the last one there.
+class BlockSums {
+ public:
+  BlockSums(std::size_t constants, std::size_t size, bool has_weights)
+      : constants_(constants), has_weights_(has_weights), products_(size), columns_(size) {
+    for (auto& row : products_) row.resize(size);
+  }
+
+  void Add(const Block& block) {
+    rows_ += block.front().size();
+    for (std::size_t j = 0; j < products_.size(); ++j) {
+      if (IsSample(0, j)) columns_[j].Add(block[j - 1]);
+      for (std::size_t i = 0; i <= j; ++i) {
+        if (!IsSample(i, j)) AddProduct(block, i, j);
+      }
+    }
+  }
+
+  // EInvalidOp if a value was not finite.
+  [[nodiscard]] Dyadic Value(std::size_t i, std::size_t j) const {
+    if (IsSample(i, j)) return columns_[j].PowerSum(i == 0 ? 1 : 2).Numerator();
+    if (j < constants_ && !has_weights_) return rows_;
+    if (!products_[i][j].IsFinite()) throw EInvalidOp();
+    return products_[i][j].Value();
+  }
+
+ private:
+  // A sum of values or of squares, of which a sample has both for little more than one.
+  [[nodiscard]] bool IsSample(std::size_t i, std::size_t j) const {
+    return constants_ == 1 && !has_weights_ && j > 0 && (i == 0 || i == j);
+  }
+
+  void AddProduct(const Block& block, std::size_t i, std::size_t j) {
+    ExactSum& sum = products_[i][j];
+    const auto column = [&](std::size_t k) { return block[k - constants_]; };
+    if (i >= constants_) {
+      if (has_weights_) {
+        sum.AddProduct(column(i), column(j), block.back());
+      } else {
+        sum.AddProduct(column(i), column(j));
+      }
+    } else if (has_weights_) {
+      if (j >= constants_) {
+        sum.AddProduct(column(j), block.back());
+      } else {
+        sum.Add(block.back());
+      }
+    }
+  }
+
+  std::size_t constants_;
+  bool has_weights_;
+  std::size_t rows_ = 0;
+  std::vector<std::vector<ExactSum>> products_;
+  std::vector<ExactSample<2>> columns_;
+};
+
 }  // namespace
 
 GramMatrix::GramMatrix(const ModelForm& form) : form_(form), decimals_(form.Predictors() + 2) {
@@ -102,42 +161,18 @@ GramMatrix::Batch GramMatrix::SumsOf(const Columns& predictors, const ColumnView
   if (form_.is_polynomial) {
     detail::PowerSums sums(form_.terms);
     batch.rows = ForEachBlock(columns, weights != nullptr, [&](const Block& block) {
-      for (std::size_t i = 0; i < block[0].size(); ++i)
-        sums.Add(block[0][i], block[1][i], weights != nullptr ? block[2][i] : 1);
+      sums.Add(block[0], block[1], weights != nullptr ? block[2] : VectorView<Extended>());
     });
     batch.sums = sums.Values();
     return batch;
   }
 
-  std::vector<ExactSum> sums(sums_.size());
-  batch.rows = ForEachBlock(columns, weights != nullptr, [&](const Block& block) {
-    for (std::size_t j = 0; j < Size(); ++j) {
-      for (std::size_t i = 0; i <= j; ++i) {
-        ExactSum& sum = sums[Slot(i, j)];
-        Block factors;
-        for (const std::size_t column : {i, j}) {
-          if (column >= form_.Constants()) factors.push_back(block[column - form_.Constants()]);
-        }
-        if (weights != nullptr) factors.push_back(block.back());
-        switch (factors.size()) {
-          case 0:
-            sum.Add(static_cast<Extended>(block.back().size()));
-            break;
-          case 1:
-            sum.Add(factors[0]);
-            break;
-          case 2:
-            sum.AddProduct(factors[0], factors[1]);
-            break;
-          default:
-            sum.AddProduct(factors[0], factors[1], factors[2]);
-        }
-      }
-    }
-  });
-  for (const ExactSum& sum : sums) {
-    if (!sum.IsFinite()) throw EInvalidOp();
-    batch.sums.push_back(sum.Value());
+  BlockSums sums(form_.Constants(), Size(), weights != nullptr);
+  batch.rows =
+      ForEachBlock(columns, weights != nullptr, [&](const Block& block) { sums.Add(block); });
+  batch.sums.resize(sums_.size());
+  for (std::size_t j = 0; j < Size(); ++j) {
+    for (std::size_t i = 0; i <= j; ++i) batch.sums[Slot(i, j)] = sums.Value(i, j);
   }
   return batch;
 }

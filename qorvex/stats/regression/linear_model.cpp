@@ -28,7 +28,8 @@ LinearModel::LinearModel(std::size_t predictors, Intercept intercept)
     : LinearModel(ModelForm{predictors, false, intercept}) {}
 
 LinearModel LinearModel::Polynomial(std::size_t degree, Intercept intercept) {
-  return LinearModel(ModelForm{degree, true, intercept});
+  // A line needs no powers, whose sums take longer.
+  return LinearModel(ModelForm{degree, degree != 1, intercept});
 }
 
 void LinearModel::Add(const Columns& predictors, const ColumnView& response) {

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <cmath>
+#include <algorithm>
 #include <cstdint>
-#include <map>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <vector>
 
 #include "qorvex/stats/regression/linear_model.h"
 #include "support/table.h"
-#include "support/test.h"
 
 namespace qorvex::testing {
 
@@ -33,23 +33,29 @@ struct DecimalColumn {
   [[nodiscard]] ColumnView View() const { return {integers, decimals}; }
 };
 
-/// The columns of a data file, as extended and as decimal numbers.
+/// The columns of a data file.
+inline std::vector<std::vector<std::string>> ReadTexts(const std::string& name,
+                                                       std::size_t columns) {
+  std::ifstream in(std::string(QORVEX_TEST_DATA) + "/nist/" + name);
+  std::vector<std::vector<std::string>> texts(columns);
+  for (std::string line; std::getline(in, line);) {
+    if (line.front() == '#') continue;
+    const std::vector<std::string> words = Words(line);
+    for (std::size_t c = 0; c < columns; ++c) texts[c].push_back(words.at(c));
+  }
+  return texts;
+}
+
+/// The same as extended and as decimal numbers.
 struct DataFile {
   std::vector<std::vector<Extended>> extended;
   std::vector<DecimalColumn> decimal;
 
-  DataFile(const std::string& name, std::size_t columns) : extended(columns) {
-    std::ifstream in(std::string(QORVEX_TEST_DATA) + "/nist/" + name);
-    std::vector<std::vector<std::string>> texts(columns);
-    for (std::string line; std::getline(in, line);) {
-      if (line.front() == '#') continue;
-      const std::vector<std::string> words = Words(line);
-      for (std::size_t c = 0; c < columns; ++c) {
-        extended[c].push_back(Str2Float(words.at(c)));
-        texts[c].push_back(words[c]);
-      }
+  DataFile(const std::string& name, std::size_t columns) {
+    for (const auto& texts : ReadTexts(name, columns)) {
+      std::ranges::transform(texts, std::back_inserter(extended.emplace_back()), Str2Float);
+      decimal.emplace_back(texts);
     }
-    for (const auto& column : texts) decimal.emplace_back(column);
   }
 
   [[nodiscard]] std::vector<ColumnView> Views(bool as_decimals) const {
@@ -60,24 +66,83 @@ struct DataFile {
   }
 };
 
-/// Expects each figure of a set to be the nearest extended number to the exact one; probabilities,
-/// whose names begin with p, to be no further off than the rounding of the statistic explains.
-inline void ExpectFigures(const Table& table, const std::string& set, const std::string& column,
-                          const std::map<std::string, Extended>& figures) {
-  std::size_t judged = 0;
-  for (std::size_t row = 0; row < table.size(); ++row) {
-    if (table.Text(row, "set") != set) continue;
-    ++judged;
-    const std::string& name = table.Text(row, "figure");
-    const Extended exact = table.Value(row, column);
-    if (name.starts_with("p") && exact > 0) {
-      EXPECT_LE(std::fabs(figures.at(name) - exact), 1e-18L * (1 - std::log(exact)) * exact)
-          << set << ' ' << name;
-    } else {
-      EXPECT_EQ(figures.at(name), exact) << set << ' ' << name << ' ' << column;
+/// A set of linear regression.
+struct LinearSet {
+  const char* name;
+  std::size_t predictors;
+  std::size_t degree;  // 0 for several predictors
+  Intercept intercept = Intercept::kIncluded;
+};
+
+inline constexpr LinearSet kLinearSets[] = {{"Norris", 1, 0},
+                                            {"Pontius", 1, 2},
+                                            {"NoInt1", 1, 0, Intercept::kOmitted},
+                                            {"NoInt2", 1, 1, Intercept::kOmitted},
+                                            {"Filip", 1, 10},
+                                            {"Longley", 6, 0},
+                                            {"Wampler1", 1, 5},
+                                            {"Wampler2", 1, 5},
+                                            {"Wampler3", 1, 5},
+                                            {"Wampler4", 1, 5},
+                                            {"Wampler5", 1, 5}};
+
+/// The fit of a set.
+inline LinearFit FitOf(const LinearSet& set, const DataFile& data, bool as_decimals) {
+  std::vector<ColumnView> columns = data.Views(as_decimals);
+  const ColumnView response = columns.back();
+  columns.pop_back();
+  LinearModel model = set.degree > 0 ? LinearModel::Polynomial(set.degree, set.intercept)
+                                     : LinearModel(set.predictors, set.intercept);
+  model.Add(columns, response);
+  return model.Fit();
+}
+
+/// A set of one-way ANOVA: its groups.
+struct AnovaSet {
+  std::string name;
+  std::vector<std::vector<Extended>> extended;
+  std::vector<DecimalColumn> decimal;
+
+  AnovaSet(std::string set, const std::vector<std::vector<std::string>>& groups)
+      : name(std::move(set)) {
+    for (const auto& texts : groups) {
+      std::ranges::transform(texts, std::back_inserter(extended.emplace_back()), Str2Float);
+      decimal.emplace_back(texts);
     }
   }
-  EXPECT_GE(judged, 9U) << set;
+
+  [[nodiscard]] std::vector<ColumnView> DecimalViews() const {
+    std::vector<ColumnView> views;
+    for (const DecimalColumn& column : decimal) views.push_back(column.View());
+    return views;
+  }
+};
+
+/// The sets of one-way ANOVA. SmLs01 to SmLs09 follow a rule: nine groups of values with one
+/// decimal.
+inline std::vector<AnovaSet> AnovaSets() {
+  std::vector<AnovaSet> sets;
+  for (const std::string set : {"SiRstv", "AtmWtAg"}) {
+    std::vector<std::vector<std::string>> groups;
+    const auto texts = ReadTexts(set + ".txt", 2);
+    for (std::size_t i = 0; i < texts[0].size(); ++i) {
+      if (i == 0 || texts[0][i] != texts[0][i - 1]) groups.emplace_back();
+      groups.back().push_back(texts[1][i]);
+    }
+    sets.emplace_back(set, groups);
+  }
+  const auto step = [](std::size_t k) { return k == 1 ? 2 : k % 2 == 0 ? 1 : 3; };
+  constexpr std::size_t replicates[] = {21, 201, 2001};
+  const std::string bases[] = {"1", "1000000", "1000000000000"};
+  for (std::size_t i = 0; i < 9; ++i) {
+    std::vector<std::vector<std::string>> groups(9);
+    for (std::size_t g = 1; g <= 9; ++g) {
+      for (std::size_t r = 1; r <= replicates[i % 3]; ++r)
+        groups[g - 1].push_back(bases[i / 3] + "." + std::to_string(step(g) + step(r)));
+    }
+    sets.emplace_back("SmLs0" + std::to_string(i + 1), groups);
+  }
+  return sets;
 }
 
 }  // namespace qorvex::testing

@@ -37,17 +37,18 @@ class Lane {
               negative);
   }
 
-  void Count(const Words<kSize>& term, std::uint32_t index, std::uint32_t sign) noexcept {
-    counters_[kSigned ? 2 * index + sign : index].Add(term);
+  // index: twice the number of the exponent in the window, plus the sign.
+  void Count(const Words<kSize>& term, std::uint32_t index) noexcept {
+    counters_[kSigned ? index : index / 2].Add(term);
   }
 
-  void AddOne(const Words<kSize>& term, std::uint32_t exponent, std::uint32_t sign) {
-    AddToTotal(term, exponent, kSigned && sign != 0, total_);
+  // key: twice the exponent, plus the sign.
+  void AddOne(const Words<kSize>& term, std::uint32_t key) {
+    AddToTotal(term, key / 2, kSigned && key % 2 != 0, total_);
   }
-
-  void AddScattered(const Words<kSize>& term, std::uint32_t exponent, std::uint32_t sign) {
+  void AddScattered(const Words<kSize>& term, std::uint32_t key) {
     if (!chunks_) chunks_ = std::make_unique<DenseChunks<kSize>>();
-    chunks_->Add(term, kStep * exponent, kSigned ? sign : 0, total_);
+    chunks_->Add(term, kStep * (key / 2), kSigned ? key % 2 : 0, total_);
   }
 
   // Adds the counters to the total. The first has the given exponent.
@@ -77,8 +78,8 @@ class ProductLanes {
 
   // Calls action(lane, term) for every sum that a value contributes to.
   template <class Action>
-  void ForEachTerm(const Parts<kFactors>& x, Action action) {
-    action(product_, x.mantissa);
+  void ForEachTerm(const Words<kFactors>& mantissa, Action action) {
+    action(product_, mantissa);
   }
   template <class Action>
   void ForEach(Action action) {
@@ -96,9 +97,9 @@ class PowerLanes {
   explicit PowerLanes(FixedPoint* totals) : first_(totals[0]), second_(totals[1]) {}
 
   template <class Action>
-  void ForEachTerm(const Parts<1>& x, Action action) {
-    action(first_, x.mantissa);
-    action(second_, Square(x.mantissa));
+  void ForEachTerm(const Words<1>& mantissa, Action action) {
+    action(first_, mantissa);
+    action(second_, Square(mantissa));
   }
   template <class Action>
   void ForEach(Action action) {
@@ -118,12 +119,13 @@ class PowerLanes<4> {
       : first_(totals[0]), second_(totals[1]), third_(totals[2]), fourth_(totals[3]) {}
 
   template <class Action>
-  void ForEachTerm(const Parts<1>& x, Action action) {
-    const Words<2> square = Square(x.mantissa);
-    action(first_, x.mantissa);
+  void ForEachTerm(const Words<1>& mantissa, Action action) {
+    const Words<2> square = Square(mantissa);
+    const Words<3> cube = Multiply(square, mantissa[0]);
+    action(first_, mantissa);
     action(second_, square);
-    action(third_, Multiply(square, x.mantissa[0]));
-    action(fourth_, Square(square));
+    action(third_, cube);
+    action(fourth_, Multiply(cube, mantissa[0]));
   }
   template <class Action>
   void ForEach(Action action) {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 
 #include "qorvex/stats/exact/detail/lane.h"
 #include "qorvex/stats/exact/detail/parts.h"
@@ -11,36 +10,25 @@
 
 namespace qorvex::exact::detail {
 
-// Feeds lanes with blocks of values. Chooses the window of their tables from the first values, and
-// leaves the tables for a while if too many values lie outside.
-//
-// A source is called with an index and returns the parts of that value; source.Value(i) is the
-// value itself, asked for only if it is not finite.
+// Feeds lanes with blocks of values from Products. Chooses the window of their tables from the
+// first values, and leaves the tables for a while if too many values lie outside.
 template <class Lanes>
 class WindowedSum {
  public:
-  // The blocks that Add takes.
-  static constexpr std::size_t kBlock = 1'024;
+  // The values that Add is meant for at a time.
+  static constexpr std::size_t kBlock = 256;
 
   explicit WindowedSum(FixedPoint* totals) : lanes_(totals) {}
 
-  template <class Source>
-  void Add(const Source& source, std::size_t begin, std::size_t end, SpecialCounts& special) {
+  template <class Values>
+  void Add(const Values& values, std::size_t begin, std::size_t end, SpecialCounts& special) {
     if (scattered_blocks_ > 0) {
       --scattered_blocks_;
-      for (std::size_t i = begin; i < end; ++i) {
-        const auto x = source(i);
-        if (x.special != 0) {
-          special.Add(source.Value(i));
-          continue;
-        }
-        lanes_.ForEachTerm(
-            x, [&](auto& lane, const auto& term) { lane.AddScattered(term, x.exponent, x.sign); });
-      }
+      AddScattered(values, begin, end, special);
       return;
     }
-    if (!first_) first_ = ChooseWindow(source, begin, end);
-    if (CountBlock(source, begin, end, special) > kMaxOutliers) {
+    if (count_ == 0) ChooseWindow(values, begin, end);
+    if (AddToCounters(values, begin, end, special) > (end - begin) / kMaxOutliers) {
       FlushCounters();
       scattered_blocks_ = kScatteredBlocks;
     }
@@ -53,59 +41,86 @@ class WindowedSum {
   }
 
  private:
-  static constexpr std::size_t kMaxOutliers = kBlock / 16;
-  static constexpr int kScatteredBlocks = 8;
+  // Up to one of 16 values may be added to the totals.
+  static constexpr std::size_t kMaxOutliers = 16;
+  static constexpr int kScatteredBlocks = 32;
 
-  // The window for values that resemble the first ones: as many exponents as possible below the
-  // greatest, because sums of many terms spread downwards.
-  template <class Source>
-  static std::uint32_t ChooseWindow(const Source& source, std::size_t begin, std::size_t end) {
+  // The window for values that resemble the first ones: most of it below the greatest, because the
+  // exponents of most samples spread downwards.
+  template <class Values>
+  void ChooseWindow(const Values& values, std::size_t begin, std::size_t end) {
     constexpr std::size_t kTried = 64;
     constexpr std::uint32_t kAbove = 16;
     std::uint32_t greatest = 0;
     for (std::size_t i = begin; i < std::min(end, begin + kTried); ++i) {
-      const auto x = source(i);
-      if (x.special == 0 && x.mantissa != decltype(x.mantissa){}) {
-        greatest = std::max(greatest, x.exponent);
-      }
+      const auto x = values(i);
+      if (!x.IsZero() && values.IsFinite(i)) greatest = std::max(greatest, x.Exponent());
     }
-    return std::max(greatest + kAbove, kWindow) - (kWindow - 1);
+    const std::uint32_t last = std::min(greatest + kAbove, Values::kGreatest);
+    first_ = std::max(last, Values::kLeast + kWindow - 1) - (kWindow - 1);
+    count_ = std::min(kWindow, Values::kGreatest + 1 - first_);
   }
 
   // Returns the number of values outside the window.
-  template <class Source>
-  std::size_t CountBlock(const Source& source, std::size_t begin, std::size_t end,
-                         SpecialCounts& special) {
-    const std::uint32_t first = *first_;
+  template <class Values>
+  std::size_t AddToCounters(const Values& values, std::size_t begin, std::size_t end,
+                            SpecialCounts& special) {
+    const std::uint32_t first = 2 * first_;
+    const std::uint32_t count = 2 * count_;
+    const Values local = values;  // nothing that is written can be part of it
     std::size_t outliers = 0;
     for (std::size_t i = begin; i < end; ++i) {
-      const auto x = source(i);
-      // Zeros may have any exponent.
-      const bool zero = x.mantissa == decltype(x.mantissa){};
-      const std::uint32_t index = (zero ? 0 : x.exponent - first) | x.special;
-      if (index >= kWindow) [[unlikely]] {
-        ++outliers;
-        if (x.special != 0) {
-          special.Add(source.Value(i));
-        } else {
-          lanes_.ForEachTerm(
-              x, [&](auto& lane, const auto& term) { lane.AddOne(term, x.exponent, x.sign); });
-        }
+      bool normal = true;
+      const auto x = local.Normal(i, normal);
+      // A single zero may have any exponent; among factors it is not normal. Without a branch,
+      // because zeros come irregularly.
+      const std::uint32_t index = (x.key - first) & (x.IsZero() ? 0 : ~0U);
+      if (!normal || index >= count) [[unlikely]] {
+        if (AddOutlier(values, i, special)) ++outliers;
         continue;
       }
-      lanes_.ForEachTerm(x, [&](auto& lane, const auto& term) { lane.Count(term, index, x.sign); });
+      lanes_.ForEachTerm(x.mantissa,
+                         [index](auto& lane, const auto& term) { lane.Count(term, index); });
     }
     return outliers;
   }
 
+  // Returns whether it took long.
+  template <class Values>
+  [[gnu::noinline]] bool AddOutlier(const Values& values, std::size_t i, SpecialCounts& special) {
+    if (!values.IsFinite(i)) {
+      special.Add(values.Value(i));
+      return true;
+    }
+    const auto x = values(i);
+    if (x.IsZero()) return false;
+    lanes_.ForEachTerm(x.mantissa, [&](auto& lane, const auto& term) { lane.AddOne(term, x.key); });
+    return true;
+  }
+
+  template <class Values>
+  void AddScattered(const Values& values, std::size_t begin, std::size_t end,
+                    SpecialCounts& special) {
+    for (std::size_t i = begin; i < end; ++i) {
+      if (!values.IsFinite(i)) [[unlikely]] {
+        special.Add(values.Value(i));
+        continue;
+      }
+      const auto x = values(i);
+      lanes_.ForEachTerm(x.mantissa,
+                         [&](auto& lane, const auto& term) { lane.AddScattered(term, x.key); });
+    }
+  }
+
   void FlushCounters() {
-    if (!first_) return;
-    lanes_.ForEach([&](auto& lane) { lane.FlushCounters(*first_); });
-    first_.reset();
+    if (count_ == 0) return;
+    lanes_.ForEach([&](auto& lane) { lane.FlushCounters(first_); });
+    count_ = 0;
   }
 
   Lanes lanes_;
-  std::optional<std::uint32_t> first_;
+  std::uint32_t first_ = 0;  // the window: its first exponent, and their number or 0
+  std::uint32_t count_ = 0;
   int scattered_blocks_ = 0;
 };
 

@@ -1,0 +1,29 @@
+#pragma once
+
+/// @file
+/// The two forms of the output of `compare`.
+
+#include <string>
+
+#include "apps/qorvex/compare_report.h"
+
+namespace qorvex::apps {
+
+/// What the report is on.
+struct ComparisonHeading {
+  const ComparedColumn& first;
+  const ComparedColumn& second;
+  bool paired = false;
+  /// The confidence level as it was written.
+  std::string confidence_text = {};
+  Extended confidence = 0;
+};
+
+/// Tables of figures and tests, and box plots.
+[[nodiscard]] std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading,
+                                 int decimals);
+
+/// One JSON document.
+[[nodiscard]] std::string JsonOf(const ComparisonReport& report, const ComparisonHeading& heading);
+
+}  // namespace qorvex::apps

@@ -1,0 +1,114 @@
+#include "apps/qorvex/describe_options.h"
+
+#include <string_view>
+
+#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/parameters.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+constexpr unsigned kMostThreads = 256;
+
+WrittenProbability ParseProbability(const char* option, std::string_view text, NumberKind kind) {
+  const std::string written(text);
+  return {written, ParseNumber(option, written, kind)};
+}
+
+std::vector<WrittenProbability> ParseProbabilities(std::string_view list) {
+  std::vector<WrittenProbability> probabilities;
+  for (;;) {
+    const std::size_t comma = list.find(',');
+    probabilities.push_back(
+        ParseProbability("--quantiles", list.substr(0, comma), NumberKind::kShare));
+    if (comma == std::string_view::npos) return probabilities;
+    list.remove_prefix(comma + 1);
+  }
+}
+
+WeightKind ParseWeightKind(const std::string& text) {
+  if (text == "frequency") return WeightKind::kFrequency;
+  if (text == "reliability") return WeightKind::kReliability;
+  throw CLI::ValidationError("--weights-kind",
+                             '"' + text + "\" is neither frequency nor reliability");
+}
+
+}  // namespace
+
+void DescribeOptions::AddTo(CLI::App& command) {
+  table.AddTo(command);
+  CLI::Option* const all_values = command.add_flag(
+      "--population", population, "The values are the whole population: divide by n, not by n - 1");
+  command.add_flag("--currency", table.selection.currency,
+                   "The values are amounts of money with at most four decimals: sum, minimum,\n"
+                   "maximum and range are exact, always with four decimals");
+  CLI::Option* const quantile_list =
+      command
+          .add_option_function<std::string>(
+              "--quantiles",
+              [this](const std::string& list) { quantiles = ParseProbabilities(list); },
+              "Quantiles of these probabilities, from 0 to 1, with commas between them")
+          ->type_name("P,...");
+  command
+      .add_option_function<int>(
+          "--quantile-type", [this](int type) { quantile_type = static_cast<QuantileType>(type); },
+          "Their definition by the numbers of Hyndman and Fan. Default: 7, or 2 for\n"
+          "weights that are reliabilities. The quartiles have type 5, or the same 2")
+      ->check(CLI::Range(1, 9))
+      ->option_text("N (1 to 9)")
+      ->needs(quantile_list);
+  CLI::Option* const weights = table.AddWeightsTo(command);
+  command
+      .add_option_function<std::string>(
+          "--weights-kind",
+          [this](const std::string& text) { weight_kind = ParseWeightKind(text); },
+          "frequency: each row counts as often as its weight says, a whole number;\n"
+          "reliability: any weights, of which only the ratios matter. Default: frequency")
+      ->type_name("KIND")
+      ->needs(weights);
+  CLI::Option* const level =
+      command
+          .add_option_function<std::string>(
+              "--confidence",
+              [this](const std::string& text) {
+                confidence = ParseProbability("--confidence", text, NumberKind::kProbability);
+              },
+              "Confidence intervals of this level for the mean, the variance and the\n"
+              "standard deviation of normal data")
+          ->type_name("P")
+          ->excludes(all_values);
+  command
+      .add_flag("--classic", classic,
+                "Compute with the classic routines, which round at each step: sums depend on\n"
+                "the order of the values. Default: every figure is exact and rounded once")
+      ->excludes(weights)
+      ->excludes(level);
+  command
+      .add_option("--threads", threads,
+                  "Threads that add up the values of a column; the result is the same.\nDefault: 1")
+      ->check(CLI::Range(1U, kMostThreads))
+      ->option_text("N (1 to 256)");
+  AddDecimals(command, decimals, "Decimals of the report. Default: 4");
+  command.add_flag("--json", json,
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
+}
+
+QuantileType DescribeOptions::TypeOfQuantiles() const {
+  return quantile_type.value_or(HasReliabilities() ? QuantileType::k2 : QuantileType::k7);
+}
+
+void DescribeOptions::RequireConsistent() const {
+  if (!HasReliabilities()) return;
+  if (TypeOfQuantiles() > QuantileType::k2) {
+    throw CLI::ValidationError("--quantile-type",
+                               "with reliabilities as weights, only the types 1 and 2 exist");
+  }
+  if (confidence) {
+    throw CLI::ValidationError("--confidence",
+                               "reliabilities as weights do not say how many values there are");
+  }
+}
+
+}  // namespace qorvex::apps

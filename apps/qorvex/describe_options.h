@@ -1,0 +1,52 @@
+#pragma once
+
+/// @file
+/// The options of `describe`.
+
+#include <CLI/CLI.hpp>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "apps/qorvex/table_arguments.h"
+#include "qorvex/stats/exact/weighted.h"
+#include "qorvex/stats/quantiles.h"
+
+namespace qorvex::apps {
+
+/// A probability, as it was written and as a number.
+struct WrittenProbability {
+  std::string text;
+  Extended value = 0;
+};
+
+/// What to report on the columns of a table.
+struct DescribeOptions {
+  TableArguments table = {};
+  bool population = false;
+  bool classic = false;
+  bool json = false;
+  std::optional<int> decimals = {};
+  unsigned threads = 1;
+  std::vector<WrittenProbability> quantiles = {};
+  /// Empty if not given.
+  std::optional<QuantileType> quantile_type = {};
+  std::optional<WrittenProbability> confidence = {};
+  /// kFrequency or kReliability.
+  WeightKind weight_kind = WeightKind::kFrequency;
+
+  /// Adds the arguments to a command. This object must outlive the parsing.
+  void AddTo(CLI::App& command);
+
+  /// The given type, or the one that suits the weights.
+  [[nodiscard]] QuantileType TypeOfQuantiles() const;
+  [[nodiscard]] int Decimals() const { return decimals.value_or(4); }
+  [[nodiscard]] bool HasReliabilities() const {
+    return table.selection.weights && weight_kind == WeightKind::kReliability;
+  }
+  /// Throws CLI::ValidationError for options that exclude each other.
+  void RequireConsistent() const;
+};
+
+}  // namespace qorvex::apps

@@ -1,0 +1,136 @@
+#include "apps/qorvex/describe_report.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "apps/common/cells.h"
+#include "apps/common/input_error.h"
+#include "apps/common/sample_figures.h"
+#include "apps/common/text_input.h"
+#include "apps/common/weighted_numbers.h"
+#include "qorvex/base/text.h"
+#include "qorvex/stats/inference/intervals.h"
+
+namespace qorvex::apps {
+
+namespace {
+
+// Holds the sum of any column, so that the order of the amounts does not matter.
+__extension__ typedef __int128 Int128;
+
+[[noreturn]] void Refuse(const DescribeOptions& options, InputFault fault,
+                         const TableColumn& column, const std::string& what) {
+  throw InputError(fault, InputName(options.table.file), column.Title() + ": " + what);
+}
+
+// The figures of amounts that are amounts themselves; without a sum if the weights do not count.
+std::map<ReportTextId, Currency> AmountsOf(const TableColumn& column,
+                                           const TQorFloatVector& weights,
+                                           const DescribeOptions& options) {
+  const auto amount = [&](Int128 parts, const char* figure, bool overflow = false) {
+    const auto stored = static_cast<std::int64_t>(parts);
+    if (overflow || stored != parts) {
+      Refuse(options, InputFault::kOutOfRange, column,
+             std::string("the amounts are too large; their ") + figure +
+                 " is beyond the range of amounts");
+    }
+    return Currency(stored);
+  };
+  const TQorInt64Vector& parts = column.numbers.Integers();
+  Int128 sum = 0, minimum = 0, maximum = 0;
+  bool is_first = true;
+  bool overflow = false;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    const Extended weight = weights.empty() ? 1 : weights[i];
+    if (weight == 0) continue;
+    const Int128 part = parts[i];
+    minimum = is_first ? part : std::min(minimum, part);
+    maximum = is_first ? part : std::max(maximum, part);
+    is_first = false;
+    Int128 product = 0;
+    overflow |= __builtin_mul_overflow(part, static_cast<Int128>(weight), &product) ||
+                __builtin_add_overflow(sum, product, &sum);
+  }
+  std::map<ReportTextId, Currency> amounts{{rsDSMaximum, amount(maximum, "maximum")},
+                                           {rsDSMinimum, amount(minimum, "minimum")},
+                                           {rsDSRange, amount(maximum - minimum, "range")}};
+  if (!options.HasReliabilities()) amounts.emplace(rsDSSum, amount(sum, "sum", overflow));
+  return amounts;
+}
+
+ColumnIntervals IntervalsOf(const ExactSample<2>& sums, Extended confidence) {
+  const Interval<Extended> variance = VarianceInterval(sums, confidence);
+  return {MeanInterval(sums, confidence),
+          variance,
+          {std::sqrt(variance.least), std::sqrt(variance.greatest)}};
+}
+
+TQorFloatVector ValidWeights(const TableColumn& weights, const DescribeOptions& options) {
+  TQorFloatVector values = weights.numbers.Values();
+  if (const auto fault = FaultOf(values, options.weight_kind)) {
+    const bool may_be_reliability =
+        options.weight_kind == WeightKind::kFrequency && fault->weight > 0;
+    Refuse(options, InputFault::kNotANumber, weights,
+           "the weight " + Float2Str(fault->weight) + ' ' + fault->what +
+               (may_be_reliability ? "; --weights-kind reliability takes any weights" : ""));
+  }
+  if (std::ranges::all_of(values, [](Extended weight) { return weight == 0; }))
+    Refuse(options, InputFault::kNotANumber, weights, "all weights are zero");
+  return values;
+}
+
+void AddWeighted(ColumnReport& report, const ColumnNumbers& numbers, const TQorFloatVector& weights,
+                 const DescribeOptions& options) {
+  const WeightedNumbers weighted(numbers, weights);
+  report.sum_of_weights = weighted.SumOfWeights();
+  if (options.HasReliabilities()) {
+    report.lines = weighted.ReliabilityLines(options.population);
+  } else {
+    report.lines = weighted.FrequencyFigures(options.population).Lines(options.population);
+  }
+  for (const WrittenProbability& probability : options.quantiles)
+    report.quantiles.push_back(weighted.Quantile(probability.value, options.TypeOfQuantiles()));
+  if (options.confidence && *report.sum_of_weights > 1) {
+    report.intervals = IntervalsOf(weighted.FrequencySums<2>(), options.confidence->value);
+  }
+}
+
+void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOptions& options) {
+  if (options.classic) {
+    const SampleFigures figures = ClassicFigures(
+        options.quantiles.empty() ? numbers.TakeValues() : numbers.Values(), options.population);
+    report.classic = figures.results;
+    report.lines = figures.Lines(options.population);
+  }
+  numbers.Sort();
+  for (const WrittenProbability& probability : options.quantiles)
+    report.quantiles.push_back(QuantileOf(numbers, probability.value, options.TypeOfQuantiles()));
+  if (options.classic) return;
+  report.lines = ExactFigures(ExactSumsOf<4>(numbers, options.threads), OrderFiguresOf(numbers),
+                              numbers, options.population)
+                     .Lines(options.population);
+  if (options.confidence && numbers.size() > 1) {
+    report.intervals =
+        IntervalsOf(ExactSumsOf<2>(numbers, options.threads), options.confidence->value);
+  }
+}
+
+}  // namespace
+
+ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
+                      const DescribeOptions& options) {
+  ColumnReport report{.number = column.number, .name = column.name, .skipped = column.skipped};
+  const TQorFloatVector values =
+      weights == nullptr ? TQorFloatVector() : ValidWeights(*weights, options);
+  if (options.table.selection.currency) report.amounts = AmountsOf(column, values, options);
+  if (weights == nullptr) {
+    AddUnweighted(report, std::exchange(column.numbers, {}), options);
+  } else {
+    AddWeighted(report, std::exchange(column.numbers, {}), values, options);
+  }
+  RequireFinite(report.lines, InputName(options.table.file), column.Title());
+  return report;
+}
+
+}  // namespace qorvex::apps

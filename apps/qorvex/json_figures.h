@@ -1,0 +1,30 @@
+#pragma once
+
+/// @file
+/// Figures, intervals and tests in JSON documents.
+
+#include <map>
+#include <optional>
+#include <vector>
+
+#include "apps/qorvex/json_writer.h"
+#include "qorvex/base/currency.h"
+#include "qorvex/stats/descriptive_stats.h"
+#include "qorvex/stats/distributions/distribution.h"
+#include "qorvex/stats/inference/test_result.h"
+
+namespace qorvex::apps {
+
+/// The keys and values of the figures of a report from the sum to the mode; null for those without
+/// a line. Amounts take the place of the figures with the same labels.
+void WriteFigures(JsonWriter& json, const std::vector<ReportFigure>& lines,
+                  const std::map<ReportTextId, Currency>& amounts = {});
+
+/// Two ends, or null.
+void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval);
+
+/// The keys and values of a test: statistic, degrees of freedom, p and its logarithm, and where p
+/// comes from; null for what the test does not have.
+void WriteTestResult(JsonWriter& json, const std::optional<TestResult>& result);
+
+}  // namespace qorvex::apps

@@ -1,0 +1,21 @@
+#pragma once
+
+/// @file
+/// Tables in text, aligned by blanks.
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace qorvex::apps {
+
+/// The number of characters in a text in UTF-8.
+[[nodiscard]] std::size_t CharacterCount(std::string_view text);
+
+/// Rows in columns as wide as their texts, two blanks apart. As many columns as given start on
+/// the left, the others end on the right. A row of one cell does not count for the width.
+[[nodiscard]] std::string AlignedRows(const std::vector<std::vector<std::string>>& rows,
+                                      std::size_t left_columns);
+
+}  // namespace qorvex::apps

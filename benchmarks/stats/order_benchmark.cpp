@@ -1,0 +1,151 @@
+// Order statistics, correlations and weighted figures, compared with plain loops and with GSL,
+// Boost and Eigen in long double where they have it.
+
+#include <Eigen/Core>
+#include <boost/math/statistics/bivariate_statistics.hpp>
+#include <boost/math/statistics/univariate_statistics.hpp>
+#include <cmath>
+#include <gsl/gsl_histogram.h>
+#include <gsl/gsl_statistics_double.h>
+#include <gsl/gsl_statistics_long_double.h>
+#include <vector>
+
+#include "qorvex/stats/QorvexPairStats.h"
+#include "qorvex/stats/QorvexStatistics.h"
+#include "qorvex/stats/exact/exact_pairs.h"
+#include "qorvex/stats/exact/weighted.h"
+#include "qorvex/stats/exact/weighted_quantile.h"
+#include "qorvex/vector/QorvexVector.h"
+#include "support/compare.h"
+
+namespace qorvex::benchmarks {
+namespace {
+
+// Positive weights of the length of a sample.
+std::span<const Extended> Weights(std::size_t n) {
+  static const TQorFloatVector weights = [] {
+    auto absolute = Sample<Extended>(1'000'000, 77);
+    for (Extended& weight : absolute) weight = std::fabs(weight);
+    return absolute;
+  }();
+  return {weights.data(), n};
+}
+
+constexpr std::size_t kColumns = 5;
+
+// The sample as columns of equal length.
+std::vector<std::span<const Extended>> Columns(const TQorFloatVector& v) {
+  std::vector<std::span<const Extended>> columns;
+  const std::size_t length = v.size() / kColumns;
+  for (std::size_t i = 0; i < kColumns; ++i) columns.emplace_back(v.data() + i * length, length);
+  return columns;
+}
+
+void OrderStatistics() {
+  Compare<Extended>("MedianAbsoluteDeviation", "ours", [](const TQorFloatVector& v) {
+    return MedianAbsoluteDeviation(SortedVector(v));
+  });
+  Compare<Extended>("MedianAbsoluteDeviation", "GSL", [](const TQorFloatVector& v) {
+    std::vector<double> work(v.size());
+    return gsl_stats_long_double_mad0(v.data(), 1, v.size(), work.data());
+  });
+  Compare<Extended>("MedianAbsoluteDeviation", "Boost", [](const TQorFloatVector& v) {
+    TQorFloatVector copy = CopyVector(v);
+    return boost::math::statistics::median_absolute_deviation(copy.begin(), copy.end());
+  });
+
+  Compare<double>("ClassFrequencies", "ours", [](const TQorDoubleVector& v) {
+    OutsideClasses outside;
+    return ClassFrequencies(v, -2, 0.1L, 100, outside)[50];
+  });
+  Compare<double>("ClassFrequencies", "GSL", [](const TQorDoubleVector& v) {
+    gsl_histogram* const histogram = gsl_histogram_alloc(100);
+    gsl_histogram_set_ranges_uniform(histogram, -2, 8);
+    for (const double x : v) gsl_histogram_increment(histogram, x);
+    const double count = gsl_histogram_get(histogram, 50);
+    gsl_histogram_free(histogram);
+    return count;
+  });
+}
+
+void Correlations() {
+  Compare<Extended>("ExactPairs", "ours", [](const auto& x, const auto& y) {
+    ExactPairs pairs;
+    pairs.Add(x, y);
+    return pairs.Correlation();
+  });
+  Compare<Extended>("ExactPairs", "classic",
+                    [](const auto& x, const auto& y) { return CoeffCorrelation(x, y); });
+  Compare<Extended>("ExactPairs", "GSL", [](const auto& x, const auto& y) {
+    return gsl_stats_long_double_correlation(x.data(), 1, y.data(), 1, x.size());
+  });
+  Compare<Extended>("ExactPairs", "Boost", [](const auto& x, const auto& y) {
+    return boost::math::statistics::correlation_coefficient(x, y);
+  });
+
+  Compare<double>("SpearmanRho", "ours",
+                  [](const auto& x, const auto& y) { return SpearmanRho(x, y); });
+  Compare<double>("SpearmanRho", "GSL", [](const auto& x, const auto& y) {
+    std::vector<double> work(2 * x.size());
+    return gsl_stats_spearman(x.data(), 1, y.data(), 1, x.size(), work.data());
+  });
+  Compare<double>("KendallTau", "ours",
+                  [](const auto& x, const auto& y) { return KendallTau(x, y); });
+
+  Compare<Extended>("CovarianceMatrix", "ours",
+                    [](const TQorFloatVector& v) { return CovarianceMatrix(Columns(v))[1][0]; });
+  Compare<Extended>("CovarianceMatrix", "Eigen", [](const TQorFloatVector& v) {
+    using Matrix = Eigen::Matrix<Extended, Eigen::Dynamic, Eigen::Dynamic>;
+    const auto rows = static_cast<Eigen::Index>(v.size() / kColumns);
+    const Eigen::Map<const Matrix> columns(v.data(), rows, kColumns);
+    const Matrix centred = columns.rowwise() - columns.colwise().mean();
+    const Matrix covariance = centred.transpose() * centred / static_cast<Extended>(rows - 1);
+    return covariance(1, 0);
+  });
+}
+
+void WeightedFigures() {
+  Compare<Extended>("WeightedVariance", "ours", [](const TQorFloatVector& v) {
+    return WeightedVariance(v, Weights(v.size()), WeightKind::kReliability);
+  });
+  Compare<Extended>("WeightedVariance", "GSL", [](const TQorFloatVector& v) {
+    return gsl_stats_long_double_wvariance(Weights(v.size()).data(), 1, v.data(), 1, v.size());
+  });
+  Compare<Extended>("WeightedVariance", "loop", [](const TQorFloatVector& v) {
+    const std::span<const Extended> w = Weights(v.size());
+    Extended v1 = 0, v2 = 0, sum = 0, squares = 0;
+    for (std::size_t i = 0; i < v.size(); ++i) {
+      v1 += w[i];
+      v2 += w[i] * w[i];
+      sum += w[i] * v[i];
+    }
+    for (std::size_t i = 0; i < v.size(); ++i) {
+      squares += w[i] * (v[i] - sum / v1) * (v[i] - sum / v1);
+    }
+    return squares / (v1 - v2 / v1);
+  });
+  // The elements need not be in order for the time.
+  Compare<Extended>("WeightedQuantile", "ours", [](const TQorFloatVector& v) {
+    return WeightedQuantile(v, Weights(v.size()), 0.9L);
+  });
+  Compare<Extended>("WeightedQuantile", "loop", [](const TQorFloatVector& v) {
+    const std::span<const Extended> w = Weights(v.size());
+    Extended target = 0;
+    for (const Extended weight : w) target += weight;
+    target *= 0.9L;
+    std::size_t i = 0;
+    for (Extended sum = w[0]; sum < target; sum += w[++i]) {
+    }
+    return v[i];
+  });
+}
+
+[[maybe_unused]] const bool registered = [] {
+  OrderStatistics();
+  Correlations();
+  WeightedFigures();
+  return true;
+}();
+
+}  // namespace
+}  // namespace qorvex::benchmarks
