@@ -50,8 +50,8 @@ TestReport GoodnessOfFit(const TableColumn& column, const TableColumn* proportio
   TestReport report{.title = "Chi-square test of fit",
                     .samples = {CountSample(column, counts)},
                     .null_hypothesis = proportions != nullptr ? "the counts follow the proportions"
-                                                              : "all counts are equally likely",
-                    .alternate_hypothesis = "they do not",
+                                                              : "all cells are equally likely",
+                    .alternate_hypothesis = proportions != nullptr ? "they do not" : "they are not",
                     .symbol = "chi-square",
                     .law = StatisticLaw::kChiSquare};
   report.result = GoodnessOfFitTest(counts, expected, fitted);

@@ -10,6 +10,8 @@
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/stats/distributions/normal.h"
+#include "qorvex/stats/exact/exact_sample.h"
+#include "qorvex/stats/inference/intervals.h"
 
 namespace qorvex::gallery {
 
@@ -55,6 +57,15 @@ QString Readable(const QString& figure, const QLocale& locale) {
   return QorvexBaseControls::detail::LocalNumber(text, locale);
 }
 
+QString IntervalText(const TQorDescStats& stats, const TQorFloatVector& values,
+                     const QLocale& locale) {
+  const Interval<Extended> mean = MeanInterval(values);
+  const auto end = [&](Extended figure) {
+    return Readable(QString::fromStdString(Float2EStr(figure, stats.DecimalPlaces())), locale);
+  };
+  return Text("%1 to %2").arg(end(mean.least), end(mean.greatest));
+}
+
 }  // namespace
 
 TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
@@ -66,14 +77,16 @@ TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
   return kept;
 }
 
-QList<QStringList> ReportTable(const QStringList& lines, const QLocale& locale) {
-  const qsizetype rows = (lines.size() + 1) / 2;
+QList<QStringList> ReportTable(TQorDescStats& stats, const TQorFloatVector& values,
+                               const QLocale& locale) {
+  QList<QStringList> figures;
+  for (const QString& line : stats.DescStats())
+    figures.append({line.section('\t', 0, 0), Readable(line.section('\t', 1), locale)});
+  if (values.size() > 1 && !stats.Population())
+    figures.append({Text("95 % Interval for the Mean:"), IntervalText(stats, values, locale)});
+  const qsizetype rows = (figures.size() + 1) / 2;
   QList<QStringList> table(rows);
-  for (qsizetype i = 0; i < lines.size(); ++i) {
-    const QString& line = lines[i];
-    table[i % rows].append(line.section('\t', 0, 0));
-    table[i % rows].append(Readable(line.section('\t', 1), locale));
-  }
+  for (qsizetype i = 0; i < figures.size(); ++i) table[i % rows].append(figures[i]);
   return table;
 }
 

@@ -18,8 +18,11 @@ namespace qorvex::gallery {
 /// The values that are not NaN, which stands for an empty cell.
 [[nodiscard]] TQorFloatVector WithoutNulls(const TQorFloatVector& values);
 
-/// The lines of a report as rows of two labels, each with its figure.
-[[nodiscard]] QList<QStringList> ReportTable(const QStringList& lines, const QLocale& locale);
+/// The lines of a report, and the interval that contains the mean of a normal population with a
+/// probability of 95 %, as rows of two labels, each with its figure. The values are those of the
+/// statistics.
+[[nodiscard]] QList<QStringList> ReportTable(TQorDescStats& stats, const TQorFloatVector& values,
+                                             const QLocale& locale);
 
 /// A remark on what the report does not show: the empty cells, and figures that need more decimals,
 /// of which there can be at most most_decimals.

@@ -11,8 +11,8 @@
 
 namespace qorvex::gallery {
 
-/// From the catalogue of distributions. Empty where no family has the variate, and where a moment is
-/// infinite or does not exist.
+/// From the catalogue of distributions. Empty where no family has the variate, and where a moment
+/// is infinite or does not exist.
 struct VariateTheory {
   /// The density, or the probability of a count.
   std::function<Extended(Extended)> density;

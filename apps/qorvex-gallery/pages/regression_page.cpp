@@ -121,7 +121,8 @@ QLayout* RegressionPage::MakeResults() {
   plots->addWidget(curves_, 3);
   plots->addWidget(residuals_, 2);
   auto* const head = new QHBoxLayout;
-  QLabel* const heading = MakeHeading(tr("Least-squares line and parabola"));
+  QLabel* const heading =
+      MakeHeading(tr("Least-squares line and parabola, with 95 % confidence bands"));
   // Level with the spin box beside it.
   heading->setMinimumHeight(rows_->sizeHint().height());
   head->addWidget(heading);

@@ -61,7 +61,7 @@ void ColumnReport::Show(const TQorFloatVector& values, std::size_t empty_cells,
   stats_.setDecimalPlaces(decimals_->value());
   stats_.setPopulation(population_->isChecked());
   stats_.setValues(values);
-  figures_->SetRows(ReportTable(stats_.DescStats(), locale()));
+  figures_->SetRows(ReportTable(stats_, values, locale()));
   remark_->setText(RemarkOn(stats_, empty_cells, decimals_->maximum(), locale()));
   remark_->setToolTip(ToolTipOf(remark_->text()));
   plot_->SetAxisTitles(title, tr("Density"));

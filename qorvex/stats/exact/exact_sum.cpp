@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/detail/block_sum.h"
 #include "qorvex/stats/exact/detail/integer_sums.h"
 #include "qorvex/stats/exact/detail/windowed_sum.h"
 
@@ -13,7 +14,6 @@ namespace qorvex {
 
 using namespace exact::detail;
 
-// Terms of which the first few need no table, and every other has a counter.
 template <class T, std::size_t kFactors>
 void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size_t count) {
   const Products<T, kFactors> products(factors);
@@ -31,16 +31,20 @@ void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size
       const auto x = products(i);
       Lane<kFactors, 1, true>::AddToTotal(x.mantissa, x.Exponent(), x.Sign() != 0, total_);
     }
-    return;
-  }
-  if constexpr (kFactors == 1 && IntegerElement<T>) {
+  } else if constexpr (kFactors == 1 && IntegerElement<T>) {
     AddIntegerPowers<1>(std::span(factors[0], count), &total_);
   } else {
     using Sum = WindowedSum<ProductLanes<kFactors>>;
     Sum sum(&total_);
+    [[maybe_unused]] BlockSum<T> blocks(total_);
     for (std::size_t begin = 0; begin < count; begin += Sum::kBlock) {
-      sum.Add(products, begin, std::min(begin + Sum::kBlock, count), special_);
+      const std::size_t end = std::min(begin + Sum::kBlock, count);
+      if constexpr (kFactors == 1) {
+        if (blocks.Add(std::span(factors[0] + begin, end - begin))) continue;
+      }
+      sum.Add(products, begin, end, special_);
     }
+    if constexpr (kFactors == 1) blocks.Flush();
     sum.Flush();
   }
 }

@@ -16,6 +16,10 @@
 
 namespace qorvex {
 
+/// A contiguous range of a numeric element type or a currency.
+template <class Range>
+concept NumberRange = ContiguousRange<Range> && AnyElement<ElementOf<Range>>;
+
 /// A read-only view of a column of numbers, which it does not copy.
 ///
 /// - Converts implicitly from every contiguous range of a numeric element type or a currency, and
@@ -27,8 +31,8 @@ namespace qorvex {
 class QORVEX_EXPORT ColumnView {
  public:
   /// The elements of a range. Amounts count as decimal data.
-  template <ContiguousRange Range>
-  requires AnyElement<ElementOf<Range>> ColumnView(const Range& values)  // NOLINT: a view
+  template <NumberRange Range>
+  ColumnView(const Range& values)  // NOLINT: a view
       : ColumnView(std::ranges::data(values), std::ranges::size(values)) {}
   /// The values in braces.
   ColumnView(std::initializer_list<Extended> values) : ColumnView(values.begin(), values.size()) {}
@@ -71,8 +75,16 @@ class QORVEX_EXPORT ColumnView {
   int decimals_ = 0;
 };
 
-/// Several columns: one range of numbers, a list in braces such as {height, weight}, or a range of
-/// ColumnView or of ranges of numbers.
+/// A range of numbers or amounts, or another object that converts to a column.
+template <class T>
+concept ColumnSource = std::convertible_to<const T&, ColumnView>;
+
+/// A range of columns.
+template <class Range>
+concept ColumnRange = ContiguousRange<Range> && ColumnSource<ElementOf<Range>>;
+
+/// Several columns: one range of numbers, a list in braces such as {height, weight} or {{1.0L, 2},
+/// {3.0L, 4}}, or a range of ColumnView or of ranges of numbers.
 ///
 /// - Meant for parameters: the elements must outlive it.
 class Columns {
@@ -80,17 +92,13 @@ class Columns {
   /// No columns.
   Columns() = default;
   /// One column.
-  template <class Range>
-  requires std::convertible_to<const Range&, ColumnView> Columns(const Range& column)  // NOLINT
-      : views_{ColumnView(column)} {}
-  /// One column of the values in braces.
-  Columns(std::initializer_list<Extended> column) : views_{ColumnView(column)} {}
+  template <ColumnSource Column>
+  Columns(const Column& column) : views_{ColumnView(column)} {}  // NOLINT: a view
   /// The columns in braces.
   Columns(std::initializer_list<ColumnView> columns) : views_(columns) {}
   /// The columns of a range.
-  template <ContiguousRange Range>
-  requires std::convertible_to < const ElementOf<Range>
-  &, ColumnView > Columns(const Range& columns)  // NOLINT
+  template <ColumnRange Range>
+  Columns(const Range& columns)  // NOLINT: a view
       : views_(std::ranges::begin(columns), std::ranges::end(columns)) {}
 
   /// The number of columns.

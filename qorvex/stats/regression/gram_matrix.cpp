@@ -161,8 +161,7 @@ GramMatrix::Batch GramMatrix::SumsOf(const Columns& predictors, const ColumnView
   if (form_.is_polynomial) {
     detail::PowerSums sums(form_.terms);
     batch.rows = ForEachBlock(columns, weights != nullptr, [&](const Block& block) {
-      for (std::size_t i = 0; i < block[0].size(); ++i)
-        sums.Add(block[0][i], block[1][i], weights != nullptr ? block[2][i] : 1);
+      sums.Add(block[0], block[1], weights != nullptr ? block[2] : VectorView<Extended>());
     });
     batch.sums = sums.Values();
     return batch;

@@ -118,9 +118,10 @@ class QORVEX_EXPORT LinearFit {
                                           const ColumnView& weights) const;
   /// @}
 
-  /// The bits that the condition of the problem costs: the logarithm to base 2 of the greatest
-  /// (X'WX)_jj (X'WX)^-1_jj. These cost no digits here, but from 64 on the rounding of extended
-  /// data decides the coefficients, from 53 on that of doubles.
+  /// The condition of the problem in bits: the logarithm to base 2 of the greatest (X'WX)_jj
+  /// (X'WX)^-1_jj. It costs no digits here, but relative errors of the data are multiplied by up to
+  /// the root of that number: from 106 on the rounding of doubles decides the coefficients, from
+  /// 128 on that of extended numbers.
   [[nodiscard]] Extended ConditionBits() const;
   /// The right bits of the figures before they are rounded; 0 if they are exact.
   [[nodiscard]] std::size_t Precision() const;

@@ -26,7 +26,7 @@ TEST(LinearModel, RefusesBadRowsAndKeepsItsState) {
   EXPECT_ERROR(line.Add(nan, y), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(line.Add(x, {1.0L, 2.0L, kInfinity, 0.0L}), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(parabola.Add(nan, y), EInvalidOp, rsInvalidOp);
-  EXPECT_MATH_ERROR(line.Remove({1.0L, 2, 3, 4, 5}, {1.0L, 2, 3, 4, 5}), rsInvalidValue);
+  EXPECT_MATH_ERROR(line.Remove({{1.0L, 2, 3, 4, 5}}, {1.0L, 2, 3, 4, 5}), rsInvalidValue);
   EXPECT_MATH_ERROR(line.Merge(parabola), rsSameDimensions);
   EXPECT_MATH_ERROR(ColumnView(std::vector<std::int64_t>{1}, -1), rsInvalidValue);
   EXPECT_MATH_ERROR(parabola.Fit(), rsVectorTooSmall);
@@ -88,7 +88,7 @@ TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
 
 TEST(LinearModel, HasInfiniteStatisticsForPerfectFitsAndNoneWithoutDegreesOfFreedom) {
   LinearModel model;
-  model.Add({1.0L, 2, 3, 4}, {0.5L, 1, 1.5L, 2});
+  model.Add({{1.0L, 2, 3, 4}}, {0.5L, 1, 1.5L, 2});
   const LinearFit perfect = model.Fit();
   EXPECT_EQ(perfect.ResidualStdDev(), 0);
   EXPECT_EQ(perfect.Determination(), 1);
@@ -101,15 +101,15 @@ TEST(LinearModel, HasInfiniteStatisticsForPerfectFitsAndNoneWithoutDegreesOfFree
   EXPECT_EQ(perfect.Predict({10}).prediction.least, 5);
 
   LinearModel constant;
-  constant.Add({1.0L, 2, 3}, {4.0L, 4, 4});
+  constant.Add({{1.0L, 2, 3}}, {4.0L, 4, 4});
   EXPECT_TRUE(std::isnan(constant.Fit().Determination()));
   EXPECT_TRUE(std::isnan(constant.Fit().Anova().regression.f));
 
   LinearModel through_all = LinearModel::Polynomial(2);
-  through_all.Add({1.0L, 2, 4}, {3.0L, 5, 1});
+  through_all.Add({{1.0L, 2, 4}}, {3.0L, 5, 1});
   const LinearFit fit = through_all.Fit();
   EXPECT_EQ(fit.DegreesOfFreedom(), 0U);
-  EXPECT_EQ(fit.FittedValues({2.0L}), (TQorFloatVector{5}));
+  EXPECT_EQ(fit.FittedValues({{2.0L}}), (TQorFloatVector{5}));
   for (const Extended figure :
        {fit.ResidualStdDev(), fit.Coefficient(1).standard_error, fit.Coefficient(1).p,
         fit.AdjustedDetermination(), fit.ConfidenceInterval(0).least, fit.Anova().regression.f,

@@ -89,8 +89,7 @@ TEST(OneWayAnova, TakesLabelsInAnyOrderAndRefusesWhatHasNoFigures) {
   const std::vector<std::int64_t> tenths{11, 13};
   const std::vector<std::int64_t> hundredths{120, 130};
   EXPECT_EQ(OneWayAnova({ColumnView(tenths, 1), ColumnView(hundredths, 2)}).between.f, 0.2L);
-  const std::vector<double> one{1};
-  EXPECT_TRUE(std::isnan(OneWayAnova({one, {2.0L}}).between.f));
+  EXPECT_TRUE(std::isnan(OneWayAnova({{1.0L}, {2.0L}}).between.f));
   EXPECT_TRUE(std::isnan(OneWayAnova({{1.0L, 1}, {1.0L, 1}}).determination));
   EXPECT_EQ(OneWayAnova({{1.0L, 1}, {2.0L, 2}}).between.f, kInfinity);
   EXPECT_MATH_ERROR(OneWayAnova({{1.0L, 2.0L}}), rsValue2);

@@ -11,12 +11,13 @@
 
 namespace qorvex::exact::detail {
 
-inline void AddToTotal(__int128 sum, FixedPoint& total) {
+// Adds sum * 2^exponent.
+inline void AddToTotal(__int128 sum, int exponent, FixedPoint& total) {
   const auto bits = static_cast<unsigned __int128>(sum);
   const unsigned __int128 magnitude = sum < 0 ? 0 - bits : bits;
   const std::array<std::uint64_t, 2> words = {static_cast<std::uint64_t>(magnitude),
                                               static_cast<std::uint64_t>(magnitude >> 64)};
-  total.Add(words, 0, sum < 0);
+  total.Add(words, exponent, sum < 0);
 }
 
 template <std::size_t kSize>
@@ -56,7 +57,7 @@ inline void AddIntegerPowers(std::span<const T> values, FixedPoint* totals) {
       }
     }
   }
-  AddToTotal(first, totals[0]);
+  AddToTotal(first, 0, totals[0]);
   if constexpr (kPowerSums > 1) AddToTotal(second, false, totals[1]);
   if constexpr (kPowerSums > 2) {
     AddToTotal(third[0], false, totals[2]);

@@ -15,8 +15,8 @@ namespace qorvex::exact::detail {
 template <class Lanes>
 class WindowedSum {
  public:
-  // The most values that Add takes.
-  static constexpr std::size_t kBlock = 1'024;
+  // The values that Add is meant for at a time.
+  static constexpr std::size_t kBlock = 256;
 
   explicit WindowedSum(FixedPoint* totals) : lanes_(totals) {}
 
@@ -28,7 +28,7 @@ class WindowedSum {
       return;
     }
     if (count_ == 0) ChooseWindow(values, begin, end);
-    if (AddToCounters(values, begin, end, special) > kMaxOutliers) {
+    if (AddToCounters(values, begin, end, special) > (end - begin) / kMaxOutliers) {
       FlushCounters();
       scattered_blocks_ = kScatteredBlocks;
     }
@@ -41,8 +41,9 @@ class WindowedSum {
   }
 
  private:
-  static constexpr std::size_t kMaxOutliers = kBlock / 16;
-  static constexpr int kScatteredBlocks = 8;
+  // Up to one of 16 values may be added to the totals.
+  static constexpr std::size_t kMaxOutliers = 16;
+  static constexpr int kScatteredBlocks = 32;
 
   // The window for values that resemble the first ones: most of it below the greatest, because the
   // exponents of most samples spread downwards.

@@ -1,58 +1,117 @@
 #include "qorvex/stats/regression/detail/power_sums.h"
 
+#include "qorvex/base/errors.h"
+#include "qorvex/stats/exact/detail/parts.h"
+
 namespace qorvex::detail {
 
 using exact::Dyadic;
+using exact::detail::Elements;
+using exact::detail::kExponentBias;
+using exact::detail::Parts;
+using exact::detail::Word;
 
-PowerSums::PowerSums(std::size_t degree)
-    : degree_(degree), sums_(ResponseSlot(degree, degree + 1) + 1) {}
+namespace {
 
-// A factor has one word, or none if it is 0.
-void PowerSums::Product::operator*=(const Dyadic& factor) {
+// By reference, because an extended value that was just stored is slow to read as integers.
+Parts<1> FinitePartsOf(const Extended& value) {
+  const Parts<1> parts = Elements<Extended>::Of(value);
+  if (parts.Exponent() > Elements<Extended>::kGreatest) throw EInvalidOp();
+  return parts;
+}
+
+void AddTo(exact::FixedPoint& total, std::span<const Word> magnitude, std::int64_t exponent,
+           bool negative) {
+  total.Add(std::vector<std::uint64_t>(magnitude.begin(), magnitude.end()), exponent, negative);
+}
+
+}  // namespace
+
+void WordProduct::Set(const Extended& value) {
+  const Parts<1> parts = FinitePartsOf(value);
+  words.assign(1, parts.mantissa[0]);
+  exponent = std::int64_t{parts.Exponent()} - kExponentBias;
+  negative = parts.Sign() != 0;
+}
+
+void WordProduct::SetProduct(const WordProduct& a, const Extended& factor) {
   __extension__ using Wide = unsigned __int128;
-  if (factor.Sign() == 0) words.clear();
-  if (words.empty()) return;
-  const std::uint64_t word = factor.Mantissa().Magnitude().front();
-  std::uint64_t carry = 0;
-  for (std::uint64_t& digit : words) {
-    const Wide product = Wide{digit} * word + carry;
-    digit = static_cast<std::uint64_t>(product);
-    carry = static_cast<std::uint64_t>(product >> 64U);
+  const Parts<1> parts = FinitePartsOf(factor);
+  words.resize(a.words.size() + 1);
+  Word high = 0;
+  for (std::size_t i = 0; i < a.words.size(); ++i) {
+    const Wide product = Wide{a.words[i]} * parts.mantissa[0] + high;
+    words[i] = static_cast<Word>(product);
+    high = static_cast<Word>(product >> 64U);
   }
-  if (carry != 0) words.push_back(carry);
-  exponent += factor.Exponent();
-  negative ^= factor.Sign() < 0;
+  words.back() = high;
+  exponent = a.exponent + parts.Exponent() - kExponentBias;
+  negative = a.negative != (parts.Sign() != 0);
 }
 
-void PowerSums::AddTo(std::size_t slot, const Product& product) {
-  sums_[slot].Add(product.words, product.exponent, product.negative);
+void WordSum::Add(const WordProduct& product) {
+  if (counters_.empty()) {
+    // Smaller values have smaller exponents, so most of the table is for these.
+    lowest_ = product.exponent - static_cast<std::int64_t>(kExponents * 3 / 4);
+    counters_.resize(2 * kExponents * stride_);
+  }
+  const auto index = static_cast<std::uint64_t>(product.exponent - lowest_);
+  if (index >= kExponents) {
+    AddTo(outside_, product.words, product.exponent, product.negative);
+    return;
+  }
+  Word* const counter = &counters_[(2 * index + (product.negative ? 1 : 0)) * stride_];
+  unsigned char carry = 0;
+  std::size_t i = 0;
+  for (const Word word : product.words) {
+    carry = _addcarry_u64(carry, counter[i], word, &counter[i]);
+    ++i;
+  }
+  counter[i] += carry;
 }
 
-void PowerSums::Add(Extended x, Extended y, Extended w) {
-  const Dyadic factor(x);
-  const Dyadic response(y);
-  power_.words.assign(1, 1);
-  power_.exponent = 0;
-  power_.negative = false;
-  power_ *= w;
-  for (std::size_t k = 0; k <= 2 * degree_; ++k) {
-    AddTo(k, power_);
-    if (k <= degree_) {
-      with_response_ = power_;
-      with_response_ *= response;
-      AddTo(ResponseSlot(degree_, k), with_response_);
-      if (k == 0) {
-        with_response_ *= response;
-        AddTo(ResponseSlot(degree_, degree_ + 1), with_response_);
+Dyadic WordSum::Value() const {
+  exact::FixedPoint total = outside_;
+  for (std::uint64_t i = 0; i * stride_ < counters_.size(); ++i) {
+    AddTo(total, std::span(counters_).subspan(i * stride_, stride_),
+          lowest_ + static_cast<std::int64_t>(i / 2), i % 2 == 1);
+  }
+  return total.Value();
+}
+
+PowerSums::PowerSums(std::size_t degree) : degree_(degree) {
+  // Every factor of a product has a word, the weight 1 too.
+  for (std::size_t power = 0; power <= 2 * degree; ++power) sums_.emplace_back(power + 1);
+  for (std::size_t power = 0; power <= degree; ++power) sums_.emplace_back(power + 2);
+  sums_.emplace_back(3U);
+}
+
+void PowerSums::Add(std::span<const Extended> x, std::span<const Extended> y,
+                    std::span<const Extended> w) {
+  constexpr Extended one = 1;
+  WordProduct powers[2];  // by turns
+  WordProduct with_response, with_square;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    powers[0].Set(w.empty() ? one : w[i]);
+    for (std::size_t k = 0; k <= 2 * degree_; ++k) {
+      const WordProduct& power = powers[k % 2];
+      sums_[k].Add(power);
+      if (k <= degree_) {
+        with_response.SetProduct(power, y[i]);
+        sums_[ResponseSlot(degree_, k)].Add(with_response);
       }
+      if (k == 0) {
+        with_square.SetProduct(with_response, y[i]);
+        sums_[ResponseSlot(degree_, degree_ + 1)].Add(with_square);
+      }
+      powers[(k + 1) % 2].SetProduct(power, x[i]);
     }
-    power_ *= factor;
   }
 }
 
 std::vector<Dyadic> PowerSums::Values() const {
   std::vector<Dyadic> values;
-  for (const exact::FixedPoint& sum : sums_) values.push_back(sum.Value());
+  for (const WordSum& sum : sums_) values.push_back(sum.Value());
   return values;
 }
 
