@@ -73,7 +73,8 @@ class QORVEX_EXPORT LinearModel {
   /// The least-squares fit.
   ///
   /// - Errors, in this order: EMathError rsVectorTooSmall for fewer rows than coefficients;
-  ///   CollinearityError for the first predictor that depends on those before it, exactly.
+  ///   CollinearityError for the first predictor that depends on those before it, exactly;
+  ///   EInvalidOp if the sums are impossible, because rows were removed that had not been added.
   /// - Solved in integers, by the fraction-free elimination of Bareiss (1968), "Sylvester's
   ///   identity and multistep integer-preserving Gaussian elimination", as a sweep of the symmetric
   ///   matrix; where its numbers would get long, first with 256 bits or more, as many as the

@@ -145,6 +145,31 @@ TEST(LinearModel, DoesNotDependOnUnits) {
   }
 }
 
+TEST(LinearModel, MixesDecimalsOfAnyNumber) {
+  const std::vector<std::int64_t> tenths{12, 25, 31, 44};
+  const std::vector<std::int64_t> hundredths{120, 250, 310, 440};
+  const std::vector<std::int64_t> response{3, 1, 4, 1};
+  for (const std::size_t degree : {1U, 2U}) {
+    LinearModel model = LinearModel::Polynomial(degree);
+    model.Add(ColumnView(tenths, 1), response);
+    LinearModel mixed = model;
+    mixed.AddWeighted(ColumnView(hundredths, 2), response, ColumnView(hundredths, 2));
+    mixed.RemoveWeighted(ColumnView(hundredths, 2), response, ColumnView(hundredths, 2));
+    const LinearFit fit = model.Fit();
+    EXPECT_EQ(mixed.Fit().Values(), fit.Values());
+    EXPECT_EQ(mixed.Fit().Covariance(0, 1), fit.Covariance(0, 1));
+    EXPECT_EQ(mixed.Fit().ResidualVariance(), fit.ResidualVariance());
+    // 2.5 and 0.5 are numbers of every kind.
+    EXPECT_EQ(fit.Predict({2.5L}).value, fit.FittedValues(ColumnView(tenths, 1))[1]);
+    EXPECT_EQ(fit.Leverages({{2.5L}})[0], fit.Leverages(ColumnView(tenths, 1))[1]);
+    EXPECT_EQ(mixed.Fit().Predict({2.5L}).standard_error, fit.Predict({2.5L}).standard_error);
+    LinearModel wrong = model;
+    wrong.Remove({{1.0L, 2, 3}}, {9.0L, 9, 9});
+    wrong.Add({{1.0L, 1, 1}}, {0.0L, 0, 0});
+    EXPECT_ERROR(wrong.Fit(), EInvalidOp, rsInvalidOp);
+  }
+}
+
 // Columns of whole numbers that are nearly multiples of each other. The rows come in pairs that
 // differ in errors of 1 and -1 only, so the coefficients are known.
 TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {

@@ -50,6 +50,11 @@ void WordProduct::SetProduct(const WordProduct& a, const Extended& factor) {
 }
 
 void WordSum::Add(const WordProduct& product) {
+  if (few_ < kFew) {
+    ++few_;
+    AddTo(outside_, product.words, product.exponent, product.negative);
+    return;
+  }
   if (counters_.empty()) {
     // Smaller values have smaller exponents, so most of the table is for these.
     lowest_ = product.exponent - static_cast<std::int64_t>(kExponents * 3 / 4);

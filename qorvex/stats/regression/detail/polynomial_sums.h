@@ -38,7 +38,10 @@ class WordSum {
 
  private:
   static constexpr std::uint64_t kExponents = 128;
+  // So few are added one by one.
+  static constexpr int kFew = 32;
 
+  int few_ = 0;
   std::size_t stride_;       // words of a counter, the highest for carries
   std::int64_t lowest_ = 0;  // the exponent of the first counter
   std::vector<exact::detail::Word> counters_;
