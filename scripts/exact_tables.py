@@ -75,12 +75,14 @@ def pair_figures(x, y):
     intercept = mean_y - slope * mean_x
     errors = sum((b - intercept - slope * a) ** 2 for a, b in zip(x, y))
     return {
+        "sum_x": rounded(sum(x)), "sum_of_squares_y": rounded(sum(b**2 for b in y)),
+        "sum_of_products": rounded(sum(a * b for a, b in zip(x, y))),
         "mean_x": rounded(mean_x), "mean_y": rounded(mean_y),
         "sample_variance_x": rounded(xx / (n - 1)), "population_variance_y": rounded(yy / n),
         "population_std_dev_x": rounded(xx / n, True), "sample_std_dev_y": rounded(yy / (n - 1), True),
         "sample_covariance": rounded(xy / (n - 1)), "population_covariance": rounded(xy / n),
         "correlation": signed_root(xy, xx * yy), "determination": rounded(xy**2 / (xx * yy)),
-        "slope": rounded(slope), "intercept": rounded(intercept), "sse": rounded(errors),
+        "slope": rounded(slope), "intercept": rounded(intercept), "sse": rounded(errors), "regression": rounded(yy - errors),
     }
 
 

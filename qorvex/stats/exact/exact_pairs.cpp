@@ -139,46 +139,51 @@ ExactPairs::Deviations ExactPairs::ScaledDeviations() const {
           exact::detail::ScaledDeviations(count_, yy_, y_, y_)};
 }
 
-Extended ExactPairs::Correlation() const {
+template <class Figure>
+Extended ExactPairs::OfLine(Figure figure) const {
   RequireCount(count_, 2);
   if (!IsFinite()) return kNaN;
   const Deviations sums = ScaledDeviations();
   RequireSpread(sums.xx);
-  RequireSpread(sums.yy);
-  return exact::detail::CorrelationOf(sums.xx, sums.xy, sums.yy);
+  return figure(sums);
+}
+
+Extended ExactPairs::Correlation() const {
+  return OfLine([](const Deviations& sums) {
+    RequireSpread(sums.yy);
+    return exact::detail::CorrelationOf(sums.xx, sums.xy, sums.yy);
+  });
 }
 
 Extended ExactPairs::Determination() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  RequireSpread(sums.yy);
-  return Rational(sums.xy * sums.xy, sums.xx * sums.yy).Round();
+  return OfLine([](const Deviations& sums) {
+    RequireSpread(sums.yy);
+    return Rational(sums.xy * sums.xy, sums.xx * sums.yy).Round();
+  });
 }
 
 Extended ExactPairs::Slope() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  return Rational(sums.xy, sums.xx).Round();
+  return OfLine([](const Deviations& sums) { return Rational(sums.xy, sums.xx).Round(); });
 }
 
 Extended ExactPairs::Intercept() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  return Rational(y_.Value() * sums.xx - x_.Value() * sums.xy, Dyadic(count_) * sums.xx).Round();
+  return OfLine([this](const Deviations& sums) {
+    const Dyadic numerator = y_.Value() * sums.xx - x_.Value() * sums.xy;
+    return Rational(numerator, Dyadic(count_) * sums.xx).Round();
+  });
 }
 
 Extended ExactPairs::SumOfSquaredErrors() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  return Rational(sums.xx * sums.yy - sums.xy * sums.xy, Dyadic(count_) * sums.xx).Round();
+  return OfLine([this](const Deviations& sums) {
+    const Dyadic numerator = sums.xx * sums.yy - sums.xy * sums.xy;
+    return Rational(numerator, Dyadic(count_) * sums.xx).Round();
+  });
+}
+
+Extended ExactPairs::RegressionSumOfSquares() const {
+  return OfLine([this](const Deviations& sums) {
+    return Rational(sums.xy * sums.xy, Dyadic(count_) * sums.xx).Round();
+  });
 }
 
 }  // namespace qorvex

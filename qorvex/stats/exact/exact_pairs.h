@@ -58,6 +58,14 @@ class QORVEX_EXPORT ExactPairs {
   [[nodiscard]] std::uint64_t Count() const noexcept { return count_; }
 
   /// @{
+  /// The sums of the values, of their squares and of the products; 0 for no pair.
+  [[nodiscard]] Extended SumX() const { return x_.Round(); }
+  [[nodiscard]] Extended SumY() const { return y_.Round(); }
+  [[nodiscard]] Extended SumOfSquaresX() const { return xx_.Round(); }
+  [[nodiscard]] Extended SumOfSquaresY() const { return yy_.Round(); }
+  [[nodiscard]] Extended SumOfProducts() const { return xy_.Round(); }
+  /// @}
+  /// @{
   /// The mean.
   [[nodiscard]] Extended MeanX() const;
   [[nodiscard]] Extended MeanY() const;
@@ -94,9 +102,12 @@ class QORVEX_EXPORT ExactPairs {
   [[nodiscard]] Extended Slope() const;
   [[nodiscard]] Extended Intercept() const;
   /// @}
-  /// The sum of the squared vertical distances from the line, with its errors; 0 for points on a
-  /// line.
+  /// @{
+  /// The sum of the squared vertical distances from the line, 0 for points on a line; and the rest
+  /// of the sum of squared deviations of y, which the line explains. With the errors of the line.
   [[nodiscard]] Extended SumOfSquaredErrors() const;
+  [[nodiscard]] Extended RegressionSumOfSquares() const;
+  /// @}
 
   /// Equal counts and equal sums.
   [[nodiscard]] friend bool operator==(const ExactPairs&, const ExactPairs&) = default;
@@ -107,6 +118,9 @@ class QORVEX_EXPORT ExactPairs {
     exact::Dyadic xx, xy, yy;
   };
   [[nodiscard]] Deviations ScaledDeviations() const;
+  // The figure of the deviations, after the checks for a line.
+  template <class Figure>
+  [[nodiscard]] Extended OfLine(Figure figure) const;
   [[nodiscard]] bool IsFinite() const { return x_.IsFinite() && y_.IsFinite(); }
 
   std::uint64_t count_ = 0;

@@ -15,6 +15,9 @@ namespace {
 using Figures = std::map<std::string, Extended (ExactPairs::*)() const>;
 
 const Figures kFigures{
+    {"sum_x", &ExactPairs::SumX},
+    {"sum_of_squares_y", &ExactPairs::SumOfSquaresY},
+    {"sum_of_products", &ExactPairs::SumOfProducts},
     {"mean_x", &ExactPairs::MeanX},
     {"mean_y", &ExactPairs::MeanY},
     {"sample_variance_x", &ExactPairs::SampleVarianceX},
@@ -28,6 +31,7 @@ const Figures kFigures{
     {"slope", &ExactPairs::Slope},
     {"intercept", &ExactPairs::Intercept},
     {"sse", &ExactPairs::SumOfSquaredErrors},
+    {"regression", &ExactPairs::RegressionSumOfSquares},
 };
 
 TEST(ExactPairs, AgreesWithFractionsToTheLastBit) {
@@ -38,6 +42,8 @@ TEST(ExactPairs, AgreesWithFractionsToTheLastBit) {
     exchanged.Add(table.Values(row, "y"), table.Values(row, "x"));
     for (const auto& [column, figure] : kFigures)
       EXPECT_EQ((pairs.*figure)(), table.Value(row, column)) << column << ", row " << row + 1;
+    EXPECT_EQ(exchanged.SumY(), pairs.SumX());
+    EXPECT_EQ(exchanged.SumOfSquaresX(), pairs.SumOfSquaresY());
     EXPECT_EQ(exchanged.SampleVarianceY(), pairs.SampleVarianceX());
     EXPECT_EQ(exchanged.PopulationVarianceX(), pairs.PopulationVarianceY());
     EXPECT_EQ(exchanged.PopulationStdDevY(), pairs.PopulationStdDevX());
@@ -77,7 +83,13 @@ TEST(ExactPairs, RefusesWhatHasNoFigure) {
   };
   ExactPairs pairs, exchanged;
   EXPECT_MATH_ERROR(pairs.Add(TQorFloatVector{1}, TQorFloatVector()), rsSameDimensions);
-  for (const auto& [name, figure] : kFigures) expect_errors(pairs, {name.c_str()}, rsVectorIsEmpty);
+  for (const auto& [name, figure] : kFigures) {
+    if (name.starts_with("sum")) {
+      EXPECT_EQ((pairs.*figure)(), 0);
+    } else {
+      expect_errors(pairs, {name.c_str()}, rsVectorIsEmpty);
+    }
+  }
   pairs.Add(-0.0L, 0.1L);
   EXPECT_TRUE(std::signbit(pairs.MeanX()));
   EXPECT_EQ(pairs.PopulationCovariance(), 0);
@@ -93,7 +105,7 @@ TEST(ExactPairs, RefusesWhatHasNoFigure) {
   EXPECT_EQ(pairs.Intercept(), 0.1L);
   EXPECT_EQ(pairs.SumOfSquaredErrors(), 0);
   expect_errors(pairs, {"correlation", "determination"}, rsSameValue);
-  expect_errors(exchanged, {"correlation", "slope", "intercept", "sse"}, rsSameValue);
+  expect_errors(exchanged, {"correlation", "slope", "intercept", "sse", "regression"}, rsSameValue);
   pairs.Add(kInfinity, 0.1L);
   EXPECT_EQ(pairs.MeanX(), kInfinity);
   EXPECT_EQ(pairs.SampleVarianceY(), 0);
