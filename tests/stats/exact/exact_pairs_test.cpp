@@ -37,7 +37,10 @@ const Figures kFigures{
 TEST(ExactPairs, AgreesWithFractionsToTheLastBit) {
   const testing::Table table("tables/exact_pairs.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
-    ExactPairs pairs, exchanged;
+    const std::vector<Extended> decimals = table.Values(row, "decimals");
+    const auto x_decimals = static_cast<int>(decimals[0]);
+    const auto y_decimals = static_cast<int>(decimals[1]);
+    ExactPairs pairs(x_decimals, y_decimals), exchanged(y_decimals, x_decimals);
     pairs.Add(table.Values(row, "x"), table.Values(row, "y"));
     exchanged.Add(table.Values(row, "y"), table.Values(row, "x"));
     for (const auto& [column, figure] : kFigures)
@@ -74,6 +77,8 @@ TEST(ExactPairs, NeitherOrderNorSplitMatters) {
   EXPECT_EQ(more, whole);
   EXPECT_EQ(more.Count(), 3000U);
   EXPECT_MATH_ERROR(parts[0].Remove(whole), rsInvalidValue);
+  EXPECT_MATH_ERROR(parts[0].Merge(ExactPairs(0, 1)), rsInvalidValue);
+  EXPECT_MATH_ERROR(ExactPairs(0, -1), rsInvalidValue);
 }
 
 TEST(ExactPairs, RefusesWhatHasNoFigure) {
