@@ -74,9 +74,8 @@ FittedCoefficient LinearFit::Coefficient(std::size_t i) const {
   if (df == 0) return result;
   const Rational variance = solution_->Variance() * solution_->Inverse(i, i);
   result.standard_error = variance.RoundRoot();
-  result.t = std::copysign(detail::RoundRatioRoot(value * value, variance),
-                           static_cast<Extended>(value.Sign()));
-  const auto [p, log_p] = detail::TwoSided(result.t, df);
+  const auto [t, p, log_p] = detail::StudentSignificance(value, variance, df);
+  result.t = t;
   result.p = p;
   result.log_p = log_p;
   return result;
