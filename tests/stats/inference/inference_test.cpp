@@ -248,6 +248,8 @@ TEST(Intervals, RefuseAndPassOn) {
     const auto [least, greatest] = routine(kSame, 0.5L);
     EXPECT_EQ(least, greatest);
   }
+  constexpr Extended kMost = std::numeric_limits<Extended>::max();
+  EXPECT_EQ(PredictionInterval(Values{-kMost, kMost}).least, -kInfinity);
   EXPECT_EQ(CorrelationInterval(1, 4).least, 1);
   EXPECT_TRUE(std::isnan(CorrelationInterval(kNaN, 4).least));
 }
