@@ -82,10 +82,15 @@ void ExactSample<kPowerSums>::AddIntegers(VectorView<T> values, int decimals) {
   part.decimals_ = decimals;
   part.finite_ = values.size();
   AddIntegerPowers<kPowerSums>(std::span<const T>(values), part.sums_.data());
-  const auto [least, greatest] = std::ranges::minmax_element(values);
+  auto least = IntegerOf(values.front());
+  auto greatest = least;
+  for (const T x : values) {  // without branches, unlike std::ranges::minmax
+    least = std::min(least, IntegerOf(x));
+    greatest = std::max(greatest, IntegerOf(x));
+  }
   const Dyadic unit = TenToThe(decimals);
-  part.minimum_ = Rational(IntegerOf(*least), unit).Round();
-  part.maximum_ = Rational(IntegerOf(*greatest), unit).Round();
+  part.minimum_ = Rational(least, unit).Round();
+  part.maximum_ = Rational(greatest, unit).Round();
   Merge(part);
 }
 

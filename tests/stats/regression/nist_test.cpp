@@ -52,7 +52,7 @@ std::map<std::string, Extended> FiguresOf(const LinearFit& fit, Intercept interc
 TEST(LinearModel, HasTheNearestNumberToEveryFigureOfTheNistSets) {
   const Table figures("nist/linear_models.csv");
   for (const LinearSet& set : testing::kLinearSets) {
-    const testing::DataFile data(std::string(set.name) + ".txt", set.predictors + 1);
+    const testing::DataColumns data(testing::ReadTexts(set.name, set.predictors + 1));
     for (const bool as_decimals : {false, true}) {
       ExpectFigures(figures, set.name, as_decimals ? "decimal" : "extended",
                     FiguresOf(testing::FitOf(set, data, as_decimals), set.intercept));
@@ -74,9 +74,9 @@ std::map<std::string, Extended> FiguresOf(const OneWayAnovaTable& anova) {
 
 TEST(OneWayAnova, HasTheNearestNumberToEveryFigureOfTheNistSets) {
   const Table figures("nist/anova.csv");
-  for (const testing::AnovaSet& set : testing::AnovaSets()) {
-    ExpectFigures(figures, set.name, "extended", FiguresOf(OneWayAnova(set.extended)));
-    ExpectFigures(figures, set.name, "decimal", FiguresOf(OneWayAnova(set.DecimalViews())));
+  for (const auto& [name, groups] : testing::AnovaSets()) {
+    ExpectFigures(figures, name, "extended", FiguresOf(OneWayAnova(groups.extended)));
+    ExpectFigures(figures, name, "decimal", FiguresOf(OneWayAnova(groups.Views(true))));
   }
 }
 
