@@ -31,13 +31,17 @@ constexpr std::uint64_t AddCarry(std::uint64_t a, std::uint64_t b, bool& carry) 
 
 }  // namespace
 
-void FixedPoint::Reserve(std::int32_t first, std::int32_t end) {
+inline void FixedPoint::Reserve(std::int32_t first, std::int32_t end) {
   const std::size_t size = words_.Size();
   if (size == 0) position_ = first;
   const std::int32_t old_end = position_ + static_cast<std::int32_t>(size);
   if (size > 0 && !HasRoom(words_[size - 1])) end = std::max(end, old_end + 1);
-  if (first >= position_ && end <= old_end) return;
+  if (first < position_ || end > old_end) Grow(first, end);
+}
 
+void FixedPoint::Grow(std::int32_t first, std::int32_t end) {
+  const std::size_t size = words_.Size();
+  const std::int32_t old_end = position_ + static_cast<std::int32_t>(size);
   const bool negative = IsNegative();
   const auto below = static_cast<std::size_t>(std::max(position_ - first, 0));
   const auto above = static_cast<std::size_t>(std::max(end - old_end, 0));
