@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "apps/common/cells.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -15,6 +16,18 @@ bool ShowsADigit(Extended figure, int decimals) {
 }
 
 }  // namespace
+
+std::string HiddenFigures::Remark(int decimals, int most_decimals) const {
+  const std::string enough =
+      enough_decimals <= most_decimals ? "--decimals " + Int2EStr(enough_decimals) + " or " : "";
+  return Cardinal(count, "figure") + (count == 1 ? " is" : " are") + " too small for " +
+         Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " + enough +
+         "--json shows all";
+}
+
+bool HasUnit(const ReportFigure& figure) {
+  return figure.value && figure.label != rsDSSkew && figure.label != rsDSKurtosis;
+}
 
 HiddenFigures HiddenAmong(std::span<const Extended> figures, int decimals) {
   HiddenFigures hidden;

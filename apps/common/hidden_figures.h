@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <span>
+#include <string>
 
 #include "qorvex/stats/descriptive_stats.h"
 
@@ -16,7 +17,14 @@ struct HiddenFigures {
   std::size_t count = 0;
   /// The decimals that show four digits of the smallest of these, or 0.
   int enough_decimals = 0;
+
+  /// "2 figures are too small for 4 decimals; --decimals 9 or --json shows all".
+  [[nodiscard]] std::string Remark(int decimals, int most_decimals) const;
 };
+
+/// Whether the figure exists and depends on the unit of the values, as skewness and kurtosis do
+/// not.
+[[nodiscard]] bool HasUnit(const ReportFigure& figure);
 
 /// The figures that a report with that many decimals hides.
 [[nodiscard]] HiddenFigures HiddenAmong(std::span<const Extended> figures, int decimals);

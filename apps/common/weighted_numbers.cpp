@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "qorvex/stats/exact/exact_sum.h"
@@ -34,12 +35,13 @@ std::optional<Extended> ModeOf(const TQorFloatVector& sorted, const TQorFloatVec
 }  // namespace
 
 std::optional<WeightFault> FaultOf(std::span<const Extended> weights, WeightKind kind) {
-  constexpr Extended most = 0x1p62L;
+  const bool are_counts = kind == WeightKind::kFrequency;
+  const Extended most = are_counts ? 0x1p62L : std::numeric_limits<Extended>::max();
   Extended sum = 0;
   for (const Extended weight : weights) {
     if (weight < 0) return WeightFault{weight, "is negative"};
-    if (kind != WeightKind::kFrequency) continue;
-    if (weight != std::floor(weight)) return WeightFault{weight, "is not a whole number"};
+    if (are_counts && weight != std::floor(weight))
+      return WeightFault{weight, "is not a whole number"};
     sum += weight;
     if (sum > most) return WeightFault{weight, "makes the sum too large"};
   }

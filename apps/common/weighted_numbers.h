@@ -18,8 +18,8 @@ struct WeightFault {
   const char* what;
 };
 
-/// The fault of the first weight that the kind does not allow: weights are not negative, and
-/// frequencies are whole numbers whose sum is at most 2^62.
+/// The fault of the first weight that the kind does not allow: weights are not negative, their sum
+/// is finite, and frequencies are whole numbers whose sum is at most 2^62.
 [[nodiscard]] std::optional<WeightFault> FaultOf(std::span<const Extended> weights,
                                                  WeightKind kind);
 

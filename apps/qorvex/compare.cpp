@@ -110,9 +110,13 @@ void Compare(const CompareArguments& arguments) {
   const ComparisonReport report = ReportOn(first, second, arguments.paired, arguments.confidence);
   const ComparisonHeading heading{first, second, arguments.paired, arguments.confidence_text,
                                   arguments.confidence};
-  WriteResult(arguments.json
-                  ? JsonOf(report, heading)
-                  : TextOf(report, heading, arguments.decimals.value_or(kDefaultDecimals)));
+  if (arguments.json) {
+    WriteResult(JsonOf(report, heading));
+  } else {
+    const int decimals = arguments.decimals.value_or(kDefaultDecimals);
+    RemarkOnHiddenFigures(report, decimals);
+    WriteResult(TextOf(report, heading, decimals));
+  }
 }
 
 }  // namespace

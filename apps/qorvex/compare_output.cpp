@@ -4,10 +4,13 @@
 #include <utility>
 #include <vector>
 
+#include "apps/common/hidden_figures.h"
 #include "apps/common/input_error.h"
 #include "apps/common/probability_text.h"
+#include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/text_output.h"
 #include "apps/qorvex/text_table.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
@@ -107,6 +110,17 @@ std::string TextOf(const ComparisonReport& report, const ComparisonHeading& head
   return FigureTable(report, heading, decimals) + '\n' +
          DifferenceTable(report, heading, decimals) + '\n' + TestTable(report, decimals) +
          (plots.empty() ? "" : '\n' + plots);
+}
+
+void RemarkOnHiddenFigures(const ComparisonReport& report, int decimals) {
+  std::vector<Extended> figures{report.difference};
+  if (report.interval)
+    figures.insert(figures.end(), {report.interval->least, report.interval->greatest});
+  for (const auto* lines : {&report.first, &report.second})
+    for (const ReportFigure& line : *lines)
+      if (HasUnit(line)) figures.push_back(*line.value);
+  const HiddenFigures hidden = HiddenAmong(figures, decimals);
+  if (hidden.count > 0) WriteRemark(hidden.Remark(decimals, kMostDecimals));
 }
 
 std::string JsonOf(const ComparisonReport& report, const ComparisonHeading& heading) {

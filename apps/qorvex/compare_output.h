@@ -23,6 +23,9 @@ struct ComparisonHeading {
 [[nodiscard]] std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading,
                                  int decimals);
 
+/// Writes a remark if figures are too small for the decimals.
+void RemarkOnHiddenFigures(const ComparisonReport& report, int decimals);
+
 /// One JSON document.
 [[nodiscard]] std::string JsonOf(const ComparisonReport& report, const ComparisonHeading& heading);
 

@@ -117,7 +117,7 @@ void AddIndependent(ComparisonReport& report, const DescribedColumn& first,
 
 }  // namespace
 
-ComparisonReport ReportOn(ComparedColumn& first, ComparedColumn& second, bool paired,
+ComparisonReport ReportOn(const ComparedColumn& first, const ComparedColumn& second, bool paired,
                           Extended confidence) {
   const DescribedColumn a = Described(first);
   const DescribedColumn b = Described(second);

@@ -49,9 +49,9 @@ struct ComparisonReport {
   std::vector<ReportedTest> tests = {};
 };
 
-/// The report. The numbers of the columns are released. The values of paired columns belong
-/// together and are as many.
-[[nodiscard]] ComparisonReport ReportOn(ComparedColumn& first, ComparedColumn& second, bool paired,
-                                        Extended confidence);
+/// The report. The values of paired columns belong together and are as many. Throws InputError
+/// (kOutOfRange) for figures that overflow.
+[[nodiscard]] ComparisonReport ReportOn(const ComparedColumn& first, const ComparedColumn& second,
+                                        bool paired, Extended confidence);
 
 }  // namespace qorvex::apps

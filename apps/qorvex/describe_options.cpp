@@ -78,17 +78,20 @@ void DescribeOptions::AddTo(CLI::App& command) {
               "standard deviation of normal data")
           ->type_name("P")
           ->excludes(all_values);
+  CLI::Option* const thread_count =
+      command
+          .add_option(
+              "--threads", threads,
+              "Threads that add up the values of a column; the result is the same.\nDefault: 1")
+          ->check(CLI::Range(1U, kMostThreads))
+          ->option_text("N (1 to 256)");
   command
       .add_flag("--classic", classic,
-                "Compute with the classic routines, which round at each step: sums depend on\n"
-                "the order of the values. Default: every figure is exact and rounded once")
+                "Compute with the classic routines, whose sums are rounded at each step and\n"
+                "depend on the order of the values. Default: sums are exact")
       ->excludes(weights)
-      ->excludes(level);
-  command
-      .add_option("--threads", threads,
-                  "Threads that add up the values of a column; the result is the same.\nDefault: 1")
-      ->check(CLI::Range(1U, kMostThreads))
-      ->option_text("N (1 to 256)");
+      ->excludes(level)
+      ->excludes(thread_count);
   AddDecimals(command, decimals, "Decimals of the report. Default: 4");
   command.add_flag("--json", json,
                    "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"

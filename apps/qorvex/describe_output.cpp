@@ -37,12 +37,8 @@ HiddenFigures HiddenIn(const ColumnReport& report, int decimals) {
     const HiddenFigures others = HiddenAmong(figures, decimals);
     return {lines.count + others.count, std::max(lines.enough_decimals, others.enough_decimals)};
   }
-  for (const ReportFigure& line : report.lines) {
-    // Skewness and kurtosis do not depend on the unit of the values.
-    const bool has_unit = line.label != rsDSSkew && line.label != rsDSKurtosis;
-    if (line.value && has_unit && !report.amounts.contains(line.label))
-      figures.push_back(*line.value);
-  }
+  for (const ReportFigure& line : report.lines)
+    if (HasUnit(line) && !report.amounts.contains(line.label)) figures.push_back(*line.value);
   return HiddenAmong(figures, decimals);
 }
 
@@ -84,14 +80,9 @@ void RemarkOnHiddenFigures(const ColumnReport& report, const DescribeOptions& op
   const int decimals = options.Decimals();
   const HiddenFigures hidden = HiddenIn(report, decimals);
   if (hidden.count == 0) return;
-  const std::string enough = hidden.enough_decimals <= kMostDecimals
-                                 ? "--decimals " + Int2EStr(hidden.enough_decimals) + " or "
-                                 : "";
   WriteRemark(OnOneLine(InputName(options.table.file)) + ": " +
-              ColumnTitle(report.number, report.name) + ": " + Cardinal(hidden.count, "figure") +
-              (hidden.count == 1 ? " is" : " are") + " too small for " +
-              Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " + enough +
-              "--json shows all");
+              ColumnTitle(report.number, report.name) + ": " +
+              hidden.Remark(decimals, kMostDecimals));
 }
 
 void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn* weights) {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 #include "apps/common/cells.h"
@@ -38,24 +39,25 @@ std::map<ReportTextId, Currency> AmountsOf(const TableColumn& column,
     return Currency(stored);
   };
   const TQorInt64Vector& parts = column.numbers.Integers();
-  Int128 sum = 0, minimum = 0, maximum = 0;
-  bool is_first = true;
+  const bool has_sum = !options.HasReliabilities();
+  Int128 sum = 0;
+  std::int64_t minimum = std::numeric_limits<std::int64_t>::max();
+  std::int64_t maximum = std::numeric_limits<std::int64_t>::min();
   bool overflow = false;
   for (std::size_t i = 0; i < parts.size(); ++i) {
     const Extended weight = weights.empty() ? 1 : weights[i];
     if (weight == 0) continue;
-    const Int128 part = parts[i];
-    minimum = is_first ? part : std::min(minimum, part);
-    maximum = is_first ? part : std::max(maximum, part);
-    is_first = false;
+    minimum = std::min(minimum, parts[i]);
+    maximum = std::max(maximum, parts[i]);
+    if (!has_sum) continue;
     Int128 product = 0;
-    overflow |= __builtin_mul_overflow(part, static_cast<Int128>(weight), &product) ||
+    overflow |= __builtin_mul_overflow(Int128{parts[i]}, static_cast<Int128>(weight), &product) ||
                 __builtin_add_overflow(sum, product, &sum);
   }
-  std::map<ReportTextId, Currency> amounts{{rsDSMaximum, amount(maximum, "maximum")},
-                                           {rsDSMinimum, amount(minimum, "minimum")},
-                                           {rsDSRange, amount(maximum - minimum, "range")}};
-  if (!options.HasReliabilities()) amounts.emplace(rsDSSum, amount(sum, "sum", overflow));
+  std::map<ReportTextId, Currency> amounts{{rsDSMaximum, Currency(maximum)},
+                                           {rsDSMinimum, Currency(minimum)},
+                                           {rsDSRange, amount(Int128{maximum} - minimum, "range")}};
+  if (has_sum) amounts.emplace(rsDSSum, amount(sum, "sum", overflow));
   return amounts;
 }
 
@@ -130,6 +132,10 @@ ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
     AddWeighted(report, std::exchange(column.numbers, {}), values, options);
   }
   RequireFinite(report.lines, InputName(options.table.file), column.Title());
+  if (report.intervals && !std::isfinite(report.intervals->variance.greatest)) {
+    Refuse(options, InputFault::kOutOfRange, column,
+           "the confidence intervals are beyond the range of extended precision");
+  }
   return report;
 }
 

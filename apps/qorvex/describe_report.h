@@ -34,7 +34,8 @@ struct ColumnReport {
   std::vector<ReportFigure> lines = {};
   /// The figures that are amounts, if the values are.
   std::map<ReportTextId, Currency> amounts = {};
-  /// Whether rounding errors in the sums may look like small figures.
+  /// The figures of the classic routines, if they are: rounding errors in the sums of these may
+  /// look like small figures.
   std::optional<DescriptiveResults> classic = std::nullopt;
   std::optional<Extended> sum_of_weights = std::nullopt;
   /// In the order of the options.

@@ -1,6 +1,6 @@
 #include "apps/qorvex/test_samples.h"
 
-#include <algorithm>
+#include <map>
 #include <utility>
 
 #include "apps/common/cells.h"
@@ -9,9 +9,6 @@
 #include "apps/qorvex/parameters.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
-#include "qorvex/stats/order_statistics.h"
-#include "qorvex/vector/building.h"
-#include "qorvex/vector/sorting.h"
 
 namespace qorvex::apps {
 
@@ -28,21 +25,19 @@ NumberSample SampleOf(TableColumn column) {
 // The groups are in the order in which their labels appear.
 std::vector<NumberSample> Split(const TableColumn& column, const TableColumn& labels) {
   std::vector<NumberSample> groups;
-  std::vector<Extended> found;
-  const TQorFloatVector label_of = labels.numbers.Values();
+  std::map<std::string, std::size_t> group_of;
+  const std::string label_name = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
   const TQorFloatVector values = column.numbers.Values();
   for (std::size_t i = 0; i < values.size(); ++i) {
-    const auto at = std::ranges::find(found, label_of[i]);
-    const auto index = static_cast<std::size_t>(at - found.begin());
-    if (at == found.end()) {
-      found.push_back(label_of[i]);
-      const std::string label = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
+    const std::string& label = labels.labels[i];
+    const auto [at, is_new] = group_of.try_emplace(label, groups.size());
+    if (is_new) {
       groups.push_back({{},
                         {.column = column.number,
                          .name = column.name,
-                         .group = label + " = " + Float2Str(label_of[i])}});
+                         .group = label_name + " = " + OnOneLine(label)}});
     }
-    ColumnNumbers& numbers = groups[index].numbers;
+    ColumnNumbers& numbers = groups[at->second].numbers;
     const bool is_kept =
         column.numbers.AreDecimal() &&
         numbers.TryAppend({column.numbers.Integers()[i], -std::int64_t{column.numbers.Decimals()}});
@@ -55,12 +50,10 @@ std::vector<NumberSample> SplitSamples(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   if (table.selection.columns.size() != 1)
     throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
-  const std::string chosen = table.selection.columns[0];
-  table.selection.columns.push_back(*arguments.by);
+  table.selection.labels = arguments.by;
   table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
-  if (columns.size() == 1) Refuse(arguments, "values and labels are both " + columns[0].Title());
-  return Split(ColumnOf(columns, chosen), ColumnOf(columns, *arguments.by));
+  return Split(columns[0], columns[1]);
 }
 
 TestFigure CountOf(const NumberSample& sample) {
@@ -75,6 +68,17 @@ const char* WhyNot(MessageId id) {
       return "the test needs at least three values";
     case rsSameValue:
       return "the values must not all be the same";
+    case rsDF:
+      return "no degrees of freedom are left";
+    case rsVectorZero:
+      return "all counts are 0";
+    case rsVectorNotPos:
+      return "the proportions must all be greater than 0";
+    case rsInvalidRow:
+    case rsInvalidCol:
+      return "the table needs at least two rows and two columns";
+    case rsMatrixZero:
+      return "a row or a column of the table holds nothing but 0";
     default:
       return nullptr;
   }
@@ -111,18 +115,8 @@ std::vector<NumberSample> ReadPairs(const TestArguments& arguments) {
   return {SampleOf(std::move(columns[0])), SampleOf(std::move(columns[1]))};
 }
 
-ExactSample<2> SumsOf(const ColumnNumbers& numbers) {
-  ExactSample<2> sums;
-  if (numbers.AreDecimal()) {
-    sums.AddScaled(numbers.Integers(), numbers.Decimals());
-  } else {
-    sums.Add(numbers.Values());
-  }
-  return sums;
-}
-
 TestSample WithMoments(const NumberSample& sample) {
-  const ExactSample<2> sums = SumsOf(sample.numbers);
+  const ExactSample<2> sums = ExactSumsOf<2>(sample.numbers);
   TestSample origin = sample.origin;
   origin.figures = {CountOf(sample), {"mean", ReportText(rsDSMean), sums.Mean()}};
   if (sums.Count() > 1)
@@ -131,10 +125,11 @@ TestSample WithMoments(const NumberSample& sample) {
 }
 
 TestSample WithMedian(const NumberSample& sample) {
-  TQorFloatVector sorted = CopyVector(sample.numbers.Values());
-  QSortVector(sorted, true);
+  ColumnNumbers sorted = sample.numbers;
+  sorted.Sort();
+  const Extended median = sorted.ValueOf(OrderFiguresOf(sorted).median);
   TestSample origin = sample.origin;
-  origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), GetMedian(sorted)}};
+  origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), median}};
   return origin;
 }
 

@@ -47,7 +47,8 @@ TEST_P(Commands, PrintWhatTheirFileSays) {
   }
 }
 INSTANTIATE_TEST_SUITE_P(Files, Commands,
-                         testing::Values("compare", "describe", "dist", "fit", "matrix", "program", "random"),
+                         testing::Values("compare", "describe", "dist", "fit", "matrix", "program",
+                                         "random", "test"),
                          [](const auto& file) { return file.param; });
 
 TEST(Program, PrintsItsVersion) {
