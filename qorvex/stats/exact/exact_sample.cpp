@@ -1,9 +1,6 @@
 #include "qorvex/stats/exact/exact_sample.h"
 
 #include <algorithm>
-#include <array>
-#include <limits>
-#include <type_traits>
 #include <utility>
 
 #include "qorvex/base/errors.h"

@@ -57,8 +57,9 @@ void FixedPoint::Grow(std::int32_t first, std::int32_t end) {
 
 void FixedPoint::Add(std::span<const std::uint64_t> magnitude, std::int64_t exponent,
                      bool negative) {
-  while (!magnitude.empty() && magnitude.back() == 0)
+  while (!magnitude.empty() && magnitude.back() == 0) {
     magnitude = magnitude.first(magnitude.size() - 1);
+  }
   if (magnitude.empty()) return;
   const auto first = static_cast<std::int32_t>(exponent >> 6);
   const int shift = static_cast<int>(exponent & 63);
@@ -108,7 +109,10 @@ void FixedPoint::AddWords(const FixedPoint& other, bool negate) {
   for (std::size_t i = 0; i < count; ++i, ++to) {
     words_[to] = AddCarry(words_[to], other.words_[i] ^ flip, carry);
   }
-  for (; to < words_.Size(); ++to) words_[to] = AddCarry(words_[to], extension, carry);
+  const bool unchanged = extension != 0;  // by this carry
+  for (; to < words_.Size() && carry != unchanged; ++to) {
+    words_[to] = AddCarry(words_[to], extension, carry);
+  }
 }
 
 int FixedPoint::Sign() const {
@@ -150,7 +154,11 @@ FixedPoint FixedPoint::FromWords(const Words& words) {
   FixedPoint total;
   total.position_ = words.position;
   total.words_ = Limbs(words.words);
-  return total;
+  const Words shortest = total.ShortestWords();
+  FixedPoint result;
+  result.position_ = shortest.position;
+  result.words_ = Limbs(shortest.words);
+  return result;
 }
 
 bool operator==(const FixedPoint& a, const FixedPoint& b) {
