@@ -16,6 +16,7 @@
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/stats/exact/extended_view.h"
 #include "qorvex/stats/inference/test_result.h"
 
 namespace qorvex {
@@ -33,11 +34,23 @@ namespace qorvex {
                                                          VectorView<Extended> proportions,
                                                          std::uint32_t fitted_parameters = 0);
 [[nodiscard]] QORVEX_EXPORT TestResult GoodnessOfFitTest(VectorView<std::int64_t> counts);
+template <ContiguousRange Counts, ContiguousRange Proportions>
+requires IntegerElement<ElementOf<Counts>> && NumericElement<ElementOf<Proportions>>
+[[nodiscard]] TestResult GoodnessOfFitTest(const Counts& counts, const Proportions& proportions,
+                                           std::uint32_t fitted_parameters = 0) {
+  return GoodnessOfFitTest(VectorView<std::int64_t>(ConvertVector<std::int64_t>(counts)),
+                           VectorView<Extended>(AsExtended(proportions)), fitted_parameters);
+}
+template <ContiguousRange Counts>
+requires IntegerElement<ElementOf<Counts>>
+[[nodiscard]] TestResult GoodnessOfFitTest(const Counts& counts) {
+  return GoodnessOfFitTest(VectorView<std::int64_t>(ConvertVector<std::int64_t>(counts)));
+}
 /// @}
 
-/// Whether a table of counts is corrected for being a table of counts.
+/// Whether the differences of a table are corrected, since counts change in steps.
 enum class ContinuityCorrection : std::uint8_t {
-  kNone,
+  kNone,   ///< no
   kYates,  ///< for tables of 2 by 2: differences shrink by 1/2, but not beyond 0
 };
 

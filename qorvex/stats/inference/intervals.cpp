@@ -33,7 +33,9 @@ Interval<Extended> StudentInterval(const Rational& estimate, const Rational& squ
   Rational half_width;
   if (squared_error.Sign() > 0) {
     const Extended t = StudentTDistribution(df).Quantile(Tail::kUpper, tail);
-    half_width = Rational(t) * Rational(CheckedFinite(squared_error.RoundRoot()));
+    // Half of the root is within the format.
+    half_width =
+        Rational(Dyadic(t).Shifted(1)) * Rational((squared_error / Rational(4)).RoundRoot());
   }
   return {(estimate - half_width).Round(), (estimate + half_width).Round()};
 }

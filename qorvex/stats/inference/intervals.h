@@ -8,7 +8,7 @@
 /// - The intervals of samples assume normal data. They take exact samples, or ranges of any element
 ///   type, as the tests of means do.
 /// - Equal values give intervals without width. NaN and infinities among the values, and a
-///   confidence of NaN, give NaN.
+///   confidence of NaN, give NaN. Ends beyond the format are infinite.
 /// - Errors, in this order: the ones that an interval lists; rsValue01 unless 0 < confidence < 1.
 /// - Cost: a quantile of the distribution.
 

@@ -3,14 +3,12 @@
 /// @file
 /// Tests on ranks.
 ///
-/// - Differences are compared exactly, so that rounding neither makes nor breaks a tie of the
-/// values
-///   as they are stored. The stored integers of amounts and of decimal columns tie as their
-///   decimals do.
-/// - p is exact up to 50 values (in each sample) without ties, rounded once. Otherwise it comes
-/// from
-///   the normal approximation, with the variance corrected for ties and the statistic moved by 1/2
-///   towards its mean.
+/// - Differences are compared with 125 bits, so that rounding them neither makes nor breaks a tie.
+///   Decimals tie as they should where the stored integers of amounts or of decimal columns are
+///   passed: 80 bits hold 0.3 - 0.1 and 0.2 differently.
+/// - p is exact, and rounded once, up to 50 values in each sample without ties. Otherwise it comes
+///   from the normal approximation, with the variance corrected for ties and the statistic moved by
+///   1/2 so that p grows.
 /// - Two-sided p is twice the smaller tail, at most 1.
 /// - Cost: a sort; for an exact p up to a millisecond.
 /// - Source: Wilcoxon (1945), "Individual comparisons by ranking methods"; Mann and Whitney (1947),

@@ -13,8 +13,8 @@ namespace qorvex {
 /// Whether the values are normal: W, the squared correlation of the ordered values with weights
 /// that approximate the best ones.
 ///
-/// - p is exact for three values, and by Royston's normal approximation of ln(1 - W) beyond; his
-///   formulas are evaluated to a few units of the last place.
+/// - p is exact for three values, and by Royston's normal approximation of ln(1 - W) beyond. His
+///   formulas are approximations of some three digits, and are evaluated to 17.
 /// - Location and scale do not matter.
 /// - Errors: rsVectorG2 for fewer than three values; rsInvalidValue for more than 5000; rsSameValue
 ///   where no value differs from the others.

@@ -35,8 +35,8 @@ requires AnyElement<ElementOf<Range>>
 /// Whether the variances have the given ratio, first to second: F = s1^2 / s2^2 / ratio with n1 - 1
 /// and n2 - 1 degrees of freedom.
 ///
-/// - Errors: rsVectorG1 for fewer than two values in a sample; rsSameValue where the values of a
-///   sample do not differ; rsValueGZero unless 0 < ratio < infinity.
+/// - Errors: rsVectorG1 for fewer than two values in a sample; rsValueGZero unless
+///   0 < ratio < infinity; rsSameValue where the values of a sample do not differ.
 [[nodiscard]] QORVEX_EXPORT TestResult
 VarianceRatioTest(const ExactSample<2>& first, const ExactSample<2>& second, Extended ratio = 1,
                   Alternative alternative = Alternative::kTwoSided);
