@@ -59,7 +59,7 @@ std::size_t FindColumn(const std::string& chosen, std::span<const std::string> n
 }
 
 // The positions, from 0, of the chosen columns without duplicates; of all columns if none is
-// chosen. The weights are the last.
+// chosen. Weights or labels are the last.
 std::vector<std::size_t> ChosenColumns(const TableSelection& selection,
                                        std::span<const std::string> names, std::size_t width,
                                        const std::string& input_name) {
@@ -72,12 +72,13 @@ std::vector<std::size_t> ChosenColumns(const TableSelection& selection,
     const std::size_t index = FindColumn(column, names, width, input_name);
     if (std::ranges::find(indices, index) == indices.end()) indices.push_back(index);
   }
-  if (selection.weights) {
-    const std::size_t index = FindColumn(*selection.weights, names, width, input_name);
+  if (const auto& last = selection.weights ? selection.weights : selection.labels) {
+    const std::size_t index = FindColumn(*last, names, width, input_name);
     std::erase(indices, index);
     if (indices.empty()) {
       throw InputError(InputFault::kNoSuchColumn, input_name,
-                       "there is no column beside the weights");
+                       std::string("there is no column beside the ") +
+                           (selection.weights ? "weights" : "labels"));
     }
     indices.push_back(index);
   }
@@ -93,6 +94,7 @@ class ColumnCollector {
         whole_rows_(selection.whole_rows),
         currency_(selection.currency),
         weighted_(selection.weights.has_value()),
+        labelled_(selection.labels.has_value()),
         first_line_(rows.Line()),
         width_(rows.Cells().size()) {
     if (selection.header.value_or(HoldsText(rows.Cells())))
@@ -132,7 +134,7 @@ class ColumnCollector {
 
   [[nodiscard]] Table Finish() {
     for (TableColumn& column : columns_) {
-      if (column.numbers.empty()) {
+      if (column.numbers.empty() && column.labels.empty()) {
         throw InputError(InputFault::kNoValues, rows_.Name(), column.Title() + " has no values");
       }
       column.numbers.ShrinkToFit();
@@ -148,7 +150,12 @@ class ColumnCollector {
   void Add(std::string_view cell, TableColumn& column) const {
     const CellPlace place = Place(column, rows_.Line());
     std::optional<DecimalNumber> exact;
-    if (currency_ && !(weighted_ && &column == &columns_.back())) {
+    const bool is_last = &column == &columns_.back();
+    if (labelled_ && is_last) {
+      column.labels.emplace_back(cell);
+      return;
+    }
+    if (currency_ && !(weighted_ && is_last)) {
       exact = {AmountIn(cell, place).stored(), -Currency::kDecimals};
     } else if (column.numbers.AreDecimal()) {
       exact = ParseDecimal(cell);
@@ -170,6 +177,7 @@ class ColumnCollector {
   bool whole_rows_;
   bool currency_;
   bool weighted_;
+  bool labelled_;
   std::size_t first_line_;
   std::size_t width_;
   std::vector<std::string> header_;

@@ -21,6 +21,8 @@ struct TableSelection {
   /// The name or number of a further column, of weights, which becomes the last of the result and
   /// is none of the others.
   std::optional<std::string> weights = {};
+  /// The same for a column of labels, which are any text. There can be either.
+  std::optional<std::string> labels = {};
   /// As for RowReader: detected if not set; a space stands for any run of spaces and tabs.
   std::optional<char> delimiter = {};
   /// Whether the first row is a header. If not set, it is one if any of its cells is text.
@@ -30,7 +32,7 @@ struct TableSelection {
   /// With skip_empty, skip the whole row if any chosen cell in it is empty, so that values with the
   /// same index belong to the same row.
   bool whole_rows = false;
-  /// Read the cells, except weights, as amounts of money.
+  /// Read the cells, except weights and labels, as amounts of money.
   bool currency = false;
 };
 
@@ -42,6 +44,8 @@ struct TableColumn {
   std::string name = {};
   /// For amounts of money integers with four decimals.
   ColumnNumbers numbers = {};
+  /// Labels take the place of the numbers.
+  std::vector<std::string> labels = {};
   /// The number of empty cells, or of rows, that were skipped.
   std::size_t skipped = 0;
 

@@ -87,8 +87,8 @@ void DescribeOptions::AddTo(CLI::App& command) {
           ->option_text("N (1 to 256)");
   command
       .add_flag("--classic", classic,
-                "Compute with the classic routines, which round at each step: sums depend on\n"
-                "the order of the values. Default: every figure is exact and rounded once")
+                "Compute with the classic routines, whose sums are rounded at each step and\n"
+                "depend on the order of the values. Default: sums are exact")
       ->excludes(weights)
       ->excludes(level)
       ->excludes(thread_count);

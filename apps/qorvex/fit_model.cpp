@@ -8,6 +8,7 @@
 #include "apps/common/column_view.h"
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
+#include "apps/common/weighted_numbers.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/regression/linear_model.h"
@@ -21,11 +22,11 @@ namespace {
 }
 
 void RequireWeights(const TableColumn& column, const FitArguments& arguments) {
-  const TQorFloatVector weights = column.numbers.Values();
-  const auto negative = std::ranges::find_if(weights, [](Extended weight) { return weight < 0; });
-  if (negative == weights.end()) return;
+  const std::optional<WeightFault> fault =
+      FaultOf(column.numbers.Values(), WeightKind::kReliability);
+  if (!fault) return;
   Refuse(arguments, InputFault::kNoResult,
-         column.Title() + ": the weight " + Float2Str(*negative) + " is negative");
+         column.Title() + ": the weight " + Float2Str(fault->weight) + ' ' + fault->what);
 }
 
 // The distinct x that a polynomial needs.

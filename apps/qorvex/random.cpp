@@ -57,19 +57,20 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
   const std::size_t index = arguments->parameters.size();
   arguments->parameters.Append({parameter.start});
   const std::string name = parameter.option;
-  CLI::Option& option =
-      parameter.kind == NumberKind::kReals
-          ? *command
-                 .add_option_function<std::string>(
-                     name,
-                     [arguments, index, name](const std::string& text) {
-                       arguments->parameters.Set(index, ParseNumbers(name, text, NumberKind::kReals));
-                     },
-                     parameter.Description())
-                 ->type_name("X,X,...")
-          : AddNumber(
-                command, name, parameter.Description(), parameter.kind,
-                [arguments, index](Extended value) { arguments->parameters.Set(index, {value}); });
+  CLI::Option& option = parameter.kind == NumberKind::kReals
+                            ? *command
+                                   .add_option_function<std::string>(
+                                       name,
+                                       [arguments, index, name](const std::string& text) {
+                                         arguments->parameters.Set(
+                                             index, ParseNumbers(name, text, NumberKind::kReals));
+                                       },
+                                       parameter.Description())
+                                   ->type_name("X,X,...")
+                            : AddNumber(command, name, parameter.Description(), parameter.kind,
+                                        [arguments, index](Extended value) {
+                                          arguments->parameters.Set(index, {value});
+                                        });
   if (!parameter.has_default) option.required();
 }
 

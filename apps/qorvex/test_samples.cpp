@@ -1,6 +1,6 @@
 #include "apps/qorvex/test_samples.h"
 
-#include <algorithm>
+#include <map>
 #include <utility>
 
 #include "apps/common/cells.h"
@@ -25,21 +25,19 @@ NumberSample SampleOf(TableColumn column) {
 // The groups are in the order in which their labels appear.
 std::vector<NumberSample> Split(const TableColumn& column, const TableColumn& labels) {
   std::vector<NumberSample> groups;
-  std::vector<Extended> found;
-  const TQorFloatVector label_of = labels.numbers.Values();
+  std::map<std::string, std::size_t> group_of;
+  const std::string label_name = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
   const TQorFloatVector values = column.numbers.Values();
   for (std::size_t i = 0; i < values.size(); ++i) {
-    const auto at = std::ranges::find(found, label_of[i]);
-    const auto index = static_cast<std::size_t>(at - found.begin());
-    if (at == found.end()) {
-      found.push_back(label_of[i]);
-      const std::string label = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
+    const std::string& label = labels.labels[i];
+    const auto [at, is_new] = group_of.try_emplace(label, groups.size());
+    if (is_new) {
       groups.push_back({{},
                         {.column = column.number,
                          .name = column.name,
-                         .group = label + " = " + Float2Str(label_of[i])}});
+                         .group = label_name + " = " + OnOneLine(label)}});
     }
-    ColumnNumbers& numbers = groups[index].numbers;
+    ColumnNumbers& numbers = groups[at->second].numbers;
     const bool is_kept =
         column.numbers.AreDecimal() &&
         numbers.TryAppend({column.numbers.Integers()[i], -std::int64_t{column.numbers.Decimals()}});
@@ -52,12 +50,10 @@ std::vector<NumberSample> SplitSamples(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   if (table.selection.columns.size() != 1)
     throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
-  const std::string chosen = table.selection.columns[0];
-  table.selection.columns.push_back(*arguments.by);
+  table.selection.labels = arguments.by;
   table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
-  if (columns.size() == 1) Refuse(arguments, "values and labels are both " + columns[0].Title());
-  return Split(ColumnOf(columns, chosen), ColumnOf(columns, *arguments.by));
+  return Split(columns[0], columns[1]);
 }
 
 TestFigure CountOf(const NumberSample& sample) {

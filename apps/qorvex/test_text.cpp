@@ -78,8 +78,7 @@ class TestText {
 
   void AddFigures(const std::vector<TestFigure>& figures) {
     for (const TestFigure& figure : figures)
-      Line(figure.label, figure.is_count ? Int2EStr(static_cast<std::uint64_t>(figure.value))
-                                         : Figure(figure.value));
+      Line(figure.label, figure.is_count ? Float2EStr(figure.value, 0) : Figure(figure.value));
   }
 
   void AddResult() {

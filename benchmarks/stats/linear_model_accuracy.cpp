@@ -111,14 +111,14 @@ Numbers Exact(const Table& table, const std::string& set, const std::string& pre
   return exact;
 }
 
-// The right digits of the worst figure; "all" where each is the nearest extended number.
+// The right digits of the worst figure: "all" where each is the nearest extended number, "-" where
+// one should be 0.
 std::string Digits(const Numbers& values, const Numbers& exact) {
   Extended worst = INFINITY;
   for (std::size_t i = 0; i < exact.size(); ++i) {
     if (values.at(i) == exact[i]) continue;
-    worst = std::min(worst, exact[i] == 0 || std::isinf(exact[i])
-                                ? 0
-                                : -std::log10(std::fabs(values[i] / exact[i] - 1)));
+    if (exact[i] == 0) return "-";
+    worst = std::min(worst, -std::log10(std::fabs(values[i] / exact[i] - 1)));
   }
   if (std::isinf(worst)) return "all";
   char text[16];

@@ -29,14 +29,14 @@ QString Dash() {
   return QStringLiteral("—");
 }
 
-// With the decimals that show four digits of the standard error.
+// With the decimals that show four digits of the standard error, unless there are too many zeros.
 QString RoundedText(Extended figure, Extended standard_error) {
   if (!std::isfinite(figure) || !std::isfinite(standard_error)) return Dash();
-  if (!(standard_error > 0)) return ExactText(figure);
-  constexpr int most_decimals = 20;
+  constexpr Extended least = 1e-17L;
+  constexpr Extended greatest = 1e12L;
+  if (standard_error < least || standard_error > greatest) return ExactText(figure);
   const int decimals = 3 - static_cast<int>(std::floor(std::log10(standard_error)));
-  return decimals > most_decimals ? ExactText(figure)
-                                  : LocalText(Float2EStr(figure, std::max(decimals, 0)));
+  return LocalText(Float2EStr(figure, std::max(decimals, 0)));
 }
 
 QString ProbabilityText(Extended p, Extended log_p) {
@@ -52,6 +52,28 @@ bool AllFinite(const PairFit& fit) {
 QPointF Point(Extended x, Extended y) {
   return {static_cast<double>(x), static_cast<double>(y)};
 }
+
+// A line or parabola from three of its points, fast enough for a million pairs. Powers of x would
+// lose the digits that all x have in common.
+class Interpolation {
+ public:
+  Interpolation(const LinearFit& fit, Extended least, Extended greatest)
+      : least_(least), width_(greatest - least), start_(fit.Predict({least}).value) {
+    const Extended end = fit.Predict({greatest}).value;
+    const Extended middle = fit.Predict({least + width_ / 2}).value;
+    bend_ = 2 * ((end - middle) - (middle - start_));
+    rise_ = (end - start_) - bend_;
+  }
+
+  Extended operator()(Extended x) const {
+    const Extended place = (x - least_) / width_;
+    return start_ + place * (rise_ + place * bend_);
+  }
+
+ private:
+  Extended least_, width_;
+  Extended start_, rise_, bend_;
+};
 
 }  // namespace
 
@@ -98,10 +120,11 @@ Extended RegressionReport::PlaceOf(int step, int steps) const {
 
 PlotLayer RegressionReport::Line(const Curve& curve) const {
   PlotLayer layer{PlotShape::kLine, curve.role, curve.name, {}};
+  const Interpolation fitted(curve.fit->curve, least_x_, greatest_x_);
   const int steps = curve.fit->curve.Size() == 2 ? 1 : 200;
   for (int i = 0; i <= steps; ++i) {
     const Extended at = PlaceOf(i, steps);
-    layer.points.push_back(Point(at, curve.fit->curve.Predict({at}).value));
+    layer.points.push_back(Point(at, fitted(at)));
   }
   return layer;
 }
@@ -141,8 +164,9 @@ std::vector<PlotLayer> RegressionReport::Residuals() const {
           {PlotShape::kLine, PlotRole::kGuide, {}, {Point(least_x_, 0), Point(greatest_x_, 0)}});
     }
     PlotLayer layer{PlotShape::kPoints, curve->role, curve->name, {}};
-    const TQorFloatVector residuals = curve->fit->curve.Residuals(x_, y_);
-    for (std::size_t i = 0; i < x_.size(); ++i) layer.points.push_back(Point(x_[i], residuals[i]));
+    const Interpolation fitted(curve->fit->curve, least_x_, greatest_x_);
+    for (std::size_t i = 0; i < x_.size(); ++i)
+      layer.points.push_back(Point(x_[i], y_[i] - fitted(x_[i])));
     layers.push_back(std::move(layer));
   }
   return layers;

@@ -15,6 +15,9 @@ namespace {
 using Figures = std::map<std::string, Extended (ExactPairs::*)() const>;
 
 const Figures kFigures{
+    {"sum_x", &ExactPairs::SumX},
+    {"sum_of_squares_y", &ExactPairs::SumOfSquaresY},
+    {"sum_of_products", &ExactPairs::SumOfProducts},
     {"mean_x", &ExactPairs::MeanX},
     {"mean_y", &ExactPairs::MeanY},
     {"sample_variance_x", &ExactPairs::SampleVarianceX},
@@ -28,16 +31,22 @@ const Figures kFigures{
     {"slope", &ExactPairs::Slope},
     {"intercept", &ExactPairs::Intercept},
     {"sse", &ExactPairs::SumOfSquaredErrors},
+    {"regression", &ExactPairs::RegressionSumOfSquares},
 };
 
 TEST(ExactPairs, AgreesWithFractionsToTheLastBit) {
   const testing::Table table("tables/exact_pairs.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
-    ExactPairs pairs, exchanged;
+    const std::vector<Extended> decimals = table.Values(row, "decimals");
+    const auto x_decimals = static_cast<int>(decimals[0]);
+    const auto y_decimals = static_cast<int>(decimals[1]);
+    ExactPairs pairs(x_decimals, y_decimals), exchanged(y_decimals, x_decimals);
     pairs.Add(table.Values(row, "x"), table.Values(row, "y"));
     exchanged.Add(table.Values(row, "y"), table.Values(row, "x"));
     for (const auto& [column, figure] : kFigures)
       EXPECT_EQ((pairs.*figure)(), table.Value(row, column)) << column << ", row " << row + 1;
+    EXPECT_EQ(exchanged.SumY(), pairs.SumX());
+    EXPECT_EQ(exchanged.SumOfSquaresX(), pairs.SumOfSquaresY());
     EXPECT_EQ(exchanged.SampleVarianceY(), pairs.SampleVarianceX());
     EXPECT_EQ(exchanged.PopulationVarianceX(), pairs.PopulationVarianceY());
     EXPECT_EQ(exchanged.PopulationStdDevY(), pairs.PopulationStdDevX());
@@ -68,6 +77,8 @@ TEST(ExactPairs, NeitherOrderNorSplitMatters) {
   EXPECT_EQ(more, whole);
   EXPECT_EQ(more.Count(), 3000U);
   EXPECT_MATH_ERROR(parts[0].Remove(whole), rsInvalidValue);
+  EXPECT_MATH_ERROR(parts[0].Merge(ExactPairs(0, 1)), rsInvalidValue);
+  EXPECT_MATH_ERROR(ExactPairs(0, -1), rsInvalidValue);
 }
 
 TEST(ExactPairs, RefusesWhatHasNoFigure) {
@@ -77,7 +88,13 @@ TEST(ExactPairs, RefusesWhatHasNoFigure) {
   };
   ExactPairs pairs, exchanged;
   EXPECT_MATH_ERROR(pairs.Add(TQorFloatVector{1}, TQorFloatVector()), rsSameDimensions);
-  for (const auto& [name, figure] : kFigures) expect_errors(pairs, {name.c_str()}, rsVectorIsEmpty);
+  for (const auto& [name, figure] : kFigures) {
+    if (name.starts_with("sum")) {
+      EXPECT_EQ((pairs.*figure)(), 0);
+    } else {
+      expect_errors(pairs, {name.c_str()}, rsVectorIsEmpty);
+    }
+  }
   pairs.Add(-0.0L, 0.1L);
   EXPECT_TRUE(std::signbit(pairs.MeanX()));
   EXPECT_EQ(pairs.PopulationCovariance(), 0);
@@ -93,7 +110,7 @@ TEST(ExactPairs, RefusesWhatHasNoFigure) {
   EXPECT_EQ(pairs.Intercept(), 0.1L);
   EXPECT_EQ(pairs.SumOfSquaredErrors(), 0);
   expect_errors(pairs, {"correlation", "determination"}, rsSameValue);
-  expect_errors(exchanged, {"correlation", "slope", "intercept", "sse"}, rsSameValue);
+  expect_errors(exchanged, {"correlation", "slope", "intercept", "sse", "regression"}, rsSameValue);
   pairs.Add(kInfinity, 0.1L);
   EXPECT_EQ(pairs.MeanX(), kInfinity);
   EXPECT_EQ(pairs.SampleVarianceY(), 0);

@@ -69,25 +69,22 @@ struct Problem {
   bool has_weights;
   bool has_decimals;
 
-  std::vector<std::vector<Extended>> extended = {};  // the predictors, the response, the weights
+  // The predictors, the response, the weights: integers, and these times powers of two.
   std::vector<std::vector<std::int64_t>> integers = {};
+  std::vector<std::vector<Extended>> extended = {};
   std::vector<Row> design = {};
   Row response = {};
   Row weights = {};
 
   void Fill(Engine& engine, std::size_t rows) {
     for (std::size_t c = 0; c < predictors + 2; ++c) {
-      auto& column = extended.emplace_back();
-      const auto random = testing::RandomVector<Extended>(engine, rows);
-      column.assign(random.begin(), random.end());
-      for (std::size_t i = 0; i < rows; ++i) {
-        if (engine() % 3 == 0) column[i] = static_cast<Extended>(engine() % 8);
-        if (c > predictors) column[i] = std::fabs(column[i]);
-      }
       auto& whole = integers.emplace_back(rows);
-      for (std::int64_t& value : whole)
-        value = c > predictors ? static_cast<std::int64_t>(engine() % 20)
-                               : static_cast<std::int64_t>(engine() >> 20) >> (engine() % 40);
+      auto& column = extended.emplace_back(rows);
+      for (std::size_t i = 0; i < rows; ++i) {
+        whole[i] = static_cast<std::int64_t>(c > predictors ? engine() % 20 : engine());
+        if (c <= predictors) whole[i] >>= engine() % 64;
+        column[i] = std::ldexp(static_cast<Extended>(whole[i]), -4 * static_cast<int>(c));
+      }
     }
     for (std::size_t i = 0; i < rows; ++i) {
       Row row;
@@ -105,8 +102,7 @@ struct Problem {
 
   // Decimal columns have one, two, three decimals and so on.
   [[nodiscard]] Rational Value(std::size_t c, std::size_t i) const {
-    if (!has_decimals) return Exact(extended[c][i]);
-    return Rational(integers[c][i], kScales[c]);
+    return Rational(integers[c][i], has_decimals ? kScales[c] : std::int64_t{1} << 4 * c);
   }
   [[nodiscard]] ColumnView View(std::size_t c, std::size_t first, std::size_t count) const {
     if (has_decimals)

@@ -148,7 +148,9 @@ TEST(LinearModel, DoesNotDependOnUnits) {
 TEST(LinearModel, MixesDecimalsOfAnyNumber) {
   const std::vector<std::int64_t> tenths{12, 25, 31, 44};
   const std::vector<std::int64_t> hundredths{120, 250, 310, 440};
-  const std::vector<std::int64_t> response{3, 1, 4, 1};
+  const std::vector<std::int16_t> response{3, 1, 4, 1};
+  const TQorCurrencyVector amounts{Currency(12000), Currency(25000), Currency(31000),
+                                   Currency(44000)};
   for (const std::size_t degree : {1U, 2U}) {
     LinearModel model = LinearModel::Polynomial(degree);
     model.Add(ColumnView(tenths, 1), response);
@@ -162,6 +164,8 @@ TEST(LinearModel, MixesDecimalsOfAnyNumber) {
     // 2.5 and 0.5 are numbers of every kind.
     EXPECT_EQ(fit.Predict({2.5L}).value, fit.FittedValues(ColumnView(tenths, 1))[1]);
     EXPECT_EQ(fit.Leverages({{2.5L}})[0], fit.Leverages(ColumnView(tenths, 1))[1]);
+    EXPECT_EQ(fit.FittedValues(amounts), fit.FittedValues(ColumnView(tenths, 1)));
+    EXPECT_EQ(fit.FittedValues(std::vector<float>{2.5F}), fit.FittedValues({{2.5L}}));
     EXPECT_EQ(mixed.Fit().Predict({2.5L}).standard_error, fit.Predict({2.5L}).standard_error);
     LinearModel wrong = model;
     wrong.Remove({{1.0L, 2, 3}}, {9.0L, 9, 9});

@@ -106,6 +106,12 @@ class PowerLanes {
  public:
   explicit PowerLanes(FixedPoint* totals) : first_(totals[0]), second_(totals[1]) {}
 
+  // Adds a value without lanes.
+  static void AddToTotals(const Parts<1>& x, FixedPoint* totals) {
+    Lane<1, 1, true>::AddToTotal(x.mantissa, x.Exponent(), x.Sign() != 0, totals[0]);
+    Lane<2, 2, false>::AddToTotal(Square(x.mantissa), x.Exponent(), false, totals[1]);
+  }
+
   template <class Action>
   void ForEachTerm(const Words<1>& mantissa, Action action) {
     action(first_, mantissa);
@@ -127,6 +133,13 @@ class PowerLanes<4> {
  public:
   explicit PowerLanes(FixedPoint* totals)
       : first_(totals[0]), second_(totals[1]), third_(totals[2]), fourth_(totals[3]) {}
+
+  static void AddToTotals(const Parts<1>& x, FixedPoint* totals) {
+    const Words<3> cube = Multiply(Square(x.mantissa), x.mantissa[0]);
+    PowerLanes<2>::AddToTotals(x, totals);
+    Lane<3, 3, true>::AddToTotal(cube, x.Exponent(), x.Sign() != 0, totals[2]);
+    Lane<4, 4, false>::AddToTotal(Multiply(cube, x.mantissa[0]), x.Exponent(), false, totals[3]);
+  }
 
   template <class Action>
   void ForEachTerm(const Words<1>& mantissa, Action action) {
