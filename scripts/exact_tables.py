@@ -65,7 +65,8 @@ def signed_root(numerator, square):
     return -root if numerator < 0 else root
 
 
-def pair_figures(x, y):
+def pair_figures(x, y, decimals):
+    x, y = ([v / 10**places for v in column] for column, places in zip((x, y), decimals))
     n = len(x)
     mean_x, mean_y = sum(x) / n, sum(y) / n
     xx = sum((a - mean_x) ** 2 for a in x)
@@ -75,12 +76,14 @@ def pair_figures(x, y):
     intercept = mean_y - slope * mean_x
     errors = sum((b - intercept - slope * a) ** 2 for a, b in zip(x, y))
     return {
+        "sum_x": rounded(sum(x)), "sum_of_squares_y": rounded(sum(b**2 for b in y)),
+        "sum_of_products": rounded(sum(a * b for a, b in zip(x, y))),
         "mean_x": rounded(mean_x), "mean_y": rounded(mean_y),
         "sample_variance_x": rounded(xx / (n - 1)), "population_variance_y": rounded(yy / n),
         "population_std_dev_x": rounded(xx / n, True), "sample_std_dev_y": rounded(yy / (n - 1), True),
         "sample_covariance": rounded(xy / (n - 1)), "population_covariance": rounded(xy / n),
         "correlation": signed_root(xy, xx * yy), "determination": rounded(xy**2 / (xx * yy)),
-        "slope": rounded(slope), "intercept": rounded(intercept), "sse": rounded(errors),
+        "slope": rounded(slope), "intercept": rounded(intercept), "sse": rounded(errors), "regression": rounded(yy - errors),
     }
 
 
@@ -148,8 +151,12 @@ def main():
     pairs.append((scattered(rng, 4, (-8000, -7990)), scattered(rng, 4, (8000, 8100))))
     pairs.append(([Fraction(k) for k in range(9)], [Fraction((1 << 60) // 10, 1 << 60) * k for k in range(9)]))
     pairs.append((pairs[0][0], [-v for v in pairs[0][0]]))
-    write(folder / "exact_pairs.csv", "Pairs of 80-bit values and their figures, rounded once.", ("x", "y"), pairs,
-          pair_figures)
+    rows = [(x, y, (0, 0)) for x, y in pairs]
+    rows += [([Fraction(rng.randint(-9999, 9999)) for _ in range(12)], [Fraction(rng.randint(1, 99)) for _ in range(12)],
+              places) for places in ((2, 0), (0, 1), (3, 2))]
+    write(folder / "exact_pairs.csv",
+          "Pairs of 80-bit values and their figures, rounded once. Values with decimals stand for value / 10^decimals.",
+          ("x", "y", "decimals"), rows, pair_figures)
 
     weighted = [(decimals(rng, n, 0, 100, 1), [Fraction(rng.randint(1, 9)) for _ in range(n)]) for n in (2, 4, 20)]
     weighted += [(decimals(rng, n, 10**9, 1, 3), decimals(rng, n, 2, 1, 3)) for n in (3, 15)]

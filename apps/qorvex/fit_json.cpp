@@ -1,4 +1,5 @@
 #include "apps/qorvex/fit_output.h"
+#include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/json_writer.h"
 
 namespace qorvex::apps {
@@ -36,10 +37,7 @@ class FitJson {
   }
   void Ends(const char* key, const Interval<Extended>& interval) {
     json_.Key(key);
-    json_.BeginArray();
-    json_.Number(interval.least);
-    json_.Number(interval.greatest);
-    json_.EndArray();
+    WriteInterval(json_, interval);
   }
   void Column(const TableColumn& column) {
     json_.BeginObject();

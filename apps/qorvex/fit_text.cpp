@@ -55,7 +55,7 @@ class FitText {
       Line({ReportText(rsDSCoeffCor), Number(model_.pairs->correlation.value_or(none))});
     }
     Line({ReportText(rsDSCoeffDet), Number(fit_.Determination())});
-    Line({"Adjusted Coefficient of Determination", Number(fit_.AdjustedDetermination())});
+    Line({"Adjusted R Squared:", Number(fit_.AdjustedDetermination())});
     Line({"Residual Standard Deviation:", Number(fit_.ResidualStdDev())});
     Line({"Degrees of Freedom:", Int2EStr(fit_.DegreesOfFreedom())});
     Line({ReportText(rsDSConfidence), Float2Str(arguments_.confidence)});
@@ -63,7 +63,7 @@ class FitText {
 
   void AddCoefficients() {
     text_ += '\n';
-    Line({"Coefficient", "Estimate", "Standard Error", "t", "P-Value", "Lower", "Upper"});
+    Line({"Term", "Estimate", "Standard Error", "t", "P-Value", "Lower", "Upper"});
     for (std::size_t i = 0; i < fit_.Size(); ++i) {
       const FittedCoefficient of = fit_.Coefficient(i);
       const auto [least, greatest] = fit_.ConfidenceInterval(i, arguments_.confidence);

@@ -79,6 +79,8 @@ std::vector<TestReport> Independence(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
+  if (arguments.yates && (columns.size() != 2 || columns[0].numbers.size() != 2))
+    throw CLI::ValidationError("--yates", "the correction is for tables of 2 by 2");
   TestReport report{.title = arguments.yates
                                  ? "Chi-square test of independence with Yates' correction"
                                  : "Chi-square test of independence",

@@ -90,7 +90,12 @@ std::vector<TestReport> TwoDistributions(const TestArguments& arguments) {
   return {report};
 }
 
-TestReport Normality(const NumberSample& sample) {
+TestReport Normality(const NumberSample& sample, const TestArguments& arguments) {
+  constexpr std::size_t most_values = 5000;
+  if (sample.numbers.size() > most_values) {
+    throw InputError(InputFault::kNoResult, sample.Place(arguments.table.file),
+                     "the test takes at most 5000 values");
+  }
   return {.title = "Shapiro-Wilk test",
           .samples = {WithMoments(sample)},
           .null_hypothesis = "the values follow a normal distribution",
@@ -116,15 +121,19 @@ void AddDistributionTests(CLI::App& test) {
                        arguments.AddAlternative(command);
                      },
                  .run = TwoDistributions});
-  AddTest(test,
-          {.name = "shapiro-wilk",
-           .summary = "Whether values are normal: the test of each column",
-           .add_options =
-               [](CLI::App& command, TestArguments& arguments) {
-                 arguments.table.AddTo(command);
-                 arguments.AddBy(command);
-               },
-           .run = [](const TestArguments& arguments) { return TestEach(arguments, Normality); }});
+  AddTest(test, {.name = "shapiro-wilk",
+                 .summary = "Whether values are normal: the test of each column",
+                 .add_options =
+                     [](CLI::App& command, TestArguments& arguments) {
+                       arguments.table.AddTo(command);
+                       arguments.AddBy(command);
+                     },
+                 .run =
+                     [](const TestArguments& arguments) {
+                       return TestEach(arguments, [&](const NumberSample& sample) {
+                         return Normality(sample, arguments);
+                       });
+                     }});
 }
 
 }  // namespace qorvex::apps

@@ -1,5 +1,6 @@
 #include <cmath>
 
+#include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/test_arguments.h"
 #include "apps/qorvex/test_report.h"
@@ -7,22 +8,6 @@
 namespace qorvex::apps {
 
 namespace {
-
-const char* NameOf(TestForm form) {
-  switch (form) {
-    case TestForm::kExact:
-      return "exact";
-    case TestForm::kWelch:
-      return "welch";
-    case TestForm::kNormalApproximation:
-      return "normal approximation";
-    case TestForm::kChiSquareApproximation:
-      return "chi-square approximation";
-    case TestForm::kLimit:
-      break;
-  }
-  return "limit";
-}
 
 void Write(JsonWriter& json, const char* key, const std::string& text) {
   json.Key(key);
@@ -62,12 +47,7 @@ void Write(JsonWriter& json, const TestReport& report, Extended significance) {
   Write(json, report.figures);
   Write(json, "null_hypothesis", report.null_hypothesis);
   Write(json, "alternate_hypothesis", report.alternate_hypothesis);
-  Write(json, "statistic", result.statistic);
-  Write(json, "degrees_of_freedom", result.degrees_of_freedom);
-  Write(json, "second_degrees_of_freedom", result.second_degrees_of_freedom);
-  Write(json, "form", NameOf(result.form));
-  Write(json, "p", result.p);
-  Write(json, "log_p", result.log_p);
+  WriteTestResult(json, result);
   json.Key("rejected");
   if (std::isnan(result.p)) {
     json.Null();
@@ -76,10 +56,7 @@ void Write(JsonWriter& json, const TestReport& report, Extended significance) {
   }
   for (const TestInterval& interval : report.intervals) {
     json.Key(interval.key);
-    json.BeginArray();
-    json.Number(interval.ends.least);
-    json.Number(interval.ends.greatest);
-    json.EndArray();
+    WriteInterval(json, interval.ends);
   }
   json.EndObject();
 }

@@ -14,16 +14,16 @@ namespace {
 
 TestReport OneMean(const NumberSample& sample, const TestArguments& arguments) {
   const Shifted shifted = ShiftedBy(arguments.hypothesis, sample.numbers);
-  TestReport report{
-      .title = "Student's t test of a mean",
-      .alternative = arguments.alternative,
-      .symbol = "t",
-      .law = StatisticLaw::kStudentT,
-      .result = OneSampleTTest(SumsOf(shifted.numbers), shifted.rest, arguments.alternative)};
+  TestReport report{.title = "Student's t test of a mean",
+                    .alternative = arguments.alternative,
+                    .symbol = "t",
+                    .law = StatisticLaw::kStudentT,
+                    .result = OneSampleTTest(ExactSumsOf<2>(shifted.numbers), shifted.rest,
+                                             arguments.alternative)};
   report.SetHypotheses("the mean", arguments.hypothesis.text);
   report.samples = {WithMoments(sample)};
   report.intervals = {{"mean_interval", ReportText(rsDSConfidenceIntervalM),
-                       MeanInterval(SumsOf(sample.numbers), arguments.confidence.value)}};
+                       MeanInterval(ExactSumsOf<2>(sample.numbers), arguments.confidence.value)}};
   return report;
 }
 
@@ -37,18 +37,18 @@ std::vector<TestReport> TwoMeans(const TestArguments& arguments, const char* tit
                                  MeansInterval interval) {
   const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
   const Shifted shifted = ShiftedBy(arguments.hypothesis, samples[0].numbers);
-  const ExactSample<2> second = SumsOf(samples[1].numbers);
+  const ExactSample<2> second = ExactSumsOf<2>(samples[1].numbers);
   TestReport report{
       .title = title,
       .alternative = arguments.alternative,
       .symbol = "t",
       .law = StatisticLaw::kStudentT,
-      .result = test(SumsOf(shifted.numbers), second, shifted.rest, arguments.alternative)};
+      .result = test(ExactSumsOf<2>(shifted.numbers), second, shifted.rest, arguments.alternative)};
   report.SetHypotheses("the first mean less the second", arguments.hypothesis.text);
   report.samples = {WithMoments(samples[0]), WithMoments(samples[1])};
-  report.intervals = {{"difference_interval",
-                       "Confidence Interval for the Difference of the Means: ",
-                       interval(SumsOf(samples[0].numbers), second, arguments.confidence.value)}};
+  report.intervals = {
+      {"difference_interval", "Confidence Interval for the Difference of the Means: ",
+       interval(ExactSumsOf<2>(samples[0].numbers), second, arguments.confidence.value)}};
   return {report};
 }
 
@@ -70,13 +70,14 @@ std::vector<TestReport> MeanOfDifferences(const TestArguments& arguments) {
                     .alternative = arguments.alternative,
                     .symbol = "t",
                     .law = StatisticLaw::kStudentT};
-  report.result = differences.AreDecimal()
-                      ? OneSampleTTest(SumsOf(shifted.numbers), shifted.rest, report.alternative)
-                      : PairedTTest(pair[0].numbers.Values(), pair[1].numbers.Values(),
-                                    arguments.hypothesis.value, report.alternative);
+  report.result =
+      differences.AreDecimal()
+          ? OneSampleTTest(ExactSumsOf<2>(shifted.numbers), shifted.rest, report.alternative)
+          : PairedTTest(pair[0].numbers.Values(), pair[1].numbers.Values(),
+                        arguments.hypothesis.value, report.alternative);
   report.SetHypotheses("the mean of the differences x - y", arguments.hypothesis.text);
   report.samples = {WithMoments(pair[0]), WithMoments(pair[1])};
-  const ExactSample<2> sums = SumsOf(differences);
+  const ExactSample<2> sums = ExactSumsOf<2>(differences);
   report.figures = {{"mean_difference", "Mean of the Differences:", sums.Mean()},
                     {"standard_deviation_of_differences",
                      "Standard Deviation of the Differences:", sums.SampleStdDev()}};

@@ -9,9 +9,6 @@
 #include "apps/qorvex/parameters.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
-#include "qorvex/stats/order_statistics.h"
-#include "qorvex/vector/building.h"
-#include "qorvex/vector/sorting.h"
 
 namespace qorvex::apps {
 
@@ -75,6 +72,17 @@ const char* WhyNot(MessageId id) {
       return "the test needs at least three values";
     case rsSameValue:
       return "the values must not all be the same";
+    case rsDF:
+      return "no degrees of freedom are left";
+    case rsVectorZero:
+      return "all counts are 0";
+    case rsVectorNotPos:
+      return "the proportions must all be greater than 0";
+    case rsInvalidRow:
+    case rsInvalidCol:
+      return "the table needs at least two rows and two columns";
+    case rsMatrixZero:
+      return "a row or a column of the table holds nothing but 0";
     default:
       return nullptr;
   }
@@ -111,18 +119,8 @@ std::vector<NumberSample> ReadPairs(const TestArguments& arguments) {
   return {SampleOf(std::move(columns[0])), SampleOf(std::move(columns[1]))};
 }
 
-ExactSample<2> SumsOf(const ColumnNumbers& numbers) {
-  ExactSample<2> sums;
-  if (numbers.AreDecimal()) {
-    sums.AddScaled(numbers.Integers(), numbers.Decimals());
-  } else {
-    sums.Add(numbers.Values());
-  }
-  return sums;
-}
-
 TestSample WithMoments(const NumberSample& sample) {
-  const ExactSample<2> sums = SumsOf(sample.numbers);
+  const ExactSample<2> sums = ExactSumsOf<2>(sample.numbers);
   TestSample origin = sample.origin;
   origin.figures = {CountOf(sample), {"mean", ReportText(rsDSMean), sums.Mean()}};
   if (sums.Count() > 1)
@@ -131,10 +129,11 @@ TestSample WithMoments(const NumberSample& sample) {
 }
 
 TestSample WithMedian(const NumberSample& sample) {
-  TQorFloatVector sorted = CopyVector(sample.numbers.Values());
-  QSortVector(sorted, true);
+  ColumnNumbers sorted = sample.numbers;
+  sorted.Sort();
+  const Extended median = sorted.ValueOf(OrderFiguresOf(sorted).median);
   TestSample origin = sample.origin;
-  origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), GetMedian(sorted)}};
+  origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), median}};
   return origin;
 }
 

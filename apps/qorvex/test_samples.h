@@ -9,10 +9,10 @@
 
 #include "apps/common/column_numbers.h"
 #include "apps/common/input_error.h"
+#include "apps/common/sample_figures.h"
 #include "apps/qorvex/test_arguments.h"
 #include "apps/qorvex/test_report.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/stats/exact/exact_sample.h"
 
 namespace qorvex::apps {
 
@@ -31,9 +31,6 @@ struct NumberSample {
 [[nodiscard]] std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments);
 /// Reads the columns of --x and --y.
 [[nodiscard]] std::vector<NumberSample> ReadPairs(const TestArguments& arguments);
-
-/// The exact sums of the numbers.
-[[nodiscard]] ExactSample<2> SumsOf(const ColumnNumbers& numbers);
 
 /// @{
 /// The origin of a sample with its number, mean and standard deviation, or its number and median.

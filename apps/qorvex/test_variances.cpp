@@ -9,7 +9,7 @@ namespace qorvex::apps {
 namespace {
 
 TestReport OneVariance(const NumberSample& sample, const TestArguments& arguments) {
-  const ExactSample<2> sums = SumsOf(sample.numbers);
+  const ExactSample<2> sums = ExactSumsOf<2>(sample.numbers);
   TestReport report{
       .title = "Chi-square test of a variance",
       .alternative = arguments.alternative,
@@ -26,13 +26,13 @@ TestReport OneVariance(const NumberSample& sample, const TestArguments& argument
 
 std::vector<TestReport> TwoVariances(const TestArguments& arguments) {
   const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
-  TestReport report{
-      .title = "F test of two variances",
-      .alternative = arguments.alternative,
-      .symbol = "F",
-      .law = StatisticLaw::kF,
-      .result = VarianceRatioTest(SumsOf(samples[0].numbers), SumsOf(samples[1].numbers),
-                                  arguments.hypothesis.value, arguments.alternative)};
+  TestReport report{.title = "F test of two variances",
+                    .alternative = arguments.alternative,
+                    .symbol = "F",
+                    .law = StatisticLaw::kF,
+                    .result = VarianceRatioTest(ExactSumsOf<2>(samples[0].numbers),
+                                                ExactSumsOf<2>(samples[1].numbers),
+                                                arguments.hypothesis.value, arguments.alternative)};
   report.SetHypotheses("the first variance over the second", arguments.hypothesis.text);
   report.samples = {WithMoments(samples[0]), WithMoments(samples[1])};
   return {report};

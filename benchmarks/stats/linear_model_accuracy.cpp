@@ -17,7 +17,7 @@ namespace qorvex::benchmarks {
 
 namespace {
 
-using testing::DataFile;
+using testing::DataColumns;
 using testing::LinearSet;
 using testing::Table;
 using Matrix = Eigen::Matrix<Extended, Eigen::Dynamic, Eigen::Dynamic>;
@@ -31,7 +31,7 @@ struct Figures {
 };
 
 // The columns of the coefficients, powers by repeated multiplication.
-Matrix DesignOf(const LinearSet& set, const DataFile& data) {
+Matrix DesignOf(const LinearSet& set, const DataColumns& data) {
   const auto rows = static_cast<Eigen::Index>(data.extended[0].size());
   const bool constant = set.intercept == Intercept::kIncluded;
   std::vector<Vector> columns;
@@ -89,7 +89,7 @@ Figures Gsl(const Matrix& design, const Vector& y) {
   return figures;
 }
 
-Figures Ours(const LinearSet& set, const DataFile& data, bool as_decimals) {
+Figures Ours(const LinearSet& set, const DataColumns& data, bool as_decimals) {
   const LinearFit fit = testing::FitOf(set, data, as_decimals);
   Figures figures;
   for (const FittedCoefficient& coefficient : fit.Coefficients()) {
@@ -111,14 +111,14 @@ Numbers Exact(const Table& table, const std::string& set, const std::string& pre
   return exact;
 }
 
-// The right digits of the worst figure; "all" where each is the nearest extended number.
+// The right digits of the worst figure: "all" where each is the nearest extended number, "-" where
+// one should be 0.
 std::string Digits(const Numbers& values, const Numbers& exact) {
   Extended worst = INFINITY;
   for (std::size_t i = 0; i < exact.size(); ++i) {
     if (values.at(i) == exact[i]) continue;
-    worst = std::min(worst, exact[i] == 0 || std::isinf(exact[i])
-                                ? 0
-                                : -std::log10(std::fabs(values[i] / exact[i] - 1)));
+    if (exact[i] == 0) return "-";
+    worst = std::min(worst, -std::log10(std::fabs(values[i] / exact[i] - 1)));
   }
   if (std::isinf(worst)) return "all";
   char text[16];
@@ -133,7 +133,7 @@ void PrintLinearModels() {
   const Table r("regression/r_nist.csv");
   std::size_t row = 0;
   for (const LinearSet& set : testing::kLinearSets) {
-    const DataFile data(std::string(set.name) + ".txt", set.predictors + 1);
+    const DataColumns data(testing::ReadTexts(set.name, set.predictors + 1));
     const Matrix design = DesignOf(set, data);
     const Vector y = Eigen::Map<const Vector>(data.extended.back().data(), design.rows());
     std::printf("| %s |", set.name);
@@ -187,20 +187,22 @@ void PrintAnova() {
   const Table table("nist/anova.csv");
   const Table r("regression/r_nist.csv");
   std::size_t row = std::size(testing::kLinearSets);
-  for (const testing::AnovaSet& set : testing::AnovaSets()) {
+  for (const auto& set : testing::AnovaSets()) {
+    const std::string& name = set.first;
+    const DataColumns& groups = set.second;
     const auto exact = [&](const std::string& column) {
       Numbers figures;
-      for (const char* name : {"ssbetween", "sswithin", "F"})
-        figures.push_back(Exact(table, set.name, name, column).at(0));
+      for (const char* figure : {"ssbetween", "sswithin", "F"})
+        figures.push_back(Exact(table, name, figure, column).at(0));
       return figures;
     };
     Numbers of_r = r.Values(row, "values");
     of_r.push_back(r.Value(row, "f"));
     ++row;
-    std::printf("| %s | %s | %s | %s | %s |\n", set.name.c_str(),
-                Digits(FiguresOf(OneWayAnova(set.extended)), exact("extended")).c_str(),
-                Digits(FiguresOf(OneWayAnova(set.DecimalViews())), exact("decimal")).c_str(),
-                Digits(TwoPasses(set.extended), exact("extended")).c_str(),
+    std::printf("| %s | %s | %s | %s | %s |\n", name.c_str(),
+                Digits(FiguresOf(OneWayAnova(groups.extended)), exact("extended")).c_str(),
+                Digits(FiguresOf(OneWayAnova(groups.Views(true))), exact("decimal")).c_str(),
+                Digits(TwoPasses(groups.extended), exact("extended")).c_str(),
                 Digits(of_r, exact("decimal")).c_str());
   }
 }

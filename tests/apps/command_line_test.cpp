@@ -48,7 +48,7 @@ TEST_P(Commands, PrintWhatTheirFileSays) {
 }
 INSTANTIATE_TEST_SUITE_P(Files, Commands,
                          testing::Values("compare", "describe", "dist", "fit", "matrix", "program",
-                                         "random"),
+                                         "random", "test"),
                          [](const auto& file) { return file.param; });
 
 TEST(Program, PrintsItsVersion) {

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "qorvex/stats/covariance_matrix.h"
 #include "support/random_vectors.h"
 #include "support/table.h"
 #include "support/test.h"
@@ -13,12 +14,15 @@ namespace {
 TEST(RankCorrelation, AgreesWithR) {
   const testing::Table table("tables/r_correlations.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
-    const TQorFloatVector x(table.Values(row, "x"));
-    const TQorFloatVector y(table.Values(row, "y"));
-    EXPECT_LE(std::fabs(KendallTau(x, y) - table.Value(row, "kendall")), 1e-15L)
-        << "row " << row + 1;
-    EXPECT_LE(std::fabs(SpearmanRho(x, y) - table.Value(row, "spearman")), 1e-15L)
-        << "row " << row + 1;
+    const std::vector<std::vector<Extended>> columns{table.Values(row, "x"),
+                                                     table.Values(row, "y")};
+    for (const auto& [column, figure] : {std::pair("kendall", KendallTau(columns[0], columns[1])),
+                                         {"spearman", SpearmanRho(columns[0], columns[1])},
+                                         {"pearson", CorrelationMatrix(columns)[0][1]},
+                                         {"cov", CovarianceMatrix(columns)[0][1]}}) {
+      const Extended expected = table.Value(row, column);
+      EXPECT_LE(std::fabs(figure - expected), 1e-14L * std::fabs(expected)) << column << row;
+    }
   }
 }
 
@@ -67,25 +71,12 @@ TEST(RankCorrelation, AgreesWithCounting) {
   }
 }
 
-TEST(RankCorrelation, IsExactForPerfectOrder) {
-  auto x = TQorLIntVector::WithLength(777);
-  auto y = TQorDoubleVector::WithLength(777);
-  for (std::size_t i = 0; i < 777; ++i) {
-    x[i] = static_cast<std::int32_t>(i * 409 % 777);
-    y[i] = -static_cast<double>(x[i] / 7);
-  }
-  EXPECT_EQ(SpearmanRho(y, y), 1);
-  EXPECT_EQ(KendallTau(y, y), 1);
-  EXPECT_EQ(KendallTau(x, x), 1);
-  EXPECT_EQ(KendallTau({1, 2, 3}, {5, -4, -kInfinity}), -1);
-  EXPECT_EQ(SpearmanRho({1, 2, 3}, {5, -4, -kInfinity}), -1);
-}
-
-TEST(RankCorrelation, OfUnusableData) {
+TEST(RankCorrelation, OfPerfectOrderAndOfUnusableData) {
+  using Routine = Extended (*)(VectorView<Extended>, VectorView<Extended>);
   const TQorFloatVector none, one{1}, two{1, 2}, equal{3, 3}, unknown{1, kNaN};
-  for (Extended (*const routine)(VectorView<Extended>, VectorView<Extended>) :
-       {static_cast<Extended (*)(VectorView<Extended>, VectorView<Extended>)>(KendallTau),
-        static_cast<Extended (*)(VectorView<Extended>, VectorView<Extended>)>(SpearmanRho)}) {
+  for (const auto routine : {static_cast<Routine>(KendallTau), static_cast<Routine>(SpearmanRho)}) {
+    EXPECT_EQ(routine({1, 2, 7, 7}, {-0.1L, 3, 8, 8}), 1);
+    EXPECT_EQ(routine({1, 2, 3}, {5, -4, -kInfinity}), -1);
     EXPECT_MATH_ERROR(routine(two, one), rsSameDimensions);
     EXPECT_MATH_ERROR(routine(none, none), rsVectorIsEmpty);
     EXPECT_MATH_ERROR(routine(one, one), rsVectorG1);

@@ -23,20 +23,16 @@ void RequireCount(std::uint64_t count, std::uint64_t least) {
   if (count < least) RaiseMathError(rsVectorG1);
 }
 
-// The mean of n values.
-Extended Mean(std::uint64_t n, const ExactSum& sum) {
-  RequireCount(n, 1);
-  // A sum of zeros keeps its sign.
-  if (!sum.IsFinite() || sum.Value().Sign() == 0) return sum.Round();
-  return Rational(sum.Value(), n).Round();
+// A number of units of 10^-decimals.
+Rational InUnits(const Rational& number, int decimals) {
+  return decimals == 0 ? number : number * Rational::PowerOfTen(-decimals);
 }
 
-// The variance of one variable, or its root.
-Extended Spread(std::uint64_t n, Estimate estimate, const ExactSum& squares, const ExactSum& sum,
-                Extended (Rational::*round)() const) {
-  RequireCount(n, estimate == Estimate::kSample ? 2 : 1);
-  if (!sum.IsFinite()) return kNaN;
-  return (MeanOfDeviations(n, estimate, squares, sum, sum).*round)();
+// The sum over n.
+Extended Mean(const ExactSum& sum, std::uint64_t n, int decimals) {
+  // A sum of zeros keeps its sign.
+  if (!sum.IsFinite() || sum.Value().Sign() == 0) return sum.Round();
+  return InUnits(Rational(sum.Value(), n), decimals).Round();
 }
 
 void RequireSpread(const Dyadic& squares) {
@@ -44,6 +40,13 @@ void RequireSpread(const Dyadic& squares) {
 }
 
 }  // namespace
+
+ExactPairs::ExactPairs(int x_decimals, int y_decimals)
+    : x_decimals_(x_decimals), y_decimals_(y_decimals) {
+  for (const int decimals : {x_decimals, y_decimals}) {
+    if (decimals < 0 || decimals > kMaxDecimals) RaiseMathError(rsInvalidValue);
+  }
+}
 
 void ExactPairs::Add(Extended x, Extended y) {
   ++count_;
@@ -65,6 +68,7 @@ void ExactPairs::Add(VectorView<Extended> x, VectorView<Extended> y) {
 }
 
 void ExactPairs::Merge(const ExactPairs& other) {
+  RequireDecimalsOf(other);
   count_ += other.count_;
   x_.Merge(other.x_);
   y_.Merge(other.y_);
@@ -73,7 +77,14 @@ void ExactPairs::Merge(const ExactPairs& other) {
   yy_.Merge(other.yy_);
 }
 
+void ExactPairs::RequireDecimalsOf(const ExactPairs& other) const {
+  if (other.x_decimals_ != x_decimals_ || other.y_decimals_ != y_decimals_) {
+    RaiseMathError(rsInvalidValue);
+  }
+}
+
 void ExactPairs::Remove(const ExactPairs& other) {
+  RequireDecimalsOf(other);
   if (other.count_ > count_) RaiseMathError(rsInvalidValue);
   count_ -= other.count_;
   x_.Remove(other.x_);
@@ -83,54 +94,82 @@ void ExactPairs::Remove(const ExactPairs& other) {
   yy_.Remove(other.yy_);
 }
 
+Extended ExactPairs::SumX() const {
+  return Mean(x_, 1, x_decimals_);
+}
+
+Extended ExactPairs::SumY() const {
+  return Mean(y_, 1, y_decimals_);
+}
+
+Extended ExactPairs::SumOfSquaresX() const {
+  return Mean(xx_, 1, 2 * x_decimals_);
+}
+
+Extended ExactPairs::SumOfSquaresY() const {
+  return Mean(yy_, 1, 2 * y_decimals_);
+}
+
+Extended ExactPairs::SumOfProducts() const {
+  return Mean(xy_, 1, x_decimals_ + y_decimals_);
+}
+
 Extended ExactPairs::MeanX() const {
-  return Mean(count_, x_);
+  RequireCount(count_, 1);
+  return Mean(x_, count_, x_decimals_);
 }
 
 Extended ExactPairs::MeanY() const {
-  return Mean(count_, y_);
+  RequireCount(count_, 1);
+  return Mean(y_, count_, y_decimals_);
+}
+
+Extended ExactPairs::Moment(const ExactSum& products, const Variable& a, const Variable& b,
+                            Estimate estimate, Extended (Rational::*round)() const) const {
+  RequireCount(count_, estimate == Estimate::kSample ? 2 : 1);
+  if (!a.sum.IsFinite() || !b.sum.IsFinite()) return kNaN;
+  const Rational moment = MeanOfDeviations(count_, estimate, products, a.sum, b.sum);
+  return (InUnits(moment, a.decimals + b.decimals).*round)();
 }
 
 Extended ExactPairs::SampleVarianceX() const {
-  return Spread(count_, Estimate::kSample, xx_, x_, &Rational::Round);
+  return Moment(xx_, X(), X(), Estimate::kSample, &Rational::Round);
 }
 
 Extended ExactPairs::SampleVarianceY() const {
-  return Spread(count_, Estimate::kSample, yy_, y_, &Rational::Round);
-}
-
-Extended ExactPairs::PopulationVarianceX() const {
-  return Spread(count_, Estimate::kPopulation, xx_, x_, &Rational::Round);
-}
-
-Extended ExactPairs::PopulationVarianceY() const {
-  return Spread(count_, Estimate::kPopulation, yy_, y_, &Rational::Round);
+  return Moment(yy_, Y(), Y(), Estimate::kSample, &Rational::Round);
 }
 
 Extended ExactPairs::SampleStdDevX() const {
-  return Spread(count_, Estimate::kSample, xx_, x_, &Rational::RoundRoot);
+  return Moment(xx_, X(), X(), Estimate::kSample, &Rational::RoundRoot);
 }
 
 Extended ExactPairs::SampleStdDevY() const {
-  return Spread(count_, Estimate::kSample, yy_, y_, &Rational::RoundRoot);
-}
-
-Extended ExactPairs::PopulationStdDevX() const {
-  return Spread(count_, Estimate::kPopulation, xx_, x_, &Rational::RoundRoot);
-}
-
-Extended ExactPairs::PopulationStdDevY() const {
-  return Spread(count_, Estimate::kPopulation, yy_, y_, &Rational::RoundRoot);
+  return Moment(yy_, Y(), Y(), Estimate::kSample, &Rational::RoundRoot);
 }
 
 Extended ExactPairs::SampleCovariance() const {
-  RequireCount(count_, 2);
-  return IsFinite() ? MeanOfDeviations(count_, Estimate::kSample, xy_, x_, y_).Round() : kNaN;
+  return Moment(xy_, X(), Y(), Estimate::kSample, &Rational::Round);
+}
+
+Extended ExactPairs::PopulationVarianceX() const {
+  return Moment(xx_, X(), X(), Estimate::kPopulation, &Rational::Round);
+}
+
+Extended ExactPairs::PopulationVarianceY() const {
+  return Moment(yy_, Y(), Y(), Estimate::kPopulation, &Rational::Round);
+}
+
+Extended ExactPairs::PopulationStdDevX() const {
+  return Moment(xx_, X(), X(), Estimate::kPopulation, &Rational::RoundRoot);
+}
+
+Extended ExactPairs::PopulationStdDevY() const {
+  return Moment(yy_, Y(), Y(), Estimate::kPopulation, &Rational::RoundRoot);
 }
 
 Extended ExactPairs::PopulationCovariance() const {
-  RequireCount(count_, 1);
-  return IsFinite() ? MeanOfDeviations(count_, Estimate::kPopulation, xy_, x_, y_).Round() : kNaN;
+  return Moment(xy_, X(), Y(), Estimate::kPopulation, &Rational::Round);
 }
 
 ExactPairs::Deviations ExactPairs::ScaledDeviations() const {
@@ -139,46 +178,54 @@ ExactPairs::Deviations ExactPairs::ScaledDeviations() const {
           exact::detail::ScaledDeviations(count_, yy_, y_, y_)};
 }
 
-Extended ExactPairs::Correlation() const {
+template <class Figure>
+Extended ExactPairs::OfLine(Figure figure) const {
   RequireCount(count_, 2);
   if (!IsFinite()) return kNaN;
   const Deviations sums = ScaledDeviations();
   RequireSpread(sums.xx);
-  RequireSpread(sums.yy);
-  return exact::detail::CorrelationOf(sums.xx, sums.xy, sums.yy);
+  return figure(sums);
+}
+
+Extended ExactPairs::Correlation() const {
+  return OfLine([](const Deviations& sums) {
+    RequireSpread(sums.yy);
+    return exact::detail::CorrelationOf(sums.xx, sums.xy, sums.yy);
+  });
 }
 
 Extended ExactPairs::Determination() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  RequireSpread(sums.yy);
-  return Rational(sums.xy * sums.xy, sums.xx * sums.yy).Round();
+  return OfLine([](const Deviations& sums) {
+    RequireSpread(sums.yy);
+    return Rational(sums.xy * sums.xy, sums.xx * sums.yy).Round();
+  });
 }
 
 Extended ExactPairs::Slope() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  return Rational(sums.xy, sums.xx).Round();
+  return OfLine([this](const Deviations& sums) {
+    return InUnits(Rational(sums.xy, sums.xx), y_decimals_ - x_decimals_).Round();
+  });
 }
 
 Extended ExactPairs::Intercept() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  return Rational(y_.Value() * sums.xx - x_.Value() * sums.xy, Dyadic(count_) * sums.xx).Round();
+  return OfLine([this](const Deviations& sums) {
+    const Dyadic numerator = y_.Value() * sums.xx - x_.Value() * sums.xy;
+    return InUnits(Rational(numerator, Dyadic(count_) * sums.xx), y_decimals_).Round();
+  });
 }
 
 Extended ExactPairs::SumOfSquaredErrors() const {
-  RequireCount(count_, 2);
-  if (!IsFinite()) return kNaN;
-  const Deviations sums = ScaledDeviations();
-  RequireSpread(sums.xx);
-  return Rational(sums.xx * sums.yy - sums.xy * sums.xy, Dyadic(count_) * sums.xx).Round();
+  return OfLine([this](const Deviations& sums) {
+    const Dyadic numerator = sums.xx * sums.yy - sums.xy * sums.xy;
+    return InUnits(Rational(numerator, Dyadic(count_) * sums.xx), 2 * y_decimals_).Round();
+  });
+}
+
+Extended ExactPairs::RegressionSumOfSquares() const {
+  return OfLine([this](const Deviations& sums) {
+    const Dyadic numerator = sums.xy * sums.xy;
+    return InUnits(Rational(numerator, Dyadic(count_) * sums.xx), 2 * y_decimals_).Round();
+  });
 }
 
 }  // namespace qorvex

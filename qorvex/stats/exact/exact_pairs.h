@@ -5,9 +5,10 @@
 
 #include <cstdint>
 
-#include "qorvex/base/exact/dyadic.h"
+#include "qorvex/base/exact/rational.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/stats/estimate.h"
 #include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/stats/exact/extended_view.h"
 
@@ -28,6 +29,12 @@ namespace qorvex {
 /// - Cost: O(1) for a pair, some microseconds for a figure.
 class QORVEX_EXPORT ExactPairs {
  public:
+  /// No pair.
+  ExactPairs() = default;
+  /// No pair. An x that is added counts as the decimal number x * 10^-x_decimals, exactly, and a y
+  /// as y * 10^-y_decimals: ExactPairs(2, 0) takes the x in cents. EMathError rsInvalidValue unless
+  /// 0 <= decimals <= kMaxDecimals.
+  ExactPairs(int x_decimals, int y_decimals);
   /// Adds a pair.
   void Add(Extended x, Extended y);
   /// @{
@@ -41,15 +48,16 @@ class QORVEX_EXPORT ExactPairs {
     Add(VectorView<Extended>(AsExtended(x)), VectorView<Extended>(AsExtended(y)));
   }
   /// @}
-  /// Adds the pairs of another object.
+  /// Adds the pairs of another object. EMathError rsInvalidValue if it has other decimals.
   void Merge(const ExactPairs& other);
   /// Takes back the pairs of another object. They must have been added before, which is not checked
-  /// beyond their number: EMathError rsInvalidValue if there are fewer pairs.
+  /// beyond their number: EMathError rsInvalidValue if there are fewer pairs, or if the object has
+  /// other decimals.
   void Remove(const ExactPairs& other);
   /// Takes back what an Add has added.
   template <class X, class Y>
   void Remove(const X& x, const Y& y) {
-    ExactPairs part;
+    ExactPairs part(x_decimals_, y_decimals_);
     part.Add(x, y);
     Remove(part);
   }
@@ -57,6 +65,14 @@ class QORVEX_EXPORT ExactPairs {
   /// The number of pairs.
   [[nodiscard]] std::uint64_t Count() const noexcept { return count_; }
 
+  /// @{
+  /// The sums of the values, of their squares and of the products; 0 for no pair.
+  [[nodiscard]] Extended SumX() const;
+  [[nodiscard]] Extended SumY() const;
+  [[nodiscard]] Extended SumOfSquaresX() const;
+  [[nodiscard]] Extended SumOfSquaresY() const;
+  [[nodiscard]] Extended SumOfProducts() const;
+  /// @}
   /// @{
   /// The mean.
   [[nodiscard]] Extended MeanX() const;
@@ -94,12 +110,18 @@ class QORVEX_EXPORT ExactPairs {
   [[nodiscard]] Extended Slope() const;
   [[nodiscard]] Extended Intercept() const;
   /// @}
-  /// The sum of the squared vertical distances from the line, with its errors; 0 for points on a
-  /// line.
+  /// @{
+  /// The sum of the squared vertical distances from the line, 0 for points on a line; and the rest
+  /// of the sum of squared deviations of y, which the line explains. With the errors of the line.
   [[nodiscard]] Extended SumOfSquaredErrors() const;
+  [[nodiscard]] Extended RegressionSumOfSquares() const;
+  /// @}
 
-  /// Equal counts and equal sums.
+  /// Equal counts, equal decimals and equal sums.
   [[nodiscard]] friend bool operator==(const ExactPairs&, const ExactPairs&) = default;
+
+  /// The largest number of decimals.
+  static constexpr int kMaxDecimals = 5000;
 
  private:
   // n times the sums of products of deviations from the means.
@@ -107,8 +129,25 @@ class QORVEX_EXPORT ExactPairs {
     exact::Dyadic xx, xy, yy;
   };
   [[nodiscard]] Deviations ScaledDeviations() const;
+  // The figure of the deviations, after the checks for a line.
+  template <class Figure>
+  [[nodiscard]] Extended OfLine(Figure figure) const;
+  // The sum of the x, or of the y.
+  struct Variable {
+    const ExactSum& sum;
+    int decimals;
+  };
+  [[nodiscard]] Variable X() const { return {x_, x_decimals_}; }
+  [[nodiscard]] Variable Y() const { return {y_, y_decimals_}; }
+  // A variance or covariance, or its root.
+  [[nodiscard]] Extended Moment(const ExactSum& products, const Variable& a, const Variable& b,
+                                Estimate estimate,
+                                Extended (exact::Rational::*round)() const) const;
+  void RequireDecimalsOf(const ExactPairs& other) const;
   [[nodiscard]] bool IsFinite() const { return x_.IsFinite() && y_.IsFinite(); }
 
+  int x_decimals_ = 0;
+  int y_decimals_ = 0;
   std::uint64_t count_ = 0;
   ExactSum x_, y_;
   ExactSum xx_, xy_, yy_;

@@ -31,13 +31,6 @@ Extended WithoutSignOfZero(Extended x) noexcept {
   return x + 0.0L;
 }
 
-template <class Choose>
-std::optional<Extended> Merged(std::optional<Extended> a, std::optional<Extended> b,
-                               Choose choose) {
-  if (!a || !b) return std::nullopt;
-  return choose(*a, *b);
-}
-
 }  // namespace
 
 template <int kPowerSums>
@@ -48,23 +41,35 @@ void ExactSample<kPowerSums>::Add(VectorView<T> values) {
   } else if constexpr (IntegerElement<T>) {
     AddIntegers(values, 0);
   } else {
-    if (values.empty()) return;
-    ExactSample part;
-    using Sum = WindowedSum<PowerLanes<kPowerSums>>;
-    Sum sum(part.sums_.data());
+    if (decimals_ != 0) {
+      ExactSample part;
+      part.Add(values);
+      return Merge(part);
+    }
+    const std::int64_t special = special_.Total();
+    constexpr std::size_t kFew = 16;
     Extremes<T> extremes;
-    for (std::size_t begin = 0; begin < values.size(); begin += Sum::kBlock) {
-      const std::size_t end = std::min(begin + Sum::kBlock, values.size());
-      sum.Add(Products<T, 1>({values.data()}), begin, end, part.special_);
-      extremes.Add(values.subspan(begin, end - begin));
+    if (values.size() <= kFew) {
+      for (const T& x : values) {
+        if (Elements<T>::IsFinite(x)) {
+          PowerLanes<kPowerSums>::AddToTotals(Elements<T>::Of(x), sums_.data());
+        } else {
+          special_.Add(x);
+        }
+      }
+      extremes.Add(values);
+    } else {
+      using Sum = WindowedSum<PowerLanes<kPowerSums>>;
+      Sum sum(sums_.data());
+      for (std::size_t begin = 0; begin < values.size(); begin += Sum::kBlock) {
+        const std::size_t end = std::min(begin + Sum::kBlock, values.size());
+        sum.Add(Products<T, 1>({values.data()}), begin, end, special_);
+        extremes.Add(values.subspan(begin, end - begin));
+      }
+      sum.Flush();
     }
-    sum.Flush();
-    part.finite_ = values.size() - static_cast<std::uint64_t>(part.special_.Total());
-    if (part.finite_ > 0) {
-      part.minimum_ = WithoutSignOfZero(extremes.Least());
-      part.maximum_ = WithoutSignOfZero(extremes.Greatest());
-    }
-    Merge(part);
+    Count(values.size() - static_cast<std::uint64_t>(special_.Total() - special),
+          WithoutSignOfZero(extremes.Least()), WithoutSignOfZero(extremes.Greatest()));
   }
 }
 
@@ -82,10 +87,15 @@ void ExactSample<kPowerSums>::AddIntegers(VectorView<T> values, int decimals) {
   part.decimals_ = decimals;
   part.finite_ = values.size();
   AddIntegerPowers<kPowerSums>(std::span<const T>(values), part.sums_.data());
-  const auto [least, greatest] = std::ranges::minmax_element(values);
+  auto least = IntegerOf(values.front());
+  auto greatest = least;
+  for (const T x : values) {  // without branches, unlike std::ranges::minmax
+    least = std::min(least, IntegerOf(x));
+    greatest = std::max(greatest, IntegerOf(x));
+  }
   const Dyadic unit = TenToThe(decimals);
-  part.minimum_ = Rational(IntegerOf(*least), unit).Round();
-  part.maximum_ = Rational(IntegerOf(*greatest), unit).Round();
+  part.minimum_ = Rational(least, unit).Round();
+  part.maximum_ = Rational(greatest, unit).Round();
   Merge(part);
 }
 
@@ -114,16 +124,20 @@ void ExactSample<kPowerSums>::Merge(const ExactSample& other) {
   }
   Refine(other.decimals_);
   for (std::size_t k = 0; k < sums_.size(); ++k) sums_[k] += other.sums_[k];
+  Count(other.finite_, other.minimum_, other.maximum_);
+}
+
+template <int kPowerSums>
+void ExactSample<kPowerSums>::Count(std::uint64_t finite, std::optional<Extended> minimum,
+                                    std::optional<Extended> maximum) {
+  if (finite == 0) return;
   if (finite_ == 0) {
-    minimum_ = other.minimum_;
-    maximum_ = other.maximum_;
-  } else {
-    minimum_ =
-        Merged(minimum_, other.minimum_, [](Extended a, Extended b) { return std::min(a, b); });
-    maximum_ =
-        Merged(maximum_, other.maximum_, [](Extended a, Extended b) { return std::max(a, b); });
+    minimum_ = minimum;
+    maximum_ = maximum;
   }
-  finite_ += other.finite_;
+  minimum_ = minimum_ && minimum ? std::optional(std::min(*minimum_, *minimum)) : std::nullopt;
+  maximum_ = maximum_ && maximum ? std::optional(std::max(*maximum_, *maximum)) : std::nullopt;
+  finite_ += finite;
 }
 
 template <int kPowerSums>
@@ -143,6 +157,10 @@ void ExactSample<kPowerSums>::Remove(const ExactSample& other) {
   finite_ -= part.finite_;
   if (!(minimum_ && part.minimum_ && *minimum_ < *part.minimum_)) minimum_.reset();
   if (!(maximum_ && part.maximum_ && *maximum_ > *part.maximum_)) maximum_.reset();
+  if (finite_ == 0) {
+    sums_ = Sums();
+    decimals_ = 0;
+  }
 }
 
 template <int kPowerSums>

@@ -195,7 +195,29 @@ std::optional<Extended> ExactSample<kPowerSums>::Maximum() const {
   return maximum_;
 }
 
-template class ExactSample<2>;
-template class ExactSample<4>;
+// One by one, because Clang 14 would instantiate the shape of two power sums too.
+#define QORVEX_INSTANTIATE(kPowerSums)                                                   \
+  template Extended ExactSample<kPowerSums>::Sum() const;                                \
+  template Extended ExactSample<kPowerSums>::SumOfSquares() const;                       \
+  template Extended ExactSample<kPowerSums>::Mean() const;                               \
+  template Extended ExactSample<kPowerSums>::SampleVariance() const;                     \
+  template Extended ExactSample<kPowerSums>::PopulationVariance() const;                 \
+  template Extended ExactSample<kPowerSums>::SampleStdDev() const;                       \
+  template Extended ExactSample<kPowerSums>::PopulationStdDev() const;                   \
+  template std::optional<Extended> ExactSample<kPowerSums>::Minimum() const;             \
+  template std::optional<Extended> ExactSample<kPowerSums>::Maximum() const;             \
+  template exact::Rational ExactSample<kPowerSums>::ExactMean() const;                   \
+  template exact::Rational ExactSample<kPowerSums>::ExactSumOfSquaredDeviations() const; \
+  template exact::Rational ExactSample<kPowerSums>::PowerSum(int) const;                 \
+  template Dyadic ExactSample<kPowerSums>::SecondMoment() const;
+QORVEX_INSTANTIATE(2)
+QORVEX_INSTANTIATE(4)
+#undef QORVEX_INSTANTIATE
+template Extended ExactSample<4>::SampleSkewness() const;
+template Extended ExactSample<4>::PopulationSkewness() const;
+template Extended ExactSample<4>::SampleKurtosis() const;
+template Extended ExactSample<4>::PopulationKurtosis() const;
+template Dyadic ExactSample<4>::ThirdMoment() const;
+template Dyadic ExactSample<4>::FourthMoment() const;
 
 }  // namespace qorvex

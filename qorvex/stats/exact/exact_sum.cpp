@@ -34,11 +34,10 @@ void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size
   } else if constexpr (kFactors == 1 && IntegerElement<T>) {
     AddIntegerPowers<1>(std::span(factors[0], count), &total_);
   } else {
-    using Sum = WindowedSum<ProductLanes<kFactors>>;
-    Sum sum(&total_);
+    WindowedSum<ProductLanes<kFactors>> sum(&total_);
     [[maybe_unused]] BlockSum<T> blocks(total_);
-    for (std::size_t begin = 0; begin < count; begin += Sum::kBlock) {
-      const std::size_t end = std::min(begin + Sum::kBlock, count);
+    for (std::size_t begin = 0; begin < count; begin += BlockSum<T>::kBlock) {
+      const std::size_t end = std::min(begin + BlockSum<T>::kBlock, count);
       if constexpr (kFactors == 1) {
         if (blocks.Add(std::span(factors[0] + begin, end - begin))) continue;
       }

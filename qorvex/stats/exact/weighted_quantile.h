@@ -24,9 +24,9 @@ namespace qorvex {
 ///   as equal to it.
 /// - A value of weight 0 does not count, not even NaN. NaN sorts last; see GetQuantile.
 /// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside
-///   1 to 9; rsSameDimensions for different lengths; rsVectorIsEmpty; rsInvalidWeight if a weight is
-///   negative, infinite or NaN; rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9 get
-///   other weights than frequencies.
+///   1 to 9; rsSameDimensions for different lengths; rsVectorIsEmpty; rsInvalidWeight if a weight
+///   is negative, infinite or NaN; rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9
+///   get other weights than frequencies.
 /// - For all numeric elements; values and weights may differ in type. Elements that are not
 ///   Extended are converted to a temporary vector.
 /// - Cost: O(n).

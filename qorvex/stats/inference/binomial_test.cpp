@@ -1,8 +1,6 @@
 #include "qorvex/stats/inference/binomial_test.h"
 
-#include <algorithm>
 #include <cmath>
-#include <ranges>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/binomial.h"
@@ -41,11 +39,15 @@ Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
     first = static_cast<std::uint64_t>(std::ceil(mean.hi));
     last = n + 1;
   }
-  const auto others = std::views::iota(first, last);
-  const auto end = std::ranges::partition_point(
-      others, [&](std::uint64_t k) { return is_as_unlikely(k) == (distance > 0); });
-  const std::uint64_t bounded = first + static_cast<std::uint64_t>(end - others.begin());
-  const Tails beyond = TailsBelow(binomial, bounded);
+  while (first < last) {
+    const std::uint64_t middle = first + (last - first) / 2;
+    if (is_as_unlikely(middle) == (distance > 0)) {
+      first = middle + 1;
+    } else {
+      last = middle;
+    }
+  }
+  const Tails beyond = TailsBelow(binomial, first);
   if (distance > 0) {
     return Sum(TailsBelow(binomial, observed).ScaledProbability(Tail::kUpper),
                beyond.ScaledProbability(Tail::kLower));

@@ -4,8 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <initializer_list>
+#include <iterator>
 #include <numbers>
-#include <ranges>
 #include <vector>
 
 #include "qorvex/base/errors.h"
@@ -53,7 +53,7 @@ std::vector<Extended> Weights(std::size_t n) {
   set_extreme(0, {0, 0.221157L, -0.147981L, -2.07119L, 4.434685L, -2.706056L});
   if (extremes == 2) set_extreme(1, {0, 0.042981L, -0.293762L, -1.752461L, 5.682633L, -3.582633L});
   const Extended scale = std::sqrt(left / sum_of_squares);
-  for (Extended& weight : weights | std::views::drop(extremes)) weight *= scale;
+  for (std::size_t i = extremes; i < weights.size(); ++i) weights[i] *= scale;
   return weights;
 }
 

@@ -14,6 +14,7 @@
 ///   'Student's' problem when several different population variances are involved".
 
 #include "qorvex/base/export.h"
+#include "qorvex/stats/exact/extended_view.h"
 #include "qorvex/stats/inference/sample_of.h"
 #include "qorvex/stats/inference/test_result.h"
 
@@ -66,6 +67,7 @@ requires AnyElement<ElementOf<First>> && AnyElement<ElementOf<Second>>
 }
 /// @}
 
+/// @{
 /// Whether the differences x - y of pairs have the mean `difference`: the one-sample test of the
 /// exact differences.
 ///
@@ -73,5 +75,13 @@ requires AnyElement<ElementOf<First>> && AnyElement<ElementOf<Second>>
 [[nodiscard]] QORVEX_EXPORT TestResult
 PairedTTest(VectorView<Extended> x, VectorView<Extended> y, Extended difference = 0,
             Alternative alternative = Alternative::kTwoSided);
+template <ContiguousRange X, ContiguousRange Y>
+requires NumericElement<ElementOf<X>> && NumericElement<ElementOf<Y>>
+[[nodiscard]] TestResult PairedTTest(const X& x, const Y& y, Extended difference = 0,
+                                     Alternative alternative = Alternative::kTwoSided) {
+  return PairedTTest(VectorView<Extended>(AsExtended(x)), VectorView<Extended>(AsExtended(y)),
+                     difference, alternative);
+}
+/// @}
 
 }  // namespace qorvex

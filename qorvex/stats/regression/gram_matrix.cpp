@@ -7,7 +7,7 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/stats/exact/exact_sum.h"
-#include "qorvex/stats/regression/detail/power_sums.h"
+#include "qorvex/stats/regression/detail/polynomial_sums.h"
 
 namespace qorvex {
 
@@ -135,7 +135,7 @@ std::size_t GramMatrix::Slot(std::size_t i, std::size_t j) const {
   const std::size_t lowest = 1 - form_.Constants();
   if (j < response) return i + j + 2 * lowest;
   const std::size_t power = i < response ? i + lowest : form_.terms + 1;
-  return detail::PowerSums::ResponseSlot(form_.terms, power);
+  return detail::PolynomialSums::ResponseSlot(form_.terms, power);
 }
 
 int GramMatrix::Decimals(std::size_t i) const {
@@ -159,7 +159,7 @@ GramMatrix::Batch GramMatrix::SumsOf(const Columns& predictors, const ColumnView
   for (const ColumnView& column : columns) batch.decimals.push_back(column.Decimals());
   batch.decimals.resize(decimals_.size());
   if (form_.is_polynomial) {
-    detail::PowerSums sums(form_.terms);
+    detail::PolynomialSums sums(form_.terms);
     batch.rows = ForEachBlock(columns, weights != nullptr, [&](const Block& block) {
       sums.Add(block[0], block[1], weights != nullptr ? block[2] : VectorView<Extended>());
     });

@@ -22,7 +22,7 @@ constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
 
 // The quantile of Student's t that bounds a two-sided interval of the given probability; NaN
 // without degrees of freedom.
-Extended HalfWidth(Extended level, std::size_t degrees_of_freedom) {
+Extended TwoSidedQuantile(Extended level, std::size_t degrees_of_freedom) {
   if (!(level > 0 && level < 1)) RaiseMathError(rsValue01);
   if (degrees_of_freedom == 0) return kNaN;
   const StudentTDistribution distribution(static_cast<Extended>(degrees_of_freedom));
@@ -74,9 +74,8 @@ FittedCoefficient LinearFit::Coefficient(std::size_t i) const {
   if (df == 0) return result;
   const Rational variance = solution_->Variance() * solution_->Inverse(i, i);
   result.standard_error = variance.RoundRoot();
-  result.t = std::copysign(detail::RoundRatioRoot(value * value, variance),
-                           static_cast<Extended>(value.Sign()));
-  const auto [p, log_p] = detail::TwoSided(result.t, df);
+  const auto [t, p, log_p] = detail::StudentSignificance(value, variance, df);
+  result.t = t;
   result.p = p;
   result.log_p = log_p;
   return result;
@@ -96,7 +95,7 @@ TQorFloatVector LinearFit::Values() const {
 
 Interval<Extended> LinearFit::ConfidenceInterval(std::size_t i, Extended level) const {
   RequireIndex(i);
-  const Extended quantile = HalfWidth(level, DegreesOfFreedom());
+  const Extended quantile = TwoSidedQuantile(level, DegreesOfFreedom());
   const FittedCoefficient coefficient = Coefficient(i);
   return About(coefficient.value, quantile * coefficient.standard_error);
 }
@@ -150,7 +149,7 @@ RegressionAnova LinearFit::Anova() const {
 }
 
 Prediction LinearFit::Predict(VectorView<Extended> predictors, Extended level) const {
-  const Extended quantile = HalfWidth(level, DegreesOfFreedom());
+  const Extended quantile = TwoSidedQuantile(level, DegreesOfFreedom());
   std::vector<ColumnView> columns;
   for (const Extended& value : predictors) columns.emplace_back(std::span(&value, 1));
   const detail::FittedRows rows(*solution_, columns, 1);

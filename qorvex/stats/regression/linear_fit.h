@@ -52,9 +52,10 @@ struct Prediction {
 ///
 /// - Coefficients, standard errors, t, sums of squares, F and determination are rational numbers of
 ///   the data, or roots of such, and each is rounded once: the extended number nearest to the exact
-///   value. Where Precision() is not 0, this holds unless the value lies within 2^-Precision() of
-///   itself from the middle of two extended numbers.
-/// - p and intervals come from the distributions of Student and F at the rounded statistics.
+///   value. Where Precision() is not 0, they have so many right bits before they are rounded;
+///   fitted values, residuals and covariances have them relative to their terms.
+/// - p comes from the tails of Student's and the F distribution at the statistic before it is
+///   rounded, intervals from the quantiles of Student's.
 /// - n = p: no degrees of freedom are left. What needs the residual variance is NaN.
 /// - A perfect fit (residuals of 0): standard errors are 0, t and F infinite, p 0. A statistic 0 /
 /// 0

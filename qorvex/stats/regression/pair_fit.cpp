@@ -1,10 +1,9 @@
 #include "qorvex/stats/regression/pair_fit.h"
 
-#include <cmath>
+#include <limits>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/exact/rational.h"
-#include "qorvex/stats/regression/detail/figures.h"
 #include "qorvex/stats/regression/linear_model.h"
 
 namespace qorvex {
@@ -22,6 +21,12 @@ Rational Comoment(const GramMatrix& gram, std::size_t u, std::size_t v) {
 
 Rational MeanOf(const GramMatrix& gram, std::size_t u) {
   return Rational(gram.Sum(0, u), gram.Sum(0, 0)) * Rational::PowerOfTen(-gram.Decimals(u));
+}
+
+Extended Correlation(const Rational& of_x, const Rational& of_y, const Rational& of_both) {
+  if (of_y.Sign() == 0) return std::numeric_limits<Extended>::quiet_NaN();
+  const Extended magnitude = (of_both * of_both / (of_x * of_y)).RoundRoot();
+  return of_both.Sign() < 0 ? -magnitude : magnitude;
 }
 
 }  // namespace
@@ -43,8 +48,7 @@ PairFit FitPairs(const ColumnView& x_values, const ColumnView& y_values, std::si
           .std_dev_x = (of_x / pairs).RoundRoot(),
           .std_dev_y = (of_y / pairs).RoundRoot(),
           .covariance = (of_both / pairs).Round(),
-          .correlation = std::copysign(detail::RoundRatioRoot(of_both * of_both, of_x * of_y),
-                                       static_cast<Extended>(of_both.Sign())),
+          .correlation = Correlation(of_x, of_y, of_both),
           .curve = std::move(curve)};
 }
 

@@ -90,6 +90,7 @@ struct DataPageTest : PageFixture<DataPage> {
 TEST_F(DataPageTest, StartsWithTheExampleAndFollowsEdits) {
   EXPECT_EQ(Message(), "");
   EXPECT_EQ(Figure("report", "Number of Values:"), "100");
+  EXPECT_EQ(Figure("report", "95 % Interval for the Mean:"), "299836.7226 to 299868.0774");
   EXPECT_EQ(Mean(), "299852.4000");
   EXPECT_EQ(Find<QComboBox>("column").currentText(), "speed_km_s");
 

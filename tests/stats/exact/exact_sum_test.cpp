@@ -2,6 +2,7 @@
 
 #include <span>
 
+#include "qorvex/stats/exact/detail/block_sum.h"
 #include "stats/exact/nearest.h"
 #include "stats/exact/test_data.h"
 #include "support/random_vectors.h"
@@ -74,6 +75,47 @@ TYPED_TEST(ExactSumOf, IsTheNearestNumberInAnyOrderAndSplit) {
   } else {
     const auto x = testing::RandomVector<TypeParam>(engine, 3'000);
     check(x, testing::RandomVector<TypeParam>(engine, 3'000));
+  }
+}
+
+template <class T>
+class BlockSumOf : public ::testing::Test {};
+TYPED_TEST_SUITE(BlockSumOf, FloatTypes);
+
+// With every range of exponents, from one that a block can have to one that it cannot.
+TYPED_TEST(BlockSumOf, AddsBlocksExactlyOrNotAtAll) {
+  using exact::detail::BlockSum;
+  using exact::detail::Instructions;
+  testing::Engine engine(6);
+  for (const Instructions instructions : {Instructions::kBaseline, Instructions::kAvx2}) {
+    if (instructions > exact::detail::BestInstructions()) continue;
+    exact::FixedPoint total;
+    BlockSum<TypeParam> sum(total, instructions);
+    ExactSum expected;
+    int added = 0;
+    for (int round = 0; round < 3'000; ++round) {
+      const int spread = 1 + round % 50;
+      const int top = round / 600 * 9;  // the range moves
+      auto block = TQorVector<TypeParam>::WithLength(BlockSum<TypeParam>::kBlock);
+      for (TypeParam& x : block) {
+        const auto exponent = static_cast<int>(engine() % static_cast<unsigned>(spread));
+        const auto mantissa =
+            static_cast<TypeParam>(1 + static_cast<Extended>(engine()) * 0x1p-64L);
+        x = std::ldexp(engine() % 2 != 0 ? mantissa : -mantissa, top - exponent);
+        if (engine() % 9 == 0) x = 0;
+      }
+      if (round % 10 == 9) block[engine() % 256] = std::numeric_limits<TypeParam>::quiet_NaN();
+      if (!sum.Add(std::span<const TypeParam>(block))) continue;
+      ++added;
+      expected.Add(block);
+    }
+    sum.Flush();
+    EXPECT_TRUE(total.Value() == expected.Value());
+    const bool has_kernel =
+        sizeof(TypeParam) <= sizeof(double) || instructions == Instructions::kAvx2;
+    EXPECT_EQ(added > 100, has_kernel);
+    EXPECT_LT(added, 2'700);  // NaN is refused
+    EXPECT_TRUE(expected.IsFinite());
   }
 }
 

@@ -25,10 +25,10 @@ const std::map<std::string, TestForm> kForms = {{"exact", TestForm::kExact},
 // What a test is accurate to, relative to the figure.
 struct Accuracy {
   Extended statistic = 0;
-  Extended p = 3e-18L;
+  Extended p = 1e-18L;
 };
 const std::map<std::string, Accuracy> kAccuracies = {
-    {"ks-uniform", {2e-18L, 1e-16L}}, {"ks-two", {0, 1e-17L}}, {"shapiro-wilk", {1e-18L, 1e-15L}}};
+    {"ks-uniform", {2e-19L, 5e-18L}}, {"ks-two", {0, 5e-18L}}, {"shapiro-wilk", {2e-19L, 1e-17L}}};
 
 // Expects two figures that are both missing, or agree to an accuracy.
 void ExpectFigure(Extended figure, const std::string& expected, Extended relative, const char* name,

@@ -124,6 +124,56 @@ TEST(LinearModel, HasInfiniteStatisticsForPerfectFitsAndNoneWithoutDegreesOfFree
   EXPECT_EQ(mean.Fit().Predict({}).standard_error, 1.527525231651946668863L);
 }
 
+TEST(LinearModel, DoesNotDependOnUnits) {
+  const Column x{1, 2, 4, 7, 9};
+  const Column y{3, 2, 6, 5, 11};
+  const auto scaled = [](Column column, int exponent) {
+    for (Extended& value : column) value = std::ldexp(value, exponent);
+    return column;
+  };
+  const LinearFit plain = FitPairs(x, y, 2).curve;
+  for (const int exponent : {-16000, -3000, 7000}) {
+    const PairFit pairs = FitPairs(scaled(x, exponent), scaled(y, -exponent), 2);
+    EXPECT_EQ(pairs.correlation, FitPairs(x, y).correlation);
+    EXPECT_EQ(pairs.mean_x, std::ldexp(4.6L, exponent));
+    EXPECT_EQ(pairs.covariance, FitPairs(x, y).covariance);
+    for (std::size_t i = 0; i < 3; ++i) {
+      EXPECT_EQ(pairs.curve.Coefficient(i).t, plain.Coefficient(i).t);
+      EXPECT_EQ(pairs.curve.Coefficient(i).value,
+                std::ldexp(plain.Coefficient(i).value, -exponent * static_cast<int>(i + 1)));
+    }
+  }
+}
+
+TEST(LinearModel, MixesDecimalsOfAnyNumber) {
+  const std::vector<std::int64_t> tenths{12, 25, 31, 44};
+  const std::vector<std::int64_t> hundredths{120, 250, 310, 440};
+  const std::vector<std::int16_t> response{3, 1, 4, 1};
+  const TQorCurrencyVector amounts{Currency(12000), Currency(25000), Currency(31000),
+                                   Currency(44000)};
+  for (const std::size_t degree : {1U, 2U}) {
+    LinearModel model = LinearModel::Polynomial(degree);
+    model.Add(ColumnView(tenths, 1), response);
+    LinearModel mixed = model;
+    mixed.AddWeighted(ColumnView(hundredths, 2), response, ColumnView(hundredths, 2));
+    mixed.RemoveWeighted(ColumnView(hundredths, 2), response, ColumnView(hundredths, 2));
+    const LinearFit fit = model.Fit();
+    EXPECT_EQ(mixed.Fit().Values(), fit.Values());
+    EXPECT_EQ(mixed.Fit().Covariance(0, 1), fit.Covariance(0, 1));
+    EXPECT_EQ(mixed.Fit().ResidualVariance(), fit.ResidualVariance());
+    // 2.5 and 0.5 are numbers of every kind.
+    EXPECT_EQ(fit.Predict({2.5L}).value, fit.FittedValues(ColumnView(tenths, 1))[1]);
+    EXPECT_EQ(fit.Leverages({{2.5L}})[0], fit.Leverages(ColumnView(tenths, 1))[1]);
+    EXPECT_EQ(fit.FittedValues(amounts), fit.FittedValues(ColumnView(tenths, 1)));
+    EXPECT_EQ(fit.FittedValues(std::vector<float>{2.5F}), fit.FittedValues({{2.5L}}));
+    EXPECT_EQ(mixed.Fit().Predict({2.5L}).standard_error, fit.Predict({2.5L}).standard_error);
+    LinearModel wrong = model;
+    wrong.Remove({{1.0L, 2, 3}}, {9.0L, 9, 9});
+    wrong.Add({{1.0L, 1, 1}}, {0.0L, 0, 0});
+    EXPECT_ERROR(wrong.Fit(), EInvalidOp, rsInvalidOp);
+  }
+}
+
 // Columns of whole numbers that are nearly multiples of each other. The rows come in pairs that
 // differ in errors of 1 and -1 only, so the coefficients are known.
 TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "qorvex/stats/regression/linear_model.h"
@@ -33,26 +34,13 @@ struct DecimalColumn {
   [[nodiscard]] ColumnView View() const { return {integers, decimals}; }
 };
 
-/// The columns of a data file.
-inline std::vector<std::vector<std::string>> ReadTexts(const std::string& name,
-                                                       std::size_t columns) {
-  std::ifstream in(std::string(QORVEX_TEST_DATA) + "/nist/" + name);
-  std::vector<std::vector<std::string>> texts(columns);
-  for (std::string line; std::getline(in, line);) {
-    if (line.front() == '#') continue;
-    const std::vector<std::string> words = Words(line);
-    for (std::size_t c = 0; c < columns; ++c) texts[c].push_back(words.at(c));
-  }
-  return texts;
-}
-
-/// The same as extended and as decimal numbers.
-struct DataFile {
+/// Columns as extended and as decimal numbers.
+struct DataColumns {
   std::vector<std::vector<Extended>> extended;
   std::vector<DecimalColumn> decimal;
 
-  DataFile(const std::string& name, std::size_t columns) {
-    for (const auto& texts : ReadTexts(name, columns)) {
+  explicit DataColumns(const std::vector<std::vector<std::string>>& columns) {
+    for (const auto& texts : columns) {
       std::ranges::transform(texts, std::back_inserter(extended.emplace_back()), Str2Float);
       decimal.emplace_back(texts);
     }
@@ -65,6 +53,19 @@ struct DataFile {
     return views;
   }
 };
+
+/// The columns of the data file of a set.
+inline std::vector<std::vector<std::string>> ReadTexts(const std::string& set,
+                                                       std::size_t columns) {
+  std::ifstream in(std::string(QORVEX_TEST_DATA) + "/nist/" + set + ".txt");
+  std::vector<std::vector<std::string>> texts(columns);
+  for (std::string line; std::getline(in, line);) {
+    if (line.front() == '#') continue;
+    const std::vector<std::string> words = Words(line);
+    for (std::size_t c = 0; c < columns; ++c) texts[c].push_back(words.at(c));
+  }
+  return texts;
+}
 
 /// A set of linear regression.
 struct LinearSet {
@@ -87,7 +88,7 @@ inline constexpr LinearSet kLinearSets[] = {{"Norris", 1, 0},
                                             {"Wampler5", 1, 5}};
 
 /// The fit of a set.
-inline LinearFit FitOf(const LinearSet& set, const DataFile& data, bool as_decimals) {
+inline LinearFit FitOf(const LinearSet& set, const DataColumns& data, bool as_decimals) {
   std::vector<ColumnView> columns = data.Views(as_decimals);
   const ColumnView response = columns.back();
   columns.pop_back();
@@ -97,39 +98,18 @@ inline LinearFit FitOf(const LinearSet& set, const DataFile& data, bool as_decim
   return model.Fit();
 }
 
-/// A set of one-way ANOVA: its groups.
-struct AnovaSet {
-  std::string name;
-  std::vector<std::vector<Extended>> extended;
-  std::vector<DecimalColumn> decimal;
-
-  AnovaSet(std::string set, const std::vector<std::vector<std::string>>& groups)
-      : name(std::move(set)) {
-    for (const auto& texts : groups) {
-      std::ranges::transform(texts, std::back_inserter(extended.emplace_back()), Str2Float);
-      decimal.emplace_back(texts);
-    }
-  }
-
-  [[nodiscard]] std::vector<ColumnView> DecimalViews() const {
-    std::vector<ColumnView> views;
-    for (const DecimalColumn& column : decimal) views.push_back(column.View());
-    return views;
-  }
-};
-
-/// The sets of one-way ANOVA. SmLs01 to SmLs09 follow a rule: nine groups of values with one
-/// decimal.
-inline std::vector<AnovaSet> AnovaSets() {
-  std::vector<AnovaSet> sets;
+/// The names and groups of the sets of one-way ANOVA. SmLs01 to SmLs09 follow a rule: nine groups
+/// of values with one decimal.
+inline std::vector<std::pair<std::string, DataColumns>> AnovaSets() {
+  std::vector<std::pair<std::string, DataColumns>> sets;
   for (const std::string set : {"SiRstv", "AtmWtAg"}) {
     std::vector<std::vector<std::string>> groups;
-    const auto texts = ReadTexts(set + ".txt", 2);
+    const auto texts = ReadTexts(set, 2);
     for (std::size_t i = 0; i < texts[0].size(); ++i) {
       if (i == 0 || texts[0][i] != texts[0][i - 1]) groups.emplace_back();
       groups.back().push_back(texts[1][i]);
     }
-    sets.emplace_back(set, groups);
+    sets.emplace_back(set, DataColumns(groups));
   }
   const auto step = [](std::size_t k) { return k == 1 ? 2 : k % 2 == 0 ? 1 : 3; };
   constexpr std::size_t replicates[] = {21, 201, 2001};
@@ -140,7 +120,7 @@ inline std::vector<AnovaSet> AnovaSets() {
       for (std::size_t r = 1; r <= replicates[i % 3]; ++r)
         groups[g - 1].push_back(bases[i / 3] + "." + std::to_string(step(g) + step(r)));
     }
-    sets.emplace_back("SmLs0" + std::to_string(i + 1), groups);
+    sets.emplace_back("SmLs0" + std::to_string(i + 1), DataColumns(groups));
   }
   return sets;
 }

@@ -18,8 +18,13 @@ class DenseChunks {
  public:
   DenseChunks() : chunks_(kCount) {}
 
-  void Add(const Words<kFactors>& mantissa, std::uint32_t exponent, std::uint32_t sign,
-           FixedPoint& total) {
+  // Must come before that many are added.
+  void Prepare(std::size_t count, FixedPoint& total) {
+    if (added_ + count > kMaxAdded) Flush(total);
+    added_ += count;
+  }
+
+  void Add(const Words<kFactors>& mantissa, std::uint32_t exponent, std::uint32_t sign) noexcept {
     const std::uint32_t bit = exponent + kPadding;
     const std::uint32_t shift = bit % 32;
     const auto flip = -static_cast<std::int64_t>(sign);
@@ -32,7 +37,6 @@ class DenseChunks {
       carry = static_cast<std::uint64_t>(shifted >> 64);
     }
     *chunk += (static_cast<std::int64_t>(carry) ^ flip) - flip;
-    if (++added_ == kMaxAdded) Flush(total);
   }
 
   // Adds the sum to the total and is 0 again.
@@ -56,7 +60,7 @@ class DenseChunks {
 
  private:
   static constexpr int kWordBits = 64;
-  static constexpr std::uint32_t kMaxAdded = std::uint32_t{1} << 30;
+  static constexpr std::size_t kMaxAdded = std::size_t{1} << 30;
   // The lowest bit is a whole number of words below the point.
   static constexpr std::int32_t kPosition =
       -static_cast<std::int32_t>(kFactors * kExponentBias / kWordBits + 1);
@@ -67,7 +71,7 @@ class DenseChunks {
       2 * ((kFactors * (0x7FFF + kWordBits) + kPadding) / kWordBits + 3);
 
   std::vector<std::int64_t> chunks_;
-  std::uint32_t added_ = 0;
+  std::size_t added_ = 0;
 };
 
 }  // namespace qorvex::exact::detail

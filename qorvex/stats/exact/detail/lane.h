@@ -37,26 +37,34 @@ class Lane {
               negative);
   }
 
-  // index: twice the number of the exponent in the window, plus the sign.
+  // index: twice the number of the exponent in the window, plus the sign. Values take turns at two
+  // tables, so that one with the exponent of the last need not wait for it.
+  template <int kTurn>
   void Count(const Words<kSize>& term, std::uint32_t index) noexcept {
-    counters_[kSigned ? index : index / 2].Add(term);
+    tables_[kTurn][kSigned ? index : index / 2].Add(term);
   }
 
   // key: twice the exponent, plus the sign.
   void AddOne(const Words<kSize>& term, std::uint32_t key) {
     AddToTotal(term, key / 2, kSigned && key % 2 != 0, total_);
   }
-  void AddScattered(const Words<kSize>& term, std::uint32_t key) {
+  // After PrepareForScattered, for as many terms.
+  void AddScattered(const Words<kSize>& term, std::uint32_t key) noexcept {
+    chunks_->Add(term, kStep * (key / 2), kSigned ? key % 2 : 0);
+  }
+  void PrepareForScattered(std::size_t count) {
     if (!chunks_) chunks_ = std::make_unique<DenseChunks<kSize>>();
-    chunks_->Add(term, kStep * (key / 2), kSigned ? key % 2 : 0, total_);
+    chunks_->Prepare(count, total_);
   }
 
   // Adds the counters to the total. The first has the given exponent.
   void FlushCounters(std::uint32_t first) {
-    for (std::uint32_t i = 0; i < counters_.size(); ++i) {
-      if (counters_[i].IsZero()) continue;
-      AddToTotal(counters_[i].words, first + (kSigned ? i / 2 : i), kSigned && i % 2 == 1, total_);
-      counters_[i] = {};
+    for (Table& table : tables_) {
+      for (std::uint32_t i = 0; i < table.size(); ++i) {
+        if (table[i].IsZero()) continue;
+        AddToTotal(table[i].words, first + (kSigned ? i / 2 : i), kSigned && i % 2 == 1, total_);
+        table[i] = {};
+      }
     }
   }
 
@@ -65,8 +73,10 @@ class Lane {
   }
 
  private:
+  using Table = std::array<Counter<kSize>, kWindow*(kSigned ? 2 : 1)>;
+
   FixedPoint& total_;
-  std::array<Counter<kSize>, kWindow*(kSigned ? 2 : 1)> counters_;
+  std::array<Table, 2> tables_;
   std::unique_ptr<DenseChunks<kSize>> chunks_;
 };
 
@@ -96,6 +106,12 @@ class PowerLanes {
  public:
   explicit PowerLanes(FixedPoint* totals) : first_(totals[0]), second_(totals[1]) {}
 
+  // Adds a value without lanes.
+  static void AddToTotals(const Parts<1>& x, FixedPoint* totals) {
+    Lane<1, 1, true>::AddToTotal(x.mantissa, x.Exponent(), x.Sign() != 0, totals[0]);
+    Lane<2, 2, false>::AddToTotal(Square(x.mantissa), x.Exponent(), false, totals[1]);
+  }
+
   template <class Action>
   void ForEachTerm(const Words<1>& mantissa, Action action) {
     action(first_, mantissa);
@@ -117,6 +133,13 @@ class PowerLanes<4> {
  public:
   explicit PowerLanes(FixedPoint* totals)
       : first_(totals[0]), second_(totals[1]), third_(totals[2]), fourth_(totals[3]) {}
+
+  static void AddToTotals(const Parts<1>& x, FixedPoint* totals) {
+    const Words<3> cube = Multiply(Square(x.mantissa), x.mantissa[0]);
+    PowerLanes<2>::AddToTotals(x, totals);
+    Lane<3, 3, true>::AddToTotal(cube, x.Exponent(), x.Sign() != 0, totals[2]);
+    Lane<4, 4, false>::AddToTotal(Multiply(cube, x.mantissa[0]), x.Exponent(), false, totals[3]);
+  }
 
   template <class Action>
   void ForEachTerm(const Words<1>& mantissa, Action action) {

@@ -62,6 +62,9 @@ struct Elements<Extended> {
     if (parts.Exponent() == 0) parts.key += 2;
     return parts;
   }
+  static bool IsFinite(const Extended& value) noexcept {
+    return OfNormal(value).Exponent() <= kGreatest;
+  }
 };
 
 template <>
@@ -82,6 +85,9 @@ struct Elements<double> {
     const bool normal = exponent != 0;
     return {{(bits & (kHiddenBit - 1)) | (normal ? kHiddenBit : 0)},
             2 * (exponent + (normal ? 0 : 1) + kShift) + Sign(bits)};
+  }
+  static bool IsFinite(double value) noexcept {
+    return Exponent(std::bit_cast<Word>(value)) + kShift <= kGreatest;
   }
 
  private:
@@ -105,6 +111,7 @@ struct Elements<T> {
     return {{value < 0 ? 0 - bits : bits}, 2 * kExponentBias + (value < 0 ? 1U : 0U)};
   }
   static Parts<1> OfNormal(T value) noexcept { return Of(value); }
+  static bool IsFinite(T) noexcept { return true; }
 };
 
 // The products of elements with the same index of kFactors arrays.
@@ -124,7 +131,7 @@ class Products {
   // The same if every factor is normal. `normal` becomes false if one of several is not; the
   // exponent tells it of a single one.
   [[nodiscard]] Parts<kFactors> Normal(std::size_t i, bool& normal) const noexcept {
-    return First<kFactors>(i, [&normal](const T& x) {
+    return First<kFactors>(i, [&](const T& x) {
       const Parts<1> parts = Elements<T>::OfNormal(x);
       if constexpr (kFactors > 1) normal &= IsNormal(parts);
       return parts;
@@ -132,7 +139,7 @@ class Products {
   }
   [[nodiscard]] bool IsFinite(std::size_t i) const noexcept {
     for (const T* const factor : factors_) {
-      if (Elements<T>::OfNormal(factor[i]).Exponent() > Elements<T>::kGreatest) return false;
+      if (!Elements<T>::IsFinite(factor[i])) return false;
     }
     return true;
   }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <type_traits>
 
 #include "qorvex/stats/exact/detail/lane.h"
 #include "qorvex/stats/exact/detail/parts.h"
@@ -16,21 +17,21 @@ template <class Lanes>
 class WindowedSum {
  public:
   // The values that Add is meant for at a time.
-  static constexpr std::size_t kBlock = 256;
+  static constexpr std::size_t kBlock = 1'024;
 
   explicit WindowedSum(FixedPoint* totals) : lanes_(totals) {}
 
   template <class Values>
   void Add(const Values& values, std::size_t begin, std::size_t end, SpecialCounts& special) {
-    if (scattered_blocks_ > 0) {
-      --scattered_blocks_;
+    if (scattered_ > 0) {
+      scattered_ -= std::min(scattered_, end - begin);
       AddScattered(values, begin, end, special);
       return;
     }
     if (count_ == 0) ChooseWindow(values, begin, end);
     if (AddToCounters(values, begin, end, special) > (end - begin) / kMaxOutliers) {
       FlushCounters();
-      scattered_blocks_ = kScatteredBlocks;
+      scattered_ = kScattered;
     }
   }
 
@@ -43,7 +44,7 @@ class WindowedSum {
  private:
   // Up to one of 16 values may be added to the totals.
   static constexpr std::size_t kMaxOutliers = 16;
-  static constexpr int kScatteredBlocks = 32;
+  static constexpr std::size_t kScattered = 8'192;
 
   // The window for values that resemble the first ones: most of it below the greatest, because the
   // exponents of most samples spread downwards.
@@ -69,7 +70,8 @@ class WindowedSum {
     const std::uint32_t count = 2 * count_;
     const Values local = values;  // nothing that is written can be part of it
     std::size_t outliers = 0;
-    for (std::size_t i = begin; i < end; ++i) {
+    const auto add = [&]<int kTurn>(std::size_t i, std::integral_constant<int, kTurn>)
+        __attribute__((always_inline)) {
       bool normal = true;
       const auto x = local.Normal(i, normal);
       // A single zero may have any exponent; among factors it is not normal. Without a branch,
@@ -77,11 +79,18 @@ class WindowedSum {
       const std::uint32_t index = (x.key - first) & (x.IsZero() ? 0 : ~0U);
       if (!normal || index >= count) [[unlikely]] {
         if (AddOutlier(values, i, special)) ++outliers;
-        continue;
+        return;
       }
-      lanes_.ForEachTerm(x.mantissa,
-                         [index](auto& lane, const auto& term) { lane.Count(term, index); });
+      lanes_.ForEachTerm(x.mantissa, [index](auto& lane, const auto& term) {
+        lane.template Count<kTurn>(term, index);
+      });
+    };
+    std::size_t i = begin;
+    for (; i + 1 < end; i += 2) {
+      add(i, std::integral_constant<int, 0>());
+      add(i + 1, std::integral_constant<int, 1>());
     }
+    if (i < end) add(i, std::integral_constant<int, 0>());
     return outliers;
   }
 
@@ -101,6 +110,7 @@ class WindowedSum {
   template <class Values>
   void AddScattered(const Values& values, std::size_t begin, std::size_t end,
                     SpecialCounts& special) {
+    lanes_.ForEach([&](auto& lane) { lane.PrepareForScattered(end - begin); });
     for (std::size_t i = begin; i < end; ++i) {
       if (!values.IsFinite(i)) [[unlikely]] {
         special.Add(values.Value(i));
@@ -121,7 +131,7 @@ class WindowedSum {
   Lanes lanes_;
   std::uint32_t first_ = 0;  // the window: its first exponent, and their number or 0
   std::uint32_t count_ = 0;
-  int scattered_blocks_ = 0;
+  std::size_t scattered_ = 0;  // values that will not be tried with the tables
 };
 
 }  // namespace qorvex::exact::detail

@@ -2,11 +2,10 @@
 
 #include <cmath>
 #include <limits>
-#include <numbers>
 
-#include "qorvex/stats/distributions/f_distribution.h"
-#include "qorvex/stats/distributions/figures.h"
-#include "qorvex/stats/distributions/student_t.h"
+#include "qorvex/stats/inference/detail/exact_numbers.h"
+#include "qorvex/stats/inference/detail/exact_tails.h"
+#include "qorvex/stats/inference/detail/p_values.h"
 
 namespace qorvex::detail {
 
@@ -23,22 +22,23 @@ Extended OverZero(const Rational& a) {
 
 }  // namespace
 
-Probability TwoSided(Extended t, std::size_t degrees_of_freedom) {
-  if (std::isnan(t) || degrees_of_freedom == 0) return {kNaN, kNaN};
-  const StudentTDistribution distribution(static_cast<Extended>(degrees_of_freedom));
-  const Extended magnitude = std::fabs(t);
-  const Extended p = 2 * Upper(distribution, magnitude);
-  // The logarithm of a p near 1 is that of what p lacks.
-  if (p > 0.5L) return {p, std::log1p(-Between(distribution, -magnitude, magnitude))};
-  return {p, std::numbers::ln2_v<Extended> + LogUpper(distribution, magnitude)};
+Significance StudentSignificance(const Rational& estimate, const Rational& squared_error,
+                                 std::size_t degrees_of_freedom) {
+  if (degrees_of_freedom == 0) return {kNaN, kNaN, kNaN};
+  if (squared_error.Sign() == 0) {
+    const Extended t = OverZero(estimate);
+    return std::isnan(t) ? Significance{t, t, t} : Significance{t, 0, -kInfinity};
+  }
+  const auto df = static_cast<Extended>(degrees_of_freedom);
+  const special::ExtendedPair t =
+      inference::RootToPair(estimate * estimate / squared_error, estimate.Sign());
+  const TestResult test = inference::WithTails({.statistic = t.hi}, inference::StudentTails(t, df),
+                                               Alternative::kTwoSided);
+  return {test.statistic, test.p, test.log_p};
 }
 
 Extended RoundRatio(const Rational& a, const Rational& b) {
   return b.Sign() == 0 ? OverZero(a) : (a / b).Round();
-}
-
-Extended RoundRatioRoot(const Rational& a, const Rational& b) {
-  return b.Sign() == 0 ? OverZero(a) : (a / b).RoundRoot();
 }
 
 AnovaRow RowOf(const Rational& sum_of_squares, std::size_t degrees_of_freedom) {
@@ -52,12 +52,16 @@ AnovaTest TestOf(const Rational& sum_of_squares, std::size_t degrees_of_freedom,
                  const Rational& residual, std::size_t residual_degrees_of_freedom) {
   AnovaTest test{RowOf(sum_of_squares, degrees_of_freedom), kNaN, kNaN, kNaN};
   if (degrees_of_freedom == 0 || residual_degrees_of_freedom == 0) return test;
-  test.f = RoundRatio(sum_of_squares * residual_degrees_of_freedom, residual * degrees_of_freedom);
+  const Rational explained = sum_of_squares * residual_degrees_of_freedom;
+  const Rational left = residual * degrees_of_freedom;
+  test.f = RoundRatio(explained, left);
   if (std::isnan(test.f)) return test;
-  const FDistribution distribution(static_cast<Extended>(degrees_of_freedom),
-                                   static_cast<Extended>(residual_degrees_of_freedom));
-  test.p = Upper(distribution, test.f);
-  test.log_p = LogUpper(distribution, test.f);
+  const special::Tails tails =
+      inference::FTails(std::isinf(test.f) ? test.f : inference::ToPair(explained / left),
+                        static_cast<Extended>(degrees_of_freedom),
+                        static_cast<Extended>(residual_degrees_of_freedom));
+  test.p = tails.Probability(special::Tail::kUpper);
+  test.log_p = tails.LogProbability(special::Tail::kUpper);
   return test;
 }
 

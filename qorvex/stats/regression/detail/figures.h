@@ -7,19 +7,20 @@
 
 namespace qorvex::detail {
 
-/// A probability and its logarithm.
-struct Probability {
+/// A statistic, the probability of one at least as large, and its logarithm.
+struct Significance {
+  Extended statistic;
   Extended p;
   Extended log_p;
 };
 
-/// The probability of a t of at least this magnitude, on either side.
-[[nodiscard]] Probability TwoSided(Extended t, std::size_t degrees_of_freedom);
+/// t = estimate / sqrt(squared_error) and its two-sided probability, from t before it is rounded.
+[[nodiscard]] Significance StudentSignificance(const exact::Rational& estimate,
+                                               const exact::Rational& squared_error,
+                                               std::size_t degrees_of_freedom);
 
 /// The nearest extended value to a / b; infinite for b = 0, NaN for 0 / 0.
 [[nodiscard]] Extended RoundRatio(const exact::Rational& a, const exact::Rational& b);
-/// The square root of a / b, likewise.
-[[nodiscard]] Extended RoundRatioRoot(const exact::Rational& a, const exact::Rational& b);
 
 /// A row of a table without a test.
 [[nodiscard]] AnovaRow RowOf(const exact::Rational& sum_of_squares, std::size_t degrees_of_freedom);

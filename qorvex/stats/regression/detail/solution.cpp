@@ -4,6 +4,7 @@
 #include <bit>
 #include <cmath>
 #include <limits>
+#include <optional>
 #include <utility>
 
 #include "qorvex/stats/regression/detail/sweep.h"
@@ -24,6 +25,18 @@ constexpr std::size_t kFirstBits = 256;
 constexpr std::size_t kLastBits = 1024;
 // The bits of a figure that have to be right, beyond the 64 that it is rounded to.
 constexpr std::size_t kEnoughBits = 96;
+
+// A magnitude as a power of two, at most four times as large.
+std::int64_t MagnitudeOf(const Rational& value) {
+  return value.Numerator().MagnitudeExponent() - value.Denominator().MagnitudeExponent() + 1;
+}
+
+// Also beyond the range of extended numbers.
+Extended Log2(const Rational& value) {
+  const std::int64_t magnitude = MagnitudeOf(value);
+  const Rational fraction(value.Numerator().Shifted(-magnitude), value.Denominator());
+  return static_cast<Extended>(magnitude) + std::log2(fraction.Round());
+}
 
 SweptMatrix MatrixOf(const GramMatrix& gram, std::size_t bits) {
   SweptMatrix matrix(gram.Size(), bits);
@@ -53,13 +66,8 @@ Solution SolutionOf(const GramMatrix& gram, const SweptMatrix& swept,
     for (std::size_t j = i; j < size; ++j) solution.inverse[i].push_back(swept.At(i, j));
     condition = std::max(condition, Rational(gram.Sum(i, i) * swept.At(i, i), swept.Determinant()));
   }
-  solution.condition_bits = std::log2(condition.Round());
+  solution.condition_bits = Log2(condition);
   return solution;
-}
-
-// A magnitude as a power of two, at most twice as large.
-std::int64_t MagnitudeOf(const Rational& value) {
-  return value.Numerator().MagnitudeExponent() - value.Denominator().MagnitudeExponent() + 1;
 }
 
 // The bits that an elimination loses by cancellation: those of the condition, and those by which
@@ -92,36 +100,24 @@ std::int64_t LostBits(const GramMatrix& gram, const Solution& solution) {
   return lost + condition + 4 * static_cast<std::int64_t>(std::bit_width(size + 1));
 }
 
-}  // namespace
-
-Rational Solution::Coefficient(std::size_t i) const {
-  return Rational(coefficients[i], determinant) *
-         Rational::PowerOfTen(decimals[i] - decimals.back());
-}
-
-Rational Solution::Inverse(std::size_t i, std::size_t j) const {
-  if (i > j) std::swap(i, j);
-  return Rational(inverse[i][j - i], determinant) *
-         Rational::PowerOfTen(decimals[i] + decimals[j] + weight_decimals);
-}
-
-Rational Solution::ResidualAfter(std::size_t k) const {
-  return residual[k] * Rational::PowerOfTen(-2 * decimals.back() - weight_decimals);
-}
-
+// CollinearityError; EInvalidOp if the sums are those of no rows.
 Solution SolveInIntegers(const GramMatrix& gram) {
   const std::size_t size = gram.Form().Coefficients();
   SweptMatrix matrix = MatrixOf(gram, 0);
   std::vector<Rational> residual{matrix.At(size, size)};
   for (std::size_t k = 0; k < size; ++k) {
     // Determinants of Gram matrices are not negative, and 0 for dependent columns only.
-    if (matrix.At(k, k).Sign() == 0) throw CollinearityError(k - gram.Form().Constants());
+    const int sign = matrix.At(k, k).Sign();
+    if (sign == 0) throw CollinearityError(k - gram.Form().Constants());
+    if (sign < 0) throw EInvalidOp();
     matrix.SweepNext();
     residual.emplace_back(matrix.At(size, size), matrix.Determinant());
+    if (residual.back().Sign() < 0) throw EInvalidOp();
   }
   return SolutionOf(gram, matrix, std::move(residual));
 }
 
+// std::nullopt if too few of the bits are right in the end.
 std::optional<Solution> SolveWithBits(const GramMatrix& gram, std::size_t bits) {
   const std::size_t size = gram.Form().Coefficients();
   SweptMatrix matrix = MatrixOf(gram, bits);
@@ -137,6 +133,23 @@ std::optional<Solution> SolveWithBits(const GramMatrix& gram, std::size_t bits) 
   if (precision < static_cast<std::int64_t>(kEnoughBits)) return std::nullopt;
   solution.precision = static_cast<std::size_t>(precision);
   return solution;
+}
+
+}  // namespace
+
+Rational Solution::Coefficient(std::size_t i) const {
+  return Rational(coefficients[i], determinant) *
+         Rational::PowerOfTen(decimals[i] - decimals.back());
+}
+
+Rational Solution::Inverse(std::size_t i, std::size_t j) const {
+  if (i > j) std::swap(i, j);
+  return Rational(inverse[i][j - i], determinant) *
+         Rational::PowerOfTen(decimals[i] + decimals[j] + weight_decimals);
+}
+
+Rational Solution::ResidualAfter(std::size_t k) const {
+  return residual[k] * Rational::PowerOfTen(-2 * decimals.back() - weight_decimals);
 }
 
 Solution Solve(const GramMatrix& gram) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <vector>
 
 #include "qorvex/base/exact/rational.h"
@@ -45,9 +44,5 @@ struct Solution {
 /// Solves the normal equations: exactly where that is cheap, otherwise with as many bits as their
 /// condition asks for, and exactly if too many would be needed. CollinearityError.
 [[nodiscard]] Solution Solve(const GramMatrix& gram);
-
-/// The two ways, for tests. With `bits`, std::nullopt if too few of them are right in the end.
-[[nodiscard]] Solution SolveInIntegers(const GramMatrix& gram);
-[[nodiscard]] std::optional<Solution> SolveWithBits(const GramMatrix& gram, std::size_t bits);
 
 }  // namespace qorvex::detail

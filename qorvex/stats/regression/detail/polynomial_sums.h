@@ -38,7 +38,10 @@ class WordSum {
 
  private:
   static constexpr std::uint64_t kExponents = 128;
+  // So few are added one by one.
+  static constexpr int kFew = 32;
 
+  int few_ = 0;
   std::size_t stride_;       // words of a counter, the highest for carries
   std::int64_t lowest_ = 0;  // the exponent of the first counter
   std::vector<exact::detail::Word> counters_;
@@ -46,9 +49,9 @@ class WordSum {
 };
 
 /// The exact sums of w x^k for k up to twice a degree, of w x^k y up to the degree, and of w y^2.
-class PowerSums {
+class PolynomialSums {
  public:
-  explicit PowerSums(std::size_t degree);
+  explicit PolynomialSums(std::size_t degree);
 
   /// The slot of the sum with y of x to this power; for the degree plus 1, that of y^2. The sum
   /// without y is in the slot of its power.

@@ -1,4 +1,4 @@
-#include "qorvex/stats/regression/detail/power_sums.h"
+#include "qorvex/stats/regression/detail/polynomial_sums.h"
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/exact/detail/parts.h"
@@ -50,6 +50,11 @@ void WordProduct::SetProduct(const WordProduct& a, const Extended& factor) {
 }
 
 void WordSum::Add(const WordProduct& product) {
+  if (few_ < kFew) {
+    ++few_;
+    AddTo(outside_, product.words, product.exponent, product.negative);
+    return;
+  }
   if (counters_.empty()) {
     // Smaller values have smaller exponents, so most of the table is for these.
     lowest_ = product.exponent - static_cast<std::int64_t>(kExponents * 3 / 4);
@@ -79,15 +84,15 @@ Dyadic WordSum::Value() const {
   return total.Value();
 }
 
-PowerSums::PowerSums(std::size_t degree) : degree_(degree) {
+PolynomialSums::PolynomialSums(std::size_t degree) : degree_(degree) {
   // Every factor of a product has a word, the weight 1 too.
   for (std::size_t power = 0; power <= 2 * degree; ++power) sums_.emplace_back(power + 1);
   for (std::size_t power = 0; power <= degree; ++power) sums_.emplace_back(power + 2);
   sums_.emplace_back(3U);
 }
 
-void PowerSums::Add(std::span<const Extended> x, std::span<const Extended> y,
-                    std::span<const Extended> w) {
+void PolynomialSums::Add(std::span<const Extended> x, std::span<const Extended> y,
+                         std::span<const Extended> w) {
   constexpr Extended one = 1;
   WordProduct powers[2];  // by turns
   WordProduct with_response, with_square;
@@ -109,7 +114,7 @@ void PowerSums::Add(std::span<const Extended> x, std::span<const Extended> y,
   }
 }
 
-std::vector<Dyadic> PowerSums::Values() const {
+std::vector<Dyadic> PolynomialSums::Values() const {
   std::vector<Dyadic> values;
   for (const WordSum& sum : sums_) values.push_back(sum.Value());
   return values;
