@@ -41,7 +41,8 @@ class QORVEX_EXPORT CollinearityError : public EMathError {
 /// - Errors, in this order: EMathError rsSameDimensions for a wrong number of predictors or columns
 ///   of different lengths; rsInvalidWeight for a weight that is negative or not finite; EInvalidOp
 ///   for a value that is not finite. The model then keeps its state.
-/// - Cost: for a row some 2 ns a pair of columns, twice that with weights; 70 ns for a parabola.
+/// - Cost: for a row some 2 ns a pair of columns, twice that with weights; 70 ns for a parabola. A
+///   call takes some microseconds more, so add many rows at a time.
 class QORVEX_EXPORT LinearModel {
  public:
   /// A model of this many predictors: y = b0 + b1 x1 + b2 x2 + ...
