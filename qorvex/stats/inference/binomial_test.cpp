@@ -24,8 +24,7 @@ Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
   const Extended p = binomial.SuccessProbability();
   const std::uint64_t n = binomial.Trials();
   const ExtendedPair mean = special::ExactProduct(static_cast<Extended>(n), p);
-  const Extended distance = (ExtendedPair(static_cast<Extended>(observed)) - mean).hi;
-  if (distance == 0) return {};
+  const bool is_low = (ExtendedPair(static_cast<Extended>(observed)) - mean).hi < 0;
   const auto log_probability = [&](std::uint64_t k) {
     return special::Ln(special::BinomialProbability(
         binomial.Trials(), static_cast<std::uint32_t>(k), p, special::ExactSum(1, -p)));
@@ -35,25 +34,25 @@ Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
   // On the other side of the mean the probabilities fall with the distance from it.
   std::uint64_t first = 0;
   std::uint64_t last = static_cast<std::uint64_t>(std::floor(mean.hi)) + 1;
-  if (distance < 0) {
+  if (is_low) {
     first = static_cast<std::uint64_t>(std::ceil(mean.hi));
     last = n + 1;
   }
   while (first < last) {
     const std::uint64_t middle = first + (last - first) / 2;
-    if (is_as_unlikely(middle) == (distance > 0)) {
+    if (is_as_unlikely(middle) != is_low) {
       first = middle + 1;
     } else {
       last = middle;
     }
   }
   const Tails beyond = TailsBelow(binomial, first);
-  if (distance > 0) {
-    return Sum(TailsBelow(binomial, observed).ScaledProbability(Tail::kUpper),
-               beyond.ScaledProbability(Tail::kLower));
+  if (is_low) {
+    return Sum(binomial.At(observed).ScaledProbability(Tail::kLower),
+               beyond.ScaledProbability(Tail::kUpper));
   }
-  return Sum(binomial.At(observed).ScaledProbability(Tail::kLower),
-             beyond.ScaledProbability(Tail::kUpper));
+  return Sum(TailsBelow(binomial, observed).ScaledProbability(Tail::kUpper),
+             beyond.ScaledProbability(Tail::kLower));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "stats/inference/tables.h"
+#include "support/element_probe.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -211,6 +212,24 @@ TEST(Tests, TakeEveryElementAndEveryKindOfSample) {
   scaled.AddScaled({60}, 2);
   EXPECT_EQ(OneSampleTTest(amounts).statistic, std::sqrt(27 / 7.0L));
   EXPECT_EQ(OneSampleTTest(scaled).p, OneSampleTTest(amounts).p);
+}
+
+TEST(Tests, AcceptTheseElements) {
+  ExpectTypes("gdfjuiwsbtCSL",
+              {TYPES_READ_BY(OneSampleTTest(v)), TYPES_READ_BY(TwoSampleTTest(v, kData)),
+               TYPES_READ_BY(WelchTTest(kData, v)), TYPES_READ_BY(VarianceTest(v, 1)),
+               TYPES_READ_BY(VarianceRatioTest(v, kData)), TYPES_READ_BY(MeanInterval(v)),
+               TYPES_READ_BY(PredictionInterval(v)), TYPES_READ_BY(VarianceInterval(v)),
+               TYPES_READ_BY(PooledDifferenceInterval(v, kData)),
+               TYPES_READ_BY(WelchDifferenceInterval(v, kData))});
+  ExpectTypes("gdfjuiwsbt",
+              {TYPES_READ_BY(PairedTTest(v, kData)), TYPES_READ_BY(ShapiroWilkTest(v)),
+               TYPES_READ_BY(MannWhitneyTest(v, kData)), TYPES_READ_BY(WilcoxonSignedRankTest(v)),
+               TYPES_READ_BY(WilcoxonSignedRankTest(kData, v)),
+               TYPES_READ_BY(KolmogorovSmirnovTest(v, kData)),
+               TYPES_READ_BY(KolmogorovSmirnovTest(v, UniformDistribution()))});
+  ExpectTypes("juiwsbt",
+              {TYPES_READ_BY(GoodnessOfFitTest(v)), TYPES_READ_BY(GoodnessOfFitTest(v, kData))});
 }
 
 TEST(Intervals, RefuseAndPassOn) {
