@@ -201,11 +201,11 @@ TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {
     EXPECT_EQ(fit.Values()[0], 5);
     for (std::size_t k = 0; k < kPredictors; ++k) EXPECT_EQ(fit.Values()[k + 1], k + 1);
 
-    // What these bits cannot tell, integers do: a perfect fit and exact collinearity.
+    // What no number of bits can tell: a perfect fit and exact collinearity.
     for (std::size_t i = 0; i < y.size(); ++i) y[i] += i % 2 == 0 ? 1 : -1;
     LinearModel perfect(kPredictors);
     perfect.Add(columns, y);
-    EXPECT_EQ(perfect.Fit().Precision(), 0U);
+    EXPECT_GT(perfect.Fit().Precision(), 90U);
     EXPECT_EQ(perfect.Fit().ResidualSumOfSquares(), 0);
     columns.back() = columns.front();
     LinearModel dependent(kPredictors);

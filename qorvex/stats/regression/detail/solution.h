@@ -42,7 +42,8 @@ struct Solution {
 };
 
 /// Solves the normal equations: exactly where that is cheap, otherwise with as many bits as their
-/// condition asks for, and exactly if too many would be needed. CollinearityError.
+/// condition asks for, and exactly if that would take longer. Figures of 0 are exact. Errors as for
+/// LinearModel::Fit.
 [[nodiscard]] Solution Solve(const GramMatrix& gram);
 
 }  // namespace qorvex::detail
