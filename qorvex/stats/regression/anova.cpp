@@ -49,11 +49,11 @@ OneWayAnovaTable TableOf(const std::vector<Group>& groups, const std::vector<int
   const Rational total = (sum_of_squares - common) * unit;
   const std::size_t between_df = groups.size() - 1;
   const std::size_t within_df = count - groups.size();
-  const AnovaRow within_row = detail::RowOf(within, within_df);
-  return {.between = detail::TestOf(between, between_df, within, within_df),
+  const AnovaRow within_row = regression::RowOf(within, within_df);
+  return {.between = regression::TestOf(between, between_df, within, within_df),
           .within = within_row,
-          .total = detail::RowOf(total, count - 1),
-          .determination = detail::RoundRatio(between, total),
+          .total = regression::RowOf(total, count - 1),
+          .determination = regression::RoundRatio(between, total),
           .residual_std_dev =
               within_df == 0 ? within_row.mean_square : (within / within_df).RoundRoot()};
 }

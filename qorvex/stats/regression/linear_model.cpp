@@ -56,7 +56,7 @@ void LinearModel::Merge(const LinearModel& other) {
 
 LinearFit LinearModel::Fit() const {
   if (Count() < gram_.Form().Coefficients()) RaiseMathError(rsVectorTooSmall);
-  return LinearFit(std::make_shared<const detail::Solution>(detail::Solve(gram_)));
+  return LinearFit(std::make_shared<const regression::Solution>(regression::Solve(gram_)));
 }
 
 }  // namespace qorvex

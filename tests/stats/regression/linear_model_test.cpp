@@ -36,11 +36,13 @@ TEST(LinearModel, RefusesBadRowsAndKeepsItsState) {
   EXPECT_EQ(fit.Values()[1], 2.3L);
   EXPECT_MATH_ERROR(fit.Coefficient(2), rsInvalidCol);
   EXPECT_MATH_ERROR(fit.ConfidenceInterval(0, 1), rsValue01);
-  EXPECT_MATH_ERROR(fit.Predict({1.0L}, kNaN), rsValue01);
+  EXPECT_MATH_ERROR(fit.Predict({1.0L}, 0), rsValue01);
+  EXPECT_TRUE(std::isnan(fit.Predict({1.0L}, kNaN).prediction.least));
   EXPECT_MATH_ERROR(fit.Predict({}), rsSameDimensions);
   EXPECT_ERROR(fit.Predict({kNaN}), EInvalidOp, rsInvalidOp);
   EXPECT_MATH_ERROR(fit.Residuals(x, {1.0L}), rsSameDimensions);
-  EXPECT_MATH_ERROR(fit.Leverages(x, {1.0L, 1.0L, kNaN, 1.0L}), rsInvalidWeight);
+  EXPECT_MATH_ERROR(fit.Leverages(nan, {1.0L, 1.0L, kNaN, 1.0L}), rsInvalidWeight);
+  EXPECT_EQ(fit.Leverages({{kNaN, 2}}, {0.0L, 1}), (TQorFloatVector{0, 0.3L}));
 
   // Rows of weight 0 do not count.
   LinearModel weighted;
@@ -165,7 +167,7 @@ TEST(LinearModel, MixesDecimalsOfAnyNumber) {
     EXPECT_EQ(fit.Predict({2.5L}).value, fit.FittedValues(ColumnView(tenths, 1))[1]);
     EXPECT_EQ(fit.Leverages({{2.5L}})[0], fit.Leverages(ColumnView(tenths, 1))[1]);
     EXPECT_EQ(fit.FittedValues(amounts), fit.FittedValues(ColumnView(tenths, 1)));
-    EXPECT_EQ(fit.FittedValues(std::vector<float>{2.5F}), fit.FittedValues({{2.5L}}));
+    EXPECT_EQ(fit.Predict(std::vector<float>{2.5F}).value, fit.Predict({2.5L}).value);
     EXPECT_EQ(mixed.Fit().Predict({2.5L}).standard_error, fit.Predict({2.5L}).standard_error);
     LinearModel wrong = model;
     wrong.Remove({{1.0L, 2, 3}}, {9.0L, 9, 9});

@@ -11,7 +11,7 @@
 #include "qorvex/stats/regression/detail/zeros.h"
 #include "qorvex/stats/regression/linear_model.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::Dyadic;
 using exact::Rational;
@@ -186,4 +186,4 @@ Solution Solve(const GramMatrix& gram) {
   return SolveInIntegers(gram);
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -6,7 +6,7 @@
 #include "qorvex/base/exact/rational.h"
 #include "qorvex/stats/regression/gram_matrix.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// What a regression is solved for, without any rounding, or to within `precision` bits. The scale
 /// of decimal data is put in where a value is read.
@@ -46,4 +46,4 @@ struct Solution {
 /// LinearModel::Fit.
 [[nodiscard]] Solution Solve(const GramMatrix& gram);
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -7,7 +7,7 @@
 
 #include "qorvex/base/exact/dyadic.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::BigInteger;
 using exact::Dyadic;
@@ -187,4 +187,4 @@ Zeros FindZeros(const GramMatrix& gram) {
   return zeros;
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

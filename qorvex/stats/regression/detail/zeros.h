@@ -5,7 +5,7 @@
 
 #include "qorvex/stats/regression/gram_matrix.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// Which figures of a regression are exactly 0, for p coefficients.
 struct Zeros {
@@ -31,4 +31,4 @@ struct Zeros {
 /// - O(p^3) operations on machine words for each prime.
 [[nodiscard]] Zeros FindZeros(const GramMatrix& gram);
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression
