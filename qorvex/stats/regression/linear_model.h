@@ -14,13 +14,15 @@
 namespace qorvex {
 
 /// Raised where a predictor depends linearly on the intercept and the predictors before it, so that
-/// the coefficients are not determined. The identifier is rsCollinear.
+/// the coefficients are not determined.
 class QORVEX_EXPORT CollinearityError : public EMathError {
  public:
-  /// For the predictor with this index, from 0; of a polynomial, the power of x less one.
-  explicit CollinearityError(std::size_t predictor);
+  /// For the predictor with this index, from 0; of a polynomial, the power of x less one. The
+  /// identifier is rsCollinear, rsCollinearOrigin without an intercept, and rsCollinearPower for a
+  /// polynomial.
+  CollinearityError(const ModelForm& form, std::size_t predictor);
   ~CollinearityError() override;
-  /// The index of the predictor, from 0.
+  /// The index of the predictor, from 0; of a polynomial, the power of x less one.
   [[nodiscard]] std::size_t Predictor() const { return predictor_; }
 
  private:

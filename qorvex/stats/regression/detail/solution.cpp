@@ -106,7 +106,7 @@ std::int64_t LostBits(const GramMatrix& gram, const Solution& solution, const Ze
 [[noreturn]] void RaiseCollinear(const GramMatrix& gram, std::size_t column) {
   const std::size_t constants = gram.Form().Constants();
   if (column < constants) throw EInvalidOp();
-  throw CollinearityError(column - constants);
+  throw CollinearityError(gram.Form(), column - constants);
 }
 
 // CollinearityError; EInvalidOp if the sums are those of no rows.
