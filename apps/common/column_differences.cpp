@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <utility>
 
 namespace qorvex::apps {
 
@@ -48,6 +49,15 @@ std::optional<ColumnNumbers> ExactDifferences(const ColumnNumbers& x, const Colu
   return Differences(x, y.Decimals(), [&y](std::size_t i) {
     return DecimalNumber{y.Integers()[i], -y.Decimals()};
   });
+}
+
+ColumnNumbers DifferencesOf(const ColumnNumbers& x, const ColumnNumbers& y) {
+  if (std::optional<ColumnNumbers> exact = ExactDifferences(x, y)) return *std::move(exact);
+  const TQorFloatVector x_values = x.Values();
+  const TQorFloatVector y_values = y.Values();
+  ColumnNumbers differences;
+  for (std::size_t i = 0; i < x.size(); ++i) differences.Append(x_values[i] - y_values[i]);
+  return differences;
 }
 
 }  // namespace qorvex::apps

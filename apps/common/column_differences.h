@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Differences of decimal numbers without rounding.
+/// Differences of the numbers in columns.
 
 #include <optional>
 
@@ -17,5 +17,9 @@ namespace qorvex::apps {
 [[nodiscard]] std::optional<ColumnNumbers> ExactDifferences(const ColumnNumbers& x,
                                                             const ColumnNumbers& y);
 /// @}
+
+/// The differences x - y of two columns of the same length: without rounding if possible, otherwise
+/// of their values.
+[[nodiscard]] ColumnNumbers DifferencesOf(const ColumnNumbers& x, const ColumnNumbers& y);
 
 }  // namespace qorvex::apps

@@ -74,16 +74,6 @@ DescribedColumn Described(const ComparedColumn& column) {
           ExactSumsOf<2>(sorted), sorted.TakeValues()};
 }
 
-// x - y for each pair, without rounding if both are decimal.
-ColumnNumbers DifferencesOf(const ColumnNumbers& x, const ColumnNumbers& y) {
-  if (std::optional<ColumnNumbers> exact = ExactDifferences(x, y)) return *std::move(exact);
-  const TQorFloatVector x_values = x.Values();
-  const TQorFloatVector y_values = y.Values();
-  ColumnNumbers differences;
-  for (std::size_t i = 0; i < x.size(); ++i) differences.Append(x_values[i] - y_values[i]);
-  return differences;
-}
-
 void AddPaired(ComparisonReport& report, const ColumnNumbers& differences, Extended confidence) {
   const ExactSample<2> sums = ExactSumsOf<2>(differences);
   report.difference = sums.Mean();

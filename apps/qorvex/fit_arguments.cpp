@@ -28,10 +28,13 @@ void AddDegree(CLI::App& command, std::size_t& degree) {
 void AddColumns(CLI::App& command, const FitCurve& curve, FitArguments& arguments) {
   CLI::Option& x =
       *command
-           .add_option("--x", arguments.x,
-                       std::string("The column of x, by name or by number from 1;\n"
-                                   "a name takes precedence") +
-                           (curve.has_several_predictors ? ". Repeat it for more columns" : ""))
+           .add_option(
+               "--x", arguments.x,
+               curve.has_several_predictors
+                   ? "A column of x, by name or by number from 1; a name takes precedence.\n"
+                     "Repeat it for more columns"
+                   : "The column of x, by name or by number from 1;\n"
+                     "a name takes precedence")
            ->type_name("NAME|N")
            ->required()
            ->allow_extra_args(false);

@@ -18,8 +18,7 @@ namespace {
 constexpr const char* kReportHelp = R"(Report:
   The null hypothesis is rejected if p is at most the significance level, which is
   1 less the confidence level. Intervals are two-sided. Statistics are exact figures
-  of the numbers, rounded once; decimal numbers are not rounded before. "Form of the
-  Test" says where p comes from.)";
+  of the numbers, rounded once. "Form of the Test" says where p comes from.)";
 
 void AddWritten(CLI::App& command, const char* option, const std::string& description,
                 NumberKind kind, WrittenNumber& number) {
@@ -72,7 +71,8 @@ void TestArguments::AddHypothesis(CLI::App& command, const char* option, const c
   if (default_text == nullptr) command.get_option(option)->required();
 }
 
-void TestArguments::AddBy(CLI::App& command) {
+void TestArguments::AddSamples(CLI::App& command) {
+  table.AddTo(command);
   command
       .add_option("--by", by,
                   "A column of labels: the rows with the same label are a sample of --column")

@@ -48,7 +48,8 @@ struct TestArguments {
   void AddAlternative(CLI::App& command);
   void AddHypothesis(CLI::App& command, const char* option, const char* description,
                      NumberKind kind, const char* default_text);
-  void AddBy(CLI::App& command);
+  /// Those of the table, and --by.
+  void AddSamples(CLI::App& command);
   /// @}
 };
 

@@ -52,8 +52,7 @@ void AddFamily(CLI::App& parent, const Family& family) {
            .summary = family.summary,
            .add_options =
                [&family](CLI::App& command, TestArguments& arguments) {
-                 arguments.table.AddTo(command);
-                 arguments.AddBy(command);
+                 arguments.AddSamples(command);
                  for (const NumberParameter& parameter : family.parameters) {
                    const std::size_t index = arguments.numbers.size();
                    arguments.numbers.push_back(parameter.start);
@@ -116,18 +115,14 @@ void AddDistributionTests(CLI::App& test) {
                  .summary = "Whether two samples follow the same distribution",
                  .add_options =
                      [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
+                       arguments.AddSamples(command);
                        arguments.AddAlternative(command);
                      },
                  .run = TwoDistributions});
   AddTest(test, {.name = "shapiro-wilk",
                  .summary = "Whether values are normal: the test of each column",
-                 .add_options =
-                     [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
-                     },
+                 .add_options = [](CLI::App& command,
+                                   TestArguments& arguments) { arguments.AddSamples(command); },
                  .run =
                      [](const TestArguments& arguments) {
                        return TestEach(arguments, [&](const NumberSample& sample) {

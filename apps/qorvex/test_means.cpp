@@ -52,16 +52,6 @@ std::vector<TestReport> TwoMeans(const TestArguments& arguments, const char* tit
   return {report};
 }
 
-// x - y: of decimal columns as they are written, of others rounded.
-ColumnNumbers DifferencesOf(const ColumnNumbers& x, const ColumnNumbers& y) {
-  if (std::optional<ColumnNumbers> exact = ExactDifferences(x, y)) return std::move(*exact);
-  const TQorFloatVector xs = x.Values();
-  const TQorFloatVector ys = y.Values();
-  ColumnNumbers differences;
-  for (std::size_t i = 0; i < xs.size(); ++i) differences.Append(xs[i] - ys[i]);
-  return differences;
-}
-
 std::vector<TestReport> MeanOfDifferences(const TestArguments& arguments) {
   const std::vector<NumberSample> pair = ReadPairs(arguments);
   const ColumnNumbers differences = DifferencesOf(pair[0].numbers, pair[1].numbers);
@@ -125,8 +115,7 @@ void AddDifference(CLI::App& command, TestArguments& arguments) {
 }
 
 void AddTwoSamples(CLI::App& command, TestArguments& arguments) {
-  arguments.table.AddTo(command);
-  arguments.AddBy(command);
+  arguments.AddSamples(command);
   AddDifference(command, arguments);
 }
 
@@ -137,8 +126,7 @@ void AddMeanTests(CLI::App& test) {
                  .summary = "Whether a mean has a value: Student's t test of each column",
                  .add_options =
                      [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
+                       arguments.AddSamples(command);
                        arguments.AddHypothesis(command, "--mean", "The mean of the null hypothesis",
                                                NumberKind::kReal, "0");
                        arguments.AddAlternative(command);
@@ -173,11 +161,8 @@ void AddMeanTests(CLI::App& test) {
                  .run = MeanOfDifferences});
   AddTest(test, {.name = "anova",
                  .summary = "Whether several means differ: one-way analysis of variance",
-                 .add_options =
-                     [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
-                     },
+                 .add_options = [](CLI::App& command,
+                                   TestArguments& arguments) { arguments.AddSamples(command); },
                  .run = SeveralMeans});
 }
 

@@ -69,8 +69,7 @@ void AddRankTests(CLI::App& test) {
            .summary = "Whether one sample tends to larger values: Mann and Whitney's rank test",
            .add_options =
                [](CLI::App& command, TestArguments& arguments) {
-                 arguments.table.AddTo(command);
-                 arguments.AddBy(command);
+                 arguments.AddSamples(command);
                  arguments.AddHypothesis(command, "--shift", "The shift of the null hypothesis",
                                          NumberKind::kReal, "0");
                  arguments.AddAlternative(command);
@@ -80,8 +79,7 @@ void AddRankTests(CLI::App& test) {
                  .summary = "Whether values are symmetric about a centre: Wilcoxon's test",
                  .add_options =
                      [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
+                       arguments.AddSamples(command);
                        AddCentre(command, arguments);
                      },
                  .run =

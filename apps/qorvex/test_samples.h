@@ -38,15 +38,15 @@ struct NumberSample {
 [[nodiscard]] TestSample WithMedian(const NumberSample& sample);
 /// @}
 
-/// The first test of each sample, in the order of the columns.
+/// A report on each sample. An error names its column.
 [[nodiscard]] std::vector<TestReport> TestEach(
     const TestArguments& arguments, const std::function<TestReport(const NumberSample&)>& test);
 
 /// The InputError for what a test refuses.
 [[nodiscard]] InputError TestRefusal(const std::string& place, const EMathError& error);
 
-/// The numbers of the first sample less the hypothetical value, and what remains to subtract:
-/// nothing if the numbers are decimal.
+/// Numbers less the value of a null hypothesis, and what remains to subtract: 0 if all of them are
+/// decimal, otherwise the whole value.
 struct Shifted {
   ColumnNumbers numbers;
   Extended rest;

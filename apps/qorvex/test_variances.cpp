@@ -45,8 +45,7 @@ void AddVarianceTests(CLI::App& test) {
                  .summary = "Whether a variance has a value: chi-square test of each column",
                  .add_options =
                      [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
+                       arguments.AddSamples(command);
                        arguments.AddHypothesis(command, "--variance",
                                                "The variance of the null hypothesis",
                                                NumberKind::kPositive, nullptr);
@@ -62,8 +61,7 @@ void AddVarianceTests(CLI::App& test) {
                  .summary = "Whether two variances differ: F test",
                  .add_options =
                      [](CLI::App& command, TestArguments& arguments) {
-                       arguments.table.AddTo(command);
-                       arguments.AddBy(command);
+                       arguments.AddSamples(command);
                        arguments.AddHypothesis(command, "--ratio",
                                                "The ratio of the null hypothesis",
                                                NumberKind::kPositive, "1");

@@ -41,6 +41,8 @@ PlotExtent::PlotExtent(const std::vector<PlotLayer>& layers) {
   bool on_zero = false;
   bool bars_only = true;
   for (const PlotLayer& layer : layers) {
+    // A wide band would leave little room for what it belongs to.
+    if (layer.shape == PlotShape::kBand) continue;
     bool first = true;
     for (const QPointF& point : layer.points) {
       const bool only_left_edge = std::exchange(first, false) && layer.shape == PlotShape::kBars;

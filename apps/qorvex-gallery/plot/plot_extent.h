@@ -29,7 +29,8 @@ struct AxisRange {
 struct PlotExtent {
   AxisRange x, y;
 
-  /// Covers all finite points, and zero where areas, bars or stems stand on it.
+  /// Covers all finite points except those of bands, and zero where areas, bars or stems stand on
+  /// it.
   explicit PlotExtent(const std::vector<PlotLayer>& layers);
 
   [[nodiscard]] bool IsEmpty() const { return x.IsEmpty() || y.IsEmpty(); }

@@ -23,7 +23,7 @@ enum class PlotShape {
   kBars,    ///< Bars from zero. Each point is the upper right corner of a bar, except the first,
             ///< which gives the left edge of the first bar.
   kStems,   ///< A vertical line from zero to each point, with a dot.
-  kBand     ///< The area that the points enclose, faint.
+  kBand     ///< The area that the points enclose, faint, as far as the diagram shows it.
 };
 
 /// One set of points.

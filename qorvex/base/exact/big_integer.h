@@ -24,7 +24,8 @@ class QORVEX_EXPORT BigInteger {
   BigInteger() = default;
   /// The value of any built-in integer of up to 64 bits.
   template <std::integral Integer>
-  BigInteger(Integer value) : negative_(value < 0) {  // NOLINT: a wider integer
+  requires(sizeof(Integer) <= sizeof(std::uint64_t)) BigInteger(Integer value)
+      : negative_(value < 0) {  // NOLINT: a wider integer
     const auto bits = static_cast<std::uint64_t>(value);
     SetMagnitude(negative_ ? 0 - bits : bits);
   }

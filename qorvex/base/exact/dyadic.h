@@ -23,7 +23,8 @@ class QORVEX_EXPORT Dyadic {
   Dyadic() = default;
   /// An integer of up to 64 bits.
   template <std::integral Integer>
-  Dyadic(Integer value) : Dyadic(BigInteger(value)) {}  // NOLINT: a wider number
+  requires(sizeof(Integer) <= sizeof(std::uint64_t)) Dyadic(Integer value)
+      : Dyadic(BigInteger(value)) {}  // NOLINT: a wider number
   /// A finite floating-point number. EInvalidOp for an infinity and for NaN.
   Dyadic(Extended value);  // NOLINT: a wider number
   /// mantissa * 2^exponent.

@@ -15,15 +15,24 @@ namespace qorvex::exact {
 /// An array of limbs, the least significant first. Short arrays need no allocation.
 class Limbs {
  public:
+  /// A digit.
   using Limb = std::uint64_t;
 
+  /// No limbs.
   Limbs() = default;
+  /// Limbs of 0.
   explicit Limbs(std::size_t size) { Resize(size); }
+  /// A copy of the given limbs.
   explicit Limbs(std::span<const Limb> limbs) : Limbs(limbs.size()) {
     std::ranges::copy(limbs, Data());
   }
+  /// @{
+  /// A copy, or the limbs of an array that is then empty.
   Limbs(const Limbs& other) : Limbs(other.View()) {}
   Limbs(Limbs&& other) noexcept { Swap(other); }
+  /// @}
+  /// @{
+  /// Replaces the limbs. After a move, the other array has valid limbs, whichever they are.
   Limbs& operator=(const Limbs& other) {
     if (this != &other) *this = Limbs(other);
     return *this;
@@ -32,16 +41,21 @@ class Limbs {
     Swap(other);
     return *this;
   }
+  /// @}
   ~Limbs() = default;
 
+  /// The number of limbs.
   [[nodiscard]] std::size_t Size() const { return size_; }
+  /// @{
+  /// The limbs.
   [[nodiscard]] Limb* Data() { return heap_ ? heap_.get() : inline_; }
   [[nodiscard]] const Limb* Data() const { return heap_ ? heap_.get() : inline_; }
   [[nodiscard]] Limb& operator[](std::size_t i) { return Data()[i]; }
   [[nodiscard]] Limb operator[](std::size_t i) const { return Data()[i]; }
   [[nodiscard]] std::span<const Limb> View() const { return {Data(), size_}; }
+  /// @}
 
-  /// Added limbs are 0.
+  /// Changes the number of limbs. Added limbs are 0.
   void Resize(std::size_t size) {
     if (size > capacity_) {
       const std::size_t capacity = std::max(size, 2 * capacity_);

@@ -1,9 +1,6 @@
 #include "qorvex/stats/exact/exact_sample.h"
 
 #include <algorithm>
-#include <array>
-#include <limits>
-#include <type_traits>
 #include <utility>
 
 #include "qorvex/base/errors.h"
@@ -128,15 +125,17 @@ void ExactSample<kPowerSums>::Merge(const ExactSample& other) {
 }
 
 template <int kPowerSums>
-void ExactSample<kPowerSums>::Count(std::uint64_t finite, std::optional<Extended> minimum,
-                                    std::optional<Extended> maximum) {
+void ExactSample<kPowerSums>::Count(std::uint64_t finite, const std::optional<Extended>& minimum,
+                                    const std::optional<Extended>& maximum) {
   if (finite == 0) return;
   if (finite_ == 0) {
     minimum_ = minimum;
     maximum_ = maximum;
   }
-  minimum_ = minimum_ && minimum ? std::optional(std::min(*minimum_, *minimum)) : std::nullopt;
-  maximum_ = maximum_ && maximum ? std::optional(std::max(*maximum_, *maximum)) : std::nullopt;
+  if (!minimum) minimum_.reset();
+  if (!maximum) maximum_.reset();
+  if (minimum_ && *minimum < *minimum_) *minimum_ = *minimum;
+  if (maximum_ && *maximum > *maximum_) *maximum_ = *maximum;
   finite_ += finite;
 }
 

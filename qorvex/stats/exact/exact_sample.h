@@ -170,8 +170,8 @@ class QORVEX_EXPORT ExactSample {
   template <class T>
   void AddIntegers(VectorView<T> values, int decimals);
   // Counts finite values and their extremes.
-  void Count(std::uint64_t finite, std::optional<Extended> minimum,
-             std::optional<Extended> maximum);
+  void Count(std::uint64_t finite, const std::optional<Extended>& minimum,
+             const std::optional<Extended>& maximum);
   [[nodiscard]] bool IsEqual(const ExactSample& other) const;
   // Changes the unit of the sums to 10^-decimals, which must not be a larger one.
   void Refine(int decimals);

@@ -31,13 +31,17 @@ constexpr std::uint64_t AddCarry(std::uint64_t a, std::uint64_t b, bool& carry) 
 
 }  // namespace
 
-void FixedPoint::Reserve(std::int32_t first, std::int32_t end) {
+inline void FixedPoint::Reserve(std::int32_t first, std::int32_t end) {
   const std::size_t size = words_.Size();
   if (size == 0) position_ = first;
   const std::int32_t old_end = position_ + static_cast<std::int32_t>(size);
   if (size > 0 && !HasRoom(words_[size - 1])) end = std::max(end, old_end + 1);
-  if (first >= position_ && end <= old_end) return;
+  if (first < position_ || end > old_end) Grow(first, end);
+}
 
+void FixedPoint::Grow(std::int32_t first, std::int32_t end) {
+  const std::size_t size = words_.Size();
+  const std::int32_t old_end = position_ + static_cast<std::int32_t>(size);
   const bool negative = IsNegative();
   const auto below = static_cast<std::size_t>(std::max(position_ - first, 0));
   const auto above = static_cast<std::size_t>(std::max(end - old_end, 0));
@@ -53,8 +57,9 @@ void FixedPoint::Reserve(std::int32_t first, std::int32_t end) {
 
 void FixedPoint::Add(std::span<const std::uint64_t> magnitude, std::int64_t exponent,
                      bool negative) {
-  while (!magnitude.empty() && magnitude.back() == 0)
+  while (!magnitude.empty() && magnitude.back() == 0) {
     magnitude = magnitude.first(magnitude.size() - 1);
+  }
   if (magnitude.empty()) return;
   const auto first = static_cast<std::int32_t>(exponent >> 6);
   const int shift = static_cast<int>(exponent & 63);
@@ -104,7 +109,10 @@ void FixedPoint::AddWords(const FixedPoint& other, bool negate) {
   for (std::size_t i = 0; i < count; ++i, ++to) {
     words_[to] = AddCarry(words_[to], other.words_[i] ^ flip, carry);
   }
-  for (; to < words_.Size(); ++to) words_[to] = AddCarry(words_[to], extension, carry);
+  const bool unchanged = extension != 0;  // by this carry
+  for (; to < words_.Size() && carry != unchanged; ++to) {
+    words_[to] = AddCarry(words_[to], extension, carry);
+  }
 }
 
 int FixedPoint::Sign() const {
@@ -146,7 +154,11 @@ FixedPoint FixedPoint::FromWords(const Words& words) {
   FixedPoint total;
   total.position_ = words.position;
   total.words_ = Limbs(words.words);
-  return total;
+  const Words shortest = total.ShortestWords();
+  FixedPoint result;
+  result.position_ = shortest.position;
+  result.words_ = Limbs(shortest.words);
+  return result;
 }
 
 bool operator==(const FixedPoint& a, const FixedPoint& b) {

@@ -67,6 +67,7 @@ class QORVEX_EXPORT FixedPoint {
   }
   // Extends the words to [first, end) at least, with a highest word that cannot overflow.
   void Reserve(std::int32_t first, std::int32_t end);
+  void Grow(std::int32_t first, std::int32_t end);
   void AddWords(const FixedPoint& other, bool negate);
 
   std::int32_t position_ = 0;

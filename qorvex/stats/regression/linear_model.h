@@ -35,8 +35,9 @@ class QORVEX_EXPORT CollinearityError : public EMathError {
 /// - Every call adds as many values of each predictor and of the response. Columns of different
 ///   element types and decimals can be mixed.
 /// - Powers of a polynomial are exact, so the fit is that for x itself.
-/// - A weight w counts its row w times: the sums are those of w x y, exactly. Rows of weight 0 do
-///   not count, whatever their values.
+/// - A weight multiplies the squared residual of its row, so that the variance of a response is
+///   inverse to it: the sums are those of w x y, exactly. Degrees of freedom count rows. Rows of
+///   weight 0 do not count, whatever their values.
 /// - Errors, in this order: EMathError rsSameDimensions for a wrong number of predictors or columns
 ///   of different lengths; rsInvalidWeight for a weight that is negative or not finite; EInvalidOp
 ///   for a value that is not finite. The model then keeps its state.

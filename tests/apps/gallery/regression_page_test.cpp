@@ -49,6 +49,8 @@ TEST_F(RegressionPageTest, ShowsTheFitsAndFollowsEdits) {
     return Find<PlotView>(plot).accessibleDescription();
   };
   const QString scatter = described("scatter"), residuals = described("residuals");
+  // The bands are wider than this.
+  EXPECT_TRUE(scatter.contains("y from 0.207 to 7.543"));
   EXPECT_TRUE(residuals.contains("Residual from -0.769 to 0.519"));
   Type("y", "16\r");
   EXPECT_EQ(Figure("coefficients", "Line, coefficient of x"), "-2.4");

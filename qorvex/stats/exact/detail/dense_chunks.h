@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -12,7 +11,7 @@ namespace qorvex::exact::detail {
 
 // A fixed-point sum over the whole range of exponents, for values that are scattered over it: one
 // signed word for every 32 bits, so that carries wait until 2^30 values have been added. Neal
-// (2015), "Fast exact summation using small and large superaccumulators", calls it the small one.
+// (2015), "Fast exact summation using small and large superaccumulators": the small one.
 template <std::size_t kFactors>
 class DenseChunks {
  public:

@@ -41,6 +41,11 @@ template <FloatElement T>
 class Extremes {
  public:
   void Add(std::span<const T> values) noexcept {
+    constexpr std::size_t kFew = 16;
+    if (values.size() <= kFew) {
+      for (const T& x : values) AddOne(x);
+      return;
+    }
     const auto [least, greatest] = KeyRangeOf(values);
     if (least <= OrderKey(-kInfinity) || greatest >= OrderKey(kInfinity)) {
       for (const T& x : values) AddOne(x);
