@@ -3,15 +3,17 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
+#include <string>
+#include <thread>
 
+#include "apps/common/column_numbers.h"
 #include "apps/common/hidden_figures.h"
+#include "apps/common/sample_figures.h"
 #include "apps/qorvex-gallery/plot/histogram.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/stats/distributions/normal.h"
-#include "qorvex/stats/exact/exact_sample.h"
-#include "qorvex/stats/inference/intervals.h"
 
 namespace qorvex::gallery {
 
@@ -50,20 +52,10 @@ PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_de
 }
 
 // Very long figures get an exponent.
-QString Readable(const QString& figure, const QLocale& locale) {
-  constexpr qsizetype kMostDigits = 32;
-  std::string text = figure.toStdString();
-  if (figure.size() > kMostDigits) text = Float2Str(Str2Float(text));
-  return QorvexBaseControls::detail::LocalNumber(text, locale);
-}
-
-QString IntervalText(const TQorDescStats& stats, const TQorFloatVector& values,
-                     const QLocale& locale) {
-  const Interval<Extended> mean = MeanInterval(values);
-  const auto end = [&](Extended figure) {
-    return Readable(QString::fromStdString(Float2EStr(figure, stats.DecimalPlaces())), locale);
-  };
-  return Text("%1 to %2").arg(end(mean.least), end(mean.greatest));
+QString Readable(const std::string& figure, const QLocale& locale) {
+  constexpr std::size_t kMostDigits = 32;
+  return QorvexBaseControls::detail::LocalNumber(
+      figure.size() > kMostDigits ? Float2Str(Str2Float(figure)) : figure, locale);
 }
 
 }  // namespace
@@ -77,29 +69,53 @@ TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
   return kept;
 }
 
-QList<QStringList> ReportTable(TQorDescStats& stats, const TQorFloatVector& values,
-                               const QLocale& locale) {
+ColumnFigures::ColumnFigures(const TQorFloatVector& values, bool population) : values_(values) {
+  if (values.empty()) return;
+  apps::ColumnNumbers numbers;
+  for (const Extended value : values) numbers.Append(value);
+  numbers.Sort();
+  const unsigned threads = std::thread::hardware_concurrency();
+  const apps::SampleFigures figures = apps::ExactFigures(
+      apps::ExactSumsOf<4>(numbers, threads), apps::OrderFiguresOf(numbers), numbers, population);
+  mean_ = figures.results.mean;
+  std_dev_ = figures.results.std_dev;
+  lines_ = figures.Lines(population);
+  if (values.size() > 1 && !population)
+    interval_ = MeanInterval(apps::ExactSumsOf<2>(numbers, threads));
+}
+
+QList<QStringList> ColumnFigures::ReportTable(int decimals, const QLocale& locale) const {
   QList<QStringList> figures;
-  for (const QString& line : stats.DescStats())
-    figures.append({line.section('\t', 0, 0), Readable(line.section('\t', 1), locale)});
-  if (values.size() > 1 && !stats.Population())
-    figures.append({Text("95 % Interval for the Mean:"), IntervalText(stats, values, locale)});
+  for (const ReportFigure& line : lines_) {
+    figures.append(
+        {QString::fromStdString(ReportText(line.label)), Readable(line.Text(decimals), locale)});
+  }
+  if (lines_.empty()) figures.append({QString::fromStdString(MessageText(rsVectorIsEmpty)), {}});
+  if (interval_) {
+    const auto end = [&](Extended figure) {
+      return Readable(Float2EStr(figure, decimals), locale);
+    };
+    figures.append({Text("95 % Interval for the Mean:"),
+                    Text("%1 to %2").arg(end(interval_->least), end(interval_->greatest))});
+  }
   const qsizetype rows = (figures.size() + 1) / 2;
   QList<QStringList> table(rows);
   for (qsizetype i = 0; i < figures.size(); ++i) table[i % rows].append(figures[i]);
   return table;
 }
 
-QString RemarkOn(const TQorDescStats& stats, std::size_t empty_cells, int most_decimals,
-                 const QLocale& locale) {
+QString ColumnFigures::Remark(std::size_t empty_cells, int decimals, int most_decimals,
+                              const QLocale& locale) const {
   const auto in_number = [&locale](std::size_t n, const char* one, const char* several) {
     return n == 1 ? Text(one) : Text(several).arg(locale.toString(n));
   };
   QStringList remarks;
   if (empty_cells > 0)
     remarks += in_number(empty_cells, "without 1 empty cell", "without %1 empty cells");
-  const apps::HiddenFigures hidden =
-      apps::HiddenBy(stats.Results(), stats.NoOfValues(), stats.DecimalPlaces());
+  std::vector<Extended> figures;
+  for (const ReportFigure& line : lines_)
+    if (apps::HasUnit(line) && std::isfinite(*line.value)) figures.push_back(*line.value);
+  const apps::HiddenFigures hidden = apps::HiddenAmong(figures, decimals);
   if (hidden.count > 0 && hidden.enough_decimals <= most_decimals) {
     remarks += in_number(hidden.count, "1 figure needs up to %1 decimals",
                          "%1 figures need up to %2 decimals")
@@ -111,15 +127,15 @@ QString RemarkOn(const TQorDescStats& stats, std::size_t empty_cells, int most_d
   return remarks.join(QStringLiteral("; "));
 }
 
-std::vector<PlotLayer> HistogramLayers(const TQorDescStats& stats, const TQorFloatVector& values) {
+std::vector<PlotLayer> ColumnFigures::HistogramLayers() const {
   std::vector<PlotLayer> layers;
-  const Histogram histogram = HistogramOf(values);
+  const Histogram histogram = HistogramOf(values_);
   if (histogram.total == 0) return layers;
   layers.push_back(Bars(histogram));
   try {
-    if (stats.StdDev() > 0) layers.push_back(NormalCurve(histogram, stats.Mean(), stats.StdDev()));
+    if (std_dev_ > 0) layers.push_back(NormalCurve(histogram, mean_, std_dev_));
   } catch (const EMathError&) {
-    // The squares of the values are beyond the range.
+    // The standard deviation or the density is beyond the range.
   }
   return layers;
 }

@@ -8,30 +8,42 @@
 #include <QString>
 #include <QStringList>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "apps/qorvex-gallery/plot/plot_layer.h"
-#include "qorvex/components/QorvexDescStats.h"
+#include "qorvex/base/vector_types.h"
+#include "qorvex/stats/descriptive_stats.h"
+#include "qorvex/stats/inference/intervals.h"
 
 namespace qorvex::gallery {
 
 /// The values that are not NaN, which stands for an empty cell.
 [[nodiscard]] TQorFloatVector WithoutNulls(const TQorFloatVector& values);
 
-/// The lines of a report, and the interval that contains the mean of a normal population with a
-/// probability of 95 %, as rows of two labels, each with its figure. The values are those of the
-/// statistics.
-[[nodiscard]] QList<QStringList> ReportTable(TQorDescStats& stats, const TQorFloatVector& values,
-                                             const QLocale& locale);
+/// The statistics of a column from exact sums, and its histogram.
+class ColumnFigures {
+ public:
+  /// The statistics of a sample or of a population. The values hold no NaN.
+  ColumnFigures(const TQorFloatVector& values, bool population);
 
-/// A remark on what the report does not show: the empty cells, and figures that need more decimals,
-/// of which there can be at most most_decimals.
-[[nodiscard]] QString RemarkOn(const TQorDescStats& stats, std::size_t empty_cells,
-                               int most_decimals, const QLocale& locale);
+  /// The lines of a report, and the interval that contains the mean of a normal population with a
+  /// probability of 95 %, as rows of two labels, each with its figure.
+  [[nodiscard]] QList<QStringList> ReportTable(int decimals, const QLocale& locale) const;
+  /// A remark on what the report does not show: the empty cells, and figures that need more
+  /// decimals, of which there can be at most most_decimals.
+  [[nodiscard]] QString Remark(std::size_t empty_cells, int decimals, int most_decimals,
+                               const QLocale& locale) const;
+  /// The histogram of the values, and the normal density with their mean and standard deviation,
+  /// unless all values are equal or the density is beyond the range.
+  [[nodiscard]] std::vector<PlotLayer> HistogramLayers() const;
 
-/// The histogram of the values, and the normal density with the mean and standard deviation of the
-/// statistics, if these are finite and the latter is not 0.
-[[nodiscard]] std::vector<PlotLayer> HistogramLayers(const TQorDescStats& stats,
-                                                     const TQorFloatVector& values);
+ private:
+  TQorFloatVector values_;
+  Extended mean_ = 0;
+  Extended std_dev_ = 0;
+  std::vector<ReportFigure> lines_;
+  std::optional<Interval<Extended>> interval_;
+};
 
 }  // namespace qorvex::gallery

@@ -25,7 +25,7 @@ ColumnReport::ColumnReport(QWidget* parent)
   figures_->setObjectName("report");
   decimals_->setObjectName("decimals");
   decimals_->setRange(0, 40);
-  decimals_->setValue(stats_.DecimalPlaces());
+  decimals_->setValue(4);
   population_->setObjectName("population");
   remark_->setObjectName("remark");
   // A long remark does not widen the page.
@@ -58,14 +58,12 @@ ColumnReport::~ColumnReport() = default;
 
 void ColumnReport::Show(const TQorFloatVector& values, std::size_t empty_cells,
                         const QString& title) {
-  stats_.setDecimalPlaces(decimals_->value());
-  stats_.setPopulation(population_->isChecked());
-  stats_.setValues(values);
-  figures_->SetRows(ReportTable(stats_, values, locale()));
-  remark_->setText(RemarkOn(stats_, empty_cells, decimals_->maximum(), locale()));
+  const ColumnFigures figures(values, population_->isChecked());
+  figures_->SetRows(figures.ReportTable(decimals_->value(), locale()));
+  remark_->setText(figures.Remark(empty_cells, decimals_->value(), decimals_->maximum(), locale()));
   remark_->setToolTip(ToolTipOf(remark_->text()));
   plot_->SetAxisTitles(title, tr("Density"));
-  plot_->SetLayers(HistogramLayers(stats_, values));
+  plot_->SetLayers(figures.HistogramLayers());
 }
 
 }  // namespace qorvex::gallery

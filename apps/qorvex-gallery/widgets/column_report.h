@@ -5,7 +5,7 @@
 
 #include <QWidget>
 
-#include "qorvex/components/QorvexDescStats.h"
+#include "qorvex/base/vector_types.h"
 
 class QCheckBox;
 class QLabel;
@@ -34,7 +34,6 @@ class ColumnReport : public QWidget {
   void OptionsChanged();
 
  private:
-  TQorDescStats stats_;
   QSpinBox* decimals_;
   QCheckBox* population_;
   FigureTable* figures_;

@@ -109,6 +109,24 @@ TEST_F(DataPageTest, StartsWithTheExampleAndFollowsEdits) {
   EXPECT_EQ(Mean(), "3.0");
 }
 
+TEST_F(DataPageTest, ComputesFromExactSums) {
+  Open("cancel.csv", "1e25\n1\n-1e25\n");
+  EXPECT_EQ(Mean(), "0.3333");
+  // A thousand values of 0.1 have no spread, and no normal density beside their bar.
+  Open("equal.csv", QByteArray("0.1\n").repeated(1000));
+  Find<QSpinBox>("decimals").setValue(22);
+  QApplication::processEvents();
+  EXPECT_EQ(Figure("report", "Standard Deviation:"), "0.0000000000000000000000");
+  EXPECT_EQ(Remark(), "");
+  EXPECT_FALSE(Picture().contains("Normal density")) << Picture().toStdString();
+  // The density and the variance are beyond the range.
+  Open("tiny.csv", "1e-4940\n3e-4940\n");
+  EXPECT_FALSE(Picture().contains("Normal density")) << Picture().toStdString();
+  Open("huge.csv", "8e4931\n-8e4931\n0\n");
+  EXPECT_EQ(Figure("report", "Standard Deviation:"), "8e+4931");
+  EXPECT_EQ(Remark(), "");
+}
+
 TEST_F(DataPageTest, KeepsTheEditsOfEveryColumn) {
   Open("two.csv", "name;a;b\n\"x, y\";1.50;2\nz;3.50;\n");
   Type("values", "10\r");
