@@ -104,6 +104,10 @@ void MainWindow::ShowAbout() {
           .arg(QStringLiteral(QORVEX_VERSION), QString::fromLatin1(qVersion())));
 }
 
+const QString& MainWindow::ReadingError() const {
+  return data_->ReadingError();
+}
+
 void MainWindow::Open(const QString& path) {
   pages_->setCurrentWidget(data_);
   data_->Open(path);

@@ -23,6 +23,8 @@ class MainWindow : public QMainWindow {
 
   /// Opens a file on the page of data.
   void Open(const QString& path);
+  /// Why the last file could not be read; empty if it could.
+  [[nodiscard]] const QString& ReadingError() const;
 
   /// The pages. The object name of a page is the name of its picture.
   [[nodiscard]] QTabWidget* Pages() const { return pages_; }

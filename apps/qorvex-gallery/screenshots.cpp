@@ -37,6 +37,11 @@ bool WriteScreenshots(MainWindow& window, const QString& directory) {
   // The layout is that of a window that is shown.
   window.setAttribute(Qt::WA_DontShowOnScreen);
   window.show();
+  WaitUntilIdle(window);
+  if (!window.ReadingError().isEmpty()) {
+    std::fprintf(stderr, "qorvex-gallery: %s\n", qPrintable(window.ReadingError()));
+    return false;
+  }
   for (int i = 0; i < pages.count(); ++i) {
     pages.setCurrentIndex(i);
     WaitUntilIdle(window);

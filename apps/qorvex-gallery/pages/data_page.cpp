@@ -144,10 +144,14 @@ void DataPage::OpenExample() {
 
 void DataPage::OpenSource(const Source& source) {
   if (!MayGo()) return;
+  reading_error_.clear();
   loader_->Load(
       source.file, source.title,
       [this, source](DataTable table) { ShowTable(source, std::move(table)); },
-      [this](const QString& why) { message_->SetText(why); });
+      [this](const QString& why) {
+        reading_error_ = why;
+        message_->SetText(why);
+      });
 }
 
 void DataPage::ShowTable(const Source& source, DataTable table) {

@@ -34,6 +34,8 @@ class DataPage : public QWidget {
 
   /// The name of the file, or a description of the example.
   [[nodiscard]] const QString& Title() const { return title_; }
+  /// Why the last file could not be read; empty if it could.
+  [[nodiscard]] const QString& ReadingError() const { return reading_error_; }
   /// Whether there are unsaved changes.
   [[nodiscard]] bool IsChanged() const { return table_.IsChanged(); }
   /// Whether the table may be replaced or closed. If there are unsaved changes, asks the user, who
@@ -83,6 +85,7 @@ class DataPage : public QWidget {
   DataTable table_;
   QString path_;
   QString title_;
+  QString reading_error_;
   std::size_t column_ = 0;
   // The numbers of the column as they are in the table.
   TQorFloatVector stored_;

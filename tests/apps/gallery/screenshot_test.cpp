@@ -37,11 +37,15 @@ TEST(Gallery, WritesAPictureOfEveryPage) {
   }
   EXPECT_EQ(outcome.output, files);
 
-  const Outcome refused = RunGallery({"--screenshot", "/dev/null/pictures"});
-  EXPECT_EQ(refused.status, 1);
-  EXPECT_EQ(refused.output, "");
-  EXPECT_TRUE(refused.errors.contains("cannot create the directory /dev/null/pictures\n"))
-      << refused.errors.toStdString();
+  const std::pair<QStringList, const char*> refused[] = {
+      {{"--screenshot", "/dev/null/pictures"}, "cannot create the directory /dev/null/pictures\n"},
+      {{"--screenshot", folder, "missing.csv"}, "qorvex-gallery: missing.csv: "}};
+  for (const auto& [options, message] : refused) {
+    const Outcome failed = RunGallery(options);
+    EXPECT_EQ(failed.status, 1) << message;
+    EXPECT_EQ(failed.output, "") << message;
+    EXPECT_TRUE(failed.errors.contains(message)) << failed.errors.toStdString();
+  }
 }
 
 TEST(Gallery, PrintsItsVersionWithoutADisplay) {
