@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/widgets/tall_editor.h"
 
 #include <QEvent>
+#include <QScrollBar>
 #include <algorithm>
 #include <cmath>
 
@@ -57,6 +58,7 @@ void TallEditor::Fit() {
   const qint64 room = (height() - HeightOf(0)) / editor_->CellHeight();
   const qint64 cells = std::min(room, qint64{editor_->NoOfRows()});
   editor_->setNoOfEdits(static_cast<int>(std::max(qint64{1}, cells)));
+  editor_->findChild<QScrollBar*>()->setVisible(cells < qint64{editor_->NoOfRows()});
   editor_->resize(editor_->sizeHint());
 }
 

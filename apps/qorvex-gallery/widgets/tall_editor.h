@@ -10,7 +10,7 @@
 namespace qorvex::gallery {
 
 /// Contains an editor and has its width. The editor gets as many cells as fit into the height, but
-/// not more than the vector has elements.
+/// not more than the vector has elements; if all elements have one, there is no scroll bar.
 class TallEditor : public QWidget {
  public:
   /// Takes ownership of the editor.

@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/pages/regression_page.h"
 
+#include <QScrollBar>
 #include <QSpinBox>
 #include <tuple>
 
@@ -56,6 +57,13 @@ TEST_F(RegressionPageTest, ShowsTheFitsAndFollowsEdits) {
   EXPECT_EQ(Figure("coefficients", "Line, coefficient of x"), "-2.4");
   EXPECT_NE(described("scatter"), scatter);
   EXPECT_NE(described("residuals"), residuals);
+}
+
+TEST_F(RegressionPageTest, HasScrollBarsOnlyIfPairsAreOutOfSight) {
+  const auto& bar = *Find<TQorVectorEdit>("x").findChild<QScrollBar*>();
+  EXPECT_FALSE(bar.isVisible());
+  Find<QSpinBox>("rows").setValue(100);
+  EXPECT_TRUE(bar.isVisible());
 }
 
 TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
