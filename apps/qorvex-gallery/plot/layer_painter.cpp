@@ -84,7 +84,10 @@ void LayerPainter::DrawBars(const PlotLayer& layer) {
 }
 
 void LayerPainter::DrawDot(const QPointF& at, PlotRole role, double radius) {
-  painter_.setPen(Qt::NoPen);
+  // An outline separates a dot from what is behind it. There are too many small dots for that.
+  const bool outlined = radius >= kDotRadius;
+  painter_.setPen(outlined ? QPen(palette_.color(QPalette::Base), 1) : QPen(Qt::NoPen));
+  if (outlined) radius += 0.5;
   QColor color = RoleColor(role, palette_);
   color.setAlpha(225);
   painter_.setBrush(color);
