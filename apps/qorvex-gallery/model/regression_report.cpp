@@ -174,7 +174,7 @@ std::vector<PlotLayer> RegressionReport::Residuals() const {
 
 QList<QStringList> RegressionReport::CoefficientRows() const {
   QList<QStringList> rows = {{QString(), Text("Estimate"), Text("Standard error"),
-                              Text("95 % interval from"), Text("to"), Text("p")}};
+                              Text("Lower 95 %"), Text("Upper 95 %"), Text("p")}};
   const QString names[] = {Text("constant"), Text("coefficient of x"), Text("coefficient of x²")};
   const auto add = [&](const Curve& curve, std::size_t coefficients) {
     for (std::size_t i = 0; i < coefficients; ++i) {

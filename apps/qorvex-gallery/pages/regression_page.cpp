@@ -182,6 +182,7 @@ void RegressionPage::Refresh() {
   residuals_->SetLayers(report.Residuals());
   coefficients_->SetRows(report.CoefficientRows());
   quality_->SetRows(report.QualityRows());
+  FigureTable::Align(*coefficients_, *quality_);
 }
 
 QString RegressionPage::RemarkOn(std::size_t left_out) const {

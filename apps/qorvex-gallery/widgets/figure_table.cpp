@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QLabel>
+#include <algorithm>
 #include <utility>
 
 namespace qorvex::gallery {
@@ -39,6 +40,21 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
       }
     }
   }
+}
+
+void FigureTable::Align(FigureTable& one, FigureTable& other) {
+  for (const int column : {0, 1}) {
+    const int width = std::max(one.WidthOf(column), other.WidthOf(column));
+    one.grid_->setColumnMinimumWidth(column, width);
+    other.grid_->setColumnMinimumWidth(column, width);
+  }
+}
+
+int FigureTable::WidthOf(int column) const {
+  int width = 0;
+  for (const std::vector<QLabel*>& row : cells_)
+    width = std::max(width, row[static_cast<std::size_t>(column)]->sizeHint().width());
+  return width;
 }
 
 QLabel* FigureTable::AddCell(int row, int column) {

@@ -27,8 +27,11 @@ class FigureTable : public QWidget {
   /// Shows these rows, with one text per column; missing cells are empty. The table never shrinks,
   /// so that widgets below it do not move.
   void SetRows(const QList<QStringList>& rows);
+  /// Makes the first two columns of two tables line up.
+  static void Align(FigureTable& one, FigureTable& other);
 
  private:
+  [[nodiscard]] int WidthOf(int column) const;
   QLabel* AddCell(int row, int column);
 
   std::vector<Column> columns_;
