@@ -28,10 +28,12 @@ struct Accuracy {
   Extended statistic = 0;
   Extended p = 1e-18L;
   Extended absolute_statistic = 0;
+  Extended absolute_log_p = 0;
 };
-const std::map<std::string, Accuracy> kAccuracies = {{"ks-uniform", {0, 5e-18L, 2e-19L}},
-                                                     {"ks-two", {0, 5e-18L}},
-                                                     {"shapiro-wilk", {2e-19L, 1e-17L}}};
+const std::map<std::string, Accuracy> kAccuracies = {
+    {"variance", {0, 1e-18L, 0, 2e-19L}}, {"variance-ratio", {0, 1e-18L, 0, 2e-19L}},
+    {"binomial", {0, 1e-18L, 0, 2e-19L}}, {"ks-uniform", {0, 5e-18L, 2e-19L, 1e-18L}},
+    {"ks-two", {0, 5e-18L, 0, 2e-19L}},   {"shapiro-wilk", {2e-19L, 1e-17L, 0, 2e-17L}}};
 
 // Expects two figures that are both missing, or agree to an accuracy.
 void ExpectFigure(Extended figure, const std::string& expected, Extended relative, const char* name,
@@ -76,8 +78,8 @@ TEST(Tests, AgreeWithSixtyDigitsHoweverSmallTheirP) {
         const Extended p = table.Value(row, "p");
         if (p == 0 || p >= std::numeric_limits<Extended>::min())
           ExpectFigure(result.p, table.Text(row, "p"), accuracy.p, "p");
-        // The logarithm of a p near 1 is what p leaves of it.
-        if (p < 0.9L) ExpectFigure(result.log_p, table.Text(row, "log_p"), accuracy.p, "log_p");
+        ExpectFigure(result.log_p, table.Text(row, "log_p"), accuracy.p, "log_p",
+                     accuracy.absolute_log_p);
         EXPECT_EQ(result.form, kForms.at(table.Text(row, "form")));
       });
   EXPECT_EQ(tested.size(), testing::TestRoutines().size());
@@ -153,6 +155,7 @@ TEST(Tests, RefuseWhatTheyCannotJudge) {
     EXPECT_MATH_ERROR(IndependenceTest(counts, ContinuityCorrection::kYates), message);
   EXPECT_MATH_ERROR(BinomialTest(3, 2), rsBinomDistInvalid);
   EXPECT_MATH_ERROR(BinomialTest(1, 2, 1.5L), rsBinomDistInvalid);
+  EXPECT_MATH_ERROR(BinomialTest(1, 1ULL << 32), rsBinomDistInvalid);
   EXPECT_MATH_ERROR(KolmogorovSmirnovTest(Values(), UniformDistribution()), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(KolmogorovSmirnovTest(kData, Values()), rsVectorIsEmpty);
   EXPECT_MATH_ERROR(ShapiroWilkTest({1, 1}), rsVectorG2);
@@ -181,6 +184,9 @@ TEST(Tests, PassOnWhatIsNotANumber) {
     for (const TestResult& result : results)
       EXPECT_TRUE(std::isnan(result.statistic) && std::isnan(result.p) && std::isnan(result.log_p));
   }
+  // Not even where one is subtracted from another.
+  EXPECT_TRUE(std::isnan(PairedTTest({kInfinity, 1, 2}, {1, kInfinity, 3}).p));
+  EXPECT_TRUE(std::isnan(PairedTTest({kNaN, 1, 2}, {1, kNaN, 3}).p));
   const Values values{1, kNaN, 3};
   for (const TestResult& result :
        {VarianceTest(kData, kNaN), GoodnessOfFitTest({1, 2}, {kNaN, 1}), BinomialTest(1, 2, kNaN),
@@ -242,6 +248,7 @@ TEST(Intervals, RefuseAndPassOn) {
   EXPECT_MATH_ERROR(PooledDifferenceInterval(kData, kOne), rsVectorG1);
   EXPECT_MATH_ERROR(WelchDifferenceInterval(kOne, kData), rsVectorG1);
   EXPECT_MATH_ERROR(ClopperPearsonInterval(0, 0), rsBinomDistInvalid);
+  EXPECT_MATH_ERROR(ClopperPearsonInterval(1, 1ULL << 32), rsBinomDistInvalid);
   EXPECT_MATH_ERROR(WilsonInterval(3, 2), rsBinomDistInvalid);
   EXPECT_MATH_ERROR(CorrelationInterval(2, 3), rsVectorG3);
   EXPECT_MATH_ERROR(CorrelationInterval(-1.5L, 4), rsInvalidValue);
