@@ -221,6 +221,15 @@ TEST(Tests, TakeEveryElementAndEveryKindOfSample) {
   scaled.AddScaled({60}, 2);
   EXPECT_EQ(OneSampleTTest(amounts).statistic, std::sqrt(27 / 7.0L));
   EXPECT_EQ(OneSampleTTest(scaled).p, OneSampleTTest(amounts).p);
+  EXPECT_EQ(ShapiroWilkTest(amounts).p, ShapiroWilkTest({1, 2, 6}).p);
+  // 0.3 - 0.1 is 0.2, and 0.2 - 0.1 is 0.1, which no binary numbers are.
+  const TQorCurrencyVector others{Currency(2000), Currency(1000), Currency(3000)};
+  const Currency tenth(1000);
+  EXPECT_EQ(PairedTTest(amounts, others, tenth).p, PairedTTest({1, 2, 6}, {2, 1, 3}, 1).p);
+  EXPECT_EQ(MannWhitneyTest(amounts, others, tenth).statistic, 3.5L);
+  EXPECT_EQ(WilcoxonSignedRankTest(others, tenth).statistic, 3);
+  EXPECT_EQ(WilcoxonSignedRankTest(amounts, others, tenth).statistic, 1.5L);
+  EXPECT_EQ(KolmogorovSmirnovTest(amounts, others).statistic, 1 / 3.0L);
 }
 
 TEST(Tests, AcceptTheseElements) {
@@ -232,11 +241,15 @@ TEST(Tests, AcceptTheseElements) {
                TYPES_READ_BY(PooledDifferenceInterval(v, kData)),
                TYPES_READ_BY(WelchDifferenceInterval(v, kData))});
   ExpectTypes("gdfjuiwsbt",
-              {TYPES_READ_BY(PairedTTest(v, kData)), TYPES_READ_BY(ShapiroWilkTest(v)),
-               TYPES_READ_BY(MannWhitneyTest(v, kData)), TYPES_READ_BY(WilcoxonSignedRankTest(v)),
+              {TYPES_READ_BY(PairedTTest(v, kData)), TYPES_READ_BY(MannWhitneyTest(v, kData)),
                TYPES_READ_BY(WilcoxonSignedRankTest(kData, v)),
                TYPES_READ_BY(KolmogorovSmirnovTest(v, kData)),
                TYPES_READ_BY(KolmogorovSmirnovTest(v, UniformDistribution()))});
+  ExpectTypes(
+      "gdfjuiwsbtCSL",
+      {TYPES_READ_BY(PairedTTest(v, v)), TYPES_READ_BY(MannWhitneyTest(v, v)),
+       TYPES_READ_BY(WilcoxonSignedRankTest(v)), TYPES_READ_BY(WilcoxonSignedRankTest(v, v)),
+       TYPES_READ_BY(KolmogorovSmirnovTest(v, v)), TYPES_READ_BY(ShapiroWilkTest(v))});
   ExpectTypes("juiwsbt",
               {TYPES_READ_BY(GoodnessOfFitTest(v)), TYPES_READ_BY(GoodnessOfFitTest(v, kData))});
 }
