@@ -16,8 +16,8 @@ namespace {
 // The largest sample with an exact p.
 constexpr std::size_t kLargestExact = 1000;
 
-// P(D >= d) for n (1 - d) < 1: the probability that all values lie in the tail of 1 - d which holds
-// the given ones, or for kTwoSided in that or the opposite one.
+// P(D >= d) for n (1 - d) < 1. Then all values lie in one tail of probability 1 - d; for kTwoSided
+// that counts on either side.
 Scaled AllInOneTail(const std::vector<Tails>& tails, Alternative alternative) {
   const Scaled above = tails.back().ScaledProbability(Tail::kLower);
   const Scaled below = tails.front().ScaledProbability(Tail::kUpper);

@@ -19,7 +19,7 @@ bool IsModerate(ExtendedPair x) {
   return std::fabs(x.hi) > 1e-20L && std::fabs(x.hi) < 1e4000L;
 }
 
-// Whether two-sided p exceeds 1/2. Its logarithm then comes from what it leaves of 1, the lower
+// Whether two-sided p is sure to exceed 1/2. Its logarithm then comes from what it leaves of 1, the lower
 // tail of the squared statistic.
 bool IsCentral(ExtendedPair x, Alternative alternative) {
   return alternative == Alternative::kTwoSided && std::fabs(x.hi) < 0.6L;
