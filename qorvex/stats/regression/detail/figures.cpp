@@ -6,7 +6,7 @@
 #include "qorvex/stats/inference/detail/exact_numbers.h"
 #include "qorvex/stats/inference/detail/exact_tails.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::Rational;
 
@@ -64,4 +64,4 @@ AnovaTest TestOf(const Rational& sum_of_squares, std::size_t degrees_of_freedom,
   return test;
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression
