@@ -63,14 +63,7 @@ TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
   const Column zero(6);
   const Column sign{1, -1, 1, 1, -1, -1};
   const auto origin = Intercept::kOmitted;
-  struct Case {
-    LinearModel model;
-    Columns predictors;
-    std::size_t dependent;
-    MessageId id;
-    const char* text;
-  };
-  std::vector<Case> cases{
+  std::vector<std::tuple<LinearModel, Columns, std::size_t, MessageId, std::string>> cases{
       {LinearModel(1), seven, 0, rsCollinear, "Predictor 1 depends"},
       {LinearModel(3), {a, a, b}, 1, rsCollinear, "Predictor 2 depends"},
       {LinearModel(3), {a, b, sum}, 2, rsCollinear, "on the intercept and the predictors b"},
@@ -78,15 +71,15 @@ TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
       {LinearModel(1, origin), zero, 0, rsCollinearOrigin, "Predictor 1 depends"},
       {LinearModel::Polynomial(2), sign, 1, rsCollinearPower, "x^2 depends"},
       {LinearModel::Polynomial(2, origin), seven, 1, rsCollinearPower, "x^2 depends"}};
-  for (Case& c : cases) {
-    c.model.Add(c.predictors, y);
+  for (auto& [dependent, predictors, index, id, text] : cases) {
+    dependent.Add(predictors, y);
     try {
-      static_cast<void>(c.model.Fit());
+      static_cast<void>(dependent.Fit());
       ADD_FAILURE() << "fits";
     } catch (const CollinearityError& error) {
-      EXPECT_EQ(error.Predictor(), c.dependent);
-      EXPECT_EQ(error.message_id(), c.id);
-      EXPECT_NE(std::string(error.what()).find(c.text), std::string::npos) << error.what();
+      EXPECT_EQ(error.Predictor(), index);
+      EXPECT_EQ(error.message_id(), id);
+      EXPECT_NE(std::string(error.what()).find(text), std::string::npos) << error.what();
     }
   }
   LinearModel model(3);
@@ -183,56 +176,44 @@ TEST(LinearModel, MixesDecimalsOfAnyNumber) {
   }
 }
 
-// Columns of whole numbers that are nearly multiples of each other. The rows come in pairs that
-// differ in errors of 1 and -1 only, so the coefficients are known.
+// Columns of whole numbers that are nearly multiples of each other. Each row is there once for each
+// error that is added to its response; these sum to 0, so the coefficients are known.
 TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {
   constexpr std::size_t kPredictors = 14;
   testing::Engine engine(3);
   for (const int closeness : {0, 20, 50}) {
-    std::vector<Column> columns(kPredictors);
-    Column y;
-    for (std::size_t i = 0; i < 60; ++i) {
+    std::vector<Column> columns(kPredictors, Column(30));
+    Column y(30, 5);
+    for (std::size_t i = 0; i < 30; ++i) {
       const auto common = std::ldexp(static_cast<Extended>(engine() % 32), closeness);
-      Extended value = 5;
       for (std::size_t k = 0; k < kPredictors; ++k) {
-        const Extended x = common + static_cast<Extended>(engine() % 64);
-        columns[k].insert(columns[k].end(), {x, x});
-        value += static_cast<Extended>(k % 4) * x;
+        columns[k][i] = common + static_cast<Extended>(engine() % 64);
+        y[i] += static_cast<Extended>(k % 4) * columns[k][i];
       }
-      y.insert(y.end(), {value - 1, value + 1});
     }
-    const auto fit_of = [&] {
+    const auto fit_of = [&](std::size_t rows, std::initializer_list<Extended> errors) {
+      std::vector<ColumnView> views;
+      for (const Column& column : columns) views.emplace_back(std::span(column).first(rows));
       LinearModel model(kPredictors);
-      model.Add(columns, y);
+      for (const Extended error : errors) {
+        Column noisy(rows);
+        for (std::size_t i = 0; i < rows; ++i) noisy[i] = y[i] + error;
+        model.Add(views, noisy);
+      }
       return model.Fit();
     };
-    const auto expect_known = [](const LinearFit& fit, Extended residual) {
+    EXPECT_GE(fit_of(30, {1, -1}).ConditionBits(), 2 * closeness);
+    // With errors, a perfect fit, and as many rows as coefficients. Every fourth predictor has no
+    // effect.
+    for (const LinearFit& fit : {fit_of(30, {1, -1}), fit_of(30, {0}), fit_of(15, {0})}) {
       EXPECT_GT(fit.Precision(), 90U);
-      EXPECT_EQ(fit.ResidualSumOfSquares(), residual);
+      EXPECT_EQ(fit.ResidualSumOfSquares(), fit.Count() == 60 ? 60 : 0);
       EXPECT_EQ(fit.Values()[0], 5);
       for (std::size_t k = 0; k < kPredictors; ++k) EXPECT_EQ(fit.Values()[k + 1], k % 4);
-    };
-    expect_known(fit_of(), 120);
-    EXPECT_GE(fit_of().ConditionBits(), 2 * closeness);
-
-    // What no number of bits can tell: a perfect fit, a predictor without effect, as many rows as
-    // coefficients, and exact collinearity.
-    for (std::size_t i = 0; i < y.size(); ++i) y[i] += i % 2 == 0 ? 1 : -1;
-    expect_known(fit_of(), 0);
-    EXPECT_EQ(fit_of().Anova().regression.f, kInfinity);
-    std::vector<Column> all = columns;
-    all.push_back(y);
-    for (Column& column : all) {
-      for (std::size_t i = 0; i <= kPredictors; ++i) column[i] = column[2 * i];
-      column.resize(kPredictors + 1);
     }
-    y = all.back();
-    all.pop_back();
-    columns = all;
-    expect_known(fit_of(), 0);
-    EXPECT_EQ(fit_of().DegreesOfFreedom(), 0U);
+    EXPECT_EQ(fit_of(30, {0}).Anova().regression.f, kInfinity);
     columns.back() = columns.front();
-    EXPECT_THROW(fit_of(), CollinearityError);
+    EXPECT_THROW(fit_of(30, {0}), CollinearityError);
   }
 }
 

@@ -40,6 +40,10 @@ class RFigures : public ::testing::Test {
         weights.Size() == 0 ? fit.Leverages(predictors) : fit.Leverages(predictors, weights[0]);
     ours["leverage"].assign(leverages.begin(), leverages.end());
 
+    ExpectEqual(model, ours);
+  }
+
+  void ExpectEqual(const std::string& model, std::map<std::string, std::vector<Extended>> ours) {
     std::size_t judged = 0;
     for (std::size_t row = 0; row < table_.size(); ++row) {
       if (table_.Text(row, "case") != model) continue;
@@ -79,6 +83,15 @@ TEST_F(RFigures, OfPlanesAndAParabola) {
   LinearModel parabola = LinearModel::Polynomial(2);
   parabola.Add(kLight, kHeight);
   ExpectEqual("parabola", parabola.Fit(), kLight, {}, {6}, 0.95L);
+}
+
+TEST_F(RFigures, OfGroupsOfDifferentSizes) {
+  const OneWayAnovaTable table = OneWayAnova(
+      {{6.9L, 5.4L, 5.8L, 4.6L, 4.0L}, {8.3L, 6.8L, 7.8L, 9.2L, 6.5L, 7.1L, 8.8L}, {8.0L, 10.5L}});
+  ExpectEqual("groups", {{"ss", {table.between.sum_of_squares, table.within.sum_of_squares}},
+                         {"ms", {table.between.mean_square, table.within.mean_square}},
+                         {"f", {table.between.f}},
+                         {"p", {table.between.p}}});
 }
 
 }  // namespace qorvex
