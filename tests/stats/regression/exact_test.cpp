@@ -1,5 +1,7 @@
 // Random models against solutions in rational numbers.
 
+#include <numeric>
+
 #include "qorvex/stats/regression/linear_model.h"
 #include "qorvex/stats/regression/pair_fit.h"
 #include "stats/exact/nearest.h"
@@ -17,9 +19,7 @@ Extended Nearest(const Rational& exact, bool root = false) {
 }
 
 Rational Dot(const Row& a, const Row& b) {
-  Rational sum;
-  for (std::size_t i = 0; i < a.size(); ++i) sum += a[i] * b[i];
-  return sum;
+  return std::inner_product(a.begin(), a.end(), b.begin(), Rational());
 }
 
 // By Gauss-Jordan elimination.
@@ -115,7 +115,7 @@ void ExpectExactFit(const Problem& problem, const LinearFit& fit) {
   const std::size_t p = problem.design[0].size();
   std::vector<Row> gram(p, Row(p));
   Row moments(p);
-  Rational sum_of_weights, sum, total;
+  Rational total;
   for (std::size_t i = 0; i < n; ++i) {
     const Rational& w = problem.weights[i];
     const Rational& y = problem.response[i];
@@ -124,12 +124,10 @@ void ExpectExactFit(const Problem& problem, const LinearFit& fit) {
       for (std::size_t k = 0; k < p; ++k) gram[j][k] += w * x[j] * x[k];
       moments[j] += w * x[j] * y;
     }
-    sum_of_weights += w;
-    sum += w * y;
     total += w * y * y;
   }
   const std::size_t constants = problem.intercept == Intercept::kIncluded ? 1 : 0;
-  if (constants == 1) total -= sum * sum / sum_of_weights;
+  if (constants == 1) total -= moments[0] * moments[0] / gram[0][0];
   const std::vector<Row> inverse = Inverse(gram);
   Row b;
   for (const Row& row : inverse) b.push_back(Dot(row, moments));
