@@ -98,7 +98,7 @@ class WindowedSum {
   template <class Values>
   [[gnu::noinline]] bool AddOutlier(const Values& values, std::size_t i, SpecialCounts& special) {
     if (!values.IsFinite(i)) {
-      special.Add(values.Value(i));
+      special.Add(values.Kind(i));
       return true;
     }
     const auto x = values(i);
@@ -113,7 +113,7 @@ class WindowedSum {
     lanes_.ForEach([&](auto& lane) { lane.PrepareForScattered(end - begin); });
     for (std::size_t i = begin; i < end; ++i) {
       if (!values.IsFinite(i)) [[unlikely]] {
-        special.Add(values.Value(i));
+        special.Add(values.Kind(i));
         continue;
       }
       const auto x = values(i);
