@@ -113,7 +113,8 @@ std::string ClassicOutput(const FitColumns& columns, const FitArguments& argumen
   line(ReportText(rsDSNoOfValues), Int2EStr(columns.y.numbers.size()));
   add(fit.columns);
   line(arguments.degree == 1 ? ReportText(rsDSRegressionLine) : arguments.curve->label,
-       Formula({"Constant", "x", "x^2"}, fit.coefficients, arguments.decimals));
+       Formula({"Constant", "x", "x^2"}, fit.coefficients, Intercept::kIncluded,
+               arguments.decimals));
   add(fit.quality);
   return text;
 }

@@ -10,9 +10,11 @@
 
 namespace qorvex::apps {
 
-/// "a + b x - c x^2". The terms are the names of the coefficients.
+/// "a + b x - c x^2". The terms are the names of the coefficients, the first of which may be a
+/// constant.
 [[nodiscard]] std::string Formula(const std::vector<std::string>& terms,
-                                  const TQorFloatVector& coefficients, std::optional<int> decimals);
+                                  const TQorFloatVector& coefficients, Intercept intercept,
+                                  std::optional<int> decimals);
 
 /// Lines of figures, then tables of coefficients, of predictions and of the analysis of variance.
 [[nodiscard]] std::string TextOf(const FitColumns& columns, const FittedModel& model,

@@ -48,7 +48,7 @@ class FitText {
     }
     const bool is_line = arguments_.curve->IsPolynomial() && arguments_.degree == 1;
     Line({is_line ? ReportText(rsDSRegressionLine) : arguments_.curve->label,
-          Formula(model_.terms, fit_.Values(), arguments_.decimals)});
+          Formula(model_.terms, fit_.Values(), arguments_.HasIntercept(), arguments_.decimals)});
     Line({ReportText(rsDSSSE), Number(fit_.ResidualSumOfSquares())});
     if (model_.pairs) {
       constexpr Extended none = std::numeric_limits<Extended>::quiet_NaN();
@@ -117,7 +117,7 @@ class FitText {
 }  // namespace
 
 std::string Formula(const std::vector<std::string>& terms, const TQorFloatVector& coefficients,
-                    std::optional<int> decimals) {
+                    Intercept intercept, std::optional<int> decimals) {
   std::string text;
   for (std::size_t i = 0; i < terms.size(); ++i) {
     const Extended coefficient = coefficients[i];
@@ -127,7 +127,8 @@ std::string Formula(const std::vector<std::string>& terms, const TQorFloatVector
       text += std::signbit(coefficient) ? " - " : " + ";
       text += FigureText(std::fabs(coefficient), decimals);
     }
-    if (terms[i] != "Constant") text += ' ' + terms[i];
+    const bool is_constant = i == 0 && intercept == Intercept::kIncluded;
+    if (!is_constant) text += ' ' + terms[i];
   }
   return text;
 }

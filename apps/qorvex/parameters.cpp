@@ -30,6 +30,19 @@ TQorFloatVector ParseNumbers(const std::string& option, const std::string& text,
   return TQorFloatVector(numbers);
 }
 
+CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& option,
+                              const std::string& description, NumberKind kind,
+                              WrittenNumber& number) {
+  return *command
+              .add_option_function<std::string>(
+                  option,
+                  [&number, option, kind](const std::string& text) {
+                    number = {text, ParseNumber(option, text, kind)};
+                  },
+                  description)
+              ->type_name("X");
+}
+
 InputError Refusal(const std::string& name, const EMathError& error, const std::string& remark) {
   const bool overflow = dynamic_cast<const EOverflow*>(&error) != nullptr;
   const std::string what =

@@ -6,7 +6,6 @@
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/test_samples.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/exact/rational.h"
@@ -19,18 +18,6 @@ constexpr const char* kReportHelp = R"(Report:
   The null hypothesis is rejected if p is at most the significance level, which is
   1 less the confidence level. Intervals are two-sided. Statistics are exact figures
   of the numbers, rounded once. "Form of the Test" says where p comes from.)";
-
-void AddWritten(CLI::App& command, const char* option, const std::string& description,
-                NumberKind kind, WrittenNumber& number) {
-  command
-      .add_option_function<std::string>(
-          option,
-          [&number, option, kind](const std::string& text) {
-            number = {text, ParseNumber(option, text, kind)};
-          },
-          description)
-      ->type_name("X");
-}
 
 Alternative ParseAlternative(const std::string& text) {
   if (text == "two-sided") return Alternative::kTwoSided;
@@ -67,8 +54,7 @@ void TestArguments::AddHypothesis(CLI::App& command, const char* option, const c
     hypothesis = {default_text, ParseNumber(option, default_text, kind)};
     text += std::string(". Default: ") + default_text;
   }
-  AddWritten(command, option, text, kind, hypothesis);
-  if (default_text == nullptr) command.get_option(option)->required();
+  AddWrittenNumber(command, option, text, kind, hypothesis).required(default_text == nullptr);
 }
 
 void TestArguments::AddSamples(CLI::App& command) {
@@ -83,9 +69,10 @@ void AddTest(CLI::App& parent, const TestCommand& test) {
   CLI::App& command = *parent.add_subcommand(test.name, test.summary);
   const auto arguments = std::make_shared<TestArguments>();
   test.add_options(command, *arguments);
-  AddWritten(command, "--confidence",
-             "The confidence level of intervals, and 1 less the significance level.\nDefault: 0.95",
-             NumberKind::kProbability, arguments->confidence);
+  AddWrittenNumber(
+      command, "--confidence",
+      "The confidence level of intervals, and 1 less the significance level.\nDefault: 0.95",
+      NumberKind::kProbability, arguments->confidence);
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
   command.add_flag("--json", arguments->json,

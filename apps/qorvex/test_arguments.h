@@ -9,18 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "apps/common/number_parameter.h"
+#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "apps/qorvex/test_report.h"
 #include "qorvex/stats/inference/test_result.h"
 
 namespace qorvex::apps {
-
-/// A number as it was written and as it is read.
-struct WrittenNumber {
-  std::string text;
-  Extended value = 0;
-};
 
 /// The arguments of a command of `test`. A command adds those that it takes.
 struct TestArguments {

@@ -13,6 +13,7 @@
 
 #include "qorvex/base/detail/binary_parts.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/vector/detail/checks.h"
 
 namespace qorvex::inline QorvexFinVector {
 
@@ -131,7 +132,7 @@ std::vector<std::uint64_t> SharesOf(std::uint64_t magnitude, std::span<const Bin
 template <AnyElement Weight>
 BinaryParts PartsOfWeight(Weight weight) {
   if constexpr (FloatElement<Weight>) {
-    if (!(weight >= 0) || std::isinf(weight)) RaiseMathError(rsInvalidWeight);
+    QorvexVector::detail::RequireWeight(weight);
     return PartsOf(Extended{weight});
   } else if constexpr (CurrencyElement<Weight>) {
     return PartsOfWeight(std::int64_t{weight.stored()});

@@ -9,6 +9,7 @@
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/estimate.h"
+#include "qorvex/stats/exact/decimals.h"
 #include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/stats/exact/extended_view.h"
 
@@ -123,9 +124,6 @@ class QORVEX_EXPORT ExactPairs {
 
   /// Equal counts, equal decimals and equal sums.
   [[nodiscard]] friend bool operator==(const ExactPairs&, const ExactPairs&) = default;
-
-  /// The largest number of decimals.
-  static constexpr int kMaxDecimals = 5000;
 
  private:
   // n times the sums of products of deviations from the means.

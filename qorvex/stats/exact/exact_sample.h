@@ -14,6 +14,7 @@
 #include "qorvex/base/exact/rational.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/stats/exact/decimals.h"
 #include "qorvex/stats/exact/fixed_point.h"
 #include "qorvex/stats/exact/special_counts.h"
 
@@ -170,9 +171,6 @@ class QORVEX_EXPORT ExactSample {
   [[nodiscard]] friend bool operator==(const ExactSample& a, const ExactSample& b) {
     return a.IsEqual(b);
   }
-
-  /// The largest number of decimals.
-  static constexpr int kMaxDecimals = 5000;
 
  private:
   using Sums = std::array<exact::FixedPoint, std::size_t{kPowerSums}>;

@@ -1,6 +1,7 @@
 #include "qorvex/stats/inference/binomial_test.h"
 
 #include <cmath>
+#include <utility>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/binomial.h"
@@ -57,17 +58,19 @@ Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
 
 }  // namespace
 
-TestResult BinomialTest(std::uint32_t successes, std::uint32_t trials, Extended p,
+TestResult BinomialTest(std::uint64_t successes, std::uint64_t trials, Extended p,
                         Alternative alternative) {
-  if (successes > trials) RaiseMathError(rsBinomDistInvalid);
-  const BinomialDistribution binomial(p, trials);
+  if (successes > trials || !std::in_range<std::uint32_t>(trials))
+    RaiseMathError(rsBinomDistInvalid);
+  const auto observed = static_cast<std::uint32_t>(successes);
+  const BinomialDistribution binomial(p, static_cast<std::uint32_t>(trials));
   TestResult result{.statistic = static_cast<Extended>(successes)};
   if (std::isnan(p)) return result;
   switch (alternative) {
     case Alternative::kLess:
-      return WithTails(result, binomial.At(successes), alternative);
+      return WithTails(result, binomial.At(observed), alternative);
     case Alternative::kGreater:
-      return WithTails(result, TailsBelow(binomial, successes), alternative);
+      return WithTails(result, TailsBelow(binomial, observed), alternative);
     case Alternative::kTwoSided:
       break;
   }
@@ -75,7 +78,7 @@ TestResult BinomialTest(std::uint32_t successes, std::uint32_t trials, Extended 
     const bool is_certain = successes == (p == 0 ? 0 : trials);
     return WithP(result, Scaled{is_certain ? 1.0L : 0.0L, ExtendedPair()});
   }
-  return WithP(result, TwoSided(binomial, successes));
+  return WithP(result, TwoSided(binomial, observed));
 }
 
 }  // namespace qorvex

@@ -1,6 +1,7 @@
 #include "qorvex/stats/inference/intervals.h"
 
 #include <cmath>
+#include <utility>
 
 #include "qorvex/stats/distributions/beta.h"
 #include "qorvex/stats/distributions/chi_square.h"
@@ -40,7 +41,7 @@ Interval<Extended> StudentInterval(const Rational& estimate, const Rational& squ
   return {(estimate - half_width).Round(), (estimate + half_width).Round()};
 }
 
-void RequireSuccesses(std::uint32_t successes, std::uint32_t trials) {
+void RequireSuccesses(std::uint64_t successes, std::uint64_t trials) {
   if (successes > trials || trials == 0) RaiseMathError(rsBinomDistInvalid);
 }
 
@@ -98,9 +99,10 @@ Interval<Extended> WelchDifferenceInterval(const ExactSample<2>& first,
   return StudentInterval(first.ExactMean() - second.ExactMean(), squared_error, df, tail);
 }
 
-Interval<Extended> ClopperPearsonInterval(std::uint32_t successes, std::uint32_t trials,
+Interval<Extended> ClopperPearsonInterval(std::uint64_t successes, std::uint64_t trials,
                                           Extended confidence) {
   RequireSuccesses(successes, trials);
+  if (!std::in_range<std::uint32_t>(trials)) RaiseMathError(rsBinomDistInvalid);
   const Extended tail = CheckedTail(confidence);
   if (std::isnan(tail)) return kUnknown;
   const auto x = static_cast<Extended>(successes);
@@ -109,7 +111,7 @@ Interval<Extended> ClopperPearsonInterval(std::uint32_t successes, std::uint32_t
           failures == 0 ? 1 : BetaDistribution(x + 1, failures).Quantile(Tail::kUpper, tail)};
 }
 
-Interval<Extended> WilsonInterval(std::uint32_t successes, std::uint32_t trials,
+Interval<Extended> WilsonInterval(std::uint64_t successes, std::uint64_t trials,
                                   Extended confidence) {
   RequireSuccesses(successes, trials);
   const Extended tail = CheckedTail(confidence);

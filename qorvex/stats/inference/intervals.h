@@ -94,12 +94,13 @@ requires AnyElement<ElementOf<First>> && AnyElement<ElementOf<Second>>
 /// (1927), "Probable inference, the law of succession, and statistical inference", shorter and
 /// right on average.
 ///
-/// - Errors: rsBinomDistInvalid unless successes <= trials and trials > 0.
-[[nodiscard]] QORVEX_EXPORT Interval<Extended> ClopperPearsonInterval(std::uint32_t successes,
-                                                                      std::uint32_t trials,
+/// - Errors: rsBinomDistInvalid unless successes <= trials and trials > 0, and
+///   for Clopper and Pearson from 2^32 trials on.
+[[nodiscard]] QORVEX_EXPORT Interval<Extended> ClopperPearsonInterval(std::uint64_t successes,
+                                                                      std::uint64_t trials,
                                                                       Extended confidence = 0.95L);
-[[nodiscard]] QORVEX_EXPORT Interval<Extended> WilsonInterval(std::uint32_t successes,
-                                                              std::uint32_t trials,
+[[nodiscard]] QORVEX_EXPORT Interval<Extended> WilsonInterval(std::uint64_t successes,
+                                                              std::uint64_t trials,
                                                               Extended confidence = 0.95L);
 /// @}
 

@@ -3,12 +3,15 @@
 /// @file
 /// Analysis of variance: its tables, and the one-way analysis of several groups.
 
+#include <concepts>
 #include <cstddef>
 #include <cstdint>
+#include <ranges>
 #include <string>
 #include <vector>
 
 #include "qorvex/base/export.h"
+#include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/stats/regression/columns.h"
 
 namespace qorvex {
@@ -69,16 +72,28 @@ struct OneWayAnovaTable {
 /// - All groups of one value: SSW has no degrees of freedom, F and p are NaN.
 /// - Errors, in this order: EMathError rsValue2 for fewer than two groups, rsVectorIsEmpty for an
 ///   empty one; EInvalidOp for a value that is not finite.
-/// - Cost: some 4 ns a value.
-[[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnova(const Columns& groups);
-
+/// - Cost: some 4 ns a value of columns; nothing for those of exact samples; of labelled values,
+///   O(log g) for g labels more.
 /// @{
-/// The same for values with the label of their group beside each. EMathError rsSameDimensions for
-/// different lengths, before the errors above.
+/// Of groups of values.
+[[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnova(const Columns& groups);
+/// Of groups as exact samples.
+[[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnova(VectorView<ExactSample<2>> groups);
+/// Of values with the label of their group beside each: text or any integers. EMathError
+/// rsSameDimensions for different lengths, before the errors above.
 [[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnovaByLabel(VectorView<std::string> labels,
                                                                 const ColumnView& values);
 [[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnovaByLabel(VectorView<std::int64_t> labels,
                                                                 const ColumnView& values);
+template <ContiguousRange Labels>
+requires std::integral<ElementOf<Labels>> &&(sizeof(ElementOf<Labels>) <= sizeof(std::int64_t))
+    [[nodiscard]] OneWayAnovaTable
+    OneWayAnovaByLabel(const Labels& labels, const ColumnView& values) {
+  // Unsigned labels beyond the range become negative ones, still different from all others.
+  const std::vector<std::int64_t> signed_labels(std::ranges::begin(labels),
+                                                std::ranges::end(labels));
+  return OneWayAnovaByLabel(VectorView<std::int64_t>(signed_labels), values);
+}
 /// @}
 
 }  // namespace qorvex

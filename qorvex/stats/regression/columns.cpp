@@ -6,8 +6,7 @@ namespace qorvex {
 
 ColumnView::ColumnView(VectorView<std::int64_t> integers, int decimals)
     : ColumnView(integers.data(), integers.size()) {
-  constexpr int kMostDecimals = 1000;
-  if (decimals < 0 || decimals > kMostDecimals) RaiseMathError(rsInvalidValue);
+  if (decimals < 0 || decimals > kMaxDecimals) RaiseMathError(rsInvalidValue);
   decimals_ = decimals;
 }
 

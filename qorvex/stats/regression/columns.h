@@ -13,6 +13,7 @@
 
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
+#include "qorvex/stats/exact/decimals.h"
 
 namespace qorvex {
 
@@ -36,7 +37,7 @@ class QORVEX_EXPORT ColumnView {
       : ColumnView(std::ranges::data(values), std::ranges::size(values)) {}
   /// The values in braces.
   ColumnView(std::initializer_list<Extended> values) : ColumnView(values.begin(), values.size()) {}
-  /// integers[i] * 10^-decimals. EMathError rsInvalidValue for decimals outside 0 to 1000.
+  /// integers[i] * 10^-decimals. EMathError rsInvalidValue unless 0 <= decimals <= kMaxDecimals.
   ColumnView(VectorView<std::int64_t> integers, int decimals);
 
   /// The number of elements.

@@ -1,13 +1,13 @@
 #include "qorvex/stats/regression/gram_matrix.h"
 
 #include <algorithm>
-#include <cmath>
 #include <utility>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/stats/regression/detail/polynomial_sums.h"
+#include "qorvex/vector/detail/checks.h"
 
 namespace qorvex {
 
@@ -28,18 +28,22 @@ Dyadic PowerOfTen(int exponent) {
   return Dyadic(BigInteger::PowerOfTen(static_cast<unsigned>(exponent)));
 }
 
+// Rows are converted and added so many at a time.
+constexpr std::size_t kBlockRows = 16384;
+
 void RequireWeights(const ColumnView& weights) {
   std::vector<Extended> buffer;
-  for (const Extended weight : weights.Read(0, weights.Size(), buffer)) {
-    if (!(weight >= 0) || std::isinf(weight)) RaiseMathError(rsInvalidWeight);
+  for (std::size_t first = 0; first < weights.Size(); first += kBlockRows) {
+    const std::size_t count = std::min(kBlockRows, weights.Size() - first);
+    for (const Extended weight : weights.Read(first, count, buffer))
+      QorvexVector::detail::RequireWeight(weight);
   }
 }
 
-// Calls use(block) with the columns of some thousand rows at a time, without those whose last
-// element, the weight, is 0. The number of rows used.
+// Calls use(block) with the columns of kBlockRows rows at a time, without those whose last element,
+// the weight, is 0. The number of rows used.
 template <class Use>
 std::size_t ForEachBlock(const std::vector<ColumnView>& columns, bool has_weights, Use use) {
-  constexpr std::size_t kBlockRows = 16384;
   std::vector<std::vector<Extended>> buffers(columns.size());
   Block block(columns.size());
   std::size_t rows = 0;
@@ -135,7 +139,7 @@ std::size_t GramMatrix::Slot(std::size_t i, std::size_t j) const {
   const std::size_t lowest = 1 - form_.Constants();
   if (j < response) return i + j + 2 * lowest;
   const std::size_t power = i < response ? i + lowest : form_.terms + 1;
-  return detail::PolynomialSums::ResponseSlot(form_.terms, power);
+  return regression::PolynomialSums::ResponseSlot(form_.terms, power);
 }
 
 int GramMatrix::Decimals(std::size_t i) const {
@@ -159,7 +163,7 @@ GramMatrix::Batch GramMatrix::SumsOf(const Columns& predictors, const ColumnView
   for (const ColumnView& column : columns) batch.decimals.push_back(column.Decimals());
   batch.decimals.resize(decimals_.size());
   if (form_.is_polynomial) {
-    detail::PolynomialSums sums(form_.terms);
+    regression::PolynomialSums sums(form_.terms);
     batch.rows = ForEachBlock(columns, weights != nullptr, [&](const Block& block) {
       sums.Add(block[0], block[1], weights != nullptr ? block[2] : VectorView<Extended>());
     });

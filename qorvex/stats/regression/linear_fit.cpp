@@ -6,11 +6,13 @@
 #include <utility>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/figures.h"
 #include "qorvex/stats/distributions/student_t.h"
 #include "qorvex/stats/regression/detail/figures.h"
 #include "qorvex/stats/regression/detail/fitted_rows.h"
 #include "qorvex/stats/regression/detail/solution.h"
+#include "qorvex/vector/detail/checks.h"
 
 namespace qorvex {
 
@@ -21,12 +23,12 @@ namespace {
 constexpr Extended kNaN = std::numeric_limits<Extended>::quiet_NaN();
 
 // The quantile of Student's t that bounds a two-sided interval of the given probability; NaN
-// without degrees of freedom.
-Extended TwoSidedQuantile(Extended level, std::size_t degrees_of_freedom) {
-  if (!(level > 0 && level < 1)) RaiseMathError(rsValue01);
-  if (degrees_of_freedom == 0) return kNaN;
+// without degrees of freedom, and for a probability of NaN.
+Extended TwoSidedQuantile(Extended confidence, std::size_t degrees_of_freedom) {
+  distributions::RequireProbability(confidence);
+  if (degrees_of_freedom == 0 || std::isnan(confidence)) return kNaN;
   const StudentTDistribution distribution(static_cast<Extended>(degrees_of_freedom));
-  return UpperQuantile(distribution, (1 - level) / 2);
+  return UpperQuantile(distribution, (1 - confidence) / 2);
 }
 
 std::size_t RowsOf(const Columns& columns) {
@@ -39,7 +41,7 @@ Interval<Extended> About(Extended centre, Extended half_width) {
 
 }  // namespace
 
-LinearFit::LinearFit(std::shared_ptr<const detail::Solution> solution)
+LinearFit::LinearFit(std::shared_ptr<const regression::Solution> solution)
     : solution_(std::move(solution)) {}
 
 std::size_t LinearFit::Count() const {
@@ -74,7 +76,7 @@ FittedCoefficient LinearFit::Coefficient(std::size_t i) const {
   if (df == 0) return result;
   const Rational variance = solution_->Variance() * solution_->Inverse(i, i);
   result.standard_error = variance.RoundRoot();
-  const auto [t, p, log_p] = detail::StudentSignificance(value, variance, df);
+  const auto [t, p, log_p] = regression::StudentSignificance(value, variance, df);
   result.t = t;
   result.p = p;
   result.log_p = log_p;
@@ -93,9 +95,9 @@ TQorFloatVector LinearFit::Values() const {
   return values;
 }
 
-Interval<Extended> LinearFit::ConfidenceInterval(std::size_t i, Extended level) const {
+Interval<Extended> LinearFit::ConfidenceInterval(std::size_t i, Extended confidence) const {
   RequireIndex(i);
-  const Extended quantile = TwoSidedQuantile(level, DegreesOfFreedom());
+  const Extended quantile = TwoSidedQuantile(confidence, DegreesOfFreedom());
   const FittedCoefficient coefficient = Coefficient(i);
   return About(coefficient.value, quantile * coefficient.standard_error);
 }
@@ -123,13 +125,13 @@ Extended LinearFit::ResidualStdDev() const {
 }
 
 Extended LinearFit::Determination() const {
-  return detail::RoundRatio(solution_->Total() - solution_->Residual(), solution_->Total());
+  return regression::RoundRatio(solution_->Total() - solution_->Residual(), solution_->Total());
 }
 
 Extended LinearFit::AdjustedDetermination() const {
   if (DegreesOfFreedom() == 0) return kNaN;
   const Rational total = solution_->Total() / (Count() - solution_->form.Constants());
-  return detail::RoundRatio(total - solution_->Variance(), total);
+  return regression::RoundRatio(total - solution_->Variance(), total);
 }
 
 RegressionAnova LinearFit::Anova() const {
@@ -137,22 +139,22 @@ RegressionAnova LinearFit::Anova() const {
   const std::size_t df = DegreesOfFreedom();
   const Rational residual = solution_->Residual();
   const auto explained = [&](std::size_t first, std::size_t last) {
-    return detail::TestOf(solution_->ResidualAfter(first) - solution_->ResidualAfter(last),
-                          last - first, residual, df);
+    return regression::TestOf(solution_->ResidualAfter(first) - solution_->ResidualAfter(last),
+                              last - first, residual, df);
   };
   RegressionAnova table{.regression = explained(constants, Size()),
-                        .residual = detail::RowOf(residual, df),
-                        .total = detail::RowOf(solution_->Total(), Count() - constants),
+                        .residual = regression::RowOf(residual, df),
+                        .total = regression::RowOf(solution_->Total(), Count() - constants),
                         .terms = {}};
   for (std::size_t k = constants; k < Size(); ++k) table.terms.push_back(explained(k, k + 1));
   return table;
 }
 
-Prediction LinearFit::Predict(VectorView<Extended> predictors, Extended level) const {
-  const Extended quantile = TwoSidedQuantile(level, DegreesOfFreedom());
+Prediction LinearFit::Predict(VectorView<Extended> predictors, Extended confidence) const {
+  const Extended quantile = TwoSidedQuantile(confidence, DegreesOfFreedom());
   std::vector<ColumnView> columns;
   for (const Extended& value : predictors) columns.emplace_back(std::span(&value, 1));
-  const detail::FittedRows rows(*solution_, columns, 1);
+  const regression::FittedRows rows(*solution_, columns, 1);
   const std::vector<exact::Dyadic> row = rows.Row(0);
   Prediction result{.value = rows.Fitted(row).Round(),
                     .standard_error = kNaN,
@@ -168,14 +170,14 @@ Prediction LinearFit::Predict(VectorView<Extended> predictors, Extended level) c
 }
 
 TQorFloatVector LinearFit::FittedValues(const Columns& predictors) const {
-  const detail::FittedRows rows(*solution_, predictors, RowsOf(predictors));
+  const regression::FittedRows rows(*solution_, predictors, RowsOf(predictors));
   TQorFloatVector fitted;
   for (std::size_t i = 0; i < rows.Count(); ++i) fitted.Append(rows.Fitted(rows.Row(i)).Round());
   return fitted;
 }
 
 TQorFloatVector LinearFit::Residuals(const Columns& predictors, const ColumnView& response) const {
-  const detail::FittedRows rows(*solution_, predictors, response.Size());
+  const regression::FittedRows rows(*solution_, predictors, response.Size());
   std::vector<Extended> buffer;
   const std::span<const Extended> y = response.Read(0, response.Size(), buffer);
   const Rational unit = Rational::PowerOfTen(-response.Decimals());
@@ -186,7 +188,7 @@ TQorFloatVector LinearFit::Residuals(const Columns& predictors, const ColumnView
 }
 
 TQorFloatVector LinearFit::Leverages(const Columns& predictors) const {
-  const detail::FittedRows rows(*solution_, predictors, RowsOf(predictors));
+  const regression::FittedRows rows(*solution_, predictors, RowsOf(predictors));
   TQorFloatVector leverages;
   for (std::size_t i = 0; i < rows.Count(); ++i)
     leverages.Append(rows.Leverage(rows.Row(i)).Round());
@@ -194,15 +196,14 @@ TQorFloatVector LinearFit::Leverages(const Columns& predictors) const {
 }
 
 TQorFloatVector LinearFit::Leverages(const Columns& predictors, const ColumnView& weights) const {
-  const detail::FittedRows rows(*solution_, predictors, weights.Size());
+  const regression::FittedRows rows(*solution_, predictors, weights.Size());
   std::vector<Extended> buffer;
   const std::span<const Extended> w = weights.Read(0, weights.Size(), buffer);
   const Rational unit = Rational::PowerOfTen(-weights.Decimals());
   TQorFloatVector leverages;
-  for (std::size_t i = 0; i < rows.Count(); ++i) {
-    if (!(w[i] >= 0) || std::isinf(w[i])) RaiseMathError(rsInvalidWeight);
-    leverages.Append((w[i] * unit * rows.Leverage(rows.Row(i))).Round());
-  }
+  for (const Extended weight : w) QorvexVector::detail::RequireWeight(weight);
+  for (std::size_t i = 0; i < rows.Count(); ++i)
+    leverages.Append(w[i] == 0 ? 0 : (w[i] * unit * rows.Leverage(rows.Row(i))).Round());
   return leverages;
 }
 

@@ -10,13 +10,14 @@
 #include "qorvex/base/export.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/distributions/distribution.h"
+#include "qorvex/stats/exact/extended_view.h"
 #include "qorvex/stats/regression/anova.h"
 #include "qorvex/stats/regression/columns.h"
 
 namespace qorvex {
 
 /// @cond internal
-namespace detail {
+namespace regression {
 struct Solution;
 }
 /// @endcond
@@ -52,20 +53,22 @@ struct Prediction {
 ///
 /// - Coefficients, standard errors, t, sums of squares, F and determination are rational numbers of
 ///   the data, or roots of such, and each is rounded once: the extended number nearest to the exact
-///   value. Where Precision() is not 0, they have so many right bits before they are rounded;
-///   fitted values, residuals and covariances have them relative to their terms.
+///   value. So are covariances, fitted values, residuals and leverages.
+/// - Where Precision() is not 0, figures have so many right bits before they are rounded;
+///   covariances, fitted values, residuals and leverages have them relative to their terms, so that
+///   a residual of 0 can come out as 1e-50. Other figures of 0 are exact.
 /// - p comes from the tails of Student's and the F distribution at the statistic before it is
 ///   rounded, intervals from the quantiles of Student's.
 /// - n = p: no degrees of freedom are left. What needs the residual variance is NaN.
-/// - A perfect fit (residuals of 0): standard errors are 0, t and F infinite, p 0. A statistic 0 /
-/// 0
-///   is NaN.
-/// - Levels of intervals: EMathError rsValue01 unless 0 < level < 1.
+/// - A perfect fit (residuals of 0): standard errors are 0, t and F infinite, p 0. A statistic that
+///   is 0 / 0 is NaN.
+/// - `confidence` is the probability of an interval, half of the rest on each side. EMathError
+///   rsValue01 unless 0 < confidence < 1; NaN gives intervals of NaN.
 /// - Each figure is computed when it is asked for: some microseconds.
 class QORVEX_EXPORT LinearFit {
  public:
   /// @cond internal
-  explicit LinearFit(std::shared_ptr<const detail::Solution> solution);
+  explicit LinearFit(std::shared_ptr<const regression::Solution> solution);
   /// @endcond
 
   /// The number of rows n.
@@ -82,7 +85,8 @@ class QORVEX_EXPORT LinearFit {
   /// The values of all coefficients.
   [[nodiscard]] TQorFloatVector Values() const;
   /// The interval b -+ t s that contains the true coefficient with the given probability.
-  [[nodiscard]] Interval<Extended> ConfidenceInterval(std::size_t i, Extended level = 0.95L) const;
+  [[nodiscard]] Interval<Extended> ConfidenceInterval(std::size_t i,
+                                                      Extended confidence = 0.95L) const;
   /// The covariance of two coefficients: the variance of one for i = j.
   [[nodiscard]] Extended Covariance(std::size_t i, std::size_t j) const;
 
@@ -102,15 +106,23 @@ class QORVEX_EXPORT LinearFit {
   /// what each predictor adds to those before it.
   [[nodiscard]] RegressionAnova Anova() const;
 
+  /// @{
   /// The fitted value and its intervals for one value of each predictor, or for one x of a
   /// polynomial. EMathError rsSameDimensions for another number of values, EInvalidOp for a value
-  /// that is not finite.
-  [[nodiscard]] Prediction Predict(VectorView<Extended> predictors, Extended level = 0.95L) const;
+  /// that is not finite. For all numeric elements.
+  [[nodiscard]] Prediction Predict(VectorView<Extended> predictors,
+                                   Extended confidence = 0.95L) const;
+  template <ContiguousRange Range>
+  requires NumericElement<ElementOf<Range>>
+  [[nodiscard]] Prediction Predict(const Range& predictors, Extended confidence = 0.95L) const {
+    return Predict(VectorView<Extended>(AsExtended(predictors)), confidence);
+  }
+  /// @}
 
   /// @{
   /// The fitted value of each row; what the response exceeds it by; and the leverage, w x' (X' W
-  /// X)^-1 x, for weights of 1 or the given ones. Errors as for LinearModel::Add. Exact but for the
-  /// one rounding; O(p), and O(p^2) for the leverage, products of long integers a row.
+  /// X)^-1 x, for weights of 1 or the given ones; 0 for weights of 0. Errors as for
+  /// LinearModel::Add. O(p), and O(p^2) for the leverage, products of long integers a row.
   [[nodiscard]] TQorFloatVector FittedValues(const Columns& predictors) const;
   [[nodiscard]] TQorFloatVector Residuals(const Columns& predictors,
                                           const ColumnView& response) const;
@@ -130,7 +142,7 @@ class QORVEX_EXPORT LinearFit {
  private:
   void RequireIndex(std::size_t i) const;
 
-  std::shared_ptr<const detail::Solution> solution_;
+  std::shared_ptr<const regression::Solution> solution_;
 };
 
 }  // namespace qorvex

@@ -9,8 +9,13 @@ namespace qorvex {
 
 namespace {
 
-std::string TextFor(std::size_t predictor) {
-  std::string text = MessageText(rsCollinear);
+MessageId MessageFor(const ModelForm& form) {
+  if (form.is_polynomial) return rsCollinearPower;
+  return form.intercept == Intercept::kIncluded ? rsCollinear : rsCollinearOrigin;
+}
+
+std::string TextFor(MessageId id, std::size_t predictor) {
+  std::string text = MessageText(id);
   constexpr std::string_view placeholder = "%1";
   if (const std::size_t at = text.find(placeholder); at != std::string::npos)
     text.replace(at, placeholder.size(), std::to_string(predictor + 1));
@@ -19,8 +24,8 @@ std::string TextFor(std::size_t predictor) {
 
 }  // namespace
 
-CollinearityError::CollinearityError(std::size_t predictor)
-    : EMathError(rsCollinear, TextFor(predictor)), predictor_(predictor) {}
+CollinearityError::CollinearityError(const ModelForm& form, std::size_t predictor)
+    : EMathError(MessageFor(form), TextFor(MessageFor(form), predictor)), predictor_(predictor) {}
 
 CollinearityError::~CollinearityError() = default;
 
@@ -56,7 +61,7 @@ void LinearModel::Merge(const LinearModel& other) {
 
 LinearFit LinearModel::Fit() const {
   if (Count() < gram_.Form().Coefficients()) RaiseMathError(rsVectorTooSmall);
-  return LinearFit(std::make_shared<const detail::Solution>(detail::Solve(gram_)));
+  return LinearFit(std::make_shared<const regression::Solution>(regression::Solve(gram_)));
 }
 
 }  // namespace qorvex

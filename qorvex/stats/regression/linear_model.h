@@ -14,13 +14,15 @@
 namespace qorvex {
 
 /// Raised where a predictor depends linearly on the intercept and the predictors before it, so that
-/// the coefficients are not determined. The identifier is rsCollinear.
+/// the coefficients are not determined.
 class QORVEX_EXPORT CollinearityError : public EMathError {
  public:
-  /// For the predictor with this index, from 0; of a polynomial, the power of x less one.
-  explicit CollinearityError(std::size_t predictor);
+  /// For the predictor with this index, from 0; of a polynomial, the power of x less one. The
+  /// identifier is rsCollinear, rsCollinearOrigin without an intercept, and rsCollinearPower for a
+  /// polynomial.
+  CollinearityError(const ModelForm& form, std::size_t predictor);
   ~CollinearityError() override;
-  /// The index of the predictor, from 0.
+  /// The index of the predictor, from 0; of a polynomial, the power of x less one.
   [[nodiscard]] std::size_t Predictor() const { return predictor_; }
 
  private:
@@ -41,7 +43,8 @@ class QORVEX_EXPORT CollinearityError : public EMathError {
 /// - Errors, in this order: EMathError rsSameDimensions for a wrong number of predictors or columns
 ///   of different lengths; rsInvalidWeight for a weight that is negative or not finite; EInvalidOp
 ///   for a value that is not finite. The model then keeps its state.
-/// - Cost: for a row some 2 ns a pair of columns, twice that with weights; 70 ns for a parabola.
+/// - Cost: for a row some 2 ns a pair of columns, twice that with weights; 70 ns for a parabola. A
+///   call takes some microseconds more, so add many rows at a time.
 class QORVEX_EXPORT LinearModel {
  public:
   /// A model of this many predictors: y = b0 + b1 x1 + b2 x2 + ...

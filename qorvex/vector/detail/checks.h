@@ -2,6 +2,8 @@
 
 // The checks that vector routines share.
 
+#include <cmath>
+
 #include "qorvex/base/errors.h"
 #include "qorvex/base/vector_types.h"
 
@@ -15,6 +17,10 @@ void RequireElements(const Range& vector) {
 template <ContiguousRange A, ContiguousRange B>
 void RequireSameLength(const A& a, const B& b) {
   if (a.size() != b.size()) RaiseMathError(rsSameDimensions);
+}
+
+inline void RequireWeight(Extended weight) {
+  if (!(weight >= 0) || std::isinf(weight)) RaiseMathError(rsInvalidWeight);
 }
 
 }  // namespace qorvex::inline QorvexVector::detail

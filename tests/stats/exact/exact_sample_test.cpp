@@ -246,12 +246,12 @@ TEST(ExactSample, CountsDecimalNumbersAsSuch) {
   const TQorInt64Vector limits = {std::numeric_limits<std::int64_t>::min(),
                                   std::numeric_limits<std::int64_t>::max(), 0};
   ExactSample<> wide;
-  wide.AddScaled(limits, ExactSample<>::kMaxDecimals);
+  wide.AddScaled(limits, kMaxDecimals);
   EXPECT_EQ(wide.Sum(), 0);
   EXPECT_TRUE(wide.PowerSum(1) == exact::Rational(-1) * exact::Rational::PowerOfTen(-5000));
-  wide.RemoveScaled(limits, ExactSample<>::kMaxDecimals);
+  wide.RemoveScaled(limits, kMaxDecimals);
   EXPECT_TRUE(wide == ExactSample<>());
-  for (const int decimals : {-1, ExactSample<>::kMaxDecimals + 1}) {
+  for (const int decimals : {-1, kMaxDecimals + 1}) {
     EXPECT_MATH_ERROR(wide.AddScaled(limits, decimals), rsInvalidValue);
   }
 }

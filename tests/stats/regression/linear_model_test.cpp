@@ -36,11 +36,13 @@ TEST(LinearModel, RefusesBadRowsAndKeepsItsState) {
   EXPECT_EQ(fit.Values()[1], 2.3L);
   EXPECT_MATH_ERROR(fit.Coefficient(2), rsInvalidCol);
   EXPECT_MATH_ERROR(fit.ConfidenceInterval(0, 1), rsValue01);
-  EXPECT_MATH_ERROR(fit.Predict({1.0L}, kNaN), rsValue01);
+  EXPECT_MATH_ERROR(fit.Predict({1.0L}, 0), rsValue01);
+  EXPECT_TRUE(std::isnan(fit.Predict({1.0L}, kNaN).prediction.least));
   EXPECT_MATH_ERROR(fit.Predict({}), rsSameDimensions);
   EXPECT_ERROR(fit.Predict({kNaN}), EInvalidOp, rsInvalidOp);
   EXPECT_MATH_ERROR(fit.Residuals(x, {1.0L}), rsSameDimensions);
-  EXPECT_MATH_ERROR(fit.Leverages(x, {1.0L, 1.0L, kNaN, 1.0L}), rsInvalidWeight);
+  EXPECT_MATH_ERROR(fit.Leverages(nan, {1.0L, 1.0L, kNaN, 1.0L}), rsInvalidWeight);
+  EXPECT_EQ(fit.Leverages({{kNaN, 2}}, {0.0L, 1}), (TQorFloatVector{0, 0.3L}));
 
   // Rows of weight 0 do not count.
   LinearModel weighted;
@@ -58,31 +60,38 @@ TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
   for (std::size_t i = 0; i < 6; ++i) sum[i] = 2 * a[i] - b[i] / 4 + 1;
   Column nearly = sum;
   nearly[0] *= 1 + 0x1p-63L;
-  const auto expect_error = [&](const Columns& predictors, std::size_t predictor,
-                                Intercept intercept = Intercept::kIncluded) {
-    LinearModel model(predictors.Size(), intercept);
-    model.Add(predictors, y);
+  const Column zero(6);
+  const Column sign{1, -1, 1, 1, -1, -1};
+  const auto origin = Intercept::kOmitted;
+  struct Case {
+    LinearModel model;
+    Columns predictors;
+    std::size_t dependent;
+    MessageId id;
+    const char* text;
+  };
+  std::vector<Case> cases{
+      {LinearModel(1), seven, 0, rsCollinear, "Predictor 1 depends"},
+      {LinearModel(3), {a, a, b}, 1, rsCollinear, "Predictor 2 depends"},
+      {LinearModel(3), {a, b, sum}, 2, rsCollinear, "on the intercept and the predictors b"},
+      {LinearModel(2, origin), {b, zero}, 1, rsCollinearOrigin, "2 depends linearly on the p"},
+      {LinearModel(1, origin), zero, 0, rsCollinearOrigin, "Predictor 1 depends"},
+      {LinearModel::Polynomial(2), sign, 1, rsCollinearPower, "x^2 depends"},
+      {LinearModel::Polynomial(2, origin), seven, 1, rsCollinearPower, "x^2 depends"}};
+  for (Case& c : cases) {
+    c.model.Add(c.predictors, y);
     try {
-      static_cast<void>(model.Fit());
+      static_cast<void>(c.model.Fit());
       ADD_FAILURE() << "fits";
     } catch (const CollinearityError& error) {
-      EXPECT_EQ(error.Predictor(), predictor);
-      EXPECT_EQ(error.message_id(), rsCollinear);
-      EXPECT_NE(std::string(error.what()).find(std::to_string(predictor + 1)), std::string::npos);
+      EXPECT_EQ(error.Predictor(), c.dependent);
+      EXPECT_EQ(error.message_id(), c.id);
+      EXPECT_NE(std::string(error.what()).find(c.text), std::string::npos) << error.what();
     }
-  };
-  expect_error(seven, 0);
-  expect_error({a, a, b}, 1);
-  expect_error({a, b, sum}, 2);
-  expect_error({b, Column(6, 0)}, 1, Intercept::kOmitted);
-  expect_error(Column(6, 0), 0, Intercept::kOmitted);
+  }
   LinearModel model(3);
   model.Add({a, b, nearly}, y);
   EXPECT_GT(model.Fit().ConditionBits(), 120);
-
-  LinearModel cubic = LinearModel::Polynomial(3);
-  cubic.Add({{0.1L, 0.2L, 0.7L, 0.1L}}, {1.0L, 2, 3, 4});
-  EXPECT_THROW(static_cast<void>(cubic.Fit()), CollinearityError);
   EXPECT_MATH_ERROR(FitPairs(a, y, 0), rsValueGZero);
 }
 
@@ -165,7 +174,7 @@ TEST(LinearModel, MixesDecimalsOfAnyNumber) {
     EXPECT_EQ(fit.Predict({2.5L}).value, fit.FittedValues(ColumnView(tenths, 1))[1]);
     EXPECT_EQ(fit.Leverages({{2.5L}})[0], fit.Leverages(ColumnView(tenths, 1))[1]);
     EXPECT_EQ(fit.FittedValues(amounts), fit.FittedValues(ColumnView(tenths, 1)));
-    EXPECT_EQ(fit.FittedValues(std::vector<float>{2.5F}), fit.FittedValues({{2.5L}}));
+    EXPECT_EQ(fit.Predict(std::vector<float>{2.5F}).value, fit.Predict({2.5L}).value);
     EXPECT_EQ(mixed.Fit().Predict({2.5L}).standard_error, fit.Predict({2.5L}).standard_error);
     LinearModel wrong = model;
     wrong.Remove({{1.0L, 2, 3}}, {9.0L, 9, 9});
@@ -201,11 +210,11 @@ TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {
     EXPECT_EQ(fit.Values()[0], 5);
     for (std::size_t k = 0; k < kPredictors; ++k) EXPECT_EQ(fit.Values()[k + 1], k + 1);
 
-    // What these bits cannot tell, integers do: a perfect fit and exact collinearity.
+    // What no number of bits can tell: a perfect fit and exact collinearity.
     for (std::size_t i = 0; i < y.size(); ++i) y[i] += i % 2 == 0 ? 1 : -1;
     LinearModel perfect(kPredictors);
     perfect.Add(columns, y);
-    EXPECT_EQ(perfect.Fit().Precision(), 0U);
+    EXPECT_GT(perfect.Fit().Precision(), 90U);
     EXPECT_EQ(perfect.Fit().ResidualSumOfSquares(), 0);
     columns.back() = columns.front();
     LinearModel dependent(kPredictors);

@@ -83,11 +83,19 @@ TEST(OneWayAnova, TakesLabelsInAnyOrderAndRefusesWhatHasNoFigures) {
   const OneWayAnovaTable table =
       OneWayAnovaByLabel(std::vector<std::string>{"b", "a", "b", "a", "c"}, {1.0L, 2, 3, 6, 3});
   EXPECT_EQ(FiguresOf(table), FiguresOf(OneWayAnova({{2.0L, 6}, {1.0L, 3}, {3.0L}})));
+  EXPECT_EQ(FiguresOf(table), FiguresOf(OneWayAnovaByLabel(
+                                  std::vector<unsigned long long>{1, ~0ULL, 1, ~0ULL, 1ULL << 63U},
+                                  {1.0L, 2, 3, 6, 3})));
   EXPECT_EQ(table.between.degrees_of_freedom, 2U);
   EXPECT_EQ(table.within.sum_of_squares, 10);
   const std::vector<std::int64_t> tenths{11, 13};
   const std::vector<std::int64_t> hundredths{120, 130};
   EXPECT_EQ(OneWayAnova({ColumnView(tenths, 1), ColumnView(hundredths, 2)}).between.f, 0.2L);
+  ExactSample<2> of_tenths, of_hundredths;
+  of_tenths.AddScaled(tenths, 1);
+  of_hundredths.AddScaled(hundredths, 2);
+  EXPECT_EQ(OneWayAnova({of_tenths, of_hundredths}).between.f, 0.2L);
+  EXPECT_MATH_ERROR(OneWayAnova({of_tenths, ExactSample<2>()}), rsVectorIsEmpty);
   EXPECT_TRUE(std::isnan(OneWayAnova({{1.0L}, {2.0L}}).between.f));
   EXPECT_TRUE(std::isnan(OneWayAnova({{1.0L, 1}, {1.0L, 1}}).determination));
   EXPECT_EQ(OneWayAnova({{1.0L, 1}, {2.0L, 2}}).between.f, kInfinity);

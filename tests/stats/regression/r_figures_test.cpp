@@ -10,7 +10,8 @@ namespace qorvex {
 class RFigures : public ::testing::Test {
  protected:
   void ExpectEqual(const std::string& model, const LinearFit& fit, const Columns& predictors,
-                   const Columns& weights, std::initializer_list<Extended> at, Extended level) {
+                   const Columns& weights, std::initializer_list<Extended> at,
+                   Extended confidence) {
     SCOPED_TRACE(model);
     std::map<std::string, std::vector<Extended>> ours;
     for (std::size_t i = 0; i < fit.Size(); ++i) {
@@ -18,7 +19,7 @@ class RFigures : public ::testing::Test {
       ours["t"].push_back(coefficient.t);
       ours["p"].push_back(coefficient.p);
       EXPECT_NEAR(static_cast<double>(std::exp(coefficient.log_p) / coefficient.p), 1, 1e-15);
-      const Interval<Extended> interval = fit.ConfidenceInterval(i, level);
+      const Interval<Extended> interval = fit.ConfidenceInterval(i, confidence);
       ours["least"].push_back(interval.least);
       ours["greatest"].push_back(interval.greatest);
     }
@@ -30,7 +31,7 @@ class RFigures : public ::testing::Test {
     }
     ours["f_p"] = {table.regression.p};
     ours["f_log_p"] = {table.regression.log_p};
-    const Prediction predicted = fit.Predict(at, level);
+    const Prediction predicted = fit.Predict(at, confidence);
     ours["predicted"] = {predicted.value};
     ours["predicted_error"] = {predicted.standard_error};
     ours["confidence"] = {predicted.confidence.least, predicted.confidence.greatest};

@@ -2,8 +2,6 @@
 
 // The values that count among weighted ones.
 
-#include <algorithm>
-#include <cmath>
 #include <cstddef>
 
 #include "qorvex/base/errors.h"
@@ -22,7 +20,7 @@ class PositiveWeights {
     QorvexVector::detail::RequireElements(values);
     std::size_t positive = 0;
     for (const Extended weight : weights) {
-      if (!(weight >= 0) || std::isinf(weight)) RaiseMathError(rsInvalidWeight);
+      QorvexVector::detail::RequireWeight(weight);
       if (weight > 0) ++positive;
     }
     if (positive == 0) RaiseMathError(rsWeightsZero);

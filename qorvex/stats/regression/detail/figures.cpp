@@ -7,7 +7,7 @@
 #include "qorvex/stats/inference/detail/exact_tails.h"
 #include "qorvex/stats/inference/detail/p_values.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::Rational;
 
@@ -65,4 +65,4 @@ AnovaTest TestOf(const Rational& sum_of_squares, std::size_t degrees_of_freedom,
   return test;
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -5,7 +5,7 @@
 #include "qorvex/base/exact/rational.h"
 #include "qorvex/stats/regression/anova.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// A statistic, the probability of one at least as large, and its logarithm.
 struct Significance {
@@ -29,4 +29,4 @@ struct Significance {
                                std::size_t degrees_of_freedom, const exact::Rational& residual,
                                std::size_t residual_degrees_of_freedom);
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

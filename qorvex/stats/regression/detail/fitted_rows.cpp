@@ -4,7 +4,7 @@
 
 #include "qorvex/base/errors.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::BigInteger;
 using exact::Dyadic;
@@ -70,4 +70,4 @@ Rational FittedRows::Leverage(std::span<const Dyadic> row) const {
   return sum * leverage_unit_;
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -7,7 +7,7 @@
 #include "qorvex/stats/regression/columns.h"
 #include "qorvex/stats/regression/detail/solution.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// Rows of predictors and what a solution makes of them.
 class FittedRows {
@@ -35,4 +35,4 @@ class FittedRows {
   exact::Rational leverage_unit_;
 };
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -3,7 +3,7 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/exact/detail/parts.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::Dyadic;
 using exact::detail::Elements;
@@ -120,4 +120,4 @@ std::vector<Dyadic> PolynomialSums::Values() const {
   return values;
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

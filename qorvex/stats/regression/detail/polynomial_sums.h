@@ -10,7 +10,7 @@
 #include "qorvex/stats/exact/detail/words.h"
 #include "qorvex/stats/exact/fixed_point.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// A magnitude, from its least significant word on, times a power of two.
 struct WordProduct {
@@ -68,4 +68,4 @@ class PolynomialSums {
   std::vector<WordSum> sums_;
 };
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -8,9 +8,10 @@
 #include <utility>
 
 #include "qorvex/stats/regression/detail/sweep.h"
+#include "qorvex/stats/regression/detail/zeros.h"
 #include "qorvex/stats/regression/linear_model.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::Dyadic;
 using exact::Rational;
@@ -20,9 +21,8 @@ namespace {
 // The integers of an elimination are at most as long as all of its columns together.
 constexpr std::size_t kMostColumns = 12;
 constexpr std::size_t kMostBits = 512;
-// The least and the greatest number of bits that are tried instead.
+// The number of bits that is tried first instead.
 constexpr std::size_t kFirstBits = 256;
-constexpr std::size_t kLastBits = 1024;
 // The bits of a figure that have to be right, beyond the 64 that it is rounded to.
 constexpr std::size_t kEnoughBits = 96;
 
@@ -71,14 +71,15 @@ Solution SolutionOf(const GramMatrix& gram, const SweptMatrix& swept,
 }
 
 // The bits that an elimination loses by cancellation: those of the condition, and those by which
-// the bound of a figure in terms of the data exceeds it. None is lost for a figure of 0 only if
-// that is exact, so this counts as all.
-std::int64_t LostBits(const GramMatrix& gram, const Solution& solution) {
+// the bound of a figure in terms of the data exceeds it. Figures that are known to be 0 lose none,
+// others of 0 all.
+std::int64_t LostBits(const GramMatrix& gram, const Solution& solution, const Zeros& zeros) {
   const std::size_t size = solution.Size();
   const auto condition = static_cast<std::int64_t>(std::ceil(solution.condition_bits)) + 1;
   const std::int64_t response = MagnitudeOf(gram.Sum(size, size));
   std::int64_t lost = 0;
   for (std::size_t i = 0; i < size; ++i) {
+    if (zeros.coefficients[i]) continue;
     const Rational coefficient(solution.coefficients[i], solution.determinant);
     if (coefficient.Sign() == 0) return std::numeric_limits<int>::max();
     // |b| <= sqrt(G^-1_ii y'y)
@@ -86,18 +87,26 @@ std::int64_t LostBits(const GramMatrix& gram, const Solution& solution) {
     const std::int64_t bound = (MagnitudeOf(inverse) + response + condition + 1) / 2;
     lost = std::max(lost, bound - MagnitudeOf(coefficient) + 2);
   }
-  // Sums of squares and, unless there are no terms, what each term and all of them explain.
-  std::vector<Rational> sums = solution.residual;
-  const std::size_t constants = solution.form.Constants();
-  for (std::size_t k = constants; k < size; ++k) {
-    sums.push_back(solution.residual[k] - solution.residual[k + 1]);
-    if (k + 1 == size) sums.push_back(solution.residual[constants] - solution.residual[size]);
+  // Sums of squares, and what each term explains; all of them explain no less.
+  std::vector<Rational> sums;
+  for (std::size_t k = 0; k <= size; ++k) {
+    if (!zeros.residual[k]) sums.push_back(solution.residual[k]);
+    if (k >= solution.form.Constants() && k < size && !zeros.terms[k])
+      sums.push_back(solution.residual[k] - solution.residual[k + 1]);
   }
   for (const Rational& sum : sums) {
     if (sum.Sign() == 0) return std::numeric_limits<int>::max();
     lost = std::max(lost, response - MagnitudeOf(sum) + 2);
   }
   return lost + condition + 4 * static_cast<std::int64_t>(std::bit_width(size + 1));
+}
+
+// For the column of a coefficient. The constant depends on nothing, unless the sums are those of no
+// rows.
+[[noreturn]] void RaiseCollinear(const GramMatrix& gram, std::size_t column) {
+  const std::size_t constants = gram.Form().Constants();
+  if (column < constants) throw EInvalidOp();
+  throw CollinearityError(gram.Form(), column - constants);
 }
 
 // CollinearityError; EInvalidOp if the sums are those of no rows.
@@ -108,7 +117,7 @@ Solution SolveInIntegers(const GramMatrix& gram) {
   for (std::size_t k = 0; k < size; ++k) {
     // Determinants of Gram matrices are not negative, and 0 for dependent columns only.
     const int sign = matrix.At(k, k).Sign();
-    if (sign == 0) throw CollinearityError(k - gram.Form().Constants());
+    if (sign == 0) RaiseCollinear(gram, k);
     if (sign < 0) throw EInvalidOp();
     matrix.SweepNext();
     residual.emplace_back(matrix.At(size, size), matrix.Determinant());
@@ -117,19 +126,26 @@ Solution SolveInIntegers(const GramMatrix& gram) {
   return SolutionOf(gram, matrix, std::move(residual));
 }
 
-// std::nullopt if too few of the bits are right in the end.
-std::optional<Solution> SolveWithBits(const GramMatrix& gram, std::size_t bits) {
+// With independent columns. std::nullopt if too few of the bits are right in the end.
+std::optional<Solution> SolveWithBits(const GramMatrix& gram, const Zeros& zeros,
+                                      std::size_t bits) {
   const std::size_t size = gram.Form().Coefficients();
   SweptMatrix matrix = MatrixOf(gram, bits);
   std::vector<Rational> residual{matrix.At(size, size)};
   for (std::size_t k = 0; k < size; ++k) {
     if (matrix.At(k, k).Sign() <= 0) return std::nullopt;
+    if (zeros.terms[k]) matrix.At(k, size) = 0;
     matrix.SweepNext();
-    if (matrix.At(size, size).Sign() <= 0) return std::nullopt;
-    residual.emplace_back(matrix.At(size, size), matrix.Determinant());
+    if (zeros.residual[k + 1]) matrix.At(size, size) = 0;
+    if (matrix.At(size, size).Sign() < 0) return std::nullopt;
+    residual.push_back(zeros.terms[k] ? residual.back()
+                                      : Rational(matrix.At(size, size), matrix.Determinant()));
+  }
+  for (std::size_t i = 0; i < size; ++i) {
+    if (zeros.coefficients[i]) matrix.At(i, size) = 0;
   }
   Solution solution = SolutionOf(gram, matrix, std::move(residual));
-  const auto precision = static_cast<std::int64_t>(bits) - LostBits(gram, solution);
+  const auto precision = static_cast<std::int64_t>(bits) - LostBits(gram, solution, zeros);
   if (precision < static_cast<std::int64_t>(kEnoughBits)) return std::nullopt;
   solution.precision = static_cast<std::size_t>(precision);
   return solution;
@@ -159,11 +175,15 @@ Solution Solve(const GramMatrix& gram) {
       longest = std::max(longest, gram.Sum(i, j).Mantissa().BitLength());
   }
   if (gram.Form().Coefficients() > kMostColumns || longest > kMostBits) {
-    for (std::size_t bits = kFirstBits; bits <= kLastBits; bits *= 2) {
-      if (std::optional<Solution> solution = SolveWithBits(gram, bits)) return *std::move(solution);
+    const Zeros zeros = FindZeros(gram);
+    if (zeros.independent < zeros.coefficients.size()) RaiseCollinear(gram, zeros.independent);
+    // More bits than integers have are no gain.
+    for (std::size_t bits = kFirstBits; bits < zeros.bits; bits *= 2) {
+      if (std::optional<Solution> solution = SolveWithBits(gram, zeros, bits))
+        return *std::move(solution);
     }
   }
   return SolveInIntegers(gram);
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

@@ -6,7 +6,7 @@
 #include "qorvex/base/exact/rational.h"
 #include "qorvex/stats/regression/gram_matrix.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// What a regression is solved for, without any rounding, or to within `precision` bits. The scale
 /// of decimal data is put in where a value is read.
@@ -42,7 +42,8 @@ struct Solution {
 };
 
 /// Solves the normal equations: exactly where that is cheap, otherwise with as many bits as their
-/// condition asks for, and exactly if too many would be needed. CollinearityError.
+/// condition asks for, and exactly if that would take longer. Figures of 0 are exact. Errors as for
+/// LinearModel::Fit.
 [[nodiscard]] Solution Solve(const GramMatrix& gram);
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

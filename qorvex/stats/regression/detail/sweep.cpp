@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 using exact::BigInteger;
 using exact::Dyadic;
@@ -56,4 +56,4 @@ void SweptMatrix::SweepNext() {
   At(k, k) = std::exchange(determinant_, pivot);
 }
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression

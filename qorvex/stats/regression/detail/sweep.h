@@ -5,7 +5,7 @@
 
 #include "qorvex/base/exact/dyadic.h"
 
-namespace qorvex::detail {
+namespace qorvex::regression {
 
 /// A symmetric matrix on which columns are swept one after the other.
 ///
@@ -36,4 +36,4 @@ class SweptMatrix {
   std::vector<exact::Dyadic> elements_;  // the rows from the diagonal on
 };
 
-}  // namespace qorvex::detail
+}  // namespace qorvex::regression
