@@ -404,7 +404,7 @@ TEST(ExactSample, ReadsOnlyItsOwnBytes) {
     constexpr std::size_t kAt = 4 + 1 + 1 + 2 + 4 * 8 + 1;
     impossible = bytes_of(values);
     std::copy_n(bytes_of({minimum, maximum}).begin() + kAt, 20, impossible.begin() + kAt);
-    EXPECT_MATH_ERROR(ExactSample<2>::FromBytes(impossible), rsInvalidValue) << minimum;
+    EXPECT_MATH_ERROR(ExactSample<2>::FromBytes(impossible), rsInvalidValue);
   }
 }
 

@@ -10,8 +10,8 @@
 namespace qorvex::testing {
 
 /// Data that reach every way of adding: close together, money, with both signs over twenty orders
-/// of magnitude, in two distant groups, over all exponents, subnormal, mostly zero,
-/// close together except for a few.
+/// of magnitude, in two distant groups, over all exponents, subnormal, mostly zero, close
+/// together but for a few.
 enum class Kind { kClose, kMoney, kMixed, kGroups, kScattered, kTiny, kZeros, kOutliers };
 inline constexpr Kind kKinds[] = {Kind::kClose,     Kind::kMoney, Kind::kMixed, Kind::kGroups,
                                   Kind::kScattered, Kind::kTiny,  Kind::kZeros, Kind::kOutliers};
