@@ -46,7 +46,10 @@ class Classes {
 
  private:
   [[nodiscard]] std::int64_t Exactly(Extended x) const {
-    const Extended position = (x - lower_) / width_;
+    // Halves have a finite difference where the values have none.
+    const Extended distance = x - lower_;
+    const Extended position =
+        std::isinf(distance) ? (x / 2 - lower_ / 2) / (width_ / 2) : distance / width_;
     const Extended nearest = std::rint(position);
     const Extended tolerance = tolerance_ * std::max(std::fabs(lower_), std::fabs(x));
     const bool at_bound = std::fabs(position - nearest) * width_ <= tolerance;

@@ -10,7 +10,8 @@
 /// - NaN or an infinity in a column gives NaN in its row and column.
 /// - EMathError, in this order: rsMatrixIsEmpty for no columns; rsSameDimensions for columns of
 ///   different lengths; rsVectorIsEmpty for no values.
-/// - For all numeric elements.
+/// - For all numeric elements. The stored integers of amounts have the same correlations, and
+///   covariances in units of theirs.
 /// - Cost: O(n p^2) for p columns of n values.
 
 #include <vector>

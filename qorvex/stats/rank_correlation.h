@@ -10,7 +10,7 @@
 ///   perfect correlation is exactly 1 or -1.
 /// - EMathError, in this order: rsSameDimensions for different lengths; rsVectorIsEmpty; rsVectorG1
 ///   for one pair; without a NaN, rsSameValue if all x or all y are equal.
-/// - For all numeric elements; x and y may differ in type.
+/// - For all numeric elements; x and y may differ in type. Amounts rank as their stored integers.
 /// - Cost: O(n log n) time, 64 bytes of memory per pair.
 
 #include <cstdint>

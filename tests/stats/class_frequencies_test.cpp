@@ -39,6 +39,8 @@ TEST(ClassFrequencies, CountWhatIsOutside) {
             (TQorLWordVector{0, 1, 1}));
   EXPECT_EQ(ClassFrequencies(TQorFloatVector{1.25e4000L, 1e4000L}, 1e4000L, 1e3999L, 3),
             (TQorLWordVector{1, 0, 1}));
+  EXPECT_EQ(ClassFrequencies(TQorFloatVector{0.5e4932L, -0.5e4932L}, -1e4932L, 1e4932L, 2),
+            (TQorLWordVector{1, 1}));
   EXPECT_EQ(ClassFrequencies(TQorFloatVector(), 5, 1, 2), (TQorLWordVector{0, 0}));
 }
 

@@ -1,6 +1,7 @@
 #include "qorvex/stats/exact/exact_pairs.h"
 
 #include <limits>
+#include <utility>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/exact/rational.h"
@@ -29,9 +30,8 @@ Rational InUnits(const Rational& number, int decimals) {
 }
 
 // The sum over n.
-Extended Mean(const ExactSum& sum, std::uint64_t n, int decimals) {
-  // A sum of zeros keeps its sign.
-  if (!sum.IsFinite() || sum.Value().Sign() == 0) return sum.Round();
+Extended Quotient(const ExactSum& sum, std::uint64_t n, int decimals) {
+  if (!sum.IsFinite()) return sum.Round();
   return InUnits(Rational(sum.Value(), n), decimals).Round();
 }
 
@@ -69,12 +69,14 @@ void ExactPairs::Add(VectorView<Extended> x, VectorView<Extended> y) {
 
 void ExactPairs::Merge(const ExactPairs& other) {
   RequireDecimalsOf(other);
-  count_ += other.count_;
-  x_.Merge(other.x_);
-  y_.Merge(other.y_);
-  xx_.Merge(other.xx_);
-  xy_.Merge(other.xy_);
-  yy_.Merge(other.yy_);
+  ExactPairs merged = *this;
+  merged.count_ += other.count_;
+  merged.x_.Merge(other.x_);
+  merged.y_.Merge(other.y_);
+  merged.xx_.Merge(other.xx_);
+  merged.xy_.Merge(other.xy_);
+  merged.yy_.Merge(other.yy_);
+  *this = std::move(merged);
 }
 
 void ExactPairs::RequireDecimalsOf(const ExactPairs& other) const {
@@ -86,42 +88,44 @@ void ExactPairs::RequireDecimalsOf(const ExactPairs& other) const {
 void ExactPairs::Remove(const ExactPairs& other) {
   RequireDecimalsOf(other);
   if (other.count_ > count_) RaiseMathError(rsInvalidValue);
-  count_ -= other.count_;
-  x_.Remove(other.x_);
-  y_.Remove(other.y_);
-  xx_.Remove(other.xx_);
-  xy_.Remove(other.xy_);
-  yy_.Remove(other.yy_);
+  ExactPairs rest = *this;
+  rest.count_ -= other.count_;
+  rest.x_.Remove(other.x_);
+  rest.y_.Remove(other.y_);
+  rest.xx_.Remove(other.xx_);
+  rest.xy_.Remove(other.xy_);
+  rest.yy_.Remove(other.yy_);
+  *this = std::move(rest);
 }
 
 Extended ExactPairs::SumX() const {
-  return Mean(x_, 1, x_decimals_);
+  return Quotient(x_, 1, x_decimals_);
 }
 
 Extended ExactPairs::SumY() const {
-  return Mean(y_, 1, y_decimals_);
+  return Quotient(y_, 1, y_decimals_);
 }
 
 Extended ExactPairs::SumOfSquaresX() const {
-  return Mean(xx_, 1, 2 * x_decimals_);
+  return Quotient(xx_, 1, 2 * x_decimals_);
 }
 
 Extended ExactPairs::SumOfSquaresY() const {
-  return Mean(yy_, 1, 2 * y_decimals_);
+  return Quotient(yy_, 1, 2 * y_decimals_);
 }
 
 Extended ExactPairs::SumOfProducts() const {
-  return Mean(xy_, 1, x_decimals_ + y_decimals_);
+  return Quotient(xy_, 1, x_decimals_ + y_decimals_);
 }
 
 Extended ExactPairs::MeanX() const {
   RequireCount(count_, 1);
-  return Mean(x_, count_, x_decimals_);
+  return Quotient(x_, count_, x_decimals_);
 }
 
 Extended ExactPairs::MeanY() const {
   RequireCount(count_, 1);
-  return Mean(y_, count_, y_decimals_);
+  return Quotient(y_, count_, y_decimals_);
 }
 
 Extended ExactPairs::Moment(const ExactSum& products, const Variable& a, const Variable& b,

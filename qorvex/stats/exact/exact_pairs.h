@@ -19,12 +19,16 @@ namespace qorvex {
 /// least-squares line that they determine.
 ///
 /// - Every figure is the extended number nearest to its exact value, ties to even; infinite beyond
-///   the format. Digits that all values have in common cost nothing.
+///   the format. Common leading digits lose no accuracy.
 /// - The order of the pairs, and how they are split over several objects that are merged, makes no
 ///   difference to any bit. An object belongs to one thread at a time: several threads fill one
 ///   each, and the objects are merged.
 /// - NaN and infinities: the means are those of IEEE 754 arithmetic, other figures that depend on
-///   the variable are NaN.
+///   the variable are NaN. Zeros have no sign: a figure that is exactly 0 is +0.
+/// - For numeric elements; decimal numbers are added as integers with their decimals. Amounts:
+///   LinearModel, or an ExactSample of each variable.
+/// - std::bad_alloc: Merge and Remove change nothing. After Add the object must be assigned or
+///   destroyed.
 /// - EMathError if there are too few pairs: rsVectorIsEmpty for none, rsVectorG1 for one pair in
 ///   sample figures.
 /// - Cost: O(1) for a pair, some microseconds for a figure.
@@ -52,8 +56,8 @@ class QORVEX_EXPORT ExactPairs {
   /// Adds the pairs of another object. EMathError rsInvalidValue if it has other decimals.
   void Merge(const ExactPairs& other);
   /// Takes back the pairs of another object. They must have been added before, which is not checked
-  /// beyond their number: EMathError rsInvalidValue if there are fewer pairs, or if the object has
-  /// other decimals.
+  /// beyond their number: EMathError rsInvalidValue if there are fewer pairs, NaNs or infinities,
+  /// or if the object has other decimals.
   void Remove(const ExactPairs& other);
   /// Takes back what an Add has added.
   template <class X, class Y>

@@ -65,8 +65,8 @@ void ExactSample<kPowerSums>::Add(VectorView<T> values) {
       }
       sum.Flush();
     }
-    Count(values.size() - static_cast<std::uint64_t>(special_.Total() - special),
-          WithoutSignOfZero(extremes.Least()), WithoutSignOfZero(extremes.Greatest()));
+    CountValues(values.size() - static_cast<std::uint64_t>(special_.Total() - special),
+                WithoutSignOfZero(extremes.Least()), WithoutSignOfZero(extremes.Greatest()));
   }
 }
 
@@ -111,22 +111,25 @@ void ExactSample<kPowerSums>::Refine(int decimals) {
 
 template <int kPowerSums>
 void ExactSample<kPowerSums>::Merge(const ExactSample& other) {
-  special_ += other.special_;
-  if (other.finite_ == 0) return;
-  if (decimals_ > other.decimals_ && finite_ > 0) {
+  if (finite_ > 0 && other.finite_ > 0 && decimals_ > other.decimals_) {
     ExactSample refined = other;
-    refined.special_ = {};
     refined.Refine(decimals_);
     return Merge(refined);
   }
-  Refine(other.decimals_);
-  for (std::size_t k = 0; k < sums_.size(); ++k) sums_[k] += other.sums_[k];
-  Count(other.finite_, other.minimum_, other.maximum_);
+  ExactSample merged = *this;
+  merged.special_ += other.special_;
+  if (other.finite_ > 0) {
+    merged.Refine(other.decimals_);
+    for (std::size_t k = 0; k < sums_.size(); ++k) merged.sums_[k] += other.sums_[k];
+    merged.CountValues(other.finite_, other.minimum_, other.maximum_);
+  }
+  *this = std::move(merged);
 }
 
 template <int kPowerSums>
-void ExactSample<kPowerSums>::Count(std::uint64_t finite, const std::optional<Extended>& minimum,
-                                    const std::optional<Extended>& maximum) {
+void ExactSample<kPowerSums>::CountValues(std::uint64_t finite,
+                                          const std::optional<Extended>& minimum,
+                                          const std::optional<Extended>& maximum) {
   if (finite == 0) return;
   if (finite_ == 0) {
     minimum_ = minimum;
@@ -141,25 +144,26 @@ void ExactSample<kPowerSums>::Count(std::uint64_t finite, const std::optional<Ex
 
 template <int kPowerSums>
 void ExactSample<kPowerSums>::Remove(const ExactSample& other) {
-  if (other.finite_ > finite_ || other.special_.nan > special_.nan ||
-      other.special_.positive_infinity > special_.positive_infinity ||
-      other.special_.negative_infinity > special_.negative_infinity) {
+  if (other.finite_ > finite_ || !special_.Contains(other.special_)) {
     RaiseMathError(rsInvalidValue);
   }
-  special_ -= other.special_;
-  if (other.finite_ == 0) return;
-  ExactSample part = other;
-  const int decimals = std::max(decimals_, part.decimals_);
-  Refine(decimals);
-  part.Refine(decimals);
-  for (std::size_t k = 0; k < sums_.size(); ++k) sums_[k] -= part.sums_[k];
-  finite_ -= part.finite_;
-  if (!(minimum_ && part.minimum_ && *minimum_ < *part.minimum_)) minimum_.reset();
-  if (!(maximum_ && part.maximum_ && *maximum_ > *part.maximum_)) maximum_.reset();
-  if (finite_ == 0) {
-    sums_ = Sums();
-    decimals_ = 0;
+  ExactSample rest = *this;
+  rest.special_ -= other.special_;
+  if (other.finite_ > 0) {
+    ExactSample part = other;
+    const int decimals = std::max(decimals_, part.decimals_);
+    rest.Refine(decimals);
+    part.Refine(decimals);
+    for (std::size_t k = 0; k < sums_.size(); ++k) rest.sums_[k] -= part.sums_[k];
+    rest.finite_ -= part.finite_;
+    if (!(minimum_ && part.minimum_ && *minimum_ < *part.minimum_)) rest.minimum_.reset();
+    if (!(maximum_ && part.maximum_ && *maximum_ > *part.maximum_)) rest.maximum_.reset();
+    if (rest.finite_ == 0) {
+      rest.sums_ = Sums();
+      rest.decimals_ = 0;
+    }
   }
+  *this = std::move(rest);
 }
 
 template <int kPowerSums>

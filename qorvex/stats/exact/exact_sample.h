@@ -20,6 +20,10 @@
 
 namespace qorvex {
 
+namespace exact::detail {
+struct PowerSums;
+}
+
 /// What a sample says about its values, without the values: their number, the exact sums of their
 /// powers, and their extremes.
 ///
@@ -30,9 +34,14 @@ namespace qorvex {
 /// - Amounts and scaled integers count as the decimal numbers that they stand for, and not as the
 ///   nearest extended ones. They may be mixed with others.
 /// - kPowerSums = 2 has the figures up to the standard deviation; 4 has skewness and kurtosis too,
-///   and takes three times as long.
-/// - NaN and infinities have the result that IEEE 754 gives the formula: the mean is then NaN or
-///   infinite, the other figures are NaN. They are counted, so that they can be removed again.
+///   and takes more than twice as long.
+/// - NaN and infinities have the result that IEEE 754 gives the formula: sums and mean are then NaN
+///   or infinite, extremes stay, and the figures of spread and shape are NaN. They are counted, so
+///   that they can be removed again.
+/// - Zeros have no sign: a figure that is exactly 0 is +0.
+/// - Extended values must not be encodings that the processor refuses, which no arithmetic yields.
+/// - std::bad_alloc: Merge and Remove change nothing. After Add the sample must be assigned or
+///   destroyed.
 /// - No value: EMathError rsVectorIsEmpty, except for sums, which are 0.
 /// - Cost: O(1) for a value, a few microseconds for a figure. The object has some hundred bytes, at
 ///   worst a few kilobytes for each power.
@@ -128,8 +137,8 @@ class QORVEX_EXPORT ExactSample {
 
   /// @{
   /// The exact mean, the exact sum of (x - mean)^2, and the exact sum of the powers x^k for 1 <= k
-  /// <= kPowerSums. EInvalidOp unless all values are finite; EMathError rsInvalidValue for another
-  /// k.
+  /// <= kPowerSums. EMathError rsInvalidValue for another k; EInvalidOp unless all values are
+  /// finite.
   [[nodiscard]] exact::Rational ExactMean() const;
   [[nodiscard]] exact::Rational ExactSumOfSquaredDeviations() const;
   [[nodiscard]] exact::Rational PowerSum(int k) const;
@@ -144,7 +153,8 @@ class QORVEX_EXPORT ExactSample {
   /// | 1     | version: 1                                                                     |
   /// | 1     | kPowerSums                                                                     |
   /// | 2     | decimals d, as few as possible                                                 |
-  /// | 8 * 4 | how many values are finite, NaN, positive infinities, negative infinities      |
+  /// | 8 * 4 | how many values are finite, NaN, positive infinities, negative infinities: at  |
+  /// |       | most 2^61 each                                                                 |
   /// | 1     | 1 if the minimum of the finite values is known, plus 2 if the maximum is       |
   /// | 10    | minimum: 80 bits, 0 if unknown                                                 |
   /// | 10    | maximum                                                                        |
@@ -168,8 +178,8 @@ class QORVEX_EXPORT ExactSample {
   template <class T>
   void AddIntegers(VectorView<T> values, int decimals);
   // Counts finite values and their extremes.
-  void Count(std::uint64_t finite, const std::optional<Extended>& minimum,
-             const std::optional<Extended>& maximum);
+  void CountValues(std::uint64_t finite, const std::optional<Extended>& minimum,
+                   const std::optional<Extended>& maximum);
   [[nodiscard]] bool IsEqual(const ExactSample& other) const;
   // Changes the unit of the sums to 10^-decimals, which must not be a larger one.
   void Refine(int decimals);
@@ -177,12 +187,8 @@ class QORVEX_EXPORT ExactSample {
   [[nodiscard]] ExactSample Canonical() const;
   // 10^decimals, to the power k.
   [[nodiscard]] exact::Dyadic Unit(int k) const;
-  // The central moments times n^2, n^3 and n^4, in units.
-  [[nodiscard]] exact::Dyadic SecondMoment() const;
-  [[nodiscard]] exact::Dyadic ThirdMoment() const requires(kPowerSums == 4);
-  [[nodiscard]] exact::Dyadic FourthMoment() const requires(kPowerSums == 4);
-  // SecondMoment(), which must not be 0.
-  [[nodiscard]] exact::Dyadic Spread() const;
+  // The sums in units, of which skewness and kurtosis are independent.
+  [[nodiscard]] exact::detail::PowerSums Powers() const;
   // The sum of (x - mean)^2 over the divisor.
   [[nodiscard]] exact::Rational Variance(std::uint64_t divisor) const;
   // Whether sums of any values can be like this.

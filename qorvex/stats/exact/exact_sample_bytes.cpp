@@ -4,6 +4,7 @@
 #include <string>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/stats/detail/exact_moments.h"
 #include "qorvex/stats/exact/exact_sample.h"
 
 namespace qorvex {
@@ -75,6 +76,7 @@ class Reader {
     if ((high & 0x7FFFU) == 0x7FFFU || (mantissa >> 63 != 0) != ((high & 0x7FFFU) != 0)) {
       Reject("an extreme is not a finite number");
     }
+    if (mantissa == 0 && high != 0) Reject("an extreme is -0");
     Extended value = 0;
     std::memcpy(&value, &mantissa, sizeof mantissa);
     std::memcpy(reinterpret_cast<char*>(&value) + sizeof mantissa, &high, sizeof high);
@@ -161,13 +163,18 @@ bool ExactSample<kPowerSums>::IsPossible() const {
     return !minimum_ && !maximum_ &&
            std::ranges::all_of(sums_, [](const FixedPoint& sum) { return sum.Sign() == 0; });
   }
-  if (minimum_ && maximum_ && *minimum_ > *maximum_) return false;
-  const Dyadic second = SecondMoment();
+  const Extended mean = exact::Rational(sums_[0].Value(), Dyadic(finite_) * Unit(1)).Round();
+  if ((minimum_ && *minimum_ > mean) || (maximum_ && *maximum_ < mean)) return false;
+  const exact::detail::PowerSums powers = Powers();
+  const Dyadic second = powers.SecondMoment();
   if (second.Sign() < 0) return false;
+  if (second.Sign() == 0 && (minimum_.value_or(mean) != mean || maximum_.value_or(mean) != mean)) {
+    return false;
+  }
   if constexpr (kPowerSums == 4) {
     // Pearson (1916): kurtosis >= 1 + skewness^2.
-    const Dyadic third = ThirdMoment();
-    const Dyadic fourth = FourthMoment();
+    const Dyadic third = powers.ThirdMoment();
+    const Dyadic fourth = powers.FourthMoment();
     if (second.Sign() == 0) return third.Sign() == 0 && fourth.Sign() == 0;
     return fourth * second >= third * third + second * second * second;
   }

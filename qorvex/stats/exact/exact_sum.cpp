@@ -18,14 +18,14 @@ template <class T, std::size_t kFactors>
 void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size_t count) {
   const Products<T, kFactors> products(factors);
   for (std::size_t i = 0; i < count && zero_ != Zero::kPositive; ++i) {
-    const Extended value = products.Value(i);
-    zero_ = value == 0 && std::signbit(value) ? Zero::kNegative : Zero::kPositive;
+    const Extended kind = products.Kind(i);
+    zero_ = kind == 0 && std::signbit(kind) ? Zero::kNegative : Zero::kPositive;
   }
   constexpr std::size_t kFew = 16;
   if (count <= kFew) {
     for (std::size_t i = 0; i < count; ++i) {
       if (!products.IsFinite(i)) {
-        special_.Add(products.Value(i));
+        special_.Add(products.Kind(i));
         continue;
       }
       const auto x = products(i);
@@ -84,6 +84,7 @@ void ExactSum::Merge(const ExactSum& other) {
 }
 
 void ExactSum::Remove(const ExactSum& other) {
+  if (!special_.Contains(other.special_)) RaiseMathError(rsInvalidValue);
   total_ -= other.total_;
   special_ -= other.special_;
   zero_ = Zero::kPositive;

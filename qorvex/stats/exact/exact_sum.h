@@ -21,10 +21,14 @@ namespace qorvex {
 /// - NaN and infinities have the result that IEEE 754 gives their sum; they are counted, so that
 ///   they can be removed again. A product of an infinity and 0 is NaN.
 /// - Nothing overflows or underflows before it is rounded.
-/// - The sum of no value is 0. A sum of nothing but -0 is -0; every other zero is +0. Whoever
-///   removes values is left with +0.
-/// - Cost: O(1) for a value, less than the time of a plain sum for a long range, a microsecond for
-///   Round(). The object has some hundred bytes, at worst a few kilobytes.
+/// - The sum of no value is 0. A sum of nothing but -0 is -0; every other zero is +0. After a
+///   removal a zero sum is +0.
+/// - For numeric elements. Amounts and decimal numbers: ExactSample, which adds them as such.
+/// - Extended values must not be encodings that the processor refuses, which no arithmetic yields.
+/// - std::bad_alloc: Merge and Remove change nothing; the others may have added some of the terms.
+/// - Cost: O(1) for a value. A long range takes less time than a plain sum, but up to twice as long
+///   if its exponents are scattered over the whole range. Round() takes a microsecond. The object
+///   has some hundred bytes, at worst a few kilobytes.
 ///
 /// Source: Neal (2015), "Fast exact summation using small and large superaccumulators".
 class QORVEX_EXPORT ExactSum {
@@ -83,7 +87,8 @@ class QORVEX_EXPORT ExactSum {
 
   /// Adds everything that another sum has added.
   void Merge(const ExactSum& other);
-  /// Takes back everything that another sum has added.
+  /// Takes back everything that another sum has added. EMathError rsInvalidValue if it has more
+  /// NaNs or infinities; finite values are not checked.
   void Remove(const ExactSum& other);
   /// @{
   /// Take back what the Add of that name has added.

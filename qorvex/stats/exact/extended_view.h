@@ -3,6 +3,7 @@
 /// @file
 /// Extended values of any numeric range.
 
+#include <ranges>
 #include <type_traits>
 
 #include "qorvex/base/vector_types.h"
@@ -21,5 +22,9 @@ requires NumericElement<ElementOf<Range>>
     return ConvertVector<Extended>(values);
   }
 }
+/// Not for a temporary vector, which its view would outlive.
+template <ContiguousRange Range>
+requires std::is_same_v<ElementOf<Range>, Extended>
+void AsExtended(const Range&& values) requires(!std::ranges::borrowed_range<Range>) = delete;
 
 }  // namespace qorvex

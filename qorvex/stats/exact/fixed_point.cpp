@@ -4,6 +4,8 @@
 #include <bit>
 #include <cstddef>
 
+#include "qorvex/base/errors.h"
+
 namespace qorvex::exact {
 
 namespace {
@@ -12,6 +14,14 @@ constexpr int kWordBits = 64;
 
 constexpr std::uint64_t SignWord(bool negative) noexcept {
   return negative ? ~std::uint64_t{0} : 0;
+}
+
+// The magnitude of positions. Totals are as long as their positions are apart.
+constexpr std::int64_t kMaxPosition = std::int64_t{1} << 24;
+constexpr std::int64_t kMaxExponent = kMaxPosition * kWordBits;
+
+void RequireUpTo(std::int64_t largest, std::int64_t value) {
+  if (value < -largest || value > largest) throw EOverflow();
 }
 
 // Two of these can be added without overflow.
@@ -61,6 +71,7 @@ void FixedPoint::Add(std::span<const std::uint64_t> magnitude, std::int64_t expo
     magnitude = magnitude.first(magnitude.size() - 1);
   }
   if (magnitude.empty()) return;
+  RequireUpTo(kMaxExponent, exponent);
   const auto first = static_cast<std::int32_t>(exponent >> 6);
   const int shift = static_cast<int>(exponent & 63);
   const int bits = shift + static_cast<int>(std::bit_width(magnitude.back()));
@@ -151,6 +162,7 @@ Dyadic FixedPoint::Value() const {
 }
 
 FixedPoint FixedPoint::FromWords(const Words& words) {
+  RequireUpTo(kMaxPosition, words.position);
   FixedPoint total;
   total.position_ = words.position;
   total.words_ = Limbs(words.words);

@@ -22,13 +22,13 @@ class QORVEX_EXPORT FixedPoint {
  public:
   /// 0.
   FixedPoint() = default;
-  /// The same number.
+  /// The same number. EOverflow as Add.
   explicit FixedPoint(const Dyadic& value) {
     Add(value.Mantissa().Magnitude(), value.Exponent(), value.Sign() < 0);
   }
 
   /// Adds magnitude * 2^exponent, or subtracts it if `negative` is set. The magnitude starts with
-  /// its least significant word.
+  /// its least significant word. EOverflow unless -2^30 <= exponent <= 2^30.
   void Add(std::span<const std::uint64_t> magnitude, std::int64_t exponent, bool negative);
   /// The same for a magnitude of one word.
   void Add(std::uint64_t magnitude, std::int64_t exponent, bool negative) {
@@ -55,7 +55,7 @@ class QORVEX_EXPORT FixedPoint {
   };
   /// The shortest form.
   [[nodiscard]] Words ShortestWords() const;
-  /// The total with these words, in any number.
+  /// The total with these words, in any number. EOverflow unless -2^24 <= position <= 2^24.
   [[nodiscard]] static FixedPoint FromWords(const Words& words);
 
   /// Equal totals.

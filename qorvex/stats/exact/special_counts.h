@@ -39,6 +39,11 @@ struct SpecialCounts {
     return *this;
   }
   /// @}
+  /// Whether no kind is counted more often in the other.
+  [[nodiscard]] bool Contains(const SpecialCounts& other) const {
+    return other.nan <= nan && other.positive_infinity <= positive_infinity &&
+           other.negative_infinity <= negative_infinity;
+  }
   /// Whether any is counted.
   [[nodiscard]] bool Any() const { return *this != SpecialCounts(); }
   /// The number of all.

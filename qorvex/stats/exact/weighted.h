@@ -11,7 +11,7 @@
 /// - EMathError, in this order: rsSameDimensions for different lengths; rsVectorIsEmpty;
 ///   rsInvalidWeight if a weight is negative, infinite or NaN; rsWeightsZero if all are zero.
 /// - For all numeric elements; values and weights may differ in type. Elements that are not
-///   Extended are converted to a temporary vector.
+///   Extended are converted to a temporary vector. LinearModel takes weighted amounts.
 /// - Cost: O(n).
 
 #include <cstdint>

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <numeric>
+#include <optional>
+#include <span>
 
 #include "qorvex/stats/detail/quantile_rule.h"
 #include "qorvex/stats/exact/detail/positive_weights.h"
@@ -46,9 +48,10 @@ Cumulated FirstToReach(std::span<const Extended> weights, const Dyadic& target) 
   return {first, before + Dyadic(weights[first])};
 }
 
-// Types 1 and 2.
+// Types 1 and 2 for weights that are not frequencies.
 Extended OfAnyWeights(const exact::detail::PositiveWeights& pairs, Extended p, bool averaged) {
   const VectorView<Extended> sorted = pairs.Values();
+  if (p == 1) return sorted[sorted.size() - 1];  // however small its weight is
   const Dyadic target = Dyadic(p) * SumOf(pairs.Weights());
   const Dyadic tolerance = target.Shifted(-61);  // 4 units in the last place
   const Cumulated reached = FirstToReach(pairs.Weights(), target - tolerance);
@@ -57,28 +60,30 @@ Extended OfAnyWeights(const exact::detail::PositiveWeights& pairs, Extended p, b
   return at_step ? std::midpoint(sorted[reached.index], sorted[next]) : sorted[reached.index];
 }
 
-// Types 3 to 9.
-Extended OfFrequencies(const exact::detail::PositiveWeights& pairs, Extended p, QuantileType type) {
+// The sum of frequencies; nothing for other weights.
+std::optional<std::uint64_t> TotalFrequency(std::span<const Extended> weights) {
   constexpr Extended largest_total = 0x1p62L;
   Extended total = 0;
-  for (const Extended weight : pairs.Weights()) {
+  for (const Extended weight : weights) {
     total += weight;
-    if (weight != std::rint(weight) || total > largest_total) RaiseMathError(rsFrequencies);
+    if (weight != std::rint(weight) || total > largest_total) return std::nullopt;
   }
-  return QorvexStatistics::detail::QuantileOf(
-      static_cast<std::uint64_t>(total), p, type, [&](std::uint64_t k) {
-        return pairs.Values()[FirstToReach(pairs.Weights(), Dyadic(k)).index];
-      });
+  return static_cast<std::uint64_t>(total);
 }
 
 }  // namespace
 
 Extended WeightedQuantile(VectorView<Extended> sorted, VectorView<Extended> weights, Extended p,
                           QuantileType type) {
-  QorvexStatistics::detail::RequireQuantile(p, type);
   const exact::detail::PositiveWeights pairs(sorted, weights);
-  return type <= QuantileType::k2 ? OfAnyWeights(pairs, p, type == QuantileType::k2)
-                                  : OfFrequencies(pairs, p, type);
+  QorvexStatistics::detail::RequireQuantile(p, type);
+  if (const auto total = TotalFrequency(pairs.Weights())) {
+    return QorvexStatistics::detail::QuantileOf(*total, p, type, [&](std::uint64_t k) {
+      return pairs.Values()[FirstToReach(pairs.Weights(), Dyadic(k)).index];
+    });
+  }
+  if (type > QuantileType::k2) RaiseMathError(rsFrequencies);
+  return OfAnyWeights(pairs, p, type == QuantileType::k2);
 }
 
 }  // namespace qorvex

@@ -21,12 +21,12 @@ namespace qorvex {
 ///   weight says, without building it. Frequencies are whole numbers whose sum is at most 2^62.
 ///   For such weights types 1 and 2 agree with GetQuantile as well.
 /// - Weights are added exactly. A sum within 4 units in the last place of p times the total counts
-///   as equal to it.
+///   as equal to it. p = 1 gives the last value that counts, however small its weight is.
 /// - A value of weight 0 does not count, not even NaN. NaN sorts last; see GetQuantile.
-/// - EMathError, in this order: rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside
-///   1 to 9; rsSameDimensions for different lengths; rsVectorIsEmpty; rsInvalidWeight if a weight
-///   is negative, infinite or NaN; rsWeightsZero if all are zero; rsFrequencies if the types 3 to 9
-///   get other weights than frequencies.
+/// - EMathError, in this order: rsSameDimensions for different lengths; rsVectorIsEmpty;
+///   rsInvalidWeight if a weight is negative, infinite or NaN; rsWeightsZero if all are zero;
+///   rsValue01Inc unless 0 <= p <= 1; rsInvalidValue for a type outside 1 to 9; rsFrequencies if
+///   the types 3 to 9 get other weights than frequencies.
 /// - For all numeric elements; values and weights may differ in type. Elements that are not
 ///   Extended are converted to a temporary vector.
 /// - Cost: O(n).

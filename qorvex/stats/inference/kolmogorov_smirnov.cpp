@@ -16,6 +16,19 @@ namespace {
 // The largest sample with an exact p.
 constexpr std::size_t kLargestExact = 1000;
 
+// P(D >= d) for n (1 - d) < 1. Then all values lie in one tail of probability 1 - d; for kTwoSided
+// that counts on either side.
+Scaled AllInOneTail(const std::vector<Tails>& tails, Alternative alternative) {
+  const Scaled above = tails.back().ScaledProbability(Tail::kLower);
+  const Scaled below = tails.front().ScaledProbability(Tail::kUpper);
+  const bool is_above = alternative == Alternative::kGreater ||
+                        (alternative == Alternative::kTwoSided && above.Value() < below.Value());
+  const Scaled& tail = is_above ? above : below;
+  if (tail.factor == 0) return tail;
+  const auto n = static_cast<Extended>(tails.size());
+  return {alternative == Alternative::kTwoSided ? 2.0L : 1.0L, special::Ln(tail) * n};
+}
+
 }  // namespace
 
 namespace inference {
@@ -32,28 +45,29 @@ TestResult KolmogorovSmirnovOfTails(const std::vector<Tails>& tails, Alternative
   const std::size_t n = tails.size();
   const auto size = static_cast<Extended>(n);
   TestResult result{.form = n <= kLargestExact ? TestForm::kExact : TestForm::kLimit};
-  Extended above = 0;  // n times the greatest distance of the empirical function above the other
-  Extended below = 0;
+  // What the greatest distance leaves of 1, times n. Unlike the distance, it keeps its digits where
+  // p is small.
+  ExtendedPair rest = size;
+  const auto reach = [&](ExtendedPair other) {
+    if ((other - rest).hi < 0) rest = other;
+  };
   for (std::size_t i = 0; i < n; ++i) {
     const Extended lower = tails[i].Probability(Tail::kLower);
     const Extended upper = tails[i].Probability(Tail::kUpper);
     if (std::isnan(lower)) return result;
+    const ExtendedPair scaled_lower = lower < upper
+                                          ? special::ExactProduct(size, lower)
+                                          : ExtendedPair(size) - special::ExactProduct(size, upper);
     const auto before = static_cast<Extended>(i);
-    const auto after = static_cast<Extended>(n - i);
-    if (lower < upper) {
-      above = std::max(above, before + 1 - size * lower);
-      below = std::max(below, size * lower - before);
-    } else {
-      above = std::max(above, size * upper - (after - 1));
-      below = std::max(below, after - size * upper);
-    }
+    if (alternative != Alternative::kLess) reach(scaled_lower + ExtendedPair(size - 1 - before));
+    if (alternative != Alternative::kGreater) reach(ExtendedPair(size + before) - scaled_lower);
   }
-  if (alternative == Alternative::kGreater) below = 0;
-  if (alternative == Alternative::kLess) above = 0;
-  result.statistic = std::max(above, below) / size;
+  result.statistic = ((ExtendedPair(size) - rest) / ExtendedPair(size)).hi;
   if (result.statistic == 0) return WithP(result, {});
-  return WithP(result, n <= kLargestExact ? KolmogorovTail(n, result.statistic, alternative)
-                                          : KolmogorovLimit(size, result.statistic, alternative));
+  if (n > kLargestExact)
+    return WithTail(result, KolmogorovLimit(size, result.statistic, alternative), Tail::kUpper);
+  if (rest.hi < 1) return WithP(result, AllInOneTail(tails, alternative));
+  return WithTail(result, KolmogorovTails(n, rest, alternative), Tail::kUpper);
 }
 
 }  // namespace inference
@@ -88,8 +102,10 @@ TestResult KolmogorovSmirnovTest(VectorView<Extended> first, VectorView<Extended
   if (bound == 0) return WithP(result, {});
   if (is_exact)
     return WithP(result, {SmirnovTail(n1, n2, bound, run_ends, alternative), ExtendedPair()});
-  return WithP(result, KolmogorovLimit(pairs / static_cast<Extended>(n1 + n2), result.statistic,
-                                       alternative));
+  return WithTail(
+      result,
+      KolmogorovLimit(pairs / static_cast<Extended>(n1 + n2), result.statistic, alternative),
+      Tail::kUpper);
 }
 
 }  // namespace qorvex

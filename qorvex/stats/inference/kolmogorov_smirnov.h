@@ -13,7 +13,7 @@
 
 #include "qorvex/base/export.h"
 #include "qorvex/stats/distributions/distribution.h"
-#include "qorvex/stats/exact/extended_view.h"
+#include "qorvex/stats/inference/comparable.h"
 #include "qorvex/stats/inference/test_result.h"
 
 namespace qorvex {
@@ -36,6 +36,7 @@ namespace inference {
 ///   n D^2 > 8 or D > 1/2 as twice the one-sided probability of Birnbaum and Tingey, which is then
 ///   the same to 1e-20. Beyond by the limit; the logarithm of a small p is then too large by about
 ///   2 D / 3 + 4 n D^4 / 9.
+/// - Takes numbers; amounts as Currency2Float gives them.
 /// - Errors: rsVectorIsEmpty for no values.
 /// - Cost: a sort, and n tails; the exact two-sided p up to 10 milliseconds for 1000 values.
 /// - Source: Marsaglia, Tsang and Wang (2003), "Evaluating Kolmogorov's distribution"; Birnbaum and
@@ -62,6 +63,7 @@ requires NumericElement<ElementOf<Range>>
 ///
 /// - Up to 1000 values in each sample p is exact, given the values that occur, ties included:
 ///   paths through the grid of both samples are counted. Beyond by the limit.
+/// - Takes numbers, or amounts of one type.
 /// - Errors: rsVectorIsEmpty for no values in a sample.
 /// - Cost: a sort; for the exact p some 5 nanoseconds times the product of the lengths.
 /// - Source: Hodges (1958), "The significance probability of the Smirnov two-sample test"; Schroeer
@@ -71,11 +73,11 @@ requires NumericElement<ElementOf<Range>>
 KolmogorovSmirnovTest(VectorView<Extended> first, VectorView<Extended> second,
                       Alternative alternative = Alternative::kTwoSided);
 template <ContiguousRange First, ContiguousRange Second>
-requires NumericElement<ElementOf<First>> && NumericElement<ElementOf<Second>>
+requires inference::ComparableElements<ElementOf<First>, ElementOf<Second>>
 [[nodiscard]] TestResult KolmogorovSmirnovTest(const First& first, const Second& second,
                                                Alternative alternative = Alternative::kTwoSided) {
-  return KolmogorovSmirnovTest(VectorView<Extended>(AsExtended(first)),
-                               VectorView<Extended>(AsExtended(second)), alternative);
+  return KolmogorovSmirnovTest(VectorView<Extended>(inference::Comparable(first)),
+                               VectorView<Extended>(inference::Comparable(second)), alternative);
 }
 /// @}
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/stats/distributions/detail/standard_normal.h"
 #include "qorvex/stats/inference/detail/exact_numbers.h"
+#include "qorvex/stats/inference/detail/exact_tails.h"
 #include "qorvex/stats/inference/detail/p_values.h"
 
 namespace qorvex {
@@ -72,10 +72,11 @@ TestResult CountedOut(const std::vector<Count>& counts, std::size_t statistic,
   Count favourable = alternative == Alternative::kLess ? at_most : at_least;
   if (alternative == Alternative::kTwoSided)
     favourable = std::min(2 * std::min(at_most, at_least), total);
-  TestResult result{.statistic = static_cast<Extended>(statistic)};
-  result.p = Rational(ToDyadic(favourable), ToDyadic(total)).Round();
-  result.log_p = std::log(result.p);
-  return result;
+  const TestResult result{.statistic = static_cast<Extended>(statistic)};
+  const bool is_likely = favourable > total / 2;
+  const Rational known(ToDyadic(is_likely ? total - favourable : favourable), ToDyadic(total));
+  return WithTail(result, {is_likely ? Tail::kLower : Tail::kUpper, {known.Round(), {}}},
+                  Tail::kUpper);
 }
 
 // p from a normal distribution; distance and variance are those of the statistic from its mean.
@@ -87,7 +88,7 @@ TestResult Approximated(Rational statistic, Rational distance, const Rational& v
   const Rational corrected = distance - Rational(direction * 0.5L);
   const ExtendedPair z = RootToPair(corrected * corrected / variance, corrected.Sign());
   const TestResult result{.statistic = statistic.Round(), .form = TestForm::kNormalApproximation};
-  return WithTails(result, distributions::StandardNormalTails(z), alternative);
+  return WithNormalTails(result, z, alternative);
 }
 
 // The number of ways to choose m of m + n values, for each U.

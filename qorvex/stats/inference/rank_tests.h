@@ -4,8 +4,8 @@
 /// Tests on ranks.
 ///
 /// - Differences are compared with 125 bits, so that rounding them neither makes nor breaks a tie.
-///   Decimals tie as they should where the stored integers of amounts or of decimal columns are
-///   passed: 80 bits hold 0.3 - 0.1 and 0.2 differently.
+///   Decimals tie as they should as amounts of one type, with an amount as shift or centre, or as
+///   the integers of a decimal column: 80 bits hold 0.3 - 0.1 and 0.2 differently.
 /// - p is exact, and rounded once, up to 50 values in each sample without ties. Otherwise it comes
 ///   from the normal approximation, with the variance corrected for ties and the statistic moved by
 ///   1/2 so that p grows.
@@ -15,7 +15,7 @@
 ///   "On a test of whether one of two random variables is stochastically larger than the other".
 
 #include "qorvex/base/export.h"
-#include "qorvex/stats/exact/extended_view.h"
+#include "qorvex/stats/inference/comparable.h"
 #include "qorvex/stats/inference/test_result.h"
 
 namespace qorvex {
@@ -31,12 +31,13 @@ namespace qorvex {
 MannWhitneyTest(VectorView<Extended> first, VectorView<Extended> second, Extended shift = 0,
                 Alternative alternative = Alternative::kTwoSided);
 template <ContiguousRange First, ContiguousRange Second>
-requires NumericElement<ElementOf<First>> && NumericElement<ElementOf<Second>>
+requires inference::ComparableElements<ElementOf<First>, ElementOf<Second>>
 [[nodiscard]] TestResult MannWhitneyTest(const First& first, const Second& second,
-                                         Extended shift = 0,
+                                         inference::OffsetOf<ElementOf<First>> shift = {},
                                          Alternative alternative = Alternative::kTwoSided) {
-  return MannWhitneyTest(VectorView<Extended>(AsExtended(first)),
-                         VectorView<Extended>(AsExtended(second)), shift, alternative);
+  return MannWhitneyTest(VectorView<Extended>(inference::Comparable(first)),
+                         VectorView<Extended>(inference::Comparable(second)),
+                         inference::Comparable(shift), alternative);
 }
 /// @}
 
@@ -50,26 +51,32 @@ requires NumericElement<ElementOf<First>> && NumericElement<ElementOf<Second>>
 WilcoxonSignedRankTest(VectorView<Extended> values, Extended centre = 0,
                        Alternative alternative = Alternative::kTwoSided);
 template <ContiguousRange Range>
-requires NumericElement<ElementOf<Range>>
-[[nodiscard]] TestResult WilcoxonSignedRankTest(const Range& values, Extended centre = 0,
+requires AnyElement<ElementOf<Range>>
+[[nodiscard]] TestResult WilcoxonSignedRankTest(const Range& values,
+                                                inference::OffsetOf<ElementOf<Range>> centre = {},
                                                 Alternative alternative = Alternative::kTwoSided) {
-  return WilcoxonSignedRankTest(VectorView<Extended>(AsExtended(values)), centre, alternative);
+  return WilcoxonSignedRankTest(VectorView<Extended>(inference::Comparable(values)),
+                                inference::Comparable(centre), alternative);
 }
 /// @}
 
 /// @{
 /// The same for the differences x - y of pairs.
 ///
+/// - A centre other than 0 is subtracted from the differences with 125 bits. Differences beyond the
+///   format give NaN.
 /// - Errors before the others: rsSameDimensions for vectors of different lengths.
 [[nodiscard]] QORVEX_EXPORT TestResult
 WilcoxonSignedRankTest(VectorView<Extended> x, VectorView<Extended> y, Extended centre = 0,
                        Alternative alternative = Alternative::kTwoSided);
 template <ContiguousRange X, ContiguousRange Y>
-requires NumericElement<ElementOf<X>> && NumericElement<ElementOf<Y>>
-[[nodiscard]] TestResult WilcoxonSignedRankTest(const X& x, const Y& y, Extended centre = 0,
+requires inference::ComparableElements<ElementOf<X>, ElementOf<Y>>
+[[nodiscard]] TestResult WilcoxonSignedRankTest(const X& x, const Y& y,
+                                                inference::OffsetOf<ElementOf<X>> centre = {},
                                                 Alternative alternative = Alternative::kTwoSided) {
-  return WilcoxonSignedRankTest(VectorView<Extended>(AsExtended(x)),
-                                VectorView<Extended>(AsExtended(y)), centre, alternative);
+  return WilcoxonSignedRankTest(VectorView<Extended>(inference::Comparable(x)),
+                                VectorView<Extended>(inference::Comparable(y)),
+                                inference::Comparable(centre), alternative);
 }
 /// @}
 

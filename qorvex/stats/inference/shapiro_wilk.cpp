@@ -64,7 +64,9 @@ TestResult OfThree(const Rational& w) {
   const Extended other = (Rational(1) - w).Round();
   const Extended sine =
       2 * excess / (std::sqrt(result.statistic) + std::sqrt(3.0L) * std::sqrt(other));
-  return WithP(result, Scaled{6 / std::numbers::pi_v<Extended> * std::asin(sine), {}});
+  constexpr Extended scale = 6 / std::numbers::pi_v<Extended>;
+  if (sine < 0.25L) return WithP(result, {scale * std::asin(sine), {}});
+  return WithTail(result, {Tail::kLower, {scale * std::asin(std::sqrt(other)), {}}}, Tail::kUpper);
 }
 
 // Royston's normal approximation of a function of ln(1 - W).

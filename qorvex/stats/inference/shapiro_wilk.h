@@ -4,7 +4,7 @@
 /// The test of normality of Shapiro and Wilk.
 
 #include "qorvex/base/export.h"
-#include "qorvex/stats/exact/extended_view.h"
+#include "qorvex/stats/inference/comparable.h"
 #include "qorvex/stats/inference/test_result.h"
 
 namespace qorvex {
@@ -23,9 +23,9 @@ namespace qorvex {
 ///   normality".
 [[nodiscard]] QORVEX_EXPORT TestResult ShapiroWilkTest(VectorView<Extended> values);
 template <ContiguousRange Range>
-requires NumericElement<ElementOf<Range>>
+requires AnyElement<ElementOf<Range>>
 [[nodiscard]] TestResult ShapiroWilkTest(const Range& values) {
-  return ShapiroWilkTest(VectorView<Extended>(AsExtended(values)));
+  return ShapiroWilkTest(VectorView<Extended>(inference::Comparable(values)));
 }
 /// @}
 

@@ -20,8 +20,8 @@ TestResult StudentResult(const Rational& estimate, const Rational& squared_error
                          Alternative alternative, TestForm form = TestForm::kExact) {
   if (squared_error.Sign() == 0) RaiseMathError(rsSameValue);
   const ExtendedPair t = RootToPair(estimate * estimate / squared_error, estimate.Sign());
-  return WithTails({.statistic = t.hi, .degrees_of_freedom = df, .form = form}, StudentTails(t, df),
-                   alternative);
+  return WithStudentTails({.statistic = t.hi, .degrees_of_freedom = df, .form = form}, t, df,
+                          alternative);
 }
 
 }  // namespace
@@ -65,10 +65,11 @@ TestResult PairedTTest(VectorView<Extended> x, VectorView<Extended> y, Extended 
   ExactSum sum;
   sum.Add(x);
   sum.Remove(y);
-  if (!sum.IsFinite() || !std::isfinite(difference)) return {.degrees_of_freedom = size - 1};
   ExactSum squares;
   squares.AddSquare(x);
   squares.AddSquare(y);
+  // In the sum of differences an infinity of x and one of y cancel.
+  if (!squares.IsFinite() || !std::isfinite(difference)) return {.degrees_of_freedom = size - 1};
   ExactSum products;
   products.AddProduct(x, y);
   const Rational n(size);

@@ -14,7 +14,7 @@
 ///   'Student's' problem when several different population variances are involved".
 
 #include "qorvex/base/export.h"
-#include "qorvex/stats/exact/extended_view.h"
+#include "qorvex/stats/inference/comparable.h"
 #include "qorvex/stats/inference/sample_of.h"
 #include "qorvex/stats/inference/test_result.h"
 
@@ -71,16 +71,19 @@ requires AnyElement<ElementOf<First>> && AnyElement<ElementOf<Second>>
 /// Whether the differences x - y of pairs have the mean `difference`: the one-sample test of the
 /// exact differences.
 ///
+/// - Takes numbers, or amounts of one type with an amount as difference.
 /// - Errors before the others: rsSameDimensions for vectors of different lengths.
 [[nodiscard]] QORVEX_EXPORT TestResult
 PairedTTest(VectorView<Extended> x, VectorView<Extended> y, Extended difference = 0,
             Alternative alternative = Alternative::kTwoSided);
 template <ContiguousRange X, ContiguousRange Y>
-requires NumericElement<ElementOf<X>> && NumericElement<ElementOf<Y>>
-[[nodiscard]] TestResult PairedTTest(const X& x, const Y& y, Extended difference = 0,
+requires inference::ComparableElements<ElementOf<X>, ElementOf<Y>>
+[[nodiscard]] TestResult PairedTTest(const X& x, const Y& y,
+                                     inference::OffsetOf<ElementOf<X>> difference = {},
                                      Alternative alternative = Alternative::kTwoSided) {
-  return PairedTTest(VectorView<Extended>(AsExtended(x)), VectorView<Extended>(AsExtended(y)),
-                     difference, alternative);
+  return PairedTTest(VectorView<Extended>(inference::Comparable(x)),
+                     VectorView<Extended>(inference::Comparable(y)),
+                     inference::Comparable(difference), alternative);
 }
 /// @}
 

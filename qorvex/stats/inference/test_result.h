@@ -8,7 +8,9 @@
 /// - The result is a plain struct; programs format it.
 /// - The statistic is the exact figure of the data, rounded once, unless a test says otherwise.
 /// - p has the accuracy of the tails in stats/distributions, at the statistic before it is rounded,
-///   however small p is; log_p also where p underflows.
+///   however small p is; log_p also where p underflows. Near p = 1 log_p is known as well as 1 - p,
+///   except for two-sided p of variances, of counts and of two samples of Kolmogorov and Smirnov,
+///   and p of a sum of many probabilities: there it is off by some units of 2^-64.
 /// - A NaN among the values gives a result of NaN, form and degrees of freedom apart; so does an
 ///   infinity, except where a test only compares values.
 /// - Errors are raised in the order in which a test lists them, before anything is computed.

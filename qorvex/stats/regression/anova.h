@@ -72,15 +72,15 @@ struct OneWayAnovaTable {
 /// - All groups of one value: SSW has no degrees of freedom, F and p are NaN.
 /// - Errors, in this order: EMathError rsValue2 for fewer than two groups, rsVectorIsEmpty for an
 ///   empty one; EInvalidOp for a value that is not finite.
-/// - Cost: some 4 ns a value of columns; nothing for those of exact samples; of labelled values,
-///   O(log g) for g labels more.
-/// @{
-/// Of groups of values.
+/// - Cost: some 4 ns a value.
 [[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnova(const Columns& groups);
-/// Of groups as exact samples.
+/// The same for groups as exact samples. Cost: O(1) for each.
 [[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnova(VectorView<ExactSample<2>> groups);
-/// Of values with the label of their group beside each: text or any integers. EMathError
-/// rsSameDimensions for different lengths, before the errors above.
+
+/// @{
+/// The same for values with the label of their group beside each: text or any integers. EMathError
+/// rsSameDimensions for different lengths, before the errors above. Cost: O(log g) a value for g
+/// labels.
 [[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnovaByLabel(VectorView<std::string> labels,
                                                                 const ColumnView& values);
 [[nodiscard]] QORVEX_EXPORT OneWayAnovaTable OneWayAnovaByLabel(VectorView<std::int64_t> labels,

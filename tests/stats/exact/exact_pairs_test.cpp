@@ -4,6 +4,7 @@
 #include <string>
 
 #include "qorvex/vector/building.h"
+#include "support/failing_allocation.h"
 #include "support/random_vectors.h"
 #include "support/table.h"
 #include "support/test.h"
@@ -76,6 +77,15 @@ TEST(ExactPairs, NeitherOrderNorSplitMatters) {
   more.Remove(TQorFloatVector{kInfinity}, TQorSingleVector{0});
   EXPECT_EQ(more, whole);
   EXPECT_EQ(more.Count(), 3000U);
+  EXPECT_MATH_ERROR(more.Remove(1.0L, kInfinity), rsInvalidValue);
+  EXPECT_EQ(more, whole);
+  const ExactPairs large = [] {
+    ExactPairs pair;
+    pair.Add(1e4000L, 1e-4000L);
+    return pair;
+  }();
+  testing::ExpectFailuresChangeNothing([&] { more.Merge(large); }, [&] { return more == whole; });
+  EXPECT_EQ(more.Count(), 3001U);
   EXPECT_MATH_ERROR(parts[0].Remove(whole), rsInvalidValue);
   EXPECT_MATH_ERROR(parts[0].Merge(ExactPairs(0, 1)), rsInvalidValue);
   EXPECT_MATH_ERROR(ExactPairs(0, -1), rsInvalidValue);
@@ -96,7 +106,7 @@ TEST(ExactPairs, RefusesWhatHasNoFigure) {
     }
   }
   pairs.Add(-0.0L, 0.1L);
-  EXPECT_TRUE(std::signbit(pairs.MeanX()));
+  EXPECT_FALSE(std::signbit(pairs.MeanX()));
   EXPECT_EQ(pairs.PopulationCovariance(), 0);
   expect_errors(pairs,
                 {"sample_variance_x", "sample_std_dev_y", "sample_covariance", "correlation",

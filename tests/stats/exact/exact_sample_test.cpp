@@ -7,6 +7,7 @@
 #include "stats/exact/nearest.h"
 #include "stats/exact/test_data.h"
 #include "support/environment.h"
+#include "support/failing_allocation.h"
 #include "support/random_vectors.h"
 #include "support/table.h"
 #include "support/test.h"
@@ -236,6 +237,12 @@ TEST(ExactSample, CountsDecimalNumbersAsSuch) {
   EXPECT_EQ(amounts.ToBytes(), plain.ToBytes());
   EXPECT_TRUE(amounts.PowerSum(3) == exact::Rational(78125, 8));
 
+  ExactSample<> column;
+  column.Add(TQorCurrencyVector{Currency(125'000), Currency(-7), Currency(31), Currency(31)});
+  ExactSample<> scaled;
+  scaled.AddScaled({125'000, -7, 31, 31}, Currency::kDecimals);
+  EXPECT_TRUE(column == scaled);
+
   const TQorInt64Vector limits = {std::numeric_limits<std::int64_t>::min(),
                                   std::numeric_limits<std::int64_t>::max(), 0};
   ExactSample<> wide;
@@ -339,9 +346,23 @@ TEST(ExactSample, KnowsExtremesUntilTheyAreRemoved) {
   EXPECT_EQ(*sample.Maximum(), 7);
 }
 
+TEST(ExactSample, IsWhatItWasIfMemoryRunsOut) {
+  ExactSample<> sample, decimal;
+  sample.Add(TQorFloatVector{1e300L, 1, kInfinity});
+  decimal.AddScaled({7, 12}, 3);
+  decimal.Add(TQorFloatVector{kInfinity, 1e300L});
+  using Change = void (ExactSample<>::*)(const ExactSample<>&);
+  for (const Change change : {Change{&ExactSample<>::Merge}, Change{&ExactSample<>::Remove}}) {
+    const ExactSample<> before = sample;
+    testing::ExpectFailuresChangeNothing([&] { (sample.*change)(decimal); },
+                                         [&] { return sample == before; });
+  }
+  EXPECT_EQ(sample.Count(), 3U);
+}
+
 TEST(ExactSample, ReadsOnlyItsOwnBytes) {
   ExactSample<> sample;
-  sample.AddScaled({5, -7, 12}, 2);
+  sample.AddScaled({0, 7, 12}, 2);
   sample.Add(kInfinity);
   const Bytes bytes = sample.ToBytes();
   EXPECT_TRUE(ExactSample<>::FromBytes(bytes) == sample);
@@ -365,12 +386,26 @@ TEST(ExactSample, ReadsOnlyItsOwnBytes) {
     }
   }
   // {1, 2} with the sum of squares 4 would have a negative variance.
-  ExactSample<2> small;
-  small.Add(TQorFloatVector{1, 2});
-  Bytes impossible = small.ToBytes();
+  const auto bytes_of = [](TQorFloatVector values) {
+    ExactSample<2> small;
+    small.Add(values);
+    return small.ToBytes();
+  };
+  Bytes impossible = bytes_of({1, 2});
   EXPECT_EQ(impossible[impossible.size() - 8], std::byte{5});
   impossible[impossible.size() - 8] = std::byte{4};
   EXPECT_MATH_ERROR(ExactSample<2>::FromBytes(impossible), rsInvalidValue);
+  // The mean or the variance excludes these extremes.
+  struct {
+    TQorFloatVector values;
+    Extended minimum, maximum;
+  } const cases[] = {{{1, 2}, 5, 6}, {{1, 2}, 0, 1}, {{3, 3}, 2, 3}, {{3, 3}, 3, 4}};
+  for (const auto& [values, minimum, maximum] : cases) {
+    constexpr std::size_t kAt = 4 + 1 + 1 + 2 + 4 * 8 + 1;
+    impossible = bytes_of(values);
+    std::copy_n(bytes_of({minimum, maximum}).begin() + kAt, 20, impossible.begin() + kAt);
+    EXPECT_MATH_ERROR(ExactSample<2>::FromBytes(impossible), rsInvalidValue);
+  }
 }
 
 }  // namespace qorvex

@@ -156,6 +156,38 @@ TEST(ExactSum, RoundsOnce) {
   }
 }
 
+TEST(ExactSum, ProductsThatUnderflowAreNotZero) {
+  constexpr Extended kTiny = 1e-4000L;
+  constexpr Extended kHuge = 1e4000L;
+  constexpr struct {
+    Extended x, y, z, product;
+  } cases[] = {{kTiny, kTiny, kInfinity, kInfinity}, {-kInfinity, kTiny, kTiny, -kInfinity},
+               {kHuge, kHuge, -0.0L, -0.0L},         {-kTiny, kTiny, 0, -0.0L},
+               {kInfinity, 0, kTiny, kNaN},          {kHuge, kNaN, 0, kNaN}};
+  for (const auto& [x, y, z, product] : cases) {
+    for (const std::size_t n : {1U, 500U}) {
+      ExactSum sum;
+      sum.AddProduct(TQorFloatVector(n, x), TQorFloatVector(n, y), TQorFloatVector(n, z));
+      EXPECT_TRUE(Same(sum.Round(), product)) << x << ' ' << y << ' ' << z;
+    }
+  }
+}
+
+// With exponents beyond those that the words of a total can count.
+TEST(FixedPoint, RefusesWhatIsTooLong) {
+  exact::FixedPoint total;
+  for (const int sign : {-1, 1}) {
+    const std::int64_t limit = sign * (std::int64_t{1} << 30);
+    EXPECT_ERROR(total.Add(1, limit + sign, false), EOverflow, rsOverflow);
+    EXPECT_ERROR(total.Add(1, sign * (std::int64_t{1} << 40), false), EOverflow, rsOverflow);
+    const auto position = static_cast<std::int32_t>(limit / 64 + sign);
+    EXPECT_ERROR(exact::FixedPoint::FromWords({position, {}}), EOverflow, rsOverflow);
+  }
+  EXPECT_EQ(total.Sign(), 0);
+  total.Add(3, -(std::int64_t{1} << 30), false);
+  EXPECT_TRUE(total.Value() == exact::Dyadic(3).Shifted(-(std::int64_t{1} << 30)));
+}
+
 TEST(ExactSum, ForgetsWhatIsRemoved) {
   ExactSum sum;
   sum.Add<Extended>({1.5L, kInfinity, kNaN});
@@ -168,6 +200,8 @@ TEST(ExactSum, ForgetsWhatIsRemoved) {
   sum.RemoveProduct(-2.0L, kInfinity, 3.0L);
   EXPECT_TRUE(sum.IsFinite());
   EXPECT_EQ(sum.Round(), 1.5L);
+  for (const Extended x : {kInfinity, -kInfinity, kNaN})
+    EXPECT_MATH_ERROR(sum.Remove(x), rsInvalidValue);
   sum.RemoveSquare(0.5L);
   EXPECT_EQ(sum.Round(), 1.25L);
   EXPECT_TRUE(sum.Value() == exact::Dyadic(1.25L));

@@ -10,10 +10,11 @@
 namespace qorvex::testing {
 
 /// Data that reach every way of adding: close together, money, with both signs over twenty orders
-/// of magnitude, in two distant groups, over all exponents, subnormal, mostly zero.
-enum class Kind { kClose, kMoney, kMixed, kGroups, kScattered, kTiny, kZeros };
+/// of magnitude, in two distant groups, over all exponents, subnormal, mostly zero, close
+/// together but for a few.
+enum class Kind { kClose, kMoney, kMixed, kGroups, kScattered, kTiny, kZeros, kOutliers };
 inline constexpr Kind kKinds[] = {Kind::kClose,     Kind::kMoney, Kind::kMixed, Kind::kGroups,
-                                  Kind::kScattered, Kind::kTiny,  Kind::kZeros};
+                                  Kind::kScattered, Kind::kTiny,  Kind::kZeros, Kind::kOutliers};
 
 /// A finite value of a kind.
 template <FloatElement T>
@@ -36,6 +37,8 @@ T RandomValue(Engine& engine, Kind kind) {
       return power(up_to(Limits::max_exponent - Limits::min_exponent) + Limits::min_exponent);
     case Kind::kTiny:
       return power(Limits::min_exponent - up_to(Limits::digits));
+    case Kind::kOutliers:
+      return engine() % 25 == 0 ? power(Limits::min_exponent * 3 / 4) : 1 + unit;
     case Kind::kZeros:
       break;
   }

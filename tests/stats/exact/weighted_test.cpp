@@ -92,10 +92,17 @@ TEST(Weighted, QuantilesOfAnyWeights) {
   }
   constexpr Extended half = 0x1p61L;  // a sample too long to be built
   EXPECT_EQ(WeightedQuantile({1, 2}, {half, half}, 0.5L, QuantileType::k7), 1.5L);
+  for (int type = 1; type <= 9; ++type) {
+    const auto of_type = static_cast<QuantileType>(type);
+    EXPECT_EQ(WeightedQuantile({1, 2, 9}, {2 * half - 1, 1, 0}, 1, of_type), 2) << type;
+  }
+  EXPECT_EQ(WeightedQuantile({1, 2, 9}, {1, 1e-30L, 0}, 1), 2);
+  EXPECT_EQ(WeightedQuantile({1, 2, 9}, {1, 1e-30L, 0}, 1, QuantileType::k2), 2);
   EXPECT_MATH_ERROR(WeightedQuantile({1, 2}, {half, 2 * half}, 0.5L, QuantileType::k7),
                     rsFrequencies);
   EXPECT_MATH_ERROR(WeightedQuantile(sorted, tenths, 0.5L, QuantileType::k7), rsFrequencies);
-  EXPECT_MATH_ERROR(WeightedQuantile(TQorFloatVector(), tenths, 1.5L), rsValue01Inc);
+  EXPECT_MATH_ERROR(WeightedQuantile(TQorFloatVector(), tenths, 1.5L), rsSameDimensions);
+  EXPECT_MATH_ERROR(WeightedQuantile(sorted, tenths, 1.5L), rsValue01Inc);
 }
 
 TEST(Weighted, SpecialValuesAndErrors) {

@@ -55,22 +55,11 @@ TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
   const Column y{1, 4, 2, 8, 5, 7};
   const Column a{1, 2, 3, 4, 5, 7};
   const Column b{0.5L, 3.75L, 2, -9, 4.25L, 1};
-  const Column seven(6, 7);
   Column sum(6);
   for (std::size_t i = 0; i < 6; ++i) sum[i] = 2 * a[i] - b[i] / 4 + 1;
-  Column nearly = sum;
-  nearly[0] *= 1 + 0x1p-63L;
-  const Column zero(6);
-  const Column sign{1, -1, 1, 1, -1, -1};
+  const Column zero(6), seven(6, 7), sign{1, -1, 1, 1, -1, -1};
   const auto origin = Intercept::kOmitted;
-  struct Case {
-    LinearModel model;
-    Columns predictors;
-    std::size_t dependent;
-    MessageId id;
-    const char* text;
-  };
-  std::vector<Case> cases{
+  std::vector<std::tuple<LinearModel, Columns, std::size_t, MessageId, std::string>> cases{
       {LinearModel(1), seven, 0, rsCollinear, "Predictor 1 depends"},
       {LinearModel(3), {a, a, b}, 1, rsCollinear, "Predictor 2 depends"},
       {LinearModel(3), {a, b, sum}, 2, rsCollinear, "on the intercept and the predictors b"},
@@ -78,45 +67,39 @@ TEST(LinearModel, NamesThePredictorThatDependsOnOthers) {
       {LinearModel(1, origin), zero, 0, rsCollinearOrigin, "Predictor 1 depends"},
       {LinearModel::Polynomial(2), sign, 1, rsCollinearPower, "x^2 depends"},
       {LinearModel::Polynomial(2, origin), seven, 1, rsCollinearPower, "x^2 depends"}};
-  for (Case& c : cases) {
-    c.model.Add(c.predictors, y);
+  for (auto& [dependent, predictors, index, id, text] : cases) {
+    dependent.Add(predictors, y);
     try {
-      static_cast<void>(c.model.Fit());
+      static_cast<void>(dependent.Fit());
       ADD_FAILURE() << "fits";
     } catch (const CollinearityError& error) {
-      EXPECT_EQ(error.Predictor(), c.dependent);
-      EXPECT_EQ(error.message_id(), c.id);
-      EXPECT_NE(std::string(error.what()).find(c.text), std::string::npos) << error.what();
+      EXPECT_EQ(error.Predictor(), index);
+      EXPECT_EQ(error.message_id(), id);
+      EXPECT_NE(std::string(error.what()).find(text), std::string::npos) << error.what();
     }
   }
+  sum[0] *= 1 + 0x1p-63L;  // nearly
   LinearModel model(3);
-  model.Add({a, b, nearly}, y);
+  model.Add({a, b, sum}, y);
   EXPECT_GT(model.Fit().ConditionBits(), 120);
   EXPECT_MATH_ERROR(FitPairs(a, y, 0), rsValueGZero);
 }
 
 TEST(LinearModel, HasInfiniteStatisticsForPerfectFitsAndNoneWithoutDegreesOfFreedom) {
-  LinearModel model;
-  model.Add({{1.0L, 2, 3, 4}}, {0.5L, 1, 1.5L, 2});
-  const LinearFit perfect = model.Fit();
+  const LinearFit perfect = FitPairs({1.0L, 2, 3, 4}, {0.5L, 1, 1.5L, 2}).curve;
   EXPECT_EQ(perfect.ResidualStdDev(), 0);
   EXPECT_EQ(perfect.Determination(), 1);
-  EXPECT_EQ(perfect.Coefficient(1).t, kInfinity);
-  EXPECT_EQ(perfect.Coefficient(1).p, 0);
-  EXPECT_EQ(perfect.Coefficient(1).log_p, -kInfinity);
+  const FittedCoefficient slope = perfect.Coefficient(1);
+  EXPECT_TRUE(slope.t == kInfinity && slope.p == 0 && slope.log_p == -kInfinity);
   EXPECT_TRUE(std::isnan(perfect.Coefficient(0).t));  // 0 / 0
-  EXPECT_EQ(perfect.Anova().regression.f, kInfinity);
-  EXPECT_EQ(perfect.Anova().regression.p, 0);
+  const AnovaTest whole = perfect.Anova().regression;
+  EXPECT_TRUE(whole.f == kInfinity && whole.p == 0);
   EXPECT_EQ(perfect.Predict({10}).prediction.least, 5);
 
-  LinearModel constant;
-  constant.Add({{1.0L, 2, 3}}, {4.0L, 4, 4});
-  EXPECT_TRUE(std::isnan(constant.Fit().Determination()));
-  EXPECT_TRUE(std::isnan(constant.Fit().Anova().regression.f));
+  const LinearFit constant = FitPairs({1.0L, 2, 3}, {4.0L, 4, 4}).curve;
+  EXPECT_TRUE(std::isnan(constant.Determination()) && std::isnan(constant.Anova().regression.f));
 
-  LinearModel through_all = LinearModel::Polynomial(2);
-  through_all.Add({{1.0L, 2, 4}}, {3.0L, 5, 1});
-  const LinearFit fit = through_all.Fit();
+  const LinearFit fit = FitPairs({1.0L, 2, 4}, {3.0L, 5, 1}, 2).curve;
   EXPECT_EQ(fit.DegreesOfFreedom(), 0U);
   EXPECT_EQ(fit.FittedValues({{2.0L}}), (TQorFloatVector{5}));
   for (const Extended figure :
@@ -183,43 +166,44 @@ TEST(LinearModel, MixesDecimalsOfAnyNumber) {
   }
 }
 
-// Columns of whole numbers that are nearly multiples of each other. The rows come in pairs that
-// differ in errors of 1 and -1 only, so the coefficients are known.
+// Columns of whole numbers that are nearly multiples of each other. Each row is there once for each
+// error that is added to its response; these sum to 0, so the coefficients are known.
 TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {
   constexpr std::size_t kPredictors = 14;
   testing::Engine engine(3);
   for (const int closeness : {0, 20, 50}) {
-    std::vector<Column> columns(kPredictors);
-    Column y;
-    for (std::size_t i = 0; i < 60; ++i) {
+    std::vector<Column> columns(kPredictors, Column(30));
+    Column y(30, 5);
+    for (std::size_t i = 0; i < 30; ++i) {
       const auto common = std::ldexp(static_cast<Extended>(engine() % 32), closeness);
-      Extended value = 5;
       for (std::size_t k = 0; k < kPredictors; ++k) {
-        const Extended x = common + static_cast<Extended>(engine() % 64);
-        columns[k].insert(columns[k].end(), {x, x});
-        value += static_cast<Extended>(k + 1) * x;
+        columns[k][i] = common + static_cast<Extended>(engine() % 64);
+        y[i] += static_cast<Extended>(k % 4) * columns[k][i];
       }
-      y.insert(y.end(), {value - 1, value + 1});
     }
-    LinearModel model(kPredictors);
-    model.Add(columns, y);
-    const LinearFit fit = model.Fit();
-    EXPECT_GT(fit.Precision(), 90U);
-    EXPECT_GE(fit.ConditionBits(), 2 * closeness);
-    EXPECT_EQ(fit.ResidualSumOfSquares(), 120);
-    EXPECT_EQ(fit.Values()[0], 5);
-    for (std::size_t k = 0; k < kPredictors; ++k) EXPECT_EQ(fit.Values()[k + 1], k + 1);
-
-    // What no number of bits can tell: a perfect fit and exact collinearity.
-    for (std::size_t i = 0; i < y.size(); ++i) y[i] += i % 2 == 0 ? 1 : -1;
-    LinearModel perfect(kPredictors);
-    perfect.Add(columns, y);
-    EXPECT_GT(perfect.Fit().Precision(), 90U);
-    EXPECT_EQ(perfect.Fit().ResidualSumOfSquares(), 0);
+    const auto fit_of = [&](std::size_t rows, std::initializer_list<Extended> errors) {
+      std::vector<ColumnView> views;
+      for (const Column& column : columns) views.emplace_back(std::span(column).first(rows));
+      LinearModel model(kPredictors);
+      for (const Extended error : errors) {
+        Column noisy(rows);
+        for (std::size_t i = 0; i < rows; ++i) noisy[i] = y[i] + error;
+        model.Add(views, noisy);
+      }
+      return model.Fit();
+    };
+    EXPECT_GE(fit_of(30, {1, -1}).ConditionBits(), 2 * closeness);
+    // With errors, a perfect fit, and as many rows as coefficients. Every fourth predictor has no
+    // effect.
+    for (const LinearFit& fit : {fit_of(30, {1, -1}), fit_of(30, {0}), fit_of(15, {0})}) {
+      EXPECT_GT(fit.Precision(), 90U);
+      EXPECT_EQ(fit.ResidualSumOfSquares(), fit.Count() == 60 ? 60 : 0);
+      EXPECT_EQ(fit.Values()[0], 5);
+      for (std::size_t k = 0; k < kPredictors; ++k) EXPECT_EQ(fit.Values()[k + 1], k % 4);
+    }
+    EXPECT_EQ(fit_of(30, {0}).Anova().regression.f, kInfinity);
     columns.back() = columns.front();
-    LinearModel dependent(kPredictors);
-    dependent.Add(columns, y);
-    EXPECT_THROW(static_cast<void>(dependent.Fit()), CollinearityError);
+    EXPECT_THROW(fit_of(30, {0}), CollinearityError);
   }
 }
 

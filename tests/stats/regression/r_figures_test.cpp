@@ -10,8 +10,7 @@ namespace qorvex {
 class RFigures : public ::testing::Test {
  protected:
   void ExpectEqual(const std::string& model, const LinearFit& fit, const Columns& predictors,
-                   const Columns& weights, std::initializer_list<Extended> at,
-                   Extended confidence) {
+                   const Columns& weights, VectorView<Extended> at, Extended confidence) {
     SCOPED_TRACE(model);
     std::map<std::string, std::vector<Extended>> ours;
     for (std::size_t i = 0; i < fit.Size(); ++i) {
@@ -40,6 +39,10 @@ class RFigures : public ::testing::Test {
         weights.Size() == 0 ? fit.Leverages(predictors) : fit.Leverages(predictors, weights[0]);
     ours["leverage"].assign(leverages.begin(), leverages.end());
 
+    ExpectEqual(model, ours);
+  }
+
+  void ExpectEqual(const std::string& model, std::map<std::string, std::vector<Extended>> ours) {
     std::size_t judged = 0;
     for (std::size_t row = 0; row < table_.size(); ++row) {
       if (table_.Text(row, "case") != model) continue;
@@ -55,10 +58,9 @@ class RFigures : public ::testing::Test {
     EXPECT_EQ(judged, ours.size());
   }
 
-  const std::vector<Extended> kLight{2.5L, 3.1L, 4.0L, 4.4L, 5.2L, 5.9L, 6.3L, 7.1L, 7.7L, 8.6L};
-  const std::vector<Extended> kWater{1.0L, 3.5L, 2.0L, 4.5L, 1.5L, 3.0L, 5.0L, 2.5L, 4.0L, 0.5L};
-  const std::vector<Extended> kHeight{10.2L, 15.9L, 14.1L, 20.8L, 15.0L,
-                                      19.4L, 24.6L, 20.1L, 24.7L, 19.0L};
+  const std::vector<double> kLight{2.5, 3.1, 4.0, 4.4, 5.2, 5.9, 6.3, 7.1, 7.7, 8.6};
+  const std::vector<double> kWater{1.0, 3.5, 2.0, 4.5, 1.5, 3.0, 5.0, 2.5, 4.0, 0.5};
+  const std::vector<double> kHeight{10.2, 15.9, 14.1, 20.8, 15.0, 19.4, 24.6, 20.1, 24.7, 19.0};
   const std::vector<double> kWeight{1, 2, 1, 0.5, 3, 1, 2, 1.5, 1, 4};
 
  private:
@@ -79,6 +81,15 @@ TEST_F(RFigures, OfPlanesAndAParabola) {
   LinearModel parabola = LinearModel::Polynomial(2);
   parabola.Add(kLight, kHeight);
   ExpectEqual("parabola", parabola.Fit(), kLight, {}, {6}, 0.95L);
+}
+
+TEST_F(RFigures, OfGroupsOfDifferentSizes) {
+  const OneWayAnovaTable table = OneWayAnova(
+      {{6.9L, 5.4L, 5.8L, 4.6L, 4.0L}, {8.3L, 6.8L, 7.8L, 9.2L, 6.5L, 7.1L, 8.8L}, {8.0L, 10.5L}});
+  ExpectEqual("groups", {{"ss", {table.between.sum_of_squares, table.within.sum_of_squares}},
+                         {"ms", {table.between.mean_square, table.within.mean_square}},
+                         {"f", {table.between.f}},
+                         {"p", {table.between.p}}});
 }
 
 }  // namespace qorvex

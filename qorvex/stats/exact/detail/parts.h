@@ -4,6 +4,7 @@
 
 #include <array>
 #include <bit>
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -143,10 +144,14 @@ class Products {
     }
     return true;
   }
-  // Product i, rounded.
-  [[nodiscard]] Extended Value(std::size_t i) const noexcept {
+  // 1, 0, an infinity or NaN, as product i is, with its sign. Factors are replaced before they are
+  // multiplied, because a rounded product may overflow or underflow.
+  [[nodiscard]] Extended Kind(std::size_t i) const noexcept {
     Extended product = 1;
-    for (const T* const factor : factors_) product *= static_cast<Extended>(factor[i]);
+    for (const T* const factor : factors_) {
+      const auto x = static_cast<Extended>(factor[i]);
+      product *= std::isfinite(x) && x != 0 ? std::copysign(1.0L, x) : x;
+    }
     return product;
   }
 

@@ -45,6 +45,8 @@ class WindowedSum {
   // Up to one of 16 values may be added to the totals.
   static constexpr std::size_t kMaxOutliers = 16;
   static constexpr std::size_t kScattered = 8'192;
+  // More go to the chunks, because far outliers make long totals, through which carries run far.
+  static constexpr std::size_t kFewOutliers = 128;
 
   // The window for values that resemble the first ones: most of it below the greatest, because the
   // exponents of most samples spread downwards.
@@ -98,12 +100,21 @@ class WindowedSum {
   template <class Values>
   [[gnu::noinline]] bool AddOutlier(const Values& values, std::size_t i, SpecialCounts& special) {
     if (!values.IsFinite(i)) {
-      special.Add(values.Value(i));
+      special.Add(values.Kind(i));
       return true;
     }
     const auto x = values(i);
     if (x.IsZero()) return false;
-    lanes_.ForEachTerm(x.mantissa, [&](auto& lane, const auto& term) { lane.AddOne(term, x.key); });
+    const bool few = outliers_ < kFewOutliers;
+    if (few) ++outliers_;
+    lanes_.ForEachTerm(x.mantissa, [&](auto& lane, const auto& term) {
+      if (few) {
+        lane.AddOne(term, x.key);
+      } else {
+        lane.PrepareForScattered(1);
+        lane.AddScattered(term, x.key);
+      }
+    });
     return true;
   }
 
@@ -113,7 +124,7 @@ class WindowedSum {
     lanes_.ForEach([&](auto& lane) { lane.PrepareForScattered(end - begin); });
     for (std::size_t i = begin; i < end; ++i) {
       if (!values.IsFinite(i)) [[unlikely]] {
-        special.Add(values.Value(i));
+        special.Add(values.Kind(i));
         continue;
       }
       const auto x = values(i);
@@ -132,6 +143,7 @@ class WindowedSum {
   std::uint32_t first_ = 0;  // the window: its first exponent, and their number or 0
   std::uint32_t count_ = 0;
   std::size_t scattered_ = 0;  // values that will not be tried with the tables
+  std::size_t outliers_ = 0;   // that have been added to the totals
 };
 
 }  // namespace qorvex::exact::detail

@@ -115,14 +115,14 @@ class DurbinMatrix {
   Fraction corner_ = 0;
 };
 
-// P(D+ >= d): the sum of C(n, j) (d + j/n)^(j - 1) (1 - d - j/n)^(n - j) d.
-Scaled BirnbaumTingeyTail(std::size_t n, Extended d) {
+// P(D+ >= d): the sum of C(n, j) (d + j/n)^(j - 1) (1 - d - j/n)^(n - j) d, for rest = n (1 - d).
+Scaled BirnbaumTingeyTail(std::size_t n, ExtendedPair rest, Extended d) {
   const auto size = static_cast<std::uint32_t>(n);
   Scaled sum{0, ExtendedPair()};
   for (std::uint32_t j = 0; j < size; ++j) {
-    const ExtendedPair p = ExtendedPair(j) / ExtendedPair(size) + ExtendedPair(d);
-    const ExtendedPair q = ExtendedPair(1) - p;
+    const ExtendedPair q = (rest - ExtendedPair(j)) / ExtendedPair(size);
     if (q.hi <= 0) break;
+    const ExtendedPair p = ExtendedPair(1) - q;
     Scaled term = special::BinomialProbability(size, j, p, q);
     term.factor *= d / p.hi;
     sum = Sum(sum, term);
@@ -132,32 +132,37 @@ Scaled BirnbaumTingeyTail(std::size_t n, Extended d) {
 
 }  // namespace
 
-Scaled KolmogorovTail(std::size_t n, Extended d, Alternative alternative) {
+Tails KolmogorovTails(std::size_t n, ExtendedPair rest, Alternative alternative) {
+  const auto size = static_cast<Extended>(n);
+  const Extended d = ((ExtendedPair(size) - rest) / ExtendedPair(size)).hi;
   const bool is_two_sided = alternative == Alternative::kTwoSided;
   // D+ and D- never both reach such a d, or in less than 1e-20 of the cases where one does.
-  const bool is_far = d > 0.5L || static_cast<Extended>(n) * d * d > 8;
-  if (is_two_sided && !is_far)
-    return {std::max(0.0L, (ExtendedPair(1) - DurbinMatrix(n, d).Probability(n)).hi), {}};
-  Scaled tail = BirnbaumTingeyTail(n, d);
-  if (is_two_sided) tail.factor *= 2;
-  return tail;
+  const bool is_far = d > 0.5L || size * d * d > 8;
+  if (is_two_sided && !is_far) {
+    const ExtendedPair lower = DurbinMatrix(n, d).Probability(n);
+    if (lower.hi < 0.5L) return {Tail::kLower, {lower.hi, {}}};
+    return {Tail::kUpper, {std::max(0.0L, (ExtendedPair(1) - lower).hi), {}}};
+  }
+  Scaled upper = BirnbaumTingeyTail(n, rest, d);
+  if (is_two_sided) upper.factor *= 2;
+  return {Tail::kUpper, upper};
 }
 
-Scaled KolmogorovLimit(Extended n, Extended d, Alternative alternative) {
+Tails KolmogorovLimit(Extended n, Extended d, Alternative alternative) {
   const ExtendedPair square = special::ExactProduct(d, d) * n;
   const Extended t = square.hi;
   const Scaled leading{1, square * -2.0L};
-  if (alternative != Alternative::kTwoSided) return leading;
+  if (alternative != Alternative::kTwoSided) return {Tail::kUpper, leading};
   // The two series of a theta function.
   Extended sum = 0;
   if (t > 1) {
     for (int k = 5; k > 0; --k) sum = std::exp(-2 * t * static_cast<Extended>(k * k - 1)) - sum;
-    return {2 * sum, leading.exponent};
+    return {Tail::kUpper, {2 * sum, leading.exponent}};
   }
   constexpr Extended pi = std::numbers::pi_v<Extended>;
   for (int k = 1; k <= 7; k += 2)
     sum += std::exp(-static_cast<Extended>(k * k) * pi * pi / (8 * t));
-  return {1 - std::sqrt(2 * pi / t) * sum, {}};
+  return {Tail::kLower, {std::sqrt(2 * pi / t) * sum, {}}};
 }
 
 Extended SmirnovTail(std::size_t n1, std::size_t n2, std::int64_t bound,

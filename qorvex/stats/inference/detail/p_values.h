@@ -26,19 +26,24 @@ using special::Tails;
   return {a.factor + relative.Value(), a.exponent};
 }
 
-/// The result with this p, at most 1.
-[[nodiscard]] inline TestResult WithP(TestResult result, const Scaled& p) {
-  result.p = p.Value();
-  result.log_p = p.Log();
-  if (result.p >= 1) {
+/// The result with this tail as p, at most 1.
+[[nodiscard]] inline TestResult WithTail(TestResult result, const Tails& tails, Tail tail) {
+  result.p = tails.Probability(tail);
+  result.log_p = tails.LogProbability(tail);
+  if (result.p > 1 || result.log_p >= 0) {
     result.p = 1;
     result.log_p = 0;
   }
   return result;
 }
 
+/// The result with this p, at most 1.
+[[nodiscard]] inline TestResult WithP(const TestResult& result, const Scaled& p) {
+  return WithTail(result, {Tail::kUpper, p}, Tail::kUpper);
+}
+
 /// The result with the tail or, for kTwoSided, twice the smaller of the tails at the statistic.
-[[nodiscard]] inline TestResult WithTails(TestResult result, const Tails& tails,
+[[nodiscard]] inline TestResult WithTails(const TestResult& result, const Tails& tails,
                                           Alternative alternative) {
   if (alternative == Alternative::kTwoSided) {
     const bool is_low = tails.Probability(Tail::kLower) < tails.Probability(Tail::kUpper);
@@ -46,10 +51,7 @@ using special::Tails;
     p.factor *= 2;
     return WithP(result, p);
   }
-  const Tail tail = alternative == Alternative::kLess ? Tail::kLower : Tail::kUpper;
-  result.p = tails.Probability(tail);
-  result.log_p = tails.LogProbability(tail);
-  return result;
+  return WithTail(result, tails, alternative == Alternative::kLess ? Tail::kLower : Tail::kUpper);
 }
 
 /// Whether any of the values is NaN.

@@ -5,7 +5,6 @@
 
 #include "qorvex/stats/inference/detail/exact_numbers.h"
 #include "qorvex/stats/inference/detail/exact_tails.h"
-#include "qorvex/stats/inference/detail/p_values.h"
 
 namespace qorvex::regression {
 
@@ -32,8 +31,8 @@ Significance StudentSignificance(const Rational& estimate, const Rational& squar
   const auto df = static_cast<Extended>(degrees_of_freedom);
   const special::ExtendedPair t =
       inference::RootToPair(estimate * estimate / squared_error, estimate.Sign());
-  const TestResult test = inference::WithTails({.statistic = t.hi}, inference::StudentTails(t, df),
-                                               Alternative::kTwoSided);
+  const TestResult test =
+      inference::WithStudentTails({.statistic = t.hi}, t, df, Alternative::kTwoSided);
   return {test.statistic, test.p, test.log_p};
 }
 
