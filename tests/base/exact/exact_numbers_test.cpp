@@ -125,6 +125,11 @@ TEST(Dyadic, IsExactAndCanonical) {
     ASSERT_EQ((Dyadic(a) + Dyadic(b)).Round(), a + b);
     ASSERT_EQ((Dyadic(a) - Dyadic(b)).Round(), a - b);
     ASSERT_EQ((Dyadic(a) * Dyadic(b)).Round(), a * b);
+    Dyadic total = a;
+    total += b;
+    total *= b;
+    total -= b;
+    ASSERT_EQ(total, (Dyadic(a) + Dyadic(b)) * b - b);
     if (b == 0) continue;
     ASSERT_EQ(Rational(a, b).Round(), a / b);
     ASSERT_EQ(Rational(std::fabs(b)).RoundRoot(), std::sqrt(std::fabs(b)));

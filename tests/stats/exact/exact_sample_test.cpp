@@ -346,6 +346,19 @@ TEST(ExactSample, KnowsExtremesUntilTheyAreRemoved) {
   EXPECT_EQ(*sample.Maximum(), 7);
 }
 
+TYPED_TEST(ExactSampleOf, KnowsExtremesAtEveryPlace) {
+  std::vector<TypeParam> values(70, 50);
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    values[i] = 3;
+    values[values.size() - 1 - i] = 99;
+    ExactSample<2> sample;
+    sample.Add(values);
+    EXPECT_EQ(sample.Minimum(), 3) << i;
+    EXPECT_EQ(sample.Maximum(), 99) << i;
+    values[i] = values[values.size() - 1 - i] = 50;
+  }
+}
+
 TEST(ExactSample, IsWhatItWasIfMemoryRunsOut) {
   ExactSample<> sample, decimal;
   sample.Add(TQorFloatVector{1e300L, 1, kInfinity});

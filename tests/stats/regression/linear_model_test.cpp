@@ -166,6 +166,22 @@ TEST(LinearModel, MixesDecimalsOfAnyNumber) {
   }
 }
 
+// Long columns are read in blocks, which those of other element types are converted to.
+TEST(LinearModel, ReadsLongColumnsOfEveryType) {
+  std::vector<std::int32_t> x(40'000);
+  std::vector<float> y(x.size());
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    x[i] = static_cast<std::int32_t>(i);
+    y[i] = static_cast<float>(i * i % 97);
+  }
+  LinearModel model(1);
+  model.Add(x, y);
+  LinearModel extended(1);
+  extended.Add(Column(x.begin(), x.end()), Column(y.begin(), y.end()));
+  EXPECT_EQ(model.Fit().Values(), extended.Fit().Values());
+  EXPECT_EQ(model.Fit().ResidualVariance(), extended.Fit().ResidualVariance());
+}
+
 // Columns of whole numbers that are nearly multiples of each other. Each row is there once for each
 // error that is added to its response; these sum to 0, so the coefficients are known.
 TEST(LinearModel, FitsManyPredictorsWithAsManyBitsAsTheyNeed) {
