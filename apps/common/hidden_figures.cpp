@@ -25,6 +25,15 @@ std::string HiddenFigures::Remark(int decimals, int most_decimals) const {
          "--json shows all";
 }
 
+void UnderflowedFigures::Check(Extended figure, Extended witness) {
+  if (figure == 0 && std::fabs(witness) > 0) ++count;
+}
+
+std::string UnderflowedFigures::Remark() const {
+  return Cardinal(count, "figure") + (count == 1 ? " is" : " are") +
+         " below the range of the format (shown as 0)";
+}
+
 bool HasUnit(const ReportFigure& figure) {
   return figure.value && figure.label != rsDSSkew && figure.label != rsDSKurtosis;
 }

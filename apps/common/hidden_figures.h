@@ -22,6 +22,17 @@ struct HiddenFigures {
   [[nodiscard]] std::string Remark(int decimals, int most_decimals) const;
 };
 
+/// Figures that are shown as 0 because they are below the range of the format.
+struct UnderflowedFigures {
+  std::size_t count = 0;
+
+  /// Counts a figure of 0 if the witness, which is 0 whenever the true figure is, is not 0: the
+  /// standard deviation for a variance, for example.
+  void Check(Extended figure, Extended witness);
+  /// "2 figures are below the range of the format (shown as 0)".
+  [[nodiscard]] std::string Remark() const;
+};
+
 /// Whether the figure exists and depends on the unit of the values, as skewness and kurtosis do
 /// not.
 [[nodiscard]] bool HasUnit(const ReportFigure& figure);

@@ -75,6 +75,12 @@ void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::str
       ->option_text("N (0 to 255)");
 }
 
+void AddJson(CLI::App& command, bool& json) {
+  command.add_flag("--json", json,
+                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
+                   "or null if it does not exist");
+}
+
 void RequireOneCommand(CLI::App& app, const std::string& name) {
   app.require_subcommand(0, 1);
   // Checked here and not by require_subcommand, so that the message can quote a misspelt command.

@@ -29,6 +29,9 @@ inline constexpr int kMostDecimals = 255;
 /// Adds --decimals, 0 to kMostDecimals; the variable stays empty if it is not given.
 void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description);
 
+/// Adds --json.
+void AddJson(CLI::App& command, bool& json);
+
 /// Makes an app require exactly one of its subcommands. The error message for a missing one starts
 /// with the given name.
 void RequireOneCommand(CLI::App& app, const std::string& name);

@@ -94,9 +94,7 @@ void FitArguments::AddTo(CLI::App& command) {
       option->excludes(command.get_option(other));
     }
   }
-  command.add_flag("--json", json,
-                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
-                   "or null if it does not exist");
+  AddJson(command, json);
 }
 
 }  // namespace qorvex::apps

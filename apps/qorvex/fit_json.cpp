@@ -41,9 +41,7 @@ class FitJson {
   }
   void Column(const TableColumn& column) {
     json_.BeginObject();
-    Count("column", column.number);
-    json_.Key("name");
-    json_.StringOrNull(column.name);
+    WriteColumnKeys(json_, column.number, column.name);
     json_.EndObject();
   }
 

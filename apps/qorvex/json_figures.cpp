@@ -59,6 +59,13 @@ void WriteFigures(JsonWriter& json, const std::vector<ReportFigure>& lines,
   }
 }
 
+void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& name) {
+  json.Key("column");
+  json.Integer(number);
+  json.Key("name");
+  json.StringOrNull(name);
+}
+
 void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval) {
   if (!interval) {
     json.Null();

@@ -3,8 +3,10 @@
 /// @file
 /// Figures, intervals and tests in JSON documents.
 
+#include <cstddef>
 #include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "apps/qorvex/json_writer.h"
@@ -19,6 +21,9 @@ namespace qorvex::apps {
 /// a line. Amounts take the place of the figures with the same labels.
 void WriteFigures(JsonWriter& json, const std::vector<ReportFigure>& lines,
                   const std::map<ReportTextId, Currency>& amounts = {});
+
+/// The number and the name of a column: the keys column and name. The name is null if it is empty.
+void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& name);
 
 /// Two ends, or null.
 void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval);

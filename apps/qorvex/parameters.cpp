@@ -43,6 +43,12 @@ CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& option,
               ->type_name("X");
 }
 
+CLI::Option& AddConfidence(CLI::App& command, const std::string& description,
+                           WrittenNumber& level) {
+  return *AddWrittenNumber(command, "--confidence", description, NumberKind::kProbability, level)
+              .type_name("P");
+}
+
 InputError Refusal(const std::string& name, const EMathError& error, const std::string& remark) {
   const bool overflow = dynamic_cast<const EOverflow*>(&error) != nullptr;
   const std::string what =

@@ -33,6 +33,9 @@ CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& option,
                               const std::string& description, NumberKind kind,
                               WrittenNumber& number);
 
+/// Adds --confidence, which sets such a number.
+CLI::Option& AddConfidence(CLI::App& command, const std::string& description, WrittenNumber& level);
+
 /// Adds an option that takes one number. If the option is given, set is called with the number.
 template <class Set>
 CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::string& description,

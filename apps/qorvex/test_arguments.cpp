@@ -69,15 +69,13 @@ void AddTest(CLI::App& parent, const TestCommand& test) {
   CLI::App& command = *parent.add_subcommand(test.name, test.summary);
   const auto arguments = std::make_shared<TestArguments>();
   test.add_options(command, *arguments);
-  AddWrittenNumber(
-      command, "--confidence",
+  AddConfidence(
+      command,
       "The confidence level of intervals, and 1 less the significance level.\nDefault: 0.95",
-      NumberKind::kProbability, arguments->confidence);
+      arguments->confidence);
   AddDecimals(command, arguments->decimals,
               "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  command.add_flag("--json", arguments->json,
-                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
-                   "or null if it does not exist");
+  AddJson(command, arguments->json);
   command.footer(std::string(kReportHelp) + (test.reads_table ? "\n\n" + TableHelp() : "") +
                  kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments, name = std::string(test.name), run = test.run] {

@@ -26,10 +26,7 @@ void Write(JsonWriter& json, const std::vector<TestFigure>& figures) {
 void Write(JsonWriter& json, const TestSample& sample) {
   json.BeginObject();
   if (sample.column != 0) {
-    json.Key("column");
-    json.Integer(sample.column);
-    json.Key("name");
-    json.StringOrNull(sample.name);
+    WriteColumnKeys(json, sample.column, sample.name);
     json.Key("group");
     json.StringOrNull(sample.group);
   }

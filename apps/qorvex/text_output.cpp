@@ -1,9 +1,11 @@
 #include "apps/qorvex/text_output.h"
 
 #include <cerrno>
+#include <cmath>
 #include <cstdio>
 #include <system_error>
 
+#include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -18,6 +20,10 @@ void RequireWritten(bool written) {
 
 std::string FigureText(Extended figure, std::optional<int> decimals) {
   return decimals ? Float2EStr(figure, *decimals) : Float2Str(figure);
+}
+
+std::string AvailableText(Extended figure, std::optional<int> decimals) {
+  return std::isnan(figure) ? MessageText(rsNA) : FigureText(figure, decimals);
 }
 
 void AppendLine(std::string& text, std::span<const Extended> figures, std::optional<int> decimals) {

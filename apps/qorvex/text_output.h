@@ -15,6 +15,9 @@ namespace qorvex::apps {
 /// A figure with the given number of decimals, or the shortest text that keeps all its bits.
 [[nodiscard]] std::string FigureText(Extended figure, std::optional<int> decimals);
 
+/// The same, or "Not available" for NaN.
+[[nodiscard]] std::string AvailableText(Extended figure, std::optional<int> decimals);
+
 /// Appends a line of figures separated by commas.
 void AppendLine(std::string& text, std::span<const Extended> figures, std::optional<int> decimals);
 
