@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "apps/common/input_error.h"
+#include "qorvex/base/text.h"
 
 namespace qorvex::apps {
 
@@ -45,7 +46,7 @@ char ParseDelimiter(const std::string& text) {
 // Prevents the parser of options from reading 010 as eight and 0x10 as sixteen. Returns the error.
 std::string PlainDecimal(std::string& text) {
   if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos) {
-    return Excerpt(text) + " is not a whole number";
+    return Excerpt(text) + " is not a whole number from 0 to " + Int2EStr(kMostDecimals);
   }
   text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
   return "";

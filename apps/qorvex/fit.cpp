@@ -18,7 +18,7 @@ Examples:
   qorvex fit line load.csv --x load --y deflection
   qorvex fit quadratic load.csv --x 1 --y 2 --decimals 6 --predict 2.5
   qorvex fit polynomial load.csv --x 1 --y 2 --degree 4 --residuals rest.csv
-  qorvex fit linear flats.csv --x area --x rooms --y rent --weights count --json)";
+  qorvex fit linear flats.csv --x area --x rooms --y rent --weights precision --json)";
 
 constexpr FitCurve kCurves[] = {
     {.name = "line",
@@ -46,6 +46,7 @@ void Fit(const FitArguments& arguments) {
   const FittedModel model = FitOf(columns, arguments);
   const std::string output =
       arguments.json ? JsonOf(columns, model, arguments) : TextOf(columns, model, arguments);
+  RemarkOnSmallFigures(model, arguments);
   if (!arguments.residual_file.empty()) WriteResiduals(columns, model.fit, arguments);
   WriteResult(output);
 }

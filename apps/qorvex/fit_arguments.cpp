@@ -1,5 +1,8 @@
 #include "apps/qorvex/fit_arguments.h"
 
+#include <cmath>
+
+#include "apps/common/input_error.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"
 
@@ -7,16 +10,17 @@ namespace qorvex::apps {
 
 namespace {
 
-constexpr Extended kMostDegrees = 30;
+constexpr Extended kGreatestDegree = 30;
 
 void AddDegree(CLI::App& command, std::size_t& degree) {
   command
       .add_option_function<std::string>(
           "--degree",
           [&degree](const std::string& text) {
-            const Extended value = ParseNumber("--degree", text, NumberKind::kCount);
-            if (value < 1 || value > kMostDegrees) {
-              throw CLI::ValidationError("--degree", text + " is not from 1 to 30");
+            const Extended value = ParseNumber("--degree", text, NumberKind::kReal);
+            if (value < 1 || value > kGreatestDegree || value != std::floor(value)) {
+              throw CLI::ValidationError("--degree",
+                                         Excerpt(text) + " is not a whole number from 1 to 30");
             }
             degree = static_cast<std::size_t>(value);
           },
@@ -42,14 +46,13 @@ void AddColumns(CLI::App& command, const FitCurve& curve, FitArguments& argument
   command.add_option("--y", arguments.y, "The column of y")->type_name("NAME|N")->required();
   command
       .add_option("--weights", arguments.weights,
-                  "A column of weights: a row counts as often as its weight says, and rows\n"
-                  "of weight 0 do not count")
+                  "A column of weights of the squared residuals: the variance of y is inverse\n"
+                  "to them. Rows of weight 0 do not count")
       ->type_name("NAME|N");
 }
 
 void AddResults(CLI::App& command, FitArguments& arguments) {
-  AddNumber(command, "--confidence", "The level of the intervals. Default: 0.95",
-            NumberKind::kProbability, [&](Extended level) { arguments.confidence = level; });
+  AddConfidence(command, "The level of the intervals. Default: 0.95", arguments.confidence);
   const bool several = arguments.curve->has_several_predictors;
   command
       .add_option_function<std::vector<std::string>>(
@@ -58,14 +61,21 @@ void AddResults(CLI::App& command, FitArguments& arguments) {
             for (const std::string& text : texts)
               arguments.places.push_back(ParseNumbers("--predict", text, NumberKind::kReals));
           },
-          several ? "The fitted value where the predictors have these values, and its intervals.\n"
-                    "Repeat it for more"
-                  : "The fitted value at x and its intervals. Repeat it for more")
+          several ? "The fitted value where the predictors have these values, and intervals for\n"
+                    "the mean and for one value of y, of weight 1. Repeat it for more"
+                  : "The fitted value at x, and intervals for the mean and for one value of y,\n"
+                    "of weight 1. Repeat it for more")
       ->type_name(several ? "X,X,..." : "X")
       ->allow_extra_args(false);
   command
-      .add_option("--residuals", arguments.residual_file,
-                  "A file to write: a line row,fitted,residual,leverage for each row")
+      .add_option_function<std::string>(
+          "--residuals",
+          [&](const std::string& name) {
+            if (name.empty() || name == "-")
+              throw CLI::ValidationError("--residuals", Excerpt(name) + " is no file");
+            arguments.residual_file = name;
+          },
+          "A file to write: a line row,fitted,residual,leverage for each row")
       ->type_name("FILE");
 }
 

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/regression/gram_matrix.h"
@@ -40,7 +41,7 @@ struct FitArguments {
   std::optional<std::string> weights = {};
   std::size_t degree = 1;
   bool no_intercept = false;
-  Extended confidence = 0.95L;
+  WrittenNumber confidence = {"0.95", 0.95L};
   /// Of each --predict, one value of each predictor.
   std::vector<TQorFloatVector> places = {};
   std::string residual_file = {};

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 
+#include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/fit_output.h"
 #include "apps/qorvex/json_writer.h"
@@ -68,9 +70,15 @@ ClassicFit FitOf(const TQorFloatVector& x, const TQorFloatVector& y, std::size_t
 }  // namespace
 
 std::string ClassicOutput(const FitColumns& columns, const FitArguments& arguments) {
+  RequireDetermined(columns, arguments);
+  const TQorFloatVector y = columns.y.numbers.Values();
+  if (std::ranges::count(y, y[0]) == std::ssize(y)) {
+    throw InputError(InputFault::kNoResult, InputName(arguments.table.file),
+                     columns.y.Title() + ": the classic routines need two different y");
+  }
   ClassicFit fit;
   try {
-    fit = FitOf(columns.x[0].numbers.Values(), columns.y.numbers.Values(), arguments.degree);
+    fit = FitOf(columns.x[0].numbers.Values(), y, arguments.degree);
     for (const std::vector<Figure>& figures : {fit.columns, fit.quality})
       for (const Figure& figure : figures)
         if (!std::isfinite(figure.value)) throw EOverflow();
@@ -81,12 +89,7 @@ std::string ClassicOutput(const FitColumns& columns, const FitArguments& argumen
   if (arguments.json) {
     JsonWriter json;
     json.BeginObject();
-    json.Key("file");
-    json.String(arguments.table.file);
-    json.Key("classic");
-    json.Bool(true);
-    json.Key("count");
-    json.Integer(columns.y.numbers.size());
+    WriteHead(json, columns, columns.y.numbers.size(), arguments);
     const auto add = [&json](const std::vector<Figure>& figures) {
       for (const Figure& figure : figures) {
         json.Key(figure.key);

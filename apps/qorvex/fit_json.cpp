@@ -6,6 +6,12 @@ namespace qorvex::apps {
 
 namespace {
 
+void WriteColumn(JsonWriter& json, const TableColumn& column) {
+  json.BeginObject();
+  WriteColumnKeys(json, column.number, column.name);
+  json.EndObject();
+}
+
 class FitJson {
  public:
   FitJson(const FitColumns& columns, const FittedModel& model, const FitArguments& arguments)
@@ -13,11 +19,7 @@ class FitJson {
 
   [[nodiscard]] std::string Take() {
     json_.BeginObject();
-    json_.Key("file");
-    json_.String(arguments_.table.file);
-    AddColumns();
-    Count("count", columns_.y.numbers.size());
-    Count("skipped", columns_.y.skipped);
+    WriteHead(json_, columns_, fit_.Count(), arguments_);
     AddFigures();
     AddTerms();
     AddPredictions();
@@ -39,30 +41,6 @@ class FitJson {
     json_.Key(key);
     WriteInterval(json_, interval);
   }
-  void Column(const TableColumn& column) {
-    json_.BeginObject();
-    WriteColumnKeys(json_, column.number, column.name);
-    json_.EndObject();
-  }
-
-  void AddColumns() {
-    json_.Key("x");
-    if (arguments_.curve->IsPolynomial()) {
-      Column(columns_.x[0]);
-    } else {
-      json_.BeginArray();
-      for (const TableColumn& x : columns_.x) Column(x);
-      json_.EndArray();
-    }
-    json_.Key("y");
-    Column(columns_.y);
-    json_.Key("weights");
-    if (columns_.weights) {
-      Column(*columns_.weights);
-    } else {
-      json_.Null();
-    }
-  }
 
   void AddFigures() {
     const auto of_pairs = [this](Extended PairFigures::*figure) {
@@ -81,13 +59,13 @@ class FitJson {
     json_.EndArray();
     Figure("sum_of_squared_errors", fit_.ResidualSumOfSquares());
     if (arguments_.curve->IsPolynomial())
-      Figure("correlation", model_.pairs ? model_.pairs->correlation : std::nullopt);
+      Figure("correlation", of_pairs(&PairFigures::correlation));
     Figure("determination", fit_.Determination());
     Figure("adjusted_determination", fit_.AdjustedDetermination());
     Figure("residual_standard_deviation", fit_.ResidualStdDev());
     Count("degrees_of_freedom", fit_.DegreesOfFreedom());
     Figure("condition_bits", fit_.ConditionBits());
-    Figure("confidence", arguments_.confidence);
+    Figure("confidence", arguments_.confidence.value);
   }
 
   void AddTerms() {
@@ -103,7 +81,7 @@ class FitJson {
       Figure("t", of.t);
       Figure("p", of.p);
       Figure("log_p", of.log_p);
-      Ends("interval", fit_.ConfidenceInterval(i, arguments_.confidence));
+      Ends("interval", fit_.ConfidenceInterval(i, arguments_.confidence.value));
       json_.EndObject();
     }
     json_.EndArray();
@@ -178,6 +156,34 @@ class FitJson {
 };
 
 }  // namespace
+
+void WriteHead(JsonWriter& json, const FitColumns& columns, std::size_t count,
+               const FitArguments& arguments) {
+  json.Key("file");
+  json.String(arguments.table.file);
+  json.Key("classic");
+  json.Bool(arguments.classic);
+  json.Key("x");
+  if (arguments.curve->IsPolynomial()) {
+    WriteColumn(json, columns.x[0]);
+  } else {
+    json.BeginArray();
+    for (const TableColumn& x : columns.x) WriteColumn(json, x);
+    json.EndArray();
+  }
+  json.Key("y");
+  WriteColumn(json, columns.y);
+  json.Key("weights");
+  if (columns.weights) {
+    WriteColumn(json, *columns.weights);
+  } else {
+    json.Null();
+  }
+  json.Key("count");
+  json.Integer(count);
+  json.Key("skipped");
+  json.Integer(columns.y.skipped);
+}
 
 std::string JsonOf(const FitColumns& columns, const FittedModel& model,
                    const FitArguments& arguments) {

@@ -24,9 +24,13 @@ namespace {
 void RequireWeights(const TableColumn& column, const FitArguments& arguments) {
   const std::optional<WeightFault> fault =
       FaultOf(column.numbers.Values(), WeightKind::kReliability);
-  if (!fault) return;
-  Refuse(arguments, InputFault::kNoResult,
-         column.Title() + ": the weight " + Float2Str(fault->weight) + ' ' + fault->what);
+  if (fault) {
+    Refuse(arguments, InputFault::kNoResult,
+           column.Title() + ": the weight " + Float2Str(fault->weight) + ' ' + fault->what);
+  }
+  const auto is_zero = [](Extended weight) { return weight == 0; };
+  if (std::ranges::all_of(column.numbers.Values(), is_zero))
+    Refuse(arguments, InputFault::kNoResult, column.Title() + ": all weights are zero");
 }
 
 // The distinct x that a polynomial needs.
@@ -73,7 +77,8 @@ LinearFit FitRows(const FitColumns& columns, const FitArguments& arguments) {
     return model.Fit();
   } catch (const CollinearityError& error) {
     RefuseCollinear(columns, error.Predictor(), arguments);
-  } catch (const EMathError&) {
+  } catch (const EMathError& error) {
+    if (error.message_id() != rsVectorTooSmall) throw;
     RefuseTooFewRows(columns, arguments);
   }
 }
@@ -82,13 +87,12 @@ std::optional<PairFigures> PairsOf(const FitColumns& columns, const FitArguments
   if (!arguments.curve->IsPolynomial() || columns.weights || arguments.no_intercept)
     return std::nullopt;
   const PairFit line = FitPairs(ViewOf(columns.x[0].numbers), ViewOf(columns.y.numbers));
-  return PairFigures{
-      .mean_x = line.mean_x,
-      .mean_y = line.mean_y,
-      .std_dev_x = line.std_dev_x,
-      .std_dev_y = line.std_dev_y,
-      .covariance = line.covariance,
-      .correlation = std::isnan(line.correlation) ? std::nullopt : std::optional(line.correlation)};
+  return PairFigures{.mean_x = line.mean_x,
+                     .mean_y = line.mean_y,
+                     .std_dev_x = line.std_dev_x,
+                     .std_dev_y = line.std_dev_y,
+                     .covariance = line.covariance,
+                     .correlation = line.correlation};
 }
 
 std::vector<std::string> TermsOf(const FitColumns& columns, const FitArguments& arguments) {
@@ -110,9 +114,12 @@ std::vector<Prediction> PredictionsOf(const LinearFit& fit, const FitColumns& co
   for (const TQorFloatVector& place : arguments.places) {
     if (place.size() != columns.x.size()) {
       throw CLI::ValidationError(
-          "--predict", "takes " + Cardinal(columns.x.size(), "number") + ", one for each --x");
+          "--predict",
+          arguments.curve->IsPolynomial()
+              ? "takes one number"
+              : "takes " + Cardinal(columns.x.size(), "number") + ", one for each --x");
     }
-    predictions.push_back(fit.Predict(place, arguments.confidence));
+    predictions.push_back(fit.Predict(place, arguments.confidence.value));
   }
   return predictions;
 }
@@ -161,6 +168,10 @@ FitColumns ReadColumns(const FitArguments& arguments) {
     RequireWeights(*columns.weights, arguments);
   }
   return columns;
+}
+
+void RequireDetermined(const FitColumns& columns, const FitArguments& arguments) {
+  static_cast<void>(FitRows(columns, arguments));
 }
 
 FittedModel FitOf(const FitColumns& columns, const FitArguments& arguments) {

@@ -31,8 +31,8 @@ struct PairFigures {
   Extended mean_x, mean_y;
   Extended std_dev_x, std_dev_y;
   Extended covariance;
-  /// None if all y are equal.
-  std::optional<Extended> correlation;
+  /// NaN if all y are equal.
+  Extended correlation;
 };
 
 /// A fit and its names.
@@ -48,6 +48,9 @@ struct FittedModel {
 /// The fit. Throws InputError for columns that do not determine it and for figures beyond the range
 /// of extended precision.
 [[nodiscard]] FittedModel FitOf(const FitColumns& columns, const FitArguments& arguments);
+
+/// Throws InputError for columns that do not determine the coefficients.
+void RequireDetermined(const FitColumns& columns, const FitArguments& arguments);
 
 /// Writes a line for each row to the file of --residuals. Throws InputError if that is the table,
 /// and std::system_error if it cannot be written.

@@ -38,7 +38,8 @@ void WriteResiduals(const FitColumns& columns, const LinearFit& fit,
                     const FitArguments& arguments) {
   const std::string& name = arguments.residual_file;
   std::error_code error;
-  if (std::filesystem::equivalent(arguments.table.file, name, error)) {
+  const std::string& table_file = arguments.table.file;
+  if (std::filesystem::equivalent(table_file == "-" ? "/dev/stdin" : table_file, name, error)) {
     throw InputError(InputFault::kUnreadable, InputName(name),
                      "--residuals would replace the table");
   }

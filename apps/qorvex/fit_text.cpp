@@ -1,4 +1,6 @@
 #include <cmath>
+#include <initializer_list>
+#include <utility>
 
 #include "apps/common/probability_text.h"
 #include "apps/qorvex/fit_output.h"
@@ -26,7 +28,7 @@ class FitText {
 
  private:
   [[nodiscard]] std::string Number(Extended figure) const {
-    return std::isnan(figure) ? MessageText(rsNA) : FigureText(figure, arguments_.decimals);
+    return AvailableText(figure, arguments_.decimals);
   }
   [[nodiscard]] std::string Probability(Extended p, Extended log_p) const {
     return std::isnan(p) ? MessageText(rsNA) : ProbabilityText(p, log_p, arguments_.decimals);
@@ -38,7 +40,7 @@ class FitText {
   }
 
   void AddFigures() {
-    Line({ReportText(rsDSNoOfValues), Int2EStr(columns_.y.numbers.size())});
+    Line({ReportText(rsDSNoOfValues), Int2EStr(fit_.Count())});
     if (model_.pairs) {
       Line({ReportText(rsDSMeanX), Number(model_.pairs->mean_x)});
       Line({ReportText(rsDSMeanY), Number(model_.pairs->mean_y)});
@@ -50,15 +52,12 @@ class FitText {
     Line({is_line ? ReportText(rsDSRegressionLine) : arguments_.curve->label,
           Formula(model_.terms, fit_.Values(), arguments_.HasIntercept(), arguments_.decimals)});
     Line({ReportText(rsDSSSE), Number(fit_.ResidualSumOfSquares())});
-    if (model_.pairs) {
-      constexpr Extended none = std::numeric_limits<Extended>::quiet_NaN();
-      Line({ReportText(rsDSCoeffCor), Number(model_.pairs->correlation.value_or(none))});
-    }
+    if (model_.pairs) Line({ReportText(rsDSCoeffCor), Number(model_.pairs->correlation)});
     Line({ReportText(rsDSCoeffDet), Number(fit_.Determination())});
     Line({"Adjusted R Squared:", Number(fit_.AdjustedDetermination())});
     Line({"Residual Standard Deviation:", Number(fit_.ResidualStdDev())});
     Line({"Degrees of Freedom:", Int2EStr(fit_.DegreesOfFreedom())});
-    Line({ReportText(rsDSConfidence), Float2Str(arguments_.confidence)});
+    Line({ReportText(rsDSConfidence), arguments_.confidence.text});
   }
 
   void AddCoefficients() {
@@ -66,7 +65,7 @@ class FitText {
     Line({"Term", "Estimate", "Standard Error", "t", "P-Value", "Lower", "Upper"});
     for (std::size_t i = 0; i < fit_.Size(); ++i) {
       const FittedCoefficient of = fit_.Coefficient(i);
-      const auto [least, greatest] = fit_.ConfidenceInterval(i, arguments_.confidence);
+      const auto [least, greatest] = fit_.ConfidenceInterval(i, arguments_.confidence.value);
       Line({model_.terms[i], Number(of.value), Number(of.standard_error), Number(of.t),
             Probability(of.p, of.log_p), Number(least), Number(greatest)});
     }
@@ -119,7 +118,7 @@ class FitText {
 std::string Formula(const std::vector<std::string>& terms, const TQorFloatVector& coefficients,
                     Intercept intercept, std::optional<int> decimals) {
   std::string text;
-  for (std::size_t i = 0; i < terms.size(); ++i) {
+  for (std::size_t i = 0; i < coefficients.size(); ++i) {
     const Extended coefficient = coefficients[i];
     if (i == 0) {
       text = FigureText(coefficient, decimals);

@@ -61,6 +61,15 @@ std::string WhatIsUnexpected(const CLI::App& program, bool has_end_of_options) {
   return what;
 }
 
+// What is wrong with the number of values of an option, in plainer words than the parser's.
+std::string WhatIsMismatched(const CLI::ArgumentMismatch& error) {
+  const std::string text = error.what();
+  const std::string option = text.substr(0, text.find(": "));
+  if (text.ends_with(" missing")) return option + ": the value is missing";
+  if (text.find(": At Most 1 ") != std::string::npos) return option + ": given more than once";
+  return text;
+}
+
 int Run(int argc, char** argv) {
   CLI::App program(
       "Statistics, matrices, distributions and random variates, with 64 bits of mantissa.",
@@ -84,6 +93,8 @@ int Run(int argc, char** argv) {
   } catch (const CLI::ExtrasError&) {
     return RefuseUsage(WhatIsUnexpected(
         program, std::find(argv, argv + argc, std::string_view("--")) != argv + argc));
+  } catch (const CLI::ArgumentMismatch& error) {
+    return RefuseUsage(WhatIsMismatched(error));
   } catch (const CLI::Error& error) {
     // --help and --version end here, too.
     if (error.get_exit_code() != 0) return RefuseUsage(error.what());

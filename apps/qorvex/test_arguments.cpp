@@ -82,6 +82,7 @@ void AddTest(CLI::App& parent, const TestCommand& test) {
     const std::string& file = arguments->table.file;
     try {
       const std::vector<TestReport> reports = run(*arguments);
+      RemarkOnSmallFigures(reports, *arguments);
       WriteResult(arguments->json ? JsonOf(reports, name, *arguments)
                                   : TextOf(reports, *arguments));
     } catch (const EMathError& error) {

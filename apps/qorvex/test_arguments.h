@@ -4,6 +4,7 @@
 /// The options of the commands of `test`.
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -27,8 +28,11 @@ struct TestArguments {
   /// What the null hypothesis says.
   WrittenNumber hypothesis = {};
   WrittenNumber confidence = {"0.95", 0.95L};
-  /// Further numbers of a test.
-  std::vector<Extended> numbers = {};
+  /// Of a distribution.
+  std::vector<Extended> parameters = {};
+  std::uint32_t fitted_parameters = 0;
+  std::uint32_t successes = 0;
+  std::uint32_t trials = 0;
   bool yates = false;
   std::optional<int> decimals = {};
   bool json = false;

@@ -42,8 +42,6 @@ TestSample CountSample(const TableColumn& column, const TQorInt64Vector& counts)
 TestReport GoodnessOfFit(const TableColumn& column, const TableColumn* proportions,
                          const TestArguments& arguments) {
   const TQorInt64Vector counts = CountsIn(column, arguments);
-  const auto fitted =
-      static_cast<std::uint32_t>(arguments.numbers.empty() ? 0 : arguments.numbers[0]);
   const TQorFloatVector expected = proportions != nullptr
                                        ? proportions->numbers.Values()
                                        : TQorFloatVector(std::vector<Extended>(counts.size(), 1));
@@ -54,7 +52,7 @@ TestReport GoodnessOfFit(const TableColumn& column, const TableColumn* proportio
                     .alternate_hypothesis = proportions != nullptr ? "they do not" : "they are not",
                     .symbol = "chi-square",
                     .law = StatisticLaw::kChiSquare};
-  report.result = GoodnessOfFitTest(counts, expected, fitted);
+  report.result = GoodnessOfFitTest(counts, expected, arguments.fitted_parameters);
   return report;
 }
 
@@ -101,13 +99,12 @@ std::vector<TestReport> Independence(const TestArguments& arguments) {
 }
 
 std::vector<TestReport> Binomial(const TestArguments& arguments) {
-  const Extended successes = arguments.numbers[0];
-  const Extended trials = arguments.numbers[1];
-  if (successes > trials)
-    throw CLI::ValidationError("--successes", "there are more successes than trials");
-  if (trials == 0) throw CLI::ValidationError("--trials", "there must be at least one trial");
-  const auto k = static_cast<std::uint32_t>(successes);
-  const auto n = static_cast<std::uint32_t>(trials);
+  const std::uint32_t k = arguments.successes;
+  const std::uint32_t n = arguments.trials;
+  const auto successes = static_cast<Extended>(k);
+  const auto trials = static_cast<Extended>(n);
+  if (k > n) throw CLI::ValidationError("--successes", "there are more successes than trials");
+  if (n == 0) throw CLI::ValidationError("--trials", "there must be at least one trial");
   TestReport report{
       .title = "Exact binomial test",
       .samples = {{.figures = {{"successes", "Successes:", successes, true},
@@ -115,6 +112,7 @@ std::vector<TestReport> Binomial(const TestArguments& arguments) {
                                {"proportion", "Proportion:", successes / trials}}}},
       .alternative = arguments.alternative,
       .symbol = "k",
+      .statistic_is_count = true,
       .result = BinomialTest(k, n, arguments.hypothesis.value, arguments.alternative)};
   report.SetHypotheses("the probability of success", arguments.hypothesis.text);
   const Extended confidence = arguments.confidence.value;
@@ -125,33 +123,30 @@ std::vector<TestReport> Binomial(const TestArguments& arguments) {
   return {report};
 }
 
-void AddCount(CLI::App& command, TestArguments& arguments, const char* option,
-              const char* description, bool is_required) {
-  const std::size_t index = arguments.numbers.size();
-  arguments.numbers.push_back(0);
-  AddNumber(command, option, description, NumberKind::kCount, [&arguments, index](Extended value) {
-    arguments.numbers[index] = value;
-  }).required(is_required);
+CLI::Option& AddCount(CLI::App& command, std::uint32_t& count, const char* option,
+                      const char* description) {
+  return AddNumber(command, option, description, NumberKind::kCount,
+                   [&count](Extended value) { count = static_cast<std::uint32_t>(value); });
 }
 
 }  // namespace
 
 void AddCountTests(CLI::App& test) {
-  AddTest(test,
-          {.name = "goodness-of-fit",
-           .summary = "Whether counts follow proportions: chi-square test of each column",
-           .add_options =
-               [](CLI::App& command, TestArguments& arguments) {
-                 arguments.table.AddTo(command);
-                 command
-                     .add_option("--proportions", arguments.proportions,
-                                 "The column of the expected proportions, which need not add up\n"
-                                 "to 1. Default: all equal")
-                     ->type_name("NAME|N");
-                 AddCount(command, arguments, "--fitted-parameters",
-                          "How many parameters were estimated from the counts. Default: 0", false);
-               },
-           .run = GoodnessOfFitReports});
+  AddTest(test, {.name = "goodness-of-fit",
+                 .summary = "Whether counts follow proportions: chi-square test of each column",
+                 .add_options =
+                     [](CLI::App& command, TestArguments& arguments) {
+                       arguments.table.AddTo(command);
+                       command
+                           .add_option(
+                               "--proportions", arguments.proportions,
+                               "The column of the expected proportions, which need not add up\n"
+                               "to 1. Default: all equal")
+                           ->type_name("NAME|N");
+                       AddCount(command, arguments.fitted_parameters, "--fitted-parameters",
+                                "How many parameters were estimated from the counts. Default: 0");
+                     },
+                 .run = GoodnessOfFitReports});
   AddTest(test, {.name = "independence",
                  .summary = "Whether rows and columns of a table of counts are independent",
                  .add_options =
@@ -161,19 +156,21 @@ void AddCountTests(CLI::App& test) {
                                         "Yates' correction, for tables of 2 by 2");
                      },
                  .run = Independence});
-  AddTest(test, {.name = "binomial",
-                 .summary = "Whether the probability of success has a value: exact binomial test",
-                 .add_options =
-                     [](CLI::App& command, TestArguments& arguments) {
-                       AddCount(command, arguments, "--successes", "The number of successes", true);
-                       AddCount(command, arguments, "--trials", "The number of trials", true);
-                       arguments.AddHypothesis(command, "--success-probability",
-                                               "The probability of the null hypothesis",
-                                               NumberKind::kShare, "0.5");
-                       arguments.AddAlternative(command);
-                     },
-                 .run = Binomial,
-                 .reads_table = false});
+  AddTest(test,
+          {.name = "binomial",
+           .summary = "Whether the probability of success has a value: exact binomial test",
+           .add_options =
+               [](CLI::App& command, TestArguments& arguments) {
+                 AddCount(command, arguments.successes, "--successes", "The number of successes")
+                     .required();
+                 AddCount(command, arguments.trials, "--trials", "The number of trials").required();
+                 arguments.AddHypothesis(command, "--success-probability",
+                                         "The probability of the null hypothesis",
+                                         NumberKind::kShare, "0.5");
+                 arguments.AddAlternative(command);
+               },
+           .run = Binomial,
+           .reads_table = false});
 }
 
 }  // namespace qorvex::apps

@@ -38,45 +38,46 @@ TestReport AgainstFamily(const NumberSample& sample, const Family& family,
       .samples = {WithMoments(sample)},
       .alternative = arguments.alternative,
       .symbol = "D",
-      .result = KolmogorovSmirnovTest(sample.numbers.Values(), *family.make(arguments.numbers),
+      .result = KolmogorovSmirnovTest(sample.numbers.Values(), *family.make(arguments.parameters),
                                       arguments.alternative)};
   SetHypotheses(report,
-                "the values follow the distribution " + Described(family, arguments.numbers),
+                "the values follow the distribution " + Described(family, arguments.parameters),
                 "their distribution function", "its own");
   return report;
 }
 
 void AddFamily(CLI::App& parent, const Family& family) {
-  AddTest(parent,
-          {.name = family.name,
-           .summary = family.summary,
-           .add_options =
-               [&family](CLI::App& command, TestArguments& arguments) {
-                 arguments.AddSamples(command);
-                 for (const NumberParameter& parameter : family.parameters) {
-                   const std::size_t index = arguments.numbers.size();
-                   arguments.numbers.push_back(parameter.start);
-                   CLI::Option& option = AddNumber(
-                       command, parameter.option, parameter.Description(), parameter.kind,
-                       [&arguments, index](Extended value) { arguments.numbers[index] = value; });
-                   if (!parameter.has_default) option.required();
-                 }
-                 arguments.AddAlternative(command);
-               },
-           .run =
-               [&family](const TestArguments& arguments) {
-                 if (family.inconsistency != nullptr) {
-                   if (const char* const what = family.inconsistency(arguments.numbers))
-                     throw CLI::ValidationError(what);
-                 }
-                 return TestEach(arguments, [&](const NumberSample& sample) {
-                   return AgainstFamily(sample, family, arguments);
-                 });
-               }});
+  AddTest(parent, {.name = family.name,
+                   .summary = family.summary,
+                   .add_options =
+                       [&family](CLI::App& command, TestArguments& arguments) {
+                         arguments.AddSamples(command);
+                         for (const NumberParameter& parameter : family.parameters) {
+                           const std::size_t index = arguments.parameters.size();
+                           arguments.parameters.push_back(parameter.start);
+                           CLI::Option& option =
+                               AddNumber(command, parameter.option, parameter.Description(),
+                                         parameter.kind, [&arguments, index](Extended value) {
+                                           arguments.parameters[index] = value;
+                                         });
+                           if (!parameter.has_default) option.required();
+                         }
+                         arguments.AddAlternative(command);
+                       },
+                   .run =
+                       [&family](const TestArguments& arguments) {
+                         if (family.inconsistency != nullptr) {
+                           if (const char* const what = family.inconsistency(arguments.parameters))
+                             throw CLI::ValidationError(what);
+                         }
+                         return TestEach(arguments, [&](const NumberSample& sample) {
+                           return AgainstFamily(sample, family, arguments);
+                         });
+                       }});
 }
 
-std::vector<TestReport> TwoDistributions(const TestArguments& arguments) {
-  const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
+TestReport TwoDistributions(const std::vector<NumberSample>& samples,
+                            const TestArguments& arguments) {
   TestReport report{
       .title = "Kolmogorov-Smirnov test of two samples",
       .samples = {WithMoments(samples[0]), WithMoments(samples[1])},
@@ -86,7 +87,7 @@ std::vector<TestReport> TwoDistributions(const TestArguments& arguments) {
                                       arguments.alternative)};
   SetHypotheses(report, "both samples follow the same distribution",
                 "the distribution function of the first", "that of the second");
-  return {report};
+  return report;
 }
 
 TestReport Normality(const NumberSample& sample, const TestArguments& arguments) {
@@ -118,7 +119,12 @@ void AddDistributionTests(CLI::App& test) {
                        arguments.AddSamples(command);
                        arguments.AddAlternative(command);
                      },
-                 .run = TwoDistributions});
+                 .run =
+                     [](const TestArguments& arguments) {
+                       return TestTwo(arguments, [&](const std::vector<NumberSample>& samples) {
+                         return TwoDistributions(samples, arguments);
+                       });
+                     }});
   AddTest(test, {.name = "shapiro-wilk",
                  .summary = "Whether values are normal: the test of each column",
                  .add_options = [](CLI::App& command,

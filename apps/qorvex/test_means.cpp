@@ -33,9 +33,8 @@ using MeansTest = TestResult (*)(const ExactSample<2>&, const ExactSample<2>&, E
 using MeansInterval = Interval<Extended> (*)(const ExactSample<2>&, const ExactSample<2>&,
                                              Extended);
 
-std::vector<TestReport> TwoMeans(const TestArguments& arguments, const char* title, MeansTest test,
-                                 MeansInterval interval) {
-  const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
+TestReport TwoMeans(const std::vector<NumberSample>& samples, const TestArguments& arguments,
+                    const char* title, MeansTest test, MeansInterval interval) {
   const Shifted shifted = ShiftedBy(arguments.hypothesis, samples[0].numbers);
   const ExactSample<2> second = ExactSumsOf<2>(samples[1].numbers);
   TestReport report{
@@ -49,7 +48,7 @@ std::vector<TestReport> TwoMeans(const TestArguments& arguments, const char* tit
   report.intervals = {
       {"difference_interval", "Confidence Interval for the Difference of the Means: ",
        interval(ExactSumsOf<2>(samples[0].numbers), second, arguments.confidence.value)}};
-  return {report};
+  return report;
 }
 
 std::vector<TestReport> MeanOfDifferences(const TestArguments& arguments) {
@@ -99,10 +98,14 @@ std::vector<TestReport> SeveralMeans(const TestArguments& arguments) {
   report.result.p = anova.between.p;
   report.result.log_p = anova.between.log_p;
   report.figures = {
-      {"sum_of_squares_between", "Sum of Squares between Groups:", anova.between.sum_of_squares},
-      {"sum_of_squares_within", "Sum of Squares within Groups:", anova.within.sum_of_squares},
-      {"mean_square_between", "Mean Square between Groups:", anova.between.mean_square},
-      {"mean_square_within", "Mean Square within Groups:", anova.within.mean_square},
+      {"sum_of_squares_between", "Sum of Squares between Groups:", anova.between.sum_of_squares,
+       false, anova.between.f},
+      {"sum_of_squares_within", "Sum of Squares within Groups:", anova.within.sum_of_squares, false,
+       anova.residual_std_dev},
+      {"mean_square_between", "Mean Square between Groups:", anova.between.mean_square, false,
+       anova.between.f},
+      {"mean_square_within", "Mean Square within Groups:", anova.within.mean_square, false,
+       anova.residual_std_dev},
       {"determination", ReportText(rsDSCoeffDet), anova.determination},
       {"residual_standard_deviation", "Residual Standard Deviation:", anova.residual_std_dev}};
   return {report};
@@ -141,15 +144,19 @@ void AddMeanTests(CLI::App& test) {
                  .summary = "Whether two means differ, whatever the variances: Welch's t test",
                  .add_options = AddTwoSamples,
                  .run = [](const TestArguments& arguments) {
-                   return TwoMeans(arguments, "Welch's t test of two means", WelchTTest,
-                                   WelchDifferenceInterval);
+                   return TestTwo(arguments, [&](const std::vector<NumberSample>& samples) {
+                     return TwoMeans(samples, arguments, "Welch's t test of two means", WelchTTest,
+                                     WelchDifferenceInterval);
+                   });
                  }});
   AddTest(test, {.name = "two-sample-t",
                  .summary = "Whether two means differ, for equal variances: Student's t test",
                  .add_options = AddTwoSamples,
                  .run = [](const TestArguments& arguments) {
-                   return TwoMeans(arguments, "Student's t test of two means", TwoSampleTTest,
-                                   PooledDifferenceInterval);
+                   return TestTwo(arguments, [&](const std::vector<NumberSample>& samples) {
+                     return TwoMeans(samples, arguments, "Student's t test of two means",
+                                     TwoSampleTTest, PooledDifferenceInterval);
+                   });
                  }});
   AddTest(test, {.name = "paired-t",
                  .summary = "Whether the values of pairs differ: Student's t test of x - y",

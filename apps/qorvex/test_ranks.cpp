@@ -41,8 +41,7 @@ std::vector<TestReport> CentreOfDifferences(const TestArguments& arguments) {
   return {report};
 }
 
-std::vector<TestReport> TwoCentres(const TestArguments& arguments) {
-  const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
+TestReport TwoCentres(const std::vector<NumberSample>& samples, const TestArguments& arguments) {
   const Shifted shifted = ShiftedBy(arguments.hypothesis, samples[0].numbers);
   TestReport report{.title = "Mann-Whitney test",
                     .alternative = arguments.alternative,
@@ -52,7 +51,7 @@ std::vector<TestReport> TwoCentres(const TestArguments& arguments) {
   report.SetHypotheses("the shift of the first sample against the second",
                        arguments.hypothesis.text);
   report.samples = {WithMedian(samples[0]), WithMedian(samples[1])};
-  return {report};
+  return report;
 }
 
 void AddCentre(CLI::App& command, TestArguments& arguments) {
@@ -74,7 +73,12 @@ void AddRankTests(CLI::App& test) {
                                          NumberKind::kReal, "0");
                  arguments.AddAlternative(command);
                },
-           .run = TwoCentres});
+           .run =
+               [](const TestArguments& arguments) {
+                 return TestTwo(arguments, [&](const std::vector<NumberSample>& samples) {
+                   return TwoCentres(samples, arguments);
+                 });
+               }});
   AddTest(test, {.name = "wilcoxon",
                  .summary = "Whether values are symmetric about a centre: Wilcoxon's test",
                  .add_options =

@@ -21,6 +21,8 @@ struct TestFigure {
   std::string label;
   Extended value;
   bool is_count = false;
+  /// Not 0 if the exact figure is not 0, whatever became of the value.
+  Extended witness = 0;
 };
 
 /// An interval with its key in JSON.
@@ -28,6 +30,8 @@ struct TestInterval {
   const char* key;
   std::string label;
   Interval<Extended> ends;
+  /// Not 0 if the exact ends are not 0.
+  Extended witness = 0;
 };
 
 /// A sample of a test.
@@ -52,8 +56,10 @@ struct TestReport {
   std::string alternate_hypothesis = {};
   /// On which sides of its distribution the statistic speaks against the null hypothesis.
   Alternative alternative = Alternative::kGreater;
-  /// The symbol of the statistic, and its distribution if that has known quantiles.
+  /// The symbol of the statistic, whether it is a count, and its distribution if that has known
+  /// quantiles.
   const char* symbol = "";
+  bool statistic_is_count = false;
   StatisticLaw law = StatisticLaw::kOther;
   TestResult result = {};
   std::vector<TestInterval> intervals = {};
@@ -61,6 +67,9 @@ struct TestReport {
   /// States that the subject has the value, or differs from it in the direction of the alternative.
   void SetHypotheses(const std::string& subject, const std::string& value);
 };
+
+/// Writes a remark if figures of the reports are too small for the format.
+void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments);
 
 /// The reports, separated by blank lines.
 [[nodiscard]] std::string TextOf(const std::vector<TestReport>& reports,

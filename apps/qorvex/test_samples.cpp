@@ -1,5 +1,7 @@
 #include "apps/qorvex/test_samples.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <utility>
 
@@ -84,28 +86,49 @@ const char* WhyNot(MessageId id) {
   }
 }
 
+// "g = A, g = B, g = C", at most five of them.
+std::string GroupsOf(const std::vector<NumberSample>& samples) {
+  constexpr std::size_t most = 5;
+  std::string text;
+  for (std::size_t i = 0; i < std::min(samples.size(), most); ++i)
+    text += (i == 0 ? "" : ", ") + samples[i].origin.group;
+  return samples.size() > most ? text + ", ..." : text;
+}
+
+std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments) {
+  std::vector<NumberSample> samples = ReadSamples(arguments);
+  if (samples.size() == 2) return samples;
+  if (arguments.by) {
+    Refuse(arguments, "the test compares two groups, and the labels make " +
+                          Int2EStr(samples.size()) + ": " + GroupsOf(samples));
+  }
+  if (samples.size() == 1 && arguments.table.selection.columns.size() == 2) {
+    const TestSample& origin = samples[0].origin;
+    Refuse(arguments, "both samples are " + ColumnTitle(origin.column, origin.name));
+  }
+  Refuse(arguments, "the test compares two columns, and there " +
+                        std::string(samples.size() == 1 ? "is " : "are ") +
+                        Int2EStr(samples.size()));
+}
+
+// Whether the sample is what the error complains of.
+bool IsAtFault(const NumberSample& sample, MessageId id) {
+  if (id == rsVectorG1) return sample.numbers.size() < 2;
+  const TQorFloatVector values = sample.numbers.Values();
+  return id == rsSameValue && std::ranges::count(values, values[0]) == std::ssize(values);
+}
+
 }  // namespace
 
 std::string NumberSample::Place(const std::string& file) const {
-  return InputName(file) + ": " + ColumnTitle(origin.column, origin.name);
+  return InputName(file) + ": " + ColumnTitle(origin.column, origin.name) +
+         (origin.group.empty() ? "" : ", " + origin.group);
 }
 
 std::vector<NumberSample> ReadSamples(const TestArguments& arguments) {
   if (arguments.by) return SplitSamples(arguments);
   std::vector<NumberSample> samples;
   for (TableColumn& column : arguments.table.Read()) samples.push_back(SampleOf(std::move(column)));
-  return samples;
-}
-
-std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments) {
-  std::vector<NumberSample> samples = ReadSamples(arguments);
-  if (samples.size() != 2) {
-    Refuse(arguments,
-           arguments.by
-               ? "the test compares two groups, and the labels make " + Int2EStr(samples.size())
-               : "the test compares two columns, and there " +
-                     std::string(samples.size() == 1 ? "is " : "are ") + Int2EStr(samples.size()));
-  }
   return samples;
 }
 
@@ -144,6 +167,20 @@ std::vector<TestReport> TestEach(const TestArguments& arguments,
     }
   }
   return reports;
+}
+
+std::vector<TestReport> TestTwo(
+    const TestArguments& arguments,
+    const std::function<TestReport(const std::vector<NumberSample>& samples)>& test) {
+  const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
+  try {
+    return {test(samples)};
+  } catch (const EMathError& error) {
+    const bool first = IsAtFault(samples[0], error.message_id());
+    const bool second = IsAtFault(samples[1], error.message_id());
+    if (first == second) throw;
+    throw TestRefusal(samples[first ? 0 : 1].Place(arguments.table.file), error);
+  }
 }
 
 InputError TestRefusal(const std::string& place, const EMathError& error) {

@@ -21,14 +21,12 @@ struct NumberSample {
   ColumnNumbers numbers;
   TestSample origin;
 
-  /// "file: column 2 (speed)"
+  /// "file: column 2 (speed)", followed by ", " and the group if it is one.
   [[nodiscard]] std::string Place(const std::string& file) const;
 };
 
 /// Reads each chosen column as a sample, or splits one by its labels.
 [[nodiscard]] std::vector<NumberSample> ReadSamples(const TestArguments& arguments);
-/// The same, and requires two.
-[[nodiscard]] std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments);
 /// Reads the columns of --x and --y.
 [[nodiscard]] std::vector<NumberSample> ReadPairs(const TestArguments& arguments);
 
@@ -41,6 +39,11 @@ struct NumberSample {
 /// A report on each sample. An error names its column.
 [[nodiscard]] std::vector<TestReport> TestEach(
     const TestArguments& arguments, const std::function<TestReport(const NumberSample&)>& test);
+
+/// A report on two samples. An error names the one at fault, if only one is.
+[[nodiscard]] std::vector<TestReport> TestTwo(
+    const TestArguments& arguments,
+    const std::function<TestReport(const std::vector<NumberSample>& samples)>& test);
 
 /// The InputError for what a test refuses.
 [[nodiscard]] InputError TestRefusal(const std::string& place, const EMathError& error);

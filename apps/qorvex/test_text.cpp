@@ -1,8 +1,10 @@
 #include <cmath>
-#include <initializer_list>
+#include <utility>
 
+#include "apps/common/hidden_figures.h"
 #include "apps/common/input_error.h"
 #include "apps/common/probability_text.h"
+#include "apps/common/text_input.h"
 #include "apps/qorvex/test_arguments.h"
 #include "apps/qorvex/test_report.h"
 #include "apps/qorvex/text_output.h"
@@ -51,15 +53,13 @@ class TestText {
   }
 
  private:
-  // Counts have no decimals.
+  // Whole numbers have no decimals.
   [[nodiscard]] std::string Number(Extended figure) const {
-    if (std::isnan(figure)) return MessageText(rsNA);
-    return FigureText(figure, figure == std::floor(figure) && std::isfinite(figure)
-                                  ? std::nullopt
-                                  : arguments_.decimals);
+    const bool is_whole = std::isfinite(figure) && figure == std::floor(figure);
+    return is_whole ? Float2EStr(figure, 0) : Figure(figure);
   }
   [[nodiscard]] std::string Figure(Extended figure) const {
-    return std::isnan(figure) ? MessageText(rsNA) : FigureText(figure, arguments_.decimals);
+    return AvailableText(figure, arguments_.decimals);
   }
 
   void Line(const std::string& label, const std::string& value) {
@@ -78,11 +78,12 @@ class TestText {
 
   void AddFigures(const std::vector<TestFigure>& figures) {
     for (const TestFigure& figure : figures)
-      Line(figure.label, figure.is_count ? Float2EStr(figure.value, 0) : Figure(figure.value));
+      Line(figure.label, figure.is_count ? Number(figure.value) : Figure(figure.value));
   }
 
   void AddResult() {
-    Line(ReportText(rsTestStatistic), Figure(result_.statistic));
+    Line(ReportText(rsTestStatistic),
+         report_.statistic_is_count ? Number(result_.statistic) : Figure(result_.statistic));
     if (!std::isnan(result_.degrees_of_freedom)) {
       const std::string second = std::isnan(result_.second_degrees_of_freedom)
                                      ? ""
@@ -164,6 +165,19 @@ void TestReport::SetHypotheses(const std::string& subject, const std::string& va
                                                                      : " is greater than ";
   null_hypothesis = subject + " is " + value;
   alternate_hypothesis = subject + relation + value;
+}
+
+void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments) {
+  UnderflowedFigures underflowed;
+  for (const TestReport& report : reports) {
+    for (const TestFigure& figure : report.figures) underflowed.Check(figure.value, figure.witness);
+    for (const TestInterval& interval : report.intervals) {
+      underflowed.Check(interval.ends.least, interval.witness);
+      underflowed.Check(interval.ends.greatest, interval.witness);
+    }
+  }
+  if (underflowed.count > 0)
+    WriteRemark(OnOneLine(InputName(arguments.table.file)) + ": " + underflowed.Remark());
 }
 
 std::string TextOf(const std::vector<TestReport>& reports, const TestArguments& arguments) {

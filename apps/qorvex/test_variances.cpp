@@ -18,14 +18,14 @@ TestReport OneVariance(const NumberSample& sample, const TestArguments& argument
       .result = VarianceTest(sums, arguments.hypothesis.value, arguments.alternative)};
   report.SetHypotheses("the variance", arguments.hypothesis.text);
   report.samples = {WithMoments(sample)};
-  report.figures = {{"variance", ReportText(rsDSVariance), sums.SampleVariance()}};
+  report.figures = {
+      {"variance", ReportText(rsDSVariance), sums.SampleVariance(), false, sums.SampleStdDev()}};
   report.intervals = {{"variance_interval", ReportText(rsDSConfidenceIntervalV),
-                       VarianceInterval(sums, arguments.confidence.value)}};
+                       VarianceInterval(sums, arguments.confidence.value), sums.SampleStdDev()}};
   return report;
 }
 
-std::vector<TestReport> TwoVariances(const TestArguments& arguments) {
-  const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
+TestReport TwoVariances(const std::vector<NumberSample>& samples, const TestArguments& arguments) {
   TestReport report{.title = "F test of two variances",
                     .alternative = arguments.alternative,
                     .symbol = "F",
@@ -35,7 +35,7 @@ std::vector<TestReport> TwoVariances(const TestArguments& arguments) {
                                                 arguments.hypothesis.value, arguments.alternative)};
   report.SetHypotheses("the first variance over the second", arguments.hypothesis.text);
   report.samples = {WithMoments(samples[0]), WithMoments(samples[1])};
-  return {report};
+  return report;
 }
 
 }  // namespace
@@ -67,7 +67,12 @@ void AddVarianceTests(CLI::App& test) {
                                                NumberKind::kPositive, "1");
                        arguments.AddAlternative(command);
                      },
-                 .run = TwoVariances});
+                 .run =
+                     [](const TestArguments& arguments) {
+                       return TestTwo(arguments, [&](const std::vector<NumberSample>& samples) {
+                         return TwoVariances(samples, arguments);
+                       });
+                     }});
 }
 
 }  // namespace qorvex::apps
