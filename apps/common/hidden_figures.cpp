@@ -29,6 +29,17 @@ void UnderflowedFigures::Check(Extended figure, Extended witness) {
   if (figure == 0 && std::fabs(witness) > 0) ++count;
 }
 
+void UnderflowedFigures::CheckLines(std::span<const ReportFigure> lines) {
+  const Extended none = std::numeric_limits<Extended>::quiet_NaN();
+  const auto value = [lines, none](ReportTextId label) {
+    const auto line = std::ranges::find(lines, label, &ReportFigure::label);
+    return line == lines.end() ? none : line->value.value_or(none);
+  };
+  Check(value(rsDSSumSQ), std::max(std::fabs(value(rsDSMinimum)), std::fabs(value(rsDSMaximum))));
+  Check(value(rsDSVariance), value(rsDSRange));
+  Check(value(rsDSStdDev), value(rsDSRange));
+}
+
 std::string UnderflowedFigures::Remark() const {
   return Cardinal(count, "figure") + (count == 1 ? " is" : " are") +
          " below the range of the format (shown as 0)";

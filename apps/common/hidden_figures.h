@@ -29,6 +29,8 @@ struct UnderflowedFigures {
   /// Counts a figure of 0 if the witness, which is 0 whenever the true figure is, is not 0: the
   /// standard deviation for a variance, for example.
   void Check(Extended figure, Extended witness);
+  /// Checks the sum of squares, the variance and the standard deviation of a report.
+  void CheckLines(std::span<const ReportFigure> lines);
   /// "2 figures are below the range of the format (shown as 0)".
   [[nodiscard]] std::string Remark() const;
 };

@@ -76,9 +76,11 @@ std::vector<std::size_t> ChosenColumns(const TableSelection& selection,
     const std::size_t index = FindColumn(*last, names, width, input_name);
     std::erase(indices, index);
     if (indices.empty()) {
+      const char* const what = selection.weights ? "weights" : "labels";
       throw InputError(InputFault::kNoSuchColumn, input_name,
-                       std::string("there is no column beside the ") +
-                           (selection.weights ? "weights" : "labels"));
+                       selection.columns.empty()
+                           ? std::string("there is no column beside the ") + what
+                           : Excerpt(*last) + " is the column of the " + what);
     }
     indices.push_back(index);
   }

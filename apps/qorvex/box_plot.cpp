@@ -14,7 +14,6 @@ namespace qorvex::apps {
 namespace {
 
 constexpr std::size_t kWidth = 80;
-constexpr std::size_t kLongestName = 20;
 // Between the names and the box plots.
 constexpr std::size_t kGap = 2;
 
@@ -40,14 +39,6 @@ class Line {
  private:
   std::vector<const char*> cells_;
 };
-
-// At most kLongestName characters.
-std::string ShortName(const std::string& name) {
-  std::string text = OnOneLine(name);
-  if (CharacterCount(text) <= kLongestName) return text;
-  while (CharacterCount(text) >= kLongestName) text.pop_back();
-  return text + "\u2026";
-}
 
 std::string Padded(const std::string& text, std::size_t width) {
   return text + std::string(width - std::min(width, CharacterCount(text)), ' ');

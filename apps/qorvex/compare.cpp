@@ -33,8 +33,7 @@ struct CompareArguments {
   TableArguments table;
   std::string second_file;
   bool paired = false;
-  std::string confidence_text = "0.95";
-  Extended confidence = 0.95L;
+  WrittenNumber confidence = {"0.95", 0.95L};
   std::optional<int> decimals;
   bool json = false;
 };
@@ -107,9 +106,10 @@ void Compare(const CompareArguments& arguments) {
                      "pairs need as many values in both columns; there are " +
                          std::to_string(first_count) + " and " + std::to_string(second_count));
   }
-  const ComparisonReport report = ReportOn(first, second, arguments.paired, arguments.confidence);
-  const ComparisonHeading heading{first, second, arguments.paired, arguments.confidence_text,
-                                  arguments.confidence};
+  const ComparisonReport report =
+      ReportOn(first, second, arguments.paired, arguments.confidence.value);
+  const ComparisonHeading heading{first, second, arguments.paired, arguments.confidence};
+  RemarkOnUnderflow(report);
   if (arguments.json) {
     WriteResult(JsonOf(report, heading));
   } else {
@@ -125,25 +125,18 @@ void AddCompare(CLI::App& program) {
   CLI::App& command = *program.add_subcommand(
       "compare", "Two columns side by side: figures, difference, tests and box plots");
   const auto arguments = std::make_shared<CompareArguments>();
-  arguments->table.AddTo(command);
+  arguments->table.AddTo(command,
+                         "Twice: the two columns; with two files, one of each. Once, with two\n"
+                         "files: that column of both. Default: the only columns there are");
   command.add_option("FILE2", arguments->second_file, "The table of the second column")
       ->type_name("");
   command.add_flag_callback(
       "--paired", [arguments] { arguments->paired = arguments->table.selection.whole_rows = true; },
       "Values of the same row belong together: test their differences");
-  command
-      .add_option_function<std::string>(
-          "--confidence",
-          [arguments](const std::string& text) {
-            arguments->confidence = ParseNumber("--confidence", text, NumberKind::kProbability);
-            arguments->confidence_text = text;
-          },
-          "The level of the confidence interval. Default: 0.95")
-      ->type_name("P");
+  AddConfidence(command, "The level of the confidence interval. Default: 0.95",
+                arguments->confidence);
   AddDecimals(command, arguments->decimals, "Decimals of the figures. Default: 4");
-  command.add_flag("--json", arguments->json,
-                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
-                   "or null if it does not exist");
+  AddJson(command, arguments->json);
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Compare(*arguments); });
 }

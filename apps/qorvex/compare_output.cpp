@@ -29,14 +29,24 @@ std::string Heading(ReportTextId id) {
   return text;
 }
 
+// Of the text of a figure in a table.
+constexpr std::size_t kWidest = 24;
+
+// In fixed notation, or the shortest text that keeps all bits if that is too wide for the table.
+std::string CellText(Extended figure, int decimals) {
+  const std::string text = Float2EStr(figure, decimals);
+  return text.size() <= kWidest ? text : Float2Str(figure);
+}
+
 std::string FigureTable(const ComparisonReport& report, const ComparisonHeading& heading,
                         int decimals) {
-  std::vector<Row> rows{{"", OnOneLine(heading.first.title), OnOneLine(heading.second.title)}};
+  std::vector<Row> rows{{"", ShortName(heading.first.title), ShortName(heading.second.title)}};
   for (std::size_t i = 0; i < report.first.size(); ++i) {
     const ReportFigure& first = report.first[i];
     const ReportFigure& second = report.second[i];
     const auto text = [decimals](const ReportFigure& figure) {
-      return figure.value ? figure.Text(decimals) : MessageText(rsNA);
+      if (!figure.value) return MessageText(rsNA);
+      return figure.label == rsDSNoOfValues ? figure.Text(0) : CellText(*figure.value, decimals);
     };
     if (first.value || second.value) {
       const ReportFigure& existing = first.value ? first : second;
@@ -50,13 +60,13 @@ std::string FigureTable(const ComparisonReport& report, const ComparisonHeading&
 
 std::string DifferenceTable(const ComparisonReport& report, const ComparisonHeading& heading,
                             int decimals) {
-  const auto number = [decimals](Extended figure) { return Float2EStr(figure, decimals); };
+  const auto number = [decimals](Extended figure) { return CellText(figure, decimals); };
   const std::string interval =
       report.interval ? number(report.interval->least) + " to " + number(report.interval->greatest)
                       : MessageText(rsNA);
   return AlignedRows({{heading.paired ? "Mean Difference:" : "Difference of the Means:",
                        number(report.difference)},
-                      {ReportText(rsDSConfidence), heading.confidence_text},
+                      {ReportText(rsDSConfidence), heading.confidence.text},
                       {"Confidence Interval:", interval}},
                      2);
 }
@@ -74,7 +84,7 @@ std::string TestTable(const ComparisonReport& report, int decimals) {
     if (test.result) {
       const TestResult& result = *test.result;
       const std::string second = DegreesText(result.second_degrees_of_freedom);
-      row.push_back(test.symbol + (" = " + Float2EStr(result.statistic, decimals)));
+      row.push_back(test.symbol + (" = " + CellText(result.statistic, decimals)));
       row.push_back(DegreesText(result.degrees_of_freedom) + (second.empty() ? "" : ", " + second));
       row.push_back(RoundedProbabilityText(result.p, result.log_p));
     } else {
@@ -91,10 +101,7 @@ void WriteColumn(JsonWriter& json, const char* key, const ComparedColumn& compar
   json.BeginObject();
   json.Key("file");
   json.String(compared.file);
-  json.Key("column");
-  json.Integer(compared.column.number);
-  json.Key("name");
-  json.StringOrNull(compared.column.name);
+  WriteColumnKeys(json, compared.column.number, compared.column.name);
   json.Key("count");
   json.Integer(static_cast<std::uint64_t>(*lines.front().value));
   json.Key("skipped");
@@ -112,7 +119,16 @@ std::string TextOf(const ComparisonReport& report, const ComparisonHeading& head
          (plots.empty() ? "" : '\n' + plots);
 }
 
+void RemarkOnUnderflow(const ComparisonReport& report) {
+  UnderflowedFigures underflowed;
+  underflowed.CheckLines(report.first);
+  underflowed.CheckLines(report.second);
+  if (underflowed.count > 0) WriteRemark(underflowed.Remark());
+}
+
 void RemarkOnHiddenFigures(const ComparisonReport& report, int decimals) {
+  // With so many decimals, no figure is printed as zeros.
+  if (Float2EStr(0, decimals).size() > kWidest) return;
   std::vector<Extended> figures{report.difference};
   if (report.interval)
     figures.insert(figures.end(), {report.interval->least, report.interval->greatest});
@@ -133,7 +149,7 @@ std::string JsonOf(const ComparisonReport& report, const ComparisonHeading& head
   json.Key("difference");
   json.Number(report.difference);
   json.Key("confidence");
-  json.Number(heading.confidence);
+  json.Number(heading.confidence.value);
   json.Key("interval");
   WriteInterval(json, report.interval);
   json.Key("tests");

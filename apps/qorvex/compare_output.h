@@ -6,6 +6,7 @@
 #include <string>
 
 #include "apps/qorvex/compare_report.h"
+#include "apps/qorvex/parameters.h"
 
 namespace qorvex::apps {
 
@@ -14,14 +15,15 @@ struct ComparisonHeading {
   const ComparedColumn& first;
   const ComparedColumn& second;
   bool paired = false;
-  /// The confidence level as it was written.
-  std::string confidence_text = {};
-  Extended confidence = 0;
+  WrittenNumber confidence = {};
 };
 
 /// Tables of figures and tests, and box plots.
 [[nodiscard]] std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading,
                                  int decimals);
+
+/// Writes a remark if figures are below the range of the format.
+void RemarkOnUnderflow(const ComparisonReport& report);
 
 /// Writes a remark if figures are too small for the decimals.
 void RemarkOnHiddenFigures(const ComparisonReport& report, int decimals);

@@ -17,12 +17,13 @@ namespace qorvex::apps {
 
 namespace {
 
-// The result of a computation, or nothing if it does not exist for the values.
+// The result of a computation, or nothing if the values are too few or equal.
 template <class Compute>
 auto IfAny(Compute compute) -> std::optional<decltype(compute())> {
   try {
     return compute();
-  } catch (const EMathError&) {
+  } catch (const EMathError& error) {
+    if (error.message_id() != rsVectorG1 && error.message_id() != rsSameValue) throw;
     return std::nullopt;
   }
 }

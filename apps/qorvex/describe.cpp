@@ -30,7 +30,7 @@ std::string TextOf(std::vector<TableColumn>& columns, const TableColumn* weights
     const ColumnReport report = ReportOn(column, weights, options);
     if (!text.empty()) text += '\n';
     text += TextOf(report, options);
-    RemarkOnHiddenFigures(report, options);
+    RemarkOnZeros(report, options);
   }
   return text;
 }
@@ -42,8 +42,11 @@ std::string JsonOf(std::vector<TableColumn>& columns, const TableColumn* weights
   WriteHeading(json, options, weights);
   json.Key("columns");
   json.BeginArray();
-  for (TableColumn& column : columns)
-    WriteReport(json, ReportOn(column, weights, options), options);
+  for (TableColumn& column : columns) {
+    const ColumnReport report = ReportOn(column, weights, options);
+    WriteReport(json, report, options);
+    RemarkOnZeros(report, options);
+  }
   json.EndArray();
   json.EndObject();
   return json.TakeText();

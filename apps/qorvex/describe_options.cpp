@@ -1,9 +1,9 @@
 #include "apps/qorvex/describe_options.h"
 
+#include <string>
 #include <string_view>
 
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/parameters.h"
 
 namespace qorvex::apps {
 
@@ -11,17 +11,12 @@ namespace {
 
 constexpr unsigned kMostThreads = 256;
 
-WrittenProbability ParseProbability(const char* option, std::string_view text, NumberKind kind) {
-  const std::string written(text);
-  return {written, ParseNumber(option, written, kind)};
-}
-
-std::vector<WrittenProbability> ParseProbabilities(std::string_view list) {
-  std::vector<WrittenProbability> probabilities;
+std::vector<WrittenNumber> ParseProbabilities(std::string_view list) {
+  std::vector<WrittenNumber> probabilities;
   for (;;) {
     const std::size_t comma = list.find(',');
-    probabilities.push_back(
-        ParseProbability("--quantiles", list.substr(0, comma), NumberKind::kShare));
+    const std::string text(list.substr(0, comma));
+    probabilities.push_back({text, ParseNumber("--quantiles", text, NumberKind::kShare)});
     if (comma == std::string_view::npos) return probabilities;
     list.remove_prefix(comma + 1);
   }
@@ -68,16 +63,11 @@ void DescribeOptions::AddTo(CLI::App& command) {
       ->type_name("KIND")
       ->needs(weights);
   CLI::Option* const level =
-      command
-          .add_option_function<std::string>(
-              "--confidence",
-              [this](const std::string& text) {
-                confidence = ParseProbability("--confidence", text, NumberKind::kProbability);
-              },
-              "Confidence intervals of this level for the mean, the variance and the\n"
-              "standard deviation of normal data")
-          ->type_name("P")
-          ->excludes(all_values);
+      AddConfidence(command,
+                    "Confidence intervals of this level for the mean, the variance and the\n"
+                    "standard deviation of normal data",
+                    confidence)
+          .excludes(all_values);
   CLI::Option* const thread_count =
       command
           .add_option(
@@ -93,9 +83,7 @@ void DescribeOptions::AddTo(CLI::App& command) {
       ->excludes(level)
       ->excludes(thread_count);
   AddDecimals(command, decimals, "Decimals of the report. Default: 4");
-  command.add_flag("--json", json,
-                   "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
-                   "or null if it does not exist");
+  AddJson(command, json);
 }
 
 QuantileType DescribeOptions::TypeOfQuantiles() const {
@@ -108,7 +96,7 @@ void DescribeOptions::RequireConsistent() const {
     throw CLI::ValidationError("--quantile-type",
                                "with reliabilities as weights, only the types 1 and 2 exist");
   }
-  if (confidence) {
+  if (HasConfidence()) {
     throw CLI::ValidationError("--confidence",
                                "reliabilities as weights do not say how many values there are");
   }

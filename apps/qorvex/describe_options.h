@@ -5,21 +5,14 @@
 
 #include <CLI/CLI.hpp>
 #include <optional>
-#include <string>
-#include <utility>
 #include <vector>
 
+#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "qorvex/stats/exact/weighted.h"
 #include "qorvex/stats/quantiles.h"
 
 namespace qorvex::apps {
-
-/// A probability, as it was written and as a number.
-struct WrittenProbability {
-  std::string text;
-  Extended value = 0;
-};
 
 /// What to report on the columns of a table.
 struct DescribeOptions {
@@ -29,10 +22,11 @@ struct DescribeOptions {
   bool json = false;
   std::optional<int> decimals = {};
   unsigned threads = 1;
-  std::vector<WrittenProbability> quantiles = {};
+  std::vector<WrittenNumber> quantiles = {};
   /// Empty if not given.
   std::optional<QuantileType> quantile_type = {};
-  std::optional<WrittenProbability> confidence = {};
+  /// Without a text if not given.
+  WrittenNumber confidence = {};
   /// kFrequency or kReliability.
   WeightKind weight_kind = WeightKind::kFrequency;
 
@@ -42,6 +36,7 @@ struct DescribeOptions {
   /// The given type, or the one that suits the weights.
   [[nodiscard]] QuantileType TypeOfQuantiles() const;
   [[nodiscard]] int Decimals() const { return decimals.value_or(4); }
+  [[nodiscard]] bool HasConfidence() const { return !confidence.text.empty(); }
   [[nodiscard]] bool HasReliabilities() const {
     return table.selection.weights && weight_kind == WeightKind::kReliability;
   }

@@ -42,6 +42,17 @@ HiddenFigures HiddenIn(const ColumnReport& report, int decimals) {
   return HiddenAmong(figures, decimals);
 }
 
+UnderflowedFigures UnderflowedIn(const ColumnReport& report) {
+  UnderflowedFigures underflowed;
+  underflowed.CheckLines(report.lines);
+  if (report.intervals) {
+    const auto& [mean, variance, std_dev] = *report.intervals;
+    underflowed.Check(variance.least, std_dev.least);
+    underflowed.Check(variance.greatest, std_dev.greatest);
+  }
+  return underflowed;
+}
+
 }  // namespace
 
 std::string TextOf(const ColumnReport& report, const DescribeOptions& options) {
@@ -68,7 +79,7 @@ std::string TextOf(const ColumnReport& report, const DescribeOptions& options) {
       return Float2EStr(interval.least, decimals) + " to " +
              Float2EStr(interval.greatest, decimals);
     };
-    line(ReportText(rsDSConfidence), options.confidence->text);
+    line(ReportText(rsDSConfidence), options.confidence.text);
     line(ReportText(rsDSConfidenceIntervalM), ends(report.intervals->mean));
     line(ReportText(rsDSConfidenceIntervalV), ends(report.intervals->variance));
     line("Confidence Interval for the Standard Deviation: ", ends(report.intervals->std_dev));
@@ -76,13 +87,15 @@ std::string TextOf(const ColumnReport& report, const DescribeOptions& options) {
   return text;
 }
 
-void RemarkOnHiddenFigures(const ColumnReport& report, const DescribeOptions& options) {
+void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options) {
+  const std::string place = OnOneLine(InputName(options.table.file)) + ": " +
+                            ColumnTitle(report.number, report.name) + ": ";
+  const UnderflowedFigures underflowed = UnderflowedIn(report);
+  if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
+  if (options.json) return;
   const int decimals = options.Decimals();
   const HiddenFigures hidden = HiddenIn(report, decimals);
-  if (hidden.count == 0) return;
-  WriteRemark(OnOneLine(InputName(options.table.file)) + ": " +
-              ColumnTitle(report.number, report.name) + ": " +
-              hidden.Remark(decimals, kMostDecimals));
+  if (hidden.count > 0) WriteRemark(place + hidden.Remark(decimals, kMostDecimals));
 }
 
 void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn* weights) {
@@ -95,10 +108,7 @@ void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableC
   if (weights != nullptr) {
     json.Key("weights");
     json.BeginObject();
-    json.Key("column");
-    json.Integer(weights->number);
-    json.Key("name");
-    json.StringOrNull(weights->name);
+    WriteColumnKeys(json, weights->number, weights->name);
     json.Key("kind");
     json.String(options.HasReliabilities() ? "reliability" : "frequency");
     json.EndObject();
@@ -107,18 +117,15 @@ void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableC
     json.Key("quantile_type");
     json.Integer(static_cast<int>(options.TypeOfQuantiles()));
   }
-  if (options.confidence) {
+  if (options.HasConfidence()) {
     json.Key("confidence");
-    json.Number(options.confidence->value);
+    json.Number(options.confidence.value);
   }
 }
 
 void WriteReport(JsonWriter& json, const ColumnReport& report, const DescribeOptions& options) {
   json.BeginObject();
-  json.Key("column");
-  json.Integer(report.number);
-  json.Key("name");
-  json.StringOrNull(report.name);
+  WriteColumnKeys(json, report.number, report.name);
   json.Key("count");
   json.Integer(CountOf(report));
   json.Key("skipped");
@@ -141,7 +148,7 @@ void WriteReport(JsonWriter& json, const ColumnReport& report, const DescribeOpt
     }
     json.EndArray();
   }
-  if (options.confidence) {
+  if (options.HasConfidence()) {
     const auto interval = [&](const char* key, Interval<Extended> ColumnIntervals::*of) {
       json.Key(key);
       WriteInterval(json, report.intervals ? std::optional((*report.intervals).*of) : std::nullopt);

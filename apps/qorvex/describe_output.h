@@ -15,8 +15,9 @@ namespace qorvex::apps {
 /// A report as text: a line with the name of the column, then a line for each figure.
 [[nodiscard]] std::string TextOf(const ColumnReport& report, const DescribeOptions& options);
 
-/// Writes a remark if figures of the report are too small for its decimals.
-void RemarkOnHiddenFigures(const ColumnReport& report, const DescribeOptions& options);
+/// Writes remarks if figures of the report are below the range of the format, or too small for the
+/// decimals of its text.
+void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options);
 
 /// The keys of a JSON document before those of the columns.
 void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn* weights);

@@ -11,6 +11,7 @@
 #include "apps/common/text_input.h"
 #include "apps/common/weighted_numbers.h"
 #include "qorvex/base/text.h"
+#include "qorvex/stats/distributions/chi_square.h"
 #include "qorvex/stats/inference/intervals.h"
 
 namespace qorvex::apps {
@@ -61,11 +62,20 @@ std::map<ReportTextId, Currency> AmountsOf(const TableColumn& column,
   return amounts;
 }
 
+// Not the roots of the interval of the variance, whose ends may be below the range of the format.
+Interval<Extended> StdDevInterval(const ExactSample<2>& sums, Extended confidence) {
+  const ChiSquareDistribution chi_square(static_cast<Extended>(sums.Count() - 1));
+  const auto end = [&](Tail tail) {
+    const Extended quantile = chi_square.Quantile(tail, (1 - confidence) / 2);
+    if (quantile == 0) return std::numeric_limits<Extended>::infinity();
+    return (sums.ExactSumOfSquaredDeviations() / exact::Rational(quantile)).RoundRoot();
+  };
+  return {end(Tail::kUpper), end(Tail::kLower)};
+}
+
 ColumnIntervals IntervalsOf(const ExactSample<2>& sums, Extended confidence) {
-  const Interval<Extended> variance = VarianceInterval(sums, confidence);
-  return {MeanInterval(sums, confidence),
-          variance,
-          {std::sqrt(variance.least), std::sqrt(variance.greatest)}};
+  return {MeanInterval(sums, confidence), VarianceInterval(sums, confidence),
+          StdDevInterval(sums, confidence)};
 }
 
 TQorFloatVector ValidWeights(const TableColumn& weights, const DescribeOptions& options) {
@@ -91,10 +101,10 @@ void AddWeighted(ColumnReport& report, const ColumnNumbers& numbers, const TQorF
   } else {
     report.lines = weighted.FrequencyFigures(options.population).Lines(options.population);
   }
-  for (const WrittenProbability& probability : options.quantiles)
+  for (const WrittenNumber& probability : options.quantiles)
     report.quantiles.push_back(weighted.Quantile(probability.value, options.TypeOfQuantiles()));
-  if (options.confidence && *report.sum_of_weights > 1) {
-    report.intervals = IntervalsOf(weighted.FrequencySums<2>(), options.confidence->value);
+  if (options.HasConfidence() && *report.sum_of_weights > 1) {
+    report.intervals = IntervalsOf(weighted.FrequencySums<2>(), options.confidence.value);
   }
 }
 
@@ -106,15 +116,15 @@ void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOp
     report.lines = figures.Lines(options.population);
   }
   numbers.Sort();
-  for (const WrittenProbability& probability : options.quantiles)
+  for (const WrittenNumber& probability : options.quantiles)
     report.quantiles.push_back(QuantileOf(numbers, probability.value, options.TypeOfQuantiles()));
   if (options.classic) return;
   report.lines = ExactFigures(ExactSumsOf<4>(numbers, options.threads), OrderFiguresOf(numbers),
                               numbers, options.population)
                      .Lines(options.population);
-  if (options.confidence && numbers.size() > 1) {
+  if (options.HasConfidence() && numbers.size() > 1) {
     report.intervals =
-        IntervalsOf(ExactSumsOf<2>(numbers, options.threads), options.confidence->value);
+        IntervalsOf(ExactSumsOf<2>(numbers, options.threads), options.confidence.value);
   }
 }
 

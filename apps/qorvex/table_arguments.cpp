@@ -78,11 +78,11 @@ void TableArguments::AddFileTo(CLI::App& command, const char* skip_empty) {
   command.add_flag("--skip-empty", selection.skip_empty, skip_empty);
 }
 
-void TableArguments::AddTo(CLI::App& command) {
+void TableArguments::AddTo(CLI::App& command, const char* repetition) {
   command
       .add_option("--column", selection.columns,
-                  "A column, by name or by number from 1; a name takes precedence.\n"
-                  "Repeat it for more columns. Default: every column")
+                  std::string("A column, by name or by number from 1; a name takes precedence.\n") +
+                      repetition)
       ->type_name("NAME|N")
       ->allow_extra_args(false);
   AddFileTo(command, "Skip empty cells and report how many, instead of refusing them");

@@ -19,8 +19,10 @@ struct TableArguments {
   std::string file;
   TableSelection selection;
 
-  /// Adds the arguments to a command. This object must outlive the parsing.
-  void AddTo(CLI::App& command);
+  /// Adds the arguments to a command. This object must outlive the parsing. The description is that
+  /// of how often --column may be given.
+  void AddTo(CLI::App& command,
+             const char* repetition = "Repeat it for more columns. Default: every column");
 
   /// Adds those that choose no columns. The description is that of --skip-empty.
   void AddFileTo(CLI::App& command, const char* skip_empty);

@@ -2,11 +2,21 @@
 
 #include <algorithm>
 
+#include "apps/common/input_error.h"
+
 namespace qorvex::apps {
 
 std::size_t CharacterCount(std::string_view text) {
   return static_cast<std::size_t>(std::ranges::count_if(
       text, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+std::string ShortName(const std::string& name) {
+  constexpr std::size_t longest = 20;
+  std::string text = OnOneLine(name);
+  if (CharacterCount(text) <= longest) return text;
+  while (CharacterCount(text) >= longest) text.pop_back();
+  return text + "\u2026";
 }
 
 std::string AlignedRows(const std::vector<std::vector<std::string>>& rows,
