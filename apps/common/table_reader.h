@@ -18,8 +18,8 @@ struct TableSelection {
   /// Names or 1-based numbers, in the order of the result. A name takes precedence over a number;
   /// duplicates are ignored. Empty for all columns.
   std::vector<std::string> columns = {};
-  /// The name or number of a further column, of weights, which becomes the last of the result and
-  /// is none of the others.
+  /// The name or number of the column of weights, which becomes the last of the result. It must
+  /// differ from the other columns.
   std::optional<std::string> weights = {};
   /// The same for a column of labels, which are any text. There can be either.
   std::optional<std::string> labels = {};

@@ -30,7 +30,7 @@ struct OutsideClasses {
 /// - n = 0: all frequencies are 0.
 /// - EMathError, in this order: rsInvalidClasses if `lower` is not finite, `width` is not finite
 ///   and positive, or `count` is 0; in the first form rsOutsideClasses. EOverflow if a frequency
-///   exceeds 2^32 - 1. `outside` changes only if there is no error.
+///   exceeds 2^32 - 1. `outside` keeps its values after an error.
 /// - For all numeric elements. O(n + count).
 template <NumericElement T>
 [[nodiscard]] QORVEX_EXPORT TQorLWordVector ClassFrequencies(VectorView<T> values, Extended lower,

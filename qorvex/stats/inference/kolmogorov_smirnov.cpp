@@ -25,8 +25,13 @@ Scaled AllInOneTail(const std::vector<Tails>& tails, Alternative alternative) {
                         (alternative == Alternative::kTwoSided && above.Value() < below.Value());
   const Scaled& tail = is_above ? above : below;
   if (tail.factor == 0) return tail;
-  const auto n = static_cast<Extended>(tails.size());
-  return {alternative == Alternative::kTwoSided ? 2.0L : 1.0L, special::Ln(tail) * n};
+  // tail^n as tail * tail^(n-1), which keeps the tail of a single value as it is.
+  Scaled p = tail;
+  if (alternative == Alternative::kTwoSided) p.factor *= 2;
+  if (tails.size() > 1) {
+    p.exponent = p.exponent + special::Ln(tail) * static_cast<Extended>(tails.size() - 1);
+  }
+  return p;
 }
 
 }  // namespace

@@ -9,7 +9,7 @@
 
 namespace qorvex::regression {
 
-/// Rows of predictors and what a solution makes of them.
+/// Fitted values and their variances for rows of predictors.
 class FittedRows {
  public:
   /// EMathError rsSameDimensions for a wrong number of columns, or for one without `count`
