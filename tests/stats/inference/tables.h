@@ -28,7 +28,7 @@ class Arguments : public std::vector<std::vector<Extended>> {
     }
   }
 
-  /// A number; the default if there is none.
+  /// A number of the list, or the default beyond its end.
   [[nodiscard]] Extended Number(std::size_t index, Extended by_default = 0) const {
     return index < size() ? at(index).at(0) : by_default;
   }
