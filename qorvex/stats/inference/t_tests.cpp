@@ -62,14 +62,13 @@ TestResult PairedTTest(VectorView<Extended> x, VectorView<Extended> y, Extended 
   if (x.size() != y.size()) RaiseMathError(rsSameDimensions);
   if (x.size() < 2) RaiseMathError(rsVectorG1);
   const auto size = static_cast<Extended>(x.size());
-  ExactSum sum;
-  sum.Add(x);
-  sum.Remove(y);
   ExactSum squares;
   squares.AddSquare(x);
   squares.AddSquare(y);
-  // In the sum of differences an infinity of x and one of y cancel.
   if (!squares.IsFinite() || !std::isfinite(difference)) return {.degrees_of_freedom = size - 1};
+  ExactSum sum;
+  sum.Add(x);
+  sum.Remove(y);
   ExactSum products;
   products.AddProduct(x, y);
   const Rational n(size);

@@ -185,8 +185,10 @@ TEST(Tests, PassOnWhatIsNotANumber) {
       EXPECT_TRUE(std::isnan(result.statistic) && std::isnan(result.p) && std::isnan(result.log_p));
   }
   // Not even where one is subtracted from another.
-  EXPECT_TRUE(std::isnan(PairedTTest({kInfinity, 1, 2}, {1, kInfinity, 3}).p));
-  EXPECT_TRUE(std::isnan(PairedTTest({kNaN, 1, 2}, {1, kNaN, 3}).p));
+  for (const Extended special : {kNaN, kInfinity}) {
+    EXPECT_TRUE(std::isnan(PairedTTest({special, 1, 2}, {1, special, 3}).p));
+    EXPECT_TRUE(std::isnan(PairedTTest({0, 1, 2}, {1, special, 3}).p));
+  }
   const Values values{1, kNaN, 3};
   for (const TestResult& result :
        {VarianceTest(kData, kNaN), GoodnessOfFitTest({1, 2}, {kNaN, 1}), BinomialTest(1, 2, kNaN),
