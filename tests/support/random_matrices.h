@@ -64,16 +64,4 @@ std::vector<std::pair<const char*, ElementFunction<T>>> ElementFunctions(Engine&
           {"special", special}};
 }
 
-/// True if the values and the signs of zeros are equal, or if both are NaN.
-template <FloatElement T>
-bool SameBits(T a, T b) {
-  return (a == b && std::signbit(a) == std::signbit(b)) || (a != a && b != b);
-}
-
-template <class Element>
-bool SameBits(const DynArray<Element>& a, const DynArray<Element>& b) {
-  return std::ranges::equal(a, b,
-                            [](const Element& x, const Element& y) { return SameBits(x, y); });
-}
-
 }  // namespace qorvex::testing

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -27,6 +28,18 @@ TQorVector<T> RandomVector(Engine& engine, std::size_t n) {
     }
   }
   return vector;
+}
+
+/// True if the values and the signs of zeros are equal, or if both are NaN.
+template <FloatElement T>
+bool SameBits(T a, T b) {
+  return (a == b && std::signbit(a) == std::signbit(b)) || (a != a && b != b);
+}
+
+template <class Element>
+bool SameBits(const DynArray<Element>& a, const DynArray<Element>& b) {
+  return std::ranges::equal(a, b,
+                            [](const Element& x, const Element& y) { return SameBits(x, y); });
 }
 
 }  // namespace qorvex::testing

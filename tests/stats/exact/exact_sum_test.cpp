@@ -85,10 +85,9 @@ TYPED_TEST_SUITE(BlockSumOf, FloatTypes);
 // With every range of exponents, from one that a block can have to one that it cannot.
 TYPED_TEST(BlockSumOf, AddsBlocksExactlyOrNotAtAll) {
   using exact::detail::BlockSum;
-  using exact::detail::Instructions;
   testing::Engine engine(6);
   for (const Instructions instructions : {Instructions::kBaseline, Instructions::kAvx2}) {
-    if (instructions > exact::detail::BestInstructions()) continue;
+    if (instructions > BestInstructions()) continue;
     exact::FixedPoint total;
     BlockSum<TypeParam> sum(total, instructions);
     ExactSum expected;

@@ -70,7 +70,7 @@ struct Kernel<Extended> {
   static constexpr int kRange = 26;
 
   static std::optional<int> RangeFor(std::uint32_t greatest, Instructions instructions) {
-    if (instructions != Instructions::kAvx2) return std::nullopt;
+    if (instructions < Instructions::kAvx2) return std::nullopt;
     if (greatest > Elements<Extended>::kGreatest) return std::nullopt;
     return std::max(static_cast<int>(greatest) - (kRange - 1), 1);
   }
@@ -175,7 +175,7 @@ QORVEX_AVX2 bool SumExtendedAvx2(const Extended* values, int exponent, Sums& sum
 }
 
 bool Kernel<double>::Sum(const double* block, int range, Instructions instructions, Sums& sums) {
-  if (instructions == Instructions::kAvx2) return SumDoublesAvx2(block, range, sums);
+  if (instructions >= Instructions::kAvx2) return SumDoublesAvx2(block, range, sums);
   return SumDoubles<16>(block, range, sums);
 }
 

@@ -4,9 +4,9 @@
 #include <optional>
 #include <span>
 
+#include "qorvex/base/detail/instructions.h"
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
-#include "qorvex/stats/exact/detail/instructions.h"
 #include "qorvex/stats/exact/fixed_point.h"
 
 namespace qorvex::exact::detail {

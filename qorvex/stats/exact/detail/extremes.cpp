@@ -2,7 +2,7 @@
 
 #include <immintrin.h>
 
-#include "qorvex/stats/exact/detail/instructions.h"
+#include "qorvex/base/detail/instructions.h"
 
 namespace qorvex::exact::detail {
 
@@ -93,7 +93,7 @@ KeyRange<decltype(OrderKey(T()))> KeyRangeOf(std::span<const T> values) noexcept
   RangeOf<T> range = NoKeys<T>();
   if constexpr (!std::is_same_v<T, Extended>) {
     AddKeysSse2(values, range);
-  } else if (BestInstructions() == Instructions::kAvx2) {
+  } else if (BestInstructions() >= Instructions::kAvx2) {
     AddKeysAvx2(values, range);
   } else {
     AddKeys(values, range);

@@ -1,0 +1,30 @@
+#pragma once
+
+// The instruction sets that kernels may use, decided in one place.
+
+#include "qorvex/base/export.h"
+
+namespace qorvex {
+
+// Each level contains the ones before it.
+enum class Instructions {
+  kBaseline,  // every x86-64 processor
+  kAvx2,      // AVX2, FMA, BMI1 and 2, LZCNT, POPCNT, PCLMUL: Intel Haswell, AMD Zen, and later
+  kAvx512,    // AVX-512 F, BW, CD, DQ, VL and VBMI2: Intel Ice Lake, AMD Zen 4, and later
+};
+
+// Marks a function that may be called only where the level is allowed. An inline function with the
+// same mark is inlined into it; x87 loops belong into functions without a mark, where the compiler
+// keeps their sums in registers.
+#define QORVEX_AVX2 __attribute__((target("avx2,fma,bmi,bmi2,lzcnt,popcnt,pclmul")))
+#define QORVEX_AVX512                                 \
+  __attribute__((                                     \
+      target("avx2,fma,bmi,bmi2,lzcnt,popcnt,pclmul," \
+             "avx512f,avx512bw,avx512cd,avx512dq,avx512vl,avx512vbmi2")))
+
+// The highest level that the processor and the system support, and the environment variable
+// QORVEX_CPU allows: baseline, avx2, or anything else for no restriction. Decided at the first
+// call.
+[[nodiscard]] QORVEX_EXPORT Instructions BestInstructions() noexcept;
+
+}  // namespace qorvex
