@@ -1,5 +1,5 @@
-// Sums, sums of squares, dot products and extremes, compared with the plain loop in long double and
-// with statistics libraries.
+// Sums, sums of squares, dot products and extremes, compared with the plain loop (in long double
+// for floating elements, in int64 for integers) and with statistics libraries.
 
 #include <Eigen/Core>
 #include <algorithm>
@@ -9,6 +9,7 @@
 
 #include "qorvex/vector/QorvexVector.h"
 #include "support/compare.h"
+#include "support/integer_loops.h"
 
 namespace qorvex::benchmarks {
 namespace {
@@ -23,15 +24,28 @@ template <NumericElement T>
 void RegisterType() {
   Compare<T>("SumVector", "ours", [](const TQorVector<T>& v) { return SumVector(v); });
   Compare<T>("SumVector", "loop", [](const TQorVector<T>& v) {
-    Extended sum = 0;
-    for (const T x : v) sum += static_cast<Extended>(x);
-    return sum;
+    if constexpr (IntegerElement<T>) {
+      return LoopSum<T>(v);
+    } else {
+      Extended sum = 0;
+      for (const T x : v) sum += static_cast<Extended>(x);
+      return sum;
+    }
   });
+  if constexpr (IntegerElement<T>) {
+    Compare<T>("SumVector", "std::accumulate, -O3", [](const TQorVector<T>& v) {
+      return std::accumulate(v.begin(), v.end(), std::uint64_t{});
+    });
+  }
   Compare<T>("SumSqVector", "ours", [](const TQorVector<T>& v) { return SumSqVector(v); });
   Compare<T>("SumSqVector", "loop", [](const TQorVector<T>& v) {
-    Extended sum = 0;
-    for (const T x : v) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
-    return sum;
+    if constexpr (IntegerElement<T>) {
+      return LoopDotProduct<T>(v, v);
+    } else {
+      Extended sum = 0;
+      for (const T x : v) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
+      return sum;
+    }
   });
   Compare<T>("MinMaxVector", "ours", [](const TQorVector<T>& v) {
     T low = 0;
@@ -54,10 +68,14 @@ void RegisterDotProduct() {
   Compare<T>("DotProdVectors", "ours",
              [](const TQorVector<T>& v, const TQorVector<T>& w) { return DotProdVectors(v, w); });
   Compare<T>("DotProdVectors", "loop", [](const TQorVector<T>& v, const TQorVector<T>& w) {
-    Extended sum = 0;
-    for (std::size_t i = 0; i < v.size(); ++i)
-      sum += static_cast<Extended>(v[i]) * static_cast<Extended>(w[i]);
-    return sum;
+    if constexpr (IntegerElement<T>) {
+      return LoopDotProduct<T>(v, w);
+    } else {
+      Extended sum = 0;
+      for (std::size_t i = 0; i < v.size(); ++i)
+        sum += static_cast<Extended>(v[i]) * static_cast<Extended>(w[i]);
+      return sum;
+    }
   });
 }
 
