@@ -119,9 +119,8 @@ void WeightedFigures() {
       v2 += w[i] * w[i];
       sum += w[i] * v[i];
     }
-    for (std::size_t i = 0; i < v.size(); ++i) {
-      squares += w[i] * (v[i] - sum / v1) * (v[i] - sum / v1);
-    }
+    const Extended mean = sum / v1;
+    for (std::size_t i = 0; i < v.size(); ++i) squares += w[i] * (v[i] - mean) * (v[i] - mean);
     return squares / (v1 - v2 / v1);
   });
   // The elements need not be in order for the time.

@@ -64,14 +64,18 @@ const std::vector<TQorVector<T>>& Samples(std::size_t n, MakeSample<T> make) {
   return samples;
 }
 
+/// The usual lengths, and those of a routine in the plot.
+inline constexpr std::initializer_list<std::size_t> kSizes = {1'000, 100'000, 1'000'000};
+inline constexpr std::initializer_list<std::size_t> kPlotSizes = {10,     100,     1'000,
+                                                                  10'000, 100'000, 1'000'000};
+
 /// Registers work(vector), or work(vector, other vector), as "routine/type/who/n" for each n. The
 /// vectors differ from call to call, so that the branch predictor cannot learn them. Work that
 /// takes a reference that is not const changes a copy, which is made within the measured time, but
 /// without allocation.
 template <NumericElement T, class Work>
 void Compare(const std::string& routine, const std::string& who, Work work,
-             MakeSample<T> make = Sample<T>,
-             std::initializer_list<std::size_t> sizes = {1'000, 100'000, 1'000'000}) {
+             MakeSample<T> make = Sample<T>, std::initializer_list<std::size_t> sizes = kSizes) {
   for (const std::size_t n : sizes) {
     const std::string name = routine + "/" + kTypeName<T> + "/" + who + "/" + std::to_string(n);
     benchmark::RegisterBenchmark(name.c_str(), [n, work, make](benchmark::State& state) {

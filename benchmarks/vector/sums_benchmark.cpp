@@ -21,17 +21,21 @@ EigenVector AsEigen(const TQorFloatVector& v) {
 }
 
 template <NumericElement T>
-void RegisterType() {
-  Compare<T>("SumVector", "ours", [](const TQorVector<T>& v) { return SumVector(v); });
-  Compare<T>("SumVector", "loop", [](const TQorVector<T>& v) {
+void RegisterSum(std::initializer_list<std::size_t> sizes = kSizes) {
+  Compare<T>(
+      "SumVector", "ours", [](const TQorVector<T>& v) { return SumVector(v); }, Sample<T>, sizes);
+  const auto loop = [](const TQorVector<T>& v) {
     if constexpr (IntegerElement<T>) {
       return LoopSum<T>(v);
     } else {
-      Extended sum = 0;
-      for (const T x : v) sum += static_cast<Extended>(x);
-      return sum;
+      return std::accumulate(v.begin(), v.end(), Extended(0));
     }
-  });
+  };
+  Compare<T>("SumVector", IntegerElement<T> ? "loop" : "std::accumulate", loop, Sample<T>, sizes);
+}
+
+template <NumericElement T>
+void RegisterType() {
   if constexpr (IntegerElement<T>) {
     Compare<T>("SumVector", "std::accumulate, -O3", [](const TQorVector<T>& v) {
       return std::accumulate(v.begin(), v.end(), std::uint64_t{});
@@ -82,9 +86,6 @@ void RegisterDotProduct() {
 void RegisterPeers() {
   Compare<Extended>("SumVector", "Eigen",
                     [](const TQorFloatVector& v) { return AsEigen(v).sum(); });
-  Compare<Extended>("SumVector", "std::accumulate", [](const TQorFloatVector& v) {
-    return std::accumulate(v.begin(), v.end(), Extended(0));
-  });
   Compare<Extended>("SumVector", "GSL mean", [](const TQorFloatVector& v) {
     return gsl_stats_long_double_mean(v.data(), 1, v.size());
   });
@@ -106,6 +107,16 @@ void RegisterPeers() {
 }
 
 [[maybe_unused]] const bool registered = [] {
+  RegisterSum<Extended>(kPlotSizes);
+  RegisterSum<double>(kPlotSizes);
+  RegisterSum<float>();
+  RegisterSum<std::int64_t>();
+  RegisterSum<std::uint32_t>();
+  RegisterSum<std::int32_t>(kPlotSizes);
+  RegisterSum<std::uint16_t>();
+  RegisterSum<std::int16_t>();
+  RegisterSum<std::uint8_t>();
+  RegisterSum<std::int8_t>();
   RegisterType<Extended>();
   RegisterType<double>();
   RegisterType<float>();
