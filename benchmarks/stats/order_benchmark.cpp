@@ -46,7 +46,8 @@ void OrderStatistics() {
     return MedianAbsoluteDeviation(SortedVector(v));
   });
   Compare<Extended>("MedianAbsoluteDeviation", "GSL", [](const TQorFloatVector& v) {
-    std::vector<double> work(v.size());
+    static std::vector<double> work;
+    work.resize(v.size());
     return gsl_stats_long_double_mad0(v.data(), 1, v.size(), work.data());
   });
   Compare<Extended>("MedianAbsoluteDeviation", "Boost", [](const TQorFloatVector& v) {
@@ -86,7 +87,8 @@ void Correlations() {
   Compare<double>("SpearmanRho", "ours",
                   [](const auto& x, const auto& y) { return SpearmanRho(x, y); });
   Compare<double>("SpearmanRho", "GSL", [](const auto& x, const auto& y) {
-    std::vector<double> work(2 * x.size());
+    static std::vector<double> work;
+    work.resize(2 * x.size());
     return gsl_stats_spearman(x.data(), 1, y.data(), 1, x.size(), work.data());
   });
   Compare<double>("KendallTau", "ours",
