@@ -1,9 +1,13 @@
 #include "qorvex/vector/aggregates.h"
 
 #include <cmath>
+#include <span>
+#include <type_traits>
 
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/integer_sum.h"
+#include "qorvex/vector/detail/registers.h"
 
 namespace qorvex::inline QorvexVector {
 
@@ -28,19 +32,18 @@ std::int64_t SumOfTerms(VectorView<T> vector, Term term) {
   return sum.Value();
 }
 
-template <CurrencyElement T>
-T SumOfTerms(VectorView<T> vector, decltype(kItself)) {
-  T sum;
-  for (const T x : vector) sum += x;
-  return sum;
-}
-
 }  // namespace
 
 template <AnyElement T>
 SumOf<T> SumVector(VectorView<T> vector) {
   detail::RequireElements(vector);
-  return SumOfTerms(vector, kItself);
+  if constexpr (FloatElement<T>) {
+    return SumOfTerms(vector, kItself);
+  } else if constexpr (IntegerElement<T>) {
+    return detail::IntegerSum(detail::Numbers(vector));
+  } else {
+    return T(static_cast<typename T::StoredType>(detail::IntegerSum(detail::Numbers(vector))));
+  }
 }
 
 template <NumericElement T>
@@ -48,6 +51,8 @@ SumOf<T> SumSqVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   if constexpr (FloatElement<T>) {
     return SumOfTerms(vector, kSquare);
+  } else if constexpr (std::is_same_v<T, typename detail::SquareWidth<T>::Type>) {
+    return detail::IntegerProductSum<T>(vector, vector);
   } else {
     return SumOfTerms(vector, detail::NarrowSquare<T>);
   }
@@ -90,6 +95,11 @@ SumOf<T> SumSqDiffVectors(VectorView<T> a, VectorView<T> b) {
       sum += difference * difference;
     }
     return sum;
+  } else if constexpr (sizeof(T) == sizeof(std::int32_t)) {
+    const auto low_bits = [](VectorView<T> v) {
+      return std::span(reinterpret_cast<const std::int32_t*>(v.data()), v.size());
+    };
+    return detail::IntegerSquaredDifferenceSum(low_bits(a), low_bits(b));
   } else {
     detail::Int64Sum sum;
     for (std::size_t i = 0; i < a.size(); ++i) {

@@ -6,7 +6,7 @@
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
-#include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/integer_sum.h"
 
 namespace qorvex::inline QorvexVector {
 
@@ -59,9 +59,7 @@ SumOf<T> DotProdVectors(VectorView<T> a, VectorView<T> b) {
     }
     return sum;
   } else {
-    detail::Int64Sum sum;
-    for (std::size_t i = 0; i < a.size(); ++i) sum.Add(detail::WrappingMultiply(a[i], b[i]));
-    return sum.Value();
+    return detail::IntegerProductSum<T>(a, b);
   }
 }
 
