@@ -46,7 +46,8 @@ void OrderStatistics() {
     return MedianAbsoluteDeviation(SortedVector(v));
   });
   Compare<Extended>("MedianAbsoluteDeviation", "GSL", [](const TQorFloatVector& v) {
-    std::vector<double> work(v.size());
+    static std::vector<double> work;
+    work.resize(v.size());
     return gsl_stats_long_double_mad0(v.data(), 1, v.size(), work.data());
   });
   Compare<Extended>("MedianAbsoluteDeviation", "Boost", [](const TQorFloatVector& v) {
@@ -86,7 +87,8 @@ void Correlations() {
   Compare<double>("SpearmanRho", "ours",
                   [](const auto& x, const auto& y) { return SpearmanRho(x, y); });
   Compare<double>("SpearmanRho", "GSL", [](const auto& x, const auto& y) {
-    std::vector<double> work(2 * x.size());
+    static std::vector<double> work;
+    work.resize(2 * x.size());
     return gsl_stats_spearman(x.data(), 1, y.data(), 1, x.size(), work.data());
   });
   Compare<double>("KendallTau", "ours",
@@ -119,9 +121,8 @@ void WeightedFigures() {
       v2 += w[i] * w[i];
       sum += w[i] * v[i];
     }
-    for (std::size_t i = 0; i < v.size(); ++i) {
-      squares += w[i] * (v[i] - sum / v1) * (v[i] - sum / v1);
-    }
+    const Extended mean = sum / v1;
+    for (std::size_t i = 0; i < v.size(); ++i) squares += w[i] * (v[i] - mean) * (v[i] - mean);
     return squares / (v1 - v2 / v1);
   });
   // The elements need not be in order for the time.
