@@ -37,8 +37,7 @@ std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
   std::string_view number = decimal::WithoutBlanks(text);
   const bool negative = decimal::TakeSign(number);
   const decimal::DecimalText scanned = decimal::ScanDecimal(number);
-  constexpr int most_digits = std::numeric_limits<std::uint64_t>::digits10;
-  if (!scanned.valid || scanned.digits > most_digits ||
+  if (!scanned.valid || !scanned.HasSignificand() ||
       scanned.significand > std::numeric_limits<std::int64_t>::max()) {
     return std::nullopt;
   }
