@@ -34,8 +34,8 @@ concept ElementFrom = std::convertible_to<From, To> &&
 /// @endcond
 
 /// @cond internal
-// Large memory is cheaper in large pages: handing out 16 MB in pages of 4 kB takes about as long as
-// adding up a million elements twice.
+// Large memory is cheaper in large pages: in pages of 4 kB the system takes longer to hand out
+// memory for a million values than a loop takes to add them up.
 inline constexpr std::size_t kLeastLargeBuffer = std::size_t{4} << 20;
 QORVEX_EXPORT void PreferLargePages(void* memory, std::size_t bytes) noexcept;
 /// @endcond
@@ -425,8 +425,8 @@ class DynArray {
 
   Header* header_ = nullptr;
   // The handles of a shared buffer agree on the length, because a change of it makes the buffer
-  // private. Kept here, the lengths of all rows of a matrix are compared without a look at the
-  // rows.
+  // private. Because it is kept here, the lengths of all rows of a matrix are compared without
+  // reading the rows.
   size_type length_ = 0;
 };
 

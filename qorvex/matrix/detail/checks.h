@@ -22,18 +22,25 @@ struct Shape {
   [[nodiscard]] bool HasAtMostOneLine() const noexcept { return rows <= 1 || cols <= 1; }
 };
 
-// Whether all rows have this length. Reads handles only, never rows, and does not branch: four
-// differences side by side.
+// Whether all rows have this length: then so do the union and the intersection of the bits of all
+// lengths. Without branches, and reading handles only, it takes less than a cycle a row.
 template <class T>
 [[nodiscard]] bool HasRowsOfLength(const TQorMatrix<T>& matrix, std::size_t length) noexcept {
-  std::array<std::size_t, 4> differences{};
-  const TQorVector<T>* row = matrix.begin();
-  const TQorVector<T>* const end = matrix.end();
-  for (; end - row >= 4; row += 4) {
-    for (std::size_t i = 0; i < 4; ++i) differences[i] |= row[i].size() ^ length;
+  constexpr std::size_t chains = 2;
+  constexpr std::size_t block = 4 * chains;
+  std::array<std::size_t, chains> any{length, length};
+  std::array<std::size_t, chains> all{length, length};
+  const TQorVector<T>* const rows = matrix.data();
+  const auto add = [&](std::size_t row, std::size_t chain) {
+    any[chain] |= rows[row].size();
+    all[chain] &= rows[row].size();
+  };
+  std::size_t i = 0;
+  for (; i + block <= matrix.size(); i += block) {
+    for (std::size_t j = 0; j < block; ++j) add(i + j, j % chains);
   }
-  for (; row != end; ++row) differences[0] |= row->size() ^ length;
-  return (differences[0] | differences[1] | differences[2] | differences[3]) == 0;
+  for (; i < matrix.size(); ++i) add(i, 0);
+  return (any[0] | any[1]) == (all[0] & all[1]);
 }
 
 // The shape that MatrixDimensions reports. compare_rows is the value of a shape switch.

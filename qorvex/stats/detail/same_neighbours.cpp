@@ -37,7 +37,8 @@ struct Key {
   std::uint16_t sign_and_exponent;
 };
 
-// The difference of mantissas lies between -reach and reach if adding the reach leaves at most two.
+// A difference of mantissas lies between -reach and reach if, after the reach is added to it, it is
+// at most the width, as an unsigned number.
 std::uint64_t Width(std::uint64_t reach) noexcept {
   return reach == kAnyDistance ? ~std::uint64_t{0} : 2 * reach;
 }
