@@ -7,6 +7,7 @@
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/elimination.h"
+#include "qorvex/matrix/detail/float_inverse.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
 #include "qorvex/matrix/detail/with_rows.h"
@@ -55,7 +56,6 @@ void SubstituteBack(TQorMatrix<T>& matrix, Rows& inverse_rows) {
       if (FloatIsNotZero(element)) inverse_rows.Add(row, col, -element);
     }
   }
-  inverse_rows.Flush();
 }
 
 template <FloatElement T>
@@ -63,6 +63,23 @@ bool IsFinite(const TQorMatrix<T>& matrix) {
   return std::ranges::all_of(matrix, [](const TQorVector<T>& row) {
     return std::ranges::all_of(row, [](T x) { return std::isfinite(x); });
   });
+}
+
+// The result is at first the identity.
+template <FloatElement T>
+bool Invert(TQorMatrix<T>& matrix, TQorMatrix<T>& result) {
+  if constexpr (std::same_as<T, Extended>) {
+    return detail::InvertFloats(matrix, result);
+  } else {
+    const std::size_t order = matrix.size();
+    detail::DirectRows<T> rows(matrix, order);
+    detail::DirectRows<T> result_rows(result, order);
+    InverseObserver observer(result_rows);
+    const std::size_t rank = detail::Eliminate(rows, order, order, observer);
+    if (rank < order || !observer.PivotsAreFinite()) return false;
+    SubstituteBack(matrix, result_rows);
+    return IsFinite(result);
+  }
 }
 
 class DeterminantObserver : public detail::Observer {
@@ -95,15 +112,8 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
-  const bool regular = detail::WithRows(matrix, order, [&]<class Rows>(Rows rows) {
-    Rows result_rows(result, order);
-    InverseObserver observer(result_rows);
-    const std::size_t rank = detail::Eliminate(rows, order, order, observer);
-    result_rows.Flush();
-    if (rank < order || !observer.PivotsAreFinite()) return false;
-    SubstituteBack(matrix, result_rows);
-    return IsFinite(result);
-  });
+  detail::SeparateRows(matrix);
+  const bool regular = Invert(matrix, result);
   inverse = std::move(result);
   return regular;
 }

@@ -48,6 +48,7 @@ std::size_t Eliminate(Rows& rows, std::size_t row_count, std::size_t col_count,
                       SomeObserver& observer) {
   std::size_t pivot_row = 0;
   for (std::size_t col = 0; col < col_count && pivot_row < row_count; ++col) {
+    rows.BeginColumn(col);
     const std::size_t best_row = FindPivot(rows, pivot_row, row_count, col);
     if (best_row == row_count) {
       for (std::size_t row = pivot_row; row < row_count; ++row) rows.Clear(row, col);
