@@ -28,8 +28,9 @@ std::size_t FindPivot(const Rows& rows, std::size_t first_row, std::size_t row_c
   Extended largest = 0;
   for (std::size_t row = first_row; row < row_count; ++row) {
     const Extended magnitude = std::fabs(rows.At(row, col));
+    if (magnitude <= largest) continue;
     if (std::isnan(magnitude)) return row;
-    if (FloatIsNotZero(magnitude) && magnitude > largest) {
+    if (FloatIsNotZero(magnitude)) {
       best_row = row;
       largest = magnitude;
     }

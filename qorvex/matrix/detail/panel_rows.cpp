@@ -1,7 +1,6 @@
 #include "qorvex/matrix/detail/panel_rows.h"
 
 #include <algorithm>
-#include <cassert>
 #include <utility>
 
 #include "qorvex/matrix/detail/row_kernels.h"
@@ -32,16 +31,6 @@ void PanelRows::Scale(std::size_t row, Extended factor) {
   ScaleElements(rows_[row].elements + cleared_[row], panel_end_ - cleared_[row], factor);
 }
 
-void PanelRows::Add(std::size_t target, std::size_t source, Extended factor) {
-  assert(source < target && source < cleared_[target]);
-  Extended* const elements = rows_[target].elements;
-  const std::size_t next = cleared_[target];
-  AddElements(elements + next, rows_[source].elements + next, panel_end_ - next, factor);
-  elements[source] = factor;
-  Insert(rows_[target].added, source);
-  sources_ = std::max(sources_, source + 1);
-}
-
 void PanelRows::Flush() {
   while (panel_end_ < cols_) ComputePanel();
   for (std::size_t i = 0; i < rows_.size(); ++i) {
@@ -50,7 +39,8 @@ void PanelRows::Flush() {
 }
 
 void PanelRows::ComputePanel() {
-  recurrence_.Compute(rows_, 0, sources_, panel_end_, cols_);
+  // The first columns have not missed any step.
+  if (panel_end_ > 0) recurrence_.Compute(rows_, 0, sources_, panel_end_, cols_);
   panel_end_ = std::min(panel_end_ + kPair, cols_);
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <memory_resource>
 #include <span>
@@ -38,7 +40,16 @@ class PanelRows {
   void Clear(std::size_t row, std::size_t col) { cleared_[row] = col + 1; }
   void Swap(std::size_t row1, std::size_t row2);
   void Scale(std::size_t row, Extended factor);
-  void Add(std::size_t target, std::size_t source, Extended factor);
+  void Add(std::size_t target, std::size_t source, Extended factor) {
+    assert(source < target && source < cleared_[target]);
+    Extended* const elements = rows_[target].elements;
+    for (std::size_t col = cleared_[target]; col < panel_end_; ++col) {
+      elements[col] += rows_[source].elements[col] * factor;
+    }
+    elements[source] = factor;
+    Insert(rows_[target].added, source);
+    sources_ = std::max(sources_, source + 1);
+  }
   void Flush();
 
  protected:

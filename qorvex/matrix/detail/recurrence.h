@@ -49,7 +49,8 @@ class Recurrence {
     std::span<const RecurrentRow> rows;
     std::size_t first, sources, col, width;
   };
-  // Computes the rows from the given one on. Stops behind a row that cannot be stored exactly.
+  // Computes the rows from the given one on, two at a time. Stops after two of which one cannot be
+  // stored exactly, and returns the first of them.
   template <class Pair>
   static std::size_t ComputeRows(const Columns& columns, std::size_t row, Pair* pairs);
 
