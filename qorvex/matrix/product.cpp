@@ -12,58 +12,61 @@ namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// Works on two columns of the right factor at a time. They stay in the first-level cache while
-// they are multiplied by all rows of the left factor.
-class PairProduct {
+// Works on eight columns of the right factor at a time, stored as pairs. They stay in the first two
+// levels of cache while they are multiplied by all rows of the left factor.
+class BlockProduct {
  public:
-  PairProduct(const TQorFloatMatrix& a, const TQorFloatMatrix& b, std::size_t inner)
-      : a_(a),
-        b_(b),
-        inner_(inner),
-        split_(std::make_unique_for_overwrite<detail::SplitPair[]>(inner)) {}
+  static constexpr std::size_t kBlock = 8;
 
-  // Computes the columns from col on, as many as width, at most two.
-  void AddTo(TQorFloatMatrix& product, std::size_t col, std::size_t width) {
-    if (Store(split_.get(), col, width)) {
-      AddColumns(product, col, width, split_.get());
-      return;
-    }
-    if (plain_ == nullptr) plain_ = std::make_unique_for_overwrite<detail::PlainPair[]>(inner_);
-    Store(plain_.get(), col, width);
-    AddColumns(product, col, width, plain_.get());
+  BlockProduct(const TQorFloatMatrix& a, const TQorFloatMatrix& b, std::size_t inner,
+               TQorFloatMatrix& product)
+      : a_(a), b_(b), inner_(inner), product_(product) {}
+
+  // Computes the columns from col on, as many as width, at most a block.
+  void Compute(std::size_t col, std::size_t width) {
+    if (!ComputeWith(split_, col, width)) ComputeWith(plain_, col, width);
   }
 
  private:
   template <class Pair>
-  bool Store(Pair* pairs, std::size_t col, std::size_t width) const {
+  using Pairs = std::unique_ptr<Pair[]>;
+
+  // Returns false, and computes nothing, if the columns cannot be stored exactly.
+  template <class Pair>
+  bool ComputeWith(Pairs<Pair>& pairs, std::size_t col, std::size_t width) {
+    if (pairs == nullptr) {
+      pairs = std::make_unique_for_overwrite<Pair[]>(inner_ * (kBlock / detail::kPair));
+    }
     bool exact = true;
     for (std::size_t k = 0; k < inner_; ++k) {
-      const Extended* const elements = &b_[k][col];
-      const Extended padded[detail::kPair] = {elements[0]};
-      exact &= pairs[k].Store(width == detail::kPair ? elements : padded);
+      Extended elements[kBlock] = {};
+      std::copy_n(&b_[k][col], width, elements);
+      for (std::size_t j = 0; j < width; j += detail::kPair) {
+        exact &= pairs[j / detail::kPair * inner_ + k].Store(elements + j);
+      }
     }
-    return exact;
-  }
-
-  template <class Pair>
-  void AddColumns(TQorFloatMatrix& product, std::size_t col, std::size_t width,
-                  const Pair* pairs) const {
-    const std::size_t rows = product.size();
+    if (!exact) return false;
+    const std::size_t rows = product_.size();
     for (std::size_t i = 0; i < rows; i += 2) {
       const std::size_t other = std::min(i + 1, rows - 1);
-      Extended sums0[detail::kPair] = {};
-      Extended sums1[detail::kPair] = {};
-      detail::AddProducts(sums0, sums1, a_[i].data(), a_[other].data(), pairs, inner_);
-      std::copy_n(sums0, width, &product[i][col]);
-      std::copy_n(sums1, width, &product[other][col]);
+      Extended sums0[kBlock] = {};
+      Extended sums1[kBlock] = {};
+      for (std::size_t j = 0; j < width; j += detail::kPair) {
+        detail::AddProducts(sums0 + j, sums1 + j, a_[i].data(), a_[other].data(),
+                            &pairs[j / detail::kPair * inner_], inner_);
+      }
+      std::copy_n(sums0, width, &product_[i][col]);
+      std::copy_n(sums1, width, &product_[other][col]);
     }
+    return true;
   }
 
   const TQorFloatMatrix& a_;
   const TQorFloatMatrix& b_;
   std::size_t inner_;
-  std::unique_ptr<detail::SplitPair[]> split_;
-  std::unique_ptr<detail::PlainPair[]> plain_;
+  TQorFloatMatrix& product_;
+  Pairs<detail::SplitPair> split_;
+  Pairs<detail::PlainPair> plain_;
 };
 
 }  // namespace
@@ -81,9 +84,10 @@ TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
 
   auto product = detail::NewMatrix<T>(left.rows, right.cols);
   if constexpr (std::same_as<T, Extended>) {
-    PairProduct pairs(a, b, left.cols);
-    for (std::size_t col = 0; col < right.cols; col += detail::kPair) {
-      pairs.AddTo(product, col, std::min(detail::kPair, right.cols - col));
+    constexpr std::size_t block = BlockProduct::kBlock;
+    BlockProduct blocks(a, b, left.cols, product);
+    for (std::size_t col = 0; col < right.cols; col += block) {
+      blocks.Compute(col, std::min(block, right.cols - col));
     }
   } else {
     // Row by row: the sums of a row are independent of one another, so that no addition waits for

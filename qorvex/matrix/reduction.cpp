@@ -69,17 +69,16 @@ bool IsFinite(const TQorMatrix<T>& matrix) {
 template <FloatElement T>
 bool Invert(TQorMatrix<T>& matrix, TQorMatrix<T>& result) {
   if constexpr (std::same_as<T, Extended>) {
-    return detail::InvertFloats(matrix, result);
-  } else {
-    const std::size_t order = matrix.size();
-    detail::DirectRows<T> rows(matrix, order);
-    detail::DirectRows<T> result_rows(result, order);
-    InverseObserver observer(result_rows);
-    const std::size_t rank = detail::Eliminate(rows, order, order, observer);
-    if (rank < order || !observer.PivotsAreFinite()) return false;
-    SubstituteBack(matrix, result_rows);
-    return IsFinite(result);
+    if (matrix.size() >= detail::kLeastPanelRows) return detail::InvertFloats(matrix, result);
   }
+  const std::size_t order = matrix.size();
+  detail::DirectRows<T> rows(matrix, order);
+  detail::DirectRows<T> result_rows(result, order);
+  InverseObserver observer(result_rows);
+  const std::size_t rank = detail::Eliminate(rows, order, order, observer);
+  if (rank < order || !observer.PivotsAreFinite()) return false;
+  SubstituteBack(matrix, result_rows);
+  return IsFinite(result);
 }
 
 class DeterminantObserver : public detail::Observer {

@@ -13,6 +13,9 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
+// From this many rows on, PanelRows are faster than DirectRows.
+inline constexpr std::size_t kLeastPanelRows = 8;
+
 // Gives rows that share a buffer with an earlier row of the matrix their own buffer, because
 // reduced rows differ.
 template <FloatElement T>
@@ -37,10 +40,9 @@ template <FloatElement T, class Reduce>
 auto WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
   SeparateRows(matrix);
   if constexpr (std::same_as<T, Extended>) {
-    return reduce(PanelRows(matrix, cols));
-  } else {
-    return reduce(DirectRows<T>(matrix, cols));
+    if (matrix.size() >= kLeastPanelRows) return reduce(PanelRows(matrix, cols));
   }
+  return reduce(DirectRows<T>(matrix, cols));
 }
 
 }  // namespace qorvex::inline QorvexMatrix::detail
