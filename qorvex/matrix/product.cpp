@@ -39,26 +39,35 @@ class BlockProduct {
     }
     bool exact = true;
     for (std::size_t k = 0; k < inner_; ++k) {
-      Extended elements[kBlock] = {};
-      std::copy_n(&b_[k][col], width, elements);
+      const Extended* const row = &b_[k][col];
       for (std::size_t j = 0; j < width; j += detail::kPair) {
-        exact &= pairs[j / detail::kPair * inner_ + k].Store(elements + j);
+        const Extended last[detail::kPair] = {row[j]};
+        exact &= PairsAt(pairs, j)[k].Store(j + 1 < width ? row + j : last);
       }
     }
     if (!exact) return false;
-    const std::size_t rows = product_.size();
-    for (std::size_t i = 0; i < rows; i += 2) {
-      const std::size_t other = std::min(i + 1, rows - 1);
-      Extended sums0[kBlock] = {};
-      Extended sums1[kBlock] = {};
+    for (std::size_t i = 0; i < product_.size(); i += 2) {
+      const std::size_t other = std::min(i + 1, product_.size() - 1);
       for (std::size_t j = 0; j < width; j += detail::kPair) {
-        detail::AddProducts(sums0 + j, sums1 + j, a_[i].data(), a_[other].data(),
-                            &pairs[j / detail::kPair * inner_], inner_);
+        Extended sums0[detail::kPair] = {};
+        Extended sums1[detail::kPair] = {};
+        detail::AddProducts(sums0, sums1, a_[i].data(), a_[other].data(), PairsAt(pairs, j),
+                            inner_);
+        product_[i][col + j] = sums0[0];
+        product_[other][col + j] = sums1[0];
+        if (j + 1 < width) {
+          product_[i][col + j + 1] = sums0[1];
+          product_[other][col + j + 1] = sums1[1];
+        }
       }
-      std::copy_n(sums0, width, &product_[i][col]);
-      std::copy_n(sums1, width, &product_[other][col]);
     }
     return true;
+  }
+
+  // The pairs of column j of the block.
+  template <class Pair>
+  Pair* PairsAt(const Pairs<Pair>& pairs, std::size_t j) const {
+    return &pairs[j / detail::kPair * inner_];
   }
 
   const TQorFloatMatrix& a_;
