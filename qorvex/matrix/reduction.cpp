@@ -7,6 +7,7 @@
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/elimination.h"
+#include "qorvex/matrix/detail/inverse_steps.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
 #include "qorvex/matrix/detail/with_rows.h"
@@ -65,6 +66,31 @@ bool IsFinite(const TQorMatrix<T>& matrix) {
   });
 }
 
+// The result is at first the identity.
+template <FloatElement T>
+bool Invert(TQorMatrix<T>& matrix, TQorMatrix<T>& result) {
+  const std::size_t order = matrix.size();
+  if constexpr (std::same_as<T, Extended>) {
+    return detail::WithRows(matrix, order, [&]<class Rows>(Rows rows) {
+      Rows result_rows(result, order);
+      InverseObserver observer(result_rows);
+      const std::size_t rank = detail::Eliminate(rows, order, order, observer);
+      result_rows.Flush();
+      if (rank < order || !observer.PivotsAreFinite()) return false;
+      SubstituteBack(matrix, result_rows);
+      return IsFinite(result);
+    });
+  } else {
+    detail::InverseSteps<T> steps(result);
+    const std::size_t rank = detail::WithRows(
+        matrix, order, [&](auto rows) { return detail::Eliminate(rows, order, order, steps); });
+    steps.PutInOrder();
+    if (rank < order || !steps.PivotsAreFinite()) return false;
+    steps.SubstituteBack(matrix);
+    return IsFinite(result);
+  }
+}
+
 class DeterminantObserver : public detail::Observer {
  public:
   void Swapped(std::size_t, std::size_t) { determinant_ = -determinant_; }
@@ -95,15 +121,7 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
-  const bool regular = detail::WithRows(matrix, order, [&]<class Rows>(Rows rows) {
-    Rows result_rows(result, order);
-    InverseObserver observer(result_rows);
-    const std::size_t rank = detail::Eliminate(rows, order, order, observer);
-    result_rows.Flush();
-    if (rank < order || !observer.PivotsAreFinite()) return false;
-    SubstituteBack(matrix, result_rows);
-    return IsFinite(result);
-  });
+  const bool regular = Invert(matrix, result);
   inverse = std::move(result);
   return regular;
 }
