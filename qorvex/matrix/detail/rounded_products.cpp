@@ -52,7 +52,7 @@ constexpr double kSumMargin = 1 + 0x1.1p-10;
 constexpr std::int64_t kExponentBits = 0x7E00'0000'0000'0000;
 
 // Computes eight elements of the target.
-QORVEX_AVX512 [[gnu::always_inline]] inline void AddEight(double* result, const double* target,
+[[gnu::always_inline]] QORVEX_AVX512 inline void AddEight(double* result, const double* target,
                                                           const double* source, double factor) {
   const __m512d k = _mm512_set1_pd(factor);
   const __m512d a = _mm512_loadu_pd(source);
@@ -95,7 +95,7 @@ constexpr std::int64_t kRoundedBits = 0x1FFF'FFFF;
 constexpr std::int64_t kHalfway = 0x1000'0000;
 constexpr double kLeastNormal = 0x1p-126;
 
-QORVEX_AVX512 [[gnu::always_inline]] inline void AddEight(float* result, const float* target,
+[[gnu::always_inline]] QORVEX_AVX512 inline void AddEight(float* result, const float* target,
                                                           const float* source, float factor) {
   const __m512d sum = _mm512_fmadd_pd(__builtin_convertvector(_mm256_loadu_ps(source), __m512d),
                                       _mm512_set1_pd(static_cast<double>(factor)),
@@ -119,7 +119,7 @@ QORVEX_AVX512 [[gnu::always_inline]] inline void AddEight(float* result, const f
 
 // The sums of four products in double precision. Returns the bits of those that are halfway between
 // singles, or small but not zero.
-QORVEX_AVX2 [[gnu::always_inline]] inline unsigned SumFour(__m256d& sum, const float* target,
+[[gnu::always_inline]] QORVEX_AVX2 inline unsigned SumFour(__m256d& sum, const float* target,
                                                            const float* source, float factor) {
   sum = _mm256_fmadd_pd(_mm256_cvtps_pd(_mm_loadu_ps(source)),
                         _mm256_set1_pd(static_cast<double>(factor)),
@@ -134,7 +134,7 @@ QORVEX_AVX2 [[gnu::always_inline]] inline unsigned SumFour(__m256d& sum, const f
       _mm256_movemask_pd(_mm256_or_pd(_mm256_castsi256_pd(halfway), small)));
 }
 
-QORVEX_AVX2 [[gnu::always_inline]] inline void AddEightInHalves(float* result, const float* target,
+[[gnu::always_inline]] QORVEX_AVX2 inline void AddEightInHalves(float* result, const float* target,
                                                                 const float* source, float factor) {
   __m256d low;
   __m256d high;
