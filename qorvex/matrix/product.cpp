@@ -5,7 +5,7 @@
 
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/new_matrix.h"
-#include "qorvex/matrix/detail/row_kernels.h"
+#include "qorvex/matrix/detail/rounded_products.h"
 #include "qorvex/matrix/detail/split_pairs.h"
 
 namespace qorvex::inline QorvexMatrix {
@@ -103,7 +103,7 @@ TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
     // the one before.
     for (std::size_t i = 0; i < left.rows; ++i) {
       for (std::size_t k = 0; k < left.cols; ++k) {
-        detail::AddElements(product[i].data(), b[k].data(), right.cols,
+        detail::AddMultiple(product[i].data(), b[k].data(), right.cols,
                             static_cast<Extended>(a[i][k]));
       }
     }

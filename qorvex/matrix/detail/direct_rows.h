@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
-#include "qorvex/matrix/detail/row_kernels.h"
+#include "qorvex/matrix/detail/rounded_products.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -44,7 +44,7 @@ class DirectRows {
   // Adds factor * source row to the target row.
   void Add(std::size_t target, std::size_t source, Extended factor) {
     const auto [elements, cleared] = rows_[target];
-    AddElements(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
+    AddMultiple(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
   }
   // Does nothing, because no operation is deferred.
   void Flush() {}

@@ -11,6 +11,7 @@
 #include "qorvex/matrix/detail/copy_element.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/panel_rows.h"
+#include "qorvex/matrix/detail/with_rows.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -134,6 +135,7 @@ class InversionRows : public PanelRows {
 }  // namespace
 
 bool InvertFloats(TQorFloatMatrix& matrix, TQorFloatMatrix& result) {
+  SeparateRows(matrix);
   return InversionRows(matrix, result).Invert();
 }
 
