@@ -22,6 +22,8 @@ class DirectRows {
     for (TQorVector<T>& row : matrix) rows_.push_back({.elements = row.data()});
   }
 
+  // Does nothing, because all columns are up to date.
+  void BeginColumn(std::size_t) {}
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const {
     return static_cast<Extended>(rows_[row].elements[col]);
   }
