@@ -13,6 +13,8 @@ namespace qorvex::apps {
 
 namespace {
 
+namespace decimal = QorvexGlobals::detail;
+
 constexpr int kMostExactDecimals = 27;
 
 template <class Number, std::size_t kCount>
@@ -30,13 +32,13 @@ bool Shift(std::int64_t& integer, std::int64_t exponent) {
          !__builtin_mul_overflow(integer, powers[static_cast<std::size_t>(exponent)], &integer);
 }
 
-}  // namespace
-
-std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
-  namespace decimal = QorvexGlobals::detail;
+// The number that scan(unsigned text) finds.
+template <class Scan>
+[[gnu::always_inline]] inline std::optional<DecimalNumber> NumberOf(std::string_view text,
+                                                                    Scan scan) {
   std::string_view number = decimal::WithoutBlanks(text);
   const bool negative = decimal::TakeSign(number);
-  const decimal::DecimalText scanned = decimal::ScanDecimal(number);
+  const decimal::DecimalText scanned = scan(number);
   if (!scanned.valid || !scanned.HasSignificand() ||
       scanned.significand > std::numeric_limits<std::int64_t>::max()) {
     return std::nullopt;
@@ -45,13 +47,27 @@ std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
   return DecimalNumber{negative ? -integer : integer, scanned.exponent};
 }
 
+}  // namespace
+
+std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
+  return NumberOf(text, decimal::ScanDecimal);
+}
+
+bool ColumnNumbers::TryAppendCell(std::string_view text) {
+  if (!are_decimal_) return false;
+  const auto number = NumberOf(text, decimal::ScanExtendedDecimal);
+  return number && TryAppend(*number);
+}
+
 bool ColumnNumbers::TryAppend(DecimalNumber number) {
   if (!are_decimal_) return false;
-  const std::int64_t needed =
-      number.integer == 0 ? decimals_ : std::max<std::int64_t>(decimals_, -number.exponent);
-  if (needed > kMostExactDecimals || !Shift(number.integer, number.exponent + needed) ||
-      !Rescale(static_cast<int>(needed))) {
-    return false;
+  if (number.exponent != -decimals_) {
+    const std::int64_t needed =
+        number.integer == 0 ? decimals_ : std::max<std::int64_t>(decimals_, -number.exponent);
+    if (needed > kMostExactDecimals || !Shift(number.integer, number.exponent + needed) ||
+        !Rescale(static_cast<int>(needed))) {
+      return false;
+    }
   }
   const auto bits = static_cast<std::uint64_t>(number.integer);
   largest_ = std::max(largest_, number.integer < 0 ? 0 - bits : bits);

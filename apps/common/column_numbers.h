@@ -34,6 +34,9 @@ class ColumnNumbers {
   /// Appends an exact number. Returns false, without any change, if the numbers are no integers or
   /// would not fit.
   [[nodiscard]] bool TryAppend(DecimalNumber number);
+  /// The same for the number in the text of a cell, which Str2Float would read, and behind which
+  /// eight bytes can be read. Returns false, without any change, for other texts, too.
+  [[nodiscard]] bool TryAppendCell(std::string_view text);
   /// Appends a value. Integers become values.
   void Append(Extended value);
   /// Sorts the numbers in ascending order. Copies and vectors taken before keep their order.

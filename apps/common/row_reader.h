@@ -47,6 +47,8 @@ class RowReader {
   /// for rows longer than kLongestRow and for UTF-16. Exceptions of the input pass through.
   bool Next();
 
+  /// After each cell that many bytes can be read, so that it can be scanned in words.
+  static constexpr std::size_t kReadableBehind = 16;
   /// The cells of the row, at least one. Valid until the next call of Next.
   [[nodiscard]] std::span<const std::string_view> Cells() const noexcept { return cells_; }
   /// The line on which the row starts, from 1.
@@ -72,7 +74,10 @@ class RowReader {
   TextInput input_;
   std::optional<char> delimiter_;
   bool delimiter_is_blank_ = false;
-  std::array<bool, 256> ends_plain_cell_{};
+  // Each repeated, to be compared with sixteen characters at once. Both are the same unless blanks
+  // delimit.
+  std::array<char, 16> delimiters_{};
+  std::array<char, 16> other_delimiters_{};
 
   // The bytes from begin_ to end_ have not been read; the row that is being read starts at begin_.
   std::vector<char> buffer_;

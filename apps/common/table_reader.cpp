@@ -150,19 +150,19 @@ class ColumnCollector {
   }
 
   void Add(std::string_view cell, TableColumn& column) const {
-    const CellPlace place = Place(column, rows_.Line());
-    std::optional<DecimalNumber> exact;
     const bool is_last = &column == &columns_.back();
     if (labelled_ && is_last) {
       column.labels.emplace_back(cell);
       return;
     }
-    if (currency_ && !(weighted_ && is_last)) {
-      exact = {AmountIn(cell, place).stored(), -Currency::kDecimals};
-    } else if (column.numbers.AreDecimal()) {
-      exact = ParseDecimal(cell);
-    }
-    if (!exact || !column.numbers.TryAppend(*exact)) column.numbers.Append(NumberIn(cell, place));
+    const bool is_amount = currency_ && !(weighted_ && is_last);
+    const bool appended = is_amount ? column.numbers.TryAppend(AmountAt(cell, column))
+                                    : column.numbers.TryAppendCell(cell);
+    if (!appended) column.numbers.Append(NumberIn(cell, Place(column, rows_.Line())));
+  }
+
+  [[nodiscard]] DecimalNumber AmountAt(std::string_view cell, const TableColumn& column) const {
+    return {AmountIn(cell, Place(column, rows_.Line())).stored(), -Currency::kDecimals};
   }
 
   void SkipRow(std::size_t line) {

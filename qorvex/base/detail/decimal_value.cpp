@@ -55,7 +55,7 @@ Unsigned128 HighProduct(Unsigned128 a, Unsigned128 b) {
 
 Unsigned128 SignificandOf(std::string_view mantissa) {
   if (mantissa.size() < 8) return 0;
-  const EightCharacters<true> characters(mantissa);
+  const LongCharacters characters(mantissa);
   const char* const last = mantissa.data() + mantissa.size();
   Unsigned128 significand = 0;
   const char* const end = TakeDigits(characters, mantissa.data(), last, significand);

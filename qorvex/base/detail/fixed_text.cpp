@@ -12,9 +12,6 @@ namespace qorvex::inline QorvexGlobals::detail {
 
 namespace {
 
-constexpr std::uint64_t kPowers[] = {1,       10,        100,        1000,       10'000,
-                                     100'000, 1'000'000, 10'000'000, 100'000'000};
-
 // The eight digits of a number below 10^8 as characters, the first in the lowest byte: the number
 // is split into halves, the halves into pairs and the pairs into digits, all at once.
 std::uint64_t EightDigitsOf(std::uint64_t number) {
@@ -29,7 +26,7 @@ std::uint64_t EightDigitsOf(std::uint64_t number) {
 
 // Writes an integer; for the frequent short ones without a branch that depends on their length.
 char* WriteInteger(std::uint64_t number, char* text) {
-  if (number >= kPowers[8]) return std::to_chars(text, text + 20, number).ptr;
+  if (number >= kSmallPowersOfTen[8]) return std::to_chars(text, text + 20, number).ptr;
   const std::uint64_t characters = EightDigitsOf(number);
   constexpr std::uint64_t last_digit = std::uint64_t{1} << 56;
   const int zeros = std::countr_zero((characters & 0x0F0F0F0F0F0F0F0F) | last_digit) / 8;
@@ -102,8 +99,8 @@ char* WriteFixed(Extended value, int decimals, char* text) {
   if (decimals > 0) *end++ = '.';
   bool carry = false;
   for (int left = decimals; left > 0; left -= 8) {
-    const int count = std::min(left, 8);
-    const std::uint64_t power = kPowers[count];
+    const auto count = static_cast<std::size_t>(std::min(left, 8));
+    const std::uint64_t power = kSmallPowersOfTen[count];
     std::uint64_t digits = TakeDigits(fraction, power);
     if (left <= 8) {
       digits += RoundsUp(digits, fraction);
@@ -111,7 +108,7 @@ char* WriteFixed(Extended value, int decimals, char* text) {
       if (carry) --digits;
     }
     is_zero &= digits == 0;
-    const std::uint64_t characters = EightDigitsOf(digits * kPowers[8 - count]);
+    const std::uint64_t characters = EightDigitsOf(digits * kSmallPowersOfTen[8 - count]);
     std::memcpy(end, &characters, sizeof characters);
     end += count;
   }
