@@ -1,29 +1,24 @@
 #include "qorvex/vector/aggregates.h"
 
 #include <cmath>
+#include <span>
+#include <type_traits>
 
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/integer_sum.h"
 #include "qorvex/vector/detail/ordered_sum.h"
+#include "qorvex/vector/detail/registers.h"
 
 namespace qorvex::inline QorvexVector {
 
 namespace {
-
-constexpr auto kItself = [](auto x) { return x; };
 
 template <IntegerElement T, class Term>
 std::int64_t SumOfTerms(VectorView<T> vector, Term term) {
   detail::Int64Sum sum;
   for (const T x : vector) sum.Add(term(x));
   return sum.Value();
-}
-
-template <CurrencyElement T>
-T SumOfTerms(VectorView<T> vector, decltype(kItself)) {
-  T sum;
-  for (const T x : vector) sum += x;
-  return sum;
 }
 
 }  // namespace
@@ -35,8 +30,10 @@ SumOf<T> SumVector(VectorView<T> vector) {
     // Starts with the first element instead of zero, so that the sum of a single negative zero is
     // negative zero.
     return detail::AddValues<T>(vector[0], vector.subspan(1));
+  } else if constexpr (IntegerElement<T>) {
+    return detail::IntegerSum(detail::Numbers(vector));
   } else {
-    return SumOfTerms(vector, kItself);
+    return T(static_cast<typename T::StoredType>(detail::IntegerSum(detail::Numbers(vector))));
   }
 }
 
@@ -45,6 +42,8 @@ SumOf<T> SumSqVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   if constexpr (FloatElement<T>) {
     return detail::AddSquares(0, vector);
+  } else if constexpr (std::is_same_v<T, typename detail::SquareWidth<T>::Type>) {
+    return detail::IntegerProductSum<T>(vector, vector);
   } else {
     return SumOfTerms(vector, detail::NarrowSquare<T>);
   }
@@ -86,6 +85,11 @@ SumOf<T> SumSqDiffVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireElements(a);
   if constexpr (FloatElement<T>) {
     return detail::AddSquaredDifferences(0, a, b);
+  } else if constexpr (sizeof(T) == sizeof(std::int32_t)) {
+    const auto low_bits = [](VectorView<T> v) {
+      return std::span(reinterpret_cast<const std::int32_t*>(v.data()), v.size());
+    };
+    return detail::IntegerSquaredDifferenceSum(low_bits(a), low_bits(b));
   } else {
     detail::Int64Sum sum;
     for (std::size_t i = 0; i < a.size(); ++i) {
