@@ -10,6 +10,7 @@
 #include <gsl/gsl_statistics_long_double.h>
 #include <vector>
 
+#include "qorvex/base/comparisons.h"
 #include "qorvex/stats/QorvexPairStats.h"
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/stats/exact/exact_pairs.h"
@@ -39,6 +40,44 @@ std::vector<std::span<const Extended>> Columns(const TQorFloatVector& v) {
   const std::size_t length = v.size() / kColumns;
   for (std::size_t i = 0; i < kColumns; ++i) columns.emplace_back(v.data() + i * length, length);
   return columns;
+}
+
+TQorFloatVector SortedSample(std::size_t n, std::size_t seed) {
+  return SortedVector(Sample<Extended>(n, seed));
+}
+
+// With many runs of equal values, most of them short.
+TQorFloatVector SortedHundredths(std::size_t n, std::size_t seed) {
+  auto sorted = SortedSample(n, seed);
+  const auto steps = static_cast<Extended>(n / 10);
+  for (Extended& x : sorted) x = std::round(x * steps) / 100;
+  return sorted;
+}
+
+// The longest run of neighbours that are the same within the tolerance.
+Extended LongestRun(const TQorFloatVector& v) {
+  Extended mode = 0;
+  std::size_t longest = 1;
+  std::size_t length = 1;
+  for (std::size_t i = 1; i < v.size(); ++i) {
+    length = SameFloat(v[i], v[i - 1]) ? length + 1 : 1;
+    if (length > longest) {
+      longest = length;
+      mode = v[i];
+    }
+  }
+  return mode;
+}
+
+void Modes() {
+  const auto ours = [](const TQorFloatVector& v) {
+    Extended mode = 0;
+    return GetMode(v, mode) ? mode : 0;
+  };
+  Compare<Extended>("GetMode", "ours", ours, SortedSample);
+  Compare<Extended>("GetMode", "loop", LongestRun, SortedSample);
+  Compare<Extended>("GetMode, hundredths", "ours", ours, SortedHundredths);
+  Compare<Extended>("GetMode, hundredths", "loop", LongestRun, SortedHundredths);
 }
 
 void OrderStatistics() {
@@ -142,6 +181,7 @@ void WeightedFigures() {
 }
 
 [[maybe_unused]] const bool registered = [] {
+  Modes();
   OrderStatistics();
   Correlations();
   WeightedFigures();

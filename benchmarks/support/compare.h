@@ -55,12 +55,15 @@ TQorVector<T> Sample(std::size_t n, std::size_t seed) {
 template <NumericElement T>
 using MakeSample = TQorVector<T> (*)(std::size_t n, std::size_t seed);
 
-/// Sixteen samples of up to a thousand elements, or two longer ones. Made once for all benchmarks.
+/// Two samples, or shorter ones of 16,000 elements in all, or of 100,000 if they are so short that
+/// a branch predictor could learn them. Made once for all benchmarks.
 template <NumericElement T>
 const std::vector<TQorVector<T>>& Samples(std::size_t n, MakeSample<T> make) {
   static std::map<std::pair<std::size_t, MakeSample<T>>, std::vector<TQorVector<T>>> made;
   std::vector<TQorVector<T>>& samples = made[{n, make}];
-  while (samples.size() < (n <= 1'000 ? 16U : 2U)) samples.push_back(make(n, samples.size()));
+  const std::size_t elements = n < 1'000 ? 100'000 : 16'000;
+  while (samples.size() < std::max<std::size_t>(2, elements / n))
+    samples.push_back(make(n, samples.size()));
   return samples;
 }
 

@@ -7,6 +7,7 @@
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
 #include "qorvex/vector/detail/integer_sum.h"
+#include "qorvex/vector/detail/ordered_sum.h"
 
 namespace qorvex::inline QorvexVector {
 
@@ -53,11 +54,7 @@ SumOf<T> DotProdVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   detail::RequireElements(a);
   if constexpr (FloatElement<T>) {
-    Extended sum = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-      sum += static_cast<Extended>(a[i]) * static_cast<Extended>(b[i]);
-    }
-    return sum;
+    return detail::AddProducts(0, a, b);
   } else {
     return detail::IntegerProductSum<T>(a, b);
   }
