@@ -6,6 +6,7 @@
 #include <cmath>
 #include <gsl/gsl_sort_long_double.h>
 #include <gsl/gsl_statistics_long_double.h>
+#include <numeric>
 
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/stats/descriptive_stats.h"
@@ -16,6 +17,25 @@ namespace qorvex::benchmarks {
 namespace {
 
 using EigenArray = Eigen::Map<const Eigen::Array<Extended, Eigen::Dynamic, 1>>;
+
+// The two passes of the definition.
+template <FloatElement T>
+Extended LoopVariance(const TQorVector<T>& v) {
+  const auto n = static_cast<Extended>(v.size());
+  const Extended mean = std::accumulate(v.begin(), v.end(), Extended(0)) / n;
+  Extended squares = 0;
+  for (const T x : v) {
+    const Extended difference = static_cast<Extended>(x) - mean;
+    squares += difference * difference;
+  }
+  return squares / (n - 1);
+}
+
+template <FloatElement T>
+void RegisterVariance() {
+  Compare<T>("SampleVariance", "ours", [](const TQorVector<T>& v) { return SampleVariance(v); });
+  Compare<T>("SampleVariance", "loop", LoopVariance<T>);
+}
 
 [[maybe_unused]] const bool registered = [] {
   Compare<Extended>("DescriptiveStats", "ours", [](const TQorFloatVector& v) {
@@ -46,8 +66,9 @@ using EigenArray = Eigen::Map<const Eigen::Array<Extended, Eigen::Dynamic, 1>>;
            statistics::median(copy.begin(), copy.end());
   });
 
-  Compare<Extended>("SampleVariance", "ours",
-                    [](const TQorFloatVector& v) { return SampleVariance(v); });
+  RegisterVariance<Extended>();
+  RegisterVariance<double>();
+  RegisterVariance<float>();
   Compare<Extended>("SampleVariance", "GSL", [](const TQorFloatVector& v) {
     return gsl_stats_long_double_variance(v.data(), 1, v.size());
   });

@@ -1,4 +1,4 @@
-// The moving average over 8 elements, compared with the plain double loop.
+// Moving averages over 8 and 64 elements, compared with the plain double loop.
 
 #include "qorvex/vector/moving_average.h"
 #include "support/compare.h"
@@ -6,15 +6,13 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// Volatile, because callers do not know the period at compile time.
-volatile std::uint32_t eight = 8;
-
+// Registers a window under the name of the routine and its length, which is not a constant to the
+// compiler.
 template <FloatElement T>
-void RegisterType() {
-  Compare<T>("MovingAverage", "ours",
-             [](const TQorVector<T>& v) { return MovingAverage(v, eight, 0); });
-  Compare<T>("MovingAverage", "loop", [](const TQorVector<T>& v) {
-    const std::uint32_t period = eight;
+void RegisterWindow(const std::string& routine, std::uint32_t period) {
+  Compare<T>(routine, "ours",
+             [period](const TQorVector<T>& v) { return MovingAverage(v, period, 0); });
+  Compare<T>(routine, "loop", [period](const TQorVector<T>& v) {
     auto result = TQorVector<T>::WithLength(v.size());
     for (std::size_t start = 0; start + period <= v.size(); ++start) {
       Extended sum = 0;
@@ -23,6 +21,12 @@ void RegisterType() {
     }
     return result;
   });
+}
+
+template <FloatElement T>
+void RegisterType() {
+  RegisterWindow<T>("MovingAverage", 8);
+  RegisterWindow<T>("MovingAverage, window 64", 64);
 }
 
 [[maybe_unused]] const bool registered = [] {
