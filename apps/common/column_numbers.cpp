@@ -87,13 +87,42 @@ bool ColumnNumbers::Rescale(int decimals) {
   return true;
 }
 
+void ColumnNumbers::MakeValues() {
+  if (!are_decimal_) return;
+  values_ = TakeValues();
+  are_decimal_ = false;
+  decimals_ = 0;
+}
+
 void ColumnNumbers::Append(Extended value) {
-  if (are_decimal_) {
-    values_ = TakeValues();
-    are_decimal_ = false;
-    decimals_ = 0;
+  MakeValues();
+  values_.Append(value + 0);  // without the sign of a zero
+}
+
+void ColumnNumbers::Append(const ColumnNumbers& others) {
+  const int decimals = std::max(decimals_, others.decimals_);
+  auto largest = static_cast<std::int64_t>(others.largest_);
+  const bool fit = are_decimal_ && others.are_decimal_ &&
+                   (others.decimals_ == decimals ||
+                    (largest >= 0 && Shift(largest, decimals - others.decimals_))) &&
+                   Rescale(decimals);
+  if (fit) {
+    largest_ = std::max(largest_, static_cast<std::uint64_t>(largest));
+    std::int64_t unit = 1;
+    static_cast<void>(Shift(unit, decimals - others.decimals_));
+    for (const std::int64_t integer : others.integers_) integers_.Append(integer * unit);
+  } else {
+    MakeValues();
+    for (const Extended value : others.Values()) values_.Append(value);
   }
-  values_.Append(value);
+}
+
+void ColumnNumbers::Reserve(std::size_t size) {
+  if (are_decimal_) {
+    integers_.reserve(size);
+  } else {
+    values_.reserve(size);
+  }
 }
 
 void ColumnNumbers::Sort() {

@@ -27,7 +27,7 @@ struct DecimalNumber {
 ///
 /// - Decimals: as many as the number with the most, at most 27, the largest power of ten that 64
 ///   bits of mantissa hold. So integer / 10^decimals is the correctly rounded value of the text.
-/// - Zero has no sign among integers.
+/// - Zero has no sign.
 /// - Memory: 8 bytes a number as integers, 16 as values.
 class ColumnNumbers {
  public:
@@ -39,6 +39,10 @@ class ColumnNumbers {
   [[nodiscard]] bool TryAppendCell(std::string_view text);
   /// Appends a value. Integers become values.
   void Append(Extended value);
+  /// Appends the numbers of another column, as if one by one.
+  void Append(const ColumnNumbers& others);
+  /// Provides room for that many numbers.
+  void Reserve(std::size_t size);
   /// Sorts the numbers in ascending order. Copies and vectors taken before keep their order.
   void Sort();
   /// Releases memory that only further numbers would use.
@@ -68,6 +72,7 @@ class ColumnNumbers {
 
  private:
   [[nodiscard]] bool Rescale(int decimals);
+  void MakeValues();
 
   TQorInt64Vector integers_;
   TQorFloatVector values_;

@@ -33,6 +33,30 @@ bool RowReader::Next() {
   return false;
 }
 
+bool RowReader::TakeLines(RowReader& lines) {
+  Refill();
+  const std::string_view text(buffer_.data() + begin_, end_ - begin_);
+  const std::size_t length = text.rfind('\n') + 1;
+  if (length == 0 || text.find('"') < length) return false;
+  lines.buffer_.resize(buffer_.size());
+  text.copy(lines.buffer_.data(), text.npos, length);
+  buffer_.swap(lines.buffer_);
+  lines.begin_ = std::exchange(begin_, 0);
+  lines.end_ = lines.begin_ + length;
+  end_ = text.size() - length;
+
+  lines.input_.name = input_.name;
+  lines.delimiter_ = delimiter_;
+  lines.delimiter_is_blank_ = delimiter_is_blank_;
+  lines.delimiters_ = delimiters_;
+  lines.other_delimiters_ = other_delimiters_;
+  lines.started_ = lines.input_ended_ = true;
+  lines.next_line_ = next_line_;
+  const char* const first = lines.buffer_.data() + lines.begin_;
+  next_line_ += static_cast<std::size_t>(std::count(first, lines.End(), '\n'));
+  return true;
+}
+
 void RowReader::Start() {
   Refill();
   const std::string_view text(buffer_.data(), end_);

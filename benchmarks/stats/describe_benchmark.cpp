@@ -6,10 +6,10 @@
 #include <cmath>
 #include <gsl/gsl_sort_long_double.h>
 #include <gsl/gsl_statistics_long_double.h>
-#include <numeric>
 
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/stats/descriptive_stats.h"
+#include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/vector/building.h"
 #include "support/compare.h"
 
@@ -18,23 +18,25 @@ namespace {
 
 using EigenArray = Eigen::Map<const Eigen::Array<Extended, Eigen::Dynamic, 1>>;
 
-// The two passes of the definition.
-template <FloatElement T>
-Extended LoopVariance(const TQorVector<T>& v) {
-  const auto n = static_cast<Extended>(v.size());
-  const Extended mean = std::accumulate(v.begin(), v.end(), Extended(0)) / n;
-  Extended squares = 0;
-  for (const T x : v) {
-    const Extended difference = static_cast<Extended>(x) - mean;
-    squares += difference * difference;
-  }
-  return squares / (n - 1);
-}
-
 template <FloatElement T>
 void RegisterVariance() {
   Compare<T>("SampleVariance", "ours", [](const TQorVector<T>& v) { return SampleVariance(v); });
-  Compare<T>("SampleVariance", "loop", LoopVariance<T>);
+  Compare<T>("SampleVariance", "loop", [](const TQorVector<T>& v) {
+    Extended sum = 0;
+    for (const T x : v) sum += static_cast<Extended>(x);
+    const Extended mean = sum / static_cast<Extended>(v.size());
+    Extended squares = 0;
+    for (const T x : v) {
+      const Extended difference = static_cast<Extended>(x) - mean;
+      squares += difference * difference;
+    }
+    return squares / static_cast<Extended>(v.size() - 1);
+  });
+  Compare<T>("SampleVariance", "ExactSample", [](const TQorVector<T>& v) {
+    ExactSample<2> sample;
+    sample.Add(v);
+    return sample.SampleVariance();
+  });
 }
 
 [[maybe_unused]] const bool registered = [] {

@@ -7,6 +7,7 @@
 #include <gsl/gsl_statistics_long_double.h>
 #include <numeric>
 
+#include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/vector/QorvexVector.h"
 #include "support/compare.h"
 #include "support/integer_loops.h"
@@ -20,10 +21,19 @@ EigenVector AsEigen(const TQorFloatVector& v) {
   return {v.data(), static_cast<Eigen::Index>(v.size())};
 }
 
+// Normally distributed with mean 0, so that sums stay small.
+template <FloatElement T>
+TQorVector<T> BothSigns(std::size_t n, std::size_t seed) {
+  auto vector = Sample<T>(n, seed);
+  for (T& x : vector) x -= 3;
+  return vector;
+}
+
 template <NumericElement T>
-void RegisterSum(std::initializer_list<std::size_t> sizes = kSizes) {
+void RegisterSum(std::initializer_list<std::size_t> sizes = kSizes, MakeSample<T> make = Sample<T>,
+                 const char* routine = "SumVector") {
   Compare<T>(
-      "SumVector", "ours", [](const TQorVector<T>& v) { return SumVector(v); }, Sample<T>, sizes);
+      routine, "ours", [](const TQorVector<T>& v) { return SumVector(v); }, make, sizes);
   const auto loop = [](const TQorVector<T>& v) {
     if constexpr (IntegerElement<T>) {
       return LoopSum<T>(v);
@@ -31,7 +41,15 @@ void RegisterSum(std::initializer_list<std::size_t> sizes = kSizes) {
       return std::accumulate(v.begin(), v.end(), Extended(0));
     }
   };
-  Compare<T>("SumVector", IntegerElement<T> ? "loop" : "std::accumulate", loop, Sample<T>, sizes);
+  Compare<T>(routine, IntegerElement<T> ? "loop" : "std::accumulate", loop, make, sizes);
+  if constexpr (FloatElement<T>) {
+    const auto exact = [](const TQorVector<T>& v) {
+      ExactSum sum;
+      sum.Add(v);
+      return sum.Round();
+    };
+    Compare<T>(routine, "ExactSum", exact, make);
+  }
 }
 
 template <NumericElement T>
@@ -117,6 +135,8 @@ void RegisterPeers() {
   RegisterSum<std::int16_t>();
   RegisterSum<std::uint8_t>();
   RegisterSum<std::int8_t>();
+  RegisterSum<Extended>(kSizes, BothSigns<Extended>, "SumVector, both signs");
+  RegisterSum<double>(kSizes, BothSigns<double>, "SumVector, both signs");
   RegisterType<Extended>();
   RegisterType<double>();
   RegisterType<float>();

@@ -41,9 +41,9 @@ bool Invert(TQorMatrix<T>& matrix, TQorMatrix<T>& result) {
     if (matrix.size() >= detail::kLeastPanelRows) return detail::InvertFloats(matrix, result);
   }
   const std::size_t order = matrix.size();
+  detail::DirectRows<T> rows(matrix, order);
   detail::InverseSteps<T> steps(result);
-  const std::size_t rank = detail::WithRows(
-      matrix, order, [&](auto rows) { return detail::Eliminate(rows, order, order, steps); });
+  const std::size_t rank = detail::Eliminate(rows, order, order, steps);
   steps.PutInOrder();
   if (rank < order || !steps.PivotsAreFinite()) return false;
   steps.SubstituteBack(matrix);
@@ -80,6 +80,7 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
+  detail::SeparateRows(matrix);
   const bool regular = Invert(matrix, result);
   inverse = std::move(result);
   return regular;

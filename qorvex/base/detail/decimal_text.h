@@ -78,7 +78,9 @@ class ShortCharacters {
         characters_ |= std::uint64_t{static_cast<unsigned char>(first_[i])} << 8 * i;
     }
   }
-  [[nodiscard]] std::uint64_t From(const char* at) const { return characters_ >> 8 * (at - first_); }
+  [[nodiscard]] std::uint64_t From(const char* at) const {
+    return characters_ >> 8 * (at - first_);
+  }
 
  private:
   const char* first_;

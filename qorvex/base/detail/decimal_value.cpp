@@ -67,8 +67,7 @@ Unsigned128 SignificandOf(std::string_view mantissa) {
 
 std::optional<Extended> ValueOfLongNumber(const DecimalText& number) {
   const std::int64_t exponent = number.exponent;
-  if (exponent < -kLargestExponent || exponent > kLargestExponent ||
-      number.digits > kMostDigits) {
+  if (exponent < -kLargestExponent || exponent > kLargestExponent || number.digits > kMostDigits) {
     return std::nullopt;
   }
   const Unsigned128 significand = SignificandOf(number.mantissa);
@@ -82,8 +81,8 @@ std::optional<Extended> ValueOfLongNumber(const DecimalText& number) {
   constexpr std::uint64_t half = std::uint64_t{1} << 63;
   const auto fraction = static_cast<std::uint64_t>(product);
   if (fraction <= half && fraction >= half - 4) return std::nullopt;
-  const auto mantissa = static_cast<Extended>(static_cast<std::uint64_t>(product >> 64)) +
-                        (fraction > half ? 1 : 0);
+  const auto mantissa =
+      static_cast<Extended>(static_cast<std::uint64_t>(product >> 64)) + (fraction > half ? 1 : 0);
   return std::scalbn(mantissa, 192 - zeros - shift + power.exponent + static_cast<int>(exponent));
 }
 

@@ -27,7 +27,8 @@ inline constexpr auto kPowersOfTen = [] {
 /// rounded (Clinger 1990, "How to read floating point numbers accurately").
 inline std::optional<Extended> ValueInOneOperation(const DecimalText& number) {
   constexpr std::int64_t limit = kPowersOfTen.size() - 1;
-  if (!number.HasSignificand() || number.exponent < -limit || number.exponent > limit) return std::nullopt;
+  if (!number.HasSignificand() || number.exponent < -limit || number.exponent > limit)
+    return std::nullopt;
   const auto value = static_cast<Extended>(number.significand);
   return number.exponent < 0 ? value / kPowersOfTen[static_cast<std::size_t>(-number.exponent)]
                              : value * kPowersOfTen[static_cast<std::size_t>(number.exponent)];

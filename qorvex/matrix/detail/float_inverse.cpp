@@ -11,7 +11,6 @@
 #include "qorvex/matrix/detail/copy_element.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/panel_rows.h"
-#include "qorvex/matrix/detail/with_rows.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -135,7 +134,6 @@ class InversionRows : public PanelRows {
 }  // namespace
 
 bool InvertFloats(TQorFloatMatrix& matrix, TQorFloatMatrix& result) {
-  SeparateRows(matrix);
   return InversionRows(matrix, result).Invert();
 }
 

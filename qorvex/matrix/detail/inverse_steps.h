@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
+#include "qorvex/matrix/detail/copy_element.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/rounded_products.h"
 
@@ -52,7 +53,7 @@ class InverseSteps : public Observer {
     if (std::exchange(is_in_order_, true)) return;
     for (T* const row : rows_) {
       std::copy_n(row, rows_.size(), scratch_.data());
-      for (std::size_t i = 0; i < rows_.size(); ++i) row[origins_[i]] = scratch_[i];
+      for (std::size_t i = 0; i < rows_.size(); ++i) CopyElement(scratch_[i], row[origins_[i]]);
     }
   }
 

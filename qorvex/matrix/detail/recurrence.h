@@ -16,11 +16,15 @@ namespace qorvex::inline QorvexMatrix::detail {
 // A set of small numbers.
 using Bits = std::uint64_t;
 inline constexpr std::size_t kBits = 64;
-[[nodiscard]] constexpr std::size_t WordsFor(std::size_t bits) { return (bits + kBits - 1) / kBits; }
+[[nodiscard]] constexpr std::size_t WordsFor(std::size_t bits) {
+  return (bits + kBits - 1) / kBits;
+}
 [[nodiscard]] inline bool Has(const Bits* set, std::size_t i) {
   return (set[i / kBits] >> i % kBits & 1U) != 0;
 }
-inline void Insert(Bits* set, std::size_t i) { set[i / kBits] |= Bits{1} << i % kBits; }
+inline void Insert(Bits* set, std::size_t i) {
+  set[i / kBits] |= Bits{1} << i % kBits;
+}
 
 // A row that is computed from the rows before it: row k, multiplied by factors[k], is added to it
 // for every k of the set `added`, in ascending order; then it is multiplied by scale.

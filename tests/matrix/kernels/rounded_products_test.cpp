@@ -4,11 +4,8 @@
 #include <cmath>
 #include <limits>
 
-#include "matrix/plain_reduction.h"
-#include "qorvex/matrix/QorvexMatrix.h"
 #include "qorvex/vector/building.h"
 #include "support/hard_vectors.h"
-#include "support/kept_tolerance.h"
 #include "support/test.h"
 
 namespace qorvex {
@@ -136,56 +133,6 @@ TYPED_TEST(RoundedProducts, SpecialValuesAndTheEndsOfTheRange) {
       QorvexMatrix::detail::AddRoundedProducts(same.data(), same.data(), same.size(), factor);
       EXPECT_TRUE(SameBits(same, PlainSums(target, target, factor)));
     }
-  }
-}
-
-template <class T>
-TQorMatrix<T> PlainProduct(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
-  auto product = testing::MatrixOf<T>(a.size(), b[0].size(), [](auto...) { return T(0); });
-  for (std::size_t i = 0; i < a.size(); ++i) {
-    for (std::size_t k = 0; k < b.size(); ++k) product[i] = PlainSums(product[i], b[k], a[i][k]);
-  }
-  return product;
-}
-
-// Expects the bits of plain loops from the routines that use the kernel.
-template <class T>
-void ExpectPlainResults(const TQorMatrix<T>& given) {
-  const std::size_t order = given.size();
-  EXPECT_TRUE(SameBits(MultiplyMatrices(given, given), PlainProduct(given, given)));
-  testing::PlainReduction<T> plain{CopyMatrix(given)};
-  plain.Eliminate();
-  EXPECT_TRUE(SameBits(RowEchelon(given), plain.matrix));
-  for (std::size_t i = 0; i < order; ++i) plain.determinant *= plain.matrix[i][i];
-  EXPECT_TRUE(SameBits(Determinant(given), plain.determinant));
-  auto matrix = CopyMatrix(given);
-  TQorMatrix<T> inverse;
-  EXPECT_EQ(MatrixInverse(matrix, inverse), plain.Invert());
-  EXPECT_TRUE(SameBits(matrix, plain.matrix));
-  EXPECT_TRUE(SameBits(inverse, plain.inverse));
-}
-
-TYPED_TEST(RoundedProducts, MakeTheResultsOfPlainLoops) {
-  using T = TypeParam;
-  const testing::KeptTolerance kept;
-  Engine engine(3);
-  for (std::size_t order = 1; order <= 130; order += order < 40 ? 1 : 45) {
-    testing::ForEachHardKind([&](Hard kind) {
-      SCOPED_TRACE(::testing::Message()
-                   << "order " << order << ", kind " << static_cast<int>(kind));
-      QorTolerance = engine() % 2 == 0 ? 1e-15L : 0;
-      auto matrix = TQorMatrix<T>::WithLength(order);
-      for (auto& row : matrix) row = HardVector<T>(engine, order, kind);
-      ExpectPlainResults(matrix);
-      // Rows of different scales, a singular matrix, and zeros that make rows exchange.
-      for (auto& row : matrix) {
-        const T scale = std::ldexp(T(1), static_cast<int>(engine() % 120) - 60);
-        for (T& x : row) x = engine() % 3 == 0 ? std::copysign(T(0), x) : x * scale;
-      }
-      if (order % 4 == 0) matrix[order - 1] = CopyVector(matrix[0]);
-      ExpectPlainResults(matrix);
-    });
-    if (this->HasFailure()) return;
   }
 }
 

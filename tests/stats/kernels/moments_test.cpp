@@ -3,6 +3,7 @@
 
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "qorvex/stats/QorvexStatistics.h"
+#include "qorvex/vector/QorvexVector.h"
 #include "support/hard_vectors.h"
 #include "support/test.h"
 
