@@ -13,6 +13,8 @@ namespace qorvex::apps {
 
 namespace {
 
+namespace decimal = QorvexGlobals::detail;
+
 constexpr int kMostExactDecimals = 27;
 
 template <class Number, std::size_t kCount>
@@ -30,15 +32,14 @@ bool Shift(std::int64_t& integer, std::int64_t exponent) {
          !__builtin_mul_overflow(integer, powers[static_cast<std::size_t>(exponent)], &integer);
 }
 
-}  // namespace
-
-std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
-  namespace decimal = QorvexGlobals::detail;
+// The number that scan(unsigned text) finds.
+template <class Scan>
+[[gnu::always_inline]] inline std::optional<DecimalNumber> NumberOf(std::string_view text,
+                                                                    Scan scan) {
   std::string_view number = decimal::WithoutBlanks(text);
   const bool negative = decimal::TakeSign(number);
-  const decimal::DecimalText scanned = decimal::ScanDecimal(number);
-  constexpr int most_digits = std::numeric_limits<std::uint64_t>::digits10;
-  if (!scanned.valid || scanned.digits > most_digits ||
+  const decimal::DecimalText scanned = scan(number);
+  if (!scanned.valid || !scanned.HasSignificand() ||
       scanned.significand > std::numeric_limits<std::int64_t>::max()) {
     return std::nullopt;
   }
@@ -46,13 +47,27 @@ std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
   return DecimalNumber{negative ? -integer : integer, scanned.exponent};
 }
 
+}  // namespace
+
+std::optional<DecimalNumber> ParseDecimal(std::string_view text) {
+  return NumberOf(text, decimal::ScanDecimal);
+}
+
+bool ColumnNumbers::TryAppendCell(std::string_view text) {
+  if (!are_decimal_) return false;
+  const auto number = NumberOf(text, decimal::ScanExtendedDecimal);
+  return number && TryAppend(*number);
+}
+
 bool ColumnNumbers::TryAppend(DecimalNumber number) {
   if (!are_decimal_) return false;
-  const std::int64_t needed =
-      number.integer == 0 ? decimals_ : std::max<std::int64_t>(decimals_, -number.exponent);
-  if (needed > kMostExactDecimals || !Shift(number.integer, number.exponent + needed) ||
-      !Rescale(static_cast<int>(needed))) {
-    return false;
+  if (number.exponent != -decimals_) {
+    const std::int64_t needed =
+        number.integer == 0 ? decimals_ : std::max<std::int64_t>(decimals_, -number.exponent);
+    if (needed > kMostExactDecimals || !Shift(number.integer, number.exponent + needed) ||
+        !Rescale(static_cast<int>(needed))) {
+      return false;
+    }
   }
   const auto bits = static_cast<std::uint64_t>(number.integer);
   largest_ = std::max(largest_, number.integer < 0 ? 0 - bits : bits);
@@ -72,13 +87,42 @@ bool ColumnNumbers::Rescale(int decimals) {
   return true;
 }
 
+void ColumnNumbers::MakeValues() {
+  if (!are_decimal_) return;
+  values_ = TakeValues();
+  are_decimal_ = false;
+  decimals_ = 0;
+}
+
 void ColumnNumbers::Append(Extended value) {
-  if (are_decimal_) {
-    values_ = TakeValues();
-    are_decimal_ = false;
-    decimals_ = 0;
+  MakeValues();
+  values_.Append(value + 0);  // without the sign of a zero
+}
+
+void ColumnNumbers::Append(const ColumnNumbers& others) {
+  const int decimals = std::max(decimals_, others.decimals_);
+  auto largest = static_cast<std::int64_t>(others.largest_);
+  const bool fit = are_decimal_ && others.are_decimal_ &&
+                   (others.decimals_ == decimals ||
+                    (largest >= 0 && Shift(largest, decimals - others.decimals_))) &&
+                   Rescale(decimals);
+  if (fit) {
+    largest_ = std::max(largest_, static_cast<std::uint64_t>(largest));
+    std::int64_t unit = 1;
+    static_cast<void>(Shift(unit, decimals - others.decimals_));
+    for (const std::int64_t integer : others.integers_) integers_.Append(integer * unit);
+  } else {
+    MakeValues();
+    for (const Extended value : others.Values()) values_.Append(value);
   }
-  values_.Append(value);
+}
+
+void ColumnNumbers::Reserve(std::size_t size) {
+  if (are_decimal_) {
+    integers_.reserve(size);
+  } else {
+    values_.reserve(size);
+  }
 }
 
 void ColumnNumbers::Sort() {

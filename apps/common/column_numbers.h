@@ -27,15 +27,22 @@ struct DecimalNumber {
 ///
 /// - Decimals: as many as the number with the most, at most 27, the largest power of ten that 64
 ///   bits of mantissa hold. So integer / 10^decimals is the correctly rounded value of the text.
-/// - Zero has no sign among integers.
+/// - Zero has no sign.
 /// - Memory: 8 bytes a number as integers, 16 as values.
 class ColumnNumbers {
  public:
   /// Appends an exact number. Returns false, without any change, if the numbers are no integers or
   /// would not fit.
   [[nodiscard]] bool TryAppend(DecimalNumber number);
+  /// The same for the number in the text of a cell, which Str2Float would read, and behind which
+  /// eight bytes can be read. Returns false, without any change, for other texts, too.
+  [[nodiscard]] bool TryAppendCell(std::string_view text);
   /// Appends a value. Integers become values.
   void Append(Extended value);
+  /// Appends the numbers of another column, as if one by one.
+  void Append(const ColumnNumbers& others);
+  /// Provides room for that many numbers.
+  void Reserve(std::size_t size);
   /// Sorts the numbers in ascending order. Copies and vectors taken before keep their order.
   void Sort();
   /// Releases memory that only further numbers would use.
@@ -65,6 +72,7 @@ class ColumnNumbers {
 
  private:
   [[nodiscard]] bool Rescale(int decimals);
+  void MakeValues();
 
   TQorInt64Vector integers_;
   TQorFloatVector values_;

@@ -1,7 +1,9 @@
 #include "apps/common/row_reader.h"
 
 #include <algorithm>
+#include <bit>
 #include <cstring>
+#include <emmintrin.h>
 #include <utility>
 
 namespace qorvex::apps {
@@ -12,8 +14,8 @@ constexpr bool IsBlank(char c) {
   return c == ' ' || c == '\t';
 }
 
-constexpr std::size_t Index(char c) {
-  return static_cast<unsigned char>(c);
+__m128i Load(const char* characters) {
+  return _mm_loadu_si128(reinterpret_cast<const __m128i*>(characters));
 }
 
 }  // namespace
@@ -21,7 +23,7 @@ constexpr std::size_t Index(char c) {
 RowReader::RowReader(TextInput input, std::optional<char> delimiter, std::size_t block_size)
     : input_(std::move(input)),
       delimiter_(delimiter),
-      buffer_(std::max<std::size_t>(block_size, 4)) {}
+      buffer_(std::max<std::size_t>(block_size, 4) + kReadableBehind) {}
 
 bool RowReader::Next() {
   if (!std::exchange(started_, true)) Start();
@@ -29,6 +31,30 @@ bool RowReader::Next() {
     if (!cells_.empty()) return true;
   }
   return false;
+}
+
+bool RowReader::TakeLines(RowReader& lines) {
+  Refill();
+  const std::string_view text(buffer_.data() + begin_, end_ - begin_);
+  const std::size_t length = text.rfind('\n') + 1;
+  if (length == 0 || text.find('"') < length) return false;
+  lines.buffer_.resize(buffer_.size());
+  text.copy(lines.buffer_.data(), text.npos, length);
+  buffer_.swap(lines.buffer_);
+  lines.begin_ = std::exchange(begin_, 0);
+  lines.end_ = lines.begin_ + length;
+  end_ = text.size() - length;
+
+  lines.input_.name = input_.name;
+  lines.delimiter_ = delimiter_;
+  lines.delimiter_is_blank_ = delimiter_is_blank_;
+  lines.delimiters_ = delimiters_;
+  lines.other_delimiters_ = other_delimiters_;
+  lines.started_ = lines.input_ended_ = true;
+  lines.next_line_ = next_line_;
+  const char* const first = lines.buffer_.data() + lines.begin_;
+  next_line_ += static_cast<std::size_t>(std::count(first, lines.End(), '\n'));
+  return true;
 }
 
 void RowReader::Start() {
@@ -41,9 +67,8 @@ void RowReader::Start() {
 
   if (!delimiter_) delimiter_ = DetectDelimiter();
   delimiter_is_blank_ = *delimiter_ == ' ';
-  ends_plain_cell_[Index('\r')] = ends_plain_cell_[Index('\n')] = true;
-  ends_plain_cell_[Index(*delimiter_)] = true;
-  if (delimiter_is_blank_) ends_plain_cell_[Index('\t')] = true;
+  delimiters_.fill(*delimiter_);
+  other_delimiters_.fill(delimiter_is_blank_ ? '\t' : *delimiter_);
 }
 
 char RowReader::DetectDelimiter() {
@@ -83,15 +108,17 @@ bool RowReader::Refill() {
   begin_ = 0;
   end_ = unread;
   // One byte is reserved for the end of the last line, which may be missing.
-  if (end_ + 1 == buffer_.size()) {
-    if (buffer_.size() >= kLongestRow) {
+  std::size_t room = buffer_.size() - kReadableBehind;
+  if (end_ + 1 == room) {
+    if (room >= kLongestRow) {
       FailAt(buffer_.data(),
              "the row is too long (more than 64 MiB); a closing quote may be missing");
     }
-    buffer_.resize(2 * buffer_.size());
+    room *= 2;
+    buffer_.resize(room + kReadableBehind);
   }
-  while (!input_ended_ && end_ + 1 < buffer_.size()) {
-    const std::size_t count = input_.read(buffer_.data() + end_, buffer_.size() - 1 - end_);
+  while (!input_ended_ && end_ + 1 < room) {
+    const std::size_t count = input_.read(buffer_.data() + end_, room - 1 - end_);
     end_ += count;
     input_ended_ = count == 0;
   }
@@ -139,12 +166,21 @@ bool RowReader::ScanRow() {
 // ends it. If that is not in the buffer, they return null, EndOfPlainCell the end of the buffer.
 const char* RowReader::EndOfPlainCell(const char* at) const {
   const char* const end = End();
-  for (;; ++at) {
-    while (at != end && !ends_plain_cell_[Index(*at)]) ++at;
-    if (at == end || *at != '\r') return at;
+  const __m128i ends[] = {Load(delimiters_.data()), Load(other_delimiters_.data()),
+                          _mm_set1_epi8('\r'), _mm_set1_epi8('\n')};
+  while (at < end) {
+    const __m128i text = Load(at);
+    const auto is = [&](int i) { return _mm_cmpeq_epi8(text, ends[i]); };
+    const __m128i found = _mm_or_si128(_mm_or_si128(is(0), is(1)), _mm_or_si128(is(2), is(3)));
+    const auto mask = static_cast<unsigned>(_mm_movemask_epi8(found));
+    at += mask == 0 ? static_cast<int>(sizeof text) : std::countr_zero(mask);
+    if (mask == 0) continue;
+    if (at >= end || *at != '\r') break;
     if (at + 1 == end) return end;
     if (at[1] != '\n') FailAt(at, "a line ends with CR alone; LF or CR LF is needed");
+    ++at;
   }
+  return std::min(at, end);
 }
 
 const char* RowReader::ScanPlainCell(const char* at) {
@@ -177,7 +213,7 @@ const char* RowReader::ScanQuotedCell(const char* at) {
   if (!delimiter_is_blank_) at = SkipBlanks(at);
   if (at == end) return nullptr;
   if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
-  if (*at == '\r' || !ends_plain_cell_[Index(*at)]) {
+  if (*at != '\n' && *at != *delimiter_ && !(delimiter_is_blank_ && *at == '\t')) {
     if (ScanPlainCell(at) == nullptr) return nullptr;
     FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
   }

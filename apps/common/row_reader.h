@@ -47,10 +47,20 @@ class RowReader {
   /// for rows longer than kLongestRow and for UTF-16. Exceptions of the input pass through.
   bool Next();
 
+  /// Moves the whole lines that have been read ahead to another reader, which reads only them, on
+  /// any thread, and keeps their numbers. Returns false, without taking any, at the end of the
+  /// text, or if there is a quote, whose cell might end in a later line. Requires that Next has
+  /// been called.
+  bool TakeLines(RowReader& lines);
+
+  /// After each cell that many bytes can be read, so that it can be scanned in words.
+  static constexpr std::size_t kReadableBehind = 16;
   /// The cells of the row, at least one. Valid until the next call of Next.
   [[nodiscard]] std::span<const std::string_view> Cells() const noexcept { return cells_; }
   /// The line on which the row starts, from 1.
   [[nodiscard]] std::size_t Line() const noexcept { return line_; }
+  /// The line that is read next.
+  [[nodiscard]] std::size_t NextLine() const noexcept { return next_line_; }
   /// The number of blank lines directly before the row.
   [[nodiscard]] std::size_t BlankLines() const noexcept { return blank_lines_; }
   [[nodiscard]] const std::string& Name() const noexcept { return input_.name; }
@@ -72,7 +82,10 @@ class RowReader {
   TextInput input_;
   std::optional<char> delimiter_;
   bool delimiter_is_blank_ = false;
-  std::array<bool, 256> ends_plain_cell_{};
+  // Each repeated, to be compared with sixteen characters at once. Both are the same unless blanks
+  // delimit.
+  std::array<char, 16> delimiters_{};
+  std::array<char, 16> other_delimiters_{};
 
   // The bytes from begin_ to end_ have not been read; the row that is being read starts at begin_.
   std::vector<char> buffer_;

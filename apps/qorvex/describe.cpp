@@ -1,7 +1,11 @@
+#include <algorithm>
+#include <cstddef>
+#include <exception>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "apps/common/threads.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/describe_options.h"
@@ -22,16 +26,38 @@ Examples:
   qorvex describe invoices.csv --column price --weights quantity --currency
   grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty)";
 
-// What a report on a column needs is released before the next one is made.
+// Calls write(report) for each column in turn. As many reports are made at once as there are
+// threads; what they need is released before the next ones.
+template <class Write>
+void ForEachReport(std::vector<TableColumn>& columns, const TableColumn* weights,
+                   const DescribeOptions& options, Write write) {
+  for (std::size_t first = 0; first < columns.size(); first += options.threads) {
+    const std::size_t count = std::min<std::size_t>(options.threads, columns.size() - first);
+    const auto threads_for_each = static_cast<unsigned>(options.threads / count);
+    std::vector<ColumnReport> reports(count);
+    std::vector<std::exception_ptr> faults(count);
+    ForEachIndex(count, options.threads, [&](std::size_t i) {
+      try {
+        reports[i] = ReportOn(columns[first + i], weights, options, threads_for_each);
+      } catch (...) {
+        faults[i] = std::current_exception();
+      }
+    });
+    for (std::size_t i = 0; i < count; ++i) {
+      if (faults[i]) std::rethrow_exception(faults[i]);
+      write(reports[i]);
+      RemarkOnZeros(reports[i], options);
+    }
+  }
+}
+
 std::string TextOf(std::vector<TableColumn>& columns, const TableColumn* weights,
                    const DescribeOptions& options) {
   std::string text;
-  for (TableColumn& column : columns) {
-    const ColumnReport report = ReportOn(column, weights, options);
+  ForEachReport(columns, weights, options, [&](const ColumnReport& report) {
     if (!text.empty()) text += '\n';
     text += TextOf(report, options);
-    RemarkOnZeros(report, options);
-  }
+  });
   return text;
 }
 
@@ -42,11 +68,8 @@ std::string JsonOf(std::vector<TableColumn>& columns, const TableColumn* weights
   WriteHeading(json, options, weights);
   json.Key("columns");
   json.BeginArray();
-  for (TableColumn& column : columns) {
-    const ColumnReport report = ReportOn(column, weights, options);
-    WriteReport(json, report, options);
-    RemarkOnZeros(report, options);
-  }
+  ForEachReport(columns, weights, options,
+                [&](const ColumnReport& report) { WriteReport(json, report, options); });
   json.EndArray();
   json.EndObject();
   return json.TakeText();
@@ -54,7 +77,7 @@ std::string JsonOf(std::vector<TableColumn>& columns, const TableColumn* weights
 
 void Describe(const DescribeOptions& options) {
   options.RequireConsistent();
-  std::vector<TableColumn> columns = options.table.Read();
+  std::vector<TableColumn> columns = options.table.Read(options.threads);
   TableColumn weights;
   const bool has_weights = options.table.selection.weights.has_value();
   if (has_weights) {

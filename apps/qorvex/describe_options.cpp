@@ -70,9 +70,9 @@ void DescribeOptions::AddTo(CLI::App& command) {
           .excludes(all_values);
   CLI::Option* const thread_count =
       command
-          .add_option(
-              "--threads", threads,
-              "Threads that add up the values of a column; the result is the same.\nDefault: 1")
+          .add_option("--threads", threads,
+                      "Threads that read the table and compute the figures; the result is the\n"
+                      "same. Default: 1")
           ->check(CLI::Range(1U, kMostThreads))
           ->option_text("N (1 to 256)");
   command

@@ -108,7 +108,8 @@ void AddWeighted(ColumnReport& report, const ColumnNumbers& numbers, const TQorF
   }
 }
 
-void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOptions& options) {
+void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOptions& options,
+                   unsigned threads) {
   if (options.classic) {
     const SampleFigures figures = ClassicFigures(
         options.quantiles.empty() ? numbers.TakeValues() : numbers.Values(), options.population);
@@ -119,25 +120,24 @@ void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOp
   for (const WrittenNumber& probability : options.quantiles)
     report.quantiles.push_back(QuantileOf(numbers, probability.value, options.TypeOfQuantiles()));
   if (options.classic) return;
-  report.lines = ExactFigures(ExactSumsOf<4>(numbers, options.threads), OrderFiguresOf(numbers),
-                              numbers, options.population)
+  report.lines = ExactFigures(ExactSumsOf<4>(numbers, threads), OrderFiguresOf(numbers), numbers,
+                              options.population)
                      .Lines(options.population);
   if (options.HasConfidence() && numbers.size() > 1) {
-    report.intervals =
-        IntervalsOf(ExactSumsOf<2>(numbers, options.threads), options.confidence.value);
+    report.intervals = IntervalsOf(ExactSumsOf<2>(numbers, threads), options.confidence.value);
   }
 }
 
 }  // namespace
 
 ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
-                      const DescribeOptions& options) {
+                      const DescribeOptions& options, unsigned threads) {
   ColumnReport report{.number = column.number, .name = column.name, .skipped = column.skipped};
   const TQorFloatVector values =
       weights == nullptr ? TQorFloatVector() : ValidWeights(*weights, options);
   if (options.table.selection.currency) report.amounts = AmountsOf(column, values, options);
   if (weights == nullptr) {
-    AddUnweighted(report, std::exchange(column.numbers, {}), options);
+    AddUnweighted(report, std::exchange(column.numbers, {}), options, threads);
   } else {
     AddWeighted(report, std::exchange(column.numbers, {}), values, options);
   }

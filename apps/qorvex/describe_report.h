@@ -46,8 +46,9 @@ struct ColumnReport {
 
 /// The report on a column with its weights, if any. The numbers of the column are released. Throws
 /// InputError (kNotANumber) for weights that their kind does not allow, and kOutOfRange for figures
-/// that overflow: further figures computed from these would mean nothing.
+/// that overflow: further figures computed from these would mean nothing. Uses at most that many
+/// threads.
 [[nodiscard]] ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
-                                    const DescribeOptions& options);
+                                    const DescribeOptions& options, unsigned threads);
 
 }  // namespace qorvex::apps

@@ -117,9 +117,9 @@ CLI::Option* TableArguments::AddWeightsTo(CLI::App& command) {
       ->type_name("NAME|N");
 }
 
-std::vector<TableColumn> TableArguments::Read() const {
+std::vector<TableColumn> TableArguments::Read(unsigned threads) const {
   try {
-    Table table = ReadTable(OpenTextInput(file), selection);
+    Table table = ReadTable(OpenTextInput(file), selection, threads);
     const std::string doubt = selection.header ? "" : DoubtOf(table);
     if (!doubt.empty()) {
       WriteRemark(OnOneLine(InputName(file)) + ": the first row was read as a header because " +

@@ -37,7 +37,7 @@ struct TableArguments {
   /// Reads the table. Writes to standard error how many empty cells, or rows, were skipped, and
   /// warns if the row that was read as a header may be data. The text of an InputError suggests an
   /// argument where one helps.
-  [[nodiscard]] std::vector<TableColumn> Read() const;
+  [[nodiscard]] std::vector<TableColumn> Read(unsigned threads = 1) const;
 };
 
 /// The column that was chosen by this name or number.

@@ -1,7 +1,6 @@
 #include "qorvex/base/text.h"
 
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -10,6 +9,8 @@
 #include <locale.h>
 
 #include "qorvex/base/detail/decimal_text.h"
+#include "qorvex/base/detail/decimal_value.h"
+#include "qorvex/base/detail/fixed_text.h"
 #include "qorvex/base/errors.h"
 
 namespace qorvex::inline QorvexGlobals {
@@ -26,14 +27,6 @@ bool EqualsIgnoringCase(std::string_view text, std::string_view lower_case) {
   return true;
 }
 
-// 10^27 is the largest power of ten that 64 bits of mantissa hold exactly.
-constexpr auto kPowersOfTen = [] {
-  std::array<Extended, 28> powers{};
-  powers[0] = 1;
-  for (std::size_t i = 1; i < powers.size(); ++i) powers[i] = powers[i - 1] * 10;
-  return powers;
-}();
-
 // Correctly rounded for any length and exponent. Uses the C locale explicitly because an
 // application may have changed the global locale. std::from_chars would be simpler, but in GCC 12
 // it rejects subnormal values.
@@ -43,9 +36,10 @@ Extended ConvertLongNumber(std::string_view digits) {
   return strtold_l(terminated.c_str(), nullptr, c_locale);
 }
 
-// The value of the unsigned text; whole is the text for error messages.
-Extended Magnitude(std::string_view text, std::string_view whole) {
-  const detail::DecimalText number = detail::ScanDecimal(text);
+// The value of an unsigned text that takes more than one operation; whole is the text for error
+// messages.
+[[gnu::noinline]] Extended RareMagnitude(const detail::DecimalText& number, std::string_view text,
+                                         std::string_view whole) {
   if (!number.valid) {
     if (EqualsIgnoringCase(text, "inf") || EqualsIgnoringCase(text, "infinity")) {
       return std::numeric_limits<Extended>::infinity();
@@ -53,15 +47,7 @@ Extended Magnitude(std::string_view text, std::string_view whole) {
     if (EqualsIgnoringCase(text, "nan")) return std::numeric_limits<Extended>::quiet_NaN();
     throw EConvertError(rsNotANumber, whole);
   }
-  // Both operands are exact, so a single operation is correctly rounded (Clinger 1990, "How to read
-  // floating point numbers accurately").
-  constexpr std::int64_t limit = kPowersOfTen.size() - 1;
-  if (number.digits <= 19 && number.exponent >= -limit && number.exponent <= limit) {
-    const auto significand = static_cast<Extended>(number.significand);
-    return number.exponent < 0
-               ? significand / kPowersOfTen[static_cast<std::size_t>(-number.exponent)]
-               : significand * kPowersOfTen[static_cast<std::size_t>(number.exponent)];
-  }
+  if (const auto value = detail::ValueOfLongNumber(number)) return *value;
   const Extended value = ConvertLongNumber(text);
   if (std::isinf(value)) throw EConvertError(rsNumberTooLarge, whole);
   return value;
@@ -84,15 +70,19 @@ std::string Formatted(std::size_t longest, Format format) {
 }  // namespace
 
 Extended Str2Float(std::string_view text) {
-  std::string_view number = detail::WithoutBlanks(text);
-  const bool negative = detail::TakeSign(number);
-  const Extended magnitude = Magnitude(number, text);
+  std::string_view unsigned_text = detail::WithoutBlanks(text);
+  const bool negative = detail::TakeSign(unsigned_text);
+  const detail::DecimalText number = detail::ScanDecimal(unsigned_text);
+  const auto value = number.valid ? detail::ValueInOneOperation(number) : std::nullopt;
+  const Extended magnitude = value ? *value : RareMagnitude(number, unsigned_text, text);
   return negative ? -magnitude : magnitude;
 }
 
 std::string Float2EStr(Extended value, int decimals) {
   if (std::isnan(value)) return "nan";
   decimals = std::max(decimals, 0);
+  char buffer[detail::kLongestFixedText];
+  if (char* const end = detail::WriteFixed(value, decimals, buffer)) return {buffer, end};
   const std::size_t longest =
       std::numeric_limits<Extended>::max_exponent10 + 8 + static_cast<std::size_t>(decimals);
   std::string text = Formatted(longest, [=](char* first, char* last) {

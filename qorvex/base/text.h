@@ -20,7 +20,8 @@ namespace qorvex::inline QorvexGlobals {
 /// - Values too small for the format become 0 or subnormal.
 /// - EConvertError, which quotes the text: rsNotANumber for any other text, rsNumberTooLarge for a
 ///   number beyond the extended range.
-/// - Fastest for up to 19 digits and powers of ten from -27 to 27.
+/// - Fastest for up to 19 digits and powers of ten from -27 to 27; fast for up to 38 digits and
+///   powers from -54 to 54.
 [[nodiscard]] QORVEX_EXPORT Extended Str2Float(std::string_view text);
 
 /// The value in fixed notation with the given number of decimals, correctly rounded, ties to even.

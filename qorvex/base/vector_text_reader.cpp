@@ -6,9 +6,10 @@
 #include <istream>
 #include <iterator>
 #include <limits>
+#include <optional>
 
 #include "qorvex/base/currency_text.h"
-#include "qorvex/base/detail/decimal_text.h"
+#include "qorvex/base/detail/decimal_value.h"
 #include "qorvex/base/detail/stream_errors.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
@@ -24,6 +25,16 @@ bool IsWhiteSpace(char c) {
 
 bool IsSeparator(char c) {
   return c == '[' || c == ']' || c == ',';
+}
+
+// The value of a number, if it takes a single operation.
+template <FloatElement T>
+std::optional<T> FastValue(const detail::DecimalText& number) {
+  if constexpr (std::same_as<T, Extended>) {
+    return detail::ValueInOneOperation(number);
+  } else {
+    return detail::ShortValueInOneOperation<T>(number);
+  }
 }
 
 Extended ReadElement(std::string_view piece, std::type_identity<Extended>) {
@@ -95,6 +106,9 @@ class Reader {
 
   template <AnyElement T>
   T Element() {
+    if constexpr (FloatElement<T>) {
+      if (const std::optional<T> value = FrequentElement<T>()) return *value;
+    }
     const std::string_view piece = NextPiece();
     if (piece.empty() || IsSeparator(piece.front())) RefuseStructure();
     try {
@@ -107,6 +121,22 @@ class Reader {
   }
 
  private:
+  // Reads the next element if it is a number of few digits that ends at a separator or white space.
+  template <FloatElement T>
+  std::optional<T> FrequentElement() {
+    std::string_view unsigned_rest = rest_;
+    const bool negative = detail::TakeSign(unsigned_rest);
+    const detail::DecimalText number = detail::ScanLeadingDecimal(unsigned_rest);
+    const std::string_view after = unsigned_rest.substr(number.length);
+    if (!number.valid || !(after.empty() || IsSeparator(after[0]) || IsWhiteSpace(after[0])))
+      return std::nullopt;
+    const std::optional<T> value = FastValue<T>(number);
+    if (!value) return std::nullopt;
+    rest_ = after;
+    SkipWhiteSpace();
+    return negative ? -*value : *value;
+  }
+
   // A separator, or the text up to the next separator or white space. Empty at the end only.
   std::string_view NextPiece() const {
     const auto* const end =
