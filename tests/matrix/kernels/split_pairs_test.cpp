@@ -25,8 +25,9 @@ TEST(SplitPair, StoresExactlyWhatFitsTwoDoubles) {
   for (const Extended x : {0.0L, 1 / 3.0L, 0x1p-900L, 0x1.fffffffffffffffep999L}) {
     EXPECT_TRUE(stores(x) && stores(-x)) << x;
   }
-  for (const Extended x : {0x1.fffffffffffffffep-901L, 0x1p1000L, testing::kInf, testing::kNaN,
-                           std::numeric_limits<Extended>::denorm_min()}) {
+  for (const Extended x :
+       {0x1.fffffffffffffffep-901L, 0x1p1000L, std::numeric_limits<Extended>::infinity(), kNaN,
+        std::numeric_limits<Extended>::denorm_min()}) {
     EXPECT_FALSE(stores(x) || stores(-x)) << x;
   }
 }
