@@ -28,7 +28,7 @@ class PanelRows {
  public:
   PanelRows(TQorFloatMatrix& matrix, std::size_t cols);
 
-  // Must be called before anything else is done to the column.
+  // Brings the column up to date. Comes before anything else is done to it.
   void BeginColumn(std::size_t col) {
     if (col == panel_end_) ComputePanel();
   }
@@ -52,7 +52,6 @@ class PanelRows {
 
  protected:
   [[nodiscard]] std::span<const RecurrentRow> Rows() const { return rows_; }
-  [[nodiscard]] std::size_t Cols() const { return cols_; }
   [[nodiscard]] std::pmr::memory_resource* Memory() { return memory_.get(); }
   Recurrence& Columns() { return recurrence_; }
 
