@@ -131,28 +131,32 @@ requires(sizeof(T) == 1) class Sorter<T> {
   static constexpr std::size_t kLeastToCount = 64;
 };
 
-// Extended elements are moved by their sorted indices, or, if there are few, sorted as keys of 16
-// bytes. Everything is allocated before an element is moved.
-void SortExtended(TQorFloatVector& vector, bool ascending) {
-  using Keys = detail::SortKey<Extended>;
-  constexpr std::size_t most_keys = 32;
+// Moves the elements by their sorted indices. Everything is allocated before an element is moved.
+void SortByIndices(TQorFloatVector& vector, bool ascending) {
   Extended* const elements = vector.data();
-  if (vector.size() <= most_keys) {
-    std::array<Keys::Key, most_keys> keys;
-    Extended* const end =
-        std::partition(elements, elements + vector.size(), [](Extended x) { return x == x; });
-    const auto numbers = static_cast<std::size_t>(end - elements);
-    for (std::size_t i = 0; i < numbers; ++i) keys[i] = Keys::Read(elements + i);
-    detail::QuickSort(keys.data(), keys.data() + numbers);
-    if (!ascending) std::reverse(keys.data(), keys.data() + numbers);
-    for (std::size_t i = 0; i < numbers; ++i) elements[i] = Keys::Value(keys[i]);
-    return;
-  }
   const detail::SortedIndices<Extended> sorted(
       vector.size(), ascending, [=](std::size_t i) -> const Extended& { return elements[i]; });
   const TQorFloatVector copy = CopyVector(vector);
   for (std::size_t i = 0; i < vector.size(); ++i) {
+    sorted.Prefetch(i, copy.data());
     std::memcpy(elements + i, copy.data() + sorted.Index(i), sizeof(Extended));
+  }
+}
+
+constexpr std::size_t kMostOfFew = 16;
+
+template <AnyElement T>
+void SortFew(T* elements, std::size_t count, bool ascending) {
+  using Keys = detail::SortKey<T>;
+  std::array<typename Keys::Key, kMostOfFew> keys;
+  if constexpr (FloatElement<T>) {
+    T* const end = std::partition(elements, elements + count, [](T x) { return x == x; });
+    count = static_cast<std::size_t>(end - elements);
+  }
+  for (std::size_t i = 0; i < count; ++i) keys[i] = Keys::Read(elements + i);
+  detail::InsertionSort(keys.data(), keys.data() + count);
+  for (std::size_t i = 0; i < count; ++i) {
+    elements[i] = Keys::Value(keys[ascending ? i : count - 1 - i]);
   }
 }
 
@@ -161,13 +165,13 @@ void SortExtended(TQorFloatVector& vector, bool ascending) {
 template <AnyElement T>
 void QSortVector(TQorVector<T>& vector, bool ascending) {
   const std::size_t count = vector.size();
-  if (count < 2) return;
   T* const elements = vector.data();
+  if (count <= kMostOfFew) return SortFew(elements, count, ascending);
   const bool ends_are_numbers =
       elements[0] == elements[0] && elements[count - 1] == elements[count - 1];
   if (ends_are_numbers && SortRun(elements, count, ascending)) return;
   if constexpr (std::is_same_v<T, Extended>) {
-    SortExtended(vector, ascending);
+    SortByIndices(vector, ascending);
   } else {
     const std::size_t numbers = Sorter<T>(count).Sort(elements, count);
     if (!ascending) Reverse(elements, elements + numbers);
