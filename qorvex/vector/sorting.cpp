@@ -46,17 +46,6 @@ bool SortRun(T* elements, std::size_t count, bool ascending) {
   return true;
 }
 
-// Converts between unsigned and signed integers in the same order, or between the bits of floating
-// elements and such integers: flips the sign, or the other bits if the sign is set.
-template <AnyElement T, class Key>
-void ConvertKeys(Key* keys, std::size_t count) {
-  constexpr int sign_bit = 8 * sizeof(Key) - 1;
-  constexpr Key lowest = std::numeric_limits<Key>::min();
-  for (std::size_t i = 0; i < count; ++i) {
-    keys[i] ^= FloatElement<T> ? (keys[i] >> sign_bit) & ~lowest : lowest;
-  }
-}
-
 // Sorts elements in ascending order, and returns the number of those that are not NaN.
 template <AnyElement T>
 class Sorter {
@@ -64,33 +53,33 @@ class Sorter {
   explicit Sorter(std::size_t most) : sorter_(most) {}
 
   std::size_t Sort(T* elements, std::size_t count) {
-    // The bytes become keys and back; copying bytes creates the new objects.
+    // Copying bytes turns the elements into keys, and back.
+    void* const bytes = elements;
     Key* const keys =
-        std::launder(static_cast<Key*>(std::memmove(elements, elements, count * sizeof(T))));
-    if constexpr (kConverts) ConvertKeys<T>(keys, count);
-    sorter_.Sort(keys, count);
-    std::size_t numbers = count;
+        std::launder(static_cast<Key*>(std::memmove(bytes, bytes, count * sizeof(T))));
+    if constexpr (std::unsigned_integral<T>) FlipSigns(keys, count);
+    sorter_.Sort(keys, count,
+                 FloatElement<T> ? detail::KeyForm::kFloatBits : detail::KeyForm::kInteger);
+    if constexpr (std::unsigned_integral<T>) FlipSigns(keys, count);
+    elements = std::launder(static_cast<T*>(std::memmove(bytes, bytes, count * sizeof(T))));
     if constexpr (FloatElement<T>) {
       // NaN with a sign sorts before the numbers, others behind them.
       constexpr T infinity = std::numeric_limits<T>::infinity();
-      Key* const first = std::lower_bound(keys, keys + count, KeyOf(-infinity));
-      Key* const last = std::upper_bound(first, keys + count, KeyOf(infinity));
-      std::rotate(keys, first, last);
-      numbers = static_cast<std::size_t>(last - first);
+      constexpr auto before = detail::SortsBefore<T>;
+      T* const first = std::lower_bound(elements, elements + count, -infinity, before);
+      T* const last = std::upper_bound(first, elements + count, infinity, before);
+      std::rotate(elements, first, last);
+      return static_cast<std::size_t>(last - first);
     }
-    if constexpr (kConverts) ConvertKeys<T>(keys, count);
-    return numbers;
+    return count;
   }
 
  private:
   using Key = std::make_signed_t<typename detail::SortKey<T>::Key>;
-  static constexpr bool kConverts = FloatElement<T> || std::unsigned_integral<T>;
 
-  static Key KeyOf(T value) noexcept {
-    Key key;
-    std::memcpy(&key, &value, sizeof key);
-    ConvertKeys<T>(&key, 1);
-    return key;
+  // Converts unsigned integers into signed ones in the same order, or back.
+  static void FlipSigns(Key* keys, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) keys[i] ^= std::numeric_limits<Key>::min();
   }
 
   detail::KeySorter<Key> sorter_;
