@@ -40,7 +40,9 @@ case $purpose in
     targets=(all)
     ;;
   benchmarks)
-    packages+=("${test_packages[@]}" libbenchmark-dev libgsl-dev liblapack-dev r-mathlib)
+    packages+=("${test_packages[@]}" libbenchmark-dev libgsl-dev libhwy-dev liblapack-dev r-mathlib
+      datamash miller r-base-core  # programs that describe files
+    )
     targets=(all)
     ;;
   *)

@@ -129,6 +129,22 @@ void RegisterSort() {
                   [=](const TQorVector<T>& a, const TQorVector<T>& b) { return a[col] < b[col]; });
         return turn.matrix[0][0];
       });
+  // What any method must do that leaves every row in its buffer: read and write each element.
+  struct Copied {
+    TQorMatrix<T> matrix;
+    TQorMatrix<T> copy;
+  };
+  CompareMatrices<T>(
+      "QSortMatrixRowsOnCol", "copying", orders, 2,
+      [](std::size_t order) {
+        return Copied{OurMatrix<T>(order), OurMatrix<T>(order)};
+      },
+      [](Copied& copied) {
+        for (std::size_t i = 0; i < copied.matrix.size(); ++i) {
+          std::ranges::copy(copied.matrix[i], copied.copy[i].begin());
+        }
+        return copied.copy[0][0];
+      });
   CompareMatrices<T>("QSortMatrixRowsOnCol", "quicksort of rows", orders, 2, make, [=](Turn& turn) {
     const std::uint32_t col = next(turn);
     QuickSortRows(turn.matrix, col);

@@ -114,7 +114,10 @@ void RegisterStd(const std::string& variate, const std::string& parameters,
   Register("Random_Normal", "-", "ours, from a lambda",
            [] { return Random_Normal([] { return Uniform(); }); });
   RegisterStd("Random_Normal", "-", std::normal_distribution<Extended>());
-  Register("Random_Normal", "-", "GSL", [gsl] { return gsl_ran_gaussian_ratio_method(gsl, 1); });
+  Register("Random_Normal", "-", "GSL ratio method",
+           [gsl] { return gsl_ran_gaussian_ratio_method(gsl, 1); });
+  Register("Random_Normal", "-", "GSL ziggurat",
+           [gsl] { return gsl_ran_gaussian_ziggurat(gsl, 1); });
   RegisterFill(
       "FillNormal", "-", [](TQorFloatVector& v) { FillNormal(v, Uniform); },
       [] { return Random_Normal(Uniform); });

@@ -17,6 +17,22 @@ namespace {
 
 using EigenArray = Eigen::Map<const Eigen::Array<Extended, Eigen::Dynamic, 1>>;
 
+template <FloatElement T>
+void RegisterVariance() {
+  Compare<T>("SampleVariance", "ours", [](const TQorVector<T>& v) { return SampleVariance(v); });
+  Compare<T>("SampleVariance", "loop", [](const TQorVector<T>& v) {
+    Extended sum = 0;
+    for (const T x : v) sum += static_cast<Extended>(x);
+    const Extended mean = sum / static_cast<Extended>(v.size());
+    Extended squares = 0;
+    for (const T x : v) {
+      const Extended difference = static_cast<Extended>(x) - mean;
+      squares += difference * difference;
+    }
+    return squares / static_cast<Extended>(v.size() - 1);
+  });
+}
+
 [[maybe_unused]] const bool registered = [] {
   Compare<Extended>("DescriptiveStats", "ours", [](const TQorFloatVector& v) {
     DescriptiveStats stats;
@@ -46,8 +62,9 @@ using EigenArray = Eigen::Map<const Eigen::Array<Extended, Eigen::Dynamic, 1>>;
            statistics::median(copy.begin(), copy.end());
   });
 
-  Compare<Extended>("SampleVariance", "ours",
-                    [](const TQorFloatVector& v) { return SampleVariance(v); });
+  RegisterVariance<Extended>();
+  RegisterVariance<double>();
+  RegisterVariance<float>();
   Compare<Extended>("SampleVariance", "GSL", [](const TQorFloatVector& v) {
     return gsl_stats_long_double_variance(v.data(), 1, v.size());
   });

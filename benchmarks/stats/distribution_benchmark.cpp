@@ -164,9 +164,9 @@ void CompareTables(const std::string& family, TableRoutine ours,
   for (const auto& [who, figures] : peers) {
     benchmark::RegisterBenchmark(name(who).c_str(),
                                  [=, density = figures.density](benchmark::State& state) {
+                                   std::vector<Extended> xs(n + 1);
+                                   std::vector<Extended> ys(n + 1);
                                    for (auto _ : state) {
-                                     std::vector<Extended> xs(n + 1);
-                                     std::vector<Extended> ys(n + 1);
                                      for (std::int32_t i = 0; i <= n; ++i) {
                                        const auto index = static_cast<std::size_t>(i);
                                        xs[index] = 0.01L + static_cast<Extended>(i) * (7.99L / n);

@@ -1,6 +1,6 @@
-// Exact sums and samples, compared with plain loops in long double: std::accumulate for a sum, and
-// for a variance the two passes of the classic routine. The samples are normally distributed;
-// "scattered" ones have exponents over the whole range.
+// Exact sums and samples, compared with plain loops: std::accumulate in long double or the loop in
+// int64 for a sum, and for a variance the two passes of the classic routine. The samples are
+// normally distributed; "scattered" ones have exponents over the whole range.
 
 #include <cmath>
 #include <numeric>
@@ -12,13 +12,18 @@
 #include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/vector/building.h"
 #include "support/compare.h"
+#include "support/integer_loops.h"
 
 namespace qorvex::benchmarks {
 namespace {
 
 template <class T>
 Extended PlainSum(const TQorVector<T>& v) {
-  return std::accumulate(v.begin(), v.end(), Extended(0));
+  if constexpr (IntegerElement<T>) {
+    return static_cast<Extended>(static_cast<std::int64_t>(LoopSum<T>(v)));
+  } else {
+    return std::accumulate(v.begin(), v.end(), Extended(0));
+  }
 }
 
 template <class T>

@@ -41,14 +41,17 @@ Extended Householder(const Data& data) {
   return b.sum();
 }
 
-// GSL's matrices, made once.
+// GSL's matrices and work space, made once.
 class GslData {
  public:
   explicit GslData(const Data& data)
       : n_(static_cast<std::size_t>(data.design.rows())),
         p_(static_cast<std::size_t>(data.design.cols())),
         x_(gsl_matrix_alloc(n_, p_)),
-        y_(gsl_vector_alloc(n_)) {
+        y_(gsl_vector_alloc(n_)),
+        b_(gsl_vector_alloc(p_)),
+        covariance_(gsl_matrix_alloc(p_, p_)),
+        workspace_(gsl_multifit_linear_alloc(n_, p_)) {
     for (std::size_t i = 0; i < n_; ++i) {
       const auto row = static_cast<Eigen::Index>(i);
       gsl_vector_set(y_, i, static_cast<double>(data.y(row)));
@@ -61,21 +64,17 @@ class GslData {
   GslData(const GslData&) = delete;
   GslData& operator=(const GslData&) = delete;
   ~GslData() {
+    gsl_multifit_linear_free(workspace_);
+    gsl_matrix_free(covariance_);
+    gsl_vector_free(b_);
     gsl_vector_free(y_);
     gsl_matrix_free(x_);
   }
 
   [[nodiscard]] double Fit() const {
-    gsl_multifit_linear_workspace* workspace = gsl_multifit_linear_alloc(n_, p_);
-    gsl_vector* b = gsl_vector_alloc(p_);
-    gsl_matrix* covariance = gsl_matrix_alloc(p_, p_);
     double rss = 0;
-    gsl_multifit_linear(x_, y_, b, covariance, &rss, workspace);
-    const double result = gsl_vector_get(b, 0);
-    gsl_matrix_free(covariance);
-    gsl_vector_free(b);
-    gsl_multifit_linear_free(workspace);
-    return result;
+    gsl_multifit_linear(x_, y_, b_, covariance_, &rss, workspace_);
+    return gsl_vector_get(b_, 0);
   }
 
  private:
@@ -83,6 +82,9 @@ class GslData {
   std::size_t p_;
   gsl_matrix* x_;
   gsl_vector* y_;
+  gsl_vector* b_;
+  gsl_matrix* covariance_;
+  gsl_multifit_linear_workspace* workspace_;
 };
 
 // Registers work(data) for rows of p predictors; the items are the rows.

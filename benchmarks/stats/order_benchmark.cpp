@@ -10,6 +10,7 @@
 #include <gsl/gsl_statistics_long_double.h>
 #include <vector>
 
+#include "qorvex/base/comparisons.h"
 #include "qorvex/stats/QorvexPairStats.h"
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/stats/exact/exact_pairs.h"
@@ -41,12 +42,51 @@ std::vector<std::span<const Extended>> Columns(const TQorFloatVector& v) {
   return columns;
 }
 
+TQorFloatVector SortedSample(std::size_t n, std::size_t seed) {
+  return SortedVector(Sample<Extended>(n, seed));
+}
+
+// With many runs of equal values, most of them short.
+TQorFloatVector SortedHundredths(std::size_t n, std::size_t seed) {
+  auto sorted = SortedSample(n, seed);
+  const auto steps = static_cast<Extended>(n / 10);
+  for (Extended& x : sorted) x = std::round(x * steps) / 100;
+  return sorted;
+}
+
+// The longest run of neighbours that are the same within the tolerance.
+Extended LongestRun(const TQorFloatVector& v) {
+  Extended mode = 0;
+  std::size_t longest = 1;
+  std::size_t length = 1;
+  for (std::size_t i = 1; i < v.size(); ++i) {
+    length = SameFloat(v[i], v[i - 1]) ? length + 1 : 1;
+    if (length > longest) {
+      longest = length;
+      mode = v[i];
+    }
+  }
+  return mode;
+}
+
+void Modes() {
+  const auto ours = [](const TQorFloatVector& v) {
+    Extended mode = 0;
+    return GetMode(v, mode) ? mode : 0;
+  };
+  Compare<Extended>("GetMode", "ours", ours, SortedSample);
+  Compare<Extended>("GetMode", "loop", LongestRun, SortedSample);
+  Compare<Extended>("GetMode, hundredths", "ours", ours, SortedHundredths);
+  Compare<Extended>("GetMode, hundredths", "loop", LongestRun, SortedHundredths);
+}
+
 void OrderStatistics() {
   Compare<Extended>("MedianAbsoluteDeviation", "ours", [](const TQorFloatVector& v) {
     return MedianAbsoluteDeviation(SortedVector(v));
   });
   Compare<Extended>("MedianAbsoluteDeviation", "GSL", [](const TQorFloatVector& v) {
-    std::vector<double> work(v.size());
+    static std::vector<double> work;
+    work.resize(v.size());
     return gsl_stats_long_double_mad0(v.data(), 1, v.size(), work.data());
   });
   Compare<Extended>("MedianAbsoluteDeviation", "Boost", [](const TQorFloatVector& v) {
@@ -86,7 +126,8 @@ void Correlations() {
   Compare<double>("SpearmanRho", "ours",
                   [](const auto& x, const auto& y) { return SpearmanRho(x, y); });
   Compare<double>("SpearmanRho", "GSL", [](const auto& x, const auto& y) {
-    std::vector<double> work(2 * x.size());
+    static std::vector<double> work;
+    work.resize(2 * x.size());
     return gsl_stats_spearman(x.data(), 1, y.data(), 1, x.size(), work.data());
   });
   Compare<double>("KendallTau", "ours",
@@ -119,9 +160,8 @@ void WeightedFigures() {
       v2 += w[i] * w[i];
       sum += w[i] * v[i];
     }
-    for (std::size_t i = 0; i < v.size(); ++i) {
-      squares += w[i] * (v[i] - sum / v1) * (v[i] - sum / v1);
-    }
+    const Extended mean = sum / v1;
+    for (std::size_t i = 0; i < v.size(); ++i) squares += w[i] * (v[i] - mean) * (v[i] - mean);
     return squares / (v1 - v2 / v1);
   });
   // The elements need not be in order for the time.
@@ -141,6 +181,7 @@ void WeightedFigures() {
 }
 
 [[maybe_unused]] const bool registered = [] {
+  Modes();
   OrderStatistics();
   Correlations();
   WeightedFigures();

@@ -28,15 +28,16 @@ const double* Doubles(const TQorFloatVector& vector) {
                       GetRegressionLine(x, y, a, b);
                       return a + b;
                     });
-  // One loop for each sum, as the formulas are written.
   Compare<Extended>("GetRegressionLine", "loop",
                     [](const TQorFloatVector& x, const TQorFloatVector& y) {
                       Extended sx = 0, sy = 0, sxx = 0, sxy = 0;
                       const auto n = static_cast<Extended>(x.size());
-                      for (const Extended u : x) sx += u;
-                      for (const Extended v : y) sy += v;
-                      for (const Extended u : x) sxx += u * u;
-                      for (std::size_t i = 0; i < x.size(); ++i) sxy += x[i] * y[i];
+                      for (std::size_t i = 0; i < x.size(); ++i) {
+                        sx += x[i];
+                        sy += y[i];
+                        sxx += x[i] * x[i];
+                        sxy += x[i] * y[i];
+                      }
                       const Extended b = (sxy - sx * sy / n) / (sxx - sx * sx / n);
                       return (sy - b * sx) / n + b;
                     });

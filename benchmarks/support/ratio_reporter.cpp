@@ -50,8 +50,8 @@ class RatioReporter : public benchmark::BenchmarkReporter {
     for (const auto& [key, times] : times_) {
       const auto ours = times.find("ours");
       if (ours == times.end()) continue;
-      std::printf("| %s | %s | %zu | %.2f |", key.routine.c_str(), key.type.c_str(), key.size,
-                  ours->second);
+      std::printf("| %s | %s | %zu | %.*f |", key.routine.c_str(), key.type.c_str(), key.size,
+                  ours->second < 1 ? 3 : 2, ours->second);
       const char* separator = " ";
       for (const auto& [who, time] : times) {
         if (who == "ours") continue;

@@ -1,6 +1,9 @@
-// Sorting and ranking, compared with std::sort and with sorting pairs of value and position.
+// Sorting and ranking, compared with std::sort, with Highway's vqsort and with sorting pairs of
+// value and position.
 
 #include <algorithm>
+#include <concepts>
+#include <hwy/contrib/sort/vqsort.h>
 #include <utility>
 #include <vector>
 
@@ -10,24 +13,24 @@
 namespace qorvex::benchmarks {
 namespace {
 
-// Sorts a new copy each time, because an input that is already sorted is easy to predict.
 template <NumericElement T>
-void RegisterSort() {
-  Compare<T>("QSortVector", "ours", [](const TQorVector<T>& v) {
-    TQorVector<T> copy = CopyVector(v);
-    QSortVector(copy, true);
-    return copy;
-  });
-  Compare<T>("QSortVector", "std::sort", [](const TQorVector<T>& v) {
-    TQorVector<T> copy = CopyVector(v);
-    std::sort(copy.begin(), copy.end());
-    return copy;
-  });
+void RegisterSort(std::initializer_list<std::size_t> sizes = kSizes) {
+  Compare<T>(
+      "QSortVector", "ours", [](TQorVector<T>& v) { QSortVector(v, true); }, Sample<T>, sizes);
+  Compare<T>(
+      "QSortVector", "std::sort", [](TQorVector<T>& v) { std::sort(v.begin(), v.end()); },
+      Sample<T>, sizes);
+  if constexpr (std::invocable<hwy::Sorter, T*, std::size_t, hwy::SortAscending>) {
+    Compare<T>(
+        "QSortVector", "vqsort",
+        [](TQorVector<T>& v) { hwy::Sorter()(v.data(), v.size(), hwy::SortAscending()); },
+        Sample<T>, sizes);
+  }
 }
 
 [[maybe_unused]] const bool registered = [] {
-  RegisterSort<Extended>();
-  RegisterSort<double>();
+  RegisterSort<Extended>(kPlotSizes);
+  RegisterSort<double>(kPlotSizes);
   RegisterSort<float>();
   RegisterSort<std::int64_t>();
   RegisterSort<std::int32_t>();

@@ -1,5 +1,5 @@
-// Sums, sums of squares, dot products and extremes, compared with the plain loop in long double and
-// with statistics libraries.
+// Sums, sums of squares, dot products and extremes, compared with the plain loop (in long double
+// for floating elements, in int64 for integers) and with statistics libraries.
 
 #include <Eigen/Core>
 #include <algorithm>
@@ -9,6 +9,7 @@
 
 #include "qorvex/vector/QorvexVector.h"
 #include "support/compare.h"
+#include "support/integer_loops.h"
 
 namespace qorvex::benchmarks {
 namespace {
@@ -19,19 +20,45 @@ EigenVector AsEigen(const TQorFloatVector& v) {
   return {v.data(), static_cast<Eigen::Index>(v.size())};
 }
 
+// Normally distributed with mean 0, so that sums stay small.
+template <FloatElement T>
+TQorVector<T> BothSigns(std::size_t n, std::size_t seed) {
+  auto vector = Sample<T>(n, seed);
+  for (T& x : vector) x -= 3;
+  return vector;
+}
+
+template <NumericElement T>
+void RegisterSum(std::initializer_list<std::size_t> sizes = kSizes, MakeSample<T> make = Sample<T>,
+                 const char* routine = "SumVector") {
+  Compare<T>(
+      routine, "ours", [](const TQorVector<T>& v) { return SumVector(v); }, make, sizes);
+  const auto loop = [](const TQorVector<T>& v) {
+    if constexpr (IntegerElement<T>) {
+      return LoopSum<T>(v);
+    } else {
+      return std::accumulate(v.begin(), v.end(), Extended(0));
+    }
+  };
+  Compare<T>(routine, IntegerElement<T> ? "loop" : "std::accumulate", loop, make, sizes);
+}
+
 template <NumericElement T>
 void RegisterType() {
-  Compare<T>("SumVector", "ours", [](const TQorVector<T>& v) { return SumVector(v); });
-  Compare<T>("SumVector", "loop", [](const TQorVector<T>& v) {
-    Extended sum = 0;
-    for (const T x : v) sum += static_cast<Extended>(x);
-    return sum;
-  });
+  if constexpr (IntegerElement<T>) {
+    Compare<T>("SumVector", "std::accumulate, -O3", [](const TQorVector<T>& v) {
+      return std::accumulate(v.begin(), v.end(), std::uint64_t{});
+    });
+  }
   Compare<T>("SumSqVector", "ours", [](const TQorVector<T>& v) { return SumSqVector(v); });
   Compare<T>("SumSqVector", "loop", [](const TQorVector<T>& v) {
-    Extended sum = 0;
-    for (const T x : v) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
-    return sum;
+    if constexpr (IntegerElement<T>) {
+      return LoopDotProduct<T>(v, v);
+    } else {
+      Extended sum = 0;
+      for (const T x : v) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
+      return sum;
+    }
   });
   Compare<T>("MinMaxVector", "ours", [](const TQorVector<T>& v) {
     T low = 0;
@@ -54,19 +81,20 @@ void RegisterDotProduct() {
   Compare<T>("DotProdVectors", "ours",
              [](const TQorVector<T>& v, const TQorVector<T>& w) { return DotProdVectors(v, w); });
   Compare<T>("DotProdVectors", "loop", [](const TQorVector<T>& v, const TQorVector<T>& w) {
-    Extended sum = 0;
-    for (std::size_t i = 0; i < v.size(); ++i)
-      sum += static_cast<Extended>(v[i]) * static_cast<Extended>(w[i]);
-    return sum;
+    if constexpr (IntegerElement<T>) {
+      return LoopDotProduct<T>(v, w);
+    } else {
+      Extended sum = 0;
+      for (std::size_t i = 0; i < v.size(); ++i)
+        sum += static_cast<Extended>(v[i]) * static_cast<Extended>(w[i]);
+      return sum;
+    }
   });
 }
 
 void RegisterPeers() {
   Compare<Extended>("SumVector", "Eigen",
                     [](const TQorFloatVector& v) { return AsEigen(v).sum(); });
-  Compare<Extended>("SumVector", "std::accumulate", [](const TQorFloatVector& v) {
-    return std::accumulate(v.begin(), v.end(), Extended(0));
-  });
   Compare<Extended>("SumVector", "GSL mean", [](const TQorFloatVector& v) {
     return gsl_stats_long_double_mean(v.data(), 1, v.size());
   });
@@ -88,6 +116,18 @@ void RegisterPeers() {
 }
 
 [[maybe_unused]] const bool registered = [] {
+  RegisterSum<Extended>(kPlotSizes);
+  RegisterSum<double>(kPlotSizes);
+  RegisterSum<float>();
+  RegisterSum<std::int64_t>();
+  RegisterSum<std::uint32_t>();
+  RegisterSum<std::int32_t>(kPlotSizes);
+  RegisterSum<std::uint16_t>();
+  RegisterSum<std::int16_t>();
+  RegisterSum<std::uint8_t>();
+  RegisterSum<std::int8_t>();
+  RegisterSum<Extended>(kSizes, BothSigns<Extended>, "SumVector, both signs");
+  RegisterSum<double>(kSizes, BothSigns<double>, "SumVector, both signs");
   RegisterType<Extended>();
   RegisterType<double>();
   RegisterType<float>();

@@ -20,6 +20,7 @@
 #include <utility>
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/export.h"
 
 namespace qorvex {
 
@@ -30,6 +31,13 @@ concept ElementFrom = std::convertible_to<From, To> &&
     (!std::integral<To> || !std::is_arithmetic_v<From> ||
      (std::integral<From> && std::in_range<To>(std::numeric_limits<From>::min()) &&
       std::in_range<To>(std::numeric_limits<From>::max())));
+/// @endcond
+
+/// @cond internal
+// Large memory is cheaper in large pages: in pages of 4 kB the system takes longer to hand out
+// memory for a million values than a loop takes to add them up.
+inline constexpr std::size_t kLeastLargeBuffer = std::size_t{4} << 20;
+QORVEX_EXPORT void PreferLargePages(void* memory, std::size_t bytes) noexcept;
 /// @endcond
 
 /// A zero-based dynamic array whose handles share one reference-counted buffer.
@@ -126,20 +134,21 @@ class DynArray {
   }
 
   /// Shares the buffer.
-  DynArray(const DynArray& other) noexcept : header_(other.header_) {
+  DynArray(const DynArray& other) noexcept : header_(other.header_), length_(other.length_) {
     if (header_ != nullptr) header_->references.fetch_add(1, std::memory_order_relaxed);
   }
   /// Takes over the buffer and leaves the other handle empty.
-  DynArray(DynArray&& other) noexcept : header_(std::exchange(other.header_, nullptr)) {}
+  DynArray(DynArray&& other) noexcept
+      : header_(std::exchange(other.header_, nullptr)), length_(std::exchange(other.length_, 0)) {}
   /// Releases this buffer and shares, or takes over, the other.
   DynArray& operator=(DynArray other) noexcept {
     swap(other);
     return *this;
   }
-  ~DynArray() { Release(header_); }
+  ~DynArray() { Release(header_, length_); }
 
   /// The number of elements.
-  [[nodiscard]] size_type size() const noexcept { return header_ == nullptr ? 0 : header_->length; }
+  [[nodiscard]] size_type size() const noexcept { return length_; }
   /// True if the length is 0.
   [[nodiscard]] bool empty() const noexcept { return size() == 0; }
   /// The highest index: length - 1, so -1 for an empty array.
@@ -305,7 +314,10 @@ class DynArray {
 
   /// @{
   /// Exchanges the buffers of two handles.
-  void swap(DynArray& other) noexcept { std::swap(header_, other.header_); }
+  void swap(DynArray& other) noexcept {
+    std::swap(header_, other.header_);
+    std::swap(length_, other.length_);
+  }
   friend void swap(DynArray& a, DynArray& b) noexcept { a.swap(b); }
   /// @}
 
@@ -324,7 +336,6 @@ class DynArray {
  private:
   struct Header {
     std::atomic<size_type> references{1};
-    size_type length = 0;
     size_type capacity;
 
     explicit Header(size_type elements) : capacity(elements) {}
@@ -345,8 +356,9 @@ class DynArray {
                       std::is_nothrow_move_constructible_v<T>,
                   "only the allocation may fail, so that a failure leaves the array unchanged");
     if (capacity > max_size()) throw std::bad_array_new_length();
-    void* memory =
-        ::operator new (kElementsOffset + capacity * sizeof(T), std::align_val_t{kAlignment});
+    const std::size_t bytes = kElementsOffset + capacity * sizeof(T);
+    void* memory = ::operator new (bytes, std::align_val_t{kAlignment});
+    if (bytes >= kLeastLargeBuffer) PreferLargePages(memory, bytes);
     return ::new (memory) Header(capacity);
   }
 
@@ -355,10 +367,10 @@ class DynArray {
     ::operator delete (header, std::align_val_t{kAlignment});
   }
 
-  static void Release(Header* header) noexcept {
+  static void Release(Header* header, size_type length) noexcept {
     if (header == nullptr) return;
     if (header->references.fetch_sub(1, std::memory_order_acq_rel) != 1) return;
-    std::destroy_n(Elements(header), header->length);
+    std::destroy_n(Elements(header), length);
     Deallocate(header);
   }
 
@@ -380,18 +392,17 @@ class DynArray {
       } else {
         std::uninitialized_move_n(data(), kept, Elements(fresh));
       }
-      fresh->length = kept;
     }
-    Release(std::exchange(header_, fresh));
+    Release(std::exchange(header_, fresh), std::exchange(length_, kept));
   }
 
   // Removes the elements from the length on, which is at most the present one.
   void Truncate(size_type length) {
     if (IsShared()) {
       Reallocate(length, length);
-    } else if (header_ != nullptr) {
+    } else {
       std::destroy(begin() + length, end());
-      header_->length = length;
+      length_ = length;
     }
   }
 
@@ -405,7 +416,7 @@ class DynArray {
       Reallocate(length, std::max(length + count, length + length / 2));
     }
     construct(Elements(header_) + length, count);
-    header_->length = length + count;
+    length_ = length + count;
   }
 
   void RequireIndex(size_type index) const {
@@ -413,6 +424,10 @@ class DynArray {
   }
 
   Header* header_ = nullptr;
+  // The handles of a shared buffer agree on the length, because a change of it makes the buffer
+  // private. Because it is kept here, the lengths of all rows of a matrix are compared without
+  // reading the rows.
+  size_type length_ = 0;
 };
 
 }  // namespace qorvex

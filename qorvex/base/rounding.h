@@ -11,6 +11,22 @@
 
 #include "qorvex/base/element_types.h"
 
+/// @cond internal
+namespace qorvex::inline QorvexGlobals::detail {
+// value * factor, rounded to `product`, from 2^62 on.
+[[nodiscard]] inline Extended RoundedLargeProduct(Extended value, Extended factor,
+                                                  Extended product) noexcept {
+  if (!(std::fabs(product) < 0x1p63L)) return product;
+  // The products of both parts of the value are exact, and so is the rounding error of the sum.
+  const auto leading = static_cast<Extended>(static_cast<float>(value));
+  const Extended lost = (value - leading) * factor - (product - leading * factor);
+  const Extended below = std::floor(product);
+  if (product == below || lost == 0) return product;
+  return lost > 0 ? below + 1 : below;
+}
+}  // namespace qorvex::inline QorvexGlobals::detail
+/// @endcond
+
 namespace qorvex {
 
 /// Rounds to the nearest integer, ties to even. NaN and values that Int cannot hold give the
@@ -32,15 +48,14 @@ template <std::integral Int>
 template <std::integral Int>
 [[nodiscard]] inline Int RoundProduct(Extended value, std::int64_t factor) noexcept {
   const auto wide_factor = static_cast<Extended>(factor);
-  Extended product = value * wide_factor;
-  if (std::fabs(product) >= 0x1p62L && std::fabs(product) < 0x1p63L) {
-    // The products of both parts of the value are exact, and so is the rounding error of the sum.
-    const auto leading = static_cast<Extended>(static_cast<float>(value));
-    const Extended lost = (value - leading) * wide_factor - (product - leading * wide_factor);
-    const Extended below = std::floor(product);
-    if (product != below && lost != 0) product = lost > 0 ? below + 1 : below;
+  const Extended product = value * wide_factor;
+  if (std::fabs(product) < 0x1p62L) {
+    const std::int64_t rounded = std::llrint(product);
+    return std::in_range<Int>(rounded) ? static_cast<Int>(rounded)
+                                       : std::numeric_limits<Int>::min();
   }
-  return RoundToInteger<Int>(product);
+  return RoundToInteger<Int>(
+      QorvexGlobals::detail::RoundedLargeProduct(value, wide_factor, product));
 }
 
 /// dividend / divisor, rounded to the nearest integer, ties to even. For divisors from 1 to 2^62.
@@ -49,9 +64,9 @@ template <std::integral Int>
   const std::int64_t quotient = dividend / divisor;
   const std::int64_t remainder = dividend % divisor;
   const std::int64_t twice = remainder < 0 ? -2 * remainder : 2 * remainder;
-  const bool away_from_zero = twice > divisor || (twice == divisor && quotient % 2 != 0);
-  if (!away_from_zero) return quotient;
-  return dividend < 0 ? quotient - 1 : quotient + 1;
+  // A tie counts as more than a half if the quotient is odd.
+  const bool away_from_zero = twice + (quotient & 1) > divisor;
+  return quotient + (away_from_zero ? (dividend < 0 ? -1 : 1) : 0);
 }
 
 }  // namespace qorvex

@@ -5,50 +5,77 @@
 
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/new_matrix.h"
-#include "qorvex/matrix/detail/row_kernels.h"
-#include "qorvex/matrix/detail/split_quads.h"
+#include "qorvex/matrix/detail/rounded_products.h"
+#include "qorvex/matrix/detail/split_pairs.h"
 
 namespace qorvex::inline QorvexMatrix {
 
 namespace {
 
-// Works on four columns of the right factor at a time. They stay in the first-level cache while
-// they are multiplied by all rows of the left factor.
-class QuadProduct {
+// Works on eight columns of the right factor at a time, stored as pairs. They stay in the first two
+// levels of cache while they are multiplied by all rows of the left factor.
+class BlockProduct {
  public:
-  QuadProduct(const TQorFloatMatrix& a, const TQorFloatMatrix& b, std::size_t inner)
-      : a_(a),
-        b_(b),
-        inner_(inner),
-        split_(std::make_unique_for_overwrite<detail::SplitQuad[]>(inner)) {}
+  static constexpr std::size_t kBlock = 8;
 
-  // Computes the columns from col on, as many as width, at most four.
-  void AddTo(TQorFloatMatrix& product, std::size_t col, std::size_t width) {
-    bool exact = true;
-    for (std::size_t k = 0; k < inner_; ++k) exact &= split_[k].Store(&b_[k][col], width);
-    if (exact) {
-      AddColumns(product, col, width, split_.get());
-      return;
-    }
-    if (plain_ == nullptr) plain_ = std::make_unique_for_overwrite<detail::PlainQuad[]>(inner_);
-    for (std::size_t k = 0; k < inner_; ++k) plain_[k].Store(&b_[k][col], width);
-    AddColumns(product, col, width, plain_.get());
+  BlockProduct(const TQorFloatMatrix& a, const TQorFloatMatrix& b, std::size_t inner,
+               TQorFloatMatrix& product)
+      : a_(a), b_(b), inner_(inner), product_(product) {}
+
+  // Computes the columns from col on, as many as width, at most a block.
+  void Compute(std::size_t col, std::size_t width) {
+    if (!ComputeWith(split_, col, width)) ComputeWith(plain_, col, width);
   }
 
  private:
-  template <class Quad>
-  void AddColumns(TQorFloatMatrix& product, std::size_t col, std::size_t width,
-                  const Quad* quads) const {
-    for (std::size_t i = 0; i < product.size(); ++i) {
-      detail::AddProducts(&product[i][col], a_[i].data(), quads, inner_, width);
+  template <class Pair>
+  using Pairs = std::unique_ptr<Pair[]>;
+
+  // Returns false, and computes nothing, if the columns cannot be stored exactly.
+  template <class Pair>
+  bool ComputeWith(Pairs<Pair>& pairs, std::size_t col, std::size_t width) {
+    if (pairs == nullptr) {
+      pairs = std::make_unique_for_overwrite<Pair[]>(inner_ * (kBlock / detail::kPair));
     }
+    bool exact = true;
+    for (std::size_t k = 0; k < inner_; ++k) {
+      const Extended* const row = &b_[k][col];
+      for (std::size_t j = 0; j < width; j += detail::kPair) {
+        const Extended last[detail::kPair] = {row[j]};
+        exact &= PairsAt(pairs, j)[k].Store(j + 1 < width ? row + j : last);
+      }
+    }
+    if (!exact) return false;
+    for (std::size_t i = 0; i < product_.size(); i += 2) {
+      const std::size_t other = std::min(i + 1, product_.size() - 1);
+      for (std::size_t j = 0; j < width; j += detail::kPair) {
+        Extended sums0[detail::kPair] = {};
+        Extended sums1[detail::kPair] = {};
+        detail::AddProducts(sums0, sums1, a_[i].data(), a_[other].data(), PairsAt(pairs, j),
+                            inner_);
+        product_[i][col + j] = sums0[0];
+        product_[other][col + j] = sums1[0];
+        if (j + 1 < width) {
+          product_[i][col + j + 1] = sums0[1];
+          product_[other][col + j + 1] = sums1[1];
+        }
+      }
+    }
+    return true;
+  }
+
+  // The pairs of column j of the block.
+  template <class Pair>
+  Pair* PairsAt(const Pairs<Pair>& pairs, std::size_t j) const {
+    return &pairs[j / detail::kPair * inner_];
   }
 
   const TQorFloatMatrix& a_;
   const TQorFloatMatrix& b_;
   std::size_t inner_;
-  std::unique_ptr<detail::SplitQuad[]> split_;
-  std::unique_ptr<detail::PlainQuad[]> plain_;
+  TQorFloatMatrix& product_;
+  Pairs<detail::SplitPair> split_;
+  Pairs<detail::PlainPair> plain_;
 };
 
 }  // namespace
@@ -66,16 +93,17 @@ TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
 
   auto product = detail::NewMatrix<T>(left.rows, right.cols);
   if constexpr (std::same_as<T, Extended>) {
-    QuadProduct quads(a, b, left.cols);
-    for (std::size_t col = 0; col < right.cols; col += detail::kQuad) {
-      quads.AddTo(product, col, std::min(detail::kQuad, right.cols - col));
+    constexpr std::size_t block = BlockProduct::kBlock;
+    BlockProduct blocks(a, b, left.cols, product);
+    for (std::size_t col = 0; col < right.cols; col += block) {
+      blocks.Compute(col, std::min(block, right.cols - col));
     }
   } else {
     // Row by row: the sums of a row are independent of one another, so that no addition waits for
     // the one before.
     for (std::size_t i = 0; i < left.rows; ++i) {
       for (std::size_t k = 0; k < left.cols; ++k) {
-        detail::AddElements(product[i].data(), b[k].data(), right.cols,
+        detail::AddMultiple(product[i].data(), b[k].data(), right.cols,
                             static_cast<Extended>(a[i][k]));
       }
     }

@@ -7,6 +7,8 @@
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/elimination.h"
+#include "qorvex/matrix/detail/float_inverse.h"
+#include "qorvex/matrix/detail/inverse_steps.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/rectangular_check_pause.h"
 #include "qorvex/matrix/detail/with_rows.h"
@@ -25,44 +27,27 @@ std::size_t ReduceToEchelonForm(TQorMatrix<T>& matrix) {
   });
 }
 
-// Repeats the steps on the rows of the inverse.
-template <class Rows>
-class InverseObserver : public detail::Observer {
- public:
-  explicit InverseObserver(Rows& rows) : rows_(rows) {}
-  void Swapped(std::size_t row1, std::size_t row2) { rows_.Swap(row1, row2); }
-  void Scaled(std::size_t row, Extended pivot, Extended factor) {
-    rows_.Scale(row, factor);
-    pivots_are_finite_ &= std::isfinite(pivot);
-  }
-  void Added(std::size_t target, std::size_t source, Extended factor) {
-    rows_.Add(target, source, factor);
-  }
-  [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
-
- private:
-  Rows& rows_;
-  bool pivots_are_finite_ = true;
-};
-
-// Clears the elements above the pivots on the main diagonal. The row additions that this takes are
-// only performed on the inverse, since in the matrix they would add zeros.
-template <FloatElement T, class Rows>
-void SubstituteBack(TQorMatrix<T>& matrix, Rows& inverse_rows) {
-  for (std::size_t col = matrix.size() - 1; col > 0; --col) {
-    for (std::size_t row = col; row-- > 0;) {
-      const auto element = static_cast<Extended>(std::exchange(matrix[row][col], T(0)));
-      if (FloatIsNotZero(element)) inverse_rows.Add(row, col, -element);
-    }
-  }
-  inverse_rows.Flush();
-}
-
 template <FloatElement T>
 bool IsFinite(const TQorMatrix<T>& matrix) {
   return std::ranges::all_of(matrix, [](const TQorVector<T>& row) {
     return std::ranges::all_of(row, [](T x) { return std::isfinite(x); });
   });
+}
+
+// The result is at first the identity.
+template <FloatElement T>
+bool Invert(TQorMatrix<T>& matrix, TQorMatrix<T>& result) {
+  if constexpr (std::same_as<T, Extended>) {
+    if (matrix.size() >= detail::kLeastPanelRows) return detail::InvertFloats(matrix, result);
+  }
+  const std::size_t order = matrix.size();
+  detail::DirectRows<T> rows(matrix, order);
+  detail::InverseSteps<T> steps(result);
+  const std::size_t rank = detail::Eliminate(rows, order, order, steps);
+  steps.PutInOrder();
+  if (rank < order || !steps.PivotsAreFinite()) return false;
+  steps.SubstituteBack(matrix);
+  return IsFinite(result);
 }
 
 class DeterminantObserver : public detail::Observer {
@@ -95,15 +80,8 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
-  const bool regular = detail::WithRows(matrix, order, [&]<class Rows>(Rows rows) {
-    Rows result_rows(result, order);
-    InverseObserver observer(result_rows);
-    const std::size_t rank = detail::Eliminate(rows, order, order, observer);
-    result_rows.Flush();
-    if (rank < order || !observer.PivotsAreFinite()) return false;
-    SubstituteBack(matrix, result_rows);
-    return IsFinite(result);
-  });
+  detail::SeparateRows(matrix);
+  const bool regular = Invert(matrix, result);
   inverse = std::move(result);
   return regular;
 }

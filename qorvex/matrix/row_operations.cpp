@@ -1,7 +1,7 @@
 #include "qorvex/matrix/row_operations.h"
 
 #include "qorvex/matrix/detail/checks.h"
-#include "qorvex/matrix/detail/row_kernels.h"
+#include "qorvex/matrix/detail/rounded_products.h"
 
 namespace qorvex::inline QorvexMatrix {
 
@@ -55,7 +55,7 @@ template <SignedArithmeticElement T>
 void AddMatrixRows(TQorMatrix<T>& matrix, std::uint32_t target, std::uint32_t source,
                    ScalarOf<FactorOf<T>> factor) {
   const std::size_t width = RequireRowIndices(matrix, target, source);
-  detail::AddElements(matrix[target].data(), matrix[source].data(), width, factor);
+  detail::AddMultiple(matrix[target].data(), matrix[source].data(), width, factor);
 }
 
 template <SignedArithmeticElement T>

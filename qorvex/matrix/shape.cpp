@@ -1,6 +1,5 @@
 #include "qorvex/matrix/shape.h"
 
-#include <algorithm>
 #include <mutex>
 
 #include "qorvex/matrix/currency_shape.h"
@@ -54,9 +53,7 @@ void MatrixDimensions(const TQorMatrix<T>& matrix, std::uint32_t& rows, std::uin
 
 template <AnyElement T>
 bool MatrixIsRectangular(const TQorMatrix<T>& matrix) noexcept {
-  return !matrix.empty() && std::ranges::all_of(matrix, [&](const TQorVector<T>& row) {
-    return row.size() == matrix[0].size();
-  });
+  return !matrix.empty() && detail::HasRowsOfLength(matrix, matrix[0].size());
 }
 
 template <AnyElement T>

@@ -1,10 +1,10 @@
 #include "qorvex/matrix/solve.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <numeric>
-#include <span>
 #include <utility>
 #include <vector>
 
@@ -14,6 +14,7 @@
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/new_matrix.h"
+#include "qorvex/matrix/detail/right_sides.h"
 #include "qorvex/matrix/detail/with_rows.h"
 
 namespace qorvex::inline QorvexMatrix {
@@ -53,15 +54,18 @@ class StepRecorder : public detail::Observer {
   // True if an element that is not zero was treated as zero, or a pivot as one.
   [[nodiscard]] bool HasNeglected() const { return has_neglected_; }
 
-  [[nodiscard]] Floats Repeat(const Floats& b) const {
-    Floats result(b.size());
-    for (std::size_t i = 0; i < b.size(); ++i) {
-      const Extended* const factors = &factors_[i * b.size()];
-      Extended sum = b[origins_[i]];
-      for (std::size_t k = 0; k < i; ++k) sum += factors[k] * result[k];
-      result[i] = sum * scales_[i];
+  // Repeats the steps on right-hand sides. Returns false if an element of x cannot be stored.
+  template <class Sides>
+  [[nodiscard]] bool Repeat(const Floats& b, Floats& x, std::vector<Sides>& stored) const {
+    constexpr std::size_t sides = Sides::kCount;
+    for (std::size_t i = 0; i < scales_.size(); ++i) {
+      Extended* const sums = &x[i * sides];
+      std::copy_n(&b[origins_[i] * sides], sides, sums);
+      detail::AddProducts(sums, &factors_[i * scales_.size()], stored.data(), i);
+      for (std::size_t side = 0; side < sides; ++side) sums[side] *= scales_[i];
+      if (!stored[i].Store(sums)) return false;
     }
-    return result;
+    return true;
   }
 
  private:
@@ -79,12 +83,49 @@ class StepRecorder : public detail::Observer {
 
 // A power of two that makes room for the splitting of factors in ExactProduct, which would overflow
 // near the end of the range.
-template <FloatElement T>
-Extended SplittingScale(std::span<const T> values) {
+template <class Values>
+Extended SplittingScale(const Values& values) {
   const bool large = std::ranges::any_of(
-      values, [](T x) { return std::fabs(static_cast<Extended>(x)) > 0x1p16300L; });
+      values, [](auto x) { return std::fabs(static_cast<Extended>(x)) > 0x1p16300L; });
   return large ? 0x1p-100L : 1;
 }
+
+// A factor of every product of a row or of a right-hand side.
+class ExactFactors {
+ public:
+  explicit ExactFactors(std::size_t count) : values_(count), halves_(count) {}
+
+  template <class ValueOf>
+  void Assign(ValueOf value_of) {
+    are_split_ = true;
+    for (std::size_t j = 0; j < values_.size(); ++j) {
+      values_[j] = value_of(j);
+      are_split_ &= halves_[j].Store(values_[j]);
+    }
+  }
+
+  // sum plus the products with x. Every product and every rounding error of the sums is taken into
+  // account.
+  [[nodiscard]] Extended SumOfProducts(Extended sum, const ExactFactors& x) const {
+    Extended errors = 0;
+    if (are_split_ && x.are_split_) {
+      detail::AddExactProducts(sum, errors, halves_.data(), x.halves_.data(), values_.size());
+      return sum + errors;
+    }
+    for (std::size_t j = 0; j < values_.size(); ++j) {
+      const auto product = special::ExactProduct(values_[j], x.values_[j]);
+      const auto partial = special::ExactSum(sum, product.hi);
+      sum = partial.hi;
+      errors += partial.lo + product.lo;
+    }
+    return sum + errors;
+  }
+
+ private:
+  Floats values_;
+  std::vector<detail::Halves> halves_;
+  bool are_split_ = false;
+};
 
 template <FloatElement T>
 class Solver {
@@ -105,22 +146,27 @@ class Solver {
       steps_ = StepRecorder(order_, Neglect::kNothing);
       regular_ = Eliminate();
     }
-    for (const TQorVector<T>& row : matrix) scale_ = std::min(scale_, SplittingScale<T>(row));
+    for (const TQorVector<T>& row : matrix) scale_ = std::min(scale_, SplittingScale(row));
     if (scale_ != 1) matrix_ = MultiplyMatrixByConst(matrix, scale_);
   }
 
-  // Calls store(i, x[i]) for each element of the solution. Returns false without a finite solution.
-  template <class Store>
-  bool Solve(const Floats& b, Store store) const {
+  // Solves for kSides right-hand sides, which are stored side by side: element i of a side is
+  // b[i * kSides + side]. Calls store(i, side, x[i]) for each element of the first `count`
+  // solutions. Returns false if one of them is not finite, or without solutions.
+  template <std::size_t kSides, class Store>
+  bool Solve(const Floats& b, std::size_t count, Store store) const {
     if (!regular_) return false;
-    const Floats x = Solved(b);
-    const Floats correction = Solved(Residual(b, x));
+    const Floats x = Solved<kSides>(b);
+    const Floats correction = Solved<kSides>(Residual<kSides>(b, x));
     bool finite = true;
     for (std::size_t i = 0; i < order_; ++i) {
-      const Extended refined = x[i] + correction[i];
-      const auto rounded = static_cast<T>(std::isfinite(refined) ? refined : x[i]);
-      finite &= std::isfinite(rounded);
-      store(i, rounded);
+      for (std::size_t side = 0; side < count; ++side) {
+        const std::size_t k = i * kSides + side;
+        const Extended refined = x[k] + correction[k];
+        const auto rounded = static_cast<T>(std::isfinite(refined) ? refined : x[k]);
+        finite &= std::isfinite(rounded);
+        store(i, side, rounded);
+      }
     }
     return finite;
   }
@@ -134,36 +180,61 @@ class Solver {
     return rank == order_ && steps_.PivotsAreFinite();
   }
 
+  template <std::size_t kSides>
   Floats Solved(const Floats& b) const {
-    Floats x = steps_.Repeat(b);
-    for (std::size_t i = order_; i-- > 0;) {
-      const Extended* const row = echelon_[i].data();
-      Extended sum = x[i];
-      for (std::size_t j = i + 1; j < order_; ++j) sum -= row[j] * x[j];
-      x[i] = sum / row[i];
+    Floats x(b.size());
+    if constexpr (kSides == 1) {
+      SolveInto<detail::OneSide>(b, x);
+    } else {
+      static_assert(kSides == 4);
+      if (!SolveInto<detail::FourSides<detail::SplitPair>>(b, x)) {
+        SolveInto<detail::FourSides<detail::PlainPair>>(b, x);
+      }
     }
     return x;
   }
 
-  // b less the given matrix times x. Every product and every rounding error of the sums is taken
-  // into account.
-  Floats Residual(const Floats& b, Floats x) const {
-    const Extended x_scale = SplittingScale<Extended>(x);
-    for (Extended& element : x) element *= -x_scale;
-    const Extended scale = scale_ * x_scale;
-    const Extended inverse_scale = 1 / scale;
-    Floats residual(order_);
-    for (std::size_t i = 0; i < order_; ++i) {
-      const T* const row = matrix_[i].data();
-      Extended sum = b[i] * scale;
-      Extended errors = 0;
-      for (std::size_t j = 0; j < order_; ++j) {
-        const auto product = special::ExactProduct(static_cast<Extended>(row[j]), x[j]);
-        const auto partial = special::ExactSum(sum, product.hi);
-        sum = partial.hi;
-        errors += partial.lo + product.lo;
+  // Returns false if an element cannot be stored.
+  template <class Sides>
+  bool SolveInto(const Floats& b, Floats& x) const {
+    constexpr std::size_t sides = Sides::kCount;
+    std::vector<Sides> stored(order_);
+    if (!steps_.Repeat(b, x, stored)) return false;
+    for (std::size_t i = order_; i-- > 0;) {
+      const Extended* const row = echelon_[i].data();
+      Extended* const sums = &x[i * sides];
+      // The elements after this one are stored with the opposite sign.
+      detail::AddProducts(sums, row + i + 1, stored.data() + i + 1, order_ - i - 1);
+      Extended opposite[sides];
+      for (std::size_t side = 0; side < sides; ++side) {
+        sums[side] /= row[i];
+        opposite[side] = -sums[side];
       }
-      residual[i] = (sum + errors) * inverse_scale;
+      if (!stored[i].Store(opposite)) return false;
+    }
+    return true;
+  }
+
+  // b less the given matrix times x.
+  template <std::size_t kSides>
+  Floats Residual(const Floats& b, const Floats& x) const {
+    std::array<Extended, kSides> scales;
+    std::vector<ExactFactors> columns(kSides, ExactFactors(order_));
+    for (std::size_t side = 0; side < kSides; ++side) {
+      Floats column(order_);
+      for (std::size_t i = 0; i < order_; ++i) column[i] = x[i * kSides + side];
+      const Extended x_scale = SplittingScale(column);
+      scales[side] = scale_ * x_scale;
+      columns[side].Assign([&](std::size_t i) { return column[i] * -x_scale; });
+    }
+    Floats residual(b.size());
+    ExactFactors row(order_);
+    for (std::size_t i = 0; i < order_; ++i) {
+      row.Assign([&](std::size_t j) { return static_cast<Extended>(matrix_[i][j]); });
+      for (std::size_t side = 0; side < kSides; ++side) {
+        const std::size_t k = i * kSides + side;
+        residual[k] = row.SumOfProducts(b[k] * scales[side], columns[side]) * (1 / scales[side]);
+      }
     }
     return residual;
   }
@@ -185,9 +256,8 @@ std::optional<TQorVector<T>> Solve(const TQorMatrix<T>& a, VectorView<std::type_
   if (b.size() != order) RaiseMathError(rsSameDimensions);
   auto x = TQorVector<T>::ForOverwrite(order);
   const Floats right_side(b.begin(), b.end());
-  if (!Solver(a).Solve(right_side, [&](std::size_t i, T value) { x[i] = value; })) {
-    return std::nullopt;
-  }
+  const auto store = [&](std::size_t i, std::size_t, T value) { x[i] = value; };
+  if (!Solver(a).template Solve<1>(right_side, 1, store)) return std::nullopt;
   return x;
 }
 
@@ -198,10 +268,22 @@ std::optional<TQorMatrix<T>> Solve(const TQorMatrix<T>& a, const TQorMatrix<T>& 
   if (shape.rows != order) RaiseMathError(rsSameDimensions);
   auto x = detail::NewMatrixForOverwrite<T>(order, shape.cols);
   const Solver solver(a);
-  Floats right_side(order);
-  for (std::size_t col = 0; col < shape.cols; ++col) {
-    for (std::size_t i = 0; i < order; ++i) right_side[i] = static_cast<Extended>(b[i][col]);
-    if (!solver.Solve(right_side, [&](std::size_t i, T value) { x[i][col] = value; })) {
+  // The columns from col on. Those beyond the last column are zero.
+  const auto solve = [&]<std::size_t kSides>(std::size_t col) {
+    const std::size_t width = std::min<std::size_t>(kSides, shape.cols - col);
+    Floats right_sides(order * kSides);
+    for (std::size_t i = 0; i < order; ++i) {
+      for (std::size_t side = 0; side < width; ++side) {
+        right_sides[i * kSides + side] = static_cast<Extended>(b[i][col + side]);
+      }
+    }
+    return solver.template Solve<kSides>(
+        right_sides, width,
+        [&](std::size_t i, std::size_t side, T value) { x[i][col + side] = value; });
+  };
+  for (std::size_t col = 0; col < shape.cols; col += 4) {
+    const bool single = shape.cols - col == 1;
+    if (!(single ? solve.template operator()<1>(col) : solve.template operator()<4>(col))) {
       return std::nullopt;
     }
   }

@@ -2,7 +2,9 @@
 
 #include "qorvex/base/rounding.h"
 #include "qorvex/matrix/detail/checks.h"
+#include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/ordered_sum.h"
 
 namespace qorvex::inline QorvexMatrix {
 
@@ -10,24 +12,13 @@ namespace {
 
 using QorvexVector::detail::Int64Sum;
 
-// The sum of element(0) to element(count - 1). As in SumVector, the sum of a single negative zero
-// is negative zero.
-template <NumericElement T, class Element>
-SumOf<T> SumInOrder(std::size_t count, Element element) {
-  if constexpr (FloatElement<T>) {
-    Extended sum = element(0);
-    for (std::size_t i = 1; i < count; ++i) sum += static_cast<Extended>(element(i));
-    return sum;
-  } else {
-    Int64Sum sum;
-    for (std::size_t i = 0; i < count; ++i) sum.Add(element(i));
-    return sum.Value();
-  }
-}
-
 template <SignedArithmeticElement T>
 void AddRow(const TQorVector<T>& row, Extended& sum) {
-  for (const T x : row) sum += static_cast<Extended>(x);
+  if constexpr (FloatElement<T>) {
+    sum = QorvexVector::detail::AddValues<T>(sum, row);
+  } else {
+    for (const T x : row) sum += static_cast<Extended>(x);
+  }
 }
 
 // The sum of fewer than 2^32 such elements is exact both in int64 and in extended precision.
@@ -77,8 +68,7 @@ requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixRow(const TQorMatrix<
   const detail::Shape shape = detail::RequireRectangularShape(matrix);
   detail::RequireRow(shape, row);
   detail::RequireLength(matrix[row], shape.cols);
-  const T* const elements = matrix[row].data();
-  return SumInOrder<T>(shape.cols, [=](std::size_t j) { return elements[j]; });
+  return SumVector(VectorView<T>(matrix[row]).first(shape.cols));
 }
 
 template <NumericElement T>
@@ -87,7 +77,16 @@ requires(!std::same_as<T, std::int32_t>) SumOf<T> SumMatrixCol(const TQorMatrix<
   const detail::Shape shape = detail::RequireRectangularShape(matrix);
   detail::RequireCol(shape, col);
   detail::RequireLengths(matrix, shape.cols);
-  return SumInOrder<T>(shape.rows, [&](std::size_t i) { return matrix[i][col]; });
+  if constexpr (FloatElement<T>) {
+    // As in SumVector, the sum of a single negative zero is negative zero.
+    Extended sum = matrix[0][col];
+    for (std::size_t i = 1; i < shape.rows; ++i) sum += static_cast<Extended>(matrix[i][col]);
+    return sum;
+  } else {
+    Int64Sum sum;
+    for (const TQorVector<T>& row : matrix) sum.Add(row[col]);
+    return sum.Value();
+  }
 }
 
 #define QORVEX_INSTANTIATE(T) template Extended GrandMean(const TQorMatrix<T>&, std::uint32_t&);

@@ -8,9 +8,8 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/detail/moments.h"
+#include "qorvex/stats/detail/sample_sums.h"
 #include "qorvex/stats/order_statistics.h"
-#include "qorvex/stats/shape.h"
-#include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/sort_keys.h"
 #include "qorvex/vector/sorting.h"
 
@@ -189,20 +188,22 @@ void DescriptiveStats::UpdateStats() {
 }
 
 void DescriptiveStats::SumUp() {
-  results_.sum = SumVector(values_);
-  results_.sum_sq = SumSqVector(values_);
+  const auto sums = QorvexStatistics::detail::AddUp(values_);
+  results_.sum = sums.sum;
+  results_.sum_sq = sums.squares;
 }
 
 void DescriptiveStats::UpdateFromSums() {
+  namespace detail = QorvexStatistics::detail;
   DescriptiveResults& r = results_;
   const std::size_t count = values_.size();
   const auto n = static_cast<Extended>(count);
   r.mean = r.sum / n;
-  const Extended squared_differences = SumSqDiffVector(values_, r.mean);
+  const detail::DeviationSums deviations = detail::AddUpDeviations(values_, r.mean);
   if (population_) {
-    r.variance = squared_differences / n;
+    r.variance = deviations.squares / n;
   } else {
-    r.variance = count >= 2 ? squared_differences / (n - 1) : 0;
+    r.variance = count >= 2 ? deviations.squares / (n - 1) : 0;
   }
   r.std_dev = std::sqrt(r.variance);
 
@@ -214,13 +215,13 @@ void DescriptiveStats::UpdateFromSums() {
   const bool spread = FloatIsNotZero(r.std_dev);
   r.kurtosis = 0;
   if (count >= kMinCountForKurtosis && spread) {
-    r.kurtosis = population_ ? GetPopulationKurtosis(values_, r.mean, r.std_dev)
-                             : GetSampleKurtosis(values_, r.mean, r.std_dev);
+    const auto kurtosis = population_ ? detail::PopulationKurtosis : detail::SampleKurtosis;
+    r.kurtosis = kurtosis(n, deviations.fourth_powers, r.std_dev);
   }
   r.skew = 0;
   if (count >= kMinCountForSkew && spread) {
-    r.skew = population_ ? GetPopulationSkew(values_, r.mean, r.std_dev)
-                         : GetSampleSkew(values_, r.mean, r.std_dev);
+    const auto skew = population_ ? detail::PopulationSkew : detail::SampleSkew;
+    r.skew = skew(n, deviations.cubes, r.std_dev);
   }
 
   GetQuartiles(sorted_, r.quartile_1st, r.quartile_3rd);

@@ -1,6 +1,7 @@
 #include "qorvex/stats/dispersion.h"
 
 #include <cmath>
+#include <concepts>
 #include <cstddef>
 
 #include "qorvex/base/checked_math.h"
@@ -9,6 +10,7 @@
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/ordered_sum.h"
 #include "qorvex/vector/sign_tests.h"
 
 namespace qorvex::inline QorvexStatistics {
@@ -44,11 +46,14 @@ VarianceAndMean SinglePassVariance(VectorView<T> vector, Divisor kind) {
   const Extended divisor = CheckedDivisor(vector, kind);
   Extended sum = 0;
   Extended sum_sq = 0;
-  if constexpr (FloatElement<T>) {
+  if constexpr (std::same_as<T, Extended>) {
     for (const Extended x : vector) {
       sum += x;
       sum_sq += x * x;
     }
+  } else if constexpr (FloatElement<T>) {
+    sum = QorvexVector::detail::AddValues(sum, vector);
+    sum_sq = QorvexVector::detail::AddSquares(sum_sq, vector);
   } else {
     QorvexVector::detail::Int64Sum exact_sum;
     QorvexVector::detail::Int64Sum exact_sum_sq;

@@ -1,36 +1,70 @@
 #include "qorvex/stats/order_statistics.h"
 
+#include <algorithm>
+#include <bit>
 #include <cmath>
 #include <concepts>
 #include <cstddef>
+#include <cstdint>
 
-#include "qorvex/base/comparisons.h"
+#include "qorvex/stats/detail/same_neighbours.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
 
 namespace qorvex::inline QorvexStatistics {
 
+using detail::SameNeighbours;
 using QorvexVector::detail::RequireElements;
 
 namespace {
 
 constexpr Extended kNoMode = -1.1E4932L;
 
-// Calls visit(last element, length) for each run of neighbours that SameFloat finds the same.
-template <class Visit>
-void ForEachRun(VectorView<Extended> sorted, Visit visit) {
-  std::size_t length = 1;
-  Extended previous = sorted[0];
-  for (const Extended x : sorted.subspan(1)) {
-    if (SameFloat(x, previous)) {
-      ++length;
-    } else {
-      visit(previous, length);
-      length = 1;
-    }
-    previous = x;
+// Whether a word holds this many ones in a row.
+bool HoldsOnes(std::uint64_t word, std::size_t wanted) {
+  if (wanted > SameNeighbours::kMostElements) return false;
+  // Bit i stays if bits i to i + found - 1 of the original word are set.
+  for (std::size_t found = 1; found < wanted && word != 0;) {
+    const std::size_t shift = std::min(found, wanted - found);
+    word &= word >> shift;
+    found += shift;
   }
-  visit(previous, length);
+  return word != 0;
+}
+
+// Neighbours that SameFloat finds the same form a run. Calls visit(index of the last element,
+// length) for each run of at least two elements that is not shorter than all runs before it. Most
+// runs are shorter, so that most words of 64 comparisons are skipped.
+template <class Visit>
+void ForEachLongestRun(VectorView<Extended> sorted, Visit visit) {
+  const SameNeighbours same;
+  std::size_t longest = 2;
+  std::size_t run = 1;
+  const auto close = [&](std::size_t last) {
+    // A NaN is not the same as an equal NaN.
+    if (run >= longest && !std::isnan(sorted[last])) {
+      longest = run;
+      visit(last, run);
+    }
+    run = 1;
+  };
+  for (std::size_t i = 1; i < sorted.size(); i += SameNeighbours::kMostElements) {
+    const std::size_t count = std::min(SameNeighbours::kMostElements, sorted.size() - i);
+    const std::uint64_t word = same(&sorted[i], count);
+    const auto first_ones = static_cast<std::size_t>(std::countr_one(word));
+    if (first_ones < count && run + first_ones < longest && !HoldsOnes(word, longest - 1)) {
+      run = 1 + static_cast<std::size_t>(
+                    std::countl_one(word << (SameNeighbours::kMostElements - count)));
+      continue;
+    }
+    for (std::size_t at = 0; at < count; ++at) {
+      const auto ones = static_cast<std::size_t>(std::countr_one(word >> at));
+      run += ones;
+      at += ones;
+      if (at < count) close(i + at - 1);
+    }
+  }
+  close(sorted.size() - 1);
 }
 
 // Interpolates between elements at a one-based position.
@@ -69,14 +103,10 @@ bool GetMode(VectorView<Extended> sorted, Extended& mode) {
   mode = kNoMode;
   std::size_t longest = 1;
   bool tie = true;
-  ForEachRun(sorted, [&](Extended value, std::size_t length) {
-    if (length > longest) {
-      mode = value;
-      longest = length;
-      tie = false;
-    } else if (length == longest) {
-      tie = true;
-    }
+  ForEachLongestRun(sorted, [&](std::size_t last, std::size_t length) {
+    tie = length == longest;
+    if (!tie) mode = sorted[last];
+    longest = length;
   });
   return !tie;
 }
@@ -89,11 +119,10 @@ TQorFloatVector GetMostFrequent(VectorView<Extended> sorted) {
     return result;
   }
   std::size_t longest = 1;
-  ForEachRun(sorted, [&](Extended value, std::size_t length) {
-    if (length < longest || length == 1) return;
+  ForEachLongestRun(sorted, [&](std::size_t last, std::size_t length) {
     if (length > longest) result.SetLength(0);
     longest = length;
-    result.Append(length == sorted.size() ? sorted[0] : value);
+    result.Append(length == sorted.size() ? sorted[0] : sorted[last]);
   });
   return result;
 }

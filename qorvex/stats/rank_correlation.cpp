@@ -87,9 +87,9 @@ TQorInt64Vector DoubledMidranks(VectorView<T> values) {
   const SortedIndices<T> sorted(n, true, [&](std::size_t i) -> const T& { return values[i]; });
   auto ranks = TQorInt64Vector::ForOverwrite(n);
   for (std::size_t first = 0; first < n;) {
-    const T value = sorted.Value(first);
+    const T value = values[sorted.Index(first)];
     std::size_t end = first + 1;
-    while (end < n && sorted.Value(end) == value) ++end;
+    while (end < n && values[sorted.Index(end)] == value) ++end;
     const auto doubled = static_cast<std::int64_t>(first + 1 + end);
     for (; first < end; ++first) ranks[sorted.Index(first)] = doubled;
   }

@@ -25,6 +25,10 @@ void RequireForKurtosis(VectorView<Extended> vector) {
   if (vector.size() < detail::kMinCountForKurtosis) RaiseMathError(rsVectorG3);
 }
 
+Extended Count(VectorView<Extended> vector) {
+  return static_cast<Extended>(vector.size());
+}
+
 Extended SumOfCubes(VectorView<Extended> vector, Extended mean) {
   Extended sum = 0;
   for (const Extended x : vector) sum += Cube(x - mean);
@@ -52,8 +56,7 @@ Extended WithOwnMoments(VectorView<Extended> vector, MomentsRoutine moments, Sha
 Extended GetSampleSkew(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForSkew(vector);
   RequireSpread(std_dev);
-  const auto n = static_cast<Extended>(vector.size());
-  return n * SumOfCubes(vector, mean) / ((n - 1) * (n - 2) * Cube(std_dev));
+  return detail::SampleSkew(Count(vector), SumOfCubes(vector, mean), std_dev);
 }
 
 Extended GetSampleSkew(VectorView<Extended> vector) {
@@ -64,8 +67,7 @@ Extended GetSampleSkew(VectorView<Extended> vector) {
 Extended GetPopulationSkew(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForSkew(vector);
   RequireSpread(std_dev);
-  const auto n = static_cast<Extended>(vector.size());
-  return SumOfCubes(vector, mean) / (n * Cube(std_dev));
+  return detail::PopulationSkew(Count(vector), SumOfCubes(vector, mean), std_dev);
 }
 
 Extended GetPopulationSkew(VectorView<Extended> vector) {
@@ -76,10 +78,7 @@ Extended GetPopulationSkew(VectorView<Extended> vector) {
 Extended GetSampleKurtosis(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForKurtosis(vector);
   RequireSpread(std_dev);
-  const auto n = static_cast<Extended>(vector.size());
-  return n * (n + 1) * SumOfFourthPowers(vector, mean) /
-             (FourthPower(std_dev) * (n - 1) * (n - 2) * (n - 3)) -
-         3 * (n - 1) * (n - 1) / ((n - 2) * (n - 3));
+  return detail::SampleKurtosis(Count(vector), SumOfFourthPowers(vector, mean), std_dev);
 }
 
 Extended GetSampleKurtosis(VectorView<Extended> vector) {
@@ -90,8 +89,7 @@ Extended GetSampleKurtosis(VectorView<Extended> vector) {
 Extended GetPopulationKurtosis(VectorView<Extended> vector, Extended mean, Extended std_dev) {
   RequireForKurtosis(vector);
   RequireSpread(std_dev);
-  const auto n = static_cast<Extended>(vector.size());
-  return SumOfFourthPowers(vector, mean) / (FourthPower(std_dev) * n) - 3;
+  return detail::PopulationKurtosis(Count(vector), SumOfFourthPowers(vector, mean), std_dev);
 }
 
 Extended GetPopulationKurtosis(VectorView<Extended> vector) {

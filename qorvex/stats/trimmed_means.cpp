@@ -8,6 +8,7 @@
 #include "qorvex/stats/location.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/ordered_sum.h"
 
 namespace qorvex::inline QorvexStatistics {
 
@@ -28,9 +29,14 @@ Extended Trimmed(VectorView<T> sorted, Extended fraction, Extended largest_fract
   const std::size_t cut =
       per_tail(static_cast<std::size_t>(static_cast<Extended>(count) * fraction));
   if (count <= 2 * cut) return 0;
+  const VectorView<T> middle = sorted.subspan(cut, count - 2 * cut);
   Extended sum = 0;
-  for (std::size_t i = cut; i < count - cut; ++i) sum += static_cast<Extended>(sorted[i]);
-  return sum / static_cast<Extended>(count - 2 * cut);
+  if constexpr (FloatElement<T>) {
+    sum = QorvexVector::detail::AddValues(sum, middle);
+  } else {
+    for (const T x : middle) sum += static_cast<Extended>(x);
+  }
+  return sum / static_cast<Extended>(middle.size());
 }
 
 }  // namespace

@@ -1,25 +1,18 @@
 #include "qorvex/vector/aggregates.h"
 
 #include <cmath>
+#include <span>
+#include <type_traits>
 
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/integer_sum.h"
+#include "qorvex/vector/detail/ordered_sum.h"
+#include "qorvex/vector/detail/registers.h"
 
 namespace qorvex::inline QorvexVector {
 
 namespace {
-
-constexpr auto kItself = [](auto x) { return x; };
-constexpr auto kSquare = [](Extended x) { return x * x; };
-
-// Adds term(element) in ascending order. The sum starts with the first term instead of zero, so
-// that the sum of a single negative zero is negative zero.
-template <FloatElement T, class Term>
-Extended SumOfTerms(VectorView<T> vector, Term term) {
-  Extended sum = term(static_cast<Extended>(vector[0]));
-  for (const T x : vector.subspan(1)) sum += term(static_cast<Extended>(x));
-  return sum;
-}
 
 template <IntegerElement T, class Term>
 std::int64_t SumOfTerms(VectorView<T> vector, Term term) {
@@ -28,26 +21,29 @@ std::int64_t SumOfTerms(VectorView<T> vector, Term term) {
   return sum.Value();
 }
 
-template <CurrencyElement T>
-T SumOfTerms(VectorView<T> vector, decltype(kItself)) {
-  T sum;
-  for (const T x : vector) sum += x;
-  return sum;
-}
-
 }  // namespace
 
 template <AnyElement T>
 SumOf<T> SumVector(VectorView<T> vector) {
   detail::RequireElements(vector);
-  return SumOfTerms(vector, kItself);
+  if constexpr (FloatElement<T>) {
+    // Starts with the first element instead of zero, so that the sum of a single negative zero is
+    // negative zero.
+    return detail::AddValues<T>(vector[0], vector.subspan(1));
+  } else if constexpr (IntegerElement<T>) {
+    return detail::IntegerSum(detail::Numbers(vector));
+  } else {
+    return T(static_cast<typename T::StoredType>(detail::IntegerSum(detail::Numbers(vector))));
+  }
 }
 
 template <NumericElement T>
 SumOf<T> SumSqVector(VectorView<T> vector) {
   detail::RequireElements(vector);
   if constexpr (FloatElement<T>) {
-    return SumOfTerms(vector, kSquare);
+    return detail::AddSquares(0, vector);
+  } else if constexpr (std::is_same_v<T, typename detail::SquareWidth<T>::Type>) {
+    return detail::IntegerProductSum<T>(vector, vector);
   } else {
     return SumOfTerms(vector, detail::NarrowSquare<T>);
   }
@@ -69,12 +65,16 @@ std::int64_t SumSqDiffFromInteger(VectorView<T> vector, T mean) {
 template <WideNumericElement T>
 Extended SumSqDiffFromExtended(VectorView<T> vector, Extended mean) {
   RequireElements(vector);
-  Extended sum = 0;
-  for (const T x : vector) {
-    const Extended difference = static_cast<Extended>(x) - mean;
-    sum += difference * difference;
+  if constexpr (FloatElement<T>) {
+    return AddSquaredDifferences(0, vector, mean);
+  } else {
+    Extended sum = 0;
+    for (const T x : vector) {
+      const Extended difference = static_cast<Extended>(x) - mean;
+      sum += difference * difference;
+    }
+    return sum;
   }
-  return sum;
 }
 
 }  // namespace detail
@@ -84,12 +84,12 @@ SumOf<T> SumSqDiffVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   detail::RequireElements(a);
   if constexpr (FloatElement<T>) {
-    Extended sum = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-      const Extended difference = static_cast<Extended>(a[i]) - static_cast<Extended>(b[i]);
-      sum += difference * difference;
-    }
-    return sum;
+    return detail::AddSquaredDifferences(0, a, b);
+  } else if constexpr (sizeof(T) == sizeof(std::int32_t)) {
+    const auto low_bits = [](VectorView<T> v) {
+      return std::span(reinterpret_cast<const std::int32_t*>(v.data()), v.size());
+    };
+    return detail::IntegerSquaredDifferenceSum(low_bits(a), low_bits(b));
   } else {
     detail::Int64Sum sum;
     for (std::size_t i = 0; i < a.size(); ++i) {
@@ -101,9 +101,13 @@ SumOf<T> SumSqDiffVectors(VectorView<T> a, VectorView<T> b) {
 
 template <NumericElement T>
 Extended VectorMagnitude(VectorView<T> vector) {
-  Extended sum = 0;
-  for (const T x : vector) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
-  return std::sqrt(sum);
+  if constexpr (FloatElement<T>) {
+    return std::sqrt(detail::AddSquares(0, vector));
+  } else {
+    Extended sum = 0;
+    for (const T x : vector) sum += static_cast<Extended>(x) * static_cast<Extended>(x);
+    return std::sqrt(sum);
+  }
 }
 
 #define QORVEX_INSTANTIATE(T) template SumOf<T> SumVector(VectorView<T>);

@@ -6,7 +6,8 @@
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
-#include "qorvex/vector/detail/integer_arithmetic.h"
+#include "qorvex/vector/detail/integer_sum.h"
+#include "qorvex/vector/detail/ordered_sum.h"
 
 namespace qorvex::inline QorvexVector {
 
@@ -53,15 +54,9 @@ SumOf<T> DotProdVectors(VectorView<T> a, VectorView<T> b) {
   detail::RequireSameLength(a, b);
   detail::RequireElements(a);
   if constexpr (FloatElement<T>) {
-    Extended sum = 0;
-    for (std::size_t i = 0; i < a.size(); ++i) {
-      sum += static_cast<Extended>(a[i]) * static_cast<Extended>(b[i]);
-    }
-    return sum;
+    return detail::AddProducts(0, a, b);
   } else {
-    detail::Int64Sum sum;
-    for (std::size_t i = 0; i < a.size(); ++i) sum.Add(detail::WrappingMultiply(a[i], b[i]));
-    return sum.Value();
+    return detail::IntegerProductSum<T>(a, b);
   }
 }
 

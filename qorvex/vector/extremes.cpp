@@ -1,59 +1,50 @@
 #include "qorvex/vector/extremes.h"
 
+#include <functional>
+
 #include "qorvex/vector/detail/checks.h"
+#include "qorvex/vector/detail/extreme_values.h"
+#include "qorvex/vector/detail/registers.h"
 
 namespace qorvex::inline QorvexVector {
+
+namespace {
+
+// The extreme that `better` prefers, in a short vector.
+template <AnyElement T, class Better>
+T BestOf(VectorView<T> vector, Better better) {
+  T result = vector[0];
+  for (const T& x : vector) result = better(x, result) ? x : result;
+  return result;
+}
+
+}  // namespace
 
 template <AnyElement T>
 T MinVector(VectorView<T> vector) {
   detail::RequireElements(vector);
-  T result = vector[0];
-  for (const T& x : vector) result = x < result ? x : result;
-  return result;
+  if (vector.size() < detail::kLeastForExtremes) return BestOf(vector, std::less());
+  return T(detail::ExtremesOf(detail::Numbers(vector)).smallest.value);
 }
 
 template <AnyElement T>
 T MaxVector(VectorView<T> vector) {
   detail::RequireElements(vector);
-  T result = vector[0];
-  for (const T& x : vector) result = x > result ? x : result;
-  return result;
+  if (vector.size() < detail::kLeastForExtremes) return BestOf(vector, std::greater());
+  return T(detail::ExtremesOf(detail::Numbers(vector)).largest.value);
 }
 
 template <AnyElement T>
 void MinMaxVector(VectorView<T> vector, T& min_value, T& max_value, std::uint32_t& min_index,
                   std::uint32_t& max_index, bool& min_unique, bool& max_unique) {
   detail::RequireElements(vector);
-  T smallest = vector[0];
-  T largest = vector[0];
-  std::size_t smallest_at = 0;
-  std::size_t largest_at = 0;
-  bool smallest_once = true;
-  bool largest_once = true;
-  for (std::size_t i = 1; i < vector.size(); ++i) {
-    const T x = vector[i];
-    if (smallest < x && x < largest) continue;
-    if (smallest > x) {
-      smallest = x;
-      smallest_at = i;
-      smallest_once = true;
-    } else if (x == smallest) {
-      smallest_once = false;
-    }
-    if (x > largest) {
-      largest = x;
-      largest_at = i;
-      largest_once = true;
-    } else if (x == largest) {
-      largest_once = false;
-    }
-  }
-  min_value = smallest;
-  max_value = largest;
-  min_index = static_cast<std::uint32_t>(smallest_at);
-  max_index = static_cast<std::uint32_t>(largest_at);
-  min_unique = smallest_once;
-  max_unique = largest_once;
+  const auto [smallest, largest] = detail::ExtremesOf(detail::Numbers(vector));
+  min_value = T(smallest.value);
+  max_value = T(largest.value);
+  min_index = static_cast<std::uint32_t>(smallest.index);
+  max_index = static_cast<std::uint32_t>(largest.index);
+  min_unique = smallest.once;
+  max_unique = largest.once;
 }
 
 #define QORVEX_INSTANTIATE(T)          \

@@ -2,12 +2,17 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "qorvex/vector/detail/checks.h"
 
 namespace qorvex::inline QorvexVector {
 
 namespace {
+
+// Six additions at a time fill the processor, but the elements that only some of six windows
+// contain cost short ones more.
+constexpr std::size_t kLeastForSix = 24;
 
 template <FloatElement T>
 Extended WindowSum(const T* window, std::size_t period) {
@@ -16,40 +21,61 @@ Extended WindowSum(const T* window, std::size_t period) {
   return sum;
 }
 
-struct FourSums {
-  Extended sum0 = 0;
-  Extended sum1 = 0;
-  Extended sum2 = 0;
-  Extended sum3 = 0;
+// The sums of kCount windows that start at successive elements.
+template <std::size_t kCount>
+class WindowSums {
+ public:
+  // Adds x to the windows from kFirst to before kEnd.
+  template <std::size_t kFirst, std::size_t kEnd>
+  [[gnu::always_inline]] void Add(Extended x) {
+    AddTo<kFirst>(x, std::make_index_sequence<kEnd - kFirst>());
+  }
+  template <FloatElement T>
+  [[gnu::always_inline]] void StoreMeans(Extended divisor, T* means) const {
+    StoreMeans(divisor, means, std::make_index_sequence<kCount>());
+  }
+
+ private:
+  // Constant indices, so that the sums stay in registers.
+  template <std::size_t kFirst, std::size_t... kIndex>
+  [[gnu::always_inline]] void AddTo(Extended x, std::index_sequence<kIndex...>) {
+    ((sums_[kFirst + kIndex] += x), ...);
+  }
+  template <FloatElement T, std::size_t... kIndex>
+  [[gnu::always_inline]] void StoreMeans(Extended divisor, T* means,
+                                         std::index_sequence<kIndex...>) const {
+    ((means[kIndex] = static_cast<T>(sums_[kIndex] / divisor)), ...);
+  }
+
+  Extended sums_[kCount] = {};
 };
 
-// The sums of four windows that start at successive elements, for a period of at least 3. Each
-// window is summed in ascending order, but every element is loaded only once, and four independent
-// additions run at a time.
-template <FloatElement T>
-FourSums FourWindowSums(const T* first, std::size_t period) {
-  FourSums s;
-  s.sum0 += static_cast<Extended>(first[0]);
-  s.sum0 += static_cast<Extended>(first[1]);
-  s.sum1 += static_cast<Extended>(first[1]);
-  s.sum0 += static_cast<Extended>(first[2]);
-  s.sum1 += static_cast<Extended>(first[2]);
-  s.sum2 += static_cast<Extended>(first[2]);
-  for (std::size_t i = 3; i < period; ++i) {
-    const Extended x = first[i];
-    s.sum0 += x;
-    s.sum1 += x;
-    s.sum2 += x;
-    s.sum3 += x;
+// The means of sizeof...(kIndex) + 1 windows, which is at most the period + 1. Each window is
+// summed in ascending order, but every element is loaded only once, and the additions to several
+// windows run at a time.
+template <FloatElement T, std::size_t... kIndex>
+[[gnu::always_inline]] inline void StoreMeansTogether(const T* first, std::size_t period,
+                                                      Extended divisor, T* means,
+                                                      std::index_sequence<kIndex...>) {
+  constexpr std::size_t kCount = sizeof...(kIndex) + 1;
+  WindowSums<kCount> sums;
+  (sums.template Add<0, kIndex + 1>(first[kIndex]), ...);
+  for (std::size_t i = kCount - 1; i < period; ++i) sums.template Add<0, kCount>(first[i]);
+  (sums.template Add<kIndex + 1, kCount>(first[period + kIndex]), ...);
+  sums.StoreMeans(divisor, means);
+}
+
+// The means of the first windows, kCount at a time. Returns the start of the first window that is
+// left.
+template <std::size_t kCount, FloatElement T>
+std::size_t StoreMeans(const T* first, std::size_t windows, std::size_t period, Extended divisor,
+                       T* means) {
+  std::size_t start = 0;
+  for (; start + kCount <= windows; start += kCount) {
+    StoreMeansTogether(first + start, period, divisor, means + start,
+                       std::make_index_sequence<kCount - 1>());
   }
-  const T* const last = first + period;
-  s.sum1 += static_cast<Extended>(last[0]);
-  s.sum2 += static_cast<Extended>(last[0]);
-  s.sum3 += static_cast<Extended>(last[0]);
-  s.sum2 += static_cast<Extended>(last[1]);
-  s.sum3 += static_cast<Extended>(last[1]);
-  s.sum3 += static_cast<Extended>(last[2]);
-  return s;
+  return start;
 }
 
 }  // namespace
@@ -66,14 +92,10 @@ TQorVector<T> MovingAverage(VectorView<T> vector, std::uint32_t period, std::uin
   const T* const first = vector.data();
   T* const averages = result.data() + std::min(offset, period - 1);
   std::size_t start = 0;
-  if (period >= 3) {
-    for (; start + 4 <= windows; start += 4) {
-      const FourSums s = FourWindowSums(first + start, period);
-      averages[start] = static_cast<T>(s.sum0 / divisor);
-      averages[start + 1] = static_cast<T>(s.sum1 / divisor);
-      averages[start + 2] = static_cast<T>(s.sum2 / divisor);
-      averages[start + 3] = static_cast<T>(s.sum3 / divisor);
-    }
+  if (period >= kLeastForSix) {
+    start = StoreMeans<6>(first, windows, period, divisor, averages);
+  } else if (period >= 3) {
+    start = StoreMeans<4>(first, windows, period, divisor, averages);
   }
   for (; start < windows; ++start) {
     averages[start] = static_cast<T>(WindowSum(first + start, period) / divisor);

@@ -47,13 +47,15 @@ std::int32_t RankByCounting(VectorView<T> vector, T value, bool ascending) {
 // contiguous, and the first of them never moves back from one element to the next.
 template <AnyElement T>
 void RankBySorting(VectorView<T> vector, bool ascending, TQorLIntVector& ranks) {
+  if (vector.empty()) return;
   const detail::SortedIndices<T> sorted(vector.size(), ascending,
                                         [&](std::size_t i) -> const T& { return vector[i]; });
   std::size_t first_equal = 0;
+  T first_value = vector[sorted.Index(0)];
   for (std::size_t position = 0; position < vector.size(); ++position) {
-    const T x = sorted.Value(position);
+    const T x = vector[sorted.Index(position)];
     if (!AreEqual(x, x)) break;  // NaN, like all elements that follow
-    while (!AreEqual(sorted.Value(first_equal), x)) ++first_equal;
+    while (!AreEqual(first_value, x)) first_value = vector[sorted.Index(++first_equal)];
     ranks[sorted.Index(position)] = static_cast<std::int32_t>(first_equal);
   }
 }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/vector/detail/amount_transform.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
@@ -71,7 +72,7 @@ void LinearTransformVector(TQorVector<T>& vector, ScalarOf<T> slope, ScalarOf<T>
 template <CurrencyElement T>
 void LinearTransformVector(TQorVector<T>& vector, Extended slope, Extended intercept) {
   detail::RequireElements(vector);
-  for (T& x : vector) x = detail::ProductPlus(x, slope, intercept);
+  detail::TransformAmounts<T>(vector, slope, intercept);
 }
 
 template <FloatElement T>

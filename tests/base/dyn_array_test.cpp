@@ -150,6 +150,14 @@ TEST(DynArray, AppendsAndRemovesLikeAStandardContainer) {
   EXPECT_EQ(m.back(), (TQorFloatVector{0.5L, 1}));
 }
 
+TEST(DynArray, LargeBuffersKeepTheirElements) {
+  TQorDoubleVector v(kLeastLargeBuffer / sizeof(double) - 1, 1.5);  // the smallest large buffer
+  const TQorDoubleVector shared = v;
+  v.SetLength(2 * v.size());
+  EXPECT_TRUE(std::equal(shared.begin(), shared.end(), v.begin()));
+  EXPECT_EQ(std::count(v.begin(), v.end(), 0), shared.end() - shared.begin());
+}
+
 TEST(DynArray, CapacityIsKeptByAPrivateBufferAndMakesAppendingAmortised) {
   TQorByteVector v;
   v.reserve(100);

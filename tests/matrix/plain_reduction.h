@@ -6,7 +6,10 @@
 #include <utility>
 
 #include "qorvex/base/comparisons.h"
+#include "qorvex/matrix/building.h"
+#include "qorvex/matrix/reduction.h"
 #include "support/random_matrices.h"
+#include "support/test.h"
 
 namespace qorvex::testing {
 
@@ -43,7 +46,7 @@ struct PlainReduction {
     std::size_t best = rows;
     for (std::size_t r = rows; r-- > rank;) {
       const Extended x = std::fabs(matrix[r][col]);
-      if (FloatIsZero(x)) continue;
+      if (FloatIsZero(x) || x == 0) continue;
       const Extended largest = best < rows ? matrix[best][col] : 0;
       if (std::isnan(x) || (!std::isnan(largest) && x >= std::fabs(largest))) best = r;
     }
@@ -85,5 +88,31 @@ struct PlainReduction {
     });
   }
 };
+
+/// Expects that the reduced matrix, the rank and, for a square matrix, the inverse and the
+/// determinant are bitwise those of the plain loops.
+template <FloatElement T>
+void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
+  PlainReduction<T> plain{CopyMatrix(given)};
+  plain.Eliminate();
+  auto matrix = CopyMatrix(given);
+  std::uint32_t rank = 99;
+  RowEchelonFormRank(matrix, rank);
+  EXPECT_TRUE(SameBits(matrix, plain.matrix));
+  EXPECT_EQ(rank, plain.rank);
+  EXPECT_EQ(Rank(given), plain.rank);
+  const std::size_t order = given.size();
+  if (order != given[0].size()) return;
+
+  matrix = CopyMatrix(given);
+  for (std::size_t i = 0; i < order; ++i) plain.determinant *= plain.matrix[i][i];
+  EXPECT_TRUE(SameBits(MatrixDeterminant(matrix), plain.determinant));
+
+  matrix = CopyMatrix(given);
+  TQorMatrix<T> inverse;
+  EXPECT_EQ(MatrixInverse(matrix, inverse), plain.Invert());
+  EXPECT_TRUE(SameBits(matrix, plain.matrix));
+  EXPECT_TRUE(SameBits(inverse, plain.inverse));
+}
 
 }  // namespace qorvex::testing

@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "matrix/plain_reduction.h"
-#include "qorvex/base/comparisons.h"
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "support/failing_allocation.h"
 #include "support/kept_tolerance.h"
@@ -16,35 +15,9 @@
 namespace qorvex {
 
 using testing::Engine;
+using testing::ExpectWhatPlainLoopsGive;
 using testing::MatrixOf;
-using testing::PlainReduction;
 using testing::SameBits;
-
-// Expects that the reduced matrix, the rank, the inverse and the determinant are bitwise those of
-// the plain loops.
-template <FloatElement T>
-void ExpectWhatPlainLoopsGive(const TQorMatrix<T>& given) {
-  PlainReduction<T> plain{CopyMatrix(given)};
-  plain.Eliminate();
-  auto matrix = CopyMatrix(given);
-  std::uint32_t rank = 99;
-  RowEchelonFormRank(matrix, rank);
-  EXPECT_TRUE(SameBits(matrix, plain.matrix));
-  EXPECT_EQ(rank, plain.rank);
-  EXPECT_EQ(Rank(given), plain.rank);
-  const std::size_t order = given.size();
-  if (order != given[0].size()) return;
-
-  matrix = CopyMatrix(given);
-  for (std::size_t i = 0; i < order; ++i) plain.determinant *= plain.matrix[i][i];
-  EXPECT_TRUE(SameBits(MatrixDeterminant(matrix), plain.determinant));
-
-  matrix = CopyMatrix(given);
-  TQorMatrix<T> inverse;
-  EXPECT_EQ(MatrixInverse(matrix, inverse), plain.Invert());
-  EXPECT_TRUE(SameBits(matrix, plain.matrix));
-  EXPECT_TRUE(SameBits(inverse, plain.inverse));
-}
 
 template <class T>
 class ReductionOf : public ::testing::Test {};

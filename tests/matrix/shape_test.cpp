@@ -48,6 +48,19 @@ TEST(Shape, DependsOnTheSwitch) {
   expect_shapes(&Case::unchecked);
 }
 
+TEST(Shape, EveryRowCounts) {
+  for (std::size_t rows = 1; rows < 20; ++rows) {
+    TQorByteMatrix matrix(rows, TQorByteVector(3));
+    EXPECT_TRUE(MatrixIsRectangular(matrix));
+    for (std::size_t row = 1; row < rows; ++row) {
+      for (const std::size_t length : {0U, 2U, 4U, 3U}) {
+        matrix[row].SetLength(length);
+        EXPECT_EQ(MatrixIsRectangular(matrix), length == 3) << rows << ' ' << row;
+      }
+    }
+  }
+}
+
 TEST(MatrixBuilding, EveryTypeIsCreated) {
 #define QORVEX_EXPECT_CREATED(Suffix)                                                    \
   EXPECT_EQ(Create##Suffix##Matrix(2, 3), (TQor##Suffix##Matrix{{0, 0, 0}, {0, 0, 0}})); \

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
-#include "qorvex/matrix/detail/row_kernels.h"
+#include "qorvex/matrix/detail/rounded_products.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -22,6 +22,8 @@ class DirectRows {
     for (TQorVector<T>& row : matrix) rows_.push_back({.elements = row.data()});
   }
 
+  // Does nothing, because all columns are up to date.
+  void BeginColumn(std::size_t) {}
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const {
     return static_cast<Extended>(rows_[row].elements[col]);
   }
@@ -42,7 +44,7 @@ class DirectRows {
   // Adds factor * source row to the target row.
   void Add(std::size_t target, std::size_t source, Extended factor) {
     const auto [elements, cleared] = rows_[target];
-    AddElements(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
+    AddMultiple(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
   }
   // Does nothing, because no operation is deferred.
   void Flush() {}

@@ -28,8 +28,9 @@ std::size_t FindPivot(const Rows& rows, std::size_t first_row, std::size_t row_c
   Extended largest = 0;
   for (std::size_t row = first_row; row < row_count; ++row) {
     const Extended magnitude = std::fabs(rows.At(row, col));
+    if (magnitude <= largest) continue;
     if (std::isnan(magnitude)) return row;
-    if (FloatIsNotZero(magnitude) && magnitude > largest) {
+    if (FloatIsNotZero(magnitude)) {
       best_row = row;
       largest = magnitude;
     }
@@ -48,6 +49,7 @@ std::size_t Eliminate(Rows& rows, std::size_t row_count, std::size_t col_count,
                       SomeObserver& observer) {
   std::size_t pivot_row = 0;
   for (std::size_t col = 0; col < col_count && pivot_row < row_count; ++col) {
+    rows.BeginColumn(col);
     const std::size_t best_row = FindPivot(rows, pivot_row, row_count, col);
     if (best_row == row_count) {
       for (std::size_t row = pivot_row; row < row_count; ++row) rows.Clear(row, col);

@@ -7,14 +7,14 @@
 #include <vector>
 
 #include "qorvex/base/vector_types.h"
-#include "qorvex/matrix/detail/deferred_rows.h"
 #include "qorvex/matrix/detail/direct_rows.h"
+#include "qorvex/matrix/detail/panel_rows.h"
 #include "qorvex/vector/building.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-// From this many rows on, deferring additions saves more time than it costs.
-inline constexpr std::size_t kLeastDeferredRows = 14;
+// From this many rows on, PanelRows are faster than DirectRows.
+inline constexpr std::size_t kLeastPanelRows = 8;
 
 // Gives rows that share a buffer with an earlier row of the matrix their own buffer, because
 // reduced rows differ.
@@ -35,12 +35,12 @@ void SeparateRows(TQorMatrix<T>& matrix) {
   }
 }
 
-// Calls reduce with the rows of the matrix as DirectRows or DeferredRows, whichever is faster.
+// Calls reduce with the rows of the matrix as DirectRows or PanelRows, whichever is faster.
 template <FloatElement T, class Reduce>
 auto WithRows(TQorMatrix<T>& matrix, std::size_t cols, Reduce reduce) {
   SeparateRows(matrix);
   if constexpr (std::same_as<T, Extended>) {
-    if (matrix.size() >= kLeastDeferredRows) return reduce(DeferredRows(matrix, cols));
+    if (matrix.size() >= kLeastPanelRows) return reduce(PanelRows(matrix, cols));
   }
   return reduce(DirectRows<T>(matrix, cols));
 }

@@ -10,6 +10,7 @@
 
 #include <type_traits>
 
+#include "qorvex/base/detail/currency_scale.h"
 #include "qorvex/base/rounding.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/vector/detail/integer_arithmetic.h"
@@ -17,14 +18,12 @@
 namespace qorvex::inline QorvexVector::detail {
 
 // slope * amount + intercept in units.
-inline QorCurrency LinearTransform(QorCurrency x, Extended slope, Extended intercept) noexcept {
-  return Float2QorCurrency(slope * Currency2Float(x) + intercept);
+template <OneOf<QorCurrency, QorLongCurrency> T>
+[[nodiscard]] inline T LinearTransform(T x, Extended slope, Extended intercept) noexcept {
+  return QorvexGlobals::detail::FromFloat<T>(slope * QorvexGlobals::detail::ToFloat(x) + intercept);
 }
-inline QorLongCurrency LinearTransform(QorLongCurrency x, Extended slope,
-                                       Extended intercept) noexcept {
-  return Float2QorLongCurrency(slope * Currency2Float(x) + intercept);
-}
-inline Currency LinearTransform(Currency x, Extended slope, Extended intercept) noexcept {
+[[nodiscard]] inline Currency LinearTransform(Currency x, Extended slope,
+                                              Extended intercept) noexcept {
   return Currency(
       RoundToInteger<std::int64_t>(slope * static_cast<Extended>(x.stored()) +
                                    intercept * static_cast<Extended>(Currency::kScale)));

@@ -1,91 +1,40 @@
 #pragma once
 
-// Sorts unsigned keys in ascending order, without recursion.
+// Sorts integer keys in ascending order.
 
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <memory>
+#include <type_traits>
 #include <utility>
 
+#include "qorvex/base/dyn_array.h"
+#include "qorvex/vector/detail/quicksort.h"
+#include "qorvex/vector/detail/vector_quicksort.h"
+
 namespace qorvex::inline QorvexVector::detail {
-
-template <class Key>
-int BitWidth(Key key) {
-  int width = 0;
-  for (; key != 0; key = static_cast<Key>(key >> 1)) ++width;
-  return width;
-}
-
-template <class Key>
-void InsertionSort(Key* first, Key* last) {
-  if (first == last) return;
-  for (Key* next = first + 1; next != last; ++next) {
-    const Key key = *next;
-    Key* hole = next;
-    for (; hole != first && key < hole[-1]; --hole) *hole = hole[-1];
-    *hole = key;
-  }
-}
-
-// Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978,
-// "Implementing quicksort programs"). The smaller side is sorted first and the larger one deferred,
-// so the stack never holds more than log2(n) entries. A segment that has been divided twice as
-// often as halving would need is sorted by a heap sort, which bounds the cost to O(n log n) (Musser
-// 1997, "Introspective sorting and selection algorithms").
-template <class Key>
-void QuickSort(Key* first, Key* last) {
-  constexpr std::ptrdiff_t insertion_limit = 24;
-  struct Segment {
-    Key* first;
-    Key* last;
-    int divisions_left;
-  };
-  std::array<Segment, 64> deferred;
-  std::size_t depth = 0;
-  Segment s{first, last, 2 * BitWidth(static_cast<std::size_t>(last - first))};
-  while (true) {
-    while (s.last - s.first > insertion_limit && s.divisions_left > 0) {
-      --s.divisions_left;
-      const Key pivot = s.first[(s.last - s.first) / 2];
-      Key* low = s.first;
-      Key* high = s.last - 1;
-      do {
-        while (*low < pivot) ++low;
-        while (pivot < *high) --high;
-        if (low <= high) std::swap(*low++, *high--);
-      } while (low <= high);
-      if (high + 1 - s.first < s.last - low) {
-        deferred[depth++] = {low, s.last, s.divisions_left};
-        s.last = high + 1;
-      } else {
-        deferred[depth++] = {s.first, high + 1, s.divisions_left};
-        s.first = low;
-      }
-    }
-    if (s.last - s.first > insertion_limit) {
-      std::make_heap(s.first, s.last);
-      std::sort_heap(s.first, s.last);
-    } else {
-      InsertionSort(s.first, s.last);
-    }
-    if (depth == 0) return;
-    s = deferred[--depth];
-  }
-}
 
 // For shorter inputs, maintaining the counters of a radix pass costs more than it saves.
 constexpr std::size_t kShortestRadixSort = 400;
 
-// Least-significant-digit radix sort of the highest bits in which the keys differ, as many as
-// distinguish most keys. A quicksort then sorts the runs of keys that are equal in those bits.
-// scratch has room for count keys.
+// Least-significant-digit radix sort of the highest bits of the distances from the smallest key, as
+// many as distinguish most keys. A quicksort then sorts the runs of keys that are equal in those
+// bits. scratch has room for count keys.
 template <class Key>
 void RadixSort(Key* keys, Key* scratch, std::size_t count) {
+  using Distance = typename std::conditional_t<std::is_integral_v<Key>, std::make_unsigned<Key>,
+                                               std::type_identity<Key>>::type;
   constexpr int widest_digit = 11;
-  Key varying = 0;
-  for (std::size_t i = 1; i < count; ++i) varying |= keys[i] ^ keys[0];
-  const int width = BitWidth(varying);
+  Key smallest = keys[0];
+  Key largest = keys[0];
+  for (std::size_t i = 1; i < count; ++i) {
+    smallest = std::min(smallest, keys[i]);
+    largest = std::max(largest, keys[i]);
+  }
+  const auto distance = [=](Key key) {
+    return static_cast<Distance>(static_cast<Distance>(key) - static_cast<Distance>(smallest));
+  };
+  const int width = BitWidth(distance(largest));
   // One and a half times the bits of the count leave few runs of equal keys. The 14 additional bits
   // are for the sign and exponent of floating keys, which hardly distinguish keys.
   const int sorted_bits = std::min(width, 3 * BitWidth(count) / 2 + 14);
@@ -99,7 +48,8 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   for (int pass = 0; pass < passes; ++pass) {
     const int shift = lowest_bit + pass * digit_bits;
     const auto digit = [=](Key key) {
-      return static_cast<std::size_t>(key >> shift) & ((std::size_t{1} << digit_bits) - 1);
+      return static_cast<std::size_t>(distance(key) >> shift) &
+             ((std::size_t{1} << digit_bits) - 1);
     };
     std::array<std::size_t, std::size_t{1} << widest_digit> next{};
     for (std::size_t i = 0; i < count; ++i) ++next[digit(from[i])];
@@ -111,7 +61,7 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   if (from != keys) std::copy(from, from + count, keys);
 
   if (lowest_bit == 0) return;
-  const auto prefix = [=](Key key) { return static_cast<Key>(key >> lowest_bit); };
+  const auto prefix = [=](Key key) { return static_cast<Distance>(distance(key) >> lowest_bit); };
   for (Key *run = keys, *const end = keys + count; run != end;) {
     Key* run_end = run + 1;
     while (run_end != end && prefix(*run_end) == prefix(*run)) ++run_end;
@@ -121,24 +71,35 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
 }
 
 // Sorts up to a given number of keys. The constructor allocates all memory, so that a failure
-// occurs before a key is moved.
+// occurs before a key is moved: as much as the keys take, but none where there are vector
+// instructions for the keys or if there are few.
 template <class Key>
 class KeySorter {
  public:
   explicit KeySorter(std::size_t most)
-      : scratch_(most < kShortestRadixSort ? nullptr
-                                           : std::make_unique_for_overwrite<Key[]>(most)) {}
+      : scratch_(HasVectorInstructions() || most < kShortestRadixSort
+                     ? DynArray<Key>()
+                     : DynArray<Key>::ForOverwrite(most)) {}
 
   void Sort(Key* keys, std::size_t count) {
+    if constexpr (kHasVectorQuickSort<Key>) {
+      if (instructions_ == Instructions::kAvx512) return VectorQuickSortAvx512(keys, count);
+      if (instructions_ == Instructions::kAvx2) return VectorQuickSortAvx2(keys, count);
+    }
     if (count < kShortestRadixSort) {
       QuickSort(keys, keys + count);
     } else {
-      RadixSort(keys, scratch_.get(), count);
+      RadixSort(keys, scratch_.data(), count);
     }
   }
 
  private:
-  std::unique_ptr<Key[]> scratch_;
+  [[nodiscard]] bool HasVectorInstructions() const noexcept {
+    return kHasVectorQuickSort<Key> && instructions_ != Instructions::kBaseline;
+  }
+
+  Instructions instructions_ = BestInstructions();
+  DynArray<Key> scratch_;
 };
 
 }  // namespace qorvex::inline QorvexVector::detail

@@ -48,20 +48,21 @@ struct SortKey<T> {
 };
 
 // IEEE formats are sign and magnitude: all bits of negative values are flipped, and the sign bit of
-// others. -0 sorts before +0.
+// others. -0 sorts before +0. There are no branches, because signs are hard to predict.
 template <class T, class Bits>
 struct IeeeSortKey {
   using Key = Bits;
   static constexpr Key kKeyMask = ~Key{0};
-  static constexpr Key kSign = Key{1} << (8 * sizeof(T) - 1);
+  static constexpr int kSignBit = 8 * sizeof(T) - 1;
+  static constexpr Key kSign = Key{1} << kSignBit;
 
   static Key Read(const T* element) noexcept {
     Key bits;
     std::memcpy(&bits, element, sizeof bits);
-    return (bits & kSign) != 0 ? ~bits : bits | kSign;
+    return bits ^ ((Key{0} - (bits >> kSignBit)) | kSign);
   }
   static T Value(Key key) noexcept {
-    const Key bits = (key & kSign) != 0 ? key ^ kSign : ~key;
+    const Key bits = key ^ (((key >> kSignBit) - 1) | kSign);
     T value;
     std::memcpy(&value, &bits, sizeof value);
     return value;
@@ -85,18 +86,16 @@ struct SortKey<Extended> {
     const auto* bytes = reinterpret_cast<const unsigned char*>(element);
     std::memcpy(&mantissa, bytes, sizeof mantissa);
     std::memcpy(&sign_and_exponent, bytes + sizeof mantissa, sizeof sign_and_exponent);
-    const bool negative = (sign_and_exponent & kSign) != 0;
-    const std::uint64_t low = negative ? ~mantissa : mantissa;
-    const auto high =
-        static_cast<std::uint16_t>(negative ? ~sign_and_exponent : sign_and_exponent | kSign);
-    return static_cast<Key>(high) << 64 | low;
+    const std::uint64_t flips = std::uint64_t{0} - (sign_and_exponent >> kSignBit);
+    const auto high = static_cast<std::uint16_t>(sign_and_exponent ^ (flips | kSign));
+    return static_cast<Key>(high) << 64 | (mantissa ^ flips);
   }
   static Extended Value(Key key) noexcept {
     const auto low = static_cast<std::uint64_t>(key);
     const auto high = static_cast<std::uint16_t>(key >> 64);
-    const bool negative = (high & kSign) == 0;
-    const std::uint64_t mantissa = negative ? ~low : low;
-    const auto sign_and_exponent = static_cast<std::uint16_t>(negative ? ~high : high ^ kSign);
+    const std::uint64_t flips = (std::uint64_t{high} >> kSignBit) - 1;
+    const std::uint64_t mantissa = low ^ flips;
+    const auto sign_and_exponent = static_cast<std::uint16_t>(high ^ (flips | kSign));
     unsigned char bytes[sizeof(Extended)] = {};
     std::memcpy(bytes, &mantissa, sizeof mantissa);
     std::memcpy(bytes + sizeof mantissa, &sign_and_exponent, sizeof sign_and_exponent);
@@ -106,7 +105,8 @@ struct SortKey<Extended> {
   }
 
  private:
-  static constexpr std::uint16_t kSign = 0x8000;
+  static constexpr int kSignBit = 15;
+  static constexpr std::uint16_t kSign = 1U << kSignBit;
 };
 
 // The strict total order of QSortVector, for elements that are not NaN.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -8,6 +9,8 @@
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/exact/detail/words.h"
 #include "qorvex/stats/exact/fixed_point.h"
+#include "qorvex/vector/detail/integer_sum.h"
+#include "qorvex/vector/detail/registers.h"
 
 namespace qorvex::exact::detail {
 
@@ -36,34 +39,53 @@ constexpr auto IntegerOf(T amount) noexcept {
   return amount.stored();
 }
 
-// Adds the powers of integers, or of the stored integers of amounts, to the totals.
+// The sum of integers, or of the stored integers of amounts.
+template <class T>
+inline __int128 SumIntegers(std::span<const T> values) {
+  const auto numbers = QorvexVector::detail::Numbers(VectorView<T>(values));
+  if constexpr (sizeof(T) == sizeof(std::int64_t)) {
+    return QorvexVector::detail::ExactIntegerSum(numbers);
+  } else {
+    constexpr std::size_t kMost = std::size_t{1} << 31;  // whose sum fits an int64
+    __int128 sum = 0;
+    for (std::size_t i = 0; i < numbers.size(); i += kMost) {
+      sum +=
+          QorvexVector::detail::IntegerSum(numbers.subspan(i, std::min(kMost, numbers.size() - i)));
+    }
+    return sum;
+  }
+}
+
+// Adds the squares and higher powers of integers to their totals.
 template <int kPowerSums, class T>
-inline void AddIntegerPowers(std::span<const T> values, FixedPoint* totals) {
-  __int128 first = 0;
+inline void AddHigherPowers(std::span<const T> values, FixedPoint* totals) {
   Counter<2> second;
   Counter<3> third[2];
   Counter<4> fourth;
   for (const T value : values) {
     const auto x = IntegerOf(value);
-    first += x;
-    if constexpr (kPowerSums > 1) {
-      const auto bits = static_cast<Word>(x);
-      const Word magnitude = x < 0 ? 0 - bits : bits;
-      const Words<2> square = Square(Words<1>{magnitude});
-      second.Add(square);
-      if constexpr (kPowerSums > 2) {
-        third[x < 0 ? 1 : 0].Add(Multiply(square, magnitude));
-        fourth.Add(Square(square));
-      }
+    const auto bits = static_cast<Word>(x);
+    const Word magnitude = x < 0 ? 0 - bits : bits;
+    const Words<2> square = Square(Words<1>{magnitude});
+    second.Add(square);
+    if constexpr (kPowerSums > 2) {
+      third[x < 0 ? 1 : 0].Add(Multiply(square, magnitude));
+      fourth.Add(Square(square));
     }
   }
-  AddToTotal(first, 0, totals[0]);
-  if constexpr (kPowerSums > 1) AddToTotal(second, false, totals[1]);
+  AddToTotal(second, false, totals[1]);
   if constexpr (kPowerSums > 2) {
     AddToTotal(third[0], false, totals[2]);
     AddToTotal(third[1], true, totals[2]);
     AddToTotal(fourth, false, totals[3]);
   }
+}
+
+// Adds the powers of integers, or of the stored integers of amounts, to the totals.
+template <int kPowerSums, class T>
+inline void AddIntegerPowers(std::span<const T> values, FixedPoint* totals) {
+  AddToTotal(SumIntegers(values), 0, totals[0]);
+  if constexpr (kPowerSums > 1) AddHigherPowers<kPowerSums>(values, totals);
 }
 
 }  // namespace qorvex::exact::detail

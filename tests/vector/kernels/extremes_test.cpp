@@ -1,0 +1,146 @@
+// Extremes, compared with a plain loop.
+
+#include "qorvex/vector/extremes.h"
+
+#include <cstdint>
+#include <limits>
+
+#include "support/hard_vectors.h"
+#include "support/kernel_lengths.h"
+#include "support/test.h"
+
+namespace qorvex {
+namespace {
+
+template <class T>
+struct Extremes {
+  T min_value;
+  T max_value;
+  std::uint32_t min_index = 0;
+  std::uint32_t max_index = 0;
+  bool min_unique = true;
+  bool max_unique = true;
+};
+
+template <class T>
+Extremes<T> LoopExtremes(VectorView<T> vector) {
+  Extremes<T> result{vector[0], vector[0]};
+  for (std::size_t i = 1; i < vector.size(); ++i) {
+    const T x = vector[i];
+    if (result.min_value > x) {
+      result.min_value = x;
+      result.min_index = static_cast<std::uint32_t>(i);
+      result.min_unique = true;
+    } else if (x == result.min_value) {
+      result.min_unique = false;
+    }
+    if (x > result.max_value) {
+      result.max_value = x;
+      result.max_index = static_cast<std::uint32_t>(i);
+      result.max_unique = true;
+    } else if (x == result.max_value) {
+      result.max_unique = false;
+    }
+  }
+  return result;
+}
+
+template <class T>
+bool Same(T x, T y) {
+  if constexpr (FloatElement<T>) {
+    return testing::SameBits(x, y);
+  } else {
+    return x == y;
+  }
+}
+
+template <class T>
+void ExpectExtremesOfALoop(VectorView<T> vector, int kind) {
+  SCOPED_TRACE("n = " + std::to_string(vector.size()) + ", kind " + std::to_string(kind));
+  const Extremes<T> expected = LoopExtremes(vector);
+  Extremes<T> actual{};
+  MinMaxVector(vector, actual.min_value, actual.max_value, actual.min_index, actual.max_index,
+               actual.min_unique, actual.max_unique);
+  ASSERT_TRUE(Same(actual.min_value, expected.min_value));
+  ASSERT_TRUE(Same(actual.max_value, expected.max_value));
+  ASSERT_EQ(actual.min_index, expected.min_index);
+  ASSERT_EQ(actual.max_index, expected.max_index);
+  ASSERT_EQ(actual.min_unique, expected.min_unique);
+  ASSERT_EQ(actual.max_unique, expected.max_unique);
+  ASSERT_TRUE(Same(MinVector(vector), expected.min_value));
+  ASSERT_TRUE(Same(MaxVector(vector), expected.max_value));
+}
+
+// Elements of few values, among them neighbours, the limits and, for floating elements, zeros of
+// both signs, infinities and NaN.
+template <class T>
+T FewValues(testing::Engine& engine, int kind) {
+  using Limits = std::numeric_limits<T>;
+  const auto choice = engine() % 8;
+  if constexpr (FloatElement<T>) {
+    const T sign = engine() % 2 == 0 ? T(1) : T(-1);
+    switch (kind) {
+      case 0:  // differences in the last bit
+        return sign * (T(1) + static_cast<T>(choice) * Limits::epsilon());
+      case 1:
+        return choice == 0 ? sign * Limits::denorm_min() : sign * T(0);
+      case 2:  // whole blocks of NaN
+        return engine() % 600 == 0 ? sign * Limits::infinity() : Limits::quiet_NaN();
+      case 3:
+        return choice == 0 ? -Limits::quiet_NaN() : T(1'000 + engine() % 500);
+      case 4:
+        return choice < 4 ? sign * Limits::infinity() : Limits::max();
+      default:
+        return choice == 0 ? Limits::signaling_NaN() : T(0);
+    }
+  } else {
+    const T nearest = static_cast<T>(choice % 2);
+    return kind % 2 == 0 ? static_cast<T>(Limits::min() + nearest)
+                         : static_cast<T>(Limits::max() - nearest);
+  }
+}
+
+template <class T>
+class ExtremeKernels : public ::testing::Test {};
+TYPED_TEST_SUITE(ExtremeKernels, AllTypes);
+
+TYPED_TEST(ExtremeKernels, FindWhatALoopFinds) {
+  using T = TypeParam;
+  testing::Engine engine(3);
+  for (const std::size_t n : testing::KernelLengths()) {
+    for (int kind = 0; kind < 8; ++kind) {
+      auto vector = testing::RandomVector<T>(engine, n + 1);
+      for (T& x : vector) {
+        if (kind < 6) x = FewValues<T>(engine, kind);
+        if (kind == 6) x = T(x / T(2));  // a single extreme of either kind
+      }
+      if (kind == 6) {
+        vector[engine() % n] = std::numeric_limits<T>::lowest();
+        vector[engine() % n] = std::numeric_limits<T>::max();
+      }
+      ExpectExtremesOfALoop<T>(std::span<const T>(vector).subspan(engine() % 2, n), kind);
+      if (this->HasFatalFailure()) return;
+    }
+    if constexpr (FloatElement<T>) {
+      testing::ForEachHardKind([&](testing::Hard kind) {
+        const auto vector = testing::HardVector<T>(engine, n, kind);
+        ExpectExtremesOfALoop<T>(vector, 100 + static_cast<int>(kind));
+      });
+      if (this->HasFatalFailure()) return;
+    }
+  }
+}
+
+TYPED_TEST(ExtremeKernels, FindThemInAscendingAndDescendingOrder) {
+  using T = TypeParam;
+  auto vector = TQorVector<T>::WithLength(9'001);
+  for (const bool ascending : {true, false}) {
+    for (std::size_t i = 0; i < vector.size(); ++i) {
+      vector[i] = static_cast<T>((ascending ? i : vector.size() - i) / (8 * sizeof(T)));
+    }
+    ExpectExtremesOfALoop<T>(vector, ascending ? 0 : 1);
+  }
+}
+
+}  // namespace
+}  // namespace qorvex
