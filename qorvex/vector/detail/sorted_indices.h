@@ -46,6 +46,14 @@ class SortedIndices {
     return IndexOf(records_.data()[position]);
   }
 
+  // Fetches the item that belongs to a position soon after this one.
+  template <class Item>
+  void Prefetch(std::size_t position, const Item* items) const noexcept {
+    constexpr std::size_t distance = 24;
+    if (position + distance < records_.size())
+      __builtin_prefetch(items + Index(position + distance));
+  }
+
  private:
   using Traits = SortKey<T>;
   using Key = typename Traits::Key;

@@ -21,6 +21,7 @@
 #include <utility>
 
 #include "qorvex/vector/detail/quicksort.h"
+#include "qorvex/vector/detail/vector_quicksort.h"
 
 namespace qorvex::inline QorvexVector::detail {
 
@@ -220,15 +221,15 @@ QORVEX_VECTOR_CODE void SortShort(typename L::Key* keys, std::size_t count) {
   if (rest != 0) std::memcpy(keys + full * L::kCount, &rows[full], rest * sizeof(Key));
 }
 
-// The median of the lanes' medians in eight registers.
+// The median of the lanes' medians in five registers.
 template <class L>
 QORVEX_VECTOR_CODE typename L::Key ChoosePivot(const typename L::Key* keys, std::size_t count) {
-  constexpr std::size_t samples = 8;
+  constexpr std::size_t samples = 5;
   typename L::Vector rows[samples];
   const std::size_t step = (count - L::kCount) / (samples - 1);
   for (std::size_t i = 0; i < samples; ++i) rows[i] = L::Load(keys + i * step);
   ExchangeRows<L, 0, kSortingPairs<samples>>(rows);
-  typename L::Vector medians = rows[samples / 2 - 1];
+  typename L::Vector medians = rows[samples / 2];
   MergeColumns<L, 1>(&medians);
   return medians[L::kCount / 2];
 }
@@ -310,9 +311,24 @@ QORVEX_VECTOR_CODE std::size_t Divide(typename L::Key* keys, std::size_t count,
   return static_cast<std::size_t>(low - keys) + DivideTo<L>(aside, block + rest, pivot, low);
 }
 
-// Segments wait on a stack and are limited in their divisions as in QuickSort.
+// FlipNegatives in registers.
 template <class L>
-QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count) {
+QORVEX_VECTOR_CODE void FlipNegativeLanes(typename L::Key* keys, std::size_t count) {
+  const auto magnitude = L::Fill(std::numeric_limits<typename L::Key>::max());
+  std::size_t i = 0;
+  for (; i + L::kCount <= count; i += L::kCount) {
+    const auto several = L::Load(keys + i);
+    L::Store(keys + i, several ^ ((several < 0) & magnitude));
+  }
+  FlipNegatives(keys + i, count - i);
+}
+
+// Segments wait on a stack and are limited in their divisions as in QuickSort. The bits of floating
+// numbers are converted back where a segment is complete, while it is in the cache.
+template <class L>
+QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count, KeyForm form) {
+  const bool flips = form == KeyForm::kFloatBits;
+  if (flips) FlipNegativeLanes<L>(keys, count);
   using Key = typename L::Key;
   struct Segment {
     Key* keys;
@@ -330,7 +346,10 @@ QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count) {
       if (lows == s.count) {
         // The pivot is the largest key: its equals are in place once the others are before them.
         const bool all_equal = pivot == std::numeric_limits<Key>::min();
-        s.count = all_equal ? 0 : Divide<L>(s.keys, s.count, static_cast<Key>(pivot - 1));
+        const std::size_t below =
+            all_equal ? 0 : Divide<L>(s.keys, s.count, static_cast<Key>(pivot - 1));
+        if (flips) FlipNegativeLanes<L>(s.keys + below, s.count - below);
+        s.count = below;
         continue;
       }
       const Segment low{s.keys, lows, s.divisions_left};
@@ -344,6 +363,7 @@ QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count) {
     } else if (s.count > 1) {
       SortShort<L>(s.keys, s.count);
     }
+    if (flips) FlipNegativeLanes<L>(s.keys, s.count);
     if (depth == 0) return;
     s = deferred[--depth];
   }
