@@ -75,11 +75,11 @@ T FewValues(testing::Engine& engine, int kind) {
       case 2:  // whole blocks of NaN
         return engine() % 600 == 0 ? sign * Limits::infinity() : Limits::quiet_NaN();
       case 3:
-        return choice == 0 ? -Limits::quiet_NaN() : T(1'000 + engine() % 500);
+        return choice == 0 ? Limits::signaling_NaN() : T(1'000 + engine() % 500);
       case 4:
         return choice < 4 ? sign * Limits::infinity() : Limits::max();
-      default:
-        return choice == 0 ? Limits::signaling_NaN() : T(0);
+      default:  // now and then the largest: zeros of both signs, in different blocks
+        return engine() % 700 == 0 ? sign * T(0) : -static_cast<T>(engine());
     }
   } else {
     const T nearest = static_cast<T>(choice % 2);
