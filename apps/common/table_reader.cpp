@@ -68,7 +68,8 @@ Table ReadTable(TextInput input, const TableSelection& selection, unsigned threa
   RequireFirstRow(rows);
   ColumnCollector collector(rows, selection);
   if (!collector.HasHeader()) collector.AddCells(rows);
-  if (collector.CountColumns() <= kMostColumnsInParts) AddRowsInParts(rows, collector, threads);
+  if (threads > 1 && collector.CountColumns() <= kMostColumnsInParts)
+    AddRowsInParts(rows, collector, threads);
   collector.AddAllRows(rows);
   return collector.Finish(rows.Name());
 }

@@ -51,11 +51,11 @@ QORVEX_AVX2 inline void Round(const Register<double, 32>& x, std::int32_t* resul
 // then in the low bits of the sum. The other way round, it makes doubles of integers, or doubles
 // beyond 2^51 of those out of range.
 constexpr double kRounder = 0x1.8p52;
-constexpr long long kRounderBits = 0x4338'0000'0000'0000;
+constexpr std::uint64_t kRounderBits = 0x4338'0000'0000'0000;
 
 template <class Doubles>
 [[gnu::always_inline]] inline void Load(const std::int64_t* stored, Doubles& x) noexcept {
-  using Integers = Register<long long, sizeof(Doubles)>;
+  using Integers = Register<std::uint64_t, sizeof(Doubles)>;
   Integers integers;
   std::memcpy(&integers, stored, sizeof integers);
   x = reinterpret_cast<Doubles>(integers + kRounderBits) - kRounder;
@@ -63,7 +63,7 @@ template <class Doubles>
 template <class Doubles>
 [[gnu::always_inline]] inline void Round(const Doubles& x, std::int64_t* results,
                                          Doubles& rounded) noexcept {
-  using Integers = Register<long long, sizeof(Doubles)>;
+  using Integers = Register<std::uint64_t, sizeof(Doubles)>;
   const Doubles sum = x + kRounder;
   rounded = sum - kRounder;
   const Integers integers = reinterpret_cast<Integers>(sum) - kRounderBits;
