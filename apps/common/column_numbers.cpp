@@ -106,14 +106,18 @@ void ColumnNumbers::Append(const ColumnNumbers& others) {
                    (others.decimals_ == decimals ||
                     (largest >= 0 && Shift(largest, decimals - others.decimals_))) &&
                    Rescale(decimals);
+  const std::size_t before = size();
   if (fit) {
     largest_ = std::max(largest_, static_cast<std::uint64_t>(largest));
     std::int64_t unit = 1;
     static_cast<void>(Shift(unit, decimals - others.decimals_));
-    for (const std::int64_t integer : others.integers_) integers_.Append(integer * unit);
+    integers_.resize(before + others.size());
+    std::ranges::transform(others.integers_, integers_.begin() + before,
+                           [unit](std::int64_t integer) { return integer * unit; });
   } else {
     MakeValues();
-    for (const Extended value : others.Values()) values_.Append(value);
+    values_.resize(before + others.size());
+    std::ranges::copy(others.Values(), values_.begin() + before);
   }
 }
 

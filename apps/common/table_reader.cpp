@@ -4,6 +4,7 @@
 #include <exception>
 #include <iterator>
 #include <mutex>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -21,7 +22,7 @@ constexpr std::size_t kMostColumnsInParts = 256;
 
 // Reads the rows up to the first quote or the end of the text. Each thread takes the lines that
 // follow those taken before, and collects their columns.
-void AddRowsOnThreads(RowReader& rows, ColumnCollector& collector, unsigned threads) {
+void AddRowsInParts(RowReader& rows, ColumnCollector& collector, unsigned threads) {
   std::mutex mutex;
   bool ended = false;
   std::deque<ColumnCollector::Part> parts;
@@ -39,7 +40,7 @@ void AddRowsOnThreads(RowReader& rows, ColumnCollector& collector, unsigned thre
     return ended ? nullptr : &part;
   };
   RunOnThreads(threads, [&] {
-    RowReader lines{TextInput()};
+    RowReader lines(TextInput(), std::nullopt, 0);
     while (ColumnCollector::Part* const part = take(lines)) {
       try {
         part->rows.AddAllRows(lines);
@@ -61,13 +62,14 @@ std::string TableColumn::Title() const {
   return ColumnTitle(number, name);
 }
 
-Table ReadTable(TextInput input, const TableSelection& selection, unsigned threads) {
-  RowReader rows(std::move(input), selection.delimiter);
+Table ReadTable(TextInput input, const TableSelection& selection, unsigned threads,
+                std::size_t block_size) {
+  RowReader rows(std::move(input), selection.delimiter, block_size);
   RequireFirstRow(rows);
   ColumnCollector collector(rows, selection);
   if (!collector.HasHeader()) collector.AddCells(rows);
   if (threads > 1 && collector.CountColumns() <= kMostColumnsInParts)
-    AddRowsOnThreads(rows, collector, threads);
+    AddRowsInParts(rows, collector, threads);
   collector.AddAllRows(rows);
   return collector.Finish(rows.Name());
 }

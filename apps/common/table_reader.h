@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/common/column_numbers.h"
+#include "apps/common/row_reader.h"
 #include "apps/common/text_input.h"
 
 namespace qorvex::apps {
@@ -73,10 +74,11 @@ struct Table {
 ///   without rows and for a column without values; kNoSuchColumn; kMalformed for a row whose length
 ///   differs from that of the first; kEmptyCell, kNotANumber and kOutOfRange for a cell.
 /// - Memory: 8 bytes per number without rounding and 16 otherwise, at most 2.5 times that while a
-///   column grows.
-/// - Several threads share the work, up to the first row with a quote, in tables of at most 256
-///   chosen columns. The result is the same.
+///   column grows or while the parts that several threads have read are joined.
+/// - Several threads share the work, up to the first row with a quote, if at most 256 columns are
+///   chosen. Each reads blocks of that many bytes. Neither their number nor the size changes the
+///   result.
 [[nodiscard]] Table ReadTable(TextInput input, const TableSelection& selection,
-                              unsigned threads = 1);
+                              unsigned threads = 1, std::size_t block_size = RowReader::kBlockSize);
 
 }  // namespace qorvex::apps

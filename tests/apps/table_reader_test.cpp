@@ -16,16 +16,28 @@ namespace {
 using Cases = std::initializer_list<ReadingCase<TableSelection>>;
 
 // The columns as text, with title, values and the number of skipped cells; or the error.
-std::string Read(const std::string& text, const TableSelection& selection) {
+std::string Read(const std::string& text, const TableSelection& selection, unsigned threads = 1,
+                 std::size_t block_size = RowReader::kBlockSize) {
   return ResultOrError([&] {
     std::string columns;
-    for (const TableColumn& column : ReadTable(SourceOf(text), selection).columns) {
+    const Table table = ReadTable(SourceOf(text), selection, threads, block_size);
+    for (const TableColumn& column : table.columns) {
       columns += column.Title() + ':';
       for (const Extended value : column.numbers.Values()) columns += ' ' + Float2Str(value);
       columns += "; " + Int2EStr(column.skipped) + '\n';
     }
     return columns;
   });
+}
+
+void ExpectResult(const std::string& text, const TableSelection& selection,
+                  const std::string& result) {
+  EXPECT_EQ(Read(text, selection), result) << text;
+  for (std::size_t block_size = 4; block_size < text.size() + 4; ++block_size) {
+    for (const unsigned threads : {1U, 2U, 3U})
+      ASSERT_EQ(Read(text, selection, threads, block_size), result)
+          << text << threads << " threads, blocks of " << block_size;
+  }
 }
 
 TEST(TableReader, ReadsAllColumnsOrTheChosenOnesInTheirOrder) {
@@ -49,7 +61,7 @@ TEST(TableReader, ReadsAllColumnsOrTheChosenOnesInTheirOrder) {
            {"0.1\n\" +1e4000 \"\n18446744073709551615\n-1.25E-3\n",
             "column 1: 0.1 1e+4000 18446744073709551615 -0.00125; 0\n"},
        }) {
-    EXPECT_EQ(Read(text, selection), columns) << text;
+    ExpectResult(text, selection, columns);
   }
 }
 
@@ -70,8 +82,39 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"1\n", " there is no column \"1x\"; the table has 1 column and no header", {{"1x"}}},
            {"x,y,x\n1,2,3\n", " columns 1 and 3 are both named \"x\"", {{"x"}}},
        }) {
-    EXPECT_EQ(Read(text, selection), "data.csv:" + message);
+    ExpectResult(text, selection, "data.csv:" + message);
   }
+}
+
+// Blank lines, quotes, faults, and numbers that turn a column of integers into one of values, at
+// any place of a block.
+TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
+  std::mt19937_64 engine(19);
+  const char* const pieces[] = {"1.5,2\n",     "0.125,-7\n",   "-0,9223372036854775807\n",
+                                "1e-30,0.5\n", "3,4\r\n",      "4,1e-27\n",
+                                "\n",          " \t\n",        "5,\n",
+                                "\"6\",7\n",   "\"8\n9\",1\n", "1,2,3\n",
+                                "1,x\n",       "1\r2\n",       "922337203685477580.8,0\n"};
+  for (int repetition = 0; repetition < 1500; ++repetition) {
+    std::string text = engine() % 2 == 0 ? "a,b\n" : "";
+    const std::size_t usual = 1 + engine() % std::size(pieces);
+    for (std::size_t rows = engine() % 30; rows > 0; --rows)
+      text += pieces[engine() % (engine() % 8 == 0 ? std::size(pieces) : std::min(usual, 6UL))];
+    const TableSelection selection{.skip_empty = engine() % 2 == 0,
+                                   .whole_rows = engine() % 2 == 0};
+    const std::string result = Read(text, selection);
+    const std::size_t block_size = 4 + engine() % 60;
+    ASSERT_EQ(Read(text, selection, static_cast<unsigned>(1 + engine() % 3), block_size), result)
+        << text << "blocks of " << block_size;
+  }
+  std::string wide = "0";
+  std::string columns = "column 1: 0 1; 0\n";
+  for (int i = 1; i < 300; ++i) {
+    wide += ',' + Int2EStr(i);
+    columns += "column " + Int2EStr(i + 1) + ": " + Int2EStr(i) + ' ' + Int2EStr(i + 1) + "; 0\n";
+  }
+  wide += '\n' + wide.substr(2) + ",300\n";
+  EXPECT_EQ(Read(wide, {}, 2, 64), columns);
 }
 
 // The integers of a single column and their decimals; nothing for values.
@@ -118,7 +161,7 @@ TEST(TableReader, HasTheSameValuesForIntegersAsForTexts) {
     text += number + '\n';
     values.push_back(Str2Float(number));
     if (engine() % 20 != 0) continue;
-    const Table table = ReadTable(SourceOf(text), {});
+    const Table table = ReadTable(SourceOf(text), {}, 1, 4 + engine() % 100);
     EXPECT_TRUE(std::ranges::equal(table.columns[0].numbers.Values(), values)) << text;
     text.clear();
     values.clear();

@@ -1,10 +1,16 @@
 #include "qorvex/base/text.h"
 
+#include <cstdio>
+#include <cstdlib>
 #include <random>
 
+#include "qorvex/base/vector_text.h"
+#include "support/random_vectors.h"
 #include "support/test.h"
 
 namespace qorvex {
+
+using testing::SameBits;
 
 TEST(Str2Float, RoundsCorrectly) {
   const std::pair<const char*, Extended> cases[] = {
@@ -54,6 +60,59 @@ TEST(Float2Str, RoundTrips) {
     const Extended value =
         std::ldexp(static_cast<Extended>(engine()), static_cast<int>(engine() % 32'830) - 16'510);
     ASSERT_EQ(Str2Float(Float2Str(value)), value);
+  }
+}
+
+// Random digits of any number; integers and halves, which are halfway between two values if they
+// have one bit more than the mantissa of the type, and numbers just beside them.
+std::string RandomNumber(std::mt19937_64& engine) {
+  std::string text = engine() % 3 == 0 ? "-" : "";
+  const auto append_digits = [&] {
+    const bool zeros = engine() % 4 == 0;
+    for (std::size_t n = engine() % (engine() % 4 == 0 ? 50 : 12); n > 0; --n)
+      text += zeros && engine() % 8 != 0 ? '0' : static_cast<char>('0' + engine() % 10);
+  };
+  if (engine() % 3 == 0) {
+    text += Int2EStr(engine() >> engine() % 64);
+    constexpr const char* ends[] = {"", ".5", ".50000", ".5000000000000000000000001",
+                                    ".4999999999999999999999999"};
+    text += ends[engine() % 5];
+  } else {
+    text += static_cast<char>('0' + engine() % 10);
+    append_digits();
+    if (engine() % 4 != 0) text += '.', append_digits();
+    if (engine() % 3 == 0)
+      text += 'e' + Int2EStr(static_cast<int>(engine() % 140) - (engine() % 9 == 0 ? 5000 : 70));
+  }
+  return text;
+}
+
+TEST(Str2Float, AgreesWithTheCLibrary) {
+  std::mt19937_64 engine(20261122);
+  for (int i = 0; i < 300'000; ++i) {
+    const std::string text = RandomNumber(engine);
+    ASSERT_TRUE(SameBits(Str2Float(text), std::strtold(text.c_str(), nullptr))) << text;
+    const double as_double = std::strtod(text.c_str(), nullptr);
+    const float as_float = std::strtof(text.c_str(), nullptr);
+    if (!std::isfinite(as_float)) continue;
+    ASSERT_TRUE(SameBits(Str2Vector<double>('[' + text + ']')[0], as_double)) << text;
+    ASSERT_TRUE(SameBits(Str2Vector<float>('[' + text + ']')[0], as_float)) << text;
+  }
+}
+
+TEST(Float2EStr, AgreesWithTheCLibrary) {
+  std::mt19937_64 engine(20261123);
+  for (int i = 0; i < 150'000; ++i) {
+    const int decimals = static_cast<int>(engine() % (engine() % 8 == 0 ? 120 : 24));
+    Extended value = std::ldexp(static_cast<Extended>(engine() >> engine() % 64),
+                                -static_cast<int>(engine() % 140));
+    if (engine() % 4 == 0) value = (std::floor(value) + 0.5L) / std::pow(10.0L, decimals);
+    if (engine() % 4 == 0) value = std::nextafter(std::round(value), 0.0L);
+    char expected[300];
+    std::snprintf(expected, sizeof expected, "%.*Lf", decimals, value);
+    ASSERT_EQ(Float2EStr(value, decimals), expected);
+    const bool is_zero = std::strspn(expected, "0.") == std::strlen(expected);
+    ASSERT_EQ(Float2EStr(-value, decimals), std::string(is_zero ? "" : "-") + expected);
   }
 }
 
