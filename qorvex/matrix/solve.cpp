@@ -230,7 +230,8 @@ class Solver {
     Floats residual(b.size());
     ExactFactors row(order_);
     for (std::size_t i = 0; i < order_; ++i) {
-      row.Assign([&](std::size_t j) { return static_cast<Extended>(matrix_[i][j]); });
+      const T* const elements = matrix_[i].data();
+      row.Assign([&](std::size_t j) { return static_cast<Extended>(elements[j]); });
       for (std::size_t side = 0; side < kSides; ++side) {
         const std::size_t k = i * kSides + side;
         residual[k] = row.SumOfProducts(b[k] * scales[side], columns[side]) * (1 / scales[side]);
