@@ -31,4 +31,13 @@ void ForEachIndex(std::size_t count, std::size_t threads, const Function& functi
   });
 }
 
+/// Divides the indices below the count into at most that many blocks of nearly the same length, and
+/// calls function(block, begin, end) for each of them, on a thread of its own.
+template <class Function>
+void ForEachBlock(std::size_t count, std::size_t threads, const Function& function) {
+  const std::size_t blocks = std::clamp<std::size_t>(count, 1, threads);
+  ForEachIndex(blocks, blocks,
+               [&](std::size_t i) { function(i, count * i / blocks, count * (i + 1) / blocks); });
+}
+
 }  // namespace qorvex::apps

@@ -76,6 +76,12 @@ void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::str
       ->option_text("N (0 to 255)");
 }
 
+CLI::Option* AddThreads(CLI::App& command, unsigned& threads, const std::string& description) {
+  return command.add_option("--threads", threads, description)
+      ->check(CLI::Range(1U, kMostThreads))
+      ->option_text("N (1 to 256)");
+}
+
 void AddJson(CLI::App& command, bool& json) {
   command.add_flag("--json", json,
                    "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"

@@ -9,8 +9,6 @@ namespace qorvex::apps {
 
 namespace {
 
-constexpr unsigned kMostThreads = 256;
-
 std::vector<WrittenNumber> ParseProbabilities(std::string_view list) {
   std::vector<WrittenNumber> probabilities;
   for (;;) {
@@ -69,12 +67,9 @@ void DescribeOptions::AddTo(CLI::App& command) {
                     confidence)
           .excludes(all_values);
   CLI::Option* const thread_count =
-      command
-          .add_option("--threads", threads,
-                      "Threads that read the table and compute the figures; the result is the\n"
-                      "same. Default: 1")
-          ->check(CLI::Range(1U, kMostThreads))
-          ->option_text("N (1 to 256)");
+      AddThreads(command, threads,
+                 "Threads that read the table and compute the figures; the result is the\n"
+                 "same. Default: 1");
   command
       .add_flag("--classic", classic,
                 "Compute with the classic routines, whose sums are rounded at each step and\n"

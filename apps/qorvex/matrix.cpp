@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <exception>
 #include <memory>
 #include <optional>
 #include <string>
@@ -9,6 +10,7 @@
 #include "apps/common/input_error.h"
 #include "apps/common/matrix_reader.h"
 #include "apps/common/text_input.h"
+#include "apps/common/threads.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/matrix_operations.h"
@@ -37,6 +39,7 @@ struct MatrixArguments {
   std::vector<std::string> files;
   MatrixLayout layout;
   std::optional<int> decimals;
+  unsigned threads = 1;
 };
 
 bool AllFinite(const TQorFloatMatrix& matrix) {
@@ -68,10 +71,10 @@ std::string Names(const std::vector<std::string>& files) {
 }
 
 TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
-                        const std::string& names) {
+                        const std::string& names, unsigned threads) {
   TQorFloatMatrix result;
   try {
-    result = operation.compute(operands);
+    result = operation.compute(operands, threads);
   } catch (const EMathError& error) {
     throw InputError(InputFault::kNoResult, names, WhatIsWrong(error, operands));
   }
@@ -93,20 +96,40 @@ TQorFloatMatrix Read(const std::string& file, const MatrixLayout& layout) {
   }
 }
 
-std::string TextOf(const TQorFloatMatrix& matrix, std::optional<int> decimals) {
-  std::string text;
-  for (const TQorFloatVector& row : matrix) AppendLine(text, row, decimals);
-  return text;
+// Both files at once if there are two threads. Of two errors, that of the first file is thrown.
+Matrices ReadAll(const MatrixArguments& arguments) {
+  Matrices operands(arguments.files.size());
+  std::vector<std::exception_ptr> errors(operands.size());
+  ForEachIndex(operands.size(), arguments.threads, [&](std::size_t i) {
+    try {
+      operands[i] = Read(arguments.files[i], arguments.layout);
+    } catch (...) {
+      errors[i] = std::current_exception();
+    }
+  });
+  for (const std::exception_ptr& error : errors) {
+    if (error != nullptr) std::rethrow_exception(error);
+  }
+  return operands;
+}
+
+void Write(const TQorFloatMatrix& matrix, const MatrixArguments& arguments) {
+  std::vector<std::string> texts(arguments.threads);
+  ForEachBlock(matrix.size(), arguments.threads,
+               [&](std::size_t block, std::size_t begin, std::size_t end) {
+                 for (std::size_t i = begin; i < end; ++i)
+                   AppendLine(texts[block], matrix[i], arguments.decimals);
+               });
+  for (const std::string& text : texts) WritePart(text);
+  WriteResult("");
 }
 
 void Run(const MatrixOperation& operation, const MatrixArguments& arguments) {
   if (std::ranges::count(arguments.files, "-") > 1) {
     throw CLI::ValidationError("LEFT and RIGHT cannot both be standard input");
   }
-  Matrices operands;
-  for (const std::string& file : arguments.files) operands.push_back(Read(file, arguments.layout));
-  const TQorFloatMatrix result = Compute(operation, operands, Names(arguments.files));
-  WriteResult(TextOf(result, arguments.decimals));
+  Matrices operands = ReadAll(arguments);
+  Write(Compute(operation, operands, Names(arguments.files), arguments.threads), arguments);
 }
 
 Extended ParseTolerance(const std::string& text) {
@@ -137,6 +160,9 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
     AddDecimals(command, arguments->decimals,
                 "Decimals of the result. Default: the shortest text that keeps all 80 bits");
   }
+  AddThreads(command, arguments->threads,
+             "Threads that read two matrices, multiply and format the result, which is the\n"
+             "same; an elimination takes one. Default: 1");
   if (operation.takes_tolerance) {
     command
         .add_option_function<std::string>(

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <span>
 
+#include "apps/common/threads.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/matrix/QorvexMatrix.h"
 
@@ -20,32 +22,39 @@ TQorFloatMatrix WithUnsignedZeros(TQorFloatMatrix matrix) {
   return matrix;
 }
 
-TQorFloatMatrix Inverse(Matrices& operands) {
+TQorFloatMatrix Inverse(Matrices& operands, unsigned) {
   TQorFloatMatrix inverse;
   if (!MatrixInverse(operands[0], inverse)) RaiseMathError(rsNoInvert);
   return WithUnsignedZeros(inverse);
 }
 
-TQorFloatMatrix Determinant(Matrices& operands) {
+TQorFloatMatrix Determinant(Matrices& operands, unsigned) {
   return WithUnsignedZeros(SingleElement(MatrixDeterminant(operands[0])));
 }
 
-TQorFloatMatrix Rank(Matrices& operands) {
+TQorFloatMatrix Rank(Matrices& operands, unsigned) {
   std::uint32_t rank = 0;
   RowEchelonFormRank(operands[0], rank);
   return SingleElement(rank);
 }
 
-TQorFloatMatrix Echelon(Matrices& operands) {
+TQorFloatMatrix Echelon(Matrices& operands, unsigned) {
   RowEchelonForm(operands[0]);
   return WithUnsignedZeros(operands[0]);
 }
 
-TQorFloatMatrix Multiply(Matrices& operands) {
-  return MultiplyMatrices(operands[0], operands[1]);
+// The rows of a product do not depend on one another, so each thread computes a block of them.
+TQorFloatMatrix Multiply(Matrices& operands, unsigned threads) {
+  const TQorFloatMatrix& left = operands[0];
+  auto product = TQorFloatMatrix::WithLength(left.size());
+  ForEachBlock(left.size(), threads, [&](std::size_t, std::size_t begin, std::size_t end) {
+    const TQorFloatMatrix rows(std::span(left.begin() + begin, left.begin() + end));
+    std::ranges::copy(MultiplyMatrices(rows, operands[1]), product.begin() + begin);
+  });
+  return product;
 }
 
-TQorFloatMatrix Transpose(Matrices& operands) {
+TQorFloatMatrix Transpose(Matrices& operands, unsigned) {
   return TransposeMatrix(operands[0]);
 }
 

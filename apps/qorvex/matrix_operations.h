@@ -23,8 +23,9 @@ struct MatrixOperation {
   bool takes_tolerance = false;
   bool takes_decimals = true;
   /// Takes one or two rectangular matrices and may change them. Throws EMathError for shapes that
-  /// do not match and for a matrix without an inverse.
-  TQorFloatMatrix (*compute)(Matrices& operands);
+  /// do not match and for a matrix without an inverse. The result does not depend on the number of
+  /// threads.
+  TQorFloatMatrix (*compute)(Matrices& operands, unsigned threads);
   const char* help;
 };
 

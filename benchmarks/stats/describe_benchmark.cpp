@@ -9,6 +9,7 @@
 
 #include "qorvex/stats/QorvexStatistics.h"
 #include "qorvex/stats/descriptive_stats.h"
+#include "qorvex/stats/exact/exact_sample.h"
 #include "qorvex/vector/building.h"
 #include "support/compare.h"
 
@@ -30,6 +31,11 @@ void RegisterVariance() {
       squares += difference * difference;
     }
     return squares / static_cast<Extended>(v.size() - 1);
+  });
+  Compare<T>("SampleVariance", "ExactSample", [](const TQorVector<T>& v) {
+    ExactSample<2> sample;
+    sample.Add(v);
+    return sample.SampleVariance();
   });
 }
 

@@ -51,7 +51,10 @@ class RatioReporter : public benchmark::BenchmarkReporter {
       const auto ours = times.find("ours");
       if (ours == times.end()) continue;
       std::printf("| %s | %s | %zu | %.*f |", key.routine.c_str(), key.type.c_str(), key.size,
-                  ours->second < 1 ? 3 : 2, ours->second);
+                  ours->second < 0.1 ? 4
+                  : ours->second < 1 ? 3
+                                     : 2,
+                  ours->second);
       const char* separator = " ";
       for (const auto& [who, time] : times) {
         if (who == "ours") continue;

@@ -7,6 +7,7 @@
 #include <gsl/gsl_statistics_long_double.h>
 #include <numeric>
 
+#include "qorvex/stats/exact/exact_sum.h"
 #include "qorvex/vector/QorvexVector.h"
 #include "support/compare.h"
 #include "support/integer_loops.h"
@@ -41,6 +42,14 @@ void RegisterSum(std::initializer_list<std::size_t> sizes = kSizes, MakeSample<T
     }
   };
   Compare<T>(routine, IntegerElement<T> ? "loop" : "std::accumulate", loop, make, sizes);
+  if constexpr (FloatElement<T>) {
+    const auto exact = [](const TQorVector<T>& v) {
+      ExactSum sum;
+      sum.Add(v);
+      return sum.Round();
+    };
+    Compare<T>(routine, "ExactSum", exact, make);
+  }
 }
 
 template <NumericElement T>

@@ -19,7 +19,7 @@ namespace qorvex::inline QorvexMatrix {
 ///   empty; rsMatrixIsEmpty if a matrix has no rows; rsMatrixMult if the number of columns of a
 ///   differs from the number of rows of b; with the shape switch off rsMatrixRect if a row is
 ///   shorter than the first row of its matrix.
-/// - O(rows of a x columns of a x columns of b), with up to 128 bytes of working memory per column
+/// - O(rows of a x columns of a x columns of b), with up to 256 bytes of working memory per column
 ///   of a. For floating elements.
 template <FloatElement T>
 [[nodiscard]] QORVEX_EXPORT TQorMatrix<T> MultiplyMatrices(const TQorMatrix<T>& a,

@@ -25,7 +25,7 @@
 ///   shorter than the first; the same for a matrix b, except rsMatrixSqr; rsSameDimensions if the
 ///   number of elements of a vector b, or of rows of a matrix b, differs from the rows of a.
 /// - O(order^3) for the elimination and O(order^2) for each right-hand side, with working memory of
-///   up to three extended matrices of that order. For floating elements.
+///   up to three extended matrices of that order and 600 bytes per row. For floating elements.
 ///
 /// Source: Golub and Van Loan 2013, "Matrix Computations", 3.4 and 3.5.3; residuals as in Ogita,
 /// Rump and Oishi 2005, "Accurate sum and dot product".

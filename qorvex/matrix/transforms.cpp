@@ -4,6 +4,7 @@
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/matrix/detail/checks.h"
+#include "qorvex/vector/detail/amount_transform.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
 
 namespace qorvex::inline QorvexMatrix {
@@ -34,7 +35,11 @@ void LinearTransformMatrix(TQorMatrix<T>& matrix, ScalarOf<FactorOf<T>> multipli
                            ScalarOf<FactorOf<T>> offset) {
   detail::RequireRows(matrix);
   for (TQorVector<T>& row : matrix) {
-    for (T& x : row) x = QorvexVector::detail::ProductPlus(x, multiplier, offset);
+    if constexpr (CurrencyElement<T>) {
+      QorvexVector::detail::TransformAmounts<T>(row, multiplier, offset);
+    } else {
+      for (T& x : row) x = QorvexVector::detail::ProductPlus(x, multiplier, offset);
+    }
   }
 }
 

@@ -17,6 +17,7 @@ using detail::Cube;
 using detail::FourthPower;
 using detail::RequireSpread;
 using detail::Square;
+using QorvexVector::detail::Int64Sum;
 using QorvexVector::detail::RequireElements;
 using QorvexVector::detail::WrappingMultiply;
 
@@ -39,7 +40,7 @@ void ForEachClass(VectorView<std::uint32_t> freq, const Classes& classes, Visit 
   const Extended half_width = classes.width / 2;
   for (std::size_t i = 0; i < freq.size(); ++i) {
     const auto index = static_cast<Extended>(static_cast<std::int64_t>(i));
-    visit(static_cast<Extended>(freq[i]), index * classes.width + classes.lower_bound + half_width);
+    visit(freq[i], index * classes.width + classes.lower_bound + half_width);
   }
 }
 
@@ -47,8 +48,9 @@ void ForEachClass(VectorView<std::uint32_t> freq, const Classes& classes, Visit 
 template <class Value>
 Extended WeightedSum(VectorView<std::uint32_t> freq, const Classes& classes, Value value) {
   Extended sum = 0;
-  ForEachClass(freq, classes,
-               [&](Extended frequency, Extended midpoint) { sum += frequency * value(midpoint); });
+  ForEachClass(freq, classes, [&](std::uint32_t frequency, Extended midpoint) {
+    sum += static_cast<Extended>(frequency) * value(midpoint);
+  });
   return sum;
 }
 
@@ -57,19 +59,14 @@ template <class Power>
 Extended UnweightedSum(VectorView<std::uint32_t> freq, const Classes& classes, Extended mean,
                        Power power) {
   Extended sum = 0;
-  ForEachClass(freq, classes, [&](Extended, Extended midpoint) { sum += power(midpoint - mean); });
+  ForEachClass(freq, classes,
+               [&](std::uint32_t, Extended midpoint) { sum += power(midpoint - mean); });
   return sum;
 }
 
-Extended Mean(VectorView<std::uint32_t> freq, const Classes& classes, std::int64_t total) {
-  if (total == 0) return 0;
-  return WeightedSum(freq, classes, [](Extended midpoint) { return midpoint; }) /
-         static_cast<Extended>(total);
-}
-
 // The sum of the squared differences from the mean.
-Extended SumOfSquares(VectorView<std::uint32_t> freq, const Classes& classes, std::int64_t total) {
-  const Extended mean = Mean(freq, classes, total);
+Extended SumOfSquares(VectorView<std::uint32_t> freq, const Classes& classes) {
+  const Extended mean = GroupedMean(freq, classes.lower_bound, classes.width);
   return WeightedSum(freq, classes, [mean](Extended midpoint) { return Square(midpoint - mean); });
 }
 
@@ -113,7 +110,15 @@ std::int64_t RequireTotal(VectorView<std::uint32_t> freq, std::int64_t least, Me
 }  // namespace
 
 Extended GroupedMean(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width) {
-  return Mean(freq, {lower_bound, width}, SumVector(freq));
+  RequireElements(freq);
+  // Both sums in one pass: the second one costs nothing beside the first.
+  Extended sum = 0;
+  Int64Sum total;
+  ForEachClass(freq, {lower_bound, width}, [&](std::uint32_t frequency, Extended midpoint) {
+    sum += static_cast<Extended>(frequency) * midpoint;
+    total.Add(frequency);
+  });
+  return total.Value() == 0 ? 0 : sum / static_cast<Extended>(total.Value());
 }
 
 Extended GroupedMedian(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width) {
@@ -180,14 +185,14 @@ Extended GroupedSampleVariance(VectorView<std::uint32_t> freq, Extended lower_bo
                                Extended width) {
   const std::int64_t total = SumVector(freq);
   if (total < 2) return 0;
-  return SumOfSquares(freq, {lower_bound, width}, total) / static_cast<Extended>(total - 1);
+  return SumOfSquares(freq, {lower_bound, width}) / static_cast<Extended>(total - 1);
 }
 
 Extended GroupedPopulationVariance(VectorView<std::uint32_t> freq, Extended lower_bound,
                                    Extended width) {
   const std::int64_t total = SumVector(freq);
   if (total == 0) return 0;
-  return SumOfSquares(freq, {lower_bound, width}, total) / static_cast<Extended>(total);
+  return SumOfSquares(freq, {lower_bound, width}) / static_cast<Extended>(total);
 }
 
 Extended GroupedSampleStdDev(VectorView<std::uint32_t> freq, Extended lower_bound, Extended width) {
@@ -204,9 +209,9 @@ void GroupedSums(VectorView<std::uint32_t> freq, Extended lower_bound, Extended 
   RequireElements(freq);
   Extended values = 0;
   Extended squares = 0;
-  ForEachClass(freq, {lower_bound, width}, [&](Extended frequency, Extended midpoint) {
-    values += frequency * midpoint;
-    squares += frequency * Square(midpoint);
+  ForEachClass(freq, {lower_bound, width}, [&](std::uint32_t frequency, Extended midpoint) {
+    values += static_cast<Extended>(frequency) * midpoint;
+    squares += static_cast<Extended>(frequency) * Square(midpoint);
   });
   sum = values;
   sum_sq = squares;

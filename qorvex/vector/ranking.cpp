@@ -53,6 +53,8 @@ void RankBySorting(VectorView<T> vector, bool ascending, TQorLIntVector& ranks) 
   std::size_t first_equal = 0;
   T first_value = vector[sorted.Index(0)];
   for (std::size_t position = 0; position < vector.size(); ++position) {
+    sorted.Prefetch(position, vector.data());
+    sorted.Prefetch(position, ranks.data());
     const T x = vector[sorted.Index(position)];
     if (!AreEqual(x, x)) break;  // NaN, like all elements that follow
     while (!AreEqual(first_value, x)) first_value = vector[sorted.Index(++first_equal)];

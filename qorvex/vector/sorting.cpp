@@ -46,17 +46,6 @@ bool SortRun(T* elements, std::size_t count, bool ascending) {
   return true;
 }
 
-// Converts between unsigned and signed integers in the same order, or between the bits of floating
-// elements and such integers: flips the sign, or the other bits if the sign is set.
-template <AnyElement T, class Key>
-void ConvertKeys(Key* keys, std::size_t count) {
-  constexpr int sign_bit = 8 * sizeof(Key) - 1;
-  constexpr Key lowest = std::numeric_limits<Key>::min();
-  for (std::size_t i = 0; i < count; ++i) {
-    keys[i] ^= FloatElement<T> ? (keys[i] >> sign_bit) & ~lowest : lowest;
-  }
-}
-
 // Sorts elements in ascending order, and returns the number of those that are not NaN.
 template <AnyElement T>
 class Sorter {
@@ -64,33 +53,33 @@ class Sorter {
   explicit Sorter(std::size_t most) : sorter_(most) {}
 
   std::size_t Sort(T* elements, std::size_t count) {
-    // The bytes become keys and back; copying bytes creates the new objects.
+    // Copying bytes turns the elements into keys, and back.
+    void* const bytes = elements;
     Key* const keys =
-        std::launder(static_cast<Key*>(std::memmove(elements, elements, count * sizeof(T))));
-    if constexpr (kConverts) ConvertKeys<T>(keys, count);
-    sorter_.Sort(keys, count);
-    std::size_t numbers = count;
+        std::launder(static_cast<Key*>(std::memmove(bytes, bytes, count * sizeof(T))));
+    if constexpr (std::unsigned_integral<T>) FlipSigns(keys, count);
+    sorter_.Sort(keys, count,
+                 FloatElement<T> ? detail::KeyForm::kFloatBits : detail::KeyForm::kInteger);
+    if constexpr (std::unsigned_integral<T>) FlipSigns(keys, count);
+    elements = std::launder(static_cast<T*>(std::memmove(bytes, bytes, count * sizeof(T))));
     if constexpr (FloatElement<T>) {
       // NaN with a sign sorts before the numbers, others behind them.
       constexpr T infinity = std::numeric_limits<T>::infinity();
-      Key* const first = std::lower_bound(keys, keys + count, KeyOf(-infinity));
-      Key* const last = std::upper_bound(first, keys + count, KeyOf(infinity));
-      std::rotate(keys, first, last);
-      numbers = static_cast<std::size_t>(last - first);
+      constexpr auto before = detail::SortsBefore<T>;
+      T* const first = std::lower_bound(elements, elements + count, -infinity, before);
+      T* const last = std::upper_bound(first, elements + count, infinity, before);
+      std::rotate(elements, first, last);
+      return static_cast<std::size_t>(last - first);
     }
-    if constexpr (kConverts) ConvertKeys<T>(keys, count);
-    return numbers;
+    return count;
   }
 
  private:
   using Key = std::make_signed_t<typename detail::SortKey<T>::Key>;
-  static constexpr bool kConverts = FloatElement<T> || std::unsigned_integral<T>;
 
-  static Key KeyOf(T value) noexcept {
-    Key key;
-    std::memcpy(&key, &value, sizeof key);
-    ConvertKeys<T>(&key, 1);
-    return key;
+  // Converts unsigned integers into signed ones in the same order, or back.
+  static void FlipSigns(Key* keys, std::size_t count) {
+    for (std::size_t i = 0; i < count; ++i) keys[i] ^= std::numeric_limits<Key>::min();
   }
 
   detail::KeySorter<Key> sorter_;
@@ -131,28 +120,32 @@ requires(sizeof(T) == 1) class Sorter<T> {
   static constexpr std::size_t kLeastToCount = 64;
 };
 
-// Extended elements are moved by their sorted indices, or, if there are few, sorted as keys of 16
-// bytes. Everything is allocated before an element is moved.
-void SortExtended(TQorFloatVector& vector, bool ascending) {
-  using Keys = detail::SortKey<Extended>;
-  constexpr std::size_t most_keys = 32;
+// Moves the elements by their sorted indices. Everything is allocated before an element is moved.
+void SortByIndices(TQorFloatVector& vector, bool ascending) {
   Extended* const elements = vector.data();
-  if (vector.size() <= most_keys) {
-    std::array<Keys::Key, most_keys> keys;
-    Extended* const end =
-        std::partition(elements, elements + vector.size(), [](Extended x) { return x == x; });
-    const auto numbers = static_cast<std::size_t>(end - elements);
-    for (std::size_t i = 0; i < numbers; ++i) keys[i] = Keys::Read(elements + i);
-    detail::QuickSort(keys.data(), keys.data() + numbers);
-    if (!ascending) std::reverse(keys.data(), keys.data() + numbers);
-    for (std::size_t i = 0; i < numbers; ++i) elements[i] = Keys::Value(keys[i]);
-    return;
-  }
   const detail::SortedIndices<Extended> sorted(
       vector.size(), ascending, [=](std::size_t i) -> const Extended& { return elements[i]; });
   const TQorFloatVector copy = CopyVector(vector);
   for (std::size_t i = 0; i < vector.size(); ++i) {
+    sorted.Prefetch(i, copy.data());
     std::memcpy(elements + i, copy.data() + sorted.Index(i), sizeof(Extended));
+  }
+}
+
+constexpr std::size_t kMostOfFew = 16;
+
+template <AnyElement T>
+void SortFew(T* elements, std::size_t count, bool ascending) {
+  using Keys = detail::SortKey<T>;
+  std::array<typename Keys::Key, kMostOfFew> keys;
+  if constexpr (FloatElement<T>) {
+    T* const end = std::partition(elements, elements + count, [](T x) { return x == x; });
+    count = static_cast<std::size_t>(end - elements);
+  }
+  for (std::size_t i = 0; i < count; ++i) keys[i] = Keys::Read(elements + i);
+  detail::InsertionSort(keys.data(), keys.data() + count);
+  for (std::size_t i = 0; i < count; ++i) {
+    elements[i] = Keys::Value(keys[ascending ? i : count - 1 - i]);
   }
 }
 
@@ -161,13 +154,13 @@ void SortExtended(TQorFloatVector& vector, bool ascending) {
 template <AnyElement T>
 void QSortVector(TQorVector<T>& vector, bool ascending) {
   const std::size_t count = vector.size();
-  if (count < 2) return;
   T* const elements = vector.data();
+  if (count <= kMostOfFew) return SortFew(elements, count, ascending);
   const bool ends_are_numbers =
       elements[0] == elements[0] && elements[count - 1] == elements[count - 1];
   if (ends_are_numbers && SortRun(elements, count, ascending)) return;
   if constexpr (std::is_same_v<T, Extended>) {
-    SortExtended(vector, ascending);
+    SortByIndices(vector, ascending);
   } else {
     const std::size_t numbers = Sorter<T>(count).Sort(elements, count);
     if (!ascending) Reverse(elements, elements + numbers);

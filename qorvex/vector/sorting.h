@@ -16,7 +16,7 @@ namespace qorvex::inline QorvexVector {
 /// - n = 0 and n = 1: nothing happens.
 /// - O(n) for elements that are in either order already and for elements of one byte, else at most
 ///   O(n log n). The depth of the stack does not depend on the data.
-/// - Memory: Extended elements, if there are more than 32, take 24 bytes each (32 on a processor
+/// - Memory: Extended elements, if there are more than 16, take 24 bytes each (32 on a processor
 ///   without AVX2). Elements of four and eight bytes are sorted in place; without AVX2, 400 or more
 ///   take as much memory as they have, and so do elements of two bytes on every processor. If an
 ///   allocation fails, std::bad_alloc is thrown and the vector is unchanged.

@@ -7,6 +7,7 @@
 
 #include "qorvex/base/vector_types.h"
 #include "qorvex/matrix/detail/rounded_products.h"
+#include "qorvex/matrix/detail/small_memory.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -56,7 +57,8 @@ class DirectRows {
   };
 
   std::size_t cols_;
-  std::vector<Row> rows_;
+  SmallMemory memory_;
+  std::pmr::vector<Row> rows_{memory_.get()};
 };
 
 }  // namespace qorvex::inline QorvexMatrix::detail

@@ -11,6 +11,7 @@
 #include "qorvex/matrix/detail/copy_element.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/rounded_products.h"
+#include "qorvex/matrix/detail/small_memory.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -26,7 +27,7 @@ class InverseSteps : public Observer {
  public:
   // inverse is the identity, and keeps its row buffers.
   explicit InverseSteps(TQorMatrix<T>& inverse)
-      : origins_(inverse.size()), scratch_(TQorVector<T>::ForOverwrite(inverse.size())) {
+      : origins_(inverse.size(), memory_.get()), scratch_(inverse.size(), memory_.get()) {
     rows_.reserve(inverse.size());
     for (TQorVector<T>& row : inverse) rows_.push_back(row.data());
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
@@ -70,10 +71,11 @@ class InverseSteps : public Observer {
   }
 
  private:
-  std::vector<T*> rows_;
+  SmallMemory memory_;
+  std::pmr::vector<T*> rows_{memory_.get()};
   // Column i is column origins_[i] of the inverse unless the columns are in order.
-  std::vector<std::size_t> origins_;
-  TQorVector<T> scratch_;
+  std::pmr::vector<std::size_t> origins_;
+  std::pmr::vector<T> scratch_;
   bool is_in_order_ = false;
   bool pivots_are_finite_ = true;
 };

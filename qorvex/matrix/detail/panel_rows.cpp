@@ -10,10 +10,10 @@ namespace qorvex::inline QorvexMatrix::detail {
 PanelRows::PanelRows(TQorFloatMatrix& matrix, std::size_t cols)
     : cols_(cols),
       words_(WordsFor(std::min(matrix.size(), cols))),
-      rows_(matrix.size(), &memory_),
-      cleared_(matrix.size(), &memory_),
-      added_(matrix.size() * words_, &memory_),
-      recurrence_(matrix.size(), &memory_) {
+      rows_(matrix.size(), Memory()),
+      cleared_(matrix.size(), Memory()),
+      added_(matrix.size() * words_, Memory()),
+      recurrence_(matrix.size(), Memory()) {
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     Extended* const elements = matrix[i].data();
     rows_[i] = {.elements = elements, .factors = elements, .added = &added_[i * words_]};

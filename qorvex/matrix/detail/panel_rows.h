@@ -1,7 +1,6 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
 #include <cassert>
 #include <cstddef>
 #include <memory_resource>
@@ -10,6 +9,7 @@
 
 #include "qorvex/base/vector_types.h"
 #include "qorvex/matrix/detail/recurrence.h"
+#include "qorvex/matrix/detail/small_memory.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -27,10 +27,8 @@ namespace qorvex::inline QorvexMatrix::detail {
 class PanelRows {
  public:
   PanelRows(TQorFloatMatrix& matrix, std::size_t cols);
-  PanelRows(const PanelRows&) = delete;
-  PanelRows& operator=(const PanelRows&) = delete;
 
-  // Must be called before anything else is done to the column.
+  // Brings the column up to date. Comes before anything else is done to it.
   void BeginColumn(std::size_t col) {
     if (col == panel_end_) ComputePanel();
   }
@@ -54,16 +52,13 @@ class PanelRows {
 
  protected:
   [[nodiscard]] std::span<const RecurrentRow> Rows() const { return rows_; }
-  [[nodiscard]] std::size_t Cols() const { return cols_; }
-  [[nodiscard]] std::pmr::memory_resource* Memory() { return &memory_; }
+  [[nodiscard]] std::pmr::memory_resource* Memory() { return memory_.get(); }
   Recurrence& Columns() { return recurrence_; }
 
  private:
   void ComputePanel();
 
-  // Enough for small matrices.
-  std::array<std::byte, 4096> buffer_;
-  std::pmr::monotonic_buffer_resource memory_{buffer_.data(), buffer_.size()};
+  SmallMemory memory_;
   std::size_t cols_;
   std::size_t panel_end_ = 0;
   std::size_t sources_ = 0;

@@ -13,7 +13,7 @@
 
 namespace qorvex::inline QorvexMatrix::detail {
 
-// A set of small numbers.
+// Part of a set of small numbers.
 using Bits = std::uint64_t;
 inline constexpr std::size_t kBits = 64;
 [[nodiscard]] constexpr std::size_t WordsFor(std::size_t bits) {
@@ -38,7 +38,7 @@ struct RecurrentRow {
 // Computes columns of recurrent rows.
 class Recurrence {
  public:
-  // For as many rows.
+  // For at most this many rows.
   Recurrence(std::size_t rows, std::pmr::memory_resource* memory)
       : split_(rows, memory), plain_(rows, memory) {}
 

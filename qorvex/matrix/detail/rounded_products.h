@@ -13,7 +13,7 @@
 namespace qorvex::inline QorvexMatrix::detail {
 
 // Shorter rows are left to AddElements, which is then faster.
-inline constexpr std::size_t kLeastRoundedProducts = 8;
+inline constexpr std::size_t kLeastRoundedProducts = 16;
 
 // target[i] = source[i] * factor + target[i] for at least kLeastRoundedProducts elements. The
 // source may be the target, but must not overlap it otherwise.

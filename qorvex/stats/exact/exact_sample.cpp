@@ -7,6 +7,7 @@
 #include "qorvex/stats/exact/detail/extremes.h"
 #include "qorvex/stats/exact/detail/integer_sums.h"
 #include "qorvex/stats/exact/detail/windowed_sum.h"
+#include "qorvex/vector/detail/extreme_values.h"
 
 namespace qorvex {
 
@@ -83,16 +84,12 @@ void ExactSample<kPowerSums>::AddIntegers(VectorView<T> values, int decimals) {
   ExactSample part;
   part.decimals_ = decimals;
   part.finite_ = values.size();
-  AddIntegerPowers<kPowerSums>(std::span<const T>(values), part.sums_.data());
-  auto least = IntegerOf(values.front());
-  auto greatest = least;
-  for (const T x : values) {  // without branches, unlike std::ranges::minmax
-    least = std::min(least, IntegerOf(x));
-    greatest = std::max(greatest, IntegerOf(x));
-  }
+  AddIntegerPowers<kPowerSums>(values, part.sums_.data());
+  const auto [smallest, largest] =
+      QorvexVector::detail::ExtremesOf(QorvexVector::detail::Numbers(values));
   const Dyadic unit = TenToThe(decimals);
-  part.minimum_ = Rational(least, unit).Round();
-  part.maximum_ = Rational(greatest, unit).Round();
+  part.minimum_ = Rational(smallest.value, unit).Round();
+  part.maximum_ = Rational(largest.value, unit).Round();
   Merge(part);
 }
 

@@ -32,7 +32,7 @@ void ExactSum::AddTerms(const std::array<const T*, kFactors>& factors, std::size
       Lane<kFactors, 1, true>::AddToTotal(x.mantissa, x.Exponent(), x.Sign() != 0, total_);
     }
   } else if constexpr (kFactors == 1 && IntegerElement<T>) {
-    AddIntegerPowers<1>(std::span(factors[0], count), &total_);
+    AddIntegerPowers<1, T>(std::span(factors[0], count), &total_);
   } else {
     WindowedSum<ProductLanes<kFactors>> sum(&total_);
     [[maybe_unused]] BlockSum<T> blocks(total_);

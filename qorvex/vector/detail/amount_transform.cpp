@@ -1,5 +1,6 @@
 #include "qorvex/vector/detail/amount_transform.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstddef>
@@ -25,76 +26,99 @@ constexpr std::size_t kBlock = 64;
 constexpr int kMany = 16;
 constexpr int kSkippedBlocks = 15;
 
-// Adding 1.5 * 2^52 rounds a double below 2^51 to an integer, which is then in the low bits.
+// int32 amounts as doubles; and doubles rounded to int32, out of range to its smallest value.
+[[gnu::always_inline]] inline void Load(const std::int32_t* stored,
+                                        Register<double, 16>& x) noexcept {
+  x = _mm_cvtepi32_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(stored)));
+}
+[[gnu::always_inline]] inline void Round(const Register<double, 16>& x, std::int32_t* results,
+                                         Register<double, 16>& rounded) noexcept {
+  const __m128i integers = _mm_cvtpd_epi32(x);
+  _mm_storel_epi64(reinterpret_cast<__m128i*>(results), integers);
+  rounded = _mm_cvtepi32_pd(integers);
+}
+QORVEX_AVX2 inline void Load(const std::int32_t* stored, Register<double, 32>& x) noexcept {
+  x = _mm256_cvtepi32_pd(_mm_loadu_si128(reinterpret_cast<const __m128i*>(stored)));
+}
+QORVEX_AVX2 inline void Round(const Register<double, 32>& x, std::int32_t* results,
+                              Register<double, 32>& rounded) noexcept {
+  const __m128i integers = _mm256_cvtpd_epi32(x);
+  _mm_storeu_si128(reinterpret_cast<__m128i*>(results), integers);
+  rounded = _mm256_cvtepi32_pd(integers);
+}
+
+// The same for int64 amounts. Adding 1.5 * 2^52 rounds a double below 2^51 to an integer, which is
+// then in the low bits of the sum. The other way round, it makes doubles of integers, or doubles
+// beyond 2^51 of those out of range.
 constexpr double kRounder = 0x1.8p52;
-constexpr long long kRounderBits = 0x4338'0000'0000'0000;
-constexpr long long kRange = 1LL << 51;
+constexpr std::uint64_t kRounderBits = 0x4338'0000'0000'0000;
 
-inline int SignBits(const Register<long long, 16>& x) noexcept {
-  return _mm_movemask_pd(reinterpret_cast<__m128d>(x));
+template <class Doubles>
+[[gnu::always_inline]] inline void Load(const std::int64_t* stored, Doubles& x) noexcept {
+  using Integers = Register<std::uint64_t, sizeof(Doubles)>;
+  Integers integers;
+  std::memcpy(&integers, stored, sizeof integers);
+  x = reinterpret_cast<Doubles>(integers + kRounderBits) - kRounder;
 }
-QORVEX_AVX2 inline int SignBits(const Register<long long, 32>& x) noexcept {
-  return _mm256_movemask_pd(reinterpret_cast<__m256d>(x));
+template <class Doubles>
+[[gnu::always_inline]] inline void Round(const Doubles& x, std::int64_t* results,
+                                         Doubles& rounded) noexcept {
+  using Integers = Register<std::uint64_t, sizeof(Doubles)>;
+  const Doubles sum = x + kRounder;
+  rounded = sum - kRounder;
+  const Integers integers = reinterpret_cast<Integers>(sum) - kRounderBits;
+  std::memcpy(results, &integers, sizeof integers);
 }
 
-// Computes a block in registers of kBytes. Returns which results are not certain.
+inline unsigned SignBits(const Register<long long, 16>& x) noexcept {
+  return static_cast<unsigned>(_mm_movemask_pd(reinterpret_cast<__m128d>(x)));
+}
+QORVEX_AVX2 inline unsigned SignBits(const Register<long long, 32>& x) noexcept {
+  return static_cast<unsigned>(_mm256_movemask_pd(reinterpret_cast<__m256d>(x)));
+}
+
+// Replaces a block by its results, in registers of kBytes, and stores the originals. Returns which
+// results are not certain.
 template <std::size_t kBytes, class Stored>
-[[gnu::always_inline]] inline std::uint64_t Estimate(const Stored* stored, double slope,
-                                                     double intercept, Stored* results) noexcept {
+[[gnu::always_inline]] inline std::uint64_t Estimate(Stored* stored, Stored* originals,
+                                                     double slope, double intercept) noexcept {
   using Doubles = Register<double, kBytes>;
   using Integers = Register<long long, kBytes>;
   constexpr std::size_t kCount = kBytes / sizeof(double);
-  using Narrow = Register<Stored, kCount * sizeof(Stored)>;
   constexpr long long kMagnitude = 0x7FFF'FFFF'FFFF'FFFF;
-  const auto magnitude = [](const Doubles& x, Doubles& result) __attribute__((always_inline)) {
-    result = reinterpret_cast<Doubles>(reinterpret_cast<Integers>(x) & kMagnitude);
-  };
-  // The errors of both computations are less than 2^-51 of the terms' magnitudes.
+  // Both computations together are wrong by less than 2^-51 of the magnitudes of the two terms. An
+  // amount of 2^51 or more is uncertain even if the slope is small.
   constexpr double kError = 0x1p-50;
-  const double intercept_magnitude = std::fabs(intercept);
+  const double error_of_amount = std::max(std::fabs(slope) * kError, 0x1p-52);
+  const double most = 0.5 - std::fabs(intercept) * kError;
 
-  std::uint64_t uncertain = 0;
+  std::uint64_t certain = 0;
   for (std::size_t i = 0; i < kBlock; i += kCount) {
-    Narrow narrow;
-    std::memcpy(&narrow, stored + i, sizeof narrow);
+    std::memcpy(originals + i, stored + i, kCount * sizeof(Stored));
     Doubles x;
-    Integers in_range = Integers{} - 1;
-    if constexpr (sizeof(Stored) == 4) {
-      x = __builtin_convertvector(narrow, Doubles);
-    } else {
-      const auto integers = reinterpret_cast<Integers>(narrow);
-      x = reinterpret_cast<Doubles>(integers + kRounderBits) - kRounder;
-      in_range = (integers >= -kRange) & (integers < kRange);
-    }
-    const Doubles product = x * slope;
-    const Doubles value = product + intercept;
-    const Doubles shifted = value + kRounder;
-    const Doubles rounded = shifted - kRounder;
-    Doubles distance;
-    magnitude(value - rounded, distance);
-    Doubles terms;
-    magnitude(product, terms);
-    terms += intercept_magnitude;
-    Integers certain = in_range & (distance < 0.5 - terms * kError);
-    if constexpr (sizeof(Stored) == 4) certain &= (rounded >= -0x1p31) & (rounded < 0x1p31);
-    uncertain |= static_cast<std::uint64_t>(SignBits(~certain)) << i;
-    const Integers integers = reinterpret_cast<Integers>(shifted) - kRounderBits;
-    narrow = __builtin_convertvector(integers, Narrow);
-    std::memcpy(results + i, &narrow, sizeof narrow);
+    Load(stored + i, x);
+    const Doubles value = x * slope + intercept;
+    Doubles rounded;
+    Round(value, stored + i, rounded);
+    const auto magnitude = reinterpret_cast<Doubles>(reinterpret_cast<Integers>(x) & kMagnitude);
+    const auto distance =
+        reinterpret_cast<Doubles>(reinterpret_cast<Integers>(value - rounded) & kMagnitude);
+    const Integers is_certain = distance < most - magnitude * error_of_amount;
+    certain |= std::uint64_t{SignBits(is_certain)} << i;
   }
-  return uncertain;
+  return ~certain;
 }
 
 template <class Stored>
-QORVEX_AVX2 std::uint64_t EstimateAvx2(const Stored* stored, double slope, double intercept,
-                                       Stored* results) noexcept {
-  return Estimate<32>(stored, slope, intercept, results);
+QORVEX_AVX2 std::uint64_t EstimateAvx2(Stored* stored, Stored* originals, double slope,
+                                       double intercept) noexcept {
+  return Estimate<32>(stored, originals, slope, intercept);
 }
 
 template <class Stored>
-std::uint64_t EstimateBaseline(const Stored* stored, double slope, double intercept,
-                               Stored* results) noexcept {
-  return Estimate<16>(stored, slope, intercept, results);
+std::uint64_t EstimateBaseline(Stored* stored, Stored* originals, double slope,
+                               double intercept) noexcept {
+  return Estimate<16>(stored, originals, slope, intercept);
 }
 
 template <CurrencyElement T>
@@ -120,15 +144,15 @@ void TransformAmounts(std::span<T> amounts, Extended slope, Extended intercept) 
       TransformDirectly(block, slope, intercept);
       continue;
     }
-    Stored results[kBlock];
-    std::uint64_t uncertain = estimate(reinterpret_cast<const Stored*>(block.data()), near_slope,
-                                       near_intercept, results);
-    if (std::popcount(uncertain) > kMany) blocks_to_skip = kSkippedBlocks;
-    for (; uncertain != 0; uncertain &= uncertain - 1) {
+    Stored originals[kBlock];
+    auto* const stored = reinterpret_cast<Stored*>(block.data());
+    std::uint64_t uncertain = estimate(stored, originals, near_slope, near_intercept);
+    int repeated = 0;
+    for (; uncertain != 0; uncertain &= uncertain - 1, ++repeated) {
       const auto i = static_cast<std::size_t>(std::countr_zero(uncertain));
-      results[i] = LinearTransform(block[i], slope, intercept).stored();
+      block[i] = LinearTransform(T(originals[i]), slope, intercept);
     }
-    std::memcpy(static_cast<void*>(block.data()), results, sizeof results);
+    if (repeated > kMany) blocks_to_skip = kSkippedBlocks;
   }
   TransformDirectly(amounts, slope, intercept);
 }

@@ -81,10 +81,15 @@ class KeySorter {
                      ? DynArray<Key>()
                      : DynArray<Key>::ForOverwrite(most)) {}
 
-  void Sort(Key* keys, std::size_t count) {
+  void Sort(Key* keys, std::size_t count, KeyForm form = KeyForm::kInteger) {
     if constexpr (kHasVectorQuickSort<Key>) {
-      if (instructions_ == Instructions::kAvx512) return VectorQuickSortAvx512(keys, count);
-      if (instructions_ == Instructions::kAvx2) return VectorQuickSortAvx2(keys, count);
+      if (instructions_ == Instructions::kAvx512) return VectorQuickSortAvx512(keys, count, form);
+      if (instructions_ == Instructions::kAvx2) return VectorQuickSortAvx2(keys, count, form);
+      if (form == KeyForm::kFloatBits) {
+        FlipNegatives(keys, count);
+        Sort(keys, count);
+        return FlipNegatives(keys, count);
+      }
     }
     if (count < kShortestRadixSort) {
       QuickSort(keys, keys + count);

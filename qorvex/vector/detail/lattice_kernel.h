@@ -1,8 +1,10 @@
+#pragma once
+
 // Adds blocks of floating terms to a LatticeSum. Included by lattice_avx2.cpp and
 // lattice_avx512.cpp only, after their operations on registers: a function cannot take the
 // instructions that it may use from a template argument, so QORVEX_KERNEL says which.
 //
-// The terms must be values or products of doubles or singles.
+// For terms of doubles and singles.
 
 #include <cstdint>
 #include <immintrin.h>
@@ -24,8 +26,9 @@ struct ScaledTerms {
 // Terms of extended precision are rounded up to three times, each time by at most 2^-64 of the
 // term.
 constexpr double kProductError = 0x1p-62;
-// A low part is computed with an error of less than 2^-50 of itself, plus 2^-50 from underflow.
-// What low parts that sum up to less than kMostLow add is within kLowError.
+// A low part is computed with an error of less than 2^-50 of its summands, plus 2^-50 from
+// underflow. If the low parts of a block add up to less than kMostLow, their errors are less than
+// kLowError.
 constexpr double kMostLow = 0x1p30;
 constexpr double kLowError = 0x1p-19;
 

@@ -46,6 +46,14 @@ class SortedIndices {
     return IndexOf(records_.data()[position]);
   }
 
+  // Fetches the item that belongs to a position soon after this one.
+  template <class Item>
+  void Prefetch(std::size_t position, const Item* items) const noexcept {
+    constexpr std::size_t distance = 24;
+    if (position + distance < records_.size())
+      __builtin_prefetch(items + Index(position + distance));
+  }
+
  private:
   using Traits = SortKey<T>;
   using Key = typename Traits::Key;
@@ -65,8 +73,8 @@ class SortedIndices {
   }
 
   template <class DistanceAt>
-  [[nodiscard]] bool AreEqual(const std::int64_t* first, const std::int64_t* last,
-                              const DistanceAt& distance_at) const {
+  [[nodiscard]] bool HaveEqualKeys(const std::int64_t* first, const std::int64_t* last,
+                                   const DistanceAt& distance_at) const {
     return last - first == 1 || std::all_of(first + 1, last, [&](std::int64_t record) {
              return distance_at(IndexOf(record)) == distance_at(IndexOf(*first));
            });
@@ -88,7 +96,8 @@ class SortedIndices {
     for (std::int64_t* run = first; run != last;) {
       std::int64_t* end = run + 1;
       while (end != last && *end >> index_bits_ == *run >> index_bits_) ++end;
-      if (!AreEqual(run, end, distance_at)) SortBits(run, end, unsorted_bits, distance_at, sorter);
+      if (!HaveEqualKeys(run, end, distance_at))
+        SortBits(run, end, unsorted_bits, distance_at, sorter);
       run = end;
     }
   }

@@ -37,11 +37,11 @@ struct Avx2 {
 }  // namespace
 
 template <class Key>
-QORVEX_AVX2 void VectorQuickSortAvx2(Key* keys, std::size_t count) {
-  SortSegments<Lanes<Avx2, Key>>(keys, count);
+QORVEX_AVX2 void VectorQuickSortAvx2(Key* keys, std::size_t count, KeyForm form) {
+  SortSegments<Lanes<Avx2, Key>>(keys, count, form);
 }
 
-template QORVEX_EXPORT void VectorQuickSortAvx2(std::int32_t*, std::size_t);
-template QORVEX_EXPORT void VectorQuickSortAvx2(std::int64_t*, std::size_t);
+template QORVEX_EXPORT void VectorQuickSortAvx2(std::int32_t*, std::size_t, KeyForm);
+template QORVEX_EXPORT void VectorQuickSortAvx2(std::int64_t*, std::size_t, KeyForm);
 
 }  // namespace qorvex::inline QorvexVector::detail

@@ -51,11 +51,11 @@ struct Avx512 {
 }  // namespace
 
 template <class Key>
-QORVEX_AVX512 void VectorQuickSortAvx512(Key* keys, std::size_t count) {
-  SortSegments<Lanes<Avx512, Key>>(keys, count);
+QORVEX_AVX512 void VectorQuickSortAvx512(Key* keys, std::size_t count, KeyForm form) {
+  SortSegments<Lanes<Avx512, Key>>(keys, count, form);
 }
 
-template QORVEX_EXPORT void VectorQuickSortAvx512(std::int32_t*, std::size_t);
-template QORVEX_EXPORT void VectorQuickSortAvx512(std::int64_t*, std::size_t);
+template QORVEX_EXPORT void VectorQuickSortAvx512(std::int32_t*, std::size_t, KeyForm);
+template QORVEX_EXPORT void VectorQuickSortAvx512(std::int64_t*, std::size_t, KeyForm);
 
 }  // namespace qorvex::inline QorvexVector::detail

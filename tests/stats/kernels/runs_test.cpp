@@ -62,13 +62,11 @@ TEST(Runs, AreThoseOfAPlainScanAmongTies) {
   Engine engine(102);
   for (const std::size_t variety : {2U, 5U, 8U, 100U}) {
     ForEachLength([&](std::size_t n) {
-      TQorFloatVector v;
-      const std::size_t first = engine() % values.size();
-      while (v.size() < n) {
+      auto v = TQorFloatVector::WithLength(n);
+      const std::size_t first = engine() % 8;
+      for (Extended& x : v) {
         const std::size_t choice = first + engine() % variety;
-        const Extended value = values[choice % values.size()];
-        v.resize(std::min(n, v.size() + 1 + engine() % 3),
-                 value + static_cast<Extended>(choice / 8));
+        x = values[choice % 8] + static_cast<Extended>(choice / 8);
       }
       if (n > 100) std::fill_n(v.begin() + static_cast<std::ptrdiff_t>(engine() % 30), 70, v[0]);
       QSortVector(v, true);

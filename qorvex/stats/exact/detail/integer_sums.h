@@ -30,40 +30,29 @@ inline void AddToTotal(const Counter<kSize>& counter, bool negative, FixedPoint&
   total.Add(words, 0, negative);
 }
 
+// The exact sum. Up to 32 bits, int64 sums of parts do not wrap around.
 template <IntegerElement T>
-constexpr T IntegerOf(T value) noexcept {
-  return value;
-}
-template <CurrencyElement T>
-constexpr auto IntegerOf(T amount) noexcept {
-  return amount.stored();
-}
-
-// The sum of integers, or of the stored integers of amounts.
-template <class T>
 inline __int128 SumIntegers(std::span<const T> values) {
-  const auto numbers = QorvexVector::detail::Numbers(VectorView<T>(values));
   if constexpr (sizeof(T) == sizeof(std::int64_t)) {
-    return QorvexVector::detail::ExactIntegerSum(numbers);
+    return QorvexVector::detail::ExactIntegerSum(values);
   } else {
-    constexpr std::size_t kMost = std::size_t{1} << 31;  // whose sum fits an int64
+    constexpr std::size_t kMost = std::size_t{1} << 31;
     __int128 sum = 0;
-    for (std::size_t i = 0; i < numbers.size(); i += kMost) {
+    for (std::size_t i = 0; i < values.size(); i += kMost) {
       sum +=
-          QorvexVector::detail::IntegerSum(numbers.subspan(i, std::min(kMost, numbers.size() - i)));
+          QorvexVector::detail::IntegerSum(values.subspan(i, std::min(kMost, values.size() - i)));
     }
     return sum;
   }
 }
 
 // Adds the squares and higher powers of integers to their totals.
-template <int kPowerSums, class T>
+template <int kPowerSums, IntegerElement T>
 inline void AddHigherPowers(std::span<const T> values, FixedPoint* totals) {
   Counter<2> second;
   Counter<3> third[2];
   Counter<4> fourth;
-  for (const T value : values) {
-    const auto x = IntegerOf(value);
+  for (const T x : values) {
     const auto bits = static_cast<Word>(x);
     const Word magnitude = x < 0 ? 0 - bits : bits;
     const Words<2> square = Square(Words<1>{magnitude});
@@ -83,9 +72,10 @@ inline void AddHigherPowers(std::span<const T> values, FixedPoint* totals) {
 
 // Adds the powers of integers, or of the stored integers of amounts, to the totals.
 template <int kPowerSums, class T>
-inline void AddIntegerPowers(std::span<const T> values, FixedPoint* totals) {
-  AddToTotal(SumIntegers(values), 0, totals[0]);
-  if constexpr (kPowerSums > 1) AddHigherPowers<kPowerSums>(values, totals);
+inline void AddIntegerPowers(VectorView<T> values, FixedPoint* totals) {
+  const auto numbers = QorvexVector::detail::Numbers(values);
+  AddToTotal(SumIntegers(numbers), 0, totals[0]);
+  if constexpr (kPowerSums > 1) AddHigherPowers<kPowerSums>(numbers, totals);
 }
 
 }  // namespace qorvex::exact::detail
