@@ -4,8 +4,10 @@
 #include <charconv>
 #include <cstdio>
 #include <cstdlib>
+#include <list>
 #include <random>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "qorvex/base/text.h"
@@ -13,7 +15,8 @@
 namespace qorvex::benchmarks {
 namespace {
 
-constexpr std::size_t kCount = 10'000;
+// More texts than a branch predictor remembers.
+constexpr std::size_t kCount = 100'000;
 
 std::vector<Extended> Numbers() {
   std::mt19937_64 engine(1);
@@ -23,11 +26,21 @@ std::vector<Extended> Numbers() {
   return numbers;
 }
 
-std::vector<std::string> Texts(int decimals) {
-  std::vector<std::string> texts;
-  for (const Extended x : Numbers()) texts.push_back(Float2EStr(x, decimals));
-  return texts;
-}
+// The numbers as text, one after another, each with a null character behind it for the C library.
+struct Texts {
+  explicit Texts(int decimals) {
+    for (const Extended x : Numbers()) buffer += Float2EStr(x, decimals) + '\0';
+    for (std::string_view rest = buffer; !rest.empty();) {
+      views.push_back(rest.substr(0, rest.find('\0')));
+      pointers.push_back(rest.data());
+      rest.remove_prefix(views.back().size() + 1);
+    }
+  }
+
+  std::string buffer;
+  std::vector<std::string_view> views;
+  std::vector<const char*> pointers;
+};
 
 // Registers work(item) for each item of a list.
 template <class Item, class Work>
@@ -43,13 +56,14 @@ void Register(const std::string& routine, const std::string& who, const std::vec
 }
 
 [[maybe_unused]] const bool registered = [] {
+  static std::list<Texts> all_texts;  // The benchmarks run later, and refer to them.
   for (const int decimals : {6, 14, 20}) {
     const std::string with = ", " + std::to_string(decimals) + " decimals";
-    const auto texts = Texts(decimals);
-    Register("Str2Float" + with, "ours", texts, Str2Float);
-    Register("Str2Float" + with, "strtold", texts,
-             [](const std::string& text) { return std::strtold(text.c_str(), nullptr); });
-    Register("Str2Float" + with, "std::from_chars", texts, [](const std::string& text) {
+    const Texts& texts = all_texts.emplace_back(decimals);
+    Register("Str2Float" + with, "ours", texts.views, Str2Float);
+    Register("Str2Float" + with, "strtold", texts.pointers,
+             [](const char* text) { return std::strtold(text, nullptr); });
+    Register("Str2Float" + with, "std::from_chars", texts.views, [](std::string_view text) {
       Extended x = 0;
       std::from_chars(text.data(), text.data() + text.size(), x);
       return x;

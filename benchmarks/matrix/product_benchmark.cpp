@@ -1,5 +1,9 @@
 // The products and the transpose.
 
+#include <algorithm>
+#include <concepts>
+#include <vector>
+
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "qorvex/vector/building.h"
 #include "support/compare_matrices.h"
@@ -9,19 +13,35 @@ namespace {
 
 constexpr std::initializer_list<std::size_t> kProductOrders = {4, 8, 16, 32, 64, 128, 256, 512};
 
-// The three textbook loops, with the same rounding as ours.
+// Adds a product as ours does.
+template <FloatElement T>
+void AddProduct(T& sum, T x, T y) {
+  sum = static_cast<T>(static_cast<Extended>(sum) +
+                       static_cast<Extended>(x) * static_cast<Extended>(y));
+}
+
+// The textbook loops in their faster order, with the same rounding as ours: extended sums stay in a
+// register; those that each addition rounds to T would wait for one another, unlike those of a row.
 template <FloatElement T>
 TQorMatrix<T> LoopProduct(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
   const std::size_t order = a.size();
-  auto product = CopyMatrix(a);
+  auto product = TQorMatrix<T>::WithLength(order);
+  std::vector<const T*> rows_of_b(order);
+  std::ranges::transform(b, rows_of_b.begin(), [](const auto& row) { return row.data(); });
   for (std::size_t i = 0; i < order; ++i) {
-    for (std::size_t j = 0; j < order; ++j) {
-      T sum = 0;
-      for (std::size_t k = 0; k < order; ++k) {
-        const Extended term = static_cast<Extended>(a[i][k]) * static_cast<Extended>(b[k][j]);
-        sum = static_cast<T>(static_cast<Extended>(sum) + term);
+    product[i] = TQorVector<T>::WithLength(order);
+    const T* const row = a[i].data();
+    T* const sums = product[i].data();
+    if constexpr (std::same_as<T, Extended>) {
+      for (std::size_t j = 0; j < order; ++j) {
+        T sum = 0;
+        for (std::size_t k = 0; k < order; ++k) AddProduct(sum, row[k], rows_of_b[k][j]);
+        sums[j] = sum;
       }
-      product[i][j] = sum;
+    } else {
+      for (std::size_t k = 0; k < order; ++k) {
+        for (std::size_t j = 0; j < order; ++j) AddProduct(sums[j], row[k], rows_of_b[k][j]);
+      }
     }
   }
   return product;
@@ -41,10 +61,8 @@ TQorVector<T> LoopMatrixByVector(const TQorMatrix<T>& a, const TQorVector<T>& b)
   auto product = CopyVector(b);
   for (std::size_t i = 0; i < a.size(); ++i) {
     T sum = 0;
-    for (std::size_t k = 0; k < b.size(); ++k) {
-      const Extended term = static_cast<Extended>(a[i][k]) * static_cast<Extended>(b[k]);
-      sum = static_cast<T>(static_cast<Extended>(sum) + term);
-    }
+    const T* const row = a[i].data();
+    for (std::size_t k = 0; k < b.size(); ++k) AddProduct(sum, row[k], b[k]);
     product[i] = sum;
   }
   return product;

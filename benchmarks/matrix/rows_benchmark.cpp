@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 #include "qorvex/matrix/QorvexMatrix.h"
 #include "support/compare_matrices.h"
@@ -79,31 +78,6 @@ void RegisterUblas() {
   });
 }
 
-// A plain quicksort that exchanges whole rows.
-template <FloatElement T>
-void QuickSortRows(TQorMatrix<T>& m, std::size_t col) {
-  std::vector<std::pair<std::ptrdiff_t, std::ptrdiff_t>> segments{
-      {0, static_cast<std::ptrdiff_t>(m.size()) - 1}};
-  const auto key = [&](std::ptrdiff_t row) { return m[static_cast<std::size_t>(row)][col]; };
-  while (!segments.empty()) {
-    const auto [first, last] = segments.back();
-    segments.pop_back();
-    std::ptrdiff_t i = first;
-    std::ptrdiff_t j = last;
-    const T pivot = key(first + (last - first) / 2);
-    do {
-      while (key(i) < pivot) ++i;
-      while (key(j) > pivot) --j;
-      if (i > j) break;
-      std::ranges::swap_ranges(m[static_cast<std::size_t>(i)], m[static_cast<std::size_t>(j)]);
-      ++i;
-      --j;
-    } while (i <= j);
-    if (first < j) segments.emplace_back(first, j);
-    if (i < last) segments.emplace_back(i, last);
-  }
-}
-
 // Sorts by each column in turn, so that the rows are never already in order. std::sort sorts
 // handles of rows, which is less work: no element is moved.
 template <FloatElement T>
@@ -145,11 +119,6 @@ void RegisterSort() {
         }
         return copied.copy[0][0];
       });
-  CompareMatrices<T>("QSortMatrixRowsOnCol", "quicksort of rows", orders, 2, make, [=](Turn& turn) {
-    const std::uint32_t col = next(turn);
-    QuickSortRows(turn.matrix, col);
-    return turn.matrix[0][0];
-  });
 }
 
 [[maybe_unused]] const bool registered = [] {
