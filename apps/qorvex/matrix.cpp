@@ -1,10 +1,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <exception>
+#include <future>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "apps/common/input_error.h"
@@ -87,29 +88,27 @@ TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
   return result;
 }
 
-TQorFloatMatrix Read(const std::string& file, const MatrixLayout& layout) {
+TQorFloatMatrix Read(TextInput input, const MatrixLayout& layout) {
   try {
-    return ReadMatrix(OpenTextInput(file), layout);
+    return ReadMatrix(std::move(input), layout);
   } catch (const InputError& error) {
     if (error.Fault() != InputFault::kTextInFirstRow) throw;
     throw InputError(error.Fault(), error.what() + std::string("; --header skips the first row"));
   }
 }
 
-// Both files at once if there are two threads. Of two errors, that of the first file is thrown.
+// Both files at once if there are two threads, otherwise one after the other. Of two errors, that
+// of LEFT is thrown. If LEFT cannot be opened, nothing is read, because RIGHT may be a pipe that
+// stays open.
 Matrices ReadAll(const MatrixArguments& arguments) {
-  Matrices operands(arguments.files.size());
-  std::vector<std::exception_ptr> errors(operands.size());
-  ForEachIndex(operands.size(), arguments.threads, [&](std::size_t i) {
-    try {
-      operands[i] = Read(arguments.files[i], arguments.layout);
-    } catch (...) {
-      errors[i] = std::current_exception();
-    }
-  });
-  for (const std::exception_ptr& error : errors) {
-    if (error != nullptr) std::rethrow_exception(error);
+  TextInput left = OpenTextInput(arguments.files[0]);
+  std::future<TQorFloatMatrix> right;
+  if (arguments.files.size() == 2) {
+    right = std::async(arguments.threads > 1 ? std::launch::async : std::launch::deferred,
+                       [&] { return Read(OpenTextInput(arguments.files[1]), arguments.layout); });
   }
+  Matrices operands{Read(std::move(left), arguments.layout)};
+  if (right.valid()) operands.push_back(right.get());
   return operands;
 }
 
