@@ -80,8 +80,7 @@ char RowReader::DetectDelimiter() {
   char previous = '\n';
   for (std::size_t offset = 0; begin_ + offset < end_ || Refill(); ++offset) {
     const char c = buffer_[begin_ + offset];
-    // A quote opens a quoted cell only at the start of a cell or right after the quote that it
-    // doubles.
+    // A quote opens a quoted cell only at its start or right after the quote that it doubles.
     constexpr std::string_view before_quote = "\n\" \t,;";
     if (c == '"') {
       in_quotes = !in_quotes && before_quote.find(previous) != std::string_view::npos;
@@ -97,17 +96,14 @@ char RowReader::DetectDelimiter() {
     blank_line &= IsBlank(c) || c == '\r' || c == '\n';
     previous = c;
   }
-  if (semicolon) return ';';
-  return tab ? '\t' : ' ';
+  return semicolon ? ';' : tab ? '\t' : ' ';
 }
 
 // Moves the unread bytes to the front and fills the buffer. Returns false at the end of the text.
 bool RowReader::Refill() {
   if (input_ended_) return false;
-  const std::size_t unread = end_ - begin_;
-  std::memmove(buffer_.data(), buffer_.data() + begin_, unread);
-  begin_ = 0;
-  end_ = unread;
+  std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
+  end_ -= std::exchange(begin_, 0);
   // One byte is reserved for the end of the last line, which may be missing.
   std::size_t room = buffer_.size() - kReadableBehind;
   if (end_ + 1 == room) {

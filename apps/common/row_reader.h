@@ -23,9 +23,8 @@ namespace qorvex::apps {
 ///   without LF is refused. A UTF-8 byte order mark is skipped.
 /// - The delimiter ' ' stands for any run of blanks; blanks at both ends of a line are ignored.
 /// - A cell that starts with a double quote ends at the next quote that is not doubled. Within it,
-/// a
-///   doubled quote stands for one quote, and delimiters and line breaks are text. In other cells, a
-///   quote is text.
+///   a doubled quote stands for one quote, and delimiters and line breaks are text. In other cells,
+///   a quote is text.
 /// - Blanks around quotes and around unquoted cells are ignored.
 /// - Blank lines are not rows. They are counted, so that the caller can detect gaps between rows.
 ///
@@ -49,8 +48,8 @@ class RowReader {
 
   /// Moves the whole lines that have been read ahead to another reader, which reads only them, on
   /// any thread, and keeps their numbers. Returns false, without taking any, at the end of the
-  /// text, or if there is a quote, whose cell might end in a later line. Requires that Next has
-  /// been called.
+  /// text, if the next line is longer than the block, or if there is a quote, whose cell might end
+  /// in a later line. Requires that Next has been called.
   bool TakeLines(RowReader& lines);
 
   /// After each cell that many bytes can be read, so that it can be scanned in words.

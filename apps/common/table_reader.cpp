@@ -20,8 +20,8 @@ namespace {
 // Every part has all columns, so in a wider table the parts would take more memory than the text.
 constexpr std::size_t kMostColumnsInParts = 256;
 
-// Reads the rows up to the first quote or the end of the text. Each thread takes the lines that
-// follow those taken before, and collects their columns.
+// Reads the rows up to those that TakeLines leaves. Each thread takes the lines that follow those
+// taken before, and collects their columns.
 void AddRowsInParts(RowReader& rows, ColumnCollector& collector, unsigned threads) {
   std::mutex mutex;
   bool ended = false;

@@ -75,9 +75,9 @@ struct Table {
 ///   differs from that of the first; kEmptyCell, kNotANumber and kOutOfRange for a cell.
 /// - Memory: 8 bytes per number without rounding and 16 otherwise, at most 2.5 times that while a
 ///   column grows or while the parts that several threads have read are joined.
-/// - Several threads share the work, up to the first row with a quote, if at most 256 columns are
-///   chosen. Each reads blocks of that many bytes. Neither their number nor the size changes the
-///   result.
+/// - Several threads share the work, up to the first block with a quote or the first row that is
+///   longer than a block, if at most 256 columns are chosen. Each reads blocks of that many bytes.
+///   Neither their number nor the size changes the result.
 [[nodiscard]] Table ReadTable(TextInput input, const TableSelection& selection,
                               unsigned threads = 1, std::size_t block_size = RowReader::kBlockSize);
 

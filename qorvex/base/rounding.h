@@ -13,7 +13,7 @@
 
 /// @cond internal
 namespace qorvex::inline QorvexGlobals::detail {
-// value * factor, rounded to `product`, from 2^62 on.
+// The product as RoundProduct needs it from 2^62 on; `product` is value * factor rounded.
 [[nodiscard]] inline Extended RoundedLargeProduct(Extended value, Extended factor,
                                                   Extended product) noexcept {
   if (!(std::fabs(product) < 0x1p63L)) return product;

@@ -1,18 +1,14 @@
 // The reading half of vector_text.h.
 
 #include <algorithm>
-#include <charconv>
-#include <cmath>
 #include <istream>
 #include <iterator>
-#include <limits>
 #include <optional>
 
-#include "qorvex/base/currency_text.h"
-#include "qorvex/base/detail/decimal_value.h"
+#include "qorvex/base/detail/decimal_text.h"
+#include "qorvex/base/detail/element_text.h"
 #include "qorvex/base/detail/stream_errors.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
 #include "qorvex/base/vector_text.h"
 
 namespace qorvex {
@@ -25,64 +21,6 @@ bool IsWhiteSpace(char c) {
 
 bool IsSeparator(char c) {
   return c == '[' || c == ']' || c == ',';
-}
-
-// The value of a number, unless it takes the slowest way.
-template <FloatElement T>
-std::optional<T> FastValue(const detail::DecimalText& number) {
-  if constexpr (std::same_as<T, Extended>) {
-    const std::optional<T> value = detail::ValueInOneOperation(number);
-    return value ? value : detail::ValueOfLongNumber(number);
-  } else {
-    return detail::ShortValueInOneOperation<T>(number);
-  }
-}
-
-Extended ReadElement(std::string_view piece, std::type_identity<Extended>) {
-  return Str2Float(piece);
-}
-
-// Not by way of Extended, which would round twice.
-template <std::floating_point T>
-T ReadElement(std::string_view piece, std::type_identity<T>) {
-  std::string_view number = piece;
-  const bool negative = detail::TakeSign(number);
-  // std::from_chars would also take another sign, and "nan(1)".
-  if (!number.empty() && (detail::IsDigit(number.front()) || number.front() == '.')) {
-    T value = 0;
-    const char* const last = number.data() + number.size();
-    const auto [end, error] = std::from_chars(number.data(), last, value);
-    if (error == std::errc() && end == last) return negative ? -value : value;
-  }
-  // Not finite, out of range, or no number.
-  const Extended value = Str2Float(piece);
-  if (std::isfinite(value) && std::fabs(value) > 1) throw EConvertError(rsNumberTooLarge, piece);
-  return static_cast<T>(std::isfinite(value) ? std::copysign(Extended(0), value) : value);
-}
-
-template <std::integral T>
-T ReadElement(std::string_view piece, std::type_identity<T>) {
-  std::string_view digits = piece;
-  const bool negative = detail::TakeSign(digits);
-  std::uint64_t magnitude = 0;
-  const char* const last = digits.data() + digits.size();
-  const auto [end, error] = std::from_chars(digits.data(), last, magnitude);
-  if (error == std::errc::invalid_argument || end != last)
-    throw EConvertError(rsNotAnInteger, piece);
-  const auto limit = negative ? 0 - static_cast<std::uint64_t>(std::numeric_limits<T>::min())
-                              : static_cast<std::uint64_t>(std::numeric_limits<T>::max());
-  if (error != std::errc() || magnitude > limit) throw EConvertError(rsNumberTooLarge, piece);
-  return static_cast<T>(negative ? 0 - magnitude : magnitude);
-}
-
-Currency ReadElement(std::string_view piece, std::type_identity<Currency>) {
-  return Str2Currency(piece);
-}
-QorCurrency ReadElement(std::string_view piece, std::type_identity<QorCurrency>) {
-  return Str2QorCurrency(piece);
-}
-QorLongCurrency ReadElement(std::string_view piece, std::type_identity<QorLongCurrency>) {
-  return Str2QorLongCurrency(piece);
 }
 
 // Reads a text from its beginning to its end. White space before every piece is skipped.
@@ -113,7 +51,7 @@ class Reader {
     const std::string_view piece = NextPiece();
     if (piece.empty() || IsSeparator(piece.front())) RefuseStructure();
     try {
-      const T value = ReadElement(piece, std::type_identity<T>());
+      const T value = detail::ReadElement(piece, std::type_identity<T>());
       Advance(piece.size());
       return value;
     } catch (const EConvertError& error) {
@@ -131,7 +69,7 @@ class Reader {
     const std::string_view after = unsigned_rest.substr(number.length);
     if (!number.valid || !(after.empty() || IsSeparator(after[0]) || IsWhiteSpace(after[0])))
       return std::nullopt;
-    const std::optional<T> value = FastValue<T>(number);
+    const std::optional<T> value = detail::FastValue<T>(number);
     if (!value) return std::nullopt;
     rest_ = after;
     SkipWhiteSpace();
