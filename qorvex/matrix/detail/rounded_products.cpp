@@ -42,7 +42,8 @@ template <class T>
 // precision change x by no more than 2^-64 (|a * k| + |x|), where |a * k| is about |d| and |x|
 // about |u|. If u plus the rest still rounds to u when the rest is increased by more than that, u
 // is the result. The margin for the product is twice as large as it must be, because below a power
-// of two the distance between doubles is half of that above.
+// of two the distance between doubles is half of that above. That for the sum is a share of the
+// rest: near halfway the rest is at least some 2^-54 |u|, so that 2^-10 of it exceeds 2^-64 |x|.
 //
 // Elements that fail the test, about one in 500, are computed in extended precision. So are NaN and
 // infinities, which fail it because inf - inf is NaN.
@@ -147,10 +148,10 @@ constexpr double kLeastNormal = 0x1p-126;
   }
   _mm_storeu_ps(result, _mm256_cvtpd_ps(low));
   _mm_storeu_ps(result + 4, _mm256_cvtpd_ps(high));
-  for (unsigned left = uncertain; left != 0; left &= left - 1) [[unlikely]] {
-      const int i = std::countr_zero(left);
-      result[i] = sums[i];
-    }
+  for (unsigned left = uncertain; left != 0; left &= left - 1) {
+    const int i = std::countr_zero(left);
+    result[i] = sums[i];
+  }
 }
 
 // Each of these computes the last eight elements first and stores them last, because they may
@@ -181,13 +182,15 @@ QORVEX_AVX2 void AddAvx2(float* target, const float* source, std::size_t count, 
 // With the fewer lanes of AVX2 the test would use up what they gain.
 void AddRoundedProducts(double* target, const double* source, std::size_t count,
                         double factor) noexcept {
-  if (BestInstructions() >= Instructions::kAvx512) return AddAvx512(target, source, count, factor);
+  if (BestInstructions() >= Instructions::kAvx512 && DoublesAreUsual()) {
+    return AddAvx512(target, source, count, factor);
+  }
   AddInExtended(target, source, count, factor);
 }
 
 void AddRoundedProducts(float* target, const float* source, std::size_t count,
                         float factor) noexcept {
-  switch (BestInstructions()) {
+  switch (DoublesAreUsual() ? BestInstructions() : Instructions::kBaseline) {
     case Instructions::kAvx512:
       return AddAvx512(target, source, count, factor);
     case Instructions::kAvx2:

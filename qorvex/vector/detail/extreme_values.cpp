@@ -35,7 +35,8 @@ void Continue(Extremes<T>& extremes, std::span<const T> values, std::size_t inde
 }
 
 // Keys of several elements in a register. Keys are equal if the elements are, and have the same
-// order; keys of NaN are never taken.
+// order; keys of NaN are never taken. (Extended numbers must be encoded as arithmetic leaves them,
+// without pseudo-denormals.)
 template <NumericElement T, std::size_t kBytes>
 struct Keys {
   using Key = T;
