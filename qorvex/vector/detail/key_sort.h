@@ -83,8 +83,10 @@ class KeySorter {
 
   void Sort(Key* keys, std::size_t count, KeyForm form = KeyForm::kInteger) {
     if constexpr (kHasVectorQuickSort<Key>) {
-      if (instructions_ == Instructions::kAvx512) return VectorQuickSortAvx512(keys, count, form);
-      if (instructions_ == Instructions::kAvx2) return VectorQuickSortAvx2(keys, count, form);
+      if (instructions_ == Instructions::kAvx512)
+        return VectorQuickSortAvx512(keys, count, form, MostDivisions(count));
+      if (instructions_ == Instructions::kAvx2)
+        return VectorQuickSortAvx2(keys, count, form, MostDivisions(count));
       if (form == KeyForm::kFloatBits) {
         FlipNegatives(keys, count);
         Sort(keys, count);
