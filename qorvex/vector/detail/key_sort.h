@@ -42,19 +42,20 @@ void RadixSort(Key* keys, Key* scratch, std::size_t count) {
   const int passes = (sorted_bits + widest_digit - 1) / widest_digit;
   const int digit_bits = (sorted_bits + passes - 1) / passes;
   const int lowest_bit = width - sorted_bits;
+  const std::size_t digits = std::size_t{1} << digit_bits;
 
   Key* from = keys;
   Key* to = scratch;
   for (int pass = 0; pass < passes; ++pass) {
     const int shift = lowest_bit + pass * digit_bits;
     const auto digit = [=](Key key) {
-      return static_cast<std::size_t>(distance(key) >> shift) &
-             ((std::size_t{1} << digit_bits) - 1);
+      return static_cast<std::size_t>(distance(key) >> shift) & (digits - 1);
     };
-    std::array<std::size_t, std::size_t{1} << widest_digit> next{};
+    std::array<std::size_t, std::size_t{1} << widest_digit> next;
+    std::fill_n(next.data(), digits, std::size_t{0});
     for (std::size_t i = 0; i < count; ++i) ++next[digit(from[i])];
     std::size_t position = 0;
-    for (std::size_t& place : next) position += std::exchange(place, position);
+    for (std::size_t d = 0; d < digits; ++d) position += std::exchange(next[d], position);
     for (std::size_t i = 0; i < count; ++i) to[next[digit(from[i])]++] = from[i];
     std::swap(from, to);
   }
