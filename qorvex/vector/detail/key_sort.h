@@ -94,6 +94,10 @@ class KeySorter {
         return FlipNegatives(keys, count);
       }
     }
+    if constexpr (std::is_same_v<Key, std::int16_t>) {
+      if (count <= kMostWidened && instructions_ != Instructions::kBaseline)
+        return SortWidened(keys, count);
+    }
     if (count < kShortestRadixSort) {
       QuickSort(keys, keys + count);
     } else {
@@ -104,6 +108,17 @@ class KeySorter {
  private:
   [[nodiscard]] bool HasVectorInstructions() const noexcept {
     return kHasVectorQuickSort<Key> && instructions_ != Instructions::kBaseline;
+  }
+
+  // For more keys of 16 bits, a radix sort is faster than a vector quicksort of 32 bits with AVX2.
+  static constexpr std::size_t kMostWidened = 2048;
+
+  static void SortWidened(Key* keys, std::size_t count) {
+    std::array<std::int32_t, kMostWidened> wide;
+    std::copy(keys, keys + count, wide.data());
+    KeySorter<std::int32_t>(count).Sort(wide.data(), count);
+    std::transform(wide.data(), wide.data() + count, keys,
+                   [](std::int32_t key) { return static_cast<Key>(key); });
   }
 
   Instructions instructions_ = BestInstructions();
