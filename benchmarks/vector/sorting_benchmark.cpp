@@ -75,8 +75,8 @@ void RegisterKindsOfData() {
 template <NumericElement T>
 void RegisterFewDistinct() {
   const std::initializer_list<std::size_t> sizes = {1'000, 100'000};
-  RegisterSort<T>("QSortVector, few distinct: 3", Between<T, 0, 2>, sizes);
-  RegisterSort<T>("QSortVector, few distinct: 100", Between<T, -50, 49>, sizes);
+  RegisterSort<T>("QSortVector, few distinct, 3", Between<T, 0, 2>, sizes);
+  RegisterSort<T>("QSortVector, few distinct, 100", Between<T, -50, 49>, sizes);
 }
 
 [[maybe_unused]] const bool registered = [] {

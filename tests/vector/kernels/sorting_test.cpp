@@ -117,7 +117,7 @@ TYPED_TEST(SortingKernels, SortElementsAndIndicesOfEveryLength) {
   Engine engine(44);
   std::vector<std::int64_t> lengths(301);
   std::iota(lengths.begin(), lengths.end(), 0);
-  for (const std::int64_t n : {399, 400, 1025, 10'000, 40'001}) lengths.push_back(n);
+  for (const std::int64_t n : {399, 400, 1025, 2048, 10'000, 40'001}) lengths.push_back(n);
   for (const Input& input : kInputs) {
     for (const std::int64_t n : lengths) {
       auto vector = TQorVector<TypeParam>::WithLength(static_cast<std::size_t>(n));
