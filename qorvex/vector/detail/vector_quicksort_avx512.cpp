@@ -32,6 +32,8 @@ struct Avx512 {
     return first + SplitHalf(second_half, above >> 8, low + first, high - (8 - first));
   }
 
+  QORVEX_AVX512 static bool IsZero(__m512i bits) { return _mm512_test_epi32_mask(bits, bits) == 0; }
+
  private:
   // Intrinsics without a mask make GCC 12 warn of uninitialized lanes.
   static constexpr __mmask8 kAllLanes = 0xFF;
@@ -51,11 +53,12 @@ struct Avx512 {
 }  // namespace
 
 template <class Key>
-QORVEX_AVX512 void VectorQuickSortAvx512(Key* keys, std::size_t count, KeyForm form) {
-  SortSegments<Lanes<Avx512, Key>>(keys, count, form);
+QORVEX_AVX512 void VectorQuickSortAvx512(Key* keys, std::size_t count, KeyForm form,
+                                         int most_divisions) {
+  SortSegments<Lanes<Avx512, Key>>(keys, count, form, most_divisions);
 }
 
-template QORVEX_EXPORT void VectorQuickSortAvx512(std::int32_t*, std::size_t, KeyForm);
-template QORVEX_EXPORT void VectorQuickSortAvx512(std::int64_t*, std::size_t, KeyForm);
+template QORVEX_EXPORT void VectorQuickSortAvx512(std::int32_t*, std::size_t, KeyForm, int);
+template QORVEX_EXPORT void VectorQuickSortAvx512(std::int64_t*, std::size_t, KeyForm, int);
 
 }  // namespace qorvex::inline QorvexVector::detail
