@@ -39,7 +39,9 @@ template <class T>
   for (; i + block <= matrix.size(); i += block) {
     for (std::size_t j = 0; j < block; ++j) add(i + j, j % chains);
   }
-  for (; i < matrix.size(); ++i) add(i, 0);
+  for (; i < matrix.size(); ++i) {
+    if (rows[i].size() != length) return false;
+  }
   return (any[0] | any[1]) == (all[0] & all[1]);
 }
 

@@ -27,33 +27,34 @@ class InverseSteps : public Observer {
  public:
   // inverse is the identity, and keeps its row buffers.
   explicit InverseSteps(TQorMatrix<T>& inverse)
-      : origins_(inverse.size(), memory_.get()), scratch_(inverse.size(), memory_.get()) {
-    rows_.reserve(inverse.size());
-    for (TQorVector<T>& row : inverse) rows_.push_back(row.data());
+      : rows_(inverse),
+        origins_(inverse.size(), memory_.get()),
+        scratch_(inverse.size(), memory_.get()) {
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
   }
 
   void Swapped(std::size_t pivot_row, std::size_t row) {
-    SwapElements(rows_[pivot_row], rows_[row], is_in_order_ ? rows_.size() : pivot_row);
+    SwapElements(rows_[pivot_row].data(), rows_[row].data(),
+                 is_in_order_ ? rows_.size() : pivot_row);
     if (!is_in_order_) std::swap(origins_[pivot_row], origins_[row]);
   }
   void Scaled(std::size_t row, Extended pivot, Extended factor) {
     pivots_are_finite_ &= std::isfinite(pivot);
     if (!std::isfinite(factor)) PutInOrder();
-    ScaleElements(rows_[row], rows_.size(), factor);
+    ScaleElements(rows_[row].data(), rows_.size(), factor);
   }
   void Added(std::size_t target, std::size_t pivot_row, Extended factor) {
     if (!std::isfinite(factor)) PutInOrder();
-    AddMultiple(rows_[target], rows_[pivot_row], is_in_order_ ? rows_.size() : pivot_row + 1,
-                factor);
+    AddMultiple(rows_[target].data(), rows_[pivot_row].data(),
+                is_in_order_ ? rows_.size() : pivot_row + 1, factor);
   }
   [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
 
   // Moves the elements to the columns where they belong. From then on, rows are added in full.
   void PutInOrder() {
     if (std::exchange(is_in_order_, true)) return;
-    for (T* const row : rows_) {
-      std::copy_n(row, rows_.size(), scratch_.data());
+    for (TQorVector<T>& row : rows_) {
+      std::copy_n(row.data(), rows_.size(), scratch_.data());
       for (std::size_t i = 0; i < rows_.size(); ++i) CopyElement(scratch_[i], row[origins_[i]]);
     }
   }
@@ -72,7 +73,7 @@ class InverseSteps : public Observer {
 
  private:
   SmallMemory memory_;
-  std::pmr::vector<T*> rows_{memory_.get()};
+  TQorMatrix<T>& rows_;
   // Column i is column origins_[i] of the inverse unless the columns are in order.
   std::pmr::vector<std::size_t> origins_;
   std::pmr::vector<T> scratch_;
