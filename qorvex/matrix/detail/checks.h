@@ -128,14 +128,14 @@ Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
   return shape;
 }
 
-// The same for a square matrix.
+// The same for a square matrix. Returns its order.
 template <class T>
-Shape RequireSquareMatrix(const TQorMatrix<T>& matrix) {
+std::size_t RequireSquareMatrix(const TQorMatrix<T>& matrix) {
   const Shape shape = ShapeOf(matrix);
   RequireElements(shape);
   RequireSquare(shape);
   RequireLengths(matrix, shape.cols);
-  return shape;
+  return shape.rows;
 }
 
 }  // namespace qorvex::inline QorvexMatrix::detail

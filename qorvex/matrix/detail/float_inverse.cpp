@@ -103,10 +103,10 @@ class InversionRows : public PanelRows {
                       .added = &subtracted_[i * words_]};
       for (std::size_t k = 0; k < i; ++k) {
         if (FloatIsNotZero(factors[k])) {
+          factors[k] = -factors[k];
           Insert(backward_[i].added, k);
           backward_[k].is_source = true;
         }
-        factors[k] = -factors[k];
       }
     }
   }
