@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "qorvex/base/comparisons.h"
+#include "qorvex/base/swap.h"
 #include "qorvex/matrix/detail/copy_element.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/panel_rows.h"
@@ -97,7 +98,7 @@ class InversionRows : public PanelRows {
     for (std::size_t i = 0; i < order_; ++i) {
       const std::size_t row = order_ - 1 - i;
       Extended* const factors = Rows()[row].elements + row + 1;
-      std::reverse(factors, factors + i);
+      for (std::size_t k = 0; k < i / 2; ++k) SwapXY(factors[k], factors[i - 1 - k]);
       backward_[i] = {.elements = forward_[row].elements,
                       .factors = factors,
                       .added = &subtracted_[i * words_]};
