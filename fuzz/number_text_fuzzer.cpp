@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -38,8 +40,11 @@ void CheckNumber(const std::string& text) {
   Require(Identical(value, expected) || std::isnan(value), "Str2Float and strtold differ");
   Require(Identical(Str2Float(Float2Str(value)), value),
           "the text of Float2Str is read as another value");
-  Require(Float2EStr(value, text.empty() ? 0 : text[0] % 40) != "",
-          "Float2EStr gives an empty text");
+  const int decimals = std::abs(text[0] % 40);
+  char fixed[5000];
+  std::snprintf(fixed, sizeof fixed, "%.*Lf", decimals, std::fabs(value));
+  if (!std::isnan(value))
+    Require(Float2EStr(std::fabs(value), decimals) == fixed, "Float2EStr and printf differ");
 }
 
 void CheckFraction(const std::string& text) {

@@ -1,6 +1,6 @@
 // The first byte selects the options, the rest is the text. For any text: only InputError is
-// thrown, the block size makes no difference, the result satisfies the contract of ReadTable, and
-// ReadMatrix reads the same texts as ReadTable, to the same numbers.
+// thrown, the block size and the number of threads make no difference, the result satisfies the
+// contract of ReadTable, and ReadMatrix reads the same texts as ReadTable, to the same numbers.
 
 #include <algorithm>
 #include <cmath>
@@ -15,6 +15,7 @@
 #include "apps/common/row_reader.h"
 #include "apps/common/table_reader.h"
 #include "fuzz/require.h"
+#include "qorvex/base/text.h"
 
 namespace {
 
@@ -61,7 +62,27 @@ auto Try(auto read) -> std::optional<decltype(read())> {
   }
 }
 
-void CheckTable(std::string_view text, const TableSelection& selection) {
+// All columns, or the error, as one text.
+std::string TableText(std::string_view text, const TableSelection& selection, unsigned threads,
+                      std::size_t block_size) {
+  std::string result;
+  try {
+    for (const TableColumn& column :
+         ReadTable(SourceOf(text), selection, threads, block_size).columns) {
+      result += column.Title() + std::to_string(column.skipped) + ':';
+      for (const long double x : column.numbers.Values()) result += qorvex::Float2Str(x) + ' ';
+    }
+  } catch (const InputError& error) {
+    result = error.what();
+  }
+  return result;
+}
+
+void CheckTable(std::string_view text, const TableSelection& selection, std::size_t block_size) {
+  const std::string whole = TableText(text, selection, 1, RowReader::kBlockSize);
+  for (const unsigned threads : {1U, 2U})
+    Require(TableText(text, selection, threads, block_size) == whole,
+            "the size of blocks or the number of threads makes a difference");
   const auto table = Try([&] { return ReadTable(SourceOf(text), selection).columns; });
   if (!table) return;
   for (const TableColumn& column : *table) {
@@ -112,7 +133,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   selection.whole_rows = (options & 32) != 0;
   if ((options & 64) != 0) selection.header = (options & 128) != 0;
   if ((options & 8) != 0) selection.columns = {"a", "1"};
-  CheckTable(text, selection);
+  CheckTable(text, selection, small_block);
   CheckMatrix(text, delimiter, (options & 16) != 0);
   return 0;
 }

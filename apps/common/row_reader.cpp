@@ -34,6 +34,7 @@ bool RowReader::Next() {
 }
 
 bool RowReader::TakeLines(RowReader& lines) {
+  line_ = next_line_;
   Refill();
   const std::string_view text(buffer_.data() + begin_, end_ - begin_);
   const std::size_t length = text.rfind('\n') + 1;

@@ -27,11 +27,12 @@ bool IsSeparator(char c) {
   return c == '[' || c == ']' || c == ',';
 }
 
-// The value of a number, if it takes a single operation.
+// The value of a number, unless it takes the slowest way.
 template <FloatElement T>
 std::optional<T> FastValue(const detail::DecimalText& number) {
   if constexpr (std::same_as<T, Extended>) {
-    return detail::ValueInOneOperation(number);
+    const std::optional<T> value = detail::ValueInOneOperation(number);
+    return value ? value : detail::ValueOfLongNumber(number);
   } else {
     return detail::ShortValueInOneOperation<T>(number);
   }
@@ -121,7 +122,7 @@ class Reader {
   }
 
  private:
-  // Reads the next element if it is a number of few digits that ends at a separator or white space.
+  // Reads the next element if it is a usual number that ends at a separator or white space.
   template <FloatElement T>
   std::optional<T> FrequentElement() {
     std::string_view unsigned_rest = rest_;

@@ -1,6 +1,6 @@
 #include "qorvex/base/detail/decimal_value.h"
 
-#include <algorithm>
+#include <cstring>
 
 namespace qorvex::inline QorvexGlobals::detail {
 
@@ -53,6 +53,14 @@ Unsigned128 HighProduct(Unsigned128 a, Unsigned128 b) {
   return (a >> 64) * (b >> 64) + (cross >> 64) + (other >> 64);
 }
 
+// For exponents of normal numbers; faster than std::scalbn.
+Extended PowerOfTwo(int exponent) {
+  Extended power = 1;
+  const auto biased = static_cast<std::uint16_t>(16383 + exponent);
+  std::memcpy(reinterpret_cast<char*>(&power) + 8, &biased, sizeof biased);
+  return power;
+}
+
 Unsigned128 SignificandOf(std::string_view mantissa) {
   if (mantissa.size() < 8) return 0;
   const LongCharacters characters(mantissa);
@@ -83,7 +91,7 @@ std::optional<Extended> ValueOfLongNumber(const DecimalText& number) {
   if (fraction <= half && fraction >= half - 4) return std::nullopt;
   const auto mantissa =
       static_cast<Extended>(static_cast<std::uint64_t>(product >> 64)) + (fraction > half ? 1 : 0);
-  return std::scalbn(mantissa, 192 - zeros - shift + power.exponent + static_cast<int>(exponent));
+  return mantissa * PowerOfTwo(192 - zeros - shift + power.exponent + static_cast<int>(exponent));
 }
 
 }  // namespace qorvex::inline QorvexGlobals::detail

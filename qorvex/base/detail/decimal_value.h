@@ -3,7 +3,6 @@
 // The values of decimal numbers, correctly rounded.
 
 #include <array>
-#include <cmath>
 #include <concepts>
 #include <cstdint>
 #include <cstring>
