@@ -253,7 +253,7 @@ class Solver {
 
 template <FloatElement T>
 std::optional<TQorVector<T>> Solve(const TQorMatrix<T>& a, VectorView<std::type_identity_t<T>> b) {
-  const std::size_t order = detail::RequireSquareMatrix(a).rows;
+  const std::size_t order = detail::RequireSquareMatrix(a);
   if (b.size() != order) RaiseMathError(rsSameDimensions);
   auto x = TQorVector<T>::ForOverwrite(order);
   const Floats right_side(b.begin(), b.end());
@@ -264,7 +264,7 @@ std::optional<TQorVector<T>> Solve(const TQorMatrix<T>& a, VectorView<std::type_
 
 template <FloatElement T>
 std::optional<TQorMatrix<T>> Solve(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
-  const std::size_t order = detail::RequireSquareMatrix(a).rows;
+  const std::size_t order = detail::RequireSquareMatrix(a);
   const detail::Shape shape = detail::RequireRectangularMatrix(b);
   if (shape.rows != order) RaiseMathError(rsSameDimensions);
   auto x = detail::NewMatrixForOverwrite<T>(order, shape.cols);
