@@ -41,8 +41,8 @@ struct RecurrentRow {
 class Recurrence {
  public:
   // For at most this many rows.
-  Recurrence(std::size_t rows, std::pmr::memory_resource* memory)
-      : split_(rows, memory), plain_(rows, memory) {}
+  Recurrence(std::size_t sources, std::pmr::memory_resource* memory)
+      : split_(sources, memory), plain_(sources, memory) {}
 
   // Computes the given column and, unless it is the last one, the next. Rows before `first` are
   // ignored, and rows from `sources` on are not added to any other.

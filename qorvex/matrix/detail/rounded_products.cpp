@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "qorvex/base/detail/instructions.h"
+#include "qorvex/base/detail/mask_bits.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -84,7 +85,7 @@ constexpr std::int64_t kExponentBits = 0x7E00'0000'0000'0000;
   const auto uncertain = static_cast<__mmask8>(~(certain | zeros));
   double sums[kEight];
   _mm512_storeu_pd(sums, c);
-  AddSelectedInExtended(sums, source, uncertain, factor);
+  AddSelectedInExtended(sums, source, MaskBits(uncertain), factor);
   _mm512_storeu_pd(result, _mm512_mask_loadu_pd(u, uncertain, sums));
 }
 
@@ -114,7 +115,7 @@ constexpr double kLeastNormal = 0x1p-126;
   const auto uncertain = static_cast<__mmask8>(halfway | (small & not_zero));
   float sums[kEight];
   std::memcpy(sums, target, sizeof sums);
-  AddSelectedInExtended(sums, source, uncertain, factor);
+  AddSelectedInExtended(sums, source, MaskBits(uncertain), factor);
   _mm256_storeu_ps(result, _mm256_mask_loadu_ps(rounded, uncertain, sums));
 }
 

@@ -104,7 +104,10 @@ TYPED_TEST(ExtremeKernels, FindWhatALoopFinds) {
       }
       if constexpr (FloatElement<T>) {
         // Behind a single infinity, blocks of NaN.
-        if (kind == 2) vector[1] = std::numeric_limits<T>::infinity();
+        if (kind == 2 && n % 2 == 0) {
+          std::ranges::fill(vector, std::numeric_limits<T>::quiet_NaN());
+          vector[1] = std::numeric_limits<T>::infinity();
+        }
       }
       if (kind == 6) {
         vector[engine() % n] = std::numeric_limits<T>::lowest();
