@@ -72,6 +72,13 @@ void RegisterKindsOfData() {
   RegisterSort<T>("QSortVector, -500 to 499", Between<T, -500, 499>, sizes);
 }
 
+template <NumericElement T>
+void RegisterFewDistinct() {
+  const std::initializer_list<std::size_t> sizes = {1'000, 100'000};
+  RegisterSort<T>("QSortVector, few distinct, 3", Between<T, 0, 2>, sizes);
+  RegisterSort<T>("QSortVector, few distinct, 100", Between<T, -50, 49>, sizes);
+}
+
 [[maybe_unused]] const bool registered = [] {
   RegisterSort<Extended>("QSortVector", Sample<Extended>, kPlotSizes);
   RegisterSort<double>("QSortVector", Sample<double>, kPlotSizes);
@@ -84,6 +91,9 @@ void RegisterKindsOfData() {
   RegisterKindsOfData<double>();
   RegisterKindsOfData<std::int64_t>();
   RegisterKindsOfData<std::int32_t>();
+  RegisterFewDistinct<Extended>();
+  RegisterFewDistinct<double>();
+  RegisterFewDistinct<std::int32_t>();
   Compare<Extended>("Vector2RankVector", "ours",
                     [](const TQorFloatVector& v) { return Vector2RankVector(v, true); });
   Compare<Extended>("Vector2RankVector", "sorted pairs", [](const TQorFloatVector& v) {

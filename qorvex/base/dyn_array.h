@@ -369,7 +369,11 @@ class DynArray {
 
   static void Release(Header* header, size_type length) noexcept {
     if (header == nullptr) return;
-    if (header->references.fetch_sub(1, std::memory_order_acq_rel) != 1) return;
+    // A sole owner does not count down, since an atomic subtraction takes as long as the rest.
+    if (header->references.load(std::memory_order_acquire) != 1 &&
+        header->references.fetch_sub(1, std::memory_order_acq_rel) != 1) {
+      return;
+    }
     std::destroy_n(Elements(header), length);
     Deallocate(header);
   }

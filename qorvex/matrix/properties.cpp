@@ -18,7 +18,7 @@ std::uint32_t MatrixZeroRows(const TQorMatrix<T>& matrix) {
 
 template <FloatElement T>
 bool MatrixIsIdentity(const TQorMatrix<T>& matrix) {
-  const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
+  const std::size_t order = detail::RequireSquareMatrix(matrix);
   for (std::size_t i = 0; i < order; ++i) {
     const T* const row = matrix[i].data();
     for (std::size_t j = 0; j < order; ++j) {

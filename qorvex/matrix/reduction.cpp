@@ -76,7 +76,7 @@ void RowEchelonFormRank(TQorMatrix<T>& matrix, std::uint32_t& rank) {
 
 template <FloatElement T>
 bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
-  const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
+  const std::size_t order = detail::RequireSquareMatrix(matrix);
   const detail::RectangularCheckPause pause;
   // The inverse is assigned last, since it may be the matrix itself.
   auto result = detail::NewIdentityMatrix<T>(order);
@@ -88,7 +88,7 @@ bool MatrixInverse(TQorMatrix<T>& matrix, TQorMatrix<T>& inverse) {
 
 template <FloatElement T>
 Extended MatrixDeterminant(TQorMatrix<T>& matrix) {
-  const std::size_t order = detail::RequireSquareMatrix(matrix).rows;
+  const std::size_t order = detail::RequireSquareMatrix(matrix);
   const detail::RectangularCheckPause pause;
   DeterminantObserver observer;
   detail::WithRows(matrix, order,

@@ -26,8 +26,8 @@
 ///   element either.
 /// - The shape switch is off during a reduction and is restored at its end, also after an
 ///   exception.
-/// - O(rows x columns x min(rows, columns)), with working memory of about 150 bytes per row and a bit
-///   per element, twice as much for an inverse, and the copy. For floating elements.
+/// - O(rows x columns x min(rows, columns)), with working memory of about 150 bytes per row and a
+///   bit per element, twice as much for an inverse, and the copy. For floating elements.
 ///
 /// Source: Gaussian elimination with partial pivoting as in Golub and Van Loan 2013, "Matrix
 /// Computations", 3.4.

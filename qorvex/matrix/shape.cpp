@@ -22,12 +22,16 @@ constinit bool check_before_pauses = true;
 
 RectangularCheckPause::RectangularCheckPause() {
   const std::lock_guard lock(pauses_mutex);
-  if (pauses++ == 0) check_before_pauses = QorMatrixRectangularCheck.exchange(false);
+  if (pauses++ != 0) return;
+  check_before_pauses = QorMatrixRectangularCheck.load(std::memory_order_relaxed);
+  QorMatrixRectangularCheck.store(false, std::memory_order_relaxed);
 }
 
 RectangularCheckPause::~RectangularCheckPause() {
   const std::lock_guard lock(pauses_mutex);
-  if (--pauses == 0) QorMatrixRectangularCheck = check_before_pauses;
+  if (--pauses == 0) {
+    QorMatrixRectangularCheck.store(check_before_pauses, std::memory_order_relaxed);
+  }
 }
 
 }  // namespace detail

@@ -4,7 +4,6 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -15,6 +14,7 @@
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/new_matrix.h"
 #include "qorvex/matrix/detail/right_sides.h"
+#include "qorvex/matrix/detail/step_recorder.h"
 #include "qorvex/matrix/detail/with_rows.h"
 
 namespace qorvex::inline QorvexMatrix {
@@ -22,64 +22,6 @@ namespace qorvex::inline QorvexMatrix {
 namespace {
 
 using Floats = std::vector<Extended>;
-
-// Records the steps of an elimination, so that they can be repeated on right-hand sides.
-class StepRecorder : public detail::Observer {
- public:
-  enum class Neglect { kWithinTolerance, kNothing };
-
-  StepRecorder(std::size_t order, Neglect neglect)
-      : neglect_(neglect), factors_(order * order), scales_(order, 1), origins_(order) {
-    std::iota(origins_.begin(), origins_.end(), std::size_t{0});
-  }
-
-  [[nodiscard]] bool IsNegligible(Extended x) {
-    if (x == 0) return true;
-    const bool negligible = neglect_ == Neglect::kWithinTolerance && FloatIsZero(x);
-    has_neglected_ |= negligible;
-    return negligible;
-  }
-  void Swapped(std::size_t row1, std::size_t row2) {
-    std::swap_ranges(FactorsOf(row1), FactorsOf(row1 + 1), FactorsOf(row2));
-    std::swap(origins_[row1], origins_[row2]);
-  }
-  void Scaled(std::size_t row, Extended pivot, Extended factor) {
-    scales_[row] = factor;
-    pivots_are_finite_ &= std::isfinite(pivot);
-  }
-  void Added(std::size_t target, std::size_t source, Extended factor) {
-    FactorsOf(target)[source] = factor;
-  }
-  [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
-  // True if an element that is not zero was treated as zero, or a pivot as one.
-  [[nodiscard]] bool HasNeglected() const { return has_neglected_; }
-
-  // Repeats the steps on right-hand sides. Returns false if an element of x cannot be stored.
-  template <class Sides>
-  [[nodiscard]] bool Repeat(const Floats& b, Floats& x, std::vector<Sides>& stored) const {
-    constexpr std::size_t sides = Sides::kCount;
-    for (std::size_t i = 0; i < scales_.size(); ++i) {
-      Extended* const sums = &x[i * sides];
-      std::copy_n(&b[origins_[i] * sides], sides, sums);
-      detail::AddProducts(sums, &factors_[i * scales_.size()], stored.data(), i);
-      for (std::size_t side = 0; side < sides; ++side) sums[side] *= scales_[i];
-      if (!stored[i].Store(sums)) return false;
-    }
-    return true;
-  }
-
- private:
-  Extended* FactorsOf(std::size_t row) { return factors_.data() + row * scales_.size(); }
-
-  Neglect neglect_;
-  bool has_neglected_ = false;
-  // Row i after all exchanges was row origins_[i] of the given matrix. Row k < i was added to it,
-  // multiplied by element [i][k] of factors_, and then it was itself multiplied by scales_[i].
-  Floats factors_;
-  Floats scales_;
-  std::vector<std::size_t> origins_;
-  bool pivots_are_finite_ = true;
-};
 
 // A power of two that makes room for the splitting of factors in ExactProduct, which would overflow
 // near the end of the range.
@@ -129,7 +71,7 @@ class ExactFactors {
 
 template <FloatElement T>
 class Solver {
-  using Neglect = StepRecorder::Neglect;
+  using Neglect = detail::StepRecorder::Neglect;
 
  public:
   // An elimination that neglects what the inverse neglects shows whether there is a solution. If it
@@ -143,7 +85,7 @@ class Solver {
         regular_(Eliminate()) {
     if (regular_ && steps_.HasNeglected()) {
       echelon_ = ConvertMatrix<Extended>(matrix);
-      steps_ = StepRecorder(order_, Neglect::kNothing);
+      steps_ = detail::StepRecorder(order_, Neglect::kNothing);
       regular_ = Eliminate();
     }
     for (const TQorVector<T>& row : matrix) scale_ = std::min(scale_, SplittingScale(row));
@@ -245,7 +187,7 @@ class Solver {
   Extended scale_ = 1;
   std::size_t order_;
   TQorFloatMatrix echelon_;
-  StepRecorder steps_;
+  detail::StepRecorder steps_;
   bool regular_;
 };
 
@@ -253,7 +195,7 @@ class Solver {
 
 template <FloatElement T>
 std::optional<TQorVector<T>> Solve(const TQorMatrix<T>& a, VectorView<std::type_identity_t<T>> b) {
-  const std::size_t order = detail::RequireSquareMatrix(a).rows;
+  const std::size_t order = detail::RequireSquareMatrix(a);
   if (b.size() != order) RaiseMathError(rsSameDimensions);
   auto x = TQorVector<T>::ForOverwrite(order);
   const Floats right_side(b.begin(), b.end());
@@ -264,7 +206,7 @@ std::optional<TQorVector<T>> Solve(const TQorMatrix<T>& a, VectorView<std::type_
 
 template <FloatElement T>
 std::optional<TQorMatrix<T>> Solve(const TQorMatrix<T>& a, const TQorMatrix<T>& b) {
-  const std::size_t order = detail::RequireSquareMatrix(a).rows;
+  const std::size_t order = detail::RequireSquareMatrix(a);
   const detail::Shape shape = detail::RequireRectangularMatrix(b);
   if (shape.rows != order) RaiseMathError(rsSameDimensions);
   auto x = detail::NewMatrixForOverwrite<T>(order, shape.cols);

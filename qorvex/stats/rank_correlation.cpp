@@ -59,13 +59,18 @@ UInt128 SortAndCountInversions(std::vector<std::uint64_t>& values) {
       std::size_t left = start;
       std::size_t right = middle;
       std::size_t out = start;
+      std::uint64_t passed = 0;  // less than 2^64 for any sample that fits into memory
       while (left < middle && right < end) {
-        const bool take_right = values[right] < values[left];
-        merged[out++] = take_right ? values[right] : values[left];
-        inversions += take_right ? middle - left : 0;
-        right += take_right ? 1 : 0;
-        left += take_right ? 0 : 1;
+        // Computed, because a branch would be mispredicted half the time.
+        const std::uint64_t from_left = values[left];
+        const std::uint64_t from_right = values[right];
+        const auto takes_right = static_cast<std::size_t>(from_right < from_left);
+        merged[out++] = std::min(from_left, from_right);
+        passed += (middle - left) & (0 - takes_right);
+        right += takes_right;
+        left += 1 - takes_right;
       }
+      inversions += passed;
       std::copy(values.begin() + static_cast<std::ptrdiff_t>(left),
                 values.begin() + static_cast<std::ptrdiff_t>(middle),
                 merged.begin() + static_cast<std::ptrdiff_t>(out));
@@ -109,25 +114,27 @@ RankedVariable Ranked(VectorView<T> values) {
   return {DoubledMidranks<T>(values), std::ranges::any_of(values, [](T x) { return x != x; })};
 }
 
-Extended KendallTau(const RankedVariable& x, const RankedVariable& y) {
-  if (x.has_nan || y.has_nan) return kNaN;
+namespace {
+
+// Each rank takes half of the bits of a point.
+template <class Point>
+Extended KendallTauOfPoints(const RankedVariable& x, const RankedVariable& y) {
   const std::size_t n = x.doubled_midranks.size();
+  constexpr int half = 4 * sizeof(Point);
   // Points as numbers in the order of x and, where x is the same, of y.
-  std::vector<UInt128> points(n);
+  std::vector<Point> points(n);
   for (std::size_t i = 0; i < n; ++i) {
-    points[i] = static_cast<UInt128>(x.doubled_midranks[i]) << 64 |
-                static_cast<UInt128>(y.doubled_midranks[i]);
+    points[i] = static_cast<Point>(x.doubled_midranks[i]) << half |
+                static_cast<Point>(y.doubled_midranks[i]);
   }
-  KeySorter<UInt128>(n).Sort(points.data(), n);
+  KeySorter<Point>(n).Sort(points.data(), n);
 
   std::vector<std::uint64_t> ranks(n);
-  const auto part = [&](int shift) {
-    for (std::size_t i = 0; i < n; ++i) ranks[i] = static_cast<std::uint64_t>(points[i] >> shift);
-  };
   const UInt128 tied_in_both = TiedPairs(points.begin(), points.end());
-  part(64);
+  for (std::size_t i = 0; i < n; ++i) ranks[i] = static_cast<std::uint64_t>(points[i] >> half);
   const UInt128 tied_x = TiedPairs(ranks.begin(), ranks.end());
-  part(0);
+  for (std::size_t i = 0; i < n; ++i)
+    ranks[i] = static_cast<std::uint64_t>(points[i] & ((Point{1} << half) - 1));
   const UInt128 discordant = SortAndCountInversions(ranks);
   const UInt128 tied_y = TiedPairs(ranks.begin(), ranks.end());
   const UInt128 pairs = static_cast<UInt128>(n) * (n - 1) / 2;
@@ -135,6 +142,16 @@ Extended KendallTau(const RankedVariable& x, const RankedVariable& y) {
   const bool negative = concordant < discordant;
   return Coefficient(negative, negative ? discordant - concordant : concordant - discordant,
                      pairs - tied_x, pairs - tied_y);
+}
+
+}  // namespace
+
+Extended KendallTau(const RankedVariable& x, const RankedVariable& y) {
+  if (x.has_nan || y.has_nan) return kNaN;
+  // Doubled ranks of fewer elements take 31 bits, and points of 64 bits have a faster sort.
+  constexpr std::size_t many = std::size_t{1} << 30;
+  return x.doubled_midranks.size() < many ? KendallTauOfPoints<std::int64_t>(x, y)
+                                          : KendallTauOfPoints<UInt128>(x, y);
 }
 
 Extended SpearmanRho(const RankedVariable& x, const RankedVariable& y) {

@@ -20,8 +20,9 @@ namespace qorvex::inline QorvexVector {
 /// @{
 /// The rank of every element; 0 for NaN. n = 0 gives an empty result.
 ///
-/// Costs a sort and 8 bytes of memory per element, or 16 on a processor without AVX2. For floating elements O(n^2) if QorTolerance is
-/// 0.5 or more, because the elements that equal a value may then not be contiguous.
+/// Costs a sort and 8 bytes of memory per element, or 16 on a processor without AVX2. For floating
+/// elements O(n^2) if QorTolerance is 0.5 or more, because the elements that equal a value may then
+/// not be contiguous.
 template <AnyElement T>
 [[nodiscard]] QORVEX_EXPORT TQorLIntVector Vector2RankVector(VectorView<T> vector, bool ascending);
 template <ContiguousRange Range>

@@ -2,6 +2,8 @@
 
 // The instruction sets that kernels may use, decided in one place.
 
+#include <xmmintrin.h>
+
 #include "qorvex/base/export.h"
 
 namespace qorvex {
@@ -26,5 +28,15 @@ enum class Instructions {
 // QORVEX_CPU allows: baseline, avx2, or anything else for no restriction. Decided at the first
 // call.
 [[nodiscard]] QORVEX_EXPORT Instructions BestInstructions() noexcept;
+
+// Whether this thread computes doubles as usual: rounds to nearest and keeps subnormal numbers.
+// Programs linked with -ffast-math do not. Kernels that replace x87 arithmetic by doubles have to
+// ask, because x87 arithmetic does not depend on it.
+[[nodiscard]] inline bool DoublesAreUsual() noexcept {
+  constexpr unsigned kFlushToZero = 0x8000;
+  constexpr unsigned kRounding = 0x6000;
+  constexpr unsigned kSubnormalsAreZero = 0x0040;
+  return (_mm_getcsr() & (kFlushToZero | kRounding | kSubnormalsAreZero)) == 0;
+}
 
 }  // namespace qorvex

@@ -39,7 +39,9 @@ template <class T>
   for (; i + block <= matrix.size(); i += block) {
     for (std::size_t j = 0; j < block; ++j) add(i + j, j % chains);
   }
-  for (; i < matrix.size(); ++i) add(i, 0);
+  for (; i < matrix.size(); ++i) {
+    if (rows[i].size() != length) return false;
+  }
   return (any[0] | any[1]) == (all[0] & all[1]);
 }
 
@@ -126,14 +128,14 @@ Shape RequireRectangularMatrix(const TQorMatrix<T>& matrix) {
   return shape;
 }
 
-// The same for a square matrix.
+// The same for a square matrix. Returns its order.
 template <class T>
-Shape RequireSquareMatrix(const TQorMatrix<T>& matrix) {
+std::size_t RequireSquareMatrix(const TQorMatrix<T>& matrix) {
   const Shape shape = ShapeOf(matrix);
   RequireElements(shape);
   RequireSquare(shape);
   RequireLengths(matrix, shape.cols);
-  return shape;
+  return shape.rows;
 }
 
 }  // namespace qorvex::inline QorvexMatrix::detail

@@ -1,64 +1,48 @@
 #pragma once
 
-#include <cassert>
 #include <cstddef>
-#include <utility>
-#include <vector>
 
 #include "qorvex/base/vector_types.h"
 #include "qorvex/matrix/detail/rounded_products.h"
-#include "qorvex/matrix/detail/small_memory.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
 // The rows of a matrix, with the elementary row operations. The matrix must outlive this object and
 // keep its row buffers.
 //
-// Leading elements of a row that have been cleared stay +0: scalings and additions skip them.
+// Meant for eliminations: columns begin one after the other, and the rows that are exchanged,
+// scaled or added to have been cleared before the present one. Operations skip these elements,
+// which stay +0, and additions also the present column, which has been cleared too.
 template <FloatElement T>
 class DirectRows {
  public:
-  DirectRows(TQorMatrix<T>& matrix, std::size_t cols) : cols_(cols) {
-    rows_.reserve(matrix.size());
-    for (TQorVector<T>& row : matrix) rows_.push_back({.elements = row.data()});
-  }
+  DirectRows(TQorMatrix<T>& matrix, std::size_t cols) : rows_(matrix.data()), cols_(cols) {}
 
-  // Does nothing, because all columns are up to date.
-  void BeginColumn(std::size_t) {}
+  void BeginColumn(std::size_t col) { col_ = col; }
   [[nodiscard]] Extended At(std::size_t row, std::size_t col) const {
-    return static_cast<Extended>(rows_[row].elements[col]);
+    return static_cast<Extended>(rows_[row][col]);
   }
-  // Sets an element to +0. All elements to its left must have been cleared already.
-  void Clear(std::size_t row, std::size_t col) {
-    assert(rows_[row].cleared == col);
-    rows_[row].elements[col] = 0;
-    rows_[row].cleared = col + 1;
-  }
+  // Sets an element of the present column to +0.
+  void Clear(std::size_t row, std::size_t col) { rows_[row][col] = 0; }
   void Swap(std::size_t row1, std::size_t row2) {
-    SwapElements(rows_[row1].elements, rows_[row2].elements, cols_);
-    std::swap(rows_[row1].cleared, rows_[row2].cleared);
+    SwapElements(From(row1, col_), From(row2, col_), cols_ - col_);
   }
   void Scale(std::size_t row, Extended factor) {
-    const auto [elements, cleared] = rows_[row];
-    ScaleElements(elements + cleared, cols_ - cleared, factor);
+    ScaleElements(From(row, col_), cols_ - col_, factor);
   }
   // Adds factor * source row to the target row.
   void Add(std::size_t target, std::size_t source, Extended factor) {
-    const auto [elements, cleared] = rows_[target];
-    AddMultiple(elements + cleared, rows_[source].elements + cleared, cols_ - cleared, factor);
+    AddMultiple(From(target, col_ + 1), From(source, col_ + 1), cols_ - col_ - 1, factor);
   }
   // Does nothing, because no operation is deferred.
   void Flush() {}
 
  private:
-  struct Row {
-    T* elements;
-    std::size_t cleared = 0;
-  };
+  [[nodiscard]] T* From(std::size_t row, std::size_t col) { return rows_[row].data() + col; }
 
+  TQorVector<T>* rows_;
   std::size_t cols_;
-  SmallMemory memory_;
-  std::pmr::vector<Row> rows_{memory_.get()};
+  std::size_t col_ = 0;
 };
 
 }  // namespace qorvex::inline QorvexMatrix::detail

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "qorvex/base/comparisons.h"
+#include "qorvex/base/swap.h"
 #include "qorvex/matrix/detail/copy_element.h"
 #include "qorvex/matrix/detail/elimination.h"
 #include "qorvex/matrix/detail/panel_rows.h"
@@ -62,17 +63,16 @@ class InversionRows : public PanelRows {
     const bool regular = rank == order_ && observer.pivots_are_finite;
     PrepareForward(observer.factors_are_finite && observer.pivots_are_finite);
     if (regular) PrepareBackward();
-    bool finite = true;
     for (std::size_t col = 0; col < order_; col += kPair) {
       Columns().Compute(forward_, skips_zeros_ ? col : 0, order_, col, order_);
-      if (regular) finite &= Columns().Compute(backward_, 0, order_, col, order_);
+      if (regular) Columns().Compute(backward_, 0, order_, col, order_);
     }
     PanelRows::Flush();
     for (std::size_t i = 0; i < order_; ++i) {
       if (regular) std::fill_n(Rows()[i].elements + i + 1, order_ - 1 - i, Extended(0));
       RestoreColumns(forward_[i].elements);
     }
-    return regular && (finite || IsFinite());
+    return regular && IsFinite();
   }
 
  private:
@@ -83,6 +83,7 @@ class InversionRows : public PanelRows {
     for (std::size_t i = 0; i < order_; ++i) {
       forward_[i].factors = Rows()[i].factors;
       forward_[i].added = Rows()[i].added;
+      forward_[i].is_source = Rows()[i].is_source;
       forward_[i].scale = Rows()[i].scale;
       if (skips_zeros_ && std::signbit(forward_[i].scale)) {
         const std::size_t computed = std::min((i / kPair + 1) * kPair, order_);
@@ -97,13 +98,16 @@ class InversionRows : public PanelRows {
     for (std::size_t i = 0; i < order_; ++i) {
       const std::size_t row = order_ - 1 - i;
       Extended* const factors = Rows()[row].elements + row + 1;
-      std::reverse(factors, factors + i);
+      for (std::size_t k = 0; k < i / 2; ++k) SwapXY(factors[k], factors[i - 1 - k]);
       backward_[i] = {.elements = forward_[row].elements,
                       .factors = factors,
                       .added = &subtracted_[i * words_]};
       for (std::size_t k = 0; k < i; ++k) {
-        if (FloatIsNotZero(factors[k])) Insert(backward_[i].added, k);
-        factors[k] = -factors[k];
+        if (FloatIsNotZero(factors[k])) {
+          factors[k] = -factors[k];
+          Insert(backward_[i].added, k);
+          backward_[k].is_source = true;
+        }
       }
     }
   }

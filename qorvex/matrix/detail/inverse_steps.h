@@ -27,34 +27,36 @@ class InverseSteps : public Observer {
  public:
   // inverse is the identity, and keeps its row buffers.
   explicit InverseSteps(TQorMatrix<T>& inverse)
-      : origins_(inverse.size(), memory_.get()), scratch_(inverse.size(), memory_.get()) {
-    rows_.reserve(inverse.size());
-    for (TQorVector<T>& row : inverse) rows_.push_back(row.data());
+      : inverse_(inverse),
+        origins_(inverse.size(), memory_.get()),
+        scratch_(inverse.size(), memory_.get()) {
     std::iota(origins_.begin(), origins_.end(), std::size_t{0});
   }
 
   void Swapped(std::size_t pivot_row, std::size_t row) {
-    SwapElements(rows_[pivot_row], rows_[row], is_in_order_ ? rows_.size() : pivot_row);
+    SwapElements(Row(pivot_row), Row(row), is_in_order_ ? Order() : pivot_row);
     if (!is_in_order_) std::swap(origins_[pivot_row], origins_[row]);
   }
   void Scaled(std::size_t row, Extended pivot, Extended factor) {
     pivots_are_finite_ &= std::isfinite(pivot);
     if (!std::isfinite(factor)) PutInOrder();
-    ScaleElements(rows_[row], rows_.size(), factor);
+    const std::size_t width = Width(row);
+    ScaleElements(Row(row), width, factor);
+    // The others are +0, and keep only the sign of the factor.
+    if (std::signbit(factor)) std::fill(Row(row) + width, Row(row) + Order(), T(-0.0));
   }
   void Added(std::size_t target, std::size_t pivot_row, Extended factor) {
     if (!std::isfinite(factor)) PutInOrder();
-    AddMultiple(rows_[target], rows_[pivot_row], is_in_order_ ? rows_.size() : pivot_row + 1,
-                factor);
+    AddMultiple(Row(target), Row(pivot_row), Width(pivot_row), factor);
   }
   [[nodiscard]] bool PivotsAreFinite() const { return pivots_are_finite_; }
 
   // Moves the elements to the columns where they belong. From then on, rows are added in full.
   void PutInOrder() {
     if (std::exchange(is_in_order_, true)) return;
-    for (T* const row : rows_) {
-      std::copy_n(row, rows_.size(), scratch_.data());
-      for (std::size_t i = 0; i < rows_.size(); ++i) CopyElement(scratch_[i], row[origins_[i]]);
+    for (TQorVector<T>& row : inverse_) {
+      std::copy_n(row.data(), Order(), scratch_.data());
+      for (std::size_t i = 0; i < Order(); ++i) CopyElement(scratch_[i], row[origins_[i]]);
     }
   }
 
@@ -71,8 +73,15 @@ class InverseSteps : public Observer {
   }
 
  private:
+  [[nodiscard]] std::size_t Order() const { return inverse_.size(); }
+  [[nodiscard]] T* Row(std::size_t row) { return inverse_[row].data(); }
+  // The number of columns in which a pivot row may have elements other than zero.
+  [[nodiscard]] std::size_t Width(std::size_t pivot_row) const {
+    return is_in_order_ ? Order() : pivot_row + 1;
+  }
+
+  TQorMatrix<T>& inverse_;
   SmallMemory memory_;
-  std::pmr::vector<T*> rows_{memory_.get()};
   // Column i is column origins_[i] of the inverse unless the columns are in order.
   std::pmr::vector<std::size_t> origins_;
   std::pmr::vector<T> scratch_;

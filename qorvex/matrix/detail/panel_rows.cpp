@@ -13,7 +13,7 @@ PanelRows::PanelRows(TQorFloatMatrix& matrix, std::size_t cols)
       rows_(matrix.size(), Memory()),
       cleared_(matrix.size(), Memory()),
       added_(matrix.size() * words_, Memory()),
-      recurrence_(matrix.size(), Memory()) {
+      recurrence_(std::min(matrix.size(), cols), Memory()) {
   for (std::size_t i = 0; i < rows_.size(); ++i) {
     Extended* const elements = matrix[i].data();
     rows_[i] = {.elements = elements, .factors = elements, .added = &added_[i * words_]};

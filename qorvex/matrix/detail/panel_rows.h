@@ -46,6 +46,7 @@ class PanelRows {
     }
     elements[source] = factor;
     Insert(rows_[target].added, source);
+    rows_[source].is_source = true;
     sources_ = std::max(sources_, source + 1);
   }
   void Flush();

@@ -32,6 +32,8 @@ struct RecurrentRow {
   Extended* elements = nullptr;
   const Extended* factors = nullptr;
   Bits* added = nullptr;
+  // Whether it is added to a later row.
+  bool is_source = false;
   Extended scale = 1;
 };
 
@@ -39,13 +41,12 @@ struct RecurrentRow {
 class Recurrence {
  public:
   // For at most this many rows.
-  Recurrence(std::size_t rows, std::pmr::memory_resource* memory)
-      : split_(rows, memory), plain_(rows, memory) {}
+  Recurrence(std::size_t sources, std::pmr::memory_resource* memory)
+      : split_(sources, memory), plain_(sources, memory) {}
 
   // Computes the given column and, unless it is the last one, the next. Rows before `first` are
-  // ignored, and rows from `sources` on are not added to any other. Returns true if all elements of
-  // the rows from first to sources are known to be finite.
-  bool Compute(std::span<const RecurrentRow> rows, std::size_t first, std::size_t sources,
+  // ignored, and rows from `sources` on are not added to any other.
+  void Compute(std::span<const RecurrentRow> rows, std::size_t first, std::size_t sources,
                std::size_t col, std::size_t cols);
 
  private:

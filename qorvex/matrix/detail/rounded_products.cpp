@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "qorvex/base/detail/instructions.h"
+#include "qorvex/base/detail/mask_bits.h"
 
 namespace qorvex::inline QorvexMatrix::detail {
 
@@ -42,7 +43,8 @@ template <class T>
 // precision change x by no more than 2^-64 (|a * k| + |x|), where |a * k| is about |d| and |x|
 // about |u|. If u plus the rest still rounds to u when the rest is increased by more than that, u
 // is the result. The margin for the product is twice as large as it must be, because below a power
-// of two the distance between doubles is half of that above.
+// of two the distance between doubles is half of that above. That for the sum is a share of the
+// rest: near halfway the rest is at least some 2^-54 |u|, so that 2^-10 of it exceeds 2^-64 |x|.
 //
 // Elements that fail the test, about one in 500, are computed in extended precision. So are NaN and
 // infinities, which fail it because inf - inf is NaN.
@@ -83,7 +85,7 @@ constexpr std::int64_t kExponentBits = 0x7E00'0000'0000'0000;
   const auto uncertain = static_cast<__mmask8>(~(certain | zeros));
   double sums[kEight];
   _mm512_storeu_pd(sums, c);
-  AddSelectedInExtended(sums, source, uncertain, factor);
+  AddSelectedInExtended(sums, source, MaskBits(uncertain), factor);
   _mm512_storeu_pd(result, _mm512_mask_loadu_pd(u, uncertain, sums));
 }
 
@@ -113,7 +115,7 @@ constexpr double kLeastNormal = 0x1p-126;
   const auto uncertain = static_cast<__mmask8>(halfway | (small & not_zero));
   float sums[kEight];
   std::memcpy(sums, target, sizeof sums);
-  AddSelectedInExtended(sums, source, uncertain, factor);
+  AddSelectedInExtended(sums, source, MaskBits(uncertain), factor);
   _mm256_storeu_ps(result, _mm256_mask_loadu_ps(rounded, uncertain, sums));
 }
 
@@ -147,10 +149,10 @@ constexpr double kLeastNormal = 0x1p-126;
   }
   _mm_storeu_ps(result, _mm256_cvtpd_ps(low));
   _mm_storeu_ps(result + 4, _mm256_cvtpd_ps(high));
-  for (unsigned left = uncertain; left != 0; left &= left - 1) [[unlikely]] {
-      const int i = std::countr_zero(left);
-      result[i] = sums[i];
-    }
+  for (unsigned left = uncertain; left != 0; left &= left - 1) {
+    const int i = std::countr_zero(left);
+    result[i] = sums[i];
+  }
 }
 
 // Each of these computes the last eight elements first and stores them last, because they may
@@ -181,13 +183,15 @@ QORVEX_AVX2 void AddAvx2(float* target, const float* source, std::size_t count, 
 // With the fewer lanes of AVX2 the test would use up what they gain.
 void AddRoundedProducts(double* target, const double* source, std::size_t count,
                         double factor) noexcept {
-  if (BestInstructions() >= Instructions::kAvx512) return AddAvx512(target, source, count, factor);
+  if (BestInstructions() >= Instructions::kAvx512 && DoublesAreUsual()) {
+    return AddAvx512(target, source, count, factor);
+  }
   AddInExtended(target, source, count, factor);
 }
 
 void AddRoundedProducts(float* target, const float* source, std::size_t count,
                         float factor) noexcept {
-  switch (BestInstructions()) {
+  switch (DoublesAreUsual() ? BestInstructions() : Instructions::kBaseline) {
     case Instructions::kAvx512:
       return AddAvx512(target, source, count, factor);
     case Instructions::kAvx2:

@@ -14,7 +14,7 @@
 namespace qorvex::inline QorvexMatrix::detail {
 
 // From this many rows on, PanelRows are faster than DirectRows.
-inline constexpr std::size_t kLeastPanelRows = 8;
+inline constexpr std::size_t kLeastPanelRows = 10;
 
 // Gives rows that share a buffer with an earlier row of the matrix their own buffer, because
 // reduced rows differ.

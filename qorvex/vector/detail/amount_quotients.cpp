@@ -13,9 +13,9 @@ namespace qorvex::inline QorvexVector::detail {
 
 namespace {
 
-// Quotients of doubles: one that an int32 can hold differs from a tie by at least 1/divisor or not
-// at all, which 53 bits tell apart. Dividends from 2^53 on are rounded, but their quotients are out
-// of range.
+// Quotients of doubles: one that an int32 can hold differs from a tie by at least half of 1/divisor
+// or not at all, which 53 bits tell apart. Dividends from 2^53 on are rounded, but their quotients
+// are out of range.
 template <std::size_t kBytes>
 [[gnu::always_inline]] inline std::size_t DivideRegisters(std::span<const std::int64_t> dividends,
                                                           double divisor,
@@ -57,9 +57,12 @@ QORVEX_AVX2 std::size_t DivideRegistersAvx2(std::span<const std::int64_t> divide
 
 void DivideToInt32(std::span<const std::int64_t> dividends, std::int32_t divisor,
                    std::int32_t* quotients) noexcept {
-  std::size_t i = BestInstructions() >= Instructions::kAvx2
-                      ? DivideRegistersAvx2(dividends, divisor, quotients)
-                      : DivideRegisters<16>(dividends, divisor, quotients);
+  std::size_t i = 0;
+  if (DoublesAreUsual()) {
+    i = BestInstructions() >= Instructions::kAvx2
+            ? DivideRegistersAvx2(dividends, divisor, quotients)
+            : DivideRegisters<16>(dividends, divisor, quotients);
+  }
   for (; i < dividends.size(); ++i) {
     const std::int64_t quotient = DivideHalfEven(dividends[i], divisor);
     quotients[i] = std::in_range<std::int32_t>(quotient) ? static_cast<std::int32_t>(quotient)

@@ -132,6 +132,7 @@ template <CurrencyElement T>
 void TransformAmounts(std::span<T> amounts, Extended slope, Extended intercept) noexcept {
   using Stored = typename T::StoredType;
   static_assert(sizeof(T) == sizeof(Stored));
+  if (!DoublesAreUsual()) return TransformDirectly(amounts, slope, intercept);
   const auto estimate =
       BestInstructions() >= Instructions::kAvx2 ? EstimateAvx2<Stored> : EstimateBaseline<Stored>;
   const auto near_slope = static_cast<double>(slope);

@@ -55,8 +55,8 @@ QORVEX_AVX2 inline bool AnyAtLeast(Doubles x, double limit) {
 constexpr double kUnits = 0x1.8p52;
 constexpr double kThousands = 0x1.8p64;
 
-// x rounded to an integer, ties to even: a multiple of 2^12 plus `units`, which has kUnits added to
-// it; and what is left of x. For |x| < 2^63.
+// x rounded to an integer, ties to even: `thousands`, a multiple of 2^12, plus `units`, which has
+// kUnits added to it; and what is left of x. For |x| < 2^63.
 struct Rounded {
   Doubles thousands;
   Doubles units;

@@ -1,6 +1,7 @@
 #include <cstdint>
 #include <immintrin.h>
 
+#include "qorvex/base/detail/mask_bits.h"
 #include "qorvex/vector/detail/lattice_sum.h"
 #include "qorvex/vector/detail/ordered_terms.h"
 
@@ -49,13 +50,13 @@ QORVEX_AVX512 inline Rounded Round(Doubles x) {
 }
 
 QORVEX_AVX512 inline std::uint64_t LanesAtHalf(const Rounded& x) {
-  return _mm512_cmp_pd_mask(Absolute(x.rest), Broadcast(0.5), _CMP_EQ_OQ);
+  return MaskBits(_mm512_cmp_pd_mask(Absolute(x.rest), Broadcast(0.5), _CMP_EQ_OQ));
 }
 QORVEX_AVX512 inline std::uint64_t LanesRoundedUp(const Rounded& x) {
-  return _mm512_movepi64_mask(_mm512_castpd_si512(x.rest));
+  return MaskBits(_mm512_movepi64_mask(_mm512_castpd_si512(x.rest)));
 }
 QORVEX_AVX512 inline std::uint64_t OddLanes(const Rounded& x) {
-  return _mm512_test_epi64_mask(x.units, _mm512_set1_epi64(1));
+  return MaskBits(_mm512_test_epi64_mask(x.units, _mm512_set1_epi64(1)));
 }
 
 class UnitSum {
@@ -121,9 +122,9 @@ QORVEX_AVX512 Ties TiesOf(const Values<Extended>& terms, std::size_t first,
   for (std::size_t i = 0; i < LatticeSum::kBlock; i += kLanes) {
     const RoundedExtendeds x = Round(Load(terms.x + first + i), sign_and_exponent);
     const __mmask8 odd = _mm512_test_epi64_mask(x.units, _mm512_set1_epi64(1));
-    ties.at |= std::uint64_t{x.ties} << i;
-    ties.odd |= std::uint64_t{odd} << i;
-    ties.upwards |= (~std::uint64_t{x.against} & 0xFF) << i;
+    ties.at |= std::uint64_t{MaskBits(x.ties)} << i;
+    ties.odd |= std::uint64_t{MaskBits(odd)} << i;
+    ties.upwards |= (~std::uint64_t{MaskBits(x.against)} & 0xFF) << i;
   }
   return ties;
 }
@@ -147,8 +148,8 @@ QORVEX_AVX512 std::size_t AddBlocks(LatticeSum& result, const Values<Extended>& 
           units, _mm512_mask_sub_epi64(x.units, x.against, _mm512_setzero_si512(), x.units));
       magnitudes =
           _mm512_add_epi64(magnitudes, _mm512_srli_epi64(x.units, LatticeSum::kMagnitudeShift));
-      ties |= x.ties;
-      outside |= x.outside;
+      ties |= MaskBits(x.ties);
+      outside |= MaskBits(x.outside);
     }
     const auto magnitude = static_cast<std::uint64_t>(_mm512_reduce_add_epi64(magnitudes));
     if (outside != 0 || magnitude > LatticeSum::kMostShifted) break;

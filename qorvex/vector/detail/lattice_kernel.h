@@ -2,9 +2,8 @@
 
 // Adds blocks of floating terms to a LatticeSum. Included by lattice_avx2.cpp and
 // lattice_avx512.cpp only, after their operations on registers: a function cannot take the
-// instructions that it may use from a template argument, so QORVEX_KERNEL says which.
-//
-// For terms of doubles and singles.
+// instructions that it may use from a template argument, so QORVEX_KERNEL says which. The terms are
+// values and products of doubles and singles.
 
 #include <cstdint>
 #include <immintrin.h>

@@ -72,7 +72,7 @@ class LatticeSum {
   /// The greatest such sum that Add accepts.
   static constexpr std::uint64_t kMostShifted = (kLeast >> kMagnitudeShift) - kBlock - 2;
 
-  /// Subnormal terms do not change sums with a greater exponent.
+  /// Subnormal terms do not change sums with at least this exponent.
   static constexpr int kLeastExponent = 128;
 
  private:

@@ -22,7 +22,6 @@ template <class Terms>
 }
 
 // Whether most of the first terms seem to have the same sign, since sums that cancel stay small.
-// The processor decides this before the first terms are added.
 template <class Terms>
 bool SeemsToGrow(const Terms& terms) noexcept {
   constexpr std::size_t kSample = 16;
@@ -57,7 +56,7 @@ bool IsSplit(const SquaredDeviations<T>& terms) noexcept {
 template <class Terms>
 Extended AddMany(Extended sum, const Terms& terms, std::size_t count) noexcept {
   std::size_t done = 0;
-  if (BestInstructions() >= Instructions::kAvx2 && IsSplit(terms)) {
+  if (BestInstructions() >= Instructions::kAvx2 && DoublesAreUsual() && IsSplit(terms)) {
     std::size_t in_turn = SeemsToGrow(terms) ? kFirstTerms<Terms> : kMostTerms / 2;
     while (count - done >= in_turn + kBlock) {
       AddTerms(sum, terms, done, in_turn);

@@ -17,6 +17,11 @@ int BitWidth(Key key) {
   return width;
 }
 
+// How often a quicksort divides a segment: twice as often as halving would need.
+inline int MostDivisions(std::size_t count) {
+  return 2 * BitWidth(count);
+}
+
 template <class Key>
 void InsertionSort(Key* first, Key* last) {
   if (first == last) return;
@@ -30,9 +35,9 @@ void InsertionSort(Key* first, Key* last) {
 
 // Quicksort on the middle element, with an explicit stack (Hoare 1962, "Quicksort"; Sedgewick 1978,
 // "Implementing quicksort programs"). The smaller side is sorted first and the larger one deferred,
-// so the stack never holds more than log2(n) entries. A segment that has been divided twice as
-// often as halving would need is sorted by a heap sort, which bounds the cost to O(n log n) (Musser
-// 1997, "Introspective sorting and selection algorithms").
+// so the stack never holds more than log2(n) entries. A segment that has been divided
+// MostDivisions times is sorted by a heap sort, which bounds the cost to O(n log n) (Musser 1997,
+// "Introspective sorting and selection algorithms").
 template <class Key>
 void QuickSort(Key* first, Key* last) {
   constexpr std::ptrdiff_t insertion_limit = 24;
@@ -43,7 +48,7 @@ void QuickSort(Key* first, Key* last) {
   };
   std::array<Segment, 64> deferred;
   std::size_t depth = 0;
-  Segment s{first, last, 2 * BitWidth(static_cast<std::size_t>(last - first))};
+  Segment s{first, last, MostDivisions(static_cast<std::size_t>(last - first))};
   while (true) {
     while (s.last - s.first > insertion_limit && s.divisions_left > 0) {
       --s.divisions_left;

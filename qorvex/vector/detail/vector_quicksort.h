@@ -31,11 +31,13 @@ void FlipNegatives(Key* keys, std::size_t count) {
   }
 }
 
-// Sorts in ascending order, in place and in O(n log n). For the keys with kHasVectorQuickSort,
-// where the instructions are allowed.
+// Sorts in ascending order and in place. A segment that has been divided most_divisions times is
+// sorted by a heap sort. For the keys with kHasVectorQuickSort, where the instructions are allowed.
 template <class Key>
-QORVEX_EXPORT void VectorQuickSortAvx2(Key* keys, std::size_t count, KeyForm form);
+QORVEX_EXPORT void VectorQuickSortAvx2(Key* keys, std::size_t count, KeyForm form,
+                                       int most_divisions);
 template <class Key>
-QORVEX_EXPORT void VectorQuickSortAvx512(Key* keys, std::size_t count, KeyForm form);
+QORVEX_EXPORT void VectorQuickSortAvx512(Key* keys, std::size_t count, KeyForm form,
+                                         int most_divisions);
 
 }  // namespace qorvex::inline QorvexVector::detail

@@ -21,6 +21,8 @@ struct Avx2 {
     return SplitLanes(keys, _mm256_cmpgt_epi64(keys, pivots), low, high - 4) / 2;
   }
 
+  QORVEX_AVX2 static bool IsZero(__m256i bits) { return _mm256_testz_si256(bits, bits) != 0; }
+
  private:
   // Divides eight lanes of 32 bits, which belong together in pairs if the keys have 64 bits.
   QORVEX_AVX2 static std::size_t SplitLanes(__m256i keys, __m256i above, void* low, void* high) {
@@ -37,11 +39,12 @@ struct Avx2 {
 }  // namespace
 
 template <class Key>
-QORVEX_AVX2 void VectorQuickSortAvx2(Key* keys, std::size_t count, KeyForm form) {
-  SortSegments<Lanes<Avx2, Key>>(keys, count, form);
+QORVEX_AVX2 void VectorQuickSortAvx2(Key* keys, std::size_t count, KeyForm form,
+                                     int most_divisions) {
+  SortSegments<Lanes<Avx2, Key>>(keys, count, form, most_divisions);
 }
 
-template QORVEX_EXPORT void VectorQuickSortAvx2(std::int32_t*, std::size_t, KeyForm);
-template QORVEX_EXPORT void VectorQuickSortAvx2(std::int64_t*, std::size_t, KeyForm);
+template QORVEX_EXPORT void VectorQuickSortAvx2(std::int32_t*, std::size_t, KeyForm, int);
+template QORVEX_EXPORT void VectorQuickSortAvx2(std::int64_t*, std::size_t, KeyForm, int);
 
 }  // namespace qorvex::inline QorvexVector::detail

@@ -5,7 +5,8 @@
 // vectorized using AVX-512 on Intel Skylake"; Blacher, Giesen, Sanders and Wassenberg 2022,
 // "Vectorized and performance-portable quicksort"). One permutation puts the keys of a vector that
 // are up to the pivot in front of the others. The vector is then stored at both ends of a gap,
-// where its wrong part is overwritten later. Short segments are sorted in registers by a network.
+// where its wrong part is overwritten later. Short segments are sorted in registers by a network,
+// and segments with few values by counting them.
 //
 // Set::Register is a register. Set::Split(keys, pivots, low, high) stores the keys up to the pivot
 // from low on and the others before high, and returns the number of the former. It may write a
@@ -19,6 +20,7 @@
 #include <limits>
 
 #include "qorvex/vector/detail/quicksort.h"
+#include "qorvex/vector/detail/vector_counting_body.h"
 #include "qorvex/vector/detail/vector_network_body.h"
 #include "qorvex/vector/detail/vector_quicksort.h"
 
@@ -51,9 +53,16 @@ QORVEX_VECTOR_CODE inline void SplitKeys(typename L::Vector keys, typename L::Ve
   high -= L::kCount - lows;
 }
 
+template <class Key>
+struct Pivot {
+  Key key;
+  bool is_repeated;  // among the lanes' medians
+};
+
 // The median of the lanes' medians in five registers.
 template <class L>
-QORVEX_VECTOR_CODE typename L::Key ChoosePivot(const typename L::Key* keys, std::size_t count) {
+QORVEX_VECTOR_CODE Pivot<typename L::Key> ChoosePivot(const typename L::Key* keys,
+                                                      std::size_t count) {
   constexpr std::size_t samples = 5;
   typename L::Vector rows[samples];
   const std::size_t step = (count - L::kCount) / (samples - 1);
@@ -61,7 +70,9 @@ QORVEX_VECTOR_CODE typename L::Key ChoosePivot(const typename L::Key* keys, std:
   ExchangeRows<L, 0, kSortingPairs<samples>>(rows);
   typename L::Vector medians = rows[samples / 2];
   MergeColumns<L, 1>(&medians);
-  return medians[L::kCount / 2];
+  constexpr std::size_t middle = L::kCount / 2;
+  const typename L::Key key = medians[middle];
+  return {key, medians[middle - 1] == key || medians[middle + 1] == key};
 }
 
 // Four registers.
@@ -156,7 +167,8 @@ QORVEX_VECTOR_CODE void FlipNegativeLanes(typename L::Key* keys, std::size_t cou
 // Segments wait on a stack and are limited in their divisions as in QuickSort. The bits of floating
 // numbers are converted back where a segment is complete, while it is in the cache.
 template <class L>
-QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count, KeyForm form) {
+QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count, KeyForm form,
+                                     int most_divisions) {
   using Key = typename L::Key;
   const bool flips = form == KeyForm::kFloatBits;
   if (flips) FlipNegativeLanes<L>(keys, count);
@@ -167,17 +179,21 @@ QORVEX_VECTOR_CODE void SortSegments(typename L::Key* keys, std::size_t count, K
   };
   std::array<Segment, 64> deferred;
   std::size_t depth = 0;
-  Segment s{keys, count, 2 * BitWidth(count)};
+  Segment s{keys, count, most_divisions};
   while (true) {
     while (s.count > kMostRows * L::kCount && s.divisions_left > 0) {
       --s.divisions_left;
-      const Key pivot = ChoosePivot<L>(s.keys, s.count);
-      const std::size_t lows = Divide<L>(s.keys, s.count, pivot);
+      const Pivot<Key> pivot = ChoosePivot<L>(s.keys, s.count);
+      if (pivot.is_repeated && SortFewValues<L>(s.keys, s.count)) {
+        if (flips) FlipNegativeLanes<L>(s.keys, s.count);
+        s.count = 0;
+        continue;
+      }
+      const std::size_t lows = Divide<L>(s.keys, s.count, pivot.key);
       if (lows == s.count) {
         // The pivot is the largest key: its equals are in place once the others are before them.
-        const bool all_equal = pivot == std::numeric_limits<Key>::min();
-        const std::size_t below =
-            all_equal ? 0 : Divide<L>(s.keys, s.count, static_cast<Key>(pivot - 1));
+        // There are others, since equal keys have been counted, so the pivot is not the smallest.
+        const std::size_t below = Divide<L>(s.keys, s.count, static_cast<Key>(pivot.key - 1));
         if (flips) FlipNegativeLanes<L>(s.keys + below, s.count - below);
         s.count = below;
         continue;

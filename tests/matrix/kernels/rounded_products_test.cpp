@@ -62,11 +62,13 @@ TYPED_TEST(RoundedProducts, AreThoseOfThePlainLoopForEveryLength) {
   }
 }
 
-// The products are about half the last place of the sum, less or more by up to 2^-104 of it.
+// The products are about half the last place of the sum, less or more by up to 2^-104 of it. Some
+// sums are subnormal.
 TYPED_TEST(RoundedProducts, AreThoseOfThePlainLoopNearMidpoints) {
   using T = TypeParam;
   constexpr T epsilon = std::numeric_limits<T>::epsilon();
   constexpr int digits = std::numeric_limits<T>::digits;
+  constexpr int half_of_least = std::numeric_limits<T>::min_exponent - digits - 1;
   Engine engine(7);
   // A distance from one with a random number of bits.
   const auto distance = [&] {
@@ -77,7 +79,9 @@ TYPED_TEST(RoundedProducts, AreThoseOfThePlainLoopNearMidpoints) {
   for (int repetition = 0; repetition < 4'000; ++repetition) {
     const int exponent = static_cast<int>(engine() % 60) - 30;
     const T x = distance();
-    const T factor = engine() % 2 == 0 ? 1 - x : (1 + x) / (1 + distance());
+    const bool subnormal = repetition % 4 == 0;
+    const T factor = (engine() % 2 == 0 ? 1 - x : (1 + x) / (1 + distance())) *
+                     std::ldexp(T(1), subnormal ? half_of_least - half_of_least / 2 : 0);
     auto target = TQorVector<T>::WithLength(40);
     auto source = CopyVector(target);
     for (std::size_t i = 0; i < target.size(); ++i) {
@@ -85,7 +89,12 @@ TYPED_TEST(RoundedProducts, AreThoseOfThePlainLoopNearMidpoints) {
       const T sum = engine() % 4 == 0 ? 1 : 1 + std::floor(distance() / epsilon) * epsilon;
       target[i] = (engine() % 2 == 0 ? -sum : sum) * power;
       source[i] = (engine() % 2 == 0 ? -1 : 1) * (1 + x) * power * epsilon / 2;
-      if (engine() % 8 == 0) target[i] = static_cast<T>(-source[i] * (1 + distance()));
+      if (subnormal) {
+        target[i] = static_cast<T>(engine() % 2'001) * std::numeric_limits<T>::denorm_min();
+        source[i] = std::ldexp(engine() % 2 == 0 ? -1 - x : 1 + x, half_of_least / 2);
+      } else if (engine() % 8 == 0) {
+        target[i] = static_cast<T>(-source[i] * (1 + distance()));
+      }
       rounded_differently +=
           std::fma(source[i], factor, target[i]) != PlainSum(target[i], source[i], factor);
     }

@@ -102,6 +102,13 @@ TYPED_TEST(ExtremeKernels, FindWhatALoopFinds) {
         if (kind < 6) x = FewValues<T>(engine, kind);
         if (kind == 6) x = T(x / T(2));  // a single extreme of either kind
       }
+      if constexpr (FloatElement<T>) {
+        // Behind a single infinity, blocks of NaN.
+        if (kind == 2 && n % 2 == 0) {
+          std::ranges::fill(vector, std::numeric_limits<T>::quiet_NaN());
+          vector[1] = std::numeric_limits<T>::infinity();
+        }
+      }
       if (kind == 6) {
         vector[engine() % n] = std::numeric_limits<T>::lowest();
         vector[engine() % n] = std::numeric_limits<T>::max();

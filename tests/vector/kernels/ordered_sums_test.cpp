@@ -93,8 +93,13 @@ TYPED_TEST(OrderedSums, RoundTiesToEven) {
           : choice == 1 ? half_unit / 4 * odd()
                         : half_unit * odd();
     }
-    v[0] = (i % 2 != 0 ? -1 : 1) * std::ldexp(T{1.5}, kSumExponent);
-    ASSERT_TRUE(this->Agree(v, v));
+    const T sign = i % 2 != 0 ? T{-1} : T{1};
+    // Also near a power of two, which the sum crosses in half units.
+    for (const T start : {std::ldexp(T{1.5}, kSumExponent),
+                          std::ldexp(T{1}, kSumExponent) + static_cast<T>(i - 50) * half_unit}) {
+      v[0] = sign * start;
+      ASSERT_TRUE(this->Agree(v, v));
+    }
 
     // Products that are ties.
     auto w = TQorVector<T>::WithLength(v.size());

@@ -42,6 +42,10 @@ const auto kInputs = std::to_array<Input>({
                            : static_cast<std::int64_t>(e() % 5000);
      }},
     {"three keys", [](Engine& e, auto, auto) { return static_cast<std::int64_t>(e() % 3); }},
+    {"four keys, then a fifth",
+     [](Engine& e, auto i, auto n) {
+       return i < n / 2 ? static_cast<std::int64_t>(e() % 4) - 3 : 17 * (i % 2);
+     }},
     {"extremes", [](Engine& e, auto, auto) { return e() % 2 == 0 ? INT64_MIN : INT64_MAX; }},
     {"mostly the largest",
      [](Engine& e, auto, auto) { return std::int64_t{20} - std::countr_zero(e() | 1U << 20); }},
@@ -113,7 +117,7 @@ TYPED_TEST(SortingKernels, SortElementsAndIndicesOfEveryLength) {
   Engine engine(44);
   std::vector<std::int64_t> lengths(301);
   std::iota(lengths.begin(), lengths.end(), 0);
-  for (const std::int64_t n : {399, 400, 1025, 10'000, 40'001}) lengths.push_back(n);
+  for (const std::int64_t n : {399, 400, 1025, 2048, 10'000, 40'001}) lengths.push_back(n);
   for (const Input& input : kInputs) {
     for (const std::int64_t n : lengths) {
       auto vector = TQorVector<TypeParam>::WithLength(static_cast<std::size_t>(n));
@@ -153,6 +157,31 @@ TYPED_TEST(SortingFloatKernels, SortHardNumbersAndNaN) {
       ExpectSortsIndices(vector, "with NaN");
     }
   });
+}
+
+template <class Key>
+void ExpectSortsWithDivisions(Engine& engine, std::size_t n, int most_divisions) {
+  using namespace QorvexVector::detail;
+  std::vector<Key> keys(n);
+  for (Key& key : keys) key = static_cast<Key>(engine());
+  std::vector<Key> expected = keys;
+  std::sort(expected.begin(), expected.end());
+  const auto sort = BestInstructions() == Instructions::kAvx512 ? VectorQuickSortAvx512<Key>
+                                                                : VectorQuickSortAvx2<Key>;
+  sort(keys.data(), n, KeyForm::kInteger, most_divisions);
+  EXPECT_EQ(keys, expected) << most_divisions << " divisions";
+}
+
+// A heap sort takes over where no division is left.
+TEST(SortingVectorKernels, SortWithFewDivisions) {
+  if (BestInstructions() == Instructions::kBaseline) GTEST_SKIP();
+  Engine engine(47);
+  for (const std::size_t n : {50U, 300U, 10'000U}) {
+    for (const int most_divisions : {0, 1, 3, 5}) {
+      ExpectSortsWithDivisions<std::int32_t>(engine, n, most_divisions);
+      ExpectSortsWithDivisions<std::int64_t>(engine, n, most_divisions);
+    }
+  }
 }
 
 // Differences in the last bit, and huge numbers that hide them.

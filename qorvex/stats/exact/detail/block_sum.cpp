@@ -187,7 +187,7 @@ bool Kernel<Extended>::Sum(const Extended* block, int range, Instructions, Sums&
 
 template <class T>
 bool BlockSum<T>::Add(std::span<const T> block) {
-  if (block.size() != kBlock) return false;
+  if (block.size() != kBlock || !DoublesAreUsual()) return false;
   if (blocks_to_skip_ > 0) {
     --blocks_to_skip_;
     return false;
