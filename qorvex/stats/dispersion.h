@@ -60,8 +60,8 @@ requires WideNumericElement<ElementOf<Range>>
 
 /// @{
 /// Variance and mean in a single pass: (SS - S*S/n) over n - 1 or n, for the sum S and the sum of
-/// squares SS. Faster than the two-pass forms, but digits cancel if the spread is small compared
-/// with the mean, and rounding can even make the variance slightly negative.
+/// squares SS. Reads the elements once, but digits cancel if the spread is small compared with the
+/// mean, and rounding can even make the variance slightly negative.
 ///
 /// - n = 0: EMathError rsVectorIsEmpty. n = 1: the sample form raises rsVectorG1. The outputs keep
 ///   their values.
