@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "apps/common/cells.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -55,7 +56,7 @@ HiddenFigures HiddenAmong(std::span<const Extended> figures, int decimals) {
     const Extended size = std::fabs(figure);
     if (!(size > 0) || ShowsADigit(size, decimals)) continue;
     ++hidden.count;
-    const int enough = 3 - static_cast<int>(std::floor(std::log10(size)));
+    const int enough = 3 - static_cast<int>(std::floor(Log10(size)));
     hidden.enough_decimals = std::max(hidden.enough_decimals, enough);
   }
   return hidden;

@@ -6,6 +6,7 @@
 #include <limits>
 #include <numbers>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -25,9 +26,9 @@ std::string FromLogarithm(Extended log_p, std::optional<int> decimals) {
   const Extended logarithm = log_p / std::numbers::ln10_v<Extended>;
   Extended exponent = std::floor(logarithm);
   // The last bits of a logarithm of ten thousand weigh as much as four decimals of the number.
-  const int known = std::max(0, 17 - static_cast<int>(std::log10(-log_p)));
+  const int known = std::max(0, 17 - static_cast<int>(Log10(-log_p)));
   const int places = std::min(decimals.value_or(known), known);
-  std::string digits = Float2EStr(std::pow(Extended{10}, logarithm - exponent), places);
+  std::string digits = Float2EStr(Pow(Extended{10}, logarithm - exponent), places);
   if (digits.starts_with("10")) {
     digits = Float2EStr(1, places);
     ++exponent;
@@ -53,7 +54,7 @@ std::string RoundedProbabilityText(Extended p, Extended log_p) {
   if (IsBelowRange(p, log_p)) return FromLogarithm(log_p, digits - 1);
   if (!(p > 0)) return Float2Str(p);
   if (p < 1e-4L) return Scientific(p, digits - 1);
-  const int leading_zeros = -static_cast<int>(std::floor(std::log10(p))) - 1;
+  const int leading_zeros = -static_cast<int>(std::floor(Log10(p))) - 1;
   return Float2EStr(p, digits + std::max(leading_zeros, -1));
 }
 

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/random/QorvexRandom.h"
 #include "qorvex/stats/distributions/figures.h"
 #include "qorvex/stats/distributions/poisson.h"
@@ -35,13 +36,12 @@ class WrappedCauchyRejection {
   [[nodiscard]] Extended Draw(UniformSource source) const {
     for (;;) {
       const Extended half = QorPi / 2 * source();
-      const Extended sine = std::sin(half);
-      const Extended cosine = std::cos(half);
+      const Extended sine = Sin(half);
+      const Extended cosine = Cos(half);
       const Extended f_below_1 = 2 * r_less_1_ * sine * sine / (r_less_1_ + 2 * cosine * cosine);
       const Extended c = k_ * (r_less_1_ + f_below_1);
       const Extended u = source();
-      if (u < c * (2 - c) || u <= c * std::exp(1 - c))
-        return 2 * std::asin(std::sqrt(f_below_1 / 2));
+      if (u < c * (2 - c) || u <= c * Exp(1 - c)) return 2 * ArcSin(std::sqrt(f_below_1 / 2));
     }
   }
 
@@ -60,7 +60,7 @@ Extended DrawStudentT(Extended df, UniformSource source) {
   const Extended normal = Random_Normal(source);
   if (df >= 2) return normal / std::sqrt(2 * Random_Gamma(df / 2, source) / df);
   const Extended gamma = Random_Gamma(df / 2 + 1, source);
-  return normal * std::sqrt(df / (2 * gamma)) * std::pow(PositiveUniform(source), -1 / df);
+  return normal * std::sqrt(df / (2 * gamma)) * Pow(PositiveUniform(source), -1 / df);
 }
 
 Extended DrawPoisson(Extended mean, UniformSource source) {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 
 namespace qorvex::inline QorvexGlobals {
@@ -30,11 +31,11 @@ Extended CheckedSqrt(Extended x) {
 Extended CheckedLn(Extended x) {
   if (x < 0) throw EInvalidOp();
   if (x == 0) throw EZeroDivide();
-  return std::log(x);
+  return Log(x);
 }
 
 Extended CheckedExp(Extended x) {
-  const Extended result = std::exp(x);
+  const Extended result = Exp(x);
   if (std::isinf(result) && !std::isinf(x)) throw EOverflow();
   return result;
 }

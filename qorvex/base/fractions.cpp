@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "qorvex/base/checked_math.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 
@@ -80,8 +81,7 @@ std::string_view WithoutLeadingBlanks(std::string_view text) {
 
 TQorMixedFraction Float2MixedFraction(Extended value, int decimals) noexcept {
   if (!std::isfinite(value)) return {.whole = value};
-  const Extended tolerance =
-      0.5L * std::pow(10.0L, -std::clamp(decimals, 0, kMostFractionDecimals));
+  const Extended tolerance = 0.5L * Pow(10.0L, -std::clamp(decimals, 0, kMostFractionDecimals));
   Extended whole = 0;
   const Extended fraction = std::modf(std::fabs(value), &whole);
   Ratio ratio = FirstConvergentWithin(fraction, tolerance);

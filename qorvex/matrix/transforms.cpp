@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/matrix/detail/checks.h"
 #include "qorvex/vector/detail/amount_transform.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
@@ -63,7 +64,7 @@ void InvMatrix(TQorMatrix<T>& matrix) {
 
 template <FloatElement T>
 void LnMatrix(TQorMatrix<T>& matrix) {
-  Replace(matrix, kIsNotPositive, rsMatrixNotPos, [](Extended x) { return std::log(x); });
+  Replace(matrix, kIsNotPositive, rsMatrixNotPos, [](Extended x) { return Log(x); });
 }
 
 template <FloatElement T>

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/limits.h"
 
@@ -40,10 +41,10 @@ Extended OrderedBeta(Extended hi, Extended lo, UniformSource source) {
       if (4 * z <= XtoY(1 + 1 / ratio, sum)) return 1;
       continue;
     }
-    const Extended v = std::log(u1 / (1 - u1)) / shape;
-    const Extended w = ratio * std::exp(v);
-    const Extended t = v * (shape + hi) + sum * std::log((ratio + 1) / (w + 1)) - kLogFour;
-    if (z - 1 <= t || (z - z * t <= 1 && std::log(z) <= t)) return w / (1 + w);
+    const Extended v = Log(u1 / (1 - u1)) / shape;
+    const Extended w = ratio * Exp(v);
+    const Extended t = v * (shape + hi) + sum * Log((ratio + 1) / (w + 1)) - kLogFour;
+    if (z - 1 <= t || (z - z * t <= 1 && Log(z) <= t)) return w / (1 + w);
   }
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/binomial_ratios.h"
 #include "qorvex/random/detail/power_of_complement.h"
@@ -63,11 +64,11 @@ class Regions {
         if (v > 1 || v <= 0) continue;
         y = std::floor(x);
       } else if (u <= left_tail_) {
-        y = std::floor(left_ + std::log(v) / left_rate_);
+        y = std::floor(left_ + Log(v) / left_rate_);
         if (y < 0) continue;
         v *= (u - parallelograms_) * left_rate_;
       } else {
-        y = std::floor(right_ - std::log(v) / right_rate_);
+        y = std::floor(right_ - Log(v) / right_rate_);
         if (y > n_) continue;
         v *= (u - left_tail_) * right_rate_;
       }
@@ -85,7 +86,7 @@ class Regions {
     const Extended bound =
         relative * ((distance * (distance / 3 + 0.625L) + 1.0L / 6) / variance_ + 0.5L);
     const Extended normal = -distance * distance / (2 * variance_);
-    const Extended logarithm = std::log(v);
+    const Extended logarithm = Log(v);
     if (logarithm < normal - bound) return true;
     if (logarithm > normal + bound) return false;
     return logarithm <= ratios.LogQuotient(y);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special_functions.h"
 
@@ -18,8 +19,8 @@ Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
   // (n + 1) p can round to n + 1.
   const Extended mode = std::min(std::trunc((trials + 1) * p), trials);
   const Extended at_mode =
-      std::exp(LnGamma(trials + 1) - LnGamma(mode + 1) - LnGamma(trials - mode + 1) +
-               mode * std::log(p) + (trials - mode) * std::log(1 - p));
+      Exp(LnGamma(trials + 1) - LnGamma(mode + 1) - LnGamma(trials - mode + 1) + mode * Log(p) +
+          (trials - mode) * Log(1 - p));
   const Extended odds = p / (1 - p);
 
   double down = static_cast<double>(at_mode);

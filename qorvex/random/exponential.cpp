@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/random/detail/limits.h"
 
 namespace qorvex::inline QorvexRandom {
@@ -9,7 +10,7 @@ namespace qorvex::inline QorvexRandom {
 Extended Random_Exponential(UniformSource source) {
   Extended u = source();
   while (!(u > detail::kVerySmall)) u = source();
-  return -std::log(u);
+  return -Log(u);
 }
 
 }  // namespace qorvex::inline QorvexRandom

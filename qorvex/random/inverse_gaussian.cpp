@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/limits.h"
 
@@ -37,16 +38,16 @@ Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
   const Extended xm = Mode(h, b - 1, b);
   const Extended c = -0.25L * h;
   const Extended r = XtoY(xm * ym, -0.5L * b) * std::sqrt(xm / ym) *
-                     std::exp(0.25L * h * ((xm + 1 / xm) - ym - 1 / ym));
+                     Exp(0.25L * h * ((xm + 1 / xm) - ym - 1 / ym));
   if (!(r >= detail::kVerySmall && std::isfinite(r))) RaiseMathError(rsInvalidValue);
   const Extended power = 0.5L * (b - 1);
-  const Extended at_mode = -power * std::log(xm) - c * (xm + 1 / xm);
+  const Extended at_mode = -power * Log(xm) - c * (xm + 1 / xm);
   for (;;) {
     const Extended u = source();
     if (!(u > 0)) continue;
     const Extended v = source();
     const Extended x = r * v / u;
-    if (x > 0 && std::log(u) < at_mode + c * (x + 1 / x) + power * std::log(x)) return x;
+    if (x > 0 && Log(u) < at_mode + c * (x + 1 / x) + power * Log(x)) return x;
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/limits.h"
 #include "qorvex/random/detail/power_of_complement.h"
@@ -39,15 +40,15 @@ Extended Random_Neg_Binomial(Extended sk, Extended p, UniformSource source) {
   const Extended rest = sk - direct;
   if (direct > max_steps || rest * p / (1 - p) > max_steps) RaiseMathError(rsInvalidValue);
 
-  const Extended log_p = std::log(p);
+  const Extended log_p = Log(p);
   Extended x = 0;
   for (Extended i = 0; i < direct; ++i) {
     Extended r = source();
     while (!(r > 0)) r = source();
-    x += std::trunc(std::log(r) / log_p);
+    x += std::trunc(Log(r) / log_p);
   }
   // The probability of 0 would underflow.
-  if (std::log(detail::kVerySmall) / std::log1p(-p) < rest) RaiseMathError(rsInvalidValue);
+  if (Log(detail::kVerySmall) / Log1p(-p) < rest) RaiseMathError(rsInvalidValue);
   return std::trunc(x + InvertFromZero(rest, p, source()) + 0.5L);
 }
 

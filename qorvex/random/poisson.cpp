@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/poisson_densities.h"
 #include "qorvex/random/exponential.h"
@@ -24,7 +25,7 @@ Extended CorrectedNormal(Extended mu, UniformSource source) {
     const Extended below = mu - k;
     if (6 * mu * mu * u >= below * below * below) return k;
     const detail::PoissonAndNormal at = detail::PoissonDensities(mu, deviation).At(k);
-    if (at.n_factor * (1 - u) <= at.p_factor * std::exp(at.p_exponent - at.n_exponent)) return k;
+    if (at.n_factor * (1 - u) <= at.p_factor * Exp(at.p_exponent - at.n_exponent)) return k;
   }
   const detail::PoissonDensities densities(mu, deviation);
   const Extended c = 0.1069L / mu;
@@ -35,15 +36,15 @@ Extended CorrectedNormal(Extended mu, UniformSource source) {
     if (!(t > -0.6744L)) continue;
     const Extended k = std::floor(mu + deviation * t);
     const detail::PoissonAndNormal at = densities.At(k);
-    if (c * std::fabs(u) <= at.p_factor * std::exp(at.p_exponent + exponential) -
-                                at.n_factor * std::exp(at.n_exponent + exponential))
+    if (c * std::fabs(u) <= at.p_factor * Exp(at.p_exponent + exponential) -
+                                at.n_factor * Exp(at.n_exponent + exponential))
       return k;
   }
 }
 
 // For smaller means: inversion from 0 upwards.
 Extended InvertFromZero(Extended mu, UniformSource source) {
-  const Extended at_zero = std::exp(-mu);
+  const Extended at_zero = Exp(-mu);
   for (;;) {
     const Extended u = source();
     if (u <= at_zero) return 0;

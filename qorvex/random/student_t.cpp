@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 
 namespace qorvex::inline QorvexRandom {
@@ -13,7 +14,7 @@ Extended Random_T(std::int32_t df, UniformSource source) {
   const Extended c = -0.25L * (s + 1);
   // (1 + x/s)^c. Only comparisons use it, so the accuracy of XtoY, which takes four times as long,
   // is not needed.
-  const auto power = [s, c](Extended x) { return std::exp(c * std::log1p(x / s)); };
+  const auto power = [s, c](Extended x) { return Exp(c * Log1p(x / s)); };
   const Extended a = 4 / power(1);
   const Extended f = 16 / a;
   const Extended b = df > 1 ? XtoY((s + 1) / (s - 1), c) * std::sqrt(2 * s / (s - 1)) : 1;

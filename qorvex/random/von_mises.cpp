@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 
 namespace qorvex::inline QorvexRandom {
@@ -16,8 +17,8 @@ constexpr std::size_t kMaxIntervals = 20;
 // The cosine of an angle from 0 to pi, reduced to a sine or cosine of an angle up to pi/4, because
 // the C library takes ten times as long for larger ones.
 Extended Cosine(Extended x) {
-  if (x < QorPi / 4) return std::cos(x);
-  return x < 3 * QorPi / 4 ? std::sin(QorPi / 2 - x) : -std::cos(QorPi - x);
+  if (x < QorPi / 4) return Cos(x);
+  return x < 3 * QorPi / 4 ? Sin(QorPi / 2 - x) : -Cos(QorPi - x);
 }
 
 // The integral of exp(k cos x) from lo to hi.
@@ -33,8 +34,8 @@ Extended Integral(Extended k, Extended lo, Extended hi) {
   const Extended half = (hi - lo) / 2;
   Extended sum = 0;
   for (const Node& node : nodes) {
-    sum += node.weight * (std::exp(k * Cosine(mid + node.abscissa * half)) +
-                          std::exp(k * Cosine(mid - node.abscissa * half)));
+    sum += node.weight * (Exp(k * Cosine(mid + node.abscissa * half)) +
+                          Exp(k * Cosine(mid - node.abscissa * half)));
   }
   return half * sum;
 }

@@ -5,6 +5,7 @@
 #include <cstddef>
 
 #include "qorvex/base/checked_math.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/location.h"
 #include "qorvex/vector/aggregates.h"
@@ -137,10 +138,10 @@ Extended GeometricStdDev(VectorView<Extended> vector, Extended mean, bool sample
   const Extended ln_mean = CheckedLn(mean);
   Extended sum = 0;
   for (const Extended x : vector) {
-    const Extended difference = std::log(x) - ln_mean;
+    const Extended difference = Log(x) - ln_mean;
     sum += difference * difference;
   }
-  return std::exp(std::sqrt(sum / divisor));
+  return Exp(std::sqrt(sum / divisor));
 }
 
 Extended GeometricStdDev(VectorView<Extended> vector, bool sample) {

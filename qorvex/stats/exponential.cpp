@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/checked_math.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/density_table.h"
@@ -16,7 +17,7 @@ void RequireValid(Extended mean, Extended x) {
 }
 
 Extended Density(Extended rate, Extended x) {
-  return rate * std::exp(-rate * x);
+  return rate * Exp(-rate * x);
 }
 
 }  // namespace
@@ -37,7 +38,7 @@ void ExponentialPDFValues(Extended mean, Extended x_low, Extended x_high, std::i
 Extended ExponentialLess(Extended mean, Extended x) {
   RequireValid(mean, x);
   const Extended rate = CheckedDivide(1, mean);
-  return 1 - std::exp(-rate * x);
+  return 1 - Exp(-rate * x);
 }
 
 Extended ExponentialGreater(Extended mean, Extended x) {

@@ -6,6 +6,7 @@
 
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special_functions.h"
 #include "qorvex/stats/detail/checks.h"
@@ -38,7 +39,7 @@ Extended NormalApproximation(Extended a, Extended x) {
 
 // ln(x^a exp(-x) / gamma * factor).
 Extended LogarithmOf(Extended a, Extended x, Extended ln_gamma, Extended factor) {
-  return a * std::log(x) - x - ln_gamma + std::log(factor);
+  return a * Log(x) - x - ln_gamma + Log(factor);
 }
 
 Extended LowerBySeries(Extended a, Extended x, Extended tolerance) {
@@ -51,7 +52,7 @@ Extended LowerBySeries(Extended a, Extended x, Extended tolerance) {
     sum += term;
   } while (term > tolerance);
   const Extended exponent = LogarithmOf(a, x, LnGamma(a + 1), sum);
-  return exponent >= kMinExponent ? std::exp(exponent) : 0;
+  return exponent >= kMinExponent ? Exp(exponent) : 0;
 }
 
 Extended LowerByFraction(Extended shape, Extended x, Extended tolerance) {
@@ -88,7 +89,7 @@ Extended LowerByFraction(Extended shape, Extended x, Extended tolerance) {
     }
   }
   const Extended exponent = LogarithmOf(shape, x, LnGamma(shape), fraction);
-  return exponent >= kMinExponent ? 1 - std::exp(exponent) : 1;
+  return exponent >= kMinExponent ? 1 - Exp(exponent) : 1;
 }
 
 }  // namespace

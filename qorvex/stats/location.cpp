@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/vector/aggregates.h"
 #include "qorvex/vector/sign_tests.h"
@@ -16,8 +17,8 @@ Extended QorMean(VectorView<T> vector) {
 Extended GeometricMean(VectorView<Extended> vector) {
   if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
   Extended sum = 0;
-  for (const Extended x : vector) sum += std::log(x);
-  return std::exp(sum / static_cast<Extended>(vector.size()));
+  for (const Extended x : vector) sum += Log(x);
+  return Exp(sum / static_cast<Extended>(vector.size()));
 }
 
 Extended HarmonicMean(VectorView<Extended> vector) {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/checked_math.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
@@ -25,7 +26,7 @@ class LogNormalDensity {
   }
   Extended operator()(Extended x) const {
     RequirePositive(x);
-    return detail::Bell(std::log(x), mean_, twice_variance_) / (detail::kRootTwoPi * x * std_dev_);
+    return detail::Bell(Log(x), mean_, twice_variance_) / (detail::kRootTwoPi * x * std_dev_);
   }
 
  private:

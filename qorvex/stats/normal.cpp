@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/detail/between.h"
 #include "qorvex/stats/detail/checks.h"
 #include "qorvex/stats/detail/density_table.h"
@@ -83,7 +84,7 @@ void RequireInverseArguments(Extended std_dev, Extended p) {
 }  // namespace
 
 Extended NormalZ(Extended x) {
-  return std::exp(-x * x / 2) / detail::kRootTwoPi;
+  return Exp(-x * x / 2) / detail::kRootTwoPi;
 }
 
 Extended NormalPDF(Extended x, Extended mean, Extended std_dev) {
@@ -144,7 +145,7 @@ Extended InvNormalLess(Extended p) {
     const Extended r = 0.180625L - q * q;
     return q * Evaluate(kCentralNumerator, r) / Evaluate(kCentralDenominator, r);
   }
-  Extended r = std::sqrt(-std::log(q < 0 ? p : 1 - p));
+  Extended r = std::sqrt(-Log(q < 0 ? p : 1 - p));
   Extended result = 0;
   if (r <= 5) {
     r -= 1.6L;

@@ -5,6 +5,7 @@
 
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/combinatorics.h"
 #include "qorvex/stats/detail/combinatorics.h"
@@ -22,7 +23,7 @@ void RequireMean(Extended lambda) {
 class Probabilities {
  public:
   Probabilities(Extended lambda, std::uint32_t first)
-      : lambda_(lambda), at_zero_(std::exp(-lambda)), factorial_(Factorial(first)) {}
+      : lambda_(lambda), at_zero_(Exp(-lambda)), factorial_(Factorial(first)) {}
 
   Extended operator()(std::uint64_t count) {
     const auto k = static_cast<Extended>(count);
@@ -36,7 +37,7 @@ class Probabilities {
     const Extended power = XtoY(lambda_, k);
     if (std::isnormal(at_zero_) && std::isnormal(power)) return at_zero_ * power / factorial_;
     if (std::isinf(lambda_)) return 0;
-    return std::exp(k * std::log(lambda_) - lambda_ - std::log(factorial_));
+    return Exp(k * Log(lambda_) - lambda_ - Log(factorial_));
   }
 
   Extended lambda_;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/vector/detail/amount_transform.h"
 #include "qorvex/vector/detail/checks.h"
 #include "qorvex/vector/detail/element_arithmetic.h"
@@ -46,7 +47,7 @@ void InvVector(TQorVector<T>& vector) {
 template <FloatElement T>
 void LnVector(TQorVector<T>& vector) {
   if (!VectorPositive(vector)) RaiseMathError(rsVectorNotPos);
-  Replace(vector, [](Extended x) { return std::log(x); });
+  Replace(vector, [](Extended x) { return Log(x); });
 }
 
 template <FloatElement T>

@@ -9,6 +9,7 @@
 
 #include "apps/common/probability_text.h"
 #include "apps/qorvex-gallery/model/texts.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
@@ -35,7 +36,7 @@ QString RoundedText(Extended figure, Extended standard_error) {
   constexpr Extended least = 1e-17L;
   constexpr Extended greatest = 1e12L;
   if (standard_error < least || standard_error > greatest) return ExactText(figure);
-  const int decimals = 3 - static_cast<int>(std::floor(std::log10(standard_error)));
+  const int decimals = 3 - static_cast<int>(std::floor(Log10(standard_error)));
   return LocalText(Float2EStr(figure, std::max(decimals, 0)));
 }
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/functions.h"
+
 namespace qorvex::gallery {
 
 namespace {
@@ -18,7 +20,7 @@ QString Label(double value, double largest, const RoundStep& step, const QLocale
     return plain.toString(value, 'f', std::max(0, -step.exponent));
   }
   if (value == 0) return locale.toString(0);
-  const int digits = static_cast<int>(std::floor(std::log10(std::fabs(value)))) - step.exponent;
+  const int digits = static_cast<int>(std::floor(Log10(std::fabs(value)))) - step.exponent;
   return locale.toString(value, 'e', std::max(0, digits));
 }
 

@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "apps/common/round_step.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/order_statistics.h"
 #include "qorvex/vector/sorting.h"
 
@@ -31,10 +32,10 @@ Extended ClassesByRule(const TQorFloatVector& sorted, ClassRule rule) {
   if (rule == ClassRule::kFreedmanDiaconis) {
     Extended q1, q3;
     GetQuartiles(sorted, q1, q3);
-    const Extended half_width = 2 * (q3 / 2 - q1 / 2) / std::cbrt(count);
+    const Extended half_width = 2 * (q3 / 2 - q1 / 2) / Cbrt(count);
     if (half_width > 0) return std::clamp<Extended>(half_range / half_width, 1, kMostClasses / 3);
   }
-  return 1 + std::log2(count);
+  return 1 + Log2(count);
 }
 
 std::vector<Extended> RoundEdges(Extended low, Extended high, Extended width) {

@@ -63,7 +63,7 @@ ExtendedPair Ln(ExtendedPair x) {
 }
 
 ExtendedPair Exp(ExtendedPair x) {
-  const Extended rough = std::exp(x.hi);
+  const Extended rough = Exp(x.hi);
   if (!(rough > 0 && std::isfinite(rough))) return rough;
   // A step of Newton's iteration for Ln y = x.
   return OrderedSum(rough, rough * (x - Ln(rough)).hi);

@@ -8,6 +8,7 @@
 /// extending the available precision".
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/export.h"
 
 namespace qorvex::special {
@@ -90,6 +91,7 @@ constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
 /// The natural logarithm of a positive finite value, off by at most 2^-98, and by 2^-93 of itself.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Ln(ExtendedPair x);
 
+using QorvexGlobals::Exp;
 /// The exponential function, off by 2^-93 times |x| of itself; 0 and infinity beyond the format.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Exp(ExtendedPair x);
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/boost_math.h"
 
 namespace qorvex::special {
@@ -56,7 +57,7 @@ Scaled FactorialOf(ExtendedPair a) {
     return {kFactorialsOfHalves[static_cast<std::size_t>(twice)], ExtendedPair()};
   }
   if (a.hi >= kStirlingFrom) {
-    return {std::sqrt(2 * QorPi * a.hi) * std::exp(StirlingError(a.hi)), a * Ln(a) - a};
+    return {std::sqrt(2 * QorPi * a.hi) * Exp(StirlingError(a.hi)), a * Ln(a) - a};
   }
   constexpr Extended small = 0.5L;
   if (a.hi < small) {
@@ -67,7 +68,7 @@ Scaled FactorialOf(ExtendedPair a) {
   }
   const Extended gamma = Evaluate([&] { return boost::math::tgamma(a.hi, kBoostPolicy); });
   // The derivative of the logarithm: enough digits for a low part of half a unit.
-  const Extended digamma = std::log(a.hi + 0.5L);
+  const Extended digamma = Log(a.hi + 0.5L);
   return {a.hi * gamma * (1 + digamma * a.lo), ExtendedPair()};
 }
 

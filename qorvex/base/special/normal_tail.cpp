@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 
 namespace qorvex::special {
 
@@ -34,7 +35,7 @@ Scaled NormalUpperTail(ExtendedPair z) {
   // -(ln erfc)' is t + sqrt(t^2 + 4/pi) within half a per cent.
   const ExtendedPair t = z * kRootOfHalf;
   const Extended steepness = t.hi + std::sqrt(t.hi * t.hi + 4 / QorPi);
-  return {std::erfc(t.hi) / 2 * (1 - steepness * t.lo), ExtendedPair()};
+  return {Erfc(t.hi) / 2 * (1 - steepness * t.lo), ExtendedPair()};
 }
 
 }  // namespace qorvex::special

@@ -5,6 +5,7 @@
 #include <limits>
 #include <utility>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/boost_math.h"
 #include "qorvex/base/special/detail/tail_solver.h"
 #include "qorvex/base/special/factorial.h"
@@ -153,7 +154,7 @@ Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
   if (a_ >= 1 && b_ >= 1) {
     // The logarithm of the odds is about normal.
     const Extended deviation = std::sqrt(1 / a_ + 1 / b_);
-    start = (a_ - 0.5L) / (b_ - 0.5L) * std::exp(RoughNormalQuantile(p) * deviation);
+    start = (a_ - 0.5L) / (b_ - 0.5L) * Exp(RoughNormalQuantile(p) * deviation);
   }
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   const Extended odds = SolveTail(tail, p, start, unlimited, [this](Extended at) {

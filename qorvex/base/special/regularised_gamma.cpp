@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/boost_math.h"
 #include "qorvex/base/special/detail/tail_solver.h"
 #include "qorvex/base/special/detail/uniform_gamma.h"
@@ -81,7 +82,7 @@ Tails RegularisedGamma::TailsFrom(Extended x, Scaled density) const {
     if (a < 1 && density.Value() > most) {
       // So far down the lower tail is its first term.
       constexpr Extended far_down = 1e-25L;
-      const Extended upper = x < far_down ? -std::expm1(density.Log()) : BoostUpper(a, x);
+      const Extended upper = x < far_down ? -Expm1(density.Log()) : BoostUpper(a, x);
       return {Tail::kUpper, {upper, ExtendedPair()}};
     }
     return {Tail::kLower, density};
@@ -117,7 +118,7 @@ Extended RegularisedGamma::Start(Tail tail, Extended p, Extended asymptote) cons
     if (root > least) return a * root * root * root;
   } else if (tail == Tail::kUpper) {
     // Far up the tail is about x^(a - 1) e^-x / Gamma(a).
-    const Extended far_up = -std::log(p / a * factorial_.factor);
+    const Extended far_up = -Log(p / a * factorial_.factor);
     if (far_up > 1) return far_up;
   }
   return asymptote;

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/exact_binomial.h"
 
 namespace qorvex::special {
@@ -48,8 +49,8 @@ Tails PowerTails(Extended b, ExtendedPair x, ExtendedPair y) {
     return {Tail::kUpper, whole ? ToScaled(WholePower(y, static_cast<std::uint64_t>(b))) : upper};
   }
   // Close to 1, y has few digits of 1 - y.
-  const Extended log_upper = x.hi < 0x1p-10L ? b * std::log1p(-x.hi) : upper.exponent.hi;
-  return {Tail::kLower, Scaled{-std::expm1(log_upper), ExtendedPair()}};
+  const Extended log_upper = x.hi < 0x1p-10L ? b * Log1p(-x.hi) : upper.exponent.hi;
+  return {Tail::kLower, Scaled{-Expm1(log_upper), ExtendedPair()}};
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/scaled.h"
 
 namespace qorvex::special {
@@ -37,7 +38,7 @@ class Tails {
   /// The natural logarithm of the probability of a tail, also where the probability underflows.
   [[nodiscard]] Extended LogProbability(Tail tail) const {
     // Adding 0 turns -0 into 0.
-    return tail == known_tail_ ? known_.Log() : std::log1p(-known_.Value()) + 0;
+    return tail == known_tail_ ? known_.Log() : Log1p(-known_.Value()) + 0;
   }
   /// The tails of the mirrored distribution.
   [[nodiscard]] Tails Mirrored() const { return {Opposite(known_tail_), known_}; }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/elementary/functions.h"
 
 namespace qorvex::inline QorvexRandom::detail {
 
@@ -37,11 +38,11 @@ struct BinomialRatios {
     const Extended above_y = y + 1;
     const Extended failures_at_mode = n - mode + 1;
     const Extended failures_at_y = n - y + 1;
-    return (mode + 0.5L) * std::log1p((mode - y) / above_y) +
-           (n - mode + 0.5L) * std::log1p((y - mode) / failures_at_y) +
-           (y - mode) * std::log(failures_at_y * p / (above_y * q)) +
-           StirlingCorrection(above_mode) + StirlingCorrection(failures_at_mode) -
-           StirlingCorrection(above_y) - StirlingCorrection(failures_at_y);
+    return (mode + 0.5L) * Log1p((mode - y) / above_y) +
+           (n - mode + 0.5L) * Log1p((y - mode) / failures_at_y) +
+           (y - mode) * Log(failures_at_y * p / (above_y * q)) + StirlingCorrection(above_mode) +
+           StirlingCorrection(failures_at_mode) - StirlingCorrection(above_y) -
+           StirlingCorrection(failures_at_y);
   }
 };
 

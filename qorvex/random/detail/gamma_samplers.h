@@ -6,6 +6,7 @@
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/limits.h"
 #include "qorvex/random/exponential.h"
@@ -36,7 +37,7 @@ class CubedNormal {
  private:
   // 1 - v + ln v. Large shapes multiply it, so it must keep its digits for v near 1.
   static Extended LogExcess(Extended v) {
-    return v > 0.5L ? std::log1p(v - 1) - (v - 1) : 1 - v + std::log(v);
+    return v > 0.5L ? Log1p(v - 1) - (v - 1) : 1 - v + Log(v);
   }
 
   Extended d_;
@@ -50,10 +51,10 @@ class PowerAndTail {
   explicit PowerAndTail(Extended shape) : shape_(shape), a_(1 - shape) {
     if (shape < kVerySmall) RaiseMathError(rsShapeTooSmall);
     reciprocal_shape_ = 1 / shape;
-    power_share_ = a_ / (a_ + shape * std::exp(-a_));
+    power_share_ = a_ / (a_ + shape * Exp(-a_));
     // kVerySmall / a is below 2^-1009.
     zero_bound_ = std::ldexp(Extended{1}, -static_cast<int>(1009 * shape));
-    d_ = a_ * std::log(a_);
+    d_ = a_ * Log(a_);
   }
 
   Extended operator()(UniformSource source) const {
@@ -63,8 +64,8 @@ class PowerAndTail {
       Extended x;
       Extended w;
       if (r > power_share_) {
-        x = a_ - std::log((1 - r) / (1 - power_share_));
-        w = a_ * std::log(x) - d_;
+        x = a_ - Log((1 - r) / (1 - power_share_));
+        w = a_ * Log(x) - d_;
       } else if (r > zero_bound_ || r > power_share_ * XtoY(kVerySmall / a_, shape_)) {
         x = a_ * XtoY(r / power_share_, reciprocal_shape_);
         w = x;
@@ -72,7 +73,7 @@ class PowerAndTail {
         return 0;
       }
       r = source();
-      if (1 - r <= w && r > 0 && (r * (w + 1) >= 1 || -std::log(r) <= w)) continue;
+      if (1 - r <= w && r > 0 && (r * (w + 1) >= 1 || -Log(r) <= w)) continue;
       return x;
     }
   }

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 
 namespace qorvex::inline QorvexRandom::detail {
 
@@ -38,8 +39,8 @@ class PoissonDensities {
       Extended delta = 0.08333333L / k;
       delta -= 4.8L * delta * delta * delta;
       const Extended v = (mu_ - k) / k;
-      at.p_exponent = std::fabs(v) > 0.25L ? k * std::log(1 + v) - (mu_ - k) - delta
-                                           : k * v * v * Series(v) - delta;
+      at.p_exponent =
+          std::fabs(v) > 0.25L ? k * Log(1 + v) - (mu_ - k) - delta : k * v * v * Series(v) - delta;
       at.p_factor = 0.3989423L / std::sqrt(k);
     }
     const Extended x = (k - mu_ + 0.5L) / deviation_;

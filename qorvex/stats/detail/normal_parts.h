@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/elementary/functions.h"
 
 namespace qorvex::inline QorvexStatistics::detail {
 
@@ -14,7 +15,7 @@ inline constexpr Extended kRootTwoPi = 2.50662827463100050241576528481104525L;
 /// exp(-(x - mean)^2 / twice_variance).
 inline Extended Bell(Extended x, Extended mean, Extended twice_variance) {
   const Extended difference = x - mean;
-  return std::exp(-(difference * difference) / twice_variance);
+  return Exp(-(difference * difference) / twice_variance);
 }
 
 inline Extended TwiceVariance(Extended std_dev) {

@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
@@ -36,7 +38,9 @@ Tails CauchyDistribution::At(Extended x) const {
   // So far out the tail is 1 / (pi z), and may be too small for the format.
   constexpr Extended far = 1e20L;
   if (z > far) return {tail, Scaled{1 / QorPi, Ln(ExtendedPair(scale_)) - Ln(size)}};
-  return {tail, Scaled{std::atan2(1.0L, z) / QorPi, ExtendedPair()}};
+  const elementary::Wide angle =
+      elementary::ArcTanWide(elementary::Wide(1.0L), elementary::Wide(z));
+  return {tail, Scaled{elementary::Nearest(angle) / QorPi, ExtendedPair()}};
 }
 
 Extended CauchyDistribution::Quantile(Tail tail, Extended p) const {
@@ -46,8 +50,7 @@ Extended CauchyDistribution::Quantile(Tail tail, Extended p) const {
   // The scale times the cotangent of pi p, which is 1 / (pi p) for tiny p.
   constexpr Extended tiny = 1e-30L;
   Extended distance = scale_ / QorPi / p;
-  if (p >= tiny)
-    distance = p < 0.25L ? scale_ / std::tan(QorPi * p) : std::tan(QorPi * (0.5L - p)) * scale_;
+  if (p >= tiny) distance = p < 0.25L ? scale_ / Tan(QorPi * p) : Tan(QorPi * (0.5L - p)) * scale_;
   return CheckedFinite(location_ + (tail == Tail::kLower ? -distance : distance));
 }
 

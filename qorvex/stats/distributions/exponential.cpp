@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 
 namespace qorvex {
@@ -29,14 +30,14 @@ Tails ExponentialDistribution::At(Extended x) const {
   // So far down the lower tail is the ratio, which may be too small for the format.
   constexpr Extended far_down = 1e-4900L;
   if (ratio.hi < far_down) return {Tail::kLower, Scaled{1, LnOfRatio(ratio, x, mean_)}};
-  if (ratio.hi < 1) return {Tail::kLower, Scaled{-std::expm1(-ratio.hi), ExtendedPair()}};
+  if (ratio.hi < 1) return {Tail::kLower, Scaled{-Expm1(-ratio.hi), ExtendedPair()}};
   return {Tail::kUpper, Scaled{1, -ratio}};
 }
 
 Extended ExponentialDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(mean_, p)) return kNotANumber;
-  return CheckedFinite(-mean_ * (tail == Tail::kLower ? std::log1p(-p) : std::log(p)));
+  return CheckedFinite(-mean_ * (tail == Tail::kLower ? Log1p(-p) : Log(p)));
 }
 
 Interval<Extended> ExponentialDistribution::Support() const {

@@ -9,6 +9,7 @@
 #include <span>
 #include <utility>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/distributions/distribution.h"
@@ -115,7 +116,7 @@ template <Distribution D>
     const special::Scaled taken{subtrahend.factor, subtrahend.exponent - minuend.exponent};
     return special::Scaled{minuend.factor - taken.Value(), minuend.exponent}.Log();
   }
-  return std::log1p(-first.Probability(Tail::kLower) - second.Probability(Tail::kUpper));
+  return Log1p(-first.Probability(Tail::kLower) - second.Probability(Tail::kUpper));
 }
 
 /// figure(d, points[i]) for every point into out[i], without allocation: a figure is a member such

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/tail_solver.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/gauss_legendre.h"
@@ -33,7 +34,7 @@ struct ExponentialRests {
       growing = even + odd;
       shrinking = even - odd;
     } else {
-      const Extended power = std::expm1(s);
+      const Extended power = Expm1(s);
       growing = power - s;
       shrinking = s - power / (1 + power);
     }
@@ -69,18 +70,18 @@ struct GeneralisedInverseGaussianDistribution::Descent {
   [[nodiscard]] Extended Reach(Extended fall) const {
     const Extended grown = fall / growing;
     const Extended shrunk = fall / shrinking;
-    Extended s = std::fmin(std::log1p(grown + std::sqrt(2 * grown)),
+    Extended s = std::fmin(Log1p(grown + std::sqrt(2 * grown)),
                            (shrunk + std::sqrt(shrunk * (shrunk + 8))) / 2);
     if (slope > 0) s = std::fmin(s, fall / slope);
     constexpr Extended little = 1.05L;
     for (Extended at = At(s); at > little * fall; at = At(s)) {
-      s -= (at - fall) / (slope + growing * std::expm1(s) - shrinking * std::expm1(-s));
+      s -= (at - fall) / (slope + growing * Expm1(s) - shrinking * Expm1(-s));
     }
     return s;
   }
   // The integral of the density, relative to the start.
   [[nodiscard]] Extended IntegralTo(Extended end) const {
-    return Integral(end, [this](Extended s) { return std::exp(-At(s)); });
+    return Integral(end, [this](Extended s) { return Exp(-At(s)); });
   }
   [[nodiscard]] Extended Mass() const { return IntegralTo(Reach(kNegligibleFall)); }
 
@@ -167,8 +168,8 @@ Extended GeneralisedInverseGaussianDistribution::Quantile(Tail tail, Extended p)
   if (AnyNaN(h_.hi, b_, scale_, p)) return kNotANumber;
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
   // Where the density has fallen by p.
-  const Extended distance = DescentFrom(mode_, tail).Reach(-std::log(p));
-  const Extended start = mode_ * std::exp(tail == Tail::kLower ? -distance : distance);
+  const Extended distance = DescentFrom(mode_, tail).Reach(-Log(p));
+  const Extended start = mode_ * Exp(tail == Tail::kLower ? -distance : distance);
   constexpr Extended largest_step = 1;
   const Extended x = special::SolveTail(tail, p, start, largest_step, [this](Extended at) {
     const ExtendedPair fall = FallAt(at);
@@ -182,10 +183,10 @@ Extended GeneralisedInverseGaussianDistribution::MomentAboutMode(int power, Exte
   const auto integral = [=, this](Tail tail, Extended end) {
     const Descent descent = DescentFrom(mode_, tail);
     return Integral(end, [=](Extended s) {
-      const Extended distance = std::expm1(tail == Tail::kLower ? -s : s) - shift;
+      const Extended distance = Expm1(tail == Tail::kLower ? -s : s) - shift;
       Extended weight = distance;
       for (int i = 1; i < power; ++i) weight *= distance;
-      return weight * std::exp(-descent.At(s));
+      return weight * Exp(-descent.At(s));
     });
   };
   // With the weight x^power the density reaches farther.
@@ -195,7 +196,7 @@ Extended GeneralisedInverseGaussianDistribution::MomentAboutMode(int power, Exte
   const Extended reach = weighted.DescentFrom(weighted.mode_, Tail::kUpper).Reach(kNegligibleFall);
   const Extended lower =
       integral(Tail::kLower, DescentFrom(mode_, Tail::kLower).Reach(kNegligibleFall));
-  const Extended upper = integral(Tail::kUpper, std::log(weighted.mode_ / mode_) + reach);
+  const Extended upper = integral(Tail::kUpper, Log(weighted.mode_ / mode_) + reach);
   return (lower + upper) / Mass();
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/counts.h"
 
@@ -30,7 +31,7 @@ Tails GeometricDistribution::At(std::uint32_t k) const {
   const ExtendedPair ln_upper = ln_q_ * (static_cast<Extended>(k) + 1);
   constexpr Extended lower_tail_above = -0.7L;
   if (ln_upper.hi < lower_tail_above) return {Tail::kUpper, Scaled{1, ln_upper}};
-  return {Tail::kLower, Scaled{-std::expm1(ln_upper.hi), ExtendedPair()}};
+  return {Tail::kLower, Scaled{-Expm1(ln_upper.hi), ExtendedPair()}};
 }
 
 std::uint32_t GeometricDistribution::Quantile(Tail tail, Extended p) const {

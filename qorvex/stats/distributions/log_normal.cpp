@@ -3,6 +3,7 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/normal_tail.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
@@ -43,28 +44,28 @@ Extended LogNormalDistribution::Quantile(Tail tail, Extended p) const {
 }
 
 Extended LogNormalDistribution::Mean() const {
-  return std::exp(log_mean_ + log_std_dev_ * log_std_dev_ / 2);
+  return Exp(log_mean_ + log_std_dev_ * log_std_dev_ / 2);
 }
 
 Extended LogNormalDistribution::Variance() const {
   // e^(2 m + s^2) (e^(s^2) - 1), arranged so that no factor leaves the format before the product
   // does.
   const Extended square = log_std_dev_ * log_std_dev_;
-  const Extended root = std::exp(log_mean_ + square);
+  const Extended root = Exp(log_mean_ + square);
   if (square < std::numeric_limits<Extended>::min()) {
     const Extended std_dev = Scaled{log_std_dev_, log_mean_}.Value();
     return std_dev * std_dev;
   }
-  return -std::expm1(-square) * root * root;
+  return -Expm1(-square) * root * root;
 }
 
 Extended LogNormalDistribution::Skewness() const {
   const Extended square = log_std_dev_ * log_std_dev_;
-  return (std::exp(square) + 2) * std::sqrt(std::expm1(square));
+  return (Exp(square) + 2) * std::sqrt(Expm1(square));
 }
 
 Extended LogNormalDistribution::Mode() const {
-  return std::exp(log_mean_ - log_std_dev_ * log_std_dev_);
+  return Exp(log_mean_ - log_std_dev_ * log_std_dev_);
 }
 
 Interval<Extended> LogNormalDistribution::Support() const {

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
@@ -23,7 +24,7 @@ Extended LogisticDistribution::Pdf(Extended x) const {
   if (std::isinf(x)) return 0;
   const ExtendedPair z = Standardised(x, location_, scale_);
   const ExtendedPair exponent = z.hi < 0 ? z : -z;
-  const Extended sum = 1 + std::exp(exponent.hi);
+  const Extended sum = 1 + Exp(exponent.hi);
   return Scaled{1 / (scale_ * sum * sum), exponent}.Value();
 }
 
@@ -33,7 +34,7 @@ Tails LogisticDistribution::At(Extended x) const {
   const ExtendedPair z = Standardised(x, location_, scale_);
   const ExtendedPair exponent = z.hi < 0 ? z : -z;
   const Tail tail = z.hi < 0 ? Tail::kLower : Tail::kUpper;
-  return {tail, Scaled{1 / (1 + std::exp(exponent.hi)), exponent}};
+  return {tail, Scaled{1 / (1 + Exp(exponent.hi)), exponent}};
 }
 
 Extended LogisticDistribution::Quantile(Tail tail, Extended p) const {

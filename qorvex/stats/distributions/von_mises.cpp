@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/gauss_legendre.h"
 
@@ -33,8 +34,8 @@ ExtendedPair Versine(Extended x) {
 
 // How far from x, at most pi, k cos falls by more than is worth integrating.
 Extended Reach(Extended k, Extended x) {
-  const Extended lowest = std::cos(x) - kNegligibleFall / k;
-  return lowest > -1 ? std::acos(lowest) - x : (kPi - x).hi;
+  const Extended lowest = Cos(x) - kNegligibleFall / k;
+  return lowest > -1 ? ArcCos(lowest) - x : (kPi - x).hi;
 }
 
 }  // namespace
@@ -51,7 +52,7 @@ VonMisesDistribution::UpperTail VonMisesDistribution::UpperTailAt(Extended x) co
   const Extended relative = Integral(Reach(k, x), [=](Extended s) {
     // cos x - cos(x + s) is twice the product of two sines, of which this is one; also from pi.
     const Extended middle = x < 1 ? x + s / 2 : rest - s / 2;
-    return std::exp(-2 * k * std::sin(middle) * std::sin(s / 2));
+    return Exp(-2 * k * Sin(middle) * Sin(s / 2));
   });
   return {Scaled{relative / (2 * half_mass_), -(Versine(x) * k)}, relative};
 }
@@ -77,23 +78,23 @@ Extended VonMisesDistribution::Quantile(Tail tail, Extended p) const {
   const auto on_side = [=](Extended x) { return tail == Tail::kUpper ? x : -x; };
   // Closer to pi than the format resolves.
   if (UpperTailAt(kLastAngle).probability.Value() >= p) return on_side(QorPi);
-  const Extended ln_p = std::log(p);
+  const Extended ln_p = Log(p);
   constexpr Extended tolerance = 1e-12L;
   constexpr Extended newton_threshold = 0.5L;
   constexpr Extended unit = 1e-19L;
   Extended below = 0;
   Extended above = kLastAngle;
-  Extended x = std::fmin(std::sqrt(-2 * std::log(2 * p) * Variance()), QorPi / 2);
+  Extended x = std::fmin(std::sqrt(-2 * Log(2 * p) * Variance()), QorPi / 2);
   for (Extended excess = 1, step = 1;
        std::fabs(excess) > tolerance && std::fabs(step) > unit * x;) {
     const UpperTail upper = UpperTailAt(x);
     const Extended relative = upper.probability.Value() / p - 1;
-    excess = std::fabs(relative) < newton_threshold ? std::log1p(relative)
-                                                    : upper.probability.Log() - ln_p;
+    excess =
+        std::fabs(relative) < newton_threshold ? Log1p(relative) : upper.probability.Log() - ln_p;
     (excess > 0 ? below : above) = x;
     // Newton's step for the logarithm of the distance from pi, which the tail is about a power of.
     const Extended rest = (kPi - x).hi;
-    Extended next = x - rest * std::expm1(-excess * upper.relative / rest);
+    Extended next = x - rest * Expm1(-excess * upper.relative / rest);
     if (std::fabs(excess) > newton_threshold && !(next > below && next < above))
       next = below + (above - below) / 2;
     step = next - x;
@@ -107,8 +108,8 @@ Extended VonMisesDistribution::Variance() const {
   const Extended k = concentration_;
   return Integral(Reach(k, 0),
                   [=](Extended x) {
-                    const Extended sine = std::sin(x / 2);
-                    return x * x * std::exp(-2 * k * sine * sine);
+                    const Extended sine = Sin(x / 2);
+                    return x * x * Exp(-2 * k * sine * sine);
                   }) /
          half_mass_;
 }

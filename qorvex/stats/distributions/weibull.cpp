@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/factorial.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
@@ -96,7 +97,7 @@ Extended WeibullDistribution::Mean() const {
 Extended WeibullDistribution::Variance() const {
   if (shape_ < 0 && shape_ >= -2) return shape_ < -1 ? kInfinite : kNotANumber;
   const Extended mean = Mean();
-  return mean * std::expm1(LnMomentRatio(2)) * mean;
+  return mean * Expm1(LnMomentRatio(2)) * mean;
 }
 
 Extended WeibullDistribution::Skewness() const {
@@ -105,13 +106,13 @@ Extended WeibullDistribution::Skewness() const {
   const Extended ln_third = LnMomentRatio(3);
   // Beyond, the powers of the mean are negligible, and the others may be too large for the format.
   constexpr Extended large = 100;
-  if (ln_second > large) return std::exp(ln_third - 1.5L * ln_second);
-  const Extended square = std::expm1(ln_second);
-  return (std::expm1(ln_third) - 3 * square) / (square * std::sqrt(square));
+  if (ln_second > large) return Exp(ln_third - 1.5L * ln_second);
+  const Extended square = Expm1(ln_second);
+  return (Expm1(ln_third) - 3 * square) / (square * std::sqrt(square));
 }
 
 Extended WeibullDistribution::Mode() const {
-  return shape_ > 0 && shape_ <= 1 ? 0 : scale_ * std::exp(std::log1p(-1 / shape_) / shape_);
+  return shape_ > 0 && shape_ <= 1 ? 0 : scale_ * Exp(Log1p(-1 / shape_) / shape_);
 }
 
 Interval<Extended> WeibullDistribution::Support() const {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/binomial.h"
 #include "qorvex/stats/distributions/binomial.h"
@@ -30,7 +31,7 @@ Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
     return special::Ln(special::BinomialProbability(
         binomial.Trials(), static_cast<std::uint32_t>(k), p, special::ExactSum(1, -p)));
   };
-  const ExtendedPair bound = log_probability(observed) + ExtendedPair(std::log1p(1e-7L));
+  const ExtendedPair bound = log_probability(observed) + ExtendedPair(Log1p(1e-7L));
   const auto is_as_unlikely = [&](std::uint64_t k) { return (log_probability(k) - bound).hi <= 0; };
   // On the other side of the mean the probabilities fall with the distance from it.
   std::uint64_t first = 0;

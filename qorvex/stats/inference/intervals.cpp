@@ -125,6 +125,17 @@ Interval<Extended> WilsonInterval(std::uint64_t successes, std::uint64_t trials,
   return {2 * x * x / (n * sum), successes == trials ? 1 : sum / (2 * (n + z * z))};
 }
 
+namespace {
+
+// tanh x.
+Extended Tanh(Extended x) {
+  const Extended excess = Expm1(2 * std::fabs(x));
+  const Extended magnitude = std::isinf(excess) ? 1 : excess / (excess + 2);
+  return std::copysign(magnitude, x);
+}
+
+}  // namespace
+
 Interval<Extended> CorrelationInterval(Extended r, std::uint64_t n, Extended confidence) {
   if (n < 4) RaiseMathError(rsVectorG3);
   if (r < -1 || r > 1) RaiseMathError(rsInvalidValue);
@@ -132,8 +143,8 @@ Interval<Extended> CorrelationInterval(Extended r, std::uint64_t n, Extended con
   if (std::isnan(tail) || std::isnan(r)) return kUnknown;
   const Extended half_width = distributions::StandardNormalQuantile(Tail::kUpper, tail) /
                               std::sqrt(static_cast<Extended>(n - 3));
-  const Extended centre = std::atanh(r);
-  return {std::tanh(centre - half_width), std::tanh(centre + half_width)};
+  const Extended centre = (Log1p(r) - Log1p(-r)) / 2;
+  return {Tanh(centre - half_width), Tanh(centre + half_width)};
 }
 
 }  // namespace qorvex

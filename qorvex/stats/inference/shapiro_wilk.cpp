@@ -8,6 +8,7 @@
 #include <numbers>
 #include <vector>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 #include "qorvex/stats/exact/exact_sample.h"
@@ -65,23 +66,23 @@ TestResult OfThree(const Rational& w) {
   const Extended sine =
       2 * excess / (std::sqrt(result.statistic) + std::sqrt(3.0L) * std::sqrt(other));
   constexpr Extended scale = 6 / std::numbers::pi_v<Extended>;
-  if (sine < 0.25L) return WithP(result, {scale * std::asin(sine), {}});
-  return WithTail(result, {Tail::kLower, {scale * std::asin(std::sqrt(other)), {}}}, Tail::kUpper);
+  if (sine < 0.25L) return WithP(result, {scale * ArcSin(sine), {}});
+  return WithTail(result, {Tail::kLower, {scale * ArcSin(std::sqrt(other)), {}}}, Tail::kUpper);
 }
 
 // Royston's normal approximation of a function of ln(1 - W).
 Extended NormalScore(Extended log_rest, std::size_t n) {
   const auto size = static_cast<Extended>(n);
   if (n <= 11) {
-    const Extended y = -std::log(Polynomial(size, {-2.273L, 0.459L}) - log_rest);
+    const Extended y = -Log(Polynomial(size, {-2.273L, 0.459L}) - log_rest);
     const Extended mean = Polynomial(size, {0.544L, -0.39978L, 0.025054L, -6.714e-4L});
     const Extended log_sd = Polynomial(size, {1.3822L, -0.77857L, 0.062767L, -0.0020322L});
-    return (y - mean) / std::exp(log_sd);
+    return (y - mean) / Exp(log_sd);
   }
-  const Extended x = std::log(size);
+  const Extended x = Log(size);
   const Extended mean = Polynomial(x, {-1.5861L, -0.31082L, -0.083751L, 0.0038915L});
   const Extended log_sd = Polynomial(x, {-0.4803L, -0.082676L, 0.0030302L});
-  return (log_rest - mean) / std::exp(log_sd);
+  return (log_rest - mean) / Exp(log_sd);
 }
 
 }  // namespace
@@ -115,7 +116,7 @@ TestResult ShapiroWilkTest(VectorView<Extended> values) {
   }
   const ExtendedPair w = weighted * weighted / (norm * ToPair(sum_of_squares));
   result.statistic = w.hi;
-  const Extended score = NormalScore(std::log((ExtendedPair(1) - w).hi), n);
+  const Extended score = NormalScore(Log((ExtendedPair(1) - w).hi), n);
   return WithTails(result, distributions::StandardNormalTails(score), Alternative::kGreater);
 }
 

@@ -7,6 +7,7 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/tails.h"
 
 namespace qorvex::special {
@@ -31,7 +32,7 @@ inline constexpr Extended kTolerance = 1e-21L;
 /// The lower-tail normal quantile within 0.0005 for 0 < p <= 0.5 (Hastings 1955, "Approximations
 /// for Digital Computers"): a start for iterations.
 inline Extended RoughNormalQuantile(Extended p) {
-  const Extended t = std::sqrt(-2 * std::log(p));
+  const Extended t = std::sqrt(-2 * Log(p));
   return (2.515517L + t * (0.802853L + t * 0.010328L)) /
              (1 + t * (1.432788L + t * (0.189269L + t * 0.001308L))) -
          t;
@@ -46,7 +47,7 @@ inline Extended RoughNormalQuantile(Extended p) {
 /// that falls so steeply that the way back would be long.
 template <class Distribution>
 Extended SolveTail(Tail tail, Extended p, Extended start, Extended largest_step, Distribution at) {
-  const Extended ln_p = std::log(p);
+  const Extended ln_p = Log(p);
   const Extended outwards = tail == Tail::kLower ? -1 : 1;
   Extended x = std::max(start, std::numeric_limits<Extended>::min());
   for (int i = 0; i < kMaxIterations; ++i) {
@@ -54,14 +55,14 @@ Extended SolveTail(Tail tail, Extended p, Extended start, Extended largest_step,
     const Extended probability = here.tails.Probability(tail);
     const Extended relative = (probability - p) / p;
     const Extended excess = std::fabs(relative) < kNewtonThreshold
-                                ? std::log1p(relative)
+                                ? Log1p(relative)
                                 : here.tails.LogProbability(tail) - ln_p;
     const Extended hazard = (here.log_density / here.tails.ScaledProbability(tail)).Value();
     Extended step = outwards * excess / hazard;
     if (std::fabs(excess) < kNewtonThreshold)
       step /= 1 + step * (here.slope + outwards * hazard) / 2;
     if (excess > 0) step = outwards * std::min(std::fabs(step), largest_step);
-    x += x * std::expm1(step);
+    x += x * Expm1(step);
     if (!(x > 0 && x <= std::numeric_limits<Extended>::max())) break;
     if (std::fabs(excess) < kNewtonThreshold && std::fabs(excess * excess * step) < kTolerance)
       break;

@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/functions.h"
+
 namespace qorvex::distributions {
 
 using special::ExtendedPair;
@@ -12,7 +14,7 @@ Tails UnitExponentialTails(ExtendedPair ln_t) {
   constexpr Extended far_down = -60;
   if (ln_t.hi < far_down) return {Tail::kLower, Scaled{1, ln_t}};
   const ExtendedPair t = Exp(ln_t);
-  if (t.hi < 1) return {Tail::kLower, Scaled{-std::expm1(-t.hi), ExtendedPair()}};
+  if (t.hi < 1) return {Tail::kLower, Scaled{-Expm1(-t.hi), ExtendedPair()}};
   return {Tail::kUpper, Scaled{1, -t}};
 }
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/binomial.h"
 #include "qorvex/stats/inference/detail/p_values.h"
 
@@ -156,12 +157,11 @@ Tails KolmogorovLimit(Extended n, Extended d, Alternative alternative) {
   // The two series of a theta function.
   Extended sum = 0;
   if (t > 1) {
-    for (int k = 5; k > 0; --k) sum = std::exp(-2 * t * static_cast<Extended>(k * k - 1)) - sum;
+    for (int k = 5; k > 0; --k) sum = Exp(-2 * t * static_cast<Extended>(k * k - 1)) - sum;
     return {Tail::kUpper, {2 * sum, leading.exponent}};
   }
   constexpr Extended pi = std::numbers::pi_v<Extended>;
-  for (int k = 1; k <= 7; k += 2)
-    sum += std::exp(-static_cast<Extended>(k * k) * pi * pi / (8 * t));
+  for (int k = 1; k <= 7; k += 2) sum += Exp(-static_cast<Extended>(k * k) * pi * pi / (8 * t));
   return {Tail::kLower, {std::sqrt(2 * pi / t) * sum, {}}};
 }
 

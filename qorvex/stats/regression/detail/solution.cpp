@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/regression/detail/sweep.h"
 #include "qorvex/stats/regression/detail/zeros.h"
 #include "qorvex/stats/regression/linear_model.h"
@@ -35,7 +36,7 @@ std::int64_t MagnitudeOf(const Rational& value) {
 Extended Log2(const Rational& value) {
   const std::int64_t magnitude = MagnitudeOf(value);
   const Rational fraction(value.Numerator().Shifted(-magnitude), value.Denominator());
-  return static_cast<Extended>(magnitude) + std::log2(fraction.Round());
+  return static_cast<Extended>(magnitude) + qorvex::Log2(fraction.Round());
 }
 
 SweptMatrix MatrixOf(const GramMatrix& gram, std::size_t bits) {
