@@ -21,8 +21,6 @@ using In = VectorView<Extended>;
 using Out = std::span<Extended>;
 
 // Exp, Expm1, Exp2
-Extended Exp(Extended x) noexcept { return std::exp(x); }
-void Exp(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp(t); }); }
 Extended Expm1(Extended x) noexcept { return std::expm1(x); }
 void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); }); }
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
@@ -61,7 +59,6 @@ void Erfc(In x, Out y) { Provisional(x, y, [](Extended t) { return Erfc(t); }); 
 namespace qorvex::elementary {
 
 // ExpWide, Expm1Wide
-Wide ExpWide(const Wide& x) { return Wide(special::Exp(PairOf(x))); }
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
 // SinCosWide, ArcTanWide
