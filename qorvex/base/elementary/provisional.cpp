@@ -40,11 +40,7 @@ void Log2(In x, Out y) { Provisional(x, y, [](Extended t) { return Log2(t); }); 
 Extended Log10(Extended x) noexcept { return std::log10(x); }
 void Log10(In x, Out y) { Provisional(x, y, [](Extended t) { return Log10(t); }); }
 
-// Sin, Cos, Tan
-Extended Sin(Extended x) noexcept { return std::sin(x); }
-void Sin(In x, Out y) { Provisional(x, y, [](Extended t) { return Sin(t); }); }
-Extended Cos(Extended x) noexcept { return std::cos(x); }
-void Cos(In x, Out y) { Provisional(x, y, [](Extended t) { return Cos(t); }); }
+// Tan
 Extended Tan(Extended x) noexcept { return std::tan(x); }
 void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }
 
@@ -82,8 +78,7 @@ Wide Log1pWide(const Wide& x) { return LogWide(Wide(1.0L) + x); }
 Wide ExpWide(const Wide& x) { return Wide(special::Exp(PairOf(x))); }
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
-// SinCosWide, ArcTanWide
-SineAndCosine SinCosWide(Extended x) { return {Wide(std::sin(x)), Wide(std::cos(x))}; }
+// ArcTanWide
 Wide ArcTanWide(const Wide& y, const Wide& x) { return Wide(std::atan2(Nearest(y), Nearest(x))); }
 
 }  // namespace qorvex::elementary
