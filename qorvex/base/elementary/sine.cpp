@@ -38,8 +38,7 @@ inline bool NeedsKernel(Binary80 x) {
 
 [[gnu::noinline]] Binary80 WithoutKernel(Binary80 x, Shift shift) {
   if (x.Exponent() == kExponentOfInfinity || IsNaN(x)) return QuietNaN();
-  if (shift == kCosine) return SignedOne(false);
-  return NearestBits(Wide(FromBits(x)));
+  return shift == kSine ? Canonical(x) : SignedOne(false);
 }
 
 [[gnu::noinline]] Wide256 SecondStage(Normalised x, bool is_cosine, bool negative) {
