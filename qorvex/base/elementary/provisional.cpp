@@ -44,12 +44,6 @@ void ArcTan(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcTan(t); 
 Extended Cbrt(Extended x) noexcept { return std::cbrt(x); }
 void Cbrt(In x, Out y) { Provisional(x, y, [](Extended t) { return Cbrt(t); }); }
 
-// Erf, Erfc
-Extended Erf(Extended x) noexcept { return std::erf(x); }
-void Erf(In x, Out y) { Provisional(x, y, [](Extended t) { return Erf(t); }); }
-Extended Erfc(Extended x) noexcept { return std::erfc(x); }
-void Erfc(In x, Out y) { Provisional(x, y, [](Extended t) { return Erfc(t); }); }
-
 }  // namespace qorvex::inline QorvexGlobals
 
 namespace qorvex::elementary {
