@@ -97,7 +97,7 @@ TEST(ElementarySpecialValues, OfPowersFollowTheStandard) {
       {0, -0.5L, kInf},     {-0.0L, -0.5L, kInf},
       {-0.0L, -kInf, kInf}, {-8, 1 / 3.0L, kNan},
       {-2, 0.5L, kNan},     {kNan, 1, kNan},
-      {2, kNan, kNan},      {-2, 0x1p63L + 1, kInf},
+      {2, kNan, kNan},      {-2, 0x1p63L + 1, -kInf},
       {-3, 3, -27},         {-2, -16445, -kSmallest},
       {-2, 16384, kInf},    {-2, 16383, -0x1p16383L},
   };
