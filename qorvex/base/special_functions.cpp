@@ -1,13 +1,13 @@
 #include "qorvex/base/special_functions.h"
 
 #include <boost/math/special_functions/erf.hpp>
-#include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/regularised_beta.h"
 #include "qorvex/base/special/shape_range.h"
 
@@ -15,6 +15,7 @@ namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
+using elementary::Wide;
 using special::Evaluate;
 using special::IsShapeOutOfRange;
 using special::kBoostPolicy;
@@ -32,7 +33,11 @@ Extended Gamma(Extended x) {
   if (x == 0) throw EZeroDivide();
   if (x < 0 && x == std::floor(x)) throw EInvalidOp();
   if (std::isinf(x)) return x;
-  return Evaluate([=] { return boost::math::tgamma(x, kBoostPolicy); });
+  // Far beyond both ends, where the kernel no longer holds.
+  constexpr Extended beyond = 2000;
+  if (x > beyond) throw EOverflow();
+  if (x < -beyond) return 0;
+  return CheckedFinite(elementary::Nearest(special::GammaWide(Wide(x))));
 }
 
 Extended LnGamma(Extended x) {
@@ -42,7 +47,7 @@ Extended LnGamma(Extended x) {
     return x;
   }
   if (x <= 0 && x == std::floor(x)) throw EZeroDivide();
-  return Evaluate([=] { return boost::math::lgamma(x, kBoostPolicy); });
+  return CheckedFinite(elementary::Nearest(special::LnGammaWide(Wide(x))));
 }
 
 Extended Beta(Extended a, Extended b) {
