@@ -25,7 +25,6 @@ Extended LogNormalDistribution::Pdf(Extended x) const {
   const ExtendedPair ln_x = Ln(ExtendedPair(x));
   const Scaled density =
       special::NormalDensity(Standardised(ln_x, log_mean_, log_std_dev_), log_std_dev_);
-  if (std::isinf(density.exponent.hi)) return 0;
   return (density * Scaled{1, -ln_x}).Value();
 }
 

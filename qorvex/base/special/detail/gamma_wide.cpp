@@ -2,6 +2,7 @@
 
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::special {
 
@@ -58,8 +59,10 @@ std::int64_t WholePart(const Wide& x) {
   return x.negative ? -whole : whole;
 }
 
-Wide Whole(std::int64_t n) {
-  return NormalisedWide(static_cast<UInt128>(n < 0 ? -n : n), 127, n < 0);
+// x - n.
+Wide Less(const Wide& x, std::int64_t n) {
+  const Wide size = WholeNumber(static_cast<std::uint64_t>(n < 0 ? -n : n));
+  return n < 0 ? x + size : x - size;
 }
 
 // Gamma(x) = factor (1 + rest) for |x| < 16, by Gamma(x + 1) = x Gamma(x) from or to [1, 2].
@@ -67,11 +70,11 @@ struct Shifted {
   explicit Shifted(const Wide& x) {
     std::int64_t whole = WholePart(x);
     if (x.negative) --whole;
-    rest = GammaMinusOne(x - Whole(whole));
-    for (std::int64_t k = 1; k < whole; ++k) factor = factor * (x - Whole(k));
+    rest = GammaMinusOne(Less(x, whole));
+    for (std::int64_t k = 1; k < whole; ++k) factor = factor * Less(x, k);
     if (whole >= 1) return;
     Wide divisor = x;
-    for (std::int64_t k = 1; k <= -whole; ++k) divisor = divisor * (x + Whole(k));
+    for (std::int64_t k = 1; k <= -whole; ++k) divisor = divisor * Less(x, -k);
     factor = kOne / divisor;
   }
   [[nodiscard]] Wide Value() const { return factor * (kOne + rest); }
@@ -83,13 +86,49 @@ struct Shifted {
 // sin(pi x) for x > 0, below 2^62. The sine of the leading 64 bits is corrected by the rest.
 Wide SineOfPi(const Wide& x) {
   const std::int64_t whole = WholePart(x);
-  Wide fraction = x - Whole(whole);
+  Wide fraction = Less(x, whole);
   if (fraction.exponent == -1) fraction = kOne - fraction;
   const Wide angle = kWidePi * fraction;
   const Extended leading = Nearest(angle);
   const auto [sine, cosine] = elementary::SinCosWide(leading);
   const Wide value = sine + (angle - Wide(leading)) * cosine;
   return whole % 2 == 0 ? value : -value;
+}
+
+// ln Gamma(x) - (x - 1/2) ln x + x - ln(2 pi) / 2 for x >= 16: Stirling's series; relative error
+// below 2^-91.
+Wide StirlingSeries(const Wide& x) {
+  const Wide reciprocal = kOne / x;
+  // 2^7 / x^2 at scale 2^128.
+  const UInt128 z = Fixed(reciprocal * reciprocal, 128 + 7);
+  std::uint64_t tail = 0;
+  for (std::size_t k = std::size(kStirlingShort); k-- > 0;)
+    tail = kStirlingShort[k] - MultiplyHigh(tail, High(z));
+  UInt128 value = UInt128{tail} << 26;
+  for (std::size_t k = std::size(kStirlingWide); k-- > 0;)
+    value = Join(kStirlingWide[k][0], kStirlingWide[k][1]) - MultiplyHigh(value, z);
+  return NormalisedWide(value, -1) * reciprocal;
+}
+
+// Stirling's series at b + a minus that at b, for ln_growth = ln(1 + a / b): each term is a power
+// of the argument, and changes by e^-(2k + 1) ln_growth - 1 of itself.
+Wide StirlingDifference(const Wide& b, const Wide& ln_growth) {
+  const Wide reciprocal = kOne / b;
+  const Wide square = ScaledBy(reciprocal * reciprocal, 7);
+  Wide sum;
+  Wide power = reciprocal;
+  const auto add = [&](std::size_t k, const Wide& size) {
+    const Wide change = elementary::Expm1Wide(-(WholeNumber(2 * k + 1) * ln_growth));
+    const Wide term = size * power * change;
+    sum = sum + (k % 2 == 0 ? term : -term);
+    power = power * square;
+  };
+  for (std::size_t k = 0; k < 4; ++k)
+    add(k, NormalisedWide(Join(kStirlingWide[k][0], kStirlingWide[k][1]), -1));
+  // Of the others 14 bits count less.
+  for (std::size_t k = 0; k < std::size(kStirlingShort); ++k)
+    add(k + 4, NormalisedWide(kStirlingShort[k], 127 - 102));
+  return sum;
 }
 
 // ln Gamma(x) for x >= 16. Error: that of the logarithm times x - 1/2.
@@ -112,25 +151,32 @@ Wide GammaMinusOne(const Wide& t) {
   return -(t * u * NormalisedWide(Quotient(fixed), -1));
 }
 
-Wide StirlingSeries(const Wide& x) {
-  const Wide reciprocal = kOne / x;
-  // 2^7 / x^2 at scale 2^128.
-  const UInt128 z = Fixed(reciprocal * reciprocal, 128 + 7);
-  std::uint64_t tail = 0;
-  for (std::size_t k = std::size(kStirlingShort); k-- > 0;)
-    tail = kStirlingShort[k] - MultiplyHigh(tail, High(z));
-  UInt128 value = UInt128{tail} << 26;
-  for (std::size_t k = std::size(kStirlingWide); k-- > 0;)
-    value = Join(kStirlingWide[k][0], kStirlingWide[k][1]) - MultiplyHigh(value, z);
-  return NormalisedWide(value, -1) * reciprocal;
-}
-
 Wide GammaWide(const Wide& x) {
   if (!IsLarge(x)) return Shifted(x).Value();
   if (!x.negative) return elementary::ExpWide(LnGammaOfLarge(x));
   // Gamma(-a) sin(pi a) Gamma(1 + a) = -pi
   const Wide a = -x;
   return -kWidePi / (SineOfPi(a) * elementary::ExpWide(LnGammaOfLarge(kOne + a)));
+}
+
+Wide LnFactorialWide(const Wide& a) {
+  return (a + kHalf) * LogWide(a) - a + (kLnOfRootOf2Pi + StirlingSeries(a));
+}
+
+Scaled TemperedGamma(const Wide& a) {
+  if (IsLarge(a)) return MakeScaled(kOne, StirlingSeries(a));
+  // Gamma(a + 1) e^a / a^a / sqrt(2 pi a)
+  return MakeScaled(a * GammaWide(a) / SquareRoot(ScaledBy(kWidePi, 1) * a), a - a * LogWide(a));
+}
+
+Wide LnGammaRatio(const Wide& b, const Wide& a) {
+  // Gamma(b + a) / Gamma(b) is that at b + 1 divided by 1 + a / b.
+  Wide large = b;
+  Wide sum;
+  for (; !IsLarge(large); large = large + kOne) sum = sum - elementary::Log1pWide(a / large);
+  const Wide ln_growth = elementary::Log1pWide(a / large);
+  return sum + ((large - kHalf) * ln_growth + a * (LogWide(large + a) - kOne) +
+                StirlingDifference(large, ln_growth));
 }
 
 Wide LnGammaWide(const Wide& x) {

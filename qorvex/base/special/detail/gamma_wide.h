@@ -3,6 +3,7 @@
 // The gamma function and its logarithm as numbers of 128 bits, before they are rounded.
 
 #include "qorvex/base/elementary/detail/wide.h"
+#include "qorvex/base/special/scaled.h"
 
 namespace qorvex::special {
 
@@ -19,8 +20,15 @@ using elementary::Wide;
 /// zeros at 1 and 2 are exact. Below 0 the error is below 2^-90 max(1, |result|).
 [[nodiscard]] Wide LnGammaWide(const Wide& x);
 
-/// ln Gamma(x) - (x - 1/2) ln x + x - ln(2 pi) / 2 for x >= 16: Stirling's series; relative error
-/// below 2^-91.
-[[nodiscard]] Wide StirlingSeries(const Wide& x);
+/// ln Gamma(a + 1) for a >= 16.
+[[nodiscard]] Wide LnFactorialWide(const Wide& a);
+
+/// Gamma(a) / (sqrt(2 pi / a) (a / e)^a) for a > 0, which tends to 1: Gamma functions of large
+/// arguments without what cancels in their quotients.
+[[nodiscard]] Scaled TemperedGamma(const Wide& a);
+
+/// ln(Gamma(b + a) / Gamma(b)) for a, b > 0; relative error below 2^-85 for the smallest a, too,
+/// unless the result is close to its zero.
+[[nodiscard]] Wide LnGammaRatio(const Wide& b, const Wide& a);
 
 }  // namespace qorvex::special
