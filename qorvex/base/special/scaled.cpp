@@ -68,6 +68,11 @@ Extended Scaled::Log() const {
   return parts.factor.negative ? kNotANumber : Nearest(LogOf(parts));
 }
 
+Extended Scaled::Rest() const {
+  const ScaledParts parts(*this);
+  return parts.unbounded == 0 ? Nearest(kOne - WideValue(parts)) : 1 - Value();
+}
+
 Extended Scaled::LogOfRest() const {
   const ScaledParts parts(*this);
   if (std::isnan(parts.unbounded)) return kNotANumber;

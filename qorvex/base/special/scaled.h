@@ -38,6 +38,8 @@ class QORVEX_EXPORT Scaled {
   [[nodiscard]] Extended Value() const;
   /// Its natural logarithm, -infinity for 0.
   [[nodiscard]] Extended Log() const;
+  /// 1 minus it, for numbers up to 1.
+  [[nodiscard]] Extended Rest() const;
   /// The natural logarithm of 1 minus it; -infinity for 1 and more.
   [[nodiscard]] Extended LogOfRest() const;
   /// Whether it is 0.

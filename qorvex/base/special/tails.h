@@ -31,7 +31,9 @@ class Tails {
     return tail == known_tail_ ? known_ : Scaled() - known_;
   }
   /// The probability of a tail; 0 where it is too small for the format.
-  [[nodiscard]] Extended Probability(Tail tail) const { return ScaledProbability(tail).Value(); }
+  [[nodiscard]] Extended Probability(Tail tail) const {
+    return tail == known_tail_ ? known_.Value() : known_.Rest();
+  }
   /// The natural logarithm of the probability of a tail, also where the probability underflows.
   [[nodiscard]] Extended LogProbability(Tail tail) const {
     // Adding 0 turns -0 into 0.
