@@ -1,12 +1,12 @@
 #include "qorvex/base/special_functions.h"
 
-#include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/regularised_beta.h"
 #include "qorvex/base/special/shape_range.h"
 
@@ -14,6 +14,7 @@ namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
+using elementary::Wide;
 using special::Evaluate;
 using special::IsShapeOutOfRange;
 using special::kBoostPolicy;
@@ -31,7 +32,11 @@ Extended Gamma(Extended x) {
   if (x == 0) throw EZeroDivide();
   if (x < 0 && x == std::floor(x)) throw EInvalidOp();
   if (std::isinf(x)) return x;
-  return Evaluate([=] { return boost::math::tgamma(x, kBoostPolicy); });
+  // Far beyond both ends, where the kernel no longer holds.
+  constexpr Extended beyond = 2000;
+  if (x > beyond) throw EOverflow();
+  if (x < -beyond) return 0;
+  return CheckedFinite(elementary::Nearest(special::GammaWide(Wide(x))));
 }
 
 Extended LnGamma(Extended x) {
@@ -41,7 +46,7 @@ Extended LnGamma(Extended x) {
     return x;
   }
   if (x <= 0 && x == std::floor(x)) throw EZeroDivide();
-  return Evaluate([=] { return boost::math::lgamma(x, kBoostPolicy); });
+  return CheckedFinite(elementary::Nearest(special::LnGammaWide(Wide(x))));
 }
 
 Extended Beta(Extended a, Extended b) {
