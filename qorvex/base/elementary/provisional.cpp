@@ -26,11 +26,7 @@ void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); })
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
 void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
-// Sin, Cos, Tan
-Extended Sin(Extended x) noexcept { return std::sin(x); }
-void Sin(In x, Out y) { Provisional(x, y, [](Extended t) { return Sin(t); }); }
-Extended Cos(Extended x) noexcept { return std::cos(x); }
-void Cos(In x, Out y) { Provisional(x, y, [](Extended t) { return Cos(t); }); }
+// Tan
 Extended Tan(Extended x) noexcept { return std::tan(x); }
 void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }
 
@@ -44,12 +40,6 @@ void ArcTan(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcTan(t); 
 Extended Cbrt(Extended x) noexcept { return std::cbrt(x); }
 void Cbrt(In x, Out y) { Provisional(x, y, [](Extended t) { return Cbrt(t); }); }
 
-// Erf, Erfc
-Extended Erf(Extended x) noexcept { return std::erf(x); }
-void Erf(In x, Out y) { Provisional(x, y, [](Extended t) { return Erf(t); }); }
-Extended Erfc(Extended x) noexcept { return std::erfc(x); }
-void Erfc(In x, Out y) { Provisional(x, y, [](Extended t) { return Erfc(t); }); }
-
 }  // namespace qorvex::inline QorvexGlobals
 
 namespace qorvex::elementary {
@@ -57,8 +47,7 @@ namespace qorvex::elementary {
 // ExpWide, Expm1Wide
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
-// SinCosWide, ArcTanWide
-SineAndCosine SinCosWide(Extended x) { return {Wide(std::sin(x)), Wide(std::cos(x))}; }
+// ArcTanWide
 Wide ArcTanWide(const Wide& y, const Wide& x) { return Wide(std::atan2(Nearest(y), Nearest(x))); }
 
 }  // namespace qorvex::elementary

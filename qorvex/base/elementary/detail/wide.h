@@ -9,6 +9,7 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary/detail/binary80.h"
+#include "qorvex/base/export.h"
 #include "qorvex/base/special/extended_pair.h"
 
 namespace qorvex::elementary {
@@ -125,10 +126,10 @@ constexpr Wide ScaledBy(const Wide& x, std::int64_t k) {
 }
 
 /// The quotient by a divisor other than 0; relative error below 2^-124.
-[[nodiscard]] Wide operator/(const Wide& a, const Wide& b);
+[[nodiscard]] QORVEX_EXPORT Wide operator/(const Wide& a, const Wide& b);
 
 /// The square root of x >= 0; relative error below 2^-124.
-[[nodiscard]] Wide SquareRoot(const Wide& x);
+[[nodiscard]] QORVEX_EXPORT Wide SquareRoot(const Wide& x);
 
 /// |a| < |b|.
 constexpr bool IsSmaller(const Wide& a, const Wide& b) {
@@ -138,7 +139,7 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 
 /// The bits of the nearest extended number, ties to even; infinity, 0 and subnormal numbers where
 /// they belong.
-[[nodiscard]] Binary80 NearestBitsAnywhere(const Wide& x) noexcept;
+[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(const Wide& x) noexcept;
 /// The same, quickly for results that are neither subnormal nor near the end of the format.
 [[nodiscard]] inline Binary80 NearestBits(const Wide& x) noexcept {
   // Biased exponents from 1 to 0x7ffd: rounding up gives no infinity.
@@ -155,6 +156,6 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 }
 
 /// The two parts of x as a pair; infinity and 0 beyond the format.
-[[nodiscard]] special::ExtendedPair PairOf(const Wide& x) noexcept;
+[[nodiscard]] QORVEX_EXPORT special::ExtendedPair PairOf(const Wide& x) noexcept;
 
 }  // namespace qorvex::elementary
