@@ -44,15 +44,13 @@ void Log10(In x, Out y) { Provisional(x, y, [](Extended t) { return Log10(t); })
 Extended Tan(Extended x) noexcept { return std::tan(x); }
 void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }
 
-// ArcCos, ArcSin, ArcTan, Cbrt
+// ArcCos, ArcSin, ArcTan
 Extended ArcCos(Extended x) noexcept { return std::acos(x); }
 void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }
 Extended ArcSin(Extended x) noexcept { return std::asin(x); }
 void ArcSin(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcSin(t); }); }
 Extended ArcTan(Extended x) noexcept { return std::atan(x); }
 void ArcTan(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcTan(t); }); }
-Extended Cbrt(Extended x) noexcept { return std::cbrt(x); }
-void Cbrt(In x, Out y) { Provisional(x, y, [](Extended t) { return Cbrt(t); }); }
 
 // Erf, Erfc
 Extended Erf(Extended x) noexcept { return std::erf(x); }
