@@ -40,10 +40,6 @@ void Log2(In x, Out y) { Provisional(x, y, [](Extended t) { return Log2(t); }); 
 Extended Log10(Extended x) noexcept { return std::log10(x); }
 void Log10(In x, Out y) { Provisional(x, y, [](Extended t) { return Log10(t); }); }
 
-// Tan
-Extended Tan(Extended x) noexcept { return std::tan(x); }
-void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }
-
 // ArcCos, ArcSin, ArcTan
 Extended ArcCos(Extended x) noexcept { return std::acos(x); }
 void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }

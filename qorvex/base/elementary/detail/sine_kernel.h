@@ -29,11 +29,6 @@ constexpr std::uint64_t Inverse(std::uint64_t n, int scale) {
   return Low(((UInt128{1} << scale) + n / 2) / n);
 }
 
-/// word 2^count.
-constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
-  return Join(word >> (64 - count), word << count);
-}
-
 /// 1 - cos h and 1 - sin h / h at scale 2^128.
 struct SineSeries {
   UInt128 cosine_loss;

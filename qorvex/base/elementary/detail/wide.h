@@ -24,6 +24,11 @@ constexpr std::uint64_t High(UInt128 x) {
 constexpr std::uint64_t Low(UInt128 x) {
   return static_cast<std::uint64_t>(x);
 }
+/// word 2^count for 0 < count < 64.
+constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
+  return Join(word >> (64 - count), word << count);
+}
+
 constexpr UInt128 Multiply(std::uint64_t a, std::uint64_t b) {
   return UInt128{a} * b;
 }
