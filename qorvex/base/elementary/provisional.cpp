@@ -40,13 +40,10 @@ void Log2(In x, Out y) { Provisional(x, y, [](Extended t) { return Log2(t); }); 
 Extended Log10(Extended x) noexcept { return std::log10(x); }
 void Log10(In x, Out y) { Provisional(x, y, [](Extended t) { return Log10(t); }); }
 
-// ArcCos, ArcSin, ArcTan
 Extended ArcCos(Extended x) noexcept { return std::acos(x); }
 void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }
 Extended ArcSin(Extended x) noexcept { return std::asin(x); }
 void ArcSin(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcSin(t); }); }
-Extended ArcTan(Extended x) noexcept { return std::atan(x); }
-void ArcTan(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcTan(t); }); }
 
 // Erf, Erfc
 Extended Erf(Extended x) noexcept { return std::erf(x); }
@@ -72,7 +69,5 @@ Wide Log1pWide(const Wide& x) { return LogWide(Wide(1.0L) + x); }
 Wide ExpWide(const Wide& x) { return Wide(special::Exp(PairOf(x))); }
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
-// ArcTanWide
-Wide ArcTanWide(const Wide& y, const Wide& x) { return Wide(std::atan2(Nearest(y), Nearest(x))); }
 
 }  // namespace qorvex::elementary
