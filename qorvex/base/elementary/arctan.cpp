@@ -38,9 +38,10 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
   if (bits.Exponent() < kExponentBias + kLeastExponent || !IsNormal(bits)) [[unlikely]]
     return WithoutKernel(bits);
   const Wide x{Join(bits.significand, 0), bits.Exponent() - kExponentBias};
-  const bool inverted = x.exponent >= 0;
-  const Wide arc = SmallArcTan(inverted ? QuickQuotient(kOne, x) : x);
-  Wide first = inverted ? ComplementOf(arc) : arc;
+  Wide first =
+      x.exponent < 0
+          ? SmallArcTan(x)
+          : ComplementOfArcTan(ShiftedRight(QuickReciprocal(bits.significand) << 1, x.exponent));
   first.negative = bits.IsNegative();
   return CorrectlyRounded(first, kHalfWidth, [&] { return SecondStage(x, bits.IsNegative()); });
 }
@@ -50,7 +51,8 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
 Wide ArcTanWide(const Wide& y, const Wide& x) {
   if (x.IsZero()) return {kHalfPi, 0};
   if (IsSmaller(y, x)) return SmallArcTan(QuickQuotient(y, x));
-  return ComplementOf(SmallArcTan(QuickQuotient(x, y)));
+  const Wide t = QuickQuotient(x, y);
+  return ComplementOfArcTan(ShiftedRight(t.mantissa, -1 - t.exponent));
 }
 
 }  // namespace qorvex::elementary

@@ -46,7 +46,7 @@ template <Shift kShift>
   const SineStep step = StepOf(angle.r);
   const Wide first = step.row == 0 && !is_cosine
                          ? SmallSine(SmallAngleOf(x))
-                         : NormalisedWide(SinePart(step, SeriesOf(step.h), quadrant & 1), 0);
+                         : NormalisedTop(SinePart(step, SeriesOf(step.h), quadrant & 1), 0);
   return CorrectlyRounded({first.mantissa, first.exponent, negative}, kHalfWidth,
                           [&] { return SecondStage(x, is_cosine, negative); });
 }

@@ -24,11 +24,11 @@ inline constexpr std::uint64_t kArcSinePieces[129][14] = {
 template <std::size_t kWide, int kScale, std::size_t kWords>
 [[gnu::always_inline]] inline UInt128 ValueOfPiece(const std::uint64_t (&row)[kWords],
                                                    UInt128 u_128) {
+  const std::uint64_t u = High(u_128);
   std::uint64_t tail = row[kWords - 1];
 #pragma GCC unroll 8
-  for (std::size_t i = kWords - 2; i >= 2 * kWide; --i)
-    tail = row[i] + MultiplyHigh(tail, High(u_128));
-  UInt128 sum = ShiftedWord(MultiplyHigh(tail, High(u_128)), 127 - kScale) +
+  for (std::size_t i = kWords - 2; i >= 2 * kWide; --i) tail = row[i] + MultiplyHigh(tail, u);
+  UInt128 sum = ShiftedWord(MultiplyHigh(tail, u), 127 - kScale) +
                 Join(row[2 * kWide - 2], row[2 * kWide - 1]);
 #pragma GCC unroll 8
   for (std::size_t i = kWide - 1; i > 0; --i)

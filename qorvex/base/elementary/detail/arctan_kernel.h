@@ -10,18 +10,21 @@
 
 namespace qorvex::elementary {
 
-/// atan t for 0 <= t < 1; relative error below 2^-98.
-[[gnu::always_inline]] inline Wide SmallArcTan(const Wide& t) {
-  // t^2 at scale 2^128; below 2^-128 it does not matter.
-  const std::int64_t shift = std::min<std::int64_t>(-2 * t.exponent - 2, 127);
-  const UInt128 square = MultiplyHigh(t.mantissa, t.mantissa) >> shift;
-  return NormalisedWide(MultiplyHigh(t.mantissa, ArcTanQuotient(square)), t.exponent + 1);
+/// x / 2^count, and 0 from 128 on.
+constexpr UInt128 ShiftedRight(UInt128 x, std::int64_t count) {
+  return count < 128 ? x >> count : 0;
 }
 
-/// pi/2 - a for a number 0 <= a < pi/2.
-inline Wide ComplementOf(const Wide& a) {
-  const std::int64_t shift = std::min<std::int64_t>(-a.exponent, 127);
-  return NormalisedWide(kHalfPi - (a.mantissa >> shift), 0);
+/// atan t for t in (0, 1); relative error below 2^-97.
+inline Wide SmallArcTan(const Wide& t) {
+  const UInt128 square = MultiplyHigh(t.mantissa, t.mantissa);
+  const UInt128 quotient = ArcTanQuotient(ShiftedRight(square, -2 * t.exponent - 2));
+  return NormalisedTop(MultiplyHigh(t.mantissa, quotient), t.exponent + 1);
+}
+
+/// pi/2 - atan t for t in [0, 1) at scale 2^128; relative error below 2^-97, that of t included.
+inline Wide ComplementOfArcTan(UInt128 t) {
+  return NormalisedTop(kHalfPi - MultiplyHigh(t, ArcTanQuotient(MultiplyHigh(t, t))), 0);
 }
 
 }  // namespace qorvex::elementary

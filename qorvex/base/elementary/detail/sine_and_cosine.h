@@ -24,8 +24,8 @@ inline bool NeedsKernel(Binary80 x) {
 [[gnu::always_inline]] inline SineAndCosine SineAndCosineOf(const Angle& angle, Normalised x) {
   const SineStep step = StepOf(angle.r);
   const SineSeries series = SeriesOf(step.h);
-  return {step.row == 0 ? SmallSine(SmallAngleOf(x)) : NormalisedWide(SinePart(step, series, 0), 0),
-          NormalisedWide(SinePart(step, series, 1), 0)};
+  return {step.row == 0 ? SmallSine(SmallAngleOf(x)) : NormalisedTop(SinePart(step, series, 0), 0),
+          NormalisedTop(SinePart(step, series, 1), 0)};
 }
 
 }  // namespace qorvex::elementary

@@ -80,7 +80,7 @@ inline UInt128 SinePart(const SineStep& step, const SineSeries& series, unsigned
 /// sin r for r < 2^-10.
 inline Wide SmallSine(const Wide& r) {
   const SineSeries series = SeriesOf(r.mantissa >> -r.exponent);
-  return NormalisedWide(r.mantissa - MultiplyHigh(r.mantissa, series.sine_loss), r.exponent);
+  return NormalisedTop(r.mantissa - MultiplyHigh(r.mantissa, series.sine_loss), r.exponent);
 }
 
 }  // namespace qorvex::elementary

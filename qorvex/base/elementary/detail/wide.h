@@ -86,6 +86,13 @@ inline Wide::Wide(Extended x) {
   *this = {Join(number.significand, 0), number.exponent, bits.IsNegative()};
 }
 
+/// The same, quicker, for a mantissa of 2^64 or more.
+constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
+  const int zeros = std::countl_zero(High(mantissa));
+  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
+  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
+}
+
 /// The product; relative error below 2^-125.
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
