@@ -40,10 +40,6 @@ void Log2(In x, Out y) { Provisional(x, y, [](Extended t) { return Log2(t); }); 
 Extended Log10(Extended x) noexcept { return std::log10(x); }
 void Log10(In x, Out y) { Provisional(x, y, [](Extended t) { return Log10(t); }); }
 
-Extended ArcCos(Extended x) noexcept { return std::acos(x); }
-void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }
-Extended ArcSin(Extended x) noexcept { return std::asin(x); }
-void ArcSin(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcSin(t); }); }
 
 // Erf, Erfc
 Extended Erf(Extended x) noexcept { return std::erf(x); }

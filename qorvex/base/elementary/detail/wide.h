@@ -48,6 +48,11 @@ constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
 }
 
+/// x / 2^count, and 0 from 128 on.
+constexpr UInt128 ShiftedRight(UInt128 x, std::int64_t count) {
+  return count < 128 ? x >> count : 0;
+}
+
 constexpr int LeadingZeros(UInt128 x) {
   return High(x) != 0 ? std::countl_zero(High(x)) : 64 + std::countl_zero(Low(x));
 }
