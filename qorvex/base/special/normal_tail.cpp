@@ -12,7 +12,7 @@ Scaled NormalDensity(ExtendedPair z, Extended scale) {
 }
 
 Scaled NormalUpperTail(ExtendedPair z) {
-  return NormalUpperTail(Wide(z));
+  return NormalFarTail(Wide(z));
 }
 
 }  // namespace qorvex::special

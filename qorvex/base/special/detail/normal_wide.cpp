@@ -23,8 +23,8 @@ Scaled NormalDensity(const Wide& z, const Wide& factor) {
 }
 
 // As erfc(t) / 2.
-Scaled NormalUpperTail(const Wide& z) {
-  const Wide t = z * kRootOfHalf;
+Scaled NormalFarTail(const Wide& z) {
+  const Wide t = Wide(z.mantissa, z.exponent) * kRootOfHalf;
   if (elementary::IsErfNearZero(t)) return MakeScaled(ScaledBy(elementary::ErfcWide(t), -1));
   return MakeScaled(ScaledBy(elementary::ScaledErfcWide(t), -1), Exponent(z));
 }

@@ -16,8 +16,8 @@ inline constexpr elementary::Wide kRootOfHalf{
 [[nodiscard]] QORVEX_EXPORT Scaled NormalDensity(const elementary::Wide& z,
                                                  const elementary::Wide& factor);
 
-/// The probability above z >= 0; relative error below 2^-94.
-[[nodiscard]] QORVEX_EXPORT Scaled NormalUpperTail(const elementary::Wide& z);
+/// The probability above |z|; relative error below 2^-94.
+[[nodiscard]] QORVEX_EXPORT Scaled NormalFarTail(const elementary::Wide& z);
 
 /// The point above which the probability is p, e^-16384 < p < 1; relative error below 2^-82.
 [[nodiscard]] QORVEX_EXPORT elementary::Wide NormalUpperQuantile(const elementary::Wide& p);
