@@ -9,6 +9,7 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary/detail/binary80.h"
+#include "qorvex/base/export.h"
 #include "qorvex/base/special/extended_pair.h"
 
 namespace qorvex::elementary {
@@ -91,11 +92,15 @@ constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool nega
   return {mantissa << zeros, exponent - zeros, negative};
 }
 
+/// A number that is not 0, exactly.
+constexpr Wide WideOf(Normalised x, bool negative = false) {
+  return {Join(x.significand, 0), x.exponent, negative};
+}
+
 inline Wide::Wide(Extended x) {
   const Binary80 bits = BitsOf(x);
   if (bits.significand == 0) return;
-  const Normalised number = Normalise(bits);
-  *this = {Join(number.significand, 0), number.exponent, bits.IsNegative()};
+  *this = WideOf(Normalise(bits), bits.IsNegative());
 }
 
 /// The product; relative error below 2^-125.
@@ -136,10 +141,10 @@ constexpr Wide ScaledBy(const Wide& x, std::int64_t k) {
 }
 
 /// The quotient by a divisor other than 0; relative error below 2^-124.
-[[nodiscard]] Wide operator/(const Wide& a, const Wide& b);
+[[nodiscard]] QORVEX_EXPORT Wide operator/(const Wide& a, const Wide& b);
 
 /// The square root of x >= 0; relative error below 2^-124.
-[[nodiscard]] Wide SquareRoot(const Wide& x);
+[[nodiscard]] QORVEX_EXPORT Wide SquareRoot(const Wide& x);
 
 /// |a| < |b|.
 constexpr bool IsSmaller(const Wide& a, const Wide& b) {
@@ -149,7 +154,7 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 
 /// The bits of the nearest extended number, ties to even; infinity, 0 and subnormal numbers where
 /// they belong. By value, so that the callers' numbers may stay in registers.
-[[nodiscard]] Binary80 NearestBitsAnywhere(Wide x) noexcept;
+[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(Wide x) noexcept;
 /// x cut off to 64 bits plus `up` units, 0 or 1, for biased exponents from 1 to 0x7ffd.
 [[nodiscard]] constexpr Binary80 LeadingBits(const Wide& x, std::uint64_t up) noexcept {
   auto biased = static_cast<std::uint16_t>(x.exponent + kExponentBias + (x.negative ? 0x8000 : 0));
@@ -172,6 +177,6 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 }
 
 /// The two parts of x as a pair; infinity and 0 beyond the format.
-[[nodiscard]] special::ExtendedPair PairOf(const Wide& x) noexcept;
+[[nodiscard]] QORVEX_EXPORT special::ExtendedPair PairOf(const Wide& x) noexcept;
 
 }  // namespace qorvex::elementary
