@@ -107,8 +107,10 @@ inline Wide::Wide(Extended x) {
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
   if (product == 0) return {};
-  const auto shift = static_cast<int>(High(product) >> 63 ^ 1);
-  return {product << shift, a.exponent + b.exponent + 1 - shift, a.negative != b.negative};
+  // Doubled, without a jump, if the top bit is 0.
+  const std::uint64_t mask = (High(product) >> 63) - 1;
+  return {product + Join(High(product) & mask, Low(product) & mask),
+          a.exponent + b.exponent + 1 + static_cast<std::int64_t>(mask), a.negative != b.negative};
 }
 
 /// The sum. Error: below 2^-126 of the larger operand, and none if both are multiples of the last
