@@ -46,15 +46,29 @@ inline Extended FromBits(std::uint64_t significand, std::uint16_t sign_exponent)
   return x;
 }
 
-/// A zero or an infinity with a sign, and NaN.
-inline Extended SignedZero(bool negative) noexcept {
-  return FromBits(0, static_cast<std::uint16_t>(negative ? 0x8000 : 0));
+inline Extended FromBits(Binary80 bits) noexcept {
+  return FromBits(bits.significand, bits.sign_exponent);
 }
-inline Extended SignedInfinity(bool negative) noexcept {
-  return FromBits(kTopBit, static_cast<std::uint16_t>(negative ? 0xffff : 0x7fff));
+
+/// Writes the number with the given bits, without a detour through the x87 unit.
+inline void Store(Binary80 bits, Extended& x) noexcept {
+  std::memcpy(&x, &bits.significand, sizeof bits.significand);
+  std::memcpy(reinterpret_cast<char*>(&x) + sizeof bits.significand, &bits.sign_exponent,
+              sizeof bits.sign_exponent);
 }
-inline Extended QuietNaN() noexcept {
-  return FromBits(kTopBit | kTopBit >> 1, 0x7fff);
+
+/// The bits of a zero or an infinity with a sign, of 1, and of NaN.
+constexpr Binary80 SignedZero(bool negative) noexcept {
+  return {0, static_cast<std::uint16_t>(negative ? 0x8000 : 0)};
+}
+constexpr Binary80 SignedInfinity(bool negative) noexcept {
+  return {kTopBit, static_cast<std::uint16_t>(negative ? 0xffff : 0x7fff)};
+}
+constexpr Binary80 SignedOne(bool negative) noexcept {
+  return {kTopBit, static_cast<std::uint16_t>(negative ? 0x8000 | kExponentBias : kExponentBias)};
+}
+constexpr Binary80 QuietNaN() noexcept {
+  return {kTopBit | kTopBit >> 1, 0x7fff};
 }
 
 /// Finite and not 0, with the top bit where it belongs: what a kernel takes without a second look.

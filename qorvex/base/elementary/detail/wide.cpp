@@ -57,8 +57,8 @@ Wide SquareRoot(const Wide& x) {
   return {result, exponent / 2 - 1};
 }
 
-Extended NearestAnywhere(const Wide& x) noexcept {
-  if (x.IsZero()) return 0;
+Binary80 NearestBitsAnywhere(const Wide& x) noexcept {
+  if (x.IsZero()) return SignedZero(false);
   constexpr std::int64_t least = 1 - kExponentBias;
   if (x.exponent > kExponentBias) return SignedInfinity(x.negative);
   const std::int64_t shift = x.exponent < least ? least - x.exponent : 0;
@@ -75,8 +75,8 @@ Extended NearestAnywhere(const Wide& x) noexcept {
   std::int64_t biased = shift > 0 ? (High(rounded) >> 63 != 0 ? 1 : 0) : x.exponent + kExponentBias;
   if (carry) ++biased;
   if (biased >= kExponentOfInfinity) return SignedInfinity(x.negative);
-  return FromBits(significand, static_cast<std::uint16_t>(static_cast<std::uint64_t>(biased) |
-                                                          (x.negative ? 0x8000u : 0u)));
+  return {significand, static_cast<std::uint16_t>(static_cast<std::uint64_t>(biased) |
+                                                  (x.negative ? 0x8000u : 0u))};
 }
 
 special::ExtendedPair PairOf(const Wide& x) noexcept {

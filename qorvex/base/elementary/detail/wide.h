@@ -9,6 +9,7 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary/detail/binary80.h"
+#include "qorvex/base/export.h"
 #include "qorvex/base/special/extended_pair.h"
 
 namespace qorvex::elementary {
@@ -119,10 +120,10 @@ constexpr Wide ScaledBy(const Wide& x, std::int64_t k) {
 }
 
 /// The quotient by a divisor other than 0; relative error below 2^-124.
-[[nodiscard]] Wide operator/(const Wide& a, const Wide& b);
+[[nodiscard]] QORVEX_EXPORT Wide operator/(const Wide& a, const Wide& b);
 
 /// The square root of x >= 0; relative error below 2^-124.
-[[nodiscard]] Wide SquareRoot(const Wide& x);
+[[nodiscard]] QORVEX_EXPORT Wide SquareRoot(const Wide& x);
 
 /// |a| < |b|.
 constexpr bool IsSmaller(const Wide& a, const Wide& b) {
@@ -130,21 +131,25 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
   return a.exponent != b.exponent ? a.exponent < b.exponent : a.mantissa < b.mantissa;
 }
 
-/// The nearest extended number, ties to even; infinity, 0 and subnormal numbers where they belong.
-[[nodiscard]] Extended NearestAnywhere(const Wide& x) noexcept;
+/// The bits of the nearest extended number, ties to even; infinity, 0 and subnormal numbers where
+/// they belong.
+[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(const Wide& x) noexcept;
 /// The same, quickly for results that are neither subnormal nor near the end of the format.
-[[nodiscard]] inline Extended Nearest(const Wide& x) noexcept {
+[[nodiscard]] inline Binary80 NearestBits(const Wide& x) noexcept {
   // Biased exponents from 1 to 0x7ffd: rounding up gives no infinity.
   const auto biased = static_cast<std::uint64_t>(x.exponent + kExponentBias);
-  if (biased - 1 >= kExponentOfInfinity - 2u || x.IsZero()) return NearestAnywhere(x);
+  if (biased - 1 >= kExponentOfInfinity - 2u || x.IsZero()) return NearestBitsAnywhere(x);
   // Adding half a unit, or as little less as makes ties even.
   const UInt128 rounded = x.mantissa + (kTopBit - 1 + (High(x.mantissa) & 1));
   const std::uint64_t carry = High(rounded) == 0 ? 1 : 0;
-  return FromBits(High(rounded) | carry << 63,
-                  static_cast<std::uint16_t>(biased + carry + (x.negative ? 0x8000u : 0u)));
+  return {High(rounded) | carry << 63,
+          static_cast<std::uint16_t>(biased + carry + (x.negative ? 0x8000u : 0u))};
+}
+[[nodiscard]] inline Extended Nearest(const Wide& x) noexcept {
+  return FromBits(NearestBits(x));
 }
 
 /// The two parts of x as a pair; infinity and 0 beyond the format.
-[[nodiscard]] special::ExtendedPair PairOf(const Wide& x) noexcept;
+[[nodiscard]] QORVEX_EXPORT special::ExtendedPair PairOf(const Wide& x) noexcept;
 
 }  // namespace qorvex::elementary

@@ -181,8 +181,8 @@ Wide256 Exp(const Wide256& x) {
   return ScaledBy(sum + 1, k);
 }
 
-Extended Nearest(const Wide256& x) noexcept {
-  if (x.IsZero()) return 0;
+Binary80 NearestBits(const Wide256& x) noexcept {
+  if (x.IsZero()) return SignedZero(false);
   // The middle of the last 56 bits.
   constexpr std::uint64_t unit = std::uint64_t{1} << 56;
   Words words = x.mantissa;
@@ -193,7 +193,7 @@ Extended Nearest(const Wide256& x) noexcept {
   }
   const bool is_rest = (words[0] / unit | words[1]) != 0;
   // One bit stands for all that follow.
-  return Nearest(Wide{Join(words[3], words[2] | (is_rest ? 1 : 0)), exponent, x.negative});
+  return NearestBits(Wide{Join(words[3], words[2] | (is_rest ? 1 : 0)), exponent, x.negative});
 }
 
 }  // namespace qorvex::elementary

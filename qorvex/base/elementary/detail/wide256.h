@@ -57,9 +57,9 @@ extern const Wide256 kLn2Of256;
 /// e^x for |x| < 2^16; relative error below 2^-230.
 [[nodiscard]] Wide256 Exp(const Wide256& x);
 
-/// The nearest extended number. The number is first rounded to 200 bits: an error of less than
-/// 2^-201 of it does no harm unless it exceeds the distance to the nearest midpoint, and a result
-/// that is a midpoint or an extended number exactly is recognised as one.
-[[nodiscard]] Extended Nearest(const Wide256& x) noexcept;
+/// The bits of the nearest extended number. The number is first rounded to 200 bits: an error of
+/// less than 2^-201 of it does no harm unless it exceeds the distance to the nearest midpoint, and
+/// a result that is a midpoint or an extended number exactly is recognised as one.
+[[nodiscard]] Binary80 NearestBits(const Wide256& x) noexcept;
 
 }  // namespace qorvex::elementary

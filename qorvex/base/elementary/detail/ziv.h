@@ -8,20 +8,20 @@
 
 namespace qorvex::elementary {
 
-/// The nearest extended number to the value that `first` approximates.
+/// The bits of the nearest extended number to the value that `first` approximates.
 ///
 /// - The relative error of `first` is below half_width 2^-127, with half_width at most 2^62.
 /// - If the value may lie on the other side of a midpoint, second() computes it as a Wide256, with
-///   a relative error below 2^-201. Nearest(Wide256) rounds it, and takes a value within 2^-200 of
-///   a midpoint for the midpoint: that happens only if the value is one.
+///   a relative error below 2^-201. NearestBits(Wide256) rounds it, and takes a value within 2^-200
+///   of a midpoint for the midpoint: that happens only if the value is one.
 template <class Second>
-inline Extended CorrectlyRounded(const Wide& first, std::uint64_t half_width, Second second) {
+inline Binary80 CorrectlyRounded(const Wide& first, std::uint64_t half_width, Second second) {
   const auto biased = static_cast<std::uint64_t>(first.exponent + kExponentBias);
   const bool is_usual = biased - 1 < kExponentOfInfinity - 2u;
   // Half a unit of the last place is the top bit of the low word.
   if (is_usual && Low(first.mantissa) - (kTopBit - half_width) > 2 * half_width) [[likely]]
-    return Nearest(first);
-  return Nearest(second());
+    return NearestBits(first);
+  return NearestBits(second());
 }
 
 }  // namespace qorvex::elementary
