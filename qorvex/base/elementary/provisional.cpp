@@ -21,8 +21,6 @@ using In = VectorView<Extended>;
 using Out = std::span<Extended>;
 
 // Exp, Expm1, Exp2
-Extended Exp(Extended x) noexcept { return std::exp(x); }
-void Exp(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp(t); }); }
 Extended Expm1(Extended x) noexcept { return std::expm1(x); }
 void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); }); }
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
@@ -79,7 +77,6 @@ Wide Log1pWide(Extended x) { return Wide(special::Ln(special::ExactSum(1, x))); 
 Wide Log1pWide(const Wide& x) { return LogWide(Wide(1.0L) + x); }
 
 // ExpWide, Expm1Wide
-Wide ExpWide(const Wide& x) { return Wide(special::Exp(PairOf(x))); }
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
 // SinCosWide, ArcTanWide

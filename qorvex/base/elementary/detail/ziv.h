@@ -21,6 +21,8 @@ inline Binary80 CorrectlyRounded(const Wide& first, std::uint64_t half_width, Se
   // Half a unit of the last place is the top bit of the low word.
   if (is_usual && Low(first.mantissa) - (kTopBit - half_width) > 2 * half_width) [[likely]]
     return NearestBits(first);
+  // Infinity and 0 beyond the format, whatever the last bits: subnormal numbers reach to 2^-16445.
+  if (first.exponent > kExponentBias || first.exponent < -16447) return NearestBits(first);
   return NearestBits(second());
 }
 
