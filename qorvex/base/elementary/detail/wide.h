@@ -75,11 +75,15 @@ constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool nega
   return {mantissa << zeros, exponent - zeros, negative};
 }
 
+/// A number that is not 0, exactly.
+constexpr Wide WideOf(Normalised x, bool negative = false) {
+  return {Join(x.significand, 0), x.exponent, negative};
+}
+
 inline Wide::Wide(Extended x) {
   const Binary80 bits = BitsOf(x);
   if (bits.significand == 0) return;
-  const Normalised number = Normalise(bits);
-  *this = {Join(number.significand, 0), number.exponent, bits.IsNegative()};
+  *this = WideOf(Normalise(bits), bits.IsNegative());
 }
 
 /// The product; relative error below 2^-125.
