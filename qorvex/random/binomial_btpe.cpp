@@ -91,8 +91,8 @@ bool BinomialSampler::Regions::IsAccepted(Extended v, Extended y) const {
 BinomialSampler::Method BinomialSampler::MethodFor(Extended n, Extended p) {
   if (!(n >= 0 && p >= 0 && p <= 1)) RaiseMathError(rsInvalidValue);
   const Extended r = std::min(p, 1 - p);
-  if (n * r < 30) return Inversion(n, r);
-  return Regions(n, r);
+  if (n * r < 30) return Method(std::in_place_type<Inversion>, n, r);
+  return Method(std::in_place_type<Regions>, n, r);
 }
 
 BinomialSampler::BinomialSampler(std::int64_t n, Extended p)

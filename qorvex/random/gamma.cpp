@@ -77,8 +77,8 @@ Extended GammaSampler::Exponential::operator()(UniformSource source) const {
 
 GammaSampler::Method GammaSampler::MethodFor(Extended shape) {
   if (!(shape > 0)) RaiseMathError(rsInvalidShape);
-  if (shape > 1) return CubedNormal(shape);
-  if (shape < 1) return PowerAndTail(shape);
+  if (shape > 1) return Method(std::in_place_type<CubedNormal>, shape);
+  if (shape < 1) return Method(std::in_place_type<PowerAndTail>, shape);
   return Exponential();
 }
 

@@ -88,8 +88,8 @@ Extended PoissonSampler::Inversion::operator()(UniformSource source) const {
 
 PoissonSampler::Method PoissonSampler::MethodFor(Extended mu) {
   RequireMean(mu);
-  if (mu >= 10) return CorrectedNormal(mu);
-  return Inversion(mu);
+  if (mu >= 10) return Method(std::in_place_type<CorrectedNormal>, mu);
+  return Method(std::in_place_type<Inversion>, mu);
 }
 
 PoissonSampler::PoissonSampler(Extended mu) : method_(MethodFor(mu)) {}
