@@ -26,33 +26,17 @@ void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); })
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
 void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
-// Pow
-Extended Pow(Extended x, Extended y) noexcept { return std::pow(x, y); }
-void Pow(In x, Extended y, Out z) { Provisional(x, z, [y](Extended t) { return Pow(t, y); }); }
-
-// Sin, Cos, Tan
-Extended Sin(Extended x) noexcept { return std::sin(x); }
-void Sin(In x, Out y) { Provisional(x, y, [](Extended t) { return Sin(t); }); }
-Extended Cos(Extended x) noexcept { return std::cos(x); }
-void Cos(In x, Out y) { Provisional(x, y, [](Extended t) { return Cos(t); }); }
+// Tan
 Extended Tan(Extended x) noexcept { return std::tan(x); }
 void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }
 
-// ArcCos, ArcSin, ArcTan, Cbrt
+// ArcCos, ArcSin, ArcTan
 Extended ArcCos(Extended x) noexcept { return std::acos(x); }
 void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }
 Extended ArcSin(Extended x) noexcept { return std::asin(x); }
 void ArcSin(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcSin(t); }); }
 Extended ArcTan(Extended x) noexcept { return std::atan(x); }
 void ArcTan(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcTan(t); }); }
-Extended Cbrt(Extended x) noexcept { return std::cbrt(x); }
-void Cbrt(In x, Out y) { Provisional(x, y, [](Extended t) { return Cbrt(t); }); }
-
-// Erf, Erfc
-Extended Erf(Extended x) noexcept { return std::erf(x); }
-void Erf(In x, Out y) { Provisional(x, y, [](Extended t) { return Erf(t); }); }
-Extended Erfc(Extended x) noexcept { return std::erfc(x); }
-void Erfc(In x, Out y) { Provisional(x, y, [](Extended t) { return Erfc(t); }); }
 
 }  // namespace qorvex::inline QorvexGlobals
 
@@ -61,8 +45,7 @@ namespace qorvex::elementary {
 // ExpWide, Expm1Wide
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
-// SinCosWide, ArcTanWide
-SineAndCosine SinCosWide(Extended x) { return {Wide(std::sin(x)), Wide(std::cos(x))}; }
+// ArcTanWide
 Wide ArcTanWide(const Wide& y, const Wide& x) { return Wide(std::atan2(Nearest(y), Nearest(x))); }
 
 }  // namespace qorvex::elementary

@@ -97,6 +97,12 @@ inline bool IsZero(Binary80 bits) noexcept {
   return bits.significand == 0 && bits.Exponent() == 0;
 }
 
+/// A finite number in its usual form, which numbers with the top bit set at exponent 0 have not.
+inline Binary80 Canonical(Binary80 bits) noexcept {
+  if (bits.significand >= kTopBit && bits.Exponent() == 0) bits.sign_exponent |= 1;
+  return bits;
+}
+
 /// A finite number but 0 as significand * 2^(exponent - 63) with the top bit of the significand
 /// set, for subnormal numbers, too.
 struct Normalised {
