@@ -46,7 +46,7 @@ GammaSampler::PowerAndTail::PowerAndTail(Extended shape_below_1)
   reciprocal_shape = 1 / shape;
   power_share = a / (a + shape * Exp(-a));
   // kVerySmall / a is below 2^-1009.
-  zero_bound = std::ldexp(Extended{1}, -static_cast<int>(1009 * shape));
+  zero_bound = shape > 0.07L ? 0x1p-64L : std::ldexp(Extended{1}, -static_cast<int>(1009 * shape));
   d = a * Log(a);
 }
 

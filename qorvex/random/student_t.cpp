@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "qorvex/base/elementary.h"
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 
@@ -12,12 +11,12 @@ StudentTSampler::StudentTSampler(std::int32_t df)
     : s_(static_cast<Extended>(df)), c_(-0.25L * (s_ + 1)) {
   if (df < 1) RaiseMathError(rsInvalidValue);
   a_ = 4 / Power(1);
-  b_ = df > 1 ? XtoY((s_ + 1) / (s_ - 1), c_) * std::sqrt(2 * s_ / (s_ - 1)) : 1;
+  b_ = df > 1 ? Pow((s_ + 1) / (s_ - 1), c_) * std::sqrt(2 * s_ / (s_ - 1)) : 1;
   f_ = 16 / a_;
 }
 
 Extended StudentTSampler::Power(Extended x) const {
-  return Exp(c_ * Log1p(x / s_));
+  return Pow(1 + x / s_, c_);
 }
 
 Extended StudentTSampler::operator()(UniformSource source) const {
