@@ -19,7 +19,7 @@ Wide256 Log(const Wide256& x) {
     return ScaledBy(s * (sum + 1), 1);
   }
   // A step of Newton's method: x = e^y (1 + t), where |t| < 2^-82. e^-y has an error of 2^-230, and
-  // the result is beyond 2^-18.
+  // the result is beyond 2^-9.
   const Wide256 y = LogWide(x.Leading());
   const Wide256 t = x * Exp(-y) - 1;
   return y + (t - ScaledBy(t * t, -1) + DividedBy(t * t * t, 3));

@@ -26,10 +26,6 @@ void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); })
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
 void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
-// Pow
-Extended Pow(Extended x, Extended y) noexcept { return std::pow(x, y); }
-void Pow(In x, Extended y, Out z) { Provisional(x, z, [y](Extended t) { return Pow(t, y); }); }
-
 // Tan
 Extended Tan(Extended x) noexcept { return std::tan(x); }
 void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }

@@ -59,10 +59,10 @@ template <Shift kShift>
   bool negative = (quadrant & 2) != 0;
   negative ^= !is_cosine && angle.negative;
   negative ^= kShift == kSine && bits.IsNegative();
-  const SineStep step = StepOf(angle.r_127);
+  const SineStep step = StepOf(angle.r);
   const Wide first = step.row == 0 && !is_cosine
                          ? SmallSine(SmallAngleOf(x))
-                         : NormalisedWide(SinePart(step, SeriesOf(step.h_137), quadrant & 1), 0);
+                         : NormalisedWide(SinePart(step, SeriesOf(step.h), quadrant & 1), 0);
   return CorrectlyRounded({first.mantissa, first.exponent, negative}, kHalfWidth,
                           [&] { return SecondStage(x, is_cosine, negative); });
 }
@@ -75,8 +75,8 @@ SineAndCosine SinCosWide(Extended x) {
   const Normalised magnitude = Normalise(bits);
   if (magnitude.exponent < -60) return {Wide(x), Wide(1.0L)};
   const Angle angle = AngleOf(magnitude);
-  const SineStep step = StepOf(angle.r_127);
-  const SineSeries series = SeriesOf(step.h_137);
+  const SineStep step = StepOf(angle.r);
+  const SineSeries series = SeriesOf(step.h);
   Wide sine = step.row == 0 ? SmallSine(SmallAngleOf(magnitude))
                             : NormalisedWide(SinePart(step, series, 0), 0);
   Wide cosine = NormalisedWide(SinePart(step, series, 1), 0);

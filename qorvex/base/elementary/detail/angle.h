@@ -10,7 +10,7 @@ namespace qorvex::elementary {
 struct Angle {
   unsigned quadrant;
   bool negative;  // the sign of r
-  UInt128 r_127;  // |r| at scale 2^127; error below 4 units
+  UInt128 r;      // |r| at scale 2^127; error below 2^-124
 };
 
 /// pi/2 at scale 2^127.
@@ -22,11 +22,12 @@ constexpr bool IsReduced(Normalised x) {
 }
 
 /// For 2^-40 < x < infinity.
-inline Angle AngleOf(Normalised x) {
+[[gnu::always_inline]] inline Angle AngleOf(Normalised x) {
   if (IsReduced(x)) return {0, false, Join(x.significand, 0) >> -x.exponent};
   const Quadrants<3> quadrants = QuadrantsOf<3>(x);
-  const UInt128 fraction = Join(quadrants.fraction[0], quadrants.fraction[1]);
-  return {quadrants.quadrant, quadrants.negative, MultiplyHigh(fraction, kHalfPi)};
+  const UInt128 r_125 = MultiplyHigh(Join(quadrants.fraction[0], quadrants.fraction[1]), kHalfPi);
+  const UInt128 r_126 = r_125 + r_125;
+  return {quadrants.quadrant, quadrants.negative, r_126 + r_126};
 }
 
 /// |r| with all leading bits, for any x > 0. Relative error below 2^-112.

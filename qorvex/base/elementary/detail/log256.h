@@ -6,7 +6,7 @@
 
 namespace qorvex::elementary {
 
-/// ln x for x > 0 with an exponent of at most 20000; relative error below 2^-208, also beside 1.
+/// ln x for x > 0 with an exponent of at most 20000; relative error below 2^-220, also beside 1.
 [[nodiscard]] Wide256 Log(const Wide256& x);
 
 }  // namespace qorvex::elementary

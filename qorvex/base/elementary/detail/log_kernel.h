@@ -122,8 +122,8 @@ inline Wide LogBeside1(UInt128 mantissa, std::int64_t exponent) {
                                     : NormalisedWide(-mantissa, -1, true));
 }
 
-/// ln x for x > 0; relative error below kLogHalfWidth 2^-127.
-inline constexpr std::uint64_t kLogHalfWidth = std::uint64_t{1} << 30;
+/// ln x for x > 0; relative error below 2^-97, and kLogHalfWidth twice that.
+inline constexpr std::uint64_t kLogHalfWidth = std::uint64_t{1} << 32;
 [[gnu::always_inline]] inline Wide LogOf(Normalised x) {
   if (IsBeside1(x.significand, x.exponent)) return LogBeside1(Join(x.significand, 0), x.exponent);
   return LogByTables(x.significand, x.exponent);

@@ -27,7 +27,7 @@ template <std::size_t kWords>
 struct Quadrants {
   unsigned quadrant;  // only the last two bits count
   bool negative;      // the sign of f
-  /// |f|, in words from the highest to the lowest. Error below 2^(67 - 64 kWords).
+  /// |f| / 4 in words from the highest to the lowest. The error of f is below 2^(67 - 64 kWords).
   std::array<std::uint64_t, kWords> fraction;
 
   /// |f| with all leading bits.
@@ -36,35 +36,37 @@ struct Quadrants {
     Number sum;
     for (std::size_t i = 0; i < kWords; i += 2)
       sum = sum + Number(NormalisedWide(Join(fraction[i], fraction[i + 1]),
-                                        -1 - 64 * static_cast<std::int64_t>(i)));
+                                        1 - 64 * static_cast<std::int64_t>(i)));
     return sum;
   }
 };
 
 /// x in quadrants, for a positive x >= pi/4.
 template <std::size_t kWords>
-inline Quadrants<kWords> QuadrantsOf(Normalised x) {
+[[gnu::always_inline]] inline Quadrants<kWords> QuadrantsOf(Normalised x) {
   // The first word of the table holds bits -127 to -64 of 2/pi.
   const auto first = static_cast<unsigned>(x.exponent + 63);
   const std::uint64_t* const bits = &kTwoOverPi[first / 64];
   const unsigned shift = first % 64;
   std::array<std::uint64_t, kWords> product;
   std::uint64_t carry = 0;
-  for (std::size_t i = kWords; i-- > 0;) {
+  // Unrolled, three words stay in registers.
+#pragma GCC unroll 8
+  for (std::size_t k = 1; k <= kWords; ++k) {
+    const std::size_t i = kWords - k;
     const std::uint64_t window = bits[i] << shift | bits[i + 1] >> 1 >> (63 - shift);
     const UInt128 part = Multiply(window, x.significand) + carry;
     product[i] = Low(part);
     carry = High(part);
   }
   // The two top bits count quadrants. A fraction of 1/2 or more belongs to the next one.
-  const std::uint64_t mask = 0 - (product[0] >> 61 & 1);
-  Quadrants<kWords> result{
-      static_cast<unsigned>((product[0] + (kTopBit >> 2)) >> 62), mask != 0, {}};
-  for (std::size_t i = 0; i < kWords; ++i) {
-    const std::uint64_t next = i + 1 < kWords ? product[i + 1] >> 62 : 0;
-    result.fraction[i] = (product[i] << 2 | next) ^ mask;
-  }
-  return result;
+  constexpr std::uint64_t half = kTopBit >> 2;
+  const std::uint64_t shifted = product[0] + half;
+  product[0] = (shifted & (2 * half - 1)) - half;
+  const std::uint64_t mask = 0 - (product[0] >> 63);
+#pragma GCC unroll 8
+  for (std::uint64_t& word : product) word ^= mask;
+  return {static_cast<unsigned>(shifted >> 62), mask != 0, product};
 }
 
 }  // namespace qorvex::elementary

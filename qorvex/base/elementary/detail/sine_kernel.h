@@ -9,10 +9,11 @@
 //
 // where 1 - cos h = h^2/2 - h^4 (1/24 - h^2/720 + h^4/40320) and
 // sin h = h (1 - h^2/6 + h^4 (1/120 - h^2/5040 + h^4/362880)). The terms from h^4 on have 64 bits.
+// The scales are such that hardly anything is shifted: shifts of 128 bits cost more than products.
 //
-// Error: 2^-103.6 from the words of h^4 in 1 - cos h, and 2^-105 in the bracket of sin h, relative
-// to the result; r is cut off at 2^-126, which is 2^-116 of a sine above 2^-10. A smaller sine is r
-// times the bracket, without a table. In all, the relative error is below 2^-102.
+// Error: 2^-105 from the words of h^4 in 1 - cos h, and 2^-107 in the bracket of sin h, relative to
+// the result. All else is cut off below 2^-124, which is 2^-114 of a sine above 2^-10. A smaller
+// sine is r times the bracket, without a table. In all, the relative error is below 2^-104.
 
 #include "qorvex/base/elementary/detail/wide.h"
 
@@ -23,46 +24,50 @@ inline constexpr std::uint64_t kSineTable[403][4] = {
 #include "qorvex/base/elementary/detail/tables/sine.inc"
 };
 
-/// 1/n at a scale of 2^scale.
+/// 1/n at scale 2^scale.
 constexpr std::uint64_t Inverse(std::uint64_t n, int scale) {
   return Low(((UInt128{1} << scale) + n / 2) / n);
 }
 
-/// 1 - cos h and 1 - sin h / h at scale 2^147.
+/// word 2^count.
+constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
+  return Join(word >> (64 - count), word << count);
+}
+
+/// 1 - cos h and 1 - sin h / h at scale 2^128.
 struct SineSeries {
   UInt128 cosine_loss;
   UInt128 sine_loss;
 };
 
-/// For h = h_137 2^-137 <= 2^-10.
-inline SineSeries SeriesOf(UInt128 h_137) {
-  const UInt128 half_square = MultiplyHigh(h_137, h_137);  // h^2/2 at scale 2^147
-  const std::uint64_t square = High(half_square);          // h^2 at scale 2^82
-  const std::uint64_t fourth = MultiplyHigh(square, square);
-  const std::uint64_t cosine_tail = Inverse(24, 68) - MultiplyHigh(square, Inverse(720, 50)) +
-                                    MultiplyHigh(fourth, Inverse(40320, 32));
-  const std::uint64_t sine_tail = Inverse(120, 70) - MultiplyHigh(square, Inverse(5040, 52)) +
-                                  MultiplyHigh(fourth, Inverse(362880, 34));
+/// For h <= 2^-10 at scale 2^127.
+inline SineSeries SeriesOf(UInt128 h) {
+  const UInt128 half_square = MultiplyHigh(h, h + h);                 // h^2/2 at scale 2^128
+  const auto square = static_cast<std::uint64_t>(half_square >> 44);  // h^2 at scale 2^83
+  const std::uint64_t fourth = MultiplyHigh(square, square);          // h^4 at scale 2^102
+  const std::uint64_t cosine_tail = Inverse(24, 68) - MultiplyHigh(square, Inverse(720, 49)) +
+                                    MultiplyHigh(fourth, Inverse(40320, 30));
+  const std::uint64_t sine_tail = Inverse(120, 70) - MultiplyHigh(square, Inverse(5040, 51)) +
+                                  MultiplyHigh(fourth, Inverse(362880, 32));
   constexpr std::uint64_t third = Inverse(3, 64);
-  return {half_square - (Multiply(fourth, cosine_tail) >> 21),
-          MultiplyHigh(half_square, Join(third, third)) - (Multiply(fourth, sine_tail) >> 23)};
+  return {half_square - ShiftedWord(MultiplyHigh(fourth, cosine_tail), 22),
+          MultiplyHigh(half_square, Join(third, third)) -
+              ShiftedWord(MultiplyHigh(fourth, sine_tail), 20)};
 }
 
-/// The angle and its neighbour in the table.
+/// The nearest angle of the table, and the way to it.
 struct SineStep {
   std::size_t row;
-  bool below;  // the angle lies below that of the row
-  UInt128 h_137;
+  bool below;  // r lies below it
+  UInt128 h;   // at scale 2^127, up to the last bit
 };
 
-/// For r = r_127 2^-127 <= pi/4.
-inline SineStep StepOf(UInt128 r_127) {
-  constexpr UInt128 half = UInt128{1} << 117;
-  const UInt128 shifted = r_127 + half;
-  const UInt128 offset = shifted & (2 * half - 1);  // r - a + 2^-10
-  const bool below = offset < half;
-  return {static_cast<std::size_t>(shifted >> 118), below,
-          (below ? half - offset : offset - half) << 10};
+/// For r <= pi/4 at scale 2^127.
+inline SineStep StepOf(UInt128 r) {
+  const std::uint64_t row = (High(r) + (std::uint64_t{1} << 53)) >> 54;
+  const UInt128 difference = r - Join(row << 54, 0);
+  const std::uint64_t mask = 0 - (High(difference) >> 63);
+  return {row, mask != 0, difference ^ Join(mask, mask)};
 }
 
 /// The cosine (part 1) or the sine (part 0) of the angle at scale 2^127. The sine only if its row
@@ -71,17 +76,16 @@ inline UInt128 SinePart(const SineStep& step, const SineSeries& series, unsigned
   const std::uint64_t* const row = kSineTable[step.row];
   const UInt128 near = Join(row[2 * part], row[2 * part + 1]);
   const UInt128 other = Join(row[2 - 2 * part], row[3 - 2 * part]);
-  const UInt128 sine = step.h_137 - (MultiplyHigh(step.h_137, series.sine_loss) >> 19);
-  const UInt128 rest = near - (MultiplyHigh(near, series.cosine_loss) >> 19);
-  const UInt128 turn = MultiplyHigh(other, sine) >> 9;
-  return step.below == (part == 1) ? rest + turn : rest - turn;
+  const UInt128 h_128 = step.h + step.h;
+  const UInt128 turn = MultiplyHigh(other, h_128 - MultiplyHigh(h_128, series.sine_loss));
+  const std::uint64_t mask = 0 - std::uint64_t{step.below != (part == 1)};
+  return near - MultiplyHigh(near, series.cosine_loss) + (turn ^ Join(mask, mask));
 }
 
-/// sin r for 2^-40 < r < 2^-10.
+/// sin r for r < 2^-10.
 inline Wide SmallSine(const Wide& r) {
-  const SineSeries series = SeriesOf(r.mantissa >> (-10 - r.exponent));
-  const UInt128 shrink = MultiplyHigh(r.mantissa, series.sine_loss) >> 19;
-  return NormalisedWide(r.mantissa - shrink, r.exponent);
+  const SineSeries series = SeriesOf(r.mantissa >> -r.exponent);
+  return NormalisedWide(r.mantissa - MultiplyHigh(r.mantissa, series.sine_loss), r.exponent);
 }
 
 }  // namespace qorvex::elementary
