@@ -25,7 +25,7 @@ GumbelDistribution::GumbelDistribution(Extended location, Extended scale)
 
 Extended GumbelDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
-  if (std::isinf(x)) return 0;
+  if (IsInfinite(x)) return 0;
   const Wide rate = special::kOne / Wide(scale_);
   const Wide z = (Wide(x) - Wide(location_)) * rate;
   return special::MakeScaled(rate, -z - PointOfLog(-z)).Value();
@@ -33,8 +33,8 @@ Extended GumbelDistribution::Pdf(Extended x) const {
 
 Tails GumbelDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
-  if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
-  return UnitExponentialTailsAtLog((Wide(location_) - Wide(x)) / Wide(scale_)).Mirrored();
+  if (IsInfinite(x)) return x < 0 ? BelowAll() : AboveAll();
+  return UnitExponentialTailsAtLog(-Standardised(Wide(x), location_, scale_)).Mirrored();
 }
 
 Extended GumbelDistribution::Quantile(Tail tail, Extended p) const {

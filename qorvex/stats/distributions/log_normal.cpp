@@ -24,19 +24,19 @@ LogNormalDistribution::LogNormalDistribution(Extended log_mean, Extended log_std
 
 Extended LogNormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return kNotANumber;
-  if (x <= 0 || std::isinf(x)) return 0;
+  if (x <= 0 || IsInfinite(x)) return 0;
   // One division gives 1 / (x s), and by that 1 / s.
   const Wide wide_x(x);
-  const Wide factor = special::kOne / (wide_x * Wide(log_std_dev_));
+  const Wide factor = QuickQuotient(special::kOne, wide_x * Wide(log_std_dev_));
   const Wide z = (LogWide(x) - Wide(log_mean_)) * (wide_x * factor);
-  return special::NormalDensity(z, factor).Value();
+  return Nearest(factor * special::NormalDensityWide(z));
 }
 
 Tails LogNormalDistribution::At(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
-  if (std::isinf(x)) return AboveAll();
-  return StandardNormalTails((LogWide(x) - Wide(log_mean_)) / Wide(log_std_dev_));
+  if (IsInfinite(x)) return AboveAll();
+  return StandardNormalTails(Standardised(LogWide(x), log_mean_, log_std_dev_));
 }
 
 Extended LogNormalDistribution::Quantile(Tail tail, Extended p) const {
