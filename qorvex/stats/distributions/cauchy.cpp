@@ -3,8 +3,7 @@
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/stats/distributions/detail/checks.h"
-#include "qorvex/stats/distributions/detail/standard_normal.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 
 namespace qorvex {
 

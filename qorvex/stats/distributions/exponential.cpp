@@ -1,15 +1,12 @@
 #include "qorvex/stats/distributions/exponential.h"
 
-#include "qorvex/base/elementary/detail/quotient.h"
-#include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
 namespace qorvex {
 
 using namespace distributions;
-using elementary::Wide;
-using special::kOne;
 using special::MakeScaled;
 
 ExponentialDistribution::ExponentialDistribution(Extended mean) : mean_(mean) {
@@ -19,7 +16,7 @@ ExponentialDistribution::ExponentialDistribution(Extended mean) : mean_(mean) {
 Extended ExponentialDistribution::Pdf(Extended x) const {
   if (AnyNaN(mean_, x)) return kNotANumber;
   if (x < 0 || IsInfinite(x)) return 0;
-  const Wide rate = QuickQuotient(kOne, Wide(mean_));
+  const Wide rate = RateOf(mean_);
   return MakeScaled(rate, -(Wide(x) * rate)).Value();
 }
 
@@ -27,7 +24,7 @@ Tails ExponentialDistribution::At(Extended x) const {
   if (AnyNaN(mean_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
   if (IsInfinite(x)) return AboveAll();
-  return UnitExponentialTails(QuickQuotient(Wide(x), Wide(mean_)));
+  return UnitExponentialTails(Ratio(Wide(x), mean_));
 }
 
 Extended ExponentialDistribution::Quantile(Tail tail, Extended p) const {

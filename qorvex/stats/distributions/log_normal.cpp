@@ -25,11 +25,9 @@ LogNormalDistribution::LogNormalDistribution(Extended log_mean, Extended log_std
 Extended LogNormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return kNotANumber;
   if (x <= 0 || IsInfinite(x)) return 0;
-  // One division gives 1 / (x s), and by that 1 / s.
-  const Wide wide_x(x);
-  const Wide factor = QuickQuotient(special::kOne, wide_x * Wide(log_std_dev_));
-  const Wide z = (LogWide(x) - Wide(log_mean_)) * (wide_x * factor);
-  return Nearest(factor * special::NormalDensityWide(z));
+  const Wide z = Standardised(LogWide(x), log_mean_, log_std_dev_);
+  const Wide density = special::NormalDensityWide(z);
+  return density.IsZero() ? 0 : Nearest(QuickQuotient(density, Wide(x) * Wide(log_std_dev_)));
 }
 
 Tails LogNormalDistribution::At(Extended x) const {

@@ -1,7 +1,6 @@
 #include "qorvex/stats/distributions/normal.h"
 
 #include "qorvex/base/special/detail/normal_wide.h"
-#include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
@@ -17,7 +16,7 @@ NormalDistribution::NormalDistribution(Extended mean, Extended std_dev)
 Extended NormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(mean_, std_dev_, x)) return kNotANumber;
   if (IsInfinite(x)) return 0;
-  const Wide rate = QuickQuotient(special::kOne, Wide(std_dev_));
+  const Wide rate = RateOf(std_dev_);
   return Nearest(rate * special::NormalDensityWide((Wide(x) - Wide(mean_)) * rate));
 }
 
