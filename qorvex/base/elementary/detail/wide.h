@@ -50,15 +50,13 @@ constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
          (MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b)));
 }
 
-/// x 2^count and x 2^-count for 0 < count < 64, word by word: for x << count compilers use the
-/// processor's shift of two words, which takes several times as long.
-template <int count>
-constexpr UInt128 ShiftedLeft(UInt128 x) {
-  return Join(High(x) << count | Low(x) >> (64 - count), Low(x) << count);
+/// x / 2^count and x 2^count modulo 2^128 for 0 <= count < 64, word by word: for x << count compilers
+/// use the processor's shift of two words, which is slow on some.
+constexpr UInt128 ShiftedRight(UInt128 x, int count) {
+  return Join(High(x) >> count, High(x) << 1 << (63 - count) | Low(x) >> count);
 }
-template <int count>
-constexpr UInt128 ShiftedRight(UInt128 x) {
-  return Join(High(x) >> count, High(x) << (64 - count) | Low(x) >> count);
+constexpr UInt128 ShiftedLeft(UInt128 x, int count) {
+  return Join(High(x) << count | Low(x) >> 1 >> (63 - count), Low(x) << count);
 }
 
 constexpr int LeadingZeros(UInt128 x) {
@@ -107,8 +105,10 @@ inline Wide::Wide(Extended x) {
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
   if (product == 0) return {};
-  const auto shift = static_cast<int>(High(product) >> 63 ^ 1);
-  return {product << shift, a.exponent + b.exponent + 1 - shift, a.negative != b.negative};
+  // Doubled, without a jump, if the top bit is 0.
+  const std::uint64_t mask = (High(product) >> 63) - 1;
+  return {product + Join(High(product) & mask, Low(product) & mask),
+          a.exponent + b.exponent + 1 + static_cast<std::int64_t>(mask), a.negative != b.negative};
 }
 
 /// The sum. Error: below 2^-126 of the larger operand, and none if both are multiples of the last
