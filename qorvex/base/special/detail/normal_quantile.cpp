@@ -16,7 +16,7 @@ namespace {
 // - From 0: z / (4 q) in -q^2, for q^2 from 0 to 9/64, pieces of 1/64.
 // - From kTailPieces: 1 - z / 2^s in L, from 2 to 2^14, eight pieces between powers of two.
 constexpr std::size_t kTailPieces = 9;
-alignas(64) constexpr MonotonePiece<88> kPieces[] = {
+alignas(64) constexpr MonotonePiece<84> kPieces[] = {
 #include "qorvex/base/elementary/detail/tables/normal_quantile_pieces.inc"
 };
 
