@@ -7,11 +7,22 @@
 #include <mpfr.h>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/elementary/argument_regions.h"
 
 namespace qorvex::testing {
+
+/// What was found in a region.
+struct RegionOutcome {
+  std::uint64_t tried = 0;
+  std::uint64_t not_nearest = 0;
+  Extended largest_error = 0;
+  Arguments worst;
+
+  void Add(const RegionOutcome& other);
+};
 
 struct ElementaryFunction {
   const char* name;
@@ -22,9 +33,16 @@ struct ElementaryFunction {
   std::vector<ArgumentRegion> regions;
   /// False where results are not rounded correctly and only their error is limited.
   bool is_nearest = true;
+
+  /// The results in a region are as near as promised.
+  [[nodiscard]] bool IsKept(const ArgumentRegion& region, const RegionOutcome& outcome) const {
+    return is_nearest ? outcome.not_nearest == 0 : outcome.largest_error <= region.allowed;
+  }
 };
 
 [[nodiscard]] std::span<const ElementaryFunction> ElementaryFunctions();
+/// Throws std::out_of_range for an unknown name.
+[[nodiscard]] const ElementaryFunction& FunctionNamed(std::string_view name);
 
 /// Registers of MPFR; one object for each thread.
 class Reference {
@@ -39,8 +57,8 @@ class Reference {
   /// How far a result is off the exact value, in units of the last place of the exact value.
   [[nodiscard]] Extended ErrorOf(const ElementaryFunction& function, const Arguments& arguments,
                                  Extended result);
-  /// The base-2 logarithm of the exact value's distance to what `half_units` tells, in units of the
-  /// last place: to the nearest extended number for 2, to the nearest midpoint of two for 1.
+  /// The base-2 logarithm of the exact value's distance to the nearest extended number, or to the
+  /// nearest midpoint of two, in units of the last place.
   [[nodiscard]] Extended DistanceExponent(const ElementaryFunction& function,
                                           const Arguments& arguments, bool to_midpoint);
 
@@ -48,16 +66,6 @@ class Reference {
   void SetArguments(const Arguments& arguments);
 
   mpfr_t x_, y_, nearest_, exact_, difference_;
-};
-
-/// What was found in a region.
-struct RegionOutcome {
-  std::uint64_t tried = 0;
-  std::uint64_t not_nearest = 0;
-  Extended largest_error = 0;
-  Arguments worst;
-
-  void Add(const RegionOutcome& other);
 };
 
 /// Tries a number of arguments. The error is measured where a result is not the nearest number, and

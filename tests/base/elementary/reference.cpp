@@ -118,7 +118,7 @@ RegionOutcome Try(const ElementaryFunction& function, const ArgumentRegion& regi
     if (function.is_nearest && IsSameNumber(result, reference.Nearest(function, arguments)))
       continue;
     const Extended error = reference.ErrorOf(function, arguments, result);
-    if (function.is_nearest ? true : error > 0.5L) ++outcome.not_nearest;
+    if (function.is_nearest || error > 0.5L) ++outcome.not_nearest;
     if (error > outcome.largest_error) {
       outcome.largest_error = error;
       outcome.worst = arguments;
