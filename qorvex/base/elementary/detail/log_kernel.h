@@ -24,15 +24,6 @@ inline constexpr std::int64_t kLogBias = 1 << 15;
 /// ln 2 at scale 2^112.
 inline constexpr std::uint64_t kLogOf2[2] = {0x0000b17217f7d1cf, 0x79abc9e3b39803f3};
 
-/// x / 2^n and x 2^n modulo 2^128 for 0 <= n < 64, by shifts of single words: those of two words
-/// are slow on some processors.
-constexpr UInt128 ShiftedRight(UInt128 x, int n) {
-  return Join(High(x) >> n, (High(x) << 1 << (63 - n)) + (Low(x) >> n));
-}
-constexpr UInt128 ShiftedLeft(UInt128 x, int n) {
-  return Join((High(x) << n) + (Low(x) >> 1 >> (63 - n)), Low(x) << n);
-}
-
 /// z - ln(1 + z) at scale 2^112 for 0 <= z < 2^-15.9 at scale 2^143.
 ///
 /// - It is z^2 / 2 - z^3 (1/3 - z/4 + z^2 / 5 - z^3 / 6), and breaks off 2^-114 early.
