@@ -44,6 +44,23 @@ constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
 }
 
+/// The same for High(a) + High(b) < 2^64, where the two smaller products add up without a carry.
+constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
+  return Multiply(High(a), High(b)) +
+         (MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b)));
+}
+
+/// x 2^count and x 2^-count for 0 < count < 64, word by word: for x << count compilers use the
+/// processor's shift of two words, which takes several times as long.
+template <int count>
+constexpr UInt128 ShiftedLeft(UInt128 x) {
+  return Join(High(x) << count | Low(x) >> (64 - count), Low(x) << count);
+}
+template <int count>
+constexpr UInt128 ShiftedRight(UInt128 x) {
+  return Join(High(x) >> count, High(x) << (64 - count) | Low(x) >> count);
+}
+
 constexpr int LeadingZeros(UInt128 x) {
   return High(x) != 0 ? std::countl_zero(High(x)) : 64 + std::countl_zero(Low(x));
 }
@@ -138,18 +155,24 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 }
 
 /// The bits of the nearest extended number, ties to even; infinity, 0 and subnormal numbers where
-/// they belong.
-[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(const Wide& x) noexcept;
-/// The same, quickly for results that are neither subnormal nor near the end of the format.
+/// they belong. By value, so that the callers' numbers may stay in registers.
+[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(Wide x) noexcept;
+/// x cut off to 64 bits plus `up` units, 0 or 1, for biased exponents from 1 to 0x7ffd.
+[[nodiscard]] constexpr Binary80 LeadingBits(const Wide& x, std::uint64_t up) noexcept {
+  auto biased = static_cast<std::uint16_t>(x.exponent + kExponentBias + (x.negative ? 0x8000 : 0));
+  const std::uint64_t significand = High(x.mantissa) + up;
+  if (significand == 0) [[unlikely]]
+    return {kTopBit, ++biased};
+  return {significand, biased};
+}
+/// The same as NearestBitsAnywhere, quickly for results that are neither subnormal nor near the end
+/// of the format.
 [[nodiscard]] inline Binary80 NearestBits(const Wide& x) noexcept {
-  // Biased exponents from 1 to 0x7ffd: rounding up gives no infinity.
+  // Rounding up gives no infinity.
   const auto biased = static_cast<std::uint64_t>(x.exponent + kExponentBias);
   if (biased - 1 >= kExponentOfInfinity - 2u || x.IsZero()) return NearestBitsAnywhere(x);
-  // Adding half a unit, or as little less as makes ties even.
-  const UInt128 rounded = x.mantissa + (kTopBit - 1 + (High(x.mantissa) & 1));
-  const std::uint64_t carry = High(rounded) == 0 ? 1 : 0;
-  return {High(rounded) | carry << 63,
-          static_cast<std::uint16_t>(biased + carry + (x.negative ? 0x8000u : 0u))};
+  // Ties are rounded up if the last bit is odd.
+  return LeadingBits(x, Low(x.mantissa) > kTopBit - (High(x.mantissa) & 1) ? 1 : 0);
 }
 [[nodiscard]] inline Extended Nearest(const Wide& x) noexcept {
   return FromBits(NearestBits(x));

@@ -8,16 +8,6 @@
 
 namespace qorvex::elementary {
 
-/// The bits of the nearest extended number to x, which is no midpoint, for biased exponents from 1
-/// to 0x7ffd.
-[[gnu::always_inline]] inline Binary80 RoundedByTopBit(const Wide& x) {
-  const std::uint64_t rounded = High(x.mantissa) + (Low(x.mantissa) >> 63);
-  const std::uint64_t carry = rounded == 0 ? 1 : 0;
-  const auto biased = static_cast<std::uint64_t>(x.exponent + kExponentBias);
-  return {rounded | carry << 63,
-          static_cast<std::uint16_t>(biased + carry + (x.negative ? 0x8000u : 0u))};
-}
-
 /// The bits of the nearest extended number to the value that `first` approximates.
 ///
 /// - `first` is not 0. Its relative error is below half_width 2^-128, with half_width at most 2^62.
@@ -30,7 +20,7 @@ inline Binary80 CorrectlyRounded(const Wide& first, std::uint64_t half_width, Se
   const bool is_usual = biased - 1 < kExponentOfInfinity - 2u;
   // Half a unit of the last place is the top bit of the low word.
   if (is_usual && Low(first.mantissa) - (kTopBit - half_width) > 2 * half_width) [[likely]]
-    return RoundedByTopBit(first);
+    return LeadingBits(first, Low(first.mantissa) >> 63);
   // Infinity and 0 beyond the format, whatever the last bits: subnormal numbers reach to 2^-16445.
   if (first.exponent > kExponentBias || first.exponent < -16447) return NearestBits(first);
   return NearestBits(second());
