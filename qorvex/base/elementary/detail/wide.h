@@ -25,6 +25,11 @@ constexpr std::uint64_t High(UInt128 x) {
 constexpr std::uint64_t Low(UInt128 x) {
   return static_cast<std::uint64_t>(x);
 }
+/// word 2^count for 0 < count < 64.
+constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
+  return Join(word >> (64 - count), word << count);
+}
+
 constexpr UInt128 Multiply(std::uint64_t a, std::uint64_t b) {
   return UInt128{a} * b;
 }
@@ -101,6 +106,13 @@ inline Wide::Wide(Extended x) {
   const Binary80 bits = BitsOf(x);
   if (bits.significand == 0) return;
   *this = WideOf(Normalise(bits), bits.IsNegative());
+}
+
+/// The same, quicker, for a mantissa of 2^64 or more.
+constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
+  const int zeros = std::countl_zero(High(mantissa));
+  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
+  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
 }
 
 /// The product; relative error below 2^-125.
