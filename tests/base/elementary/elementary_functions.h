@@ -4,13 +4,13 @@
 /// The elementary functions and their exact values by MPFR.
 
 #include <cstdint>
-#include <mpfr.h>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "base/elementary/argument_regions.h"
+#include "base/elementary/mpfr_number.h"
 
 namespace qorvex::testing {
 
@@ -47,11 +47,6 @@ struct ElementaryFunction {
 /// Registers of MPFR; one object for each thread.
 class Reference {
  public:
-  Reference();
-  ~Reference();
-  Reference(const Reference&) = delete;
-  Reference& operator=(const Reference&) = delete;
-
   /// The extended number nearest to the value of the function, rounded once.
   [[nodiscard]] Extended Nearest(const ElementaryFunction& function, const Arguments& arguments);
   /// How far a result is off the exact value, in units of the last place of the exact value.
@@ -65,7 +60,11 @@ class Reference {
  private:
   void SetArguments(const Arguments& arguments);
 
-  mpfr_t x_, y_, nearest_, exact_, difference_;
+  // For errors and distances; arguments near 2^-16445 need no more, as only the leading bits of a
+  // difference matter.
+  static constexpr mpfr_prec_t kExactPrecision = 320;
+
+  MpfrNumber x_{64}, y_{64}, nearest_{64}, exact_{kExactPrecision}, difference_{kExactPrecision};
 };
 
 /// Tries a number of arguments. The error is measured where a result is not the nearest number, and

@@ -22,8 +22,7 @@ TEST(ElementaryHardCases, AreNearest) {
         << function.name << ' ' << Text(arguments);
     const std::string& kind = table.Text(row, "kind");
     if (kind != "reduction") {
-      const Extended distance =
-          reference.DistanceExponent(function, arguments, kind == "midpoint");
+      const Extended distance = reference.DistanceExponent(function, arguments, kind == "midpoint");
       EXPECT_LT(std::fabs(distance - table.Value(row, "distance")), 0.006L)
           << function.name << ' ' << Text(arguments);
     }
