@@ -28,4 +28,7 @@ void AddDist(CLI::App& program);
 /// `random`: random variates.
 void AddRandom(CLI::App& program);
 
+/// `selftest`: whether this machine computes the figures of the release.
+void AddSelfTest(CLI::App& program);
+
 }  // namespace qorvex::apps

@@ -82,6 +82,7 @@ int Run(int argc, char** argv) {
   AddMatrix(program);
   AddDist(program);
   AddRandom(program);
+  AddSelfTest(program);
   // At most one command, so that a file may have the name of another.
   program.require_subcommand(0, 1);
 

@@ -2,14 +2,16 @@
 
 A script computes its tables with mpmath, asserts the error bounds that the comments in the C++ state, and ends with
 
-    run(__file__, {"name": rows, ...})
+    run(__file__, tables={"name": rows, ...}, constants={"core.h": {"kName": words, ...}, ...})
 
 where a row is a list of 64-bit words: words(fixed(value, scale)) for a number of 128 bits. The table "name" is
-qorvex/base/elementary/detail/tables/name.inc; C++ includes it between the braces of an array.
+qorvex/base/elementary/detail/tables/name.inc; C++ includes it between the braces of an array. The few constants that
+are written into a header or source are compared with it, whichever way they are grouped.
 
-usage of a script: SCRIPT [--write]     without --write, the status is 1 unless the files are what it would write
+usage of a script: SCRIPT [--write]     without --write, the status is 1 unless the tables are what it would write
 """
 
+import re
 import sys
 from pathlib import Path
 
@@ -18,7 +20,8 @@ from mpmath import mp, mpf
 mp.prec = 400
 
 ROOT = Path(__file__).resolve().parents[2]
-FOLDER = ROOT / "qorvex/base/elementary/detail/tables"
+DETAIL = ROOT / "qorvex/base/elementary/detail"
+FOLDER = DETAIL / "tables"
 COLUMNS = 100
 
 
@@ -45,8 +48,14 @@ def text_of(rows, script):
     return "\n".join(lines) + "\n"
 
 
-def run(script, tables):
-    """Writes the tables, or checks the files."""
+def words_of(name, source):
+    """The hexadecimal words of the definition of a constant."""
+    definition = re.search(rf"\b{name}\b[^;=]*=?[^;]*;", source)
+    return [int(word, 16) for word in re.findall(r"0x[0-9a-f]+", definition[0])] if definition else []
+
+
+def run(script, tables, constants=None):
+    """Writes the tables, or checks the files; checks the constants."""
     write = sys.argv[1:] == ["--write"]
     if sys.argv[1:] and not write:
         sys.exit(f"usage: {Path(script).name} [--write]")
@@ -58,6 +67,11 @@ def run(script, tables):
             FOLDER.mkdir(exist_ok=True)
             path.write_text(text)
         elif not path.exists() or path.read_text() != text:
-            different.append(str(path.relative_to(ROOT)))
+            different.append(f"{path.name} is not what the script writes")
+    for file, values in (constants or {}).items():
+        source = (DETAIL / file).read_text()
+        for name, expected in values.items():
+            if words_of(name, source) != expected:
+                different.append(f"{file}: {name} is not " + ", ".join(f"0x{word:016x}" for word in expected))
     if different:
-        sys.exit("not what the script writes: " + ", ".join(different))
+        sys.exit("\n".join(different))

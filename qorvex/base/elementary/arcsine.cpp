@@ -40,7 +40,7 @@ struct Arc {
   bool is_cosine;
 
   [[nodiscard]] Wide Number() const { return NormalisedTop(product, exponent + 1); }
-  [[nodiscard]] UInt128 AtScale126() const { return ShiftedRight(product, -exponent); }
+  [[nodiscard]] UInt128 AtScale126() const { return ScaledDown(product, -exponent); }
 };
 
 // For 0 < |x| < 1, normal.
@@ -48,7 +48,7 @@ struct Arc {
   const int exponent = x.Exponent() - kExponentBias;
   if (exponent < -1 || x.significand == kTopBit) {
     const UInt128 square = Multiply(x.significand, x.significand);
-    const UInt128 quotient = ArcSineQuotient(ShiftedRight(square, -2 * exponent - 2));
+    const UInt128 quotient = ArcSineQuotient(ScaledDown(square, -2 * exponent - 2));
     return {MultiplyHigh(quotient, x.significand), exponent, false};
   }
   // z = complement 2^-65 = a 2^(-shift - 1), where 1/4 <= a < 1 and the shift is odd.

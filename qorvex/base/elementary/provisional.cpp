@@ -21,48 +21,17 @@ using In = VectorView<Extended>;
 using Out = std::span<Extended>;
 
 // Exp, Expm1, Exp2
-Extended Exp(Extended x) noexcept { return std::exp(x); }
-void Exp(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp(t); }); }
 Extended Expm1(Extended x) noexcept { return std::expm1(x); }
 void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); }); }
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
 void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
-// Log, Log1p, Log2, Log10, Pow
-Extended Pow(Extended x, Extended y) noexcept { return std::pow(x, y); }
-void Pow(In x, Extended y, Out z) { Provisional(x, z, [y](Extended t) { return Pow(t, y); }); }
-Extended Log(Extended x) noexcept { return std::log(x); }
-void Log(In x, Out y) { Provisional(x, y, [](Extended t) { return Log(t); }); }
-Extended Log1p(Extended x) noexcept { return std::log1p(x); }
-void Log1p(In x, Out y) { Provisional(x, y, [](Extended t) { return Log1p(t); }); }
-Extended Log2(Extended x) noexcept { return std::log2(x); }
-void Log2(In x, Out y) { Provisional(x, y, [](Extended t) { return Log2(t); }); }
-Extended Log10(Extended x) noexcept { return std::log10(x); }
-void Log10(In x, Out y) { Provisional(x, y, [](Extended t) { return Log10(t); }); }
-
-
-// Erf, Erfc
-Extended Erf(Extended x) noexcept { return std::erf(x); }
-void Erf(In x, Out y) { Provisional(x, y, [](Extended t) { return Erf(t); }); }
-Extended Erfc(Extended x) noexcept { return std::erfc(x); }
-void Erfc(In x, Out y) { Provisional(x, y, [](Extended t) { return Erfc(t); }); }
 
 }  // namespace qorvex::inline QorvexGlobals
 
 namespace qorvex::elementary {
 
-// LogWide, Log1pWide
-Wide LogWide(Extended x) { return Wide(special::Ln(special::ExtendedPair(x))); }
-Wide LogWide(const Wide& x) {
-  constexpr Extended ln2 = 0.693147180559945309417232121458L;
-  const Wide mantissa{x.mantissa, 0, false};
-  return Wide(special::Ln(PairOf(mantissa)) + special::ExtendedPair(ln2) * special::ExtendedPair(static_cast<Extended>(x.exponent)));
-}
-Wide Log1pWide(Extended x) { return Wide(special::Ln(special::ExactSum(1, x))); }
-Wide Log1pWide(const Wide& x) { return LogWide(Wide(1.0L) + x); }
-
 // ExpWide, Expm1Wide
-Wide ExpWide(const Wide& x) { return Wide(special::Exp(PairOf(x))); }
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
 

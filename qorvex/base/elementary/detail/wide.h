@@ -9,6 +9,7 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary/detail/binary80.h"
+#include "qorvex/base/export.h"
 #include "qorvex/base/special/extended_pair.h"
 
 namespace qorvex::elementary {
@@ -48,9 +49,21 @@ constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
 }
 
-/// x / 2^count, and 0 from 128 on.
-constexpr UInt128 ShiftedRight(UInt128 x, std::int64_t count) {
-  return count < 128 ? x >> count : 0;
+/// The same for High(a) + High(b) < 2^64, where the two smaller products add up without a carry.
+constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
+  return Multiply(High(a), High(b)) +
+         (MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b)));
+}
+
+/// x 2^count and x 2^-count for 0 < count < 64, word by word: for x << count compilers use the
+/// processor's shift of two words, which takes several times as long.
+template <int count>
+constexpr UInt128 ShiftedLeft(UInt128 x) {
+  return Join(High(x) << count | Low(x) >> (64 - count), Low(x) << count);
+}
+template <int count>
+constexpr UInt128 ShiftedRight(UInt128 x) {
+  return Join(High(x) >> count, High(x) << (64 - count) | Low(x) >> count);
 }
 
 constexpr int LeadingZeros(UInt128 x) {
@@ -84,11 +97,15 @@ constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool nega
   return {mantissa << zeros, exponent - zeros, negative};
 }
 
+/// A number that is not 0, exactly.
+constexpr Wide WideOf(Normalised x, bool negative = false) {
+  return {Join(x.significand, 0), x.exponent, negative};
+}
+
 inline Wide::Wide(Extended x) {
   const Binary80 bits = BitsOf(x);
   if (bits.significand == 0) return;
-  const Normalised number = Normalise(bits);
-  *this = {Join(number.significand, 0), number.exponent, bits.IsNegative()};
+  *this = WideOf(Normalise(bits), bits.IsNegative());
 }
 
 /// The same, quicker, for a mantissa of 2^64 or more.
@@ -102,8 +119,10 @@ constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negat
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
   if (product == 0) return {};
-  const auto shift = static_cast<int>(High(product) >> 63 ^ 1);
-  return {product << shift, a.exponent + b.exponent + 1 - shift, a.negative != b.negative};
+  // Doubled, without a jump, if the top bit is 0.
+  const std::uint64_t mask = (High(product) >> 63) - 1;
+  return {product + Join(High(product) & mask, Low(product) & mask),
+          a.exponent + b.exponent + 1 + static_cast<std::int64_t>(mask), a.negative != b.negative};
 }
 
 /// The sum. Error: below 2^-126 of the larger operand, and none if both are multiples of the last
@@ -136,10 +155,10 @@ constexpr Wide ScaledBy(const Wide& x, std::int64_t k) {
 }
 
 /// The quotient by a divisor other than 0; relative error below 2^-124.
-[[nodiscard]] Wide operator/(const Wide& a, const Wide& b);
+[[nodiscard]] QORVEX_EXPORT Wide operator/(const Wide& a, const Wide& b);
 
 /// The square root of x >= 0; relative error below 2^-124.
-[[nodiscard]] Wide SquareRoot(const Wide& x);
+[[nodiscard]] QORVEX_EXPORT Wide SquareRoot(const Wide& x);
 
 /// |a| < |b|.
 constexpr bool IsSmaller(const Wide& a, const Wide& b) {
@@ -148,24 +167,30 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 }
 
 /// The bits of the nearest extended number, ties to even; infinity, 0 and subnormal numbers where
-/// they belong.
-[[nodiscard]] Binary80 NearestBitsAnywhere(const Wide& x) noexcept;
-/// The same, quickly for results that are neither subnormal nor near the end of the format.
+/// they belong. By value, so that the callers' numbers may stay in registers.
+[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(Wide x) noexcept;
+/// x cut off to 64 bits plus `up` units, 0 or 1, for biased exponents from 1 to 0x7ffd.
+[[nodiscard]] constexpr Binary80 LeadingBits(const Wide& x, std::uint64_t up) noexcept {
+  auto biased = static_cast<std::uint16_t>(x.exponent + kExponentBias + (x.negative ? 0x8000 : 0));
+  const std::uint64_t significand = High(x.mantissa) + up;
+  if (significand == 0) [[unlikely]]
+    return {kTopBit, ++biased};
+  return {significand, biased};
+}
+/// The same as NearestBitsAnywhere, quickly for results that are neither subnormal nor near the end
+/// of the format.
 [[nodiscard]] inline Binary80 NearestBits(const Wide& x) noexcept {
-  // Biased exponents from 1 to 0x7ffd: rounding up gives no infinity.
+  // Rounding up gives no infinity.
   const auto biased = static_cast<std::uint64_t>(x.exponent + kExponentBias);
   if (biased - 1 >= kExponentOfInfinity - 2u || x.IsZero()) return NearestBitsAnywhere(x);
-  // Adding half a unit, or as little less as makes ties even.
-  const UInt128 rounded = x.mantissa + (kTopBit - 1 + (High(x.mantissa) & 1));
-  const std::uint64_t carry = High(rounded) == 0 ? 1 : 0;
-  return {High(rounded) | carry << 63,
-          static_cast<std::uint16_t>(biased + carry + (x.negative ? 0x8000u : 0u))};
+  // Ties are rounded up if the last bit is odd.
+  return LeadingBits(x, Low(x.mantissa) > kTopBit - (High(x.mantissa) & 1) ? 1 : 0);
 }
 [[nodiscard]] inline Extended Nearest(const Wide& x) noexcept {
   return FromBits(NearestBits(x));
 }
 
 /// The two parts of x as a pair; infinity and 0 beyond the format.
-[[nodiscard]] special::ExtendedPair PairOf(const Wide& x) noexcept;
+[[nodiscard]] QORVEX_EXPORT special::ExtendedPair PairOf(const Wide& x) noexcept;
 
 }  // namespace qorvex::elementary
