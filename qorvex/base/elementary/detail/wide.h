@@ -55,8 +55,8 @@ constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
          (MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b)));
 }
 
-/// x / 2^count and x 2^count modulo 2^128 for 0 <= count < 64, word by word: for x << count compilers
-/// use the processor's shift of two words, which is slow on some.
+/// x / 2^count and x 2^count modulo 2^128 for 0 <= count < 64, word by word: for x << count
+/// compilers use the processor's shift of two words, which is slow on some.
 constexpr UInt128 ShiftedRight(UInt128 x, int count) {
   return Join(High(x) >> count, High(x) << 1 << (63 - count) | Low(x) >> count);
 }
