@@ -23,9 +23,9 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage: 2^-98.5 from the square root and 2^-99.5 from P, at most
+// Four times the error of the first stage: 2^-98.5 from the square root and 2^-100 from P, at most
 // twice that of the result after a subtraction, and so below 2^-97.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
 
 // Below 2^-32, asin x rounds to x: x^2/6 is less than half the distance to the next number.
 constexpr int kLeastExponent = -32;

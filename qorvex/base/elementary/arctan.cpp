@@ -16,7 +16,7 @@ namespace qorvex::elementary {
 namespace {
 
 // Four times the error of the first stage, 2^-97 of the result.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
 
 // Below 2^-32, atan x rounds to x: x^2/3 is less than half the distance to the next number.
 constexpr int kLeastExponent = -32;

@@ -20,8 +20,8 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 40;
+// Four times the error of the first stage, 2^-89 of the result.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 41;
 
 constexpr std::uint64_t kInverseRoots[64][4] = {
 #include "qorvex/base/elementary/detail/tables/inverse_cube_root.inc"

@@ -16,8 +16,8 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage, 2^-98 from the quotient and two of 2^-104.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 31;
+// Nearly four times the error of the first stage: 2^-98 from the quotient, twice 2^-103.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
 
 [[gnu::noinline]] Binary80 WithoutKernel(Binary80 x) {
   return x.Exponent() == kExponentOfInfinity || IsNaN(x) ? QuietNaN() : Canonical(x);
