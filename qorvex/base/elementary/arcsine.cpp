@@ -124,13 +124,15 @@ Extended ArcSin(Extended x) noexcept {
   return FromBits(elementary::ArcSineKernel(BitsOf(x)));
 }
 void ArcSin(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcSineKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcSineKernel(t); });
 }
 Extended ArcCos(Extended x) noexcept {
   return FromBits(elementary::ArcCosineKernel(BitsOf(x)));
 }
 void ArcCos(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcCosineKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcCosineKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

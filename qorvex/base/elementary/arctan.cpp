@@ -62,7 +62,8 @@ Extended ArcTan(Extended x) noexcept {
   return elementary::FromBits(elementary::ArcTanKernel(elementary::BitsOf(x)));
 }
 void ArcTan(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcTanKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcTanKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -97,7 +97,8 @@ Extended Cbrt(Extended x) noexcept {
   return elementary::FromBits(elementary::CbrtKernel(elementary::BitsOf(x)));
 }
 void Cbrt(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::CbrtKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::CbrtKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -64,13 +64,17 @@ Extended Sin(Extended x) noexcept {
   return FromBits(elementary::SineKernel<elementary::kSine>(BitsOf(x)));
 }
 void Sin(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::SineKernel<elementary::kSine>);
+  elementary::OverSpans(x, results, [](elementary::Binary80 t) {
+    return elementary::SineKernel<elementary::kSine>(t);
+  });
 }
 Extended Cos(Extended x) noexcept {
   return FromBits(elementary::SineKernel<elementary::kCosine>(BitsOf(x)));
 }
 void Cos(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::SineKernel<elementary::kCosine>);
+  elementary::OverSpans(x, results, [](elementary::Binary80 t) {
+    return elementary::SineKernel<elementary::kCosine>(t);
+  });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

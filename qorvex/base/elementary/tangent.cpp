@@ -55,7 +55,8 @@ Extended Tan(Extended x) noexcept {
   return elementary::FromBits(elementary::TangentKernel(elementary::BitsOf(x)));
 }
 void Tan(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::TangentKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::TangentKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals
