@@ -40,7 +40,7 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
   const Wide x{Join(bits.significand, 0), bits.Exponent() - kExponentBias};
   Wide first = x.exponent < 0 ? SmallArcTan(x)
                               : ComplementOfArcTan(ScaledDown(
-                                    ShiftedLeft<1>(QuickReciprocal(bits.significand)), x.exponent));
+                                    ShiftedLeft(QuickReciprocal(bits.significand), 1), x.exponent));
   first.negative = bits.IsNegative();
   return CorrectlyRounded(first, kHalfWidth, [&] { return SecondStage(x, bits.IsNegative()); });
 }

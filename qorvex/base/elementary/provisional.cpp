@@ -20,19 +20,12 @@ void Provisional(VectorView<Extended> x, std::span<Extended> results, Function f
 using In = VectorView<Extended>;
 using Out = std::span<Extended>;
 
-// Exp, Expm1, Exp2
-Extended Expm1(Extended x) noexcept { return std::expm1(x); }
-void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); }); }
-Extended Exp2(Extended x) noexcept { return std::exp2(x); }
-void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
 
 }  // namespace qorvex::inline QorvexGlobals
 
 namespace qorvex::elementary {
 
-// ExpWide, Expm1Wide
-Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
 
 }  // namespace qorvex::elementary

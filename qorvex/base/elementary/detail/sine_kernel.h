@@ -39,7 +39,7 @@ struct SineSeries {
 /// For h <= 2^-10 at scale 2^127.
 inline SineSeries SeriesOf(UInt128 h) {
   const UInt128 half_square = MultiplyHighOfSmall(h, h + h);  // h^2/2 at scale 2^128
-  const auto square = Low(ShiftedRight<44>(half_square));     // h^2 at scale 2^83
+  const auto square = Low(ShiftedRight(half_square, 44));     // h^2 at scale 2^83
   const std::uint64_t fourth = MultiplyHigh(square, square);  // h^4 at scale 2^102
   const std::uint64_t cosine_tail = Inverse(24, 68) - MultiplyHigh(square, Inverse(720, 49)) +
                                     MultiplyHigh(fourth, Inverse(40320, 30));

@@ -21,8 +21,8 @@ struct Wide256 {
   std::int64_t exponent = 0;
   bool negative = false;
 
-  Wide256() = default;
-  Wide256(const Words& m, std::int64_t e, bool is_negative = false)
+  constexpr Wide256() = default;
+  constexpr Wide256(const Words& m, std::int64_t e, bool is_negative = false)
       : mantissa(m), exponent(e), negative(is_negative) {}
   Wide256(const Wide& x);                       // NOLINT: a wider number
   Wide256(Extended x) : Wide256(Wide(x)) {}     // NOLINT
@@ -54,8 +54,9 @@ struct Wide256 {
 extern const Wide256 kPi256;
 extern const Wide256 kLn2Of256;
 
-/// e^x for |x| < 2^16; relative error below 2^-230.
+/// e^x and e^x - 1 for |x| < 2^16; relative error below 2^-230.
 [[nodiscard]] Wide256 Exp(const Wide256& x);
+[[nodiscard]] Wide256 Expm1(const Wide256& x);
 
 /// The bits of the nearest extended number. The number is first rounded to 200 bits: an error of
 /// less than 2^-201 of it does no harm unless it exceeds the distance to the nearest midpoint, and
