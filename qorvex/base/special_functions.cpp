@@ -1,13 +1,12 @@
 #include "qorvex/base/special_functions.h"
 
-#include <boost/math/special_functions/erf.hpp>
-#include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/regularised_beta.h"
 #include "qorvex/base/special/shape_range.h"
 
@@ -15,6 +14,7 @@ namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
+using elementary::Wide;
 using special::Evaluate;
 using special::IsShapeOutOfRange;
 using special::kBoostPolicy;
@@ -32,7 +32,11 @@ Extended Gamma(Extended x) {
   if (x == 0) throw EZeroDivide();
   if (x < 0 && x == std::floor(x)) throw EInvalidOp();
   if (std::isinf(x)) return x;
-  return Evaluate([=] { return boost::math::tgamma(x, kBoostPolicy); });
+  // Far beyond both ends, where the kernel no longer holds.
+  constexpr Extended beyond = 2000;
+  if (x > beyond) throw EOverflow();
+  if (x < -beyond) return 0;
+  return CheckedFinite(elementary::Nearest(special::GammaWide(Wide(x))));
 }
 
 Extended LnGamma(Extended x) {
@@ -42,7 +46,7 @@ Extended LnGamma(Extended x) {
     return x;
   }
   if (x <= 0 && x == std::floor(x)) throw EZeroDivide();
-  return Evaluate([=] { return boost::math::lgamma(x, kBoostPolicy); });
+  return CheckedFinite(elementary::Nearest(special::LnGammaWide(Wide(x))));
 }
 
 Extended Beta(Extended a, Extended b) {
@@ -64,14 +68,6 @@ Extended InverseIncompleteBeta(Extended p, Extended a, Extended b) {
   RequireUnitAndShapes(p, a, b);
   if (p == 0 || p == 1) return p;
   return special::FromOdds(special::RegularisedBeta(a, b).QuantileOdds(special::Tail::kLower, p));
-}
-
-Extended InverseErfc(Extended y) {
-  if (std::isnan(y)) return y;
-  if (y < 0 || y > 2) throw EInvalidOp();
-  if (y == 0) return std::numeric_limits<Extended>::infinity();
-  if (y == 2) return -std::numeric_limits<Extended>::infinity();
-  return Evaluate([=] { return boost::math::erfc_inv(y, kBoostPolicy); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

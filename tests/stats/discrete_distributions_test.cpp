@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "qorvex/base/QorvexGlobals.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/QorvexStatistics.h"
 #include "support/kept_tolerance.h"
 #include "support/random_vectors.h"
@@ -55,7 +56,7 @@ Distribution HyperGeometric(Count pop, Count sample, Count successes) {
 }
 
 Distribution Poisson(Extended lambda) {
-  const auto formula = [=](Count k) { return std::exp(-lambda) * XtoY(lambda, k) / Factorial(k); };
+  const auto formula = [=](Count k) { return Exp(-lambda) * XtoY(lambda, k) / Factorial(k); };
   return Bind(kMost, formula, PoissonEq, PoissonLess, PoissonGreater, PoissonBetween, lambda);
 }
 

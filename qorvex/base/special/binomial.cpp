@@ -1,51 +1,53 @@
 #include "qorvex/base/special/binomial.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 
 #include "qorvex/base/special/detail/exact_binomial.h"
-#include "qorvex/base/special/factorial.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
+#include "qorvex/base/special/regularised_beta.h"
 
 namespace qorvex::special {
 
 namespace {
 
 constexpr auto kFactorials = [] {
-  std::array<ExtendedPair, kExactTrials> factorials{};
-  ExtendedPair product = 1;
+  std::array<Wide, kExactTrials> factorials{};
+  Wide product = kOne;
   for (std::size_t i = 0; i < factorials.size(); ++i) {
     factorials[i] = product;
-    product = product * static_cast<Extended>(i + 1);
+    product = product * WholeNumber(i + 1);
   }
   return factorials;
 }();
 
 }  // namespace
 
-ExtendedPair ExactCoefficient(std::uint64_t n, std::uint64_t k) {
-  if (k == 0 || k == n) return 1;
+Wide WholePower(const Wide& x, std::uint64_t n) {
+  Wide power = kOne;
+  for (Wide square = x; n > 0; n /= 2) {
+    if (n % 2 == 1) power = power * square;
+    if (n > 1) square = square * square;
+  }
+  return power;
+}
+
+Wide ExactCoefficient(std::uint64_t n, std::uint64_t k) {
+  if (k == 0 || k == n) return kOne;
   return kFactorials[n] / (kFactorials[k] * kFactorials[n - k]);
 }
 
-Binary ExactProbability(std::uint64_t n, std::uint64_t k, ExtendedPair p, ExtendedPair q) {
-  return MakeBinary(ExactCoefficient(n, k)) * WholePower(p, k) * WholePower(q, n - k);
-}
-
-Scaled BinomialCoefficient(std::int64_t n, std::int64_t k) {
-  if (HasExactCoefficient(static_cast<Extended>(n), static_cast<Extended>(k))) {
-    const auto exact =
-        ExactCoefficient(static_cast<std::uint64_t>(n), static_cast<std::uint64_t>(k));
-    return {exact.hi, ExtendedPair()};
-  }
-  const auto factorial = [](std::int64_t i) { return FactorialOf(static_cast<Extended>(i)); };
-  const std::int64_t fewer = std::min(k, n - k);
-  return factorial(n) / factorial(fewer) / factorial(n - fewer);
+Wide ExactProbability(std::uint64_t n, std::uint64_t k, const Wide& p, const Wide& q) {
+  return ExactCoefficient(n, k) * WholePower(p, k) * WholePower(q, n - k);
 }
 
 Scaled BinomialProbability(std::uint32_t n, std::uint32_t k, ExtendedPair p, ExtendedPair q) {
-  if (HasExactCoefficient(n, k)) return ToScaled(ExactProbability(n, k, p, q));
-  return BinomialCoefficient(n, k) * Power(p, k) * Power(q, n - k);
+  if (HasExactCoefficient(n, k)) return MakeScaled(ExactProbability(n, k, Wide(p), Wide(q)));
+  // p^k q^(n - k) / B(k, n - k) is this times k (n - k) / n.
+  const Wide share = WholeNumber(std::uint64_t{k} * (n - k)) / WholeNumber(n);
+  const RegularisedBeta beta(k, n - k);
+  return beta.LogOddsDensity({p, q}) / MakeScaled(share);
 }
 
 }  // namespace qorvex::special

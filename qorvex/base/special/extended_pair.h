@@ -88,11 +88,11 @@ constexpr ExtendedPair operator/(ExtendedPair a, ExtendedPair b) {
   return OrderedSum(quotient, rest * reciprocal);
 }
 
-/// The natural logarithm of a positive finite value, off by at most 2^-98, and by 2^-93 of itself.
+/// The natural logarithm of a positive finite value, off by 2^-96 of itself.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Ln(ExtendedPair x);
 
 using QorvexGlobals::Exp;
-/// The exponential function, off by 2^-93 times |x| of itself; 0 and infinity beyond the format.
+/// The exponential function, off by 2^-96 of itself; 0 and infinity beyond the format.
 [[nodiscard]] QORVEX_EXPORT ExtendedPair Exp(ExtendedPair x);
 
 /// The natural logarithm of a quotient that may be beyond the format.

@@ -1,49 +1,30 @@
 #include "qorvex/base/special/factorial.h"
 
 #include <array>
-#include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <cstddef>
 
-#include "qorvex/base/elementary.h"
-#include "qorvex/base/elementary/functions.h"
-#include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/detail/gamma_wide.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::special {
 
 namespace {
 
-// ln Gamma(a + 1) - (a + 1/2) ln a + a - ln(2 pi) / 2 for a >= 16: Stirling's series.
-Extended StirlingError(Extended a) {
-  const Extended z = 1 / (a * a);
-  return (1.0L / 12 -
-          z * (1.0L / 360 -
-               z * (1.0L / 1260 -
-                    z * (1.0L / 1680 -
-                         z * (1.0L / 1188 -
-                              z * (691.0L / 360360 -
-                                   z * (1.0L / 156 -
-                                        z * (3617.0L / 122400 - z * 43867.0L / 244188)))))))) /
-         a;
-}
-
-constexpr int kStirlingFrom = 16;
-// Far beyond kStirlingFrom, because the table is quicker. A product of nine numbers below
-// Gamma(257) = 1e507 does not overflow.
+// Far beyond where Stirling's series begins, because the table is quicker.
 constexpr int kTableEnd = 256;
 
-// Gamma(i / 2 + 1).
+// Gamma(i / 2 + 1); off by less than 2^-115.
 constexpr auto kFactorialsOfHalves = [] {
-  constexpr ExtendedPair root_of_pi{0xe2dfc48da77b553dp-63L, -0xf13eb7ca891b1f00p-130L};
-  std::array<Extended, std::size_t{2} * kTableEnd> factorials{};
-  ExtendedPair whole = 1;
-  ExtendedPair half = root_of_pi / 2;
+  std::array<Wide, std::size_t{2} * kTableEnd> factorials{};
+  Wide whole = kOne;
+  Wide half = kHalfRootOfPi;
   for (std::size_t i = 0; i < factorials.size(); i += 2) {
-    factorials[i] = whole.hi;
-    factorials[i + 1] = half.hi;
-    const auto n = static_cast<Extended>(i) / 2 + 1;
-    whole = whole * n;
-    half = half * (n + 0.5L);
+    factorials[i] = whole;
+    factorials[i + 1] = half;
+    whole = whole * WholeNumber(i / 2 + 1);
+    half = half * ScaledBy(WholeNumber(i + 3), -1);
   }
   return factorials;
 }();
@@ -51,25 +32,15 @@ constexpr auto kFactorialsOfHalves = [] {
 }  // namespace
 
 Scaled FactorialOf(ExtendedPair a) {
-  if (std::isnan(a.hi)) return {a.hi, ExtendedPair()};
+  if (std::isnan(a.hi)) return a.hi;
   const Extended twice = 2 * a.hi;
-  if (a.hi < kTableEnd && a.lo == 0 && twice == std::trunc(twice)) {
-    return {kFactorialsOfHalves[static_cast<std::size_t>(twice)], ExtendedPair()};
-  }
-  if (a.hi >= kStirlingFrom) {
-    return {std::sqrt(2 * QorPi * a.hi) * Exp(StirlingError(a.hi)), a * Ln(a) - a};
-  }
-  constexpr Extended small = 0.5L;
-  if (a.hi < small) {
-    // Quantiles of small shapes take this to the power 1 / a, so its distance from 1 counts.
-    const Extended difference =
-        Evaluate([&] { return boost::math::tgamma1pm1(a.hi, kBoostPolicy); });
-    return {1, Ln(OrderedSum(1, difference))};
-  }
-  const Extended gamma = Evaluate([&] { return boost::math::tgamma(a.hi, kBoostPolicy); });
-  // The derivative of the logarithm: enough digits for a low part of half a unit.
-  const Extended digamma = Log(a.hi + 0.5L);
-  return {a.hi * gamma * (1 + digamma * a.lo), ExtendedPair()};
+  if (a.hi < kTableEnd && a.lo == 0 && twice == std::trunc(twice))
+    return MakeScaled(kFactorialsOfHalves[static_cast<std::size_t>(twice)]);
+  constexpr Extended stirling_from = 16;
+  const Wide x = Wide(a);
+  if (a.hi < 1) return MakeScaled(kOne + GammaMinusOne(x));
+  if (a.hi < stirling_from) return MakeScaled(x * GammaWide(x));
+  return MakeScaled(kOne, LnFactorialWide(x));
 }
 
 }  // namespace qorvex::special

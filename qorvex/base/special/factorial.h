@@ -8,8 +8,8 @@
 
 namespace qorvex::special {
 
-/// Gamma(a + 1), the factorial of a >= 0: a table for halves of whole numbers, Stirling's series
-/// from 16 on, and Boost.Math otherwise. NaN gives NaN.
+/// Gamma(a + 1), the factorial of a >= 0: a table for halves of whole numbers, polynomials and
+/// products below 16, Stirling's series from there on. NaN gives NaN.
 [[nodiscard]] QORVEX_EXPORT Scaled FactorialOf(ExtendedPair a);
 
 }  // namespace qorvex::special

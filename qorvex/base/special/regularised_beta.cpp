@@ -1,16 +1,21 @@
 #include "qorvex/base/special/regularised_beta.h"
 
-#include <boost/math/special_functions/beta.hpp>
 #include <cmath>
 #include <limits>
-#include <utility>
 
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
-#include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/detail/gamma_wide.h"
+#include "qorvex/base/special/detail/small_shape.h"
 #include "qorvex/base/special/detail/tail_solver.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/base/special/factorial.h"
 
 namespace qorvex::special {
+
+using elementary::LogWide;
+using elementary::Nearest;
 
 namespace {
 
@@ -73,47 +78,72 @@ Extended LowerFraction(Extended a, Extended b, Extended x, Extended lambda) {
   return fraction;
 }
 
-// The tails where the fraction is slow or gives the larger tail. x and y sum to one.
-Tails BoostTails(Tail tail, Extended a, Extended b, Extended x, Extended y) {
-  // The smaller of x and y is the one that is known well.
-  const bool mirrored = x > y;
-  const auto lower = [=] {
-    return mirrored ? boost::math::ibetac(b, a, y, kBoostPolicy)
-                    : boost::math::ibeta(a, b, x, kBoostPolicy);
-  };
-  const auto upper = [=] {
-    return mirrored ? boost::math::ibeta(b, a, y, kBoostPolicy)
-                    : boost::math::ibetac(a, b, x, kBoostPolicy);
-  };
-  const Extended probability = Evaluate(lower);
-  if (probability < 0.5L) return {tail, Scaled{probability, ExtendedPair()}};
-  return {Opposite(tail), Scaled{Evaluate(upper), ExtendedPair()}};
+// -ln(a B(a, b)) for a <= 1, with all its digits for small a.
+Wide LnLeadingFactor(const Wide& a, const Wide& b) {
+  return LnGammaRatio(b, a) - elementary::Log1pWide(GammaMinusOne(a));
 }
+
+// The tails for a shape a below 1 where b x is at most about 1 and x at most 1/2: the power series
+// of the incomplete beta function.
+Tails SmallTails(Extended shape_a, Extended shape_b, const Wide& x) {
+  const Wide a(shape_a);
+  const Wide b(shape_b);
+  return SmallShapeTails(a, a * LogWide(x) + LnLeadingFactor(a, b),
+                         [&](const Wide& n) { return (n - b) * x / n; });
+}
+
+// With shapes that add up to less, the density is x^a y^b / B(a, b); from here on it is taken
+// relative to its maximum, since the two would cancel.
+constexpr Extended kLargeShapes = 256;
 
 }  // namespace
 
-RegularisedBeta::RegularisedBeta(Extended a, Extended b)
-    : a_(a),
-      b_(b),
-      inverse_beta_(Scaled{a / (a + b) * b, ExtendedPair()} * FactorialOf(ExactSum(a, b)) /
-                    (FactorialOf(a) * FactorialOf(b))) {}
+RegularisedBeta::RegularisedBeta(Extended a, Extended b) : a_(a), b_(b) {
+  if (!(a + b >= kLargeShapes)) {
+    at_reference_ = Scaled(a) * Scaled(b) / MakeScaled(Wide(a) + Wide(b)) *
+                    FactorialOf(ExactSum(a, b)) / (FactorialOf(a) * FactorialOf(b));
+    return;
+  }
+  const Wide wide_a(a);
+  const Wide wide_b(b);
+  const Wide sum = wide_a + wide_b;
+  reference_x_ = Store(wide_a / sum);
+  reference_y_ = Store(wide_b / sum);
+  const Wide square = wide_a * wide_b / (sum * ScaledBy(kWidePi, 1));
+  at_reference_ = MakeScaled(SquareRoot(square)) * TemperedGamma(sum) /
+                  (TemperedGamma(wide_a) * TemperedGamma(wide_b));
+}
 
-RegularisedBeta::Point::Point(const Odds& odds) {
-  const ExtendedPair both = odds.in_favour + odds.against;
-  x = odds.in_favour / both;
-  y = odds.against / both;
-  ln_x = LnOfRatio(x, odds.in_favour, both);
-  ln_y = LnOfRatio(y, odds.against, both);
+struct RegularisedBeta::Point {
+  explicit Point(const Odds& odds) {
+    const Wide in_favour(odds.in_favour);
+    const Wide against(odds.against);
+    const Wide both = in_favour + against;
+    x = in_favour / both;
+    y = against / both;
+  }
+  Wide x;
+  Wide y;
+};
+
+Scaled RegularisedBeta::InverseBeta() const {
+  if (reference_x_.high == 0) return at_reference_;
+  const Wide a(a_);
+  const Wide b(b_);
+  return at_reference_ *
+         MakeScaled(kOne, a * elementary::Log1pWide(b / a) + b * elementary::Log1pWide(a / b));
 }
 
 Scaled RegularisedBeta::LogOddsDensity(const Point& point) const {
-  return inverse_beta_ * Scaled{1, a_ * point.ln_x + b_ * point.ln_y};
+  const auto power = [](Extended shape, const Wide& x, const StoredWide& reference) {
+    return Wide(shape) * LogWide(reference.high == 0 ? x : x / Load(reference));
+  };
+  return at_reference_ *
+         MakeScaled(kOne, power(a_, point.x, reference_x_) + power(b_, point.y, reference_y_));
 }
 
-Scaled RegularisedBeta::Density(const Odds& odds, Extended extra_x, Extended extra_y) const {
-  const Point point(odds);
-  return inverse_beta_ *
-         Scaled{1, ExactSum(a_, extra_x) * point.ln_x + ExactSum(b_, extra_y) * point.ln_y};
+Scaled RegularisedBeta::LogOddsDensity(const Odds& odds) const {
+  return LogOddsDensity(Point(odds));
 }
 
 Tails RegularisedBeta::At(const Odds& odds) const {
@@ -121,33 +151,37 @@ Tails RegularisedBeta::At(const Odds& odds) const {
   return TailsAt(point, LogOddsDensity(point));
 }
 
-Tails RegularisedBeta::TailsAt(const Point& point, Scaled density) const {
-  const Extended lambda = (a_ * point.y - b_ * point.x).hi;
+Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const {
+  const Extended lambda = Nearest(Wide(a_) * point.y - Wide(b_) * point.x);
   // The tail on this side of the mean; below, a and x are of its side.
   const bool lower = lambda >= 0;
   const Tail tail = lower ? Tail::kLower : Tail::kUpper;
   const Extended a = lower ? a_ : b_;
   const Extended b = lower ? b_ : a_;
-  const Extended x = (lower ? point.x : point.y).hi;
-  const Extended y = (lower ? point.y : point.x).hi;
+  const Wide& wide_x = lower ? point.x : point.y;
+  const Wide& wide_y = lower ? point.y : point.x;
+  const auto from_end = [tail](const Tails& tails) {
+    return tail == Tail::kLower ? tails : tails.Mirrored();
+  };
+  const Extended x = Nearest(wide_x);
+  const Extended y = Nearest(wide_y);
   constexpr Extended slow = 1e-3L;
-  if (b < 1 && y < slow && a * y < 1) return BoostTails(tail, a, b, x, y);
-  density.factor /= LowerFraction(a, b, x, std::fabs(lambda));
+  if (b < 1 && y < slow && a * y < 1) return from_end(SmallTails(b, a, wide_y).Mirrored());
+  const Scaled probability = density / Scaled(LowerFraction(a, b, x, std::fabs(lambda)));
   constexpr Extended most = 0.9L;
-  if (a < 1 && density.Value() > most) return BoostTails(tail, a, b, x, y);
-  return {tail, density};
+  if (a < 1 && probability.Value() > most)
+    return from_end(x <= 0.5L ? SmallTails(a, b, wide_x) : SmallTails(b, a, wide_y).Mirrored());
+  return {tail, probability};
 }
 
 Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
   if (p > 0.5L) return QuantileOdds(Opposite(tail), 1 - p);
-  if (tail == Tail::kUpper) {
-    RegularisedBeta mirrored = *this;
-    std::swap(mirrored.a_, mirrored.b_);
-    return Scaled() / mirrored.QuantileOdds(Tail::kLower, p);
-  }
+  if (tail == Tail::kUpper) return Scaled() / RegularisedBeta(b_, a_).QuantileOdds(Tail::kLower, p);
   // Far down the lower tail is x^a / (a B(a, b)).
-  const ExtendedPair ln_power = Ln(ExtendedPair(p)) + Ln(ExtendedPair(a_)) - Ln(inverse_beta_);
-  const Scaled asymptote{1, ln_power / a_};
+  const Wide a(a_);
+  const Wide leading =
+      a_ <= 1 ? LnLeadingFactor(a, Wide(b_)) : Wide(Ln(InverseBeta() / Scaled(a_)));
+  const Scaled asymptote = MakeScaled(kOne, (LogWide(p) - leading) / a);
   constexpr Extended exact_below = 1e-25L;
   if (asymptote.Value() * std::fmax(b_, 1) < exact_below) return asymptote;
   Extended start = std::fmin(asymptote.Value(), std::fmax(a_ / b_, 1));
@@ -157,12 +191,12 @@ Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
     start = (a_ - 0.5L) / (b_ - 0.5L) * Exp(RoughNormalQuantile(p) * deviation);
   }
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
-  const Extended odds = SolveTail(tail, p, start, unlimited, [this](Extended at) {
+  return SolveTail(tail, p, start, unlimited, [this](Extended at) {
     const Point here({at, 1});
     const Scaled density = LogOddsDensity(here);
-    return TailsAndDensity{TailsAt(here, density), density, (a_ * here.y - b_ * here.x).hi};
+    const Wide slope = Wide(a_) * here.y - Wide(b_) * here.x;
+    return TailsAndDensity{TailsAt(here, density), density, Nearest(slope)};
   });
-  return {odds, ExtendedPair()};
 }
 
 }  // namespace qorvex::special

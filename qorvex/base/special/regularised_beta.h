@@ -26,9 +26,9 @@ struct Odds {
 /// The beta distribution with shapes from 1e-18 to 1e15. A shape of NaN gives NaN.
 ///
 /// The continued fraction of DiDonato and Morris (1992), "Algorithm 708", gives the tail on the far
-/// side of the mean, in at most some tens of terms times the square root of the shapes. Boost.Math
-/// gives the tails of small shapes where that fraction is slow, or where the tail is 1 minus the
-/// other.
+/// side of the mean, in at most some tens of terms times the square root of the shapes. For small
+/// shapes, where that fraction is slow, or where the tail is what the other leaves of 1, a series
+/// gives it without cancellation.
 class QORVEX_EXPORT RegularisedBeta {
  public:
   /// The shapes are not checked.
@@ -41,29 +41,26 @@ class QORVEX_EXPORT RegularisedBeta {
   /// @}
   /// Both tails at odds above 0 and below infinity.
   [[nodiscard]] Tails At(const Odds& odds) const;
-  /// x^(a + extra_x) (1 - x)^(b + extra_y) / B(a, b): the density of the logarithm of the odds, and
-  /// with -1 and -1 that of x.
-  [[nodiscard]] Scaled Density(const Odds& odds, Extended extra_x, Extended extra_y) const;
+  /// x^a (1 - x)^b / B(a, b): the density of the logarithm of the odds. Divided by x (1 - x) it is
+  /// that of x.
+  [[nodiscard]] Scaled LogOddsDensity(const Odds& odds) const;
   /// 1 / B(a, b).
-  [[nodiscard]] const Scaled& InverseBeta() const { return inverse_beta_; }
+  [[nodiscard]] Scaled InverseBeta() const;
   /// The odds x / (1 - x) of the point with the given tail, 0 < p < 1.
   [[nodiscard]] Scaled QuantileOdds(Tail tail, Extended p) const;
 
  private:
-  // x and y = 1 - x, and their logarithms.
-  struct Point {
-    explicit Point(const Odds& odds);
-    ExtendedPair x;
-    ExtendedPair y;
-    ExtendedPair ln_x;
-    ExtendedPair ln_y;
-  };
+  // x and y = 1 - x.
+  struct Point;
   [[nodiscard]] Scaled LogOddsDensity(const Point& point) const;
-  [[nodiscard]] Tails TailsAt(const Point& point, Scaled density) const;
+  [[nodiscard]] Tails TailsAt(const Point& point, const Scaled& density) const;
 
   Extended a_;
   Extended b_;
-  Scaled inverse_beta_;
+  // The density is relative to that at this point, if there is one.
+  StoredWide reference_x_;
+  StoredWide reference_y_;
+  Scaled at_reference_;  // the density of the logarithm of the odds there
 };
 
 }  // namespace qorvex::special

@@ -1,16 +1,22 @@
 #include "qorvex/base/special/regularised_gamma.h"
 
-#include <boost/math/special_functions/gamma.hpp>
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
-#include "qorvex/base/special/detail/boost_math.h"
+#include "qorvex/base/special/detail/gamma_wide.h"
+#include "qorvex/base/special/detail/small_shape.h"
 #include "qorvex/base/special/detail/tail_solver.h"
 #include "qorvex/base/special/detail/uniform_gamma.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/base/special/factorial.h"
 
 namespace qorvex::special {
+
+using elementary::LogWide;
+using elementary::Nearest;
 
 namespace {
 
@@ -52,17 +58,44 @@ Extended UpperFraction(Extended a, Extended x) {
   return fraction;
 }
 
-Extended BoostUpper(Extended a, Extended x) {
-  return Evaluate([=] { return boost::math::gamma_q(a, x, kBoostPolicy); });
+// ln Gamma(a + 1), with all its digits for small a.
+Wide LnFactorial(Extended a) {
+  const Wide wide_a(a);
+  return a < 1 ? elementary::Log1pWide(GammaMinusOne(wide_a)) : LnGammaWide(wide_a + kOne);
 }
+
+// The tails for x <= 1 and small shapes: the power series of the incomplete gamma function.
+Tails SmallTails(const Wide& a, const Wide& x) {
+  const Wide leading = a * LogWide(x) - elementary::Log1pWide(GammaMinusOne(a));
+  return SmallShapeTails(a, leading, [&](const Wide& n) { return -(x / n); });
+}
+
+// Below, the density is x^a e^-x / Gamma(a); from here on it is taken relative to its maximum,
+// since the two would cancel.
+constexpr Extended kLargeShape = 256;
 
 }  // namespace
 
-RegularisedGamma::RegularisedGamma(Extended shape)
-    : shape_(shape), factorial_(FactorialOf(shape)) {}
+RegularisedGamma::Point::Point(ExtendedPair value) : x_(Store(Wide(value))) {}
 
-Scaled RegularisedGamma::Density(const Point& point, Extended extra_power) const {
-  return Scaled{shape_, ExactSum(shape_, extra_power) * point.ln_x - point.x} / factorial_;
+RegularisedGamma::Point::Point(ExtendedPair numerator, ExtendedPair denominator)
+    : x_(Store(Wide(numerator) / Wide(denominator))) {}
+
+RegularisedGamma::RegularisedGamma(Extended shape) : shape_(shape) {
+  if (!(shape >= kLargeShape)) {
+    at_reference_ = Scaled(shape) / FactorialOf(shape);
+    return;
+  }
+  reference_ = shape;
+  const Wide a(shape);
+  at_reference_ = MakeScaled(SquareRoot(a / ScaledBy(kWidePi, 1))) / TemperedGamma(a);
+}
+
+Scaled RegularisedGamma::LogDensity(const Point& point) const {
+  const Wide x = Load(point.x_);
+  const Wide a(shape_);
+  if (reference_ == 0) return at_reference_ * MakeScaled(kOne, a * LogWide(x) - x);
+  return at_reference_ * MakeScaled(kOne, a * LogWide(x / a) - (x - a));
 }
 
 bool RegularisedGamma::IsUniform(Extended x) const {
@@ -70,39 +103,37 @@ bool RegularisedGamma::IsUniform(Extended x) const {
 }
 
 Tails RegularisedGamma::At(const Point& point) const {
-  return IsUniform(point.x.hi) ? UniformGammaTails(shape_, point.x)
-                               : TailsFrom(point.x.hi, Density(point, 0));
+  const Wide x = Load(point.x_);
+  return IsUniform(Nearest(x)) ? UniformGammaTails(shape_, PairOf(x))
+                               : TailsFrom(point, LogDensity(point));
 }
 
-Tails RegularisedGamma::TailsFrom(Extended x, Scaled density) const {
+Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) const {
   const Extended a = shape_;
+  const Extended x = Nearest(Load(point.x_));
   if (x <= 1 || x < a) {
-    density.factor *= LowerSeries(a, x) / a;
+    const Scaled lower = density * Scaled(LowerSeries(a, x) / a);
     constexpr Extended most = 0.9L;
-    if (a < 1 && density.Value() > most) {
-      // So far down the lower tail is its first term.
-      constexpr Extended far_down = 1e-25L;
-      const Extended upper = x < far_down ? -Expm1(density.Log()) : BoostUpper(a, x);
-      return {Tail::kUpper, {upper, ExtendedPair()}};
-    }
-    return {Tail::kLower, density};
+    if (a < 1 && lower.Value() > most) return SmallTails(Wide(a), Load(point.x_));
+    return {Tail::kLower, lower};
   }
-  density.factor *= UpperFraction(a, x);
-  return {Tail::kUpper, density};
+  return {Tail::kUpper, density * Scaled(UpperFraction(a, x))};
 }
 
 Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
   // Far down the lower tail is x^a / Gamma(a + 1).
-  const ExtendedPair lower = tail == Tail::kLower ? ExtendedPair(p) : ExactSum(1, -p);
-  const Extended asymptote = Scaled{1, (Ln(lower) + Ln(factorial_)) / shape_}.Value();
+  const Wide lower = tail == Tail::kLower ? Wide(p) : kOne - Wide(p);
+  const Wide ln_power = LogWide(lower) + LnFactorial(shape_);
+  const Extended asymptote = MakeScaled(kOne, ln_power / Wide(shape_)).Value();
   constexpr Extended exact_below = 1e-25L;
   if (asymptote < exact_below) return asymptote;
   const Extended start = Start(tail, p, asymptote);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
-    const Scaled density = Density(Point(x), 0);
-    return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(x, density),
+    const Point point{ExtendedPair(x)};
+    const Scaled density = LogDensity(point);
+    return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(point, density),
                            density, shape_ - x};
   });
 }
@@ -118,7 +149,7 @@ Extended RegularisedGamma::Start(Tail tail, Extended p, Extended asymptote) cons
     if (root > least) return a * root * root * root;
   } else if (tail == Tail::kUpper) {
     // Far up the tail is about x^(a - 1) e^-x / Gamma(a).
-    const Extended far_up = -Log(p / a * factorial_.factor);
+    const Extended far_up = -Log(p / a * FactorialOf(a).Value());
     if (far_up > 1) return far_up;
   }
   return asymptote;

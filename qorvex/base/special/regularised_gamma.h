@@ -12,30 +12,30 @@ namespace qorvex::special {
 ///
 /// Below the shape the power series gives the lower tail, above it the continued fraction gives the
 /// upper one, each in some hundred terms at most, because around large shapes Temme's expansion
-/// takes over. For small shapes Boost.Math gives the upper tail where it is 1 minus the lower
-/// one.
+/// takes over. For small shapes, where the upper tail is what the lower one leaves of 1, a series
+/// gives it without cancellation.
 class QORVEX_EXPORT RegularisedGamma {
  public:
   /// The shape is not checked.
   explicit RegularisedGamma(Extended shape);
 
-  /// A point 0 < x < infinity and its logarithm, which keeps its digits where x underflows.
-  struct Point {
+  /// A point 0 < x < infinity, which may be beyond the format.
+  class QORVEX_EXPORT Point {
+   public:
     /// The point itself.
-    explicit Point(ExtendedPair value) : x(value), ln_x(Ln(value)) {}
+    explicit Point(ExtendedPair value);
     /// numerator / denominator.
-    Point(ExtendedPair numerator, ExtendedPair denominator)
-        : x(numerator / denominator), ln_x(LnOfRatio(x, numerator, denominator)) {}
-    /// The point.
-    ExtendedPair x;
-    /// Its natural logarithm.
-    ExtendedPair ln_x;
+    Point(ExtendedPair numerator, ExtendedPair denominator);
+
+   private:
+    friend class RegularisedGamma;
+    StoredWide x_;
   };
 
   /// Both tails at a point.
   [[nodiscard]] Tails At(const Point& point) const;
-  /// x^(a + extra_power) e^-x / Gamma(a): the density of ln X, and with -1 that of X.
-  [[nodiscard]] Scaled Density(const Point& point, Extended extra_power) const;
+  /// x^a e^-x / Gamma(a): the density of ln X. Divided by x it is that of X.
+  [[nodiscard]] Scaled LogDensity(const Point& point) const;
   /// The point with the given tail, 0 < p < 1. 0 where it is too small for the format.
   [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
 
@@ -43,11 +43,12 @@ class QORVEX_EXPORT RegularisedGamma {
   // The expansion holds at x.
   [[nodiscard]] bool IsUniform(Extended x) const;
   // The tails from the density, where the expansion does not hold.
-  [[nodiscard]] Tails TailsFrom(Extended x, Scaled density) const;
+  [[nodiscard]] Tails TailsFrom(const Point& point, const Scaled& density) const;
   [[nodiscard]] Extended Start(Tail tail, Extended p, Extended asymptote) const;
 
   Extended shape_;
-  Scaled factorial_;  // of the shape
+  Extended reference_ = 0;  // the density is relative to that at this point
+  Scaled at_reference_;     // the density of ln X there
 };
 
 }  // namespace qorvex::special

@@ -3,9 +3,6 @@
 /// @file
 /// The two tails of a distribution at a point.
 
-#include <cmath>
-
-#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/scaled.h"
 
 namespace qorvex::special {
@@ -31,14 +28,16 @@ class Tails {
 
   /// The probability of a tail as a number that may be too small for the format.
   [[nodiscard]] Scaled ScaledProbability(Tail tail) const {
-    return tail == known_tail_ ? known_ : Scaled{1 - known_.Value(), ExtendedPair()};
+    return tail == known_tail_ ? known_ : Scaled() - known_;
   }
   /// The probability of a tail; 0 where it is too small for the format.
-  [[nodiscard]] Extended Probability(Tail tail) const { return ScaledProbability(tail).Value(); }
+  [[nodiscard]] Extended Probability(Tail tail) const {
+    return tail == known_tail_ ? known_.Value() : known_.Rest();
+  }
   /// The natural logarithm of the probability of a tail, also where the probability underflows.
   [[nodiscard]] Extended LogProbability(Tail tail) const {
     // Adding 0 turns -0 into 0.
-    return tail == known_tail_ ? known_.Log() : Log1p(-known_.Value()) + 0;
+    return (tail == known_tail_ ? known_.Log() : known_.LogOfRest()) + 0;
   }
   /// The tails of the mirrored distribution.
   [[nodiscard]] Tails Mirrored() const { return {Opposite(known_tail_), known_}; }

@@ -33,9 +33,7 @@ Extended FDistribution::Pdf(Extended x) const {
   if (AnyNaN(df1_, df2_, x)) return kNotANumber;
   if (x == 0) return DensityAtEnd(df1_ / 2, 1);
   if (x < 0 || std::isinf(x)) return 0;
-  // The density of y = x / (x + r) times dy/dx = (1 - y)^2 / r for r = df2 / df1.
-  const Scaled density = beta_.Density(OddsOf(x), -1, 1);
-  return (density / Scaled{df2_ / df1_, ExtendedPair()}).Value();
+  return (beta_.LogOddsDensity(OddsOf(x)) / Scaled(x)).Value();
 }
 
 Tails FDistribution::At(Extended x) const {
@@ -50,8 +48,7 @@ Extended FDistribution::Quantile(Tail tail, Extended p) const {
   if (AnyNaN(df1_, df2_, p)) return kNotANumber;
   if (df1_ == df2_ && p == 0.5L) return 1;
   const Scaled odds = beta_.QuantileOdds(tail, p);
-  return CheckedFinite(
-      (odds * Scaled{df2_, ExtendedPair()} / Scaled{df1_, ExtendedPair()}).Value());
+  return CheckedFinite((odds * Scaled(df2_) / Scaled(df1_)).Value());
 }
 
 Extended FDistribution::Mean() const {

@@ -111,10 +111,7 @@ template <Distribution D>
     if (!(larger.Probability(tail) <= half)) continue;
     const special::Scaled minuend = larger.ScaledProbability(tail);
     const special::Scaled subtrahend = smaller.ScaledProbability(tail);
-    // Too small for the format of logarithms, and for that of pairs.
-    if (std::isinf(subtrahend.exponent.hi)) return minuend.Log();
-    const special::Scaled taken{subtrahend.factor, subtrahend.exponent - minuend.exponent};
-    return special::Scaled{minuend.factor - taken.Value(), minuend.exponent}.Log();
+    return (minuend - subtrahend).Log();
   }
   return Log1p(-first.Probability(Tail::kLower) - second.Probability(Tail::kUpper));
 }

@@ -30,21 +30,14 @@ Extended GammaDistribution::Pdf(Extended x) const {
   if (x == 0) return DensityAtEnd(shape_, 1 / scale_);
   if (x < 0 || std::isinf(x)) return 0;
   const RegularisedGamma::Point point(x, scale_);
-  if (!(point.x.hi <= kLargest)) return 0;
-  // As a factor a scale near the ends of the format could overflow.
-  const bool moderate = scale_ > 1e-2000L && scale_ < 1e2000L;
-  const Scaled divisor =
-      moderate ? Scaled{scale_, ExtendedPair()} : Scaled{1, Ln(ExtendedPair(scale_))};
-  return (gamma_.Density(point, -1) / divisor).Value();
+  return (gamma_.LogDensity(point) / Scaled(x)).Value();
 }
 
 Tails GammaDistribution::At(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
   if (std::isinf(x)) return AboveAll();
-  const RegularisedGamma::Point point(x, scale_);
-  if (!(point.x.hi <= kLargest)) return AboveAll();
-  return gamma_.At(point);
+  return gamma_.At(RegularisedGamma::Point(x, scale_));
 }
 
 Extended GammaDistribution::Quantile(Tail tail, Extended p) const {

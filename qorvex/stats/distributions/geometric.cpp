@@ -3,7 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/counts.h"
 
@@ -31,7 +32,8 @@ Tails GeometricDistribution::At(std::uint32_t k) const {
   const ExtendedPair ln_upper = ln_q_ * (static_cast<Extended>(k) + 1);
   constexpr Extended lower_tail_above = -0.7L;
   if (ln_upper.hi < lower_tail_above) return {Tail::kUpper, Scaled{1, ln_upper}};
-  return {Tail::kLower, Scaled{-Expm1(ln_upper.hi), ExtendedPair()}};
+  const elementary::Wide lower = -elementary::Expm1Wide(elementary::Wide(ln_upper));
+  return {Tail::kLower, special::MakeScaled(lower)};
 }
 
 std::uint32_t GeometricDistribution::Quantile(Tail tail, Extended p) const {

@@ -11,7 +11,6 @@
 namespace qorvex {
 
 using namespace distributions;
-using special::BinomialCoefficient;
 using special::ExtendedPair;
 using special::Scaled;
 
@@ -20,9 +19,13 @@ namespace {
 // Terms of a sum below this share of it are left out.
 constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 8;
 
-Scaled CheckedSamples(std::uint32_t pop_size, std::uint32_t sample_size, std::uint32_t successes) {
-  if (sample_size > pop_size || successes > pop_size) RaiseMathError(rsHyperGeometricInvalid);
-  return BinomialCoefficient(pop_size, sample_size);
+// C(n, k) p^k q^(n - k) for p = share / whole, which cancels from the quotients below.
+Scaled BinomialAt(std::int64_t n, std::int64_t k, std::int64_t share, std::int64_t whole) {
+  const auto part_of_whole = [whole](std::int64_t part) {
+    return ExtendedPair(static_cast<Extended>(part)) / static_cast<Extended>(whole);
+  };
+  return special::BinomialProbability(static_cast<std::uint32_t>(n), static_cast<std::uint32_t>(k),
+                                      part_of_whole(share), part_of_whole(whole - share));
 }
 
 }  // namespace
@@ -30,10 +33,9 @@ Scaled CheckedSamples(std::uint32_t pop_size, std::uint32_t sample_size, std::ui
 HypergeometricDistribution::HypergeometricDistribution(std::uint32_t pop_size,
                                                        std::uint32_t sample_size,
                                                        std::uint32_t successes)
-    : population_(pop_size),
-      sample_(sample_size),
-      successes_(successes),
-      samples_(CheckedSamples(pop_size, sample_size, successes)) {}
+    : population_(pop_size), sample_(sample_size), successes_(successes) {
+  if (sample_size > pop_size || successes > pop_size) RaiseMathError(rsHyperGeometricInvalid);
+}
 
 std::int64_t HypergeometricDistribution::Least() const {
   return std::max<std::int64_t>(0, sample_ + successes_ - population_);
@@ -50,9 +52,12 @@ Extended HypergeometricDistribution::Ratio(std::int64_t k) const {
 }
 
 Scaled HypergeometricDistribution::Probability(std::int64_t k) const {
-  if (k < Least() || k > Most()) return Scaled{0, ExtendedPair()};
-  return BinomialCoefficient(successes_, k) *
-         BinomialCoefficient(population_ - successes_, sample_ - k) / samples_;
+  if (k < Least() || k > Most()) return 0;
+  if (Least() == Most()) return 1;
+  // Binomial probabilities of successes and failures in the sample, on condition of its size.
+  return BinomialAt(successes_, k, sample_, population_) *
+         BinomialAt(population_ - successes_, sample_ - k, sample_, population_) /
+         BinomialAt(population_, sample_, sample_, population_);
 }
 
 // Each probability from the one before.
@@ -63,7 +68,7 @@ Scaled HypergeometricDistribution::SumDownwards(std::int64_t k) const {
     term /= Ratio(i - 1);
     sum += term;
   }
-  return Scaled{sum, ExtendedPair()} * Probability(k);
+  return Scaled(sum) * Probability(k);
 }
 
 Scaled HypergeometricDistribution::SumUpwards(std::int64_t k) const {
@@ -73,7 +78,7 @@ Scaled HypergeometricDistribution::SumUpwards(std::int64_t k) const {
     term *= Ratio(i);
     sum += term;
   }
-  return Scaled{sum, ExtendedPair()} * Probability(k);
+  return Scaled(sum) * Probability(k);
 }
 
 Extended HypergeometricDistribution::Pmf(std::uint32_t k) const {

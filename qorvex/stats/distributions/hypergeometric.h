@@ -64,7 +64,6 @@ class QORVEX_EXPORT HypergeometricDistribution {
   std::int64_t population_;
   std::int64_t sample_;
   std::int64_t successes_;
-  special::Scaled samples_;  // the number of possible samples
 };
 
 }  // namespace qorvex

@@ -20,11 +20,11 @@ NegativeBinomialDistribution::NegativeBinomialDistribution(Extended p, Extended 
 
 Extended NegativeBinomialDistribution::Pmf(std::uint32_t k) const {
   if (AnyNaN(p_, failures_)) return kNotANumber;
-  // q^r p^k / B(r, k + 1) divided by k + r.
+  // q^r p^k / B(r, k) divided by k; without k, q^r.
+  if (k == 0) return special::Power(q_, failures_).Value();
   const auto count = static_cast<Extended>(k);
-  special::Scaled density = special::RegularisedBeta(failures_, count + 1).Density({q_, p_}, 0, -1);
-  density.factor /= failures_ + count;
-  return density.Value();
+  const special::RegularisedBeta beta(failures_, count);
+  return (beta.LogOddsDensity({q_, p_}) / special::Scaled(count)).Value();
 }
 
 Tails NegativeBinomialDistribution::At(std::uint32_t k) const {

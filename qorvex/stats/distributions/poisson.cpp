@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "qorvex/base/special/factorial.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/counts.h"
 
@@ -16,10 +16,10 @@ using special::Scaled;
 
 namespace {
 
-// NaN has no logarithm, and nothing is computed at its point.
+// Nothing is computed at the point of NaN.
 RegularisedGamma::Point PointOf(Extended lambda) {
   RequirePositive(lambda, rsPoissonInvalid);
-  return RegularisedGamma::Point(std::isnan(lambda) ? 1 : lambda);
+  return RegularisedGamma::Point(ExtendedPair(std::isnan(lambda) ? 1 : lambda));
 }
 
 }  // namespace
@@ -29,8 +29,10 @@ PoissonDistribution::PoissonDistribution(Extended lambda)
 
 Extended PoissonDistribution::Pmf(std::uint32_t k) const {
   if (AnyNaN(lambda_)) return kNotANumber;
-  const Scaled power = k == 0 ? Scaled() : Scaled{1, ExtendedPair(k) * point_.ln_x};
-  return (Scaled{1, -point_.x} * power / special::FactorialOf(k)).Value();
+  if (k == 0) return Exp(-lambda_);
+  // lambda^k e^-lambda / Gamma(k) divided by k.
+  const auto count = static_cast<Extended>(k);
+  return (RegularisedGamma(count).LogDensity(point_) / Scaled(count)).Value();
 }
 
 Tails PoissonDistribution::At(std::uint32_t k) const {

@@ -39,7 +39,7 @@ class QORVEX_EXPORT PoissonDistribution {
 
  private:
   Extended lambda_;
-  special::RegularisedGamma::Point point_;  // the same, with its logarithm
+  special::RegularisedGamma::Point point_;  // the same
 };
 
 }  // namespace qorvex

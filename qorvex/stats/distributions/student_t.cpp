@@ -18,7 +18,7 @@ Extended CheckedDf(Extended df) {
   return df;
 }
 
-// This close to 0 the distribution function is 1/2, and the density that at 0.
+// This close to 0 the distribution function is 1/2, and the density that at this point.
 constexpr Extended kCentre = 1e-30L;
 
 }  // namespace
@@ -32,21 +32,18 @@ special::Odds StudentTDistribution::OddsOf(Extended x) const {
 Extended StudentTDistribution::Pdf(Extended x) const {
   if (AnyNaN(df_, x)) return kNotANumber;
   if (std::isinf(x)) return 0;
-  // y^((df + 1) / 2) / (sqrt(df) B(df / 2, 1 / 2)) for y = df / (df + x^2)
-  const Scaled density = std::fabs(x) < kCentre ? beta_.InverseBeta()
-                                                : beta_.Density(OddsOf(std::fabs(x)), 0.5L, -0.5L);
-  return (density / Scaled{std::sqrt(df_), ExtendedPair()}).Value();
+  // ln x and -x change by half the logarithm of the odds, and either sign has half of the density.
+  const Extended size = std::fmax(std::fabs(x), kCentre);
+  return (beta_.LogOddsDensity(OddsOf(size)) / Scaled(size)).Value();
 }
 
 Tails StudentTDistribution::At(Extended x) const {
   if (AnyNaN(df_, x)) return UnknownTails();
   if (x < 0) return At(-x).Mirrored();
   if (std::isinf(x)) return AboveAll();
-  if (x < kCentre) return {Tail::kUpper, Scaled{0.5L, ExtendedPair()}};
+  if (x < kCentre) return {Tail::kUpper, 0.5L};
   // Half of what lies beyond -x and x.
-  Scaled beyond = beta_.At(OddsOf(x)).ScaledProbability(Tail::kLower);
-  beyond.factor /= 2;
-  return {Tail::kUpper, beyond};
+  return {Tail::kUpper, beta_.At(OddsOf(x)).ScaledProbability(Tail::kLower) * 0.5L};
 }
 
 Extended StudentTDistribution::Quantile(Tail tail, Extended p) const {
@@ -55,7 +52,7 @@ Extended StudentTDistribution::Quantile(Tail tail, Extended p) const {
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
   if (p == 0.5L) return 0;
   const Scaled odds = beta_.QuantileOdds(Tail::kLower, 2 * p);
-  const Extended x = CheckedFinite(SquareRoot(Scaled{df_, ExtendedPair()} / odds).Value());
+  const Extended x = CheckedFinite(SquareRoot(Scaled(df_) / odds).Value());
   // An x of 0 has no sign.
   return tail == Tail::kUpper ? x : 0 - x;
 }

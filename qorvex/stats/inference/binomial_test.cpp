@@ -50,11 +50,11 @@ Scaled TwoSided(const BinomialDistribution& binomial, std::uint32_t observed) {
   }
   const Tails beyond = TailsBelow(binomial, first);
   if (is_low) {
-    return Sum(binomial.At(observed).ScaledProbability(Tail::kLower),
-               beyond.ScaledProbability(Tail::kUpper));
+    return binomial.At(observed).ScaledProbability(Tail::kLower) +
+           beyond.ScaledProbability(Tail::kUpper);
   }
-  return Sum(TailsBelow(binomial, observed).ScaledProbability(Tail::kUpper),
-             beyond.ScaledProbability(Tail::kLower));
+  return TailsBelow(binomial, observed).ScaledProbability(Tail::kUpper) +
+         beyond.ScaledProbability(Tail::kLower);
 }
 
 }  // namespace

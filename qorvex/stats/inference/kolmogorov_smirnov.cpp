@@ -24,14 +24,11 @@ Scaled AllInOneTail(const std::vector<Tails>& tails, Alternative alternative) {
   const bool is_above = alternative == Alternative::kGreater ||
                         (alternative == Alternative::kTwoSided && above.Value() < below.Value());
   const Scaled& tail = is_above ? above : below;
-  if (tail.factor == 0) return tail;
+  if (tail.IsZero()) return tail;
   // tail^n as tail * tail^(n-1), which keeps the tail of a single value as it is.
-  Scaled p = tail;
-  if (alternative == Alternative::kTwoSided) p.factor *= 2;
-  if (tails.size() > 1) {
-    p.exponent = p.exponent + special::Ln(tail) * static_cast<Extended>(tails.size() - 1);
-  }
-  return p;
+  const Scaled p = alternative == Alternative::kTwoSided ? tail * 2 : tail;
+  if (tails.size() == 1) return p;
+  return p * Scaled(1, special::Ln(tail) * static_cast<Extended>(tails.size() - 1));
 }
 
 }  // namespace
@@ -105,8 +102,7 @@ TestResult KolmogorovSmirnovTest(VectorView<Extended> first, VectorView<Extended
   const Extended pairs = static_cast<Extended>(n1) * static_cast<Extended>(n2);
   result.statistic = static_cast<Extended>(bound) / pairs;
   if (bound == 0) return WithP(result, {});
-  if (is_exact)
-    return WithP(result, {SmirnovTail(n1, n2, bound, run_ends, alternative), ExtendedPair()});
+  if (is_exact) return WithP(result, SmirnovTail(n1, n2, bound, run_ends, alternative));
   return WithTail(
       result,
       KolmogorovLimit(pairs / static_cast<Extended>(n1 + n2), result.statistic, alternative),

@@ -1,16 +1,18 @@
 #pragma once
 
 /// @file
-/// Binomial coefficients and probabilities of few trials as products of pairs.
+/// Binomial coefficients and probabilities of few trials as products. What has 64 bits, such as
+/// 3/8, is exact.
 
 #include <cstdint>
 
-#include "qorvex/base/special/detail/binary.h"
+#include "qorvex/base/elementary/detail/wide.h"
 
 namespace qorvex::special {
 
-/// The numbers of trials below this have exact coefficients. The factorial of the largest is 1e504,
-/// so products of factorials stay in range.
+using elementary::Wide;
+
+/// The numbers of trials below this have exact coefficients.
 inline constexpr int kExactTrials = 256;
 
 /// Whether ExactCoefficient(n, k) exists.
@@ -18,11 +20,13 @@ inline constexpr int kExactTrials = 256;
   return n < kExactTrials || k == 0 || k == n;
 }
 
-/// C(n, k), to some 120 bits.
-[[nodiscard]] ExtendedPair ExactCoefficient(std::uint64_t n, std::uint64_t k);
+/// C(n, k), to some 117 bits.
+[[nodiscard]] Wide ExactCoefficient(std::uint64_t n, std::uint64_t k);
 
 /// C(n, k) p^k q^(n - k), to some 115 bits.
-[[nodiscard]] Binary ExactProbability(std::uint64_t n, std::uint64_t k, ExtendedPair p,
-                                      ExtendedPair q);
+[[nodiscard]] Wide ExactProbability(std::uint64_t n, std::uint64_t k, const Wide& p, const Wide& q);
+
+/// x^n by squaring, off by about n 2^-124 of itself.
+[[nodiscard]] Wide WholePower(const Wide& x, std::uint64_t n);
 
 }  // namespace qorvex::special

@@ -81,7 +81,7 @@ Tails UniformGammaTails(Extended shape, ExtendedPair x) {
   const Scaled normal = NormalUpperTail(z);
   const Scaled density = NormalDensity(z, std::sqrt(shape));
   const Extended correction = side * sum * (density / normal).Value();
-  return {tail, {normal.factor * (1 + correction), normal.exponent}};
+  return {tail, normal * Scaled(1 + correction)};
 }
 
 }  // namespace qorvex::special

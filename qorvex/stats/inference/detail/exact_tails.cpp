@@ -19,8 +19,8 @@ bool IsModerate(ExtendedPair x) {
   return std::fabs(x.hi) > 1e-20L && std::fabs(x.hi) < 1e4000L;
 }
 
-// Whether two-sided p is sure to exceed 1/2. Its logarithm then comes from what it leaves of 1, the lower
-// tail of the squared statistic.
+// Whether two-sided p is sure to exceed 1/2. Its logarithm then comes from what it leaves of 1, the
+// lower tail of the squared statistic.
 bool IsCentral(ExtendedPair x, Alternative alternative) {
   return alternative == Alternative::kTwoSided && std::fabs(x.hi) < 0.6L;
 }
@@ -31,11 +31,9 @@ Tails StudentTails(ExtendedPair t, Extended df) {
   if (!IsModerate(t)) return StudentTDistribution(df).At(t.hi);
   if (t.hi < 0) return StudentTails(-t, df).Mirrored();
   // Half of what lies beyond -t and t.
-  special::Scaled beyond = special::RegularisedBeta(df / 2, 0.5L)
-                               .At({ExtendedPair(df) / t, t})
-                               .ScaledProbability(Tail::kLower);
-  beyond.factor /= 2;
-  return {Tail::kUpper, beyond};
+  const special::RegularisedBeta beta(df / 2, 0.5L);
+  const Tails tails = beta.At({ExtendedPair(df) / t, t});
+  return {Tail::kUpper, tails.ScaledProbability(Tail::kLower) * 0.5L};
 }
 
 Tails ChiSquareTails(ExtendedPair x, Extended df) {

@@ -119,14 +119,12 @@ class DurbinMatrix {
 // P(D+ >= d): the sum of C(n, j) (d + j/n)^(j - 1) (1 - d - j/n)^(n - j) d, for rest = n (1 - d).
 Scaled BirnbaumTingeyTail(std::size_t n, ExtendedPair rest, Extended d) {
   const auto size = static_cast<std::uint32_t>(n);
-  Scaled sum{0, ExtendedPair()};
+  Scaled sum = 0;
   for (std::uint32_t j = 0; j < size; ++j) {
     const ExtendedPair q = (rest - ExtendedPair(j)) / ExtendedPair(size);
     if (q.hi <= 0) break;
     const ExtendedPair p = ExtendedPair(1) - q;
-    Scaled term = special::BinomialProbability(size, j, p, q);
-    term.factor *= d / p.hi;
-    sum = Sum(sum, term);
+    sum = sum + special::BinomialProbability(size, j, p, q) * Scaled(d / p.hi);
   }
   return sum;
 }
@@ -141,12 +139,11 @@ Tails KolmogorovTails(std::size_t n, ExtendedPair rest, Alternative alternative)
   const bool is_far = d > 0.5L || size * d * d > 8;
   if (is_two_sided && !is_far) {
     const ExtendedPair lower = DurbinMatrix(n, d).Probability(n);
-    if (lower.hi < 0.5L) return {Tail::kLower, {lower.hi, {}}};
-    return {Tail::kUpper, {std::max(0.0L, (ExtendedPair(1) - lower).hi), {}}};
+    if (lower.hi < 0.5L) return {Tail::kLower, lower.hi};
+    return {Tail::kUpper, std::max(0.0L, (ExtendedPair(1) - lower).hi)};
   }
-  Scaled upper = BirnbaumTingeyTail(n, rest, d);
-  if (is_two_sided) upper.factor *= 2;
-  return {Tail::kUpper, upper};
+  const Scaled upper = BirnbaumTingeyTail(n, rest, d);
+  return {Tail::kUpper, is_two_sided ? upper * 2 : upper};
 }
 
 Tails KolmogorovLimit(Extended n, Extended d, Alternative alternative) {
@@ -158,11 +155,11 @@ Tails KolmogorovLimit(Extended n, Extended d, Alternative alternative) {
   Extended sum = 0;
   if (t > 1) {
     for (int k = 5; k > 0; --k) sum = Exp(-2 * t * static_cast<Extended>(k * k - 1)) - sum;
-    return {Tail::kUpper, {2 * sum, leading.exponent}};
+    return {Tail::kUpper, leading * Scaled(2 * sum)};
   }
   constexpr Extended pi = std::numbers::pi_v<Extended>;
   for (int k = 1; k <= 7; k += 2) sum += Exp(-static_cast<Extended>(k * k) * pi * pi / (8 * t));
-  return {Tail::kLower, {std::sqrt(2 * pi / t) * sum, {}}};
+  return {Tail::kLower, std::sqrt(2 * pi / t) * sum};
 }
 
 Extended SmirnovTail(std::size_t n1, std::size_t n2, std::int64_t bound,

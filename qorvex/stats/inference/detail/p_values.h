@@ -17,15 +17,6 @@ using special::Scaled;
 using special::Tail;
 using special::Tails;
 
-/// a + b of probabilities that may be too small for the format.
-[[nodiscard]] inline Scaled Sum(const Scaled& a, const Scaled& b) {
-  if (a.factor == 0) return b;
-  if (b.factor == 0) return a;
-  if (a.exponent.hi < b.exponent.hi) return Sum(b, a);
-  const Scaled relative{b.factor, b.exponent - a.exponent};
-  return {a.factor + relative.Value(), a.exponent};
-}
-
 /// The result with this tail as p, at most 1.
 [[nodiscard]] inline TestResult WithTail(TestResult result, const Tails& tails, Tail tail) {
   result.p = tails.Probability(tail);
@@ -47,9 +38,7 @@ using special::Tails;
                                           Alternative alternative) {
   if (alternative == Alternative::kTwoSided) {
     const bool is_low = tails.Probability(Tail::kLower) < tails.Probability(Tail::kUpper);
-    Scaled p = tails.ScaledProbability(is_low ? Tail::kLower : Tail::kUpper);
-    p.factor *= 2;
-    return WithP(result, p);
+    return WithP(result, tails.ScaledProbability(is_low ? Tail::kLower : Tail::kUpper) * 2);
   }
   return WithTail(result, tails, alternative == Alternative::kLess ? Tail::kLower : Tail::kUpper);
 }

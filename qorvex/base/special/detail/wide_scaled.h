@@ -1,0 +1,43 @@
+#pragma once
+
+// What Scaled consists of.
+
+#include "qorvex/base/elementary/detail/wide.h"
+#include "qorvex/base/special/scaled.h"
+
+namespace qorvex::special {
+
+using elementary::Wide;
+
+[[nodiscard]] inline Wide Load(const StoredWide& x) {
+  return {elementary::Join(x.high, x.low), x.exponent, x.negative};
+}
+[[nodiscard]] inline StoredWide Store(const Wide& x) {
+  return {elementary::High(x.mantissa), elementary::Low(x.mantissa), x.exponent, x.negative};
+}
+
+/// The parts of a Scaled, as numbers to compute with.
+struct ScaledParts {
+  ScaledParts(const Wide& the_factor, const Wide& the_exponent = {}, Extended is_unbounded = 0)
+      : factor(the_factor), exponent(the_exponent), unbounded(is_unbounded) {}
+  explicit ScaledParts(const Scaled& x)
+      : factor(Load(x.factor_)), exponent(Load(x.exponent_)), unbounded(x.unbounded_) {}
+  [[nodiscard]] Scaled Joined() const {
+    Scaled x;
+    x.factor_ = Store(factor);
+    x.exponent_ = Store(exponent);
+    x.unbounded_ = unbounded;
+    return x;
+  }
+
+  Wide factor;
+  Wide exponent;
+  Extended unbounded;
+};
+
+/// factor * e^exponent.
+[[nodiscard]] inline Scaled MakeScaled(const Wide& factor, const Wide& exponent = {}) {
+  return ScaledParts(factor, exponent).Joined();
+}
+
+}  // namespace qorvex::special
