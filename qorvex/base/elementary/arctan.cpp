@@ -38,10 +38,9 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
   if (bits.Exponent() < kExponentBias + kLeastExponent || !IsNormal(bits)) [[unlikely]]
     return WithoutKernel(bits);
   const Wide x{Join(bits.significand, 0), bits.Exponent() - kExponentBias};
-  Wide first =
-      x.exponent < 0
-          ? SmallArcTan(x)
-          : ComplementOfArcTan(ShiftedRight(QuickReciprocal(bits.significand) << 1, x.exponent));
+  Wide first = x.exponent < 0 ? SmallArcTan(x)
+                              : ComplementOfArcTan(ScaledDown(
+                                    ShiftedLeft<1>(QuickReciprocal(bits.significand)), x.exponent));
   first.negative = bits.IsNegative();
   return CorrectlyRounded(first, kHalfWidth, [&] { return SecondStage(x, bits.IsNegative()); });
 }
@@ -52,7 +51,7 @@ Wide ArcTanWide(const Wide& y, const Wide& x) {
   if (x.IsZero()) return {kHalfPi, 0};
   if (IsSmaller(y, x)) return SmallArcTan(QuickQuotient(y, x));
   const Wide t = QuickQuotient(x, y);
-  return ComplementOfArcTan(ShiftedRight(t.mantissa, -1 - t.exponent));
+  return ComplementOfArcTan(ScaledDown(t.mantissa, -1 - t.exponent));
 }
 
 }  // namespace qorvex::elementary

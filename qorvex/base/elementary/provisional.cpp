@@ -26,11 +26,6 @@ void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); })
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
 void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
-// ArcCos, ArcSin
-Extended ArcCos(Extended x) noexcept { return std::acos(x); }
-void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }
-Extended ArcSin(Extended x) noexcept { return std::asin(x); }
-void ArcSin(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcSin(t); }); }
 
 }  // namespace qorvex::inline QorvexGlobals
 
