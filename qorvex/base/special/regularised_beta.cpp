@@ -5,12 +5,12 @@
 
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/factorial_wide.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/detail/small_shape.h"
 #include "qorvex/base/special/detail/tail_solver.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/base/special/factorial.h"
 
 namespace qorvex::special {
 
@@ -94,25 +94,37 @@ Tails SmallTails(Extended shape_a, Extended shape_b, const Wide& x) {
 
 // With shapes that add up to less, the density is x^a y^b / B(a, b); from here on it is taken
 // relative to its maximum, since the two would cancel.
-constexpr Extended kLargeShapes = 256;
+constexpr Extended kLargeShapes = 250;
+
+bool IsLarge(Extended a, Extended b) {
+  return a + b >= kLargeShapes;
+}
+
+// a / (a + b).
+StoredWide Share(Extended a, Extended b) {
+  return IsLarge(a, b) ? Store(Wide(a) / (Wide(a) + Wide(b))) : StoredWide();
+}
+
+Scaled AtReference(Extended shape_a, Extended shape_b) {
+  if (std::isnan(shape_a + shape_b)) return shape_a + shape_b;
+  const Wide a(shape_a);
+  const Wide b(shape_b);
+  const Wide sum = a + b;
+  if (!IsLarge(shape_a, shape_b))
+    return MakeScaled(a * b * FactorialWide(sum) / (sum * FactorialWide(a) * FactorialWide(b)));
+  const Wide square = a * b / (sum * ScaledBy(kWidePi, 1));
+  return MakeScaled(SquareRoot(square)) * TemperedGamma(sum) /
+         (TemperedGamma(a) * TemperedGamma(b));
+}
 
 }  // namespace
 
-RegularisedBeta::RegularisedBeta(Extended a, Extended b) : a_(a), b_(b) {
-  if (!(a + b >= kLargeShapes)) {
-    at_reference_ = Scaled(a) * Scaled(b) / MakeScaled(Wide(a) + Wide(b)) *
-                    FactorialOf(ExactSum(a, b)) / (FactorialOf(a) * FactorialOf(b));
-    return;
-  }
-  const Wide wide_a(a);
-  const Wide wide_b(b);
-  const Wide sum = wide_a + wide_b;
-  reference_x_ = Store(wide_a / sum);
-  reference_y_ = Store(wide_b / sum);
-  const Wide square = wide_a * wide_b / (sum * ScaledBy(kWidePi, 1));
-  at_reference_ = MakeScaled(SquareRoot(square)) * TemperedGamma(sum) /
-                  (TemperedGamma(wide_a) * TemperedGamma(wide_b));
-}
+RegularisedBeta::RegularisedBeta(Extended a, Extended b)
+    : a_(a),
+      b_(b),
+      reference_x_(Share(a, b)),
+      reference_y_(Share(b, a)),
+      at_reference_(AtReference(a, b)) {}
 
 struct RegularisedBeta::Point {
   explicit Point(const Odds& odds) {

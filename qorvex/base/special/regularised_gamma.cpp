@@ -5,6 +5,7 @@
 
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/factorial_wide.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/detail/small_shape.h"
 #include "qorvex/base/special/detail/tail_solver.h"
@@ -72,7 +73,14 @@ Tails SmallTails(const Wide& a, const Wide& x) {
 
 // Below, the density is x^a e^-x / Gamma(a); from here on it is taken relative to its maximum,
 // since the two would cancel.
-constexpr Extended kLargeShape = 256;
+constexpr Extended kLargeShape = kFactorialWideEnd;
+
+Scaled AtReference(Extended shape) {
+  if (std::isnan(shape)) return shape;
+  const Wide a(shape);
+  if (shape < kLargeShape) return MakeScaled(a / FactorialWide(a));
+  return MakeScaled(SquareRoot(a / ScaledBy(kWidePi, 1))) / TemperedGamma(a);
+}
 
 }  // namespace
 
@@ -81,15 +89,10 @@ RegularisedGamma::Point::Point(ExtendedPair value) : x_(Store(Wide(value))) {}
 RegularisedGamma::Point::Point(ExtendedPair numerator, ExtendedPair denominator)
     : x_(Store(Wide(numerator) / Wide(denominator))) {}
 
-RegularisedGamma::RegularisedGamma(Extended shape) : shape_(shape) {
-  if (!(shape >= kLargeShape)) {
-    at_reference_ = Scaled(shape) / FactorialOf(shape);
-    return;
-  }
-  reference_ = shape;
-  const Wide a(shape);
-  at_reference_ = MakeScaled(SquareRoot(a / ScaledBy(kWidePi, 1))) / TemperedGamma(a);
-}
+RegularisedGamma::RegularisedGamma(Extended shape)
+    : shape_(shape),
+      reference_(shape < kLargeShape ? 0 : shape),
+      at_reference_(AtReference(shape)) {}
 
 Scaled RegularisedGamma::LogDensity(const Point& point) const {
   const Wide x = Load(point.x_);
