@@ -27,6 +27,9 @@ test_packages=(
   libgtest-dev
   libeigen3-dev      # the example that shares matrices with Eigen
   libfmt-dev         # tests of formatting amounts, vectors and matrices
+  libmpfr-dev        # exact values of the elementary functions
+  python3-mpmath     # checks that their tables are those of the scripts
+  qemu-user-static   # the self-test on other processors
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation
 )

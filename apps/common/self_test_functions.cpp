@@ -101,8 +101,9 @@ void AddVariatesBy(const VariateMethod& method, const Variate& variate, FigureHa
   if (method.inconsistency != nullptr && !method.inconsistency(arguments).empty()) return;
   TQorFloatVector figures = TQorFloatVector::WithLength(1);
   try {
+    const Draw draw = method.prepare(arguments);
     for (int i = 0; i < 300; ++i) {
-      method.draw(arguments, figures, stream);
+      draw(figures, stream);
       for (const Extended figure : figures) hash.Add(figure);
     }
   } catch (const EMathError& error) {

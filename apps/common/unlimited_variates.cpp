@@ -52,31 +52,43 @@ class WrappedCauchyRejection {
 
 }  // namespace
 
-Extended DrawStudentT(Extended df, UniformSource source) {
+FigureDraw PrepareStudentT(Extended df) {
   constexpr Extended largest_classic = std::numeric_limits<std::int32_t>::max();
-  if (df == 1) return Random_Cauchy(source);
+  if (df == 1) return [](UniformSource source) { return Random_Cauchy(source); };
   if (df >= 3 && df <= largest_classic && df == std::trunc(df))
-    return Random_T(static_cast<std::int32_t>(df), source);
-  const Extended normal = Random_Normal(source);
-  if (df >= 2) return normal / std::sqrt(2 * Random_Gamma(df / 2, source) / df);
-  const Extended gamma = Random_Gamma(df / 2 + 1, source);
-  return normal * std::sqrt(df / (2 * gamma)) * Pow(PositiveUniform(source), -1 / df);
+    return StudentTSampler(static_cast<std::int32_t>(df));
+  if (df >= 2) {
+    return [df, half_chi_square = GammaSampler(df / 2)](UniformSource source) {
+      const Extended normal = Random_Normal(source);
+      return normal / std::sqrt(2 * half_chi_square(source) / df);
+    };
+  }
+  return [df, gamma = GammaSampler(df / 2 + 1)](UniformSource source) {
+    const Extended normal = Random_Normal(source);
+    const Extended root = std::sqrt(df / (2 * gamma(source)));
+    return normal * root * Pow(PositiveUniform(source), -1 / df);
+  };
 }
 
-Extended DrawPoisson(Extended mean, UniformSource source) {
-  if (mean >= 10) return Random_Poisson(mean, source);
-  const Extended u = source();
-  const Extended above = 1 - u;
-  // More than the classic search leaves out.
-  constexpr Extended far_tail = 1e-9L;
-  if (above > far_tail) return Random_Poisson(mean, [u] { return u; });
-  return static_cast<Extended>(UpperQuantile(PoissonDistribution(mean), above));
+FigureDraw PreparePoisson(Extended mean) {
+  const PoissonSampler sampler(mean);
+  if (mean >= 10) return sampler;
+  return [sampler, distribution = PoissonDistribution(mean)](UniformSource source) {
+    const Extended u = source();
+    const Extended above = 1 - u;
+    // More than the classic search leaves out.
+    constexpr Extended far_tail = 1e-9L;
+    return above > far_tail ? sampler([u] { return u; })
+                            : static_cast<Extended>(UpperQuantile(distribution, above));
+  };
 }
 
-Extended DrawVonMises(Extended k, UniformSource source) {
-  if (!(k >= 10)) return Random_von_Mises(k, source);
-  const Extended angle = WrappedCauchyRejection(k).Draw(source);
-  return source() < 0.5L ? -angle : angle;
+FigureDraw PrepareVonMises(Extended k) {
+  if (!(k >= 10)) return VonMisesSampler(k);
+  return [rejection = WrappedCauchyRejection(k)](UniformSource source) {
+    const Extended angle = rejection.Draw(source);
+    return source() < 0.5L ? -angle : angle;
+  };
 }
 
 }  // namespace qorvex::apps

@@ -17,14 +17,38 @@ using Arguments = const VariateArguments&;
 using Figures = TQorFloatVector&;
 using Source = UniformSource;
 
-void DrawMultivariateNormal(Arguments a, Figures x, Source s) {
-  TQorFloatVector factor;
-  std::int32_t error = 0;
-  Random_MVNorm(a.List(0), a.List(1), factor, x, error, s);
-  if (error != 0) {
-    throw InputError(InputFault::kNoResult, "multivariate-normal",
-                     "the covariance matrix is not positive definite");
-  }
+// Draws of one figure, by a function that returns it.
+template <class Sampler>
+Draw Figure(Sampler sampler) {
+  return [sampler](Figures x, Source s) { x[0] = sampler(s); };
+}
+
+// Draws of a figure times a scale.
+template <class Sampler>
+Draw Scaled(Extended scale, Sampler sampler) {
+  return Figure([=](Source s) { return scale * sampler(s); });
+}
+
+Draw PrepareMultivariateNormal(Arguments a) {
+  return [mean = a.List(0), covariance = a.List(1)](Figures x, Source s) {
+    TQorFloatVector factor;
+    std::int32_t error = 0;
+    Random_MVNorm(mean, covariance, factor, x, error, s);
+    if (error != 0) {
+      throw InputError(InputFault::kNoResult, "multivariate-normal",
+                       "the covariance matrix is not positive definite");
+    }
+  };
+}
+
+Draw PrepareBeta(Arguments a) {
+  return Figure([beta = BetaSampler(a[0], a[1]), start = a[2], width = a[3] - a[2]](Source s) {
+    return start + width * beta(s);
+  });
+}
+
+Extended StandardExponential(Source s) {
+  return Random_Exponential(s);
 }
 
 std::string WhatIsWrongWithCovariance(Arguments a) {
@@ -61,32 +85,34 @@ std::vector<Variate> AllVariates() {
       {"uniform",
        "Uniform values, from 0 to below 1",
        {},
-       {{"", [](Arguments, Figures x, Source s) { x[0] = s(); }}}},
+       {{"", [](Arguments) { return Figure([](Source s) { return s(); }); }}}},
       {"normal",
        "Normal variates",
        {kMean, kStdDev},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Normal(a[0], a[1], s); }}}},
+       {{"",
+         [](Arguments a) {
+           return Figure([mean = a[0], deviation = a[1]](Source s) {
+             return Random_Normal(mean, deviation, s);
+           });
+         }}}},
       {"exponential",
        "Exponential variates",
        {{"--mean", "mean, 1 / rate", positive, 1, true}},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[0] * Random_Exponential(s); }}}},
+       {{"", [](Arguments a) { return Scaled(a[0], StandardExponential); }}}},
       {"gamma",
        "Gamma variates",
        {{"--shape", "shape", positive, 2}, kScale},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[1] * Random_Gamma(a[0], s); },
+       {{"", [](Arguments a) { return Scaled(a[1], GammaSampler(a[0])); },
          "--shape is at least 5e-324"}}},
       {"chi-square",
        "Chi-square variates",
        {{"--df", "degrees of freedom", NumberKind::kInt32, 5}},
-       {{"",
-         [](Arguments a, Figures x, Source s) {
-           x[0] = Random_ChiSq(static_cast<std::int32_t>(a[0]), s);
-         },
+       {{"", [](Arguments a) { return Figure(ChiSquareSampler(static_cast<std::int32_t>(a[0]))); },
          "--df is at least 1"}}},
       {"weibull",
        "Weibull variates; with a negative shape, reciprocals of them (Frechet variates)",
        {{"--shape", "shape", real, 2}, kScale},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[1] * Random_Weibull(a[0], s); },
+       {{"", [](Arguments a) { return Scaled(a[1], WeibullSampler(a[0])); },
          "--shape is not 0, nor within 5e-324 of it"}}},
       {"beta",
        "Beta variates, in [0, 1] or between two ends",
@@ -94,77 +120,81 @@ std::vector<Variate> AllVariates() {
         {"--b", "second shape", positive, 5},
         kLowerEnd,
         kUpperEnd},
-       {{"",
-         [](Arguments a, Figures x, Source s) {
-           x[0] = a[2] + (a[3] - a[2]) * Random_Beta(a[0], a[1], s);
-         },
+       {{"", PrepareBeta,
          "--a and --b add up to at most 1e18, and neither is tiny beside the other",
          WhatIsWrongWithSupport}}},
       {"student-t",
        "Student's t variates",
        {{"--df", "degrees of freedom, which need not be whole", NumberKind::kDegreesOfFreedom, 5}},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawStudentT(a[0], s); },
+       {{"", [](Arguments a) { return Figure(PrepareStudentT(a[0])); },
          "--df is from 1e-17 to 1e15"}},
-       VariateMethod{"",
-                     [](Arguments a, Figures x, Source s) {
-                       x[0] = Random_T(static_cast<std::int32_t>(a[0]), s);
-                     },
-                     "--df is from 1e-17 to 1e15; with --classic it is a whole number up to "
-                     "2147483647, and 1 and 2 draw as 3 does",
-                     WhatIsWrongWithWholeDf}},
+       VariateMethod{
+           "", [](Arguments a) { return Figure(StudentTSampler(static_cast<std::int32_t>(a[0]))); },
+           "--df is from 1e-17 to 1e15; with --classic it is a whole number up to "
+           "2147483647, and 1 and 2 draw as 3 does",
+           WhatIsWrongWithWholeDf}},
       {"cauchy",
        "Cauchy variates",
        {{"--location", "median", real, 0, true}, kScale},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = a[0] + a[1] * Random_Cauchy(s); }}}},
+       {{"",
+         [](Arguments a) {
+           return Figure([location = a[0], scale = a[1]](Source s) {
+             return location + scale * Random_Cauchy(s);
+           });
+         }}}},
       {"log-normal",
        "Log-normal variates; mean and standard deviation of ln X",
        {kMean, kStdDev},
        // Random_LogNormal takes exponentials of these, which need not be in range.
-       {{"", [](Arguments a, Figures x,
-                Source s) { x[0] = CheckedExp(Random_Normal(a[0], a[1], s)); }}}},
+       {{"",
+         [](Arguments a) {
+           return Figure([mean = a[0], deviation = a[1]](Source s) {
+             return CheckedExp(Random_Normal(mean, deviation, s));
+           });
+         }}}},
       {"inverse-gaussian",
        "Generalised inverse Gaussian variates; density as x^(b-1) exp(-h/2 (x + 1/x))",
        {{"--h", "concentration h", positive, 2}, {"--b", "order b, at least 0", real, 5}},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Inv_Gauss(a[0], a[1], s); },
+       {{"", [](Arguments a) { return Figure(InverseGaussianSampler(a[0], a[1])); },
          "--b is at least 0, both are at most 1e14, and --h is neither tiny nor small beside --b: "
          "1e-8 and 1e-4 times --b suffice"}}},
       {"von-mises",
        "Angles of the von Mises distribution, from -pi to pi",
        {{"--concentration", "concentration", real, 2}},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawVonMises(a[0], s); },
+       {{"", [](Arguments a) { return Figure(PrepareVonMises(a[0])); },
          "--concentration is at least 0"}},
-       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_von_Mises(a[0], s); },
+       VariateMethod{"", [](Arguments a) { return Figure(VonMisesSampler(a[0])); },
                      "--concentration is at least 0 and, with --classic, below 10"}},
       {"multivariate-normal",
        "Vectors of normal variates, one a line",
        {{"--mean", "means", NumberKind::kReals},
         {"--covariance", "upper triangle of the covariance matrix, column by column",
          NumberKind::kReals}},
-       {{"", DrawMultivariateNormal, "", WhatIsWrongWithCovariance}}},
+       {{"", PrepareMultivariateNormal, "", WhatIsWrongWithCovariance}}},
       {"binomial",
        "Binomial variates: successes in independent trials",
        {kSuccessProbability, {"--trials", "number of trials", NumberKind::kInt64, 20}},
        {{"btpe",
-         [](Arguments a, Figures x, Source s) {
-           x[0] = Random_Binomial2(static_cast<std::int64_t>(a[1]), a[0], s);
+         [](Arguments a) {
+           return Figure(BinomialSampler(static_cast<std::int64_t>(a[1]), a[0]));
          }},
         {"inversion",
-         [](Arguments a, Figures x, Source s) {
-           x[0] = Random_Binomial1(static_cast<std::int32_t>(a[1]), a[0], s);
+         [](Arguments a) {
+           return Figure(BinomialInversionSampler(static_cast<std::int32_t>(a[1]), a[0]));
          },
          "", WhatIsWrongWithInversion}}},
       {"negative-binomial",
        "Negative binomial variates: successes before a given number of failures",
        {{kSuccessProbability.option, kSuccessProbability.name, NumberKind::kProbability, 0.3L},
         {"--failures", "number of failures, which need not be whole", positive, 2}},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Neg_Binomial(a[1], a[0], s); },
+       {{"", [](Arguments a) { return Figure(NegativeBinomialSampler(a[1], a[0])); },
          "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 2e7 beyond, where p is not "
          "within 5e-8 of 1"}}},
       {"poisson",
        "Poisson variates",
        {kLambda},
-       {{"", [](Arguments a, Figures x, Source s) { x[0] = DrawPoisson(a[0], s); }}},
-       VariateMethod{"", [](Arguments a, Figures x, Source s) { x[0] = Random_Poisson(a[0], s); },
+       {{"", [](Arguments a) { return Figure(PreparePoisson(a[0])); }}},
+       VariateMethod{"", [](Arguments a) { return Figure(PoissonSampler(a[0])); },
                      "with --classic and --lambda below 10, no variate exceeds 35"}},
   };
 }

@@ -4,6 +4,7 @@
 /// The variates that `random` knows, their parameters and routines.
 
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -31,12 +32,15 @@ class VariateArguments {
   std::vector<TQorFloatVector> lists_;
 };
 
+/// Draws into a vector of one element, or of as many as the variate has.
+using Draw = std::function<void(TQorFloatVector& variate, UniformSource source)>;
+
 /// A way to draw a variate.
 struct VariateMethod {
   /// Empty where there is only one.
   const char* name;
-  /// Draws into a vector of one element, or of as many as the variate has.
-  void (*draw)(const VariateArguments& arguments, TQorFloatVector& variate, UniformSource source);
+  /// Computes what all variates of these parameters share, and raises the errors of that.
+  Draw (*prepare)(const VariateArguments& arguments);
   /// What it takes of the parameters' numbers, or empty if all.
   const char* limits = "";
   /// What is wrong with parameters that are fine one by one, or empty; null where nothing can be.

@@ -96,8 +96,9 @@ void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments
 void PrintVariates(const RandomArguments& arguments) {
   TQorFloatVector figures = TQorFloatVector::WithLength(1);
   std::string line;
+  const Draw draw = arguments.method->prepare(arguments.parameters);
   for (std::uint64_t i = 0; i < arguments.count; ++i) {
-    arguments.method->draw(arguments.parameters, figures, ClassicRandom);
+    draw(figures, ClassicRandom);
     for (const Extended figure : figures) CheckedFinite(figure);
     line.clear();
     AppendLine(line, figures, arguments.decimals);

@@ -41,10 +41,10 @@ Extended CheckedExp(Extended x) {
 }
 
 Extended CheckedXtoY(Extended x, Extended y) {
-  if (x == 0 && y < 0) throw EZeroDivide();
   const Extended power = XtoY(x, y);
-  if (std::isfinite(x) && std::isfinite(y)) return CheckedFinite(power);
-  return power;
+  if (std::isfinite(power) || !std::isfinite(x) || !std::isfinite(y)) return power;
+  if (x == 0) throw EZeroDivide();
+  return CheckedFinite(power);
 }
 
 Extended CheckedFinite(Extended result) {

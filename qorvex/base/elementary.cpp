@@ -3,9 +3,23 @@
 #include <cmath>
 
 #include "qorvex/base/comparisons.h"
+#include "qorvex/base/elementary/detail/binary80.h"
 #include "qorvex/base/elementary/functions.h"
 
 namespace qorvex::inline QorvexGlobals {
+
+namespace {
+
+// y if it is an integer from 0 to 8, else -1. The bits decide, which is quicker than rounding y.
+int NumberOfFactors(elementary::Binary80 y) {
+  if (elementary::IsZero(y)) return 0;
+  const int exponent = y.sign_exponent - elementary::kExponentBias;
+  if (exponent < 0 || exponent > 3 || y.significand << (exponent + 1) != 0) return -1;
+  const auto factors = static_cast<int>(y.significand >> (63 - exponent));
+  return factors <= 8 ? factors : -1;
+}
+
+}  // namespace
 
 Extended QorLog2(Extended x) noexcept {
   return Log2(x);
@@ -21,10 +35,10 @@ Extended QorArcCos(Extended x) noexcept {
 }
 
 Extended XtoY(Extended x, Extended y) noexcept {
-  constexpr Extended most_factors = 8;
-  if (!(y >= 0 && y <= most_factors) || y != std::trunc(y)) return Pow(x, y);
+  const int factors = NumberOfFactors(elementary::BitsOf(y));
+  if (factors < 0) return Pow(x, y);
   Extended product = 1;
-  for (int factors = static_cast<int>(y); factors > 0; --factors) product *= x;
+  for (int i = 0; i < factors; ++i) product *= x;
   return product;
 }
 

@@ -1,6 +1,5 @@
 #include "qorvex/base/special_functions.h"
 
-#include <boost/math/special_functions/erf.hpp>
 #include <cmath>
 #include <limits>
 
@@ -69,14 +68,6 @@ Extended InverseIncompleteBeta(Extended p, Extended a, Extended b) {
   RequireUnitAndShapes(p, a, b);
   if (p == 0 || p == 1) return p;
   return special::FromOdds(special::RegularisedBeta(a, b).QuantileOdds(special::Tail::kLower, p));
-}
-
-Extended InverseErfc(Extended y) {
-  if (std::isnan(y)) return y;
-  if (y < 0 || y > 2) throw EInvalidOp();
-  if (y == 0) return std::numeric_limits<Extended>::infinity();
-  if (y == 2) return -std::numeric_limits<Extended>::infinity();
-  return Evaluate([=] { return boost::math::erfc_inv(y, kBoostPolicy); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -23,37 +23,44 @@ Extended Limit(Extended hi, Extended lo) {
   return 1 / (1 + XtoY(hi / (lo * detail::kVeryLarge), lo));
 }
 
-// The variate with the first shape hi and the second shape lo, for hi >= lo.
-Extended OrderedBeta(Extended hi, Extended lo, UniformSource source) {
-  const Extended ratio = hi / lo;
-  const Extended sum = lo + hi;
-  const Extended shape = lo <= 1 ? lo : std::sqrt((2 * lo * hi - sum) / (sum - 2));
-  const Extended limit = Limit(hi, lo);
+}  // namespace
+
+BetaSampler::BetaSampler(Extended a, Extended b) : is_exchanged_(a < b), hi_(std::max(a, b)) {
+  if (!(a > 0 && b > 0)) RaiseMathError(rsInvalidValue);
+  const Extended lo = std::min(a, b);
+  ratio_ = hi_ / lo;
+  sum_ = lo + hi_;
   // For larger shapes, rounding would decide which candidates are accepted.
   constexpr Extended largest_sum = 1e18L;
-  if (!(sum <= largest_sum && std::isfinite(ratio))) RaiseMathError(rsInvalidValue);
+  if (!(sum_ <= largest_sum && std::isfinite(ratio_))) RaiseMathError(rsInvalidValue);
+  shape_ = lo <= 1 ? lo : std::sqrt((2 * lo * hi_ - sum_) / (sum_ - 2));
+  limit_ = Limit(hi_, lo);
+}
+
+Extended BetaSampler::Ordered(UniformSource source) const {
   for (;;) {
     const Extended u1 = source();
     const Extended u2 = source();
     const Extended z = u2 * (u1 * u1);
     if (!(u1 >= detail::kVerySmall && z > 0)) continue;
-    if (u1 >= limit) {
-      if (4 * z <= XtoY(1 + 1 / ratio, sum)) return 1;
+    if (u1 >= limit_) {
+      if (4 * z <= XtoY(1 + 1 / ratio_, sum_)) return 1;
       continue;
     }
-    const Extended v = Log(u1 / (1 - u1)) / shape;
-    const Extended w = ratio * Exp(v);
-    const Extended t = v * (shape + hi) + sum * Log((ratio + 1) / (w + 1)) - kLogFour;
+    const Extended v = Log(u1 / (1 - u1)) / shape_;
+    const Extended w = ratio_ * Exp(v);
+    const Extended t = v * (shape_ + hi_) + sum_ * Log((ratio_ + 1) / (w + 1)) - kLogFour;
     if (z - 1 <= t || (z - z * t <= 1 && Log(z) <= t)) return w / (1 + w);
   }
 }
 
-}  // namespace
+Extended BetaSampler::operator()(UniformSource source) const {
+  const Extended variate = Ordered(source);
+  return is_exchanged_ ? 1 - variate : variate;
+}
 
 Extended Random_Beta(Extended a, Extended b, UniformSource source) {
-  if (!(a > 0 && b > 0)) RaiseMathError(rsInvalidValue);
-  const Extended variate = OrderedBeta(std::max(a, b), std::min(a, b), source);
-  return a < b ? 1 - variate : variate;
+  return BetaSampler(a, b)(source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

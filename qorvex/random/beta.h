@@ -31,4 +31,25 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_Beta for many variates with the same shapes; see Fill.
+class QORVEX_EXPORT BetaSampler {
+ public:
+  /// Raises the errors of Random_Beta.
+  BetaSampler(Extended a, Extended b);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  // The variate with the larger shape first.
+  Extended Ordered(UniformSource source) const;
+
+  bool is_exchanged_;
+  Extended hi_;
+  Extended ratio_;
+  Extended sum_;
+  Extended shape_;
+  Extended limit_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

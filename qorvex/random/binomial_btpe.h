@@ -9,6 +9,7 @@
 /// are subtracted here; the article adds them by mistake.
 
 #include <cstdint>
+#include <variant>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -33,5 +34,59 @@ namespace qorvex::inline QorvexRandom {
   return Random_Binomial2(n, p, ClassicRandom);
 }
 /// @}
+
+/// Random_Binomial2 for many variates with the same parameters; see Fill.
+class QORVEX_EXPORT BinomialSampler {
+ public:
+  /// Raises the error of Random_Binomial2.
+  BinomialSampler(std::int64_t n, Extended p);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  // Inversion from 0 upwards, for n p < 30.
+  struct Inversion {
+    Inversion(Extended n, Extended p);
+    Extended operator()(UniformSource source) const;
+
+    Extended last;
+    Extended at_zero;
+    Extended odds;
+    Extended a;
+  };
+
+  // The regions that cover the probabilities, for p <= 1/2 and n p >= 30.
+  struct Regions {
+    Regions(Extended n, Extended p);
+    Extended operator()(UniformSource source) const;
+    bool IsAccepted(Extended v, Extended y) const;
+
+    Extended n;
+    Extended p;
+    Extended q;
+    Extended mode;
+    Extended variance;
+    // The triangle: its half width, middle and ends.
+    Extended triangle;
+    Extended middle;
+    Extended left;
+    Extended right;
+    Extended slope;
+    Extended left_rate;
+    Extended right_rate;
+    // The cumulative area at the end of each region. The area of the triangle is its half width.
+    Extended parallelograms;
+    Extended left_tail;
+    Extended right_tail;
+  };
+
+  using Method = std::variant<Inversion, Regions>;
+  static Method MethodFor(Extended n, Extended p);
+
+  Extended trials_;
+  bool counts_failures_;
+  Method method_;
+};
 
 }  // namespace qorvex::inline QorvexRandom

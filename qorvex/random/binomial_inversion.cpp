@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
@@ -9,46 +10,50 @@
 
 namespace qorvex::inline QorvexRandom {
 
-Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
+BinomialInversionSampler::BinomialInversionSampler(std::int32_t n, Extended p)
+    : trials_(static_cast<Extended>(n)), odds_(p / (1 - p)) {
   if (!(n >= 0 && p >= 0 && p <= 1)) RaiseMathError(rsInvalidValue);
-  const Extended trials = static_cast<Extended>(n);
-  const Extended u = source();
-  if (p == 0) return 0;
-  if (p == 1) return trials;
-
   // (n + 1) p can round to n + 1.
-  const Extended mode = std::min(std::trunc((trials + 1) * p), trials);
-  const Extended at_mode =
-      Exp(LnGamma(trials + 1) - LnGamma(mode + 1) - LnGamma(trials - mode + 1) + mode * Log(p) +
-          (trials - mode) * Log(1 - p));
-  const Extended odds = p / (1 - p);
+  mode_ = std::min(std::trunc((trials_ + 1) * p), trials_);
+  // What is certain exceeds every draw.
+  const bool is_certain = p == 0 || p == 1;
+  at_mode_ = is_certain ? std::numeric_limits<double>::infinity()
+                        : static_cast<double>(Exp(LnGamma(trials_ + 1) - LnGamma(mode_ + 1) -
+                                                  LnGamma(trials_ - mode_ + 1) + mode_ * Log(p) +
+                                                  (trials_ - mode_) * Log(1 - p)));
+}
 
-  double down = static_cast<double>(at_mode);
+Extended BinomialInversionSampler::operator()(UniformSource source) const {
+  double down = at_mode_;
   double up = down;
-  double remainder = static_cast<double>(u);
+  double remainder = static_cast<double>(source());
   const auto passes = [&remainder](double probability) {
     remainder = remainder - probability;
     return remainder >= 0;
   };
-  if (!passes(down)) return mode;
-  Extended low = mode;
-  Extended high = mode;
+  if (!passes(down)) return mode_;
+  Extended low = mode_;
+  Extended high = mode_;
   for (double before = 2; remainder != before;) {
     before = remainder;
     if (low > 0) {
       --low;
-      down = static_cast<double>(down * (low + 1) / ((trials - low) * odds));
+      down = static_cast<double>(down * (low + 1) / ((trials_ - low) * odds_));
       if (!passes(down)) return low;
     }
-    if (high < trials) {
+    if (high < trials_) {
       ++high;
-      up = static_cast<double>(up * (trials - high + 1) * odds / high);
+      up = static_cast<double>(up * (trials_ - high + 1) * odds_ / high);
       if (!passes(up)) return high;
     }
   }
   // Both ends have been reached, or the remaining probabilities are too small to change the
   // remainder.
-  return mode;
+  return mode_;
+}
+
+Extended Random_Binomial1(std::int32_t n, Extended p, UniformSource source) {
+  return BinomialInversionSampler(n, p)(source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

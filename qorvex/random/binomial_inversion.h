@@ -33,4 +33,20 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_Binomial1 for many variates with the same parameters; see Fill.
+class QORVEX_EXPORT BinomialInversionSampler {
+ public:
+  /// Raises the errors of Random_Binomial1.
+  BinomialInversionSampler(std::int32_t n, Extended p);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  Extended trials_;
+  Extended mode_;
+  double at_mode_;  // the probability of the mode
+  Extended odds_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

@@ -7,6 +7,7 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
+#include "qorvex/random/gamma.h"
 #include "qorvex/random/uniform_source.h"
 
 namespace qorvex::inline QorvexRandom {
@@ -21,5 +22,18 @@ namespace qorvex::inline QorvexRandom {
   return Random_ChiSq(df, ClassicRandom);
 }
 /// @}
+
+/// Random_ChiSq for many variates with the same degrees of freedom; see Fill.
+class QORVEX_EXPORT ChiSquareSampler {
+ public:
+  /// Raises the errors of Random_ChiSq.
+  explicit ChiSquareSampler(std::int32_t df);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  GammaSampler half_;
+};
 
 }  // namespace qorvex::inline QorvexRandom

@@ -1,7 +1,7 @@
 #include "qorvex/random/fill.h"
 
-#include "qorvex/random/detail/gamma_samplers.h"
 #include "qorvex/random/exponential.h"
+#include "qorvex/random/gamma.h"
 #include "qorvex/random/normal.h"
 
 namespace qorvex::inline QorvexRandom {
@@ -24,9 +24,7 @@ void FillExponential(std::span<Extended> variates, UniformSource source) {
 }
 
 void FillGamma(std::span<Extended> variates, Extended shape, UniformSource source) {
-  detail::WithGammaSampler(shape, [&](const auto& sampler) {
-    for (Extended& x : variates) x = sampler(source);
-  });
+  Fill(variates, GammaSampler(shape), source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

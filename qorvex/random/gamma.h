@@ -12,6 +12,8 @@
 ///
 /// Shape 1: Random_Exponential.
 
+#include <variant>
+
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
 #include "qorvex/random/uniform_source.h"
@@ -34,5 +36,50 @@ namespace qorvex::inline QorvexRandom {
   return Random_Gamma(shape, ClassicRandom);
 }
 /// @}
+
+/// Random_Gamma for many variates of one shape; see Fill.
+class QORVEX_EXPORT GammaSampler {
+ public:
+  /// Raises the errors of Random_Gamma.
+  explicit GammaSampler(Extended shape);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  // For shapes above 1: Marsaglia and Tsang (2000).
+  struct CubedNormal {
+    explicit CubedNormal(Extended shape);
+    Extended operator()(UniformSource source) const;
+
+    Extended d;
+    Extended c;
+  };
+
+  // For shapes below 1: Ahrens and Dieter (1974). A power near 0 and an exponential tail cover the
+  // density.
+  struct PowerAndTail {
+    explicit PowerAndTail(Extended shape);
+    Extended operator()(UniformSource source) const;
+
+    Extended shape;
+    Extended a;
+    Extended reciprocal_shape;
+    Extended power_share;
+    // Only draws up to this bound can give a variate that becomes 0, so the power that decides it
+    // is rarely computed.
+    Extended zero_bound;
+    Extended d;
+  };
+
+  struct Exponential {
+    Extended operator()(UniformSource source) const;
+  };
+
+  using Method = std::variant<CubedNormal, PowerAndTail, Exponential>;
+  static Method MethodFor(Extended shape);
+
+  Method method_;
+};
 
 }  // namespace qorvex::inline QorvexRandom

@@ -28,7 +28,8 @@ Extended Mode(Extended h, Extended k, Extended b) {
 
 }  // namespace
 
-Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
+InverseGaussianSampler::InverseGaussianSampler(Extended h, Extended b)
+    : c_(-0.25L * h), power_(0.5L * (b - 1)) {
   // A variate takes about sqrt(max(h, b)) attempts.
   constexpr Extended max_parameter = 1e14L;
   if (!(b >= 0 && h > 0)) RaiseMathError(rsInvalidValue);
@@ -36,19 +37,24 @@ Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
   if (std::max(h, b) > max_parameter) RaiseMathError(rsInvalidValue);
   const Extended ym = Mode(h, -(b + 1), b);
   const Extended xm = Mode(h, b - 1, b);
-  const Extended c = -0.25L * h;
-  const Extended r = XtoY(xm * ym, -0.5L * b) * std::sqrt(xm / ym) *
-                     Exp(0.25L * h * ((xm + 1 / xm) - ym - 1 / ym));
-  if (!(r >= detail::kVerySmall && std::isfinite(r))) RaiseMathError(rsInvalidValue);
-  const Extended power = 0.5L * (b - 1);
-  const Extended at_mode = -power * Log(xm) - c * (xm + 1 / xm);
+  r_ = XtoY(xm * ym, -0.5L * b) * std::sqrt(xm / ym) *
+       Exp(0.25L * h * ((xm + 1 / xm) - ym - 1 / ym));
+  if (!(r_ >= detail::kVerySmall && std::isfinite(r_))) RaiseMathError(rsInvalidValue);
+  at_mode_ = -power_ * Log(xm) - c_ * (xm + 1 / xm);
+}
+
+Extended InverseGaussianSampler::operator()(UniformSource source) const {
   for (;;) {
     const Extended u = source();
     if (!(u > 0)) continue;
     const Extended v = source();
-    const Extended x = r * v / u;
-    if (x > 0 && Log(u) < at_mode + c * (x + 1 / x) + power * Log(x)) return x;
+    const Extended x = r_ * v / u;
+    if (x > 0 && Log(u) < at_mode_ + c_ * (x + 1 / x) + power_ * Log(x)) return x;
   }
+}
+
+Extended Random_Inv_Gauss(Extended h, Extended b, UniformSource source) {
+  return InverseGaussianSampler(h, b)(source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

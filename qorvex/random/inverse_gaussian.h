@@ -41,4 +41,20 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_Inv_Gauss for many variates with the same parameters; see Fill.
+class QORVEX_EXPORT InverseGaussianSampler {
+ public:
+  /// Raises the errors of Random_Inv_Gauss.
+  InverseGaussianSampler(Extended h, Extended b);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  Extended c_;
+  Extended r_;
+  Extended power_;
+  Extended at_mode_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

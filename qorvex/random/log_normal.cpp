@@ -9,13 +9,21 @@
 
 namespace qorvex::inline QorvexRandom {
 
-Extended Random_LogNormal(Extended mean, Extended std_dev, UniformSource source) {
+LogNormalSampler::LogNormalSampler(Extended mean, Extended std_dev) : mean_(mean) {
   if (!(mean > 0)) RaiseMathError(rsInvalidMean);
   if (!(std_dev > 0)) RaiseMathError(rsInvalidStdDev);
-  const Extended deviation = CheckedSqrt(Log(CheckedFinite(std_dev * std_dev)));
-  const Extended logarithm = Random_Normal(Log(mean), deviation, source);
+  deviation_ = CheckedSqrt(Log(CheckedFinite(std_dev * std_dev)));
+  log_mean_ = Log(mean);
+}
+
+Extended LogNormalSampler::operator()(UniformSource source) const {
+  const Extended logarithm = Random_Normal(log_mean_, deviation_, source);
   // exp(ln(mean)) may differ from the mean in the last bit.
-  return deviation == 0 ? mean : CheckedExp(logarithm);
+  return deviation_ == 0 ? mean_ : CheckedExp(logarithm);
+}
+
+Extended Random_LogNormal(Extended mean, Extended std_dev, UniformSource source) {
+  return LogNormalSampler(mean, std_dev)(source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

@@ -29,4 +29,19 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_LogNormal for many variates with the same parameters; see Fill.
+class QORVEX_EXPORT LogNormalSampler {
+ public:
+  /// Raises the errors of Random_LogNormal that depend on the parameters alone.
+  LogNormalSampler(Extended mean, Extended std_dev);
+
+  /// A variate. EOverflow if it is beyond the extended range.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  Extended mean_;
+  Extended log_mean_;
+  Extended deviation_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

@@ -27,4 +27,24 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_Neg_Binomial for many variates with the same parameters; see Fill.
+class QORVEX_EXPORT NegativeBinomialSampler {
+ public:
+  /// Raises the errors of Random_Neg_Binomial.
+  NegativeBinomialSampler(Extended sk, Extended p);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  // Inversion from 0 upwards, for the failures that are not drawn directly.
+  Extended Invert(Extended u) const;
+
+  Extended p_;
+  Extended direct_;  // failures that are drawn one by one
+  Extended rest_;
+  Extended log_p_;
+  Extended at_zero_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

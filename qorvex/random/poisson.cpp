@@ -12,11 +12,38 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// For means from 10 on: a normal variate rounded down. Where its probability exceeds the Poisson
-// probability it is accepted only in part; the rest comes from the difference of the two, drawn
-// under a double exponential hat.
-Extended CorrectedNormal(Extended mu, UniformSource source) {
-  const Extended deviation = std::sqrt(mu);
+void RequireMean(Extended mu) {
+  if (!(mu >= 0 && std::isfinite(mu))) RaiseMathError(rsInvalidValue);
+}
+
+// The probabilities of at most 0, 1, 2 and so on, one after the other.
+class CumulativeProbability {
+ public:
+  explicit CumulativeProbability(Extended mu)
+      : mu_(mu), probability_(Exp(-mu)), sum_(probability_) {}
+
+  [[nodiscard]] Extended Value() const { return sum_; }
+  void Advance() {
+    probability_ *= mu_ / ++count_;
+    sum_ += probability_;
+  }
+
+ private:
+  Extended mu_;
+  Extended count_ = 0;
+  Extended probability_;
+  Extended sum_;
+};
+
+constexpr int kMostByInversion = 35;
+
+}  // namespace
+
+PoissonSampler::CorrectedNormal::CorrectedNormal(Extended mean)
+    : mu(mean), deviation(std::sqrt(mean)) {}
+
+// The densities are computed where they are needed, which is rare.
+Extended PoissonSampler::CorrectedNormal::operator()(UniformSource source) const {
   const Extended g = mu + deviation * Random_Normal(source);
   if (g >= 0) {
     const Extended k = std::floor(g);
@@ -42,27 +69,47 @@ Extended CorrectedNormal(Extended mu, UniformSource source) {
   }
 }
 
-// For smaller means: inversion from 0 upwards.
-Extended InvertFromZero(Extended mu, UniformSource source) {
-  const Extended at_zero = Exp(-mu);
+PoissonSampler::Inversion::Inversion(Extended mu) {
+  CumulativeProbability probability(mu);
+  for (Extended& sum : sums) {
+    sum = probability.Value();
+    probability.Advance();
+  }
+}
+
+Extended PoissonSampler::Inversion::operator()(UniformSource source) const {
   for (;;) {
     const Extended u = source();
-    if (u <= at_zero) return 0;
-    Extended probability = at_zero;
-    Extended sum = at_zero;
-    for (int k = 1; k <= 35; ++k) {
-      probability *= mu / static_cast<Extended>(k);
-      sum += probability;
-      if (u <= sum) return static_cast<Extended>(k);
+    for (int k = 0; k <= kMostByInversion; ++k) {
+      if (u <= sums[static_cast<std::size_t>(k)]) return static_cast<Extended>(k);
     }
   }
 }
 
-}  // namespace
+PoissonSampler::Method PoissonSampler::MethodFor(Extended mu) {
+  RequireMean(mu);
+  if (mu >= 10) return Method(std::in_place_type<CorrectedNormal>, mu);
+  return Method(std::in_place_type<Inversion>, mu);
+}
+
+PoissonSampler::PoissonSampler(Extended mu) : method_(MethodFor(mu)) {}
+
+Extended PoissonSampler::operator()(UniformSource source) const {
+  return std::visit([source](const auto& method) { return method(source); }, method_);
+}
 
 Extended Random_Poisson(const Extended& mu, UniformSource source) {
-  if (!(mu >= 0 && std::isfinite(mu))) RaiseMathError(rsInvalidValue);
-  return mu >= 10 ? CorrectedNormal(mu, source) : InvertFromZero(mu, source);
+  if (!(mu < 10)) return PoissonSampler(mu)(source);
+  RequireMean(mu);
+  // A single variate needs only the first few sums.
+  const CumulativeProbability at_zero(mu);
+  for (;;) {
+    const Extended u = source();
+    CumulativeProbability probability = at_zero;
+    for (int k = 0; k <= kMostByInversion; ++k, probability.Advance()) {
+      if (u <= probability.Value()) return static_cast<Extended>(k);
+    }
+  }
 }
 
 }  // namespace qorvex::inline QorvexRandom

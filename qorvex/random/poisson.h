@@ -6,6 +6,9 @@
 /// J. H. Ahrens and U. Dieter (1982), "Computer generation of Poisson deviates from modified normal
 /// distributions", ACM Transactions on Mathematical Software 8, 163-179.
 
+#include <array>
+#include <variant>
+
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
 #include "qorvex/random/uniform_source.h"
@@ -29,5 +32,40 @@ namespace qorvex::inline QorvexRandom {
   return Random_Poisson(mu, ClassicRandom);
 }
 /// @}
+
+/// Random_Poisson for many variates with the same mean; see Fill.
+class QORVEX_EXPORT PoissonSampler {
+ public:
+  /// Raises the error of Random_Poisson.
+  explicit PoissonSampler(Extended mu);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  // For means from 10 on: a normal variate rounded down. Where its probability exceeds the Poisson
+  // probability it is accepted only in part; the rest comes from the difference of the two, drawn
+  // under a double exponential hat.
+  struct CorrectedNormal {
+    explicit CorrectedNormal(Extended mu);
+    Extended operator()(UniformSource source) const;
+
+    Extended mu;
+    Extended deviation;
+  };
+
+  // For smaller means: inversion from 0 upwards.
+  struct Inversion {
+    explicit Inversion(Extended mu);
+    Extended operator()(UniformSource source) const;
+
+    std::array<Extended, 36> sums;  // the probabilities of at most 0, 1, ...
+  };
+
+  using Method = std::variant<CorrectedNormal, Inversion>;
+  static Method MethodFor(Extended mu);
+
+  Method method_;
+};
 
 }  // namespace qorvex::inline QorvexRandom

@@ -34,4 +34,24 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_T for many variates with the same degrees of freedom; see Fill.
+class QORVEX_EXPORT StudentTSampler {
+ public:
+  /// Raises the errors of Random_T.
+  explicit StudentTSampler(std::int32_t df);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  // (1 + x/s)^c, to which the rounding of 1 + x/s adds a relative error of at most df 2^-66.
+  Extended Power(Extended x) const;
+
+  Extended s_;  // the degrees of freedom
+  Extended c_;
+  Extended a_;
+  Extended b_;
+  Extended f_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

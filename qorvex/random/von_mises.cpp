@@ -12,8 +12,6 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-constexpr std::size_t kMaxIntervals = 20;
-
 // The cosine of an angle from 0 to pi, reduced to a sine or cosine of an angle up to pi/4, because
 // the C library takes ten times as long for larger ones.
 Extended Cosine(Extended x) {
@@ -40,30 +38,6 @@ Extended Integral(Extended k, Extended lo, Extended hi) {
   return half * sum;
 }
 
-// The intervals of (0, pi), over each of which k cos x falls by at most 1, and their probabilities.
-struct Intervals {
-  explicit Intervals(Extended k) {
-    if (!(k >= 0)) RaiseMathError(rsInvalidValue);
-    const Extended length = std::trunc(2 * k + 1);
-    if (length > kMaxIntervals) RaiseMathError(rsInvalidValue);
-    count = k <= 0.5L ? 1 : static_cast<std::size_t>(length);
-    ends[count] = QorPi;
-    weights[0] = 1;
-    if (count == 1) return;
-    Extended sum = 0;
-    for (std::size_t j = 0; j < count; ++j) {
-      if (j + 1 < count) ends[j + 1] = QorArcCos(1 - static_cast<Extended>(j + 1) / k);
-      weights[j] = Integral(k, ends[j], ends[j + 1]);
-      sum += weights[j];
-    }
-    for (std::size_t j = 0; j < count; ++j) weights[j] /= sum;
-  }
-
-  std::size_t count;
-  std::array<Extended, kMaxIntervals + 1> ends{};
-  std::array<Extended, kMaxIntervals> weights;
-};
-
 // True with probability exp(-x), for x in [0, 1]: if the longest descending run of uniform values
 // below x has an even length.
 bool IsAccepted(Extended x, UniformSource source) {
@@ -77,23 +51,43 @@ bool IsAccepted(Extended x, UniformSource source) {
 
 }  // namespace
 
-Extended Random_von_Mises(Extended k, UniformSource source) {
-  const Intervals intervals(k);
+VonMisesSampler::VonMisesSampler(Extended k) : k_(k), count_(1) {
+  if (!(k >= 0)) RaiseMathError(rsInvalidValue);
+  const Extended length = std::trunc(2 * k + 1);
+  if (length > kMaxIntervals) RaiseMathError(rsInvalidValue);
+  if (k > 0.5L) count_ = static_cast<std::size_t>(length);
+  ends_[count_] = QorPi;
+  weights_[0] = 1;
+  if (count_ == 1) return;
+  Extended sum = 0;
+  for (std::size_t j = 0; j < count_; ++j) {
+    if (j + 1 < count_) ends_[j + 1] = QorArcCos(1 - static_cast<Extended>(j + 1) / k);
+    weights_[j] = Integral(k, ends_[j], ends_[j + 1]);
+    sum += weights_[j];
+  }
+  for (std::size_t j = 0; j < count_; ++j) weights_[j] /= sum;
+}
+
+Extended VonMisesSampler::operator()(UniformSource source) const {
   Extended u = source();
   std::size_t j = 0;
-  u -= intervals.weights[0];
-  while (!(u < 0) && j + 1 < intervals.count) u -= intervals.weights[++j];
+  u -= weights_[0];
+  while (!(u < 0) && j + 1 < count_) u -= weights_[++j];
   // The place runs from the end of the interval to its start. Rounding can leave a remainder after
   // the last interval; the place is then 0, without a division by the weight, which is 0 if 2k is
   // whole.
-  Extended place = u < 0 ? -u / intervals.weights[j] : 0;
+  Extended place = u < 0 ? -u / weights_[j] : 0;
   for (;;) {
-    const Extended lo = intervals.ends[j];
-    const Extended angle = lo + place * (intervals.ends[j + 1] - lo);
-    if (IsAccepted(k - static_cast<Extended>(j) - k * Cosine(angle), source))
+    const Extended lo = ends_[j];
+    const Extended angle = lo + place * (ends_[j + 1] - lo);
+    if (IsAccepted(k_ - static_cast<Extended>(j) - k_ * Cosine(angle), source))
       return source() < 0.5L ? -angle : angle;
     place = source();
   }
+}
+
+Extended Random_von_Mises(Extended k, UniformSource source) {
+  return VonMisesSampler(k)(source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

@@ -9,6 +9,9 @@
 /// it is accepted by John von Neumann's comparisons (1951, "Various techniques used in connection
 /// with random digits"), without an exponential.
 
+#include <array>
+#include <cstddef>
+
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
 #include "qorvex/random/uniform_source.h"
@@ -29,5 +32,25 @@ namespace qorvex::inline QorvexRandom {
   return Random_von_Mises(k, ClassicRandom);
 }
 /// @}
+
+/// Random_von_Mises for many variates of one concentration; see Fill.
+class QORVEX_EXPORT VonMisesSampler {
+ public:
+  /// Raises the error of Random_von_Mises.
+  explicit VonMisesSampler(Extended k);
+
+  /// A variate.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  static constexpr std::size_t kMaxIntervals = 20;
+
+  Extended k_;
+  // The intervals of (0, pi), over each of which k cos x falls by at most 1, and their
+  // probabilities.
+  std::size_t count_;
+  std::array<Extended, kMaxIntervals + 1> ends_{};
+  std::array<Extended, kMaxIntervals> weights_{};
+};
 
 }  // namespace qorvex::inline QorvexRandom

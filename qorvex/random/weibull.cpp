@@ -9,9 +9,16 @@
 
 namespace qorvex::inline QorvexRandom {
 
-Extended Random_Weibull(Extended a, UniformSource source) {
+WeibullSampler::WeibullSampler(Extended a) : exponent_(1 / a) {
   if (std::fabs(a) <= detail::kVerySmall) RaiseMathError(rsInvalidValue);
-  return CheckedXtoY(Random_Exponential(source), 1 / a);
+}
+
+Extended WeibullSampler::operator()(UniformSource source) const {
+  return CheckedXtoY(Random_Exponential(source), exponent_);
+}
+
+Extended Random_Weibull(Extended a, UniformSource source) {
+  return WeibullSampler(a)(source);
 }
 
 }  // namespace qorvex::inline QorvexRandom

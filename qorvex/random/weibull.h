@@ -24,4 +24,17 @@ namespace qorvex::inline QorvexRandom {
 }
 /// @}
 
+/// Random_Weibull for many variates of one shape; see Fill.
+class QORVEX_EXPORT WeibullSampler {
+ public:
+  /// Raises rsInvalidValue as Random_Weibull does.
+  explicit WeibullSampler(Extended a);
+
+  /// A variate. Raises EOverflow as Random_Weibull does.
+  [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
+
+ private:
+  Extended exponent_;
+};
+
 }  // namespace qorvex::inline QorvexRandom

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "apps/shell.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/text.h"
 #include "qorvex/random/QorvexRandom.h"
 
@@ -32,7 +33,7 @@ TEST(RandomCommand, PrintsTheVariatesOfTheLibraryForASeed) {
       {"student-t --df 1", [] { return Random_Cauchy(); }},
       {"student-t --df 1 --classic", [] { return Random_T(1); }},
       {"cauchy --location 1 --scale 2", [] { return 1 + 2 * Random_Cauchy(); }},
-      {"log-normal --mean 1 --std-dev 0.5", [] { return std::exp(Random_Normal(1, 0.5L)); }},
+      {"log-normal --mean 1 --std-dev 0.5", [] { return Exp(Random_Normal(1, 0.5L)); }},
       {"inverse-gaussian --h 2 --b 0.5", [] { return Random_Inv_Gauss(2, 0.5L); }},
       {"von-mises --concentration 9.9", [] { return Random_von_Mises(9.9L); }},
       {"binomial --success-probability 0.3 --trials 200",

@@ -24,7 +24,7 @@ Extended Drawn(const VariateMethod& method, Extended parameter, UniformSource so
   VariateArguments arguments;
   arguments.Append({parameter});
   TQorFloatVector variate{0};
-  method.draw(arguments, variate, source);
+  method.prepare(arguments)(variate, source);
   return variate[0];
 }
 

@@ -5,8 +5,8 @@
 
 #include <functional>
 
-#include "qorvex/random/uniform_source.h"
 #include "qorvex/stats/distributions/figures.h"
+#include "random/variates.h"
 #include "support/environment.h"
 #include "support/test.h"
 
@@ -42,8 +42,6 @@ Reference ReferenceOf(const D& d, bool test_variance = true) {
           bounded ? static_cast<Extended>(support.greatest) : kInfinity,
           whole};
 }
-
-using Draw = std::function<Extended(UniformSource)>;
 
 /// The result of the battery: whether all variates are in the support, and the p-values of its four
 /// checks; 1 for moments that are not tested.

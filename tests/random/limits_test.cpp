@@ -14,6 +14,7 @@
 namespace qorvex {
 namespace {
 
+using testing::Samplers;
 using testing::ScriptedSource;
 using testing::Variates;
 
@@ -59,6 +60,7 @@ TEST(Limits, ParametersAreCheckedBeforeAnyDraw) {
     for (const auto& [a, b] : parameters) {
       SCOPED_TRACE(::testing::Message() << variate << ' ' << a << ' ' << b);
       EXPECT_MATH_ERROR(Variates().at(variate)(a, b, NoDraw), id);
+      EXPECT_MATH_ERROR(Samplers().at(variate)(a, b), id);
     }
   }
   EXPECT_GT(Random_Inv_Gauss(6e-9L, 0, ScriptedSource({1e-8L, 0.5L})), 0);
@@ -66,6 +68,7 @@ TEST(Limits, ParametersAreCheckedBeforeAnyDraw) {
 
 TEST(Limits, ErrorsOfTheArithmetic) {
   EXPECT_ERROR(Random_LogNormal(1, 0.5L, NoDraw), EInvalidOp, rsInvalidOp);
+  EXPECT_ERROR(LogNormalSampler(1, 0.5L), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(Random_LogNormal(1, 1e-3000L, NoDraw), EInvalidOp, rsInvalidOp);
   EXPECT_ERROR(Random_LogNormal(1, 1e3000L, NoDraw), EOverflow, rsOverflow);
   EXPECT_ERROR(Random_LogNormal(1e4932L, 5, ScriptedSource({0.5L, 0.75L})), EOverflow, rsOverflow);

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <functional>
 #include <limits>
 #include <map>
 #include <string>
+#include <vector>
 
 #include "qorvex/random/QorvexRandom.h"
 
@@ -47,6 +49,39 @@ inline const std::map<std::string, NamedDraw>& Variates() {
       {"poisson", [](E a, E, S s) { return Random_Poisson(a, s); }},
   };
   return variates;
+}
+
+/// Draws variates of parameters that are fixed.
+using Draw = std::function<Extended(UniformSource source)>;
+
+/// The samplers of the variates that have one, by the same names.
+inline const std::map<std::string, Draw (*)(Extended a, Extended b)>& Samplers() {
+  using E = Extended;
+  static const std::map<std::string, Draw (*)(Extended a, Extended b)> samplers = {
+      {"gamma", [](E a, E) -> Draw { return GammaSampler(a); }},
+      {"chi-square", [](E a, E) -> Draw { return ChiSquareSampler(Nearest<std::int32_t>(a)); }},
+      {"weibull", [](E a, E) -> Draw { return WeibullSampler(a); }},
+      {"student-t", [](E a, E) -> Draw { return StudentTSampler(Nearest<std::int32_t>(a)); }},
+      {"log-normal", [](E a, E b) -> Draw { return LogNormalSampler(a, b); }},
+      {"beta", [](E a, E b) -> Draw { return BetaSampler(a, b); }},
+      {"inverse-gaussian", [](E a, E b) -> Draw { return InverseGaussianSampler(a, b); }},
+      {"von-mises", [](E a, E) -> Draw { return VonMisesSampler(a); }},
+      {"binomial-1",
+       [](E a, E b) -> Draw { return BinomialInversionSampler(Nearest<std::int32_t>(a), b); }},
+      {"binomial-2", [](E a, E b) -> Draw { return BinomialSampler(Nearest<std::int64_t>(a), b); }},
+      {"negative-binomial", [](E a, E b) -> Draw { return NegativeBinomialSampler(a, b); }},
+      {"poisson", [](E a, E) -> Draw { return PoissonSampler(a); }},
+  };
+  return samplers;
+}
+
+/// The routine of a variate, and its sampler if it has one.
+inline std::vector<Draw> WaysToDraw(const std::string& variate, Extended a, Extended b) {
+  std::vector<Draw> ways = {
+      [=, draw = Variates().at(variate)](UniformSource source) { return draw(a, b, source); }};
+  if (const auto sampler = Samplers().find(variate); sampler != Samplers().end())
+    ways.push_back(sampler->second(a, b));
+  return ways;
 }
 
 }  // namespace qorvex::testing

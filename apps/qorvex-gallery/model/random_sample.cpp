@@ -23,7 +23,7 @@ namespace {
 bool DrawValues(const SampleOrder& order, TQorFloatVector& values, const Proceed& proceed) {
   apps::VariateArguments arguments;
   for (const Extended parameter : order.parameters) arguments.Append({parameter});
-  const auto draw = order.variate->methods.front().draw;
+  const apps::Draw draw = order.variate->methods.front().prepare(arguments);
   TQorFloatVector figure = TQorFloatVector::WithLength(1);
   SetRandSeed(order.seed);
   // By the clock, because some variates take nanoseconds and others milliseconds.
@@ -34,7 +34,7 @@ bool DrawValues(const SampleOrder& order, TQorFloatVector& values, const Proceed
       if (!proceed(i, order.size)) return false;
       next = now + std::chrono::milliseconds(20);
     }
-    draw(arguments, figure, ClassicRandom);
+    draw(figure, ClassicRandom);
     values[i] = CheckedFinite(figure[0]);
   }
   return true;

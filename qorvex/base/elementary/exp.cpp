@@ -10,24 +10,27 @@ namespace {
 
 using namespace elementary;
 
-// The second stage: where the first is in doubt, and for |x| from 2^-66 to 2^-64. e^x is
-// transcendental unless x = 0 (Lindemann 1882), so it is never a midpoint.
+// The second stage. e^x is transcendental unless x = 0 (Lindemann 1882), so it is never a midpoint.
 [[gnu::noinline]] Wide256 ExpInDoubt(Binary80 x) {
   return elementary::Exp(Wide256(FromBits(x)));
 }
 
-// All x but those from 2^-64 to 2^14 in absolute value.
+// All x but those from 2^-49 to 2^14 in absolute value.
 [[gnu::noinline]] Binary80 ExpOfUnusual(Binary80 x) {
   if (IsNaN(x)) return QuietNaN();
   const int exponent = x.Exponent() - kExponentBias;
   if (exponent > 0) return x.IsNegative() ? SignedZero(false) : SignedInfinity(false);
-  // Below 2^-66, the distance from 1 to both its midpoints is larger.
-  return exponent < -66 ? SignedOne(false) : NearestBits(ExpInDoubt(x));
+  // The midpoints beside 1 are further away.
+  if (exponent < -66) return SignedOne(false);
+  // The term after x^2 / 2 is below 2^-152.
+  const Wide t(FromBits(x));
+  return CorrectlyRounded(Wide(1.0L) + (t + ScaledBy(t * t, -1)), 16,
+                          [x] { return ExpInDoubt(x); });
 }
 
 [[gnu::always_inline]] inline Binary80 ExpKernel(Binary80 x) {
   const int exponent = x.Exponent() - kExponentBias;
-  if (static_cast<unsigned>(exponent + 64) >= 64 + 14 || x.significand < kTopBit) [[unlikely]]
+  if (static_cast<unsigned>(exponent + 49) >= 49 + 14 || x.significand < kTopBit) [[unlikely]]
     return ExpOfUnusual(x);
   constexpr std::uint64_t half_width = 1 << 16;
   return CorrectlyRounded(ExpOf(x.significand, exponent, x.IsNegative()), half_width,
@@ -48,7 +51,13 @@ void Exp(VectorView<Extended> x, std::span<Extended> results) {
 namespace qorvex::elementary {
 
 Wide ExpWide(const Wide& x) {
-  return ExpOf(x);
+  if (x.exponent < 14) return ExpOf(x);
+  // Whole powers of 2 first.
+  constexpr Wide ln2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
+  const std::uint64_t twos = MultiplyHigh(High(x.mantissa), kInverseLn2) >> (62 - x.exponent);
+  const Wide rest = Wide{x.mantissa, x.exponent} - NormalisedWide(twos, 127) * ln2;
+  const auto k = static_cast<std::int64_t>(twos);
+  return x.negative ? ScaledBy(ExpOf(-rest), -k) : ScaledBy(ExpOf(rest), k);
 }
 
 }  // namespace qorvex::elementary

@@ -11,52 +11,60 @@
 #include "qorvex/base/elementary/detail/ziv.h"
 #include "qorvex/base/elementary/functions.h"
 
-namespace qorvex {
-
-namespace elementary {
+namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
+using namespace elementary;
+
+[[gnu::noinline]] Wide256 LogInDoubt(Normalised x) {
+  return elementary::Log(Wide256(WideOf(x)));
+}
+
 [[gnu::always_inline]] inline Binary80 LogKernel(Binary80 x) {
-  return LogOverAll(x, [](Normalised number) {
-    return CorrectlyRounded(LogOf(number), kLogHalfWidth,
-                            [number] { return Log(Wide256(WideOf(number))); });
+  Normalised number{x.significand, x.sign_exponent - kExponentBias};
+  if (!IsPositiveNormal(x)) [[unlikely]] {
+    if (!IsPositive(x)) return LogOfSpecial(x);
+    number = Normalise(x);
+  }
+  return FinishLog(number, [number](const Wide& log) {
+    if (log.IsZero()) return SignedZero(false);
+    return CorrectlyRounded(log, kLogHalfWidth, [number] { return LogInDoubt(number); });
   });
 }
 
-// ln 2, cut off.
-constexpr Wide kLn2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
-
 }  // namespace
 
+Extended Log(Extended x) noexcept {
+  return FromBits(LogKernel(BitsOf(x)));
+}
+
+void Log(VectorView<Extended> x, std::span<Extended> results) {
+  OverSpans(x, results, [](Binary80 t) { return LogKernel(t); });
+}
+
+}  // namespace qorvex::inline QorvexGlobals
+
+namespace qorvex::elementary {
+
 Wide LogWide(Extended x) {
-  return LogOf(Normalise(BitsOf(x)));
+  const Normalised number = Normalise(BitsOf(x));
+  if (IsBeside1(number.significand, number.exponent))
+    return LogBeside1(Join(number.significand, 0), number.exponent);
+  return Floating(LogByTables(number.significand, number.exponent));
 }
 
 Wide LogWide(const Wide& x) {
   constexpr std::int64_t most = 20000;
   if (x.exponent > most || x.exponent < -most) {
+    // ln 2, cut off.
+    constexpr Wide ln2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
     const bool negative = x.exponent < 0;
     const auto magnitude = static_cast<std::uint64_t>(negative ? -x.exponent : x.exponent);
-    return LogWide(Wide{x.mantissa, 0}) + NormalisedWide(magnitude, 127, negative) * kLn2;
+    return LogWide(Wide{x.mantissa, 0}) + NormalisedWide(magnitude, 127, negative) * ln2;
   }
   if (IsBeside1(High(x.mantissa), x.exponent)) return LogBeside1(x.mantissa, x.exponent);
-  return LogByTables(x.mantissa, x.exponent);
+  return Floating(LogByTables(x.mantissa, x.exponent));
 }
 
-}  // namespace elementary
-
-inline namespace QorvexGlobals {
-
-Extended Log(Extended x) noexcept {
-  return FromBits(elementary::LogKernel(elementary::BitsOf(x)));
-}
-
-void Log(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results,
-                        [](elementary::Binary80 t) { return elementary::LogKernel(t); });
-}
-
-}  // namespace QorvexGlobals
-
-}  // namespace qorvex
+}  // namespace qorvex::elementary

@@ -9,29 +9,34 @@
 #include "qorvex/base/elementary/detail/ziv.h"
 #include "qorvex/base/elementary/functions.h"
 
-namespace qorvex {
-
-namespace elementary {
+namespace qorvex::inline QorvexGlobals {
 
 namespace {
 
-// 1 + x for x > -1 with an exponent from -12 to 126: exact.
-[[gnu::always_inline]] inline Wide OnePlus(Normalised x, bool negative) {
-  // The larger exponent comes to bit 126.
-  const int exponent = x.exponent > 0 ? x.exponent : 0;
-  const UInt128 one = UInt128{1} << (126 - exponent);
-  const UInt128 part = Join(x.significand, 0) >> (1 + exponent - x.exponent);
-  return NormalisedWide(negative ? one - part : one + part, exponent + 1);
-}
+using namespace elementary;
 
-// ln(1 + x) for x > -1 but 0; relative error below kLogHalfWidth 2^-127.
-[[gnu::always_inline]] inline Wide Log1pOf(Normalised x, bool negative) {
-  if (x.exponent < -12) return Log1pOfSmall(WideOf(x, negative));
-  // Now 1 / x is below 2^-126, too small to be seen in 128 bits of the logarithm.
-  if (x.exponent > 126) [[unlikely]]
-    return LogByTables(x.significand, x.exponent);
-  const Wide sum = OnePlus(x, negative);
-  return LogByTables(sum.mantissa, sum.exponent);
+// finish(ln(1 + x)) for x > -1 but 0, of a logarithm with a relative error below 2^-97: where |x|
+// is small, and of the others.
+template <class Finish>
+[[gnu::noinline]] Binary80 FinishLog1pOfSmall(Normalised x, bool negative, Finish finish) {
+  return finish(Log1pOfSmall(WideOf(x, negative)));
+}
+template <class Finish>
+[[gnu::noinline]] Binary80 FinishLog1pOfOther(Normalised x, bool negative, Finish finish) {
+  return finish(Log1pWide(WideOf(x, negative)));
+}
+template <class Finish>
+[[gnu::always_inline]] inline Binary80 FinishLog1p(Normalised x, bool negative, Finish finish) {
+  if (x.exponent < -12) return FinishLog1pOfSmall(x, negative, finish);
+  // 1 + x, exactly, with the larger exponent at bit 126 and above.
+  const int exponent = x.exponent > 0 ? x.exponent : 0;
+  const UInt128 one = Join(kTopBit >> 1 >> (exponent & 63), 0);
+  const UInt128 part = ShiftedRight(Join(x.significand, 0), (1 + exponent - x.exponent) & 63);
+  const UInt128 sum = negative ? one - part : one + part;
+  if (x.exponent > 62 || High(sum) == 0) [[unlikely]]
+    return FinishLog1pOfOther(x, negative, finish);
+  const int zeros = std::countl_zero(High(sum));
+  return finish(Floating(LogByTables(ShiftedLeft(sum, zeros), exponent + 1 - zeros)));
 }
 
 // The values that are x itself, infinite or NaN.
@@ -43,21 +48,37 @@ Binary80 Log1pOfSpecial(Binary80 x) {
                                                                    : QuietNaN();
 }
 
+[[gnu::noinline]] Wide256 Log1pInDoubt(Normalised x, bool negative) {
+  return elementary::Log(Wide256(WideOf(x, negative)) + 1);
+}
+
 [[gnu::always_inline]] inline Binary80 Log1pKernel(Binary80 x) {
   const Normalised number{x.significand, x.Exponent() - kExponentBias};
   const bool negative = x.IsNegative();
   // |x| < 2^-66: x (1 - x/2 + ...) is x, since the next numbers differ by 2^-64 of x or more.
   if (!IsNormal(x) || number.exponent < -66 || (negative && number.exponent >= 0)) [[unlikely]]
     return Log1pOfSpecial(x);
-  return CorrectlyRounded(Log1pOf(number, negative), kLogHalfWidth,
-                          [=] { return Log(Wide256(WideOf(number, negative)) + 1); });
+  return FinishLog1p(number, negative, [=](const Wide& log) {
+    return CorrectlyRounded(log, kLogHalfWidth, [=] { return Log1pInDoubt(number, negative); });
+  });
 }
 
 }  // namespace
 
+Extended Log1p(Extended x) noexcept {
+  return FromBits(Log1pKernel(BitsOf(x)));
+}
+
+void Log1p(VectorView<Extended> x, std::span<Extended> results) {
+  OverSpans(x, results, [](Binary80 t) { return Log1pKernel(t); });
+}
+
+}  // namespace qorvex::inline QorvexGlobals
+
+namespace qorvex::elementary {
+
 Wide Log1pWide(Extended x) {
-  const Binary80 bits = BitsOf(x);
-  return IsZero(bits) ? Wide() : Log1pOf(Normalise(bits), bits.IsNegative());
+  return Log1pWide(Wide(x));
 }
 
 Wide Log1pWide(const Wide& x) {
@@ -67,19 +88,4 @@ Wide Log1pWide(const Wide& x) {
   return LogWide(Wide(1.0L) + x);
 }
 
-}  // namespace elementary
-
-inline namespace QorvexGlobals {
-
-Extended Log1p(Extended x) noexcept {
-  return FromBits(elementary::Log1pKernel(elementary::BitsOf(x)));
-}
-
-void Log1p(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results,
-                        [](elementary::Binary80 t) { return elementary::Log1pKernel(t); });
-}
-
-}  // namespace QorvexGlobals
-
-}  // namespace qorvex
+}  // namespace qorvex::elementary

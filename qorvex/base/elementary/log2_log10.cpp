@@ -13,11 +13,11 @@
 #include "qorvex/base/elementary/detail/ziv.h"
 #include "qorvex/base/elementary/functions.h"
 
-namespace qorvex {
-
-namespace elementary {
+namespace qorvex::inline QorvexGlobals {
 
 namespace {
+
+using namespace elementary;
 
 // 1 / ln b, cut off to 256 bits.
 struct Base {
@@ -34,37 +34,52 @@ constexpr Base kBase2{
 constexpr Base kBase10{
     {0x3a3f2d44f78ea53c, 0x3ee3460245c9a202, 0x355baaafad33dc32, 0xde5bd8a937287195}, -2};
 
-// ln x / ln b. The product adds an error of 2^-124 to those of the logarithm.
+template <const Base& base>
+[[gnu::noinline]] Wide256 LogToBaseInDoubt(Normalised x) {
+  return Log(Wide256(WideOf(x))) * base.Whole();
+}
+
+template <const Base& base>
+[[gnu::always_inline]] inline Binary80 Rounded(const Wide& log, Normalised x) {
+  return CorrectlyRounded(log, kLogHalfWidth, [x] { return LogToBaseInDoubt<base>(x); });
+}
+
+template <const Base& base>
+[[gnu::noinline]] Binary80 LogToBaseBeside1(Normalised x) {
+  const Wide log = LogBeside1(Join(x.significand, 0), x.exponent);
+  return log.IsZero() ? SignedZero(false) : Rounded<base>(log * base.Leading(), x);
+}
+
+// ln x / ln b. The product adds an error of 2^-111 to that of the sum.
 template <const Base& base>
 [[gnu::always_inline]] inline Binary80 LogToBase(Binary80 x) {
-  return LogOverAll(x, [](Normalised number) {
-    return CorrectlyRounded(LogOf(number) * base.Leading(), kLogHalfWidth,
-                            [number] { return Log(Wide256(WideOf(number))) * base.Whole(); });
-  });
+  Normalised number{x.significand, x.sign_exponent - kExponentBias};
+  if (!IsPositiveNormal(x)) [[unlikely]] {
+    if (!IsPositive(x)) return LogOfSpecial(x);
+    number = Normalise(x);
+  }
+  if (IsBeside1(number.significand, number.exponent)) return LogToBaseBeside1<base>(number);
+  FixedLog log = LogByTables(number.significand, number.exponent);
+  log.magnitude = MultiplyHigh(log.magnitude, base.Leading().mantissa);
+  return Rounded<base>(Floating(log, base.exponent + 1), number);
 }
 
 }  // namespace
 
-}  // namespace elementary
-
-inline namespace QorvexGlobals {
-
 Extended Log2(Extended x) noexcept {
-  return FromBits(elementary::LogToBase<elementary::kBase2>(elementary::BitsOf(x)));
+  return FromBits(LogToBase<kBase2>(BitsOf(x)));
 }
 
 void Log2(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::LogToBase<elementary::kBase2>);
+  OverSpans(x, results, [](Binary80 t) { return LogToBase<kBase2>(t); });
 }
 
 Extended Log10(Extended x) noexcept {
-  return FromBits(elementary::LogToBase<elementary::kBase10>(elementary::BitsOf(x)));
+  return FromBits(LogToBase<kBase10>(BitsOf(x)));
 }
 
 void Log10(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::LogToBase<elementary::kBase10>);
+  OverSpans(x, results, [](Binary80 t) { return LogToBase<kBase10>(t); });
 }
 
-}  // namespace QorvexGlobals
-
-}  // namespace qorvex
+}  // namespace qorvex::inline QorvexGlobals

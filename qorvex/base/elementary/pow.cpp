@@ -100,16 +100,18 @@ std::optional<Binary80> SpecialPower(Binary80 x, Binary80 y) {
     }
   }
   const Wide factor = WideOf(exponent, y.IsNegative());
-  const Wide t = LogOf(base) * factor;
-  // 1 + t + ...: the distance from 1 to both its midpoints is larger.
-  if (t.IsZero() || t.exponent < -66) return SignedOne(negative);
-  if (t.exponent >= 14) return t.negative ? SignedZero(negative) : SignedInfinity(negative);
-  Wide power = ExpOf(t);
-  power.negative = negative;
-  // The error of the logarithm, 2^-97 t, and that of the exponential, 2^-111.
-  const std::uint64_t half_width = std::uint64_t{1}
-                                   << (33 + std::max<std::int64_t>(t.exponent, -14));
-  return CorrectlyRounded(power, half_width, [&] { return PowerInDoubt(base, factor, negative); });
+  return FinishLog(base, [=](const Wide& log) {
+    const Wide t = log * factor;
+    // 1 + t + ...: the distance from 1 to both its midpoints is larger.
+    if (t.IsZero() || t.exponent < -66) return SignedOne(negative);
+    if (t.exponent >= 14) return t.negative ? SignedZero(negative) : SignedInfinity(negative);
+    Wide power = ExpOf(t);
+    power.negative = negative;
+    // The error of the logarithm, 2^-97 t, and that of the exponential, 2^-111.
+    const int shift = 33 + std::max(static_cast<int>(t.exponent), -14);
+    return CorrectlyRounded(power, std::uint64_t{1} << shift,
+                            [=] { return PowerInDoubt(base, factor, negative); });
+  });
 }
 
 }  // namespace

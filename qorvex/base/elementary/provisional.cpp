@@ -26,19 +26,11 @@ void Expm1(In x, Out y) { Provisional(x, y, [](Extended t) { return Expm1(t); })
 Extended Exp2(Extended x) noexcept { return std::exp2(x); }
 void Exp2(In x, Out y) { Provisional(x, y, [](Extended t) { return Exp2(t); }); }
 
-// Tan
-Extended Tan(Extended x) noexcept { return std::tan(x); }
-void Tan(In x, Out y) { Provisional(x, y, [](Extended t) { return Tan(t); }); }
-
-// ArcCos, ArcSin, ArcTan, Cbrt
+// ArcCos, ArcSin
 Extended ArcCos(Extended x) noexcept { return std::acos(x); }
 void ArcCos(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcCos(t); }); }
 Extended ArcSin(Extended x) noexcept { return std::asin(x); }
 void ArcSin(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcSin(t); }); }
-Extended ArcTan(Extended x) noexcept { return std::atan(x); }
-void ArcTan(In x, Out y) { Provisional(x, y, [](Extended t) { return ArcTan(t); }); }
-Extended Cbrt(Extended x) noexcept { return std::cbrt(x); }
-void Cbrt(In x, Out y) { Provisional(x, y, [](Extended t) { return Cbrt(t); }); }
 
 }  // namespace qorvex::inline QorvexGlobals
 
@@ -47,7 +39,5 @@ namespace qorvex::elementary {
 // ExpWide, Expm1Wide
 Wide Expm1Wide(const Wide& x) { return Wide(std::expm1(Nearest(x))); }
 
-// ArcTanWide
-Wide ArcTanWide(const Wide& y, const Wide& x) { return Wide(std::atan2(Nearest(y), Nearest(x))); }
 
 }  // namespace qorvex::elementary

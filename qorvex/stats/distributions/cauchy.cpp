@@ -2,17 +2,42 @@
 
 #include <cmath>
 
-#include "qorvex/base/elementary.h"
 #include "qorvex/base/elementary/detail/first_stage.h"
-#include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
 namespace qorvex {
 
 using namespace distributions;
-using special::ExtendedPair;
-using special::Scaled;
+using special::kOne;
+using special::kWidePi;
+
+namespace {
+
+Wide Distance(Extended x, Extended location, Extended scale) {
+  const Wide z = (Wide(x) - Wide(location)) / Wide(scale);
+  return {z.mantissa, z.exponent};
+}
+
+// The cotangent of pi p for 0 < p < 1/2.
+Wide CotangentOfPi(Extended p) {
+  constexpr Extended tiny = 1e-30L;
+  if (p < tiny) return kOne / (kWidePi * Wide(p));
+  // From 1/4 on it is the tangent of the rest of the right angle.
+  const bool is_flat = p > 0.25L;
+  const Wide angle = kWidePi * Wide(is_flat ? 0.5L - p : p);
+  const Extended near = Nearest(angle);
+  const Wide rest = angle - Wide(near);
+  const auto [sine, cosine] = elementary::SinCosWide(near);
+  // For the angle near + rest, where squares of the rest are negligible.
+  const Wide y = sine + cosine * rest;
+  const Wide x = cosine - sine * rest;
+  return is_flat ? y / x : x / y;
+}
+
+}  // namespace
 
 CauchyDistribution::CauchyDistribution(Extended location, Extended scale)
     : location_(location), scale_(scale) {
@@ -23,35 +48,23 @@ CauchyDistribution::CauchyDistribution(Extended location, Extended scale)
 Extended CauchyDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
   if (std::isinf(x)) return 0;
-  const Extended z = std::fabs(Standardised(x, location_, scale_).hi);
-  if (z <= 1) return 1 / (QorPi * scale_ * (1 + z * z));
-  return 1 / (QorPi * scale_ * z) / (z + 1 / z);
+  const Wide z = Distance(x, location_, scale_);
+  return Nearest(kOne / (kWidePi * Wide(scale_) * (kOne + z * z)));
 }
 
 Tails CauchyDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
-  const ExtendedPair distance = special::ExactSum(x, -location_);
-  const Tail tail = distance.hi < 0 ? Tail::kLower : Tail::kUpper;
-  const ExtendedPair size = tail == Tail::kLower ? -distance : distance;
-  if (std::isinf(size.hi)) return {tail, Scaled{0, ExtendedPair()}};
-  const Extended z = std::fabs(Standardised(x, location_, scale_).hi);
-  // So far out the tail is 1 / (pi z), and may be too small for the format.
-  constexpr Extended far = 1e20L;
-  if (z > far) return {tail, Scaled{1 / QorPi, Ln(ExtendedPair(scale_)) - Ln(size)}};
-  const elementary::Wide angle =
-      elementary::ArcTanWide(elementary::Wide(1.0L), elementary::Wide(z));
-  return {tail, Scaled{elementary::Nearest(angle) / QorPi, ExtendedPair()}};
+  if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
+  const Wide angle = elementary::ArcTanWide(kOne, Distance(x, location_, scale_));
+  return {x < location_ ? Tail::kLower : Tail::kUpper, special::MakeScaled(angle / kWidePi)};
 }
 
 Extended CauchyDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(location_, scale_, p)) return kNotANumber;
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
-  // The scale times the cotangent of pi p, which is 1 / (pi p) for tiny p.
-  constexpr Extended tiny = 1e-30L;
-  Extended distance = scale_ / QorPi / p;
-  if (p >= tiny) distance = p < 0.25L ? scale_ / Tan(QorPi * p) : Tan(QorPi * (0.5L - p)) * scale_;
-  return CheckedFinite(location_ + (tail == Tail::kLower ? -distance : distance));
+  const Wide distance = CotangentOfPi(p);
+  return PointAt(tail == Tail::kLower ? -distance : distance, location_, scale_);
 }
 
 Extended CauchyDistribution::Mean() const {

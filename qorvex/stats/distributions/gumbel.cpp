@@ -4,6 +4,9 @@
 #include <numbers>
 
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
@@ -11,8 +14,6 @@
 namespace qorvex {
 
 using namespace distributions;
-using special::ExtendedPair;
-using special::Scaled;
 
 // e^-z is exponential with mean 1.
 
@@ -25,21 +26,22 @@ GumbelDistribution::GumbelDistribution(Extended location, Extended scale)
 Extended GumbelDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
   if (std::isinf(x)) return 0;
-  const ExtendedPair z = Standardised(x, location_, scale_);
-  const ExtendedPair t = Exp(-z);
-  return t.hi > kLargest ? 0 : Scaled{1 / scale_, -z - t}.Value();
+  const Wide rate = special::kOne / Wide(scale_);
+  const Wide z = (Wide(x) - Wide(location_)) * rate;
+  return special::MakeScaled(rate, -z - PointOfLog(-z)).Value();
 }
 
 Tails GumbelDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
   if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
-  return UnitExponentialTails(-Standardised(x, location_, scale_)).Mirrored();
+  return UnitExponentialTailsAtLog((Wide(location_) - Wide(x)) / Wide(scale_)).Mirrored();
 }
 
 Extended GumbelDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(location_, scale_, p)) return kNotANumber;
-  return PointAt(-LnUnitExponentialQuantile(Opposite(tail), p), location_, scale_);
+  return PointAt(-elementary::LogWide(UnitExponentialQuantile(Opposite(tail), p)), location_,
+                 scale_);
 }
 
 Extended GumbelDistribution::Mean() const {

@@ -3,15 +3,18 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
-#include "qorvex/base/special/normal_tail.h"
+#include "qorvex/base/special/detail/normal_wide.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
 namespace qorvex {
 
 using namespace distributions;
-using special::ExtendedPair;
+using elementary::LogWide;
 using special::Scaled;
 
 LogNormalDistribution::LogNormalDistribution(Extended log_mean, Extended log_std_dev)
@@ -22,24 +25,25 @@ LogNormalDistribution::LogNormalDistribution(Extended log_mean, Extended log_std
 Extended LogNormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return kNotANumber;
   if (x <= 0 || std::isinf(x)) return 0;
-  const ExtendedPair ln_x = Ln(ExtendedPair(x));
-  const Scaled density =
-      special::NormalDensity(Standardised(ln_x, log_mean_, log_std_dev_), log_std_dev_);
-  return (density * Scaled{1, -ln_x}).Value();
+  // One division gives 1 / (x s), and by that 1 / s.
+  const Wide wide_x(x);
+  const Wide factor = special::kOne / (wide_x * Wide(log_std_dev_));
+  const Wide z = (LogWide(x) - Wide(log_mean_)) * (wide_x * factor);
+  return special::NormalDensity(z, factor).Value();
 }
 
 Tails LogNormalDistribution::At(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
   if (std::isinf(x)) return AboveAll();
-  return StandardNormalTails(Standardised(Ln(ExtendedPair(x)), log_mean_, log_std_dev_));
+  return StandardNormalTails((LogWide(x) - Wide(log_mean_)) / Wide(log_std_dev_));
 }
 
 Extended LogNormalDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(log_mean_, log_std_dev_, p)) return kNotANumber;
-  return CheckedFinite(
-      Scaled{1, RefinedNormalQuantile(tail, p) * log_std_dev_ + log_mean_}.Value());
+  const Wide log = WideNormalQuantile(tail, p) * Wide(log_std_dev_) + Wide(log_mean_);
+  return CheckedFinite(special::MakeScaled(special::kOne, log).Value());
 }
 
 Extended LogNormalDistribution::Mean() const {

@@ -3,15 +3,34 @@
 #include <cmath>
 
 #include "qorvex/base/elementary.h"
-#include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
 namespace qorvex {
 
 using namespace distributions;
-using special::ExtendedPair;
-using special::Scaled;
+using special::kOne;
+using special::MakeScaled;
+
+namespace {
+
+// The distance from the location, in units of the scale, and e^-distance; 0 where that is beyond
+// all bounds.
+struct Standardised {
+  Wide distance;
+  Wide power;
+};
+Standardised StandardisedDistance(Extended x, Extended location, const Wide& rate) {
+  const Wide z = (Wide(x) - Wide(location)) * rate;
+  const Wide distance(z.mantissa, z.exponent);
+  constexpr std::int64_t far_exponent = 30;
+  return {distance, z.exponent < far_exponent ? elementary::ExpWide(-distance) : Wide()};
+}
+
+}  // namespace
 
 LogisticDistribution::LogisticDistribution(Extended location, Extended scale)
     : location_(location), scale_(scale) {
@@ -22,25 +41,29 @@ LogisticDistribution::LogisticDistribution(Extended location, Extended scale)
 Extended LogisticDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
   if (std::isinf(x)) return 0;
-  const ExtendedPair z = Standardised(x, location_, scale_);
-  const ExtendedPair exponent = z.hi < 0 ? z : -z;
-  const Extended sum = 1 + Exp(exponent.hi);
-  return Scaled{1 / (scale_ * sum * sum), exponent}.Value();
+  const Wide rate = kOne / Wide(scale_);
+  const Wide power = StandardisedDistance(x, location_, rate).power;
+  const Wide sum = kOne + power;
+  return Nearest(rate * power / (sum * sum));
 }
 
 Tails LogisticDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
   if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
-  const ExtendedPair z = Standardised(x, location_, scale_);
-  const ExtendedPair exponent = z.hi < 0 ? z : -z;
-  const Tail tail = z.hi < 0 ? Tail::kLower : Tail::kUpper;
-  return {tail, Scaled{1 / (1 + Exp(exponent.hi)), exponent}};
+  const Tail tail = x < location_ ? Tail::kLower : Tail::kUpper;
+  const auto [distance, power] = StandardisedDistance(x, location_, kOne / Wide(scale_));
+  if (power.IsZero()) return {tail, MakeScaled(kOne, -distance)};
+  return {tail, MakeScaled(power / (kOne + power))};
 }
 
 Extended LogisticDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(location_, scale_, p)) return kNotANumber;
-  const ExtendedPair ln_odds = Ln(p / special::ExactSum(1, -p));
+  const Wide rest = kOne - Wide(p);
+  // Near 1/2 the odds are 1 + (2 p - 1) / (1 - p).
+  const bool is_central = p > 0.25L && p < 0.75L;
+  const Wide ln_odds = is_central ? elementary::Log1pWide((ScaledBy(Wide(p), 1) - kOne) / rest)
+                                  : elementary::LogWide(Wide(p) / rest);
   return PointAt(tail == Tail::kLower ? ln_odds : -ln_odds, location_, scale_);
 }
 

@@ -2,7 +2,8 @@
 
 #include <cmath>
 
-#include "qorvex/base/special/normal_tail.h"
+#include "qorvex/base/special/detail/normal_wide.h"
+#include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
@@ -18,19 +19,20 @@ NormalDistribution::NormalDistribution(Extended mean, Extended std_dev)
 Extended NormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(mean_, std_dev_, x)) return kNotANumber;
   if (std::isinf(x)) return 0;
-  return special::NormalDensity(Standardised(x, mean_, std_dev_), std_dev_).Value();
+  const Wide rate = special::kOne / Wide(std_dev_);
+  return special::NormalDensity((Wide(x) - Wide(mean_)) * rate, rate).Value();
 }
 
 Tails NormalDistribution::At(Extended x) const {
   if (AnyNaN(mean_, std_dev_, x)) return UnknownTails();
   if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
-  return StandardNormalTails(Standardised(x, mean_, std_dev_));
+  return StandardNormalTails((Wide(x) - Wide(mean_)) / Wide(std_dev_));
 }
 
 Extended NormalDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(mean_, std_dev_, p)) return kNotANumber;
-  return CheckedFinite(StandardNormalQuantile(tail, p) * std_dev_ + mean_);
+  return PointAt(WideNormalQuantile(tail, p), mean_, std_dev_);
 }
 
 Interval<Extended> NormalDistribution::Support() const {

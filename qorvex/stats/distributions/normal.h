@@ -14,8 +14,8 @@ namespace qorvex {
 ///   deviation s.
 /// - Support: all real numbers.
 /// - Errors: rsStdDev unless std_dev > 0; EInvalidOp for an infinite mean.
-/// - Method: z in 125 bits, the C library's erfc, and its asymptotic series 100 standard deviations
-///   out. Quantiles by the inverse of erfc, which is Boost.Math's.
+/// - Method: erfc and its inverse by polynomials on pieces. All figures are computed in 128 bits and
+///   rounded once.
 class QORVEX_EXPORT NormalDistribution {
  public:
   /// The type of the points.

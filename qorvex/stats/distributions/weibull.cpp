@@ -2,7 +2,9 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/base/special/factorial.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
@@ -14,6 +16,11 @@ using special::ExtendedPair;
 using special::Scaled;
 
 namespace {
+
+// The logarithm of (x / scale)^shape, which is exponential with mean 1.
+Wide LogOfExponential(Extended x, Extended shape, Extended scale) {
+  return Wide(shape) * elementary::LogWide(Wide(x) / Wide(scale));
+}
 
 // The Riemann zeta function at 2, 3, ...
 constexpr Extended kZeta[] = {
@@ -35,33 +42,29 @@ WeibullDistribution::WeibullDistribution(Extended shape, Extended scale)
   RequireShape(std::fabs(shape));
 }
 
-ExtendedPair WeibullDistribution::LnOfExponential(Extended x) const {
-  return shape_ * LnOfRatio(ExtendedPair(x) / scale_, x, scale_);
-}
-
 Extended WeibullDistribution::Pdf(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return kNotANumber;
   if (x == 0 && shape_ > 0) return DensityAtEnd(shape_, 1 / scale_);
   if (x <= 0 || std::isinf(x)) return 0;
-  const ExtendedPair ln_t = LnOfExponential(x);
-  const ExtendedPair t = Exp(ln_t);
-  if (t.hi > kLargest) return 0;
-  return Scaled{std::fabs(shape_), ln_t - Ln(ExtendedPair(x)) - t}.Value();
+  const Wide ln_t = LogOfExponential(x, shape_, scale_);
+  const Wide factor = Wide(std::fabs(shape_)) / Wide(x);
+  return special::MakeScaled(factor, ln_t - PointOfLog(ln_t)).Value();
 }
 
 Tails WeibullDistribution::At(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
   if (std::isinf(x)) return AboveAll();
-  const Tails tails = UnitExponentialTails(LnOfExponential(x));
+  const Tails tails = UnitExponentialTailsAtLog(LogOfExponential(x, shape_, scale_));
   return shape_ > 0 ? tails : tails.Mirrored();
 }
 
 Extended WeibullDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(shape_, scale_, p)) return kNotANumber;
-  const ExtendedPair ln_t = LnUnitExponentialQuantile(shape_ > 0 ? tail : Opposite(tail), p);
-  return CheckedFinite(Scaled{1, ln_t / shape_ + Ln(ExtendedPair(scale_))}.Value());
+  const Wide t = UnitExponentialQuantile(shape_ > 0 ? tail : Opposite(tail), p);
+  const Wide log = elementary::LogWide(t) / Wide(shape_);
+  return CheckedFinite(special::MakeScaled(Wide(scale_), log).Value());
 }
 
 Scaled WeibullDistribution::Moment(int n) const {

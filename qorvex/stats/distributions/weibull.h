@@ -47,8 +47,6 @@ class QORVEX_EXPORT WeibullDistribution {
   /// @}
 
  private:
-  // ln t at x > 0.
-  [[nodiscard]] special::ExtendedPair LnOfExponential(Extended x) const;
   // The mean of X^n for scale 1; infinite where n / shape <= -1.
   [[nodiscard]] special::Scaled Moment(int n) const;
   // ln(Moment(n) / Moment(1)^n).

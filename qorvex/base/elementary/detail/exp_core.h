@@ -9,34 +9,30 @@
 
 namespace qorvex::elementary {
 
-// Reduction: x = (k + f) ln 2 / 2^16 with an integer k and 0 <= f < 1.05, so that
-// e^x = 2^(k / 2^16) e^r with r = f ln 2 / 2^16 < 2^-16.4.
-
-/// k, and r in units of 2^-127.
+/// x = k ln 2 / 2^16 + r with an integer k and 0 <= r < 2^-16.5, so that e^x = 2^(k / 2^16) e^r.
 struct ReducedExponent {
   std::int64_t k;
-  UInt128 r;
+  UInt128 r;  // in units of 2^-144
 };
 
-/// 2^63 / ln 2, cut off.
+/// 2^63 / ln 2 and ln 2 / 2^16 in units of 2^-144, cut off.
 inline constexpr std::uint64_t kInverseLn2 = 0xb8aa3b295c17f0bb;
+inline constexpr std::uint64_t kLn2Step[2] = {0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af};
 
-/// The reduction of x < 2^40 in absolute value, from |x| 2^127 modulo 2^128, cut off, from the 64
-/// leading bits of x, and from its exponent. r is wrong by less than 3 units.
-[[gnu::always_inline]] inline ReducedExponent ReduceByLn2(UInt128 fixed, std::uint64_t leading,
+/// The reduction of x = (-1)^negative leading 2^(exponent - 63) with -49 <= exponent < 14, which is
+/// `magnitude` in units of 2^-144, modulo 2^128. Error of r: below 2^-114.4, besides that of x.
+[[gnu::always_inline]] inline ReducedExponent ReduceByLn2(UInt128 magnitude, std::uint64_t leading,
                                                           int exponent, bool negative) {
-  // ln 2 / 2^16 in units of 2^-191.
-  constexpr std::uint64_t kLn2Step[3] = {0x000058b90bfbe8e7, 0xbcd5e4f1d9cc01f9,
-                                         0x7b57a079a193394c};
   const std::uint64_t sign = negative ? ~std::uint64_t{0} : 0;
-  // |x| 2^22 / ln 2, too small by less than 3. The number of steps is rounded down or, for negative
-  // x, up, so that r >= 0.
-  const std::uint64_t estimate = MultiplyHigh(leading, kInverseLn2) >> std::min(40 - exponent, 63);
-  const std::uint64_t steps = (estimate + (sign & 66)) >> 6;
-  const UInt128 multiple = Multiply(steps, kLn2Step[1]) + Join(steps * kLn2Step[0], 0) +
-                           MultiplyHigh(steps, kLn2Step[2]);
-  const UInt128 rest = fixed - multiple;
-  return {static_cast<std::int64_t>((steps ^ sign) - sign), (rest ^ Join(sign, sign)) + (sign & 1)};
+  // |x| 2^48 / ln 2, too small by less than 3; for negative x, -3 minus that. Rounding it down
+  // keeps r >= 0.
+  const std::uint64_t estimate = MultiplyHigh(leading, kInverseLn2) >> (14 - exponent);
+  const std::int64_t k = static_cast<std::int64_t>((estimate + (sign & 2)) ^ sign) >> 32;
+  // x - k ln 2 / 2^16, modulo 2^128. A negative k as a word is larger by 2^64; a negative x without
+  // its last unit is the complement.
+  const auto word = static_cast<std::uint64_t>(k);
+  const std::uint64_t high = (High(magnitude) ^ sign) + (sign & kLn2Step[1]) - word * kLn2Step[0];
+  return {k, Join(high, Low(magnitude) ^ sign) - Multiply(word, kLn2Step[1])};
 }
 
 /// 2^(i / 256) in units of 2^-127.
@@ -47,51 +43,52 @@ inline constexpr std::uint64_t kExpHigh[256][2] = {
 inline constexpr std::uint64_t kExpLow[256][2] = {
 #include "qorvex/base/elementary/detail/tables/exp_low.inc"
 };
+/// The polynomial c3 + c4 r + c5 r^2, in units of 2^-66, 2^-50 and 2^-34.
+inline constexpr std::uint64_t kExpCoefficients[3] = {0xaaaaaaaaaaaaaaae, 0x00002aaaaaaaaa48,
+                                                      0x0000000008888a03};
 
-/// e^r - 1 in units of 2^-127 = r + r^2 / 2 + r^3 (c3 + c4 r + c5 r^2). Error: 2^-113.3 by the
-/// polynomial, 2^-111.9 by cutting off its last part, and 2 units.
+/// e^r - 1 = r + r (r / 2 + r^2 (c3 + c4 r + c5 r^2)) in units of 2^-144. Error: 2^-113.3 by the
+/// polynomial, 2^-112.3 by cutting off its value, and 3 units of 2^-128 2^-16.
 [[gnu::always_inline]] inline UInt128 Expm1OfStep(UInt128 r) {
-  // In units of 2^-66, 2^-50, 2^-34.
-  constexpr std::uint64_t kCoefficients[3] = {0xaaaaaaaaaaaaaaaf, 0x00002aaaaaaaaa3f,
-                                              0x0000000008888a15};
-  const std::uint64_t leading = Low(r >> 47);                                        // of 2^-80
-  const std::uint64_t cube = MultiplyHigh(MultiplyHigh(leading, leading), leading);  // of 2^-112
+  const std::uint64_t leading = High(r);                        // of 2^-80
+  const std::uint64_t square = MultiplyHigh(leading, leading);  // of 2^-96
   const std::uint64_t polynomial =
-      kCoefficients[0] +
-      MultiplyHigh(leading, kCoefficients[1] + MultiplyHigh(leading, kCoefficients[2]));
-  return r + MultiplyHigh(r, r) + (UInt128{MultiplyHigh(cube, polynomial)} << 13);
+      kExpCoefficients[0] +
+      MultiplyHigh(leading, kExpCoefficients[1] + MultiplyHigh(leading, kExpCoefficients[2]));
+  const std::uint64_t tail = MultiplyHigh(square, polynomial);  // of 2^-98
+  return r + MultiplyHighOfSmall(r, ShiftedRight<17>(r) + ShiftedLeft<30>(UInt128{tail}));
 }
 
-/// 2^(k / 2^16) e^r; relative error below 2^-111: that of e^r - 1, 3 units of 2^-127 in r, 4 for
-/// the tables and their product, and 4 for the last product.
+/// 2^(k / 2^16) e^r; relative error below 2^-111: that of r and e^r - 1, and 4 units of 2^-127 for
+/// the tables and the products.
 [[gnu::always_inline]] inline Wide ExpOfReduced(ReducedExponent x) {
   const std::uint64_t* high = kExpHigh[x.k >> 8 & 255];
   const std::uint64_t* low = kExpLow[x.k & 255];
   const UInt128 one = Join(high[0], high[1]);
   const UInt128 power = one + MultiplyHigh(one, Join(low[0], low[1]));
-  const UInt128 product = MultiplyHigh(power, Expm1OfStep(x.r));
-  const UInt128 mantissa = power + product + product;
+  const UInt128 mantissa = power + MultiplyHighOfSmall(ShiftedRight<16>(power), Expm1OfStep(x.r));
   const std::int64_t exponent = x.k >> 16;
-  // f > 1 may lead to 2 and beyond.
+  // r may be larger than one step by its error, and lead to 2.
   if (mantissa >> 127 == 0) [[unlikely]]
     return {mantissa >> 1 | UInt128{1} << 127, exponent + 1};
   return {mantissa, exponent};
 }
 
-/// e^x for x = (-1)^negative significand 2^(exponent - 63), with the top bit of the significand set
-/// and -64 <= exponent < 40; relative error below 2^-111.
+/// e^x for x = (-1)^negative significand 2^(exponent - 63) with -49 <= exponent < 14; relative
+/// error below 2^-111.
 [[gnu::always_inline]] inline Wide ExpOf(std::uint64_t significand, int exponent, bool negative) {
-  return ExpOfReduced(
-      ReduceByLn2(UInt128{significand} << (exponent + 64), significand, exponent, negative));
+  const UInt128 magnitude = exponent >= -17 ? Join(significand << (exponent + 17), 0)
+                                            : UInt128{significand} << (exponent + 81);
+  return ExpOfReduced(ReduceByLn2(magnitude, significand, exponent, negative));
 }
 
-/// e^x for |x| < 2^40; relative error below 2^-111.
+/// e^x for |x| < 2^14; relative error below 2^-111.
 [[gnu::always_inline]] inline Wide ExpOf(const Wide& x) {
-  const int exponent = static_cast<int>(std::max<std::int64_t>(x.exponent, -127));
-  const int left = std::max(exponent, 0);
-  const int right = left - exponent;
+  const int exponent = static_cast<int>(std::max<std::int64_t>(x.exponent, -144));
+  const UInt128 magnitude =
+      exponent >= -17 ? x.mantissa << (exponent + 17) : x.mantissa >> (-17 - exponent);
   return ExpOfReduced(
-      ReduceByLn2(x.mantissa >> right << left, High(x.mantissa), exponent, x.negative));
+      ReduceByLn2(magnitude, High(x.mantissa), std::max(exponent, -49), x.negative));
 }
 
 }  // namespace qorvex::elementary

@@ -6,18 +6,20 @@
 
 namespace qorvex::elementary {
 
-/// The bits of of_positive(x) for a finite x > 0; -infinity for zeros, infinity for infinity, and
-/// NaN for negative x and NaN.
-template <class OfPositive>
-[[gnu::always_inline]] inline Binary80 LogOverAll(Binary80 x, OfPositive of_positive) {
-  Normalised number{x.significand, x.sign_exponent - kExponentBias};
-  if (!IsNormal(x) || x.IsNegative()) [[unlikely]] {
-    if (IsZero(x)) return SignedInfinity(true);
-    if (IsNaN(x) || x.IsNegative()) return QuietNaN();
-    if (IsInfinity(x)) return x;
-    number = Normalise(x);
-  }
-  return of_positive(number);
+/// Whether x is positive, and neither subnormal nor infinite.
+inline bool IsPositiveNormal(Binary80 x) noexcept {
+  return x.significand >= kTopBit && x.sign_exponent - 1u < kExponentOfInfinity - 1u;
+}
+
+/// Whether x is finite and above 0.
+inline bool IsPositive(Binary80 x) noexcept {
+  return !x.IsNegative() && !IsZero(x) && !IsNaN(x) && !IsInfinity(x);
+}
+
+/// -infinity for zeros, infinity for infinity, and NaN for negative x and NaN.
+inline Binary80 LogOfSpecial(Binary80 x) noexcept {
+  if (IsZero(x)) return SignedInfinity(true);
+  return IsInfinity(x) && !x.IsNegative() ? x : QuietNaN();
 }
 
 }  // namespace qorvex::elementary

@@ -11,9 +11,9 @@
 
 namespace qorvex::elementary {
 
-/// Rows of a factor and the two words of minus its logarithm at scale 2^113. Factors of the first
-/// table are at scale 2^60, those of the second at 2^20. Logarithms of the first table also contain
-/// -kLogBias ln 2, modulo 2^128.
+/// Rows of a factor and the two words of minus its logarithm at scale 2^112. Factors of the first
+/// table are at scale 2^29, those of the second at 2^20. Logarithms of the first table also contain
+/// -1 - kLogBias ln 2, modulo 2^128.
 inline constexpr std::uint64_t kLogFirst[256][3] = {
 #include "qorvex/base/elementary/detail/tables/log_first.inc"
 };
@@ -21,55 +21,81 @@ inline constexpr std::uint64_t kLogSecond[287][3] = {
 #include "qorvex/base/elementary/detail/tables/log_second.inc"
 };
 inline constexpr std::int64_t kLogBias = 1 << 15;
-/// Scale 2^113.
-inline constexpr UInt128 kLogOf2 = Join(0x000162e42fefa39e, 0xf35793c7673007e6);
+/// ln 2 at scale 2^112.
+inline constexpr std::uint64_t kLogOf2[2] = {0x0000b17217f7d1cf, 0x79abc9e3b39803f3};
+
+/// x / 2^n and x 2^n modulo 2^128 for 0 <= n < 64, by shifts of single words: those of two words
+/// are slow on some processors.
+constexpr UInt128 ShiftedRight(UInt128 x, int n) {
+  return Join(High(x) >> n, (High(x) << 1 << (63 - n)) + (Low(x) >> n));
+}
+constexpr UInt128 ShiftedLeft(UInt128 x, int n) {
+  return Join((High(x) << n) + (Low(x) >> 1 >> (63 - n)), Low(x) << n);
+}
+
+/// z - ln(1 + z) at scale 2^112 for 0 <= z < 2^-15.9 at scale 2^143.
+///
+/// - It is z^2 / 2 - z^3 (1/3 - z/4 + z^2 / 5 - z^3 / 6), and breaks off 2^-114 early.
+/// - z^2 is a product of 96 bits, wrong by 2^-112. The cube is a product of 63 bits: 2^-110. The
+/// odd
+///   constants in it are the means of what is cut off before.
+[[gnu::always_inline]] inline UInt128 LogRest(UInt128 z) {
+  constexpr std::uint64_t third = ~std::uint64_t{0} / 3;
+  constexpr std::uint64_t fifth = (std::uint64_t{1} << 34) / 5;
+  constexpr std::uint64_t sixth = (std::uint64_t{1} << 19) / 6;
+  const std::uint64_t top = High(z);              // scale 2^79
+  const UInt128 square = Multiply(top, top);      // scale 2^158
+  const std::uint64_t square_top = High(square);  // scale 2^94
+  const UInt128 half_square = ShiftedRight(square, 47) + (MultiplyHigh(top, Low(z)) >> 46);
+  const std::uint64_t q =
+      third - (top >> 17) + MultiplyHigh(square_top, fifth - MultiplyHigh(top, sixth));
+  return half_square - MultiplyHigh(2 * square_top + 3, 4 * MultiplyHigh(top, q) + 3);
+}
+
+/// A logarithm of at least 2^-13 at scale 2^112.
+struct FixedLog {
+  UInt128 magnitude;
+  bool negative;
+};
+
+/// The same, 2^exponent times as large, as a Wide.
+[[gnu::always_inline]] inline Wide Floating(FixedLog log, std::int64_t exponent = 0) {
+  // The top word is not 0.
+  const int zeros = std::countl_zero(High(log.magnitude) | 1);
+  return {ShiftedLeft(log.magnitude, zeros), exponent + 15 - zeros, log.negative};
+}
 
 /// ln(m 2^exponent) for m in [1, 2), which `mantissa` is at scale 2^63 or 2^127, and an |exponent|
 /// of at most 20000, where the result is not within 2^-13 of 0.
 ///
 /// - m c r = 1 + z with table values c and r and 0 <= z < 2^-15.9. Exact for 64 bits; else too
-///   small by 2^-123.
-/// - ln(1 + z) = z - z^2 / 2 + z^3 (1/3 - z/4 + z^2 / 5 - z^3 / 6). The series breaks off 2^-114
-///   early. z^2 is a product of 96 bits, z^3 one of 63: 2^-110 together.
-/// - The sum with the logarithms of the tables and exponent ln 2, at scale 2^113: 2^-112, and
-/// 2^-114
+///   small by 2^-112.
+/// - The sum with the logarithms of the tables and exponent ln 2, at scale 2^112: 2^-111, and
+/// 2^-113
 ///   times the exponent.
-/// - All errors: below 2^-109.3 + 2^-114 |exponent| (checked by the script of the tables), which is
+/// - All errors: below 2^-109.3 + 2^-113 |exponent| (checked by the script of the tables), which is
 ///   2^-97.3 of a result of 2^-12.
 template <class Mantissa>
-[[gnu::always_inline]] inline Wide LogByTables(Mantissa mantissa, std::int64_t exponent) {
+[[gnu::always_inline]] inline FixedLog LogByTables(Mantissa mantissa, std::int64_t exponent) {
   constexpr bool is_wide = std::is_same_v<Mantissa, UInt128>;
   std::uint64_t top = 0;
   if constexpr (is_wide)
     top = High(mantissa);
   else
     top = mantissa;
-  const auto& [c, high_of_first, low_of_first] = kLogFirst[top >> 55 & 255];
-  UInt128 product = Multiply(top, c);  // scale 2^123
-  if constexpr (is_wide) product += MultiplyHigh(Low(mantissa), c);
-  const auto& [r, high_of_second, low_of_second] = kLogSecond[(High(product) >> 43) - (1 << 16)];
+  const std::uint64_t* first = kLogFirst[top >> 55 & 255];
+  const std::uint64_t* second = kLogSecond[(MultiplyHigh(top, first[0]) >> 12) - (1 << 16)];
+  const std::uint64_t factor = first[0] * second[0];  // c r at scale 2^49
+  UInt128 product = Multiply(top, factor);            // 1 + z at scale 2^112
+  if constexpr (is_wide) product += MultiplyHigh(Low(mantissa), factor);
 
-  const UInt128 z = product * r;  // scale 2^143; the 1 is beyond 2^128
-  const std::uint64_t z_top = High(z);
-  const UInt128 square = Multiply(z_top, z_top) + 2 * UInt128{MultiplyHigh(z_top, Low(z))};
-  const std::uint64_t square_top = High(square);  // scale 2^94
-  constexpr std::uint64_t third = ~std::uint64_t{0} / 3;
-  constexpr std::uint64_t fifth = (std::uint64_t{1} << 34) / 5;
-  constexpr std::uint64_t sixth = (std::uint64_t{1} << 19) / 6;
-  const std::uint64_t q =
-      third - (z_top >> 17) + MultiplyHigh(square_top, fifth - MultiplyHigh(z_top, sixth));
-  const UInt128 cube = Multiply(square_top, MultiplyHigh(z_top, q));  // scale 2^173
-  const UInt128 series = z - (square >> 16) + (cube >> 30);
-
-  const UInt128 sum = kLogOf2 * static_cast<std::uint64_t>(exponent + kLogBias) +
-                      Join(high_of_first, low_of_first) + Join(high_of_second, low_of_second) +
-                      (series >> 30);
-  const bool negative = High(sum) >> 63 != 0;
-  const UInt128 mask = UInt128{0} - negative;
-  const UInt128 magnitude = (sum ^ mask) - mask;
-  // The result is beyond 2^-13, so the top word is not 0.
-  const int zeros = std::countl_zero(High(magnitude));
-  return {magnitude << zeros, 14 - zeros, negative};
+  const auto steps = static_cast<std::uint64_t>(exponent + kLogBias);
+  const UInt128 sum = Multiply(steps, kLogOf2[1]) + Join(steps * kLogOf2[0], 0) +
+                      Join(first[1], first[2]) + Join(second[1], second[2]) + product -
+                      LogRest(ShiftedLeft(product, 31));
+  // Of negative sums the complement, which is too small by one unit.
+  const std::uint64_t sign = High(sum) >> 63 != 0 ? ~std::uint64_t{0} : 0;
+  return {Join(High(sum) ^ sign, Low(sum) ^ sign), sign != 0};
 }
 
 /// ln(1 + t) for |t| < 2^-12.
@@ -122,11 +148,19 @@ inline Wide LogBeside1(UInt128 mantissa, std::int64_t exponent) {
                                     : NormalisedWide(-mantissa, -1, true));
 }
 
-/// ln x for x > 0; relative error below 2^-97, and kLogHalfWidth twice that.
+/// The half width for a relative error of 2^-97, which LogBeside1 and LogByTables keep to, and as
+/// much again.
 inline constexpr std::uint64_t kLogHalfWidth = std::uint64_t{1} << 32;
-[[gnu::always_inline]] inline Wide LogOf(Normalised x) {
-  if (IsBeside1(x.significand, x.exponent)) return LogBeside1(Join(x.significand, 0), x.exponent);
-  return LogByTables(x.significand, x.exponent);
+
+/// finish(ln x) for x > 0, of a logarithm in registers where x is not beside 1.
+template <class Finish>
+[[gnu::noinline]] Binary80 FinishLogBeside1(Normalised x, Finish finish) {
+  return finish(LogBeside1(Join(x.significand, 0), x.exponent));
+}
+template <class Finish>
+[[gnu::always_inline]] inline Binary80 FinishLog(Normalised x, Finish finish) {
+  if (IsBeside1(x.significand, x.exponent)) return FinishLogBeside1(x, finish);
+  return finish(Floating(LogByTables(x.significand, x.exponent)));
 }
 
 }  // namespace qorvex::elementary

@@ -16,7 +16,8 @@ namespace qorvex::elementary {
 template <class Kernel>
 inline void OverSpans(VectorView<Extended> x, std::span<Extended> results, Kernel kernel) {
   if (x.size() != results.size()) RaiseMathError(rsSameDimensions);
-  for (std::size_t i = 0; i < x.size(); ++i) Store(kernel(BitsOf(x[i])), results[i]);
+  Extended* result = results.data();
+  for (const Extended& t : x) Store(kernel(BitsOf(t)), *result++);
 }
 
 }  // namespace qorvex::elementary

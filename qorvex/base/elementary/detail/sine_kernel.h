@@ -29,11 +29,6 @@ constexpr std::uint64_t Inverse(std::uint64_t n, int scale) {
   return Low(((UInt128{1} << scale) + n / 2) / n);
 }
 
-/// word 2^count.
-constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
-  return Join(word >> (64 - count), word << count);
-}
-
 /// 1 - cos h and 1 - sin h / h at scale 2^128.
 struct SineSeries {
   UInt128 cosine_loss;
@@ -85,7 +80,7 @@ inline UInt128 SinePart(const SineStep& step, const SineSeries& series, unsigned
 /// sin r for r < 2^-10.
 inline Wide SmallSine(const Wide& r) {
   const SineSeries series = SeriesOf(r.mantissa >> -r.exponent);
-  return NormalisedWide(r.mantissa - MultiplyHigh(r.mantissa, series.sine_loss), r.exponent);
+  return NormalisedTop(r.mantissa - MultiplyHigh(r.mantissa, series.sine_loss), r.exponent);
 }
 
 }  // namespace qorvex::elementary

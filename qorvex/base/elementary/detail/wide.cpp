@@ -59,7 +59,7 @@ Wide SquareRoot(const Wide& x) {
   return {result, exponent / 2 - 1};
 }
 
-Binary80 NearestBitsAnywhere(const Wide& x) noexcept {
+Binary80 NearestBitsAnywhere(Wide x) noexcept {
   if (x.IsZero()) return SignedZero(false);
   constexpr std::int64_t least = 1 - kExponentBias;
   if (x.exponent > kExponentBias) return SignedInfinity(x.negative);

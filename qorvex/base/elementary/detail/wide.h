@@ -25,6 +25,11 @@ constexpr std::uint64_t High(UInt128 x) {
 constexpr std::uint64_t Low(UInt128 x) {
   return static_cast<std::uint64_t>(x);
 }
+/// word 2^count for 0 < count < 64.
+constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
+  return Join(word >> (64 - count), word << count);
+}
+
 constexpr UInt128 Multiply(std::uint64_t a, std::uint64_t b) {
   return UInt128{a} * b;
 }
@@ -42,6 +47,23 @@ constexpr UInt128 MultiplyHigh(UInt128 a, std::uint64_t b) {
 /// a b / 2^128, too small by less than 2 units: the product of the low words is left out.
 constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
+}
+
+/// The same for High(a) + High(b) < 2^64, where the two smaller products add up without a carry.
+constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
+  return Multiply(High(a), High(b)) +
+         (MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b)));
+}
+
+/// x 2^count and x 2^-count for 0 < count < 64, word by word: for x << count compilers use the
+/// processor's shift of two words, which takes several times as long.
+template <int count>
+constexpr UInt128 ShiftedLeft(UInt128 x) {
+  return Join(High(x) << count | Low(x) >> (64 - count), Low(x) << count);
+}
+template <int count>
+constexpr UInt128 ShiftedRight(UInt128 x) {
+  return Join(High(x) >> count, High(x) << (64 - count) | Low(x) >> count);
 }
 
 constexpr int LeadingZeros(UInt128 x) {
@@ -86,12 +108,21 @@ inline Wide::Wide(Extended x) {
   *this = WideOf(Normalise(bits), bits.IsNegative());
 }
 
+/// The same, quicker, for a mantissa of 2^64 or more.
+constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
+  const int zeros = std::countl_zero(High(mantissa));
+  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
+  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
+}
+
 /// The product; relative error below 2^-125.
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
   if (product == 0) return {};
-  const auto shift = static_cast<int>(High(product) >> 63 ^ 1);
-  return {product << shift, a.exponent + b.exponent + 1 - shift, a.negative != b.negative};
+  // Doubled, without a jump, if the top bit is 0.
+  const std::uint64_t mask = (High(product) >> 63) - 1;
+  return {product + Join(High(product) & mask, Low(product) & mask),
+          a.exponent + b.exponent + 1 + static_cast<std::int64_t>(mask), a.negative != b.negative};
 }
 
 /// The sum. Error: below 2^-126 of the larger operand, and none if both are multiples of the last
@@ -136,18 +167,24 @@ constexpr bool IsSmaller(const Wide& a, const Wide& b) {
 }
 
 /// The bits of the nearest extended number, ties to even; infinity, 0 and subnormal numbers where
-/// they belong.
-[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(const Wide& x) noexcept;
-/// The same, quickly for results that are neither subnormal nor near the end of the format.
+/// they belong. By value, so that the callers' numbers may stay in registers.
+[[nodiscard]] QORVEX_EXPORT Binary80 NearestBitsAnywhere(Wide x) noexcept;
+/// x cut off to 64 bits plus `up` units, 0 or 1, for biased exponents from 1 to 0x7ffd.
+[[nodiscard]] constexpr Binary80 LeadingBits(const Wide& x, std::uint64_t up) noexcept {
+  auto biased = static_cast<std::uint16_t>(x.exponent + kExponentBias + (x.negative ? 0x8000 : 0));
+  const std::uint64_t significand = High(x.mantissa) + up;
+  if (significand == 0) [[unlikely]]
+    return {kTopBit, ++biased};
+  return {significand, biased};
+}
+/// The same as NearestBitsAnywhere, quickly for results that are neither subnormal nor near the end
+/// of the format.
 [[nodiscard]] inline Binary80 NearestBits(const Wide& x) noexcept {
-  // Biased exponents from 1 to 0x7ffd: rounding up gives no infinity.
+  // Rounding up gives no infinity.
   const auto biased = static_cast<std::uint64_t>(x.exponent + kExponentBias);
   if (biased - 1 >= kExponentOfInfinity - 2u || x.IsZero()) return NearestBitsAnywhere(x);
-  // Adding half a unit, or as little less as makes ties even.
-  const UInt128 rounded = x.mantissa + (kTopBit - 1 + (High(x.mantissa) & 1));
-  const std::uint64_t carry = High(rounded) == 0 ? 1 : 0;
-  return {High(rounded) | carry << 63,
-          static_cast<std::uint16_t>(biased + carry + (x.negative ? 0x8000u : 0u))};
+  // Ties are rounded up if the last bit is odd.
+  return LeadingBits(x, Low(x.mantissa) > kTopBit - (High(x.mantissa) & 1) ? 1 : 0);
 }
 [[nodiscard]] inline Extended Nearest(const Wide& x) noexcept {
   return FromBits(NearestBits(x));

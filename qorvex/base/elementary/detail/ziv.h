@@ -10,7 +10,7 @@ namespace qorvex::elementary {
 
 /// The bits of the nearest extended number to the value that `first` approximates.
 ///
-/// - The relative error of `first` is below half_width 2^-127, with half_width at most 2^62.
+/// - `first` is not 0. Its relative error is below half_width 2^-128, with half_width at most 2^62.
 /// - If the value may lie on the other side of a midpoint, second() computes it as a Wide256, with
 ///   a relative error below 2^-201. NearestBits(Wide256) rounds it, and takes a value within 2^-200
 ///   of a midpoint for the midpoint: that happens only if the value is one.
@@ -20,7 +20,7 @@ inline Binary80 CorrectlyRounded(const Wide& first, std::uint64_t half_width, Se
   const bool is_usual = biased - 1 < kExponentOfInfinity - 2u;
   // Half a unit of the last place is the top bit of the low word.
   if (is_usual && Low(first.mantissa) - (kTopBit - half_width) > 2 * half_width) [[likely]]
-    return NearestBits(first);
+    return LeadingBits(first, Low(first.mantissa) >> 63);
   // Infinity and 0 beyond the format, whatever the last bits: subnormal numbers reach to 2^-16445.
   if (first.exponent > kExponentBias || first.exponent < -16447) return NearestBits(first);
   return NearestBits(second());

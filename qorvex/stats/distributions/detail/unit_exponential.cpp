@@ -1,28 +1,41 @@
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
-#include <cmath>
-
-#include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::distributions {
 
-using special::ExtendedPair;
-using special::Scaled;
+using special::kOne;
+using special::MakeScaled;
 
-Tails UnitExponentialTails(ExtendedPair ln_t) {
-  // So far down the lower tail is t, which may be too small for the format.
-  constexpr Extended far_down = -60;
-  if (ln_t.hi < far_down) return {Tail::kLower, Scaled{1, ln_t}};
-  const ExtendedPair t = Exp(ln_t);
-  if (t.hi < 1) return {Tail::kLower, Scaled{-Expm1(-t.hi), ExtendedPair()}};
-  return {Tail::kUpper, Scaled{1, -t}};
+namespace {
+
+// Where |ln t| exceeds 2^15, t or its reciprocal is beyond the square of every extended number.
+constexpr std::int64_t kFarExponent = 15;
+
+}  // namespace
+
+Tails UnitExponentialTails(const Wide& t) {
+  // Below 1 the lower tail is the one to compute.
+  if (t.exponent < 0) return {Tail::kLower, MakeScaled(-elementary::Expm1Wide(-t))};
+  return {Tail::kUpper, MakeScaled(kOne, -t)};
 }
 
-ExtendedPair LnUnitExponentialQuantile(Tail tail, Extended p) {
-  // So small a lower tail is the point itself.
-  constexpr Extended tiny = 1e-30L;
-  if (tail == Tail::kLower && p < tiny) return Ln(ExtendedPair(p));
-  return Ln(-Ln(tail == Tail::kUpper ? ExtendedPair(p) : special::ExactSum(1, -p)));
+Wide PointOfLog(const Wide& ln_t) {
+  if (ln_t.exponent < kFarExponent) return elementary::ExpWide(ln_t);
+  return ln_t.negative ? Wide() : ScaledBy(kOne, 2 << kFarExponent);
+}
+
+Tails UnitExponentialTailsAtLog(const Wide& ln_t) {
+  // So far down the lower tail is t.
+  if (ln_t.negative && ln_t.exponent >= kFarExponent)
+    return {Tail::kLower, MakeScaled(kOne, ln_t)};
+  return UnitExponentialTails(PointOfLog(ln_t));
+}
+
+Wide UnitExponentialQuantile(Tail tail, Extended p) {
+  return -(tail == Tail::kUpper ? elementary::LogWide(p) : elementary::Log1pWide(-p));
 }
 
 }  // namespace qorvex::distributions

@@ -1,0 +1,26 @@
+#include "qorvex/base/elementary/detail/sine_and_cosine.h"
+
+#include <utility>
+
+namespace qorvex::elementary {
+
+SineAndCosine SinCosWide(Extended x) {
+  const Binary80 bits = BitsOf(x);
+  if (bits.significand == 0) return {{}, Wide(1.0L)};
+  const Normalised magnitude = Normalise(bits);
+  // x^2/2 is below the last bit.
+  if (magnitude.exponent < -64) return {Wide(x), Wide(1.0L)};
+  const Angle angle = AngleOf(magnitude);
+  auto [sine, cosine] = SineAndCosineOf(angle, magnitude);
+  sine.negative = angle.negative;
+  if ((angle.quadrant & 1) != 0) {
+    std::swap(sine, cosine);
+    cosine.negative = !cosine.negative;
+  }
+  const bool turned = (angle.quadrant & 2) != 0;
+  sine.negative ^= turned != bits.IsNegative();
+  cosine.negative ^= turned;
+  return {sine, cosine};
+}
+
+}  // namespace qorvex::elementary

@@ -1,0 +1,55 @@
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/detail/monotone_piece.h"
+#include "qorvex/base/special/detail/normal_wide.h"
+
+namespace qorvex::special {
+
+using elementary::FractionOf;
+using elementary::High;
+using elementary::MonotonePiece;
+using elementary::NormalisedWide;
+using elementary::UInt128;
+using elementary::Wide;
+
+namespace {
+
+// - From 0: z / (4 q) in -q^2, for q^2 from 0 to 9/64, pieces of 1/64.
+// - From kTailPieces: 1 - z / 2^s in L, from 2 to 2^14, eight pieces between powers of two.
+constexpr std::size_t kTailPieces = 9;
+alignas(64) constexpr MonotonePiece<88> kPieces[] = {
+#include "qorvex/base/elementary/detail/tables/normal_quantile_pieces.inc"
+};
+
+// The quantile for the upper tail 1/2 - q, 0 <= q < 3/8.
+Wide CentralQuantile(const Wide& q) {
+  if (q.IsZero()) return {};
+  // 64 q^2 has the number of the piece in front of the point.
+  const UInt128 square = FractionOf(q * q);
+  const auto number = static_cast<std::size_t>(High(square) >> 58);
+  return q * NormalisedWide(kPieces[number].At(~(square << 6)), 1);
+}
+
+// The quantile for an upper tail of e^-L, 2 <= L < 2^14.
+Wide TailQuantile(const Wide& log) {
+  const auto binade = static_cast<std::size_t>(log.exponent);
+  const std::size_t number = kTailPieces + 8 * (binade - 1) + (High(log.mantissa) >> 60 & 7);
+  const UInt128 rest = kPieces[number].At(log.mantissa << 4);
+  return NormalisedWide(UInt128{0} - rest, static_cast<std::int64_t>((binade + 3) / 2) - 1);
+}
+
+}  // namespace
+
+// In the middle the quantile is q = 1/2 - p times a function of q^2, in the tails a function of L =
+// -ln p. The polynomials have errors of 2^-83; those of L and q^2 are smaller.
+Wide NormalUpperQuantile(const Wide& p) {
+  constexpr UInt128 one = UInt128{1} << 127;
+  constexpr Wide half{one, -1};
+  constexpr Wide eighth{one, -3};
+  const bool negative = !IsSmaller(p, half);
+  const Wide tail = negative ? Wide{one, 0} - p : p;
+  const Wide z = IsSmaller(eighth, tail) ? CentralQuantile(half - tail)
+                                         : TailQuantile(-elementary::LogWide(tail));
+  return negative ? -z : z;
+}
+
+}  // namespace qorvex::special
