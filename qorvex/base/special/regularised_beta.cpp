@@ -5,6 +5,7 @@
 
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/continued_fraction.h"
 #include "qorvex/base/special/detail/factorial_wide.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/detail/small_shape.h"
@@ -47,36 +48,6 @@ class LowerFractionTerms {
   Extended reciprocal_;  // 1 / (a + 2 n + 1)
   Extended n_ = 0;
 };
-
-// The fraction itself. For large shapes its convergents first swing far about the value: these go
-// into a product of ratios (Lentz 1976, "Generating Bessel functions in Mie scattering
-// calculations"), which does not cancel. The others are added up (Steed's method; Barnett et al.
-// 1974, "Coulomb wave functions for all real eta and rho"), which rounds less often.
-Extended LowerFraction(Extended a, Extended b, Extended x, Extended lambda) {
-  constexpr Extended calm = 0.125L;
-  constexpr Extended rounding = std::numeric_limits<Extended>::epsilon() / 4;
-  LowerFractionTerms terms(a, b, x, lambda);
-  Extended fraction = terms.First();
-  Extended ratio = fraction;
-  Extended inverse = 0;
-  Extended difference = 0;
-  do {
-    terms.Next();
-    inverse = 1 / (terms.denominator + terms.numerator * inverse);
-    ratio = terms.denominator + terms.numerator / ratio;
-    const Extended previous = fraction;
-    fraction *= ratio * inverse;
-    difference = fraction - previous;
-  } while (std::fabs(difference) > std::fabs(fraction) * calm);
-  while (std::fabs(difference) > std::fabs(fraction) * rounding) {
-    terms.Next();
-    const Extended next = 1 / (terms.denominator + terms.numerator * inverse);
-    difference *= -terms.numerator * inverse * next;
-    inverse = next;
-    fraction += difference;
-  }
-  return fraction;
-}
 
 // -ln(a B(a, b)) for a <= 1, with all its digits for small a.
 Wide LnLeadingFactor(const Wide& a, const Wide& b) {
@@ -179,11 +150,11 @@ Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const 
   const Extended y = Nearest(wide_y);
   constexpr Extended slow = 1e-3L;
   if (b < 1 && y < slow && a * y < 1) return from_end(SmallTails(b, a, wide_y).Mirrored());
-  const Scaled probability = density / Scaled(LowerFraction(a, b, x, std::fabs(lambda)));
+  const Extended share = 1 / ContinuedFraction(LowerFractionTerms(a, b, x, std::fabs(lambda)));
   constexpr Extended most = 0.9L;
-  if (a < 1 && probability.Value() > most)
+  if (a < 1 && density.Value() * share > most)
     return from_end(x <= 0.5L ? SmallTails(a, b, wide_x) : SmallTails(b, a, wide_y).Mirrored());
-  return {tail, probability};
+  return {tail, density, share};
 }
 
 Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
