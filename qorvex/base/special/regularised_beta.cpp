@@ -60,7 +60,7 @@ Tails SmallTails(Extended shape_a, Extended shape_b, const Wide& x) {
   const Wide a(shape_a);
   const Wide b(shape_b);
   return SmallShapeTails(a, a * LogWide(x) + LnLeadingFactor(a, b),
-                         [&](const Wide& n) { return (n - b) * x / n; });
+                         [&](const Wide& n) { return (n - b) * x; });
 }
 
 // With shapes that add up to less, the density is x^a y^b / B(a, b); from here on it is taken

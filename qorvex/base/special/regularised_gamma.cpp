@@ -31,7 +31,7 @@ constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 4;
 // processor can start it early. The terms that are left sum to less than term * x / (divisor - x),
 // once that is positive.
 Extended LowerSeries(Extended a, Extended x) {
-  Extended sum = 1;
+  Extended rest = 0;  // the sum without its first term
   Extended term = 1;
   Extended divisor = a;
   do {
@@ -39,9 +39,9 @@ Extended LowerSeries(Extended a, Extended x) {
     divisor += 2;
     const Extended quotient = term * (x / (next * divisor));
     term = quotient * x;
-    sum += quotient * divisor + term;
-  } while (term * x > sum * kRounding * (divisor - x));
-  return sum;
+    rest += quotient * divisor + term;
+  } while (term * x > (rest + 1) * kRounding * (divisor - x));
+  return 1 + rest;
 }
 
 // The upper tail is x^a e^-x / Gamma(a) divided by this continued fraction, Legendre's:
@@ -74,7 +74,7 @@ Wide LnFactorial(Extended a) {
 // The tails for x <= 1 and small shapes: the power series of the incomplete gamma function.
 Tails SmallTails(const Wide& a, const Wide& x) {
   const Wide leading = a * LogWide(x) - elementary::Log1pWide(GammaMinusOne(a));
-  return SmallShapeTails(a, leading, [&](const Wide& n) { return -(x / n); });
+  return SmallShapeTails(a, leading, [&](const Wide&) { return -x; });
 }
 
 // Below, the density is x^a e^-x / Gamma(a); from here on it is taken relative to its maximum,
@@ -122,7 +122,7 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
   const Extended x = Nearest(Load(point.x_));
   if (x <= 1 || x < a) {
     const Extended share = LowerSeries(a, x) / a;
-    constexpr Extended most = 0.7L;
+    constexpr Extended most = 0.5L;
     if (a < 1 && density.Value() * share > most) return SmallTails(Wide(a), Load(point.x_));
     return {Tail::kLower, density, share};
   }
