@@ -23,9 +23,9 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage: 2^-98.5 from the square root and 2^-99.5 from P, at most
+// Four times the error of the first stage: 2^-98.5 from the square root and 2^-100 from P, at most
 // twice that of the result after a subtraction, and so below 2^-97.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
 
 // Below 2^-32, asin x rounds to x: x^2/6 is less than half the distance to the next number.
 constexpr int kLeastExponent = -32;
@@ -40,7 +40,7 @@ struct Arc {
   bool is_cosine;
 
   [[nodiscard]] Wide Number() const { return NormalisedTop(product, exponent + 1); }
-  [[nodiscard]] UInt128 AtScale126() const { return ShiftedRight(product, -exponent); }
+  [[nodiscard]] UInt128 AtScale126() const { return ScaledDown(product, -exponent); }
 };
 
 // For 0 < |x| < 1, normal.
@@ -48,7 +48,7 @@ struct Arc {
   const int exponent = x.Exponent() - kExponentBias;
   if (exponent < -1 || x.significand == kTopBit) {
     const UInt128 square = Multiply(x.significand, x.significand);
-    const UInt128 quotient = ArcSineQuotient(ShiftedRight(square, -2 * exponent - 2));
+    const UInt128 quotient = ArcSineQuotient(ScaledDown(square, -2 * exponent - 2));
     return {MultiplyHigh(quotient, x.significand), exponent, false};
   }
   // z = complement 2^-65 = a 2^(-shift - 1), where 1/4 <= a < 1 and the shift is odd.
@@ -124,13 +124,15 @@ Extended ArcSin(Extended x) noexcept {
   return FromBits(elementary::ArcSineKernel(BitsOf(x)));
 }
 void ArcSin(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcSineKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcSineKernel(t); });
 }
 Extended ArcCos(Extended x) noexcept {
   return FromBits(elementary::ArcCosineKernel(BitsOf(x)));
 }
 void ArcCos(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcCosineKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcCosineKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

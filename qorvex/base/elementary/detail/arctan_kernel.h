@@ -11,7 +11,7 @@ namespace qorvex::elementary {
 /// atan t for t in (0, 1); relative error below 2^-97.
 inline Wide SmallArcTan(const Wide& t) {
   const UInt128 square = MultiplyHigh(t.mantissa, t.mantissa);
-  const UInt128 quotient = ArcTanQuotient(ShiftedRight(square, -2 * t.exponent - 2));
+  const UInt128 quotient = ArcTanQuotient(ScaledDown(square, -2 * t.exponent - 2));
   return NormalisedTop(MultiplyHigh(t.mantissa, quotient), t.exponent + 1);
 }
 

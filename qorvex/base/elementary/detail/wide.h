@@ -49,11 +49,6 @@ constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
 }
 
-/// x / 2^count, and 0 from 128 on.
-constexpr UInt128 ShiftedRight(UInt128 x, std::int64_t count) {
-  return count < 128 ? x >> count : 0;
-}
-
 /// The same for High(a) + High(b) < 2^64, where the two smaller products add up without a carry.
 constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) +
