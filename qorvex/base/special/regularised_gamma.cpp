@@ -103,18 +103,18 @@ RegularisedGamma::RegularisedGamma(Extended shape)
 Scaled RegularisedGamma::LogDensity(const Point& point) const {
   const Wide x = Load(point.x_);
   const Wide a(shape_);
-  if (reference_ == 0) return at_reference_ * MakeScaled(kOne, a * LogWide(x) - x);
-  return at_reference_ * MakeScaled(kOne, a * LogWide(x / a) - (x - a));
+  if (reference_ == 0) return Raised(at_reference_, a * LogWide(x) - x);
+  return Raised(at_reference_, a * LogWide(x / a) - (x - a));
 }
 
-bool RegularisedGamma::IsUniform(Extended x) const {
-  return shape_ >= kUniformShape && std::fabs(x - shape_) < kUniformDistance * shape_;
+bool RegularisedGamma::IsUniform(const Point& point) const {
+  return shape_ >= kUniformShape &&
+         std::fabs(Nearest(Load(point.x_)) - shape_) < kUniformDistance * shape_;
 }
 
 Tails RegularisedGamma::At(const Point& point) const {
-  const Wide x = Load(point.x_);
-  return IsUniform(Nearest(x)) ? UniformGammaTails(shape_, PairOf(x))
-                               : TailsFrom(point, LogDensity(point));
+  return IsUniform(point) ? UniformGammaTails(shape_, PairOf(Load(point.x_)))
+                          : TailsFrom(point, LogDensity(point));
 }
 
 Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) const {
@@ -144,8 +144,9 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
     const Point point{ExtendedPair(x)};
     const Scaled density = LogDensity(point);
-    return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(point, density),
-                           density, shape_ - x};
+    return TailsAndDensity{
+        IsUniform(point) ? UniformGammaTails(shape_, x) : TailsFrom(point, density), density,
+        shape_ - x};
   });
 }
 
