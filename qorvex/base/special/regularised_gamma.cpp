@@ -31,16 +31,17 @@ constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 4;
 // processor can start it early. The terms that are left sum to less than term * x / (divisor - x),
 // once that is positive.
 Extended LowerSeries(Extended a, Extended x) {
+  const Extended square = x * x;
   Extended rest = 0;  // the sum without its first term
   Extended term = 1;
   Extended divisor = a;
   do {
     const Extended next = divisor + 1;
     divisor += 2;
-    const Extended quotient = term * (x / (next * divisor));
-    term = quotient * x;
-    rest += quotient * divisor + term;
-  } while (term * x > (rest + 1) * kRounding * (divisor - x));
+    const Extended quotient = term * (1 / (next * divisor));
+    rest += quotient * (x * divisor + square);
+    term = quotient * square;
+  } while (term * x > kRounding * (divisor - x));
   return 1 + rest;
 }
 
