@@ -149,7 +149,7 @@ Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const 
   };
   const Extended x = Nearest(wide_x);
   const Extended y = Nearest(wide_y);
-  constexpr Extended slow = 1e-3L;
+  constexpr Extended slow = 0.02L;
   if (b < 1 && y < slow && a * y < 1) return from_end(SmallTails(b, a, wide_y).Mirrored());
   const Extended share = 1 / ContinuedFraction(LowerFractionTerms(a, b, x, std::fabs(lambda)));
   constexpr Extended most = 0.9L;
