@@ -47,11 +47,11 @@ std::optional<Tails> SumTails(Extended a, Extended b, const Wide& x, const Wide&
     power_of_x = power_of_x * x;
   }
   const Wide upper = ways * WholePower(y, failures);
-  if (IsSmaller(upper, kHalf)) return Tails(Tail::kUpper, MakeScaled(upper));
+  if (IsSmaller(upper, kHalf)) return Tails{Tail::kUpper, MakeScaled(upper)};
   const Wide rest = kOne - upper;
   constexpr Extended least_rest = 1e-12L;
   if (!(Nearest(rest) > least_rest)) return std::nullopt;
-  return Tails(Tail::kLower, MakeScaled(rest));
+  return Tails{Tail::kLower, MakeScaled(rest)};
 }
 
 // The upper tail is y^b for a first shape of 1.
