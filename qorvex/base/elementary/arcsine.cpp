@@ -54,7 +54,7 @@ struct Arc {
   // z = complement 2^-65 = a 2^(-shift - 1), where 1/4 <= a < 1 and the shift is odd.
   const std::uint64_t complement = 0 - x.significand;
   const int shift = (std::countl_zero(complement) - 1) | 1;
-  const UInt128 quotient = ArcSineQuotient(ShiftedWord(complement, 63));
+  const UInt128 quotient = ArcSineQuotient(ShiftedLeft(complement, 63));
   return {MultiplyHigh(QuickSquareRoot(complement << shift), quotient), 1 - (shift + 1) / 2, true};
 }
 
