@@ -20,8 +20,8 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 40;
+// Four times the error of the first stage, 2^-89 of the result.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 41;
 
 constexpr std::uint64_t kInverseRoots[64][4] = {
 #include "qorvex/base/elementary/detail/tables/inverse_cube_root.inc"
@@ -97,7 +97,8 @@ Extended Cbrt(Extended x) noexcept {
   return elementary::FromBits(elementary::CbrtKernel(elementary::BitsOf(x)));
 }
 void Cbrt(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::CbrtKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::CbrtKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

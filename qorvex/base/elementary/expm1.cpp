@@ -39,9 +39,7 @@ constexpr std::uint64_t kEvenFactorials[8] = {
   const UInt128 even = MultiplyHighOfSmall(fixed, Series(square, kEvenFactorials));
   const UInt128 one = UInt128{1} << 127;
   const UInt128 factor = x.negative ? one + odd - even : one + odd + even;
-  const UInt128 product = MultiplyHigh(x.mantissa, factor);
-  const int zeros = std::countl_zero(High(product));
-  return {ShiftedLeft(product, zeros), x.exponent + 1 - zeros, x.negative};
+  return NormalisedTop(MultiplyHigh(x.mantissa, factor), x.exponent + 1, x.negative);
 }
 
 // e^x - 1 from e^x, for |x| >= 2^-8, where the relative error of e^x, 2^-111, becomes 2^-102.9.
@@ -55,8 +53,7 @@ constexpr std::uint64_t kEvenFactorials[8] = {
   const std::int64_t distance = negative ? -power.exponent : power.exponent;
   const UInt128 difference =
       larger - Lowered(smaller, static_cast<int>(std::min<std::int64_t>(distance, 127)));
-  const int zeros = std::countl_zero(High(difference));
-  return {ShiftedLeft(difference, zeros), (negative ? 0 : power.exponent) - zeros, negative};
+  return NormalisedTop(difference, negative ? 0 : power.exponent, negative);
 }
 
 // The second stage. e^x is transcendental unless x = 0 (Lindemann 1882), so there are no midpoints.

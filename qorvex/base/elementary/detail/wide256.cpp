@@ -122,24 +122,10 @@ Wide256 operator*(const Wide256& a, const Wide256& b) {
                        a.exponent + b.exponent + 1, a.negative != b.negative);
 }
 
-// Bit by bit.
+// A quotient of 128 bits, and the quotient of what it leaves.
 Wide256 operator/(const Wide256& a, const Wide256& b) {
-  if (a.IsZero()) return {};
-  Words rest = a.mantissa;
-  Words quotient{};
-  bool overflowed = false;  // the bit above the rest
-  for (int bit = 0; bit < 256; ++bit) {
-    quotient = Words{quotient[0] << 1, quotient[1] << 1 | quotient[0] >> 63,
-                     quotient[2] << 1 | quotient[1] >> 63, quotient[3] << 1 | quotient[2] >> 63};
-    if (overflowed || !IsLess(rest, b.mantissa)) {
-      SubtractFrom(rest, b.mantissa);
-      quotient[0] |= 1;
-    }
-    overflowed = rest[3] >> 63 != 0;
-    rest = {rest[0] << 1, rest[1] << 1 | rest[0] >> 63, rest[2] << 1 | rest[1] >> 63,
-            rest[3] << 1 | rest[2] >> 63};
-  }
-  return Normalised256(quotient, a.exponent - b.exponent, a.negative != b.negative);
+  const Wide256 quotient = a.Leading() / b.Leading();
+  return quotient + (a - quotient * b).Leading() / b.Leading();
 }
 
 Wide256 DividedBy(const Wide256& x, std::uint64_t divisor) {
@@ -181,11 +167,13 @@ ReducedExp ReduceAndExpand(const Wide256& x) {
   const Wide256 r = ScaledBy(x - Wide256(k) * kLn2Of256, -doublings);
   // e^r - 1 by Taylor's series, whose terms after r^20 are below r 2^-254.
   constexpr int terms = 20;
-  Wide256 sum = 1;
-  for (int n = terms; n > 1; --n) sum = 1 + DividedBy(r * sum, static_cast<std::uint64_t>(n));
+  const Wide256 one = 1;
+  Wide256 sum = one;
+  for (int n = terms; n > 1; --n) sum = one + DividedBy(r * sum, static_cast<std::uint64_t>(n));
   sum = r * sum;
   // e^(2 r) - 1 = u (u + 2) for u = e^r - 1.
-  for (int i = 0; i < doublings; ++i) sum = sum * (sum + 2);
+  const Wide256 two = 2;
+  for (int i = 0; i < doublings; ++i) sum = sum * (sum + two);
   return {k, sum};
 }
 

@@ -12,8 +12,9 @@
 namespace qorvex::elementary {
 
 /// (-1)^negative mantissa 2^(exponent - 255), with the top bit of the mantissa set; 0 has a
-/// mantissa of 0. The words run from the lowest to the highest. Sums, products and quotients are
-/// cut off: relative error below 2^-252, for a difference below 2^-252 of the larger operand.
+/// mantissa of 0. The words run from the lowest to the highest. Sums and products are cut off:
+/// relative error below 2^-252, for a difference below 2^-252 of the larger operand; that of
+/// quotients is below 2^-246.
 struct Wide256 {
   using Words = std::array<std::uint64_t, 4>;
 
@@ -42,7 +43,7 @@ struct Wide256 {
 [[nodiscard]] Wide256 operator*(const Wide256& a, const Wide256& b);
 /// By a divisor other than 0.
 [[nodiscard]] Wide256 operator/(const Wide256& a, const Wide256& b);
-/// By a word other than 0, a hundred times as fast. A divisor of more than 63 bits may cost some of
+/// By a word other than 0, quicker. A divisor of more than 63 bits may cost some of
 /// the precision.
 [[nodiscard]] Wide256 DividedBy(const Wide256& x, std::uint64_t divisor);
 /// 2^k x.
