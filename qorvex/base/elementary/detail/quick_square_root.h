@@ -11,9 +11,9 @@ namespace qorvex::elementary {
 /// sqrt(a) at scale 2^127 for a = word 2^-64 in [1/4, 1); relative error below 2^-98.5.
 ///
 /// - A root s comes from 53 bits of a and a square root in double, each right to 2^-52 in any
-///   rounding mode. Lowered by 2^-50.4, it is too small, by less than 2^-49.8.
-/// - In sqrt(a) = s + (a - s^2) / (2 s) - ... the next term is below 2^-100.6, and 1 / (2 s) from a
-///   division in double is right to 2^-49.8.
+///   rounding mode. Lowered by 2^-50.4, it is too small, by less than 2^-49.5.
+/// - In sqrt(a) = s + (a - s^2) / (2 s) - ... the next term is below 2^-100, and 1 / (2 s) from a
+///   division in double is right to 2^-49.2.
 inline UInt128 QuickSquareRoot(std::uint64_t word) {
   constexpr double lowered = 1 - 0x1.8p-51;
   const double a = static_cast<double>(static_cast<std::int64_t>(word >> 1)) * 0x1p-63;
