@@ -63,11 +63,13 @@ int LengthOf(Normalised x) {
   return 64 - std::countr_zero(x.significand);
 }
 
-// Whether y is an integer from 1 to 127 and x^y has at most 128 bits: all squares, and powers of
-// short numbers.
+// Whether y is a positive integer with at most 7 leading bits, and below 256, and x^y has at most
+// 128 bits: all squares, and powers of short numbers.
 [[gnu::always_inline]] inline bool IsShortPower(Normalised x, Normalised y, bool y_is_negative) {
-  // First what is rarely true, so that the processor guesses right.
-  if (y.significand << 7 != 0 || y_is_negative || y.exponent >= 7 || !IsInteger(y)) return false;
+  // One jump for all, which the processor guesses right: nearly every y has more bits.
+  const std::uint64_t longer = y.significand << 7;
+  const auto beyond = static_cast<std::uint64_t>(y.exponent) & ~std::uint64_t{7};
+  if ((longer | beyond | (y_is_negative ? 1 : 0)) != 0 || !IsInteger(y)) return false;
   return static_cast<int>(y.significand >> (63 - y.exponent)) * LengthOf(x) <= 128;
 }
 
