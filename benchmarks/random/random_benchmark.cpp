@@ -1,6 +1,7 @@
 // Random variates, compared with the distributions of the standard library in long double and of
 // GSL in double. All draw from the same generator. Objects of the standard library are prepared
-// once for all draws; our routines and those of GSL prepare every draw.
+// once for all draws; our routines and those of GSL prepare every draw. Our samplers are prepared
+// once, too; "single calls" are those of the routine.
 
 #include <cstdint>
 #include <gsl/gsl_randist.h>
@@ -150,6 +151,41 @@ void RegisterStd(const std::string& variate, const std::string& parameters,
         "FillGamma", parameters, [shape](TQorFloatVector& v) { FillGamma(v, shape, Uniform); },
         [shape] { return Random_Gamma(shape, Uniform); });
   }
+
+  const auto register_sampler = [](const std::string& variate, const std::string& parameters,
+                                   auto sampler, auto distribution, auto routine) {
+    Register(variate, parameters, "ours", [sampler] { return sampler(Uniform); });
+    if constexpr (requires { distribution(generator); })
+      RegisterStd(variate, parameters, distribution);
+    Register(variate, parameters, "single calls", routine);
+  };
+  const struct {
+  } no_peer;
+  register_sampler("GammaSampler", "0.5", GammaSampler(0.5L),
+                   std::gamma_distribution<Extended>(0.5L),
+                   [] { return Random_Gamma(0.5L, Uniform); });
+  register_sampler("StudentTSampler", "5", StudentTSampler(5),
+                   std::student_t_distribution<Extended>(5), [] { return Random_T(5, Uniform); });
+  register_sampler("PoissonSampler", "5", PoissonSampler(5),
+                   std::poisson_distribution<std::int32_t>(5),
+                   [] { return Random_Poisson(5, Uniform); });
+  register_sampler("VonMisesSampler", "2", VonMisesSampler(2), no_peer,
+                   [] { return Random_von_Mises(2, Uniform); });
+  register_sampler("WeibullSampler", "1.5", WeibullSampler(1.5L),
+                   std::weibull_distribution<Extended>(1.5L),
+                   [] { return Random_Weibull(1.5L, Uniform); });
+  register_sampler("LogNormalSampler", "2, 1.5", LogNormalSampler(2, 1.5L),
+                   std::lognormal_distribution<Extended>(0.69L, 0.9L),
+                   [] { return Random_LogNormal(2, 1.5L, Uniform); });
+  register_sampler("BetaSampler", "2.5, 4", BetaSampler(2.5L, 4), no_peer,
+                   [] { return Random_Beta(2.5L, 4, Uniform); });
+  register_sampler("InverseGaussianSampler", "2, 0.5", InverseGaussianSampler(2, 0.5L), no_peer,
+                   [] { return Random_Inv_Gauss(2, 0.5L, Uniform); });
+  register_sampler("BinomialSampler", "100, 0.4", BinomialSampler(100, 0.4L),
+                   std::binomial_distribution<std::int32_t>(100, 0.4),
+                   [] { return Random_Binomial2(100, 0.4L, Uniform); });
+  register_sampler("NegativeBinomialSampler", "3.5, 0.4", NegativeBinomialSampler(3.5L, 0.4L),
+                   no_peer, [] { return Random_Neg_Binomial(3.5L, 0.4L, Uniform); });
 
   Register("Random_ChiSq", "7", "ours", [] { return Random_ChiSq(7, Uniform); });
   RegisterStd("Random_ChiSq", "7", std::chi_squared_distribution<Extended>(7));

@@ -35,12 +35,17 @@ Extended CheckedLn(Extended x) {
 }
 
 Extended CheckedExp(Extended x) {
+  // The result is not looked at where the argument decides: a caller need not wait for it then.
+  constexpr Extended certainly_finite = 11356;
+  if (x <= certainly_finite) return Exp(x);
   const Extended result = Exp(x);
   if (std::isinf(result) && !std::isinf(x)) throw EOverflow();
   return result;
 }
 
 Extended CheckedXtoY(Extended x, Extended y) {
+  // Below 2^(60 * 256).
+  if (x > 0x1p-60L && x < 0x1p60L && std::fabs(y) <= 256) return XtoY(x, y);
   const Extended power = XtoY(x, y);
   if (std::isfinite(power) || !std::isfinite(x) || !std::isfinite(y)) return power;
   if (x == 0) throw EZeroDivide();

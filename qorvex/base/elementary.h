@@ -18,13 +18,13 @@ inline constexpr Extended QorPi = 3.14159265358979323846264338327950288L;
 inline constexpr std::string_view QorNullStr = "";
 
 /// @{
-/// The base-2 and base-10 logarithms, accurate to two units in the last place. The result is
-/// -infinity for 0, infinity for infinity, and NaN for negative x and NaN.
+/// The base-2 and base-10 logarithms, correctly rounded: Log2 and Log10. The result is -infinity for
+/// 0, infinity for infinity, and NaN for negative x and NaN.
 [[nodiscard]] QORVEX_EXPORT Extended QorLog2(Extended x) noexcept;
 [[nodiscard]] QORVEX_EXPORT Extended QorLog10(Extended x) noexcept;
 /// @}
 
-/// The arc cosine in radians, in [0, pi].
+/// The arc cosine in radians, in [0, pi]: ArcCos, correctly rounded.
 ///
 /// - An x outside [-1, 1] by at most QorTolerance is treated as -1 or 1, so that rounding errors do
 ///   not turn the angle between parallel vectors into NaN.
@@ -34,7 +34,7 @@ inline constexpr std::string_view QorNullStr = "";
 /// x to the power y.
 ///
 /// - Integer exponents from 0 to 8: the product x * x * ..., from left to right. XtoY(x, 0) is 1.
-/// - Other exponents: the result of std::pow, which is NaN if x is finite and negative and y is
+/// - Other exponents: Pow, correctly rounded, which is NaN if x is finite and negative and y is
 ///   finite and not an integer.
 [[nodiscard]] QORVEX_EXPORT Extended XtoY(Extended x, Extended y) noexcept;
 

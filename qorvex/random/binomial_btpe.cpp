@@ -6,6 +6,7 @@
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/random/detail/binomial_ratios.h"
+#include "qorvex/random/detail/floor.h"
 #include "qorvex/random/detail/power_of_complement.h"
 
 namespace qorvex::inline QorvexRandom {
@@ -34,9 +35,9 @@ Extended BinomialSampler::Inversion::operator()(UniformSource source) const {
 BinomialSampler::Regions::Regions(Extended trials, Extended probability)
     : n(trials), p(probability), q(1 - p) {
   const Extended centre = n * p + p;
-  mode = std::floor(centre);
+  mode = detail::Floor(centre);
   variance = n * p * q;
-  triangle = std::floor(2.195L * std::sqrt(variance) - 4.6L * q) + 0.5L;
+  triangle = detail::Floor(2.195L * std::sqrt(variance) - 4.6L * q) + 0.5L;
   middle = mode + 0.5L;
   left = middle - triangle;
   right = middle + triangle;
@@ -53,19 +54,19 @@ Extended BinomialSampler::Regions::operator()(UniformSource source) const {
   for (;;) {
     const Extended u = source() * right_tail;
     Extended v = source();
-    if (u <= triangle) return std::floor(middle - triangle * v + u);
+    if (u <= triangle) return detail::Floor(middle - triangle * v + u);
     Extended y;
     if (u <= parallelograms) {
       const Extended x = left + (u - triangle) / slope;
       v = v * slope + 1 - std::fabs(mode - x + 0.5L) / triangle;
       if (v > 1 || v <= 0) continue;
-      y = std::floor(x);
+      y = detail::Floor(x);
     } else if (u <= left_tail) {
-      y = std::floor(left + Log(v) / left_rate);
+      y = detail::Floor(left + Log(v) / left_rate);
       if (y < 0) continue;
       v *= (u - parallelograms) * left_rate;
     } else {
-      y = std::floor(right - Log(v) / right_rate);
+      y = detail::Floor(right - Log(v) / right_rate);
       if (y > n) continue;
       v *= (u - left_tail) * right_rate;
     }

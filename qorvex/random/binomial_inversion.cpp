@@ -7,6 +7,7 @@
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special_functions.h"
+#include "qorvex/random/detail/floor.h"
 
 namespace qorvex::inline QorvexRandom {
 
@@ -14,7 +15,7 @@ BinomialInversionSampler::BinomialInversionSampler(std::int32_t n, Extended p)
     : trials_(static_cast<Extended>(n)), odds_(p / (1 - p)) {
   if (!(n >= 0 && p >= 0 && p <= 1)) RaiseMathError(rsInvalidValue);
   // (n + 1) p can round to n + 1.
-  mode_ = std::min(std::trunc((trials_ + 1) * p), trials_);
+  mode_ = std::min(detail::Floor((trials_ + 1) * p), trials_);
   // What is certain exceeds every draw.
   const bool is_certain = p == 0 || p == 1;
   at_mode_ = is_certain ? std::numeric_limits<double>::infinity()

@@ -12,7 +12,10 @@ namespace qorvex::inline QorvexRandom {
 LogNormalSampler::LogNormalSampler(Extended mean, Extended std_dev) : mean_(mean) {
   if (!(mean > 0)) RaiseMathError(rsInvalidMean);
   if (!(std_dev > 0)) RaiseMathError(rsInvalidStdDev);
-  deviation_ = CheckedSqrt(Log(CheckedFinite(std_dev * std_dev)));
+  const Extended square = std_dev * std_dev;
+  if (std::isinf(square)) throw EOverflow();
+  if (std_dev < 1) throw EInvalidOp();
+  deviation_ = std::sqrt(Log(square));
   log_mean_ = Log(mean);
 }
 

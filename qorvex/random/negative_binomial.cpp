@@ -4,6 +4,7 @@
 
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/random/detail/floor.h"
 #include "qorvex/random/detail/limits.h"
 #include "qorvex/random/detail/power_of_complement.h"
 
@@ -46,7 +47,7 @@ Extended NegativeBinomialSampler::operator()(UniformSource source) const {
     while (!(r > 0)) r = source();
     x += std::trunc(Log(r) / log_p_);
   }
-  return std::trunc(x + Invert(source()) + 0.5L);
+  return detail::Floor(x + Invert(source()) + 0.5L);
 }
 
 Extended Random_Neg_Binomial(Extended sk, Extended p, UniformSource source) {

@@ -4,6 +4,7 @@
 
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
+#include "qorvex/random/detail/floor.h"
 #include "qorvex/random/detail/poisson_densities.h"
 #include "qorvex/random/exponential.h"
 #include "qorvex/random/normal.h"
@@ -40,14 +41,14 @@ constexpr int kMostByInversion = 35;
 }  // namespace
 
 PoissonSampler::CorrectedNormal::CorrectedNormal(Extended mean)
-    : mu(mean), deviation(std::sqrt(mean)) {}
+    : mu(mean), deviation(std::sqrt(mean)), accepted_from(detail::Floor(mean - 1.1484L)) {}
 
 // The densities are computed where they are needed, which is rare.
 Extended PoissonSampler::CorrectedNormal::operator()(UniformSource source) const {
   const Extended g = mu + deviation * Random_Normal(source);
   if (g >= 0) {
-    const Extended k = std::floor(g);
-    if (k >= std::floor(mu - 1.1484L)) return k;
+    const Extended k = detail::Floor(g);
+    if (g >= accepted_from) return k;
     const Extended u = source();
     const Extended below = mu - k;
     if (6 * mu * mu * u >= below * below * below) return k;
@@ -61,7 +62,7 @@ Extended PoissonSampler::CorrectedNormal::operator()(UniformSource source) const
     const Extended u = 2 * source() - 1;
     const Extended t = 1.8L + (u < 0 ? -exponential : exponential);
     if (!(t > -0.6744L)) continue;
-    const Extended k = std::floor(mu + deviation * t);
+    const Extended k = detail::Floor(mu + deviation * t);
     const detail::PoissonAndNormal at = densities.At(k);
     if (c * std::fabs(u) <= at.p_factor * Exp(at.p_exponent + exponential) -
                                 at.n_factor * Exp(at.n_exponent + exponential))

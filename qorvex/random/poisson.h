@@ -52,6 +52,7 @@ class QORVEX_EXPORT PoissonSampler {
 
     Extended mu;
     Extended deviation;
+    Extended accepted_from;  // whole
   };
 
   // For smaller means: inversion from 0 upwards.

@@ -3,6 +3,8 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
+#include <iterator>
+#include <span>
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/elementary/functions.h"
@@ -12,31 +14,15 @@ namespace qorvex::inline QorvexRandom {
 
 namespace {
 
-// The cosine of an angle from 0 to pi, reduced to a sine or cosine of an angle up to pi/4, because
-// the C library takes ten times as long for larger ones.
-Extended Cosine(Extended x) {
-  if (x < QorPi / 4) return Cos(x);
-  return x < 3 * QorPi / 4 ? Sin(QorPi / 2 - x) : -Cos(QorPi - x);
-}
-
-// The integral of exp(k cos x) from lo to hi.
-Extended Integral(Extended k, Extended lo, Extended hi) {
-  struct Node {
-    Extended abscissa;
-    Extended weight;
-  };
-  static constexpr Node nodes[] = {{0.238619186083197L, 0.467913934572691L},
-                                   {0.661209386466265L, 0.360761573048139L},
-                                   {0.932469514203152L, 0.171324492379170L}};
-  const Extended mid = (lo + hi) / 2;
-  const Extended half = (hi - lo) / 2;
-  Extended sum = 0;
-  for (const Node& node : nodes) {
-    sum += node.weight * (Exp(k * Cosine(mid + node.abscissa * half)) +
-                          Exp(k * Cosine(mid - node.abscissa * half)));
-  }
-  return half * sum;
-}
+// The Gauss-Legendre rule with six nodes, for the interval from -1 to 1. Each node stands for
+// itself and its negative.
+struct Node {
+  Extended abscissa;
+  Extended weight;
+};
+constexpr Node kNodes[] = {{0.238619186083197L, 0.467913934572691L},
+                           {0.661209386466265L, 0.360761573048139L},
+                           {0.932469514203152L, 0.171324492379170L}};
 
 // True with probability exp(-x), for x in [0, 1]: if the longest descending run of uniform values
 // below x has an even length.
@@ -59,10 +45,38 @@ VonMisesSampler::VonMisesSampler(Extended k) : k_(k), count_(1) {
   ends_[count_] = QorPi;
   weights_[0] = 1;
   if (count_ == 1) return;
+  for (std::size_t j = 1; j < count_; ++j) ends_[j] = QorArcCos(1 - static_cast<Extended>(j) / k);
+  ComputeWeights();
+}
+
+// The integrals of exp(k cos x) over the intervals, divided by their sum. The functions are
+// computed over the nodes of all intervals at once, which takes two thirds of the time of single
+// calls.
+void VonMisesSampler::ComputeWeights() {
+  std::array<Extended, 2 * std::size(kNodes) * kMaxIntervals> room;
+  std::size_t size = 0;
+  for (std::size_t j = 0; j < count_; ++j) {
+    const Extended mid = (ends_[j] + ends_[j + 1]) / 2;
+    const Extended half = (ends_[j + 1] - ends_[j]) / 2;
+    for (const Node& node : kNodes) {
+      room[size++] = mid + node.abscissa * half;
+      room[size++] = mid - node.abscissa * half;
+    }
+  }
+  const std::span<Extended> values(room.data(), size);
+  Cos(values, values);
+  for (Extended& value : values) value *= k_;
+  Exp(values, values);
+
+  const Extended* value = room.data();
   Extended sum = 0;
   for (std::size_t j = 0; j < count_; ++j) {
-    if (j + 1 < count_) ends_[j + 1] = QorArcCos(1 - static_cast<Extended>(j + 1) / k);
-    weights_[j] = Integral(k, ends_[j], ends_[j + 1]);
+    Extended rule = 0;
+    for (const Node& node : kNodes) {
+      rule += node.weight * (value[0] + value[1]);
+      value += 2;
+    }
+    weights_[j] = (ends_[j + 1] - ends_[j]) / 2 * rule;
     sum += weights_[j];
   }
   for (std::size_t j = 0; j < count_; ++j) weights_[j] /= sum;
@@ -80,7 +94,7 @@ Extended VonMisesSampler::operator()(UniformSource source) const {
   for (;;) {
     const Extended lo = ends_[j];
     const Extended angle = lo + place * (ends_[j + 1] - lo);
-    if (IsAccepted(k_ - static_cast<Extended>(j) - k_ * Cosine(angle), source))
+    if (IsAccepted(k_ - static_cast<Extended>(j) - k_ * Cos(angle), source))
       return source() < 0.5L ? -angle : angle;
     place = source();
   }

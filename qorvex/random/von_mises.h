@@ -43,6 +43,8 @@ class QORVEX_EXPORT VonMisesSampler {
   [[nodiscard]] Extended operator()(UniformSource source = ClassicRandom) const;
 
  private:
+  void ComputeWeights();
+
   static constexpr std::size_t kMaxIntervals = 20;
 
   Extended k_;

@@ -36,6 +36,11 @@ def multiply_high(a, b):
     return a * b >> 64
 
 
+def multiply_high_wide(a, b):
+    """Four words, without the product of the low ones, as in C++."""
+    return (a >> 64) * (b >> 64) + multiply_high(a >> 64, b & MASK64) + multiply_high(a & MASK64, b >> 64)
+
+
 def log(m, exponent):
     """What C++ computes for m 2^(exponent - 63), at scale 2^112; asserts the ranges on the way."""
     c = FIRST[m >> 55 & 255] << 18
@@ -60,31 +65,65 @@ FIFTH = (1 << 34) // 5
 SIXTH = (1 << 19) // 6
 
 
-def check_first_stage():
+def log_near_1(mantissa, exponent, negative):
+    """What C++ computes for ln(1 + t), where |t| = mantissa 2^(exponent - 127) < 2^-12, relative to |t| 2^-127."""
+    z = mantissa >> -13 - exponent if exponent > -141 else 0
+    square = multiply_high_wide(z, z)
+    z_top, square_top = z >> 64, square >> 64
+
+    def odd(factor):
+        value = multiply_high(z_top, factor) >> 12
+        return -value if negative else value
+
+    from_fourth = MASK64 // 4 - odd(MASK64 // 9 * 2)
+    from_second = MASK64 // 3 - odd(MASK64 // 7 * 2) + (multiply_high(square_top, from_fourth) >> 24)
+    q = MASK64 // 2 - odd(MASK64 // 5 * 2) + (multiply_high(square_top, from_second) >> 24)
+    assert 0 <= from_fourth <= MASK64 and 0 <= from_second <= MASK64 and 0 <= q <= MASK64
+    odd_part = (z >> 14) + (square_top * multiply_high(z_top, q) >> 38)
+    even_part = (1 << 127) + (multiply_high_wide(square, MASK128 // 3) >> 25)
+    w = even_part + odd_part if negative else even_part - odd_part
+    assert 1 << 126 < w < 1 << 128
+    return mp.ldexp(multiply_high_wide(mantissa, w), 1) / mantissa
+
+
+def check_by_tables():
     """Both ends of all intervals, and random numbers: the error is below 2^-109.3 + 2^-113 |exponent|."""
     edges = [(256 + i << 55) + d for i in range(257) for d in (-1, 0)]
     edges += [(65536 + j << 47) + d for j in range(ROWS_OF_SECOND) for d in (-1, 0)]
     numbers = [m for m in edges if 1 << 63 <= m < 1 << 64] + [random.getrandbits(63) | 1 << 63 for _ in range(20000)]
-    worst = 0
     for m in numbers:
         for exponent in (0, -1, 16383, -16445):
             error = abs(mp.ldexp(log(m, exponent), -SCALE) - mp.log(mp.ldexp(m, -63)) - exponent * mp.log(2))
-            worst = max(worst, error - mp.ldexp(abs(exponent), -113))
-    assert worst < mpf(2) ** -109.3, mp.log(worst, 2)
-    print(mp.log(worst,2))
+            assert error < mpf(2) ** -109.3 + mp.ldexp(abs(exponent), -113), (m, exponent)
 
+
+def check_near_1():
+    """The relative error is below 2^-98.6 from 2^-13 to 2^-12, and a quarter of that below."""
+    for k in range(20000):
+        exponent = -13 if k % 2 else -14 - k // 2 % 80
+        mantissa = random.getrandbits(127) | 1 << 127 if k > 1 else MASK128
+        negative = k // 2 % 2 == 1
+        t = mp.ldexp(mantissa, exponent - 127) * (-1 if negative else 1)
+        error = abs(log_near_1(mantissa, exponent, negative) * t / mp.log1p(t) - 1)
+        assert error < mpf(2) ** (-98.6 if exponent == -13 else -100.6), (k, mp.log(error, 2))
 
 
 def main():
     random.seed(1)
-    mp.prec = 200
-    check_first_stage()
+    mp.prec = 300
+    check_by_tables()
+    check_near_1()
+    inverses = {
+        name: words(int(mp.ldexp(1 / mp.log(base), scale)), 4)[::-1]
+        for name, base, scale in (("kBase2", 2, 255), ("kBase10", 10, 257))
+    }
     run(
         __file__,
-        {
+        tables={
             "log_first": [[c << 18, *words(log)] for c, log in zip(FIRST, LOG_FIRST)],
             "log_second": [[r, *words(log)] for r, log in zip(SECOND, LOG_SECOND)],
         },
+        constants={"log_kernel.h": {"kLogOf2": words(LN2)}, "../log2_log10.cpp": inverses},
     )
 
 

@@ -31,19 +31,18 @@ template <class Finish>
   // 1 + x, exactly, with the larger exponent at bit 126 and above.
   const int exponent = x.exponent > 0 ? x.exponent : 0;
   const UInt128 one = Join(kTopBit >> 1 >> (exponent & 63), 0);
-  const UInt128 part = ShiftedRight(Join(x.significand, 0), (1 + exponent - x.exponent) & 63);
+  const UInt128 part = ShiftedWord(x.significand, 63 - exponent + x.exponent);
   const UInt128 sum = negative ? one - part : one + part;
   if (x.exponent > 62 || High(sum) == 0) [[unlikely]]
     return FinishLog1pOfOther(x, negative, finish);
-  const int zeros = std::countl_zero(High(sum));
-  return finish(Floating(LogByTables(ShiftedLeft(sum, zeros), exponent + 1 - zeros)));
+  const Wide normalised = NormalisedTop(sum, exponent + 1);
+  return finish(Floating(LogByTables(normalised.mantissa, normalised.exponent)));
 }
 
 // The values that are x itself, infinite or NaN.
 Binary80 Log1pOfSpecial(Binary80 x) {
   if (IsNaN(x)) return QuietNaN();
-  if (x.Exponent() < kExponentBias) return x;
-  if (!x.IsNegative()) return x;
+  if (x.Exponent() < kExponentBias || !x.IsNegative()) return Canonical(x);
   return x.significand == kTopBit && x.Exponent() == kExponentBias ? SignedInfinity(true)
                                                                    : QuietNaN();
 }
@@ -55,7 +54,7 @@ Binary80 Log1pOfSpecial(Binary80 x) {
 [[gnu::always_inline]] inline Binary80 Log1pKernel(Binary80 x) {
   const Normalised number{x.significand, x.Exponent() - kExponentBias};
   const bool negative = x.IsNegative();
-  // |x| < 2^-66: x (1 - x/2 + ...) is x, since the next numbers differ by 2^-64 of x or more.
+  // |x| < 2^-66: x (1 - x/2 + ...) is rounded to x, whose midpoints are 2^-65 x away or more.
   if (!IsNormal(x) || number.exponent < -66 || (negative && number.exponent >= 0)) [[unlikely]]
     return Log1pOfSpecial(x);
   return FinishLog1p(number, negative, [=](const Wide& log) {

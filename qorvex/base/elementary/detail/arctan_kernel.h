@@ -2,23 +2,16 @@
 
 // The arc tangent of a quotient of two positive numbers.
 
-#include <algorithm>
-
 #include "qorvex/base/elementary/detail/angle.h"
 #include "qorvex/base/elementary/detail/arc_pieces.h"
 #include "qorvex/base/elementary/detail/quotient.h"
 
 namespace qorvex::elementary {
 
-/// x / 2^count, and 0 from 128 on.
-constexpr UInt128 ShiftedRight(UInt128 x, std::int64_t count) {
-  return count < 128 ? x >> count : 0;
-}
-
 /// atan t for t in (0, 1); relative error below 2^-97.
 inline Wide SmallArcTan(const Wide& t) {
   const UInt128 square = MultiplyHigh(t.mantissa, t.mantissa);
-  const UInt128 quotient = ArcTanQuotient(ShiftedRight(square, -2 * t.exponent - 2));
+  const UInt128 quotient = ArcTanQuotient(ScaledDown(square, -2 * t.exponent - 2));
   return NormalisedTop(MultiplyHigh(t.mantissa, quotient), t.exponent + 1);
 }
 

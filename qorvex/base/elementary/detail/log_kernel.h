@@ -27,9 +27,8 @@ inline constexpr std::uint64_t kLogOf2[2] = {0x0000b17217f7d1cf, 0x79abc9e3b3980
 /// z - ln(1 + z) at scale 2^112 for 0 <= z < 2^-15.9 at scale 2^143.
 ///
 /// - It is z^2 / 2 - z^3 (1/3 - z/4 + z^2 / 5 - z^3 / 6), and breaks off 2^-114 early.
-/// - z^2 is a product of 96 bits, wrong by 2^-112. The cube is a product of 63 bits: 2^-110. The
-/// odd
-///   constants in it are the means of what is cut off before.
+/// - z^2 is a product of 96 bits: 2^-112. The cube is one of 63 bits: 2^-110. The constants 3 in it
+///   stand for the means of what is cut off before.
 [[gnu::always_inline]] inline UInt128 LogRest(UInt128 z) {
   constexpr std::uint64_t third = ~std::uint64_t{0} / 3;
   constexpr std::uint64_t fifth = (std::uint64_t{1} << 34) / 5;
@@ -37,10 +36,11 @@ inline constexpr std::uint64_t kLogOf2[2] = {0x0000b17217f7d1cf, 0x79abc9e3b3980
   const std::uint64_t top = High(z);              // scale 2^79
   const UInt128 square = Multiply(top, top);      // scale 2^158
   const std::uint64_t square_top = High(square);  // scale 2^94
-  const UInt128 half_square = ShiftedRight(square, 47) + (MultiplyHigh(top, Low(z)) >> 46);
   const std::uint64_t q =
       third - (top >> 17) + MultiplyHigh(square_top, fifth - MultiplyHigh(top, sixth));
-  return half_square - MultiplyHigh(2 * square_top + 3, 4 * MultiplyHigh(top, q) + 3);
+  const std::uint64_t cube = MultiplyHigh(2 * square_top + 3, 4 * MultiplyHigh(top, q) + 3);
+  // The rest of the square is smaller than the cube, or 0.
+  return ShiftedRight(square, 47) - (cube - (MultiplyHigh(top, Low(z)) >> 46));
 }
 
 /// A logarithm of at least 2^-13 at scale 2^112.
@@ -51,9 +51,7 @@ struct FixedLog {
 
 /// The same, 2^exponent times as large, as a Wide.
 [[gnu::always_inline]] inline Wide Floating(FixedLog log, std::int64_t exponent = 0) {
-  // The top word is not 0.
-  const int zeros = std::countl_zero(High(log.magnitude) | 1);
-  return {ShiftedLeft(log.magnitude, zeros), exponent + 15 - zeros, log.negative};
+  return NormalisedTop(log.magnitude, exponent + 15, log.negative);
 }
 
 /// ln(m 2^exponent) for m in [1, 2), which `mantissa` is at scale 2^63 or 2^127, and an |exponent|
@@ -62,8 +60,7 @@ struct FixedLog {
 /// - m c r = 1 + z with table values c and r and 0 <= z < 2^-15.9. Exact for 64 bits; else too
 ///   small by 2^-112.
 /// - The sum with the logarithms of the tables and exponent ln 2, at scale 2^112: 2^-111, and
-/// 2^-113
-///   times the exponent.
+///   2^-113 times the exponent.
 /// - All errors: below 2^-109.3 + 2^-113 |exponent| (checked by the script of the tables), which is
 ///   2^-97.3 of a result of 2^-12.
 template <class Mantissa>
@@ -91,10 +88,10 @@ template <class Mantissa>
 
 /// ln(1 + t) for |t| < 2^-12.
 ///
-/// - t w with w = 1 - t/2 + t^2 / 3 - t^3 (1/4 - t/5 + t^2 / 6 - t^3 / 7 + t^4 / 8 - t^5 / 9),
-/// which
-///   breaks off 2^-111 early.
-/// - t^3 and its factor have 62 bits: 2^-98.6. The rest is exact to 2^-125.
+/// - It is t w with w = 1 - t/2 + t^2 / 3 - t^3 (1/4 - t/5 + t^2 / 6 - t^3 / 7 + t^4 / 8 - t^5 / 9)
+///   and breaks off 2^-111 early.
+/// - t^3 and its factor have 62 bits, the rest 125. All errors: below 2^-98.6 of the result; the
+///   script of the tables checks it.
 [[gnu::always_inline]] inline Wide Log1pOfSmall(const Wide& t) {
   if (t.IsZero()) return t;
   const std::int64_t shift = -13 - t.exponent;
