@@ -31,7 +31,7 @@ template <class Finish>
   // 1 + x, exactly, with the larger exponent at bit 126 and above.
   const int exponent = x.exponent > 0 ? x.exponent : 0;
   const UInt128 one = Join(kTopBit >> 1 >> (exponent & 63), 0);
-  const UInt128 part = ShiftedWord(x.significand, 63 - exponent + x.exponent);
+  const UInt128 part = ShiftedLeft(x.significand, 63 - exponent + x.exponent);
   const UInt128 sum = negative ? one - part : one + part;
   if (x.exponent > 62 || High(sum) == 0) [[unlikely]]
     return FinishLog1pOfOther(x, negative, finish);

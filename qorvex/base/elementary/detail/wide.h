@@ -25,11 +25,6 @@ constexpr std::uint64_t High(UInt128 x) {
 constexpr std::uint64_t Low(UInt128 x) {
   return static_cast<std::uint64_t>(x);
 }
-/// word 2^count for 0 < count < 64.
-constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
-  return Join(word >> (64 - count), word << count);
-}
-
 constexpr UInt128 Multiply(std::uint64_t a, std::uint64_t b) {
   return UInt128{a} * b;
 }
@@ -62,6 +57,11 @@ constexpr UInt128 ShiftedRight(UInt128 x, int count) {
 }
 constexpr UInt128 ShiftedLeft(UInt128 x, int count) {
   return Join(High(x) << count | Low(x) >> 1 >> (63 - count), Low(x) << count);
+}
+/// x / 2^count for any count >= 0.
+constexpr UInt128 ScaledDown(UInt128 x, std::int64_t count) {
+  if (count < 64) return ShiftedRight(x, static_cast<int>(count));
+  return count < 128 ? High(x) >> (count - 64) : 0;
 }
 
 constexpr int LeadingZeros(UInt128 x) {
@@ -109,8 +109,7 @@ inline Wide::Wide(Extended x) {
 /// The same, quicker, for a mantissa of 2^64 or more.
 constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
   const int zeros = std::countl_zero(High(mantissa));
-  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
-  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
+  return {ShiftedLeft(mantissa, zeros), exponent - zeros, negative};
 }
 
 /// The product; relative error below 2^-125.
