@@ -14,7 +14,6 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 purpose=${1:-}
 packages=(
   g++ cmake ninja-build
-  libboost-dev       # the special functions, headers only
   qt6-base-dev       # the components, and threads for the desktop program
   libcli11-dev       # the command line
   fonts-dejavu-core  # the font of pictures and widget tests
@@ -25,6 +24,7 @@ test_packages=(
   qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools  # translations, and the plugin of Qt Designer
   libqt6opengl6-dev  # needed by qt6-tools-dev for programs that load forms
   libgtest-dev
+  libboost-dev       # integers and floating-point numbers of any size, headers only
   libeigen3-dev      # the example that shares matrices with Eigen
   libfmt-dev         # tests of formatting amounts, vectors and matrices
   libmpfr-dev        # exact values of the elementary functions

@@ -60,8 +60,7 @@ bool Report(const ElementaryFunction& function, const Task& task) {
         TryInThreads(function, region, task.count / function.regions.size(), task);
     Print(region.name, outcome);
     all.Add(outcome);
-    kept = kept && (function.is_nearest ? outcome.not_nearest == 0
-                                        : outcome.largest_error <= region.allowed);
+    kept = function.IsKept(region, outcome) && kept;
   }
   Print("all", all);
   return kept;

@@ -1,11 +1,9 @@
 #include "qorvex/base/special_functions.h"
 
 #include <cmath>
-#include <limits>
 
 #include "qorvex/base/checked_math.h"
 #include "qorvex/base/errors.h"
-#include "qorvex/base/special/detail/boost_math.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/regularised_beta.h"
 #include "qorvex/base/special/shape_range.h"
@@ -15,9 +13,7 @@ namespace qorvex::inline QorvexGlobals {
 namespace {
 
 using elementary::Wide;
-using special::Evaluate;
 using special::IsShapeOutOfRange;
-using special::kBoostPolicy;
 using special::kLargestShape;
 
 // Raises unless value is in [0, 1] and the shapes are in range; NaN passes.

@@ -52,6 +52,15 @@ HIGH = [fixed(mpf(2) ** (mpf(i) / 256), 127) for i in range(256)]
 LOW = [fixed(mpf(2) ** (mpf(i) / 65536) - 1, 128) for i in range(256)]
 assert HIGH[255] + (HIGH[255] * LOW[255] >> 128) < 1 << 128
 
+# e^x - 1 = x (1 + x^2 / 3! ... + x^10 / 11! + x (1 / 2! + x^2 / 4! ... + x^8 / 10!)) for |x| < 2^-8.
+FACTORIALS = {
+    first: [word for n in (0, 2, 4) for word in words(fixed(1 / mp.factorial(first + n), 127))]
+    + [fixed(1 / mp.factorial(first + n), 63) for n in (6, 8)]
+    for first in (2, 3)
+}
+left_out = sum(mpf(2) ** (-8 * (n - 1)) / mp.factorial(n) for n in range(12, 20))
+assert left_out < mpf(2) ** -116.6, mp.log(left_out, 2)
+
 run(
     __file__,
     tables={"exp_high": [words(t) for t in HIGH], "exp_low": [words(t) for t in LOW]},
@@ -61,5 +70,6 @@ run(
             "kLn2Step": words(int(mp.floor(mp.ldexp(STEP, 144)))),
             "kExpCoefficients": [C3, C4, C5],
         },
+        "../expm1.cpp": {"kEvenFactorials": FACTORIALS[2], "kOddFactorials": FACTORIALS[3]},
     },
 )

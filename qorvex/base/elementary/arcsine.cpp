@@ -23,9 +23,9 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage: 2^-98.5 from the square root and 2^-99.5 from P, at most
+// Four times the error of the first stage: 2^-98.5 from the square root and 2^-100 from P, at most
 // twice that of the result after a subtraction, and so below 2^-97.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
 
 // Below 2^-32, asin x rounds to x: x^2/6 is less than half the distance to the next number.
 constexpr int kLeastExponent = -32;
@@ -124,13 +124,15 @@ Extended ArcSin(Extended x) noexcept {
   return FromBits(elementary::ArcSineKernel(BitsOf(x)));
 }
 void ArcSin(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcSineKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcSineKernel(t); });
 }
 Extended ArcCos(Extended x) noexcept {
   return FromBits(elementary::ArcCosineKernel(BitsOf(x)));
 }
 void ArcCos(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcCosineKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcCosineKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -16,7 +16,7 @@ namespace qorvex::elementary {
 namespace {
 
 // Four times the error of the first stage, 2^-97 of the result.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
 
 // Below 2^-32, atan x rounds to x: x^2/3 is less than half the distance to the next number.
 constexpr int kLeastExponent = -32;
@@ -40,7 +40,7 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
   const Wide x{Join(bits.significand, 0), bits.Exponent() - kExponentBias};
   Wide first = x.exponent < 0 ? SmallArcTan(x)
                               : ComplementOfArcTan(ScaledDown(
-                                    ShiftedLeft<1>(QuickReciprocal(bits.significand)), x.exponent));
+                                    ShiftedLeft(QuickReciprocal(bits.significand), 1), x.exponent));
   first.negative = bits.IsNegative();
   return CorrectlyRounded(first, kHalfWidth, [&] { return SecondStage(x, bits.IsNegative()); });
 }
@@ -62,7 +62,8 @@ Extended ArcTan(Extended x) noexcept {
   return elementary::FromBits(elementary::ArcTanKernel(elementary::BitsOf(x)));
 }
 void ArcTan(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::ArcTanKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::ArcTanKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

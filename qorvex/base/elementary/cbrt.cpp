@@ -20,8 +20,8 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 40;
+// Four times the error of the first stage, 2^-89 of the result.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 41;
 
 constexpr std::uint64_t kInverseRoots[64][4] = {
 #include "qorvex/base/elementary/detail/tables/inverse_cube_root.inc"
@@ -47,13 +47,13 @@ inline UInt128 RootOfSignificand(std::uint64_t significand) {
   const std::uint64_t y = InverseRoot(significand);
   const UInt128 base = Multiply(significand, y * y);
   const UInt128 d_95 = (UInt128{1} << 95) - MultiplyHigh(base, y);
-  const auto d = Low(ShiftedRight<2>(d_95));  // at scale 2^93
+  const auto d = Low(ShiftedRight(d_95, 2));  // at scale 2^93
   constexpr std::uint64_t two_thirds = 0xaaaaaaaaaaaaaaab;
   constexpr std::uint64_t five_ninths = 0x8e38e38e38e38e39;
   const std::uint64_t bracket =
       MultiplyHigh(d, two_thirds) + (MultiplyHigh(MultiplyHigh(d, d), five_ninths) >> 29);
   constexpr std::uint64_t added = 11;  // 2^-89.6
-  return base + ShiftedRight<29>(Multiply(High(base), bracket + added));
+  return base + ShiftedRight(Multiply(High(base), bracket + added), 29);
 }
 
 [[gnu::noinline]] Wide256 SecondStage(const Wide& x, const Wide& root) {
@@ -97,7 +97,8 @@ Extended Cbrt(Extended x) noexcept {
   return elementary::FromBits(elementary::CbrtKernel(elementary::BitsOf(x)));
 }
 void Cbrt(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::CbrtKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::CbrtKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -24,7 +24,7 @@ using namespace elementary;
   if (exponent < -66) return SignedOne(false);
   // The term after x^2 / 2 is below 2^-152.
   const Wide t(FromBits(x));
-  return CorrectlyRounded(Wide(1.0L) + (t + ScaledBy(t * t, -1)), 16,
+  return CorrectlyRounded(Wide(1.0L) + (t + ScaledBy(t * t, -1)), 32,
                           [x] { return ExpInDoubt(x); });
 }
 
@@ -32,7 +32,7 @@ using namespace elementary;
   const int exponent = x.Exponent() - kExponentBias;
   if (static_cast<unsigned>(exponent + 49) >= 49 + 14 || x.significand < kTopBit) [[unlikely]]
     return ExpOfUnusual(x);
-  constexpr std::uint64_t half_width = 1 << 16;
+  constexpr std::uint64_t half_width = 1 << 17;
   return CorrectlyRounded(ExpOf(x.significand, exponent, x.IsNegative()), half_width,
                           [x] { return ExpInDoubt(x); });
 }

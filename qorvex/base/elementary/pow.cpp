@@ -7,7 +7,7 @@
 // - o > 1: y > 0, because o^-y has no finite binary expansion; o = p^(2^s) for an integer p,
 // because
 //   the 2^s-th root of an odd integer is one or is irrational (y E is an integer then); and p^n has
-//   at most 65 bits, so n <= 41. All of these with s = 0 are among the exact powers below. The
+//   at most 65 bits, so n <= 41. All of these with s = 0 are among the short powers below. The
 //   others have the second stage round 200 bits, of which the last ones are 0.
 //
 // Pairs (x, y) whose power is neither close to 1 nor out of range number 2^149, so one of them in
@@ -58,22 +58,31 @@ std::optional<Binary80> SpecialPower(Binary80 x, Binary80 y) {
   return std::nullopt;
 }
 
-// x^n exactly if n is an integer from 1 to 127 and the power has at most 128 bits: all squares, and
-// powers of short numbers.
-[[gnu::always_inline]] inline std::optional<Wide> ExactPower(Normalised x, Normalised y) {
+// The number of bits of x without the zeros at its end.
+int LengthOf(Normalised x) {
+  return 64 - std::countr_zero(x.significand);
+}
+
+// Whether y is an integer from 1 to 127 and x^y has at most 128 bits: all squares, and powers of
+// short numbers.
+[[gnu::always_inline]] inline bool IsShortPower(Normalised x, Normalised y, bool y_is_negative) {
   // First what is rarely true, so that the processor guesses right.
-  if (y.significand << 7 != 0 || y.exponent >= 7 || !IsInteger(y)) return std::nullopt;
+  if (y.significand << 7 != 0 || y_is_negative || y.exponent >= 7 || !IsInteger(y)) return false;
+  return static_cast<int>(y.significand >> (63 - y.exponent)) * LengthOf(x) <= 128;
+}
+
+// A short power, rounded once.
+[[gnu::noinline]] Binary80 ShortPower(Normalised x, Normalised y, bool negative) {
   auto n = static_cast<unsigned>(y.significand >> (63 - y.exponent));
-  const int trailing = std::countr_zero(x.significand);
-  if (n * static_cast<unsigned>(64 - trailing) > 128) return std::nullopt;
-  const std::int64_t exponent = std::int64_t{x.exponent - 63 + trailing} * n;
-  UInt128 square = x.significand >> trailing;
+  const int length = LengthOf(x);
+  const std::int64_t exponent = std::int64_t{x.exponent + 1 - length} * n;
+  UInt128 square = x.significand >> (64 - length);
   UInt128 power = 1;
   for (; n > 1; n >>= 1) {
     if ((n & 1) != 0) power *= square;
     square *= square;
   }
-  return NormalisedWide(power * square, exponent + 127);
+  return NearestBits(NormalisedWide(power * square, exponent + 127, negative));
 }
 
 // The second stage. The logarithm, relative error 2^-220, times y is below 2^14 or so; the
@@ -94,10 +103,7 @@ std::optional<Binary80> SpecialPower(Binary80 x, Binary80 y) {
     exponent = Normalise(y);
     negative = x.IsNegative() && IsOddInteger(exponent);
   }
-  if (std::optional<Wide> exact = ExactPower(base, exponent); exact && !y.IsNegative()) {
-    exact->negative = negative;
-    return NearestBits(*exact);
-  }
+  if (IsShortPower(base, exponent, y.IsNegative())) return ShortPower(base, exponent, negative);
   const Wide factor = WideOf(exponent, y.IsNegative());
   return FinishLog(base, [=](const Wide& log) {
     const Wide t = log * factor;

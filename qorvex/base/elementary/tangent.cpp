@@ -16,8 +16,8 @@ namespace qorvex::elementary {
 
 namespace {
 
-// Four times the error of the first stage, 2^-98 from the quotient and two of 2^-104.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 31;
+// Nearly four times the error of the first stage: 2^-98 from the quotient, twice 2^-103.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
 
 [[gnu::noinline]] Binary80 WithoutKernel(Binary80 x) {
   return x.Exponent() == kExponentOfInfinity || IsNaN(x) ? QuietNaN() : Canonical(x);
@@ -55,7 +55,8 @@ Extended Tan(Extended x) noexcept {
   return elementary::FromBits(elementary::TangentKernel(elementary::BitsOf(x)));
 }
 void Tan(VectorView<Extended> x, std::span<Extended> results) {
-  elementary::OverSpans(x, results, elementary::TangentKernel);
+  elementary::OverSpans(x, results,
+                        [](elementary::Binary80 t) { return elementary::TangentKernel(t); });
 }
 
 }  // namespace qorvex::inline QorvexGlobals

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 
+#include "qorvex/base/special/detail/factorial_wide.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
@@ -12,12 +13,9 @@ namespace qorvex::special {
 
 namespace {
 
-// Far beyond where Stirling's series begins, because the table is quicker.
-constexpr int kTableEnd = 256;
-
 // Gamma(i / 2 + 1); off by less than 2^-115.
 constexpr auto kFactorialsOfHalves = [] {
-  std::array<Wide, std::size_t{2} * kTableEnd> factorials{};
+  std::array<Wide, std::size_t{2} * kFactorialWideEnd> factorials{};
   Wide whole = kOne;
   Wide half = kHalfRootOfPi;
   for (std::size_t i = 0; i < factorials.size(); i += 2) {
@@ -31,16 +29,20 @@ constexpr auto kFactorialsOfHalves = [] {
 
 }  // namespace
 
+Wide FactorialWide(const Wide& a) {
+  // The bits of 2 a after the point.
+  const int whole_bits = static_cast<int>(a.exponent) + 2;
+  if (a.IsZero() || whole_bits < 1) return kOne + GammaMinusOne(a);
+  if (a.mantissa << whole_bits == 0)
+    return kFactorialsOfHalves[elementary::High(a.mantissa) >> (64 - whole_bits)];
+  return a.exponent < 0 ? kOne + GammaMinusOne(a) : a * GammaWide(a);
+}
+
 Scaled FactorialOf(ExtendedPair a) {
   if (std::isnan(a.hi)) return a.hi;
-  const Extended twice = 2 * a.hi;
-  if (a.hi < kTableEnd && a.lo == 0 && twice == std::trunc(twice))
-    return MakeScaled(kFactorialsOfHalves[static_cast<std::size_t>(twice)]);
-  constexpr Extended stirling_from = 16;
-  const Wide x = Wide(a);
-  if (a.hi < 1) return MakeScaled(kOne + GammaMinusOne(x));
-  if (a.hi < stirling_from) return MakeScaled(x * GammaWide(x));
-  return MakeScaled(kOne, LnFactorialWide(x));
+  const Wide x(a);
+  return a.hi < kFactorialWideEnd ? MakeScaled(FactorialWide(x))
+                                  : MakeScaled(kOne, LnFactorialWide(x));
 }
 
 }  // namespace qorvex::special

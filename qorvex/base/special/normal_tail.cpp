@@ -3,16 +3,16 @@
 #include <cmath>
 
 #include "qorvex/base/special/detail/normal_wide.h"
-#include "qorvex/base/special/detail/wide_constants.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::special {
 
 Scaled NormalDensity(ExtendedPair z, Extended scale) {
-  return NormalDensity(Wide(z), kOne / Wide(scale));
+  return MakeScaled(NormalDensityWide(Wide(z)) / Wide(scale));
 }
 
 Scaled NormalUpperTail(ExtendedPair z) {
-  return NormalUpperTail(Wide(z));
+  return NormalFarTail(Wide(z));
 }
 
 }  // namespace qorvex::special

@@ -5,12 +5,13 @@
 
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/continued_fraction.h"
+#include "qorvex/base/special/detail/factorial_wide.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/detail/small_shape.h"
 #include "qorvex/base/special/detail/tail_solver.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/base/special/factorial.h"
 
 namespace qorvex::special {
 
@@ -48,36 +49,6 @@ class LowerFractionTerms {
   Extended n_ = 0;
 };
 
-// The fraction itself. For large shapes its convergents first swing far about the value: these go
-// into a product of ratios (Lentz 1976, "Generating Bessel functions in Mie scattering
-// calculations"), which does not cancel. The others are added up (Steed's method; Barnett et al.
-// 1974, "Coulomb wave functions for all real eta and rho"), which rounds less often.
-Extended LowerFraction(Extended a, Extended b, Extended x, Extended lambda) {
-  constexpr Extended calm = 0.125L;
-  constexpr Extended rounding = std::numeric_limits<Extended>::epsilon() / 4;
-  LowerFractionTerms terms(a, b, x, lambda);
-  Extended fraction = terms.First();
-  Extended ratio = fraction;
-  Extended inverse = 0;
-  Extended difference = 0;
-  do {
-    terms.Next();
-    inverse = 1 / (terms.denominator + terms.numerator * inverse);
-    ratio = terms.denominator + terms.numerator / ratio;
-    const Extended previous = fraction;
-    fraction *= ratio * inverse;
-    difference = fraction - previous;
-  } while (std::fabs(difference) > std::fabs(fraction) * calm);
-  while (std::fabs(difference) > std::fabs(fraction) * rounding) {
-    terms.Next();
-    const Extended next = 1 / (terms.denominator + terms.numerator * inverse);
-    difference *= -terms.numerator * inverse * next;
-    inverse = next;
-    fraction += difference;
-  }
-  return fraction;
-}
-
 // -ln(a B(a, b)) for a <= 1, with all its digits for small a.
 Wide LnLeadingFactor(const Wide& a, const Wide& b) {
   return LnGammaRatio(b, a) - elementary::Log1pWide(GammaMinusOne(a));
@@ -89,30 +60,42 @@ Tails SmallTails(Extended shape_a, Extended shape_b, const Wide& x) {
   const Wide a(shape_a);
   const Wide b(shape_b);
   return SmallShapeTails(a, a * LogWide(x) + LnLeadingFactor(a, b),
-                         [&](const Wide& n) { return (n - b) * x / n; });
+                         [&](const Wide& n) { return (n - b) * x; });
 }
 
 // With shapes that add up to less, the density is x^a y^b / B(a, b); from here on it is taken
 // relative to its maximum, since the two would cancel.
-constexpr Extended kLargeShapes = 256;
+constexpr Extended kLargeShapes = 250;
+
+bool IsLarge(Extended a, Extended b) {
+  return a + b >= kLargeShapes;
+}
+
+// a / (a + b).
+StoredWide Share(Extended a, Extended b) {
+  return IsLarge(a, b) ? Store(Wide(a) / (Wide(a) + Wide(b))) : StoredWide();
+}
+
+Scaled AtReference(Extended shape_a, Extended shape_b) {
+  if (std::isnan(shape_a + shape_b)) return shape_a + shape_b;
+  const Wide a(shape_a);
+  const Wide b(shape_b);
+  const Wide sum = a + b;
+  if (!IsLarge(shape_a, shape_b))
+    return MakeScaled(a * b * FactorialWide(sum) / (sum * FactorialWide(a) * FactorialWide(b)));
+  const Wide square = a * b / (sum * ScaledBy(kWidePi, 1));
+  return MakeScaled(SquareRoot(square)) * TemperedGamma(sum) /
+         (TemperedGamma(a) * TemperedGamma(b));
+}
 
 }  // namespace
 
-RegularisedBeta::RegularisedBeta(Extended a, Extended b) : a_(a), b_(b) {
-  if (!(a + b >= kLargeShapes)) {
-    at_reference_ = Scaled(a) * Scaled(b) / MakeScaled(Wide(a) + Wide(b)) *
-                    FactorialOf(ExactSum(a, b)) / (FactorialOf(a) * FactorialOf(b));
-    return;
-  }
-  const Wide wide_a(a);
-  const Wide wide_b(b);
-  const Wide sum = wide_a + wide_b;
-  reference_x_ = Store(wide_a / sum);
-  reference_y_ = Store(wide_b / sum);
-  const Wide square = wide_a * wide_b / (sum * ScaledBy(kWidePi, 1));
-  at_reference_ = MakeScaled(SquareRoot(square)) * TemperedGamma(sum) /
-                  (TemperedGamma(wide_a) * TemperedGamma(wide_b));
-}
+RegularisedBeta::RegularisedBeta(Extended a, Extended b)
+    : a_(a),
+      b_(b),
+      reference_x_(Share(a, b)),
+      reference_y_(Share(b, a)),
+      at_reference_(AtReference(a, b)) {}
 
 struct RegularisedBeta::Point {
   explicit Point(const Odds& odds) {
@@ -167,11 +150,11 @@ Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const 
   const Extended y = Nearest(wide_y);
   constexpr Extended slow = 1e-3L;
   if (b < 1 && y < slow && a * y < 1) return from_end(SmallTails(b, a, wide_y).Mirrored());
-  const Scaled probability = density / Scaled(LowerFraction(a, b, x, std::fabs(lambda)));
+  const Extended share = 1 / ContinuedFraction(LowerFractionTerms(a, b, x, std::fabs(lambda)));
   constexpr Extended most = 0.9L;
-  if (a < 1 && probability.Value() > most)
+  if (a < 1 && density.Value() * share > most)
     return from_end(x <= 0.5L ? SmallTails(a, b, wide_x) : SmallTails(b, a, wide_y).Mirrored());
-  return {tail, probability};
+  return {tail, density, share};
 }
 
 Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {

@@ -4,7 +4,10 @@
 #include <limits>
 
 #include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/detail/quotient.h"
 #include "qorvex/base/elementary/functions.h"
+#include "qorvex/base/special/detail/continued_fraction.h"
+#include "qorvex/base/special/detail/factorial_wide.h"
 #include "qorvex/base/special/detail/gamma_wide.h"
 #include "qorvex/base/special/detail/small_shape.h"
 #include "qorvex/base/special/detail/tail_solver.h"
@@ -17,6 +20,7 @@ namespace qorvex::special {
 
 using elementary::LogWide;
 using elementary::Nearest;
+using elementary::QuickQuotient;
 
 namespace {
 
@@ -27,7 +31,7 @@ constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 4;
 // processor can start it early. The terms that are left sum to less than term * x / (divisor - x),
 // once that is positive.
 Extended LowerSeries(Extended a, Extended x) {
-  Extended sum = 1;
+  Extended rest = 0;  // the sum without its first term
   Extended term = 1;
   Extended divisor = a;
   do {
@@ -35,28 +39,31 @@ Extended LowerSeries(Extended a, Extended x) {
     divisor += 2;
     const Extended quotient = term * (x / (next * divisor));
     term = quotient * x;
-    sum += quotient * divisor + term;
-  } while (term * x > sum * kRounding * (divisor - x));
-  return sum;
+    rest += quotient * divisor + term;
+  } while (term * x > (rest + 1) * kRounding * (divisor - x));
+  return 1 + rest;
 }
 
-// The upper tail is x^a e^-x / Gamma(a) times this continued fraction, Legendre's, evaluated by
-// Steed's method (Barnett et al. 1974, "Coulomb wave functions for all real eta and rho").
-Extended UpperFraction(Extended a, Extended x) {
-  Extended b = x + 1 - a;
-  Extended inverse = 1 / b;
-  Extended difference = inverse;
-  Extended fraction = inverse;
-  for (Extended n = 1; std::fabs(difference) > fraction * kRounding; ++n) {
-    b += 2;
-    const Extended numerator = n * (n - a);
-    const Extended next = 1 / (b - numerator * inverse);
-    difference *= numerator * inverse * next;
-    inverse = next;
-    fraction += difference;
+// The upper tail is x^a e^-x / Gamma(a) divided by this continued fraction, Legendre's:
+// x + 1 - a + 1 (a - 1) / (x + 3 - a + 2 (a - 2) / (x + 5 - a + ...)).
+class UpperFractionTerms {
+ public:
+  UpperFractionTerms(Extended a, Extended first) : denominator(first), a_(a) {}
+
+  [[nodiscard]] Extended First() const { return denominator; }
+  void Next() {
+    n_ += 1;
+    numerator = n_ * (a_ - n_);
+    denominator += 2;
   }
-  return fraction;
-}
+
+  Extended numerator = 0;
+  Extended denominator;
+
+ private:
+  Extended a_;
+  Extended n_ = 0;
+};
 
 // ln Gamma(a + 1), with all its digits for small a.
 Wide LnFactorial(Extended a) {
@@ -67,12 +74,19 @@ Wide LnFactorial(Extended a) {
 // The tails for x <= 1 and small shapes: the power series of the incomplete gamma function.
 Tails SmallTails(const Wide& a, const Wide& x) {
   const Wide leading = a * LogWide(x) - elementary::Log1pWide(GammaMinusOne(a));
-  return SmallShapeTails(a, leading, [&](const Wide& n) { return -(x / n); });
+  return SmallShapeTails(a, leading, [&](const Wide&) { return -x; });
 }
 
 // Below, the density is x^a e^-x / Gamma(a); from here on it is taken relative to its maximum,
 // since the two would cancel.
-constexpr Extended kLargeShape = 256;
+constexpr Extended kLargeShape = kFactorialWideEnd;
+
+Scaled AtReference(Extended shape) {
+  if (std::isnan(shape)) return shape;
+  const Wide a(shape);
+  if (shape < kLargeShape) return MakeScaled(QuickQuotient(a, FactorialWide(a)));
+  return MakeScaled(SquareRoot(a / ScaledBy(kWidePi, 1))) / TemperedGamma(a);
+}
 
 }  // namespace
 
@@ -81,15 +95,10 @@ RegularisedGamma::Point::Point(ExtendedPair value) : x_(Store(Wide(value))) {}
 RegularisedGamma::Point::Point(ExtendedPair numerator, ExtendedPair denominator)
     : x_(Store(Wide(numerator) / Wide(denominator))) {}
 
-RegularisedGamma::RegularisedGamma(Extended shape) : shape_(shape) {
-  if (!(shape >= kLargeShape)) {
-    at_reference_ = Scaled(shape) / FactorialOf(shape);
-    return;
-  }
-  reference_ = shape;
-  const Wide a(shape);
-  at_reference_ = MakeScaled(SquareRoot(a / ScaledBy(kWidePi, 1))) / TemperedGamma(a);
-}
+RegularisedGamma::RegularisedGamma(Extended shape)
+    : shape_(shape),
+      reference_(shape < kLargeShape ? 0 : shape),
+      at_reference_(AtReference(shape)) {}
 
 Scaled RegularisedGamma::LogDensity(const Point& point) const {
   const Wide x = Load(point.x_);
@@ -112,12 +121,14 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
   const Extended a = shape_;
   const Extended x = Nearest(Load(point.x_));
   if (x <= 1 || x < a) {
-    const Scaled lower = density * Scaled(LowerSeries(a, x) / a);
-    constexpr Extended most = 0.9L;
-    if (a < 1 && lower.Value() > most) return SmallTails(Wide(a), Load(point.x_));
-    return {Tail::kLower, lower};
+    const Extended share = LowerSeries(a, x) / a;
+    constexpr Extended most = 0.5L;
+    if (a < 1 && density.Value() * share > most) return SmallTails(Wide(a), Load(point.x_));
+    return {Tail::kLower, density, share};
   }
-  return {Tail::kUpper, density * Scaled(UpperFraction(a, x))};
+  // In 64 bits x + 1 - a would lose digits.
+  const Extended first = Nearest(Load(point.x_) + kOne - Wide(a));
+  return {Tail::kUpper, density, 1 / ContinuedFraction(UpperFractionTerms(a, first))};
 }
 
 Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {

@@ -47,8 +47,8 @@ class QORVEX_EXPORT RegularisedGamma {
   [[nodiscard]] Extended Start(Tail tail, Extended p, Extended asymptote) const;
 
   Extended shape_;
-  Extended reference_ = 0;  // the density is relative to that at this point
-  Scaled at_reference_;     // the density of ln X there
+  Extended reference_;   // the density is relative to that at this point
+  Scaled at_reference_;  // the density of ln X there
 };
 
 }  // namespace qorvex::special

@@ -36,15 +36,17 @@ Wide WideValue(const ScaledParts& x) {
 
 }  // namespace
 
-Scaled::Scaled(Extended factor, ExtendedPair exponent) {
-  const Extended shift = std::isfinite(factor) ? 0 : std::fabs(factor);
-  if (shift != 0) factor = factor < 0 ? -1 : 1;
-  const bool is_finite = std::isfinite(exponent.hi);
-  ScaledParts parts(Wide(factor), {}, shift);
-  if (!is_finite) parts.unbounded += exponent.hi;
+Scaled::Scaled(Extended value)
+    : factor_(Store(Wide(std::isfinite(value) ? value : std::copysign(1.0L, value)))),
+      unbounded_(std::isfinite(value) ? 0 : std::fabs(value)) {}
+
+Scaled::Scaled(Extended factor, ExtendedPair exponent) : Scaled(factor) {
   // The low part of a pair near the end of the format may be NaN.
-  if (is_finite) parts.exponent = std::isfinite(exponent.lo) ? Wide(exponent) : Wide(exponent.hi);
-  *this = parts.Joined();
+  if (!std::isfinite(exponent.hi)) {
+    unbounded_ += exponent.hi;
+  } else {
+    exponent_ = Store(std::isfinite(exponent.lo) ? Wide(exponent) : Wide(exponent.hi));
+  }
 }
 
 bool Scaled::IsZero() const {

@@ -32,7 +32,9 @@ class QORVEX_EXPORT Scaled {
   /// 1.
   Scaled() = default;
   /// factor * e^exponent. An infinite exponent makes it 0 or infinity; NaN makes it NaN.
-  Scaled(Extended factor, ExtendedPair exponent = {});  // NOLINT: a wider number
+  Scaled(Extended factor, ExtendedPair exponent);
+  /// A single value.
+  Scaled(Extended value);  // NOLINT: a wider number
 
   /// The number itself; 0 or infinity beyond the range.
   [[nodiscard]] Extended Value() const;
@@ -55,6 +57,8 @@ class QORVEX_EXPORT Scaled {
 
  private:
   friend struct ScaledParts;
+  Scaled(const StoredWide& factor, const StoredWide& exponent, Extended unbounded)
+      : factor_(factor), exponent_(exponent), unbounded_(unbounded) {}
 
   StoredWide factor_{std::uint64_t{1} << 63};
   StoredWide exponent_;

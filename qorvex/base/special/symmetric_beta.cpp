@@ -23,12 +23,21 @@ Odds Exchanged(const Odds& odds) {
   return {odds.against, odds.in_favour};
 }
 
+// The tails are a sum of at most 16 terms.
+bool IsShortSum(Extended a, Extended b) {
+  constexpr Extended most_terms = 16;
+  return a <= most_terms && a + b <= kExactTrials && IsWhole(a) && IsWhole(b);
+}
+
+bool HasClosedForm(Extended a, Extended b) {
+  return a == 1 || b == 1 || IsShortSum(a, b) || IsShortSum(b, a);
+}
+
 // For a whole shape a of few terms and a whole b: the upper tail is the probability of fewer than a
 // successes in a + b - 1 trials, of which at least b fail. Nothing where 1 minus it has too
 // few digits.
 std::optional<Tails> SumTails(Extended a, Extended b, const Wide& x, const Wide& y) {
-  constexpr Extended most_terms = 16;
-  if (!(a <= most_terms && a + b <= kExactTrials && IsWhole(a) && IsWhole(b))) return std::nullopt;
+  if (!IsShortSum(a, b)) return std::nullopt;
   const auto failures = static_cast<std::uint64_t>(b);
   const auto n = static_cast<std::uint64_t>(a) + failures - 1;
   Wide ways;
@@ -38,11 +47,11 @@ std::optional<Tails> SumTails(Extended a, Extended b, const Wide& x, const Wide&
     power_of_x = power_of_x * x;
   }
   const Wide upper = ways * WholePower(y, failures);
-  if (IsSmaller(upper, kHalf)) return Tails(Tail::kUpper, MakeScaled(upper));
+  if (IsSmaller(upper, kHalf)) return Tails{Tail::kUpper, MakeScaled(upper)};
   const Wide rest = kOne - upper;
   constexpr Extended least_rest = 1e-12L;
   if (!(Nearest(rest) > least_rest)) return std::nullopt;
-  return Tails(Tail::kLower, MakeScaled(rest));
+  return Tails{Tail::kLower, MakeScaled(rest)};
 }
 
 // The upper tail is y^b for a first shape of 1.
@@ -76,6 +85,7 @@ Tails SymmetricBeta::OrderedAt(const Odds& odds) const {
   const bool even = odds.in_favour.hi == odds.against.hi && odds.in_favour.lo == odds.against.lo;
   if (a == b && even) return {Tail::kLower, 0.5L};
 
+  if (!HasClosedForm(a, b)) return beta_.At(odds);
   const Wide in_favour(odds.in_favour);
   const Wide against(odds.against);
   const Wide sum = in_favour + against;

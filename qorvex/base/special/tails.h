@@ -20,31 +20,32 @@ constexpr Tail Opposite(Tail tail) {
 
 /// The probabilities on both sides of a point. One of them is known with full relative accuracy,
 /// the other, which is not much smaller, as 1 minus it.
-class Tails {
- public:
-  /// From the tail that is known.
-  Tails(Tail known_tail, const Scaled& probability)
-      : known_tail_(known_tail), known_(probability) {}
+struct Tails {
+  /// The tail that is known. As members of an aggregate both are made in place: a number that has
+  /// just been written takes longer to copy than to compute with.
+  Tail known_tail;
+  /// Its probability.
+  Scaled known;
+
+  /// From the tail that is known as a product.
+  Tails(Tail known_tail, const Scaled& density, Extended share)
+      : known_tail_(known_tail), known_(density * Scaled(share)) {}
 
   /// The probability of a tail as a number that may be too small for the format.
   [[nodiscard]] Scaled ScaledProbability(Tail tail) const {
-    return tail == known_tail_ ? known_ : Scaled() - known_;
+    return tail == known_tail ? known : Scaled() - known;
   }
   /// The probability of a tail; 0 where it is too small for the format.
   [[nodiscard]] Extended Probability(Tail tail) const {
-    return tail == known_tail_ ? known_.Value() : known_.Rest();
+    return tail == known_tail ? known.Value() : known.Rest();
   }
   /// The natural logarithm of the probability of a tail, also where the probability underflows.
   [[nodiscard]] Extended LogProbability(Tail tail) const {
     // Adding 0 turns -0 into 0.
-    return (tail == known_tail_ ? known_.Log() : known_.LogOfRest()) + 0;
+    return (tail == known_tail ? known.Log() : known.LogOfRest()) + 0;
   }
   /// The tails of the mirrored distribution.
-  [[nodiscard]] Tails Mirrored() const { return {Opposite(known_tail_), known_}; }
-
- private:
-  Tail known_tail_;
-  Scaled known_;
+  [[nodiscard]] Tails Mirrored() const { return {Opposite(known_tail), known}; }
 };
 
 }  // namespace qorvex::special

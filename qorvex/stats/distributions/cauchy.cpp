@@ -1,12 +1,9 @@
 #include "qorvex/stats/distributions/cauchy.h"
 
-#include <cmath>
-
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/stats/distributions/detail/checks.h"
-#include "qorvex/stats/distributions/detail/standard_normal.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 
 namespace qorvex {
 
@@ -17,7 +14,7 @@ using special::kWidePi;
 namespace {
 
 Wide Distance(Extended x, Extended location, Extended scale) {
-  const Wide z = (Wide(x) - Wide(location)) / Wide(scale);
+  const Wide z = Standardised(Wide(x), location, scale);
   return {z.mantissa, z.exponent};
 }
 
@@ -47,14 +44,14 @@ CauchyDistribution::CauchyDistribution(Extended location, Extended scale)
 
 Extended CauchyDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
-  if (std::isinf(x)) return 0;
+  if (IsInfinite(x)) return 0;
   const Wide z = Distance(x, location_, scale_);
   return Nearest(kOne / (kWidePi * Wide(scale_) * (kOne + z * z)));
 }
 
 Tails CauchyDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
-  if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
+  if (IsInfinite(x)) return x < 0 ? BelowAll() : AboveAll();
   const Wide angle = elementary::ArcTanWide(kOne, Distance(x, location_, scale_));
   return {x < location_ ? Tail::kLower : Tail::kUpper, special::MakeScaled(angle / kWidePi)};
 }

@@ -1,17 +1,12 @@
 #include "qorvex/stats/distributions/exponential.h"
 
-#include <cmath>
-
-#include "qorvex/base/elementary/detail/first_stage.h"
-#include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
 namespace qorvex {
 
 using namespace distributions;
-using elementary::Wide;
-using special::kOne;
 using special::MakeScaled;
 
 ExponentialDistribution::ExponentialDistribution(Extended mean) : mean_(mean) {
@@ -20,16 +15,16 @@ ExponentialDistribution::ExponentialDistribution(Extended mean) : mean_(mean) {
 
 Extended ExponentialDistribution::Pdf(Extended x) const {
   if (AnyNaN(mean_, x)) return kNotANumber;
-  if (x < 0 || std::isinf(x)) return 0;
-  const Wide rate = kOne / Wide(mean_);
+  if (x < 0 || IsInfinite(x)) return 0;
+  const Wide rate = RateOf(mean_);
   return MakeScaled(rate, -(Wide(x) * rate)).Value();
 }
 
 Tails ExponentialDistribution::At(Extended x) const {
   if (AnyNaN(mean_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
-  if (std::isinf(x)) return AboveAll();
-  return UnitExponentialTails(Wide(x) / Wide(mean_));
+  if (IsInfinite(x)) return AboveAll();
+  return UnitExponentialTails(Ratio(Wide(x), mean_));
 }
 
 Extended ExponentialDistribution::Quantile(Tail tail, Extended p) const {

@@ -17,7 +17,7 @@ using special::Scaled;
 GeometricDistribution::GeometricDistribution(Extended p) : p_(p) {
   RequirePositive(p, rsInvalidValue);
   if (p > 1) RaiseMathError(rsInvalidValue);
-  if (p < 1) ln_q_ = Ln(special::ExactSum(1, -p));
+  if (p < 1) ln_q_ = PairOf(elementary::Log1pWide(-p));
 }
 
 Extended GeometricDistribution::Pmf(std::uint32_t k) const {

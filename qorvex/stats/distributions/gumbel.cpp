@@ -7,8 +7,7 @@
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/stats/distributions/detail/checks.h"
-#include "qorvex/stats/distributions/detail/standard_normal.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
 namespace qorvex {
@@ -25,16 +24,16 @@ GumbelDistribution::GumbelDistribution(Extended location, Extended scale)
 
 Extended GumbelDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
-  if (std::isinf(x)) return 0;
-  const Wide rate = special::kOne / Wide(scale_);
+  if (IsInfinite(x)) return 0;
+  const Wide rate = RateOf(scale_);
   const Wide z = (Wide(x) - Wide(location_)) * rate;
   return special::MakeScaled(rate, -z - PointOfLog(-z)).Value();
 }
 
 Tails GumbelDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
-  if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
-  return UnitExponentialTailsAtLog((Wide(location_) - Wide(x)) / Wide(scale_)).Mirrored();
+  if (IsInfinite(x)) return x < 0 ? BelowAll() : AboveAll();
+  return UnitExponentialTailsAtLog(-Standardised(Wide(x), location_, scale_)).Mirrored();
 }
 
 Extended GumbelDistribution::Quantile(Tail tail, Extended p) const {

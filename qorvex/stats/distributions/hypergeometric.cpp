@@ -4,20 +4,20 @@
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/elementary/detail/quotient.h"
 #include "qorvex/base/special/binomial.h"
+#include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/counts.h"
 
 namespace qorvex {
 
 using namespace distributions;
+using elementary::Wide;
 using special::ExtendedPair;
 using special::Scaled;
 
 namespace {
-
-// Terms of a sum below this share of it are left out.
-constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 8;
 
 // C(n, k) p^k q^(n - k) for p = share / whole, which cancels from the quotients below.
 Scaled BinomialAt(std::int64_t n, std::int64_t k, std::int64_t share, std::int64_t whole) {
@@ -45,12 +45,6 @@ std::int64_t HypergeometricDistribution::Most() const {
   return std::min(sample_, successes_);
 }
 
-Extended HypergeometricDistribution::Ratio(std::int64_t k) const {
-  return static_cast<Extended>(successes_ - k) * static_cast<Extended>(sample_ - k) /
-         (static_cast<Extended>(k + 1) *
-          static_cast<Extended>(population_ - successes_ - sample_ + k + 1));
-}
-
 Scaled HypergeometricDistribution::Probability(std::int64_t k) const {
   if (k < Least() || k > Most()) return 0;
   if (Least() == Most()) return 1;
@@ -60,25 +54,25 @@ Scaled HypergeometricDistribution::Probability(std::int64_t k) const {
          BinomialAt(population_, sample_, sample_, population_);
 }
 
-// Each probability from the one before.
-Scaled HypergeometricDistribution::SumDownwards(std::int64_t k) const {
-  Extended sum = 1;
-  Extended term = 1;
-  for (std::int64_t i = k; i > Least() && term > sum * kRounding; --i) {
-    term /= Ratio(i - 1);
-    sum += term;
+Scaled HypergeometricDistribution::SumFrom(std::int64_t k, int step) const {
+  Wide sum(1);
+  Wide term(1);
+  constexpr std::int64_t negligible = 70;
+  const auto product = [](std::int64_t a, std::int64_t b) {
+    return Wide(static_cast<Extended>(a)) * Wide(static_cast<Extended>(b));
+  };
+  // Each probability from the one before. The differences are counts of the drawn and of the
+  // others, among the successes and among the failures.
+  for (; k != (step > 0 ? Most() : Least()) && term.exponent >= sum.exponent - negligible;
+       k += step) {
+    const std::int64_t below = step > 0 ? k : k - 1;
+    const Wide growing = product(successes_ - below, sample_ - below);
+    const Wide shrinking = product(below + 1, population_ - successes_ - sample_ + below + 1);
+    const Wide multiple = term * (step > 0 ? growing : shrinking);
+    term = elementary::QuickQuotient(multiple, step > 0 ? shrinking : growing);
+    sum = sum + term;
   }
-  return Scaled(sum) * Probability(k);
-}
-
-Scaled HypergeometricDistribution::SumUpwards(std::int64_t k) const {
-  Extended sum = 1;
-  Extended term = 1;
-  for (std::int64_t i = k; i < Most() && term > sum * kRounding; ++i) {
-    term *= Ratio(i);
-    sum += term;
-  }
-  return Scaled(sum) * Probability(k);
+  return special::MakeScaled(sum);
 }
 
 Extended HypergeometricDistribution::Pmf(std::uint32_t k) const {
@@ -88,8 +82,9 @@ Extended HypergeometricDistribution::Pmf(std::uint32_t k) const {
 Tails HypergeometricDistribution::At(std::uint32_t k) const {
   if (k < Least()) return BelowAll();
   if (k >= Most()) return AboveAll();
-  if (static_cast<Extended>(k) < Mean()) return {Tail::kLower, SumDownwards(k)};
-  return {Tail::kUpper, SumUpwards(std::int64_t{k} + 1)};
+  if (static_cast<Extended>(k) < Mean()) return {Tail::kLower, SumFrom(k, -1) * Probability(k)};
+  const std::int64_t next = std::int64_t{k} + 1;
+  return {Tail::kUpper, SumFrom(next, 1) * Probability(next)};
 }
 
 std::uint32_t HypergeometricDistribution::Quantile(Tail tail, Extended p) const {

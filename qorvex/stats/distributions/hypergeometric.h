@@ -55,11 +55,8 @@ class QORVEX_EXPORT HypergeometricDistribution {
   [[nodiscard]] std::int64_t Least() const;
   [[nodiscard]] std::int64_t Most() const;
   [[nodiscard]] special::Scaled Probability(std::int64_t k) const;
-  // P(X = k + 1) / P(X = k)
-  [[nodiscard]] Extended Ratio(std::int64_t k) const;
-  // P(X <= k) for a k below the mean, and P(X >= k) for one above it.
-  [[nodiscard]] special::Scaled SumDownwards(std::int64_t k) const;
-  [[nodiscard]] special::Scaled SumUpwards(std::int64_t k) const;
+  // P(X >= k) / P(X = k) for a step of 1, and P(X <= k) / P(X = k) for a step of -1.
+  [[nodiscard]] special::Scaled SumFrom(std::int64_t k, int step) const;
 
   std::int64_t population_;
   std::int64_t sample_;

@@ -24,19 +24,17 @@ LogNormalDistribution::LogNormalDistribution(Extended log_mean, Extended log_std
 
 Extended LogNormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return kNotANumber;
-  if (x <= 0 || std::isinf(x)) return 0;
-  // One division gives 1 / (x s), and by that 1 / s.
-  const Wide wide_x(x);
-  const Wide factor = special::kOne / (wide_x * Wide(log_std_dev_));
-  const Wide z = (LogWide(x) - Wide(log_mean_)) * (wide_x * factor);
-  return special::NormalDensity(z, factor).Value();
+  if (x <= 0 || IsInfinite(x)) return 0;
+  const Wide z = Standardised(LogWide(x), log_mean_, log_std_dev_);
+  const Wide density = special::NormalDensityWide(z);
+  return density.IsZero() ? 0 : Nearest(QuickQuotient(density, Wide(x) * Wide(log_std_dev_)));
 }
 
 Tails LogNormalDistribution::At(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
-  if (std::isinf(x)) return AboveAll();
-  return StandardNormalTails((LogWide(x) - Wide(log_mean_)) / Wide(log_std_dev_));
+  if (IsInfinite(x)) return AboveAll();
+  return StandardNormalTails(Standardised(LogWide(x), log_mean_, log_std_dev_));
 }
 
 Extended LogNormalDistribution::Quantile(Tail tail, Extended p) const {

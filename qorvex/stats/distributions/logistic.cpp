@@ -6,8 +6,7 @@
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/stats/distributions/detail/checks.h"
-#include "qorvex/stats/distributions/detail/standard_normal.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 
 namespace qorvex {
 
@@ -19,12 +18,12 @@ namespace {
 
 // The distance from the location, in units of the scale, and e^-distance; 0 where that is beyond
 // all bounds.
-struct Standardised {
+struct Distance {
   Wide distance;
   Wide power;
 };
-Standardised StandardisedDistance(Extended x, Extended location, const Wide& rate) {
-  const Wide z = (Wide(x) - Wide(location)) * rate;
+Distance DistanceFrom(Extended location, Extended scale, Extended x) {
+  const Wide z = Standardised(Wide(x), location, scale);
   const Wide distance(z.mantissa, z.exponent);
   constexpr std::int64_t far_exponent = 30;
   return {distance, z.exponent < far_exponent ? elementary::ExpWide(-distance) : Wide()};
@@ -40,18 +39,17 @@ LogisticDistribution::LogisticDistribution(Extended location, Extended scale)
 
 Extended LogisticDistribution::Pdf(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return kNotANumber;
-  if (std::isinf(x)) return 0;
-  const Wide rate = kOne / Wide(scale_);
-  const Wide power = StandardisedDistance(x, location_, rate).power;
+  if (IsInfinite(x)) return 0;
+  const Wide power = DistanceFrom(location_, scale_, x).power;
   const Wide sum = kOne + power;
-  return Nearest(rate * power / (sum * sum));
+  return Nearest(power / (sum * sum * Wide(scale_)));
 }
 
 Tails LogisticDistribution::At(Extended x) const {
   if (AnyNaN(location_, scale_, x)) return UnknownTails();
-  if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
+  if (IsInfinite(x)) return x < 0 ? BelowAll() : AboveAll();
   const Tail tail = x < location_ ? Tail::kLower : Tail::kUpper;
-  const auto [distance, power] = StandardisedDistance(x, location_, kOne / Wide(scale_));
+  const auto [distance, power] = DistanceFrom(location_, scale_, x);
   if (power.IsZero()) return {tail, MakeScaled(kOne, -distance)};
   return {tail, MakeScaled(power / (kOne + power))};
 }

@@ -1,9 +1,6 @@
 #include "qorvex/stats/distributions/normal.h"
 
-#include <cmath>
-
 #include "qorvex/base/special/detail/normal_wide.h"
-#include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
@@ -18,15 +15,15 @@ NormalDistribution::NormalDistribution(Extended mean, Extended std_dev)
 
 Extended NormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(mean_, std_dev_, x)) return kNotANumber;
-  if (std::isinf(x)) return 0;
-  const Wide rate = special::kOne / Wide(std_dev_);
-  return special::NormalDensity((Wide(x) - Wide(mean_)) * rate, rate).Value();
+  if (IsInfinite(x)) return 0;
+  const Wide rate = RateOf(std_dev_);
+  return Nearest(rate * special::NormalDensityWide((Wide(x) - Wide(mean_)) * rate));
 }
 
 Tails NormalDistribution::At(Extended x) const {
   if (AnyNaN(mean_, std_dev_, x)) return UnknownTails();
-  if (std::isinf(x)) return x < 0 ? BelowAll() : AboveAll();
-  return StandardNormalTails((Wide(x) - Wide(mean_)) / Wide(std_dev_));
+  if (IsInfinite(x)) return x < 0 ? BelowAll() : AboveAll();
+  return StandardNormalTails(Standardised(Wide(x), mean_, std_dev_));
 }
 
 Extended NormalDistribution::Quantile(Tail tail, Extended p) const {

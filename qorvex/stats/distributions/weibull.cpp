@@ -6,7 +6,7 @@
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/base/special/factorial.h"
-#include "qorvex/stats/distributions/detail/checks.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"
 
 namespace qorvex {
@@ -19,7 +19,7 @@ namespace {
 
 // The logarithm of (x / scale)^shape, which is exponential with mean 1.
 Wide LogOfExponential(Extended x, Extended shape, Extended scale) {
-  return Wide(shape) * elementary::LogWide(Wide(x) / Wide(scale));
+  return Wide(shape) * elementary::LogWide(Ratio(Wide(x), scale));
 }
 
 // The Riemann zeta function at 2, 3, ...
@@ -45,16 +45,16 @@ WeibullDistribution::WeibullDistribution(Extended shape, Extended scale)
 Extended WeibullDistribution::Pdf(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return kNotANumber;
   if (x == 0 && shape_ > 0) return DensityAtEnd(shape_, 1 / scale_);
-  if (x <= 0 || std::isinf(x)) return 0;
+  if (x <= 0 || IsInfinite(x)) return 0;
   const Wide ln_t = LogOfExponential(x, shape_, scale_);
-  const Wide factor = Wide(std::fabs(shape_)) / Wide(x);
+  const Wide factor = Ratio(Wide(std::fabs(shape_)), x);
   return special::MakeScaled(factor, ln_t - PointOfLog(ln_t)).Value();
 }
 
 Tails WeibullDistribution::At(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return UnknownTails();
   if (x <= 0) return BelowAll();
-  if (std::isinf(x)) return AboveAll();
+  if (IsInfinite(x)) return AboveAll();
   const Tails tails = UnitExponentialTailsAtLog(LogOfExponential(x, shape_, scale_));
   return shape_ > 0 ? tails : tails.Mirrored();
 }

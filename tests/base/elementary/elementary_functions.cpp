@@ -1,5 +1,7 @@
 #include "base/elementary/elementary_functions.h"
 
+#include <stdexcept>
+
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special_functions.h"
@@ -221,6 +223,12 @@ std::span<const ElementaryFunction> ElementaryFunctions() {
       {"InverseErfc", Ours<InverseErfc>, InverseErfcExactly, OfInverseErfc(), false},
   };
   return functions;
+}
+
+const ElementaryFunction& FunctionNamed(std::string_view name) {
+  for (const ElementaryFunction& function : ElementaryFunctions())
+    if (function.name == name) return function;
+  throw std::out_of_range("no function " + std::string(name));
 }
 
 }  // namespace qorvex::testing

@@ -10,7 +10,7 @@ namespace qorvex::elementary {
 struct Angle {
   unsigned quadrant;
   bool negative;  // the sign of r
-  UInt128 r;      // |r| at scale 2^127; error below 2^-124
+  UInt128 r;      // |r| at scale 2^127; error below 2^-123
 };
 
 /// pi/2 at scale 2^127.
@@ -21,7 +21,7 @@ constexpr bool IsReduced(Normalised x) {
   return x.exponent < -1 || (x.exponent == -1 && x.significand <= High(kHalfPi));
 }
 
-/// For 2^-40 < x < infinity.
+/// For 2^-64 <= x < infinity.
 [[gnu::always_inline]] inline Angle AngleOf(Normalised x) {
   if (IsReduced(x)) return {0, false, Join(x.significand, 0) >> -x.exponent};
   const Quadrants<3> quadrants = QuadrantsOf<3>(x);

@@ -28,7 +28,7 @@ constexpr UInt128 ScaledDown(UInt128 x, std::int64_t count) {
 /// The fraction of 2^n z as half of it, for z at scale 2^128.
 template <int n>
 constexpr UInt128 HalfFraction(UInt128 z) {
-  const UInt128 shifted = ShiftedLeft<n - 1>(z);
+  const UInt128 shifted = ShiftedLeft(z, n - 1);
   return Join(High(shifted) & (kTopBit - 1), Low(shifted));
 }
 

@@ -56,7 +56,7 @@ inline constexpr std::uint64_t kExpCoefficients[3] = {0xaaaaaaaaaaaaaaae, 0x0000
       kExpCoefficients[0] +
       MultiplyHigh(leading, kExpCoefficients[1] + MultiplyHigh(leading, kExpCoefficients[2]));
   const std::uint64_t tail = MultiplyHigh(square, polynomial);  // of 2^-98
-  return r + MultiplyHighOfSmall(r, ShiftedRight<17>(r) + ShiftedLeft<30>(UInt128{tail}));
+  return r + MultiplyHighOfSmall(r, ShiftedRight(r, 17) + ShiftedLeft(tail, 30));
 }
 
 /// 2^(k / 2^16) e^r; relative error below 2^-111: that of r and e^r - 1, and 4 units of 2^-127 for
@@ -66,7 +66,7 @@ inline constexpr std::uint64_t kExpCoefficients[3] = {0xaaaaaaaaaaaaaaae, 0x0000
   const std::uint64_t* low = kExpLow[x.k & 255];
   const UInt128 one = Join(high[0], high[1]);
   const UInt128 power = one + MultiplyHigh(one, Join(low[0], low[1]));
-  const UInt128 mantissa = power + MultiplyHighOfSmall(ShiftedRight<16>(power), Expm1OfStep(x.r));
+  const UInt128 mantissa = power + MultiplyHighOfSmall(ShiftedRight(power, 16), Expm1OfStep(x.r));
   const std::int64_t exponent = x.k >> 16;
   // r may be larger than one step by its error, and lead to 2.
   if (mantissa >> 127 == 0) [[unlikely]]

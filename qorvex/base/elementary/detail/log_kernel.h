@@ -40,7 +40,7 @@ inline constexpr std::uint64_t kLogOf2[2] = {0x0000b17217f7d1cf, 0x79abc9e3b3980
       third - (top >> 17) + MultiplyHigh(square_top, fifth - MultiplyHigh(top, sixth));
   const std::uint64_t cube = MultiplyHigh(2 * square_top + 3, 4 * MultiplyHigh(top, q) + 3);
   // The rest of the square is smaller than the cube, or 0.
-  return ShiftedRight<47>(square) - (cube - (MultiplyHigh(top, Low(z)) >> 46));
+  return ShiftedRight(square, 47) - (cube - (MultiplyHigh(top, Low(z)) >> 46));
 }
 
 /// A logarithm of at least 2^-13 at scale 2^112.
@@ -80,7 +80,7 @@ template <class Mantissa>
   const auto steps = static_cast<std::uint64_t>(exponent + kLogBias);
   const UInt128 sum = Multiply(steps, kLogOf2[1]) + Join(steps * kLogOf2[0], 0) +
                       Join(first[1], first[2]) + Join(second[1], second[2]) + product -
-                      LogRest(ShiftedLeft<31>(product));
+                      LogRest(ShiftedLeft(product, 31));
   // Of negative sums the complement, which is too small by one unit.
   const std::uint64_t sign = High(sum) >> 63 != 0 ? ~std::uint64_t{0} : 0;
   return {Join(High(sum) ^ sign, Low(sum) ^ sign), sign != 0};

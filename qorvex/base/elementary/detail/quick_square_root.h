@@ -23,7 +23,7 @@ inline UInt128 QuickSquareRoot(std::uint64_t word) {
       static_cast<std::uint64_t>(static_cast<std::int64_t>(0x1p62 * lowered * lowered / root));
   // At scale 2^126, and the correction at scale 2^111.
   const UInt128 remainder = ShiftedWord(word, 62) - Multiply(s, s);
-  const std::uint64_t correction = MultiplyHigh(Low(ShiftedRight<14>(remainder)), inverse);
+  const std::uint64_t correction = MultiplyHigh(Low(ShiftedRight(remainder, 14)), inverse);
   return Join(s, 0) + ShiftedWord(correction, 16);
 }
 

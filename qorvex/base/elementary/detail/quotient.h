@@ -20,7 +20,7 @@ inline std::uint64_t QuickInverse(std::uint64_t b) {
 /// A quotient at scale 2^126 from its first word at scale 2^62 and the remainder at scale 2^126,
 /// which is below 2^-49.5: dividing it by the same inverse squares the error, to 2^-99.
 inline UInt128 WithRemainder(std::uint64_t quotient, UInt128 remainder, std::uint64_t inverse) {
-  const std::uint64_t rest = MultiplyHigh(Low(ShiftedRight<13>(remainder)), inverse);
+  const std::uint64_t rest = MultiplyHigh(Low(ShiftedRight(remainder, 13)), inverse);
   return Join(quotient, 0) + ShiftedWord(rest, 15);
 }
 
@@ -34,7 +34,7 @@ inline UInt128 QuickReciprocal(std::uint64_t b) {
 inline Wide QuickQuotient(const Wide& a, const Wide& b) {
   const std::uint64_t inverse = QuickInverse(High(b.mantissa));
   const std::uint64_t quotient = MultiplyHigh(High(a.mantissa), inverse);
-  const UInt128 remainder = ShiftedRight<2>(a.mantissa) - MultiplyHigh(b.mantissa, quotient);
+  const UInt128 remainder = ShiftedRight(a.mantissa, 2) - MultiplyHigh(b.mantissa, quotient);
   return NormalisedTop(WithRemainder(quotient, remainder, inverse), a.exponent - b.exponent + 1,
                        a.negative != b.negative);
 }

@@ -31,6 +31,8 @@ std::uint64_t QuotientWord(UInt128& remainder, UInt128 b) {
 
 Wide operator/(const Wide& a, const Wide& b) {
   if (a.IsZero()) return {};
+  if (b.mantissa == UInt128{1} << 127)
+    return {a.mantissa, a.exponent - b.exponent, a.negative != b.negative};
   // Half of a, so that the quotient is below 1. The bit that is lost is half a unit.
   UInt128 remainder = a.mantissa >> 1;
   const std::uint64_t high = QuotientWord(remainder, b.mantissa);

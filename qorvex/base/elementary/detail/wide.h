@@ -55,15 +55,13 @@ constexpr UInt128 MultiplyHighOfSmall(UInt128 a, UInt128 b) {
          (MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b)));
 }
 
-/// x 2^count and x 2^-count for 0 < count < 64, word by word: for x << count compilers use the
-/// processor's shift of two words, which takes several times as long.
-template <int count>
-constexpr UInt128 ShiftedLeft(UInt128 x) {
-  return Join(High(x) << count | Low(x) >> (64 - count), Low(x) << count);
+/// x / 2^count and x 2^count modulo 2^128 for 0 <= count < 64, word by word: for x << count
+/// compilers use the processor's shift of two words, which is slow on some.
+constexpr UInt128 ShiftedRight(UInt128 x, int count) {
+  return Join(High(x) >> count, High(x) << 1 << (63 - count) | Low(x) >> count);
 }
-template <int count>
-constexpr UInt128 ShiftedRight(UInt128 x) {
-  return Join(High(x) >> count, High(x) << (64 - count) | Low(x) >> count);
+constexpr UInt128 ShiftedLeft(UInt128 x, int count) {
+  return Join(High(x) << count | Low(x) >> 1 >> (63 - count), Low(x) << count);
 }
 
 constexpr int LeadingZeros(UInt128 x) {

@@ -64,9 +64,9 @@ bool IsLess(const Words& a, const Words& b) {
 
 }  // namespace
 
-const Wide256 kPi256{
+constinit const Wide256 kPi256{
     {0x020bbea63b139b22, 0x29024e088a67cc74, 0xc4c6628b80dc1cd1, 0xc90fdaa22168c234}, 1};
-const Wide256 kLn2Of256{
+constinit const Wide256 kLn2Of256{
     {0x8a0d175b8baafa2b, 0x40f343267298b62d, 0xc9e3b39803f2f6af, 0xb17217f7d1cf79ab}, -1};
 
 Wide256::Wide256(const Wide& x)
@@ -122,24 +122,10 @@ Wide256 operator*(const Wide256& a, const Wide256& b) {
                        a.exponent + b.exponent + 1, a.negative != b.negative);
 }
 
-// Bit by bit.
+// A quotient of 128 bits, and the quotient of what it leaves.
 Wide256 operator/(const Wide256& a, const Wide256& b) {
-  if (a.IsZero()) return {};
-  Words rest = a.mantissa;
-  Words quotient{};
-  bool overflowed = false;  // the bit above the rest
-  for (int bit = 0; bit < 256; ++bit) {
-    quotient = Words{quotient[0] << 1, quotient[1] << 1 | quotient[0] >> 63,
-                     quotient[2] << 1 | quotient[1] >> 63, quotient[3] << 1 | quotient[2] >> 63};
-    if (overflowed || !IsLess(rest, b.mantissa)) {
-      SubtractFrom(rest, b.mantissa);
-      quotient[0] |= 1;
-    }
-    overflowed = rest[3] >> 63 != 0;
-    rest = {rest[0] << 1, rest[1] << 1 | rest[0] >> 63, rest[2] << 1 | rest[1] >> 63,
-            rest[3] << 1 | rest[2] >> 63};
-  }
-  return Normalised256(quotient, a.exponent - b.exponent, a.negative != b.negative);
+  const Wide256 quotient = a.Leading() / b.Leading();
+  return quotient + (a - quotient * b).Leading() / b.Leading();
 }
 
 Wide256 DividedBy(const Wide256& x, std::uint64_t divisor) {
@@ -166,19 +152,41 @@ std::int64_t NearestInteger(const Wide256& x) {
   return x.negative ? -magnitude : magnitude;
 }
 
-Wide256 Exp(const Wide256& x) {
-  if (x.IsZero()) return 1;
-  // x = k ln 2 + 2^12 r with |r| < 2^-13.
-  constexpr int doublings = 12;
-  const std::int64_t k = NearestInteger(x / kLn2Of256);
+namespace {
+
+// x = k ln 2 + y with |y| < 0.35, and e^y - 1.
+struct ReducedExp {
+  std::int64_t k;
+  Wide256 expm1;
+};
+ReducedExp ReduceAndExpand(const Wide256& x) {
+  constexpr Wide inverse_ln2{Join(0xb8aa3b295c17f0bb, 0xbe87fed0691d3e88), 0};
+  const std::int64_t k = NearestInteger(x * inverse_ln2);
+  // y = 2^8 r with |r| < 2^-9.5.
+  constexpr int doublings = 8;
   const Wide256 r = ScaledBy(x - Wide256(k) * kLn2Of256, -doublings);
-  // e^r - 1 by Taylor's series, whose terms after r^18 are below 2^-300.
-  constexpr int terms = 18;
-  Wide256 sum = 0;
-  for (int n = terms; n > 0; --n) sum = DividedBy(r * (sum + 1), static_cast<std::uint64_t>(n));
+  // e^r - 1 by Taylor's series, whose terms after r^20 are below r 2^-254.
+  constexpr int terms = 20;
+  const Wide256 one = 1;
+  Wide256 sum = one;
+  for (int n = terms; n > 1; --n) sum = one + DividedBy(r * sum, static_cast<std::uint64_t>(n));
+  sum = r * sum;
   // e^(2 r) - 1 = u (u + 2) for u = e^r - 1.
-  for (int i = 0; i < doublings; ++i) sum = sum * (sum + 2);
-  return ScaledBy(sum + 1, k);
+  const Wide256 two = 2;
+  for (int i = 0; i < doublings; ++i) sum = sum * (sum + two);
+  return {k, sum};
+}
+
+}  // namespace
+
+Wide256 Exp(const Wide256& x) {
+  const ReducedExp reduced = ReduceAndExpand(x);
+  return ScaledBy(reduced.expm1 + 1, reduced.k);
+}
+
+Wide256 Expm1(const Wide256& x) {
+  const ReducedExp reduced = ReduceAndExpand(x);
+  return reduced.k == 0 ? reduced.expm1 : ScaledBy(reduced.expm1 + 1, reduced.k) - 1;
 }
 
 Binary80 NearestBits(const Wide256& x) noexcept {

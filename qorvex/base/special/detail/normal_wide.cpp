@@ -1,6 +1,7 @@
 #include "qorvex/base/special/detail/normal_wide.h"
 
 #include "qorvex/base/elementary/detail/erf_wide.h"
+#include "qorvex/base/elementary/detail/exp_core.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::special {
@@ -18,14 +19,18 @@ Wide Exponent(const Wide& z) {
 
 }  // namespace
 
-Scaled NormalDensity(const Wide& z, const Wide& factor) {
-  return MakeScaled(kOneOverRoot2Pi * factor, Exponent(z));
+Wide NormalDensityWide(const Wide& z) {
+  constexpr std::int64_t beyond = 20;
+  if (z.exponent >= beyond) return {};
+  return kOneOverRoot2Pi * elementary::ExpOf(Exponent(z));
 }
 
 // As erfc(t) / 2.
-Scaled NormalUpperTail(const Wide& z) {
-  const Wide t = z * kRootOfHalf;
-  if (elementary::IsErfNearZero(t)) return MakeScaled(ScaledBy(elementary::ErfcWide(t), -1));
+Scaled NormalFarTail(const Wide& z) {
+  // From here on the power of e is kept apart, so that its logarithm can be had for any z.
+  constexpr std::int64_t far_exponent = 10;
+  const Wide t = Wide(z.mantissa, z.exponent) * kRootOfHalf;
+  if (z.exponent < far_exponent) return MakeScaled(ScaledBy(elementary::ErfcWide(t), -1));
   return MakeScaled(ScaledBy(elementary::ScaledErfcWide(t), -1), Exponent(z));
 }
 

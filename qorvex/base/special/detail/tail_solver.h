@@ -52,12 +52,12 @@ Extended SolveTail(Tail tail, Extended p, Extended start, Extended largest_step,
   Extended x = std::max(start, std::numeric_limits<Extended>::min());
   for (int i = 0; i < kMaxIterations; ++i) {
     const TailsAndDensity here = at(x);
-    const Extended probability = here.tails.Probability(tail);
-    const Extended relative = (probability - p) / p;
+    const Scaled probability = here.tails.ScaledProbability(tail);
+    const Extended relative = (probability - p).Value() / p;
     const Extended excess = std::fabs(relative) < kNewtonThreshold
                                 ? Log1p(relative)
                                 : here.tails.LogProbability(tail) - ln_p;
-    const Extended hazard = (here.log_density / here.tails.ScaledProbability(tail)).Value();
+    const Extended hazard = (here.log_density / probability).Value();
     Extended step = outwards * excess / hazard;
     if (std::fabs(excess) < kNewtonThreshold)
       step /= 1 + step * (here.slope + outwards * hazard) / 2;

@@ -22,13 +22,7 @@ struct ScaledParts {
       : factor(the_factor), exponent(the_exponent), unbounded(is_unbounded) {}
   explicit ScaledParts(const Scaled& x)
       : factor(Load(x.factor_)), exponent(Load(x.exponent_)), unbounded(x.unbounded_) {}
-  [[nodiscard]] Scaled Joined() const {
-    Scaled x;
-    x.factor_ = Store(factor);
-    x.exponent_ = Store(exponent);
-    x.unbounded_ = unbounded;
-    return x;
-  }
+  [[nodiscard]] Scaled Joined() const { return {Store(factor), Store(exponent), unbounded}; }
 
   Wide factor;
   Wide exponent;

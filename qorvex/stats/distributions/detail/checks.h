@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "qorvex/base/checked_math.h"
+#include "qorvex/base/elementary/detail/binary80.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/special/shape_range.h"
 #include "qorvex/stats/distributions/distribution.h"
@@ -17,10 +18,15 @@ inline constexpr Extended kLargest = std::numeric_limits<Extended>::max();
 inline constexpr Extended kInfinite = std::numeric_limits<Extended>::infinity();
 inline constexpr Extended kNotANumber = std::numeric_limits<Extended>::quiet_NaN();
 
-/// Whether any of the values is NaN.
+/// Whether any of the values is NaN. Bits are quicker to look at than numbers to compare.
 template <class... Values>
-bool AnyNaN(Values... values) {
-  return (std::isnan(values) || ...);
+bool AnyNaN(const Values&... values) {
+  return (elementary::IsNaN(elementary::BitsOf(values)) || ...);
+}
+
+/// Whether the value is infinite.
+inline bool IsInfinite(const Extended& value) {
+  return elementary::IsInfinity(elementary::BitsOf(value));
 }
 
 /// Raises rsValue01 unless 0 < p < 1; NaN passes.
@@ -31,14 +37,14 @@ inline void RequireProbability(Extended p) {
 /// Raises the message unless the parameter is positive, finite and not subnormal, so that it can be
 /// divided by; NaN passes.
 inline void RequirePositive(Extended parameter, MessageId message) {
-  if (parameter < std::numeric_limits<Extended>::min() || std::isinf(parameter)) {
-    RaiseMathError(message);
-  }
+  const elementary::Binary80 bits = elementary::BitsOf(parameter);
+  const bool is_positive = elementary::IsNormal(bits) && !bits.IsNegative();
+  if (!is_positive && !elementary::IsNaN(bits)) RaiseMathError(message);
 }
 
 /// Raises EInvalidOp for an infinite parameter.
 inline void RequireFinite(Extended parameter) {
-  if (std::isinf(parameter)) throw EInvalidOp();
+  if (IsInfinite(parameter)) throw EInvalidOp();
 }
 
 /// Raises EInvalidOp for a shape beyond the range of the methods; NaN passes.

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base/special/extended_pair.h"
 
 namespace qorvex::distributions {
 
@@ -47,14 +48,18 @@ template <class Function>
   const Extended panels = std::fmax(2, std::ceil(end / widest_panel));
   const Extended half = end / (2 * panels);
   Extended sum = 0;
+  Extended rest = 0;  // what rounding took from the sum
   for (Extended panel = 0; panel < panels; ++panel) {
     const Extended middle = (2 * panel + 1) * half;
     for (const GaussNode& node : kGaussLegendre) {
       const Extended distance = node.abscissa * half;
-      sum += node.weight * (function(middle - distance) + function(middle + distance));
+      const special::ExtendedPair next = special::ExactSum(
+          sum, node.weight * (function(middle - distance) + function(middle + distance)));
+      sum = next.hi;
+      rest += next.lo;
     }
   }
-  return half * sum;
+  return half * (sum + rest);
 }
 
 }  // namespace qorvex::distributions

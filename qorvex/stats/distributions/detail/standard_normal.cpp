@@ -7,8 +7,7 @@
 namespace qorvex::distributions {
 
 Tails StandardNormalTails(const Wide& z) {
-  return {z.negative ? Tail::kLower : Tail::kUpper,
-          special::NormalUpperTail(Wide(z.mantissa, z.exponent))};
+  return {z.negative ? Tail::kLower : Tail::kUpper, special::NormalFarTail(z)};
 }
 
 Tails StandardNormalTails(const special::ExtendedPair& z) {

@@ -1,25 +1,16 @@
 #pragma once
 
 /// @file
-/// The standard normal distribution, which the normal and the log-normal one are computed from, and
-/// points relative to a location and a scale.
+/// The standard normal distribution, which the normal and the log-normal one are computed from.
 
-#include "qorvex/base/elementary/detail/wide.h"
-#include "qorvex/stats/distributions/detail/checks.h"
+#include "qorvex/stats/distributions/detail/location_scale.h"
 
 namespace qorvex::distributions {
-
-using elementary::Wide;
 
 /// The checks of the parameters.
 inline void RequireNormal(Extended mean, Extended std_dev) {
   RequirePositive(std_dev, rsStdDev);
   RequireFinite(mean);
-}
-
-/// location + z scale. EOverflow beyond the format.
-[[nodiscard]] inline Extended PointAt(const Wide& z, Extended location, Extended scale) {
-  return CheckedFinite(Nearest(z * Wide(scale) + Wide(location)));
 }
 
 /// @{
