@@ -155,7 +155,7 @@ Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const 
   constexpr Extended most = 0.9L;
   if (a < 1 && density.Value() * share > most)
     return from_end(x <= 0.5L ? SmallTails(a, b, wide_x) : SmallTails(b, a, wide_y).Mirrored());
-  return {tail, density, share};
+  return {tail, density * share};
 }
 
 Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {

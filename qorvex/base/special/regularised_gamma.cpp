@@ -125,11 +125,11 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
     const Extended share = LowerSeries(a, x) / a;
     constexpr Extended most = 0.5L;
     if (a < 1 && density.Value() * share > most) return SmallTails(Wide(a), Load(point.x_));
-    return {Tail::kLower, density, share};
+    return {Tail::kLower, density * share};
   }
   // In 64 bits x + 1 - a would lose digits.
   const Extended first = Nearest(Load(point.x_) + kOne - Wide(a));
-  return {Tail::kUpper, density, 1 / ContinuedFraction(UpperFractionTerms(a, first))};
+  return {Tail::kUpper, density * (1 / ContinuedFraction(UpperFractionTerms(a, first)))};
 }
 
 Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
