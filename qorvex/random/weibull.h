@@ -35,6 +35,7 @@ class QORVEX_EXPORT WeibullSampler {
 
  private:
   Extended exponent_;
+  bool is_usual_;  // a power that neither overflows nor is a product, for most values
 };
 
 }  // namespace qorvex::inline QorvexRandom
