@@ -44,16 +44,17 @@ constexpr std::uint64_t kEvenFactorials[8] = {
 
 // e^x - 1 from e^x, for |x| >= 2^-8, where the relative error of e^x, 2^-111, becomes 2^-102.9.
 [[gnu::always_inline]] inline Wide MinusOne(const Wide& power, bool negative) {
-  // The larger of e^x and 1, less the smaller.
   const std::uint64_t sign = negative ? ~std::uint64_t{0} : 0;
-  const std::uint64_t high = High(power.mantissa);
-  const std::uint64_t low = Low(power.mantissa);
-  const UInt128 larger = Join(negative ? kTopBit : high, low & ~sign);
-  const UInt128 smaller = Join(negative ? high : kTopBit, low & sign);
-  const std::int64_t distance = negative ? -power.exponent : power.exponent;
-  const UInt128 difference =
-      larger - Lowered(smaller, static_cast<int>(std::min<std::int64_t>(distance, 127)));
-  return NormalisedTop(difference, negative ? 0 : power.exponent, negative);
+  const auto exponent = static_cast<std::uint64_t>(power.exponent);
+  const std::uint64_t distance = (exponent ^ sign) - sign;
+  if (distance >= 64) [[unlikely]]
+    return power - Wide(1.0L);
+  // At the scale of the larger of e^x and 1, where 1 fits into the high word, and by masks, because
+  // signs may be random. A negative difference is turned by complement.
+  const UInt128 scaled = ShiftedRight(power.mantissa, static_cast<int>(distance & sign));
+  const std::uint64_t one = kTopBit >> (distance & ~sign);
+  const UInt128 difference = Join((High(scaled) - one) ^ sign, Low(scaled) ^ sign);
+  return NormalisedTop(difference, static_cast<std::int64_t>(exponent & ~sign), negative);
 }
 
 // The second stage. e^x is transcendental unless x = 0 (Lindemann 1882), so there are no midpoints.

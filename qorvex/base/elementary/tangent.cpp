@@ -5,6 +5,7 @@
 
 #include <utility>
 
+#include "qorvex/base/elementary/detail/near_zero.h"
 #include "qorvex/base/elementary/detail/over_spans.h"
 #include "qorvex/base/elementary/detail/quotient.h"
 #include "qorvex/base/elementary/detail/sine_and_cosine.h"

@@ -46,9 +46,9 @@ inline SineSeries SeriesOf(UInt128 h) {
   const std::uint64_t sine_tail = Inverse(120, 70) - MultiplyHigh(square, Inverse(5040, 51)) +
                                   MultiplyHigh(fourth, Inverse(362880, 32));
   constexpr std::uint64_t third = Inverse(3, 64);
-  return {half_square - ShiftedWord(MultiplyHigh(fourth, cosine_tail), 22),
+  return {half_square - ShiftedLeft(MultiplyHigh(fourth, cosine_tail), 22),
           MultiplyHighOfSmall(half_square, Join(third, third)) -
-              ShiftedWord(MultiplyHigh(fourth, sine_tail), 20)};
+              ShiftedLeft(MultiplyHigh(fourth, sine_tail), 20)};
 }
 
 /// The nearest angle of the table, and the way to it.
