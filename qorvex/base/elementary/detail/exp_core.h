@@ -84,11 +84,12 @@ inline constexpr std::uint64_t kExpCoefficients[3] = {0xaaaaaaaaaaaaaaae, 0x0000
 
 /// e^x for |x| < 2^14; relative error below 2^-111.
 [[gnu::always_inline]] inline Wide ExpOf(const Wide& x) {
-  const int exponent = static_cast<int>(std::max<std::int64_t>(x.exponent, -144));
-  const UInt128 magnitude =
-      exponent >= -17 ? x.mantissa << (exponent + 17) : x.mantissa >> (-17 - exponent);
-  return ExpOfReduced(
-      ReduceByLn2(magnitude, High(x.mantissa), std::max(exponent, -49), x.negative));
+  const UInt128 magnitude = x.exponent >= -17
+                                ? ShiftedLeft(x.mantissa, static_cast<int>(x.exponent + 17))
+                                : ScaledDown(x.mantissa, -17 - x.exponent);
+  // Below 2^-49, the estimate of k is 0 anyway.
+  const auto exponent = static_cast<int>(std::max<std::int64_t>(x.exponent, -49));
+  return ExpOfReduced(ReduceByLn2(magnitude, High(x.mantissa), exponent, x.negative));
 }
 
 }  // namespace qorvex::elementary
