@@ -95,8 +95,9 @@ TEST(InnerFormulas, AgreeWithTheTable) {
   }
 }
 
-// A wrong constant in an acceptance test changes the number of draws.
-TEST(Streams, TakeTheExpectedNumberOfDrawsForManyVariates) {
+// A wrong constant in an acceptance test changes the number of draws, and a function that is not
+// rounded correctly the last bit of the sum.
+TEST(Streams, HaveTheSameBitsOnEveryMachine) {
   const testing::Table table("tables/variate_sums.csv");
   for (std::size_t row = 0; row < table.size(); ++row) {
     SCOPED_TRACE("row " + std::to_string(row + 1));
@@ -110,7 +111,7 @@ TEST(Streams, TakeTheExpectedNumberOfDrawsForManyVariates) {
       Extended sum = 0;
       for (int i = 0; i < 20'000; ++i) sum += draw(source);
       EXPECT_EQ(drawn, table.Value(row, "draws"));
-      EXPECT_LE(std::fabs(sum / table.Value(row, "sum") - 1), 1e-8L);
+      EXPECT_EQ(sum, table.Value(row, "sum"));
     }
   }
 }

@@ -14,8 +14,8 @@ using namespace elementary;
 
 namespace {
 
-// 2^-95 of the first stage, in units of 2^-128.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
+// Above 2^-90, the error of the first stage.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 39;
 // From 2^7 on erfc is below half the smallest number.
 constexpr int kFarExponent = 7;
 
@@ -84,6 +84,12 @@ Wide256 ErfcByFraction(const Wide256& x, const Wide256& square) {
 
 inline bool IsUsual(Binary80 x) {
   return IsNormal(x) && x.Exponent() < kExponentBias + kFarExponent;
+}
+
+inline Wide ErfcWide(const Wide& x) {
+  constexpr Wide two{UInt128{1} << 127, 1};
+  const Wide erfc = ScaledBy(HalfErfcWide(x), 1);
+  return x.negative ? two - erfc : erfc;
 }
 
 template <bool complementary>

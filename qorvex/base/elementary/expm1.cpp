@@ -43,7 +43,7 @@ constexpr std::uint64_t kEvenFactorials[8] = {
   const std::uint64_t distance = (exponent ^ sign) - sign;
   if (distance >= 64) [[unlikely]]
     return power - Wide(1.0L);
-  // At the scale of the larger of e^x and 1, where 1 fits into the high word, and by masks, because
+  // At the scale of the larger of e^x and 1, where 1 fits into the high word; by masks, because
   // signs may be random. A negative difference is turned by complement.
   const UInt128 scaled = ShiftedRight(power.mantissa, static_cast<int>(distance & sign));
   const std::uint64_t one = kTopBit >> (distance & ~sign);

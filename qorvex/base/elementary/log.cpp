@@ -48,10 +48,7 @@ void Log(VectorView<Extended> x, std::span<Extended> results) {
 namespace qorvex::elementary {
 
 Wide LogWide(Extended x) {
-  const Normalised number = Normalise(BitsOf(x));
-  if (IsBeside1(number.significand, number.exponent))
-    return LogBeside1(Join(number.significand, 0), number.exponent);
-  return Floating(LogByTables(number.significand, number.exponent));
+  return FinishLog(Normalise(BitsOf(x)), [](const Wide& log) { return log; });
 }
 
 Wide LogWide(const Wide& x) {

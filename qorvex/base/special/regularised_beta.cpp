@@ -25,15 +25,17 @@ namespace {
 class LowerFractionTerms {
  public:
   LowerFractionTerms(Extended a, Extended b, Extended x, Extended lambda)
-      : a_(a), b_(b), x_(x), lambda_(lambda), reciprocal_(1 / (a + 1)) {}
+      : a_(a), b_(b), sum_(a + b), x_(x), lambda_(lambda), reciprocal_(1 / (a + 1)) {}
 
   [[nodiscard]] Extended First() const { return a_ * (lambda_ + 1) * reciprocal_; }
 
   void Next() {
+    const Extended share = x_ * reciprocal_;
+    const Extended product = (a_ + n_) * (sum_ + n_) * share;
     n_ += 1;
-    const Extended step = n_ * (b_ - n_) * x_ * reciprocal_;
-    numerator = (a_ + n_ - 1) * (a_ + b_ + n_ - 1) * x_ * reciprocal_ * step;
-    reciprocal_ = 1 / (a_ + 2 * n_ + 1);
+    const Extended step = n_ * (b_ - n_) * share;
+    numerator = product * step;
+    reciprocal_ = 1 / (a_ + 1 + 2 * n_);
     denominator = n_ + step + (a_ + n_) * reciprocal_ * (lambda_ + 1 + n_ * (2 - x_));
   }
 
@@ -43,6 +45,7 @@ class LowerFractionTerms {
  private:
   Extended a_;
   Extended b_;
+  Extended sum_;
   Extended x_;
   Extended lambda_;
   Extended reciprocal_;  // 1 / (a + 2 n + 1)
@@ -113,16 +116,14 @@ Scaled RegularisedBeta::InverseBeta() const {
   if (reference_x_.high == 0) return at_reference_;
   const Wide a(a_);
   const Wide b(b_);
-  return at_reference_ *
-         MakeScaled(kOne, a * elementary::Log1pWide(b / a) + b * elementary::Log1pWide(a / b));
+  return Raised(at_reference_, a * elementary::Log1pWide(b / a) + b * elementary::Log1pWide(a / b));
 }
 
 Scaled RegularisedBeta::LogOddsDensity(const Point& point) const {
   const auto power = [](Extended shape, const Wide& x, const StoredWide& reference) {
     return Wide(shape) * LogWide(reference.high == 0 ? x : x / Load(reference));
   };
-  return at_reference_ *
-         MakeScaled(kOne, power(a_, point.x, reference_x_) + power(b_, point.y, reference_y_));
+  return Raised(at_reference_, power(a_, point.x, reference_x_) + power(b_, point.y, reference_y_));
 }
 
 Scaled RegularisedBeta::LogOddsDensity(const Odds& odds) const {
@@ -148,13 +149,13 @@ Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const 
   };
   const Extended x = Nearest(wide_x);
   const Extended y = Nearest(wide_y);
-  constexpr Extended slow = 1e-3L;
+  constexpr Extended slow = 0.02L;
   if (b < 1 && y < slow && a * y < 1) return from_end(SmallTails(b, a, wide_y).Mirrored());
   const Extended share = 1 / ContinuedFraction(LowerFractionTerms(a, b, x, std::fabs(lambda)));
   constexpr Extended most = 0.9L;
   if (a < 1 && density.Value() * share > most)
     return from_end(x <= 0.5L ? SmallTails(a, b, wide_x) : SmallTails(b, a, wide_y).Mirrored());
-  return {tail, density, share};
+  return {tail, density * share};
 }
 
 Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {

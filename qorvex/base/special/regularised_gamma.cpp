@@ -31,16 +31,17 @@ constexpr Extended kRounding = std::numeric_limits<Extended>::epsilon() / 4;
 // processor can start it early. The terms that are left sum to less than term * x / (divisor - x),
 // once that is positive.
 Extended LowerSeries(Extended a, Extended x) {
+  const Extended square = x * x;
   Extended rest = 0;  // the sum without its first term
   Extended term = 1;
   Extended divisor = a;
   do {
     const Extended next = divisor + 1;
     divisor += 2;
-    const Extended quotient = term * (x / (next * divisor));
-    term = quotient * x;
-    rest += quotient * divisor + term;
-  } while (term * x > (rest + 1) * kRounding * (divisor - x));
+    const Extended quotient = term * (1 / (next * divisor));
+    rest += quotient * (x * divisor + square);
+    term = quotient * square;
+  } while (term * x > kRounding * (divisor - x));
   return 1 + rest;
 }
 
@@ -103,18 +104,18 @@ RegularisedGamma::RegularisedGamma(Extended shape)
 Scaled RegularisedGamma::LogDensity(const Point& point) const {
   const Wide x = Load(point.x_);
   const Wide a(shape_);
-  if (reference_ == 0) return at_reference_ * MakeScaled(kOne, a * LogWide(x) - x);
-  return at_reference_ * MakeScaled(kOne, a * LogWide(x / a) - (x - a));
+  if (reference_ == 0) return Raised(at_reference_, a * LogWide(x) - x);
+  return Raised(at_reference_, a * LogWide(x / a) - (x - a));
 }
 
-bool RegularisedGamma::IsUniform(Extended x) const {
-  return shape_ >= kUniformShape && std::fabs(x - shape_) < kUniformDistance * shape_;
+bool RegularisedGamma::IsUniform(const Point& point) const {
+  return shape_ >= kUniformShape &&
+         std::fabs(Nearest(Load(point.x_)) - shape_) < kUniformDistance * shape_;
 }
 
 Tails RegularisedGamma::At(const Point& point) const {
-  const Wide x = Load(point.x_);
-  return IsUniform(Nearest(x)) ? UniformGammaTails(shape_, PairOf(x))
-                               : TailsFrom(point, LogDensity(point));
+  return IsUniform(point) ? UniformGammaTails(shape_, PairOf(Load(point.x_)))
+                          : TailsFrom(point, LogDensity(point));
 }
 
 Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) const {
@@ -124,11 +125,11 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
     const Extended share = LowerSeries(a, x) / a;
     constexpr Extended most = 0.5L;
     if (a < 1 && density.Value() * share > most) return SmallTails(Wide(a), Load(point.x_));
-    return {Tail::kLower, density, share};
+    return {Tail::kLower, density * share};
   }
   // In 64 bits x + 1 - a would lose digits.
   const Extended first = Nearest(Load(point.x_) + kOne - Wide(a));
-  return {Tail::kUpper, density, 1 / ContinuedFraction(UpperFractionTerms(a, first))};
+  return {Tail::kUpper, density * (1 / ContinuedFraction(UpperFractionTerms(a, first)))};
 }
 
 Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
@@ -144,8 +145,9 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
     const Point point{ExtendedPair(x)};
     const Scaled density = LogDensity(point);
-    return TailsAndDensity{IsUniform(x) ? UniformGammaTails(shape_, x) : TailsFrom(point, density),
-                           density, shape_ - x};
+    return TailsAndDensity{
+        IsUniform(point) ? UniformGammaTails(shape_, x) : TailsFrom(point, density), density,
+        shape_ - x};
   });
 }
 

@@ -41,7 +41,7 @@ class QORVEX_EXPORT RegularisedGamma {
 
  private:
   // The expansion holds at x.
-  [[nodiscard]] bool IsUniform(Extended x) const;
+  [[nodiscard]] bool IsUniform(const Point& point) const;
   // The tails from the density, where the expansion does not hold.
   [[nodiscard]] Tails TailsFrom(const Point& point, const Scaled& density) const;
   [[nodiscard]] Extended Start(Tail tail, Extended p, Extended asymptote) const;

@@ -91,6 +91,12 @@ Scaled operator*(const Scaled& a, const Scaled& b) {
       .Joined();
 }
 
+Scaled operator*(const Scaled& a, Extended b) {
+  if (!std::isfinite(b)) return a * Scaled(b);
+  const ScaledParts x(a);
+  return ScaledParts(x.factor * Wide(b), x.exponent, x.unbounded).Joined();
+}
+
 Scaled operator/(const Scaled& a, const Scaled& b) {
   const ScaledParts x(a);
   const ScaledParts y(b);

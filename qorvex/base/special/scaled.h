@@ -50,6 +50,7 @@ class QORVEX_EXPORT Scaled {
   /// @{
   /// Product, quotient, sum and difference.
   friend QORVEX_EXPORT Scaled operator*(const Scaled& a, const Scaled& b);
+  friend QORVEX_EXPORT Scaled operator*(const Scaled& a, Extended b);
   friend QORVEX_EXPORT Scaled operator/(const Scaled& a, const Scaled& b);
   friend QORVEX_EXPORT Scaled operator+(const Scaled& a, const Scaled& b);
   friend QORVEX_EXPORT Scaled operator-(const Scaled& a, const Scaled& b);

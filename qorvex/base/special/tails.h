@@ -27,10 +27,6 @@ struct Tails {
   /// Its probability.
   Scaled known;
 
-  /// From the tail that is known as a product.
-  Tails(Tail known_tail, const Scaled& density, Extended share)
-      : known_tail_(known_tail), known_(density * Scaled(share)) {}
-
   /// The probability of a tail as a number that may be too small for the format.
   [[nodiscard]] Scaled ScaledProbability(Tail tail) const {
     return tail == known_tail ? known : Scaled() - known;

@@ -20,7 +20,7 @@ inline constexpr std::uint64_t kInverseLn2 = 0xb8aa3b295c17f0bb;
 inline constexpr std::uint64_t kLn2Step[2] = {0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af};
 
 /// The reduction of x = (-1)^negative leading 2^(exponent - 63) with -49 <= exponent < 14, which is
-/// `magnitude` in units of 2^-144, modulo 2^128. Error of r: below 2^-114.4, besides that of x.
+/// `magnitude` in units of 2^-144, modulo 2^128. Error of r: below 2^-115.4, besides that of x.
 [[gnu::always_inline]] inline ReducedExponent ReduceByLn2(UInt128 magnitude, std::uint64_t leading,
                                                           int exponent, bool negative) {
   const std::uint64_t sign = negative ? ~std::uint64_t{0} : 0;

@@ -95,6 +95,13 @@ constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool nega
   return {mantissa << zeros, exponent - zeros, negative};
 }
 
+/// The same, quicker, for a mantissa of 2^64 or more.
+constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
+  const int zeros = std::countl_zero(High(mantissa));
+  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
+  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
+}
+
 /// A number that is not 0, exactly.
 constexpr Wide WideOf(Normalised x, bool negative = false) {
   return {Join(x.significand, 0), x.exponent, negative};
@@ -104,12 +111,6 @@ inline Wide::Wide(Extended x) {
   const Binary80 bits = BitsOf(x);
   if (bits.significand == 0) return;
   *this = WideOf(Normalise(bits), bits.IsNegative());
-}
-
-/// The same, quicker, for a mantissa of 2^64 or more.
-constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
-  const int zeros = std::countl_zero(High(mantissa));
-  return {ShiftedLeft(mantissa, zeros), exponent - zeros, negative};
 }
 
 /// The product; relative error below 2^-125.

@@ -36,9 +36,9 @@ template <class Terms>
   const Extended negligible = std::fabs(fraction) * rounding;
   while (std::fabs(difference) > negligible) {
     terms.Next();
-    const Extended next = 1 / (terms.denominator + terms.numerator * inverse);
-    difference *= -terms.numerator * inverse * next;
-    inverse = next;
+    const Extended product = terms.numerator * inverse;
+    inverse = 1 / (terms.denominator + product);
+    difference *= -(product * inverse);
     rest += difference;
   }
   return fraction + rest;

@@ -188,9 +188,11 @@ Wide LnGammaWide(const Wide& x) {
     return LogWide(kWidePi / sine) - LnGammaOfLarge(kOne + a);
   }
   const Shifted shifted(x);
-  // From 1/2 to 3 the two logarithms keep the zeros at 1 and 2.
-  if (!x.negative && x.exponent >= -1 && IsSmaller(x, kThree))
-    return LogWide(shifted.factor) + elementary::Log1pWide(shifted.rest);
+  // From 1/2 to 3 the two logarithms keep the zeros at 1 and 2; below 1 the factor is 1 / x.
+  if (!x.negative && x.exponent >= -1 && IsSmaller(x, kThree)) {
+    const Wide ln_factor = x.exponent < 0 ? -LogWide(x) : LogWide(shifted.factor);
+    return ln_factor + elementary::Log1pWide(shifted.rest);
+  }
   Wide value = shifted.Value();
   value.negative = false;
   return LogWide(value);

@@ -25,13 +25,13 @@ Wide NormalDensityWide(const Wide& z) {
   return kOneOverRoot2Pi * elementary::ExpOf(Exponent(z));
 }
 
-// As erfc(t) / 2.
+// As erfc(t) / 2 for t = |z| / sqrt(2).
 Scaled NormalFarTail(const Wide& z) {
   // From here on the power of e is kept apart, so that its logarithm can be had for any z.
   constexpr std::int64_t far_exponent = 10;
-  const Wide t = Wide(z.mantissa, z.exponent) * kRootOfHalf;
-  if (z.exponent < far_exponent) return MakeScaled(ScaledBy(elementary::ErfcWide(t), -1));
-  return MakeScaled(ScaledBy(elementary::ScaledErfcWide(t), -1), Exponent(z));
+  const Wide t = z * kRootOfHalf;
+  if (z.exponent < far_exponent) return MakeScaled(elementary::HalfErfcWide(t));
+  return MakeScaled(elementary::ScaledHalfErfcWide(t), Exponent(z));
 }
 
 }  // namespace qorvex::special

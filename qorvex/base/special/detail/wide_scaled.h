@@ -34,4 +34,10 @@ struct ScaledParts {
   return ScaledParts(factor, exponent).Joined();
 }
 
+/// x e^exponent.
+[[nodiscard]] inline Scaled Raised(const Scaled& x, const Wide& exponent) {
+  const ScaledParts parts(x);
+  return ScaledParts(parts.factor, parts.exponent + exponent, parts.unbounded).Joined();
+}
+
 }  // namespace qorvex::special
