@@ -44,14 +44,14 @@ TEST(Scaled, PassesWhatIsNotFinite) {
 }
 
 TEST(Scaled, LeavesTheRestOfATailWithItsDigits) {
-  const Tails tails(Tail::kUpper, Scaled(1) - Scaled(0x1p-70L));
+  const Tails tails{Tail::kUpper, Scaled(1) - Scaled(0x1p-70L)};
   EXPECT_EQ(tails.Probability(Tail::kLower), 0x1p-70L);
   EXPECT_EQ(tails.LogProbability(Tail::kUpper), -0x1p-70L);
-  const Tails far(Tail::kLower, Scaled(1, -1e6L));
+  const Tails far{Tail::kLower, Scaled(1, -1e6L)};
   EXPECT_EQ(far.Probability(Tail::kUpper), 1);
   EXPECT_EQ(far.LogProbability(Tail::kLower), -1e6L);
-  EXPECT_EQ(Tails(Tail::kLower, 0x1p-80L).LogProbability(Tail::kUpper), -0x1p-80L);
-  EXPECT_EQ(Tails(Tail::kLower, 1).LogProbability(Tail::kUpper), -kInfinity);
+  EXPECT_EQ((Tails{Tail::kLower, 0x1p-80L}.LogProbability(Tail::kUpper)), -0x1p-80L);
+  EXPECT_EQ((Tails{Tail::kLower, 1}.LogProbability(Tail::kUpper)), -kInfinity);
 }
 
 }  // namespace qorvex::special
