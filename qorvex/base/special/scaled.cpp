@@ -54,6 +54,7 @@ bool Scaled::IsZero() const {
 }
 
 Extended Scaled::Value() const {
+  if (IsPlain()) return Nearest(Load(factor_));
   const ScaledParts parts(*this);
   if (parts.unbounded == 0 && !IsFar(parts.exponent)) return Nearest(WideValue(parts));
   if (parts.unbounded == 0 && parts.factor.IsZero()) return 0;
@@ -71,6 +72,7 @@ Extended Scaled::Log() const {
 }
 
 Extended Scaled::Rest() const {
+  if (IsPlain()) return Nearest(kOne - Load(factor_));
   const ScaledParts parts(*this);
   return parts.unbounded == 0 ? Nearest(kOne - WideValue(parts)) : 1 - Value();
 }

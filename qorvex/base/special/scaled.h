@@ -58,6 +58,8 @@ class QORVEX_EXPORT Scaled {
 
  private:
   friend struct ScaledParts;
+  // Whether it is a bounded number without a power of e.
+  [[nodiscard]] bool IsPlain() const { return exponent_.high == 0 && unbounded_ == 0; }
   Scaled(const StoredWide& factor, const StoredWide& exponent, Extended unbounded)
       : factor_(factor), exponent_(exponent), unbounded_(unbounded) {}
 

@@ -24,7 +24,7 @@ void LogNormalDistribution::RequireValid() const {
 Extended LogNormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return kNotANumber;
   if (!IsPositive(x) || IsInfinite(x)) return 0;
-  const Wide z = Standardised(LogWide(Wide(x)), log_mean_, log_std_dev_);
+  const Wide z = Standardised(LogWide(x), log_mean_, log_std_dev_);
   const Wide density = special::NormalDensityWide(z);
   return density.IsZero() ? 0 : Nearest(QuickQuotient(density, Wide(x) * Wide(log_std_dev_)));
 }
@@ -33,7 +33,7 @@ Tails LogNormalDistribution::At(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return UnknownTails();
   if (!IsPositive(x)) return BelowAll();
   if (IsInfinite(x)) return AboveAll();
-  return StandardNormalTails(Standardised(LogWide(Wide(x)), log_mean_, log_std_dev_));
+  return StandardNormalTails(Standardised(LogWide(x), log_mean_, log_std_dev_));
 }
 
 Extended LogNormalDistribution::Quantile(Tail tail, Extended p) const {

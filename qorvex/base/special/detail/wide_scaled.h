@@ -12,8 +12,12 @@ using elementary::Wide;
 [[nodiscard]] inline Wide Load(const StoredWide& x) {
   return {elementary::Join(x.high, x.low), x.exponent, x.negative};
 }
+// By words: the compiler would load both at once, which has to wait for the two stores of a number
+// that has just been computed.
 [[nodiscard]] inline StoredWide Store(const Wide& x) {
-  return {elementary::High(x.mantissa), elementary::Low(x.mantissa), x.exponent, x.negative};
+  std::uint64_t high = elementary::High(x.mantissa);
+  asm("" : "+r"(high));
+  return {high, elementary::Low(x.mantissa), x.exponent, x.negative};
 }
 
 /// The parts of a Scaled, as numbers to compute with.
