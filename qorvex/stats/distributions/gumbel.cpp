@@ -5,7 +5,6 @@
 
 #include "qorvex/base/elementary.h"
 #include "qorvex/base/elementary/detail/first_stage.h"
-#include "qorvex/base/special/detail/wide_constants.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
 #include "qorvex/stats/distributions/detail/location_scale.h"
 #include "qorvex/stats/distributions/detail/unit_exponential.h"

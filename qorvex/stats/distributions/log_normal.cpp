@@ -6,9 +6,6 @@
 #include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/special/detail/normal_wide.h"
-#include "qorvex/base/special/detail/wide_constants.h"
-#include "qorvex/base/special/detail/wide_scaled.h"
-#include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
 namespace qorvex {

@@ -1,7 +1,6 @@
 #include "qorvex/stats/distributions/normal.h"
 
 #include "qorvex/base/special/detail/normal_wide.h"
-#include "qorvex/stats/distributions/detail/checks.h"
 #include "qorvex/stats/distributions/detail/standard_normal.h"
 
 namespace qorvex {
