@@ -86,12 +86,6 @@ inline bool IsUsual(Binary80 x) {
   return IsNormal(x) && x.Exponent() < kExponentBias + kFarExponent;
 }
 
-inline Wide ErfcWide(const Wide& x) {
-  constexpr Wide two{UInt128{1} << 127, 1};
-  const Wide erfc = ScaledBy(HalfErfcWide(x), 1);
-  return x.negative ? two - erfc : erfc;
-}
-
 template <bool complementary>
 [[gnu::always_inline]] inline Binary80 Kernel(Binary80 x) {
   if (!IsUsual(x)) return complementary ? ErfcOfRest(x) : ErfOfRest(x);

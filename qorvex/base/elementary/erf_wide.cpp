@@ -1,6 +1,7 @@
 #include "qorvex/base/elementary/detail/erf_wide.h"
 
 #include "qorvex/base/elementary/detail/exp_core.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/elementary/detail/monotone_piece.h"
 #include "qorvex/base/elementary/detail/quotient.h"
 
@@ -40,7 +41,8 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
 
 // The square has an error of 2^-125 of itself, and is at most 2^14 where erfc is within the format.
 [[gnu::always_inline]] inline Wide HalfErfc(const Wide& x) {
-  return ScaledHalfErfc(x) * ExpOf(-(x * x));
+  const Wide exponent = -(x * x);
+  return ScaledHalfErfc(x) * (exponent.exponent < 14 ? ExpOf(exponent) : ExpWide(exponent));
 }
 
 }  // namespace
@@ -51,6 +53,11 @@ Wide ScaledHalfErfcWide(const Wide& x) {
 
 Wide HalfErfcWide(const Wide& x) {
   return HalfErfc(x);
+}
+
+Wide ErfcWide(const Wide& x) {
+  const Wide erfc = ScaledBy(HalfErfc(x), 1);
+  return x.negative ? ScaledBy(kOne, 1) - erfc : erfc;
 }
 
 Wide ErfWide(const Wide& x) {

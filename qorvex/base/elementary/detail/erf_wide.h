@@ -13,7 +13,10 @@ namespace qorvex::elementary {
 /// erfc(|x|) / 2 for |x| < 2^20; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Wide HalfErfcWide(const Wide& x);
 
-/// erf(x) for |x| < 2^20; relative error below 2^-90.
+/// @{
+/// erf(x) and erfc(x) for |x| < 2^20; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Wide ErfWide(const Wide& x);
+[[nodiscard]] QORVEX_EXPORT Wide ErfcWide(const Wide& x);
+/// @}
 
 }  // namespace qorvex::elementary

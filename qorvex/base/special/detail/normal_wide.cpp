@@ -2,6 +2,7 @@
 
 #include "qorvex/base/elementary/detail/erf_wide.h"
 #include "qorvex/base/elementary/detail/exp_core.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::special {
@@ -22,7 +23,9 @@ Wide Exponent(const Wide& z) {
 Wide NormalDensityWide(const Wide& z) {
   constexpr std::int64_t beyond = 20;
   if (z.exponent >= beyond) return {};
-  return kOneOverRoot2Pi * elementary::ExpOf(Exponent(z));
+  const Wide exponent = Exponent(z);
+  return kOneOverRoot2Pi * (exponent.exponent < 14 ? elementary::ExpOf(exponent)
+                                                   : elementary::ExpWide(exponent));
 }
 
 // As erfc(t) / 2 for t = |z| / sqrt(2).
