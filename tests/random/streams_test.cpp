@@ -231,7 +231,7 @@ TEST(Fillers, DrawWhatSingleCallsDraw) {
   const auto expect_same = [](auto fill, auto draw) {
     RandomStream stream(7);
     RandomStream other = stream;
-    std::array<Extended, 100> filled;
+    std::array<Extended, 600> filled;
     fill(std::span(filled), stream);
     for (const Extended x : filled) EXPECT_EQ(x, draw(other));
     EXPECT_EQ(stream, other);
@@ -249,6 +249,14 @@ TEST(Fillers, DrawWhatSingleCallsDraw) {
                 [=](auto& s) { return Random_Gamma(shape, s); });
   expect_same([](auto range, auto& s) { Fill(range, PoissonSampler(5), s); },
               [](auto& s) { return Random_Poisson(5, s); });
+}
+
+TEST(Fillers, KeepWhatIsDrawnBeforeAnError) {
+  std::array<Extended, 3> filled{7, 7, 7};
+  EXPECT_THROW(FillExponential(filled, ScriptedSource({0.25L, 0, 0.5L})), std::out_of_range);
+  EXPECT_EQ(filled[0], 2 * filled[1]);
+  EXPECT_EQ(filled[1], Random_Exponential(ScriptedSource({0.5L})));
+  EXPECT_EQ(filled[2], 7);
 }
 
 double Quarter() {

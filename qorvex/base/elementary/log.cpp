@@ -4,6 +4,7 @@
 // 0 (Lindemann 1882, "Ueber die Zahl pi").
 
 #include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/detail/functions_of_bits.h"
 #include "qorvex/base/elementary/detail/log256.h"
 #include "qorvex/base/elementary/detail/log_domain.h"
 #include "qorvex/base/elementary/detail/log_kernel.h"
@@ -46,6 +47,10 @@ void Log(VectorView<Extended> x, std::span<Extended> results) {
 }  // namespace qorvex::inline QorvexGlobals
 
 namespace qorvex::elementary {
+
+Binary80 LogOfBits(Binary80 x) noexcept {
+  return LogKernel(x);
+}
 
 Wide LogWide(Extended x) {
   return FinishLog(Normalise(BitsOf(x)), [](const Wide& log) { return log; });

@@ -20,6 +20,7 @@
 #include <optional>
 
 #include "qorvex/base/elementary/detail/exp_core.h"
+#include "qorvex/base/elementary/detail/functions_of_bits.h"
 #include "qorvex/base/elementary/detail/log256.h"
 #include "qorvex/base/elementary/detail/log_kernel.h"
 #include "qorvex/base/elementary/detail/over_spans.h"
@@ -134,3 +135,11 @@ void Pow(VectorView<Extended> x, Extended y, std::span<Extended> results) {
 }
 
 }  // namespace qorvex::inline QorvexGlobals
+
+namespace qorvex::elementary {
+
+Binary80 PowOfBits(Binary80 x, Binary80 y) noexcept {
+  return PowKernel(x, y);
+}
+
+}  // namespace qorvex::elementary
