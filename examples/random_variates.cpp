@@ -15,9 +15,10 @@ using namespace qorvex;
 // Counts the months with more than 60 mm of rain. A month has four storms on average. The rain of a
 // storm is a gamma variate with shape 2 and scale 5 mm; that of n storms together has shape 2n.
 int WetMonths(int months, RandomStream stream) {
+  const PoissonSampler storms_in_a_month(4);
   int wet = 0;
   for (int i = 0; i < months; ++i) {
-    const Extended storms = Random_Poisson(4, stream);
+    const Extended storms = storms_in_a_month(stream);
     if (storms > 0 && 5 * Random_Gamma(2 * storms, stream) > 60) ++wet;
   }
   return wet;

@@ -22,9 +22,8 @@ namespace qorvex::apps {
 namespace {
 
 constexpr const char* kVariatesHelp = R"(Variates:
-  One per line, printed as they are drawn. A seed gives the same variates on all
-  processors of a family. On other processors, the last digit of variates that are
-  not counts can differ, rarely more. Without a seed, every run is different.)";
+  One per line, printed as they are drawn. The same seed gives the same variates
+  on every x86-64 machine. Without a seed, every run is different.)";
 
 // The section of --help on the limits of the parameters; empty if nothing limits them.
 std::string LimitsHelp(const Variate& variate) {

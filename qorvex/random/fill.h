@@ -7,11 +7,11 @@
 /// the variates that the same number of single calls would return from the same source. What
 /// depends only on the parameters is computed once.
 ///
-/// So do samplers: `const GammaSampler gamma(2.5L)` is prepared for one shape, and `gamma(stream)`
-/// is the variate that Random_Gamma(2.5L, stream) would return, with the same draws and the same
-/// errors. Every routine whose parameters need preparation has a sampler beside it. Its constructor
-/// raises the errors of the parameters; drawing does not change it, so threads may share one, each
-/// with a source of its own. It takes at most 700 bytes.
+/// A sampler also computes it once: `const GammaSampler gamma(2.5L)` is prepared for one shape, and
+/// `gamma(stream)` is the variate that Random_Gamma(2.5L, stream) would return, with the same draws
+/// and the same errors. Every routine whose parameters need preparation has a sampler beside it.
+/// Its constructor raises the errors of the parameters; drawing does not change it, so threads may
+/// share one, each with a source of its own. It takes at most 700 bytes.
 ///
 /// For all routines below:
 ///

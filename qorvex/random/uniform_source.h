@@ -7,15 +7,14 @@
 /// draws from ClassicRandom.
 ///
 /// - State: nothing is kept between calls. Every call computes what its parameters need, so calls
-///   with different sources may run on different threads at the same time.
+///   with different sources may run on different threads at the same time. Samplers, such as
+///   GammaSampler, compute it once; see Fill.
 /// - Results: extended values, including whole numbers.
 /// - Requirements: a source should return independent values in [0, 1), with all 64 bits if the far
 ///   tails matter. A source with steps of 2^-53, for instance, yields no normal variate beyond
 ///   12.1. Values outside [0, 1) are not checked.
-/// - Reproducibility: equal sources give the same bits on processors of one family. Logarithms and
-///   exponentials are the processor's, and their last bit differs between makes of processors. On
-///   another make, variates other than counts may differ in the last digit, and rarely a rejection
-///   loop takes a different branch.
+/// - Reproducibility: equal sources give the same bits on every x86-64 machine and with every
+///   compiler. The logarithms, exponentials and powers are correctly rounded.
 /// - Errors: if the normal or the gamma variate needs the logarithm of a drawn value, 0 raises
 ///   EZeroDivide and a negative value EInvalidOp. Exceptions of the source pass through.
 /// - Termination: rejection methods draw again until a candidate is accepted, so a call never

@@ -35,6 +35,7 @@ class QORVEX_EXPORT WeibullSampler {
 
  private:
   Extended exponent_;
+  bool is_usual_;  // XtoY does not multiply, and no variate up to 2^60 overflows
 };
 
 }  // namespace qorvex::inline QorvexRandom

@@ -1,19 +1,19 @@
 #!/usr/bin/python3
 """Makes the table of the error functions, with one row for each piece of
 
-    e^(x^2) erfc(x)       in x        from 1/2 to 8, pieces of 1/16
-    x e^(x^2) erfc(x)     in 64/x^2   from 0 to 1, pieces of 1/16
-    erf(x) / (2 x)        in x^2      from 0 to 1/4, one piece
+    e^(x^2) erfc(x) / 2       in x        from 0 to 8, pieces of 1/16
+    x e^(x^2) erfc(x) / 2     in 64/x^2   from 0 to 1, pieces of 1/16
+    erf(x) / (8 x)            in x^2      from 0 to 1/4, one piece
 """
 
 from common import mp, mpf, run
 from monotone_pieces import row_of
 
-NARROW_SCALE = 100
+NARROW_SCALE = 91
 
 
 def scaled_erfc(x):
-    return mp.exp(x * x) * mp.erfc(x)
+    return mp.exp(x * x) * mp.erfc(x) / 2
 
 
 def far_erfc(v):
@@ -21,7 +21,7 @@ def far_erfc(v):
     if v > mpf(1) / 64:
         x = 8 / mp.sqrt(v)
         return x * scaled_erfc(x)
-    total, term, n = mpf(0), 1 / mp.sqrt(mp.pi), 0
+    total, term, n = mpf(0), 1 / (2 * mp.sqrt(mp.pi)), 0
     while abs(term) > mpf(2) ** -200:
         total += term
         n += 1
@@ -29,16 +29,16 @@ def far_erfc(v):
     return total
 
 
-def half_slope(u):
-    return mp.erf(mp.sqrt(u)) / (2 * mp.sqrt(u)) if u > 0 else 1 / mp.sqrt(mp.pi)
+def eighth_of_slope(u):
+    return mp.erf(mp.sqrt(u)) / (8 * mp.sqrt(u)) if u > 0 else 1 / (4 * mp.sqrt(mp.pi))
 
 
 def main():
     with mp.workprec(300):
         width = mpf(1) / 16
-        rows = [row_of(scaled_erfc, (i + mpf(1) / 2) * width, width, NARROW_SCALE, 103) for i in range(8, 128)]
-        rows += [row_of(far_erfc, (i + mpf(1) / 2) * width, width, NARROW_SCALE, 106) for i in range(16)]
-        rows.append(row_of(half_slope, mpf(1) / 8, mpf(1) / 4, NARROW_SCALE, 104))
+        rows = [row_of(scaled_erfc, (i + mpf(1) / 2) * width, width, NARROW_SCALE, 91) for i in range(128)]
+        rows += [row_of(far_erfc, (i + mpf(1) / 2) * width, width, NARROW_SCALE, 91) for i in range(16)]
+        rows.append(row_of(eighth_of_slope, mpf(1) / 8, mpf(1) / 4, NARROW_SCALE, 91))
     run(__file__, {"erfc_pieces": rows})
 
 

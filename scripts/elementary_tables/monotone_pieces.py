@@ -1,7 +1,7 @@
 """Tables of completely monotone functions, whose derivatives alternate in sign, as polynomials on pieces.
 
-A row has the absolute values of 16 coefficients about the middle of a piece, the whole of which is the unit: eight of
-128 bits at scale 2^128, and eight of 64 at a scale of the table's. C++ evaluates them in monotone_piece.h.
+A row has the absolute values of 16 coefficients about the middle of a piece, the whole of which is the unit: six of
+128 bits at scale 2^128, and ten of 64 at a scale of the table's. C++ evaluates them in monotone_piece.h.
 """
 
 import random
@@ -9,7 +9,7 @@ import random
 from common import fixed, mp, mpf, words
 
 TERMS = 16
-WIDE_TERMS = 8
+WIDE_TERMS = 6
 MASK = (1 << 64) - 1
 
 

@@ -8,7 +8,7 @@
 from common import mp, mpf, run
 from monotone_pieces import row_of
 
-NARROW_SCALE = 88
+NARROW_SCALE = 84
 
 
 def tail_quantile(log_tail):

@@ -13,6 +13,7 @@
 
 #include "qorvex/base/elementary/detail/angle.h"
 #include "qorvex/base/elementary/detail/arc_pieces.h"
+#include "qorvex/base/elementary/detail/near_zero.h"
 #include "qorvex/base/elementary/detail/over_spans.h"
 #include "qorvex/base/elementary/detail/quick_square_root.h"
 #include "qorvex/base/elementary/detail/trigonometric256.h"
@@ -26,9 +27,6 @@ namespace {
 // Four times the error of the first stage: 2^-98.5 from the square root and 2^-100 from P, at most
 // twice that of the result after a subtraction, and so below 2^-97.
 constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
-
-// Below 2^-32, asin x rounds to x: x^2/6 is less than half the distance to the next number.
-constexpr int kLeastExponent = -32;
 
 // pi/2 at scale 2^126, where pi has the digits of kHalfPi.
 constexpr UInt128 kHalfPi126 = kHalfPi >> 1;
@@ -48,14 +46,16 @@ struct Arc {
   const int exponent = x.Exponent() - kExponentBias;
   if (exponent < -1 || x.significand == kTopBit) {
     const UInt128 square = Multiply(x.significand, x.significand);
-    const UInt128 quotient = ArcSineQuotient(ScaledDown(square, -2 * exponent - 2));
-    return {MultiplyHigh(quotient, x.significand), exponent, false};
+    return {MultiplyHigh(Join(x.significand, 0),
+                         ArcSineQuotient(ScaledDown(square, -2 * exponent - 2))),
+            exponent, false};
   }
   // z = complement 2^-65 = a 2^(-shift - 1), where 1/4 <= a < 1 and the shift is odd.
   const std::uint64_t complement = 0 - x.significand;
   const int shift = (std::countl_zero(complement) - 1) | 1;
-  const UInt128 quotient = ArcSineQuotient(ShiftedWord(complement, 63));
-  return {MultiplyHigh(QuickSquareRoot(complement << shift), quotient), 1 - (shift + 1) / 2, true};
+  return {MultiplyHigh(QuickSquareRoot(complement << shift),
+                       ArcSineQuotient(ShiftedLeft(complement, 63))),
+          1 - (shift + 1) / 2, true};
 }
 
 [[gnu::noinline]] Wide256 SecondStage(Binary80 bits, bool cosine_wanted) {

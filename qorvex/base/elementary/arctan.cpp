@@ -6,6 +6,7 @@
 
 #include "qorvex/base/elementary/detail/arctan_kernel.h"
 #include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/detail/near_zero.h"
 #include "qorvex/base/elementary/detail/over_spans.h"
 #include "qorvex/base/elementary/detail/trigonometric256.h"
 #include "qorvex/base/elementary/detail/ziv.h"
@@ -17,9 +18,6 @@ namespace {
 
 // Four times the error of the first stage, 2^-97 of the result.
 constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
-
-// Below 2^-32, atan x rounds to x: x^2/3 is less than half the distance to the next number.
-constexpr int kLeastExponent = -32;
 
 constexpr Wide kOne{UInt128{1} << 127, 0};
 
@@ -35,7 +33,7 @@ constexpr Wide kOne{UInt128{1} << 127, 0};
 }
 
 [[gnu::always_inline]] inline Binary80 ArcTanKernel(Binary80 bits) {
-  if (bits.Exponent() < kExponentBias + kLeastExponent || !IsNormal(bits)) [[unlikely]]
+  if (!NeedsKernel(bits)) [[unlikely]]
     return WithoutKernel(bits);
   const Wide x{Join(bits.significand, 0), bits.Exponent() - kExponentBias};
   Wide first = x.exponent < 0 ? SmallArcTan(x)

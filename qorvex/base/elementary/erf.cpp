@@ -14,8 +14,8 @@ using namespace elementary;
 
 namespace {
 
-// 2^-95 of the first stage, in units of 2^-128.
-constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
+// Above 2^-90, the error of the first stage.
+constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 39;
 // From 2^7 on erfc is below half the smallest number.
 constexpr int kFarExponent = 7;
 

@@ -17,11 +17,6 @@ constexpr std::uint64_t kEvenFactorials[8] = {
     0x4000000000000000, 0x0000000000000000, 0x0555555555555555, 0x5555555555555555,
     0x002d82d82d82d82d, 0x82d82d82d82d82d8, 0x0000d00d00d00d01, 0x0000024fc9f6ef14};
 
-// x / 2^count for 0 <= count < 128.
-[[gnu::always_inline]] inline UInt128 Lowered(UInt128 x, int count) {
-  return count < 64 ? ShiftedRight(x, count) : Join(0, High(x) >> (count - 64));
-}
-
 // a0 + a1 y + ... + a4 y^4 in units of 2^-127, for y < 2^-16 in units of 2^-128; wrong by less than
 // 5 units.
 [[gnu::always_inline]] inline UInt128 Series(UInt128 y, const std::uint64_t (&a)[8]) {
@@ -32,8 +27,7 @@ constexpr std::uint64_t kEvenFactorials[8] = {
 // e^x - 1 = x (1 + x^2 / 3! + x^4 / 5! ... + x (1 / 2! + x^2 / 4! + x^4 / 6! ...)) for |x| < 2^-8.
 // Relative error: 2^-116.6 by breaking off before x^12 / 12!, and 16 units of 2^-127.
 [[gnu::always_inline]] inline Wide Expm1BySeries(const Wide& x) {
-  const int count = static_cast<int>(std::min<std::int64_t>(-1 - x.exponent, 127));
-  const UInt128 fixed = Lowered(x.mantissa, count);  // of 2^-128
+  const UInt128 fixed = ScaledDown(x.mantissa, -1 - x.exponent);  // of 2^-128
   const UInt128 square = MultiplyHighOfSmall(fixed, fixed);
   const UInt128 odd = MultiplyHighOfSmall(square, Series(square, kOddFactorials));
   const UInt128 even = MultiplyHighOfSmall(fixed, Series(square, kEvenFactorials));
@@ -44,16 +38,17 @@ constexpr std::uint64_t kEvenFactorials[8] = {
 
 // e^x - 1 from e^x, for |x| >= 2^-8, where the relative error of e^x, 2^-111, becomes 2^-102.9.
 [[gnu::always_inline]] inline Wide MinusOne(const Wide& power, bool negative) {
-  // The larger of e^x and 1, less the smaller.
   const std::uint64_t sign = negative ? ~std::uint64_t{0} : 0;
-  const std::uint64_t high = High(power.mantissa);
-  const std::uint64_t low = Low(power.mantissa);
-  const UInt128 larger = Join(negative ? kTopBit : high, low & ~sign);
-  const UInt128 smaller = Join(negative ? high : kTopBit, low & sign);
-  const std::int64_t distance = negative ? -power.exponent : power.exponent;
-  const UInt128 difference =
-      larger - Lowered(smaller, static_cast<int>(std::min<std::int64_t>(distance, 127)));
-  return NormalisedTop(difference, negative ? 0 : power.exponent, negative);
+  const auto exponent = static_cast<std::uint64_t>(power.exponent);
+  const std::uint64_t distance = (exponent ^ sign) - sign;
+  if (distance >= 64) [[unlikely]]
+    return power - Wide(1.0L);
+  // At the scale of the larger of e^x and 1, where 1 fits into the high word; by masks, because
+  // signs may be random. A negative difference is turned by complement.
+  const UInt128 scaled = ShiftedRight(power.mantissa, static_cast<int>(distance & sign));
+  const std::uint64_t one = kTopBit >> (distance & ~sign);
+  const UInt128 difference = Join((High(scaled) - one) ^ sign, Low(scaled) ^ sign);
+  return NormalisedTop(difference, static_cast<std::int64_t>(exponent & ~sign), negative);
 }
 
 // The second stage. e^x is transcendental unless x = 0 (Lindemann 1882), so there are no midpoints.

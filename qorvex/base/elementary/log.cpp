@@ -4,6 +4,7 @@
 // 0 (Lindemann 1882, "Ueber die Zahl pi").
 
 #include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/detail/functions_of_bits.h"
 #include "qorvex/base/elementary/detail/log256.h"
 #include "qorvex/base/elementary/detail/log_domain.h"
 #include "qorvex/base/elementary/detail/log_kernel.h"
@@ -47,11 +48,12 @@ void Log(VectorView<Extended> x, std::span<Extended> results) {
 
 namespace qorvex::elementary {
 
+Binary80 LogOfBits(Binary80 x) noexcept {
+  return LogKernel(x);
+}
+
 Wide LogWide(Extended x) {
-  const Normalised number = Normalise(BitsOf(x));
-  if (IsBeside1(number.significand, number.exponent))
-    return LogBeside1(Join(number.significand, 0), number.exponent);
-  return Floating(LogByTables(number.significand, number.exponent));
+  return FinishLog(Normalise(BitsOf(x)), [](const Wide& log) { return log; });
 }
 
 Wide LogWide(const Wide& x) {

@@ -18,20 +18,20 @@ using namespace elementary;
 // finish(ln(1 + x)) for x > -1 but 0, of a logarithm with a relative error below 2^-97: where |x|
 // is small, and of the others.
 template <class Finish>
-[[gnu::noinline]] Binary80 FinishLog1pOfSmall(Normalised x, bool negative, Finish finish) {
+[[gnu::noinline]] auto FinishLog1pOfSmall(Normalised x, bool negative, Finish finish) {
   return finish(Log1pOfSmall(WideOf(x, negative)));
 }
 template <class Finish>
-[[gnu::noinline]] Binary80 FinishLog1pOfOther(Normalised x, bool negative, Finish finish) {
+[[gnu::noinline]] auto FinishLog1pOfOther(Normalised x, bool negative, Finish finish) {
   return finish(Log1pWide(WideOf(x, negative)));
 }
 template <class Finish>
-[[gnu::always_inline]] inline Binary80 FinishLog1p(Normalised x, bool negative, Finish finish) {
+[[gnu::always_inline]] inline auto FinishLog1p(Normalised x, bool negative, Finish finish) {
   if (x.exponent < -12) return FinishLog1pOfSmall(x, negative, finish);
   // 1 + x, exactly, with the larger exponent at bit 126 and above.
   const int exponent = x.exponent > 0 ? x.exponent : 0;
   const UInt128 one = Join(kTopBit >> 1 >> (exponent & 63), 0);
-  const UInt128 part = ShiftedWord(x.significand, 63 - exponent + x.exponent);
+  const UInt128 part = ShiftedLeft(x.significand, 63 - exponent + x.exponent);
   const UInt128 sum = negative ? one - part : one + part;
   if (x.exponent > 62 || High(sum) == 0) [[unlikely]]
     return FinishLog1pOfOther(x, negative, finish);
@@ -77,7 +77,9 @@ void Log1p(VectorView<Extended> x, std::span<Extended> results) {
 namespace qorvex::elementary {
 
 Wide Log1pWide(Extended x) {
-  return Log1pWide(Wide(x));
+  const Binary80 bits = BitsOf(x);
+  if (IsZero(bits)) return {};
+  return FinishLog1p(Normalise(bits), bits.IsNegative(), [](const Wide& log) { return log; });
 }
 
 Wide Log1pWide(const Wide& x) {

@@ -1,23 +1,26 @@
 // Powers.
 //
-// x^y can only be a midpoint, or short of one by nothing, in these cases. Let x = 2^E o with an odd
-// integer o, and y = n / 2^s in lowest terms.
+// When is x^y a midpoint? Let x = 2^E o with an odd integer o, and y = n / 2^s in lowest terms.
 //
-// - o = 1: a power of 2 if it is rational, which is an extended number or underflows.
-// - o > 1: y > 0, because o^-y has no finite binary expansion; o = p^(2^s) for an integer p,
-// because
-//   the 2^s-th root of an odd integer is one or is irrational (y E is an integer then); and p^n has
-//   at most 65 bits, so n <= 41. All of these with s = 0 are among the short powers below. The
-//   others have the second stage round 200 bits, of which the last ones are 0.
+// - o = 1: never. The power is irrational or a power of 2.
+// - o > 1, y < 0: never. The reciprocal of an odd integer has no finite binary expansion.
+// - o > 1, y > 0: only if o = p^(2^s) and y E is an integer, as other roots are irrational; and if
+//   p^n has 65 bits, so that n <= 41. With s = 0 these are short powers (see below). With s > 0
+//   they are rounded in the second stage, where all bits after the 65th are 0.
 //
-// Pairs (x, y) whose power is neither close to 1 nor out of range number 2^149, so one of them in
-// 2^135 comes within 2^-200 of a midpoint without being one. Nobody knows a way to find it.
+// Subnormal results have fewer bits, and 2^-16446 is halfway to 0: such powers are exact in the
+// same two places.
+//
+// The second stage takes a power within 2^-200 of a midpoint for the midpoint. Some 2^149 pairs
+// (x, y) have a power that is neither 1 nor out of range when rounded. One in 2^135 of them would
+// be mistaken, and nobody knows how to find one.
 
 #include <algorithm>
 #include <bit>
 #include <optional>
 
 #include "qorvex/base/elementary/detail/exp_core.h"
+#include "qorvex/base/elementary/detail/functions_of_bits.h"
 #include "qorvex/base/elementary/detail/log256.h"
 #include "qorvex/base/elementary/detail/log_kernel.h"
 #include "qorvex/base/elementary/detail/over_spans.h"
@@ -63,11 +66,13 @@ int LengthOf(Normalised x) {
   return 64 - std::countr_zero(x.significand);
 }
 
-// Whether y is an integer from 1 to 127 and x^y has at most 128 bits: all squares, and powers of
-// short numbers.
+// Whether y is a positive integer with at most 7 leading bits, and below 256, and x^y has at most
+// 128 bits: all squares, and powers of short numbers.
 [[gnu::always_inline]] inline bool IsShortPower(Normalised x, Normalised y, bool y_is_negative) {
-  // First what is rarely true, so that the processor guesses right.
-  if (y.significand << 7 != 0 || y_is_negative || y.exponent >= 7 || !IsInteger(y)) return false;
+  // One jump for all, which the processor guesses right: nearly every y has more bits.
+  const std::uint64_t longer = y.significand << 7;
+  const auto beyond = static_cast<std::uint64_t>(y.exponent) & ~std::uint64_t{7};
+  if ((longer | beyond | (y_is_negative ? 1 : 0)) != 0 || !IsInteger(y)) return false;
   return static_cast<int>(y.significand >> (63 - y.exponent)) * LengthOf(x) <= 128;
 }
 
@@ -85,8 +90,8 @@ int LengthOf(Normalised x) {
   return NearestBits(NormalisedWide(power * square, exponent + 127, negative));
 }
 
-// The second stage. The logarithm, relative error 2^-220, times y is below 2^14 or so; the
-// exponential adds 2^-230.
+// The second stage. The relative error of the logarithm, 2^-220, is one of 2^-206 in the power,
+// since the product is below 2^14; the exponential adds 2^-230.
 [[gnu::noinline]] Wide256 PowerInDoubt(Normalised x, const Wide& y, bool negative) {
   Wide256 power = Exp(Log(Wide256(WideOf(x))) * Wide256(y));
   power.negative = negative;
@@ -130,3 +135,11 @@ void Pow(VectorView<Extended> x, Extended y, std::span<Extended> results) {
 }
 
 }  // namespace qorvex::inline QorvexGlobals
+
+namespace qorvex::elementary {
+
+Binary80 PowOfBits(Binary80 x, Binary80 y) noexcept {
+  return PowKernel(x, y);
+}
+
+}  // namespace qorvex::elementary

@@ -4,8 +4,10 @@
 // pi"), and so is the cosine: no result but sin 0 and cos 0 is a number of the format or the middle
 // of two.
 
+#include "qorvex/base/elementary/detail/angle.h"
+#include "qorvex/base/elementary/detail/near_zero.h"
 #include "qorvex/base/elementary/detail/over_spans.h"
-#include "qorvex/base/elementary/detail/sine_and_cosine.h"
+#include "qorvex/base/elementary/detail/sine_kernel.h"
 #include "qorvex/base/elementary/detail/trigonometric256.h"
 #include "qorvex/base/elementary/detail/ziv.h"
 #include "qorvex/base/elementary/functions.h"

@@ -1,6 +1,10 @@
-#include "qorvex/base/elementary/detail/sine_and_cosine.h"
+// Sine and cosine of one angle for first_stage.h.
 
 #include <utility>
+
+#include "qorvex/base/elementary/detail/angle.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
+#include "qorvex/base/elementary/detail/sine_kernel.h"
 
 namespace qorvex::elementary {
 
@@ -11,7 +15,11 @@ SineAndCosine SinCosWide(Extended x) {
   // x^2/2 is below the last bit.
   if (magnitude.exponent < -64) return {Wide(x), Wide(1.0L)};
   const Angle angle = AngleOf(magnitude);
-  auto [sine, cosine] = SineAndCosineOf(angle, magnitude);
+  const SineStep step = StepOf(angle.r);
+  const SineSeries series = SeriesOf(step.h);
+  Wide sine = step.row == 0 ? SmallSine(SmallAngleOf(magnitude))
+                            : NormalisedTop(SinePart(step, series, 0), 0);
+  Wide cosine = NormalisedTop(SinePart(step, series, 1), 0);
   sine.negative = angle.negative;
   if ((angle.quadrant & 1) != 0) {
     std::swap(sine, cosine);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/random/uniform_source.h"
 
 namespace qorvex::inline QorvexRandom::detail {
 
@@ -9,5 +10,12 @@ namespace qorvex::inline QorvexRandom::detail {
 // rejected.
 inline constexpr Extended kVerySmall = 5.0E-324L;
 inline constexpr Extended kVeryLarge = 1.7E+308L;
+
+// The first uniform value above the limit.
+inline Extended PositiveUniform(UniformSource source) {
+  Extended u = source();
+  while (!(u > kVerySmall)) u = source();
+  return u;
+}
 
 }  // namespace qorvex::inline QorvexRandom::detail

@@ -20,7 +20,7 @@ class QORVEX_EXPORT ExponentialDistribution {
   using Point = Extended;
 
   /// The mean, 1 / rate.
-  explicit ExponentialDistribution(Extended mean = 1);
+  explicit ExponentialDistribution(Extended mean = 1) : mean_(mean) { RequireValid(); }
 
   /// @{
   /// As for every ContinuousDistribution.
@@ -35,6 +35,8 @@ class QORVEX_EXPORT ExponentialDistribution {
   /// @}
 
  private:
+  void RequireValid() const;
+
   Extended mean_;
 };
 

@@ -17,31 +17,32 @@ using namespace distributions;
 using elementary::LogWide;
 using special::Scaled;
 
-LogNormalDistribution::LogNormalDistribution(Extended log_mean, Extended log_std_dev)
-    : log_mean_(log_mean), log_std_dev_(log_std_dev) {
-  RequireNormal(log_mean, log_std_dev);
+void LogNormalDistribution::RequireValid() const {
+  RequireNormal(log_mean_, log_std_dev_);
 }
 
 Extended LogNormalDistribution::Pdf(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return kNotANumber;
-  if (x <= 0 || IsInfinite(x)) return 0;
-  const Wide z = Standardised(LogWide(x), log_mean_, log_std_dev_);
+  if (!IsPositive(x) || IsInfinite(x)) return 0;
+  const Wide z = Standardised(LogWide(Wide(x)), log_mean_, log_std_dev_);
   const Wide density = special::NormalDensityWide(z);
   return density.IsZero() ? 0 : Nearest(QuickQuotient(density, Wide(x) * Wide(log_std_dev_)));
 }
 
 Tails LogNormalDistribution::At(Extended x) const {
   if (AnyNaN(log_mean_, log_std_dev_, x)) return UnknownTails();
-  if (x <= 0) return BelowAll();
+  if (!IsPositive(x)) return BelowAll();
   if (IsInfinite(x)) return AboveAll();
-  return StandardNormalTails(Standardised(LogWide(x), log_mean_, log_std_dev_));
+  return StandardNormalTails(Standardised(LogWide(Wide(x)), log_mean_, log_std_dev_));
 }
 
 Extended LogNormalDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(log_mean_, log_std_dev_, p)) return kNotANumber;
   const Wide log = WideNormalQuantile(tail, p) * Wide(log_std_dev_) + Wide(log_mean_);
-  return CheckedFinite(special::MakeScaled(special::kOne, log).Value());
+  constexpr std::int64_t beyond = 30;
+  if (log.exponent < beyond) return CheckedNearest(elementary::ExpWide(log));
+  return log.negative ? 0 : throw EOverflow();
 }
 
 Extended LogNormalDistribution::Mean() const {

@@ -21,7 +21,10 @@ class QORVEX_EXPORT LogNormalDistribution {
   using Point = Extended;
 
   /// The mean and the standard deviation of ln X.
-  explicit LogNormalDistribution(Extended log_mean = 0, Extended log_std_dev = 1);
+  explicit LogNormalDistribution(Extended log_mean = 0, Extended log_std_dev = 1)
+      : log_mean_(log_mean), log_std_dev_(log_std_dev) {
+    RequireValid();
+  }
 
   /// @{
   /// As for every ContinuousDistribution.
@@ -42,6 +45,8 @@ class QORVEX_EXPORT LogNormalDistribution {
   /// @}
 
  private:
+  void RequireValid() const;
+
   Extended log_mean_;
   Extended log_std_dev_;
 };

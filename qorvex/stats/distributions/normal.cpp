@@ -8,9 +8,8 @@ namespace qorvex {
 
 using namespace distributions;
 
-NormalDistribution::NormalDistribution(Extended mean, Extended std_dev)
-    : mean_(mean), std_dev_(std_dev) {
-  RequireNormal(mean, std_dev);
+void NormalDistribution::RequireValid() const {
+  RequireNormal(mean_, std_dev_);
 }
 
 Extended NormalDistribution::Pdf(Extended x) const {

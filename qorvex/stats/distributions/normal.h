@@ -22,7 +22,10 @@ class QORVEX_EXPORT NormalDistribution {
   using Point = Extended;
 
   /// The standard normal distribution by default.
-  explicit NormalDistribution(Extended mean = 0, Extended std_dev = 1);
+  explicit NormalDistribution(Extended mean = 0, Extended std_dev = 1)
+      : mean_(mean), std_dev_(std_dev) {
+    RequireValid();
+  }
 
   /// @{
   /// As for every ContinuousDistribution.
@@ -40,6 +43,8 @@ class QORVEX_EXPORT NormalDistribution {
   [[nodiscard]] Extended StdDev() const { return std_dev_; }
 
  private:
+  void RequireValid() const;
+
   Extended mean_;
   Extended std_dev_;
 };

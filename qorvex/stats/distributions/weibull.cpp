@@ -45,7 +45,7 @@ WeibullDistribution::WeibullDistribution(Extended shape, Extended scale)
 Extended WeibullDistribution::Pdf(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return kNotANumber;
   if (x == 0 && shape_ > 0) return DensityAtEnd(shape_, 1 / scale_);
-  if (x <= 0 || IsInfinite(x)) return 0;
+  if (!IsPositive(x) || IsInfinite(x)) return 0;
   const Wide ln_t = LogOfExponential(x, shape_, scale_);
   const Wide factor = Ratio(Wide(std::fabs(shape_)), x);
   return special::MakeScaled(factor, ln_t - PointOfLog(ln_t)).Value();
@@ -53,7 +53,7 @@ Extended WeibullDistribution::Pdf(Extended x) const {
 
 Tails WeibullDistribution::At(Extended x) const {
   if (AnyNaN(shape_, scale_, x)) return UnknownTails();
-  if (x <= 0) return BelowAll();
+  if (!IsPositive(x)) return BelowAll();
   if (IsInfinite(x)) return AboveAll();
   const Tails tails = UnitExponentialTailsAtLog(LogOfExponential(x, shape_, scale_));
   return shape_ > 0 ? tails : tails.Mirrored();

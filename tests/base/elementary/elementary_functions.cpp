@@ -27,6 +27,11 @@ int Exact(mpfr_ptr result, mpfr_srcptr x, mpfr_srcptr, mpfr_rnd_t rounding) {
   return kFunction(result, x, rounding);
 }
 
+template <void (*kFunction)(VectorView<Extended>, std::span<Extended>)>
+void Over(VectorView<Extended> x, Extended, std::span<Extended> results) {
+  kFunction(x, results);
+}
+
 int LnGammaExactly(mpfr_ptr result, mpfr_srcptr x, mpfr_srcptr, mpfr_rnd_t rounding) {
   int sign = 0;
   return mpfr_lgamma(result, &sign, x, rounding);
@@ -201,26 +206,26 @@ Regions OfInverseErfc() {
 
 std::span<const ElementaryFunction> ElementaryFunctions() {
   static const std::vector<ElementaryFunction> functions{
-      {"Exp", Ours<Exp>, Exact<mpfr_exp>, OfExponentials()},
-      {"Expm1", Ours<Expm1>, Exact<mpfr_expm1>, OfExponentials()},
-      {"Exp2", Ours<Exp2>, Exact<mpfr_exp2>, OfExp2()},
-      {"Log", Ours<Log>, Exact<mpfr_log>, OfLogarithms(2.718281828459045235L)},
-      {"Log1p", Ours<Log1p>, Exact<mpfr_log1p>, OfLog1p()},
-      {"Log2", Ours<Log2>, Exact<mpfr_log2>, OfLogarithms(2)},
-      {"Log10", Ours<Log10>, Exact<mpfr_log10>, OfLogarithms(10)},
-      {"Pow", [](const Arguments& a) { return Pow(a.x, a.y); }, mpfr_pow, RegionsOfPow()},
-      {"Sin", Ours<Sin>, Exact<mpfr_sin>, OfAngles()},
-      {"Cos", Ours<Cos>, Exact<mpfr_cos>, OfAngles()},
-      {"Tan", Ours<Tan>, Exact<mpfr_tan>, OfAngles()},
-      {"ArcCos", Ours<ArcCos>, Exact<mpfr_acos>, OfInverseAngles()},
-      {"ArcSin", Ours<ArcSin>, Exact<mpfr_asin>, OfInverseAngles()},
-      {"ArcTan", Ours<ArcTan>, Exact<mpfr_atan>, OfArcTan()},
-      {"Cbrt", Ours<Cbrt>, Exact<mpfr_cbrt>, OfCbrt()},
-      {"Erf", Ours<Erf>, Exact<mpfr_erf>, OfErf()},
-      {"Erfc", Ours<Erfc>, Exact<mpfr_erfc>, OfErfc()},
-      {"Gamma", Ours<Gamma>, Exact<mpfr_gamma>, OfGamma(), false},
-      {"LnGamma", Ours<LnGamma>, LnGammaExactly, OfLnGamma(), false},
-      {"InverseErfc", Ours<InverseErfc>, InverseErfcExactly, OfInverseErfc(), false},
+      {"Exp", Ours<Exp>, Exact<mpfr_exp>, OfExponentials(), Over<Exp>},
+      {"Expm1", Ours<Expm1>, Exact<mpfr_expm1>, OfExponentials(), Over<Expm1>},
+      {"Exp2", Ours<Exp2>, Exact<mpfr_exp2>, OfExp2(), Over<Exp2>},
+      {"Log", Ours<Log>, Exact<mpfr_log>, OfLogarithms(2.718281828459045235L), Over<Log>},
+      {"Log1p", Ours<Log1p>, Exact<mpfr_log1p>, OfLog1p(), Over<Log1p>},
+      {"Log2", Ours<Log2>, Exact<mpfr_log2>, OfLogarithms(2), Over<Log2>},
+      {"Log10", Ours<Log10>, Exact<mpfr_log10>, OfLogarithms(10), Over<Log10>},
+      {"Pow", [](const Arguments& a) { return Pow(a.x, a.y); }, mpfr_pow, RegionsOfPow(), Pow},
+      {"Sin", Ours<Sin>, Exact<mpfr_sin>, OfAngles(), Over<Sin>},
+      {"Cos", Ours<Cos>, Exact<mpfr_cos>, OfAngles(), Over<Cos>},
+      {"Tan", Ours<Tan>, Exact<mpfr_tan>, OfAngles(), Over<Tan>},
+      {"ArcCos", Ours<ArcCos>, Exact<mpfr_acos>, OfInverseAngles(), Over<ArcCos>},
+      {"ArcSin", Ours<ArcSin>, Exact<mpfr_asin>, OfInverseAngles(), Over<ArcSin>},
+      {"ArcTan", Ours<ArcTan>, Exact<mpfr_atan>, OfArcTan(), Over<ArcTan>},
+      {"Cbrt", Ours<Cbrt>, Exact<mpfr_cbrt>, OfCbrt(), Over<Cbrt>},
+      {"Erf", Ours<Erf>, Exact<mpfr_erf>, OfErf(), Over<Erf>},
+      {"Erfc", Ours<Erfc>, Exact<mpfr_erfc>, OfErfc(), Over<Erfc>},
+      {"Gamma", Ours<Gamma>, Exact<mpfr_gamma>, OfGamma(), nullptr, false},
+      {"LnGamma", Ours<LnGamma>, LnGammaExactly, OfLnGamma(), nullptr, false},
+      {"InverseErfc", Ours<InverseErfc>, InverseErfcExactly, OfInverseErfc(), nullptr, false},
   };
   return functions;
 }

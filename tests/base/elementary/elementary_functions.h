@@ -11,6 +11,7 @@
 
 #include "base/elementary/argument_regions.h"
 #include "base/elementary/mpfr_number.h"
+#include "qorvex/base/vector_view.h"
 
 namespace qorvex::testing {
 
@@ -31,6 +32,8 @@ struct ElementaryFunction {
   /// result, from which a step of Newton's method yields the exact value.
   int (*exact)(mpfr_ptr, mpfr_srcptr, mpfr_srcptr, mpfr_rnd_t);
   std::vector<ArgumentRegion> regions;
+  /// The form over ranges, with one y; null if there is none.
+  void (*over)(VectorView<Extended> x, Extended y, std::span<Extended> results) = nullptr;
   /// False where results are not rounded correctly and only their error is limited.
   bool is_nearest = true;
 

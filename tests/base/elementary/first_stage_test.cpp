@@ -37,6 +37,11 @@ Wide Cosine(const Wide& x) {
   return elementary::SinCosWide(elementary::Nearest(x)).cosine;
 }
 
+int HalfErfc(mpfr_ptr result, mpfr_srcptr x, mpfr_rnd_t rounding) {
+  mpfr_erfc(result, x, rounding);
+  return mpfr_div_2ui(result, result, 1, rounding);
+}
+
 const Draw kMultiplesOfHalfPi = Multiples(1.57079632679489661923L, 60);
 const Draw kAnyPositive = Exponents(-16382, 16383, Sign::kPlus);
 const FirstStage kFirstStages[] = {
@@ -63,13 +68,13 @@ const FirstStage kFirstStages[] = {
      ArcTan,
      mpfr_atan,
      {Exponents(-80, 80, Sign::kPlus), FewBits(-10, 10, Sign::kPlus)}},
-    {"ErfWide", elementary::ErfWide, mpfr_erf, {Exponents(-80, 3), FewBits(-8, 3)}, true, 0x1p-95},
-    {"ErfcWide",
-     elementary::ErfcWide,
-     mpfr_erfc,
-     {Exponents(-80, 9), FewBits(-8, 7)},
+    {"ErfWide", elementary::ErfWide, mpfr_erf, {Exponents(-80, 3), FewBits(-8, 3)}, true, 0x1p-90},
+    {"HalfErfcWide",
+     elementary::HalfErfcWide,
+     HalfErfc,
+     {Exponents(-80, 9, Sign::kPlus), FewBits(-8, 7, Sign::kPlus)},
      true,
-     0x1p-95},
+     0x1p-90},
 };
 
 }  // namespace

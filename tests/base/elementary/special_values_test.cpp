@@ -7,6 +7,7 @@
 #include "base/elementary/elementary_functions.h"
 #include "qorvex/base/elementary/detail/binary80.h"
 #include "qorvex/base/elementary/functions.h"
+#include "support/test.h"
 
 namespace qorvex::testing {
 
@@ -174,6 +175,28 @@ TEST(ElementaryFunctions, DoNotDependOnTheControlWord) {
         }
       }
     }
+  }
+}
+
+TEST(ElementaryFunctions, OverRangesEqualSingleCalls) {
+  for (const ElementaryFunction& function : ElementaryFunctions()) {
+    if (!function.is_nearest) continue;
+    Engine engine(3);
+    std::vector<Extended> x{0, -0.0L, 1, -1, kInf, -kInf, kNan, kSmallest, kLargest};
+    for (const ArgumentRegion& region : function.regions)
+      for (int i = 0; i < 100; ++i) x.push_back(region.draw(engine).x);
+    for (const Extended y : {2.5L, -3.0L}) {
+      std::vector<Extended> results = x;
+      function.over(results, y, results);
+      for (std::size_t i = 0; i < x.size(); ++i) {
+        ASSERT_TRUE(IsSameNumber(results[i], function.ours({x[i], y})))
+            << function.name << ' ' << Text({x[i], y});
+      }
+    }
+    std::vector<Extended> shorter(x.size() - 1, 7);
+    EXPECT_ERROR(function.over(x, 2, shorter), EMathError, rsSameDimensions);
+    EXPECT_EQ(shorter, std::vector<Extended>(x.size() - 1, 7));
+    function.over(VectorView<Extended>(), 2, {});
   }
 }
 

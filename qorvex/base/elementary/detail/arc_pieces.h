@@ -20,11 +20,6 @@ inline constexpr std::uint64_t kArcSinePieces[129][14] = {
 #include "qorvex/base/elementary/detail/tables/arcsine.inc"
 };
 
-/// x 2^-count, and 0 from 128 on.
-constexpr UInt128 ScaledDown(UInt128 x, std::int64_t count) {
-  return count < 128 ? x >> count : 0;
-}
-
 /// The fraction of 2^n z as half of it, for z at scale 2^128.
 template <int n>
 constexpr UInt128 HalfFraction(UInt128 z) {
@@ -39,7 +34,7 @@ template <std::size_t kWide, int kScale, std::size_t kWords>
   std::uint64_t tail = row[kWords - 1];
 #pragma GCC unroll 8
   for (std::size_t i = kWords - 2; i >= 2 * kWide; --i) tail = row[i] + MultiplyHigh(tail, High(u));
-  UInt128 sum = ShiftedWord(MultiplyHigh(tail, High(u)), 127 - kScale) +
+  UInt128 sum = ShiftedLeft(MultiplyHigh(tail, High(u)), 127 - kScale) +
                 Join(row[2 * kWide - 2], row[2 * kWide - 1]);
 #pragma GCC unroll 8
   for (std::size_t i = kWide - 1; i > 0; --i)

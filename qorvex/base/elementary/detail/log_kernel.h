@@ -142,11 +142,11 @@ inline constexpr std::uint64_t kLogHalfWidth = std::uint64_t{1} << 32;
 
 /// finish(ln x) for x > 0, of a logarithm in registers where x is not beside 1.
 template <class Finish>
-[[gnu::noinline]] Binary80 FinishLogBeside1(Normalised x, Finish finish) {
+[[gnu::noinline]] auto FinishLogBeside1(Normalised x, Finish finish) {
   return finish(LogBeside1(Join(x.significand, 0), x.exponent));
 }
 template <class Finish>
-[[gnu::always_inline]] inline Binary80 FinishLog(Normalised x, Finish finish) {
+[[gnu::always_inline]] inline auto FinishLog(Normalised x, Finish finish) {
   if (IsBeside1(x.significand, x.exponent)) return FinishLogBeside1(x, finish);
   return finish(Floating(LogByTables(x.significand, x.exponent)));
 }

@@ -11,20 +11,20 @@
 
 namespace qorvex::elementary {
 
-/// c[0] - c[1] t + c[2] t^2 - ..., all c positive, on a piece from t = -1/2 to 1/2. The first eight
+/// c[0] - c[1] t + c[2] t^2 - ..., all c positive, on a piece from t = -1/2 to 1/2. The first six
 /// coefficients have two words each, at scale 2^128, the others one word, at scale 2^narrow_scale.
 template <int narrow_scale>
 struct MonotonePiece {
   static constexpr std::size_t kTerms = 16;
-  static constexpr std::size_t kWideTerms = 8;
+  static constexpr std::size_t kWideTerms = 6;
 
   std::array<std::uint64_t, kTerms + kWideTerms> words;
 
   /// The value at a fraction of 2^-128 of the piece, at scale 2^128.
   ///
-  /// Even and odd powers of t are summed side by side, without signs. Error: six products of 128
-  /// bits, 12 units; the narrow part and the upper word of t^2 that it is multiplied with, 2^-61 of
-  /// the last eight terms. The scripts of the tables check that the relative error with that of the
+  /// Even and odd powers of t are summed side by side, without signs. Error: five products of 128
+  /// bits, 10 units; the narrow part and the upper word of t^2 that it is multiplied with, 2^-61 of
+  /// the last ten terms. The scripts of the tables check that the relative error with that of the
   /// polynomial is below the bound that the users of a table state.
   [[nodiscard, gnu::always_inline]] constexpr UInt128 At(UInt128 fraction) const {
     // t is the fraction minus 1/2.
@@ -51,8 +51,8 @@ struct MonotonePiece {
     narrow = NarrowTerm(12 + first) + MultiplyHigh(narrow, High(square));
     narrow = NarrowTerm(10 + first) + MultiplyHigh(narrow, High(square));
     narrow = NarrowTerm(8 + first) + MultiplyHigh(narrow, High(square));
-    UInt128 sum = WideTerm(6 + first) + (Multiply(narrow, High(square)) >> (narrow_scale - 64));
-    sum = WideTerm(4 + first) + MultiplyHigh(sum, square);
+    narrow = NarrowTerm(6 + first) + MultiplyHigh(narrow, High(square));
+    UInt128 sum = WideTerm(4 + first) + (Multiply(narrow, High(square)) >> (narrow_scale - 64));
     sum = WideTerm(2 + first) + MultiplyHigh(sum, square);
     return WideTerm(first) + MultiplyHigh(sum, square);
   }

@@ -21,7 +21,7 @@ inline std::uint64_t QuickInverse(std::uint64_t b) {
 /// which is below 2^-49.5: dividing it by the same inverse squares the error, to 2^-99.
 inline UInt128 WithRemainder(std::uint64_t quotient, UInt128 remainder, std::uint64_t inverse) {
   const std::uint64_t rest = MultiplyHigh(Low(ShiftedRight(remainder, 13)), inverse);
-  return Join(quotient, 0) + ShiftedWord(rest, 15);
+  return Join(quotient, 0) + ShiftedLeft(rest, 15);
 }
 
 /// 1 / B at scale 2^126 for B = b 2^-64 in [1/2, 1); relative error below 2^-98, never too large.

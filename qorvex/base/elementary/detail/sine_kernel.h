@@ -25,9 +25,9 @@ inline constexpr std::uint64_t kSineTable[403][4] = {
 #include "qorvex/base/elementary/detail/tables/sine.inc"
 };
 
-/// 1/n at scale 2^scale.
-constexpr std::uint64_t Inverse(std::uint64_t n, int scale) {
-  return Low(((UInt128{1} << scale) + n / 2) / n);
+/// a/b at scale 2^scale.
+constexpr std::uint64_t Ratio(std::uint64_t a, std::uint64_t b, int scale) {
+  return Low(((UInt128{a} << scale) + b / 2) / b);
 }
 
 /// 1 - cos h and 1 - sin h / h at scale 2^128.
@@ -41,14 +41,14 @@ inline SineSeries SeriesOf(UInt128 h) {
   const UInt128 half_square = MultiplyHighOfSmall(h, h + h);  // h^2/2 at scale 2^128
   const auto square = Low(ShiftedRight(half_square, 44));     // h^2 at scale 2^83
   const std::uint64_t fourth = MultiplyHigh(square, square);  // h^4 at scale 2^102
-  const std::uint64_t cosine_tail = Inverse(24, 68) - MultiplyHigh(square, Inverse(720, 49)) +
-                                    MultiplyHigh(fourth, Inverse(40320, 30));
-  const std::uint64_t sine_tail = Inverse(120, 70) - MultiplyHigh(square, Inverse(5040, 51)) +
-                                  MultiplyHigh(fourth, Inverse(362880, 32));
-  constexpr std::uint64_t third = Inverse(3, 64);
-  return {half_square - ShiftedWord(MultiplyHigh(fourth, cosine_tail), 22),
+  const std::uint64_t cosine_tail = Ratio(1, 24, 68) - MultiplyHigh(square, Ratio(1, 720, 49)) +
+                                    MultiplyHigh(fourth, Ratio(1, 40320, 30));
+  const std::uint64_t sine_tail = Ratio(1, 120, 70) - MultiplyHigh(square, Ratio(1, 5040, 51)) +
+                                  MultiplyHigh(fourth, Ratio(1, 362880, 32));
+  constexpr std::uint64_t third = Ratio(1, 3, 64);
+  return {half_square - ShiftedLeft(MultiplyHigh(fourth, cosine_tail), 22),
           MultiplyHighOfSmall(half_square, Join(third, third)) -
-              ShiftedWord(MultiplyHigh(fourth, sine_tail), 20)};
+              ShiftedLeft(MultiplyHigh(fourth, sine_tail), 20)};
 }
 
 /// The nearest angle of the table, and the way to it.

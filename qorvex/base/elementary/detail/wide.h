@@ -25,11 +25,6 @@ constexpr std::uint64_t High(UInt128 x) {
 constexpr std::uint64_t Low(UInt128 x) {
   return static_cast<std::uint64_t>(x);
 }
-/// word 2^count for 0 < count < 64.
-constexpr UInt128 ShiftedWord(std::uint64_t word, int count) {
-  return Join(word >> (64 - count), word << count);
-}
-
 constexpr UInt128 Multiply(std::uint64_t a, std::uint64_t b) {
   return UInt128{a} * b;
 }
@@ -63,6 +58,11 @@ constexpr UInt128 ShiftedRight(UInt128 x, int count) {
 constexpr UInt128 ShiftedLeft(UInt128 x, int count) {
   return Join(High(x) << count | Low(x) >> 1 >> (63 - count), Low(x) << count);
 }
+/// x / 2^count for any count >= 0.
+constexpr UInt128 ScaledDown(UInt128 x, std::int64_t count) {
+  if (count < 64) return ShiftedRight(x, static_cast<int>(count));
+  return count < 128 ? High(x) >> (count - 64) : 0;
+}
 
 constexpr int LeadingZeros(UInt128 x) {
   return High(x) != 0 ? std::countl_zero(High(x)) : 64 + std::countl_zero(Low(x));
@@ -95,6 +95,13 @@ constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool nega
   return {mantissa << zeros, exponent - zeros, negative};
 }
 
+/// The same, quicker, for a mantissa of 2^64 or more.
+constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
+  const int zeros = std::countl_zero(High(mantissa));
+  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
+  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
+}
+
 /// A number that is not 0, exactly.
 constexpr Wide WideOf(Normalised x, bool negative = false) {
   return {Join(x.significand, 0), x.exponent, negative};
@@ -104,13 +111,6 @@ inline Wide::Wide(Extended x) {
   const Binary80 bits = BitsOf(x);
   if (bits.significand == 0) return;
   *this = WideOf(Normalise(bits), bits.IsNegative());
-}
-
-/// The same, quicker, for a mantissa of 2^64 or more.
-constexpr Wide NormalisedTop(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
-  const int zeros = std::countl_zero(High(mantissa));
-  const std::uint64_t next = Low(mantissa) >> 1 >> (63 - zeros);
-  return {Join(High(mantissa) << zeros | next, Low(mantissa) << zeros), exponent - zeros, negative};
 }
 
 /// The product; relative error below 2^-125.

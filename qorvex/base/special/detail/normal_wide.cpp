@@ -2,6 +2,7 @@
 
 #include "qorvex/base/elementary/detail/erf_wide.h"
 #include "qorvex/base/elementary/detail/exp_core.h"
+#include "qorvex/base/elementary/detail/first_stage.h"
 #include "qorvex/base/special/detail/wide_scaled.h"
 
 namespace qorvex::special {
@@ -22,16 +23,18 @@ Wide Exponent(const Wide& z) {
 Wide NormalDensityWide(const Wide& z) {
   constexpr std::int64_t beyond = 20;
   if (z.exponent >= beyond) return {};
-  return kOneOverRoot2Pi * elementary::ExpOf(Exponent(z));
+  const Wide exponent = Exponent(z);
+  return kOneOverRoot2Pi * (exponent.exponent < 14 ? elementary::ExpOf(exponent)
+                                                   : elementary::ExpWide(exponent));
 }
 
-// As erfc(t) / 2.
+// As erfc(t) / 2 for t = |z| / sqrt(2).
 Scaled NormalFarTail(const Wide& z) {
   // From here on the power of e is kept apart, so that its logarithm can be had for any z.
   constexpr std::int64_t far_exponent = 10;
-  const Wide t = Wide(z.mantissa, z.exponent) * kRootOfHalf;
-  if (z.exponent < far_exponent) return MakeScaled(ScaledBy(elementary::ErfcWide(t), -1));
-  return MakeScaled(ScaledBy(elementary::ScaledErfcWide(t), -1), Exponent(z));
+  const Wide t = z * kRootOfHalf;
+  if (z.exponent < far_exponent) return MakeScaled(elementary::HalfErfcWide(t));
+  return MakeScaled(elementary::ScaledHalfErfcWide(t), Exponent(z));
 }
 
 }  // namespace qorvex::special

@@ -12,10 +12,10 @@ namespace qorvex::special {
 inline constexpr elementary::Wide kRootOfHalf{
     elementary::Join(0xb504f333f9de6484, 0x597d89b3754abe9f), -1};
 
-/// e^(-z^2 / 2) / sqrt(2 pi), relative error below 2^-94; 0 for |z| >= 2^20.
+/// e^(-z^2 / 2) / sqrt(2 pi), relative error below 2^-90; 0 for |z| >= 2^20.
 [[nodiscard]] QORVEX_EXPORT elementary::Wide NormalDensityWide(const elementary::Wide& z);
 
-/// The probability above |z|; relative error below 2^-94.
+/// The probability above |z|; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Scaled NormalFarTail(const elementary::Wide& z);
 
 /// The point above which the probability is p, e^-16384 < p < 1; relative error below 2^-82.

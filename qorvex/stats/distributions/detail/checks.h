@@ -18,7 +18,10 @@ inline constexpr Extended kLargest = std::numeric_limits<Extended>::max();
 inline constexpr Extended kInfinite = std::numeric_limits<Extended>::infinity();
 inline constexpr Extended kNotANumber = std::numeric_limits<Extended>::quiet_NaN();
 
-/// Whether any of the values is NaN. Bits are quicker to look at than numbers to compare.
+// The checks look at bits: comparisons would load parameters into the x87 unit, which has to wait
+// for what has just been stored.
+
+/// Whether any of the values is NaN.
 template <class... Values>
 bool AnyNaN(const Values&... values) {
   return (elementary::IsNaN(elementary::BitsOf(values)) || ...);
@@ -29,21 +32,36 @@ inline bool IsInfinite(const Extended& value) {
   return elementary::IsInfinity(elementary::BitsOf(value));
 }
 
+/// @{
+/// Whether the value, not NaN, is above or below 0.
+inline bool IsPositive(const Extended& value) {
+  const elementary::Binary80 bits = elementary::BitsOf(value);
+  return !bits.IsNegative() && !elementary::IsZero(bits);
+}
+inline bool IsNegative(const Extended& value) {
+  const elementary::Binary80 bits = elementary::BitsOf(value);
+  return bits.IsNegative() && !elementary::IsZero(bits);
+}
+/// @}
+
 /// Raises rsValue01 unless 0 < p < 1; NaN passes.
-inline void RequireProbability(Extended p) {
-  if (p <= 0 || p >= 1) RaiseMathError(rsValue01);
+inline void RequireProbability(const Extended& p) {
+  const elementary::Binary80 bits = elementary::BitsOf(p);
+  const bool is_inside =
+      !bits.IsNegative() && bits.Exponent() < elementary::kExponentBias && bits.significand != 0;
+  if (!is_inside && !elementary::IsNaN(bits)) RaiseMathError(rsValue01);
 }
 
 /// Raises the message unless the parameter is positive, finite and not subnormal, so that it can be
 /// divided by; NaN passes.
-inline void RequirePositive(Extended parameter, MessageId message) {
+inline void RequirePositive(const Extended& parameter, MessageId message) {
   const elementary::Binary80 bits = elementary::BitsOf(parameter);
   const bool is_positive = elementary::IsNormal(bits) && !bits.IsNegative();
   if (!is_positive && !elementary::IsNaN(bits)) RaiseMathError(message);
 }
 
 /// Raises EInvalidOp for an infinite parameter.
-inline void RequireFinite(Extended parameter) {
+inline void RequireFinite(const Extended& parameter) {
   if (IsInfinite(parameter)) throw EInvalidOp();
 }
 

@@ -15,7 +15,7 @@ Tails StandardNormalTails(const special::ExtendedPair& z) {
   return StandardNormalTails(Wide(z));
 }
 
-Wide WideNormalQuantile(Tail tail, Extended p) {
+Wide WideNormalQuantile(Tail tail, const Extended& p) {
   const Wide upper = special::NormalUpperQuantile(Wide(p));
   return tail == Tail::kUpper ? upper : -upper;
 }

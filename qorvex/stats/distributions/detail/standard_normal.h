@@ -8,7 +8,7 @@
 namespace qorvex::distributions {
 
 /// The checks of the parameters.
-inline void RequireNormal(Extended mean, Extended std_dev) {
+inline void RequireNormal(const Extended& mean, const Extended& std_dev) {
   RequirePositive(std_dev, rsStdDev);
   RequireFinite(mean);
 }
@@ -21,7 +21,7 @@ inline void RequireNormal(Extended mean, Extended std_dev) {
 
 /// @{
 /// The z with the given tail, 0 < p < 1; relative error of the wide one below 2^-82.
-[[nodiscard]] Wide WideNormalQuantile(Tail tail, Extended p);
+[[nodiscard]] Wide WideNormalQuantile(Tail tail, const Extended& p);
 [[nodiscard]] inline Extended StandardNormalQuantile(Tail tail, Extended p) {
   return Nearest(WideNormalQuantile(tail, p));
 }

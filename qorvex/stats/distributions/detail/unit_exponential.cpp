@@ -34,8 +34,9 @@ Tails UnitExponentialTailsAtLog(const Wide& ln_t) {
   return UnitExponentialTails(PointOfLog(ln_t));
 }
 
-Wide UnitExponentialQuantile(Tail tail, Extended p) {
-  return -(tail == Tail::kUpper ? elementary::LogWide(p) : elementary::Log1pWide(-p));
+Wide UnitExponentialQuantile(Tail tail, const Extended& p) {
+  return -(tail == Tail::kUpper ? elementary::LogWide(Wide(p))
+                                : elementary::Log1pWide(-Wide(p)));
 }
 
 }  // namespace qorvex::distributions

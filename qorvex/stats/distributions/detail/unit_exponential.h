@@ -17,7 +17,7 @@ using elementary::Wide;
 [[nodiscard]] Tails UnitExponentialTailsAtLog(const Wide& ln_t);
 
 /// The point with the given tail, 0 < p < 1.
-[[nodiscard]] Wide UnitExponentialQuantile(Tail tail, Extended p);
+[[nodiscard]] Wide UnitExponentialQuantile(Tail tail, const Extended& p);
 
 /// t = e^ln_t where the tails can tell it from 0 and infinity: for |ln_t| < 2^15. Otherwise 0, or a
 /// number whose exponential is beyond all bounds.
