@@ -15,7 +15,7 @@ namespace qorvex {
 /// - Support: 0 <= x <= 1.
 /// - Errors: rsValueGZero unless both shapes are positive; EInvalidOp for one outside 1e-18 to
 /// 1e15.
-/// - Accuracy: tails are off by up to fifty units where a shape is below 0.1, and by a hundred for
+/// - Accuracy: tails are off by up to a dozen units where a shape is below 0.1, and by a hundred for
 ///   shapes of 1e14. Quantiles of shapes below 0.1 are off by up to 1 / shape units, because that
 ///   is how much the last bit of p moves them.
 /// - Cost: shapes above a million take longer, up to some ten milliseconds.

@@ -18,9 +18,9 @@
 /// - Mean, Variance and Skewness are NaN where they do not exist or depend on a parameter that is
 ///   NaN, and infinite where they are infinite or exceed the format. Mode is the point of the
 ///   greatest density or probability, the least of several.
-/// - Probabilities are off by a dozen units of the 64-bit mantissa at most, in the farthest tail
-///   too, unless the class says otherwise; quantiles by a few. docs/accuracy.md has the measured
-///   figures.
+/// - Probabilities and quantiles are off by at most five units of the 64-bit mantissa, in the
+///   farthest tail too, unless the class says otherwise; most densities are the nearest numbers.
+///   docs/accuracy.md has the measured figures.
 /// - A probability costs some hundred to thousand arithmetic operations, a quantile three to six
 ///   times as much, whatever the parameters, unless the class says otherwise. The quantile of a
 ///   count takes about as many tails as the standard deviation has binary digits, and a few more in

@@ -17,7 +17,7 @@ namespace qorvex {
 /// - Support: x >= 0.
 /// - Errors: rsInvalidValue unless h > 0; rsValueGZero unless scale > 0; EInvalidOp for h outside
 ///   1e-18 to 1e15, and for b outside -1e15 to 1e15.
-/// - Accuracy: quantiles are off by up to 20 units for small h. Skewness loses digits near 0.
+/// - Accuracy: quantiles are off by up to 20 units for very small h. Skewness loses digits near 0.
 /// - Cost: a tail twice 64 exponentials, twice that for one above 0.6, and more where h is small:
 ///   twice 700 for h = 1e-18.
 /// - Method: Gauss-Legendre quadrature (Davis and Rabinowitz 1984, "Methods of numerical
