@@ -142,13 +142,14 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   if (asymptote < exact_below) return asymptote;
   const Extended start = Start(tail, p, asymptote);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
-  return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
+  const auto at = [this](Extended x) {
     const Point point{ExtendedPair(x)};
     const Scaled density = LogDensity(point);
     return TailsAndDensity{
         IsUniform(point) ? UniformGammaTails(shape_, x) : TailsFrom(point, density), density,
         shape_ - x};
-  });
+  };
+  return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, at).Value();
 }
 
 Extended RegularisedGamma::Start(Tail tail, Extended p, Extended asymptote) const {
