@@ -127,6 +127,8 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
     if (a < 1 && density.Value() * share > most) return SmallTails(Wide(a), Load(point.x_));
     return {Tail::kLower, density * share};
   }
+  // Beyond the format nothing is left above.
+  if (std::isinf(x)) return {Tail::kUpper, 0};
   // In 64 bits x + 1 - a would lose digits.
   const Extended first = Nearest(Load(point.x_) + kOne - Wide(a));
   return {Tail::kUpper, density * (1 / ContinuedFraction(UpperFractionTerms(a, first)))};
