@@ -91,6 +91,45 @@ class ClosedForm:
         return [x for x in points if mpf(10) ** -4900 < abs(x) < mpf(10) ** 4900]
 
 
+class LogNormal(ClosedForm):
+    columns = ["log_mean", "log_std_dev"]
+    parameters = [(0, 1), (0.5, 2), (-3, 0.1), (1000, 30), (7, 1e-9), (-2, 150)]
+
+    def density(self, log_mean, log_std_dev, x):
+        return mp.npdf((mp.log(x) - log_mean) / log_std_dev) / (x * log_std_dev)
+
+    def tails(self, log_mean, log_std_dev, x):
+        t = (mp.log(x) - log_mean) / (log_std_dev * mp.sqrt(2))
+        return mp.erfc(-t) / 2, mp.erfc(t) / 2
+
+    def quantile(self, log_mean, log_std_dev, p, q):
+        """By Newton's method for the logarithm of the smaller tail of the standard normal distribution."""
+        if p == q:
+            return mp.exp(log_mean)
+        log_tail = mp.log(min(p, q))
+        z = mp.sqrt(max(2 * -log_tail - mp.log(-4 * mp.pi * log_tail), mpf(1) / 4))
+        while True:
+            tail = mp.erfc(z / mp.sqrt(2)) / 2
+            step = (mp.log(tail) - log_tail) * tail / mp.npdf(z)
+            z += step
+            if abs(step) <= abs(z) * mpf(10) ** (6 - mp.dps):
+                return mp.exp(log_mean + log_std_dev * (-z if p < q else z))
+
+
+class Exponential(ClosedForm):
+    columns = ["mean"]
+    parameters = [(1,), (2,), (0.3,), (1e-300,), (mpf(10) ** 4000,), (1 / mpf(3),)]
+
+    def density(self, mean, x):
+        return mp.exp(-x / mean) / mean
+
+    def tails(self, mean, x):
+        return exponential_tails(x / mean)
+
+    def quantile(self, mean, p, q):
+        return -mean * log_complement(p, q)
+
+
 class Weibull(ClosedForm):
     columns = ["shape", "scale"]
     parameters = [(1, 1), (2.5, 3), (0.3, 1e-7), (30, 2), (1e5, 1e3), (-1, 1), (-3.5, 0.2), (-0.02, 4), (-1e7, 7)]
@@ -358,6 +397,8 @@ class GeneralisedInverseGaussian(Quadrature):
 
 FAMILIES = {
     "uniform": Uniform(),
+    "log_normal": LogNormal(),
+    "exponential": Exponential(),
     "weibull": Weibull(),
     "cauchy": Cauchy(),
     "negative_binomial": NegativeBinomial(),

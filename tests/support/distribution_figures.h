@@ -76,7 +76,7 @@ inline std::vector<Figure> DistributionFigures() {
         std::vector<Extended> parameters;
         for (const std::string& name : columns) parameters.push_back(row(name));
         Extended point = row(point_column);
-        if (family == "exponential") {
+        if (!columns.empty() && columns[0] == "rate_dec") {
           parameters[0] = MeanOf(row);
           point = PointOf(row);
         }

@@ -14,7 +14,7 @@ namespace qorvex {
 /// - Support: all real numbers.
 /// - Mean, Variance and Skewness do not exist: NaN.
 /// - Errors: rsValueGZero unless scale > 0; EInvalidOp for an infinite location.
-/// - Method: closed forms, with z in 125 bits.
+/// - Method: closed forms in 128 bits, rounded once.
 class QORVEX_EXPORT CauchyDistribution {
  public:
   /// The type of the points.

@@ -13,7 +13,7 @@ namespace qorvex {
 /// - Density: exp(-x / m) / m, with mean m.
 /// - Support: x >= 0.
 /// - Errors: rsExpDistInvalid unless mean > 0.
-/// - Method: closed forms, with x / m in 125 bits.
+/// - Method: closed forms in 128 bits, rounded once.
 class QORVEX_EXPORT ExponentialDistribution {
  public:
   /// The type of the points.

@@ -14,7 +14,7 @@ namespace qorvex {
 ///   exp(-e^-z).
 /// - Support: all real numbers.
 /// - Errors: rsValueGZero unless scale > 0; EInvalidOp for an infinite location.
-/// - Method: closed forms, with z and e^-z in 125 bits.
+/// - Method: closed forms in 128 bits, rounded once.
 class QORVEX_EXPORT GumbelDistribution {
  public:
   /// The type of the points.

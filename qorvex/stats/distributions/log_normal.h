@@ -14,7 +14,7 @@ namespace qorvex {
 ///   deviation s of ln X.
 /// - Support: x >= 0.
 /// - Errors: rsStdDev unless std_dev > 0; EInvalidOp for an infinite mean.
-/// - Method: that of NormalDistribution at ln x, which has 95 bits.
+/// - Method: that of NormalDistribution at ln x.
 class QORVEX_EXPORT LogNormalDistribution {
  public:
   /// The type of the points.

@@ -13,7 +13,7 @@ namespace qorvex {
 /// - Density: e^-z / (s (1 + e^-z)^2) for z = (x - m) / s, with location m and scale s.
 /// - Support: all real numbers.
 /// - Errors: rsValueGZero unless scale > 0; EInvalidOp for an infinite location.
-/// - Method: closed forms, with z in 125 bits.
+/// - Method: closed forms in 128 bits, rounded once.
 class QORVEX_EXPORT LogisticDistribution {
  public:
   /// The type of the points.

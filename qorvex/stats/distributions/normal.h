@@ -14,7 +14,8 @@ namespace qorvex {
 ///   deviation s.
 /// - Support: all real numbers.
 /// - Errors: rsStdDev unless std_dev > 0; EInvalidOp for an infinite mean.
-/// - Method: erfc and its inverse by polynomials on pieces. All figures are computed in 128 bits and
+/// - Method: erfc and its inverse by polynomials on pieces. All figures are computed in 128 bits
+/// and
 ///   rounded once.
 class QORVEX_EXPORT NormalDistribution {
  public:

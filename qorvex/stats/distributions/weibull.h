@@ -19,7 +19,7 @@ namespace qorvex {
 /// - Accuracy: quantiles for shapes below 1e-10 in size are off by about 2^-95 / |a| of themselves.
 ///   Skewness loses about as many digits as the shape has before the point, and about four for
 ///   shapes from -32 to -10.
-/// - Method: closed forms, with t in 125 bits.
+/// - Method: closed forms in 128 bits, rounded once.
 class QORVEX_EXPORT WeibullDistribution {
  public:
   /// The type of the points.

@@ -26,8 +26,7 @@ Wide CentralQuantile(UInt128 q, bool negative) {
   // 64 q^2 has the number of the piece in front of the point.
   const UInt128 square = MultiplyHigh(q, q);
   const auto number = static_cast<std::size_t>(High(square) >> 58);
-  return NormalisedWide(q, -1, negative) *
-         NormalisedWide(kPieces[number].At(~(square << 6)), 1);
+  return NormalisedWide(q, -1, negative) * NormalisedWide(kPieces[number].At(~(square << 6)), 1);
 }
 
 // The quantile for an upper tail of e^-L, 2 <= L < 2^14.

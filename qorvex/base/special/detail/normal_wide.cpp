@@ -24,8 +24,12 @@ Wide NormalDensityWide(const Wide& z) {
   constexpr std::int64_t beyond = 20;
   if (z.exponent >= beyond) return {};
   const Wide exponent = Exponent(z);
-  return kOneOverRoot2Pi * (exponent.exponent < 14 ? elementary::ExpOf(exponent)
-                                                   : elementary::ExpWide(exponent));
+  return kOneOverRoot2Pi *
+         (exponent.exponent < 14 ? elementary::ExpOf(exponent) : elementary::ExpWide(exponent));
+}
+
+Scaled NormalDensity(const Wide& z) {
+  return MakeScaled(kOneOverRoot2Pi, Exponent(z));
 }
 
 // As erfc(t) / 2 for t = |z| / sqrt(2).

@@ -14,6 +14,8 @@ inline constexpr elementary::Wide kRootOfHalf{
 
 /// e^(-z^2 / 2) / sqrt(2 pi), relative error below 2^-90; 0 for |z| >= 2^20.
 [[nodiscard]] QORVEX_EXPORT elementary::Wide NormalDensityWide(const elementary::Wide& z);
+/// The same for any z.
+[[nodiscard]] QORVEX_EXPORT Scaled NormalDensity(const elementary::Wide& z);
 
 /// The probability above |z|; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Scaled NormalFarTail(const elementary::Wide& z);

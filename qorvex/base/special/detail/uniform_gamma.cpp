@@ -5,7 +5,7 @@
 #include <cstddef>
 
 #include "qorvex/base/elementary.h"
-#include "qorvex/base/special/normal_tail.h"
+#include "qorvex/base/special/detail/normal_wide.h"
 
 namespace qorvex::special {
 
@@ -78,9 +78,10 @@ Tails UniformGammaTails(Extended shape, ExtendedPair x) {
                             a * (Polynomial(kC2, eta) +
                                  a * (Polynomial(kC3, eta) +
                                       a * (Polynomial(kC4, eta) + a * Polynomial(kC5, eta)))));
-  const Scaled normal = NormalUpperTail(z);
-  const Scaled density = NormalDensity(z, std::sqrt(shape));
-  const Extended correction = side * sum * (density / normal).Value();
+  const elementary::Wide wide_z(z);
+  const Scaled normal = NormalFarTail(wide_z);
+  const Scaled density = NormalDensity(wide_z);
+  const Extended correction = side * sum * (density / normal).Value() / std::sqrt(shape);
   return {tail, normal * Scaled(1 + correction)};
 }
 

@@ -14,7 +14,8 @@ using elementary::Wide;
 /// no division.
 [[nodiscard]] inline Wide Ratio(const Wide& x, const Extended& scale) {
   const Wide divisor(scale);
-  if (elementary::High(divisor.mantissa) == elementary::kTopBit) return ScaledBy(x, -divisor.exponent);
+  if (elementary::High(divisor.mantissa) == elementary::kTopBit)
+    return ScaledBy(x, -divisor.exponent);
   return x.IsZero() ? x : QuickQuotient(x, divisor);
 }
 

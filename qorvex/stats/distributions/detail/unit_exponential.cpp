@@ -29,14 +29,12 @@ Wide PointOfLog(const Wide& ln_t) {
 
 Tails UnitExponentialTailsAtLog(const Wide& ln_t) {
   // So far down the lower tail is t.
-  if (ln_t.negative && ln_t.exponent >= kFarExponent)
-    return {Tail::kLower, MakeScaled(kOne, ln_t)};
+  if (ln_t.negative && ln_t.exponent >= kFarExponent) return {Tail::kLower, MakeScaled(kOne, ln_t)};
   return UnitExponentialTails(PointOfLog(ln_t));
 }
 
 Wide UnitExponentialQuantile(Tail tail, const Extended& p) {
-  return -(tail == Tail::kUpper ? elementary::LogWide(Wide(p))
-                                : elementary::Log1pWide(-Wide(p)));
+  return -(tail == Tail::kUpper ? elementary::LogWide(Wide(p)) : elementary::Log1pWide(-Wide(p)));
 }
 
 }  // namespace qorvex::distributions
