@@ -127,6 +127,8 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
     if (a < 1 && density.Value() * share > most) return SmallTails(Wide(a), Load(point.x_));
     return {Tail::kLower, density * share};
   }
+  // Beyond the format nothing is left above.
+  if (std::isinf(x)) return {Tail::kUpper, 0};
   // In 64 bits x + 1 - a would lose digits.
   const Extended first = Nearest(Load(point.x_) + kOne - Wide(a));
   return {Tail::kUpper, density * (1 / ContinuedFraction(UpperFractionTerms(a, first)))};
@@ -142,13 +144,14 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
   if (asymptote < exact_below) return asymptote;
   const Extended start = Start(tail, p, asymptote);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
-  return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, [this](Extended x) {
+  const auto at = [this](Extended x) {
     const Point point{ExtendedPair(x)};
     const Scaled density = LogDensity(point);
     return TailsAndDensity{
         IsUniform(point) ? UniformGammaTails(shape_, x) : TailsFrom(point, density), density,
         shape_ - x};
-  });
+  };
+  return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, at).Value();
 }
 
 Extended RegularisedGamma::Start(Tail tail, Extended p, Extended asymptote) const {

@@ -171,12 +171,12 @@ Extended GeneralisedInverseGaussianDistribution::Quantile(Tail tail, Extended p)
   const Extended distance = DescentFrom(mode_, tail).Reach(-Log(p));
   const Extended start = mode_ * Exp(tail == Tail::kLower ? -distance : distance);
   constexpr Extended largest_step = 1;
-  const Extended x = special::SolveTail(tail, p, start, largest_step, [this](Extended at) {
+  const Scaled x = special::SolveTail(tail, p, start, largest_step, [this](Extended at) {
     const ExtendedPair fall = FallAt(at);
     return special::TailsAndDensity{TailsFrom(at, fall), Scaled{1 / Mass(), -fall},
                                     -DescentFrom(at, Tail::kUpper).slope};
   });
-  return CheckedFinite(x * scale_);
+  return CheckedFinite((x * scale_).Value());
 }
 
 Extended GeneralisedInverseGaussianDistribution::MomentAboutMode(int power, Extended shift) const {

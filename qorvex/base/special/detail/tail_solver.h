@@ -45,8 +45,9 @@ inline Extended RoughNormalQuantile(Extended p) {
 /// concave: a step from outside the root cannot pass it, and a step from inside ends outside. So
 /// the iteration converges from every start. A step outwards is limited to largest_step, for a tail
 /// that falls so steeply that the way back would be long.
+/// The last step is added without rounding.
 template <class Distribution>
-Extended SolveTail(Tail tail, Extended p, Extended start, Extended largest_step, Distribution at) {
+Scaled SolveTail(Tail tail, Extended p, Extended start, Extended largest_step, Distribution at) {
   const Extended ln_p = Log(p);
   const Extended outwards = tail == Tail::kLower ? -1 : 1;
   Extended x = std::max(start, std::numeric_limits<Extended>::min());
@@ -62,10 +63,11 @@ Extended SolveTail(Tail tail, Extended p, Extended start, Extended largest_step,
     if (std::fabs(excess) < kNewtonThreshold)
       step /= 1 + step * (here.slope + outwards * hazard) / 2;
     if (excess > 0) step = outwards * std::min(std::fabs(step), largest_step);
-    x += x * Expm1(step);
-    if (!(x > 0 && x <= std::numeric_limits<Extended>::max())) break;
+    const Extended change = x * Expm1(step);
     if (std::fabs(excess) < kNewtonThreshold && std::fabs(excess * excess * step) < kTolerance)
-      break;
+      return Scaled(x) + change;
+    x += change;
+    if (!(x > 0 && x <= std::numeric_limits<Extended>::max())) break;
   }
   return x;
 }
