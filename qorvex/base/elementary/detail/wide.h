@@ -39,7 +39,8 @@ constexpr UInt128 MultiplyHigh(UInt128 a, std::uint64_t b) {
   return Multiply(High(a), b) + MultiplyHigh(Low(a), b);
 }
 
-/// a b / 2^128, too small by less than 2 units: the product of the low words is left out.
+/// a b / 2^128, too small by less than 3 units: the product of the low words is left out,
+/// and two others are cut off.
 constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
 }
@@ -113,7 +114,7 @@ inline Wide::Wide(Extended x) {
   *this = WideOf(Normalise(bits), bits.IsNegative());
 }
 
-/// The product; relative error below 2^-125.
+/// The product; relative error below 2^-124.
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
   if (product == 0) return {};
