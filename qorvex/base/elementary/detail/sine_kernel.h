@@ -11,10 +11,10 @@
 // sin h = h (1 - h^2/6 + h^4 (1/120 - h^2/5040 + h^4/362880)). The terms from h^4 on have 64 bits.
 // The scales are such that hardly anything is shifted: shifts of 128 bits cost more than products.
 //
-// Error: 2^-104.4 from the words of h^4 in 1 - cos h, and 2^-106 in the bracket of sin h, relative
-// to the result. All else, r included, is cut off below 2^-122, which is 2^-112 of a sine above
-// 2^-10. A smaller sine is r times the bracket, without a table. In all, the relative error is
-// below 2^-103.
+// Error: 2^-104.4 from the words of h^4 in 1 - cos h, which counts up to twice, as sin a may be
+// twice the result, and 2^-106 in the bracket of sin h. All else, r included, is cut off below
+// 2^-122, which is 2^-112 of a sine above 2^-10. A smaller sine is r times the bracket, without a
+// table. In all, the relative error is below 2^-103.
 
 #include "qorvex/base/elementary/detail/wide.h"
 
