@@ -19,8 +19,6 @@ alignas(64) constexpr MonotonePiece<91> kPieces[] = {
 #include "qorvex/base/elementary/detail/tables/erfc_pieces.inc"
 };
 
-constexpr Wide kOne{UInt128{1} << 127, 0};
-
 // ScaledHalfErfcWide from 8 on.
 [[gnu::noinline]] Wide FarScaledHalfErfc(const Wide& x) {
   const Wide reciprocal = QuickQuotient(kOne, {x.mantissa, x.exponent});

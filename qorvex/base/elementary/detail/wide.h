@@ -89,6 +89,10 @@ struct Wide {
   constexpr Wide operator-() const { return {mantissa, exponent, !negative}; }
 };
 
+inline constexpr Wide kOne{UInt128{1} << 127, 0};
+/// ln 2, cut off.
+inline constexpr Wide kLn2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
+
 /// mantissa 2^(exponent - 127) for any mantissa.
 constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
   if (mantissa == 0) return {};
