@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Makes the tables of the exponential functions: exp_high.inc and exp_low.inc.
 
 usage: exp_tables.py [--write]
@@ -71,6 +71,8 @@ run(
             "kLn2Step": words(CUT_STEP),
             "kExpCoefficients": [C3, C4, C5],
         },
+        "wide.h": {"kLn2": words(int(mp.floor(mp.ldexp(LN2, 128))))},
+        "wide256.cpp": {"kLn2Of256": words(int(mp.floor(mp.ldexp(LN2, 256))), 4)[::-1]},
         "../expm1.cpp": {"kEvenFactorials": FACTORIALS[2], "kOddFactorials": FACTORIALS[3]},
     },
 )

@@ -86,4 +86,8 @@ run(
             words(fixed(mp.sin(i * STEP), 127)) + words(fixed(mp.cos(i * STEP), 127)) for i in range(LAST + 1)
         ]
     },
+    {
+        "angle.h": {"kHalfPi": words(int(mp.floor(mp.ldexp(mp.pi, 126))))},
+        "wide256.cpp": {"kPi256": words(int(mp.floor(mp.ldexp(mp.pi, 254))), 4)[::-1]},
+    },
 )
