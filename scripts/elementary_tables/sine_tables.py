@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Makes the table of sin and cos of i/512 up to pi/4, at scale 2^127, and checks the series of the sine and the tangent.
+"""Makes the table of sin and cos of i/512 up to pi/4, at scale 2^127; checks the series of the sine and the tangent.
 """
 
 import random
