@@ -12,6 +12,7 @@
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/elementary.h"
+#include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/fitted_text.h"
 #include "qorvex/base/fractions.h"

@@ -1,3 +1,4 @@
+#!/usr/bin/python3
 """x^(-1/3) on [1, 2) in 64 pieces, for the first 30 bits of a cube root.
 
 A piece of width 2^-6 is a polynomial of degree 3 in the distance u from its right end, in units of the width: so all

@@ -1,3 +1,4 @@
+#!/usr/bin/python3
 """The extended numbers closest to multiples of pi/2, over all exponents.
 
 For x = m 2^(e - 63), m < 2^64, the distance of x 2/pi from an integer is smallest where m is the denominator of a

@@ -36,6 +36,12 @@ def words(integer, count=2):
     return [integer >> 64 * i & (1 << 64) - 1 for i in reversed(range(count))]
 
 
+def multiply_high(a, b):
+    """a b / 2^128, without the product of the low words, as in C++."""
+    mask = (1 << 64) - 1
+    return (a >> 64) * (b >> 64) + ((a >> 64) * (b & mask) >> 64) + ((a & mask) * (b >> 64) >> 64)
+
+
 def text_of(rows, script):
     """The text of a table, with rows of one word side by side."""
     lines = [f"// Made by scripts/elementary_tables/{Path(script).name}."]

@@ -6,7 +6,7 @@
     erf(x) / (8 x)            in x^2      from 0 to 1/4, one piece
 """
 
-from common import mp, mpf, run
+from common import mp, mpf, run, words
 from monotone_pieces import row_of
 
 NARROW_SCALE = 91
@@ -39,7 +39,8 @@ def main():
         rows = [row_of(scaled_erfc, (i + mpf(1) / 2) * width, width, NARROW_SCALE, 91) for i in range(128)]
         rows += [row_of(far_erfc, (i + mpf(1) / 2) * width, width, NARROW_SCALE, 91) for i in range(16)]
         rows.append(row_of(eighth_of_slope, mpf(1) / 8, mpf(1) / 4, NARROW_SCALE, 91))
-    run(__file__, {"erfc_pieces": rows})
+    two_over_root_pi = words(int(mp.floor(mp.ldexp(2 / mp.sqrt(mp.pi), 255))), 4)
+    run(__file__, {"erfc_pieces": rows}, {"../erf.cpp": {"kTwoOverRootPi": two_over_root_pi[::-1]}})
 
 
 main()

@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """Makes the tables of the exponential functions: exp_high.inc and exp_low.inc.
 
 usage: exp_tables.py [--write]
@@ -42,11 +42,11 @@ assert max(word, square, inner, outer, tail) < 1 << 64
 # The errors of the tail by cutting off: of the word, of the square, of the sums and of the product.
 cut = A * (mpf(2) ** -80 * 2 * A / 6 + mpf(2) ** -96 / 6 + mpf(2) ** -66 * 3 * A**2 + mpf(2) ** -98)
 assert cut < mpf(2) ** -112.3, mp.log(cut, 2)
-# What STEP loses, once for each step, and units of 2^-127.
+# What STEP loses, once for each step, and 8 units of 2^-127 for the tables and the products.
 CUT_STEP = int(mp.floor(mp.ldexp(STEP, 144)))
 reduction = LARGEST_X / STEP * (STEP - mp.ldexp(CUT_STEP, -144))
 assert reduction < mpf(2) ** -115.4, mp.log(reduction, 2)
-total = reduction + worst + cut + 4 * mpf(2) ** -127
+total = reduction + worst + cut + 8 * mpf(2) ** -127
 assert total < mpf(2) ** -111, mp.log(total, 2)
 
 HIGH = [fixed(mpf(2) ** (mpf(i) / 256), 127) for i in range(256)]
@@ -71,6 +71,8 @@ run(
             "kLn2Step": words(CUT_STEP),
             "kExpCoefficients": [C3, C4, C5],
         },
+        "wide.h": {"kLn2": words(int(mp.floor(mp.ldexp(LN2, 128))))},
+        "wide256.cpp": {"kLn2Of256": words(int(mp.floor(mp.ldexp(LN2, 256))), 4)[::-1]},
         "../expm1.cpp": {"kEvenFactorials": FACTORIALS[2], "kOddFactorials": FACTORIALS[3]},
     },
 )

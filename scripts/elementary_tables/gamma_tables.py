@@ -1,4 +1,4 @@
-#!/usr/bin/env python3
+#!/usr/bin/python3
 """The tables of qorvex/base/special/detail/gamma_wide.cpp.
 
 gamma      Q(u) = (Gamma(x) - 1) / ((x - 1) (x - 2)) for u = 2 - x in [0, 1], in pieces of 1/64: the coefficients of a

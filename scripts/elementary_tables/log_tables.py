@@ -10,7 +10,7 @@ table -1 and BIAS times -log 2 are added, modulo 2^128: so C++ can add m c r and
 
 import random
 
-from common import fixed, mp, mpf, run, words
+from common import fixed, mp, mpf, multiply_high, run, words
 
 SCALE = 112
 BIAS = 1 << 15
@@ -31,31 +31,26 @@ LOG_FIRST = [-fixed(mp.log(mpf(c) / 2048), SCALE) - (1 << SCALE) - BIAS * LN2 & 
 LOG_SECOND = [-fixed(mp.log(mpf(r) / 2**20), SCALE) for r in SECOND]
 
 
-def multiply_high(a, b):
-    """Two words, as in C++."""
+def multiply_words(a, b):
+    """The top word of a product."""
     return a * b >> 64
-
-
-def multiply_high_wide(a, b):
-    """Four words, without the product of the low ones, as in C++."""
-    return (a >> 64) * (b >> 64) + multiply_high(a >> 64, b & MASK64) + multiply_high(a & MASK64, b >> 64)
 
 
 def log(m, exponent):
     """What C++ computes for m 2^(exponent - 63), at scale 2^112; asserts the ranges on the way."""
     c = FIRST[m >> 55 & 255] << 18
-    j = (multiply_high(m, c) >> 12) - 65536
+    j = (multiply_words(m, c) >> 12) - 65536
     assert 0 <= j < ROWS_OF_SECOND
     product = m * (c * SECOND[j])
     z = (product << 31) - (1 << 143)
     assert 0 <= z < 1 << 128, "z is below 2^-15"
     high, low = z >> 64, z & MASK64
     square = high * high
-    half_square = (square >> 47) + (multiply_high(high, low) >> 46)
-    q = THIRD - (high >> 17) + multiply_high(square >> 64, FIFTH - multiply_high(high, SIXTH))
-    left, right = 2 * (square >> 64) + 3, 4 * multiply_high(high, q) + 3
+    half_square = (square >> 47) + (multiply_words(high, low) >> 46)
+    q = THIRD - (high >> 17) + multiply_words(square >> 64, FIFTH - multiply_words(high, SIXTH))
+    left, right = 2 * (square >> 64) + 3, 4 * multiply_words(high, q) + 3
     assert left < 1 << 64 and right < 1 << 64
-    cube = multiply_high(left, right)
+    cube = multiply_words(left, right)
     total = (exponent + BIAS) * LN2 + LOG_FIRST[m >> 55 & 255] + LOG_SECOND[j] + product - half_square + cube & MASK128
     return total - (1 << 128 if total >> 127 else 0)
 
@@ -68,22 +63,22 @@ SIXTH = (1 << 19) // 6
 def log_near_1(mantissa, exponent, negative):
     """What C++ computes for ln(1 + t), where |t| = mantissa 2^(exponent - 127) < 2^-12, relative to |t| 2^-127."""
     z = mantissa >> -13 - exponent if exponent > -141 else 0
-    square = multiply_high_wide(z, z)
+    square = multiply_high(z, z)
     z_top, square_top = z >> 64, square >> 64
 
     def odd(factor):
-        value = multiply_high(z_top, factor) >> 12
+        value = multiply_words(z_top, factor) >> 12
         return -value if negative else value
 
     from_fourth = MASK64 // 4 - odd(MASK64 // 9 * 2)
-    from_second = MASK64 // 3 - odd(MASK64 // 7 * 2) + (multiply_high(square_top, from_fourth) >> 24)
-    q = MASK64 // 2 - odd(MASK64 // 5 * 2) + (multiply_high(square_top, from_second) >> 24)
+    from_second = MASK64 // 3 - odd(MASK64 // 7 * 2) + (multiply_words(square_top, from_fourth) >> 24)
+    q = MASK64 // 2 - odd(MASK64 // 5 * 2) + (multiply_words(square_top, from_second) >> 24)
     assert 0 <= from_fourth <= MASK64 and 0 <= from_second <= MASK64 and 0 <= q <= MASK64
-    odd_part = (z >> 14) + (square_top * multiply_high(z_top, q) >> 38)
-    even_part = (1 << 127) + (multiply_high_wide(square, MASK128 // 3) >> 25)
+    odd_part = (z >> 14) + (square_top * multiply_words(z_top, q) >> 38)
+    even_part = (1 << 127) + (multiply_high(square, MASK128 // 3) >> 25)
     w = even_part + odd_part if negative else even_part - odd_part
     assert 1 << 126 < w < 1 << 128
-    return mp.ldexp(multiply_high_wide(mantissa, w), 1) / mantissa
+    return mp.ldexp(multiply_high(mantissa, w), 1) / mantissa
 
 
 def check_by_tables():

@@ -6,11 +6,10 @@ A row has the absolute values of 16 coefficients about the middle of a piece, th
 
 import random
 
-from common import fixed, mp, mpf, words
+from common import fixed, mp, mpf, multiply_high, words
 
 TERMS = 16
 WIDE_TERMS = 6
-MASK = (1 << 64) - 1
 
 
 def interpolant(f, middle, width):
@@ -24,11 +23,6 @@ def interpolant(f, middle, width):
         total = [a + weight * b for a, b in zip(total, current)]
         previous, current = current, [2 * a - b for a, b in zip([mpf(0)] + current[:-1], previous)]
     return [c * 2**k for k, c in enumerate(total)]
-
-
-def multiply_high(a, b):
-    """As in C++: without the product of the low words."""
-    return (a >> 64) * (b >> 64) + ((a >> 64) * (b & MASK) >> 64) + ((a & MASK) * (b >> 64) >> 64)
 
 
 def evaluate(row, t, narrow_scale):

@@ -1,3 +1,4 @@
+#!/usr/bin/python3
 """The bits of 2/pi from which the trigonometric functions take a window.
 
 Two words of zeros come first: the window of the smallest argument that is reduced begins there.

@@ -19,8 +19,6 @@ namespace {
 // Four times the error of the first stage, 2^-97 of the result.
 constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 33;
 
-constexpr Wide kOne{UInt128{1} << 127, 0};
-
 [[gnu::noinline]] Binary80 WithoutKernel(Binary80 x) {
   if (IsNaN(x)) return QuietNaN();
   if (IsInfinity(x)) return NearestBits(Wide{kHalfPi, 0, x.IsNegative()});

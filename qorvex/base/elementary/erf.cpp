@@ -37,11 +37,11 @@ Wide256 ErfBySeries(const Wide256& x, const Wide256& square) {
 }
 
 // erfc(x) / (2 / sqrt(pi)) for x >= 4: e^(-x^2) / 2 over the continued fraction x + 1/2 / (x + 2/2
-// / (x + 3/2 / (x + ...))). Cutting it after n terms leaves a relative error of about e^(-2 x
-// sqrt(2 n)), which is 2^-216 here. Numerators and denominators of the approximations follow one
-// recurrence.
+// / (x + 3/2 / (x + ...))). Cutting it after this many terms leaves a relative error below 2^-226,
+// the most near x = 14.5 (compared with erfc in 600 bits for x^2 up to 17000). Numerators and
+// denominators of the approximations follow one recurrence.
 Wide256 ErfcByFraction(const Wide256& x, const Wide256& square) {
-  const std::int64_t terms = 2800 / (NearestInteger(square)) + 30;
+  const std::int64_t terms = 4000 / NearestInteger(square) + 30;
   Wide256 numerator = 1;
   Wide256 denominator = x;
   for (std::int64_t n = terms; n > 0; --n) {
@@ -53,8 +53,8 @@ Wide256 ErfcByFraction(const Wide256& x, const Wide256& square) {
   return ScaledBy(Exp(-square) * numerator / denominator, -1);
 }
 
-// erf(x), or erfc(x) if complementary, for x other than 0. Relative error below 2^-205: where 1 is
-// reduced by erf(4), 26 bits cancel.
+// erf(x), or erfc(x) if complementary, for x other than 0. Relative error below 2^-203: where 1 is
+// reduced by erf(4), 26 bits of the 2^-230 of the exponential cancel.
 [[gnu::noinline]] Wide256 SecondStage(Normalised number, bool negative, bool complementary) {
   const Wide256 x(Wide{Join(number.significand, 0), number.exponent});
   const Wide256 square = x * x;

@@ -24,8 +24,7 @@ using namespace elementary;
   if (exponent < -66) return SignedOne(false);
   // The term after x^2 / 2 is below 2^-152.
   const Wide t(FromBits(x));
-  return CorrectlyRounded(Wide(1.0L) + (t + ScaledBy(t * t, -1)), 32,
-                          [x] { return ExpInDoubt(x); });
+  return CorrectlyRounded(kOne + (t + ScaledBy(t * t, -1)), 32, [x] { return ExpInDoubt(x); });
 }
 
 [[gnu::always_inline]] inline Binary80 ExpKernel(Binary80 x) {
@@ -53,9 +52,8 @@ namespace qorvex::elementary {
 Wide ExpWide(const Wide& x) {
   if (x.exponent < 14) return ExpOf(x);
   // Whole powers of 2 first.
-  constexpr Wide ln2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
   const std::uint64_t twos = MultiplyHigh(High(x.mantissa), kInverseLn2) >> (62 - x.exponent);
-  const Wide rest = Wide{x.mantissa, x.exponent} - NormalisedWide(twos, 127) * ln2;
+  const Wide rest = Wide{x.mantissa, x.exponent} - NormalisedWide(twos, 127) * kLn2;
   const auto k = static_cast<std::int64_t>(twos);
   return x.negative ? ScaledBy(ExpOf(-rest), -k) : ScaledBy(ExpOf(rest), k);
 }

@@ -15,8 +15,6 @@ using namespace elementary;
   return elementary::Exp(Wide256(FromBits(x)) * kLn2Of256);
 }
 
-// ln 2 in units of 2^-128.
-constexpr UInt128 kLn2 = Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af);
 // The relative error is below 2^-111.
 constexpr std::uint64_t kHalfWidth = 1 << 17;
 
@@ -27,7 +25,7 @@ constexpr std::uint64_t kHalfWidth = 1 << 17;
   if (exponent > 0) return x.IsNegative() ? SignedZero(false) : SignedInfinity(false);
   // The midpoints beside 1 are further away.
   if (exponent < -66) return SignedOne(false);
-  return CorrectlyRounded(ExpOf(Wide(FromBits(x)) * Wide(kLn2, -1)), kHalfWidth,
+  return CorrectlyRounded(ExpOf(Wide(FromBits(x)) * kLn2), kHalfWidth,
                           [x] { return Exp2InDoubt(x); });
 }
 
@@ -40,7 +38,7 @@ constexpr std::uint64_t kHalfWidth = 1 << 17;
   const std::uint64_t fraction = ((x.significand << (exponent + 17)) ^ sign) - sign;
   const std::uint64_t whole = (x.significand >> (47 - exponent)) ^ sign;
   const auto k = static_cast<std::int64_t>(whole + (fraction == 0 ? sign & 1 : 0));
-  return CorrectlyRounded(ExpOfReduced({k, MultiplyHigh(kLn2, fraction)}), kHalfWidth,
+  return CorrectlyRounded(ExpOfReduced({k, MultiplyHigh(kLn2.mantissa, fraction)}), kHalfWidth,
                           [x] { return Exp2InDoubt(x); });
 }
 

@@ -42,7 +42,7 @@ constexpr std::uint64_t kEvenFactorials[8] = {
   const auto exponent = static_cast<std::uint64_t>(power.exponent);
   const std::uint64_t distance = (exponent ^ sign) - sign;
   if (distance >= 64) [[unlikely]]
-    return power - Wide(1.0L);
+    return power - kOne;
   // At the scale of the larger of e^x and 1, where 1 fits into the high word; by masks, because
   // signs may be random. A negative difference is turned by complement.
   const UInt128 scaled = ShiftedRight(power.mantissa, static_cast<int>(distance & sign));

@@ -59,11 +59,9 @@ Wide LogWide(Extended x) {
 Wide LogWide(const Wide& x) {
   constexpr std::int64_t most = 20000;
   if (x.exponent > most || x.exponent < -most) {
-    // ln 2, cut off.
-    constexpr Wide ln2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
     const bool negative = x.exponent < 0;
     const auto magnitude = static_cast<std::uint64_t>(negative ? -x.exponent : x.exponent);
-    return LogWide(Wide{x.mantissa, 0}) + NormalisedWide(magnitude, 127, negative) * ln2;
+    return LogWide(Wide{x.mantissa, 0}) + NormalisedWide(magnitude, 127, negative) * kLn2;
   }
   if (IsBeside1(High(x.mantissa), x.exponent)) return LogBeside1(x.mantissa, x.exponent);
   return Floating(LogByTables(x.mantissa, x.exponent));

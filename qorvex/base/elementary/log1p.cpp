@@ -86,7 +86,7 @@ Wide Log1pWide(const Wide& x) {
   if (x.exponent < -12 || x.IsZero()) return Log1pOfSmall(x);
   // 1 - |x| is exact here, which matters beside -1.
   if (x.negative && x.exponent == -1) return LogWide(NormalisedWide(-x.mantissa, -1));
-  return LogWide(Wide(1.0L) + x);
+  return LogWide(kOne + x);
 }
 
 }  // namespace qorvex::elementary

@@ -12,8 +12,9 @@
 // same two places.
 //
 // The second stage takes a power within 2^-200 of a midpoint for the midpoint. Some 2^149 pairs
-// (x, y) have a power that is neither 1 nor out of range when rounded. One in 2^135 of them would
-// be mistaken, and nobody knows how to find one.
+// (x, y) have a power that is neither 1 nor out of range when rounded, and one in 2^135 of them
+// comes that close by chance. So some 2^14 pairs may be rounded to the wrong one of two numbers
+// that are equally near in 200 bits; none is known.
 
 #include <algorithm>
 #include <bit>

@@ -10,10 +10,10 @@ namespace qorvex::elementary {
 
 SineAndCosine SinCosWide(Extended x) {
   const Binary80 bits = BitsOf(x);
-  if (bits.significand == 0) return {{}, Wide(1.0L)};
+  if (bits.significand == 0) return {{}, kOne};
   const Normalised magnitude = Normalise(bits);
   // x^2/2 is below the last bit.
-  if (magnitude.exponent < -64) return {Wide(x), Wide(1.0L)};
+  if (magnitude.exponent < -64) return {Wide(x), kOne};
   const Angle angle = AngleOf(magnitude);
   const SineStep step = StepOf(angle.r);
   const SineSeries series = SeriesOf(step.h);

@@ -30,13 +30,9 @@ namespace {
 // Nearly four times the error of the first stage.
 constexpr std::uint64_t kHalfWidth = std::uint64_t{1} << 32;
 
-constexpr Wide kOne{UInt128{1} << 127, 0};
-
 // tan h / h - 1 at scale 2^128, for h <= 2^-10 at scale 2^127.
 inline UInt128 TangentSeries(UInt128 h) {
-  const UInt128 half_square = MultiplyHighOfSmall(h, h + h);  // h^2/2 at scale 2^128
-  const auto square = Low(ShiftedRight(half_square, 44));     // h^2 at scale 2^83
-  const std::uint64_t fourth = MultiplyHigh(square, square);  // h^4 at scale 2^102
+  const auto [half_square, square, fourth] = PowersOfStep(h);
   const std::uint64_t tail = Ratio(2, 15, 66) + MultiplyHigh(square, Ratio(17, 315, 47)) +
                              MultiplyHigh(fourth, Ratio(62, 2835, 28));
   constexpr std::uint64_t two_thirds = 2 * Ratio(1, 3, 64);

@@ -72,7 +72,7 @@ const FirstStage kFirstStages[] = {
     {"HalfErfcWide",
      elementary::HalfErfcWide,
      HalfErfc,
-     {Exponents(-80, 9, Sign::kPlus), FewBits(-8, 7, Sign::kPlus)},
+     {Exponents(-80, 13, Sign::kPlus), FewBits(-8, 13, Sign::kPlus)},
      true,
      0x1p-90},
 };

@@ -1,10 +1,8 @@
-#include <cstdlib>
+#include "base/elementary/hard_cases.h"
+
 #include <gtest/gtest.h>
 #include <map>
 #include <string>
-
-#include "base/elementary/elementary_functions.h"
-#include "support/table.h"
 
 namespace qorvex::testing {
 
@@ -15,9 +13,7 @@ TEST(ElementaryHardCases, AreNearest) {
   Reference reference;
   std::map<std::string, int> tried;
   for (std::size_t row = 0; row < table.size(); ++row) {
-    const ElementaryFunction& function = FunctionNamed(table.Text(row, "function"));
-    const Arguments arguments{std::strtold(table.Text(row, "x").c_str(), nullptr),
-                              std::strtold(table.Text(row, "y").c_str(), nullptr)};
+    const auto [function, arguments] = HardCase(table, row);
     EXPECT_TRUE(IsSameNumber(function.ours(arguments), reference.Nearest(function, arguments)))
         << function.name << ' ' << Text(arguments);
     const std::string& kind = table.Text(row, "kind");

@@ -3,8 +3,10 @@
 #include <cmath>
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
+#include <vector>
 
-#include "base/elementary/elementary_functions.h"
+#include "base/elementary/hard_cases.h"
 #include "qorvex/base/elementary/detail/binary80.h"
 #include "qorvex/base/elementary/functions.h"
 #include "support/test.h"
@@ -155,25 +157,32 @@ TEST(ElementarySpecialValues, OfPatternsThatArithmeticDoesNotProduce) {
   }
 }
 
+// Random arguments, and the hard cases, which need the second stages.
 TEST(ElementaryFunctions, DoNotDependOnTheControlWord) {
-  // 24 bits to nearest and up, 53 to nearest and down, 64 up and to zero.
-  for (const std::uint16_t bits :
-       std::initializer_list<std::uint16_t>{0x0000, 0x0800, 0x0200, 0x0600, 0x0b00, 0x0f00}) {
-    for (const ElementaryFunction& function : ElementaryFunctions()) {
-      if (!function.is_nearest) continue;
-      Engine engine(7);
-      for (const ArgumentRegion& region : function.regions) {
-        for (int i = 0; i < 20; ++i) {
-          const Arguments arguments = region.draw(engine);
-          const Extended expected = function.ours(arguments);
-          Extended result = 0;
-          {
-            const ControlWord control(bits);
-            result = function.ours(arguments);
-          }
-          ASSERT_TRUE(IsSameNumber(result, expected)) << function.name << ' ' << Text(arguments);
-        }
+  std::vector<std::pair<const ElementaryFunction*, Arguments>> calls;
+  Engine engine(7);
+  for (const ElementaryFunction& function : ElementaryFunctions()) {
+    if (!function.is_nearest) continue;
+    for (const ArgumentRegion& region : function.regions)
+      for (int i = 0; i < 20; ++i) calls.emplace_back(&function, region.draw(engine));
+  }
+  const Table table("elementary/hard_cases.csv");
+  for (std::size_t row = 0; row < table.size(); ++row) {
+    const HardCase hard(table, row);
+    calls.emplace_back(&hard.function, hard.arguments);
+  }
+  for (const auto& [function, arguments] : calls) {
+    const Extended expected = function->ours(arguments);
+    // 24 bits to nearest and up, 53 to nearest and down, 64 up and to zero.
+    for (const std::uint16_t bits :
+         std::initializer_list<std::uint16_t>{0x0000, 0x0800, 0x0200, 0x0600, 0x0b00, 0x0f00}) {
+      Extended result = 0;
+      {
+        const ControlWord control(bits);
+        result = function->ours(arguments);
       }
+      ASSERT_TRUE(IsSameNumber(result, expected))
+          << function->name << ' ' << Text(arguments) << " with " << bits;
     }
   }
 }

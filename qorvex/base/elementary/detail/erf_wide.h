@@ -10,11 +10,11 @@ namespace qorvex::elementary {
 /// e^(x^2) erfc(x) / 2 for x >= 0; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Wide ScaledHalfErfcWide(const Wide& x);
 
-/// erfc(|x|) / 2 for |x| < 2^20; relative error below 2^-90.
+/// erfc(|x|) / 2 for |x| < 2^16; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Wide HalfErfcWide(const Wide& x);
 
 /// @{
-/// erf(x) and erfc(x) for |x| < 2^20; relative error below 2^-90.
+/// erf(x) and erfc(x) for |x| < 2^16; relative error below 2^-90.
 [[nodiscard]] QORVEX_EXPORT Wide ErfWide(const Wide& x);
 [[nodiscard]] QORVEX_EXPORT Wide ErfcWide(const Wide& x);
 /// @}

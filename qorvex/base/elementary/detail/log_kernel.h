@@ -136,8 +136,8 @@ inline Wide LogBeside1(UInt128 mantissa, std::int64_t exponent) {
                                     : NormalisedWide(-mantissa, -1, true));
 }
 
-/// The half width for a relative error of 2^-97, which LogBeside1 and LogByTables keep to, and as
-/// much again.
+/// The half width for a relative error of 2^-96: LogBeside1 and LogByTables keep to 2^-97, and the
+/// logarithms to the bases 2 and 10 to 2^-96.5.
 inline constexpr std::uint64_t kLogHalfWidth = std::uint64_t{1} << 32;
 
 /// finish(ln x) for x > 0, of a logarithm in registers where x is not beside 1.

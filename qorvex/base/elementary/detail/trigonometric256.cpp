@@ -37,7 +37,7 @@ Wide256 ArcTan256(const Wide256& y, const Wide256& x) {
   const bool is_small = !(x - y).negative;
   const Wide256 t = is_small ? y / x : x / y;
   if (t.IsZero()) return is_small ? Wide256() : ScaledBy(kPi256, -1);
-  const Wide256 arc = ArcTanWide(t.Leading(), Wide(1.0L));
+  const Wide256 arc = ArcTanWide(t.Leading(), kOne);
   const auto [sine, cosine] = SineAndCosineOf(arc);
   const Wide256 result = arc + (t * cosine - sine) / (cosine + t * sine);
   return is_small ? result : ScaledBy(kPi256, -1) - result;

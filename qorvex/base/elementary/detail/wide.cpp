@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "qorvex/base/elementary/detail/quick_square_root.h"
+
 namespace qorvex::elementary {
 
 namespace {
@@ -46,10 +48,10 @@ Wide SquareRoot(const Wide& x) {
   const bool is_odd = (x.exponent & 1) != 0;
   const UInt128 m = is_odd ? x.mantissa : x.mantissa >> 1;
   const std::int64_t exponent = x.exponent + (is_odd ? 1 : 2);
-  // 64 bits of the root in [1/2, 1) from the processor, whose roots are correctly rounded.
-  const Extended root = std::sqrt(static_cast<Extended>(High(m)) * 0x1p-64L) * 0x1p64L;
-  const auto s = root < 0x1p64L ? static_cast<std::uint64_t>(root) : ~std::uint64_t{0};
-  // A step of Newton's method, s + (m - s^2) / (2 s), where |m - s^2| < 2^66.
+  // 64 bits of the root in [1/2, 1), cut off, from the top word of m.
+  const std::uint64_t s = Low(ShiftedRight(QuickSquareRoot(High(m)), 63));
+  // A step of Newton's method, s + (m - s^2) / (2 s), where |m - s^2| < 2^65.6. What it neglects is
+  // below 2^-125 of the root.
   const UInt128 square = Multiply(s, s);
   const UInt128 difference = m >= square ? m - square : square - m;
   const UInt128 correction = (difference << 62) / s << 1;

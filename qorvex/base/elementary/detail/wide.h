@@ -39,7 +39,8 @@ constexpr UInt128 MultiplyHigh(UInt128 a, std::uint64_t b) {
   return Multiply(High(a), b) + MultiplyHigh(Low(a), b);
 }
 
-/// a b / 2^128, too small by less than 2 units: the product of the low words is left out.
+/// a b / 2^128, too small by less than 3 units: the product of the low words is left out,
+/// and two others are cut off.
 constexpr UInt128 MultiplyHigh(UInt128 a, UInt128 b) {
   return Multiply(High(a), High(b)) + MultiplyHigh(High(a), Low(b)) + MultiplyHigh(Low(a), High(b));
 }
@@ -88,6 +89,10 @@ struct Wide {
   constexpr Wide operator-() const { return {mantissa, exponent, !negative}; }
 };
 
+inline constexpr Wide kOne{UInt128{1} << 127, 0};
+/// ln 2, cut off.
+inline constexpr Wide kLn2{Join(0xb17217f7d1cf79ab, 0xc9e3b39803f2f6af), -1};
+
 /// mantissa 2^(exponent - 127) for any mantissa.
 constexpr Wide NormalisedWide(UInt128 mantissa, std::int64_t exponent, bool negative = false) {
   if (mantissa == 0) return {};
@@ -113,7 +118,7 @@ inline Wide::Wide(Extended x) {
   *this = WideOf(Normalise(bits), bits.IsNegative());
 }
 
-/// The product; relative error below 2^-125.
+/// The product; relative error below 2^-124.
 constexpr Wide operator*(const Wide& a, const Wide& b) {
   const UInt128 product = MultiplyHigh(a.mantissa, b.mantissa);
   if (product == 0) return {};

@@ -13,7 +13,10 @@ namespace qorvex::elementary {
 /// - `first` is not 0. Its relative error is below half_width 2^-128, with half_width at most 2^62.
 /// - If the value may lie on the other side of a midpoint, second() computes it as a Wide256, with
 ///   a relative error below 2^-201. NearestBits(Wide256) rounds it, and takes a value within 2^-200
-///   of a midpoint for the midpoint: that happens only if the value is one.
+///   of a midpoint for the midpoint. One argument in 2^135 comes that close by chance: none is to
+///   be expected among 2^64, but some are among the pairs of Pow (pow.cpp).
+/// - Results in the top binade and subnormal ones always take the second stage: they may round to
+///   infinity, and have their midpoints elsewhere.
 template <class Second>
 inline Binary80 CorrectlyRounded(const Wide& first, std::uint64_t half_width, Second second) {
   const auto biased = static_cast<std::uint64_t>(first.exponent + kExponentBias);

@@ -8,9 +8,9 @@
 
 namespace qorvex::special {
 
+using elementary::kOne;
 using elementary::Wide;
 
-inline constexpr Wide kOne{elementary::Join(elementary::kTopBit, 0), 0};
 inline constexpr Wide kHalf{elementary::Join(elementary::kTopBit, 0), -1};
 inline constexpr Wide kThree{elementary::Join(elementary::kTopBit | elementary::kTopBit >> 1, 0),
                              1};
