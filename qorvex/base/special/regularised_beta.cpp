@@ -152,7 +152,7 @@ Tails RegularisedBeta::TailsAt(const Point& point, const Scaled& density) const 
   constexpr Extended slow = 0.02L;
   if (b < 1 && y < slow && a * y < 1) return from_end(SmallTails(b, a, wide_y).Mirrored());
   const Extended share = 1 / ContinuedFraction(LowerFractionTerms(a, b, x, std::fabs(lambda)));
-  constexpr Extended most = 0.9L;
+  constexpr Extended most = 0.5L;
   if (a < 1 && density.Value() * share > most)
     return from_end(x <= 0.5L ? SmallTails(a, b, wide_x) : SmallTails(b, a, wide_y).Mirrored());
   return {tail, density * share};

@@ -134,15 +134,15 @@ Tails RegularisedGamma::TailsFrom(const Point& point, const Scaled& density) con
   return {Tail::kUpper, density * (1 / ContinuedFraction(UpperFractionTerms(a, first)))};
 }
 
-Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
+Scaled RegularisedGamma::Quantile(Tail tail, Extended p) const {
   if (p > 0.5L) return Quantile(Opposite(tail), 1 - p);
   // Far down the lower tail is x^a / Gamma(a + 1).
   const Wide lower = tail == Tail::kLower ? Wide(p) : kOne - Wide(p);
   const Wide ln_power = LogWide(lower) + LnFactorial(shape_);
-  const Extended asymptote = MakeScaled(kOne, ln_power / Wide(shape_)).Value();
+  const Scaled asymptote = MakeScaled(kOne, ln_power / Wide(shape_));
   constexpr Extended exact_below = 1e-25L;
-  if (asymptote < exact_below) return asymptote;
-  const Extended start = Start(tail, p, asymptote);
+  if (asymptote.Value() < exact_below) return asymptote;
+  const Extended start = Start(tail, p, asymptote.Value());
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   const auto at = [this](Extended x) {
     const Point point{ExtendedPair(x)};
@@ -151,7 +151,7 @@ Extended RegularisedGamma::Quantile(Tail tail, Extended p) const {
         IsUniform(point) ? UniformGammaTails(shape_, x) : TailsFrom(point, density), density,
         shape_ - x};
   };
-  return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, at).Value();
+  return SolveTail(tail, p, start, tail == Tail::kUpper ? 1 : unlimited, at);
 }
 
 Extended RegularisedGamma::Start(Tail tail, Extended p, Extended asymptote) const {

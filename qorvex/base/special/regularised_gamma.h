@@ -36,8 +36,8 @@ class QORVEX_EXPORT RegularisedGamma {
   [[nodiscard]] Tails At(const Point& point) const;
   /// x^a e^-x / Gamma(a): the density of ln X. Divided by x it is that of X.
   [[nodiscard]] Scaled LogDensity(const Point& point) const;
-  /// The point with the given tail, 0 < p < 1. 0 where it is too small for the format.
-  [[nodiscard]] Extended Quantile(Tail tail, Extended p) const;
+  /// The point with the given tail, 0 < p < 1, which may be beyond the format.
+  [[nodiscard]] Scaled Quantile(Tail tail, Extended p) const;
 
  private:
   // The expansion holds at x.

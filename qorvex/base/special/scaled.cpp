@@ -18,7 +18,7 @@ namespace {
 constexpr Extended kInfinite = std::numeric_limits<Extended>::infinity();
 constexpr Extended kNotANumber = std::numeric_limits<Extended>::quiet_NaN();
 
-// e^x is beyond every number of 128 bits that is reached otherwise.
+// e^x is 0 or infinite in every format: |x| >= 2^40.
 bool IsFar(const Wide& x) {
   return !x.IsZero() && x.exponent >= 40;
 }

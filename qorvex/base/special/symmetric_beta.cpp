@@ -62,8 +62,9 @@ Tails PowerTails(Extended b, const Wide& x, const Wide& y) {
   const Wide ln_upper = Wide(b) * ln_y;
   const Scaled upper = MakeScaled(kOne, ln_upper);
   if (upper.Value() > 0.5L) return {Tail::kLower, MakeScaled(-elementary::Expm1Wide(ln_upper))};
-  return {Tail::kUpper,
-          IsWhole(b) ? MakeScaled(WholePower(y, static_cast<std::uint64_t>(b))) : upper};
+  return {Tail::kUpper, IsWhole(b) && HasWholePower(y, b)
+                            ? MakeScaled(WholePower(y, static_cast<std::uint64_t>(b)))
+                            : upper};
 }
 
 }  // namespace
@@ -105,7 +106,8 @@ Extended SymmetricBeta::Density(const Odds& odds) const {
   const Extended n = a + b - 2;
   const Wide x(ordered.in_favour);
   const Wide y(ordered.against);
-  if (IsWhole(a) && IsWhole(b) && HasExactCoefficient(n, a - 1)) {
+  // From 256 trials on there is no success.
+  if (IsWhole(a) && IsWhole(b) && HasExactCoefficient(n, a - 1) && HasWholePower(y, n)) {
     const Wide probability =
         ExactProbability(static_cast<std::uint64_t>(n), static_cast<std::uint64_t>(a - 1), x, y);
     return Nearest(Wide(n + 1) * probability);

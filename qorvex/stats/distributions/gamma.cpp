@@ -43,7 +43,7 @@ Tails GammaDistribution::At(Extended x) const {
 Extended GammaDistribution::Quantile(Tail tail, Extended p) const {
   RequireProbability(p);
   if (AnyNaN(shape_, scale_, p)) return kNotANumber;
-  return CheckedFinite(gamma_.Quantile(tail, p) * scale_);
+  return CheckedFinite((gamma_.Quantile(tail, p) * scale_).Value());
 }
 
 Extended GammaDistribution::Mean() const {

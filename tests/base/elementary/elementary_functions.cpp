@@ -172,6 +172,8 @@ Regions OfErfc() {
 
 constexpr Extended kPairAllowance = 0.51L;
 constexpr Extended kReflected = 1;
+// 1e-26 in units of a result as small as those next to a zero.
+constexpr Extended kNextToZero = 1e-26L * 0x1p127L;
 
 Regions OfGamma() {
   return {{"2^-60 to 16", Exponents(-60, 3, Sign::kPlus), kPairAllowance},
@@ -189,6 +191,9 @@ Regions OfLnGamma() {
           {"near 2", Near(2), kPairAllowance},
           {"30 to 2^60", Exponents(5, 60, Sign::kPlus), kPairAllowance},
           {"-30 to 0", Between(-30, -0x1p-20L), kReflected},
+          {"about a zero", Between(-2.457025L, -2.457024L), kReflected},
+          {"next to a zero", Near(-2.457024738220800623L), kNextToZero},
+          {"next to another", Near(-3.955294284858597929L), kNextToZero},
           {"huge", Exponents(61, 16368, Sign::kPlus), kPairAllowance}};
 }
 

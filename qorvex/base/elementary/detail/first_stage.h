@@ -17,7 +17,7 @@ namespace qorvex::elementary {
 [[nodiscard]] QORVEX_EXPORT Wide Log1pWide(const Wide& x);
 
 /// e^x and e^x - 1 for |x| < 2^40; relative error below 2^-96 max(1, |x| 2^-14). Nothing overflows
-/// or underflows.
+/// or underflows. Beyond, there are no digits left, and from 2^63 on the behaviour is undefined.
 [[nodiscard]] QORVEX_EXPORT Wide ExpWide(const Wide& x);
 [[nodiscard]] QORVEX_EXPORT Wide Expm1Wide(const Wide& x);
 

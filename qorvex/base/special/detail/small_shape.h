@@ -2,7 +2,6 @@
 
 // The tails at the end of a distribution where its density is about x^(a - 1) with a small a.
 
-#include <cmath>
 #include <cstdint>
 
 #include "qorvex/base/elementary/detail/first_stage.h"

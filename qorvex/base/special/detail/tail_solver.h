@@ -54,7 +54,7 @@ Scaled SolveTail(Tail tail, Extended p, Extended start, Extended largest_step, D
   for (int i = 0; i < kMaxIterations; ++i) {
     const TailsAndDensity here = at(x);
     const Scaled probability = here.tails.ScaledProbability(tail);
-    const Extended relative = (probability - p).Value() / p;
+    const Extended relative = ((probability - p) / Scaled(p)).Value();
     const Extended excess = std::fabs(relative) < kNewtonThreshold
                                 ? Log1p(relative)
                                 : here.tails.LogProbability(tail) - ln_p;
