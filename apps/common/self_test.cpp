@@ -8,7 +8,7 @@
 
 namespace qorvex::apps {
 
-const std::uint64_t kReleaseHash = 0x44e02e1e8a837c06;
+const std::uint64_t kReleaseHash = 0x62077cd59a648796;
 
 // The word enters by an exclusive or, and a product with an odd number spreads it upwards; the
 // rotation brings the upper bits down again.
