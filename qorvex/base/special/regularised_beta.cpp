@@ -167,8 +167,9 @@ Scaled RegularisedBeta::QuantileOdds(Tail tail, Extended p) const {
       a_ <= 1 ? LnLeadingFactor(a, Wide(b_)) : Wide(Ln(InverseBeta() / Scaled(a_)));
   const Scaled asymptote = MakeScaled(kOne, (LogWide(p) - leading) / a);
   constexpr Extended exact_below = 1e-25L;
-  if (asymptote.Value() * std::fmax(b_, 1) < exact_below) return asymptote;
-  Extended start = std::fmin(asymptote.Value(), std::fmax(a_ / b_, 1));
+  const Extended far_down = asymptote.Value();
+  if (far_down * std::fmax(b_, 1) < exact_below) return asymptote;
+  Extended start = std::fmin(far_down, std::fmax(a_ / b_, 1));
   if (a_ >= 1 && b_ >= 1) {
     // The logarithm of the odds is about normal.
     const Extended deviation = std::sqrt(1 / a_ + 1 / b_);

@@ -141,8 +141,9 @@ Scaled RegularisedGamma::Quantile(Tail tail, Extended p) const {
   const Wide ln_power = LogWide(lower) + LnFactorial(shape_);
   const Scaled asymptote = MakeScaled(kOne, ln_power / Wide(shape_));
   constexpr Extended exact_below = 1e-25L;
-  if (asymptote.Value() < exact_below) return asymptote;
-  const Extended start = Start(tail, p, asymptote.Value());
+  const Extended far_down = asymptote.Value();
+  if (far_down < exact_below) return asymptote;
+  const Extended start = Start(tail, p, far_down);
   constexpr Extended unlimited = std::numeric_limits<Extended>::max();
   const auto at = [this](Extended x) {
     const Point point{ExtendedPair(x)};

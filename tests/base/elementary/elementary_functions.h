@@ -32,7 +32,7 @@ struct ElementaryFunction {
   /// result, from which a step of Newton's method yields the exact value.
   int (*exact)(mpfr_ptr, mpfr_srcptr, mpfr_srcptr, mpfr_rnd_t);
   std::vector<ArgumentRegion> regions;
-  /// The function over a range; y is the same for all elements. Null if the library has no such form.
+  /// The function over a range, with the same y for all elements. Null if there is none.
   void (*over)(VectorView<Extended> x, Extended y, std::span<Extended> results) = nullptr;
   /// False where results are not rounded correctly and only their error is limited.
   bool is_nearest = true;
