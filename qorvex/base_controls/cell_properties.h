@@ -86,7 +86,7 @@ class QORVEX_EXPORT CellProperties {
     Assign(settings_.number.decimal_places, std::clamp(places, 0, 255));
   }
   void resetDecimalPlaces() {
-    setDecimalPlaces(NumberFormat().decimal_places);
+    setDecimalPlaces(NumberSettings().decimal_places);
   }
   /// @}
   /// @{

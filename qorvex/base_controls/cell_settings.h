@@ -12,14 +12,14 @@
 namespace qorvex::inline QorvexBaseControls {
 
 /// How a number is written.
-struct NumberFormat {
+struct NumberSettings {
   bool trim_trailing_zeroes = false;  ///< Omit trailing zeros of the decimals.
   bool full_accuracy = false;         ///< All digits of the value, regardless of decimal_places.
   int decimal_places = 4;             ///< Decimals, 0 to 255.
   Qt::Alignment alignment = Qt::AlignRight | Qt::AlignVCenter;  ///< Alignment of the text.
 
   /// Equal in all members.
-  friend bool operator==(const NumberFormat&, const NumberFormat&) = default;
+  friend bool operator==(const NumberSettings&, const NumberSettings&) = default;
 };
 
 /// How nulls and zeros are shown and typed. A null is a NaN.
@@ -60,7 +60,7 @@ struct EditColors {
 
 /// All settings of a cell.
 struct CellSettings {
-  NumberFormat number;           ///< How numbers are written.
+  NumberSettings number;           ///< How numbers are written.
   NullHandling nulls;            ///< Null and zero.
   SelectionBehaviour selection;  ///< When a cell selects its whole text.
   EditColors colors;             ///< Colours.

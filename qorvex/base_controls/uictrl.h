@@ -39,7 +39,7 @@ class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   /// Groups of shared settings.
   enum TQorUIUsageTypes {
     uuColors = 1,        ///< EditColors.
-    uuNumberFormat = 2,  ///< NumberFormat.
+    uuNumberFormat = 2,  ///< NumberSettings.
     uuNullHandling = 4,  ///< NullHandling.
     uuBehaviour = 8      ///< SelectionBehaviour.
   };

@@ -38,7 +38,8 @@
   QORVEX_PUBLISHED(int, NoOfRowEdits)                                                           \
   QORVEX_PUBLISHED(uint, NoOfCols)                                                              \
   QORVEX_PUBLISHED(uint, NoOfRows)                                                              \
-  QORVEX_PUBLISHED(QString, NullStr)
+  QORVEX_PUBLISHED(QString, NullStr)                                                            \
+  QORVEX_PUBLISHED_PANEL
 
 QORVEX_WIDGET_UNIT(QorvexMatrixEdit) {
 

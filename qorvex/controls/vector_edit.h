@@ -61,6 +61,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   QORVEX_PUBLISHED(bool, ReadOnly)
   QORVEX_PUBLISHED(bool, TabStop)
   QORVEX_PUBLISHED(bool, VirtualMode)
+  QORVEX_PUBLISHED_PANEL
   /// @}
 
  public:

@@ -14,7 +14,9 @@
 #include "qorvex/base_controls/custom_panel.h"
 #include "qorvex/base_controls/uictrl.h"
 #include "qorvex/base_controls/unit.h"
+#include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/published.h"
 
 QORVEX_WIDGET_UNIT(QorvexControls) {
 /// @cond internal
@@ -24,7 +26,6 @@ class PanelAxis;
 struct CellPlace;
 struct EditWindowEvents;
 struct PanelParts;
-struct TableBlock;
 enum class CurrentRule;
 }  // namespace detail
 /// @endcond
@@ -216,7 +217,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Watch(TextCell& text);
 
   /// Copies a part of the table to the clipboard, as CopyAll does.
-  void CopyBlock(const detail::TableBlock& block);
+  void CopyBlock(const TQorCellRange& block);
   /// Runs a command, but not in virtual mode, and redisplays, even if it raises.
   void Command(const std::function<void()>& command);
 

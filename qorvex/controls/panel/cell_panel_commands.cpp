@@ -42,7 +42,7 @@ bool CellPanel::PasteBlock(const QString& text) {
   return false;
 }
 
-void CellPanel::CopyBlock(const detail::TableBlock& block) {
+void CellPanel::CopyBlock(const TQorCellRange& block) {
   parts_->focus.CommitPending();
   if (parts_->grid.IsEmpty()) return;
   const quint64 values = quint64{block.rows} * block.cols;

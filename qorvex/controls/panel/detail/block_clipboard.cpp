@@ -39,7 +39,7 @@ std::size_t RoomFrom(quint32 first, quint32 count) {
 
 }  // namespace
 
-QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TableBlock& block) {
+QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TQorCellRange& block) {
   std::string text;
   TextBlock line(1, std::vector<std::string>(block.cols));
   for (quint32 r = 0; r < block.rows; ++r) {

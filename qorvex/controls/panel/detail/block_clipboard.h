@@ -6,22 +6,15 @@
 #include <QString>
 
 #include "qorvex/base_controls/custom_edit.h"
+#include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/detail/change_history.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
-/// A rectangle of elements.
-struct TableBlock {
-  quint32 row = 0;
-  quint32 rows = 0;
-  quint32 col = 0;
-  quint32 cols = 0;
-};
-
 /// The elements with all their digits, in the numbers of the cell's locale; tabs separate columns,
 /// and each row ends with a line end. O(elements).
 [[nodiscard]] QString BlockText(const CellTable& table, const TQorCustomEdit& cell,
-                                const TableBlock& block);
+                                const TQorCellRange& block);
 
 /// What pasting a text does.
 struct PasteResult {

@@ -1,0 +1,7 @@
+#pragma once
+
+/// @file
+/// The properties that every editor publishes after its own.
+
+/// One line a property: QORVEX_PUBLISHED(Type, Name).
+#define QORVEX_PUBLISHED_PANEL
