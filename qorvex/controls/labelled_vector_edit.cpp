@@ -117,10 +117,8 @@ void TQorLabelledVectorEdit::Sort() {
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto before = std::make_shared<QStringList>(custom_labels_);
-    Parts().history.ExtendCommand([this, before] {
-      std::swap(custom_labels_, *before);
-      Redisplay();
-    });
+    const auto bytes = before->size() * qint64{sizeof(QString)};
+    Parts().history.ExtendCommand(bytes, [this, before] { std::swap(custom_labels_, *before); });
     custom_labels_.sort(Qt::CaseInsensitive);
   }
 }
@@ -133,11 +131,39 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
       const QString label = custom_labels_.value(first);
       SetCustomLabel(first, custom_labels_.value(second));
       SetCustomLabel(second, label);
-      Redisplay();
     };
     swap();
-    Parts().history.ExtendCommand(swap);
+    Parts().history.ExtendCommand(0, swap);
   }
+}
+
+void TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                         Extended value) {
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  if (!VirtualMode() && first < custom_labels_.size()) {
+    custom_labels_.insert(first, count, QString());
+  }
+  TQorVectorEdit::InsertLines(axis, first, count, value);
+}
+
+void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  TQorVectorEdit::RemoveLines(axis, first, count);
+  if (!VirtualMode() && first < custom_labels_.size()) {
+    custom_labels_.remove(first, std::min<qsizetype>(count, custom_labels_.size() - first));
+  }
+}
+
+std::function<void()> TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
+  const QStringList labels = custom_labels_.mid(first, count);
+  if (labels.isEmpty()) return {};
+  return [this, first, labels] {
+    for (qsizetype i = 0; i < labels.size(); ++i) {
+      SetCustomLabel(first + static_cast<quint32>(i), labels[i]);
+    }
+  };
 }
 
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
@@ -168,7 +194,10 @@ TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* pa
 
 void TQorLabelledVectorEdit::ChangeLabel(quint32 row_edit, const QString& text) {
   const quint32 row = Rows().Top() + row_edit;
-  if (row >= NoOfRows()) return;
+  if (row >= NoOfRows()) {
+    Redisplay();
+    return;
+  }
   const QString before = Label(row);
   setLabel(row, text);
   if (Label(row) != before) {
@@ -196,7 +225,9 @@ void TQorLabelledVectorEdit::ApplyTo(TextCell& label, const CellSettings& settin
 
 void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool used) {
   const quint32 row = Rows().Top() + row_edit;
-  static_cast<LabelCell&>(label).Show(used ? Label(row) : QString());
+  // A star marks the spare row.
+  const QString text = row < NoOfRows() ? Label(row) : QStringLiteral("*");
+  static_cast<LabelCell&>(label).Show(used ? text : QString());
   label.setEnabled(used);
 }
 

@@ -73,6 +73,10 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
 }
 
 void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+  if (row >= table_.RowCount()) {
+    AppendRow(cell, row, col, value);
+    return;
+  }
   // The cell may have shown null in place of the element.
   const Extended before = table_.Value(row, col);
   try {
@@ -84,9 +88,8 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
     return;
   }
   // In virtual mode the program may have stored another value.
-  const Extended now = table_.Value(row, col);
-  cell.Refresh(now);
-  parts_->history.Record({row, col, before}, now);
+  cell.Refresh(table_.Value(row, col));
+  parts_->history.Record({row, col, before});
 }
 
 void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
@@ -100,9 +103,14 @@ void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   parts_->focus.CommitPending();
-  const quint32 top = axis.Window().Top();
-  parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
+  SetLines(axis, count, axis.HasSpare());
   axis.ReachWantedTop();
+}
+
+void CellPanel::SetLines(detail::PanelAxis& axis, quint32 count, bool spare) {
+  const quint32 top = axis.Window().Top();
+  const quint32 lines = detail::PanelAxis::Lines(count, spare);
+  parts_->focus.Keep(axis, lines > top ? lines - top : 0, [&] { axis.SetCount(count, spare); });
 }
 
 void CellPanel::FitGrid() {
@@ -131,6 +139,7 @@ Qt::FocusPolicy CellPanel::CellFocusPolicy() const {
 
 void CellPanel::SettingsChanged() {
   ApplySettings();
+  FitSpareRow();
 }
 
 void CellPanel::DoColorSetChange() {

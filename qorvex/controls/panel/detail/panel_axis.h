@@ -27,11 +27,28 @@ class PanelAxis {
   /// Makes the bar, a child of the panel.
   void AddBar(Qt::Orientation orientation, QWidget& panel);
 
+  /// @{
+  /// The number of elements. A spare line may follow them in the window, where a new element can be
+  /// typed.
+  [[nodiscard]] quint32 Count() const noexcept { return count_; }
+  [[nodiscard]] bool HasSpare() const noexcept { return has_spare_; }
+  [[nodiscard]] static quint32 Lines(quint32 count, bool spare);
+  void SetCount(quint32 count, bool spare);
+  /// @}
+
   /// Scrolls. A form may set the top before the length of the axis: until Loaded, a top beyond the
   /// end is remembered.
   void SetTop(quint32 top);
   /// Scrolls to the remembered top as far as possible. Call after the axis has changed.
   void ReachWantedTop();
+  /// @{
+  /// Scroll without remembering anything: up by so many elements, or not at all if there are fewer;
+  /// down by so many, at most to the last page; to the first element; to the last page.
+  void ScrollUp(quint32 elements);
+  void ScrollDown(quint32 elements);
+  void ScrollToStart();
+  void ScrollToEnd();
+  /// @}
   /// The form is complete: nothing is remembered any more.
   void Loaded();
 
@@ -43,6 +60,8 @@ class PanelAxis {
 
   EditWindow window_;
   std::unique_ptr<QScrollBar> bar_;
+  quint32 count_ = 0;
+  bool has_spare_ = false;
   quint32 wanted_top_ = 0;
   bool loaded_ = false;
   bool placing_bar_ = false;
