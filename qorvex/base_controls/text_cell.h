@@ -17,8 +17,8 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// A line edit that keeps the text that it shows while nothing is being typed, and signals when the
 /// focus comes from or goes to another widget. Opening a menu or deactivating the window does not
-/// count as leaving; the latter commits. All pasted and dropped text goes through Paste. Files and
-/// links are ignored, so that they can be dropped on the parent.
+/// count as leaving: what is being typed stays as it is. All pasted and dropped text goes through
+/// Paste. Files and links are ignored, so that they can be dropped on the parent.
 ///
 /// A text that is wider than the cell is painted in a shorter form, never cut off, which could be
 /// misread, unless it is being edited; a tool tip shows all of it. text() is always the whole text.

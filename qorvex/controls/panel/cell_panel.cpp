@@ -20,6 +20,8 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
                      detail::EditWindowEvents row_events, detail::EditWindowEvents col_events)
     : TQorCustomPanel(parent), table_(table) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  // The tab key, a buddy and QWidget::setTabOrder lead to the cells. A click beside them does not.
+  setFocusPolicy(Qt::TabFocus);
   row_events.before_top = [this](quint32 top) {
     parts_->focus.CommitPending();
     Q_EMIT ontopChange(top);
@@ -115,6 +117,7 @@ void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
   if (!Updating()) parts_->grid.Show();
+  parts_->focus.Lead();
 }
 
 void CellPanel::Watch(TextCell& text) {
@@ -175,9 +178,8 @@ void CellPanel::wheelEvent(QWheelEvent* event) {
   parts_->keys.EditMouseWheel(*event);
 }
 
-void CellPanel::focusInEvent(QFocusEvent* event) {
-  TQorCustomPanel::focusInEvent(event);
-  parts_->focus.FocusCell(Rows().Focus(), Cols().Focus());
+bool CellPanel::focusNextPrevChild(bool next) {
+  return parts_->focus.TabOn(next) || TQorCustomPanel::focusNextPrevChild(next);
 }
 
 void CellPanel::hideEvent(QHideEvent* event) {

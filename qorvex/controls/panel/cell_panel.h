@@ -227,7 +227,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SettingsChanged() override;
   void DoColorSetChange() override;
   void changeEvent(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;

@@ -6,6 +6,7 @@
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
+#include "qorvex/controls/detail/grid_navigation.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -13,7 +14,8 @@ namespace qorvex::inline QorvexControls::detail {
 /// scroll the table under it.
 class PanelFocus {
  public:
-  PanelFocus(PanelAxis& rows, PanelAxis& cols, const CellGrid& grid, CurrentRule rule);
+  PanelFocus(QWidget& panel, PanelAxis& rows, PanelAxis& cols, const CellGrid& grid,
+             CurrentRule rule);
 
   /// The text that has been entered and not left, or a null pointer.
   [[nodiscard]] TextCell* Entered() const noexcept { return entered_; }
@@ -36,6 +38,15 @@ class PanelFocus {
   /// Runs a change of an axis, after which its edits from the given one on are gone or show no
   /// element. A focus there leaves its cell before the change and goes to the last used cell
   /// after it.
+  /// Moves the focus as the tab key does to the next element in reading order if that is out of
+  /// sight; false if it is in sight or there is none, and if the key does not stop at the cells.
+  bool TabOn(bool forward);
+  /// The focus that the panel gets is for the text that had it last. It waits on the bar as long as
+  /// no cell shows an element.
+  void Lead();
+  /// A text is about to get the focus. If the tab key or a buddy leads to the panel, the first text
+  /// gets it instead, and the result is true.
+  bool Redirect(const QObject* text, Qt::FocusReason reason);
   template <class Change>
   void Keep(PanelAxis& axis, quint32 first_gone, Change change) {
     const bool moves = entered_ != nullptr && axis.Window().Focus() >= first_gone;
@@ -49,9 +60,16 @@ class PanelFocus {
   void Park(const PanelAxis& axis);
 
   PanelAxis& rows_;
+  // The cell, or the text of the header when the focus was last there.
+  [[nodiscard]] TextCell* TextAt(std::size_t row, std::size_t col) const;
   PanelAxis& cols_;
   const CellGrid& grid_;
+  // Scrolls if need be, and moves the focus.
+  void Go(PanelAxis& along, PanelAxis& across, const GridStep& step);
+  // Whether the tab key stops at the text in front of a row.
+  [[nodiscard]] bool StopsAtHeader(std::size_t row) const;
   CurrentRule rule_;
+  QWidget& panel_;
   TextCell* entered_ = nullptr;
   bool in_header_ = false;
 };

@@ -1,0 +1,160 @@
+// Editors among the other widgets of a form: the tab key, buddies, menus, and texts that are being
+// typed while something else happens.
+
+#include <QContextMenuEvent>
+#include <QFormLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTabWidget>
+#include <QTimer>
+#include <QToolTip>
+
+#include "controls/editor_fixture.h"
+
+namespace qorvex {
+
+template <class Editor>
+struct Forms : EditorFixture<Editor> {
+  QLineEdit* before = new QLineEdit;
+
+  Forms() {
+    this->editor->setDecimalPlaces(0);
+    static_cast<QVBoxLayout*>(this->window->layout())->insertWidget(0, before);
+    QWidget::setTabOrder(before, this->other);
+    QWidget::setTabOrder(before, this->editor);
+  }
+
+  /// Where the focus comes to, from the widget before the editor to the one behind it or back: the
+  /// texts of the cells.
+  std::string Walk(bool forward) {
+    QLineEdit* const end = forward ? this->other : before;
+    (forward ? before : this->other)->setFocus();
+    QStringList texts;
+    for (int steps = 0; steps < 50; ++steps) {
+      if (forward) this->Press(Qt::Key_Tab);
+      if (!forward) this->Press(Qt::Key_Backtab, Qt::ShiftModifier);
+      if (end->hasFocus()) break;
+      const auto* const cell = qobject_cast<QLineEdit*>(QApplication::focusWidget());
+      texts.append(cell != nullptr ? cell->text() : "elsewhere");
+    }
+    EXPECT_TRUE(end->hasFocus());
+    return texts.join(QLatin1Char(' ')).toStdString();
+  }
+
+  /// Another window is active meanwhile.
+  template <class Action>
+  void WhileInactive(Action action) {
+    QWidget second;
+    second.show();
+    second.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&second));
+    action();
+    this->window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(this->window.get()));
+  }
+};
+TYPED_TEST_SUITE(Forms, EditorTypes);
+using MatrixForms = Forms<TQorMatrixEdit>;
+using LabelledForms = Forms<TQorLabelledVectorEdit>;
+
+TYPED_TEST(Forms, TabReachesEveryElementAndLeaves) {
+  this->Open(6);
+  for (int round = 0; round < 2; ++round) {
+    EXPECT_EQ(this->Walk(true), "0 1 2 3 4 5");
+    EXPECT_EQ(this->Walk(false), "5 4 3 2 1 0");
+  }
+  EXPECT_EQ(this->Walk(true), "0 1 2 3 4 5");
+  EXPECT_EQ(this->editor->DisplayTopRow(), 2U);
+  EXPECT_EQ(this->Walk(true), "2 3 4 5") << "from the first one in sight";
+  // The event of a cell that is left names the element that it had.
+  this->editor->setDisplayTopRow(0);
+  this->FocusEdit(3);
+  this->Type("7");
+  this->Take();
+  this->Press(Qt::Key_Tab);
+  EXPECT_EQ(this->Get(3), 7);
+  if (this->kIsVector) {
+    EXPECT_EQ(this->Take(), "change 3, out 3, top 1, current 3 4, after 1, in 4");
+  }
+  this->FocusEdit(1);
+  this->Press(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_TRUE(this->other->hasFocus());
+  this->FocusEdit(1);
+  this->Take();
+  this->Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_TRUE(this->before->hasFocus());
+  EXPECT_EQ(this->Take().find("in"), std::string::npos) << "at once";
+
+  this->editor->setTabStop(false);
+  EXPECT_EQ(this->Walk(true) + this->Walk(false), "");
+  this->FocusEdit(3);
+  this->Press(Qt::Key_Tab);
+  EXPECT_TRUE(this->other->hasFocus());
+  this->editor->setTabStop(true);
+  this->SetRows(0);
+  EXPECT_EQ(this->Walk(true) + this->Walk(false), "");
+  // Cells that come later, and a page of tabs.
+  for (const int edits : {0, 2, 3}) this->SetCells(edits);
+  this->SetRows(2);
+  QTabWidget pages;
+  pages.addTab(new QWidget, "1");
+  pages.addTab(this->window.release(), "2");
+  pages.setCurrentIndex(1);
+  pages.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&pages));
+  EXPECT_EQ(this->Walk(true), "0 0");
+  EXPECT_EQ(this->Walk(false), "0 0");
+}
+
+TYPED_TEST(Forms, TheTabOrderAndBuddiesLeadToTheEditor) {
+  auto* const form = new QFormLayout;
+  static_cast<QVBoxLayout*>(this->window->layout())->addLayout(form);
+  form->addRow("&Values", this->editor);
+  QWidget::setTabOrder(this->other, this->editor);
+  QWidget::setTabOrder(this->editor, this->before);
+  std::swap(this->before, this->other);
+  this->Open(5);
+  EXPECT_EQ(this->Walk(true), "0 1 2 3 4");
+  EXPECT_EQ(this->Walk(false), "4 3 2 1 0");
+  this->Cell(2)->setFocus();
+  EXPECT_TRUE(this->editor->hasFocus());
+  this->other->setFocus();
+  this->editor->setFocus();
+  EXPECT_TRUE(this->Cell(2)->hasFocus()) << "a program comes back to where the user was";
+  this->other->setFocus();
+  this->Take();
+  this->Press(Qt::Key_V, Qt::AltModifier);
+  EXPECT_TRUE(this->Cell(0)->hasFocus());
+  EXPECT_EQ(this->Take().find("in 2"), std::string::npos);
+  // The focus that an empty editor has got is for its first cell.
+  this->SetRows(0);
+  this->other->setFocus();
+  this->editor->setFocus();
+  EXPECT_TRUE(this->Bar()->hasFocus());
+  this->SetRows(1);
+  EXPECT_TRUE(this->Cell(0)->hasFocus());
+}
+
+TEST_F(MatrixForms, TabReadsRowByRow) {
+  editor->setNoOfRowEdits(2);
+  editor->setNoOfColEdits(2);
+  editor->setMatrix({{0, 1, 2}, {3, 4, 5}, {6, 7, 8}});
+  Show();
+  EXPECT_EQ(Walk(true), "0 1 2 3 4 5 6 7 8");
+  editor->ScrollRightMost();
+  EXPECT_EQ(Walk(false), "8 7 6 5 4 3 2 1 0");
+}
+
+TEST_F(LabelledForms, TabStopsAtLabelsThatCanBeTyped) {
+  Open(3, 2);
+  editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
+  for (const quint32 row : {0U, 1U, 2U}) editor->setLabel(row, QChar('a' + row));
+  EXPECT_EQ(Walk(true), "0 1 2");
+  editor->setLabelsEditable(true);
+  editor->ScrollTop();
+  EXPECT_EQ(Walk(true), "a 0 b 1 c 2");
+  EXPECT_EQ(Walk(false), "2 c 1 b 0 a");
+}
+
+}  // namespace qorvex
