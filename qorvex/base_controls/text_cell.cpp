@@ -169,6 +169,8 @@ bool TextCell::event(QEvent* event) {
     if (!tip.isEmpty()) {
       QToolTip::showText(static_cast<const QHelpEvent&>(*event).globalPos(), detail::AsToolTip(tip),
                          this);
+  // While the window was inactive, the focus has been given to another widget.
+  if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this) Leave();
       return true;
     }
   }
@@ -195,10 +197,8 @@ void TextCell::focusOutEvent(QFocusEvent* event) {
   switch (event->reason()) {
     case Qt::PopupFocusReason:
     case Qt::MenuBarFocusReason:
-      // The focus comes back, and the text is still being typed.
-      break;
     case Qt::ActiveWindowFocusReason:
-      CommitOrRestore();
+      // The focus comes back, and the text is still being typed.
       break;
     default:
       Leave();

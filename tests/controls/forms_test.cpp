@@ -157,4 +157,53 @@ TEST_F(LabelledForms, TabStopsAtLabelsThatCanBeTyped) {
   EXPECT_EQ(Walk(false), "2 c 1 b 0 a");
 }
 
+TYPED_TEST(Forms, KeepWhatIsBeingTypedAsLongAsItsElementStays) {
+  this->Open(6);
+  this->FocusEdit(1);
+  this->Type("1");
+  this->Take();
+  this->SetRows(7);
+  this->Type("2");
+  this->SetCells(5);
+  this->Type("3");
+  this->editor->setNull(true);
+  this->Type("4");
+  this->WhileInactive([this] { this->SetRows(8); });
+  this->Type("5");
+  if constexpr (this->kIsVector) {
+    this->editor->setVector(this->editor->Vector());
+  } else {
+    this->editor->setMatrix(this->editor->Matrix());
+  }
+  this->Type("6");
+  EXPECT_EQ(this->Cell(1)->text(), "123456");
+  EXPECT_EQ(this->Get(1), 1);
+  EXPECT_EQ(this->Take().find("change"), std::string::npos);
+  this->editor->ScrollDown(1);
+  EXPECT_EQ(this->Get(1), 123456);
+
+  // Other elements, fewer cells, and another widget that gets the focus end the typing.
+  this->FocusEdit(2);
+  this->Type("8");
+  int changes = 0;
+  const auto count = this->On(&TypeParam::OnChange, [&changes] { ++changes; });
+  if constexpr (this->kIsVector) {
+    this->editor->setVector({5, 5, 5, 5, 5, 5});
+  } else {
+    this->editor->setMatrix({{5}, {5}, {5}, {5}, {5}, {5}});
+  }
+  EXPECT_EQ(changes, 1);
+  EXPECT_EQ(this->Get(3), 5);
+  this->Type("9");
+  this->SetCells(2);
+  EXPECT_EQ(changes, 2);
+  this->Type("7");
+  this->WhileInactive([this] {
+    this->other->setFocus();
+    EXPECT_EQ(this->Cell(1)->text(), "7");
+  });
+  EXPECT_EQ(changes, 3);
+  EXPECT_EQ(this->editor->CurrentRow() < 6, true);
+}
+
 }  // namespace qorvex

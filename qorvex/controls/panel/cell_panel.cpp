@@ -94,14 +94,12 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
 void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
   const auto wanted = static_cast<quint32>(std::clamp(edits, 0, kMaxEdits));
   if (wanted == axis.Window().Edits()) return;
-  parts_->focus.CommitPending();
   parts_->focus.Keep(axis, wanted, [&] { axis.Window().SetEdits(wanted); });
   FitGrid();
   axis.ReachWantedTop();
 }
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
-  parts_->focus.CommitPending();
   const quint32 top = axis.Window().Top();
   parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
   axis.ReachWantedTop();
@@ -184,8 +182,9 @@ bool CellPanel::focusNextPrevChild(bool next) {
 
 void CellPanel::hideEvent(QHideEvent* event) {
   // Turning a page of tabs loses nothing. The cell is not left, though: the control may be about to
-  // be deleted, and what its handlers refer to with it.
-  parts_->focus.CommitPending();
+  // be deleted, and what its handlers refer to with it. A window that is minimised comes back as it
+  // was.
+  if (!event->spontaneous()) parts_->focus.CommitPending();
   TQorCustomPanel::hideEvent(event);
 }
 

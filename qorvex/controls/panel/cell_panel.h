@@ -38,8 +38,13 @@ enum class CurrentRule;
 /// text is being typed, they work on the text. Ctrl+Shift+C copies the whole table, and several
 /// cells of a spreadsheet can be pasted.
 ///
-/// Before anything scrolls or changes under a cell, the text that is being typed there is
-/// committed, or discarded if it is not a number.
+/// The tab key goes from cell to cell and scrolls on at the last one in sight; Ctrl+Tab and
+/// Ctrl+Shift+Tab leave at once. QWidget::setTabOrder and buddies lead to the first cell in sight;
+/// setFocus leads to the cell that had the focus last.
+///
+/// Before another element comes under a cell, the text that is being typed there is committed, or
+/// discarded if it is not a number. Until then it stays, whatever else changes and while another
+/// window is active.
 ///
 /// Every cell has an accessible name while assistive technology is active.
 ///

@@ -37,6 +37,12 @@ void PanelFocus::CommitPending() {
   if (entered_ != nullptr) entered_->CommitOrRestore();
 }
 
+void PanelFocus::CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays) {
+  if (entered_ == nullptr || !entered_->Pending()) return;
+  const auto element = [](const EditWindow& window) { return window.Top() + window.Focus(); };
+  if (in_header_ || !stays(element(rows_.Window()), element(cols_.Window()))) CommitPending();
+}
+
 void PanelFocus::FocusCell(std::size_t row, std::size_t col) {
   if (!grid_.IsUsed(row, col)) return;
   TQorCustomEdit* const cell = grid_.Cell(row, col);

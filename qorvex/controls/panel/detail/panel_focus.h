@@ -3,6 +3,8 @@
 /// @file
 /// PanelFocus, which cell of a panel is being edited and where keys move the focus.
 
+#include <functional>
+
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
@@ -26,6 +28,8 @@ class PanelFocus {
   /// @}
   /// Commits what is being typed, or discards it if it is not a number.
   void CommitPending();
+  /// The same before the elements change, unless the one that is being edited stays as it is.
+  void CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays);
 
   /// Gives the focus to a cell that shows an element; others are ignored.
   void FocusCell(std::size_t row, std::size_t col);
