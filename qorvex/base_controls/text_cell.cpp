@@ -67,6 +67,12 @@ void TextCell::Restore() {
   }
   setModified(false);
 }
+bool TextCell::CommitOrRefuse() {
+  if (Commit()) return true;
+  Q_EMIT Refused(text());
+  return false;
+}
+
 
 void TextCell::CommitOrRestore() {
   if (Commit()) return;
@@ -214,7 +220,7 @@ void TextCell::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!Commit()) return;
+      if (!CommitOrRefuse()) return;
       break;
     default:
       if (event == QKeySequence::Paste) {

@@ -34,7 +34,9 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   virtual bool Commit() = 0;
   /// Discards the typed text.
   virtual void Restore();
-  /// Commits, or restores if that fails.
+  /// Commits as Enter does: if that fails the text stays, and Refused is raised.
+  bool CommitOrRefuse();
+  /// Commits, or restores if that fails, and Refused is raised.
   void CommitOrRestore();
   /// Leaves the cell like a change of focus: CommitOrRestore, then Left. Does nothing if the cell
   /// has not been entered.
@@ -57,7 +59,7 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   void Entered();
   /// The focus has gone to another widget, and the text is committed or restored.
   void Left();
-  /// CommitOrRestore has discarded this text.
+  /// This text cannot be committed: it is still there, or CommitOrRestore has discarded it.
   void Refused(const QString& text);
   /// A menu is about to open; the owner may add to it.
   void MenuOpening(QMenu* menu);

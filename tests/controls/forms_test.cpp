@@ -206,4 +206,34 @@ TYPED_TEST(Forms, KeepWhatIsBeingTypedAsLongAsItsElementStays) {
   EXPECT_EQ(this->editor->CurrentRow() < 6, true);
 }
 
+TYPED_TEST(Forms, ReportATextThatIsRefused) {
+  this->Open(6);
+  QSignalSpy refused(this->editor, &CellPanel::OnTextRefused);
+  const struct {
+    int edit;
+    Qt::Key key;
+    bool stays;
+  } cases[] = {{1, Qt::Key_Return, true},
+               {1, Qt::Key_Tab, false},
+               {3, Qt::Key_Tab, false},
+               {0, Qt::Key_Backtab, false}};
+  for (const auto& [edit, key, stays] : cases) {
+    QToolTip::hideText();
+    this->editor->setDisplayTopRow(0);
+    QCoreApplication::processEvents();
+    this->FocusEdit(static_cast<quint32>(edit));
+    const QString value = this->Cell(edit)->text();
+    this->Type("1x");
+    this->Press(key);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(refused.count(), 1) << key;
+    const QString message = refused.takeFirst().first().toString();
+    EXPECT_TRUE(message.contains("\"1x\" is not a number")) << message.toStdString();
+    EXPECT_EQ(QToolTip::text(), message);
+    EXPECT_EQ(this->Cell(edit)->hasFocus(), stays || edit == 3);
+    EXPECT_EQ(this->Cell(edit)->text(), stays ? "1x" : edit == 3 ? "4" : value);
+    this->Press(Qt::Key_Escape);
+  }
+}
+
 }  // namespace qorvex

@@ -70,7 +70,7 @@ void PanelFocus::Park(const PanelAxis& axis) {
 }
 
 void PanelFocus::Step(PanelAxis& along, PanelAxis& across, bool forward) {
-  if (entered_ != nullptr && !entered_->Commit()) return;
+  if (entered_ != nullptr && !entered_->CommitOrRefuse()) return;
   const auto state = [this](const PanelAxis& axis) {
     const EditWindow& window = axis.Window();
     const bool follows_top = rule_ == CurrentRule::kFollowsTop;
