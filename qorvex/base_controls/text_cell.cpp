@@ -15,7 +15,6 @@
 #include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 #include "qorvex/base_controls/detail/tool_tip.h"
@@ -67,12 +66,12 @@ void TextCell::Restore() {
   }
   setModified(false);
 }
+
 bool TextCell::CommitOrRefuse() {
   if (Commit()) return true;
   Q_EMIT Refused(text());
   return false;
 }
-
 
 void TextCell::CommitOrRestore() {
   if (Commit()) return;
@@ -170,13 +169,13 @@ void TextCell::paintEvent(QPaintEvent* event) {
 }
 
 bool TextCell::event(QEvent* event) {
+  // While the window was inactive, the focus has been given to another widget.
+  if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this) Leave();
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
     const QString tip = Tip();
     if (!tip.isEmpty()) {
       QToolTip::showText(static_cast<const QHelpEvent&>(*event).globalPos(), detail::AsToolTip(tip),
                          this);
-  // While the window was inactive, the focus has been given to another widget.
-  if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this) Leave();
       return true;
     }
   }
@@ -293,8 +292,9 @@ QMenu* TextCell::CreateContextMenu() {
 }
 
 void TextCell::contextMenuEvent(QContextMenuEvent* event) {
-  const std::unique_ptr<QMenu> menu(CreateContextMenu());
-  menu->exec(event->globalPos());
+  QMenu* const menu = CreateContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->popup(event->globalPos());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

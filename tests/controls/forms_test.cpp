@@ -236,4 +236,50 @@ TYPED_TEST(Forms, ReportATextThatIsRefused) {
   }
 }
 
+TYPED_TEST(Forms, OpenTheMenuThatTheirPolicyNames) {
+  this->Open(6);
+  this->editor->setDisplayTopRow(2);
+  QStringList happened;
+  QObject::connect(this->editor, &CellPanel::OnContextMenu, this->editor,
+                   [&](QMenu& menu, quint32 row, quint32 col) {
+                     menu.addAction("Mine");
+                     happened.append(QString("menu %1 %2").arg(row).arg(col));
+                   });
+  const auto requests = [&](QWidget* widget, const char* name) {
+    QObject::connect(widget, &QWidget::customContextMenuRequested, this->editor,
+                     [&happened, name, this](QPoint place) {
+                       const bool there = place == this->Cell(1)->mapTo(this->editor, QPoint(3, 4));
+                       happened.append(QString(name) + (there ? " there" : ""));
+                     });
+  };
+  requests(this->editor, "editor");
+  requests(this->window.get(), "window");
+  this->window->setContextMenuPolicy(Qt::CustomContextMenu);
+  QAction own("Own");
+  this->editor->addAction(&own);
+  const std::pair<Qt::ContextMenuPolicy, const char*> cases[] = {
+      {Qt::DefaultContextMenu, "menu 3 0, Mine"},
+      {Qt::CustomContextMenu, "editor there"},
+      {Qt::ActionsContextMenu, "Own"},
+      {Qt::NoContextMenu, "window"},
+      {Qt::PreventContextMenu, ""},
+  };
+  for (const auto& [policy, expected] : cases) {
+    this->editor->setContextMenuPolicy(policy);
+    // The menu of actions runs a loop of its own.
+    QTimer::singleShot(0, [&happened] {
+      auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      if (menu == nullptr) return;
+      happened.append(menu->actions().last()->text());
+      menu->close();
+    });
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {3, 4},
+                            this->Cell(1)->mapToGlobal(QPoint(3, 4)));
+    QApplication::sendEvent(this->Cell(1), &event);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(happened.join(", ").toStdString(), expected) << policy;
+    happened.clear();
+  }
+}
+
 }  // namespace qorvex

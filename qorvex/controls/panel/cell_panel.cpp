@@ -69,7 +69,10 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::Refused, this,
           [=, this, &cell](const QString& text) { RefuseText(cell, row(), col(), text); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
-  connect(&cell, &TQorCustomEdit::MenuOpening, this, &CellPanel::AddToMenu);
+  connect(&cell, &TQorCustomEdit::MenuOpening, this, [=, this](QMenu* menu) {
+    AddToMenu(menu);
+    Q_EMIT OnContextMenu(*menu, row(), col());
+  });
   cell.StoreElsewhere = [=, this, &cell](Extended value) { DoChange(cell, row(), col(), value); };
   Watch(cell);
 }
@@ -114,8 +117,8 @@ void CellPanel::FitGrid() {
 void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
-  if (!Updating()) parts_->grid.Show();
   parts_->focus.Lead();
+  if (!Updating()) parts_->grid.Show();
 }
 
 void CellPanel::Watch(TextCell& text) {

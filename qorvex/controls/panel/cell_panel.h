@@ -172,6 +172,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
   /// message names element and text.
   void OnTextRefused(const QString& message);
+  /// The menu of the element's cell is about to open: add to it. It is raised as long as the
+  /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
+  void OnContextMenu(QMenu& menu, quint32 row, quint32 col);
 
   /// @{
   /// Events of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event suppresses

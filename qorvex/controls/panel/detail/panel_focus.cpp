@@ -54,13 +54,13 @@ void PanelFocus::FocusCell(std::size_t row, std::size_t col) {
   cell->setFocus(Qt::OtherFocusReason);
 }
 
+TextCell* PanelFocus::TextAt(std::size_t row, std::size_t col) const {
+  return in_header_ ? grid_.HeaderText(row) : grid_.Cell(row, col);
+}
+
 void PanelFocus::Navigate(std::size_t row, std::size_t col) {
   if (!grid_.IsUsed(row, col)) return;
   TextAt(row, col)->setFocus(Qt::OtherFocusReason);
-}
-
-TextCell* PanelFocus::TextAt(std::size_t row, std::size_t col) const {
-  return in_header_ ? grid_.HeaderText(row) : grid_.Cell(row, col);
 }
 
 void PanelFocus::Park(const PanelAxis& axis) {
@@ -92,7 +92,6 @@ void PanelFocus::Go(PanelAxis& along, PanelAxis& across, const GridStep& step) {
   Navigate(row.edit, col.edit);
 }
 
-}  // namespace qorvex::inline QorvexControls::detail
 bool PanelFocus::StopsAtHeader(std::size_t row) const {
   return grid_.HasHeader() && StopsAt(*grid_.HeaderText(row));
 }
@@ -145,3 +144,4 @@ bool PanelFocus::Redirect(const QObject* text, Qt::FocusReason reason) {
   return true;
 }
 
+}  // namespace qorvex::inline QorvexControls::detail

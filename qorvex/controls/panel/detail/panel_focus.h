@@ -6,9 +6,9 @@
 #include <functional>
 
 #include "qorvex/base_controls/text_cell.h"
+#include "qorvex/controls/detail/grid_navigation.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
-#include "qorvex/controls/detail/grid_navigation.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -38,10 +38,6 @@ class PanelFocus {
 
   /// Moves the focus one cell along an axis. A text that is not a number keeps it.
   void Step(PanelAxis& along, PanelAxis& across, bool forward);
-
-  /// Runs a change of an axis, after which its edits from the given one on are gone or show no
-  /// element. A focus there leaves its cell before the change and goes to the last used cell
-  /// after it.
   /// Moves the focus as the tab key does to the next element in reading order if that is out of
   /// sight; false if it is in sight or there is none, and if the key does not stop at the cells.
   bool TabOn(bool forward);
@@ -51,6 +47,10 @@ class PanelFocus {
   /// A text is about to get the focus. If the tab key or a buddy leads to the panel, the first text
   /// gets it instead, and the result is true.
   bool Redirect(const QObject* text, Qt::FocusReason reason);
+
+  /// Runs a change of an axis, after which its edits from the given one on are gone or show no
+  /// element. A focus there leaves its cell before the change and goes to the last used cell
+  /// after it.
   template <class Change>
   void Keep(PanelAxis& axis, quint32 first_gone, Change change) {
     const bool moves = entered_ != nullptr && axis.Window().Focus() >= first_gone;
@@ -60,20 +60,20 @@ class PanelFocus {
   }
 
  private:
-  // Leaves the cell; the focus waits on the bar.
-  void Park(const PanelAxis& axis);
-
-  PanelAxis& rows_;
   // The cell, or the text of the header when the focus was last there.
   [[nodiscard]] TextCell* TextAt(std::size_t row, std::size_t col) const;
-  PanelAxis& cols_;
-  const CellGrid& grid_;
+  // Leaves the cell; the focus waits on the bar.
+  void Park(const PanelAxis& axis);
   // Scrolls if need be, and moves the focus.
   void Go(PanelAxis& along, PanelAxis& across, const GridStep& step);
   // Whether the tab key stops at the text in front of a row.
   [[nodiscard]] bool StopsAtHeader(std::size_t row) const;
-  CurrentRule rule_;
+
   QWidget& panel_;
+  PanelAxis& rows_;
+  PanelAxis& cols_;
+  const CellGrid& grid_;
+  CurrentRule rule_;
   TextCell* entered_ = nullptr;
   bool in_header_ = false;
 };

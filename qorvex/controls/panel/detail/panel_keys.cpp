@@ -161,6 +161,11 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
     }
     case QEvent::FocusIn:
       return focus_.Redirect(watched, static_cast<const QFocusEvent&>(*event).reason());
+    case QEvent::ContextMenu:
+      if (panel_.contextMenuPolicy() == Qt::DefaultContextMenu) break;
+      // Ignored, it goes on to the panel, which follows its policy.
+      event->ignore();
+      return true;
     case QEvent::KeyRelease:
       Q_EMIT panel_.OnKeyUp(static_cast<QKeyEvent*>(event));
       break;
