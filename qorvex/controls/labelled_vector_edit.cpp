@@ -40,7 +40,7 @@ TQorLabelledVectorEdit::TQorLabelledVectorEdit(QWidget* parent) : TQorVectorEdit
        .name = [this](quint32 row_edit) { return LabelName(row_edit); },
        .apply = [this](TextCell& label,
                        const CellSettings& settings) { ApplyTo(label, settings); }});
-  Parts().grid.SetHeaderWidth(label_width_);
+  Parts().geometry.SetHeaderWidth(label_width_);
   FitGrid();
 }
 
@@ -72,8 +72,8 @@ void TQorLabelledVectorEdit::setLabelsEditable(bool editable) {
 }
 
 void TQorLabelledVectorEdit::setLabelWidth(int width) {
-  label_width_ = std::max(width, 0);
-  Parts().grid.SetHeaderWidth(label_width_);
+  label_width_ = std::clamp(width, 0, QorvexControls::detail::ElementSizes::kLargest);
+  Parts().geometry.SetHeaderWidth(label_width_);
   Arrange();
 }
 

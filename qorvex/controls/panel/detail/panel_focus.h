@@ -45,6 +45,8 @@ class PanelFocus {
   }
 
  private:
+  // The edit that shows an element; scrolls on while wider columns keep it out of sight.
+  static quint32 Reveal(EditWindow& window, quint32 element);
   // Leaves the cell; the focus waits on the bar.
   void Park(const PanelAxis& axis);
 
