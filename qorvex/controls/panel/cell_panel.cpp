@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "qorvex/controls/panel/detail/accessible_panel.h"
 #include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
@@ -19,6 +20,7 @@ constexpr int kMaxEdits = 255;
 CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::CurrentRule rule,
                      detail::EditWindowEvents row_events, detail::EditWindowEvents col_events)
     : TQorCustomPanel(parent), table_(table) {
+  detail::RegisterAccessiblePanels();
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   row_events.before_top = [this](quint32 top) {
     parts_->focus.CommitPending();
@@ -38,9 +40,11 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
 
   parts_->rows.AddBar(Qt::Vertical, *this);
   parts_->keys.WatchBar(*parts_->rows.Bar());
-  if (axes == GridAxes::kRows) return;
-  parts_->cols.AddBar(Qt::Horizontal, *this);
-  parts_->keys.WatchBar(*parts_->cols.Bar());
+  if (axes == GridAxes::kRowsAndCols) {
+    parts_->cols.AddBar(Qt::Horizontal, *this);
+    parts_->keys.WatchBar(*parts_->cols.Bar());
+  }
+  NameBars();
 }
 
 CellPanel::~CellPanel() = default;
@@ -103,6 +107,7 @@ void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   const quint32 top = axis.Window().Top();
   parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
   axis.ReachWantedTop();
+  AnnounceSize();
 }
 
 void CellPanel::FitGrid() {
@@ -153,6 +158,7 @@ void CellPanel::changeEvent(QEvent* event) {
       Arrange();
       break;
     case QEvent::LanguageChange:
+      NameBars();
       Redisplay();
       break;
     default:

@@ -41,7 +41,8 @@ enum class CurrentRule;
 /// Before anything scrolls or changes under a cell, the text that is being typed there is
 /// committed, or discarded if it is not a number.
 ///
-/// Every cell has an accessible name while assistive technology is active.
+/// To screen readers it is a table of all elements, in sight or not. Every cell has an accessible
+/// name while assistive technology is active.
 ///
 /// Handlers of signals may do anything except delete the control; they may call deleteLater unless
 /// they run a nested event loop. A redisplay costs O(cells), whatever the size of the table.
@@ -243,6 +244,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void RefuseBlock(const QString& message);
   void RefuseText(quint32 row, quint32 col, const QString& text);
   void AddToMenu(QMenu* menu);
+  // For screen readers.
+  void NameBars();
+  void AnnounceSize();
   CellTable& table_;
   bool null_ = false;
   bool tab_stop_ = true;
