@@ -49,6 +49,7 @@ TYPED_TEST(AccessibleEditors, AreTablesOfAllElements) {
     EXPECT_TRUE(cell->isValid());
     EXPECT_EQ(Read(cell), row == 25 ? "none" : std::to_string(row));
     EXPECT_NE(Read(cell, QAccessible::Name).find(std::to_string(row + 1)), std::string::npos);
+    EXPECT_EQ(cell->textInterface()->text(0, 99).toStdString(), Read(cell));
     EXPECT_EQ(cell->role(), QAccessible::Cell);
     EXPECT_EQ(cell->state().offscreen, row > 3);
     EXPECT_EQ(cell->rect().isEmpty(), row > 3);

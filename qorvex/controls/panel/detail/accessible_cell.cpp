@@ -129,22 +129,21 @@ QAccessible::State AccessibleElement::state() const {
   return StateInTable(state);
 }
 
+QString AccessibleElement::WholeText() const {
+  return isValid() ? Table()->Text(place_) : QString();
+}
+
 QString AccessibleElement::text(QAccessible::Text kind) const {
-  if (!isValid()) return {};
-  switch (kind) {
-    case QAccessible::Name:
-      return Table()->Name(place_);
-    case QAccessible::Value:
-      return place_.kind == Kind::kElement ? Table()->Text(place_) : QString();
-    default:
-      return {};
-  }
+  if (kind == QAccessible::Value) return WholeText();
+  return kind == QAccessible::Name && isValid() ? Table()->Name(place_) : QString();
 }
 
 void* AccessibleElement::interface_cast(QAccessible::InterfaceType type) {
   switch (type) {
     case QAccessible::ActionInterface:
       return static_cast<QAccessibleActionInterface*>(this);
+    case QAccessible::TextInterface:
+      return static_cast<QAccessibleTextInterface*>(this);
     case QAccessible::TableCellInterface:
       return static_cast<QAccessibleTableCellInterface*>(this);
     default:

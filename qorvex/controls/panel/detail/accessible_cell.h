@@ -76,10 +76,13 @@ class AccessibleCell : public QAccessibleWidget, public AccessibleTableCell {
 /// An element or a heading out of sight. Giving it the focus scrolls it into sight.
 class AccessibleElement : public QAccessibleInterface,
                           public AccessibleTableCell,
-                          public QAccessibleActionInterface {
+                          public QAccessibleActionInterface,
+                          public AccessibleReading {
  public:
   AccessibleElement(CellPanel* panel, const AccessiblePlace& place)
       : panel_(panel), place_(place) {}
+
+  QString WholeText() const override;
 
   AccessiblePanel* Table() const override;
   std::optional<AccessiblePlace> Place() const override;
@@ -96,6 +99,7 @@ class AccessibleElement : public QAccessibleInterface,
   QAccessible::Role role() const override { return RoleInTable(); }
   QAccessible::State state() const override;
   QString text(QAccessible::Text kind) const override;
+  using AccessibleReading::text;
   void setText(QAccessible::Text, const QString&) override {}
   void* interface_cast(QAccessible::InterfaceType type) override;
 

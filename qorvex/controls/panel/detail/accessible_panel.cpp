@@ -83,21 +83,20 @@ bool AccessiblePanel::HasColHeadings() const {
 }
 
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
-  const CellTable& table = Parts()->table;
+  return place.kind == Kind::kElement ? Parts()->table.CellName(place.row, place.col) : Text(place);
+}
+
+QString AccessiblePanel::Text(const AccessiblePlace& place) const {
+  const PanelParts& parts = *Parts();
   switch (place.kind) {
     case Kind::kRowHeading:
-      return table.RowHeading(place.row);
+      return parts.table.RowHeading(place.row);
     case Kind::kColHeading:
-      return table.ColHeading(place.col);
+      return parts.table.ColHeading(place.col);
     case Kind::kElement:
       break;
   }
-  return table.CellName(place.row, place.col);
-}
-
-QString AccessiblePanel::Text(const AccessiblePlace& element) const {
-  const PanelParts& parts = *Parts();
-  return parts.grid.Cell(0, 0)->TextFor(parts.table.Value(element.row, element.col));
+  return parts.grid.Cell(0, 0)->TextFor(parts.table.Value(place.row, place.col));
 }
 
 TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {

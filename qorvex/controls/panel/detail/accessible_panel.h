@@ -43,7 +43,7 @@ class AccessiblePanel : public QAccessibleWidget, public QAccessibleTableInterfa
   [[nodiscard]] bool HasColHeadings() const;
   [[nodiscard]] bool IsSelected(const AccessiblePlace& place) const;
   [[nodiscard]] QString Name(const AccessiblePlace& place) const;
-  [[nodiscard]] QString Text(const AccessiblePlace& element) const;
+  [[nodiscard]] QString Text(const AccessiblePlace& place) const;
   [[nodiscard]] std::optional<AccessiblePlace> PlaceOf(const TextCell& cell) const;
   [[nodiscard]] QAccessibleInterface* Cell(const AccessiblePlace& place) const;
   void Focus(const AccessiblePlace& element);

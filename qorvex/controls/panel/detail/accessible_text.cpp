@@ -5,6 +5,22 @@
 
 namespace qorvex::inline QorvexControls::detail {
 
+namespace {
+
+QString Part(const QString& text, int start, int end) {
+  const auto first = std::clamp<qsizetype>(start, 0, text.size());
+  return text.sliced(first, std::clamp<qsizetype>(end, first, text.size()) - first);
+}
+
+// The whole text looks the same.
+QString NoAttributes(int length, int* start, int* end) {
+  *start = 0;
+  *end = length;
+  return {};
+}
+
+}  // namespace
+
 void AccessibleText::selection(int index, int* start, int* end) const {
   const bool exists = index == 0 && line_.hasSelectedText();
   *start = exists ? line_.selectionStart() : 0;
@@ -36,8 +52,7 @@ void AccessibleText::setCursorPosition(int position) {
 }
 
 QString AccessibleText::text(int start, int end) const {
-  const int first = std::clamp(start, 0, characterCount());
-  return line_.text().sliced(first, std::clamp(end, first, characterCount()) - first);
+  return Part(line_.text(), start, end);
 }
 
 int AccessibleText::characterCount() const {
@@ -65,10 +80,8 @@ void AccessibleText::scrollToSubstring(int start, int end) {
   line_.setCursorPosition(start);
 }
 
-QString AccessibleText::attributes(int offset, int* start, int* end) const {
-  // The whole text looks the same.
-  *start = *end = offset;
-  return {};
+QString AccessibleText::attributes(int, int* start, int* end) const {
+  return NoAttributes(characterCount(), start, end);
 }
 
 void AccessibleText::deleteText(int start, int end) {
@@ -86,6 +99,14 @@ void AccessibleText::replaceText(int start, int end, const QString& text) {
   line_.setCursorPosition(start);
   line_.setSelection(start, end - start);
   line_.insert(text);
+}
+
+QString AccessibleReading::text(int start, int end) const {
+  return Part(WholeText(), start, end);
+}
+
+QString AccessibleReading::attributes(int, int* start, int* end) const {
+  return NoAttributes(characterCount(), start, end);
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// AccessibleText, the text of a line edit for screen readers.
+/// Texts of cells for screen readers.
 
 #include <QAccessible>
 #include <QLineEdit>
@@ -35,6 +35,27 @@ class AccessibleText : public QAccessibleTextInterface, public QAccessibleEditab
 
  private:
   QLineEdit& line_;
+};
+
+/// A text that is out of sight. It can only be read.
+class AccessibleReading : public QAccessibleTextInterface {
+ public:
+  /// The whole text, now.
+  [[nodiscard]] virtual QString WholeText() const = 0;
+
+  void selection(int, int* start, int* end) const override { *start = *end = 0; }
+  int selectionCount() const override { return 0; }
+  void addSelection(int, int) override {}
+  void removeSelection(int) override {}
+  void setSelection(int, int, int) override {}
+  int cursorPosition() const override { return 0; }
+  void setCursorPosition(int) override {}
+  QString text(int start, int end) const override;
+  int characterCount() const override { return static_cast<int>(WholeText().size()); }
+  QRect characterRect(int) const override { return {}; }
+  int offsetAtPoint(const QPoint&) const override { return -1; }
+  void scrollToSubstring(int, int) override {}
+  QString attributes(int offset, int* start, int* end) const override;
 };
 
 }  // namespace qorvex::inline QorvexControls::detail
