@@ -75,7 +75,7 @@ bool AccessiblePanel::Has(const AccessiblePlace& place) const {
 }
 
 bool AccessiblePanel::HasRowHeadings() const {
-  return Parts() != nullptr && Parts()->grid.HeaderText(0) != nullptr;
+  return Parts() != nullptr && Parts()->grid.HasHeader();
 }
 
 bool AccessiblePanel::HasColHeadings() const {

@@ -71,6 +71,7 @@ class CellGrid : private QAccessible::ActivationObserver {
   [[nodiscard]] TQorCustomEdit* Cell(std::size_t row, std::size_t col) const {
     return cells_[row][col];
   }
+  [[nodiscard]] bool HasHeader() const { return !header_texts_.empty(); }
   /// The text in front of a row of cells; a null pointer if there is none.
   [[nodiscard]] TextCell* HeaderText(std::size_t row) const {
     return row < header_texts_.size() ? header_texts_[row] : nullptr;

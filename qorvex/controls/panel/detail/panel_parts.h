@@ -28,7 +28,7 @@ struct PanelParts {
                 }),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
-        focus(rows, cols, grid, rule),
+        focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
         grid(panel, panel.table_, rows.Window(), cols.Window(),
              {.connect = [&panel](TQorCustomEdit& cell,
