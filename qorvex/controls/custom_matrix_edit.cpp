@@ -1,19 +1,19 @@
 #include "qorvex/controls/custom_matrix_edit.h"
 
 #include <QCoreApplication>
-#include <QMetaMethod>
 #include <QToolButton>
 #include <algorithm>
-#include <new>
 #include <utility>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/controls/detail/array_lines.h"
+#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/shape.h"
 
 namespace qorvex::inline QorvexMatrixEdit {
+
+using QorvexBaseControls::detail::SameElement;
 
 TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent)
     : CellPanel(parent, *this, GridAxes::kRowsAndCols,
@@ -117,7 +117,10 @@ TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
 
 void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
   if (!matrix.empty() && !MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
-  Parts().focus.CommitPending();
+  Parts().focus.CommitUnless([&](quint32 row, quint32 col) {
+    return row < matrix.size() && col < matrix[row].size() &&
+           SameElement(matrix[row][col], Value(row, col));
+  });
   Parts().history.Forget();
   Take(CopyMatrix(matrix));
 }
@@ -201,14 +204,6 @@ void TQorCustomMatrixEdit::ScrollRightMost() {
   Parts().cols.ScrollToEnd();
 }
 
-void TQorCustomMatrixEdit::InsertCols(quint32 col, quint32 count) {
-  CellPanel::InsertLines(CellAxis::kCols, col, count);
-}
-
-void TQorCustomMatrixEdit::DeleteCols(quint32 col, quint32 count) {
-  DeleteLines(CellAxis::kCols, col, count);
-}
-
 Extended TQorCustomMatrixEdit::Value(quint32 row, quint32 col) const {
   if (VirtualMode()) {
     return OnGetElement ? OnGetElement(row, col)
@@ -250,8 +245,7 @@ void TQorCustomMatrixEdit::NotifyText(quint32 row, quint32 col, const QString& t
 
 QString TQorCustomMatrixEdit::CellName(quint32 row, quint32 col) const {
   return QCoreApplication::translate("TQorCustomMatrixEdit", "Row %1, column %2")
-      .arg(qint64{row} + 1)
-      .arg(qint64{col} + 1);
+      .arg(RowHeading(row), ColHeading(col));
 }
 
 QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended value) const {
@@ -263,82 +257,6 @@ QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended val
   QColor color = usual;
   OnSpecialColor(row, col, value, color);
   return color == usual ? QColor() : color;
-}
-
-bool TQorCustomMatrixEdit::CanInsert(CellAxis axis) const {
-  return !VirtualMode() ||
-         isSignalConnected(axis == CellAxis::kRows
-                               ? QMetaMethod::fromSignal(&CellPanel::OnInsertRows)
-                               : QMetaMethod::fromSignal(&TQorCustomMatrixEdit::OnInsertCols));
-}
-
-void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
-                                       Extended value) {
-  const bool rows = axis == CellAxis::kRows;
-  if (VirtualMode()) {
-    rows ? Q_EMIT OnInsertRows(first, count) : Q_EMIT OnInsertCols(first, count);
-    return;
-  }
-  Parts().focus.CommitPending();
-  const Update update(*this);
-  try {
-    InsertIntoStore(axis, first, count, value);
-  } catch (const std::bad_alloc&) {
-    TrimStore();
-    throw;
-  }
-  if (rows) {
-    SetCount(Parts().rows, NoOfRows() + count);
-    Q_EMIT OnNoRowsChange(NoOfRows());
-  } else {
-    SetCount(Parts().cols, NoOfCols() + count);
-    Q_EMIT OnNoColsChange(NoOfCols());
-  }
-}
-
-void TQorCustomMatrixEdit::InsertIntoStore(CellAxis axis, quint32 first, quint32 count,
-                                           Extended value) {
-  // Zeros at the end need no memory.
-  if (value != 0) FullStore();
-  if (axis == CellAxis::kRows) {
-    if (first >= store_.size() && value == 0) return;
-    const auto row = value != 0 ? TQorFloatVector(NoOfCols(), value) : TQorFloatVector();
-    store_.resize(store_.size() + count, row);
-    QorvexControls::detail::MoveLastTo(store_, first, count);
-    return;
-  }
-  // Memory first, so that no row is moved when it runs out.
-  const auto grows = [&](const TQorFloatVector& row) { return first < row.size() || value != 0; };
-  for (TQorFloatVector& row : store_) {
-    if (grows(row)) row.resize(row.size() + count, value);
-  }
-  for (TQorFloatVector& row : store_) {
-    if (grows(row)) QorvexControls::detail::MoveLastTo(row, first, count);
-  }
-}
-
-void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
-  const bool rows = axis == CellAxis::kRows;
-  if (VirtualMode()) {
-    rows ? Q_EMIT OnDeleteRows(first, count) : Q_EMIT OnDeleteCols(first, count);
-    return;
-  }
-  Parts().focus.CommitPending();
-  const Update update(*this);
-  // The store shrinks after the handlers, which may still read the elements that go.
-  if (rows) {
-    SetCount(Parts().rows, NoOfRows() - count);
-    QorvexControls::detail::Remove(store_, first, count);
-    Q_EMIT OnNoRowsChange(NoOfRows());
-  } else {
-    SetCount(Parts().cols, NoOfCols() - count);
-    for (TQorFloatVector& row : store_) QorvexControls::detail::Remove(row, first, count);
-    Q_EMIT OnNoColsChange(NoOfCols());
-  }
-}
-
-std::function<void()> TQorCustomMatrixEdit::KeepLineData(CellAxis, quint32, quint32) {
-  return {};
 }
 
 void TQorCustomMatrixEdit::VirtualModeChanged() {

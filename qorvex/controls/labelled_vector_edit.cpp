@@ -2,10 +2,13 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/text_cell.h"
+#include "qorvex/controls/detail/shift_keys.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexVectorEdit {
@@ -40,7 +43,7 @@ TQorLabelledVectorEdit::TQorLabelledVectorEdit(QWidget* parent) : TQorVectorEdit
        .name = [this](quint32 row_edit) { return LabelName(row_edit); },
        .apply = [this](TextCell& label,
                        const CellSettings& settings) { ApplyTo(label, settings); }});
-  Parts().grid.SetHeaderWidth(label_width_);
+  Parts().geometry.SetHeaderWidth(label_width_);
   FitGrid();
 }
 
@@ -61,7 +64,6 @@ void TQorLabelledVectorEdit::setLabelType(TQorLabelType type) {
   Parts().focus.CommitPending();
   label_type_ = type;
   if (type == ltNumbered) setLabelsEditable(false);
-  if (type == ltCustom) GrowCustomLabels(NoOfRows());
   Redisplay();
 }
 
@@ -72,8 +74,8 @@ void TQorLabelledVectorEdit::setLabelsEditable(bool editable) {
 }
 
 void TQorLabelledVectorEdit::setLabelWidth(int width) {
-  label_width_ = std::max(width, 0);
-  Parts().grid.SetHeaderWidth(label_width_);
+  label_width_ = std::clamp(width, 0, QorvexControls::detail::ElementSizes::kLargest);
+  Parts().geometry.SetHeaderWidth(label_width_);
   Arrange();
 }
 
@@ -81,7 +83,7 @@ QString TQorLabelledVectorEdit::Label(quint32 row) const {
   CheckRow(row);
   switch (label_type_) {
     case ltCustom:
-      return custom_labels_.value(row);
+      return CustomLabel(row);
     case ltNumbered:
       return QString::fromStdString(Int2EStr(qint64{label_offset_} + row));
     case ltSupplied:
@@ -94,7 +96,7 @@ void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
   CheckRow(row);
   if (VirtualMode()) {
     Q_EMIT OnSetLabel(row, label);
-  } else if (label_type_ != ltCustom || custom_labels_.value(row) == label) {
+  } else if (label_type_ != ltCustom || CustomLabel(row) == label) {
     return;
   } else {
     SetCustomLabel(row, label);
@@ -103,23 +105,40 @@ void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
   Redisplay();
 }
 
-void TQorLabelledVectorEdit::GrowCustomLabels(qsizetype count) {
-  if (custom_labels_.size() < count) custom_labels_.resize(count);
+QString TQorLabelledVectorEdit::CustomLabel(quint32 row) const {
+  const auto label = custom_labels_.find(row);
+  return label != custom_labels_.end() ? label->second : QString();
 }
 
 void TQorLabelledVectorEdit::SetCustomLabel(quint32 row, const QString& label) {
-  GrowCustomLabels(qsizetype{row} + 1);
-  custom_labels_[row] = label;
+  if (label.isEmpty()) {
+    custom_labels_.erase(row);
+  } else {
+    custom_labels_[row] = label;
+  }
+}
+
+void TQorLabelledVectorEdit::SortCustomLabels() {
+  const auto end = custom_labels_.lower_bound(NoOfRows());
+  std::vector<QString> sorted;
+  for (auto label = custom_labels_.begin(); label != end; ++label) sorted.push_back(label->second);
+  std::ranges::stable_sort(sorted, [](const QString& a, const QString& b) {
+    return a.compare(b, Qt::CaseInsensitive) < 0;
+  });
+  custom_labels_.erase(custom_labels_.begin(), end);
+  // Behind the empty ones.
+  quint32 row = NoOfRows() - static_cast<quint32>(sorted.size());
+  for (const QString& label : sorted) custom_labels_[row++] = label;
 }
 
 void TQorLabelledVectorEdit::Sort() {
   const Update update(*this);
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
-    const auto before = std::make_shared<QStringList>(custom_labels_);
-    const auto bytes = before->size() * qint64{sizeof(QString)};
+    const auto before = std::make_shared<std::map<quint32, QString>>(custom_labels_);
+    const auto bytes = static_cast<qint64>(before->size() * sizeof(*before->begin()));
     Parts().history.ExtendCommand(bytes, [this, before] { std::swap(custom_labels_, *before); });
-    custom_labels_.sort(Qt::CaseInsensitive);
+    SortCustomLabels();
   }
 }
 
@@ -128,8 +147,8 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
   TQorVectorEdit::SwapElements(first, second);
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto swap = [=, this] {
-      const QString label = custom_labels_.value(first);
-      SetCustomLabel(first, custom_labels_.value(second));
+      const QString label = CustomLabel(first);
+      SetCustomLabel(first, CustomLabel(second));
       SetCustomLabel(second, label);
     };
     swap();
@@ -141,29 +160,20 @@ void TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 c
                                          Extended value) {
   Parts().focus.CommitPending();
   const Update update(*this);
-  if (!VirtualMode() && first < custom_labels_.size()) {
-    custom_labels_.insert(first, count, QString());
-  }
   TQorVectorEdit::InsertLines(axis, first, count, value);
+  if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, 0, count);
 }
 
 void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
   Parts().focus.CommitPending();
   const Update update(*this);
   TQorVectorEdit::RemoveLines(axis, first, count);
-  if (!VirtualMode() && first < custom_labels_.size()) {
-    custom_labels_.remove(first, std::min<qsizetype>(count, custom_labels_.size() - first));
-  }
+  if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, count, 0);
 }
 
 std::function<void()> TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
-  const QStringList labels = custom_labels_.mid(first, count);
-  if (labels.isEmpty()) return {};
-  return [this, first, labels] {
-    for (qsizetype i = 0; i < labels.size(); ++i) {
-      SetCustomLabel(first + static_cast<quint32>(i), labels[i]);
-    }
-  };
+  auto labels = QorvexControls::detail::EntriesOf(custom_labels_, first, count);
+  return [this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); };
 }
 
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
@@ -226,7 +236,7 @@ void TQorLabelledVectorEdit::ApplyTo(TextCell& label, const CellSettings& settin
 void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool used) {
   const quint32 row = Rows().Top() + row_edit;
   // A star marks the spare row.
-  const QString text = row < NoOfRows() ? Label(row) : QStringLiteral("*");
+  const QString text = row < NoOfRows() ? Label(row) : QString(QorvexControls::detail::kSpareMark);
   static_cast<LabelCell&>(label).Show(used ? text : QString());
   label.setEnabled(used);
 }

@@ -145,6 +145,22 @@
         <source>Typing</source>
         <translation>Eingabe</translation>
     </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektor</translation>
+    </message>
+    <message>
+        <source>Matrix</source>
+        <translation>Matrix</translation>
+    </message>
 </context>
 <context>
     <name>TQorCustomMatrixEdit</name>

@@ -3,6 +3,7 @@
 /// @file
 /// PanelAxis, the rows or the columns of a panel of cells.
 
+#include <QLatin1Char>
 #include <QScrollBar>
 #include <Qt>
 #include <functional>
@@ -11,6 +12,9 @@
 #include "qorvex/controls/detail/edit_window.h"
 
 namespace qorvex::inline QorvexControls::detail {
+
+/// The heading of the spare line.
+inline constexpr QLatin1Char kSpareMark('*');
 
 /// The window of cells over one axis of a table, and the scroll bar that moves it. The columns of a
 /// vector have no bar.
@@ -34,6 +38,12 @@ class PanelAxis {
   [[nodiscard]] bool HasSpare() const noexcept { return has_spare_; }
   [[nodiscard]] static quint32 Lines(quint32 count, bool spare);
   void SetCount(quint32 count, bool spare);
+  /// @}
+
+  /// @{
+  /// The number of edits that was asked for, which may differ from those that have room.
+  [[nodiscard]] quint32 PreferredEdits() const noexcept { return preferred_edits_; }
+  void SetPreferredEdits(quint32 edits) noexcept { preferred_edits_ = edits; }
   /// @}
 
   /// Scrolls. A form may set the top before the length of the axis: until Loaded, a top beyond the
@@ -62,6 +72,7 @@ class PanelAxis {
   std::unique_ptr<QScrollBar> bar_;
   quint32 count_ = 0;
   bool has_spare_ = false;
+  quint32 preferred_edits_ = 0;
   quint32 wanted_top_ = 0;
   bool loaded_ = false;
   bool placing_bar_ = false;

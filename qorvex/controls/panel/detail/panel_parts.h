@@ -11,6 +11,7 @@
 #include "qorvex/controls/panel/detail/change_history.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
@@ -20,7 +21,8 @@ namespace qorvex::inline QorvexControls::detail {
 struct PanelParts {
   PanelParts(CellPanel& panel, CurrentRule rule, EditWindowEvents row_events,
              EditWindowEvents col_events)
-      : settings(panel, [&panel] { panel.ApplySettings(); }),
+      : table(panel.table_),
+        settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
                 {.batch =
                      [&panel](const std::function<void()>& run) {
@@ -33,9 +35,12 @@ struct PanelParts {
                  .can_redo_changed = [&panel](bool can) { Q_EMIT panel.OnCanRedoChange(can); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
-        focus(rows, cols, grid, rule),
+        geometry(panel, rows.Window(), cols.Window()),
+        focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
-        grid(panel, panel.table_, rows.Window(), cols.Window(),
+        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
+                 panel.HeadingEvents()),
+        grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
               .drop =
@@ -44,12 +49,23 @@ struct PanelParts {
                     focus.Leave(text);
                   }}) {}
 
+  /// The parts of a widget that is a panel; a null pointer for others, and while the editor is
+  /// being made or destroyed, when there is no table.
+  static PanelParts* Of(QWidget* widget) {
+    const auto* const panel = qobject_cast<const CellPanel*>(widget);
+    const bool is_editor = panel != nullptr && panel->metaObject() != &CellPanel::staticMetaObject;
+    return is_editor ? panel->parts_.get() : nullptr;
+  }
+
+  CellTable& table;
   SharedSettings settings;
   ChangeHistory history;
   PanelAxis rows;
   PanelAxis cols;
+  GridGeometry geometry;
   PanelFocus focus;
   PanelKeys keys;
+  PanelHeadings headings;
   CellGrid grid;
   QWidget* corner = nullptr;
 };
