@@ -65,7 +65,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::textEdited, this,
           [=, this](const QString& text) { table_.NotifyText(row(), col(), text); });
   connect(&cell, &TQorCustomEdit::Refused, this,
-          [=, this](const QString& text) { RefuseText(row(), col(), text); });
+          [=, this, &cell] { RefuseText(row(), col(), cell.Refusal()); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
   connect(&cell, &TQorCustomEdit::MenuOpening, this, &CellPanel::AddToMenu);
   cell.StoreElsewhere = [=, this, &cell](Extended value) { DoChange(cell, row(), col(), value); };

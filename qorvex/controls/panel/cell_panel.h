@@ -164,7 +164,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnUndo();
   /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
-  /// A typed text is not a number and has been discarded; the message names element and text.
+  /// A typed text is not a number and has been discarded; the message names the element and says
+  /// why.
   void OnTextRefused(const QString& message);
 
   /// @{
@@ -241,7 +242,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ApplySettings();
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
   void RefuseBlock(const QString& message);
-  void RefuseText(quint32 row, quint32 col, const QString& text);
+  void RefuseText(quint32 row, quint32 col, const QString& reason);
   void AddToMenu(QMenu* menu);
   CellTable& table_;
   bool null_ = false;

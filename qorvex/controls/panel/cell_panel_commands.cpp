@@ -65,11 +65,10 @@ void CellPanel::RefuseBlock(const QString& message) {
   Q_EMIT OnBlockRefused(message);
 }
 
-void CellPanel::RefuseText(quint32 row, quint32 col, const QString& text) {
-  Q_EMIT OnTextRefused(QCoreApplication::translate("CellPanel",
-                                                   "%1: \"%2\" is not a number. The value stays.",
-                                                   "name of a cell, its text")
-                           .arg(table_.CellName(row, col), text));
+void CellPanel::RefuseText(quint32 row, quint32 col, const QString& reason) {
+  Q_EMIT OnTextRefused(QCoreApplication::translate("CellPanel", "%1: %2 The value stays.",
+                                                   "name of a cell, why its text is refused")
+                           .arg(table_.CellName(row, col), reason));
 }
 
 void CellPanel::Undo() {
