@@ -10,6 +10,7 @@
 #include "qorvex/controls/panel/detail/change_history.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
@@ -27,9 +28,12 @@ struct PanelParts {
                 }),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
-        focus(rows, cols, grid, rule),
+        geometry(panel, rows.Window(), cols.Window()),
+        focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
-        grid(panel, panel.table_, rows.Window(), cols.Window(),
+        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
+                 panel.HeadingEvents()),
+        grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
               .drop =
@@ -42,8 +46,10 @@ struct PanelParts {
   ChangeHistory history;
   PanelAxis rows;
   PanelAxis cols;
+  GridGeometry geometry;
   PanelFocus focus;
   PanelKeys keys;
+  PanelHeadings headings;
   CellGrid grid;
   QWidget* corner = nullptr;
 };
