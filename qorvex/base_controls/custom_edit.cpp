@@ -91,8 +91,12 @@ bool TQorCustomEdit::ShowsNumber() const {
 }
 
 QString TQorCustomEdit::ShownText() const {
-  if (ShowsNumber()) return TextOf(value_);
-  return has_value_ && Null() && !BlankWhenNull() ? NullStr() : QString();
+  return has_value_ ? TextFor(value_) : QString();
+}
+
+QString TQorCustomEdit::TextFor(Extended value) const {
+  if (std::isnan(value)) return BlankWhenNull() ? QString() : NullStr();
+  return value == 0 && BlankWhenZero() ? QString() : TextOf(value);
 }
 
 bool TQorCustomEdit::Commit() {

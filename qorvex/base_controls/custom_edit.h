@@ -90,6 +90,8 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
 
   /// What a text means, as Commit reads it.
   [[nodiscard]] CellReading Read(const QString& text) const;
+  /// The text that the cell would show for a value.
+  [[nodiscard]] QString TextFor(Extended value) const;
   /// The text of a value with all its digits, for other programs.
   [[nodiscard]] QString ExactText(Extended value) const;
 
