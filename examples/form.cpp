@@ -18,6 +18,7 @@ class WeighingForm : public QWidget {
   WeighingForm() {
     setWindowTitle("Weighings");
     weighings_->setDecimalPlaces(2);
+    weighings_->setLabelWidth(24);
     weighings_->setVector({10.1L, 10.2L, 10.3L, 10.4L, 10.2L, 10.3L});
     auto* const rows = new QFormLayout(this);
     rows->addRow("&Sample", new QLineEdit("Copper"));

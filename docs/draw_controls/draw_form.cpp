@@ -12,6 +12,7 @@ std::unique_ptr<QWidget> WeighingForm() {
   auto* const editor = new qorvex::TQorLabelledVectorEdit;
   auto* const message = new QLabel;
   editor->setDecimalPlaces(2);
+  editor->setLabelWidth(24);
   editor->setVector({10.1L, 10.2L, 10.3L, 10.4L, 10.2L, 10.3L});
   rows->addRow("&Sample", new QLineEdit("Copper"));
   rows->addRow("&Weighings, g", editor);
