@@ -282,6 +282,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool tab_stop_ = true;
   bool virtual_mode_ = false;
   bool auto_edits_ = false;
+  // Qt sends the size when the panel is shown; until then it is not the one that a layout gives.
+  bool has_size_ = false;
   std::unique_ptr<detail::PanelParts> parts_;
 };
 

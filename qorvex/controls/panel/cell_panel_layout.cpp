@@ -92,8 +92,7 @@ bool CellPanel::NeedsBar(const detail::PanelAxis& axis) const {
 }
 
 void CellPanel::FitEdits() {
-  // Its size is not its own until it is shown.
-  if (!auto_edits_ || testAttribute(Qt::WA_PendingResizeEvent)) return;
+  if (!auto_edits_ || !has_size_) return;
   const detail::GridGeometry& geometry = parts_->geometry;
   const QSize room = contentsRect().size() - QSize(geometry.HeaderWidth(), geometry.HeaderHeight());
   const detail::EditWindow& rows = Rows();
