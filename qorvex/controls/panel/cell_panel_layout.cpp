@@ -71,7 +71,6 @@ void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
 
 void CellPanel::ChangeEdits(detail::PanelAxis& axis, quint32 edits) {
   if (edits == axis.Window().Edits()) return;
-  parts_->focus.CommitPending();
   parts_->focus.Keep(axis, edits, [&] { axis.Window().SetEdits(edits); });
   FitGrid();
   axis.ReachWantedTop();

@@ -29,7 +29,7 @@ struct PanelParts {
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
-        focus(rows, cols, grid, rule),
+        focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
