@@ -128,11 +128,8 @@ void CellPanel::Place() {
   const QSize bars(NeedsBar(parts_->rows) ? BarExtent() : 0,
                    NeedsBar(parts_->cols) ? BarExtent() : 0);
   QSize cells = parts_->geometry.Size();
-  if (auto_edits_) {
-    const QSize room = contentsRect().size() - bars;
-    cells.setHeight(room.height());
-    if (parts_->cols.Bar()) cells.setWidth(room.width());
-  }
+  // Two bars meet in the corner of the panel, wherever the last cells end.
+  if (auto_edits_ && parts_->cols.Bar()) cells = contentsRect().size() - bars;
   const int left = parts_->geometry.HeaderWidth();
   const int top = parts_->geometry.HeaderHeight();
   const auto place = [this](QWidget* widget, const QRect& rectangle) {
