@@ -33,6 +33,7 @@ const struct {
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
+    {"matrix_layout", MatrixLayouts},
     {"vector_edit", VectorEdits},
 };
 

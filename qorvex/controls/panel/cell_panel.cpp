@@ -173,6 +173,7 @@ void CellPanel::changeEvent(QEvent* event) {
 
 void CellPanel::resizeEvent(QResizeEvent* event) {
   TQorCustomPanel::resizeEvent(event);
+  has_size_ = true;
   Arrange();
 }
 

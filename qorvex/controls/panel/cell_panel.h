@@ -376,6 +376,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool virtual_mode_ = false;
   bool can_grow_ = false;
   bool auto_edits_ = false;
+  // Qt sends the size when the panel is shown; until then it is not the one that a layout gives.
+  bool has_size_ = false;
   std::unique_ptr<detail::PanelParts> parts_;
 };
 
