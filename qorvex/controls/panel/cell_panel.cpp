@@ -56,6 +56,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   const auto col = [this, place] { return Cols().Top() + place.col; };
   connect(&cell, &TQorCustomEdit::Entered, this, [=, this, &cell] {
     parts_->focus.Enter(cell, place, false);
+    parts_->selection.Entered(cell.EnteredByMouse());
     table_.Notify(CellEvent::kEnter, row(), col());
   });
   connect(&cell, &TQorCustomEdit::Left, this, [=, this, &cell] {
@@ -115,9 +116,11 @@ void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
   if (!Updating()) parts_->grid.Show();
+  parts_->selection.Update();
 }
 
 void CellPanel::Watch(TextCell& text) {
+  connect(&text, &QLineEdit::textEdited, this, [this] { parts_->focus.SetEditing(true); });
   parts_->keys.Watch(text);
 }
 

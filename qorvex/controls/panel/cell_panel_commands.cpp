@@ -1,61 +1,13 @@
-// What a user or a program does with a whole panel of cells: copying, pasting, undoing.
+// What a user or a program does with a whole panel of cells: commands, undoing, messages.
 
-#include <QApplication>
-#include <QClipboard>
 #include <QCoreApplication>
 #include <QMenu>
 #include <QToolTip>
-#include <new>
-#include <utility>
 
 #include "qorvex/base_controls/detail/tool_tip.h"
-#include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
-
-namespace {
-
-constexpr quint64 kMaxCopiedValues = 10'000'000;
-
-}  // namespace
-
-bool CellPanel::PasteBlock(const QString& text) {
-  parts_->focus.CommitPending();
-  if (EffectiveSettings().read_only) {
-    RefuseBlock(detail::NotChangeable());
-    return false;
-  }
-  detail::PasteResult paste =
-      detail::PlanPaste(table_, parts_->grid.IsEmpty() ? nullptr : parts_->grid.Cell(0, 0), text,
-                        Rows().Top() + Rows().Focus(), Cols().Top() + Cols().Focus());
-  if (paste.refusal.isEmpty()) {
-    if (paste.changes.empty()) return true;
-    try {
-      parts_->history.Apply(std::move(paste.changes));
-      return true;
-    } catch (const std::bad_alloc&) {
-      paste.refusal = detail::OutOfMemory();
-    }
-  }
-  RefuseBlock(paste.refusal);
-  return false;
-}
-
-void CellPanel::CopyBlock(const TQorCellRange& block) {
-  parts_->focus.CommitPending();
-  if (parts_->grid.IsEmpty()) return;
-  const quint64 values = quint64{block.rows} * block.cols;
-  if (values > kMaxCopiedValues) {
-    RefuseBlock(detail::TooManyValues(values));
-    return;
-  }
-  QApplication::clipboard()->setText(detail::BlockText(table_, *parts_->grid.Cell(0, 0), block));
-}
-
-void CellPanel::CopyAll() {
-  CopyBlock({0, table_.RowCount(), 0, table_.ColCount()});
-}
 
 void CellPanel::RefuseBlock(const QString& message) {
   if (TextCell* const text = parts_->focus.Entered(); text != nullptr && isVisible()) {
@@ -89,6 +41,7 @@ void CellPanel::Command(const std::function<void()>& command) {
 }
 
 void CellPanel::AddToMenu(QMenu* menu) {
+  if (!parts_->focus.Editing()) AddSelectionToMenu(menu);
   menu->addSeparator();
   menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
                   &CellPanel::CopyAll);

@@ -3,10 +3,8 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/detail/block_text.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -51,33 +49,41 @@ QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TQor
   return QString::fromStdString(text);
 }
 
-PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
-                      quint32 first_row, quint32 first_col) {
+BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
+                       const TQorCellRange& target) {
   const TextBlock block = ParseBlock(text.toStdString());
-  std::size_t width = 0;
-  for (const auto& row : block) width = std::max(width, row.size());
-  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount()) : 0;
-  const std::size_t room_beside = RoomFrom(first_col, table.ColCount());
-  if (block.size() > room_below || !cell) return {{}, TooManyRows(block.size(), room_below)};
-  if (width > room_beside) return {{}, TooManyCols(width, room_beside)};
+  if (block.empty()) return {};
+  const std::size_t rows = block.size();
+  const std::size_t cols = std::ranges::max(block, {}, &std::vector<std::string>::size).size();
+  const std::size_t room_below = cell ? RoomFrom(target.row, table.RowCount()) : 0;
+  const std::size_t room_beside = RoomFrom(target.col, table.ColCount());
+  if (rows > room_below || !cell) return {{}, TooManyRows(rows, room_below)};
+  if (cols > room_beside) return {{}, TooManyCols(cols, room_beside)};
 
-  PasteResult result;
-  for (std::size_t r = 0; r < block.size(); ++r) {
+  const bool covers = target.rows % rows == 0 && target.cols % cols == 0;
+  const quint64 height = covers ? target.rows : rows;
+  const quint64 width = covers ? target.cols : cols;
+  BlockChanges result;
+  if (!HasFewEnough(height * width, result)) return result;
+  for (std::size_t r = 0; r < rows; ++r) {
     for (std::size_t c = 0; c < block[r].size(); ++c) {
       const QString cell_text = QString::fromStdString(block[r][c]);
       const auto value = cell->Parsed(cell_text);
-      const quint32 row = first_row + static_cast<quint32>(r);
-      const quint32 col = first_col + static_cast<quint32>(c);
+      const auto row = static_cast<quint32>(target.row + r);
+      const auto col = static_cast<quint32>(target.col + c);
       if (!value) return {{}, NotANumber(table.CellName(row, col), cell_text)};
-      if (!QorvexBaseControls::detail::SameElement(table.Value(row, col), *value)) {
-        result.changes.push_back({row, col, *value});
+      for (quint64 down = 0; r + down < height; down += rows) {
+        for (quint64 right = 0; c + right < width; right += cols) {
+          AddChange(table, static_cast<quint32>(row + down), static_cast<quint32>(col + right),
+                    *value, result.changes);
+        }
       }
     }
   }
   return result;
 }
 
-QString TooManyValues(quint64 values) {
+QString TooManyToCopy(quint64 values) {
   return QCoreApplication::translate("CellPanel", "Too many values to copy: %1.").arg(values);
 }
 
@@ -87,6 +93,10 @@ QString OutOfMemory() {
 
 QString NotChangeable() {
   return QCoreApplication::translate("CellPanel", "These values cannot be changed.");
+}
+
+QString NotNull() {
+  return QCoreApplication::translate("CellPanel", "These values cannot be empty.");
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

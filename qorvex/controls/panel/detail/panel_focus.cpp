@@ -9,6 +9,7 @@ PanelFocus::PanelFocus(PanelAxis& rows, PanelAxis& cols, const CellGrid& grid, C
 
 void PanelFocus::Enter(TextCell& text, CellPlace place, bool in_header) {
   in_header_ = in_header;
+  editing_ = false;
   // A cell that lost the focus while the window was inactive has not noticed.
   if (entered_ != nullptr && entered_ != &text) entered_->Leave();
   entered_ = &text;
@@ -22,6 +23,17 @@ void PanelFocus::Leave(const TextCell& text) {
 
 void PanelFocus::CommitPending() {
   if (entered_ != nullptr) entered_->CommitOrRestore();
+  editing_ = false;
+}
+
+bool PanelFocus::KeysBelongToText() const {
+  return Editing() || (in_header_ && entered_ != nullptr && !entered_->isReadOnly());
+}
+
+bool PanelFocus::CommitToLeave() {
+  if (entered_ != nullptr && !entered_->Commit()) return false;
+  editing_ = false;
+  return true;
 }
 
 void PanelFocus::FocusCell(std::size_t row, std::size_t col) {
@@ -41,6 +53,19 @@ void PanelFocus::Navigate(std::size_t row, std::size_t col) {
   target->setFocus(Qt::OtherFocusReason);
 }
 
+void PanelFocus::FocusElement(quint32 row, quint32 col) {
+  if (!CommitToLeave()) return;
+  const quint32 top = rows_.Window().TopShowing(row);
+  const quint32 left = cols_.Window().TopShowing(col);
+  if (top != rows_.Window().Top() || left != cols_.Window().Top()) {
+    // The cell is left under its old element and entered again under its new one.
+    Park(left != cols_.Window().Top() ? cols_ : rows_);
+    rows_.Window().SetTop(top);
+    cols_.Window().SetTop(left);
+  }
+  Navigate(row - rows_.Window().Top(), col - cols_.Window().Top());
+}
+
 void PanelFocus::Park(const PanelAxis& axis) {
   // In an inactive window the cell gets no event.
   if (entered_ != nullptr) entered_->Leave();
@@ -48,7 +73,7 @@ void PanelFocus::Park(const PanelAxis& axis) {
 }
 
 void PanelFocus::Step(PanelAxis& along, PanelAxis& across, bool forward) {
-  if (entered_ != nullptr && !entered_->Commit()) return;
+  if (!CommitToLeave()) return;
   const auto state = [this](const PanelAxis& axis) {
     const EditWindow& window = axis.Window();
     const bool follows_top = rule_ == CurrentRule::kFollowsTop;

@@ -8,11 +8,6 @@ namespace qorvex::inline QorvexControls::detail {
 
 namespace {
 
-// The modifiers that are held; keys of the keypad count like the others.
-Qt::KeyboardModifiers Held(const QKeyEvent& event) {
-  return event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
-}
-
 // The whole notches that a wheel has turned.
 int Notches(int amount, bool fine, int& rest) {
   if (!fine) return amount / 100;
@@ -31,68 +26,145 @@ void Scroll(EditWindow& window, int steps) {
 
 }  // namespace
 
-PanelKeys::PanelKeys(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, PanelFocus& focus)
-    : panel_(panel), rows_(rows), cols_(cols), focus_(focus) {}
+PanelKeys::PanelKeys(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, PanelFocus& focus,
+                     PanelSelection& selection, PanelMouse& mouse)
+    : panel_(panel),
+      rows_(rows),
+      cols_(cols),
+      focus_(focus),
+      selection_(selection),
+      mouse_(mouse) {}
 
-bool PanelKeys::IsOwnKey(const QKeyEvent& event) const {
-  const Qt::KeyboardModifiers held = Held(event);
-  switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return true;
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-      return held == Qt::NoModifier;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_Y:
-      return held == Qt::ControlModifier;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-      return cols_.Bar() != nullptr && held == Qt::ControlModifier;
-    case Qt::Key_Z:
-      return held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier);
-    case Qt::Key_C:
-      return held == (Qt::ControlModifier | Qt::ShiftModifier);
+GridKey PanelKeys::MeaningOf(const QKeyEvent& event) const {
+  const GridKey key = GridKeyOf(event.key(), event.modifiers(),
+                                {.editing = focus_.KeysBelongToText(),
+                                 .has_cols = cols_.Bar() != nullptr,
+                                 .mirrored = panel_.layoutDirection() == Qt::RightToLeft});
+  if (key.action != GridAction::kEscape) return key;
+  const bool typed = focus_.Entered() != nullptr && focus_.Entered()->Pending();
+  return typed || focus_.Editing() || selection_.IsMultiple() ? key : GridKey{};
+}
+
+bool PanelKeys::IsLeftToApplication(GridKey key) const {
+  if (key.action != GridAction::kUndo && key.action != GridAction::kRedo) return false;
+  if (panel_.EffectiveSettings().read_only) return true;
+  return key.action == GridAction::kUndo ? !panel_.CanUndo() : !panel_.CanRedo();
+}
+
+bool PanelKeys::UseKey(QKeyEvent& event) {
+  const GridKey key = MeaningOf(event);
+  if (key.action == GridAction::kNone) return false;
+  if (IsLeftToApplication(key)) {
+    event.ignore();
+  } else if (key.extends) {
+    Extend(key.action);
+  } else {
+    Act(key.action);
+  }
+  return true;
+}
+
+void PanelKeys::Act(GridAction action) {
+  switch (action) {
+    case GridAction::kEdit:
+      Edit();
+      break;
+    case GridAction::kEscape:
+      Escape();
+      break;
+    case GridAction::kSelectAll:
+      panel_.SelectAll();
+      break;
+    case GridAction::kCopy:
+      panel_.Copy();
+      break;
+    case GridAction::kCopyAll:
+      panel_.CopyAll();
+      break;
+    case GridAction::kCut:
+      panel_.Cut();
+      break;
+    case GridAction::kPaste:
+      panel_.Paste();
+      break;
+    case GridAction::kDelete:
+      panel_.DeleteSelected();
+      break;
+    case GridAction::kFillDown:
+      panel_.FillDown();
+      break;
+    case GridAction::kFillRight:
+      panel_.FillRight();
+      break;
+    case GridAction::kUndo:
+      panel_.Undo();
+      break;
+    case GridAction::kRedo:
+      panel_.Redo();
+      break;
     default:
-      return false;
+      Move(action);
   }
 }
 
-bool PanelKeys::UseKey(const QKeyEvent& event) {
-  if (!IsOwnKey(event)) return false;
-  switch (event.key()) {
-    case Qt::Key_Up:
+void PanelKeys::Move(GridAction action) {
+  switch (action) {
+    case GridAction::kRowBack:
       focus_.Step(rows_, cols_, false);
-      return true;
-    case Qt::Key_Left:
-    case Qt::Key_Right: {
-      // Left and right are directions on the screen.
-      const bool mirrored = panel_.layoutDirection() == Qt::RightToLeft;
-      focus_.Step(cols_, rows_, (event.key() == Qt::Key_Right) != mirrored);
-      return true;
-    }
-    case Qt::Key_PageUp:
+      break;
+    case GridAction::kEnter:
+    case GridAction::kRowForward:
+      focus_.Step(rows_, cols_, true);
+      break;
+    case GridAction::kColBack:
+      focus_.Step(cols_, rows_, false);
+      break;
+    case GridAction::kColForward:
+      focus_.Step(cols_, rows_, true);
+      break;
+    case GridAction::kPageBack:
       panel_.ScrollUp(std::min(rows_.Window().Edits(), rows_.Window().Top()));
-      return true;
-    case Qt::Key_PageDown:
+      break;
+    case GridAction::kPageForward:
       panel_.ScrollDown(rows_.Window().Edits());
-      return true;
-    case Qt::Key_C:
-      panel_.CopyAll();
-      return true;
-    case Qt::Key_Y:
-    case Qt::Key_Z: {
-      if (focus_.Entered() != nullptr && focus_.Entered()->Pending()) return false;
-      if (panel_.EffectiveSettings().read_only) return true;
-      const bool redo = event.key() == Qt::Key_Y || Held(event).testFlag(Qt::ShiftModifier);
-      redo ? panel_.Redo() : panel_.Undo();
-      return true;
+      break;
+    case GridAction::kRowStart:
+    case GridAction::kRowEnd:
+    case GridAction::kTableStart:
+    case GridAction::kTableEnd: {
+      const ElementPlace target = selection_.Moved(selection_.Current(), action);
+      focus_.FocusElement(target.row, target.col);
+      break;
     }
     default:
-      focus_.Step(rows_, cols_, true);
-      return true;
+      break;
   }
+}
+
+void PanelKeys::Extend(GridAction action) {
+  if (selection_.Range().IsEmpty()) return;
+  const ElementPlace target = selection_.Moved(selection_.End(), action);
+  {
+    const PanelSelection::Hold hold(selection_);
+    selection_.Extend(target);
+    focus_.FocusElement(target.row, target.col);
+  }
+  selection_.Update();
+}
+
+void PanelKeys::Edit() {
+  TextCell* const text = focus_.Entered();
+  if (text == nullptr) return;
+  focus_.SetEditing(!focus_.Editing());
+  if (focus_.Editing()) text->end(false);
+}
+
+void PanelKeys::Escape() {
+  TextCell* const text = focus_.Entered();
+  const bool edits = focus_.Editing() || (text != nullptr && text->Pending());
+  if (!edits) return selection_.Clear();
+  text->Restore();
+  focus_.SetEditing(false);
 }
 
 bool PanelKeys::EditKeyDown(QKeyEvent& event) {
@@ -138,10 +210,14 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
   }
   if (watched == rows_.Bar() || watched == cols_.Bar()) return false;
   switch (event->type()) {
-    case QEvent::ShortcutOverride:
-      // Otherwise an action of the application with the same keys would take them.
-      if (IsOwnKey(static_cast<const QKeyEvent&>(*event))) event->accept();
-      break;
+    case QEvent::ShortcutOverride: {
+      const GridKey key = MeaningOf(static_cast<const QKeyEvent&>(*event));
+      if (key.action == GridAction::kNone) break;
+      // Otherwise an action of the application with the same keys would take them. A key that it
+      // may have is kept from the text, which would claim it.
+      event->setAccepted(!IsLeftToApplication(key));
+      return true;
+    }
     case QEvent::KeyPress: {
       auto& key = static_cast<QKeyEvent&>(*event);
       return EditKeyDown(key) || EditKeyPress(key);
@@ -153,33 +229,13 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease: {
-      const auto& widget = static_cast<const QWidget&>(*watched);
-      if (widget.isEnabled()) ForwardMouse(widget, static_cast<QMouseEvent&>(*event));
-      break;
+      auto& text = static_cast<TextCell&>(*watched);
+      return text.isEnabled() && mouse_.Handle(text, static_cast<QMouseEvent&>(*event));
     }
     default:
       break;
   }
   return false;
-}
-
-void PanelKeys::ForwardMouse(const QWidget& widget, QMouseEvent& event) {
-  switch (event.type()) {
-    case QEvent::MouseButtonPress:
-      Q_EMIT panel_.OnMouseDown(&event);
-      break;
-    case QEvent::MouseButtonDblClick:
-      Q_EMIT panel_.OnDblClick();
-      break;
-    case QEvent::MouseMove:
-      Q_EMIT panel_.OnMouseMove(&event);
-      break;
-    default:
-      Q_EMIT panel_.OnMouseUp(&event);
-      if (event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint())) {
-        Q_EMIT panel_.OnClick();
-      }
-  }
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

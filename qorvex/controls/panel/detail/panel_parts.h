@@ -11,6 +11,8 @@
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
+#include "qorvex/controls/panel/detail/panel_mouse.h"
+#include "qorvex/controls/panel/detail/panel_selection.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -28,7 +30,10 @@ struct PanelParts {
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         focus(rows, cols, grid, rule),
-        keys(panel, rows, cols, focus),
+        selection(panel.table_, rows.Window(), cols.Window(), grid,
+                  [&panel] { Q_EMIT panel.OnSelectionChange(); }),
+        mouse(panel, rows, cols, grid, focus, selection),
+        keys(panel, rows, cols, focus, selection, mouse),
         grid(panel, panel.table_, rows.Window(), cols.Window(),
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
@@ -43,6 +48,8 @@ struct PanelParts {
   PanelAxis rows;
   PanelAxis cols;
   PanelFocus focus;
+  PanelSelection selection;
+  PanelMouse mouse;
   PanelKeys keys;
   CellGrid grid;
   QWidget* corner = nullptr;
