@@ -55,6 +55,8 @@ constexpr Rule kRules[] = {
     {Qt::Key_F2, kPlain, GridAction::kEdit, Owner::kGrid},
     {Qt::Key_Escape, kPlain, GridAction::kEscape, Owner::kGrid},
     {Qt::Key_A, kCtrl, GridAction::kSelectAll},
+    {Qt::Key_Space, kShift, GridAction::kSelectRows},
+    {Qt::Key_Space, kCtrl, GridAction::kSelectCols},
     {Qt::Key_C, kCtrl, GridAction::kCopy},
     {Qt::Key_Insert, kCtrl, GridAction::kCopy},
     {Qt::Key_C, kCtrlShift, GridAction::kCopyAll, Owner::kGrid},

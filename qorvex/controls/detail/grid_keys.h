@@ -27,6 +27,8 @@ enum class GridAction {
   kEdit,    ///< Turns the editing of the text on or off.
   kEscape,  ///< Takes back what has been typed, then the selection.
   kSelectAll,
+  kSelectRows,  ///< Selects the whole rows of the selection.
+  kSelectCols,
   kCopy,
   kCopyAll,
   kCut,
@@ -52,8 +54,8 @@ struct KeyPlace {
   bool mirrored = false;  ///< The first column is on the right.
 };
 
-/// The meaning of a key with its modifiers; keys of the keypad count like the others. Docs:
-/// docs/controls/editing.md has the same table.
+/// The meaning of a key with its modifiers; keys of the keypad count like the others. The page
+/// docs/controls/editing.md has the table for users. O(1).
 [[nodiscard]] QORVEX_EXPORT GridKey GridKeyOf(int key, Qt::KeyboardModifiers modifiers,
                                               const KeyPlace& place);
 

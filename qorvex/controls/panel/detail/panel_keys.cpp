@@ -75,6 +75,12 @@ void PanelKeys::Act(GridAction action) {
     case GridAction::kSelectAll:
       panel_.SelectAll();
       break;
+    case GridAction::kSelectRows:
+      panel_.SelectRows(panel_.Selection().row, panel_.Selection().rows);
+      break;
+    case GridAction::kSelectCols:
+      panel_.SelectCols(panel_.Selection().col, panel_.Selection().cols);
+      break;
     case GridAction::kCopy:
       panel_.Copy();
       break;
@@ -102,9 +108,26 @@ void PanelKeys::Act(GridAction action) {
     case GridAction::kRedo:
       panel_.Redo();
       break;
+    case GridAction::kPageBack:
+      panel_.ScrollUp(std::min(rows_.Window().Edits(), rows_.Window().Top()));
+      break;
+    case GridAction::kPageForward:
+      panel_.ScrollDown(rows_.Window().Edits());
+      break;
+    case GridAction::kNothing:
+      break;
     default:
-      Move(action);
+      Go(action);
   }
+}
+
+void PanelKeys::Go(GridAction action) {
+  {
+    const PanelSelection::Hold hold(selection_, PanelSelection::Hold::Entry::kClears);
+    Move(action);
+  }
+  // A text that is not a number is still being edited.
+  focus_.Editing() ? selection_.Update() : selection_.Clear();
 }
 
 void PanelKeys::Move(GridAction action) {
@@ -122,32 +145,22 @@ void PanelKeys::Move(GridAction action) {
     case GridAction::kColForward:
       focus_.Step(cols_, rows_, true);
       break;
-    case GridAction::kPageBack:
-      panel_.ScrollUp(std::min(rows_.Window().Edits(), rows_.Window().Top()));
-      break;
-    case GridAction::kPageForward:
-      panel_.ScrollDown(rows_.Window().Edits());
-      break;
-    case GridAction::kRowStart:
-    case GridAction::kRowEnd:
-    case GridAction::kTableStart:
-    case GridAction::kTableEnd: {
-      const ElementPlace target = selection_.Moved(selection_.Current(), action);
-      focus_.FocusElement(target.row, target.col);
-      break;
-    }
     default:
-      break;
+      GoTo(selection_.Moved(selection_.Current(), action));
   }
+}
+
+void PanelKeys::GoTo(ElementPlace element) {
+  focus_.FocusElement(element.row, element.col);
 }
 
 void PanelKeys::Extend(GridAction action) {
   if (selection_.Range().IsEmpty()) return;
   const ElementPlace target = selection_.Moved(selection_.End(), action);
+  selection_.Extend(target);
   {
-    const PanelSelection::Hold hold(selection_);
-    selection_.Extend(target);
-    focus_.FocusElement(target.row, target.col);
+    const PanelSelection::Hold hold(selection_, PanelSelection::Hold::Entry::kKeeps);
+    GoTo(target);
   }
   selection_.Update();
 }

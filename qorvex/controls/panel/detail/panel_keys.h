@@ -45,7 +45,10 @@ class PanelKeys : public QObject {
   [[nodiscard]] bool IsLeftToApplication(GridKey key) const;
   bool UseKey(QKeyEvent& event);
   void Act(GridAction action);
+  // Goes to another cell, which clears the selection.
+  void Go(GridAction action);
   void Move(GridAction action);
+  void GoTo(ElementPlace element);
   void Extend(GridAction action);
   void Edit();
   void Escape();

@@ -30,7 +30,8 @@ bool PanelSelection::HasElements() const {
 }
 
 ElementPlace PanelSelection::Fitted(ElementPlace place) const {
-  return {std::min(place.row, table_.RowCount() - 1), std::min(place.col, table_.ColCount() - 1)};
+  return {std::min(place.row, std::max(table_.RowCount(), 1U) - 1),
+          std::min(place.col, std::max(table_.ColCount(), 1U) - 1)};
 }
 
 TQorCellRange PanelSelection::Range() const {
@@ -114,7 +115,7 @@ void PanelSelection::Clear() {
 }
 
 void PanelSelection::Entered(bool by_mouse) {
-  if (holds_ > 0) return;
+  if (held_ == Hold::Entry::kKeeps) return;
   if (!by_mouse) {
     Clear();
   } else if (!chosen_) {
@@ -124,6 +125,7 @@ void PanelSelection::Entered(bool by_mouse) {
 }
 
 void PanelSelection::Update() {
+  if (held_) return;
   if (chosen_ && HasElements()) {
     anchor_ = Fitted(anchor_);
     end_ = Fitted(end_);

@@ -4,6 +4,8 @@
 /// PanelSelection, the selected elements of a panel of cells.
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 #include "qorvex/controls/detail/grid_keys.h"
 #include "qorvex/controls/panel/cell_range.h"
@@ -63,16 +65,20 @@ class PanelSelection {
   /// The focus has come to another cell. This clears the selection, but not if the mouse has
   /// brought it: the press selects next, perhaps from the old anchor on.
   void Entered(bool by_mouse);
-  /// While it lives, cells can be entered without clearing the selection.
+  /// While it lives, cells can be entered and the table can scroll without an Update; entering a
+  /// cell clears the selection or keeps it. Call Update afterwards.
   class Hold {
    public:
-    explicit Hold(PanelSelection& selection) : selection_(selection) { ++selection_.holds_; }
-    ~Hold() { --selection_.holds_; }
+    enum class Entry { kClears, kKeeps };
+    Hold(PanelSelection& selection, Entry entry)
+        : selection_(selection), before_(std::exchange(selection.held_, entry)) {}
+    ~Hold() { selection_.held_ = before_; }
     Hold(const Hold&) = delete;
     Hold& operator=(const Hold&) = delete;
 
    private:
     PanelSelection& selection_;
+    std::optional<Entry> before_;
   };
 
   /// Keeps the selection within the table, marks its cells, and tells of a change. Call it when the
@@ -92,7 +98,7 @@ class PanelSelection {
   bool chosen_ = false;
   ElementPlace anchor_;
   ElementPlace end_;
-  int holds_ = 0;
+  std::optional<Hold::Entry> held_;
   bool marked_ = false;
   TQorCellRange announced_;
 };
