@@ -7,11 +7,14 @@
 #include <utility>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/shape.h"
 
 namespace qorvex::inline QorvexMatrixEdit {
+
+using QorvexBaseControls::detail::SameElement;
 
 TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent)
     : CellPanel(parent, *this, GridAxes::kRowsAndCols,
@@ -115,7 +118,10 @@ TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
 
 void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
   if (!matrix.empty() && !MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
-  Parts().focus.CommitPending();
+  Parts().focus.CommitUnless([&](quint32 row, quint32 col) {
+    return row < matrix.size() && col < matrix[row].size() &&
+           SameElement(matrix[row][col], Value(row, col));
+  });
   Parts().history.Forget();
   Take(CopyMatrix(matrix));
 }
@@ -241,8 +247,7 @@ void TQorCustomMatrixEdit::NotifyText(quint32 row, quint32 col, const QString& t
 
 QString TQorCustomMatrixEdit::CellName(quint32 row, quint32 col) const {
   return QCoreApplication::translate("TQorCustomMatrixEdit", "Row %1, column %2")
-      .arg(qint64{row} + 1)
-      .arg(qint64{col} + 1);
+      .arg(RowHeading(row), ColHeading(col));
 }
 
 QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended value) const {

@@ -39,6 +39,8 @@
   QORVEX_PUBLISHED(uint, NoOfCols)                                                              \
   QORVEX_PUBLISHED(uint, NoOfRows)                                                              \
   QORVEX_PUBLISHED(QString, NullStr)                                                            \
+  QORVEX_PUBLISHED(bool, RowHeadings)                                                           \
+  QORVEX_PUBLISHED(bool, ColHeadings)                                                           \
   QORVEX_PUBLISHED_PANEL
 
 QORVEX_WIDGET_UNIT(QorvexMatrixEdit) {
@@ -55,6 +57,8 @@ using TQorSetMatrixElementEvent = std::function<void(quint32 row, quint32 col, E
 using TQorSpecialColorEvent =
     std::function<void(quint32 row, quint32 col, Extended value, QColor& color)>;
 /// @}
+/// A request for the text of the heading of a row or a column.
+using TQorGetHeadingEvent = std::function<QString(quint32 row_or_col)>;
 
 /// A grid of cells that shows and edits a matrix of any size. See CellPanel for keys, pasting and
 /// undo. Ctrl+Left and Ctrl+Right move along a row as Ctrl+Up and Ctrl+Down move along a column; at
@@ -91,6 +95,40 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// @}
 
   /// @{
+  /// Whether there are headings in front of the rows and above the columns; off by default. They
+  /// show numbers from 1 on, or what OnGetRowHeading and OnGetColHeading supply. A click on a
+  /// heading selects its row or column. The edge of a column's heading can be dragged, which
+  /// changes the width of the column.
+  [[nodiscard]] bool RowHeadings() const noexcept { return HasRowHeadings(); }
+  void setRowHeadings(bool on) { ShowRowHeadings(on); }
+  void resetRowHeadings() { setRowHeadings(false); }
+  [[nodiscard]] bool ColHeadings() const noexcept { return HasColHeadings(); }
+  void setColHeadings(bool on) { ShowColHeadings(on); }
+  void resetColHeadings() { setColHeadings(false); }
+  /// @}
+  /// @{
+  /// The text of the heading of a row or a column, whether it shows or not.
+  [[nodiscard]] QString RowHeading(quint32 row) const override;
+  [[nodiscard]] QString ColHeading(quint32 col) const override;
+  /// @}
+
+  /// @{
+  /// The width of a column's cells in pixels, CellWidth by default, clamped to 0 to 32767. There
+  /// need not be such a column yet. Without AutoEdits the control is as wide as the widest columns
+  /// that can be in sight at once. O(columns with a width of their own).
+  [[nodiscard]] int ColWidth(quint32 col) const;
+  void setColWidth(quint32 col, int width);
+  void resetColWidth(quint32 col);
+  /// @}
+  /// @{
+  /// How the numbers of a column are written: by default as the control's settings say, which a
+  /// format of its own replaces as a whole. There need not be such a column yet.
+  [[nodiscard]] NumberSettings ColFormat(quint32 col) const;
+  void setColFormat(quint32 col, const NumberSettings& format);
+  void resetColFormat(quint32 col);
+  /// @}
+
+  /// @{
   /// The size of the matrix, 0 by 0 by default. New elements are 0; their memory is allocated when
   /// one of them is set. Raises OnNoColsChange or OnNoRowsChange. O(rows).
   [[nodiscard]] quint32 NoOfCols() const noexcept;
@@ -103,7 +141,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
 
   /// @{
   /// The whole matrix, as a copy that shares no memory with the control. Setting copies too, and
-  /// sets the numbers of rows and columns; in virtual mode each element goes through the events.
+  /// sets the numbers of rows and columns; in virtual mode each element goes through the events. A
+  /// text that is being typed is treated as by TQorVectorEdit::setVector.
   /// EMathError with rsMatrixRect for rows of different lengths. O(elements).
   [[nodiscard]] TQorFloatMatrix Matrix() const;
   void setMatrix(const TQorFloatMatrix& matrix);
@@ -171,6 +210,12 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   TQorGetMatrixElementEvent OnGetElement;
   /// Supplies the colours of texts at every redisplay; empty by default.
   TQorSpecialColorEvent OnSpecialColor;
+  /// @{
+  /// Supply the texts of headings, which also name the elements in messages; numbers from 1 if they
+  /// are empty. Call Redisplay if the texts change.
+  TQorGetHeadingEvent OnGetRowHeading;
+  TQorGetHeadingEvent OnGetColHeading;
+  /// @}
 
  Q_SIGNALS:
   /// The user has changed the element.

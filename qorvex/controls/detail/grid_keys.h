@@ -24,6 +24,8 @@ enum class GridAction {
   kRowEnd,
   kTableStart,  ///< To the first element of the table.
   kTableEnd,
+  kLeaveBack,  ///< To the widget before the editor.
+  kLeaveForward,
   kEdit,    ///< Turns the editing of the text on or off.
   kEscape,  ///< Takes back what has been typed, then the selection.
   kSelectAll,

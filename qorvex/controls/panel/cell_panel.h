@@ -26,6 +26,7 @@ class PanelAxis;
 struct BlockChanges;
 struct CellPlace;
 struct EditWindowEvents;
+struct PanelHeadingEvents;
 struct PanelParts;
 enum class CurrentRule;
 }  // namespace detail
@@ -43,10 +44,16 @@ enum class CurrentRule;
 /// One rectangle of elements is selected: by Shift and the arrows, by the mouse, or by a program.
 /// Unless there is more, it is the element under the focus.
 ///
-/// Before anything scrolls or changes under a cell, the text that is being typed there is
-/// committed, or discarded if it is not a number.
+/// The tab key goes from cell to cell and scrolls on at the last one in sight; Ctrl+Tab and
+/// Ctrl+Shift+Tab leave at once. QWidget::setTabOrder and buddies lead to the first cell in sight;
+/// setFocus leads to the cell that had the focus last.
 ///
-/// Every cell has an accessible name while assistive technology is active.
+/// Before another element comes under a cell, the text that is being typed there is committed, or
+/// discarded if it is not a number. Until then it stays, whatever else changes and while another
+/// window is active.
+///
+/// To screen readers it is a table of all elements, in sight or not. Every cell has an accessible
+/// name while assistive technology is active.
 ///
 /// Handlers of signals may do anything except delete the control; they may call deleteLater unless
 /// they run a nested event loop. A redisplay costs O(cells), whatever the size of the table.
@@ -77,13 +84,25 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] CellSettings EffectiveSettings() const;
 
   /// @{
-  /// The size of a cell in pixels, 21 and 81 by default; at least 0 and a line of its font.
+  /// The size of a cell in pixels, 21 and 81 by default; at least 0 and a line of its font, at
+  /// most 32767.
   [[nodiscard]] int CellHeight() const noexcept;
   void setCellHeight(int height);
   void resetCellHeight();
   [[nodiscard]] int CellWidth() const noexcept;
   void setCellWidth(int width);
   void resetCellWidth();
+  /// @}
+
+  /// @{
+  /// Whether there are as many cells as the control has room for, but no more than the table has
+  /// elements, and at least one; false by default. A scroll bar then shows only while it is needed.
+  /// The size policy becomes Expanding where it is Fixed, in the directions that can be scrolled.
+  /// A number of cells that is set is what the size hint has room for; the next turn of the event
+  /// loop fits the cells into the control again.
+  [[nodiscard]] bool AutoEdits() const noexcept { return auto_edits_; }
+  void setAutoEdits(bool on);
+  void resetAutoEdits() { setAutoEdits(false); }
   /// @}
 
   /// @{
@@ -187,9 +206,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Redo();
   /// @}
 
-  /// The size of the cells, the texts in front of them and the bars.
+  /// @{
+  /// The size of the cells, the texts around them and the bars. With AutoEdits, a control may be as
+  /// small as three rows and columns.
   [[nodiscard]] QSize sizeHint() const override;
-  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }  ///< The same.
+  [[nodiscard]] QSize minimumSizeHint() const override;
+  /// @}
 
  Q_SIGNALS:
   /// DisplayTopRow is about to become the given row.
@@ -204,8 +226,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnUndo();
   /// A block could not be changed or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
-  /// A typed text is not a number and has been discarded; the message names element and text.
+  /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
+  /// message names element and text.
   void OnTextRefused(const QString& message);
+  /// The menu of the element's cell is about to open: add to it. It is raised as long as the
+  /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
+  void OnContextMenu(QMenu& menu, quint32 row, quint32 col);
 
   /// @{
   /// Events of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event suppresses
@@ -250,16 +276,25 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
   /// @{
   /// Changes the number of cells or of elements along an axis. A focus that would be lost goes to
-  /// the last cell in use.
+  /// the last cell in use. With AutoEdits, the number of cells is the preferred one.
   void SetEdits(detail::PanelAxis& axis, int edits);
   void SetCount(detail::PanelAxis& axis, quint32 count);
   /// @}
   /// Makes the missing cells and drops those that are too many.
   void FitGrid();
-  /// Places the cells, the bars and the corner.
+  /// Makes as many cells as AutoEdits needs, and places the cells, the bars and the corner.
   void Arrange();
   /// Sets the widget that Arrange places where the bars meet.
   void SetCorner(QWidget* corner);
+  /// Applies the settings to the cells.
+  void ApplySettings();
+  /// @{
+  /// Whether there are headings in front of the rows and above the columns; none at first.
+  [[nodiscard]] bool HasRowHeadings() const noexcept;
+  void ShowRowHeadings(bool on);
+  [[nodiscard]] bool HasColHeadings() const noexcept;
+  void ShowColHeadings(bool on);
+  /// @}
   /// Lets the keys, the wheel and the mouse of a text in front of the cells count as those of a
   /// cell.
   void Watch(TextCell& text);
@@ -273,7 +308,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SettingsChanged() override;
   void DoColorSetChange() override;
   void changeEvent(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -284,19 +319,32 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   friend struct detail::PanelParts;
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
-  void ApplySettings();
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
   bool ChangeBlock(const std::function<detail::BlockChanges()>& plan);
   bool RequireChangeable();
   bool RequireNulls();
   void AddSelectionToMenu(QMenu* menu);
   void RefuseBlock(const QString& message);
-  void RefuseText(quint32 row, quint32 col, const QString& text);
+  void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text);
   void AddToMenu(QMenu* menu);
+  void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
+  void FitEdits();
+  void Place();
+  void ColsMoved();
+  void CountChanged();
+  void DragColWidth(quint32 col, int width);
+  [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
+  [[nodiscard]] int BarExtent() const;
+  [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;
+  [[nodiscard]] QSize SizeFor(quint32 rows, quint32 cols) const;
+  // For screen readers.
+  void NameBars();
+  void AnnounceSize();
   CellTable& table_;
   bool null_ = false;
   bool tab_stop_ = true;
   bool virtual_mode_ = false;
+  bool auto_edits_ = false;
   std::unique_ptr<detail::PanelParts> parts_;
 };
 

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "qorvex/controls/panel/detail/tab_order.h"
+
 namespace qorvex::inline QorvexControls::detail {
 
 namespace {
@@ -114,11 +116,20 @@ void PanelKeys::Act(GridAction action) {
     case GridAction::kPageForward:
       panel_.ScrollDown(rows_.Window().Edits());
       break;
+    case GridAction::kLeaveBack:
+    case GridAction::kLeaveForward:
+      Leave(action == GridAction::kLeaveForward);
+      break;
     case GridAction::kNothing:
       break;
     default:
       Go(action);
   }
+}
+
+void PanelKeys::Leave(bool forward) {
+  QWidget* const stop = StopOutside(panel_, forward);
+  if (stop != nullptr) stop->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
 }
 
 void PanelKeys::Go(GridAction action) {
@@ -235,6 +246,13 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
       auto& key = static_cast<QKeyEvent&>(*event);
       return EditKeyDown(key) || EditKeyPress(key);
     }
+    case QEvent::FocusIn:
+      return focus_.Redirect(watched, static_cast<const QFocusEvent&>(*event).reason());
+    case QEvent::ContextMenu:
+      if (panel_.contextMenuPolicy() == Qt::DefaultContextMenu) break;
+      // Ignored, it goes on to the panel, which follows its policy.
+      event->ignore();
+      return true;
     case QEvent::KeyRelease:
       Q_EMIT panel_.OnKeyUp(static_cast<QKeyEvent*>(event));
       break;

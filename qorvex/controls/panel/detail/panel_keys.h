@@ -50,6 +50,8 @@ class PanelKeys : public QObject {
   void Move(GridAction action);
   void GoTo(ElementPlace element);
   void Extend(GridAction action);
+  // Goes to the next or the previous widget outside the panel.
+  void Leave(bool forward);
   void Edit();
   void Escape();
   [[nodiscard]] bool FocusInside() const;

@@ -10,6 +10,7 @@
 #include "qorvex/controls/panel/detail/change_history.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/panel_mouse.h"
 #include "qorvex/controls/panel/detail/panel_selection.h"
@@ -21,7 +22,8 @@ namespace qorvex::inline QorvexControls::detail {
 struct PanelParts {
   PanelParts(CellPanel& panel, CurrentRule rule, EditWindowEvents row_events,
              EditWindowEvents col_events)
-      : settings(panel, [&panel] { panel.ApplySettings(); }),
+      : table(panel.table_),
+        settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
                 [&panel](const std::function<void()>& run) {
                   const CellPanel::Update update(panel);
@@ -29,12 +31,18 @@ struct PanelParts {
                 }),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
-        focus(rows, cols, grid, rule),
+        geometry(panel, rows.Window(), cols.Window()),
+        focus(panel, rows, cols, grid, rule),
         selection(panel.table_, rows.Window(), cols.Window(), grid,
-                  [&panel] { Q_EMIT panel.OnSelectionChange(); }),
+                  [this, &panel] {
+                    headings.Update();
+                    Q_EMIT panel.OnSelectionChange();
+                  }),
         mouse(panel, rows, cols, grid, focus, selection),
         keys(panel, rows, cols, focus, selection, mouse),
-        grid(panel, panel.table_, rows.Window(), cols.Window(),
+        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
+                 panel.HeadingEvents()),
+        grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
               .drop =
@@ -43,14 +51,25 @@ struct PanelParts {
                     focus.Leave(text);
                   }}) {}
 
+  /// The parts of a widget that is a panel; a null pointer for others, and while the editor is
+  /// being made or destroyed, when there is no table.
+  static PanelParts* Of(QWidget* widget) {
+    const auto* const panel = qobject_cast<const CellPanel*>(widget);
+    const bool is_editor = panel != nullptr && panel->metaObject() != &CellPanel::staticMetaObject;
+    return is_editor ? panel->parts_.get() : nullptr;
+  }
+
+  CellTable& table;
   SharedSettings settings;
   ChangeHistory history;
   PanelAxis rows;
   PanelAxis cols;
+  GridGeometry geometry;
   PanelFocus focus;
   PanelSelection selection;
   PanelMouse mouse;
   PanelKeys keys;
+  PanelHeadings headings;
   CellGrid grid;
   QWidget* corner = nullptr;
 };
