@@ -141,6 +141,9 @@ void CellPanel::DeleteRows(quint32 row, quint32 count) {
 }
 
 TQorCellRange CellPanel::SelectedBlock() const {
+  const TQorCellRange selected = Selection();
+  if (!selected.IsEmpty()) return selected;
+  // Where an empty table begins.
   return {Rows().Top() + Rows().Focus(), 1, Cols().Top() + Cols().Focus(), 1};
 }
 
