@@ -122,6 +122,10 @@ TYPED_TEST(Growing, LeaveTheRowsOfVirtualModeToTheProgram) {
   this->editor->DeleteRows(1, 2);
   EXPECT_EQ(kept, (std::vector<Extended>{0, 3, 4}));
   EXPECT_FALSE(this->editor->CanUndo());
+  insert.reset();
+  QApplication::processEvents();
+  EXPECT_EQ(this->Texts(), "0|3|4|");
+  EXPECT_FALSE(this->Cell(3)->isEnabled());
 }
 
 TYPED_TEST(Growing, OfferRowsByMenuAndKeys) {
@@ -151,6 +155,7 @@ TYPED_TEST(Growing, OfferRowsByMenuAndKeys) {
   this->editor->SelectRows(1, 2);
   this->Press(Qt::Key_Minus, Qt::ControlModifier);
   EXPECT_EQ(this->editor->NoOfRows(), 2U);
+  this->editor->setProperty("NoOfCols", 2);
   this->editor->SelectCols(0, 1);
   this->Press(Qt::Key_Plus, Qt::ControlModifier);
   EXPECT_EQ(this->editor->NoOfRows(), this->kIsVector ? 4U : 2U) << "or columns, if they are whole";

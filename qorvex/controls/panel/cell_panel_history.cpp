@@ -88,7 +88,10 @@ void CellPanel::connectNotify(const QMetaMethod& signal) {
 }
 
 void CellPanel::disconnectNotify(const QMetaMethod& signal) {
-  connectNotify(signal);
+  // Later: Qt holds the lock that isSignalConnected takes.
+  if (signal != QMetaMethod::fromSignal(&CellPanel::OnInsertRows)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { FitSpareRow(); }, Qt::QueuedConnection);
 }
 
 Extended CellPanel::NewElement() const {
