@@ -30,6 +30,7 @@ const struct {
 } kPictures[] = {
     {"cells", Cells},
     {"form", WeighingForm},
+    {"growing", Growing},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
