@@ -208,12 +208,14 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
   [[nodiscard]] quint32 ColCount() const override { return NoOfCols(); }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
-  void Store(quint32 row, quint32 col, Extended value) override;
+  bool Store(quint32 row, quint32 col, Extended value) override;
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
   void VirtualModeChanged() override;
+  void SetSize(quint32 rows, quint32 cols) override;
   /// @}
 
   /// Raises EMathError if there is no such element in a matrix of the given number of columns.
@@ -223,7 +225,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   static constexpr int kDefaultColEdits = 3;
   static constexpr int kDefaultRowEdits = 4;
 
-  // Change the numbers of rows and columns without the events.
+  // Change the numbers of rows and columns, with and without the events.
+  void ChangeRows(quint32 rows);
+  void ChangeCols(quint32 cols);
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
   void TrimStore();

@@ -125,6 +125,12 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   /// element. In virtual mode it checks the rows and redisplays.
   virtual void SwapElements(quint32 first, quint32 second);
 
+  /// @{
+  /// The column of the model that is shown; 0 by default. Negative columns count as 0.
+  [[nodiscard]] int ModelColumn() const noexcept;
+  void setModelColumn(int column);
+  /// @}
+
   /// Copies a part of the vector to the clipboard, as CopyAll does. Rows beyond the end are left
   /// out.
   void CopyRows(quint32 first, quint32 count);
@@ -158,12 +164,14 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
   [[nodiscard]] quint32 ColCount() const override { return 1; }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
-  void Store(quint32 row, quint32 col, Extended value) override;
+  bool Store(quint32 row, quint32 col, Extended value) override;
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
   void VirtualModeChanged() override;
+  void SetSize(quint32 rows, quint32 cols) override;
   /// @}
 
   /// Raises EMathError if there is no such element.

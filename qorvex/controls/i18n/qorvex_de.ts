@@ -13,6 +13,11 @@
         <translation>%1: „%2“ ist keine Zahl.</translation>
     </message>
     <message>
+        <source>%1: &quot;%2&quot; cannot be stored.</source>
+        <comment>name of a cell, its text</comment>
+        <translation>%1: „%2“ lässt sich nicht speichern.</translation>
+    </message>
+    <message>
         <source>%1: &quot;%2&quot; is not a number. The value stays.</source>
         <comment>name of a cell, its text</comment>
         <translation>%1: „%2“ ist keine Zahl. Der Wert bleibt.</translation>

@@ -48,6 +48,7 @@ void CellGrid::ForEach(const std::function<void(TQorCustomEdit& cell)>& function
 }
 
 void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus, QWidget* before) {
+  read_only_ = settings.read_only;
   const std::size_t rows = rows_.Edits();
   const std::size_t cols = cols_.Edits();
   while (cells_.size() > rows) {
@@ -117,6 +118,7 @@ void CellGrid::Drop(TextCell* text) {
 }
 
 void CellGrid::Apply(const CellSettings& settings, Qt::FocusPolicy focus) {
+  read_only_ = settings.read_only;
   ForEach([&](TQorCustomEdit& cell) {
     cell.setSettings(settings);
     cell.setFocusPolicy(focus);
@@ -143,6 +145,7 @@ void CellGrid::Show() {
       const quint32 col = cols_.Top() + static_cast<quint32>(c);
       if (IsUsed(r, c)) {
         const Extended value = table_.Value(row, col);
+        cell->setReadOnly(read_only_ || table_.IsReadOnly(row, col));
         cell->Refresh(value);
         cell->SetSpecialColor(table_.SpecialColor(row, col, value));
       } else {

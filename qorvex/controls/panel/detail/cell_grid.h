@@ -21,6 +21,8 @@ namespace qorvex::inline QorvexControls::detail {
 struct CellPlace {
   quint32 row = 0;
   quint32 col = 0;
+
+  friend bool operator==(const CellPlace&, const CellPlace&) = default;
 };
 
 /// A column of texts in front of the cells.
@@ -129,6 +131,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   int cell_height_ = kDefaultCellHeight;
   int cell_width_ = kDefaultCellWidth;
   int header_width_ = 0;
+  // By the settings; single elements may be read-only too.
+  bool read_only_ = false;
   bool is_named_ = QAccessible::isActive();
 };
 

@@ -3,11 +3,13 @@
 /// @file
 /// The parts that a CellPanel is made of.
 
+#include <optional>
 #include <utility>
 
 #include "qorvex/controls/panel/cell_panel.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/change_history.h"
+#include "qorvex/controls/panel/detail/model_link.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
@@ -25,6 +27,11 @@ struct PanelParts {
                   const CellPanel::Update update(panel);
                   run();
                 }),
+        model({.locale = [&panel] { return panel.locale(); },
+               .typed = [&panel] { return panel.TypedPlace(); },
+               .changed = [&panel](const TQorCellRange& range) { panel.ModelChanged(range); },
+               .moved = [&panel](const TypedMove& typed) { panel.ModelMoved(typed); },
+               .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         focus(rows, cols, grid, rule),
@@ -40,11 +47,14 @@ struct PanelParts {
 
   SharedSettings settings;
   ChangeHistory history;
+  ModelLink model;
   PanelAxis rows;
   PanelAxis cols;
   PanelFocus focus;
   PanelKeys keys;
   CellGrid grid;
+  // Where the typed text belongs, while that is not where its cell is.
+  std::optional<CellPlace> typed_place;
   QWidget* corner = nullptr;
 };
 
