@@ -15,7 +15,6 @@
 #include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 #include "qorvex/base_controls/detail/tool_tip.h"
@@ -66,6 +65,12 @@ void TextCell::Restore() {
     if (inside_ && behaviour_.auto_select) selectAll();
   }
   setModified(false);
+}
+
+bool TextCell::CommitOrRefuse() {
+  if (Commit()) return true;
+  Q_EMIT Refused(text());
+  return false;
 }
 
 void TextCell::CommitOrRestore() {
@@ -164,6 +169,8 @@ void TextCell::paintEvent(QPaintEvent* event) {
 }
 
 bool TextCell::event(QEvent* event) {
+  // While the window was inactive, the focus has been given to another widget.
+  if (event->type() == QEvent::WindowActivate && window()->focusWidget() != this) Leave();
   if (event->type() == QEvent::ToolTip && toolTip().isEmpty()) {
     const QString tip = Tip();
     if (!tip.isEmpty()) {
@@ -195,10 +202,8 @@ void TextCell::focusOutEvent(QFocusEvent* event) {
   switch (event->reason()) {
     case Qt::PopupFocusReason:
     case Qt::MenuBarFocusReason:
-      // The focus comes back, and the text is still being typed.
-      break;
     case Qt::ActiveWindowFocusReason:
-      CommitOrRestore();
+      // The focus comes back, and the text is still being typed.
       break;
     default:
       Leave();
@@ -214,7 +219,7 @@ void TextCell::keyPressEvent(QKeyEvent* event) {
       return;
     case Qt::Key_Return:
     case Qt::Key_Enter:
-      if (!Commit()) return;
+      if (!CommitOrRefuse()) return;
       break;
     default:
       if (event == QKeySequence::Paste) {
@@ -287,8 +292,9 @@ QMenu* TextCell::CreateContextMenu() {
 }
 
 void TextCell::contextMenuEvent(QContextMenuEvent* event) {
-  const std::unique_ptr<QMenu> menu(CreateContextMenu());
-  menu->exec(event->globalPos());
+  QMenu* const menu = CreateContextMenu();
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->popup(event->globalPos());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

@@ -17,8 +17,8 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
 /// A line edit that keeps the text that it shows while nothing is being typed, and signals when the
 /// focus comes from or goes to another widget. Opening a menu or deactivating the window does not
-/// count as leaving; the latter commits. All pasted and dropped text goes through Paste. Files and
-/// links are ignored, so that they can be dropped on the parent.
+/// count as leaving: what is being typed stays as it is. All pasted and dropped text goes through
+/// Paste. Files and links are ignored, so that they can be dropped on the parent.
 ///
 /// A text that is wider than the cell is painted in a shorter form, never cut off, which could be
 /// misread, unless it is being edited; a tool tip shows all of it. text() is always the whole text.
@@ -34,7 +34,9 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   virtual bool Commit() = 0;
   /// Discards the typed text.
   virtual void Restore();
-  /// Commits, or restores if that fails.
+  /// Commits as Enter does: if that fails the text stays, and Refused is raised.
+  bool CommitOrRefuse();
+  /// Commits, or restores if that fails, and Refused is raised.
   void CommitOrRestore();
   /// Leaves the cell like a change of focus: CommitOrRestore, then Left. Does nothing if the cell
   /// has not been entered.
@@ -57,7 +59,7 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   void Entered();
   /// The focus has gone to another widget, and the text is committed or restored.
   void Left();
-  /// CommitOrRestore has discarded this text.
+  /// This text cannot be committed: it is still there, or CommitOrRestore has discarded it.
   void Refused(const QString& text);
   /// A menu is about to open; the owner may add to it.
   void MenuOpening(QMenu* menu);

@@ -7,11 +7,14 @@
 #include <utility>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/shape.h"
 
 namespace qorvex::inline QorvexMatrixEdit {
+
+using QorvexBaseControls::detail::SameElement;
 
 TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent)
     : CellPanel(parent, *this, GridAxes::kRowsAndCols,
@@ -136,7 +139,10 @@ TQorFloatMatrix TQorCustomMatrixEdit::Matrix() const {
 
 void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
   if (!matrix.empty() && !MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
-  Parts().focus.CommitPending();
+  Parts().focus.CommitUnless([&](quint32 row, quint32 col) {
+    return row < matrix.size() && col < matrix[row].size() &&
+           SameElement(matrix[row][col], Value(row, col));
+  });
   Parts().history.Forget();
   Take(CopyMatrix(matrix));
 }

@@ -103,7 +103,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
 
   /// @{
   /// The whole matrix, as a copy that shares no memory with the control. Setting copies too, and
-  /// sets the numbers of rows and columns; in virtual mode each element goes through the events.
+  /// sets the numbers of rows and columns; in virtual mode each element goes through the events. A
+  /// text that is being typed is treated as by TQorVectorEdit::setVector.
   /// EMathError with rsMatrixRect for rows of different lengths. O(elements).
   [[nodiscard]] TQorFloatMatrix Matrix() const;
   void setMatrix(const TQorFloatMatrix& matrix);

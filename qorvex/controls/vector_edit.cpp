@@ -9,6 +9,7 @@
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/swap.h"
+#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 #include "qorvex/vector/building.h"
@@ -16,6 +17,8 @@
 #include "qorvex/vector/transforms.h"
 
 namespace qorvex::inline QorvexVectorEdit {
+
+using QorvexBaseControls::detail::SameElement;
 
 TQorVectorEdit::TQorVectorEdit(QWidget* parent)
     : CellPanel(parent, *this, GridAxes::kRows, QorvexControls::detail::CurrentRule::kFollowsTop,
@@ -91,7 +94,9 @@ void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
   }
   const TQorFloatVector copy{std::span<const Extended>(vector)};
   const Update update(*this);
-  Parts().focus.CommitPending();
+  Parts().focus.CommitUnless([&](quint32 row, quint32 col) {
+    return row < copy.size() && SameElement(copy[row], Value(row, col));
+  });
   const auto rows = static_cast<quint32>(copy.size());
   if (Model() != nullptr) setNoOfRows(rows);
   const quint32 rows_before = NoOfRows();

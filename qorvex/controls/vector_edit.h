@@ -86,7 +86,9 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
 
   /// @{
   /// The whole vector, as a copy that shares no memory with the control. Setting copies too, and
-  /// sets the number of rows; in virtual mode each element goes through the events.
+  /// sets the number of rows; in virtual mode each element goes through the events. A text that is
+  /// being typed stays if the new vector has the same element there; otherwise it is committed
+  /// first.
   /// std::length_error for more than 2^32 - 1 elements. O(length).
   [[nodiscard]] TQorFloatVector Vector() const;
   void setVector(const TQorFloatVector& vector);

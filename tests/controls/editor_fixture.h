@@ -128,7 +128,7 @@ struct EditorFixture : testing::Test {
   QScrollBar* Bar() const { return editor->template findChild<QScrollBar*>(); }
 
   void Press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-    QTest::keyClick(window->windowHandle(), key, modifiers);
+    QTest::keyClick(editor->window()->windowHandle(), key, modifiers);
   }
   void Type(const char* text) { QTest::keyClicks(QApplication::focusWidget(), text); }
   void Enter(const char* text) {
@@ -176,5 +176,8 @@ struct EditorFixture : testing::Test {
     Record(&Editor::OnBlockRefused, "refused");
   }
 };
+
+using EditorTypes =
+    testing::Types<TQorVectorEdit, TQorLabelledVectorEdit, TQorMatrixEdit, TQorMatrixFractEdit>;
 
 }  // namespace qorvex

@@ -17,8 +17,6 @@ struct Editors : EditorFixture<Editor> {
   // Whole numbers then look the same as decimal numbers and as fractions.
   Editors() { this->editor->setDecimalPlaces(0); }
 };
-using EditorTypes =
-    testing::Types<TQorVectorEdit, TQorLabelledVectorEdit, TQorMatrixEdit, TQorMatrixFractEdit>;
 TYPED_TEST_SUITE(Editors, EditorTypes);
 
 TYPED_TEST(Editors, ScrollWholeRowsByTheWheelWhereTheFocusIs) {
@@ -168,22 +166,6 @@ TYPED_TEST(Editors, TakeTheirKeysBeforeTheApplicationDoes) {
   this->other->setFocus();
   this->Press(Qt::Key_Down, Qt::ControlModifier);
   EXPECT_EQ(taken.count(), 1);
-  // Each cell is one stop of the tab key, in order, including those that are added later.
-  for (int edits : {0, 4, 5}) this->SetCells(edits);
-  this->Cell(2)->setFocus();
-  for (int edit : {3, 4}) {
-    this->Press(Qt::Key_Tab);
-    EXPECT_TRUE(this->Cell(edit)->hasFocus()) << edit;
-  }
-  this->Press(Qt::Key_Tab);
-  EXPECT_TRUE(this->other->hasFocus());
-  this->other->clearFocus();
-  this->Press(Qt::Key_Tab);
-  EXPECT_TRUE(this->Cell(0)->hasFocus()) << "the editor is the first in its window";
-  this->other->setFocus();
-  this->editor->setTabStop(false);
-  this->Press(Qt::Key_Backtab, Qt::ShiftModifier);
-  EXPECT_FALSE(this->Cell(4)->hasFocus());
 }
 
 TYPED_TEST(Editors, ShareSettingsAndOutliveThem) {

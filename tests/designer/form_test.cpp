@@ -5,6 +5,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 #include <QXmlStreamReader>
+#include <QtTest/QTest>
 #include <memory>
 
 #include "qorvex/components/desc_stats_holder.h"
@@ -17,6 +18,7 @@
 #include "support/test.h"
 #include "ui_by_name.h"
 #include "ui_form.h"
+#include "ui_tab_order.h"
 
 namespace qorvex {
 namespace {
@@ -85,6 +87,39 @@ TEST(Form, WorksLoadedAtRunTime) {
   const auto form = Loaded("form.ui");
   ASSERT_TRUE(form);
   ExpectAsWritten(*form);
+}
+
+// Walks through tab_order.ui by the tab key and back. The cells count as their editor.
+void ExpectTabOrder(QWidget& form) {
+  form.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+  const auto walk = [&form](const char* from, const char* to, Qt::Key key) {
+    form.findChild<QWidget*>(from)->setFocus();
+    QStringList names;
+    for (int steps = 0; steps < 20 && (names.isEmpty() || names.last() != to); ++steps) {
+      QTest::keyClick(form.windowHandle(), key);
+      const QWidget* const focus = QApplication::focusWidget();
+      const auto* const editor = qobject_cast<CellPanel*>(focus->parentWidget());
+      const QString name = (editor != nullptr ? editor : focus)->objectName();
+      if (names.isEmpty() || names.last() != name) names.append(name);
+    }
+    return names.join(' ').toStdString();
+  };
+  EXPECT_EQ(walk("first", "last", Qt::Key_Tab), "matrix vector last");
+  EXPECT_EQ(walk("last", "first", Qt::Key_Backtab), "vector matrix first");
+  QTest::keyClick(form.windowHandle(), Qt::Key_V, Qt::AltModifier);
+  const auto* const vector = form.findChild<CellPanel*>("vector");
+  EXPECT_TRUE(vector->hasFocus());
+  EXPECT_TRUE(vector->focusPolicy() & Qt::TabFocus) << "what Qt Designer asks for";
+}
+
+TEST(Form, HasTheTabOrderOfItsDesign) {
+  QWidget form;
+  Ui::TabOrder().setupUi(&form);
+  ExpectTabOrder(form);
+  const auto loaded = Loaded("tab_order.ui");
+  ASSERT_TRUE(loaded);
+  ExpectTabOrder(*loaded);
 }
 
 // Each editor of by_name.ui is called after its page and the holder that it names.

@@ -20,6 +20,8 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
                      detail::EditWindowEvents row_events, detail::EditWindowEvents col_events)
     : TQorCustomPanel(parent), table_(table) {
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  // The tab key, a buddy and QWidget::setTabOrder lead to the cells. A click beside them does not.
+  setFocusPolicy(Qt::TabFocus);
   row_events.before_top = [this](quint32 top) {
     parts_->focus.CommitPending();
     Q_EMIT ontopChange(top);
@@ -69,9 +71,12 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::textEdited, this,
           [=, this](const QString& text) { table_.NotifyText(row(), col(), text); });
   connect(&cell, &TQorCustomEdit::Refused, this,
-          [=, this](const QString& text) { RefuseText(row(), col(), text); });
+          [=, this, &cell](const QString& text) { RefuseText(cell, row(), col(), text); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
-  connect(&cell, &TQorCustomEdit::MenuOpening, this, &CellPanel::AddToMenu);
+  connect(&cell, &TQorCustomEdit::MenuOpening, this, [=, this](QMenu* menu) {
+    AddToMenu(menu);
+    Q_EMIT OnContextMenu(*menu, row(), col());
+  });
   cell.StoreElsewhere = [=, this, &cell](Extended value) { DoChange(cell, row(), col(), value); };
   Watch(cell);
 }
@@ -104,14 +109,12 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
 void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
   const auto wanted = static_cast<quint32>(std::clamp(edits, 0, kMaxEdits));
   if (wanted == axis.Window().Edits()) return;
-  parts_->focus.CommitPending();
   parts_->focus.Keep(axis, wanted, [&] { axis.Window().SetEdits(wanted); });
   FitGrid();
   axis.ReachWantedTop();
 }
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
-  parts_->focus.CommitPending();
   const quint32 top = axis.Window().Top();
   parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
   axis.ReachWantedTop();
@@ -127,6 +130,7 @@ void CellPanel::Redisplay() {
   parts_->model.FetchRow(Rows().Top() + Rows().Edits());
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
+  parts_->focus.Lead();
   if (!Updating()) parts_->grid.Show();
 }
 
@@ -189,15 +193,15 @@ void CellPanel::wheelEvent(QWheelEvent* event) {
   parts_->keys.EditMouseWheel(*event);
 }
 
-void CellPanel::focusInEvent(QFocusEvent* event) {
-  TQorCustomPanel::focusInEvent(event);
-  parts_->focus.FocusCell(Rows().Focus(), Cols().Focus());
+bool CellPanel::focusNextPrevChild(bool next) {
+  return parts_->focus.TabOn(next) || TQorCustomPanel::focusNextPrevChild(next);
 }
 
 void CellPanel::hideEvent(QHideEvent* event) {
   // Turning a page of tabs loses nothing. The cell is not left, though: the control may be about to
-  // be deleted, and what its handlers refer to with it.
-  parts_->focus.CommitPending();
+  // be deleted, and what its handlers refer to with it. A window that is minimised comes back as it
+  // was.
+  if (!event->spontaneous()) parts_->focus.CommitPending();
   TQorCustomPanel::hideEvent(event);
 }
 

@@ -41,8 +41,13 @@ enum class CurrentRule;
 /// text is being typed, they work on the text. Ctrl+Shift+C copies the whole table, and several
 /// cells of a spreadsheet can be pasted.
 ///
-/// Before anything scrolls or changes under a cell, the text that is being typed there is
-/// committed, or discarded if it is not a number.
+/// The tab key goes from cell to cell and scrolls on at the last one in sight; Ctrl+Tab and
+/// Ctrl+Shift+Tab leave at once. QWidget::setTabOrder and buddies lead to the first cell in sight;
+/// setFocus leads to the cell that had the focus last.
+///
+/// Before another element comes under a cell, the text that is being typed there is committed, or
+/// discarded if it is not a number. Until then it stays, whatever else changes and while another
+/// window is active.
 ///
 /// Every cell has an accessible name while assistive technology is active.
 ///
@@ -182,8 +187,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnUndo();
   /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
-  /// A typed text is not a number and has been discarded; the message names element and text.
+  /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
+  /// message names element and text.
   void OnTextRefused(const QString& message);
+  /// The menu of the element's cell is about to open: add to it. It is raised as long as the
+  /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
+  void OnContextMenu(QMenu& menu, quint32 row, quint32 col);
 
   /// @{
   /// Events of the cells. A handler of OnKeyDown or OnKeyPress that accepts the event suppresses
@@ -245,7 +254,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SettingsChanged() override;
   void DoColorSetChange() override;
   void changeEvent(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
   void hideEvent(QHideEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
@@ -264,7 +273,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ApplySettings();
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
   void RefuseBlock(const QString& message);
-  void RefuseText(quint32 row, quint32 col, const QString& text);
+  void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text);
   void AddToMenu(QMenu* menu);
   CellTable& table_;
   bool null_ = false;

@@ -18,6 +18,12 @@ namespace {
 
 constexpr quint64 kMaxCopiedValues = 10'000'000;
 
+void ShowTip(TextCell& text, const QString& message) {
+  if (!text.isVisible()) return;
+  QToolTip::showText(text.mapToGlobal(text.rect().bottomLeft()),
+                     QorvexBaseControls::detail::AsToolTip(message), &text);
+}
+
 }  // namespace
 
 bool CellPanel::PasteBlock(const QString& text) {
@@ -58,18 +64,19 @@ void CellPanel::CopyAll() {
 }
 
 void CellPanel::RefuseBlock(const QString& message) {
-  if (TextCell* const text = parts_->focus.Entered(); text != nullptr && isVisible()) {
-    QToolTip::showText(text->mapToGlobal(text->rect().bottomLeft()),
-                       QorvexBaseControls::detail::AsToolTip(message), text);
-  }
+  if (TextCell* const text = parts_->focus.Entered()) ShowTip(*text, message);
   Q_EMIT OnBlockRefused(message);
 }
 
-void CellPanel::RefuseText(quint32 row, quint32 col, const QString& text) {
-  Q_EMIT OnTextRefused(QCoreApplication::translate("CellPanel",
-                                                   "%1: \"%2\" is not a number. The value stays.",
-                                                   "name of a cell, its text")
-                           .arg(table_.CellName(row, col), text));
+void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text) {
+  const QString message =
+      QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number. The value stays.",
+                                  "name of a cell, its text")
+          .arg(table_.CellName(row, col), text);
+  // Later, since a change of the focus hides tool tips.
+  QMetaObject::invokeMethod(
+      &cell, [&cell, message] { ShowTip(cell, message); }, Qt::QueuedConnection);
+  Q_EMIT OnTextRefused(message);
 }
 
 void CellPanel::Undo() {

@@ -91,7 +91,6 @@ void CellPanel::setNull(bool null) {
     Redisplay();
     return;
   }
-  parts_->focus.CommitPending();
   parts_->grid.ForEach([](TQorCustomEdit& cell) {
     if (cell.isEnabled()) cell.Refresh(std::numeric_limits<Extended>::quiet_NaN());
   });

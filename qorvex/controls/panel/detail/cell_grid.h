@@ -73,6 +73,7 @@ class CellGrid : private QAccessible::ActivationObserver {
   [[nodiscard]] TQorCustomEdit* Cell(std::size_t row, std::size_t col) const {
     return cells_[row][col];
   }
+  [[nodiscard]] bool HasHeader() const { return !header_texts_.empty(); }
   [[nodiscard]] TextCell* HeaderText(std::size_t row) const { return header_texts_[row]; }
   /// Whether a cell shows an element.
   [[nodiscard]] bool IsUsed(std::size_t row, std::size_t col) const {

@@ -1,11 +1,23 @@
 #include "qorvex/controls/panel/detail/panel_focus.h"
 
-#include "qorvex/controls/detail/grid_navigation.h"
-
 namespace qorvex::inline QorvexControls::detail {
 
-PanelFocus::PanelFocus(PanelAxis& rows, PanelAxis& cols, const CellGrid& grid, CurrentRule rule)
-    : rows_(rows), cols_(cols), grid_(grid), rule_(rule) {}
+namespace {
+
+AxisState StateOf(const EditWindow& window, quint32 current) {
+  return {window.Top(), window.LargestTop(), window.Focus(), window.UsedEdits(),
+          current,      window.Count()};
+}
+
+bool StopsAt(const TextCell& text) {
+  return (text.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+}  // namespace
+
+PanelFocus::PanelFocus(QWidget& panel, PanelAxis& rows, PanelAxis& cols, const CellGrid& grid,
+                       CurrentRule rule)
+    : panel_(panel), rows_(rows), cols_(cols), grid_(grid), rule_(rule) {}
 
 void PanelFocus::Enter(TextCell& text, CellPlace place, bool in_header) {
   in_header_ = in_header;
@@ -14,6 +26,7 @@ void PanelFocus::Enter(TextCell& text, CellPlace place, bool in_header) {
   entered_ = &text;
   rows_.Window().Enter(place.row);
   cols_.Window().Enter(place.col);
+  Lead();
 }
 
 void PanelFocus::Leave(const TextCell& text) {
@@ -22,6 +35,12 @@ void PanelFocus::Leave(const TextCell& text) {
 
 void PanelFocus::CommitPending() {
   if (entered_ != nullptr) entered_->CommitOrRestore();
+}
+
+void PanelFocus::CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays) {
+  if (entered_ == nullptr || !entered_->Pending()) return;
+  const auto element = [](const EditWindow& window) { return window.Top() + window.Focus(); };
+  if (in_header_ || !stays(element(rows_.Window()), element(cols_.Window()))) CommitPending();
 }
 
 void PanelFocus::FocusCell(std::size_t row, std::size_t col) {
@@ -35,10 +54,13 @@ void PanelFocus::FocusCell(std::size_t row, std::size_t col) {
   cell->setFocus(Qt::OtherFocusReason);
 }
 
+TextCell* PanelFocus::TextAt(std::size_t row, std::size_t col) const {
+  return in_header_ ? grid_.HeaderText(row) : grid_.Cell(row, col);
+}
+
 void PanelFocus::Navigate(std::size_t row, std::size_t col) {
   if (!grid_.IsUsed(row, col)) return;
-  TextCell* const target = in_header_ ? grid_.HeaderText(row) : grid_.Cell(row, col);
-  target->setFocus(Qt::OtherFocusReason);
+  TextAt(row, col)->setFocus(Qt::OtherFocusReason);
 }
 
 void PanelFocus::Park(const PanelAxis& axis) {
@@ -48,29 +70,78 @@ void PanelFocus::Park(const PanelAxis& axis) {
 }
 
 void PanelFocus::Step(PanelAxis& along, PanelAxis& across, bool forward) {
-  if (entered_ != nullptr && !entered_->Commit()) return;
+  if (entered_ != nullptr && !entered_->CommitOrRefuse()) return;
   const auto state = [this](const PanelAxis& axis) {
     const EditWindow& window = axis.Window();
     const bool follows_top = rule_ == CurrentRule::kFollowsTop;
-    return AxisState{window.Top(),
-                     window.LargestTop(),
-                     window.Focus(),
-                     window.UsedEdits(),
-                     follows_top ? window.Current() : window.Top() + window.Focus(),
-                     window.Count()};
+    return StateOf(window, follows_top ? window.Current() : window.Top() + window.Focus());
   };
-  const auto step = NextCell(state(along), state(across), forward);
-  if (!step) return;
-  if (step->scrolls) {
+  if (const auto step = NextCell(state(along), state(across), forward)) Go(along, across, *step);
+}
+
+void PanelFocus::Go(PanelAxis& along, PanelAxis& across, const GridStep& step) {
+  if (step.scrolls) {
     // The cell is left under its old row and entered again under its new one.
-    Park(step->across.top != across.Window().Top() ? across : along);
-    along.Window().SetTop(step->along.top);
-    across.Window().SetTop(step->across.top);
+    Park(step.across.top != across.Window().Top() ? across : along);
+    along.Window().SetTop(step.along.top);
+    across.Window().SetTop(step.across.top);
   }
   const bool vertical = &along == &rows_;
-  const AxisStep& row = vertical ? step->along : step->across;
-  const AxisStep& col = vertical ? step->across : step->along;
+  const AxisStep& row = vertical ? step.along : step.across;
+  const AxisStep& col = vertical ? step.across : step.along;
   Navigate(row.edit, col.edit);
+}
+
+bool PanelFocus::StopsAtHeader(std::size_t row) const {
+  return grid_.HasHeader() && StopsAt(*grid_.HeaderText(row));
+}
+
+bool PanelFocus::TabOn(bool forward) {
+  const quint32 row = rows_.Window().Focus();
+  const quint32 col = cols_.Window().Focus();
+  if (entered_ == nullptr || !grid_.IsUsed(row, col) || !StopsAt(*grid_.Cell(row, col))) {
+    return false;
+  }
+  // A text of the header comes before the cells of its row, with which it is in sight.
+  if (forward ? in_header_ : !in_header_ && col == 0 && StopsAtHeader(row)) return false;
+  const auto next = [&] {
+    const auto state = [](const EditWindow& window) {
+      return StateOf(window, window.Top() + window.Focus());
+    };
+    return NextCell(state(cols_.Window()), state(rows_.Window()), forward);
+  };
+  if (const auto step = next(); !step || !step->scrolls) return false;
+  CommitPending();
+  // Handlers may have changed the table.
+  if (const auto step = next()) {
+    in_header_ = forward && step->along.edit == 0 && StopsAtHeader(step->across.edit);
+    Go(cols_, rows_, *step);
+  }
+  return true;
+}
+
+void PanelFocus::Lead() {
+  const quint32 row = rows_.Window().Focus();
+  const quint32 col = cols_.Window().Focus();
+  QWidget* const bar = rows_.Bar();
+  QWidget* taker = bar;
+  if (grid_.IsUsed(row, col)) taker = TextAt(row, col);
+  const QWidget* const before = panel_.focusProxy();
+  if (taker == before) return;
+  panel_.setFocusProxy(taker);
+  const QWidget* const focus = panel_.window()->focusWidget();
+  const bool waits = focus != nullptr && (focus == bar || focus == cols_.Bar());
+  if (before == bar && waits) taker->setFocus(Qt::OtherFocusReason);
+}
+
+bool PanelFocus::Redirect(const QObject* text, Qt::FocusReason reason) {
+  if (reason != Qt::TabFocusReason && reason != Qt::ShortcutFocusReason) return false;
+  if (entered_ != nullptr || text != panel_.focusProxy()) return false;
+  QWidget* const first =
+      StopsAtHeader(0) ? grid_.HeaderText(0) : static_cast<QWidget*>(grid_.Cell(0, 0));
+  if (text == first) return false;
+  first->setFocus(reason);
+  return true;
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -3,7 +3,10 @@
 /// @file
 /// PanelFocus, which cell of a panel is being edited and where keys move the focus.
 
+#include <functional>
+
 #include "qorvex/base_controls/text_cell.h"
+#include "qorvex/controls/detail/grid_navigation.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 
@@ -13,7 +16,8 @@ namespace qorvex::inline QorvexControls::detail {
 /// scroll the table under it.
 class PanelFocus {
  public:
-  PanelFocus(PanelAxis& rows, PanelAxis& cols, const CellGrid& grid, CurrentRule rule);
+  PanelFocus(QWidget& panel, PanelAxis& rows, PanelAxis& cols, const CellGrid& grid,
+             CurrentRule rule);
 
   /// The text that has been entered and not left, or a null pointer.
   [[nodiscard]] TextCell* Entered() const noexcept { return entered_; }
@@ -24,6 +28,8 @@ class PanelFocus {
   /// @}
   /// Commits what is being typed, or discards it if it is not a number.
   void CommitPending();
+  /// The same before the elements change, unless the one that is being edited stays as it is.
+  void CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays);
 
   /// Gives the focus to a cell that shows an element; others are ignored.
   void FocusCell(std::size_t row, std::size_t col);
@@ -32,6 +38,15 @@ class PanelFocus {
 
   /// Moves the focus one cell along an axis. A text that is not a number keeps it.
   void Step(PanelAxis& along, PanelAxis& across, bool forward);
+  /// Moves the focus as the tab key does to the next element in reading order if that is out of
+  /// sight; false if it is in sight or there is none, and if the key does not stop at the cells.
+  bool TabOn(bool forward);
+  /// The focus that the panel gets is for the text that had it last. It waits on the bar as long as
+  /// no cell shows an element.
+  void Lead();
+  /// A text is about to get the focus. If the tab key or a buddy leads to the panel, the first text
+  /// gets it instead, and the result is true.
+  bool Redirect(const QObject* text, Qt::FocusReason reason);
 
   /// Runs a change of an axis, after which its edits from the given one on are gone or show no
   /// element. A focus there leaves its cell before the change and goes to the last used cell
@@ -45,9 +60,16 @@ class PanelFocus {
   }
 
  private:
+  // The cell, or the text of the header when the focus was last there.
+  [[nodiscard]] TextCell* TextAt(std::size_t row, std::size_t col) const;
   // Leaves the cell; the focus waits on the bar.
   void Park(const PanelAxis& axis);
+  // Scrolls if need be, and moves the focus.
+  void Go(PanelAxis& along, PanelAxis& across, const GridStep& step);
+  // Whether the tab key stops at the text in front of a row.
+  [[nodiscard]] bool StopsAtHeader(std::size_t row) const;
 
+  QWidget& panel_;
   PanelAxis& rows_;
   PanelAxis& cols_;
   const CellGrid& grid_;

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "qorvex/controls/panel/detail/tab_order.h"
+
 namespace qorvex::inline QorvexControls::detail {
 
 namespace {
@@ -54,6 +56,9 @@ bool PanelKeys::IsOwnKey(const QKeyEvent& event) const {
       return held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier);
     case Qt::Key_C:
       return held == (Qt::ControlModifier | Qt::ShiftModifier);
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return held.testFlag(Qt::ControlModifier) && !held.testFlag(Qt::AltModifier);
     default:
       return false;
   }
@@ -81,6 +86,14 @@ bool PanelKeys::UseKey(const QKeyEvent& event) {
     case Qt::Key_C:
       panel_.CopyAll();
       return true;
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab: {
+      const bool forward = event.key() == Qt::Key_Tab && !Held(event).testFlag(Qt::ShiftModifier);
+      if (QWidget* const stop = StopOutside(panel_, forward)) {
+        stop->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+      }
+      return true;
+    }
     case Qt::Key_Y:
     case Qt::Key_Z: {
       if (focus_.Entered() != nullptr && focus_.Entered()->Pending()) return false;
@@ -146,6 +159,13 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
       auto& key = static_cast<QKeyEvent&>(*event);
       return EditKeyDown(key) || EditKeyPress(key);
     }
+    case QEvent::FocusIn:
+      return focus_.Redirect(watched, static_cast<const QFocusEvent&>(*event).reason());
+    case QEvent::ContextMenu:
+      if (panel_.contextMenuPolicy() == Qt::DefaultContextMenu) break;
+      // Ignored, it goes on to the panel, which follows its policy.
+      event->ignore();
+      return true;
     case QEvent::KeyRelease:
       Q_EMIT panel_.OnKeyUp(static_cast<QKeyEvent*>(event));
       break;

@@ -34,7 +34,7 @@ struct PanelParts {
                .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
-        focus(rows, cols, grid, rule),
+        focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
         grid(panel, panel.table_, rows.Window(), cols.Window(),
              {.connect = [&panel](TQorCustomEdit& cell,
