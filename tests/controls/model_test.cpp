@@ -264,4 +264,103 @@ TYPED_TEST(ModelEdit, FollowsElementsThatAreSortedAndFiltered) {
   EXPECT_EQ(Column(model), "30|10|21");
 }
 
+/// Items of which the first can only be read, and the second refuses numbers below 0. The rows come
+/// two at a time.
+class Stubborn : public QStringListModel {
+ public:
+  Stubborn() : QStringListModel({"0", "1", "2", "3", "4", "5", "6"}) {}
+
+  int rowCount(const QModelIndex& parent) const override {
+    return std::min(QStringListModel::rowCount(parent), fetched_);
+  }
+  bool canFetchMore(const QModelIndex& parent) const override {
+    return rowCount(parent) < QStringListModel::rowCount(parent);
+  }
+  void fetchMore(const QModelIndex& parent) override {
+    const int more = std::min(2, QStringListModel::rowCount(parent) - fetched_);
+    beginInsertRows(parent, fetched_, fetched_ + more - 1);
+    fetched_ += more;
+    endInsertRows();
+  }
+  Qt::ItemFlags flags(const QModelIndex& index) const override {
+    const Qt::ItemFlags flags = QStringListModel::flags(index);
+    return index.row() == 0 ? flags & ~Qt::ItemIsEditable : flags;
+  }
+  bool setData(const QModelIndex& index, const QVariant& value, int role) override {
+    return value.toDouble() >= 0 && QStringListModel::setData(index, value, role);
+  }
+
+ private:
+  int fetched_ = 2;
+};
+
+TYPED_TEST(ModelEdit, RespectsWhatItsModelRefuses) {
+  Stubborn model;
+  this->Open(&model);
+  EXPECT_EQ(this->editor->NoOfRows(), 6U) << "what is in sight, and whether there is more";
+  this->editor->ScrollBottom();
+  EXPECT_EQ(this->editor->NoOfRows(), 7U);
+  this->editor->ScrollTop();
+  EXPECT_TRUE(this->Cell(0)->QLineEdit::isReadOnly());
+  EXPECT_FALSE(this->Cell(1)->QLineEdit::isReadOnly());
+  this->FocusEdit(1);
+  this->Type("-7");
+  this->Take();
+  this->Press(Qt::Key_Return);
+  EXPECT_EQ(this->Take().substr(0, 8), "refused ");
+  EXPECT_EQ(this->Cell(1)->text(), "1.0000");
+  EXPECT_FALSE(this->editor->CanUndo());
+  this->editor->ScrollDown(1);
+  EXPECT_FALSE(this->Cell(0)->QLineEdit::isReadOnly());
+}
+
+TEST(Models, AreSharedByViewsAndMappers) {
+  QLocale::setDefault(QLocale::c());
+  TQorMatrixModel model;
+  model.setMatrix({{1, 2}, {3, 4}, {5, 6}});
+  Watch(model);
+  QWidget form;
+  auto* const layout = new QVBoxLayout(&form);
+  auto* const table = new QTableView;
+  auto* const column = new TQorVectorEdit;
+  auto* const matrix = new TQorMatrixFractEdit;
+  auto* const field = new QLineEdit;
+  for (QWidget* widget : {static_cast<QWidget*>(table), static_cast<QWidget*>(column),
+                          static_cast<QWidget*>(matrix), static_cast<QWidget*>(field)}) {
+    layout->addWidget(widget);
+  }
+  table->setModel(&model);
+  column->setModelColumn(1);
+  column->setModel(&model);
+  matrix->setModel(&model);
+  QDataWidgetMapper mapper;
+  mapper.setModel(&model);
+  mapper.addMapping(field, 1);
+  mapper.setCurrentIndex(1);
+  form.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&form));
+
+  // Typed into the table, the editor and the field.
+  table->setCurrentIndex(model.index(0, 1));
+  table->edit(model.index(0, 1));
+  auto* const table_field = table->findChild<QLineEdit*>();
+  ASSERT_NE(table_field, nullptr);
+  QTest::keyClicks(table_field, "0.1");
+  QTest::keyClick(table_field, Qt::Key_Return);
+  QApplication::processEvents();
+  EXPECT_EQ(model.Element(0, 1), 0.1L);
+  EXPECT_EQ(column->Element(0), 0.1L);
+  EXPECT_EQ(matrix->FractElement(0, 1).denominator, 10);
+  column->setEditFocus(1);
+  QTest::keyClicks(QApplication::focusWidget(), "0.7");
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  EXPECT_EQ(field->text(), "0.7");
+  field->setText("8");
+  EXPECT_TRUE(mapper.submit());
+  EXPECT_EQ(column->Element(1), 8);
+  model.removeColumns(0, 1);
+  EXPECT_EQ(matrix->NoOfCols(), 1U);
+  EXPECT_TRUE(std::isnan(column->Element(1))) << "its column is gone";
+}
+
 }  // namespace qorvex
