@@ -39,6 +39,30 @@ std::string ExponentText(Extended value, int decimals, bool trim) {
   return WithShortExponent(text, trim);
 }
 
+// The shortest exponent form that is read back as the same value.
+std::string ShortestExponentText(Extended value) {
+  char text[64];
+  const auto [end, error] =
+      std::to_chars(text, text + sizeof text, value, std::chars_format::scientific);
+  return WithShortExponent({text, end}, false);
+}
+
+std::string SignificantText(Extended value, int significant, bool trim) {
+  constexpr int least_exponent = -4;
+  const std::string text = ExponentText(value, significant - 1, false);
+  // Of the rounded number: 9.9996 has the exponent 1 with four digits.
+  const int exponent = std::stoi(text.substr(text.find('e') + 1));
+  if (exponent < least_exponent || exponent >= significant) {
+    return trim ? ExponentText(value, significant - 1, true) : text;
+  }
+  return FixedText(value, significant - 1 - exponent, trim);
+}
+
+// A format without trailing zeros removes them from shorter texts too.
+bool Trims(const FloatDigits& digits) {
+  return digits.trim || digits.format == nfGeneral;
+}
+
 // The longest text that fits among those with least to most digits, found by bisection.
 template <class MakeText>
 std::optional<std::string> LongestThatFits(int least, int most, MakeText make_text,
@@ -63,7 +87,8 @@ struct Digits {
   int decimals = 0;
   // The number of decimals up to the first non-zero digit.
   int leading_decimals = 0;
-  // The number of digits from the first non-zero one on; 0 for zero.
+  // The number of digits from the first non-zero one on. A zero in fixed notation, which fits as
+  // "0", has none.
   int significant = 0;
 
   explicit Digits(std::string_view text) {
@@ -76,7 +101,10 @@ struct Digits {
     };
     decimals = decimals_to(text.size());
     const std::size_t first = text.find_first_of(kNonZero);
-    if (first == std::string_view::npos) return;
+    if (first == std::string_view::npos) {
+      significant = fixed ? 0 : decimals + 1;
+      return;
+    }
     leading_decimals = decimals_to(first + 1);
     significant = static_cast<int>(text.size() - first) - (first < point && point < text.size());
   }
@@ -86,10 +114,25 @@ struct Digits {
 
 std::string FloatText(Extended value, const FloatDigits& digits) {
   constexpr Extended no_decimals = 0x1p63L;
-  const bool all = digits.all || std::fabs(value) >= no_decimals;
-  if (value == 0 && all) return "0";
-  return all ? WithShortExponent(Float2Str(value), digits.trim)
-             : FixedText(value, digits.decimals, digits.trim);
+  if (value == 0) value = 0;  // Without its sign.
+  const bool all = digits.all || !std::isfinite(value) ||
+                   (digits.format == nfFixed && std::fabs(value) >= no_decimals);
+  if (all) {
+    return digits.format == nfScientific && std::isfinite(value)
+               ? ShortestExponentText(value)
+               : WithShortExponent(Float2Str(value), digits.trim);
+  }
+  const int significant = std::max(digits.significant, 1);
+  switch (digits.format) {
+    case nfSignificant:
+    case nfGeneral:
+      return SignificantText(value, significant, Trims(digits));
+    case nfScientific:
+      return ExponentText(value, significant - 1, digits.trim);
+    case nfFixed:
+      break;
+  }
+  return FixedText(value, digits.decimals, digits.trim);
 }
 
 std::string FittedFloatText(Extended value, const FloatDigits& digits, const TextFits& fits) {
@@ -97,14 +140,15 @@ std::string FittedFloatText(Extended value, const FloatDigits& digits, const Tex
   if (fits(text)) return text;
   std::optional<std::string> fitted;
   if (std::isfinite(value)) {
+    if (value == 0) value = 0;  // Without its sign.
     const Digits whole(text);
     if (whole.fixed) {
-      const auto fixed = [&](int decimals) { return FixedText(value, decimals, digits.trim); };
+      const auto fixed = [&](int decimals) { return FixedText(value, decimals, Trims(digits)); };
       fitted = LongestThatFits(whole.leading_decimals, whole.decimals - 1, fixed, fits);
     }
     if (!fitted) {
       const auto exponent = [&](int decimals) {
-        return ExponentText(value, decimals, digits.trim);
+        return ExponentText(value, decimals, Trims(digits));
       };
       fitted = LongestThatFits(0, whole.significant - 1, exponent, fits);
     }

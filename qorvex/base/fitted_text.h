@@ -13,17 +13,31 @@
 
 namespace qorvex::inline QorvexGlobals {
 
+/// The notation of a number.
+enum TQorNumberFormat {
+  nfFixed,        ///< With a number of decimals: "1234.5000".
+  nfSignificant,  ///< With a number of significant digits: "1234.50", or "1.23450e10" if need be.
+  nfScientific,   ///< With a number of significant digits, in exponent form: "1.23450e3".
+  nfGeneral       ///< As nfSignificant, but without trailing zeros: "1234.5".
+};
+
 /// How many digits of a number are shown.
 struct FloatDigits {
-  int decimals = 4;   ///< Decimals in fixed notation; negative values count as 0.
-  bool all = false;   ///< Show the digits of Float2Str instead of a number of decimals.
+  int decimals = 4;   ///< Decimals of nfFixed; negative values count as 0.
+  bool all = false;   ///< Show the digits of Float2Str instead of a number of digits.
   bool trim = false;  ///< Remove trailing zeros after the decimal point.
+  TQorNumberFormat format = nfFixed;  ///< The notation.
+  int significant = 6;  ///< Significant digits of the other formats; less than 1 counts as 1.
 };
 
 /// The number with these digits, correctly rounded.
 ///
-/// - From 2^63 on, where a number has no decimals, all its digits are shown, in exponent form
-///   ("1.2e300") if that is shorter.
+/// - nfFixed: from 2^63 on, where a number has no decimals, all its digits are shown, in exponent
+///   form ("1.2e300") if that is shorter.
+/// - nfSignificant and nfGeneral: exponent form below 0.0001, and for numbers with more digits
+///   before the decimal point than are shown.
+/// - All digits: the shorter of plain notation and exponent form, but always the latter for
+///   nfScientific.
 /// - Zero has no sign.
 /// - NaN is "nan", the infinities are "inf" and "-inf".
 [[nodiscard]] QORVEX_EXPORT std::string FloatText(Extended value, const FloatDigits& digits);

@@ -31,6 +31,7 @@ void CellProperties::setSettings(const CellSettings& settings) {
   CellSettings rest = settings;
   rest.colors = settings_.colors;
   rest.number.decimal_places = std::clamp(rest.number.decimal_places, 0, 255);
+  rest.number.significant_digits = std::clamp(rest.number.significant_digits, 1, 255);
   Assign(settings_, rest);
 }
 

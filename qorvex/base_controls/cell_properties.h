@@ -24,6 +24,13 @@
   QORVEX_PUBLISHED(QColor, ColorSetInvalidText)        \
   QORVEX_PUBLISHED(QColor, ColorSetInvalidBackground)
 
+/// How numbers are written and read, as properties that were added to the older ones.
+#define QORVEX_PUBLISHED_NUMBERS                                 \
+  QORVEX_PUBLISHED(qorvex::NumberSettings::Format, NumberFormat) \
+  QORVEX_PUBLISHED(int, SignificantDigits)                       \
+  QORVEX_PUBLISHED(bool, Grouping)                               \
+  QORVEX_PUBLISHED(bool, ReadExpressions)
+
 namespace qorvex::inline QorvexBaseControls {
 
 /// Accessors of the settings of cells, for a class that publishes them as properties. See
@@ -68,9 +75,11 @@ class QORVEX_EXPORT CellProperties {
   }
   /// @endcond
   /// @{
-  /// One setting. DecimalPlaces is clamped to 0 to 255.
+  /// One setting. DecimalPlaces is clamped to 0 to 255, SignificantDigits to 1 to 255.
   QORVEX_CELL_PROPERTY(bool, TrimTrailingZeroes, number.trim_trailing_zeroes)
   QORVEX_CELL_PROPERTY(bool, FullAccuracy, number.full_accuracy)
+  QORVEX_CELL_PROPERTY(NumberSettings::Format, NumberFormat, number.format)
+  QORVEX_CELL_PROPERTY(bool, Grouping, number.grouping)
   QORVEX_CELL_PROPERTY(Qt::Alignment, Alignment, number.alignment)
   QORVEX_CELL_PROPERTY(bool, AutoSelectClick, selection.auto_select_click)
   QORVEX_CELL_PROPERTY(bool, AutoSelect, selection.auto_select)
@@ -79,6 +88,7 @@ class QORVEX_EXPORT CellProperties {
   QORVEX_CELL_PROPERTY(bool, BlankWhenNull, nulls.blank_when_null)
   QORVEX_CELL_PROPERTY(QString, NullStr, nulls.null_str)
   QORVEX_CELL_PROPERTY(bool, ReadOnly, read_only)
+  QORVEX_CELL_PROPERTY(bool, ReadExpressions, read_expressions)
   [[nodiscard]] int DecimalPlaces() const {
     return settings_.number.decimal_places;
   }
@@ -87,6 +97,15 @@ class QORVEX_EXPORT CellProperties {
   }
   void resetDecimalPlaces() {
     setDecimalPlaces(NumberSettings().decimal_places);
+  }
+  [[nodiscard]] int SignificantDigits() const {
+    return settings_.number.significant_digits;
+  }
+  void setSignificantDigits(int digits) {
+    Assign(settings_.number.significant_digits, std::clamp(digits, 1, 255));
+  }
+  void resetSignificantDigits() {
+    setSignificantDigits(NumberSettings().significant_digits);
   }
   /// @}
   /// @{

@@ -20,7 +20,7 @@ QString TQorFloatEdit::TextOf(Extended value) const {
 }
 
 FloatDigits TQorFloatEdit::Digits() const {
-  return {.decimals = DecimalPlaces(), .all = FullAccuracy(), .trim = TrimTrailingZeroes()};
+  return Settings().number.Digits();
 }
 
 std::optional<Extended> TQorFloatEdit::ValueOf(const QString& text) const {

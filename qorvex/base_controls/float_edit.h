@@ -33,6 +33,7 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
   QORVEX_PUBLISHED(QString, NullStr)
   QORVEX_PUBLISHED(bool, ReadOnly)
   QORVEX_PUBLISHED_COLORS
+  QORVEX_PUBLISHED_NUMBERS
   /// @}
 
  public:

@@ -8,7 +8,10 @@ TQorUICtrl::~TQorUICtrl() = default;
 CellSettings TQorUICtrl::Merged(CellSettings own, TQorUIUsage usage) const {
   const CellSettings shared = Settings();
   if (usage.testFlag(uuColors)) own.colors = shared.colors;
-  if (usage.testFlag(uuNumberFormat)) own.number = shared.number;
+  if (usage.testFlag(uuNumberFormat)) {
+    own.number = shared.number;
+    own.read_expressions = shared.read_expressions;
+  }
   if (usage.testFlag(uuNullHandling)) own.nulls = shared.nulls;
   if (usage.testFlag(uuBehaviour)) own.selection = shared.selection;
   return own;

@@ -21,7 +21,8 @@
   QORVEX_PUBLISHED(QString, NullStr)         \
   QORVEX_PUBLISHED(bool, AutoSelectClick)    \
   QORVEX_PUBLISHED(bool, AutoSelect)         \
-  QORVEX_PUBLISHED_COLORS
+  QORVEX_PUBLISHED_COLORS                    \
+  QORVEX_PUBLISHED_NUMBERS
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
@@ -39,7 +40,7 @@ class QORVEX_EXPORT TQorUICtrl : public QObject, public CellProperties {
   /// Groups of shared settings.
   enum TQorUIUsageTypes {
     uuColors = 1,        ///< EditColors.
-    uuNumberFormat = 2,  ///< NumberSettings.
+    uuNumberFormat = 2,  ///< NumberSettings, and whether expressions are read.
     uuNullHandling = 4,  ///< NullHandling.
     uuBehaviour = 8      ///< SelectionBehaviour.
   };

@@ -21,12 +21,16 @@ const std::string kNulls = " AllowKbdNull=true BlankWhenZero=false BlankWhenNull
 const std::string kCell = kAlignment + kSelection + kNulls;
 const std::string kNullStr = " NullStr=" + std::string(QorNullStr);
 const std::string kState = " Null=false" + kNullStr + " ReadOnly=false";
+const std::string kNumbers =
+    " NumberFormat=0 SignificantDigits=6 Grouping=false ReadExpressions=false";
+// What all editors publish after their own properties.
+const std::string kPanel = kNumbers + " AutoEdits=false";
 
-const std::string kVectorEdit = "UICtrl= UIUsage=15" + kColors + " " + kFormat + kCell +
-                                " CellHeight=21 CellWidth=81 DecimalPlaces=4 DisplayTopRow=0"
-                                " NoOfEdits=4 Null=false" +
-                                kNullStr +
-                                " NoOfRows=0 ReadOnly=false TabStop=true VirtualMode=false";
+const std::string kVectorEdit =
+    "UICtrl= UIUsage=15" + kColors + " " + kFormat + kCell +
+    " CellHeight=21 CellWidth=81 DecimalPlaces=4 DisplayTopRow=0"
+    " NoOfEdits=4 Null=false" +
+    kNullStr + " NoOfRows=0 ReadOnly=false TabStop=true VirtualMode=false" + kPanel;
 const std::string kMatrixEdit =
     "UICtrl= UIUsage=15" + kColors + " " + kFormat +
     " AutoSelectClick=false BlankWhenZero=false BlankWhenNull=false Null=false ReadOnly=false"
@@ -34,7 +38,7 @@ const std::string kMatrixEdit =
     kAlignment +
     " CellHeight=21 CellWidth=81 DecimalPlaces=4 DisplayLeftCol=0 DisplayTopRow=0 NoOfColEdits=3"
     " NoOfRowEdits=4 NoOfCols=0 NoOfRows=0" +
-    kNullStr;
+    kNullStr + " RowHeadings=false ColHeadings=false" + kPanel;
 
 TEST(PublishedProperties, HaveTheirOrderAndDefaults) {
   EXPECT_EQ(PropertyTable(TQorVectorEdit()), kVectorEdit);
@@ -45,11 +49,11 @@ TEST(PublishedProperties, HaveTheirOrderAndDefaults) {
   EXPECT_EQ(PropertyTable(TQorMatrixFractEdit()),
             kMatrixEdit + " FractionDisplay=0 DecimalsFract=9");
   EXPECT_EQ(PropertyTable(TQorFloatEdit()),
-            kFormat + kCell + " DecimalPlaces=4" + kState + kColors);
+            kFormat + kCell + " DecimalPlaces=4" + kState + kColors + kNumbers);
   EXPECT_EQ(PropertyTable(TQorFractEdit()),
             kCell.substr(1) + " DecimalsFract=9 FractionDisplay=0" + kState + kColors);
-  EXPECT_EQ(PropertyTable(TQorUICtrlHolder()),
-            kFormat + kAlignment + " DecimalPlaces=4" + kNulls + kNullStr + kSelection + kColors);
+  EXPECT_EQ(PropertyTable(TQorUICtrlHolder()), kFormat + kAlignment + " DecimalPlaces=4" + kNulls +
+                                                   kNullStr + kSelection + kColors + kNumbers);
 }
 
 TEST(PublishedProperties, OfAStatisticsHolderAreThoseOfTheComponent) {

@@ -54,10 +54,7 @@ QVariant TQorCustomModel::data(const QModelIndex& index, int role) const {
 
 QVariant TQorCustomModel::Display(Extended value) const {
   if (format_) {
-    const FloatDigits digits{.decimals = format_->decimal_places,
-                             .all = format_->full_accuracy,
-                             .trim = format_->trim_trailing_zeroes};
-    return QorvexBaseControls::detail::LocalNumber(FloatText(value, digits), locale_);
+    return QorvexBaseControls::detail::LocalNumber(FloatText(value, format_->Digits()), locale_);
   }
   const auto nearest = static_cast<double>(value);
   if (value == 0 || std::isinf(value) || std::isnormal(nearest)) return nearest;

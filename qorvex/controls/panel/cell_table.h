@@ -38,6 +38,15 @@ class QORVEX_EXPORT CellTable {
   [[nodiscard]] virtual bool IsReadOnly(quint32 row, quint32 col) const = 0;
   /// The name of the element's cell, for screen readers and messages.
   [[nodiscard]] virtual QString CellName(quint32 row, quint32 col) const = 0;
+  /// @{
+  /// The text of the heading in front of a row or above a column; its number, from 1, by default.
+  [[nodiscard]] virtual QString RowHeading(quint32 row) const {
+    return QString::number(qint64{row} + 1);
+  }
+  [[nodiscard]] virtual QString ColHeading(quint32 col) const {
+    return QString::number(qint64{col} + 1);
+  }
+  /// @}
   /// The colour of the element's text; invalid for the colour that the settings give it.
   [[nodiscard]] virtual QColor SpecialColor(quint32 row, quint32 col, Extended value) const = 0;
   /// @{

@@ -12,6 +12,7 @@
 #include "qorvex/controls/panel/detail/model_link.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
@@ -34,9 +35,12 @@ struct PanelParts {
                .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
+        geometry(panel, rows.Window(), cols.Window()),
         focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
-        grid(panel, panel.table_, rows.Window(), cols.Window(),
+        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
+                 panel.HeadingEvents()),
+        grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
               .drop =
@@ -50,8 +54,10 @@ struct PanelParts {
   ModelLink model;
   PanelAxis rows;
   PanelAxis cols;
+  GridGeometry geometry;
   PanelFocus focus;
   PanelKeys keys;
+  PanelHeadings headings;
   CellGrid grid;
   // Where the typed text belongs, while that is not where its cell is.
   std::optional<CellPlace> typed_place;
