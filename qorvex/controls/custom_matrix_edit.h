@@ -96,9 +96,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
 
   /// @{
   /// Whether there are headings in front of the rows and above the columns; off by default. They
-  /// show numbers from 1 on, or what OnGetRowHeading and OnGetColHeading supply. A click on a
-  /// heading selects its row or column. The edge of a column's heading can be dragged, which
-  /// changes the width of the column.
+  /// show numbers from 1 on, the headers of a model, or what OnGetRowHeading and OnGetColHeading
+  /// supply. A click on a heading selects its row or column. The edge of a column's heading can be
+  /// dragged, which changes the width of the column.
   [[nodiscard]] bool RowHeadings() const noexcept { return HasRowHeadings(); }
   void setRowHeadings(bool on) { ShowRowHeadings(on); }
   void resetRowHeadings() { setRowHeadings(false); }
@@ -211,8 +211,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// Supplies the colours of texts at every redisplay; empty by default.
   TQorSpecialColorEvent OnSpecialColor;
   /// @{
-  /// Supply the texts of headings, which also name the elements in messages; numbers from 1 if they
-  /// are empty. Call Redisplay if the texts change.
+  /// Supply the texts of headings, which also name the elements in messages; if they are empty, the
+  /// headers of the model, or numbers from 1. Call Redisplay if the texts change.
   TQorGetHeadingEvent OnGetRowHeading;
   TQorGetHeadingEvent OnGetColHeading;
   /// @}

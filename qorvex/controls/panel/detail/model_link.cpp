@@ -26,6 +26,7 @@ void ModelLink::Link(QAbstractItemModel* model) {
   typed_.reset();
   if (model == nullptr) return;
   connect(model, &QAbstractItemModel::dataChanged, this, &ModelLink::Changed);
+  connect(model, &QAbstractItemModel::headerDataChanged, this, owner_.headings_changed);
   connect(model, &QAbstractItemModel::modelReset, this, &ModelLink::Moved);
   connect(model, &QObject::destroyed, this, [this] { owner_.deleted(); });
   ConnectMoves();
@@ -94,6 +95,11 @@ bool ModelLink::Store(quint32 row, quint32 col, Extended value) {
 
 bool ModelLink::IsReadOnly(quint32 row, quint32 col) const {
   return model_ && !Index(row, col).flags().testFlag(Qt::ItemIsEditable);
+}
+
+QString ModelLink::Heading(quint32 section, Qt::Orientation orientation) const {
+  const int first = orientation == Qt::Horizontal ? first_col_ : 0;
+  return model_->headerData(first + static_cast<int>(section), orientation).toString();
 }
 
 bool ModelLink::InsertRows(quint32 row, quint32 count) {

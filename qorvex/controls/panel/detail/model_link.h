@@ -34,6 +34,8 @@ class ModelLink : public QObject {
     std::function<std::optional<CellPlace>()> typed;
     /// Elements have other values.
     std::function<void(const TQorCellRange& range)> changed;
+    /// Headings have other texts.
+    std::function<void()> headings_changed;
     /// There may be more or fewer elements, or they may be in other places; the one whose text is
     /// being typed, as far as that is known, has gone from one place to another or is gone.
     std::function<void(const TypedMove& typed)> moved;
@@ -64,6 +66,9 @@ class ModelLink : public QObject {
   [[nodiscard]] bool Store(quint32 row, quint32 col, Extended value);
   /// Whether the model does not let the user change the item.
   [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const;
+
+  /// The text of the model for the heading of a row (Qt::Vertical) or a column.
+  [[nodiscard]] QString Heading(quint32 section, Qt::Orientation orientation) const;
 
   /// @{
   /// Insert or remove rows or columns, or do so at the end until there are as many as given. False

@@ -31,6 +31,7 @@ struct PanelParts {
         model({.locale = [&panel] { return panel.locale(); },
                .typed = [&panel] { return panel.TypedPlace(); },
                .changed = [&panel](const TQorCellRange& range) { panel.ModelChanged(range); },
+               .headings_changed = [&panel] { panel.Redisplay(); },
                .moved = [&panel](const TypedMove& typed) { panel.ModelMoved(typed); },
                .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
