@@ -29,6 +29,7 @@ test_packages=(
   libfmt-dev         # tests of formatting amounts, vectors and matrices
   libmpfr-dev        # exact values of the elementary functions
   python3-mpmath     # checks that their tables are those of the scripts
+  xvfb openbox       # tests of widgets with a window manager
   qemu-user-static   # the self-test on other processors
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation

@@ -62,10 +62,12 @@ void TQorCustomEdit::setNull(bool null) {
 }
 
 QString TQorCustomEdit::ShownText() const {
-  if (!has_value_) return {};
-  if (Null()) return BlankWhenNull() ? QString() : NullStr();
-  if (value_ == 0 && BlankWhenZero()) return {};
-  return TextOf(value_);
+  return has_value_ ? TextFor(value_) : QString();
+}
+
+QString TQorCustomEdit::TextFor(Extended value) const {
+  if (std::isnan(value)) return BlankWhenNull() ? QString() : NullStr();
+  return value == 0 && BlankWhenZero() ? QString() : TextOf(value);
 }
 
 bool TQorCustomEdit::Commit() {

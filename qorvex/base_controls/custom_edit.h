@@ -68,6 +68,8 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
 
   /// The value of a text, as Commit reads it; nothing if it is not a number.
   [[nodiscard]] std::optional<Extended> Parsed(const QString& text) const;
+  /// The text that the cell would show for a value.
+  [[nodiscard]] QString TextFor(Extended value) const;
   /// The text of a value with all its digits, for other programs.
   [[nodiscard]] QString ExactText(Extended value) const;
 

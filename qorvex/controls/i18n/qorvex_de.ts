@@ -50,6 +50,22 @@
         <source>The block does not fit. Its columns: %1, columns from here on: %2.</source>
         <translation>Der Block passt nicht. Seine Spalten: %1, Spalten ab hier: %2.</translation>
     </message>
+    <message>
+        <source>Rows</source>
+        <translation>Zeilen</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>Vector</source>
+        <translation>Vektor</translation>
+    </message>
+    <message>
+        <source>Matrix</source>
+        <translation>Matrix</translation>
+    </message>
 </context>
 <context>
     <name>TQorCustomMatrixEdit</name>

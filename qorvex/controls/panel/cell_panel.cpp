@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "qorvex/controls/panel/detail/accessible_panel.h"
 #include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
@@ -12,6 +13,7 @@ namespace qorvex::inline QorvexControls {
 CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::CurrentRule rule,
                      detail::EditWindowEvents row_events, detail::EditWindowEvents col_events)
     : TQorCustomPanel(parent), table_(table) {
+  detail::RegisterAccessiblePanels();
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   // The tab key, a buddy and QWidget::setTabOrder lead to the cells. A click beside them does not.
   setFocusPolicy(Qt::TabFocus);
@@ -36,9 +38,11 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
 
   parts_->rows.AddBar(Qt::Vertical, *this);
   parts_->keys.WatchBar(*parts_->rows.Bar());
-  if (axes == GridAxes::kRows) return;
-  parts_->cols.AddBar(Qt::Horizontal, *this);
-  parts_->keys.WatchBar(*parts_->cols.Bar());
+  if (axes == GridAxes::kRowsAndCols) {
+    parts_->cols.AddBar(Qt::Horizontal, *this);
+    parts_->keys.WatchBar(*parts_->cols.Bar());
+  }
+  NameBars();
 }
 
 CellPanel::~CellPanel() = default;
@@ -107,6 +111,7 @@ void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
   axis.ReachWantedTop();
   CountChanged();
+  AnnounceSize();
 }
 
 void CellPanel::FitGrid() {
@@ -162,6 +167,9 @@ void CellPanel::changeEvent(QEvent* event) {
       Arrange();
       break;
     case QEvent::LanguageChange:
+      NameBars();
+      Redisplay();
+      break;
     case QEvent::LocaleChange:
       Redisplay();
       break;

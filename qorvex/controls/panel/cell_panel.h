@@ -50,7 +50,8 @@ enum class CurrentRule;
 /// discarded if it is not a number. Until then it stays, whatever else changes and while another
 /// window is active.
 ///
-/// Every cell has an accessible name while assistive technology is active.
+/// To screen readers it is a table of all elements, in sight or not. Every cell has an accessible
+/// name while assistive technology is active.
 ///
 /// Handlers of signals may do anything except delete the control; they may call deleteLater unless
 /// they run a nested event loop. A redisplay costs O(cells), whatever the size of the table.
@@ -309,6 +310,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;
   [[nodiscard]] QSize SizeFor(quint32 rows, quint32 cols) const;
+  // For screen readers.
+  void NameBars();
+  void AnnounceSize();
   CellTable& table_;
   bool null_ = false;
   bool tab_stop_ = true;

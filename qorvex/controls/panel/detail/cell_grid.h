@@ -68,7 +68,10 @@ class CellGrid : private QAccessible::ActivationObserver {
     return cells_[row][col];
   }
   [[nodiscard]] bool HasHeader() const { return !header_texts_.empty(); }
-  [[nodiscard]] TextCell* HeaderText(std::size_t row) const { return header_texts_[row]; }
+  /// The text in front of a row of cells; a null pointer if there is none.
+  [[nodiscard]] TextCell* HeaderText(std::size_t row) const {
+    return row < header_texts_.size() ? header_texts_[row] : nullptr;
+  }
   /// Whether a cell shows an element.
   [[nodiscard]] bool IsUsed(std::size_t row, std::size_t col) const {
     return row < std::min<std::size_t>(rows_.UsedEdits(), cells_.size()) &&

@@ -22,7 +22,8 @@ namespace qorvex::inline QorvexControls::detail {
 struct PanelParts {
   PanelParts(CellPanel& panel, CurrentRule rule, EditWindowEvents row_events,
              EditWindowEvents col_events)
-      : settings(panel, [&panel] { panel.ApplySettings(); }),
+      : table(panel.table_),
+        settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
                 [&panel](const std::function<void()>& run) {
                   const CellPanel::Update update(panel);
@@ -50,6 +51,15 @@ struct PanelParts {
                     focus.Leave(text);
                   }}) {}
 
+  /// The parts of a widget that is a panel; a null pointer for others, and while the editor is
+  /// being made or destroyed, when there is no table.
+  static PanelParts* Of(QWidget* widget) {
+    const auto* const panel = qobject_cast<const CellPanel*>(widget);
+    const bool is_editor = panel != nullptr && panel->metaObject() != &CellPanel::staticMetaObject;
+    return is_editor ? panel->parts_.get() : nullptr;
+  }
+
+  CellTable& table;
   SharedSettings settings;
   ChangeHistory history;
   ModelLink model;

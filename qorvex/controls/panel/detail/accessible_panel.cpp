@@ -1,0 +1,239 @@
+#include "qorvex/controls/panel/detail/accessible_panel.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "qorvex/controls/panel/detail/panel_parts.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+namespace {
+
+using Kind = AccessiblePlace::Kind;
+
+constexpr quint64 kMaxInt = std::numeric_limits<int>::max();
+
+int Clamped(quint64 count) {
+  return static_cast<int>(std::min(count, kMaxInt));
+}
+
+QAccessibleInterface* MakeAccessible(const QString&, QObject* object) {
+  if (auto* const panel = qobject_cast<CellPanel*>(object)) return new AccessiblePanel(panel);
+  auto* const text = qobject_cast<TextCell*>(object);
+  if (text == nullptr || !qobject_cast<CellPanel*>(text->parentWidget())) return nullptr;
+  return new AccessibleCell(text);
+}
+
+// Taken back at the end, for a library that is unloaded.
+struct Registration {
+  Registration() { QAccessible::installFactory(MakeAccessible); }
+  ~Registration() { QAccessible::removeFactory(MakeAccessible); }
+};
+
+}  // namespace
+
+void RegisterAccessiblePanels() {
+  static const Registration registration;
+}
+
+AccessiblePanel::AccessiblePanel(CellPanel* panel) : QAccessibleWidget(panel, QAccessible::Table) {}
+
+AccessiblePanel::~AccessiblePanel() {
+  DropElements();
+}
+
+AccessiblePanel* AccessiblePanel::Of(QWidget* panel) {
+  return dynamic_cast<AccessiblePanel*>(QAccessible::queryAccessibleInterface(panel));
+}
+
+PanelParts* AccessiblePanel::Parts() const {
+  PanelParts* const parts = PanelParts::Of(widget());
+  return parts == nullptr || parts->grid.IsEmpty() ? nullptr : parts;
+}
+
+quint32 AccessiblePanel::Rows() const {
+  return Parts() == nullptr ? 0 : Parts()->table.RowCount();
+}
+
+quint32 AccessiblePanel::Cols() const {
+  return Parts() == nullptr ? 0 : Parts()->table.ColCount();
+}
+
+bool AccessiblePanel::Has(const AccessiblePlace& place) const {
+  switch (place.kind) {
+    case Kind::kRowHeading:
+      return HasRowHeadings() && place.row < Rows();
+    case Kind::kColHeading:
+      return HasColHeadings() && place.col < Cols();
+    case Kind::kElement:
+      break;
+  }
+  return place.row < Rows() && place.col < Cols();
+}
+
+bool AccessiblePanel::HasRowHeadings() const {
+  return Parts() != nullptr && Parts()->grid.HasHeader();
+}
+
+bool AccessiblePanel::HasColHeadings() const {
+  return false;
+}
+
+QString AccessiblePanel::Name(const AccessiblePlace& place) const {
+  return place.kind == Kind::kElement ? Parts()->table.CellName(place.row, place.col) : Text(place);
+}
+
+QString AccessiblePanel::Text(const AccessiblePlace& place) const {
+  const PanelParts& parts = *Parts();
+  switch (place.kind) {
+    case Kind::kRowHeading:
+      return parts.table.RowHeading(place.row);
+    case Kind::kColHeading:
+      return parts.table.ColHeading(place.col);
+    case Kind::kElement:
+      break;
+  }
+  return parts.grid.Cell(0, 0)->TextFor(parts.table.Value(place.row, place.col));
+}
+
+TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {
+  const PanelParts& parts = *Parts();
+  const std::size_t row = place.row - parts.rows.Window().Top();
+  const std::size_t col = place.col - parts.cols.Window().Top();
+  switch (place.kind) {
+    case Kind::kElement:
+      return parts.grid.IsUsed(row, col) ? parts.grid.Cell(row, col) : nullptr;
+    case Kind::kRowHeading:
+      return parts.grid.IsUsed(row, 0) ? parts.grid.HeaderText(row) : nullptr;
+    case Kind::kColHeading:
+      break;
+  }
+  return nullptr;
+}
+
+std::optional<AccessiblePlace> AccessiblePanel::PlaceOf(const TextCell& cell) const {
+  const PanelParts* const parts = Parts();
+  if (parts == nullptr) return std::nullopt;
+  const quint32 top = parts->rows.Window().Top();
+  const quint32 left = parts->cols.Window().Top();
+  for (quint32 row = 0; parts->grid.IsUsed(row, 0); ++row) {
+    if (parts->grid.HeaderText(row) == &cell) return {{Kind::kRowHeading, top + row, 0}};
+    for (quint32 col = 0; parts->grid.IsUsed(row, col); ++col) {
+      if (parts->grid.Cell(row, col) == &cell) return {{Kind::kElement, top + row, left + col}};
+    }
+  }
+  return std::nullopt;
+}
+
+QAccessibleInterface* AccessiblePanel::Cell(const AccessiblePlace& place) const {
+  if (!Has(place)) return nullptr;
+  if (TextCell* const cell = CellInSight(place)) return QAccessible::queryAccessibleInterface(cell);
+  const auto [found, is_new] = out_of_sight_.try_emplace(place);
+  if (is_new) {
+    auto* const element = new AccessibleElement(static_cast<CellPanel*>(widget()), place);
+    found->second = QAccessible::registerAccessibleInterface(element);
+  }
+  return QAccessible::accessibleInterface(found->second);
+}
+
+void AccessiblePanel::Focus(const AccessiblePlace& element) {
+  PanelParts& parts = *Parts();
+  const auto reveal = [](EditWindow& window, quint32 at) {
+    if (at < window.Top()) window.SetTop(at);
+    if (at - window.Top() >= window.Edits()) window.SetTop(at - window.Edits() + 1);
+    return at - window.Top();
+  };
+  const quint32 row = reveal(parts.rows.Window(), element.row);
+  parts.focus.FocusCell(row, reveal(parts.cols.Window(), element.col));
+}
+
+void AccessiblePanel::DropElements() {
+  for (const auto& [place, id] : std::exchange(out_of_sight_, {})) {
+    QAccessible::deleteAccessibleInterface(id);
+  }
+}
+
+int AccessiblePanel::childCount() const {
+  const quint64 headings = (HasRowHeadings() ? Rows() : 0) + (HasColHeadings() ? Cols() : 0);
+  return Clamped(quint64{Rows()} * Cols() + headings);
+}
+
+int AccessiblePanel::indexOfChild(const QAccessibleInterface* child) const {
+  const auto* const cell = dynamic_cast<const AccessibleTableCell*>(child);
+  if (cell == nullptr || cell->Table() != this || !cell->Place()) return -1;
+  const AccessiblePlace place = *cell->Place();
+  quint64 index = quint64{place.row} * Cols() + place.col;
+  if (place.kind != Kind::kElement) {
+    index = quint64{Rows()} * Cols() + place.row + place.col;
+    if (place.kind == Kind::kColHeading && HasRowHeadings()) index += Rows();
+  }
+  return index < kMaxInt ? static_cast<int>(index) : -1;
+}
+
+QAccessibleInterface* AccessiblePanel::child(int index) const {
+  if (index < 0 || index >= childCount()) return nullptr;
+  auto rest = static_cast<quint64>(index);
+  const auto at = [](quint64 place) { return static_cast<quint32>(place); };
+  const quint64 elements = quint64{Rows()} * Cols();
+  if (rest < elements) return Cell({Kind::kElement, at(rest / Cols()), at(rest % Cols())});
+  rest -= elements;
+  if (HasRowHeadings()) {
+    if (rest < Rows()) return Cell({Kind::kRowHeading, at(rest), 0});
+    rest -= Rows();
+  }
+  return Cell({Kind::kColHeading, 0, at(rest)});
+}
+
+QAccessibleInterface* AccessiblePanel::childAt(int x, int y) const {
+  QWidget* const at = widget()->childAt(widget()->mapFromGlobal(QPoint(x, y)));
+  return at == nullptr ? nullptr : QAccessible::queryAccessibleInterface(at);
+}
+
+QAccessibleInterface* AccessiblePanel::focusChild() const {
+  QWidget* const focus = QApplication::focusWidget();
+  if (focus == nullptr || !widget()->isAncestorOf(focus)) return nullptr;
+  return QAccessible::queryAccessibleInterface(focus);
+}
+
+QList<std::pair<QAccessibleInterface*, QAccessible::Relation>> AccessiblePanel::relations(
+    QAccessible::Relation match) const {
+  auto found = QAccessibleWidget::relations(match);
+  if (Parts() == nullptr || !match.testFlag(QAccessible::Controller)) return found;
+  for (QScrollBar* const bar : {Parts()->rows.Bar(), Parts()->cols.Bar()}) {
+    if (bar == nullptr) continue;
+    found.append({QAccessible::queryAccessibleInterface(bar), QAccessible::Controller});
+  }
+  return found;
+}
+
+QString AccessiblePanel::text(QAccessible::Text kind) const {
+  const QString text = QAccessibleWidget::text(kind);
+  if (kind != QAccessible::Name || !text.isEmpty()) return text;
+  return Parts() != nullptr && Parts()->cols.Bar() != nullptr
+             ? QCoreApplication::translate("CellPanel", "Matrix")
+             : QCoreApplication::translate("CellPanel", "Vector");
+}
+
+QAccessible::State AccessiblePanel::state() const {
+  QAccessible::State state = QAccessibleWidget::state();
+  // The focus is in a cell.
+  state.focused = false;
+  state.multiSelectable = true;
+  state.extSelectable = true;
+  state.readOnly = static_cast<CellPanel*>(widget())->EffectiveSettings().read_only;
+  return state;
+}
+
+void* AccessiblePanel::interface_cast(QAccessible::InterfaceType type) {
+  if (type == QAccessible::TableInterface) return static_cast<QAccessibleTableInterface*>(this);
+  return QAccessibleWidget::interface_cast(type);
+}
+
+void AccessiblePanel::modelChange(QAccessibleTableModelChangeEvent*) {
+  DropElements();
+}
+
+}  // namespace qorvex::inline QorvexControls::detail

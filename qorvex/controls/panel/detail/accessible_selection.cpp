@@ -1,0 +1,135 @@
+// The size and the selection of a table for screen readers.
+
+#include <algorithm>
+#include <limits>
+#include <numeric>
+
+#include "qorvex/controls/panel/detail/accessible_panel.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+namespace {
+
+// A list of what is selected may have as many entries as the table. Screen readers ask for the
+// first few.
+constexpr quint32 kMaxListed = 1000;
+
+int Clamped(quint64 count) {
+  constexpr quint64 most = std::numeric_limits<int>::max();
+  return static_cast<int>(std::min(count, most));
+}
+
+QList<int> Numbers(quint32 first, quint32 count) {
+  QList<int> numbers(std::min(count, kMaxListed));
+  std::iota(numbers.begin(), numbers.end(), Clamped(first));
+  return numbers;
+}
+
+}  // namespace
+
+int AccessiblePanel::rowCount() const {
+  return Clamped(Rows());
+}
+
+int AccessiblePanel::columnCount() const {
+  return Clamped(Cols());
+}
+
+QAccessibleInterface* AccessiblePanel::cellAt(int row, int col) const {
+  if (row < 0 || col < 0) return nullptr;
+  return Cell(
+      {AccessiblePlace::Kind::kElement, static_cast<quint32>(row), static_cast<quint32>(col)});
+}
+
+QString AccessiblePanel::rowDescription(int row) const {
+  const bool exists = HasRowHeadings() && row >= 0 && row < rowCount();
+  return exists ? Parts()->table.RowHeading(static_cast<quint32>(row)) : QString();
+}
+
+QString AccessiblePanel::columnDescription(int col) const {
+  const bool exists = HasColHeadings() && col >= 0 && col < columnCount();
+  return exists ? Parts()->table.ColHeading(static_cast<quint32>(col)) : QString();
+}
+
+TQorCellRange AccessiblePanel::Selection() const {
+  if (Rows() == 0 || Cols() == 0) return {};
+  return {Parts()->rows.Window().Current(), 1, Parts()->cols.Window().Current(), 1};
+}
+
+bool AccessiblePanel::IsSelected(const AccessiblePlace& place) const {
+  switch (place.kind) {
+    case AccessiblePlace::Kind::kRowHeading:
+      return isRowSelected(Clamped(place.row));
+    case AccessiblePlace::Kind::kColHeading:
+      return isColumnSelected(Clamped(place.col));
+    case AccessiblePlace::Kind::kElement:
+      break;
+  }
+  return Selection().Contains(place.row, place.col);
+}
+
+bool AccessiblePanel::isRowSelected(int row) const {
+  const TQorCellRange range = Selection();
+  return row >= 0 && range.cols == Cols() && range.Contains(static_cast<quint32>(row), 0);
+}
+
+bool AccessiblePanel::isColumnSelected(int col) const {
+  const TQorCellRange range = Selection();
+  return col >= 0 && range.rows == Rows() && range.Contains(0, static_cast<quint32>(col));
+}
+
+int AccessiblePanel::selectedCellCount() const {
+  const TQorCellRange range = Selection();
+  return Clamped(quint64{range.rows} * range.cols);
+}
+
+QList<QAccessibleInterface*> AccessiblePanel::selectedCells() const {
+  const TQorCellRange range = Selection();
+  QList<QAccessibleInterface*> cells;
+  for (quint32 row = 0; row < range.rows; ++row) {
+    for (quint32 col = 0; col < range.cols; ++col) {
+      if (cells.size() == kMaxListed) return cells;
+      cells.append(Cell({AccessiblePlace::Kind::kElement, range.row + row, range.col + col}));
+    }
+  }
+  return cells;
+}
+
+int AccessiblePanel::selectedRowCount() const {
+  const TQorCellRange range = Selection();
+  return range.cols == Cols() ? Clamped(range.rows) : 0;
+}
+
+int AccessiblePanel::selectedColumnCount() const {
+  const TQorCellRange range = Selection();
+  return range.rows == Rows() ? Clamped(range.cols) : 0;
+}
+
+QList<int> AccessiblePanel::selectedRows() const {
+  const TQorCellRange range = Selection();
+  return range.cols == Cols() ? Numbers(range.row, range.rows) : QList<int>();
+}
+
+QList<int> AccessiblePanel::selectedColumns() const {
+  const TQorCellRange range = Selection();
+  return range.rows == Rows() ? Numbers(range.col, range.cols) : QList<int>();
+}
+
+bool AccessiblePanel::selectRow(int) {
+  return false;
+}
+
+bool AccessiblePanel::selectColumn(int) {
+  return false;
+}
+
+bool AccessiblePanel::unselectRow(int) {
+  return false;
+}
+
+bool AccessiblePanel::unselectColumn(int) {
+  return false;
+}
+
+}  // namespace qorvex::inline QorvexControls::detail

@@ -1,0 +1,188 @@
+// What a screen reader learns about an editor, and what it can do.
+
+#include <QAccessible>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSignalSpy>
+#include <limits>
+#include <string>
+
+#include "controls/editor_fixture.h"
+
+namespace qorvex {
+
+namespace {
+
+QAccessibleInterface* Interface(QObject* object) {
+  return QAccessible::queryAccessibleInterface(object);
+}
+
+std::string Read(QAccessibleInterface* cell, QAccessible::Text kind = QAccessible::Value) {
+  return cell->text(kind).toStdString();
+}
+
+}  // namespace
+
+template <class Editor>
+struct AccessibleEditors : EditorFixture<Editor> {
+  AccessibleEditors() { this->editor->setDecimalPlaces(0); }
+
+  QAccessibleInterface* Panel() const { return Interface(this->editor); }
+  QAccessibleTableInterface* Table() const { return Panel()->tableInterface(); }
+};
+using EditorTypes =
+    testing::Types<TQorVectorEdit, TQorLabelledVectorEdit, TQorMatrixEdit, TQorMatrixFractEdit>;
+TYPED_TEST_SUITE(AccessibleEditors, EditorTypes);
+
+TYPED_TEST(AccessibleEditors, AreTablesOfAllElements) {
+  this->Open(30);
+  this->Set(25, kNaN);
+  this->editor->setNullStr("none");
+  ASSERT_NE(this->Table(), nullptr);
+  EXPECT_EQ(this->Panel()->role(), QAccessible::Table);
+  EXPECT_EQ(this->Table()->rowCount(), 30);
+  EXPECT_EQ(this->Table()->columnCount(), 1);
+  for (const int row : {0, 3, 4, 25, 29}) {
+    SCOPED_TRACE(row);
+    QAccessibleInterface* const cell = this->Table()->cellAt(row, 0);
+    ASSERT_NE(cell, nullptr);
+    EXPECT_TRUE(cell->isValid());
+    EXPECT_EQ(Read(cell), row == 25 ? "none" : std::to_string(row));
+    EXPECT_NE(Read(cell, QAccessible::Name).find(std::to_string(row + 1)), std::string::npos);
+    EXPECT_EQ(cell->textInterface()->text(0, 99).toStdString(), Read(cell));
+    EXPECT_EQ(cell->role(), QAccessible::Cell);
+    EXPECT_EQ(cell->state().offscreen, row > 3);
+    EXPECT_EQ(cell->rect().isEmpty(), row > 3);
+    EXPECT_EQ(cell->parent(), this->Panel());
+    EXPECT_EQ(this->Panel()->child(row), cell);
+    EXPECT_EQ(this->Panel()->indexOfChild(cell), row);
+    QAccessibleTableCellInterface* const place = cell->tableCellInterface();
+    ASSERT_NE(place, nullptr);
+    EXPECT_EQ(place->rowIndex(), row);
+    EXPECT_EQ(place->columnIndex(), 0);
+    EXPECT_EQ(place->table(), this->Panel());
+  }
+  EXPECT_EQ(this->Table()->cellAt(30, 0), nullptr);
+  EXPECT_EQ(this->Table()->cellAt(0, 1), nullptr);
+  EXPECT_EQ(this->Table()->cellAt(-1, 0), nullptr);
+
+  // A cell shows other elements after scrolling.
+  QAccessibleInterface* const first = Interface(this->Cell(0));
+  this->editor->setDisplayTopRow(20);
+  EXPECT_EQ(first->tableCellInterface()->rowIndex(), 20);
+  EXPECT_EQ(this->Table()->cellAt(20, 0), first);
+  EXPECT_EQ(this->Panel()->childAt(first->rect().center().x(), first->rect().center().y()), first);
+}
+
+TYPED_TEST(AccessibleEditors, ForgetElementsOutOfSightThatAreGone) {
+  this->Open(30);
+  const auto id = [this](int row) { return QAccessible::uniqueId(this->Table()->cellAt(row, 0)); };
+  const QAccessible::Id before = id(20);
+  this->SetRows(10);
+  EXPECT_FALSE(QAccessible::accessibleInterface(before)->isValid());
+  EXPECT_EQ(Read(QAccessible::accessibleInterface(before)), "");
+  const QAccessible::Id at_end = id(9);
+  EXPECT_EQ(Read(QAccessible::accessibleInterface(at_end)), "9");
+  delete this->editor;
+  EXPECT_EQ(QAccessible::accessibleInterface(at_end), nullptr);
+}
+
+TYPED_TEST(AccessibleEditors, LetTheFocusGoToAnyElement) {
+  this->Open(30);
+  for (const int row : {17, 2, 29}) {
+    QAccessibleActionInterface* const action = this->Table()->cellAt(row, 0)->actionInterface();
+    ASSERT_NE(action, nullptr);
+    action->doAction(QAccessibleActionInterface::setFocusAction());
+    QAccessibleInterface* const focus = this->Panel()->focusChild();
+    ASSERT_NE(focus, nullptr);
+    EXPECT_EQ(focus->tableCellInterface()->rowIndex(), row);
+    EXPECT_TRUE(focus->state().focused);
+    EXPECT_FALSE(this->Panel()->state().focused);
+  }
+}
+
+TYPED_TEST(AccessibleEditors, HaveCellsThatCanBeEditedLikeOtherTexts) {
+  this->Open(9);
+  QAccessibleInterface* const cell = this->Table()->cellAt(1, 0);
+  cell->setText(QAccessible::Value, "42");
+  EXPECT_EQ(this->Get(1), 42);
+  EXPECT_EQ(this->Take(), this->kIsVector ? "text 1 42, change 1" : "text 1 0 42, change 1 0");
+  QAccessibleEditableTextInterface* const edit = cell->editableTextInterface();
+  QAccessibleTextInterface* const text = cell->textInterface();
+  ASSERT_TRUE(edit && text);
+  edit->insertText(1, "00");
+  EXPECT_TRUE(this->Cell(1)->hasFocus());
+  EXPECT_EQ(text->text(0, text->characterCount()), "4002");
+  edit->deleteText(0, 1);
+  edit->replaceText(2, 3, "75");
+  EXPECT_EQ(text->text(1, 9), "075");
+  text->setSelection(0, 1, 3);
+  int start = 0;
+  int end = 0;
+  text->selection(0, &start, &end);
+  EXPECT_EQ(start * 10 + end, 13);
+  EXPECT_EQ(this->Cell(1)->selectedText(), "07");
+  // A line edit is scrolled when it is painted.
+  this->Cell(1)->repaint();
+  const QRect third = text->characterRect(2);
+  EXPECT_TRUE(cell->rect().contains(third));
+  EXPECT_EQ(text->offsetAtPoint(third.center() - QPoint(third.width() / 3, 0)), 2);
+  this->FocusEdit(0);
+  EXPECT_EQ(this->Get(1), 75);
+  this->editor->setReadOnly(true);
+  cell->setText(QAccessible::Value, "1");
+  edit->insertText(0, "1");
+  EXPECT_EQ(this->Get(1), 75);
+  EXPECT_TRUE(cell->state().readOnly);
+}
+
+TYPED_TEST(AccessibleEditors, HaveNames) {
+  const bool vector = this->kIsVector;
+  EXPECT_EQ(Read(this->Panel(), QAccessible::Name), vector ? "Vector" : "Matrix");
+  QWidget form;
+  auto* const layout = new QFormLayout(&form);
+  auto* const named = new TypeParam;
+  layout->addRow("&Weights", named);
+  EXPECT_EQ(Read(Interface(named), QAccessible::Name), "Weights") << "that of its label";
+  named->setAccessibleName("Masses");
+  EXPECT_EQ(Read(Interface(named), QAccessible::Name), "Masses");
+  QStringList bars;
+  for (const auto& [bar, relation] : Interface(named)->relations(QAccessible::Controller)) {
+    bars.append(bar->text(QAccessible::Name));
+    EXPECT_EQ(bar->parent(), Interface(named));
+  }
+  EXPECT_EQ(bars.join(' '), vector ? "Rows" : "Rows Columns");
+}
+
+struct AccessibleMatrix : AccessibleEditors<TQorMatrixEdit> {};
+
+TEST_F(AccessibleMatrix, CountsInIntEvenIfItIsLarger) {
+  editor->setVirtualMode(true);
+  editor->setNoOfRows(4'000'000'000);
+  editor->setNoOfCols(4'000'000'000);
+  Show();
+  constexpr int most = std::numeric_limits<int>::max();
+  EXPECT_EQ(Table()->rowCount(), most);
+  EXPECT_EQ(Panel()->childCount(), most);
+  EXPECT_EQ(Read(Panel()->child(1'000'000'000)), "1000000000");
+  editor->ScrollBottom();
+  QAccessibleInterface* const last = Interface(Cell(0));
+  EXPECT_EQ(last->parent(), Panel());
+  EXPECT_EQ(Panel()->indexOfChild(last), -1);
+  EXPECT_EQ(Panel()->childAt(last->rect().x() + 1, last->rect().y() + 1), last);
+  EXPECT_EQ(Read(last, QAccessible::Name), "Row 3999999997, column 1");
+}
+
+TEST_F(AccessibleMatrix, IsEmptyWithoutElementsOrCells) {
+  EXPECT_EQ(Panel()->childCount(), 0);
+  EXPECT_EQ(Interface(Cell(0))->tableCellInterface()->rowIndex(), -1) << "a cell without element";
+  EXPECT_EQ(Panel()->indexOfChild(Interface(Cell(0))), -1);
+  editor->setMatrix({{1, 2}, {3, 4}});
+  EXPECT_EQ(Panel()->childCount(), 4);
+  EXPECT_EQ(Read(Panel()->child(2)), "3");
+  EXPECT_EQ(Table()->cellAt(1, 0)->tableCellInterface()->rowIndex(), 1);
+  editor->setNoOfRowEdits(0);
+  EXPECT_EQ(Panel()->childCount(), 0);
+}
+
+}  // namespace qorvex
