@@ -32,6 +32,7 @@ const struct {
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
+    {"models", Models},
     {"vector_edit", VectorEdits},
 };
 
