@@ -247,8 +247,7 @@ void TQorCustomMatrixEdit::NotifyText(quint32 row, quint32 col, const QString& t
 
 QString TQorCustomMatrixEdit::CellName(quint32 row, quint32 col) const {
   return QCoreApplication::translate("TQorCustomMatrixEdit", "Row %1, column %2")
-      .arg(qint64{row} + 1)
-      .arg(qint64{col} + 1);
+      .arg(RowHeading(row), ColHeading(col));
 }
 
 QColor TQorCustomMatrixEdit::SpecialColor(quint32 row, quint32 col, Extended value) const {

@@ -39,6 +39,8 @@
   QORVEX_PUBLISHED(uint, NoOfCols)                                                              \
   QORVEX_PUBLISHED(uint, NoOfRows)                                                              \
   QORVEX_PUBLISHED(QString, NullStr)                                                            \
+  QORVEX_PUBLISHED(bool, RowHeadings)                                                           \
+  QORVEX_PUBLISHED(bool, ColHeadings)                                                           \
   QORVEX_PUBLISHED_PANEL
 
 QORVEX_WIDGET_UNIT(QorvexMatrixEdit) {
@@ -55,6 +57,8 @@ using TQorSetMatrixElementEvent = std::function<void(quint32 row, quint32 col, E
 using TQorSpecialColorEvent =
     std::function<void(quint32 row, quint32 col, Extended value, QColor& color)>;
 /// @}
+/// A request for the text of the heading of a row or a column.
+using TQorGetHeadingEvent = std::function<QString(quint32 row_or_col)>;
 
 /// A grid of cells that shows and edits a matrix of any size. See CellPanel for keys, pasting and
 /// undo. Ctrl+Left and Ctrl+Right move along a row as Ctrl+Up and Ctrl+Down move along a column; at
@@ -88,6 +92,40 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   [[nodiscard]] int NoOfRowEdits() const noexcept;
   void setNoOfRowEdits(int edits);
   void resetNoOfRowEdits() { setNoOfRowEdits(kDefaultRowEdits); }
+  /// @}
+
+  /// @{
+  /// Whether there are headings in front of the rows and above the columns; off by default. They
+  /// show numbers from 1 on, or what OnGetRowHeading and OnGetColHeading supply. A click on a
+  /// heading selects its row or column. The edge of a column's heading can be dragged, which
+  /// changes the width of the column.
+  [[nodiscard]] bool RowHeadings() const noexcept { return HasRowHeadings(); }
+  void setRowHeadings(bool on) { ShowRowHeadings(on); }
+  void resetRowHeadings() { setRowHeadings(false); }
+  [[nodiscard]] bool ColHeadings() const noexcept { return HasColHeadings(); }
+  void setColHeadings(bool on) { ShowColHeadings(on); }
+  void resetColHeadings() { setColHeadings(false); }
+  /// @}
+  /// @{
+  /// The text of the heading of a row or a column, whether it shows or not.
+  [[nodiscard]] QString RowHeading(quint32 row) const override;
+  [[nodiscard]] QString ColHeading(quint32 col) const override;
+  /// @}
+
+  /// @{
+  /// The width of a column's cells in pixels, CellWidth by default, clamped to 0 to 32767. There
+  /// need not be such a column yet. Without AutoEdits the control is as wide as the widest columns
+  /// that can be in sight at once. O(columns with a width of their own).
+  [[nodiscard]] int ColWidth(quint32 col) const;
+  void setColWidth(quint32 col, int width);
+  void resetColWidth(quint32 col);
+  /// @}
+  /// @{
+  /// How the numbers of a column are written: by default as the control's settings say, which a
+  /// format of its own replaces as a whole. There need not be such a column yet.
+  [[nodiscard]] NumberSettings ColFormat(quint32 col) const;
+  void setColFormat(quint32 col, const NumberSettings& format);
+  void resetColFormat(quint32 col);
   /// @}
 
   /// @{
@@ -172,6 +210,12 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   TQorGetMatrixElementEvent OnGetElement;
   /// Supplies the colours of texts at every redisplay; empty by default.
   TQorSpecialColorEvent OnSpecialColor;
+  /// @{
+  /// Supply the texts of headings, which also name the elements in messages; numbers from 1 if they
+  /// are empty. Call Redisplay if the texts change.
+  TQorGetHeadingEvent OnGetRowHeading;
+  TQorGetHeadingEvent OnGetColHeading;
+  /// @}
 
  Q_SIGNALS:
   /// The user has changed the element.

@@ -2,7 +2,9 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <memory>
 #include <utility>
+#include <vector>
 
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/text_cell.h"
@@ -40,7 +42,7 @@ TQorLabelledVectorEdit::TQorLabelledVectorEdit(QWidget* parent) : TQorVectorEdit
        .name = [this](quint32 row_edit) { return LabelName(row_edit); },
        .apply = [this](TextCell& label,
                        const CellSettings& settings) { ApplyTo(label, settings); }});
-  Parts().grid.SetHeaderWidth(label_width_);
+  Parts().geometry.SetHeaderWidth(label_width_);
   FitGrid();
 }
 
@@ -61,7 +63,6 @@ void TQorLabelledVectorEdit::setLabelType(TQorLabelType type) {
   Parts().focus.CommitPending();
   label_type_ = type;
   if (type == ltNumbered) setLabelsEditable(false);
-  if (type == ltCustom) GrowCustomLabels(NoOfRows());
   Redisplay();
 }
 
@@ -72,8 +73,8 @@ void TQorLabelledVectorEdit::setLabelsEditable(bool editable) {
 }
 
 void TQorLabelledVectorEdit::setLabelWidth(int width) {
-  label_width_ = std::max(width, 0);
-  Parts().grid.SetHeaderWidth(label_width_);
+  label_width_ = std::clamp(width, 0, QorvexControls::detail::ElementSizes::kLargest);
+  Parts().geometry.SetHeaderWidth(label_width_);
   Arrange();
 }
 
@@ -81,7 +82,7 @@ QString TQorLabelledVectorEdit::Label(quint32 row) const {
   CheckRow(row);
   switch (label_type_) {
     case ltCustom:
-      return custom_labels_.value(row);
+      return CustomLabel(row);
     case ltNumbered:
       return QString::fromStdString(Int2EStr(qint64{label_offset_} + row));
     case ltSupplied:
@@ -94,7 +95,7 @@ void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
   CheckRow(row);
   if (VirtualMode()) {
     Q_EMIT OnSetLabel(row, label);
-  } else if (label_type_ != ltCustom || custom_labels_.value(row) == label) {
+  } else if (label_type_ != ltCustom || CustomLabel(row) == label) {
     return;
   } else {
     SetCustomLabel(row, label);
@@ -103,25 +104,42 @@ void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
   Redisplay();
 }
 
-void TQorLabelledVectorEdit::GrowCustomLabels(qsizetype count) {
-  if (custom_labels_.size() < count) custom_labels_.resize(count);
+QString TQorLabelledVectorEdit::CustomLabel(quint32 row) const {
+  const auto label = custom_labels_.find(row);
+  return label != custom_labels_.end() ? label->second : QString();
 }
 
 void TQorLabelledVectorEdit::SetCustomLabel(quint32 row, const QString& label) {
-  GrowCustomLabels(qsizetype{row} + 1);
-  custom_labels_[row] = label;
+  if (label.isEmpty()) {
+    custom_labels_.erase(row);
+  } else {
+    custom_labels_[row] = label;
+  }
+}
+
+void TQorLabelledVectorEdit::SortCustomLabels() {
+  const auto end = custom_labels_.lower_bound(NoOfRows());
+  std::vector<QString> sorted;
+  for (auto label = custom_labels_.begin(); label != end; ++label) sorted.push_back(label->second);
+  std::ranges::stable_sort(sorted, [](const QString& a, const QString& b) {
+    return a.compare(b, Qt::CaseInsensitive) < 0;
+  });
+  custom_labels_.erase(custom_labels_.begin(), end);
+  // Behind the empty ones.
+  quint32 row = NoOfRows() - static_cast<quint32>(sorted.size());
+  for (const QString& label : sorted) custom_labels_[row++] = label;
 }
 
 void TQorLabelledVectorEdit::Sort() {
   const Update update(*this);
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
-    const auto before = std::make_shared<QStringList>(custom_labels_);
+    const auto before = std::make_shared<std::map<quint32, QString>>(custom_labels_);
     Parts().history.ExtendCommand([this, before] {
       std::swap(custom_labels_, *before);
       Redisplay();
     });
-    custom_labels_.sort(Qt::CaseInsensitive);
+    SortCustomLabels();
   }
 }
 
@@ -130,8 +148,8 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
   TQorVectorEdit::SwapElements(first, second);
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto swap = [=, this] {
-      const QString label = custom_labels_.value(first);
-      SetCustomLabel(first, custom_labels_.value(second));
+      const QString label = CustomLabel(first);
+      SetCustomLabel(first, CustomLabel(second));
       SetCustomLabel(second, label);
       Redisplay();
     };

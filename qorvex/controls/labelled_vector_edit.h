@@ -3,8 +3,9 @@
 /// @file
 /// TQorLabelledVectorEdit, an editor of a vector with a label beside each element.
 
-#include <QStringList>
+#include <QString>
 #include <functional>
+#include <map>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/unit.h"
@@ -22,7 +23,8 @@ using TQorSetLabelEvent = std::function<void(quint32 row, const QString& label)>
 /// labels too, and stay in their column.
 ///
 /// Labels are not tied to the elements. SwapElements exchanges custom labels along with the
-/// elements, but Sort sorts the labels independently, by their texts and regardless of case.
+/// elements, but Sort sorts the labels of the rows independently, by their texts and regardless of
+/// case; empty labels come first. Custom labels take memory only where they are not empty.
 class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   Q_OBJECT
   /// @{
@@ -37,7 +39,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
  public:
   /// Where labels come from.
   enum TQorLabelType {
-    ltCustom,    ///< A list stored here; rows beyond its end have empty labels.
+    ltCustom,    ///< The labels that are stored here; rows without one have an empty label.
     ltNumbered,  ///< The row's index plus LabelNumOffSet.
     ltSupplied   ///< OnGetLabel, or the row's index if it is empty.
   };
@@ -63,7 +65,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
 
   /// @{
   /// Where labels come from; numbered by default. Numbered labels cannot be typed, so ltNumbered
-  /// turns LabelsEditable off. ltCustom extends the list with empty labels to the number of rows.
+  /// turns LabelsEditable off.
   [[nodiscard]] TQorLabelType LabelType() const noexcept { return label_type_; }
   void setLabelType(TQorLabelType type);
   void resetLabelType() { setLabelType(ltNumbered); }
@@ -106,6 +108,8 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void OnLabelExit(quint32 row);
 
  protected:
+  /// The label, whose column is the heading of the rows.
+  [[nodiscard]] QString RowHeading(quint32 row) const override { return Label(row); }
   /// The name of the cell in a vector edit, preceded by the label of its row.
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
 
@@ -119,10 +123,12 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   [[nodiscard]] QString LabelName(quint32 row_edit) const;
   void ApplyTo(TextCell& label, const CellSettings& settings) const;
   void ApplyLabelSettings();
-  void GrowCustomLabels(qsizetype count);
+  [[nodiscard]] QString CustomLabel(quint32 row) const;
   void SetCustomLabel(quint32 row, const QString& label);
+  void SortCustomLabels();
 
-  QStringList custom_labels_;
+  // Those that are not empty, by their rows.
+  std::map<quint32, QString> custom_labels_;
   Qt::Alignment label_alignment_ = Qt::AlignCenter;
   int label_offset_ = 1;
   TQorLabelType label_type_ = ltNumbered;

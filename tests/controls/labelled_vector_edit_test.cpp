@@ -79,6 +79,28 @@ TEST_F(LabelledVectorEdit, SortsBothColumnsIndependently) {
   EXPECT_EQ(editor->Label(1), "C");
 }
 
+TEST_F(LabelledVectorEdit, SortsTheLabelsOfItsRowsWhateverHasBeenSet) {
+  editor->setVector({4, 1, 2, 3, 5});
+  Name({"", "d", "b", "", "e"});
+  editor->setNoOfRows(3);
+  editor->Sort();
+  EXPECT_EQ(Labels(), "|b|d") << "a row without a label counts as an empty one";
+  editor->setNoOfRows(5);
+  EXPECT_EQ(Labels(), "|b|d||e") << "labels beyond the rows have stayed";
+  editor->Sort();
+  EXPECT_EQ(Labels(), "||b|d|e");
+  editor->Undo();
+  EXPECT_EQ(Labels(), "|b|d||e");
+
+  // Labels take memory only where they have been given.
+  editor->setVirtualMode(true);
+  editor->setNoOfRows(1'000'000'000);
+  editor->setLabelType(TQorLabelledVectorEdit::ltNumbered);
+  editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
+  EXPECT_EQ(editor->Label(999'999'999), "");
+  EXPECT_EQ(editor->Label(4), "e");
+}
+
 TEST_F(LabelledVectorEdit, KeepsNavigationInTheColumnOfLabels) {
   Open(6);
   Name({"a", "b", "c", "d", "e", "f"});

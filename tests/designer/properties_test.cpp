@@ -21,15 +21,16 @@ const std::string kNulls = " AllowKbdNull=true BlankWhenZero=false BlankWhenNull
 const std::string kCell = kAlignment + kSelection + kNulls;
 const std::string kNullStr = " NullStr=" + std::string(QorNullStr);
 const std::string kState = " Null=false" + kNullStr + " ReadOnly=false";
-
 const std::string kNumbers =
     " NumberFormat=0 SignificantDigits=6 Grouping=false ReadExpressions=false";
+// What all editors publish after their own properties.
+const std::string kPanel = kNumbers + " AutoEdits=false";
 
 const std::string kVectorEdit =
     "UICtrl= UIUsage=15" + kColors + " " + kFormat + kCell +
     " CellHeight=21 CellWidth=81 DecimalPlaces=4 DisplayTopRow=0"
     " NoOfEdits=4 Null=false" +
-    kNullStr + " NoOfRows=0 ReadOnly=false TabStop=true VirtualMode=false" + kNumbers;
+    kNullStr + " NoOfRows=0 ReadOnly=false TabStop=true VirtualMode=false" + kPanel;
 const std::string kMatrixEdit =
     "UICtrl= UIUsage=15" + kColors + " " + kFormat +
     " AutoSelectClick=false BlankWhenZero=false BlankWhenNull=false Null=false ReadOnly=false"
@@ -37,7 +38,7 @@ const std::string kMatrixEdit =
     kAlignment +
     " CellHeight=21 CellWidth=81 DecimalPlaces=4 DisplayLeftCol=0 DisplayTopRow=0 NoOfColEdits=3"
     " NoOfRowEdits=4 NoOfCols=0 NoOfRows=0" +
-    kNullStr + kNumbers;
+    kNullStr + " RowHeadings=false ColHeadings=false" + kPanel;
 
 TEST(PublishedProperties, HaveTheirOrderAndDefaults) {
   EXPECT_EQ(PropertyTable(TQorVectorEdit()), kVectorEdit);

@@ -1,7 +1,6 @@
 #include "qorvex/controls/panel/cell_panel.h"
 
 #include <QEvent>
-#include <algorithm>
 #include <new>
 #include <utility>
 
@@ -10,12 +9,6 @@
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
-
-namespace {
-
-constexpr int kMaxEdits = 255;
-
-}  // namespace
 
 CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::CurrentRule rule,
                      detail::EditWindowEvents row_events, detail::EditWindowEvents col_events)
@@ -36,7 +29,10 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
     parts_->focus.CommitPending();
     if (announce) announce(left);
   };
-  col_events.redisplay = [this] { Redisplay(); };
+  col_events.redisplay = [this] {
+    ColsMoved();
+    Redisplay();
+  };
   parts_ = std::make_unique<detail::PanelParts>(*this, rule, std::move(row_events),
                                                 std::move(col_events));
 
@@ -98,24 +94,18 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
   parts_->history.Record({row, col, before}, now);
 }
 
-void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
-  const auto wanted = static_cast<quint32>(std::clamp(edits, 0, kMaxEdits));
-  if (wanted == axis.Window().Edits()) return;
-  parts_->focus.Keep(axis, wanted, [&] { axis.Window().SetEdits(wanted); });
-  FitGrid();
-  axis.ReachWantedTop();
-}
-
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   const quint32 top = axis.Window().Top();
   parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
   axis.ReachWantedTop();
+  CountChanged();
   AnnounceSize();
 }
 
 void CellPanel::FitGrid() {
   parts_->grid.Fit(EffectiveSettings(), CellFocusPolicy(), parts_->rows.Bar());
-  Arrange();
+  Place();
+  updateGeometry();
   Redisplay();
 }
 
@@ -123,7 +113,9 @@ void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
   parts_->focus.Lead();
-  if (!Updating()) parts_->grid.Show();
+  if (Updating()) return;
+  parts_->grid.Show();
+  if (parts_->headings.Show()) Arrange();
 }
 
 void CellPanel::Watch(TextCell& text) {

@@ -1,7 +1,5 @@
-// The published properties of a panel of cells, its scrolling and its layout.
+// The published properties of a panel of cells, and its scrolling.
 
-#include <QStyle>
-#include <algorithm>
 #include <limits>
 
 #include "qorvex/controls/panel/detail/panel_parts.h"
@@ -49,32 +47,6 @@ void CellPanel::resetUIUsage() {
 
 CellSettings CellPanel::EffectiveSettings() const {
   return parts_->settings.Merged(Settings());
-}
-
-int CellPanel::CellHeight() const noexcept {
-  return parts_->grid.CellHeight();
-}
-
-void CellPanel::setCellHeight(int height) {
-  parts_->grid.SetCellHeight(std::max(height, 0));
-  Arrange();
-}
-
-void CellPanel::resetCellHeight() {
-  setCellHeight(detail::CellGrid::kDefaultCellHeight);
-}
-
-int CellPanel::CellWidth() const noexcept {
-  return parts_->grid.CellWidth();
-}
-
-void CellPanel::setCellWidth(int width) {
-  parts_->grid.SetCellWidth(std::max(width, 0));
-  Arrange();
-}
-
-void CellPanel::resetCellWidth() {
-  setCellWidth(detail::CellGrid::kDefaultCellWidth);
 }
 
 quint32 CellPanel::DisplayTopRow() const noexcept {
@@ -140,30 +112,6 @@ bool CellPanel::CanUndo() const noexcept {
 
 bool CellPanel::CanRedo() const noexcept {
   return parts_->history.CanRedo();
-}
-
-void CellPanel::SetCorner(QWidget* corner) {
-  parts_->corner = corner;
-}
-
-void CellPanel::Arrange() {
-  parts_->grid.Arrange();
-  const QSize cells = parts_->grid.Size();
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-  parts_->rows.Bar()->setGeometry(parts_->grid.Placed({cells.width(), 0, bar, cells.height()}));
-  if (QWidget* const below = parts_->cols.Bar()) {
-    below->setGeometry(parts_->grid.Placed({0, cells.height(), cells.width(), bar}));
-  }
-  if (parts_->corner) {
-    parts_->corner->setGeometry(parts_->grid.Placed({cells.width(), cells.height(), bar, bar}));
-  }
-  updateGeometry();
-}
-
-QSize CellPanel::sizeHint() const {
-  const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-  const QSize bars(bar, parts_->cols.Bar() ? bar : 0);
-  return parts_->grid.Size() + bars + QSize(2 * frameWidth(), 2 * frameWidth());
 }
 
 }  // namespace qorvex::inline QorvexControls

@@ -4,4 +4,6 @@
 /// The properties that every editor publishes after its own.
 
 /// One line a property: QORVEX_PUBLISHED(Type, Name).
-#define QORVEX_PUBLISHED_PANEL QORVEX_PUBLISHED_NUMBERS
+#define QORVEX_PUBLISHED_PANEL \
+  QORVEX_PUBLISHED_NUMBERS     \
+  QORVEX_PUBLISHED(bool, AutoEdits)

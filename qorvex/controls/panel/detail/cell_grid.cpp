@@ -1,7 +1,7 @@
 #include "qorvex/controls/panel/detail/cell_grid.h"
 
-#include <QStyle>
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace qorvex::inline QorvexControls::detail {
@@ -15,8 +15,13 @@ void PlaceInTabOrder(QWidget* previous, QWidget* widget) {
 }  // namespace
 
 CellGrid::CellGrid(QWidget& panel, const CellTable& table, const EditWindow& rows,
-                   const EditWindow& cols, Owner owner)
-    : panel_(panel), table_(table), rows_(rows), cols_(cols), owner_(std::move(owner)) {
+                   const EditWindow& cols, const GridGeometry& geometry, Owner owner)
+    : panel_(panel),
+      table_(table),
+      rows_(rows),
+      cols_(cols),
+      geometry_(geometry),
+      owner_(std::move(owner)) {
   QAccessible::installActivationObserver(this);
 }
 
@@ -48,6 +53,7 @@ void CellGrid::ForEach(const std::function<void(TQorCustomEdit& cell)>& function
 }
 
 void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus, QWidget* before) {
+  settings_ = settings;
   const std::size_t rows = rows_.Edits();
   const std::size_t cols = cols_.Edits();
   while (cells_.size() > rows) {
@@ -117,11 +123,36 @@ void CellGrid::Drop(TextCell* text) {
 }
 
 void CellGrid::Apply(const CellSettings& settings, Qt::FocusPolicy focus) {
-  ForEach([&](TQorCustomEdit& cell) {
-    cell.setSettings(settings);
-    cell.setFocusPolicy(focus);
-  });
+  ForEach([&](TQorCustomEdit& cell) { cell.setFocusPolicy(focus); });
+  ApplyToCells(settings);
   ApplyToHeader(settings);
+}
+
+void CellGrid::ApplyToCells(const CellSettings& settings) {
+  settings_ = settings;
+  for (std::size_t c = 0; c < cols_.Edits(); ++c) {
+    const CellSettings of_column = SettingsOf(cols_.Top() + static_cast<quint32>(c));
+    // A text that is committed on the way may change how many cells there are.
+    for (std::size_t r = 0; r < cells_.size() && c < cells_[r].size(); ++r) {
+      cells_[r][c]->setSettings(of_column);
+    }
+  }
+}
+
+CellSettings CellGrid::SettingsOf(quint32 col) const {
+  CellSettings settings = settings_;
+  const auto format = col_formats_.find(col);
+  if (format != col_formats_.end()) settings.number = format->second;
+  return settings;
+}
+
+QString CellGrid::TextFor(quint32 col, Extended value) const {
+  if (col_formats_.empty()) return Cell(0, 0)->TextFor(value);
+  // The column may be out of sight.
+  const std::unique_ptr<TQorCustomEdit> cell(make_cell_(nullptr));
+  cell->setLocale(panel_.locale());
+  cell->setSettings(SettingsOf(col));
+  return cell->TextFor(value);
 }
 
 void CellGrid::ApplyToHeader(const CellSettings& settings) {
@@ -135,6 +166,8 @@ void CellGrid::EnableUsedCells() {
 }
 
 void CellGrid::Show() {
+  // Scrolling brings other columns into the cells.
+  if (!col_formats_.empty()) ApplyToCells(settings_);
   // Asking for an element may change how many there are, and how many cells.
   for (std::size_t r = 0; r < cells_.size(); ++r) {
     for (std::size_t c = 0; r < cells_.size() && c < cells_[r].size(); ++c) {
@@ -178,34 +211,16 @@ void CellGrid::NameCells() {
   }
 }
 
-int CellGrid::RowHeight() const {
-  constexpr int frame = 4;
-  return std::max(cell_height_, panel_.fontMetrics().height() + frame);
-}
-
-QSize CellGrid::Size() const {
-  return {header_width_ + static_cast<int>(cols_.Edits()) * cell_width_,
-          static_cast<int>(rows_.Edits()) * RowHeight()};
-}
-
-QRect CellGrid::Placed(const QRect& rectangle) const {
-  const QRect contents = panel_.contentsRect();
-  return QStyle::visualRect(panel_.layoutDirection(), contents,
-                            rectangle.translated(contents.topLeft()));
-}
-
 void CellGrid::Arrange() const {
-  const int height = RowHeight();
+  std::vector<QRect> above;
+  for (quint32 col = 0; col < cols_.Edits(); ++col) above.push_back(geometry_.Above(col));
   for (std::size_t r = 0; r < cells_.size(); ++r) {
-    const int y = static_cast<int>(r) * height;
+    const QRect in_front = geometry_.InFrontOf(static_cast<quint32>(r));
     for (std::size_t c = 0; c < cells_[r].size(); ++c) {
-      const int x = header_width_ + static_cast<int>(c) * cell_width_;
-      cells_[r][c]->setGeometry(Placed({x, y, cell_width_, height}));
+      cells_[r][c]->setGeometry(
+          geometry_.Placed({above[c].x(), in_front.y(), above[c].width(), in_front.height()}));
     }
-  }
-  for (std::size_t r = 0; r < header_texts_.size(); ++r) {
-    const int y = static_cast<int>(r) * height;
-    header_texts_[r]->setGeometry(Placed({0, y, header_width_, height}));
+    if (r < header_texts_.size()) header_texts_[r]->setGeometry(geometry_.Placed(in_front));
   }
 }
 

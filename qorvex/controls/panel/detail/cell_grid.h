@@ -1,19 +1,19 @@
 #pragma once
 
 /// @file
-/// CellGrid, the cells of a panel: how many there are, where they are and what they show.
+/// CellGrid, the cells of a panel: how many there are and what they show.
 
 #include <QAccessible>
-#include <QRect>
-#include <QSize>
 #include <QWidget>
 #include <algorithm>
 #include <functional>
+#include <map>
 #include <vector>
 
 #include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/controls/detail/edit_window.h"
 #include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/detail/grid_geometry.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -42,9 +42,6 @@ struct RowHeader {
 /// every cell, which takes a tenth of the time of the step.
 class CellGrid : private QAccessible::ActivationObserver {
  public:
-  static constexpr int kDefaultCellHeight = 21;
-  static constexpr int kDefaultCellWidth = 81;
-
   /// What the panel does with a new cell, and with a cell or a text of the header that goes.
   struct Owner {
     std::function<void(TQorCustomEdit& cell, CellPlace place)> connect;
@@ -53,7 +50,7 @@ class CellGrid : private QAccessible::ActivationObserver {
 
   /// A grid without cells.
   CellGrid(QWidget& panel, const CellTable& table, const EditWindow& rows, const EditWindow& cols,
-           Owner owner);
+           const GridGeometry& geometry, Owner owner);
   /// Deletes the cells.
   ~CellGrid() override;
   CellGrid(const CellGrid&) = delete;
@@ -61,11 +58,8 @@ class CellGrid : private QAccessible::ActivationObserver {
 
   /// What makes a cell. Set once, before there are any.
   void SetCellFactory(std::function<TQorCustomEdit*(QWidget* panel)> make);
-  /// @{
-  /// The texts in front of the cells, if there are any, and their width in pixels.
+  /// The texts in front of the cells, if there are any.
   void SetHeader(RowHeader header);
-  void SetHeaderWidth(int width) { header_width_ = width; }
-  /// @}
 
   [[nodiscard]] bool IsEmpty() const { return cells_.empty() || cells_.front().empty(); }
   [[nodiscard]] TQorCustomEdit* Cell(std::size_t row, std::size_t col) const {
@@ -97,42 +91,41 @@ class CellGrid : private QAccessible::ActivationObserver {
   /// Shows the elements.
   void Show();
 
-  /// @{
-  /// The size of a cell in pixels. A cell is never lower than a line of its font.
-  [[nodiscard]] int CellHeight() const noexcept { return cell_height_; }
-  [[nodiscard]] int CellWidth() const noexcept { return cell_width_; }
-  void SetCellHeight(int height) { cell_height_ = height; }
-  void SetCellWidth(int width) { cell_width_ = width; }
-  /// @}
-  /// The size of the header and the cells.
-  [[nodiscard]] QSize Size() const;
+  /// The text that a cell of a column, in sight or not, would show for a value. Needs a cell.
+  [[nodiscard]] QString TextFor(quint32 col, Extended value) const;
+
   /// Places the header and the cells.
   void Arrange() const;
-  /// A rectangle of the panel's contents in a left-to-right layout, where the panel's layout has
-  /// it.
-  [[nodiscard]] QRect Placed(const QRect& rectangle) const;
+
+  /// The formats of columns that do not have the one in the settings. Apply follows a change.
+  [[nodiscard]] std::map<quint32, NumberSettings>& ColFormats() noexcept { return col_formats_; }
+  [[nodiscard]] const std::map<quint32, NumberSettings>& ColFormats() const noexcept {
+    return col_formats_;
+  }
 
  private:
   void accessibilityActiveChanged(bool active) override;
   void NameCells();
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
+  void ApplyToCells(const CellSettings& settings);
+  [[nodiscard]] CellSettings SettingsOf(quint32 col) const;
   void FitHeader(QWidget* before);
   void DropCell(TQorCustomEdit* cell);
   void Drop(TextCell* text);
-  [[nodiscard]] int RowHeight() const;
 
   QWidget& panel_;
   const CellTable& table_;
   const EditWindow& rows_;
   const EditWindow& cols_;
+  const GridGeometry& geometry_;
   Owner owner_;
   std::function<TQorCustomEdit*(QWidget* panel)> make_cell_;
   RowHeader header_;
   std::vector<std::vector<TQorCustomEdit*>> cells_;
   std::vector<TextCell*> header_texts_;
-  int cell_height_ = kDefaultCellHeight;
-  int cell_width_ = kDefaultCellWidth;
-  int header_width_ = 0;
+  std::map<quint32, NumberSettings> col_formats_;
+  // What was applied last.
+  CellSettings settings_;
   bool is_named_ = QAccessible::isActive();
 };
 

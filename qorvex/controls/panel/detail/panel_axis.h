@@ -27,6 +27,12 @@ class PanelAxis {
   /// Makes the bar, a child of the panel.
   void AddBar(Qt::Orientation orientation, QWidget& panel);
 
+  /// @{
+  /// The number of edits that was asked for, which may differ from those that have room.
+  [[nodiscard]] quint32 PreferredEdits() const noexcept { return preferred_edits_; }
+  void SetPreferredEdits(quint32 edits) noexcept { preferred_edits_ = edits; }
+  /// @}
+
   /// Scrolls. A form may set the top before the length of the axis: until Loaded, a top beyond the
   /// end is remembered.
   void SetTop(quint32 top);
@@ -43,6 +49,7 @@ class PanelAxis {
 
   EditWindow window_;
   std::unique_ptr<QScrollBar> bar_;
+  quint32 preferred_edits_ = 0;
   quint32 wanted_top_ = 0;
   bool loaded_ = false;
   bool placing_bar_ = false;

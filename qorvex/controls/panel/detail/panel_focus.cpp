@@ -1,5 +1,7 @@
 #include "qorvex/controls/panel/detail/panel_focus.h"
 
+#include <algorithm>
+
 namespace qorvex::inline QorvexControls::detail {
 
 namespace {
@@ -86,10 +88,19 @@ void PanelFocus::Go(PanelAxis& along, PanelAxis& across, const GridStep& step) {
     along.Window().SetTop(step.along.top);
     across.Window().SetTop(step.across.top);
   }
+  const quint32 edit_along = Reveal(along.Window(), step.along.top + step.along.edit);
+  const quint32 edit_across = Reveal(across.Window(), step.across.top + step.across.edit);
   const bool vertical = &along == &rows_;
-  const AxisStep& row = vertical ? step.along : step.across;
-  const AxisStep& col = vertical ? step.across : step.along;
-  Navigate(row.edit, col.edit);
+  Navigate(vertical ? edit_along : edit_across, vertical ? edit_across : edit_along);
+}
+
+quint32 PanelFocus::Reveal(EditWindow& window, quint32 element) {
+  while (element >= window.Top() + window.UsedEdits()) {
+    const quint32 before = window.Top();
+    window.SetTop(before + 1);
+    if (window.Top() <= before) break;
+  }
+  return element - std::min(element, window.Top());
 }
 
 bool PanelFocus::StopsAtHeader(std::size_t row) const {

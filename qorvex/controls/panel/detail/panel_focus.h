@@ -62,6 +62,8 @@ class PanelFocus {
  private:
   // The cell, or the text of the header when the focus was last there.
   [[nodiscard]] TextCell* TextAt(std::size_t row, std::size_t col) const;
+  // The edit that shows an element; scrolls on while wider columns keep it out of sight.
+  static quint32 Reveal(EditWindow& window, quint32 element);
   // Leaves the cell; the focus waits on the bar.
   void Park(const PanelAxis& axis);
   // Scrolls if need be, and moves the focus.

@@ -10,6 +10,7 @@
 #include "qorvex/controls/panel/detail/change_history.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
@@ -28,9 +29,12 @@ struct PanelParts {
                 }),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
+        geometry(panel, rows.Window(), cols.Window()),
         focus(panel, rows, cols, grid, rule),
         keys(panel, rows, cols, focus),
-        grid(panel, panel.table_, rows.Window(), cols.Window(),
+        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
+                 panel.HeadingEvents()),
+        grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
               .drop =
@@ -52,8 +56,10 @@ struct PanelParts {
   ChangeHistory history;
   PanelAxis rows;
   PanelAxis cols;
+  GridGeometry geometry;
   PanelFocus focus;
   PanelKeys keys;
+  PanelHeadings headings;
   CellGrid grid;
   QWidget* corner = nullptr;
 };

@@ -1,0 +1,213 @@
+// The layout of a panel of cells: sizes of cells, columns, headings, and the cells that have room.
+
+#include <QStyle>
+#include <algorithm>
+
+#include "qorvex/controls/panel/detail/panel_parts.h"
+
+namespace qorvex::inline QorvexControls {
+
+namespace {
+
+// With AutoEdits a layout may make the panel as small as this many rows and columns.
+constexpr quint32 kLeastAutoEdits = 3;
+
+QSizePolicy::Policy Resized(QSizePolicy::Policy policy, bool automatic) {
+  if (automatic && policy == QSizePolicy::Fixed) return QSizePolicy::Expanding;
+  if (!automatic && policy == QSizePolicy::Expanding) return QSizePolicy::Fixed;
+  return policy;
+}
+
+}  // namespace
+
+int CellPanel::CellHeight() const noexcept {
+  return parts_->geometry.CellHeight();
+}
+
+void CellPanel::setCellHeight(int height) {
+  parts_->geometry.SetCellHeight(height);
+  Arrange();
+}
+
+void CellPanel::resetCellHeight() {
+  setCellHeight(detail::GridGeometry::kDefaultCellHeight);
+}
+
+int CellPanel::CellWidth() const noexcept {
+  return parts_->geometry.ColWidths().Usual();
+}
+
+void CellPanel::setCellWidth(int width) {
+  parts_->geometry.ColWidths().SetUsual(width);
+  Arrange();
+}
+
+void CellPanel::resetCellWidth() {
+  setCellWidth(detail::GridGeometry::kDefaultCellWidth);
+}
+
+void CellPanel::setAutoEdits(bool on) {
+  if (on == auto_edits_) return;
+  auto_edits_ = on;
+  QSizePolicy policy = sizePolicy();
+  policy.setVerticalPolicy(Resized(policy.verticalPolicy(), on));
+  if (parts_->cols.Bar()) policy.setHorizontalPolicy(Resized(policy.horizontalPolicy(), on));
+  setSizePolicy(policy);
+  if (!on) {
+    ChangeEdits(parts_->cols, parts_->cols.PreferredEdits());
+    ChangeEdits(parts_->rows, parts_->rows.PreferredEdits());
+  }
+  Arrange();
+}
+
+void CellPanel::SetEdits(detail::PanelAxis& axis, int edits) {
+  axis.SetPreferredEdits(static_cast<quint32>(std::clamp(edits, 0, detail::kMaxEdits)));
+  ChangeEdits(axis, axis.PreferredEdits());
+  // Once a layout has had its turn, the number is again the one that has room.
+  if (!auto_edits_) return;
+  QMetaObject::invokeMethod(
+      this, [this] { Arrange(); }, Qt::QueuedConnection);
+}
+
+void CellPanel::ChangeEdits(detail::PanelAxis& axis, quint32 edits) {
+  if (edits == axis.Window().Edits()) return;
+  parts_->focus.Keep(axis, edits, [&] { axis.Window().SetEdits(edits); });
+  FitGrid();
+  axis.ReachWantedTop();
+}
+
+void CellPanel::SetCorner(QWidget* corner) {
+  parts_->corner = corner;
+}
+
+int CellPanel::BarExtent() const {
+  return style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+}
+
+// A bar that is not needed leaves its place to the cells.
+bool CellPanel::NeedsBar(const detail::PanelAxis& axis) const {
+  if (axis.Bar() == nullptr) return false;
+  return !auto_edits_ || axis.Window().Edits() < axis.Window().Count();
+}
+
+void CellPanel::FitEdits() {
+  // Its size is not its own until it is shown.
+  if (!auto_edits_ || testAttribute(Qt::WA_PendingResizeEvent)) return;
+  const detail::GridGeometry& geometry = parts_->geometry;
+  const QSize room = contentsRect().size() - QSize(geometry.HeaderWidth(), geometry.HeaderHeight());
+  const detail::EditWindow& rows = Rows();
+  const detail::EditWindow& cols = Cols();
+  const detail::ElementSizes heights(geometry.RowHeight());
+  const auto rows_within = [&](int height) {
+    return heights.Fitting(rows.Top(), rows.Count(), height);
+  };
+  const auto cols_within = [&](int width) {
+    if (parts_->cols.Bar() == nullptr) return cols.Edits();
+    return geometry.ColWidths().Fitting(cols.Top(), cols.Count(), width);
+  };
+  quint32 fitting_rows = rows_within(room.height());
+  quint32 fitting_cols =
+      cols_within(room.width() - (fitting_rows < rows.Count() ? BarExtent() : 0));
+  if (fitting_cols < cols.Count()) {
+    fitting_rows = rows_within(room.height() - BarExtent());
+    if (fitting_rows < rows.Count()) fitting_cols = cols_within(room.width() - BarExtent());
+  }
+  ChangeEdits(parts_->cols, fitting_cols);
+  ChangeEdits(parts_->rows, fitting_rows);
+}
+
+void CellPanel::Arrange() {
+  parts_->headings.TakeRoom();
+  FitEdits();
+  Place();
+  updateGeometry();
+}
+
+void CellPanel::Place() {
+  parts_->grid.Arrange();
+  parts_->headings.Arrange();
+  const QSize bars(NeedsBar(parts_->rows) ? BarExtent() : 0,
+                   NeedsBar(parts_->cols) ? BarExtent() : 0);
+  QSize cells = parts_->geometry.Size();
+  if (auto_edits_) {
+    const QSize room = contentsRect().size() - bars;
+    cells.setHeight(room.height());
+    if (parts_->cols.Bar()) cells.setWidth(room.width());
+  }
+  const int left = parts_->geometry.HeaderWidth();
+  const int top = parts_->geometry.HeaderHeight();
+  const auto place = [this](QWidget* widget, const QRect& rectangle) {
+    if (widget != nullptr) widget->setGeometry(parts_->geometry.Placed(rectangle));
+  };
+  place(parts_->rows.Bar(), {cells.width(), top, bars.width(), cells.height() - top});
+  place(parts_->cols.Bar(), {left, cells.height(), cells.width() - left, bars.height()});
+  place(parts_->corner, {cells.width(), cells.height(), bars.width(), bars.height()});
+}
+
+QSize CellPanel::sizeHint() const {
+  return SizeFor(parts_->rows.PreferredEdits(), parts_->cols.PreferredEdits());
+}
+
+QSize CellPanel::minimumSizeHint() const {
+  if (!auto_edits_) return sizeHint();
+  return SizeFor(std::min(parts_->rows.PreferredEdits(), kLeastAutoEdits),
+                 std::min(parts_->cols.PreferredEdits(), kLeastAutoEdits));
+}
+
+QSize CellPanel::SizeFor(quint32 rows, quint32 cols) const {
+  const QSize bars(BarExtent(), parts_->cols.Bar() ? BarExtent() : 0);
+  return parts_->geometry.Size(rows, cols) + bars + QSize(2 * frameWidth(), 2 * frameWidth());
+}
+
+// Columns of different widths move when the table is scrolled across.
+void CellPanel::ColsMoved() {
+  if (!parts_->geometry.ColWidths().AreUsual()) Arrange();
+}
+
+void CellPanel::CountChanged() {
+  const bool has_headings = parts_->headings.HasRows();
+  if (has_headings) parts_->headings.Measure();
+  if (has_headings || auto_edits_ || !parts_->geometry.ColWidths().AreUsual()) Arrange();
+}
+
+bool CellPanel::HasRowHeadings() const noexcept {
+  return parts_->headings.HasRows();
+}
+
+void CellPanel::ShowRowHeadings(bool on) {
+  parts_->headings.SetRows(on);
+  if (on) parts_->headings.Measure();
+  Arrange();
+}
+
+bool CellPanel::HasColHeadings() const noexcept {
+  return parts_->headings.HasCols();
+}
+
+void CellPanel::ShowColHeadings(bool on) {
+  parts_->headings.SetCols(on);
+  Arrange();
+}
+
+void CellPanel::DragColWidth(quint32 col, int width) {
+  parts_->geometry.ColWidths().Set(col, width);
+  Arrange();
+  // A layout makes the panel as wide as its cells; without one, it widens itself.
+  if (sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
+    resize(sizeHint().width(), height());
+  }
+}
+
+detail::PanelHeadingEvents CellPanel::HeadingEvents() {
+  return {.select_row = [](quint32, bool) {},
+          .select_col = [](quint32, bool) {},
+          .select_all = [] {},
+          .selection =
+              [this] {
+                return TQorCellRange{Rows().Top() + Rows().Focus(), 1,
+                                     Cols().Top() + Cols().Focus(), 1};
+              },
+          .resize_col = [this](quint32 col, int width) { DragColWidth(col, width); }};
+}
+
+}  // namespace qorvex::inline QorvexControls

@@ -1,0 +1,95 @@
+#pragma once
+
+/// @file
+/// HeadingBar, the headings in front of the rows or above the columns of a panel.
+
+#include <QPainter>
+#include <QStyleOptionHeader>
+#include <QWidget>
+#include <functional>
+#include <optional>
+
+#include "qorvex/controls/panel/detail/grid_geometry.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+/// What a bar of headings shows, and what a mouse does with it.
+struct HeadingEvents {
+  /// The text of an element's heading.
+  std::function<QString(quint32 element)> text;
+  /// Whether the heading is marked as selected.
+  std::function<bool(quint32 element)> is_selected;
+  /// The heading has been pressed. Pressed with Shift, or reached by dragging, it extends what the
+  /// last press has selected.
+  std::function<void(quint32 element, bool extend)> select;
+  /// The edge of the heading has been dragged; empty if the sizes are fixed.
+  std::function<void(quint32 element, int size)> resize;
+};
+
+/// The headings of the elements that a window shows, painted as the style paints those of tables.
+class HeadingBar : public QWidget {
+ public:
+  /// A vertical bar is in front of the rows, a horizontal one above the columns.
+  HeadingBar(QWidget& panel, Qt::Orientation orientation, const EditWindow& window,
+             const GridGeometry& geometry, HeadingEvents events);
+  ~HeadingBar() override;
+
+  /// Covers the room that the geometry has for it.
+  void Arrange();
+  /// The width that the texts in sight need.
+  [[nodiscard]] int TextWidth() const;
+  /// The width that a text needs.
+  [[nodiscard]] int WidthOf(const QString& text) const;
+
+ protected:
+  /// @{
+  /// Qt's events.
+  bool event(QEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  /// @}
+
+ private:
+  [[nodiscard]] QRect Section(quint32 edit) const;
+  // The edit whose heading is at a place, or the nearest one.
+  [[nodiscard]] std::optional<quint32> EditAt(const QPoint& place) const;
+  // The edit whose trailing edge is at a place and can be dragged.
+  [[nodiscard]] std::optional<quint32> EdgeAt(const QPoint& place) const;
+  [[nodiscard]] QString TextOf(quint32 edit) const;
+  [[nodiscard]] QStyleOptionHeader Option(quint32 edit) const;
+
+  Qt::Orientation orientation_;
+  const EditWindow& window_;
+  const GridGeometry& geometry_;
+  HeadingEvents events_;
+  // The element whose size is being dragged, and what its size and the mouse's place were at first.
+  struct Drag {
+    quint32 element;
+    int size;
+    int start;
+  };
+  std::optional<Drag> drag_;
+  bool selecting_ = false;
+};
+
+/// The heading where both bars meet. A click calls the function.
+class HeadingCorner : public QWidget {
+ public:
+  HeadingCorner(QWidget& panel, std::function<void()> clicked);
+  ~HeadingCorner() override;
+
+ protected:
+  /// @{
+  /// Qt's events.
+  void mousePressEvent(QMouseEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  /// @}
+
+ private:
+  std::function<void()> clicked_;
+};
+
+}  // namespace qorvex::inline QorvexControls::detail

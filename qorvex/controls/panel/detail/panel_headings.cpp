@@ -1,0 +1,125 @@
+#include "qorvex/controls/panel/detail/panel_headings.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace qorvex::inline QorvexControls::detail {
+
+namespace {
+
+// The mouse may be on it, so it is deleted later.
+template <class Widget>
+void Drop(Widget*& widget) {
+  widget->hide();
+  std::exchange(widget, nullptr)->deleteLater();
+}
+
+}  // namespace
+
+PanelHeadings::PanelHeadings(QWidget& panel, const CellTable& table, const EditWindow& rows,
+                             const EditWindow& cols, GridGeometry& geometry,
+                             PanelHeadingEvents events)
+    : panel_(panel),
+      table_(table),
+      rows_(rows),
+      cols_(cols),
+      geometry_(geometry),
+      events_(std::move(events)) {}
+
+PanelHeadings::~PanelHeadings() {
+  delete row_bar_;
+  delete col_bar_;
+  delete corner_;
+}
+
+void PanelHeadings::SetRows(bool on) {
+  if (on == HasRows()) return;
+  if (on) {
+    row_bar_ =
+        new HeadingBar(panel_, Qt::Vertical, rows_, geometry_,
+                       {.text =
+                            [this](quint32 row) {
+                              // The last one may be waiting for its elements.
+                              return row < table_.RowCount() ? table_.RowHeading(row) : QString();
+                            },
+                        .is_selected =
+                            [this](quint32 row) {
+                              const TQorCellRange selected = events_.selection();
+                              return row - selected.row < selected.rows;
+                            },
+                        .select = events_.select_row,
+                        .resize = {}});
+    row_bar_->setObjectName(QStringLiteral("RowHeadings"));
+    row_bar_->show();
+  } else {
+    Drop(row_bar_);
+    geometry_.SetHeaderWidth(0);
+  }
+  FitCorner();
+}
+
+void PanelHeadings::SetCols(bool on) {
+  if (on == HasCols()) return;
+  if (on) {
+    col_bar_ =
+        new HeadingBar(panel_, Qt::Horizontal, cols_, geometry_,
+                       {.text =
+                            [this](quint32 col) {
+                              return col < table_.ColCount() ? table_.ColHeading(col) : QString();
+                            },
+                        .is_selected =
+                            [this](quint32 col) {
+                              const TQorCellRange selected = events_.selection();
+                              return col - selected.col < selected.cols;
+                            },
+                        .select = events_.select_col,
+                        .resize = events_.resize_col});
+    col_bar_->setObjectName(QStringLiteral("ColHeadings"));
+    col_bar_->show();
+  } else {
+    Drop(col_bar_);
+    geometry_.SetHeaderHeight(0);
+  }
+  FitCorner();
+}
+
+void PanelHeadings::FitCorner() {
+  const bool needed = HasRows() && HasCols();
+  if (needed == (corner_ != nullptr)) return;
+  if (needed) {
+    corner_ = new HeadingCorner(panel_, events_.select_all);
+    corner_->show();
+  } else {
+    Drop(corner_);
+  }
+}
+
+void PanelHeadings::TakeRoom() {
+  if (HasCols()) geometry_.SetHeaderHeight(geometry_.RowHeight());
+  if (!HasRows()) return;
+  const int last_number = row_bar_->WidthOf(QString::number(rows_.Count()));
+  geometry_.SetHeaderWidth(std::max(row_text_width_, last_number));
+}
+
+void PanelHeadings::Arrange() {
+  if (HasRows()) row_bar_->Arrange();
+  if (HasCols()) col_bar_->Arrange();
+  if (corner_ == nullptr) return;
+  corner_->setGeometry(geometry_.Placed({0, 0, geometry_.HeaderWidth(), geometry_.HeaderHeight()}));
+}
+
+bool PanelHeadings::Show() {
+  Update();
+  if (!HasRows()) return false;
+  const int width = row_bar_->TextWidth();
+  // Asking for a text may have turned the headings off.
+  row_text_width_ = std::max(row_text_width_, width);
+  return HasRows() && row_text_width_ > geometry_.HeaderWidth();
+}
+
+void PanelHeadings::Update() {
+  if (HasRows()) row_bar_->update();
+  if (HasCols()) col_bar_->update();
+}
+
+}  // namespace qorvex::inline QorvexControls::detail
