@@ -36,6 +36,7 @@ inline QVariant ChangedValue(const QMetaProperty& property, const QVariant& valu
   const int type = property.typeId();
   if (type == QMetaType::Bool) return !value.toBool();
   if (type == QMetaType::Int) return number + 1;
+  if (type == QMetaType::LongLong) return value.toLongLong() + 1;
   if (type == QMetaType::UInt) return value.toUInt() + 20;  // More rows than cells.
   if (type == QMetaType::QString) return value.toString() + "changed";
   if (type == QMetaType::QStringList) return value.toStringList() + QStringList{"1.5", "2.25"};
