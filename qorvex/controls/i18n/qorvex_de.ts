@@ -8,14 +8,9 @@
         <translation>Diese Werte lassen sich nicht ändern.</translation>
     </message>
     <message>
-        <source>%1: &quot;%2&quot; is not a number.</source>
-        <comment>name of a cell, its text</comment>
-        <translation>%1: „%2“ ist keine Zahl.</translation>
-    </message>
-    <message>
-        <source>%1: &quot;%2&quot; is not a number. The value stays.</source>
-        <comment>name of a cell, its text</comment>
-        <translation>%1: „%2“ ist keine Zahl. Der Wert bleibt.</translation>
+        <source>%1: %2 The value stays.</source>
+        <comment>name of a cell, why its text is refused</comment>
+        <translation>%1: %2 Der Wert bleibt.</translation>
     </message>
     <message>
         <source>There is not enough memory for these values.</source>
@@ -180,12 +175,34 @@
 <context>
     <name>TQorCustomEdit</name>
     <message>
-        <source>Not a number</source>
-        <translation>Keine Zahl</translation>
+        <source>%1 Escape brings back the value.</source>
+        <comment>a sentence that says why a text is refused</comment>
+        <translation>%1 Escape holt den Wert zurück.</translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is not a number. Escape brings back the value.</source>
-        <translation>„%1“ ist keine Zahl. Escape holt den Wert zurück.</translation>
+        <source>A number is missing.</source>
+        <translation>Es fehlt eine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number.</source>
+        <translation>„%1“ ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a number: the decimal separator is &quot;%2&quot;.</source>
+        <translation>„%1“ ist keine Zahl: Das Dezimaltrennzeichen ist „%2“.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; may mean %2 or %3.</source>
+        <comment>a text and two numbers</comment>
+        <translation>„%1“ kann %2 oder %3 bedeuten.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; divides by zero.</source>
+        <translation>„%1“ teilt durch null.</translation>
+    </message>
+    <message>
+        <source>The value of &quot;%1&quot; is too large.</source>
+        <translation>Der Wert von „%1“ ist zu groß.</translation>
     </message>
 </context>
 <context>

@@ -67,7 +67,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::textEdited, this,
           [=, this](const QString& text) { table_.NotifyText(row(), col(), text); });
   connect(&cell, &TQorCustomEdit::Refused, this,
-          [=, this, &cell](const QString& text) { RefuseText(cell, row(), col(), text); });
+          [=, this, &cell] { RefuseText(cell, row(), col(), cell.Refusal()); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
   connect(&cell, &TQorCustomEdit::MenuOpening, this, [=, this](QMenu* menu) {
     AddToMenu(menu);

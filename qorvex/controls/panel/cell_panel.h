@@ -250,7 +250,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
   /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
-  /// message names element and text.
+  /// message names the element and says why.
   void OnTextRefused(const QString& message);
   /// The menu of the element's cell is about to open: add to it. It is raised as long as the
   /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
@@ -355,7 +355,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void AddHistoryToMenu(QMenu& menu);
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
   void RefuseBlock(const QString& message);
-  void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text);
+  void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason);
   void AddToMenu(QMenu* menu);
   void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
   void FitEdits();

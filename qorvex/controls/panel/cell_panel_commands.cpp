@@ -72,11 +72,10 @@ void CellPanel::RefuseBlock(const QString& message) {
   Q_EMIT OnBlockRefused(message);
 }
 
-void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text) {
-  const QString message =
-      QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number. The value stays.",
-                                  "name of a cell, its text")
-          .arg(table_.CellName(row, col), text);
+void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason) {
+  const QString message = QCoreApplication::translate("CellPanel", "%1: %2 The value stays.",
+                                                      "name of a cell, why its text is refused")
+                              .arg(table_.CellName(row, col), reason);
   // Later, since a change of the focus hides tool tips.
   QMetaObject::invokeMethod(
       &cell, [&cell, message] { ShowTip(cell, message); }, Qt::QueuedConnection);

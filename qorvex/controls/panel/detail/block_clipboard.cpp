@@ -28,12 +28,6 @@ QString TooManyCols(std::size_t cols, std::size_t room) {
       .arg(room);
 }
 
-QString NotANumber(const QString& cell_name, const QString& text) {
-  return QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number.",
-                                     "name of a cell, its text")
-      .arg(cell_name, text);
-}
-
 // The lines from one on, as many as there can be if the table may grow.
 std::size_t RoomFrom(quint32 first, quint32 count, bool may_grow) {
   const quint32 end = may_grow ? std::numeric_limits<quint32>::max() : count;
@@ -74,14 +68,14 @@ PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const 
   for (std::size_t r = 0; r < block.size(); ++r) {
     for (std::size_t c = 0; c < block[r].size(); ++c) {
       const QString cell_text = QString::fromStdString(block[r][c]);
-      const auto value = cell->Parsed(cell_text);
+      const CellReading reading = cell->Read(cell_text);
       const quint32 row = first_row + static_cast<quint32>(r);
       const quint32 col = first_col + static_cast<quint32>(c);
-      if (!value) return {{}, {}, NotANumber(table.CellName(row, col), cell_text)};
+      if (!reading.value) return {{}, {}, table.CellName(row, col) + ": " + reading.refusal};
       const bool exists = row < table.RowCount() && col < table.ColCount();
       const Extended before = exists ? table.Value(row, col) : growth.value;
-      if (!QorvexBaseControls::detail::SameElement(before, *value)) {
-        result.changes.push_back({row, col, *value});
+      if (!QorvexBaseControls::detail::SameElement(before, *reading.value)) {
+        result.changes.push_back({row, col, *reading.value});
       }
     }
   }
