@@ -38,6 +38,8 @@ enum class GridAction {
   kDelete,
   kFillDown,
   kFillRight,
+  kInsertLines,  ///< Inserts rows or columns, and deletes them, if the table can grow.
+  kDeleteLines,
   kUndo,
   kRedo
 };

@@ -24,25 +24,14 @@ void CellPanel::RefuseBlock(const QString& message) {
   Q_EMIT OnBlockRefused(message);
 }
 
-void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text) {
-  const QString message =
-      QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number. The value stays.",
-                                  "name of a cell, its text")
-          .arg(table_.CellName(row, col), text);
+void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason) {
+  const QString message = QCoreApplication::translate("CellPanel", "%1: %2 The value stays.",
+                                                      "name of a cell, why its text is refused")
+                              .arg(table_.CellName(row, col), reason);
   // Later, since a change of the focus hides tool tips.
   QMetaObject::invokeMethod(
       &cell, [&cell, message] { ShowTip(cell, message); }, Qt::QueuedConnection);
   Q_EMIT OnTextRefused(message);
-}
-
-void CellPanel::Undo() {
-  parts_->focus.CommitPending();
-  if (parts_->history.Undo()) Q_EMIT OnUndo();
-}
-
-void CellPanel::Redo() {
-  parts_->focus.CommitPending();
-  if (parts_->history.Redo()) Q_EMIT OnUndo();
 }
 
 void CellPanel::Command(const std::function<void()>& command) {
@@ -57,12 +46,7 @@ void CellPanel::AddToMenu(QMenu* menu) {
   menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
                   &CellPanel::CopyAll);
   if (EffectiveSettings().read_only) return;
-  menu->addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
-                  &CellPanel::Undo)
-      ->setEnabled(CanUndo());
-  menu->addAction(QCoreApplication::translate("CellPanel", "Redo Last Change"), this,
-                  &CellPanel::Redo)
-      ->setEnabled(CanRedo());
+  AddHistoryToMenu(*menu);
 }
 
 }  // namespace qorvex::inline QorvexControls

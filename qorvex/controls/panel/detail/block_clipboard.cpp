@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -25,14 +26,16 @@ QString TooManyCols(std::size_t cols, std::size_t room) {
       .arg(room);
 }
 
-QString NotANumber(const QString& cell_name, const QString& text) {
-  return QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number.",
-                                     "name of a cell, its text")
-      .arg(cell_name, text);
+// The lines from one on, as many as there can be if the table may grow.
+std::size_t RoomFrom(quint32 first, quint32 count, bool may_grow) {
+  const quint32 end = may_grow ? std::numeric_limits<quint32>::max() : count;
+  return end - std::min(first, end);
 }
 
-std::size_t RoomFrom(quint32 first, quint32 count) {
-  return count - std::min(first, count);
+void AppendLines(LineInsertions& lines, CellAxis axis, quint32 count, std::size_t needed,
+                 Extended value) {
+  if (needed <= count) return;
+  lines.push_back({axis, count, static_cast<quint32>(needed - count), value});
 }
 
 }  // namespace
@@ -50,36 +53,42 @@ QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TQor
 }
 
 BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
-                       const TQorCellRange& target) {
+                       const TQorCellRange& target, const Growth& growth) {
   const TextBlock block = ParseBlock(text.toStdString());
   if (block.empty()) return {};
   const std::size_t rows = block.size();
   const std::size_t cols = std::ranges::max(block, {}, &std::vector<std::string>::size).size();
-  const std::size_t room_below = cell ? RoomFrom(target.row, table.RowCount()) : 0;
-  const std::size_t room_beside = RoomFrom(target.col, table.ColCount());
-  if (rows > room_below || !cell) return {{}, TooManyRows(rows, room_below)};
-  if (cols > room_beside) return {{}, TooManyCols(cols, room_beside)};
+  const std::size_t room_below = cell ? RoomFrom(target.row, table.RowCount(), growth.rows) : 0;
+  const std::size_t room_beside = RoomFrom(target.col, table.ColCount(), growth.cols);
+  if (rows > room_below || !cell) return {{}, {}, TooManyRows(rows, room_below)};
+  if (cols > room_beside) return {{}, {}, TooManyCols(cols, room_beside)};
 
-  const bool covers = target.rows % rows == 0 && target.cols % cols == 0;
+  const bool covers = !target.IsEmpty() && target.rows % rows == 0 && target.cols % cols == 0;
   const quint64 height = covers ? target.rows : rows;
   const quint64 width = covers ? target.cols : cols;
   BlockChanges result;
   if (!HasFewEnough(height * width, result)) return result;
+  const auto change = [&](quint32 row, quint32 col, Extended value) {
+    const bool exists = row < table.RowCount() && col < table.ColCount();
+    AddChange(exists ? table.Value(row, col) : growth.value, {row, col, value}, result.changes);
+  };
   for (std::size_t r = 0; r < rows; ++r) {
     for (std::size_t c = 0; c < block[r].size(); ++c) {
       const QString cell_text = QString::fromStdString(block[r][c]);
-      const auto value = cell->Parsed(cell_text);
+      const CellReading reading = cell->Read(cell_text);
       const auto row = static_cast<quint32>(target.row + r);
       const auto col = static_cast<quint32>(target.col + c);
-      if (!value) return {{}, NotANumber(table.CellName(row, col), cell_text)};
+      if (!reading.value) return {{}, {}, table.CellName(row, col) + ": " + reading.refusal};
       for (quint64 down = 0; r + down < height; down += rows) {
         for (quint64 right = 0; c + right < width; right += cols) {
-          AddChange(table, static_cast<quint32>(row + down), static_cast<quint32>(col + right),
-                    *value, result.changes);
+          change(static_cast<quint32>(row + down), static_cast<quint32>(col + right),
+                 *reading.value);
         }
       }
     }
   }
+  AppendLines(result.lines, CellAxis::kRows, table.RowCount(), target.row + height, growth.value);
+  AppendLines(result.lines, CellAxis::kCols, table.ColCount(), target.col + width, growth.value);
   return result;
 }
 

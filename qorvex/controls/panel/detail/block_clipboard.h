@@ -17,11 +17,13 @@ namespace qorvex::inline QorvexControls::detail {
                                 const TQorCellRange& block);
 
 /// Pastes a text over a range: as often as it covers the range exactly, or else once, from its
-/// first element on. A cell reads the numbers; without one there is no room. The text is refused as
-/// a whole, in this order: more rows than the table has from there on, more columns, too many
-/// values, a cell that is not a number. O(length + elements).
+/// first element on. A cell reads the numbers; without one there is no room. Lines are appended for
+/// what is beyond the end. The text is refused as a whole, in this order: more rows than there is
+/// room for from there on, more columns, too many values, a cell that is not a number. O(length +
+/// elements).
 [[nodiscard]] BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell,
-                                     const QString& text, const TQorCellRange& target);
+                                     const QString& text, const TQorCellRange& target,
+                                     const Growth& growth);
 
 /// @{
 /// Messages that refuse a block.

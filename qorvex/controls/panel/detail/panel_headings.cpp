@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "qorvex/controls/panel/detail/panel_axis.h"
+
 namespace qorvex::inline QorvexControls::detail {
 
 namespace {
@@ -35,20 +37,19 @@ PanelHeadings::~PanelHeadings() {
 void PanelHeadings::SetRows(bool on) {
   if (on == HasRows()) return;
   if (on) {
-    row_bar_ =
-        new HeadingBar(panel_, Qt::Vertical, rows_, geometry_,
-                       {.text =
-                            [this](quint32 row) {
-                              // The last one may be waiting for its elements.
-                              return row < table_.RowCount() ? table_.RowHeading(row) : QString();
-                            },
-                        .is_selected =
-                            [this](quint32 row) {
-                              const TQorCellRange selected = events_.selection();
-                              return row - selected.row < selected.rows;
-                            },
-                        .select = events_.select_row,
-                        .resize = {}});
+    row_bar_ = new HeadingBar(panel_, Qt::Vertical, rows_, geometry_,
+                              {.text =
+                                   [this](quint32 row) {
+                                     return row < table_.RowCount() ? table_.RowHeading(row)
+                                                                    : QString(kSpareMark);
+                                   },
+                               .is_selected =
+                                   [this](quint32 row) {
+                                     const TQorCellRange selected = events_.selection();
+                                     return row - selected.row < selected.rows;
+                                   },
+                               .select = events_.select_row,
+                               .resize = {}});
     row_bar_->setObjectName(QStringLiteral("RowHeadings"));
     row_bar_->show();
   } else {

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "qorvex/controls/panel/cell_panel.h"
+#include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/change_history.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
@@ -14,6 +15,7 @@
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/panel_mouse.h"
 #include "qorvex/controls/panel/detail/panel_selection.h"
+#include "qorvex/controls/panel/detail/panel_wheel.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -25,10 +27,15 @@ struct PanelParts {
       : table(panel.table_),
         settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
-                [&panel](const std::function<void()>& run) {
-                  const CellPanel::Update update(panel);
-                  run();
-                }),
+                {.batch =
+                     [&panel](const std::function<void()>& run) {
+                       const CellPanel::Update update(panel);
+                       run();
+                     },
+                 .restored = [&panel] { Q_EMIT panel.OnUndo(); },
+                 .out_of_memory = [&panel] { panel.RefuseBlock(OutOfMemory()); },
+                 .can_undo_changed = [&panel](bool can) { Q_EMIT panel.OnCanUndoChange(can); },
+                 .can_redo_changed = [&panel](bool can) { Q_EMIT panel.OnCanRedoChange(can); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
@@ -39,7 +46,8 @@ struct PanelParts {
                     Q_EMIT panel.OnSelectionChange();
                   }),
         mouse(panel, rows, cols, grid, focus, selection),
-        keys(panel, rows, cols, focus, selection, mouse),
+        wheel(panel, rows, cols),
+        keys(panel, rows, cols, focus, selection, mouse, wheel),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
@@ -68,6 +76,7 @@ struct PanelParts {
   PanelFocus focus;
   PanelSelection selection;
   PanelMouse mouse;
+  PanelWheel wheel;
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
