@@ -31,6 +31,7 @@ namespace qorvex::inline QorvexControls::detail {
 [[nodiscard]] QString OutOfMemory();
 [[nodiscard]] QString NotChangeable();
 [[nodiscard]] QString NotNull();
+[[nodiscard]] QString NotStored(const QString& cell_name, const QString& text);
 /// @}
 
 }  // namespace qorvex::inline QorvexControls::detail
