@@ -157,8 +157,8 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Extended value_ = 0;
   bool has_value_ = true;
   bool invalid_ = false;
-  QString refusal_;
   bool selected_ = false;
+  QString refusal_;
   QColor special_color_;
   // Made when a colour is to be shown.
   std::unique_ptr<detail::CellColors> colors_;

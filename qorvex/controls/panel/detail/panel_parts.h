@@ -3,18 +3,21 @@
 /// @file
 /// The parts that a CellPanel is made of.
 
+#include <optional>
 #include <utility>
 
 #include "qorvex/controls/panel/cell_panel.h"
 #include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/change_history.h"
+#include "qorvex/controls/panel/detail/model_link.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/panel_mouse.h"
 #include "qorvex/controls/panel/detail/panel_selection.h"
+#include "qorvex/controls/panel/detail/panel_wheel.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -35,6 +38,12 @@ struct PanelParts {
                  .out_of_memory = [&panel] { panel.RefuseBlock(OutOfMemory()); },
                  .can_undo_changed = [&panel](bool can) { Q_EMIT panel.OnCanUndoChange(can); },
                  .can_redo_changed = [&panel](bool can) { Q_EMIT panel.OnCanRedoChange(can); }}),
+        model({.locale = [&panel] { return panel.locale(); },
+               .typed = [&panel] { return panel.TypedPlace(); },
+               .changed = [&panel](const TQorCellRange& range) { panel.ModelChanged(range); },
+               .headings_changed = [&panel] { panel.Redisplay(); },
+               .moved = [&panel](const TypedMove& typed) { panel.ModelMoved(typed); },
+               .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
@@ -45,7 +54,8 @@ struct PanelParts {
                     Q_EMIT panel.OnSelectionChange();
                   }),
         mouse(panel, rows, cols, grid, focus, selection),
-        keys(panel, rows, cols, focus, selection, mouse),
+        wheel(panel, rows, cols),
+        keys(panel, rows, cols, focus, selection, mouse, wheel),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
@@ -68,15 +78,19 @@ struct PanelParts {
   CellTable& table;
   SharedSettings settings;
   ChangeHistory history;
+  ModelLink model;
   PanelAxis rows;
   PanelAxis cols;
   GridGeometry geometry;
   PanelFocus focus;
   PanelSelection selection;
   PanelMouse mouse;
+  PanelWheel wheel;
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
+  // Where the typed text belongs, while that is not where its cell is.
+  std::optional<CellPlace> typed_place;
   QWidget* corner = nullptr;
 };
 
