@@ -141,6 +141,8 @@ bool PanelFocus::TabOn(bool forward) {
   if (!grid_.IsUsed(row, col) || !StopsAt(*grid_.Cell(row, col))) return false;
   // A text of the header comes before the cells of its row, with which it is in sight.
   if (forward ? in_header_ : !in_header_ && col == 0 && StopsAtHeader(row)) return false;
+  // A value in the spare row makes another one, which is the next stop.
+  if (forward && rows_.HasSpare() && rows_.Window().Top() + row >= rows_.Count()) CommitPending();
   const auto next = [&] {
     const auto state = [](const EditWindow& window) {
       return StateOf(window, window.Top() + window.Focus());
