@@ -99,6 +99,17 @@ TYPED_TEST(Forms, TabReachesEveryElementAndLeaves) {
   this->Press(Qt::Key_Tab);
   EXPECT_TRUE(this->other->hasFocus());
   this->editor->setTabStop(true);
+  // A value in the spare row makes another one, which comes next.
+  this->editor->setCanGrow(true);
+  this->editor->ScrollBottom();
+  this->FocusEdit(3);
+  for (const char* const value : {"8", "9", ""}) {
+    this->Type(value);
+    this->Press(Qt::Key_Tab);
+  }
+  EXPECT_EQ(this->Get(7), 9);
+  EXPECT_TRUE(this->other->hasFocus());
+  this->editor->setCanGrow(false);
   this->SetRows(0);
   EXPECT_EQ(this->ThereAndBack(), "; ");
   // Cells that come later, on a page of tabs.
