@@ -29,9 +29,11 @@ const struct {
   std::unique_ptr<QWidget> (*make)();
 } kPictures[] = {
     {"cells", Cells},
+    {"form", WeighingForm},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
+    {"matrix_layout", MatrixLayouts},
     {"vector_edit", VectorEdits},
 };
 

@@ -3,7 +3,6 @@
 #include <QCoreApplication>
 #include <QToolButton>
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "qorvex/base/errors.h"
@@ -60,11 +59,11 @@ void TQorCustomMatrixEdit::setNoOfRowEdits(int edits) {
 }
 
 quint32 TQorCustomMatrixEdit::NoOfCols() const noexcept {
-  return Cols().Count();
+  return Parts().cols.Count();
 }
 
 quint32 TQorCustomMatrixEdit::NoOfRows() const noexcept {
-  return Rows().Count();
+  return Parts().rows.Count();
 }
 
 void TQorCustomMatrixEdit::setNoOfCols(quint32 cols) {
@@ -190,20 +189,19 @@ void TQorCustomMatrixEdit::setColEditFocus(quint32 edit) {
 }
 
 void TQorCustomMatrixEdit::ScrollLeft(quint32 cols) {
-  if (cols <= DisplayLeftCol()) Parts().cols.SetTop(DisplayLeftCol() - cols);
+  Parts().cols.ScrollUp(cols);
 }
 
 void TQorCustomMatrixEdit::ScrollRight(quint32 cols) {
-  const quint32 most = std::numeric_limits<quint32>::max() - DisplayLeftCol();
-  Parts().cols.SetTop(DisplayLeftCol() + std::min(cols, most));
+  Parts().cols.ScrollDown(cols);
 }
 
 void TQorCustomMatrixEdit::ScrollLeftMost() {
-  Parts().cols.SetTop(0);
+  Parts().cols.ScrollToStart();
 }
 
 void TQorCustomMatrixEdit::ScrollRightMost() {
-  Parts().cols.SetTop(NoOfCols());
+  Parts().cols.ScrollToEnd();
 }
 
 Extended TQorCustomMatrixEdit::Value(quint32 row, quint32 col) const {

@@ -156,6 +156,13 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// @}
 
   /// @{
+  /// Inserts and deletes columns as InsertRows and DeleteRows do rows; rsInvalidCol if there is no
+  /// such column.
+  void InsertCols(quint32 col, quint32 count);
+  void DeleteCols(quint32 col, quint32 count);
+  /// @}
+
+  /// @{
   /// The current column; see CurrentRow.
   [[nodiscard]] quint32 CurrentCol() const noexcept;
   void setCurrentCol(quint32 col);
@@ -226,6 +233,11 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void OnNull(quint32 row, quint32 col);
   /// In virtual mode: store this value.
   void OnSetElement(quint32 row, quint32 col, long double value);
+  /// @{
+  /// In virtual mode: insert or delete columns, and set NoOfCols; see OnInsertRows.
+  void OnInsertCols(quint32 col, quint32 count);
+  void OnDeleteCols(quint32 col, quint32 count);
+  /// @}
   /// DisplayLeftCol is about to become the given column.
   void OnLeftChange(quint32 left);
   /// @{
@@ -258,6 +270,12 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
+  [[nodiscard]] bool IsVirtual() const override { return VirtualMode(); }
+  [[nodiscard]] bool CanInsert(CellAxis axis) const override;
+  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
+  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
+                                                   quint32 count) override;
   void VirtualModeChanged() override;
   /// @}
 
@@ -272,13 +290,19 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
   void TrimStore();
+  // The widths and formats of columns move with them.
+  void ReplaceCols(quint32 first, quint32 removed, quint32 inserted);
+  void ColsReplaced();
+  // Makes room in the store for lines of a value.
+  void InsertIntoStore(CellAxis axis, quint32 first, quint32 count, Extended value);
   // The store, extended to all rows and columns.
   TQorFloatMatrix& FullStore();
   // Stores a matrix that shares no memory with another one.
   void Take(TQorFloatMatrix matrix);
   void ExchangeStore(TQorFloatMatrix& other);
   // Runs a command on the matrix that can be undone.
-  void MatrixCommand(const std::function<void(TQorFloatMatrix& matrix)>& command);
+  void MatrixCommand(const QString& text,
+                     const std::function<void(TQorFloatMatrix& matrix)>& command);
 
   // Elements beyond its ends are 0.
   TQorFloatMatrix store_;

@@ -1,20 +1,16 @@
 #include "qorvex/controls/vector_edit.h"
 
 #include <QCoreApplication>
+#include <QMetaMethod>
 #include <algorithm>
 #include <limits>
-#include <memory>
 #include <stdexcept>
 #include <utility>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/base/swap.h"
 #include "qorvex/base_controls/detail/same_element.h"
-#include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/detail/array_lines.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
-#include "qorvex/vector/building.h"
-#include "qorvex/vector/sorting.h"
-#include "qorvex/vector/transforms.h"
 
 namespace qorvex::inline QorvexVectorEdit {
 
@@ -38,7 +34,7 @@ void TQorVectorEdit::setNoOfEdits(int edits) {
 }
 
 quint32 TQorVectorEdit::NoOfRows() const noexcept {
-  return Rows().Count();
+  return Parts().rows.Count();
 }
 
 void TQorVectorEdit::setNoOfRows(quint32 rows) {
@@ -157,69 +153,47 @@ QColor TQorVectorEdit::SpecialColor(quint32, quint32, Extended) const {
   return {};
 }
 
+bool TQorVectorEdit::CanInsert(CellAxis axis) const {
+  return axis == CellAxis::kRows &&
+         (!VirtualMode() || isSignalConnected(QMetaMethod::fromSignal(&CellPanel::OnInsertRows)));
+}
+
+void TQorVectorEdit::InsertLines(CellAxis, quint32 first, quint32 count, Extended value) {
+  if (VirtualMode()) {
+    Q_EMIT OnInsertRows(first, count);
+    return;
+  }
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  // Zeros at the end need no memory.
+  if (first < store_.size() || value != 0) {
+    if (store_.size() < first) store_.SetLength(first);
+    store_.resize(store_.size() + count, value);
+    QorvexControls::detail::MoveLastTo(store_, first, count);
+  }
+  SetCount(Parts().rows, NoOfRows() + count);
+  Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+void TQorVectorEdit::RemoveLines(CellAxis, quint32 first, quint32 count) {
+  if (VirtualMode()) {
+    Q_EMIT OnDeleteRows(first, count);
+    return;
+  }
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  SetCount(Parts().rows, NoOfRows() - count);
+  // After the handlers, which may still read the elements that go.
+  QorvexControls::detail::Remove(store_, first, count);
+  Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+std::function<void()> TQorVectorEdit::KeepLineData(CellAxis, quint32, quint32) {
+  return {};
+}
+
 void TQorVectorEdit::VirtualModeChanged() {
   if (!VirtualMode()) TrimStore();
-}
-
-void TQorVectorEdit::VectorCommand(const std::function<void()>& command) {
-  Command([&] {
-    const auto before = std::make_shared<TQorFloatVector>(std::span<const Extended>(FullStore()));
-    command();
-    Parts().history.RecordCommand([this, before] {
-      std::swap(store_, *before);
-      Redisplay();
-    });
-  });
-}
-
-void TQorVectorEdit::Clear() {
-  VectorCommand([this] { ClearVector(store_); });
-}
-
-void TQorVectorEdit::Fill(Extended value) {
-  VectorCommand([this, value] { FillVector(store_, value); });
-}
-
-void TQorVectorEdit::Invert() {
-  VectorCommand([this] { InvVector(store_); });
-}
-
-void TQorVectorEdit::Sqr() {
-  VectorCommand([this] { SquareVector(store_); });
-}
-
-void TQorVectorEdit::Sqrt() {
-  VectorCommand([this] { SqrtVector(store_); });
-}
-
-void TQorVectorEdit::Ln() {
-  VectorCommand([this] { LnVector(store_); });
-}
-
-void TQorVectorEdit::Log10() {
-  VectorCommand([this] { Log10Vector(store_); });
-}
-
-void TQorVectorEdit::LinearTransform(Extended slope, Extended intercept) {
-  VectorCommand([=, this] { LinearTransformVector(store_, slope, intercept); });
-}
-
-void TQorVectorEdit::Sort() {
-  VectorCommand([this] { QSortVector(store_, true); });
-}
-
-void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
-  Parts().focus.CommitPending();
-  CheckRow(first);
-  CheckRow(second);
-  Command([=, this] {
-    const auto swap = [=, this] { SwapXY(FullStore()[first], FullStore()[second]); };
-    swap();
-    Parts().history.RecordCommand([this, swap] {
-      swap();
-      Redisplay();
-    });
-  });
 }
 
 void TQorVectorEdit::CopyRows(quint32 first, quint32 count) {

@@ -165,6 +165,12 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
+  [[nodiscard]] bool IsVirtual() const override { return VirtualMode(); }
+  [[nodiscard]] bool CanInsert(CellAxis axis) const override;
+  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
+  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
+                                                   quint32 count) override;
   void VirtualModeChanged() override;
   /// @}
 
@@ -175,7 +181,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   static constexpr int kDefaultEdits = 4;
 
   // A command on the store that can be undone.
-  void VectorCommand(const std::function<void()>& command);
+  void VectorCommand(const QString& text, const std::function<void()>& command);
 
   // Changes the number of rows without the event.
   void Resize(quint32 rows);

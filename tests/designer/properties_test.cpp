@@ -24,7 +24,7 @@ const std::string kState = " Null=false" + kNullStr + " ReadOnly=false";
 const std::string kNumbers =
     " NumberFormat=0 SignificantDigits=6 Grouping=false ReadExpressions=false";
 // What all editors publish after their own properties.
-const std::string kPanel = kNumbers + " AutoEdits=false";
+const std::string kPanel = kNumbers + " AutoEdits=false CanGrow=false UndoLimit=67108864";
 
 const std::string kVectorEdit =
     "UICtrl= UIUsage=15" + kColors + " " + kFormat + kCell +

@@ -36,6 +36,7 @@ inline QVariant ChangedValue(const QMetaProperty& property, const QVariant& valu
   const int type = property.typeId();
   if (type == QMetaType::Bool) return !value.toBool();
   if (type == QMetaType::Int) return number + 1;
+  if (type == QMetaType::LongLong) return value.toLongLong() + 1;
   if (type == QMetaType::UInt) return value.toUInt() + 20;  // More rows than cells.
   // The user's property of a cell is a number.
   if (property.isUser()) return QStringLiteral("25");

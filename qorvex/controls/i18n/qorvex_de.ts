@@ -41,6 +41,106 @@
         <translation>Der Block passt nicht. Seine Spalten: %1, Spalten ab hier: %2.</translation>
     </message>
     <message>
+        <source>Add Columns</source>
+        <translation>Spalten addieren</translation>
+    </message>
+    <message>
+        <source>Add Rows</source>
+        <translation>Zeilen addieren</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Auf null setzen</translation>
+    </message>
+    <message>
+        <source>Common Logarithms</source>
+        <translation>Dekadische Logarithmen</translation>
+    </message>
+    <message>
+        <source>Delete Columns</source>
+        <translation>Spalten löschen</translation>
+    </message>
+    <message>
+        <source>Delete Rows</source>
+        <translation>Zeilen löschen</translation>
+    </message>
+    <message>
+        <source>Fill</source>
+        <translation>Füllen</translation>
+    </message>
+    <message>
+        <source>Insert Columns</source>
+        <translation>Spalten einfügen</translation>
+    </message>
+    <message>
+        <source>Insert Rows</source>
+        <translation>Zeilen einfügen</translation>
+    </message>
+    <message>
+        <source>Inverse</source>
+        <translation>Inverse</translation>
+    </message>
+    <message>
+        <source>Linear Transformation</source>
+        <translation>Lineare Transformation</translation>
+    </message>
+    <message>
+        <source>Natural Logarithms</source>
+        <translation>Natürliche Logarithmen</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Reciprocals</source>
+        <translation>Kehrwerte</translation>
+    </message>
+    <message>
+        <source>Row Reduction</source>
+        <translation>Zeilenstufenform</translation>
+    </message>
+    <message>
+        <source>Scale Column</source>
+        <translation>Spalte skalieren</translation>
+    </message>
+    <message>
+        <source>Scale Row</source>
+        <translation>Zeile skalieren</translation>
+    </message>
+    <message>
+        <source>Sort</source>
+        <translation>Sortieren</translation>
+    </message>
+    <message>
+        <source>Square Roots</source>
+        <translation>Quadratwurzeln</translation>
+    </message>
+    <message>
+        <source>Squares</source>
+        <translation>Quadrate</translation>
+    </message>
+    <message>
+        <source>Swap</source>
+        <translation>Vertauschen</translation>
+    </message>
+    <message>
+        <source>Swap Columns</source>
+        <translation>Spalten vertauschen</translation>
+    </message>
+    <message>
+        <source>Swap Rows</source>
+        <translation>Zeilen vertauschen</translation>
+    </message>
+    <message>
+        <source>Transpose</source>
+        <translation>Transponieren</translation>
+    </message>
+    <message>
+        <source>Typing</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
         <source>Rows</source>
         <translation>Zeilen</translation>
     </message>

@@ -78,6 +78,10 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
 }
 
 void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+  if (row >= table_.RowCount()) {
+    AppendRow(cell, row, col, value);
+    return;
+  }
   // The cell may have shown null in place of the element.
   const Extended before = table_.Value(row, col);
   try {
@@ -89,17 +93,21 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
     return;
   }
   // In virtual mode the program may have stored another value.
-  const Extended now = table_.Value(row, col);
-  cell.Refresh(now);
-  parts_->history.Record({row, col, before}, now);
+  cell.Refresh(table_.Value(row, col));
+  parts_->history.Record({row, col, before});
 }
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
-  const quint32 top = axis.Window().Top();
-  parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
+  SetLines(axis, count, axis.HasSpare());
   axis.ReachWantedTop();
   CountChanged();
   AnnounceSize();
+}
+
+void CellPanel::SetLines(detail::PanelAxis& axis, quint32 count, bool spare) {
+  const quint32 top = axis.Window().Top();
+  const quint32 lines = detail::PanelAxis::Lines(count, spare);
+  parts_->focus.Keep(axis, lines > top ? lines - top : 0, [&] { axis.SetCount(count, spare); });
 }
 
 void CellPanel::FitGrid() {
@@ -132,6 +140,7 @@ Qt::FocusPolicy CellPanel::CellFocusPolicy() const {
 
 void CellPanel::SettingsChanged() {
   ApplySettings();
+  FitSpareRow();
 }
 
 void CellPanel::DoColorSetChange() {
@@ -164,6 +173,7 @@ void CellPanel::changeEvent(QEvent* event) {
 
 void CellPanel::resizeEvent(QResizeEvent* event) {
   TQorCustomPanel::resizeEvent(event);
+  has_size_ = true;
   Arrange();
 }
 

@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,8 +28,16 @@ QString TooManyCols(std::size_t cols, std::size_t room) {
       .arg(room);
 }
 
-std::size_t RoomFrom(quint32 first, quint32 count) {
-  return count - std::min(first, count);
+// The lines from one on, as many as there can be if the table may grow.
+std::size_t RoomFrom(quint32 first, quint32 count, bool may_grow) {
+  const quint32 end = may_grow ? std::numeric_limits<quint32>::max() : count;
+  return end - std::min(first, end);
+}
+
+void AppendLines(LineInsertions& lines, CellAxis axis, quint32 count, std::size_t needed,
+                 Extended value) {
+  if (needed <= count) return;
+  lines.push_back({axis, count, static_cast<quint32>(needed - count), value});
 }
 
 }  // namespace
@@ -46,14 +55,14 @@ QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TQor
 }
 
 PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
-                      quint32 first_row, quint32 first_col) {
+                      quint32 first_row, quint32 first_col, const Growth& growth) {
   const TextBlock block = ParseBlock(text.toStdString());
   std::size_t width = 0;
   for (const auto& row : block) width = std::max(width, row.size());
-  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount()) : 0;
-  const std::size_t room_beside = RoomFrom(first_col, table.ColCount());
-  if (block.size() > room_below || !cell) return {{}, TooManyRows(block.size(), room_below)};
-  if (width > room_beside) return {{}, TooManyCols(width, room_beside)};
+  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount(), growth.rows) : 0;
+  const std::size_t room_beside = RoomFrom(first_col, table.ColCount(), growth.cols);
+  if (block.size() > room_below || !cell) return {{}, {}, TooManyRows(block.size(), room_below)};
+  if (width > room_beside) return {{}, {}, TooManyCols(width, room_beside)};
 
   PasteResult result;
   for (std::size_t r = 0; r < block.size(); ++r) {
@@ -62,13 +71,22 @@ PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const 
       const CellReading reading = cell->Read(cell_text);
       const quint32 row = first_row + static_cast<quint32>(r);
       const quint32 col = first_col + static_cast<quint32>(c);
-      if (!reading.value) return {{}, table.CellName(row, col) + ": " + reading.refusal};
-      if (!QorvexBaseControls::detail::SameElement(table.Value(row, col), *reading.value)) {
+      if (!reading.value) return {{}, {}, table.CellName(row, col) + ": " + reading.refusal};
+      const bool exists = row < table.RowCount() && col < table.ColCount();
+      const Extended before = exists ? table.Value(row, col) : growth.value;
+      if (!QorvexBaseControls::detail::SameElement(before, *reading.value)) {
         result.changes.push_back({row, col, *reading.value});
       }
     }
   }
+  AppendLines(result.lines, CellAxis::kRows, table.RowCount(), first_row + block.size(),
+              growth.value);
+  AppendLines(result.lines, CellAxis::kCols, table.ColCount(), first_col + width, growth.value);
   return result;
+}
+
+QString TextOfPaste() {
+  return QCoreApplication::translate("CellPanel", "Paste");
 }
 
 QString TooManyValues(quint64 values) {

@@ -159,7 +159,8 @@ void CellGrid::Show() {
       TQorCustomEdit* const cell = cells_[r][c];
       const quint32 row = rows_.Top() + static_cast<quint32>(r);
       const quint32 col = cols_.Top() + static_cast<quint32>(c);
-      if (IsUsed(r, c)) {
+      // The spare line has cells, but no elements yet.
+      if (IsUsed(r, c) && row < table_.RowCount()) {
         const Extended value = table_.Value(row, col);
         cell->Refresh(value);
         cell->SetSpecialColor(table_.SpecialColor(row, col, value));

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "qorvex/controls/panel/cell_panel.h"
+#include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/change_history.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
@@ -23,10 +24,15 @@ struct PanelParts {
       : table(panel.table_),
         settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
-                [&panel](const std::function<void()>& run) {
-                  const CellPanel::Update update(panel);
-                  run();
-                }),
+                {.batch =
+                     [&panel](const std::function<void()>& run) {
+                       const CellPanel::Update update(panel);
+                       run();
+                     },
+                 .restored = [&panel] { Q_EMIT panel.OnUndo(); },
+                 .out_of_memory = [&panel] { panel.RefuseBlock(OutOfMemory()); },
+                 .can_undo_changed = [&panel](bool can) { Q_EMIT panel.OnCanUndoChange(can); },
+                 .can_redo_changed = [&panel](bool can) { Q_EMIT panel.OnCanRedoChange(can); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
