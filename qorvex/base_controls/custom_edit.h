@@ -43,6 +43,7 @@ class CellColors;
 /// FittedFloatText.
 class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Q_OBJECT
+  /// The value as a text: see ValueText.
   Q_PROPERTY(QString Value READ ValueText WRITE setValueText NOTIFY Changed USER true)
 
  public:
