@@ -34,6 +34,7 @@ const struct {
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
     {"matrix_layout", MatrixLayouts},
+    {"models", Models},
     {"vector_edit", VectorEdits},
 };
 

@@ -21,6 +21,8 @@ namespace qorvex::inline QorvexControls::detail {
 struct CellPlace {
   quint32 row = 0;
   quint32 col = 0;
+
+  friend bool operator==(const CellPlace&, const CellPlace&) = default;
 };
 
 /// A column of texts in front of the cells.
@@ -91,6 +93,9 @@ class CellGrid : private QAccessible::ActivationObserver {
   /// Shows the elements.
   void Show();
 
+  /// The text that a cell of a column, in sight or not, would show for a value. Needs a cell.
+  [[nodiscard]] QString TextFor(quint32 col, Extended value) const;
+
   /// Places the header and the cells.
   void Arrange() const;
 
@@ -105,6 +110,9 @@ class CellGrid : private QAccessible::ActivationObserver {
   void NameCells();
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
   void ApplyToCells(const CellSettings& settings);
+  // By the settings, or because the element is.
+  [[nodiscard]] bool IsReadOnly(std::size_t row, std::size_t col) const;
+  [[nodiscard]] CellSettings SettingsOf(quint32 col) const;
   void FitHeader(QWidget* before);
   void DropCell(TQorCustomEdit* cell);
   void Drop(TextCell* text);
