@@ -71,6 +71,10 @@ TEST_F(GridLayout, HeadingsTakeRoomAndNameTheElements) {
   editor->setNoOfRows(100);
   EXPECT_EQ(rows->width(), days);
 
+  editor->OnGetRowHeading = [](quint32) { return QString(10'000, 'x'); };
+  editor->Redisplay();
+  EXPECT_LT(rows->width(), 500);
+
   editor->setLayoutDirection(Qt::RightToLeft);
   EXPECT_EQ(rows->geometry().right() + 1, editor->width());
   editor->setRowHeadings(false);

@@ -18,6 +18,9 @@ namespace {
 constexpr int kGrip = 4;
 constexpr int kLeastSize = 2 * kGrip;
 
+// Longer headings of rows are shortened.
+constexpr int kMostCharacters = 40;
+
 // A text keeps this distance from the edges of its heading.
 constexpr int kMargin = 6;
 
@@ -56,7 +59,7 @@ int HeadingBar::TextWidth() const {
   for (quint32 edit = 0; edit < window_.UsedEdits(); ++edit) {
     width = std::max(width, WidthOf(TextOf(edit)));
   }
-  return width;
+  return std::min(width, kMostCharacters * fontMetrics().averageCharWidth());
 }
 
 QString HeadingBar::TextOf(quint32 edit) const {
@@ -83,6 +86,14 @@ std::optional<quint32> HeadingBar::EditAt(const QPoint& place) const {
     if (before_end) return edit;
   }
   return used - 1;
+}
+
+int HeadingBar::SideOf(const QPoint& place) const {
+  const bool vertical = orientation_ == Qt::Vertical;
+  const int along = vertical ? place.y() : place.x();
+  if (along >= 0 && along < (vertical ? height() : width())) return 0;
+  const bool forward = along >= 0;
+  return forward == (vertical || layoutDirection() == Qt::LeftToRight) ? 1 : -1;
 }
 
 std::optional<quint32> HeadingBar::EdgeAt(const QPoint& place) const {
@@ -117,15 +128,33 @@ void HeadingBar::mouseMoveEvent(QMouseEvent* event) {
     const int size = drag_->size + (layoutDirection() == Qt::RightToLeft ? -moved : moved);
     events_.resize(drag_->element, std::max(size, kLeastSize));
   } else if (selecting_) {
-    if (const auto edit = EditAt(place)) events_.select(window_.Top() + *edit, true);
+    SelectTo(place);
   } else {
     setCursor(EdgeAt(place) ? Qt::SplitHCursor : Qt::ArrowCursor);
   }
 }
 
+void HeadingBar::SelectTo(const QPoint& place) {
+  place_ = place;
+  if (const auto edit = EditAt(place)) events_.select(window_.Top() + *edit, true);
+  constexpr int milliseconds_per_step = 50;
+  if (SideOf(place) == 0) {
+    scrolling_.stop();
+  } else if (!scrolling_.isActive()) {
+    scrolling_.start(milliseconds_per_step, this);
+  }
+}
+
+void HeadingBar::timerEvent(QTimerEvent*) {
+  if (!isVisible()) return mouseReleaseEvent(nullptr);
+  events_.scroll(SideOf(place_) > 0);
+  SelectTo(place_);
+}
+
 void HeadingBar::mouseReleaseEvent(QMouseEvent*) {
   drag_.reset();
   selecting_ = false;
+  scrolling_.stop();
 }
 
 void HeadingBar::leaveEvent(QEvent* event) {

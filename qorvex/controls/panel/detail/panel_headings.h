@@ -30,8 +30,8 @@ struct PanelHeadingEvents {
 /// as the last number.
 class PanelHeadings {
  public:
-  PanelHeadings(QWidget& panel, const CellTable& table, const EditWindow& rows,
-                const EditWindow& cols, GridGeometry& geometry, PanelHeadingEvents events);
+  PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows, EditWindow& cols,
+                GridGeometry& geometry, PanelHeadingEvents events);
   ~PanelHeadings();
   PanelHeadings(const PanelHeadings&) = delete;
   PanelHeadings& operator=(const PanelHeadings&) = delete;
@@ -64,8 +64,8 @@ class PanelHeadings {
 
   QWidget& panel_;
   const CellTable& table_;
-  const EditWindow& rows_;
-  const EditWindow& cols_;
+  EditWindow& rows_;
+  EditWindow& cols_;
   GridGeometry& geometry_;
   PanelHeadingEvents events_;
   // Children of the panel.
