@@ -24,6 +24,12 @@ constexpr int kMostCharacters = 40;
 // A text keeps this distance from the edges of its heading.
 constexpr int kMargin = 6;
 
+// Selected headings are bold; all of them have room for it.
+QFont Bold(QFont font) {
+  font.setBold(true);
+  return font;
+}
+
 }  // namespace
 
 HeadingBar::HeadingBar(QWidget& panel, Qt::Orientation orientation, const EditWindow& window,
@@ -51,7 +57,7 @@ void HeadingBar::Arrange() {
 }
 
 int HeadingBar::WidthOf(const QString& text) const {
-  return fontMetrics().horizontalAdvance(text) + 2 * kMargin;
+  return QFontMetrics(Bold(font())).horizontalAdvance(text) + 2 * kMargin;
 }
 
 int HeadingBar::TextWidth() const {
@@ -194,8 +200,8 @@ QStyleOptionHeader HeadingBar::Option(quint32 edit) const {
   if (edit < window_.UsedEdits() && events_.is_selected(window_.Top() + edit)) {
     option.state |= QStyle::State_On | QStyle::State_Sunken;
   }
-  option.text = fontMetrics().elidedText(TextOf(edit), Qt::ElideRight,
-                                         std::max(option.rect.width() - kMargin, 0));
+  option.text = QFontMetrics(Bold(font()))
+                    .elidedText(TextOf(edit), Qt::ElideRight, option.rect.width() - kMargin);
   return option;
 }
 
@@ -204,10 +210,7 @@ void HeadingBar::paintEvent(QPaintEvent*) {
   // Asking for a text may change how many edits there are.
   for (quint32 edit = 0; edit < window_.Edits(); ++edit) {
     const QStyleOptionHeader option = Option(edit);
-    const bool selected = option.state.testFlag(QStyle::State_On);
-    QFont bold = font();
-    bold.setBold(selected);
-    painter.setFont(bold);
+    painter.setFont(option.state.testFlag(QStyle::State_On) ? Bold(font()) : font());
     style()->drawControl(QStyle::CE_Header, &option, &painter, this);
   }
 }
