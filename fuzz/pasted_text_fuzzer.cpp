@@ -1,6 +1,7 @@
 // The first byte selects a locale, the rest is a pasted text. For any text: every row of a block
-// has cells, and the text of a block is read back as the same block; a number is finite, and its
-// text in the locale is read back as the same number.
+// has cells, and the text of a block is read back as the same block; a number is finite, its text
+// in the locale is read back as the same number, and its text with groups never as another one; a
+// text that is refused has a reason.
 
 #include <QLocale>
 #include <QString>
@@ -10,6 +11,8 @@
 
 #include "fuzz/require.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base_controls/detail/digit_groups.h"
+#include "qorvex/base_controls/detail/number_reader.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/controls/detail/block_text.h"
 
@@ -19,12 +22,28 @@ using namespace qorvex;
 
 void CheckNumber(const QString& text, const QLocale& locale) {
   using namespace QorvexBaseControls::detail;
-  const auto value = ParseLocalNumber(text, locale);
-  if (!value) return;
-  Require(std::isfinite(*value), "a number is not finite");
-  const auto back = ParseLocalNumber(LocalNumber(Float2Str(*value), locale), locale);
-  Require(back && *back == *value && std::signbit(*back) == std::signbit(*value),
-          "the text of LocalNumber is read as another number");
+  const auto same = [](Extended a, Extended b) {
+    return a == b && std::signbit(a) == std::signbit(b);
+  };
+  const CellReading number = ReadNumber(text, locale);
+  const CellReading expression = ReadExpression(text, locale);
+  for (const CellReading& reading : {number, expression}) {
+    Require(reading.value.has_value() == reading.refusal.isEmpty(), "a refusal without a reason");
+    if (!reading.value) continue;
+    Require(std::isfinite(*reading.value), "a number is not finite");
+    const QString written = LocalNumber(Float2Str(*reading.value), locale);
+    const auto back = ParseLocalNumber(written, locale);
+    Require(back && same(*back, *reading.value),
+            "the text of LocalNumber is read as another number");
+    const CellReading groups = ReadNumber(WithGroups(written, locale), locale);
+    Require(!groups.value || same(*groups.value, *reading.value),
+            "a number with groups is read as another number");
+  }
+  if (const auto value = ParseLocalNumber(text, locale)) {
+    Require(number.value && same(*number.value, *value), "the locale does not decide first");
+  }
+  Require(!number.value || (expression.value && same(*number.value, *expression.value)),
+          "a number is another expression");
 }
 
 void CheckBlock(std::string_view text, const QLocale& locale) {
@@ -45,6 +64,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   static const QLocale locales[] = {
       QLocale::c(),
       QLocale(QStringLiteral("de")),
+      QLocale(QStringLiteral("fr")),
+      QLocale(QStringLiteral("hi")),
       QLocale(QStringLiteral("sv")),
       QLocale(QStringLiteral("fa")),
       QLocale(QStringLiteral("ar_EG")),

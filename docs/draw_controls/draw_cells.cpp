@@ -3,6 +3,7 @@
 #include <QtTest/QTest>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "pictures.h"
 #include "qorvex/base_controls/float_edit.h"
@@ -24,6 +25,14 @@ std::unique_ptr<QWidget> Cells() {
   cell("DecimalPlaces 4", new TQorFloatEdit, third);
   cell("FullAccuracy", new TQorFloatEdit, third)->setFullAccuracy(true);
   cell("TrimTrailingZeroes", new TQorFloatEdit, 2.5L)->setTrimTrailingZeroes(true);
+  const std::pair<const char*, qorvex::NumberSettings::Format> formats[] = {
+      {"NumberFormat nfSignificant", qorvex::NumberSettings::nfSignificant},
+      {"nfScientific", qorvex::NumberSettings::nfScientific},
+      {"nfGeneral", qorvex::NumberSettings::nfGeneral}};
+  for (const auto& [label, format] : formats) {
+    cell(label, new TQorFloatEdit, 0.00125L)->setNumberFormat(format);
+  }
+  cell("Grouping", new TQorFloatEdit, 1234567.5L)->setGrouping(true);
   TQorFloatEdit* const german = cell("German locale", new TQorFloatEdit, -1234.5L);
   german->setLocale(QLocale(QLocale::German));
   cell("NullStr", new TQorFloatEdit, std::numeric_limits<long double>::quiet_NaN())

@@ -29,10 +29,12 @@ const struct {
   std::unique_ptr<QWidget> (*make)();
 } kPictures[] = {
     {"cells", Cells},
+    {"form", WeighingForm},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
     {"matrix_layout", MatrixLayouts},
+    {"models", Models},
     {"vector_edit", VectorEdits},
 };
 

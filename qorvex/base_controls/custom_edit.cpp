@@ -2,12 +2,16 @@
 
 #include <QApplication>
 #include <QCoreApplication>
+#include <QDebug>
 #include <QKeyEvent>
 #include <QRegularExpression>
 #include <cmath>
 #include <limits>
 
+#include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base_controls/detail/cell_colors.h"
+#include "qorvex/base_controls/detail/digit_groups.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/base_controls/detail/same_element.h"
 
@@ -29,6 +33,27 @@ TQorCustomEdit::~TQorCustomEdit() = default;
 
 void TQorCustomEdit::setValue(Extended value) {
   Show(value, true, false);
+}
+
+QString TQorCustomEdit::ValueText() const {
+  const Extended value = Pending() ? Read(text()).value.value_or(value_) : value_;
+  return std::isnan(value) ? QString() : QString::fromStdString(Float2Str(value));
+}
+
+void TQorCustomEdit::setValueText(const QString& text) {
+  Extended value = kNull;
+  try {
+    if (!text.isEmpty()) value = Str2Float(text.toStdString());
+  } catch (const EConvertError& error) {
+    qWarning().noquote() << objectName() + ": " + QString::fromUtf8(error.what());
+    return;
+  }
+  const auto typed = Pending() ? Read(this->text()).value : std::nullopt;
+  if (typed && detail::SameElement(*typed, value)) {
+    Commit();
+  } else {
+    setValue(value);
+  }
 }
 
 void TQorCustomEdit::Refresh(Extended value) {
@@ -61,6 +86,10 @@ void TQorCustomEdit::setNull(bool null) {
   if (null != Null()) setValue(null ? kNull : 0);
 }
 
+bool TQorCustomEdit::ShowsNumber() const {
+  return has_value_ && !Null() && !(value_ == 0 && BlankWhenZero());
+}
+
 QString TQorCustomEdit::ShownText() const {
   return has_value_ ? TextFor(value_) : QString();
 }
@@ -75,21 +104,23 @@ bool TQorCustomEdit::Commit() {
     Restore();
     return true;
   }
-  const std::optional<Extended> parsed = Parsed(text());
-  if (!parsed) {
+  const CellReading reading = Read(text());
+  if (!reading.value) {
+    refusal_ = reading.refusal;
     Mark(true);
     return false;
   }
-  const bool same = detail::SameElement(*parsed, value_);
+  const Extended value = *reading.value;
+  const bool same = detail::SameElement(value, value_);
   if (!same && StoreElsewhere) {
     // No longer pending: what follows may redisplay the cell.
     setModified(false);
     // A copy, since the cell may be dropped meanwhile.
     const auto store = StoreElsewhere;
-    store(*parsed);
+    store(value);
     return true;
   }
-  setValue(*parsed);
+  setValue(value);
   if (same) return true;
   if (Null()) Q_EMIT OnNull();
   Q_EMIT Changed();
@@ -101,11 +132,14 @@ void TQorCustomEdit::Restore() {
   Mark(false);
 }
 
-std::optional<Extended> TQorCustomEdit::Parsed(const QString& text) const {
+CellReading TQorCustomEdit::Read(const QString& text) const {
   const QString trimmed = text.trimmed();
   if (trimmed.isEmpty() || trimmed == NullStr()) {
-    if (AllowKbdNull()) return kNull;
-    if (trimmed.isEmpty()) return BlankWhenZero() ? std::optional<Extended>(0) : std::nullopt;
+    if (AllowKbdNull()) return {kNull, {}};
+    if (trimmed.isEmpty()) {
+      if (BlankWhenZero()) return {0, {}};
+      return {{}, QCoreApplication::translate("TQorCustomEdit", "A number is missing.")};
+    }
   }
   return ValueOf(trimmed);
 }
@@ -138,8 +172,7 @@ void TQorCustomEdit::DoColorSetChange() {
 void TQorCustomEdit::Mark(bool invalid) {
   if (invalid != invalid_) {
     invalid_ = invalid;
-    setAccessibleDescription(invalid ? QCoreApplication::translate("TQorCustomEdit", "Not a number")
-                                     : QString());
+    setAccessibleDescription(invalid ? refusal_ : QString());
   }
   ApplyColors();
 }
@@ -161,29 +194,29 @@ void TQorCustomEdit::ApplyColors() {
     background =
         pick(colors.invalid_background, dark ? QColor(0x5c, 0x14, 0x14) : QColor(0xff, 0xda, 0xd6));
   }
-  if (text == applied_text_ && background == applied_background_) return;
-  applied_text_ = text;
-  applied_background_ = background;
-  // Only the roles that differ are set, so the others follow the application's palette.
-  QPalette palette;
-  if (text.isValid()) palette.setColor(QPalette::Text, text);
-  if (background.isValid()) palette.setColor(QPalette::Base, background);
-  setPalette(palette);
+  if (!colors_) {
+    if (!text.isValid() && !background.isValid()) return;
+    colors_ = std::make_unique<detail::CellColors>();
+  }
+  colors_->Show(*this, text, background);
 }
 
 QString TQorCustomEdit::ShorterText() const {
   // A null is not shown as a number.
   if (Null()) return TextCell::ShorterText();
-  const auto local = [this](std::string_view text) { return detail::LocalNumber(text, locale()); };
+  const auto local = [this](std::string_view text) {
+    const QString number = detail::LocalNumber(text, locale());
+    return Grouping() ? detail::WithGroups(number, locale()) : number;
+  };
   return local(FittedFloatText(
       value_, Digits(), [this, local](std::string_view text) { return HasRoom(local(text)); }));
 }
 
 QString TQorCustomEdit::Tip() const {
   if (!invalid_) return TextCell::Tip();
-  return QCoreApplication::translate("TQorCustomEdit",
-                                     "\"%1\" is not a number. Escape brings back the value.")
-      .arg(text());
+  return QCoreApplication::translate("TQorCustomEdit", "%1 Escape brings back the value.",
+                                     "a sentence that says why a text is refused")
+      .arg(refusal_);
 }
 
 void TQorCustomEdit::changeEvent(QEvent* event) {
@@ -191,6 +224,7 @@ void TQorCustomEdit::changeEvent(QEvent* event) {
   if (event->type() == QEvent::LocaleChange) ShowAnew();
   // The colours of the mark depend on the palette around the cell.
   if (event->type() == QEvent::PaletteChange && invalid_) ApplyColors();
+  if (event->type() == QEvent::StyleChange && colors_) colors_->StyleChanged(*this);
 }
 
 void TQorCustomEdit::focusInEvent(QFocusEvent* event) {

@@ -5,16 +5,22 @@
 
 #include <QString>
 #include <functional>
-#include <optional>
+#include <memory>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
 #include "qorvex/base/fitted_text.h"
 #include "qorvex/base_controls/cell_properties.h"
+#include "qorvex/base_controls/cell_reading.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/base_controls/unit.h"
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
+/// @cond internal
+namespace detail {
+class CellColors;
+}  // namespace detail
+/// @endcond
 
 /// A text cell around an 80-bit value.
 ///
@@ -26,13 +32,17 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 /// NaN is null: it shows as NullStr, and if AllowKbdNull is set, an empty text or NullStr commits
 /// it. Otherwise an empty text is 0 in a cell with BlankWhenZero, and not a number in others.
 ///
-/// Numbers are written and read in the widget's locale, without group separators; the decimal key
-/// of the keypad types the decimal separator of the locale.
+/// Numbers are written and read in the widget's locale; the decimal key of the keypad types the
+/// decimal separator of the locale. What the locale does not read is read if its separators leave
+/// no doubt: "1,234.50", "1.234,50" and "1,234,567" are numbers everywhere, "1,234" is refused in
+/// English. text() has no group separators; if Grouping is set, they are painted while the cell is
+/// not being edited.
 ///
 /// A number that is wider than the cell is painted with fewer digits, or as kNoRoom: see
 /// FittedFloatText.
 class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Q_OBJECT
+  Q_PROPERTY(QString Value READ ValueText WRITE setValueText NOTIFY Changed USER true)
 
  public:
   ~TQorCustomEdit() override;
@@ -45,6 +55,16 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// The value. Setting it discards what has been typed and raises no signal.
   [[nodiscard]] Extended Value() const noexcept { return value_; }
   void setValue(Extended value);
+  /// @}
+
+  /// @{
+  /// The value as the shortest text that Str2Float reads as the same value; empty for null. This is
+  /// the property for a QDataWidgetMapper, which asks for it before the cell has lost the focus:
+  /// while a number is being typed, it is the text of that number, and setting it to that number
+  /// commits it. Another value is set by setValue. A text that is not a number changes nothing; it
+  /// is reported with qWarning.
+  [[nodiscard]] QString ValueText() const;
+  void setValueText(const QString& text);
   /// @}
 
   /// Shows a value that may have changed elsewhere, but keeps a text that is being typed.
@@ -63,11 +83,13 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// Makes the text the value. If it is not a number, it is marked, the value stays, and the result
   /// is false.
   bool Commit() override;
+  /// Why Commit has failed last, as a sentence for the user.
+  [[nodiscard]] const QString& Refusal() const noexcept { return refusal_; }
   /// Discards the text and shows the value.
   void Restore() override;
 
-  /// The value of a text, as Commit reads it; nothing if it is not a number.
-  [[nodiscard]] std::optional<Extended> Parsed(const QString& text) const;
+  /// What a text means, as Commit reads it.
+  [[nodiscard]] CellReading Read(const QString& text) const;
   /// The text that the cell would show for a value.
   [[nodiscard]] QString TextFor(Extended value) const;
   /// The text of a value with all its digits, for other programs.
@@ -96,8 +118,10 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   [[nodiscard]] virtual QString TextOf(Extended value) const = 0;
   /// The digits of a value whose text does not fit, before it is shortened.
   [[nodiscard]] virtual FloatDigits Digits() const = 0;
-  /// The value of a text that is not blank; nothing if it is not a number.
-  [[nodiscard]] virtual std::optional<Extended> ValueOf(const QString& text) const = 0;
+  /// What a text that is not blank means.
+  [[nodiscard]] virtual CellReading ValueOf(const QString& text) const = 0;
+  /// Whether the text is that of a number: neither null nor blank.
+  [[nodiscard]] bool ShowsNumber() const;
   /// A text of several cells goes to the owner, any other one into the cell.
   void Paste(const QString& text) override;
   [[nodiscard]] QString ShorterText() const override;
@@ -129,10 +153,10 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Extended value_ = 0;
   bool has_value_ = true;
   bool invalid_ = false;
+  QString refusal_;
   QColor special_color_;
-  // The colours of the palette that was set last.
-  QColor applied_text_;
-  QColor applied_background_;
+  // Made when a colour is to be shown.
+  std::unique_ptr<detail::CellColors> colors_;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -1,5 +1,7 @@
 #include "qorvex/base_controls/float_edit.h"
 
+#include "qorvex/base_controls/detail/digit_groups.h"
+#include "qorvex/base_controls/detail/number_reader.h"
 #include "qorvex/base_controls/detail/number_text.h"
 
 namespace qorvex::inline QorvexBaseControls {
@@ -23,8 +25,18 @@ FloatDigits TQorFloatEdit::Digits() const {
   return Settings().number.Digits();
 }
 
-std::optional<Extended> TQorFloatEdit::ValueOf(const QString& text) const {
-  return *convert_ ? (*convert_)(text) : detail::ParseLocalNumber(text, locale());
+CellReading TQorFloatEdit::ValueOf(const QString& text) const {
+  if (*convert_) {
+    const std::optional<Extended> value = (*convert_)(text);
+    return value ? CellReading{value, {}} : detail::NotANumber(text);
+  }
+  return ReadExpressions() ? detail::ReadExpression(text, locale())
+                           : detail::ReadNumber(text, locale());
+}
+
+QString TQorFloatEdit::WholeText() const {
+  if (!Grouping() || !ShowsNumber()) return TQorCustomEdit::WholeText();
+  return detail::WithGroups(TextOf(Value()), locale());
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

@@ -10,12 +10,17 @@
 
 QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 
-/// Reads the text of a cell; nothing if it is not a number. The text is trimmed and not empty.
+/// Reads the text of a cell in place of the cell; nothing if it is not a number. The text is
+/// trimmed and not empty.
 using TQorConvertEvent = std::function<std::optional<Extended>(const QString& text)>;
 
-/// A cell that shows its value with DecimalPlaces decimals, correctly rounded, or with all digits
-/// if FullAccuracy is set. Values from 2^63 on have no decimals and are shown with all digits in
-/// scientific notation.
+/// A cell that shows its value in the notation NumberFormat, correctly rounded: with DecimalPlaces
+/// decimals, or SignificantDigits digits, or with all digits if FullAccuracy is set. Without
+/// decimals are values from 2^63 on; they are shown with all digits in exponent form.
+///
+/// If ReadExpressions is set, it also reads "12%", which is exactly the decimal number 0.12, "(5)"
+/// for -5, and products and quotients such as "2*3" and "1/3". Operations are done from left to
+/// right, in extended precision; there is at most one division, since "1/2/24" may be a date.
 class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
   Q_OBJECT
   /// @{
@@ -50,7 +55,8 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
   [[nodiscard]] FloatDigits Digits() const override;
-  [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
+  [[nodiscard]] CellReading ValueOf(const QString& text) const override;
+  [[nodiscard]] QString WholeText() const override;
 
  private:
   const TQorConvertEvent* convert_ = &OnConvert;

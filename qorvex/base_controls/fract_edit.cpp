@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/base_controls/detail/number_reader.h"
 #include "qorvex/base_controls/detail/number_text.h"
 
 namespace qorvex::inline QorvexBaseControls {
@@ -38,12 +39,13 @@ FloatDigits TQorFractEdit::Digits() const {
   return {.decimals = decimals_, .all = decimals_ >= kMostFractionDecimals};
 }
 
-std::optional<Extended> TQorFractEdit::ValueOf(const QString& text) const {
-  if (const auto decimal = detail::ParseLocalNumber(text, locale())) return decimal;
+CellReading TQorFractEdit::ValueOf(const QString& text) const {
+  const CellReading decimal = detail::ReadNumber(text, locale());
+  if (decimal.value) return decimal;
   try {
-    return Fraction2Float(Str2Fraction(text.toStdString()));
+    return {Fraction2Float(Str2Fraction(text.toStdString())), {}};
   } catch (const EConvertError&) {
-    return std::nullopt;
+    return decimal;
   }
 }
 

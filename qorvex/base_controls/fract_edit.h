@@ -3,8 +3,6 @@
 /// @file
 /// TQorFractEdit, a cell for a mixed fraction.
 
-#include <optional>
-
 #include "qorvex/base/fractions.h"
 #include "qorvex/base_controls/custom_edit.h"
 
@@ -64,7 +62,7 @@ class QORVEX_EXPORT TQorFractEdit : public TQorCustomEdit {
  protected:
   [[nodiscard]] QString TextOf(Extended value) const override;
   [[nodiscard]] FloatDigits Digits() const override;
-  [[nodiscard]] std::optional<Extended> ValueOf(const QString& text) const override;
+  [[nodiscard]] CellReading ValueOf(const QString& text) const override;
 
  private:
   static constexpr int kDefaultDecimals = 9;

@@ -95,8 +95,9 @@ bool TextCell::IsEdited() const {
 }
 
 QString TextCell::PaintedText() const {
-  const QString whole = displayText();
-  return IsEdited() || HasRoom(whole) ? whole : ShorterText();
+  if (IsEdited()) return displayText();
+  const QString whole = WholeText();
+  return HasRoom(whole) ? whole : ShorterText();
 }
 
 QString TextCell::ShorterText() const {
@@ -104,7 +105,7 @@ QString TextCell::ShorterText() const {
 }
 
 QString TextCell::Tip() const {
-  return HasRoom(displayText()) ? QString() : text();
+  return HasRoom(WholeText()) ? QString() : text();
 }
 
 bool TextCell::HasRoom(const QString& text) const {
@@ -142,7 +143,7 @@ void TextCell::paintEvent(QPaintEvent* event) {
   initStyleOption(&frame);
   style()->drawPrimitive(QStyle::PE_PanelLineEdit, &frame, &painter, this);
 
-  // The shorter text is placed where the line edit would place it, in the direction of the text.
+  // The text is placed where the line edit would place it, in the direction of the text.
   QTextLayout layout(painted, font(), this);
   const QTextLine line = LineOf(layout);
   const QFontMetrics metrics = fontMetrics();

@@ -78,6 +78,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   [[nodiscard]] virtual QString ShorterText() const;
   /// Whether a text fits.
   [[nodiscard]] bool HasRoom(const QString& text) const;
+  /// The text that is painted while it is not being edited, if it fits: by default the text.
+  [[nodiscard]] virtual QString WholeText() const { return displayText(); }
   /// The text of the tool tip: the whole text if it does not fit; empty for no tip.
   [[nodiscard]] virtual QString Tip() const;
   /// Between Entered and Left.

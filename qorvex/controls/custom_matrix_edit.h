@@ -96,9 +96,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
 
   /// @{
   /// Whether there are headings in front of the rows and above the columns; off by default. They
-  /// show numbers from 1 on, or what OnGetRowHeading and OnGetColHeading supply. A click on a
-  /// heading selects its row or column. The edge of a column's heading can be dragged, which
-  /// changes the width of the column.
+  /// show numbers from 1 on, the headers of a model, or what OnGetRowHeading and OnGetColHeading
+  /// supply. A click on a heading selects its row or column. The edge of a column's heading can be
+  /// dragged, which changes the width of the column.
   [[nodiscard]] bool RowHeadings() const noexcept { return HasRowHeadings(); }
   void setRowHeadings(bool on) { ShowRowHeadings(on); }
   void resetRowHeadings() { setRowHeadings(false); }
@@ -153,6 +153,13 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// such element. Setting an element does not affect a text that is being typed.
   [[nodiscard]] Extended Element(quint32 row, quint32 col) const;
   void setElement(quint32 row, quint32 col, Extended value);
+  /// @}
+
+  /// @{
+  /// Inserts and deletes columns as InsertRows and DeleteRows do rows; rsInvalidCol if there is no
+  /// such column.
+  void InsertCols(quint32 col, quint32 count);
+  void DeleteCols(quint32 col, quint32 count);
   /// @}
 
   /// @{
@@ -211,8 +218,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// Supplies the colours of texts at every redisplay; empty by default.
   TQorSpecialColorEvent OnSpecialColor;
   /// @{
-  /// Supply the texts of headings, which also name the elements in messages; numbers from 1 if they
-  /// are empty. Call Redisplay if the texts change.
+  /// Supply the texts of headings, which also name the elements in messages; if they are empty, the
+  /// headers of the model, or numbers from 1. Call Redisplay if the texts change.
   TQorGetHeadingEvent OnGetRowHeading;
   TQorGetHeadingEvent OnGetColHeading;
   /// @}
@@ -226,6 +233,11 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void OnNull(quint32 row, quint32 col);
   /// In virtual mode: store this value.
   void OnSetElement(quint32 row, quint32 col, long double value);
+  /// @{
+  /// In virtual mode: insert or delete columns, and set NoOfCols; see OnInsertRows.
+  void OnInsertCols(quint32 col, quint32 count);
+  void OnDeleteCols(quint32 col, quint32 count);
+  /// @}
   /// DisplayLeftCol is about to become the given column.
   void OnLeftChange(quint32 left);
   /// @{
@@ -253,12 +265,20 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
   [[nodiscard]] quint32 ColCount() const override { return NoOfCols(); }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
-  void Store(quint32 row, quint32 col, Extended value) override;
+  bool Store(quint32 row, quint32 col, Extended value) override;
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
+  [[nodiscard]] bool IsVirtual() const override { return VirtualMode(); }
+  [[nodiscard]] bool CanInsert(CellAxis axis) const override;
+  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
+  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
+                                                   quint32 count) override;
   void VirtualModeChanged() override;
+  void SetSize(quint32 rows, quint32 cols) override;
   /// @}
 
   /// Raises EMathError if there is no such element in a matrix of the given number of columns.
@@ -268,17 +288,25 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   static constexpr int kDefaultColEdits = 3;
   static constexpr int kDefaultRowEdits = 4;
 
-  // Change the numbers of rows and columns without the events.
+  // Change the numbers of rows and columns, with and without the events.
+  void ChangeRows(quint32 rows);
+  void ChangeCols(quint32 cols);
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
   void TrimStore();
+  // The widths and formats of columns move with them.
+  void ReplaceCols(quint32 first, quint32 removed, quint32 inserted);
+  void ColsReplaced();
+  // Makes room in the store for lines of a value.
+  void InsertIntoStore(CellAxis axis, quint32 first, quint32 count, Extended value);
   // The store, extended to all rows and columns.
   TQorFloatMatrix& FullStore();
   // Stores a matrix that shares no memory with another one.
   void Take(TQorFloatMatrix matrix);
   void ExchangeStore(TQorFloatMatrix& other);
   // Runs a command on the matrix that can be undone.
-  void MatrixCommand(const std::function<void(TQorFloatMatrix& matrix)>& command);
+  void MatrixCommand(const QString& text,
+                     const std::function<void(TQorFloatMatrix& matrix)>& command);
 
   // Elements beyond its ends are 0.
   TQorFloatMatrix store_;

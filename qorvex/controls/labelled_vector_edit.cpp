@@ -8,6 +8,7 @@
 
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/text_cell.h"
+#include "qorvex/controls/detail/shift_keys.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexVectorEdit {
@@ -88,7 +89,9 @@ QString TQorLabelledVectorEdit::Label(quint32 row) const {
     case ltSupplied:
       break;
   }
-  return OnGetLabel ? OnGetLabel(row) : QString::fromStdString(Int2EStr(row));
+  if (OnGetLabel) return OnGetLabel(row);
+  return Model() ? Parts().model.Heading(row, Qt::Vertical)
+                 : QString::fromStdString(Int2EStr(row));
 }
 
 void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {
@@ -135,10 +138,8 @@ void TQorLabelledVectorEdit::Sort() {
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto before = std::make_shared<std::map<quint32, QString>>(custom_labels_);
-    Parts().history.ExtendCommand([this, before] {
-      std::swap(custom_labels_, *before);
-      Redisplay();
-    });
+    const auto bytes = static_cast<qint64>(before->size() * sizeof(*before->begin()));
+    Parts().history.ExtendCommand(bytes, [this, before] { std::swap(custom_labels_, *before); });
     SortCustomLabels();
   }
 }
@@ -151,11 +152,30 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
       const QString label = CustomLabel(first);
       SetCustomLabel(first, CustomLabel(second));
       SetCustomLabel(second, label);
-      Redisplay();
     };
     swap();
-    Parts().history.ExtendCommand(swap);
+    Parts().history.ExtendCommand(0, swap);
   }
+}
+
+void TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                         Extended value) {
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  TQorVectorEdit::InsertLines(axis, first, count, value);
+  if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, 0, count);
+}
+
+void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  TQorVectorEdit::RemoveLines(axis, first, count);
+  if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, count, 0);
+}
+
+std::function<void()> TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
+  auto labels = QorvexControls::detail::EntriesOf(custom_labels_, first, count);
+  return [this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); };
 }
 
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
@@ -186,7 +206,10 @@ TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* pa
 
 void TQorLabelledVectorEdit::ChangeLabel(quint32 row_edit, const QString& text) {
   const quint32 row = Rows().Top() + row_edit;
-  if (row >= NoOfRows()) return;
+  if (row >= NoOfRows()) {
+    Redisplay();
+    return;
+  }
   const QString before = Label(row);
   setLabel(row, text);
   if (Label(row) != before) {
@@ -214,7 +237,9 @@ void TQorLabelledVectorEdit::ApplyTo(TextCell& label, const CellSettings& settin
 
 void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool used) {
   const quint32 row = Rows().Top() + row_edit;
-  static_cast<LabelCell&>(label).Show(used ? Label(row) : QString());
+  // A star marks the spare row.
+  const QString text = row < NoOfRows() ? Label(row) : QString(QorvexControls::detail::kSpareMark);
+  static_cast<LabelCell&>(label).Show(used ? text : QString());
   label.setEnabled(used);
 }
 

@@ -41,7 +41,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   enum TQorLabelType {
     ltCustom,    ///< The labels that are stored here; rows without one have an empty label.
     ltNumbered,  ///< The row's index plus LabelNumOffSet.
-    ltSupplied   ///< OnGetLabel, or the row's index if it is empty.
+    ltSupplied   ///< OnGetLabel; if it is empty, the header of the model, or the row's index.
   };
   Q_ENUM(TQorLabelType)
 
@@ -112,6 +112,13 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   [[nodiscard]] QString RowHeading(quint32 row) const override { return Label(row); }
   /// The name of the cell in a vector edit, preceded by the label of its row.
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
+  /// @{
+  /// Custom labels move with their rows; those of deleted rows come back with them.
+  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
+  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
+                                                   quint32 count) override;
+  /// @}
 
  private:
   class LabelCell;

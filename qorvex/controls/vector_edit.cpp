@@ -1,20 +1,16 @@
 #include "qorvex/controls/vector_edit.h"
 
 #include <QCoreApplication>
+#include <QMetaMethod>
 #include <algorithm>
 #include <limits>
-#include <memory>
 #include <stdexcept>
 #include <utility>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/base/swap.h"
 #include "qorvex/base_controls/detail/same_element.h"
-#include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/detail/array_lines.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
-#include "qorvex/vector/building.h"
-#include "qorvex/vector/sorting.h"
-#include "qorvex/vector/transforms.h"
 
 namespace qorvex::inline QorvexVectorEdit {
 
@@ -38,13 +34,32 @@ void TQorVectorEdit::setNoOfEdits(int edits) {
 }
 
 quint32 TQorVectorEdit::NoOfRows() const noexcept {
-  return Rows().Count();
+  return Parts().rows.Count();
 }
 
 void TQorVectorEdit::setNoOfRows(quint32 rows) {
+  if (Model() != nullptr) {
+    Parts().model.SetRowCount(rows);
+  } else {
+    SetSize(rows, 1);
+  }
+}
+
+void TQorVectorEdit::SetSize(quint32 rows, quint32) {
   if (rows == NoOfRows()) return;
   Resize(rows);
   Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+int TQorVectorEdit::ModelColumn() const noexcept {
+  return Parts().model.FirstCol();
+}
+
+void TQorVectorEdit::setModelColumn(int column) {
+  Parts().focus.CommitPending();
+  Parts().history.Forget();
+  Parts().model.SetFirstCol(std::max(column, 0));
+  Redisplay();
 }
 
 void TQorVectorEdit::Resize(quint32 rows) {
@@ -74,12 +89,14 @@ void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
     throw std::length_error("A vector edit has at most 4294967295 rows");
   }
   const TQorFloatVector copy{std::span<const Extended>(vector)};
-  const quint32 rows_before = NoOfRows();
   const Update update(*this);
   Parts().focus.CommitUnless([&](quint32 row, quint32 col) {
     return row < copy.size() && SameElement(copy[row], Value(row, col));
   });
-  Resize(static_cast<quint32>(copy.size()));
+  const auto rows = static_cast<quint32>(copy.size());
+  if (Model() != nullptr) setNoOfRows(rows);
+  const quint32 rows_before = NoOfRows();
+  if (Model() == nullptr) Resize(rows);
   if (VirtualMode()) {
     for (quint32 row = 0; row < std::min<std::size_t>(NoOfRows(), copy.size()); ++row) {
       Store(row, 0, copy[row]);
@@ -116,16 +133,23 @@ void TQorVectorEdit::setEditFocus(quint32 edit) {
 }
 
 Extended TQorVectorEdit::Value(quint32 row, quint32) const {
+  if (Model() != nullptr) return Parts().model.Value(row, 0);
   if (VirtualMode()) return OnGetElement ? OnGetElement(row) : static_cast<Extended>(row);
   return row < store_.size() ? std::as_const(store_)[row] : 0;
 }
 
-void TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
+bool TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
+  if (Model() != nullptr) return Parts().model.Store(row, 0, value);
   if (VirtualMode()) {
     Q_EMIT OnSetElement(row, value);
   } else if (row < NoOfRows()) {
     FullStore()[row] = value;
   }
+  return true;
+}
+
+bool TQorVectorEdit::IsReadOnly(quint32 row, quint32 col) const {
+  return Parts().model.IsReadOnly(row, col);
 }
 
 void TQorVectorEdit::Notify(CellEvent event, quint32 row, quint32) {
@@ -157,69 +181,47 @@ QColor TQorVectorEdit::SpecialColor(quint32, quint32, Extended) const {
   return {};
 }
 
+bool TQorVectorEdit::CanInsert(CellAxis axis) const {
+  return axis == CellAxis::kRows &&
+         (!VirtualMode() || isSignalConnected(QMetaMethod::fromSignal(&CellPanel::OnInsertRows)));
+}
+
+void TQorVectorEdit::InsertLines(CellAxis, quint32 first, quint32 count, Extended value) {
+  if (VirtualMode()) {
+    Q_EMIT OnInsertRows(first, count);
+    return;
+  }
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  // Zeros at the end need no memory.
+  if (first < store_.size() || value != 0) {
+    if (store_.size() < first) store_.SetLength(first);
+    store_.resize(store_.size() + count, value);
+    QorvexControls::detail::MoveLastTo(store_, first, count);
+  }
+  SetCount(Parts().rows, NoOfRows() + count);
+  Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+void TQorVectorEdit::RemoveLines(CellAxis, quint32 first, quint32 count) {
+  if (VirtualMode()) {
+    Q_EMIT OnDeleteRows(first, count);
+    return;
+  }
+  Parts().focus.CommitPending();
+  const Update update(*this);
+  SetCount(Parts().rows, NoOfRows() - count);
+  // After the handlers, which may still read the elements that go.
+  QorvexControls::detail::Remove(store_, first, count);
+  Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+std::function<void()> TQorVectorEdit::KeepLineData(CellAxis, quint32, quint32) {
+  return {};
+}
+
 void TQorVectorEdit::VirtualModeChanged() {
   if (!VirtualMode()) TrimStore();
-}
-
-void TQorVectorEdit::VectorCommand(const std::function<void()>& command) {
-  Command([&] {
-    const auto before = std::make_shared<TQorFloatVector>(std::span<const Extended>(FullStore()));
-    command();
-    Parts().history.RecordCommand([this, before] {
-      std::swap(store_, *before);
-      Redisplay();
-    });
-  });
-}
-
-void TQorVectorEdit::Clear() {
-  VectorCommand([this] { ClearVector(store_); });
-}
-
-void TQorVectorEdit::Fill(Extended value) {
-  VectorCommand([this, value] { FillVector(store_, value); });
-}
-
-void TQorVectorEdit::Invert() {
-  VectorCommand([this] { InvVector(store_); });
-}
-
-void TQorVectorEdit::Sqr() {
-  VectorCommand([this] { SquareVector(store_); });
-}
-
-void TQorVectorEdit::Sqrt() {
-  VectorCommand([this] { SqrtVector(store_); });
-}
-
-void TQorVectorEdit::Ln() {
-  VectorCommand([this] { LnVector(store_); });
-}
-
-void TQorVectorEdit::Log10() {
-  VectorCommand([this] { Log10Vector(store_); });
-}
-
-void TQorVectorEdit::LinearTransform(Extended slope, Extended intercept) {
-  VectorCommand([=, this] { LinearTransformVector(store_, slope, intercept); });
-}
-
-void TQorVectorEdit::Sort() {
-  VectorCommand([this] { QSortVector(store_, true); });
-}
-
-void TQorVectorEdit::SwapElements(quint32 first, quint32 second) {
-  Parts().focus.CommitPending();
-  CheckRow(first);
-  CheckRow(second);
-  Command([=, this] {
-    const auto swap = [=, this] { SwapXY(FullStore()[first], FullStore()[second]); };
-    swap();
-    Parts().history.RecordCommand([this, swap] {
-      swap();
-      Redisplay();
-    });
-  });
 }
 
 void TQorVectorEdit::CopyRows(quint32 first, quint32 count) {

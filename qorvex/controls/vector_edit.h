@@ -127,6 +127,12 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   /// element. In virtual mode it checks the rows and redisplays.
   virtual void SwapElements(quint32 first, quint32 second);
 
+  /// @{
+  /// The column of the model that is shown; 0 by default. Negative columns count as 0.
+  [[nodiscard]] int ModelColumn() const noexcept;
+  void setModelColumn(int column);
+  /// @}
+
   /// Copies a part of the vector to the clipboard, as CopyAll does. Rows beyond the end are left
   /// out.
   void CopyRows(quint32 first, quint32 count);
@@ -160,12 +166,20 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
   [[nodiscard]] quint32 ColCount() const override { return 1; }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
-  void Store(quint32 row, quint32 col, Extended value) override;
+  bool Store(quint32 row, quint32 col, Extended value) override;
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
+  [[nodiscard]] bool IsVirtual() const override { return VirtualMode(); }
+  [[nodiscard]] bool CanInsert(CellAxis axis) const override;
+  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
+  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
+                                                   quint32 count) override;
   void VirtualModeChanged() override;
+  void SetSize(quint32 rows, quint32 cols) override;
   /// @}
 
   /// Raises EMathError if there is no such element.
@@ -175,7 +189,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   static constexpr int kDefaultEdits = 4;
 
   // A command on the store that can be undone.
-  void VectorCommand(const std::function<void()>& command);
+  void VectorCommand(const QString& text, const std::function<void()>& command);
 
   // Changes the number of rows without the event.
   void Resize(quint32 rows);

@@ -1,5 +1,7 @@
 #include "qorvex/base/fitted_text.h"
 
+#include <algorithm>
+#include <cctype>
 #include <random>
 #include <tuple>
 
@@ -23,21 +25,26 @@ Case RandomCase(std::mt19937_64& engine) {
   if (engine() % 8 == 0) {
     value = std::pow(10.0L, static_cast<int>(engine() % 9) - 4) * (1 - 0x1p-20L);
   }
-  return {value,
+  // A zero has no sign.
+  return {value + 0.0L,
           {.decimals = static_cast<int>(engine() % 12),
            .all = engine() % 4 == 0,
-           .trim = engine() % 2 == 0}};
+           .trim = engine() % 2 == 0,
+           .format = static_cast<TQorNumberFormat>(engine() % 4),
+           .significant = 1 + static_cast<int>(engine() % 12)}};
 }
 
 // Tries all texts, from the longest to the shortest.
 std::string FirstThatFits(const Case& c, std::size_t length) {
   const std::string whole = FloatText(c.value, c.digits);
   const auto trimmed = [&](const std::string& text) {
-    return c.digits.trim ? StripTChStr(text, '0') : text;
+    return c.digits.trim || c.digits.format == nfGeneral ? StripTChStr(text, '0') : text;
   };
   const std::string digits = whole.substr(0, whole.find('e'));
   const std::size_t point = std::min(digits.find('.'), digits.size());
-  const std::size_t first = std::min(digits.find_first_of("123456789"), digits.size());
+  // Of a zero in exponent form all digits count.
+  const bool any = c.value == 0 && digits != whole;
+  const std::size_t first = std::min(digits.find_first_of(any ? "0" : "123456789"), digits.size());
   std::vector<std::string> texts{whole};
   if (digits == whole && point != digits.size()) {
     // The first digit that is not zero stays.
@@ -72,6 +79,46 @@ TEST(FittedFloatText, HasAllTheDigitsThatFit) {
   }
 }
 
+// Without the plus sign and the leading zeros of an exponent, and without a last point.
+std::string AsWritten(const char* format, int digits, Extended value) {
+  char text[400];
+  std::snprintf(text, sizeof text, format, digits, value);
+  const std::string number = text;
+  const auto e = std::min(number.find('e'), number.size());
+  std::string mantissa = number.substr(0, e);
+  if (mantissa.ends_with('.')) mantissa.pop_back();
+  return e == number.size() ? mantissa
+                            : mantissa + 'e' + std::to_string(std::stoi(number.substr(e + 1)));
+}
+
+TEST(FloatText, HasTheSignificantDigitsOfPrintf) {
+  const auto seed = std::random_device{}();
+  SCOPED_TRACE(seed);
+  std::mt19937_64 engine(seed);
+  for (int i = 0; i < 3'000; ++i) {
+    // Zero, ties, and numbers that get another exponent by rounding.
+    Extended value = i == 0 ? 0 : RandomCase(engine).value;
+    if (i % 5 == 1) value = std::pow(10.0L, static_cast<int>(engine() % 40) - 20) * 0.99999996L;
+    const int n = 1 + static_cast<int>(engine() % 22);
+    const auto text = [&](TQorNumberFormat format) {
+      return FloatText(value, {.format = format, .significant = n});
+    };
+    const std::string general = AsWritten("%.*Lg", n, value);
+    ASSERT_EQ(text(nfGeneral), general);
+    // The same with n digits. (printf may lose some of them in exponent form.)
+    const std::string significant = text(nfSignificant);
+    const auto e = std::min(significant.find('e'), significant.size());
+    ASSERT_EQ(StripTChStr(significant.substr(0, e), '0') + significant.substr(e), general);
+    const auto first = std::min(significant.find_first_of("123456789"), e);
+    const auto count = std::ranges::count_if(significant.substr(first, e - first), isdigit);
+    ASSERT_EQ(count, value == 0 ? 0 : n) << significant;
+    ASSERT_EQ(text(nfScientific), AsWritten("%.*Le", n - 1, value));
+    const std::string all = FloatText(value, {.all = true, .format = nfScientific});
+    ASSERT_EQ(Str2Float(all), value);
+    ASSERT_TRUE(value == 0 || all.find('e') != std::string::npos) << all;
+  }
+}
+
 // What the random numbers do not reach.
 TEST(FittedFloatText, TakesExponentFormThenTheMarkForUnusualNumbers) {
   const std::tuple<Extended, FloatDigits, std::size_t, const char*> cases[] = {
@@ -83,6 +130,12 @@ TEST(FittedFloatText, TakesExponentFormThenTheMarkForUnusualNumbers) {
       {0x1p63L, {}, 30, "9223372036854775808"},
       {0x1p64L, {}, 10, "1.84467e19"},
       {1e-200L, {.decimals = 255}, 7, "1e-200"},
+      {-0.0L, {.format = nfScientific}, 20, "0.00000e0"},
+      {-0.0L, {.format = nfScientific}, 5, "0.0e0"},
+      {-0.0L, {.format = nfSignificant}, 4, "0.00"},
+      {0x1p70L, {.format = nfGeneral, .significant = 0}, 30, "1e21"},
+      {-kInfinity, {.format = nfScientific}, 4, "-inf"},
+      {kNaN, {.all = true, .format = nfScientific}, 4, "nan"},
       {-kInfinity, {}, 4, "-inf"},
       {kInfinity, {}, 2, "##"},
   };

@@ -56,7 +56,7 @@ TEST_F(BlockPaste, RefusesAWholeTextWithAReason) {
   expect_refusal("1\n2\n3\n4", "The block does not fit. Its rows: 4, rows from here on: 3.");
   expect_refusal("1\t2", "The block does not fit. Its columns: 2, columns from here on: 1.");
   editor->setAllowKbdNull(false);
-  expect_refusal("1\n\n2", "Row 3: \"\" is not a number.");
+  expect_refusal("1\n\n2", "Row 3: A number is missing.");
   editor->setReadOnly(true);
   expect_refusal("1\n2", "These values cannot be changed.");
   EXPECT_EQ(Texts(), "0.0000|1.0000|2.0000|3.0000");

@@ -88,7 +88,7 @@ TYPED_TEST(Cells, MarkInvalidTextAndNeverStoreIt) {
   const QColor base = edit->palette().color(QPalette::Base);
   this->Enter("12x");
   EXPECT_EQ(edit->text(), "12x");
-  EXPECT_EQ(edit->accessibleDescription(), "Not a number");
+  EXPECT_EQ(edit->accessibleDescription(), "\"12x\" is not a number.");
   EXPECT_NE(edit->palette().color(QPalette::Base), base);
   this->Press(Qt::Key_Backspace);
   EXPECT_TRUE(edit->accessibleDescription().isEmpty()) << "the text is another one";

@@ -85,6 +85,15 @@ TYPED_TEST(Forms, TabReachesEveryElementAndLeaves) {
   this->Press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_TRUE(this->before->hasFocus());
   EXPECT_EQ(this->Take().find("in"), std::string::npos) << "at once";
+  // Qt moves the focus on from what is hidden or disabled, but that is not the tab key.
+  const quint32 top = this->editor->DisplayTopRow();
+  for (const char* const state : {"visible", "enabled"}) {
+    this->FocusEdit(3);
+    this->editor->setProperty(state, false);
+    EXPECT_EQ(this->editor->DisplayTopRow(), top) << state;
+    EXPECT_FALSE(this->editor->hasFocus());
+    this->editor->setProperty(state, true);
+  }
 
   this->editor->setTabStop(false);
   EXPECT_EQ(this->Walk(true) + this->Walk(false), "");

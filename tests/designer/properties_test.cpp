@@ -24,7 +24,7 @@ const std::string kState = " Null=false" + kNullStr + " ReadOnly=false";
 const std::string kNumbers =
     " NumberFormat=0 SignificantDigits=6 Grouping=false ReadExpressions=false";
 // What all editors publish after their own properties.
-const std::string kPanel = kNumbers + " AutoEdits=false";
+const std::string kPanel = kNumbers + " AutoEdits=false CanGrow=false UndoLimit=67108864";
 
 const std::string kVectorEdit =
     "UICtrl= UIUsage=15" + kColors + " " + kFormat + kCell +
@@ -49,9 +49,9 @@ TEST(PublishedProperties, HaveTheirOrderAndDefaults) {
   EXPECT_EQ(PropertyTable(TQorMatrixFractEdit()),
             kMatrixEdit + " FractionDisplay=0 DecimalsFract=9");
   EXPECT_EQ(PropertyTable(TQorFloatEdit()),
-            kFormat + kCell + " DecimalPlaces=4" + kState + kColors + kNumbers);
+            "Value=0 " + kFormat + kCell + " DecimalPlaces=4" + kState + kColors + kNumbers);
   EXPECT_EQ(PropertyTable(TQorFractEdit()),
-            kCell.substr(1) + " DecimalsFract=9 FractionDisplay=0" + kState + kColors);
+            "Value=0" + kCell + " DecimalsFract=9 FractionDisplay=0" + kState + kColors);
   EXPECT_EQ(PropertyTable(TQorUICtrlHolder()), kFormat + kAlignment + " DecimalPlaces=4" + kNulls +
                                                    kNullStr + kSelection + kColors + kNumbers);
 }

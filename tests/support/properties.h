@@ -36,7 +36,10 @@ inline QVariant ChangedValue(const QMetaProperty& property, const QVariant& valu
   const int type = property.typeId();
   if (type == QMetaType::Bool) return !value.toBool();
   if (type == QMetaType::Int) return number + 1;
+  if (type == QMetaType::LongLong) return value.toLongLong() + 1;
   if (type == QMetaType::UInt) return value.toUInt() + 20;  // More rows than cells.
+  // The user's property of a cell is a number.
+  if (property.isUser()) return QStringLiteral("25");
   if (type == QMetaType::QString) return value.toString() + "changed";
   if (type == QMetaType::QStringList) return value.toStringList() + QStringList{"1.5", "2.25"};
   return type == QMetaType::QColor ? QColor(1, 2, 3) : QVariant();
@@ -58,7 +61,7 @@ inline std::vector<QMetaProperty> Published(const QObject* object) {
 inline std::string PropertyTable(const QObject& object) {
   QStringList entries;
   for (const QMetaProperty& property : Published(&object)) {
-    const bool can_be_set = property.isStored() && property.hasStdCppSet();
+    const bool can_be_set = property.isStored() && (property.hasStdCppSet() || property.isUser());
     entries << QString("%1=%2%3").arg(property.name(), ValueText(property, &object),
                                       can_be_set ? "" : "(shown)");
   }

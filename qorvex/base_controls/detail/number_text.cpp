@@ -106,7 +106,7 @@ QString LocalNumber(std::string_view plain, const QLocale& locale) {
   return text;
 }
 
-std::optional<Extended> ParseLocalNumber(const QString& text, const QLocale& locale) {
+std::optional<Extended> ParseLocalNumber(const QString& text, const QLocale& locale, int power) {
   const LocalReader reader(locale);
   const QString trimmed = WithoutDirectionMarks(text).trimmed();
   std::string plain;
@@ -114,6 +114,10 @@ std::optional<Extended> ParseLocalNumber(const QString& text, const QLocale& loc
     const char character = reader.Take(rest);
     if (character == 0) return std::nullopt;
     plain += character;
+  }
+  if (power != 0) {
+    if (plain.find('e') != plain.npos) return std::nullopt;
+    plain += 'e' + std::to_string(power);
   }
   try {
     return Str2Float(plain);

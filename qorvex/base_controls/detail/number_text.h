@@ -28,7 +28,11 @@ namespace qorvex::inline QorvexBaseControls::detail {
 /// it to separate groups. Direction marks are ignored. Group separators are refused: "1,234" is not
 /// a number in English, since the user may mean 1.234. "nan", "inf" and numbers beyond the extended
 /// range are refused too.
+///
+/// The number is multiplied by a power of ten before it is rounded; a text with an exponent is then
+/// refused.
 [[nodiscard]] QORVEX_EXPORT std::optional<Extended> ParseLocalNumber(const QString& text,
-                                                                     const QLocale& locale);
+                                                                     const QLocale& locale,
+                                                                     int power = 0);
 
 }  // namespace qorvex::inline QorvexBaseControls::detail

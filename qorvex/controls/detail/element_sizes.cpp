@@ -20,6 +20,15 @@ void ElementSizes::Reset(std::uint32_t element) {
   own_.erase(element);
 }
 
+std::map<std::uint32_t, int> ElementSizes::OwnSizes(std::uint32_t first,
+                                                    std::uint32_t count) const {
+  return EntriesOf(own_, first, count);
+}
+
+void ElementSizes::SetOwnSizes(const std::map<std::uint32_t, int>& sizes) {
+  own_.insert(sizes.begin(), sizes.end());
+}
+
 void ElementSizes::Replace(std::uint32_t first, std::uint32_t removed, std::uint32_t inserted) {
   ShiftKeys(own_, first, removed, inserted);
 }

@@ -28,6 +28,12 @@ class QORVEX_EXPORT ElementSizes {
   void Set(std::uint32_t element, int size);
   void Reset(std::uint32_t element);
   /// @}
+  /// @{
+  /// The sizes of their own that elements from the first one on have, and such sizes for them.
+  [[nodiscard]] std::map<std::uint32_t, int> OwnSizes(std::uint32_t first,
+                                                      std::uint32_t count) const;
+  void SetOwnSizes(const std::map<std::uint32_t, int>& sizes);
+  /// @}
   /// Elements from the first one on go, and others come in their place.
   void Replace(std::uint32_t first, std::uint32_t removed, std::uint32_t inserted);
 

@@ -27,4 +27,13 @@ void ShiftKeys(std::map<std::uint32_t, T>& kept, std::uint32_t first, std::uint3
   kept.merge(moved);
 }
 
+/// What is kept for the elements from the first one on. O(result).
+template <class T>
+std::map<std::uint32_t, T> EntriesOf(const std::map<std::uint32_t, T>& kept, std::uint32_t first,
+                                     std::uint32_t count) {
+  auto end = kept.lower_bound(first);
+  while (end != kept.end() && end->first - first < count) ++end;
+  return {kept.lower_bound(first), end};
+}
+
 }  // namespace qorvex::inline QorvexControls::detail

@@ -54,8 +54,12 @@ void CellPanel::Build(CellFactory make_cell, int row_edits, int col_edits) {
 }
 
 void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
-  const auto row = [this, place] { return Rows().Top() + place.row; };
-  const auto col = [this, place] { return Cols().Top() + place.col; };
+  const auto row = [this, place] {
+    return parts_->typed_place ? parts_->typed_place->row : Rows().Top() + place.row;
+  };
+  const auto col = [this, place] {
+    return parts_->typed_place ? parts_->typed_place->col : Cols().Top() + place.col;
+  };
   connect(&cell, &TQorCustomEdit::Entered, this, [=, this, &cell] {
     parts_->focus.Enter(cell, place, false);
     table_.Notify(CellEvent::kEnter, row(), col());
@@ -67,7 +71,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::textEdited, this,
           [=, this](const QString& text) { table_.NotifyText(row(), col(), text); });
   connect(&cell, &TQorCustomEdit::Refused, this,
-          [=, this, &cell](const QString& text) { RefuseText(cell, row(), col(), text); });
+          [=, this, &cell] { RefuseText(cell, row(), col(), cell.Refusal()); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
   connect(&cell, &TQorCustomEdit::MenuOpening, this, [=, this](QMenu* menu) {
     AddToMenu(menu);
@@ -78,28 +82,45 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
 }
 
 void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+  if (row >= table_.RowCount()) {
+    AppendRow(cell, row, col, value);
+    return;
+  }
   // The cell may have shown null in place of the element.
   const Extended before = table_.Value(row, col);
+  const detail::ModelLink::Element element(parts_->model, {row, col});
   try {
-    table_.Store(row, col, value);
+    if (!table_.Store(row, col, value)) {
+      cell.Refresh(before);
+      RefuseBlock(detail::NotStored(table_.CellName(row, col), cell.ExactText(value)));
+      return;
+    }
   } catch (const std::bad_alloc&) {
     // A table that is longer than memory allows gets its memory now.
     cell.Refresh(before);
     RefuseBlock(detail::OutOfMemory());
     return;
   }
+  // A model may have sorted the element to another place, or hidden it.
+  const std::optional<detail::CellPlace> place = element.Place();
+  if (!place) return;
   // In virtual mode the program may have stored another value.
-  const Extended now = table_.Value(row, col);
-  cell.Refresh(now);
-  parts_->history.Record({row, col, before}, now);
+  const Extended now = table_.Value(place->row, place->col);
+  if (place == element.Origin()) cell.Refresh(now);
+  parts_->history.Record({place->row, place->col, before});
 }
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
-  const quint32 top = axis.Window().Top();
-  parts_->focus.Keep(axis, count > top ? count - top : 0, [&] { axis.Window().SetCount(count); });
+  SetLines(axis, count, axis.HasSpare());
   axis.ReachWantedTop();
   CountChanged();
   AnnounceSize();
+}
+
+void CellPanel::SetLines(detail::PanelAxis& axis, quint32 count, bool spare) {
+  const quint32 top = axis.Window().Top();
+  const quint32 lines = detail::PanelAxis::Lines(count, spare);
+  parts_->focus.Keep(axis, lines > top ? lines - top : 0, [&] { axis.SetCount(count, spare); });
 }
 
 void CellPanel::FitGrid() {
@@ -110,6 +131,7 @@ void CellPanel::FitGrid() {
 }
 
 void CellPanel::Redisplay() {
+  parts_->model.FetchRow(Rows().Top() + Rows().Edits());
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
   parts_->focus.Lead();
@@ -132,6 +154,7 @@ Qt::FocusPolicy CellPanel::CellFocusPolicy() const {
 
 void CellPanel::SettingsChanged() {
   ApplySettings();
+  FitSpareRow();
 }
 
 void CellPanel::DoColorSetChange() {
@@ -155,6 +178,9 @@ void CellPanel::changeEvent(QEvent* event) {
       break;
     case QEvent::LanguageChange:
       NameBars();
+      Redisplay();
+      break;
+    case QEvent::LocaleChange:
       Redisplay();
       break;
     default:

@@ -3,11 +3,13 @@
 /// @file
 /// CellPanel, the grid of cells that the editors of vectors and matrices share.
 
+#include <QAbstractItemModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/custom_edit.h"
@@ -18,6 +20,9 @@
 #include "qorvex/controls/panel/cell_table.h"
 #include "qorvex/controls/panel/published.h"
 
+class QMenu;
+class QUndoStack;
+
 QORVEX_WIDGET_UNIT(QorvexControls) {
 /// @cond internal
 namespace detail {
@@ -27,6 +32,7 @@ struct CellPlace;
 struct EditWindowEvents;
 struct PanelHeadingEvents;
 struct PanelParts;
+struct TypedMove;
 enum class CurrentRule;
 }  // namespace detail
 /// @endcond
@@ -124,9 +130,24 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @{
   /// Whether the elements are requested and passed on one by one instead of being stored here;
   /// false by default. Leaving the mode shows the elements that were stored before it.
-  [[nodiscard]] bool VirtualMode() const noexcept { return virtual_mode_; }
+  [[nodiscard]] bool VirtualMode() const noexcept { return virtual_mode_ || Model() != nullptr; }
   void setVirtualMode(bool on);
   void resetVirtualMode() { setVirtualMode(false); }
+  /// @}
+
+  /// @{
+  /// The model of Qt that supplies and stores the elements; none by default. The editor is in
+  /// virtual mode meanwhile, and its size is the model's; setting the size asks the model to insert
+  /// or remove at its end. Without a model, the editor has its own elements again. The model is not
+  /// owned, and may be deleted at any time.
+  ///
+  /// Cells read and write the role EditRole: numbers, and texts, which are read as plain decimal
+  /// numbers first and then in the locale of the editor. Anything else is shown as null. What is
+  /// written has the type of the number that the item held, if that type can hold the value
+  /// exactly; otherwise it is the shortest decimal text of the value. Null is a variant without a
+  /// value. Items that cannot be edited are read-only.
+  [[nodiscard]] QAbstractItemModel* Model() const noexcept;
+  void setModel(QAbstractItemModel* model);
   /// @}
 
   /// @{
@@ -159,13 +180,62 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void Redisplay() override;
 
   /// @{
-  /// Undoes and redoes the last change by typing, pasting or a command. Typed and pasted elements
-  /// raise OnChange again. A command can be undone until anything else changes, and nothing can be
-  /// undone once the number of elements changes.
-  [[nodiscard]] bool CanUndo() const noexcept;
-  [[nodiscard]] bool CanRedo() const noexcept;
+  /// Undoes and redoes changes, the last one first: what has been typed or pasted, a command, rows
+  /// that were inserted or deleted. Elements that were typed or pasted raise OnChange again.
+  ///
+  /// When the program sets an element, commands and what was done before them can no longer be
+  /// undone, because they hold the whole table. When it sets the size, the whole table or
+  /// VirtualMode, nothing can be undone. In virtual mode no insertion or deletion can be undone.
+  [[nodiscard]] bool CanUndo() const;
+  [[nodiscard]] bool CanRedo() const;
   void Undo();
   void Redo();
+  /// @}
+  /// @{
+  /// How many bytes the steps of undo may hold, 64 MiB by default. Beyond it the oldest ones are
+  /// dropped; the newest one is kept whatever its size. With 0 nothing can be undone.
+  [[nodiscard]] qint64 UndoLimit() const noexcept;
+  void setUndoLimit(qint64 bytes);
+  void resetUndoLimit();
+  /// @}
+  /// @{
+  /// The stack of the steps: one of the program, so that several editors and what else the program
+  /// puts there are undone in one order, or the editor's own for a null pointer, the default. Undo
+  /// and Redo go by the stack, whatever its next command is. Setting one forgets all steps. The
+  /// program keeps it; when it is deleted, the editor returns to its own.
+  ///
+  /// Dropped steps stay on the stack as obsolete commands, which it passes over without effect.
+  [[nodiscard]] QUndoStack* UndoStack() const;
+  void setUndoStack(QUndoStack* stack);
+  /// @}
+
+  /// @{
+  /// Whether the user may make the table longer; false by default. An empty row then follows the
+  /// last one: a value that is typed there becomes a new row. A block that is pasted beyond the end
+  /// appends rows, and columns to a matrix. The menu of a cell inserts and deletes rows and
+  /// columns.
+  ///
+  /// New elements are null if AllowKbdNull is set, otherwise 0. The spare row does not count as a
+  /// row, but it can be the current one: events of cells then name the row after the last. There is
+  /// none while the editor is read-only, nor in virtual mode unless OnInsertRows is handled.
+  [[nodiscard]] bool CanGrow() const noexcept { return can_grow_; }
+  void setCanGrow(bool grow);
+  void resetCanGrow() { setCanGrow(false); }
+  /// @}
+
+  /// @{
+  /// Inserts rows before the given one, or after the last one; deletes rows. One step of undo. New
+  /// elements are null if AllowKbdNull is set, otherwise 0. In virtual mode they only raise
+  /// OnInsertRows and OnDeleteRows. EMathError with rsInvalidRow if there is no such row;
+  /// std::length_error for more than 2^32 - 1 rows. O(elements).
+  void InsertRows(quint32 row, quint32 count);
+  void DeleteRows(quint32 row, quint32 count);
+  /// @}
+  /// @{
+  /// What a user does with the menu while CanGrow is on: inserts rows before the selected ones, as
+  /// many as are selected, or deletes them; columns if whole columns are selected.
+  void InsertSelectedLines();
+  void DeleteSelectedLines();
   /// @}
 
   /// @{
@@ -182,12 +252,23 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnCurrRowChange(quint32 before, quint32 now);
   /// A colour of the set has changed.
   void OnColorSetChange();
-  /// Undo or Redo has restored elements.
+  /// A change has been undone or redone.
   void OnUndo();
+  /// @{
+  /// CanUndo or CanRedo has changed.
+  void OnCanUndoChange(bool can);
+  void OnCanRedoChange(bool can);
+  /// @}
+  /// @{
+  /// In virtual mode: insert rows before the given one, or delete rows, and set NoOfRows. A handler
+  /// that does nothing refuses it.
+  void OnInsertRows(quint32 row, quint32 count);
+  void OnDeleteRows(quint32 row, quint32 count);
+  /// @}
   /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
   /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
-  /// message names element and text.
+  /// message names the element and says why.
   void OnTextRefused(const QString& message);
   /// The menu of the element's cell is about to open: add to it. It is raised as long as the
   /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
@@ -232,6 +313,13 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SetEdits(detail::PanelAxis& axis, int edits);
   void SetCount(detail::PanelAxis& axis, quint32 count);
   /// @}
+  /// @{
+  /// Inserts lines before the given one, or deletes lines: see InsertRows.
+  void InsertLines(CellAxis axis, quint32 first, quint32 count);
+  void DeleteLines(CellAxis axis, quint32 first, quint32 count);
+  /// @}
+  /// Decides whether there is a spare row. Call when CanInsert of the table may have changed.
+  void FitSpareRow();
   /// Makes the missing cells and drops those that are too many.
   void FitGrid();
   /// Makes as many cells as AutoEdits needs, and places the cells, the bars and the corner.
@@ -267,15 +355,30 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
+  void connectNotify(const QMetaMethod& signal) override;
+  void disconnectNotify(const QMetaMethod& signal) override;
   /// @}
 
  private:
   friend struct detail::PanelParts;
+  [[nodiscard]] std::optional<detail::CellPlace> TypedPlace() const;
+  void ModelChanged(const TQorCellRange& range);
+  void ModelMoved(const detail::TypedMove& typed);
+  void ModelDeleted();
+  void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
+  void AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
+  void SetLines(detail::PanelAxis& axis, quint32 count, bool spare);
+  [[nodiscard]] bool MayGrow(CellAxis axis) const;
+  [[nodiscard]] Extended NewElement() const;
+  [[nodiscard]] TQorCellRange SelectedBlock() const;
+  [[nodiscard]] CellAxis AxisOfSelection() const;
+  void ChangeSelectedLines(CellAxis axis, bool insert);
+  void AddHistoryToMenu(QMenu& menu);
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
   void RefuseBlock(const QString& message);
-  void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text);
+  void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason);
   void AddToMenu(QMenu* menu);
   void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
   void FitEdits();
@@ -294,9 +397,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool null_ = false;
   bool tab_stop_ = true;
   bool virtual_mode_ = false;
+  bool can_grow_ = false;
   bool auto_edits_ = false;
   // Qt sends the size when the panel is shown; until then it is not the one that a layout gives.
   bool has_size_ = false;
+  // While there is a model: the size of the table without it.
+  std::optional<TQorCellRange> own_size_;
   std::unique_ptr<detail::PanelParts> parts_;
 };
 

@@ -32,14 +32,18 @@ bool CellPanel::PasteBlock(const QString& text) {
     RefuseBlock(detail::NotChangeable());
     return false;
   }
+  const detail::Growth growth{
+      .rows = MayGrow(CellAxis::kRows), .cols = MayGrow(CellAxis::kCols), .value = NewElement()};
   detail::PasteResult paste =
       detail::PlanPaste(table_, parts_->grid.IsEmpty() ? nullptr : parts_->grid.Cell(0, 0), text,
-                        Rows().Top() + Rows().Focus(), Cols().Top() + Cols().Focus());
+                        Rows().Top() + Rows().Focus(), Cols().Top() + Cols().Focus(), growth);
   if (paste.refusal.isEmpty()) {
-    if (paste.changes.empty()) return true;
+    if (paste.changes.empty() && paste.lines.empty()) return true;
     try {
-      parts_->history.Apply(std::move(paste.changes));
-      return true;
+      if (parts_->history.Apply(paste.lines, std::move(paste.changes), detail::TextOfPaste())) {
+        return true;
+      }
+      paste.refusal = detail::NotChangeable();
     } catch (const std::bad_alloc&) {
       paste.refusal = detail::OutOfMemory();
     }
@@ -68,25 +72,14 @@ void CellPanel::RefuseBlock(const QString& message) {
   Q_EMIT OnBlockRefused(message);
 }
 
-void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& text) {
-  const QString message =
-      QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number. The value stays.",
-                                  "name of a cell, its text")
-          .arg(table_.CellName(row, col), text);
+void CellPanel::RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason) {
+  const QString message = QCoreApplication::translate("CellPanel", "%1: %2 The value stays.",
+                                                      "name of a cell, why its text is refused")
+                              .arg(table_.CellName(row, col), reason);
   // Later, since a change of the focus hides tool tips.
   QMetaObject::invokeMethod(
       &cell, [&cell, message] { ShowTip(cell, message); }, Qt::QueuedConnection);
   Q_EMIT OnTextRefused(message);
-}
-
-void CellPanel::Undo() {
-  parts_->focus.CommitPending();
-  if (parts_->history.Undo()) Q_EMIT OnUndo();
-}
-
-void CellPanel::Redo() {
-  parts_->focus.CommitPending();
-  if (parts_->history.Redo()) Q_EMIT OnUndo();
 }
 
 void CellPanel::Command(const std::function<void()>& command) {
@@ -100,12 +93,7 @@ void CellPanel::AddToMenu(QMenu* menu) {
   menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
                   &CellPanel::CopyAll);
   if (EffectiveSettings().read_only) return;
-  menu->addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
-                  &CellPanel::Undo)
-      ->setEnabled(CanUndo());
-  menu->addAction(QCoreApplication::translate("CellPanel", "Redo Last Change"), this,
-                  &CellPanel::Redo)
-      ->setEnabled(CanRedo());
+  AddHistoryToMenu(*menu);
 }
 
 }  // namespace qorvex::inline QorvexControls

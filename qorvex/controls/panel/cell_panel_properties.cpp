@@ -75,10 +75,16 @@ void CellPanel::setTabStop(bool stop) {
 
 void CellPanel::setVirtualMode(bool on) {
   if (on == virtual_mode_) return;
+  if (Model() != nullptr) {
+    // It has no effect before the model is gone.
+    virtual_mode_ = on;
+    return;
+  }
   parts_->focus.CommitPending();
   parts_->history.Forget();
   virtual_mode_ = on;
   table_.VirtualModeChanged();
+  FitSpareRow();
   Redisplay();
 }
 
@@ -91,27 +97,19 @@ void CellPanel::setCurrentRow(quint32 row) {
 }
 
 void CellPanel::ScrollUp(quint32 rows) {
-  parts_->rows.Window().ScrollUp(rows);
+  parts_->rows.ScrollUp(rows);
 }
 
 void CellPanel::ScrollDown(quint32 rows) {
-  parts_->rows.Window().ScrollDown(rows);
+  parts_->rows.ScrollDown(rows);
 }
 
 void CellPanel::ScrollTop() {
-  parts_->rows.Window().SetTop(0);
+  parts_->rows.ScrollToStart();
 }
 
 void CellPanel::ScrollBottom() {
-  parts_->rows.Window().SetTop(Rows().Count());
-}
-
-bool CellPanel::CanUndo() const noexcept {
-  return parts_->history.CanUndo();
-}
-
-bool CellPanel::CanRedo() const noexcept {
-  return parts_->history.CanRedo();
+  parts_->rows.ScrollToEnd();
 }
 
 }  // namespace qorvex::inline QorvexControls

@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QString>
+#include <functional>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -19,6 +20,9 @@ enum class CellEvent {
   kChange  ///< The user has changed it.
 };
 
+/// The two directions of a table. Its lines along an axis are its rows or its columns.
+enum class CellAxis { kRows, kCols };
+
 /// A table of elements. An editor implements it over the vector or matrix that it stores, or over
 /// the requests that it sends in virtual mode.
 class QORVEX_EXPORT CellTable {
@@ -29,10 +33,28 @@ class QORVEX_EXPORT CellTable {
   [[nodiscard]] virtual quint32 ColCount() const = 0;
   /// @}
   /// @{
-  /// One element, of which there is one in the given row and column. NaN is null.
+  /// One element, of which there is one in the given row and column. NaN is null. Store is false if
+  /// the element refuses the value.
   [[nodiscard]] virtual Extended Value(quint32 row, quint32 col) const = 0;
-  virtual void Store(quint32 row, quint32 col, Extended value) = 0;
+  virtual bool Store(quint32 row, quint32 col, Extended value) = 0;
   /// @}
+  /// Whether the elements are the program's: it stores them, and inserts and removes lines.
+  [[nodiscard]] virtual bool IsVirtual() const = 0;
+  /// Whether lines can be inserted. A program that does not handle the signal cannot insert any.
+  [[nodiscard]] virtual bool CanInsert(CellAxis axis) const = 0;
+  /// @{
+  /// Inserts lines before the given one, with a value for their elements; removes lines. All of
+  /// them are in the table. A program may refuse, so that the size stays as it is. Inserting raises
+  /// std::bad_alloc and changes nothing if memory runs out.
+  virtual void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) = 0;
+  virtual void RemoveLines(CellAxis axis, quint32 first, quint32 count) = 0;
+  /// @}
+  /// What belongs to lines beside their elements, such as labels: a function that brings it back
+  /// after the lines have been removed and inserted again. Empty if there is nothing.
+  [[nodiscard]] virtual std::function<void()> KeepLineData(CellAxis axis, quint32 first,
+                                                           quint32 count) = 0;
+  /// Whether the element cannot be changed.
+  [[nodiscard]] virtual bool IsReadOnly(quint32 row, quint32 col) const = 0;
   /// The name of the element's cell, for screen readers and messages.
   [[nodiscard]] virtual QString CellName(quint32 row, quint32 col) const = 0;
   /// @{
@@ -53,6 +75,9 @@ class QORVEX_EXPORT CellTable {
   /// @}
   /// Virtual mode has been turned on or off.
   virtual void VirtualModeChanged() = 0;
+  /// Gives the table another size: that of a model, or its own again. Raises the signals of a
+  /// change.
+  virtual void SetSize(quint32 rows, quint32 cols) = 0;
 
  protected:
   ~CellTable() = default;

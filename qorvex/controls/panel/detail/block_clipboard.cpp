@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <algorithm>
+#include <limits>
 #include <string>
 #include <utility>
 #include <vector>
@@ -27,14 +28,16 @@ QString TooManyCols(std::size_t cols, std::size_t room) {
       .arg(room);
 }
 
-QString NotANumber(const QString& cell_name, const QString& text) {
-  return QCoreApplication::translate("CellPanel", "%1: \"%2\" is not a number.",
-                                     "name of a cell, its text")
-      .arg(cell_name, text);
+// The lines from one on, as many as there can be if the table may grow.
+std::size_t RoomFrom(quint32 first, quint32 count, bool may_grow) {
+  const quint32 end = may_grow ? std::numeric_limits<quint32>::max() : count;
+  return end - std::min(first, end);
 }
 
-std::size_t RoomFrom(quint32 first, quint32 count) {
-  return count - std::min(first, count);
+void AppendLines(LineInsertions& lines, CellAxis axis, quint32 count, std::size_t needed,
+                 Extended value) {
+  if (needed <= count) return;
+  lines.push_back({axis, count, static_cast<quint32>(needed - count), value});
 }
 
 }  // namespace
@@ -52,29 +55,38 @@ QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TQor
 }
 
 PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
-                      quint32 first_row, quint32 first_col) {
+                      quint32 first_row, quint32 first_col, const Growth& growth) {
   const TextBlock block = ParseBlock(text.toStdString());
   std::size_t width = 0;
   for (const auto& row : block) width = std::max(width, row.size());
-  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount()) : 0;
-  const std::size_t room_beside = RoomFrom(first_col, table.ColCount());
-  if (block.size() > room_below || !cell) return {{}, TooManyRows(block.size(), room_below)};
-  if (width > room_beside) return {{}, TooManyCols(width, room_beside)};
+  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount(), growth.rows) : 0;
+  const std::size_t room_beside = RoomFrom(first_col, table.ColCount(), growth.cols);
+  if (block.size() > room_below || !cell) return {{}, {}, TooManyRows(block.size(), room_below)};
+  if (width > room_beside) return {{}, {}, TooManyCols(width, room_beside)};
 
   PasteResult result;
   for (std::size_t r = 0; r < block.size(); ++r) {
     for (std::size_t c = 0; c < block[r].size(); ++c) {
       const QString cell_text = QString::fromStdString(block[r][c]);
-      const auto value = cell->Parsed(cell_text);
+      const CellReading reading = cell->Read(cell_text);
       const quint32 row = first_row + static_cast<quint32>(r);
       const quint32 col = first_col + static_cast<quint32>(c);
-      if (!value) return {{}, NotANumber(table.CellName(row, col), cell_text)};
-      if (!QorvexBaseControls::detail::SameElement(table.Value(row, col), *value)) {
-        result.changes.push_back({row, col, *value});
+      if (!reading.value) return {{}, {}, table.CellName(row, col) + ": " + reading.refusal};
+      const bool exists = row < table.RowCount() && col < table.ColCount();
+      const Extended before = exists ? table.Value(row, col) : growth.value;
+      if (!QorvexBaseControls::detail::SameElement(before, *reading.value)) {
+        result.changes.push_back({row, col, *reading.value});
       }
     }
   }
+  AppendLines(result.lines, CellAxis::kRows, table.RowCount(), first_row + block.size(),
+              growth.value);
+  AppendLines(result.lines, CellAxis::kCols, table.ColCount(), first_col + width, growth.value);
   return result;
+}
+
+QString TextOfPaste() {
+  return QCoreApplication::translate("CellPanel", "Paste");
 }
 
 QString TooManyValues(quint64 values) {
@@ -87,6 +99,12 @@ QString OutOfMemory() {
 
 QString NotChangeable() {
   return QCoreApplication::translate("CellPanel", "These values cannot be changed.");
+}
+
+QString NotStored(const QString& cell_name, const QString& text) {
+  return QCoreApplication::translate("CellPanel", "%1: \"%2\" cannot be stored.",
+                                     "name of a cell, its text")
+      .arg(cell_name, text);
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

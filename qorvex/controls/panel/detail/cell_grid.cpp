@@ -135,9 +135,16 @@ void CellGrid::ApplyToCells(const CellSettings& settings) {
     if (format != col_formats_.end()) of_column.number = format->second;
     // A text that is committed on the way may change how many cells there are.
     for (std::size_t r = 0; r < cells_.size() && c < cells_[r].size(); ++r) {
+      of_column.read_only = IsReadOnly(r, c);
       cells_[r][c]->setSettings(of_column);
     }
   }
+}
+
+bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
+  return settings_.read_only ||
+         (IsUsed(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
+                                                cols_.Top() + static_cast<quint32>(col)));
 }
 
 void CellGrid::ApplyToHeader(const CellSettings& settings) {
@@ -159,8 +166,10 @@ void CellGrid::Show() {
       TQorCustomEdit* const cell = cells_[r][c];
       const quint32 row = rows_.Top() + static_cast<quint32>(r);
       const quint32 col = cols_.Top() + static_cast<quint32>(c);
-      if (IsUsed(r, c)) {
+      // The spare line has cells, but no elements yet.
+      if (IsUsed(r, c) && row < table_.RowCount()) {
         const Extended value = table_.Value(row, col);
+        cell->setReadOnly(IsReadOnly(r, c));
         cell->Refresh(value);
         cell->SetSpecialColor(table_.SpecialColor(row, col, value));
       } else {

@@ -1,89 +1,304 @@
 #include "qorvex/controls/panel/detail/change_history.h"
 
+#include <QCoreApplication>
+#include <algorithm>
 #include <cmath>
-#include <memory>
 #include <new>
 #include <utility>
 
+#include "qorvex/base_controls/detail/same_element.h"
+#include "qorvex/controls/panel/detail/undo_step.h"
+
 namespace qorvex::inline QorvexControls::detail {
 
-ChangeHistory::ChangeHistory(CellTable& table, Batch batch)
-    : table_(table), batch_(std::move(batch)) {}
+namespace {
 
-void ChangeHistory::Apply(ElementChanges changes) {
+// The stack of the history itself also limits the number of steps, since obsolete ones stay on it.
+constexpr int kMostSteps = 10'000;
+
+qint64 BytesOf(const ElementChanges& changes) {
+  return static_cast<qint64>(changes.size() * sizeof(ElementChange));
+}
+
+// Whether a part of a stack has a command that is not obsolete; the newest ones are looked at
+// first.
+bool IsAlive(const QUndoStack& stack, int begin, int end) {
+  while (end > begin) {
+    if (!stack.command(--end)->isObsolete()) return true;
+  }
+  return false;
+}
+
+// Sets a flag during its lifetime.
+class Raised {
+ public:
+  explicit Raised(bool& flag) : flag_(flag), outer_(std::exchange(flag, true)) {}
+  ~Raised() { flag_ = outer_; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+
+ private:
+  bool& flag_;
+  bool outer_;
+};
+
+}  // namespace
+
+ChangeHistory::ChangeHistory(CellTable& table, Owner owner)
+    : table_(table), owner_(std::move(owner)) {
+  own_.setUndoLimit(kMostSteps);
+  QObject::connect(&own_, &QUndoStack::indexChanged, &own_, [this] { Settle(); });
+}
+
+ChangeHistory::~ChangeHistory() {
+  own_.disconnect();
+  QObject::disconnect(shared_moves_);
+  while (!steps_.empty()) steps_.back()->Drop();
+}
+
+bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
+                          const QString& text) {
   const auto shared = std::make_shared<ElementChanges>(std::move(changes));
-  Remember([this, shared] { Exchange(*shared); }, false);
+  auto step = std::make_unique<Step>(text, false);
+  bool complete = false;
+  const bool undisturbed = RunBatch([&] {
+    try {
+      for (const LineInsertion& insertion : lines) {
+        table_.InsertLines(insertion.axis, insertion.first, insertion.count, insertion.value);
+        if (!table_.IsVirtual()) step->Add(Insertion(insertion), 0);
+      }
+      complete = lines.empty() || std::ranges::all_of(*shared, [this](const ElementChange& change) {
+                   return Has(change.row, change.col);
+                 });
+      if (complete) Exchange(shared);
+    } catch (const std::bad_alloc&) {
+      events_.clear();
+      step->RunParts(true);
+      throw;
+    }
+  });
+  if (!undisturbed) step = std::make_unique<Step>(text, false);
+  if (undisturbed && complete && !shared->empty()) {
+    step->Add([this, shared](bool) { Exchange(shared); }, BytesOf(*shared));
+  }
+  Push(std::move(step));
+  return complete;
+}
+
+void ChangeHistory::Remove(CellAxis axis, quint32 first, quint32 count, const QString& text) {
+  if (table_.IsVirtual()) {
+    table_.RemoveLines(axis, first, count);
+    return;
+  }
+  auto step = std::make_unique<Step>(text, false);
+  const auto elements = std::make_shared<const ElementChanges>(ElementsOf(axis, first, count));
+  step->Add(Removal(axis, first, count, elements), BytesOf(*elements));
+  if (!RunBatch([&] { step->RunParts(false); })) step = std::make_unique<Step>(text, false);
+  Push(std::move(step));
+}
+
+void ChangeHistory::Record(const ElementChange& before) {
+  const auto shared = std::make_shared<ElementChanges>(ElementChanges{before});
+  events_.push_back(shared);
+  if (running_) {
+    // A text was committed because a step moves the elements below it.
+    ForgetCommand();
+    return;
+  }
+  auto step = std::make_unique<Step>(QCoreApplication::translate("CellPanel", "Typing"), false);
+  step->Add([this, shared](bool) { Exchange(shared); }, BytesOf(*shared));
+  Push(std::move(step));
+}
+
+void ChangeHistory::RecordCommand(const QString& text, qint64 bytes,
+                                  std::function<void()> exchange) {
+  auto step = std::make_unique<Step>(text, true);
+  step->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  Push(std::move(step));
+}
+
+void ChangeHistory::ExtendCommand(qint64 bytes, std::function<void()> exchange) {
+  if (last_command_ == nullptr) return;
+  last_command_->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  KeepWithinLimit();
+}
+
+bool ChangeHistory::RunBatch(const std::function<void()>& run) {
+  const Raised running(running_);
+  disturbed_ = false;
+  owner_.batch(run);
+  return !std::exchange(disturbed_, false);
+}
+
+void ChangeHistory::Push(std::unique_ptr<Step> step) {
+  if (running_) {
+    // What handlers do in the midst of a step has no place in the order of steps.
+    Forget();
+  } else if (limit_ > 0 && !step->IsEmpty()) {
+    step->Enlist(*this);
+    Stack().push(step.release());
+    KeepWithinLimit();
+  }
+  Settle();
+}
+
+void ChangeHistory::RunStep(const Step& step, bool undo) {
   try {
-    Exchange(*shared);
+    RunBatch([&] { step.RunParts(undo); });
+    restored_ = true;
   } catch (const std::bad_alloc&) {
     Forget();
-    throw;
+    owner_.out_of_memory();
   }
 }
 
-void ChangeHistory::Record(const ElementChange& before, Extended now) {
-  const auto shared = std::make_shared<ElementChanges>(ElementChanges{before});
-  Remember([this, shared] { Exchange(*shared); }, false);
-  if (Has(before.row, before.col)) Notify(before.row, before.col, now);
+ChangeHistory::Part ChangeHistory::Insertion(const LineInsertion& lines) {
+  return [this, lines](bool undo) {
+    if (undo) {
+      table_.RemoveLines(lines.axis, lines.first, lines.count);
+    } else {
+      table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
+    }
+  };
 }
 
-void ChangeHistory::RecordCommand(std::function<void()> exchange) {
-  Remember(std::move(exchange), true);
+ChangeHistory::Part ChangeHistory::Removal(CellAxis axis, quint32 first, quint32 count,
+                                           const std::shared_ptr<const ElementChanges>& elements) {
+  const auto keep = table_.KeepLineData(axis, first, count);
+  return [=, this](bool undo) {
+    if (!undo) {
+      table_.RemoveLines(axis, first, count);
+      return;
+    }
+    table_.InsertLines(axis, first, count, 0);
+    for (const auto& [row, col, value] : *elements) {
+      if (Has(row, col)) table_.Store(row, col, value);
+    }
+    if (keep) keep();
+  };
 }
 
-void ChangeHistory::ExtendCommand(std::function<void()> exchange) {
-  RecordCommand([first = std::move(exchange_), second = std::move(exchange)] {
-    first();
-    second();
-  });
+ElementChanges ChangeHistory::ElementsOf(CellAxis axis, quint32 first, quint32 count) const {
+  const bool rows = axis == CellAxis::kRows;
+  const quint32 row_end = rows ? first + count : table_.RowCount();
+  const quint32 col_end = rows ? table_.ColCount() : first + count;
+  ElementChanges elements;
+  for (quint32 row = rows ? first : 0; row < row_end; ++row) {
+    for (quint32 col = rows ? 0 : first; col < col_end; ++col) {
+      const Extended value = table_.Value(row, col);
+      // Lines are inserted with zeros.
+      if (!QorvexBaseControls::detail::SameElement(value, 0)) elements.push_back({row, col, value});
+    }
+  }
+  return elements;
+}
+
+void ChangeHistory::Exchange(const std::shared_ptr<ElementChanges>& changes) {
+  for (auto& [row, col, value] : *changes) {
+    if (!Has(row, col)) continue;
+    const Extended before = table_.Value(row, col);
+    table_.Store(row, col, std::exchange(value, before));
+  }
+  events_.push_back(changes);
+}
+
+void ChangeHistory::Settle() {
+  if (running_) return;
+  for (const auto& changes : std::exchange(events_, {})) {
+    for (const auto& [row, col, before] : *changes) {
+      if (Has(row, col) && std::isnan(table_.Value(row, col))) {
+        table_.Notify(CellEvent::kNull, row, col);
+      }
+      if (Has(row, col)) table_.Notify(CellEvent::kChange, row, col);
+    }
+  }
+  if (std::exchange(restored_, false)) owner_.restored();
+  if (own_.count() > 0 && !IsAlive(own_, 0, own_.count())) own_.clear();
+  const bool can_undo = CanUndo();
+  const bool can_redo = CanRedo();
+  if (std::exchange(could_undo_, can_undo) != can_undo) owner_.can_undo_changed(can_undo);
+  if (std::exchange(could_redo_, can_redo) != can_redo) owner_.can_redo_changed(can_redo);
+}
+
+void ChangeHistory::KeepWithinLimit() {
+  while (bytes_ > limit_ && steps_.size() > 1) steps_.front()->Drop();
 }
 
 void ChangeHistory::Forget() {
-  exchange_ = nullptr;
+  disturbed_ = disturbed_ || running_;
+  while (!steps_.empty()) steps_.back()->Drop();
+  Settle();
 }
 
 void ChangeHistory::ForgetCommand() {
-  if (is_command_) Forget();
+  if (commands_ == 0) return;
+  const auto drop_through = [this](const Step* last, bool from_front) {
+    for (const Step* dropped = nullptr; dropped != last;) {
+      Step* const next = from_front ? steps_.front() : steps_.back();
+      dropped = next;
+      next->Drop();
+    }
+  };
+  const auto done = std::find_if(steps_.rbegin(), steps_.rend(), [](const Step* step) {
+    return step->IsCommand() && step->IsDone();
+  });
+  if (done != steps_.rend()) drop_through(*done, true);
+  const auto undone = std::ranges::find_if(
+      steps_, [](const Step* step) { return step->IsCommand() && !step->IsDone(); });
+  if (undone != steps_.end()) drop_through(*undone, false);
+  Settle();
+}
+
+bool ChangeHistory::CanUndo() const {
+  const QUndoStack& stack = Stack();
+  return stack.canUndo() && IsAlive(stack, 0, stack.index());
+}
+
+bool ChangeHistory::CanRedo() const {
+  const QUndoStack& stack = Stack();
+  return stack.canRedo() && IsAlive(stack, stack.index(), stack.count());
 }
 
 bool ChangeHistory::Undo() {
-  return CanUndo() && Run(true);
+  while (CanUndo()) {
+    QUndoStack& stack = Stack();
+    const bool obsolete = stack.command(stack.index() - 1)->isObsolete();
+    stack.undo();
+    if (!obsolete) return Settle(), true;
+  }
+  return false;
 }
 
 bool ChangeHistory::Redo() {
-  return CanRedo() && Run(false);
+  while (CanRedo()) {
+    QUndoStack& stack = Stack();
+    const bool obsolete = stack.command(stack.index())->isObsolete();
+    stack.redo();
+    if (!obsolete) return Settle(), true;
+  }
+  return false;
 }
 
-bool ChangeHistory::Run(bool undo) {
-  undone_ = undo;
-  // A copy, since a handler may call Forget.
-  const std::function<void()> exchange = exchange_;
-  exchange();
-  return true;
-}
-
-void ChangeHistory::Remember(std::function<void()> exchange, bool is_command) {
-  exchange_ = std::move(exchange);
-  is_command_ = is_command;
-  undone_ = false;
-}
-
-void ChangeHistory::Exchange(ElementChanges& changes) {
-  batch_([&] {
-    for (auto& [row, col, value] : changes) {
-      if (!Has(row, col)) continue;
-      const Extended before = table_.Value(row, col);
-      table_.Store(row, col, std::exchange(value, before));
-    }
-  });
-  for (const auto& [row, col, before] : changes) {
-    if (Has(row, col)) Notify(row, col, table_.Value(row, col));
+void ChangeHistory::SetLimit(qint64 bytes) {
+  limit_ = std::max<qint64>(bytes, 0);
+  if (limit_ == 0) {
+    Forget();
+  } else {
+    KeepWithinLimit();
+    Settle();
   }
 }
 
-void ChangeHistory::Notify(quint32 row, quint32 col, Extended now) {
-  if (std::isnan(now)) table_.Notify(CellEvent::kNull, row, col);
-  table_.Notify(CellEvent::kChange, row, col);
+void ChangeHistory::SetStack(QUndoStack* stack) {
+  if (stack == &Stack()) return;
+  Forget();
+  QObject::disconnect(shared_moves_);
+  shared_ = stack == &own_ ? nullptr : stack;
+  if (shared_) {
+    shared_moves_ =
+        QObject::connect(shared_, &QUndoStack::indexChanged, shared_, [this] { Settle(); });
+  }
+  Settle();
 }
 
 bool ChangeHistory::Has(quint32 row, quint32 col) const {

@@ -1,9 +1,14 @@
 #pragma once
 
 /// @file
-/// ChangeHistory, undo and redo of the last change to a table.
+/// ChangeHistory, undo and redo of the changes to a table.
 
+#include <QPointer>
+#include <QString>
+#include <QUndoStack>
 #include <functional>
+#include <list>
+#include <memory>
 #include <vector>
 
 #include "qorvex/controls/panel/cell_table.h"
@@ -18,55 +23,128 @@ struct ElementChange {
 };
 using ElementChanges = std::vector<ElementChange>;
 
-/// The last change to a table: either elements that were typed or pasted, or a command. A command
-/// can be undone until anything else changes; elements can be undone until the size of the table
-/// changes.
+/// Lines to insert into a table, and the value of their elements.
+struct LineInsertion {
+  CellAxis axis;
+  quint32 first;
+  quint32 count;
+  Extended value;
+};
+using LineInsertions = std::vector<LineInsertion>;
+
+/// The changes to a table as steps on an undo stack, its own or one that a form shares between
+/// editors. What a user does at once is one step.
+///
+/// Steps know how much memory they hold. Beyond a limit the oldest ones release it and are gone: a
+/// stack cannot drop its oldest commands, so they stay on it as obsolete commands, which Undo and
+/// Redo pass over.
+///
+/// A step exchanges elements while the stack moves. Events follow when the stack is at rest,
+/// because their handlers may change the table and so push further steps.
 class ChangeHistory {
  public:
-  /// Runs a function while the display waits, and displays the result.
-  using Batch = std::function<void(const std::function<void()>& run)>;
+  /// What the history needs from the panel.
+  struct Owner {
+    /// Runs a function while the display waits, and displays the result.
+    std::function<void(const std::function<void()>& run)> batch;
+    /// A step has been undone or redone.
+    std::function<void()> restored;
+    /// Memory has run out in the midst of a step: nothing can be undone any more.
+    std::function<void()> out_of_memory;
+    /// @{
+    /// CanUndo or CanRedo has changed.
+    std::function<void(bool can)> can_undo_changed;
+    std::function<void(bool can)> can_redo_changed;
+    /// @}
+  };
+
+  static constexpr qint64 kDefaultLimit = qint64{64} << 20;
 
   /// Nothing to undo.
-  ChangeHistory(CellTable& table, Batch batch);
+  ChangeHistory(CellTable& table, Owner owner);
+  ~ChangeHistory();
+  ChangeHistory(const ChangeHistory&) = delete;
+  ChangeHistory& operator=(const ChangeHistory&) = delete;
 
-  /// Stores the values in the elements and raises the events of the changes, which can be undone.
-  /// When memory runs out there is nothing to undo, and the exception passes through.
-  void Apply(ElementChanges changes);
-  /// An element has got a new value: raises its events. Undo brings back the one before.
-  void Record(const ElementChange& before, Extended now);
+  /// Stores the values in the elements and raises the events of the changes: one step of the given
+  /// name. When memory runs out nothing has changed, and the exception passes through.
+  void Apply(ElementChanges changes, const QString& text) { Apply({}, std::move(changes), text); }
+  /// Inserts lines first. False, and no element changes, if the program has not inserted them.
+  bool Apply(const LineInsertions& lines, ElementChanges changes, const QString& text);
+  /// Removes lines.
+  void Remove(CellAxis axis, quint32 first, quint32 count, const QString& text);
+  /// A typed value has replaced the one before: raises the events of the element.
+  void Record(const ElementChange& before);
   /// A command has run. The function is called alternately to undo and to redo it; copies of it
-  /// must share what they exchange.
-  void RecordCommand(std::function<void()> exchange);
+  /// must share what they exchange, whose size is given.
+  void RecordCommand(const QString& text, qint64 bytes, std::function<void()> exchange);
   /// More to undo and redo for the last command.
-  void ExtendCommand(std::function<void()> exchange);
+  void ExtendCommand(qint64 bytes, std::function<void()> exchange);
 
-  /// The size of the table has changed.
+  /// The program has changed the size of the table: nothing can be undone.
   void Forget();
-  /// Something other than cells has changed elements.
+  /// The program has changed elements: commands and what was done before them cannot be undone.
   void ForgetCommand();
 
-  [[nodiscard]] bool CanUndo() const noexcept { return exchange_ && !undone_; }
-  [[nodiscard]] bool CanRedo() const noexcept { return exchange_ && undone_; }
+  [[nodiscard]] bool CanUndo() const;
+  [[nodiscard]] bool CanRedo() const;
   /// @{
   /// False when there is nothing to undo or redo.
   bool Undo();
   bool Redo();
   /// @}
 
+  /// @{
+  /// How many bytes the steps may hold, of which the newest one is always kept; 0 for no steps.
+  [[nodiscard]] qint64 Limit() const noexcept { return limit_; }
+  void SetLimit(qint64 bytes);
+  /// @}
+  /// @{
+  /// The stack. Another one, or the history's own for a null pointer, starts without steps of this
+  /// history.
+  [[nodiscard]] QUndoStack& Stack() const { return shared_ ? *shared_ : own_; }
+  void SetStack(QUndoStack* stack);
+  /// @}
+
  private:
-  void Remember(std::function<void()> exchange, bool is_command);
+  class Step;
+  // Runs a part of a step.
+  using Part = std::function<void(bool undo)>;
+
+  void Push(std::unique_ptr<Step> step);
+  // False if a handler has pushed or forgotten something meanwhile.
+  bool RunBatch(const std::function<void()>& run);
+  void RunStep(const Step& step, bool undo);
+  void KeepWithinLimit();
+  // Raises what is due when the stack is at rest.
+  void Settle();
+  [[nodiscard]] Part Insertion(const LineInsertion& lines);
+  [[nodiscard]] Part Removal(CellAxis axis, quint32 first, quint32 count,
+                             const std::shared_ptr<const ElementChanges>& elements);
+  [[nodiscard]] ElementChanges ElementsOf(CellAxis axis, quint32 first, quint32 count) const;
   // Stores the changes and puts the values that were there in their place.
-  void Exchange(ElementChanges& changes);
-  void Notify(quint32 row, quint32 col, Extended now);
+  void Exchange(const std::shared_ptr<ElementChanges>& changes);
   // Whether a table that handlers may have shortened still has the element.
   [[nodiscard]] bool Has(quint32 row, quint32 col) const;
-  bool Run(bool undo);
 
   CellTable& table_;
-  Batch batch_;
-  std::function<void()> exchange_;
-  bool is_command_ = false;
-  bool undone_ = false;
+  Owner owner_;
+  mutable QUndoStack own_;
+  QPointer<QUndoStack> shared_;
+  QMetaObject::Connection shared_moves_;
+  // The steps that can be undone or redone, the oldest first.
+  std::list<Step*> steps_;
+  qint64 limit_ = kDefaultLimit;
+  qint64 bytes_ = 0;
+  int commands_ = 0;
+  Step* last_command_ = nullptr;
+  // A step runs; a handler has pushed or forgotten something meanwhile.
+  bool running_ = false;
+  bool disturbed_ = false;
+  bool restored_ = false;
+  std::vector<std::shared_ptr<const ElementChanges>> events_;
+  bool could_undo_ = false;
+  bool could_redo_ = false;
 };
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -1,5 +1,6 @@
 #include "qorvex/controls/panel/detail/panel_axis.h"
 
+#include <limits>
 #include <utility>
 
 namespace qorvex::inline QorvexControls::detail {
@@ -34,6 +35,36 @@ void PanelAxis::SetTop(quint32 top) {
 
 void PanelAxis::ReachWantedTop() {
   if (wanted_top_ > window_.Top()) SetTop(wanted_top_);
+}
+
+quint32 PanelAxis::Lines(quint32 count, bool spare) {
+  return spare && count < std::numeric_limits<quint32>::max() ? count + 1 : count;
+}
+
+void PanelAxis::SetCount(quint32 count, bool spare) {
+  count_ = count;
+  has_spare_ = spare;
+  window_.SetCount(Lines(count, spare));
+}
+
+void PanelAxis::ScrollUp(quint32 elements) {
+  wanted_top_ = 0;
+  window_.ScrollUp(elements);
+}
+
+void PanelAxis::ScrollDown(quint32 elements) {
+  wanted_top_ = 0;
+  window_.ScrollDown(elements);
+}
+
+void PanelAxis::ScrollToStart() {
+  wanted_top_ = 0;
+  window_.SetTop(0);
+}
+
+void PanelAxis::ScrollToEnd() {
+  wanted_top_ = 0;
+  window_.SetTop(window_.Count());
 }
 
 void PanelAxis::Loaded() {

@@ -110,9 +110,9 @@ bool PanelFocus::StopsAtHeader(std::size_t row) const {
 bool PanelFocus::TabOn(bool forward) {
   const quint32 row = rows_.Window().Focus();
   const quint32 col = cols_.Window().Focus();
-  if (entered_ == nullptr || !grid_.IsUsed(row, col) || !StopsAt(*grid_.Cell(row, col))) {
-    return false;
-  }
+  // Qt also moves the focus on from a widget that is being hidden or disabled.
+  if (entered_ == nullptr || !entered_->isEnabled() || !entered_->isVisible()) return false;
+  if (!grid_.IsUsed(row, col) || !StopsAt(*grid_.Cell(row, col))) return false;
   // A text of the header comes before the cells of its row, with which it is in sight.
   if (forward ? in_header_ : !in_header_ && col == 0 && StopsAtHeader(row)) return false;
   const auto next = [&] {

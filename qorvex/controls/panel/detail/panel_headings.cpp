@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "qorvex/controls/panel/detail/panel_axis.h"
+
 namespace qorvex::inline QorvexControls::detail {
 
 namespace {
@@ -73,7 +75,7 @@ void PanelHeadings::SetCols(bool on) {
 
 // A row or a column that waits for its first element has no heading yet.
 QString PanelHeadings::RowText(quint32 row) const {
-  return row < table_.RowCount() ? table_.RowHeading(row) : QString();
+  return row < table_.RowCount() ? table_.RowHeading(row) : QString(kSpareMark);
 }
 
 QString PanelHeadings::ColText(quint32 col) const {

@@ -15,6 +15,17 @@ Qt::KeyboardModifiers Held(const QKeyEvent& event) {
   return event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
 }
 
+bool IsHistoryKey(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers held = Held(event);
+  if (event.key() == Qt::Key_Y) return held == Qt::ControlModifier;
+  return event.key() == Qt::Key_Z &&
+         (held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier));
+}
+
+bool IsRedo(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Y || Held(event).testFlag(Qt::ShiftModifier);
+}
+
 // The whole notches that a wheel has turned.
 int Notches(int amount, bool fine, int& rest) {
   if (!fine) return amount / 100;
@@ -36,6 +47,16 @@ void Scroll(EditWindow& window, int steps) {
 PanelKeys::PanelKeys(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, PanelFocus& focus)
     : panel_(panel), rows_(rows), cols_(cols), focus_(focus) {}
 
+bool PanelKeys::IsTyping() const {
+  return focus_.Entered() != nullptr && focus_.Entered()->Pending();
+}
+
+bool PanelKeys::IsForTheApplication(const QKeyEvent& event) const {
+  if (!IsHistoryKey(event) || IsTyping()) return false;
+  return panel_.EffectiveSettings().read_only ||
+         !(IsRedo(event) ? panel_.CanRedo() : panel_.CanUndo());
+}
+
 bool PanelKeys::IsOwnKey(const QKeyEvent& event) const {
   const Qt::KeyboardModifiers held = Held(event);
   switch (event.key()) {
@@ -47,13 +68,13 @@ bool PanelKeys::IsOwnKey(const QKeyEvent& event) const {
       return held == Qt::NoModifier;
     case Qt::Key_Up:
     case Qt::Key_Down:
-    case Qt::Key_Y:
       return held == Qt::ControlModifier;
     case Qt::Key_Left:
     case Qt::Key_Right:
       return cols_.Bar() != nullptr && held == Qt::ControlModifier;
+    case Qt::Key_Y:
     case Qt::Key_Z:
-      return held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier);
+      return IsHistoryKey(event);
     case Qt::Key_C:
       return held == (Qt::ControlModifier | Qt::ShiftModifier);
     case Qt::Key_Tab:
@@ -96,10 +117,8 @@ bool PanelKeys::UseKey(const QKeyEvent& event) {
     }
     case Qt::Key_Y:
     case Qt::Key_Z: {
-      if (focus_.Entered() != nullptr && focus_.Entered()->Pending()) return false;
-      if (panel_.EffectiveSettings().read_only) return true;
-      const bool redo = event.key() == Qt::Key_Y || Held(event).testFlag(Qt::ShiftModifier);
-      redo ? panel_.Redo() : panel_.Undo();
+      if (IsTyping()) return false;
+      IsRedo(event) ? panel_.Redo() : panel_.Undo();
       return true;
     }
     default:
@@ -113,8 +132,8 @@ bool PanelKeys::EditKeyDown(QKeyEvent& event) {
   Q_EMIT panel_.OnKeyDown(&event);
   if (event.isAccepted()) return true;
   // Left unaccepted, a key would be handled again by every parent.
-  event.accept();
-  return UseKey(event);
+  event.setAccepted(!IsForTheApplication(event));
+  return !event.isAccepted() || UseKey(event);
 }
 
 bool PanelKeys::EditKeyPress(QKeyEvent& event) {
@@ -151,10 +170,14 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
   }
   if (watched == rows_.Bar() || watched == cols_.Bar()) return false;
   switch (event->type()) {
-    case QEvent::ShortcutOverride:
-      // Otherwise an action of the application with the same keys would take them.
-      if (IsOwnKey(static_cast<const QKeyEvent&>(*event))) event->accept();
-      break;
+    case QEvent::ShortcutOverride: {
+      // Otherwise an action of the application with the same keys would take them. The line edit
+      // would always take Ctrl+Z.
+      const auto& key = static_cast<const QKeyEvent&>(*event);
+      const bool for_application = IsForTheApplication(key);
+      if (IsOwnKey(key)) event->setAccepted(!for_application);
+      return for_application;
+    }
     case QEvent::KeyPress: {
       auto& key = static_cast<QKeyEvent&>(*event);
       return EditKeyDown(key) || EditKeyPress(key);

@@ -36,6 +36,9 @@ class PanelKeys : public QObject {
   // True when the key is used up.
   bool EditKeyDown(QKeyEvent& event);
   bool EditKeyPress(QKeyEvent& event);
+  [[nodiscard]] bool IsTyping() const;
+  // Undo or redo when there is nothing to undo or redo here.
+  [[nodiscard]] bool IsForTheApplication(const QKeyEvent& event) const;
   [[nodiscard]] bool IsOwnKey(const QKeyEvent& event) const;
   bool UseKey(const QKeyEvent& event);
   void ForwardMouse(const QWidget& widget, QMouseEvent& event);

@@ -1,0 +1,100 @@
+#include "qorvex/base_controls/detail/number_reader.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+#include "qorvex/base_controls/detail/digit_groups.h"
+#include "qorvex/base_controls/detail/number_text.h"
+
+namespace qorvex::inline QorvexBaseControls::detail {
+
+namespace {
+
+constexpr int kPercent = -2;
+
+CellReading Refused(const char* sentence, const QString& text) {
+  return {{}, QCoreApplication::translate("TQorCustomEdit", sentence).arg(text)};
+}
+
+CellReading ReadScaled(const QString& text, const QLocale& locale, int power) {
+  if (const auto value = ParseLocalNumber(text, locale, power)) return {value, {}};
+  const SeparatorReadings readings = ReadSeparators(text, locale);
+  const auto groups = ParseLocalNumber(readings.groups, locale, power);
+  const auto decimals = ParseLocalNumber(readings.decimals, locale, power);
+  if (groups && decimals) {
+    return {{},
+            QCoreApplication::translate("TQorCustomEdit", "\"%1\" may mean %2 or %3.",
+                                        "a text and two numbers")
+                .arg(text.trimmed(), readings.groups.trimmed(), readings.decimals.trimmed())};
+  }
+  if (groups) return {groups, {}};
+  if (!decimals) return NotANumber(text);
+  if (readings.two_kinds) return {decimals, {}};
+  return {{},
+          QCoreApplication::translate("TQorCustomEdit",
+                                      "\"%1\" is not a number: the decimal separator is \"%2\".")
+              .arg(text.trimmed(), locale.decimalPoint())};
+}
+
+CellReading ReadOperand(const QString& text, const QLocale& locale) {
+  QString number = text.trimmed();
+  for (const QString& percent : {QStringLiteral("%"), locale.percent()}) {
+    if (!number.endsWith(percent)) continue;
+    number.chop(percent.size());
+    return ReadScaled(number, locale, kPercent);
+  }
+  return ReadScaled(number, locale, 0);
+}
+
+// Products and quotients of operands.
+CellReading ReadProduct(const QString& text, const QLocale& locale) {
+  Extended result = 1;
+  int divisions = 0;
+  QChar operation = u'*';
+  for (qsizetype from = 0; from <= text.size();) {
+    qsizetype to = from;
+    while (to < text.size() && text[to] != u'*' && text[to] != u'/') ++to;
+    const QString operand = text.mid(from, to - from);
+    if (operand.trimmed().isEmpty()) return NotANumber(text);
+    const CellReading reading = ReadOperand(operand, locale);
+    if (!reading.value) return reading;
+    if (operation == u'*') {
+      result *= *reading.value;
+    } else if (++divisions > 1) {
+      return NotANumber(text);
+    } else if (*reading.value == 0) {
+      return Refused(QT_TRANSLATE_NOOP("TQorCustomEdit", "\"%1\" divides by zero."), text);
+    } else {
+      result /= *reading.value;
+    }
+    if (to < text.size()) operation = text[to];
+    from = to + 1;
+  }
+  if (!std::isfinite(result)) {
+    return Refused(QT_TRANSLATE_NOOP("TQorCustomEdit", "The value of \"%1\" is too large."), text);
+  }
+  return {result, {}};
+}
+
+}  // namespace
+
+CellReading NotANumber(const QString& text) {
+  return Refused(QT_TRANSLATE_NOOP("TQorCustomEdit", "\"%1\" is not a number."), text.trimmed());
+}
+
+CellReading ReadNumber(const QString& text, const QLocale& locale) {
+  return ReadScaled(text, locale, 0);
+}
+
+CellReading ReadExpression(const QString& text, const QLocale& locale) {
+  const QString trimmed = text.trimmed();
+  if (!trimmed.startsWith(u'(')) return ReadProduct(trimmed, locale);
+  if (!trimmed.endsWith(u')')) return NotANumber(text);
+  const CellReading inside = ReadProduct(trimmed.mid(1, trimmed.size() - 2), locale);
+  if (!inside.value) return inside;
+  // The parentheses stand for a minus sign already.
+  if (std::signbit(*inside.value)) return NotANumber(text);
+  return {-*inside.value, {}};
+}
+
+}  // namespace qorvex::inline QorvexBaseControls::detail

@@ -1,0 +1,199 @@
+// Undoing, growing, and inserting and deleting lines of a panel of cells.
+
+#include <QCoreApplication>
+#include <QMenu>
+#include <QMetaMethod>
+#include <algorithm>
+#include <limits>
+#include <new>
+#include <stdexcept>
+
+#include "qorvex/base/errors.h"
+#include "qorvex/controls/panel/detail/panel_parts.h"
+
+namespace qorvex::inline QorvexControls {
+
+namespace {
+
+QString TextOf(CellAxis axis, bool insert) {
+  if (axis == CellAxis::kRows) {
+    return insert ? QCoreApplication::translate("CellPanel", "Insert Rows")
+                  : QCoreApplication::translate("CellPanel", "Delete Rows");
+  }
+  return insert ? QCoreApplication::translate("CellPanel", "Insert Columns")
+                : QCoreApplication::translate("CellPanel", "Delete Columns");
+}
+
+}  // namespace
+
+bool CellPanel::CanUndo() const {
+  return parts_->history.CanUndo();
+}
+
+bool CellPanel::CanRedo() const {
+  return parts_->history.CanRedo();
+}
+
+void CellPanel::Undo() {
+  parts_->focus.CommitPending();
+  parts_->history.Undo();
+}
+
+void CellPanel::Redo() {
+  parts_->focus.CommitPending();
+  parts_->history.Redo();
+}
+
+qint64 CellPanel::UndoLimit() const noexcept {
+  return parts_->history.Limit();
+}
+
+void CellPanel::setUndoLimit(qint64 bytes) {
+  parts_->history.SetLimit(bytes);
+}
+
+void CellPanel::resetUndoLimit() {
+  setUndoLimit(detail::ChangeHistory::kDefaultLimit);
+}
+
+QUndoStack* CellPanel::UndoStack() const {
+  return &parts_->history.Stack();
+}
+
+void CellPanel::setUndoStack(QUndoStack* stack) {
+  parts_->focus.CommitPending();
+  parts_->history.SetStack(stack);
+}
+
+void CellPanel::setCanGrow(bool grow) {
+  can_grow_ = grow;
+  FitSpareRow();
+}
+
+bool CellPanel::MayGrow(CellAxis axis) const {
+  return can_grow_ && !EffectiveSettings().read_only && table_.CanInsert(axis);
+}
+
+void CellPanel::FitSpareRow() {
+  detail::PanelAxis& rows = parts_->rows;
+  if (MayGrow(CellAxis::kRows) == rows.HasSpare()) return;
+  parts_->focus.CommitPending();
+  SetLines(rows, rows.Count(), MayGrow(CellAxis::kRows));
+  CountChanged();
+}
+
+void CellPanel::connectNotify(const QMetaMethod& signal) {
+  // In virtual mode, whether rows can be inserted depends on it.
+  if (signal == QMetaMethod::fromSignal(&CellPanel::OnInsertRows)) FitSpareRow();
+}
+
+void CellPanel::disconnectNotify(const QMetaMethod& signal) {
+  connectNotify(signal);
+}
+
+Extended CellPanel::NewElement() const {
+  const bool null = EffectiveSettings().nulls.allow_kbd_null;
+  return null ? std::numeric_limits<Extended>::quiet_NaN() : 0;
+}
+
+void CellPanel::AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+  const QPointer<TQorCustomEdit> in_use(&cell);
+  QString refusal = detail::NotChangeable();
+  try {
+    if (parts_->history.Apply({{CellAxis::kRows, row, 1, NewElement()}}, {{row, col, value}},
+                              QCoreApplication::translate("CellPanel", "Typing"))) {
+      return;
+    }
+  } catch (const std::bad_alloc&) {
+    refusal = detail::OutOfMemory();
+  }
+  if (in_use) in_use->ShowNothing();
+  RefuseBlock(refusal);
+}
+
+void CellPanel::InsertLines(CellAxis axis, quint32 first, quint32 count) {
+  parts_->focus.CommitPending();
+  const bool rows = axis == CellAxis::kRows;
+  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
+  if (first > lines) RaiseMathError(rows ? rsInvalidRow : rsInvalidCol);
+  if (count > std::numeric_limits<quint32>::max() - lines) {
+    throw std::length_error("An editor has at most 4294967295 rows and columns");
+  }
+  if (count == 0) return;
+  parts_->history.Apply({{axis, first, count, NewElement()}}, {}, TextOf(axis, true));
+}
+
+void CellPanel::DeleteLines(CellAxis axis, quint32 first, quint32 count) {
+  parts_->focus.CommitPending();
+  const bool rows = axis == CellAxis::kRows;
+  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
+  if (first > lines || count > lines - first) RaiseMathError(rows ? rsInvalidRow : rsInvalidCol);
+  if (count == 0) return;
+  parts_->history.Remove(axis, first, count, TextOf(axis, false));
+}
+
+void CellPanel::InsertRows(quint32 row, quint32 count) {
+  InsertLines(CellAxis::kRows, row, count);
+}
+
+void CellPanel::DeleteRows(quint32 row, quint32 count) {
+  DeleteLines(CellAxis::kRows, row, count);
+}
+
+TQorCellRange CellPanel::SelectedBlock() const {
+  return {Rows().Top() + Rows().Focus(), 1, Cols().Top() + Cols().Focus(), 1};
+}
+
+void CellPanel::ChangeSelectedLines(CellAxis axis, bool insert) {
+  if (!MayGrow(axis)) return;
+  parts_->focus.CommitPending();
+  const bool rows = axis == CellAxis::kRows;
+  const TQorCellRange block = SelectedBlock();
+  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
+  const quint32 first = std::min(rows ? block.row : block.col, lines);
+  const quint32 room = (insert ? std::numeric_limits<quint32>::max() - lines : lines - first);
+  const quint32 count = std::min(rows ? block.rows : block.cols, room);
+  try {
+    insert ? InsertLines(axis, first, count) : DeleteLines(axis, first, count);
+  } catch (const std::bad_alloc&) {
+    RefuseBlock(detail::OutOfMemory());
+  }
+}
+
+CellAxis CellPanel::AxisOfSelection() const {
+  const TQorCellRange block = SelectedBlock();
+  const bool all_rows = block.row == 0 && block.rows >= table_.RowCount();
+  const bool all_cols = block.col == 0 && block.cols >= table_.ColCount();
+  return all_rows && !all_cols ? CellAxis::kCols : CellAxis::kRows;
+}
+
+void CellPanel::InsertSelectedLines() {
+  ChangeSelectedLines(AxisOfSelection(), true);
+}
+
+void CellPanel::DeleteSelectedLines() {
+  ChangeSelectedLines(AxisOfSelection(), false);
+}
+
+void CellPanel::AddHistoryToMenu(QMenu& menu) {
+  menu.addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
+                 &CellPanel::Undo)
+      ->setEnabled(CanUndo());
+  menu.addAction(QCoreApplication::translate("CellPanel", "Redo Last Change"), this,
+                 &CellPanel::Redo)
+      ->setEnabled(CanRedo());
+  const auto add = [&](CellAxis axis, bool insert, const QString& text) {
+    menu.addAction(text, this, [=, this] { ChangeSelectedLines(axis, insert); });
+  };
+  if (MayGrow(CellAxis::kRows)) {
+    menu.addSeparator();
+    add(CellAxis::kRows, true, TextOf(CellAxis::kRows, true));
+    add(CellAxis::kRows, false, TextOf(CellAxis::kRows, false));
+  }
+  if (MayGrow(CellAxis::kCols)) {
+    add(CellAxis::kCols, true, TextOf(CellAxis::kCols, true));
+    add(CellAxis::kCols, false, TextOf(CellAxis::kCols, false));
+  }
+}
+
+}  // namespace qorvex::inline QorvexControls
