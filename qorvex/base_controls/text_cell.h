@@ -46,6 +46,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// text is being edited while it has the focus, unless it is read-only, and while a part of it is
   /// selected.
   [[nodiscard]] QString PaintedText() const;
+  /// The width in pixels at which the whole text fits.
+  [[nodiscard]] int FittingWidth() const;
 
   /// The menu that a click on the cell opens; the caller owns it.
   [[nodiscard]] QMenu* CreateContextMenu();

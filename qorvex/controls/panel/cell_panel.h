@@ -386,6 +386,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ColsMoved();
   void CountChanged();
   void DragColWidth(quint32 col, int width);
+  void FitColWidth(quint32 col, int heading_width);
   [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;

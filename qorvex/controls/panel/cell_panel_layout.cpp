@@ -194,6 +194,10 @@ void CellPanel::DragColWidth(quint32 col, int width) {
   }
 }
 
+void CellPanel::FitColWidth(quint32 col, int heading_width) {
+  DragColWidth(col, std::max(heading_width, parts_->grid.FittingWidth(col - Cols().Top())));
+}
+
 detail::PanelHeadingEvents CellPanel::HeadingEvents() {
   return {.select_row = [](quint32, bool) {},
           .select_col = [](quint32, bool) {},
@@ -203,7 +207,8 @@ detail::PanelHeadingEvents CellPanel::HeadingEvents() {
                 return TQorCellRange{Rows().Top() + Rows().Focus(), 1,
                                      Cols().Top() + Cols().Focus(), 1};
               },
-          .resize_col = [this](quint32 col, int width) { DragColWidth(col, width); }};
+          .resize_col = [this](quint32 col, int width) { DragColWidth(col, width); },
+          .fit_col = [this](quint32 col, int width) { FitColWidth(col, width); }};
 }
 
 }  // namespace qorvex::inline QorvexControls

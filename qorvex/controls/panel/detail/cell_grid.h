@@ -93,6 +93,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   /// Shows the elements.
   void Show();
 
+  /// The width that the texts in a column of cells need.
+  [[nodiscard]] int FittingWidth(std::size_t col) const;
   /// Places the header and the cells.
   void Arrange() const;
 

@@ -127,6 +127,15 @@ void HeadingBar::mousePressEvent(QMouseEvent* event) {
   }
 }
 
+void HeadingBar::mouseDoubleClickEvent(QMouseEvent* event) {
+  const auto edge = EdgeAt(event->position().toPoint());
+  if (edge && event->button() == Qt::LeftButton) {
+    events_.fit(window_.Top() + *edge, WidthOf(TextOf(*edge)));
+  } else {
+    mousePressEvent(event);
+  }
+}
+
 void HeadingBar::mouseMoveEvent(QMouseEvent* event) {
   const QPoint place = event->position().toPoint();
   if (drag_) {

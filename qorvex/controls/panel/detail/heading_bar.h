@@ -27,6 +27,9 @@ struct HeadingEvents {
   std::function<void(bool forward)> scroll;
   /// The edge of the heading has been dragged; empty if the sizes are fixed.
   std::function<void(quint32 element, int size)> resize;
+  /// The edge of the heading has been clicked twice: fit the size to what is in sight. The heading
+  /// itself needs this size.
+  std::function<void(quint32 element, int size)> fit;
 };
 
 /// The headings of the elements that a window shows, painted as the style paints those of tables.
@@ -49,6 +52,7 @@ class HeadingBar : public QWidget {
   /// Qt's events.
   bool event(QEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;

@@ -45,7 +45,8 @@ void PanelHeadings::SetRows(bool on) {
                                .is_selected = [this](quint32 row) { return IsRowSelected(row); },
                                .select = events_.select_row,
                                .scroll = [this](bool forward) { Scroll(rows_, forward); },
-                               .resize = {}});
+                               .resize = {},
+                               .fit = {}});
     row_bar_->setObjectName(QStringLiteral("RowHeadings"));
     row_bar_->show();
   } else {
@@ -63,7 +64,8 @@ void PanelHeadings::SetCols(bool on) {
                                .is_selected = [this](quint32 col) { return IsColSelected(col); },
                                .select = events_.select_col,
                                .scroll = [this](bool forward) { Scroll(cols_, forward); },
-                               .resize = events_.resize_col});
+                               .resize = events_.resize_col,
+                               .fit = events_.fit_col});
     col_bar_->setObjectName(QStringLiteral("ColHeadings"));
     col_bar_->show();
   } else {

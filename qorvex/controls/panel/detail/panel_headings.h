@@ -23,6 +23,8 @@ struct PanelHeadingEvents {
   std::function<TQorCellRange()> selection;
   /// The edge of a column's heading has been dragged.
   std::function<void(quint32 col, int width)> resize_col;
+  /// It has been clicked twice; see HeadingEvents.
+  std::function<void(quint32 col, int width)> fit_col;
 };
 
 /// A bar of row headings, a bar of column headings, both or neither, with the texts of the table.
