@@ -382,6 +382,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void AddToMenu(QMenu* menu);
   void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
   void FitEdits();
+  struct GridSize {
+    quint32 rows = 0;
+    quint32 cols = 0;
+  };
+  [[nodiscard]] GridSize FittingEdits() const;
   void Place();
   void ColsMoved();
   void CountChanged();

@@ -21,8 +21,8 @@ constexpr int kLeastSize = 2 * kGrip;
 // Longer headings of rows are shortened.
 constexpr int kMostCharacters = 40;
 
-// A text keeps this distance from the edges of its heading.
-constexpr int kMargin = 6;
+// A text keeps this distance from both edges of its heading.
+constexpr int kMargin = 4;
 
 // Selected headings are bold; all of them have room for it.
 QFont Bold(QFont font) {
@@ -57,7 +57,8 @@ void HeadingBar::Arrange() {
 }
 
 int HeadingBar::WidthOf(const QString& text) const {
-  return QFontMetrics(Bold(font())).horizontalAdvance(text) + 2 * kMargin;
+  // The advance is rounded, perhaps down.
+  return QFontMetrics(Bold(font())).horizontalAdvance(text) + 1 + 2 * kMargin;
 }
 
 int HeadingBar::TextWidth() const {
@@ -161,12 +162,16 @@ void HeadingBar::SelectTo(const QPoint& place) {
 }
 
 void HeadingBar::timerEvent(QTimerEvent*) {
-  if (!isVisible()) return mouseReleaseEvent(nullptr);
+  if (!isVisible()) return Release();
   events_.scroll(SideOf(place_) > 0);
   SelectTo(place_);
 }
 
 void HeadingBar::mouseReleaseEvent(QMouseEvent*) {
+  Release();
+}
+
+void HeadingBar::Release() {
   drag_.reset();
   selecting_ = false;
   scrolling_.stop();
@@ -210,7 +215,7 @@ QStyleOptionHeader HeadingBar::Option(quint32 edit) const {
     option.state |= QStyle::State_On | QStyle::State_Sunken;
   }
   option.text = QFontMetrics(Bold(font()))
-                    .elidedText(TextOf(edit), Qt::ElideRight, option.rect.width() - kMargin);
+                    .elidedText(TextOf(edit), Qt::ElideRight, option.rect.width() - 2 * kMargin);
   return option;
 }
 

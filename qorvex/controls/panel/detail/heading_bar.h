@@ -67,6 +67,7 @@ class HeadingBar : public QWidget {
   // -1 before the first heading, 1 behind the last one, 0 between them.
   [[nodiscard]] int SideOf(const QPoint& place) const;
   void SelectTo(const QPoint& place);
+  void Release();
   // The edit whose trailing edge is at a place and can be dragged.
   [[nodiscard]] std::optional<quint32> EdgeAt(const QPoint& place) const;
   [[nodiscard]] QString TextOf(quint32 edit) const;
