@@ -75,11 +75,12 @@ bool AccessiblePanel::Has(const AccessiblePlace& place) const {
 }
 
 bool AccessiblePanel::HasRowHeadings() const {
-  return Parts() != nullptr && Parts()->grid.HasHeader();
+  const PanelParts* const parts = Parts();
+  return parts != nullptr && (parts->grid.HasHeader() || parts->headings.HasRows());
 }
 
 bool AccessiblePanel::HasColHeadings() const {
-  return false;
+  return Parts() != nullptr && Parts()->headings.HasCols();
 }
 
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
@@ -96,7 +97,7 @@ QString AccessiblePanel::Text(const AccessiblePlace& place) const {
     case Kind::kElement:
       break;
   }
-  return parts.grid.Cell(0, 0)->TextFor(parts.table.Value(place.row, place.col));
+  return parts.grid.TextFor(place.col, parts.table.Value(place.row, place.col));
 }
 
 TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {
@@ -112,6 +113,21 @@ TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {
       break;
   }
   return nullptr;
+}
+
+QRect AccessiblePanel::PlaceOnScreen(const AccessiblePlace& place) const {
+  const PanelParts& parts = *Parts();
+  const quint32 row = place.row - parts.rows.Window().Top();
+  const quint32 col = place.col - parts.cols.Window().Top();
+  QRect heading;
+  if (place.kind == Kind::kRowHeading && parts.grid.IsUsed(row, 0)) {
+    heading = parts.geometry.InFrontOf(row);
+  } else if (place.kind == Kind::kColHeading && parts.grid.IsUsed(0, col)) {
+    heading = parts.geometry.Above(col);
+  }
+  if (heading.isEmpty()) return {};
+  heading = parts.geometry.Placed(heading);
+  return {widget()->mapToGlobal(heading.topLeft()), heading.size()};
 }
 
 std::optional<AccessiblePlace> AccessiblePanel::PlaceOf(const TextCell& cell) const {
@@ -188,6 +204,17 @@ QAccessibleInterface* AccessiblePanel::child(int index) const {
 }
 
 QAccessibleInterface* AccessiblePanel::childAt(int x, int y) const {
+  if (const PanelParts* const parts = Parts()) {
+    // Some headings are painted, and are no widgets.
+    for (quint32 row = 0; row < parts->rows.Window().UsedEdits(); ++row) {
+      const AccessiblePlace heading{Kind::kRowHeading, parts->rows.Window().Top() + row, 0};
+      if (PlaceOnScreen(heading).contains(x, y)) return Cell(heading);
+    }
+    for (quint32 col = 0; col < parts->cols.Window().UsedEdits(); ++col) {
+      const AccessiblePlace heading{Kind::kColHeading, 0, parts->cols.Window().Top() + col};
+      if (PlaceOnScreen(heading).contains(x, y)) return Cell(heading);
+    }
+  }
   QWidget* const at = widget()->childAt(widget()->mapFromGlobal(QPoint(x, y)));
   return at == nullptr ? nullptr : QAccessible::queryAccessibleInterface(at);
 }

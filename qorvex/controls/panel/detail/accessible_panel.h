@@ -44,6 +44,8 @@ class AccessiblePanel : public QAccessibleWidget, public QAccessibleTableInterfa
   [[nodiscard]] bool IsSelected(const AccessiblePlace& place) const;
   [[nodiscard]] QString Name(const AccessiblePlace& place) const;
   [[nodiscard]] QString Text(const AccessiblePlace& place) const;
+  /// Of a heading in sight; empty for others.
+  [[nodiscard]] QRect PlaceOnScreen(const AccessiblePlace& place) const;
   [[nodiscard]] std::optional<AccessiblePlace> PlaceOf(const TextCell& cell) const;
   [[nodiscard]] QAccessibleInterface* Cell(const AccessiblePlace& place) const;
   void Focus(const AccessiblePlace& element);
