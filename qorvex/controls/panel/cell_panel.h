@@ -433,10 +433,16 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void AddToMenu(QMenu* menu);
   void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
   void FitEdits();
+  struct GridSize {
+    quint32 rows = 0;
+    quint32 cols = 0;
+  };
+  [[nodiscard]] GridSize FittingEdits() const;
   void Place();
   void ColsMoved();
   void CountChanged();
   void DragColWidth(quint32 col, int width);
+  void FitColWidth(quint32 col, int heading_width);
   [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;

@@ -110,6 +110,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   /// Marks the cells that show elements of a range, and no others.
   void MarkSelected(const TQorCellRange& range);
 
+  /// The width that the texts in a column of cells need.
+  [[nodiscard]] int FittingWidth(std::size_t col) const;
   /// The text that a cell of a column, in sight or not, would show for a value. Needs a cell.
   [[nodiscard]] QString TextFor(quint32 col, Extended value) const;
 
