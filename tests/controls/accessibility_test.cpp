@@ -239,4 +239,17 @@ TEST_F(AccessibleMatrix, IsEmptyWithoutElementsOrCells) {
   EXPECT_EQ(Panel()->childCount(), 0);
 }
 
+TEST(AccessibleCells, HaveAFrameInAPaletteOfHighContrast) {
+  TQorFloatEdit cell;
+  const auto edge = [&cell](const QColor& paper, const QColor& ink) {
+    QPalette palette(paper, paper);
+    palette.setColor(QPalette::Base, paper);
+    palette.setColor(QPalette::Text, ink);
+    cell.setPalette(palette);
+    return cell.grab().toImage().pixelColor(cell.width() / 2, 0);
+  };
+  EXPECT_GT(edge(Qt::black, Qt::white).lightness(), 100);
+  EXPECT_LT(edge(Qt::white, Qt::black).lightness(), 200);
+}
+
 }  // namespace qorvex

@@ -55,11 +55,12 @@ PanelParts* AccessiblePanel::Parts() const {
 }
 
 quint32 AccessiblePanel::Rows() const {
-  return Parts() == nullptr ? 0 : Parts()->table.RowCount();
+  // With the empty row that takes a new value.
+  return Parts() == nullptr ? 0 : Parts()->rows.Window().Count();
 }
 
 quint32 AccessiblePanel::Cols() const {
-  return Parts() == nullptr ? 0 : Parts()->table.ColCount();
+  return Parts() == nullptr ? 0 : Parts()->cols.Window().Count();
 }
 
 bool AccessiblePanel::Has(const AccessiblePlace& place) const {
@@ -89,6 +90,7 @@ QString AccessiblePanel::Name(const AccessiblePlace& place) const {
 
 QString AccessiblePanel::Text(const AccessiblePlace& place) const {
   const PanelParts& parts = *Parts();
+  if (place.row >= parts.table.RowCount()) return {};
   switch (place.kind) {
     case Kind::kRowHeading:
       return parts.table.RowHeading(place.row);
