@@ -33,6 +33,8 @@ const struct {
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
+    {"matrix_layout", MatrixLayouts},
+    {"models", Models},
     {"vector_edit", VectorEdits},
 };
 

@@ -11,4 +11,6 @@ std::unique_ptr<QWidget> WeighingForm();
 std::unique_ptr<QWidget> MathLabels();
 std::unique_ptr<QWidget> MathSymbols();
 std::unique_ptr<QWidget> MatrixEdits();
+std::unique_ptr<QWidget> MatrixLayouts();
+std::unique_ptr<QWidget> Models();
 std::unique_ptr<QWidget> VectorEdits();

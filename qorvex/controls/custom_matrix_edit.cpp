@@ -75,13 +75,34 @@ quint32 TQorCustomMatrixEdit::NoOfRows() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setNoOfCols(quint32 cols) {
+  if (Model() != nullptr) {
+    Parts().model.SetColCount(cols);
+  } else {
+    ChangeCols(cols);
+  }
+}
+
+void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
+  if (Model() != nullptr) {
+    Parts().model.SetRowCount(rows);
+  } else {
+    ChangeRows(rows);
+  }
+}
+
+void TQorCustomMatrixEdit::SetSize(quint32 rows, quint32 cols) {
+  ChangeRows(rows);
+  ChangeCols(cols);
+}
+
+void TQorCustomMatrixEdit::ChangeCols(quint32 cols) {
   if (cols == NoOfCols()) return;
   ResizeCols(cols);
   Parts().history.Forget();
   Q_EMIT OnNoColsChange(NoOfCols());
 }
 
-void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
+void TQorCustomMatrixEdit::ChangeRows(quint32 rows) {
   if (rows == NoOfRows()) return;
   ResizeRows(rows);
   Parts().history.Forget();
@@ -136,11 +157,17 @@ void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
 void TQorCustomMatrixEdit::Take(TQorFloatMatrix matrix) {
   const quint32 rows = MatrixRows(matrix);
   const quint32 cols = MatrixCols(matrix);
+  const Update update(*this);
+  if (Model() != nullptr) {
+    setNoOfRows(rows);
+    setNoOfCols(cols);
+  }
   const quint32 rows_before = NoOfRows();
   const quint32 cols_before = NoOfCols();
-  const Update update(*this);
-  ResizeRows(rows);
-  ResizeCols(cols);
+  if (Model() == nullptr) {
+    ResizeRows(rows);
+    ResizeCols(cols);
+  }
   if (VirtualMode()) {
     for (quint32 row = 0; row < std::min(rows, NoOfRows()); ++row) {
       for (quint32 col = 0; col < std::min(cols, NoOfCols()); ++col) {
@@ -213,6 +240,7 @@ void TQorCustomMatrixEdit::ScrollRightMost() {
 }
 
 Extended TQorCustomMatrixEdit::Value(quint32 row, quint32 col) const {
+  if (Model() != nullptr) return Parts().model.Value(row, col);
   if (VirtualMode()) {
     return OnGetElement ? OnGetElement(row, col)
                         : static_cast<Extended>(col + quint64{row} * NoOfCols());
@@ -221,13 +249,19 @@ Extended TQorCustomMatrixEdit::Value(quint32 row, quint32 col) const {
   return row < store.size() && col < store[row].size() ? store[row][col] : 0;
 }
 
-void TQorCustomMatrixEdit::Store(quint32 row, quint32 col, Extended value) {
+bool TQorCustomMatrixEdit::Store(quint32 row, quint32 col, Extended value) {
+  if (Model() != nullptr) return Parts().model.Store(row, col, value);
   if (VirtualMode()) {
     Q_EMIT OnSetElement(row, col, value);
   } else if (row < NoOfRows() && col < NoOfCols()) {
     if (row >= store_.size() || col >= store_[row].size()) FullStore();
     store_[row][col] = value;
   }
+  return true;
+}
+
+bool TQorCustomMatrixEdit::IsReadOnly(quint32 row, quint32 col) const {
+  return Parts().model.IsReadOnly(row, col);
 }
 
 void TQorCustomMatrixEdit::Notify(CellEvent event, quint32 row, quint32 col) {

@@ -96,9 +96,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
 
   /// @{
   /// Whether there are headings in front of the rows and above the columns; off by default. They
-  /// show numbers from 1 on, or what OnGetRowHeading and OnGetColHeading supply. A click on a
-  /// heading selects its row or column. The edge of a column's heading can be dragged, which
-  /// changes the width of the column.
+  /// show numbers from 1 on, the headers of a model, or what OnGetRowHeading and OnGetColHeading
+  /// supply. A click on a heading selects its row or column. The edge of a column's heading can be
+  /// dragged, which changes the width of the column.
   [[nodiscard]] bool RowHeadings() const noexcept { return HasRowHeadings(); }
   void setRowHeadings(bool on) { ShowRowHeadings(on); }
   void resetRowHeadings() { setRowHeadings(false); }
@@ -218,8 +218,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// Supplies the colours of texts at every redisplay; empty by default.
   TQorSpecialColorEvent OnSpecialColor;
   /// @{
-  /// Supply the texts of headings, which also name the elements in messages; numbers from 1 if they
-  /// are empty. Call Redisplay if the texts change.
+  /// Supply the texts of headings, which also name the elements in messages; if they are empty, the
+  /// headers of the model, or numbers from 1. Call Redisplay if the texts change.
   TQorGetHeadingEvent OnGetRowHeading;
   TQorGetHeadingEvent OnGetColHeading;
   /// @}
@@ -265,7 +265,8 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
   [[nodiscard]] quint32 ColCount() const override { return NoOfCols(); }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
-  void Store(quint32 row, quint32 col, Extended value) override;
+  bool Store(quint32 row, quint32 col, Extended value) override;
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
@@ -277,6 +278,7 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
                                                    quint32 count) override;
   void VirtualModeChanged() override;
+  void SetSize(quint32 rows, quint32 cols) override;
   /// @}
 
   /// Raises EMathError if there is no such element in a matrix of the given number of columns.
@@ -286,7 +288,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   static constexpr int kDefaultColEdits = 3;
   static constexpr int kDefaultRowEdits = 4;
 
-  // Change the numbers of rows and columns without the events.
+  // Change the numbers of rows and columns, with and without the events.
+  void ChangeRows(quint32 rows);
+  void ChangeCols(quint32 cols);
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
   void TrimStore();

@@ -89,7 +89,9 @@ QString TQorLabelledVectorEdit::Label(quint32 row) const {
     case ltSupplied:
       break;
   }
-  return OnGetLabel ? OnGetLabel(row) : QString::fromStdString(Int2EStr(row));
+  if (OnGetLabel) return OnGetLabel(row);
+  return Model() ? Parts().model.Heading(row, Qt::Vertical)
+                 : QString::fromStdString(Int2EStr(row));
 }
 
 void TQorLabelledVectorEdit::setLabel(quint32 row, const QString& label) {

@@ -41,7 +41,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   enum TQorLabelType {
     ltCustom,    ///< The labels that are stored here; rows without one have an empty label.
     ltNumbered,  ///< The row's index plus LabelNumOffSet.
-    ltSupplied   ///< OnGetLabel, or the row's index if it is empty.
+    ltSupplied   ///< OnGetLabel; if it is empty, the header of the model, or the row's index.
   };
   Q_ENUM(TQorLabelType)
 

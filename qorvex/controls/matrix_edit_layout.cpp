@@ -6,11 +6,13 @@
 namespace qorvex::inline QorvexMatrixEdit {
 
 QString TQorCustomMatrixEdit::RowHeading(quint32 row) const {
-  return OnGetRowHeading ? OnGetRowHeading(row) : CellTable::RowHeading(row);
+  if (OnGetRowHeading) return OnGetRowHeading(row);
+  return Model() ? Parts().model.Heading(row, Qt::Vertical) : CellTable::RowHeading(row);
 }
 
 QString TQorCustomMatrixEdit::ColHeading(quint32 col) const {
-  return OnGetColHeading ? OnGetColHeading(col) : CellTable::ColHeading(col);
+  if (OnGetColHeading) return OnGetColHeading(col);
+  return Model() ? Parts().model.Heading(col, Qt::Horizontal) : CellTable::ColHeading(col);
 }
 
 int TQorCustomMatrixEdit::ColWidth(quint32 col) const {

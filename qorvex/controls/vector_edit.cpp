@@ -38,9 +38,28 @@ quint32 TQorVectorEdit::NoOfRows() const noexcept {
 }
 
 void TQorVectorEdit::setNoOfRows(quint32 rows) {
+  if (Model() != nullptr) {
+    Parts().model.SetRowCount(rows);
+  } else {
+    SetSize(rows, 1);
+  }
+}
+
+void TQorVectorEdit::SetSize(quint32 rows, quint32) {
   if (rows == NoOfRows()) return;
   Resize(rows);
   Q_EMIT OnRowNoChange(NoOfRows());
+}
+
+int TQorVectorEdit::ModelColumn() const noexcept {
+  return Parts().model.FirstCol();
+}
+
+void TQorVectorEdit::setModelColumn(int column) {
+  Parts().focus.CommitPending();
+  Parts().history.Forget();
+  Parts().model.SetFirstCol(std::max(column, 0));
+  Redisplay();
 }
 
 void TQorVectorEdit::Resize(quint32 rows) {
@@ -70,12 +89,14 @@ void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
     throw std::length_error("A vector edit has at most 4294967295 rows");
   }
   const TQorFloatVector copy{std::span<const Extended>(vector)};
-  const quint32 rows_before = NoOfRows();
   const Update update(*this);
   Parts().focus.CommitUnless([&](quint32 row, quint32 col) {
     return row < copy.size() && SameElement(copy[row], Value(row, col));
   });
-  Resize(static_cast<quint32>(copy.size()));
+  const auto rows = static_cast<quint32>(copy.size());
+  if (Model() != nullptr) setNoOfRows(rows);
+  const quint32 rows_before = NoOfRows();
+  if (Model() == nullptr) Resize(rows);
   if (VirtualMode()) {
     for (quint32 row = 0; row < std::min<std::size_t>(NoOfRows(), copy.size()); ++row) {
       Store(row, 0, copy[row]);
@@ -112,16 +133,23 @@ void TQorVectorEdit::setEditFocus(quint32 edit) {
 }
 
 Extended TQorVectorEdit::Value(quint32 row, quint32) const {
+  if (Model() != nullptr) return Parts().model.Value(row, 0);
   if (VirtualMode()) return OnGetElement ? OnGetElement(row) : static_cast<Extended>(row);
   return row < store_.size() ? std::as_const(store_)[row] : 0;
 }
 
-void TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
+bool TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
+  if (Model() != nullptr) return Parts().model.Store(row, 0, value);
   if (VirtualMode()) {
     Q_EMIT OnSetElement(row, value);
   } else if (row < NoOfRows()) {
     FullStore()[row] = value;
   }
+  return true;
+}
+
+bool TQorVectorEdit::IsReadOnly(quint32 row, quint32 col) const {
+  return Parts().model.IsReadOnly(row, col);
 }
 
 void TQorVectorEdit::Notify(CellEvent event, quint32 row, quint32) {

@@ -127,6 +127,12 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   /// element. In virtual mode it checks the rows and redisplays.
   virtual void SwapElements(quint32 first, quint32 second);
 
+  /// @{
+  /// The column of the model that is shown; 0 by default. Negative columns count as 0.
+  [[nodiscard]] int ModelColumn() const noexcept;
+  void setModelColumn(int column);
+  /// @}
+
   /// Copies a part of the vector to the clipboard, as CopyAll does. Rows beyond the end are left
   /// out.
   void CopyRows(quint32 first, quint32 count);
@@ -160,7 +166,8 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   [[nodiscard]] quint32 RowCount() const override { return NoOfRows(); }
   [[nodiscard]] quint32 ColCount() const override { return 1; }
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const override;
-  void Store(quint32 row, quint32 col, Extended value) override;
+  bool Store(quint32 row, quint32 col, Extended value) override;
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const override;
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   [[nodiscard]] QColor SpecialColor(quint32 row, quint32 col, Extended value) const override;
   void Notify(CellEvent event, quint32 row, quint32 col) override;
@@ -172,6 +179,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
                                                    quint32 count) override;
   void VirtualModeChanged() override;
+  void SetSize(quint32 rows, quint32 cols) override;
   /// @}
 
   /// Raises EMathError if there is no such element.

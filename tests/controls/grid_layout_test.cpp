@@ -195,6 +195,20 @@ TEST_F(GridLayout, AutoEditsHaveTheRoomThatThereIs) {
   EXPECT_EQ(editor->sizePolicy(), QSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed));
 }
 
+TEST_F(GridLayout, AutoEditsFillALayoutWhenItIsShown) {
+  editor->setAutoEdits(true);
+  editor->setNoOfCols(50);
+  editor->setNoOfRows(50);
+  editor->setDisplayTopRow(45);
+  window->resize(600, 500);
+  Show();
+  const QSize room = editor->size() - QSize(Bar()->width(), AcrossBar()->height());
+  EXPECT_GT(room.height(), 4 * kHeight);
+  EXPECT_EQ(editor->NoOfRowEdits(), room.height() / kHeight);
+  EXPECT_EQ(editor->NoOfColEdits(), room.width() / 81);
+  EXPECT_EQ(static_cast<int>(editor->DisplayTopRow()), 50 - editor->NoOfRowEdits());
+}
+
 // The number of cells in a row changes while the keys go through columns of all widths.
 TEST_F(GridLayout, KeysReachEveryColumnWhateverHasRoom) {
   editor->setAutoEdits(true);

@@ -22,8 +22,8 @@
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/table_loader.h"
-#include "apps/qorvex-gallery/widgets/tall_editor.h"
 #include "apps/qorvex-gallery/widgets/tool_tip.h"
+#include "apps/qorvex-gallery/widgets/value_editor.h"
 #include "qorvex/vector/building.h"
 
 namespace qorvex::gallery {
@@ -46,7 +46,6 @@ DataPage::DataPage(QWidget* parent)
       message_(new MessageBar),
       loader_(new TableLoader),
       editor_(new TQorLabelledVectorEdit),
-      tall_editor_(new TallEditor(editor_)),
       report_(new ColumnReport) {
   setObjectName("dataPage");
   auto* const layout = new QVBoxLayout(this);
@@ -61,10 +60,9 @@ DataPage::DataPage(QWidget* parent)
   connect(editor_, &TQorVectorEdit::OnTextRefused, this, &DataPage::RefuseText);
   connect(report_, &ColumnReport::OptionsChanged, this, &DataPage::RefreshSoon);
   // What was typed while a table is read would be lost when that table is shown.
-  connect(loader_, &TableLoader::Started, tall_editor_,
-          [this] { tall_editor_->setEnabled(false); });
+  connect(loader_, &TableLoader::Started, editor_, [this] { editor_->setEnabled(false); });
   connect(loader_, &TableLoader::Ended, this, [this] {
-    tall_editor_->setEnabled(true);
+    editor_->setEnabled(true);
     Q_EMIT ReadingEnded();
   });
   OpenExample();
@@ -112,14 +110,13 @@ QLayout* DataPage::MakeBody() {
   editor_->setObjectName("values");
   editor_->setLabelType(TQorLabelledVectorEdit::ltSupplied);
   editor_->OnGetLabel = [this](quint32 row) { return table_.RowName(row); };
-  editor_->setCellWidth(14 * fontMetrics().averageCharWidth());
-  editor_->setBlankWhenNull(true);
+  SetUpValueEditor(*editor_);
   QLabel* const heading = MakeHeading(tr("&Values"), editor_);
   // Level with the heading of the report, which has a spin box beside it.
   heading->setMinimumHeight(QSpinBox().sizeHint().height());
   auto* const values = new QVBoxLayout;
   values->addWidget(heading);
-  values->addWidget(tall_editor_, 1);
+  values->addWidget(editor_, 1);
   auto* const body = new QHBoxLayout;
   body->addLayout(values);
   body->addSpacing(fontMetrics().height());
@@ -289,7 +286,6 @@ void DataPage::Refresh() {
   StoreEdits();
   const TQorFloatVector all = editor_->Vector();
   const TQorFloatVector values = WithoutNulls(all);
-  tall_editor_->FitFormat(values);
   report_->Show(values, all.size() - values.size(), table_.Title(column_));
 }
 

@@ -16,7 +16,6 @@ namespace qorvex::gallery {
 class ColumnReport;
 class MessageBar;
 class TableLoader;
-class TallEditor;
 
 /// Shows one column of a table in an editor, its descriptive statistics, and its histogram with the
 /// normal density of the same mean and standard deviation. Every edit updates all of these. Empty
@@ -99,7 +98,6 @@ class DataPage : public QWidget {
   MessageBar* message_;
   TableLoader* loader_;
   TQorLabelledVectorEdit* editor_;
-  TallEditor* tall_editor_;
   ColumnReport* report_;
 };
 

@@ -16,7 +16,7 @@
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
-#include "apps/qorvex-gallery/widgets/tall_editor.h"
+#include "apps/qorvex-gallery/widgets/value_editor.h"
 
 namespace qorvex::gallery {
 
@@ -40,8 +40,6 @@ RegressionPage::RegressionPage(QWidget* parent)
       rows_(new QSpinBox),
       x_(new TQorLabelledVectorEdit),
       y_(new TQorVectorEdit),
-      tall_x_(new TallEditor(x_)),
-      tall_y_(new TallEditor(y_)),
       curves_(new PlotView),
       residuals_(new PlotView),
       coefficients_(
@@ -67,8 +65,7 @@ QLayout* RegressionPage::MakeEditors() {
   x_->setLabelWidth(6 * fontMetrics().averageCharWidth());
   y_->setObjectName("y");
   for (TQorVectorEdit* const editor : {static_cast<TQorVectorEdit*>(x_), y_}) {
-    editor->setCellWidth(14 * fontMetrics().averageCharWidth());
-    editor->setBlankWhenNull(true);
+    SetUpValueEditor(*editor);
     connect(editor, &TQorVectorEdit::OnChange, this, &RegressionPage::RefreshSoon);
     connect(editor, &TQorVectorEdit::OnBlockRefused, message_, &MessageBar::SetText);
     connect(editor, &TQorVectorEdit::OnTextRefused, message_, &MessageBar::SetText);
@@ -94,7 +91,8 @@ QLayout* RegressionPage::MakeEditors() {
   head->addWidget(example);
 
   auto* const editors = new QHBoxLayout;
-  for (const auto& [editor, name] : {std::pair(tall_x_, tr("&x")), std::pair(tall_y_, tr("&y"))}) {
+  for (const auto& [editor, name] :
+       {std::pair(static_cast<TQorVectorEdit*>(x_), tr("&x")), std::pair(y_, tr("&y"))}) {
     auto* const column = new QVBoxLayout;
     column->addWidget(MakeHeading(name, editor));
     column->addWidget(editor, 1);
@@ -173,8 +171,6 @@ void RegressionPage::RefreshSoon() {
 
 void RegressionPage::Refresh() {
   refresh_is_due_ = false;
-  tall_x_->FitFormat(x_->Vector());
-  tall_y_->FitFormat(y_->Vector());
   const RegressionReport report(x_->Vector(), y_->Vector());
   remark_->setText(RemarkOn(report.LeftOut()));
   message_->SetText(report.WhyNot());

@@ -15,7 +15,6 @@ namespace qorvex::gallery {
 class FigureTable;
 class MessageBar;
 class PlotView;
-class TallEditor;
 
 /// Two editors, for x and y, that scroll together; diagrams of the pairs with their least-squares
 /// line and parabola, and of the residuals; and the coefficients of both with their standard errors
@@ -46,8 +45,6 @@ class RegressionPage : public QWidget {
   QSpinBox* rows_;
   TQorLabelledVectorEdit* x_;
   TQorVectorEdit* y_;
-  TallEditor* tall_x_;
-  TallEditor* tall_y_;
   PlotView* curves_;
   PlotView* residuals_;
   FigureTable* coefficients_;

@@ -54,8 +54,12 @@ void CellPanel::Build(CellFactory make_cell, int row_edits, int col_edits) {
 }
 
 void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
-  const auto row = [this, place] { return Rows().Top() + place.row; };
-  const auto col = [this, place] { return Cols().Top() + place.col; };
+  const auto row = [this, place] {
+    return parts_->typed_place ? parts_->typed_place->row : Rows().Top() + place.row;
+  };
+  const auto col = [this, place] {
+    return parts_->typed_place ? parts_->typed_place->col : Cols().Top() + place.col;
+  };
   connect(&cell, &TQorCustomEdit::Entered, this, [=, this, &cell] {
     parts_->focus.Enter(cell, place, false);
     table_.Notify(CellEvent::kEnter, row(), col());
@@ -84,17 +88,26 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
   }
   // The cell may have shown null in place of the element.
   const Extended before = table_.Value(row, col);
+  const detail::ModelLink::Element element(parts_->model, {row, col});
   try {
-    table_.Store(row, col, value);
+    if (!table_.Store(row, col, value)) {
+      cell.Refresh(before);
+      RefuseBlock(detail::NotStored(table_.CellName(row, col), cell.ExactText(value)));
+      return;
+    }
   } catch (const std::bad_alloc&) {
     // A table that is longer than memory allows gets its memory now.
     cell.Refresh(before);
     RefuseBlock(detail::OutOfMemory());
     return;
   }
+  // A model may have sorted the element to another place, or hidden it.
+  const std::optional<detail::CellPlace> place = element.Place();
+  if (!place) return;
   // In virtual mode the program may have stored another value.
-  cell.Refresh(table_.Value(row, col));
-  parts_->history.Record({row, col, before});
+  const Extended now = table_.Value(place->row, place->col);
+  if (place == element.Origin()) cell.Refresh(now);
+  parts_->history.Record({place->row, place->col, before});
 }
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
@@ -118,6 +131,7 @@ void CellPanel::FitGrid() {
 }
 
 void CellPanel::Redisplay() {
+  parts_->model.FetchRow(Rows().Top() + Rows().Edits());
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
   parts_->focus.Lead();
@@ -166,6 +180,9 @@ void CellPanel::changeEvent(QEvent* event) {
       NameBars();
       Redisplay();
       break;
+    case QEvent::LocaleChange:
+      Redisplay();
+      break;
     default:
       break;
   }
@@ -173,6 +190,7 @@ void CellPanel::changeEvent(QEvent* event) {
 
 void CellPanel::resizeEvent(QResizeEvent* event) {
   TQorCustomPanel::resizeEvent(event);
+  has_size_ = true;
   Arrange();
 }
 

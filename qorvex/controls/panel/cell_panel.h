@@ -3,11 +3,13 @@
 /// @file
 /// CellPanel, the grid of cells that the editors of vectors and matrices share.
 
+#include <QAbstractItemModel>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "qorvex/base/export.h"
 #include "qorvex/base_controls/custom_edit.h"
@@ -30,6 +32,7 @@ struct CellPlace;
 struct EditWindowEvents;
 struct PanelHeadingEvents;
 struct PanelParts;
+struct TypedMove;
 enum class CurrentRule;
 }  // namespace detail
 /// @endcond
@@ -127,9 +130,24 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @{
   /// Whether the elements are requested and passed on one by one instead of being stored here;
   /// false by default. Leaving the mode shows the elements that were stored before it.
-  [[nodiscard]] bool VirtualMode() const noexcept { return virtual_mode_; }
+  [[nodiscard]] bool VirtualMode() const noexcept { return virtual_mode_ || Model() != nullptr; }
   void setVirtualMode(bool on);
   void resetVirtualMode() { setVirtualMode(false); }
+  /// @}
+
+  /// @{
+  /// The model of Qt that supplies and stores the elements; none by default. The editor is in
+  /// virtual mode meanwhile, and its size is the model's; setting the size asks the model to insert
+  /// or remove at its end. Without a model, the editor has its own elements again. The model is not
+  /// owned, and may be deleted at any time.
+  ///
+  /// Cells read and write the role EditRole: numbers, and texts, which are read as plain decimal
+  /// numbers first and then in the locale of the editor. Anything else is shown as null. What is
+  /// written has the type of the number that the item held, if that type can hold the value
+  /// exactly; otherwise it is the shortest decimal text of the value. Null is a variant without a
+  /// value. Items that cannot be edited are read-only.
+  [[nodiscard]] QAbstractItemModel* Model() const noexcept;
+  void setModel(QAbstractItemModel* model);
   /// @}
 
   /// @{
@@ -343,6 +361,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
 
  private:
   friend struct detail::PanelParts;
+  [[nodiscard]] std::optional<detail::CellPlace> TypedPlace() const;
+  void ModelChanged(const TQorCellRange& range);
+  void ModelMoved(const detail::TypedMove& typed);
+  void ModelDeleted();
+  void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
   void AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
@@ -376,6 +399,10 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool virtual_mode_ = false;
   bool can_grow_ = false;
   bool auto_edits_ = false;
+  // Qt sends the size when the panel is shown; until then it is not the one that a layout gives.
+  bool has_size_ = false;
+  // While there is a model: the size of the table without it.
+  std::optional<TQorCellRange> own_size_;
   std::unique_ptr<detail::PanelParts> parts_;
 };
 

@@ -91,8 +91,7 @@ bool CellPanel::NeedsBar(const detail::PanelAxis& axis) const {
 }
 
 void CellPanel::FitEdits() {
-  // Its size is not its own until it is shown.
-  if (!auto_edits_ || testAttribute(Qt::WA_PendingResizeEvent)) return;
+  if (!auto_edits_ || !has_size_) return;
   const detail::GridGeometry& geometry = parts_->geometry;
   const QSize room = contentsRect().size() - QSize(geometry.HeaderWidth(), geometry.HeaderHeight());
   const detail::EditWindow& rows = Rows();
@@ -129,11 +128,8 @@ void CellPanel::Place() {
   const QSize bars(NeedsBar(parts_->rows) ? BarExtent() : 0,
                    NeedsBar(parts_->cols) ? BarExtent() : 0);
   QSize cells = parts_->geometry.Size();
-  if (auto_edits_) {
-    const QSize room = contentsRect().size() - bars;
-    cells.setHeight(room.height());
-    if (parts_->cols.Bar()) cells.setWidth(room.width());
-  }
+  // Two bars meet in the corner of the panel, wherever the last cells end.
+  if (auto_edits_ && parts_->cols.Bar()) cells = contentsRect().size() - bars;
   const int left = parts_->geometry.HeaderWidth();
   const int top = parts_->geometry.HeaderHeight();
   const auto place = [this](QWidget* widget, const QRect& rectangle) {

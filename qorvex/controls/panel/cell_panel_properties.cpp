@@ -75,6 +75,11 @@ void CellPanel::setTabStop(bool stop) {
 
 void CellPanel::setVirtualMode(bool on) {
   if (on == virtual_mode_) return;
+  if (Model() != nullptr) {
+    // It has no effect before the model is gone.
+    virtual_mode_ = on;
+    return;
+  }
   parts_->focus.CommitPending();
   parts_->history.Forget();
   virtual_mode_ = on;

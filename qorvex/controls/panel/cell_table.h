@@ -33,9 +33,10 @@ class QORVEX_EXPORT CellTable {
   [[nodiscard]] virtual quint32 ColCount() const = 0;
   /// @}
   /// @{
-  /// One element, of which there is one in the given row and column. NaN is null.
+  /// One element, of which there is one in the given row and column. NaN is null. Store is false if
+  /// the element refuses the value.
   [[nodiscard]] virtual Extended Value(quint32 row, quint32 col) const = 0;
-  virtual void Store(quint32 row, quint32 col, Extended value) = 0;
+  virtual bool Store(quint32 row, quint32 col, Extended value) = 0;
   /// @}
   /// Whether the elements are the program's: it stores them, and inserts and removes lines.
   [[nodiscard]] virtual bool IsVirtual() const = 0;
@@ -52,6 +53,8 @@ class QORVEX_EXPORT CellTable {
   /// after the lines have been removed and inserted again. Empty if there is nothing.
   [[nodiscard]] virtual std::function<void()> KeepLineData(CellAxis axis, quint32 first,
                                                            quint32 count) = 0;
+  /// Whether the element cannot be changed.
+  [[nodiscard]] virtual bool IsReadOnly(quint32 row, quint32 col) const = 0;
   /// The name of the element's cell, for screen readers and messages.
   [[nodiscard]] virtual QString CellName(quint32 row, quint32 col) const = 0;
   /// @{
@@ -72,6 +75,9 @@ class QORVEX_EXPORT CellTable {
   /// @}
   /// Virtual mode has been turned on or off.
   virtual void VirtualModeChanged() = 0;
+  /// Gives the table another size: that of a model, or its own again. Raises the signals of a
+  /// change.
+  virtual void SetSize(quint32 rows, quint32 cols) = 0;
 
  protected:
   ~CellTable() = default;

@@ -101,4 +101,10 @@ QString NotChangeable() {
   return QCoreApplication::translate("CellPanel", "These values cannot be changed.");
 }
 
+QString NotStored(const QString& cell_name, const QString& text) {
+  return QCoreApplication::translate("CellPanel", "%1: \"%2\" cannot be stored.",
+                                     "name of a cell, its text")
+      .arg(cell_name, text);
+}
+
 }  // namespace qorvex::inline QorvexControls::detail

@@ -46,6 +46,7 @@ struct PasteResult {
 [[nodiscard]] QString TooManyValues(quint64 values);
 [[nodiscard]] QString OutOfMemory();
 [[nodiscard]] QString NotChangeable();
+[[nodiscard]] QString NotStored(const QString& cell_name, const QString& text);
 /// @}
 
 }  // namespace qorvex::inline QorvexControls::detail

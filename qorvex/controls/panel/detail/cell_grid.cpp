@@ -131,9 +131,10 @@ void CellGrid::Apply(const CellSettings& settings, Qt::FocusPolicy focus) {
 void CellGrid::ApplyToCells(const CellSettings& settings) {
   settings_ = settings;
   for (std::size_t c = 0; c < cols_.Edits(); ++c) {
-    const CellSettings of_column = SettingsOf(cols_.Top() + static_cast<quint32>(c));
+    CellSettings of_column = SettingsOf(cols_.Top() + static_cast<quint32>(c));
     // A text that is committed on the way may change how many cells there are.
     for (std::size_t r = 0; r < cells_.size() && c < cells_[r].size(); ++r) {
+      of_column.read_only = IsReadOnly(r, c);
       cells_[r][c]->setSettings(of_column);
     }
   }
@@ -153,6 +154,12 @@ QString CellGrid::TextFor(quint32 col, Extended value) const {
   cell->setLocale(panel_.locale());
   cell->setSettings(SettingsOf(col));
   return cell->TextFor(value);
+}
+
+bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
+  return settings_.read_only ||
+         (IsUsed(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
+                                                cols_.Top() + static_cast<quint32>(col)));
 }
 
 void CellGrid::ApplyToHeader(const CellSettings& settings) {
@@ -177,6 +184,7 @@ void CellGrid::Show() {
       // The spare line has cells, but no elements yet.
       if (IsUsed(r, c) && row < table_.RowCount()) {
         const Extended value = table_.Value(row, col);
+        cell->setReadOnly(IsReadOnly(r, c));
         cell->Refresh(value);
         cell->SetSpecialColor(table_.SpecialColor(row, col, value));
       } else {

@@ -21,6 +21,8 @@ namespace qorvex::inline QorvexControls::detail {
 struct CellPlace {
   quint32 row = 0;
   quint32 col = 0;
+
+  friend bool operator==(const CellPlace&, const CellPlace&) = default;
 };
 
 /// A column of texts in front of the cells.
@@ -109,6 +111,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
   void ApplyToCells(const CellSettings& settings);
   [[nodiscard]] CellSettings SettingsOf(quint32 col) const;
+  // By the settings, or because the element is.
+  [[nodiscard]] bool IsReadOnly(std::size_t row, std::size_t col) const;
   void FitHeader(QWidget* before);
   void DropCell(TQorCustomEdit* cell);
   void Drop(TextCell* text);

@@ -38,16 +38,8 @@ void PanelHeadings::SetRows(bool on) {
   if (on == HasRows()) return;
   if (on) {
     row_bar_ = new HeadingBar(panel_, Qt::Vertical, rows_, geometry_,
-                              {.text =
-                                   [this](quint32 row) {
-                                     return row < table_.RowCount() ? table_.RowHeading(row)
-                                                                    : QString(kSpareMark);
-                                   },
-                               .is_selected =
-                                   [this](quint32 row) {
-                                     const TQorCellRange selected = events_.selection();
-                                     return row - selected.row < selected.rows;
-                                   },
+                              {.text = [this](quint32 row) { return RowText(row); },
+                               .is_selected = [this](quint32 row) { return IsRowSelected(row); },
                                .select = events_.select_row,
                                .resize = {}});
     row_bar_->setObjectName(QStringLiteral("RowHeadings"));
@@ -62,19 +54,11 @@ void PanelHeadings::SetRows(bool on) {
 void PanelHeadings::SetCols(bool on) {
   if (on == HasCols()) return;
   if (on) {
-    col_bar_ =
-        new HeadingBar(panel_, Qt::Horizontal, cols_, geometry_,
-                       {.text =
-                            [this](quint32 col) {
-                              return col < table_.ColCount() ? table_.ColHeading(col) : QString();
-                            },
-                        .is_selected =
-                            [this](quint32 col) {
-                              const TQorCellRange selected = events_.selection();
-                              return col - selected.col < selected.cols;
-                            },
-                        .select = events_.select_col,
-                        .resize = events_.resize_col});
+    col_bar_ = new HeadingBar(panel_, Qt::Horizontal, cols_, geometry_,
+                              {.text = [this](quint32 col) { return ColText(col); },
+                               .is_selected = [this](quint32 col) { return IsColSelected(col); },
+                               .select = events_.select_col,
+                               .resize = events_.resize_col});
     col_bar_->setObjectName(QStringLiteral("ColHeadings"));
     col_bar_->show();
   } else {
@@ -82,6 +66,25 @@ void PanelHeadings::SetCols(bool on) {
     geometry_.SetHeaderHeight(0);
   }
   FitCorner();
+}
+
+// A row or a column that waits for its first element has no heading yet.
+QString PanelHeadings::RowText(quint32 row) const {
+  return row < table_.RowCount() ? table_.RowHeading(row) : QString(kSpareMark);
+}
+
+QString PanelHeadings::ColText(quint32 col) const {
+  return col < table_.ColCount() ? table_.ColHeading(col) : QString();
+}
+
+bool PanelHeadings::IsRowSelected(quint32 row) const {
+  const TQorCellRange selected = events_.selection();
+  return row - selected.row < selected.rows;
+}
+
+bool PanelHeadings::IsColSelected(quint32 col) const {
+  const TQorCellRange selected = events_.selection();
+  return col - selected.col < selected.cols;
 }
 
 void PanelHeadings::FitCorner() {

@@ -57,6 +57,10 @@ class PanelHeadings {
 
  private:
   void FitCorner();
+  [[nodiscard]] QString RowText(quint32 row) const;
+  [[nodiscard]] QString ColText(quint32 col) const;
+  [[nodiscard]] bool IsRowSelected(quint32 row) const;
+  [[nodiscard]] bool IsColSelected(quint32 col) const;
 
   QWidget& panel_;
   const CellTable& table_;

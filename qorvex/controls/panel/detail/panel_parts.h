@@ -3,12 +3,14 @@
 /// @file
 /// The parts that a CellPanel is made of.
 
+#include <optional>
 #include <utility>
 
 #include "qorvex/controls/panel/cell_panel.h"
 #include "qorvex/controls/panel/detail/block_clipboard.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/change_history.h"
+#include "qorvex/controls/panel/detail/model_link.h"
 #include "qorvex/controls/panel/detail/panel_axis.h"
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_headings.h"
@@ -33,6 +35,12 @@ struct PanelParts {
                  .out_of_memory = [&panel] { panel.RefuseBlock(OutOfMemory()); },
                  .can_undo_changed = [&panel](bool can) { Q_EMIT panel.OnCanUndoChange(can); },
                  .can_redo_changed = [&panel](bool can) { Q_EMIT panel.OnCanRedoChange(can); }}),
+        model({.locale = [&panel] { return panel.locale(); },
+               .typed = [&panel] { return panel.TypedPlace(); },
+               .changed = [&panel](const TQorCellRange& range) { panel.ModelChanged(range); },
+               .headings_changed = [&panel] { panel.Redisplay(); },
+               .moved = [&panel](const TypedMove& typed) { panel.ModelMoved(typed); },
+               .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
@@ -60,6 +68,7 @@ struct PanelParts {
   CellTable& table;
   SharedSettings settings;
   ChangeHistory history;
+  ModelLink model;
   PanelAxis rows;
   PanelAxis cols;
   GridGeometry geometry;
@@ -67,6 +76,8 @@ struct PanelParts {
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
+  // Where the typed text belongs, while that is not where its cell is.
+  std::optional<CellPlace> typed_place;
   QWidget* corner = nullptr;
 };
 

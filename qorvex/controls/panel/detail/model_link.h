@@ -1,0 +1,120 @@
+#pragma once
+
+/// @file
+/// ModelLink, the model of Qt that supplies the elements of a panel.
+
+#include <QAbstractItemModel>
+#include <QLocale>
+#include <QPersistentModelIndex>
+#include <QPointer>
+#include <functional>
+#include <optional>
+
+#include "qorvex/base/element_types.h"
+#include "qorvex/controls/panel/cell_range.h"
+#include "qorvex/controls/panel/detail/cell_grid.h"
+
+namespace qorvex::inline QorvexControls::detail {
+
+/// What has become of the element whose text is being typed.
+struct TypedMove {
+  bool is_gone = false;
+  std::optional<CellPlace> to;  ///< Its new place, if it has another one.
+};
+
+/// Reads and writes the elements of a panel in the items of a model, role EditRole, and tells the
+/// panel what happens to them. Without a model it does nothing.
+class ModelLink : public QObject {
+ public:
+  /// What the panel does.
+  struct Owner {
+    /// The locale in which items that hold a text are read.
+    std::function<QLocale()> locale;
+    /// The place of the element whose text is being typed, if there is one.
+    std::function<std::optional<CellPlace>()> typed;
+    /// Elements have other values.
+    std::function<void(const TQorCellRange& range)> changed;
+    /// Headings have other texts.
+    std::function<void()> headings_changed;
+    /// There may be more or fewer elements, or they may be in other places; the one whose text is
+    /// being typed, as far as that is known, has gone from one place to another or is gone.
+    std::function<void(const TypedMove& typed)> moved;
+    /// The model is being deleted.
+    std::function<void()> deleted;
+  };
+
+  /// No model.
+  explicit ModelLink(Owner owner);
+
+  [[nodiscard]] QAbstractItemModel* Linked() const noexcept { return model_; }
+  /// Links to another model, or to none.
+  void Link(QAbstractItemModel* model);
+  /// @{
+  /// The column of the model that is the first column of the panel, 0 by default.
+  [[nodiscard]] int FirstCol() const noexcept { return first_col_; }
+  void SetFirstCol(int col) { first_col_ = col; }
+  /// @}
+
+  /// @{
+  /// The size of the model from the first column on.
+  [[nodiscard]] quint32 RowCount() const;
+  [[nodiscard]] quint32 ColCount() const;
+  /// @}
+  /// The value of an item; null if it is not a number or does not exist.
+  [[nodiscard]] Extended Value(quint32 row, quint32 col) const;
+  /// False if the model refuses the value.
+  [[nodiscard]] bool Store(quint32 row, quint32 col, Extended value);
+  /// Whether the model does not let the user change the item.
+  [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const;
+
+  /// The text of the model for the heading of a row (Qt::Vertical) or a column.
+  [[nodiscard]] QString Heading(quint32 section, Qt::Orientation orientation) const;
+
+  /// @{
+  /// Insert or remove rows or columns, or do so at the end until there are as many as given. False
+  /// if the model refuses.
+  bool InsertRows(quint32 row, quint32 count);
+  bool RemoveRows(quint32 row, quint32 count);
+  bool InsertCols(quint32 col, quint32 count);
+  bool RemoveCols(quint32 col, quint32 count);
+  bool SetRowCount(quint32 rows);
+  bool SetColCount(quint32 cols);
+  /// @}
+  /// Models that fetch their rows step by step are asked for more until the row exists.
+  void FetchRow(quint32 row);
+
+  /// An element of the model, which is found again after a change.
+  class Element {
+   public:
+    /// The element at a place.
+    Element(const ModelLink& link, CellPlace place)
+        : link_(&link), place_(place), index_(link.Index(place.row, place.col)) {}
+    /// Where it is now; nothing if it is gone. Without a model it stays.
+    [[nodiscard]] std::optional<CellPlace> Place() const {
+      return link_->Linked() ? link_->PlaceOf(index_) : place_;
+    }
+    /// Where it was.
+    [[nodiscard]] CellPlace Origin() const { return place_; }
+
+   private:
+    const ModelLink* link_;
+    CellPlace place_;
+    QPersistentModelIndex index_;
+  };
+
+ private:
+  [[nodiscard]] QModelIndex Index(quint32 row, quint32 col) const;
+  [[nodiscard]] std::optional<CellPlace> PlaceOf(const QPersistentModelIndex& index) const;
+  void ConnectMoves();
+  void HoldTyped();
+  void Changed(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) const;
+  void Moved();
+
+  Owner owner_;
+  QPointer<QAbstractItemModel> model_;
+  int first_col_ = 0;
+  // The element whose text is being typed, while the model moves elements.
+  std::optional<Element> typed_;
+};
+
+}  // namespace qorvex::inline QorvexControls::detail
