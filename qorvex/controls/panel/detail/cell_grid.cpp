@@ -140,6 +140,12 @@ void CellGrid::ApplyToCells(const CellSettings& settings) {
   }
 }
 
+bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
+  return settings_.read_only ||
+         (IsUsed(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
+                                                cols_.Top() + static_cast<quint32>(col)));
+}
+
 CellSettings CellGrid::SettingsOf(quint32 col) const {
   CellSettings settings = settings_;
   const auto format = col_formats_.find(col);
@@ -154,12 +160,6 @@ QString CellGrid::TextFor(quint32 col, Extended value) const {
   cell->setLocale(panel_.locale());
   cell->setSettings(SettingsOf(col));
   return cell->TextFor(value);
-}
-
-bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
-  return settings_.read_only ||
-         (IsUsed(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
-                                                cols_.Top() + static_cast<quint32>(col)));
 }
 
 void CellGrid::ApplyToHeader(const CellSettings& settings) {

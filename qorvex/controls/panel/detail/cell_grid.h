@@ -110,9 +110,9 @@ class CellGrid : private QAccessible::ActivationObserver {
   void NameCells();
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
   void ApplyToCells(const CellSettings& settings);
-  [[nodiscard]] CellSettings SettingsOf(quint32 col) const;
   // By the settings, or because the element is.
   [[nodiscard]] bool IsReadOnly(std::size_t row, std::size_t col) const;
+  [[nodiscard]] CellSettings SettingsOf(quint32 col) const;
   void FitHeader(QWidget* before);
   void DropCell(TQorCustomEdit* cell);
   void Drop(TextCell* text);
