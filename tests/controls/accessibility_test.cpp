@@ -134,6 +134,7 @@ TYPED_TEST(AccessibleEditors, HaveCellsThatCanBeEditedLikeOtherTexts) {
   edit->insertText(0, "1");
   EXPECT_EQ(this->Get(1), 75);
   EXPECT_TRUE(cell->state().readOnly);
+  EXPECT_TRUE(this->Table()->cellAt(8, 0)->state().readOnly) << "out of sight";
 }
 
 TYPED_TEST(AccessibleEditors, HaveNames) {

@@ -84,6 +84,12 @@ bool AccessiblePanel::HasColHeadings() const {
   return Parts() != nullptr && Parts()->headings.HasCols();
 }
 
+bool AccessiblePanel::IsReadOnly(const AccessiblePlace& place) const {
+  if (place.kind != Kind::kElement || state().readOnly) return true;
+  const CellTable& table = Parts()->table;
+  return place.row < table.RowCount() && table.IsReadOnly(place.row, place.col);
+}
+
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
   return place.kind == Kind::kElement ? Parts()->table.CellName(place.row, place.col) : Text(place);
 }
