@@ -225,8 +225,7 @@ void TQorVectorEdit::VirtualModeChanged() {
 }
 
 void TQorVectorEdit::CopyRows(quint32 first, quint32 count) {
-  const quint32 begin = std::min(first, NoOfRows());
-  CopyBlock({begin, std::min(count, NoOfRows() - begin), 0, 1});
+  CopyCells({first, count, 0, 1});
 }
 
 }  // namespace qorvex::inline QorvexVectorEdit

@@ -15,6 +15,9 @@
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
+#include "qorvex/controls/panel/detail/panel_mouse.h"
+#include "qorvex/controls/panel/detail/panel_selection.h"
+#include "qorvex/controls/panel/detail/panel_wheel.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -45,7 +48,14 @@ struct PanelParts {
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
         focus(panel, rows, cols, grid, rule),
-        keys(panel, rows, cols, focus),
+        selection(panel.table_, rows.Window(), cols.Window(), grid,
+                  [this, &panel] {
+                    headings.Update();
+                    Q_EMIT panel.OnSelectionChange();
+                  }),
+        mouse(panel, rows, cols, grid, focus, selection),
+        wheel(panel, rows, cols),
+        keys(panel, rows, cols, focus, selection, mouse, wheel),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
@@ -73,6 +83,9 @@ struct PanelParts {
   PanelAxis cols;
   GridGeometry geometry;
   PanelFocus focus;
+  PanelSelection selection;
+  PanelMouse mouse;
+  PanelWheel wheel;
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
