@@ -54,6 +54,7 @@ std::unique_ptr<QWidget> Growing() {
   const std::unique_ptr<QMenu> entries(
       table->findChildren<TQorFloatEdit*>().at(2)->CreateContextMenu());
   menu->setPixmap(entries->grab());
+  form->adjustSize();
   table->setRowEditFocus(4);
   QTest::keyClicks(table->focusProxy(), "5");
   return form;
