@@ -1,3 +1,4 @@
+#include <QAction>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -50,11 +51,15 @@ std::unique_ptr<QWidget> Growing() {
   layout->addWidget(menu, 0, Qt::AlignTop);
   form->show();
   if (!QTest::qWaitForWindowActive(form.get())) return form;
-  table->SelectRows(1, 2);
+  // So that there is something to undo.
+  table->LinearTransform(1, 0);
   const std::unique_ptr<QMenu> entries(
       table->findChildren<TQorFloatEdit*>().at(2)->CreateContextMenu());
+  // The last ones, since all of them are higher than the screen.
+  QList<QAction*> actions = entries->actions();
+  while (!actions.front()->text().startsWith("Undo")) actions.takeFirst()->setVisible(false);
   menu->setPixmap(entries->grab());
-  form->adjustSize();
+  form->resize(form->sizeHint());
   table->setRowEditFocus(4);
   QTest::keyClicks(table->focusProxy(), "5");
   return form;
