@@ -17,6 +17,7 @@
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/panel_mouse.h"
 #include "qorvex/controls/panel/detail/panel_selection.h"
+#include "qorvex/controls/panel/detail/panel_wheel.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -33,6 +34,7 @@ struct PanelParts {
                        const CellPanel::Update update(panel);
                        run();
                      },
+                 .follow = [this](const ElementChanges& changes) { return model.Follow(changes); },
                  .restored = [&panel] { Q_EMIT panel.OnUndo(); },
                  .out_of_memory = [&panel] { panel.RefuseBlock(OutOfMemory()); },
                  .can_undo_changed = [&panel](bool can) { Q_EMIT panel.OnCanUndoChange(can); },
@@ -41,7 +43,7 @@ struct PanelParts {
                .typed = [&panel] { return panel.TypedPlace(); },
                .changed = [&panel](const TQorCellRange& range) { panel.ModelChanged(range); },
                .headings_changed = [&panel] { panel.Redisplay(); },
-               .moved = [&panel](const TypedMove& typed) { panel.ModelMoved(typed); },
+               .moved = [&panel](const ModelMove& move) { panel.ModelMoved(move); },
                .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
@@ -53,7 +55,8 @@ struct PanelParts {
                     Q_EMIT panel.OnSelectionChange();
                   }),
         mouse(panel, rows, cols, grid, focus, selection),
-        keys(panel, rows, cols, focus, selection, mouse),
+        wheel(panel, rows, cols),
+        keys(panel, rows, cols, focus, selection, mouse, wheel),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
@@ -83,6 +86,7 @@ struct PanelParts {
   PanelFocus focus;
   PanelSelection selection;
   PanelMouse mouse;
+  PanelWheel wheel;
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
