@@ -418,6 +418,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SetLines(detail::PanelAxis& axis, quint32 count, bool spare);
   [[nodiscard]] bool MayGrow(CellAxis axis) const;
   [[nodiscard]] Extended NewElement() const;
+  [[nodiscard]] TQorCellRange SelectedBlock() const;
   [[nodiscard]] CellAxis AxisOfSelection() const;
   void ChangeSelectedLines(CellAxis axis, bool insert);
   void AddHistoryToMenu(QMenu& menu);

@@ -88,7 +88,10 @@ void CellPanel::connectNotify(const QMetaMethod& signal) {
 }
 
 void CellPanel::disconnectNotify(const QMetaMethod& signal) {
-  connectNotify(signal);
+  // Later: Qt holds the lock that isSignalConnected takes.
+  if (signal != QMetaMethod::fromSignal(&CellPanel::OnInsertRows)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { FitSpareRow(); }, Qt::QueuedConnection);
 }
 
 Extended CellPanel::NewElement() const {
@@ -140,11 +143,18 @@ void CellPanel::DeleteRows(quint32 row, quint32 count) {
   DeleteLines(CellAxis::kRows, row, count);
 }
 
+TQorCellRange CellPanel::SelectedBlock() const {
+  const TQorCellRange selected = Selection();
+  if (!selected.IsEmpty()) return selected;
+  // Where an empty table begins.
+  return {Rows().Top() + Rows().Focus(), 1, Cols().Top() + Cols().Focus(), 1};
+}
+
 void CellPanel::ChangeSelectedLines(CellAxis axis, bool insert) {
   if (!MayGrow(axis)) return;
   parts_->focus.CommitPending();
   const bool rows = axis == CellAxis::kRows;
-  const TQorCellRange block = Selection();
+  const TQorCellRange block = SelectedBlock();
   const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
   const quint32 first = std::min(rows ? block.row : block.col, lines);
   const quint32 room = (insert ? std::numeric_limits<quint32>::max() - lines : lines - first);
@@ -157,7 +167,7 @@ void CellPanel::ChangeSelectedLines(CellAxis axis, bool insert) {
 }
 
 CellAxis CellPanel::AxisOfSelection() const {
-  const TQorCellRange block = Selection();
+  const TQorCellRange block = SelectedBlock();
   const bool all_rows = block.row == 0 && block.rows >= table_.RowCount();
   const bool all_cols = block.col == 0 && block.cols >= table_.ColCount();
   return all_rows && !all_cols ? CellAxis::kCols : CellAxis::kRows;

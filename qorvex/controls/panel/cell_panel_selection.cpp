@@ -103,8 +103,7 @@ bool CellPanel::RequireChangeable() {
 bool CellPanel::ChangeBlock(const QString& step, const BlockPlan& plan) {
   parts_->focus.CommitPending();
   if (!RequireChangeable()) return false;
-  const TQorCellRange selection = Selection();
-  detail::BlockChanges block = plan(selection);
+  detail::BlockChanges block = plan(SelectedBlock());
   if (std::ranges::any_of(block.changes, [this](const detail::ElementChange& change) {
         return change.row < table_.RowCount() && change.col < table_.ColCount() &&
                table_.IsReadOnly(change.row, change.col);
