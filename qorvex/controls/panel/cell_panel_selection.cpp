@@ -103,7 +103,8 @@ bool CellPanel::RequireChangeable() {
 bool CellPanel::ChangeBlock(const QString& step, const BlockPlan& plan) {
   parts_->focus.CommitPending();
   if (!RequireChangeable()) return false;
-  detail::BlockChanges block = plan(SelectedBlock());
+  const TQorCellRange selection = Selection();
+  detail::BlockChanges block = plan(selection);
   if (std::ranges::any_of(block.changes, [this](const detail::ElementChange& change) {
         return change.row < table_.RowCount() && change.col < table_.ColCount() &&
                table_.IsReadOnly(change.row, change.col);

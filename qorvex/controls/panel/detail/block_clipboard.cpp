@@ -63,7 +63,7 @@ BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const
   if (rows > room_below || !cell) return {{}, {}, TooManyRows(rows, room_below)};
   if (cols > room_beside) return {{}, {}, TooManyCols(cols, room_beside)};
 
-  const bool covers = target.rows % rows == 0 && target.cols % cols == 0;
+  const bool covers = !target.IsEmpty() && target.rows % rows == 0 && target.cols % cols == 0;
   const quint64 height = covers ? target.rows : rows;
   const quint64 width = covers ? target.cols : cols;
   BlockChanges result;
