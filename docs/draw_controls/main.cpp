@@ -31,6 +31,7 @@ const struct {
     {"cells", Cells},
     {"editing", Editing},
     {"form", WeighingForm},
+    {"growing", Growing},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},
