@@ -65,6 +65,9 @@ TEST_F(CellNumbers, AreGroupedForReadingOnly) {
   EXPECT_EQ(cell->text(), "-1234567.5000");
   cell->setFocus();
   EXPECT_EQ(cell->PaintedText(), "-1234567.5000") << "for editing and copying";
+  Enter(cell, "1,234");
+  EXPECT_EQ(cell->Value(), 1234) << "as it shows it";
+  cell->setValue(-1234567.5L);
   fraction->setFocus();
   cell->setFixedWidth(90);
   EXPECT_EQ(cell->PaintedText(), "-1,234,567.5") << "with the decimals that fit";
