@@ -49,6 +49,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// Whether a text that is selected as a whole counts as being edited when it has the focus; true
   /// by default. In a panel it does not until the user edits it.
   void SetEditing(bool editing);
+  /// The width in pixels at which the whole text fits.
+  [[nodiscard]] int FittingWidth() const;
 
   /// Whether a press of the mouse, not yet released, has entered the cell.
   [[nodiscard]] bool EnteredByMouse() const noexcept { return entered_by_mouse_; }
@@ -107,6 +109,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
 
  private:
   void PasteFrom(const QMimeData* contents);
+  void PaintText(const QString& painted);
+  void PaintLostFrame();
   [[nodiscard]] bool IsEdited() const;
   // Where the frame and the margins leave place for a text.
   [[nodiscard]] QRect Contents() const;
