@@ -29,6 +29,7 @@ const struct {
   std::unique_ptr<QWidget> (*make)();
 } kPictures[] = {
     {"cells", Cells},
+    {"editing", Editing},
     {"form", WeighingForm},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},

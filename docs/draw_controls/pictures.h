@@ -7,6 +7,7 @@
 #include <memory>
 
 std::unique_ptr<QWidget> Cells();
+std::unique_ptr<QWidget> Editing();
 std::unique_ptr<QWidget> WeighingForm();
 std::unique_ptr<QWidget> MathLabels();
 std::unique_ptr<QWidget> MathSymbols();
