@@ -136,6 +136,44 @@ TEST_F(GridLayout, EdgesOfColumnHeadingsCanBeDragged) {
   EXPECT_EQ(editor->width(), editor->sizeHint().width()) << "without a layout it widens itself";
 }
 
+TEST_F(GridLayout, HeadingsSelectRowsAndColumns) {
+  editor->setRowHeadings(true);
+  editor->setColHeadings(true);
+  Open(9, 5);
+  editor->setDisplayTopRow(2);
+  editor->setDisplayLeftCol(1);
+  QWidget* const rows = Headings("RowHeadings");
+  QWidget* const cols = Headings("ColHeadings");
+  const auto press = [](QWidget* bar, QPoint place, Qt::KeyboardModifiers held = {}) {
+    QTest::mousePress(bar, Qt::LeftButton, held, place);
+  };
+  const auto drag = [](QWidget* bar, QPoint to) {
+    QTest::mouseMove(bar, to);
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, to);
+  };
+  press(rows, {5, kHeight + 5});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{3, 1, 0, 5}));
+  EXPECT_EQ(editor->CurrentRow(), 3U) << "what is typed goes into the row";
+  drag(rows, {5, 3 * kHeight + 5});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{3, 3, 0, 5}));
+  press(rows, {5, 5}, Qt::ShiftModifier);
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{2, 2, 0, 5})) << "from the row pressed first";
+  QTest::mouseRelease(rows, Qt::LeftButton, {}, {5, 5});
+
+  Type("7");
+  press(cols, {2 * 81 + 20, 5});
+  EXPECT_NE(Take().find("change 3 1"), std::string::npos);
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{0, 9, 3, 1}));
+  EXPECT_EQ(editor->CurrentCol(), 3U);
+  QTest::mouseMove(cols, {3 * 81 + 50, 5});
+  EXPECT_TRUE(QTest::qWaitFor([this] { return editor->DisplayLeftCol() == 2; }))
+      << "beyond the headings the mouse scrolls";
+  QTest::mouseRelease(cols, Qt::LeftButton, {}, {3 * 81 + 50, 5});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{0, 9, 3, 2}));
+  QTest::mouseClick(editor->childAt(3, 3), Qt::LeftButton, {}, {3, 3});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{0, 9, 0, 5})) << "the corner selects all";
+}
+
 TEST_F(GridLayout, ColumnsKeepTheirWidthAndFormatWhenScrolled) {
   editor->setColWidth(3, 120);
   editor->setColWidth(1, 30);
