@@ -106,6 +106,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
 
  private:
   void PasteFrom(const QMimeData* contents);
+  void PaintText(const QString& painted);
+  void PaintLostFrame();
   [[nodiscard]] bool IsEdited() const;
   // Where the frame and the margins leave place for a text.
   [[nodiscard]] QRect Contents() const;

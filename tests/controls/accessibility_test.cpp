@@ -134,6 +134,7 @@ TYPED_TEST(AccessibleEditors, HaveCellsThatCanBeEditedLikeOtherTexts) {
   edit->insertText(0, "1");
   EXPECT_EQ(this->Get(1), 75);
   EXPECT_TRUE(cell->state().readOnly);
+  EXPECT_TRUE(this->Table()->cellAt(8, 0)->state().readOnly) << "out of sight";
 }
 
 TYPED_TEST(AccessibleEditors, HaveNames) {
@@ -237,6 +238,19 @@ TEST_F(AccessibleMatrix, IsEmptyWithoutElementsOrCells) {
   EXPECT_EQ(Table()->cellAt(1, 0)->tableCellInterface()->rowIndex(), 1);
   editor->setNoOfRowEdits(0);
   EXPECT_EQ(Panel()->childCount(), 0);
+}
+
+TEST(AccessibleCells, HaveAFrameInAPaletteOfHighContrast) {
+  TQorFloatEdit cell;
+  const auto edge = [&cell](const QColor& paper, const QColor& ink) {
+    QPalette palette(paper, paper);
+    palette.setColor(QPalette::Base, paper);
+    palette.setColor(QPalette::Text, ink);
+    cell.setPalette(palette);
+    return cell.grab().toImage().pixelColor(cell.width() / 2, 0);
+  };
+  EXPECT_GT(edge(Qt::black, Qt::white).lightness(), 100);
+  EXPECT_LT(edge(Qt::white, Qt::black).lightness(), 200);
 }
 
 }  // namespace qorvex

@@ -33,7 +33,7 @@ struct CellPlace;
 struct EditWindowEvents;
 struct PanelHeadingEvents;
 struct PanelParts;
-struct TypedMove;
+struct ModelMove;
 enum class CurrentRule;
 }  // namespace detail
 /// @endcond
@@ -409,7 +409,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   friend struct detail::PanelParts;
   [[nodiscard]] std::optional<detail::CellPlace> TypedPlace() const;
   void ModelChanged(const TQorCellRange& range);
-  void ModelMoved(const detail::TypedMove& typed);
+  void ModelMoved(const detail::ModelMove& move);
   void ModelDeleted();
   void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);

@@ -129,7 +129,7 @@ QAccessible::State AccessibleElement::state() const {
   state.offscreen = rect().isEmpty();
   state.focusable = place_.kind == Kind::kElement;
   state.disabled = table->state().disabled;
-  state.readOnly = table->state().readOnly || place_.kind != Kind::kElement;
+  state.readOnly = table->IsReadOnly(place_);
   return StateInTable(state);
 }
 

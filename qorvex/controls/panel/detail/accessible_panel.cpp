@@ -55,11 +55,12 @@ PanelParts* AccessiblePanel::Parts() const {
 }
 
 quint32 AccessiblePanel::Rows() const {
-  return Parts() == nullptr ? 0 : Parts()->table.RowCount();
+  // With the empty row that takes a new value.
+  return Parts() == nullptr ? 0 : Parts()->rows.Window().Count();
 }
 
 quint32 AccessiblePanel::Cols() const {
-  return Parts() == nullptr ? 0 : Parts()->table.ColCount();
+  return Parts() == nullptr ? 0 : Parts()->cols.Window().Count();
 }
 
 bool AccessiblePanel::Has(const AccessiblePlace& place) const {
@@ -83,12 +84,19 @@ bool AccessiblePanel::HasColHeadings() const {
   return Parts() != nullptr && Parts()->headings.HasCols();
 }
 
+bool AccessiblePanel::IsReadOnly(const AccessiblePlace& place) const {
+  if (place.kind != Kind::kElement || state().readOnly) return true;
+  const CellTable& table = Parts()->table;
+  return place.row < table.RowCount() && table.IsReadOnly(place.row, place.col);
+}
+
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
   return place.kind == Kind::kElement ? Parts()->table.CellName(place.row, place.col) : Text(place);
 }
 
 QString AccessiblePanel::Text(const AccessiblePlace& place) const {
   const PanelParts& parts = *Parts();
+  if (place.row >= parts.table.RowCount()) return {};
   switch (place.kind) {
     case Kind::kRowHeading:
       return parts.table.RowHeading(place.row);

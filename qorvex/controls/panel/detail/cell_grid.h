@@ -14,17 +14,10 @@
 #include "qorvex/controls/detail/edit_window.h"
 #include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/detail/cell_place.h"
 #include "qorvex/controls/panel/detail/grid_geometry.h"
 
 namespace qorvex::inline QorvexControls::detail {
-
-/// The row and the column of a cell in its grid.
-struct CellPlace {
-  quint32 row = 0;
-  quint32 col = 0;
-
-  friend bool operator==(const CellPlace&, const CellPlace&) = default;
-};
 
 /// A column of texts in front of the cells.
 struct RowHeader {
