@@ -148,6 +148,12 @@ QString TQorCustomEdit::ExactText(Extended value) const {
   return std::isnan(value) ? NullStr() : detail::LocalNumber(Float2Str(value), locale());
 }
 
+void TQorCustomEdit::SetSelected(bool selected) {
+  if (selected == selected_) return;
+  selected_ = selected;
+  ApplyColors();
+}
+
 void TQorCustomEdit::SetSpecialColor(const QColor& color) {
   if (color == special_color_) return;
   special_color_ = color;
@@ -187,9 +193,15 @@ void TQorCustomEdit::ApplyColors() {
   QColor background = colors.background;
   if (ReadOnly()) background = pick(colors.read_only_background, background);
   if (Inside()) background = pick(colors.focus_background, background);
+  const auto around = [this](QPalette::ColorRole role) {
+    return (parentWidget() ? parentWidget()->palette() : QApplication::palette()).color(role);
+  };
+  if (selected_ && !Inside()) {
+    text = around(QPalette::HighlightedText);
+    background = around(QPalette::Highlight);
+  }
   if (invalid_) {
-    const QPalette around = parentWidget() ? parentWidget()->palette() : QApplication::palette();
-    const bool dark = around.color(QPalette::Base).lightness() < 128;
+    const bool dark = around(QPalette::Base).lightness() < 128;
     text = pick(colors.invalid_text, dark ? QColor(0xff, 0xb4, 0xab) : QColor(0x93, 0x00, 0x0a));
     background =
         pick(colors.invalid_background, dark ? QColor(0x5c, 0x14, 0x14) : QColor(0xff, 0xda, 0xd6));
@@ -222,8 +234,8 @@ QString TQorCustomEdit::Tip() const {
 void TQorCustomEdit::changeEvent(QEvent* event) {
   TextCell::changeEvent(event);
   if (event->type() == QEvent::LocaleChange) ShowAnew();
-  // The colours of the mark depend on the palette around the cell.
-  if (event->type() == QEvent::PaletteChange && invalid_) ApplyColors();
+  // The colours of the marks depend on the palette around the cell.
+  if (event->type() == QEvent::PaletteChange && (invalid_ || selected_)) ApplyColors();
   if (event->type() == QEvent::StyleChange && colors_) colors_->StyleChanged(*this);
 }
 

@@ -95,6 +95,10 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// The text of a value with all its digits, for other programs.
   [[nodiscard]] QString ExactText(Extended value) const;
 
+  /// Marks the cell as one of several selected ones, with the colours of the palette; while it has
+  /// the focus, it keeps its own. False by default.
+  void SetSelected(bool selected);
+
   /// The colour of this value's text; invalid for the colour that the settings give it.
   void SetSpecialColor(const QColor& color);
 
@@ -154,6 +158,7 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   bool has_value_ = true;
   bool invalid_ = false;
   QString refusal_;
+  bool selected_ = false;
   QColor special_color_;
   // Made when a colour is to be shown.
   std::unique_ptr<detail::CellColors> colors_;

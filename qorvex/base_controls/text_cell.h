@@ -47,6 +47,9 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// selected.
   [[nodiscard]] QString PaintedText() const;
 
+  /// Whether a press of the mouse, not yet released, has entered the cell.
+  [[nodiscard]] bool EnteredByMouse() const noexcept { return entered_by_mouse_; }
+
   /// The menu that a click on the cell opens; the caller owns it.
   [[nodiscard]] QMenu* CreateContextMenu();
 

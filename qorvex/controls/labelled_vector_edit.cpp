@@ -195,6 +195,7 @@ TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* pa
       new LabelCell(panel, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
   connect(label, &TextCell::Entered, this, [this, label, row_edit] {
     Parts().focus.Enter(*label, {row_edit, 0}, true);
+    Parts().selection.Entered(label->EnteredByMouse());
   });
   connect(label, &TextCell::Left, this, [this, label, row_edit] {
     Parts().focus.Leave(*label);

@@ -192,7 +192,7 @@ bool TQorVectorEdit::CanInsert(CellAxis axis) const {
 
 void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) {
   if (Model() != nullptr) {
-    Parts().model.InsertLines(axis, first, count);
+    Parts().model.InsertLines(axis, first, count, value);
     return;
   }
   if (VirtualMode()) {
@@ -237,8 +237,7 @@ void TQorVectorEdit::VirtualModeChanged() {
 }
 
 void TQorVectorEdit::CopyRows(quint32 first, quint32 count) {
-  const quint32 begin = std::min(first, NoOfRows());
-  CopyBlock({begin, std::min(count, NoOfRows() - begin), 0, 1});
+  CopyCells({first, count, 0, 1});
 }
 
 }  // namespace qorvex::inline QorvexVectorEdit

@@ -122,9 +122,13 @@ TYPED_TEST(Growing, LeaveTheRowsOfVirtualModeToTheProgram) {
   this->editor->DeleteRows(1, 2);
   EXPECT_EQ(kept, (std::vector<Extended>{0, 3, 4}));
   EXPECT_FALSE(this->editor->CanUndo());
+  insert.reset();
+  QApplication::processEvents();
+  EXPECT_EQ(this->Texts(), "0|3|4|");
+  EXPECT_FALSE(this->Cell(3)->isEnabled());
 }
 
-TYPED_TEST(Growing, OfferRowsInTheMenu) {
+TYPED_TEST(Growing, OfferRowsByMenuAndKeys) {
   this->Open(4);
   const auto trigger = [this](const char* text) {
     const std::unique_ptr<QMenu> menu(this->Cell(1)->CreateContextMenu());
@@ -146,6 +150,15 @@ TYPED_TEST(Growing, OfferRowsInTheMenu) {
   this->editor->ScrollBottom();
   EXPECT_TRUE(trigger("Delete Rows")) << "the spare row stays";
   EXPECT_EQ(this->editor->NoOfRows(), 4U);
+  // As many as are selected.
+  this->SetRows(4);
+  this->editor->SelectRows(1, 2);
+  this->Press(Qt::Key_Minus, Qt::ControlModifier);
+  EXPECT_EQ(this->editor->NoOfRows(), 2U);
+  this->editor->setProperty("NoOfCols", 2);
+  this->editor->SelectCols(0, 1);
+  this->Press(Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_EQ(this->editor->NoOfRows(), this->kIsVector ? 4U : 2U) << "or columns, if they are whole";
 }
 
 TYPED_TEST(Growing, ForgetTheTopOfAFormWhenTheProgramScrolls) {

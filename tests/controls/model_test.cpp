@@ -321,6 +321,9 @@ TYPED_TEST(ModelEdit, ChangesBlocksAsAWhole) {
   this->Take();
   EXPECT_FALSE(this->editor->PasteBlock("5\n6\n-1\n"));
   EXPECT_EQ(this->Take().substr(0, 8), "refused ");
+  this->editor->Select({0, 2, 0, 1});
+  EXPECT_FALSE(this->editor->DeleteSelected());
+  EXPECT_NE(this->Take().find("refused Row 1"), std::string::npos) << "it can only be read";
   EXPECT_EQ(this->Texts(), "0.0000|1.0000|2.0000|3.0000");
   EXPECT_FALSE(this->editor->CanUndo());
 
@@ -370,7 +373,7 @@ TEST(Models, AreSharedByViewsAndMappers) {
   QWidget form;
   auto* const layout = new QVBoxLayout(&form);
   auto* const table = new QTableView;
-  auto* const column = new TQorVectorEdit;
+  auto* const column = new TQorLabelledVectorEdit;
   auto* const matrix = new TQorMatrixFractEdit;
   auto* const field = new QLineEdit;
   for (QWidget* widget : {static_cast<QWidget*>(table), static_cast<QWidget*>(column),
@@ -379,8 +382,10 @@ TEST(Models, AreSharedByViewsAndMappers) {
   }
   table->setModel(&model);
   column->setModelColumn(1);
+  column->setLabelType(TQorLabelledVectorEdit::ltSupplied);
   column->setModel(&model);
   matrix->setModel(&model);
+  EXPECT_EQ(column->Label(2), "3");
   QDataWidgetMapper mapper;
   mapper.setModel(&model);
   mapper.addMapping(field, 1);

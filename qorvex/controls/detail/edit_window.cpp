@@ -33,6 +33,11 @@ std::uint32_t EditWindow::LargestTop() const noexcept {
   return edits_ < count_ ? count_ - edits_ : 0;
 }
 
+std::uint32_t EditWindow::TopShowing(std::uint32_t element) const noexcept {
+  if (element < top_) return element;
+  return element - top_ < edits_ ? top_ : std::min(element - edits_ + 1, LargestTop());
+}
+
 void EditWindow::SetTop(std::uint32_t top) {
   if (announcing_ || top == top_) return;
   const std::uint32_t reachable = std::min(top, LargestTop());

@@ -53,6 +53,8 @@ class QORVEX_EXPORT EditWindow {
   /// The top of the last page: Count() - Edits(), or 0 if all elements fit. Without edits it is
   /// Count().
   [[nodiscard]] std::uint32_t LargestTop() const noexcept;
+  /// The nearest top from which an element shows.
+  [[nodiscard]] std::uint32_t TopShowing(std::uint32_t element) const noexcept;
 
   /// Scrolls to the top, clamped to LargestTop(). Does nothing if it is already the top. Otherwise
   /// before_top, place_bar, current_changed (kFollowsTop, where it differs), redisplay, after_top.

@@ -13,6 +13,11 @@
         <translation>%1: %2 Der Wert bleibt.</translation>
     </message>
     <message>
+        <source>%1 cannot be changed.</source>
+        <comment>name of a cell</comment>
+        <translation>%1 lässt sich nicht ändern.</translation>
+    </message>
+    <message>
         <source>%1: &quot;%2&quot; cannot be stored.</source>
         <comment>name of a cell, its text</comment>
         <translation>%1: „%2“ lässt sich nicht speichern.</translation>
@@ -24,6 +29,42 @@
     <message>
         <source>Too many values to copy: %1.</source>
         <translation>Zu viele Werte zum Kopieren: %1.</translation>
+    </message>
+    <message>
+        <source>Too many values to change: %1.</source>
+        <translation>Zu viele Werte zum Ändern: %1.</translation>
+    </message>
+    <message>
+        <source>These values cannot be empty.</source>
+        <translation>Diese Werte dürfen nicht leer sein.</translation>
+    </message>
+    <message>
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Fill Down</source>
+        <translation>Nach unten ausfüllen</translation>
+    </message>
+    <message>
+        <source>Fill Right</source>
+        <translation>Nach rechts ausfüllen</translation>
+    </message>
+    <message>
+        <source>Select All</source>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Copy All Values</source>
@@ -92,10 +133,6 @@
     <message>
         <source>Natural Logarithms</source>
         <translation>Natürliche Logarithmen</translation>
-    </message>
-    <message>
-        <source>Paste</source>
-        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Reciprocals</source>

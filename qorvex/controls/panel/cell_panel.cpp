@@ -62,6 +62,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   };
   connect(&cell, &TQorCustomEdit::Entered, this, [=, this, &cell] {
     parts_->focus.Enter(cell, place, false);
+    parts_->selection.Entered(cell.EnteredByMouse());
     table_.Notify(CellEvent::kEnter, row(), col());
   });
   connect(&cell, &TQorCustomEdit::Left, this, [=, this, &cell] {
@@ -135,12 +136,15 @@ void CellPanel::Redisplay() {
   // At once, since a cell may be given the focus before the update ends.
   parts_->grid.EnableUsedCells();
   parts_->focus.Lead();
-  if (Updating()) return;
-  parts_->grid.Show();
-  if (parts_->headings.Show()) Arrange();
+  if (!Updating()) {
+    parts_->grid.Show();
+    if (parts_->headings.Show()) Arrange();
+  }
+  parts_->selection.Update();
 }
 
 void CellPanel::Watch(TextCell& text) {
+  connect(&text, &QLineEdit::textEdited, this, [this] { parts_->focus.SetEditing(true); });
   parts_->keys.Watch(text);
 }
 

@@ -28,6 +28,7 @@ QORVEX_WIDGET_UNIT(QorvexControls) {
 namespace detail {
 class EditWindow;
 class PanelAxis;
+struct BlockChanges;
 struct CellPlace;
 struct EditWindowEvents;
 struct PanelHeadingEvents;
@@ -40,10 +41,14 @@ enum class CurrentRule;
 /// A grid of cells with a scroll bar beside it, and one below it if the table has columns. The
 /// cells show the part of a CellTable that begins at DisplayTopRow.
 ///
-/// Keys: Enter, Ctrl+Down and Ctrl+Up move by a row, and scroll at the edge of the grid; the page
-/// keys scroll by a page. Ctrl+Z undoes the last change, Ctrl+Y or Ctrl+Shift+Z redoes it; while a
-/// text is being typed, they work on the text. Ctrl+Shift+C copies the whole table, and several
-/// cells of a spreadsheet can be pasted.
+/// Keys: the arrows and Enter go to the next cell, and scroll at the edge of the grid; the page
+/// keys scroll by a page. With Shift, the arrows select. Left and Right, Home and End, Delete, and
+/// Ctrl with A, C, X and V work on the text while it is being edited, that is, from the first typed
+/// character, F2 or a double click on, and on the selected cells otherwise. Ctrl+Z undoes the last
+/// change, Ctrl+Y or Ctrl+Shift+Z redoes it. Ctrl+Shift+C copies the whole table.
+///
+/// One rectangle of elements is selected: by Shift and the arrows, by the mouse, or by a program.
+/// Unless there is more, it is the element under the focus.
 ///
 /// The tab key goes from cell to cell and scrolls on at the last one in sight; Ctrl+Tab and
 /// Ctrl+Shift+Tab leave at once. QWidget::setTabOrder and buddies lead to the first cell in sight;
@@ -167,14 +172,47 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ScrollBottom();
   /// @}
 
-  /// Pastes a text from the focused cell on: line ends separate rows, tabs separate cells. Each
-  /// element that changes raises OnChange. If a cell does not fit or is not a number, or the
-  /// control is read-only, nothing changes, OnBlockRefused says why, and the result is false.
-  bool PasteBlock(const QString& text);
+  /// @{
+  /// The selected elements: the one under the focus, unless more have been selected, and none in an
+  /// empty table. Selecting leaves out what is beyond the table, and nothing at all selects the
+  /// element under the focus. It neither scrolls nor moves the focus. O(cells).
+  [[nodiscard]] TQorCellRange Selection() const;
+  void Select(const TQorCellRange& range);
+  void SelectAll();
+  void SelectRows(quint32 first, quint32 count);
+  void SelectCols(quint32 first, quint32 count);
+  void ClearSelection();
+  /// @}
 
-  /// Copies the whole table with all digits, in the numbers of the locale; infinities as "inf",
-  /// which PasteBlock refuses. More than ten million elements are refused.
+  /// @{
+  /// Copies a range, the selection or the whole table with all digits, in the numbers of the
+  /// locale: tabs separate columns, and each row ends with a line end, except a single value.
+  /// Infinities are copied as "inf", which PasteBlock refuses. More than ten million elements are
+  /// refused by OnBlockRefused. Without elements the clipboard keeps its contents. False if it
+  /// does.
+  bool CopyCells(const TQorCellRange& range);
+  bool Copy();
   void CopyAll();
+  /// @}
+
+  /// @{
+  /// Changes the selected elements in one step: pastes a text or the text of the clipboard over
+  /// them, makes them null, does so after copying them, or fills them with the values of their
+  /// first row or column; a single row or column is filled with the one before it.
+  ///
+  /// In a text, line ends separate rows and tabs separate cells. It is pasted as often as it covers
+  /// the selection exactly, or else once, from the first selected element on.
+  ///
+  /// Each element that changes raises OnChange. If the control is read-only, or AllowKbdNull
+  /// forbids nulls, or a text does not fit or is not a number, or there are more than ten million
+  /// elements, nothing changes, OnBlockRefused says why, and the result is false.
+  bool PasteBlock(const QString& text);
+  bool Paste();
+  bool Cut();
+  bool DeleteSelected();
+  bool FillDown();
+  bool FillRight();
+  /// @}
 
   /// Shows the elements, unless an update is in progress. In virtual mode, call it if they change.
   void Redisplay() override;
@@ -250,6 +288,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ontopChange(quint32 top);
   /// The current row has changed.
   void OnCurrRowChange(quint32 before, quint32 now);
+  /// Selection has changed.
+  void OnSelectionChange();
   /// A colour of the set has changed.
   void OnColorSetChange();
   /// A change has been undone or redone.
@@ -265,7 +305,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnInsertRows(quint32 row, quint32 count);
   void OnDeleteRows(quint32 row, quint32 count);
   /// @}
-  /// A block could not be pasted or copied, or a typed value not be stored; the message says why.
+  /// A block could not be changed or copied, or a typed value not be stored; the message says why.
   void OnBlockRefused(const QString& message);
   /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
   /// message names the element and says why.
@@ -285,6 +325,14 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void OnMouseDown(QMouseEvent* event);
   void OnMouseMove(QMouseEvent* event);
   void OnMouseUp(QMouseEvent* event);
+  /// @}
+  /// @{
+  /// The mouse in the cell of an element; each follows the signal above for the same event.
+  void OnCellMouseDown(QMouseEvent* event, quint32 row, quint32 col);
+  void OnCellMouseMove(QMouseEvent* event, quint32 row, quint32 col);
+  void OnCellMouseUp(QMouseEvent* event, quint32 row, quint32 col);
+  void OnCellClick(quint32 row, quint32 col);
+  void OnCellDblClick(quint32 row, quint32 col);
   /// @}
 
  protected:
@@ -339,8 +387,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// cell.
   void Watch(TextCell& text);
 
-  /// Copies a part of the table to the clipboard, as CopyAll does.
-  void CopyBlock(const TQorCellRange& block);
   /// Runs a command, but not in virtual mode, and redisplays, even if it raises.
   void Command(const std::function<void()>& command);
 
@@ -377,6 +423,10 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ChangeSelectedLines(CellAxis axis, bool insert);
   void AddHistoryToMenu(QMenu& menu);
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
+  bool ChangeBlock(const QString& step, const std::function<detail::BlockChanges()>& plan);
+  bool RequireChangeable();
+  bool RequireNulls();
+  void AddSelectionToMenu(QMenu* menu);
   void RefuseBlock(const QString& message);
   void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason);
   void AddToMenu(QMenu* menu);

@@ -88,7 +88,10 @@ void CellPanel::connectNotify(const QMetaMethod& signal) {
 }
 
 void CellPanel::disconnectNotify(const QMetaMethod& signal) {
-  connectNotify(signal);
+  // Later: Qt holds the lock that isSignalConnected takes.
+  if (signal != QMetaMethod::fromSignal(&CellPanel::OnInsertRows)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { FitSpareRow(); }, Qt::QueuedConnection);
 }
 
 Extended CellPanel::NewElement() const {
@@ -141,6 +144,9 @@ void CellPanel::DeleteRows(quint32 row, quint32 count) {
 }
 
 TQorCellRange CellPanel::SelectedBlock() const {
+  const TQorCellRange selected = Selection();
+  if (!selected.IsEmpty()) return selected;
+  // Where an empty table begins.
   return {Rows().Top() + Rows().Focus(), 1, Cols().Top() + Cols().Focus(), 1};
 }
 

@@ -195,14 +195,27 @@ void CellPanel::DragColWidth(quint32 col, int width) {
 }
 
 detail::PanelHeadingEvents CellPanel::HeadingEvents() {
-  return {.select_row = [](quint32, bool) {},
-          .select_col = [](quint32, bool) {},
-          .select_all = [] {},
-          .selection =
-              [this] {
-                return TQorCellRange{Rows().Top() + Rows().Focus(), 1,
-                                     Cols().Top() + Cols().Focus(), 1};
+  // A heading takes no focus: the keys that follow are for the cells.
+  const auto enter = [this] {
+    parts_->focus.CommitPending();
+    if (parts_->focus.Entered() == nullptr) setFocus(Qt::OtherFocusReason);
+  };
+  return {.select_row =
+              [this, enter](quint32 row, bool extend) {
+                enter();
+                extend ? parts_->selection.ExtendRows(row) : parts_->selection.SelectRows(row, row);
               },
+          .select_col =
+              [this, enter](quint32 col, bool extend) {
+                enter();
+                extend ? parts_->selection.ExtendCols(col) : parts_->selection.SelectCols(col, col);
+              },
+          .select_all =
+              [this, enter] {
+                enter();
+                SelectAll();
+              },
+          .selection = [this] { return Selection(); },
           .resize_col = [this](quint32 col, int width) { DragColWidth(col, width); }};
 }
 

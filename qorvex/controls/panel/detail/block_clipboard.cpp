@@ -4,10 +4,8 @@
 #include <algorithm>
 #include <limits>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/detail/block_text.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -54,42 +52,45 @@ QString BlockText(const CellTable& table, const TQorCustomEdit& cell, const TQor
   return QString::fromStdString(text);
 }
 
-PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
-                      quint32 first_row, quint32 first_col, const Growth& growth) {
+BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const QString& text,
+                       const TQorCellRange& target, const Growth& growth) {
   const TextBlock block = ParseBlock(text.toStdString());
-  std::size_t width = 0;
-  for (const auto& row : block) width = std::max(width, row.size());
-  const std::size_t room_below = cell ? RoomFrom(first_row, table.RowCount(), growth.rows) : 0;
-  const std::size_t room_beside = RoomFrom(first_col, table.ColCount(), growth.cols);
-  if (block.size() > room_below || !cell) return {{}, {}, TooManyRows(block.size(), room_below)};
-  if (width > room_beside) return {{}, {}, TooManyCols(width, room_beside)};
+  if (block.empty()) return {};
+  const std::size_t rows = block.size();
+  const std::size_t cols = std::ranges::max(block, {}, &std::vector<std::string>::size).size();
+  const std::size_t room_below = cell ? RoomFrom(target.row, table.RowCount(), growth.rows) : 0;
+  const std::size_t room_beside = RoomFrom(target.col, table.ColCount(), growth.cols);
+  if (rows > room_below || !cell) return {.refusal = TooManyRows(rows, room_below)};
+  if (cols > room_beside) return {.refusal = TooManyCols(cols, room_beside)};
 
-  PasteResult result;
-  for (std::size_t r = 0; r < block.size(); ++r) {
+  const bool covers = target.rows % rows == 0 && target.cols % cols == 0;
+  const quint64 height = covers ? target.rows : rows;
+  const quint64 width = covers ? target.cols : cols;
+  BlockChanges result;
+  if (!HasFewEnough(height * width, result)) return result;
+  for (std::size_t r = 0; r < rows; ++r) {
     for (std::size_t c = 0; c < block[r].size(); ++c) {
       const QString cell_text = QString::fromStdString(block[r][c]);
       const CellReading reading = cell->Read(cell_text);
-      const quint32 row = first_row + static_cast<quint32>(r);
-      const quint32 col = first_col + static_cast<quint32>(c);
-      if (!reading.value) return {{}, {}, table.CellName(row, col) + ": " + reading.refusal};
-      const bool exists = row < table.RowCount() && col < table.ColCount();
-      const Extended before = exists ? table.Value(row, col) : growth.value;
-      if (!QorvexBaseControls::detail::SameElement(before, *reading.value)) {
-        result.changes.push_back({row, col, *reading.value});
+      const auto row = static_cast<quint32>(target.row + r);
+      const auto col = static_cast<quint32>(target.col + c);
+      if (!reading.value) {
+        return {.refusal = table.CellName(row, col) + ": " + reading.refusal};
+      }
+      for (quint64 down = 0; r + down < height; down += rows) {
+        for (quint64 right = 0; c + right < width; right += cols) {
+          AddChange(table, static_cast<quint32>(row + down), static_cast<quint32>(col + right),
+                    *reading.value, growth.value, result.changes);
+        }
       }
     }
   }
-  AppendLines(result.lines, CellAxis::kRows, table.RowCount(), first_row + block.size(),
-              growth.value);
-  AppendLines(result.lines, CellAxis::kCols, table.ColCount(), first_col + width, growth.value);
+  AppendLines(result.lines, CellAxis::kRows, table.RowCount(), target.row + height, growth.value);
+  AppendLines(result.lines, CellAxis::kCols, table.ColCount(), target.col + width, growth.value);
   return result;
 }
 
-QString TextOfPaste() {
-  return QCoreApplication::translate("CellPanel", "Paste");
-}
-
-QString TooManyValues(quint64 values) {
+QString TooManyToCopy(quint64 values) {
   return QCoreApplication::translate("CellPanel", "Too many values to copy: %1.").arg(values);
 }
 
@@ -105,6 +106,10 @@ QString NotStored(const QString& cell_name, const QString& text) {
   return QCoreApplication::translate("CellPanel", "%1: \"%2\" cannot be stored.",
                                      "name of a cell, its text")
       .arg(cell_name, text);
+}
+
+QString NotNull() {
+  return QCoreApplication::translate("CellPanel", "These values cannot be empty.");
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -7,7 +7,7 @@
 
 #include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/controls/panel/cell_range.h"
-#include "qorvex/controls/panel/detail/change_history.h"
+#include "qorvex/controls/panel/detail/block_changes.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -23,30 +23,22 @@ struct Growth {
   Extended value = 0;
 };
 
-/// What pasting a text does.
-struct PasteResult {
-  LineInsertions lines;    ///< The lines that are appended.
-  ElementChanges changes;  ///< The elements that change, with their new values.
-  QString refusal;         ///< Why the text cannot be pasted; empty when it can be.
-};
-
-/// Pastes a text over the elements from the given one on. A cell reads the numbers; without one
-/// there is no room. Lines are appended for what is beyond the end. The text is refused as a whole,
-/// in this order: more rows than the table has from there on, more columns, a cell that is not a
-/// number. O(length).
-[[nodiscard]] PasteResult PlanPaste(const CellTable& table, const TQorCustomEdit* cell,
-                                    const QString& text, quint32 first_row, quint32 first_col,
-                                    const Growth& growth);
-
-/// The name of the step.
-[[nodiscard]] QString TextOfPaste();
+/// Pastes a text over a range: as often as it covers the range exactly, or else once, from its
+/// first element on. A cell reads the numbers; without one there is no room. Lines are appended for
+/// what is beyond the end. The text is refused as a whole, in this order: more rows than there is
+/// room from there on, more columns, too many values, a cell that is not a number.
+/// O(length + elements).
+[[nodiscard]] BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell,
+                                     const QString& text, const TQorCellRange& target,
+                                     const Growth& growth);
 
 /// @{
 /// Messages that refuse a block.
-[[nodiscard]] QString TooManyValues(quint64 values);
+[[nodiscard]] QString TooManyToCopy(quint64 values);
 [[nodiscard]] QString OutOfMemory();
 [[nodiscard]] QString NotChangeable();
 [[nodiscard]] QString NotStored(const QString& cell_name, const QString& text);
+[[nodiscard]] QString NotNull();
 /// @}
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -51,6 +51,35 @@ void CellGrid::ForEach(const std::function<void(TQorCustomEdit& cell)>& function
   }
 }
 
+CellGrid::Spot CellGrid::SpotOf(const TextCell& text) const {
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    const auto row = static_cast<quint32>(r);
+    if (r < header_texts_.size() && header_texts_[r] == &text) return {{row, 0}, false};
+    const auto found = std::ranges::find(cells_[r], &text);
+    if (found == cells_[r].end()) continue;
+    return {{row, static_cast<quint32>(found - cells_[r].begin())}, true};
+  }
+  return {};
+}
+
+CellGrid::Nearest CellGrid::NearestTo(QPoint point) const {
+  Nearest nearest;
+  if (!IsUsed(0, 0)) return nearest;
+  const bool mirrored = panel_.layoutDirection() == Qt::RightToLeft;
+  const auto below = [&](std::size_t row) { return point.y() > Cell(row, 0)->geometry().bottom(); };
+  const auto behind = [&](std::size_t col) {
+    const QRect cell = Cell(0, col)->geometry();
+    return mirrored ? point.x() < cell.left() : point.x() > cell.right();
+  };
+  while (below(nearest.place.row) && IsUsed(nearest.place.row + 1, 0)) ++nearest.place.row;
+  while (behind(nearest.place.col) && IsUsed(0, nearest.place.col + 1)) ++nearest.place.col;
+  const QRect first = Cell(0, 0)->geometry();
+  const bool before = mirrored ? point.x() > first.right() : point.x() < first.left();
+  nearest.rows_beyond = point.y() < first.top() ? -1 : below(nearest.place.row) ? 1 : 0;
+  nearest.cols_beyond = before ? -1 : behind(nearest.place.col) ? 1 : 0;
+  return nearest;
+}
+
 void CellGrid::Fit(const CellSettings& settings, Qt::FocusPolicy focus, QWidget* before) {
   settings_ = settings;
   const std::size_t rows = rows_.Edits();
@@ -181,6 +210,16 @@ void CellGrid::Show() {
     header_.show(*header_texts_[r], static_cast<quint32>(r), r < rows_.UsedEdits());
   }
   if (is_named_) NameCells();
+}
+
+void CellGrid::MarkSelected(const TQorCellRange& range) {
+  for (std::size_t r = 0; r < cells_.size(); ++r) {
+    const quint32 row = rows_.Top() + static_cast<quint32>(r);
+    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+      const quint32 col = cols_.Top() + static_cast<quint32>(c);
+      cells_[r][c]->SetSelected(IsUsed(r, c) && range.Contains(row, col));
+    }
+  }
 }
 
 void CellGrid::accessibilityActiveChanged(bool active) {

@@ -12,6 +12,7 @@
 
 #include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/controls/detail/edit_window.h"
+#include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/cell_table.h"
 #include "qorvex/controls/panel/detail/cell_place.h"
 #include "qorvex/controls/panel/detail/grid_geometry.h"
@@ -70,6 +71,20 @@ class CellGrid : private QAccessible::ActivationObserver {
     return row < std::min<std::size_t>(rows_.UsedEdits(), cells_.size()) &&
            col < std::min<std::size_t>(cols_.UsedEdits(), cells_[row].size());
   }
+  /// A cell or a text of the header.
+  struct Spot {
+    CellPlace place;
+    bool is_cell = false;
+  };
+  [[nodiscard]] Spot SpotOf(const TextCell& text) const;
+  /// The used cell nearest to a point of the panel, and in which direction the point is beyond the
+  /// used cells: -1, 0 or 1 along the rows and along the columns.
+  struct Nearest {
+    CellPlace place;
+    int rows_beyond = 0;
+    int cols_beyond = 0;
+  };
+  [[nodiscard]] Nearest NearestTo(QPoint point) const;
   /// Calls a function with each cell.
   void ForEach(const std::function<void(TQorCustomEdit& cell)>& function) const;
 
@@ -85,6 +100,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   void EnableUsedCells();
   /// Shows the elements.
   void Show();
+  /// Marks the cells that show elements of a range, and no others.
+  void MarkSelected(const TQorCellRange& range);
 
   /// Places the header and the cells.
   void Arrange() const;

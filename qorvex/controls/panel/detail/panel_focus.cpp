@@ -23,6 +23,7 @@ PanelFocus::PanelFocus(QWidget& panel, PanelAxis& rows, PanelAxis& cols, const C
 
 void PanelFocus::Enter(TextCell& text, CellPlace place, bool in_header) {
   in_header_ = in_header;
+  editing_ = false;
   // A cell that lost the focus while the window was inactive has not noticed.
   if (entered_ != nullptr && entered_ != &text) entered_->Leave();
   entered_ = &text;
@@ -37,6 +38,17 @@ void PanelFocus::Leave(const TextCell& text) {
 
 void PanelFocus::CommitPending() {
   if (entered_ != nullptr) entered_->CommitOrRestore();
+  editing_ = false;
+}
+
+bool PanelFocus::KeysBelongToText() const {
+  return Editing() || (in_header_ && entered_ != nullptr && !entered_->isReadOnly());
+}
+
+bool PanelFocus::CommitToLeave() {
+  if (entered_ != nullptr && !entered_->CommitOrRefuse()) return false;
+  editing_ = false;
+  return true;
 }
 
 void PanelFocus::CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays) {
@@ -65,6 +77,20 @@ void PanelFocus::Navigate(std::size_t row, std::size_t col) {
   TextAt(row, col)->setFocus(Qt::OtherFocusReason);
 }
 
+void PanelFocus::FocusElement(quint32 row, quint32 col) {
+  if (!CommitToLeave()) return;
+  const quint32 top = rows_.Window().TopShowing(row);
+  const quint32 left = cols_.Window().TopShowing(col);
+  if (top != rows_.Window().Top() || left != cols_.Window().Top()) {
+    // The cell is left under its old element and entered again under its new one.
+    Park(left != cols_.Window().Top() ? cols_ : rows_);
+    rows_.Window().SetTop(top);
+    cols_.Window().SetTop(left);
+  }
+  const quint32 row_edit = Reveal(rows_.Window(), row);
+  Navigate(row_edit, Reveal(cols_.Window(), col));
+}
+
 void PanelFocus::Park(const PanelAxis& axis) {
   // In an inactive window the cell gets no event.
   if (entered_ != nullptr) entered_->Leave();
@@ -72,7 +98,7 @@ void PanelFocus::Park(const PanelAxis& axis) {
 }
 
 void PanelFocus::Step(PanelAxis& along, PanelAxis& across, bool forward) {
-  if (entered_ != nullptr && !entered_->CommitOrRefuse()) return;
+  if (!CommitToLeave()) return;
   const auto state = [this](const PanelAxis& axis) {
     const EditWindow& window = axis.Window();
     const bool follows_top = rule_ == CurrentRule::kFollowsTop;

@@ -31,10 +31,23 @@ class PanelFocus {
   /// The same before the elements change, unless the one that is being edited stays as it is.
   void CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays);
 
+  /// @{
+  /// Whether the keys of a text belong to the entered one: from the first typed character, F2 or a
+  /// double click until it is committed, restored or left.
+  [[nodiscard]] bool Editing() const noexcept { return editing_ && entered_ != nullptr; }
+  void SetEditing(bool editing) { editing_ = editing; }
+  /// @}
+  /// Whether keys belong to the entered text: it is being edited, or it is a text of the header
+  /// that can be.
+  [[nodiscard]] bool KeysBelongToText() const;
+
   /// Gives the focus to a cell that shows an element; others are ignored.
   void FocusCell(std::size_t row, std::size_t col);
   /// The same, but when the focus was last in the header, it stays in the header.
   void Navigate(std::size_t row, std::size_t col);
+  /// Scrolls as little as it takes to bring an element into sight, and gives its cell the focus. A
+  /// text that is not a number keeps the focus.
+  void FocusElement(quint32 row, quint32 col);
 
   /// Moves the focus one cell along an axis. A text that is not a number keeps it.
   void Step(PanelAxis& along, PanelAxis& across, bool forward);
@@ -60,6 +73,8 @@ class PanelFocus {
   }
 
  private:
+  // False if the typed text is not a number, which keeps the focus.
+  bool CommitToLeave();
   // The cell, or the text of the header when the focus was last there.
   [[nodiscard]] TextCell* TextAt(std::size_t row, std::size_t col) const;
   // The edit that shows an element; scrolls on while wider columns keep it out of sight.
@@ -78,6 +93,7 @@ class PanelFocus {
   CurrentRule rule_;
   TextCell* entered_ = nullptr;
   bool in_header_ = false;
+  bool editing_ = false;
 };
 
 }  // namespace qorvex::inline QorvexControls::detail

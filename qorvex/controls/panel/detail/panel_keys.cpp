@@ -10,22 +10,6 @@ namespace qorvex::inline QorvexControls::detail {
 
 namespace {
 
-// The modifiers that are held; keys of the keypad count like the others.
-Qt::KeyboardModifiers Held(const QKeyEvent& event) {
-  return event.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
-}
-
-bool IsHistoryKey(const QKeyEvent& event) {
-  const Qt::KeyboardModifiers held = Held(event);
-  if (event.key() == Qt::Key_Y) return held == Qt::ControlModifier;
-  return event.key() == Qt::Key_Z &&
-         (held == Qt::ControlModifier || held == (Qt::ControlModifier | Qt::ShiftModifier));
-}
-
-bool IsRedo(const QKeyEvent& event) {
-  return event.key() == Qt::Key_Y || Held(event).testFlag(Qt::ShiftModifier);
-}
-
 // The whole notches that a wheel has turned.
 int Notches(int amount, bool fine, int& rest) {
   if (!fine) return amount / 100;
@@ -44,87 +28,182 @@ void Scroll(EditWindow& window, int steps) {
 
 }  // namespace
 
-PanelKeys::PanelKeys(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, PanelFocus& focus)
-    : panel_(panel), rows_(rows), cols_(cols), focus_(focus) {}
+PanelKeys::PanelKeys(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, PanelFocus& focus,
+                     PanelSelection& selection, PanelMouse& mouse)
+    : panel_(panel),
+      rows_(rows),
+      cols_(cols),
+      focus_(focus),
+      selection_(selection),
+      mouse_(mouse) {}
 
-bool PanelKeys::IsTyping() const {
-  return focus_.Entered() != nullptr && focus_.Entered()->Pending();
+GridKey PanelKeys::MeaningOf(const QKeyEvent& event) const {
+  const GridKey key = GridKeyOf(event.key(), event.modifiers(),
+                                {.editing = focus_.KeysBelongToText(),
+                                 .has_cols = cols_.Bar() != nullptr,
+                                 .mirrored = panel_.layoutDirection() == Qt::RightToLeft});
+  if (key.action != GridAction::kEscape) return key;
+  const bool typed = focus_.Entered() != nullptr && focus_.Entered()->Pending();
+  return typed || focus_.Editing() || selection_.IsMultiple() ? key : GridKey{};
 }
 
-bool PanelKeys::IsForTheApplication(const QKeyEvent& event) const {
-  if (!IsHistoryKey(event) || IsTyping()) return false;
-  return panel_.EffectiveSettings().read_only ||
-         !(IsRedo(event) ? panel_.CanRedo() : panel_.CanUndo());
-}
-
-bool PanelKeys::IsOwnKey(const QKeyEvent& event) const {
-  const Qt::KeyboardModifiers held = Held(event);
-  switch (event.key()) {
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      return true;
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-      return held == Qt::NoModifier;
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-      return held == Qt::ControlModifier;
-    case Qt::Key_Left:
-    case Qt::Key_Right:
-      return cols_.Bar() != nullptr && held == Qt::ControlModifier;
-    case Qt::Key_Y:
-    case Qt::Key_Z:
-      return IsHistoryKey(event);
-    case Qt::Key_C:
-      return held == (Qt::ControlModifier | Qt::ShiftModifier);
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-      return held.testFlag(Qt::ControlModifier) && !held.testFlag(Qt::AltModifier);
+bool PanelKeys::IsLeftToApplication(GridKey key) const {
+  const bool read_only = panel_.EffectiveSettings().read_only;
+  switch (key.action) {
+    case GridAction::kUndo:
+      return read_only || !panel_.CanUndo();
+    case GridAction::kRedo:
+      return read_only || !panel_.CanRedo();
+    case GridAction::kInsertLines:
+    case GridAction::kDeleteLines:
+      return read_only || !panel_.CanGrow();
     default:
       return false;
   }
 }
 
-bool PanelKeys::UseKey(const QKeyEvent& event) {
-  if (!IsOwnKey(event)) return false;
-  switch (event.key()) {
-    case Qt::Key_Up:
-      focus_.Step(rows_, cols_, false);
-      return true;
-    case Qt::Key_Left:
-    case Qt::Key_Right: {
-      // Left and right are directions on the screen.
-      const bool mirrored = panel_.layoutDirection() == Qt::RightToLeft;
-      focus_.Step(cols_, rows_, (event.key() == Qt::Key_Right) != mirrored);
-      return true;
-    }
-    case Qt::Key_PageUp:
-      panel_.ScrollUp(std::min(rows_.Window().Edits(), rows_.Window().Top()));
-      return true;
-    case Qt::Key_PageDown:
-      panel_.ScrollDown(rows_.Window().Edits());
-      return true;
-    case Qt::Key_C:
-      panel_.CopyAll();
-      return true;
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab: {
-      const bool forward = event.key() == Qt::Key_Tab && !Held(event).testFlag(Qt::ShiftModifier);
-      if (QWidget* const stop = StopOutside(panel_, forward)) {
-        stop->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-      }
-      return true;
-    }
-    case Qt::Key_Y:
-    case Qt::Key_Z: {
-      if (IsTyping()) return false;
-      IsRedo(event) ? panel_.Redo() : panel_.Undo();
-      return true;
-    }
-    default:
-      focus_.Step(rows_, cols_, true);
-      return true;
+bool PanelKeys::UseKey(QKeyEvent& event) {
+  const GridKey key = MeaningOf(event);
+  if (key.action == GridAction::kNone) return false;
+  if (IsLeftToApplication(key)) {
+    event.ignore();
+  } else if (key.extends) {
+    Extend(key.action);
+  } else {
+    Act(key.action);
   }
+  return true;
+}
+
+void PanelKeys::Act(GridAction action) {
+  switch (action) {
+    case GridAction::kEdit:
+      Edit();
+      break;
+    case GridAction::kEscape:
+      Escape();
+      break;
+    case GridAction::kSelectAll:
+      panel_.SelectAll();
+      break;
+    case GridAction::kSelectRows:
+      panel_.SelectRows(panel_.Selection().row, panel_.Selection().rows);
+      break;
+    case GridAction::kSelectCols:
+      panel_.SelectCols(panel_.Selection().col, panel_.Selection().cols);
+      break;
+    case GridAction::kCopy:
+      panel_.Copy();
+      break;
+    case GridAction::kCopyAll:
+      panel_.CopyAll();
+      break;
+    case GridAction::kCut:
+      panel_.Cut();
+      break;
+    case GridAction::kPaste:
+      panel_.Paste();
+      break;
+    case GridAction::kDelete:
+      panel_.DeleteSelected();
+      break;
+    case GridAction::kFillDown:
+      panel_.FillDown();
+      break;
+    case GridAction::kFillRight:
+      panel_.FillRight();
+      break;
+    case GridAction::kInsertLines:
+      panel_.InsertSelectedLines();
+      break;
+    case GridAction::kDeleteLines:
+      panel_.DeleteSelectedLines();
+      break;
+    case GridAction::kUndo:
+      panel_.Undo();
+      break;
+    case GridAction::kRedo:
+      panel_.Redo();
+      break;
+    case GridAction::kPageBack:
+      panel_.ScrollUp(std::min(rows_.Window().Edits(), rows_.Window().Top()));
+      break;
+    case GridAction::kPageForward:
+      panel_.ScrollDown(rows_.Window().Edits());
+      break;
+    case GridAction::kLeaveBack:
+    case GridAction::kLeaveForward:
+      Leave(action == GridAction::kLeaveForward);
+      break;
+    case GridAction::kNothing:
+      break;
+    default:
+      Go(action);
+  }
+}
+
+void PanelKeys::Leave(bool forward) {
+  QWidget* const stop = StopOutside(panel_, forward);
+  if (stop != nullptr) stop->setFocus(forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+}
+
+void PanelKeys::Go(GridAction action) {
+  {
+    const PanelSelection::Hold hold(selection_, PanelSelection::Hold::Entry::kClears);
+    Move(action);
+  }
+  // A text that is not a number is still being edited.
+  focus_.Editing() ? selection_.Update() : selection_.Clear();
+}
+
+void PanelKeys::Move(GridAction action) {
+  switch (action) {
+    case GridAction::kRowBack:
+      focus_.Step(rows_, cols_, false);
+      break;
+    case GridAction::kEnter:
+    case GridAction::kRowForward:
+      focus_.Step(rows_, cols_, true);
+      break;
+    case GridAction::kColBack:
+      focus_.Step(cols_, rows_, false);
+      break;
+    case GridAction::kColForward:
+      focus_.Step(cols_, rows_, true);
+      break;
+    default:
+      GoTo(selection_.Moved(selection_.Current(), action));
+  }
+}
+
+void PanelKeys::GoTo(ElementPlace element) {
+  focus_.FocusElement(element.row, element.col);
+}
+
+void PanelKeys::Extend(GridAction action) {
+  if (selection_.Range().IsEmpty()) return;
+  const ElementPlace target = selection_.Moved(selection_.End(), action);
+  selection_.Extend(target);
+  {
+    const PanelSelection::Hold hold(selection_, PanelSelection::Hold::Entry::kKeeps);
+    GoTo(target);
+  }
+  selection_.Update();
+}
+
+void PanelKeys::Edit() {
+  TextCell* const text = focus_.Entered();
+  if (text == nullptr) return;
+  focus_.SetEditing(!focus_.Editing());
+  if (focus_.Editing()) text->end(false);
+}
+
+void PanelKeys::Escape() {
+  TextCell* const text = focus_.Entered();
+  const bool edits = focus_.Editing() || (text != nullptr && text->Pending());
+  if (!edits) return selection_.Clear();
+  text->Restore();
+  focus_.SetEditing(false);
 }
 
 bool PanelKeys::EditKeyDown(QKeyEvent& event) {
@@ -132,8 +211,8 @@ bool PanelKeys::EditKeyDown(QKeyEvent& event) {
   Q_EMIT panel_.OnKeyDown(&event);
   if (event.isAccepted()) return true;
   // Left unaccepted, a key would be handled again by every parent.
-  event.setAccepted(!IsForTheApplication(event));
-  return !event.isAccepted() || UseKey(event);
+  event.accept();
+  return UseKey(event);
 }
 
 bool PanelKeys::EditKeyPress(QKeyEvent& event) {
@@ -171,12 +250,12 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
   if (watched == rows_.Bar() || watched == cols_.Bar()) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride: {
-      // Otherwise an action of the application with the same keys would take them. The line edit
-      // would always take Ctrl+Z.
-      const auto& key = static_cast<const QKeyEvent&>(*event);
-      const bool for_application = IsForTheApplication(key);
-      if (IsOwnKey(key)) event->setAccepted(!for_application);
-      return for_application;
+      const GridKey key = MeaningOf(static_cast<const QKeyEvent&>(*event));
+      if (key.action == GridAction::kNone) break;
+      // Otherwise an action of the application with the same keys would take them. A key that it
+      // may have is kept from the text, which would claim it.
+      event->setAccepted(!IsLeftToApplication(key));
+      return true;
     }
     case QEvent::KeyPress: {
       auto& key = static_cast<QKeyEvent&>(*event);
@@ -196,33 +275,13 @@ bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease: {
-      const auto& widget = static_cast<const QWidget&>(*watched);
-      if (widget.isEnabled()) ForwardMouse(widget, static_cast<QMouseEvent&>(*event));
-      break;
+      auto& text = static_cast<TextCell&>(*watched);
+      return text.isEnabled() && mouse_.Handle(text, static_cast<QMouseEvent&>(*event));
     }
     default:
       break;
   }
   return false;
-}
-
-void PanelKeys::ForwardMouse(const QWidget& widget, QMouseEvent& event) {
-  switch (event.type()) {
-    case QEvent::MouseButtonPress:
-      Q_EMIT panel_.OnMouseDown(&event);
-      break;
-    case QEvent::MouseButtonDblClick:
-      Q_EMIT panel_.OnDblClick();
-      break;
-    case QEvent::MouseMove:
-      Q_EMIT panel_.OnMouseMove(&event);
-      break;
-    default:
-      Q_EMIT panel_.OnMouseUp(&event);
-      if (event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint())) {
-        Q_EMIT panel_.OnClick();
-      }
-  }
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -15,6 +15,8 @@
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
+#include "qorvex/controls/panel/detail/panel_mouse.h"
+#include "qorvex/controls/panel/detail/panel_selection.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -46,7 +48,13 @@ struct PanelParts {
         cols(rule, std::move(col_events)),
         geometry(panel, rows.Window(), cols.Window()),
         focus(panel, rows, cols, grid, rule),
-        keys(panel, rows, cols, focus),
+        selection(panel.table_, rows.Window(), cols.Window(), grid,
+                  [this, &panel] {
+                    headings.Update();
+                    Q_EMIT panel.OnSelectionChange();
+                  }),
+        mouse(panel, rows, cols, grid, focus, selection),
+        keys(panel, rows, cols, focus, selection, mouse),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
@@ -74,6 +82,8 @@ struct PanelParts {
   PanelAxis cols;
   GridGeometry geometry;
   PanelFocus focus;
+  PanelSelection selection;
+  PanelMouse mouse;
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
