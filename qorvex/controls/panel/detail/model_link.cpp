@@ -138,10 +138,16 @@ bool ModelLink::SetCount(CellAxis axis, quint32 count) {
 }
 
 void ModelLink::FetchRow(quint32 row) {
-  if (!model_) return;
-  for (quint32 rows = Count(CellAxis::kRows); rows <= row && model_->canFetchMore({});) {
-    model_->fetchMore({});
-    if (std::exchange(rows, Count(CellAxis::kRows)) == rows) return;
+  if (!model_ || row < Count(CellAxis::kRows) || !model_->canFetchMore({})) return;
+  // Later, since the model may be telling of a change, which the next one must not overtake.
+  if (!std::exchange(fetches_, true)) {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          fetches_ = false;
+          if (model_) model_->fetchMore({});
+        },
+        Qt::QueuedConnection);
   }
 }
 
@@ -162,7 +168,7 @@ void ModelLink::HoldTyped() {
 void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
                         const QList<int>& roles) const {
   if (first.parent().isValid() || last.column() < first_col_) return;
-  if (!roles.isEmpty() && !roles.contains(Qt::EditRole)) return;
+  if (!roles.isEmpty() && !roles.contains(Qt::EditRole) && !roles.contains(Qt::DisplayRole)) return;
   const int first_col = std::max(first.column(), first_col_);
   owner_.changed({static_cast<quint32>(first.row()), CountFrom(first.row(), last.row() + 1),
                   static_cast<quint32>(first_col - first_col_),

@@ -77,7 +77,7 @@ class ModelLink : public QObject {
   bool RemoveLines(CellAxis axis, quint32 first, quint32 count);
   bool SetCount(CellAxis axis, quint32 count);
   /// @}
-  /// Models that fetch their rows step by step are asked for more until the row exists.
+  /// Models that fetch their rows step by step are asked for more as long as the row is missing.
   void FetchRow(quint32 row);
 
   /// Follows the elements of changes; an empty function without a model.
@@ -115,6 +115,8 @@ class ModelLink : public QObject {
   Owner owner_;
   QPointer<QAbstractItemModel> model_;
   int first_col_ = 0;
+  // It is going to be asked for more rows.
+  bool fetches_ = false;
   // The element whose text is being typed, while the model moves elements.
   std::optional<Element> typed_;
 };
