@@ -100,6 +100,11 @@ QString TextCell::PaintedText() const {
   return HasRoom(whole) ? whole : ShorterText();
 }
 
+int TextCell::FittingWidth() const {
+  QTextLayout layout(WholeText(), font(), this);
+  return WidthOf(LineOf(layout)) + width() - RoomFor(Contents());
+}
+
 QString TextCell::ShorterText() const {
   return fontMetrics().elidedText(displayText(), Qt::ElideRight, RoomFor(Contents()) - 1);
 }
@@ -136,8 +141,28 @@ void TextCell::paintEvent(QPaintEvent* event) {
   const QString painted = PaintedText();
   if (painted == displayText()) {
     QLineEdit::paintEvent(event);
-    return;
+  } else {
+    PaintText(painted);
   }
+  PaintLostFrame();
+}
+
+void TextCell::PaintLostFrame() {
+  // Styles derive the frame from the colour of the window. If that is black, as in palettes of high
+  // contrast, there would be nothing between the cells.
+  constexpr int darkest_with_frame = 32;
+  const QColor window = palette().color(QPalette::Window);
+  const bool lost =
+      window.lightness() < darkest_with_frame && window == palette().color(QPalette::Base);
+  if (!lost || !hasFrame() || hasFocus()) return;
+  QPainter painter(this);
+  QColor line = palette().color(QPalette::Text);
+  line.setAlphaF(0.5F);
+  painter.setPen(line);
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void TextCell::PaintText(const QString& painted) {
   QPainter painter(this);
   QStyleOptionFrame frame;
   initStyleOption(&frame);

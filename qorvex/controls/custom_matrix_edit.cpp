@@ -1,6 +1,8 @@
 #include "qorvex/controls/custom_matrix_edit.h"
 
 #include <QCoreApplication>
+#include <QMenu>
+#include <QMetaMethod>
 #include <QToolButton>
 #include <algorithm>
 #include <utility>
@@ -26,6 +28,12 @@ TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent)
   corner->setAccessibleName(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner"));
   connect(corner, &QToolButton::clicked, this, &TQorCustomMatrixEdit::CornerClick);
   SetCorner(corner);
+  connect(this, &CellPanel::OnContextMenu, this, [this](QMenu& menu) {
+    // The tab key does not stop at the button.
+    if (!isSignalConnected(QMetaMethod::fromSignal(&TQorCustomMatrixEdit::OnCornerBtnClick))) return;
+    menu.addAction(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner Button"), this,
+                   &TQorCustomMatrixEdit::CornerClick);
+  });
 }
 
 TQorCustomMatrixEdit::~TQorCustomMatrixEdit() = default;

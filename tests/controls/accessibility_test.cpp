@@ -134,6 +134,7 @@ TYPED_TEST(AccessibleEditors, HaveCellsThatCanBeEditedLikeOtherTexts) {
   edit->insertText(0, "1");
   EXPECT_EQ(this->Get(1), 75);
   EXPECT_TRUE(cell->state().readOnly);
+  EXPECT_TRUE(this->Table()->cellAt(8, 0)->state().readOnly) << "out of sight";
 }
 
 TYPED_TEST(AccessibleEditors, HaveNames) {
@@ -173,6 +174,60 @@ TEST_F(AccessibleMatrix, CountsInIntEvenIfItIsLarger) {
   EXPECT_EQ(Read(last, QAccessible::Name), "Row 3999999997, column 1");
 }
 
+TEST_F(AccessibleMatrix, HasHeadingsAndFormatsOfColumns) {
+  editor->setNoOfRows(9);
+  editor->setNoOfCols(8);
+  editor->setElement(8, 7, 0.25L);
+  NumberSettings format;
+  format.decimal_places = 2;
+  editor->setColFormat(7, format);
+  EXPECT_EQ(Read(Table()->cellAt(8, 7)), "0.25");
+  EXPECT_EQ(Panel()->childCount(), 72);
+  editor->setColHeadings(true);
+  editor->OnGetColHeading = [](quint32 col) { return QString(QChar('A' + static_cast<int>(col))); };
+  EXPECT_EQ(Table()->columnDescription(2), "C");
+  EXPECT_EQ(Table()->rowDescription(2), "") << "there is no such heading";
+  editor->setRowHeadings(true);
+  Show();
+  ASSERT_EQ(Panel()->childCount(), 72 + 9 + 8);
+  for (int index : {72, 80, 81, 82, 88}) {
+    QAccessibleInterface* const heading = Panel()->child(index);
+    const bool of_row = index < 81;
+    const int number = index - (of_row ? 72 : 81);
+    const std::string text =
+        of_row ? std::to_string(number + 1) : std::string(1, "ABCDEFGH"[number]);
+    EXPECT_EQ(Read(heading, QAccessible::Name), text);
+    EXPECT_EQ(heading->role(), of_row ? QAccessible::RowHeader : QAccessible::ColumnHeader);
+    EXPECT_EQ(Panel()->indexOfChild(heading), index);
+    EXPECT_EQ(heading->state().offscreen, number > 3) << index;
+  }
+  const QAccessibleTableCellInterface* const cell = Table()->cellAt(1, 2)->tableCellInterface();
+  EXPECT_EQ(cell->rowHeaderCells(), QList{Panel()->child(73)});
+  EXPECT_EQ(cell->columnHeaderCells(), QList{Panel()->child(83)});
+  const QPoint place = Panel()->child(83)->rect().center();
+  EXPECT_EQ(Panel()->childAt(place.x(), place.y()), Panel()->child(83));
+}
+
+struct AccessibleLabels : AccessibleEditors<TQorLabelledVectorEdit> {};
+
+TEST_F(AccessibleLabels, AreTheHeadingsOfTheRows) {
+  Open(30);
+  editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
+  editor->setLabelsEditable(true);
+  editor->setLabel(1, "near");
+  editor->setLabel(20, "far");
+  for (const auto& [row, label] : {std::pair(1, "near"), {20, "far"}}) {
+    EXPECT_EQ(Table()->rowDescription(row), label);
+    const auto headings = Table()->cellAt(row, 0)->tableCellInterface()->rowHeaderCells();
+    ASSERT_EQ(headings.size(), 1);
+    EXPECT_EQ(Read(headings[0]), label);
+    EXPECT_EQ(headings[0]->role(), QAccessible::RowHeader);
+    EXPECT_EQ(Panel()->indexOfChild(headings[0]), 30 + row);
+  }
+  Panel()->child(31)->setText(QAccessible::Value, "nearer");
+  EXPECT_EQ(editor->Label(1), "nearer");
+}
+
 TEST_F(AccessibleMatrix, IsEmptyWithoutElementsOrCells) {
   EXPECT_EQ(Panel()->childCount(), 0);
   EXPECT_EQ(Interface(Cell(0))->tableCellInterface()->rowIndex(), -1) << "a cell without element";
@@ -183,6 +238,19 @@ TEST_F(AccessibleMatrix, IsEmptyWithoutElementsOrCells) {
   EXPECT_EQ(Table()->cellAt(1, 0)->tableCellInterface()->rowIndex(), 1);
   editor->setNoOfRowEdits(0);
   EXPECT_EQ(Panel()->childCount(), 0);
+}
+
+TEST(AccessibleCells, HaveAFrameInAPaletteOfHighContrast) {
+  TQorFloatEdit cell;
+  const auto edge = [&cell](const QColor& paper, const QColor& ink) {
+    QPalette palette(paper, paper);
+    palette.setColor(QPalette::Base, paper);
+    palette.setColor(QPalette::Text, ink);
+    cell.setPalette(palette);
+    return cell.grab().toImage().pixelColor(cell.width() / 2, 0);
+  };
+  EXPECT_GT(edge(Qt::black, Qt::white).lightness(), 100);
+  EXPECT_LT(edge(Qt::white, Qt::black).lightness(), 200);
 }
 
 }  // namespace qorvex

@@ -38,7 +38,7 @@ enum class GridAction {
   kDelete,
   kFillDown,
   kFillRight,
-  kInsertLines,  ///< Inserts rows or columns in front of the selection.
+  kInsertLines,  ///< Inserts rows or columns, and deletes them, if the table can grow.
   kDeleteLines,
   kUndo,
   kRedo

@@ -206,6 +206,10 @@
         <translation>Ecke</translation>
     </message>
     <message>
+        <source>Corner Button</source>
+        <translation>Eckknopf</translation>
+    </message>
+    <message>
         <source>Row %1, column %2</source>
         <translation>Zeile %1, Spalte %2</translation>
     </message>

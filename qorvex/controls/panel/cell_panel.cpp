@@ -205,7 +205,7 @@ void CellPanel::showEvent(QShowEvent* event) {
 
 void CellPanel::wheelEvent(QWheelEvent* event) {
   // Cells without an element are disabled and pass it on.
-  parts_->keys.EditMouseWheel(*event);
+  parts_->wheel.EditMouseWheel(*event);
 }
 
 bool CellPanel::focusNextPrevChild(bool next) {

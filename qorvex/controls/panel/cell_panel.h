@@ -418,12 +418,13 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SetLines(detail::PanelAxis& axis, quint32 count, bool spare);
   [[nodiscard]] bool MayGrow(CellAxis axis) const;
   [[nodiscard]] Extended NewElement() const;
-  [[nodiscard]] TQorCellRange SelectedBlock() const;
   [[nodiscard]] CellAxis AxisOfSelection() const;
   void ChangeSelectedLines(CellAxis axis, bool insert);
   void AddHistoryToMenu(QMenu& menu);
   [[nodiscard]] Qt::FocusPolicy CellFocusPolicy() const;
-  bool ChangeBlock(const QString& step, const std::function<detail::BlockChanges()>& plan);
+  using BlockPlan = std::function<detail::BlockChanges(const TQorCellRange& selection)>;
+  bool ChangeBlock(const QString& step, const BlockPlan& plan);
+  bool MakeNull(const QString& step);
   bool RequireChangeable();
   bool RequireNulls();
   void AddSelectionToMenu(QMenu* menu);
@@ -432,10 +433,16 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void AddToMenu(QMenu* menu);
   void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
   void FitEdits();
+  struct GridSize {
+    quint32 rows = 0;
+    quint32 cols = 0;
+  };
+  [[nodiscard]] GridSize FittingEdits() const;
   void Place();
   void ColsMoved();
   void CountChanged();
   void DragColWidth(quint32 col, int width);
+  void FitColWidth(quint32 col, int heading_width);
   [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;

@@ -143,18 +143,11 @@ void CellPanel::DeleteRows(quint32 row, quint32 count) {
   DeleteLines(CellAxis::kRows, row, count);
 }
 
-TQorCellRange CellPanel::SelectedBlock() const {
-  const TQorCellRange selected = Selection();
-  if (!selected.IsEmpty()) return selected;
-  // Where an empty table begins.
-  return {Rows().Top() + Rows().Focus(), 1, Cols().Top() + Cols().Focus(), 1};
-}
-
 void CellPanel::ChangeSelectedLines(CellAxis axis, bool insert) {
   if (!MayGrow(axis)) return;
   parts_->focus.CommitPending();
   const bool rows = axis == CellAxis::kRows;
-  const TQorCellRange block = SelectedBlock();
+  const TQorCellRange block = Selection();
   const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
   const quint32 first = std::min(rows ? block.row : block.col, lines);
   const quint32 room = (insert ? std::numeric_limits<quint32>::max() - lines : lines - first);
@@ -167,7 +160,7 @@ void CellPanel::ChangeSelectedLines(CellAxis axis, bool insert) {
 }
 
 CellAxis CellPanel::AxisOfSelection() const {
-  const TQorCellRange block = SelectedBlock();
+  const TQorCellRange block = Selection();
   const bool all_rows = block.row == 0 && block.rows >= table_.RowCount();
   const bool all_cols = block.col == 0 && block.cols >= table_.ColCount();
   return all_rows && !all_cols ? CellAxis::kCols : CellAxis::kRows;

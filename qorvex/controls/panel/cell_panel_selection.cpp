@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QMenu>
 #include <QMimeData>
+#include <algorithm>
 #include <limits>
 #include <new>
 #include <utility>
@@ -18,6 +19,27 @@ namespace qorvex::inline QorvexControls {
 namespace {
 
 constexpr quint32 kAll = std::numeric_limits<quint32>::max();
+
+// Entries of the menu, which also name the steps that can be undone.
+QString TextOfCut() {
+  return QCoreApplication::translate("CellPanel", "Cut");
+}
+
+QString TextOfPaste() {
+  return QCoreApplication::translate("CellPanel", "Paste");
+}
+
+QString TextOfDelete() {
+  return QCoreApplication::translate("CellPanel", "Delete");
+}
+
+QString TextOfFillDown() {
+  return QCoreApplication::translate("CellPanel", "Fill Down");
+}
+
+QString TextOfFillRight() {
+  return QCoreApplication::translate("CellPanel", "Fill Right");
+}
 
 }  // namespace
 
@@ -78,11 +100,11 @@ bool CellPanel::RequireChangeable() {
   return false;
 }
 
-bool CellPanel::ChangeBlock(const QString& step,
-                            const std::function<detail::BlockChanges()>& plan) {
+bool CellPanel::ChangeBlock(const QString& step, const BlockPlan& plan) {
   parts_->focus.CommitPending();
   if (!RequireChangeable()) return false;
-  detail::BlockChanges block = plan();
+  const TQorCellRange selection = Selection();
+  detail::BlockChanges block = plan(selection);
   detail::RefuseReadOnly(table_, block);
   if (block.refusal.isEmpty()) {
     if (block.changes.empty() && block.lines.empty()) return true;
@@ -98,11 +120,12 @@ bool CellPanel::ChangeBlock(const QString& step,
 }
 
 bool CellPanel::PasteBlock(const QString& text) {
-  return ChangeBlock(QCoreApplication::translate("CellPanel", "Paste"), [&] {
-    const detail::Growth growth{
-        .rows = MayGrow(CellAxis::kRows), .cols = MayGrow(CellAxis::kCols), .value = NewElement()};
-    return detail::PlanPaste(table_, parts_->grid.IsEmpty() ? nullptr : parts_->grid.Cell(0, 0),
-                             text, SelectedBlock(), growth);
+  return ChangeBlock(TextOfPaste(), [&](const TQorCellRange& selection) {
+    const TQorCustomEdit* const cell = parts_->grid.IsEmpty() ? nullptr : parts_->grid.Cell(0, 0);
+    return detail::PlanPaste(table_, cell, text, selection,
+                             {.rows = MayGrow(CellAxis::kRows),
+                              .cols = MayGrow(CellAxis::kCols),
+                              .value = NewElement()});
   });
 }
 
@@ -112,71 +135,65 @@ bool CellPanel::Paste() {
 }
 
 bool CellPanel::RequireNulls() {
+  if (!RequireChangeable()) return false;
   if (EffectiveSettings().nulls.allow_kbd_null) return true;
   RefuseBlock(detail::NotNull());
   return false;
 }
 
+bool CellPanel::MakeNull(const QString& step) {
+  return ChangeBlock(step, [this](const TQorCellRange& selection) {
+    return detail::PlanDelete(table_, selection);
+  });
+}
+
 bool CellPanel::DeleteSelected() {
-  return RequireChangeable() && RequireNulls() &&
-         ChangeBlock(QCoreApplication::translate("CellPanel", "Delete"), [this] {
-           return detail::PlanDelete(table_,
-                                     Selection().Within(table_.RowCount(), table_.ColCount()));
-         });
+  return RequireNulls() && MakeNull(TextOfDelete());
 }
 
 bool CellPanel::Cut() {
-  return RequireChangeable() && RequireNulls() && Copy() && DeleteSelected();
+  return RequireNulls() && Copy() && MakeNull(TextOfCut());
 }
 
 bool CellPanel::FillDown() {
-  return ChangeBlock(QCoreApplication::translate("CellPanel", "Fill Down"), [this] {
-    return detail::PlanFillDown(table_, Selection().Within(table_.RowCount(), table_.ColCount()));
+  return ChangeBlock(TextOfFillDown(), [this](const TQorCellRange& selection) {
+    return detail::PlanFillDown(table_, selection);
   });
 }
 
 bool CellPanel::FillRight() {
-  return ChangeBlock(QCoreApplication::translate("CellPanel", "Fill Right"), [this] {
-    return detail::PlanFillRight(table_, Selection().Within(table_.RowCount(), table_.ColCount()));
+  return ChangeBlock(TextOfFillRight(), [this](const TQorCellRange& selection) {
+    return detail::PlanFillRight(table_, selection);
   });
 }
 
 void CellPanel::AddSelectionToMenu(QMenu* menu) {
   // The entries of the line edit concern its text.
   menu->clear();
-  const CellSettings settings = EffectiveSettings();
-  const bool changes = !settings.read_only;
-  const bool deletes = changes && settings.nulls.allow_kbd_null;
-  const auto add = [menu](const QString& text, Qt::KeyboardModifiers held, Qt::Key key) {
-    const QKeySequence keys(QKeyCombination(held, key));
-    return menu->addAction(text + QLatin1Char('\t') + keys.toString(QKeySequence::NativeText));
-  };
-  const auto connect_to = [this](QAction* action, bool enabled, auto function) {
+  const auto add = [this, menu](const QString& text, const char* keys, bool enabled,
+                                auto function) {
+    const QString shown = QKeySequence(QLatin1String(keys)).toString(QKeySequence::NativeText);
+    QAction* const action = menu->addAction(text + QLatin1Char('\t') + shown);
     action->setEnabled(enabled);
     connect(action, &QAction::triggered, this, function);
   };
-  connect_to(add(QCoreApplication::translate("CellPanel", "Cut"), Qt::ControlModifier, Qt::Key_X),
-             deletes, &CellPanel::Cut);
-  connect_to(add(QCoreApplication::translate("CellPanel", "Copy"), Qt::ControlModifier, Qt::Key_C),
-             true, &CellPanel::Copy);
+  const CellSettings settings = EffectiveSettings();
+  const bool changes = !settings.read_only;
+  const bool deletes = changes && settings.nulls.allow_kbd_null;
   const QMimeData* const contents = QApplication::clipboard()->mimeData();
-  connect_to(add(QCoreApplication::translate("CellPanel", "Paste"), Qt::ControlModifier, Qt::Key_V),
-             changes && contents != nullptr && contents->hasText(), &CellPanel::Paste);
-  connect_to(add(QCoreApplication::translate("CellPanel", "Delete"), {}, Qt::Key_Delete), deletes,
-             &CellPanel::DeleteSelected);
+  const bool pastes = changes && contents != nullptr && contents->hasText();
+  add(TextOfCut(), "Ctrl+X", deletes, &CellPanel::Cut);
+  add(QCoreApplication::translate("CellPanel", "Copy"), "Ctrl+C", true, &CellPanel::Copy);
+  add(TextOfPaste(), "Ctrl+V", pastes, &CellPanel::Paste);
+  add(TextOfDelete(), "Del", deletes, &CellPanel::DeleteSelected);
   menu->addSeparator();
-  connect_to(
-      add(QCoreApplication::translate("CellPanel", "Fill Down"), Qt::ControlModifier, Qt::Key_D),
-      changes, &CellPanel::FillDown);
+  add(TextOfFillDown(), "Ctrl+D", changes, &CellPanel::FillDown);
   if (parts_->cols.Bar() != nullptr) {
-    connect_to(
-        add(QCoreApplication::translate("CellPanel", "Fill Right"), Qt::ControlModifier, Qt::Key_R),
-        changes, &CellPanel::FillRight);
+    add(TextOfFillRight(), "Ctrl+R", changes, &CellPanel::FillRight);
   }
   menu->addSeparator();
-  connect_to(
-      add(QCoreApplication::translate("CellPanel", "Select All"), Qt::ControlModifier, Qt::Key_A),
-      true, &CellPanel::SelectAll);
+  add(QCoreApplication::translate("CellPanel", "Select All"), "Ctrl+A", true,
+      &CellPanel::SelectAll);
 }
 
 }  // namespace qorvex::inline QorvexControls

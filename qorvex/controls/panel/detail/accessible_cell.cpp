@@ -115,6 +115,10 @@ QWindow* AccessibleElement::window() const {
   return table == nullptr ? nullptr : table->window();
 }
 
+QRect AccessibleElement::rect() const {
+  return isValid() ? Table()->PlaceOnScreen(place_) : QRect();
+}
+
 QAccessible::State AccessibleElement::state() const {
   QAccessible::State state;
   const AccessiblePanel* const table = Table();
@@ -122,10 +126,10 @@ QAccessible::State AccessibleElement::state() const {
     state.invalid = true;
     return state;
   }
-  state.offscreen = true;
+  state.offscreen = rect().isEmpty();
   state.focusable = place_.kind == Kind::kElement;
   state.disabled = table->state().disabled;
-  state.readOnly = table->state().readOnly || place_.kind != Kind::kElement;
+  state.readOnly = table->IsReadOnly(place_);
   return StateInTable(state);
 }
 

@@ -73,7 +73,8 @@ class AccessibleCell : public QAccessibleWidget, public AccessibleTableCell {
   AccessibleText text_;
 };
 
-/// An element or a heading out of sight. Giving it the focus scrolls it into sight.
+/// An element out of sight, or a heading that is no widget. Giving an element the focus scrolls it
+/// into sight.
 class AccessibleElement : public QAccessibleInterface,
                           public AccessibleTableCell,
                           public QAccessibleActionInterface,
@@ -95,7 +96,7 @@ class AccessibleElement : public QAccessibleInterface,
   QAccessibleInterface* childAt(int, int) const override { return nullptr; }
   int childCount() const override { return 0; }
   int indexOfChild(const QAccessibleInterface*) const override { return -1; }
-  QRect rect() const override { return {}; }
+  QRect rect() const override;
   QAccessible::Role role() const override { return RoleInTable(); }
   QAccessible::State state() const override;
   QString text(QAccessible::Text kind) const override;

@@ -55,11 +55,12 @@ PanelParts* AccessiblePanel::Parts() const {
 }
 
 quint32 AccessiblePanel::Rows() const {
-  return Parts() == nullptr ? 0 : Parts()->table.RowCount();
+  // With the empty row that takes a new value.
+  return Parts() == nullptr ? 0 : Parts()->rows.Window().Count();
 }
 
 quint32 AccessiblePanel::Cols() const {
-  return Parts() == nullptr ? 0 : Parts()->table.ColCount();
+  return Parts() == nullptr ? 0 : Parts()->cols.Window().Count();
 }
 
 bool AccessiblePanel::Has(const AccessiblePlace& place) const {
@@ -75,11 +76,18 @@ bool AccessiblePanel::Has(const AccessiblePlace& place) const {
 }
 
 bool AccessiblePanel::HasRowHeadings() const {
-  return Parts() != nullptr && Parts()->grid.HasHeader();
+  const PanelParts* const parts = Parts();
+  return parts != nullptr && (parts->grid.HasHeader() || parts->headings.HasRows());
 }
 
 bool AccessiblePanel::HasColHeadings() const {
-  return false;
+  return Parts() != nullptr && Parts()->headings.HasCols();
+}
+
+bool AccessiblePanel::IsReadOnly(const AccessiblePlace& place) const {
+  if (place.kind != Kind::kElement || state().readOnly) return true;
+  const CellTable& table = Parts()->table;
+  return place.row < table.RowCount() && table.IsReadOnly(place.row, place.col);
 }
 
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
@@ -88,6 +96,7 @@ QString AccessiblePanel::Name(const AccessiblePlace& place) const {
 
 QString AccessiblePanel::Text(const AccessiblePlace& place) const {
   const PanelParts& parts = *Parts();
+  if (place.row >= parts.table.RowCount()) return {};
   switch (place.kind) {
     case Kind::kRowHeading:
       return parts.table.RowHeading(place.row);
@@ -96,7 +105,7 @@ QString AccessiblePanel::Text(const AccessiblePlace& place) const {
     case Kind::kElement:
       break;
   }
-  return parts.grid.Cell(0, 0)->TextFor(parts.table.Value(place.row, place.col));
+  return parts.grid.TextFor(place.col, parts.table.Value(place.row, place.col));
 }
 
 TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {
@@ -112,6 +121,21 @@ TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {
       break;
   }
   return nullptr;
+}
+
+QRect AccessiblePanel::PlaceOnScreen(const AccessiblePlace& place) const {
+  const PanelParts& parts = *Parts();
+  const quint32 row = place.row - parts.rows.Window().Top();
+  const quint32 col = place.col - parts.cols.Window().Top();
+  QRect heading;
+  if (place.kind == Kind::kRowHeading && parts.grid.IsUsed(row, 0)) {
+    heading = parts.geometry.InFrontOf(row);
+  } else if (place.kind == Kind::kColHeading && parts.grid.IsUsed(0, col)) {
+    heading = parts.geometry.Above(col);
+  }
+  if (heading.isEmpty()) return {};
+  heading = parts.geometry.Placed(heading);
+  return {widget()->mapToGlobal(heading.topLeft()), heading.size()};
 }
 
 std::optional<AccessiblePlace> AccessiblePanel::PlaceOf(const TextCell& cell) const {
@@ -188,6 +212,17 @@ QAccessibleInterface* AccessiblePanel::child(int index) const {
 }
 
 QAccessibleInterface* AccessiblePanel::childAt(int x, int y) const {
+  if (const PanelParts* const parts = Parts()) {
+    // Some headings are painted, and are no widgets.
+    for (quint32 row = 0; row < parts->rows.Window().UsedEdits(); ++row) {
+      const AccessiblePlace heading{Kind::kRowHeading, parts->rows.Window().Top() + row, 0};
+      if (PlaceOnScreen(heading).contains(x, y)) return Cell(heading);
+    }
+    for (quint32 col = 0; col < parts->cols.Window().UsedEdits(); ++col) {
+      const AccessiblePlace heading{Kind::kColHeading, 0, parts->cols.Window().Top() + col};
+      if (PlaceOnScreen(heading).contains(x, y)) return Cell(heading);
+    }
+  }
   QWidget* const at = widget()->childAt(widget()->mapFromGlobal(QPoint(x, y)));
   return at == nullptr ? nullptr : QAccessible::queryAccessibleInterface(at);
 }

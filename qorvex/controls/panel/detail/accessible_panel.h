@@ -42,8 +42,11 @@ class AccessiblePanel : public QAccessibleWidget, public QAccessibleTableInterfa
   [[nodiscard]] bool HasRowHeadings() const;
   [[nodiscard]] bool HasColHeadings() const;
   [[nodiscard]] bool IsSelected(const AccessiblePlace& place) const;
+  [[nodiscard]] bool IsReadOnly(const AccessiblePlace& place) const;
   [[nodiscard]] QString Name(const AccessiblePlace& place) const;
   [[nodiscard]] QString Text(const AccessiblePlace& place) const;
+  /// Of a heading in sight; empty for others.
+  [[nodiscard]] QRect PlaceOnScreen(const AccessiblePlace& place) const;
   [[nodiscard]] std::optional<AccessiblePlace> PlaceOf(const TextCell& cell) const;
   [[nodiscard]] QAccessibleInterface* Cell(const AccessiblePlace& place) const;
   void Focus(const AccessiblePlace& element);

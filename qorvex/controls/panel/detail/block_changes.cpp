@@ -11,15 +11,16 @@ namespace qorvex::inline QorvexControls::detail {
 namespace {
 
 // Gives each element of a range the value that a function finds for it.
-BlockChanges PlanEach(const CellTable& table, const TQorCellRange& range,
+BlockChanges PlanEach(const CellTable& table, const TQorCellRange& wanted,
                       const std::function<Extended(quint32 row, quint32 col)>& value) {
+  const TQorCellRange range = wanted.Within(table.RowCount(), table.ColCount());
   BlockChanges result;
   if (!HasFewEnough(quint64{range.rows} * range.cols, result)) return result;
   for (quint32 r = 0; r < range.rows; ++r) {
     for (quint32 c = 0; c < range.cols; ++c) {
       const quint32 row = range.row + r;
       const quint32 col = range.col + c;
-      AddChange(table, row, col, value(row, col), 0, result.changes);
+      AddChange(table.Value(row, col), {row, col, value(row, col)}, result.changes);
     }
   }
   return result;
@@ -32,12 +33,8 @@ quint32 SourceLine(quint32 first, quint32 count) {
 
 }  // namespace
 
-void AddChange(const CellTable& table, quint32 row, quint32 col, Extended value, Extended appended,
-               ElementChanges& changes) {
-  const bool exists = row < table.RowCount() && col < table.ColCount();
-  const Extended before = exists ? table.Value(row, col) : appended;
-  if (QorvexBaseControls::detail::SameElement(before, value)) return;
-  changes.push_back({row, col, value});
+void AddChange(Extended before, const ElementChange& change, ElementChanges& changes) {
+  if (!QorvexBaseControls::detail::SameElement(before, change.value)) changes.push_back(change);
 }
 
 bool HasFewEnough(quint64 values, BlockChanges& result) {

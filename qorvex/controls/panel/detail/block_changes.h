@@ -15,15 +15,20 @@ inline constexpr quint64 kMaxBlockValues = 10'000'000;
 
 /// What a change of a block does.
 struct BlockChanges {
-  LineInsertions lines{};    ///< The lines that are appended before.
-  ElementChanges changes{};  ///< The elements that change, with their new values.
-  QString refusal{};         ///< Why the block cannot be changed; empty when it can be.
+  LineInsertions lines;    ///< The lines that are appended.
+  ElementChanges changes;  ///< The elements that change, with their new values.
+  QString refusal;         ///< Why the block cannot be changed; empty when it can be.
 };
 
-/// Adds a change of an element to others, unless it has the value. The elements of lines that are
-/// to be appended have another one.
-void AddChange(const CellTable& table, quint32 row, quint32 col, Extended value, Extended appended,
-               ElementChanges& changes);
+/// In which directions a block may append lines, and what their elements are otherwise.
+struct Growth {
+  bool rows = false;
+  bool cols = false;
+  Extended value = 0;
+};
+
+/// Adds a change of an element to others, unless it changes nothing.
+void AddChange(Extended before, const ElementChange& change, ElementChanges& changes);
 
 /// Refuses more elements than can be changed at once; true if there are not.
 [[nodiscard]] bool HasFewEnough(quint64 values, BlockChanges& result);
@@ -31,7 +36,7 @@ void AddChange(const CellTable& table, quint32 row, quint32 col, Extended value,
 /// Refuses a change of an element that cannot be changed.
 void RefuseReadOnly(const CellTable& table, BlockChanges& result);
 
-/// Makes the elements of a range null. O(elements).
+/// Makes the elements of a range null that the table has. O(elements).
 [[nodiscard]] BlockChanges PlanDelete(const CellTable& table, const TQorCellRange& range);
 
 /// @{

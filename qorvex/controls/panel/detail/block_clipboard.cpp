@@ -60,27 +60,29 @@ BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const
   const std::size_t cols = std::ranges::max(block, {}, &std::vector<std::string>::size).size();
   const std::size_t room_below = cell ? RoomFrom(target.row, table.RowCount(), growth.rows) : 0;
   const std::size_t room_beside = RoomFrom(target.col, table.ColCount(), growth.cols);
-  if (rows > room_below || !cell) return {.refusal = TooManyRows(rows, room_below)};
-  if (cols > room_beside) return {.refusal = TooManyCols(cols, room_beside)};
+  if (rows > room_below || !cell) return {{}, {}, TooManyRows(rows, room_below)};
+  if (cols > room_beside) return {{}, {}, TooManyCols(cols, room_beside)};
 
-  const bool covers = target.rows % rows == 0 && target.cols % cols == 0;
+  const bool covers = !target.IsEmpty() && target.rows % rows == 0 && target.cols % cols == 0;
   const quint64 height = covers ? target.rows : rows;
   const quint64 width = covers ? target.cols : cols;
   BlockChanges result;
   if (!HasFewEnough(height * width, result)) return result;
+  const auto change = [&](quint32 row, quint32 col, Extended value) {
+    const bool exists = row < table.RowCount() && col < table.ColCount();
+    AddChange(exists ? table.Value(row, col) : growth.value, {row, col, value}, result.changes);
+  };
   for (std::size_t r = 0; r < rows; ++r) {
     for (std::size_t c = 0; c < block[r].size(); ++c) {
       const QString cell_text = QString::fromStdString(block[r][c]);
       const CellReading reading = cell->Read(cell_text);
       const auto row = static_cast<quint32>(target.row + r);
       const auto col = static_cast<quint32>(target.col + c);
-      if (!reading.value) {
-        return {.refusal = table.CellName(row, col) + ": " + reading.refusal};
-      }
+      if (!reading.value) return {{}, {}, table.CellName(row, col) + ": " + reading.refusal};
       for (quint64 down = 0; r + down < height; down += rows) {
         for (quint64 right = 0; c + right < width; right += cols) {
-          AddChange(table, static_cast<quint32>(row + down), static_cast<quint32>(col + right),
-                    *reading.value, growth.value, result.changes);
+          change(static_cast<quint32>(row + down), static_cast<quint32>(col + right),
+                 *reading.value);
         }
       }
     }
@@ -102,14 +104,14 @@ QString NotChangeable() {
   return QCoreApplication::translate("CellPanel", "These values cannot be changed.");
 }
 
+QString NotNull() {
+  return QCoreApplication::translate("CellPanel", "These values cannot be empty.");
+}
+
 QString NotStored(const QString& cell_name, const QString& text) {
   return QCoreApplication::translate("CellPanel", "%1: \"%2\" cannot be stored.",
                                      "name of a cell, its text")
       .arg(cell_name, text);
-}
-
-QString NotNull() {
-  return QCoreApplication::translate("CellPanel", "These values cannot be empty.");
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -16,18 +16,11 @@ namespace qorvex::inline QorvexControls::detail {
 [[nodiscard]] QString BlockText(const CellTable& table, const TQorCustomEdit& cell,
                                 const TQorCellRange& block);
 
-/// In which directions a paste may append lines, and what their elements are otherwise.
-struct Growth {
-  bool rows = false;
-  bool cols = false;
-  Extended value = 0;
-};
-
 /// Pastes a text over a range: as often as it covers the range exactly, or else once, from its
 /// first element on. A cell reads the numbers; without one there is no room. Lines are appended for
 /// what is beyond the end. The text is refused as a whole, in this order: more rows than there is
-/// room from there on, more columns, too many values, a cell that is not a number.
-/// O(length + elements).
+/// room for from there on, more columns, too many values, a cell that is not a number. O(length +
+/// elements).
 [[nodiscard]] BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell,
                                      const QString& text, const TQorCellRange& target,
                                      const Growth& growth);
@@ -37,8 +30,8 @@ struct Growth {
 [[nodiscard]] QString TooManyToCopy(quint64 values);
 [[nodiscard]] QString OutOfMemory();
 [[nodiscard]] QString NotChangeable();
-[[nodiscard]] QString NotStored(const QString& cell_name, const QString& text);
 [[nodiscard]] QString NotNull();
+[[nodiscard]] QString NotStored(const QString& cell_name, const QString& text);
 /// @}
 
 }  // namespace qorvex::inline QorvexControls::detail

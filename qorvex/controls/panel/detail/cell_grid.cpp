@@ -1,6 +1,7 @@
 #include "qorvex/controls/panel/detail/cell_grid.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace qorvex::inline QorvexControls::detail {
@@ -159,9 +160,7 @@ void CellGrid::Apply(const CellSettings& settings, Qt::FocusPolicy focus) {
 void CellGrid::ApplyToCells(const CellSettings& settings) {
   settings_ = settings;
   for (std::size_t c = 0; c < cols_.Edits(); ++c) {
-    CellSettings of_column = settings;
-    const auto format = col_formats_.find(cols_.Top() + static_cast<quint32>(c));
-    if (format != col_formats_.end()) of_column.number = format->second;
+    CellSettings of_column = SettingsOf(cols_.Top() + static_cast<quint32>(c));
     // A text that is committed on the way may change how many cells there are.
     for (std::size_t r = 0; r < cells_.size() && c < cells_[r].size(); ++r) {
       of_column.read_only = IsReadOnly(r, c);
@@ -174,6 +173,22 @@ bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
   return settings_.read_only ||
          (IsUsed(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
                                                 cols_.Top() + static_cast<quint32>(col)));
+}
+
+CellSettings CellGrid::SettingsOf(quint32 col) const {
+  CellSettings settings = settings_;
+  const auto format = col_formats_.find(col);
+  if (format != col_formats_.end()) settings.number = format->second;
+  return settings;
+}
+
+QString CellGrid::TextFor(quint32 col, Extended value) const {
+  if (col_formats_.empty()) return Cell(0, 0)->TextFor(value);
+  // The column may be out of sight.
+  const std::unique_ptr<TQorCustomEdit> cell(make_cell_(nullptr));
+  cell->setLocale(panel_.locale());
+  cell->setSettings(SettingsOf(col));
+  return cell->TextFor(value);
 }
 
 void CellGrid::ApplyToHeader(const CellSettings& settings) {
@@ -242,6 +257,14 @@ void CellGrid::NameCells() {
   for (std::size_t r = 0; r < header_texts_.size(); ++r) {
     name(*header_texts_[r], header_.name(static_cast<quint32>(r)));
   }
+}
+
+int CellGrid::FittingWidth(std::size_t col) const {
+  int width = 0;
+  for (const auto& row : cells_) {
+    if (col < row.size()) width = std::max(width, row[col]->FittingWidth());
+  }
+  return width;
 }
 
 void CellGrid::Arrange() const {

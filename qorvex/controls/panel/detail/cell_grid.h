@@ -103,6 +103,11 @@ class CellGrid : private QAccessible::ActivationObserver {
   /// Marks the cells that show elements of a range, and no others.
   void MarkSelected(const TQorCellRange& range);
 
+  /// The width that the texts in a column of cells need.
+  [[nodiscard]] int FittingWidth(std::size_t col) const;
+  /// The text that a cell of a column, in sight or not, would show for a value. Needs a cell.
+  [[nodiscard]] QString TextFor(quint32 col, Extended value) const;
+
   /// Places the header and the cells.
   void Arrange() const;
 
@@ -119,6 +124,7 @@ class CellGrid : private QAccessible::ActivationObserver {
   void ApplyToCells(const CellSettings& settings);
   // By the settings, or because the element is.
   [[nodiscard]] bool IsReadOnly(std::size_t row, std::size_t col) const;
+  [[nodiscard]] CellSettings SettingsOf(quint32 col) const;
   void FitHeader(QWidget* before);
   void DropCell(TQorCustomEdit* cell);
   void Drop(TextCell* text);

@@ -1,65 +1,45 @@
 #include "qorvex/controls/panel/detail/panel_keys.h"
 
-#include <QApplication>
 #include <algorithm>
-#include <utility>
 
 #include "qorvex/controls/panel/detail/tab_order.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
-namespace {
-
-// The whole notches that a wheel has turned.
-int Notches(int amount, bool fine, int& rest) {
-  if (!fine) return amount / 100;
-  // Touch pads and free wheels send many small amounts, which add up to a notch.
-  constexpr int notch = 120;
-  if (amount == 0) return 0;
-  if ((amount < 0) != (rest < 0)) rest = 0;
-  rest += amount;
-  return std::exchange(rest, rest % notch) / notch;
-}
-
-void Scroll(EditWindow& window, int steps) {
-  if (steps > 0) window.ScrollUp(static_cast<quint32>(steps));
-  if (steps < 0) window.ScrollDown(static_cast<quint32>(-steps));
-}
-
-}  // namespace
-
 PanelKeys::PanelKeys(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, PanelFocus& focus,
-                     PanelSelection& selection, PanelMouse& mouse)
+                     PanelSelection& selection, PanelMouse& mouse, PanelWheel& wheel)
     : panel_(panel),
       rows_(rows),
       cols_(cols),
       focus_(focus),
       selection_(selection),
-      mouse_(mouse) {}
+      mouse_(mouse),
+      wheel_(wheel) {}
 
 GridKey PanelKeys::MeaningOf(const QKeyEvent& event) const {
   const GridKey key = GridKeyOf(event.key(), event.modifiers(),
                                 {.editing = focus_.KeysBelongToText(),
                                  .has_cols = cols_.Bar() != nullptr,
                                  .mirrored = panel_.layoutDirection() == Qt::RightToLeft});
-  if (key.action != GridAction::kEscape) return key;
-  const bool typed = focus_.Entered() != nullptr && focus_.Entered()->Pending();
-  return typed || focus_.Editing() || selection_.IsMultiple() ? key : GridKey{};
+  switch (key.action) {
+    case GridAction::kEscape:
+      return focus_.Editing() || IsTyping() || selection_.IsMultiple() ? key : GridKey{};
+    case GridAction::kInsertLines:
+    case GridAction::kDeleteLines:
+      return panel_.CanGrow() ? key : GridKey{};
+    default:
+      return key;
+  }
+}
+
+bool PanelKeys::IsTyping() const {
+  return focus_.Entered() != nullptr && focus_.Entered()->Pending();
 }
 
 bool PanelKeys::IsLeftToApplication(GridKey key) const {
-  const bool read_only = panel_.EffectiveSettings().read_only;
-  switch (key.action) {
-    case GridAction::kUndo:
-      return read_only || !panel_.CanUndo();
-    case GridAction::kRedo:
-      return read_only || !panel_.CanRedo();
-    case GridAction::kInsertLines:
-    case GridAction::kDeleteLines:
-      return read_only || !panel_.CanGrow();
-    default:
-      return false;
-  }
+  if (key.action != GridAction::kUndo && key.action != GridAction::kRedo) return false;
+  if (panel_.EffectiveSettings().read_only) return true;
+  return key.action == GridAction::kUndo ? !panel_.CanUndo() : !panel_.CanRedo();
 }
 
 bool PanelKeys::UseKey(QKeyEvent& event) {
@@ -200,8 +180,7 @@ void PanelKeys::Edit() {
 
 void PanelKeys::Escape() {
   TextCell* const text = focus_.Entered();
-  const bool edits = focus_.Editing() || (text != nullptr && text->Pending());
-  if (!edits) return selection_.Clear();
+  if (!focus_.Editing() && !IsTyping()) return selection_.Clear();
   text->Restore();
   focus_.SetEditing(false);
 }
@@ -224,27 +203,9 @@ bool PanelKeys::EditKeyPress(QKeyEvent& event) {
   return false;
 }
 
-bool PanelKeys::FocusInside() const {
-  const QWidget* const focus = QApplication::focusWidget();
-  return focus != nullptr && (focus == &panel_ || panel_.isAncestorOf(focus));
-}
-
-void PanelKeys::EditMouseWheel(QWheelEvent& event) {
-  if (!FocusInside()) {
-    wheel_rest_ = {};
-    event.ignore();
-    return;
-  }
-  event.accept();
-  const bool fine = event.phase() != Qt::NoScrollPhase || !event.pixelDelta().isNull();
-  Scroll(rows_.Window(), Notches(event.angleDelta().y(), fine, wheel_rest_.ry()));
-  if (cols_.Bar() == nullptr) return;
-  Scroll(cols_.Window(), Notches(event.angleDelta().x(), fine, wheel_rest_.rx()));
-}
-
 bool PanelKeys::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::Wheel) {
-    EditMouseWheel(static_cast<QWheelEvent&>(*event));
+    wheel_.EditMouseWheel(static_cast<QWheelEvent&>(*event));
     return true;
   }
   if (watched == rows_.Bar() || watched == cols_.Bar()) return false;

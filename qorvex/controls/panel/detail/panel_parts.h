@@ -17,6 +17,7 @@
 #include "qorvex/controls/panel/detail/panel_keys.h"
 #include "qorvex/controls/panel/detail/panel_mouse.h"
 #include "qorvex/controls/panel/detail/panel_selection.h"
+#include "qorvex/controls/panel/detail/panel_wheel.h"
 #include "qorvex/controls/panel/detail/shared_settings.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -54,7 +55,8 @@ struct PanelParts {
                     Q_EMIT panel.OnSelectionChange();
                   }),
         mouse(panel, rows, cols, grid, focus, selection),
-        keys(panel, rows, cols, focus, selection, mouse),
+        wheel(panel, rows, cols),
+        keys(panel, rows, cols, focus, selection, mouse, wheel),
         headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
                  panel.HeadingEvents()),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
@@ -84,6 +86,7 @@ struct PanelParts {
   PanelFocus focus;
   PanelSelection selection;
   PanelMouse mouse;
+  PanelWheel wheel;
   PanelKeys keys;
   PanelHeadings headings;
   CellGrid grid;
