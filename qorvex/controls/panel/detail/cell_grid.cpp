@@ -1,5 +1,6 @@
 #include "qorvex/controls/panel/detail/cell_grid.h"
 
+#include <QLocale>
 #include <algorithm>
 #include <memory>
 #include <utility>
