@@ -72,7 +72,7 @@ std::unique_ptr<QWidget> MatrixLayouts() {
   TQorMatrixEdit* const filling = Filling();
   layout->addWidget(samples, 0, Qt::AlignTop);
   layout->addWidget(filling);
-  form->resize(860, form->sizeHint().height());
+  form->resize(868, form->sizeHint().height());
   form->show();
   if (!QTest::qWaitForWindowActive(form.get())) return form;
   filling->setDisplayTopRow(119);

@@ -11,7 +11,6 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/cell_colors.h"
-#include "qorvex/base_controls/detail/digit_groups.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/base_controls/detail/same_element.h"
 
@@ -213,15 +212,15 @@ void TQorCustomEdit::ApplyColors() {
   colors_->Show(*this, text, background);
 }
 
+QString TQorCustomEdit::Painted(std::string_view number) const {
+  return detail::LocalNumber(number, locale());
+}
+
 QString TQorCustomEdit::ShorterText() const {
   // A null is not shown as a number.
   if (Null()) return TextCell::ShorterText();
-  const auto local = [this](std::string_view text) {
-    const QString number = detail::LocalNumber(text, locale());
-    return Grouping() ? detail::WithGroups(number, locale()) : number;
-  };
-  return local(FittedFloatText(
-      value_, Digits(), [this, local](std::string_view text) { return HasRoom(local(text)); }));
+  return Painted(FittedFloatText(value_, Digits(),
+                                 [this](std::string_view text) { return HasRoom(Painted(text)); }));
 }
 
 QString TQorCustomEdit::Tip() const {

@@ -6,6 +6,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <string_view>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -42,6 +43,7 @@ class CellColors;
 /// FittedFloatText.
 class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   Q_OBJECT
+  /// The value as a text: see ValueText.
   Q_PROPERTY(QString Value READ ValueText WRITE setValueText NOTIFY Changed USER true)
 
  public:
@@ -124,6 +126,8 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   [[nodiscard]] virtual FloatDigits Digits() const = 0;
   /// What a text that is not blank means.
   [[nodiscard]] virtual CellReading ValueOf(const QString& text) const = 0;
+  /// The plain text of a number, as it is painted while the cell is not being edited.
+  [[nodiscard]] virtual QString Painted(std::string_view number) const;
   /// Whether the text is that of a number: neither null nor blank.
   [[nodiscard]] bool ShowsNumber() const;
   /// A text of several cells goes to the owner, any other one into the cell.

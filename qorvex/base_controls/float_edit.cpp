@@ -34,9 +34,14 @@ CellReading TQorFloatEdit::ValueOf(const QString& text) const {
                            : detail::ReadNumber(text, locale());
 }
 
+QString TQorFloatEdit::Painted(std::string_view number) const {
+  const QString text = TQorCustomEdit::Painted(number);
+  return Grouping() ? detail::WithGroups(text, locale()) : text;
+}
+
 QString TQorFloatEdit::WholeText() const {
   if (!Grouping() || !ShowsNumber()) return TQorCustomEdit::WholeText();
-  return detail::WithGroups(TextOf(Value()), locale());
+  return Painted(FloatText(Value(), Digits()));
 }
 
 }  // namespace qorvex::inline QorvexBaseControls

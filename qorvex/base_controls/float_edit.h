@@ -56,6 +56,7 @@ class QORVEX_EXPORT TQorFloatEdit : public TQorCustomEdit {
   [[nodiscard]] QString TextOf(Extended value) const override;
   [[nodiscard]] FloatDigits Digits() const override;
   [[nodiscard]] CellReading ValueOf(const QString& text) const override;
+  [[nodiscard]] QString Painted(std::string_view number) const override;
   [[nodiscard]] QString WholeText() const override;
 
  private:

@@ -100,6 +100,11 @@ QString TextCell::PaintedText() const {
   return HasRoom(whole) ? whole : ShorterText();
 }
 
+int TextCell::FittingWidth() const {
+  QTextLayout layout(WholeText(), font(), this);
+  return WidthOf(LineOf(layout)) + width() - RoomFor(Contents());
+}
+
 QString TextCell::ShorterText() const {
   return fontMetrics().elidedText(displayText(), Qt::ElideRight, RoomFor(Contents()) - 1);
 }

@@ -46,6 +46,8 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// text is being edited while it has the focus, unless it is read-only, and while a part of it is
   /// selected.
   [[nodiscard]] QString PaintedText() const;
+  /// The width in pixels at which the whole text fits.
+  [[nodiscard]] int FittingWidth() const;
 
   /// Whether a press of the mouse, not yet released, has entered the cell.
   [[nodiscard]] bool EnteredByMouse() const noexcept { return entered_by_mouse_; }

@@ -76,7 +76,7 @@ quint32 TQorCustomMatrixEdit::NoOfRows() const noexcept {
 
 void TQorCustomMatrixEdit::setNoOfCols(quint32 cols) {
   if (Model() != nullptr) {
-    Parts().model.SetColCount(cols);
+    Parts().model.SetCount(CellAxis::kCols, cols);
   } else {
     ChangeCols(cols);
   }
@@ -84,7 +84,7 @@ void TQorCustomMatrixEdit::setNoOfCols(quint32 cols) {
 
 void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
   if (Model() != nullptr) {
-    Parts().model.SetRowCount(rows);
+    Parts().model.SetCount(CellAxis::kRows, rows);
   } else {
     ChangeRows(rows);
   }
@@ -98,14 +98,14 @@ void TQorCustomMatrixEdit::SetSize(quint32 rows, quint32 cols) {
 void TQorCustomMatrixEdit::ChangeCols(quint32 cols) {
   if (cols == NoOfCols()) return;
   ResizeCols(cols);
-  Parts().history.Forget();
+  if (Model() == nullptr) Parts().history.Forget();
   Q_EMIT OnNoColsChange(NoOfCols());
 }
 
 void TQorCustomMatrixEdit::ChangeRows(quint32 rows) {
   if (rows == NoOfRows()) return;
   ResizeRows(rows);
-  Parts().history.Forget();
+  if (Model() == nullptr) Parts().history.Forget();
   Q_EMIT OnNoRowsChange(NoOfRows());
 }
 

@@ -90,7 +90,7 @@ QString TQorLabelledVectorEdit::Label(quint32 row) const {
       break;
   }
   if (OnGetLabel) return OnGetLabel(row);
-  return Model() ? Parts().model.Heading(row, Qt::Vertical)
+  return Model() ? Parts().model.Heading(CellAxis::kRows, row)
                  : QString::fromStdString(Int2EStr(row));
 }
 

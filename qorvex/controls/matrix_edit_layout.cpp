@@ -7,12 +7,12 @@ namespace qorvex::inline QorvexMatrixEdit {
 
 QString TQorCustomMatrixEdit::RowHeading(quint32 row) const {
   if (OnGetRowHeading) return OnGetRowHeading(row);
-  return Model() ? Parts().model.Heading(row, Qt::Vertical) : CellTable::RowHeading(row);
+  return Model() ? Parts().model.Heading(CellAxis::kRows, row) : CellTable::RowHeading(row);
 }
 
 QString TQorCustomMatrixEdit::ColHeading(quint32 col) const {
   if (OnGetColHeading) return OnGetColHeading(col);
-  return Model() ? Parts().model.Heading(col, Qt::Horizontal) : CellTable::ColHeading(col);
+  return Model() ? Parts().model.Heading(CellAxis::kCols, col) : CellTable::ColHeading(col);
 }
 
 int TQorCustomMatrixEdit::ColWidth(quint32 col) const {

@@ -21,7 +21,7 @@ void TQorCustomMatrixEdit::DeleteCols(quint32 col, quint32 count) {
 }
 
 bool TQorCustomMatrixEdit::CanInsert(CellAxis axis) const {
-  return !VirtualMode() ||
+  return !VirtualMode() || Model() != nullptr ||
          isSignalConnected(axis == CellAxis::kRows
                                ? QMetaMethod::fromSignal(&CellPanel::OnInsertRows)
                                : QMetaMethod::fromSignal(&TQorCustomMatrixEdit::OnInsertCols));
@@ -29,6 +29,10 @@ bool TQorCustomMatrixEdit::CanInsert(CellAxis axis) const {
 
 void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
                                        Extended value) {
+  if (Model() != nullptr) {
+    Parts().model.InsertLines(axis, first, count);
+    return;
+  }
   const bool rows = axis == CellAxis::kRows;
   if (VirtualMode()) {
     rows ? Q_EMIT OnInsertRows(first, count) : Q_EMIT OnInsertCols(first, count);
@@ -74,6 +78,10 @@ void TQorCustomMatrixEdit::InsertIntoStore(CellAxis axis, quint32 first, quint32
 }
 
 void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
+  if (Model() != nullptr) {
+    Parts().model.RemoveLines(axis, first, count);
+    return;
+  }
   const bool rows = axis == CellAxis::kRows;
   if (VirtualMode()) {
     rows ? Q_EMIT OnDeleteRows(first, count) : Q_EMIT OnDeleteCols(first, count);

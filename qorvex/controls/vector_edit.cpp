@@ -39,7 +39,7 @@ quint32 TQorVectorEdit::NoOfRows() const noexcept {
 
 void TQorVectorEdit::setNoOfRows(quint32 rows) {
   if (Model() != nullptr) {
-    Parts().model.SetRowCount(rows);
+    Parts().model.SetCount(CellAxis::kRows, rows);
   } else {
     SetSize(rows, 1);
   }
@@ -66,7 +66,7 @@ void TQorVectorEdit::Resize(quint32 rows) {
   SetCount(Parts().rows, rows);
   // After the handlers, which may still read the elements that go.
   if (!VirtualMode()) TrimStore();
-  Parts().history.Forget();
+  if (Model() == nullptr) Parts().history.Forget();
 }
 
 void TQorVectorEdit::TrimStore() {
@@ -94,7 +94,10 @@ void TQorVectorEdit::setVector(const TQorFloatVector& vector) {
     return row < copy.size() && SameElement(copy[row], Value(row, col));
   });
   const auto rows = static_cast<quint32>(copy.size());
-  if (Model() != nullptr) setNoOfRows(rows);
+  if (Model() != nullptr) {
+    Parts().history.Forget();
+    setNoOfRows(rows);
+  }
   const quint32 rows_before = NoOfRows();
   if (Model() == nullptr) Resize(rows);
   if (VirtualMode()) {
@@ -183,10 +186,15 @@ QColor TQorVectorEdit::SpecialColor(quint32, quint32, Extended) const {
 
 bool TQorVectorEdit::CanInsert(CellAxis axis) const {
   return axis == CellAxis::kRows &&
-         (!VirtualMode() || isSignalConnected(QMetaMethod::fromSignal(&CellPanel::OnInsertRows)));
+         (!VirtualMode() || Model() != nullptr ||
+          isSignalConnected(QMetaMethod::fromSignal(&CellPanel::OnInsertRows)));
 }
 
-void TQorVectorEdit::InsertLines(CellAxis, quint32 first, quint32 count, Extended value) {
+void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) {
+  if (Model() != nullptr) {
+    Parts().model.InsertLines(axis, first, count);
+    return;
+  }
   if (VirtualMode()) {
     Q_EMIT OnInsertRows(first, count);
     return;
@@ -203,7 +211,11 @@ void TQorVectorEdit::InsertLines(CellAxis, quint32 first, quint32 count, Extende
   Q_EMIT OnRowNoChange(NoOfRows());
 }
 
-void TQorVectorEdit::RemoveLines(CellAxis, quint32 first, quint32 count) {
+void TQorVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
+  if (Model() != nullptr) {
+    Parts().model.RemoveLines(axis, first, count);
+    return;
+  }
   if (VirtualMode()) {
     Q_EMIT OnDeleteRows(first, count);
     return;

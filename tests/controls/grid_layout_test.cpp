@@ -71,6 +71,10 @@ TEST_F(GridLayout, HeadingsTakeRoomAndNameTheElements) {
   editor->setNoOfRows(100);
   EXPECT_EQ(rows->width(), days);
 
+  editor->OnGetRowHeading = [](quint32) { return QString(10'000, 'x'); };
+  editor->Redisplay();
+  EXPECT_LT(rows->width(), 500);
+
   editor->setLayoutDirection(Qt::RightToLeft);
   EXPECT_EQ(rows->geometry().right() + 1, editor->width());
   editor->setRowHeadings(false);
@@ -105,6 +109,24 @@ TEST_F(GridLayout, EdgesOfColumnHeadingsCanBeDragged) {
   EXPECT_EQ(editor->ColWidth(2), 30) << "a column without a width can be widened";
   editor->resetColWidth(1);
   editor->resetColWidth(2);
+
+  const auto fit = [&] {
+    QTest::mouseDClick(cols, Qt::LeftButton, {}, {editor->ColWidth(1) - 1, 5});
+    return editor->ColWidth(1);
+  };
+  const int narrow = fit();
+  EXPECT_LT(narrow, 81);
+  editor->setElement(2, 1, 123'456'789'012);
+  const int wide = fit();
+  EXPECT_GT(wide, narrow);
+  const auto painted = [this] { return Cell(6)->PaintedText(); };
+  EXPECT_EQ(painted(), "123456789012.0000");
+  editor->setColWidth(1, wide - 1);
+  EXPECT_NE(painted(), "123456789012.0000") << "not a pixel more than needed";
+  editor->OnGetColHeading = [](quint32) { return QString(60, 'x'); };
+  EXPECT_GT(fit(), wide);
+  editor->resetColWidth(1);
+
   editor->setLayoutDirection(Qt::RightToLeft);
   const int edge = cols->width() - 81;
   drag(edge, edge - 10);

@@ -314,6 +314,54 @@ TYPED_TEST(ModelEdit, RespectsWhatItsModelRefuses) {
   EXPECT_FALSE(this->Cell(0)->QLineEdit::isReadOnly());
 }
 
+TYPED_TEST(ModelEdit, ChangesBlocksAsAWhole) {
+  Stubborn refusing;
+  this->Open(&refusing);
+  this->FocusEdit(1);
+  this->Take();
+  EXPECT_FALSE(this->editor->PasteBlock("5\n6\n-1\n"));
+  EXPECT_EQ(this->Take().substr(0, 8), "refused ");
+  EXPECT_EQ(this->Texts(), "0.0000|1.0000|2.0000|3.0000");
+  EXPECT_FALSE(this->editor->CanUndo());
+
+  // The rows of the block are those that were in sight before the first one was sorted away.
+  TQorVectorModel model;
+  model.setVector({30, 10, 20});
+  QSortFilterProxyModel proxy;
+  proxy.setSourceModel(&model);
+  proxy.sort(0);
+  this->editor->setModel(&proxy);
+  this->FocusEdit(0);
+  EXPECT_TRUE(this->editor->PasteBlock("25\n15\n"));
+  EXPECT_EQ(Column(model), "30|25|15");
+  EXPECT_EQ(this->Texts(), "15.0000|25.0000|30.0000|");
+}
+
+TYPED_TEST(ModelEdit, GrowsItsModel) {
+  TQorVectorModel model;
+  model.setVector({1});
+  this->editor->setCanGrow(true);
+  this->Open(&model);
+  this->FocusEdit(0);
+  this->Enter("2");
+  this->Enter("3");
+  EXPECT_EQ(Column(model), "2|3");
+  EXPECT_TRUE(this->editor->PasteBlock("4\n5\n")) << "in the row after the last one";
+  EXPECT_EQ(Column(model), "2|3|4|5");
+  // Rows at the end move none, so everything can be undone but their number.
+  for (int i = 0; i < 3; ++i) this->editor->Undo();
+  EXPECT_EQ(Column(model), "1|||");
+  this->editor->InsertRows(1, 2);
+  this->editor->DeleteRows(3, 3);
+  EXPECT_EQ(Column(model), "1||");
+  EXPECT_FALSE(this->editor->CanUndo());
+  // What is being typed in the spare row is not lost to a row that comes from elsewhere.
+  this->FocusEdit(3);
+  this->Type("7");
+  model.insertRows(3, 1);
+  EXPECT_EQ(Column(model), "1||||7");
+}
+
 TEST(Models, AreSharedByViewsAndMappers) {
   QLocale::setDefault(QLocale::c());
   TQorMatrixModel model;

@@ -3,7 +3,8 @@
 #include <stdexcept>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/controls/models/detail/gaps.h"
+#include "qorvex/controls/detail/array_lines.h"
+#include "qorvex/controls/models/detail/model_lines.h"
 #include "qorvex/matrix/building.h"
 #include "qorvex/matrix/shape.h"
 
@@ -62,12 +63,13 @@ int TQorMatrixModel::columnCount(const QModelIndex& parent) const {
 bool TQorMatrixModel::insertRows(int row, int count, const QModelIndex& parent) {
   if (parent.isValid() || !detail::CanInsert(row, count, rowCount())) return false;
   // What fails for lack of memory fails before the views hear of it.
-  TQorFloatMatrix rows(static_cast<std::size_t>(count));
-  for (TQorFloatVector& new_row : rows) new_row = TQorFloatVector(cols_, detail::kNull);
-  store_.reserve(store_.size() + rows.size());
+  const auto rows = static_cast<std::size_t>(count);
+  TQorFloatMatrix longer = store_;
+  // Each row is a copy of its own.
+  longer.resize(store_.size() + rows, TQorFloatVector(cols_, detail::kNull));
+  detail::MoveLastTo(longer, static_cast<std::size_t>(row), rows);
   beginInsertRows(parent, row, row + count - 1);
-  detail::InsertGap(store_, row, count, TQorFloatVector());
-  std::ranges::move(rows, store_.begin() + row);
+  store_.swap(longer);
   endInsertRows();
   return true;
 }
@@ -75,16 +77,20 @@ bool TQorMatrixModel::insertRows(int row, int count, const QModelIndex& parent) 
 bool TQorMatrixModel::removeRows(int row, int count, const QModelIndex& parent) {
   if (parent.isValid() || !detail::CanRemove(row, count, rowCount())) return false;
   beginRemoveRows(parent, row, row + count - 1);
-  detail::CloseGap(store_, row, count);
+  detail::Remove(store_, static_cast<std::size_t>(row), static_cast<std::size_t>(count));
   endRemoveRows();
   return true;
 }
 
 bool TQorMatrixModel::insertColumns(int col, int count, const QModelIndex& parent) {
   if (parent.isValid() || !detail::CanInsert(col, count, cols_)) return false;
-  for (TQorFloatVector& row : store_) row.reserve(row.size() + static_cast<std::size_t>(count));
+  const auto cols = static_cast<std::size_t>(count);
+  for (TQorFloatVector& row : store_) row.reserve(row.size() + cols);
   beginInsertColumns(parent, col, col + count - 1);
-  for (TQorFloatVector& row : store_) detail::InsertGap(row, col, count, detail::kNull);
+  for (TQorFloatVector& row : store_) {
+    row.resize(row.size() + cols, detail::kNull);
+    detail::MoveLastTo(row, static_cast<std::size_t>(col), cols);
+  }
   cols_ += count;
   endInsertColumns();
   return true;
@@ -93,7 +99,9 @@ bool TQorMatrixModel::insertColumns(int col, int count, const QModelIndex& paren
 bool TQorMatrixModel::removeColumns(int col, int count, const QModelIndex& parent) {
   if (parent.isValid() || !detail::CanRemove(col, count, cols_)) return false;
   beginRemoveColumns(parent, col, col + count - 1);
-  for (TQorFloatVector& row : store_) detail::CloseGap(row, col, count);
+  for (TQorFloatVector& row : store_) {
+    detail::Remove(row, static_cast<std::size_t>(col), static_cast<std::size_t>(count));
+  }
   cols_ -= count;
   endRemoveColumns();
   return true;

@@ -3,7 +3,8 @@
 #include <stdexcept>
 
 #include "qorvex/base/errors.h"
-#include "qorvex/controls/models/detail/gaps.h"
+#include "qorvex/controls/detail/array_lines.h"
+#include "qorvex/controls/models/detail/model_lines.h"
 
 namespace qorvex::inline QorvexControls {
 
@@ -56,9 +57,11 @@ int TQorVectorModel::columnCount(const QModelIndex& parent) const {
 bool TQorVectorModel::insertRows(int row, int count, const QModelIndex& parent) {
   if (parent.isValid() || !detail::CanInsert(row, count, rowCount())) return false;
   // What fails for lack of memory fails before the views hear of it.
-  store_.reserve(store_.size() + static_cast<std::size_t>(count));
+  const auto rows = static_cast<std::size_t>(count);
+  store_.reserve(store_.size() + rows);
   beginInsertRows(parent, row, row + count - 1);
-  detail::InsertGap(store_, row, count, detail::kNull);
+  store_.resize(store_.size() + rows, detail::kNull);
+  detail::MoveLastTo(store_, static_cast<std::size_t>(row), rows);
   endInsertRows();
   return true;
 }
@@ -66,7 +69,7 @@ bool TQorVectorModel::insertRows(int row, int count, const QModelIndex& parent) 
 bool TQorVectorModel::removeRows(int row, int count, const QModelIndex& parent) {
   if (parent.isValid() || !detail::CanRemove(row, count, rowCount())) return false;
   beginRemoveRows(parent, row, row + count - 1);
-  detail::CloseGap(store_, row, count);
+  detail::Remove(store_, static_cast<std::size_t>(row), static_cast<std::size_t>(count));
   endRemoveRows();
   return true;
 }

@@ -33,7 +33,7 @@ struct CellPlace;
 struct EditWindowEvents;
 struct PanelHeadingEvents;
 struct PanelParts;
-struct TypedMove;
+struct ModelMove;
 enum class CurrentRule;
 }  // namespace detail
 /// @endcond
@@ -409,7 +409,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   friend struct detail::PanelParts;
   [[nodiscard]] std::optional<detail::CellPlace> TypedPlace() const;
   void ModelChanged(const TQorCellRange& range);
-  void ModelMoved(const detail::TypedMove& typed);
+  void ModelMoved(const detail::ModelMove& move);
   void ModelDeleted();
   void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
@@ -433,10 +433,16 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void AddToMenu(QMenu* menu);
   void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
   void FitEdits();
+  struct GridSize {
+    quint32 rows = 0;
+    quint32 cols = 0;
+  };
+  [[nodiscard]] GridSize FittingEdits() const;
   void Place();
   void ColsMoved();
   void CountChanged();
   void DragColWidth(quint32 col, int width);
+  void FitColWidth(quint32 col, int heading_width);
   [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;

@@ -92,27 +92,32 @@ bool CellPanel::NeedsBar(const detail::PanelAxis& axis) const {
 
 void CellPanel::FitEdits() {
   if (!auto_edits_ || !has_size_) return;
+  // Handlers may change the numbers of elements, and with them what fits.
+  ChangeEdits(parts_->cols, FittingEdits().cols);
+  ChangeEdits(parts_->rows, FittingEdits().rows);
+}
+
+// Each bar takes room from the other axis.
+CellPanel::GridSize CellPanel::FittingEdits() const {
   const detail::GridGeometry& geometry = parts_->geometry;
   const QSize room = contentsRect().size() - QSize(geometry.HeaderWidth(), geometry.HeaderHeight());
-  const detail::EditWindow& rows = Rows();
-  const detail::EditWindow& cols = Cols();
   const detail::ElementSizes heights(geometry.RowHeight());
   const auto rows_within = [&](int height) {
-    return heights.Fitting(rows.Top(), rows.Count(), height);
+    return heights.Fitting(Rows().Top(), Rows().Count(), height);
   };
   const auto cols_within = [&](int width) {
-    if (parts_->cols.Bar() == nullptr) return cols.Edits();
-    return geometry.ColWidths().Fitting(cols.Top(), cols.Count(), width);
+    if (parts_->cols.Bar() == nullptr) return Cols().Edits();
+    return geometry.ColWidths().Fitting(Cols().Top(), Cols().Count(), width);
   };
-  quint32 fitting_rows = rows_within(room.height());
-  quint32 fitting_cols =
-      cols_within(room.width() - (fitting_rows < rows.Count() ? BarExtent() : 0));
-  if (fitting_cols < cols.Count()) {
-    fitting_rows = rows_within(room.height() - BarExtent());
-    if (fitting_rows < rows.Count()) fitting_cols = cols_within(room.width() - BarExtent());
+  const auto bar_if = [this](bool needed) { return needed ? BarExtent() : 0; };
+  GridSize fitting;
+  fitting.rows = rows_within(room.height());
+  fitting.cols = cols_within(room.width() - bar_if(fitting.rows < Rows().Count()));
+  if (fitting.cols < Cols().Count()) {
+    fitting.rows = rows_within(room.height() - BarExtent());
+    fitting.cols = cols_within(room.width() - bar_if(fitting.rows < Rows().Count()));
   }
-  ChangeEdits(parts_->cols, fitting_cols);
-  ChangeEdits(parts_->rows, fitting_rows);
+  return fitting;
 }
 
 void CellPanel::Arrange() {
@@ -189,9 +194,13 @@ void CellPanel::DragColWidth(quint32 col, int width) {
   parts_->geometry.ColWidths().Set(col, width);
   Arrange();
   // A layout makes the panel as wide as its cells; without one, it widens itself.
-  if (sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
+  if (!auto_edits_ && sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
     resize(sizeHint().width(), height());
   }
+}
+
+void CellPanel::FitColWidth(quint32 col, int heading_width) {
+  DragColWidth(col, std::max(heading_width, parts_->grid.FittingWidth(col - Cols().Top())));
 }
 
 detail::PanelHeadingEvents CellPanel::HeadingEvents() {
@@ -216,7 +225,8 @@ detail::PanelHeadingEvents CellPanel::HeadingEvents() {
                 SelectAll();
               },
           .selection = [this] { return Selection(); },
-          .resize_col = [this](quint32 col, int width) { DragColWidth(col, width); }};
+          .resize_col = [this](quint32 col, int width) { DragColWidth(col, width); },
+          .fit_col = [this](quint32 col, int width) { FitColWidth(col, width); }};
 }
 
 }  // namespace qorvex::inline QorvexControls

@@ -23,13 +23,14 @@ void CellPanel::SwitchModel(QAbstractItemModel* model) {
   parts_->history.Forget();
   link.Link(model);
   if (model != nullptr) {
-    table_.SetSize(link.RowCount(), link.ColCount());
+    table_.SetSize(link.Count(CellAxis::kRows), link.Count(CellAxis::kCols));
   } else {
     const TQorCellRange size = *own_size_;
     own_size_.reset();
     table_.SetSize(size.rows, size.cols);
   }
   if (VirtualMode() != was_virtual) table_.VirtualModeChanged();
+  FitSpareRow();
 }
 
 void CellPanel::ModelDeleted() {
@@ -53,14 +54,18 @@ void CellPanel::ModelChanged(const TQorCellRange& range) {
   }
 }
 
-void CellPanel::ModelMoved(const detail::TypedMove& typed) {
+void CellPanel::ModelMoved(const detail::ModelMove& move) {
   const Update update(*this);
-  parts_->history.Forget();
-  if (TextCell* const text = parts_->focus.Entered(); text && typed.is_gone) text->Restore();
-  // What is being typed is committed to its own element, not to the one that is now in its cell.
-  parts_->typed_place = typed.to;
-  table_.SetSize(parts_->model.RowCount(), parts_->model.ColCount());
-  if (typed.to) parts_->focus.CommitPending();
+  if (!move.is_append) parts_->history.Forget();
+  if (TextCell* const text = parts_->focus.Entered(); text && move.typed_is_gone) text->Restore();
+  const quint32 rows = parts_->model.Count(CellAxis::kRows);
+  // What is being typed is committed to its own element, not to the one that is now in its cell; in
+  // the spare row it becomes a row of its own.
+  const std::optional<detail::CellPlace> typed = TypedPlace();
+  const bool in_spare = typed && typed->row >= table_.RowCount();
+  parts_->typed_place = in_spare ? detail::CellPlace{rows, typed->col} : move.typed_to;
+  table_.SetSize(rows, parts_->model.Count(CellAxis::kCols));
+  if (parts_->typed_place != typed && parts_->typed_place) parts_->focus.CommitPending();
   parts_->typed_place.reset();
 }
 

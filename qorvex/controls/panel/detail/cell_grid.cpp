@@ -260,6 +260,14 @@ void CellGrid::NameCells() {
   }
 }
 
+int CellGrid::FittingWidth(std::size_t col) const {
+  int width = 0;
+  for (const auto& row : cells_) {
+    if (col < row.size()) width = std::max(width, row[col]->FittingWidth());
+  }
+  return width;
+}
+
 void CellGrid::Arrange() const {
   std::vector<QRect> above;
   for (quint32 col = 0; col < cols_.Edits(); ++col) above.push_back(geometry_.Above(col));

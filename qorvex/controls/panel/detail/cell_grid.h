@@ -14,17 +14,10 @@
 #include "qorvex/controls/detail/edit_window.h"
 #include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/detail/cell_place.h"
 #include "qorvex/controls/panel/detail/grid_geometry.h"
 
 namespace qorvex::inline QorvexControls::detail {
-
-/// The row and the column of a cell in its grid.
-struct CellPlace {
-  quint32 row = 0;
-  quint32 col = 0;
-
-  friend bool operator==(const CellPlace&, const CellPlace&) = default;
-};
 
 /// A column of texts in front of the cells.
 struct RowHeader {
@@ -110,6 +103,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   /// Marks the cells that show elements of a range, and no others.
   void MarkSelected(const TQorCellRange& range);
 
+  /// The width that the texts in a column of cells need.
+  [[nodiscard]] int FittingWidth(std::size_t col) const;
   /// The text that a cell of a column, in sight or not, would show for a value. Needs a cell.
   [[nodiscard]] QString TextFor(quint32 col, Extended value) const;
 

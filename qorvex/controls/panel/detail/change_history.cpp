@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <new>
 #include <utility>
 
@@ -15,6 +16,9 @@ namespace {
 
 // The stack of the history itself also limits the number of steps, since obsolete ones stay on it.
 constexpr int kMostSteps = 10'000;
+
+// No table has such a row.
+constexpr CellPlace kNowhere{std::numeric_limits<quint32>::max(), 0};
 
 qint64 BytesOf(const ElementChanges& changes) {
   return static_cast<qint64>(changes.size() * sizeof(ElementChange));
@@ -70,7 +74,7 @@ bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
       complete = lines.empty() || std::ranges::all_of(*shared, [this](const ElementChange& change) {
                    return Has(change.row, change.col);
                  });
-      if (complete) Exchange(shared);
+      complete = complete && Exchange(shared);
     } catch (const std::bad_alloc&) {
       events_.clear();
       step->RunParts(true);
@@ -79,7 +83,7 @@ bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
   });
   if (!undisturbed) step = std::make_unique<Step>(text, false);
   if (undisturbed && complete && !shared->empty()) {
-    step->Add([this, shared](bool) { Exchange(shared); }, BytesOf(*shared));
+    step->Add(Exchanging(shared), BytesOf(*shared));
   }
   Push(std::move(step));
   return complete;
@@ -106,7 +110,7 @@ void ChangeHistory::Record(const ElementChange& before) {
     return;
   }
   auto step = std::make_unique<Step>(QCoreApplication::translate("CellPanel", "Typing"), false);
-  step->Add([this, shared](bool) { Exchange(shared); }, BytesOf(*shared));
+  step->Add(Exchanging(shared), BytesOf(*shared));
   Push(std::move(step));
 }
 
@@ -152,6 +156,13 @@ void ChangeHistory::RunStep(const Step& step, bool undo) {
   }
 }
 
+ChangeHistory::Part ChangeHistory::Exchanging(const std::shared_ptr<ElementChanges>& changes) {
+  return [this, changes](bool) {
+    // A model may refuse a value that it had itself.
+    if (!Exchange(changes)) Forget();
+  };
+}
+
 ChangeHistory::Part ChangeHistory::Insertion(const LineInsertion& lines) {
   return [this, lines](bool undo) {
     if (undo) {
@@ -193,13 +204,31 @@ ElementChanges ChangeHistory::ElementsOf(CellAxis axis, quint32 first, quint32 c
   return elements;
 }
 
-void ChangeHistory::Exchange(const std::shared_ptr<ElementChanges>& changes) {
-  for (auto& [row, col, value] : *changes) {
-    if (!Has(row, col)) continue;
-    const Extended before = table_.Value(row, col);
-    table_.Store(row, col, std::exchange(value, before));
+bool ChangeHistory::Exchange(const std::shared_ptr<ElementChanges>& changes) {
+  const ElementPlaces follow = owner_.follow(*changes);
+  const auto place_of = [&](std::size_t i) {
+    const ElementChange& change = (*changes)[i];
+    return follow ? follow(i) : CellPlace{change.row, change.col};
+  };
+  const auto exchange = [&](std::size_t i) {
+    const std::optional<CellPlace> place = place_of(i);
+    if (!place || !Has(place->row, place->col)) return true;
+    const Extended before = table_.Value(place->row, place->col);
+    if (!table_.Store(place->row, place->col, (*changes)[i].value)) return false;
+    (*changes)[i].value = before;
+    return true;
+  };
+  std::size_t done = 0;
+  while (done < changes->size() && exchange(done)) ++done;
+  const bool complete = done == changes->size();
+  while (!complete && done > 0) exchange(--done);
+  for (std::size_t i = 0; follow && i < changes->size(); ++i) {
+    const CellPlace place = place_of(i).value_or(kNowhere);
+    (*changes)[i].row = place.row;
+    (*changes)[i].col = place.col;
   }
-  events_.push_back(changes);
+  if (complete) events_.push_back(changes);
+  return complete;
 }
 
 void ChangeHistory::Settle() {

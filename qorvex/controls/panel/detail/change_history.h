@@ -9,9 +9,11 @@
 #include <functional>
 #include <list>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/detail/cell_place.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -22,6 +24,8 @@ struct ElementChange {
   Extended value;
 };
 using ElementChanges = std::vector<ElementChange>;
+/// Where the element of a change is now; nothing if it is gone.
+using ElementPlaces = std::function<std::optional<CellPlace>(std::size_t change)>;
 
 /// Lines to insert into a table, and the value of their elements.
 struct LineInsertion {
@@ -47,6 +51,8 @@ class ChangeHistory {
   struct Owner {
     /// Runs a function while the display waits, and displays the result.
     std::function<void(const std::function<void()>& run)> batch;
+    /// Follows elements that may move while they are stored; an empty function if they cannot.
+    std::function<ElementPlaces(const ElementChanges& changes)> follow;
     /// A step has been undone or redone.
     std::function<void()> restored;
     /// Memory has run out in the midst of a step: nothing can be undone any more.
@@ -118,12 +124,14 @@ class ChangeHistory {
   void KeepWithinLimit();
   // Raises what is due when the stack is at rest.
   void Settle();
+  [[nodiscard]] Part Exchanging(const std::shared_ptr<ElementChanges>& changes);
   [[nodiscard]] Part Insertion(const LineInsertion& lines);
   [[nodiscard]] Part Removal(CellAxis axis, quint32 first, quint32 count,
                              const std::shared_ptr<const ElementChanges>& elements);
   [[nodiscard]] ElementChanges ElementsOf(CellAxis axis, quint32 first, quint32 count) const;
-  // Stores the changes and puts the values that were there in their place.
-  void Exchange(const std::shared_ptr<ElementChanges>& changes);
+  // Stores the changes and puts the values that were there in their place. False, and nothing
+  // changes, if an element refuses its value.
+  bool Exchange(const std::shared_ptr<ElementChanges>& changes);
   // Whether a table that handlers may have shortened still has the element.
   [[nodiscard]] bool Has(quint32 row, quint32 col) const;
 

@@ -18,8 +18,17 @@ namespace {
 constexpr int kGrip = 4;
 constexpr int kLeastSize = 2 * kGrip;
 
-// A text keeps this distance from the edges of its heading.
-constexpr int kMargin = 6;
+// Longer headings of rows are shortened.
+constexpr int kMostCharacters = 40;
+
+// A text keeps this distance from both edges of its heading.
+constexpr int kMargin = 4;
+
+// Selected headings are bold; all of them have room for it.
+QFont Bold(QFont font) {
+  font.setBold(true);
+  return font;
+}
 
 }  // namespace
 
@@ -48,7 +57,8 @@ void HeadingBar::Arrange() {
 }
 
 int HeadingBar::WidthOf(const QString& text) const {
-  return fontMetrics().horizontalAdvance(text) + 2 * kMargin;
+  // The advance is rounded, perhaps down.
+  return QFontMetrics(Bold(font())).horizontalAdvance(text) + 1 + 2 * kMargin;
 }
 
 int HeadingBar::TextWidth() const {
@@ -56,7 +66,7 @@ int HeadingBar::TextWidth() const {
   for (quint32 edit = 0; edit < window_.UsedEdits(); ++edit) {
     width = std::max(width, WidthOf(TextOf(edit)));
   }
-  return width;
+  return std::min(width, kMostCharacters * fontMetrics().averageCharWidth());
 }
 
 QString HeadingBar::TextOf(quint32 edit) const {
@@ -85,6 +95,14 @@ std::optional<quint32> HeadingBar::EditAt(const QPoint& place) const {
   return used - 1;
 }
 
+int HeadingBar::SideOf(const QPoint& place) const {
+  const bool vertical = orientation_ == Qt::Vertical;
+  const int along = vertical ? place.y() : place.x();
+  if (along >= 0 && along < (vertical ? height() : width())) return 0;
+  const bool forward = along >= 0;
+  return forward == (vertical || layoutDirection() == Qt::LeftToRight) ? 1 : -1;
+}
+
 std::optional<quint32> HeadingBar::EdgeAt(const QPoint& place) const {
   if (!events_.resize) return std::nullopt;
   // The last one first, so that a column without a width can be widened.
@@ -110,6 +128,15 @@ void HeadingBar::mousePressEvent(QMouseEvent* event) {
   }
 }
 
+void HeadingBar::mouseDoubleClickEvent(QMouseEvent* event) {
+  const auto edge = EdgeAt(event->position().toPoint());
+  if (edge && event->button() == Qt::LeftButton) {
+    events_.fit(window_.Top() + *edge, WidthOf(TextOf(*edge)));
+  } else {
+    mousePressEvent(event);
+  }
+}
+
 void HeadingBar::mouseMoveEvent(QMouseEvent* event) {
   const QPoint place = event->position().toPoint();
   if (drag_) {
@@ -117,15 +144,37 @@ void HeadingBar::mouseMoveEvent(QMouseEvent* event) {
     const int size = drag_->size + (layoutDirection() == Qt::RightToLeft ? -moved : moved);
     events_.resize(drag_->element, std::max(size, kLeastSize));
   } else if (selecting_) {
-    if (const auto edit = EditAt(place)) events_.select(window_.Top() + *edit, true);
+    SelectTo(place);
   } else {
     setCursor(EdgeAt(place) ? Qt::SplitHCursor : Qt::ArrowCursor);
   }
 }
 
+void HeadingBar::SelectTo(const QPoint& place) {
+  place_ = place;
+  if (const auto edit = EditAt(place)) events_.select(window_.Top() + *edit, true);
+  constexpr int milliseconds_per_step = 50;
+  if (SideOf(place) == 0) {
+    scrolling_.stop();
+  } else if (!scrolling_.isActive()) {
+    scrolling_.start(milliseconds_per_step, this);
+  }
+}
+
+void HeadingBar::timerEvent(QTimerEvent*) {
+  if (!isVisible()) return Release();
+  events_.scroll(SideOf(place_) > 0);
+  SelectTo(place_);
+}
+
 void HeadingBar::mouseReleaseEvent(QMouseEvent*) {
+  Release();
+}
+
+void HeadingBar::Release() {
   drag_.reset();
   selecting_ = false;
+  scrolling_.stop();
 }
 
 void HeadingBar::leaveEvent(QEvent* event) {
@@ -165,8 +214,8 @@ QStyleOptionHeader HeadingBar::Option(quint32 edit) const {
   if (edit < window_.UsedEdits() && events_.is_selected(window_.Top() + edit)) {
     option.state |= QStyle::State_On | QStyle::State_Sunken;
   }
-  option.text = fontMetrics().elidedText(TextOf(edit), Qt::ElideRight,
-                                         std::max(option.rect.width() - kMargin, 0));
+  option.text = QFontMetrics(Bold(font()))
+                    .elidedText(TextOf(edit), Qt::ElideRight, option.rect.width() - 2 * kMargin);
   return option;
 }
 
@@ -175,10 +224,7 @@ void HeadingBar::paintEvent(QPaintEvent*) {
   // Asking for a text may change how many edits there are.
   for (quint32 edit = 0; edit < window_.Edits(); ++edit) {
     const QStyleOptionHeader option = Option(edit);
-    const bool selected = option.state.testFlag(QStyle::State_On);
-    QFont bold = font();
-    bold.setBold(selected);
-    painter.setFont(bold);
+    painter.setFont(option.state.testFlag(QStyle::State_On) ? Bold(font()) : font());
     style()->drawControl(QStyle::CE_Header, &option, &painter, this);
   }
 }

@@ -3,6 +3,7 @@
 /// @file
 /// HeadingBar, the headings in front of the rows or above the columns of a panel.
 
+#include <QBasicTimer>
 #include <QPainter>
 #include <QStyleOptionHeader>
 #include <QWidget>
@@ -22,8 +23,13 @@ struct HeadingEvents {
   /// The heading has been pressed. Pressed with Shift, or reached by dragging, it extends what the
   /// last press has selected.
   std::function<void(quint32 element, bool extend)> select;
+  /// The mouse is dragging beyond the last heading, or before the first: scroll by one element.
+  std::function<void(bool forward)> scroll;
   /// The edge of the heading has been dragged; empty if the sizes are fixed.
   std::function<void(quint32 element, int size)> resize;
+  /// The edge of the heading has been clicked twice: fit the size to what is in sight. The heading
+  /// itself needs this size.
+  std::function<void(quint32 element, int size)> fit;
 };
 
 /// The headings of the elements that a window shows, painted as the style paints those of tables.
@@ -36,7 +42,7 @@ class HeadingBar : public QWidget {
 
   /// Covers the room that the geometry has for it.
   void Arrange();
-  /// The width that the texts in sight need.
+  /// The width that the texts in sight need, but at most that of forty characters.
   [[nodiscard]] int TextWidth() const;
   /// The width that a text needs.
   [[nodiscard]] int WidthOf(const QString& text) const;
@@ -46,16 +52,22 @@ class HeadingBar : public QWidget {
   /// Qt's events.
   bool event(QEvent* event) override;
   void leaveEvent(QEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
   /// @}
 
  private:
   [[nodiscard]] QRect Section(quint32 edit) const;
   // The edit whose heading is at a place, or the nearest one.
   [[nodiscard]] std::optional<quint32> EditAt(const QPoint& place) const;
+  // -1 before the first heading, 1 behind the last one, 0 between them.
+  [[nodiscard]] int SideOf(const QPoint& place) const;
+  void SelectTo(const QPoint& place);
+  void Release();
   // The edit whose trailing edge is at a place and can be dragged.
   [[nodiscard]] std::optional<quint32> EdgeAt(const QPoint& place) const;
   [[nodiscard]] QString TextOf(quint32 edit) const;
@@ -73,6 +85,9 @@ class HeadingBar : public QWidget {
   };
   std::optional<Drag> drag_;
   bool selecting_ = false;
+  // Where the mouse is while it selects, and what scrolls while that is beyond the headings.
+  QPoint place_;
+  QBasicTimer scrolling_;
 };
 
 /// The heading where both bars meet. A click calls the function.

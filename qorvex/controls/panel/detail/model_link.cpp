@@ -27,7 +27,7 @@ void ModelLink::Link(QAbstractItemModel* model) {
   if (model == nullptr) return;
   connect(model, &QAbstractItemModel::dataChanged, this, &ModelLink::Changed);
   connect(model, &QAbstractItemModel::headerDataChanged, this, owner_.headings_changed);
-  connect(model, &QAbstractItemModel::modelReset, this, &ModelLink::Moved);
+  connect(model, &QAbstractItemModel::modelReset, this, [this] { Moved(false); });
   connect(model, &QObject::destroyed, this, [this] { owner_.deleted(); });
   ConnectMoves();
 }
@@ -38,25 +38,30 @@ void ModelLink::ConnectMoves() {
   const auto hold = [this](const QModelIndex& parent) {
     if (!parent.isValid()) HoldTyped();
   };
-  const auto moved = [this](const QModelIndex& parent) {
-    if (!parent.isValid()) Moved();
+  const auto removed = [this](const QModelIndex& parent) {
+    if (!parent.isValid()) Moved(false);
   };
   for (const auto signal : {&Model::rowsAboutToBeInserted, &Model::rowsAboutToBeRemoved,
                             &Model::columnsAboutToBeInserted, &Model::columnsAboutToBeRemoved}) {
     connect(model_, signal, this, hold);
   }
-  for (const auto signal : {&Model::rowsInserted, &Model::rowsRemoved, &Model::columnsInserted,
-                            &Model::columnsRemoved}) {
-    connect(model_, signal, this, moved);
+  for (const auto signal : {&Model::rowsRemoved, &Model::columnsRemoved}) {
+    connect(model_, signal, this, removed);
   }
+  connect(model_, &Model::rowsInserted, this, [this](const QModelIndex& parent, int, int last) {
+    if (!parent.isValid()) Moved(last == model_->rowCount() - 1);
+  });
+  connect(model_, &Model::columnsInserted, this, [this](const QModelIndex& parent, int, int last) {
+    if (!parent.isValid()) Moved(last == model_->columnCount() - 1);
+  });
   for (const auto signal : {&Model::rowsAboutToBeMoved, &Model::columnsAboutToBeMoved}) {
     connect(model_, signal, this, &ModelLink::HoldTyped);
   }
   for (const auto signal : {&Model::rowsMoved, &Model::columnsMoved}) {
-    connect(model_, signal, this, &ModelLink::Moved);
+    connect(model_, signal, this, [this] { Moved(false); });
   }
   connect(model_, &Model::layoutAboutToBeChanged, this, &ModelLink::HoldTyped);
-  connect(model_, &Model::layoutChanged, this, &ModelLink::Moved);
+  connect(model_, &Model::layoutChanged, this, [this] { Moved(false); });
 }
 
 QModelIndex ModelLink::Index(quint32 row, quint32 col) const {
@@ -74,12 +79,13 @@ std::optional<CellPlace> ModelLink::PlaceOf(const QPersistentModelIndex& index) 
                    static_cast<quint32>(index.column() - first_col_)};
 }
 
-quint32 ModelLink::RowCount() const {
-  return CountFrom(0, model_->rowCount());
+int ModelLink::First(CellAxis axis) const {
+  return axis == CellAxis::kCols ? first_col_ : 0;
 }
 
-quint32 ModelLink::ColCount() const {
-  return CountFrom(first_col_, model_->columnCount());
+quint32 ModelLink::Count(CellAxis axis) const {
+  const bool rows = axis == CellAxis::kRows;
+  return CountFrom(First(axis), rows ? model_->rowCount() : model_->columnCount());
 }
 
 Extended ModelLink::Value(quint32 row, quint32 col) const {
@@ -97,50 +103,52 @@ bool ModelLink::IsReadOnly(quint32 row, quint32 col) const {
   return model_ && !Index(row, col).flags().testFlag(Qt::ItemIsEditable);
 }
 
-QString ModelLink::Heading(quint32 section, Qt::Orientation orientation) const {
-  const int first = orientation == Qt::Horizontal ? first_col_ : 0;
-  return model_->headerData(first + static_cast<int>(section), orientation).toString();
+QString ModelLink::Heading(CellAxis axis, quint32 line) const {
+  const bool rows = axis == CellAxis::kRows;
+  return model_
+      ->headerData(First(axis) + static_cast<int>(line), rows ? Qt::Vertical : Qt::Horizontal)
+      .toString();
 }
 
-bool ModelLink::InsertRows(quint32 row, quint32 count) {
-  if (quint64{RowCount()} + count > kMaxCount) return false;
-  return model_->insertRows(static_cast<int>(row), static_cast<int>(count));
+bool ModelLink::InsertLines(CellAxis axis, quint32 first, quint32 count) {
+  if (quint64{Count(axis)} + static_cast<quint32>(First(axis)) + count > kMaxCount) return false;
+  const int at = First(axis) + static_cast<int>(first);
+  const int lines = static_cast<int>(count);
+  return axis == CellAxis::kRows ? model_->insertRows(at, lines) : model_->insertColumns(at, lines);
 }
 
-bool ModelLink::RemoveRows(quint32 row, quint32 count) {
-  return model_->removeRows(static_cast<int>(row), static_cast<int>(count));
+bool ModelLink::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
+  const int at = First(axis) + static_cast<int>(first);
+  const int lines = static_cast<int>(count);
+  return axis == CellAxis::kRows ? model_->removeRows(at, lines) : model_->removeColumns(at, lines);
 }
 
-bool ModelLink::InsertCols(quint32 col, quint32 count) {
-  if (quint64{ColCount()} + static_cast<quint32>(first_col_) + count > kMaxCount) return false;
-  return model_->insertColumns(first_col_ + static_cast<int>(col), static_cast<int>(count));
-}
-
-bool ModelLink::RemoveCols(quint32 col, quint32 count) {
-  return model_->removeColumns(first_col_ + static_cast<int>(col), static_cast<int>(count));
-}
-
-bool ModelLink::SetRowCount(quint32 rows) {
-  const quint32 now = RowCount();
-  return rows > now ? InsertRows(now, rows - now) : rows == now || RemoveRows(rows, now - rows);
-}
-
-bool ModelLink::SetColCount(quint32 cols) {
-  const quint32 now = ColCount();
-  return cols > now ? InsertCols(now, cols - now) : cols == now || RemoveCols(cols, now - cols);
+bool ModelLink::SetCount(CellAxis axis, quint32 count) {
+  const quint32 now = Count(axis);
+  if (count > now) return InsertLines(axis, now, count - now);
+  return count == now || RemoveLines(axis, count, now - count);
 }
 
 void ModelLink::FetchRow(quint32 row) {
   if (!model_) return;
-  for (quint32 rows = RowCount(); rows <= row && model_->canFetchMore({});) {
+  for (quint32 rows = Count(CellAxis::kRows); rows <= row && model_->canFetchMore({});) {
     model_->fetchMore({});
-    if (std::exchange(rows, RowCount()) == rows) return;
+    if (std::exchange(rows, Count(CellAxis::kRows)) == rows) return;
   }
+}
+
+ElementPlaces ModelLink::Follow(const ElementChanges& changes) const {
+  if (!model_) return {};
+  std::vector<Element> elements;
+  elements.reserve(changes.size());
+  for (const auto& [row, col, value] : changes) elements.emplace_back(*this, CellPlace{row, col});
+  return [elements = std::move(elements)](std::size_t change) { return elements[change].Place(); };
 }
 
 void ModelLink::HoldTyped() {
   typed_.reset();
-  if (const std::optional<CellPlace> place = owner_.typed()) typed_.emplace(*this, *place);
+  const std::optional<CellPlace> place = owner_.typed();
+  if (place && Index(place->row, place->col).isValid()) typed_.emplace(*this, *place);
 }
 
 void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
@@ -153,12 +161,13 @@ void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
                   CountFrom(first_col, last.column() + 1)});
 }
 
-void ModelLink::Moved() {
-  TypedMove move;
+void ModelLink::Moved(bool is_append) {
+  ModelMove move;
+  move.is_append = is_append;
   if (typed_) {
     const std::optional<CellPlace> place = typed_->Place();
-    move.is_gone = !place;
-    if (place != typed_->Origin()) move.to = place;
+    move.typed_is_gone = !place;
+    if (place != typed_->Origin()) move.typed_to = place;
     typed_.reset();
   }
   owner_.moved(move);

@@ -12,14 +12,17 @@
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/controls/panel/cell_range.h"
-#include "qorvex/controls/panel/detail/cell_grid.h"
+#include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/detail/cell_place.h"
+#include "qorvex/controls/panel/detail/change_history.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
-/// What has become of the element whose text is being typed.
-struct TypedMove {
-  bool is_gone = false;
-  std::optional<CellPlace> to;  ///< Its new place, if it has another one.
+/// What a change of the structure of a model has done.
+struct ModelMove {
+  bool is_append = false;             ///< Every element is where it was.
+  bool typed_is_gone = false;         ///< The element whose text is being typed is gone.
+  std::optional<CellPlace> typed_to;  ///< Its new place, if it has another one.
 };
 
 /// Reads and writes the elements of a panel in the items of a model, role EditRole, and tells the
@@ -36,9 +39,8 @@ class ModelLink : public QObject {
     std::function<void(const TQorCellRange& range)> changed;
     /// Headings have other texts.
     std::function<void()> headings_changed;
-    /// There may be more or fewer elements, or they may be in other places; the one whose text is
-    /// being typed, as far as that is known, has gone from one place to another or is gone.
-    std::function<void(const TypedMove& typed)> moved;
+    /// There may be more or fewer elements, or they may be in other places.
+    std::function<void(const ModelMove& move)> moved;
     /// The model is being deleted.
     std::function<void()> deleted;
   };
@@ -55,11 +57,8 @@ class ModelLink : public QObject {
   void SetFirstCol(int col) { first_col_ = col; }
   /// @}
 
-  /// @{
-  /// The size of the model from the first column on.
-  [[nodiscard]] quint32 RowCount() const;
-  [[nodiscard]] quint32 ColCount() const;
-  /// @}
+  /// The number of rows, or of columns from the first one on.
+  [[nodiscard]] quint32 Count(CellAxis axis) const;
   /// The value of an item; null if it is not a number or does not exist.
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const;
   /// False if the model refuses the value.
@@ -67,21 +66,21 @@ class ModelLink : public QObject {
   /// Whether the model does not let the user change the item.
   [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const;
 
-  /// The text of the model for the heading of a row (Qt::Vertical) or a column.
-  [[nodiscard]] QString Heading(quint32 section, Qt::Orientation orientation) const;
+  /// The text of the model for the heading of a row or a column.
+  [[nodiscard]] QString Heading(CellAxis axis, quint32 line) const;
 
   /// @{
   /// Insert or remove rows or columns, or do so at the end until there are as many as given. False
   /// if the model refuses.
-  bool InsertRows(quint32 row, quint32 count);
-  bool RemoveRows(quint32 row, quint32 count);
-  bool InsertCols(quint32 col, quint32 count);
-  bool RemoveCols(quint32 col, quint32 count);
-  bool SetRowCount(quint32 rows);
-  bool SetColCount(quint32 cols);
+  bool InsertLines(CellAxis axis, quint32 first, quint32 count);
+  bool RemoveLines(CellAxis axis, quint32 first, quint32 count);
+  bool SetCount(CellAxis axis, quint32 count);
   /// @}
   /// Models that fetch their rows step by step are asked for more until the row exists.
   void FetchRow(quint32 row);
+
+  /// Follows the elements of changes; an empty function without a model.
+  [[nodiscard]] ElementPlaces Follow(const ElementChanges& changes) const;
 
   /// An element of the model, which is found again after a change.
   class Element {
@@ -103,12 +102,14 @@ class ModelLink : public QObject {
   };
 
  private:
+  // The row or the column of the model that comes first.
+  [[nodiscard]] int First(CellAxis axis) const;
   [[nodiscard]] QModelIndex Index(quint32 row, quint32 col) const;
   [[nodiscard]] std::optional<CellPlace> PlaceOf(const QPersistentModelIndex& index) const;
   void ConnectMoves();
   void HoldTyped();
   void Changed(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) const;
-  void Moved();
+  void Moved(bool is_append);
 
   Owner owner_;
   QPointer<QAbstractItemModel> model_;

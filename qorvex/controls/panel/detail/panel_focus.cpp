@@ -141,19 +141,16 @@ bool PanelFocus::TabOn(bool forward) {
   if (!grid_.IsUsed(row, col) || !StopsAt(*grid_.Cell(row, col))) return false;
   // A text of the header comes before the cells of its row, with which it is in sight.
   if (forward ? in_header_ : !in_header_ && col == 0 && StopsAtHeader(row)) return false;
-  const auto next = [&] {
-    const auto state = [](const EditWindow& window) {
-      return StateOf(window, window.Top() + window.Focus());
-    };
-    return NextCell(state(cols_.Window()), state(rows_.Window()), forward);
-  };
-  if (const auto step = next(); !step || !step->scrolls) return false;
+  // A value that has been typed into the spare row makes another row.
   CommitPending();
-  // Handlers may have changed the table.
-  if (const auto step = next()) {
-    in_header_ = forward && step->along.edit == 0 && StopsAtHeader(step->across.edit);
-    Go(cols_, rows_, *step);
-  }
+  if (entered_ == nullptr) return true;
+  const auto state = [](const EditWindow& window) {
+    return StateOf(window, window.Top() + window.Focus());
+  };
+  const auto step = NextCell(state(cols_.Window()), state(rows_.Window()), forward);
+  if (!step || !step->scrolls) return false;
+  in_header_ = forward && step->along.edit == 0 && StopsAtHeader(step->across.edit);
+  Go(cols_, rows_, *step);
   return true;
 }
 

@@ -16,11 +16,14 @@ void Drop(Widget*& widget) {
   std::exchange(widget, nullptr)->deleteLater();
 }
 
+void Scroll(EditWindow& window, bool forward) {
+  forward ? window.ScrollDown(1) : window.ScrollUp(1);
+}
+
 }  // namespace
 
-PanelHeadings::PanelHeadings(QWidget& panel, const CellTable& table, const EditWindow& rows,
-                             const EditWindow& cols, GridGeometry& geometry,
-                             PanelHeadingEvents events)
+PanelHeadings::PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows,
+                             EditWindow& cols, GridGeometry& geometry, PanelHeadingEvents events)
     : panel_(panel),
       table_(table),
       rows_(rows),
@@ -41,7 +44,9 @@ void PanelHeadings::SetRows(bool on) {
                               {.text = [this](quint32 row) { return RowText(row); },
                                .is_selected = [this](quint32 row) { return IsRowSelected(row); },
                                .select = events_.select_row,
-                               .resize = {}});
+                               .scroll = [this](bool forward) { Scroll(rows_, forward); },
+                               .resize = {},
+                               .fit = {}});
     row_bar_->setObjectName(QStringLiteral("RowHeadings"));
     row_bar_->show();
   } else {
@@ -58,7 +63,9 @@ void PanelHeadings::SetCols(bool on) {
                               {.text = [this](quint32 col) { return ColText(col); },
                                .is_selected = [this](quint32 col) { return IsColSelected(col); },
                                .select = events_.select_col,
-                               .resize = events_.resize_col});
+                               .scroll = [this](bool forward) { Scroll(cols_, forward); },
+                               .resize = events_.resize_col,
+                               .fit = events_.fit_col});
     col_bar_->setObjectName(QStringLiteral("ColHeadings"));
     col_bar_->show();
   } else {

@@ -23,6 +23,8 @@ struct PanelHeadingEvents {
   std::function<TQorCellRange()> selection;
   /// The edge of a column's heading has been dragged.
   std::function<void(quint32 col, int width)> resize_col;
+  /// It has been clicked twice; see HeadingEvents.
+  std::function<void(quint32 col, int width)> fit_col;
 };
 
 /// A bar of row headings, a bar of column headings, both or neither, with the texts of the table.
@@ -30,8 +32,8 @@ struct PanelHeadingEvents {
 /// as the last number.
 class PanelHeadings {
  public:
-  PanelHeadings(QWidget& panel, const CellTable& table, const EditWindow& rows,
-                const EditWindow& cols, GridGeometry& geometry, PanelHeadingEvents events);
+  PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows, EditWindow& cols,
+                GridGeometry& geometry, PanelHeadingEvents events);
   ~PanelHeadings();
   PanelHeadings(const PanelHeadings&) = delete;
   PanelHeadings& operator=(const PanelHeadings&) = delete;
@@ -64,8 +66,8 @@ class PanelHeadings {
 
   QWidget& panel_;
   const CellTable& table_;
-  const EditWindow& rows_;
-  const EditWindow& cols_;
+  EditWindow& rows_;
+  EditWindow& cols_;
   GridGeometry& geometry_;
   PanelHeadingEvents events_;
   // Children of the panel.

@@ -34,6 +34,7 @@ struct PanelParts {
                        const CellPanel::Update update(panel);
                        run();
                      },
+                 .follow = [this](const ElementChanges& changes) { return model.Follow(changes); },
                  .restored = [&panel] { Q_EMIT panel.OnUndo(); },
                  .out_of_memory = [&panel] { panel.RefuseBlock(OutOfMemory()); },
                  .can_undo_changed = [&panel](bool can) { Q_EMIT panel.OnCanUndoChange(can); },
@@ -42,7 +43,7 @@ struct PanelParts {
                .typed = [&panel] { return panel.TypedPlace(); },
                .changed = [&panel](const TQorCellRange& range) { panel.ModelChanged(range); },
                .headings_changed = [&panel] { panel.Redisplay(); },
-               .moved = [&panel](const TypedMove& typed) { panel.ModelMoved(typed); },
+               .moved = [&panel](const ModelMove& move) { panel.ModelMoved(move); },
                .deleted = [&panel] { panel.ModelDeleted(); }}),
         rows(rule, std::move(row_events)),
         cols(rule, std::move(col_events)),
