@@ -28,6 +28,7 @@ const struct {
   const char* name;
   std::unique_ptr<QWidget> (*make)();
 } kPictures[] = {
+    {"accessible_edit", AccessibleEdits},
     {"cells", Cells},
     {"editing", Editing},
     {"form", WeighingForm},

@@ -6,6 +6,7 @@
 #include <QWidget>
 #include <memory>
 
+std::unique_ptr<QWidget> AccessibleEdits();
 std::unique_ptr<QWidget> Cells();
 std::unique_ptr<QWidget> Editing();
 std::unique_ptr<QWidget> WeighingForm();

@@ -451,6 +451,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   // For screen readers.
   void NameBars();
   void AnnounceSize();
+  void AnnounceSelection();
   CellTable& table_;
   bool null_ = false;
   bool tab_stop_ = true;
