@@ -6,7 +6,9 @@
 #include <QWidget>
 #include <memory>
 
+std::unique_ptr<QWidget> AccessibleEdits();
 std::unique_ptr<QWidget> Cells();
+std::unique_ptr<QWidget> Editing();
 std::unique_ptr<QWidget> WeighingForm();
 std::unique_ptr<QWidget> Growing();
 std::unique_ptr<QWidget> MathLabels();

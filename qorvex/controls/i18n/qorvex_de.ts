@@ -13,6 +13,11 @@
         <translation>%1: %2 Der Wert bleibt.</translation>
     </message>
     <message>
+        <source>%1 cannot be changed.</source>
+        <comment>name of a cell</comment>
+        <translation>%1 lässt sich nicht ändern.</translation>
+    </message>
+    <message>
         <source>%1: &quot;%2&quot; cannot be stored.</source>
         <comment>name of a cell, its text</comment>
         <translation>%1: „%2“ lässt sich nicht speichern.</translation>

@@ -106,12 +106,7 @@ bool CellPanel::ChangeBlock(const QString& step, const BlockPlan& plan) {
   if (!RequireChangeable()) return false;
   const TQorCellRange selection = Selection();
   detail::BlockChanges block = plan(selection);
-  if (std::ranges::any_of(block.changes, [this](const detail::ElementChange& change) {
-        return change.row < table_.RowCount() && change.col < table_.ColCount() &&
-               table_.IsReadOnly(change.row, change.col);
-      })) {
-    block.refusal = detail::NotChangeable();
-  }
+  detail::RefuseReadOnly(table_, block);
   if (block.refusal.isEmpty()) {
     if (block.changes.empty() && block.lines.empty()) return true;
     try {
