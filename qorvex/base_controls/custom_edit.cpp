@@ -59,8 +59,8 @@ void TQorCustomEdit::Refresh(Extended value) {
   Show(value, true, true);
 }
 
-void TQorCustomEdit::ShowNothing() {
-  Show(kNull, false, false);
+void TQorCustomEdit::ShowNothing(bool keep_typed) {
+  Show(kNull, false, keep_typed);
 }
 
 void TQorCustomEdit::ShowAnew() {

@@ -72,8 +72,9 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// Shows a value that may have changed elsewhere, but keeps a text that is being typed.
   void Refresh(Extended value);
 
-  /// Shows nothing, for a cell without a value. Value() is then null.
-  void ShowNothing();
+  /// Shows nothing, for a cell without a value. Value() is then null. A text that is being typed is
+  /// discarded or kept.
+  void ShowNothing(bool keep_typed = false);
 
   /// @{
   /// Whether the value is null. Setting true discards the value; setting false turns a null into 0.

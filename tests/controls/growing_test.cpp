@@ -46,8 +46,17 @@ TYPED_TEST(Growing, TakeNewValuesInASpareRow) {
   this->Type("7");
   this->editor->setCanGrow(false);
   EXPECT_EQ(this->Texts(), "0|1|7|") << "what was being typed is not lost";
-  this->SetRows(0);
   this->editor->setCanGrow(true);
+  this->FocusEdit(3);
+  this->Type("1");
+  this->SetRows(4);
+  this->Set(3, 5);
+  this->Type("2");
+  EXPECT_EQ(this->Texts(), "1|7|5|12") << "nor when the program appends a row";
+  this->Press(Qt::Key_Return);
+  EXPECT_EQ(this->Get(3), 5);
+  EXPECT_EQ(this->Get(4), 12);
+  this->SetRows(0);
   this->FocusEdit(0);
   this->Enter("6");
   EXPECT_EQ(this->Texts(), "6|||") << "an empty table grows, too";

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <new>
+#include <optional>
 #include <utility>
 
 #include "qorvex/controls/panel/detail/accessible_panel.h"
@@ -113,10 +114,12 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
 }
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
+  const std::optional<QString> typed = count > axis.Count() ? TakeFromSpareRow(axis) : std::nullopt;
   SetLines(axis, count, axis.HasSpare());
   axis.ReachWantedTop();
   CountChanged();
   AnnounceSize();
+  if (typed) TypeIntoSpareRow(*typed);
 }
 
 void CellPanel::SetLines(detail::PanelAxis& axis, quint32 count, bool spare) {

@@ -416,6 +416,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
   void AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
   void SetLines(detail::PanelAxis& axis, quint32 count, bool spare);
+  // What is being typed into the spare row stays with it when the program appends rows.
+  std::optional<QString> TakeFromSpareRow(const detail::PanelAxis& axis);
+  void TypeIntoSpareRow(const QString& typed);
   [[nodiscard]] bool MayGrow(CellAxis axis) const;
   [[nodiscard]] Extended NewElement() const;
   [[nodiscard]] CellAxis AxisOfSelection() const;

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <limits>
 #include <new>
+#include <optional>
 #include <stdexcept>
 
 #include "qorvex/base/errors.h"
@@ -81,6 +82,24 @@ void CellPanel::FitSpareRow() {
   parts_->focus.CommitPending();
   SetLines(rows, rows.Count(), MayGrow(CellAxis::kRows));
   CountChanged();
+}
+
+std::optional<QString> CellPanel::TakeFromSpareRow(const detail::PanelAxis& axis) {
+  auto* const cell = qobject_cast<TQorCustomEdit*>(parts_->focus.Entered());
+  const bool is_spare = axis.HasSpare() && Rows().Top() + Rows().Focus() >= axis.Count();
+  if (!is_spare || cell == nullptr || !cell->Pending() || !cell->hasFocus()) return std::nullopt;
+  const QString typed = cell->text();
+  cell->Restore();
+  return typed;
+}
+
+void CellPanel::TypeIntoSpareRow(const QString& typed) {
+  parts_->focus.FocusElement(parts_->rows.Count(), Cols().Top() + Cols().Focus());
+  TextCell* const cell = parts_->focus.Entered();
+  if (cell == nullptr) return;
+  parts_->focus.SetEditing(true);
+  cell->selectAll();
+  cell->insert(typed);
 }
 
 void CellPanel::connectNotify(const QMetaMethod& signal) {

@@ -218,7 +218,10 @@ void CellGrid::Show() {
         cell->Refresh(value);
         cell->SetSpecialColor(table_.SpecialColor(row, col, value));
       } else {
-        cell->ShowNothing();
+        // What is being typed into the spare line stays.
+        cell->ShowNothing(IsUsed(r, c));
+        cell->setReadOnly(settings_.read_only);
+        cell->SetSpecialColor({});
       }
     }
   }
