@@ -39,6 +39,8 @@ void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 cou
     return;
   }
   Parts().focus.CommitPending();
+  // A handler may have changed the size.
+  first = std::min(first, rows ? NoOfRows() : NoOfCols());
   const Update update(*this);
   try {
     InsertIntoStore(axis, first, count, value);
@@ -88,6 +90,8 @@ void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 cou
     return;
   }
   Parts().focus.CommitPending();
+  const quint32 lines = rows ? NoOfRows() : NoOfCols();
+  count = std::min(count, lines - std::min(first, lines));
   const Update update(*this);
   // The store shrinks after the handlers, which may still read the elements that go.
   if (rows) {

@@ -200,6 +200,8 @@ void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Ex
     return;
   }
   Parts().focus.CommitPending();
+  // A handler may have shortened the vector.
+  first = std::min(first, NoOfRows());
   const Update update(*this);
   // Zeros at the end need no memory.
   if (first < store_.size() || value != 0) {
@@ -221,6 +223,7 @@ void TQorVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
     return;
   }
   Parts().focus.CommitPending();
+  count = std::min(count, NoOfRows() - std::min(first, NoOfRows()));
   const Update update(*this);
   SetCount(Parts().rows, NoOfRows() - count);
   // After the handlers, which may still read the elements that go.

@@ -4,7 +4,6 @@
 #include <QSignalSpy>
 #include <QUndoStack>
 #include <memory>
-#include <tuple>
 
 #include "controls/editor_fixture.h"
 
@@ -14,7 +13,6 @@ template <class Editor>
 struct History : EditorFixture<Editor> {
   History() { this->editor->setDecimalPlaces(0); }
 
-  /// Types a value into a cell.
   void TypeInto(quint32 edit, const char* text) {
     this->FocusEdit(edit);
     this->Enter(text);
@@ -60,14 +58,12 @@ TYPED_TEST(History, RaisesTheEventsOfElementsOnceTheyAreRestored) {
   this->TypeInto(1, "7");
   EXPECT_TRUE(this->editor->PasteBlock("8\n9"));
   QSignalSpy undone(this->editor, &CellPanel::OnUndo);
-  QStringList changed;
-  auto handler = this->On(&TypeParam::OnChange, [&](quint32 row) {
-    changed << QString::number(row);
-    EXPECT_EQ(this->Get(2), 2) << "all elements are there before the first event";
-    EXPECT_EQ(this->Get(3), 3);
+  auto handler = this->On(&TypeParam::OnChange, [this] {
+    EXPECT_EQ(this->Get(3), 3) << "all elements are there before the first event";
   });
+  this->Take();
   this->editor->Undo();
-  EXPECT_EQ(changed.join(' ').toStdString(), "2 3");
+  EXPECT_EQ(this->Take(), this->kIsVector ? "change 2, change 3" : "change 2 0, change 3 0");
   EXPECT_EQ(undone.count(), 1);
   // A handler may change elements and run commands.
   handler = this->On(&TypeParam::OnChange, [this] { this->editor->Sqr(); });
@@ -79,10 +75,7 @@ TYPED_TEST(History, RaisesTheEventsOfElementsOnceTheyAreRestored) {
   // One that is told of a new size in the midst of a step runs a command that has no place in the
   // order of steps.
   this->editor->InsertRows(4, 1);
-  bool once = false;
-  const auto square = [&] {
-    if (!std::exchange(once, true)) this->editor->Sqr();
-  };
+  const auto square = [this] { this->editor->Sqr(); };
   if constexpr (TestFixture::kIsVector) {
     handler = this->On(&TypeParam::OnRowNoChange, square);
   } else {
@@ -91,10 +84,6 @@ TYPED_TEST(History, RaisesTheEventsOfElementsOnceTheyAreRestored) {
   this->editor->Undo();
   EXPECT_EQ(this->Texts(), "0|1|4|9");
   EXPECT_FALSE(this->editor->CanUndo() || this->editor->CanRedo());
-  once = false;
-  this->editor->InsertRows(4, 1);
-  EXPECT_EQ(this->Texts(), "0|1|16|81");
-  EXPECT_FALSE(this->editor->CanUndo());
 }
 
 TYPED_TEST(History, ForgetsCommandsWhenTheProgramSetsAnElement) {
@@ -102,9 +91,7 @@ TYPED_TEST(History, ForgetsCommandsWhenTheProgramSetsAnElement) {
   this->TypeInto(0, "5");
   this->editor->Sqr();
   this->TypeInto(1, "7");
-  this->TypeInto(2, "8");
   this->Set(3, 1);
-  this->Undo();
   this->Undo();
   EXPECT_EQ(this->Texts(), "25|1|4|1") << "what was typed later can be undone";
   EXPECT_FALSE(this->editor->CanUndo());
@@ -126,35 +113,26 @@ TYPED_TEST(History, KeepsToItsLimit) {
   this->editor->Undo();
   EXPECT_EQ(this->Get(0), 6);
   EXPECT_FALSE(this->editor->CanUndo()) << "only the newest step is kept";
-  this->editor->Redo();
   // Room for one command on all elements and a little more.
   this->editor->setUndoLimit(300 * 16 + 2000);
   for (int i = 0; i < 3; ++i) this->editor->LinearTransform(1, 1);
   this->TypeInto(0, "1");
   for (int i = 0; i < 9; ++i) this->editor->Undo();
-  EXPECT_EQ(this->Get(0), 9);
   EXPECT_EQ(this->Get(1), 3);
   this->editor->setUndoLimit(0);
   EXPECT_FALSE(this->editor->CanRedo());
-  this->TypeInto(0, "1");
-  this->FocusEdit(0);
-  EXPECT_TRUE(this->editor->PasteBlock("8\n9"));
+  this->TypeInto(0, "8");
   this->editor->Sqr();
   EXPECT_FALSE(this->editor->CanUndo());
   EXPECT_EQ(this->Get(0), 64);
-  this->editor->setUndoLimit(-1);
-  EXPECT_EQ(this->editor->UndoLimit(), 0);
 }
 
 TYPED_TEST(History, LeavesItsKeysToTheApplicationWhenThereIsNothingToUndo) {
   this->Open(4);
   QAction undo;
   undo.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
-  QAction redo;
-  redo.setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Y));
-  this->window->addActions({&undo, &redo});
+  this->window->addAction(&undo);
   QSignalSpy undone(&undo, &QAction::triggered);
-  QSignalSpy redone(&redo, &QAction::triggered);
   this->FocusEdit(0);
   this->Undo();
   EXPECT_EQ(undone.count(), 1);
@@ -162,10 +140,6 @@ TYPED_TEST(History, LeavesItsKeysToTheApplicationWhenThereIsNothingToUndo) {
   this->Undo();
   EXPECT_EQ(this->Get(0), 0);
   EXPECT_EQ(undone.count(), 1);
-  this->Redo();
-  EXPECT_EQ(redone.count(), 0);
-  this->Redo();
-  EXPECT_EQ(redone.count(), 1);
   // A text that is being typed has its own undo.
   this->editor->setUndoLimit(0);
   this->Type("8");
@@ -211,7 +185,6 @@ TYPED_TEST(History, SharesAStackOfTheForm) {
   while (stack->canRedo()) stack->redo();
   EXPECT_EQ(this->Texts(), "5|1||");
   stack.reset();
-  EXPECT_NE(this->editor->UndoStack(), nullptr);
   this->TypeInto(0, "8");
   this->Undo();
   EXPECT_EQ(this->Texts(), "5|1||");
