@@ -1,7 +1,7 @@
 // Editors of matrices. A step through a large matrix with 20 x 20 visible cells, compared with as
 // many bare line edits and with Qt's table view over a model of the same matrix; a grid of cells,
-// compared with one of bare line edits; and commands, compared with the routines that they call.
-// Windows are offscreen.
+// compared with one of bare line edits and with a table view; and commands, compared with the
+// routines that they call. Windows are offscreen.
 
 #include <QAbstractTableModel>
 #include <QApplication>
@@ -26,7 +26,8 @@ constexpr int kVisible = 20;
 
 class MatrixModel : public QAbstractTableModel {
  public:
-  explicit MatrixModel(TQorFloatMatrix matrix) : matrix_(std::move(matrix)) {}
+  explicit MatrixModel(TQorFloatMatrix matrix, QObject* parent = nullptr)
+      : QAbstractTableModel(parent), matrix_(std::move(matrix)) {}
   int rowCount(const QModelIndex&) const override { return static_cast<int>(matrix_.size()); }
   int columnCount(const QModelIndex&) const override { return static_cast<int>(matrix_.size()); }
   QVariant data(const QModelIndex& index, int role) const override {
@@ -53,8 +54,17 @@ class Editor {
   void ScrollRight(std::size_t col) { widget_.setDisplayLeftCol(static_cast<quint32>(col)); }
   void Paint() { widget_.repaint(); }
 
- private:
+ protected:
   TQorMatrixEdit widget_;
+};
+
+// All elements are selected, and a command can be undone.
+class SelectedEditor : public Editor {
+ public:
+  explicit SelectedEditor(std::size_t order) : Editor(order) {
+    widget_.Transpose();
+    widget_.SelectAll();
+  }
 };
 
 // The line edits alone, with the same texts.
@@ -104,14 +114,19 @@ class View {
   }
   void Paint() { view_.viewport()->repaint(); }
 
- private:
+ protected:
   MatrixModel model_;
   QTableView view_;
 };
 
-template <class Widget>
+class SelectedView : public View {
+ public:
+  explicit SelectedView(std::size_t order) : View(order) { view_.selectAll(); }
+};
+
+template <class Widget, class Base>
 void RegisterStep(const std::string& what, const std::string& who,
-                  void (Widget::*scroll)(std::size_t), bool paint) {
+                  void (Base::*scroll)(std::size_t), bool paint) {
   constexpr std::size_t order = 2'000;
   const std::string name = what + "/Float/" + who + "/" + std::to_string(order);
   benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
@@ -176,6 +191,16 @@ void FillWithLineEdits(QWidget& window, int edits) {
   window.resize(edits * size);
 }
 
+// Qt's table view paints its cells instead of making them.
+void FillWithView(QWidget& window, int edits) {
+  auto* const view = new QTableView(&window);
+  view->setModel(new MatrixModel(OurMatrix<Extended>(static_cast<std::size_t>(edits)), view));
+  view->horizontalHeader()->setDefaultSectionSize(81);
+  view->verticalHeader()->setDefaultSectionSize(21);
+  view->resize(edits * QSize(81, 21));
+  window.resize(view->size());
+}
+
 // A command of the editor, which copies the matrix for undo and shows the result, and the routine
 // alone. Each call changes the result of the one before.
 void RegisterCommand(const std::string& what, std::size_t order, int power,
@@ -208,10 +233,14 @@ const bool registered = [] {
   RegisterSteps<Editor>("ours", false);
   RegisterSteps<Editor>("ours", true);
   RegisterSteps<View>("QTableView", true);
+  const std::string selected = "step down a matrix and paint, selected";
+  RegisterStep<SelectedEditor>(selected, "ours", &Editor::ScrollDown, true);
+  RegisterStep<SelectedView>(selected, "QTableView", &View::ScrollDown, true);
   RegisterStep<Lines>("step down a matrix", "QLineEdit", &Lines::ScrollDown, false);
 
   RegisterGrid("ours", FillWithCells);
   RegisterGrid("QLineEdit", FillWithLineEdits);
+  RegisterGrid("QTableView", FillWithView);
 
   using Edit = TQorMatrixEdit;
   using Matrix = TQorFloatMatrix;

@@ -45,8 +45,17 @@ class Editor {
   void ScrollTo(std::size_t row) { widget_.setDisplayTopRow(static_cast<quint32>(row)); }
   void Paint() { widget_.repaint(); }
 
- private:
+ protected:
   TQorVectorEdit widget_;
+};
+
+// All rows are selected, and a command can be undone.
+class SelectedEditor : public Editor {
+ public:
+  explicit SelectedEditor(std::size_t n) : Editor(n) {
+    widget_.LinearTransform(1, 0);
+    widget_.SelectAll();
+  }
 };
 
 class View {
@@ -61,9 +70,14 @@ class View {
   void ScrollTo(std::size_t row) { view_.verticalScrollBar()->setValue(static_cast<int>(row)); }
   void Paint() { view_.viewport()->repaint(); }
 
- private:
+ protected:
   VectorModel model_;
   QTableView view_;
+};
+
+class SelectedView : public View {
+ public:
+  explicit SelectedView(std::size_t n) : View(n) { view_.selectAll(); }
 };
 
 template <class Widget>
@@ -88,6 +102,8 @@ const bool registered = [] {
     Register<Editor>("scroll step", "ours", n, false);
     Register<Editor>("scroll step and paint", "ours", n, true);
     Register<View>("scroll step and paint", "QTableView", n, true);
+    Register<SelectedEditor>("scroll step and paint, selected", "ours", n, true);
+    Register<SelectedView>("scroll step and paint, selected", "QTableView", n, true);
   }
   return true;
 }();

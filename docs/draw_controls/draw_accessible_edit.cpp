@@ -34,7 +34,8 @@ TQorMatrixEdit* Powers(int rows) {
   editor->setNoOfCols(3);
   for (int row = 0; row < 8; ++row) {
     for (int col = 0; col < 3; ++col) {
-      const long double power = row == 0 && col == 0 ? std::nanl("") : std::pow(1.5L * row, col - 1);
+      const long double power =
+          row == 0 && col == 0 ? std::nanl("") : std::pow(1.5L * row, col - 1);
       editor->setElement(static_cast<quint32>(row), static_cast<quint32>(col), power);
     }
   }

@@ -28,8 +28,11 @@ const struct {
   const char* name;
   std::unique_ptr<QWidget> (*make)();
 } kPictures[] = {
+    {"accessible_edit", AccessibleEdits},
     {"cells", Cells},
+    {"editing", Editing},
     {"form", WeighingForm},
+    {"growing", Growing},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},

@@ -101,6 +101,34 @@ TYPED_TEST(AccessibleEditors, LetTheFocusGoToAnyElement) {
   }
 }
 
+TYPED_TEST(AccessibleEditors, TellAndChangeWhatIsSelected) {
+  this->Open(2000);
+  this->FocusEdit(0);
+  this->editor->Select({2, 3, 0, 1});
+  EXPECT_EQ(this->Table()->selectedCellCount(), 3);
+  EXPECT_EQ(this->Table()->selectedRows(), QList({2, 3, 4}));
+  EXPECT_FALSE(this->Table()->isColumnSelected(0));
+  for (int row = 1; row < 6; ++row) {
+    QAccessibleInterface* const cell = this->Table()->cellAt(row, 0);
+    EXPECT_EQ(cell->tableCellInterface()->isSelected(), row > 1 && row < 5) << row;
+    EXPECT_EQ(cell->state().selected, row > 1 && row < 5) << row;
+    EXPECT_EQ(this->Table()->isRowSelected(row), row > 1 && row < 5) << row;
+  }
+  EXPECT_EQ(this->Table()->selectedCells().at(2), this->Table()->cellAt(4, 0));
+  EXPECT_TRUE(this->Table()->selectRow(700));
+  EXPECT_EQ(this->editor->Selection(), (TQorCellRange{700, 1, 0, 1}));
+  EXPECT_FALSE(this->Table()->unselectRow(3));
+  EXPECT_TRUE(this->Table()->unselectRow(700));
+  EXPECT_EQ(this->editor->Selection(), (TQorCellRange{0, 1, 0, 1})) << "the cell with the focus";
+  EXPECT_TRUE(this->Table()->selectColumn(0));
+  EXPECT_EQ(this->Table()->selectedColumnCount(), 1);
+  EXPECT_EQ(this->Table()->selectedRowCount(), 2000);
+  EXPECT_EQ(this->Table()->selectedRows().size(), 1000) << "lists are limited";
+  EXPECT_EQ(this->Table()->selectedCells().size(), 1000);
+  EXPECT_FALSE(this->Table()->selectRow(2000));
+  EXPECT_FALSE(this->Table()->selectColumn(-1));
+}
+
 TYPED_TEST(AccessibleEditors, HaveCellsThatCanBeEditedLikeOtherTexts) {
   this->Open(9);
   QAccessibleInterface* const cell = this->Table()->cellAt(1, 0);

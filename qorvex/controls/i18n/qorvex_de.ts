@@ -71,12 +71,12 @@
         <translation>Alle Werte kopieren</translation>
     </message>
     <message>
-        <source>Undo Last Change</source>
-        <translation>Letzte Änderung rückgängig machen</translation>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Redo Last Change</source>
-        <translation>Letzte Änderung wiederherstellen</translation>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>The block does not fit. Its rows: %1, rows from here on: %2.</source>

@@ -43,6 +43,7 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
     parts_->keys.WatchBar(*parts_->cols.Bar());
   }
   NameBars();
+  connect(this, &CellPanel::OnSelectionChange, this, &CellPanel::AnnounceSelection);
 }
 
 CellPanel::~CellPanel() = default;

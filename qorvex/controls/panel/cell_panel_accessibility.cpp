@@ -20,4 +20,10 @@ void CellPanel::AnnounceSize() {
   QAccessible::updateAccessibility(&event);
 }
 
+void CellPanel::AnnounceSelection() {
+  if (!QAccessible::isActive()) return;
+  QAccessibleEvent event(this, QAccessible::SelectionWithin);
+  QAccessible::updateAccessibility(&event);
+}
+
 }  // namespace qorvex::inline QorvexControls

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/panel/detail/menu_entry.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
@@ -172,10 +173,7 @@ void CellPanel::AddSelectionToMenu(QMenu* menu) {
   menu->clear();
   const auto add = [this, menu](const QString& text, const char* keys, bool enabled,
                                 auto function) {
-    const QString shown = QKeySequence(QLatin1String(keys)).toString(QKeySequence::NativeText);
-    QAction* const action = menu->addAction(text + QLatin1Char('\t') + shown);
-    action->setEnabled(enabled);
-    connect(action, &QAction::triggered, this, function);
+    connect(detail::AddEntry(*menu, text, keys, enabled), &QAction::triggered, this, function);
   };
   const CellSettings settings = EffectiveSettings();
   const bool changes = !settings.read_only;

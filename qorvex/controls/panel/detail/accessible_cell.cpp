@@ -75,7 +75,11 @@ QAccessible::State AccessibleCell::state() const {
 }
 
 QString AccessibleCell::text(QAccessible::Text kind) const {
-  return kind == QAccessible::Value ? Cell()->text() : QAccessibleWidget::text(kind);
+  if (kind == QAccessible::Value) return Cell()->text();
+  const QString text = QAccessibleWidget::text(kind);
+  if (kind != QAccessible::Name || !text.isEmpty()) return text;
+  const auto place = Place();
+  return place ? Table()->Name(*place) : text;
 }
 
 void AccessibleCell::setText(QAccessible::Text kind, const QString& text) {
@@ -84,7 +88,7 @@ void AccessibleCell::setText(QAccessible::Text kind, const QString& text) {
   } else if (Cell()->isEnabled() && !Cell()->isReadOnly()) {
     Cell()->selectAll();
     Cell()->insert(text);
-    Cell()->Commit();
+    Cell()->CommitOrRestore();
   }
 }
 

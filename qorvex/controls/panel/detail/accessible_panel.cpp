@@ -157,21 +157,14 @@ QAccessibleInterface* AccessiblePanel::Cell(const AccessiblePlace& place) const 
   if (TextCell* const cell = CellInSight(place)) return QAccessible::queryAccessibleInterface(cell);
   const auto [found, is_new] = out_of_sight_.try_emplace(place);
   if (is_new) {
-    auto* const element = new AccessibleElement(static_cast<CellPanel*>(widget()), place);
+    auto* const element = new AccessibleElement(&Panel(), place);
     found->second = QAccessible::registerAccessibleInterface(element);
   }
   return QAccessible::accessibleInterface(found->second);
 }
 
 void AccessiblePanel::Focus(const AccessiblePlace& element) {
-  PanelParts& parts = *Parts();
-  const auto reveal = [](EditWindow& window, quint32 at) {
-    if (at < window.Top()) window.SetTop(at);
-    if (at - window.Top() >= window.Edits()) window.SetTop(at - window.Edits() + 1);
-    return at - window.Top();
-  };
-  const quint32 row = reveal(parts.rows.Window(), element.row);
-  parts.focus.FocusCell(row, reveal(parts.cols.Window(), element.col));
+  Parts()->focus.FocusElement(element.row, element.col);
 }
 
 void AccessiblePanel::DropElements() {
@@ -258,7 +251,7 @@ QAccessible::State AccessiblePanel::state() const {
   state.focused = false;
   state.multiSelectable = true;
   state.extSelectable = true;
-  state.readOnly = static_cast<CellPanel*>(widget())->EffectiveSettings().read_only;
+  state.readOnly = Panel().EffectiveSettings().read_only;
   return state;
 }
 

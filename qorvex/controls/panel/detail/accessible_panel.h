@@ -89,6 +89,7 @@ class AccessiblePanel : public QAccessibleWidget, public QAccessibleTableInterfa
   [[nodiscard]] PanelParts* Parts() const;
   [[nodiscard]] quint32 Rows() const;
   [[nodiscard]] quint32 Cols() const;
+  [[nodiscard]] CellPanel& Panel() const { return static_cast<CellPanel&>(*widget()); }
   [[nodiscard]] TQorCellRange Selection() const;
   [[nodiscard]] TextCell* CellInSight(const AccessiblePlace& place) const;
   void DropElements();

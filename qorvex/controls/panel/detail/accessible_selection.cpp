@@ -53,8 +53,7 @@ QString AccessiblePanel::columnDescription(int col) const {
 }
 
 TQorCellRange AccessiblePanel::Selection() const {
-  if (Rows() == 0 || Cols() == 0) return {};
-  return {Parts()->rows.Window().Current(), 1, Parts()->cols.Window().Current(), 1};
+  return Parts() == nullptr ? TQorCellRange() : Parts()->selection.Range();
 }
 
 bool AccessiblePanel::IsSelected(const AccessiblePlace& place) const {
@@ -116,20 +115,29 @@ QList<int> AccessiblePanel::selectedColumns() const {
   return range.rows == Rows() ? Numbers(range.col, range.cols) : QList<int>();
 }
 
-bool AccessiblePanel::selectRow(int) {
-  return false;
+bool AccessiblePanel::selectRow(int row) {
+  if (row < 0 || row >= rowCount()) return false;
+  Panel().SelectRows(static_cast<quint32>(row), 1);
+  return true;
 }
 
-bool AccessiblePanel::selectColumn(int) {
-  return false;
+bool AccessiblePanel::selectColumn(int col) {
+  if (col < 0 || col >= columnCount()) return false;
+  Panel().SelectCols(static_cast<quint32>(col), 1);
+  return true;
 }
 
-bool AccessiblePanel::unselectRow(int) {
-  return false;
+bool AccessiblePanel::unselectRow(int row) {
+  // What is left would not always be a rectangle.
+  if (!isRowSelected(row) || selectedRowCount() > 1) return false;
+  Panel().ClearSelection();
+  return true;
 }
 
-bool AccessiblePanel::unselectColumn(int) {
-  return false;
+bool AccessiblePanel::unselectColumn(int col) {
+  if (!isColumnSelected(col) || selectedColumnCount() > 1) return false;
+  Panel().ClearSelection();
+  return true;
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -22,13 +22,13 @@ QString NoAttributes(int length, int* start, int* end) {
 }  // namespace
 
 void AccessibleText::selection(int index, int* start, int* end) const {
-  const bool exists = index == 0 && line_.hasSelectedText();
-  *start = exists ? line_.selectionStart() : 0;
-  *end = exists ? line_.selectionEnd() : 0;
+  const bool exists = index == 0 && cell_.hasSelectedText();
+  *start = exists ? cell_.selectionStart() : 0;
+  *end = exists ? cell_.selectionEnd() : 0;
 }
 
 int AccessibleText::selectionCount() const {
-  return line_.hasSelectedText() ? 1 : 0;
+  return cell_.hasSelectedText() ? 1 : 0;
 }
 
 void AccessibleText::addSelection(int start, int end) {
@@ -36,48 +36,48 @@ void AccessibleText::addSelection(int start, int end) {
 }
 
 void AccessibleText::removeSelection(int index) {
-  if (index == 0) line_.deselect();
+  if (index == 0) cell_.deselect();
 }
 
 void AccessibleText::setSelection(int index, int start, int end) {
-  if (index == 0) line_.setSelection(start, end - start);
+  if (index == 0) cell_.setSelection(start, end - start);
 }
 
 int AccessibleText::cursorPosition() const {
-  return line_.cursorPosition();
+  return cell_.cursorPosition();
 }
 
 void AccessibleText::setCursorPosition(int position) {
-  line_.setCursorPosition(position);
+  cell_.setCursorPosition(position);
 }
 
 QString AccessibleText::text(int start, int end) const {
-  return Part(line_.text(), start, end);
+  return Part(cell_.text(), start, end);
 }
 
 int AccessibleText::characterCount() const {
-  return static_cast<int>(line_.text().size());
+  return static_cast<int>(cell_.text().size());
 }
 
 QRect AccessibleText::characterRect(int offset) const {
   const QString character = text(offset, offset + 1);
   if (character.isEmpty()) return {};
   // A line edit only tells where its cursor is.
-  const QFontMetrics metrics(line_.font());
-  const QRect cursor = line_.inputMethodQuery(Qt::ImCursorRectangle).toRect();
+  const QFontMetrics metrics(cell_.font());
+  const QRect cursor = cell_.inputMethodQuery(Qt::ImCursorRectangle).toRect();
   const int x = cursor.center().x() - metrics.horizontalAdvance(text(0, cursorPosition())) +
                 metrics.horizontalAdvance(text(0, offset));
-  return {line_.mapToGlobal(QPoint(x, cursor.y())),
+  return {cell_.mapToGlobal(QPoint(x, cursor.y())),
           QSize(metrics.horizontalAdvance(character), metrics.height())};
 }
 
 int AccessibleText::offsetAtPoint(const QPoint& point) const {
-  return line_.cursorPositionAt(line_.mapFromGlobal(point));
+  return cell_.cursorPositionAt(cell_.mapFromGlobal(point));
 }
 
 void AccessibleText::scrollToSubstring(int start, int end) {
-  line_.setCursorPosition(end);
-  line_.setCursorPosition(start);
+  cell_.setCursorPosition(end);
+  cell_.setCursorPosition(start);
 }
 
 QString AccessibleText::attributes(int, int* start, int* end) const {
@@ -93,12 +93,13 @@ void AccessibleText::insertText(int offset, const QString& text) {
 }
 
 void AccessibleText::replaceText(int start, int end, const QString& text) {
-  if (line_.isReadOnly() || !line_.isEnabled()) return;
-  // What is typed takes effect when the focus leaves.
-  line_.setFocus(Qt::OtherFocusReason);
-  line_.setCursorPosition(start);
-  line_.setSelection(start, end - start);
-  line_.insert(text);
+  if (cell_.isReadOnly() || !cell_.isEnabled()) return;
+  cell_.setFocus(Qt::OtherFocusReason);
+  cell_.setCursorPosition(start);
+  cell_.setSelection(start, end - start);
+  cell_.insert(text);
+  // What is typed takes effect when the focus leaves, but there is none in an inactive window.
+  if (!cell_.hasFocus()) cell_.CommitOrRestore();
 }
 
 QString AccessibleReading::text(int start, int end) const {

@@ -4,16 +4,17 @@
 /// Texts of cells for screen readers.
 
 #include <QAccessible>
-#include <QLineEdit>
 #include <QRect>
 #include <QString>
 
+#include "qorvex/base_controls/text_cell.h"
+
 namespace qorvex::inline QorvexControls::detail {
 
-/// The text of a line edit. Changes count as typed.
+/// The text of a cell. Changes count as typed.
 class AccessibleText : public QAccessibleTextInterface, public QAccessibleEditableTextInterface {
  public:
-  explicit AccessibleText(QLineEdit& line) : line_(line) {}
+  explicit AccessibleText(TextCell& cell) : cell_(cell) {}
 
   void selection(int index, int* start, int* end) const override;
   int selectionCount() const override;
@@ -34,7 +35,7 @@ class AccessibleText : public QAccessibleTextInterface, public QAccessibleEditab
   void replaceText(int start, int end, const QString& text) override;
 
  private:
-  QLineEdit& line_;
+  TextCell& cell_;
 };
 
 /// A text that is out of sight. It can only be read.
