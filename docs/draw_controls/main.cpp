@@ -30,7 +30,9 @@ const struct {
 } kPictures[] = {
     {"accessible_edit", AccessibleEdits},
     {"cells", Cells},
+    {"editing", Editing},
     {"form", WeighingForm},
+    {"growing", Growing},
     {"math_label", MathLabels},
     {"math_symbols", MathSymbols},
     {"matrix_edit", MatrixEdits},

@@ -8,7 +8,9 @@
 
 std::unique_ptr<QWidget> AccessibleEdits();
 std::unique_ptr<QWidget> Cells();
+std::unique_ptr<QWidget> Editing();
 std::unique_ptr<QWidget> WeighingForm();
+std::unique_ptr<QWidget> Growing();
 std::unique_ptr<QWidget> MathLabels();
 std::unique_ptr<QWidget> MathSymbols();
 std::unique_ptr<QWidget> MatrixEdits();

@@ -37,7 +37,7 @@ class CellColors;
 /// decimal separator of the locale. What the locale does not read is read if its separators leave
 /// no doubt: "1,234.50", "1.234,50" and "1,234,567" are numbers everywhere, "1,234" is refused in
 /// English. text() has no group separators; if Grouping is set, they are painted while the cell is
-/// not being edited.
+/// not being edited, and "1,234" is read as 1234.
 ///
 /// A number that is wider than the cell is painted with fewer digits, or as kNoRoom: see
 /// FittedFloatText.

@@ -30,8 +30,8 @@ CellReading TQorFloatEdit::ValueOf(const QString& text) const {
     const std::optional<Extended> value = (*convert_)(text);
     return value ? CellReading{value, {}} : detail::NotANumber(text);
   }
-  return ReadExpressions() ? detail::ReadExpression(text, locale())
-                           : detail::ReadNumber(text, locale());
+  return ReadExpressions() ? detail::ReadExpression(text, locale(), Grouping())
+                           : detail::ReadNumber(text, locale(), Grouping());
 }
 
 QString TQorFloatEdit::Painted(std::string_view number) const {

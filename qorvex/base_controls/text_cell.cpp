@@ -90,8 +90,14 @@ void TextCell::Leave() {
 bool TextCell::IsEdited() const {
   // Another text has been typed or set by the program.
   if (text() != shown_) return true;
-  const bool partly_selected = hasSelectedText() && selectedText() != text();
-  return partly_selected || (hasFocus() && !isReadOnly());
+  if (hasSelectedText() && selectedText() != text()) return true;
+  return hasFocus() && !isReadOnly() && (editing_ || !hasSelectedText());
+}
+
+void TextCell::SetEditing(bool editing) {
+  if (editing == editing_) return;
+  editing_ = editing;
+  update();
 }
 
 QString TextCell::PaintedText() const {

@@ -46,6 +46,9 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   /// text is being edited while it has the focus, unless it is read-only, and while a part of it is
   /// selected.
   [[nodiscard]] QString PaintedText() const;
+  /// Whether a text that is selected as a whole counts as being edited when it has the focus; true
+  /// by default. In a panel it does not until the user edits it.
+  void SetEditing(bool editing);
   /// The width in pixels at which the whole text fits.
   [[nodiscard]] int FittingWidth() const;
 
@@ -116,6 +119,7 @@ class QORVEX_EXPORT TextCell : public QLineEdit {
   SelectionBehaviour behaviour_;
   bool inside_ = false;
   bool entered_by_mouse_ = false;
+  bool editing_ = true;
 };
 
 }  // QORVEX_WIDGET_UNIT(QorvexBaseControls)

@@ -30,7 +30,7 @@ bool TQorCustomMatrixEdit::CanInsert(CellAxis axis) const {
 void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
                                        Extended value) {
   if (Model() != nullptr) {
-    Parts().model.InsertLines(axis, first, count);
+    Parts().model.InsertLines(axis, first, count, value);
     return;
   }
   const bool rows = axis == CellAxis::kRows;

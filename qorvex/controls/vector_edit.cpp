@@ -135,14 +135,14 @@ void TQorVectorEdit::setEditFocus(quint32 edit) {
   Parts().focus.FocusCell(edit, 0);
 }
 
-Extended TQorVectorEdit::Value(quint32 row, quint32) const {
-  if (Model() != nullptr) return Parts().model.Value(row, 0);
+Extended TQorVectorEdit::Value(quint32 row, quint32 col) const {
+  if (Model() != nullptr) return Parts().model.Value(row, col);
   if (VirtualMode()) return OnGetElement ? OnGetElement(row) : static_cast<Extended>(row);
   return row < store_.size() ? std::as_const(store_)[row] : 0;
 }
 
-bool TQorVectorEdit::Store(quint32 row, quint32, Extended value) {
-  if (Model() != nullptr) return Parts().model.Store(row, 0, value);
+bool TQorVectorEdit::Store(quint32 row, quint32 col, Extended value) {
+  if (Model() != nullptr) return Parts().model.Store(row, col, value);
   if (VirtualMode()) {
     Q_EMIT OnSetElement(row, value);
   } else if (row < NoOfRows()) {
@@ -192,7 +192,7 @@ bool TQorVectorEdit::CanInsert(CellAxis axis) const {
 
 void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) {
   if (Model() != nullptr) {
-    Parts().model.InsertLines(axis, first, count);
+    Parts().model.InsertLines(axis, first, count, value);
     return;
   }
   if (VirtualMode()) {

@@ -167,6 +167,13 @@ TEST_F(FloatCell, ShowsTheDigitsThatItsSettingsAskFor) {
   }
   cell->setDecimalPlaces(1000);
   EXPECT_EQ(cell->DecimalPlaces(), 255);
+  cell->setFullAccuracy(false);
+  cell->setNumberFormat(NumberSettings::nfScientific);
+  cell->setValue(0.00126L);
+  for (const auto& [digits, text] : {std::pair(3, "1.26e-3"), std::pair(0, "1e-3")}) {
+    cell->setSignificantDigits(digits);
+    EXPECT_EQ(cell->text(), text);
+  }
 }
 
 TEST_F(FloatCell, FollowsItsLocale) {

@@ -1,26 +1,25 @@
 // Headings, columns of their own width and format, and as many cells as have room.
 
-#include <QSignalSpy>
 #include <QToolButton>
 #include <algorithm>
+#include <limits>
+#include <vector>
 
 #include "controls/editor_fixture.h"
 
 namespace qorvex {
 
 struct GridLayout : EditorFixture<TQorMatrixEdit> {
-  /// Elements 10 * row + col in a window that is shown.
+  /// The first row is 0, 1, 2, ..., in a window that is shown.
   void Open(quint32 rows, quint32 cols) {
     editor->setNoOfRows(rows);
     editor->setNoOfCols(cols);
-    for (quint32 row = 0; row < std::min(rows, 30U); ++row) {
-      for (quint32 col = 0; col < cols; ++col) editor->setElement(row, col, 10 * row + col);
-    }
+    for (quint32 col = 0; col < cols; ++col) editor->setElement(0, col, col);
     Show();
   }
   QWidget* Headings(const char* name) const { return editor->findChild<QWidget*>(name); }
   QScrollBar* AcrossBar() const { return editor->findChildren<QScrollBar*>().at(1); }
-  /// The widths of the cells in the first row, and where the row ends.
+  /// The widths of the cells in the first row.
   std::vector<int> Widths() const {
     std::vector<int> widths;
     for (int col = 0; col < editor->NoOfColEdits(); ++col) widths.push_back(Cell(col)->width());
@@ -138,6 +137,44 @@ TEST_F(GridLayout, EdgesOfColumnHeadingsCanBeDragged) {
   Resize(200, 100);
   drag(cols->width() - 91, cols->width() - 291);
   EXPECT_EQ(editor->width(), editor->sizeHint().width()) << "without a layout it widens itself";
+}
+
+TEST_F(GridLayout, HeadingsSelectRowsAndColumns) {
+  editor->setRowHeadings(true);
+  editor->setColHeadings(true);
+  Open(9, 5);
+  editor->setDisplayTopRow(2);
+  editor->setDisplayLeftCol(1);
+  QWidget* const rows = Headings("RowHeadings");
+  QWidget* const cols = Headings("ColHeadings");
+  const auto press = [](QWidget* bar, QPoint place, Qt::KeyboardModifiers held = {}) {
+    QTest::mousePress(bar, Qt::LeftButton, held, place);
+  };
+  const auto drag = [](QWidget* bar, QPoint to) {
+    QTest::mouseMove(bar, to);
+    QTest::mouseRelease(bar, Qt::LeftButton, {}, to);
+  };
+  press(rows, {5, kHeight + 5});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{3, 1, 0, 5}));
+  EXPECT_EQ(editor->CurrentRow(), 3U) << "what is typed goes into the row";
+  drag(rows, {5, 3 * kHeight + 5});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{3, 3, 0, 5}));
+  press(rows, {5, 5}, Qt::ShiftModifier);
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{2, 2, 0, 5})) << "from the row pressed first";
+  QTest::mouseRelease(rows, Qt::LeftButton, {}, {5, 5});
+
+  Type("7");
+  press(cols, {2 * 81 + 20, 5});
+  EXPECT_NE(Take().find("change 3 1"), std::string::npos);
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{0, 9, 3, 1}));
+  EXPECT_EQ(editor->CurrentCol(), 3U);
+  QTest::mouseMove(cols, {3 * 81 + 50, 5});
+  EXPECT_TRUE(QTest::qWaitFor([this] { return editor->DisplayLeftCol() == 2; }))
+      << "beyond the headings the mouse scrolls";
+  QTest::mouseRelease(cols, Qt::LeftButton, {}, {3 * 81 + 50, 5});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{0, 9, 3, 2}));
+  QTest::mouseClick(editor->childAt(3, 3), Qt::LeftButton, {}, {3, 3});
+  EXPECT_EQ(editor->Selection(), (TQorCellRange{0, 9, 0, 5})) << "the corner selects all";
 }
 
 TEST_F(GridLayout, ColumnsKeepTheirWidthAndFormatWhenScrolled) {
@@ -262,23 +299,25 @@ TEST_F(GridLayout, KeysReachEveryColumnWhateverHasRoom) {
   expected.append("0 0");
   for (int step = 1; step < 24; ++step) Press(Qt::Key_Left, Qt::ControlModifier);
   EXPECT_EQ(visited.join(", ").toStdString(), expected.join(", ").toStdString());
+  visited.clear();
+  Press(Qt::Key_End, Qt::ControlModifier);
+  Press(Qt::Key_Home, Qt::ControlModifier);
+  EXPECT_EQ(visited.join(", ").toStdString(), "1 11, 0 0");
 }
 
 TEST_F(GridLayout, HugeSizesAreClamped) {
-  for (const auto set : {&TQorMatrixEdit::setCellHeight, &TQorMatrixEdit::setCellWidth}) {
-    (editor->*set)(std::numeric_limits<int>::max());
-  }
-  editor->setColWidth(0, std::numeric_limits<int>::max());
+  constexpr int huge = std::numeric_limits<int>::max();
+  editor->setCellHeight(huge);
+  editor->setCellWidth(huge);
+  editor->setColWidth(0, huge);
   editor->setNoOfRowEdits(255);
-  EXPECT_EQ(editor->CellHeight(), 32'767);
-  EXPECT_EQ(editor->CellWidth(), 32'767);
+  EXPECT_EQ(editor->sizeHint(),
+            QSize(3 * 32'767, 255 * 32'767) + QSize(Bar()->width(), Bar()->width()));
   EXPECT_EQ(editor->ColWidth(0), 32'767);
-  EXPECT_EQ(editor->sizeHint().height(), 255 * 32'767 + AcrossBar()->height());
   editor->setCellWidth(-1);
-  editor->resetColWidth(0);
-  EXPECT_EQ(editor->sizeHint().width(), Bar()->width());
+  EXPECT_EQ(editor->CellWidth(), 0);
   TQorLabelledVectorEdit labelled;
-  labelled.setLabelWidth(std::numeric_limits<int>::max());
+  labelled.setLabelWidth(huge);
   EXPECT_EQ(labelled.LabelWidth(), 32'767);
 }
 

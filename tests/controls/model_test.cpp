@@ -62,8 +62,10 @@ TEST(Models, HoldEveryBitOfAVector) {
             "0.3333333333333333|0|1e+4000|4e-4951|9007199254740992||inf");
   NumberSettings format;
   format.decimal_places = 2;
+  format.grouping = true;
   model.setDisplayFormat(format);
   EXPECT_EQ(model.index(0, 0).data(), "0,33");
+  EXPECT_EQ(model.index(4, 0).data(), "9.007.199.254.740.993,00");
 }
 
 TEST(Models, TakeTextsAndNumbers) {
@@ -297,8 +299,10 @@ class Stubborn : public QStringListModel {
 TYPED_TEST(ModelEdit, RespectsWhatItsModelRefuses) {
   Stubborn model;
   this->Open(&model);
+  QApplication::processEvents();
   EXPECT_EQ(this->editor->NoOfRows(), 6U) << "what is in sight, and whether there is more";
   this->editor->ScrollBottom();
+  QApplication::processEvents();
   EXPECT_EQ(this->editor->NoOfRows(), 7U);
   this->editor->ScrollTop();
   EXPECT_TRUE(this->Cell(0)->QLineEdit::isReadOnly());
@@ -317,10 +321,14 @@ TYPED_TEST(ModelEdit, RespectsWhatItsModelRefuses) {
 TYPED_TEST(ModelEdit, ChangesBlocksAsAWhole) {
   Stubborn refusing;
   this->Open(&refusing);
+  QApplication::processEvents();
   this->FocusEdit(1);
   this->Take();
   EXPECT_FALSE(this->editor->PasteBlock("5\n6\n-1\n"));
   EXPECT_EQ(this->Take().substr(0, 8), "refused ");
+  this->editor->Select({0, 2, 0, 1});
+  EXPECT_FALSE(this->editor->DeleteSelected());
+  EXPECT_NE(this->Take().find("refused Row 1"), std::string::npos) << "it can only be read";
   EXPECT_EQ(this->Texts(), "0.0000|1.0000|2.0000|3.0000");
   EXPECT_FALSE(this->editor->CanUndo());
 
@@ -370,17 +378,19 @@ TEST(Models, AreSharedByViewsAndMappers) {
   QWidget form;
   auto* const layout = new QVBoxLayout(&form);
   auto* const table = new QTableView;
-  auto* const column = new TQorVectorEdit;
+  auto* const column = new TQorLabelledVectorEdit;
   auto* const matrix = new TQorMatrixFractEdit;
-  auto* const field = new QLineEdit;
+  auto* const field = new TQorFloatEdit;
   for (QWidget* widget : {static_cast<QWidget*>(table), static_cast<QWidget*>(column),
                           static_cast<QWidget*>(matrix), static_cast<QWidget*>(field)}) {
     layout->addWidget(widget);
   }
   table->setModel(&model);
   column->setModelColumn(1);
+  column->setLabelType(TQorLabelledVectorEdit::ltSupplied);
   column->setModel(&model);
   matrix->setModel(&model);
+  EXPECT_EQ(column->Label(2), "3");
   QDataWidgetMapper mapper;
   mapper.setModel(&model);
   mapper.addMapping(field, 1);
@@ -402,11 +412,17 @@ TEST(Models, AreSharedByViewsAndMappers) {
   column->setEditFocus(1);
   QTest::keyClicks(QApplication::focusWidget(), "0.7");
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-  EXPECT_EQ(field->text(), "0.7");
-  field->setText("8");
+  EXPECT_EQ(field->Value(), 0.7L);
+  field->setValue(1 / 3.0L);
   EXPECT_TRUE(mapper.submit());
-  EXPECT_EQ(column->Element(1), 8);
-  model.removeColumns(0, 1);
+  EXPECT_EQ(column->Element(1), 1 / 3.0L);
+  // What is typed goes with its column, which is not the one that is shown now.
+  column->setEditFocus(2);
+  QTest::keyClicks(QApplication::focusWidget(), "9");
+  model.insertColumns(0, 1);
+  EXPECT_EQ(Column(model, Qt::EditRole, 2), "0.1|0.33333333333333333334|9");
+  EXPECT_EQ(Column(model, Qt::EditRole, 1), "1|3|5");
+  model.removeColumns(0, 2);
   EXPECT_EQ(matrix->NoOfCols(), 1U);
   EXPECT_TRUE(std::isnan(column->Element(1))) << "its column is gone";
 }

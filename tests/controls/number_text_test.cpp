@@ -131,6 +131,20 @@ TEST(NumberText, ReadsNumbersOfOtherPlacesOrSaysWhyNot) {
   }
 }
 
+// Whatever groups a number is shown with, it is read back, and never as another one.
+TEST(NumberText, ReadsTheGroupsThatAreShown) {
+  for (const char* name : kLocales) {
+    const QLocale locale = Locale(name);
+    for (const char* plain :
+         {"0", "-999", "1234", "-12345.5", "1234567", "123456789.25", "1234e9"}) {
+      const QString text = WithGroups(LocalNumber(plain, locale), locale);
+      const Extended value = Str2Float(plain);
+      EXPECT_EQ(ReadNumber(text, locale, true).value, value) << name << ' ' << text.toStdString();
+      EXPECT_EQ(ReadExpression(text, locale).value.value_or(value), value) << name;
+    }
+  }
+}
+
 TEST(NumberText, ReadsExpressions) {
   const QLocale en = Locale("en");
   const std::pair<const char*, Extended> values[] = {

@@ -126,6 +126,7 @@ SeparatorReadings ReadSeparators(const QString& text, const QLocale& locale) {
   SeparatorReadings readings;
   const uint last = mantissa.Separator(count - 1);
   readings.two_kinds = last != mantissa.Separator(0);
+  readings.is_local_group = contains(locale.groupSeparator(), last);
   if (mantissa.HasGroups(count, mantissa.end)) {
     readings.groups = mantissa.Without(count, QString());
   }

@@ -21,6 +21,8 @@ struct SeparatorReadings {
   QString decimals;
   /// There are two different separators.
   bool two_kinds = false;
+  /// The last one is the group separator of the locale.
+  bool is_local_group = false;
 };
 
 /// Points, commas, and the locale's own separators may be any separator; no-break spaces, thin

@@ -16,12 +16,20 @@ CellReading Refused(const char* sentence, const QString& text) {
   return {{}, QCoreApplication::translate("TQorCustomEdit", sentence).arg(text)};
 }
 
-CellReading ReadScaled(const QString& text, const QLocale& locale, int power) {
+// How a text is read.
+struct Notation {
+  const QLocale& locale;
+  bool shows_groups;
+};
+
+CellReading ReadScaled(const QString& text, const Notation& notation, int power) {
+  const QLocale& locale = notation.locale;
   if (const auto value = ParseLocalNumber(text, locale, power)) return {value, {}};
   const SeparatorReadings readings = ReadSeparators(text, locale);
   const auto groups = ParseLocalNumber(readings.groups, locale, power);
   const auto decimals = ParseLocalNumber(readings.decimals, locale, power);
-  if (groups && decimals) {
+  const bool as_shown = notation.shows_groups && readings.is_local_group;
+  if (groups && decimals && !as_shown) {
     return {{},
             QCoreApplication::translate("TQorCustomEdit", "\"%1\" may mean %2 or %3.",
                                         "a text and two numbers")
@@ -36,18 +44,18 @@ CellReading ReadScaled(const QString& text, const QLocale& locale, int power) {
               .arg(text.trimmed(), locale.decimalPoint())};
 }
 
-CellReading ReadOperand(const QString& text, const QLocale& locale) {
+CellReading ReadOperand(const QString& text, const Notation& notation) {
   QString number = text.trimmed();
-  for (const QString& percent : {QStringLiteral("%"), locale.percent()}) {
+  for (const QString& percent : {QStringLiteral("%"), notation.locale.percent()}) {
     if (!number.endsWith(percent)) continue;
     number.chop(percent.size());
-    return ReadScaled(number, locale, kPercent);
+    return ReadScaled(number, notation, kPercent);
   }
-  return ReadScaled(number, locale, 0);
+  return ReadScaled(number, notation, 0);
 }
 
 // Products and quotients of operands.
-CellReading ReadProduct(const QString& text, const QLocale& locale) {
+CellReading ReadProduct(const QString& text, const Notation& notation) {
   Extended result = 1;
   int divisions = 0;
   QChar operation = u'*';
@@ -56,7 +64,7 @@ CellReading ReadProduct(const QString& text, const QLocale& locale) {
     while (to < text.size() && text[to] != u'*' && text[to] != u'/') ++to;
     const QString operand = text.mid(from, to - from);
     if (operand.trimmed().isEmpty()) return NotANumber(text);
-    const CellReading reading = ReadOperand(operand, locale);
+    const CellReading reading = ReadOperand(operand, notation);
     if (!reading.value) return reading;
     if (operation == u'*') {
       result *= *reading.value;
@@ -82,15 +90,16 @@ CellReading NotANumber(const QString& text) {
   return Refused(QT_TRANSLATE_NOOP("TQorCustomEdit", "\"%1\" is not a number."), text.trimmed());
 }
 
-CellReading ReadNumber(const QString& text, const QLocale& locale) {
-  return ReadScaled(text, locale, 0);
+CellReading ReadNumber(const QString& text, const QLocale& locale, bool shows_groups) {
+  return ReadScaled(text, {locale, shows_groups}, 0);
 }
 
-CellReading ReadExpression(const QString& text, const QLocale& locale) {
+CellReading ReadExpression(const QString& text, const QLocale& locale, bool shows_groups) {
+  const Notation notation{locale, shows_groups};
   const QString trimmed = text.trimmed();
-  if (!trimmed.startsWith(u'(')) return ReadProduct(trimmed, locale);
+  if (!trimmed.startsWith(u'(')) return ReadProduct(trimmed, notation);
   if (!trimmed.endsWith(u')')) return NotANumber(text);
-  const CellReading inside = ReadProduct(trimmed.mid(1, trimmed.size() - 2), locale);
+  const CellReading inside = ReadProduct(trimmed.mid(1, trimmed.size() - 2), notation);
   if (!inside.value) return inside;
   // The parentheses stand for a minus sign already.
   if (std::signbit(*inside.value)) return NotANumber(text);

@@ -13,6 +13,11 @@
         <translation>%1: %2 Der Wert bleibt.</translation>
     </message>
     <message>
+        <source>%1 cannot be changed.</source>
+        <comment>name of a cell</comment>
+        <translation>%1 lässt sich nicht ändern.</translation>
+    </message>
+    <message>
         <source>%1: &quot;%2&quot; cannot be stored.</source>
         <comment>name of a cell, its text</comment>
         <translation>%1: „%2“ lässt sich nicht speichern.</translation>
@@ -66,12 +71,12 @@
         <translation>Alle Werte kopieren</translation>
     </message>
     <message>
-        <source>Undo Last Change</source>
-        <translation>Letzte Änderung rückgängig machen</translation>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
     </message>
     <message>
-        <source>Redo Last Change</source>
-        <translation>Letzte Änderung wiederherstellen</translation>
+        <source>Redo</source>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>The block does not fit. Its rows: %1, rows from here on: %2.</source>

@@ -4,6 +4,7 @@
 
 #include "qorvex/base/fitted_text.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base_controls/detail/digit_groups.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/controls/detail/model_number.h"
 #include "qorvex/vector/detail/sort_keys.h"
@@ -11,6 +12,9 @@
 namespace qorvex::inline QorvexControls {
 
 namespace {
+
+using QorvexBaseControls::detail::LocalNumber;
+using QorvexBaseControls::detail::WithGroups;
 
 QString ShortestText(Extended value) {
   return QString::fromStdString(Float2Str(value));
@@ -54,7 +58,8 @@ QVariant TQorCustomModel::data(const QModelIndex& index, int role) const {
 
 QVariant TQorCustomModel::Display(Extended value) const {
   if (format_) {
-    return QorvexBaseControls::detail::LocalNumber(FloatText(value, format_->Digits()), locale_);
+    const QString text = LocalNumber(FloatText(value, format_->Digits()), locale_);
+    return format_->grouping ? WithGroups(text, locale_) : text;
   }
   const auto nearest = static_cast<double>(value);
   if (value == 0 || std::isinf(value) || std::isnormal(nearest)) return nearest;

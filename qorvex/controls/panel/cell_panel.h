@@ -443,6 +443,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void CountChanged();
   void DragColWidth(quint32 col, int width);
   void FitColWidth(quint32 col, int heading_width);
+  void FocusFromHeading(quint32 row_edit, quint32 col_edit, bool extend);
   [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;

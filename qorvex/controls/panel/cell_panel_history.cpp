@@ -9,6 +9,7 @@
 #include <stdexcept>
 
 #include "qorvex/base/errors.h"
+#include "qorvex/controls/panel/detail/menu_entry.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
@@ -175,23 +176,26 @@ void CellPanel::DeleteSelectedLines() {
 }
 
 void CellPanel::AddHistoryToMenu(QMenu& menu) {
-  menu.addAction(QCoreApplication::translate("CellPanel", "Undo Last Change"), this,
-                 &CellPanel::Undo)
-      ->setEnabled(CanUndo());
-  menu.addAction(QCoreApplication::translate("CellPanel", "Redo Last Change"), this,
-                 &CellPanel::Redo)
-      ->setEnabled(CanRedo());
-  const auto add = [&](CellAxis axis, bool insert, const QString& text) {
-    menu.addAction(text, this, [=, this] { ChangeSelectedLines(axis, insert); });
+  const auto add = [&](const QString& text, const char* keys, bool enabled, auto function) {
+    connect(detail::AddEntry(menu, text, keys, enabled), &QAction::triggered, this, function);
   };
-  if (MayGrow(CellAxis::kRows)) {
+  // A text that is being edited has its own entries.
+  if (!parts_->focus.Editing()) {
     menu.addSeparator();
-    add(CellAxis::kRows, true, TextOf(CellAxis::kRows, true));
-    add(CellAxis::kRows, false, TextOf(CellAxis::kRows, false));
+    add(QCoreApplication::translate("CellPanel", "Undo"), "Ctrl+Z", CanUndo(), &CellPanel::Undo);
+    add(QCoreApplication::translate("CellPanel", "Redo"), "Ctrl+Y", CanRedo(), &CellPanel::Redo);
   }
-  if (MayGrow(CellAxis::kCols)) {
-    add(CellAxis::kCols, true, TextOf(CellAxis::kCols, true));
-    add(CellAxis::kCols, false, TextOf(CellAxis::kCols, false));
+  menu.addSeparator();
+  const TQorCellRange block = Selection();
+  for (const CellAxis axis : {CellAxis::kRows, CellAxis::kCols}) {
+    if (!MayGrow(axis)) continue;
+    const bool keys = axis == AxisOfSelection();
+    const bool exists =
+        axis == CellAxis::kRows ? block.row < table_.RowCount() : block.col < table_.ColCount();
+    add(TextOf(axis, true), keys ? "Ctrl++" : "", true,
+        [this, axis] { ChangeSelectedLines(axis, true); });
+    add(TextOf(axis, false), keys ? "Ctrl+-" : "", exists,
+        [this, axis] { ChangeSelectedLines(axis, false); });
   }
 }
 

@@ -203,25 +203,31 @@ void CellPanel::FitColWidth(quint32 col, int heading_width) {
   DragColWidth(col, std::max(heading_width, parts_->grid.FittingWidth(col - Cols().Top())));
 }
 
+// A heading takes no focus: the keys that follow are for the cells, and what is typed for one that
+// is selected.
+void CellPanel::FocusFromHeading(quint32 row_edit, quint32 col_edit, bool extend) {
+  parts_->focus.CommitPending();
+  parts_->focus.SetEditing(false);
+  if (extend && parts_->focus.Entered() != nullptr) return;
+  using Hold = detail::PanelSelection::Hold;
+  const Hold hold(parts_->selection, Hold::Entry::kKeeps);
+  parts_->focus.FocusCell(row_edit, col_edit);
+}
+
 detail::PanelHeadingEvents CellPanel::HeadingEvents() {
-  // A heading takes no focus: the keys that follow are for the cells.
-  const auto enter = [this] {
-    parts_->focus.CommitPending();
-    if (parts_->focus.Entered() == nullptr) setFocus(Qt::OtherFocusReason);
-  };
   return {.select_row =
-              [this, enter](quint32 row, bool extend) {
-                enter();
+              [this](quint32 row, bool extend) {
+                FocusFromHeading(row - Rows().Top(), 0, extend);
                 extend ? parts_->selection.ExtendRows(row) : parts_->selection.SelectRows(row, row);
               },
           .select_col =
-              [this, enter](quint32 col, bool extend) {
-                enter();
+              [this](quint32 col, bool extend) {
+                FocusFromHeading(0, col - Cols().Top(), extend);
                 extend ? parts_->selection.ExtendCols(col) : parts_->selection.SelectCols(col, col);
               },
           .select_all =
-              [this, enter] {
-                enter();
+              [this] {
+                FocusFromHeading(Rows().Focus(), Cols().Focus(), true);
                 SelectAll();
               },
           .selection = [this] { return Selection(); },

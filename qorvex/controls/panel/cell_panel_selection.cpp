@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "qorvex/controls/panel/detail/block_clipboard.h"
+#include "qorvex/controls/panel/detail/menu_entry.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
@@ -105,12 +106,7 @@ bool CellPanel::ChangeBlock(const QString& step, const BlockPlan& plan) {
   if (!RequireChangeable()) return false;
   const TQorCellRange selection = Selection();
   detail::BlockChanges block = plan(selection);
-  if (std::ranges::any_of(block.changes, [this](const detail::ElementChange& change) {
-        return change.row < table_.RowCount() && change.col < table_.ColCount() &&
-               table_.IsReadOnly(change.row, change.col);
-      })) {
-    block.refusal = detail::NotChangeable();
-  }
+  detail::RefuseReadOnly(table_, block);
   if (block.refusal.isEmpty()) {
     if (block.changes.empty() && block.lines.empty()) return true;
     try {
@@ -177,10 +173,7 @@ void CellPanel::AddSelectionToMenu(QMenu* menu) {
   menu->clear();
   const auto add = [this, menu](const QString& text, const char* keys, bool enabled,
                                 auto function) {
-    const QString shown = QKeySequence(QLatin1String(keys)).toString(QKeySequence::NativeText);
-    QAction* const action = menu->addAction(text + QLatin1Char('\t') + shown);
-    action->setEnabled(enabled);
-    connect(action, &QAction::triggered, this, function);
+    connect(detail::AddEntry(*menu, text, keys, enabled), &QAction::triggered, this, function);
   };
   const CellSettings settings = EffectiveSettings();
   const bool changes = !settings.read_only;

@@ -44,6 +44,17 @@ bool HasFewEnough(quint64 values, BlockChanges& result) {
   return false;
 }
 
+void RefuseReadOnly(const CellTable& table, BlockChanges& result) {
+  for (const auto& [row, col, value] : result.changes) {
+    const bool exists = row < table.RowCount() && col < table.ColCount();
+    if (!exists || !table.IsReadOnly(row, col)) continue;
+    result.refusal =
+        QCoreApplication::translate("CellPanel", "%1 cannot be changed.", "name of a cell")
+            .arg(table.CellName(row, col));
+    return;
+  }
+}
+
 BlockChanges PlanDelete(const CellTable& table, const TQorCellRange& range) {
   return PlanEach(table, range,
                   [](quint32, quint32) { return std::numeric_limits<Extended>::quiet_NaN(); });

@@ -33,6 +33,9 @@ void AddChange(Extended before, const ElementChange& change, ElementChanges& cha
 /// Refuses more elements than can be changed at once; true if there are not.
 [[nodiscard]] bool HasFewEnough(quint64 values, BlockChanges& result);
 
+/// Refuses a change of an element that cannot be changed.
+void RefuseReadOnly(const CellTable& table, BlockChanges& result);
+
 /// Makes the elements of a range null that the table has. O(elements).
 [[nodiscard]] BlockChanges PlanDelete(const CellTable& table, const TQorCellRange& range);
 

@@ -57,7 +57,8 @@ BlockChanges PlanPaste(const CellTable& table, const TQorCustomEdit* cell, const
   const TextBlock block = ParseBlock(text.toStdString());
   if (block.empty()) return {};
   const std::size_t rows = block.size();
-  const std::size_t cols = std::ranges::max(block, {}, &std::vector<std::string>::size).size();
+  std::size_t cols = 0;
+  for (const auto& row : block) cols = std::max(cols, row.size());
   const std::size_t room_below = cell ? RoomFrom(target.row, table.RowCount(), growth.rows) : 0;
   const std::size_t room_beside = RoomFrom(target.col, table.ColCount(), growth.cols);
   if (rows > room_below || !cell) return {{}, {}, TooManyRows(rows, room_below)};

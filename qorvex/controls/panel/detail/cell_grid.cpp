@@ -273,7 +273,8 @@ void CellGrid::Arrange() const {
   for (quint32 col = 0; col < cols_.Edits(); ++col) above.push_back(geometry_.Above(col));
   for (std::size_t r = 0; r < cells_.size(); ++r) {
     const QRect in_front = geometry_.InFrontOf(static_cast<quint32>(r));
-    for (std::size_t c = 0; c < cells_[r].size(); ++c) {
+    // The window may already have fewer columns than there are cells.
+    for (std::size_t c = 0; c < std::min(cells_[r].size(), above.size()); ++c) {
       cells_[r][c]->setGeometry(
           geometry_.Placed({above[c].x(), in_front.y(), above[c].width(), in_front.height()}));
     }

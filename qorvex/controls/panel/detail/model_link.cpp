@@ -1,6 +1,7 @@
 #include "qorvex/controls/panel/detail/model_link.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <utility>
 
@@ -10,6 +11,7 @@ namespace qorvex::inline QorvexControls::detail {
 
 namespace {
 
+constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
 constexpr quint32 kMaxCount = std::numeric_limits<int>::max();
 
 quint32 CountFrom(int first, int count) {
@@ -90,8 +92,7 @@ quint32 ModelLink::Count(CellAxis axis) const {
 
 Extended ModelLink::Value(quint32 row, quint32 col) const {
   // An index that does not exist has no data, which is null.
-  return NumberOf(Index(row, col).data(Qt::EditRole), owner_.locale())
-      .value_or(std::numeric_limits<Extended>::quiet_NaN());
+  return NumberOf(Index(row, col).data(Qt::EditRole), owner_.locale()).value_or(kNull);
 }
 
 bool ModelLink::Store(quint32 row, quint32 col, Extended value) {
@@ -110,11 +111,18 @@ QString ModelLink::Heading(CellAxis axis, quint32 line) const {
       .toString();
 }
 
-bool ModelLink::InsertLines(CellAxis axis, quint32 first, quint32 count) {
+bool ModelLink::InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) {
   if (quint64{Count(axis)} + static_cast<quint32>(First(axis)) + count > kMaxCount) return false;
   const int at = First(axis) + static_cast<int>(first);
   const int lines = static_cast<int>(count);
-  return axis == CellAxis::kRows ? model_->insertRows(at, lines) : model_->insertColumns(at, lines);
+  const bool rows = axis == CellAxis::kRows;
+  if (!(rows ? model_->insertRows(at, lines) : model_->insertColumns(at, lines))) return false;
+  if (std::isnan(value)) return true;
+  const quint32 across = Count(rows ? CellAxis::kCols : CellAxis::kRows);
+  for (quint32 line = first; line < first + count; ++line) {
+    for (quint32 i = 0; i < across; ++i) rows ? Store(line, i, value) : Store(i, line, value);
+  }
+  return true;
 }
 
 bool ModelLink::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
@@ -125,15 +133,21 @@ bool ModelLink::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
 
 bool ModelLink::SetCount(CellAxis axis, quint32 count) {
   const quint32 now = Count(axis);
-  if (count > now) return InsertLines(axis, now, count - now);
+  if (count > now) return InsertLines(axis, now, count - now, kNull);
   return count == now || RemoveLines(axis, count, now - count);
 }
 
 void ModelLink::FetchRow(quint32 row) {
-  if (!model_) return;
-  for (quint32 rows = Count(CellAxis::kRows); rows <= row && model_->canFetchMore({});) {
-    model_->fetchMore({});
-    if (std::exchange(rows, Count(CellAxis::kRows)) == rows) return;
+  if (!model_ || row < Count(CellAxis::kRows) || !model_->canFetchMore({})) return;
+  // Later, since the model may be telling of a change, which the next one must not overtake.
+  if (!std::exchange(fetches_, true)) {
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          fetches_ = false;
+          if (model_) model_->fetchMore({});
+        },
+        Qt::QueuedConnection);
   }
 }
 
@@ -154,7 +168,7 @@ void ModelLink::HoldTyped() {
 void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
                         const QList<int>& roles) const {
   if (first.parent().isValid() || last.column() < first_col_) return;
-  if (!roles.isEmpty() && !roles.contains(Qt::EditRole)) return;
+  if (!roles.isEmpty() && !roles.contains(Qt::EditRole) && !roles.contains(Qt::DisplayRole)) return;
   const int first_col = std::max(first.column(), first_col_);
   owner_.changed({static_cast<quint32>(first.row()), CountFrom(first.row(), last.row() + 1),
                   static_cast<quint32>(first_col - first_col_),

@@ -62,7 +62,7 @@ class ModelLink : public QObject {
   /// The value of an item; null if it is not a number or does not exist.
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const;
   /// False if the model refuses the value.
-  [[nodiscard]] bool Store(quint32 row, quint32 col, Extended value);
+  bool Store(quint32 row, quint32 col, Extended value);
   /// Whether the model does not let the user change the item.
   [[nodiscard]] bool IsReadOnly(quint32 row, quint32 col) const;
 
@@ -71,12 +71,13 @@ class ModelLink : public QObject {
 
   /// @{
   /// Insert or remove rows or columns, or do so at the end until there are as many as given. False
-  /// if the model refuses.
-  bool InsertLines(CellAxis axis, quint32 first, quint32 count);
+  /// if the model refuses. New elements are as the model makes them, or have a value that is not
+  /// null.
+  bool InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value);
   bool RemoveLines(CellAxis axis, quint32 first, quint32 count);
   bool SetCount(CellAxis axis, quint32 count);
   /// @}
-  /// Models that fetch their rows step by step are asked for more until the row exists.
+  /// Models that fetch their rows step by step are asked for more as long as the row is missing.
   void FetchRow(quint32 row);
 
   /// Follows the elements of changes; an empty function without a model.
@@ -114,6 +115,8 @@ class ModelLink : public QObject {
   Owner owner_;
   QPointer<QAbstractItemModel> model_;
   int first_col_ = 0;
+  // It is going to be asked for more rows.
+  bool fetches_ = false;
   // The element whose text is being typed, while the model moves elements.
   std::optional<Element> typed_;
 };

@@ -27,6 +27,7 @@ void PanelFocus::Enter(TextCell& text, CellPlace place, bool in_header) {
   // A cell that lost the focus while the window was inactive has not noticed.
   if (entered_ != nullptr && entered_ != &text) entered_->Leave();
   entered_ = &text;
+  SetEditing(false);
   rows_.Window().Enter(place.row);
   cols_.Window().Enter(place.col);
   Lead();
@@ -36,9 +37,14 @@ void PanelFocus::Leave(const TextCell& text) {
   if (entered_ == &text) entered_ = nullptr;
 }
 
+void PanelFocus::SetEditing(bool editing) {
+  editing_ = editing;
+  if (entered_ != nullptr && !in_header_) entered_->SetEditing(editing);
+}
+
 void PanelFocus::CommitPending() {
   if (entered_ != nullptr) entered_->CommitOrRestore();
-  editing_ = false;
+  SetEditing(false);
 }
 
 bool PanelFocus::KeysBelongToText() const {
@@ -47,7 +53,7 @@ bool PanelFocus::KeysBelongToText() const {
 
 bool PanelFocus::CommitToLeave() {
   if (entered_ != nullptr && !entered_->CommitOrRefuse()) return false;
-  editing_ = false;
+  SetEditing(false);
   return true;
 }
 

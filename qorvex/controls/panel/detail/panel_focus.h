@@ -35,7 +35,7 @@ class PanelFocus {
   /// Whether the keys of a text belong to the entered one: from the first typed character, F2 or a
   /// double click until it is committed, restored or left.
   [[nodiscard]] bool Editing() const noexcept { return editing_ && entered_ != nullptr; }
-  void SetEditing(bool editing) { editing_ = editing; }
+  void SetEditing(bool editing);
   /// @}
   /// Whether keys belong to the entered text: it is being edited, or it is a text of the header
   /// that can be.
