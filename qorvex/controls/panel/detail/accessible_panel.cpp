@@ -96,7 +96,9 @@ QString AccessiblePanel::Text(const AccessiblePlace& place) const {
     case Kind::kElement:
       break;
   }
-  return parts.grid.TextFor(place.col, parts.table.Value(place.row, place.col));
+  const Extended value = parts.table.Value(place.row, place.col);
+  // Asking for it may have taken the cells away.
+  return parts.grid.IsEmpty() ? QString() : parts.grid.TextFor(place.col, value);
 }
 
 TextCell* AccessiblePanel::CellInSight(const AccessiblePlace& place) const {
