@@ -51,6 +51,7 @@ std::unique_ptr<QWidget> Models() {
   auto* const editor = new TQorMatrixEdit;
   editor->setNoOfRowEdits(6);
   editor->setNoOfColEdits(2);
+  editor->setCellWidth(92);
   editor->setDecimalPlaces(1);
   editor->setRowHeadings(true);
   editor->setColHeadings(true);
@@ -59,7 +60,7 @@ std::unique_ptr<QWidget> Models() {
   table->setModel(model);
   table->horizontalHeader()->setDefaultSectionSize(76);
   table->verticalHeader()->setDefaultSectionSize(21);
-  table->setFixedSize(270, editor->sizeHint().height());
+  table->setFixedSize(256, editor->sizeHint().height());
   auto* const prominences = new TQorLabelledVectorEdit;
   prominences->setNoOfEdits(6);
   prominences->setDecimalPlaces(1);

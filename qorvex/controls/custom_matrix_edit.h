@@ -61,7 +61,7 @@ using TQorSpecialColorEvent =
 using TQorGetHeadingEvent = std::function<QString(quint32 row_or_col)>;
 
 /// A grid of cells that shows and edits a matrix of any size. See CellPanel for keys, pasting and
-/// undo. Ctrl+Left and Ctrl+Right move along a row as Ctrl+Up and Ctrl+Down move along a column; at
+/// undo. Left and Right move along a row as Up and Down move along a column; at
 /// the end of a row or column they continue in the next one.
 ///
 /// The matrix is stored here. In virtual mode the program stores it: OnGetElement supplies each

@@ -3,8 +3,10 @@
 #include <QAccessible>
 #include <QFormLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QSignalSpy>
 #include <limits>
+#include <memory>
 #include <string>
 
 #include "controls/editor_fixture.h"
@@ -198,6 +200,7 @@ TEST_F(AccessibleMatrix, CountsInIntEvenIfItIsLarger) {
   QAccessibleInterface* const last = Interface(Cell(0));
   EXPECT_EQ(last->parent(), Panel());
   EXPECT_EQ(Panel()->indexOfChild(last), -1);
+  EXPECT_EQ(last->tableCellInterface()->rowIndex(), -1);
   EXPECT_EQ(Panel()->childAt(last->rect().x() + 1, last->rect().y() + 1), last);
   EXPECT_EQ(Read(last, QAccessible::Name), "Row 3999999997, column 1");
 }
@@ -234,6 +237,23 @@ TEST_F(AccessibleMatrix, HasHeadingsAndFormatsOfColumns) {
   EXPECT_EQ(cell->columnHeaderCells(), QList{Panel()->child(83)});
   const QPoint place = Panel()->child(83)->rect().center();
   EXPECT_EQ(Panel()->childAt(place.x(), place.y()), Panel()->child(83));
+}
+
+TEST_F(AccessibleMatrix, ReachesTheCornerByTheMenuIfItHasAMeaning) {
+  editor->setMatrix({{1}});
+  const auto entry = [this] {
+    const std::unique_ptr<QMenu> menu(Cell(0)->CreateContextMenu());
+    for (QAction* const action : menu->actions()) {
+      if (action->text() != "Corner Button") continue;
+      action->trigger();
+      return true;
+    }
+    return false;
+  };
+  EXPECT_FALSE(entry());
+  const QSignalSpy clicked(editor, &TQorMatrixEdit::OnCornerBtnClick);
+  EXPECT_TRUE(entry());
+  EXPECT_EQ(clicked.count(), 1);
 }
 
 struct AccessibleLabels : AccessibleEditors<TQorLabelledVectorEdit> {};

@@ -321,6 +321,21 @@ TEST_F(LabelSelection, TakesWholeRowsByTheirLabels) {
   EXPECT_EQ(Selected(), "0+3 0+1");
   QTest::mouseRelease(label(2), Qt::LeftButton);
 
+  // The spare row alone is not an element, and is in no range.
+  editor->setCanGrow(true);
+  editor->ScrollBottom();
+  QTest::mouseClick(Cell(3), Qt::LeftButton);
+  EXPECT_EQ(Selected(), "9+1 0+1");
+  Press(Qt::Key_Delete);
+  EXPECT_TRUE(editor->PasteBlock("10"));
+  EXPECT_EQ(editor->Element(9), 10);
+  EXPECT_EQ(editor->Element(8), 8);
+  Press(Qt::Key_A, kCtrl);
+  EXPECT_EQ(Selected(), "0+10 0+1");
+  editor->setNoOfRows(9);
+  editor->setCanGrow(false);
+  editor->ScrollTop();
+
   // A label that can be typed keeps its keys.
   editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
   editor->setLabel(1, "two");

@@ -17,13 +17,13 @@ QORVEX_WIDGET_UNIT(QorvexControls) {
 /// A table of 80-bit values for Qt's views, proxies, mappers and charts. Several views, and any
 /// number of editors with setModel, can share it.
 ///
-/// | role | an element | null |
-/// |---|---|---|
-/// | EditRole | the shortest decimal text from which the same 80 bits are read | no value |
-/// | DisplayRole | the nearest double, which views write in their locale; the text of EditRole
-/// where the range of doubles ends; with DisplayFormat a text | no value | | SortRole | a text that
-/// sorts as the elements do, to the last bit | no value | | TextAlignmentRole | right, or as
-/// DisplayFormat says | the same |
+/// - EditRole is the shortest decimal text from which the same 80 bits are read.
+/// - DisplayRole is the nearest double, which views write in their locale, proxies sort and charts
+///   draw; where the range of doubles ends, it is the text of EditRole. With a DisplayFormat it is
+///   a text.
+/// - SortRole is a text that sorts as the elements do, to the last bit.
+/// - In these roles null is a variant without a value.
+/// - TextAlignmentRole is right, or as in DisplayFormat.
 ///
 /// setData takes the roles EditRole and DisplayRole: numbers of any type, plain decimal texts, and
 /// texts in the locale of the model. A blank text or a variant without a value makes the element

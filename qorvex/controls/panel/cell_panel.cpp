@@ -63,6 +63,8 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
     return parts_->typed_place ? parts_->typed_place->col : Cols().Top() + place.col;
   };
   connect(&cell, &TQorCustomEdit::Entered, this, [=, this, &cell] {
+    // A text that was typed in another cell is committed now.
+    parts_->typed_place.reset();
     parts_->focus.Enter(cell, place, false);
     parts_->selection.Entered(cell.EnteredByMouse());
     table_.Notify(CellEvent::kEnter, row(), col());

@@ -255,7 +255,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   ///
   /// New elements are null if AllowKbdNull is set, otherwise 0. The spare row does not count as a
   /// row, but it can be the current one: events of cells then name the row after the last. There is
-  /// none while the editor is read-only, nor in virtual mode unless OnInsertRows is handled.
+  /// none while the editor is read-only, nor in virtual mode without a model unless OnInsertRows is
+  /// handled.
   [[nodiscard]] bool CanGrow() const noexcept { return can_grow_; }
   void setCanGrow(bool grow);
   void resetCanGrow() { setCanGrow(false); }
@@ -264,8 +265,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @{
   /// Inserts rows before the given one, or after the last one; deletes rows. One step of undo. New
   /// elements are null if AllowKbdNull is set, otherwise 0. In virtual mode they only raise
-  /// OnInsertRows and OnDeleteRows. EMathError with rsInvalidRow if there is no such row;
-  /// std::length_error for more than 2^32 - 1 rows. O(elements).
+  /// OnInsertRows and OnDeleteRows, and a model decides itself. EMathError with rsInvalidRow if
+  /// there is no such row; std::length_error for more than 2^32 - 1 rows. O(elements).
   void InsertRows(quint32 row, quint32 count);
   void DeleteRows(quint32 row, quint32 count);
   /// @}

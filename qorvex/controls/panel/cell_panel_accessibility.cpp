@@ -3,6 +3,7 @@
 #include <QAccessible>
 #include <QCoreApplication>
 
+#include "qorvex/controls/panel/detail/accessible_panel.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
@@ -22,8 +23,16 @@ void CellPanel::AnnounceSize() {
 
 void CellPanel::AnnounceSelection() {
   if (!QAccessible::isActive()) return;
-  QAccessibleEvent event(this, QAccessible::SelectionWithin);
-  QAccessible::updateAccessibility(&event);
+  QAccessibleEvent within(this, QAccessible::SelectionWithin);
+  QAccessible::updateAccessibility(&within);
+  // Not every platform passes that on. Qt's own views tell of one cell.
+  const detail::ElementPlace end = parts_->selection.End();
+  const auto* const table = detail::AccessiblePanel::Of(this);
+  QAccessibleInterface* const cell =
+      table == nullptr ? nullptr : table->Cell({.row = end.row, .col = end.col});
+  if (cell == nullptr) return;
+  QAccessibleEvent added(cell, QAccessible::SelectionAdd);
+  QAccessible::updateAccessibility(&added);
 }
 
 }  // namespace qorvex::inline QorvexControls

@@ -6,6 +6,15 @@ namespace qorvex::inline QorvexControls::detail {
 
 using Kind = AccessiblePlace::Kind;
 
+namespace {
+
+// -1 stands for an index that is not known.
+int Index(quint32 index) {
+  return index <= quint32{kLargestInt} ? static_cast<int>(index) : -1;
+}
+
+}  // namespace
+
 bool AccessibleTableCell::isSelected() const {
   const auto place = Place();
   return place && Table()->IsSelected(*place);
@@ -25,12 +34,12 @@ QList<QAccessibleInterface*> AccessibleTableCell::rowHeaderCells() const {
 
 int AccessibleTableCell::columnIndex() const {
   const auto place = Place();
-  return place && place->kind != Kind::kRowHeading ? static_cast<int>(place->col) : -1;
+  return place && place->kind != Kind::kRowHeading ? Index(place->col) : -1;
 }
 
 int AccessibleTableCell::rowIndex() const {
   const auto place = Place();
-  return place && place->kind != Kind::kColHeading ? static_cast<int>(place->row) : -1;
+  return place && place->kind != Kind::kColHeading ? Index(place->row) : -1;
 }
 
 QAccessibleInterface* AccessibleTableCell::table() const {

@@ -6,6 +6,8 @@
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QString>
+#include <algorithm>
+#include <limits>
 #include <map>
 #include <optional>
 
@@ -16,6 +18,13 @@ namespace qorvex::inline QorvexControls::detail {
 
 struct PanelParts;
 
+/// Qt counts in int.
+inline constexpr int kLargestInt = std::numeric_limits<int>::max();
+/// A count or a number, or the largest int.
+inline int AsInt(quint64 count) {
+  return static_cast<int>(std::min<quint64>(count, kLargestInt));
+}
+
 /// Makes every CellPanel a table to screen readers, and its cells the cells of that table. Further
 /// calls do nothing.
 void RegisterAccessiblePanels();
@@ -24,7 +33,7 @@ void RegisterAccessiblePanels();
 /// others are made when they are asked for, and deleted with the table or when its size changes.
 ///
 /// Its children are the elements, row by row, then the headings of the rows and of the columns.
-/// Qt counts in int: what lies beyond cannot be reached until it is in sight. The scroll bars are
+/// What lies beyond the largest int cannot be reached until it is in sight. The scroll bars are
 /// no children, because those of a table must be its cells, but relations lead to them.
 class AccessiblePanel : public QAccessibleWidget, public QAccessibleTableInterface {
  public:

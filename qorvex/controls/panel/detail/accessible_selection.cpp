@@ -1,7 +1,6 @@
 // The size and the selection of a table for screen readers.
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 
 #include "qorvex/controls/panel/detail/accessible_panel.h"
@@ -15,25 +14,20 @@ namespace {
 // first few.
 constexpr quint32 kMaxListed = 1000;
 
-int Clamped(quint64 count) {
-  constexpr quint64 most = std::numeric_limits<int>::max();
-  return static_cast<int>(std::min(count, most));
-}
-
 QList<int> Numbers(quint32 first, quint32 count) {
   QList<int> numbers(std::min(count, kMaxListed));
-  std::iota(numbers.begin(), numbers.end(), Clamped(first));
+  std::iota(numbers.begin(), numbers.end(), AsInt(first));
   return numbers;
 }
 
 }  // namespace
 
 int AccessiblePanel::rowCount() const {
-  return Clamped(Rows());
+  return AsInt(Rows());
 }
 
 int AccessiblePanel::columnCount() const {
-  return Clamped(Cols());
+  return AsInt(Cols());
 }
 
 QAccessibleInterface* AccessiblePanel::cellAt(int row, int col) const {
@@ -59,9 +53,9 @@ TQorCellRange AccessiblePanel::Selection() const {
 bool AccessiblePanel::IsSelected(const AccessiblePlace& place) const {
   switch (place.kind) {
     case AccessiblePlace::Kind::kRowHeading:
-      return isRowSelected(Clamped(place.row));
+      return isRowSelected(AsInt(place.row));
     case AccessiblePlace::Kind::kColHeading:
-      return isColumnSelected(Clamped(place.col));
+      return isColumnSelected(AsInt(place.col));
     case AccessiblePlace::Kind::kElement:
       break;
   }
@@ -80,7 +74,7 @@ bool AccessiblePanel::isColumnSelected(int col) const {
 
 int AccessiblePanel::selectedCellCount() const {
   const TQorCellRange range = Selection();
-  return Clamped(quint64{range.rows} * range.cols);
+  return AsInt(quint64{range.rows} * range.cols);
 }
 
 QList<QAccessibleInterface*> AccessiblePanel::selectedCells() const {
@@ -97,12 +91,12 @@ QList<QAccessibleInterface*> AccessiblePanel::selectedCells() const {
 
 int AccessiblePanel::selectedRowCount() const {
   const TQorCellRange range = Selection();
-  return range.cols == Cols() ? Clamped(range.rows) : 0;
+  return range.cols == Cols() ? AsInt(range.rows) : 0;
 }
 
 int AccessiblePanel::selectedColumnCount() const {
   const TQorCellRange range = Selection();
-  return range.rows == Rows() ? Clamped(range.cols) : 0;
+  return range.rows == Rows() ? AsInt(range.cols) : 0;
 }
 
 QList<int> AccessiblePanel::selectedRows() const {

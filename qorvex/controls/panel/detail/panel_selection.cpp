@@ -126,12 +126,13 @@ void PanelSelection::Entered(bool by_mouse) {
 
 void PanelSelection::Update() {
   if (held_) return;
-  if (chosen_ && HasElements()) {
+  const auto is_current = [this] { return anchor_ == end_ && anchor_ == Current(); };
+  // A spare row can be current, but not a part of anything chosen.
+  chosen_ = chosen_ && HasElements() && !is_current();
+  if (chosen_) {
     anchor_ = Fitted(anchor_);
     end_ = Fitted(end_);
-    chosen_ = anchor_ != end_ || anchor_ != Current();
-  } else {
-    chosen_ = false;
+    chosen_ = !is_current();
   }
   const TQorCellRange range = Range();
   const bool marks = range.rows > 1 || range.cols > 1;
