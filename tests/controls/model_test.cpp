@@ -363,11 +363,13 @@ TYPED_TEST(ModelEdit, GrowsItsModel) {
   this->editor->DeleteRows(3, 3);
   EXPECT_EQ(Column(model), "1||");
   EXPECT_FALSE(this->editor->CanUndo());
-  // What is being typed in the spare row is not lost to a row that comes from elsewhere.
+  // What is being typed in the spare row stays there when a row comes from elsewhere.
   this->FocusEdit(3);
   this->Type("7");
   model.insertRows(3, 1);
-  EXPECT_EQ(Column(model), "1||||7");
+  EXPECT_EQ(Column(model), "1|||");
+  this->Enter("8");
+  EXPECT_EQ(Column(model), "1||||78");
 }
 
 TEST(Models, AreSharedByViewsAndMappers) {
