@@ -30,7 +30,7 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
     if (announce) announce(left);
   };
   col_events.redisplay = [this] {
-    ColsMoved();
+    parts_->layout.ColsMoved();
     Redisplay();
   };
   parts_ = std::make_unique<detail::PanelParts>(*this, rule, std::move(row_events),
@@ -50,8 +50,8 @@ CellPanel::~CellPanel() = default;
 
 void CellPanel::Build(CellFactory make_cell, int row_edits, int col_edits) {
   parts_->grid.SetCellFactory(std::move(make_cell));
-  SetEdits(parts_->cols, col_edits);
-  SetEdits(parts_->rows, row_edits);
+  parts_->layout.SetEdits(parts_->cols, col_edits);
+  parts_->layout.SetEdits(parts_->rows, row_edits);
 }
 
 void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
@@ -117,7 +117,7 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   SetLines(axis, count, axis.HasSpare());
   axis.ReachWantedTop();
-  CountChanged();
+  parts_->layout.CountChanged();
   AnnounceSize();
 }
 
@@ -129,8 +129,7 @@ void CellPanel::SetLines(detail::PanelAxis& axis, quint32 count, bool spare) {
 
 void CellPanel::FitGrid() {
   parts_->grid.Fit(EffectiveSettings(), CellFocusPolicy(), parts_->rows.Bar());
-  Place();
-  updateGeometry();
+  parts_->layout.Place();
   Redisplay();
 }
 
@@ -141,7 +140,7 @@ void CellPanel::Redisplay() {
   parts_->focus.Lead();
   if (!Updating()) {
     parts_->grid.Show();
-    if (parts_->headings.Show()) Arrange();
+    if (parts_->headings.Show()) parts_->layout.Arrange();
   }
   parts_->selection.Update();
 }
@@ -181,7 +180,7 @@ void CellPanel::changeEvent(QEvent* event) {
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
-      Arrange();
+      parts_->layout.Arrange();
       break;
     case QEvent::LanguageChange:
       NameBars();
@@ -197,8 +196,7 @@ void CellPanel::changeEvent(QEvent* event) {
 
 void CellPanel::resizeEvent(QResizeEvent* event) {
   TQorCustomPanel::resizeEvent(event);
-  has_size_ = true;
-  Arrange();
+  parts_->layout.SizeChanged();
 }
 
 void CellPanel::showEvent(QShowEvent* event) {

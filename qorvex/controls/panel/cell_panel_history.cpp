@@ -80,7 +80,7 @@ void CellPanel::FitSpareRow() {
   if (MayGrow(CellAxis::kRows) == rows.HasSpare()) return;
   parts_->focus.CommitPending();
   SetLines(rows, rows.Count(), MayGrow(CellAxis::kRows));
-  CountChanged();
+  parts_->layout.CountChanged();
 }
 
 void CellPanel::connectNotify(const QMetaMethod& signal) {
