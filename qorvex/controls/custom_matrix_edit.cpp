@@ -27,10 +27,11 @@ TQorCustomMatrixEdit::TQorCustomMatrixEdit(QWidget* parent)
   corner->setFocusPolicy(Qt::NoFocus);
   corner->setAccessibleName(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner"));
   connect(corner, &QToolButton::clicked, this, &TQorCustomMatrixEdit::CornerClick);
-  SetCorner(corner);
+  Parts().layout.SetCorner(corner);
   connect(this, &CellPanel::OnContextMenu, this, [this](QMenu& menu) {
     // The tab key does not stop at the button.
-    if (!isSignalConnected(QMetaMethod::fromSignal(&TQorCustomMatrixEdit::OnCornerBtnClick))) return;
+    if (!isSignalConnected(QMetaMethod::fromSignal(&TQorCustomMatrixEdit::OnCornerBtnClick)))
+      return;
     menu.addAction(QCoreApplication::translate("TQorCustomMatrixEdit", "Corner Button"), this,
                    &TQorCustomMatrixEdit::CornerClick);
   });
@@ -55,7 +56,7 @@ int TQorCustomMatrixEdit::NoOfColEdits() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setNoOfColEdits(int edits) {
-  SetEdits(Parts().cols, edits);
+  Parts().layout.SetEdits(Parts().cols, edits);
 }
 
 int TQorCustomMatrixEdit::NoOfRowEdits() const noexcept {
@@ -63,7 +64,7 @@ int TQorCustomMatrixEdit::NoOfRowEdits() const noexcept {
 }
 
 void TQorCustomMatrixEdit::setNoOfRowEdits(int edits) {
-  SetEdits(Parts().rows, edits);
+  Parts().layout.SetEdits(Parts().rows, edits);
 }
 
 quint32 TQorCustomMatrixEdit::NoOfCols() const noexcept {

@@ -99,11 +99,11 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// show numbers from 1 on, the headers of a model, or what OnGetRowHeading and OnGetColHeading
   /// supply. A click on a heading selects its row or column. The edge of a column's heading can be
   /// dragged, which changes the width of the column.
-  [[nodiscard]] bool RowHeadings() const noexcept { return HasRowHeadings(); }
-  void setRowHeadings(bool on) { ShowRowHeadings(on); }
+  [[nodiscard]] bool RowHeadings() const noexcept;
+  void setRowHeadings(bool on);
   void resetRowHeadings() { setRowHeadings(false); }
-  [[nodiscard]] bool ColHeadings() const noexcept { return HasColHeadings(); }
-  void setColHeadings(bool on) { ShowColHeadings(on); }
+  [[nodiscard]] bool ColHeadings() const noexcept;
+  void setColHeadings(bool on);
   void resetColHeadings() { setColHeadings(false); }
   /// @}
   /// @{

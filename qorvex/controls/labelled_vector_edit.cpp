@@ -76,7 +76,7 @@ void TQorLabelledVectorEdit::setLabelsEditable(bool editable) {
 void TQorLabelledVectorEdit::setLabelWidth(int width) {
   label_width_ = std::clamp(width, 0, QorvexControls::detail::ElementSizes::kLargest);
   Parts().geometry.SetHeaderWidth(label_width_);
-  Arrange();
+  Parts().layout.Arrange();
 }
 
 QString TQorLabelledVectorEdit::Label(quint32 row) const {

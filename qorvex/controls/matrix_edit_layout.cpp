@@ -5,6 +5,22 @@
 
 namespace qorvex::inline QorvexMatrixEdit {
 
+bool TQorCustomMatrixEdit::RowHeadings() const noexcept {
+  return Parts().headings.HasRows();
+}
+
+void TQorCustomMatrixEdit::setRowHeadings(bool on) {
+  Parts().layout.SetRowHeadings(on);
+}
+
+bool TQorCustomMatrixEdit::ColHeadings() const noexcept {
+  return Parts().headings.HasCols();
+}
+
+void TQorCustomMatrixEdit::setColHeadings(bool on) {
+  Parts().layout.SetColHeadings(on);
+}
+
 QString TQorCustomMatrixEdit::RowHeading(quint32 row) const {
   if (OnGetRowHeading) return OnGetRowHeading(row);
   return Model() ? Parts().model.Heading(CellAxis::kRows, row) : CellTable::RowHeading(row);
@@ -21,12 +37,12 @@ int TQorCustomMatrixEdit::ColWidth(quint32 col) const {
 
 void TQorCustomMatrixEdit::setColWidth(quint32 col, int width) {
   Parts().geometry.ColWidths().Set(col, width);
-  Arrange();
+  Parts().layout.Arrange();
 }
 
 void TQorCustomMatrixEdit::resetColWidth(quint32 col) {
   Parts().geometry.ColWidths().Reset(col);
-  Arrange();
+  Parts().layout.Arrange();
 }
 
 NumberSettings TQorCustomMatrixEdit::ColFormat(quint32 col) const {

@@ -113,7 +113,7 @@ void TQorCustomMatrixEdit::ReplaceCols(quint32 first, quint32 removed, quint32 i
 }
 
 void TQorCustomMatrixEdit::ColsReplaced() {
-  if (!Parts().geometry.ColWidths().AreUsual()) Arrange();
+  Parts().layout.ColsMoved();
   if (!Parts().grid.ColFormats().empty()) ApplySettings();
 }
 

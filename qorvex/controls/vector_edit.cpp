@@ -30,7 +30,7 @@ int TQorVectorEdit::NoOfEdits() const noexcept {
 }
 
 void TQorVectorEdit::setNoOfEdits(int edits) {
-  SetEdits(Parts().rows, edits);
+  Parts().layout.SetEdits(Parts().rows, edits);
 }
 
 quint32 TQorVectorEdit::NoOfRows() const noexcept {

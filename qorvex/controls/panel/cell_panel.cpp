@@ -31,7 +31,7 @@ CellPanel::CellPanel(QWidget* parent, CellTable& table, GridAxes axes, detail::C
     if (announce) announce(left);
   };
   col_events.redisplay = [this] {
-    ColsMoved();
+    parts_->layout.ColsMoved();
     Redisplay();
   };
   parts_ = std::make_unique<detail::PanelParts>(*this, rule, std::move(row_events),
@@ -51,8 +51,8 @@ CellPanel::~CellPanel() = default;
 
 void CellPanel::Build(CellFactory make_cell, int row_edits, int col_edits) {
   parts_->grid.SetCellFactory(std::move(make_cell));
-  SetEdits(parts_->cols, col_edits);
-  SetEdits(parts_->rows, row_edits);
+  parts_->layout.SetEdits(parts_->cols, col_edits);
+  parts_->layout.SetEdits(parts_->rows, row_edits);
 }
 
 void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
@@ -119,7 +119,7 @@ void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   const std::optional<QString> typed = count > axis.Count() ? TakeFromSpareRow(axis) : std::nullopt;
   SetLines(axis, count, axis.HasSpare());
   axis.ReachWantedTop();
-  CountChanged();
+  parts_->layout.CountChanged();
   AnnounceSize();
   if (typed) TypeIntoSpareRow(*typed);
 }
@@ -132,8 +132,7 @@ void CellPanel::SetLines(detail::PanelAxis& axis, quint32 count, bool spare) {
 
 void CellPanel::FitGrid() {
   parts_->grid.Fit(EffectiveSettings(), CellFocusPolicy(), parts_->rows.Bar());
-  Place();
-  updateGeometry();
+  parts_->layout.Place();
   Redisplay();
 }
 
@@ -144,7 +143,7 @@ void CellPanel::Redisplay() {
   parts_->focus.Lead();
   if (!Updating()) {
     parts_->grid.Show();
-    if (parts_->headings.Show()) Arrange();
+    if (parts_->headings.Show()) parts_->layout.Arrange();
   }
   parts_->selection.Update();
 }
@@ -184,7 +183,7 @@ void CellPanel::changeEvent(QEvent* event) {
     case QEvent::FontChange:
     case QEvent::StyleChange:
     case QEvent::LayoutDirectionChange:
-      Arrange();
+      parts_->layout.Arrange();
       break;
     case QEvent::LanguageChange:
       NameBars();
@@ -200,8 +199,7 @@ void CellPanel::changeEvent(QEvent* event) {
 
 void CellPanel::resizeEvent(QResizeEvent* event) {
   TQorCustomPanel::resizeEvent(event);
-  has_size_ = true;
-  Arrange();
+  parts_->layout.SizeChanged();
 }
 
 void CellPanel::showEvent(QShowEvent* event) {

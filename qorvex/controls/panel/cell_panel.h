@@ -31,7 +31,6 @@ class PanelAxis;
 struct BlockChanges;
 struct CellPlace;
 struct EditWindowEvents;
-struct PanelHeadingEvents;
 struct PanelParts;
 struct ModelMove;
 enum class CurrentRule;
@@ -106,7 +105,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// The size policy becomes Expanding where it is Fixed, in the directions that can be scrolled.
   /// A number of cells that is set is what the size hint has room for; the next turn of the event
   /// loop fits the cells into the control again.
-  [[nodiscard]] bool AutoEdits() const noexcept { return auto_edits_; }
+  [[nodiscard]] bool AutoEdits() const noexcept;
   void setAutoEdits(bool on);
   void resetAutoEdits() { setAutoEdits(false); }
   /// @}
@@ -356,12 +355,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] const detail::EditWindow& Cols() const noexcept;
   /// @}
 
-  /// @{
-  /// Changes the number of cells or of elements along an axis. A focus that would be lost goes to
-  /// the last cell in use. With AutoEdits, the number of cells is the preferred one.
-  void SetEdits(detail::PanelAxis& axis, int edits);
+  /// Changes the number of elements along an axis. A focus that would be lost goes to the last cell
+  /// in use.
   void SetCount(detail::PanelAxis& axis, quint32 count);
-  /// @}
   /// @{
   /// Inserts lines before the given one, or deletes lines: see InsertRows.
   void InsertLines(CellAxis axis, quint32 first, quint32 count);
@@ -371,19 +367,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void FitSpareRow();
   /// Makes the missing cells and drops those that are too many.
   void FitGrid();
-  /// Makes as many cells as AutoEdits needs, and places the cells, the bars and the corner.
-  void Arrange();
-  /// Sets the widget that Arrange places where the bars meet.
-  void SetCorner(QWidget* corner);
   /// Applies the settings to the cells.
   void ApplySettings();
-  /// @{
-  /// Whether there are headings in front of the rows and above the columns; none at first.
-  [[nodiscard]] bool HasRowHeadings() const noexcept;
-  void ShowRowHeadings(bool on);
-  [[nodiscard]] bool HasColHeadings() const noexcept;
-  void ShowColHeadings(bool on);
-  /// @}
   /// Lets the keys, the wheel and the mouse of a text in front of the cells count as those of a
   /// cell.
   void Watch(TextCell& text);
@@ -435,23 +420,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void RefuseBlock(const QString& message);
   void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason);
   void AddToMenu(QMenu* menu);
-  void ChangeEdits(detail::PanelAxis& axis, quint32 edits);
-  void FitEdits();
-  struct GridSize {
-    quint32 rows = 0;
-    quint32 cols = 0;
-  };
-  [[nodiscard]] GridSize FittingEdits() const;
-  void Place();
-  void ColsMoved();
-  void CountChanged();
-  void DragColWidth(quint32 col, int width);
-  void FitColWidth(quint32 col, int heading_width);
-  void FocusFromHeading(quint32 row_edit, quint32 col_edit, bool extend);
-  [[nodiscard]] detail::PanelHeadingEvents HeadingEvents();
-  [[nodiscard]] int BarExtent() const;
-  [[nodiscard]] bool NeedsBar(const detail::PanelAxis& axis) const;
-  [[nodiscard]] QSize SizeFor(quint32 rows, quint32 cols) const;
   // For screen readers.
   void NameBars();
   void AnnounceSize();
@@ -461,9 +429,6 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool tab_stop_ = true;
   bool virtual_mode_ = false;
   bool can_grow_ = false;
-  bool auto_edits_ = false;
-  // Qt sends the size when the panel is shown; until then it is not the one that a layout gives.
-  bool has_size_ = false;
   // While there is a model: the size of the table without it.
   std::optional<TQorCellRange> own_size_;
   std::unique_ptr<detail::PanelParts> parts_;

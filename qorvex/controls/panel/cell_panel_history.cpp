@@ -81,7 +81,7 @@ void CellPanel::FitSpareRow() {
   if (MayGrow(CellAxis::kRows) == rows.HasSpare()) return;
   parts_->focus.CommitPending();
   SetLines(rows, rows.Count(), MayGrow(CellAxis::kRows));
-  CountChanged();
+  parts_->layout.CountChanged();
 }
 
 std::optional<QString> CellPanel::TakeFromSpareRow(const detail::PanelAxis& axis) {

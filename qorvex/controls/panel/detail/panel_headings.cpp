@@ -1,6 +1,7 @@
 #include "qorvex/controls/panel/detail/panel_headings.h"
 
 #include <algorithm>
+#include <limits>
 #include <utility>
 
 #include "qorvex/controls/panel/detail/panel_axis.h"
@@ -23,13 +24,18 @@ void Scroll(EditWindow& window, bool forward) {
 }  // namespace
 
 PanelHeadings::PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows,
-                             EditWindow& cols, GridGeometry& geometry, PanelHeadingEvents events)
+                             EditWindow& cols, GridGeometry& geometry, const CellGrid& grid,
+                             PanelFocus& focus, PanelSelection& selection,
+                             std::function<void(quint32 col, int width)> resize_col)
     : panel_(panel),
       table_(table),
       rows_(rows),
       cols_(cols),
       geometry_(geometry),
-      events_(std::move(events)) {}
+      grid_(grid),
+      focus_(focus),
+      selection_(selection),
+      resize_col_(std::move(resize_col)) {}
 
 PanelHeadings::~PanelHeadings() {
   delete row_bar_;
@@ -40,13 +46,14 @@ PanelHeadings::~PanelHeadings() {
 void PanelHeadings::SetRows(bool on) {
   if (on == HasRows()) return;
   if (on) {
-    row_bar_ = new HeadingBar(panel_, Qt::Vertical, rows_, geometry_,
-                              {.text = [this](quint32 row) { return RowText(row); },
-                               .is_selected = [this](quint32 row) { return IsRowSelected(row); },
-                               .select = events_.select_row,
-                               .scroll = [this](bool forward) { Scroll(rows_, forward); },
-                               .resize = {},
-                               .fit = {}});
+    row_bar_ =
+        new HeadingBar(panel_, Qt::Vertical, rows_, geometry_,
+                       {.text = [this](quint32 row) { return RowText(row); },
+                        .is_selected = [this](quint32 row) { return IsRowSelected(row); },
+                        .select = [this](quint32 row, bool extend) { SelectRow(row, extend); },
+                        .scroll = [this](bool forward) { Scroll(rows_, forward); },
+                        .resize = {},
+                        .fit = {}});
     row_bar_->setObjectName(QStringLiteral("RowHeadings"));
     row_bar_->show();
   } else {
@@ -59,13 +66,14 @@ void PanelHeadings::SetRows(bool on) {
 void PanelHeadings::SetCols(bool on) {
   if (on == HasCols()) return;
   if (on) {
-    col_bar_ = new HeadingBar(panel_, Qt::Horizontal, cols_, geometry_,
-                              {.text = [this](quint32 col) { return ColText(col); },
-                               .is_selected = [this](quint32 col) { return IsColSelected(col); },
-                               .select = events_.select_col,
-                               .scroll = [this](bool forward) { Scroll(cols_, forward); },
-                               .resize = events_.resize_col,
-                               .fit = events_.fit_col});
+    col_bar_ =
+        new HeadingBar(panel_, Qt::Horizontal, cols_, geometry_,
+                       {.text = [this](quint32 col) { return ColText(col); },
+                        .is_selected = [this](quint32 col) { return IsColSelected(col); },
+                        .select = [this](quint32 col, bool extend) { SelectCol(col, extend); },
+                        .scroll = [this](bool forward) { Scroll(cols_, forward); },
+                        .resize = resize_col_,
+                        .fit = [this](quint32 col, int width) { FitCol(col, width); }});
     col_bar_->setObjectName(QStringLiteral("ColHeadings"));
     col_bar_->show();
   } else {
@@ -85,20 +93,48 @@ QString PanelHeadings::ColText(quint32 col) const {
 }
 
 bool PanelHeadings::IsRowSelected(quint32 row) const {
-  const TQorCellRange selected = events_.selection();
+  const TQorCellRange selected = selection_.Range();
   return row - selected.row < selected.rows;
 }
 
 bool PanelHeadings::IsColSelected(quint32 col) const {
-  const TQorCellRange selected = events_.selection();
+  const TQorCellRange selected = selection_.Range();
   return col - selected.col < selected.cols;
+}
+
+void PanelHeadings::TakeFocus(quint32 row_edit, quint32 col_edit, bool extend) {
+  focus_.CommitPending();
+  focus_.SetEditing(false);
+  if (extend && focus_.Entered() != nullptr) return;
+  const PanelSelection::Hold hold(selection_, PanelSelection::Hold::Entry::kKeeps);
+  focus_.FocusCell(row_edit, col_edit);
+}
+
+void PanelHeadings::SelectRow(quint32 row, bool extend) {
+  TakeFocus(row - rows_.Top(), 0, extend);
+  extend ? selection_.ExtendRows(row) : selection_.SelectRows(row, row);
+}
+
+void PanelHeadings::SelectCol(quint32 col, bool extend) {
+  TakeFocus(0, col - cols_.Top(), extend);
+  extend ? selection_.ExtendCols(col) : selection_.SelectCols(col, col);
+}
+
+void PanelHeadings::SelectAll() {
+  TakeFocus(rows_.Focus(), cols_.Focus(), true);
+  constexpr quint32 last = std::numeric_limits<quint32>::max();
+  selection_.Select({0, 0}, {last, last});
+}
+
+void PanelHeadings::FitCol(quint32 col, int heading_width) {
+  resize_col_(col, std::max(heading_width, grid_.FittingWidth(col - cols_.Top())));
 }
 
 void PanelHeadings::FitCorner() {
   const bool needed = HasRows() && HasCols();
   if (needed == (corner_ != nullptr)) return;
   if (needed) {
-    corner_ = new HeadingCorner(panel_, events_.select_all);
+    corner_ = new HeadingCorner(panel_, [this] { SelectAll(); });
     corner_->show();
   } else {
     Drop(corner_);

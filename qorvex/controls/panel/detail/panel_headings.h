@@ -5,35 +5,26 @@
 
 #include <functional>
 
-#include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/cell_table.h"
+#include "qorvex/controls/panel/detail/cell_grid.h"
 #include "qorvex/controls/panel/detail/heading_bar.h"
+#include "qorvex/controls/panel/detail/panel_focus.h"
+#include "qorvex/controls/panel/detail/panel_selection.h"
 
 namespace qorvex::inline QorvexControls::detail {
-
-/// What the headings of a panel call.
-struct PanelHeadingEvents {
-  /// @{
-  /// A heading has been pressed, or reached by dragging; see HeadingEvents.
-  std::function<void(quint32 row, bool extend)> select_row;
-  std::function<void(quint32 col, bool extend)> select_col;
-  std::function<void()> select_all;
-  /// @}
-  /// The selected elements, whose headings are marked.
-  std::function<TQorCellRange()> selection;
-  /// The edge of a column's heading has been dragged.
-  std::function<void(quint32 col, int width)> resize_col;
-  /// It has been clicked twice; see HeadingEvents.
-  std::function<void(quint32 col, int width)> fit_col;
-};
 
 /// A bar of row headings, a bar of column headings, both or neither, with the texts of the table.
 /// The row headings are as wide as the widest that has been in sight since they were measured, and
 /// as the last number.
+///
+/// The mouse selects rows and columns by them. A heading takes no focus: the keys that follow are
+/// for the cells.
 class PanelHeadings {
  public:
+  /// No headings. The function is called when the user has given a column a width.
   PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows, EditWindow& cols,
-                GridGeometry& geometry, PanelHeadingEvents events);
+                GridGeometry& geometry, const CellGrid& grid, PanelFocus& focus,
+                PanelSelection& selection, std::function<void(quint32 col, int width)> resize_col);
   ~PanelHeadings();
   PanelHeadings(const PanelHeadings&) = delete;
   PanelHeadings& operator=(const PanelHeadings&) = delete;
@@ -63,13 +54,22 @@ class PanelHeadings {
   [[nodiscard]] QString ColText(quint32 col) const;
   [[nodiscard]] bool IsRowSelected(quint32 row) const;
   [[nodiscard]] bool IsColSelected(quint32 col) const;
+  // Takes the focus to a cell in the row or the column whose heading is pressed.
+  void TakeFocus(quint32 row_edit, quint32 col_edit, bool extend);
+  void SelectRow(quint32 row, bool extend);
+  void SelectCol(quint32 col, bool extend);
+  void SelectAll();
+  void FitCol(quint32 col, int heading_width);
 
   QWidget& panel_;
   const CellTable& table_;
   EditWindow& rows_;
   EditWindow& cols_;
   GridGeometry& geometry_;
-  PanelHeadingEvents events_;
+  const CellGrid& grid_;
+  PanelFocus& focus_;
+  PanelSelection& selection_;
+  std::function<void(quint32 col, int width)> resize_col_;
   // Children of the panel.
   HeadingBar* row_bar_ = nullptr;
   HeadingBar* col_bar_ = nullptr;

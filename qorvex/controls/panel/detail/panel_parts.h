@@ -15,6 +15,7 @@
 #include "qorvex/controls/panel/detail/panel_focus.h"
 #include "qorvex/controls/panel/detail/panel_headings.h"
 #include "qorvex/controls/panel/detail/panel_keys.h"
+#include "qorvex/controls/panel/detail/panel_layout.h"
 #include "qorvex/controls/panel/detail/panel_mouse.h"
 #include "qorvex/controls/panel/detail/panel_selection.h"
 #include "qorvex/controls/panel/detail/panel_wheel.h"
@@ -57,8 +58,9 @@ struct PanelParts {
         mouse(panel, rows, cols, grid, focus, selection),
         wheel(panel, rows, cols),
         keys(panel, rows, cols, focus, selection, mouse, wheel),
-        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry,
-                 panel.HeadingEvents()),
+        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry, grid, focus,
+                 selection, [this](quint32 col, int width) { layout.DragColWidth(col, width); }),
+        layout(panel, rows, cols, geometry, focus, headings, grid, [&panel] { panel.FitGrid(); }),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,
                                   CellPlace place) { panel.ConnectCell(cell, place); },
@@ -89,10 +91,10 @@ struct PanelParts {
   PanelWheel wheel;
   PanelKeys keys;
   PanelHeadings headings;
+  PanelLayout layout;
   CellGrid grid;
   // Where the typed text belongs, while that is not where its cell is.
   std::optional<CellPlace> typed_place;
-  QWidget* corner = nullptr;
 };
 
 }  // namespace qorvex::inline QorvexControls::detail
