@@ -233,10 +233,12 @@ TYPED_TEST(ModelEdit, FollowsItsModel) {
   model.setElement(1, 6);
   this->Type("2");
   model.insertRows(0, 1);
+  QApplication::processEvents();
   EXPECT_EQ(Column(model), "|7|12|");
   EXPECT_EQ(this->Texts(), "|7.0000|12.0000|");
   this->Type("3");
   model.removeRows(1, 1);
+  QApplication::processEvents();
   EXPECT_EQ(Column(model), "|12|");
   EXPECT_EQ(this->Texts(), "|12.0000||");
   EXPECT_FALSE(this->editor->CanUndo());
@@ -422,6 +424,7 @@ TEST(Models, AreSharedByViewsAndMappers) {
   column->setEditFocus(2);
   QTest::keyClicks(QApplication::focusWidget(), "9");
   model.insertColumns(0, 1);
+  QApplication::processEvents();
   EXPECT_EQ(Column(model, Qt::EditRole, 2), "0.1|0.33333333333333333334|9");
   EXPECT_EQ(Column(model, Qt::EditRole, 1), "1|3|5");
   model.removeColumns(0, 2);

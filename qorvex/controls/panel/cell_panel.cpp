@@ -87,6 +87,10 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
 }
 
 void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+  if (parts_->model_moves) {
+    StoreLater(row, col, value);
+    return;
+  }
   if (row >= table_.RowCount()) {
     AppendRow(cell, row, col, value);
     return;

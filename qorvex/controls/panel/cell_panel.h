@@ -397,6 +397,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void ModelChanged(const TQorCellRange& range);
   void ModelMoved(const detail::ModelMove& move);
   void ModelDeleted();
+  void StoreLater(quint32 row, quint32 col, Extended value);
   void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);

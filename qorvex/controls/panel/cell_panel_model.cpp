@@ -1,5 +1,10 @@
 // A panel of cells over a model of Qt.
 
+#include <QCoreApplication>
+#include <QPointer>
+#include <new>
+
+#include "qorvex/base/text.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
@@ -64,9 +69,41 @@ void CellPanel::ModelMoved(const detail::ModelMove& move) {
   const std::optional<detail::CellPlace> typed = TypedPlace();
   const bool in_spare = typed && typed->row >= table_.RowCount();
   parts_->typed_place = in_spare ? detail::CellPlace{rows, typed->col} : move.typed_to;
+  parts_->model_moves = true;
   table_.SetSize(rows, parts_->model.Count(CellAxis::kCols));
   if (parts_->typed_place != typed && parts_->typed_place) parts_->focus.CommitPending();
+  parts_->model_moves = false;
   parts_->typed_place.reset();
+}
+
+void CellPanel::StoreLater(quint32 row, quint32 col, Extended value) {
+  // A proxy tells of one removal after the other, and must not be changed between them.
+  const detail::ModelLink::Element element(parts_->model, {row, col});
+  const bool appends = row >= table_.RowCount();
+  const auto store = [=, this, model = QPointer<QAbstractItemModel>(Model())] {
+    if (model == nullptr || model != Model()) return;
+    const quint32 rows = table_.RowCount();
+    detail::LineInsertions lines;
+    if (appends) lines.push_back({CellAxis::kRows, rows, 1, NewElement()});
+    const auto place = appends ? detail::CellPlace{rows, col} : element.Place();
+    if (!place) return;
+    if (place->col >= table_.ColCount()) {
+      // The editor of a vector shows another column now.
+      table_.Store(place->row, place->col, value);
+      return;
+    }
+    try {
+      if (parts_->history.Apply(lines, {{place->row, place->col, value}},
+                                QCoreApplication::translate("CellPanel", "Typing"))) {
+        return;
+      }
+      RefuseBlock(detail::NotStored(table_.CellName(place->row, place->col),
+                                    QString::fromStdString(Float2Str(value))));
+    } catch (const std::bad_alloc&) {
+      RefuseBlock(detail::OutOfMemory());
+    }
+  };
+  QMetaObject::invokeMethod(this, store, Qt::QueuedConnection);
 }
 
 }  // namespace qorvex::inline QorvexControls

@@ -76,7 +76,9 @@ QModelIndex ModelLink::Index(quint32 row, quint32 col) const {
 }
 
 std::optional<CellPlace> ModelLink::PlaceOf(const QPersistentModelIndex& index) const {
-  if (!index.isValid() || index.column() < first_col_) return std::nullopt;
+  if (index.model() != model_ || !index.isValid() || index.column() < first_col_) {
+    return std::nullopt;
+  }
   return CellPlace{static_cast<quint32>(index.row()),
                    static_cast<quint32>(index.column() - first_col_)};
 }

@@ -95,6 +95,8 @@ struct PanelParts {
   CellGrid grid;
   // Where the typed text belongs, while that is not where its cell is.
   std::optional<CellPlace> typed_place;
+  // The model tells of a move.
+  bool model_moves = false;
 };
 
 }  // namespace qorvex::inline QorvexControls::detail
