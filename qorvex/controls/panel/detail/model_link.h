@@ -57,7 +57,7 @@ class ModelLink : public QObject {
   void SetFirstCol(int col) { first_col_ = col; }
   /// @}
 
-  /// The number of rows, or of columns from the first one on.
+  /// The number of rows, or of columns from the first one on; 0 without a model.
   [[nodiscard]] quint32 Count(CellAxis axis) const;
   /// The value of an item; null if it is not a number or does not exist.
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const;
