@@ -347,11 +347,55 @@ TYPED_TEST(ModelEdit, ChangesBlocksAsAWhole) {
   EXPECT_EQ(this->Texts(), "15.0000|25.0000|30.0000|");
 }
 
+TYPED_TEST(ModelEdit, LetsHandlersSetAnotherModel) {
+  this->SetRows(2);
+  this->Set(1, 8);
+  TQorVectorModel model;
+  model.setVector({1, 2, 3});
+  this->Open(&model);
+  const auto leave = [this] { this->editor->setModel(nullptr); };
+  // When the number of rows changes, in the midst of an insertion, and for the first time.
+  const auto rows_changed = [] {
+    if constexpr (TestFixture::kIsVector)
+      return &TypeParam::OnRowNoChange;
+    else
+      return &TypeParam::OnNoRowsChange;
+  }();
+  this->editor->setAllowKbdNull(false);
+  auto handler = this->On(rows_changed, leave);
+  this->editor->InsertRows(1, 2);
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  this->editor->setModel(&model);
+  EXPECT_EQ(this->editor->Model(), nullptr);
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  handler.reset();
+
+  // When a move takes the steps away.
+  const auto type = [this, &model] {
+    this->editor->setModel(&model);
+    this->FocusEdit(0);
+    this->Enter("7");
+  };
+  type();
+  handler = this->On(&TypeParam::OnCanUndoChange, [&](bool can) {
+    if (!can) leave();
+  });
+  model.removeRows(2, 1);
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  type();
+  leave();
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  EXPECT_FALSE(this->editor->VirtualMode());
+}
+
 TYPED_TEST(ModelEdit, GrowsItsModel) {
   TQorVectorModel model;
   model.setVector({1});
   this->editor->setCanGrow(true);
   this->Open(&model);
+  this->editor->setCellHeight(22);
+  this->editor->setDecimalPlaces(2);
+  EXPECT_FALSE(this->Cell(1)->QLineEdit::isReadOnly()) << "the spare row";
   this->FocusEdit(0);
   this->Enter("2");
   this->Enter("3");

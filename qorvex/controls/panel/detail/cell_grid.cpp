@@ -171,9 +171,11 @@ void CellGrid::ApplyToCells(const CellSettings& settings) {
 }
 
 bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
-  return settings_.read_only ||
-         (IsUsed(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
-                                                cols_.Top() + static_cast<quint32>(col)));
+  const quint32 element_row = rows_.Top() + static_cast<quint32>(row);
+  const quint32 element_col = cols_.Top() + static_cast<quint32>(col);
+  // The spare line has no element that the table could know of.
+  const bool has_element = IsUsed(row, col) && element_row < table_.RowCount();
+  return settings_.read_only || (has_element && table_.IsReadOnly(element_row, element_col));
 }
 
 CellSettings CellGrid::SettingsOf(quint32 col) const {
