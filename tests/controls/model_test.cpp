@@ -345,6 +345,23 @@ TYPED_TEST(ModelEdit, ChangesBlocksAsAWhole) {
   EXPECT_TRUE(this->editor->PasteBlock("25\n15\n"));
   EXPECT_EQ(Column(model), "30|25|15");
   EXPECT_EQ(this->Texts(), "15.0000|25.0000|30.0000|");
+  // Values that move their rows are undone and redone where they are now.
+  const auto there_and_back = [&](const char* changed, const char* before) {
+    SCOPED_TRACE(changed);
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_EQ(Column(model), changed);
+      this->editor->Undo();
+      EXPECT_EQ(Column(model), before);
+      this->editor->Redo();
+    }
+    EXPECT_EQ(Column(model), changed);
+  };
+  there_and_back("30|25|15", "30|10|20");
+  this->FocusEdit(0);
+  this->Enter("40");
+  there_and_back("30|25|40", "30|25|15");
+  this->editor->Undo();
+  EXPECT_FALSE(this->editor->CanUndo());
 }
 
 TYPED_TEST(ModelEdit, LetsHandlersSetAnotherModel) {

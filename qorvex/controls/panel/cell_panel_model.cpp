@@ -66,7 +66,10 @@ void CellPanel::ModelChanged(const TQorCellRange& range) {
 void CellPanel::ModelMoved(const detail::ModelMove& move) {
   const Update update(*this);
   const QAbstractItemModel* const model = Model();
-  if (!move.is_append) parts_->history.Forget();
+  if (!move.is_append) {
+    // The step that stores a value follows its own elements.
+    move.is_stored ? parts_->history.ForgetOthers() : parts_->history.Forget();
+  }
   // Handlers may have set another model.
   if (Model() != model) return;
   if (TextCell* const text = parts_->focus.Entered(); text && move.typed_is_gone) text->Restore();

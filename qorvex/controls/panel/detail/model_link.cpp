@@ -1,5 +1,6 @@
 #include "qorvex/controls/panel/detail/model_link.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -100,6 +101,7 @@ Extended ModelLink::Value(quint32 row, quint32 col) const {
 
 bool ModelLink::Store(quint32 row, quint32 col, Extended value) {
   const QModelIndex index = Index(row, col);
+  const QScopedValueRollback stores(stores_, true);
   return index.isValid() && model_->setData(index, ItemOf(value, index.data(Qt::EditRole)));
 }
 
@@ -183,6 +185,7 @@ void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
 void ModelLink::Moved(bool is_append) {
   ModelMove move;
   move.is_append = is_append;
+  move.is_stored = stores_;
   if (typed_) {
     const std::optional<CellPlace> place = typed_->Place();
     move.typed_is_gone = !place;

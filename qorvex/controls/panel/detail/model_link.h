@@ -21,6 +21,7 @@ namespace qorvex::inline QorvexControls::detail {
 /// What a change of the structure of a model has done.
 struct ModelMove {
   bool is_append = false;             ///< Every element is where it was.
+  bool is_stored = false;             ///< A value that the panel stores has moved elements.
   bool typed_is_gone = false;         ///< The element whose text is being typed is gone.
   std::optional<CellPlace> typed_to;  ///< Its new place, if it has another one.
 };
@@ -115,6 +116,7 @@ class ModelLink : public QObject {
   Owner owner_;
   QPointer<QAbstractItemModel> model_;
   int first_col_ = 0;
+  bool stores_ = false;
   // It is going to be asked for more rows.
   bool fetches_ = false;
   // The element whose text is being typed, while the model moves elements.
