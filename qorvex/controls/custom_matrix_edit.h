@@ -294,9 +294,6 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void ResizeRows(quint32 rows);
   void ResizeCols(quint32 cols);
   void TrimStore();
-  // The widths and formats of columns move with them.
-  void ReplaceCols(quint32 first, quint32 removed, quint32 inserted);
-  void ColsReplaced();
   // Makes room in the store for lines of a value.
   void InsertIntoStore(CellAxis axis, quint32 first, quint32 count, Extended value);
   // The store, extended to all rows and columns.

@@ -52,7 +52,7 @@ void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 cou
     SetCount(Parts().rows, NoOfRows() + count);
     Q_EMIT OnNoRowsChange(NoOfRows());
   } else {
-    ReplaceCols(first, 0, count);
+    ReplaceCols({first, 0, count});
     SetCount(Parts().cols, NoOfCols() + count);
     Q_EMIT OnNoColsChange(NoOfCols());
   }
@@ -99,22 +99,11 @@ void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 cou
     QorvexControls::detail::Remove(store_, first, count);
     Q_EMIT OnNoRowsChange(NoOfRows());
   } else {
-    ReplaceCols(first, count, 0);
+    ReplaceCols({first, count, 0});
     SetCount(Parts().cols, NoOfCols() - count);
     for (TQorFloatVector& row : store_) QorvexControls::detail::Remove(row, first, count);
     Q_EMIT OnNoColsChange(NoOfCols());
   }
-}
-
-void TQorCustomMatrixEdit::ReplaceCols(quint32 first, quint32 removed, quint32 inserted) {
-  Parts().geometry.ColWidths().Replace(first, removed, inserted);
-  QorvexControls::detail::ShiftKeys(Parts().grid.ColFormats(), first, removed, inserted);
-  ColsReplaced();
-}
-
-void TQorCustomMatrixEdit::ColsReplaced() {
-  Parts().layout.Arrange();
-  if (!Parts().grid.ColFormats().empty()) ApplySettings();
 }
 
 std::function<void()> TQorCustomMatrixEdit::KeepLineData(CellAxis axis, quint32 first,

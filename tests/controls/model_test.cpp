@@ -435,6 +435,31 @@ TYPED_TEST(ModelEdit, GrowsItsModel) {
   EXPECT_EQ(Column(model), "1||||78");
 }
 
+TEST(Models, TakeWidthsAndFormatsAlongWithTheirColumns) {
+  TQorMatrixModel model;
+  model.setMatrix({{1, 2, 3}});
+  TQorMatrixEdit editor;
+  editor.setModel(&model);
+  NumberSettings format;
+  format.decimal_places = 2;
+  editor.setColFormat(1, format);
+  editor.setColWidth(1, 120);
+  const auto follows_to = [&](quint32 col) {
+    for (quint32 c = 0; c < editor.NoOfCols(); ++c) {
+      EXPECT_EQ(editor.ColWidth(c), c == col ? 120 : 81) << c;
+      EXPECT_EQ(editor.ColFormat(c).decimal_places, c == col ? 2 : 4) << c;
+    }
+    EXPECT_EQ(editor.findChildren<TQorFloatEdit*>()[static_cast<int>(col)]->text(), "2.00");
+  };
+  model.insertColumns(0, 1);
+  follows_to(2);
+  model.removeColumns(0, 2);
+  follows_to(0);
+  model.removeColumns(0, 1);
+  EXPECT_EQ(editor.ColWidth(0), 81);
+  EXPECT_EQ(editor.findChildren<TQorFloatEdit*>()[0]->text(), "3.0000");
+}
+
 TEST(Models, AreSharedByViewsAndMappers) {
   QLocale::setDefault(QLocale::c());
   TQorMatrixModel model;

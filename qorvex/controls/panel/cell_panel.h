@@ -33,6 +33,7 @@ struct CellPlace;
 struct EditWindowEvents;
 struct PanelParts;
 struct ModelMove;
+struct ReplacedCols;
 enum class CurrentRule;
 }  // namespace detail
 /// @endcond
@@ -365,6 +366,11 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @}
   /// Decides whether there is a spare row. Call when CanInsert of the table may have changed.
   void FitSpareRow();
+  /// @{
+  /// The widths and formats of columns move with them; have changed.
+  void ReplaceCols(const detail::ReplacedCols& cols);
+  void ColsReplaced();
+  /// @}
   /// Makes the missing cells and drops those that are too many.
   void FitGrid();
   /// Applies the settings to the cells.

@@ -1,5 +1,6 @@
 // The sizes of cells in a panel, and its own.
 
+#include "qorvex/controls/detail/shift_keys.h"
 #include "qorvex/controls/panel/detail/panel_parts.h"
 
 namespace qorvex::inline QorvexControls {
@@ -28,6 +29,17 @@ void CellPanel::setCellWidth(int width) {
 
 void CellPanel::resetCellWidth() {
   setCellWidth(detail::GridGeometry::kDefaultCellWidth);
+}
+
+void CellPanel::ReplaceCols(const detail::ReplacedCols& cols) {
+  parts_->geometry.ColWidths().Replace(cols.first, cols.removed, cols.inserted);
+  detail::ShiftKeys(parts_->grid.ColFormats(), cols.first, cols.removed, cols.inserted);
+  ColsReplaced();
+}
+
+void CellPanel::ColsReplaced() {
+  parts_->layout.Arrange();
+  ApplySettings();
 }
 
 bool CellPanel::AutoEdits() const noexcept {

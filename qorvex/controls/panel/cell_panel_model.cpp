@@ -80,6 +80,7 @@ void CellPanel::ModelMoved(const detail::ModelMove& move) {
   const bool in_spare = typed && typed->row >= table_.RowCount();
   parts_->typed_place = in_spare ? detail::CellPlace{rows, typed->col} : move.typed_to;
   parts_->model_moves = true;
+  if (move.cols.removed + move.cols.inserted > 0) ReplaceCols(move.cols);
   table_.SetSize(rows, parts_->model.Count(CellAxis::kCols));
   if (parts_->typed_place != typed && parts_->typed_place) parts_->focus.CommitPending();
   parts_->model_moves = false;

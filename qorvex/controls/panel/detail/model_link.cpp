@@ -41,22 +41,29 @@ void ModelLink::ConnectMoves() {
   const auto hold = [this](const QModelIndex& parent) {
     if (!parent.isValid()) HoldTyped();
   };
-  const auto removed = [this](const QModelIndex& parent) {
-    if (!parent.isValid()) Moved(false);
-  };
   for (const auto signal : {&Model::rowsAboutToBeInserted, &Model::rowsAboutToBeRemoved,
                             &Model::columnsAboutToBeInserted, &Model::columnsAboutToBeRemoved}) {
     connect(model_, signal, this, hold);
   }
-  for (const auto signal : {&Model::rowsRemoved, &Model::columnsRemoved}) {
-    connect(model_, signal, this, removed);
-  }
+  connect(model_, &Model::rowsRemoved, this, [this](const QModelIndex& parent) {
+    if (!parent.isValid()) Moved(false);
+  });
+  connect(model_, &Model::columnsRemoved, this,
+          [this](const QModelIndex& parent, int first, int last) {
+            if (parent.isValid()) return;
+            const int shown = std::max(first, first_col_);
+            Moved(false, {CountFrom(first_col_, shown), CountFrom(shown, last + 1), 0});
+          });
   connect(model_, &Model::rowsInserted, this, [this](const QModelIndex& parent, int, int last) {
     if (!parent.isValid()) Moved(last == model_->rowCount() - 1);
   });
-  connect(model_, &Model::columnsInserted, this, [this](const QModelIndex& parent, int, int last) {
-    if (!parent.isValid()) Moved(last == model_->columnCount() - 1);
-  });
+  connect(model_, &Model::columnsInserted, this,
+          [this](const QModelIndex& parent, int first, int last) {
+            if (parent.isValid()) return;
+            const int shown = std::max(first, first_col_);
+            Moved(last == model_->columnCount() - 1,
+                  {CountFrom(first_col_, shown), 0, CountFrom(shown, last + 1)});
+          });
   for (const auto signal : {&Model::rowsAboutToBeMoved, &Model::columnsAboutToBeMoved}) {
     connect(model_, signal, this, &ModelLink::HoldTyped);
   }
@@ -182,8 +189,9 @@ void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
                   CountFrom(first_col, last.column() + 1)});
 }
 
-void ModelLink::Moved(bool is_append) {
+void ModelLink::Moved(bool is_append, const ReplacedCols& cols) {
   ModelMove move;
+  move.cols = cols;
   move.is_append = is_append;
   move.is_stored = stores_;
   if (typed_) {

@@ -18,12 +18,20 @@
 
 namespace qorvex::inline QorvexControls::detail {
 
+/// Columns of a panel have gone, and others have come in their place.
+struct ReplacedCols {
+  quint32 first = 0;
+  quint32 removed = 0;
+  quint32 inserted = 0;
+};
+
 /// What a change of the structure of a model has done.
 struct ModelMove {
   bool is_append = false;             ///< Every element is where it was.
   bool is_stored = false;             ///< A value that the panel stores has moved elements.
   bool typed_is_gone = false;         ///< The element whose text is being typed is gone.
   std::optional<CellPlace> typed_to;  ///< Its new place, if it has another one.
+  ReplacedCols cols;                  ///< None by default.
 };
 
 /// Reads and writes the elements of a panel in the items of a model, role EditRole, and tells the
@@ -111,7 +119,7 @@ class ModelLink : public QObject {
   void ConnectMoves();
   void HoldTyped();
   void Changed(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) const;
-  void Moved(bool is_append);
+  void Moved(bool is_append, const ReplacedCols& cols = {});
 
   Owner owner_;
   QPointer<QAbstractItemModel> model_;
