@@ -154,10 +154,11 @@ void TQorCustomMatrixEdit::setMatrix(const TQorFloatMatrix& matrix) {
            SameElement(matrix[row][col], Value(row, col));
   });
   Parts().history.Forget();
-  Take(CopyMatrix(matrix));
+  TQorFloatMatrix copy = CopyMatrix(matrix);
+  Take(copy);
 }
 
-void TQorCustomMatrixEdit::Take(TQorFloatMatrix matrix) {
+void TQorCustomMatrixEdit::Take(TQorFloatMatrix& matrix) {
   const quint32 rows = MatrixRows(matrix);
   const quint32 cols = MatrixCols(matrix);
   const Update update(*this);
@@ -168,8 +169,9 @@ void TQorCustomMatrixEdit::Take(TQorFloatMatrix matrix) {
   const quint32 rows_before = NoOfRows();
   const quint32 cols_before = NoOfCols();
   if (Model() == nullptr) {
-    ResizeRows(rows);
-    ResizeCols(cols);
+    // Handlers may still read the elements that go.
+    SetCount(Parts().rows, rows);
+    SetCount(Parts().cols, cols);
   }
   if (VirtualMode()) {
     for (quint32 row = 0; row < std::min(rows, NoOfRows()); ++row) {
@@ -178,7 +180,10 @@ void TQorCustomMatrixEdit::Take(TQorFloatMatrix matrix) {
       }
     }
   } else if (NoOfRows() == rows && NoOfCols() == cols) {
-    store_ = std::move(matrix);
+    std::swap(store_, matrix);
+  } else {
+    // A handler has changed the size.
+    TrimStore();
   }
   if (NoOfRows() != rows_before) Q_EMIT OnNoRowsChange(NoOfRows());
   if (NoOfCols() != cols_before) Q_EMIT OnNoColsChange(NoOfCols());

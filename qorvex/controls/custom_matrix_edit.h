@@ -298,8 +298,9 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   void InsertIntoStore(CellAxis axis, quint32 first, quint32 count, Extended value);
   // The store, extended to all rows and columns.
   TQorFloatMatrix& FullStore();
-  // Stores a matrix that shares no memory with another one.
-  void Take(TQorFloatMatrix matrix);
+  // Exchanges the store for a matrix that shares no memory with another one, or stores its elements
+  // in virtual mode.
+  void Take(TQorFloatMatrix& matrix);
   void ExchangeStore(TQorFloatMatrix& other);
   // Runs a command on the matrix that can be undone.
   void MatrixCommand(const QString& text,

@@ -32,9 +32,8 @@ void TQorCustomMatrixEdit::MatrixCommand(
 }
 
 void TQorCustomMatrixEdit::ExchangeStore(TQorFloatMatrix& other) {
-  // Moved, since the store must not share rows whose lengths are about to change.
-  TQorFloatMatrix before = std::move(FullStore());
-  Take(std::exchange(other, std::move(before)));
+  FullStore();
+  Take(other);
 }
 
 void TQorCustomMatrixEdit::SwapRows(quint32 first, quint32 second) {

@@ -145,7 +145,13 @@ TEST_F(MatrixEdit, ATransposeChangesTheShapeThereAndBack) {
   EXPECT_EQ(editor->Element(1, 4), 41);
   EXPECT_EQ(Texts(), "0.0000|10.0000|20.0000|1.0000|11.0000|21.0000||||||");
   QSignalSpy undone(editor, &TQorMatrixEdit::OnUndo);
+  // While the shape changes, the elements are those before.
+  At(1, 2)->setFocus();
+  Extended read = 0;
+  auto handler = On(&TQorMatrixEdit::OnCellExit, [&] { read = editor->Element(1, 0); });
   editor->Undo();
+  EXPECT_EQ(read, 1);
+  handler.reset();
   EXPECT_EQ(undone.count(), 1);
   EXPECT_TRUE(Same(editor->Matrix(), Numbered(5, 2)));
   editor->Redo();
