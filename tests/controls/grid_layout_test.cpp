@@ -82,6 +82,15 @@ TEST_F(GridLayout, HeadingsTakeRoomAndNameTheElements) {
   EXPECT_EQ(editor->sizeHint(), without);
 }
 
+TEST_F(GridLayout, HeadingsAreMeasuredWhenTheyShow) {
+  editor->setMatrix({{1}});
+  editor->setRowHeadings(true);
+  editor->OnGetRowHeading = [](quint32) { return QString("a long heading"); };
+  Show();
+  EXPECT_GT(Headings("RowHeadings")->width(),
+            editor->fontMetrics().horizontalAdvance("a long heading"));
+}
+
 TEST_F(GridLayout, EdgesOfColumnHeadingsCanBeDragged) {
   editor->setColHeadings(true);
   Open(4, 5);

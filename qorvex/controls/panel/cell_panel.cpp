@@ -209,6 +209,8 @@ void CellPanel::resizeEvent(QResizeEvent* event) {
 void CellPanel::showEvent(QShowEvent* event) {
   TQorCustomPanel::showEvent(event);
   parts_->settings.Find();
+  // Their texts may have been supplied since they were measured.
+  parts_->layout.MeasureHeadings();
 }
 
 void CellPanel::wheelEvent(QWheelEvent* event) {

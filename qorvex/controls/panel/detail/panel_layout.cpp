@@ -168,7 +168,13 @@ void PanelLayout::CountChanged() {
 
 void PanelLayout::SetRowHeadings(bool on) {
   headings_.SetRows(on);
-  if (on) headings_.Measure();
+  MeasureHeadings();
+  Arrange();
+}
+
+void PanelLayout::MeasureHeadings() {
+  if (!headings_.HasRows()) return;
+  headings_.Measure();
   Arrange();
 }
 

@@ -40,6 +40,8 @@ class PanelLayout {
   void SetRowHeadings(bool on);
   void SetColHeadings(bool on);
   /// @}
+  /// Gives the row headings the room that those in sight need.
+  void MeasureHeadings();
   /// The user has dragged the edge of a column.
   void DragColWidth(quint32 col, int width);
   /// Sets the widget that is placed where the bars meet.
