@@ -241,6 +241,9 @@ TEST_F(AccessibleMatrix, HasHeadingsAndFormatsOfColumns) {
   EXPECT_EQ(cell->columnHeaderCells(), QList{Panel()->child(83)});
   const QPoint place = Panel()->child(83)->rect().center();
   EXPECT_EQ(Panel()->childAt(place.x(), place.y()), Panel()->child(83));
+  editor->setNoOfRows(0);
+  ASSERT_EQ(Panel()->childCount(), 8);
+  EXPECT_EQ(Read(Panel()->child(2), QAccessible::Name), "C");
 }
 
 TEST_F(AccessibleMatrix, SelectsColumnsAboveTheSpareRow) {

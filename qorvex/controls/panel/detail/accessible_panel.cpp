@@ -87,15 +87,11 @@ QString AccessiblePanel::Name(const AccessiblePlace& place) const {
 
 QString AccessiblePanel::Text(const AccessiblePlace& place) const {
   const PanelParts& parts = *Parts();
-  if (place.row >= parts.table.RowCount()) return {};
-  switch (place.kind) {
-    case Kind::kRowHeading:
-      return parts.table.RowHeading(place.row);
-    case Kind::kColHeading:
-      return parts.table.ColHeading(place.col);
-    case Kind::kElement:
-      break;
+  if (place.kind == Kind::kColHeading) {
+    return place.col < parts.table.ColCount() ? parts.table.ColHeading(place.col) : QString();
   }
+  if (place.row >= parts.table.RowCount()) return {};
+  if (place.kind == Kind::kRowHeading) return parts.table.RowHeading(place.row);
   const Extended value = parts.table.Value(place.row, place.col);
   // Asking for it may have taken the cells away.
   return parts.grid.IsEmpty() ? QString() : parts.grid.TextFor(place.col, value);
