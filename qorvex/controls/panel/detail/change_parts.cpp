@@ -1,6 +1,7 @@
 // What the steps of a history do with its table.
 
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "qorvex/base_controls/detail/same_element.h"
@@ -78,9 +79,17 @@ bool ChangeHistory::Exchange(const std::shared_ptr<ElementChanges>& changes) {
     return true;
   };
   std::size_t done = 0;
-  while (done < changes->size() && exchange(done)) ++done;
+  const auto take_back = [&] {
+    while (done > 0) exchange(--done);
+  };
+  try {
+    while (done < changes->size() && exchange(done)) ++done;
+  } catch (const std::bad_alloc&) {
+    take_back();
+    throw;
+  }
   const bool complete = done == changes->size();
-  while (!complete && done > 0) exchange(--done);
+  if (!complete) take_back();
   for (std::size_t i = 0; follow && i < changes->size(); ++i) {
     const CellPlace place = place_of(i).value_or(kNowhere);
     (*changes)[i].row = place.row;
