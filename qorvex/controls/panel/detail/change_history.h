@@ -14,6 +14,7 @@
 
 #include "qorvex/controls/panel/cell_table.h"
 #include "qorvex/controls/panel/detail/cell_place.h"
+#include "qorvex/controls/panel/detail/stack_use.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -44,7 +45,8 @@ using LineInsertions = std::vector<LineInsertion>;
 /// Redo pass over.
 ///
 /// A step exchanges elements while the stack moves. Events follow when the stack is at rest,
-/// because their handlers may change the table and so push further steps.
+/// because their handlers may change the table and so push further steps. A history that is to take
+/// a step while another one runs on its stack, be it of another history, forgets all.
 class ChangeHistory {
  public:
   /// What the history needs from the panel.
@@ -95,7 +97,7 @@ class ChangeHistory {
   [[nodiscard]] bool CanUndo() const;
   [[nodiscard]] bool CanRedo() const;
   /// @{
-  /// False when there is nothing to undo or redo.
+  /// False when there is nothing to undo or redo, or a step runs.
   bool Undo();
   bool Redo();
   /// @}
@@ -117,6 +119,7 @@ class ChangeHistory {
   // Runs a part of a step.
   using Part = std::function<void(bool undo)>;
 
+  [[nodiscard]] StackUse& Use() const { return StackUse::Of(Stack()); }
   void Push(std::unique_ptr<Step> step);
   // False if a handler has pushed or forgotten something meanwhile.
   bool RunBatch(const std::function<void()>& run);
@@ -146,10 +149,11 @@ class ChangeHistory {
   qint64 bytes_ = 0;
   int commands_ = 0;
   Step* last_command_ = nullptr;
-  // A step runs; a handler has pushed or forgotten something meanwhile.
-  bool running_ = false;
+  // A handler has pushed or forgotten something since the last step began to run.
   bool disturbed_ = false;
+  // What is to be told when the stack is at rest.
   bool restored_ = false;
+  bool out_of_memory_ = false;
   std::vector<std::shared_ptr<const ElementChanges>> events_;
   bool could_undo_ = false;
   bool could_redo_ = false;

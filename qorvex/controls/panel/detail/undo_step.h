@@ -49,13 +49,11 @@ class ChangeHistory::Step final : public QUndoCommand {
     setObsolete(true);
   }
 
-  /// Undoes or redoes the parts.
-  void RunParts(bool undo) const {
-    if (!undo) {
-      for (const Part& part : parts_) part(false);
-      return;
+  /// Undoes or redoes the parts, until a handler forgets what they build on.
+  void RunParts(const ChangeHistory& history, bool undo) const {
+    for (std::size_t i = 0; i < parts_.size() && !history.disturbed_; ++i) {
+      parts_[undo ? parts_.size() - 1 - i : i](undo);
     }
-    for (auto part = parts_.rbegin(); part != parts_.rend(); ++part) (*part)(true);
   }
 
   void undo() override { Run(true); }
