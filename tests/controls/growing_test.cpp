@@ -159,6 +159,32 @@ TYPED_TEST(Growing, OfferRowsByMenuAndKeys) {
   EXPECT_EQ(this->editor->NoOfRows(), this->kIsVector ? 4U : 2U) << "or columns, if they are whole";
 }
 
+TYPED_TEST(Growing, KeepWhatIsTypedUnlessItsElementMoves) {
+  this->Open(3);
+  this->FocusEdit(1);
+  this->Type("1");
+  this->editor->setCanGrow(true);
+  this->Type("2");
+  this->editor->InsertRows(2, 1);
+  this->editor->InsertRows(4, 1);
+  this->Type("3");
+  this->editor->DeleteRows(2, 1);
+  this->editor->setCanGrow(false);
+  this->Type("4");
+  EXPECT_EQ(this->Texts(), "0|1234|2|");
+  EXPECT_EQ(this->Get(1), 1) << "nothing has been committed";
+  this->editor->InsertRows(1, 1);
+  EXPECT_EQ(this->Get(2), 1234);
+  this->editor->setCanGrow(true);
+  this->FocusEdit(3);
+  this->Press(Qt::Key_Down);
+  this->Press(Qt::Key_Down);
+  this->Type("5");
+  this->editor->InsertRows(0, 1);
+  this->Type("6");
+  EXPECT_EQ(this->Texts(), "1234|2||56") << "nor is it in the spare row, which only gets lower";
+}
+
 TYPED_TEST(Growing, ForgetTheTopOfAFormWhenTheProgramScrolls) {
   for (const auto scroll : {&CellPanel::ScrollTop, &CellPanel::ScrollBottom}) {
     TypeParam form;
