@@ -17,6 +17,8 @@ namespace qorvex::inline QorvexControls {
 
 namespace {
 
+constexpr quint32 kNoEnd = std::numeric_limits<quint32>::max();
+
 QString TextOf(CellAxis axis, bool insert) {
   if (axis == CellAxis::kRows) {
     return insert ? QCoreApplication::translate("CellPanel", "Insert Rows")
@@ -79,7 +81,7 @@ bool CellPanel::MayGrow(CellAxis axis) const {
 void CellPanel::FitSpareRow() {
   detail::PanelAxis& rows = parts_->rows;
   if (MayGrow(CellAxis::kRows) == rows.HasSpare()) return;
-  parts_->focus.CommitPending();
+  parts_->focus.CommitLines(rows, rows.Count(), kNoEnd);
   SetLines(rows, rows.Count(), MayGrow(CellAxis::kRows));
   parts_->layout.CountChanged();
 }
@@ -135,11 +137,10 @@ void CellPanel::AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extend
 }
 
 void CellPanel::InsertLines(CellAxis axis, quint32 first, quint32 count) {
-  parts_->focus.CommitPending();
-  const bool rows = axis == CellAxis::kRows;
-  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
-  if (first > lines) RaiseMathError(rows ? rsInvalidRow : rsInvalidCol);
-  if (count > std::numeric_limits<quint32>::max() - lines) {
+  const detail::PanelAxis& lines = axis == CellAxis::kRows ? parts_->rows : parts_->cols;
+  parts_->focus.CommitLines(lines, first, lines.Count());
+  if (first > lines.Count()) RaiseMathError(axis == CellAxis::kRows ? rsInvalidRow : rsInvalidCol);
+  if (count > std::numeric_limits<quint32>::max() - lines.Count()) {
     throw std::length_error("An editor has at most 4294967295 rows and columns");
   }
   if (count == 0) return;
@@ -147,10 +148,11 @@ void CellPanel::InsertLines(CellAxis axis, quint32 first, quint32 count) {
 }
 
 void CellPanel::DeleteLines(CellAxis axis, quint32 first, quint32 count) {
-  parts_->focus.CommitPending();
-  const bool rows = axis == CellAxis::kRows;
-  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
-  if (first > lines || count > lines - first) RaiseMathError(rows ? rsInvalidRow : rsInvalidCol);
+  const detail::PanelAxis& lines = axis == CellAxis::kRows ? parts_->rows : parts_->cols;
+  parts_->focus.CommitLines(lines, first, kNoEnd);
+  if (first > lines.Count() || count > lines.Count() - first) {
+    RaiseMathError(axis == CellAxis::kRows ? rsInvalidRow : rsInvalidCol);
+  }
   if (count == 0) return;
   parts_->history.Remove(axis, first, count, TextOf(axis, false));
 }

@@ -15,10 +15,6 @@ namespace {
 // The stack of the history itself also limits the number of steps, since obsolete ones stay on it.
 constexpr int kMostSteps = 10'000;
 
-qint64 BytesOf(const ElementChanges& changes) {
-  return static_cast<qint64>(changes.size() * sizeof(ElementChange));
-}
-
 // Whether a part of a stack has a command that is not obsolete; the newest ones are looked at
 // first.
 bool IsAlive(const QUndoStack& stack, int begin, int end) {
@@ -50,9 +46,9 @@ bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
   const bool undisturbed = RunBatch([&] {
     try {
       for (const LineInsertion& insertion : lines) {
-        table_.InsertLines(insertion.axis, insertion.first, insertion.count, insertion.value);
+        Insert(insertion);
         if (table_.IsVirtual()) continue;
-        step->Add(Insertion(insertion), 0);
+        step->Add(Moving(insertion, true), 0);
         if (disturbed_) break;
       }
       complete = lines.empty() || std::ranges::all_of(*shared, [this](const ElementChange& change) {
@@ -79,8 +75,7 @@ void ChangeHistory::Remove(CellAxis axis, quint32 first, quint32 count, const QS
     return;
   }
   auto step = std::make_unique<Step>(text, false);
-  const auto elements = std::make_shared<const ElementChanges>(ElementsOf(axis, first, count));
-  step->Add(Removal(axis, first, count, elements), BytesOf(*elements));
+  step->Add(Moving({axis, first, count, 0}, false), 0);
   if (!RunBatch([&] { step->RunParts(*this, false); })) step = std::make_unique<Step>(text, false);
   Push(std::move(step));
 }
@@ -101,13 +96,13 @@ void ChangeHistory::Record(const ElementChange& before) {
 void ChangeHistory::RecordCommand(const QString& text, qint64 bytes,
                                   std::function<void()> exchange) {
   auto step = std::make_unique<Step>(text, true);
-  step->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  step->Add([run = std::move(exchange), bytes](bool) { return run(), bytes; }, bytes);
   Push(std::move(step));
 }
 
 void ChangeHistory::ExtendCommand(qint64 bytes, std::function<void()> exchange) {
   if (last_command_ == nullptr) return;
-  last_command_->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  last_command_->Add([run = std::move(exchange), bytes](bool) { return run(), bytes; }, bytes);
   KeepWithinLimit();
 }
 
@@ -130,7 +125,7 @@ void ChangeHistory::Push(std::unique_ptr<Step> step) {
   Use().Settle();
 }
 
-void ChangeHistory::RunStep(const Step& step, bool undo) {
+void ChangeHistory::RunStep(Step& step, bool undo) {
   StackUse& use = Use();
   const StackUse::Busy busy(use);
   bool undisturbed = false;
@@ -168,7 +163,10 @@ void ChangeHistory::Settle() {
 }
 
 void ChangeHistory::KeepWithinLimit() {
-  while (bytes_ > limit_ && steps_.size() > 1) steps_.front()->Drop();
+  while (bytes_ > limit_ && steps_.size() > 1) {
+    // What is redone builds on the steps before it.
+    (steps_.front()->IsDone() ? steps_.front() : steps_.back())->Drop();
+  }
 }
 
 void ChangeHistory::Forget() {

@@ -49,10 +49,12 @@ class ChangeHistory::Step final : public QUndoCommand {
     setObsolete(true);
   }
 
-  /// Undoes or redoes the parts, until a handler forgets what they build on.
-  void RunParts(const ChangeHistory& history, bool undo) const {
+  /// Undoes or redoes the parts of a step that belongs to no history, until a handler forgets what
+  /// they build on.
+  void RunParts(const ChangeHistory& history, bool undo) {
+    bytes_ = kOwnBytes;
     for (std::size_t i = 0; i < parts_.size() && !history.disturbed_; ++i) {
-      parts_[undo ? parts_.size() - 1 - i : i](undo);
+      bytes_ += parts_[undo ? parts_.size() - 1 - i : i](undo);
     }
   }
 
@@ -68,7 +70,11 @@ class ChangeHistory::Step final : public QUndoCommand {
     Step running(text(), is_command_);
     running.parts_.swap(parts_);
     history_->RunStep(running, undo);
-    if (history_ != nullptr) parts_.swap(running.parts_);
+    if (history_ == nullptr) return;
+    parts_.swap(running.parts_);
+    history_->bytes_ += running.bytes_ - bytes_;
+    bytes_ = running.bytes_;
+    history_->KeepWithinLimit();
   }
 
   // The step itself, with what it counts for without its parts.
