@@ -271,6 +271,26 @@ TEST_F(GrowingMatrix, InsertsAndDeletesLinesAnywhere) {
   EXPECT_TRUE(same(editor->Matrix(), {{1, 2}, {3, 0}}));
   editor->Undo();
   EXPECT_EQ(editor->NoOfRows() + editor->NoOfCols(), 0U);
+  // So do typed values: there is a spare column as long as there is none.
+  Show();
+  editor->setRowEditFocus(0);
+  EXPECT_TRUE(Cell(0)->hasFocus());
+  Enter("5");
+  Enter("6");
+  EXPECT_TRUE(same(editor->Matrix(), {{5}, {6}}));
+  editor->Undo();
+  editor->Undo();
+  EXPECT_TRUE(Cell(0)->isEnabled() && editor->NoOfCols() == 0);
+  QApplication::clipboard()->setText("1\t2\n3\t4");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(same(editor->Matrix(), {{1, 2}, {3, 4}}));
+  editor->setNoOfCols(0);
+  editor->setRowEditFocus(1);
+  Enter("7");
+  EXPECT_TRUE(same(editor->Matrix(), {{0}, {7}}));
+  editor->setNoOfCols(0);
+  editor->setCanGrow(false);
+  EXPECT_FALSE(Cell(0)->isEnabled());
   // Elements that never got memory cost none.
   editor->setNoOfRows(4'000'000'000U);
   editor->InsertRows(2, 100'000'000);
