@@ -13,6 +13,18 @@
 
 namespace qorvex::inline QorvexVectorEdit {
 
+namespace {
+
+qint64 BytesOfLabels(const std::map<quint32, QString>& labels) {
+  qint64 bytes = QorvexControls::detail::BytesOf(labels);
+  for (const auto& [row, label] : labels) {
+    bytes += label.size() * static_cast<qint64>(sizeof(QChar));
+  }
+  return bytes;
+}
+
+}  // namespace
+
 /// The cell of a label.
 class TQorLabelledVectorEdit::LabelCell : public TextCell {
  public:
@@ -138,8 +150,8 @@ void TQorLabelledVectorEdit::Sort() {
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto before = std::make_shared<std::map<quint32, QString>>(custom_labels_);
-    const auto bytes = static_cast<qint64>(before->size() * sizeof(*before->begin()));
-    Parts().history.ExtendCommand(bytes, [this, before] { std::swap(custom_labels_, *before); });
+    Parts().history.ExtendCommand(BytesOfLabels(*before),
+                                  [this, before] { std::swap(custom_labels_, *before); });
     SortCustomLabels();
   }
 }
@@ -171,10 +183,12 @@ void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 c
   if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, count, 0);
 }
 
-std::function<void()> TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
+KeptLineData TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
   auto labels = QorvexControls::detail::EntriesOf(custom_labels_, first, count);
   if (labels.empty()) return {};
-  return [this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); };
+  const qint64 bytes = BytesOfLabels(labels);
+  return {[this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); },
+          bytes};
 }
 
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {

@@ -116,8 +116,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   /// Custom labels move with their rows; those of deleted rows come back with them.
   void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
   void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
-  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
-                                                   quint32 count) override;
+  [[nodiscard]] KeptLineData KeepLineData(CellAxis axis, quint32 first, quint32 count) override;
   /// @}
 
  private:

@@ -115,17 +115,19 @@ void TQorCustomMatrixEdit::ColsReplaced() {
   if (!Parts().grid.ColFormats().empty()) ApplySettings();
 }
 
-std::function<void()> TQorCustomMatrixEdit::KeepLineData(CellAxis axis, quint32 first,
-                                                         quint32 count) {
+KeptLineData TQorCustomMatrixEdit::KeepLineData(CellAxis axis, quint32 first, quint32 count) {
   if (axis == CellAxis::kRows) return {};
   auto widths = Parts().geometry.ColWidths().OwnSizes(first, count);
   auto formats = QorvexControls::detail::EntriesOf(Parts().grid.ColFormats(), first, count);
   if (widths.empty() && formats.empty()) return {};
-  return [this, kept_widths = std::move(widths), kept_formats = std::move(formats)] {
-    Parts().geometry.ColWidths().SetOwnSizes(kept_widths);
-    Parts().grid.ColFormats().insert(kept_formats.begin(), kept_formats.end());
-    ColsReplaced();
-  };
+  const qint64 bytes =
+      QorvexControls::detail::BytesOf(widths) + QorvexControls::detail::BytesOf(formats);
+  return {[this, kept_widths = std::move(widths), kept_formats = std::move(formats)] {
+            Parts().geometry.ColWidths().SetOwnSizes(kept_widths);
+            Parts().grid.ColFormats().insert(kept_formats.begin(), kept_formats.end());
+            ColsReplaced();
+          },
+          bytes};
 }
 
 }  // namespace qorvex::inline QorvexMatrixEdit

@@ -229,7 +229,7 @@ void TQorVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
   Q_EMIT OnRowNoChange(NoOfRows());
 }
 
-std::function<void()> TQorVectorEdit::KeepLineData(CellAxis, quint32, quint32) {
+KeptLineData TQorVectorEdit::KeepLineData(CellAxis, quint32, quint32) {
   return {};
 }
 

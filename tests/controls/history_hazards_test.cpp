@@ -157,6 +157,22 @@ TEST(HistoryHazards, TellsAllEditorsOnAStackWhatCanBeUndone) {
   EXPECT_EQ(told.join(", ").toStdString(), "no redo");
 }
 
+TEST(HistoryHazards, CountsTheLabelsOfDeletedRows) {
+  TQorLabelledVectorEdit editor;
+  editor.setLabelType(TQorLabelledVectorEdit::ltCustom);
+  editor.setNoOfRows(30);
+  for (quint32 row = 0; row < 30; ++row) editor.setLabel(row, QString(10'000, 'x'));
+  // Three steps of five labels do not fit.
+  editor.setUndoLimit(300'000);
+  for (int step = 0; step < 3; ++step) editor.DeleteRows(0, 5);
+  for (int step = 0; step < 3; ++step) editor.Undo();
+  EXPECT_EQ(editor.NoOfRows(), 25);
+  editor.Sort();
+  editor.Sort();
+  editor.Undo();
+  EXPECT_FALSE(editor.CanUndo()) << "a command keeps all labels";
+}
+
 TEST(HistoryHazards, KeepsItsStepsOnTheStackThatItHas) {
   TQorVectorEdit editor;
   editor.setNoOfRows(3);

@@ -40,6 +40,7 @@ ChangeHistory::~ChangeHistory() {
 
 bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
                           const QString& text) {
+  changes.shrink_to_fit();
   const auto shared = std::make_shared<ElementChanges>(std::move(changes));
   auto step = std::make_unique<Step>(text, false);
   bool complete = false;

@@ -23,7 +23,7 @@ struct ChangeHistory::RemovedLines {
 
   LineInsertion lines;
   ElementChanges elements;
-  std::function<void()> bring_back;
+  KeptLineData data;
 };
 
 ChangeHistory::Part ChangeHistory::Exchanging(const std::shared_ptr<ElementChanges>& changes) {
@@ -37,7 +37,7 @@ ChangeHistory::Part ChangeHistory::Exchanging(const std::shared_ptr<ElementChang
 ChangeHistory::Part ChangeHistory::Moving(const LineInsertion& lines, bool undo_removes) {
   return [this, undo_removes, removed = std::make_shared<RemovedLines>(lines)](bool undo) {
     undo == undo_removes ? TakeOut(*removed) : PutBack(*removed);
-    return BytesOf(removed->elements);
+    return BytesOf(removed->elements) + removed->data.bytes;
   };
 }
 
@@ -45,7 +45,7 @@ void ChangeHistory::TakeOut(RemovedLines& removed) {
   const auto& [axis, first, count, value] = removed.lines;
   owner_.commit_lines(axis, first, std::numeric_limits<quint32>::max());
   removed.elements = ElementsOf(removed.lines);
-  removed.bring_back = table_.KeepLineData(axis, first, count);
+  removed.data = table_.KeepLineData(axis, first, count);
   table_.RemoveLines(axis, first, count);
 }
 
@@ -54,9 +54,9 @@ void ChangeHistory::PutBack(RemovedLines& removed) {
   for (const auto& [row, col, value] : removed.elements) {
     if (Has(row, col)) table_.Store(row, col, value);
   }
-  if (removed.bring_back) removed.bring_back();
+  if (removed.data.bring_back) removed.data.bring_back();
   removed.elements = {};
-  removed.bring_back = {};
+  removed.data = {};
 }
 
 void ChangeHistory::Insert(const LineInsertion& lines) {
@@ -80,6 +80,8 @@ ElementChanges ChangeHistory::ElementsOf(const LineInsertion& lines) const {
       }
     }
   }
+  // They may be kept for long.
+  elements.shrink_to_fit();
   return elements;
 }
 
