@@ -21,7 +21,7 @@ PanelSelection::PanelSelection(const CellTable& table, const EditWindow& rows,
                                std::function<void()> changed)
     : table_(table), rows_(rows), cols_(cols), grid_(grid), changed_(std::move(changed)) {}
 
-ElementPlace PanelSelection::Current() const {
+CellPlace PanelSelection::Current() const {
   return {rows_.Top() + rows_.Focus(), cols_.Top() + cols_.Focus()};
 }
 
@@ -29,7 +29,7 @@ bool PanelSelection::HasElements() const {
   return table_.RowCount() > 0 && table_.ColCount() > 0;
 }
 
-ElementPlace PanelSelection::Fitted(ElementPlace place) const {
+CellPlace PanelSelection::Fitted(CellPlace place) const {
   return {std::min(place.row, std::max(table_.RowCount(), 1U) - 1),
           std::min(place.col, std::max(table_.ColCount(), 1U) - 1)};
 }
@@ -37,11 +37,11 @@ ElementPlace PanelSelection::Fitted(ElementPlace place) const {
 TQorCellRange PanelSelection::Range() const {
   if (rows_.Count() == 0 || cols_.Count() == 0) return {};
   if (!chosen_ || !HasElements()) {
-    const ElementPlace place = Current();
+    const CellPlace place = Current();
     return {place.row, 1, place.col, 1};
   }
-  const ElementPlace anchor = Fitted(anchor_);
-  const ElementPlace end = Fitted(end_);
+  const CellPlace anchor = Fitted(anchor_);
+  const CellPlace end = Fitted(end_);
   return {std::min(anchor.row, end.row), Distance(anchor.row, end.row) + 1,
           std::min(anchor.col, end.col), Distance(anchor.col, end.col) + 1};
 }
@@ -51,7 +51,7 @@ bool PanelSelection::IsMultiple() const {
   return range.rows > 1 || range.cols > 1;
 }
 
-void PanelSelection::Select(ElementPlace anchor, ElementPlace end) {
+void PanelSelection::Select(CellPlace anchor, CellPlace end) {
   anchor_ = anchor;
   end_ = end;
   chosen_ = true;
@@ -66,7 +66,7 @@ void PanelSelection::SelectCols(quint32 anchor, quint32 end) {
   Select({0, anchor}, {kLast, end});
 }
 
-ElementPlace PanelSelection::Moved(ElementPlace place, GridAction action) const {
+CellPlace PanelSelection::Moved(CellPlace place, GridAction action) const {
   const auto back = [](quint32 from, quint32 steps) { return from - std::min(from, steps); };
   const auto forward = [](quint32 from, quint32 steps) {
     return from + std::min(kLast - from, steps);

@@ -10,15 +10,9 @@
 #include "qorvex/controls/detail/grid_keys.h"
 #include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
+#include "qorvex/controls/panel/detail/cell_place.h"
 
 namespace qorvex::inline QorvexControls::detail {
-
-/// The row and the column of an element in its table.
-struct ElementPlace {
-  quint32 row = 0;
-  quint32 col = 0;
-  friend bool operator==(const ElementPlace&, const ElementPlace&) = default;
-};
 
 /// One rectangle of elements between an anchor, where it was begun, and an end, which moves. It
 /// consists of elements, not of cells, so scrolling leaves it alone. Unless more has been selected,
@@ -36,18 +30,18 @@ class PanelSelection {
   /// Whether there are several.
   [[nodiscard]] bool IsMultiple() const;
   /// The element under the focus.
-  [[nodiscard]] ElementPlace Current() const;
+  [[nodiscard]] CellPlace Current() const;
   /// @{
   /// Where the selection was begun, and its other corner.
-  [[nodiscard]] ElementPlace Anchor() const { return chosen_ ? anchor_ : Current(); }
-  [[nodiscard]] ElementPlace End() const { return chosen_ ? end_ : Current(); }
+  [[nodiscard]] CellPlace Anchor() const { return chosen_ ? anchor_ : Current(); }
+  [[nodiscard]] CellPlace End() const { return chosen_ ? end_ : Current(); }
   /// @}
 
   /// @{
   /// Selects the elements between two, which may be beyond the end of the table; or moves the end
   /// alone. Scrolls nothing.
-  void Select(ElementPlace anchor, ElementPlace end);
-  void Extend(ElementPlace end) { Select(Anchor(), end); }
+  void Select(CellPlace anchor, CellPlace end);
+  void Extend(CellPlace end) { Select(Anchor(), end); }
   /// @}
   /// @{
   /// Selects whole rows or columns, from a first one or from the anchor on.
@@ -58,7 +52,7 @@ class PanelSelection {
   /// @}
   /// Where an action leads from an element: by a row, a column or a page, or to an end of the row
   /// or the table; never beyond the elements, of which there must be some.
-  [[nodiscard]] ElementPlace Moved(ElementPlace place, GridAction action) const;
+  [[nodiscard]] CellPlace Moved(CellPlace place, GridAction action) const;
   /// Back to the element under the focus.
   void Clear();
 
@@ -86,7 +80,7 @@ class PanelSelection {
   void Update();
 
  private:
-  [[nodiscard]] ElementPlace Fitted(ElementPlace place) const;
+  [[nodiscard]] CellPlace Fitted(CellPlace place) const;
   [[nodiscard]] bool HasElements() const;
 
   const CellTable& table_;
@@ -96,8 +90,8 @@ class PanelSelection {
   std::function<void()> changed_;
   // Something else than the element under the focus is selected: between these two.
   bool chosen_ = false;
-  ElementPlace anchor_;
-  ElementPlace end_;
+  CellPlace anchor_;
+  CellPlace end_;
   std::optional<Hold::Entry> held_;
   bool marked_ = false;
   TQorCellRange announced_;
