@@ -304,6 +304,14 @@ TEST_F(MatrixSelection, NamesTheElementUnderTheMouseAndOffersAMenu) {
   EXPECT_EQ(entries().find("Cut|Copy|Paste|Delete||Fill Down|Fill Right||Select All|"), 0U);
   editor->setReadOnly(true);
   EXPECT_EQ(entries().find("Copy||"), 0U);
+  editor->setReadOnly(false);
+
+  editor->setRowHeadings(true);
+  editor->setCanGrow(true);
+  editor->ScrollBottom();
+  auto* const rows = editor->findChild<QWidget*>("RowHeadings");
+  QTest::mouseClick(rows, Qt::LeftButton, {}, {5, rows->height() - 5});
+  EXPECT_EQ(Selected(), "6+1 0+1") << "the spare row";
 }
 
 using LabelSelection = SelectionFixture<TQorLabelledVectorEdit>;
@@ -324,9 +332,14 @@ TEST_F(LabelSelection, TakesWholeRowsByTheirLabels) {
   // The spare row alone is not an element, and is in no range.
   editor->setCanGrow(true);
   editor->ScrollBottom();
-  QTest::mouseClick(Cell(3), Qt::LeftButton);
-  EXPECT_EQ(Selected(), "9+1 0+1");
-  Press(Qt::Key_Delete);
+  for (QWidget* part : {label(3), static_cast<QWidget*>(Cell(3))}) {
+    Press(Qt::Key_Home, kCtrl);
+    editor->ScrollBottom();
+    QTest::mouseClick(part, Qt::LeftButton);
+    EXPECT_EQ(Selected(), "9+1 0+1");
+    Press(Qt::Key_Minus, kCtrl);
+    Press(Qt::Key_Delete);
+  }
   EXPECT_TRUE(editor->PasteBlock("10"));
   EXPECT_EQ(editor->Element(9), 10);
   EXPECT_EQ(editor->Element(8), 8);

@@ -26,7 +26,8 @@ CellPlace PanelSelection::Current() const {
 }
 
 bool PanelSelection::HasElements() const {
-  return table_.RowCount() > 0 && table_.ColCount() > 0;
+  return std::min(anchor_.row, end_.row) < table_.RowCount() &&
+         std::min(anchor_.col, end_.col) < table_.ColCount();
 }
 
 CellPlace PanelSelection::Fitted(CellPlace place) const {
@@ -126,13 +127,12 @@ void PanelSelection::Entered(bool by_mouse) {
 
 void PanelSelection::Update() {
   if (held_) return;
-  const auto is_current = [this] { return anchor_ == end_ && anchor_ == Current(); };
   // A spare row can be current, but not a part of anything chosen.
-  chosen_ = chosen_ && HasElements() && !is_current();
+  chosen_ = chosen_ && HasElements();
   if (chosen_) {
     anchor_ = Fitted(anchor_);
     end_ = Fitted(end_);
-    chosen_ = !is_current();
+    chosen_ = anchor_ != end_ || anchor_ != Current();
   }
   const TQorCellRange range = Range();
   const bool marks = range.rows > 1 || range.cols > 1;

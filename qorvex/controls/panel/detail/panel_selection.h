@@ -39,7 +39,7 @@ class PanelSelection {
 
   /// @{
   /// Selects the elements between two, which may be beyond the end of the table; or moves the end
-  /// alone. Scrolls nothing.
+  /// alone. Where there are none, the element under the focus is selected. Scrolls nothing.
   void Select(CellPlace anchor, CellPlace end);
   void Extend(CellPlace end) { Select(Anchor(), end); }
   /// @}
@@ -81,6 +81,7 @@ class PanelSelection {
 
  private:
   [[nodiscard]] CellPlace Fitted(CellPlace place) const;
+  // Whether there are elements between the anchor and the end.
   [[nodiscard]] bool HasElements() const;
 
   const CellTable& table_;
