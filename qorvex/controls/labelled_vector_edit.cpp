@@ -199,6 +199,7 @@ TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* pa
   });
   connect(label, &TextCell::Left, this, [this, label, row_edit] {
     Parts().focus.Leave(*label);
+    Parts().selection.Left({Rows().Top() + row_edit, 0});
     Q_EMIT OnLabelExit(Rows().Top() + row_edit);
   });
   Watch(*label);

@@ -96,6 +96,13 @@ TEST_F(MatrixSelection, IsMadeWithKeysAndScrollsWithThem) {
   }
   EXPECT_EQ(changes.count(), 16) << "one a step, where the selection differs";
   EXPECT_EQ(Marked(), ".xxxxxxxxxxx") << "all but the cell that has the focus";
+  other->setFocus();
+  editor->setFocus();
+  EXPECT_EQ(Selected(), "0+6 0+5") << "it survives another field";
+  other->setFocus();
+  editor->setColEditFocus(1);
+  EXPECT_EQ(Selected(), "0+1 1+1");
+  editor->setColEditFocus(0);
 
   // Elements are selected, not cells; fewer elements leave fewer.
   editor->Select({1, 2, 0, 99});

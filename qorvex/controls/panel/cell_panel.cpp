@@ -71,6 +71,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   });
   connect(&cell, &TQorCustomEdit::Left, this, [=, this, &cell] {
     parts_->focus.Leave(cell);
+    parts_->selection.Left({row(), col()});
     table_.Notify(CellEvent::kExit, row(), col());
   });
   connect(&cell, &TQorCustomEdit::textEdited, this,

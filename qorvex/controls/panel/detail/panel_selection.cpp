@@ -118,7 +118,8 @@ void PanelSelection::Clear() {
 void PanelSelection::Entered(bool by_mouse) {
   if (held_ == Hold::Entry::kKeeps) return;
   if (!by_mouse) {
-    Clear();
+    chosen_ = chosen_ && Current() == left_;
+    Update();
   } else if (!chosen_) {
     chosen_ = true;
     anchor_ = end_ = {announced_.row, announced_.col};

@@ -56,9 +56,12 @@ class PanelSelection {
   /// Back to the element under the focus.
   void Clear();
 
-  /// The focus has come to another cell. This clears the selection, but not if the mouse has
-  /// brought it: the press selects next, perhaps from the old anchor on.
+  /// The focus has come to a cell. This clears the selection, but not if the focus was last at the
+  /// same element, nor if the mouse has brought it: the press selects next, perhaps from the old
+  /// anchor on.
   void Entered(bool by_mouse);
+  /// The focus has left the cell of an element.
+  void Left(CellPlace element) { left_ = element; }
   /// While it lives, cells can be entered and the table can scroll without an Update; entering a
   /// cell clears the selection or keeps it. Call Update afterwards.
   class Hold {
@@ -93,6 +96,7 @@ class PanelSelection {
   bool chosen_ = false;
   CellPlace anchor_;
   CellPlace end_;
+  CellPlace left_;
   std::optional<Hold::Entry> held_;
   bool marked_ = false;
   TQorCellRange announced_;
