@@ -72,7 +72,8 @@ void CellPanel::ClearSelection() {
 }
 
 bool CellPanel::CopyCells(const TQorCellRange& range) {
-  parts_->focus.CommitPending();
+  parts_->focus.CommitUnless(
+      [&range](quint32 row, quint32 col) { return !range.Contains(row, col); });
   const TQorCellRange inside = range.Within(table_.RowCount(), table_.ColCount());
   if (inside.IsEmpty() || parts_->grid.IsEmpty()) return false;
   const quint64 values = quint64{inside.rows} * inside.cols;
