@@ -321,6 +321,39 @@ TEST_F(MatrixSelection, NamesTheElementUnderTheMouseAndOffersAMenu) {
   EXPECT_EQ(Selected(), "6+1 0+1") << "the spare row";
 }
 
+TEST_F(MatrixSelection, OffersItsMenuOnHeadings) {
+  Open();
+  editor->setCanGrow(true);
+  editor->setRowHeadings(true);
+  editor->setColHeadings(true);
+  QString place;
+  QObject::connect(
+      editor, &CellPanel::OnContextMenu, editor,
+      [&](QMenu&, quint32 row, quint32 col) { place = QString("%1 %2").arg(row).arg(col); });
+  const auto open = [this](const char* bar_name, const char* entry) {
+    auto* const bar = editor->findChild<QWidget*>(bar_name);
+    const QPoint at(5, 5);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, bar->mapToGlobal(at));
+    QApplication::sendEvent(bar, &event);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return false;
+    for (QAction* action : menu->actions()) {
+      if (action->text().startsWith(entry)) action->trigger();
+    }
+    return menu->close();
+  };
+  Type("5");
+  EXPECT_TRUE(open("ColHeadings", "none"));
+  EXPECT_EQ(editor->Element(1, 1), 5);
+  EXPECT_EQ(Selected() + ' ' + place.toStdString(), "0+6 0+1 0 0");
+  editor->SelectRows(0, 3);
+  EXPECT_TRUE(open("RowHeadings", "Delete Rows")) << "of the selection";
+  EXPECT_EQ(editor->NoOfRows(), 3U);
+  EXPECT_EQ(editor->Element(0, 0), 30);
+  editor->setContextMenuPolicy(Qt::NoContextMenu);
+  EXPECT_FALSE(open("RowHeadings", "Delete Rows"));
+}
+
 using LabelSelection = SelectionFixture<TQorLabelledVectorEdit>;
 
 TEST_F(LabelSelection, TakesWholeRowsByTheirLabels) {
@@ -356,12 +389,26 @@ TEST_F(LabelSelection, TakesWholeRowsByTheirLabels) {
   editor->setCanGrow(false);
   editor->ScrollTop();
 
+  const auto menu = [&label](int row) {
+    const std::unique_ptr<QMenu> of_label(qobject_cast<TextCell*>(label(row))->CreateContextMenu());
+    QStringList texts;
+    for (const QAction* action : of_label->actions()) {
+      texts.append(action->text().section('\t', 0, 0).remove('&'));
+    }
+    return texts.join('|').toStdString();
+  };
+  QTest::mouseClick(label(1), Qt::LeftButton);
+  EXPECT_EQ(menu(1).find("Cut|Copy|Paste|Delete||Fill Down||Select All||Copy All Values|"), 0U);
+
   // A label that can be typed keeps its keys.
   editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
   editor->setLabel(1, "two");
   editor->setLabelsEditable(true);
+  QTest::mouseClick(label(2), Qt::LeftButton);
+  EXPECT_EQ(Selected(), "2+1 0+1");
   label(1)->setFocus();
   Press(Qt::Key_A, kCtrl);
+  EXPECT_EQ(menu(1), "Undo|Redo||Cut|Copy|Paste|Delete||Select All||Copy All Values|");
   Press(Qt::Key_X, kCtrl);
   EXPECT_EQ(Clipboard(), "two");
   Press(Qt::Key_Down);

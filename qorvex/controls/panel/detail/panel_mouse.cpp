@@ -44,10 +44,13 @@ bool PanelMouse::Handle(TextCell& text, QMouseEvent& event) {
 
 bool PanelMouse::Press(TextCell& text, bool is_cell, CellPlace element, const QMouseEvent& event) {
   dragged_ = nullptr;
-  if (focus_.KeysBelongToText()) return false;
   const bool left = event.button() == Qt::LeftButton;
   // A menu that opens on the selection is about the selection.
   if (!left && selection_.Range().Contains(element.row, element.col)) return false;
+  if (focus_.KeysBelongToText()) {
+    if (!is_cell) selection_.Clear();
+    return false;
+  }
   const bool extends = left && event.modifiers().testFlag(Qt::ShiftModifier);
   if (left) dragged_ = &text;
   drags_rows_ = !is_cell;
