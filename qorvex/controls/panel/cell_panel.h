@@ -188,7 +188,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// locale: tabs separate columns, and each row ends with a line end, except a single value.
   /// Infinities are copied as "inf", which PasteBlock refuses. More than ten million elements are
   /// refused by OnBlockRefused. Without elements the clipboard keeps its contents. False if it
-  /// does.
+  /// does. What is being typed is committed first if its element is copied.
   bool CopyCells(const TQorCellRange& range);
   bool Copy();
   void CopyAll();
