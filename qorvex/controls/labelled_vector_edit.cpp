@@ -172,14 +172,12 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
 
 void TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
                                          Extended value) {
-  Parts().focus.CommitPending();
   const Update update(*this);
   TQorVectorEdit::InsertLines(axis, first, count, value);
   if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, 0, count);
 }
 
 void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
-  Parts().focus.CommitPending();
   const Update update(*this);
   TQorVectorEdit::RemoveLines(axis, first, count);
   if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, count, 0);
@@ -187,6 +185,7 @@ void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 c
 
 std::function<void()> TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
   auto labels = QorvexControls::detail::EntriesOf(custom_labels_, first, count);
+  if (labels.empty()) return {};
   return [this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); };
 }
 

@@ -38,7 +38,6 @@ void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 cou
     rows ? Q_EMIT OnInsertRows(first, count) : Q_EMIT OnInsertCols(first, count);
     return;
   }
-  Parts().focus.CommitPending();
   // A handler may have changed the size.
   first = std::min(first, rows ? NoOfRows() : NoOfCols());
   const Update update(*this);
@@ -89,7 +88,6 @@ void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 cou
     rows ? Q_EMIT OnDeleteRows(first, count) : Q_EMIT OnDeleteCols(first, count);
     return;
   }
-  Parts().focus.CommitPending();
   const quint32 lines = rows ? NoOfRows() : NoOfCols();
   count = std::min(count, lines - std::min(first, lines));
   const Update update(*this);

@@ -88,8 +88,8 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
     StoreLater(row, col, value);
     return;
   }
-  if (row >= table_.RowCount()) {
-    AppendRow(cell, row, col, value);
+  if (row >= table_.RowCount() || col >= table_.ColCount()) {
+    AppendLines(cell, row, col, value);
     return;
   }
   // The cell may have shown null in place of the element.
@@ -118,7 +118,8 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   const std::optional<QString> typed = count > axis.Count() ? TakeFromSpareRow(axis) : std::nullopt;
-  SetLines(axis, count, axis.HasSpare());
+  const bool is_cols = &axis == &parts_->cols;
+  SetLines(axis, count, is_cols ? HasSpareCol(count) : axis.HasSpare());
   axis.ReachWantedTop();
   parts_->layout.CountChanged();
   AnnounceSize();
@@ -169,7 +170,7 @@ Qt::FocusPolicy CellPanel::CellFocusPolicy() const {
 
 void CellPanel::SettingsChanged() {
   ApplySettings();
-  FitSpareRow();
+  FitSpareLines();
 }
 
 void CellPanel::DoColorSetChange() {

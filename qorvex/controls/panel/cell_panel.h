@@ -255,7 +255,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// New elements are null if AllowKbdNull is set, otherwise 0. The spare row does not count as a
   /// row, but it can be the current one: events of cells then name the row after the last. There is
   /// none while the editor is read-only, nor in virtual mode without a model unless OnInsertRows is
-  /// handled.
+  /// handled. A matrix without columns has a spare column in the same way.
   [[nodiscard]] bool CanGrow() const noexcept { return can_grow_; }
   void setCanGrow(bool grow);
   void resetCanGrow() { setCanGrow(false); }
@@ -364,8 +364,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void InsertLines(CellAxis axis, quint32 first, quint32 count);
   void DeleteLines(CellAxis axis, quint32 first, quint32 count);
   /// @}
-  /// Decides whether there is a spare row. Call when CanInsert of the table may have changed.
-  void FitSpareRow();
+  /// Decides whether there is a spare row or column. Call when CanInsert of the table may have
+  /// changed.
+  void FitSpareLines();
   /// Makes the missing cells and drops those that are too many.
   void FitGrid();
   /// Applies the settings to the cells.
@@ -402,12 +403,13 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
-  void AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
+  void AppendLines(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
   void SetLines(detail::PanelAxis& axis, quint32 count, bool spare);
   // What is being typed into the spare row stays with it when the program appends rows.
   std::optional<QString> TakeFromSpareRow(const detail::PanelAxis& axis);
   void TypeIntoSpareRow(const QString& typed);
   [[nodiscard]] bool MayGrow(CellAxis axis) const;
+  [[nodiscard]] bool HasSpareCol(quint32 cols) const;
   [[nodiscard]] Extended NewElement() const;
   [[nodiscard]] CellAxis AxisOfSelection() const;
   void ChangeSelectedLines(CellAxis axis, bool insert);

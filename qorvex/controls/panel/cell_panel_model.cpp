@@ -35,7 +35,7 @@ void CellPanel::SwitchModel(QAbstractItemModel* model) {
     table_.SetSize(size.rows, size.cols);
   }
   if (VirtualMode() != was_virtual) table_.VirtualModeChanged();
-  FitSpareRow();
+  FitSpareLines();
 }
 
 void CellPanel::ModelDeleted() {

@@ -78,7 +78,8 @@ bool AccessiblePanel::HasColHeadings() const {
 bool AccessiblePanel::IsReadOnly(const AccessiblePlace& place) const {
   if (place.kind != Kind::kElement || state().readOnly) return true;
   const CellTable& table = Parts()->table;
-  return place.row < table.RowCount() && table.IsReadOnly(place.row, place.col);
+  return place.row < table.RowCount() && place.col < table.ColCount() &&
+         table.IsReadOnly(place.row, place.col);
 }
 
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
@@ -87,7 +88,7 @@ QString AccessiblePanel::Name(const AccessiblePlace& place) const {
 
 QString AccessiblePanel::Text(const AccessiblePlace& place) const {
   const PanelParts& parts = *Parts();
-  if (place.row >= parts.table.RowCount()) return {};
+  if (place.row >= parts.table.RowCount() || place.col >= parts.table.ColCount()) return {};
   switch (place.kind) {
     case Kind::kRowHeading:
       return parts.table.RowHeading(place.row);

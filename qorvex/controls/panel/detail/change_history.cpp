@@ -15,10 +15,6 @@ namespace {
 // The stack of the history itself also limits the number of steps, since obsolete ones stay on it.
 constexpr int kMostSteps = 10'000;
 
-qint64 BytesOf(const ElementChanges& changes) {
-  return static_cast<qint64>(changes.size() * sizeof(ElementChange));
-}
-
 // Whether a part of a stack has a command that is not obsolete; the newest ones are looked at
 // first.
 bool IsAlive(const QUndoStack& stack, int begin, int end) {
@@ -63,8 +59,8 @@ bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
   const bool undisturbed = RunBatch([&] {
     try {
       for (const LineInsertion& insertion : lines) {
-        table_.InsertLines(insertion.axis, insertion.first, insertion.count, insertion.value);
-        if (!table_.IsVirtual()) step->Add(Insertion(insertion), 0);
+        Insert(insertion);
+        if (!table_.IsVirtual()) step->Add(Moving(insertion, true), 0);
       }
       complete = lines.empty() || std::ranges::all_of(*shared, [this](const ElementChange& change) {
                    return Has(change.row, change.col);
@@ -90,8 +86,7 @@ void ChangeHistory::Remove(CellAxis axis, quint32 first, quint32 count, const QS
     return;
   }
   auto step = std::make_unique<Step>(text, false);
-  const auto elements = std::make_shared<const ElementChanges>(ElementsOf(axis, first, count));
-  step->Add(Removal(axis, first, count, elements), BytesOf(*elements));
+  step->Add(Moving({axis, first, count, 0}, false), 0);
   if (!RunBatch([&] { step->RunParts(false); })) step = std::make_unique<Step>(text, false);
   Push(std::move(step));
 }
@@ -112,13 +107,13 @@ void ChangeHistory::Record(const ElementChange& before) {
 void ChangeHistory::RecordCommand(const QString& text, qint64 bytes,
                                   std::function<void()> exchange) {
   auto step = std::make_unique<Step>(text, true);
-  step->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  step->Add([run = std::move(exchange), bytes](bool) { return run(), bytes; }, bytes);
   Push(std::move(step));
 }
 
 void ChangeHistory::ExtendCommand(qint64 bytes, std::function<void()> exchange) {
   if (last_command_ == nullptr) return;
-  last_command_->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  last_command_->Add([run = std::move(exchange), bytes](bool) { return run(), bytes; }, bytes);
   KeepWithinLimit();
 }
 
@@ -141,7 +136,7 @@ void ChangeHistory::Push(std::unique_ptr<Step> step) {
   Settle();
 }
 
-void ChangeHistory::RunStep(const Step& step, bool undo) {
+void ChangeHistory::RunStep(Step& step, bool undo) {
   try {
     RunBatch([&] { step.RunParts(undo); });
     restored_ = true;
@@ -170,7 +165,10 @@ void ChangeHistory::Settle() {
 }
 
 void ChangeHistory::KeepWithinLimit() {
-  while (bytes_ > limit_ && steps_.size() > 1) steps_.front()->Drop();
+  while (bytes_ > limit_ && steps_.size() > 1) {
+    // What is redone builds on the steps before it.
+    (steps_.front()->IsDone() ? steps_.front() : steps_.back())->Drop();
+  }
 }
 
 void ChangeHistory::Forget() {

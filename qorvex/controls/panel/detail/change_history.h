@@ -24,6 +24,9 @@ struct ElementChange {
   Extended value;
 };
 using ElementChanges = std::vector<ElementChange>;
+[[nodiscard]] inline qint64 BytesOf(const ElementChanges& changes) {
+  return static_cast<qint64>(changes.size() * sizeof(ElementChange));
+}
 /// Where the element of a change is now; nothing if it is gone.
 using ElementPlaces = std::function<std::optional<CellPlace>(std::size_t change)>;
 
@@ -49,6 +52,8 @@ class ChangeHistory {
  public:
   /// What the history needs from the panel.
   struct Owner {
+    /// Commits what is being typed if it is in the given lines.
+    std::function<void(CellAxis axis, quint32 first, quint32 end)> commit_lines;
     /// Runs a function while the display waits, and displays the result.
     std::function<void(const std::function<void()>& run)> batch;
     /// Follows elements that may move while they are stored; an empty function if they cannot.
@@ -114,21 +119,25 @@ class ChangeHistory {
 
  private:
   class Step;
-  // Runs a part of a step.
-  using Part = std::function<void(bool undo)>;
+  struct RemovedLines;
+  // Runs a part of a step. The result is how many bytes it holds now.
+  using Part = std::function<qint64(bool undo)>;
 
   void Push(std::unique_ptr<Step> step);
   // False if a handler has pushed or forgotten something meanwhile.
   bool RunBatch(const std::function<void()>& run);
-  void RunStep(const Step& step, bool undo);
+  void RunStep(Step& step, bool undo);
   void KeepWithinLimit();
   // Raises what is due when the stack is at rest.
   void Settle();
   [[nodiscard]] Part Exchanging(const std::shared_ptr<ElementChanges>& changes);
-  [[nodiscard]] Part Insertion(const LineInsertion& lines);
-  [[nodiscard]] Part Removal(CellAxis axis, quint32 first, quint32 count,
-                             const std::shared_ptr<const ElementChanges>& elements);
-  [[nodiscard]] ElementChanges ElementsOf(CellAxis axis, quint32 first, quint32 count) const;
+  // Inserts the lines and removes them in turn. What they have when they go comes back with them.
+  [[nodiscard]] Part Moving(const LineInsertion& lines, bool undo_removes);
+  void TakeOut(RemovedLines& removed);
+  void PutBack(RemovedLines& removed);
+  void Insert(const LineInsertion& lines);
+  // The elements that differ from the value with which the lines are inserted.
+  [[nodiscard]] ElementChanges ElementsOf(const LineInsertion& lines) const;
   // Stores the changes and puts the values that were there in their place. False, and nothing
   // changes, if an element refuses its value.
   bool Exchange(const std::shared_ptr<ElementChanges>& changes);

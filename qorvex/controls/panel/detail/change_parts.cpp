@@ -1,5 +1,6 @@
 // What the steps of a history do with its table.
 
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -15,49 +16,67 @@ constexpr CellPlace kNowhere{std::numeric_limits<quint32>::max(), 0};
 
 }  // namespace
 
+// Lines to insert again, and what they had beside the value of all.
+struct ChangeHistory::RemovedLines {
+  explicit RemovedLines(const LineInsertion& to_insert) : lines(to_insert) {}
+
+  LineInsertion lines;
+  ElementChanges elements;
+  std::function<void()> bring_back;
+};
+
 ChangeHistory::Part ChangeHistory::Exchanging(const std::shared_ptr<ElementChanges>& changes) {
   return [this, changes](bool) {
     // A model may refuse a value that it had itself.
     if (!Exchange(changes)) Forget();
+    return BytesOf(*changes);
   };
 }
 
-ChangeHistory::Part ChangeHistory::Insertion(const LineInsertion& lines) {
-  return [this, lines](bool undo) {
-    if (undo) {
-      table_.RemoveLines(lines.axis, lines.first, lines.count);
-    } else {
-      table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
-    }
+ChangeHistory::Part ChangeHistory::Moving(const LineInsertion& lines, bool undo_removes) {
+  return [this, undo_removes, removed = std::make_shared<RemovedLines>(lines)](bool undo) {
+    undo == undo_removes ? TakeOut(*removed) : PutBack(*removed);
+    return BytesOf(removed->elements);
   };
 }
 
-ChangeHistory::Part ChangeHistory::Removal(CellAxis axis, quint32 first, quint32 count,
-                                           const std::shared_ptr<const ElementChanges>& elements) {
-  const auto keep = table_.KeepLineData(axis, first, count);
-  return [=, this](bool undo) {
-    if (!undo) {
-      table_.RemoveLines(axis, first, count);
-      return;
-    }
-    table_.InsertLines(axis, first, count, 0);
-    for (const auto& [row, col, value] : *elements) {
-      if (Has(row, col)) table_.Store(row, col, value);
-    }
-    if (keep) keep();
-  };
+void ChangeHistory::TakeOut(RemovedLines& removed) {
+  const auto& [axis, first, count, value] = removed.lines;
+  owner_.commit_lines(axis, first, std::numeric_limits<quint32>::max());
+  removed.elements = ElementsOf(removed.lines);
+  removed.bring_back = table_.KeepLineData(axis, first, count);
+  table_.RemoveLines(axis, first, count);
 }
 
-ElementChanges ChangeHistory::ElementsOf(CellAxis axis, quint32 first, quint32 count) const {
-  const bool rows = axis == CellAxis::kRows;
-  const quint32 row_end = rows ? first + count : table_.RowCount();
-  const quint32 col_end = rows ? table_.ColCount() : first + count;
+void ChangeHistory::PutBack(RemovedLines& removed) {
+  Insert(removed.lines);
+  for (const auto& [row, col, value] : removed.elements) {
+    if (Has(row, col)) table_.Store(row, col, value);
+  }
+  if (removed.bring_back) removed.bring_back();
+  removed.elements = {};
+  removed.bring_back = {};
+}
+
+void ChangeHistory::Insert(const LineInsertion& lines) {
+  const bool rows = lines.axis == CellAxis::kRows;
+  owner_.commit_lines(lines.axis, lines.first, rows ? table_.RowCount() : table_.ColCount());
+  table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
+}
+
+ElementChanges ChangeHistory::ElementsOf(const LineInsertion& lines) const {
+  const bool rows = lines.axis == CellAxis::kRows;
+  const quint32 end = lines.first + lines.count;
+  const quint32 row_end = rows ? std::min(end, table_.RowCount()) : table_.RowCount();
+  const quint32 col_end = rows ? table_.ColCount() : std::min(end, table_.ColCount());
   ElementChanges elements;
-  for (quint32 row = rows ? first : 0; row < row_end; ++row) {
-    for (quint32 col = rows ? 0 : first; col < col_end; ++col) {
+  for (quint32 row = rows ? lines.first : 0; row < row_end; ++row) {
+    for (quint32 col = rows ? 0 : lines.first; col < col_end; ++col) {
       const Extended value = table_.Value(row, col);
-      // Lines are inserted with zeros.
-      if (!QorvexBaseControls::detail::SameElement(value, 0)) elements.push_back({row, col, value});
+      // Others are there as soon as the lines are.
+      if (!QorvexBaseControls::detail::SameElement(value, lines.value)) {
+        elements.push_back({row, col, value});
+      }
     }
   }
   return elements;

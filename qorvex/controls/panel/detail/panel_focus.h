@@ -31,6 +31,8 @@ class PanelFocus {
   /// The same before the elements change or are read, unless the one that is being edited stays as
   /// it is or is not concerned.
   void CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays);
+  /// The same before the lines from the first one on, up to the end, move.
+  void CommitLines(const PanelAxis& axis, quint32 first, quint32 end);
 
   /// @{
   /// Whether the keys of a text belong to the entered one: from the first typed character, F2 or a

@@ -84,13 +84,12 @@ void PanelHeadings::SetCols(bool on) {
   FitCorner();
 }
 
-// A row or a column that waits for its first element has no heading yet.
 QString PanelHeadings::RowText(quint32 row) const {
   return row < table_.RowCount() ? table_.RowHeading(row) : QString(kSpareMark);
 }
 
 QString PanelHeadings::ColText(quint32 col) const {
-  return col < table_.ColCount() ? table_.ColHeading(col) : QString();
+  return col < table_.ColCount() ? table_.ColHeading(col) : QString(kSpareMark);
 }
 
 bool PanelHeadings::IsRowSelected(quint32 row) const {

@@ -30,7 +30,11 @@ struct PanelParts {
       : table(panel.table_),
         settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
-                {.batch =
+                {.commit_lines =
+                     [this](CellAxis axis, quint32 first, quint32 end) {
+                       focus.CommitLines(axis == CellAxis::kRows ? rows : cols, first, end);
+                     },
+                 .batch =
                      [&panel](const std::function<void()>& run) {
                        const CellPanel::Update update(panel);
                        run();

@@ -49,13 +49,14 @@ class ChangeHistory::Step final : public QUndoCommand {
     setObsolete(true);
   }
 
-  /// Undoes or redoes the parts.
-  void RunParts(bool undo) const {
+  /// Undoes or redoes the parts of a step that belongs to no history.
+  void RunParts(bool undo) {
+    bytes_ = kOwnBytes;
     if (!undo) {
-      for (const Part& part : parts_) part(false);
+      for (const Part& part : parts_) bytes_ += part(false);
       return;
     }
-    for (auto part = parts_.rbegin(); part != parts_.rend(); ++part) (*part)(true);
+    for (auto part = parts_.rbegin(); part != parts_.rend(); ++part) bytes_ += (*part)(true);
   }
 
   void undo() override { Run(true); }
@@ -70,7 +71,11 @@ class ChangeHistory::Step final : public QUndoCommand {
     Step running(text(), is_command_);
     running.parts_.swap(parts_);
     history_->RunStep(running, undo);
-    if (history_ != nullptr) parts_.swap(running.parts_);
+    if (history_ == nullptr) return;
+    parts_.swap(running.parts_);
+    history_->bytes_ += running.bytes_ - bytes_;
+    bytes_ = running.bytes_;
+    history_->KeepWithinLimit();
   }
 
   // The step itself, with what it counts for without its parts.
