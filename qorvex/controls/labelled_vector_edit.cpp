@@ -28,10 +28,21 @@ qint64 BytesOfLabels(const std::map<quint32, QString>& labels) {
 /// The cell of a label.
 class TQorLabelledVectorEdit::LabelCell : public TextCell {
  public:
-  LabelCell(QWidget* parent, std::function<void(const QString&)> changed)
-      : TextCell(parent), changed_(std::move(changed)) {}
+  LabelCell(QWidget* parent, quint32 row_edit, std::function<void(const QString&)> changed)
+      : TextCell(parent), row_edit_(row_edit), changed_(std::move(changed)) {}
 
+  [[nodiscard]] quint32 RowEdit() const noexcept { return row_edit_; }
   void Show(const QString& label) { ShowText(label, true); }
+  void SetEditable(bool editable, bool tab_stop) {
+    setFocusPolicy(editable && tab_stop ? Qt::StrongFocus : Qt::ClickFocus);
+    if (editable != isReadOnly()) return;
+    setReadOnly(!editable);
+    setFrame(editable);
+    // Labels that cannot be typed look like the header of a table.
+    QPalette palette;
+    if (!editable) palette.setColor(QPalette::Base, Qt::transparent);
+    setPalette(palette);
+  }
 
   bool Commit() override {
     if (Pending()) {
@@ -44,6 +55,7 @@ class TQorLabelledVectorEdit::LabelCell : public TextCell {
   }
 
  private:
+  quint32 row_edit_;
   std::function<void(const QString&)> changed_;
 };
 
@@ -204,14 +216,15 @@ QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
 
 TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* panel,
                                                                      quint32 row_edit) {
-  auto* const label =
-      new LabelCell(panel, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
+  auto* const label = new LabelCell(
+      panel, row_edit, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
   connect(label, &TextCell::Entered, this, [this, label, row_edit] {
     Parts().focus.Enter(*label, {row_edit, 0}, true);
     Parts().selection.Entered(label->EnteredByMouse());
   });
   connect(label, &TextCell::Left, this, [this, label, row_edit] {
     Parts().focus.Leave(*label);
+    Parts().selection.Left({Rows().Top() + row_edit, 0});
     Q_EMIT OnLabelExit(Rows().Top() + row_edit);
   });
   Watch(*label);
@@ -238,22 +251,24 @@ void TQorLabelledVectorEdit::ApplyLabelSettings() {
 }
 
 void TQorLabelledVectorEdit::ApplyTo(TextCell& label, const CellSettings& settings) const {
-  // Labels that cannot be typed look like the header of a table.
-  QPalette palette;
-  if (!labels_editable_) palette.setColor(QPalette::Base, Qt::transparent);
-  label.setPalette(palette);
-  label.setFrame(labels_editable_);
   label.setAlignment(label_alignment_);
-  label.setReadOnly(!labels_editable_);
-  label.setFocusPolicy(labels_editable_ && TabStop() ? Qt::StrongFocus : Qt::ClickFocus);
   label.SetSelectionBehaviour(settings.selection);
+  FitEditing(static_cast<LabelCell&>(label));
+}
+
+void TQorLabelledVectorEdit::FitEditing(LabelCell& label) const {
+  // A text typed in front of the spare row would have no row.
+  const bool is_spare = Parts().rows.HasSpare() && Rows().Top() + label.RowEdit() == NoOfRows();
+  label.SetEditable(labels_editable_ && !is_spare, TabStop());
 }
 
 void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool used) {
   const quint32 row = Rows().Top() + row_edit;
   // A star marks the spare row.
   const QString text = row < NoOfRows() ? Label(row) : QString(QorvexControls::detail::kSpareMark);
-  static_cast<LabelCell&>(label).Show(used ? text : QString());
+  auto& cell = static_cast<LabelCell&>(label);
+  cell.Show(used ? text : QString());
+  FitEditing(cell);
   label.setEnabled(used);
 }
 

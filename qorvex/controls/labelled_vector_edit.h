@@ -128,6 +128,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void ShowLabel(TextCell& label, quint32 row_edit, bool used);
   [[nodiscard]] QString LabelName(quint32 row_edit) const;
   void ApplyTo(TextCell& label, const CellSettings& settings) const;
+  void FitEditing(LabelCell& label) const;
   void ApplyLabelSettings();
   [[nodiscard]] QString CustomLabel(quint32 row) const;
   void SetCustomLabel(quint32 row, const QString& label);

@@ -327,9 +327,15 @@ TEST_F(GrowingLabels, MoveWithTheirRows) {
   auto cells = editor->findChildren<QLineEdit*>();
   cells.removeIf([](QLineEdit* cell) { return qobject_cast<TQorFloatEdit*>(cell) != nullptr; });
   EXPECT_EQ(cells[3]->text(), "*") << "marks the spare row";
-  cells[3]->setFocus();
+  EXPECT_TRUE(cells[3]->isReadOnly()) << "there is no row that could have the label";
+  EXPECT_EQ(cells[3]->focusPolicy(), Qt::ClickFocus);
+  FocusEdit(3);
+  Enter("4");
+  EXPECT_TRUE(cells[3]->isReadOnly()) << "the next spare row";
+  EXPECT_FALSE(cells[2]->isReadOnly());
+  cells[2]->setFocus();
   Enter("d");
-  EXPECT_EQ(cells[3]->text(), "*") << "there is no row that could have the label";
+  EXPECT_EQ(editor->Label(3), "d");
 }
 
 }  // namespace qorvex

@@ -71,6 +71,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   });
   connect(&cell, &TQorCustomEdit::Left, this, [=, this, &cell] {
     parts_->focus.Leave(cell);
+    parts_->selection.Left({row(), col()});
     table_.Notify(CellEvent::kExit, row(), col());
   });
   connect(&cell, &TQorCustomEdit::textEdited, this,
@@ -78,10 +79,6 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::Refused, this,
           [=, this, &cell] { RefuseText(cell, row(), col(), cell.Refusal()); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
-  connect(&cell, &TQorCustomEdit::MenuOpening, this, [=, this](QMenu* menu) {
-    AddToMenu(menu);
-    Q_EMIT OnContextMenu(*menu, row(), col());
-  });
   cell.StoreElsewhere = [=, this, &cell](Extended value) { DoChange(cell, row(), col(), value); };
   Watch(cell);
 }
@@ -155,6 +152,11 @@ void CellPanel::Redisplay() {
 
 void CellPanel::Watch(TextCell& text) {
   connect(&text, &QLineEdit::textEdited, this, [this] { parts_->focus.SetEditing(true); });
+  connect(&text, &TextCell::MenuOpening, this, [this, &text](QMenu* menu) {
+    const detail::CellGrid::Spot spot = parts_->grid.SpotOf(text);
+    const detail::CellPlace element{Rows().Top() + spot.place.row, Cols().Top() + spot.place.col};
+    FillMenu(*menu, spot.is_cell ? parts_->typed_place.value_or(element) : element);
+  });
   parts_->keys.Watch(text);
 }
 

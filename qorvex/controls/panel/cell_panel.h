@@ -188,7 +188,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// locale: tabs separate columns, and each row ends with a line end, except a single value.
   /// Infinities are copied as "inf", which PasteBlock refuses. More than ten million elements are
   /// refused by OnBlockRefused. Without elements the clipboard keeps its contents. False if it
-  /// does.
+  /// does. What is being typed is committed first if its element is copied.
   bool CopyCells(const TQorCellRange& range);
   bool Copy();
   void CopyAll();
@@ -310,8 +310,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
   /// message names the element and says why.
   void OnTextRefused(const QString& message);
-  /// The menu of the element's cell is about to open: add to it. It is raised as long as the
-  /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
+  /// The menu of an element is about to open, in its cell or its label: add to it. For a heading it
+  /// is the first element of the row or column. The signal is raised as long as the control's
+  /// contextMenuPolicy is the default; other policies replace the menu, as in any widget.
   void OnContextMenu(QMenu& menu, quint32 row, quint32 col);
 
   /// @{
@@ -419,10 +420,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool MakeNull(const QString& step);
   bool RequireChangeable();
   bool RequireNulls();
-  void AddSelectionToMenu(QMenu* menu);
+  void AddSelectionToMenu(QMenu& menu);
   void RefuseBlock(const QString& message);
   void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason);
-  void AddToMenu(QMenu* menu);
+  // The menu of an element, its label or its heading.
+  void FillMenu(QMenu& menu, const detail::CellPlace& element);
+  void OpenMenu(const detail::CellPlace& element, const QPoint& place);
   // For screen readers.
   void NameBars();
   void AnnounceSize();

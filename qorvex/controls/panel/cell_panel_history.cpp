@@ -217,7 +217,7 @@ void CellPanel::AddHistoryToMenu(QMenu& menu) {
     connect(detail::AddEntry(menu, text, keys, enabled), &QAction::triggered, this, function);
   };
   // A text that is being edited has its own entries.
-  if (!parts_->focus.Editing()) {
+  if (!parts_->focus.KeysBelongToText()) {
     menu.addSeparator();
     add(QCoreApplication::translate("CellPanel", "Undo"), "Ctrl+Z", CanUndo(), &CellPanel::Undo);
     add(QCoreApplication::translate("CellPanel", "Redo"), "Ctrl+Y", CanRedo(), &CellPanel::Redo);
