@@ -13,13 +13,36 @@
 
 namespace qorvex::inline QorvexVectorEdit {
 
+namespace {
+
+qint64 BytesOfLabels(const std::map<quint32, QString>& labels) {
+  qint64 bytes = QorvexControls::detail::BytesOf(labels);
+  for (const auto& [row, label] : labels) {
+    bytes += label.size() * static_cast<qint64>(sizeof(QChar));
+  }
+  return bytes;
+}
+
+}  // namespace
+
 /// The cell of a label.
 class TQorLabelledVectorEdit::LabelCell : public TextCell {
  public:
-  LabelCell(QWidget* parent, std::function<void(const QString&)> changed)
-      : TextCell(parent), changed_(std::move(changed)) {}
+  LabelCell(QWidget* parent, quint32 row_edit, std::function<void(const QString&)> changed)
+      : TextCell(parent), row_edit_(row_edit), changed_(std::move(changed)) {}
 
+  [[nodiscard]] quint32 RowEdit() const noexcept { return row_edit_; }
   void Show(const QString& label) { ShowText(label, true); }
+  void SetEditable(bool editable, bool tab_stop) {
+    setFocusPolicy(editable && tab_stop ? Qt::StrongFocus : Qt::ClickFocus);
+    if (editable != isReadOnly()) return;
+    setReadOnly(!editable);
+    setFrame(editable);
+    // Labels that cannot be typed look like the header of a table.
+    QPalette palette;
+    if (!editable) palette.setColor(QPalette::Base, Qt::transparent);
+    setPalette(palette);
+  }
 
   bool Commit() override {
     if (Pending()) {
@@ -32,6 +55,7 @@ class TQorLabelledVectorEdit::LabelCell : public TextCell {
   }
 
  private:
+  quint32 row_edit_;
   std::function<void(const QString&)> changed_;
 };
 
@@ -138,8 +162,8 @@ void TQorLabelledVectorEdit::Sort() {
   TQorVectorEdit::Sort();
   if (!VirtualMode() && label_type_ == ltCustom) {
     const auto before = std::make_shared<std::map<quint32, QString>>(custom_labels_);
-    const auto bytes = static_cast<qint64>(before->size() * sizeof(*before->begin()));
-    Parts().history.ExtendCommand(bytes, [this, before] { std::swap(custom_labels_, *before); });
+    Parts().history.ExtendCommand(BytesOfLabels(*before),
+                                  [this, before] { std::swap(custom_labels_, *before); });
     SortCustomLabels();
   }
 }
@@ -160,22 +184,23 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
 
 void TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
                                          Extended value) {
-  Parts().focus.CommitPending();
   const Update update(*this);
   TQorVectorEdit::InsertLines(axis, first, count, value);
   if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, 0, count);
 }
 
 void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
-  Parts().focus.CommitPending();
   const Update update(*this);
   TQorVectorEdit::RemoveLines(axis, first, count);
   if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, count, 0);
 }
 
-std::function<void()> TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
+KeptLineData TQorLabelledVectorEdit::KeepLineData(CellAxis, quint32 first, quint32 count) {
   auto labels = QorvexControls::detail::EntriesOf(custom_labels_, first, count);
-  return [this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); };
+  if (labels.empty()) return {};
+  const qint64 bytes = BytesOfLabels(labels);
+  return {[this, kept = std::move(labels)] { custom_labels_.insert(kept.begin(), kept.end()); },
+          bytes};
 }
 
 QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
@@ -191,14 +216,15 @@ QString TQorLabelledVectorEdit::CellName(quint32 row, quint32 col) const {
 
 TQorLabelledVectorEdit::LabelCell* TQorLabelledVectorEdit::MakeLabel(QWidget* panel,
                                                                      quint32 row_edit) {
-  auto* const label =
-      new LabelCell(panel, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
+  auto* const label = new LabelCell(
+      panel, row_edit, [this, row_edit](const QString& text) { ChangeLabel(row_edit, text); });
   connect(label, &TextCell::Entered, this, [this, label, row_edit] {
     Parts().focus.Enter(*label, {row_edit, 0}, true);
     Parts().selection.Entered(label->EnteredByMouse());
   });
   connect(label, &TextCell::Left, this, [this, label, row_edit] {
     Parts().focus.Leave(*label);
+    Parts().selection.Left({Rows().Top() + row_edit, 0});
     Q_EMIT OnLabelExit(Rows().Top() + row_edit);
   });
   Watch(*label);
@@ -225,22 +251,24 @@ void TQorLabelledVectorEdit::ApplyLabelSettings() {
 }
 
 void TQorLabelledVectorEdit::ApplyTo(TextCell& label, const CellSettings& settings) const {
-  // Labels that cannot be typed look like the header of a table.
-  QPalette palette;
-  if (!labels_editable_) palette.setColor(QPalette::Base, Qt::transparent);
-  label.setPalette(palette);
-  label.setFrame(labels_editable_);
   label.setAlignment(label_alignment_);
-  label.setReadOnly(!labels_editable_);
-  label.setFocusPolicy(labels_editable_ && TabStop() ? Qt::StrongFocus : Qt::ClickFocus);
   label.SetSelectionBehaviour(settings.selection);
+  FitEditing(static_cast<LabelCell&>(label));
+}
+
+void TQorLabelledVectorEdit::FitEditing(LabelCell& label) const {
+  // A text typed in front of the spare row would have no row.
+  const bool is_spare = Parts().rows.HasSpare() && Rows().Top() + label.RowEdit() == NoOfRows();
+  label.SetEditable(labels_editable_ && !is_spare, TabStop());
 }
 
 void TQorLabelledVectorEdit::ShowLabel(TextCell& label, quint32 row_edit, bool used) {
   const quint32 row = Rows().Top() + row_edit;
   // A star marks the spare row.
   const QString text = row < NoOfRows() ? Label(row) : QString(QorvexControls::detail::kSpareMark);
-  static_cast<LabelCell&>(label).Show(used ? text : QString());
+  auto& cell = static_cast<LabelCell&>(label);
+  cell.Show(used ? text : QString());
+  FitEditing(cell);
   label.setEnabled(used);
 }
 

@@ -116,8 +116,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   /// Custom labels move with their rows; those of deleted rows come back with them.
   void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
   void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
-  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
-                                                   quint32 count) override;
+  [[nodiscard]] KeptLineData KeepLineData(CellAxis axis, quint32 first, quint32 count) override;
   /// @}
 
  private:
@@ -129,6 +128,7 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   void ShowLabel(TextCell& label, quint32 row_edit, bool used);
   [[nodiscard]] QString LabelName(quint32 row_edit) const;
   void ApplyTo(TextCell& label, const CellSettings& settings) const;
+  void FitEditing(LabelCell& label) const;
   void ApplyLabelSettings();
   [[nodiscard]] QString CustomLabel(quint32 row) const;
   void SetCustomLabel(quint32 row, const QString& label);

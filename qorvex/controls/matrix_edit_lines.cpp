@@ -38,7 +38,6 @@ void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 cou
     rows ? Q_EMIT OnInsertRows(first, count) : Q_EMIT OnInsertCols(first, count);
     return;
   }
-  Parts().focus.CommitPending();
   // A handler may have changed the size.
   first = std::min(first, rows ? NoOfRows() : NoOfCols());
   const Update update(*this);
@@ -89,7 +88,6 @@ void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 cou
     rows ? Q_EMIT OnDeleteRows(first, count) : Q_EMIT OnDeleteCols(first, count);
     return;
   }
-  Parts().focus.CommitPending();
   const quint32 lines = rows ? NoOfRows() : NoOfCols();
   count = std::min(count, lines - std::min(first, lines));
   const Update update(*this);
@@ -106,17 +104,19 @@ void TQorCustomMatrixEdit::RemoveLines(CellAxis axis, quint32 first, quint32 cou
   }
 }
 
-std::function<void()> TQorCustomMatrixEdit::KeepLineData(CellAxis axis, quint32 first,
-                                                         quint32 count) {
+KeptLineData TQorCustomMatrixEdit::KeepLineData(CellAxis axis, quint32 first, quint32 count) {
   if (axis == CellAxis::kRows) return {};
   auto widths = Parts().geometry.ColWidths().OwnSizes(first, count);
   auto formats = QorvexControls::detail::EntriesOf(Parts().grid.ColFormats(), first, count);
   if (widths.empty() && formats.empty()) return {};
-  return [this, kept_widths = std::move(widths), kept_formats = std::move(formats)] {
-    Parts().geometry.ColWidths().SetOwnSizes(kept_widths);
-    Parts().grid.ColFormats().insert(kept_formats.begin(), kept_formats.end());
-    ColsReplaced();
-  };
+  const qint64 bytes =
+      QorvexControls::detail::BytesOf(widths) + QorvexControls::detail::BytesOf(formats);
+  return {[this, kept_widths = std::move(widths), kept_formats = std::move(formats)] {
+            Parts().geometry.ColWidths().SetOwnSizes(kept_widths);
+            Parts().grid.ColFormats().insert(kept_formats.begin(), kept_formats.end());
+            ColsReplaced();
+          },
+          bytes};
 }
 
 }  // namespace qorvex::inline QorvexMatrixEdit

@@ -199,7 +199,6 @@ void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Ex
     Q_EMIT OnInsertRows(first, count);
     return;
   }
-  Parts().focus.CommitPending();
   // A handler may have shortened the vector.
   first = std::min(first, NoOfRows());
   const Update update(*this);
@@ -222,7 +221,6 @@ void TQorVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
     Q_EMIT OnDeleteRows(first, count);
     return;
   }
-  Parts().focus.CommitPending();
   count = std::min(count, NoOfRows() - std::min(first, NoOfRows()));
   const Update update(*this);
   SetCount(Parts().rows, NoOfRows() - count);
@@ -231,7 +229,7 @@ void TQorVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
   Q_EMIT OnRowNoChange(NoOfRows());
 }
 
-std::function<void()> TQorVectorEdit::KeepLineData(CellAxis, quint32, quint32) {
+KeptLineData TQorVectorEdit::KeepLineData(CellAxis, quint32, quint32) {
   return {};
 }
 

@@ -176,8 +176,7 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   [[nodiscard]] bool CanInsert(CellAxis axis) const override;
   void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
   void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
-  [[nodiscard]] std::function<void()> KeepLineData(CellAxis axis, quint32 first,
-                                                   quint32 count) override;
+  [[nodiscard]] KeptLineData KeepLineData(CellAxis axis, quint32 first, quint32 count) override;
   void VirtualModeChanged() override;
   void SetSize(quint32 rows, quint32 cols) override;
   /// @}

@@ -176,15 +176,16 @@ TYPED_TEST(Forms, KeepWhatIsBeingTypedAsLongAsItsElementStays) {
       [this] {
         this->SetAll({0, 1, 2, 3, 4, 5, 6, 7});
       },
+      [this] { this->editor->CopyCells({.row = 2, .rows = 3, .col = 0, .cols = 1}); },
   };
   for (const auto& change : changes) {
     this->Type("3");
     change();
   }
-  EXPECT_EQ(this->Cell(1)->text(), "33333");
+  EXPECT_EQ(this->Cell(1)->text(), "333333");
   EXPECT_EQ(this->Get(1), 1);
   this->editor->ScrollDown(1);
-  EXPECT_EQ(this->Get(1), 33333);
+  EXPECT_EQ(this->Get(1), 333333);
 
   // Other elements, fewer cells, and a widget that gets the focus end the typing.
   this->FocusEdit(2);

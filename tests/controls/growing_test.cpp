@@ -1,6 +1,7 @@
 // Tables that the user and the program make longer and shorter.
 
 #include <QMenu>
+#include <QUndoStack>
 #include <functional>
 #include <tuple>
 #include <vector>
@@ -158,6 +159,32 @@ TYPED_TEST(Growing, OfferRowsByMenuAndKeys) {
   EXPECT_EQ(this->editor->NoOfRows(), this->kIsVector ? 4U : 2U) << "or columns, if they are whole";
 }
 
+TYPED_TEST(Growing, KeepWhatIsTypedUnlessItsElementMoves) {
+  this->Open(3);
+  this->FocusEdit(1);
+  this->Type("1");
+  this->editor->setCanGrow(true);
+  this->Type("2");
+  this->editor->InsertRows(2, 1);
+  this->editor->InsertRows(4, 1);
+  this->Type("3");
+  this->editor->DeleteRows(2, 1);
+  this->editor->setCanGrow(false);
+  this->Type("4");
+  EXPECT_EQ(this->Texts(), "0|1234|2|");
+  EXPECT_EQ(this->Get(1), 1) << "nothing has been committed";
+  this->editor->InsertRows(1, 1);
+  EXPECT_EQ(this->Get(2), 1234);
+  this->editor->setCanGrow(true);
+  this->FocusEdit(3);
+  this->Press(Qt::Key_Down);
+  this->Press(Qt::Key_Down);
+  this->Type("5");
+  this->editor->InsertRows(0, 1);
+  this->Type("6");
+  EXPECT_EQ(this->Texts(), "1234|2||56") << "nor is it in the spare row, which only gets lower";
+}
+
 TYPED_TEST(Growing, ForgetTheTopOfAFormWhenTheProgramScrolls) {
   for (const auto scroll : {&CellPanel::ScrollTop, &CellPanel::ScrollBottom}) {
     TypeParam form;
@@ -166,6 +193,33 @@ TYPED_TEST(Growing, ForgetTheTopOfAFormWhenTheProgramScrolls) {
     form.setNoOfRows(100);
     EXPECT_EQ(form.DisplayTopRow(), 0U);
   }
+}
+
+TYPED_TEST(Growing, BringBackWhatInsertedAndDeletedRowsHadWhenTheyWent) {
+  this->Open(3);
+  this->editor->DeleteRows(1, 1);
+  this->editor->Undo();
+  this->Set(1, 7);
+  this->editor->Redo();
+  this->editor->Undo();
+  EXPECT_EQ(this->Texts(), "0|7|2|");
+  this->editor->InsertRows(0, 1);
+  this->Set(0, 8);
+  this->FocusEdit(0);
+  this->Type("9");
+  this->editor->UndoStack()->undo();
+  EXPECT_EQ(this->Texts(), "0|7|2|");
+  this->editor->Redo();
+  EXPECT_EQ(this->Texts(), "9|0|7|2") << "also what was being typed";
+  // What a step takes out of the table counts for the limit, and what is left can still be redone.
+  for (quint32 rows = 4; rows < 364; rows += 40) this->editor->InsertRows(rows, 40);
+  for (quint32 row = 4; row < 364; ++row) this->Set(row, row);
+  while (this->editor->CanUndo()) this->editor->Undo();
+  this->editor->setUndoLimit(5000);
+  while (this->editor->CanRedo()) this->editor->Redo();
+  const quint32 rows = this->editor->NoOfRows();
+  EXPECT_TRUE(4 < rows && rows < 364);
+  EXPECT_EQ(this->Get(rows - 1), rows - 1);
 }
 
 using GrowingMatrix = EditorFixture<TQorMatrixEdit>;
@@ -196,6 +250,12 @@ TEST_F(GrowingMatrix, InsertsAndDeletesLinesAnywhere) {
     EXPECT_TRUE(same(editor->Matrix(), result));
   }
   editor->setMatrix(start);
+  editor->InsertCols(1, 1);
+  editor->setColWidth(1, 150);
+  editor->Undo();
+  editor->Redo();
+  EXPECT_EQ(editor->ColWidth(1), 150);
+  editor->setMatrix(start);
   EXPECT_MATH_ERROR(editor->InsertRows(3, 1), rsInvalidRow);
   EXPECT_MATH_ERROR(editor->DeleteRows(1, 2), rsInvalidRow);
   EXPECT_MATH_ERROR(editor->InsertCols(4, 1), rsInvalidCol);
@@ -211,6 +271,26 @@ TEST_F(GrowingMatrix, InsertsAndDeletesLinesAnywhere) {
   EXPECT_TRUE(same(editor->Matrix(), {{1, 2}, {3, 0}}));
   editor->Undo();
   EXPECT_EQ(editor->NoOfRows() + editor->NoOfCols(), 0U);
+  // So do typed values: there is a spare column as long as there is none.
+  Show();
+  editor->setRowEditFocus(0);
+  EXPECT_TRUE(Cell(0)->hasFocus());
+  Enter("5");
+  Enter("6");
+  EXPECT_TRUE(same(editor->Matrix(), {{5}, {6}}));
+  editor->Undo();
+  editor->Undo();
+  EXPECT_TRUE(Cell(0)->isEnabled() && editor->NoOfCols() == 0);
+  QApplication::clipboard()->setText("1\t2\n3\t4");
+  Press(Qt::Key_V, Qt::ControlModifier);
+  EXPECT_TRUE(same(editor->Matrix(), {{1, 2}, {3, 4}}));
+  editor->setNoOfCols(0);
+  editor->setRowEditFocus(1);
+  Enter("7");
+  EXPECT_TRUE(same(editor->Matrix(), {{0}, {7}}));
+  editor->setNoOfCols(0);
+  editor->setCanGrow(false);
+  EXPECT_FALSE(Cell(0)->isEnabled());
   // Elements that never got memory cost none.
   editor->setNoOfRows(4'000'000'000U);
   editor->InsertRows(2, 100'000'000);
@@ -236,6 +316,10 @@ TEST_F(GrowingLabels, MoveWithTheirRows) {
   EXPECT_EQ(labels(), "a||");
   editor->Undo();
   EXPECT_EQ(labels(), "a||b|c|");
+  editor->setLabel(1, "new");
+  editor->Undo();
+  editor->Redo();
+  EXPECT_EQ(labels(), "a|new|b|c|");
   editor->Undo();
   editor->setCanGrow(true);
   editor->setLabelsEditable(true);
@@ -243,9 +327,15 @@ TEST_F(GrowingLabels, MoveWithTheirRows) {
   auto cells = editor->findChildren<QLineEdit*>();
   cells.removeIf([](QLineEdit* cell) { return qobject_cast<TQorFloatEdit*>(cell) != nullptr; });
   EXPECT_EQ(cells[3]->text(), "*") << "marks the spare row";
-  cells[3]->setFocus();
+  EXPECT_TRUE(cells[3]->isReadOnly()) << "there is no row that could have the label";
+  EXPECT_EQ(cells[3]->focusPolicy(), Qt::ClickFocus);
+  FocusEdit(3);
+  Enter("4");
+  EXPECT_TRUE(cells[3]->isReadOnly()) << "the next spare row";
+  EXPECT_FALSE(cells[2]->isReadOnly());
+  cells[2]->setFocus();
   Enter("d");
-  EXPECT_EQ(cells[3]->text(), "*") << "there is no row that could have the label";
+  EXPECT_EQ(editor->Label(3), "d");
 }
 
 }  // namespace qorvex

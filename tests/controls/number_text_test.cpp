@@ -103,6 +103,8 @@ TEST(NumberText, ReadsNumbersOfOtherPlacesOrSaysWhyNot) {
       {"fr", u"1.234|1,234", 1.234L},
       {"fr", u"1\u202F234|1'234", 1234},
       {"sv", u"\u22121\u00A0234,5", -1234.5L},
+      {"fr", u"1 234,5|1 234.5| 1 234,5e0 ", 1234.5L},
+      {"fr", u"1 234|1 234 567|1,234 567|1 2,5|1 234\u202F567,5", kNaN, none},
       {"de_CH", u"1\u2019234.5", 1234.5L},
       {"hi", u"1,00,000", 100000},
       {"fa", u"\u200E\u2212\u06F1\u066C\u06F2\u06F3\u06F4\u066B\u06F5", -1234.5L},
@@ -114,7 +116,8 @@ TEST(NumberText, ReadsNumbersOfOtherPlacesOrSaysWhyNot) {
       {"en", u"1,5|0,123|1234,567", kNaN, wrong.arg("%1", ".")},
       {"en", u"| \t|1 2|nan|inf|-Infinity|\u221E|1e5000|0x10|1.2.3|+-1|1-|e5|1e|.|12abc", kNaN,
        none},
-      {"en", u"1\u0967|\xD83A|1,2,3|1 234 567|1,234,56|1,234.567.890|1,234.567,890", kNaN, none},
+      {"en", u"1\u0967|\xD83A|1,2,3|1 234 567|1,234,56|1 234.5|1,234.567.890|1,234.567,890", kNaN,
+       none},
       {"en", u"1'23|1,2e5,123|01,234,567|12,34,56,789,0|1,234,567x|1'234,567.5", kNaN, none},
       {"fa", u"\u06F1\u066C\u06F2", kNaN, none},
       {"ff_Adlm", u"1\xD83A", kNaN, none},
@@ -160,14 +163,16 @@ TEST(NumberText, ReadsExpressions) {
       {"1/0", "\"1/0\" divides by zero."},
       {"1e4000*1e4000", "The value of \"1e4000*1e4000\" is too large."},
       {"2*1,234", "\"1,234\" may mean 1234 or 1.234."},
+      {"1,5%", "\"1,5\" is not a number: the decimal separator is \".\"."},
       {"2*x", "\"x\" is not a number."}};
   for (const auto& [text, reason] : refused) EXPECT_EQ(ReadExpression(text, en).refusal, reason);
   for (const char* text : {"", "()", "%", "2*", "/2", "1/2/24", "(-5)", "((5))", "(5", "5)", "1e2%",
                            "5%%", "1+2", "2**3"}) {
     const CellReading reading = ReadExpression(text, en);
     EXPECT_FALSE(reading.value) << text;
-    EXPECT_TRUE(reading.refusal.endsWith(" is not a number.")) << text;
+    EXPECT_EQ(reading.refusal, QStringLiteral("\"%1\" is not a number.").arg(text));
   }
+  EXPECT_FALSE(std::signbit(*ReadExpression("(0)", en).value));
 }
 
 TEST(NumberText, SeparatesGroupsAsTheLocaleDoes) {

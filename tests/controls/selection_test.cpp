@@ -96,6 +96,13 @@ TEST_F(MatrixSelection, IsMadeWithKeysAndScrollsWithThem) {
   }
   EXPECT_EQ(changes.count(), 16) << "one a step, where the selection differs";
   EXPECT_EQ(Marked(), ".xxxxxxxxxxx") << "all but the cell that has the focus";
+  other->setFocus();
+  editor->setFocus();
+  EXPECT_EQ(Selected(), "0+6 0+5") << "it survives another field";
+  other->setFocus();
+  editor->setColEditFocus(1);
+  EXPECT_EQ(Selected(), "0+1 1+1");
+  editor->setColEditFocus(0);
 
   // Elements are selected, not cells; fewer elements leave fewer.
   editor->Select({1, 2, 0, 99});
@@ -304,6 +311,47 @@ TEST_F(MatrixSelection, NamesTheElementUnderTheMouseAndOffersAMenu) {
   EXPECT_EQ(entries().find("Cut|Copy|Paste|Delete||Fill Down|Fill Right||Select All|"), 0U);
   editor->setReadOnly(true);
   EXPECT_EQ(entries().find("Copy||"), 0U);
+  editor->setReadOnly(false);
+
+  editor->setRowHeadings(true);
+  editor->setCanGrow(true);
+  editor->ScrollBottom();
+  auto* const rows = editor->findChild<QWidget*>("RowHeadings");
+  QTest::mouseClick(rows, Qt::LeftButton, {}, {5, rows->height() - 5});
+  EXPECT_EQ(Selected(), "6+1 0+1") << "the spare row";
+}
+
+TEST_F(MatrixSelection, OffersItsMenuOnHeadings) {
+  Open();
+  editor->setCanGrow(true);
+  editor->setRowHeadings(true);
+  editor->setColHeadings(true);
+  QString place;
+  QObject::connect(
+      editor, &CellPanel::OnContextMenu, editor,
+      [&](QMenu&, quint32 row, quint32 col) { place = QString("%1 %2").arg(row).arg(col); });
+  const auto open = [this](const char* bar_name, const char* entry) {
+    auto* const bar = editor->findChild<QWidget*>(bar_name);
+    const QPoint at(5, 5);
+    QContextMenuEvent event(QContextMenuEvent::Mouse, at, bar->mapToGlobal(at));
+    QApplication::sendEvent(bar, &event);
+    auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (menu == nullptr) return false;
+    for (QAction* action : menu->actions()) {
+      if (action->text().startsWith(entry)) action->trigger();
+    }
+    return menu->close();
+  };
+  Type("5");
+  EXPECT_TRUE(open("ColHeadings", "none"));
+  EXPECT_EQ(editor->Element(1, 1), 5);
+  EXPECT_EQ(Selected() + ' ' + place.toStdString(), "0+6 0+1 0 0");
+  editor->SelectRows(0, 3);
+  EXPECT_TRUE(open("RowHeadings", "Delete Rows")) << "of the selection";
+  EXPECT_EQ(editor->NoOfRows(), 3U);
+  EXPECT_EQ(editor->Element(0, 0), 30);
+  editor->setContextMenuPolicy(Qt::NoContextMenu);
+  EXPECT_FALSE(open("RowHeadings", "Delete Rows"));
 }
 
 using LabelSelection = SelectionFixture<TQorLabelledVectorEdit>;
@@ -324,9 +372,14 @@ TEST_F(LabelSelection, TakesWholeRowsByTheirLabels) {
   // The spare row alone is not an element, and is in no range.
   editor->setCanGrow(true);
   editor->ScrollBottom();
-  QTest::mouseClick(Cell(3), Qt::LeftButton);
-  EXPECT_EQ(Selected(), "9+1 0+1");
-  Press(Qt::Key_Delete);
+  for (QWidget* part : {label(3), static_cast<QWidget*>(Cell(3))}) {
+    Press(Qt::Key_Home, kCtrl);
+    editor->ScrollBottom();
+    QTest::mouseClick(part, Qt::LeftButton);
+    EXPECT_EQ(Selected(), "9+1 0+1");
+    Press(Qt::Key_Minus, kCtrl);
+    Press(Qt::Key_Delete);
+  }
   EXPECT_TRUE(editor->PasteBlock("10"));
   EXPECT_EQ(editor->Element(9), 10);
   EXPECT_EQ(editor->Element(8), 8);
@@ -336,12 +389,26 @@ TEST_F(LabelSelection, TakesWholeRowsByTheirLabels) {
   editor->setCanGrow(false);
   editor->ScrollTop();
 
+  const auto menu = [&label](int row) {
+    const std::unique_ptr<QMenu> of_label(qobject_cast<TextCell*>(label(row))->CreateContextMenu());
+    QStringList texts;
+    for (const QAction* action : of_label->actions()) {
+      texts.append(action->text().section('\t', 0, 0).remove('&'));
+    }
+    return texts.join('|').toStdString();
+  };
+  QTest::mouseClick(label(1), Qt::LeftButton);
+  EXPECT_EQ(menu(1).find("Cut|Copy|Paste|Delete||Fill Down||Select All||Copy All Values|"), 0U);
+
   // A label that can be typed keeps its keys.
   editor->setLabelType(TQorLabelledVectorEdit::ltCustom);
   editor->setLabel(1, "two");
   editor->setLabelsEditable(true);
+  QTest::mouseClick(label(2), Qt::LeftButton);
+  EXPECT_EQ(Selected(), "2+1 0+1");
   label(1)->setFocus();
   Press(Qt::Key_A, kCtrl);
+  EXPECT_EQ(menu(1), "Undo|Redo||Cut|Copy|Paste|Delete||Select All||Copy All Values|");
   Press(Qt::Key_X, kCtrl);
   EXPECT_EQ(Clipboard(), "two");
   Press(Qt::Key_Down);

@@ -1,11 +1,13 @@
 #include "support/failing_allocation.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <cstdlib>
 
 namespace qorvex::testing {
 
 int allocations_left = -1;
+std::size_t largest_allocation = SIZE_MAX;
 
 }  // namespace qorvex::testing
 
@@ -13,6 +15,7 @@ namespace {
 
 void* Allocate(std::size_t size, std::size_t alignment) {
   using qorvex::testing::allocations_left;
+  if (size > qorvex::testing::largest_allocation) throw std::bad_alloc();
   if (allocations_left >= 0 && allocations_left-- == 0) throw std::bad_alloc();
   const std::size_t whole = (size + alignment - 1) / alignment * alignment;
   void* const memory = std::aligned_alloc(alignment, whole);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <gtest/gtest.h>
 #include <new>
 
@@ -8,6 +9,8 @@ namespace qorvex::testing {
 /// The number of allocations by operator new that succeed before one fails. All allocations after
 /// that succeed. If it is negative, none fails. Needs failing_allocation.cpp.
 extern int allocations_left;
+/// Allocations of more bytes fail.
+extern std::size_t largest_allocation;
 
 /// Calls work() repeatedly: first its first allocation fails, then its second, and so on until none
 /// fails. Expects at least one failure, and that after each unchanged() is true.

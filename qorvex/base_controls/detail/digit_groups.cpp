@@ -114,8 +114,10 @@ QString WithGroups(const QString& number, const QLocale& locale) {
 
 SeparatorReadings ReadSeparators(const QString& text, const QLocale& locale) {
   const QString may_be_decimal = QStringLiteral(".,") + locale.decimalPoint();
-  const QString separators =
-      may_be_decimal + QStringLiteral("\u00A0\u202F\u2009'\u2019") + locale.groupSeparator();
+  const QString group = locale.groupSeparator();
+  QString separators = may_be_decimal + QStringLiteral("\u00A0\u202F\u2009'\u2019") + group;
+  constexpr QChar space = u' ';
+  if (!group.isEmpty() && group.front().isSpace()) separators += space;
   const auto contains = [](const QString& characters, uint character) {
     return character <= 0xFFFF && characters.contains(QChar(static_cast<char16_t>(character)));
   };
@@ -126,8 +128,8 @@ SeparatorReadings ReadSeparators(const QString& text, const QLocale& locale) {
   SeparatorReadings readings;
   const uint last = mantissa.Separator(count - 1);
   readings.two_kinds = last != mantissa.Separator(0);
-  readings.is_local_group = contains(locale.groupSeparator(), last);
-  if (mantissa.HasGroups(count, mantissa.end)) {
+  readings.is_local_group = contains(group, last);
+  if (last != space.unicode() && mantissa.HasGroups(count, mantissa.end)) {
     readings.groups = mantissa.Without(count, QString());
   }
   const bool last_is_decimal = contains(may_be_decimal, last) && (count == 1 || readings.two_kinds);

@@ -27,8 +27,9 @@ struct SeparatorReadings {
 
 /// Points, commas, and the locale's own separators may be any separator; no-break spaces, thin
 /// spaces and apostrophes can only separate groups. Groups have three digits, or two before the
-/// last three as in India, and no leading zero. Ordinary spaces are not accepted, since they
-/// separate the numbers of a list.
+/// last three as in India, and no leading zero. Ordinary spaces, which may separate the numbers of
+/// a list, separate groups only in front of a decimal separator, and only in locales that group
+/// with another kind of space.
 [[nodiscard]] SeparatorReadings ReadSeparators(const QString& text, const QLocale& locale);
 
 }  // namespace qorvex::inline QorvexBaseControls::detail

@@ -22,7 +22,10 @@ struct Notation {
   bool shows_groups;
 };
 
-CellReading ReadScaled(const QString& text, const Notation& notation, int power) {
+// Reads a part of a whole text, which is quoted if the part is not a number.
+CellReading ReadScaled(const QString& part, const QString& whole, const Notation& notation,
+                       int power) {
+  const QString text = part.trimmed();
   const QLocale& locale = notation.locale;
   if (const auto value = ParseLocalNumber(text, locale, power)) return {value, {}};
   const SeparatorReadings readings = ReadSeparators(text, locale);
@@ -33,15 +36,15 @@ CellReading ReadScaled(const QString& text, const Notation& notation, int power)
     return {{},
             QCoreApplication::translate("TQorCustomEdit", "\"%1\" may mean %2 or %3.",
                                         "a text and two numbers")
-                .arg(text.trimmed(), readings.groups.trimmed(), readings.decimals.trimmed())};
+                .arg(text, readings.groups, readings.decimals)};
   }
   if (groups) return {groups, {}};
-  if (!decimals) return NotANumber(text);
+  if (!decimals) return NotANumber(whole);
   if (readings.two_kinds) return {decimals, {}};
   return {{},
           QCoreApplication::translate("TQorCustomEdit",
                                       "\"%1\" is not a number: the decimal separator is \"%2\".")
-              .arg(text.trimmed(), locale.decimalPoint())};
+              .arg(text, locale.decimalPoint())};
 }
 
 CellReading ReadOperand(const QString& text, const Notation& notation) {
@@ -49,9 +52,9 @@ CellReading ReadOperand(const QString& text, const Notation& notation) {
   for (const QString& percent : {QStringLiteral("%"), notation.locale.percent()}) {
     if (!number.endsWith(percent)) continue;
     number.chop(percent.size());
-    return ReadScaled(number, notation, kPercent);
+    return ReadScaled(number, text, notation, kPercent);
   }
-  return ReadScaled(number, notation, 0);
+  return ReadScaled(number, text, notation, 0);
 }
 
 // Products and quotients of operands.
@@ -91,19 +94,23 @@ CellReading NotANumber(const QString& text) {
 }
 
 CellReading ReadNumber(const QString& text, const QLocale& locale, bool shows_groups) {
-  return ReadScaled(text, {locale, shows_groups}, 0);
+  return ReadScaled(text, text, {locale, shows_groups}, 0);
 }
 
 CellReading ReadExpression(const QString& text, const QLocale& locale, bool shows_groups) {
   const Notation notation{locale, shows_groups};
   const QString trimmed = text.trimmed();
   if (!trimmed.startsWith(u'(')) return ReadProduct(trimmed, notation);
-  if (!trimmed.endsWith(u')')) return NotANumber(text);
-  const CellReading inside = ReadProduct(trimmed.mid(1, trimmed.size() - 2), notation);
+  const QString product = trimmed.mid(1, trimmed.size() - 2).trimmed();
+  if (!trimmed.endsWith(u')') || product.isEmpty() || product.startsWith(u'(')) {
+    return NotANumber(text);
+  }
+  const CellReading inside = ReadProduct(product, notation);
   if (!inside.value) return inside;
   // The parentheses stand for a minus sign already.
   if (std::signbit(*inside.value)) return NotANumber(text);
-  return {-*inside.value, {}};
+  // Not -0 for "(0)".
+  return {0 - *inside.value, {}};
 }
 
 }  // namespace qorvex::inline QorvexBaseControls::detail

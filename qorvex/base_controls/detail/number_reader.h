@@ -16,7 +16,8 @@ namespace qorvex::inline QorvexBaseControls::detail {
 /// - What ParseLocalNumber reads has that value.
 /// - Otherwise a text with two different separators, or one that is repeated, is read whatever the
 ///   locale uses: "1,234.50", "1.234,50", "1,234,567", "12,34,567". No-break spaces and apostrophes
-///   can only separate groups: "1'234" is 1234.
+///   can only separate groups: "1'234" is 1234. Where a locale groups with a space, an ordinary one
+///   is read in front of a decimal separator: "1 234,5" in French.
 /// - A single point or comma that is not the locale's decimal separator is refused: "1,234" may be
 ///   meant as 1234 or 1.234. Where numbers are shown with groups, a text that has those of the
 ///   locale is read as it is shown.

@@ -3,6 +3,7 @@
 /// @file
 /// What is kept for a few elements of an axis follows them when others are inserted or deleted.
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <map>
@@ -34,6 +35,15 @@ std::map<std::uint32_t, T> EntriesOf(const std::map<std::uint32_t, T>& kept, std
   auto end = kept.lower_bound(first);
   while (end != kept.end() && end->first - first < count) ++end;
   return {kept.lower_bound(first), end};
+}
+
+/// How much memory the entries take, without what their values point to.
+template <class T>
+std::int64_t BytesOf(const std::map<std::uint32_t, T>& kept) {
+  // A node has three pointers and a colour.
+  constexpr std::size_t kNode =
+      sizeof(typename std::map<std::uint32_t, T>::value_type) + 4 * sizeof(void*);
+  return static_cast<std::int64_t>(kept.size() * kNode);
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -71,6 +71,7 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   });
   connect(&cell, &TQorCustomEdit::Left, this, [=, this, &cell] {
     parts_->focus.Leave(cell);
+    parts_->selection.Left({row(), col()});
     table_.Notify(CellEvent::kExit, row(), col());
   });
   connect(&cell, &TQorCustomEdit::textEdited, this,
@@ -78,10 +79,6 @@ void CellPanel::ConnectCell(TQorCustomEdit& cell, detail::CellPlace place) {
   connect(&cell, &TQorCustomEdit::Refused, this,
           [=, this, &cell] { RefuseText(cell, row(), col(), cell.Refusal()); });
   connect(&cell, &TQorCustomEdit::BlockPasted, this, &CellPanel::PasteBlock);
-  connect(&cell, &TQorCustomEdit::MenuOpening, this, [=, this](QMenu* menu) {
-    AddToMenu(menu);
-    Q_EMIT OnContextMenu(*menu, row(), col());
-  });
   cell.StoreElsewhere = [=, this, &cell](Extended value) { DoChange(cell, row(), col(), value); };
   Watch(cell);
 }
@@ -91,8 +88,8 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
     StoreLater(row, col, value);
     return;
   }
-  if (row >= table_.RowCount()) {
-    AppendRow(cell, row, col, value);
+  if (row >= table_.RowCount() || col >= table_.ColCount()) {
+    AppendLines(cell, row, col, value);
     return;
   }
   // The cell may have shown null in place of the element.
@@ -121,7 +118,8 @@ void CellPanel::DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extende
 
 void CellPanel::SetCount(detail::PanelAxis& axis, quint32 count) {
   const std::optional<QString> typed = count > axis.Count() ? TakeFromSpareRow(axis) : std::nullopt;
-  SetLines(axis, count, axis.HasSpare());
+  const bool is_cols = &axis == &parts_->cols;
+  SetLines(axis, count, is_cols ? HasSpareCol(count) : axis.HasSpare());
   axis.ReachWantedTop();
   parts_->layout.CountChanged();
   AnnounceSize();
@@ -154,6 +152,11 @@ void CellPanel::Redisplay() {
 
 void CellPanel::Watch(TextCell& text) {
   connect(&text, &QLineEdit::textEdited, this, [this] { parts_->focus.SetEditing(true); });
+  connect(&text, &TextCell::MenuOpening, this, [this, &text](QMenu* menu) {
+    const detail::CellGrid::Spot spot = parts_->grid.SpotOf(text);
+    const detail::CellPlace element{Rows().Top() + spot.place.row, Cols().Top() + spot.place.col};
+    FillMenu(*menu, spot.is_cell ? parts_->typed_place.value_or(element) : element);
+  });
   parts_->keys.Watch(text);
 }
 
@@ -167,7 +170,7 @@ Qt::FocusPolicy CellPanel::CellFocusPolicy() const {
 
 void CellPanel::SettingsChanged() {
   ApplySettings();
-  FitSpareRow();
+  FitSpareLines();
 }
 
 void CellPanel::DoColorSetChange() {

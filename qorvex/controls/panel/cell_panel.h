@@ -189,7 +189,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// locale: tabs separate columns, and each row ends with a line end, except a single value.
   /// Infinities are copied as "inf", which PasteBlock refuses. More than ten million elements are
   /// refused by OnBlockRefused. Without elements the clipboard keeps its contents. False if it
-  /// does.
+  /// does. What is being typed is committed first if its element is copied.
   bool CopyCells(const TQorCellRange& range);
   bool Copy();
   void CopyAll();
@@ -256,7 +256,7 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// New elements are null if AllowKbdNull is set, otherwise 0. The spare row does not count as a
   /// row, but it can be the current one: events of cells then name the row after the last. There is
   /// none while the editor is read-only, nor in virtual mode without a model unless OnInsertRows is
-  /// handled.
+  /// handled. A matrix without columns has a spare column in the same way.
   [[nodiscard]] bool CanGrow() const noexcept { return can_grow_; }
   void setCanGrow(bool grow);
   void resetCanGrow() { setCanGrow(false); }
@@ -311,8 +311,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// A typed text is not a number: Enter has marked it, or leaving the cell has discarded it. The
   /// message names the element and says why.
   void OnTextRefused(const QString& message);
-  /// The menu of the element's cell is about to open: add to it. It is raised as long as the
-  /// control's contextMenuPolicy is the default; other policies replace the menu, as in any widget.
+  /// The menu of an element is about to open, in its cell or its label: add to it. For a heading it
+  /// is the first element of the row or column. The signal is raised as long as the control's
+  /// contextMenuPolicy is the default; other policies replace the menu, as in any widget.
   void OnContextMenu(QMenu& menu, quint32 row, quint32 col);
 
   /// @{
@@ -364,8 +365,9 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void InsertLines(CellAxis axis, quint32 first, quint32 count);
   void DeleteLines(CellAxis axis, quint32 first, quint32 count);
   /// @}
-  /// Decides whether there is a spare row. Call when CanInsert of the table may have changed.
-  void FitSpareRow();
+  /// Decides whether there is a spare row or column. Call when CanInsert of the table may have
+  /// changed.
+  void FitSpareLines();
   /// @{
   /// The widths and formats of columns move with them; have changed.
   void ReplaceCols(const detail::ReplacedCols& cols);
@@ -407,12 +409,13 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   void SwitchModel(QAbstractItemModel* model);
   void ConnectCell(TQorCustomEdit& cell, detail::CellPlace place);
   void DoChange(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
-  void AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
+  void AppendLines(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value);
   void SetLines(detail::PanelAxis& axis, quint32 count, bool spare);
   // What is being typed into the spare row stays with it when the program appends rows.
   std::optional<QString> TakeFromSpareRow(const detail::PanelAxis& axis);
   void TypeIntoSpareRow(const QString& typed);
   [[nodiscard]] bool MayGrow(CellAxis axis) const;
+  [[nodiscard]] bool HasSpareCol(quint32 cols) const;
   [[nodiscard]] Extended NewElement() const;
   [[nodiscard]] CellAxis AxisOfSelection() const;
   void ChangeSelectedLines(CellAxis axis, bool insert);
@@ -423,10 +426,12 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   bool MakeNull(const QString& step);
   bool RequireChangeable();
   bool RequireNulls();
-  void AddSelectionToMenu(QMenu* menu);
+  void AddSelectionToMenu(QMenu& menu);
   void RefuseBlock(const QString& message);
   void RefuseText(TextCell& cell, quint32 row, quint32 col, const QString& reason);
-  void AddToMenu(QMenu* menu);
+  // The menu of an element, its label or its heading.
+  void FillMenu(QMenu& menu, const detail::CellPlace& element);
+  void OpenMenu(const detail::CellPlace& element, const QPoint& place);
   // For screen readers.
   void NameBars();
   void AnnounceSize();

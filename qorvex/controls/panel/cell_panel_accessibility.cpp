@@ -26,7 +26,7 @@ void CellPanel::AnnounceSelection() {
   QAccessibleEvent within(this, QAccessible::SelectionWithin);
   QAccessible::updateAccessibility(&within);
   // Not every platform passes that on. Qt's own views tell of one cell.
-  const detail::ElementPlace end = parts_->selection.End();
+  const detail::CellPlace end = parts_->selection.End();
   const auto* const table = detail::AccessiblePanel::Of(this);
   QAccessibleInterface* const cell =
       table == nullptr ? nullptr : table->Cell({.row = end.row, .col = end.col});

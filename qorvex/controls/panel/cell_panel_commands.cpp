@@ -40,13 +40,20 @@ void CellPanel::Command(const std::function<void()>& command) {
   if (!VirtualMode()) command();
 }
 
-void CellPanel::AddToMenu(QMenu* menu) {
-  if (!parts_->focus.Editing()) AddSelectionToMenu(menu);
-  menu->addSeparator();
-  menu->addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
-                  &CellPanel::CopyAll);
-  if (EffectiveSettings().read_only) return;
-  AddHistoryToMenu(*menu);
+void CellPanel::FillMenu(QMenu& menu, const detail::CellPlace& element) {
+  if (!parts_->focus.KeysBelongToText()) AddSelectionToMenu(menu);
+  menu.addSeparator();
+  menu.addAction(QCoreApplication::translate("CellPanel", "Copy All Values"), this,
+                 &CellPanel::CopyAll);
+  if (!EffectiveSettings().read_only) AddHistoryToMenu(menu);
+  Q_EMIT OnContextMenu(menu, element.row, element.col);
+}
+
+void CellPanel::OpenMenu(const detail::CellPlace& element, const QPoint& place) {
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  FillMenu(*menu, element);
+  menu->popup(place);
 }
 
 }  // namespace qorvex::inline QorvexControls

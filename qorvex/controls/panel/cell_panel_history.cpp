@@ -4,6 +4,7 @@
 #include <QMenu>
 #include <QMetaMethod>
 #include <algorithm>
+#include <functional>
 #include <limits>
 #include <new>
 #include <optional>
@@ -17,6 +18,8 @@ namespace qorvex::inline QorvexControls {
 
 namespace {
 
+constexpr quint32 kNoEnd = std::numeric_limits<quint32>::max();
+
 QString TextOf(CellAxis axis, bool insert) {
   if (axis == CellAxis::kRows) {
     return insert ? QCoreApplication::translate("CellPanel", "Insert Rows")
@@ -24,6 +27,11 @@ QString TextOf(CellAxis axis, bool insert) {
   }
   return insert ? QCoreApplication::translate("CellPanel", "Insert Columns")
                 : QCoreApplication::translate("CellPanel", "Delete Columns");
+}
+
+// In virtual mode, whether lines can be inserted depends on these signals of the editors.
+bool InsertsLines(const QMetaMethod& signal) {
+  return signal.name() == "OnInsertRows" || signal.name() == "OnInsertCols";
 }
 
 }  // namespace
@@ -69,19 +77,27 @@ void CellPanel::setUndoStack(QUndoStack* stack) {
 
 void CellPanel::setCanGrow(bool grow) {
   can_grow_ = grow;
-  FitSpareRow();
+  FitSpareLines();
 }
 
 bool CellPanel::MayGrow(CellAxis axis) const {
   return can_grow_ && !EffectiveSettings().read_only && table_.CanInsert(axis);
 }
 
-void CellPanel::FitSpareRow() {
-  detail::PanelAxis& rows = parts_->rows;
-  if (MayGrow(CellAxis::kRows) == rows.HasSpare()) return;
-  parts_->focus.CommitPending();
-  SetLines(rows, rows.Count(), MayGrow(CellAxis::kRows));
-  parts_->layout.CountChanged();
+bool CellPanel::HasSpareCol(quint32 cols) const {
+  // Without columns there would be no cell to type or paste into.
+  return cols == 0 && MayGrow(CellAxis::kCols);
+}
+
+void CellPanel::FitSpareLines() {
+  const auto fit = [this](detail::PanelAxis& axis, const std::function<bool()>& has_spare) {
+    if (has_spare() == axis.HasSpare()) return;
+    parts_->focus.CommitLines(axis, axis.Count(), kNoEnd);
+    SetLines(axis, axis.Count(), has_spare());
+    parts_->layout.CountChanged();
+  };
+  fit(parts_->rows, [this] { return MayGrow(CellAxis::kRows); });
+  fit(parts_->cols, [this] { return HasSpareCol(parts_->cols.Count()); });
 }
 
 std::optional<QString> CellPanel::TakeFromSpareRow(const detail::PanelAxis& axis) {
@@ -103,15 +119,14 @@ void CellPanel::TypeIntoSpareRow(const QString& typed) {
 }
 
 void CellPanel::connectNotify(const QMetaMethod& signal) {
-  // In virtual mode, whether rows can be inserted depends on it.
-  if (signal == QMetaMethod::fromSignal(&CellPanel::OnInsertRows)) FitSpareRow();
+  if (InsertsLines(signal)) FitSpareLines();
 }
 
 void CellPanel::disconnectNotify(const QMetaMethod& signal) {
   // Later: Qt holds the lock that isSignalConnected takes.
-  if (signal != QMetaMethod::fromSignal(&CellPanel::OnInsertRows)) return;
+  if (!InsertsLines(signal)) return;
   QMetaObject::invokeMethod(
-      this, [this] { FitSpareRow(); }, Qt::QueuedConnection);
+      this, [this] { FitSpareLines(); }, Qt::QueuedConnection);
 }
 
 Extended CellPanel::NewElement() const {
@@ -119,11 +134,14 @@ Extended CellPanel::NewElement() const {
   return null ? std::numeric_limits<Extended>::quiet_NaN() : 0;
 }
 
-void CellPanel::AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
+void CellPanel::AppendLines(TQorCustomEdit& cell, quint32 row, quint32 col, Extended value) {
   const QPointer<TQorCustomEdit> in_use(&cell);
   QString refusal = detail::NotChangeable();
+  detail::LineInsertions lines;
+  if (row >= table_.RowCount()) lines.push_back({CellAxis::kRows, row, 1, NewElement()});
+  if (col >= table_.ColCount()) lines.push_back({CellAxis::kCols, col, 1, NewElement()});
   try {
-    if (parts_->history.Apply({{CellAxis::kRows, row, 1, NewElement()}}, {{row, col, value}},
+    if (parts_->history.Apply(lines, {{row, col, value}},
                               QCoreApplication::translate("CellPanel", "Typing"))) {
       return;
     }
@@ -135,11 +153,10 @@ void CellPanel::AppendRow(TQorCustomEdit& cell, quint32 row, quint32 col, Extend
 }
 
 void CellPanel::InsertLines(CellAxis axis, quint32 first, quint32 count) {
-  parts_->focus.CommitPending();
-  const bool rows = axis == CellAxis::kRows;
-  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
-  if (first > lines) RaiseMathError(rows ? rsInvalidRow : rsInvalidCol);
-  if (count > std::numeric_limits<quint32>::max() - lines) {
+  const detail::PanelAxis& lines = axis == CellAxis::kRows ? parts_->rows : parts_->cols;
+  parts_->focus.CommitLines(lines, first, lines.Count());
+  if (first > lines.Count()) RaiseMathError(axis == CellAxis::kRows ? rsInvalidRow : rsInvalidCol);
+  if (count > std::numeric_limits<quint32>::max() - lines.Count()) {
     throw std::length_error("An editor has at most 4294967295 rows and columns");
   }
   if (count == 0) return;
@@ -147,10 +164,11 @@ void CellPanel::InsertLines(CellAxis axis, quint32 first, quint32 count) {
 }
 
 void CellPanel::DeleteLines(CellAxis axis, quint32 first, quint32 count) {
-  parts_->focus.CommitPending();
-  const bool rows = axis == CellAxis::kRows;
-  const quint32 lines = rows ? table_.RowCount() : table_.ColCount();
-  if (first > lines || count > lines - first) RaiseMathError(rows ? rsInvalidRow : rsInvalidCol);
+  const detail::PanelAxis& lines = axis == CellAxis::kRows ? parts_->rows : parts_->cols;
+  parts_->focus.CommitLines(lines, first, kNoEnd);
+  if (first > lines.Count() || count > lines.Count() - first) {
+    RaiseMathError(axis == CellAxis::kRows ? rsInvalidRow : rsInvalidCol);
+  }
   if (count == 0) return;
   parts_->history.Remove(axis, first, count, TextOf(axis, false));
 }
@@ -199,7 +217,7 @@ void CellPanel::AddHistoryToMenu(QMenu& menu) {
     connect(detail::AddEntry(menu, text, keys, enabled), &QAction::triggered, this, function);
   };
   // A text that is being edited has its own entries.
-  if (!parts_->focus.Editing()) {
+  if (!parts_->focus.KeysBelongToText()) {
     menu.addSeparator();
     add(QCoreApplication::translate("CellPanel", "Undo"), "Ctrl+Z", CanUndo(), &CellPanel::Undo);
     add(QCoreApplication::translate("CellPanel", "Redo"), "Ctrl+Y", CanRedo(), &CellPanel::Redo);

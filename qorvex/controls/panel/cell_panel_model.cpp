@@ -37,7 +37,7 @@ void CellPanel::SwitchModel(QAbstractItemModel* model) {
     if (Model() == nullptr) own_size_.reset();
   }
   if (VirtualMode() != was_virtual) table_.VirtualModeChanged();
-  FitSpareRow();
+  FitSpareLines();
 }
 
 void CellPanel::ModelDeleted() {

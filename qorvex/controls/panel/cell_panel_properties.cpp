@@ -84,7 +84,7 @@ void CellPanel::setVirtualMode(bool on) {
   parts_->history.Forget();
   virtual_mode_ = on;
   table_.VirtualModeChanged();
-  FitSpareRow();
+  FitSpareLines();
   Redisplay();
 }
 

@@ -72,7 +72,8 @@ void CellPanel::ClearSelection() {
 }
 
 bool CellPanel::CopyCells(const TQorCellRange& range) {
-  parts_->focus.CommitPending();
+  parts_->focus.CommitUnless(
+      [&range](quint32 row, quint32 col) { return !range.Contains(row, col); });
   const TQorCellRange inside = range.Within(table_.RowCount(), table_.ColCount());
   if (inside.IsEmpty() || parts_->grid.IsEmpty()) return false;
   const quint64 values = quint64{inside.rows} * inside.cols;
@@ -168,12 +169,12 @@ bool CellPanel::FillRight() {
   });
 }
 
-void CellPanel::AddSelectionToMenu(QMenu* menu) {
+void CellPanel::AddSelectionToMenu(QMenu& menu) {
   // The entries of the line edit concern its text.
-  menu->clear();
-  const auto add = [this, menu](const QString& text, const char* keys, bool enabled,
-                                auto function) {
-    connect(detail::AddEntry(*menu, text, keys, enabled), &QAction::triggered, this, function);
+  menu.clear();
+  const auto add = [this, &menu](const QString& text, const char* keys, bool enabled,
+                                 auto function) {
+    connect(detail::AddEntry(menu, text, keys, enabled), &QAction::triggered, this, function);
   };
   const CellSettings settings = EffectiveSettings();
   const bool changes = !settings.read_only;
@@ -184,12 +185,12 @@ void CellPanel::AddSelectionToMenu(QMenu* menu) {
   add(QCoreApplication::translate("CellPanel", "Copy"), "Ctrl+C", true, &CellPanel::Copy);
   add(TextOfPaste(), "Ctrl+V", pastes, &CellPanel::Paste);
   add(TextOfDelete(), "Del", deletes, &CellPanel::DeleteSelected);
-  menu->addSeparator();
+  menu.addSeparator();
   add(TextOfFillDown(), "Ctrl+D", changes, &CellPanel::FillDown);
   if (parts_->cols.Bar() != nullptr) {
     add(TextOfFillRight(), "Ctrl+R", changes, &CellPanel::FillRight);
   }
-  menu->addSeparator();
+  menu.addSeparator();
   add(QCoreApplication::translate("CellPanel", "Select All"), "Ctrl+A", true,
       &CellPanel::SelectAll);
 }

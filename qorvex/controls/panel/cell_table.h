@@ -23,6 +23,15 @@ enum class CellEvent {
 /// The two directions of a table. Its lines along an axis are its rows or its columns.
 enum class CellAxis { kRows, kCols };
 
+/// What belongs to lines beside their elements, such as labels.
+struct KeptLineData {
+  /// Brings it back after the lines have been removed and inserted again. Empty if there is
+  /// nothing.
+  std::function<void()> bring_back;
+  /// How much memory it holds.
+  qint64 bytes = 0;
+};
+
 /// A table of elements. An editor implements it over the vector or matrix that it stores, or over
 /// the requests that it sends in virtual mode.
 class QORVEX_EXPORT CellTable {
@@ -49,10 +58,8 @@ class QORVEX_EXPORT CellTable {
   virtual void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) = 0;
   virtual void RemoveLines(CellAxis axis, quint32 first, quint32 count) = 0;
   /// @}
-  /// What belongs to lines beside their elements, such as labels: a function that brings it back
-  /// after the lines have been removed and inserted again. Empty if there is nothing.
-  [[nodiscard]] virtual std::function<void()> KeepLineData(CellAxis axis, quint32 first,
-                                                           quint32 count) = 0;
+  /// What belongs to the lines beside their elements, before they are removed.
+  [[nodiscard]] virtual KeptLineData KeepLineData(CellAxis axis, quint32 first, quint32 count) = 0;
   /// Whether the element cannot be changed.
   [[nodiscard]] virtual bool IsReadOnly(quint32 row, quint32 col) const = 0;
   /// The name of the element's cell, for screen readers and messages.

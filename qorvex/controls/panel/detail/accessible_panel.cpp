@@ -78,7 +78,8 @@ bool AccessiblePanel::HasColHeadings() const {
 bool AccessiblePanel::IsReadOnly(const AccessiblePlace& place) const {
   if (place.kind != Kind::kElement || state().readOnly) return true;
   const CellTable& table = Parts()->table;
-  return place.row < table.RowCount() && table.IsReadOnly(place.row, place.col);
+  return place.row < table.RowCount() && place.col < table.ColCount() &&
+         table.IsReadOnly(place.row, place.col);
 }
 
 QString AccessiblePanel::Name(const AccessiblePlace& place) const {
@@ -92,6 +93,7 @@ QString AccessiblePanel::Text(const AccessiblePlace& place) const {
   }
   if (place.row >= parts.table.RowCount()) return {};
   if (place.kind == Kind::kRowHeading) return parts.table.RowHeading(place.row);
+  if (place.col >= parts.table.ColCount()) return {};
   const Extended value = parts.table.Value(place.row, place.col);
   // Asking for it may have taken the cells away.
   return parts.grid.IsEmpty() ? QString() : parts.grid.TextFor(place.col, value);

@@ -171,11 +171,14 @@ void CellGrid::ApplyToCells(const CellSettings& settings) {
 }
 
 bool CellGrid::IsReadOnly(std::size_t row, std::size_t col) const {
-  const quint32 element_row = rows_.Top() + static_cast<quint32>(row);
-  const quint32 element_col = cols_.Top() + static_cast<quint32>(col);
-  // The spare line has no element that the table could know of.
-  const bool has_element = IsUsed(row, col) && element_row < table_.RowCount();
-  return settings_.read_only || (has_element && table_.IsReadOnly(element_row, element_col));
+  return settings_.read_only ||
+         (HasElement(row, col) && table_.IsReadOnly(rows_.Top() + static_cast<quint32>(row),
+                                                    cols_.Top() + static_cast<quint32>(col)));
+}
+
+bool CellGrid::HasElement(std::size_t row, std::size_t col) const {
+  return IsUsed(row, col) && rows_.Top() + row < table_.RowCount() &&
+         cols_.Top() + col < table_.ColCount();
 }
 
 CellSettings CellGrid::SettingsOf(quint32 col) const {
@@ -213,8 +216,7 @@ void CellGrid::Show() {
       TQorCustomEdit* const cell = cells_[r][c];
       const quint32 row = rows_.Top() + static_cast<quint32>(r);
       const quint32 col = cols_.Top() + static_cast<quint32>(c);
-      // The spare line has cells, but no elements yet.
-      if (IsUsed(r, c) && row < table_.RowCount()) {
+      if (HasElement(r, c)) {
         const Extended value = table_.Value(row, col);
         cell->setReadOnly(IsReadOnly(r, c));
         cell->Refresh(value);

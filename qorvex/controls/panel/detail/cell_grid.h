@@ -122,6 +122,8 @@ class CellGrid : private QAccessible::ActivationObserver {
   void NameCells();
   TQorCustomEdit* MakeCell(CellPlace place, const CellSettings& settings, Qt::FocusPolicy focus);
   void ApplyToCells(const CellSettings& settings);
+  // Whether a cell shows an element of the table. A spare line has cells, but no elements yet.
+  [[nodiscard]] bool HasElement(std::size_t row, std::size_t col) const;
   // By the settings, or because the element is.
   [[nodiscard]] bool IsReadOnly(std::size_t row, std::size_t col) const;
   [[nodiscard]] CellSettings SettingsOf(quint32 col) const;

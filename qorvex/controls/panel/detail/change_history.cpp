@@ -15,10 +15,6 @@ namespace {
 // The stack of the history itself also limits the number of steps, since obsolete ones stay on it.
 constexpr int kMostSteps = 10'000;
 
-qint64 BytesOf(const ElementChanges& changes) {
-  return static_cast<qint64>(changes.size() * sizeof(ElementChange));
-}
-
 // Whether a part of a stack has a command that is not obsolete; the newest ones are looked at
 // first.
 bool IsAlive(const QUndoStack& stack, int begin, int end) {
@@ -28,25 +24,12 @@ bool IsAlive(const QUndoStack& stack, int begin, int end) {
   return false;
 }
 
-// Sets a flag during its lifetime.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag), outer_(std::exchange(flag, true)) {}
-  ~Raised() { flag_ = outer_; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-  bool outer_;
-};
-
 }  // namespace
 
 ChangeHistory::ChangeHistory(CellTable& table, Owner owner)
     : table_(table), owner_(std::move(owner)) {
   own_.setUndoLimit(kMostSteps);
-  QObject::connect(&own_, &QUndoStack::indexChanged, &own_, [this] { Settle(); });
+  QObject::connect(&StackUse::Of(own_), &StackUse::AtRest, &own_, [this] { Settle(); });
 }
 
 ChangeHistory::~ChangeHistory() {
@@ -57,14 +40,17 @@ ChangeHistory::~ChangeHistory() {
 
 bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
                           const QString& text) {
+  changes.shrink_to_fit();
   const auto shared = std::make_shared<ElementChanges>(std::move(changes));
   auto step = std::make_unique<Step>(text, false);
   bool complete = false;
   const bool undisturbed = RunBatch([&] {
     try {
       for (const LineInsertion& insertion : lines) {
-        table_.InsertLines(insertion.axis, insertion.first, insertion.count, insertion.value);
-        if (!table_.IsVirtual()) step->Add(Insertion(insertion), 0);
+        Insert(insertion);
+        if (table_.IsVirtual()) continue;
+        step->Add(Moving(insertion, true), 0);
+        if (disturbed_) break;
       }
       complete = lines.empty() || std::ranges::all_of(*shared, [this](const ElementChange& change) {
                    return Has(change.row, change.col);
@@ -72,7 +58,7 @@ bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
       complete = complete && Exchange(shared);
     } catch (const std::bad_alloc&) {
       events_.clear();
-      step->RunParts(true);
+      step->RunParts(*this, true);
       throw;
     }
   });
@@ -90,16 +76,15 @@ void ChangeHistory::Remove(CellAxis axis, quint32 first, quint32 count, const QS
     return;
   }
   auto step = std::make_unique<Step>(text, false);
-  const auto elements = std::make_shared<const ElementChanges>(ElementsOf(axis, first, count));
-  step->Add(Removal(axis, first, count, elements), BytesOf(*elements));
-  if (!RunBatch([&] { step->RunParts(false); })) step = std::make_unique<Step>(text, false);
+  step->Add(Moving({axis, first, count, 0}, false), 0);
+  if (!RunBatch([&] { step->RunParts(*this, false); })) step = std::make_unique<Step>(text, false);
   Push(std::move(step));
 }
 
 void ChangeHistory::Record(const ElementChange& before) {
   const auto shared = std::make_shared<ElementChanges>(ElementChanges{before});
   events_.push_back(shared);
-  if (running_) {
+  if (Use().IsBusy()) {
     // A text was committed because a step moves the elements below it.
     ForgetCommand();
     return;
@@ -112,25 +97,25 @@ void ChangeHistory::Record(const ElementChange& before) {
 void ChangeHistory::RecordCommand(const QString& text, qint64 bytes,
                                   std::function<void()> exchange) {
   auto step = std::make_unique<Step>(text, true);
-  step->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  step->Add([run = std::move(exchange), bytes](bool) { return run(), bytes; }, bytes);
   Push(std::move(step));
 }
 
 void ChangeHistory::ExtendCommand(qint64 bytes, std::function<void()> exchange) {
   if (last_command_ == nullptr) return;
-  last_command_->Add([run = std::move(exchange)](bool) { run(); }, bytes);
+  last_command_->Add([run = std::move(exchange), bytes](bool) { return run(), bytes; }, bytes);
   KeepWithinLimit();
 }
 
 bool ChangeHistory::RunBatch(const std::function<void()>& run) {
-  const Raised running(running_);
+  const StackUse::Busy busy(Use());
   disturbed_ = false;
   owner_.batch(run);
   return !std::exchange(disturbed_, false);
 }
 
 void ChangeHistory::Push(std::unique_ptr<Step> step) {
-  if (running_) {
+  if (Use().IsBusy()) {
     // What handlers do in the midst of a step has no place in the order of steps.
     Forget();
   } else if (limit_ > 0 && !step->IsEmpty()) {
@@ -138,21 +123,26 @@ void ChangeHistory::Push(std::unique_ptr<Step> step) {
     Stack().push(step.release());
     KeepWithinLimit();
   }
-  Settle();
+  Use().Settle();
 }
 
-void ChangeHistory::RunStep(const Step& step, bool undo) {
+void ChangeHistory::RunStep(Step& step, bool undo) {
+  StackUse& use = Use();
+  const StackUse::Busy busy(use);
+  bool undisturbed = false;
   try {
-    RunBatch([&] { step.RunParts(undo); });
+    undisturbed = RunBatch([&] { step.RunParts(*this, undo); });
     restored_ = true;
   } catch (const std::bad_alloc&) {
+    out_of_memory_ = true;
     Forget();
-    owner_.out_of_memory();
   }
+  // A stack that deletes a step which it has redone does not tell of it.
+  if (!undisturbed) QMetaObject::invokeMethod(&use, &StackUse::Settle, Qt::QueuedConnection);
 }
 
 void ChangeHistory::Settle() {
-  if (running_) return;
+  if (Use().IsBusy()) return;
   for (const auto& changes : std::exchange(events_, {})) {
     for (const auto& [row, col, before] : *changes) {
       if (Has(row, col) && std::isnan(table_.Value(row, col))) {
@@ -162,21 +152,28 @@ void ChangeHistory::Settle() {
     }
   }
   if (std::exchange(restored_, false)) owner_.restored();
-  if (own_.count() > 0 && !IsAlive(own_, 0, own_.count())) own_.clear();
+  if (std::exchange(out_of_memory_, false)) owner_.out_of_memory();
+  if (!StackUse::Of(own_).IsBusy() && own_.count() > 0 && !IsAlive(own_, 0, own_.count())) {
+    own_.clear();
+  }
+  // Each is looked at when the handlers of the one before have run.
   const bool can_undo = CanUndo();
-  const bool can_redo = CanRedo();
   if (std::exchange(could_undo_, can_undo) != can_undo) owner_.can_undo_changed(can_undo);
+  const bool can_redo = CanRedo();
   if (std::exchange(could_redo_, can_redo) != can_redo) owner_.can_redo_changed(can_redo);
 }
 
 void ChangeHistory::KeepWithinLimit() {
-  while (bytes_ > limit_ && steps_.size() > 1) steps_.front()->Drop();
+  while (bytes_ > limit_ && steps_.size() > 1) {
+    // What is redone builds on the steps before it.
+    (steps_.front()->IsDone() ? steps_.front() : steps_.back())->Drop();
+  }
 }
 
 void ChangeHistory::Forget() {
-  disturbed_ = disturbed_ || running_;
+  disturbed_ = true;
   while (!steps_.empty()) steps_.back()->Drop();
-  Settle();
+  Use().Settle();
 }
 
 void ChangeHistory::ForgetCommand() {
@@ -195,7 +192,7 @@ void ChangeHistory::ForgetCommand() {
   const auto undone = std::ranges::find_if(
       steps_, [](const Step* step) { return step->IsCommand() && !step->IsDone(); });
   if (undone != steps_.end()) drop_through(*undone, false);
-  Settle();
+  Use().Settle();
 }
 
 bool ChangeHistory::CanUndo() const {
@@ -209,21 +206,21 @@ bool ChangeHistory::CanRedo() const {
 }
 
 bool ChangeHistory::Undo() {
-  while (CanUndo()) {
+  while (!Use().IsBusy() && CanUndo()) {
     QUndoStack& stack = Stack();
     const bool obsolete = stack.command(stack.index() - 1)->isObsolete();
     stack.undo();
-    if (!obsolete) return Settle(), true;
+    if (!obsolete) return Use().Settle(), true;
   }
   return false;
 }
 
 bool ChangeHistory::Redo() {
-  while (CanRedo()) {
+  while (!Use().IsBusy() && CanRedo()) {
     QUndoStack& stack = Stack();
     const bool obsolete = stack.command(stack.index())->isObsolete();
     stack.redo();
-    if (!obsolete) return Settle(), true;
+    if (!obsolete) return Use().Settle(), true;
   }
   return false;
 }
@@ -242,20 +239,21 @@ void ChangeHistory::SetLimit(qint64 bytes) {
     Forget();
   } else {
     KeepWithinLimit();
-    Settle();
+    Use().Settle();
   }
 }
 
 void ChangeHistory::SetStack(QUndoStack* stack) {
-  if (stack == &Stack()) return;
+  QUndoStack* const next = stack != nullptr ? stack : &own_;
+  if (next == &Stack()) return;
   Forget();
   QObject::disconnect(shared_moves_);
-  shared_ = stack == &own_ ? nullptr : stack;
+  shared_ = next == &own_ ? nullptr : next;
   if (shared_) {
     shared_moves_ =
-        QObject::connect(shared_, &QUndoStack::indexChanged, shared_, [this] { Settle(); });
+        QObject::connect(&StackUse::Of(*shared_), &StackUse::AtRest, shared_, [this] { Settle(); });
   }
-  Settle();
+  Use().Settle();
 }
 
 }  // namespace qorvex::inline QorvexControls::detail

@@ -14,6 +14,7 @@
 
 #include "qorvex/controls/panel/cell_table.h"
 #include "qorvex/controls/panel/detail/cell_place.h"
+#include "qorvex/controls/panel/detail/stack_use.h"
 
 namespace qorvex::inline QorvexControls::detail {
 
@@ -24,6 +25,9 @@ struct ElementChange {
   Extended value;
 };
 using ElementChanges = std::vector<ElementChange>;
+[[nodiscard]] inline qint64 BytesOf(const ElementChanges& changes) {
+  return static_cast<qint64>(changes.size() * sizeof(ElementChange));
+}
 /// Where the element of a change is now; nothing if it is gone.
 using ElementPlaces = std::function<std::optional<CellPlace>(std::size_t change)>;
 
@@ -44,11 +48,14 @@ using LineInsertions = std::vector<LineInsertion>;
 /// Redo pass over.
 ///
 /// A step exchanges elements while the stack moves. Events follow when the stack is at rest,
-/// because their handlers may change the table and so push further steps.
+/// because their handlers may change the table and so push further steps. A history that is to take
+/// a step while another one runs on its stack, be it of another history, forgets all.
 class ChangeHistory {
  public:
   /// What the history needs from the panel.
   struct Owner {
+    /// Commits what is being typed if it is in the given lines.
+    std::function<void(CellAxis axis, quint32 first, quint32 end)> commit_lines;
     /// Runs a function while the display waits, and displays the result.
     std::function<void(const std::function<void()>& run)> batch;
     /// Follows elements that may move while they are stored; an empty function if they cannot.
@@ -97,7 +104,7 @@ class ChangeHistory {
   [[nodiscard]] bool CanUndo() const;
   [[nodiscard]] bool CanRedo() const;
   /// @{
-  /// False when there is nothing to undo or redo.
+  /// False when there is nothing to undo or redo, or a step runs.
   bool Undo();
   bool Redo();
   /// @}
@@ -116,21 +123,26 @@ class ChangeHistory {
 
  private:
   class Step;
-  // Runs a part of a step.
-  using Part = std::function<void(bool undo)>;
+  struct RemovedLines;
+  // Runs a part of a step. The result is how many bytes it holds now.
+  using Part = std::function<qint64(bool undo)>;
 
+  [[nodiscard]] StackUse& Use() const { return StackUse::Of(Stack()); }
   void Push(std::unique_ptr<Step> step);
   // False if a handler has pushed or forgotten something meanwhile.
   bool RunBatch(const std::function<void()>& run);
-  void RunStep(const Step& step, bool undo);
+  void RunStep(Step& step, bool undo);
   void KeepWithinLimit();
   // Raises what is due when the stack is at rest.
   void Settle();
   [[nodiscard]] Part Exchanging(const std::shared_ptr<ElementChanges>& changes);
-  [[nodiscard]] Part Insertion(const LineInsertion& lines);
-  [[nodiscard]] Part Removal(CellAxis axis, quint32 first, quint32 count,
-                             const std::shared_ptr<const ElementChanges>& elements);
-  [[nodiscard]] ElementChanges ElementsOf(CellAxis axis, quint32 first, quint32 count) const;
+  // Inserts the lines and removes them in turn. What they have when they go comes back with them.
+  [[nodiscard]] Part Moving(const LineInsertion& lines, bool undo_removes);
+  void TakeOut(RemovedLines& removed);
+  void PutBack(RemovedLines& removed);
+  void Insert(const LineInsertion& lines);
+  // The elements that differ from the value with which the lines are inserted.
+  [[nodiscard]] ElementChanges ElementsOf(const LineInsertion& lines) const;
   // Stores the changes and puts the values that were there in their place. False, and nothing
   // changes, if an element refuses its value.
   bool Exchange(const std::shared_ptr<ElementChanges>& changes);
@@ -148,10 +160,11 @@ class ChangeHistory {
   qint64 bytes_ = 0;
   int commands_ = 0;
   Step* last_command_ = nullptr;
-  // A step runs; a handler has pushed or forgotten something meanwhile.
-  bool running_ = false;
+  // A handler has pushed or forgotten something since the last step began to run.
   bool disturbed_ = false;
+  // What is to be told when the stack is at rest.
   bool restored_ = false;
+  bool out_of_memory_ = false;
   std::vector<std::shared_ptr<const ElementChanges>> events_;
   bool could_undo_ = false;
   bool could_redo_ = false;

@@ -1,6 +1,8 @@
 // What the steps of a history do with its table.
 
+#include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "qorvex/base_controls/detail/same_element.h"
@@ -15,51 +17,71 @@ constexpr CellPlace kNowhere{std::numeric_limits<quint32>::max(), 0};
 
 }  // namespace
 
+// Lines to insert again, and what they had beside the value of all.
+struct ChangeHistory::RemovedLines {
+  explicit RemovedLines(const LineInsertion& to_insert) : lines(to_insert) {}
+
+  LineInsertion lines;
+  ElementChanges elements;
+  KeptLineData data;
+};
+
 ChangeHistory::Part ChangeHistory::Exchanging(const std::shared_ptr<ElementChanges>& changes) {
   return [this, changes](bool) {
     // A model may refuse a value that it had itself.
     if (!Exchange(changes)) Forget();
+    return BytesOf(*changes);
   };
 }
 
-ChangeHistory::Part ChangeHistory::Insertion(const LineInsertion& lines) {
-  return [this, lines](bool undo) {
-    if (undo) {
-      table_.RemoveLines(lines.axis, lines.first, lines.count);
-    } else {
-      table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
-    }
+ChangeHistory::Part ChangeHistory::Moving(const LineInsertion& lines, bool undo_removes) {
+  return [this, undo_removes, removed = std::make_shared<RemovedLines>(lines)](bool undo) {
+    undo == undo_removes ? TakeOut(*removed) : PutBack(*removed);
+    return BytesOf(removed->elements) + removed->data.bytes;
   };
 }
 
-ChangeHistory::Part ChangeHistory::Removal(CellAxis axis, quint32 first, quint32 count,
-                                           const std::shared_ptr<const ElementChanges>& elements) {
-  const auto keep = table_.KeepLineData(axis, first, count);
-  return [=, this](bool undo) {
-    if (!undo) {
-      table_.RemoveLines(axis, first, count);
-      return;
-    }
-    table_.InsertLines(axis, first, count, 0);
-    for (const auto& [row, col, value] : *elements) {
-      if (Has(row, col)) table_.Store(row, col, value);
-    }
-    if (keep) keep();
-  };
+void ChangeHistory::TakeOut(RemovedLines& removed) {
+  const auto& [axis, first, count, value] = removed.lines;
+  owner_.commit_lines(axis, first, std::numeric_limits<quint32>::max());
+  removed.elements = ElementsOf(removed.lines);
+  removed.data = table_.KeepLineData(axis, first, count);
+  table_.RemoveLines(axis, first, count);
 }
 
-ElementChanges ChangeHistory::ElementsOf(CellAxis axis, quint32 first, quint32 count) const {
-  const bool rows = axis == CellAxis::kRows;
-  const quint32 row_end = rows ? first + count : table_.RowCount();
-  const quint32 col_end = rows ? table_.ColCount() : first + count;
+void ChangeHistory::PutBack(RemovedLines& removed) {
+  Insert(removed.lines);
+  for (const auto& [row, col, value] : removed.elements) {
+    if (Has(row, col)) table_.Store(row, col, value);
+  }
+  if (removed.data.bring_back) removed.data.bring_back();
+  removed.elements = {};
+  removed.data = {};
+}
+
+void ChangeHistory::Insert(const LineInsertion& lines) {
+  const bool rows = lines.axis == CellAxis::kRows;
+  owner_.commit_lines(lines.axis, lines.first, rows ? table_.RowCount() : table_.ColCount());
+  table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
+}
+
+ElementChanges ChangeHistory::ElementsOf(const LineInsertion& lines) const {
+  const bool rows = lines.axis == CellAxis::kRows;
+  const quint32 end = lines.first + lines.count;
+  const quint32 row_end = rows ? std::min(end, table_.RowCount()) : table_.RowCount();
+  const quint32 col_end = rows ? table_.ColCount() : std::min(end, table_.ColCount());
   ElementChanges elements;
-  for (quint32 row = rows ? first : 0; row < row_end; ++row) {
-    for (quint32 col = rows ? 0 : first; col < col_end; ++col) {
+  for (quint32 row = rows ? lines.first : 0; row < row_end; ++row) {
+    for (quint32 col = rows ? 0 : lines.first; col < col_end; ++col) {
       const Extended value = table_.Value(row, col);
-      // Lines are inserted with zeros.
-      if (!QorvexBaseControls::detail::SameElement(value, 0)) elements.push_back({row, col, value});
+      // Others are there as soon as the lines are.
+      if (!QorvexBaseControls::detail::SameElement(value, lines.value)) {
+        elements.push_back({row, col, value});
+      }
     }
   }
+  // They may be kept for long.
+  elements.shrink_to_fit();
   return elements;
 }
 
@@ -78,9 +100,17 @@ bool ChangeHistory::Exchange(const std::shared_ptr<ElementChanges>& changes) {
     return true;
   };
   std::size_t done = 0;
-  while (done < changes->size() && exchange(done)) ++done;
+  const auto take_back = [&] {
+    while (done > 0) exchange(--done);
+  };
+  try {
+    while (done < changes->size() && exchange(done)) ++done;
+  } catch (const std::bad_alloc&) {
+    take_back();
+    throw;
+  }
   const bool complete = done == changes->size();
-  while (!complete && done > 0) exchange(--done);
+  if (!complete) take_back();
   for (std::size_t i = 0; follow && i < changes->size(); ++i) {
     const CellPlace place = place_of(i).value_or(kNowhere);
     (*changes)[i].row = place.row;

@@ -1,5 +1,6 @@
 #include "qorvex/controls/panel/detail/heading_bar.h"
 
+#include <QContextMenuEvent>
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QStyle>
@@ -180,6 +181,16 @@ void HeadingBar::Release() {
 void HeadingBar::leaveEvent(QEvent* event) {
   unsetCursor();
   QWidget::leaveEvent(event);
+}
+
+void HeadingBar::contextMenuEvent(QContextMenuEvent* event) {
+  const auto edit = EditAt(event->pos());
+  if (edit && parentWidget()->contextMenuPolicy() == Qt::DefaultContextMenu) {
+    events_.menu(window_.Top() + *edit, event->globalPos());
+  } else {
+    // It goes on to the panel, which follows its policy.
+    event->ignore();
+  }
 }
 
 bool HeadingBar::event(QEvent* event) {

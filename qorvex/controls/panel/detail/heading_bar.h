@@ -30,6 +30,8 @@ struct HeadingEvents {
   /// The edge of the heading has been clicked twice: fit the size to what is in sight. The heading
   /// itself needs this size.
   std::function<void(quint32 element, int size)> fit;
+  /// The menu of the heading has been asked for at a place on the screen.
+  std::function<void(quint32 element, const QPoint& place)> menu;
 };
 
 /// The headings of the elements that a window shows, painted as the style paints those of tables.
@@ -50,6 +52,7 @@ class HeadingBar : public QWidget {
  protected:
   /// @{
   /// Qt's events.
+  void contextMenuEvent(QContextMenuEvent* event) override;
   bool event(QEvent* event) override;
   void leaveEvent(QEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -63,6 +63,11 @@ void PanelFocus::CommitUnless(const std::function<bool(quint32 row, quint32 col)
   if (in_header_ || !stays(element(rows_.Window()), element(cols_.Window()))) CommitPending();
 }
 
+void PanelFocus::CommitLines(const PanelAxis& axis, quint32 first, quint32 end) {
+  const quint32 line = axis.Window().Top() + axis.Window().Focus();
+  if (line >= first && line < end) CommitPending();
+}
+
 void PanelFocus::FocusCell(std::size_t row, std::size_t col) {
   if (!grid_.IsUsed(row, col)) return;
   TQorCustomEdit* const cell = grid_.Cell(row, col);

@@ -28,8 +28,11 @@ class PanelFocus {
   /// @}
   /// Commits what is being typed, or discards it if it is not a number.
   void CommitPending();
-  /// The same before the elements change, unless the one that is being edited stays as it is.
+  /// The same before the elements change or are read, unless the one that is being edited stays as
+  /// it is or is not concerned.
   void CommitUnless(const std::function<bool(quint32 row, quint32 col)>& stays);
+  /// The same before the lines from the first one on, up to the end, move.
+  void CommitLines(const PanelAxis& axis, quint32 first, quint32 end);
 
   /// @{
   /// Whether the keys of a text belong to the entered one: from the first typed character, F2 or a

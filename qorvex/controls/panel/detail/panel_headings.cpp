@@ -25,8 +25,7 @@ void Scroll(EditWindow& window, bool forward) {
 
 PanelHeadings::PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows,
                              EditWindow& cols, GridGeometry& geometry, const CellGrid& grid,
-                             PanelFocus& focus, PanelSelection& selection,
-                             std::function<void(quint32 col, int width)> resize_col)
+                             PanelFocus& focus, PanelSelection& selection, Owner owner)
     : panel_(panel),
       table_(table),
       rows_(rows),
@@ -35,7 +34,7 @@ PanelHeadings::PanelHeadings(QWidget& panel, const CellTable& table, EditWindow&
       grid_(grid),
       focus_(focus),
       selection_(selection),
-      resize_col_(std::move(resize_col)) {}
+      owner_(std::move(owner)) {}
 
 PanelHeadings::~PanelHeadings() {
   delete row_bar_;
@@ -53,7 +52,8 @@ void PanelHeadings::SetRows(bool on) {
                         .select = [this](quint32 row, bool extend) { SelectRow(row, extend); },
                         .scroll = [this](bool forward) { Scroll(rows_, forward); },
                         .resize = {},
-                        .fit = {}});
+                        .fit = {},
+                        .menu = [this](quint32 row, const QPoint& at) { OpenRowMenu(row, at); }});
     row_bar_->setObjectName(QStringLiteral("RowHeadings"));
     row_bar_->show();
   } else {
@@ -72,8 +72,9 @@ void PanelHeadings::SetCols(bool on) {
                         .is_selected = [this](quint32 col) { return IsColSelected(col); },
                         .select = [this](quint32 col, bool extend) { SelectCol(col, extend); },
                         .scroll = [this](bool forward) { Scroll(cols_, forward); },
-                        .resize = resize_col_,
-                        .fit = [this](quint32 col, int width) { FitCol(col, width); }});
+                        .resize = owner_.resize_col,
+                        .fit = [this](quint32 col, int width) { FitCol(col, width); },
+                        .menu = [this](quint32 col, const QPoint& at) { OpenColMenu(col, at); }});
     col_bar_->setObjectName(QStringLiteral("ColHeadings"));
     col_bar_->show();
   } else {
@@ -83,13 +84,12 @@ void PanelHeadings::SetCols(bool on) {
   FitCorner();
 }
 
-// A row or a column that waits for its first element has no heading yet.
 QString PanelHeadings::RowText(quint32 row) const {
   return row < table_.RowCount() ? table_.RowHeading(row) : QString(kSpareMark);
 }
 
 QString PanelHeadings::ColText(quint32 col) const {
-  return col < table_.ColCount() ? table_.ColHeading(col) : QString();
+  return col < table_.ColCount() ? table_.ColHeading(col) : QString(kSpareMark);
 }
 
 bool PanelHeadings::IsRowSelected(quint32 row) const {
@@ -126,8 +126,21 @@ void PanelHeadings::SelectAll() {
   selection_.Select({0, 0}, {last, last});
 }
 
+// A menu that opens on the selection is about the selection.
+void PanelHeadings::OpenRowMenu(quint32 row, const QPoint& place) {
+  const bool selected = IsRowSelected(row) && selection_.Range().cols == table_.ColCount();
+  selected ? TakeFocus(row - rows_.Top(), 0, true) : SelectRow(row, false);
+  owner_.open_menu({row, 0}, place);
+}
+
+void PanelHeadings::OpenColMenu(quint32 col, const QPoint& place) {
+  const bool selected = IsColSelected(col) && selection_.Range().rows == table_.RowCount();
+  selected ? TakeFocus(0, col - cols_.Top(), true) : SelectCol(col, false);
+  owner_.open_menu({0, col}, place);
+}
+
 void PanelHeadings::FitCol(quint32 col, int heading_width) {
-  resize_col_(col, std::max(heading_width, grid_.FittingWidth(col - cols_.Top())));
+  owner_.resize_col(col, std::max(heading_width, grid_.FittingWidth(col - cols_.Top())));
 }
 
 void PanelHeadings::FitCorner() {

@@ -21,10 +21,17 @@ namespace qorvex::inline QorvexControls::detail {
 /// for the cells.
 class PanelHeadings {
  public:
-  /// No headings. The function is called when the user has given a column a width.
+  /// What the panel does when the user has given a column a width, or asks for the menu of a
+  /// heading, whose row or column is selected.
+  struct Owner {
+    std::function<void(quint32 col, int width)> resize_col;
+    std::function<void(CellPlace first_element, const QPoint& place)> open_menu;
+  };
+
+  /// No headings.
   PanelHeadings(QWidget& panel, const CellTable& table, EditWindow& rows, EditWindow& cols,
                 GridGeometry& geometry, const CellGrid& grid, PanelFocus& focus,
-                PanelSelection& selection, std::function<void(quint32 col, int width)> resize_col);
+                PanelSelection& selection, Owner owner);
   ~PanelHeadings();
   PanelHeadings(const PanelHeadings&) = delete;
   PanelHeadings& operator=(const PanelHeadings&) = delete;
@@ -59,6 +66,8 @@ class PanelHeadings {
   void SelectRow(quint32 row, bool extend);
   void SelectCol(quint32 col, bool extend);
   void SelectAll();
+  void OpenRowMenu(quint32 row, const QPoint& place);
+  void OpenColMenu(quint32 col, const QPoint& place);
   void FitCol(quint32 col, int heading_width);
 
   QWidget& panel_;
@@ -69,7 +78,7 @@ class PanelHeadings {
   const CellGrid& grid_;
   PanelFocus& focus_;
   PanelSelection& selection_;
-  std::function<void(quint32 col, int width)> resize_col_;
+  Owner owner_;
   // Children of the panel.
   HeadingBar* row_bar_ = nullptr;
   HeadingBar* col_bar_ = nullptr;

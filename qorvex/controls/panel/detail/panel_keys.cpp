@@ -156,13 +156,13 @@ void PanelKeys::Move(GridAction action) {
   }
 }
 
-void PanelKeys::GoTo(ElementPlace element) {
+void PanelKeys::GoTo(CellPlace element) {
   focus_.FocusElement(element.row, element.col);
 }
 
 void PanelKeys::Extend(GridAction action) {
   if (selection_.Range().IsEmpty()) return;
-  const ElementPlace target = selection_.Moved(selection_.End(), action);
+  const CellPlace target = selection_.Moved(selection_.End(), action);
   selection_.Extend(target);
   {
     const PanelSelection::Hold hold(selection_, PanelSelection::Hold::Entry::kKeeps);

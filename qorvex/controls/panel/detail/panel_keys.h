@@ -45,7 +45,7 @@ class PanelKeys : public QObject {
   // Goes to another cell, which clears the selection.
   void Go(GridAction action);
   void Move(GridAction action);
-  void GoTo(ElementPlace element);
+  void GoTo(CellPlace element);
   void Extend(GridAction action);
   // Goes to the next or the previous widget outside the panel.
   void Leave(bool forward);

@@ -19,8 +19,8 @@ PanelMouse::PanelMouse(CellPanel& panel, PanelAxis& rows, PanelAxis& cols, const
 
 bool PanelMouse::Handle(TextCell& text, QMouseEvent& event) {
   const CellGrid::Spot spot = grid_.SpotOf(text);
-  const ElementPlace element{rows_.Window().Top() + spot.place.row,
-                             cols_.Window().Top() + spot.place.col};
+  const CellPlace element{rows_.Window().Top() + spot.place.row,
+                          cols_.Window().Top() + spot.place.col};
   bool used = false;
   switch (event.type()) {
     case QEvent::MouseButtonPress:
@@ -42,13 +42,15 @@ bool PanelMouse::Handle(TextCell& text, QMouseEvent& event) {
   return used;
 }
 
-bool PanelMouse::Press(TextCell& text, bool is_cell, ElementPlace element,
-                       const QMouseEvent& event) {
+bool PanelMouse::Press(TextCell& text, bool is_cell, CellPlace element, const QMouseEvent& event) {
   dragged_ = nullptr;
-  if (focus_.KeysBelongToText()) return false;
   const bool left = event.button() == Qt::LeftButton;
   // A menu that opens on the selection is about the selection.
   if (!left && selection_.Range().Contains(element.row, element.col)) return false;
+  if (focus_.KeysBelongToText()) {
+    if (!is_cell) selection_.Clear();
+    return false;
+  }
   const bool extends = left && event.modifiers().testFlag(Qt::ShiftModifier);
   if (left) dragged_ = &text;
   drags_rows_ = !is_cell;
@@ -92,8 +94,7 @@ void PanelMouse::timerEvent(QTimerEvent* event) {
   DragTo(place_);
 }
 
-void PanelMouse::Tell(const TextCell& text, bool is_cell, ElementPlace element,
-                      QMouseEvent& event) {
+void PanelMouse::Tell(const TextCell& text, bool is_cell, CellPlace element, QMouseEvent& event) {
   const auto [row, col] = element;
   switch (event.type()) {
     case QEvent::MouseButtonPress:

@@ -32,9 +32,9 @@ class PanelMouse : public QObject {
   void timerEvent(QTimerEvent* event) override;
 
  private:
-  bool Press(TextCell& text, bool is_cell, ElementPlace element, const QMouseEvent& event);
+  bool Press(TextCell& text, bool is_cell, CellPlace element, const QMouseEvent& event);
   void DragTo(QPoint place);
-  void Tell(const TextCell& text, bool is_cell, ElementPlace element, QMouseEvent& event);
+  void Tell(const TextCell& text, bool is_cell, CellPlace element, QMouseEvent& event);
 
   CellPanel& panel_;
   PanelAxis& rows_;

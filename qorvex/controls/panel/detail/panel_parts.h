@@ -30,7 +30,11 @@ struct PanelParts {
       : table(panel.table_),
         settings(panel, [&panel] { panel.ApplySettings(); }),
         history(panel.table_,
-                {.batch =
+                {.commit_lines =
+                     [this](CellAxis axis, quint32 first, quint32 end) {
+                       focus.CommitLines(axis == CellAxis::kRows ? rows : cols, first, end);
+                     },
+                 .batch =
                      [&panel](const std::function<void()>& run) {
                        const CellPanel::Update update(panel);
                        run();
@@ -58,8 +62,11 @@ struct PanelParts {
         mouse(panel, rows, cols, grid, focus, selection),
         wheel(panel, rows, cols),
         keys(panel, rows, cols, focus, selection, mouse, wheel),
-        headings(panel, panel.table_, rows.Window(), cols.Window(), geometry, grid, focus,
-                 selection, [this](quint32 col, int width) { layout.DragColWidth(col, width); }),
+        headings(
+            panel, panel.table_, rows.Window(), cols.Window(), geometry, grid, focus, selection,
+            {.resize_col = [this](quint32 col, int width) { layout.DragColWidth(col, width); },
+             .open_menu = [&panel](CellPlace first_element,
+                                   const QPoint& place) { panel.OpenMenu(first_element, place); }}),
         layout(panel, rows, cols, geometry, focus, headings, grid, [&panel] { panel.FitGrid(); }),
         grid(panel, panel.table_, rows.Window(), cols.Window(), geometry,
              {.connect = [&panel](TQorCustomEdit& cell,

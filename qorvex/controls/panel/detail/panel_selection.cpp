@@ -21,15 +21,16 @@ PanelSelection::PanelSelection(const CellTable& table, const EditWindow& rows,
                                std::function<void()> changed)
     : table_(table), rows_(rows), cols_(cols), grid_(grid), changed_(std::move(changed)) {}
 
-ElementPlace PanelSelection::Current() const {
+CellPlace PanelSelection::Current() const {
   return {rows_.Top() + rows_.Focus(), cols_.Top() + cols_.Focus()};
 }
 
 bool PanelSelection::HasElements() const {
-  return table_.RowCount() > 0 && table_.ColCount() > 0;
+  return std::min(anchor_.row, end_.row) < table_.RowCount() &&
+         std::min(anchor_.col, end_.col) < table_.ColCount();
 }
 
-ElementPlace PanelSelection::Fitted(ElementPlace place) const {
+CellPlace PanelSelection::Fitted(CellPlace place) const {
   return {std::min(place.row, std::max(table_.RowCount(), 1U) - 1),
           std::min(place.col, std::max(table_.ColCount(), 1U) - 1)};
 }
@@ -37,11 +38,11 @@ ElementPlace PanelSelection::Fitted(ElementPlace place) const {
 TQorCellRange PanelSelection::Range() const {
   if (rows_.Count() == 0 || cols_.Count() == 0) return {};
   if (!chosen_ || !HasElements()) {
-    const ElementPlace place = Current();
+    const CellPlace place = Current();
     return {place.row, 1, place.col, 1};
   }
-  const ElementPlace anchor = Fitted(anchor_);
-  const ElementPlace end = Fitted(end_);
+  const CellPlace anchor = Fitted(anchor_);
+  const CellPlace end = Fitted(end_);
   return {std::min(anchor.row, end.row), Distance(anchor.row, end.row) + 1,
           std::min(anchor.col, end.col), Distance(anchor.col, end.col) + 1};
 }
@@ -51,7 +52,7 @@ bool PanelSelection::IsMultiple() const {
   return range.rows > 1 || range.cols > 1;
 }
 
-void PanelSelection::Select(ElementPlace anchor, ElementPlace end) {
+void PanelSelection::Select(CellPlace anchor, CellPlace end) {
   anchor_ = anchor;
   end_ = end;
   chosen_ = true;
@@ -66,7 +67,7 @@ void PanelSelection::SelectCols(quint32 anchor, quint32 end) {
   Select({0, anchor}, {kLast, end});
 }
 
-ElementPlace PanelSelection::Moved(ElementPlace place, GridAction action) const {
+CellPlace PanelSelection::Moved(CellPlace place, GridAction action) const {
   const auto back = [](quint32 from, quint32 steps) { return from - std::min(from, steps); };
   const auto forward = [](quint32 from, quint32 steps) {
     return from + std::min(kLast - from, steps);
@@ -117,7 +118,8 @@ void PanelSelection::Clear() {
 void PanelSelection::Entered(bool by_mouse) {
   if (held_ == Hold::Entry::kKeeps) return;
   if (!by_mouse) {
-    Clear();
+    chosen_ = chosen_ && Current() == left_;
+    Update();
   } else if (!chosen_) {
     chosen_ = true;
     anchor_ = end_ = {announced_.row, announced_.col};
@@ -126,13 +128,12 @@ void PanelSelection::Entered(bool by_mouse) {
 
 void PanelSelection::Update() {
   if (held_) return;
-  const auto is_current = [this] { return anchor_ == end_ && anchor_ == Current(); };
   // A spare row can be current, but not a part of anything chosen.
-  chosen_ = chosen_ && HasElements() && !is_current();
+  chosen_ = chosen_ && HasElements();
   if (chosen_) {
     anchor_ = Fitted(anchor_);
     end_ = Fitted(end_);
-    chosen_ = !is_current();
+    chosen_ = anchor_ != end_ || anchor_ != Current();
   }
   const TQorCellRange range = Range();
   const bool marks = range.rows > 1 || range.cols > 1;

@@ -10,15 +10,9 @@
 #include "qorvex/controls/detail/grid_keys.h"
 #include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/detail/cell_grid.h"
+#include "qorvex/controls/panel/detail/cell_place.h"
 
 namespace qorvex::inline QorvexControls::detail {
-
-/// The row and the column of an element in its table.
-struct ElementPlace {
-  quint32 row = 0;
-  quint32 col = 0;
-  friend bool operator==(const ElementPlace&, const ElementPlace&) = default;
-};
 
 /// One rectangle of elements between an anchor, where it was begun, and an end, which moves. It
 /// consists of elements, not of cells, so scrolling leaves it alone. Unless more has been selected,
@@ -36,18 +30,18 @@ class PanelSelection {
   /// Whether there are several.
   [[nodiscard]] bool IsMultiple() const;
   /// The element under the focus.
-  [[nodiscard]] ElementPlace Current() const;
+  [[nodiscard]] CellPlace Current() const;
   /// @{
   /// Where the selection was begun, and its other corner.
-  [[nodiscard]] ElementPlace Anchor() const { return chosen_ ? anchor_ : Current(); }
-  [[nodiscard]] ElementPlace End() const { return chosen_ ? end_ : Current(); }
+  [[nodiscard]] CellPlace Anchor() const { return chosen_ ? anchor_ : Current(); }
+  [[nodiscard]] CellPlace End() const { return chosen_ ? end_ : Current(); }
   /// @}
 
   /// @{
   /// Selects the elements between two, which may be beyond the end of the table; or moves the end
-  /// alone. Scrolls nothing.
-  void Select(ElementPlace anchor, ElementPlace end);
-  void Extend(ElementPlace end) { Select(Anchor(), end); }
+  /// alone. Where there are none, the element under the focus is selected. Scrolls nothing.
+  void Select(CellPlace anchor, CellPlace end);
+  void Extend(CellPlace end) { Select(Anchor(), end); }
   /// @}
   /// @{
   /// Selects whole rows or columns, from a first one or from the anchor on.
@@ -58,13 +52,16 @@ class PanelSelection {
   /// @}
   /// Where an action leads from an element: by a row, a column or a page, or to an end of the row
   /// or the table; never beyond the elements, of which there must be some.
-  [[nodiscard]] ElementPlace Moved(ElementPlace place, GridAction action) const;
+  [[nodiscard]] CellPlace Moved(CellPlace place, GridAction action) const;
   /// Back to the element under the focus.
   void Clear();
 
-  /// The focus has come to another cell. This clears the selection, but not if the mouse has
-  /// brought it: the press selects next, perhaps from the old anchor on.
+  /// The focus has come to a cell. This clears the selection, but not if the focus was last at the
+  /// same element, nor if the mouse has brought it: the press selects next, perhaps from the old
+  /// anchor on.
   void Entered(bool by_mouse);
+  /// The focus has left the cell of an element.
+  void Left(CellPlace element) { left_ = element; }
   /// While it lives, cells can be entered and the table can scroll without an Update; entering a
   /// cell clears the selection or keeps it. Call Update afterwards.
   class Hold {
@@ -86,7 +83,8 @@ class PanelSelection {
   void Update();
 
  private:
-  [[nodiscard]] ElementPlace Fitted(ElementPlace place) const;
+  [[nodiscard]] CellPlace Fitted(CellPlace place) const;
+  // Whether there are elements between the anchor and the end.
   [[nodiscard]] bool HasElements() const;
 
   const CellTable& table_;
@@ -96,8 +94,9 @@ class PanelSelection {
   std::function<void()> changed_;
   // Something else than the element under the focus is selected: between these two.
   bool chosen_ = false;
-  ElementPlace anchor_;
-  ElementPlace end_;
+  CellPlace anchor_;
+  CellPlace end_;
+  CellPlace left_;
   std::optional<Hold::Entry> held_;
   bool marked_ = false;
   TQorCellRange announced_;

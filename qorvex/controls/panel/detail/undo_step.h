@@ -51,13 +51,13 @@ class ChangeHistory::Step final : public QUndoCommand {
     setObsolete(true);
   }
 
-  /// Undoes or redoes the parts.
-  void RunParts(bool undo) const {
-    if (!undo) {
-      for (const Part& part : parts_) part(false);
-      return;
+  /// Undoes or redoes the parts of a step that belongs to no history, until a handler forgets what
+  /// they build on.
+  void RunParts(const ChangeHistory& history, bool undo) {
+    bytes_ = kOwnBytes;
+    for (std::size_t i = 0; i < parts_.size() && !history.disturbed_; ++i) {
+      bytes_ += parts_[undo ? parts_.size() - 1 - i : i](undo);
     }
-    for (auto part = parts_.rbegin(); part != parts_.rend(); ++part) (*part)(true);
   }
 
   void undo() override { Run(true); }
@@ -72,7 +72,11 @@ class ChangeHistory::Step final : public QUndoCommand {
     Step running(text(), is_command_);
     running.parts_.swap(parts_);
     history_->RunStep(running, undo);
-    if (history_ != nullptr) parts_.swap(running.parts_);
+    if (history_ == nullptr) return;
+    parts_.swap(running.parts_);
+    history_->bytes_ += running.bytes_ - bytes_;
+    bytes_ = running.bytes_;
+    history_->KeepWithinLimit();
   }
 
   // The step itself, with what it counts for without its parts.
