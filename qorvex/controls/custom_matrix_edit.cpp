@@ -92,8 +92,10 @@ void TQorCustomMatrixEdit::setNoOfRows(quint32 rows) {
 }
 
 void TQorCustomMatrixEdit::SetSize(quint32 rows, quint32 cols) {
+  const QAbstractItemModel* const model = Model();
   ChangeRows(rows);
-  ChangeCols(cols);
+  // A handler that sets another model has set the number of columns, too.
+  if (Model() == model) ChangeCols(cols);
 }
 
 void TQorCustomMatrixEdit::ChangeCols(quint32 cols) {

@@ -111,7 +111,7 @@ void TQorCustomMatrixEdit::ReplaceCols(quint32 first, quint32 removed, quint32 i
 }
 
 void TQorCustomMatrixEdit::ColsReplaced() {
-  Parts().layout.ColsMoved();
+  Parts().layout.Arrange();
   if (!Parts().grid.ColFormats().empty()) ApplySettings();
 }
 

@@ -203,6 +203,10 @@ TEST_F(AccessibleMatrix, CountsInIntEvenIfItIsLarger) {
   EXPECT_EQ(last->tableCellInterface()->rowIndex(), -1);
   EXPECT_EQ(Panel()->childAt(last->rect().x() + 1, last->rect().y() + 1), last);
   EXPECT_EQ(Read(last, QAccessible::Name), "Row 3999999997, column 1");
+  editor->SelectRows(2'147'483'645, 5);
+  EXPECT_EQ(Table()->selectedRows(), (QList{most - 2, most - 1}));
+  editor->SelectRows(3'000'000'000, 5);
+  EXPECT_EQ(Table()->selectedRows(), QList<int>());
 }
 
 TEST_F(AccessibleMatrix, HasHeadingsAndFormatsOfColumns) {
@@ -237,6 +241,18 @@ TEST_F(AccessibleMatrix, HasHeadingsAndFormatsOfColumns) {
   EXPECT_EQ(cell->columnHeaderCells(), QList{Panel()->child(83)});
   const QPoint place = Panel()->child(83)->rect().center();
   EXPECT_EQ(Panel()->childAt(place.x(), place.y()), Panel()->child(83));
+}
+
+TEST_F(AccessibleMatrix, SelectsColumnsAboveTheSpareRow) {
+  editor->setMatrix({{1, 2}, {3, 4}});
+  editor->setCanGrow(true);
+  editor->SelectCols(1, 1);
+  EXPECT_EQ(Table()->selectedColumns(), QList{1});
+  EXPECT_EQ(Table()->selectedColumnCount(), 1);
+  EXPECT_TRUE(Table()->isColumnSelected(1));
+  EXPECT_FALSE(Table()->isColumnSelected(0));
+  editor->Select({1, 1, 0, 1});
+  EXPECT_EQ(Table()->selectedColumnCount(), 0);
 }
 
 TEST_F(AccessibleMatrix, ReachesTheCornerByTheMenuIfItHasAMeaning) {

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <numeric>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "qorvex/controls/detail/shift_keys.h"
@@ -25,6 +26,10 @@ TEST(ElementSizes, AddUpAndFit) {
       for (std::uint32_t element = 0; element < count; ++element, digits /= 3) {
         if (digits % 3 == 0) continue;
         plain[element] = digits % 3 == 1 ? 3 : 25;
+        // The largest sum is kept, and follows.
+        std::ignore = sizes.LargestSum(3, count);
+        if (element % 2 == 0) sizes.Set(element, 28 - plain[element]);
+        std::ignore = sizes.LargestSum(2, count);
         sizes.Set(element, plain[element]);
       }
       const auto sum = [&](std::uint32_t first, std::uint32_t neighbours) {

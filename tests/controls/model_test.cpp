@@ -345,6 +345,64 @@ TYPED_TEST(ModelEdit, ChangesBlocksAsAWhole) {
   EXPECT_TRUE(this->editor->PasteBlock("25\n15\n"));
   EXPECT_EQ(Column(model), "30|25|15");
   EXPECT_EQ(this->Texts(), "15.0000|25.0000|30.0000|");
+  // Values that move their rows are undone and redone where they are now.
+  const auto there_and_back = [&](const char* changed, const char* before) {
+    SCOPED_TRACE(changed);
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_EQ(Column(model), changed);
+      this->editor->Undo();
+      EXPECT_EQ(Column(model), before);
+      this->editor->Redo();
+    }
+    EXPECT_EQ(Column(model), changed);
+  };
+  there_and_back("30|25|15", "30|10|20");
+  this->FocusEdit(0);
+  this->Enter("40");
+  there_and_back("30|25|40", "30|25|15");
+  this->editor->Undo();
+  EXPECT_FALSE(this->editor->CanUndo());
+}
+
+TYPED_TEST(ModelEdit, LetsHandlersSetAnotherModel) {
+  this->SetRows(2);
+  this->Set(1, 8);
+  TQorVectorModel model;
+  model.setVector({1, 2, 3});
+  this->Open(&model);
+  const auto leave = [this] { this->editor->setModel(nullptr); };
+  // When the number of rows changes, in the midst of an insertion, and for the first time.
+  const auto rows_changed = [] {
+    if constexpr (TestFixture::kIsVector)
+      return &TypeParam::OnRowNoChange;
+    else
+      return &TypeParam::OnNoRowsChange;
+  }();
+  this->editor->setAllowKbdNull(false);
+  auto handler = this->On(rows_changed, leave);
+  this->editor->InsertRows(1, 2);
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  this->editor->setModel(&model);
+  EXPECT_EQ(this->editor->Model(), nullptr);
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  handler.reset();
+
+  // When a move takes the steps away.
+  const auto type = [this, &model] {
+    this->editor->setModel(&model);
+    this->FocusEdit(0);
+    this->Enter("7");
+  };
+  type();
+  handler = this->On(&TypeParam::OnCanUndoChange, [&](bool can) {
+    if (!can) leave();
+  });
+  model.removeRows(2, 1);
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  type();
+  leave();
+  EXPECT_EQ(this->Texts(), "0.0000|8.0000||");
+  EXPECT_FALSE(this->editor->VirtualMode());
 }
 
 TYPED_TEST(ModelEdit, GrowsItsModel) {
@@ -352,6 +410,9 @@ TYPED_TEST(ModelEdit, GrowsItsModel) {
   model.setVector({1});
   this->editor->setCanGrow(true);
   this->Open(&model);
+  this->editor->setCellHeight(22);
+  this->editor->setDecimalPlaces(2);
+  EXPECT_FALSE(this->Cell(1)->QLineEdit::isReadOnly()) << "the spare row";
   this->FocusEdit(0);
   this->Enter("2");
   this->Enter("3");

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 
 #include "qorvex/base/export.h"
 
@@ -44,15 +45,29 @@ class QORVEX_EXPORT ElementSizes {
   /// The size of up to 255 neighbours together. O(neighbours with a size of their own).
   [[nodiscard]] int Sum(std::uint32_t first, std::uint32_t neighbours) const;
   /// The largest Sum of so many neighbours among the first count elements; if there are fewer, the
-  /// rest have the usual size. O(elements with a size of their own).
+  /// rest have the usual size. O(elements with a size of their own); asked again for the same
+  /// numbers O(1), unless an element of the largest window has got smaller.
   [[nodiscard]] int LargestSum(std::uint32_t neighbours, std::uint32_t count) const;
   /// How many neighbours have room in a window that begins with an element, or that ends with the
   /// last one if the room is not used up there; 1 to 255. O(result).
   [[nodiscard]] std::uint32_t Fitting(std::uint32_t first, std::uint32_t count, int room) const;
 
  private:
+  // A largest sum that is known.
+  struct Largest {
+    std::uint32_t neighbours;
+    std::uint32_t count;
+    int sum;
+  };
+  [[nodiscard]] int FindLargestSum(std::uint32_t neighbours, std::uint32_t last) const;
+  // The largest sum of a window that an element is in; 0 if there is none.
+  [[nodiscard]] int LargestAround(std::uint32_t element) const;
+  // An element had another size.
+  void Adjust(std::uint32_t element, int size_before);
+
   int usual_;
   std::map<std::uint32_t, int> own_;
+  mutable std::optional<Largest> largest_;
 };
 
 }  // namespace qorvex::inline QorvexControls::detail

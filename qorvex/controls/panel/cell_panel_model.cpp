@@ -21,18 +21,20 @@ void CellPanel::setModel(QAbstractItemModel* model) {
 
 void CellPanel::SwitchModel(QAbstractItemModel* model) {
   detail::ModelLink& link = parts_->model;
+  const Update update(*this);
+  // Its handlers may set a model themselves, which is replaced here.
+  parts_->history.Forget();
   // A model that is being deleted is not linked any more.
   const bool was_virtual = virtual_mode_ || own_size_;
   if (!own_size_) own_size_ = TQorCellRange{0, table_.RowCount(), 0, table_.ColCount()};
-  const Update update(*this);
-  parts_->history.Forget();
   link.Link(model);
   if (model != nullptr) {
     table_.SetSize(link.Count(CellAxis::kRows), link.Count(CellAxis::kCols));
   } else {
     const TQorCellRange size = *own_size_;
-    own_size_.reset();
     table_.SetSize(size.rows, size.cols);
+    // Handlers may have set a model, and need the size again.
+    if (Model() == nullptr) own_size_.reset();
   }
   if (VirtualMode() != was_virtual) table_.VirtualModeChanged();
   FitSpareLines();
@@ -41,7 +43,9 @@ void CellPanel::SwitchModel(QAbstractItemModel* model) {
 void CellPanel::ModelDeleted() {
   // There is no place for what is being typed.
   if (TextCell* const text = parts_->focus.Entered()) text->Restore();
-  SwitchModel(nullptr);
+  parts_->history.Forget();
+  // Handlers may have set another model.
+  if (Model() == nullptr) SwitchModel(nullptr);
 }
 
 std::optional<detail::CellPlace> CellPanel::TypedPlace() const {
@@ -61,7 +65,13 @@ void CellPanel::ModelChanged(const TQorCellRange& range) {
 
 void CellPanel::ModelMoved(const detail::ModelMove& move) {
   const Update update(*this);
-  if (!move.is_append) parts_->history.Forget();
+  const QAbstractItemModel* const model = Model();
+  if (!move.is_append) {
+    // The step that stores a value follows its own elements.
+    move.is_stored ? parts_->history.ForgetOthers() : parts_->history.Forget();
+  }
+  // Handlers may have set another model.
+  if (Model() != model) return;
   if (TextCell* const text = parts_->focus.Entered(); text && move.typed_is_gone) text->Restore();
   const quint32 rows = parts_->model.Count(CellAxis::kRows);
   // What is being typed is committed to its own element, not to the one that is now in its cell; in

@@ -100,6 +100,8 @@ class AccessiblePanel : public QAccessibleWidget, public QAccessibleTableInterfa
   [[nodiscard]] quint32 Cols() const;
   [[nodiscard]] CellPanel& Panel() const { return static_cast<CellPanel&>(*widget()); }
   [[nodiscard]] TQorCellRange Selection() const;
+  [[nodiscard]] bool HasAllRows(const TQorCellRange& range) const;
+  [[nodiscard]] bool HasAllCols(const TQorCellRange& range) const;
   [[nodiscard]] TextCell* CellInSight(const AccessiblePlace& place) const;
   void DropElements();
 

@@ -1,6 +1,7 @@
 // The size and the selection of a table for screen readers.
 
 #include <algorithm>
+#include <limits>
 #include <numeric>
 
 #include "qorvex/controls/panel/detail/accessible_panel.h"
@@ -15,7 +16,9 @@ namespace {
 constexpr quint32 kMaxListed = 1000;
 
 QList<int> Numbers(quint32 first, quint32 count) {
-  QList<int> numbers(std::min(count, kMaxListed));
+  // Those that are an int.
+  const quint32 end = std::numeric_limits<int>::max();
+  QList<int> numbers(std::min({count, kMaxListed, end - std::min(first, end)}));
   std::iota(numbers.begin(), numbers.end(), AsInt(first));
   return numbers;
 }
@@ -50,6 +53,19 @@ TQorCellRange AccessiblePanel::Selection() const {
   return Parts() == nullptr ? TQorCellRange() : Parts()->selection.Range();
 }
 
+// The spare row has no elements that could be selected.
+bool AccessiblePanel::HasAllRows(const TQorCellRange& range) const {
+  if (range.row != 0 || range.rows == 0) return false;
+  const quint32 rows = Parts()->table.RowCount();
+  return rows > 0 && range.rows >= rows;
+}
+
+bool AccessiblePanel::HasAllCols(const TQorCellRange& range) const {
+  if (range.col != 0 || range.cols == 0) return false;
+  const quint32 cols = Parts()->table.ColCount();
+  return cols > 0 && range.cols >= cols;
+}
+
 bool AccessiblePanel::IsSelected(const AccessiblePlace& place) const {
   switch (place.kind) {
     case AccessiblePlace::Kind::kRowHeading:
@@ -64,12 +80,12 @@ bool AccessiblePanel::IsSelected(const AccessiblePlace& place) const {
 
 bool AccessiblePanel::isRowSelected(int row) const {
   const TQorCellRange range = Selection();
-  return row >= 0 && range.cols == Cols() && range.Contains(static_cast<quint32>(row), 0);
+  return row >= 0 && HasAllCols(range) && range.Contains(static_cast<quint32>(row), 0);
 }
 
 bool AccessiblePanel::isColumnSelected(int col) const {
   const TQorCellRange range = Selection();
-  return col >= 0 && range.rows == Rows() && range.Contains(0, static_cast<quint32>(col));
+  return col >= 0 && HasAllRows(range) && range.Contains(0, static_cast<quint32>(col));
 }
 
 int AccessiblePanel::selectedCellCount() const {
@@ -91,22 +107,22 @@ QList<QAccessibleInterface*> AccessiblePanel::selectedCells() const {
 
 int AccessiblePanel::selectedRowCount() const {
   const TQorCellRange range = Selection();
-  return range.cols == Cols() ? AsInt(range.rows) : 0;
+  return HasAllCols(range) ? AsInt(range.rows) : 0;
 }
 
 int AccessiblePanel::selectedColumnCount() const {
   const TQorCellRange range = Selection();
-  return range.rows == Rows() ? AsInt(range.cols) : 0;
+  return HasAllRows(range) ? AsInt(range.cols) : 0;
 }
 
 QList<int> AccessiblePanel::selectedRows() const {
   const TQorCellRange range = Selection();
-  return range.cols == Cols() ? Numbers(range.row, range.rows) : QList<int>();
+  return HasAllCols(range) ? Numbers(range.row, range.rows) : QList<int>();
 }
 
 QList<int> AccessiblePanel::selectedColumns() const {
   const TQorCellRange range = Selection();
-  return range.rows == Rows() ? Numbers(range.col, range.cols) : QList<int>();
+  return HasAllRows(range) ? Numbers(range.col, range.cols) : QList<int>();
 }
 
 bool AccessiblePanel::selectRow(int row) {

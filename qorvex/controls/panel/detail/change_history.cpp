@@ -225,6 +225,14 @@ bool ChangeHistory::Redo() {
   return false;
 }
 
+void ChangeHistory::ForgetOthers() {
+  for (auto place = steps_.begin(); place != steps_.end();) {
+    Step* const step = *place++;
+    if (!step->IsRunning()) step->Drop();
+  }
+  Settle();
+}
+
 void ChangeHistory::SetLimit(qint64 bytes) {
   limit_ = std::max<qint64>(bytes, 0);
   if (limit_ == 0) {

@@ -96,6 +96,8 @@ class ChangeHistory {
 
   /// The program has changed the size of the table: nothing can be undone.
   void Forget();
+  /// The step that runs has moved elements: no other one can be undone or redone.
+  void ForgetOthers();
   /// The program has changed elements: commands and what was done before them cannot be undone.
   void ForgetCommand();
 

@@ -1,5 +1,6 @@
 #include "qorvex/controls/panel/detail/model_link.h"
 
+#include <QScopedValueRollback>
 #include <algorithm>
 #include <cmath>
 #include <limits>
@@ -88,6 +89,7 @@ int ModelLink::First(CellAxis axis) const {
 }
 
 quint32 ModelLink::Count(CellAxis axis) const {
+  if (!model_) return 0;
   const bool rows = axis == CellAxis::kRows;
   return CountFrom(First(axis), rows ? model_->rowCount() : model_->columnCount());
 }
@@ -99,6 +101,7 @@ Extended ModelLink::Value(quint32 row, quint32 col) const {
 
 bool ModelLink::Store(quint32 row, quint32 col, Extended value) {
   const QModelIndex index = Index(row, col);
+  const QScopedValueRollback stores(stores_, true);
   return index.isValid() && model_->setData(index, ItemOf(value, index.data(Qt::EditRole)));
 }
 
@@ -118,8 +121,10 @@ bool ModelLink::InsertLines(CellAxis axis, quint32 first, quint32 count, Extende
   const int at = First(axis) + static_cast<int>(first);
   const int lines = static_cast<int>(count);
   const bool rows = axis == CellAxis::kRows;
-  if (!(rows ? model_->insertRows(at, lines) : model_->insertColumns(at, lines))) return false;
-  if (std::isnan(value)) return true;
+  const QPointer<QAbstractItemModel> asked = model_;
+  if (!(rows ? asked->insertRows(at, lines) : asked->insertColumns(at, lines))) return false;
+  // A handler may have set another model.
+  if (std::isnan(value) || !asked || asked != model_) return true;
   const quint32 across = Count(rows ? CellAxis::kCols : CellAxis::kRows);
   for (quint32 line = first; line < first + count; ++line) {
     for (quint32 i = 0; i < across; ++i) rows ? Store(line, i, value) : Store(i, line, value);
@@ -180,6 +185,7 @@ void ModelLink::Changed(const QModelIndex& first, const QModelIndex& last,
 void ModelLink::Moved(bool is_append) {
   ModelMove move;
   move.is_append = is_append;
+  move.is_stored = stores_;
   if (typed_) {
     const std::optional<CellPlace> place = typed_->Place();
     move.typed_is_gone = !place;

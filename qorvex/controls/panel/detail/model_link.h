@@ -21,6 +21,7 @@ namespace qorvex::inline QorvexControls::detail {
 /// What a change of the structure of a model has done.
 struct ModelMove {
   bool is_append = false;             ///< Every element is where it was.
+  bool is_stored = false;             ///< A value that the panel stores has moved elements.
   bool typed_is_gone = false;         ///< The element whose text is being typed is gone.
   std::optional<CellPlace> typed_to;  ///< Its new place, if it has another one.
 };
@@ -57,7 +58,7 @@ class ModelLink : public QObject {
   void SetFirstCol(int col) { first_col_ = col; }
   /// @}
 
-  /// The number of rows, or of columns from the first one on.
+  /// The number of rows, or of columns from the first one on; 0 without a model.
   [[nodiscard]] quint32 Count(CellAxis axis) const;
   /// The value of an item; null if it is not a number or does not exist.
   [[nodiscard]] Extended Value(quint32 row, quint32 col) const;
@@ -115,6 +116,7 @@ class ModelLink : public QObject {
   Owner owner_;
   QPointer<QAbstractItemModel> model_;
   int first_col_ = 0;
+  bool stores_ = false;
   // It is going to be asked for more rows.
   bool fetches_ = false;
   // The element whose text is being typed, while the model moves elements.

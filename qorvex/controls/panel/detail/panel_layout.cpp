@@ -115,12 +115,17 @@ void PanelLayout::SizeChanged() {
 }
 
 void PanelLayout::Place() {
+  PlaceParts();
+  panel_.updateGeometry();
+}
+
+void PanelLayout::PlaceParts() {
   grid_.Arrange();
   headings_.Arrange();
   const QSize bars(NeedsBar(rows_) ? BarExtent() : 0, NeedsBar(cols_) ? BarExtent() : 0);
-  QSize cells = geometry_.Size();
-  // Two bars meet in the corner of the panel, wherever the last cells end.
-  if (auto_edits_ && cols_.Bar()) cells = panel_.contentsRect().size() - bars;
+  // With AutoEdits, two bars meet in the corner of the panel, wherever the last cells end.
+  const QSize cells =
+      auto_edits_ && cols_.Bar() ? panel_.contentsRect().size() - bars : geometry_.Size();
   const int left = geometry_.HeaderWidth();
   const int top = geometry_.HeaderHeight();
   const auto place = [this](QWidget* widget, const QRect& rectangle) {
@@ -129,7 +134,6 @@ void PanelLayout::Place() {
   place(rows_.Bar(), {cells.width(), top, bars.width(), cells.height() - top});
   place(cols_.Bar(), {left, cells.height(), cells.width() - left, bars.height()});
   place(corner_, {cells.width(), cells.height(), bars.width(), bars.height()});
-  panel_.updateGeometry();
 }
 
 QSize PanelLayout::SizeHint() const {
@@ -149,7 +153,11 @@ QSize PanelLayout::SizeFor(quint32 rows, quint32 cols) const {
 }
 
 void PanelLayout::ColsMoved() {
-  if (!geometry_.ColWidths().AreUsual()) Arrange();
+  if (geometry_.ColWidths().AreUsual()) return;
+  headings_.TakeRoom();
+  FitEdits();
+  // The size that the panel wants is that of its widest columns, in sight or not.
+  PlaceParts();
 }
 
 void PanelLayout::CountChanged() {

@@ -70,6 +70,7 @@ class PanelLayout {
   void ChangeEdits(PanelAxis& axis, quint32 edits);
   void FitEdits();
   [[nodiscard]] GridSize FittingEdits() const;
+  void PlaceParts();
   [[nodiscard]] int BarExtent() const;
   [[nodiscard]] bool NeedsBar(const PanelAxis& axis) const;
   [[nodiscard]] QSize SizeFor(quint32 rows, quint32 cols) const;

@@ -19,6 +19,8 @@ class ChangeHistory::Step final : public QUndoCommand {
 
   [[nodiscard]] bool IsEmpty() const noexcept { return parts_.empty(); }
   [[nodiscard]] bool IsCommand() const noexcept { return is_command_; }
+  /// While it runs, it has handed out its parts.
+  [[nodiscard]] bool IsRunning() const noexcept { return parts_.empty(); }
   [[nodiscard]] bool IsDone() const noexcept { return done_; }
 
   /// Adds a part that holds so many bytes.
