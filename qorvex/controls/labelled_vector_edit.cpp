@@ -182,11 +182,12 @@ void TQorLabelledVectorEdit::SwapElements(quint32 first, quint32 second) {
   }
 }
 
-void TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
-                                         Extended value) {
+std::optional<quint32> TQorLabelledVectorEdit::InsertLines(CellAxis axis, quint32 first,
+                                                           quint32 count, Extended value) {
   const Update update(*this);
-  TQorVectorEdit::InsertLines(axis, first, count, value);
+  const std::optional<quint32> place = TQorVectorEdit::InsertLines(axis, first, count, value);
   if (!VirtualMode()) QorvexControls::detail::ShiftKeys(custom_labels_, first, 0, count);
+  return place;
 }
 
 void TQorLabelledVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {

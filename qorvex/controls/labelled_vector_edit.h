@@ -114,7 +114,8 @@ class QORVEX_EXPORT TQorLabelledVectorEdit : public TQorVectorEdit {
   [[nodiscard]] QString CellName(quint32 row, quint32 col) const override;
   /// @{
   /// Custom labels move with their rows; those of deleted rows come back with them.
-  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  std::optional<quint32> InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                     Extended value) override;
   void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
   [[nodiscard]] KeptLineData KeepLineData(CellAxis axis, quint32 first, quint32 count) override;
   /// @}

@@ -27,16 +27,13 @@ bool TQorCustomMatrixEdit::CanInsert(CellAxis axis) const {
                                : QMetaMethod::fromSignal(&TQorCustomMatrixEdit::OnInsertCols));
 }
 
-void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
-                                       Extended value) {
-  if (Model() != nullptr) {
-    Parts().model.InsertLines(axis, first, count, value);
-    return;
-  }
+std::optional<quint32> TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first,
+                                                         quint32 count, Extended value) {
+  if (Model() != nullptr) return Parts().model.InsertLines(axis, first, count, value);
   const bool rows = axis == CellAxis::kRows;
   if (VirtualMode()) {
     rows ? Q_EMIT OnInsertRows(first, count) : Q_EMIT OnInsertCols(first, count);
-    return;
+    return first;
   }
   // A handler may have changed the size.
   first = std::min(first, rows ? NoOfRows() : NoOfCols());
@@ -55,6 +52,7 @@ void TQorCustomMatrixEdit::InsertLines(CellAxis axis, quint32 first, quint32 cou
     SetCount(Parts().cols, NoOfCols() + count);
     Q_EMIT OnNoColsChange(NoOfCols());
   }
+  return first;
 }
 
 void TQorCustomMatrixEdit::InsertIntoStore(CellAxis axis, quint32 first, quint32 count,

@@ -190,14 +190,12 @@ bool TQorVectorEdit::CanInsert(CellAxis axis) const {
           isSignalConnected(QMetaMethod::fromSignal(&CellPanel::OnInsertRows)));
 }
 
-void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) {
-  if (Model() != nullptr) {
-    Parts().model.InsertLines(axis, first, count, value);
-    return;
-  }
+std::optional<quint32> TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                                   Extended value) {
+  if (Model() != nullptr) return Parts().model.InsertLines(axis, first, count, value);
   if (VirtualMode()) {
     Q_EMIT OnInsertRows(first, count);
-    return;
+    return first;
   }
   // A handler may have shortened the vector.
   first = std::min(first, NoOfRows());
@@ -210,6 +208,7 @@ void TQorVectorEdit::InsertLines(CellAxis axis, quint32 first, quint32 count, Ex
   }
   SetCount(Parts().rows, NoOfRows() + count);
   Q_EMIT OnRowNoChange(NoOfRows());
+  return first;
 }
 
 void TQorVectorEdit::RemoveLines(CellAxis axis, quint32 first, quint32 count) {

@@ -174,7 +174,8 @@ class QORVEX_EXPORT TQorVectorEdit : public CellPanel, protected CellTable {
   void NotifyText(quint32 row, quint32 col, const QString& text) override;
   [[nodiscard]] bool IsVirtual() const override { return VirtualMode(); }
   [[nodiscard]] bool CanInsert(CellAxis axis) const override;
-  void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) override;
+  std::optional<quint32> InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                     Extended value) override;
   void RemoveLines(CellAxis axis, quint32 first, quint32 count) override;
   [[nodiscard]] KeptLineData KeepLineData(CellAxis axis, quint32 first, quint32 count) override;
   void VirtualModeChanged() override;

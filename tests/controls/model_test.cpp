@@ -405,6 +405,33 @@ TYPED_TEST(ModelEdit, LetsHandlersSetAnotherModel) {
   EXPECT_FALSE(this->editor->VirtualMode());
 }
 
+TYPED_TEST(ModelEdit, AppendsToAModelThatSortsNewRowsElsewhere) {
+  TQorVectorModel model;
+  model.setVector({10, 20});
+  QSortFilterProxyModel proxy;
+  proxy.setSourceModel(&model);
+  proxy.setSortRole(TQorVectorModel::SortRole);
+  this->Open(&proxy);
+  for (const bool nulls : {true, false}) {
+    for (const Qt::SortOrder order : {Qt::AscendingOrder, Qt::DescendingOrder}) {
+      SCOPED_TRACE(testing::Message() << "nulls " << nulls << ", order " << order);
+      model.setVector({10, 20});
+      proxy.sort(0, order);
+      this->editor->setAllowKbdNull(nulls);
+      this->editor->setCanGrow(true);
+      this->FocusEdit(2);
+      this->Enter("15");
+      EXPECT_EQ(Column(model), "10|20|15");
+      this->editor->InsertRows(1, 1);
+      EXPECT_EQ(model.rowCount(), 4);
+      for (const int kept : {0, 1, 2}) {
+        const auto texts = QString::fromStdString(Column(model)).split('|');
+        EXPECT_TRUE(texts.contains(QStringList{"10", "20", "15"}[kept])) << Column(model);
+      }
+    }
+  }
+}
+
 TYPED_TEST(ModelEdit, GrowsItsModel) {
   TQorVectorModel model;
   model.setVector({1});

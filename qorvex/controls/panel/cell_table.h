@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QString>
 #include <functional>
+#include <optional>
 
 #include "qorvex/base/element_types.h"
 #include "qorvex/base/export.h"
@@ -53,9 +54,12 @@ class QORVEX_EXPORT CellTable {
   [[nodiscard]] virtual bool CanInsert(CellAxis axis) const = 0;
   /// @{
   /// Inserts lines before the given one, with a value for their elements; removes lines. All of
-  /// them are in the table. A program may refuse, so that the size stays as it is. Inserting raises
-  /// std::bad_alloc and changes nothing if memory runs out.
-  virtual void InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) = 0;
+  /// them are in the table. Inserting gives the place of the lines, since a model that sorts has
+  /// another one for them; nothing if the model refuses or scatters them. A program may refuse
+  /// both, so that the size stays as it is. Inserting raises std::bad_alloc and changes nothing if
+  /// memory runs out.
+  virtual std::optional<quint32> InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                             Extended value) = 0;
   virtual void RemoveLines(CellAxis axis, quint32 first, quint32 count) = 0;
   /// @}
   /// What belongs to the lines beside their elements, before they are removed.

@@ -47,7 +47,9 @@ bool ChangeHistory::Apply(const LineInsertions& lines, ElementChanges changes,
   const bool undisturbed = RunBatch([&] {
     try {
       for (const LineInsertion& insertion : lines) {
-        Insert(insertion);
+        const std::optional<quint32> place = Insert(insertion);
+        if (!place) return;
+        MoveChanges(*shared, insertion, *place);
         if (table_.IsVirtual()) continue;
         step->Add(Moving(insertion, true), 0);
         if (disturbed_) break;

@@ -140,7 +140,8 @@ class ChangeHistory {
   [[nodiscard]] Part Moving(const LineInsertion& lines, bool undo_removes);
   void TakeOut(RemovedLines& removed);
   void PutBack(RemovedLines& removed);
-  void Insert(const LineInsertion& lines);
+  std::optional<quint32> Insert(const LineInsertion& lines);
+  static void MoveChanges(ElementChanges& changes, const LineInsertion& lines, quint32 place);
   // The elements that differ from the value with which the lines are inserted.
   [[nodiscard]] ElementChanges ElementsOf(const LineInsertion& lines) const;
   // Stores the changes and puts the values that were there in their place. False, and nothing

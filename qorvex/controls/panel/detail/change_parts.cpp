@@ -59,10 +59,24 @@ void ChangeHistory::PutBack(RemovedLines& removed) {
   removed.data = {};
 }
 
-void ChangeHistory::Insert(const LineInsertion& lines) {
+std::optional<quint32> ChangeHistory::Insert(const LineInsertion& lines) {
   const bool rows = lines.axis == CellAxis::kRows;
   owner_.commit_lines(lines.axis, lines.first, rows ? table_.RowCount() : table_.ColCount());
-  table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
+  return table_.InsertLines(lines.axis, lines.first, lines.count, lines.value);
+}
+
+// The changes go to lines that were to be at `first` and are now at the place.
+void ChangeHistory::MoveChanges(ElementChanges& changes, const LineInsertion& lines,
+                                quint32 place) {
+  if (place == lines.first) return;
+  for (ElementChange& change : changes) {
+    quint32& line = lines.axis == CellAxis::kRows ? change.row : change.col;
+    if (line >= lines.first) {
+      line = line - lines.first + place;
+    } else if (line >= place) {
+      line += lines.count;
+    }
+  }
 }
 
 ElementChanges ChangeHistory::ElementsOf(const LineInsertion& lines) const {

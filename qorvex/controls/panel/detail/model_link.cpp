@@ -54,12 +54,16 @@ void ModelLink::ConnectMoves() {
             const int shown = std::max(first, first_col_);
             Moved(false, {CountFrom(first_col_, shown), CountFrom(shown, last + 1), 0});
           });
-  connect(model_, &Model::rowsInserted, this, [this](const QModelIndex& parent, int, int last) {
-    if (!parent.isValid()) Moved(last == model_->rowCount() - 1);
-  });
+  connect(model_, &Model::rowsInserted, this,
+          [this](const QModelIndex& parent, int first, int last) {
+            if (parent.isValid()) return;
+            Inserted(first, last);
+            Moved(last == model_->rowCount() - 1);
+          });
   connect(model_, &Model::columnsInserted, this,
           [this](const QModelIndex& parent, int first, int last) {
             if (parent.isValid()) return;
+            Inserted(first, last);
             const int shown = std::max(first, first_col_);
             Moved(last == model_->columnCount() - 1,
                   {CountFrom(first_col_, shown), 0, CountFrom(shown, last + 1)});
@@ -123,20 +127,57 @@ QString ModelLink::Heading(CellAxis axis, quint32 line) const {
       .toString();
 }
 
-bool ModelLink::InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value) {
-  if (quint64{Count(axis)} + static_cast<quint32>(First(axis)) + count > kMaxCount) return false;
+std::optional<quint32> ModelLink::InsertLines(CellAxis axis, quint32 first, quint32 count,
+                                              Extended value) {
+  if (quint64{Count(axis)} + static_cast<quint32>(First(axis)) + count > kMaxCount) return {};
   const int at = First(axis) + static_cast<int>(first);
   const int lines = static_cast<int>(count);
   const bool rows = axis == CellAxis::kRows;
   const QPointer<QAbstractItemModel> asked = model_;
-  if (!(rows ? asked->insertRows(at, lines) : asked->insertColumns(at, lines))) return false;
-  // A handler may have set another model.
-  if (std::isnan(value) || !asked || asked != model_) return true;
-  const quint32 across = Count(rows ? CellAxis::kCols : CellAxis::kRows);
-  for (quint32 line = first; line < first + count; ++line) {
-    for (quint32 i = 0; i < across; ++i) rows ? Store(line, i, value) : Store(i, line, value);
+  // A model that only tells of a reset has them where they were asked for.
+  Insertion told{.first = at, .count = lines};
+  {
+    const QScopedValueRollback insertion(insertion_, &told);
+    if (!(rows ? asked->insertRows(at, lines) : asked->insertColumns(at, lines))) return {};
   }
-  return true;
+  // A handler may have set another model.
+  if (!asked || asked != model_) return {};
+  if (told.signals_seen > 1 || told.count != lines || told.first < First(axis)) return {};
+  const auto place = static_cast<quint32>(told.first - First(axis));
+  return std::isnan(value) ? place : FillLines(axis, place, count, value);
+}
+
+std::optional<quint32> ModelLink::FillLines(CellAxis axis, quint32 first, quint32 count,
+                                            Extended value) {
+  const bool rows = axis == CellAxis::kRows;
+  const quint32 across = Count(rows ? CellAxis::kCols : CellAxis::kRows);
+  // A model that sorts may move each line as soon as it has its value.
+  std::vector<Element> elements;
+  for (quint32 line = first; line < first + count; ++line) {
+    for (quint32 i = 0; i < across; ++i) {
+      elements.emplace_back(*this, rows ? CellPlace{line, i} : CellPlace{i, line});
+    }
+  }
+  for (const Element& element : elements) {
+    if (const auto place = element.Place()) Store(place->row, place->col, value);
+  }
+  if (elements.empty()) return first;
+  quint32 least = kMaxCount;
+  quint32 most = 0;
+  for (const Element& element : elements) {
+    const auto place = element.Place();
+    if (!place) return {};
+    least = std::min(least, rows ? place->row : place->col);
+    most = std::max(most, rows ? place->row : place->col);
+  }
+  return most - least == count - 1 ? std::optional(least) : std::nullopt;
+}
+
+void ModelLink::Inserted(int first, int last) {
+  if (insertion_ == nullptr) return;
+  insertion_->first = first;
+  insertion_->count = last - first + 1;
+  ++insertion_->signals_seen;
 }
 
 bool ModelLink::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
@@ -147,7 +188,10 @@ bool ModelLink::RemoveLines(CellAxis axis, quint32 first, quint32 count) {
 
 bool ModelLink::SetCount(CellAxis axis, quint32 count) {
   const quint32 now = Count(axis);
-  if (count > now) return InsertLines(axis, now, count - now, kNull);
+  if (count > now) {
+    InsertLines(axis, now, count - now, kNull);
+    return Count(axis) == count;
+  }
   return count == now || RemoveLines(axis, count, now - count);
 }
 

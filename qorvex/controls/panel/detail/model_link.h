@@ -80,9 +80,10 @@ class ModelLink : public QObject {
 
   /// @{
   /// Insert or remove rows or columns, or do so at the end until there are as many as given. False
-  /// if the model refuses. New elements are as the model makes them, or have a value that is not
-  /// null.
-  bool InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value);
+  /// or nothing if the model refuses. InsertLines gives their place, since a model that sorts has
+  /// another one for them; nothing if they have several. New elements are as the model makes them,
+  /// or have a value that is not null.
+  std::optional<quint32> InsertLines(CellAxis axis, quint32 first, quint32 count, Extended value);
   bool RemoveLines(CellAxis axis, quint32 first, quint32 count);
   bool SetCount(CellAxis axis, quint32 count);
   /// @}
@@ -119,6 +120,9 @@ class ModelLink : public QObject {
   void ConnectMoves();
   void HoldTyped();
   void Changed(const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) const;
+  void Inserted(int first, int last);
+  // Their place afterwards.
+  std::optional<quint32> FillLines(CellAxis axis, quint32 first, quint32 count, Extended value);
   void Moved(bool is_append, const ReplacedCols& cols = {});
 
   Owner owner_;
@@ -127,6 +131,13 @@ class ModelLink : public QObject {
   bool stores_ = false;
   // It is going to be asked for more rows.
   bool fetches_ = false;
+  // While lines are inserted: what the model tells of them.
+  struct Insertion {
+    int first = 0;
+    int count = 0;
+    int signals_seen = 0;
+  };
+  Insertion* insertion_ = nullptr;
   // The element whose text is being typed, while the model moves elements.
   std::optional<Element> typed_;
 };
