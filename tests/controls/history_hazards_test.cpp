@@ -1,5 +1,6 @@
 // Undo when memory runs out, and when handlers change tables in the midst of a step.
 
+#include <QCoreApplication>
 #include <QUndoStack>
 #include <memory>
 
