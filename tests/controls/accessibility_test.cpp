@@ -225,6 +225,10 @@ TEST_F(AccessibleMatrix, HasHeadingsAndFormatsOfColumns) {
   editor->setRowHeadings(true);
   Show();
   ASSERT_EQ(Panel()->childCount(), 72 + 9 + 8);
+  EXPECT_EQ(Panel()->child(19), Table()->cellAt(2, 3));
+  EXPECT_EQ(Panel()->indexOfChild(Table()->cellAt(2, 3)), 19);
+  EXPECT_EQ(Panel()->child(-1), nullptr);
+  EXPECT_EQ(Panel()->child(89), nullptr);
   for (int index : {72, 80, 81, 82, 88}) {
     QAccessibleInterface* const heading = Panel()->child(index);
     const bool of_row = index < 81;
@@ -256,6 +260,7 @@ TEST_F(AccessibleMatrix, SelectsColumnsAboveTheSpareRow) {
   EXPECT_FALSE(Table()->isColumnSelected(0));
   editor->Select({1, 1, 0, 1});
   EXPECT_EQ(Table()->selectedColumnCount(), 0);
+  EXPECT_EQ(Table()->selectedRowCount(), 0);
 }
 
 TEST_F(AccessibleMatrix, ReachesTheCornerByTheMenuIfItHasAMeaning) {

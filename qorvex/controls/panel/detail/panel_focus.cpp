@@ -23,7 +23,6 @@ PanelFocus::PanelFocus(QWidget& panel, PanelAxis& rows, PanelAxis& cols, const C
 
 void PanelFocus::Enter(TextCell& text, CellPlace place, bool in_header) {
   in_header_ = in_header;
-  editing_ = false;
   // A cell that lost the focus while the window was inactive has not noticed.
   if (entered_ != nullptr && entered_ != &text) entered_->Leave();
   entered_ = &text;
