@@ -60,7 +60,7 @@ class QORVEX_EXPORT ElementSizes {
     int sum;
   };
   [[nodiscard]] int FindLargestSum(std::uint32_t neighbours, std::uint32_t last) const;
-  // The largest sum of a window that an element is in; 0 if there is none.
+  // The largest sum of a window that contains the element; 0 if no window does.
   [[nodiscard]] int LargestAround(std::uint32_t element) const;
   // An element had another size.
   void Adjust(std::uint32_t element, int size_before);

@@ -31,7 +31,7 @@ struct AccessiblePlace {
 /// What the cells in sight and those out of sight have in common.
 class AccessibleTableCell : public QAccessibleTableCellInterface {
  public:
-  /// The table, or a null pointer if there is none any more.
+  /// The table, or a null pointer after its deletion.
   [[nodiscard]] virtual AccessiblePanel* Table() const = 0;
   /// The place, or nothing if the cell does not belong to the table.
   [[nodiscard]] virtual std::optional<AccessiblePlace> Place() const = 0;

@@ -98,7 +98,7 @@ void AccessibleText::replaceText(int start, int end, const QString& text) {
   cell_.setCursorPosition(start);
   cell_.setSelection(start, end - start);
   cell_.insert(text);
-  // What is typed takes effect when the focus leaves, but there is none in an inactive window.
+  // In an inactive window the cell has no focus to lose, so the text is committed at once.
   if (!cell_.hasFocus()) cell_.CommitOrRestore();
 }
 

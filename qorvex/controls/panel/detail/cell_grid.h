@@ -62,7 +62,7 @@ class CellGrid : private QAccessible::ActivationObserver {
     return cells_[row][col];
   }
   [[nodiscard]] bool HasHeader() const { return !header_texts_.empty(); }
-  /// The text in front of a row of cells; a null pointer if there is none.
+  /// The text in front of a row of cells; a null pointer if the row has no such text.
   [[nodiscard]] TextCell* HeaderText(std::size_t row) const {
     return row < header_texts_.size() ? header_texts_[row] : nullptr;
   }

@@ -55,7 +55,8 @@ class PanelFocus {
   /// Moves the focus one cell along an axis. A text that is not a number keeps it.
   void Step(PanelAxis& along, PanelAxis& across, bool forward);
   /// Moves the focus as the tab key does to the next element in reading order if that is out of
-  /// sight; false if it is in sight or there is none, and if the key does not stop at the cells.
+  /// sight. False if it is in sight, at the end of the table, and if the key does not stop at the
+  /// cells.
   bool TabOn(bool forward);
   /// The focus that the panel gets is for the text that had it last. It waits on the bar as long as
   /// no cell shows an element.

@@ -39,7 +39,8 @@ class PanelSelection {
 
   /// @{
   /// Selects the elements between two, which may be beyond the end of the table; or moves the end
-  /// alone. Where there are none, the element under the focus is selected. Scrolls nothing.
+  /// alone. If the table has none of them, the element under the focus is selected. Scrolls
+  /// nothing.
   void Select(CellPlace anchor, CellPlace end);
   void Extend(CellPlace end) { Select(Anchor(), end); }
   /// @}
