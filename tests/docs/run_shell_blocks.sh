@@ -2,7 +2,7 @@
 # run_shell_blocks.sh <source directory> <build directory> <empty directory>: runs every block of shell commands in
 # README.md, CONTRIBUTING.md and docs/, as a reader would. The blocks run in a directory that looks like a checkout
 # whose build/release is the build directory. The list below names the blocks that cannot run here, with the reason.
-# Another test runs the console blocks of docs/command_line.md and compares their output.
+# Another test runs the console blocks of docs/command_line.md and docs/command_line/, and compares their output.
 set -euo pipefail
 source=$1 build=$2 scratch=$3
 failures=0
@@ -68,7 +68,7 @@ read_document() {
     else
       case "$kind $1" in
         sh\ *) run_block "$1" "$start" "$block" ;;
-        "console docs/command_line.md" | cmake\ * | cpp\ * | r\ * | text\ *) ;;
+        "console docs/command_line"* | cmake\ * | cpp\ * | r\ * | text\ *) ;;
         *) fail "$1:$start: a block of an unknown kind: ${kind:-none}" ;;
       esac
       kind=
