@@ -50,7 +50,7 @@ MainWindow::MainWindow(QWidget* parent)
 
 MainWindow::~MainWindow() = default;
 
-void MainWindow::AddPage(QWidget* page, const char* name, const QString& title) {
+void MainWindow::AddPage(Page* page, const char* name, const QString& title) {
   page->setObjectName(QLatin1String(name));
   pages_->addTab(page, title);
 }

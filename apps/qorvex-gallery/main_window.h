@@ -11,6 +11,7 @@ class QTabWidget;
 namespace qorvex::gallery {
 
 class DataPage;
+class Page;
 
 /// The pages of the program in tabs. Files that are opened or dropped are shown on the page of
 /// data.
@@ -35,7 +36,7 @@ class MainWindow : public QMainWindow {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void AddPage(QWidget* page, const char* name, const QString& title);
+  void AddPage(Page* page, const char* name, const QString& title);
   void MakeMenus();
   void ShowTitle();
   void ShowAbout();

@@ -40,7 +40,7 @@ QString CsvFileFor(const QString& path) {
 }  // namespace
 
 DataPage::DataPage(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       file_(new QLabel),
       columns_(new QComboBox),
       message_(new MessageBar),

@@ -3,9 +3,8 @@
 /// @file
 /// DataPage, which reads, edits and describes a column of numbers.
 
-#include <QWidget>
-
 #include "apps/qorvex-gallery/model/data_table.h"
+#include "apps/qorvex-gallery/widgets/page.h"
 #include "qorvex/controls/labelled_vector_edit.h"
 
 class QComboBox;
@@ -24,7 +23,7 @@ class TableLoader;
 /// Edits are kept when another column is chosen, can be saved as CSV, and are never discarded
 /// without asking. A large file is read in the background; until it has been read, the page keeps
 /// showing the previous table but does not let it be edited.
-class DataPage : public QWidget {
+class DataPage : public Page {
   Q_OBJECT
 
  public:

@@ -37,7 +37,7 @@ Points Within(const Points& curve, Extended from, Extended to) {
 }  // namespace
 
 DistributionPage::DistributionPage(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       family_(new QComboBox),
       summary_(new QLabel),
       parameters_(new ParameterForm),

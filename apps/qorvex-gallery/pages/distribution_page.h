@@ -3,10 +3,10 @@
 /// @file
 /// DistributionPage, probabilities, densities and quantiles of distributions.
 
-#include <QWidget>
 #include <vector>
 
 #include "apps/common/distributions.h"
+#include "apps/qorvex-gallery/widgets/page.h"
 
 class QComboBox;
 class QLabel;
@@ -27,7 +27,7 @@ class PlotView;
 /// A family of distributions with its parameters, the probabilities on both sides of a point or of
 /// an interval, as a diagram and with all digits, and a quantile. When numbers are refused, the
 /// message bar says why, and the diagram and the figures stay those of the last valid numbers.
-class DistributionPage : public QWidget {
+class DistributionPage : public Page {
   Q_OBJECT
 
  public:

@@ -51,7 +51,7 @@ QSpinBox* SizeBox(const char* name, const QString& accessible_name) {
 }  // namespace
 
 MatrixPage::MatrixPage(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       decimals_(new TQorMatrixEdit),
       fractions_(new TQorMatrixFractEdit),
       inverse_decimals_(new TQorMatrixEdit),

@@ -4,10 +4,10 @@
 /// MatrixPage, an editor for a matrix, with commands.
 
 #include <QString>
-#include <QWidget>
 #include <array>
 #include <functional>
 
+#include "apps/qorvex-gallery/widgets/page.h"
 #include "qorvex/base/vector_types.h"
 
 class QLabel;
@@ -30,7 +30,7 @@ class MessageBar;
 
 /// A matrix as decimals and as fractions, both of which can be edited, with commands on the whole
 /// matrix, its determinant, its rank and its inverse.
-class MatrixPage : public QWidget {
+class MatrixPage : public Page {
   Q_OBJECT
 
  public:

@@ -37,7 +37,7 @@ constexpr std::size_t kMostCopied = 1'000'000;
 }  // namespace
 
 RandomPage::RandomPage(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       variate_(new QComboBox),
       summary_(new QLabel),
       parameters_(new ParameterForm),

@@ -3,13 +3,13 @@
 /// @file
 /// RandomPage, samples of random variates.
 
-#include <QWidget>
 #include <cstddef>
 #include <memory>
 #include <vector>
 
 #include "apps/qorvex-gallery/model/background_work.h"
 #include "apps/qorvex-gallery/model/random_sample.h"
+#include "apps/qorvex-gallery/widgets/page.h"
 
 class QComboBox;
 class QLabel;
@@ -33,7 +33,7 @@ class PlotView;
 /// Draws a sample in the background and shows its histogram with the density, and its mean and
 /// variance next to those of the distribution. The values can be copied and saved. A sample is
 /// shown until the next one is complete.
-class RandomPage : public QWidget {
+class RandomPage : public Page {
   Q_OBJECT
 
  public:

@@ -35,7 +35,7 @@ constexpr std::pair<int, int> kExamplePairs[] = {
 }  // namespace
 
 RegressionPage::RegressionPage(QWidget* parent)
-    : QWidget(parent),
+    : Page(parent),
       message_(new MessageBar),
       rows_(new QSpinBox),
       x_(new TQorLabelledVectorEdit),

@@ -3,8 +3,7 @@
 /// @file
 /// RegressionPage, lines and parabolas through pairs of numbers.
 
-#include <QWidget>
-
+#include "apps/qorvex-gallery/widgets/page.h"
 #include "qorvex/controls/labelled_vector_edit.h"
 
 class QLabel;
@@ -20,7 +19,7 @@ class PlotView;
 /// line and parabola, and of the residuals; and the coefficients of both with their standard errors
 /// and intervals. Every edit updates all of these. Incomplete pairs are left out. The page starts
 /// with an example.
-class RegressionPage : public QWidget {
+class RegressionPage : public Page {
   Q_OBJECT
 
  public:
