@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <map>
 #include <utility>
 
 #include "apps/common/cells.h"
 #include "apps/common/column_differences.h"
+#include "apps/common/groups.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/parameters.h"
 #include "qorvex/base/text.h"
@@ -25,37 +25,27 @@ NumberSample SampleOf(TableColumn column) {
 }
 
 // The groups are in the order in which their labels appear.
-std::vector<NumberSample> Split(const TableColumn& column, const TableColumn& labels) {
-  std::vector<NumberSample> groups;
-  std::map<std::string, std::size_t> group_of;
+std::vector<NumberSample> SamplesOf(const TableColumn& column, const TableColumn& labels) {
   const std::string label_name = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
-  const TQorFloatVector values = column.numbers.Values();
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    const std::string& label = labels.labels[i];
-    const auto [at, is_new] = group_of.try_emplace(label, groups.size());
-    if (is_new) {
-      groups.push_back({{},
-                        {.column = column.number,
-                         .name = column.name,
-                         .group = label_name + " = " + OnOneLine(label)}});
-    }
-    ColumnNumbers& numbers = groups[at->second].numbers;
-    const bool is_kept =
-        column.numbers.AreDecimal() &&
-        numbers.TryAppend({column.numbers.Integers()[i], -std::int64_t{column.numbers.Decimals()}});
-    if (!is_kept) numbers.Append(values[i]);
+  std::vector<NumberSample> samples;
+  for (GroupNumbers& group : Split(column, GroupsOf({&labels, 1}))) {
+    const std::string& label = labels.labels.Texts()[samples.size()];
+    samples.push_back({std::move(group.numbers),
+                       {.column = column.number,
+                        .name = column.name,
+                        .group = label_name + " = " + OnOneLine(label)}});
   }
-  return groups;
+  return samples;
 }
 
 std::vector<NumberSample> SplitSamples(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   if (table.selection.columns.size() != 1)
     throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
-  table.selection.labels = arguments.by;
+  table.selection.labels = {*arguments.by};
   table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
-  return Split(columns[0], columns[1]);
+  return SamplesOf(columns[0], columns[1]);
 }
 
 TestFigure CountOf(const NumberSample& sample) {
