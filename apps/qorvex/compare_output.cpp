@@ -104,8 +104,8 @@ void WriteColumn(JsonWriter& json, const char* key, const ComparedColumn& compar
   WriteColumnKeys(json, compared.column.number, compared.column.name);
   json.Key("count");
   json.Integer(static_cast<std::uint64_t>(*lines.front().value));
-  json.Key("skipped");
-  json.Integer(compared.column.skipped);
+  json.Key("missing");
+  json.Integer(compared.column.missing);
   WriteFigures(json, lines);
   json.EndObject();
 }

@@ -128,8 +128,8 @@ void WriteReport(JsonWriter& json, const ColumnReport& report, const DescribeOpt
   WriteColumnKeys(json, report.number, report.name);
   json.Key("count");
   json.Integer(CountOf(report));
-  json.Key("skipped");
-  json.Integer(report.skipped);
+  json.Key("missing");
+  json.Integer(report.missing);
   if (report.sum_of_weights) {
     json.Key("sum_of_weights");
     json.Number(report.sum_of_weights);

@@ -132,7 +132,7 @@ void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOp
 
 ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
                       const DescribeOptions& options, unsigned threads) {
-  ColumnReport report{.number = column.number, .name = column.name, .skipped = column.skipped};
+  ColumnReport report{.number = column.number, .name = column.name, .missing = column.missing};
   const TQorFloatVector values =
       weights == nullptr ? TQorFloatVector() : ValidWeights(*weights, options);
   if (options.table.selection.currency) report.amounts = AmountsOf(column, values, options);

@@ -29,7 +29,7 @@ struct ColumnIntervals {
 struct ColumnReport {
   std::size_t number = 0;
   std::string name = {};
-  std::size_t skipped = 0;
+  std::size_t missing = 0;
   /// The lines from the number of values to the inter-quartile range.
   std::vector<ReportFigure> lines = {};
   /// The figures that are amounts, if the values are.

@@ -181,8 +181,8 @@ void WriteHead(JsonWriter& json, const FitColumns& columns, std::size_t count,
   }
   json.Key("count");
   json.Integer(count);
-  json.Key("skipped");
-  json.Integer(columns.y.skipped);
+  json.Key("missing");
+  json.Integer(columns.y.missing);
 }
 
 std::string JsonOf(const FitColumns& columns, const FittedModel& model,

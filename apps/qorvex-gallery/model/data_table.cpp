@@ -50,7 +50,7 @@ DataTable::DataTable(apps::TextInput input) : input_name_(input.name) {
     AppendRow({rows.Cells().begin(), rows.Cells().end()}, rows.Line());
   }
   while (rows.Next()) {
-    apps::RequireWidth(rows, width, first_line);
+    apps::RequireWidth(rows.Scanner(), width, first_line);
     for (std::size_t i = lines_.empty() ? 0 : rows.BlankLines(); i > 0; --i)
       AppendRow(std::vector<std::string_view>(width), rows.Line() - i);
     AppendRow({rows.Cells().begin(), rows.Cells().end()}, rows.Line());

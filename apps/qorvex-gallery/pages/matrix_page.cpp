@@ -218,7 +218,7 @@ void MatrixPage::AskAndOpen() {
 void MatrixPage::Open(const QString& path) {
   Run([&] {
     const TQorFloatMatrix matrix =
-        apps::ReadMatrix(apps::OpenTextInput(path.toStdString()), apps::MatrixLayout{});
+        apps::ReadMatrix(apps::OpenTextInput(path.toStdString()), {});
     if (matrix.size() > kMostRows || matrix[0].size() > kMostRows) {
       message_->SetText(tr("More than %L1 rows or columns are too many here").arg(kMostRows));
       return;
