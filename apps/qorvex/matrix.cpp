@@ -120,11 +120,7 @@ std::string Presented(const TQorFloatMatrix& matrix, const OutputFormat& output)
   if (output.IsJson()) {
     JsonWriter json;
     json.BeginArray();
-    for (const TQorFloatVector& row : matrix) {
-      json.BeginArray();
-      for (const Extended element : row) json.Number(element);
-      json.EndArray();
-    }
+    for (const TQorFloatVector& row : matrix) json.Numbers(row);
     json.EndArray();
     return json.TakeText();
   }

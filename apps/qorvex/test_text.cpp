@@ -125,7 +125,7 @@ class TestResultFigures {
         break;
     }
     const bool is_rejected = result_.p <= significance;
-    figures_.push_back({"rejected", "", is_rejected ? "yes" : "no",
+    figures_.push_back({"rejected", "Rejected:", is_rejected ? "yes" : "no",
                         ReportText(is_rejected ? rsRejected : rsNotRejected)});
     figures_.push_back(
         {"reason", "", {}, ReportText(is_rejected ? rsRejectReason : rsNotRejectReason)});
