@@ -164,7 +164,8 @@ std::string TabbedTextOf(const ResultTable& table, const FigureFormat& format) {
   std::string text;
   for (const std::vector<std::string>& row : TextRows(table, format)) {
     for (const std::string& cell : row) text += cell + '\t';
-    text.back() = '\n';
+    text.erase(text.find_last_not_of('\t') + 1);
+    text += '\n';
   }
   return text;
 }

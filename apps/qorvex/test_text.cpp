@@ -61,8 +61,10 @@ ReportPart PartOf(const TestSample& sample) {
     part.item += ", " + sample.group;
     part.title += ", " + sample.group;
   }
-  if (sample.missing > 0)
-    part.figures.push_back({"missing", "Missing Values:", std::uint64_t{sample.missing}});
+  if (sample.missing > 0) {
+    part.figures.insert(part.figures.begin() + 1,
+                        {"missing", "Missing Values:", std::uint64_t{sample.missing}});
+  }
   return part;
 }
 
