@@ -183,14 +183,6 @@ std::vector<ReportPart> PartsOf(const TestReport& report, const TestArguments& a
 
 }  // namespace
 
-void TestReport::SetHypotheses(const std::string& subject, const std::string& value) {
-  const char* const relation = alternative == Alternative::kTwoSided ? " is not "
-                               : alternative == Alternative::kLess   ? " is less than "
-                                                                     : " is greater than ";
-  null_hypothesis = subject + " is " + value;
-  alternate_hypothesis = subject + relation + value;
-}
-
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments) {
   const std::string& file = arguments.table.file;
   const std::string place = file.empty() ? "" : OnOneLine(InputName(file)) + ": ";
