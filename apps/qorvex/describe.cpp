@@ -51,18 +51,22 @@ void ForEachReport(std::vector<TableColumn>& columns, const TableColumn* weights
   }
 }
 
-std::string TextOf(std::vector<TableColumn>& columns, const TableColumn* weights,
-                   const DescribeOptions& options) {
-  std::string text;
-  ForEachReport(columns, weights, options, [&](const ColumnReport& report) {
-    if (!text.empty()) text += '\n';
-    text += TextOf(report, options);
-  });
-  return text;
-}
-
-std::string JsonOf(std::vector<TableColumn>& columns, const TableColumn* weights,
-                   const DescribeOptions& options) {
+std::string OutputOf(std::vector<TableColumn>& columns, const TableColumn* weights,
+                     const DescribeOptions& options) {
+  if (options.output.form == OutputForm::kText) {
+    std::string text;
+    ForEachReport(columns, weights, options, [&](const ColumnReport& report) {
+      if (!text.empty()) text += '\n';
+      text += TextOf(report, options);
+    });
+    return text;
+  }
+  if (!options.output.IsJson()) {
+    std::vector<ColumnReport> reports;
+    ForEachReport(columns, weights, options,
+                  [&](const ColumnReport& report) { reports.push_back(report); });
+    return TableOf(reports, options);
+  }
   JsonWriter json;
   json.BeginObject();
   WriteHeading(json, options, weights);
@@ -84,9 +88,7 @@ void Describe(const DescribeOptions& options) {
     weights = columns.back();
     columns.pop_back();
   }
-  const TableColumn* const used_weights = has_weights ? &weights : nullptr;
-  WriteResult(options.json ? JsonOf(columns, used_weights, options)
-                           : TextOf(columns, used_weights, options));
+  WriteResult(OutputOf(columns, has_weights ? &weights : nullptr, options));
 }
 
 }  // namespace

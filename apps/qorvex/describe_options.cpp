@@ -77,8 +77,7 @@ void DescribeOptions::AddTo(CLI::App& command) {
       ->excludes(weights)
       ->excludes(level)
       ->excludes(thread_count);
-  AddDecimals(command, decimals, "Decimals of the report. Default: 4");
-  AddJson(command, json);
+  output.AddTo(command);
 }
 
 QuantileType DescribeOptions::TypeOfQuantiles() const {

@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "qorvex/stats/exact/weighted.h"
@@ -19,8 +20,7 @@ struct DescribeOptions {
   TableArguments table = {};
   bool population = false;
   bool classic = false;
-  bool json = false;
-  std::optional<int> decimals = {};
+  OutputFormat output = {};
   unsigned threads = 1;
   std::vector<WrittenNumber> quantiles = {};
   /// Empty if not given.
@@ -35,7 +35,6 @@ struct DescribeOptions {
 
   /// The given type, or the one that suits the weights.
   [[nodiscard]] QuantileType TypeOfQuantiles() const;
-  [[nodiscard]] int Decimals() const { return decimals.value_or(4); }
   [[nodiscard]] bool HasConfidence() const { return !confidence.text.empty(); }
   [[nodiscard]] bool HasReliabilities() const {
     return table.selection.weights && weight_kind == WeightKind::kReliability;

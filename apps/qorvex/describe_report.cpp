@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/common/cells.h"
+#include "apps/common/figure_format.h"
 #include "apps/common/input_error.h"
 #include "apps/common/sample_figures.h"
 #include "apps/common/text_input.h"
@@ -111,10 +112,10 @@ void AddWeighted(ColumnReport& report, const ColumnNumbers& numbers, const TQorF
 void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOptions& options,
                    unsigned threads) {
   if (options.classic) {
-    const SampleFigures figures = ClassicFigures(
-        options.quantiles.empty() ? numbers.TakeValues() : numbers.Values(), options.population);
-    report.classic = figures.results;
-    report.lines = figures.Lines(options.population);
+    report.lines =
+        ClassicFigures(options.quantiles.empty() ? numbers.TakeValues() : numbers.Values(),
+                       options.population)
+            .Lines(options.population);
   }
   numbers.Sort();
   for (const WrittenNumber& probability : options.quantiles)
@@ -132,7 +133,10 @@ void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOp
 
 ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
                       const DescribeOptions& options, unsigned threads) {
-  ColumnReport report{.number = column.number, .name = column.name, .skipped = column.skipped};
+  ColumnReport report{.number = column.number,
+                      .name = column.name,
+                      .skipped = column.skipped,
+                      .significant_digits = SignificantDigits(column.numbers)};
   const TQorFloatVector values =
       weights == nullptr ? TQorFloatVector() : ValidWeights(*weights, options);
   if (options.table.selection.currency) report.amounts = AmountsOf(column, values, options);

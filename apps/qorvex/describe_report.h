@@ -30,13 +30,12 @@ struct ColumnReport {
   std::size_t number = 0;
   std::string name = {};
   std::size_t skipped = 0;
+  /// Of the values.
+  int significant_digits = 0;
   /// The lines from the number of values to the inter-quartile range.
   std::vector<ReportFigure> lines = {};
   /// The figures that are amounts, if the values are.
   std::map<ReportTextId, Currency> amounts = {};
-  /// The figures of the classic routines, if they are: rounding errors in the sums of these may
-  /// look like small figures.
-  std::optional<DescriptiveResults> classic = std::nullopt;
   std::optional<Extended> sum_of_weights = std::nullopt;
   /// In the order of the options.
   std::vector<Extended> quantiles = {};

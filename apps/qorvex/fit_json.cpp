@@ -181,7 +181,7 @@ void WriteHead(JsonWriter& json, const FitColumns& columns, std::size_t count,
   }
   json.Key("count");
   json.Integer(count);
-  json.Key("skipped");
+  json.Key("missing");
   json.Integer(columns.y.skipped);
 }
 

@@ -1,29 +1,8 @@
 #include "apps/qorvex/json_figures.h"
 
-#include <utility>
-
 namespace qorvex::apps {
 
 namespace {
-
-// In their order.
-constexpr std::pair<const char*, ReportTextId> kFigures[] = {
-    {"sum", rsDSSum},
-    {"sum_of_squares", rsDSSumSQ},
-    {"mean", rsDSMean},
-    {"variance", rsDSVariance},
-    {"standard_deviation", rsDSStdDev},
-    {"skewness", rsDSSkew},
-    {"excess_kurtosis", rsDSKurtosis},
-    {"minimum", rsDSMinimum},
-    {"first_quartile", rsDSQtr1},
-    {"median", rsDSMedian},
-    {"third_quartile", rsDSQtr3},
-    {"maximum", rsDSMaximum},
-    {"range", rsDSRange},
-    {"interquartile_range", rsDSIQR},
-    {"mode", rsDSMode},
-};
 
 const char* NameOf(TestForm form) {
   switch (form) {
@@ -42,22 +21,6 @@ const char* NameOf(TestForm form) {
 }
 
 }  // namespace
-
-void WriteFigures(JsonWriter& json, const std::vector<ReportFigure>& lines,
-                  const std::map<ReportTextId, Currency>& amounts) {
-  // A figure that does not exist has another label.
-  std::map<ReportTextId, std::optional<Extended>> values;
-  for (const ReportFigure& line : lines) values.emplace(line.label, line.value);
-  for (const auto& [key, id] : kFigures) {
-    json.Key(key);
-    const auto amount = amounts.find(id);
-    if (amount != amounts.end()) {
-      json.Amount(amount->second);
-    } else {
-      json.Number(values[id]);
-    }
-  }
-}
 
 void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& name) {
   json.Key("column");

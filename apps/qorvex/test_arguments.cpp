@@ -73,9 +73,7 @@ void AddTest(CLI::App& parent, const TestCommand& test) {
       command,
       "The confidence level of intervals, and 1 less the significance level.\nDefault: 0.95",
       arguments->confidence);
-  AddDecimals(command, arguments->decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  AddJson(command, arguments->json);
+  arguments->output.AddTo(command);
   command.footer(std::string(kReportHelp) + (test.reads_table ? "\n\n" + TableHelp() : "") +
                  kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments, name = std::string(test.name), run = test.run] {
@@ -83,8 +81,8 @@ void AddTest(CLI::App& parent, const TestCommand& test) {
     try {
       const std::vector<TestReport> reports = run(*arguments);
       RemarkOnSmallFigures(reports, *arguments);
-      WriteResult(arguments->json ? JsonOf(reports, name, *arguments)
-                                  : TextOf(reports, *arguments));
+      WriteResult(arguments->output.IsJson() ? JsonOf(reports, name, *arguments)
+                                             : TextOf(reports, *arguments));
     } catch (const EMathError& error) {
       throw TestRefusal(file.empty() ? name : InputName(file), error);
     }

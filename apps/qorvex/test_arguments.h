@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "apps/qorvex/test_report.h"
@@ -34,8 +35,7 @@ struct TestArguments {
   std::uint32_t successes = 0;
   std::uint32_t trials = 0;
   bool yates = false;
-  std::optional<int> decimals = {};
-  bool json = false;
+  OutputFormat output = {};
 
   /// 1 - confidence.
   [[nodiscard]] Extended Significance() const;

@@ -41,6 +41,10 @@ struct TestSample {
   std::string name = {};
   /// The label of the group; empty if it is the whole column.
   std::string group = {};
+  /// The missing values that were skipped.
+  std::size_t missing = 0;
+  /// Of the numbers.
+  int significant_digits = 0;
   std::vector<TestFigure> figures = {};
 };
 
@@ -68,10 +72,10 @@ struct TestReport {
   void SetHypotheses(const std::string& subject, const std::string& value);
 };
 
-/// Writes a remark if figures of the reports are too small for the format.
+/// Writes remarks if figures of the reports are too small for the format or for the decimals.
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments);
 
-/// The reports, separated by blank lines.
+/// The reports in text, separated by blank lines, or in CSV.
 [[nodiscard]] std::string TextOf(const std::vector<TestReport>& reports,
                                  const TestArguments& arguments);
 

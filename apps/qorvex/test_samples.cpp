@@ -6,6 +6,7 @@
 
 #include "apps/common/cells.h"
 #include "apps/common/column_differences.h"
+#include "apps/common/figure_format.h"
 #include "apps/common/groups.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/parameters.h"
@@ -21,7 +22,12 @@ namespace {
 }
 
 NumberSample SampleOf(TableColumn column) {
-  return {std::move(column.numbers), {.column = column.number, .name = column.name}};
+  const int digits = SignificantDigits(column.numbers);
+  return {std::move(column.numbers),
+          {.column = column.number,
+           .name = column.name,
+           .missing = column.skipped,
+           .significant_digits = digits}};
 }
 
 // The groups are in the order in which their labels appear.
@@ -33,7 +39,8 @@ std::vector<NumberSample> SamplesOf(const TableColumn& column, const TableColumn
     samples.push_back({std::move(group.numbers),
                        {.column = column.number,
                         .name = column.name,
-                        .group = label_name + " = " + OnOneLine(label)}});
+                        .group = label_name + " = " + OnOneLine(label),
+                        .significant_digits = SignificantDigits(column.numbers)}});
   }
   return samples;
 }
