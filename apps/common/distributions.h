@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -36,5 +37,8 @@ struct Family {
 
 /// The family with the given name or alias; null if no family has it.
 [[nodiscard]] const Family* FindFamily(std::string_view name);
+
+/// The other names of the family with the given name or alias; none if no family has it.
+[[nodiscard]] std::vector<std::string> OtherNames(std::string_view name);
 
 }  // namespace qorvex::apps

@@ -43,10 +43,8 @@ void AddNumberInOrder(CLI::App& command, const SharedArguments& arguments,
                       const NumberParameter& parameter) {
   const std::size_t index = arguments->numbers.size();
   arguments->numbers.push_back(parameter.start);
-  CLI::Option& option =
-      AddNumber(command, parameter.option, parameter.Description(), parameter.kind,
-                [arguments, index](Extended value) { arguments->numbers[index] = value; });
-  if (!parameter.has_default) option.required();
+  AddParameter(command, parameter,
+               [arguments, index](Extended value) { arguments->numbers[index] = value; });
 }
 
 NumberKind PointKind(const Family& family) {
@@ -303,9 +301,9 @@ void AddDist(CLI::App& program) {
     CLI::App& command = *dist.add_subcommand(family.name, family.summary);
     for (const char* const alias : family.aliases) command.alias(alias);
     for (const Question& question : kQuestions) AddQuestion(command, family, question);
-    RequireOneCommand(command, std::string("A command of dist ") + family.name);
+    RequireOneCommand(command, "command");
   }
-  RequireOneCommand(dist, "A distribution");
+  RequireOneCommand(dist, "distribution");
 }
 
 }  // namespace qorvex::apps

@@ -66,7 +66,7 @@ void AddFit(CLI::App& program) {
   CLI::App& fit = *program.add_subcommand(
       "fit", "Lines, polynomials and linear functions of several columns by least squares");
   for (const FitCurve& curve : kCurves) AddCurve(fit, curve);
-  RequireOneCommand(fit, "A command of fit");
+  RequireOneCommand(fit, "model");
 }
 
 }  // namespace qorvex::apps

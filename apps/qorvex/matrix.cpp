@@ -181,7 +181,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
 void AddMatrix(CLI::App& program) {
   CLI::App& matrix = *program.add_subcommand("matrix", "Inverses, products and ranks of matrices");
   for (const MatrixOperation& operation : MatrixOperations()) AddOperation(matrix, operation);
-  RequireOneCommand(matrix, "A command of matrix");
+  RequireOneCommand(matrix, "command");
 }
 
 }  // namespace qorvex::apps

@@ -23,7 +23,7 @@ void AddTestCommands(CLI::App& program) {
   AddDistributionTests(test);
   AddCountTests(test);
   test.footer(kExamples);
-  RequireOneCommand(test, "A test");
+  RequireOneCommand(test, "test");
 }
 
 }  // namespace qorvex::apps
