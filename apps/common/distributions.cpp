@@ -181,12 +181,12 @@ const Family* FindFamily(std::string_view name) {
   return found == Families().end() ? nullptr : &*found;
 }
 
-std::vector<std::string> OtherNames(std::string_view name) {
+std::vector<const char*> OtherNames(std::string_view name) {
   const Family* const family = FindFamily(name);
   if (family == nullptr) return {};
-  std::vector<std::string> names = {family->name};
+  std::vector<const char*> names = {family->name};
   names.insert(names.end(), family->aliases.begin(), family->aliases.end());
-  std::erase(names, name);
+  std::erase_if(names, [name](const char* other) { return other == name; });
   return names;
 }
 

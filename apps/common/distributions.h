@@ -5,7 +5,6 @@
 
 #include <memory>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -39,6 +38,6 @@ struct Family {
 [[nodiscard]] const Family* FindFamily(std::string_view name);
 
 /// The other names of the family with the given name or alias; none if no family has it.
-[[nodiscard]] std::vector<std::string> OtherNames(std::string_view name);
+[[nodiscard]] std::vector<const char*> OtherNames(std::string_view name);
 
 }  // namespace qorvex::apps

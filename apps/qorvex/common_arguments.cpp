@@ -100,6 +100,10 @@ void AddJson(CLI::App& command, bool& json) {
                    "or null if it does not exist");
 }
 
+void AddAliases(CLI::App& command, const std::vector<const char*>& aliases) {
+  for (const char* const alias : aliases) command.alias(alias);
+}
+
 std::string PathOf(const CLI::App& command) {
   std::string path;
   for (const CLI::App* app = &command; app->get_parent() != nullptr; app = app->get_parent())

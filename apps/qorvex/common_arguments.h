@@ -45,6 +45,9 @@ CLI::Option* AddThreads(CLI::App& command, unsigned& threads, const std::string&
 /// Adds --json.
 void AddJson(CLI::App& command, bool& json);
 
+/// Makes a command known by other names as well.
+void AddAliases(CLI::App& command, const std::vector<const char*>& aliases);
+
 /// The words of a command after the program's name: "dist normal"; empty for the program.
 [[nodiscard]] std::string PathOf(const CLI::App& command);
 

@@ -299,7 +299,7 @@ void AddDist(CLI::App& program) {
       *program.add_subcommand("dist", "Probabilities, densities and quantiles of distributions");
   for (const Family& family : Families()) {
     CLI::App& command = *dist.add_subcommand(family.name, family.summary);
-    for (const char* const alias : family.aliases) command.alias(alias);
+    AddAliases(command, family.aliases);
     for (const Question& question : kQuestions) AddQuestion(command, family, question);
     RequireOneCommand(command, "command");
   }

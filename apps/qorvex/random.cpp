@@ -129,7 +129,7 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
 
 void AddVariate(CLI::App& random, const Variate& variate) {
   CLI::App& command = *random.add_subcommand(variate.name, variate.summary);
-  for (const std::string& name : OtherNames(variate.name)) command.alias(name);
+  AddAliases(command, OtherNames(variate.name));
   const auto arguments = std::make_shared<RandomArguments>();
   for (const NumberParameter& parameter : variate.parameters)
     AddParameter(command, parameter, arguments);
