@@ -101,7 +101,7 @@ const HypothesisTest kTests[] = {
      .aliases = {"binom"},
      .summary = "Whether the probability of success has a value: exact binomial test",
      .input = TestInput::kTrials,
-     .null_value = {"--success-probability,--prob", "The probability of the null hypothesis",
+     .null_value = {"--success-probability", "The probability of the null hypothesis",
                     NumberKind::kShare, "0.5"},
      .run = Binomial},
 };
