@@ -1,8 +1,6 @@
 #include "apps/qorvex/common_arguments.h"
 
 #include <algorithm>
-#include <cctype>
-#include <memory>
 #include <string_view>
 
 #include "apps/common/input_error.h"
@@ -27,13 +25,6 @@ Exit status:
 const char* const kNothingPrintedHelp = R"( Nothing is
   printed on standard output unless all input is valid.)";
 
-std::string HelpFormatter::make_expanded(const CLI::App* group) const {
-  return make_group(group->get_description(), false,
-                    group->get_options([group](const CLI::Option* option) {
-                      return option != group->get_help_ptr();
-                    }));
-}
-
 namespace {
 
 char ParseDelimiter(const std::string& text) {
@@ -51,9 +42,6 @@ char ParseDelimiter(const std::string& text) {
   }
   return text[0];
 }
-
-// What the formatter of --help calls a command below the one that it describes.
-constexpr const char* kCommandLabel = "SUBCOMMAND";
 
 // Prevents the parser of options from reading 010 as eight and 0x10 as sixteen. Returns the error.
 std::string PlainDecimal(std::string& text) {
@@ -98,50 +86,6 @@ void AddJson(CLI::App& command, bool& json) {
   command.add_flag("--json", json,
                    "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
                    "or null if it does not exist");
-}
-
-void AddAliases(CLI::App& command, const std::vector<const char*>& aliases) {
-  for (const char* const alias : aliases) command.alias(alias);
-}
-
-std::string PathOf(const CLI::App& command) {
-  std::string path;
-  for (const CLI::App* app = &command; app->get_parent() != nullptr; app = app->get_parent())
-    path = app->get_name() + (path.empty() ? "" : " ") + path;
-  return path;
-}
-
-std::vector<const CLI::App*> CommandsOf(const CLI::App& app) {
-  // Option groups are apps without a name.
-  return app.get_subcommands([](const CLI::App* command) { return !command->get_name().empty(); });
-}
-
-std::string NamesOfCommands(const CLI::App& app) {
-  std::string names;
-  for (const CLI::App* const command : CommandsOf(app))
-    names += (names.empty() ? "" : ", ") + command->get_name();
-  return names;
-}
-
-std::string WordForCommands(const CLI::App& app) {
-  return CLI::detail::to_lower(app.get_formatter()->get_label(kCommandLabel));
-}
-
-void RequireOneCommand(CLI::App& app, const std::string& word) {
-  app.formatter(std::make_shared<HelpFormatter>());
-  std::string label = word;
-  for (char& c : label) c = static_cast<char>(std::toupper(c));
-  app.get_formatter()->label(kCommandLabel, label);
-  const std::string heading = label[0] + word.substr(1) + 's';
-  for (CLI::App* const command : app.get_subcommands({})) command->group(heading);
-  app.require_subcommand(0, 1);
-  // Checked here and not by require_subcommand, so that the message can name the commands.
-  app.callback([&app, word] {
-    if (!app.get_subcommands().empty()) return;
-    const std::string path = PathOf(app);
-    throw CLI::ValidationError((path.empty() ? "" : path + ": ") + "a " + word +
-                               " is missing; the " + word + "s are " + NamesOfCommands(app));
-  });
 }
 
 }  // namespace qorvex::apps

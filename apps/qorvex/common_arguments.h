@@ -6,15 +6,8 @@
 #include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace qorvex::apps {
-
-/// Lays out --help: a group of options appears under its description, such as "One of:".
-class HelpFormatter : public CLI::Formatter {
- public:
-  [[nodiscard]] std::string make_expanded(const CLI::App* group) const override;
-};
 
 /// Delimiters, quotes, encodings and numbers.
 extern const char* const kTextHelp;
@@ -44,24 +37,5 @@ CLI::Option* AddThreads(CLI::App& command, unsigned& threads, const std::string&
 
 /// Adds --json.
 void AddJson(CLI::App& command, bool& json);
-
-/// Makes a command known by other names as well.
-void AddAliases(CLI::App& command, const std::vector<const char*>& aliases);
-
-/// The words of a command after the program's name: "dist normal"; empty for the program.
-[[nodiscard]] std::string PathOf(const CLI::App& command);
-
-/// The commands below a command, in the order of --help.
-[[nodiscard]] std::vector<const CLI::App*> CommandsOf(const CLI::App& app);
-
-/// The names of the commands below a command, with commas between them.
-[[nodiscard]] std::string NamesOfCommands(const CLI::App& app);
-
-/// What the commands below a command are called: the word given to RequireOneCommand.
-[[nodiscard]] std::string WordForCommands(const CLI::App& app);
-
-/// Makes an app require exactly one of the commands that it has. --help and messages call them by
-/// the given word: "distribution".
-void RequireOneCommand(CLI::App& app, const std::string& word);
 
 }  // namespace qorvex::apps

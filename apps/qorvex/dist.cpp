@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/common/distributions.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"

@@ -1,5 +1,6 @@
 #include <memory>
 
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/fit_arguments.h"

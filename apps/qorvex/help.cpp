@@ -1,11 +1,10 @@
 #include <CLI/CLI.hpp>
-#include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
-#include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/text_output.h"
 #include "apps/qorvex/wrong_words.h"
 
@@ -13,14 +12,12 @@ namespace qorvex::apps {
 
 namespace {
 
-const CLI::App& FindCommand(const CLI::App& program, const std::vector<std::string>& words) {
+const CLI::App& CommandAt(const CLI::App& program, const std::vector<std::string>& path) {
   const CLI::App* command = &program;
-  for (const std::string& word : words) {
-    const std::vector<const CLI::App*> commands = CommandsOf(*command);
-    const auto next = std::ranges::find_if(
-        commands, [&word](const CLI::App* below) { return below->check_name(word); });
-    if (next == commands.end()) throw CLI::ValidationError(UnknownCommand(*command, word));
-    command = *next;
+  for (const std::string& word : path) {
+    const CLI::App* const next = FindCommand(*command, word);
+    if (next == nullptr) throw CLI::ValidationError(UnknownCommand(*command, word));
+    command = next;
   }
   return *command;
 }
@@ -32,7 +29,7 @@ void AddHelp(CLI::App& program) {
   const auto words = std::make_shared<std::vector<std::string>>();
   help.add_option("COMMAND", *words, "The words of a command. Default: the program")->type_name("");
   help.callback([&program, words] {
-    const CLI::App& command = FindCommand(program, *words);
+    const CLI::App& command = CommandAt(program, *words);
     const std::string name = program.get_name() + (words->empty() ? "" : " ") + PathOf(command);
     WriteResult(command.get_formatter()->make_help(&command, name, CLI::AppFormatMode::Normal));
   });

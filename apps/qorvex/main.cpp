@@ -6,10 +6,12 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
-#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/completion.h"
 #include "apps/qorvex/text_output.h"
 #include "apps/qorvex/wrong_words.h"
 #include "qorvex/base/version.h"
@@ -44,6 +46,10 @@ int Run(int argc, char** argv) {
   AddHelp(program);
   RequireOneCommand(program, "command");
 
+  if (argc > 1 && argv[1] == std::string_view("complete")) {
+    WriteResult(Completions(program, std::vector<std::string>(argv + 2, argv + argc)));
+    return kSuccess;
+  }
   try {
     program.parse(argc, argv);
     return kSuccess;

@@ -12,6 +12,7 @@
 #include "apps/common/matrix_reader.h"
 #include "apps/common/text_input.h"
 #include "apps/common/threads.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/matrix_operations.h"

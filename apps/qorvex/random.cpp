@@ -11,6 +11,7 @@
 
 #include "apps/common/distributions.h"
 #include "apps/common/variates.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"

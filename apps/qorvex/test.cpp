@@ -2,6 +2,7 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"

@@ -5,64 +5,48 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/similar_words.h"
-#include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/command_tree.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-// Finds all paths to commands below the app that have this name.
-void FindCommand(const CLI::App& app, const std::string& name, std::vector<std::string>& paths) {
+// Finds the paths of all commands below the app that have this name.
+void AppendPaths(const CLI::App& app, const std::string& name, std::vector<std::string>& paths) {
   for (const CLI::App* const command : CommandsOf(app)) {
     if (command->check_name(name)) paths.push_back(PathOf(*command));
-    FindCommand(*command, name, paths);
+    AppendPaths(*command, name, paths);
   }
 }
 
 // The commands below the app that the word may stand for.
 std::vector<std::string> SimilarCommands(const CLI::App& app, const std::string& word) {
   std::vector<std::string> names;
-  std::vector<const CLI::App*> named;
   for (const CLI::App* const command : CommandsOf(app)) {
-    for (const std::string& name : command->get_aliases()) {
-      names.push_back(name);
-      named.push_back(command);
-    }
     names.push_back(command->get_name());
-    named.push_back(command);
+    const std::vector<std::string>& aliases = command->get_aliases();
+    names.insert(names.end(), aliases.begin(), aliases.end());
   }
   std::vector<std::string> similar;
   for (const std::string& name : SimilarWords(word, names)) {
-    const std::string& command =
-        named[static_cast<std::size_t>(std::ranges::find(names, name) - names.begin())]->get_name();
+    const std::string& command = FindCommand(app, name)->get_name();
     if (std::ranges::find(similar, command) == similar.end()) similar.push_back(command);
   }
   return similar;
 }
 
-// The names of the options of a command, those in groups included.
-void AppendOptions(const CLI::App& app, std::vector<std::string>& names) {
-  for (const CLI::Option* const option : app.get_options()) {
-    for (const std::string& name : option->get_lnames()) names.push_back("--" + name);
-    for (const std::string& name : option->get_snames()) names.push_back("-" + name);
-  }
-  for (const CLI::App* const group : app.get_subcommands({}))
-    if (group->get_name().empty()) AppendOptions(*group, names);
-}
-
 std::string UnknownOption(const CLI::App& app, const std::string& word) {
   std::vector<std::string> options;
-  AppendOptions(app, options);
+  for (const CLI::Option* const option : OptionsOf(app)) {
+    if (option == app.get_help_ptr()) continue;
+    for (const std::string& name : NamesOf(*option)) options.push_back(name);
+  }
   const std::string name = word.substr(0, word.find('='));
-  std::vector<std::string> right = SimilarWords(name, options);
+  const std::vector<std::string> right = SimilarWords(name, options);
   std::string what = "unknown option " + Excerpt(name);
   if (!right.empty()) return what + "; did you mean " + Alternatives(right) + '?';
-  bool is_first = true;
-  for (const std::string& option : options) {
-    if (option == "--help" || option == "-h") continue;
-    what += (is_first ? "; the options are " : ", ") + option;
-    is_first = false;
-  }
+  for (std::size_t i = 0; i < options.size(); ++i)
+    what += (i == 0 ? "; the options are " : ", ") + options[i];
   return what;
 }
 
@@ -120,7 +104,7 @@ std::string UnknownCommand(const CLI::App& app, const std::string& word) {
   const std::string what =
       (path.empty() ? "" : path + ": ") + "unknown " + kind + ' ' + Excerpt(word);
   std::vector<std::string> right = SimilarCommands(app, word);
-  if (right.empty()) FindCommand(app, word, right);
+  if (right.empty()) AppendPaths(app, word, right);
   return right.empty() ? what + "; the " + kind + "s are " + NamesOfCommands(app)
                        : what + "; did you mean " + Alternatives(right) + '?';
 }
