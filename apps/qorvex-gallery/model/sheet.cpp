@@ -33,7 +33,11 @@ std::size_t Index(int number) {
   return static_cast<std::size_t>(number);
 }
 
-bool IsInside(int first, int count, int all) {
+bool CanInsert(int first, int count, int all) {
+  return first >= 0 && first <= all && count > 0 && count <= std::numeric_limits<int>::max() - all;
+}
+
+bool CanRemove(int first, int count, int all) {
   return first >= 0 && count > 0 && first <= all && count <= all - first;
 }
 
@@ -213,56 +217,67 @@ bool Sheet::setHeaderData(int section, Qt::Orientation orientation, const QVaria
   return true;
 }
 
-bool Sheet::insertRows(int row, int count, const QModelIndex& parent) {
-  if (parent.isValid() || row < 0 || row > rowCount() || count <= 0 ||
-      count > std::numeric_limits<int>::max() - rowCount()) {
-    return false;
-  }
-  beginInsertRows({}, row, row + count - 1);
-  data_.InsertRows(Index(row), Index(count));
-  // Appended rows are cheap.
-  for (auto& kept : numbers_) {
-    if (kept && row + count == rowCount()) {
-      kept->resize(data_.Rows(), kNull);
-    } else {
-      kept.reset();
+void Sheet::ChangeLines(const SheetData::Lines& lines, const std::function<void()>& change) {
+  const int first = static_cast<int>(lines.first);
+  const int last = static_cast<int>(lines.first + lines.count) - 1;
+  if (lines.are_rows) {
+    const bool appends = lines.were_inserted && first == rowCount();
+    lines.were_inserted ? beginInsertRows({}, first, last) : beginRemoveRows({}, first, last);
+    change();
+    for (auto& kept : numbers_) {
+      if (appends && kept) {
+        kept->resize(data_.Rows(), kNull);
+      } else {
+        kept.reset();
+      }
     }
+    lines.were_inserted ? endInsertRows() : endRemoveRows();
+  } else {
+    lines.were_inserted ? beginInsertColumns({}, first, last) : beginRemoveColumns({}, first, last);
+    change();
+    const auto at = numbers_.begin() + first;
+    if (lines.were_inserted) {
+      numbers_.insert(at, lines.count, std::nullopt);
+    } else {
+      numbers_.erase(at, numbers_.begin() + last + 1);
+    }
+    lines.were_inserted ? endInsertColumns() : endRemoveColumns();
   }
-  endInsertRows();
   ChangedSoon();
+}
+
+void Sheet::UndoLines() {
+  std::optional<SheetData::Lines> lines = data_.LastLines();
+  if (!lines) return;
+  lines->were_inserted = !lines->were_inserted;
+  ChangeLines(*lines, [this] { data_.UndoLines(); });
+}
+
+bool Sheet::insertRows(int row, int count, const QModelIndex& parent) {
+  if (parent.isValid() || !CanInsert(row, count, rowCount())) return false;
+  ChangeLines({true, true, Index(row), Index(count)},
+              [=, this] { data_.InsertRows(Index(row), Index(count)); });
   return true;
 }
 
 bool Sheet::removeRows(int row, int count, const QModelIndex& parent) {
-  if (parent.isValid() || !IsInside(row, count, rowCount())) return false;
-  beginRemoveRows({}, row, row + count - 1);
-  data_.RemoveRows(Index(row), Index(count));
-  numbers_.assign(data_.Columns(), std::nullopt);
-  endRemoveRows();
-  ChangedSoon();
+  if (parent.isValid() || !CanRemove(row, count, rowCount())) return false;
+  ChangeLines({true, false, Index(row), Index(count)},
+              [=, this] { data_.RemoveRows(Index(row), Index(count)); });
   return true;
 }
 
 bool Sheet::insertColumns(int column, int count, const QModelIndex& parent) {
-  if (parent.isValid() || column < 0 || column > columnCount() || count <= 0 ||
-      count > std::numeric_limits<int>::max() - columnCount()) {
-    return false;
-  }
-  beginInsertColumns({}, column, column + count - 1);
-  data_.InsertColumns(Index(column), Index(count));
-  numbers_.insert(numbers_.begin() + column, Index(count), std::nullopt);
-  endInsertColumns();
-  ChangedSoon();
+  if (parent.isValid() || !CanInsert(column, count, columnCount())) return false;
+  ChangeLines({false, true, Index(column), Index(count)},
+              [=, this] { data_.InsertColumns(Index(column), Index(count)); });
   return true;
 }
 
 bool Sheet::removeColumns(int column, int count, const QModelIndex& parent) {
-  if (parent.isValid() || !IsInside(column, count, columnCount())) return false;
-  beginRemoveColumns({}, column, column + count - 1);
-  data_.RemoveColumns(Index(column), Index(count));
-  numbers_.erase(numbers_.begin() + column, numbers_.begin() + column + count);
-  endRemoveColumns();
-  ChangedSoon();
+  if (parent.isValid() || !CanRemove(column, count, columnCount())) return false;
+  ChangeLines({false, false, Index(column), Index(count)},
+              [=, this] { data_.RemoveColumns(Index(column), Index(count)); });
   return true;
 }
 

@@ -6,6 +6,7 @@
 #include <QAbstractTableModel>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -60,6 +61,11 @@ class Sheet : public QAbstractTableModel {
   [[nodiscard]] int FirstText(int column) const;
   /// Makes the cells of the first row the names of the columns.
   void TakeNamesFromFirstRow();
+  /// @{
+  /// Undoes the last insertion or removal of rows or columns, if there is one.
+  [[nodiscard]] bool CanUndoLines() const { return data_.LastLines().has_value(); }
+  void UndoLines();
+  /// @}
   /// Other words for missing values.
   void SetMissingWords(const apps::MissingWords& words);
   [[nodiscard]] bool IsChanged() const { return data_.IsChanged(); }
@@ -89,6 +95,8 @@ class Sheet : public QAbstractTableModel {
   void Changed();
 
  private:
+  // Does something to rows or columns between the signals that announce and report it.
+  void ChangeLines(const SheetData::Lines& lines, const std::function<void()>& change);
   void ChangedSoon();
   // The text for a cell, as this table writes it.
   [[nodiscard]] std::string TextFor(const QVariant& value) const;

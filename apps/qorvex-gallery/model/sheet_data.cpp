@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <stdexcept>
 #include <utility>
 
@@ -157,29 +158,81 @@ void SheetData::ShrinkToFit() {
   for (Column& column : columns_) column.cells.shrink_to_fit();
 }
 
-void SheetData::InsertRows(std::size_t row, std::size_t count) {
-  for (Column& column : columns_) column.cells.insert(At(column.cells, row), count, CellText());
+void SheetData::PutRows(std::size_t row, std::size_t count, const std::vector<Column>& removed) {
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    Column& column = columns_[i];
+    if (i < removed.size()) {
+      const std::vector<CellText>& cells = removed[i].cells;
+      column.cells.insert(At(column.cells, row), cells.begin(), cells.end());
+      for (const CellText cell : cells) Count(column, KindOf(TextAt(cell)), true);
+    } else {
+      column.cells.insert(At(column.cells, row), count, CellText());
+    }
+  }
   rows_ += count;
   SetChanged();
 }
 
-void SheetData::RemoveRows(std::size_t row, std::size_t count) {
+std::vector<SheetData::Column> SheetData::TakeRows(std::size_t row, std::size_t count) {
+  std::vector<Column> removed;
   for (Column& column : columns_) {
-    for (std::size_t i = row; i < row + count; ++i)
-      Count(column, KindOf(TextAt(column.cells[i])), false);
-    column.cells.erase(At(column.cells, row), At(column.cells, row + count));
+    const auto first = At(column.cells, row);
+    const auto last = At(column.cells, row + count);
+    removed.push_back({.cells = {first, last}});
+    column.cells.erase(first, last);
+    for (const CellText cell : removed.back().cells) Count(column, KindOf(TextAt(cell)), false);
   }
   rows_ -= count;
   SetChanged();
+  return removed;
+}
+
+void SheetData::InsertRows(std::size_t row, std::size_t count) {
+  const bool appends = row == rows_;
+  PutRows(row, count, {});
+  Lines* const last = steps_.empty() ? nullptr : &steps_.back().lines;
+  if (appends && last && last->are_rows && last->were_inserted &&
+      last->first + last->count == row) {
+    last->count += count;
+  } else {
+    steps_.push_back({.lines = {true, true, row, count}});
+  }
+}
+
+void SheetData::RemoveRows(std::size_t row, std::size_t count) {
+  steps_.push_back({{true, false, row, count}, TakeRows(row, count)});
 }
 
 void SheetData::InsertColumns(std::size_t column, std::size_t count) {
   columns_.insert(At(columns_, column), count, Column{.cells = std::vector(rows_, CellText())});
+  steps_.push_back({.lines = {false, true, column, count}});
   SetChanged();
 }
 
 void SheetData::RemoveColumns(std::size_t column, std::size_t count) {
-  columns_.erase(At(columns_, column), At(columns_, column + count));
+  const auto first = At(columns_, column);
+  const auto last = At(columns_, column + count);
+  steps_.push_back(
+      {{false, false, column, count}, {std::move_iterator(first), std::move_iterator(last)}});
+  columns_.erase(first, last);
+  SetChanged();
+}
+
+std::optional<SheetData::Lines> SheetData::LastLines() const {
+  return steps_.empty() ? std::nullopt : std::optional(steps_.back().lines);
+}
+
+void SheetData::UndoLines() {
+  const Step step = std::move(steps_.back());
+  steps_.pop_back();
+  const auto& [are_rows, were_inserted, first, count] = step.lines;
+  if (are_rows) {
+    were_inserted ? static_cast<void>(TakeRows(first, count)) : PutRows(first, count, step.removed);
+  } else if (were_inserted) {
+    columns_.erase(At(columns_, first), At(columns_, first + count));
+  } else {
+    columns_.insert(At(columns_, first), step.removed.begin(), step.removed.end());
+  }
   SetChanged();
 }
 

@@ -24,6 +24,14 @@ enum class CellKind { kMissing, kNumber, kText };
 /// Memory: the text and 8 bytes for each cell, and about 60 bytes for each changed cell.
 class SheetData {
  public:
+  /// Rows or columns that were inserted or removed.
+  struct Lines {
+    bool are_rows = false;
+    bool were_inserted = false;
+    std::size_t first = 0;
+    std::size_t count = 0;
+  };
+
   /// No rows, no columns.
   SheetData() = default;
   /// Columns without rows, with these names.
@@ -76,11 +84,18 @@ class SheetData {
   void ShrinkToFit();
 
   /// @{
-  /// Insert empty rows or columns before the given one, or remove some.
+  /// Insert empty rows or columns before the given one, or remove some. What is removed is kept for
+  /// UndoLines, in 8 bytes for each cell.
   void InsertRows(std::size_t row, std::size_t count);
   void RemoveRows(std::size_t row, std::size_t count);
   void InsertColumns(std::size_t column, std::size_t count);
   void RemoveColumns(std::size_t column, std::size_t count);
+  /// @}
+  /// @{
+  /// The last of these changes that is not undone, and undoing it. Rows that were appended one by
+  /// one count as one change.
+  [[nodiscard]] std::optional<Lines> LastLines() const;
+  void UndoLines();
   /// @}
 
   /// @{
@@ -114,9 +129,17 @@ class SheetData {
     [[nodiscard]] std::size_t* CountOf(CellKind kind);
   };
 
+  // A change that can be undone, with what it has removed.
+  struct Step {
+    Lines lines;
+    std::vector<Column> removed = {};
+  };
+
   [[nodiscard]] std::string_view TextAt(CellText cell) const;
   [[nodiscard]] CellText Keep(std::string_view text);
   void Append(Column& column, std::string_view text);
+  void PutRows(std::size_t row, std::size_t count, const std::vector<Column>& removed);
+  [[nodiscard]] std::vector<Column> TakeRows(std::size_t row, std::size_t count);
   void Count(Column& column, CellKind kind, bool more) const;
   [[nodiscard]] bool IsSame(std::string_view a, std::string_view b) const;
 
@@ -128,6 +151,7 @@ class SheetData {
   // What the changed cells held when they were read or saved, by the offset of their new text.
   std::unordered_map<std::size_t, CellText> originals_;
   bool rearranged_ = false;
+  std::vector<Step> steps_;
 };
 
 }  // namespace qorvex::gallery

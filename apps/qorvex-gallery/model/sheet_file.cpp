@@ -47,9 +47,8 @@ SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std:
   return sheet;
 }
 
-void WriteSheet(const SheetData& sheet, const std::function<void(std::string_view text)>& write,
-                bool with_names) {
-  const char delimiter = sheet.Format().delimiter.value_or(',');
+void WriteSheet(const SheetData& sheet, char delimiter,
+                const std::function<void(std::string_view text)>& write, WriteNames names) {
   std::string line;
   const auto write_row = [&](const auto& cell) {
     line.clear();
@@ -62,7 +61,7 @@ void WriteSheet(const SheetData& sheet, const std::function<void(std::string_vie
     write(line += '\n');
   };
   if (sheet.Columns() == 0) return;
-  if (with_names || sheet.HasNames()) {
+  if (names == WriteNames::kAlways || sheet.HasNames()) {
     write_row([&](std::size_t column) -> const std::string& { return sheet.Name(column); });
   }
   for (std::size_t row = 0; row < sheet.Rows(); ++row)

@@ -18,10 +18,13 @@ namespace qorvex::gallery {
 [[nodiscard]] SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& format,
                                   std::size_t bytes = 0);
 
+/// Whether a file has a header.
+enum class WriteNames { kIfThereAreAny, kAlways };
+
 /// Writes a sheet piece by piece as text: rows end with LF, cells are separated by the delimiter
-/// of its format and quoted where necessary (RFC 4180). There is a header if any column has a name,
-/// and always with `with_names`.
-void WriteSheet(const SheetData& sheet, const std::function<void(std::string_view text)>& write,
-                bool with_names = false);
+/// and quoted where necessary (RFC 4180).
+void WriteSheet(const SheetData& sheet, char delimiter,
+                const std::function<void(std::string_view text)>& write,
+                WriteNames names = WriteNames::kIfThereAreAny);
 
 }  // namespace qorvex::gallery
