@@ -89,6 +89,12 @@ const std::vector<PictureFormat>& PictureFormats() {
   return formats;
 }
 
+const PictureFormat& FormatForBrowsers() {
+  const auto& formats = PictureFormats();
+  const auto svg = std::ranges::find(formats, QStringLiteral("svg"), &PictureFormat::suffix);
+  return svg == formats.end() ? formats.front() : *svg;
+}
+
 void SavePicture(const PlotView& plot, const QString& path) {
   const QString suffix = QFileInfo(path).suffix().toLower();
   const auto& formats = PictureFormats();

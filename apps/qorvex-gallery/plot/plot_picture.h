@@ -25,6 +25,9 @@ struct PictureFormat {
 /// there.
 [[nodiscard]] const std::vector<PictureFormat>& PictureFormats();
 
+/// The one that browsers show without a loss, SVG if it is there.
+[[nodiscard]] const PictureFormat& FormatForBrowsers();
+
 /// Writes what the diagram shows to a file in the format that its suffix names. Throws
 /// std::runtime_error if the suffix names none or the file cannot be written.
 void SavePicture(const PlotView& plot, const QString& path);
