@@ -149,7 +149,9 @@ PlotContent OrderPlot(const NamedValues& column) {
   PlotLayer values{PlotShape::kPoints, PlotRole::kData, {}, {}};
   for (std::size_t i = 0; i < column.values.size(); ++i)
     values.points.push_back(Point(static_cast<Extended>(i + 1), column.values[i]));
-  return {{std::move(values)}, {Text("Row")}, {column.name}};
+  PlotContent plot{{std::move(values)}, {Text("Row")}, {column.name}};
+  plot.x.least = 0;
+  return plot;
 }
 
 PlotContent AutocorrelationPlot(const NamedValues& column) {
@@ -176,11 +178,12 @@ PlotContent AutocorrelationPlot(const NamedValues& column) {
 
 PlotContent BoxPlot(const QList<NamedValues>& groups, const QString& title) {
   PlotContent plot{{}, {title}, {}};
-  for (const NamedValues& group : groups) {
-    const TQorFloatVector sorted = SortedFinite(group.values);
+  // The first group is at the top.
+  for (auto group = groups.rbegin(); group != groups.rend(); ++group) {
+    const TQorFloatVector sorted = SortedFinite(group->values);
     if (sorted.empty()) continue;
     AddBox(plot, sorted);
-    plot.y.categories.append(group.name);
+    plot.y.categories.append(group->name);
   }
   return plot;
 }

@@ -37,9 +37,9 @@ struct NamedValues {
 [[nodiscard]] PlotContent AutocorrelationPlot(const NamedValues& column);
 /// @}
 
-/// A box of the quartiles for each group that has a value. The whiskers extend to the outermost
-/// values within one and a half box lengths; values further out are points: J. W. Tukey,
-/// Exploratory Data Analysis, 1977. The axis has the title.
+/// A box of the quartiles for each group that has a value, the first at the top. The whiskers
+/// extend to the outermost values within one and a half box lengths; values further out are points:
+/// J. W. Tukey, Exploratory Data Analysis, 1977. The axis has the title.
 [[nodiscard]] PlotContent BoxPlot(const QList<NamedValues>& groups, const QString& title);
 
 /// @{

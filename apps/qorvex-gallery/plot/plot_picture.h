@@ -7,7 +7,7 @@
 #include <QString>
 #include <vector>
 
-class QPrinter;
+class QPagedPaintDevice;
 
 namespace qorvex::gallery {
 
@@ -36,6 +36,6 @@ void SavePicture(const PlotView& plot, const QString& path);
 void CopyPicture(const PlotView& plot);
 
 /// Prints what the diagram shows, as wide as the page allows.
-void PrintPicture(const PlotView& plot, QPrinter& printer);
+void PrintPicture(const PlotView& plot, QPagedPaintDevice& printer);
 
 }  // namespace qorvex::gallery
