@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 #include <iterator>
-#include <map>
 #include <utility>
 
 #include "apps/common/cells.h"
@@ -33,26 +32,6 @@ bool IsAtFault(const NumberSample& sample, MessageId error) {
 std::string NumberSample::Title() const {
   return ColumnTitle(origin.column, origin.name) +
          (origin.group.empty() ? "" : ", " + origin.group);
-}
-
-std::vector<NumberSample> SplitByLabels(const NumberSample& column, const std::string& label_name,
-                                        std::span<const std::string> labels) {
-  std::vector<NumberSample> groups;
-  std::map<std::string, std::size_t> group_of;
-  const TQorFloatVector values = column.numbers.Values();
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    const auto [at, is_new] = group_of.try_emplace(labels[i], groups.size());
-    if (is_new) {
-      groups.push_back({.origin = column.origin});
-      groups.back().origin.group = label_name + " = " + OnOneLine(labels[i]);
-    }
-    ColumnNumbers& numbers = groups[at->second].numbers;
-    const bool is_kept =
-        column.numbers.AreDecimal() &&
-        numbers.TryAppend({column.numbers.Integers()[i], -std::int64_t{column.numbers.Decimals()}});
-    if (!is_kept) numbers.Append(values[i]);
-  }
-  return groups;
 }
 
 TestSample WithMoments(const NumberSample& sample) {

@@ -25,12 +25,6 @@ struct NumberSample {
   [[nodiscard]] std::string Title() const;
 };
 
-/// Samples of the rows of a column that have the same label, in the order in which the labels
-/// appear. There are as many labels as numbers. The group of a sample is "label_name = label".
-[[nodiscard]] std::vector<NumberSample> SplitByLabels(const NumberSample& column,
-                                                      const std::string& label_name,
-                                                      std::span<const std::string> labels);
-
 /// @{
 /// The origin of a sample with its number, mean and standard deviation, or its number and median.
 [[nodiscard]] TestSample WithMoments(const NumberSample& sample);

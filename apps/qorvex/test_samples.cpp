@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "apps/common/cells.h"
+#include "apps/common/groups.h"
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
 #include "qorvex/base/text.h"
@@ -22,6 +23,20 @@ NumberSample SampleOf(const TableColumn& column) {
   return {column.numbers, {.column = column.number, .name = column.name}};
 }
 
+// The groups are in the order in which their labels appear.
+std::vector<NumberSample> SamplesOf(const TableColumn& column, const TableColumn& labels) {
+  const std::string label_name = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
+  std::vector<NumberSample> samples;
+  for (GroupNumbers& group : Split(column, GroupsOf({&labels, 1}))) {
+    const std::string& label = labels.labels.Texts()[samples.size()];
+    samples.push_back({std::move(group.numbers),
+                       {.column = column.number,
+                        .name = column.name,
+                        .group = label_name + " = " + OnOneLine(label)}});
+  }
+  return samples;
+}
+
 SampleList SamplesOf(const std::vector<TableColumn>& columns) {
   SampleList samples;
   for (const TableColumn& column : columns) samples.push_back(SampleOf(column));
@@ -32,13 +47,10 @@ SampleList SplitSamples(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   if (table.selection.columns.size() != 1)
     throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
-  table.selection.labels = arguments.by;
+  table.selection.labels = {*arguments.by};
   table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
-  const TableColumn& labels = columns[1];
-  return SplitByLabels(SampleOf(columns[0]),
-                       labels.name.empty() ? labels.Title() : OnOneLine(labels.name),
-                       labels.labels);
+  return SamplesOf(columns[0], columns[1]);
 }
 
 // Each chosen column is a sample, or one is split by its labels.
