@@ -61,7 +61,11 @@ MatrixPage::MatrixPage(QWidget* parent)
       result_(new MatrixPanel(MatrixPanel::Kind::kResult, "result", {}, {})),
       properties_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       message_(new MessageBar),
-      edited_(a_) {
+      edited_(a_),
+      refresh_(this),
+      patience_(this),
+      work_(this),
+      reading_(this) {
   setObjectName(QStringLiteral("matrixPage"));
   properties_->setObjectName(QStringLiteral("properties"));
   auto* const panel = new SidePanel;
