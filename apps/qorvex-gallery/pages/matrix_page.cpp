@@ -78,8 +78,7 @@ MatrixPage::MatrixPage(QWidget* parent)
     };
     connect(editor, &TQorCustomMatrixEdit::OnChange, this, follow);
     connect(editor, &TQorCustomMatrixEdit::OnUndo, this, follow);
-    connect(editor, &TQorCustomMatrixEdit::OnBlockRefused, message_, &MessageBar::SetText);
-    connect(editor, &TQorCustomMatrixEdit::OnTextRefused, message_, &MessageBar::SetText);
+    message_->Watch(*editor);
   }
   for (TQorMatrixEdit* const editor : {decimals_, inverse_decimals_}) {
     editor->setDecimalPlaces(6);
