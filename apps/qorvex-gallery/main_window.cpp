@@ -12,6 +12,7 @@
 #include <QUrl>
 
 #include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/pages/distribution_page.h"
 #include "apps/qorvex-gallery/pages/matrix_page.h"
@@ -32,7 +33,7 @@ QString DraggedFile(const QDropEvent& event) {
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), pages_(new QTabWidget), data_(new DataPage) {
+    : QMainWindow(parent), sheet_(new Sheet(this)), pages_(new QTabWidget), data_(new DataPage) {
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
@@ -40,7 +41,7 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new MatrixPage, "matrix", tr("Matrix"));
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
-  AddPage(new RegressionPage, "regression", tr("Regression"));
+  AddPage(new RegressionPage(*sheet_), "regression", tr("Regression"));
   setCentralWidget(pages_);
   MakeMenus();
   connect(data_, &DataPage::TitleChanged, this, &MainWindow::ShowTitle);

@@ -12,6 +12,7 @@ namespace qorvex::gallery {
 
 class DataPage;
 class Page;
+class Sheet;
 
 /// The pages of the program in tabs. Files that are opened or dropped are shown on the page of
 /// data.
@@ -41,6 +42,7 @@ class MainWindow : public QMainWindow {
   void ShowTitle();
   void ShowAbout();
 
+  Sheet* sheet_;
   QTabWidget* pages_;
   DataPage* data_;
 };

@@ -45,6 +45,7 @@ class DistributionPage : public Page {
   [[nodiscard]] const apps::Family& Family() const;
   [[nodiscard]] bool IsInterval() const;
 
+  MessageBar* message_;
   QComboBox* family_;
   QLabel* summary_;
   ParameterForm* parameters_;
@@ -58,7 +59,6 @@ class DistributionPage : public Page {
   FigureTable* quantile_;
   PlotView* plot_;
   FigureTable* figures_;
-  MessageBar* message_;
 };
 
 }  // namespace qorvex::gallery

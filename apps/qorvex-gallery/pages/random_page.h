@@ -63,12 +63,12 @@ class RandomPage : public Page {
   std::vector<const apps::Variate*> variates_;
   std::shared_ptr<const RandomSample> sample_;
 
+  MessageBar* message_;
   QComboBox* variate_;
   QLabel* summary_;
   ParameterForm* parameters_;
   QSpinBox* size_;
   TQorFloatEdit* seed_;
-  MessageBar* message_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;
