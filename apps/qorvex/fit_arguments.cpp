@@ -89,8 +89,6 @@ void FitArguments::AddTo(CLI::App& command) {
   command.add_flag("--no-intercept", no_intercept, "Leave the constant out");
   AddResults(command, *this);
   table.AddFileTo(command);
-  AddDecimals(command, decimals,
-              "Decimals of the report. Default: the shortest text that keeps all 80 bits");
   if (curve->has_classic_routine) {
     CLI::Option* const option = command.add_flag(
         "--classic", classic,
@@ -102,7 +100,7 @@ void FitArguments::AddTo(CLI::App& command) {
       option->excludes(command.get_option(other));
     }
   }
-  AddJson(command, json);
+  output.AddTo(command);
 }
 
 }  // namespace qorvex::apps
