@@ -29,6 +29,12 @@ enum class NumberKind {
 /// The most points of a table, which is in memory before any of it is printed.
 inline constexpr Extended kMostPoints = 1e7L;
 
+/// A number as it was written and as it is read.
+struct WrittenNumber {
+  std::string text;
+  Extended value = 0;
+};
+
 /// A parameter, for both programs: an option of a command and a cell of a form.
 struct NumberParameter {
   const char* option;

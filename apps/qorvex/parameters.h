@@ -22,12 +22,6 @@ namespace qorvex::apps {
 [[nodiscard]] TQorFloatVector ParseNumbers(const std::string& option, const std::string& text,
                                            NumberKind kind);
 
-/// A number as it was written and as it is read.
-struct WrittenNumber {
-  std::string text;
-  Extended value = 0;
-};
-
 /// Adds an option that sets such a number, which must outlive the parsing.
 CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& option,
                               const std::string& description, NumberKind kind,

@@ -159,14 +159,6 @@ class TestText {
 
 }  // namespace
 
-void TestReport::SetHypotheses(const std::string& subject, const std::string& value) {
-  const char* const relation = alternative == Alternative::kTwoSided ? " is not "
-                               : alternative == Alternative::kLess   ? " is less than "
-                                                                     : " is greater than ";
-  null_hypothesis = subject + " is " + value;
-  alternate_hypothesis = subject + relation + value;
-}
-
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments) {
   UnderflowedFigures underflowed;
   for (const TestReport& report : reports) {

@@ -42,7 +42,7 @@ DataTable::DataTable(apps::TextInput input) : input_name_(input.name) {
   apps::RequireFirstRow(rows);
   const std::size_t width = rows.Cells().size();
   const std::size_t first_line = rows.Line();
-  has_header_ = std::ranges::any_of(rows.Cells(), apps::IsText);
+  has_header_ = *rows.Format().header;
   if (has_header_) {
     names_.assign(rows.Cells().begin(), rows.Cells().end());
   } else {
@@ -81,7 +81,8 @@ std::string_view DataTable::Cell(std::size_t row, std::size_t column) const {
 }
 
 bool DataTable::HasDoubtfulHeader() const {
-  return has_header_ && std::ranges::any_of(names_, apps::IsNumber);
+  return has_header_ &&
+         std::ranges::any_of(names_, [](const std::string& name) { return apps::IsNumber(name); });
 }
 
 QString DataTable::Title(std::size_t column) const {
