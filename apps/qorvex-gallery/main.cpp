@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QIcon>
 #include <QLocale>
 #include <QStyleFactory>
 
@@ -54,6 +55,11 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
   QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
   QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 256})
+    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
   parser.process(application);
   if (parser.isSet(language)) {
     QLocale::setDefault(QLocale(parser.value(language)));

@@ -18,6 +18,7 @@
 #include "apps/qorvex-gallery/pages/matrix_page.h"
 #include "apps/qorvex-gallery/pages/random_page.h"
 #include "apps/qorvex-gallery/pages/regression_page.h"
+#include "apps/qorvex-gallery/widgets/help_window.h"
 #include "qorvex/base/version.h"
 
 namespace qorvex::gallery {
@@ -83,6 +84,9 @@ void MainWindow::MakeMenus() {
   add_appearance(tr("&Dark"), Appearance::kDark);
 
   QMenu* const help = menuBar()->addMenu(tr("&Help"));
+  QAction* const this_page = help->addAction(tr("&This Page"), this, &MainWindow::ShowHelp);
+  this_page->setShortcut(QKeySequence::HelpContents);
+  help->addSeparator();
   help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
 }
 
@@ -94,6 +98,12 @@ void MainWindow::ShowTitle() {
 
 void MainWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(data_->MayGo());
+}
+
+// The sections of the document have the names of the pages.
+void MainWindow::ShowHelp() {
+  if (help_ == nullptr) help_ = new HelpWindow(this);
+  help_->Open(QStringLiteral("gallery.md"), pages_->currentWidget()->objectName());
 }
 
 void MainWindow::ShowAbout() {

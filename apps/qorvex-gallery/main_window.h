@@ -11,6 +11,7 @@ class QTabWidget;
 namespace qorvex::gallery {
 
 class DataPage;
+class HelpWindow;
 class Page;
 class Sheet;
 
@@ -40,11 +41,14 @@ class MainWindow : public QMainWindow {
   void AddPage(Page* page, const char* name, const QString& title);
   void MakeMenus();
   void ShowTitle();
+  void ShowHelp();
   void ShowAbout();
 
   Sheet* sheet_;
   QTabWidget* pages_;
   DataPage* data_;
+  // Made when it is needed first.
+  HelpWindow* help_ = nullptr;
 };
 
 }  // namespace qorvex::gallery

@@ -155,8 +155,8 @@ void TextCell::paintEvent(QPaintEvent* event) {
 }
 
 void TextCell::PaintLostFrame() {
-  // Styles derive the frame from the colour of the window, which they darken. In dark palettes there
-  // would be nothing between the cells.
+  // Styles derive the frame from the colour of the window, which they darken. In dark palettes
+  // there would be nothing between the cells.
   constexpr int darkening = 140;
   constexpr int least_difference = 24;
   const QColor frame = palette().color(QPalette::Window).darker(darkening);
