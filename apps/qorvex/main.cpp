@@ -76,6 +76,8 @@ int Run(int argc, char** argv) {
       "qorvex");
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   AddDescribe(program);
+  AddCorrelate(program);
+  AddGrouped(program);
   AddCompare(program);
   AddFit(program);
   AddTestCommands(program);
