@@ -7,6 +7,7 @@
 #include <optional>
 #include <vector>
 
+#include "apps/qorvex/describe_figures.h"
 #include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
@@ -23,6 +24,10 @@ struct DescribeOptions {
   OutputFormat output = {};
   unsigned threads = 1;
   std::vector<WrittenNumber> quantiles = {};
+  /// Those of the usual report if there are none.
+  std::vector<const FigureName*> figures = {};
+  /// What the trimmed mean leaves out at each end.
+  WrittenNumber trim = {"0.1", 0.1L};
   /// Empty if not given.
   std::optional<QuantileType> quantile_type = {};
   /// Without a text if not given.
@@ -39,6 +44,10 @@ struct DescribeOptions {
   [[nodiscard]] bool HasReliabilities() const {
     return table.selection.weights && weight_kind == WeightKind::kReliability;
   }
+  [[nodiscard]] bool HasGroups() const { return !table.selection.labels.empty(); }
+  [[nodiscard]] bool HasWeights() const { return table.selection.weights.has_value(); }
+  /// Whether a chosen figure is computed from that.
+  [[nodiscard]] bool Needs(FigureSource source) const;
   /// Throws CLI::ValidationError for options that exclude each other.
   void RequireConsistent() const;
 };

@@ -1,6 +1,7 @@
 #include "apps/qorvex/describe_output.h"
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 #include <utility>
 
@@ -38,12 +39,27 @@ UnderflowedFigures UnderflowedIn(const ColumnReport& report) {
   return underflowed;
 }
 
+// The chosen figures in their order, of which that of the deciles is nine.
+std::vector<Figure> Chosen(const std::vector<Figure>& figures,
+                           const std::vector<const FigureName*>& names) {
+  std::vector<Figure> chosen;
+  for (const FigureName* const name : names) {
+    std::ranges::copy_if(figures, std::back_inserter(chosen), [name](const Figure& figure) {
+      return figure.key == name->key ||
+             (name->key == "deciles" && figure.key.starts_with("decile_"));
+    });
+  }
+  return chosen;
+}
+
 }  // namespace
 
 std::vector<Figure> FiguresOf(const ColumnReport& report, const DescribeOptions& options) {
   std::vector<Figure> figures = FiguresOf(report.lines, report.amounts);
   figures.insert(figures.begin() + 1,
                  {"missing", "Missing Values:", std::uint64_t{report.skipped}});
+  figures.insert(figures.end(), report.further.begin(), report.further.end());
+  if (!options.figures.empty()) figures = Chosen(figures, options.figures);
   if (report.sum_of_weights && options.HasReliabilities())
     figures.push_back({"sum_of_weights", "Sum of Weights:", *report.sum_of_weights});
   for (std::size_t i = 0; i < report.quantiles.size(); ++i) {
@@ -61,34 +77,48 @@ std::vector<Figure> FiguresOf(const ColumnReport& report, const DescribeOptions&
 std::string TextOf(const ColumnReport& report, const DescribeOptions& options) {
   std::string text = "Column " + Int2EStr(report.number);
   if (!report.name.empty()) text += ": " + OnOneLine(report.name);
+  for (const GroupLabel& group : report.groups) text += ", " + OnOneLine(group.Text());
   std::vector<Figure> figures = FiguresOf(report, options);
-  if (report.skipped == 0)
+  if (report.skipped == 0 && options.figures.empty())
     std::erase_if(figures, [](const Figure& figure) { return figure.key == "missing"; });
   return text + '\n' + LinesOf(figures, options.output.ForReport(report.significant_digits));
 }
 
 void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options) {
-  const std::string place = OnOneLine(InputName(options.table.file)) + ": " +
-                            ColumnTitle(report.number, report.name) + ": ";
+  std::string place =
+      OnOneLine(InputName(options.table.file)) + ": " + ColumnTitle(report.number, report.name);
+  for (const GroupLabel& group : report.groups) place += ", " + OnOneLine(group.Text());
+  place += ": ";
   const UnderflowedFigures underflowed = UnderflowedIn(report);
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
   RemarkOnHidden(place, FiguresOf(report, options), options.output);
 }
 
-void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn* weights) {
+void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn& weights,
+                  std::span<const TableColumn> labels) {
   json.Key("file");
   json.String(options.table.file);
   json.Key("population");
   json.Bool(options.population);
   json.Key("classic");
   json.Bool(options.classic);
-  if (weights != nullptr) {
+  if (options.HasWeights()) {
     json.Key("weights");
     json.BeginObject();
-    WriteColumnKeys(json, weights->number, weights->name);
+    WriteColumnKeys(json, weights.number, weights.name);
     json.Key("kind");
     json.String(options.HasReliabilities() ? "reliability" : "frequency");
     json.EndObject();
+  }
+  if (!labels.empty()) {
+    json.Key("by");
+    json.BeginArray();
+    for (const TableColumn& column : labels) {
+      json.BeginObject();
+      WriteColumnKeys(json, column.number, column.name);
+      json.EndObject();
+    }
+    json.EndArray();
   }
   if (!options.quantiles.empty()) {
     json.Key("quantile_type");
@@ -99,25 +129,47 @@ void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableC
 void WriteReport(JsonWriter& json, const ColumnReport& report, const DescribeOptions& options) {
   json.BeginObject();
   WriteColumnKeys(json, report.number, report.name);
+  if (!report.groups.empty()) {
+    json.Key("group");
+    json.BeginObject();
+    for (const GroupLabel& group : report.groups) {
+      json.Key(group.column);
+      json.String(group.label);
+    }
+    json.EndObject();
+  }
   WriteFigures(json, FiguresOf(report, options));
   json.EndObject();
 }
 
-std::string TableOf(const std::vector<ColumnReport>& reports, const DescribeOptions& options) {
+namespace {
+
+// A row for each report: column, name, labels, figures.
+ResultTable RowsOf(const std::vector<ColumnReport>& reports, const DescribeOptions& options) {
   ResultTable table;
-  int digits = 0;
   for (const ColumnReport& report : reports) {
-    digits = std::max(digits, report.significant_digits);
     const std::vector<Figure> figures = FiguresOf(report, options);
     if (table.columns.empty()) {
       table.columns = {{"column", ""}, {"name", ""}};
+      for (const GroupLabel& group : report.groups)
+        table.columns.push_back({group.column, group.column});
       for (const Figure& figure : figures)
         table.columns.push_back({figure.key, Heading(figure.label)});
     }
     std::vector<Cell>& row = table.rows.emplace_back();
     row = {std::uint64_t{report.number}, report.name};
+    for (const GroupLabel& group : report.groups) row.emplace_back(group.label);
     for (const Figure& figure : figures) row.push_back(figure.value);
   }
+  return table;
+}
+
+}  // namespace
+
+std::string TableOf(const std::vector<ColumnReport>& reports, const DescribeOptions& options) {
+  int digits = 0;
+  for (const ColumnReport& report : reports) digits = std::max(digits, report.significant_digits);
+  ResultTable table = RowsOf(reports, options);
   if (options.output.form == OutputForm::kCsv) return Printed(table, options.output, digits);
   // A column is known by its name, or else by its number.
   for (std::vector<Cell>& row : table.rows) {
@@ -125,7 +177,7 @@ std::string TableOf(const std::vector<ColumnReport>& reports, const DescribeOpti
     row.erase(row.begin());
   }
   table.columns.erase(table.columns.begin());
-  return Printed(Transposed(table), options.output, digits);
+  return Printed(options.HasGroups() ? table : Transposed(table), options.output, digits);
 }
 
 }  // namespace qorvex::apps
