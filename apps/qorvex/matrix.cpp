@@ -177,9 +177,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
   AddDelimiter(command, arguments->layout.delimiter);
   command.add_flag("--header", arguments->layout.has_header,
                    "Skip the first row, which contains names");
-  if (operation.takes_decimals) {
-    arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
-  }
+  arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
   AddThreads(command, arguments->threads,
              "Threads that read two matrices, multiply and format the result, which is the\n"
              "same; an elimination takes one. Default: 1");
