@@ -21,7 +21,6 @@ struct MatrixOperation {
   bool takes_two_files = false;
   /// Whether it eliminates and therefore depends on what counts as zero.
   bool takes_tolerance = false;
-  bool takes_decimals = true;
   /// Takes one or two rectangular matrices and may change them. Throws EMathError for shapes that
   /// do not match and for a matrix without an inverse. The result does not depend on the number of
   /// threads.
