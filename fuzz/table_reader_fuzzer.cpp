@@ -35,7 +35,7 @@ TextInput SourceOf(std::string_view text) {
 std::string Account(std::string_view text, std::optional<char> delimiter, std::size_t block_size) {
   std::string account;
   try {
-    RowReader reader(SourceOf(text), delimiter, block_size);
+    RowReader reader(SourceOf(text), {.delimiter = delimiter}, block_size);
     while (reader.Next()) {
       account += std::to_string(reader.Line()) + '/' + std::to_string(reader.BlankLines());
       for (const std::string_view cell : reader.Cells()) {

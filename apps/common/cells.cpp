@@ -1,6 +1,7 @@
 #include "apps/common/cells.h"
 
 #include <cmath>
+#include <limits>
 
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/errors.h"
@@ -30,17 +31,25 @@ bool IsWrittenAsAmount(std::string_view cell) {
 
 }  // namespace
 
-bool IsNumber(std::string_view text) {
+std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer) {
+  buffer.assign(cell);
+  for (char& c : buffer) c = c == ',' ? '.' : c == '.' ? ',' : c;
+  buffer.resize(cell.size() + RowReader::kReadableBehind);
+  return std::string_view(buffer).substr(0, cell.size());
+}
+
+bool IsNumber(std::string_view text, char decimal_sign) {
+  std::string buffer;
   try {
-    static_cast<void>(Str2Float(text));
+    static_cast<void>(Str2Float(decimal_sign == ',' ? WithDecimalPoint(text, buffer) : text));
   } catch (const EConvertError& error) {
     return error.message_id() == rsNumberTooLarge;
   }
   return true;
 }
 
-bool IsText(std::string_view cell) {
-  return !cell.empty() && !IsNumber(cell);
+bool IsText(std::string_view cell, char decimal_sign) {
+  return !cell.empty() && !IsNumber(cell, decimal_sign);
 }
 
 std::string ColumnTitle(std::size_t number, std::string_view name) {
@@ -53,11 +62,12 @@ std::string Cardinal(std::size_t count, const char* noun) {
   return Int2EStr(count) + ' ' + noun + (count == 1 ? "" : "s");
 }
 
-Extended NumberIn(std::string_view cell, const CellPlace& place) {
+Extended NumberIn(std::string_view cell, const CellPlace& place, char decimal_sign) {
   if (cell.empty()) RefuseEmptyCell(place);
+  std::string buffer;
   Extended value = 0;
   try {
-    value = Str2Float(cell);
+    value = Str2Float(decimal_sign == ',' ? WithDecimalPoint(cell, buffer) : cell);
   } catch (const EConvertError& error) {
     if (error.message_id() == rsNumberTooLarge) {
       FailAt(place, InputFault::kOutOfRange,
@@ -69,6 +79,11 @@ Extended NumberIn(std::string_view cell, const CellPlace& place) {
     FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a finite number");
   }
   return value;
+}
+
+Extended NumberOrMissing(std::string_view cell, const CellPlace& place, const TableFormat& format) {
+  if (format.missing.Contains(cell)) return std::numeric_limits<Extended>::quiet_NaN();
+  return NumberIn(cell, place, *format.decimal_sign);
 }
 
 Currency AmountIn(std::string_view cell, const CellPlace& place) {

@@ -9,6 +9,7 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/row_reader.h"
+#include "apps/common/table_format.h"
 #include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 
@@ -16,10 +17,15 @@ namespace qorvex::apps {
 
 /// Whether the text is a number. Numbers beyond the range of extended precision, "nan" and "inf"
 /// count.
-[[nodiscard]] bool IsNumber(std::string_view text);
+[[nodiscard]] bool IsNumber(std::string_view text, char decimal_sign = '.');
 
 /// Whether the cell is neither empty nor a number, like a name in a header.
-[[nodiscard]] bool IsText(std::string_view cell);
+[[nodiscard]] bool IsText(std::string_view cell, char decimal_sign = '.');
+
+/// The text of a number with a point in place of the decimal comma. A point becomes a comma, so
+/// that 1.234,5 is no number. The buffer holds the text, behind which kReadableBehind bytes can be
+/// read.
+[[nodiscard]] std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer);
 
 /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
 [[nodiscard]] std::string ColumnTitle(std::size_t number, std::string_view name = {});
@@ -38,7 +44,13 @@ struct CellPlace {
 
 /// The number in a cell, converted to 80 bits by Str2Float. Throws InputError with the position of
 /// the cell: kEmptyCell; kNotANumber, also for infinities and NaN; kOutOfRange.
-[[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place);
+[[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place,
+                                char decimal_sign = '.');
+
+/// The same for a cell of a table with this format, which RowReader has completed; NaN if the value
+/// is missing.
+[[nodiscard]] Extended NumberOrMissing(std::string_view cell, const CellPlace& place,
+                                       const TableFormat& format);
 
 /// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
 /// would have to be rounded, and a program that writes an exponent has probably rounded already.

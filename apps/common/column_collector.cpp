@@ -18,7 +18,7 @@ namespace {
 using Cells = std::span<const std::string_view>;
 
 bool HoldsText(Cells cells) {
-  return std::ranges::any_of(cells, IsText);
+  return std::ranges::any_of(cells, [](std::string_view cell) { return IsText(cell); });
 }
 
 // "the columns are 1 (x), 2 (y)" or "the table has 3 columns and no header".

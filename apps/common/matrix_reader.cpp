@@ -15,7 +15,8 @@ namespace {
 
 // A separate fault, because the option for a header may have been forgotten.
 void RefuseText(const RowReader& rows) {
-  const auto text = std::ranges::find_if(rows.Cells(), IsText);
+  const auto text =
+      std::ranges::find_if(rows.Cells(), [](std::string_view cell) { return IsText(cell); });
   if (text == rows.Cells().end()) return;
   const auto column = static_cast<std::size_t>(text - rows.Cells().begin()) + 1;
   throw InputError(InputFault::kTextInFirstRow, rows.Name(), rows.Line(),
@@ -39,7 +40,7 @@ TQorFloatVector NumbersIn(const RowReader& rows) {
 }  // namespace
 
 TQorFloatMatrix ReadMatrix(TextInput input, const MatrixLayout& layout) {
-  RowReader rows(std::move(input), layout.delimiter);
+  RowReader rows(std::move(input), {.delimiter = layout.delimiter});
   RequireFirstRow(rows);
   const std::size_t first_line = rows.Line();
   const std::size_t width = rows.Cells().size();

@@ -6,6 +6,8 @@
 #include <emmintrin.h>
 #include <utility>
 
+#include "apps/common/cells.h"
+
 namespace qorvex::apps {
 
 namespace {
@@ -20,15 +22,20 @@ __m128i Load(const char* characters) {
 
 }  // namespace
 
-RowReader::RowReader(TextInput input, std::optional<char> delimiter, std::size_t block_size)
+RowReader::RowReader(TextInput input, const TableFormat& format, std::size_t block_size)
     : input_(std::move(input)),
-      delimiter_(delimiter),
+      format_(format),
       buffer_(std::max<std::size_t>(block_size, 4) + kReadableBehind) {}
 
 bool RowReader::Next() {
-  if (!std::exchange(started_, true)) Start();
+  const bool is_first = !std::exchange(started_, true);
+  if (is_first) Start();
   for (blank_lines_ = 0; ReadLine(); ++blank_lines_) {
-    if (!cells_.empty()) return true;
+    if (cells_.empty()) continue;
+    if (is_first && !format_.header)
+      format_.header = std::ranges::any_of(
+          cells_, [this](std::string_view cell) { return IsText(cell, *format_.decimal_sign); });
+    return true;
   }
   return false;
 }
@@ -66,10 +73,13 @@ void RowReader::Start() {
   }
   if (text.starts_with("\xEF\xBB\xBF")) begin_ = 3;
 
-  if (!delimiter_) delimiter_ = DetectDelimiter();
-  delimiter_is_blank_ = *delimiter_ == ' ';
-  delimiters_.fill(*delimiter_);
-  other_delimiters_.fill(delimiter_is_blank_ ? '\t' : *delimiter_);
+  if (!format_.encoding) format_.encoding = Encoding::kUtf8;
+  if (!format_.decimal_sign) format_.decimal_sign = '.';
+  if (!format_.delimiter) format_.delimiter = DetectDelimiter();
+  delimiter_ = *format_.delimiter;
+  delimiter_is_blank_ = delimiter_ == ' ';
+  delimiters_.fill(delimiter_);
+  other_delimiters_.fill(delimiter_is_blank_ ? '\t' : delimiter_);
 }
 
 char RowReader::DetectDelimiter() {
@@ -210,7 +220,7 @@ const char* RowReader::ScanQuotedCell(const char* at) {
   if (!delimiter_is_blank_) at = SkipBlanks(at);
   if (at == end) return nullptr;
   if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
-  if (*at != '\n' && *at != *delimiter_ && !(delimiter_is_blank_ && *at == '\t')) {
+  if (*at != '\n' && *at != delimiter_ && !(delimiter_is_blank_ && *at == '\t')) {
     if (ScanPlainCell(at) == nullptr) return nullptr;
     FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
   }
@@ -221,7 +231,7 @@ const char* RowReader::ScanQuotedCell(const char* at) {
 
 const char* RowReader::SkipBlanks(const char* at) const {
   const char* const end = End();
-  while (at != end && IsBlank(*at) && (delimiter_is_blank_ || *at != *delimiter_)) ++at;
+  while (at != end && IsBlank(*at) && (delimiter_is_blank_ || *at != delimiter_)) ++at;
   return at;
 }
 

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "apps/common/input_error.h"
+#include "apps/common/table_format.h"
 #include "apps/common/text_input.h"
 
 namespace qorvex::apps {
@@ -36,15 +37,20 @@ class RowReader {
   /// would be read into memory.
   static constexpr std::size_t kLongestRow = std::size_t{1} << 26;
 
-  /// Without a delimiter, it is the comma, else the semicolon, else the tab, if the first line that
-  /// is not blank contains one outside quotes; otherwise blanks.
-  explicit RowReader(TextInput input, std::optional<char> delimiter = std::nullopt,
+  /// What the format leaves open is found from the text.
+  explicit RowReader(TextInput input, const TableFormat& format = {},
                      std::size_t block_size = kBlockSize);
 
   /// Reads the next row; returns false at the end of the text. Throws InputError (kMalformed) for a
   /// quote that is not closed, for text after a closing quote, for lines that end with CR alone,
   /// for rows longer than kLongestRow and for UTF-16. Exceptions of the input pass through.
   bool Next();
+
+  /// The format with all that was found. Complete after the first call of Next.
+  [[nodiscard]] const TableFormat& Format() const noexcept { return format_; }
+  /// Whether the first column holds names of rows: the first line is shorter by one cell, or its
+  /// first cell is the only empty one. The first row then starts with an empty cell.
+  [[nodiscard]] bool HasRowNames() const noexcept { return has_row_names_; }
 
   /// Moves the whole lines that have been read ahead to another reader, which reads only them, on
   /// any thread, and keeps their numbers. Returns false, without taking any, at the end of the
@@ -79,7 +85,9 @@ class RowReader {
   [[noreturn]] void FailAt(const char* position, const std::string& what) const;
 
   TextInput input_;
-  std::optional<char> delimiter_;
+  TableFormat format_;
+  bool has_row_names_ = false;
+  char delimiter_ = ' ';
   bool delimiter_is_blank_ = false;
   // Each repeated, to be compared with sixteen characters at once. Both are the same unless blanks
   // delimit.

@@ -40,7 +40,7 @@ void AddRowsInParts(RowReader& rows, ColumnCollector& collector, unsigned thread
     return ended ? nullptr : &part;
   };
   RunOnThreads(threads, [&] {
-    RowReader lines(TextInput(), std::nullopt, 0);
+    RowReader lines(TextInput(), {}, 0);
     while (ColumnCollector::Part* const part = take(lines)) {
       try {
         part->rows.AddAllRows(lines);
@@ -64,7 +64,7 @@ std::string TableColumn::Title() const {
 
 Table ReadTable(TextInput input, const TableSelection& selection, unsigned threads,
                 std::size_t block_size) {
-  RowReader rows(std::move(input), selection.delimiter, block_size);
+  RowReader rows(std::move(input), {.delimiter = selection.delimiter}, block_size);
   RequireFirstRow(rows);
   ColumnCollector collector(rows, selection);
   if (!collector.HasHeader()) collector.AddCells(rows);

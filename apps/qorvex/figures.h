@@ -16,7 +16,7 @@ namespace qorvex::apps {
 struct Figure {
   /// In CSV and JSON: "standard_deviation".
   std::string key;
-  /// In text: "Standard Deviation:".
+  /// In text: "Standard Deviation:". Empty if there is only a line.
   std::string label;
   Cell value = {};
   /// The whole line in text, instead of label and value: "No Modal Value".

@@ -86,9 +86,7 @@ std::string ClassicOutput(const FitColumns& columns, const FitArguments& argumen
     WriteHead(json, columns, columns.y.numbers.size(), arguments);
     WriteFigures(json, fit.columns);
     json.Key("coefficients");
-    json.BeginArray();
-    for (const Extended coefficient : fit.coefficients) json.Number(coefficient);
-    json.EndArray();
+    json.Numbers(fit.coefficients);
     WriteFigures(json, fit.quality);
     json.EndObject();
     return json.TakeText();

@@ -1,5 +1,8 @@
 #include "apps/qorvex/json_figures.h"
 
+#include <array>
+#include <cmath>
+
 namespace qorvex::apps {
 
 namespace {
@@ -30,14 +33,8 @@ void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& na
 }
 
 void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval) {
-  if (!interval) {
-    json.Null();
-    return;
-  }
-  json.BeginArray();
-  json.Number(interval->least);
-  json.Number(interval->greatest);
-  json.EndArray();
+  if (!interval || std::isnan(interval->least)) return json.Null();
+  json.Numbers(std::array{interval->least, interval->greatest});
 }
 
 void WriteTestResult(JsonWriter& json, const std::optional<TestResult>& result) {

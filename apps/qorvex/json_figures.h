@@ -16,7 +16,7 @@ namespace qorvex::apps {
 /// The number and the name of a column: the keys column and name. The name is null if it is empty.
 void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& name);
 
-/// Two ends, or null.
+/// Two ends, or null for none and for NaN.
 void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval);
 
 /// The keys and values of a test: statistic, degrees of freedom, p and its logarithm, and where p

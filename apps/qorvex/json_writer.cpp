@@ -30,6 +30,14 @@ void JsonWriter::Number(std::optional<Extended> value) {
   }
 }
 
+void JsonWriter::Numbers(std::span<const Extended> values) {
+  BeginArray();
+  writer_.SetFormatOptions(rapidjson::kFormatSingleLineArray);
+  for (const Extended value : values) Number(value);
+  EndArray();
+  writer_.SetFormatOptions(rapidjson::kFormatDefault);
+}
+
 std::string JsonWriter::TakeText() {
   return std::string(text_.GetString(), text_.GetSize()) + '\n';
 }

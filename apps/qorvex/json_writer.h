@@ -7,6 +7,7 @@
 #include <optional>
 #include <rapidjson/prettywriter.h>
 #include <rapidjson/stringbuffer.h>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -39,6 +40,8 @@ class JsonWriter {
   /// The shortest text that is read back as the same 80-bit value; null for no value, NaN and
   /// infinities.
   void Number(std::optional<Extended> value);
+  /// An array of such numbers on one line.
+  void Numbers(std::span<const Extended> values);
   /// The exact amount, as a number with four decimals.
   void Amount(Currency amount) { Number(Currency2EStr(amount)); }
   void Null() { writer_.Null(); }

@@ -12,6 +12,7 @@
 #include "apps/common/matrix_reader.h"
 #include "apps/common/text_input.h"
 #include "apps/common/threads.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/json_writer.h"
@@ -122,11 +123,7 @@ std::string Presented(const TQorFloatMatrix& matrix, const OutputFormat& output)
   if (output.IsJson()) {
     JsonWriter json;
     json.BeginArray();
-    for (const TQorFloatVector& row : matrix) {
-      json.BeginArray();
-      for (const Extended element : row) json.Number(element);
-      json.EndArray();
-    }
+    for (const TQorFloatVector& row : matrix) json.Numbers(row);
     json.EndArray();
     return json.TakeText();
   }
@@ -211,7 +208,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
 void AddMatrix(CLI::App& program) {
   CLI::App& matrix = *program.add_subcommand("matrix", "Inverses, products and ranks of matrices");
   for (const MatrixOperation& operation : MatrixOperations()) AddOperation(matrix, operation);
-  RequireOneCommand(matrix, "A command of matrix");
+  RequireOneCommand(matrix, "command");
 }
 
 }  // namespace qorvex::apps

@@ -46,15 +46,18 @@ void OutputFormat::AddTo(CLI::App& command, const char* default_digits) {
   };
   CLI::Option* const table =
       add_form("--table", OutputForm::kTable, "Columns side by side, aligned by blanks");
-  CLI::Option* const csv = add_form("--csv", OutputForm::kCsv,
-                                    "CSV with a heading; figures keep all 80 bits unless there is\n"
-                                    "--digits or --decimals");
+  CLI::Option* const csv =
+      add_form("--csv", OutputForm::kCsv,
+               "CSV; figures keep all 80 bits unless there is --digits or --decimals");
   CLI::Option* const json =
       add_form("--json", OutputForm::kJson,
                "One JSON document; each figure is the shortest text that keeps all 80 bits,\n"
                "or null if it does not exist");
   csv->excludes(table)->excludes(group);
-  json->excludes(table)->excludes(csv)->excludes(group);
+  for (CLI::Option* const other :
+       {table, csv, group, command.get_option("--digits"), command.get_option("--decimals")}) {
+    json->excludes(other);
+  }
 }
 
 FigureFormat OutputFormat::ForNumbers() const {

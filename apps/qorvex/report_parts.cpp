@@ -23,12 +23,11 @@ std::vector<Item> ItemsOf(const ReportPart& part) {
   return items;
 }
 
-// The columns of the labels and the values.
+// Labels and values. What has no label is only a line of text.
 ResultTable TableOf(const std::vector<Figure>& figures) {
   ResultTable table{.columns = {{"figure", ""}, {"value", ""}}};
   for (const Figure& figure : figures)
-    table.rows.push_back({Heading(figure.line.empty() ? figure.label : figure.line),
-                          figure.line.empty() ? figure.value : Cell()});
+    if (!figure.label.empty()) table.rows.push_back({Heading(figure.label), figure.value});
   return table;
 }
 
@@ -39,15 +38,17 @@ std::string TextOf(const std::vector<ReportPart>& parts, const OutputFormat& out
   const FigureFormat format = output.ForReport(significant_digits);
   const bool aligned = output.form == OutputForm::kTable;
   std::string text;
+  bool follows_table = false;
   for (const ReportPart& part : parts) {
     const bool is_table = !part.table.columns.empty();
-    if (is_table && !text.empty()) text += '\n';
+    if (!text.empty() && (is_table || follows_table)) text += '\n';
     if (!part.title.empty()) text += part.title + '\n';
     if (aligned) {
       text += AlignedTextOf(is_table ? part.table : TableOf(part.figures), format);
     } else {
       text += is_table ? TabbedTextOf(part.table, format) : LinesOf(part.figures, format);
     }
+    follows_table = is_table;
   }
   return text;
 }

@@ -21,8 +21,7 @@ struct ReportPart {
   /// The line above the part in text; none if empty.
   std::string title = {};
   std::vector<Figure> figures = {};
-  /// Instead of figures; in text, a blank line precedes it. The first column says what each row is
-  /// of.
+  /// Instead of figures; in text between blank lines. The first column says what each row is of.
   ResultTable table = {};
 };
 

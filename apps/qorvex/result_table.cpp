@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/text_table.h"
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/text.h"
@@ -109,13 +110,7 @@ void WriteCell(JsonWriter& json, const Cell& cell) {
                         [&](Currency amount) { json.Amount(amount); },
                         [&](Extended figure) { json.Number(figure); },
                         [&](const Probability& probability) { json.Number(probability.p); },
-                        [&](const Interval<Extended>& interval) {
-                          if (std::isnan(interval.least)) return json.Null();
-                          json.BeginArray();
-                          json.Number(interval.least);
-                          json.Number(interval.greatest);
-                          json.EndArray();
-                        }},
+                        [&](const Interval<Extended>& ends) { WriteInterval(json, ends); }},
              cell);
 }
 
@@ -169,7 +164,8 @@ std::string TabbedTextOf(const ResultTable& table, const FigureFormat& format) {
   std::string text;
   for (const std::vector<std::string>& row : TextRows(table, format)) {
     for (const std::string& cell : row) text += cell + '\t';
-    text.back() = '\n';
+    text.erase(text.find_last_not_of('\t') + 1);
+    text += '\n';
   }
   return text;
 }

@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "apps/common/figure_format.h"
+#include "apps/common/number_parameter.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/output_format.h"
-#include "apps/qorvex/parameters.h"
 #include "qorvex/base/currency.h"
 #include "qorvex/stats/distributions/distribution.h"
 

@@ -39,9 +39,10 @@ bool LooksLikeADamagedNumber(std::string_view name) {
 // Why a row that was read as a header may be data; empty if there is no reason to think so.
 std::string DoubtOf(const Table& table) {
   const auto is_number = [](std::string_view cell) { return !cell.empty() && IsNumber(cell); };
+  const auto is_text = [](std::string_view cell) { return IsText(cell); };
   const auto number = std::ranges::find_if(table.header, is_number);
   if (number != table.header.end()) {
-    return Excerpt(*std::ranges::find_if(table.header, IsText)) + " is not a number, although " +
+    return Excerpt(*std::ranges::find_if(table.header, is_text)) + " is not a number, although " +
            Excerpt(*number) + " is";
   }
   const auto damaged =

@@ -61,8 +61,10 @@ ReportPart PartOf(const TestSample& sample) {
     part.item += ", " + sample.group;
     part.title += ", " + sample.group;
   }
-  if (sample.missing > 0)
-    part.figures.push_back({"missing", "Missing Values:", std::uint64_t{sample.missing}});
+  if (sample.missing > 0) {
+    part.figures.insert(part.figures.begin() + 1,
+                        {"missing", "Missing Values:", std::uint64_t{sample.missing}});
+  }
   return part;
 }
 
@@ -125,7 +127,7 @@ class TestResultFigures {
         break;
     }
     const bool is_rejected = result_.p <= significance;
-    figures_.push_back({"rejected", "", is_rejected ? "yes" : "no",
+    figures_.push_back({"rejected", "Rejected:", is_rejected ? "yes" : "no",
                         ReportText(is_rejected ? rsRejected : rsNotRejected)});
     figures_.push_back(
         {"reason", "", {}, ReportText(is_rejected ? rsRejectReason : rsNotRejectReason)});
@@ -180,14 +182,6 @@ std::vector<ReportPart> PartsOf(const TestReport& report, const TestArguments& a
 }
 
 }  // namespace
-
-void TestReport::SetHypotheses(const std::string& subject, const std::string& value) {
-  const char* const relation = alternative == Alternative::kTwoSided ? " is not "
-                               : alternative == Alternative::kLess   ? " is less than "
-                                                                     : " is greater than ";
-  null_hypothesis = subject + " is " + value;
-  alternate_hypothesis = subject + relation + value;
-}
 
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments) {
   const std::string& file = arguments.table.file;

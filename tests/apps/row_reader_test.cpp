@@ -14,7 +14,7 @@ using Case = ReadingCase<std::optional<char>>;
 
 // The rows as text: a dash for every blank line before a row, its line and its cells; or the error.
 std::string Read(const std::string& text, std::optional<char> delimiter, std::size_t block_size) {
-  RowReader reader(SourceOf(text), delimiter, block_size);
+  RowReader reader(SourceOf(text), {.delimiter = delimiter}, block_size);
   return ResultOrError([&] {
     std::string rows;
     while (reader.Next()) {
