@@ -15,6 +15,7 @@
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/format_arguments.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/matrix_operations.h"
 #include "apps/qorvex/output_format.h"
@@ -42,7 +43,7 @@ constexpr const char* kResultHelp = R"(
 
 struct MatrixArguments {
   std::vector<std::string> files;
-  MatrixLayout layout;
+  TableFormat format;
   OutputFormat output;
   unsigned threads = 1;
 };
@@ -93,12 +94,15 @@ TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
   return result;
 }
 
-TQorFloatMatrix Read(TextInput input, const MatrixLayout& layout) {
+TQorFloatMatrix Read(TextInput input, const TableFormat& format) {
   try {
-    return ReadMatrix(std::move(input), layout);
+    return ReadMatrix(std::move(input), format);
   } catch (const InputError& error) {
-    if (error.Fault() != InputFault::kTextInFirstRow) throw;
-    throw InputError(error.Fault(), error.what() + std::string("; --header skips the first row"));
+    const char* hint = "";
+    if (error.Fault() == InputFault::kTextInFirstRow) hint = "; --header skips the first row";
+    if (error.Fault() == InputFault::kOtherDecimalSign) hint = "; --decimal tells the decimal sign";
+    if (error.Fault() == InputFault::kWrongEncoding) hint = "; --encoding latin1 reads any bytes";
+    throw InputError(error.Fault(), std::string(error.what()) + hint);
   }
 }
 
@@ -111,9 +115,9 @@ Matrices ReadAll(const MatrixArguments& arguments) {
   for (std::size_t i = 1; i < files.size(); ++i) {
     others.push_back(
         std::async(i < arguments.threads ? std::launch::async : std::launch::deferred,
-                   [&, i] { return Read(OpenTextInput(files[i]), arguments.layout); }));
+                   [&, i] { return Read(OpenTextInput(files[i]), arguments.format); }));
   }
-  Matrices operands{Read(std::move(first), arguments.layout)};
+  Matrices operands{Read(std::move(first), arguments.format)};
   for (auto& other : others) operands.push_back(other.get());
   return operands;
 }
@@ -180,9 +184,11 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
         ->expected(2, CLI::detail::expected_max_vector_size)
         ->required();
   }
-  AddDelimiter(command, arguments->layout.delimiter);
-  command.add_flag("--header", arguments->layout.has_header,
-                   "Skip the first row, which contains names");
+  AddTextFormat(command, arguments->format);
+  command.add_flag_callback(
+      "--header", [arguments] { arguments->format.header = true; },
+      "Skip the first row, which contains names, and the first column if its name\n"
+      "is empty or missing");
   if (operation.takes_decimals) {
     arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
   }
