@@ -86,7 +86,7 @@ std::string TextOf(const ComparisonReport& report, const ComparisonHeading& head
                                 TestsOf(report)};
   RemarkOnHidden("", parts, output);
   if (output.form == OutputForm::kCsv) return CsvOf(parts, output.ForReport());
-  if (heading.first.column.skipped + heading.second.column.skipped == 0) {
+  if (heading.first.column.missing + heading.second.column.missing == 0) {
     for (ReportPart& column : columns)
       std::erase_if(column.figures, [](const Figure& of) { return of.key == "missing"; });
   }
