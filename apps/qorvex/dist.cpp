@@ -12,6 +12,7 @@
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/errors.h"
@@ -33,7 +34,7 @@ struct DistArguments {
   std::optional<Extended> upper_probability;
   /// The steps of a continuous table.
   Extended steps = 0;
-  std::optional<int> decimals;
+  OutputFormat output;
   bool log = false;
   bool classic = false;
 };
@@ -172,7 +173,7 @@ Extended Density(const Family& family, const DistArguments& arguments) {
 std::string Text(Extended value, const DistArguments& arguments) {
   // The arguments are finite: something on the way was not.
   if (std::isnan(value)) throw EOverflow();
-  return FigureText(value, arguments.decimals);
+  return arguments.output.ForNumbers().Text(value);
 }
 
 template <Extended (*compute)(const Family&, const DistArguments&)>
@@ -287,8 +288,7 @@ void AddQuestion(CLI::App& parent, const Family& family, const Question& questio
   command.add_flag("--classic", arguments->classic,
                    "Compute with the classic routines of QorvexStatistics");
   question.add_options(command, family, arguments);
-  AddDecimals(command, arguments->decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
+  arguments->output.AddDigitsTo(command);
   command.footer(std::string(kNumbersHelp) + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([&family, &question, arguments] { Run(family, question, *arguments); });
 }

@@ -1,5 +1,7 @@
 #include <memory>
 
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -45,9 +47,11 @@ void Fit(const FitArguments& arguments) {
   const FitColumns columns = ReadColumns(arguments);
   if (arguments.classic) return WriteResult(ClassicOutput(columns, arguments));
   const FittedModel model = FitOf(columns, arguments);
-  const std::string output =
-      arguments.json ? JsonOf(columns, model, arguments) : TextOf(columns, model, arguments);
-  RemarkOnSmallFigures(model, arguments);
+  const std::vector<ReportPart> parts = PartsOf(columns, model, arguments);
+  const std::string output = arguments.output.IsJson() ? JsonOf(columns, model, arguments)
+                                                       : PrintedOf(parts, columns, arguments);
+  RemarkOnHidden(OnOneLine(InputName(arguments.table.file)) + ": ", parts, arguments.output);
+  RemarkOnUnderflow(model, arguments);
   if (!arguments.residual_file.empty()) WriteResiduals(columns, model.fit, arguments);
   WriteResult(output);
 }

@@ -36,6 +36,8 @@ int Run(int argc, char** argv) {
   program.formatter(std::make_shared<HelpFormatter>());
   program.ignore_case();
   AddDescribe(program);
+  AddCorrelate(program);
+  AddGrouped(program);
   AddCompare(program);
   AddFit(program);
   AddTestCommands(program);

@@ -14,6 +14,7 @@
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/checked_math.h"
@@ -48,7 +49,7 @@ struct RandomArguments {
   const VariateMethod* method;
   std::uint64_t count = 1;
   std::optional<std::uint64_t> seed;
-  std::optional<int> decimals;
+  OutputFormat output;
 };
 
 using SharedArguments = std::shared_ptr<RandomArguments>;
@@ -97,11 +98,12 @@ void PrintVariates(const RandomArguments& arguments) {
   TQorFloatVector figures = TQorFloatVector::WithLength(1);
   std::string line;
   const Draw draw = arguments.method->prepare(arguments.parameters);
+  const FigureFormat format = arguments.output.ForNumbers();
   for (std::uint64_t i = 0; i < arguments.count; ++i) {
     draw(figures, ClassicRandom);
     for (const Extended figure : figures) CheckedFinite(figure);
     line.clear();
-    AppendLine(line, figures, arguments.decimals);
+    AppendLine(line, figures, format);
     WritePart(line);
   }
   WriteResult("");
@@ -147,8 +149,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
             "The seed, up to 18446744073709551615. Default: taken from the operating system",
             NumberKind::kUint64,
             [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
-  AddDecimals(command, arguments->decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
+  arguments->output.AddDigitsTo(command);
   command.footer(kVariatesHelp + LimitsHelp(variate) + kExitStatusHelp);
   command.callback([&variate, arguments] { Run(variate, *arguments); });
 }

@@ -69,7 +69,8 @@ void AddTest(CLI::App& parent, const HypothesisTest& test, const Family* family 
   command.callback([&test, arguments, name] {
     const std::vector<TestReport> reports = Run(test, *arguments);
     RemarkOnSmallFigures(reports, *arguments);
-    WriteResult(arguments->json ? JsonOf(reports, name, *arguments) : TextOf(reports, *arguments));
+    WriteResult(arguments->output.IsJson() ? JsonOf(reports, name, *arguments)
+                                           : TextOf(reports, *arguments));
   });
 }
 

@@ -98,9 +98,7 @@ void TestArguments::AddTo(CLI::App& command, const HypothesisTest& test) {
       command,
       "The confidence level of intervals, and 1 less the significance level.\nDefault: 0.95",
       confidence);
-  AddDecimals(command, decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  AddJson(command, json);
+  output.AddTo(command);
 }
 
 }  // namespace qorvex::apps
