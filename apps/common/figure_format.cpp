@@ -6,6 +6,7 @@
 #include <limits>
 #include <numbers>
 
+#include "qorvex/base/currency_text.h"
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/fitted_text.h"
@@ -104,6 +105,11 @@ std::string FigureFormat::Text(const Probability& probability) const {
 
 std::string FigureFormat::Text(std::uint64_t number) const {
   const std::string text = Int2EStr(number);
+  return grouped ? WithGroups(text) : text;
+}
+
+std::string FigureFormat::Text(Currency amount) const {
+  const std::string text = Currency2EStr(amount);
   return grouped ? WithGroups(text) : text;
 }
 

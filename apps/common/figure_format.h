@@ -7,6 +7,7 @@
 #include <string>
 
 #include "apps/common/column_numbers.h"
+#include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 
 namespace qorvex::apps {
@@ -40,8 +41,11 @@ struct FigureFormat {
   /// The text of a probability, however small: with decimals, in exponent form below their reach;
   /// below the range of the format, from the logarithm.
   [[nodiscard]] std::string Text(const Probability& probability) const;
-  /// The text of a number of things, which has no decimals.
+  /// @{
+  /// The text of a number of things, which has no decimals, and of an amount with all of its own.
   [[nodiscard]] std::string Text(std::uint64_t number) const;
+  [[nodiscard]] std::string Text(Currency amount) const;
+  /// @}
 };
 
 /// Figures of a report on such numbers have at least 7 significant digits, and one more than the

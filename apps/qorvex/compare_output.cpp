@@ -38,7 +38,7 @@ ReportPart SideBySide(const ComparisonReport& report, const ComparisonHeading& h
   const bool has_missing = heading.first.column.skipped + heading.second.column.skipped > 0;
   for (std::size_t i = 0; i < first.size(); ++i) {
     if (first[i].key != "missing" || has_missing)
-      part.table.rows.push_back({first[i].label, first[i].value, second[i].value});
+      part.table.rows.push_back({Heading(first[i].label), first[i].value, second[i].value});
   }
   return part;
 }
