@@ -10,7 +10,9 @@
 #include <QStringList>
 #include <QtTest/QTest>
 #include <gtest/gtest.h>
+#include <type_traits>
 
+#include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 
@@ -60,7 +62,17 @@ struct PageFixture : testing::Test {
   }
   void Type(const char* editor, const char* keys) { Type(Find<TQorVectorEdit>(editor), keys); }
 
-  Page page;
+  Sheet sheet;
+  Page page = MakePage(sheet);
+
+ private:
+  static Page MakePage(Sheet& table) {
+    if constexpr (std::is_constructible_v<Page, Sheet&>) {
+      return Page(table);
+    } else {
+      return Page();
+    }
+  }
 };
 
 }  // namespace qorvex::gallery
