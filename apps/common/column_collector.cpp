@@ -57,9 +57,9 @@ std::size_t FindColumn(const std::string& chosen, std::span<const std::string> n
   return number - 1;
 }
 
-// The positions, from 0, of the chosen columns without duplicates; of all columns if none is
-// chosen. Weights or labels are the last.
-std::vector<std::size_t> ChosenColumns(const TableSelection& selection,
+// The chosen columns without duplicates, all columns if none is chosen; then the weights and the
+// labels.
+std::vector<TableColumn> ChosenColumns(const TableSelection& selection,
                                        std::span<const std::string> names, std::size_t width,
                                        const std::string& input_name) {
   std::vector<std::size_t> indices;
@@ -71,19 +71,35 @@ std::vector<std::size_t> ChosenColumns(const TableSelection& selection,
     const std::size_t index = FindColumn(column, names, width, input_name);
     if (std::ranges::find(indices, index) == indices.end()) indices.push_back(index);
   }
-  if (const auto& last = selection.weights ? selection.weights : selection.labels) {
-    const std::size_t index = FindColumn(*last, names, width, input_name);
-    std::erase(indices, index);
-    if (indices.empty()) {
-      const char* const what = selection.weights ? "weights" : "labels";
+  const auto column_of = [&](std::size_t index, ColumnRole role) {
+    return TableColumn{
+        .number = index + 1, .name = names.empty() ? "" : names[index], .role = role};
+  };
+  std::vector<TableColumn> others;
+  const auto add_other = [&](const std::string& column, ColumnRole role) {
+    const std::size_t index = FindColumn(column, names, width, input_name);
+    const auto refuse = [&](ColumnRole known) {
+      const char* const what = known == ColumnRole::kWeights ? "weights" : "labels";
       throw InputError(InputFault::kNoSuchColumn, input_name,
-                       selection.columns.empty()
+                       selection.columns.empty() && indices.empty()
                            ? std::string("there is no column beside the ") + what
-                           : Excerpt(*last) + " is the column of the " + what);
+                           : Excerpt(column) + " is the column of the " + what);
+    };
+    std::erase(indices, index);
+    if (indices.empty()) refuse(role);
+    const auto known = std::ranges::find(others, index + 1, &TableColumn::number);
+    if (known == others.end()) {
+      others.push_back(column_of(index, role));
+    } else if (known->role != role) {
+      refuse(known->role);
     }
-    indices.push_back(index);
-  }
-  return indices;
+  };
+  if (selection.weights) add_other(*selection.weights, ColumnRole::kWeights);
+  for (const std::string& column : selection.labels) add_other(column, ColumnRole::kLabels);
+  std::vector<TableColumn> columns;
+  for (const std::size_t index : indices) columns.push_back(column_of(index, ColumnRole::kValues));
+  std::ranges::move(others, std::back_inserter(columns));
+  return columns;
 }
 
 }  // namespace
@@ -92,16 +108,14 @@ ColumnCollector::ColumnCollector(const RowReader& rows, const TableSelection& se
     : selection_(&selection), first_line_(rows.Line()), width_(rows.Cells().size()) {
   if (selection.header.value_or(HoldsText(rows.Cells())))
     header_.assign(rows.Cells().begin(), rows.Cells().end());
-  for (const std::size_t index : ChosenColumns(selection, header_, width_, rows.Name())) {
-    columns_.push_back({.number = index + 1, .name = HasHeader() ? header_[index] : ""});
-  }
+  columns_ = ChosenColumns(selection, header_, width_, rows.Name());
 }
 
 ColumnCollector ColumnCollector::ForMoreRows() const {
   ColumnCollector collector = *this;
   collector.header_.clear();
   for (TableColumn& column : collector.columns_)
-    column = {.number = column.number, .name = column.name};
+    column = {.number = column.number, .name = column.name, .role = column.role};
   collector.has_rows_ = false;
   collector.blank_lines_ = 0;
   return collector;
@@ -117,14 +131,17 @@ void ColumnCollector::AddCells(const RowReader& rows) {
   RequireWidth(rows, width_, first_line_);
   const Cells cells = rows.Cells();
   const auto cell_of = [cells](const TableColumn& column) { return cells[column.number - 1]; };
-  if (selection_->skip_empty && selection_->whole_rows &&
-      std::ranges::any_of(columns_, &std::string_view::empty, cell_of)) {
+  const auto must_not_be_missing = [&](const TableColumn& column) {
+    return (selection_->whole_rows || column.role == ColumnRole::kLabels) &&
+           cell_of(column).empty();
+  };
+  if (selection_->skip_empty && std::ranges::any_of(columns_, must_not_be_missing))
     return SkipRow(rows.Name(), rows.Line());
-  }
   for (TableColumn& column : columns_) {
     const std::string_view cell = cell_of(column);
     if (cell.empty()) {
       Skip(column, rows.Name(), rows.Line());
+      if (!selection_->labels.empty()) column.gaps.push_back(columns_.back().labels.size());
     } else {
       Add(cell, column, rows);
     }
@@ -142,15 +159,19 @@ void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, 
     if (part.fault) std::rethrow_exception(part.fault);
     blank_lines_ += part.rows.blank_lines_;
   }
+  std::vector<std::size_t> first_rows{columns_.back().labels.size()};
+  for (const Part& part : parts)
+    first_rows.push_back(first_rows.back() + part.rows.columns_.back().labels.size());
   ForEachIndex(columns_.size(), threads, [&](std::size_t i) {
     TableColumn& column = columns_[i];
     std::size_t size = column.numbers.size();
     for (const Part& part : parts) size += part.rows.columns_[i].numbers.size();
     column.numbers.Reserve(size);
-    for (Part& part : parts) {
-      TableColumn more = std::move(part.rows.columns_[i]);
+    for (std::size_t k = 0; k < parts.size(); ++k) {
+      const TableColumn more = std::move(parts[k].rows.columns_[i]);
       column.numbers.Append(more.numbers);
-      std::ranges::move(more.labels, std::back_inserter(column.labels));
+      column.labels.Append(more.labels);
+      for (const std::size_t row : more.gaps) column.gaps.push_back(first_rows[k] + row);
       column.skipped += more.skipped;
     }
   });
@@ -166,14 +187,10 @@ Table ColumnCollector::Finish(const std::string& input) {
 }
 
 void ColumnCollector::Add(std::string_view cell, TableColumn& column, const RowReader& rows) const {
+  if (column.role == ColumnRole::kLabels) return column.labels.Append(cell);
   const CellPlace place{rows.Name(), rows.Line(), column.number, column.name};
-  const bool is_last = &column == &columns_.back();
-  if (selection_->labels && is_last) {
-    column.labels.emplace_back(cell);
-    return;
-  }
   bool appended = false;
-  if (selection_->currency && !(selection_->weights && is_last)) {
+  if (selection_->currency && column.role == ColumnRole::kValues) {
     appended = column.numbers.TryAppend({AmountIn(cell, place).stored(), -Currency::kDecimals});
   } else {
     appended = column.numbers.TryAppendCell(cell);

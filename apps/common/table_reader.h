@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/common/column_numbers.h"
+#include "apps/common/labels.h"
 #include "apps/common/row_reader.h"
 #include "apps/common/text_input.h"
 
@@ -19,11 +20,10 @@ struct TableSelection {
   /// Names or 1-based numbers, in the order of the result. A name takes precedence over a number;
   /// duplicates are ignored. Empty for all columns.
   std::vector<std::string> columns = {};
-  /// The name or number of the column of weights, which becomes the last of the result. It must
-  /// differ from the other columns.
+  /// The name or number of the column of weights, which follows the others in the result.
   std::optional<std::string> weights = {};
-  /// The same for a column of labels, which are any text. There can be either.
-  std::optional<std::string> labels = {};
+  /// The same for columns of labels, which are any text. They follow the weights.
+  std::vector<std::string> labels = {};
   /// As for RowReader: detected if not set; a space stands for any run of spaces and tabs.
   std::optional<char> delimiter = {};
   /// Whether the first row is a header. If not set, it is one if any of its cells is text.
@@ -37,16 +37,22 @@ struct TableSelection {
   bool currency = false;
 };
 
+/// What a column of a table contains.
+enum class ColumnRole { kValues, kWeights, kLabels };
+
 /// A column of a table.
 struct TableColumn {
   /// Its position in the table, from 1.
   std::size_t number = 0;
   /// Empty if the table has no header.
   std::string name = {};
+  ColumnRole role = ColumnRole::kValues;
   /// For amounts of money integers with four decimals.
   ColumnNumbers numbers = {};
   /// Labels take the place of the numbers.
-  std::vector<std::string> labels = {};
+  Labels labels = {};
+  /// If there are labels: the rows without a number in this column, by the index of their labels.
+  std::vector<std::size_t> gaps = {};
   /// The number of empty cells, or of rows, that were skipped.
   std::size_t skipped = 0;
 

@@ -4,8 +4,6 @@
 
 namespace qorvex::gallery {
 
-namespace {
-
 QPalette LightPalette() {
   QPalette palette(QColor(0xf0, 0xf1, 0xf3), QColor(0xf7, 0xf8, 0xfa));
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -17,8 +15,6 @@ QPalette LightPalette() {
   palette.setColor(QPalette::HighlightedText, Qt::white);
   return palette;
 }
-
-}  // namespace
 
 QPalette DarkPalette() {
   const QColor text(0xdf, 0xe1, 0xe5);

@@ -9,6 +9,9 @@ namespace qorvex::gallery {
 
 enum class Appearance { kSystem, kLight, kDark };
 
+/// The light palette of the program and of all pictures.
+[[nodiscard]] QPalette LightPalette();
+
 /// The dark palette of the program and of all pictures.
 [[nodiscard]] QPalette DarkPalette();
 

@@ -1,23 +1,12 @@
 #include "apps/qorvex/test_arguments.h"
 
-#include <memory>
-
-#include "apps/common/column_numbers.h"
 #include "apps/common/input_error.h"
-#include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
-#include "apps/qorvex/test_samples.h"
-#include "apps/qorvex/text_output.h"
-#include "qorvex/base/exact/rational.h"
+#include "apps/qorvex/parameters.h"
 
 namespace qorvex::apps {
 
 namespace {
-
-constexpr const char* kReportHelp = R"(Report:
-  The null hypothesis is rejected if p is at most the significance level, which is
-  1 less the confidence level. Intervals are two-sided. Statistics are exact figures
-  of the numbers, rounded once. "Form of the Test" says where p comes from.)";
 
 Alternative ParseAlternative(const std::string& text) {
   if (text == "two-sided") return Alternative::kTwoSided;
@@ -26,32 +15,28 @@ Alternative ParseAlternative(const std::string& text) {
   throw CLI::ValidationError("--alternative", Excerpt(text) + " is not two-sided, less or greater");
 }
 
-}  // namespace
-
-Extended TestArguments::Significance() const {
-  const std::optional<DecimalNumber> decimal = ParseDecimal(confidence.text);
-  // Beyond this, 1 less the number rounds to 1.
-  if (!decimal || decimal->exponent < -5000) return 1 - confidence.value;
-  return (1 - exact::Rational(decimal->integer) *
-                  exact::Rational::PowerOfTen(static_cast<int>(decimal->exponent)))
-      .Round();
+CLI::Option& AddCount(CLI::App& command, std::uint32_t& count, const char* option,
+                      const char* description) {
+  return AddNumber(command, option, description, NumberKind::kCount,
+                   [&count](Extended value) { count = static_cast<std::uint32_t>(value); });
 }
+
+}  // namespace
 
 void TestArguments::AddAlternative(CLI::App& command) {
   command
       .add_option_function<std::string>(
           "--alternative",
           [this](const std::string& text) { alternative = ParseAlternative(text); },
-          "What the null hypothesis is tested against: two-sided, less or greater.\n"
-          "Default: two-sided")
-      ->type_name("A");
+          "What the null hypothesis is tested against. Default: two-sided")
+      ->type_name("two-sided|less|greater");
 }
 
-void TestArguments::AddHypothesis(CLI::App& command, const char* option, const char* description,
-                                  NumberKind kind, const char* default_text) {
+void TestArguments::AddNullValue(CLI::App& command, const NullValue& null_value) {
+  const auto [option, description, kind, default_text] = null_value;
   std::string text = description;
   if (default_text != nullptr) {
-    hypothesis = {default_text, ParseNumber(option, default_text, kind)};
+    hypothesis = {default_text, ParseNumber(LongName(option), default_text, kind)};
     text += std::string(". Default: ") + default_text;
   }
   AddWrittenNumber(command, option, text, kind, hypothesis).required(default_text == nullptr);
@@ -65,30 +50,55 @@ void TestArguments::AddSamples(CLI::App& command) {
       ->type_name("NAME|N");
 }
 
-void AddTest(CLI::App& parent, const TestCommand& test) {
-  CLI::App& command = *parent.add_subcommand(test.name, test.summary);
-  const auto arguments = std::make_shared<TestArguments>();
-  test.add_options(command, *arguments);
+void TestArguments::AddParameters(CLI::App& command) {
+  for (const NumberParameter& parameter : family->parameters) {
+    const std::size_t index = parameters.size();
+    parameters.push_back(parameter.start);
+    AddParameter(command, parameter, [this, index](Extended value) { parameters[index] = value; });
+  }
+}
+
+void TestArguments::AddInput(CLI::App& command, const HypothesisTest& test) {
+  switch (test.input) {
+    case TestInput::kSample:
+    case TestInput::kTwoSamples:
+    case TestInput::kSeveralSamples:
+      AddSamples(command);
+      break;
+    case TestInput::kPairs:
+      table.AddPairTo(command);
+      break;
+    case TestInput::kCounts:
+      table.AddTo(command);
+      command
+          .add_option("--proportions", proportions,
+                      "The column of the expected proportions, which need not add up\n"
+                      "to 1. Default: all equal")
+          ->type_name("NAME|N");
+      AddCount(command, fitted_parameters, "--fitted-parameters",
+               "How many parameters were estimated from the counts. Default: 0");
+      break;
+    case TestInput::kCountTable:
+      table.AddTo(command);
+      command.add_flag("--yates", yates, "Yates' correction, for tables of 2 by 2");
+      break;
+    case TestInput::kTrials:
+      AddCount(command, successes, "--successes", "The number of successes").required();
+      AddCount(command, trials, "--trials", "The number of trials").required();
+      break;
+  }
+}
+
+void TestArguments::AddTo(CLI::App& command, const HypothesisTest& test) {
+  AddInput(command, test);
+  if (family != nullptr) AddParameters(command);
+  if (test.null_value.option != nullptr) AddNullValue(command, test.null_value);
+  if (test.has_alternative) AddAlternative(command);
   AddConfidence(
       command,
       "The confidence level of intervals, and 1 less the significance level.\nDefault: 0.95",
-      arguments->confidence);
-  AddDecimals(command, arguments->decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
-  AddJson(command, arguments->json);
-  command.footer(std::string(kReportHelp) + (test.reads_table ? "\n\n" + TableHelp() : "") +
-                 kExitStatusHelp + kNothingPrintedHelp);
-  command.callback([arguments, name = std::string(test.name), run = test.run] {
-    const std::string& file = arguments->table.file;
-    try {
-      const std::vector<TestReport> reports = run(*arguments);
-      RemarkOnSmallFigures(reports, *arguments);
-      WriteResult(arguments->json ? JsonOf(reports, name, *arguments)
-                                  : TextOf(reports, *arguments));
-    } catch (const EMathError& error) {
-      throw TestRefusal(file.empty() ? name : InputName(file), error);
-    }
-  });
+      confidence);
+  output.AddTo(command);
 }
 
 }  // namespace qorvex::apps

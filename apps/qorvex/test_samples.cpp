@@ -1,93 +1,72 @@
 #include "apps/qorvex/test_samples.h"
 
 #include <algorithm>
-#include <iterator>
-#include <map>
 #include <utility>
 
 #include "apps/common/cells.h"
-#include "apps/common/column_differences.h"
+#include "apps/common/figure_format.h"
+#include "apps/common/groups.h"
+#include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
-#include "apps/qorvex/parameters.h"
 #include "qorvex/base/text.h"
-#include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex::apps {
 
 namespace {
 
+using SampleList = std::vector<NumberSample>;
+
 [[noreturn]] void Refuse(const TestArguments& arguments, const std::string& what) {
   throw InputError(InputFault::kNoSuchColumn, InputName(arguments.table.file), what);
 }
 
-NumberSample SampleOf(TableColumn column) {
-  return {std::move(column.numbers), {.column = column.number, .name = column.name}};
+NumberSample SampleOf(const TableColumn& column) {
+  return {column.numbers,
+          {.column = column.number,
+           .name = column.name,
+           .missing = column.skipped,
+           .significant_digits = SignificantDigits(column.numbers)}};
 }
 
 // The groups are in the order in which their labels appear.
-std::vector<NumberSample> Split(const TableColumn& column, const TableColumn& labels) {
-  std::vector<NumberSample> groups;
-  std::map<std::string, std::size_t> group_of;
+std::vector<NumberSample> SamplesOf(const TableColumn& column, const TableColumn& labels) {
   const std::string label_name = labels.name.empty() ? labels.Title() : OnOneLine(labels.name);
-  const TQorFloatVector values = column.numbers.Values();
-  for (std::size_t i = 0; i < values.size(); ++i) {
-    const std::string& label = labels.labels[i];
-    const auto [at, is_new] = group_of.try_emplace(label, groups.size());
-    if (is_new) {
-      groups.push_back({{},
-                        {.column = column.number,
-                         .name = column.name,
-                         .group = label_name + " = " + OnOneLine(label)}});
-    }
-    ColumnNumbers& numbers = groups[at->second].numbers;
-    const bool is_kept =
-        column.numbers.AreDecimal() &&
-        numbers.TryAppend({column.numbers.Integers()[i], -std::int64_t{column.numbers.Decimals()}});
-    if (!is_kept) numbers.Append(values[i]);
+  std::vector<NumberSample> samples;
+  for (GroupNumbers& group : Split(column, GroupsOf({&labels, 1}))) {
+    const std::string& label = labels.labels.Texts()[samples.size()];
+    samples.push_back({std::move(group.numbers),
+                       {.column = column.number,
+                        .name = column.name,
+                        .group = label_name + " = " + OnOneLine(label),
+                        .missing = group.missing,
+                        .significant_digits = SignificantDigits(column.numbers)}});
   }
-  return groups;
+  return samples;
 }
 
-std::vector<NumberSample> SplitSamples(const TestArguments& arguments) {
+SampleList SamplesOf(const std::vector<TableColumn>& columns) {
+  SampleList samples;
+  for (const TableColumn& column : columns) samples.push_back(SampleOf(column));
+  return samples;
+}
+
+SampleList SplitSamples(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   if (table.selection.columns.size() != 1)
     throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
-  table.selection.labels = arguments.by;
+  table.selection.labels = {*arguments.by};
   table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
-  return Split(columns[0], columns[1]);
+  return SamplesOf(columns[0], columns[1]);
 }
 
-TestFigure CountOf(const NumberSample& sample) {
-  return {"count", ReportText(rsDSNoOfValues), static_cast<Extended>(sample.numbers.size()), true};
-}
-
-const char* WhyNot(MessageId id) {
-  switch (id) {
-    case rsVectorG1:
-      return "the test needs at least two values";
-    case rsVectorG2:
-      return "the test needs at least three values";
-    case rsSameValue:
-      return "the values must not all be the same";
-    case rsDF:
-      return "no degrees of freedom are left";
-    case rsVectorZero:
-      return "all counts are 0";
-    case rsVectorNotPos:
-      return "the proportions must all be greater than 0";
-    case rsInvalidRow:
-    case rsInvalidCol:
-      return "the table needs at least two rows and two columns";
-    case rsMatrixZero:
-      return "a row or a column of the table holds nothing but 0";
-    default:
-      return nullptr;
-  }
+// Each chosen column is a sample, or one is split by its labels.
+SampleList ReadColumns(const TestArguments& arguments) {
+  return arguments.by ? SplitSamples(arguments) : SamplesOf(arguments.table.Read());
 }
 
 // "g = A, g = B, g = C", at most five of them.
-std::string GroupsOf(const std::vector<NumberSample>& samples) {
+std::string GroupsOf(const SampleList& samples) {
   constexpr std::size_t most = 5;
   std::string text;
   for (std::size_t i = 0; i < std::min(samples.size(), most); ++i)
@@ -95,105 +74,104 @@ std::string GroupsOf(const std::vector<NumberSample>& samples) {
   return samples.size() > most ? text + ", ..." : text;
 }
 
-std::vector<NumberSample> ReadTwoSamples(const TestArguments& arguments) {
-  std::vector<NumberSample> samples = ReadSamples(arguments);
-  if (samples.size() == 2) return samples;
+void RequireTwo(const SampleList& samples, const TestArguments& arguments) {
+  if (samples.size() == 2) return;
   if (arguments.by) {
     Refuse(arguments, "the test compares two groups, and the labels make " +
                           Int2EStr(samples.size()) + ": " + GroupsOf(samples));
   }
-  if (samples.size() == 1 && arguments.table.selection.columns.size() == 2) {
-    const TestSample& origin = samples[0].origin;
-    Refuse(arguments, "both samples are " + ColumnTitle(origin.column, origin.name));
-  }
+  if (samples.size() == 1 && arguments.table.selection.columns.size() == 2)
+    Refuse(arguments, "both samples are " + samples[0].Title());
   Refuse(arguments, "the test compares two columns, and there " +
                         std::string(samples.size() == 1 ? "is " : "are ") +
                         Int2EStr(samples.size()));
 }
 
-// Whether the sample is what the error complains of.
-bool IsAtFault(const NumberSample& sample, MessageId id) {
-  if (id == rsVectorG1) return sample.numbers.size() < 2;
-  const TQorFloatVector values = sample.numbers.Values();
-  return id == rsSameValue && std::ranges::count(values, values[0]) == std::ssize(values);
+SampleList ReadPairs(const TestArguments& arguments) {
+  SampleList pair = SamplesOf(arguments.table.Read());
+  if (pair.size() == 1) Refuse(arguments, "x and y are both " + pair[0].Title());
+  return pair;
+}
+
+void RequireCounts(const NumberSample& sample, const TestArguments& arguments) {
+  const std::string wrong = WhatIsWrongWithCounts(sample);
+  if (!wrong.empty()) {
+    throw InputError(InputFault::kNoResult,
+                     InputName(arguments.table.file) + ": " + sample.Title() + ": " + wrong);
+  }
+}
+
+// Each column of counts, with that of the proportions.
+std::vector<SampleList> ReadCounts(const TestArguments& arguments) {
+  TableArguments table = arguments.table;
+  if (arguments.proportions) {
+    if (table.selection.columns.empty())
+      throw CLI::ValidationError("--proportions", "the column of counts needs --column");
+    table.selection.columns.push_back(*arguments.proportions);
+    table.selection.whole_rows = true;
+  }
+  const std::vector<TableColumn> columns = table.Read();
+  const TableColumn* const proportions =
+      arguments.proportions ? &ColumnOf(columns, *arguments.proportions) : nullptr;
+  std::vector<SampleList> counts;
+  for (const TableColumn& column : columns) {
+    if (&column == proportions) continue;
+    counts.push_back({SampleOf(column)});
+    RequireCounts(counts.back()[0], arguments);
+    if (proportions != nullptr) counts.back().push_back(SampleOf(*proportions));
+  }
+  return counts;
+}
+
+SampleList ReadCountTable(const TestArguments& arguments) {
+  TableArguments table = arguments.table;
+  table.selection.whole_rows = true;
+  SampleList columns = SamplesOf(table.Read());
+  if (arguments.yates && (columns.size() != 2 || columns[0].numbers.size() != 2))
+    throw CLI::ValidationError("--yates", "the correction is for tables of 2 by 2");
+  for (const NumberSample& column : columns) RequireCounts(column, arguments);
+  return columns;
+}
+
+void RequireTrials(const TestArguments& arguments) {
+  if (arguments.successes > arguments.trials)
+    throw CLI::ValidationError("--successes", "there are more successes than trials");
+  if (arguments.trials == 0)
+    throw CLI::ValidationError("--trials", "there must be at least one trial");
 }
 
 }  // namespace
 
-std::string NumberSample::Place(const std::string& file) const {
-  return InputName(file) + ": " + ColumnTitle(origin.column, origin.name) +
-         (origin.group.empty() ? "" : ", " + origin.group);
-}
-
-std::vector<NumberSample> ReadSamples(const TestArguments& arguments) {
-  if (arguments.by) return SplitSamples(arguments);
-  std::vector<NumberSample> samples;
-  for (TableColumn& column : arguments.table.Read()) samples.push_back(SampleOf(std::move(column)));
-  return samples;
-}
-
-std::vector<NumberSample> ReadPairs(const TestArguments& arguments) {
-  std::vector<TableColumn> columns = arguments.table.Read();
-  if (columns.size() == 1) Refuse(arguments, "x and y are both " + columns[0].Title());
-  return {SampleOf(std::move(columns[0])), SampleOf(std::move(columns[1]))};
-}
-
-TestSample WithMoments(const NumberSample& sample) {
-  const ExactSample<2> sums = ExactSumsOf<2>(sample.numbers);
-  TestSample origin = sample.origin;
-  origin.figures = {CountOf(sample), {"mean", ReportText(rsDSMean), sums.Mean()}};
-  if (sums.Count() > 1)
-    origin.figures.push_back({"standard_deviation", ReportText(rsDSStdDev), sums.SampleStdDev()});
-  return origin;
-}
-
-TestSample WithMedian(const NumberSample& sample) {
-  ColumnNumbers sorted = sample.numbers;
-  sorted.Sort();
-  const Extended median = sorted.ValueOf(OrderFiguresOf(sorted).median);
-  TestSample origin = sample.origin;
-  origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), median}};
-  return origin;
-}
-
-std::vector<TestReport> TestEach(const TestArguments& arguments,
-                                 const std::function<TestReport(const NumberSample&)>& test) {
-  std::vector<TestReport> reports;
-  for (const NumberSample& sample : ReadSamples(arguments)) {
-    try {
-      reports.push_back(test(sample));
-    } catch (const EMathError& error) {
-      throw TestRefusal(sample.Place(arguments.table.file), error);
+std::vector<SampleList> ReadSamples(const HypothesisTest& test, const TestArguments& arguments) {
+  switch (test.input) {
+    case TestInput::kSample: {
+      std::vector<SampleList> each;
+      for (NumberSample& sample : ReadColumns(arguments)) each.push_back({std::move(sample)});
+      return each;
     }
+    case TestInput::kTwoSamples: {
+      SampleList samples = ReadColumns(arguments);
+      RequireTwo(samples, arguments);
+      return {std::move(samples)};
+    }
+    case TestInput::kSeveralSamples: {
+      SampleList samples = ReadColumns(arguments);
+      if (samples.size() < 2) {
+        Refuse(arguments, samples[0].Title() + ": the test compares at least two samples");
+      }
+      return {std::move(samples)};
+    }
+    case TestInput::kPairs:
+      return {ReadPairs(arguments)};
+    case TestInput::kCounts:
+      return ReadCounts(arguments);
+    case TestInput::kCountTable:
+      return {ReadCountTable(arguments)};
+    case TestInput::kTrials:
+      RequireTrials(arguments);
+      break;
   }
-  return reports;
-}
-
-std::vector<TestReport> TestTwo(
-    const TestArguments& arguments,
-    const std::function<TestReport(const std::vector<NumberSample>& samples)>& test) {
-  const std::vector<NumberSample> samples = ReadTwoSamples(arguments);
-  try {
-    return {test(samples)};
-  } catch (const EMathError& error) {
-    const bool first = IsAtFault(samples[0], error.message_id());
-    const bool second = IsAtFault(samples[1], error.message_id());
-    if (first == second) throw;
-    throw TestRefusal(samples[first ? 0 : 1].Place(arguments.table.file), error);
-  }
-}
-
-InputError TestRefusal(const std::string& place, const EMathError& error) {
-  const char* const why = WhyNot(error.message_id());
-  return why == nullptr ? Refusal(place, error, "") : InputError(InputFault::kNoResult, place, why);
-}
-
-Shifted ShiftedBy(const WrittenNumber& hypothesis, const ColumnNumbers& numbers) {
-  if (const std::optional<DecimalNumber> decimal = ParseDecimal(hypothesis.text)) {
-    if (std::optional<ColumnNumbers> exact = ExactDifferences(numbers, *decimal))
-      return {std::move(*exact), 0};
-  }
-  return {numbers, hypothesis.value};
+  return {{}};
 }
 
 }  // namespace qorvex::apps

@@ -24,7 +24,11 @@ std::string Read(const std::string& text, const TableSelection& selection, unsig
     for (const TableColumn& column : table.columns) {
       columns += column.Title() + ':';
       for (const Extended value : column.numbers.Values()) columns += ' ' + Float2Str(value);
-      columns += "; " + Int2EStr(column.skipped) + '\n';
+      for (const std::uint32_t code : column.labels.Codes())
+        columns += ' ' + column.labels.Texts()[code];
+      columns += "; " + Int2EStr(column.skipped);
+      for (const std::size_t gap : column.gaps) columns += " gap " + Int2EStr(gap);
+      columns += '\n';
     }
     return columns;
   });
@@ -100,8 +104,8 @@ TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
     const std::size_t usual = 1 + engine() % std::size(pieces);
     for (std::size_t rows = engine() % 30; rows > 0; --rows)
       text += pieces[engine() % (engine() % 8 == 0 ? std::size(pieces) : std::min(usual, 6UL))];
-    const TableSelection selection{.skip_empty = engine() % 2 == 0,
-                                   .whole_rows = engine() % 2 == 0};
+    TableSelection selection{.skip_empty = engine() % 2 == 0, .whole_rows = engine() % 2 == 0};
+    if (engine() % 2 == 0) selection.labels = {"2"};
     const std::string result = Read(text, selection);
     const std::size_t block_size = 4 + engine() % 60;
     ASSERT_EQ(Read(text, selection, static_cast<unsigned>(1 + engine() % 3), block_size), result)

@@ -9,6 +9,7 @@
 #include <exception>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
@@ -19,28 +20,12 @@
 
 namespace qorvex::gallery {
 
-namespace {
-
-// With more counts, the stems would merge into an area.
-constexpr std::size_t kMostStems = 150;
-
-using Points = std::vector<QPointF>;
-
-// The points whose x is in the range.
-Points Within(const Points& curve, Extended from, Extended to) {
-  Points part;
-  std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
-               [&](const QPointF& point) { return point.x() >= from && point.x() <= to; });
-  return part;
-}
-
-}  // namespace
-
 DistributionPage::DistributionPage(QWidget* parent)
     : Page(parent),
+      message_(new MessageBar),
       family_(new QComboBox),
       summary_(new QLabel),
-      parameters_(new ParameterForm),
+      parameters_(new ParameterForm(*message_)),
       question_(new QComboBox),
       first_label_(new QLabel),
       first_(MakeNumberCell(1, tr("Point"), this)),
@@ -50,8 +35,7 @@ DistributionPage::DistributionPage(QWidget* parent)
       probability_(MakeNumberCell(0.975L, tr("Probability"), this)),
       quantile_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       plot_(new PlotView),
-      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
-      message_(new MessageBar) {
+      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})) {
   setObjectName(QStringLiteral("distributionPage"));
   family_->setObjectName(QStringLiteral("family"));
   family_->setAccessibleName(tr("Family of distributions"));
@@ -65,8 +49,7 @@ DistributionPage::DistributionPage(QWidget* parent)
   plot_->setObjectName(QStringLiteral("plot"));
   figures_->setObjectName(QStringLiteral("figures"));
 
-  for (const apps::Family& family : apps::Families())
-    family_->addItem(Title(QString::fromUtf8(family.name)));
+  for (const apps::Family& family : apps::Families()) family_->addItem(DisplayName(family.name));
   question_->addItems({tr("Both sides of a point"), tr("Inside and outside an interval")});
   side_->addItems({tr("At most the quantile"), tr("More than the quantile")});
   summary_->setWordWrap(true);
@@ -107,8 +90,10 @@ DistributionPage::DistributionPage(QWidget* parent)
   connect(parameters_, &ParameterForm::Changed, this, &DistributionPage::Update);
   for (QComboBox* const box : {question_, side_})
     connect(box, &QComboBox::currentIndexChanged, this, &DistributionPage::Update);
-  for (TQorFloatEdit* const cell : {first_, second_, probability_})
+  for (TQorFloatEdit* const cell : {first_, second_, probability_}) {
+    message_->Watch(*cell);
     connect(cell, &TQorFloatEdit::Changed, this, &DistributionPage::Update);
+  }
   ShowFamily();
 }
 
@@ -123,7 +108,7 @@ bool DistributionPage::IsInterval() const {
 }
 
 void DistributionPage::ShowFamily() {
-  summary_->setText(tr(Family().summary));
+  summary_->setText(Translated(Family().summary));
   parameters_->SetParameters(Family().parameters);
   // Points that the diagram shows, whatever the family.
   const auto distribution = Family().make(parameters_->Numbers());
@@ -147,7 +132,9 @@ void DistributionPage::Update() {
   if (!wrong.isEmpty()) return message_->SetText(wrong);
   try {
     const auto distribution = Family().make(parameters);
-    QStringList messages = {UpdatePoints(*distribution), UpdateQuantile(*distribution)};
+    // The diagram of the points shows the quantile, too.
+    const QString wrong_quantile = UpdateQuantile(*distribution);
+    QStringList messages = {UpdatePoints(*distribution), wrong_quantile};
     messages.removeAll(QString());
     message_->SetText(messages.join(QStringLiteral("; ")));
   } catch (const std::exception& error) {
@@ -170,7 +157,8 @@ QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution
   for (std::size_t i = 0; i < points.size(); ++i) {
     if (const char* const wrong = apps::WhatIsWrong(points[i], kind)) {
       return tr("%1: %2 %3")
-          .arg((i == 0 ? first_label_ : second_label_)->text(), ExactText(points[i]), tr(wrong));
+          .arg((i == 0 ? first_label_ : second_label_)->text(), ExactText(points[i]),
+               Translated(wrong));
     }
   }
   std::sort(points.begin(), points.end());
@@ -209,10 +197,11 @@ QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution
 QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distribution) {
   const Extended probability = probability_->Value();
   if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability))
-    return tr("Probability: %1 %2").arg(ExactText(probability), tr(wrong));
+    return tr("Probability: %1 %2").arg(ExactText(probability), Translated(wrong));
   try {
     const Tail tail = side_->currentIndex() == 0 ? Tail::kLower : Tail::kUpper;
-    quantile_->SetRows({{tr("Quantile"), ExactText(distribution.Quantile(tail, probability))}});
+    quantile_at_ = distribution.Quantile(tail, probability);
+    quantile_->SetRows({{tr("Quantile"), ExactText(*quantile_at_)}});
   } catch (const std::exception& error) {
     return QString::fromUtf8(error.what());
   }
@@ -221,43 +210,42 @@ QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distributi
 
 void DistributionPage::Draw(const apps::AnyDistribution& distribution,
                             const std::vector<Extended>& points) {
-  Interval<Extended> range = MiddleOf(distribution);
-  // The range extends to points just outside; further out, the curve is flat.
-  const Extended margin = range.greatest - range.least;
-  const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
-  if (*least < range.least && *least >= range.least - margin) range.least = *least;
-  if (*greatest > range.greatest && *greatest <= range.greatest + margin)
-    range.greatest = *greatest;
-  std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
-  // The areas end exactly at these points.
-  for (const Extended point : points) {
-    if (Family().is_discrete || !(point > range.least) || !(point < range.greatest)) continue;
-    places.insert(std::upper_bound(places.begin(), places.end(), point), point);
-  }
-  const Points curve = DensityAt([&](Extended x) { return distribution.Pdf(x); }, places);
-  const bool stems = Family().is_discrete && curve.size() <= kMostStems;
-  const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
-  const Extended infinity = HUGE_VALL;
-  // A count belongs to the side that includes it; for areas, the end makes no difference.
-  const double gap = Family().is_discrete ? 0.5 : 0;
-  const auto a = static_cast<double>(points.front());
-  const auto b = static_cast<double>(points.back());
-  std::vector<PlotLayer> layers;
-  if (IsInterval()) {
-    layers.push_back({shape, PlotRole::kData, tr("P(a < X < b)"), Within(curve, a + gap, b - gap)});
-    layers.push_back({shape, PlotRole::kTail, tr("Outside"), Within(curve, -infinity, a)});
-    layers.push_back({shape, PlotRole::kTail, {}, Within(curve, b, infinity)});
-  } else {
-    const bool is_count = Family().is_discrete;
-    layers.push_back({shape, PlotRole::kTail, is_count ? tr("P(X ≤ k)") : tr("P(X ≤ x)"),
-                      Within(curve, -infinity, a)});
-    layers.push_back({shape, PlotRole::kData, is_count ? tr("P(X > k)") : tr("P(X > x)"),
-                      Within(curve, a + gap, infinity)});
-  }
-  if (!stems) layers.push_back({PlotShape::kLine, PlotRole::kModel, {}, curve});
-  plot_->SetAxisTitles(Family().is_discrete ? tr("k") : tr("x"),
-                       Family().is_discrete ? tr("Probability") : tr("Density"));
-  plot_->SetLayers(std::move(layers));
+  plot_->SetContent(DistributionPlot(distribution, {Family().is_discrete, points, quantile_at_}));
+}
+
+QVariantMap DistributionPage::State() const {
+  return {{QStringLiteral("family"), QString::fromUtf8(Family().name)},
+          {QStringLiteral("parameters"), parameters_->Texts()},
+          {QStringLiteral("question"), question_->currentIndex()},
+          {QStringLiteral("first"), NumberText(*first_)},
+          {QStringLiteral("second"), NumberText(*second_)},
+          {QStringLiteral("side"), side_->currentIndex()},
+          {QStringLiteral("probability"), NumberText(*probability_)}};
+}
+
+void DistributionPage::SetState(const QVariantMap& state) {
+  const std::string name = state.value(QStringLiteral("family")).toString().toStdString();
+  const apps::Family* const family = apps::FindFamily(name);
+  if (family == nullptr) return;
+  family_->setCurrentIndex(static_cast<int>(family - apps::Families().data()));
+  parameters_->SetTexts(state.value(QStringLiteral("parameters")).toStringList());
+  question_->setCurrentIndex(state.value(QStringLiteral("question")).toInt() == 1 ? 1 : 0);
+  side_->setCurrentIndex(state.value(QStringLiteral("side")).toInt() == 1 ? 1 : 0);
+  SetNumberText(*first_, state.value(QStringLiteral("first")).toString());
+  SetNumberText(*second_, state.value(QStringLiteral("second")).toString());
+  SetNumberText(*probability_, state.value(QStringLiteral("probability")).toString());
+  Update();
+}
+
+PageReport DistributionPage::Report() const {
+  const QList<QStringList> probability = {{side_->currentText(), ExactText(probability_->Value())}};
+  QList<QStringList> points = {{first_label_->text(), ExactText(first_->Value())}};
+  if (IsInterval()) points.append({second_label_->text(), ExactText(second_->Value())});
+  return {family_->currentText(),
+          {{tr("Parameters"), parameters_->Rows()},
+           {tr("Diagram"), {}, plot_},
+           {tr("Probabilities"), points + figures_->Rows()},
+           {tr("Quantile"), probability + quantile_->Rows()}}};
 }
 
 }  // namespace qorvex::gallery

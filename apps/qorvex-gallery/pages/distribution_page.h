@@ -3,6 +3,7 @@
 /// @file
 /// DistributionPage, probabilities, densities and quantiles of distributions.
 
+#include <optional>
 #include <vector>
 
 #include "apps/common/distributions.h"
@@ -34,6 +35,10 @@ class DistributionPage : public Page {
   explicit DistributionPage(QWidget* parent = nullptr);
   ~DistributionPage() override;
 
+  [[nodiscard]] QVariantMap State() const override;
+  void SetState(const QVariantMap& state) override;
+  [[nodiscard]] PageReport Report() const override;
+
  private:
   void ShowFamily();
   void Update();
@@ -45,6 +50,7 @@ class DistributionPage : public Page {
   [[nodiscard]] const apps::Family& Family() const;
   [[nodiscard]] bool IsInterval() const;
 
+  MessageBar* message_;
   QComboBox* family_;
   QLabel* summary_;
   ParameterForm* parameters_;
@@ -56,9 +62,10 @@ class DistributionPage : public Page {
   QComboBox* side_;
   TQorFloatEdit* probability_;
   FigureTable* quantile_;
+  // The last one that could be computed.
+  std::optional<Extended> quantile_at_;
   PlotView* plot_;
   FigureTable* figures_;
-  MessageBar* message_;
 };
 
 }  // namespace qorvex::gallery

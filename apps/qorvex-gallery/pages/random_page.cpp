@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/model/variate_theory.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
@@ -38,12 +39,13 @@ constexpr std::size_t kMostCopied = 1'000'000;
 
 RandomPage::RandomPage(QWidget* parent)
     : Page(parent),
+      message_(new MessageBar),
       variate_(new QComboBox),
       summary_(new QLabel),
-      parameters_(new ParameterForm),
+      parameters_(new ParameterForm(*message_)),
       size_(new QSpinBox),
       seed_(MakeNumberCell(1, tr("Seed"), this)),
-      message_(new MessageBar),
+      classes_(new QSpinBox),
       generate_(new QPushButton(tr("&Generate"))),
       cancel_(new QPushButton(tr("Cancel"))),
       progress_(new QProgressBar),
@@ -69,16 +71,20 @@ RandomPage::RandomPage(QWidget* parent)
       continue;
     }
     variates_.push_back(&variate);
-    variate_->addItem(Title(QString::fromUtf8(variate.name)));
+    variate_->addItem(DisplayName(variate.name), QLatin1String(variate.name));
   }
-  variate_->setCurrentIndex(variate_->findText(QStringLiteral("Gamma")));
+  variate_->setCurrentIndex(variate_->findData(QLatin1String("gamma")));
   summary_->setWordWrap(true);
   size_->setRange(2, kMostValues);
   size_->setGroupSeparatorShown(true);
   size_->setValue(10'000);
+  classes_->setObjectName(QStringLiteral("classes"));
+  classes_->setRange(0, 1000);
+  classes_->setSpecialValueText(tr("automatic"));
   progress_->setRange(0, 1000);
   progress_->setTextVisible(false);
   plot_->SetPlaceholder(tr("No sample yet"));
+  plot_->setAccessibleName(tr("Histogram"));
 
   auto* const panel = new SidePanel;
   QVBoxLayout* const what = panel->AddGroup(tr("Variate"));
@@ -100,6 +106,10 @@ RandomPage::RandomPage(QWidget* parent)
   buttons->addWidget(cancel_, 1);
   how->addLayout(buttons);
   how->addWidget(progress_);
+  QVBoxLayout* const shown = panel->AddGroup(tr("Histogram"));
+  auto* const shown_form = new QFormLayout;
+  shown_form->addRow(tr("C&lasses"), classes_);
+  shown->addLayout(shown_form);
   panel->Finish();
 
   auto* const buttons_of_values = new QVBoxLayout;
@@ -120,6 +130,7 @@ RandomPage::RandomPage(QWidget* parent)
   connect(variate_, &QComboBox::currentIndexChanged, this, &RandomPage::ShowVariate);
   connect(parameters_, &ParameterForm::Changed, this,
           [this] { message_->SetText(parameters_->WhatIsWrong()); });
+  message_->Watch(*seed_);
   connect(new_seed, &QPushButton::clicked, this, [this] {
     seed_->setValue(static_cast<Extended>(QRandomGenerator::system()->generate64() >> 32));
     Generate();
@@ -130,6 +141,7 @@ RandomPage::RandomPage(QWidget* parent)
     message_->SetText(tr("Cancelled"));
     ShowRunning();
   });
+  connect(classes_, &QSpinBox::valueChanged, this, &RandomPage::UpdateClasses);
   connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
   connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
   connect(&work_, &BackgroundWork::Progressed, progress_, &QProgressBar::setValue);
@@ -149,7 +161,7 @@ void RandomPage::showEvent(QShowEvent* event) {
 }
 
 void RandomPage::ShowVariate() {
-  summary_->setText(tr(Chosen().summary));
+  summary_->setText(Translated(Chosen().summary));
   parameters_->SetParameters(Chosen().parameters);
   message_->SetText({});
 }
@@ -158,7 +170,7 @@ QString RandomPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
   const QString wrong = parameters_->WhatIsWrong();
   if (!wrong.isEmpty()) return wrong;
   if (const char* const what = apps::WhatIsWrong(seed_->Value(), apps::NumberKind::kUint64))
-    return tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(what));
+    return tr("Seed: %1 %2").arg(ExactText(seed_->Value()), Translated(what));
   const auto inconsistency = Chosen().methods.front().inconsistency;
   if (inconsistency == nullptr) return {};
   apps::VariateArguments arguments;
@@ -179,7 +191,7 @@ void RandomPage::Generate() {
               [this, sample] {
                 sample_ = sample;
                 ShowSample();
-                ShowRunning();
+                EndWork();
               },
               [this](const QString& why) {
                 message_->SetText(parameters_->Labelled(why.toStdString()));
@@ -198,11 +210,16 @@ void RandomPage::ShowRunning() {
   progress_->setVisible(running);
 }
 
+void RandomPage::EndWork() {
+  ShowRunning();
+  UpdateClasses();
+}
+
 void RandomPage::ShowSample() {
   const SampleOrder& order = sample_->order;
   const VariateTheory theory = TheoryOf(*order.variate, order.parameters);
   title_->setText(tr("%1: %L2 values, seed %3")
-                      .arg(Title(QString::fromUtf8(order.variate->name)))
+                      .arg(DisplayName(order.variate->name))
                       .arg(order.size)
                       .arg(order.seed));
   moments_->SetRows(
@@ -223,8 +240,49 @@ void RandomPage::ShowSample() {
     } catch (const EMathError&) {
       // Some variates lie where the density cannot be computed; the sample is then shown alone.
     }
-  plot_->SetAxisTitles(tr("Value"), theory.is_count ? tr("Share") : tr("Density"));
+  const bool has_counts = theory.is_count && sample_->classes == 0;
+  plot_->SetAxisTitles(tr("Value"), has_counts ? tr("Share") : tr("Density"));
   plot_->SetLayers(std::move(layers));
+}
+
+// While there is work in progress, waits for EndWork.
+void RandomPage::UpdateClasses() {
+  const auto classes = static_cast<std::size_t>(classes_->value());
+  if (work_.IsRunning() || sample_ == nullptr || sample_->classes == classes) return;
+  const auto sample = std::make_shared<RandomSample>(*sample_);
+  work_.Start([sample, classes](const Proceed&) { *sample = WithClasses(*sample, classes); },
+              [this, sample] {
+                sample_ = sample;
+                ShowSample();
+                EndWork();
+              },
+              [this](const QString& why) { message_->SetText(why); });
+  ShowRunning();
+}
+
+QVariantMap RandomPage::State() const {
+  return {{QStringLiteral("variate"), QString::fromUtf8(Chosen().name)},
+          {QStringLiteral("parameters"), parameters_->Texts()},
+          {QStringLiteral("size"), size_->value()},
+          {QStringLiteral("seed"), NumberText(*seed_)},
+          {QStringLiteral("classes"), classes_->value()}};
+}
+
+void RandomPage::SetState(const QVariantMap& state) {
+  const std::string name = state.value(QStringLiteral("variate")).toString().toStdString();
+  const auto variate = std::ranges::find_if(
+      variates_, [&name](const apps::Variate* of) { return of->name == name; });
+  if (variate == variates_.end()) return;
+  variate_->setCurrentIndex(static_cast<int>(variate - variates_.begin()));
+  parameters_->SetTexts(state.value(QStringLiteral("parameters")).toStringList());
+  size_->setValue(state.value(QStringLiteral("size")).toInt());
+  SetNumberText(*seed_, state.value(QStringLiteral("seed")).toString());
+  classes_->setValue(state.value(QStringLiteral("classes")).toInt());
+}
+
+PageReport RandomPage::Report() const {
+  if (sample_ == nullptr) return {};
+  return {title_->text(), {{tr("Histogram"), {}, plot_}, {tr("Moments"), moments_->Rows()}}};
 }
 
 void RandomPage::Copy() {
@@ -248,7 +306,7 @@ void RandomPage::Save(const QString& path) {
   message_->SetText({});
   work_.Start([sample = sample_,
                path](const Proceed& proceed) { SaveValues(sample->values, path, proceed); },
-              [this] { ShowRunning(); },
+              [this] { EndWork(); },
               [this, path](const QString& why) {
                 message_->SetText(tr("%1: %2").arg(path, why));
                 ShowRunning();

@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/plot/layer_painter.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 
@@ -8,19 +9,16 @@ namespace qorvex::gallery {
 namespace {
 
 constexpr double kDotRadius = 3;
+constexpr double kLeastOutlinedWidth = 4;
 
 }  // namespace
 
 void LayerPainter::Draw(const PlotLayer& layer, const QRectF& area) {
   area_ = area;
   switch (layer.shape) {
-    case PlotShape::kPoints: {
-      constexpr std::size_t kSmallDotsAbove = 1000;
-      const double radius = layer.points.size() > kSmallDotsAbove ? kDotRadius / 2 : kDotRadius;
-      for (const QPointF& point : layer.points)
-        if (IsFinite(point)) DrawDot(Place(point), layer.role, radius);
+    case PlotShape::kPoints:
+      DrawPoints(layer);
       break;
-    }
     case PlotShape::kLine:
       painter_.setPen(LinePen(layer.role, palette_));
       for (const QPolygonF& run : Runs(layer)) painter_.drawPolyline(run);
@@ -37,7 +35,63 @@ void LayerPainter::Draw(const PlotLayer& layer, const QRectF& area) {
     case PlotShape::kBand:
       DrawBand(layer);
       break;
+    case PlotShape::kMarks:
+      DrawMarks(layer);
+      break;
+    case PlotShape::kBox:
+      DrawBox(layer);
+      break;
   }
+}
+
+// Of the points that share a place, one is drawn: a million points have no more places than there
+// are on the screen.
+void LayerPainter::DrawPoints(const PlotLayer& layer) {
+  constexpr std::size_t kSmallDotsAbove = 1000;
+  const double radius = layer.points.size() > kSmallDotsAbove ? kDotRadius / 2 : kDotRadius;
+  constexpr double places_per_pixel = 2;
+  const auto columns = static_cast<std::size_t>(places_per_pixel * area_.width()) + 1;
+  const auto rows = static_cast<std::size_t>(places_per_pixel * area_.height()) + 1;
+  std::vector<bool> taken(columns * rows);
+  for (const QPointF& point : layer.points) {
+    if (!IsFinite(point) || !extent_.x.Contains(point.x()) || !extent_.y.Contains(point.y()))
+      continue;
+    const QPointF at = Place(point);
+    const QPointF place = places_per_pixel * (at - area_.topLeft());
+    const auto index = static_cast<std::size_t>(std::max(place.y(), 0.0)) * columns +
+                       static_cast<std::size_t>(std::max(place.x(), 0.0));
+    if (taken[index]) continue;
+    taken[index] = true;
+    DrawDot(at, layer.role, radius);
+  }
+}
+
+void LayerPainter::DrawMarks(const PlotLayer& layer) {
+  painter_.setPen(LinePen(layer.role, palette_));
+  for (const QPointF& point : layer.points) {
+    const double x = Place(point).x();
+    painter_.drawLine(QPointF(x, area_.bottom()), QPointF(x, area_.top()));
+  }
+}
+
+void LayerPainter::DrawBox(const PlotLayer& layer) {
+  if (layer.points.size() != 5 || !std::ranges::all_of(layer.points, IsFinite)) return;
+  const auto at = [&](std::size_t i) { return Place(layer.points[i]); };
+  constexpr double most_half_height = 22;
+  const double slot = area_.height() / (extent_.y.high - extent_.y.low);
+  const QPointF half(0, std::min(most_half_height, 0.3 * slot));
+  const QColor color = RoleColor(layer.role, palette_);
+  painter_.setPen(QPen(color, 1.5));
+  painter_.drawLine(at(0), at(1));
+  painter_.drawLine(at(3), at(4));
+  for (const std::size_t end : {0U, 4U}) painter_.drawLine(at(end) - half / 2, at(end) + half / 2);
+  painter_.setBrush(FillColor(layer.role, palette_));
+  painter_.drawRect(QRectF(at(1) - half, at(3) + half));
+  painter_.setBrush(Qt::NoBrush);
+  QPen middle(palette_.color(QPalette::Text), 2.5);
+  middle.setCapStyle(Qt::FlatCap);
+  painter_.setPen(middle);
+  painter_.drawLine(at(2) - half, at(2) + half);
 }
 
 void LayerPainter::DrawStems(const PlotLayer& layer) {
@@ -71,9 +125,16 @@ void LayerPainter::DrawBand(const PlotLayer& layer) {
   painter_.setBrush(Qt::NoBrush);
 }
 
+// Narrow bars have no outlines, which would take up most of their width: they are one area.
 void LayerPainter::DrawBars(const PlotLayer& layer) {
-  painter_.setPen(QPen(palette_.color(QPalette::Base), 1));
   painter_.setBrush(FillColor(layer.role, palette_));
+  if (LeastWidth(layer) < kLeastOutlinedWidth) {
+    painter_.setPen(Qt::NoPen);
+    painter_.drawPolygon(Steps(layer));
+    painter_.setBrush(Qt::NoBrush);
+    return;
+  }
+  painter_.setPen(QPen(palette_.color(QPalette::Base), 1));
   for (std::size_t i = 1; i < layer.points.size(); ++i) {
     const double left = layer.points[i - 1].x();
     const QPointF& corner = layer.points[i];
@@ -81,6 +142,26 @@ void LayerPainter::DrawBars(const PlotLayer& layer) {
     painter_.drawRect(QRectF(Place({left, 0}), Place(corner)).normalized());
   }
   painter_.setBrush(Qt::NoBrush);
+}
+
+double LayerPainter::LeastWidth(const PlotLayer& bars) const {
+  double least = area_.width();
+  for (std::size_t i = 1; i < bars.points.size(); ++i)
+    least = std::min(least, Place(bars.points[i]).x() - Place(bars.points[i - 1]).x());
+  return least;
+}
+
+// The outline of all bars.
+QPolygonF LayerPainter::Steps(const PlotLayer& bars) const {
+  QPolygonF outline;
+  for (std::size_t i = 0; i < bars.points.size(); ++i) {
+    const double x = bars.points[i].x();
+    if (i == 0) outline.append(Place({x, 0}));
+    if (i > 0) outline.append(Place(bars.points[i]));
+    const double next = i + 1 < bars.points.size() ? bars.points[i + 1].y() : 0;
+    outline.append(Place({x, next}));
+  }
+  return outline;
 }
 
 void LayerPainter::DrawDot(const QPointF& at, PlotRole role, double radius) {
@@ -120,8 +201,15 @@ void LayerPainter::DrawSample(const PlotLayer& layer, const QRectF& box) {
       painter_.drawLine(QPointF(box.left(), box.center().y()),
                         QPointF(box.right(), box.center().y()));
       break;
+    case PlotShape::kMarks: {
+      painter_.setPen(LinePen(layer.role, palette_));
+      const double x = box.right() - box.height() / 2;
+      painter_.drawLine(QPointF(x, box.top()), QPointF(x, box.bottom()));
+      break;
+    }
     case PlotShape::kArea:
     case PlotShape::kBand:
+    case PlotShape::kBox:
     case PlotShape::kBars: {
       const double side = 0.7 * box.height();
       painter_.setPen(QPen(color, 1));

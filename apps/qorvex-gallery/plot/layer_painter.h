@@ -29,10 +29,15 @@ class LayerPainter {
   [[nodiscard]] QPointF Place(const QPointF& point) const { return extent_.Place(point, area_); }
   [[nodiscard]] std::vector<QPolygonF> Runs(const PlotLayer& layer) const;
   void DrawDot(const QPointF& at, PlotRole role, double radius);
+  void DrawPoints(const PlotLayer& layer);
+  void DrawMarks(const PlotLayer& layer);
+  void DrawBox(const PlotLayer& layer);
   void DrawStems(const PlotLayer& layer);
   void DrawArea(const PlotLayer& layer);
   void DrawBand(const PlotLayer& layer);
   void DrawBars(const PlotLayer& layer);
+  [[nodiscard]] double LeastWidth(const PlotLayer& bars) const;
+  [[nodiscard]] QPolygonF Steps(const PlotLayer& bars) const;
 
   QPainter& painter_;
   const QPalette& palette_;

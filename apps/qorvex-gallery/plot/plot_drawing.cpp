@@ -1,6 +1,5 @@
 #include "apps/qorvex-gallery/plot/plot_drawing.h"
 
-#include <QWidget>
 #include <algorithm>
 #include <cstddef>
 
@@ -12,23 +11,23 @@ constexpr int kTickLength = 4;
 
 }  // namespace
 
-PlotDrawing::PlotDrawing(QPainter& painter, const QWidget& widget,
-                         const std::vector<PlotLayer>& layers)
+PlotDrawing::PlotDrawing(QPainter& painter, const PlotLook& look, const PlotContent& content,
+                         const PlotExtent& extent)
     : painter_(painter),
-      palette_(widget.palette()),
-      metrics_(widget.fontMetrics()),
-      locale_(widget.locale()),
-      layers_(layers),
-      extent_(layers),
-      layer_painter_(painter_, palette_, extent_),
-      area_(widget.rect()) {}
+      look_(look),
+      metrics_(look.font),
+      content_(content),
+      extent_(extent),
+      layer_painter_(painter_, look_.palette, extent_) {}
 
-void PlotDrawing::Draw(const QString& x_title, const QString& y_title) {
+QRectF PlotDrawing::Draw(const QRectF& rect) {
+  painter_.setFont(look_.font);
+  area_ = rect;
   const int gap = metrics_.height() / 2;
   area_.adjust(gap, gap, -gap, -gap);
   if (const int height = DrawLegend(); height > 0) area_.setTop(area_.top() + height + gap);
-  if (!x_title.isEmpty()) area_.setBottom(area_.bottom() - metrics_.height() - gap);
-  if (!y_title.isEmpty()) area_.setLeft(area_.left() + metrics_.height() + gap);
+  if (!content_.x.title.isEmpty()) area_.setBottom(area_.bottom() - metrics_.height() - gap);
+  if (!content_.y.title.isEmpty()) area_.setLeft(area_.left() + metrics_.height() + gap);
   area_.setBottom(area_.bottom() - metrics_.height() - kTickLength - 2);
   // Half of the last label extends beyond the axis.
   const AxisTicks y_ticks = YTicks();
@@ -40,30 +39,47 @@ void PlotDrawing::Draw(const QString& x_title, const QString& y_title) {
   const AxisTicks x_ticks = XTicks();
   if (!x_ticks.labels.empty())
     area_.setRight(area_.right() - metrics_.horizontalAdvance(x_ticks.labels.back()) / 2);
-  if (area_.width() < 10 || area_.height() < 10) return;
+  if (area_.width() < 10 || area_.height() < 10) return {};
 
   DrawGrid(x_ticks, y_ticks);
   painter_.save();
   painter_.setClipRect(area_.adjusted(-4, -4, 4, 4));
-  for (const PlotLayer& layer : layers_) layer_painter_.Draw(layer, area_);
+  for (const PlotLayer& layer : content_.layers) layer_painter_.Draw(layer, area_);
   painter_.restore();
   DrawAxes(x_ticks, y_ticks);
-  DrawTitles(x_title, y_title);
+  DrawTitles(rect);
+  return area_;
 }
 
 QColor PlotDrawing::Faded(double share) const {
-  return Mixed(palette_.color(QPalette::Base), palette_.color(QPalette::Text), share);
+  return Mixed(look_.palette.color(QPalette::Base), look_.palette.color(QPalette::Text), share);
+}
+
+AxisTicks PlotDrawing::Ticks(const PlotAxis& axis, const AxisRange& range, int most) const {
+  if (axis.categories.empty()) return TicksBetween(range.low, range.high, most, look_.locale);
+  AxisTicks ticks;
+  const qsizetype count = axis.categories.size();
+  const qsizetype step = (count - 1) / std::max(most, 1) + 1;
+  const int room = 20 * metrics_.averageCharWidth();
+  for (qsizetype i = 0; i < count; i += step) {
+    if (!range.Contains(static_cast<double>(i))) continue;
+    ticks.values.push_back(static_cast<double>(i));
+    ticks.labels.append(metrics_.elidedText(axis.categories[i], Qt::ElideRight, room));
+  }
+  return ticks;
 }
 
 AxisTicks PlotDrawing::YTicks() const {
-  const int most = static_cast<int>(area_.height() / (2.2 * metrics_.height()));
-  return TicksBetween(extent_.y.low, extent_.y.high, std::clamp(most, 2, 8), locale_);
+  const bool has_categories = !content_.y.categories.empty();
+  const int most =
+      static_cast<int>(area_.height() / ((has_categories ? 1.2 : 2.2) * metrics_.height()));
+  return Ticks(content_.y, extent_.y, has_categories ? most : std::clamp(most, 2, 8));
 }
 
 // As many ticks as there is room for between their labels.
 AxisTicks PlotDrawing::XTicks() const {
   for (int most = 10;; --most) {
-    AxisTicks ticks = TicksBetween(extent_.x.low, extent_.x.high, most, locale_);
+    AxisTicks ticks = Ticks(content_.x, extent_.x, most);
     double width = 0;
     for (const QString& label : ticks.labels)
       width = std::max<double>(width, metrics_.horizontalAdvance(label));
@@ -81,7 +97,7 @@ int PlotDrawing::DrawLegend() {
   int entries = 0;
   double left = area_.left();
   double top = area_.top();
-  for (const PlotLayer& layer : layers_) {
+  for (const PlotLayer& layer : content_.layers) {
     if (layer.name.isEmpty()) continue;
     const int width = sample + space + metrics_.horizontalAdvance(layer.name);
     if (entries++ > 0 && left + width > area_.right()) {
@@ -89,7 +105,7 @@ int PlotDrawing::DrawLegend() {
       top += 1.3 * metrics_.height();
     }
     layer_painter_.DrawSample(layer, QRectF(left, top, sample, metrics_.height()));
-    painter_.setPen(palette_.color(QPalette::Text));
+    painter_.setPen(look_.palette.color(QPalette::Text));
     painter_.drawText(QPointF(left + sample + space, top + metrics_.ascent()), layer.name);
     left += width + 3 * space;
   }
@@ -136,20 +152,19 @@ void PlotDrawing::DrawAxes(const AxisTicks& x_ticks, const AxisTicks& y_ticks) {
   }
 }
 
-void PlotDrawing::DrawTitles(const QString& whole_x_title, const QString& whole_y_title) {
+void PlotDrawing::DrawTitles(const QRectF& rect) {
   const auto fitted = [this](const QString& title, double room) {
     return metrics_.elidedText(title, Qt::ElideMiddle, static_cast<int>(room));
   };
-  const QString x_title = fitted(whole_x_title, area_.width());
-  const QString y_title = fitted(whole_y_title, area_.height());
-  painter_.setPen(palette_.color(QPalette::Text));
-  const QRect window = painter_.window();
+  const QString x_title = fitted(content_.x.title, area_.width());
+  const QString y_title = fitted(content_.y.title, area_.height());
+  painter_.setPen(look_.palette.color(QPalette::Text));
   const int gap = metrics_.height() / 2;
-  const double x_baseline = window.bottom() - gap - metrics_.descent();
+  const double x_baseline = rect.bottom() - gap - metrics_.descent();
   painter_.drawText(
       QPointF(area_.center().x() - metrics_.horizontalAdvance(x_title) / 2.0, x_baseline), x_title);
   painter_.save();
-  painter_.translate(gap + metrics_.ascent(),
+  painter_.translate(rect.left() + gap + metrics_.ascent(),
                      area_.center().y() + metrics_.horizontalAdvance(y_title) / 2.0);
   painter_.rotate(-90);
   painter_.drawText(QPointF(0, 0), y_title);

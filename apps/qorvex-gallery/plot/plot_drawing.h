@@ -3,13 +3,13 @@
 /// @file
 /// PlotDrawing, which draws a diagram: legend, grid, layers, axes and titles.
 
+#include <QFont>
 #include <QFontMetrics>
 #include <QLocale>
 #include <QPainter>
 #include <QPalette>
 #include <QRectF>
 #include <QString>
-#include <vector>
 
 #include "apps/qorvex-gallery/plot/axis_ticks.h"
 #include "apps/qorvex-gallery/plot/layer_painter.h"
@@ -18,31 +18,39 @@
 
 namespace qorvex::gallery {
 
-/// One drawing of a diagram, as large as the widget and in its colours, font and locale.
+/// How diagrams look.
+struct PlotLook {
+  QPalette palette;
+  QFont font;
+  QLocale locale;
+};
+
+/// One drawing of the part of a diagram that the extent covers.
 class PlotDrawing {
  public:
-  PlotDrawing(QPainter& painter, const QWidget& widget, const std::vector<PlotLayer>& layers);
+  PlotDrawing(QPainter& painter, const PlotLook& look, const PlotContent& content,
+              const PlotExtent& extent);
 
-  /// Whether there is no point to draw.
-  [[nodiscard]] bool IsEmpty() const { return extent_.IsEmpty(); }
-  void Draw(const QString& x_title, const QString& y_title);
+  /// Draws into the rectangle and returns the area that the axes enclose, which is empty if there
+  /// is no room for it.
+  QRectF Draw(const QRectF& rect);
 
  private:
   [[nodiscard]] QColor Faded(double share) const;
   [[nodiscard]] QPointF Place(const QPointF& point) const { return extent_.Place(point, area_); }
+  [[nodiscard]] AxisTicks Ticks(const PlotAxis& axis, const AxisRange& range, int most) const;
   [[nodiscard]] AxisTicks YTicks() const;
   [[nodiscard]] AxisTicks XTicks() const;
   int DrawLegend();
   void DrawGrid(const AxisTicks& x_ticks, const AxisTicks& y_ticks);
   void DrawAxes(const AxisTicks& x_ticks, const AxisTicks& y_ticks);
-  void DrawTitles(const QString& whole_x_title, const QString& whole_y_title);
+  void DrawTitles(const QRectF& rect);
 
   QPainter& painter_;
-  QPalette palette_;
+  const PlotLook& look_;
   QFontMetrics metrics_;
-  QLocale locale_;
-  const std::vector<PlotLayer>& layers_;
-  PlotExtent extent_;
+  const PlotContent& content_;
+  const PlotExtent& extent_;
   LayerPainter layer_painter_;
   // What the axes enclose.
   QRectF area_;

@@ -3,7 +3,11 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
@@ -11,12 +15,13 @@ namespace qorvex::gallery {
 namespace {
 
 QString LabelOf(const apps::NumberParameter& parameter) {
-  return Title(QString::fromUtf8(parameter.name));
+  return Title(Translated(parameter.name));
 }
 
 }  // namespace
 
-ParameterForm::ParameterForm(QWidget* parent) : QWidget(parent) {
+ParameterForm::ParameterForm(MessageBar& message, QWidget* parent)
+    : QWidget(parent), message_(message) {
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
@@ -42,6 +47,7 @@ void ParameterForm::SetParameters(std::span<const apps::NumberParameter> paramet
     lines->addWidget(cell);
     layout->addWidget(holder);
     rows_.push_back({&parameter, holder, cell});
+    message_.Watch(*cell);
     connect(cell, &TQorFloatEdit::Changed, this, &ParameterForm::Changed);
   }
 }
@@ -52,13 +58,30 @@ std::vector<Extended> ParameterForm::Numbers() const {
   return numbers;
 }
 
+QStringList ParameterForm::Texts() const {
+  QStringList texts;
+  for (const Row& row : rows_) texts.append(NumberText(*row.cell));
+  return texts;
+}
+
+void ParameterForm::SetTexts(const QStringList& texts) {
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    SetNumberText(*rows_[i].cell, texts.value(static_cast<qsizetype>(i)));
+}
+
+QList<QStringList> ParameterForm::Rows() const {
+  QList<QStringList> rows;
+  for (const Row& row : rows_) rows.append({LabelOf(*row.parameter), ExactText(row.cell->Value())});
+  return rows;
+}
+
 QString ParameterForm::WhatIsWrong() const {
   QStringList messages;
   for (const Row& row : rows_) {
     const Extended number = row.cell->Value();
     if (const char* const wrong = apps::WhatIsWrong(number, row.parameter->kind)) {
-      messages +=
-          LabelOf(*row.parameter) + QStringLiteral(": ") + ExactText(number) + ' ' + tr(wrong);
+      messages += LabelOf(*row.parameter) + QStringLiteral(": ") + ExactText(number) + ' ' +
+                  Translated(wrong);
     }
   }
   return messages.join(QStringLiteral("; "));
@@ -78,6 +101,18 @@ TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QW
   cell->setValue(value);
   cell->setAccessibleName(accessible_name);
   return cell;
+}
+
+QString NumberText(const TQorFloatEdit& cell) {
+  return QString::fromStdString(Float2Str(cell.Value()));
+}
+
+void SetNumberText(TQorFloatEdit& cell, const QString& text) {
+  try {
+    cell.setValue(Str2Float(text.toStdString()));
+  } catch (const EConvertError&) {
+    // The text was not written by NumberText.
+  }
 }
 
 }  // namespace qorvex::gallery

@@ -3,7 +3,9 @@
 /// @file
 /// ParameterForm, cells for the parameters of a distribution or variate.
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <optional>
 #include <span>
@@ -20,12 +22,15 @@ class TQorFloatEdit;
 
 namespace qorvex::gallery {
 
+class MessageBar;
+
 /// One labelled cell for each parameter.
 class ParameterForm : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ParameterForm(QWidget* parent = nullptr);
+  /// The bar watches the cells; it must outlive the form.
+  explicit ParameterForm(MessageBar& message, QWidget* parent = nullptr);
   ~ParameterForm() override;
 
   /// Replaces the cells by cells for these parameters, which have to outlive the form.
@@ -33,6 +38,13 @@ class ParameterForm : public QWidget {
 
   /// The numbers in order.
   [[nodiscard]] std::vector<Extended> Numbers() const;
+  /// @{
+  /// The numbers as texts with all digits, for SetTexts, which ignores what is no number.
+  [[nodiscard]] QStringList Texts() const;
+  void SetTexts(const QStringList& texts);
+  /// @}
+  /// The labels with the numbers in the format of the locale, for a report.
+  [[nodiscard]] QList<QStringList> Rows() const;
   /// What is wrong with the numbers, each taken by itself; empty if nothing is.
   [[nodiscard]] QString WhatIsWrong() const;
   /// A message with the labels of the cells in place of command line options.
@@ -49,11 +61,19 @@ class ParameterForm : public QWidget {
     TQorFloatEdit* cell;
   };
 
+  MessageBar& message_;
   std::vector<Row> rows_;
 };
 
 /// A cell that shows all digits of its number.
 [[nodiscard]] TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name,
                                             QWidget* parent);
+
+/// @{
+/// The number of a cell as a text with all digits that is the same in every locale, and the cell
+/// with such a number, which is unchanged if the text is none.
+[[nodiscard]] QString NumberText(const TQorFloatEdit& cell);
+void SetNumberText(TQorFloatEdit& cell, const QString& text);
+/// @}
 
 }  // namespace qorvex::gallery
