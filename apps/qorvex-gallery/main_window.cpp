@@ -81,6 +81,7 @@ void MainWindow::MakeFileMenu(QMenu& menu) {
   menu.addMenu(recent_);
   connect(recent_, &RecentFiles::Chosen, this, &MainWindow::Open);
   connect(document, &SheetDocument::FileUsed, recent_, &RecentFiles::Add);
+  menu.addAction(tr("&Format of the File…"), document, &SheetDocument::ChooseFormat);
   menu.addSeparator();
   menu.addAction(tr("&Save Data"), QKeySequence::Save, document, &SheetDocument::Save);
   menu.addAction(tr("Save Data &As…"), QKeySequence::SaveAs, document, &SheetDocument::SaveAs);
