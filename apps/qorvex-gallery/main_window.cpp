@@ -47,7 +47,7 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new MatrixPage, "matrix", tr("Matrix"));
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
-  AddPage(new RegressionPage, "regression", tr("Regression"));
+  AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
   setCentralWidget(pages_);
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));

@@ -1,10 +1,7 @@
 #include "apps/qorvex-gallery/model/regression_report.h"
 
-#include <QCoreApplication>
-#include <QLocale>
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <utility>
 
 #include "apps/common/figure_format.h"
@@ -12,23 +9,12 @@
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
-#include "qorvex/base_controls/detail/number_text.h"
+#include "qorvex/stats/regression/linear_model.h"
+#include "qorvex/stats/regression/pair_fit.h"
 
 namespace qorvex::gallery {
 
 namespace {
-
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::RegressionPage", text);
-}
-
-QString LocalText(const std::string& number) {
-  return QorvexBaseControls::detail::LocalNumber(number, QLocale());
-}
-
-QString Dash() {
-  return QStringLiteral("—");
-}
 
 // With the decimals that show four digits of the standard error, unless there are too many zeros.
 QString RoundedText(Extended figure, Extended standard_error) {
@@ -45,184 +31,216 @@ QString ProbabilityText(Extended p, Extended log_p) {
   return std::isnan(p) ? Dash() : LocalText(format.Text(apps::Probability{p, log_p}));
 }
 
-bool AllFinite(const PairFit& fit) {
-  const auto finite = [](Extended figure) { return std::isfinite(figure); };
-  return std::ranges::all_of(fit.curve.Values(), finite) &&
-         finite(fit.curve.ResidualSumOfSquares()) && finite(fit.curve.TotalSumOfSquares());
+QString TextOrDash(Extended figure) {
+  return std::isnan(figure) ? Dash() : ExactText(figure);
 }
 
 QPointF Point(Extended x, Extended y) {
   return {static_cast<double>(x), static_cast<double>(y)};
 }
 
-// A line or parabola from three of its points, fast enough for a million pairs. Powers of x would
-// lose the digits that all x have in common.
-class Interpolation {
- public:
-  Interpolation(const LinearFit& fit, Extended least, Extended greatest)
-      : least_(least), width_(greatest - least), start_(fit.Predict({least}).value) {
-    const Extended end = fit.Predict({greatest}).value;
-    const Extended middle = fit.Predict({least + width_ / 2}).value;
-    bend_ = 2 * ((end - middle) - (middle - start_));
-    rise_ = (end - start_) - bend_;
-  }
+// "x³"
+QString Power(const QString& name, std::size_t exponent) {
+  static const QString digits = QStringLiteral("⁰¹²³⁴⁵⁶⁷⁸⁹");
+  QString text = name;
+  if (exponent == 1) return text;
+  for (const QChar digit : QString::number(exponent)) text += digits[digit.digitValue()];
+  return text;
+}
 
-  Extended operator()(Extended x) const {
-    const Extended place = (x - least_) / width_;
-    return start_ + place * (rise_ + place * bend_);
-  }
+bool AllFinite(const LinearFit& fit) {
+  const auto finite = [](Extended figure) { return std::isfinite(figure); };
+  return std::ranges::all_of(fit.Values(), finite) && finite(fit.ResidualSumOfSquares()) &&
+         finite(fit.TotalSumOfSquares());
+}
 
- private:
-  Extended least_, width_;
-  Extended start_, rise_, bend_;
-};
+Columns ViewsOf(const std::vector<RegressionData::Column>& columns) {
+  std::vector<ColumnView> views;
+  for (const RegressionData::Column& column : columns) views.emplace_back(column.values);
+  return views;
+}
 
 }  // namespace
 
-RegressionReport::RegressionReport(const TQorFloatVector& x, const TQorFloatVector& y)
-    : line_{Text("Line"), PlotRole::kModel}, parabola_{Text("Parabola"), PlotRole::kSecondModel} {
-  for (std::size_t i = 0; i < x.size(); ++i) {
-    if (std::isnan(x[i]) || std::isnan(y[i])) {
-      ++left_out_;
-    } else {
-      x_.Append(x[i]);
-      y_.Append(y[i]);
-    }
+RegressionReport::RegressionReport(const RegressionData& data)
+    : degree_(data.predictors.size() == 1 ? data.degree : 1) {
+  TakeCompleteRows(data);
+  if (predictors_.empty()) {
+    why_not_ = tr("A regression needs a predictor.");
+    return;
   }
-  if (!x_.empty()) {
-    const auto [least, greatest] = std::ranges::minmax(x_);
-    least_x_ = least;
-    greatest_x_ = greatest;
-  }
-  FitCurve(line_, 1);
-  FitCurve(parabola_, 2);
-}
-
-void RegressionReport::FitCurve(Curve& curve, std::size_t degree) {
-  QString why;
   try {
-    PairFit fit = FitPairs(x_, y_, degree);
-    if (AllFinite(fit)) {
-      curve.fit = std::move(fit);
-      return;
-    }
-    why = Text("The values are too large: the figures are beyond the range of extended precision.");
+    Fit();
   } catch (const EInvalidOp&) {
-    why = Text("The values must be finite.");
+    why_not_ = tr("The values must be finite.");
+  } catch (const CollinearityError& error) {
+    why_not_ = WhyCollinear(error.Predictor());
   } catch (const EMathError&) {
-    why = degree == 1 ? Text("A line needs two different x.")
-                      : Text("A parabola needs three different x.");
+    why_not_ = WhyTooFew();
   }
-  if (why_not_.isEmpty()) why_not_ = why;
 }
 
-Extended RegressionReport::PlaceOf(int step, int steps) const {
-  return least_x_ + (greatest_x_ - least_x_) * step / steps;
-}
-
-PlotLayer RegressionReport::Line(const Curve& curve) const {
-  PlotLayer layer{PlotShape::kLine, curve.role, curve.name, {}};
-  const Interpolation fitted(curve.fit->curve, least_x_, greatest_x_);
-  const int steps = curve.fit->curve.Size() == 2 ? 1 : 200;
-  for (int i = 0; i <= steps; ++i) {
-    const Extended at = PlaceOf(i, steps);
-    layer.points.push_back(Point(at, fitted(at)));
+void RegressionReport::TakeCompleteRows(const RegressionData& data) {
+  for (const RegressionData::Column& column : data.predictors)
+    predictors_.push_back({column.name, {}});
+  response_.name = data.response.name;
+  const TQorFloatVector& y = data.response.values;
+  for (std::size_t row = 0; row < y.size(); ++row) {
+    const auto is_missing = [row](const auto& column) { return std::isnan(column.values[row]); };
+    if (std::isnan(y[row]) || std::ranges::any_of(data.predictors, is_missing)) {
+      ++left_out_;
+      continue;
+    }
+    response_.values.Append(y[row]);
+    for (std::size_t i = 0; i < predictors_.size(); ++i)
+      predictors_[i].values.Append(data.predictors[i].values[row]);
   }
-  return layer;
 }
 
-PlotLayer RegressionReport::Band(const Curve& curve) const {
-  PlotLayer layer{PlotShape::kBand, curve.role, {}, {}};
-  constexpr int steps = 60;
-  std::vector<QPointF> upper;
-  for (int i = 0; i <= steps; ++i) {
-    const Extended at = PlaceOf(i, steps);
-    const Interval<Extended> mean = curve.fit->curve.Predict({at}).confidence;
-    layer.points.push_back(Point(at, mean.least));
-    upper.push_back(Point(at, mean.greatest));
+void RegressionReport::Fit() {
+  LinearModel model =
+      degree_ > 1 ? LinearModel::Polynomial(degree_) : LinearModel(predictors_.size());
+  const Columns views = ViewsOf(predictors_);
+  model.Add(views, response_.values);
+  const LinearFit fit = model.Fit();
+  if (!AllFinite(fit)) {
+    why_not_ =
+        tr("The values are too large: the figures are beyond the range of extended precision.");
+    return;
   }
-  layer.points.insert(layer.points.end(), upper.rbegin(), upper.rend());
-  return layer;
+  fit_ = fit;
+  fitted_ = fit.FittedValues(views);
 }
 
-std::vector<PlotLayer> RegressionReport::Curves() const {
+QString RegressionReport::WhyTooFew() const {
+  if (!HasOnePredictor()) {
+    return tr("%L1 coefficients need at least as many complete rows.")
+        .arg(static_cast<qulonglong>(predictors_.size() + 1));
+  }
+  const QString& x = predictors_[0].name;
+  if (degree_ == 1) return tr("A line needs two different values of %1.").arg(x);
+  if (degree_ == 2) return tr("A parabola needs three different values of %1.").arg(x);
+  return tr("This polynomial needs %1 different values of %2.").arg(degree_ + 1).arg(x);
+}
+
+QString RegressionReport::WhyCollinear(std::size_t predictor) const {
+  if (HasOnePredictor()) return WhyTooFew();
+  const QString& name = predictors_[predictor].name;
+  return predictor == 0
+             ? tr("%1 has the same value in all rows.").arg(name)
+             : tr("%1 depends linearly on the constant and the predictors before it.").arg(name);
+}
+
+QString RegressionReport::XTitle() const {
+  if (predictors_.empty()) return {};
+  return HasOnePredictor() ? predictors_[0].name : tr("Fitted: %1").arg(response_.name);
+}
+
+void RegressionReport::AddCurve(std::vector<PlotLayer>& layers) const {
+  constexpr int kSteps = 120;
+  const auto [least, greatest] = std::ranges::minmax(predictors_[0].values);
+  PlotLayer line{PlotShape::kLine, PlotRole::kModel, tr("Fit"), {}};
+  PlotLayer mean{PlotShape::kBand, PlotRole::kModel, {}, {}};
+  PlotLayer single = mean;
+  std::vector<QPointF> upper_mean, upper_single;
+  for (int i = 0; i <= kSteps; ++i) {
+    const Extended at = least + (greatest - least) * i / kSteps;
+    const Prediction predicted = fit_->Predict({at});
+    line.points.push_back(Point(at, predicted.value));
+    mean.points.push_back(Point(at, predicted.confidence.least));
+    upper_mean.push_back(Point(at, predicted.confidence.greatest));
+    single.points.push_back(Point(at, predicted.prediction.least));
+    upper_single.push_back(Point(at, predicted.prediction.greatest));
+  }
+  mean.points.insert(mean.points.end(), upper_mean.rbegin(), upper_mean.rend());
+  single.points.insert(single.points.end(), upper_single.rbegin(), upper_single.rend());
+  if (fit_->DegreesOfFreedom() > 0) {
+    layers.push_back(std::move(single));
+    layers.push_back(std::move(mean));
+  }
+  layers.push_back(std::move(line));
+}
+
+std::vector<PlotLayer> RegressionReport::Curve() const {
   std::vector<PlotLayer> layers;
-  for (const Curve* const curve : {&line_, &parabola_})
-    if (curve->fit && curve->fit->curve.DegreesOfFreedom() > 0) layers.push_back(Band(*curve));
-  for (const Curve* const curve : {&line_, &parabola_})
-    if (curve->fit) layers.push_back(Line(*curve));
-  PlotLayer pairs{PlotShape::kPoints, PlotRole::kData, Text("Pairs"), {}};
-  for (std::size_t i = 0; i < x_.size(); ++i) pairs.points.push_back(Point(x_[i], y_[i]));
-  layers.push_back(std::move(pairs));
+  if (!fit_ && !HasOnePredictor()) return layers;
+  const TQorFloatVector& x = HasOnePredictor() ? predictors_[0].values : fitted_;
+  if (fit_ && HasOnePredictor()) AddCurve(layers);
+  if (!HasOnePredictor()) {
+    const auto [least, greatest] = std::ranges::minmax(x);
+    layers.push_back({PlotShape::kLine,
+                      PlotRole::kModel,
+                      tr("Response equal to fit"),
+                      {Point(least, least), Point(greatest, greatest)}});
+  }
+  PlotLayer rows{PlotShape::kPoints, PlotRole::kData, tr("Data"), {}};
+  for (std::size_t i = 0; i < x.size(); ++i)
+    rows.points.push_back(Point(x[i], response_.values[i]));
+  layers.push_back(std::move(rows));
   return layers;
 }
 
 std::vector<PlotLayer> RegressionReport::Residuals() const {
-  std::vector<PlotLayer> layers;
-  for (const Curve* const curve : {&line_, &parabola_}) {
-    if (!curve->fit) continue;
-    if (layers.empty()) {
-      layers.push_back(
-          {PlotShape::kLine, PlotRole::kGuide, {}, {Point(least_x_, 0), Point(greatest_x_, 0)}});
-    }
-    PlotLayer layer{PlotShape::kPoints, curve->role, curve->name, {}};
-    const Interpolation fitted(curve->fit->curve, least_x_, greatest_x_);
-    for (std::size_t i = 0; i < x_.size(); ++i)
-      layer.points.push_back(Point(x_[i], y_[i] - fitted(x_[i])));
-    layers.push_back(std::move(layer));
+  if (!fit_) return {};
+  const TQorFloatVector& x = HasOnePredictor() ? predictors_[0].values : fitted_;
+  const auto [least, greatest] = std::ranges::minmax(x);
+  PlotLayer points{PlotShape::kPoints, PlotRole::kData, {}, {}};
+  for (std::size_t i = 0; i < x.size(); ++i)
+    points.points.push_back(Point(x[i], response_.values[i] - fitted_[i]));
+  return {{PlotShape::kLine, PlotRole::kGuide, {}, {Point(least, 0), Point(greatest, 0)}},
+          std::move(points)};
+}
+
+QStringList RegressionReport::Terms() const {
+  QStringList terms = {tr("Constant")};
+  for (const RegressionData::Column& column : predictors_) {
+    for (std::size_t power = 1; power <= degree_; ++power) terms += Power(column.name, power);
   }
-  return layers;
+  return terms;
 }
 
 QList<QStringList> RegressionReport::CoefficientRows() const {
-  QList<QStringList> rows = {{QString(), Text("Estimate"), Text("Standard error"),
-                              Text("Lower 95 %"), Text("Upper 95 %"), Text("p")}};
-  const QString names[] = {Text("constant"), Text("coefficient of x"), Text("coefficient of x²")};
-  const auto add = [&](const Curve& curve, std::size_t coefficients) {
-    for (std::size_t i = 0; i < coefficients; ++i) {
-      const QString label = QStringLiteral("%1, %2").arg(curve.name, names[i]);
-      if (!curve.fit) {
-        rows.append({label, Dash(), Dash(), Dash(), Dash(), Dash()});
-        continue;
-      }
-      const FittedCoefficient of = curve.fit->curve.Coefficient(i);
-      const Interval<Extended> interval = curve.fit->curve.ConfidenceInterval(i);
-      rows.append({label, ExactText(of.value), RoundedText(of.standard_error, of.standard_error),
-                   RoundedText(interval.least, of.standard_error),
-                   RoundedText(interval.greatest, of.standard_error),
-                   ProbabilityText(of.p, of.log_p)});
+  QList<QStringList> rows = {{tr("Term"), tr("Estimate"), tr("Standard error"), tr("Lower 95 %"),
+                              tr("Upper 95 %"), tr("p")}};
+  const QStringList terms = Terms();
+  for (qsizetype i = 0; i < terms.size(); ++i) {
+    if (!fit_) {
+      rows.append({terms[i], Dash(), Dash(), Dash(), Dash(), Dash()});
+      continue;
     }
-  };
-  add(line_, 2);
-  add(parabola_, 3);
+    const auto index = static_cast<std::size_t>(i);
+    const FittedCoefficient of = fit_->Coefficient(index);
+    const Interval<Extended> interval = fit_->ConfidenceInterval(index);
+    rows.append({terms[i], ExactText(of.value), RoundedText(of.standard_error, of.standard_error),
+                 RoundedText(interval.least, of.standard_error),
+                 RoundedText(interval.greatest, of.standard_error),
+                 ProbabilityText(of.p, of.log_p)});
+  }
   return rows;
 }
 
 QList<QStringList> RegressionReport::QualityRows() const {
-  const auto row = [this](const QString& label, auto text) {
-    return QStringList{label, line_.fit ? text(*line_.fit) : Dash(),
-                       parabola_.fit ? text(*parabola_.fit) : Dash()};
+  const auto exact = [this](Extended (LinearFit::*figure)() const) {
+    return fit_ ? TextOrDash((*fit_.*figure)()) : Dash();
   };
-  const auto exact = [&row](const QString& label, Extended (LinearFit::*figure)() const) {
-    return row(label, [figure](const PairFit& of) {
-      const Extended value = (of.curve.*figure)();
-      return std::isnan(value) ? Dash() : ExactText(value);
-    });
+  const auto probability = [this] {
+    if (!fit_) return Dash();
+    const AnovaTest test = fit_->Anova().regression;
+    return ProbabilityText(test.p, test.log_p);
   };
-  const Extended none = std::numeric_limits<Extended>::quiet_NaN();
-  const Extended correlation = line_.fit ? line_.fit->correlation : none;
-  return {
-      {QString(), line_.name, parabola_.name},
-      exact(Text("Sum of squared errors"), &LinearFit::ResidualSumOfSquares),
-      exact(Text("Residual standard deviation"), &LinearFit::ResidualStdDev),
-      exact(Text("Coefficient of determination"), &LinearFit::Determination),
-      exact(Text("Adjusted coefficient of determination"), &LinearFit::AdjustedDetermination),
-      row(Text("p of the whole fit"),
-          [](const PairFit& of) {
-            const AnovaTest test = of.curve.Anova().regression;
-            return ProbabilityText(test.p, test.log_p);
-          }),
-      {Text("Correlation of x and y"), std::isnan(correlation) ? Dash() : ExactText(correlation)}};
+  QList<QStringList> rows = {
+      {tr("Complete rows"), ExactText(static_cast<Extended>(response_.values.size()))},
+      {tr("Sum of squared errors"), exact(&LinearFit::ResidualSumOfSquares)},
+      {tr("Residual standard deviation"), exact(&LinearFit::ResidualStdDev)},
+      {tr("Coefficient of determination"), exact(&LinearFit::Determination)},
+      {tr("Adjusted coefficient of determination"), exact(&LinearFit::AdjustedDetermination)},
+      {tr("p of the whole fit"), probability()}};
+  if (HasOnePredictor()) {
+    rows.append({tr("Correlation of x and y"),
+                 fit_ ? TextOrDash(FitPairs(predictors_[0].values, response_.values).correlation)
+                      : Dash()});
+  }
+  return rows;
 }
 
 }  // namespace qorvex::gallery

@@ -1,8 +1,9 @@
 #pragma once
 
 /// @file
-/// What the page of regressions shows about pairs.
+/// What the page of regressions shows about columns of numbers.
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -12,50 +13,68 @@
 
 #include "apps/qorvex-gallery/plot/plot_layer.h"
 #include "qorvex/base/vector_types.h"
-#include "qorvex/stats/regression/pair_fit.h"
+#include "qorvex/stats/regression/linear_fit.h"
 
 namespace qorvex::gallery {
 
-/// The least-squares line and parabola through pairs, of which those with a NaN are left out.
-class RegressionReport {
- public:
-  RegressionReport(const TQorFloatVector& x, const TQorFloatVector& y);
+/// The columns of a regression, and the curve. All columns have the same length; NaN is a missing
+/// value.
+struct RegressionData {
+  struct Column {
+    QString name;
+    TQorFloatVector values;
+  };
 
-  /// The number of pairs that are left out.
+  std::vector<Column> predictors;
+  Column response;
+  /// Of the polynomial, from 1; for a single predictor only.
+  std::size_t degree = 1;
+};
+
+/// The least-squares fit through the rows that are complete. With one predictor, the diagram shows
+/// the curve over it; with several, the response over the fitted values.
+class RegressionReport {
+  Q_DECLARE_TR_FUNCTIONS(RegressionReport)
+
+ public:
+  explicit RegressionReport(const RegressionData& data);
+
+  /// The number of rows that are left out because a value is missing.
   [[nodiscard]] std::size_t LeftOut() const { return left_out_; }
-  /// Why there is no line, or else no parabola; empty if there are both.
+  /// Why there is no fit; empty if there is one.
   [[nodiscard]] const QString& WhyNot() const { return why_not_; }
 
-  /// The pairs, the curves, and the bands that contain the mean of y at each x with a probability
-  /// of 95 %.
-  [[nodiscard]] std::vector<PlotLayer> Curves() const;
-  /// What y exceeds the curves by.
+  /// The rows, the fitted curve, and the bands that contain the mean response, and a single
+  /// response, at each x with a probability of 95 %.
+  [[nodiscard]] std::vector<PlotLayer> Curve() const;
+  /// What the response exceeds the fitted values by.
   [[nodiscard]] std::vector<PlotLayer> Residuals() const;
+  /// @{
+  /// The titles of the axes: x and y of the curve; x of the residuals is that of the curve.
+  [[nodiscard]] QString XTitle() const;
+  [[nodiscard]] const QString& YTitle() const { return response_.name; }
+  /// @}
   /// A row for each coefficient: its name, the estimate, the standard error, the ends of its
   /// interval and its p.
   [[nodiscard]] QList<QStringList> CoefficientRows() const;
-  /// Rows of a label and the figures of line and parabola.
+  /// Rows of a label and a figure.
   [[nodiscard]] QList<QStringList> QualityRows() const;
 
  private:
-  struct Curve {
-    QString name;
-    PlotRole role;
-    std::optional<PairFit> fit = {};
-  };
+  void TakeCompleteRows(const RegressionData& data);
+  void Fit();
+  [[nodiscard]] QString WhyTooFew() const;
+  [[nodiscard]] QString WhyCollinear(std::size_t predictor) const;
+  [[nodiscard]] bool HasOnePredictor() const { return predictors_.size() == 1; }
+  [[nodiscard]] QStringList Terms() const;
+  void AddCurve(std::vector<PlotLayer>& layers) const;
 
-  void FitCurve(Curve& curve, std::size_t degree);
-  [[nodiscard]] PlotLayer Line(const Curve& curve) const;
-  [[nodiscard]] PlotLayer Band(const Curve& curve) const;
-  [[nodiscard]] Extended PlaceOf(int step, int steps) const;
-
-  TQorFloatVector x_;
-  TQorFloatVector y_;
+  std::vector<RegressionData::Column> predictors_;
+  RegressionData::Column response_;
+  std::size_t degree_;
   std::size_t left_out_ = 0;
-  Extended least_x_ = 0;
-  Extended greatest_x_ = 0;
-  Curve line_;
-  Curve parabola_;
+  std::optional<LinearFit> fit_;
+  TQorFloatVector fitted_;
   QString why_not_;
 };
 

@@ -8,11 +8,19 @@
 namespace qorvex::gallery {
 
 QString ExactText(Extended value) {
-  return QorvexBaseControls::detail::LocalNumber(Float2Str(value), QLocale());
+  return LocalText(Float2Str(value));
+}
+
+QString LocalText(const std::string& number) {
+  return QorvexBaseControls::detail::LocalNumber(number, QLocale());
+}
+
+QString Dash() {
+  return QStringLiteral("—");
 }
 
 QString ExactTextOrDash(const std::optional<Extended>& value) {
-  return value ? ExactText(*value) : QStringLiteral("—");
+  return value ? ExactText(*value) : Dash();
 }
 
 QString Title(const QString& text) {

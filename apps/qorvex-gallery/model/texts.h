@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <optional>
+#include <string>
 
 #include "qorvex/base/element_types.h"
 
@@ -13,7 +14,13 @@ namespace qorvex::gallery {
 /// A number with all its digits in the format of the locale, without group separators.
 [[nodiscard]] QString ExactText(Extended value);
 
-/// The same, or a dash without a value.
+/// A number that the library has written, in the format of the locale.
+[[nodiscard]] QString LocalText(const std::string& number);
+
+/// What stands for a figure that does not exist.
+[[nodiscard]] QString Dash();
+
+/// ExactText, or a dash without a value.
 [[nodiscard]] QString ExactTextOrDash(const std::optional<Extended>& value);
 
 /// The text with a capital first letter.

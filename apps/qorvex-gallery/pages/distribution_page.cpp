@@ -9,6 +9,7 @@
 #include <exception>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
@@ -21,9 +22,10 @@ namespace qorvex::gallery {
 
 DistributionPage::DistributionPage(QWidget* parent)
     : Page(parent),
+      message_(new MessageBar),
       family_(new QComboBox),
       summary_(new QLabel),
-      parameters_(new ParameterForm),
+      parameters_(new ParameterForm(*message_)),
       question_(new QComboBox),
       first_label_(new QLabel),
       first_(MakeNumberCell(1, tr("Point"), this)),
@@ -33,8 +35,7 @@ DistributionPage::DistributionPage(QWidget* parent)
       probability_(MakeNumberCell(0.975L, tr("Probability"), this)),
       quantile_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       plot_(new PlotView),
-      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
-      message_(new MessageBar) {
+      figures_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})) {
   setObjectName(QStringLiteral("distributionPage"));
   family_->setObjectName(QStringLiteral("family"));
   family_->setAccessibleName(tr("Family of distributions"));
@@ -49,8 +50,7 @@ DistributionPage::DistributionPage(QWidget* parent)
   plot_->setAccessibleName(tr("Density or probabilities"));
   figures_->setObjectName(QStringLiteral("figures"));
 
-  for (const apps::Family& family : apps::Families())
-    family_->addItem(Title(QString::fromUtf8(family.name)));
+  for (const apps::Family& family : apps::Families()) family_->addItem(DisplayName(family.name));
   question_->addItems({tr("Both sides of a point"), tr("Inside and outside an interval")});
   side_->addItems({tr("At most the quantile"), tr("More than the quantile")});
   summary_->setWordWrap(true);
@@ -91,8 +91,10 @@ DistributionPage::DistributionPage(QWidget* parent)
   connect(parameters_, &ParameterForm::Changed, this, &DistributionPage::Update);
   for (QComboBox* const box : {question_, side_})
     connect(box, &QComboBox::currentIndexChanged, this, &DistributionPage::Update);
-  for (TQorFloatEdit* const cell : {first_, second_, probability_})
+  for (TQorFloatEdit* const cell : {first_, second_, probability_}) {
+    message_->Watch(*cell);
     connect(cell, &TQorFloatEdit::Changed, this, &DistributionPage::Update);
+  }
   ShowFamily();
 }
 
@@ -107,7 +109,7 @@ bool DistributionPage::IsInterval() const {
 }
 
 void DistributionPage::ShowFamily() {
-  summary_->setText(tr(Family().summary));
+  summary_->setText(Translated(Family().summary));
   parameters_->SetParameters(Family().parameters);
   // Points that the diagram shows, whatever the family.
   const auto distribution = Family().make(parameters_->Numbers());
@@ -156,7 +158,8 @@ QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution
   for (std::size_t i = 0; i < points.size(); ++i) {
     if (const char* const wrong = apps::WhatIsWrong(points[i], kind)) {
       return tr("%1: %2 %3")
-          .arg((i == 0 ? first_label_ : second_label_)->text(), ExactText(points[i]), tr(wrong));
+          .arg((i == 0 ? first_label_ : second_label_)->text(), ExactText(points[i]),
+               Translated(wrong));
     }
   }
   std::sort(points.begin(), points.end());
@@ -195,7 +198,7 @@ QString DistributionPage::UpdatePoints(const apps::AnyDistribution& distribution
 QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distribution) {
   const Extended probability = probability_->Value();
   if (const char* const wrong = apps::WhatIsWrong(probability, apps::NumberKind::kProbability))
-    return tr("Probability: %1 %2").arg(ExactText(probability), tr(wrong));
+    return tr("Probability: %1 %2").arg(ExactText(probability), Translated(wrong));
   try {
     const Tail tail = side_->currentIndex() == 0 ? Tail::kLower : Tail::kUpper;
     quantile_at_ = distribution.Quantile(tail, probability);

@@ -50,6 +50,7 @@ class DistributionPage : public Page {
   [[nodiscard]] const apps::Family& Family() const;
   [[nodiscard]] bool IsInterval() const;
 
+  MessageBar* message_;
   QComboBox* family_;
   QLabel* summary_;
   ParameterForm* parameters_;
@@ -65,7 +66,6 @@ class DistributionPage : public Page {
   std::optional<Extended> quantile_at_;
   PlotView* plot_;
   FigureTable* figures_;
-  MessageBar* message_;
 };
 
 }  // namespace qorvex::gallery

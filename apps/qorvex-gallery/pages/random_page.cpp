@@ -15,6 +15,7 @@
 #include <algorithm>
 
 #include "apps/qorvex-gallery/model/distribution_curve.h"
+#include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/model/variate_theory.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
@@ -38,13 +39,13 @@ constexpr std::size_t kMostCopied = 1'000'000;
 
 RandomPage::RandomPage(QWidget* parent)
     : Page(parent),
+      message_(new MessageBar),
       variate_(new QComboBox),
       summary_(new QLabel),
-      parameters_(new ParameterForm),
+      parameters_(new ParameterForm(*message_)),
       size_(new QSpinBox),
       seed_(MakeNumberCell(1, tr("Seed"), this)),
       classes_(new QSpinBox),
-      message_(new MessageBar),
       generate_(new QPushButton(tr("&Generate"))),
       cancel_(new QPushButton(tr("Cancel"))),
       progress_(new QProgressBar),
@@ -70,9 +71,9 @@ RandomPage::RandomPage(QWidget* parent)
       continue;
     }
     variates_.push_back(&variate);
-    variate_->addItem(Title(QString::fromUtf8(variate.name)));
+    variate_->addItem(DisplayName(variate.name), QLatin1String(variate.name));
   }
-  variate_->setCurrentIndex(variate_->findText(QStringLiteral("Gamma")));
+  variate_->setCurrentIndex(variate_->findData(QLatin1String("gamma")));
   summary_->setWordWrap(true);
   size_->setRange(2, kMostValues);
   size_->setGroupSeparatorShown(true);
@@ -129,6 +130,7 @@ RandomPage::RandomPage(QWidget* parent)
   connect(variate_, &QComboBox::currentIndexChanged, this, &RandomPage::ShowVariate);
   connect(parameters_, &ParameterForm::Changed, this,
           [this] { message_->SetText(parameters_->WhatIsWrong()); });
+  message_->Watch(*seed_);
   connect(new_seed, &QPushButton::clicked, this, [this] {
     seed_->setValue(static_cast<Extended>(QRandomGenerator::system()->generate64() >> 32));
     Generate();
@@ -159,7 +161,7 @@ void RandomPage::showEvent(QShowEvent* event) {
 }
 
 void RandomPage::ShowVariate() {
-  summary_->setText(tr(Chosen().summary));
+  summary_->setText(Translated(Chosen().summary));
   parameters_->SetParameters(Chosen().parameters);
   message_->SetText({});
 }
@@ -168,7 +170,7 @@ QString RandomPage::WhatIsWrong(const std::vector<Extended>& parameters) const {
   const QString wrong = parameters_->WhatIsWrong();
   if (!wrong.isEmpty()) return wrong;
   if (const char* const what = apps::WhatIsWrong(seed_->Value(), apps::NumberKind::kUint64))
-    return tr("Seed: %1 %2").arg(ExactText(seed_->Value()), tr(what));
+    return tr("Seed: %1 %2").arg(ExactText(seed_->Value()), Translated(what));
   const auto inconsistency = Chosen().methods.front().inconsistency;
   if (inconsistency == nullptr) return {};
   apps::VariateArguments arguments;
@@ -217,7 +219,7 @@ void RandomPage::ShowSample() {
   const SampleOrder& order = sample_->order;
   const VariateTheory theory = TheoryOf(*order.variate, order.parameters);
   title_->setText(tr("%1: %L2 values, seed %3")
-                      .arg(Title(QString::fromUtf8(order.variate->name)))
+                      .arg(DisplayName(order.variate->name))
                       .arg(order.size)
                       .arg(order.seed));
   moments_->SetRows(

@@ -69,13 +69,13 @@ class RandomPage : public Page {
   std::vector<const apps::Variate*> variates_;
   std::shared_ptr<const RandomSample> sample_;
 
+  MessageBar* message_;
   QComboBox* variate_;
   QLabel* summary_;
   ParameterForm* parameters_;
   QSpinBox* size_;
   TQorFloatEdit* seed_;
   QSpinBox* classes_;
-  MessageBar* message_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;

@@ -43,6 +43,7 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
       if (columns_[c] == kLabel) {
         label = text;
       } else {
+        cell.setFocusPolicy(text.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
         cell.setAccessibleDescription(label);
       }
     }

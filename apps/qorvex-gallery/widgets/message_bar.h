@@ -8,11 +8,24 @@
 
 class QLineEdit;
 
+namespace qorvex {
+inline namespace QorvexBaseControls {
+class TQorCustomEdit;
+}
+inline namespace QorvexControls {
+class CellPanel;
+}
+}  // namespace qorvex
+
 namespace qorvex::gallery {
 
 /// One line of text that stays on its page until it is closed, replaced or cleared. The bar keeps
 /// its space while it is hidden, so nothing moves when it appears. A text that is too long for the
 /// bar can be scrolled and selected, and its tool tip shows more of it.
+///
+/// What was typed into a watched cell and is not a number is reported in front of the text when the
+/// cell is left, and stays until a number is typed there or the bar is closed. What took the focus
+/// from the cell may change the text, but does not clear that report.
 class MessageBar : public QFrame {
   Q_OBJECT
 
@@ -25,11 +38,23 @@ class MessageBar : public QFrame {
   void SetText(const QString& text);
   [[nodiscard]] QString Text() const;
 
+  /// @{
+  /// Reports texts that a cell or an editor refuses, and blocks that an editor cannot paste.
+  void Watch(const TQorCustomEdit& cell);
+  void Watch(const CellPanel& editor);
+  /// @}
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QLineEdit* text_;
+  void SetRefusal(const QString& refusal);
+  void Close();
+  void ShowTexts();
+
+  QLineEdit* shown_;
+  QString refusal_;
+  QString text_;
 };
 
 }  // namespace qorvex::gallery

@@ -25,12 +25,14 @@ struct PageReport {
   QList<Part> parts = {};
 };
 
-/// A page of the window. Its object name is the name of its picture and of its state.
+/// A page of the window. Its object name is the name of its picture and of its state. The tab key
+/// goes through it in the order of its layouts, also when widgets are added.
 class Page : public QWidget {
   Q_OBJECT
 
  public:
   using QWidget::QWidget;
+  ~Page() override;
 
   /// @{
   /// What the user has chosen and typed on the page, for the next start of the program.
@@ -39,6 +41,12 @@ class Page : public QWidget {
   /// @}
   /// What a report shows of the page; without parts if there is nothing to report.
   [[nodiscard]] virtual PageReport Report() const { return {}; }
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  void OrderStops();
 };
 
 }  // namespace qorvex::gallery

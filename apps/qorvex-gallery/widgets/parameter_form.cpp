@@ -3,7 +3,9 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/float_edit.h"
@@ -13,12 +15,13 @@ namespace qorvex::gallery {
 namespace {
 
 QString LabelOf(const apps::NumberParameter& parameter) {
-  return Title(QString::fromUtf8(parameter.name));
+  return Title(Translated(parameter.name));
 }
 
 }  // namespace
 
-ParameterForm::ParameterForm(QWidget* parent) : QWidget(parent) {
+ParameterForm::ParameterForm(MessageBar& message, QWidget* parent)
+    : QWidget(parent), message_(message) {
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->setSpacing(6);
@@ -44,6 +47,7 @@ void ParameterForm::SetParameters(std::span<const apps::NumberParameter> paramet
     lines->addWidget(cell);
     layout->addWidget(holder);
     rows_.push_back({&parameter, holder, cell});
+    message_.Watch(*cell);
     connect(cell, &TQorFloatEdit::Changed, this, &ParameterForm::Changed);
   }
 }
@@ -76,8 +80,8 @@ QString ParameterForm::WhatIsWrong() const {
   for (const Row& row : rows_) {
     const Extended number = row.cell->Value();
     if (const char* const wrong = apps::WhatIsWrong(number, row.parameter->kind)) {
-      messages +=
-          LabelOf(*row.parameter) + QStringLiteral(": ") + ExactText(number) + ' ' + tr(wrong);
+      messages += LabelOf(*row.parameter) + QStringLiteral(": ") + ExactText(number) + ' ' +
+                  Translated(wrong);
     }
   }
   return messages.join(QStringLiteral("; "));

@@ -22,12 +22,15 @@ class TQorFloatEdit;
 
 namespace qorvex::gallery {
 
+class MessageBar;
+
 /// One labelled cell for each parameter.
 class ParameterForm : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ParameterForm(QWidget* parent = nullptr);
+  /// The bar watches the cells; it must outlive the form.
+  explicit ParameterForm(MessageBar& message, QWidget* parent = nullptr);
   ~ParameterForm() override;
 
   /// Replaces the cells by cells for these parameters, which have to outlive the form.
@@ -58,6 +61,7 @@ class ParameterForm : public QWidget {
     TQorFloatEdit* cell;
   };
 
+  MessageBar& message_;
   std::vector<Row> rows_;
 };
 

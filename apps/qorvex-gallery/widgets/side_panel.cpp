@@ -15,6 +15,7 @@ SidePanel::SidePanel(QWidget* parent) : QScrollArea(parent) {
   setWidget(content);
   setWidgetResizable(true);
   setFrameShape(QFrame::NoFrame);
+  setFocusPolicy(Qt::NoFocus);  // it follows the focus of its widgets
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   // Wide enough for a number with all its digits in any font.
   setFixedWidth(38 * fontMetrics().horizontalAdvance('0'));

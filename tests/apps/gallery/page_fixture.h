@@ -9,8 +9,10 @@
 #include <QPushButton>
 #include <QStringList>
 #include <QtTest/QTest>
+#include <concepts>
 #include <gtest/gtest.h>
 
+#include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/controls/QorvexVectorEdit.h"
 
@@ -60,7 +62,17 @@ struct PageFixture : testing::Test {
   }
   void Type(const char* editor, const char* keys) { Type(Find<TQorVectorEdit>(editor), keys); }
 
-  Page page;
+  /// A page that takes the sheet, or one that does not.
+  static Page Make(Sheet& sheet) {
+    if constexpr (std::constructible_from<Page, Sheet&>) {
+      return Page(sheet);
+    } else {
+      return Page();
+    }
+  }
+
+  Sheet sheet;
+  Page page = Make(sheet);
 };
 
 }  // namespace qorvex::gallery

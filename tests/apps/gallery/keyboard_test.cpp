@@ -1,0 +1,154 @@
+// A run through all pages with the keyboard alone.
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QtTest/QTest>
+#include <map>
+#include <vector>
+
+#include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/background_work.h"
+#include "qorvex/controls/panel/cell_panel.h"
+#include "support/test.h"
+
+namespace qorvex::gallery {
+namespace {
+
+// The editor that a cell belongs to, or the widget itself.
+QWidget* StopOf(QWidget* widget) {
+  for (QWidget* w = widget; w != nullptr; w = w->parentWidget())
+    if (qobject_cast<CellPanel*>(w) != nullptr) return w;
+  return widget;
+}
+
+std::string NameOf(QWidget* widget) {
+  const QAccessibleInterface* const interface = QAccessible::queryAccessibleInterface(widget);
+  return interface == nullptr ? "" : interface->text(QAccessible::Name).toStdString();
+}
+
+std::string Described(QWidget* widget) {
+  return std::string(widget->metaObject()->className()) + " \"" + NameOf(widget) + "\" (" +
+         widget->objectName().toStdString() + ")";
+}
+
+QRect PlaceOf(const QWidget& widget) {
+  return {widget.mapTo(widget.window(), QPoint()), widget.size()};
+}
+
+// Whether the eye goes on from one place to the other: to the right or down.
+bool Follows(const QRect& now, const QRect& before) {
+  return now.left() >= before.right() || now.top() >= before.bottom() || before.contains(now) ||
+         now.contains(before);
+}
+
+struct Keyboard : testing::Test {
+  Keyboard() {
+    QLocale::setDefault(QLocale::c());
+    window.show();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  void Press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(window.windowHandle(), static_cast<Qt::Key>(key), modifiers);
+  }
+
+  void ShowPage(int page) {
+    window.Pages()->setCurrentIndex(page);
+    const QList<BackgroundWork*> works = window.findChildren<BackgroundWork*>();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] { return std::ranges::none_of(works, &BackgroundWork::IsRunning); }, 60'000));
+    QApplication::processEvents();
+    window.Pages()->tabBar()->setFocus();
+  }
+
+  // The stops of the page from its tab on; the last one is the tab again unless there is a trap.
+  std::vector<QWidget*> Stops() {
+    constexpr int kMostStops = 500;
+    std::vector<QWidget*> stops = {QApplication::focusWidget()};
+    for (int i = 0; i < kMostStops; ++i) {
+      // In an editor, the tab key alone goes to the next cell.
+      const bool is_editor = qobject_cast<CellPanel*>(stops.back()) != nullptr;
+      Press(Qt::Key_Tab, is_editor ? Qt::ControlModifier : Qt::NoModifier);
+      stops.push_back(StopOf(QApplication::focusWidget()));
+      if (stops.back() == stops.front() || stops.back() == stops[stops.size() - 2]) break;
+    }
+    return stops;
+  }
+
+  // Everything in the window that a mnemonic leads to.
+  std::map<QKeySequence, std::vector<std::string>> Mnemonics() {
+    std::map<QKeySequence, std::vector<std::string>> found;
+    const auto add = [&](const QString& text) {
+      const QKeySequence key = QKeySequence::mnemonic(text);
+      if (!key.isEmpty()) found[key].push_back(text.toStdString());
+    };
+    for (const QAction* const menu : window.menuBar()->actions()) add(menu->text());
+    for (int i = 0; i < window.Pages()->count(); ++i) add(window.Pages()->tabText(i));
+    for (const auto* const button : window.findChildren<QAbstractButton*>())
+      if (button->isVisible()) add(button->text());
+    for (const auto* const label : window.findChildren<QLabel*>())
+      if (label->isVisible() && label->buddy() != nullptr) add(label->text());
+    return found;
+  }
+
+  MainWindow window;
+};
+
+TEST_F(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
+  for (int page = 0; page < window.Pages()->count(); ++page) {
+    ShowPage(page);
+    const std::string name = window.Pages()->tabText(page).toStdString();
+    const std::vector<QWidget*> stops = Stops();
+    EXPECT_EQ(stops.back(), stops.front()) << name << ": a trap at " << Described(stops.back());
+    EXPECT_GE(stops.size(), 4U) << name;
+    for (std::size_t i = 1; i + 1 < stops.size(); ++i) {
+      EXPECT_NE(NameOf(stops[i]), "") << name << ": " << Described(stops[i]);
+      EXPECT_TRUE(i == 1 || Follows(PlaceOf(*stops[i]), PlaceOf(*stops[i - 1])))
+          << name << ": from " << Described(stops[i - 1]) << " to " << Described(stops[i]);
+    }
+    // Back by the same way: from the tab to the last stop.
+    Press(Qt::Key_Backtab, Qt::ShiftModifier);
+    EXPECT_EQ(StopOf(QApplication::focusWidget()), stops[stops.size() - 2]) << name;
+  }
+}
+
+TEST_F(Keyboard, HasNoMnemonicTwice) {
+  for (int page = 0; page < window.Pages()->count(); ++page) {
+    ShowPage(page);
+    for (const auto& [key, texts] : Mnemonics()) {
+      EXPECT_EQ(texts.size(), 1U) << window.Pages()->tabText(page).toStdString() << ": "
+                                  << testing::PrintToString(texts);
+    }
+  }
+  for (QAction* const menu : window.menuBar()->actions()) {
+    std::map<QKeySequence, std::string> found;
+    for (const QAction* const action : menu->menu()->actions()) {
+      const QKeySequence key = QKeySequence::mnemonic(action->text());
+      if (action->isSeparator()) continue;
+      EXPECT_FALSE(key.isEmpty()) << action->text().toStdString();
+      EXPECT_TRUE(found.emplace(key, action->text().toStdString()).second)
+          << found[key] << " and " << action->text().toStdString();
+    }
+  }
+}
+
+// A screen reader says the name of the table with the element.
+TEST_F(Keyboard, TellsTheEditorsOfAPageApart) {
+  for (int page = 0; page < window.Pages()->count(); ++page) {
+    ShowPage(page);
+    std::map<std::string, QWidget*> editors;
+    for (CellPanel* const editor : window.Pages()->currentWidget()->findChildren<CellPanel*>()) {
+      if (!editor->isVisible()) continue;
+      EXPECT_TRUE(editors.emplace(NameOf(editor), editor).second)
+          << window.Pages()->tabText(page).toStdString() << ": " << Described(editor);
+    }
+  }
+}
+
+}  // namespace
+}  // namespace qorvex::gallery
