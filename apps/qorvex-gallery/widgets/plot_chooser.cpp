@@ -20,6 +20,7 @@ namespace {
 
 // More boxes would be thinner than their labels.
 constexpr qsizetype kMostBoxes = 40;
+constexpr int kBoxLength = 18;
 
 }  // namespace
 
@@ -34,8 +35,12 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
       plot_(new PlotView) {
   kind_->setObjectName("plotKind");
   kind_->addItems({tr("Histogram"), tr("Box plot"), tr("Normal quantiles"), tr("Values in order"),
-                   tr("Autocorrelation"), tr("Against another column"),
-                   tr("Residuals of the line through another column")});
+                   tr("Autocorrelation"), tr("Against another column"), tr("Residuals of a line")});
+  // Long names do not widen the page.
+  for (QComboBox* const box : {kind_, static_cast<QComboBox*>(other_)}) {
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kBoxLength);
+  }
   classes_->setObjectName("classes");
   classes_->setRange(0, 1000);
   classes_->setSpecialValueText(tr("automatic"));
