@@ -26,17 +26,18 @@ void AppendCell(std::string& line, std::string_view cell, bool quotes_empty) {
 }  // namespace
 
 SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std::size_t bytes) {
-  apps::RowReader rows(std::move(input), wanted);
-  apps::RequireFirstRow(rows);
-  const std::size_t width = rows.Cells().size();
-  const std::size_t first_line = rows.Line();
-  const apps::TableFormat& format = rows.Format();
+  apps::RowReader reader(std::move(input), wanted);
+  apps::RequireFirstRow(reader);
+  const std::size_t width = reader.Cells().size();
+  const std::size_t first_line = reader.Line();
+  const bool has_names = *reader.Format().header;
   std::vector<std::string> names(width);
-  if (*format.header) names.assign(rows.Cells().begin(), rows.Cells().end());
-  SheetData sheet(format, names);
+  if (has_names) names.assign(reader.Cells().begin(), reader.Cells().end());
+  SheetData sheet(reader.Format(), names);
   sheet.Reserve(bytes);
-  if (!*format.header) sheet.AppendRow(rows.Cells());
+  if (!has_names) sheet.AppendRow(reader.Cells());
   const std::vector<std::string_view> blank(width);
+  apps::RowScanner& rows = reader.Scanner();
   while (rows.Next()) {
     apps::RequireWidth(rows, width, first_line);
     for (std::size_t i = sheet.Rows() == 0 ? 0 : rows.BlankLines(); i > 0; --i)
@@ -44,6 +45,8 @@ SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std:
     sheet.AppendRow(rows.Cells());
   }
   sheet.ShrinkToFit();
+  // The encoding may be known only now.
+  sheet.SetFormat(reader.Format());
   return sheet;
 }
 
