@@ -16,6 +16,7 @@ packages=(
   g++ cmake ninja-build
   qt6-base-dev       # the components, and threads for the desktop program
   libcli11-dev       # the command line
+  rapidjson-dev      # its JSON documents
   fonts-dejavu-core  # the font of pictures and widget tests
 )
 parts=(-D QORVEX_BENCHMARKS=ON -D QORVEX_DESIGNER=ON -D QORVEX_EXAMPLES=ON -D QORVEX_TESTS=ON

@@ -55,6 +55,8 @@ class ColumnNumbers {
   [[nodiscard]] bool AreDecimal() const noexcept { return are_decimal_; }
   /// The integers; empty unless AreDecimal().
   [[nodiscard]] const TQorInt64Vector& Integers() const noexcept { return integers_; }
+  /// The largest absolute value among the integers.
+  [[nodiscard]] std::uint64_t LargestInteger() const noexcept { return largest_; }
   /// 0 for values.
   [[nodiscard]] int Decimals() const noexcept { return decimals_; }
   /// Calls the function with the integers or else with the values.

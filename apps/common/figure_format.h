@@ -48,9 +48,12 @@ struct FigureFormat {
 /// numbers.
 [[nodiscard]] FigureFormat FormatFor(int significant_digits);
 
-/// The significant digits of the numbers of a column, from the first of the largest to the last
-/// decimal; of numbers that are no decimals with a common unit, those of the smallest and the
-/// largest. 0 without numbers.
+/// @{
+/// The significant digits of the shortest text of a figure, or of the numbers of a column: from the
+/// first of the largest to the last decimal; of numbers without a common unit, those of the
+/// smallest and of the largest. 0 without numbers.
+[[nodiscard]] int SignificantDigits(Extended figure);
 [[nodiscard]] int SignificantDigits(const ColumnNumbers& numbers);
+/// @}
 
 }  // namespace qorvex::apps

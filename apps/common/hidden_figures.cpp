@@ -23,7 +23,7 @@ std::string HiddenFigures::Remark(int decimals, int most_decimals) const {
       enough_decimals <= most_decimals ? "--decimals " + Int2EStr(enough_decimals) + " or " : "";
   return Cardinal(count, "figure") + (count == 1 ? " is" : " are") + " too small for " +
          Cardinal(static_cast<std::size_t>(decimals), "decimal") + "; " + enough +
-         "--json shows all";
+         "--digits 4 shows all";
 }
 
 void UnderflowedFigures::Check(Extended figure, Extended witness) {
@@ -66,22 +66,6 @@ Extended MeanNoise(const DescriptiveResults& results, std::size_t n) {
   constexpr Extended epsilon = std::numeric_limits<Extended>::epsilon();
   const auto count = static_cast<Extended>(n);
   return count * epsilon * std::sqrt(results.sum_sq / count);
-}
-
-HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n, int decimals) {
-  const Extended noise = MeanNoise(results, n);
-  const auto unless_noise = [](Extended figure, Extended negligible) {
-    return std::fabs(figure) > negligible ? figure : 0;
-  };
-  const Extended figures[] = {
-      unless_noise(results.sum, static_cast<Extended>(n) * noise),
-      unless_noise(results.mean, noise), unless_noise(results.std_dev, noise),
-      unless_noise(results.variance, noise * noise),
-      // These are not computed from sums in which terms could cancel.
-      results.sum_sq, results.median, results.mode_exists ? results.mode : 0, results.minimum,
-      results.maximum, results.maximum - results.minimum, results.quartile_1st,
-      results.quartile_3rd, results.inter_quartile_range};
-  return HiddenAmong(figures, decimals);
 }
 
 }  // namespace qorvex::apps

@@ -18,7 +18,7 @@ struct HiddenFigures {
   /// The decimals that show four digits of the smallest of these, or 0.
   int enough_decimals = 0;
 
-  /// "2 figures are too small for 4 decimals; --decimals 9 or --json shows all".
+  /// "2 figures are too small for 4 decimals; --decimals 9 or --digits 4 shows all".
   [[nodiscard]] std::string Remark(int decimals, int most_decimals) const;
 };
 
@@ -45,12 +45,5 @@ struct UnderflowedFigures {
 /// The error that rounding in the ordered sum of n values can cause in their mean and in deviations
 /// from it.
 [[nodiscard]] Extended MeanNoise(const DescriptiveResults& results, std::size_t n);
-
-/// The figures of the classic routines for a sample of n values that a report with that many
-/// decimals hides. Skewness and kurtosis are not checked, because they do not depend on the unit of
-/// the values. A sum, mean, variance or standard deviation is ignored if rounding errors explain
-/// that it is not 0.
-[[nodiscard]] HiddenFigures HiddenBy(const DescriptiveResults& results, std::size_t n,
-                                     int decimals);
 
 }  // namespace qorvex::apps

@@ -7,6 +7,7 @@
 
 #include "apps/common/cells.h"
 #include "apps/common/column_differences.h"
+#include "apps/common/figure_format.h"
 #include "apps/common/input_error.h"
 #include "apps/common/sample_figures.h"
 #include "qorvex/base/text.h"
@@ -37,6 +38,7 @@ std::string NumberSample::Title() const {
 TestSample WithMoments(const NumberSample& sample) {
   const ExactSample<2> sums = ExactSumsOf<2>(sample.numbers);
   TestSample origin = sample.origin;
+  origin.significant_digits = SignificantDigits(sample.numbers);
   origin.figures = {CountOf(sample), {"mean", ReportText(rsDSMean), sums.Mean()}};
   if (sums.Count() > 1)
     origin.figures.push_back({"standard_deviation", ReportText(rsDSStdDev), sums.SampleStdDev()});
@@ -48,6 +50,7 @@ TestSample WithMedian(const NumberSample& sample) {
   sorted.Sort();
   const Extended median = sorted.ValueOf(OrderFiguresOf(sorted).median);
   TestSample origin = sample.origin;
+  origin.significant_digits = SignificantDigits(sample.numbers);
   origin.figures = {CountOf(sample), {"median", ReportText(rsDSMedian), median}};
   return origin;
 }

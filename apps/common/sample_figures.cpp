@@ -119,7 +119,16 @@ OrderFigures OrderFiguresOf(const ColumnNumbers& sorted) {
   });
 }
 
-SampleFigures ExactFigures(const ExactSample<4>& sums, const OrderFigures& order,
+OrderFigures ExtremesOf(const ColumnNumbers& numbers) {
+  return numbers.Visit([](const auto& vector) {
+    const auto [minimum, maximum] = std::ranges::minmax_element(vector);
+    return OrderFigures{.minimum = static_cast<Extended>(*minimum),
+                        .maximum = static_cast<Extended>(*maximum)};
+  });
+}
+
+template <int kPowerSums>
+SampleFigures ExactFigures(const ExactSample<kPowerSums>& sums, const OrderFigures& order,
                            const ColumnNumbers& numbers, bool population) {
   SampleFigures figures{.count = sums.Count(), .has_spread = order.minimum != order.maximum};
   DescriptiveResults& r = figures.results;
@@ -133,10 +142,12 @@ SampleFigures ExactFigures(const ExactSample<4>& sums, const OrderFigures& order
     r.variance = sums.SampleVariance();
     r.std_dev = sums.SampleStdDev();
   }
-  if (figures.has_spread && figures.count > 2)
-    r.skew = population ? sums.PopulationSkewness() : sums.SampleSkewness();
-  if (figures.has_spread && figures.count > 3)
-    r.kurtosis = population ? sums.PopulationKurtosis() : sums.SampleKurtosis();
+  if constexpr (kPowerSums == 4) {
+    if (figures.has_spread && figures.count > 2)
+      r.skew = population ? sums.PopulationSkewness() : sums.SampleSkewness();
+    if (figures.has_spread && figures.count > 3)
+      r.kurtosis = population ? sums.PopulationKurtosis() : sums.SampleKurtosis();
+  }
 
   r.minimum = numbers.ValueOf(order.minimum);
   r.maximum = numbers.ValueOf(order.maximum);
@@ -149,6 +160,11 @@ SampleFigures ExactFigures(const ExactSample<4>& sums, const OrderFigures& order
   r.inter_quartile_range = numbers.ValueOf(order.third_quartile - order.first_quartile);
   return figures;
 }
+
+template SampleFigures ExactFigures(const ExactSample<2>&, const OrderFigures&,
+                                    const ColumnNumbers&, bool);
+template SampleFigures ExactFigures(const ExactSample<4>&, const OrderFigures&,
+                                    const ColumnNumbers&, bool);
 
 SampleFigures ClassicFigures(TQorFloatVector values, bool population) {
   DescriptiveStats statistics;

@@ -57,9 +57,15 @@ template <int kPowerSums>
 /// Those of numbers in ascending order, of which there is at least one.
 [[nodiscard]] OrderFigures OrderFiguresOf(const ColumnNumbers& sorted);
 
-/// All figures. The numbers tell the unit of the column.
-[[nodiscard]] SampleFigures ExactFigures(const ExactSample<4>& sums, const OrderFigures& order,
-                                         const ColumnNumbers& numbers, bool population);
+/// The minimum and the maximum only, of numbers in any order, of which there is at least one.
+[[nodiscard]] OrderFigures ExtremesOf(const ColumnNumbers& numbers);
+
+/// All figures; skewness and kurtosis need four sums of powers, and are 0 without. The numbers tell
+/// the unit of the column.
+template <int kPowerSums>
+[[nodiscard]] SampleFigures ExactFigures(const ExactSample<kPowerSums>& sums,
+                                         const OrderFigures& order, const ColumnNumbers& numbers,
+                                         bool population);
 
 /// The figures of DescriptiveStats. If the unit of the values is so small that it takes their
 /// standard deviation for zero, skewness and kurtosis are those of the values times a power of two.

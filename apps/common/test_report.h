@@ -3,6 +3,7 @@
 /// @file
 /// TestReport, what both programs show of a test of hypotheses.
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -38,6 +39,10 @@ struct TestSample {
   std::string name = {};
   /// The label of the group; empty if it is the whole column.
   std::string group = {};
+  /// The missing values that were skipped.
+  std::size_t missing = 0;
+  /// Of the numbers.
+  int significant_digits = 0;
   std::vector<TestFigure> figures = {};
 };
 

@@ -2,12 +2,17 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QStyleFactory>
 
 #include "apps/qorvex-gallery/appearance.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/screenshots.h"
+#include "apps/qorvex-gallery/session.h"
+#include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "qorvex/base/version.h"
 #include "qorvex/base_controls/translation.h"
 
@@ -58,13 +63,17 @@ int main(int argc, char** argv) {
   }
   using qorvex::gallery::Appearance;
   qorvex::gallery::SetAppearance(Appearance::kSystem);
-  if (parser.isSet(dark)) {
-    qorvex::gallery::SetAppearance(Appearance::kDark);
-  } else if (takes_pictures) {
-    qorvex::gallery::SetAppearance(Appearance::kLight);
-  }
+  if (takes_pictures) qorvex::gallery::SetAppearance(Appearance::kLight);
 
   qorvex::gallery::MainWindow window;
+  const qorvex::gallery::Session session(
+      QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+  if (!takes_pictures) {
+    session.Restore(window);
+    window.KeepSession = [&] { return session.Save(window); };
+  }
+  if (parser.isSet(dark)) window.ChooseAppearance(Appearance::kDark);
+  if (takes_pictures) window.Data().Document().OpenExample();
   if (!parser.positionalArguments().isEmpty()) window.Open(parser.positionalArguments().front());
   if (takes_pictures) {
     return qorvex::gallery::WriteScreenshots(window, parser.value(screenshot)) ? 0 : 1;

@@ -10,6 +10,12 @@ namespace qorvex::apps {
 /// `describe`: the descriptive statistics of columns of numbers.
 void AddDescribe(CLI::App& program);
 
+/// `correlate`: the correlations of the columns of a table.
+void AddCorrelate(CLI::App& program);
+
+/// `grouped`: tables of classes of equal width, and their figures.
+void AddGrouped(CLI::App& program);
+
 /// `compare`: two columns side by side.
 void AddCompare(CLI::App& program);
 
@@ -30,5 +36,8 @@ void AddRandom(CLI::App& program);
 
 /// `selftest`: whether this machine computes the figures of the release.
 void AddSelfTest(CLI::App& program);
+
+/// `help`: the --help of a command.
+void AddHelp(CLI::App& program);
 
 }  // namespace qorvex::apps

@@ -23,23 +23,10 @@ void AddFile(CLI::App& command, std::string& file, const std::string& name,
 /// Adds --delimiter; the variable stays empty if it is not given.
 void AddDelimiter(CLI::App& command, std::optional<char>& delimiter);
 
-/// The largest argument of --decimals.
-inline constexpr int kMostDecimals = 255;
-
-/// Adds --decimals, 0 to kMostDecimals; the variable stays empty if it is not given.
-void AddDecimals(CLI::App& command, std::optional<int>& decimals, const std::string& description);
-
 /// The largest argument of --threads.
 inline constexpr unsigned kMostThreads = 256;
 
 /// Adds --threads, 1 to kMostThreads.
 CLI::Option* AddThreads(CLI::App& command, unsigned& threads, const std::string& description);
-
-/// Adds --json.
-void AddJson(CLI::App& command, bool& json);
-
-/// Makes an app require exactly one of its subcommands. The error message for a missing one starts
-/// with the given name.
-void RequireOneCommand(CLI::App& app, const std::string& name);
 
 }  // namespace qorvex::apps

@@ -27,15 +27,12 @@ Examples:
   qorvex compare monday.csv friday.csv --column speed
   qorvex compare monday.csv friday.csv --column 2 --column 3 --confidence 0.99)";
 
-constexpr int kDefaultDecimals = 4;
-
 struct CompareArguments {
   TableArguments table;
   std::string second_file;
   bool paired = false;
   WrittenNumber confidence = {"0.95", 0.95L};
-  std::optional<int> decimals;
-  bool json = false;
+  OutputFormat output;
 };
 
 // The only column of the table that these arguments choose.
@@ -110,13 +107,8 @@ void Compare(const CompareArguments& arguments) {
       ReportOn(first, second, arguments.paired, arguments.confidence.value);
   const ComparisonHeading heading{first, second, arguments.paired, arguments.confidence};
   RemarkOnUnderflow(report);
-  if (arguments.json) {
-    WriteResult(JsonOf(report, heading));
-  } else {
-    const int decimals = arguments.decimals.value_or(kDefaultDecimals);
-    RemarkOnHiddenFigures(report, decimals);
-    WriteResult(TextOf(report, heading, decimals));
-  }
+  WriteResult(arguments.output.IsJson() ? JsonOf(report, heading)
+                                        : TextOf(report, heading, arguments.output));
 }
 
 }  // namespace
@@ -135,8 +127,7 @@ void AddCompare(CLI::App& program) {
       "Values of the same row belong together: test their differences");
   AddConfidence(command, "The level of the confidence interval. Default: 0.95",
                 arguments->confidence);
-  AddDecimals(command, arguments->decimals, "Decimals of the figures. Default: 4");
-  AddJson(command, arguments->json);
+  arguments->output.AddTo(command);
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Compare(*arguments); });
 }

@@ -1,98 +1,81 @@
 #include "apps/qorvex/compare_output.h"
 
+#include <algorithm>
 #include <cmath>
-#include <utility>
+#include <limits>
 #include <vector>
 
 #include "apps/common/hidden_figures.h"
-#include "apps/common/input_error.h"
-#include "apps/common/probability_text.h"
-#include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/report_parts.h"
 #include "apps/qorvex/text_output.h"
 #include "apps/qorvex/text_table.h"
-#include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-using Row = std::vector<std::string>;
+constexpr Extended kNone = std::numeric_limits<Extended>::quiet_NaN();
 
-// As a heading, without colon and blank.
-std::string Heading(ReportTextId id) {
-  std::string text = ReportText(id);
-  text.erase(text.find_last_not_of(": ") + 1);
-  return text;
+std::vector<Figure> FiguresOf(const ComparedColumn& compared,
+                              const std::vector<ReportFigure>& lines) {
+  std::vector<Figure> figures = apps::FiguresOf(lines);
+  figures.insert(figures.begin() + 1,
+                 {"missing", "Missing Values:", std::uint64_t{compared.column.skipped}});
+  return figures;
 }
 
-// Of the text of a figure in a table.
-constexpr std::size_t kWidest = 24;
-
-// In fixed notation, or the shortest text that keeps all bits if that is too wide for the table.
-std::string CellText(Extended figure, int decimals) {
-  const std::string text = Float2EStr(figure, decimals);
-  return text.size() <= kWidest ? text : Float2Str(figure);
-}
-
-std::string FigureTable(const ComparisonReport& report, const ComparisonHeading& heading,
-                        int decimals) {
-  std::vector<Row> rows{{"", ShortName(heading.first.title), ShortName(heading.second.title)}};
-  for (std::size_t i = 0; i < report.first.size(); ++i) {
-    const ReportFigure& first = report.first[i];
-    const ReportFigure& second = report.second[i];
-    const auto text = [decimals](const ReportFigure& figure) {
-      if (!figure.value) return MessageText(rsNA);
-      return figure.label == rsDSNoOfValues ? figure.Text(0) : CellText(*figure.value, decimals);
-    };
-    if (first.value || second.value) {
-      const ReportFigure& existing = first.value ? first : second;
-      rows.push_back({ReportText(existing.label), text(first), text(second)});
-    } else {
-      rows.push_back({ReportText(first.label)});
-    }
+// The figures of both columns, side by side.
+ReportPart SideBySide(const ComparisonReport& report, const ComparisonHeading& heading) {
+  ReportPart part{.key = "column",
+                  .table = {.columns = {{"figure", ""},
+                                        {"first", ShortName(heading.first.title)},
+                                        {"second", ShortName(heading.second.title)}}}};
+  const std::vector<Figure> first = FiguresOf(heading.first, report.first);
+  const std::vector<Figure> second = FiguresOf(heading.second, report.second);
+  const bool has_missing = heading.first.column.skipped + heading.second.column.skipped > 0;
+  for (std::size_t i = 0; i < first.size(); ++i) {
+    if (first[i].key != "missing" || has_missing)
+      part.table.rows.push_back({first[i].label, first[i].value, second[i].value});
   }
-  return AlignedRows(rows, 1);
+  return part;
 }
 
-std::string DifferenceTable(const ComparisonReport& report, const ComparisonHeading& heading,
-                            int decimals) {
-  const auto number = [decimals](Extended figure) { return CellText(figure, decimals); };
-  const std::string interval =
-      report.interval ? number(report.interval->least) + " to " + number(report.interval->greatest)
-                      : MessageText(rsNA);
-  return AlignedRows({{heading.paired ? "Mean Difference:" : "Difference of the Means:",
-                       number(report.difference)},
-                      {ReportText(rsDSConfidence), heading.confidence.text},
-                      {"Confidence Interval:", interval}},
-                     2);
+ReportPart DifferenceOf(const ComparisonReport& report, const ComparisonHeading& heading) {
+  return {.key = "difference",
+          .figures = {
+              {"difference",
+               heading.paired ? "Mean Difference:" : "Difference of the Means:", report.difference},
+              {"confidence", ReportText(rsDSConfidence), heading.confidence},
+              {"interval", "Confidence Interval:",
+               report.interval.value_or(Interval<Extended>{kNone, kNone})}}};
 }
 
-std::string DegreesText(Extended degrees) {
-  if (std::isnan(degrees)) return "";
-  return Float2EStr(degrees, degrees == std::floor(degrees) ? 0 : 2);
+Cell DegreesCell(Extended degrees) {
+  if (std::isnan(degrees)) return {};
+  if (degrees == std::floor(degrees)) return static_cast<std::uint64_t>(degrees);
+  return degrees;
 }
 
-std::string TestTable(const ComparisonReport& report, int decimals) {
-  std::vector<Row> rows{
-      {Heading(rsNullHypothesis), "Test", Heading(rsTestStatistic), "df", Heading(rsPValue)}};
+ReportPart TestsOf(const ComparisonReport& report) {
+  ReportPart part{.key = "test",
+                  .table = {.columns = {{"test", "Test"},
+                                        {"null_hypothesis", Heading(ReportText(rsNullHypothesis))},
+                                        {"symbol", ""},
+                                        {"statistic", "Statistic"},
+                                        {"degrees_of_freedom", "df"},
+                                        {"second_degrees_of_freedom", ""},
+                                        {"p", Heading(ReportText(rsPValue))}}}};
   for (const ReportedTest& test : report.tests) {
-    Row row{test.null_hypothesis, test.name};
-    if (test.result) {
-      const TestResult& result = *test.result;
-      const std::string second = DegreesText(result.second_degrees_of_freedom);
-      row.push_back(test.symbol + (" = " + CellText(result.statistic, decimals)));
-      row.push_back(DegreesText(result.degrees_of_freedom) + (second.empty() ? "" : ", " + second));
-      row.push_back(RoundedProbabilityText(result.p, result.log_p));
-    } else {
-      row.insert(row.end(), {"", "", MessageText(rsNA)});
-    }
-    rows.push_back(std::move(row));
+    const TestResult result = test.result.value_or(TestResult());
+    part.table.rows.push_back({test.name, test.null_hypothesis, test.symbol, result.statistic,
+                               DegreesCell(result.degrees_of_freedom),
+                               DegreesCell(result.second_degrees_of_freedom),
+                               Probability{result.p, result.log_p}});
   }
-  return AlignedRows(rows, 2);
+  return part;
 }
 
 void WriteColumn(JsonWriter& json, const char* key, const ComparedColumn& compared,
@@ -102,21 +85,32 @@ void WriteColumn(JsonWriter& json, const char* key, const ComparedColumn& compar
   json.Key("file");
   json.String(compared.file);
   WriteColumnKeys(json, compared.column.number, compared.column.name);
-  json.Key("count");
-  json.Integer(static_cast<std::uint64_t>(*lines.front().value));
-  json.Key("skipped");
-  json.Integer(compared.column.skipped);
-  WriteFigures(json, lines);
+  WriteFigures(json, FiguresOf(compared, lines));
   json.EndObject();
 }
 
 }  // namespace
 
-std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading, int decimals) {
+std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading,
+                   const OutputFormat& output) {
+  std::vector<ReportPart> parts{{.key = "column",
+                                 .item = heading.first.title,
+                                 .figures = FiguresOf(heading.first, report.first)},
+                                {.key = "column",
+                                 .item = heading.second.title,
+                                 .figures = FiguresOf(heading.second, report.second)},
+                                DifferenceOf(report, heading),
+                                TestsOf(report)};
+  RemarkOnHidden("", parts, output);
+  if (output.form == OutputForm::kCsv) return CsvOf(parts, output.ForReport());
+  parts.erase(parts.begin());
+  parts.front() = SideBySide(report, heading);
+  OutputFormat aligned = output;
+  aligned.form = OutputForm::kTable;
+  const int digits = std::max(SignificantDigits(heading.first.column.numbers),
+                              SignificantDigits(heading.second.column.numbers));
   const std::string plots = DrawBoxPlots({report.first_plot, report.second_plot});
-  return FigureTable(report, heading, decimals) + '\n' +
-         DifferenceTable(report, heading, decimals) + '\n' + TestTable(report, decimals) +
-         (plots.empty() ? "" : '\n' + plots);
+  return TextOf(parts, aligned, digits) + (plots.empty() ? "" : '\n' + plots);
 }
 
 void RemarkOnUnderflow(const ComparisonReport& report) {
@@ -124,19 +118,6 @@ void RemarkOnUnderflow(const ComparisonReport& report) {
   underflowed.CheckLines(report.first);
   underflowed.CheckLines(report.second);
   if (underflowed.count > 0) WriteRemark(underflowed.Remark());
-}
-
-void RemarkOnHiddenFigures(const ComparisonReport& report, int decimals) {
-  // With so many decimals, no figure is printed as zeros.
-  if (Float2EStr(0, decimals).size() > kWidest) return;
-  std::vector<Extended> figures{report.difference};
-  if (report.interval)
-    figures.insert(figures.end(), {report.interval->least, report.interval->greatest});
-  for (const auto* lines : {&report.first, &report.second})
-    for (const ReportFigure& line : *lines)
-      if (HasUnit(line)) figures.push_back(*line.value);
-  const HiddenFigures hidden = HiddenAmong(figures, decimals);
-  if (hidden.count > 0) WriteRemark(hidden.Remark(decimals, kMostDecimals));
 }
 
 std::string JsonOf(const ComparisonReport& report, const ComparisonHeading& heading) {

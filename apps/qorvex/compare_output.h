@@ -1,11 +1,12 @@
 #pragma once
 
 /// @file
-/// The two forms of the output of `compare`.
+/// The forms of the output of `compare`.
 
 #include <string>
 
 #include "apps/qorvex/compare_report.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 
 namespace qorvex::apps {
@@ -18,15 +19,13 @@ struct ComparisonHeading {
   WrittenNumber confidence = {};
 };
 
-/// Tables of figures and tests, and box plots.
+/// Tables of figures and tests, and box plots; without these plots in CSV. Writes a remark if
+/// decimals show figures as 0 that are not 0.
 [[nodiscard]] std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading,
-                                 int decimals);
+                                 const OutputFormat& output);
 
 /// Writes a remark if figures are below the range of the format.
 void RemarkOnUnderflow(const ComparisonReport& report);
-
-/// Writes a remark if figures are too small for the decimals.
-void RemarkOnHiddenFigures(const ComparisonReport& report, int decimals);
 
 /// One JSON document.
 [[nodiscard]] std::string JsonOf(const ComparisonReport& report, const ComparisonHeading& heading);

@@ -3,8 +3,10 @@
 #include <exception>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "apps/common/groups.h"
 #include "apps/common/threads.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -12,6 +14,7 @@
 #include "apps/qorvex/describe_output.h"
 #include "apps/qorvex/describe_report.h"
 #include "apps/qorvex/text_output.h"
+#include "qorvex/base/text.h"
 
 namespace qorvex::apps {
 
@@ -23,22 +26,23 @@ Examples:
   qorvex describe speeds.csv --column speed
   qorvex describe speeds.csv --column 3 --column 4 --decimals 2
   qorvex describe speeds.csv --column speed --quantiles 0.05,0.95 --confidence 0.99
+  qorvex describe speeds.csv --column speed --by series --figures n,mean,sd --table
   qorvex describe invoices.csv --column price --weights quantity --currency
   grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty)";
 
-// Calls write(report) for each column in turn. As many reports are made at once as there are
+// Calls write(report) for each sample in turn. As many reports are made at once as there are
 // threads; what they need is released before the next ones.
 template <class Write>
-void ForEachReport(std::vector<TableColumn>& columns, const TableColumn* weights,
-                   const DescribeOptions& options, Write write) {
-  for (std::size_t first = 0; first < columns.size(); first += options.threads) {
-    const std::size_t count = std::min<std::size_t>(options.threads, columns.size() - first);
+void ForEachReport(std::vector<DescribedSample> samples, const DescribeOptions& options,
+                   Write write) {
+  for (std::size_t first = 0; first < samples.size(); first += options.threads) {
+    const std::size_t count = std::min<std::size_t>(options.threads, samples.size() - first);
     const auto threads_for_each = static_cast<unsigned>(options.threads / count);
     std::vector<ColumnReport> reports(count);
     std::vector<std::exception_ptr> faults(count);
     ForEachIndex(count, options.threads, [&](std::size_t i) {
       try {
-        reports[i] = ReportOn(columns[first + i], weights, options, threads_for_each);
+        reports[i] = ReportOn(samples[first + i], options, threads_for_each);
       } catch (...) {
         faults[i] = std::current_exception();
       }
@@ -51,24 +55,91 @@ void ForEachReport(std::vector<TableColumn>& columns, const TableColumn* weights
   }
 }
 
-std::string TextOf(std::vector<TableColumn>& columns, const TableColumn* weights,
-                   const DescribeOptions& options) {
-  std::string text;
-  ForEachReport(columns, weights, options, [&](const ColumnReport& report) {
-    if (!text.empty()) text += '\n';
-    text += TextOf(report, options);
-  });
-  return text;
+// The columns of a table by what they contain.
+struct DescribedTable {
+  std::vector<TableColumn> columns;
+  TableColumn weights;
+  std::vector<TableColumn> labels;
+};
+
+DescribedTable ReadColumns(const DescribeOptions& options) {
+  DescribedTable table;
+  for (TableColumn& column : options.table.Read(options.threads)) {
+    switch (column.role) {
+      case ColumnRole::kValues:
+        table.columns.push_back(std::move(column));
+        break;
+      case ColumnRole::kWeights:
+        table.weights = std::move(column);
+        break;
+      case ColumnRole::kLabels:
+        table.labels.push_back(std::move(column));
+    }
+  }
+  return table;
 }
 
-std::string JsonOf(std::vector<TableColumn>& columns, const TableColumn* weights,
-                   const DescribeOptions& options) {
+std::vector<GroupLabel> LabelsOf(const std::vector<TableColumn>& columns,
+                                 const std::vector<std::string>& labels) {
+  std::vector<GroupLabel> group;
+  for (std::size_t i = 0; i < columns.size(); ++i) {
+    const std::string& name = columns[i].name;
+    group.push_back({name.empty() ? Int2EStr(columns[i].number) : name, labels[i]});
+  }
+  return group;
+}
+
+// Calls write(report) for each column, or for each group of each column.
+template <class Write>
+void ForEachReport(DescribedTable table, const DescribeOptions& options, Write write) {
+  if (table.labels.empty()) {
+    std::vector<DescribedSample> samples;
+    for (TableColumn& column : table.columns)
+      samples.push_back({std::move(column), table.weights, {}});
+    return ForEachReport(std::move(samples), options, write);
+  }
+  const Groups groups = GroupsOf(table.labels);
+  const std::vector<GroupNumbers> weights =
+      options.HasWeights() ? Split(table.weights, groups) : std::vector<GroupNumbers>();
+  for (TableColumn& column : table.columns) {
+    std::vector<GroupNumbers> parts = Split(column, groups);
+    column.numbers = {};
+    std::vector<DescribedSample> samples;
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+      DescribedSample& sample = samples.emplace_back();
+      sample.column = {.number = column.number,
+                       .name = column.name,
+                       .numbers = std::move(parts[i].numbers),
+                       .skipped = parts[i].missing};
+      sample.weights = {.number = table.weights.number, .name = table.weights.name};
+      if (options.HasWeights()) sample.weights.numbers = weights[i].numbers;
+      sample.groups = LabelsOf(table.labels, groups.labels[i]);
+    }
+    ForEachReport(std::move(samples), options, write);
+  }
+}
+
+std::string OutputOf(DescribedTable table, const DescribeOptions& options) {
+  if (options.output.form == OutputForm::kText) {
+    std::string text;
+    ForEachReport(std::move(table), options, [&](const ColumnReport& report) {
+      if (!text.empty()) text += '\n';
+      text += TextOf(report, options);
+    });
+    return text;
+  }
+  if (!options.output.IsJson()) {
+    std::vector<ColumnReport> reports;
+    ForEachReport(std::move(table), options,
+                  [&](const ColumnReport& report) { reports.push_back(report); });
+    return TableOf(reports, options);
+  }
   JsonWriter json;
   json.BeginObject();
-  WriteHeading(json, options, weights);
+  WriteHeading(json, options, table.weights, table.labels);
   json.Key("columns");
   json.BeginArray();
-  ForEachReport(columns, weights, options,
+  ForEachReport(std::move(table), options,
                 [&](const ColumnReport& report) { WriteReport(json, report, options); });
   json.EndArray();
   json.EndObject();
@@ -77,16 +148,7 @@ std::string JsonOf(std::vector<TableColumn>& columns, const TableColumn* weights
 
 void Describe(const DescribeOptions& options) {
   options.RequireConsistent();
-  std::vector<TableColumn> columns = options.table.Read(options.threads);
-  TableColumn weights;
-  const bool has_weights = options.table.selection.weights.has_value();
-  if (has_weights) {
-    weights = columns.back();
-    columns.pop_back();
-  }
-  const TableColumn* const used_weights = has_weights ? &weights : nullptr;
-  WriteResult(options.json ? JsonOf(columns, used_weights, options)
-                           : TextOf(columns, used_weights, options));
+  WriteResult(OutputOf(ReadColumns(options), options));
 }
 
 }  // namespace

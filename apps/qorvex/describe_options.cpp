@@ -1,5 +1,6 @@
 #include "apps/qorvex/describe_options.h"
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,21 @@ std::vector<WrittenNumber> ParseProbabilities(std::string_view list) {
   }
 }
 
+std::string FiguresHelp() {
+  std::string text = "The figures to report, in their order, with commas between them:";
+  std::size_t width = 80;
+  for (const FigureName& figure : FigureNames()) {
+    std::string names = figure.key;
+    for (const std::string& alias : figure.aliases) names += " = " + alias;
+    if (&figure != &FigureNames().back()) names += ',';
+    constexpr std::size_t longest = 72;
+    const bool fits = width + 1 + names.size() <= longest;
+    text += (fits ? " " : "\n") + names;
+    width = fits ? width + 1 + names.size() : names.size();
+  }
+  return text;
+}
+
 WeightKind ParseWeightKind(const std::string& text) {
   if (text == "frequency") return WeightKind::kFrequency;
   if (text == "reliability") return WeightKind::kReliability;
@@ -36,6 +52,23 @@ void DescribeOptions::AddTo(CLI::App& command) {
   command.add_flag("--currency", table.selection.currency,
                    "The values are amounts of money with at most four decimals: sum, minimum,\n"
                    "maximum and range are exact, always with four decimals");
+  command
+      .add_option("--by", table.selection.labels,
+                  "A column of labels: a report on each group of rows with the same label.\n"
+                  "Repeat it for groups within groups")
+      ->type_name("NAME|N")
+      ->allow_extra_args(false);
+  CLI::Option* const figure_list =
+      command
+          .add_option_function<std::string>(
+              "--figures", [this](const std::string& names) { figures = ParseFigures(names); },
+              FiguresHelp())
+          ->type_name("NAME,...");
+  AddWrittenNumber(command, "--trim",
+                   "The share of the values that trimmed_mean leaves out at each end, from 0 to\n"
+                   "0.5. Default: 0.1",
+                   NumberKind::kShare, trim)
+      .needs(figure_list);
   CLI::Option* const quantile_list =
       command
           .add_option_function<std::string>(
@@ -77,15 +110,30 @@ void DescribeOptions::AddTo(CLI::App& command) {
       ->excludes(weights)
       ->excludes(level)
       ->excludes(thread_count);
-  AddDecimals(command, decimals, "Decimals of the report. Default: 4");
-  AddJson(command, json);
+  output.AddTo(command);
 }
 
 QuantileType DescribeOptions::TypeOfQuantiles() const {
   return quantile_type.value_or(HasReliabilities() ? QuantileType::k2 : QuantileType::k7);
 }
 
+bool DescribeOptions::Needs(FigureSource source) const {
+  return figures.empty() || std::ranges::count(figures, source, &FigureName::source) > 0;
+}
+
 void DescribeOptions::RequireConsistent() const {
+  if (trim.value > 0.5L)
+    throw CLI::ValidationError("--trim", trim.text + " is not a number from 0 to 0.5");
+  for (const FigureName* const figure : figures) {
+    const char* const option =
+        figure->scope == FigureScope::kUnweighted && classic        ? "--classic"
+        : figure->scope == FigureScope::kUnweighted && HasWeights() ? "--weights"
+        : figure->scope == FigureScope::kNoReliabilities && HasReliabilities()
+            ? "--weights-kind reliability"
+            : nullptr;
+    if (option != nullptr)
+      throw CLI::ValidationError("--figures", figure->key + " does not exist with " + option);
+  }
   if (!HasReliabilities()) return;
   if (TypeOfQuantiles() > QuantileType::k2) {
     throw CLI::ValidationError("--quantile-type",

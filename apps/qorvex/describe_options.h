@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+#include "apps/qorvex/describe_figures.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "qorvex/stats/exact/weighted.h"
@@ -19,10 +21,13 @@ struct DescribeOptions {
   TableArguments table = {};
   bool population = false;
   bool classic = false;
-  bool json = false;
-  std::optional<int> decimals = {};
+  OutputFormat output = {};
   unsigned threads = 1;
   std::vector<WrittenNumber> quantiles = {};
+  /// Those of the usual report if there are none.
+  std::vector<const FigureName*> figures = {};
+  /// What the trimmed mean leaves out at each end.
+  WrittenNumber trim = {"0.1", 0.1L};
   /// Empty if not given.
   std::optional<QuantileType> quantile_type = {};
   /// Without a text if not given.
@@ -35,11 +40,14 @@ struct DescribeOptions {
 
   /// The given type, or the one that suits the weights.
   [[nodiscard]] QuantileType TypeOfQuantiles() const;
-  [[nodiscard]] int Decimals() const { return decimals.value_or(4); }
   [[nodiscard]] bool HasConfidence() const { return !confidence.text.empty(); }
   [[nodiscard]] bool HasReliabilities() const {
     return table.selection.weights && weight_kind == WeightKind::kReliability;
   }
+  [[nodiscard]] bool HasGroups() const { return !table.selection.labels.empty(); }
+  [[nodiscard]] bool HasWeights() const { return table.selection.weights.has_value(); }
+  /// Whether a chosen figure is computed from that.
+  [[nodiscard]] bool Needs(FigureSource source) const;
   /// Throws CLI::ValidationError for options that exclude each other.
   void RequireConsistent() const;
 };

@@ -1,45 +1,31 @@
 #include "apps/qorvex/describe_output.h"
 
 #include <algorithm>
+#include <iterator>
+#include <limits>
+#include <utility>
 
 #include "apps/common/cells.h"
 #include "apps/common/hidden_figures.h"
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
-#include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/text_output.h"
-#include "qorvex/base/currency_text.h"
 #include "qorvex/base/text.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-std::uint64_t CountOf(const ColumnReport& report) {
-  return static_cast<std::uint64_t>(*report.lines.front().value);
-}
-
-HiddenFigures HiddenIn(const ColumnReport& report, int decimals) {
-  std::vector<Extended> figures = report.quantiles;
-  if (report.intervals) {
-    for (const Interval<Extended>& interval :
-         {report.intervals->mean, report.intervals->variance, report.intervals->std_dev}) {
-      figures.push_back(interval.least);
-      figures.push_back(interval.greatest);
-    }
-  }
-  if (report.classic) {
-    DescriptiveResults results = *report.classic;
-    // Amounts are printed with all their decimals.
-    if (!report.amounts.empty()) results.maximum = results.minimum = results.sum = 0;
-    const HiddenFigures lines = HiddenBy(results, CountOf(report), decimals);
-    const HiddenFigures others = HiddenAmong(figures, decimals);
-    return {lines.count + others.count, std::max(lines.enough_decimals, others.enough_decimals)};
-  }
-  for (const ReportFigure& line : report.lines)
-    if (HasUnit(line) && !report.amounts.contains(line.label)) figures.push_back(*line.value);
-  return HiddenAmong(figures, decimals);
+void AddIntervals(std::vector<Figure>& figures, const ColumnReport& report) {
+  constexpr Extended none = std::numeric_limits<Extended>::quiet_NaN();
+  const ColumnIntervals ends =
+      report.intervals.value_or(ColumnIntervals{{none, none}, {none, none}, {none, none}});
+  figures.push_back({"mean_interval", ReportText(rsDSConfidenceIntervalM), ends.mean});
+  figures.push_back({"variance_interval", ReportText(rsDSConfidenceIntervalV), ends.variance});
+  figures.push_back({"standard_deviation_interval",
+                     "Confidence Interval for the Standard Deviation: ", ends.std_dev});
 }
 
 UnderflowedFigures UnderflowedIn(const ColumnReport& report) {
@@ -53,111 +39,145 @@ UnderflowedFigures UnderflowedIn(const ColumnReport& report) {
   return underflowed;
 }
 
+// The chosen figures in their order, of which that of the deciles is nine.
+std::vector<Figure> Chosen(const std::vector<Figure>& figures,
+                           const std::vector<const FigureName*>& names) {
+  std::vector<Figure> chosen;
+  for (const FigureName* const name : names) {
+    std::ranges::copy_if(figures, std::back_inserter(chosen), [name](const Figure& figure) {
+      return figure.key == name->key ||
+             (name->key == "deciles" && figure.key.starts_with("decile_"));
+    });
+  }
+  return chosen;
+}
+
 }  // namespace
 
+std::vector<Figure> FiguresOf(const ColumnReport& report, const DescribeOptions& options) {
+  std::vector<Figure> figures = FiguresOf(report.lines, report.amounts);
+  figures.insert(figures.begin() + 1,
+                 {"missing", "Missing Values:", std::uint64_t{report.skipped}});
+  figures.insert(figures.end(), report.further.begin(), report.further.end());
+  if (!options.figures.empty()) figures = Chosen(figures, options.figures);
+  if (report.sum_of_weights && options.HasReliabilities())
+    figures.push_back({"sum_of_weights", "Sum of Weights:", *report.sum_of_weights});
+  for (std::size_t i = 0; i < report.quantiles.size(); ++i) {
+    const std::string& probability = options.quantiles[i].text;
+    figures.push_back(
+        {"quantile_" + probability, "Quantile " + probability + ':', report.quantiles[i]});
+  }
+  if (options.HasConfidence()) {
+    figures.push_back({"confidence", ReportText(rsDSConfidence), options.confidence});
+    AddIntervals(figures, report);
+  }
+  return figures;
+}
+
 std::string TextOf(const ColumnReport& report, const DescribeOptions& options) {
-  const int decimals = options.Decimals();
   std::string text = "Column " + Int2EStr(report.number);
   if (!report.name.empty()) text += ": " + OnOneLine(report.name);
-  text += '\n';
-  const auto line = [&text](const std::string& label, const std::string& figure) {
-    text += label + '\t' + figure + '\n';
-  };
-  for (const ReportFigure& figure : report.lines) {
-    const auto amount = report.amounts.find(figure.label);
-    const bool is_amount = amount != report.amounts.end();
-    text += ReportLine(figure, is_amount ? Currency2EStr(amount->second) : figure.Text(decimals));
-    text += '\n';
-  }
-  if (options.HasReliabilities())
-    line("Sum of Weights:", Float2EStr(*report.sum_of_weights, decimals));
-  for (std::size_t i = 0; i < report.quantiles.size(); ++i) {
-    line("Quantile " + options.quantiles[i].text + ':', Float2EStr(report.quantiles[i], decimals));
-  }
-  if (report.intervals) {
-    const auto ends = [decimals](const Interval<Extended>& interval) {
-      return Float2EStr(interval.least, decimals) + " to " +
-             Float2EStr(interval.greatest, decimals);
-    };
-    line(ReportText(rsDSConfidence), options.confidence.text);
-    line(ReportText(rsDSConfidenceIntervalM), ends(report.intervals->mean));
-    line(ReportText(rsDSConfidenceIntervalV), ends(report.intervals->variance));
-    line("Confidence Interval for the Standard Deviation: ", ends(report.intervals->std_dev));
-  }
-  return text;
+  for (const GroupLabel& group : report.groups) text += ", " + OnOneLine(group.Text());
+  std::vector<Figure> figures = FiguresOf(report, options);
+  if (report.skipped == 0 && options.figures.empty())
+    std::erase_if(figures, [](const Figure& figure) { return figure.key == "missing"; });
+  return text + '\n' + LinesOf(figures, options.output.ForReport(report.significant_digits));
 }
 
 void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options) {
-  const std::string place = OnOneLine(InputName(options.table.file)) + ": " +
-                            ColumnTitle(report.number, report.name) + ": ";
+  std::string place =
+      OnOneLine(InputName(options.table.file)) + ": " + ColumnTitle(report.number, report.name);
+  for (const GroupLabel& group : report.groups) place += ", " + OnOneLine(group.Text());
+  place += ": ";
   const UnderflowedFigures underflowed = UnderflowedIn(report);
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
-  if (options.json) return;
-  const int decimals = options.Decimals();
-  const HiddenFigures hidden = HiddenIn(report, decimals);
-  if (hidden.count > 0) WriteRemark(place + hidden.Remark(decimals, kMostDecimals));
+  RemarkOnHidden(place, FiguresOf(report, options), options.output);
 }
 
-void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn* weights) {
+void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn& weights,
+                  std::span<const TableColumn> labels) {
   json.Key("file");
   json.String(options.table.file);
   json.Key("population");
   json.Bool(options.population);
   json.Key("classic");
   json.Bool(options.classic);
-  if (weights != nullptr) {
+  if (options.HasWeights()) {
     json.Key("weights");
     json.BeginObject();
-    WriteColumnKeys(json, weights->number, weights->name);
+    WriteColumnKeys(json, weights.number, weights.name);
     json.Key("kind");
     json.String(options.HasReliabilities() ? "reliability" : "frequency");
     json.EndObject();
   }
+  if (!labels.empty()) {
+    json.Key("by");
+    json.BeginArray();
+    for (const TableColumn& column : labels) {
+      json.BeginObject();
+      WriteColumnKeys(json, column.number, column.name);
+      json.EndObject();
+    }
+    json.EndArray();
+  }
   if (!options.quantiles.empty()) {
     json.Key("quantile_type");
     json.Integer(static_cast<int>(options.TypeOfQuantiles()));
-  }
-  if (options.HasConfidence()) {
-    json.Key("confidence");
-    json.Number(options.confidence.value);
   }
 }
 
 void WriteReport(JsonWriter& json, const ColumnReport& report, const DescribeOptions& options) {
   json.BeginObject();
   WriteColumnKeys(json, report.number, report.name);
-  json.Key("count");
-  json.Integer(CountOf(report));
-  json.Key("skipped");
-  json.Integer(report.skipped);
-  if (report.sum_of_weights) {
-    json.Key("sum_of_weights");
-    json.Number(report.sum_of_weights);
-  }
-  WriteFigures(json, report.lines, report.amounts);
-  if (!options.quantiles.empty()) {
-    json.Key("quantiles");
-    json.BeginArray();
-    for (std::size_t i = 0; i < report.quantiles.size(); ++i) {
-      json.BeginObject();
-      json.Key("probability");
-      json.Number(options.quantiles[i].value);
-      json.Key("value");
-      json.Number(report.quantiles[i]);
-      json.EndObject();
+  if (!report.groups.empty()) {
+    json.Key("group");
+    json.BeginObject();
+    for (const GroupLabel& group : report.groups) {
+      json.Key(group.column);
+      json.String(group.label);
     }
-    json.EndArray();
+    json.EndObject();
   }
-  if (options.HasConfidence()) {
-    const auto interval = [&](const char* key, Interval<Extended> ColumnIntervals::*of) {
-      json.Key(key);
-      WriteInterval(json, report.intervals ? std::optional((*report.intervals).*of) : std::nullopt);
-    };
-    interval("mean_interval", &ColumnIntervals::mean);
-    interval("variance_interval", &ColumnIntervals::variance);
-    interval("standard_deviation_interval", &ColumnIntervals::std_dev);
-  }
+  WriteFigures(json, FiguresOf(report, options));
   json.EndObject();
+}
+
+namespace {
+
+// A row for each report: column, name, labels, figures.
+ResultTable RowsOf(const std::vector<ColumnReport>& reports, const DescribeOptions& options) {
+  ResultTable table;
+  for (const ColumnReport& report : reports) {
+    const std::vector<Figure> figures = FiguresOf(report, options);
+    if (table.columns.empty()) {
+      table.columns = {{"column", ""}, {"name", ""}};
+      for (const GroupLabel& group : report.groups)
+        table.columns.push_back({group.column, group.column});
+      for (const Figure& figure : figures)
+        table.columns.push_back({figure.key, Heading(figure.label)});
+    }
+    std::vector<Cell>& row = table.rows.emplace_back();
+    row = {std::uint64_t{report.number}, report.name};
+    for (const GroupLabel& group : report.groups) row.emplace_back(group.label);
+    for (const Figure& figure : figures) row.push_back(figure.value);
+  }
+  return table;
+}
+
+}  // namespace
+
+std::string TableOf(const std::vector<ColumnReport>& reports, const DescribeOptions& options) {
+  int digits = 0;
+  for (const ColumnReport& report : reports) digits = std::max(digits, report.significant_digits);
+  ResultTable table = RowsOf(reports, options);
+  if (options.output.form == OutputForm::kCsv) return Printed(table, options.output, digits);
+  // A column is known by its name, or else by its number.
+  for (std::vector<Cell>& row : table.rows) {
+    if (std::get<std::string>(row[1]).empty()) row[1] = CellText(row[0], {});
+    row.erase(row.begin());
+  }
+  table.columns.erase(table.columns.begin());
+  return Printed(options.HasGroups() ? table : Transposed(table), options.output, digits);
 }
 
 }  // namespace qorvex::apps

@@ -6,10 +6,12 @@
 #include <utility>
 
 #include "apps/common/cells.h"
+#include "apps/common/figure_format.h"
 #include "apps/common/input_error.h"
 #include "apps/common/sample_figures.h"
 #include "apps/common/text_input.h"
 #include "apps/common/weighted_numbers.h"
+#include "apps/qorvex/further_figures.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/distributions/chi_square.h"
 #include "qorvex/stats/inference/intervals.h"
@@ -78,6 +80,12 @@ ColumnIntervals IntervalsOf(const ExactSample<2>& sums, Extended confidence) {
           StdDevInterval(sums, confidence)};
 }
 
+bool AllAreZero(const TableColumn& weights) {
+  return weights.numbers.Visit([](const auto& vector) {
+    return std::ranges::all_of(vector, [](auto x) { return x == 0; });
+  });
+}
+
 TQorFloatVector ValidWeights(const TableColumn& weights, const DescribeOptions& options) {
   TQorFloatVector values = weights.numbers.Values();
   if (const auto fault = FaultOf(values, options.weight_kind)) {
@@ -87,7 +95,7 @@ TQorFloatVector ValidWeights(const TableColumn& weights, const DescribeOptions& 
            "the weight " + Float2Str(fault->weight) + ' ' + fault->what +
                (may_be_reliability ? "; --weights-kind reliability takes any weights" : ""));
   }
-  if (std::ranges::all_of(values, [](Extended weight) { return weight == 0; }))
+  if (AllAreZero(weights))
     Refuse(options, InputFault::kNotANumber, weights, "all weights are zero");
   return values;
 }
@@ -111,35 +119,66 @@ void AddWeighted(ColumnReport& report, const ColumnNumbers& numbers, const TQorF
 void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOptions& options,
                    unsigned threads) {
   if (options.classic) {
-    const SampleFigures figures = ClassicFigures(
-        options.quantiles.empty() ? numbers.TakeValues() : numbers.Values(), options.population);
-    report.classic = figures.results;
-    report.lines = figures.Lines(options.population);
+    report.lines =
+        ClassicFigures(options.quantiles.empty() ? numbers.TakeValues() : numbers.Values(),
+                       options.population)
+            .Lines(options.population);
   }
-  numbers.Sort();
+  if (options.Needs(FigureSource::kOrder) || !options.quantiles.empty()) numbers.Sort();
   for (const WrittenNumber& probability : options.quantiles)
     report.quantiles.push_back(QuantileOf(numbers, probability.value, options.TypeOfQuantiles()));
   if (options.classic) return;
-  report.lines = ExactFigures(ExactSumsOf<4>(numbers, threads), OrderFiguresOf(numbers), numbers,
-                              options.population)
-                     .Lines(options.population);
+  const OrderFigures order =
+      options.Needs(FigureSource::kOrder) ? OrderFiguresOf(numbers) : ExtremesOf(numbers);
+  const SampleFigures figures =
+      options.Needs(FigureSource::kHigherPowers)
+          ? ExactFigures(ExactSumsOf<4>(numbers, threads), order, numbers, options.population)
+          : ExactFigures(ExactSumsOf<2>(numbers, threads), order, numbers, options.population);
+  report.lines = figures.Lines(options.population);
   if (options.HasConfidence() && numbers.size() > 1) {
     report.intervals = IntervalsOf(ExactSumsOf<2>(numbers, threads), options.confidence.value);
   }
+  report.further = FurtherFigures(numbers, options);
+}
+
+// A report on no values: a count of 0, and figures that do not exist.
+void AddNothing(ColumnReport& report, const DescribeOptions& options) {
+  constexpr Extended none = std::numeric_limits<Extended>::quiet_NaN();
+  report.lines = DescriptiveFigures({}, 1, options.population, false);
+  for (ReportFigure& line : report.lines)
+    if (line.value) line.value = line.label == rsDSNoOfValues ? 0 : none;
+  report.quantiles.assign(options.quantiles.size(), none);
+  if (options.HasReliabilities()) report.sum_of_weights = 0;
+  report.further = FurtherFigures({}, options);
 }
 
 }  // namespace
 
-ColumnReport ReportOn(TableColumn& column, const TableColumn* weights,
-                      const DescribeOptions& options, unsigned threads) {
-  ColumnReport report{.number = column.number, .name = column.name, .skipped = column.skipped};
+std::string GroupLabel::Text() const {
+  return column + " = " + label;
+}
+
+ColumnReport ReportOn(DescribedSample& sample, const DescribeOptions& options, unsigned threads) {
+  TableColumn& column = sample.column;
+  ColumnReport report{.number = column.number,
+                      .name = column.name,
+                      .groups = std::move(sample.groups),
+                      .skipped = column.skipped,
+                      .significant_digits = SignificantDigits(column.numbers)};
+  const bool has_values =
+      !column.numbers.empty() &&
+      !(options.HasWeights() && !report.groups.empty() && AllAreZero(sample.weights));
+  if (!has_values) {
+    AddNothing(report, options);
+    return report;
+  }
   const TQorFloatVector values =
-      weights == nullptr ? TQorFloatVector() : ValidWeights(*weights, options);
+      options.HasWeights() ? ValidWeights(sample.weights, options) : TQorFloatVector();
   if (options.table.selection.currency) report.amounts = AmountsOf(column, values, options);
-  if (weights == nullptr) {
-    AddUnweighted(report, std::exchange(column.numbers, {}), options, threads);
-  } else {
+  if (options.HasWeights()) {
     AddWeighted(report, std::exchange(column.numbers, {}), values, options);
+  } else {
+    AddUnweighted(report, std::exchange(column.numbers, {}), options, threads);
   }
   RequireFinite(report.lines, InputName(options.table.file), column.Title());
   if (report.intervals && !std::isfinite(report.intervals->variance.greatest)) {

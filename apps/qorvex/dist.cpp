@@ -9,8 +9,10 @@
 #include <vector>
 
 #include "apps/common/distributions.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/errors.h"
@@ -32,7 +34,7 @@ struct DistArguments {
   std::optional<Extended> upper_probability;
   /// The steps of a continuous table.
   Extended steps = 0;
-  std::optional<int> decimals;
+  OutputFormat output;
   bool log = false;
   bool classic = false;
 };
@@ -43,10 +45,8 @@ void AddNumberInOrder(CLI::App& command, const SharedArguments& arguments,
                       const NumberParameter& parameter) {
   const std::size_t index = arguments->numbers.size();
   arguments->numbers.push_back(parameter.start);
-  CLI::Option& option =
-      AddNumber(command, parameter.option, parameter.Description(), parameter.kind,
-                [arguments, index](Extended value) { arguments->numbers[index] = value; });
-  if (!parameter.has_default) option.required();
+  AddParameter(command, parameter,
+               [arguments, index](Extended value) { arguments->numbers[index] = value; });
 }
 
 NumberKind PointKind(const Family& family) {
@@ -173,7 +173,7 @@ Extended Density(const Family& family, const DistArguments& arguments) {
 std::string Text(Extended value, const DistArguments& arguments) {
   // The arguments are finite: something on the way was not.
   if (std::isnan(value)) throw EOverflow();
-  return FigureText(value, arguments.decimals);
+  return arguments.output.ForNumbers().Text(value);
 }
 
 template <Extended (*compute)(const Family&, const DistArguments&)>
@@ -288,8 +288,7 @@ void AddQuestion(CLI::App& parent, const Family& family, const Question& questio
   command.add_flag("--classic", arguments->classic,
                    "Compute with the classic routines of QorvexStatistics");
   question.add_options(command, family, arguments);
-  AddDecimals(command, arguments->decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
+  arguments->output.AddDigitsTo(command);
   command.footer(std::string(kNumbersHelp) + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([&family, &question, arguments] { Run(family, question, *arguments); });
 }
@@ -301,11 +300,11 @@ void AddDist(CLI::App& program) {
       *program.add_subcommand("dist", "Probabilities, densities and quantiles of distributions");
   for (const Family& family : Families()) {
     CLI::App& command = *dist.add_subcommand(family.name, family.summary);
-    for (const char* const alias : family.aliases) command.alias(alias);
+    AddAliases(command, family.aliases);
     for (const Question& question : kQuestions) AddQuestion(command, family, question);
-    RequireOneCommand(command, std::string("A command of dist ") + family.name);
+    RequireOneCommand(command, "command");
   }
-  RequireOneCommand(dist, "A distribution");
+  RequireOneCommand(dist, "distribution");
 }
 
 }  // namespace qorvex::apps

@@ -1,5 +1,8 @@
 #include <memory>
 
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/fit_arguments.h"
@@ -44,9 +47,11 @@ void Fit(const FitArguments& arguments) {
   const FitColumns columns = ReadColumns(arguments);
   if (arguments.classic) return WriteResult(ClassicOutput(columns, arguments));
   const FittedModel model = FitOf(columns, arguments);
-  const std::string output =
-      arguments.json ? JsonOf(columns, model, arguments) : TextOf(columns, model, arguments);
-  RemarkOnSmallFigures(model, arguments);
+  const std::vector<ReportPart> parts = PartsOf(columns, model, arguments);
+  const std::string output = arguments.output.IsJson() ? JsonOf(columns, model, arguments)
+                                                       : PrintedOf(parts, columns, arguments);
+  RemarkOnHidden(OnOneLine(InputName(arguments.table.file)) + ": ", parts, arguments.output);
+  RemarkOnUnderflow(model, arguments);
   if (!arguments.residual_file.empty()) WriteResiduals(columns, model.fit, arguments);
   WriteResult(output);
 }
@@ -66,7 +71,7 @@ void AddFit(CLI::App& program) {
   CLI::App& fit = *program.add_subcommand(
       "fit", "Lines, polynomials and linear functions of several columns by least squares");
   for (const FitCurve& curve : kCurves) AddCurve(fit, curve);
-  RequireOneCommand(fit, "A command of fit");
+  RequireOneCommand(fit, "model");
 }
 
 }  // namespace qorvex::apps

@@ -91,8 +91,6 @@ void FitArguments::AddTo(CLI::App& command) {
   table.AddFileTo(command,
                   "Skip rows with an empty cell in a column of the fit and report how many,\n"
                   "instead of refusing them");
-  AddDecimals(command, decimals,
-              "Decimals of the report. Default: the shortest text that keeps all 80 bits");
   if (curve->has_classic_routine) {
     CLI::Option* const option = command.add_flag(
         "--classic", classic,
@@ -104,7 +102,7 @@ void FitArguments::AddTo(CLI::App& command) {
       option->excludes(command.get_option(other));
     }
   }
-  AddJson(command, json);
+  output.AddTo(command);
 }
 
 }  // namespace qorvex::apps

@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/table_arguments.h"
 #include "qorvex/base/vector_types.h"
@@ -45,9 +46,8 @@ struct FitArguments {
   /// Of each --predict, one value of each predictor.
   std::vector<TQorFloatVector> places = {};
   std::string residual_file = {};
-  std::optional<int> decimals = {};
+  OutputFormat output = {};
   bool classic = false;
-  bool json = false;
 
   /// Adds the options of the curve to its command. This object must outlive the parsing.
   void AddTo(CLI::App& command);

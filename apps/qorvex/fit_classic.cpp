@@ -20,12 +20,6 @@ namespace qorvex::apps {
 
 namespace {
 
-struct Figure {
-  const char* key;
-  std::string label;
-  Extended value;
-};
-
 struct ClassicFit {
   std::vector<Figure> columns;
   TQorFloatVector coefficients;
@@ -81,45 +75,31 @@ std::string ClassicOutput(const FitColumns& columns, const FitArguments& argumen
     fit = FitOf(columns.x[0].numbers.Values(), y, arguments.degree);
     for (const std::vector<Figure>& figures : {fit.columns, fit.quality})
       for (const Figure& figure : figures)
-        if (!std::isfinite(figure.value)) throw EOverflow();
+        if (!std::isfinite(std::get<Extended>(figure.value))) throw EOverflow();
   } catch (const EMathError& error) {
     throw Refusal(InputName(arguments.table.file), error,
                   "; without --classic there is no such limit");
   }
-  if (arguments.json) {
+  if (arguments.output.IsJson()) {
     JsonWriter json;
     json.BeginObject();
     WriteHead(json, columns, columns.y.numbers.size(), arguments);
-    const auto add = [&json](const std::vector<Figure>& figures) {
-      for (const Figure& figure : figures) {
-        json.Key(figure.key);
-        json.Number(figure.value);
-      }
-    };
-    add(fit.columns);
+    WriteFigures(json, fit.columns);
     json.Key("coefficients");
-    json.BeginArray();
-    for (const Extended coefficient : fit.coefficients) json.Number(coefficient);
-    json.EndArray();
-    add(fit.quality);
+    json.Numbers(fit.coefficients);
+    WriteFigures(json, fit.quality);
     json.EndObject();
     return json.TakeText();
   }
-  std::string text;
-  const auto line = [&text](const std::string& label, const std::string& figure) {
-    text += label + '\t' + figure + '\n';
-  };
-  const auto add = [&](const std::vector<Figure>& figures) {
-    for (const Figure& figure : figures)
-      line(figure.label, FigureText(figure.value, arguments.decimals));
-  };
-  line(ReportText(rsDSNoOfValues), Int2EStr(columns.y.numbers.size()));
-  add(fit.columns);
-  line(arguments.degree == 1 ? ReportText(rsDSRegressionLine) : arguments.curve->label,
+  ReportPart part{.key = "fit"};
+  part.figures = {{"count", ReportText(rsDSNoOfValues), std::uint64_t{columns.y.numbers.size()}}};
+  part.figures.insert(part.figures.end(), fit.columns.begin(), fit.columns.end());
+  part.figures.push_back(
+      {"formula", arguments.degree == 1 ? ReportText(rsDSRegressionLine) : arguments.curve->label,
        Formula({"Constant", "x", "x^2"}, fit.coefficients, Intercept::kIncluded,
-               arguments.decimals));
-  add(fit.quality);
-  return text;
+               FormatOf(columns, arguments))});
+  part.figures.insert(part.figures.end(), fit.quality.begin(), fit.quality.end());
+  return PrintedOf({part}, columns, arguments);
 }
 
 }  // namespace qorvex::apps

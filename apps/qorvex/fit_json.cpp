@@ -54,9 +54,7 @@ class FitJson {
       Figure("covariance", of_pairs(&PairFigures::covariance));
     }
     json_.Key("coefficients");
-    json_.BeginArray();
-    for (const Extended coefficient : fit_.Values()) json_.Number(coefficient);
-    json_.EndArray();
+    json_.Numbers(fit_.Values());
     Figure("sum_of_squared_errors", fit_.ResidualSumOfSquares());
     if (arguments_.curve->IsPolynomial())
       Figure("correlation", of_pairs(&PairFigures::correlation));
@@ -94,9 +92,7 @@ class FitJson {
       const Prediction& at = model_.predictions[i];
       json_.BeginObject();
       json_.Key("x");
-      json_.BeginArray();
-      for (const Extended x : arguments_.places[i]) json_.Number(x);
-      json_.EndArray();
+      json_.Numbers(arguments_.places[i]);
       Figure("fitted", at.value);
       Figure("standard_error", at.standard_error);
       Ends("interval", at.confidence);
@@ -181,7 +177,7 @@ void WriteHead(JsonWriter& json, const FitColumns& columns, std::size_t count,
   }
   json.Key("count");
   json.Integer(count);
-  json.Key("skipped");
+  json.Key("missing");
   json.Integer(columns.y.skipped);
 }
 

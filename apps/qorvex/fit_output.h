@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// The two forms of the output of `fit`.
+/// The forms of the output of `fit`.
 
 #include <cstddef>
 #include <optional>
@@ -11,6 +11,7 @@
 #include "apps/qorvex/fit_arguments.h"
 #include "apps/qorvex/fit_model.h"
 #include "apps/qorvex/json_writer.h"
+#include "apps/qorvex/report_parts.h"
 
 namespace qorvex::apps {
 
@@ -18,14 +19,21 @@ namespace qorvex::apps {
 /// a constant.
 [[nodiscard]] std::string Formula(const std::vector<std::string>& terms,
                                   const TQorFloatVector& coefficients, Intercept intercept,
-                                  std::optional<int> decimals);
+                                  const FigureFormat& format);
 
-/// Lines of figures, then tables of coefficients, of predictions and of the analysis of variance.
-[[nodiscard]] std::string TextOf(const FitColumns& columns, const FittedModel& model,
-                                 const FitArguments& arguments);
+/// The format of the figures of a report on the columns.
+[[nodiscard]] FigureFormat FormatOf(const FitColumns& columns, const FitArguments& arguments);
 
-/// Writes remarks if figures are too small for the decimals or for the format.
-void RemarkOnSmallFigures(const FittedModel& model, const FitArguments& arguments);
+/// The parts of a report in that form.
+[[nodiscard]] std::string PrintedOf(const std::vector<ReportPart>& parts, const FitColumns& columns,
+                                    const FitArguments& arguments);
+
+/// Figures, then tables of coefficients, of predictions and of the analysis of variance.
+[[nodiscard]] std::vector<ReportPart> PartsOf(const FitColumns& columns, const FittedModel& model,
+                                              const FitArguments& arguments);
+
+/// Writes a remark if figures are too small for the format.
+void RemarkOnUnderflow(const FittedModel& model, const FitArguments& arguments);
 
 /// The keys that both JSON documents begin with, from the file to the number of rows.
 void WriteHead(JsonWriter& json, const FitColumns& columns, std::size_t count,

@@ -16,7 +16,7 @@ namespace qorvex::apps {
 namespace {
 
 std::string ResidualTable(const FitColumns& columns, const LinearFit& fit,
-                          std::optional<int> decimals) {
+                          const FigureFormat& format) {
   const Columns predictors = columns.Predictors();
   const TQorFloatVector fitted = fit.FittedValues(predictors);
   const TQorFloatVector residuals = fit.Residuals(predictors, ViewOf(columns.y.numbers));
@@ -27,7 +27,7 @@ std::string ResidualTable(const FitColumns& columns, const LinearFit& fit,
   for (std::size_t i = 0; i < fitted.size(); ++i) {
     table += Int2EStr(i + 1) + ',';
     AppendLine(table, std::initializer_list<Extended>{fitted[i], residuals[i], leverages[i]},
-               decimals);
+               format);
   }
   return table;
 }
@@ -43,7 +43,7 @@ void WriteResiduals(const FitColumns& columns, const LinearFit& fit,
     throw InputError(InputFault::kUnreadable, InputName(name),
                      "--residuals would replace the table");
   }
-  const std::string table = ResidualTable(columns, fit, arguments.decimals);
+  const std::string table = ResidualTable(columns, fit, arguments.output.ForNumbers());
   const auto require = [&name](bool done) {
     if (!done) throw std::system_error(errno, std::generic_category(), name);
   };

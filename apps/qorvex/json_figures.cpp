@@ -1,29 +1,11 @@
 #include "apps/qorvex/json_figures.h"
 
-#include <utility>
+#include <array>
+#include <cmath>
 
 namespace qorvex::apps {
 
 namespace {
-
-// In their order.
-constexpr std::pair<const char*, ReportTextId> kFigures[] = {
-    {"sum", rsDSSum},
-    {"sum_of_squares", rsDSSumSQ},
-    {"mean", rsDSMean},
-    {"variance", rsDSVariance},
-    {"standard_deviation", rsDSStdDev},
-    {"skewness", rsDSSkew},
-    {"excess_kurtosis", rsDSKurtosis},
-    {"minimum", rsDSMinimum},
-    {"first_quartile", rsDSQtr1},
-    {"median", rsDSMedian},
-    {"third_quartile", rsDSQtr3},
-    {"maximum", rsDSMaximum},
-    {"range", rsDSRange},
-    {"interquartile_range", rsDSIQR},
-    {"mode", rsDSMode},
-};
 
 const char* NameOf(TestForm form) {
   switch (form) {
@@ -43,22 +25,6 @@ const char* NameOf(TestForm form) {
 
 }  // namespace
 
-void WriteFigures(JsonWriter& json, const std::vector<ReportFigure>& lines,
-                  const std::map<ReportTextId, Currency>& amounts) {
-  // A figure that does not exist has another label.
-  std::map<ReportTextId, std::optional<Extended>> values;
-  for (const ReportFigure& line : lines) values.emplace(line.label, line.value);
-  for (const auto& [key, id] : kFigures) {
-    json.Key(key);
-    const auto amount = amounts.find(id);
-    if (amount != amounts.end()) {
-      json.Amount(amount->second);
-    } else {
-      json.Number(values[id]);
-    }
-  }
-}
-
 void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& name) {
   json.Key("column");
   json.Integer(number);
@@ -67,14 +33,8 @@ void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& na
 }
 
 void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval) {
-  if (!interval) {
-    json.Null();
-    return;
-  }
-  json.BeginArray();
-  json.Number(interval->least);
-  json.Number(interval->greatest);
-  json.EndArray();
+  if (!interval || std::isnan(interval->least)) return json.Null();
+  json.Numbers(std::array{interval->least, interval->greatest});
 }
 
 void WriteTestResult(JsonWriter& json, const std::optional<TestResult>& result) {

@@ -4,28 +4,19 @@
 /// Figures, intervals and tests in JSON documents.
 
 #include <cstddef>
-#include <map>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include "apps/qorvex/json_writer.h"
-#include "qorvex/base/currency.h"
-#include "qorvex/stats/descriptive_stats.h"
 #include "qorvex/stats/distributions/distribution.h"
 #include "qorvex/stats/inference/test_result.h"
 
 namespace qorvex::apps {
 
-/// The keys and values of the figures of a report from the sum to the mode; null for those without
-/// a line. Amounts take the place of the figures with the same labels.
-void WriteFigures(JsonWriter& json, const std::vector<ReportFigure>& lines,
-                  const std::map<ReportTextId, Currency>& amounts = {});
-
 /// The number and the name of a column: the keys column and name. The name is null if it is empty.
 void WriteColumnKeys(JsonWriter& json, std::size_t number, const std::string& name);
 
-/// Two ends, or null.
+/// Two ends, or null for none and for NaN.
 void WriteInterval(JsonWriter& json, const std::optional<Interval<Extended>>& interval);
 
 /// The keys and values of a test: statistic, degrees of freedom, p and its logarithm, and where p

@@ -5,6 +5,9 @@
 
 #include <concepts>
 #include <optional>
+#include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -18,41 +21,41 @@ namespace qorvex::apps {
 /// order of calls: in an object, a key before each value.
 class JsonWriter {
  public:
-  void BeginObject() { Open('{'); }
-  void EndObject() { Close('}'); }
-  void BeginArray() { Open('['); }
-  void EndArray() { Close(']'); }
+  JsonWriter() { writer_.SetIndent(' ', 2); }
+
+  void BeginObject() { writer_.StartObject(); }
+  void EndObject() { writer_.EndObject(); }
+  void BeginArray() { writer_.StartArray(); }
+  void EndArray() { writer_.EndArray(); }
 
   /// The key of the next value.
-  void Key(std::string_view key);
+  void Key(std::string_view key) { String(key); }
 
   /// A string; bytes that are not valid UTF-8 become U+FFFD.
   void String(std::string_view text);
   /// A string, or null for an empty one.
   void StringOrNull(std::string_view text);
-  void Bool(bool value) { Raw(value ? "true" : "false"); }
-  void Integer(std::integral auto value) { Raw(Int2EStr(value)); }
+  void Bool(bool value) { writer_.Bool(value); }
+  void Integer(std::integral auto value) { Number(Int2EStr(value)); }
   /// The shortest text that is read back as the same 80-bit value; null for no value, NaN and
   /// infinities.
   void Number(std::optional<Extended> value);
+  /// An array of such numbers on one line.
+  void Numbers(std::span<const Extended> values);
   /// The exact amount, as a number with four decimals.
-  void Amount(Currency amount) { Raw(Currency2EStr(amount)); }
-  void Null() { Raw("null"); }
+  void Amount(Currency amount) { Number(Currency2EStr(amount)); }
+  void Null() { writer_.Null(); }
 
-  /// The document, with a line break at the end. Leaves the writer empty.
+  /// The document, with a line break at the end. Nothing can be written after that.
   [[nodiscard]] std::string TakeText();
 
  private:
-  void Open(char bracket);
-  void Close(char bracket);
-  void Raw(std::string_view token);
-  void StartValue();
-  void StartLine();
+  void Number(const std::string& text) {
+    writer_.RawValue(text.data(), text.size(), rapidjson::kNumberType);
+  }
 
-  std::string text_;
-  std::size_t depth_ = 0;
-  bool first_in_container_ = true;
-  bool after_key_ = false;
+  rapidjson::StringBuffer text_;
+  rapidjson::PrettyWriter<rapidjson::StringBuffer> writer_{text_};
 };
 
 }  // namespace qorvex::apps

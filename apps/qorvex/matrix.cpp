@@ -12,9 +12,13 @@
 #include "apps/common/matrix_reader.h"
 #include "apps/common/text_input.h"
 #include "apps/common/threads.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/matrix_operations.h"
+#include "apps/qorvex/output_format.h"
+#include "apps/qorvex/result_table.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/comparisons.h"
 #include "qorvex/base/errors.h"
@@ -39,7 +43,7 @@ constexpr const char* kResultHelp = R"(
 struct MatrixArguments {
   std::vector<std::string> files;
   MatrixLayout layout;
-  std::optional<int> decimals;
+  OutputFormat output;
   unsigned threads = 1;
 };
 
@@ -112,12 +116,30 @@ Matrices ReadAll(const MatrixArguments& arguments) {
   return operands;
 }
 
+// Aligned, or as a JSON array of the rows.
+std::string Presented(const TQorFloatMatrix& matrix, const OutputFormat& output) {
+  if (output.IsJson()) {
+    JsonWriter json;
+    json.BeginArray();
+    for (const TQorFloatVector& row : matrix) json.Numbers(row);
+    json.EndArray();
+    return json.TakeText();
+  }
+  ResultTable table{.columns = std::vector<ResultTable::Column>(matrix[0].size())};
+  for (const TQorFloatVector& row : matrix) table.rows.emplace_back(row.begin(), row.end());
+  return AlignedTextOf(table, output.ForReport());
+}
+
 void Write(const TQorFloatMatrix& matrix, const MatrixArguments& arguments) {
+  const OutputFormat& output = arguments.output;
+  if (output.IsJson() || output.form == OutputForm::kTable)
+    return WriteResult(Presented(matrix, output));
+  const FigureFormat format = output.ForNumbers();
   std::vector<std::string> texts(arguments.threads);
   ForEachBlock(matrix.size(), arguments.threads,
                [&](std::size_t block, std::size_t begin, std::size_t end) {
                  for (std::size_t i = begin; i < end; ++i)
-                   AppendLine(texts[block], matrix[i], arguments.decimals);
+                   AppendLine(texts[block], matrix[i], format);
                });
   for (const std::string& text : texts) WritePart(text);
   WriteResult("");
@@ -156,8 +178,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
   command.add_flag("--header", arguments->layout.has_header,
                    "Skip the first row, which contains names");
   if (operation.takes_decimals) {
-    AddDecimals(command, arguments->decimals,
-                "Decimals of the result. Default: the shortest text that keeps all 80 bits");
+    arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
   }
   AddThreads(command, arguments->threads,
              "Threads that read two matrices, multiply and format the result, which is the\n"
@@ -181,7 +202,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
 void AddMatrix(CLI::App& program) {
   CLI::App& matrix = *program.add_subcommand("matrix", "Inverses, products and ranks of matrices");
   for (const MatrixOperation& operation : MatrixOperations()) AddOperation(matrix, operation);
-  RequireOneCommand(matrix, "A command of matrix");
+  RequireOneCommand(matrix, "command");
 }
 
 }  // namespace qorvex::apps

@@ -14,6 +14,16 @@ namespace qorvex::apps {
 /// The form of a result.
 enum class OutputForm : std::uint8_t { kText, kTable, kCsv, kJson };
 
+/// The largest argument of --digits and --decimals.
+inline constexpr int kMostDigits = 255;
+
+/// @{
+/// Descriptions of the default of --digits.
+inline constexpr const char* kReportDigits =
+    "as many as the\nnumbers have and one more, at least 7";
+inline constexpr const char* kAllDigits = "the shortest\ntext that keeps all 80 bits";
+/// @}
+
 /// What the options of a command say about its output.
 struct OutputFormat {
   OutputForm form = OutputForm::kText;
@@ -24,12 +34,12 @@ struct OutputFormat {
   /// @}
   bool grouped = false;
 
-  /// Adds --digits, --decimals, --group, --table, --csv and --json to a command. This object must
-  /// outlive the parsing.
-  void AddTo(CLI::App& command);
+  /// Adds --digits, --decimals, --group, --table, --csv and --json to a command. The description is
+  /// that of the default of the first two. This object must outlive the parsing.
+  void AddTo(CLI::App& command, const char* default_digits = kReportDigits);
 
-  /// Adds --digits, --decimals and --group only, for figures in a form of their own.
-  void AddDigitsTo(CLI::App& command, const char* default_digits);
+  /// Adds --digits, --decimals and --group only, for figures that have one form.
+  void AddDigitsTo(CLI::App& command, const char* default_digits = kAllDigits);
 
   [[nodiscard]] bool IsJson() const { return form == OutputForm::kJson; }
 

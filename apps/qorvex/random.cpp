@@ -9,9 +9,12 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/distributions.h"
 #include "apps/common/variates.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/checked_math.h"
@@ -46,7 +49,7 @@ struct RandomArguments {
   const VariateMethod* method;
   std::uint64_t count = 1;
   std::optional<std::uint64_t> seed;
-  std::optional<int> decimals;
+  OutputFormat output;
 };
 
 using SharedArguments = std::shared_ptr<RandomArguments>;
@@ -55,22 +58,21 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
                   const SharedArguments& arguments) {
   const std::size_t index = arguments->parameters.size();
   arguments->parameters.Append({parameter.start});
+  if (parameter.kind != NumberKind::kReals) {
+    AddParameter(command, parameter,
+                 [arguments, index](Extended value) { arguments->parameters.Set(index, {value}); });
+    return;
+  }
   const std::string name = parameter.option;
-  CLI::Option& option = parameter.kind == NumberKind::kReals
-                            ? *command
-                                   .add_option_function<std::string>(
-                                       name,
-                                       [arguments, index, name](const std::string& text) {
-                                         arguments->parameters.Set(
-                                             index, ParseNumbers(name, text, NumberKind::kReals));
-                                       },
-                                       parameter.Description())
-                                   ->type_name("X,X,...")
-                            : AddNumber(command, name, parameter.Description(), parameter.kind,
-                                        [arguments, index](Extended value) {
-                                          arguments->parameters.Set(index, {value});
-                                        });
-  if (!parameter.has_default) option.required();
+  command
+      .add_option_function<std::string>(
+          name,
+          [arguments, index, name](const std::string& text) {
+            arguments->parameters.Set(index, ParseNumbers(name, text, NumberKind::kReals));
+          },
+          parameter.Description())
+      ->type_name("X,X,...")
+      ->required();
 }
 
 void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments& arguments) {
@@ -96,11 +98,12 @@ void PrintVariates(const RandomArguments& arguments) {
   TQorFloatVector figures = TQorFloatVector::WithLength(1);
   std::string line;
   const Draw draw = arguments.method->prepare(arguments.parameters);
+  const FigureFormat format = arguments.output.ForNumbers();
   for (std::uint64_t i = 0; i < arguments.count; ++i) {
     draw(figures, ClassicRandom);
     for (const Extended figure : figures) CheckedFinite(figure);
     line.clear();
-    AppendLine(line, figures, arguments.decimals);
+    AppendLine(line, figures, format);
     WritePart(line);
   }
   WriteResult("");
@@ -129,6 +132,7 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
 
 void AddVariate(CLI::App& random, const Variate& variate) {
   CLI::App& command = *random.add_subcommand(variate.name, variate.summary);
+  AddAliases(command, OtherNames(variate.name));
   const auto arguments = std::make_shared<RandomArguments>();
   for (const NumberParameter& parameter : variate.parameters)
     AddParameter(command, parameter, arguments);
@@ -139,14 +143,13 @@ void AddVariate(CLI::App& random, const Variate& variate) {
         "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
         "Draw with the classic routine of QorvexRandom, which has the limits below");
   }
-  AddNumber(command, "--count", "The number of variates. Default: 1", NumberKind::kUint64,
+  AddNumber(command, "-n,--count", "The number of variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
   AddNumber(command, "--seed",
             "The seed, up to 18446744073709551615. Default: taken from the operating system",
             NumberKind::kUint64,
             [arguments](Extended n) { arguments->seed = static_cast<std::uint64_t>(n); });
-  AddDecimals(command, arguments->decimals,
-              "Decimals of every figure. Default: the shortest text that keeps all 80 bits");
+  arguments->output.AddDigitsTo(command);
   command.footer(kVariatesHelp + LimitsHelp(variate) + kExitStatusHelp);
   command.callback([&variate, arguments] { Run(variate, *arguments); });
 }
@@ -156,7 +159,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
 void AddRandom(CLI::App& program) {
   CLI::App& random = *program.add_subcommand("random", "Random variates");
   for (const Variate& variate : Variates()) AddVariate(random, variate);
-  RequireOneCommand(random, "A variate");
+  RequireOneCommand(random, "variate");
 }
 
 }  // namespace qorvex::apps

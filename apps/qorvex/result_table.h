@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/common/figure_format.h"
+#include "apps/common/number_parameter.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/output_format.h"
 #include "qorvex/base/currency.h"
@@ -16,10 +17,10 @@
 
 namespace qorvex::apps {
 
-/// A part of a result: nothing, a text, a number of things, an exact amount, a figure (NaN if it
-/// does not exist), a probability or an interval.
-using Cell = std::variant<std::monostate, std::string, std::uint64_t, Currency, Extended,
-                          Probability, Interval<Extended>>;
+/// A part of a result: nothing, a text, a number of things, a number that the user wrote, an exact
+/// amount, a figure (NaN if it does not exist), a probability or an interval.
+using Cell = std::variant<std::monostate, std::string, std::uint64_t, WrittenNumber, Currency,
+                          Extended, Probability, Interval<Extended>>;
 
 /// A cell in text: "" for nothing, "Not available" for NaN, "1 to 2" for an interval.
 [[nodiscard]] std::string CellText(const Cell& cell, const FigureFormat& format);

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "apps/common/hypothesis_tests.h"
+#include "apps/qorvex/output_format.h"
 #include "apps/qorvex/table_arguments.h"
 
 namespace qorvex::apps {
@@ -19,8 +20,7 @@ struct TestArguments : TestSettings {
   std::optional<std::string> by = {};
   /// A second column of counts.
   std::optional<std::string> proportions = {};
-  std::optional<int> decimals = {};
-  bool json = false;
+  OutputFormat output = {};
 
   /// Adds the options of a test. This object must outlive the parsing.
   void AddTo(CLI::App& command, const HypothesisTest& test);

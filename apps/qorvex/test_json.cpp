@@ -29,6 +29,8 @@ void Write(JsonWriter& json, const TestSample& sample) {
     WriteColumnKeys(json, sample.column, sample.name);
     json.Key("group");
     json.StringOrNull(sample.group);
+    json.Key("missing");
+    json.Integer(sample.missing);
   }
   Write(json, sample.figures);
   json.EndObject();

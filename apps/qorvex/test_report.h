@@ -12,10 +12,10 @@ namespace qorvex::apps {
 
 struct TestArguments;
 
-/// Writes a remark if figures of the reports are too small for the format.
+/// Writes remarks if figures of the reports are too small for the format or for the decimals.
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments);
 
-/// The reports, separated by blank lines.
+/// The reports in text, separated by blank lines, or in CSV.
 [[nodiscard]] std::string TextOf(const std::vector<TestReport>& reports,
                                  const TestArguments& arguments);
 

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "apps/common/cells.h"
+#include "apps/common/figure_format.h"
 #include "apps/common/groups.h"
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
@@ -20,7 +21,11 @@ using SampleList = std::vector<NumberSample>;
 }
 
 NumberSample SampleOf(const TableColumn& column) {
-  return {column.numbers, {.column = column.number, .name = column.name}};
+  return {column.numbers,
+          {.column = column.number,
+           .name = column.name,
+           .missing = column.skipped,
+           .significant_digits = SignificantDigits(column.numbers)}};
 }
 
 // The groups are in the order in which their labels appear.
@@ -32,7 +37,9 @@ std::vector<NumberSample> SamplesOf(const TableColumn& column, const TableColumn
     samples.push_back({std::move(group.numbers),
                        {.column = column.number,
                         .name = column.name,
-                        .group = label_name + " = " + OnOneLine(label)}});
+                        .group = label_name + " = " + OnOneLine(label),
+                        .missing = group.missing,
+                        .significant_digits = SignificantDigits(column.numbers)}});
   }
   return samples;
 }

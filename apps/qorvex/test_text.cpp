@@ -1,14 +1,15 @@
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "apps/common/hidden_figures.h"
 #include "apps/common/input_error.h"
-#include "apps/common/probability_text.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/report_parts.h"
 #include "apps/qorvex/test_arguments.h"
 #include "apps/qorvex/test_report.h"
 #include "apps/qorvex/text_output.h"
-#include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "qorvex/stats/distributions/chi_square.h"
@@ -35,70 +36,80 @@ const char* TextOf(TestForm form) {
   return "limit for large samples";
 }
 
-class TestText {
- public:
-  TestText(const TestReport& report, const TestArguments& arguments)
-      : report_(report), result_(report.result), arguments_(arguments) {}
+// A number without decimals if it is whole.
+Cell Whole(Extended figure) {
+  const bool is_whole = figure >= 0 && figure < 0x1p63L && figure == std::floor(figure);
+  return is_whole ? Cell(static_cast<std::uint64_t>(figure)) : Cell(figure);
+}
 
-  [[nodiscard]] std::string Take() {
-    text_ = report_.title + '\n';
-    for (const TestSample& sample : report_.samples) AddSample(sample);
-    AddFigures(report_.figures);
-    Line(ReportText(rsNullHypothesis), report_.null_hypothesis);
-    Line(ReportText(rsAlternateHypothesis), report_.alternate_hypothesis);
+std::vector<Figure> FiguresOf(const std::vector<TestFigure>& of_test) {
+  std::vector<Figure> figures;
+  for (const TestFigure& figure : of_test) {
+    figures.push_back(
+        {figure.key, figure.label, figure.is_count ? Whole(figure.value) : Cell(figure.value)});
+  }
+  return figures;
+}
+
+ReportPart PartOf(const TestSample& sample) {
+  ReportPart part{.key = "sample", .figures = FiguresOf(sample.figures)};
+  if (sample.column == 0) return part;
+  part.item = sample.name.empty() ? "Column " + Int2EStr(sample.column) : sample.name;
+  part.title = "Column " + Int2EStr(sample.column);
+  if (!sample.name.empty()) part.title += ": " + OnOneLine(sample.name);
+  if (!sample.group.empty()) {
+    part.item += ", " + sample.group;
+    part.title += ", " + sample.group;
+  }
+  if (sample.missing > 0) {
+    part.figures.insert(part.figures.begin() + 1,
+                        {"missing", "Missing Values:", std::uint64_t{sample.missing}});
+  }
+  return part;
+}
+
+// The figures of a test behind those of its samples.
+class TestResultFigures {
+ public:
+  TestResultFigures(const TestReport& report, const TestArguments& arguments,
+                    const FigureFormat& format)
+      : report_(report), result_(report.result), arguments_(arguments), format_(format) {}
+
+  [[nodiscard]] std::vector<Figure> Take() {
+    figures_ = FiguresOf(report_.figures);
+    Add("null_hypothesis", ReportText(rsNullHypothesis), report_.null_hypothesis);
+    Add("alternate_hypothesis", ReportText(rsAlternateHypothesis), report_.alternate_hypothesis);
     AddResult();
     AddDecision();
-    AddIntervals();
-    return std::move(text_);
+    if (!report_.intervals.empty())
+      Add("confidence", ReportText(rsDSConfidence), arguments_.confidence);
+    for (const TestInterval& interval : report_.intervals)
+      Add(interval.key, interval.label, interval.ends);
+    return std::move(figures_);
   }
 
  private:
-  // Whole numbers have no decimals.
-  [[nodiscard]] std::string Number(Extended figure) const {
-    const bool is_whole = std::isfinite(figure) && figure == std::floor(figure);
-    return is_whole ? Float2EStr(figure, 0) : Figure(figure);
-  }
-  [[nodiscard]] std::string Figure(Extended figure) const {
-    return AvailableText(figure, arguments_.decimals);
-  }
-
-  void Line(const std::string& label, const std::string& value) {
-    text_ += label + '\t' + value + '\n';
-  }
-
-  void AddSample(const TestSample& sample) {
-    if (sample.column != 0) {
-      text_ += "Column " + Int2EStr(sample.column);
-      if (!sample.name.empty()) text_ += ": " + OnOneLine(sample.name);
-      if (!sample.group.empty()) text_ += ", " + sample.group;
-      text_ += '\n';
-    }
-    AddFigures(sample.figures);
-  }
-
-  void AddFigures(const std::vector<TestFigure>& figures) {
-    for (const TestFigure& figure : figures)
-      Line(figure.label, figure.is_count ? Number(figure.value) : Figure(figure.value));
+  void Add(const char* key, const std::string& label, const Cell& value) {
+    figures_.push_back({key, label, value});
   }
 
   void AddResult() {
-    Line(ReportText(rsTestStatistic),
-         report_.statistic_is_count ? Number(result_.statistic) : Figure(result_.statistic));
-    if (!std::isnan(result_.degrees_of_freedom)) {
-      const std::string second = std::isnan(result_.second_degrees_of_freedom)
-                                     ? ""
-                                     : " and " + Number(result_.second_degrees_of_freedom);
-      Line("Degrees of Freedom:", Number(result_.degrees_of_freedom) + second);
+    Add("statistic", ReportText(rsTestStatistic),
+        report_.statistic_is_count ? Whole(result_.statistic) : Cell(result_.statistic));
+    if (!std::isnan(result_.degrees_of_freedom))
+      Add("degrees_of_freedom", "Degrees of Freedom:", Whole(result_.degrees_of_freedom));
+    if (!std::isnan(result_.second_degrees_of_freedom)) {
+      Add("second_degrees_of_freedom",
+          "Second Degrees of Freedom:", Whole(result_.second_degrees_of_freedom));
     }
-    Line("Form of the Test:", TextOf(result_.form));
-    Line(ReportText(rsPValue),
-         std::isnan(result_.p) ? MessageText(rsNA)
-                               : ProbabilityText(result_.p, result_.log_p, arguments_.decimals));
+    Add("form", "Form of the Test:", TextOf(result_.form));
+    Add("p", ReportText(rsPValue), Probability{result_.p, result_.log_p});
   }
 
   void AddDecision() {
     const Extended significance = arguments_.Significance();
-    Line(ReportText(rsDSSignificance), Float2Str(significance));
+    Add("significance", ReportText(rsDSSignificance),
+        WrittenNumber{Float2Str(significance), significance});
     if (std::isnan(result_.p)) return;
     switch (report_.law) {
       case StatisticLaw::kStudentT:
@@ -116,18 +127,20 @@ class TestText {
         break;
     }
     const bool is_rejected = result_.p <= significance;
-    text_ += ReportText(is_rejected ? rsRejected : rsNotRejected) + '\n';
-    text_ += ReportText(is_rejected ? rsRejectReason : rsNotRejectReason) + '\n';
+    figures_.push_back({"rejected", "Rejected:", is_rejected ? "yes" : "no",
+                        ReportText(is_rejected ? rsRejected : rsNotRejected)});
+    figures_.push_back(
+        {"reason", "", {}, ReportText(is_rejected ? rsRejectReason : rsNotRejectReason)});
   }
 
   template <class Law>
   void AddRejectionRegion(const Law& law, Extended significance) {
     const std::string symbol = report_.symbol;
     const auto below = [&](Extended p) {
-      return symbol + " <= " + Figure(law.Quantile(Tail::kLower, p));
+      return symbol + " <= " + format_.Text(law.Quantile(Tail::kLower, p));
     };
     const auto above = [&](Extended p) {
-      return symbol + " >= " + Figure(law.Quantile(Tail::kUpper, p));
+      return symbol + " >= " + format_.Text(law.Quantile(Tail::kUpper, p));
     };
     std::string region;
     switch (report_.alternative) {
@@ -141,44 +154,63 @@ class TestText {
         region = above(significance);
         break;
     }
-    Line(ReportText(rsRejectionRegion), region);
-  }
-
-  void AddIntervals() {
-    if (report_.intervals.empty()) return;
-    Line(ReportText(rsDSConfidence), arguments_.confidence.text);
-    for (const TestInterval& interval : report_.intervals)
-      Line(interval.label, Figure(interval.ends.least) + " to " + Figure(interval.ends.greatest));
+    Add("rejection_region", ReportText(rsRejectionRegion), region);
   }
 
   const TestReport& report_;
   const TestResult& result_;
   const TestArguments& arguments_;
-  std::string text_;
+  const FigureFormat& format_;
+  std::vector<Figure> figures_;
 };
+
+int DigitsOf(const TestReport& report) {
+  int digits = 0;
+  for (const TestSample& sample : report.samples)
+    digits = std::max(digits, sample.significant_digits);
+  return digits;
+}
+
+std::vector<ReportPart> PartsOf(const TestReport& report, const TestArguments& arguments) {
+  std::vector<ReportPart> parts;
+  for (const TestSample& sample : report.samples) parts.push_back(PartOf(sample));
+  const FigureFormat format = arguments.output.ForReport(DigitsOf(report));
+  parts.push_back({.key = "test",
+                   .item = parts.size() == 1 ? parts[0].item : "",
+                   .figures = TestResultFigures(report, arguments, format).Take()});
+  return parts;
+}
 
 }  // namespace
 
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments) {
+  const std::string& file = arguments.table.file;
+  const std::string place = file.empty() ? "" : OnOneLine(InputName(file)) + ": ";
   UnderflowedFigures underflowed;
+  std::vector<ReportPart> parts;
   for (const TestReport& report : reports) {
     for (const TestFigure& figure : report.figures) underflowed.Check(figure.value, figure.witness);
     for (const TestInterval& interval : report.intervals) {
       underflowed.Check(interval.ends.least, interval.witness);
       underflowed.Check(interval.ends.greatest, interval.witness);
     }
+    std::ranges::move(PartsOf(report, arguments), std::back_inserter(parts));
   }
-  if (underflowed.count > 0)
-    WriteRemark(OnOneLine(InputName(arguments.table.file)) + ": " + underflowed.Remark());
+  if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
+  RemarkOnHidden(place, parts, arguments.output);
 }
 
 std::string TextOf(const std::vector<TestReport>& reports, const TestArguments& arguments) {
   std::string text;
+  std::vector<ReportPart> all_parts;
   for (const TestReport& report : reports) {
+    std::vector<ReportPart> parts = PartsOf(report, arguments);
     if (!text.empty()) text += '\n';
-    text += TestText(report, arguments).Take();
+    text += report.title + '\n' + TextOf(parts, arguments.output, DigitsOf(report));
+    std::ranges::move(parts, std::back_inserter(all_parts));
   }
-  return text;
+  return arguments.output.form == OutputForm::kCsv ? CsvOf(all_parts, arguments.output.ForReport())
+                                                   : text;
 }
 
 }  // namespace qorvex::apps

@@ -1,12 +1,8 @@
 #include "apps/qorvex/text_output.h"
 
 #include <cerrno>
-#include <cmath>
 #include <cstdio>
 #include <system_error>
-
-#include "qorvex/base/errors.h"
-#include "qorvex/base/text.h"
 
 namespace qorvex::apps {
 
@@ -18,18 +14,10 @@ void RequireWritten(bool written) {
 
 }  // namespace
 
-std::string FigureText(Extended figure, std::optional<int> decimals) {
-  return decimals ? Float2EStr(figure, *decimals) : Float2Str(figure);
-}
-
-std::string AvailableText(Extended figure, std::optional<int> decimals) {
-  return std::isnan(figure) ? MessageText(rsNA) : FigureText(figure, decimals);
-}
-
-void AppendLine(std::string& text, std::span<const Extended> figures, std::optional<int> decimals) {
+void AppendLine(std::string& text, std::span<const Extended> figures, const FigureFormat& format) {
   for (std::size_t i = 0; i < figures.size(); ++i) {
     if (i > 0) text += ',';
-    text += FigureText(figures[i], decimals);
+    text += format.Text(figures[i]);
   }
   text += '\n';
 }

@@ -3,23 +3,17 @@
 /// @file
 /// Formatting of figures, standard output and standard error.
 
-#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 
+#include "apps/common/figure_format.h"
 #include "qorvex/base/element_types.h"
 
 namespace qorvex::apps {
 
-/// A figure with the given number of decimals, or the shortest text that keeps all its bits.
-[[nodiscard]] std::string FigureText(Extended figure, std::optional<int> decimals);
-
-/// The same, or "Not available" for NaN.
-[[nodiscard]] std::string AvailableText(Extended figure, std::optional<int> decimals);
-
 /// Appends a line of figures separated by commas.
-void AppendLine(std::string& text, std::span<const Extended> figures, std::optional<int> decimals);
+void AppendLine(std::string& text, std::span<const Extended> figures, const FigureFormat& format);
 
 /// Writes the whole result of a command to standard output. A command that fails halfway thus
 /// prints nothing. Throws std::system_error if any byte could not be written.

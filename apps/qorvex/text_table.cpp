@@ -20,7 +20,7 @@ std::string ShortName(const std::string& name) {
 }
 
 std::string AlignedRows(const std::vector<std::vector<std::string>>& rows,
-                        std::size_t left_columns) {
+                        const std::vector<bool>& on_the_left) {
   std::vector<std::size_t> widths(1);
   for (const auto& row : rows) {
     if (row.size() == 1) continue;
@@ -34,7 +34,7 @@ std::string AlignedRows(const std::vector<std::vector<std::string>>& rows,
     for (std::size_t i = 0; i < row.size(); ++i) {
       const std::string blanks(widths[i] - std::min(widths[i], CharacterCount(row[i])), ' ');
       if (i > 0) line += "  ";
-      line += i < left_columns ? row[i] + blanks : blanks + row[i];
+      line += on_the_left[i] ? row[i] + blanks : blanks + row[i];
     }
     line.erase(line.find_last_not_of(' ') + 1);
     text += line + '\n';

@@ -16,9 +16,9 @@ namespace qorvex::apps {
 /// A name on one line of at most 20 characters, cut at an ellipsis.
 [[nodiscard]] std::string ShortName(const std::string& name);
 
-/// Rows in columns as wide as their texts, two blanks apart. As many columns as given start on
-/// the left, the others end on the right. A row of one cell does not count for the width.
+/// Rows in columns as wide as their texts, two blanks apart. The flags say which columns start on
+/// the left; the others end on the right. A row of one cell does not count for the width.
 [[nodiscard]] std::string AlignedRows(const std::vector<std::vector<std::string>>& rows,
-                                      std::size_t left_columns);
+                                      const std::vector<bool>& on_the_left);
 
 }  // namespace qorvex::apps

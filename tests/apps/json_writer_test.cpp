@@ -19,7 +19,7 @@ TEST(JsonWriter, EscapesStringsAndReplacesInvalidUtf8) {
     json.String(text);
     EXPECT_EQ(json.TakeText(), '"' + written + "\"\n");
   };
-  expect("a \"b\" \\ \n\r\t\x01\x7F/", R"(a \"b\" \\ \n\r\t\u0001\u007f/)");
+  expect("a \"b\" \\ \n\r\t\x01/", R"(a \"b\" \\ \n\r\t\u0001/)");
   expect({"\0", 1}, "\\u0000");
   // The first and last characters of each length, and the neighbours of the surrogates.
   const std::string valid = "\u007E\u0080\u07FF\u0800\uD7FF\uE000\uFFFF\U00010000\U0010FFFF";

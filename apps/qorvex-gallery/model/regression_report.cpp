@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "apps/common/probability_text.h"
+#include "apps/common/figure_format.h"
 #include "apps/qorvex-gallery/model/texts.h"
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
@@ -27,7 +27,8 @@ QString RoundedText(Extended figure, Extended standard_error) {
 }
 
 QString ProbabilityText(Extended p, Extended log_p) {
-  return std::isnan(p) ? Dash() : LocalText(apps::RoundedProbabilityText(p, log_p));
+  constexpr apps::FigureFormat format{.kind = apps::FigureFormat::Kind::kDigits, .count = 4};
+  return std::isnan(p) ? Dash() : LocalText(format.Text(apps::Probability{p, log_p}));
 }
 
 QString TextOrDash(Extended figure) {
