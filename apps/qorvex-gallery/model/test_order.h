@@ -44,7 +44,8 @@ struct TestOutcome {
 
 /// Runs the test. Values that are written as decimals count as such: differences and ties are
 /// exact. Missing values are left out, with their rows for pairs, proportions and tables of counts.
-/// The samples of a report have the titles of their columns, or the names of their groups, as names.
+/// The samples of a report have the titles of their columns, or the names of their groups, as
+/// names.
 [[nodiscard]] TestOutcome RunTest(const TestOrder& order);
 
 /// What the page shows of an outcome.

@@ -16,13 +16,13 @@ const TestTexts::Texts& TestTexts::Find(const char* name) {
       "The values are independent and come from normal distributions. This test is sensitive to "
       "other distributions, however many values there are.");
   static const char* const counts = QT_TR_NOOP(
-      "The counted events are independent of one another. The approximation is good if all expected "
+      "The counted events are independent of one another. The approximation is good if all "
+      "expected "
       "counts are at least 5.");
   static const Texts all[] = {
-      {"one-sample-t", QT_TR_NOOP("One mean (Student's t)"), normal,
-       QT_TR_NOOP("The mean is %1."), QT_TR_NOOP("The mean is not %1."),
-       QT_TR_NOOP("The mean is less than %1."), QT_TR_NOOP("The mean is greater than %1."),
-       QT_TR_NOOP("Mean")},
+      {"one-sample-t", QT_TR_NOOP("One mean (Student's t)"), normal, QT_TR_NOOP("The mean is %1."),
+       QT_TR_NOOP("The mean is not %1."), QT_TR_NOOP("The mean is less than %1."),
+       QT_TR_NOOP("The mean is greater than %1."), QT_TR_NOOP("Mean")},
       {"welch", QT_TR_NOOP("Two means (Welch's t)"),
        QT_TR_NOOP("The values are independent, and each sample comes from a normal distribution. "
                   "The variances may differ. The more values there are, the less the form of the "
@@ -32,8 +32,9 @@ const TestTexts::Texts& TestTexts::Find(const char* name) {
        QT_TR_NOOP("The first mean less the second is below %1."),
        QT_TR_NOOP("The first mean less the second is above %1."), QT_TR_NOOP("Difference")},
       {"two-sample-t", QT_TR_NOOP("Two means, equal variances (Student's t)"),
-       QT_TR_NOOP("The values are independent, and both samples come from normal distributions with "
-                  "the same variance. Use Welch's test unless you know that."),
+       QT_TR_NOOP(
+           "The values are independent, and both samples come from normal distributions with "
+           "the same variance. Use Welch's test unless you know that."),
        QT_TR_NOOP("The first mean less the second is %1."),
        QT_TR_NOOP("The first mean less the second is not %1."),
        QT_TR_NOOP("The first mean less the second is below %1."),
@@ -79,11 +80,11 @@ const TestTexts::Texts& TestTexts::Find(const char* name) {
        QT_TR_NOOP("The differences x − y are symmetric about %1."),
        QT_TR_NOOP("The differences x − y are symmetric about another centre than %1."),
        QT_TR_NOOP("The centre of the differences x − y is less than %1."),
-       QT_TR_NOOP("The centre of the differences x − y is greater than %1."),
-       QT_TR_NOOP("Centre")},
+       QT_TR_NOOP("The centre of the differences x − y is greater than %1."), QT_TR_NOOP("Centre")},
       {"kolmogorov-smirnov", QT_TR_NOOP("One distribution (Kolmogorov-Smirnov)"),
-       QT_TR_NOOP("The values are independent, and the parameters of the distribution were known "
-                  "beforehand. With parameters that were estimated from the values, p is too large."),
+       QT_TR_NOOP(
+           "The values are independent, and the parameters of the distribution were known "
+           "beforehand. With parameters that were estimated from the values, p is too large."),
        QT_TR_NOOP("The values follow the distribution."),
        QT_TR_NOOP("The values do not follow the distribution."),
        QT_TR_NOOP("The values tend to be larger: their distribution function lies below."),
