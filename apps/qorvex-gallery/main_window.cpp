@@ -17,6 +17,7 @@
 #include "apps/qorvex-gallery/pages/random_page.h"
 #include "apps/qorvex-gallery/pages/regression_page.h"
 #include "apps/qorvex-gallery/pages/test_page.h"
+#include "apps/qorvex-gallery/widgets/help_window.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
@@ -53,8 +54,7 @@ MainWindow::MainWindow(QWidget* parent)
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));
   MakeViewMenu(*menuBar()->addMenu(tr("&View")));
-  QMenu* const help = menuBar()->addMenu(tr("&Help"));
-  help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
+  MakeHelpMenu(*menuBar()->addMenu(tr("&Help")));
   connect(&data_->Document(), &SheetDocument::TitleChanged, this, &MainWindow::ShowTitle);
   connect(&sheet_, &Sheet::Changed, this, &MainWindow::ShowTitle);
   ShowTitle();
@@ -131,6 +131,12 @@ void MainWindow::ChooseAppearance(Appearance appearance) {
     if (action->data().toInt() == static_cast<int>(appearance)) action->trigger();
 }
 
+void MainWindow::MakeHelpMenu(QMenu& menu) {
+  menu.addAction(tr("&This Page"), QKeySequence::HelpContents, this, &MainWindow::ShowHelp);
+  menu.addSeparator();
+  menu.addAction(tr("&About"), this, &MainWindow::ShowAbout);
+}
+
 // A star marks unsaved changes.
 void MainWindow::ShowTitle() {
   setWindowTitle(tr("%1[*] – Qorvex Gallery").arg(data_->Document().Title()));
@@ -140,6 +146,12 @@ void MainWindow::ShowTitle() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   data_->View().CommitText();
   event->setAccepted((KeepSession && KeepSession()) || data_->Document().MayGo());
+}
+
+// The sections of the document have the names of the pages.
+void MainWindow::ShowHelp() {
+  if (help_ == nullptr) help_ = new HelpWindow(this);
+  help_->Open(QStringLiteral("gallery.md"), pages_->currentWidget()->objectName());
 }
 
 void MainWindow::ShowAbout() {

@@ -84,6 +84,7 @@ RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
           new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure,
                            FigureTable::kFigure, FigureTable::kFigure, FigureTable::kFigure})),
       quality_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      tables_(new QScrollArea),
       remark_(new QLabel) {
   setObjectName("regressionPage");
   values_->addWidget(MakeOwnValues());
@@ -212,18 +213,15 @@ QLayout* RegressionPage::MakeResults() {
   tables_layout->addSpacing(fontMetrics().height() / 2);
   tables_layout->addWidget(quality_);
   tables_layout->addStretch(1);
-  auto* const area = new QScrollArea;
-  area->setWidget(tables);
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);
-  // As high as the tables, unless that leaves too little for the diagrams.
-  area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  tables_->setWidget(tables);
+  tables_->setWidgetResizable(true);
+  tables_->setFrameShape(QFrame::NoFrame);
+  tables_->setFocusPolicy(Qt::NoFocus);
   auto* const layout = new QVBoxLayout;
   layout->addLayout(head);
-  layout->addLayout(plots, 1);
+  layout->addLayout(plots, 3);
   layout->addSpacing(fontMetrics().height() / 2);
-  layout->addWidget(area);
+  layout->addWidget(tables_, 2);
   return layout;
 }
 
@@ -331,6 +329,8 @@ void RegressionPage::ShowFit(const RegressionReport& report) {
   coefficients_->SetRows(coefficient_rows_);
   quality_->SetRows(quality_rows_);
   FigureTable::Align(*coefficients_, *quality_);
+  // Scrolls rather than take more than its share of the page from the diagrams.
+  tables_->setMaximumHeight(tables_->widget()->sizeHint().height());
 }
 
 QString RegressionPage::RemarkOn(std::size_t left_out) const {

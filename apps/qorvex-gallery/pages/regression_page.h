@@ -8,6 +8,7 @@
 
 class QComboBox;
 class QLabel;
+class QScrollArea;
 class QSpinBox;
 class QStackedWidget;
 
@@ -85,6 +86,7 @@ class RegressionPage : public Page {
   PlotView* residuals_;
   FigureTable* coefficients_;
   FigureTable* quality_;
+  QScrollArea* tables_;
   QLabel* remark_;
 };
 
