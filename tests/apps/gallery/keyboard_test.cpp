@@ -7,13 +7,17 @@
 #include <QMenuBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTranslator>
 #include <QtTest/QTest>
 #include <map>
 #include <vector>
 
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/background_work.h"
+#include "apps/qorvex-gallery/model/translations.h"
+#include "qorvex/base/Qorvex_rs_math.h"
 #include "qorvex/controls/panel/cell_panel.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "support/test.h"
 
 namespace qorvex::gallery {
@@ -46,9 +50,21 @@ bool Follows(const QRect& now, const QRect& before) {
          now.contains(before);
 }
 
-struct Keyboard : testing::Test {
-  Keyboard() {
+// The texts of the window in a language.
+struct Language {
+  explicit Language(QLocale::Language language) {
     QLocale::setDefault(QLocale::c());
+    InstallTranslations(QLocale(language));
+  }
+  ~Language() {
+    qDeleteAll(qApp->findChildren<QTranslator*>());
+    SetMessageLookup({});
+    SetReportLookup({});
+  }
+};
+
+struct Keyboard : testing::TestWithParam<QLocale::Language> {
+  Keyboard() {
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   }
@@ -101,10 +117,16 @@ struct Keyboard : testing::Test {
     return found;
   }
 
+  Language language{GetParam()};
   MainWindow window;
 };
 
-TEST_F(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
+INSTANTIATE_TEST_SUITE_P(Languages, Keyboard, testing::Values(QLocale::English, QLocale::German),
+                         [](const auto& of) {
+                           return QLocale::languageToString(of.param).toStdString();
+                         });
+
+TEST_P(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
   for (int page = 0; page < window.Pages()->count(); ++page) {
     ShowPage(page);
     const std::string name = window.Pages()->tabText(page).toStdString();
@@ -119,7 +141,7 @@ TEST_F(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
   }
 }
 
-TEST_F(Keyboard, HasNoMnemonicTwice) {
+TEST_P(Keyboard, HasNoMnemonicTwice) {
   for (int page = 0; page < window.Pages()->count(); ++page) {
     ShowPage(page);
     for (const auto& [key, texts] : Mnemonics()) {
@@ -140,7 +162,7 @@ TEST_F(Keyboard, HasNoMnemonicTwice) {
 }
 
 // A screen reader says the name of the table with the element.
-TEST_F(Keyboard, TellsTheEditorsOfAPageApart) {
+TEST_P(Keyboard, TellsTheEditorsOfAPageApart) {
   for (int page = 0; page < window.Pages()->count(); ++page) {
     ShowPage(page);
     std::map<std::string, QWidget*> editors;

@@ -46,9 +46,9 @@ TEST_F(RegressionPageTest, ShowsTheFitAndFollowsEdits) {
   };
   Paste("0\t1\n1\t2\n2\t5\n3\t7");
   expect({{"coefficients", "Constant", 5, "0.6 0.4950 -1.5297 2.7297 0.3492"},
-          {"coefficients", "x", 5, "2.1 0.2646 0.9616 3.2384 0.01550"},
+          {"coefficients", "x", 5, "2.1 0.2646 0.9616 3.2384 0.0155"},
           {"quality", "Sum of squared errors", 1, "0.7"},
-          {"quality", "p of the whole fit", 1, "0.01550"},
+          {"quality", "p of the whole fit", 1, "0.0155"},
           {"quality", "Correlation of x and y", 1, "0.9844951849708403885"}});
   const auto described = [this](const char* plot) {
     return Find<PlotView>(plot).accessibleDescription();
