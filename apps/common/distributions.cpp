@@ -22,29 +22,30 @@ std::vector<Family> AllFamilies() {
   const NumberParameter location = {"--location", "location", kReal, 0, true};
   return {
       {.name = "normal",
-       .aliases = {"gaussian"},
+       .aliases = {"norm", "gaussian"},
        .summary = "The normal distribution",
        .parameters = {kMean, kStdDev},
        .make = [](Numbers p) { return Erase(NormalDistribution(p[0], p[1])); },
        .classic = kClassicNormal},
       {.name = "log-normal",
-       .aliases = {"lognormal"},
+       .aliases = {"lognormal", "lnorm"},
        .summary = "The log-normal distribution; mean and standard deviation of ln X",
        .parameters = {kMean, kStdDev},
        .make = [](Numbers p) { return Erase(LogNormalDistribution(p[0], p[1])); },
        .classic = kClassicLogNormal},
       {.name = "exponential",
+       .aliases = {"exp"},
        .summary = "The exponential distribution",
-       .parameters = {{"--mean", "mean, 1 / rate", NumberKind::kPositive, 2}},
+       .parameters = {{"--mean", "mean", NumberKind::kPositive, 2, false, "", "--rate"}},
        .make = [](Numbers p) { return Erase(ExponentialDistribution(p[0])); },
        .classic = kClassicExponential},
       {.name = "gamma",
        .summary = "The gamma distribution",
-       .parameters = {{"--shape", "shape", kShape, 2}, kScale},
+       .parameters = {{"--shape", "shape", kShape, 2}, kGammaScale},
        .make = [](Numbers p) { return Erase(GammaDistribution(p[0], p[1])); },
        .classic = kClassicGamma},
       {.name = "chi-square",
-       .aliases = {"chi-squared"},
+       .aliases = {"chi-squared", "chisq", "chi2"},
        .summary = "The chi-square distribution",
        .parameters = {df},
        .make = [](Numbers p) { return Erase(ChiSquareDistribution(p[0])); },
@@ -63,8 +64,16 @@ std::vector<Family> AllFamilies() {
        .classic = kClassicF},
       {.name = "beta",
        .summary = "The beta distribution, on [0, 1] or between two ends",
-       .parameters = {{"--a", "first shape", kShape, 2},
-                      {"--b", "second shape", kShape, 5},
+       .parameters = {{.option = "--a",
+                       .name = "first shape",
+                       .kind = kShape,
+                       .start = 2,
+                       .aliases = "--alpha"},
+                      {.option = "--b",
+                       .name = "second shape",
+                       .kind = kShape,
+                       .start = 5,
+                       .aliases = "--beta"},
                       kLowerEnd,
                       kUpperEnd},
        .make =
@@ -72,6 +81,7 @@ std::vector<Family> AllFamilies() {
        .classic = kClassicBeta,
        .inconsistency = [](Numbers p) { return WhatIsWrongWithEnds(p[2], p[3]); }},
       {.name = "uniform",
+       .aliases = {"unif"},
        .summary = "The continuous uniform distribution between two ends",
        .parameters = {kLowerEnd, kUpperEnd},
        .make = [](Numbers p) { return Erase(UniformDistribution(p[0], p[1])); },
@@ -86,6 +96,7 @@ std::vector<Family> AllFamilies() {
        .parameters = {location, kScale},
        .make = [](Numbers p) { return Erase(GumbelDistribution(p[0], p[1])); }},
       {.name = "logistic",
+       .aliases = {"logis"},
        .summary = "The logistic distribution",
        .parameters = {location, kScale},
        .make = [](Numbers p) { return Erase(LogisticDistribution(p[0], p[1])); }},
@@ -95,11 +106,12 @@ std::vector<Family> AllFamilies() {
        .parameters = {location, kScale},
        .make = [](Numbers p) { return Erase(CauchyDistribution(p[0], p[1])); }},
       {.name = "von-mises",
+       .aliases = {"vonmises"},
        .summary = "The von Mises distribution of angles from -pi to pi",
-       .parameters = {{"--concentration", "concentration", kReal, 2}},
+       .parameters = {kConcentration},
        .make = [](Numbers p) { return Erase(VonMisesDistribution(p[0])); }},
       {.name = "generalised-inverse-gaussian",
-       .aliases = {"inverse-gaussian"},
+       .aliases = {"inverse-gaussian", "gig"},
        .summary =
            "The generalised inverse Gaussian distribution; density as "
            "x^(b-1) exp(-h/2 (x + 1/x)). The inverse Gaussian distribution with a mean and a "
@@ -112,12 +124,14 @@ std::vector<Family> AllFamilies() {
              return Erase(GeneralisedInverseGaussianDistribution(p[0], p[1], p[2]));
            }},
       {.name = "binomial",
+       .aliases = {"binom"},
        .summary = "The binomial distribution: successes in independent trials",
        .parameters = {kSuccessProbability, {"--trials", "number of trials", kCount, 20}},
        .make = [](Numbers p) { return Erase(BinomialDistribution(p[0], Count(p[1]))); },
        .is_discrete = true,
        .classic = kClassicBinomial},
       {.name = "hypergeometric",
+       .aliases = {"hyper"},
        .summary =
            "The hypergeometric distribution: successes in a sample drawn without replacement",
        .parameters = {{"--pop-size", "size of the population", kCount, 100},
@@ -130,20 +144,22 @@ std::vector<Family> AllFamilies() {
        .is_discrete = true,
        .classic = kClassicHypergeometric},
       {.name = "poisson",
+       .aliases = {"pois"},
        .summary = "The Poisson distribution",
        .parameters = {kLambda},
        .make = [](Numbers p) { return Erase(PoissonDistribution(p[0])); },
        .is_discrete = true,
        .classic = kClassicPoisson},
       {.name = "geometric",
+       .aliases = {"geom"},
        .summary = "The geometric distribution: failures before the first success",
        .parameters = {kSuccessProbability},
        .make = [](Numbers p) { return Erase(GeometricDistribution(p[0])); },
        .is_discrete = true},
       {.name = "negative-binomial",
+       .aliases = {"nbinom"},
        .summary = "The negative binomial distribution: successes before a given number of failures",
-       .parameters = {{kSuccessProbability.option, kSuccessProbability.name,
-                       NumberKind::kProbability, kSuccessProbability.start},
+       .parameters = {kOpenSuccessProbability,
                       {"--failures", "number of failures, which need not be whole", kShape, 5}},
        .make = [](Numbers p) { return Erase(NegativeBinomialDistribution(p[0], p[1])); },
        .is_discrete = true},
@@ -163,6 +179,15 @@ const Family* FindFamily(std::string_view name) {
   };
   const auto found = std::ranges::find_if(Families(), is_named);
   return found == Families().end() ? nullptr : &*found;
+}
+
+std::vector<const char*> OtherNames(std::string_view name) {
+  const Family* const family = FindFamily(name);
+  if (family == nullptr) return {};
+  std::vector<const char*> names = {family->name};
+  names.insert(names.end(), family->aliases.begin(), family->aliases.end());
+  std::erase_if(names, [name](const char* other) { return other == name; });
+  return names;
 }
 
 }  // namespace qorvex::apps

@@ -37,4 +37,7 @@ struct Family {
 /// The family with the given name or alias; null if no family has it.
 [[nodiscard]] const Family* FindFamily(std::string_view name);
 
+/// The other names of the family with the given name or alias; none if no family has it.
+[[nodiscard]] std::vector<const char*> OtherNames(std::string_view name);
+
 }  // namespace qorvex::apps

@@ -57,6 +57,8 @@ struct NullValue {
 /// An entry of the catalogue.
 struct HypothesisTest {
   const char* name;
+  /// Other names of its command.
+  std::vector<const char*> aliases = {};
   const char* summary;
   TestInput input;
   NullValue null_value = {};

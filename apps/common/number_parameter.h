@@ -44,22 +44,42 @@ struct NumberParameter {
   /// What a form starts with, and the option's default if it has one.
   Extended start = 0;
   bool has_default = false;
+  /// Other names of the option, with commas between them.
+  const char* aliases = "";
+  /// An option that takes 1 / the parameter, such as the rate instead of the mean; or empty.
+  const char* reciprocal = "";
 
   /// "The scale. Default: 1"
   [[nodiscard]] std::string Description() const;
 };
 
 inline constexpr NumberParameter kMean = {"--mean", "mean", NumberKind::kReal, 0, true};
-inline constexpr NumberParameter kStdDev = {"--std-dev", "standard deviation",
-                                            NumberKind::kPositive, 1, true};
+inline constexpr NumberParameter kStdDev = {
+    "--std-dev", "standard deviation", NumberKind::kPositive, 1, true, "--sd"};
 inline constexpr NumberParameter kScale = {"--scale", "scale", NumberKind::kPositive, 1, true};
-inline constexpr NumberParameter kLowerEnd = {"--lower-end", "lower end of the support",
-                                              NumberKind::kReal, 0, true};
-inline constexpr NumberParameter kUpperEnd = {"--upper-end", "upper end of the support",
-                                              NumberKind::kReal, 1, true};
-inline constexpr NumberParameter kSuccessProbability = {
-    "--success-probability", "probability of success in each trial", NumberKind::kShare, 0.3L};
-inline constexpr NumberParameter kLambda = {"--lambda", "mean", NumberKind::kPositive, 4};
+inline constexpr NumberParameter kGammaScale = {"--scale", "scale", NumberKind::kPositive, 1, true,
+                                                "",        "--rate"};
+inline constexpr NumberParameter kLowerEnd = {
+    "--lower-end", "lower end of the support", NumberKind::kReal, 0, true, "--min"};
+inline constexpr NumberParameter kUpperEnd = {
+    "--upper-end", "upper end of the support", NumberKind::kReal, 1, true, "--max"};
+inline constexpr NumberParameter kConcentration = {
+    "--concentration", "concentration", NumberKind::kReal, 2, false, "--kappa"};
+inline constexpr NumberParameter kSuccessProbability = {"--success-probability",
+                                                        "probability of success in each trial",
+                                                        NumberKind::kShare,
+                                                        0.3L,
+                                                        false,
+                                                        "--prob"};
+/// The same where 0 and 1 are excluded.
+inline constexpr NumberParameter kOpenSuccessProbability = {"--success-probability",
+                                                            "probability of success in each trial",
+                                                            NumberKind::kProbability,
+                                                            0.3L,
+                                                            false,
+                                                            "--prob"};
+inline constexpr NumberParameter kLambda = {"--lambda", "mean", NumberKind::kPositive,
+                                            4,          false,  "--mean,--rate"};
 
 /// What is wrong with a number of the given kind; null if it is valid.
 [[nodiscard]] const char* WhatIsWrong(Extended value, NumberKind kind);

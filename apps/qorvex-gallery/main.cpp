@@ -2,14 +2,19 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QIcon>
 #include <QLocale>
+#include <QStandardPaths>
 #include <QStyleFactory>
 
 #include "apps/qorvex-gallery/appearance.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/translations.h"
+#include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/screenshots.h"
+#include "apps/qorvex-gallery/session.h"
+#include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "qorvex/base/version.h"
 
 namespace {
@@ -18,6 +23,18 @@ namespace {
 void FixAppearance() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+// The name, version and icon of the application.
+void SetIdentity() {
+  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
+  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 256})
+    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
@@ -52,14 +69,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
-  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
-  QIcon icon;
-  for (const int size : {16, 32, 48, 256})
-    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
-  QApplication::setWindowIcon(icon);
+  SetIdentity();
   parser.process(application);
   if (parser.isSet(language)) {
     QLocale::setDefault(QLocale(parser.value(language)));
@@ -70,13 +80,17 @@ int main(int argc, char** argv) {
   qorvex::gallery::InstallTranslations();
   using qorvex::gallery::Appearance;
   qorvex::gallery::SetAppearance(Appearance::kSystem);
-  if (parser.isSet(dark)) {
-    qorvex::gallery::SetAppearance(Appearance::kDark);
-  } else if (takes_pictures) {
-    qorvex::gallery::SetAppearance(Appearance::kLight);
-  }
+  if (takes_pictures) qorvex::gallery::SetAppearance(Appearance::kLight);
 
   qorvex::gallery::MainWindow window;
+  const qorvex::gallery::Session session(
+      QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
+  if (!takes_pictures) {
+    session.Restore(window);
+    window.KeepSession = [&] { return session.Save(window); };
+  }
+  if (parser.isSet(dark)) window.ChooseAppearance(Appearance::kDark);
+  if (takes_pictures) window.Data().Document().OpenExample();
   if (!parser.positionalArguments().isEmpty()) window.Open(parser.positionalArguments().front());
   if (takes_pictures) {
     return qorvex::gallery::WriteScreenshots(window, parser.value(screenshot)) ? 0 : 1;

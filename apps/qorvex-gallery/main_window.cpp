@@ -11,14 +11,15 @@
 #include <QTabWidget>
 #include <QUrl>
 
-#include "apps/qorvex-gallery/appearance.h"
-#include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/pages/distribution_page.h"
 #include "apps/qorvex-gallery/pages/matrix_page.h"
 #include "apps/qorvex-gallery/pages/random_page.h"
 #include "apps/qorvex-gallery/pages/regression_page.h"
 #include "apps/qorvex-gallery/widgets/help_window.h"
+#include "apps/qorvex-gallery/widgets/recent_files.h"
+#include "apps/qorvex-gallery/widgets/sheet_document.h"
+#include "apps/qorvex-gallery/widgets/sheet_view.h"
 #include "qorvex/base/version.h"
 
 namespace qorvex::gallery {
@@ -34,7 +35,11 @@ QString DraggedFile(const QDropEvent& event) {
 }  // namespace
 
 MainWindow::MainWindow(QWidget* parent)
-    : QMainWindow(parent), sheet_(new Sheet(this)), pages_(new QTabWidget), data_(new DataPage) {
+    : QMainWindow(parent),
+      pages_(new QTabWidget),
+      data_(new DataPage(sheet_)),
+      recent_(new RecentFiles(this)),
+      appearances_(new QActionGroup(this)) {
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
@@ -42,62 +47,103 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new MatrixPage, "matrix", tr("Matrix"));
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
-  AddPage(new RegressionPage(*sheet_), "regression", tr("Regression"));
+  AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
   setCentralWidget(pages_);
-  MakeMenus();
-  connect(data_, &DataPage::TitleChanged, this, &MainWindow::ShowTitle);
+  MakeFileMenu(*menuBar()->addMenu(tr("&File")));
+  MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));
+  MakeViewMenu(*menuBar()->addMenu(tr("&View")));
+  MakeHelpMenu(*menuBar()->addMenu(tr("&Help")));
+  connect(&data_->Document(), &SheetDocument::TitleChanged, this, &MainWindow::ShowTitle);
+  connect(&sheet_, &Sheet::Changed, this, &MainWindow::ShowTitle);
   ShowTitle();
   resize(1100, 720);
 }
 
-MainWindow::~MainWindow() = default;
+MainWindow::~MainWindow() {
+  // The pages refer to the sheet.
+  sheet_.disconnect(this);
+  delete takeCentralWidget();
+}
 
 void MainWindow::AddPage(Page* page, const char* name, const QString& title) {
   page->setObjectName(QLatin1String(name));
   pages_->addTab(page, title);
 }
 
-void MainWindow::MakeMenus() {
-  QMenu* const file = menuBar()->addMenu(tr("&File"));
-  QAction* const open = file->addAction(tr("&Open…"), this, [this] {
-    pages_->setCurrentWidget(data_);
-    data_->ChooseFile();
+void MainWindow::MakeFileMenu(QMenu& menu) {
+  SheetDocument* const document = &data_->Document();
+  const auto show_data = [this] { pages_->setCurrentWidget(data_); };
+  menu.addAction(tr("&New"), QKeySequence::New, document, &SheetDocument::NewSheet);
+  menu.addAction(tr("&Open…"), QKeySequence::Open, this, [=] {
+    show_data();
+    document->ChooseFile();
   });
-  open->setShortcut(QKeySequence::Open);
-  QAction* const save = file->addAction(tr("Save Data &As…"), data_, &DataPage::SaveAs);
-  save->setShortcut(QKeySequence::SaveAs);
-  file->addSeparator();
-  QAction* const quit = file->addAction(tr("&Quit"), this, &QWidget::close);
-  quit->setShortcut(QKeySequence::Quit);
+  menu.addMenu(recent_);
+  connect(recent_, &RecentFiles::Chosen, this, &MainWindow::Open);
+  connect(document, &SheetDocument::FileUsed, recent_, &RecentFiles::Add);
+  menu.addSeparator();
+  menu.addAction(tr("&Save Data"), QKeySequence::Save, document, &SheetDocument::Save);
+  menu.addAction(tr("Save Data &As…"), QKeySequence::SaveAs, document, &SheetDocument::SaveAs);
+  menu.addSeparator();
+  menu.addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
+}
 
-  QMenu* const view = menuBar()->addMenu(tr("&View"));
-  auto* const appearances = new QActionGroup(this);
-  const auto add_appearance = [&](const QString& text, Appearance appearance) {
-    QAction* const action =
-        view->addAction(text, this, [appearance] { SetAppearance(appearance); });
-    action->setCheckable(true);
-    action->setActionGroup(appearances);
-    return action;
+// The commands on the sheet. Its editor has the keys itself.
+void MainWindow::MakeEditMenu(QMenu& menu) {
+  SheetView* const view = &data_->View();
+  menu.addAction(tr("&Undo"), QKeySequence::Undo, view, &SheetView::UndoLast);
+  menu.addAction(tr("&Redo"), QKeySequence::Redo, &view->Editor(), &CellPanel::Redo);
+  menu.addSeparator();
+  menu.addAction(tr("Insert Ro&ws"), view, &SheetView::InsertRowsHere);
+  menu.addAction(tr("Insert &Columns"), view, &SheetView::InsertColumnsHere);
+  menu.addAction(tr("&Delete Rows"), view, &SheetView::DeleteRowsHere);
+  menu.addAction(tr("De&lete Columns"), view, &SheetView::DeleteColumnsHere);
+  menu.addSeparator();
+  view->AddCommands(menu);
+  const auto enable = [this, &menu] {
+    const bool shows_data = pages_->currentWidget() == data_;
+    for (QAction* const action : menu.actions()) action->setEnabled(shows_data);
   };
-  add_appearance(tr("&System Colors"), Appearance::kSystem)->setChecked(true);
-  add_appearance(tr("&Light"), Appearance::kLight);
-  add_appearance(tr("&Dark"), Appearance::kDark);
+  connect(pages_, &QTabWidget::currentChanged, &menu, enable);
+}
 
-  QMenu* const help = menuBar()->addMenu(tr("&Help"));
-  QAction* const this_page = help->addAction(tr("&This Page"), this, &MainWindow::ShowHelp);
-  this_page->setShortcut(QKeySequence::HelpContents);
-  help->addSeparator();
-  help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
+void MainWindow::MakeViewMenu(QMenu& menu) {
+  const auto add = [&](const QString& text, Appearance appearance) {
+    QAction* const action = menu.addAction(text, this, [appearance] { SetAppearance(appearance); });
+    action->setCheckable(true);
+    action->setData(static_cast<int>(appearance));
+    action->setActionGroup(appearances_);
+  };
+  add(tr("&System Colors"), Appearance::kSystem);
+  add(tr("&Light"), Appearance::kLight);
+  add(tr("&Dark"), Appearance::kDark);
+  appearances_->actions().constFirst()->setChecked(true);
+}
+
+void MainWindow::MakeHelpMenu(QMenu& menu) {
+  menu.addAction(tr("&This Page"), QKeySequence::HelpContents, this, &MainWindow::ShowHelp);
+  menu.addSeparator();
+  menu.addAction(tr("&About"), this, &MainWindow::ShowAbout);
+}
+
+Appearance MainWindow::ChosenAppearance() const {
+  return static_cast<Appearance>(appearances_->checkedAction()->data().toInt());
+}
+
+void MainWindow::ChooseAppearance(Appearance appearance) {
+  for (QAction* const action : appearances_->actions())
+    if (action->data().toInt() == static_cast<int>(appearance)) action->trigger();
 }
 
 // A star marks unsaved changes.
 void MainWindow::ShowTitle() {
-  setWindowTitle(tr("%1[*] – Qorvex Gallery").arg(data_->Title()));
-  setWindowModified(data_->IsChanged());
+  setWindowTitle(tr("%1[*] – Qorvex Gallery").arg(data_->Document().Title()));
+  setWindowModified(sheet_.IsChanged());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-  event->setAccepted(data_->MayGo());
+  data_->View().CommitText();
+  event->setAccepted((KeepSession && KeepSession()) || data_->Document().MayGo());
 }
 
 // The sections of the document have the names of the pages.
@@ -116,12 +162,12 @@ void MainWindow::ShowAbout() {
 }
 
 const QString& MainWindow::ReadingError() const {
-  return data_->ReadingError();
+  return data_->Document().ReadingError();
 }
 
 void MainWindow::Open(const QString& path) {
   pages_->setCurrentWidget(data_);
-  data_->Open(path);
+  data_->Document().Open(path);
 }
 
 void MainWindow::dragEnterEvent(QDragEnterEvent* event) {

@@ -5,7 +5,13 @@
 
 #include <QMainWindow>
 #include <QString>
+#include <functional>
 
+#include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/model/sheet.h"
+
+class QActionGroup;
+class QMenu;
 class QTabWidget;
 
 namespace qorvex::gallery {
@@ -13,10 +19,10 @@ namespace qorvex::gallery {
 class DataPage;
 class HelpWindow;
 class Page;
-class Sheet;
+class RecentFiles;
 
-/// The pages of the program in tabs. Files that are opened or dropped are shown on the page of
-/// data.
+/// The pages of the program in tabs, with the table that they share. Files that are opened or
+/// dropped are shown on the page of data.
 class MainWindow : public QMainWindow {
   Q_OBJECT
 
@@ -31,6 +37,18 @@ class MainWindow : public QMainWindow {
 
   /// The pages. The object name of a page is the name of its picture.
   [[nodiscard]] QTabWidget* Pages() const { return pages_; }
+  [[nodiscard]] DataPage& Data() const { return *data_; }
+  [[nodiscard]] const Sheet& Table() const { return sheet_; }
+  [[nodiscard]] RecentFiles& Recent() const { return *recent_; }
+  /// @{
+  /// The colours that are chosen in the View menu.
+  [[nodiscard]] Appearance ChosenAppearance() const;
+  void ChooseAppearance(Appearance appearance);
+  /// @}
+
+  /// Keeps what the user has done for the next start, unsaved changes included. If there is no such
+  /// function, or it returns false, closing the window asks about unsaved changes.
+  std::function<bool()> KeepSession;
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
@@ -39,16 +57,21 @@ class MainWindow : public QMainWindow {
 
  private:
   void AddPage(Page* page, const char* name, const QString& title);
-  void MakeMenus();
+  void MakeFileMenu(QMenu& menu);
+  void MakeEditMenu(QMenu& menu);
+  void MakeViewMenu(QMenu& menu);
+  void MakeHelpMenu(QMenu& menu);
   void ShowTitle();
   void ShowHelp();
   void ShowAbout();
 
-  Sheet* sheet_;
+  Sheet sheet_;
   QTabWidget* pages_;
   DataPage* data_;
   // Made when it is needed first.
   HelpWindow* help_ = nullptr;
+  RecentFiles* recent_;
+  QActionGroup* appearances_;
 };
 
 }  // namespace qorvex::gallery

@@ -37,4 +37,7 @@ void AddRandom(CLI::App& program);
 /// `selftest`: whether this machine computes the figures of the release.
 void AddSelfTest(CLI::App& program);
 
+/// `help`: the --help of a command.
+void AddHelp(CLI::App& program);
+
 }  // namespace qorvex::apps

@@ -66,12 +66,4 @@ CLI::Option* AddThreads(CLI::App& command, unsigned& threads, const std::string&
       ->option_text("N (1 to 256)");
 }
 
-void RequireOneCommand(CLI::App& app, const std::string& name) {
-  app.require_subcommand(0, 1);
-  // Checked here and not by require_subcommand, so that the message can quote a misspelt command.
-  app.callback([&app, name] {
-    if (app.get_subcommands().empty()) throw CLI::RequiredError(name);
-  });
-}
-
 }  // namespace qorvex::apps

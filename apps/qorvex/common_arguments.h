@@ -29,8 +29,4 @@ inline constexpr unsigned kMostThreads = 256;
 /// Adds --threads, 1 to kMostThreads.
 CLI::Option* AddThreads(CLI::App& command, unsigned& threads, const std::string& description);
 
-/// Makes an app require exactly one of its subcommands. The error message for a missing one starts
-/// with the given name.
-void RequireOneCommand(CLI::App& app, const std::string& name);
-
 }  // namespace qorvex::apps

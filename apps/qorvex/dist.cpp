@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "apps/common/distributions.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/output_format.h"
@@ -44,10 +45,8 @@ void AddNumberInOrder(CLI::App& command, const SharedArguments& arguments,
                       const NumberParameter& parameter) {
   const std::size_t index = arguments->numbers.size();
   arguments->numbers.push_back(parameter.start);
-  CLI::Option& option =
-      AddNumber(command, parameter.option, parameter.Description(), parameter.kind,
-                [arguments, index](Extended value) { arguments->numbers[index] = value; });
-  if (!parameter.has_default) option.required();
+  AddParameter(command, parameter,
+               [arguments, index](Extended value) { arguments->numbers[index] = value; });
 }
 
 NumberKind PointKind(const Family& family) {
@@ -301,11 +300,11 @@ void AddDist(CLI::App& program) {
       *program.add_subcommand("dist", "Probabilities, densities and quantiles of distributions");
   for (const Family& family : Families()) {
     CLI::App& command = *dist.add_subcommand(family.name, family.summary);
-    for (const char* const alias : family.aliases) command.alias(alias);
+    AddAliases(command, family.aliases);
     for (const Question& question : kQuestions) AddQuestion(command, family, question);
-    RequireOneCommand(command, std::string("A command of dist ") + family.name);
+    RequireOneCommand(command, "command");
   }
-  RequireOneCommand(dist, "A distribution");
+  RequireOneCommand(dist, "distribution");
 }
 
 }  // namespace qorvex::apps

@@ -2,6 +2,7 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/fit_arguments.h"
@@ -70,7 +71,7 @@ void AddFit(CLI::App& program) {
   CLI::App& fit = *program.add_subcommand(
       "fit", "Lines, polynomials and linear functions of several columns by least squares");
   for (const FitCurve& curve : kCurves) AddCurve(fit, curve);
-  RequireOneCommand(fit, "A command of fit");
+  RequireOneCommand(fit, "model");
 }
 
 }  // namespace qorvex::apps

@@ -12,6 +12,7 @@
 #include "apps/common/matrix_reader.h"
 #include "apps/common/text_input.h"
 #include "apps/common/threads.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/json_writer.h"
@@ -201,7 +202,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
 void AddMatrix(CLI::App& program) {
   CLI::App& matrix = *program.add_subcommand("matrix", "Inverses, products and ranks of matrices");
   for (const MatrixOperation& operation : MatrixOperations()) AddOperation(matrix, operation);
-  RequireOneCommand(matrix, "A command of matrix");
+  RequireOneCommand(matrix, "command");
 }
 
 }  // namespace qorvex::apps

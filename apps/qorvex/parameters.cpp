@@ -8,6 +8,11 @@
 
 namespace qorvex::apps {
 
+std::string LongName(const std::string& names) {
+  const std::size_t begin = names.find("--");
+  return names.substr(begin, names.find(',', begin) - begin);
+}
+
 Extended ParseNumber(const std::string& option, const std::string& text, NumberKind kind) {
   Extended value = 0;
   try {
@@ -30,14 +35,14 @@ TQorFloatVector ParseNumbers(const std::string& option, const std::string& text,
   return TQorFloatVector(numbers);
 }
 
-CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& option,
+CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& names,
                               const std::string& description, NumberKind kind,
                               WrittenNumber& number) {
   return *command
               .add_option_function<std::string>(
-                  option,
-                  [&number, option, kind](const std::string& text) {
-                    number = {text, ParseNumber(option, text, kind)};
+                  names,
+                  [&number, name = LongName(names), kind](const std::string& text) {
+                    number = {text, ParseNumber(name, text, kind)};
                   },
                   description)
               ->type_name("X");
@@ -47,6 +52,29 @@ CLI::Option& AddConfidence(CLI::App& command, const std::string& description,
                            WrittenNumber& level) {
   return *AddWrittenNumber(command, "--confidence", description, NumberKind::kProbability, level)
               .type_name("P");
+}
+
+void AddParameter(CLI::App& command, const NumberParameter& parameter,
+                  const std::function<void(Extended)>& set) {
+  const std::string aliases = parameter.aliases;
+  const std::string names = parameter.option + (aliases.empty() ? "" : ',' + aliases);
+  const std::string reciprocal = parameter.reciprocal;
+  if (reciprocal.empty()) {
+    AddNumber(command, names, parameter.Description(), parameter.kind, set)
+        .required(!parameter.has_default);
+    return;
+  }
+  CLI::Option_group& group = *command.add_option_group(
+      parameter.name, parameter.has_default ? "At most one of" : "One of");
+  group.require_option(parameter.has_default ? 0 : 1, 1);
+  AddNumber(group, names, parameter.Description(), parameter.kind, set);
+  AddNumber(group, reciprocal, std::string("1 / the ") + parameter.name, parameter.kind,
+            [=](Extended value) {
+              const char* const wrong = WhatIsWrong(1 / value, parameter.kind);
+              if (wrong != nullptr)
+                throw CLI::ValidationError(reciprocal, "1 / " + Float2Str(value) + ' ' + wrong);
+              set(1 / value);
+            });
 }
 
 InputError Refusal(const std::string& name, const EMathError& error, const std::string& remark) {

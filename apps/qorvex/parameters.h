@@ -4,6 +4,7 @@
 /// Options that take numbers, and the errors of routines that refuse them.
 
 #include <CLI/CLI.hpp>
+#include <functional>
 #include <string>
 
 #include "apps/common/input_error.h"
@@ -14,6 +15,9 @@
 
 namespace qorvex::apps {
 
+/// The first long one of an option's names, which messages call it by: "--count" of "-n,--count".
+[[nodiscard]] std::string LongName(const std::string& names);
+
 /// The number of the given kind in the argument of an option. Throws CLI::ValidationError.
 [[nodiscard]] Extended ParseNumber(const std::string& option, const std::string& text,
                                    NumberKind kind);
@@ -23,26 +27,32 @@ namespace qorvex::apps {
                                            NumberKind kind);
 
 /// Adds an option that sets such a number, which must outlive the parsing.
-CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& option,
+CLI::Option& AddWrittenNumber(CLI::App& command, const std::string& names,
                               const std::string& description, NumberKind kind,
                               WrittenNumber& number);
 
 /// Adds --confidence, which sets such a number.
 CLI::Option& AddConfidence(CLI::App& command, const std::string& description, WrittenNumber& level);
 
-/// Adds an option that takes one number. If the option is given, set is called with the number.
+/// Adds an option that takes one number; it may have several names, with commas between them. If
+/// the option is given, set is called with the number.
 template <class Set>
-CLI::Option& AddNumber(CLI::App& command, const std::string& option, const std::string& description,
+CLI::Option& AddNumber(CLI::App& command, const std::string& names, const std::string& description,
                        NumberKind kind, Set set) {
   return *command
               .add_option_function<std::string>(
-                  option,
-                  [option, kind, set](const std::string& text) {
-                    set(ParseNumber(option, text, kind));
+                  names,
+                  [name = LongName(names), kind, set](const std::string& text) {
+                    set(ParseNumber(name, text, kind));
                   },
                   description)
               ->type_name(kind >= NumberKind::kSteps ? "N" : "X");
 }
+
+/// Adds the option of a parameter under all its names, and the one that takes its reciprocal. If
+/// either is given, set is called with the parameter. It is required if it has no default.
+void AddParameter(CLI::App& command, const NumberParameter& parameter,
+                  const std::function<void(Extended)>& set);
 
 /// Converts the error of a routine into one of the program: "name: what", followed by the remark.
 [[nodiscard]] InputError Refusal(const std::string& name, const EMathError& error,

@@ -9,7 +9,9 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/distributions.h"
 #include "apps/common/variates.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/output_format.h"
@@ -56,22 +58,21 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
                   const SharedArguments& arguments) {
   const std::size_t index = arguments->parameters.size();
   arguments->parameters.Append({parameter.start});
+  if (parameter.kind != NumberKind::kReals) {
+    AddParameter(command, parameter,
+                 [arguments, index](Extended value) { arguments->parameters.Set(index, {value}); });
+    return;
+  }
   const std::string name = parameter.option;
-  CLI::Option& option = parameter.kind == NumberKind::kReals
-                            ? *command
-                                   .add_option_function<std::string>(
-                                       name,
-                                       [arguments, index, name](const std::string& text) {
-                                         arguments->parameters.Set(
-                                             index, ParseNumbers(name, text, NumberKind::kReals));
-                                       },
-                                       parameter.Description())
-                                   ->type_name("X,X,...")
-                            : AddNumber(command, name, parameter.Description(), parameter.kind,
-                                        [arguments, index](Extended value) {
-                                          arguments->parameters.Set(index, {value});
-                                        });
-  if (!parameter.has_default) option.required();
+  command
+      .add_option_function<std::string>(
+          name,
+          [arguments, index, name](const std::string& text) {
+            arguments->parameters.Set(index, ParseNumbers(name, text, NumberKind::kReals));
+          },
+          parameter.Description())
+      ->type_name("X,X,...")
+      ->required();
 }
 
 void AddMethods(CLI::App& command, const Variate& variate, const SharedArguments& arguments) {
@@ -131,6 +132,7 @@ void Run(const Variate& variate, const RandomArguments& arguments) {
 
 void AddVariate(CLI::App& random, const Variate& variate) {
   CLI::App& command = *random.add_subcommand(variate.name, variate.summary);
+  AddAliases(command, OtherNames(variate.name));
   const auto arguments = std::make_shared<RandomArguments>();
   for (const NumberParameter& parameter : variate.parameters)
     AddParameter(command, parameter, arguments);
@@ -141,7 +143,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
         "--classic", [&variate, arguments] { arguments->method = &*variate.classic; },
         "Draw with the classic routine of QorvexRandom, which has the limits below");
   }
-  AddNumber(command, "--count", "The number of variates. Default: 1", NumberKind::kUint64,
+  AddNumber(command, "-n,--count", "The number of variates. Default: 1", NumberKind::kUint64,
             [arguments](Extended n) { arguments->count = static_cast<std::uint64_t>(n); });
   AddNumber(command, "--seed",
             "The seed, up to 18446744073709551615. Default: taken from the operating system",
@@ -157,7 +159,7 @@ void AddVariate(CLI::App& random, const Variate& variate) {
 void AddRandom(CLI::App& program) {
   CLI::App& random = *program.add_subcommand("random", "Random variates");
   for (const Variate& variate : Variates()) AddVariate(random, variate);
-  RequireOneCommand(random, "A variate");
+  RequireOneCommand(random, "variate");
 }
 
 }  // namespace qorvex::apps

@@ -2,6 +2,7 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/parameters.h"
@@ -59,6 +60,7 @@ void AddTest(CLI::App& parent, const HypothesisTest& test, const Family* family 
   const char* const name = family == nullptr ? test.name : family->name;
   CLI::App& command =
       *parent.add_subcommand(name, family == nullptr ? test.summary : family->summary);
+  AddAliases(command, family == nullptr ? test.aliases : family->aliases);
   const auto arguments = std::make_shared<TestArguments>();
   arguments->family = family;
   arguments->AddTo(command, test);
@@ -74,9 +76,10 @@ void AddTest(CLI::App& parent, const HypothesisTest& test, const Family* family 
 
 void AddFamilies(CLI::App& parent, const HypothesisTest& test) {
   CLI::App& families = *parent.add_subcommand(test.name, test.summary);
+  AddAliases(families, test.aliases);
   for (const Family& family : Families())
     if (!family.is_discrete) AddTest(families, test, &family);
-  RequireOneCommand(families, "A distribution");
+  RequireOneCommand(families, "distribution");
 }
 
 }  // namespace
@@ -91,7 +94,7 @@ void AddTestCommands(CLI::App& program) {
     }
   }
   commands.footer(kExamples);
-  RequireOneCommand(commands, "A test");
+  RequireOneCommand(commands, "test");
 }
 
 }  // namespace qorvex::apps

@@ -28,16 +28,15 @@ void TestArguments::AddAlternative(CLI::App& command) {
       .add_option_function<std::string>(
           "--alternative",
           [this](const std::string& text) { alternative = ParseAlternative(text); },
-          "What the null hypothesis is tested against: two-sided, less or greater.\n"
-          "Default: two-sided")
-      ->type_name("A");
+          "What the null hypothesis is tested against. Default: two-sided")
+      ->type_name("two-sided|less|greater");
 }
 
 void TestArguments::AddNullValue(CLI::App& command, const NullValue& null_value) {
   const auto [option, description, kind, default_text] = null_value;
   std::string text = description;
   if (default_text != nullptr) {
-    hypothesis = {default_text, ParseNumber(option, default_text, kind)};
+    hypothesis = {default_text, ParseNumber(LongName(option), default_text, kind)};
     text += std::string(". Default: ") + default_text;
   }
   AddWrittenNumber(command, option, text, kind, hypothesis).required(default_text == nullptr);
@@ -55,10 +54,7 @@ void TestArguments::AddParameters(CLI::App& command) {
   for (const NumberParameter& parameter : family->parameters) {
     const std::size_t index = parameters.size();
     parameters.push_back(parameter.start);
-    CLI::Option& option =
-        AddNumber(command, parameter.option, parameter.Description(), parameter.kind,
-                  [this, index](Extended value) { parameters[index] = value; });
-    if (!parameter.has_default) option.required();
+    AddParameter(command, parameter, [this, index](Extended value) { parameters[index] = value; });
   }
 }
 

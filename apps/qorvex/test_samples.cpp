@@ -22,7 +22,10 @@ using SampleList = std::vector<NumberSample>;
 
 NumberSample SampleOf(const TableColumn& column) {
   return {column.numbers,
-          {.column = column.number, .name = column.name, .missing = column.skipped}};
+          {.column = column.number,
+           .name = column.name,
+           .missing = column.skipped,
+           .significant_digits = SignificantDigits(column.numbers)}};
 }
 
 // The groups are in the order in which their labels appear.

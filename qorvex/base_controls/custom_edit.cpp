@@ -7,18 +7,30 @@
 #include <QRegularExpression>
 #include <cmath>
 #include <limits>
+#include <string>
 
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/cell_colors.h"
 #include "qorvex/base_controls/detail/number_text.h"
 #include "qorvex/base_controls/detail/same_element.h"
+#include "qorvex/base_controls/detail/text_elements.h"
 
 namespace qorvex::inline QorvexBaseControls {
 
 namespace {
 
 constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
+
+// Whether a program would write a plain number otherwise: 007 and 1.50 are kept as they are.
+bool IsWrittenAnew(const QString& text, Extended value) {
+  const std::string plain = text.toStdString();
+  try {
+    return detail::SameElement(Str2Float(plain), value) && Float2Str(value) != plain;
+  } catch (const EConvertError&) {
+    return false;
+  }
+}
 
 }  // namespace
 
@@ -55,6 +67,20 @@ void TQorCustomEdit::setValueText(const QString& text) {
   }
 }
 
+void TQorCustomEdit::SetTexts(detail::TextElements* texts) {
+  texts_ = texts;
+  ShowAnew();
+}
+
+std::optional<QString> TQorCustomEdit::TextIn(Extended value) const {
+  return texts_ != nullptr ? texts_->TextOf(value) : std::nullopt;
+}
+
+void TQorCustomEdit::Align() {
+  const Qt::Alignment alignment = TextIn(value_) ? Qt::AlignLeft | Qt::AlignVCenter : Alignment();
+  if (QLineEdit::alignment() != alignment) QLineEdit::setAlignment(alignment);
+}
+
 void TQorCustomEdit::Refresh(Extended value) {
   Show(value, true, true);
 }
@@ -72,6 +98,7 @@ void TQorCustomEdit::Show(Extended value, bool has_value, bool keep_pending) {
   if (!detail::SameElement(value, value_)) update();
   value_ = value;
   has_value_ = has_value;
+  Align();
   ShowText(ShownText(), keep_pending);
   // A text that is being typed has the colour of the new value.
   if (Pending()) ApplyColors();
@@ -94,6 +121,7 @@ QString TQorCustomEdit::ShownText() const {
 }
 
 QString TQorCustomEdit::TextFor(Extended value) const {
+  if (const auto text = TextIn(value)) return *text;
   if (std::isnan(value)) return BlankWhenNull() ? QString() : NullStr();
   return value == 0 && BlankWhenZero() ? QString() : TextOf(value);
 }
@@ -140,10 +168,15 @@ CellReading TQorCustomEdit::Read(const QString& text) const {
       return {{}, QCoreApplication::translate("TQorCustomEdit", "A number is missing.")};
     }
   }
-  return ValueOf(trimmed);
+  const CellReading reading = ValueOf(trimmed);
+  if (texts_ == nullptr || (reading.value && !IsWrittenAnew(trimmed, *reading.value))) {
+    return reading;
+  }
+  return {texts_->ElementOf(trimmed), {}};
 }
 
 QString TQorCustomEdit::ExactText(Extended value) const {
+  if (const auto text = TextIn(value)) return *text;
   return std::isnan(value) ? NullStr() : detail::LocalNumber(Float2Str(value), locale());
 }
 
@@ -161,7 +194,7 @@ void TQorCustomEdit::SetSpecialColor(const QColor& color) {
 
 void TQorCustomEdit::SettingsChanged() {
   SetSelectionBehaviour({.auto_select = AutoSelect(), .auto_select_click = AutoSelectClick()});
-  if (QLineEdit::alignment() != Alignment()) QLineEdit::setAlignment(Alignment());
+  Align();
   if (QLineEdit::isReadOnly() != ReadOnly()) {
     CommitOrRestore();
     QLineEdit::setReadOnly(ReadOnly());

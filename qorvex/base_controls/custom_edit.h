@@ -6,6 +6,7 @@
 #include <QString>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 #include "qorvex/base/element_types.h"
@@ -20,6 +21,7 @@ QORVEX_WIDGET_UNIT(QorvexBaseControls) {
 /// @cond internal
 namespace detail {
 class CellColors;
+class TextElements;
 }  // namespace detail
 /// @endcond
 
@@ -105,6 +107,12 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   /// The colour of this value's text; invalid for the colour that the settings give it.
   void SetSpecialColor(const QColor& color);
 
+  /// @cond internal
+  /// Lets elements stand for texts, which are shown as they are, from the left; a typed text that
+  /// is not a number becomes one. With a null pointer, the default, there are numbers only.
+  void SetTexts(detail::TextElements* texts);
+  /// @endcond
+
   /// Stores a committed value in place of the cell, and ends with Refresh; the cell keeps its value
   /// until then and raises no signal. Empty by default.
   std::function<void(Extended value)> StoreElsewhere;
@@ -155,6 +163,8 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
 
  private:
   [[nodiscard]] QString ShownText() const;
+  [[nodiscard]] std::optional<QString> TextIn(Extended value) const;
+  void Align();
   void Show(Extended value, bool has_value, bool keep_pending);
   void Mark(bool invalid);
   void ApplyColors();
@@ -165,6 +175,7 @@ class QORVEX_EXPORT TQorCustomEdit : public TextCell, public CellProperties {
   bool selected_ = false;
   QString refusal_;
   QColor special_color_;
+  detail::TextElements* texts_ = nullptr;
   // Made when a colour is to be shown.
   std::unique_ptr<detail::CellColors> colors_;
 };

@@ -209,6 +209,10 @@ class QORVEX_EXPORT TQorCustomMatrixEdit : public CellPanel, protected CellTable
   /// The inverse matrix, by MatrixInverse. EMathError with rsNoInvert for a singular matrix and for
   /// one with a null, which are left unchanged. In virtual mode it only redisplays.
   void Inverse();
+  /// Replaces the matrix by another one of any shape, like setMatrix, but as a step of undo unless it is
+  /// empty: earlier steps stay. EMathError with rsMatrixIsEmpty for a matrix without elements, then rsMatrixRect. In
+  /// virtual mode it only redisplays.
+  void Replace(const TQorFloatMatrix& matrix);
 
   /// Raises OnCornerBtnClick, like a click on the button in the corner.
   void CornerClick();

@@ -114,4 +114,13 @@ void TQorCustomMatrixEdit::Inverse() {
   });
 }
 
+void TQorCustomMatrixEdit::Replace(const TQorFloatMatrix& matrix) {
+  if (matrix.empty() || matrix[0].empty()) RaiseMathError(rsMatrixIsEmpty);
+  if (!MatrixIsRectangular(matrix)) RaiseMathError(rsMatrixRect);
+  // An empty matrix has no shape that undo could restore.
+  if (NoOfRows() == 0 && !VirtualMode()) return setMatrix(matrix);
+  MatrixCommand(QCoreApplication::translate("CellPanel", "Replace Matrix"),
+                [&matrix](TQorFloatMatrix& other) { other = CopyMatrix(matrix); });
+}
+
 }  // namespace qorvex::inline QorvexMatrixEdit

@@ -49,6 +49,14 @@ void BackgroundWork::Stop() {
   }
 }
 
+void BackgroundWork::Abandon() {
+  running_ = false;
+  done_ = {};
+  failed_ = {};
+  watcher_.cancel();
+  watcher_.setFuture(QFuture<void>());
+}
+
 void BackgroundWork::Finish() {
   // The watcher also reports that stopped work has finished.
   if (!std::exchange(running_, false)) return;

@@ -30,6 +30,8 @@ class BackgroundWork : public QObject {
              std::function<void(const QString& why)> failed);
   /// Stops the work and waits until it has ended; neither done nor failed is called.
   void Stop();
+  /// Tells the work to stop and forgets it without waiting, so it may use only what it owns.
+  void Abandon();
   [[nodiscard]] bool IsRunning() const noexcept { return running_; }
 
  Q_SIGNALS:

@@ -9,11 +9,8 @@
 #include "apps/common/column_numbers.h"
 #include "apps/common/hidden_figures.h"
 #include "apps/common/sample_figures.h"
-#include "apps/qorvex-gallery/plot/histogram.h"
-#include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
-#include "qorvex/stats/distributions/normal.h"
 
 namespace qorvex::gallery {
 
@@ -21,34 +18,6 @@ namespace {
 
 QString Text(const char* text) {
   return QCoreApplication::translate("qorvex::gallery::DataPage", text);
-}
-
-PlotLayer Bars(const Histogram& histogram) {
-  PlotLayer layer{PlotShape::kBars, PlotRole::kData, Text("Values"), {}};
-  for (std::size_t i = 0; i < histogram.edges.size(); ++i) {
-    const Extended density = i == 0 ? 0 : histogram.Density(i - 1);
-    layer.points.emplace_back(static_cast<double>(histogram.edges[i]),
-                              static_cast<double>(density));
-  }
-  return layer;
-}
-
-// Covers the bars and three standard deviations on both sides of the mean.
-PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_dev) {
-  constexpr int steps = 240;
-  constexpr Extended reach = 3;
-  PlotLayer layer{PlotShape::kLine,
-                  PlotRole::kModel,
-                  Text("Normal density of the same mean and standard deviation"),
-                  {}};
-  const Extended low = std::min(histogram.edges.front(), mean - reach * std_dev);
-  const Extended high = std::max(histogram.edges.back(), mean + reach * std_dev);
-  const NormalDistribution normal(mean, std_dev);
-  for (int i = 0; i <= steps; ++i) {
-    const Extended x = low + (high - low) * i / steps;
-    layer.points.emplace_back(static_cast<double>(x), static_cast<double>(normal.Pdf(x)));
-  }
-  return layer;
 }
 
 // Very long figures get an exponent.
@@ -69,7 +38,7 @@ TQorFloatVector WithoutNulls(const TQorFloatVector& values) {
   return kept;
 }
 
-ColumnFigures::ColumnFigures(const TQorFloatVector& values, bool population) : values_(values) {
+ColumnFigures::ColumnFigures(const TQorFloatVector& values, bool population) {
   if (values.empty()) return;
   apps::ColumnNumbers numbers;
   for (const Extended value : values) numbers.Append(value);
@@ -77,8 +46,6 @@ ColumnFigures::ColumnFigures(const TQorFloatVector& values, bool population) : v
   const unsigned threads = std::thread::hardware_concurrency();
   const apps::SampleFigures figures = apps::ExactFigures(
       apps::ExactSumsOf<4>(numbers, threads), apps::OrderFiguresOf(numbers), numbers, population);
-  mean_ = figures.results.mean;
-  std_dev_ = figures.results.std_dev;
   lines_ = figures.Lines(population);
   if (values.size() > 1 && !population)
     interval_ = MeanInterval(apps::ExactSumsOf<2>(numbers, threads));
@@ -125,19 +92,6 @@ QString ColumnFigures::Remark(std::size_t empty_cells, int decimals, int most_de
                          "%1 figures are too small to show a digit");
   }
   return remarks.join(QStringLiteral("; "));
-}
-
-std::vector<PlotLayer> ColumnFigures::HistogramLayers() const {
-  std::vector<PlotLayer> layers;
-  const Histogram histogram = HistogramOf(values_);
-  if (histogram.total == 0) return layers;
-  layers.push_back(Bars(histogram));
-  try {
-    if (std_dev_ > 0) layers.push_back(NormalCurve(histogram, mean_, std_dev_));
-  } catch (const EMathError&) {
-    // The standard deviation or the density is beyond the range.
-  }
-  return layers;
 }
 
 }  // namespace qorvex::gallery

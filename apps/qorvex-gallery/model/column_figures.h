@@ -11,7 +11,6 @@
 #include <optional>
 #include <vector>
 
-#include "apps/qorvex-gallery/plot/plot_layer.h"
 #include "qorvex/base/vector_types.h"
 #include "qorvex/stats/descriptive_stats.h"
 #include "qorvex/stats/inference/intervals.h"
@@ -21,7 +20,7 @@ namespace qorvex::gallery {
 /// The values that are not NaN, which stands for an empty cell.
 [[nodiscard]] TQorFloatVector WithoutNulls(const TQorFloatVector& values);
 
-/// The statistics of a column from exact sums, and its histogram.
+/// The statistics of a column from exact sums.
 class ColumnFigures {
  public:
   /// The statistics of a sample or of a population. The values hold no NaN.
@@ -34,14 +33,8 @@ class ColumnFigures {
   /// decimals, of which there can be at most most_decimals.
   [[nodiscard]] QString Remark(std::size_t empty_cells, int decimals, int most_decimals,
                                const QLocale& locale) const;
-  /// The histogram of the values, and the normal density with their mean and standard deviation,
-  /// unless all values are equal or the density is beyond the range.
-  [[nodiscard]] std::vector<PlotLayer> HistogramLayers() const;
 
  private:
-  TQorFloatVector values_;
-  Extended mean_ = 0;
-  Extended std_dev_ = 0;
   std::vector<ReportFigure> lines_;
   std::optional<Interval<Extended>> interval_;
 };

@@ -63,12 +63,18 @@ std::vector<QPointF> BarsOfClasses(const Histogram& histogram, Extended share) {
   return bars;
 }
 
+std::vector<QPointF> BarsOfValues(const TQorFloatVector& values, std::size_t classes,
+                                  Extended share) {
+  return BarsOfClasses(classes == 0 ? HistogramOf(values) : HistogramOf(values, classes), share);
+}
+
 void MakeBars(RandomSample& sample) {
   // With more counts, bars for single counts would be too narrow.
   constexpr Extended kMostCounts = 300;
   const auto [least, greatest] = std::minmax_element(sample.values.begin(), sample.values.end());
   const Extended width = *greatest - *least;
-  if (TheoryOf(*sample.order.variate, sample.order.parameters).is_count && width <= kMostCounts) {
+  const bool is_count = TheoryOf(*sample.order.variate, sample.order.parameters).is_count;
+  if (sample.classes == 0 && is_count && width <= kMostCounts) {
     sample.bars = BarsOfCounts(sample.values, *least, *greatest);
     return;
   }
@@ -80,13 +86,13 @@ void MakeBars(RandomSample& sample) {
   std::nth_element(first, last, middle.end());
   sample.is_cropped = width > 4 * (*last - *first) && cut > 0;
   if (!sample.is_cropped) {
-    sample.bars = BarsOfClasses(HistogramOf(sample.values), 1);
+    sample.bars = BarsOfValues(sample.values, sample.classes, 1);
     return;
   }
   const TQorFloatVector inner(std::vector<Extended>(first, last + 1));
   const Extended share =
       static_cast<Extended>(inner.size()) / static_cast<Extended>(sample.values.size());
-  sample.bars = BarsOfClasses(HistogramOf(inner), share);
+  sample.bars = BarsOfValues(inner, sample.classes, share);
 }
 
 }  // namespace
@@ -103,6 +109,12 @@ RandomSample DrawSample(const SampleOrder& order, const Proceed& proceed) {
   }
   sample.values = std::move(values);
   SampleVarianceAndMean(sample.values, sample.variance, sample.mean);
+  MakeBars(sample);
+  return sample;
+}
+
+RandomSample WithClasses(RandomSample sample, std::size_t classes) {
+  sample.classes = classes;
   MakeBars(sample);
   return sample;
 }

@@ -28,6 +28,8 @@ struct RandomSample {
   TQorFloatVector values;
   Extended mean = 0;
   Extended variance = 0;
+  /// How many classes the histogram has; 0 for as many as fit the values.
+  std::size_t classes = 0;
   /// The histogram, on the scale of a density: the left edge of the first bar, then the upper right
   /// corner of each bar.
   std::vector<QPointF> bars;
@@ -39,6 +41,10 @@ struct RandomSample {
 /// the sample has no values. Uses the generator of the program, so only one thread at a time may
 /// call it. Throws std::runtime_error if the variate refuses the parameters.
 [[nodiscard]] RandomSample DrawSample(const SampleOrder& order, const Proceed& proceed);
+
+/// The sample with another number of classes in its histogram, or for 0 with as many as fit the
+/// values or with a bar for each count. O(n log n).
+[[nodiscard]] RandomSample WithClasses(RandomSample sample, std::size_t classes);
 
 /// Writes the values to a file, one per line with all digits. If proceed stops it, the file stays
 /// as it was. Throws std::runtime_error if the file cannot be written.

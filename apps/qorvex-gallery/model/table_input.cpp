@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -26,6 +27,15 @@ apps::TextInput OpenFile(const QString& path) {
             const qint64 count = file->read(buffer, static_cast<qint64>(size));
             if (count < 0) RefuseFile(name, *file);
             return static_cast<std::size_t>(count);
+          }};
+}
+
+apps::TextInput TextInputOf(const QString& name, const QByteArray& text) {
+  return {name.toStdString(), [text, at = std::size_t{0}](char* buffer, std::size_t size) mutable {
+            const std::size_t count = std::min(size, static_cast<std::size_t>(text.size()) - at);
+            std::copy_n(text.constData() + at, count, buffer);
+            at += count;
+            return count;
           }};
 }
 

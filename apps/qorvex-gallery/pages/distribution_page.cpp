@@ -20,23 +20,6 @@
 
 namespace qorvex::gallery {
 
-namespace {
-
-// With more counts, the stems would merge into an area.
-constexpr std::size_t kMostStems = 150;
-
-using Points = std::vector<QPointF>;
-
-// The points whose x is in the range.
-Points Within(const Points& curve, Extended from, Extended to) {
-  Points part;
-  std::copy_if(curve.begin(), curve.end(), std::back_inserter(part),
-               [&](const QPointF& point) { return point.x() >= from && point.x() <= to; });
-  return part;
-}
-
-}  // namespace
-
 DistributionPage::DistributionPage(QWidget* parent)
     : Page(parent),
       message_(new MessageBar),
@@ -149,7 +132,9 @@ void DistributionPage::Update() {
   if (!wrong.isEmpty()) return message_->SetText(wrong);
   try {
     const auto distribution = Family().make(parameters);
-    QStringList messages = {UpdatePoints(*distribution), UpdateQuantile(*distribution)};
+    // The diagram of the points shows the quantile, too.
+    const QString wrong_quantile = UpdateQuantile(*distribution);
+    QStringList messages = {UpdatePoints(*distribution), wrong_quantile};
     messages.removeAll(QString());
     message_->SetText(messages.join(QStringLiteral("; ")));
   } catch (const std::exception& error) {
@@ -215,7 +200,8 @@ QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distributi
     return tr("Probability: %1 %2").arg(ExactText(probability), Translated(wrong));
   try {
     const Tail tail = side_->currentIndex() == 0 ? Tail::kLower : Tail::kUpper;
-    quantile_->SetRows({{tr("Quantile"), ExactText(distribution.Quantile(tail, probability))}});
+    quantile_at_ = distribution.Quantile(tail, probability);
+    quantile_->SetRows({{tr("Quantile"), ExactText(*quantile_at_)}});
   } catch (const std::exception& error) {
     return QString::fromUtf8(error.what());
   }
@@ -224,43 +210,42 @@ QString DistributionPage::UpdateQuantile(const apps::AnyDistribution& distributi
 
 void DistributionPage::Draw(const apps::AnyDistribution& distribution,
                             const std::vector<Extended>& points) {
-  Interval<Extended> range = MiddleOf(distribution);
-  // The range extends to points just outside; further out, the curve is flat.
-  const Extended margin = range.greatest - range.least;
-  const auto [least, greatest] = std::minmax_element(points.begin(), points.end());
-  if (*least < range.least && *least >= range.least - margin) range.least = *least;
-  if (*greatest > range.greatest && *greatest <= range.greatest + margin)
-    range.greatest = *greatest;
-  std::vector<Extended> places = PlottedPoints(range, Family().is_discrete);
-  // The areas end exactly at these points.
-  for (const Extended point : points) {
-    if (Family().is_discrete || !(point > range.least) || !(point < range.greatest)) continue;
-    places.insert(std::upper_bound(places.begin(), places.end(), point), point);
-  }
-  const Points curve = DensityAt([&](Extended x) { return distribution.Pdf(x); }, places);
-  const bool stems = Family().is_discrete && curve.size() <= kMostStems;
-  const PlotShape shape = stems ? PlotShape::kStems : PlotShape::kArea;
-  const Extended infinity = HUGE_VALL;
-  // A count belongs to the side that includes it; for areas, the end makes no difference.
-  const double gap = Family().is_discrete ? 0.5 : 0;
-  const auto a = static_cast<double>(points.front());
-  const auto b = static_cast<double>(points.back());
-  std::vector<PlotLayer> layers;
-  if (IsInterval()) {
-    layers.push_back({shape, PlotRole::kData, tr("P(a < X < b)"), Within(curve, a + gap, b - gap)});
-    layers.push_back({shape, PlotRole::kTail, tr("Outside"), Within(curve, -infinity, a)});
-    layers.push_back({shape, PlotRole::kTail, {}, Within(curve, b, infinity)});
-  } else {
-    const bool is_count = Family().is_discrete;
-    layers.push_back({shape, PlotRole::kTail, is_count ? tr("P(X ≤ k)") : tr("P(X ≤ x)"),
-                      Within(curve, -infinity, a)});
-    layers.push_back({shape, PlotRole::kData, is_count ? tr("P(X > k)") : tr("P(X > x)"),
-                      Within(curve, a + gap, infinity)});
-  }
-  if (!stems) layers.push_back({PlotShape::kLine, PlotRole::kModel, {}, curve});
-  plot_->SetAxisTitles(Family().is_discrete ? tr("k") : tr("x"),
-                       Family().is_discrete ? tr("Probability") : tr("Density"));
-  plot_->SetLayers(std::move(layers));
+  plot_->SetContent(DistributionPlot(distribution, {Family().is_discrete, points, quantile_at_}));
+}
+
+QVariantMap DistributionPage::State() const {
+  return {{QStringLiteral("family"), QString::fromUtf8(Family().name)},
+          {QStringLiteral("parameters"), parameters_->Texts()},
+          {QStringLiteral("question"), question_->currentIndex()},
+          {QStringLiteral("first"), NumberText(*first_)},
+          {QStringLiteral("second"), NumberText(*second_)},
+          {QStringLiteral("side"), side_->currentIndex()},
+          {QStringLiteral("probability"), NumberText(*probability_)}};
+}
+
+void DistributionPage::SetState(const QVariantMap& state) {
+  const std::string name = state.value(QStringLiteral("family")).toString().toStdString();
+  const apps::Family* const family = apps::FindFamily(name);
+  if (family == nullptr) return;
+  family_->setCurrentIndex(static_cast<int>(family - apps::Families().data()));
+  parameters_->SetTexts(state.value(QStringLiteral("parameters")).toStringList());
+  question_->setCurrentIndex(state.value(QStringLiteral("question")).toInt() == 1 ? 1 : 0);
+  side_->setCurrentIndex(state.value(QStringLiteral("side")).toInt() == 1 ? 1 : 0);
+  SetNumberText(*first_, state.value(QStringLiteral("first")).toString());
+  SetNumberText(*second_, state.value(QStringLiteral("second")).toString());
+  SetNumberText(*probability_, state.value(QStringLiteral("probability")).toString());
+  Update();
+}
+
+PageReport DistributionPage::Report() const {
+  const QList<QStringList> probability = {{side_->currentText(), ExactText(probability_->Value())}};
+  QList<QStringList> points = {{first_label_->text(), ExactText(first_->Value())}};
+  if (IsInterval()) points.append({second_label_->text(), ExactText(second_->Value())});
+  return {family_->currentText(),
+          {{tr("Parameters"), parameters_->Rows()},
+           {tr("Diagram"), {}, plot_},
+           {tr("Probabilities"), points + figures_->Rows()},
+           {tr("Quantile"), probability + quantile_->Rows()}}};
 }
 
 }  // namespace qorvex::gallery

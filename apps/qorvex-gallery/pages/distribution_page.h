@@ -3,6 +3,7 @@
 /// @file
 /// DistributionPage, probabilities, densities and quantiles of distributions.
 
+#include <optional>
 #include <vector>
 
 #include "apps/common/distributions.h"
@@ -34,6 +35,10 @@ class DistributionPage : public Page {
   explicit DistributionPage(QWidget* parent = nullptr);
   ~DistributionPage() override;
 
+  [[nodiscard]] QVariantMap State() const override;
+  void SetState(const QVariantMap& state) override;
+  [[nodiscard]] PageReport Report() const override;
+
  private:
   void ShowFamily();
   void Update();
@@ -57,6 +62,8 @@ class DistributionPage : public Page {
   QComboBox* side_;
   TQorFloatEdit* probability_;
   FigureTable* quantile_;
+  // The last one that could be computed.
+  std::optional<Extended> quantile_at_;
   PlotView* plot_;
   FigureTable* figures_;
 };

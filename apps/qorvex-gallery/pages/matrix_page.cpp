@@ -1,270 +1,355 @@
 #include "apps/qorvex-gallery/pages/matrix_page.h"
 
+#include <QButtonGroup>
 #include <QFileDialog>
-#include <QFormLayout>
+#include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QSignalBlocker>
-#include <QSpinBox>
+#include <QRadioButton>
 #include <QVBoxLayout>
-#include <algorithm>
 #include <exception>
-#include <functional>
+#include <memory>
+#include <utility>
 
-#include "apps/common/matrix_reader.h"
-#include "apps/qorvex-gallery/model/matrix_properties.h"
+#include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/matrix_calculation.h"
+#include "apps/qorvex-gallery/model/matrix_file.h"
+#include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
-#include "apps/qorvex-gallery/widgets/heading.h"
+#include "apps/qorvex-gallery/widgets/matrix_panel.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/side_panel.h"
-#include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
-#include "qorvex/controls/QorvexMatrixFractEdit.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
-constexpr int kMostRows = 400;
-// Editors of larger matrices scroll.
-constexpr quint32 kMostRowCells = 10;
-constexpr quint32 kMostColCells = 4;
+// Larger matrices come from files; the settings of the program do not keep them.
+constexpr std::uint64_t kMostKept = 10'000;
 
-// NaN, which stands for a null element, equals itself here.
-bool Same(const TQorFloatMatrix& a, const TQorFloatMatrix& b) {
-  const auto same_element = [](Extended x, Extended y) { return x == y || (x != x && y != y); };
-  return std::equal(a.begin(), a.end(), b.begin(), b.end(), [&](const auto& x, const auto& y) {
-    return std::equal(x.begin(), x.end(), y.begin(), y.end(), same_element);
-  });
+std::uint64_t ElementsOf(const MatrixPanel& panel) {
+  return std::uint64_t{panel.Editor().NoOfRows()} * panel.Editor().NoOfCols();
 }
 
-QSpinBox* SizeBox(const char* name, const QString& accessible_name) {
-  auto* const box = new QSpinBox;
-  box->setObjectName(QLatin1String(name));
-  box->setAccessibleName(accessible_name);
-  box->setRange(1, kMostRows);
-  box->setKeyboardTracking(false);
-  return box;
+QButtonGroup* AddRadioButtons(QLayout& layout, const QStringList& texts, const char* const* names) {
+  auto* const group = new QButtonGroup(&layout);
+  for (int i = 0; i < texts.size(); ++i) {
+    auto* const button = new QRadioButton(texts[i]);
+    button->setObjectName(QLatin1String(names[i]));
+    group->addButton(button, i);
+    layout.addWidget(button);
+  }
+  group->button(0)->setChecked(true);
+  return group;
+}
+
+QPushButton* MakeButton(const QString& text, const char* name, const QString& tip) {
+  auto* const button = new QPushButton(text);
+  button->setObjectName(QLatin1String(name));
+  button->setToolTip(tip);
+  return button;
 }
 
 }  // namespace
 
 MatrixPage::MatrixPage(QWidget* parent)
     : Page(parent),
-      decimals_(new TQorMatrixEdit),
-      fractions_(new TQorMatrixFractEdit),
-      inverse_decimals_(new TQorMatrixEdit),
-      inverse_fractions_(new TQorMatrixFractEdit),
-      no_inverse_(new QLabel),
-      rows_(SizeBox("rows", tr("Rows"))),
-      cols_(SizeBox("columns", tr("Columns"))),
+      a_(new MatrixPanel(MatrixPanel::Kind::kTyped, "a", tr("A"), tr("Matrix A"))),
+      b_(new MatrixPanel(MatrixPanel::Kind::kTyped, "b", tr("B"), tr("Matrix B"))),
+      result_(new MatrixPanel(MatrixPanel::Kind::kResult, "result", {}, {})),
       properties_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       message_(new MessageBar),
-      edited_(decimals_) {
+      edited_(a_),
+      refresh_(this),
+      patience_(this),
+      work_(this),
+      reading_(this) {
   setObjectName(QStringLiteral("matrixPage"));
-  decimals_->setObjectName(QStringLiteral("decimals"));
-  fractions_->setObjectName(QStringLiteral("fractions"));
-  inverse_fractions_->setObjectName(QStringLiteral("inverseFractions"));
-  no_inverse_->setObjectName(QStringLiteral("noInverse"));
   properties_->setObjectName(QStringLiteral("properties"));
-  for (TQorCustomMatrixEdit* const editor : Editors()) {
-    editor->setCellHeight(25);
-    editor->setCellWidth(82);
-    const auto follow = [this, editor] {
-      edited_ = editor;
-      message_->SetText({});
-      Follow();
-    };
-    connect(editor, &TQorCustomMatrixEdit::OnChange, this, follow);
-    connect(editor, &TQorCustomMatrixEdit::OnUndo, this, follow);
-    message_->Watch(*editor);
-  }
-  for (TQorMatrixEdit* const editor : {decimals_, inverse_decimals_}) {
-    editor->setDecimalPlaces(6);
-    editor->setTrimTrailingZeroes(true);
-  }
-  inverse_decimals_->setReadOnly(true);
-  inverse_fractions_->setReadOnly(true);
   auto* const panel = new SidePanel;
-  QVBoxLayout* const matrix = panel->AddGroup(tr("Matrix"));
-  auto* const size = new QHBoxLayout;
-  size->addWidget(rows_, 1);
-  size->addWidget(new QLabel(QStringLiteral("×")));
-  size->addWidget(cols_, 1);
-  auto* const form = new QFormLayout;
-  form->addRow(tr("Size"), size);
-  matrix->addLayout(form);
-  auto* const sources = new QHBoxLayout;
-  auto* const example = new QPushButton(tr("&Example"));
-  auto* const open = new QPushButton(tr("&Open…"));
-  sources->addWidget(example, 1);
-  sources->addWidget(open, 1);
-  matrix->addLayout(sources);
-  panel->AddGroup(tr("Commands"))->addWidget(MakeCommands());
-  panel->AddGroup(tr("Properties"))->addWidget(properties_);
-  panel->Finish();
+  MakeChoices(*panel);
+  auto* const body = new QHBoxLayout;
+  body->addWidget(panel);
+  auto* const layout = new QVBoxLayout(this);
+  layout->addLayout(body, 1);
+  layout->addWidget(message_);
+  MakeMatrices();
+  auto* const matrices = new QVBoxLayout;
+  auto* const typed = new QHBoxLayout;
+  typed->setSpacing(2 * fontMetrics().height());
+  typed->addWidget(a_, 1);
+  typed->addWidget(b_, 1);
+  matrices->addLayout(typed, 1);
+  matrices->addSpacing(fontMetrics().height());
+  matrices->addWidget(result_, 1);
+  body->addLayout(matrices, 1);
 
-  auto* const grid = new QGridLayout;
-  grid->setContentsMargins(12, 4, 4, 4);
-  grid->setHorizontalSpacing(24);
-  grid->setVerticalSpacing(8);
-  grid->addWidget(MakeHeading(tr("Decimals")), 0, 0);
-  grid->addWidget(MakeHeading(tr("Fractions")), 0, 1);
-  grid->addWidget(decimals_, 1, 0, Qt::AlignLeft | Qt::AlignTop);
-  grid->addWidget(fractions_, 1, 1, Qt::AlignLeft | Qt::AlignTop);
-  grid->setColumnStretch(2, 1);
-  grid->setRowMinimumHeight(2, fontMetrics().height() / 2);
-  grid->addWidget(MakeHeading(tr("Inverse")), 3, 0);
-  grid->addWidget(no_inverse_, 4, 0, 1, 2);
-  grid->addWidget(inverse_decimals_, 5, 0, Qt::AlignLeft | Qt::AlignTop);
-  grid->addWidget(inverse_fractions_, 5, 1, Qt::AlignLeft | Qt::AlignTop);
-  grid->setRowStretch(6, 1);
-  auto* const layout = new QHBoxLayout(this);
-  layout->addWidget(panel);
-  auto* const right = new QVBoxLayout;
-  right->addLayout(grid, 1);
-  right->addWidget(message_);
-  layout->addLayout(right, 1);
-
-  for (QSpinBox* const box : {rows_, cols_})
-    connect(box, &QSpinBox::valueChanged, this, &MatrixPage::Resize);
-  connect(example, &QPushButton::clicked, this, &MatrixPage::ShowExample);
-  connect(open, &QPushButton::clicked, this, &MatrixPage::AskAndOpen);
-  ShowExample();
+  refresh_.setSingleShot(true);
+  connect(&refresh_, &QTimer::timeout, this, &MatrixPage::Refresh);
+  constexpr int patience_ms = 200;
+  patience_.setSingleShot(true);
+  patience_.setInterval(patience_ms);
+  connect(&patience_, &QTimer::timeout, this, [this] { ShowNone(tr("calculating…")); });
+  a_->SetMatrix({{2, 0.5L, 1}, {1, 3, 2}, {0.25L, 0, 4}});
+  b_->SetMatrix({{1}, {2}, {3}});
+  Choose();
 }
 
 MatrixPage::~MatrixPage() = default;
 
-std::array<TQorCustomMatrixEdit*, 4> MatrixPage::Editors() const {
-  return {decimals_, fractions_, inverse_decimals_, inverse_fractions_};
+void MatrixPage::MakeChoices(SidePanel& panel) {
+  static constexpr const char* kResults[] = {"inverse", "echelon", "product", "solution"};
+  static constexpr const char* kNumbers[] = {"showDecimals", "showFractions"};
+  wanted_ = AddRadioButtons(*panel.AddGroup(tr("Result")),
+                            {tr("&Inverse of A"), tr("Row eche&lon form of A"),
+                             tr("Product A × &B"), tr("&Solution X of A X = B")},
+                            kResults);
+  MakeCommands(*panel.AddGroup(tr("Change A")));
+  auto* const numbers = new QHBoxLayout;
+  panel.AddGroup(tr("Numbers"))->addLayout(numbers);
+  numbers_ = AddRadioButtons(*numbers, {tr("De&cimals"), tr("Fr&actions")}, kNumbers);
+  panel.AddGroup(tr("Properties of A"))->addWidget(properties_);
+  panel.Finish();
+  connect(wanted_, &QButtonGroup::idClicked, this, &MatrixPage::Choose);
+  connect(numbers_, &QButtonGroup::idClicked, this, &MatrixPage::Choose);
 }
 
-QWidget* MatrixPage::MakeCommands() {
-  auto* const bar = new QWidget;
-  auto* const grid = new QGridLayout(bar);
-  grid->setContentsMargins(0, 0, 0, 0);
-  const auto add_command = [&](const QString& text, const char* name, const QString& tip,
-                               void (TQorCustomMatrixEdit::*command)()) {
-    const std::function<void()> run = std::bind_front(command, decimals_);
-    AddButton(bar, text, name, tip, [this, run] { Run(run); });
+void MatrixPage::MakeCommands(QVBoxLayout& group) {
+  struct Command {
+    QString text;
+    const char* name;
+    QString tip;
+    void (TQorCustomMatrixEdit::*run)();
   };
-  add_command(tr("&Transpose"), "transpose", tr("Rows become columns"),
-              &TQorCustomMatrixEdit::Transpose);
-  add_command(tr("&Inverse"), "inverse", tr("The inverse of the matrix"),
-              &TQorCustomMatrixEdit::Inverse);
-  add_command(tr("Row &Echelon"), "row_reduce", tr("Reduces the matrix to row echelon form"),
-              &TQorCustomMatrixEdit::RowReduce);
-  add_command(tr("Reci&procals"), "reciprocals", tr("1 divided by each element"),
-              &TQorCustomMatrixEdit::Invert);
-  add_command(tr("S&quares"), "squares", tr("Each element squared"), &TQorCustomMatrixEdit::Sqr);
-  add_command(tr("Square &Roots"), "square_roots", tr("The square root of each element"),
-              &TQorCustomMatrixEdit::Sqrt);
-  add_command(tr("&ln"), "ln", tr("The natural logarithm of each element"),
-              &TQorCustomMatrixEdit::Ln);
-  add_command(tr("lo&g10"), "log10", tr("The decimal logarithm of each element"),
-              &TQorCustomMatrixEdit::Log10);
-  AddButton(bar, tr("&Undo"), "undo", tr("Takes the last change back"), [this] { Exchange(true); });
-  AddButton(bar, tr("Re&do"), "redo", tr("Makes the last change again"),
-            [this] { Exchange(false); });
-  return bar;
+  const Command commands[] = {
+      {tr("&Transpose"), "transpose", tr("Rows become columns"), &TQorCustomMatrixEdit::Transpose},
+      {tr("Reci&procals"), "reciprocals", tr("1 divided by each element"),
+       &TQorCustomMatrixEdit::Invert},
+      {tr("S&quares"), "squares", tr("Each element squared"), &TQorCustomMatrixEdit::Sqr},
+      {tr("Square &Roots"), "square_roots", tr("The square root of each element"),
+       &TQorCustomMatrixEdit::Sqrt},
+      {tr("l&n"), "ln", tr("The natural logarithm of each element"), &TQorCustomMatrixEdit::Ln},
+      {tr("lo&g10"), "log10", tr("The decimal logarithm of each element"),
+       &TQorCustomMatrixEdit::Log10}};
+  auto* const grid = new QGridLayout;
+  auto add = [grid, index = 0](QPushButton* button) mutable {
+    grid->addWidget(button, index / 2, index % 2);
+    ++index;
+  };
+  for (const Command& command : commands) {
+    QPushButton* const button = MakeButton(command.text, command.name, command.tip);
+    add(button);
+    connect(button, &QPushButton::clicked, this,
+            [this, run = command.run] { Run([&] { (a_->Editor().*run)(); }); });
+  }
+  for (const bool undo : {true, false}) {
+    QPushButton* const button =
+        undo ? MakeButton(tr("&Undo"), "undo", tr("Takes the last change back"))
+             : MakeButton(tr("Re&do"), "redo", tr("Makes the last change again"));
+    add(button);
+    connect(button, &QPushButton::clicked, this, [this, undo] { Exchange(undo); });
+  }
+  group.addLayout(grid);
 }
 
-void MatrixPage::AddButton(QWidget* bar, const QString& text, const char* name, const QString& tip,
-                           const std::function<void()>& action) {
-  auto* const button = new QPushButton(text);
-  button->setObjectName(QLatin1String(name));
-  button->setToolTip(tip);
-  auto* const grid = static_cast<QGridLayout*>(bar->layout());
-  const int index = grid->count();
-  grid->addWidget(button, index / 2, index % 2);
-  connect(button, &QPushButton::clicked, this, action);
+void MatrixPage::MakeMatrices() {
+  for (MatrixPanel* const panel : {a_, b_}) {
+    Connect(*panel);
+    QPushButton* const open = MakeButton(panel == a_ ? tr("&Open…") : tr("Open…"), "open",
+                                         tr("Reads the matrix from a file without a header"));
+    connect(open, &QPushButton::clicked, this, [this, panel] { AskAndOpen(*panel); });
+    panel->Head()->addWidget(open);
+  }
+  QPushButton* const example = MakeButton(tr("E&xample"), "example", tr("A small matrix"));
+  connect(example, &QPushButton::clicked, this, &MatrixPage::ShowExample);
+  a_->Head()->addWidget(example);
+  use_as_a_ = MakeButton(tr("Use as A"), "useAsA", tr("Makes the result A"));
+  connect(use_as_a_, &QPushButton::clicked, this, &MatrixPage::UseAsA);
+  result_->Head()->addWidget(use_as_a_);
+  save_ = MakeButton(tr("Save…"), "save", tr("Writes the result with all its digits to a file"));
+  connect(save_, &QPushButton::clicked, this, &MatrixPage::AskAndSave);
+  result_->Head()->addWidget(save_);
+  for (MatrixPanel* const panel : Panels()) panel->Head()->addStretch(1);
+}
+
+void MatrixPage::Connect(MatrixPanel& panel) {
+  connect(&panel, &MatrixPanel::Changed, this, [this, &panel] {
+    edited_ = &panel;
+    message_->SetText({});
+    RefreshSoon();
+  });
+  connect(&panel, &MatrixPanel::Refused, message_, &MessageBar::SetText);
+}
+
+MatrixResult MatrixPage::Wanted() const {
+  return static_cast<MatrixResult>(wanted_->checkedId());
 }
 
 void MatrixPage::Run(const std::function<void()>& command) {
-  CommitTexts();
+  a_->CommitTexts();
   message_->SetText({});
   try {
     command();
-    edited_ = decimals_;
+    a_->Update();
   } catch (const std::exception& error) {
     message_->SetText(QString::fromUtf8(error.what()));
   }
-  Follow();
 }
 
 void MatrixPage::Exchange(bool undo) {
-  CommitTexts();
+  edited_->CommitTexts();
   message_->SetText({});
-  undo ? edited_->Undo() : edited_->Redo();
-  Follow();
-}
-
-void MatrixPage::CommitTexts() {
-  for (TextCell* const cell : findChildren<TextCell*>()) cell->CommitOrRestore();
+  undo ? edited_->Editor().Undo() : edited_->Editor().Redo();
 }
 
 void MatrixPage::ShowExample() {
-  Run([this] { decimals_->setMatrix({{2, 0.5L, 1}, {1, 3, 2}, {0.25L, 0, 4}}); });
+  Run([this] { a_->Replace({{2, 0.5L, 1}, {1, 3, 2}, {0.25L, 0, 4}}); });
 }
 
-void MatrixPage::AskAndOpen() {
+void MatrixPage::AskAndOpen(MatrixPanel& panel) {
   const QString path = QFileDialog::getOpenFileName(
       this, tr("Open a Matrix"), {}, tr("Delimited text (*.csv *.tsv *.txt);;All files (*)"));
-  if (!path.isEmpty()) Open(path);
+  if (!path.isEmpty()) OpenIn(panel, path);
 }
 
 void MatrixPage::Open(const QString& path) {
-  Run([&] {
-    const TQorFloatMatrix matrix =
-        apps::ReadMatrix(apps::OpenTextInput(path.toStdString()), apps::MatrixLayout{});
-    if (matrix.size() > kMostRows || matrix[0].size() > kMostRows) {
-      message_->SetText(tr("More than %L1 rows or columns are too many here").arg(kMostRows));
+  OpenIn(*a_, path);
+}
+
+void MatrixPage::OpenIn(MatrixPanel& panel, const QString& path) {
+  const auto matrix = std::make_shared<TQorFloatMatrix>();
+  message_->SetText({});
+  panel.SetRemark(tr("reading %1…").arg(QFileInfo(path).fileName()));
+  reading_.Start(
+      [matrix, path](const Proceed& proceed) { *matrix = ReadMatrixFile(path, proceed); },
+      [this, &panel, matrix] {
+        panel.SetRemark({});
+        panel.Replace(*matrix);
+      },
+      [this, &panel](const QString& why) {
+        panel.SetRemark({});
+        message_->SetText(why);
+      });
+}
+
+void MatrixPage::Choose() {
+  struct Title {
+    QString title, name;
+  };
+  const Title titles[] = {{tr("Inverse of A"), tr("Result: inverse of A")},
+                          {tr("Row echelon form of A"), tr("Result: row echelon form of A")},
+                          {tr("A × B"), tr("Result: product of A and B")},
+                          {tr("X, where A X = B"), tr("Result: solution X of A X = B")}};
+  const Title& title = titles[wanted_->checkedId()];
+  result_->SetTitle(title.title, title.name);
+  b_->setVisible(TakesB(Wanted()));
+  for (MatrixPanel* const panel : Panels()) panel->ShowFractions(numbers_->checkedId() == 1);
+  RefreshSoon();
+}
+
+// A click can come before the event that announces a change.
+void MatrixPage::UseAsA() {
+  if (refresh_.isActive() || work_.IsRunning()) return;
+  Run([this] { a_->Replace(result_->Matrix()); });
+}
+
+void MatrixPage::AskAndSave() {
+  const QString path = QFileDialog::getSaveFileName(this, tr("Save the Result"), {},
+                                                    tr("Comma-separated values (*.csv)"));
+  if (path.isEmpty()) return;
+  const QString why = WriteMatrixFile(path, result_->Matrix());
+  message_->SetText(why.isEmpty() ? QString()
+                                  : QFileInfo(path).fileName() + QStringLiteral(": ") + why);
+}
+
+void MatrixPage::RefreshSoon() {
+  refresh_.start();
+}
+
+void MatrixPage::Refresh() {
+  work_.Abandon();
+  patience_.start();
+  const auto task = std::make_shared<MatrixTask>();
+  task->wanted = Wanted();
+  task->a = a_->Matrix();
+  if (TakesB(task->wanted)) task->b = b_->Matrix();
+  const auto outcome = std::make_shared<MatrixOutcome>();
+  work_.Start([task, outcome](const Proceed& proceed) { *outcome = Calculate(*task, proceed); },
+              [this, outcome] {
+                patience_.stop();
+                Show(*outcome);
+              },
+              [this](const QString&) {
+                patience_.stop();
+                ShowNone(tr("none, the memory does not suffice"));
+              });
+}
+
+void MatrixPage::Show(const MatrixOutcome& outcome) {
+  properties_->SetRows({{tr("Determinant"), outcome.determinant}, {tr("Rank"), outcome.rank}});
+  if (!outcome.why_none.isEmpty()) return ShowNone(outcome.why_none);
+  result_->SetRemark({});
+  result_->SetMatrix(outcome.result);
+  use_as_a_->setEnabled(true);
+  save_->setEnabled(true);
+}
+
+void MatrixPage::ShowNone(const QString& why) {
+  result_->SetRemark(why);
+  use_as_a_->setEnabled(false);
+  save_->setEnabled(false);
+}
+
+QVariantMap MatrixPage::State() const {
+  QVariantMap state = {{QStringLiteral("result"), wanted_->checkedButton()->objectName()},
+                       {QStringLiteral("numbers"), numbers_->checkedButton()->objectName()}};
+  for (const MatrixPanel* const panel : {a_, b_}) {
+    if (ElementsOf(*panel) <= kMostKept) state[panel->objectName()] = MatrixText(panel->Matrix());
+  }
+  return state;
+}
+
+void MatrixPage::SetState(const QVariantMap& state) {
+  for (const auto& [group, key] : {std::pair(wanted_, "result"), std::pair(numbers_, "numbers")}) {
+    for (QAbstractButton* const button : group->buttons()) {
+      if (button->objectName() == state[QLatin1String(key)].toString()) button->setChecked(true);
+    }
+  }
+  for (MatrixPanel* const panel : {a_, b_}) {
+    try {
+      const QString text = state[panel->objectName()].toString();
+      if (!text.isEmpty()) panel->SetMatrix(MatrixOf(text));
+    } catch (const apps::InputError&) {
+      // Settings that were changed by hand, or a null.
+    }
+  }
+  Choose();
+}
+
+PageReport MatrixPage::Report() const {
+  constexpr quint32 most_rows = 40;
+  constexpr quint32 most_cols = 10;
+  PageReport report{tr("Matrices"), {}};
+  const auto add = [&](const QString& title, const MatrixPanel& panel) {
+    const TQorFloatMatrix matrix = panel.Matrix();
+    if (panel.Editor().NoOfRows() > most_rows || panel.Editor().NoOfCols() > most_cols) {
+      report.parts.append(
+          {title, {{tr("%L1 × %L2 elements").arg(matrix.size()).arg(matrix[0].size())}}});
       return;
     }
-    decimals_->setMatrix(matrix);
-  });
-}
-
-void MatrixPage::Resize() {
-  Run([this] {
-    decimals_->setNoOfRows(static_cast<quint32>(rows_->value()));
-    decimals_->setNoOfCols(static_cast<quint32>(cols_->value()));
-  });
-}
-
-void MatrixPage::Follow() {
-  const TQorFloatMatrix matrix = edited_->Matrix();
-  if (Same(matrix, shown_)) return;
-  shown_ = matrix;
-  if (edited_ == decimals_) {
-    fractions_->setMatrix(matrix);
-  } else {
-    decimals_->setMatrix(matrix);
-  }
-  for (TQorCustomMatrixEdit* const editor : Editors()) {
-    editor->setNoOfRowEdits(static_cast<int>(std::min(decimals_->NoOfRows(), kMostRowCells)));
-    editor->setNoOfColEdits(static_cast<int>(std::min(decimals_->NoOfCols(), kMostColCells)));
-  }
-  const QSignalBlocker no_rows(rows_);
-  const QSignalBlocker no_cols(cols_);
-  rows_->setValue(static_cast<int>(decimals_->NoOfRows()));
-  cols_->setValue(static_cast<int>(decimals_->NoOfCols()));
-  ShowProperties(matrix);
-}
-
-void MatrixPage::ShowProperties(const TQorFloatMatrix& matrix) {
-  const MatrixProperties properties = PropertiesOf(matrix);
-  properties_->SetRows(
-      {{tr("Determinant"), properties.determinant}, {tr("Rank"), properties.rank}});
-  const bool has_inverse = properties.why_no_inverse.isEmpty();
-  no_inverse_->setText(properties.why_no_inverse);
-  no_inverse_->setVisible(!has_inverse);
-  for (TQorCustomMatrixEdit* const editor :
-       std::initializer_list<TQorCustomMatrixEdit*>{inverse_decimals_, inverse_fractions_}) {
-    if (has_inverse) editor->setMatrix(properties.inverse);
-    editor->setVisible(has_inverse);
-  }
+    QList<QStringList> rows;
+    for (const TQorFloatVector& row : matrix) {
+      QStringList& texts = rows.emplace_back();
+      for (const Extended x : row) texts.append(std::isnan(x) ? QString() : ExactText(x));
+    }
+    report.parts.append({title, rows});
+  };
+  add(tr("A"), *a_);
+  if (TakesB(Wanted())) add(tr("B"), *b_);
+  if (use_as_a_->isEnabled()) add(wanted_->checkedButton()->text().remove('&'), *result_);
+  return report;
 }
 
 }  // namespace qorvex::gallery

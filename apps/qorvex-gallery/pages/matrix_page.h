@@ -1,35 +1,33 @@
 #pragma once
 
 /// @file
-/// MatrixPage, an editor for a matrix, with commands.
+/// MatrixPage, matrices and what is computed from them.
 
 #include <QString>
+#include <QTimer>
 #include <array>
 #include <functional>
 
+#include "apps/qorvex-gallery/model/background_work.h"
 #include "apps/qorvex-gallery/widgets/page.h"
 #include "qorvex/base/vector_types.h"
 
-class QLabel;
-class QSpinBox;
-
-namespace qorvex {
-inline namespace QorvexMatrixEdit {
-class TQorCustomMatrixEdit;
-class TQorMatrixEdit;
-}  // namespace QorvexMatrixEdit
-inline namespace QorvexMatrixFractEdit {
-class TQorMatrixFractEdit;
-}
-}  // namespace qorvex
+class QButtonGroup;
+class QPushButton;
+class QVBoxLayout;
 
 namespace qorvex::gallery {
 
 class FigureTable;
+class MatrixPanel;
 class MessageBar;
+class SidePanel;
+enum class MatrixResult : std::uint8_t;
+struct MatrixOutcome;
 
-/// A matrix as decimals and as fractions, both of which can be edited, with commands on the whole
-/// matrix, its determinant, its rank and its inverse.
+/// A matrix A that is typed, and a result beneath it: its inverse, its row echelon form, its
+/// product with a matrix B, or the solution of a system. Results and the figures of A are computed
+/// in the background after every change.
 class MatrixPage : public Page {
   Q_OBJECT
 
@@ -37,38 +35,55 @@ class MatrixPage : public Page {
   explicit MatrixPage(QWidget* parent = nullptr);
   ~MatrixPage() override;
 
-  /// Shows the matrix in a file, or on the message bar why it cannot.
+  /// @{
+  /// The choices, and both matrices unless they are large.
+  [[nodiscard]] QVariantMap State() const override;
+  void SetState(const QVariantMap& state) override;
+  /// @}
+  [[nodiscard]] PageReport Report() const override;
+
+  /// Shows the matrix in a file as A, or on the message bar why it cannot.
   void Open(const QString& path);
 
  private:
-  [[nodiscard]] std::array<TQorCustomMatrixEdit*, 4> Editors() const;
-  QWidget* MakeCommands();
-  void AddButton(QWidget* bar, const QString& text, const char* name, const QString& tip,
-                 const std::function<void()>& action);
+  void MakeChoices(SidePanel& panel);
+  void MakeCommands(QVBoxLayout& group);
+  void MakeMatrices();
+  void Connect(MatrixPanel& panel);
+  [[nodiscard]] std::array<MatrixPanel*, 3> Panels() const { return {a_, b_, result_}; }
+  // Runs a command on A.
   void Run(const std::function<void()>& command);
   void Exchange(bool undo);
-  // Commits the texts that are being typed.
-  void CommitTexts();
   void ShowExample();
-  void AskAndOpen();
-  void Resize();
-  // Shows the current matrix everywhere on the page.
-  void Follow();
-  void ShowProperties(const TQorFloatMatrix& matrix);
+  void AskAndOpen(MatrixPanel& panel);
+  void OpenIn(MatrixPanel& panel, const QString& path);
+  void Choose();
+  void UseAsA();
+  void AskAndSave();
 
-  TQorMatrixEdit* decimals_;
-  TQorMatrixFractEdit* fractions_;
-  TQorMatrixEdit* inverse_decimals_;
-  TQorMatrixFractEdit* inverse_fractions_;
-  QLabel* no_inverse_;
-  QSpinBox* rows_;
-  QSpinBox* cols_;
+  // Computes the result in the next turn of the event loop.
+  void RefreshSoon();
+  void Refresh();
+  void Show(const MatrixOutcome& outcome);
+  void ShowNone(const QString& why);
+  [[nodiscard]] MatrixResult Wanted() const;
+
+  MatrixPanel* a_;
+  MatrixPanel* b_;
+  MatrixPanel* result_;
+  QButtonGroup* wanted_;
+  QButtonGroup* numbers_;
+  QPushButton* use_as_a_;
+  QPushButton* save_;
   FigureTable* properties_;
   MessageBar* message_;
-  // The editor that was edited last, which can undo that.
-  TQorCustomMatrixEdit* edited_;
-  // The matrix that the page shows.
-  TQorFloatMatrix shown_;
+  // The one that was changed last, which can undo that.
+  MatrixPanel* edited_;
+  QTimer refresh_;
+  // When the computation takes long enough to be mentioned.
+  QTimer patience_;
+  BackgroundWork work_;
+  BackgroundWork reading_;
 };
 
 }  // namespace qorvex::gallery

@@ -45,6 +45,7 @@ RandomPage::RandomPage(QWidget* parent)
       parameters_(new ParameterForm(*message_)),
       size_(new QSpinBox),
       seed_(MakeNumberCell(1, tr("Seed"), this)),
+      classes_(new QSpinBox),
       generate_(new QPushButton(tr("&Generate"))),
       cancel_(new QPushButton(tr("Cancel"))),
       progress_(new QProgressBar),
@@ -77,9 +78,13 @@ RandomPage::RandomPage(QWidget* parent)
   size_->setRange(2, kMostValues);
   size_->setGroupSeparatorShown(true);
   size_->setValue(10'000);
+  classes_->setObjectName(QStringLiteral("classes"));
+  classes_->setRange(0, 1000);
+  classes_->setSpecialValueText(tr("automatic"));
   progress_->setRange(0, 1000);
   progress_->setTextVisible(false);
   plot_->SetPlaceholder(tr("No sample yet"));
+  plot_->setAccessibleName(tr("Histogram"));
 
   auto* const panel = new SidePanel;
   QVBoxLayout* const what = panel->AddGroup(tr("Variate"));
@@ -101,6 +106,10 @@ RandomPage::RandomPage(QWidget* parent)
   buttons->addWidget(cancel_, 1);
   how->addLayout(buttons);
   how->addWidget(progress_);
+  QVBoxLayout* const shown = panel->AddGroup(tr("Histogram"));
+  auto* const shown_form = new QFormLayout;
+  shown_form->addRow(tr("C&lasses"), classes_);
+  shown->addLayout(shown_form);
   panel->Finish();
 
   auto* const buttons_of_values = new QVBoxLayout;
@@ -132,6 +141,7 @@ RandomPage::RandomPage(QWidget* parent)
     message_->SetText(tr("Cancelled"));
     ShowRunning();
   });
+  connect(classes_, &QSpinBox::valueChanged, this, &RandomPage::UpdateClasses);
   connect(copy_, &QPushButton::clicked, this, &RandomPage::Copy);
   connect(save_, &QPushButton::clicked, this, &RandomPage::AskAndSave);
   connect(&work_, &BackgroundWork::Progressed, progress_, &QProgressBar::setValue);
@@ -181,7 +191,7 @@ void RandomPage::Generate() {
               [this, sample] {
                 sample_ = sample;
                 ShowSample();
-                ShowRunning();
+                EndWork();
               },
               [this](const QString& why) {
                 message_->SetText(parameters_->Labelled(why.toStdString()));
@@ -198,6 +208,11 @@ void RandomPage::ShowRunning() {
   save_->setEnabled(!running && sample_ != nullptr);
   progress_->setValue(0);
   progress_->setVisible(running);
+}
+
+void RandomPage::EndWork() {
+  ShowRunning();
+  UpdateClasses();
 }
 
 void RandomPage::ShowSample() {
@@ -225,8 +240,49 @@ void RandomPage::ShowSample() {
     } catch (const EMathError&) {
       // Some variates lie where the density cannot be computed; the sample is then shown alone.
     }
-  plot_->SetAxisTitles(tr("Value"), theory.is_count ? tr("Share") : tr("Density"));
+  const bool has_counts = theory.is_count && sample_->classes == 0;
+  plot_->SetAxisTitles(tr("Value"), has_counts ? tr("Share") : tr("Density"));
   plot_->SetLayers(std::move(layers));
+}
+
+// While there is work in progress, waits for EndWork.
+void RandomPage::UpdateClasses() {
+  const auto classes = static_cast<std::size_t>(classes_->value());
+  if (work_.IsRunning() || sample_ == nullptr || sample_->classes == classes) return;
+  const auto sample = std::make_shared<RandomSample>(*sample_);
+  work_.Start([sample, classes](const Proceed&) { *sample = WithClasses(*sample, classes); },
+              [this, sample] {
+                sample_ = sample;
+                ShowSample();
+                EndWork();
+              },
+              [this](const QString& why) { message_->SetText(why); });
+  ShowRunning();
+}
+
+QVariantMap RandomPage::State() const {
+  return {{QStringLiteral("variate"), QString::fromUtf8(Chosen().name)},
+          {QStringLiteral("parameters"), parameters_->Texts()},
+          {QStringLiteral("size"), size_->value()},
+          {QStringLiteral("seed"), NumberText(*seed_)},
+          {QStringLiteral("classes"), classes_->value()}};
+}
+
+void RandomPage::SetState(const QVariantMap& state) {
+  const std::string name = state.value(QStringLiteral("variate")).toString().toStdString();
+  const auto variate = std::ranges::find_if(
+      variates_, [&name](const apps::Variate* of) { return of->name == name; });
+  if (variate == variates_.end()) return;
+  variate_->setCurrentIndex(static_cast<int>(variate - variates_.begin()));
+  parameters_->SetTexts(state.value(QStringLiteral("parameters")).toStringList());
+  size_->setValue(state.value(QStringLiteral("size")).toInt());
+  SetNumberText(*seed_, state.value(QStringLiteral("seed")).toString());
+  classes_->setValue(state.value(QStringLiteral("classes")).toInt());
+}
+
+PageReport RandomPage::Report() const {
+  if (sample_ == nullptr) return {};
+  return {title_->text(), {{tr("Histogram"), {}, plot_}, {tr("Moments"), moments_->Rows()}}};
 }
 
 void RandomPage::Copy() {
@@ -250,7 +306,7 @@ void RandomPage::Save(const QString& path) {
   message_->SetText({});
   work_.Start([sample = sample_,
                path](const Proceed& proceed) { SaveValues(sample->values, path, proceed); },
-              [this] { ShowRunning(); },
+              [this] { EndWork(); },
               [this, path](const QString& why) {
                 message_->SetText(tr("%1: %2").arg(path, why));
                 ShowRunning();

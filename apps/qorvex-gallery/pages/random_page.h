@@ -47,6 +47,10 @@ class RandomPage : public Page {
   /// Writes the values to a file in the background, one per line with all digits.
   void Save(const QString& path);
 
+  [[nodiscard]] QVariantMap State() const override;
+  void SetState(const QVariantMap& state) override;
+  [[nodiscard]] PageReport Report() const override;
+
  protected:
   /// Draws the first sample.
   void showEvent(QShowEvent* event) override;
@@ -54,6 +58,8 @@ class RandomPage : public Page {
  private:
   void ShowVariate();
   void ShowSample();
+  void UpdateClasses();
+  void EndWork();
   void ShowRunning();
   void Copy();
   void AskAndSave();
@@ -69,6 +75,7 @@ class RandomPage : public Page {
   ParameterForm* parameters_;
   QSpinBox* size_;
   TQorFloatEdit* seed_;
+  QSpinBox* classes_;
   QPushButton* generate_;
   QPushButton* cancel_;
   QProgressBar* progress_;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 #include "apps/common/round_step.h"
 #include "qorvex/base/elementary/functions.h"
@@ -14,16 +15,6 @@ namespace qorvex::gallery {
 namespace {
 
 constexpr Extended kMostClasses = 1000;
-
-TQorFloatVector SortedFinite(const TQorFloatVector& values) {
-  auto finite = TQorFloatVector::ForOverwrite(values.size());
-  std::size_t count = 0;
-  for (const Extended value : values)
-    if (std::isfinite(value)) finite[count++] = value;
-  finite.SetLength(count);
-  QSortVector(finite, true);
-  return finite;
-}
 
 // Halves are subtracted, because the whole difference may be beyond the range.
 Extended ClassesByRule(const TQorFloatVector& sorted, ClassRule rule) {
@@ -51,10 +42,8 @@ std::vector<Extended> RoundEdges(Extended low, Extended high, Extended width) {
   return edges;
 }
 
-std::vector<Extended> PlainEdges(Extended low, Extended high, Extended least_classes) {
+std::vector<Extended> PlainEdges(Extended low, Extended high, Extended classes) {
   std::vector<Extended> edges;
-  // The width of one class may be beyond the range.
-  const Extended classes = std::max<Extended>(2, least_classes);
   const Extended width = high / classes - low / classes;
   for (Extended i = 0; i < classes; ++i) edges.push_back(low + i * width);
   edges.push_back(std::nextafter(high, std::numeric_limits<Extended>::infinity()));
@@ -63,13 +52,15 @@ std::vector<Extended> PlainEdges(Extended low, Extended high, Extended least_cla
   return edges;
 }
 
+std::vector<Extended> EdgesAround(Extended value) {
+  const Extended half = std::max(Extended{0.5}, std::fabs(value) * 0x1p-10L);
+  return {value - half, value + half};
+}
+
 std::vector<Extended> EdgesOf(const TQorFloatVector& sorted, ClassRule rule) {
   const Extended low = sorted[0];
   const Extended high = sorted[sorted.size() - 1];
-  if (low == high) {
-    const Extended half = std::max(Extended{0.5}, std::fabs(low) * 0x1p-10L);
-    return {low - half, low + half};
-  }
+  if (low == high) return EdgesAround(low);
   const Extended classes = std::ceil(ClassesByRule(sorted, rule));
   const Extended width = high / classes - low / classes;
   constexpr Extended least_width = 1e-4900L;
@@ -78,20 +69,13 @@ std::vector<Extended> EdgesOf(const TQorFloatVector& sorted, ClassRule rule) {
   const Extended largest = std::max(std::fabs(low), std::fabs(high));
   const bool can_be_round =
       width > least_width && width < most_width && largest / width < most_steps;
-  return can_be_round ? RoundEdges(low, high, width) : PlainEdges(low, high, classes);
+  return can_be_round ? RoundEdges(low, high, width)
+                      // The width of one class may be beyond the range.
+                      : PlainEdges(low, high, std::max<Extended>(2, classes));
 }
 
-}  // namespace
-
-Extended Histogram::Density(std::size_t index) const {
-  const Extended share = static_cast<Extended>(counts[index]) / static_cast<Extended>(total);
-  return share / (edges[index + 1] - edges[index]);
-}
-
-Histogram HistogramOf(const TQorFloatVector& values, ClassRule rule) {
-  const TQorFloatVector sorted = SortedFinite(values);
-  if (sorted.empty()) return {};
-  Histogram histogram{.edges = EdgesOf(sorted, rule), .counts = {}, .total = sorted.size()};
+Histogram Counted(const TQorFloatVector& sorted, std::vector<Extended> edges) {
+  Histogram histogram{.edges = std::move(edges), .counts = {}, .total = sorted.size()};
   histogram.counts.reserve(histogram.edges.size() - 1);
   const Extended* begin = sorted.begin();
   for (std::size_t i = 1; i < histogram.edges.size(); ++i) {
@@ -100,6 +84,36 @@ Histogram HistogramOf(const TQorFloatVector& values, ClassRule rule) {
     begin = end;
   }
   return histogram;
+}
+
+}  // namespace
+
+TQorFloatVector SortedFinite(const TQorFloatVector& values) {
+  auto finite = TQorFloatVector::ForOverwrite(values.size());
+  std::size_t count = 0;
+  for (const Extended value : values)
+    if (std::isfinite(value)) finite[count++] = value;
+  finite.SetLength(count);
+  QSortVector(finite, true);
+  return finite;
+}
+Extended Histogram::Density(std::size_t index) const {
+  const Extended share = static_cast<Extended>(counts[index]) / static_cast<Extended>(total);
+  return share / (edges[index + 1] - edges[index]);
+}
+
+Histogram HistogramOf(const TQorFloatVector& values, ClassRule rule) {
+  const TQorFloatVector sorted = SortedFinite(values);
+  return sorted.empty() ? Histogram() : Counted(sorted, EdgesOf(sorted, rule));
+}
+
+Histogram HistogramOf(const TQorFloatVector& values, std::size_t classes) {
+  const TQorFloatVector sorted = SortedFinite(values);
+  if (sorted.empty()) return {};
+  const Extended low = sorted[0];
+  const Extended high = sorted[sorted.size() - 1];
+  return Counted(sorted, low == high ? EdgesAround(low)
+                                     : PlainEdges(low, high, static_cast<Extended>(classes)));
 }
 
 }  // namespace qorvex::gallery

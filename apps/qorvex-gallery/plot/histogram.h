@@ -40,4 +40,12 @@ struct Histogram {
 [[nodiscard]] Histogram HistogramOf(const TQorFloatVector& values,
                                     ClassRule rule = ClassRule::kFreedmanDiaconis);
 
+/// The histogram of the finite values with this number of classes, which divide the range evenly;
+/// with fewer if there are fewer floating-point numbers in the range, and with one if all values
+/// are equal.
+[[nodiscard]] Histogram HistogramOf(const TQorFloatVector& values, std::size_t classes);
+
+/// The finite values in ascending order.
+[[nodiscard]] TQorFloatVector SortedFinite(const TQorFloatVector& values);
+
 }  // namespace qorvex::gallery

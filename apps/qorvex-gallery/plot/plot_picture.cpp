@@ -9,7 +9,6 @@
 #include <QMimeData>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPrinter>
 #include <algorithm>
 #ifdef QORVEX_HAS_SVG
 #include <QSvgGenerator>
@@ -89,6 +88,12 @@ const std::vector<PictureFormat>& PictureFormats() {
   return formats;
 }
 
+const PictureFormat& FormatForBrowsers() {
+  const auto& formats = PictureFormats();
+  const auto svg = std::ranges::find(formats, QStringLiteral("svg"), &PictureFormat::suffix);
+  return svg == formats.end() ? formats.front() : *svg;
+}
+
 void SavePicture(const PlotView& plot, const QString& path) {
   const QString suffix = QFileInfo(path).suffix().toLower();
   const auto& formats = PictureFormats();
@@ -113,9 +118,9 @@ void CopyPicture(const PlotView& plot) {
   QGuiApplication::clipboard()->setMimeData(data);
 }
 
-void PrintPicture(const PlotView& plot, QPrinter& printer) {
+void PrintPicture(const PlotView& plot, QPagedPaintDevice& printer) {
   QPainter painter(&printer);
-  const QRectF page = printer.pageLayout().paintRectPixels(printer.resolution());
+  const QRectF page = printer.pageLayout().paintRectPixels(printer.logicalDpiX());
   const double scale = std::min(page.width() / plot.width(), page.height() / plot.height());
   painter.scale(scale, scale);
   plot.Draw(painter, plot.rect());

@@ -7,7 +7,7 @@
 #include <QString>
 #include <vector>
 
-class QPrinter;
+class QPagedPaintDevice;
 
 namespace qorvex::gallery {
 
@@ -25,6 +25,9 @@ struct PictureFormat {
 /// there.
 [[nodiscard]] const std::vector<PictureFormat>& PictureFormats();
 
+/// The one that browsers show without a loss, SVG if it is there.
+[[nodiscard]] const PictureFormat& FormatForBrowsers();
+
 /// Writes what the diagram shows to a file in the format that its suffix names. Throws
 /// std::runtime_error if the suffix names none or the file cannot be written.
 void SavePicture(const PlotView& plot, const QString& path);
@@ -33,6 +36,6 @@ void SavePicture(const PlotView& plot, const QString& path);
 void CopyPicture(const PlotView& plot);
 
 /// Prints what the diagram shows, as wide as the page allows.
-void PrintPicture(const PlotView& plot, QPrinter& printer);
+void PrintPicture(const PlotView& plot, QPagedPaintDevice& printer);
 
 }  // namespace qorvex::gallery

@@ -141,7 +141,12 @@ PlotReadout PlotReader::ReadoutOf(std::size_t layer, std::size_t point, const QP
                  Number(of.points[point].x(), extent_.x));
   }
   readout.lines.append(Named(content_.x, Text("x"), x));
-  if (of.shape != PlotShape::kMarks) readout.lines.append(Named(content_.y, Text("y"), YText(at)));
+  if (of.shape == PlotShape::kMarks) return readout;
+  if (content_.y.categories.empty()) {
+    readout.lines.append(Named(content_.y, Text("y"), Number(at.y(), extent_.y)));
+  } else if (const QString category = CategoryAt(at.y()); !category.isEmpty()) {
+    readout.lines.append(category);
+  }
   return readout;
 }
 
@@ -153,11 +158,8 @@ QString PlotReader::Named(const PlotAxis& axis, const QString& fallback,
   return QStringLiteral("%1: %2").arg(title, value);
 }
 
-QString PlotReader::YText(const QPointF& at) const {
-  const auto category = static_cast<qsizetype>(std::lround(at.y()));
-  if (category < content_.y.categories.size() && category >= 0)
-    return content_.y.categories[category];
-  return Number(at.y(), extent_.y);
+QString PlotReader::CategoryAt(double y) const {
+  return content_.y.categories.value(static_cast<qsizetype>(std::lround(y)));
 }
 
 // Four digits more than the ends of the range have in common.

@@ -31,7 +31,8 @@ class PlotReader {
       : content_(content), extent_(extent), locale_(locale) {}
 
   /// The point, line, bar or area at a place in a picture in which the axes enclose the area, or
-  /// none. Points come before lines, and lines before what is filled. O(n).
+  /// none. Points come before lines, and lines before what is filled. Bars are found above them,
+  /// too, because they may be very low. O(n).
   [[nodiscard]] std::optional<PlotReadout> Near(const QPointF& place, const QRectF& area) const;
   /// A point of a layer that has it; none if the point is not finite or the layer is a band.
   [[nodiscard]] std::optional<PlotReadout> At(std::size_t layer, std::size_t point) const;
@@ -44,7 +45,7 @@ class PlotReader {
   [[nodiscard]] QString Number(double value, const AxisRange& range) const;
   [[nodiscard]] QString Named(const PlotAxis& axis, const QString& fallback,
                               const QString& value) const;
-  [[nodiscard]] QString YText(const QPointF& at) const;
+  [[nodiscard]] QString CategoryAt(double y) const;
   void SearchVertices(std::size_t layer, Candidate& best) const;
   void SearchLine(std::size_t layer, Candidate& best) const;
   void SearchFilled(std::size_t layer, Candidate& best) const;

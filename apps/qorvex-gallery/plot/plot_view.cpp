@@ -172,6 +172,7 @@ void PlotView::paintEvent(QPaintEvent*) {
   if (readout_) DrawReadout(painter);
   if (!hasFocus()) return;
   painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+  painter.setBrush(Qt::NoBrush);
   painter.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 

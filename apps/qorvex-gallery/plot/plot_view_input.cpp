@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QWheelEvent>
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -159,12 +160,13 @@ void PlotView::ReadOutFrom(std::size_t layer, std::ptrdiff_t point, int step) {
   }
 }
 
-// The next layer of which a point is in the diagram. At the start, the first one.
+// The next layer of which a point is in the diagram. The first one is that of the data.
 void PlotView::StepLayer(int step) {
   const auto count = static_cast<std::ptrdiff_t>(content_.layers.size());
-  std::ptrdiff_t layer =
-      readout_ ? static_cast<std::ptrdiff_t>(readout_->layer) : (step > 0 ? -1 : 0);
   const std::optional<PlotReadout> before = std::exchange(readout_, std::nullopt);
+  const auto of_data = std::ranges::find(content_.layers, PlotRole::kData, &PlotLayer::role);
+  std::ptrdiff_t layer = before ? static_cast<std::ptrdiff_t>(before->layer)
+                                : of_data - content_.layers.begin() - step;
   for (std::ptrdiff_t i = 0; i < count && !readout_; ++i) {
     layer = (layer + step + count) % count;
     ReadOutFrom(static_cast<std::size_t>(layer), 0, 1);

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 
 #include "apps/qorvex-gallery/model/column_figures.h"
+#include "apps/qorvex-gallery/model/column_plots.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
@@ -62,8 +63,7 @@ void ColumnReport::Show(const TQorFloatVector& values, std::size_t empty_cells,
   figures_->SetRows(figures.ReportTable(decimals_->value(), locale()));
   remark_->setText(figures.Remark(empty_cells, decimals_->value(), decimals_->maximum(), locale()));
   remark_->setToolTip(ToolTipOf(remark_->text()));
-  plot_->SetAxisTitles(title, tr("Density"));
-  plot_->SetLayers(figures.HistogramLayers());
+  plot_->SetContent(HistogramPlot({title, values}));
 }
 
 }  // namespace qorvex::gallery

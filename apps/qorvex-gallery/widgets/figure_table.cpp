@@ -1,9 +1,16 @@
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QGridLayout>
+#include <QGuiApplication>
 #include <QLabel>
+#include <QMenu>
+#include <QMimeData>
 #include <algorithm>
 #include <utility>
+
+#include "apps/qorvex-gallery/model/html.h"
 
 namespace qorvex::gallery {
 
@@ -43,6 +50,46 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
   }
 }
 
+QList<QStringList> FigureTable::Rows() const {
+  QList<QStringList> rows;
+  for (std::size_t first = 0; first < columns_.size();) {
+    std::size_t end = first + 1;
+    while (end < columns_.size() && columns_[end] != kLabel) ++end;
+    for (const std::vector<QLabel*>& cells : cells_) {
+      QStringList row;
+      for (std::size_t c = first; c < end; ++c) row.append(cells[c]->text());
+      const bool is_empty = std::ranges::all_of(row, &QString::isEmpty);
+      if (!is_empty) rows.append(row);
+    }
+    first = end;
+  }
+  return rows;
+}
+
+void FigureTable::Copy() const {
+  const QList<QStringList> rows = Rows();
+  QString text;
+  for (const QStringList& row : rows) text += row.join(u'\t') + u'\n';
+  auto* const formats = new QMimeData;
+  formats->setText(text);
+  formats->setHtml(HtmlTable(rows));
+  QGuiApplication::clipboard()->setMimeData(formats);
+}
+
+// The figures have no menus of their own, so that this one appears wherever it is asked for.
+void FigureTable::contextMenuEvent(QContextMenuEvent* event) {
+  auto* const menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const auto* const figure = qobject_cast<QLabel*>(childAt(event->pos()));
+  if (figure != nullptr && figure->hasSelectedText()) {
+    menu->addAction(tr("&Copy Selection"), this, [text = figure->selectedText()] {
+      QGuiApplication::clipboard()->setText(text);
+    });
+  }
+  menu->addAction(tr("Copy &Table"), this, &FigureTable::Copy);
+  menu->popup(event->globalPos());
+}
+
 void FigureTable::Align(FigureTable& one, FigureTable& other) {
   for (const int column : {0, 1}) {
     const int width = std::max(one.WidthOf(column), other.WidthOf(column));
@@ -61,6 +108,7 @@ int FigureTable::WidthOf(int column) const {
 QLabel* FigureTable::AddCell(int row, int column) {
   auto* const cell = new QLabel;
   cell->setTextFormat(Qt::PlainText);
+  cell->setContextMenuPolicy(Qt::NoContextMenu);
   if (columns_[static_cast<std::size_t>(column)] == kFigure) {
     cell->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     cell->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

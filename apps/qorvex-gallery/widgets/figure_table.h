@@ -13,7 +13,7 @@ class QLabel;
 namespace qorvex::gallery {
 
 /// A table of texts. Labels are to the left of their figures. Figures are aligned to the right and
-/// can be selected and copied.
+/// can be selected and copied, one by one or all together from the menu.
 class FigureTable : public QWidget {
   Q_OBJECT
 
@@ -27,8 +27,16 @@ class FigureTable : public QWidget {
   /// Shows these rows, with one text per column; missing cells are empty. The table never shrinks,
   /// so that widgets below it do not move.
   void SetRows(const QList<QStringList>& rows);
+  /// The texts that are shown, with the figures of each label in the rows below those of the labels
+  /// to the left of it, as in a list.
+  [[nodiscard]] QList<QStringList> Rows() const;
+  /// Puts the rows on the clipboard, as text with tabs for spreadsheets and as HTML.
+  void Copy() const;
   /// Makes the first two columns of two tables line up.
   static void Align(FigureTable& one, FigureTable& other);
+
+ protected:
+  void contextMenuEvent(QContextMenuEvent* event) override;
 
  private:
   [[nodiscard]] int WidthOf(int column) const;

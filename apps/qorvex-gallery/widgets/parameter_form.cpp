@@ -6,6 +6,8 @@
 #include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/texts.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
+#include "qorvex/base/errors.h"
+#include "qorvex/base/text.h"
 #include "qorvex/base_controls/float_edit.h"
 
 namespace qorvex::gallery {
@@ -56,6 +58,23 @@ std::vector<Extended> ParameterForm::Numbers() const {
   return numbers;
 }
 
+QStringList ParameterForm::Texts() const {
+  QStringList texts;
+  for (const Row& row : rows_) texts.append(NumberText(*row.cell));
+  return texts;
+}
+
+void ParameterForm::SetTexts(const QStringList& texts) {
+  for (std::size_t i = 0; i < rows_.size(); ++i)
+    SetNumberText(*rows_[i].cell, texts.value(static_cast<qsizetype>(i)));
+}
+
+QList<QStringList> ParameterForm::Rows() const {
+  QList<QStringList> rows;
+  for (const Row& row : rows_) rows.append({LabelOf(*row.parameter), ExactText(row.cell->Value())});
+  return rows;
+}
+
 QString ParameterForm::WhatIsWrong() const {
   QStringList messages;
   for (const Row& row : rows_) {
@@ -82,6 +101,18 @@ TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name, QW
   cell->setValue(value);
   cell->setAccessibleName(accessible_name);
   return cell;
+}
+
+QString NumberText(const TQorFloatEdit& cell) {
+  return QString::fromStdString(Float2Str(cell.Value()));
+}
+
+void SetNumberText(TQorFloatEdit& cell, const QString& text) {
+  try {
+    cell.setValue(Str2Float(text.toStdString()));
+  } catch (const EConvertError&) {
+    // The text was not written by NumberText.
+  }
 }
 
 }  // namespace qorvex::gallery

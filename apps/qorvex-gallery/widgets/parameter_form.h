@@ -3,7 +3,9 @@
 /// @file
 /// ParameterForm, cells for the parameters of a distribution or variate.
 
+#include <QList>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <optional>
 #include <span>
@@ -36,6 +38,13 @@ class ParameterForm : public QWidget {
 
   /// The numbers in order.
   [[nodiscard]] std::vector<Extended> Numbers() const;
+  /// @{
+  /// The numbers as texts with all digits, for SetTexts, which ignores what is no number.
+  [[nodiscard]] QStringList Texts() const;
+  void SetTexts(const QStringList& texts);
+  /// @}
+  /// The labels with the numbers in the format of the locale, for a report.
+  [[nodiscard]] QList<QStringList> Rows() const;
   /// What is wrong with the numbers, each taken by itself; empty if nothing is.
   [[nodiscard]] QString WhatIsWrong() const;
   /// A message with the labels of the cells in place of command line options.
@@ -59,5 +68,12 @@ class ParameterForm : public QWidget {
 /// A cell that shows all digits of its number.
 [[nodiscard]] TQorFloatEdit* MakeNumberCell(Extended value, const QString& accessible_name,
                                             QWidget* parent);
+
+/// @{
+/// The number of a cell as a text with all digits that is the same in every locale, and the cell
+/// with such a number, which is unchanged if the text is none.
+[[nodiscard]] QString NumberText(const TQorFloatEdit& cell);
+void SetNumberText(TQorFloatEdit& cell, const QString& text);
+/// @}
 
 }  // namespace qorvex::gallery

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
 
 namespace qorvex::gallery {
@@ -36,27 +37,27 @@ TableLoader::TableLoader(QWidget* parent) : QWidget(parent), bar_(new QProgressB
 
 TableLoader::~TableLoader() = default;
 
-void TableLoader::Load(const QString& file, const QString& title, const Loaded& loaded,
-                       const Failed& failed) {
+void TableLoader::Load(const QString& file, const QString& title, const apps::TableFormat& format,
+                       const Loaded& loaded, const Failed& failed) {
   Stop();
   const qint64 size = QFileInfo(file).size();
   if (size <= kMostReadAtOnce) {
+    SheetData sheet;
     try {
-      loaded(DataTable(OpenFile(file)));
+      sheet = ReadSheet(OpenFile(file), format, static_cast<std::size_t>(size));
     } catch (const apps::InputError& error) {
-      failed(QString::fromUtf8(error.what()));
+      return failed(QString::fromUtf8(error.what()));
     }
-    return;
+    return loaded(std::move(sheet));
   }
-  const auto table = std::make_shared<DataTable>();
+  const auto sheet = std::make_shared<SheetData>();
   work_.Start(
-      [table, file, size](const Proceed& proceed) {
-        *table = DataTable(Observed(OpenFile(file), [&proceed, size](std::size_t bytes) {
-          return proceed(bytes, static_cast<std::size_t>(size));
-        }));
+      [sheet, file, format, bytes = static_cast<std::size_t>(size)](const Proceed& proceed) {
+        const auto observe = [&proceed, bytes](std::size_t done) { return proceed(done, bytes); };
+        *sheet = ReadSheet(Observed(OpenFile(file), observe), format, bytes);
       },
-      [this, table, loaded] {
-        loaded(std::move(*table));
+      [this, sheet, loaded] {
+        loaded(std::move(*sheet));
         End();
       },
       [this, failed](const QString& why) {

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "apps/qorvex-gallery/model/background_work.h"
-#include "apps/qorvex-gallery/model/data_table.h"
+#include "apps/qorvex-gallery/model/sheet_data.h"
 
 class QProgressBar;
 
@@ -20,15 +20,16 @@ class TableLoader : public QWidget {
   Q_OBJECT
 
  public:
-  using Loaded = std::function<void(DataTable table)>;
+  using Loaded = std::function<void(SheetData sheet)>;
   using Failed = std::function<void(const QString& why)>;
 
   explicit TableLoader(QWidget* parent = nullptr);
   ~TableLoader() override;
 
-  /// Reads a file and calls loaded or failed: before it returns for a small file, later for a large
-  /// one. A reading in progress stops first.
-  void Load(const QString& file, const QString& title, const Loaded& loaded, const Failed& failed);
+  /// Reads a file in a format, of which it finds what is left open, and calls loaded or failed:
+  /// before it returns for a small file, later for a large one. A reading in progress stops first.
+  void Load(const QString& file, const QString& title, const apps::TableFormat& format,
+            const Loaded& loaded, const Failed& failed);
   /// Stops a reading in progress; neither of its functions is called.
   void Stop();
   [[nodiscard]] bool IsLoading() const noexcept { return work_.IsRunning(); }

@@ -75,6 +75,16 @@ std::optional<Extended> NumberOf(const QVariant& item, const QLocale& locale) {
   return QorvexBaseControls::detail::ParseLocalNumber(text, locale);
 }
 
+bool HoldsText(const QVariant& item) {
+  return item.metaType().id() == QMetaType::QString && !item.toString().trimmed().isEmpty();
+}
+
+QVariant ItemOfText(const QString& text, const QVariant& held, const QLocale& locale) {
+  if (FindType(held) == nullptr) return text;
+  const std::optional<Extended> number = NumberOf(text, locale);
+  return number ? ItemOf(*number, held) : text;
+}
+
 QVariant ItemOf(Extended number, const QVariant& held) {
   if (std::isnan(number)) return {};
   if (const NumberType* const type = FindType(held)) {

@@ -18,6 +18,14 @@ namespace qorvex::inline QorvexControls::detail {
 [[nodiscard]] QORVEX_EXPORT std::optional<Extended> NumberOf(const QVariant& item,
                                                              const QLocale& locale);
 
+/// A text for an item to hold: the number that NumberOf reads from it if the item holds a type of
+/// numbers, as ItemOf writes that.
+[[nodiscard]] QORVEX_EXPORT QVariant ItemOfText(const QString& text, const QVariant& held,
+                                                const QLocale& locale);
+
+/// Whether an item holds a text, which is not blank.
+[[nodiscard]] QORVEX_EXPORT bool HoldsText(const QVariant& item);
+
 /// A number for an item to hold. It has the type of what the item holds if that is a type of
 /// numbers to which this one belongs exactly; otherwise it is the shortest decimal text that
 /// NumberOf turns back into the number. A null is a variant without a value.

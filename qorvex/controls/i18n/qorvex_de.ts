@@ -127,6 +127,10 @@
         <translation>Inverse</translation>
     </message>
     <message>
+        <source>Replace Matrix</source>
+        <translation>Matrix ersetzen</translation>
+    </message>
+    <message>
         <source>Linear Transformation</source>
         <translation>Lineare Transformation</translation>
     </message>

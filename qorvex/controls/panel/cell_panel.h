@@ -154,6 +154,14 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   [[nodiscard]] QAbstractItemModel* Model() const noexcept;
   void setModel(QAbstractItemModel* model);
   /// @}
+  /// @{
+  /// Whether the items of a model may be texts; false by default. A text that an item holds is then
+  /// shown as it is, and a typed or pasted text that is not a number is written as it is; so are
+  /// plain numbers that would be written in another way, such as 007, to items that hold no number.
+  /// Element() and the like take a text for null.
+  [[nodiscard]] bool TextItems() const noexcept;
+  void setTextItems(bool on);
+  /// @}
 
   /// @{
   /// The current row. Setting it scrolls until that row is under the focused cell, or under the

@@ -19,6 +19,19 @@ void CellPanel::setModel(QAbstractItemModel* model) {
   SwitchModel(model);
 }
 
+bool CellPanel::TextItems() const noexcept {
+  return parts_->model.HasTexts();
+}
+
+void CellPanel::setTextItems(bool on) {
+  if (on == TextItems()) return;
+  parts_->focus.CommitPending();
+  parts_->history.Forget();
+  parts_->model.SetHasTexts(on);
+  parts_->grid.SetTexts(on ? &parts_->model.Texts() : nullptr);
+  Redisplay();
+}
+
 void CellPanel::SwitchModel(QAbstractItemModel* model) {
   detail::ModelLink& link = parts_->model;
   const Update update(*this);

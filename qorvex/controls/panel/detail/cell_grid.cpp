@@ -43,6 +43,11 @@ void CellGrid::SetCellFactory(std::function<TQorCustomEdit*(QWidget* panel)> mak
   make_cell_ = std::move(make);
 }
 
+void CellGrid::SetTexts(QorvexBaseControls::detail::TextElements* texts) {
+  texts_ = texts;
+  ForEach([texts](TQorCustomEdit& cell) { cell.SetTexts(texts); });
+}
+
 void CellGrid::SetHeader(RowHeader header) {
   header_ = std::move(header);
 }
@@ -117,6 +122,7 @@ TQorCustomEdit* CellGrid::MakeCell(CellPlace place, const CellSettings& settings
                                    Qt::FocusPolicy focus) {
   TQorCustomEdit* const cell = make_cell_(&panel_);
   cell->setSettings(settings);
+  cell->SetTexts(texts_);
   cell->setFocusPolicy(focus);
   owner_.connect(*cell, place);
   return cell;
@@ -194,6 +200,7 @@ QString CellGrid::TextFor(quint32 col, Extended value) const {
   const std::unique_ptr<TQorCustomEdit> cell(make_cell_(nullptr));
   cell->setLocale(panel_.locale());
   cell->setSettings(SettingsOf(col));
+  cell->SetTexts(texts_);
   return cell->TextFor(value);
 }
 

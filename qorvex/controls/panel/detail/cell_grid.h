@@ -54,6 +54,8 @@ class CellGrid : private QAccessible::ActivationObserver {
 
   /// What makes a cell. Set once, before there are any.
   void SetCellFactory(std::function<TQorCustomEdit*(QWidget* panel)> make);
+  /// Texts that elements stand for; a null pointer for none, the default.
+  void SetTexts(QorvexBaseControls::detail::TextElements* texts);
   /// The texts in front of the cells, if there are any.
   void SetHeader(RowHeader header);
 
@@ -138,6 +140,7 @@ class CellGrid : private QAccessible::ActivationObserver {
   const GridGeometry& geometry_;
   Owner owner_;
   std::function<TQorCustomEdit*(QWidget* panel)> make_cell_;
+  QorvexBaseControls::detail::TextElements* texts_ = nullptr;
   RowHeader header_;
   std::vector<std::vector<TQorCustomEdit*>> cells_;
   std::vector<TextCell*> header_texts_;

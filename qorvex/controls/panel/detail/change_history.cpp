@@ -2,10 +2,11 @@
 
 #include <QCoreApplication>
 #include <algorithm>
-#include <cmath>
+#include <limits>
 #include <new>
 #include <utility>
 
+#include "qorvex/base_controls/detail/same_element.h"
 #include "qorvex/controls/panel/detail/undo_step.h"
 
 namespace qorvex::inline QorvexControls::detail {
@@ -14,6 +15,8 @@ namespace {
 
 // The stack of the history itself also limits the number of steps, since obsolete ones stay on it.
 constexpr int kMostSteps = 10'000;
+
+constexpr Extended kNull = std::numeric_limits<Extended>::quiet_NaN();
 
 // Whether a part of a stack has a command that is not obsolete; the newest ones are looked at
 // first.
@@ -147,7 +150,7 @@ void ChangeHistory::Settle() {
   if (Use().IsBusy()) return;
   for (const auto& changes : std::exchange(events_, {})) {
     for (const auto& [row, col, before] : *changes) {
-      if (Has(row, col) && std::isnan(table_.Value(row, col))) {
+      if (Has(row, col) && QorvexBaseControls::detail::SameElement(table_.Value(row, col), kNull)) {
         table_.Notify(CellEvent::kNull, row, col);
       }
       if (Has(row, col)) table_.Notify(CellEvent::kChange, row, col);

@@ -27,6 +27,7 @@ void ModelLink::Link(QAbstractItemModel* model) {
   if (model_) model_->disconnect(this);
   model_ = model;
   typed_.reset();
+  texts_.Clear();
   if (model == nullptr) return;
   connect(model, &QAbstractItemModel::dataChanged, this, &ModelLink::Changed);
   connect(model, &QAbstractItemModel::headerDataChanged, this, owner_.headings_changed);
@@ -105,15 +106,22 @@ quint32 ModelLink::Count(CellAxis axis) const {
   return CountFrom(First(axis), rows ? model_->rowCount() : model_->columnCount());
 }
 
-Extended ModelLink::Value(quint32 row, quint32 col) const {
+Extended ModelLink::Value(quint32 row, quint32 col) {
   // An index that does not exist has no data, which is null.
-  return NumberOf(Index(row, col).data(Qt::EditRole), owner_.locale()).value_or(kNull);
+  const QVariant item = Index(row, col).data(Qt::EditRole);
+  if (has_texts_ && HoldsText(item)) return texts_.ElementOf(item.toString());
+  const Extended number = NumberOf(item, owner_.locale()).value_or(kNull);
+  return std::isnan(number) ? kNull : number;
 }
 
 bool ModelLink::Store(quint32 row, quint32 col, Extended value) {
   const QModelIndex index = Index(row, col);
   const QScopedValueRollback stores(stores_, true);
-  return index.isValid() && model_->setData(index, ItemOf(value, index.data(Qt::EditRole)));
+  if (!index.isValid()) return false;
+  const QVariant held = index.data(Qt::EditRole);
+  const auto text = texts_.TextOf(value);
+  return model_->setData(index,
+                         text ? ItemOfText(*text, held, owner_.locale()) : ItemOf(value, held));
 }
 
 bool ModelLink::IsReadOnly(quint32 row, quint32 col) const {

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "qorvex/base/element_types.h"
+#include "qorvex/base_controls/detail/text_elements.h"
 #include "qorvex/controls/panel/cell_range.h"
 #include "qorvex/controls/panel/cell_table.h"
 #include "qorvex/controls/panel/detail/cell_place.h"
@@ -66,10 +67,18 @@ class ModelLink : public QObject {
   void SetFirstCol(int col) { first_col_ = col; }
   /// @}
 
+  /// @{
+  /// Whether items may be texts, which elements then stand for; otherwise texts that are not
+  /// numbers are null.
+  [[nodiscard]] bool HasTexts() const noexcept { return has_texts_; }
+  void SetHasTexts(bool has_texts) { has_texts_ = has_texts; }
+  [[nodiscard]] QorvexBaseControls::detail::TextElements& Texts() noexcept { return texts_; }
+  /// @}
+
   /// The number of rows, or of columns from the first one on; 0 without a model.
   [[nodiscard]] quint32 Count(CellAxis axis) const;
-  /// The value of an item; null if it is not a number or does not exist.
-  [[nodiscard]] Extended Value(quint32 row, quint32 col) const;
+  /// The value of an item; null if it is neither a number nor a text, or does not exist.
+  [[nodiscard]] Extended Value(quint32 row, quint32 col);
   /// False if the model refuses the value.
   bool Store(quint32 row, quint32 col, Extended value);
   /// Whether the model does not let the user change the item.
@@ -128,6 +137,8 @@ class ModelLink : public QObject {
   Owner owner_;
   QPointer<QAbstractItemModel> model_;
   int first_col_ = 0;
+  bool has_texts_ = false;
+  QorvexBaseControls::detail::TextElements texts_;
   bool stores_ = false;
   // It is going to be asked for more rows.
   bool fetches_ = false;

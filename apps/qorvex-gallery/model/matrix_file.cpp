@@ -1,0 +1,62 @@
+#include "apps/qorvex-gallery/model/matrix_file.h"
+
+#include <QFileInfo>
+#include <QSaveFile>
+#include <algorithm>
+#include <cmath>
+#include <string>
+#include <utility>
+
+#include "apps/common/matrix_reader.h"
+#include "apps/qorvex-gallery/model/table_input.h"
+#include "qorvex/base/text.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+std::string RowText(const TQorFloatVector& row) {
+  std::string text;
+  for (std::size_t i = 0; i < row.size(); ++i) {
+    if (i > 0) text += ',';
+    if (!std::isnan(row[i])) text += Float2Str(row[i]);
+  }
+  return text + '\n';
+}
+
+}  // namespace
+
+TQorFloatMatrix ReadMatrixFile(const QString& path, const Proceed& proceed) {
+  const auto size = static_cast<std::size_t>(std::max<qint64>(QFileInfo(path).size(), 1));
+  return apps::ReadMatrix(Observed(OpenFile(path),
+                                   [&proceed, size](std::size_t bytes) {
+                                     return proceed(std::min(bytes, size), size);
+                                   }),
+                          {});
+}
+
+QString WriteMatrixFile(const QString& path, const TQorFloatMatrix& matrix) {
+  QSaveFile file(path);
+  bool is_written = file.open(QIODevice::WriteOnly);
+  for (std::size_t row = 0; is_written && row < matrix.size(); ++row)
+    is_written = file.write(QByteArray::fromStdString(RowText(matrix[row]))) >= 0;
+  return is_written && file.commit() ? QString() : file.errorString();
+}
+
+QString MatrixText(const TQorFloatMatrix& matrix) {
+  std::string text;
+  for (const TQorFloatVector& row : matrix) text += RowText(row);
+  return QString::fromStdString(text);
+}
+
+TQorFloatMatrix MatrixOf(const QString& text) {
+  apps::TextInput input{"matrix",
+                        [rest = text.toStdString()](char* buffer, std::size_t size) mutable {
+                          const std::size_t count = rest.copy(buffer, size);
+                          rest.erase(0, count);
+                          return count;
+                        }};
+  return apps::ReadMatrix(std::move(input), {});
+}
+
+}  // namespace qorvex::gallery

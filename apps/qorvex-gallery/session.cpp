@@ -1,0 +1,124 @@
+#include "apps/qorvex-gallery/session.h"
+
+#include <QFile>
+#include <QSaveFile>
+#include <QSettings>
+#include <QTabWidget>
+#include <utility>
+
+#include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/sheet.h"
+#include "apps/qorvex-gallery/model/sheet_file.h"
+#include "apps/qorvex-gallery/model/table_input.h"
+#include "apps/qorvex-gallery/pages/data_page.h"
+#include "apps/qorvex-gallery/widgets/recent_files.h"
+#include "apps/qorvex-gallery/widgets/sheet_document.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+// The copy has a form of its own, whatever the form of the file of the sheet.
+constexpr char kDelimiter = ',';
+
+void SaveFormat(const apps::TableFormat& format, QSettings& settings) {
+  settings.setValue("delimiter", QChar::fromLatin1(format.delimiter.value_or(kDelimiter)));
+  settings.setValue("decimalSign", QChar::fromLatin1(format.decimal_sign.value_or('.')));
+  settings.setValue("header", format.header.value_or(true));
+  settings.setValue("encoding", static_cast<int>(format.encoding.value_or(apps::Encoding::kUtf8)));
+}
+
+apps::TableFormat FormatIn(const QSettings& settings) {
+  apps::TableFormat format;
+  format.delimiter = settings.value("delimiter").toChar().toLatin1();
+  format.decimal_sign = settings.value("decimalSign").toChar().toLatin1();
+  format.header = settings.value("header").toBool();
+  format.encoding = static_cast<apps::Encoding>(settings.value("encoding").toInt());
+  return format;
+}
+
+bool SaveCopy(const SheetData& sheet, const QString& file) {
+  QSaveFile out(file);
+  if (!out.open(QIODevice::WriteOnly)) return false;
+  const auto write = [&out](std::string_view text) {
+    out.write(text.data(), static_cast<qsizetype>(text.size()));
+  };
+  WriteSheet(sheet, kDelimiter, write, WriteNames::kAlways);
+  return out.commit();
+}
+
+void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument& document) {
+  const QString path = settings.value("path").toString();
+  const apps::TableFormat format = FormatIn(settings);
+  if (!settings.value("unsaved").toBool()) {
+    if (path.startsWith(u':')) return document.OpenExample();
+    if (!path.isEmpty()) document.OpenAs(path, format);
+    return;
+  }
+  apps::TableFormat of_copy = format;
+  of_copy.encoding = apps::Encoding::kUtf8;
+  of_copy.delimiter = kDelimiter;
+  of_copy.header = true;
+  try {
+    SheetData sheet = ReadSheet(OpenFile(copy), of_copy);
+    sheet.SetFormat(format);
+    sheet.SetChanged();
+    document.Restore(std::move(sheet), path, settings.value("title").toString());
+  } catch (const apps::InputError& error) {
+    Q_EMIT document.Message(QString::fromUtf8(error.what()));
+  }
+}
+
+}  // namespace
+
+void Session::Restore(MainWindow& window) const {
+  QSettings settings(Settings(), QSettings::IniFormat);
+  if (!settings.contains("window/geometry")) return;
+  SheetDocument& document = window.Data().Document();
+  window.restoreGeometry(settings.value("window/geometry").toByteArray());
+  window.ChooseAppearance(static_cast<Appearance>(settings.value("window/appearance").toInt()));
+  window.Recent().SetFiles(settings.value("files/recent").toStringList());
+  document.SetFolder(settings.value("files/folder").toString());
+  settings.beginGroup("sheet");
+  RestoreSheet(settings, Copy(), document);
+  settings.endGroup();
+  settings.beginGroup("pages");
+  QTabWidget& pages = *window.Pages();
+  for (int i = 0; i < pages.count(); ++i) {
+    auto& page = static_cast<Page&>(*pages.widget(i));
+    page.SetState(settings.value(page.objectName()).toMap());
+    if (settings.value("current") == page.objectName()) pages.setCurrentIndex(i);
+  }
+}
+
+bool Session::Save(const MainWindow& window) const {
+  const SheetDocument& document = window.Data().Document();
+  const SheetData& sheet = window.Table().Data();
+  if (!folder_.mkpath(".")) return false;
+  if (sheet.IsChanged() && !SaveCopy(sheet, Copy())) return false;
+  QSettings settings(Settings(), QSettings::IniFormat);
+  settings.setValue("window/geometry", window.saveGeometry());
+  settings.setValue("window/appearance", static_cast<int>(window.ChosenAppearance()));
+  settings.setValue("files/recent", window.Recent().Files());
+  settings.setValue("files/folder", document.Folder());
+  settings.beginGroup("sheet");
+  settings.setValue("path", document.Path());
+  settings.setValue("title", document.Title());
+  settings.setValue("unsaved", sheet.IsChanged());
+  SaveFormat(sheet.Format(), settings);
+  settings.endGroup();
+  settings.beginGroup("pages");
+  const QTabWidget& pages = *window.Pages();
+  for (int i = 0; i < pages.count(); ++i) {
+    const auto& page = static_cast<const Page&>(*pages.widget(i));
+    settings.setValue(page.objectName(), page.State());
+  }
+  settings.setValue("current", pages.currentWidget()->objectName());
+  settings.sync();
+  if (settings.status() != QSettings::NoError) return false;
+  if (!sheet.IsChanged()) QFile::remove(Copy());
+  return true;
+}
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,173 @@
+#include "apps/qorvex-gallery/widgets/sheet_document.h"
+
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QSaveFile>
+#include <utility>
+
+#include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/sheet.h"
+#include "apps/qorvex-gallery/model/sheet_file.h"
+#include "apps/qorvex-gallery/model/table_input.h"
+#include "apps/qorvex-gallery/widgets/table_loader.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+// Whether the path is that of a file, not of the example or of nothing.
+bool IsFile(const QString& path) {
+  return !path.isEmpty() && !path.startsWith(u':');
+}
+
+// The format in which a table is written to a file: by its suffix, otherwise as it was read.
+apps::TableFormat FormatFor(const QString& file, apps::TableFormat format) {
+  const QString suffix = QFileInfo(file).suffix().toLower();
+  format.delimiter = format.delimiter.value_or(',');
+  if (suffix == QLatin1String("tsv") || suffix == QLatin1String("tab")) {
+    format.delimiter = '\t';
+  } else if (suffix == QLatin1String("csv") && format.delimiter != ';') {
+    format.delimiter = format.decimal_sign == ',' ? ';' : ',';
+  }
+  format.encoding = apps::Encoding::kUtf8;
+  return format;
+}
+
+}  // namespace
+
+SheetDocument::SheetDocument(Sheet& sheet, TableLoader& loader, QWidget& page)
+    : QObject(&page), sheet_(sheet), loader_(loader), page_(page), title_(tr("Untitled")) {}
+
+SheetDocument::~SheetDocument() = default;
+
+void SheetDocument::Open(const QString& file) {
+  OpenAs(file, {});
+}
+
+void SheetDocument::OpenAs(const QString& file, const apps::TableFormat& format) {
+  OpenSource({file, QFileInfo(file).fileName(), {}}, format);
+}
+
+void SheetDocument::ChooseFile() {
+  const QString file = QFileDialog::getOpenFileName(
+      &page_, tr("Open a table"), folder_, tr("Tables (*.csv *.tsv *.txt *.dat);;All files (*)"));
+  if (!file.isEmpty()) Open(file);
+}
+
+void SheetDocument::OpenExample() {
+  OpenSource({":/qorvex/gallery/michelson_1879.csv",
+              tr("Example: the velocity of light, Michelson 1879"), "speed_km_s"},
+             {});
+}
+
+void SheetDocument::NewSheet() {
+  if (!MayGo()) return;
+  loader_.Stop();
+  Show({{}, tr("Untitled"), {}}, {});
+}
+
+void SheetDocument::ReadText(const QString& text) {
+  const QByteArray bytes = text.toUtf8();
+  try {
+    SheetData data =
+        ReadSheet(TextInputOf(tr("The pasted text"), bytes), {.encoding = apps::Encoding::kUtf8});
+    data.SetChanged();
+    Show({{}, tr("Untitled"), {}}, std::move(data));
+  } catch (const apps::InputError& error) {
+    Q_EMIT Message(QString::fromUtf8(error.what()));
+  }
+}
+
+void SheetDocument::OpenSource(const Source& source, const apps::TableFormat& format) {
+  if (!MayGo()) return;
+  reading_error_.clear();
+  loader_.Load(
+      source.file, source.title, format,
+      [this, source](SheetData data) {
+        Show(source, std::move(data));
+        if (IsFile(source.file)) Q_EMIT FileUsed(source.file);
+      },
+      [this](const QString& why) {
+        reading_error_ = why;
+        Q_EMIT Message(why);
+      });
+}
+
+void SheetDocument::Show(const Source& source, SheetData data) {
+  const apps::Encoding encoding = data.Format().encoding.value_or(apps::Encoding::kUtf8);
+  sheet_.SetData(std::move(data));
+  SetSource(source.file, source.title);
+  Q_EMIT Opened(source.column);
+  if (encoding == apps::Encoding::kLatin1) {
+    Q_EMIT Message(tr("The file is not UTF-8 and was read as Latin-1; it will be saved as UTF-8"));
+  }
+}
+
+void SheetDocument::Restore(SheetData data, const QString& path, const QString& title) {
+  Show({path, title, {}}, std::move(data));
+}
+
+void SheetDocument::SetSource(const QString& file, const QString& title) {
+  path_ = file;
+  title_ = title;
+  if (IsFile(file)) folder_ = QFileInfo(file).path();
+  Q_EMIT TitleChanged();
+}
+
+bool SheetDocument::MayGo() {
+  CommitText();
+  if (!sheet_.IsChanged()) return true;
+  // Otherwise the table could be replaced while the question is open.
+  loader_.Stop();
+  QMessageBox question(QMessageBox::Warning, tr("Unsaved changes"),
+                       tr("Save the changes in the table?"),
+                       QMessageBox::Save | QMessageBox::Discard | QMessageBox::Cancel, &page_);
+  question.setInformativeText(title_);
+  const int answer = question.exec();
+  return answer == QMessageBox::Discard || (answer == QMessageBox::Save && Save());
+}
+
+bool SheetDocument::Save() {
+  return IsFile(path_) ? SaveTo(path_) : SaveAs();
+}
+
+bool SheetDocument::SaveAs() {
+  loader_.Stop();
+  CommitText();
+  const QString name = path_.isEmpty() ? tr("table") : QFileInfo(path_).completeBaseName();
+  QFileDialog dialog(&page_, tr("Save the table"), folder_,
+                     tr("CSV files (*.csv);;Tab-separated text (*.tsv);;All files (*)"));
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix(QStringLiteral("csv"));
+  dialog.selectFile(name + QStringLiteral(".csv"));
+  return dialog.exec() == QDialog::Accepted && SaveTo(dialog.selectedFiles().constFirst());
+}
+
+bool SheetDocument::SaveTo(const QString& file) {
+  CommitText();
+  const apps::TableFormat before = sheet_.Data().Format();
+  const apps::TableFormat format = FormatFor(file, before);
+  QSaveFile out(file);
+  if (out.open(QIODevice::WriteOnly)) {
+    WriteSheet(sheet_.Data(), *format.delimiter, [&out](std::string_view text) {
+      out.write(text.data(), static_cast<qsizetype>(text.size()));
+    });
+  }
+  const QString name = QFileInfo(file).fileName();
+  if (!out.commit()) {
+    Q_EMIT Message(QStringLiteral("%1: %2").arg(name, out.errorString()));
+    return false;
+  }
+  sheet_.SetSaved(format);
+  SetSource(file, name);
+  Q_EMIT FileUsed(file);
+  const apps::Encoding encoding = before.encoding.value_or(apps::Encoding::kUtf8);
+  if (encoding != apps::Encoding::kUtf8) {
+    Q_EMIT Message(tr("%1 was %2 and is saved as UTF-8")
+                       .arg(name, QString::fromLatin1(apps::NameOf(encoding))));
+  }
+  return true;
+}
+
+}  // namespace qorvex::gallery

@@ -1,0 +1,168 @@
+#include "apps/qorvex-gallery/widgets/sheet_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QHBoxLayout>
+#include <QInputDialog>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QMimeData>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "apps/qorvex-gallery/model/sheet.h"
+
+namespace qorvex::gallery {
+
+SheetView::SheetView(Sheet& sheet, QWidget* parent)
+    : QWidget(parent), sheet_(sheet), editor_(new TQorMatrixEdit) {
+  SetUpEditor();
+  connect(editor_, &CellPanel::OnContextMenu, this, [this](QMenu& menu) {
+    menu.addSeparator();
+    AddCommands(menu);
+  });
+  connect(editor_, &CellPanel::OnSelectionChange, this, &SheetView::FollowSelection);
+  connect(editor_, &CellPanel::OnKeyDown, this, [this](QKeyEvent* event) {
+    const QMimeData* const contents = QApplication::clipboard()->mimeData();
+    const bool pastes = event->matches(QKeySequence::Paste) && sheet_.columnCount() == 0;
+    if (!pastes || contents == nullptr || !contents->hasText()) return;
+    event->accept();
+    Q_EMIT TablePasted(contents->text());
+  });
+  auto* const buttons = new QHBoxLayout;
+  const auto add = [&](const QString& text, auto slot) {
+    auto* const button = new QPushButton(text);
+    connect(button, &QPushButton::clicked, this, slot);
+    buttons->addWidget(button);
+  };
+  add(tr("Add &Row"), &SheetView::AppendRow);
+  add(tr("Add &Column"), &SheetView::AppendColumn);
+  add(tr("Re&name…"), &SheetView::RenameColumn);
+  buttons->addStretch();
+  auto* const layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(editor_, 1);
+  layout->addLayout(buttons);
+}
+
+void SheetView::SetUpEditor() {
+  constexpr int preferred_rows = 20;
+  constexpr int preferred_columns = 4;
+  constexpr int digits = 12;
+  editor_->setObjectName("sheet");
+  editor_->setAccessibleName(tr("Sheet"));
+  editor_->setNoOfRowEdits(preferred_rows);
+  editor_->setNoOfColEdits(preferred_columns);
+  editor_->setCellWidth(14 * fontMetrics().averageCharWidth());
+  editor_->setCellHeight(fontMetrics().height() + 8);
+  editor_->setAutoEdits(true);
+  editor_->setNumberFormat(NumberSettings::nfGeneral);
+  editor_->setSignificantDigits(digits);
+  editor_->setBlankWhenNull(true);
+  editor_->setRowHeadings(true);
+  editor_->setColHeadings(true);
+  editor_->setCanGrow(true);
+  editor_->setTextItems(true);
+  editor_->setModel(&sheet_);
+  editor_->OnSpecialColor = [this](quint32 row, quint32 column, Extended, QColor& color) {
+    color = ColorOf(row, column, color);
+  };
+}
+
+SheetView::~SheetView() {
+  // It commits a text that is being typed when it is destroyed.
+  editor_->disconnect(this);
+}
+
+QColor SheetView::ColorOf(quint32 row, quint32 column, const QColor& usual) const {
+  const SheetData& cells = sheet_.Data();
+  const std::string_view cell = cells.Cell(row, column);
+  if (cell.empty() || cells.IsNumeric(column) == (cells.KindOf(cell) == CellKind::kNumber))
+    return usual;
+  if (cells.KindOf(cell) == CellKind::kMissing) return palette().color(QPalette::PlaceholderText);
+  if (!cells.IsMixed(column) || cells.KindOf(cell) == CellKind::kNumber) return usual;
+  const bool dark = palette().color(QPalette::Base).lightness() < 128;
+  return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
+}
+
+void SheetView::CommitText() {
+  for (TextCell* const cell : editor_->findChildren<TextCell*>()) cell->CommitOrRestore();
+}
+
+int SheetView::ChosenColumn() const {
+  const TQorCellRange range = editor_->Selection();
+  const int column = static_cast<int>(range.IsEmpty() ? editor_->CurrentCol() : range.col);
+  return std::min(column, sheet_.columnCount() - 1);
+}
+
+void SheetView::FollowSelection() {
+  const int column = ChosenColumn();
+  if (std::exchange(chosen_, column) != column && column >= 0) Q_EMIT ColumnChosen(column);
+}
+
+void SheetView::AddCommands(QMenu& menu) {
+  QAction* const rename = menu.addAction(tr("Rename Column…"), this, &SheetView::RenameColumn);
+  rename->setEnabled(sheet_.columnCount() > 0);
+  QAction* const names =
+      menu.addAction(tr("Names from First Row"), this, &SheetView::TakeNamesFromFirstRow);
+  names->setEnabled(sheet_.rowCount() > 0);
+}
+
+void SheetView::InsertRowsHere() {
+  const TQorCellRange range = editor_->Selection();
+  editor_->InsertRows(std::min(range.row, editor_->NoOfRows()), std::max<quint32>(range.rows, 1));
+}
+
+void SheetView::InsertColumnsHere() {
+  const TQorCellRange range = editor_->Selection();
+  editor_->InsertCols(std::min(range.col, editor_->NoOfCols()), std::max<quint32>(range.cols, 1));
+}
+
+void SheetView::DeleteRowsHere() {
+  const TQorCellRange range = editor_->Selection().Within(editor_->NoOfRows(), editor_->NoOfCols());
+  editor_->DeleteRows(range.row, range.rows);
+}
+
+void SheetView::DeleteColumnsHere() {
+  const TQorCellRange range = editor_->Selection().Within(editor_->NoOfRows(), editor_->NoOfCols());
+  editor_->DeleteCols(range.col, range.cols);
+}
+
+void SheetView::AppendRow() {
+  editor_->InsertRows(editor_->NoOfRows(), 1);
+  editor_->ScrollBottom();
+}
+
+void SheetView::AppendColumn() {
+  editor_->InsertCols(editor_->NoOfCols(), 1);
+  editor_->ScrollRightMost();
+  editor_->Select(
+      {.row = 0, .rows = editor_->NoOfRows(), .col = editor_->NoOfCols() - 1, .cols = 1});
+}
+
+void SheetView::UndoLast() {
+  CommitText();
+  editor_->CanUndo() ? editor_->Undo() : sheet_.UndoLines();
+}
+
+void SheetView::RenameColumn() {
+  CommitText();
+  const int column = ChosenColumn();
+  if (column < 0) return;
+  bool accepted = false;
+  const QString before =
+      QString::fromStdString(sheet_.Data().Name(static_cast<std::size_t>(column)));
+  const QString name =
+      QInputDialog::getText(this, tr("Rename column"), tr("Name of column %1:").arg(column + 1),
+                            QLineEdit::Normal, before, &accepted);
+  if (accepted) sheet_.setHeaderData(column, Qt::Horizontal, name);
+}
+
+void SheetView::TakeNamesFromFirstRow() {
+  CommitText();
+  sheet_.TakeNamesFromFirstRow();
+}
+
+}  // namespace qorvex::gallery
