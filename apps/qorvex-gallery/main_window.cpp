@@ -120,12 +120,6 @@ void MainWindow::MakeViewMenu(QMenu& menu) {
   appearances_->actions().constFirst()->setChecked(true);
 }
 
-void MainWindow::MakeHelpMenu(QMenu& menu) {
-  menu.addAction(tr("&This Page"), QKeySequence::HelpContents, this, &MainWindow::ShowHelp);
-  menu.addSeparator();
-  menu.addAction(tr("&About"), this, &MainWindow::ShowAbout);
-}
-
 Appearance MainWindow::ChosenAppearance() const {
   return static_cast<Appearance>(appearances_->checkedAction()->data().toInt());
 }
@@ -133,6 +127,12 @@ Appearance MainWindow::ChosenAppearance() const {
 void MainWindow::ChooseAppearance(Appearance appearance) {
   for (QAction* const action : appearances_->actions())
     if (action->data().toInt() == static_cast<int>(appearance)) action->trigger();
+}
+
+void MainWindow::MakeHelpMenu(QMenu& menu) {
+  menu.addAction(tr("&This Page"), QKeySequence::HelpContents, this, &MainWindow::ShowHelp);
+  menu.addSeparator();
+  menu.addAction(tr("&About"), this, &MainWindow::ShowAbout);
 }
 
 // A star marks unsaved changes.

@@ -68,10 +68,10 @@ class MainWindow : public QMainWindow {
   Sheet sheet_;
   QTabWidget* pages_;
   DataPage* data_;
-  // Made when it is needed first.
-  HelpWindow* help_ = nullptr;
   RecentFiles* recent_;
   QActionGroup* appearances_;
+  // Made when it is needed first.
+  HelpWindow* help_ = nullptr;
 };
 
 }  // namespace qorvex::gallery
