@@ -1,6 +1,5 @@
 #include "apps/qorvex-gallery/model/column_figures.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 #include <string>
@@ -15,10 +14,6 @@
 namespace qorvex::gallery {
 
 namespace {
-
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::DataPage", text);
-}
 
 // Very long figures get an exponent.
 QString Readable(const std::string& figure, const QLocale& locale) {
@@ -62,8 +57,8 @@ QList<QStringList> ColumnFigures::ReportTable(int decimals, const QLocale& local
     const auto end = [&](Extended figure) {
       return Readable(Float2EStr(figure, decimals), locale);
     };
-    figures.append({Text("95 % Interval for the Mean:"),
-                    Text("%1 to %2").arg(end(interval_->least), end(interval_->greatest))});
+    figures.append({tr("95 % Interval for the Mean:"),
+                    tr("%1 to %2").arg(end(interval_->least), end(interval_->greatest))});
   }
   const qsizetype rows = (figures.size() + 1) / 2;
   QList<QStringList> table(rows);
@@ -73,23 +68,23 @@ QList<QStringList> ColumnFigures::ReportTable(int decimals, const QLocale& local
 
 QString ColumnFigures::Remark(std::size_t empty_cells, int decimals, int most_decimals,
                               const QLocale& locale) const {
-  const auto in_number = [&locale](std::size_t n, const char* one, const char* several) {
-    return n == 1 ? Text(one) : Text(several).arg(locale.toString(n));
+  const auto in_number = [&locale](std::size_t n, const QString& one, const QString& several) {
+    return n == 1 ? one : several.arg(locale.toString(n));
   };
   QStringList remarks;
   if (empty_cells > 0)
-    remarks += in_number(empty_cells, "without 1 empty cell", "without %1 empty cells");
+    remarks += in_number(empty_cells, tr("without 1 empty cell"), tr("without %1 empty cells"));
   std::vector<Extended> figures;
   for (const ReportFigure& line : lines_)
     if (apps::HasUnit(line) && std::isfinite(*line.value)) figures.push_back(*line.value);
   const apps::HiddenFigures hidden = apps::HiddenAmong(figures, decimals);
   if (hidden.count > 0 && hidden.enough_decimals <= most_decimals) {
-    remarks += in_number(hidden.count, "1 figure needs up to %1 decimals",
-                         "%1 figures need up to %2 decimals")
+    remarks += in_number(hidden.count, tr("1 figure needs up to %1 decimals"),
+                         tr("%1 figures need up to %2 decimals"))
                    .arg(hidden.enough_decimals);
   } else if (hidden.count > 0) {
-    remarks += in_number(hidden.count, "1 figure is too small to show a digit",
-                         "%1 figures are too small to show a digit");
+    remarks += in_number(hidden.count, tr("1 figure is too small to show a digit"),
+                         tr("%1 figures are too small to show a digit"));
   }
   return remarks.join(QStringLiteral("; "));
 }

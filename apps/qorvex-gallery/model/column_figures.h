@@ -3,6 +3,7 @@
 /// @file
 /// What the page of data shows about a column.
 
+#include <QCoreApplication>
 #include <QList>
 #include <QLocale>
 #include <QString>
@@ -22,6 +23,8 @@ namespace qorvex::gallery {
 
 /// The statistics of a column from exact sums.
 class ColumnFigures {
+  Q_DECLARE_TR_FUNCTIONS(ColumnFigures)
+
  public:
   /// The statistics of a sample or of a population. The values hold no NaN.
   ColumnFigures(const TQorFloatVector& values, bool population);

@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/model/format_doubt.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <algorithm>
 
 #include "apps/common/cells.h"
@@ -33,17 +34,12 @@ QString Shortened(std::string_view text) {
 }  // namespace
 
 QByteArray FirstLines(const QString& file) {
-  QByteArray lines(qsizetype{1} << 16, '\0');
-  const apps::TextInput input = OpenFile(file);
-  qsizetype size = 0;
-  while (size < lines.size()) {
-    const std::size_t count =
-        input.read(lines.data() + size, static_cast<std::size_t>(lines.size() - size));
-    if (count == 0) return lines.left(size);
-    size += static_cast<qsizetype>(count);
-  }
+  constexpr qint64 enough = 1 << 16;
+  QFile in(file);
+  if (!in.open(QIODevice::ReadOnly)) return {};
+  const QByteArray lines = in.read(enough);
   const qsizetype end = lines.lastIndexOf('\n');
-  return end < 0 ? lines : lines.left(end + 1);
+  return in.atEnd() || end < 0 ? lines : lines.left(end + 1);
 }
 
 QString DoubtIn(const SheetData& sheet) {
@@ -75,12 +71,12 @@ QString DoubtIn(const SheetData& sheet) {
   return {};
 }
 
-std::optional<apps::TableFormat> OtherFormat(const QByteArray& first_lines,
-                                             apps::TableFormat format) {
+std::optional<apps::TableFormat> OtherFormat(const QString& file) {
+  const QByteArray lines = FirstLines(file);
   for (const char delimiter : {';', '\t', ',', '|', ' '}) {
-    format.delimiter = delimiter;
     try {
-      if (ReadSheet(TextInputOf({}, first_lines), format).Columns() > 1) return format;
+      const SheetData sheet = ReadSheet(TextInputOf({}, lines), {.delimiter = delimiter});
+      if (sheet.Columns() > 1) return sheet.Format();
     } catch (const apps::InputError&) {
       continue;
     }

@@ -11,8 +11,7 @@
 
 namespace qorvex::gallery {
 
-/// The first lines of a file, as many as are enough to see its form. Throws InputError if it cannot
-/// be read.
+/// The first lines of a file, as many as are enough to see its form; none if it cannot be read.
 [[nodiscard]] QByteArray FirstLines(const QString& file);
 
 /// What speaks against the form in which a table was read; empty for nothing: names that are
@@ -20,9 +19,8 @@ namespace qorvex::gallery {
 /// Looks at the first thousand rows.
 [[nodiscard]] QString DoubtIn(const SheetData& sheet);
 
-/// A format with another delimiter in which a table can be read that could not be read in the given
-/// one; nothing if there is none.
-[[nodiscard]] std::optional<apps::TableFormat> OtherFormat(const QByteArray& first_lines,
-                                                           apps::TableFormat format);
+/// A format in which the first lines of a file can be read as a table of several columns, for a
+/// file that could not be read in the one that was found; nothing if there is none.
+[[nodiscard]] std::optional<apps::TableFormat> OtherFormat(const QString& file);
 
 }  // namespace qorvex::gallery

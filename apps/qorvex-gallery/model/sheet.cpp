@@ -168,7 +168,8 @@ QVariant Sheet::headerData(int section, Qt::Orientation orientation, int role) c
 }
 
 Qt::ItemFlags Sheet::flags(const QModelIndex& index) const {
-  return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+  const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+  return index.isValid() ? flags | Qt::ItemIsEditable : flags;
 }
 
 std::string Sheet::TextFor(const QVariant& value) const {

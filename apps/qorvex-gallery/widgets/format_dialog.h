@@ -12,10 +12,17 @@
 
 class QCheckBox;
 class QComboBox;
+class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
 
 namespace qorvex::gallery {
+
+/// @{
+/// Words for missing values as a list with commas.
+[[nodiscard]] QString TextOfWords(const apps::MissingWords& words);
+[[nodiscard]] apps::MissingWords WordsIn(const QString& text);
+/// @}
 
 /// Shows how the first lines of a file are read: with which delimiter, decimal sign, encoding,
 /// names and words for missing values. Every choice shows its result at once.
@@ -32,8 +39,8 @@ class FormatDialog : public QDialog {
   [[nodiscard]] apps::TableFormat Format() const;
 
  private:
+  QLayout* MakeChoices(const apps::TableFormat& format);
   void Read();
-  [[nodiscard]] QComboBox* AddBox(const QString& label, const char* name, QLayout& layout);
 
   QByteArray first_lines_;
   Sheet sheet_;
@@ -43,7 +50,7 @@ class FormatDialog : public QDialog {
   QLineEdit* missing_;
   QCheckBox* header_;
   QLabel* error_;
-  QPushButton* ok_;
+  QDialogButtonBox* buttons_;
 };
 
 }  // namespace qorvex::gallery

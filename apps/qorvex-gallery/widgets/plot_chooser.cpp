@@ -20,6 +20,7 @@ namespace {
 
 // More boxes would be thinner than their labels.
 constexpr qsizetype kMostBoxes = 40;
+constexpr int kBoxLength = 18;
 
 }  // namespace
 
@@ -30,20 +31,22 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
       option_label_(new QLabel),
       options_(new QStackedWidget),
       classes_(new QSpinBox),
-      groups_(new ColumnBox(sheet, ColumnBox::kAll, tr("No groups"))),
       other_(new ColumnBox(sheet, ColumnBox::kNumeric)),
       plot_(new PlotView) {
   kind_->setObjectName("plotKind");
   kind_->addItems({tr("Histogram"), tr("Box plot"), tr("Normal quantiles"), tr("Values in order"),
-                   tr("Autocorrelation"), tr("Against another column"),
-                   tr("Residuals of the line through another column")});
+                   tr("Autocorrelation"), tr("Against another column"), tr("Residuals of a line")});
+  // Long names do not widen the page.
+  for (QComboBox* const box : {kind_, static_cast<QComboBox*>(other_)}) {
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kBoxLength);
+  }
   classes_->setObjectName("classes");
   classes_->setRange(0, 1000);
   classes_->setSpecialValueText(tr("automatic"));
-  groups_->setObjectName("plotGroups");
   other_->setObjectName("plotOther");
-  for (QWidget* const option : std::initializer_list<QWidget*>{classes_, groups_, other_})
-    options_->addWidget(option);
+  options_->addWidget(classes_);
+  options_->addWidget(other_);
   options_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   plot_->setObjectName("columnPlot");
   auto* const kind_label = new QLabel(tr("Plo&t:"));
@@ -63,15 +66,15 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
 
   connect(kind_, &QComboBox::currentIndexChanged, this, &PlotChooser::Update);
   connect(classes_, &QSpinBox::valueChanged, this, &PlotChooser::Update);
-  connect(groups_, &ColumnBox::ColumnChanged, this, &PlotChooser::Update);
   connect(other_, &ColumnBox::ColumnChanged, this, &PlotChooser::Update);
   Update();
 }
 
 PlotChooser::~PlotChooser() = default;
 
-void PlotChooser::ShowColumn(int column) {
+void PlotChooser::ShowColumn(int column, int group_column) {
   column_ = column;
+  group_column_ = group_column;
   Update();
 }
 
@@ -104,20 +107,18 @@ void PlotChooser::Update() {
   Option option = {{}, nullptr, none};
   switch (ChosenKind()) {
     case kHistogram:
-      option = {tr("Cla&sses:"), classes_, none};
-      break;
-    case kBox:
-      option = {tr("&Groups:"), groups_, none};
+      option = {tr("Cl&asses:"), classes_, none};
       break;
     case kScatter:
-      option = {tr("A&gainst:"), other_, tr("No row has a value in both columns")};
+      option = {tr("Aga&inst:"), other_, tr("No row has a value in both columns")};
       break;
     case kResiduals:
-      option = {tr("A&gainst:"), other_, tr("A line needs rows with two different values of x")};
+      option = {tr("Aga&inst:"), other_, tr("A line needs rows with two different values of x")};
       break;
     case kAutocorrelation:
       option.placeholder = tr("Autocorrelations need two different values, and no infinite ones");
       break;
+    case kBox:
     case kNormalQuantiles:
     case kOrder:
       break;
@@ -155,9 +156,8 @@ PlotContent PlotChooser::Content() const {
 PlotContent PlotChooser::Boxes() const {
   const QString title = sheet_.Title(column_);
   const TQorFloatVector values = sheet_.Numbers(column_);
-  const int by = groups_->Column();
-  if (by < 0) return BoxPlot({{{}, values}}, title);
-  const SheetGroups rows = sheet_.Groups(by);
+  if (group_column_ < 0) return BoxPlot({{{}, values}}, title);
+  const SheetGroups rows = sheet_.Groups(group_column_);
   QList<NamedValues> groups;
   for (const QString& name : rows.names.mid(0, kMostBoxes)) groups.append({name, {}});
   for (std::size_t row = 0; row < values.size(); ++row) {
@@ -165,7 +165,7 @@ PlotContent PlotChooser::Boxes() const {
     if (group >= 0 && group < groups.size()) groups[group].values.Append(values[row]);
   }
   PlotContent plot = BoxPlot(groups, title);
-  plot.y.title = sheet_.Title(by);
+  plot.y.title = sheet_.Title(group_column_);
   if (rows.names.size() > kMostBoxes)
     plot.y.title = tr("The first %1 groups of %2").arg(kMostBoxes).arg(plot.y.title);
   return plot;

@@ -21,7 +21,7 @@ class Sheet;
 
 /// A diagram of a column of the sheet: histogram, box plot, normal quantiles, values in order,
 /// autocorrelations, or against another column, values or residuals. The choice beside it is the
-/// number of classes, the groups of the boxes, or the other column.
+/// number of classes or the other column.
 class PlotChooser : public QWidget {
   Q_OBJECT
 
@@ -30,8 +30,8 @@ class PlotChooser : public QWidget {
   explicit PlotChooser(const Sheet& sheet, QWidget* parent = nullptr);
   ~PlotChooser() override;
 
-  /// Shows the column as it is now; nothing for -1.
-  void ShowColumn(int column);
+  /// Shows the column as it is now, box plots by the groups of another column; -1 for none.
+  void ShowColumn(int column, int group_column);
   /// The diagram.
   [[nodiscard]] const PlotView& Plot() const { return *plot_; }
   /// The kind of diagram, for a heading.
@@ -54,11 +54,11 @@ class PlotChooser : public QWidget {
 
   const Sheet& sheet_;
   int column_ = -1;
+  int group_column_ = -1;
   QComboBox* kind_;
   QLabel* option_label_;
   QStackedWidget* options_;
   QSpinBox* classes_;
-  ColumnBox* groups_;
   ColumnBox* other_;
   PlotView* plot_;
 };

@@ -92,7 +92,7 @@ struct DataPageTest : PageFixture<DataPage> {
   }
   void TearDown() override { EXPECT_EQ(expected, 0) << "dialogs that did not appear"; }
   Extended At(quint32 row, quint32 column) { return editor.Element(row, column); }
-  QString Picture() { return Find<PlotView>("histogram").accessibleDescription(); }
+  QString Picture() { return Find<PlotView>("columnPlot").accessibleDescription(); }
   std::string Mean() { return Figure("report", "Mean:"); }
   std::string Remark() { return Find<QLabel>("remark").text().toStdString(); }
 
