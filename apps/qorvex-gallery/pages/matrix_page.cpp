@@ -180,7 +180,8 @@ void MatrixPage::Connect(MatrixPanel& panel) {
     message_->SetText({});
     RefreshSoon();
   });
-  connect(&panel, &MatrixPanel::Refused, message_, &MessageBar::SetText);
+  connect(&panel, &MatrixPanel::SizeRefused, message_, &MessageBar::SetText);
+  panel.LetWatch(*message_);
 }
 
 MatrixResult MatrixPage::Wanted() const {
