@@ -23,7 +23,7 @@ std::vector<Figure> FiguresOf(const ComparedColumn& compared,
                               const std::vector<ReportFigure>& lines) {
   std::vector<Figure> figures = apps::FiguresOf(lines);
   figures.insert(figures.begin() + 1,
-                 {"missing", "Missing Values:", std::uint64_t{compared.column.skipped}});
+                 {"missing", "Missing Values:", std::uint64_t{compared.column.missing}});
   return figures;
 }
 
@@ -35,7 +35,7 @@ ReportPart SideBySide(const ComparisonReport& report, const ComparisonHeading& h
                                         {"second", ShortName(heading.second.title)}}}};
   const std::vector<Figure> first = FiguresOf(heading.first, report.first);
   const std::vector<Figure> second = FiguresOf(heading.second, report.second);
-  const bool has_missing = heading.first.column.skipped + heading.second.column.skipped > 0;
+  const bool has_missing = heading.first.column.missing + heading.second.column.missing > 0;
   for (std::size_t i = 0; i < first.size(); ++i) {
     if (first[i].key != "missing" || has_missing)
       part.table.rows.push_back({first[i].label, first[i].value, second[i].value});

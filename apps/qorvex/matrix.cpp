@@ -15,6 +15,7 @@
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/format_arguments.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/matrix_operations.h"
 #include "apps/qorvex/output_format.h"
@@ -42,7 +43,7 @@ constexpr const char* kResultHelp = R"(
 
 struct MatrixArguments {
   std::vector<std::string> files;
-  MatrixLayout layout;
+  TableFormat format;
   OutputFormat output;
   unsigned threads = 1;
 };
@@ -92,12 +93,15 @@ TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
   return result;
 }
 
-TQorFloatMatrix Read(TextInput input, const MatrixLayout& layout) {
+TQorFloatMatrix Read(TextInput input, const TableFormat& format) {
   try {
-    return ReadMatrix(std::move(input), layout);
+    return ReadMatrix(std::move(input), format);
   } catch (const InputError& error) {
-    if (error.Fault() != InputFault::kTextInFirstRow) throw;
-    throw InputError(error.Fault(), error.what() + std::string("; --header skips the first row"));
+    const char* hint = "";
+    if (error.Fault() == InputFault::kTextInFirstRow) hint = "; --header skips the first row";
+    if (error.Fault() == InputFault::kOtherDecimalSign) hint = "; --decimal tells the decimal sign";
+    if (error.Fault() == InputFault::kWrongEncoding) hint = "; --encoding latin1 reads any bytes";
+    throw InputError(error.Fault(), std::string(error.what()) + hint);
   }
 }
 
@@ -109,9 +113,9 @@ Matrices ReadAll(const MatrixArguments& arguments) {
   std::future<TQorFloatMatrix> right;
   if (arguments.files.size() == 2) {
     right = std::async(arguments.threads > 1 ? std::launch::async : std::launch::deferred,
-                       [&] { return Read(OpenTextInput(arguments.files[1]), arguments.layout); });
+                       [&] { return Read(OpenTextInput(arguments.files[1]), arguments.format); });
   }
-  Matrices operands{Read(std::move(left), arguments.layout)};
+  Matrices operands{Read(std::move(left), arguments.format)};
   if (right.valid()) operands.push_back(right.get());
   return operands;
 }
@@ -174,9 +178,11 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
     arguments->files.resize(1);
     AddFile(command, arguments->files[0], "FILE", "The matrix to read");
   }
-  AddDelimiter(command, arguments->layout.delimiter);
-  command.add_flag("--header", arguments->layout.has_header,
-                   "Skip the first row, which contains names");
+  AddTextFormat(command, arguments->format);
+  command.add_flag_callback(
+      "--header", [arguments] { arguments->format.header = true; },
+      "Skip the first row, which contains names, and the first column if its name\n"
+      "is empty or missing");
   if (operation.takes_decimals) {
     arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
   }

@@ -38,7 +38,7 @@ SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std:
   if (!*format.header) sheet.AppendRow(rows.Cells());
   const std::vector<std::string_view> blank(width);
   while (rows.Next()) {
-    apps::RequireWidth(rows, width, first_line);
+    apps::RequireWidth(rows.Scanner(), width, first_line);
     for (std::size_t i = sheet.Rows() == 0 ? 0 : rows.BlankLines(); i > 0; --i)
       sheet.AppendRow(blank);
     sheet.AppendRow(rows.Cells());
