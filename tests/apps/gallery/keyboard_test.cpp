@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTranslator>
@@ -170,6 +171,22 @@ TEST_P(Keyboard, TellsTheEditorsOfAPageApart) {
       if (!editor->isVisible()) continue;
       EXPECT_TRUE(editors.emplace(NameOf(editor), editor).second)
           << window.Pages()->tabText(page).toStdString() << ": " << Described(editor);
+    }
+  }
+}
+
+// In either language, on a screen of 1280 by 800 pixels.
+TEST_P(Keyboard, HasRoomForEveryPage) {
+  for (int page = 0; page < window.Pages()->count(); ++page) {
+    ShowPage(page);
+    const std::string name = window.Pages()->tabText(page).toStdString();
+    const QSize least = window.minimumSizeHint();
+    EXPECT_TRUE(least.width() <= 1280 && least.height() <= 760)
+        << name << ": " << least.width() << " by " << least.height();
+    for (const auto* const area : window.Pages()->currentWidget()->findChildren<QScrollArea*>()) {
+      if (area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff) {
+        EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width()) << name;
+      }
     }
   }
 }
