@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "apps/common/figure_format.h"
+#include "apps/qorvex-gallery/model/column_plots.h"
 #include "apps/qorvex-gallery/model/test_texts.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
@@ -151,6 +152,18 @@ void RunOn(std::span<const NumberSample> samples, const TestOrder& order, TestOu
   }
 }
 
+// The first samples as boxes; nothing for counts.
+PlotContent BoxesOf(const std::vector<NumberSample>& samples, const TestOrder& order) {
+  const TestInput input = order.test->input;
+  if (input == TestInput::kCounts || input == TestInput::kCountTable || input == TestInput::kTrials)
+    return {};
+  constexpr std::size_t most = 12;
+  QList<NamedValues> groups;
+  for (std::size_t i = 0; i < std::min(samples.size(), most); ++i)
+    groups.append({NameOf(samples[i]), samples[i].numbers.Values()});
+  return BoxPlot(groups, order.columns.size() == 1 ? order.columns[0].title : QString());
+}
+
 }  // namespace
 
 TestOutcome RunTest(const TestOrder& order) {
@@ -162,6 +175,7 @@ TestOutcome RunTest(const TestOrder& order) {
   if (!outcome.why_not.isEmpty()) return outcome;
   for (const NumberSample& sample : samples)
     outcome.digits = std::max(outcome.digits, apps::SignificantDigits(sample.numbers));
+  outcome.boxes = BoxesOf(samples, order);
   if (order.test->input != TestInput::kSample) {
     RunOn(samples, order, outcome);
   } else {

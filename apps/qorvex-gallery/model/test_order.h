@@ -12,6 +12,7 @@
 
 #include "apps/common/hypothesis_tests.h"
 #include "apps/qorvex-gallery/model/sheet.h"
+#include "apps/qorvex-gallery/plot/plot_layer.h"
 #include "qorvex/base/vector_types.h"
 
 namespace qorvex::gallery {
@@ -40,6 +41,8 @@ struct TestOutcome {
   std::size_t left_out = 0;
   /// The significant digits of the data.
   int digits = 0;
+  /// The first samples as boxes; empty for counts.
+  PlotContent boxes = {};
 };
 
 /// Runs the test. Values that are written as decimals count as such: differences and ties are

@@ -348,6 +348,7 @@ PageReport MatrixPage::Report() const {
     report.parts.append({title, rows});
   };
   add(tr("A"), *a_);
+  report.parts.append({tr("Properties of A"), properties_->Rows()});
   if (TakesB(Wanted())) add(tr("B"), *b_);
   if (use_as_a_->isEnabled()) add(wanted_->checkedButton()->text().remove('&'), *result_);
   return report;

@@ -14,6 +14,7 @@
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/test_order.h"
 #include "apps/qorvex-gallery/model/test_texts.h"
+#include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/hypothesis_form.h"
@@ -84,8 +85,7 @@ void TestPage::FillTests() {
     heading->setFlags(Qt::NoItemFlags);
     heading->setFont(MakeBold(test_->font()));
     for (const apps::HypothesisTest& test : apps::HypothesisTests()) {
-      if (inputs.contains(test.input))
-        test_->addItem(TestTexts(test).Title(), QString(test.name));
+      if (inputs.contains(test.input)) test_->addItem(TestTexts(test).Title(), QString(test.name));
     }
   }
   test_->setCurrentIndex(1);
@@ -109,6 +109,10 @@ QWidget* TestPage::MakeResults() {
   samples_->SetTitled();
   results_ = new FigureTable({Table::kLabel, Table::kFigure});
   results_->setObjectName("results");
+  boxes_ = new PlotView;
+  boxes_->setObjectName("boxes");
+  boxes_->setAccessibleName(tr("Samples"));
+  boxes_->setMaximumHeight(24 * fontMetrics().height());
   auto* const content = new QWidget;
   auto* const layout = new QVBoxLayout(content);
   const int gap = fontMetrics().height();
@@ -120,7 +124,9 @@ QWidget* TestPage::MakeResults() {
   layout->addWidget(remark_);
   layout->addSpacing(gap);
   layout->addWidget(results_);
-  layout->addStretch(1);
+  layout->addSpacing(gap);
+  layout->addWidget(boxes_, 1);
+  layout->addStretch();
   auto* const area = new QScrollArea;
   area->setAccessibleName(tr("Results"));
   area->setWidget(content);
@@ -161,11 +167,14 @@ void TestPage::Refresh() {
 
 void TestPage::Show(const TestOrder& order, const TestOutcome& outcome) {
   remark_->setText(RemarkOn(outcome.left_out));
+  remark_->setVisible(outcome.left_out > 0);
   if (outcome.reports.empty()) return ShowNone(outcome.why_not);
   const TestView view = ViewOf(order, outcome);
   words_->setText(view.paragraphs.join(QStringLiteral("\n\n")));
   samples_->SetRows(view.samples);
   results_->SetRows(view.results);
+  boxes_->SetContent(outcome.boxes);
+  boxes_->setVisible(!boxes_->IsEmpty());
   message_->SetText({});
 }
 
@@ -174,6 +183,7 @@ void TestPage::ShowNone(const QString& why) {
   words_->setText(tr("Assumptions: %1").arg(TestTexts(Test()).Assumptions()));
   samples_->SetRows({});
   results_->SetRows({});
+  boxes_->hide();
   message_->SetText(why);
 }
 
@@ -205,7 +215,7 @@ PageReport TestPage::Report() const {
   return {title_->text(),
           {{tr("Result"), words},
            {tr("Samples"), samples_->Rows()},
-           {tr("Figures"), results_->Rows()}}};
+           {tr("Figures"), results_->Rows(), boxes_->isHidden() ? nullptr : boxes_}}};
 }
 
 }  // namespace qorvex::gallery

@@ -21,6 +21,7 @@ namespace qorvex::gallery {
 class FigureTable;
 class HypothesisForm;
 class MessageBar;
+class PlotView;
 class SampleForm;
 class Sheet;
 struct TestOrder;
@@ -62,6 +63,7 @@ class TestPage : public Page {
   QLabel* remark_;
   FigureTable* samples_;
   FigureTable* results_;
+  PlotView* boxes_;
   QTimer refresh_;
   BackgroundWork work_;
 };
