@@ -1005,6 +1005,10 @@
         <source>Statistics of %1</source>
         <translation>Statistik von %1</translation>
     </message>
+    <message>
+        <source>auto</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>qorvex::gallery::DataPage</name>
@@ -1841,16 +1845,16 @@
         <translation>Keine Zeile hat in beiden Spalten einen Wert</translation>
     </message>
     <message>
-        <source>A line needs rows with two different values of x</source>
-        <translation>Eine Gerade braucht Zeilen mit zwei verschiedenen Werten von x</translation>
-    </message>
-    <message>
         <source>Autocorrelations need two different values, and no infinite ones</source>
         <translation>Autokorrelationen brauchen zwei verschiedene Werte und keine unendlichen</translation>
     </message>
     <message>
         <source>The first %1 groups of %2</source>
         <translation>Die ersten %1 Gruppen von %2</translation>
+    </message>
+    <message>
+        <source>A line needs rows with two different values of the other column</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2326,20 +2330,20 @@
         <translation>Tabelle</translation>
     </message>
     <message>
-        <source>Rename Column…</source>
-        <translation>Spalte &amp;umbenennen…</translation>
-    </message>
-    <message>
-        <source>Names from First Row</source>
-        <translation>&amp;Namen aus der ersten Zeile</translation>
-    </message>
-    <message>
         <source>Rename column</source>
         <translation>Spalte umbenennen</translation>
     </message>
     <message>
         <source>Name of column %1:</source>
         <translation>Name der Spalte %1:</translation>
+    </message>
+    <message>
+        <source>Re&amp;name Column…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Names from &amp;First Row</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

@@ -219,6 +219,7 @@ QLayout* RegressionPage::MakeResults() {
   residuals_->setAccessibleName(tr("Residuals"));
   residuals_->SetPlaceholder(tr("No residuals to show"));
   coefficients_->setObjectName("coefficients");
+  coefficients_->SetTitled();
   quality_->setObjectName("quality");
   auto* const plots = new QHBoxLayout;
   plots->addWidget(curve_, 3);
