@@ -16,7 +16,9 @@
 #include "apps/qorvex-gallery/pages/matrix_page.h"
 #include "apps/qorvex-gallery/pages/random_page.h"
 #include "apps/qorvex-gallery/pages/regression_page.h"
+#include "apps/qorvex-gallery/pages/test_page.h"
 #include "apps/qorvex-gallery/widgets/help_window.h"
+#include "apps/qorvex-gallery/widgets/page_report_actions.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
@@ -48,6 +50,7 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
   AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
+  AddPage(new TestPage(sheet_), "tests", tr("Tests"));
   setCentralWidget(pages_);
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));
@@ -81,9 +84,12 @@ void MainWindow::MakeFileMenu(QMenu& menu) {
   menu.addMenu(recent_);
   connect(recent_, &RecentFiles::Chosen, this, &MainWindow::Open);
   connect(document, &SheetDocument::FileUsed, recent_, &RecentFiles::Add);
+  menu.addAction(tr("&Format of the File…"), document, &SheetDocument::ChooseFormat);
   menu.addSeparator();
   menu.addAction(tr("&Save Data"), QKeySequence::Save, document, &SheetDocument::Save);
   menu.addAction(tr("Save Data &As…"), QKeySequence::SaveAs, document, &SheetDocument::SaveAs);
+  menu.addSeparator();
+  AddReportActions(menu, [this] { return static_cast<Page*>(pages_->currentWidget()); });
   menu.addSeparator();
   menu.addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
 }

@@ -22,7 +22,7 @@ std::vector<Figure> FiguresOf(const ComparedColumn& compared,
                               const std::vector<ReportFigure>& lines) {
   std::vector<Figure> figures = apps::FiguresOf(lines);
   figures.insert(figures.begin() + 1,
-                 {"missing", "Missing Values:", std::uint64_t{compared.column.skipped}});
+                 {"missing", "Missing Values:", std::uint64_t{compared.column.missing}});
   return figures;
 }
 
@@ -86,7 +86,7 @@ std::string TextOf(const ComparisonReport& report, const ComparisonHeading& head
                                 TestsOf(report)};
   RemarkOnHidden("", parts, output);
   if (output.form == OutputForm::kCsv) return CsvOf(parts, output.ForReport());
-  if (heading.first.column.skipped + heading.second.column.skipped == 0) {
+  if (heading.first.column.missing + heading.second.column.missing == 0) {
     for (ReportPart& column : columns)
       std::erase_if(column.figures, [](const Figure& of) { return of.key == "missing"; });
   }
