@@ -1,8 +1,11 @@
 #include "apps/qorvex/dist_questions.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <tuple>
 
+#include "apps/common/figure_format.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/result_table.h"
 #include "qorvex/base/errors.h"
@@ -43,15 +46,22 @@ DistFigures FiguresOf(const AskedQuestion& asked) {
   }
 }
 
-// A point as it was given, or as the shortest text that is read as the same.
+// A point with all its digits and, if it is not tiny, without an exponent.
 Cell PointCell(Extended point) {
-  return WrittenNumber{Float2Str(point), point};
+  const FigureFormat format = {FigureFormat::Kind::kDigits, std::max(1, SignificantDigits(point))};
+  return WrittenNumber{format.Text(point), point};
+}
+
+ResultTable::Column DensityColumn(const Family& family) {
+  if (family.is_discrete) return {"probability", "Probability"};
+  return {"density", "Density"};
 }
 
 ResultTable::Column FigureColumn(const AskedQuestion& asked) {
-  if (!asked.arguments.options.log) return {asked.question.key, asked.question.title};
-  return {std::string("log_") + asked.question.key,
-          std::string("Logarithm of ") + asked.question.title};
+  const DistQuestion& question = asked.question;
+  if (question.figure == &DistFigures::Density) return DensityColumn(asked.family);
+  if (!asked.arguments.options.log) return {question.key, question.title};
+  return {std::string("log_") + question.key, std::string("Logarithm of ") + question.title};
 }
 
 void RequireAscendingCounts(const DistArguments& arguments) {
@@ -80,10 +90,12 @@ std::vector<std::vector<Cell>> TableRows(const Family& family, const DistArgumen
   const auto& [first, last, steps] = std::tie(arguments.first, arguments.last, arguments.steps);
   if (figures.IsClassic() && !family.is_discrete) return ClassicRows(family, arguments);
   const Extended points = (family.is_discrete ? last - first : steps) + 1;
-  const Extended step = points > 1 ? (last - first) / (points - 1) : 0;
+  const Extended largest = std::max<Extended>(points - 1, 1);
   std::vector<std::vector<Cell>> rows;
   for (Extended i = 0; i < points; ++i) {
-    const Extended x = i * step + first;
+    // Multiplied first, so that tenths are as near as numbers can be.
+    const Extended x = first + (last - first) * i / largest;
+    if (!std::isfinite(x)) throw EOverflow();
     std::vector<Cell>& row = rows.emplace_back();
     row = {PointCell(x), figures.Density(x)};
     if (figures.IsClassic()) continue;
@@ -129,9 +141,8 @@ std::string AnswerBetween(const AskedQuestion& asked) {
 std::string AnswerTable(const AskedQuestion& asked) {
   const auto& [family, question, arguments] = asked;
   if (family.is_discrete) RequireAscendingCounts(arguments);
-  ResultTable table = {
-      .columns = {{arguments.points.Symbol(), arguments.points.Symbol()}, {"density", "Density"}}};
-  if (family.is_discrete) table.columns[1] = {"probability", "Probability"};
+  const std::string point = arguments.points.Symbol();
+  ResultTable table = {.columns = {{point, point}, DensityColumn(family)}};
   if (!arguments.options.classic) {
     table.columns.push_back({"at_most", "At Most"});
     table.columns.push_back({"at_least", "At Least"});
