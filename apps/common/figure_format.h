@@ -29,7 +29,7 @@ struct FigureFormat {
   Kind kind = Kind::kAllBits;
   /// Of significant digits or of decimals.
   int count = 0;
-  /// Whether a blank separates the digits in threes.
+  /// Whether a blank separates the digits in threes; not those of up to four decimals.
   bool grouped = false;
 
   /// The text of a figure; "Not available" for NaN.
@@ -54,8 +54,8 @@ struct FigureFormat {
 
 /// @{
 /// The significant digits of the shortest text of a figure, or of the numbers of a column: from the
-/// first of the largest to the last decimal; of numbers without a common unit, those of the
-/// smallest and of the largest. 0 without numbers.
+/// first of the largest to the last decimal; of numbers without a common unit, the most that one
+/// of about fifty has. 0 without numbers.
 [[nodiscard]] int SignificantDigits(Extended figure);
 [[nodiscard]] int SignificantDigits(const ColumnNumbers& numbers);
 /// @}

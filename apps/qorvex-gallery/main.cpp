@@ -3,26 +3,38 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QIcon>
 #include <QLocale>
 #include <QStandardPaths>
 #include <QStyleFactory>
 
 #include "apps/qorvex-gallery/appearance.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/translations.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/screenshots.h"
 #include "apps/qorvex-gallery/session.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "qorvex/base/version.h"
-#include "qorvex/base_controls/translation.h"
 
 namespace {
 
 // Makes the pictures the same on every machine that has the font.
 void FixAppearance() {
-  QLocale::setDefault(QLocale(QLocale::English));
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+// The name, version and icon of the application.
+void SetIdentity() {
+  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
+  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 256})
+    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
@@ -33,11 +45,16 @@ int main(int argc, char** argv) {
       QStringLiteral("Write a picture of each page to the directory and exit; needs no display."),
       QStringLiteral("directory"));
   const QCommandLineOption dark(QStringLiteral("dark"), QStringLiteral("Start in dark colours."));
+  const QCommandLineOption language(
+      QStringLiteral("language"),
+      QStringLiteral("The language and the form of numbers, such as de or en_GB. Default: those of "
+                     "the system; for pictures en."),
+      QStringLiteral("name"));
   QCommandLineParser parser;
   parser.setApplicationDescription(
       QStringLiteral("Statistics, matrices, distributions and random variates in 80-bit "
                      "arithmetic."));
-  parser.addOptions({screenshot, dark});
+  parser.addOptions({screenshot, dark, language});
   const QCommandLineOption help = parser.addHelpOption();
   const QCommandLineOption version = parser.addVersionOption();
   parser.addPositionalArgument(QStringLiteral("file"), QStringLiteral("Delimited text to open."),
@@ -52,15 +69,15 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
-  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  SetIdentity();
   parser.process(application);
-  if (takes_pictures) {
-    FixAppearance();
-  } else {
-    qorvex::InstallTranslation();
+  if (parser.isSet(language)) {
+    QLocale::setDefault(QLocale(parser.value(language)));
+  } else if (takes_pictures) {
+    QLocale::setDefault(QLocale(QLocale::English));
   }
+  if (takes_pictures) FixAppearance();
+  qorvex::gallery::InstallTranslations();
   using qorvex::gallery::Appearance;
   qorvex::gallery::SetAppearance(Appearance::kSystem);
   if (takes_pictures) qorvex::gallery::SetAppearance(Appearance::kLight);

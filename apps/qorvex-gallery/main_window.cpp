@@ -16,6 +16,9 @@
 #include "apps/qorvex-gallery/pages/matrix_page.h"
 #include "apps/qorvex-gallery/pages/random_page.h"
 #include "apps/qorvex-gallery/pages/regression_page.h"
+#include "apps/qorvex-gallery/pages/test_page.h"
+#include "apps/qorvex-gallery/widgets/help_window.h"
+#include "apps/qorvex-gallery/widgets/page_report_actions.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
@@ -47,12 +50,12 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
   AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
+  AddPage(new TestPage(sheet_), "tests", tr("Tests"));
   setCentralWidget(pages_);
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));
   MakeViewMenu(*menuBar()->addMenu(tr("&View")));
-  QMenu* const help = menuBar()->addMenu(tr("&Help"));
-  help->addAction(tr("&About"), this, &MainWindow::ShowAbout);
+  MakeHelpMenu(*menuBar()->addMenu(tr("&Help")));
   connect(&data_->Document(), &SheetDocument::TitleChanged, this, &MainWindow::ShowTitle);
   connect(&sheet_, &Sheet::Changed, this, &MainWindow::ShowTitle);
   ShowTitle();
@@ -81,9 +84,12 @@ void MainWindow::MakeFileMenu(QMenu& menu) {
   menu.addMenu(recent_);
   connect(recent_, &RecentFiles::Chosen, this, &MainWindow::Open);
   connect(document, &SheetDocument::FileUsed, recent_, &RecentFiles::Add);
+  menu.addAction(tr("&Format of the File…"), document, &SheetDocument::ChooseFormat);
   menu.addSeparator();
   menu.addAction(tr("&Save Data"), QKeySequence::Save, document, &SheetDocument::Save);
   menu.addAction(tr("Save Data &As…"), QKeySequence::SaveAs, document, &SheetDocument::SaveAs);
+  menu.addSeparator();
+  AddReportActions(menu, [this] { return static_cast<Page*>(pages_->currentWidget()); });
   menu.addSeparator();
   menu.addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
 }
@@ -129,6 +135,12 @@ void MainWindow::ChooseAppearance(Appearance appearance) {
     if (action->data().toInt() == static_cast<int>(appearance)) action->trigger();
 }
 
+void MainWindow::MakeHelpMenu(QMenu& menu) {
+  menu.addAction(tr("&This Page"), QKeySequence::HelpContents, this, &MainWindow::ShowHelp);
+  menu.addSeparator();
+  menu.addAction(tr("&About"), this, &MainWindow::ShowAbout);
+}
+
 // A star marks unsaved changes.
 void MainWindow::ShowTitle() {
   setWindowTitle(tr("%1[*] – Qorvex Gallery").arg(data_->Document().Title()));
@@ -138,6 +150,12 @@ void MainWindow::ShowTitle() {
 void MainWindow::closeEvent(QCloseEvent* event) {
   data_->View().CommitText();
   event->setAccepted((KeepSession && KeepSession()) || data_->Document().MayGo());
+}
+
+// The sections of the document have the names of the pages.
+void MainWindow::ShowHelp() {
+  if (help_ == nullptr) help_ = new HelpWindow(this);
+  help_->Open(QStringLiteral("gallery.md"), pages_->currentWidget()->objectName());
 }
 
 void MainWindow::ShowAbout() {

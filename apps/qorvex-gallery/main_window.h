@@ -17,6 +17,7 @@ class QTabWidget;
 namespace qorvex::gallery {
 
 class DataPage;
+class HelpWindow;
 class Page;
 class RecentFiles;
 
@@ -59,7 +60,9 @@ class MainWindow : public QMainWindow {
   void MakeFileMenu(QMenu& menu);
   void MakeEditMenu(QMenu& menu);
   void MakeViewMenu(QMenu& menu);
+  void MakeHelpMenu(QMenu& menu);
   void ShowTitle();
+  void ShowHelp();
   void ShowAbout();
 
   Sheet sheet_;
@@ -67,6 +70,8 @@ class MainWindow : public QMainWindow {
   DataPage* data_;
   RecentFiles* recent_;
   QActionGroup* appearances_;
+  // Made when it is needed first.
+  HelpWindow* help_ = nullptr;
 };
 
 }  // namespace qorvex::gallery

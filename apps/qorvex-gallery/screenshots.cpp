@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/screenshots.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPixmap>
@@ -37,6 +38,9 @@ bool WriteScreenshots(MainWindow& window, const QString& directory) {
   // The layout is that of a window that is shown.
   window.setAttribute(Qt::WA_DontShowOnScreen);
   window.show();
+  WaitUntilIdle(window);
+  // A file whose form is in doubt is read in the form that was found.
+  for (QDialog* const dialog : window.findChildren<QDialog*>()) dialog->accept();
   WaitUntilIdle(window);
   if (!window.ReadingError().isEmpty()) {
     std::fprintf(stderr, "qorvex-gallery: %s\n", qPrintable(window.ReadingError()));

@@ -12,6 +12,7 @@
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
+#include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 
@@ -26,6 +27,7 @@ void SaveFormat(const apps::TableFormat& format, QSettings& settings) {
   settings.setValue("delimiter", QChar::fromLatin1(format.delimiter.value_or(kDelimiter)));
   settings.setValue("decimalSign", QChar::fromLatin1(format.decimal_sign.value_or('.')));
   settings.setValue("header", format.header.value_or(true));
+  settings.setValue("missing", TextOfWords(format.missing));
   settings.setValue("encoding", static_cast<int>(format.encoding.value_or(apps::Encoding::kUtf8)));
 }
 
@@ -34,6 +36,7 @@ apps::TableFormat FormatIn(const QSettings& settings) {
   format.delimiter = settings.value("delimiter").toChar().toLatin1();
   format.decimal_sign = settings.value("decimalSign").toChar().toLatin1();
   format.header = settings.value("header").toBool();
+  format.missing = WordsIn(settings.value("missing").toString());
   format.encoding = static_cast<apps::Encoding>(settings.value("encoding").toInt());
   return format;
 }

@@ -110,7 +110,7 @@ void ForEachReport(DescribedTable table, const DescribeOptions& options, Write w
       sample.column = {.number = column.number,
                        .name = column.name,
                        .numbers = std::move(parts[i].numbers),
-                       .skipped = parts[i].missing};
+                       .missing = parts[i].missing};
       sample.weights = {.number = table.weights.number, .name = table.weights.name};
       if (options.HasWeights()) sample.weights.numbers = weights[i].numbers;
       sample.groups = LabelsOf(table.labels, groups.labels[i]);

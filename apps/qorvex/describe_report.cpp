@@ -163,7 +163,7 @@ ColumnReport ReportOn(DescribedSample& sample, const DescribeOptions& options, u
   ColumnReport report{.number = column.number,
                       .name = column.name,
                       .groups = std::move(sample.groups),
-                      .skipped = column.skipped,
+                      .missing = column.missing,
                       .significant_digits = SignificantDigits(column.numbers)};
   const bool has_values =
       !column.numbers.empty() &&

@@ -15,6 +15,7 @@
 #include <QTextLayout>
 #include <QToolTip>
 #include <algorithm>
+#include <cstdlib>
 #include <utility>
 
 #include "qorvex/base_controls/detail/tool_tip.h"
@@ -154,16 +155,17 @@ void TextCell::paintEvent(QPaintEvent* event) {
 }
 
 void TextCell::PaintLostFrame() {
-  // Styles derive the frame from the colour of the window. If that is black, as in palettes of high
-  // contrast, there would be nothing between the cells.
-  constexpr int darkest_with_frame = 32;
-  const QColor window = palette().color(QPalette::Window);
-  const bool lost =
-      window.lightness() < darkest_with_frame && window == palette().color(QPalette::Base);
+  // Styles derive the frame from the colour of the window, which they darken. In dark palettes
+  // there would be nothing between the cells.
+  constexpr int darkening = 140;
+  constexpr int least_difference = 24;
+  const QColor frame = palette().color(QPalette::Window).darker(darkening);
+  const QColor base = palette().color(QPalette::Base);
+  const bool lost = std::abs(frame.lightness() - base.lightness()) < least_difference;
   if (!lost || !hasFrame() || hasFocus()) return;
   QPainter painter(this);
   QColor line = palette().color(QPalette::Text);
-  line.setAlphaF(0.5F);
+  line.setAlphaF(base.lightness() == 0 ? 0.5F : 0.25F);
   painter.setPen(line);
   painter.drawRect(rect().adjusted(0, 0, -1, -1));
 }

@@ -1,13 +1,9 @@
 #include "apps/qorvex-gallery/model/names.h"
 
 #include <QCoreApplication>
-#include <optional>
-#include <string>
-#include <string_view>
 #include <utility>
 
 #include "apps/qorvex-gallery/model/texts.h"
-#include "qorvex/base/Qorvex_rs_math.h"
 
 namespace qorvex::gallery {
 
@@ -48,13 +44,6 @@ QString DisplayName(const char* name) {
 
 QString Translated(const char* text) {
   return QCoreApplication::translate("Catalogue", text);
-}
-
-void TranslateLibraryMessages() {
-  SetMessageLookup([](MessageId id) -> std::optional<std::string> {
-    const std::string_view english = EnglishMessageText(id);
-    return QCoreApplication::translate("Messages", std::string(english).c_str()).toStdString();
-  });
 }
 
 }  // namespace qorvex::gallery

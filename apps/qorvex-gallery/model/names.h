@@ -13,7 +13,4 @@ namespace qorvex::gallery {
 /// The translation of a text of the catalogues, such as a summary, or what is wrong with a number.
 [[nodiscard]] QString Translated(const char* text);
 
-/// Lets errors of the library speak the language of the user.
-void TranslateLibraryMessages();
-
 }  // namespace qorvex::gallery

@@ -47,6 +47,7 @@ DistributionPage::DistributionPage(QWidget* parent)
   side_->setAccessibleName(tr("Which probability"));
   quantile_->setObjectName(QStringLiteral("quantile"));
   plot_->setObjectName(QStringLiteral("plot"));
+  plot_->setAccessibleName(tr("Density or probabilities"));
   figures_->setObjectName(QStringLiteral("figures"));
 
   for (const apps::Family& family : apps::Families()) family_->addItem(DisplayName(family.name));

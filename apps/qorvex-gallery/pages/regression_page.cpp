@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTimer>
@@ -65,6 +66,31 @@ TQorFloatMatrix MatrixOf(const QString& text) {
   }
   return matrix;
 }
+
+// As high as its contents, unless that leaves too little for the diagrams: then it scrolls.
+class TableArea : public QScrollArea {
+ public:
+  explicit TableArea(QWidget* tables) {
+    setWidget(tables);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  }
+  [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    constexpr int kLeastLines = 5;
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            kLeastLines * fontMetrics().lineSpacing()};
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
+};
 
 }  // namespace
 
@@ -193,6 +219,7 @@ QLayout* RegressionPage::MakeResults() {
   residuals_->setAccessibleName(tr("Residuals"));
   residuals_->SetPlaceholder(tr("No residuals to show"));
   coefficients_->setObjectName("coefficients");
+  coefficients_->SetTitled();
   quality_->setObjectName("quality");
   auto* const plots = new QHBoxLayout;
   plots->addWidget(curve_, 3);
@@ -212,18 +239,11 @@ QLayout* RegressionPage::MakeResults() {
   tables_layout->addSpacing(fontMetrics().height() / 2);
   tables_layout->addWidget(quality_);
   tables_layout->addStretch(1);
-  auto* const area = new QScrollArea;
-  area->setWidget(tables);
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setFocusPolicy(Qt::NoFocus);
-  // As high as the tables, unless that leaves too little for the diagrams.
-  area->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
   auto* const layout = new QVBoxLayout;
   layout->addLayout(head);
   layout->addLayout(plots, 1);
   layout->addSpacing(fontMetrics().height() / 2);
-  layout->addWidget(area);
+  layout->addWidget(new TableArea(tables));
   return layout;
 }
 

@@ -10,14 +10,17 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr int kWidestName = 40;
+// In characters.
+constexpr int kNarrowest = 10;
+constexpr int kWidest = 40;
 
 }  // namespace
 
 ColumnBox::ColumnBox(const Sheet& sheet, Columns columns, const QString& none, QWidget* parent)
     : QComboBox(parent), sheet_(sheet), columns_(columns), none_(none) {
   setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  setMaximumWidth(kWidestName * fontMetrics().averageCharWidth());
+  setMinimumWidth(kNarrowest * fontMetrics().averageCharWidth());
+  setMaximumWidth(kWidest * fontMetrics().averageCharWidth());
   connect(this, &QComboBox::currentIndexChanged, this, [this] {
     const int column = Column();
     title_ = column < 0 ? QString() : sheet_.Title(column);

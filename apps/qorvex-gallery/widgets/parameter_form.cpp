@@ -88,7 +88,7 @@ QString ParameterForm::WhatIsWrong() const {
 }
 
 QString ParameterForm::Labelled(const std::string& message) const {
-  QString text = QString::fromStdString(message);
+  QString text = Translated(message.c_str());
   for (const Row& row : rows_)
     text.replace(QLatin1String(row.parameter->option), '"' + LabelOf(*row.parameter) + '"');
   return text;

@@ -31,6 +31,9 @@ SheetView::SheetView(Sheet& sheet, QWidget* parent)
     event->accept();
     Q_EMIT TablePasted(contents->text());
   });
+  connect(&sheet_, &QAbstractItemModel::modelReset, this, &SheetView::FitColumns);
+  connect(&sheet_, &QAbstractItemModel::headerDataChanged, this, &SheetView::FitColumns);
+  connect(&sheet_, &Sheet::Changed, this, &SheetView::FitWidth);
   auto* const buttons = new QHBoxLayout;
   const auto add = [&](const QString& text, auto slot) {
     auto* const button = new QPushButton(text);
@@ -51,6 +54,7 @@ void SheetView::SetUpEditor() {
   constexpr int preferred_rows = 20;
   constexpr int preferred_columns = 4;
   constexpr int digits = 12;
+  constexpr int narrowest = 20;
   editor_->setObjectName("sheet");
   editor_->setAccessibleName(tr("Sheet"));
   editor_->setNoOfRowEdits(preferred_rows);
@@ -58,6 +62,8 @@ void SheetView::SetUpEditor() {
   editor_->setCellWidth(14 * fontMetrics().averageCharWidth());
   editor_->setCellHeight(fontMetrics().height() + 8);
   editor_->setAutoEdits(true);
+  // Wide columns do not widen the page.
+  editor_->setMinimumWidth(narrowest * fontMetrics().averageCharWidth());
   editor_->setNumberFormat(NumberSettings::nfGeneral);
   editor_->setSignificantDigits(digits);
   editor_->setBlankWhenNull(true);
@@ -87,6 +93,34 @@ QColor SheetView::ColorOf(quint32 row, quint32 column, const QColor& usual) cons
   return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
 }
 
+void SheetView::FitColumns() {
+  constexpr int most_rows = 200;
+  constexpr int most_characters = 24;
+  const QFontMetrics metrics = fontMetrics();
+  const int margin = 3 * metrics.averageCharWidth();
+  for (int column = 0; column < sheet_.columnCount(); ++column) {
+    int width = editor_->CellWidth();
+    const auto fit = [&](const QString& text) {
+      width = std::max(width, metrics.horizontalAdvance(text.left(most_characters)) + margin);
+    };
+    fit(sheet_.Title(column));
+    // Numbers are shown with as many digits as have room.
+    const int rows = sheet_.IsNumeric(column) ? 0 : std::min(most_rows, sheet_.rowCount());
+    for (int row = 0; row < rows; ++row) fit(sheet_.Text(row, column));
+    editor_->setColWidth(static_cast<quint32>(column), width);
+  }
+  FitWidth();
+}
+
+void SheetView::FitWidth() {
+  const QFontMetrics metrics = fontMetrics();
+  int width = metrics.horizontalAdvance(QString::number(sheet_.rowCount() + 1)) +
+              6 * metrics.averageCharWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+  for (quint32 column = 0; column < std::max<quint32>(editor_->NoOfCols(), 3); ++column)
+    width += editor_->ColWidth(column);
+  setMaximumWidth(std::max(width, layout()->minimumSize().width()));
+}
+
 void SheetView::CommitText() {
   for (TextCell* const cell : editor_->findChildren<TextCell*>()) cell->CommitOrRestore();
 }
@@ -103,10 +137,10 @@ void SheetView::FollowSelection() {
 }
 
 void SheetView::AddCommands(QMenu& menu) {
-  QAction* const rename = menu.addAction(tr("Rename Column…"), this, &SheetView::RenameColumn);
+  QAction* const rename = menu.addAction(tr("Re&name Column…"), this, &SheetView::RenameColumn);
   rename->setEnabled(sheet_.columnCount() > 0);
   QAction* const names =
-      menu.addAction(tr("Names from First Row"), this, &SheetView::TakeNamesFromFirstRow);
+      menu.addAction(tr("Names from &First Row"), this, &SheetView::TakeNamesFromFirstRow);
   names->setEnabled(sheet_.rowCount() > 0);
 }
 

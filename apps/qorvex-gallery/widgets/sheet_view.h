@@ -62,6 +62,10 @@ class SheetView : public QWidget {
  private:
   void SetUpEditor();
   void FollowSelection();
+  // The columns, as wide as their names and the first texts in them, and the view no wider than
+  // they are.
+  void FitColumns();
+  void FitWidth();
   [[nodiscard]] QColor ColorOf(quint32 row, quint32 column, const QColor& usual) const;
 
   Sheet& sheet_;

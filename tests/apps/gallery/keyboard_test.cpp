@@ -5,15 +5,20 @@
 #include <QApplication>
 #include <QLabel>
 #include <QMenuBar>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTranslator>
 #include <QtTest/QTest>
 #include <map>
 #include <vector>
 
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/background_work.h"
+#include "apps/qorvex-gallery/model/translations.h"
+#include "qorvex/base/Qorvex_rs_math.h"
 #include "qorvex/controls/panel/cell_panel.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "support/test.h"
 
 namespace qorvex::gallery {
@@ -46,9 +51,21 @@ bool Follows(const QRect& now, const QRect& before) {
          now.contains(before);
 }
 
-struct Keyboard : testing::Test {
-  Keyboard() {
+// The texts of the window in a language.
+struct Language {
+  explicit Language(QLocale::Language language) {
     QLocale::setDefault(QLocale::c());
+    InstallTranslations(QLocale(language));
+  }
+  ~Language() {
+    qDeleteAll(qApp->findChildren<QTranslator*>());
+    SetMessageLookup({});
+    SetReportLookup({});
+  }
+};
+
+struct Keyboard : testing::TestWithParam<QLocale::Language> {
+  Keyboard() {
     window.show();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
   }
@@ -67,15 +84,20 @@ struct Keyboard : testing::Test {
   }
 
   // The stops of the page from its tab on; the last one is the tab again unless there is a trap.
-  std::vector<QWidget*> Stops() {
+  std::vector<QWidget*> Stops(const std::string& page) {
     constexpr int kMostStops = 500;
     std::vector<QWidget*> stops = {QApplication::focusWidget()};
     for (int i = 0; i < kMostStops; ++i) {
+      QWidget* const before = stops.back();
       // In an editor, the tab key alone goes to the next cell.
-      const bool is_editor = qobject_cast<CellPanel*>(stops.back()) != nullptr;
+      const bool is_editor = qobject_cast<CellPanel*>(before) != nullptr;
       Press(Qt::Key_Tab, is_editor ? Qt::ControlModifier : Qt::NoModifier);
-      stops.push_back(StopOf(QApplication::focusWidget()));
-      if (stops.back() == stops.front() || stops.back() == stops[stops.size() - 2]) break;
+      QWidget* const now = StopOf(QApplication::focusWidget());
+      stops.push_back(now);
+      if (now == stops.front() || now == before) break;
+      // At once: a part that scrolls moves its widgets on the way.
+      EXPECT_TRUE(i == 0 || Follows(PlaceOf(*now), PlaceOf(*before)))
+          << page << ": from " << Described(before) << " to " << Described(now);
     }
     return stops;
   }
@@ -96,28 +118,31 @@ struct Keyboard : testing::Test {
     return found;
   }
 
+  Language language{GetParam()};
   MainWindow window;
 };
 
-TEST_F(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
+INSTANTIATE_TEST_SUITE_P(Languages, Keyboard, testing::Values(QLocale::English, QLocale::German),
+                         [](const auto& of) {
+                           return QLocale::languageToString(of.param).toStdString();
+                         });
+
+TEST_P(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
   for (int page = 0; page < window.Pages()->count(); ++page) {
     ShowPage(page);
     const std::string name = window.Pages()->tabText(page).toStdString();
-    const std::vector<QWidget*> stops = Stops();
+    const std::vector<QWidget*> stops = Stops(name);
     EXPECT_EQ(stops.back(), stops.front()) << name << ": a trap at " << Described(stops.back());
     EXPECT_GE(stops.size(), 4U) << name;
-    for (std::size_t i = 1; i + 1 < stops.size(); ++i) {
-      EXPECT_NE(NameOf(stops[i]), "") << name << ": " << Described(stops[i]);
-      EXPECT_TRUE(i == 1 || Follows(PlaceOf(*stops[i]), PlaceOf(*stops[i - 1])))
-          << name << ": from " << Described(stops[i - 1]) << " to " << Described(stops[i]);
-    }
+    for (QWidget* const stop : stops)
+      EXPECT_NE(NameOf(stop), "") << name << ": " << Described(stop);
     // Back by the same way: from the tab to the last stop.
     Press(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(StopOf(QApplication::focusWidget()), stops[stops.size() - 2]) << name;
   }
 }
 
-TEST_F(Keyboard, HasNoMnemonicTwice) {
+TEST_P(Keyboard, HasNoMnemonicTwice) {
   for (int page = 0; page < window.Pages()->count(); ++page) {
     ShowPage(page);
     for (const auto& [key, texts] : Mnemonics()) {
@@ -138,7 +163,7 @@ TEST_F(Keyboard, HasNoMnemonicTwice) {
 }
 
 // A screen reader says the name of the table with the element.
-TEST_F(Keyboard, TellsTheEditorsOfAPageApart) {
+TEST_P(Keyboard, TellsTheEditorsOfAPageApart) {
   for (int page = 0; page < window.Pages()->count(); ++page) {
     ShowPage(page);
     std::map<std::string, QWidget*> editors;
@@ -146,6 +171,22 @@ TEST_F(Keyboard, TellsTheEditorsOfAPageApart) {
       if (!editor->isVisible()) continue;
       EXPECT_TRUE(editors.emplace(NameOf(editor), editor).second)
           << window.Pages()->tabText(page).toStdString() << ": " << Described(editor);
+    }
+  }
+}
+
+// In either language, on a screen of 1280 by 800 pixels.
+TEST_P(Keyboard, HasRoomForEveryPage) {
+  for (int page = 0; page < window.Pages()->count(); ++page) {
+    ShowPage(page);
+    const std::string name = window.Pages()->tabText(page).toStdString();
+    const QSize least = window.minimumSizeHint();
+    EXPECT_TRUE(least.width() <= 1280 && least.height() <= 760)
+        << name << ": " << least.width() << " by " << least.height();
+    for (const auto* const area : window.Pages()->currentWidget()->findChildren<QScrollArea*>()) {
+      if (area->horizontalScrollBarPolicy() == Qt::ScrollBarAlwaysOff) {
+        EXPECT_LE(area->widget()->minimumSizeHint().width(), area->viewport()->width()) << name;
+      }
     }
   }
 }
