@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 
 namespace qorvex::gallery {
@@ -142,6 +143,7 @@ void SheetView::AddCommands(QMenu& menu) {
   QAction* const names =
       menu.addAction(tr("Names from &First Row"), this, &SheetView::TakeNamesFromFirstRow);
   names->setEnabled(sheet_.rowCount() > 0);
+  menu.addAction(tr("&Missing Values…"), this, &SheetView::ChooseMissingWords);
 }
 
 void SheetView::InsertRowsHere() {
@@ -192,6 +194,15 @@ void SheetView::RenameColumn() {
       QInputDialog::getText(this, tr("Rename column"), tr("Name of column %1:").arg(column + 1),
                             QLineEdit::Normal, before, &accepted);
   if (accepted) sheet_.setHeaderData(column, Qt::Horizontal, name);
+}
+
+void SheetView::ChooseMissingWords() {
+  CommitText();
+  bool accepted = false;
+  const QString words = QInputDialog::getText(
+      this, tr("Missing values"), tr("Left out are empty cells and cells with these words:"),
+      QLineEdit::Normal, TextOfWords(sheet_.Data().Format().missing), &accepted);
+  if (accepted) sheet_.SetMissingWords(WordsIn(words));
 }
 
 void SheetView::TakeNamesFromFirstRow() {

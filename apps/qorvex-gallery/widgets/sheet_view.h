@@ -52,6 +52,8 @@ class SheetView : public QWidget {
   void RenameColumn();
   /// Makes the texts of the first row the names of the columns.
   void TakeNamesFromFirstRow();
+  /// Asks for the words that stand for missing values.
+  void ChooseMissingWords();
 
  Q_SIGNALS:
   /// The selection is in another column.
