@@ -30,15 +30,20 @@ class ColumnFigures {
   ColumnFigures(const TQorFloatVector& values, bool population);
 
   /// The lines of a report, and the interval that contains the mean of a normal population with a
-  /// probability of 95 %, as rows of two labels, each with its figure.
-  [[nodiscard]] QList<QStringList> ReportTable(int decimals, const QLocale& locale) const;
+  /// probability of 95 %, as rows of two labels, each with its figure. Without decimals, figures
+  /// have the significant digits that fit the values.
+  [[nodiscard]] QList<QStringList> ReportTable(std::optional<int> decimals,
+                                               const QLocale& locale) const;
   /// A remark on what the report does not show: the empty cells, and figures that need more
   /// decimals, of which there can be at most most_decimals.
-  [[nodiscard]] QString Remark(std::size_t empty_cells, int decimals, int most_decimals,
-                               const QLocale& locale) const;
+  [[nodiscard]] QString Remark(std::size_t empty_cells, std::optional<int> decimals,
+                               int most_decimals, const QLocale& locale) const;
 
  private:
+  [[nodiscard]] QString HiddenRemark(int decimals, int most_decimals, const QLocale& locale) const;
+
   std::vector<ReportFigure> lines_;
+  int significant_digits_ = 0;
   std::optional<Interval<Extended>> interval_;
 };
 

@@ -27,8 +27,10 @@ ColumnReport::ColumnReport(const Sheet& sheet, QWidget* parent)
       plot_(new PlotChooser(sheet)) {
   figures_->setObjectName("report");
   decimals_->setObjectName("decimals");
-  decimals_->setRange(0, 40);
-  decimals_->setValue(4);
+  // The least value stands for the digits that fit.
+  decimals_->setRange(-1, 40);
+  decimals_->setSpecialValueText(tr("auto"));
+  decimals_->setValue(-1);
   population_->setObjectName("population");
   remark_->setObjectName("remark");
   // A long remark does not widen the page.
@@ -74,10 +76,14 @@ void ColumnReport::ShowFigures() {
   const TQorFloatVector all = column_ < 0 ? TQorFloatVector() : sheet_.Numbers(column_);
   const TQorFloatVector values = WithoutNulls(all);
   const ColumnFigures figures(values, population_->isChecked());
-  figures_->SetRows(figures.ReportTable(decimals_->value(), locale()));
-  remark_->setText(figures.Remark(all.size() - values.size(), decimals_->value(),
-                                  decimals_->maximum(), locale()));
+  figures_->SetRows(figures.ReportTable(Decimals(), locale()));
+  remark_->setText(
+      figures.Remark(all.size() - values.size(), Decimals(), decimals_->maximum(), locale()));
   remark_->setToolTip(ToolTipOf(remark_->text()));
+}
+
+std::optional<int> ColumnReport::Decimals() const {
+  return decimals_->value() < 0 ? std::nullopt : std::optional(decimals_->value());
 }
 
 QVariantMap ColumnReport::State() const {

@@ -6,6 +6,7 @@
 #include <QList>
 #include <QVariantMap>
 #include <QWidget>
+#include <optional>
 
 #include "apps/qorvex-gallery/widgets/page.h"
 
@@ -20,8 +21,8 @@ class FigureTable;
 class PlotChooser;
 class Sheet;
 
-/// Shows descriptive statistics, with the number of decimals and the divisor that the user chooses,
-/// and a diagram.
+/// Shows descriptive statistics, with the digits that fit the values or the number of decimals that
+/// the user chooses, and a diagram.
 class ColumnReport : public QWidget {
   Q_OBJECT
 
@@ -45,6 +46,7 @@ class ColumnReport : public QWidget {
  private:
   QLayout* MakeHead();
   void ShowFigures();
+  [[nodiscard]] std::optional<int> Decimals() const;
 
   const Sheet& sheet_;
   int column_ = -1;

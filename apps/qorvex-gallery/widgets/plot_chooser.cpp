@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <vector>
@@ -28,9 +27,9 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
       kind_(new QComboBox),
-      option_label_(new QLabel),
-      options_(new QStackedWidget),
+      classes_label_(new QLabel(tr("Cl&asses:"))),
       classes_(new QSpinBox),
+      other_label_(new QLabel(tr("Aga&inst:"))),
       other_(new ColumnBox(sheet, ColumnBox::kNumeric)),
       plot_(new PlotView) {
   kind_->setObjectName("plotKind");
@@ -45,19 +44,19 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
   classes_->setRange(0, 1000);
   classes_->setSpecialValueText(tr("automatic"));
   other_->setObjectName("plotOther");
-  options_->addWidget(classes_);
-  options_->addWidget(other_);
-  options_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   plot_->setObjectName("columnPlot");
   auto* const kind_label = new QLabel(tr("Plo&t:"));
   kind_label->setBuddy(kind_);
+  classes_label_->setBuddy(classes_);
+  other_label_->setBuddy(other_);
 
   auto* const head = new QHBoxLayout;
   head->addWidget(kind_label);
   head->addWidget(kind_);
   head->addSpacing(fontMetrics().height());
-  head->addWidget(option_label_);
-  head->addWidget(options_);
+  for (QWidget* const option :
+       std::initializer_list<QWidget*>{classes_label_, classes_, other_label_, other_})
+    head->addWidget(option);
   head->addStretch(1);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -98,39 +97,29 @@ PlotChooser::Kind PlotChooser::ChosenKind() const {
 }
 
 void PlotChooser::Update() {
-  struct Option {
-    QString label;
-    QWidget* widget = nullptr;
-    QString placeholder;
-  };
-  const QString none = tr("No values to show");
-  Option option = {{}, nullptr, none};
-  switch (ChosenKind()) {
-    case kHistogram:
-      option = {tr("Cl&asses:"), classes_, none};
-      break;
-    case kScatter:
-      option = {tr("Aga&inst:"), other_, tr("No row has a value in both columns")};
-      break;
-    case kResiduals:
-      option = {tr("Aga&inst:"), other_, tr("A line needs rows with two different values of x")};
-      break;
-    case kAutocorrelation:
-      option.placeholder = tr("Autocorrelations need two different values, and no infinite ones");
-      break;
-    case kBox:
-    case kNormalQuantiles:
-    case kOrder:
-      break;
-  }
-  option_label_->setText(option.label);
-  option_label_->setBuddy(option.widget);
-  option_label_->setVisible(option.widget != nullptr);
-  options_->setVisible(option.widget != nullptr);
-  if (option.widget != nullptr) options_->setCurrentWidget(option.widget);
+  const bool has_classes = ChosenKind() == kHistogram;
+  const bool has_other = ChosenKind() == kScatter || ChosenKind() == kResiduals;
+  classes_label_->setVisible(has_classes);
+  classes_->setVisible(has_classes);
+  other_label_->setVisible(has_other);
+  other_->setVisible(has_other);
   plot_->setAccessibleName(kind_->currentText());
-  plot_->SetPlaceholder(column_ < 0 ? none : option.placeholder);
+  plot_->SetPlaceholder(WhyEmpty());
   plot_->SetContent(column_ < 0 ? PlotContent() : Content());
+}
+
+QString PlotChooser::WhyEmpty() const {
+  if (column_ < 0) return tr("No values to show");
+  switch (ChosenKind()) {
+    case kScatter:
+      return tr("No row has a value in both columns");
+    case kResiduals:
+      return tr("A line needs rows with two different values of the other column");
+    case kAutocorrelation:
+      return tr("Autocorrelations need two different values, and no infinite ones");
+    default:
+      return tr("No values to show");
+  }
 }
 
 PlotContent PlotChooser::Content() const {

@@ -11,7 +11,6 @@
 class QComboBox;
 class QLabel;
 class QSpinBox;
-class QStackedWidget;
 
 namespace qorvex::gallery {
 
@@ -48,6 +47,7 @@ class PlotChooser : public QWidget {
 
   void Update();
   [[nodiscard]] Kind ChosenKind() const;
+  [[nodiscard]] QString WhyEmpty() const;
   [[nodiscard]] PlotContent Content() const;
   [[nodiscard]] PlotContent Boxes() const;
   [[nodiscard]] PlotContent AgainstOther() const;
@@ -56,9 +56,9 @@ class PlotChooser : public QWidget {
   int column_ = -1;
   int group_column_ = -1;
   QComboBox* kind_;
-  QLabel* option_label_;
-  QStackedWidget* options_;
+  QLabel* classes_label_;
   QSpinBox* classes_;
+  QLabel* other_label_;
   ColumnBox* other_;
   PlotView* plot_;
 };

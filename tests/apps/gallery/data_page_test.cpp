@@ -112,18 +112,18 @@ TEST_F(DataPageTest, ShowsTheExampleAndFollowsEdits) {
   document.OpenExample();
   EXPECT_EQ(Message(), "");
   EXPECT_EQ(Figure("report", "Number of Values:"), "100");
-  EXPECT_EQ(Figure("report", "95 % Interval for the Mean:"), "299836.7226 to 299868.0774");
-  EXPECT_EQ(Mean(), "299852.4000");
+  EXPECT_EQ(Figure("report", "95 % Interval for the Mean:"), "299836.7 to 299868.1");
+  EXPECT_EQ(Mean(), "299852.4");
   EXPECT_EQ(Find<QComboBox>("column").currentText(), "speed_km_s");
 
   Open("small.csv", "name,size\nfirst,1\nsecond,2\nthird,6\n");
-  EXPECT_EQ(Mean(), "3.0000");
+  EXPECT_EQ(Mean(), "3");
   const QString before = Picture();
   TypeInto(0, 1, "10\r");
-  EXPECT_EQ(Mean(), "6.0000");
+  EXPECT_EQ(Mean(), "6");
   EXPECT_NE(Picture(), before);
   Undo();
-  EXPECT_EQ(Mean(), "3.0000");
+  EXPECT_EQ(Mean(), "3");
   EXPECT_EQ(Picture(), before);
   Find<QSpinBox>("decimals").setValue(1);
   QApplication::processEvents();
@@ -153,7 +153,7 @@ TEST_F(DataPageTest, GrowsFromNothing) {
   EXPECT_EQ(Message(), "Column Column 1 counts as text: “x” in row 3 is not a number");
   TypeInto(2, 0, "6\r");
   EXPECT_EQ(Message(), "");
-  EXPECT_EQ(Mean(), "4.0000");
+  EXPECT_EQ(Mean(), "4");
   page.View().AppendColumn();
   Expect<QInputDialog>([](QInputDialog& dialog) {
     dialog.setTextValue("weight");
@@ -167,7 +167,7 @@ TEST_F(DataPageTest, GrowsFromNothing) {
   QApplication::processEvents();
   EXPECT_EQ(editor.NoOfRows(), 4U);
   Choose(1);
-  EXPECT_EQ(Mean(), "2.0000");
+  EXPECT_EQ(Mean(), "2");
   ASSERT_TRUE(document.SaveTo(folder.filePath("grown.csv")));
   EXPECT_EQ(Read("grown.csv"), ",weight,\n2,,\n4,1,red\n6,NA,green\n,3,blue\n");
   page.View().DeleteRowsHere();
@@ -182,13 +182,13 @@ TEST_F(DataPageTest, TakesAPastedTableWithItsNames) {
   QTest::keySequence(QApplication::focusWidget(), QKeySequence::Paste);
   QApplication::processEvents();
   EXPECT_EQ(editor.ColHeading(1), "size");
-  EXPECT_EQ(Mean(), "1.5000");
+  EXPECT_EQ(Mean(), "1.5");
   EXPECT_TRUE(sheet.IsChanged());
 }
 
 TEST_F(DataPageTest, ComputesFromExactSums) {
   Open("cancel.csv", "1e25\n1\n-1e25\n");
-  EXPECT_EQ(Mean(), "0.3333");
+  EXPECT_EQ(Mean(), "0.3333333");
   // A thousand values of 0.1 have no spread, and no normal density beside their bar.
   Open("equal.csv", QByteArray("0.1\n").repeated(1000));
   Find<QSpinBox>("decimals").setValue(22);
@@ -276,11 +276,14 @@ TEST_F(DataPageTest, RemarksOnEmptyCellsAndOnFiguresThatAreTooSmall) {
   Choose(1);
   EXPECT_EQ(editor.NoOfRows(), 4U);
   EXPECT_EQ(Figure("report", "Number of Values:"), "2");
-  EXPECT_EQ(Mean(), "6.0000");
-  const int width = page.minimumSizeHint().width();
+  EXPECT_EQ(Mean(), "6");
   Open("tiny.csv", "1e-9\n2e-9\n4e-9\n");
+  EXPECT_EQ(Mean(), "2.333333e-9");
+  EXPECT_EQ(Remark(), "");
+  Find<QSpinBox>("decimals").setValue(4);
+  QApplication::processEvents();
   EXPECT_TRUE(Remark().ends_with("figures need up to 21 decimals")) << Remark();
-  EXPECT_LE(page.minimumSizeHint().width(), width);
+  EXPECT_LE(page.minimumSizeHint().width(), 1100);
   Find<QSpinBox>("decimals").setValue(21);
   QApplication::processEvents();
   EXPECT_EQ(Remark(), "");
@@ -303,8 +306,8 @@ TEST_F(DataPageTest, DoesNotMoveOrWidenForMessagesAndTitles) {
   EXPECT_TRUE(tip.text().size() > 100 && tip.text().size() < 1500) << tip.text().size();
 
   Open("huge.csv", QByteArray(5000, 'x') + "\n1e4000\n-1e-4000\n3e4931\n");
-  EXPECT_EQ(Figure("report", "Maximum:"), "3e+4931");
-  EXPECT_LE(page.minimumSizeHint().width(), 1200);
+  EXPECT_EQ(Figure("report", "Maximum:"), "3e4931");
+  EXPECT_LE(page.minimumSizeHint().width(), 1100);
   document.OpenExample();
   EXPECT_EQ(Message(), "");
 }
@@ -395,7 +398,7 @@ TEST_F(DataPageTest, ReadsLargeFilesInTheBackground) {
   ASSERT_TRUE(QTest::qWaitFor([&] { return ended.size() == 2; }));
   EXPECT_FALSE(Find<QWidget>("progress").isVisible());
   EXPECT_TRUE(editor.isEnabled());
-  EXPECT_EQ(Mean(), "1.8750");
+  EXPECT_EQ(Mean(), "1.875");
 
   document.Open(Write("late.csv", QByteArray(2 << 20, '1') + ",2\n3\n"));
   ASSERT_TRUE(QTest::qWaitFor([&] { return ended.size() == 3; }));
