@@ -8,6 +8,7 @@
 
 #include "qorvex/controls/QorvexMatrixEdit.h"
 
+class QLabel;
 class QMenu;
 
 namespace qorvex::gallery {
@@ -72,6 +73,8 @@ class SheetView : public QWidget {
 
   Sheet& sheet_;
   TQorMatrixEdit* editor_;
+  // Shown while the sheet is empty.
+  QLabel* hint_;
   int chosen_ = -1;
 };
 
