@@ -52,7 +52,7 @@ SheetView::SheetView(Sheet& sheet, QWidget* parent)
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(editor_, 1);
-  layout->addWidget(hint_, 5, Qt::AlignTop);
+  layout->addWidget(hint_);
   layout->addLayout(buttons);
   hint_->setWordWrap(true);
   hint_->setForegroundRole(QPalette::PlaceholderText);
