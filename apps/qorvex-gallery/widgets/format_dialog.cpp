@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -30,7 +31,8 @@ TQorMatrixEdit* MakePreview(Sheet& sheet) {
   constexpr int columns = 6;
   auto* const preview = new TQorMatrixEdit;
   preview->setObjectName("preview");
-  preview->setAccessibleName(FormatDialog::tr("Preview"));
+  preview->setAccessibleName(
+      QCoreApplication::translate("qorvex::gallery::FormatDialog", "Preview"));
   preview->setReadOnly(true);
   preview->setRowHeadings(true);
   preview->setColHeadings(true);

@@ -40,7 +40,7 @@ GroupReport::GroupReport(const Sheet& sheet, QWidget* parent)
   const QStringList titles = GroupFigureTitles();
   for (qsizetype i = 0; i < titles.size(); ++i) {
     const int width =
-        fontMetrics().horizontalAdvance(titles[i]) + 3 * fontMetrics().averageCharWidth();
+        fontMetrics().horizontalAdvance(titles[i]) + 5 * fontMetrics().averageCharWidth();
     table_->setColWidth(static_cast<quint32>(i), std::max(width, table_->CellWidth()));
   }
   heading_->setBuddy(table_);
