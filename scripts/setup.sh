@@ -32,6 +32,7 @@ test_packages=(
   libmpfr-dev        # exact values of the elementary functions
   python3-mpmath     # checks that their tables are those of the scripts
   xvfb openbox       # tests of widgets with a window manager
+  appstream desktop-file-utils  # tests of the entries of the desktop program in menus and software centres
   qemu-user-static   # the self-test on other processors
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation

@@ -25,6 +25,18 @@ void FixAppearance() {
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
 }
 
+// The name, version and icon of the application.
+void SetIdentity() {
+  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
+  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 256})
+    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -57,14 +69,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
-  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
-  QIcon icon;
-  for (const int size : {16, 32, 48, 256})
-    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
-  QApplication::setWindowIcon(icon);
+  SetIdentity();
   parser.process(application);
   if (parser.isSet(language)) {
     QLocale::setDefault(QLocale(parser.value(language)));

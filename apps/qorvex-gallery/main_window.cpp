@@ -16,6 +16,7 @@
 #include "apps/qorvex-gallery/pages/matrix_page.h"
 #include "apps/qorvex-gallery/pages/random_page.h"
 #include "apps/qorvex-gallery/pages/regression_page.h"
+#include "apps/qorvex-gallery/pages/test_page.h"
 #include "apps/qorvex-gallery/widgets/help_window.h"
 #include "apps/qorvex-gallery/widgets/page_report_actions.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
@@ -49,6 +50,7 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
   AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
+  AddPage(new TestPage(sheet_), "tests", tr("Tests"));
   setCentralWidget(pages_);
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));

@@ -8,7 +8,6 @@
 #include "apps/common/input_error.h"
 #include "apps/qorvex/json_figures.h"
 #include "apps/qorvex/text_table.h"
-#include "qorvex/base/currency_text.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -92,7 +91,6 @@ std::string CellText(const Cell& cell, const FigureFormat& format) {
   return std::visit(Overloaded{[](std::monostate) { return std::string(); },
                                [](const std::string& text) { return text; },
                                [](const WrittenNumber& number) { return number.text; },
-                               [](Currency amount) { return Currency2EStr(amount); },
                                [&](const Interval<Extended>& interval) {
                                  if (std::isnan(interval.least)) return format.Text(interval.least);
                                  return format.Text(interval.least) + " to " +

@@ -58,7 +58,7 @@ ReportPart PartOf(const TestSample& sample) {
   part.title = "Column " + Int2EStr(sample.column);
   if (!sample.name.empty()) part.title += ": " + OnOneLine(sample.name);
   if (!sample.group.empty()) {
-    part.item += ", " + sample.group;
+    part.item = sample.group;
     part.title += ", " + sample.group;
   }
   if (sample.missing > 0) {
@@ -174,9 +174,11 @@ int DigitsOf(const TestReport& report) {
 std::vector<ReportPart> PartsOf(const TestReport& report, const TestArguments& arguments) {
   std::vector<ReportPart> parts;
   for (const TestSample& sample : report.samples) parts.push_back(PartOf(sample));
+  const std::string item = parts.size() == 1 ? parts[0].item : "";
+  if (arguments.output.form == OutputForm::kTable && parts.size() > 1) parts = {SideBySide(parts)};
   const FigureFormat format = arguments.output.ForReport(DigitsOf(report));
   parts.push_back({.key = "test",
-                   .item = parts.size() == 1 ? parts[0].item : "",
+                   .item = item,
                    .figures = TestResultFigures(report, arguments, format).Take()});
   return parts;
 }

@@ -180,7 +180,8 @@ void MatrixPage::Connect(MatrixPanel& panel) {
     message_->SetText({});
     RefreshSoon();
   });
-  connect(&panel, &MatrixPanel::Refused, message_, &MessageBar::SetText);
+  connect(&panel, &MatrixPanel::SizeRefused, message_, &MessageBar::SetText);
+  panel.LetWatch(*message_);
 }
 
 MatrixResult MatrixPage::Wanted() const {
@@ -347,6 +348,7 @@ PageReport MatrixPage::Report() const {
     report.parts.append({title, rows});
   };
   add(tr("A"), *a_);
+  report.parts.append({tr("Properties of A"), properties_->Rows()});
   if (TakesB(Wanted())) add(tr("B"), *b_);
   if (use_as_a_->isEnabled()) add(wanted_->checkedButton()->text().remove('&'), *result_);
   return report;

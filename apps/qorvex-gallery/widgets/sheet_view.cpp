@@ -54,7 +54,7 @@ void SheetView::SetUpEditor() {
   constexpr int preferred_rows = 20;
   constexpr int preferred_columns = 4;
   constexpr int digits = 12;
-  constexpr int narrowest = 32;
+  constexpr int narrowest = 20;
   editor_->setObjectName("sheet");
   editor_->setAccessibleName(tr("Sheet"));
   editor_->setNoOfRowEdits(preferred_rows);
@@ -137,10 +137,10 @@ void SheetView::FollowSelection() {
 }
 
 void SheetView::AddCommands(QMenu& menu) {
-  QAction* const rename = menu.addAction(tr("Rename Column…"), this, &SheetView::RenameColumn);
+  QAction* const rename = menu.addAction(tr("Re&name Column…"), this, &SheetView::RenameColumn);
   rename->setEnabled(sheet_.columnCount() > 0);
   QAction* const names =
-      menu.addAction(tr("Names from First Row"), this, &SheetView::TakeNamesFromFirstRow);
+      menu.addAction(tr("Names from &First Row"), this, &SheetView::TakeNamesFromFirstRow);
   names->setEnabled(sheet_.rowCount() > 0);
 }
 

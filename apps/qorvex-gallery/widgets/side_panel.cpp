@@ -1,6 +1,9 @@
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLabel>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
 #include "apps/qorvex-gallery/widgets/heading.h"
@@ -30,7 +33,16 @@ QVBoxLayout* SidePanel::AddGroup(const QString& title) {
   return layout;
 }
 
+// Boxes with long entries are as wide as the panel, and their lists as the longest entry.
 void SidePanel::Finish() {
+  constexpr int kLeastCharacters = 10;
+  for (QComboBox* const box : findChildren<QComboBox*>()) {
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kLeastCharacters);
+    box->setMaximumWidth(QWIDGETSIZE_MAX);
+    box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) +
+                                 box->view()->verticalScrollBar()->sizeHint().width());
+  }
   groups_->addStretch();
 }
 

@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/pages/data_page.h"
 
+#include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
 #include <QDragEnterEvent>
@@ -14,11 +15,13 @@
 #include <QTimer>
 #include <QUrl>
 #include <QtTest/QSignalSpy>
+#include <cmath>
 #include <functional>
 
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
@@ -337,6 +340,45 @@ TEST_F(DataPageTest, SaysWhatIsWrongWithAFile) {
   Open("good.csv", "size\n1\n2\n");
   EXPECT_EQ(Message(), "");
   EXPECT_EQ(editor.NoOfRows(), 2U);
+}
+
+TEST_F(DataPageTest, ShowsHowAFileInDoubtIsRead) {
+  const auto dialog = [this] { return page.findChild<FormatDialog*>(); };
+  const auto choose = [&](const char* box, int value) {
+    auto& choices = *dialog()->findChild<QComboBox*>(box);
+    choices.setCurrentIndex(choices.findData(value));
+  };
+  Open("points.csv", "a,b\n\"1,5\",x y\n2,z\n");
+  ASSERT_NE(dialog(), nullptr);
+  EXPECT_EQ(editor.NoOfRows(), 0U) << "not before it is decided";
+  auto& preview = *dialog()->findChild<TQorMatrixEdit*>("preview");
+  EXPECT_EQ(preview.NoOfCols(), 2U);
+  choose("decimalSign", ',');
+  EXPECT_EQ(preview.Element(0, 0), 1.5L);
+  choose("delimiter", ' ');
+  EXPECT_EQ(preview.NoOfCols(), 0U);
+  EXPECT_EQ(dialog()->findChild<QLabel*>("error")->text(),
+            "The beginning:2: \",x\" follows a closing quote");
+  dialog()->reject();
+  QApplication::processEvents();
+  EXPECT_EQ(editor.NoOfRows(), 0U);
+
+  // Years as names, and as a row.
+  Open("years.csv", "land,2019,2020\nx,1,-\n");
+  dialog()->findChild<QLineEdit*>("missing")->setText("-, NA");
+  dialog()->accept();
+  QApplication::processEvents();
+  EXPECT_EQ(editor.ColHeading(1), "2019");
+  EXPECT_TRUE(std::isnan(sheet.Numbers(2)[0]));
+  document.ChooseFormat();
+  dialog()->findChild<QCheckBox*>("header")->setChecked(false);
+  dialog()->accept();
+  QApplication::processEvents();
+  EXPECT_EQ(editor.NoOfRows(), 2U);
+
+  Open("commas.csv", "a;b\n1,5;2\n1;2,5\n");
+  EXPECT_EQ(dialog(), nullptr) << "no doubt";
+  EXPECT_EQ(sheet.Numbers(0)[0], 1.5L);
 }
 
 TEST_F(DataPageTest, ReadsLargeFilesInTheBackground) {
