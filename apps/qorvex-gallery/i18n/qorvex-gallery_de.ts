@@ -1007,7 +1007,7 @@
     </message>
     <message>
         <source>auto</source>
-        <translation type="unfinished"></translation>
+        <translation>auto</translation>
     </message>
 </context>
 <context>
@@ -1854,7 +1854,7 @@
     </message>
     <message>
         <source>A line needs rows with two different values of the other column</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gerade braucht Zeilen mit zwei verschiedenen Werten der anderen Spalte</translation>
     </message>
 </context>
 <context>
@@ -2339,11 +2339,11 @@
     </message>
     <message>
         <source>Re&amp;name Column…</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte &amp;umbenennen…</translation>
     </message>
     <message>
         <source>Names from &amp;First Row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen aus der ersten Zeile</translation>
     </message>
 </context>
 <context>
