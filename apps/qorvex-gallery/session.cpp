@@ -9,11 +9,11 @@
 #include "apps/common/input_error.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/error_text.h"
+#include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
-#include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 
