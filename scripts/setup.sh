@@ -15,6 +15,7 @@ purpose=${1:-}
 packages=(
   g++ cmake ninja-build
   qt6-base-dev       # the components, and threads for the desktop program
+  qt6-svg-dev        # pictures of diagrams as SVG
   libcli11-dev       # the command line
   rapidjson-dev      # its JSON documents
   fonts-dejavu-core  # the font of pictures and widget tests
@@ -31,6 +32,7 @@ test_packages=(
   libmpfr-dev        # exact values of the elementary functions
   python3-mpmath     # checks that their tables are those of the scripts
   xvfb openbox       # tests of widgets with a window manager
+  appstream desktop-file-utils  # tests of the entries of the desktop program in menus and software centres
   qemu-user-static   # the self-test on other processors
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation

@@ -55,7 +55,7 @@ struct FigureFormat {
 /// @{
 /// The significant digits of the shortest text of a figure, or of the numbers of a column: from the
 /// first of the largest to the last decimal; of numbers without a common unit, the most that one
-/// of several hundred has. 0 without numbers.
+/// of about fifty has. 0 without numbers.
 [[nodiscard]] int SignificantDigits(Extended figure);
 [[nodiscard]] int SignificantDigits(const ColumnNumbers& numbers);
 /// @}

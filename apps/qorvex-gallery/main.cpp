@@ -6,9 +6,11 @@
 #include <QIcon>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/edge_style.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/translations.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
@@ -23,6 +25,18 @@ namespace {
 void FixAppearance() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+// The name, version and icon of the application.
+void SetIdentity() {
+  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
+  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 256})
+    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
@@ -57,14 +71,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
-  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
-  QIcon icon;
-  for (const int size : {16, 32, 48, 256})
-    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
-  QApplication::setWindowIcon(icon);
+  SetIdentity();
   parser.process(application);
   if (parser.isSet(language)) {
     QLocale::setDefault(QLocale(parser.value(language)));
@@ -72,6 +79,7 @@ int main(int argc, char** argv) {
     QLocale::setDefault(QLocale(QLocale::English));
   }
   if (takes_pictures) FixAppearance();
+  QApplication::setStyle(new qorvex::gallery::EdgeStyle(QApplication::style()->name()));
   qorvex::gallery::InstallTranslations();
   using qorvex::gallery::Appearance;
   qorvex::gallery::SetAppearance(Appearance::kSystem);

@@ -6,6 +6,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTimer>
@@ -66,6 +67,31 @@ TQorFloatMatrix MatrixOf(const QString& text) {
   return matrix;
 }
 
+// As high as its contents, unless that leaves too little for the diagrams: then it scrolls.
+class TableArea : public QScrollArea {
+ public:
+  explicit TableArea(QWidget* tables) {
+    setWidget(tables);
+    setWidgetResizable(true);
+    setFrameShape(QFrame::NoFrame);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  }
+  [[nodiscard]] QSize sizeHint() const override { return widget()->sizeHint(); }
+  [[nodiscard]] QSize minimumSizeHint() const override {
+    constexpr int kLeastLines = 5;
+    return {widget()->minimumSizeHint().width() + verticalScrollBar()->sizeHint().width(),
+            kLeastLines * fontMetrics().lineSpacing()};
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() == QEvent::LayoutRequest) updateGeometry();
+    return QScrollArea::eventFilter(watched, event);
+  }
+};
+
 }  // namespace
 
 RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
@@ -84,7 +110,6 @@ RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
           new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure,
                            FigureTable::kFigure, FigureTable::kFigure, FigureTable::kFigure})),
       quality_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
-      tables_(new QScrollArea),
       remark_(new QLabel) {
   setObjectName("regressionPage");
   values_->addWidget(MakeOwnValues());
@@ -194,6 +219,7 @@ QLayout* RegressionPage::MakeResults() {
   residuals_->setAccessibleName(tr("Residuals"));
   residuals_->SetPlaceholder(tr("No residuals to show"));
   coefficients_->setObjectName("coefficients");
+  coefficients_->SetTitled();
   quality_->setObjectName("quality");
   auto* const plots = new QHBoxLayout;
   plots->addWidget(curve_, 3);
@@ -213,15 +239,11 @@ QLayout* RegressionPage::MakeResults() {
   tables_layout->addSpacing(fontMetrics().height() / 2);
   tables_layout->addWidget(quality_);
   tables_layout->addStretch(1);
-  tables_->setWidget(tables);
-  tables_->setWidgetResizable(true);
-  tables_->setFrameShape(QFrame::NoFrame);
-  tables_->setFocusPolicy(Qt::NoFocus);
   auto* const layout = new QVBoxLayout;
   layout->addLayout(head);
-  layout->addLayout(plots, 3);
+  layout->addLayout(plots, 1);
   layout->addSpacing(fontMetrics().height() / 2);
-  layout->addWidget(tables_, 2);
+  layout->addWidget(new TableArea(tables));
   return layout;
 }
 
@@ -329,8 +351,6 @@ void RegressionPage::ShowFit(const RegressionReport& report) {
   coefficients_->SetRows(coefficient_rows_);
   quality_->SetRows(quality_rows_);
   FigureTable::Align(*coefficients_, *quality_);
-  // Scrolls rather than take more than its share of the page from the diagrams.
-  tables_->setMaximumHeight(tables_->widget()->sizeHint().height());
 }
 
 QString RegressionPage::RemarkOn(std::size_t left_out) const {

@@ -8,7 +8,6 @@
 
 class QComboBox;
 class QLabel;
-class QScrollArea;
 class QSpinBox;
 class QStackedWidget;
 
@@ -86,7 +85,6 @@ class RegressionPage : public Page {
   PlotView* residuals_;
   FigureTable* coefficients_;
   FigureTable* quality_;
-  QScrollArea* tables_;
   QLabel* remark_;
 };
 

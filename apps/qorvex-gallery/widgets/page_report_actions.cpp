@@ -1,7 +1,6 @@
 #include "apps/qorvex-gallery/widgets/page_report_actions.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QFileDialog>
 #include <QKeySequence>
 #include <QMenu>
@@ -18,13 +17,9 @@ namespace qorvex::gallery {
 
 namespace {
 
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::Page", text);
-}
-
 void AskAndSave(const Page& page, QWidget* window) {
-  const QStringList filters = {Text("HTML (*.html)"), Text("PDF (*.pdf)")};
-  QFileDialog dialog(window, Text("Save the Report"), {}, filters.join(QStringLiteral(";;")));
+  const QStringList filters = {Page::tr("HTML (*.html)"), Page::tr("PDF (*.pdf)")};
+  QFileDialog dialog(window, Page::tr("Save the Report"), {}, filters.join(QStringLiteral(";;")));
   dialog.setAcceptMode(QFileDialog::AcceptSave);
   dialog.setDefaultSuffix(QStringLiteral("html"));
   QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
@@ -48,8 +43,8 @@ void AskAndPrint(const Page& page, QWidget* window) {
 }  // namespace
 
 void AddReportActions(QMenu& menu, std::function<const Page*()> current_page) {
-  QAction* const save = menu.addAction(Text("Save &Report…"));
-  QAction* const print = menu.addAction(Text("&Print Report…"));
+  QAction* const save = menu.addAction(Page::tr("Save Repor&t…"));
+  QAction* const print = menu.addAction(Page::tr("&Print Report…"));
   print->setShortcut(QKeySequence::Print);
   // Runs an entry, unless its key was pressed on a page without a report.
   const auto run = [&menu, current_page](auto ask) {
