@@ -40,6 +40,7 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
       const QString text = texts.value(static_cast<qsizetype>(c));
       QLabel& cell = *cells_[r][c];
       cell.setText(text);
+      cell.setVisible(!texts.isEmpty());
       if (columns_[c] == kLabel) {
         label = text;
       } else {
