@@ -8,11 +8,12 @@
 
 #include "apps/common/input_error.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/error_text.h"
+#include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
-#include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 
@@ -69,7 +70,7 @@ void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument&
     sheet.SetChanged();
     document.Restore(std::move(sheet), path, settings.value("title").toString());
   } catch (const apps::InputError& error) {
-    Q_EMIT document.Message(QString::fromUtf8(error.what()));
+    Q_EMIT document.Message(ErrorText(error));
   }
 }
 
