@@ -133,7 +133,8 @@ std::string AnswerBetween(const AskedQuestion& asked) {
 }
 
 std::string AnswerTable(const AskedQuestion& asked) {
-  const auto& [family, question, arguments] = asked;
+  const Family& family = asked.family;
+  const DistArguments& arguments = asked.arguments;
   if (family.is_discrete) RequireAscendingCounts(arguments);
   const std::string point = arguments.points.Symbol();
   std::vector<ResultTable::Column> columns = {{point, point}, DensityColumn(family)};
