@@ -9,7 +9,9 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTabWidget>
+#include <QTimer>
 #include <QUrl>
+#include <chrono>
 
 #include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/pages/distribution_page.h"
@@ -41,7 +43,8 @@ MainWindow::MainWindow(QWidget* parent)
       pages_(new QTabWidget),
       data_(new DataPage(sheet_)),
       recent_(new RecentFiles(this)),
-      appearances_(new QActionGroup(this)) {
+      appearances_(new QActionGroup(this)),
+      rest_(new QTimer(this)) {
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
@@ -58,6 +61,13 @@ MainWindow::MainWindow(QWidget* parent)
   MakeHelpMenu(*menuBar()->addMenu(tr("&Help")));
   connect(&data_->Document(), &SheetDocument::TitleChanged, this, &MainWindow::ShowTitle);
   connect(&sheet_, &Sheet::Changed, this, &MainWindow::ShowTitle);
+  constexpr std::chrono::seconds rest(20);
+  rest_->setSingleShot(true);
+  rest_->setInterval(rest);
+  connect(&sheet_, &Sheet::Changed, rest_, qOverload<>(&QTimer::start));
+  connect(rest_, &QTimer::timeout, this, [this] {
+    if (KeepSession) static_cast<void>(KeepSession());
+  });
   ShowTitle();
   resize(1100, 720);
 }

@@ -52,7 +52,8 @@ void ColumnBox::Fill() {
       if (columns_ == kAll || sheet_.IsNumeric(column)) addItem(sheet_.Title(column), column);
     const int named =
         title.isEmpty() ? -1 : findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    setCurrentIndex(named >= 0 ? named : std::max(findData(before), std::min(count() - 1, 0)));
+    const int otherwise = none_.isEmpty() ? findData(before) : 0;
+    setCurrentIndex(named >= 0 ? named : std::max(otherwise, std::min(count() - 1, 0)));
   }
   column_ = Column();
   title_ = column_ < 0 ? QString() : sheet_.Title(column_);

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
@@ -12,6 +13,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
@@ -29,7 +31,8 @@ TQorMatrixEdit* MakePreview(Sheet& sheet) {
   constexpr int columns = 6;
   auto* const preview = new TQorMatrixEdit;
   preview->setObjectName("preview");
-  preview->setAccessibleName(FormatDialog::tr("Preview"));
+  preview->setAccessibleName(
+      QCoreApplication::translate("qorvex::gallery::FormatDialog", "Preview"));
   preview->setReadOnly(true);
   preview->setRowHeadings(true);
   preview->setColHeadings(true);
@@ -47,19 +50,6 @@ TQorMatrixEdit* MakePreview(Sheet& sheet) {
 }
 
 }  // namespace
-
-QString TextOfWords(const apps::MissingWords& words) {
-  QStringList texts;
-  for (const std::string& word : words.Words()) texts.append(QString::fromStdString(word));
-  return texts.join(QStringLiteral(", "));
-}
-
-apps::MissingWords WordsIn(const QString& text) {
-  std::vector<std::string> words;
-  for (const QString& word : text.split(u',', Qt::SkipEmptyParts))
-    if (!word.trimmed().isEmpty()) words.push_back(word.trimmed().toStdString());
-  return apps::MissingWords(std::move(words));
-}
 
 FormatDialog::FormatDialog(const QString& title, const QByteArray& first_lines,
                            const apps::TableFormat& format, const QString& reason, QWidget* parent)
@@ -126,6 +116,9 @@ QLayout* FormatDialog::MakeChoices(const apps::TableFormat& format) {
   decimal_sign_->setObjectName("decimalSign");
   encoding_->setObjectName("encoding");
   missing_->setObjectName("missing");
+  constexpr int characters = 24;
+  missing_->setMinimumWidth(characters * fontMetrics().averageCharWidth());
+  missing_->setCursorPosition(0);
   missing_->setToolTip(tr("Cells with one of these words, and empty cells, are left out"));
   header_->setObjectName("header");
   auto* const choices = new QHBoxLayout;

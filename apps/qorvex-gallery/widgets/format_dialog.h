@@ -18,12 +18,6 @@ class QLineEdit;
 
 namespace qorvex::gallery {
 
-/// @{
-/// Words for missing values as a list with commas.
-[[nodiscard]] QString TextOfWords(const apps::MissingWords& words);
-[[nodiscard]] apps::MissingWords WordsIn(const QString& text);
-/// @}
-
 /// Shows how the first lines of a file are read: with which delimiter, decimal sign, encoding,
 /// names and words for missing values. Every choice shows its result at once.
 class FormatDialog : public QDialog {

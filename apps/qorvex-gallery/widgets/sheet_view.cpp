@@ -5,6 +5,7 @@
 #include <QHBoxLayout>
 #include <QInputDialog>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
@@ -12,12 +13,16 @@
 #include <algorithm>
 #include <utility>
 
+#include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 
 namespace qorvex::gallery {
 
 SheetView::SheetView(Sheet& sheet, QWidget* parent)
-    : QWidget(parent), sheet_(sheet), editor_(new TQorMatrixEdit) {
+    : QWidget(parent),
+      sheet_(sheet),
+      editor_(new TQorMatrixEdit),
+      hint_(new QLabel(tr("Type or paste values, open a file, or drop one here."))) {
   SetUpEditor();
   connect(editor_, &CellPanel::OnContextMenu, this, [this](QMenu& menu) {
     menu.addSeparator();
@@ -47,7 +52,11 @@ SheetView::SheetView(Sheet& sheet, QWidget* parent)
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   layout->addWidget(editor_, 1);
+  layout->addWidget(hint_);
   layout->addLayout(buttons);
+  hint_->setWordWrap(true);
+  hint_->setForegroundRole(QPalette::PlaceholderText);
+  FitWidth();
 }
 
 void SheetView::SetUpEditor() {
@@ -84,17 +93,22 @@ SheetView::~SheetView() {
 
 QColor SheetView::ColorOf(quint32 row, quint32 column, const QColor& usual) const {
   const SheetData& cells = sheet_.Data();
-  const std::string_view cell = cells.Cell(row, column);
-  if (cell.empty() || cells.IsNumeric(column) == (cells.KindOf(cell) == CellKind::kNumber))
-    return usual;
-  if (cells.KindOf(cell) == CellKind::kMissing) return palette().color(QPalette::PlaceholderText);
-  if (!cells.IsMixed(column) || cells.KindOf(cell) == CellKind::kNumber) return usual;
   const bool dark = palette().color(QPalette::Base).lightness() < 128;
-  return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
+  switch (cells.KindOf(cells.Cell(row, column))) {
+    case CellKind::kMissing:
+      return palette().color(QPalette::PlaceholderText);
+    case CellKind::kText:
+      if (cells.IsMixed(column)) return dark ? QColor(0xff, 0x8a, 0x80) : QColor(0xb0, 0x00, 0x20);
+      break;
+    case CellKind::kNumber:
+      break;
+  }
+  return usual;
 }
 
 void SheetView::FitColumns() {
-  constexpr int most_rows = 200;
+  constexpr int most_cells = 20'000;
+  const int most_rows = std::min(200, most_cells / std::max(1, sheet_.columnCount()));
   constexpr int most_characters = 24;
   const QFontMetrics metrics = fontMetrics();
   const int margin = 3 * metrics.averageCharWidth();
@@ -113,6 +127,7 @@ void SheetView::FitColumns() {
 }
 
 void SheetView::FitWidth() {
+  hint_->setVisible(sheet_.columnCount() == 0);
   const QFontMetrics metrics = fontMetrics();
   int width = metrics.horizontalAdvance(QString::number(sheet_.rowCount() + 1)) +
               6 * metrics.averageCharWidth() + style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -142,6 +157,7 @@ void SheetView::AddCommands(QMenu& menu) {
   QAction* const names =
       menu.addAction(tr("Names from &First Row"), this, &SheetView::TakeNamesFromFirstRow);
   names->setEnabled(sheet_.rowCount() > 0);
+  menu.addAction(tr("&Missing Values…"), this, &SheetView::ChooseMissingWords);
 }
 
 void SheetView::InsertRowsHere() {
@@ -192,6 +208,15 @@ void SheetView::RenameColumn() {
       QInputDialog::getText(this, tr("Rename column"), tr("Name of column %1:").arg(column + 1),
                             QLineEdit::Normal, before, &accepted);
   if (accepted) sheet_.setHeaderData(column, Qt::Horizontal, name);
+}
+
+void SheetView::ChooseMissingWords() {
+  CommitText();
+  bool accepted = false;
+  const QString words = QInputDialog::getText(
+      this, tr("Missing values"), tr("Left out are empty cells and cells with these words:"),
+      QLineEdit::Normal, TextOfWords(sheet_.Data().Format().missing), &accepted);
+  if (accepted) sheet_.SetMissingWords(WordsIn(words));
 }
 
 void SheetView::TakeNamesFromFirstRow() {

@@ -8,6 +8,7 @@
 
 #include "qorvex/controls/QorvexMatrixEdit.h"
 
+class QLabel;
 class QMenu;
 
 namespace qorvex::gallery {
@@ -52,6 +53,8 @@ class SheetView : public QWidget {
   void RenameColumn();
   /// Makes the texts of the first row the names of the columns.
   void TakeNamesFromFirstRow();
+  /// Asks for the words that stand for missing values.
+  void ChooseMissingWords();
 
  Q_SIGNALS:
   /// The selection is in another column.
@@ -70,6 +73,8 @@ class SheetView : public QWidget {
 
   Sheet& sheet_;
   TQorMatrixEdit* editor_;
+  // Shown while the sheet is empty.
+  QLabel* hint_;
   int chosen_ = -1;
 };
 

@@ -35,6 +35,7 @@ TEST(Gallery, WritesAPictureOfEveryPage) {
     EXPECT_NE(picture, before) << page;
     before = picture;
   }
+  files += folder + "/preview.png\n";
   EXPECT_EQ(outcome.output, files);
 
   const std::pair<QStringList, const char*> refused[] = {
