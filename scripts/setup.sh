@@ -15,6 +15,7 @@ purpose=${1:-}
 packages=(
   g++ cmake ninja-build
   qt6-base-dev       # the components, and threads for the desktop program
+  qt6-svg-dev        # pictures of diagrams as SVG
   libcli11-dev       # the command line
   rapidjson-dev      # its JSON documents
   fonts-dejavu-core  # the font of pictures and widget tests

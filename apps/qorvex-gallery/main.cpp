@@ -6,9 +6,11 @@
 #include <QIcon>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QStyleFactory>
 
 #include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/edge_style.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/translations.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
@@ -77,6 +79,7 @@ int main(int argc, char** argv) {
     QLocale::setDefault(QLocale(QLocale::English));
   }
   if (takes_pictures) FixAppearance();
+  QApplication::setStyle(new qorvex::gallery::EdgeStyle(QApplication::style()->name()));
   qorvex::gallery::InstallTranslations();
   using qorvex::gallery::Appearance;
   qorvex::gallery::SetAppearance(Appearance::kSystem);

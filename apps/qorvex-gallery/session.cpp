@@ -9,6 +9,7 @@
 
 #include "apps/common/input_error.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
@@ -70,7 +71,7 @@ void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument&
     sheet.SetChanged();
     document.Restore(std::move(sheet), path, settings.value("title").toString());
   } catch (const apps::InputError& error) {
-    Q_EMIT document.Message(QString::fromUtf8(error.what()));
+    Q_EMIT document.Message(ErrorText(error));
   }
 }
 

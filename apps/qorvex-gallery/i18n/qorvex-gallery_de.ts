@@ -234,6 +234,74 @@
     </message>
 </context>
 <context>
+    <name>Error</name>
+    <message>
+        <source>%1 is not a number</source>
+        <translation>%1 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is not a finite number</source>
+        <translation>%1 ist keine endliche Zahl</translation>
+    </message>
+    <message>
+        <source>%1 is beyond the range of extended precision</source>
+        <translation>%1 liegt außerhalb des Bereichs der 80-Bit-Zahlen</translation>
+    </message>
+    <message>
+        <source>the cell is empty</source>
+        <translation>die Zelle ist leer</translation>
+    </message>
+    <message>
+        <source>the line is blank</source>
+        <translation>die Zeile ist leer</translation>
+    </message>
+    <message>
+        <source>there is nothing to read</source>
+        <translation>es gibt nichts zu lesen</translation>
+    </message>
+    <message>
+        <source>there is no row below the header</source>
+        <translation>unter der Kopfzeile steht keine Zeile</translation>
+    </message>
+    <message>
+        <source>the row has 1 cell where line %1 has %2</source>
+        <translation>die Zeile hat 1 Zelle, Zeile %1 dagegen %2</translation>
+    </message>
+    <message>
+        <source>the row has %1 cells where line %2 has %3</source>
+        <translation>die Zeile hat %1 Zellen, Zeile %2 dagegen %3</translation>
+    </message>
+    <message>
+        <source>the row is too long (more than 64 MiB); a closing quote may be missing</source>
+        <translation>die Zeile ist zu lang (über 64 MiB); vielleicht fehlt ein schließendes Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>a line ends with CR alone; LF or CR LF is needed</source>
+        <translation>eine Zeile endet nur mit CR; nötig ist LF oder CR LF</translation>
+    </message>
+    <message>
+        <source>the quote is not closed</source>
+        <translation>das Anführungszeichen wird nicht geschlossen</translation>
+    </message>
+    <message>
+        <source>%1 follows a closing quote</source>
+        <translation>%1 folgt auf ein schließendes Anführungszeichen</translation>
+    </message>
+    <message>
+        <source>this is a binary file, not a text: byte %1 is NUL</source>
+        <translation>dies ist eine Binärdatei, kein Text: Byte %1 ist NUL</translation>
+    </message>
+    <message>
+        <source>the text is not %1 at byte %2</source>
+        <translation>der Text ist bei Byte %2 kein %1</translation>
+    </message>
+    <message>
+        <source>column %1%2: </source>
+        <comment>a number, a name in brackets</comment>
+        <translation>Spalte %1%2: </translation>
+    </message>
+</context>
+<context>
     <name>MatrixTexts</name>
     <message>
         <source>none, an element is null</source>
@@ -1007,7 +1075,7 @@
     </message>
     <message>
         <source>auto</source>
-        <translation type="unfinished"></translation>
+        <translation>auto</translation>
     </message>
 </context>
 <context>
@@ -1854,7 +1922,7 @@
     </message>
     <message>
         <source>A line needs rows with two different values of the other column</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Gerade braucht Zeilen mit zwei verschiedenen Werten der anderen Spalte</translation>
     </message>
 </context>
 <context>
@@ -2339,11 +2407,11 @@
     </message>
     <message>
         <source>Re&amp;name Column…</source>
-        <translation type="unfinished"></translation>
+        <translation>Spalte &amp;umbenennen…</translation>
     </message>
     <message>
         <source>Names from &amp;First Row</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Namen aus der ersten Zeile</translation>
     </message>
 </context>
 <context>

@@ -20,15 +20,24 @@ struct DistributionCurve {
   Q_DECLARE_TR_FUNCTIONS(DistributionCurve)
 };
 
+Extended WidthOf(const Interval<Extended>& interval) {
+  return interval.greatest - interval.least;
+}
+
+// All but a thousandth at each side, or but a fortieth if tails would take up the whole diagram.
 Interval<Extended> MiddleOf(const apps::AnyDistribution& distribution) {
-  constexpr Extended tail = 1e-3L;
-  return {distribution.Quantile(Tail::kLower, tail), distribution.Quantile(Tail::kUpper, tail)};
+  const auto without = [&](Extended tail) -> Interval<Extended> {
+    return {distribution.Quantile(Tail::kLower, tail), distribution.Quantile(Tail::kUpper, tail)};
+  };
+  constexpr Extended most_halves = 50;
+  const Interval<Extended> most = without(1e-3L);
+  return WidthOf(most) <= most_halves * WidthOf(without(0.25L)) ? most : without(0.025L);
 }
 
 Interval<Extended> RangeOf(const apps::AnyDistribution& distribution,
                            const DistributionQuestion& question) {
   Interval<Extended> range = MiddleOf(distribution);
-  const Extended width = range.greatest - range.least;
+  const Extended width = WidthOf(range);
   const Interval<Extended> support = distribution.Support();
   if (range.least - support.least < width / 2) range.least = support.least;
   if (support.greatest - range.greatest < width / 2) range.greatest = support.greatest;
@@ -100,7 +109,7 @@ std::vector<PlotLayer> Marks(const DistributionQuestion& question,
 
 std::vector<Extended> PlottedPoints(const Interval<Extended>& range, bool counts) {
   constexpr Extended most_steps = 400;
-  const Extended width = range.greatest - range.least;
+  const Extended width = WidthOf(range);
   Extended step = width / most_steps;
   if (counts) step = std::max<Extended>(1, std::ceil(step));
   std::vector<Extended> points;

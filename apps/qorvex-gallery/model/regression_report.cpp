@@ -200,7 +200,7 @@ QStringList RegressionReport::Terms() const {
 }
 
 QList<QStringList> RegressionReport::CoefficientRows() const {
-  QList<QStringList> rows = {{tr("Term"), tr("Estimate"), tr("Standard error"), tr("Lower 95 %"),
+  QList<QStringList> rows = {{QString(), tr("Estimate"), tr("Standard error"), tr("Lower 95 %"),
                               tr("Upper 95 %"), tr("p")}};
   const QStringList terms = Terms();
   for (qsizetype i = 0; i < terms.size(); ++i) {

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/format_doubt.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
@@ -78,7 +79,7 @@ void SheetDocument::ReadText(const QString& text) {
     data.SetChanged();
     Show({{}, tr("Untitled"), {}}, std::move(data));
   } catch (const apps::InputError& error) {
-    Q_EMIT Message(QString::fromUtf8(error.what()));
+    Q_EMIT Message(ErrorText(error));
   }
 }
 

@@ -11,12 +11,15 @@
 #include <QTranslator>
 #include <QtTest/QTest>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/background_work.h"
 #include "apps/qorvex-gallery/model/translations.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/base/Qorvex_rs_math.h"
+#include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/controls/panel/cell_panel.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "support/test.h"
@@ -171,6 +174,30 @@ TEST_P(Keyboard, TellsTheEditorsOfAPageApart) {
       if (!editor->isVisible()) continue;
       EXPECT_TRUE(editors.emplace(NameOf(editor), editor).second)
           << window.Pages()->tabText(page).toStdString() << ": " << Described(editor);
+    }
+  }
+}
+
+TEST_P(Keyboard, ReportsATextThatIsNoNumberWhenItsCellIsLeft) {
+  for (int page = 0; page < window.Pages()->count(); ++page) {
+    ShowPage(page);
+    QWidget& shown = *window.Pages()->currentWidget();
+    if (shown.objectName() == "data") continue;  // the sheet takes any text
+    const auto& message = *shown.findChild<MessageBar*>();
+    QWidget* editor = nullptr;
+    for (auto* const cell : shown.findChildren<TQorCustomEdit*>()) {
+      // One cell stands for all of its editor.
+      const bool is_same = StopOf(cell) != cell && std::exchange(editor, StopOf(cell)) == editor;
+      if (is_same || !cell->isVisible() || !cell->isEnabled() || cell->isReadOnly()) continue;
+      cell->setFocus();
+      const QString before = cell->text();
+      cell->selectAll();
+      QTest::keyClicks(cell, "12z");
+      window.Pages()->tabBar()->setFocus();
+      EXPECT_TRUE(message.Text().contains("12z"))
+          << window.Pages()->tabText(page).toStdString() << ", " << Described(cell) << ": "
+          << message.Text().toStdString();
+      EXPECT_EQ(cell->text(), before) << Described(cell);
     }
   }
 }

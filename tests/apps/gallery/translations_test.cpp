@@ -1,12 +1,19 @@
 #include "apps/qorvex-gallery/model/translations.h"
 
 #include <QApplication>
+#include <QFile>
+#include <QLibraryInfo>
 #include <QRegularExpression>
 #include <QTranslator>
 
 #include "apps/common/distributions.h"
+#include "apps/common/input_error.h"
+#include "apps/common/matrix_reader.h"
 #include "apps/common/variates.h"
+#include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/names.h"
+#include "apps/qorvex-gallery/model/sheet_file.h"
+#include "apps/qorvex-gallery/model/table_input.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "support/test.h"
@@ -69,6 +76,46 @@ TEST_F(TranslationsTest, NameDistributionsInBothLanguages) {
   // Every name of the catalogues is a name, not a word of the command line.
   for (const apps::Family& family : apps::Families())
     EXPECT_TRUE(DisplayName(family.name).contains("erteilung")) << family.name;
+}
+
+// Of real readers, so that a message that changes is missed here.
+TEST_F(TranslationsTest, TellWhatIsWrongWithAFile) {
+  const std::pair<QByteArray, const char*> files[] = {
+      {"", "f.csv: es gibt nichts zu lesen"},
+      {"a,b\n1\n", "f.csv:2: die Zeile hat 1 Zelle, Zeile 1 dagegen 2"},
+      {"a,b\n1,\"2", "f.csv:2: das Anführungszeichen wird nicht geschlossen"},
+      {"a\n\"1\"%1\n", "f.csv:2: \"%1\" folgt auf ein schließendes Anführungszeichen"},
+      {QByteArray("abc\ndef\0gh\n", 11), "f.csv: dies ist eine Binärdatei, kein Text: Byte 8 ist NUL"},
+  };
+  EXPECT_TRUE(InstallTranslations(QLocale::German));
+  for (const auto& [bytes, message] : files) {
+    try {
+      static_cast<void>(ReadSheet(TextInputOf("f.csv", bytes), {}));
+      ADD_FAILURE() << message;
+    } catch (const apps::InputError& error) {
+      EXPECT_EQ(ErrorText(error).toStdString(), message);
+    }
+  }
+  const std::pair<const char*, const char*> matrices[] = {
+      {"1,x: y\n", "f.csv:1: Spalte 2: \"x: y\" ist keine Zahl"},
+      {"1,2\n\n3,4\n", "f.csv:2: die Zeile ist leer"},
+  };
+  for (const auto& [bytes, message] : matrices) {
+    try {
+      static_cast<void>(apps::ReadMatrix(TextInputOf("f.csv", bytes), {}));
+      ADD_FAILURE() << message;
+    } catch (const apps::InputError& error) {
+      EXPECT_EQ(ErrorText(error).toStdString(), message);
+    }
+  }
+  EXPECT_EQ(ErrorText(std::runtime_error("column 1: out of paper")), "column 1: out of paper");
+}
+
+TEST_F(TranslationsTest, IncludeThoseOfQtWhereTheyAreInstalled) {
+  const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+  if (!QFile::exists(folder + "/qtbase_de.qm")) GTEST_SKIP() << "not in " << folder.toStdString();
+  EXPECT_TRUE(InstallTranslations(QLocale::German));
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Abbrechen");
 }
 
 TEST_F(TranslationsTest, LeaveEnglishToOtherLanguages) {
