@@ -2,6 +2,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/qorvex/command_list.h"
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -29,7 +30,7 @@ NumberKind PointKind(const Family& family) {
 
 void AddPoints(CLI::App& command, const Family& family, DistArguments& arguments) {
   arguments.points.AddListTo(command, family.is_discrete ? "--k,--x" : "--x",
-                             "The point, or several");
+                             "The point; several have commas between them");
   arguments.points.AddFileTo(command);
 }
 
@@ -42,9 +43,10 @@ void AddPointsAndLog(CLI::App& command, const Family& family, DistArguments& arg
 }
 
 void AddProbabilities(CLI::App& command, const Family&, DistArguments& arguments) {
-  arguments.points.AddListTo(command, "--p", "The lower probability, or several");
-  CLI::Option& upper = arguments.points.AddListTo(
-      command, "--upper-p", "The upper probability, or several, however small");
+  arguments.points.AddListTo(command, "--p",
+                             "The lower probability; several have commas between them");
+  CLI::Option& upper =
+      arguments.points.AddListTo(command, "--upper-p", "The upper probability, however small");
   upper.excludes("--p");
   upper.each([&arguments](const std::string&) { arguments.options.upper = true; });
   arguments.points.AddFileTo(command);
@@ -193,6 +195,7 @@ void AddDist(CLI::App& program) {
     RequireOneCommand(command, "command");
   }
   RequireOneCommand(dist, "distribution");
+  AddList(dist);
 }
 
 }  // namespace qorvex::apps

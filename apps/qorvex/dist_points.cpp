@@ -21,7 +21,7 @@ CLI::Option& DistPoints::AddListTo(CLI::App& command, const std::string& names,
                      list_.push_back(point);
                },
                description)
-           ->type_name(kind_ == NumberKind::kCount ? "N,..." : "X,...")
+           ->type_name(kind_ == NumberKind::kCount ? "N" : "X")
            ->allow_extra_args(false);
   options_.push_back(&option);
   return option;

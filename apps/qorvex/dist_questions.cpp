@@ -1,8 +1,13 @@
 #include "apps/qorvex/dist_questions.h"
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <tuple>
+#include <utility>
 
+#include "apps/common/figure_format.h"
+#include "apps/qorvex/long_table.h"
 #include "apps/qorvex/parameters.h"
 #include "apps/qorvex/result_table.h"
 #include "qorvex/base/errors.h"
@@ -43,15 +48,22 @@ DistFigures FiguresOf(const AskedQuestion& asked) {
   }
 }
 
-// A point as it was given, or as the shortest text that is read as the same.
+// A point with all its digits and, if it is not tiny, without an exponent.
 Cell PointCell(Extended point) {
-  return WrittenNumber{Float2Str(point), point};
+  const FigureFormat format = {FigureFormat::Kind::kDigits, std::max(1, SignificantDigits(point))};
+  return WrittenNumber{format.Text(point), point};
+}
+
+ResultTable::Column DensityColumn(const Family& family) {
+  if (family.is_discrete) return {"probability", "Probability"};
+  return {"density", "Density"};
 }
 
 ResultTable::Column FigureColumn(const AskedQuestion& asked) {
-  if (!asked.arguments.options.log) return {asked.question.key, asked.question.title};
-  return {std::string("log_") + asked.question.key,
-          std::string("Logarithm of ") + asked.question.title};
+  const DistQuestion& question = asked.question;
+  if (question.figure == &DistFigures::Density) return DensityColumn(asked.family);
+  if (!asked.arguments.options.log) return {question.key, question.title};
+  return {std::string("log_") + question.key, std::string("Logarithm of ") + question.title};
 }
 
 void RequireAscendingCounts(const DistArguments& arguments) {
@@ -63,34 +75,29 @@ void RequireAscendingCounts(const DistArguments& arguments) {
 }
 
 // The classic routines have tables of densities only.
-std::vector<std::vector<Cell>> ClassicRows(const Family& family, const DistArguments& arguments) {
+void AddClassicRows(const Family& family, const DistArguments& arguments, LongTable& table) {
   std::vector<Extended> numbers = arguments.parameters;
   numbers.insert(numbers.end(), {arguments.first, arguments.last});
   TQorFloatVector points, densities;
   Existing(family.classic.table)(numbers, static_cast<std::int32_t>(arguments.steps), points,
                                  densities);
-  std::vector<std::vector<Cell>> rows;
-  for (std::size_t i = 0; i < points.size(); ++i)
-    rows.push_back({PointCell(points[i]), densities[i]});
-  return rows;
+  for (std::size_t i = 0; i < points.size(); ++i) table.Add({PointCell(points[i]), densities[i]});
 }
 
-std::vector<std::vector<Cell>> TableRows(const Family& family, const DistArguments& arguments,
-                                         const DistFigures& figures) {
+void AddRows(const Family& family, const DistArguments& arguments, const DistFigures& figures,
+             LongTable& table) {
   const auto& [first, last, steps] = std::tie(arguments.first, arguments.last, arguments.steps);
-  if (figures.IsClassic() && !family.is_discrete) return ClassicRows(family, arguments);
+  if (figures.IsClassic() && !family.is_discrete) return AddClassicRows(family, arguments, table);
   const Extended points = (family.is_discrete ? last - first : steps) + 1;
-  const Extended step = points > 1 ? (last - first) / (points - 1) : 0;
-  std::vector<std::vector<Cell>> rows;
+  const Extended largest = std::max<Extended>(points - 1, 1);
   for (Extended i = 0; i < points; ++i) {
-    const Extended x = i * step + first;
-    std::vector<Cell>& row = rows.emplace_back();
-    row = {PointCell(x), figures.Density(x)};
-    if (figures.IsClassic()) continue;
-    row.emplace_back(figures.AtMost(x));
-    row.emplace_back(figures.AtLeast(x));
+    // Multiplied first, so that tenths are as near as numbers can be.
+    const Extended x = first + (last - first) * i / largest;
+    if (!std::isfinite(x)) throw EOverflow();
+    std::vector<Cell> row = {PointCell(x), figures.Density(x)};
+    if (!figures.IsClassic()) row.insert(row.end(), {figures.AtMost(x), figures.AtLeast(x)});
+    table.Add(std::move(row));
   }
-  return rows;
 }
 
 }  // namespace
@@ -98,19 +105,18 @@ std::vector<std::vector<Cell>> TableRows(const Family& family, const DistArgumen
 std::string AnswerAtPoints(const AskedQuestion& asked) {
   const DistArguments& arguments = asked.arguments;
   const DistFigures figures = FiguresOf(asked);
-  ResultTable table;
+  const std::string symbol = (arguments.options.upper ? "upper_" : "") + arguments.points.Symbol();
+  LongTable table({{symbol, symbol}, FigureColumn(asked)}, arguments.output);
   const bool is_one = arguments.points.IsOne();
   for (const Extended point : arguments.points.Read()) {
-    const Extended value =
+    const Extended figure =
         ResultOf(asked, figures, is_one ? "" : " at " + Float2Str(point),
                  [&](const DistFigures& of) { return (of.*asked.question.figure)(point); });
-    table.rows.push_back({PointCell(point), value});
+    if (is_one && arguments.output.form == OutputForm::kText)
+      return arguments.output.ForNumbers().Text(figure) + '\n';
+    table.Add({PointCell(point), figure});
   }
-  if (is_one && arguments.output.form == OutputForm::kText)
-    return CellText(table.rows[0][1], arguments.output.ForNumbers()) + '\n';
-  const std::string point = (arguments.options.upper ? "upper_" : "") + arguments.points.Symbol();
-  table.columns = {{point, point}, FigureColumn(asked)};
-  return Printed(table, arguments.output);
+  return table.TakeText();
 }
 
 std::string AnswerBetween(const AskedQuestion& asked) {
@@ -129,17 +135,17 @@ std::string AnswerBetween(const AskedQuestion& asked) {
 std::string AnswerTable(const AskedQuestion& asked) {
   const auto& [family, question, arguments] = asked;
   if (family.is_discrete) RequireAscendingCounts(arguments);
-  ResultTable table = {
-      .columns = {{arguments.points.Symbol(), arguments.points.Symbol()}, {"density", "Density"}}};
-  if (family.is_discrete) table.columns[1] = {"probability", "Probability"};
+  const std::string point = arguments.points.Symbol();
+  std::vector<ResultTable::Column> columns = {{point, point}, DensityColumn(family)};
   if (!arguments.options.classic) {
-    table.columns.push_back({"at_most", "At Most"});
-    table.columns.push_back({"at_least", "At Least"});
+    columns.push_back({"at_most", "At Most"});
+    columns.push_back({"at_least", "At Least"});
   }
-  table.rows = ResultOf(asked, FiguresOf(asked), "", [&](const DistFigures& figures) {
-    return TableRows(family, arguments, figures);
+  return ResultOf(asked, FiguresOf(asked), "", [&](const DistFigures& figures) {
+    LongTable table(columns, arguments.output);
+    AddRows(family, arguments, figures, table);
+    return table.TakeText();
   });
-  return Printed(table, arguments.output);
 }
 
 }  // namespace qorvex::apps

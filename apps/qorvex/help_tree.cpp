@@ -40,8 +40,9 @@ std::vector<HelpEntry> SectionsOf(const std::string& footer) {
 
 using Entries = std::vector<HelpEntry> HelpNode::*;
 
-// Moves what at least so many commands have in common to the node above them.
-void Hoist(HelpNode& node, Entries entries, std::size_t least) {
+// Moves what three quarters of the commands or more have in common to the node above them.
+void Hoist(HelpNode& node, Entries entries) {
+  const std::size_t least = (3 * node.commands.size() + 3) / 4;
   std::vector<HelpEntry> candidates;
   for (const HelpNode& command : node.commands) {
     for (const HelpEntry& entry : command.*entries)
@@ -51,23 +52,19 @@ void Hoist(HelpNode& node, Entries entries, std::size_t least) {
     const auto lacks = [&](const HelpNode& command) {
       return std::ranges::count(command.*entries, entry) == 0;
     };
-    std::vector<std::string> exceptions;
+    std::vector<std::string> without;
     for (const HelpNode& command : node.commands)
-      if (lacks(command)) exceptions.push_back(command.name);
-    if (node.commands.size() - exceptions.size() < least) continue;
+      if (lacks(command)) without.push_back(command.name);
+    if (node.commands.size() - without.size() < least) continue;
     for (HelpNode& command : node.commands) std::erase(command.*entries, entry);
-    entry.exceptions = std::move(exceptions);
+    entry.exceptions.insert(entry.exceptions.end(), without.begin(), without.end());
     (node.*entries).push_back(std::move(entry));
   }
 }
 
-void HoistAll(HelpNode& node, std::size_t least) {
-  for (const Entries entries : {&HelpNode::positionals, &HelpNode::options, &HelpNode::sections})
-    Hoist(node, entries, least);
-}
+}  // namespace
 
-// The commands from this one downwards. What belongs to all commands below one belongs to it.
-HelpNode NodeOf(const CLI::App& command) {
+HelpNode HelpTree(const CLI::App& command) {
   HelpNode node = {.name = command.get_name(),
                    .aliases = command.get_aliases(),
                    .summary = command.get_description(),
@@ -78,16 +75,9 @@ HelpNode NodeOf(const CLI::App& command) {
     if (option != command.get_help_ptr())
       entries.push_back({TitleOf(*option), option->get_description()});
   }
-  for (const CLI::App* const below : CommandsOf(command)) node.commands.push_back(NodeOf(*below));
-  HoistAll(node, node.commands.size());
-  return node;
-}
-
-}  // namespace
-
-HelpNode HelpTree(const CLI::App& command) {
-  HelpNode node = NodeOf(command);
-  HoistAll(node, node.commands.size() / 2 + 1);
+  for (const CLI::App* const below : CommandsOf(command)) node.commands.push_back(HelpTree(*below));
+  for (const Entries entries : {&HelpNode::positionals, &HelpNode::options, &HelpNode::sections})
+    Hoist(node, entries);
   return node;
 }
 

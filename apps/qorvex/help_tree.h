@@ -32,8 +32,8 @@ struct HelpNode {
   std::vector<HelpNode> commands = {};
 };
 
-/// The commands from this one downwards. What all commands below one have in common belongs to it;
-/// to the first one also what most of them have in common.
+/// The commands from this one downwards. What three quarters of the commands below one or more have
+/// in common belongs to it.
 [[nodiscard]] HelpNode HelpTree(const CLI::App& command);
 
 }  // namespace qorvex::apps

@@ -19,9 +19,10 @@ std::vector<Item> ItemsOf(const ReportPart& part) {
   if (part.table.columns.empty()) return {{part.item, part.figures}};
   std::vector<Item> items;
   for (const std::vector<Cell>& row : part.table.rows) {
-    Item& item = items.emplace_back(CellText(row[0], {}));
+    Item item{CellText(row[0], {}), {}};
     for (std::size_t i = 1; i < row.size(); ++i)
       item.figures.push_back({part.table.columns[i].key, "", row[i]});
+    items.push_back(std::move(item));
   }
   return items;
 }

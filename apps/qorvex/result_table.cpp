@@ -18,6 +18,8 @@ template <class... Functions>
 struct Overloaded : Functions... {
   using Functions::operator()...;
 };
+template <class... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
 
 using Column = ResultTable::Column;
 
