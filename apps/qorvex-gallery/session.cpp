@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/session.h"
 
 #include <QFile>
+#include <QMap>
 #include <QSaveFile>
 #include <QSettings>
 #include <QTabWidget>
@@ -87,20 +88,30 @@ void Session::Restore(MainWindow& window) const {
   settings.beginGroup("sheet");
   RestoreSheet(settings, Copy(), document);
   settings.endGroup();
+  const QTabWidget& pages = *window.Pages();
+  QMap<QString, QVariantMap> states;
   settings.beginGroup("pages");
-  QTabWidget& pages = *window.Pages();
   for (int i = 0; i < pages.count(); ++i) {
-    auto& page = static_cast<Page&>(*pages.widget(i));
-    page.SetState(settings.value(page.objectName()).toMap());
-    if (settings.value("current") == page.objectName()) pages.setCurrentIndex(i);
+    const QString name = pages.widget(i)->objectName();
+    states[name] = settings.value(name).toMap();
+    if (settings.value("current") == name) window.Pages()->setCurrentIndex(i);
   }
+  const auto restore_pages = [&pages, states] {
+    for (int i = 0; i < pages.count(); ++i)
+      static_cast<Page*>(pages.widget(i))->SetState(states[pages.widget(i)->objectName()]);
+  };
+  if (!window.Data().IsReading()) return restore_pages();
+  // They choose columns of the sheet.
+  QObject::connect(&window.Data(), &DataPage::ReadingEnded, &window, restore_pages,
+                   Qt::SingleShotConnection);
 }
 
 bool Session::Save(const MainWindow& window) const {
   const SheetDocument& document = window.Data().Document();
   const SheetData& sheet = window.Table().Data();
   if (!folder_.mkpath(".")) return false;
-  if (sheet.IsChanged() && !SaveCopy(sheet, Copy())) return false;
+  const bool has_copy = sheet.IsChanged() && sheet.Columns() > 0;
+  if (has_copy && !SaveCopy(sheet, Copy())) return false;
   QSettings settings(Settings(), QSettings::IniFormat);
   settings.setValue("window/geometry", window.saveGeometry());
   settings.setValue("window/appearance", static_cast<int>(window.ChosenAppearance()));
@@ -109,7 +120,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.beginGroup("sheet");
   settings.setValue("path", document.Path());
   settings.setValue("title", document.Title());
-  settings.setValue("unsaved", sheet.IsChanged());
+  settings.setValue("unsaved", has_copy);
   SaveFormat(sheet.Format(), settings);
   settings.endGroup();
   settings.beginGroup("pages");
@@ -121,7 +132,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.setValue("current", pages.currentWidget()->objectName());
   settings.sync();
   if (settings.status() != QSettings::NoError) return false;
-  if (!sheet.IsChanged()) QFile::remove(Copy());
+  if (!has_copy) QFile::remove(Copy());
   return true;
 }
 

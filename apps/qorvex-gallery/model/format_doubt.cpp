@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QStringList>
 #include <algorithm>
 
 #include "apps/common/cells.h"
@@ -39,36 +40,37 @@ QByteArray FirstLines(const QString& file) {
   if (!in.open(QIODevice::ReadOnly)) return {};
   const QByteArray lines = in.read(enough);
   const qsizetype end = lines.lastIndexOf('\n');
-  return in.atEnd() || end < 0 ? lines : lines.left(end + 1);
+  // In UTF-16 the other byte of the line end may follow.
+  const int bytes = lines.startsWith("\xFF\xFE") ? 2 : 1;
+  return in.atEnd() || end < 0 ? lines : lines.left(end + bytes);
 }
 
 QString DoubtIn(const SheetData& sheet) {
-  for (std::size_t column = 0; column < sheet.Columns(); ++column) {
+  QStringList doubts;
+  for (std::size_t column = 0; column < sheet.Columns() && doubts.isEmpty(); ++column) {
     if (!sheet.NumberIn(sheet.Name(column))) continue;
-    return QCoreApplication::translate(
-               "qorvex::gallery::FormatDialog",
-               "The first row was read as names, although it contains the number %1.")
-        .arg(Shortened(sheet.Name(column)));
+    doubts += QCoreApplication::translate(
+                  "qorvex::gallery::FormatDialog",
+                  "The first row was read as names, although it contains the number %1.")
+                  .arg(Shortened(sheet.Name(column)));
   }
   const char other_sign = sheet.Format().decimal_sign == ',' ? '.' : ',';
   const std::string_view number = FirstText(
       sheet, [other_sign](std::string_view cell) { return apps::IsNumber(cell, other_sign); });
   if (!number.empty()) {
-    return QCoreApplication::translate("qorvex::gallery::FormatDialog",
-                                       "%1 is a number only with the other decimal sign.")
-        .arg(Shortened(number));
+    doubts += QCoreApplication::translate("qorvex::gallery::FormatDialog",
+                                          "%1 is a number only with the other decimal sign.")
+                  .arg(Shortened(number));
   }
-  if (sheet.Columns() == 1) {
-    const std::string_view text = FirstText(sheet, [](std::string_view cell) {
-      return cell.find_first_of(",;\t|") != std::string_view::npos;
-    });
-    if (!text.empty()) {
-      return QCoreApplication::translate("qorvex::gallery::FormatDialog",
-                                         "%1 may be several cells.")
-          .arg(Shortened(text));
-    }
+  const std::string_view cells = FirstText(sheet, [](std::string_view cell) {
+    return cell.find_first_of(",;\t|") != std::string_view::npos;
+  });
+  if (sheet.Columns() == 1 && !cells.empty()) {
+    doubts +=
+        QCoreApplication::translate("qorvex::gallery::FormatDialog", "%1 may be several cells.")
+            .arg(Shortened(cells));
   }
-  return {};
+  return doubts.join(u'\n');
 }
 
 std::optional<apps::TableFormat> OtherFormat(const QString& file) {

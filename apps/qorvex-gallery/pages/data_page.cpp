@@ -151,6 +151,10 @@ void DataPage::Refresh() {
   group_report_->Show(column, groups_->Column());
 }
 
+bool DataPage::IsReading() const {
+  return loader_->IsLoading();
+}
+
 QVariantMap DataPage::State() const {
   return {{"column", columns_->currentText()},
           {"groups", groups_->Column()},

@@ -116,6 +116,9 @@ QLayout* FormatDialog::MakeChoices(const apps::TableFormat& format) {
   decimal_sign_->setObjectName("decimalSign");
   encoding_->setObjectName("encoding");
   missing_->setObjectName("missing");
+  constexpr int characters = 24;
+  missing_->setMinimumWidth(characters * fontMetrics().averageCharWidth());
+  missing_->setCursorPosition(0);
   missing_->setToolTip(tr("Cells with one of these words, and empty cells, are left out"));
   header_->setObjectName("header");
   auto* const choices = new QHBoxLayout;

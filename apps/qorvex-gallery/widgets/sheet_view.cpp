@@ -107,7 +107,8 @@ QColor SheetView::ColorOf(quint32 row, quint32 column, const QColor& usual) cons
 }
 
 void SheetView::FitColumns() {
-  constexpr int most_rows = 200;
+  constexpr int most_cells = 20'000;
+  const int most_rows = std::min(200, most_cells / std::max(1, sheet_.columnCount()));
   constexpr int most_characters = 24;
   const QFontMetrics metrics = fontMetrics();
   const int margin = 3 * metrics.averageCharWidth();

@@ -5,6 +5,7 @@
 #include <QFile>
 #include <QTabWidget>
 #include <QTemporaryDir>
+#include <QtTest/QTest>
 #include <gtest/gtest.h>
 
 #include "apps/qorvex-gallery/main_window.h"
@@ -88,6 +89,28 @@ TEST_F(SessionTest, KeepsASheetWithoutAFileAndSurvivesALostOne) {
   Run([](MainWindow& window) {
     EXPECT_EQ(window.Table().rowCount(), 0);
     EXPECT_TRUE(window.ReadingError().startsWith("gone.csv: "));
+  });
+}
+
+TEST_F(SessionTest, ChoosesColumnsWhenALargeFileIsReadAgain) {
+  QByteArray text = "a,b,c\n";
+  while (text.size() < (2 << 20)) text += "1,2,3\n";
+  const QString file = Write("large.csv", text);
+  const auto wait = [](MainWindow& window) {
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !window.Data().IsReading(); }));
+    QApplication::processEvents();
+  };
+  const auto column = [](MainWindow& window) {
+    return window.Data().findChild<QComboBox*>("column");
+  };
+  Run([&](MainWindow& window) {
+    window.Open(file);
+    wait(window);
+    column(window)->setCurrentText("c");
+  });
+  Run([&](MainWindow& window) {
+    wait(window);
+    EXPECT_EQ(column(window)->currentText(), "c");
   });
 }
 
