@@ -1870,14 +1870,6 @@
 <context>
     <name>qorvex::gallery::Page</name>
     <message>
-        <source>HTML (*.html)</source>
-        <translation>HTML (*.html)</translation>
-    </message>
-    <message>
-        <source>PDF (*.pdf)</source>
-        <translation>PDF (*.pdf)</translation>
-    </message>
-    <message>
         <source>Save the Report</source>
         <translation>Bericht speichern</translation>
     </message>
@@ -2043,6 +2035,10 @@
         <source>%1: %2.</source>
         <comment>a layer&apos;s name and shape</comment>
         <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>Printing has failed: %1</source>
+        <translation>Das Drucken ist fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
@@ -2276,6 +2272,14 @@
     <message>
         <source>Quality of the fit</source>
         <translation>Güte der Anpassung</translation>
+    </message>
+    <message>
+        <source>Example</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
     </message>
 </context>
 <context>
