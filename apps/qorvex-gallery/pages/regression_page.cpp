@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QUndoStack>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <limits>
@@ -23,6 +24,7 @@
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 
 namespace qorvex::gallery {
@@ -31,7 +33,7 @@ namespace {
 
 constexpr int kGreatestDegree = 10;
 // Larger tables of own values would make the file of settings slow to read.
-constexpr quint32 kMostKeptRows = 10'000;
+constexpr quint32 kMostKeptRows = 100'000;
 
 // Years, and thousands of people aged 14 and over in the United States. From J. W. Longley, An
 // appraisal of least squares programs for the electronic computer from the point of view of the
@@ -122,6 +124,8 @@ RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
   layout->addLayout(body, 1);
   layout->addWidget(message_);
   ShowExample();
+  own_->UndoStack()->clear();
+  Refresh();
 }
 
 RegressionPage::~RegressionPage() {
@@ -149,6 +153,7 @@ QLayout* RegressionPage::MakeChoices() {
 QWidget* RegressionPage::MakeOwnValues() {
   own_->setObjectName("own");
   own_->setAccessibleName(tr("Own values"));
+  own_->setNoOfCols(2);
   own_->setCanGrow(true);
   own_->setAllowKbdNull(true);
   own_->setBlankWhenNull(true);
@@ -170,6 +175,7 @@ QWidget* RegressionPage::MakeOwnValues() {
     RefreshSoon();
   });
   auto* const example = new QPushButton(tr("E&xample"));
+  example->setObjectName("example");
   example->setToolTip(
       tr("Year, and thousands of people aged 14 and over in the USA; Longley 1967"));
   connect(example, &QPushButton::clicked, this, &RegressionPage::ShowExample);
@@ -247,19 +253,30 @@ QLayout* RegressionPage::MakeResults() {
   return layout;
 }
 
+// One step of undo, so that no values are lost.
 void RegressionPage::ShowExample() {
-  TQorFloatMatrix pairs;
+  QString pairs;
   for (const auto& [year, people] : kExamplePairs)
-    pairs.Append(TQorFloatVector{static_cast<Extended>(year), static_cast<Extended>(people)});
-  own_->setMatrix(pairs);
+    pairs += QStringLiteral("%1\t%2\n").arg(year).arg(people);
+  own_->UndoStack()->beginMacro(tr("Example"));
+  DeleteValues();
+  own_->PasteBlock(pairs);
+  own_->UndoStack()->endMacro();
   own_->ScrollTop();
-  Refresh();
 }
 
 void RegressionPage::Clear() {
+  own_->UndoStack()->beginMacro(tr("Clear"));
+  DeleteValues();
+  own_->UndoStack()->endMacro();
+  own_->setRowEditFocus(0);
+}
+
+void RegressionPage::DeleteValues() {
   if (own_->NoOfRows() > 0) own_->DeleteRows(0, own_->NoOfRows());
   if (own_->NoOfCols() > 2) own_->DeleteCols(2, own_->NoOfCols() - 2);
-  own_->setRowEditFocus(0);
+  own_->setCurrentRow(0);
+  own_->setCurrentCol(0);
 }
 
 bool RegressionPage::TakesSheet() const {
@@ -360,6 +377,7 @@ QString RegressionPage::RemarkOn(std::size_t left_out) const {
 }
 
 QVariantMap RegressionPage::State() const {
+  for (TextCell* const cell : own_->findChildren<TextCell*>()) cell->CommitOrRestore();
   QVariantMap state = {{"sheet", TakesSheet()},
                        {"degree", degree_->value()},
                        {"response", response_->currentText()},

@@ -112,7 +112,25 @@ TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
   Click("clear");
   QApplication::processEvents();
   EXPECT_EQ(Figure("coefficients", "Constant"), "—");
-  page.ShowExample();
+}
+
+// As one step each.
+TEST_F(RegressionPageTest, TakesTheExampleAndClearingBack) {
+  EXPECT_FALSE(own.CanUndo());
+  Paste("1\t0\t3\n0\t1\t-2\n2\t1\t2");
+  own.setCurrentCol(2);
+  Click("example");
+  EXPECT_EQ(own.NoOfRows(), 16U);
+  EXPECT_EQ(own.NoOfCols(), 2U);
+  EXPECT_EQ(own.Element(15, 1), 130081);
+  own.Undo();
+  EXPECT_EQ(own.NoOfRows(), 3U);
+  EXPECT_EQ(own.Element(0, 2), 3);
+  Click("clear");
+  EXPECT_EQ(own.NoOfRows(), 0U);
+  own.Undo();
+  EXPECT_EQ(own.Element(2, 0), 2);
+  QApplication::processEvents();
   EXPECT_EQ(Message(), "");
 }
 
