@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 #include <QStyle>
 #include <QStyleFactory>
+#include <cstdio>
 
 #include "apps/qorvex-gallery/appearance.h"
 #include "apps/qorvex-gallery/edge_style.h"
@@ -25,6 +26,19 @@ namespace {
 void FixAppearance() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+// False, with a message, for a name that no language has.
+bool ChooseLanguage(const QString& name) {
+  const QLocale locale(name);
+  if (locale.language() == QLocale::C) {
+    std::fprintf(stderr,
+                 "qorvex-gallery: unknown language \"%s\"; use a name such as de or en_GB\n",
+                 qPrintable(name));
+    return false;
+  }
+  QLocale::setDefault(locale);
+  return true;
 }
 
 // The name, version and icon of the application.
@@ -74,7 +88,7 @@ int main(int argc, char** argv) {
   SetIdentity();
   parser.process(application);
   if (parser.isSet(language)) {
-    QLocale::setDefault(QLocale(parser.value(language)));
+    if (!ChooseLanguage(parser.value(language))) return 1;
   } else if (takes_pictures) {
     QLocale::setDefault(QLocale(QLocale::English));
   }
