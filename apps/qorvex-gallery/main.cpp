@@ -87,11 +87,9 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   SetIdentity();
   parser.process(application);
-  if (parser.isSet(language)) {
-    if (!ChooseLanguage(parser.value(language))) return 1;
-  } else if (takes_pictures) {
-    QLocale::setDefault(QLocale(QLocale::English));
-  }
+  const bool speaks_english = takes_pictures && !parser.isSet(language);
+  const QString wanted = speaks_english ? QStringLiteral("en") : parser.value(language);
+  if (!wanted.isEmpty() && !ChooseLanguage(wanted)) return 1;
   if (takes_pictures) FixAppearance();
   QApplication::setStyle(new qorvex::gallery::EdgeStyle(QApplication::style()->name()));
   qorvex::gallery::InstallTranslations();
