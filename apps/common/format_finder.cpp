@@ -18,7 +18,7 @@ constexpr std::size_t kMostRows = 1000;
 
 // The first rows of a text as a delimiter divides them.
 struct Division {
-  char delimiter = ' ';
+  RowSyntax syntax = {};
   char decimal_sign = '.';
   std::vector<Row> rows = {};
   bool is_faulty = false;
@@ -33,7 +33,8 @@ struct Division {
   [[nodiscard]] int Grade() const { return is_even ? 0 : first_row_is_short ? 1 : 2; }
   [[nodiscard]] bool IsBetterThan(const Division& other) const {
     // Blanks are also between the words of a cell. They delimit if nothing but numbers is left.
-    if (delimiter == ' ' && !(IsPerfect() && rows[0].size() > 1 && other.texts > 0)) return false;
+    if (syntax.delimiter == ' ' && !(IsPerfect() && rows[0].size() > 1 && other.texts > 0))
+      return false;
     if (Grade() != other.Grade()) return Grade() < other.Grade();
     return texts * other.cells < other.texts * cells;
   }
@@ -51,15 +52,27 @@ TextInput SourceOf(std::string_view sample, bool is_whole) {
           }};
 }
 
-void ReadRows(std::string_view sample, bool is_whole, Division& division) {
-  RowScanner rows(SourceOf(sample, is_whole), division.delimiter, RowScanner::kBlockSize);
+// Returns whether there is no fault.
+bool ReadRows(std::string_view sample, bool is_whole, RowSyntax syntax, std::vector<Row>& read) {
+  RowScanner rows(SourceOf(sample, is_whole), syntax, RowScanner::kBlockSize);
   try {
-    while (division.rows.size() < kMostRows && rows.Next())
-      division.rows.emplace_back(rows.Cells().begin(), rows.Cells().end());
+    while (read.size() < kMostRows && rows.Next())
+      read.emplace_back(rows.Cells().begin(), rows.Cells().end());
   } catch (const InputError&) {
-    division.is_faulty = true;
+    return false;
   } catch (SampleEnded) {
   }
+  return true;
+}
+
+// With backslashes if there is a fault without them only.
+Division RowsOf(std::string_view sample, bool is_whole, char delimiter) {
+  Division division{.syntax = {.delimiter = delimiter}};
+  if (ReadRows(sample, is_whole, division.syntax, division.rows)) return division;
+  Division other{.syntax = {.delimiter = delimiter, .has_backslashes = true}};
+  if (ReadRows(sample, is_whole, other.syntax, other.rows)) return other;
+  division.is_faulty = true;
+  return division;
 }
 
 // Whether exactly three digits follow each comma, and one to three precede the first.
@@ -103,8 +116,7 @@ bool HasShortHeader(const Division& division, const TableFormat& wanted) {
 }
 
 Division Divide(std::string_view sample, bool is_whole, char delimiter, const TableFormat& wanted) {
-  Division division{.delimiter = delimiter};
-  ReadRows(sample, is_whole, division);
+  Division division = RowsOf(sample, is_whole, delimiter);
   const std::vector<Row>& rows = division.rows;
   division.decimal_sign = wanted.decimal_sign.value_or(DecimalSignOf(rows, delimiter));
   if (rows.empty()) return division;
@@ -178,7 +190,7 @@ FoundFormat FindFormat(std::string_view sample, bool is_whole, const TableFormat
     if (is_first || division.IsBetterThan(best)) best = std::move(division);
     if (best.IsPerfect()) break;
   }
-  return {best.delimiter, best.decimal_sign, best.first_row_is_short};
+  return {best.syntax, best.decimal_sign, best.first_row_is_short};
 }
 
 }  // namespace qorvex::apps

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string_view>
 
+#include "apps/common/row_scanner.h"
 #include "apps/common/table_format.h"
 
 namespace qorvex::apps {
@@ -23,7 +24,7 @@ struct DelimiterLine {
 
 /// What the first rows of a text say.
 struct FoundFormat {
-  char delimiter = ' ';
+  RowSyntax syntax = {};
   char decimal_sign = '.';
   /// Whether the first row is a header with one cell less than all rows below it. Rows that end
   /// with a delimiter are as long as the first.

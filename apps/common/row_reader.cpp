@@ -70,13 +70,13 @@ void RowReader::Start() {
     first_line = 2;
   }
   const FoundFormat found = FindFormat(sample.text, sample.is_whole, format_);
-  format_.delimiter = found.delimiter;
+  format_.delimiter = found.syntax.delimiter;
   format_.decimal_sign = found.decimal_sign;
   first_row_is_short_ = found.first_row_is_short;
   rows_.emplace(
       TextInput{name_, [decoder = decoder_](
                            char* buffer, std::size_t size) { return decoder->Read(buffer, size); }},
-      *format_.delimiter, block_size_, first_line);
+      found.syntax, block_size_, first_line);
 }
 
 void RowReader::ReadHeader() {

@@ -25,6 +25,7 @@ namespace qorvex::apps {
 /// - Delimiter: what a first line "sep=;" says, which is no row; otherwise comma, semicolon or tab
 ///   if the first line that is not blank contains one outside quotes, and blanks. Of several, the
 ///   one that divides the rows into equally many cells of which the fewest are text.
+/// - Quotes within quotes: after backslashes if the first rows cannot be read with doubled quotes.
 /// - Decimal sign: the comma if it is not the delimiter, no number has a point, and some have a
 ///   comma. Unless the semicolon delimits, the comma of 1,234 may also group digits; it counts if
 ///   another number has more or fewer than three digits behind it.

@@ -20,11 +20,12 @@ __m128i Load(const char* characters) {
 
 }  // namespace
 
-RowScanner::RowScanner(TextInput input, char delimiter, std::size_t block_size,
+RowScanner::RowScanner(TextInput input, RowSyntax syntax, std::size_t block_size,
                        std::size_t first_line)
     : input_(std::move(input)),
-      delimiter_(delimiter),
-      delimiter_is_blank_(delimiter == ' '),
+      delimiter_(syntax.delimiter),
+      has_backslashes_(syntax.has_backslashes),
+      delimiter_is_blank_(delimiter_ == ' '),
       buffer_(std::max<std::size_t>(block_size, 4) + kReadableBehind),
       line_(first_line),
       next_line_(first_line) {
@@ -53,6 +54,7 @@ bool RowScanner::TakeLines(RowScanner& lines) {
 
   lines.input_.name = input_.name;
   lines.delimiter_ = delimiter_;
+  lines.has_backslashes_ = has_backslashes_;
   lines.delimiter_is_blank_ = delimiter_is_blank_;
   lines.delimiters_ = delimiters_;
   lines.other_delimiters_ = other_delimiters_;
@@ -102,7 +104,7 @@ bool RowScanner::ReadLine() {
 // which costs one row per block, and one pass over a long row each time the buffer doubles.
 bool RowScanner::ScanRow() {
   cells_.clear();
-  cells_with_doubled_quotes_.clear();
+  cells_with_inner_quotes_.clear();
   const char* const row = buffer_.data() + begin_;
   const char* at = row;
   bool any_quoted = false;
@@ -119,7 +121,7 @@ bool RowScanner::ScanRow() {
   if (cells_.size() == 1 && cells_[0].empty() && !any_quoted) cells_.clear();
   next_line_ = line_ + (any_quoted ? static_cast<std::size_t>(std::count(row, at, '\n')) : 1);
   begin_ += static_cast<std::size_t>(at - row);
-  JoinDoubledQuotes();
+  JoinQuotes();
   return true;
 }
 
@@ -160,15 +162,11 @@ const char* RowScanner::ScanPlainCell(const char* at) {
 const char* RowScanner::ScanQuotedCell(const char* at) {
   const char* const quote = at;
   const char* const end = End();
-  bool doubled = false;
-  for (++at;; at += 2) {
-    at = static_cast<const char*>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
-    if (at == nullptr && input_ended_) FailAt(quote, "the quote is not closed");
-    if (at == nullptr || at + 1 == end) return nullptr;
-    if (at[1] != '"') break;
-    doubled = true;
-  }
+  at = EndOfQuotes(at + 1);
+  if (at == nullptr && input_ended_) FailAt(quote, "the quote is not closed");
+  if (at == nullptr || at + 1 == end) return nullptr;
   const std::string_view text(quote + 1, at);
+  const bool has_inner_quotes = text.find('"') != std::string_view::npos;
 
   ++at;
   if (!delimiter_is_blank_) at = SkipBlanks(at);
@@ -178,9 +176,24 @@ const char* RowScanner::ScanQuotedCell(const char* at) {
     if (ScanPlainCell(at) == nullptr) return nullptr;
     FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
   }
-  if (doubled) cells_with_doubled_quotes_.push_back(cells_.size());
+  if (has_inner_quotes) cells_with_inner_quotes_.push_back(cells_.size());
   cells_.push_back(text);
   return at;
+}
+
+// The quote that ends a quoted cell; null if it is not in the buffer, or may be doubled beyond it.
+const char* RowScanner::EndOfQuotes(const char* at) const {
+  const char* const end = End();
+  for (;; ++at) {
+    at = static_cast<const char*>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
+    if (at == nullptr) return nullptr;
+    if (has_backslashes_) {
+      if (at[-1] != '\\') return at;
+    } else {
+      if (at + 1 == end || at[1] != '"') return at;
+      ++at;
+    }
+  }
 }
 
 const char* RowScanner::SkipBlanks(const char* at) const {
@@ -190,14 +203,15 @@ const char* RowScanner::SkipBlanks(const char* at) const {
 }
 
 // Works in place, after the row is complete and will not be scanned again.
-void RowScanner::JoinDoubledQuotes() {
-  for (const std::size_t index : cells_with_doubled_quotes_) {
+void RowScanner::JoinQuotes() {
+  for (const std::size_t index : cells_with_inner_quotes_) {
     std::string_view& cell = cells_[index];
     char* const first = buffer_.data() + (cell.data() - buffer_.data());
     char* out = first;
     for (std::size_t i = 0; i < cell.size(); ++i) {
+      if (has_backslashes_ && cell.substr(i, 2) == "\\\"") ++i;
       *out++ = cell[i];
-      if (cell[i] == '"') ++i;
+      if (!has_backslashes_ && cell[i] == '"') ++i;
     }
     cell = {first, out};
   }

@@ -15,15 +15,22 @@
 
 namespace qorvex::apps {
 
+/// How the cells of a row are divided and quoted.
+struct RowSyntax {
+  char delimiter = ' ';
+  /// Whether a quote within quotes is written after a backslash instead of doubled.
+  bool has_backslashes = false;
+};
+
 /// Reads delimited text (RFC 4180, or columns separated by blanks) row by row, in large blocks,
 /// without copying cells. Blanks are spaces and tabs.
 ///
 /// - Lines end with LF or CR LF; the end of the last line may be missing. Outside quotes, a CR
 ///   without LF is refused.
 /// - The delimiter ' ' stands for any run of blanks; blanks at both ends of a line are ignored.
-/// - A cell that starts with a double quote ends at the next quote that is not doubled. Within it,
-///   a doubled quote stands for one quote, and delimiters and line breaks are text. In other cells,
-///   a quote is text.
+/// - A cell that starts with a double quote ends at the next quote that is not doubled, or not
+///   behind a backslash. Within it, such quotes stand for one quote, and delimiters and line breaks
+///   are text. In other cells, a quote is text.
 /// - Blanks around quotes and around unquoted cells are ignored.
 /// - Blank lines are not rows. They are counted, so that the caller can detect gaps between rows.
 ///
@@ -36,7 +43,7 @@ class RowScanner {
   static constexpr std::size_t kLongestRow = std::size_t{1} << 26;
 
   /// The first line of the text has that number.
-  RowScanner(TextInput input, char delimiter, std::size_t block_size, std::size_t first_line = 1);
+  RowScanner(TextInput input, RowSyntax syntax, std::size_t block_size, std::size_t first_line = 1);
 
   /// Reads the next row; returns false at the end of the text. Throws InputError (kMalformed) for a
   /// quote that is not closed, for text after a closing quote, for lines that end with CR alone,
@@ -69,12 +76,14 @@ class RowScanner {
   const char* ScanPlainCell(const char* at);
   [[nodiscard]] const char* EndOfPlainCell(const char* at) const;
   [[nodiscard]] const char* SkipBlanks(const char* at) const;
-  void JoinDoubledQuotes();
+  [[nodiscard]] const char* EndOfQuotes(const char* at) const;
+  void JoinQuotes();
   [[nodiscard]] const char* End() const { return buffer_.data() + end_; }
   [[noreturn]] void FailAt(const char* position, const std::string& what) const;
 
   TextInput input_;
   char delimiter_;
+  bool has_backslashes_;
   bool delimiter_is_blank_;
   // Each repeated, to be compared with sixteen characters at once. Both are the same unless blanks
   // delimit.
@@ -88,7 +97,7 @@ class RowScanner {
   bool input_ended_ = false;
 
   std::vector<std::string_view> cells_;
-  std::vector<std::size_t> cells_with_doubled_quotes_;
+  std::vector<std::size_t> cells_with_inner_quotes_;
   std::size_t line_;
   std::size_t next_line_;
   std::size_t blank_lines_ = 0;

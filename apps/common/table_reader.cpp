@@ -40,7 +40,7 @@ void AddRowsInParts(RowScanner& rows, ColumnCollector& collector, unsigned threa
     return ended ? nullptr : &part;
   };
   RunOnThreads(threads, [&] {
-    RowScanner lines(TextInput(), ',', 0);
+    RowScanner lines(TextInput(), RowSyntax(), 0);
     while (ColumnCollector::Part* const part = take(lines)) {
       try {
         part->rows.AddAllRows(lines);

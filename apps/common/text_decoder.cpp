@@ -61,13 +61,13 @@ bool IsPlain(const char* text, std::size_t size) {
   return _mm_movemask_epi8(others) == 0 && std::all_of(text + i, text + size, is_plain);
 }
 
-// The order of bytes in UTF-16 without a mark. Half of the first characters or more are ASCII, and
-// none is NUL.
+// The order of bytes in UTF-16 without a mark. Three quarters of the first characters or more are
+// ASCII or Latin-1, and none is NUL.
 std::optional<Encoding> Utf16By(std::string_view bytes) {
   std::size_t nuls[2] = {};
   for (std::size_t i = 0; i < bytes.size(); ++i)
     if (bytes[i] == '\0') ++nuls[i % 2];
-  const std::size_t enough = std::max<std::size_t>((bytes.size() + 3) / 4, 1);
+  const std::size_t enough = std::max<std::size_t>((3 * bytes.size() + 7) / 8, 1);
   if (nuls[0] == 0 && nuls[1] >= enough) return Encoding::kUtf16Le;
   if (nuls[1] == 0 && nuls[0] >= enough) return Encoding::kUtf16Be;
   return std::nullopt;

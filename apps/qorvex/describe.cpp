@@ -31,7 +31,7 @@ Examples:
   qorvex describe speeds.csv --column speed --quantiles 0.05,0.95 --confidence 0.99
   qorvex describe speeds.csv --column speed --by series --figures n,mean,sd --table
   qorvex describe invoices.csv --column price --weights quantity --currency
-  grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty)";
+  grep -v '^#' speeds.csv | qorvex describe --json --na -)";
 
 // Calls write(report) for each sample in turn. As many reports are made at once as there are
 // threads; what they need is released before the next ones.

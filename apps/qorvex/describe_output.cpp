@@ -91,7 +91,8 @@ void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options) {
   place += ": ";
   const UnderflowedFigures underflowed = UnderflowedIn(report);
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
-  RemarkOnHidden(place, FiguresOf(report, options), options.output);
+  if (options.output.CanHideFigures())
+    RemarkOnHidden(place, FiguresOf(report, options), options.output);
 }
 
 void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn& weights,

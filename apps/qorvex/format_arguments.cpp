@@ -100,7 +100,7 @@ std::vector<std::string> SplitList(const std::string& option, const std::string&
                     rest.remove_prefix(count);
                     return count;
                   }};
-  RowScanner row(std::move(input), ',', list.size());
+  RowScanner row(std::move(input), {.delimiter = ','}, list.size());
   try {
     if (!row.Next()) return {list};
   } catch (const InputError&) {

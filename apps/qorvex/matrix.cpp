@@ -189,9 +189,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
       "--header", [arguments] { arguments->format.header = true; },
       "Skip the first row, which contains names, and the first column if its name\n"
       "is empty or missing");
-  if (operation.takes_decimals) {
-    arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
-  }
+  arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
   AddThreads(command, arguments->threads,
              "Threads that read matrices, multiply and format the result, which is the\n"
              "same; an elimination takes one. Default: 1");

@@ -103,7 +103,6 @@ Examples:
      .summary = "The number of independent rows",
      .result = "the echelon form",
      .takes_tolerance = true,
-     .takes_decimals = false,
      .compute = Rank,
      .help = R"(The rank is the number of rows that are not zero after an elimination.
 

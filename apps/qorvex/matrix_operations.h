@@ -24,7 +24,6 @@ struct MatrixOperation {
   std::size_t most_matrices = least_matrices;
   /// Whether it eliminates and therefore depends on what counts as zero.
   bool takes_tolerance = false;
-  bool takes_decimals = true;
   /// Takes rectangular matrices and may change them. Throws EMathError for shapes that do not
   /// match, for a matrix without an inverse and for a system without a solution. The result does
   /// not depend on the number of threads.

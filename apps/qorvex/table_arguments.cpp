@@ -167,7 +167,7 @@ void TableArguments::RemarkOn(const Table& table) const {
     remark("the first row was read as a header because " + doubt +
            "; --header or --no-header overrides this");
   }
-  if (!table.left_out.empty()) remark("left out " + ListOf(table.left_out) + ", without a number");
+  if (!table.left_out.empty()) remark("left out, without a number: " + ListOf(table.left_out));
 }
 
 std::vector<TableColumn> TableArguments::Read(unsigned threads) const {

@@ -38,6 +38,7 @@ TEST(TextDecoder, FindsTheEncodingOrSaysWhatIsWrong) {
            {"a\0,\0\xAC\x20\n\0"s, "UTF-16: a,\u20AC\n"},
            {"\0a\0,"s, "UTF-16: a,"},
            {"\x61\x62", "UTF-16: \u6261", Encoding::kUtf16Le},
+           {"a\0b\n"s, "data.csv: this is a binary file, not a text: byte 2 is NUL"},
            {"ab\0cd,ef"s, "data.csv: this is a binary file, not a text: byte 3 is NUL"},
            {"\xE9\0\0\0"s, "data.csv: this is a binary file, not a text: byte 2 is NUL"},
            {"\u00E9 \xE9 ", "data.csv: the text is not UTF-8 at byte 5"},

@@ -22,9 +22,9 @@ namespace qorvex::gallery {
 
 namespace {
 
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::MatrixPage", text);
-}
+struct MatrixTexts {
+  Q_DECLARE_TR_FUNCTIONS(MatrixTexts)
+};
 
 bool AnyElement(const TQorFloatMatrix& matrix, bool (*holds)(Extended)) {
   return std::any_of(matrix.begin(), matrix.end(), [holds](const auto& row) {
@@ -42,28 +42,29 @@ bool AnyInfinite(const TQorFloatMatrix& matrix) {
 
 // Why a square matrix A has no inverse, or A X = B no solution.
 QString WhyNone(const MatrixTask& task, std::uint32_t rank) {
-  if (AnyNull(task.a) || AnyNull(task.b)) return Text("none, an element is null");
-  if (AnyInfinite(task.a) || AnyInfinite(task.b)) return Text("none, an element is infinite");
-  if (rank < task.a.size()) return Text("none, A is singular");
-  return Text("none, its elements would be beyond the range");
+  if (AnyNull(task.a) || AnyNull(task.b)) return MatrixTexts::tr("none, an element is null");
+  if (AnyInfinite(task.a) || AnyInfinite(task.b))
+    return MatrixTexts::tr("none, an element is infinite");
+  if (rank < task.a.size()) return MatrixTexts::tr("none, A is singular");
+  return MatrixTexts::tr("none, its elements would be beyond the range");
 }
 
 QString WhyShapesDoNotFit(const MatrixTask& task) {
   const bool is_square = task.a.size() == task.a[0].size();
   switch (task.wanted) {
     case MatrixResult::kInverse:
-      return is_square ? QString() : Text("of square matrices only");
+      return is_square ? QString() : MatrixTexts::tr("of square matrices only");
     case MatrixResult::kEchelon:
       return {};
     case MatrixResult::kProduct:
       if (task.b.size() == task.a[0].size()) return {};
-      return Text("B needs as many rows as A has columns: %L1").arg(task.a[0].size());
+      return MatrixTexts::tr("B needs as many rows as A has columns: %L1").arg(task.a[0].size());
     case MatrixResult::kSolution:
-      if (!is_square) return Text("A must be square");
+      if (!is_square) return MatrixTexts::tr("A must be square");
       if (task.b.size() == task.a.size()) return {};
       break;
   }
-  return Text("B needs as many rows as A: %L1").arg(task.a.size());
+  return MatrixTexts::tr("B needs as many rows as A: %L1").arg(task.a.size());
 }
 
 // The rows of a product do not depend on one another.
@@ -114,7 +115,7 @@ std::optional<TQorFloatMatrix> ResultOf(const MatrixTask& task, const Proceed& p
 MatrixOutcome Calculate(const MatrixTask& task, const Proceed& proceed) {
   const bool is_square = task.a.size() == task.a[0].size();
   MatrixOutcome outcome{
-      .determinant = is_square ? QStringLiteral("—") : Text("of square matrices only"),
+      .determinant = is_square ? QStringLiteral("—") : MatrixTexts::tr("of square matrices only"),
       .rank = QStringLiteral("—"),
       .why_none = WhyShapesDoNotFit(task)};
   try {

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/model/matrix_file.h"
 #include "apps/qorvex-gallery/model/texts.h"
@@ -180,7 +181,8 @@ void MatrixPage::Connect(MatrixPanel& panel) {
     message_->SetText({});
     RefreshSoon();
   });
-  connect(&panel, &MatrixPanel::Refused, message_, &MessageBar::SetText);
+  connect(&panel, &MatrixPanel::SizeRefused, message_, &MessageBar::SetText);
+  panel.LetWatch(*message_);
 }
 
 MatrixResult MatrixPage::Wanted() const {
@@ -194,7 +196,7 @@ void MatrixPage::Run(const std::function<void()>& command) {
     command();
     a_->Update();
   } catch (const std::exception& error) {
-    message_->SetText(QString::fromUtf8(error.what()));
+    message_->SetText(ErrorText(error));
   }
 }
 
@@ -347,6 +349,7 @@ PageReport MatrixPage::Report() const {
     report.parts.append({title, rows});
   };
   add(tr("A"), *a_);
+  report.parts.append({tr("Properties of A"), properties_->Rows()});
   if (TakesB(Wanted())) add(tr("B"), *b_);
   if (use_as_a_->isEnabled()) add(wanted_->checkedButton()->text().remove('&'), *result_);
   return report;

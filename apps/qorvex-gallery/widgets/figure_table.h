@@ -24,6 +24,8 @@ class FigureTable : public QWidget {
   FigureTable(std::vector<Column> columns, QWidget* parent = nullptr);
   ~FigureTable() override;
 
+  /// Makes the first row the bold titles of the columns.
+  void SetTitled();
   /// Shows these rows, with one text per column; missing cells are empty. The table never shrinks,
   /// so that widgets below it do not move.
   void SetRows(const QList<QStringList>& rows);
@@ -43,6 +45,7 @@ class FigureTable : public QWidget {
   QLabel* AddCell(int row, int column);
 
   std::vector<Column> columns_;
+  bool has_titles_ = false;
   QGridLayout* grid_;
   std::vector<std::vector<QLabel*>> cells_;
 };

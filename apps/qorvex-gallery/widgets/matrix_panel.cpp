@@ -11,6 +11,7 @@
 
 #include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
+#include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
@@ -78,8 +79,6 @@ void MatrixPanel::SetUp(TQorCustomMatrixEdit& editor) {
   editor.setReadOnly(kind_ == Kind::kResult);
   connect(&editor, &TQorCustomMatrixEdit::OnChange, this, &MatrixPanel::Update);
   connect(&editor, &TQorCustomMatrixEdit::OnUndo, this, &MatrixPanel::Update);
-  connect(&editor, &TQorCustomMatrixEdit::OnBlockRefused, this, &MatrixPanel::Refused);
-  connect(&editor, &TQorCustomMatrixEdit::OnTextRefused, this, &MatrixPanel::Refused);
 }
 
 QWidget* MatrixPanel::MakeSize() {
@@ -148,6 +147,10 @@ void MatrixPanel::Update() {
   Q_EMIT Changed();
 }
 
+void MatrixPanel::LetWatch(MessageBar& bar) const {
+  for (const TQorCustomMatrixEdit* const editor : editors_) bar.Watch(*editor);
+}
+
 void MatrixPanel::CommitTexts() {
   for (TextCell* const cell : Editor().findChildren<TextCell*>()) cell->CommitOrRestore();
 }
@@ -156,12 +159,13 @@ void MatrixPanel::Resize() {
   const auto rows = static_cast<std::uint64_t>(rows_->value());
   const auto cols = static_cast<std::uint64_t>(cols_->value());
   if (rows * cols > MostElements()) {
-    Q_EMIT Refused(tr("%L1 × %L2 elements are too many: the memory of this computer has room for "
-                      "%L3, such as %L4 × %L4")
-                       .arg(rows)
-                       .arg(cols)
-                       .arg(MostElements())
-                       .arg(static_cast<int>(std::sqrt(static_cast<double>(MostElements())))));
+    Q_EMIT SizeRefused(
+        tr("%L1 × %L2 elements are too many: the memory of this computer has room for "
+           "%L3, such as %L4 × %L4")
+            .arg(rows)
+            .arg(cols)
+            .arg(MostElements())
+            .arg(static_cast<int>(std::sqrt(static_cast<double>(MostElements())))));
     return ShowSize();
   }
   CommitTexts();

@@ -22,6 +22,8 @@ class TQorCustomMatrixEdit;
 
 namespace qorvex::gallery {
 
+class MessageBar;
+
 /// A matrix under a title, with the numbers of its rows and columns, in as many cells as have room:
 /// one that is typed, whose size can be set beside the title, or a result, which stands on the
 /// colour of the window. It shows decimals or fractions.
@@ -54,14 +56,16 @@ class MatrixPanel : public QWidget {
   [[nodiscard]] TQorCustomMatrixEdit& Editor() const { return *editors_[fractions_ ? 1 : 0]; }
   /// Shows the size of the matrix and raises Changed.
   void Update();
+  /// Lets a bar report texts that are no numbers.
+  void LetWatch(MessageBar& bar) const;
   /// Commits the texts that are being typed.
   void CommitTexts();
 
  Q_SIGNALS:
   /// The matrix has changed, but not by SetMatrix.
   void Changed();
-  /// What was typed, pasted or chosen is refused; the message says why.
-  void Refused(const QString& message);
+  /// The memory does not suffice for the chosen size; the message says so.
+  void SizeRefused(const QString& message);
 
  protected:
   void changeEvent(QEvent* event) override;

@@ -178,7 +178,7 @@ TEST_F(MatrixPageTest, KeepsItsStateAndOpensFiles) {
   other.SetState(page.State());
   EXPECT_EQ(other.findChild<MatrixPanel*>("a")->Matrix(), a->Matrix());
   EXPECT_TRUE(other.findChild<QRadioButton*>("product")->isChecked());
-  EXPECT_EQ(page.Report().parts.size(), 3);
+  EXPECT_EQ(page.Report().parts.size(), 4);
 }
 
 }  // namespace

@@ -27,7 +27,7 @@ TEST(Gallery, WritesAPictureOfEveryPage) {
   EXPECT_EQ(outcome.status, 0);
   QString files;
   QImage before;
-  for (const char* page : {"data", "matrix", "distribution", "random", "regression"}) {
+  for (const char* page : {"data", "matrix", "distribution", "random", "regression", "tests"}) {
     const QString file = folder + '/' + page + ".png";
     files += file + '\n';
     const QImage picture(file);
@@ -35,10 +35,12 @@ TEST(Gallery, WritesAPictureOfEveryPage) {
     EXPECT_NE(picture, before) << page;
     before = picture;
   }
+  files += folder + "/preview.png\n";
   EXPECT_EQ(outcome.output, files);
 
   const std::pair<QStringList, const char*> refused[] = {
       {{"--screenshot", "/dev/null/pictures"}, "cannot create the directory /dev/null/pictures\n"},
+      {{"--screenshot", folder, "--language", "klingon"}, "unknown language \"klingon\""},
       {{"--screenshot", folder, "missing.csv"}, "qorvex-gallery: missing.csv: "}};
   for (const auto& [options, message] : refused) {
     const Outcome failed = RunGallery(options);

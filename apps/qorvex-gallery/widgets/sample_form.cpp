@@ -1,0 +1,167 @@
+#include "apps/qorvex-gallery/widgets/sample_form.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QSpinBox>
+#include <limits>
+
+#include "apps/qorvex-gallery/model/sheet.h"
+#include "apps/qorvex-gallery/model/test_order.h"
+#include "apps/qorvex-gallery/widgets/column_box.h"
+#include "apps/qorvex-gallery/widgets/column_list.h"
+
+namespace qorvex::gallery {
+
+namespace {
+
+using apps::TestInput;
+
+QSpinBox* CountBox(const char* name, int count) {
+  auto* const box = new QSpinBox;
+  box->setObjectName(QLatin1String(name));
+  box->setRange(0, std::numeric_limits<int>::max());
+  box->setValue(count);
+  box->setKeyboardTracking(false);
+  return box;
+}
+
+bool TakesSamples(TestInput input) {
+  return input == TestInput::kSample || input == TestInput::kTwoSamples ||
+         input == TestInput::kSeveralSamples;
+}
+
+}  // namespace
+
+SampleForm::SampleForm(const Sheet& sheet, QWidget* parent)
+    : QWidget(parent),
+      sheet_(sheet),
+      layout_(new QFormLayout(this)),
+      kind_(new QComboBox),
+      first_(new ColumnBox(sheet, ColumnBox::kNumeric)),
+      second_(new ColumnBox(sheet, ColumnBox::kNumeric)),
+      proportions_(new ColumnBox(sheet, ColumnBox::kNumeric, tr("all equal"))),
+      labels_(new ColumnBox(sheet, ColumnBox::kAll)),
+      list_(new ColumnList(sheet)),
+      yates_(new QCheckBox(tr("Yates' correction"))),
+      fitted_(CountBox("fitted", 0)),
+      successes_(CountBox("successes", 60)),
+      trials_(CountBox("trials", 100)) {
+  kind_->setObjectName("kind");
+  kind_->addItems({tr("columns"), tr("groups of a column")});
+  first_->setObjectName("first");
+  second_->setObjectName("second");
+  proportions_->setObjectName("proportions");
+  labels_->setObjectName("labels");
+  list_->setObjectName("columns");
+  list_->setAccessibleName(tr("Columns"));
+  list_->setFixedHeight(6 * fontMetrics().height());
+  yates_->setObjectName("yates");
+  AddRows();
+  SetInput(TestInput::kSample);
+}
+
+SampleForm::~SampleForm() = default;
+
+void SampleForm::AddRows() {
+  layout_->setContentsMargins(0, 0, 0, 0);
+  layout_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  layout_->addRow(tr("Samples:"), kind_);
+  layout_->addRow(tr("Values:"), first_);
+  layout_->addRow(tr("Second:"), second_);
+  layout_->addRow(tr("Labels:"), labels_);
+  layout_->addRow(tr("Proportions:"), proportions_);
+  layout_->addRow(list_);
+  layout_->addRow(yates_);
+  layout_->addRow(tr("Fitted parameters:"), fitted_);
+  layout_->addRow(tr("Successes:"), successes_);
+  layout_->addRow(tr("Trials:"), trials_);
+  connect(kind_, &QComboBox::currentIndexChanged, this, [this] {
+    ShowRows();
+    Q_EMIT Changed();
+  });
+  for (ColumnBox* const box : {first_, second_, proportions_, labels_})
+    connect(box, &ColumnBox::ColumnChanged, this, &SampleForm::Changed);
+  for (QSpinBox* const box : {fitted_, successes_, trials_})
+    connect(box, &QSpinBox::valueChanged, this, &SampleForm::Changed);
+  connect(list_, &ColumnList::ColumnsChanged, this, &SampleForm::Changed);
+  connect(yates_, &QCheckBox::toggled, this, &SampleForm::Changed);
+}
+
+void SampleForm::SetInput(TestInput input) {
+  input_ = input;
+  const bool are_pairs = input == TestInput::kPairs;
+  SetLabel(second_, are_pairs ? tr("y:") : tr("Second:"));
+  ShowRows();
+}
+
+bool SampleForm::HasGroups() const {
+  return TakesSamples(input_) && kind_->currentIndex() == 1;
+}
+
+void SampleForm::SetLabel(QWidget* field, const QString& text) {
+  static_cast<QLabel*>(layout_->labelForField(field))->setText(text);
+}
+
+void SampleForm::ShowRows() {
+  const bool groups = HasGroups();
+  const bool two = input_ == TestInput::kPairs || (input_ == TestInput::kTwoSamples && !groups);
+  const bool list =
+      input_ == TestInput::kCountTable || (input_ == TestInput::kSeveralSamples && !groups);
+  const bool counts = input_ == TestInput::kCounts;
+  const bool trials = input_ == TestInput::kTrials;
+  SetLabel(first_, input_ == TestInput::kPairs ? tr("x:")
+                   : counts                    ? tr("Counts:")
+                   : two                       ? tr("First:")
+                                               : tr("Values:"));
+  layout_->setRowVisible(kind_, TakesSamples(input_));
+  layout_->setRowVisible(first_, !list && !trials);
+  layout_->setRowVisible(second_, two);
+  layout_->setRowVisible(labels_, groups);
+  layout_->setRowVisible(proportions_, counts);
+  layout_->setRowVisible(list_, list);
+  layout_->setRowVisible(yates_, input_ == TestInput::kCountTable);
+  layout_->setRowVisible(fitted_, counts);
+  layout_->setRowVisible(successes_, trials);
+  layout_->setRowVisible(trials_, trials);
+}
+
+void SampleForm::Fill(TestOrder& order) const {
+  const auto add = [this, &order](int column) {
+    if (column >= 0) order.columns.push_back({sheet_.Title(column), sheet_.Numbers(column)});
+  };
+  if (!layout_->isRowVisible(list_)) {
+    for (const ColumnBox* const box : {first_, second_, proportions_})
+      if (layout_->isRowVisible(const_cast<ColumnBox*>(box))) add(box->Column());
+  } else {
+    for (const int column : list_->Columns()) add(column);
+  }
+  if (HasGroups() && labels_->Column() >= 0 && !order.columns.empty())
+    order.groups = sheet_.Groups(labels_->Column());
+  order.settings.yates = input_ == TestInput::kCountTable && yates_->isChecked();
+  order.settings.fitted_parameters = static_cast<std::uint32_t>(fitted_->value());
+  order.settings.successes = static_cast<std::uint32_t>(successes_->value());
+  order.settings.trials = static_cast<std::uint32_t>(trials_->value());
+}
+
+QVariantMap SampleForm::State() const {
+  return {{"kind", kind_->currentIndex()},    {"first", first_->Column()},
+          {"second", second_->Column()},      {"proportions", proportions_->Column()},
+          {"labels", labels_->Column()},      {"columns", list_->Titles()},
+          {"yates", yates_->isChecked()},     {"fitted", fitted_->value()},
+          {"successes", successes_->value()}, {"trials", trials_->value()}};
+}
+
+void SampleForm::SetState(const QVariantMap& state) {
+  if (state.isEmpty()) return;
+  kind_->setCurrentIndex(state["kind"].toInt());
+  for (ColumnBox* const box : {first_, second_, proportions_, labels_})
+    box->SetColumn(state[box->objectName()].toInt());
+  list_->SetTitles(state["columns"].toStringList());
+  yates_->setChecked(state["yates"].toBool());
+  for (QSpinBox* const box : {fitted_, successes_, trials_})
+    box->setValue(state[box->objectName()].toInt());
+}
+
+}  // namespace qorvex::gallery
