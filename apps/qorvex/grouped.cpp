@@ -33,7 +33,7 @@ Examples:
   qorvex grouped speeds.csv --column speed --lower 299600 --width 50
   qorvex grouped waiting.csv --counts visitors --lower 0 --width 5)";
 
-constexpr Extended kMostClasses = 1e6L;
+constexpr int kMostClasses = 1'000'000;
 
 struct GroupedArguments {
   TableArguments table;
@@ -86,7 +86,7 @@ ClassTable TableOf(const TableColumn& column, const GroupedArguments& arguments)
   const Extended classes = (numbers.ValueOf(order.maximum) - bounds[0]) / bounds.Width();
   if (!(classes < kMostClasses)) {
     Refuse(arguments, column,
-           "classes of width " + width + " are more than " + Float2Str(kMostClasses) +
+           "classes of width " + width + " are more than " + Int2EStr(kMostClasses) +
                "; --width chooses another width");
   }
   return {bounds, CountsIn(bounds, numbers)};
