@@ -52,12 +52,9 @@ void DescribeOptions::AddTo(CLI::App& command) {
   command.add_flag("--currency", table.selection.currency,
                    "The values are amounts of money with at most four decimals: sum, minimum,\n"
                    "maximum and range are exact, always with four decimals");
-  command
-      .add_option("--by", table.selection.labels,
-                  "A column of labels: a report on each group of rows with the same label.\n"
-                  "Repeat it for groups within groups")
-      ->type_name("NAME|N")
-      ->allow_extra_args(false);
+  table.AddLabelsTo(command,
+                    "A column of labels: a report on each group of rows with the same label.\n"
+                    "Several columns make groups within groups");
   CLI::Option* const figure_list =
       command
           .add_option_function<std::string>(
