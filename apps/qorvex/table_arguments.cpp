@@ -23,9 +23,10 @@ namespace {
 const char* Hint(InputFault fault, const TableSelection& selection) {
   switch (fault) {
     case InputFault::kNotANumber:
-      return selection.columns.empty() ? "; --column chooses the columns, --na lists the words for "
-                                         "missing values"
-                                       : "; --na lists the words for missing values";
+      if (selection.columns.empty())
+        return "; --column chooses the columns, --na lists the words for missing values";
+      // An amount with too many decimals is no missing value.
+      return selection.currency ? "" : "; --na lists the words for missing values";
     case InputFault::kOtherDecimalSign:
       return "; --decimal tells the decimal sign";
     case InputFault::kEmptyCell:

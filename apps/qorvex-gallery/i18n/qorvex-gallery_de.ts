@@ -2281,6 +2281,10 @@
         <source>Clear</source>
         <translation>Leeren</translation>
     </message>
+    <message>
+        <source>Least-squares fit</source>
+        <translation>Kleinste Quadrate</translation>
+    </message>
 </context>
 <context>
     <name>qorvex::gallery::SampleForm</name>

@@ -112,6 +112,7 @@ RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
           new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure,
                            FigureTable::kFigure, FigureTable::kFigure, FigureTable::kFigure})),
       quality_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      heading_(MakeHeading({})),
       remark_(new QLabel) {
   setObjectName("regressionPage");
   values_->addWidget(MakeOwnValues());
@@ -231,11 +232,9 @@ QLayout* RegressionPage::MakeResults() {
   plots->addWidget(curve_, 3);
   plots->addWidget(residuals_, 2);
   auto* const head = new QHBoxLayout;
-  QLabel* const heading =
-      MakeHeading(tr("Least-squares fit, with 95 % bands for the mean and for single values"));
   // Level with the box beside it.
-  heading->setMinimumHeight(source_->sizeHint().height());
-  head->addWidget(heading);
+  heading_->setMinimumHeight(source_->sizeHint().height());
+  head->addWidget(heading_);
   head->addWidget(remark_);
   head->addStretch(1);
   auto* const tables = new QWidget;
@@ -341,7 +340,11 @@ void RegressionPage::showEvent(QShowEvent* event) {
 void RegressionPage::Refresh() {
   refresh_is_due_ = false;
   const RegressionData table = TakesSheet() ? SheetData() : OwnData();
-  degree_->setEnabled(table.predictors.size() <= 1);
+  const bool has_bands = table.predictors.size() <= 1;
+  degree_->setEnabled(has_bands);
+  heading_->setText(
+      has_bands ? tr("Least-squares fit, with 95 % bands for the mean and for single values")
+                : tr("Least-squares fit"));
   const std::vector<int> chosen = predictors_->Columns();
   if (TakesSheet() && sheet_.columnCount() == 0) {
     message_->SetText(tr("The sheet on the page Data is empty."));

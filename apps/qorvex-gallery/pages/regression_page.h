@@ -86,6 +86,7 @@ class RegressionPage : public Page {
   PlotView* residuals_;
   FigureTable* coefficients_;
   FigureTable* quality_;
+  QLabel* heading_;
   QLabel* remark_;
 };
 
