@@ -73,11 +73,13 @@ ClassTable TableOf(const TableColumn& column, const GroupedArguments& arguments)
   if (arguments.has_counts)
     return {ClassBounds(lower, arguments.width.text), CountsOf(column, arguments)};
   const ColumnNumbers& numbers = column.numbers;
+  const OrderFigures order = ExtremesOf(numbers);
+  if (!std::isfinite(order.maximum - order.minimum))
+    Refuse(arguments, column, "the range of the values is beyond that of extended precision");
   const std::string width =
       arguments.width.text.empty() ? UsualWidth(numbers) : arguments.width.text;
   const ClassBounds bounds =
       lower.empty() ? ClassBounds(numbers, width) : ClassBounds(lower, width);
-  const OrderFigures order = ExtremesOf(numbers);
   const Extended minimum = numbers.ValueOf(order.minimum);
   if (minimum < bounds[0] && !lower.empty()) {
     Refuse(arguments, column,
