@@ -24,6 +24,7 @@ namespace qorvex::apps {
 namespace {
 
 constexpr const char* kHelp = R"(
+
 The table of classes of equal width, and the figures that remain when every value
 counts as the middle of its class. The file has the values, or with --counts the
 number of values in each class.
