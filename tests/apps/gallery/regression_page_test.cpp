@@ -198,6 +198,35 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   EXPECT_EQ(other.State(), state);
 }
 
+TEST_F(RegressionPageTest, FollowsColumnsThatMove) {
+  auto& predictors = Find<ColumnList>("predictors");
+  const auto show = [&](const std::vector<std::string>& names) {
+    SheetData data({}, names);
+    data.AppendRow(std::vector<std::string>(names.size(), "1"));
+    sheet.SetData(data);
+    QTest::qWait(1);
+  };
+  show({"x", "y", "x", "z"});
+  predictors.item(2)->setCheckState(Qt::Checked);
+  EXPECT_EQ(predictors.Columns(), std::vector{2}) << "not the other column of the name";
+  sheet.setData(sheet.index(0, 1), 5.0);
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{2});
+  sheet.insertColumns(1, 2);
+  sheet.removeColumns(0, 1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3}) << "before the list is filled again";
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3});
+  sheet.setHeaderData(3, Qt::Horizontal, "weight");
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Titles(), QStringList("weight"));
+  show({"height", "weight"});
+  EXPECT_EQ(predictors.Columns(), std::vector{1});
+  sheet.removeColumns(1, 1);
+  QTest::qWait(1);
+  EXPECT_TRUE(predictors.Columns().empty());
+}
+
 TEST_F(RegressionPageTest, RemembersTheOwnValues) {
   Paste("0\t1\n1\t2\n\t5\n3\t0.1");
   SetDegree(2);
