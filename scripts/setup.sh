@@ -15,6 +15,7 @@ purpose=${1:-}
 packages=(
   g++ cmake ninja-build
   qt6-base-dev       # the components, and threads for the desktop program
+  qt6-svg-dev        # pictures of diagrams as SVG
   libcli11-dev       # the command line
   rapidjson-dev      # its JSON documents
   fonts-dejavu-core  # the font of pictures and widget tests
@@ -31,6 +32,7 @@ test_packages=(
   libmpfr-dev        # exact values of the elementary functions
   python3-mpmath     # checks that their tables are those of the scripts
   xvfb openbox       # tests of widgets with a window manager
+  appstream desktop-file-utils  # tests of the entries of the desktop program in menus and software centres
   qemu-user-static   # the self-test on other processors
   pkg-config         # tests of installed libraries
   doxygen            # tests of the documentation
@@ -111,6 +113,10 @@ usable_ccache() {
 
 # A build directory that was copied or is incomplete is configured from scratch.
 configure() {
+  # The German texts of the programs, where their tools are installed.
+  if is_installed qt6-l10n-tools && is_installed qt6-tools-dev; then
+    parts=("${parts[@]/%TRANSLATIONS=OFF/TRANSLATIONS=ON}")
+  fi
   local options=(--preset release -D CMAKE_CXX_COMPILER_LAUNCHER="$(usable_ccache)") changed=("${parts[@]}")
   [[ $purpose == programs && -f build/release/CMakeCache.txt ]] && changed=()
   cmake "${options[@]}" "${changed[@]}" || cmake --fresh "${options[@]}" "${parts[@]}"

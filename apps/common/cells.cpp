@@ -29,23 +29,44 @@ bool IsWrittenAsAmount(std::string_view cell) {
          cell.find_last_of("0123456789") <= point + Currency::kDecimals;
 }
 
+// Most texts are known by their first character, without the cost of an exception.
+bool MayBeNumber(std::string_view text) {
+  constexpr std::string_view starts = "0123456789.iInN";
+  const std::size_t start = text.find_first_not_of(" \t+-");
+  return start != text.npos && starts.find(text[start]) != starts.npos;
+}
+
 }  // namespace
 
 std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer) {
   buffer.assign(cell);
   for (char& c : buffer) c = c == ',' ? '.' : c == '.' ? ',' : c;
-  buffer.resize(cell.size() + RowReader::kReadableBehind);
+  buffer.resize(cell.size() + RowScanner::kReadableBehind);
   return std::string_view(buffer).substr(0, cell.size());
 }
 
 bool IsNumber(std::string_view text, char decimal_sign) {
   std::string buffer;
+  if (decimal_sign == ',') text = WithDecimalPoint(text, buffer);
+  if (!MayBeNumber(text)) return false;
   try {
-    static_cast<void>(Str2Float(decimal_sign == ',' ? WithDecimalPoint(text, buffer) : text));
+    static_cast<void>(Str2Float(text));
   } catch (const EConvertError& error) {
     return error.message_id() == rsNumberTooLarge;
   }
   return true;
+}
+
+std::optional<Extended> FindNumber(std::string_view cell, char decimal_sign) {
+  std::string buffer;
+  if (decimal_sign == ',') cell = WithDecimalPoint(cell, buffer);
+  if (!MayBeNumber(cell)) return std::nullopt;
+  try {
+    const Extended value = Str2Float(cell);
+    if (std::isfinite(value)) return value;
+  } catch (const EConvertError&) {
+  }
+  return std::nullopt;
 }
 
 bool IsText(std::string_view cell, char decimal_sign) {
@@ -54,7 +75,7 @@ bool IsText(std::string_view cell, char decimal_sign) {
 
 std::string ColumnTitle(std::size_t number, std::string_view name) {
   std::string title = "column " + Int2EStr(number);
-  if (!name.empty()) title += " (" + OnOneLine(name) + ')';
+  if (!name.empty()) title += " (" + Shortened(name) + ')';
   return title;
 }
 
@@ -73,7 +94,9 @@ Extended NumberIn(std::string_view cell, const CellPlace& place, char decimal_si
       FailAt(place, InputFault::kOutOfRange,
              Excerpt(cell) + " is beyond the range of extended precision");
     }
-    FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a number");
+    const bool is_other = FindNumber(cell, decimal_sign == ',' ? '.' : ',').has_value();
+    FailAt(place, is_other ? InputFault::kOtherDecimalSign : InputFault::kNotANumber,
+           Excerpt(cell) + " is not a number");
   }
   if (!std::isfinite(value)) {
     FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a finite number");
@@ -86,11 +109,13 @@ Extended NumberOrMissing(std::string_view cell, const CellPlace& place, const Ta
   return NumberIn(cell, place, *format.decimal_sign);
 }
 
-Currency AmountIn(std::string_view cell, const CellPlace& place) {
+Currency AmountIn(std::string_view cell, const CellPlace& place, char decimal_sign) {
   if (cell.empty()) RefuseEmptyCell(place);
-  if (!IsWrittenAsAmount(cell)) RefuseAmount(cell, place);
+  std::string buffer;
+  const std::string_view text = decimal_sign == ',' ? WithDecimalPoint(cell, buffer) : cell;
+  if (!IsWrittenAsAmount(text)) RefuseAmount(cell, place);
   try {
-    return Str2Currency(cell);
+    return Str2Currency(text);
   } catch (const EConvertError& error) {
     if (error.message_id() != rsNumberTooLarge) RefuseAmount(cell, place);
   }
@@ -106,7 +131,7 @@ void RequireFirstRow(RowReader& rows) {
   throw InputError(InputFault::kNoValues, rows.Name(), "there is nothing to read");
 }
 
-void RequireWidth(const RowReader& rows, std::size_t width, std::size_t first_line) {
+void RequireWidth(const RowScanner& rows, std::size_t width, std::size_t first_line) {
   const std::size_t cells = rows.Cells().size();
   if (cells == width) return;
   throw InputError(InputFault::kMalformed, rows.Name(), rows.Line(),

@@ -4,6 +4,7 @@
 /// Numbers in cells, and the errors for cells and rows that cannot be used.
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -19,6 +20,9 @@ namespace qorvex::apps {
 /// count.
 [[nodiscard]] bool IsNumber(std::string_view text, char decimal_sign = '.');
 
+/// The finite number that the text is; empty for any other text.
+[[nodiscard]] std::optional<Extended> FindNumber(std::string_view cell, char decimal_sign = '.');
+
 /// Whether the cell is neither empty nor a number, like a name in a header.
 [[nodiscard]] bool IsText(std::string_view cell, char decimal_sign = '.');
 
@@ -27,7 +31,8 @@ namespace qorvex::apps {
 /// read.
 [[nodiscard]] std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer);
 
-/// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
+/// "column 2 (speed)", or "column 2" without a name, with the name on one line, cut after 40
+/// characters.
 [[nodiscard]] std::string ColumnTitle(std::size_t number, std::string_view name = {});
 
 /// "1 cell", "2 cells".
@@ -43,26 +48,27 @@ struct CellPlace {
 };
 
 /// The number in a cell, converted to 80 bits by Str2Float. Throws InputError with the position of
-/// the cell: kEmptyCell; kNotANumber, also for infinities and NaN; kOutOfRange.
+/// the cell: kEmptyCell; kOtherDecimalSign; kNotANumber, also for infinities and NaN; kOutOfRange.
 [[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place,
                                 char decimal_sign = '.');
 
-/// The same for a cell of a table with this format, which RowReader has completed; NaN if the value
-/// is missing.
+/// As NumberIn for a cell of a table with this format, which RowReader has completed; NaN if the
+/// value is missing.
 [[nodiscard]] Extended NumberOrMissing(std::string_view cell, const CellPlace& place,
                                        const TableFormat& format);
 
 /// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
 /// would have to be rounded, and a program that writes an exponent has probably rounded already.
 /// Throws InputError with the position of the cell: kEmptyCell, kNotANumber, kOutOfRange.
-[[nodiscard]] Currency AmountIn(std::string_view cell, const CellPlace& place);
+[[nodiscard]] Currency AmountIn(std::string_view cell, const CellPlace& place,
+                                char decimal_sign = '.');
 
 /// Throws the same InputError (kEmptyCell) as NumberIn.
 [[noreturn]] void RefuseEmptyCell(const CellPlace& place);
 
 /// Throws InputError (kMalformed) unless the row has as many cells as the first one, which started
 /// on first_line.
-void RequireWidth(const RowReader& rows, std::size_t width, std::size_t first_line);
+void RequireWidth(const RowScanner& rows, std::size_t width, std::size_t first_line);
 
 /// Reads the first row. Throws InputError (kNoValues) if the text has no rows.
 void RequireFirstRow(RowReader& rows);

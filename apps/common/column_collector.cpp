@@ -1,114 +1,28 @@
 #include "apps/common/column_collector.h"
 
 #include <algorithm>
-#include <charconv>
-#include <iterator>
-#include <numeric>
+#include <limits>
 #include <utility>
 
 #include "apps/common/cells.h"
+#include "apps/common/column_selection.h"
 #include "apps/common/input_error.h"
 #include "apps/common/threads.h"
-#include "qorvex/base/text.h"
 
 namespace qorvex::apps {
 
-namespace {
-
-using Cells = std::span<const std::string_view>;
-
-bool HoldsText(Cells cells) {
-  return std::ranges::any_of(cells, [](std::string_view cell) { return IsText(cell); });
-}
-
-// "the columns are 1 (x), 2 (y)" or "the table has 3 columns and no header".
-std::string DescribeColumns(std::span<const std::string> names, std::size_t width) {
-  if (names.empty()) return "the table has " + Cardinal(width, "column") + " and no header";
-  constexpr std::size_t most_shown = 20;
-  std::string text = "the columns are ";
-  for (std::size_t i = 0; i < std::min(width, most_shown); ++i) {
-    if (i != 0) text += ", ";
-    text += Int2EStr(i + 1) + " (" + OnOneLine(names[i]) + ')';
-  }
-  if (width > most_shown) text += " and " + Int2EStr(width - most_shown) + " more";
-  return text;
-}
-
-// The position, from 0, of a column that is chosen by name or number.
-std::size_t FindColumn(const std::string& chosen, std::span<const std::string> names,
-                       std::size_t width, const std::string& input_name) {
-  if (const auto found = std::ranges::find(names, chosen); found != names.end()) {
-    if (const auto again = std::find(found + 1, names.end(), chosen); again != names.end()) {
-      throw InputError(InputFault::kNoSuchColumn, input_name,
-                       "columns " + Int2EStr(found - names.begin() + 1) + " and " +
-                           Int2EStr(again - names.begin() + 1) + " are both named " +
-                           Excerpt(chosen));
-    }
-    return static_cast<std::size_t>(found - names.begin());
-  }
-  std::size_t number = 0;
-  const char* const end = chosen.data() + chosen.size();
-  const auto [stop, error] = std::from_chars(chosen.data(), end, number);
-  if (error != std::errc() || stop != end || number < 1 || number > width) {
-    throw InputError(
-        InputFault::kNoSuchColumn, input_name,
-        "there is no column " + Excerpt(chosen) + "; " + DescribeColumns(names, width));
-  }
-  return number - 1;
-}
-
-// The chosen columns without duplicates, all columns if none is chosen; then the weights and the
-// labels.
-std::vector<TableColumn> ChosenColumns(const TableSelection& selection,
-                                       std::span<const std::string> names, std::size_t width,
-                                       const std::string& input_name) {
-  std::vector<std::size_t> indices;
-  if (selection.columns.empty()) {
-    indices.resize(width);
-    std::iota(indices.begin(), indices.end(), std::size_t{0});
-  }
-  for (const std::string& column : selection.columns) {
-    const std::size_t index = FindColumn(column, names, width, input_name);
-    if (std::ranges::find(indices, index) == indices.end()) indices.push_back(index);
-  }
-  const auto column_of = [&](std::size_t index, ColumnRole role) {
-    return TableColumn{
-        .number = index + 1, .name = names.empty() ? "" : names[index], .role = role};
-  };
-  std::vector<TableColumn> others;
-  const auto add_other = [&](const std::string& column, ColumnRole role) {
-    const std::size_t index = FindColumn(column, names, width, input_name);
-    const auto refuse = [&](ColumnRole known) {
-      const char* const what = known == ColumnRole::kWeights ? "weights" : "labels";
-      throw InputError(InputFault::kNoSuchColumn, input_name,
-                       selection.columns.empty() && indices.empty()
-                           ? std::string("there is no column beside the ") + what
-                           : Excerpt(column) + " is the column of the " + what);
-    };
-    std::erase(indices, index);
-    if (indices.empty()) refuse(role);
-    const auto known = std::ranges::find(others, index + 1, &TableColumn::number);
-    if (known == others.end()) {
-      others.push_back(column_of(index, role));
-    } else if (known->role != role) {
-      refuse(known->role);
-    }
-  };
-  if (selection.weights) add_other(*selection.weights, ColumnRole::kWeights);
-  for (const std::string& column : selection.labels) add_other(column, ColumnRole::kLabels);
-  std::vector<TableColumn> columns;
-  for (const std::size_t index : indices) columns.push_back(column_of(index, ColumnRole::kValues));
-  std::ranges::move(others, std::back_inserter(columns));
-  return columns;
-}
-
-}  // namespace
-
-ColumnCollector::ColumnCollector(const RowReader& rows, const TableSelection& selection)
-    : selection_(&selection), first_line_(rows.Line()), width_(rows.Cells().size()) {
-  if (selection.header.value_or(HoldsText(rows.Cells())))
-    header_.assign(rows.Cells().begin(), rows.Cells().end());
-  columns_ = ChosenColumns(selection, header_, width_, rows.Name());
+ColumnCollector::ColumnCollector(RowReader& rows, const TableSelection& selection)
+    : missing_(&selection.format.missing),
+      decimal_sign_(*rows.Format().decimal_sign),
+      has_amounts_(selection.currency),
+      needs_whole_rows_(selection.whole_rows),
+      first_line_(rows.Line()),
+      width_(rows.Cells().size()) {
+  if (*rows.Format().header) header_.assign(rows.Cells().begin(), rows.Cells().end());
+  columns_ = ChosenColumns(selection, header_, width_, rows.HasRowNames(), rows.Name());
+  if (selection.columns.empty()) first_cells_.resize(columns_.size());
+  takes_numbers_directly_ = decimal_sign_ == '.' && !has_amounts_ && !missing_->IncludeNumbers();
+  may_skip_rows_ = missing_->AreAllowed() && (needs_whole_rows_ || !selection.labels.empty());
 }
 
 ColumnCollector ColumnCollector::ForMoreRows() const {
@@ -116,39 +30,31 @@ ColumnCollector ColumnCollector::ForMoreRows() const {
   collector.header_.clear();
   for (TableColumn& column : collector.columns_)
     column = {.number = column.number, .name = column.name, .role = column.role};
+  collector.first_cells_.assign(first_cells_.size(), {});
   collector.has_rows_ = false;
   collector.blank_lines_ = 0;
   return collector;
 }
 
-void ColumnCollector::AddRow(const RowReader& rows) {
+void ColumnCollector::AddRow(const RowScanner& rows) {
   has_rows_ = true;
   AddBlankLines(rows.Name(), rows.Line(), rows.BlankLines() + std::exchange(blank_lines_, 0));
   AddCells(rows);
 }
 
-void ColumnCollector::AddCells(const RowReader& rows) {
+void ColumnCollector::AddCells(const RowScanner& rows) {
   RequireWidth(rows, width_, first_line_);
   const Cells cells = rows.Cells();
-  const auto cell_of = [cells](const TableColumn& column) { return cells[column.number - 1]; };
-  const auto must_not_be_missing = [&](const TableColumn& column) {
-    return (selection_->whole_rows || column.role == ColumnRole::kLabels) &&
-           cell_of(column).empty();
-  };
-  if (selection_->skip_empty && std::ranges::any_of(columns_, must_not_be_missing))
-    return SkipRow(rows.Name(), rows.Line());
-  for (TableColumn& column : columns_) {
-    const std::string_view cell = cell_of(column);
-    if (cell.empty()) {
-      Skip(column, rows.Name(), rows.Line());
-      if (!selection_->labels.empty()) column.gaps.push_back(columns_.back().labels.size());
-    } else {
-      Add(cell, column, rows);
-    }
+  if (may_skip_rows_ && LacksAValue(cells)) return SkipRow();
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    const std::string_view cell = cells[columns_[i].number - 1];
+    ColumnNumbers& numbers = columns_[i].numbers;
+    if (takes_numbers_directly_ && !numbers.empty() && numbers.TryAppendCell(cell)) continue;
+    AddCell(cell, i, rows);
   }
 }
 
-void ColumnCollector::AddAllRows(RowReader& rows) {
+void ColumnCollector::AddAllRows(RowScanner& rows) {
   while (rows.Next()) AddRow(rows);
   blank_lines_ += rows.BlankLines();
 }
@@ -156,6 +62,7 @@ void ColumnCollector::AddAllRows(RowReader& rows) {
 void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, unsigned threads) {
   for (const Part& part : parts) {
     if (part.rows.has_rows_) AddBlankLines(input, part.first_line, std::exchange(blank_lines_, 0));
+    AddFirstCells(part.rows.first_cells_);
     if (part.fault) std::rethrow_exception(part.fault);
     blank_lines_ += part.rows.blank_lines_;
   }
@@ -172,44 +79,120 @@ void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, 
       column.numbers.Append(more.numbers);
       column.labels.Append(more.labels);
       for (const std::size_t row : more.gaps) column.gaps.push_back(first_rows[k] + row);
-      column.skipped += more.skipped;
+      column.missing += more.missing;
     }
   });
 }
 
 Table ColumnCollector::Finish(const std::string& input) {
+  Table table;
+  table.header = std::move(header_);
   for (TableColumn& column : columns_) {
-    if (column.numbers.empty() && column.labels.empty())
+    const bool is_empty = column.numbers.empty() && column.labels.empty();
+    if (is_empty && (first_cells_.empty() || column.role != ColumnRole::kValues))
       throw InputError(InputFault::kNoValues, input, column.Title() + " has no values");
     column.numbers.ShrinkToFit();
+    (is_empty ? table.left_out : table.columns).push_back(std::move(column));
   }
-  return {std::move(columns_), std::move(header_)};
+  if (table.columns.empty() || table.columns[0].role != ColumnRole::kValues)
+    RefuseAll(input, table.left_out);
+  return table;
 }
 
-void ColumnCollector::Add(std::string_view cell, TableColumn& column, const RowReader& rows) const {
-  if (column.role == ColumnRole::kLabels) return column.labels.Append(cell);
-  const CellPlace place{rows.Name(), rows.Line(), column.number, column.name};
-  bool appended = false;
-  if (selection_->currency && column.role == ColumnRole::kValues) {
-    appended = column.numbers.TryAppend({AmountIn(cell, place).stored(), -Currency::kDecimals});
-  } else {
-    appended = column.numbers.TryAppendCell(cell);
+void ColumnCollector::RefuseAll(const std::string& input,
+                                const std::vector<TableColumn>& columns) const {
+  const auto text = std::ranges::find_if(
+      first_cells_, [](const FirstCells& cells) { return cells.text != nullptr; });
+  if (text == first_cells_.end())
+    throw InputError(InputFault::kNoValues, input, columns[0].Title() + " has no values");
+  if (columns.size() == 1) std::rethrow_exception(text->text);
+  throw InputError(InputFault::kNoValues, input, "no column has a number");
+}
+
+bool ColumnCollector::LacksAValue(Cells cells) const {
+  return std::ranges::any_of(columns_, [&](const TableColumn& column) {
+    return (needs_whole_rows_ || column.role == ColumnRole::kLabels) &&
+           missing_->Contains(cells[column.number - 1]);
+  });
+}
+
+void ColumnCollector::AddCell(std::string_view cell, std::size_t index, const RowScanner& rows) {
+  TableColumn& column = columns_[index];
+  if (missing_->Contains(cell)) {
+    ++column.missing;
+    if (HasLabels()) column.gaps.push_back(columns_.back().labels.size());
+    return;
   }
-  if (!appended) column.numbers.Append(NumberIn(cell, place));
+  const CellPlace place{rows.Name(), rows.Line(), column.number, column.name};
+  if (column.role == ColumnRole::kLabels) {
+    if (cell.empty()) RefuseEmptyCell(place);
+    return column.labels.Append(cell);
+  }
+  if (first_cells_.empty() || !column.numbers.empty() || column.role != ColumnRole::kValues)
+    return AddNumber(cell, column, place);
+
+  FirstCells& first = first_cells_[index];
+  if (first.text) {
+    if (FindNumber(cell, decimal_sign_)) std::rethrow_exception(first.text);
+    return;
+  }
+  try {
+    AddNumber(cell, column, place);
+    first.number_line = place.line;
+  } catch (const InputError& error) {
+    if (error.Fault() != InputFault::kNotANumber) throw;
+    first.text = std::current_exception();
+    first.text_line = place.line;
+  }
+}
+
+void ColumnCollector::AddNumber(std::string_view cell, TableColumn& column,
+                                const CellPlace& place) {
+  bool appended = false;
+  if (has_amounts_ && column.role == ColumnRole::kValues) {
+    const Currency amount = AmountIn(cell, place, decimal_sign_);
+    appended = column.numbers.TryAppend({amount.stored(), -Currency::kDecimals});
+  } else {
+    appended =
+        column.numbers.TryAppendCell(decimal_sign_ == ',' ? WithDecimalPoint(cell, buffer_) : cell);
+  }
+  if (!appended) column.numbers.Append(NumberIn(cell, place, decimal_sign_));
+}
+
+// Throws the fault that rows one by one would have found first, if the columns up to here and the
+// rows that follow are numbers and text.
+void ColumnCollector::AddFirstCells(std::span<const FirstCells> following) {
+  std::exception_ptr fault;
+  std::size_t fault_line = std::numeric_limits<std::size_t>::max();
+  for (std::size_t i = 0; i < following.size(); ++i) {
+    FirstCells& known = first_cells_[i];
+    const FirstCells& more = following[i];
+    const std::size_t line = known.number_line != 0 ? more.text_line
+                             : known.text           ? more.number_line
+                                                    : 0;
+    if (line != 0 && line < fault_line) {
+      fault = known.text ? known.text : more.text;
+      fault_line = line;
+    }
+    if (!known.text) {
+      known.text = more.text;
+      known.text_line = more.text_line;
+    }
+    if (known.number_line == 0) known.number_line = more.number_line;
+  }
+  if (fault) std::rethrow_exception(fault);
 }
 
 // Adds the lines before the end.
 void ColumnCollector::AddBlankLines(const std::string& input, std::size_t end, std::size_t count) {
-  for (std::size_t line = end - count; line < end; ++line) SkipRow(input, line);
+  if (count == 0) return;
+  if (!missing_->AreAllowed())
+    RefuseEmptyCell({input, end - count, columns_[0].number, columns_[0].name});
+  for (; count > 0; --count) SkipRow();
 }
 
-void ColumnCollector::SkipRow(const std::string& input, std::size_t line) {
-  for (TableColumn& column : columns_) Skip(column, input, line);
-}
-
-void ColumnCollector::Skip(TableColumn& column, const std::string& input, std::size_t line) const {
-  if (!selection_->skip_empty) RefuseEmptyCell({input, line, column.number, column.name});
-  ++column.skipped;
+void ColumnCollector::SkipRow() {
+  for (TableColumn& column : columns_) ++column.missing;
 }
 
 }  // namespace qorvex::apps

@@ -6,6 +6,7 @@
 #include <limits>
 #include <numbers>
 
+#include "qorvex/base/currency_text.h"
 #include "qorvex/base/elementary/functions.h"
 #include "qorvex/base/errors.h"
 #include "qorvex/base/fitted_text.h"
@@ -45,7 +46,8 @@ std::string FixedText(Extended figure, int decimals) {
   return FloatText(figure, {.decimals = decimals});
 }
 
-// With a blank between groups of three digits, before the point and behind it.
+// With a blank between groups of three digits, before the point and, of more than four digits,
+// behind it.
 std::string WithGroups(const std::string& text) {
   const std::size_t begin = text.starts_with('-') ? 1 : 0;
   const std::size_t point = std::min(text.find_first_not_of(kDecimalDigits, begin), text.size());
@@ -53,10 +55,12 @@ std::string WithGroups(const std::string& text) {
   const std::size_t end =
       has_decimals ? std::min(text.find_first_not_of(kDecimalDigits, point + 1), text.size())
                    : point;
+  constexpr std::size_t alone = 4;
+  const bool groups_decimals = end - point > alone + 1;
   std::string grouped;
   for (std::size_t i = 0; i < text.size(); ++i) {
     const bool before_point = i > begin && i < point && (point - i) % 3 == 0;
-    const bool behind_point = i > point + 1 && i < end && (i - point) % 3 == 1;
+    const bool behind_point = groups_decimals && i > point + 1 && i < end && (i - point) % 3 == 1;
     if (before_point || behind_point) grouped += ' ';
     grouped += text[i];
   }
@@ -107,6 +111,11 @@ std::string FigureFormat::Text(std::uint64_t number) const {
   return grouped ? WithGroups(text) : text;
 }
 
+std::string FigureFormat::Text(Currency amount) const {
+  const std::string text = Currency2EStr(amount);
+  return grouped ? WithGroups(text) : text;
+}
+
 FigureFormat FormatFor(int significant_digits) {
   constexpr int least = 7;
   return {.kind = FigureFormat::Kind::kDigits, .count = std::max(least, significant_digits + 1)};
@@ -123,10 +132,14 @@ int SignificantDigits(Extended figure) {
 int SignificantDigits(const ColumnNumbers& numbers) {
   if (numbers.empty()) return 0;
   if (numbers.AreDecimal()) return static_cast<int>(Int2EStr(numbers.LargestInteger()).size());
-  return numbers.Visit([](const auto& vector) {
-    const auto [least, greatest] = std::ranges::minmax(vector);
-    return std::max(SignificantDigits(static_cast<Extended>(least)),
-                    SignificantDigits(static_cast<Extended>(greatest)));
+  // Some of them tell, at no cost that could be measured.
+  constexpr std::size_t enough = 50;
+  const std::size_t step = numbers.size() / enough + 1;
+  return numbers.Visit([step](const auto& vector) {
+    int digits = 0;
+    for (std::size_t i = 0; i < vector.size(); i += step)
+      digits = std::max(digits, SignificantDigits(static_cast<Extended>(vector[i])));
+    return digits;
   });
 }
 

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "apps/common/column_numbers.h"
+#include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 
 namespace qorvex::apps {
@@ -28,7 +29,7 @@ struct FigureFormat {
   Kind kind = Kind::kAllBits;
   /// Of significant digits or of decimals.
   int count = 0;
-  /// Whether a blank separates the digits in threes.
+  /// Whether a blank separates the digits in threes; not those of up to four decimals.
   bool grouped = false;
 
   /// The text of a figure; "Not available" for NaN.
@@ -40,8 +41,11 @@ struct FigureFormat {
   /// The text of a probability, however small: with decimals, in exponent form below their reach;
   /// below the range of the format, from the logarithm.
   [[nodiscard]] std::string Text(const Probability& probability) const;
-  /// The text of a number of things, which has no decimals.
+  /// @{
+  /// The text of a number of things, which has no decimals, and of an amount with all of its own.
   [[nodiscard]] std::string Text(std::uint64_t number) const;
+  [[nodiscard]] std::string Text(Currency amount) const;
+  /// @}
 };
 
 /// Figures of a report on such numbers have at least 7 significant digits, and one more than the
@@ -50,8 +54,8 @@ struct FigureFormat {
 
 /// @{
 /// The significant digits of the shortest text of a figure, or of the numbers of a column: from the
-/// first of the largest to the last decimal; of numbers without a common unit, those of the
-/// smallest and of the largest. 0 without numbers.
+/// first of the largest to the last decimal; of numbers without a common unit, the most that one
+/// of about fifty has. 0 without numbers.
 [[nodiscard]] int SignificantDigits(Extended figure);
 [[nodiscard]] int SignificantDigits(const ColumnNumbers& numbers);
 /// @}

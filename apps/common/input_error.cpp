@@ -43,13 +43,15 @@ std::string OnOneLine(std::string_view text) {
   return line;
 }
 
+std::string Shortened(std::string_view text) {
+  std::size_t length = 0;
+  for (std::size_t characters = 0; length < text.size(); ++length)
+    if (!ContinuesCharacter(text[length]) && ++characters > kLongestExcerpt) break;
+  return OnOneLine(text.substr(0, length)) + (length < text.size() ? "..." : "");
+}
+
 std::string Excerpt(std::string_view text) {
-  std::size_t length = text.size();
-  if (length > kLongestExcerpt) {
-    length = kLongestExcerpt;
-    while (length > 0 && ContinuesCharacter(text[length])) --length;
-  }
-  return '"' + OnOneLine(text.substr(0, length)) + (length < text.size() ? "...\"" : "\"");
+  return '"' + Shortened(text) + '"';
 }
 
 }  // namespace qorvex::apps

@@ -12,15 +12,17 @@ namespace qorvex::apps {
 
 /// The kind of fault. A command uses it to suggest an option.
 enum class InputFault {
-  kUnreadable,      ///< the file cannot be opened or read
-  kMalformed,       ///< wrong quotes, ragged or endless rows, wrong encoding
-  kNoValues,        ///< no row, or no value in a column
-  kNoSuchColumn,    ///< a column that does not exist, or whose name is ambiguous
-  kTextInFirstRow,  ///< text instead of a finite number, where a header may be
-  kNotANumber,      ///< text instead of a finite number or an amount
-  kEmptyCell,       ///< no text where a number is needed
-  kOutOfRange,      ///< numbers, amounts or results beyond their range
-  kNoResult,        ///< no inverse, no product, or parameters outside the domain
+  kUnreadable,        ///< the file cannot be opened or read
+  kMalformed,         ///< wrong quotes, ragged or endless rows, binary files
+  kWrongEncoding,     ///< bytes that are no character in the encoding
+  kNoValues,          ///< no row, or no value in a column
+  kNoSuchColumn,      ///< a column that does not exist, or whose name is ambiguous
+  kTextInFirstRow,    ///< text instead of a finite number, where a header may be
+  kNotANumber,        ///< text instead of a finite number or an amount
+  kOtherDecimalSign,  ///< a number that is one with the other decimal sign
+  kEmptyCell,         ///< no text where a number is needed
+  kOutOfRange,        ///< numbers, amounts or results beyond their range
+  kNoResult,          ///< no inverse, no product, or parameters outside the domain
 };
 
 /// A fault in the input. The text is "name: what" or "name:line: what".
@@ -39,7 +41,10 @@ class InputError : public std::runtime_error {
 /// The text on one line: control characters become escapes (\n, \t, \x1B).
 [[nodiscard]] std::string OnOneLine(std::string_view text);
 
-/// The text in double quotes, on one line, truncated after 40 bytes.
+/// The text on one line, cut after 40 characters.
+[[nodiscard]] std::string Shortened(std::string_view text);
+
+/// The same in double quotes.
 [[nodiscard]] std::string Excerpt(std::string_view text);
 
 }  // namespace qorvex::apps

@@ -70,14 +70,14 @@ inline constexpr NumberParameter kSuccessProbability = {"--success-probability",
                                                         NumberKind::kShare,
                                                         0.3L,
                                                         false,
-                                                        "--prob"};
+                                                        "-p,--prob"};
 /// The same where 0 and 1 are excluded.
 inline constexpr NumberParameter kOpenSuccessProbability = {"--success-probability",
                                                             "probability of success in each trial",
                                                             NumberKind::kProbability,
                                                             0.3L,
                                                             false,
-                                                            "--prob"};
+                                                            "-p,--prob"};
 inline constexpr NumberParameter kLambda = {"--lambda", "mean", NumberKind::kPositive,
                                             4,          false,  "--mean,--rate"};
 

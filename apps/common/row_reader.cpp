@@ -1,258 +1,99 @@
 #include "apps/common/row_reader.h"
 
 #include <algorithm>
-#include <bit>
-#include <cstring>
-#include <emmintrin.h>
 #include <utility>
 
 #include "apps/common/cells.h"
+#include "apps/common/format_finder.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-constexpr bool IsBlank(char c) {
-  return c == ' ' || c == '\t';
+// As much of the text as it takes to see two rows below the first, at least 64 KiB.
+struct Sample {
+  std::string_view text;
+  bool is_whole;
+};
+
+bool HasThreeLines(std::string_view text) {
+  int lines = 0;
+  bool blank = true;
+  for (const char c : text) {
+    if (c == '\n') {
+      if (!blank && ++lines == 3) return true;
+      blank = true;
+    } else if (c != ' ' && c != '\t' && c != '\r') {
+      blank = false;
+    }
+  }
+  return false;
 }
 
-__m128i Load(const char* characters) {
-  return _mm_loadu_si128(reinterpret_cast<const __m128i*>(characters));
+Sample SampleOf(TextDecoder& decoder) {
+  std::size_t size = std::size_t{1} << 16;
+  std::string_view text = decoder.Peek(size);
+  while (text.size() == size && size < RowScanner::kLongestRow && !HasThreeLines(text))
+    text = decoder.Peek(size *= 2);
+  return {text, text.size() < size};
 }
 
 }  // namespace
 
 RowReader::RowReader(TextInput input, const TableFormat& format, std::size_t block_size)
-    : input_(std::move(input)),
+    : name_(input.name),
+      decoder_(std::make_shared<TextDecoder>(std::move(input), format.encoding)),
       format_(format),
-      buffer_(std::max<std::size_t>(block_size, 4) + kReadableBehind) {}
+      block_size_(block_size) {}
 
 bool RowReader::Next() {
-  const bool is_first = !std::exchange(started_, true);
+  const bool is_first = !rows_;
   if (is_first) Start();
-  for (blank_lines_ = 0; ReadLine(); ++blank_lines_) {
-    if (cells_.empty()) continue;
-    if (is_first && !format_.header)
-      format_.header = std::ranges::any_of(
-          cells_, [this](std::string_view cell) { return IsText(cell, *format_.decimal_sign); });
-    return true;
-  }
-  return false;
+  first_row_.clear();
+  if (!rows_->Next()) return false;
+  if (is_first) ReadHeader();
+  return true;
 }
 
-bool RowReader::TakeLines(RowReader& lines) {
-  line_ = next_line_;
-  Refill();
-  const std::string_view text(buffer_.data() + begin_, end_ - begin_);
-  const std::size_t length = text.rfind('\n') + 1;
-  if (length == 0 || text.find('"') < length) return false;
-  lines.buffer_.resize(buffer_.size());
-  text.copy(lines.buffer_.data(), text.npos, length);
-  buffer_.swap(lines.buffer_);
-  lines.begin_ = std::exchange(begin_, 0);
-  lines.end_ = lines.begin_ + length;
-  end_ = text.size() - length;
-
-  lines.input_.name = input_.name;
-  lines.delimiter_ = delimiter_;
-  lines.delimiter_is_blank_ = delimiter_is_blank_;
-  lines.delimiters_ = delimiters_;
-  lines.other_delimiters_ = other_delimiters_;
-  lines.started_ = lines.input_ended_ = true;
-  lines.next_line_ = next_line_;
-  const char* const first = lines.buffer_.data() + lines.begin_;
-  next_line_ += static_cast<std::size_t>(std::count(first, lines.End(), '\n'));
-  return true;
+const TableFormat& RowReader::Format() {
+  format_.encoding = decoder_->Found();
+  return format_;
 }
 
 void RowReader::Start() {
-  Refill();
-  const std::string_view text(buffer_.data(), end_);
-  if (text.starts_with("\xFF\xFE") || text.starts_with("\xFE\xFF")) {
-    FailAt(buffer_.data(), "the text is UTF-16; UTF-8 is needed");
+  Sample sample = SampleOf(*decoder_);
+  std::size_t first_line = 1;
+  if (const auto line = FindDelimiterLine(sample.text)) {
+    if (!format_.delimiter) format_.delimiter = line->delimiter;
+    decoder_->Skip(line->length);
+    sample.text.remove_prefix(line->length);
+    first_line = 2;
   }
-  if (text.starts_with("\xEF\xBB\xBF")) begin_ = 3;
-
-  if (!format_.encoding) format_.encoding = Encoding::kUtf8;
-  if (!format_.decimal_sign) format_.decimal_sign = '.';
-  if (!format_.delimiter) format_.delimiter = DetectDelimiter();
-  delimiter_ = *format_.delimiter;
-  delimiter_is_blank_ = delimiter_ == ' ';
-  delimiters_.fill(delimiter_);
-  other_delimiters_.fill(delimiter_is_blank_ ? '\t' : delimiter_);
+  const FoundFormat found = FindFormat(sample.text, sample.is_whole, format_);
+  format_.delimiter = found.syntax.delimiter;
+  format_.decimal_sign = found.decimal_sign;
+  first_row_is_short_ = found.first_row_is_short;
+  rows_.emplace(
+      TextInput{name_, [decoder = decoder_](
+                           char* buffer, std::size_t size) { return decoder->Read(buffer, size); }},
+      found.syntax, block_size_, first_line);
 }
 
-char RowReader::DetectDelimiter() {
-  bool semicolon = false;
-  bool tab = false;
-  bool in_quotes = false;
-  bool blank_line = true;
-  char previous = '\n';
-  for (std::size_t offset = 0; begin_ + offset < end_ || Refill(); ++offset) {
-    const char c = buffer_[begin_ + offset];
-    // A quote opens a quoted cell only at its start or right after the quote that it doubles.
-    constexpr std::string_view before_quote = "\n\" \t,;";
-    if (c == '"') {
-      in_quotes = !in_quotes && before_quote.find(previous) != std::string_view::npos;
-    } else if (!in_quotes) {
-      if (c == ',') return ',';
-      if (c == '\n') {
-        if (!blank_line) break;
-        tab = false;
-      }
-      semicolon |= c == ';';
-      tab |= c == '\t';
-    }
-    blank_line &= IsBlank(c) || c == '\r' || c == '\n';
-    previous = c;
+void RowReader::ReadHeader() {
+  const auto cells = rows_->Cells();
+  if (!format_.header) {
+    format_.header = std::ranges::any_of(cells, [this](std::string_view cell) {
+      return IsText(cell, *format_.decimal_sign) && !format_.missing.Contains(cell);
+    });
   }
-  return semicolon ? ';' : tab ? '\t' : ' ';
-}
-
-// Moves the unread bytes to the front and fills the buffer. Returns false at the end of the text.
-bool RowReader::Refill() {
-  if (input_ended_) return false;
-  std::memmove(buffer_.data(), buffer_.data() + begin_, end_ - begin_);
-  end_ -= std::exchange(begin_, 0);
-  // One byte is reserved for the end of the last line, which may be missing.
-  std::size_t room = buffer_.size() - kReadableBehind;
-  if (end_ + 1 == room) {
-    if (room >= kLongestRow) {
-      FailAt(buffer_.data(),
-             "the row is too long (more than 64 MiB); a closing quote may be missing");
-    }
-    room *= 2;
-    buffer_.resize(room + kReadableBehind);
+  if (!*format_.header) return;
+  if (first_row_is_short_) {
+    first_row_.emplace_back();
+    first_row_.insert(first_row_.end(), cells.begin(), cells.end());
   }
-  while (!input_ended_ && end_ + 1 < room) {
-    const std::size_t count = input_.read(buffer_.data() + end_, room - 1 - end_);
-    end_ += count;
-    input_ended_ = count == 0;
-  }
-  // If the last line has an end, this adds a blank line, which is ignored at the end of the text.
-  if (input_ended_) buffer_[end_++] = '\n';
-  return true;
-}
-
-// Reads one line, or several if quotes contain line breaks, into cells_; a blank line has no cells.
-bool RowReader::ReadLine() {
-  line_ = next_line_;
-  while (!ScanRow()) {
-    if (input_ended_) return false;
-    Refill();
-  }
-  return true;
-}
-
-// Returns false if the row does not end within the buffer. It is scanned again after a refill,
-// which costs one row per block, and one pass over a long row each time the buffer doubles.
-bool RowReader::ScanRow() {
-  cells_.clear();
-  cells_with_doubled_quotes_.clear();
-  const char* const row = buffer_.data() + begin_;
-  const char* at = row;
-  bool any_quoted = false;
-  for (;; ++at) {
-    at = SkipBlanks(at);
-    if (at == End()) return false;
-    const bool quoted = *at == '"';
-    any_quoted |= quoted;
-    at = quoted ? ScanQuotedCell(at) : ScanPlainCell(at);
-    if (at == nullptr) return false;
-    if (*at == '\n') break;
-  }
-  ++at;
-  if (cells_.size() == 1 && cells_[0].empty() && !any_quoted) cells_.clear();
-  next_line_ = line_ + (any_quoted ? static_cast<std::size_t>(std::count(row, at, '\n')) : 1);
-  begin_ += static_cast<std::size_t>(at - row);
-  JoinDoubledQuotes();
-  return true;
-}
-
-// The scanning functions append a cell and return the position of the delimiter or line feed that
-// ends it. If that is not in the buffer, they return null, EndOfPlainCell the end of the buffer.
-const char* RowReader::EndOfPlainCell(const char* at) const {
-  const char* const end = End();
-  const __m128i ends[] = {Load(delimiters_.data()), Load(other_delimiters_.data()),
-                          _mm_set1_epi8('\r'), _mm_set1_epi8('\n')};
-  while (at < end) {
-    const __m128i text = Load(at);
-    const auto is = [&](int i) { return _mm_cmpeq_epi8(text, ends[i]); };
-    const __m128i found = _mm_or_si128(_mm_or_si128(is(0), is(1)), _mm_or_si128(is(2), is(3)));
-    const auto mask = static_cast<unsigned>(_mm_movemask_epi8(found));
-    at += mask == 0 ? static_cast<int>(sizeof text) : std::countr_zero(mask);
-    if (mask == 0) continue;
-    if (at >= end || *at != '\r') break;
-    if (at + 1 == end) return end;
-    if (at[1] != '\n') FailAt(at, "a line ends with CR alone; LF or CR LF is needed");
-    ++at;
-  }
-  return std::min(at, end);
-}
-
-const char* RowReader::ScanPlainCell(const char* at) {
-  const char* const cell = at;
-  at = EndOfPlainCell(at);
-  if (at == End()) return nullptr;
-
-  std::string_view text(cell, at);
-  if (*at == '\n' && text.ends_with('\r')) text.remove_suffix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
-  // Blanks before the end of a line do not start another cell.
-  if (!delimiter_is_blank_ || !text.empty()) cells_.push_back(text);
-  return at;
-}
-
-const char* RowReader::ScanQuotedCell(const char* at) {
-  const char* const quote = at;
-  const char* const end = End();
-  bool doubled = false;
-  for (++at;; at += 2) {
-    at = static_cast<const char*>(std::memchr(at, '"', static_cast<std::size_t>(end - at)));
-    if (at == nullptr && input_ended_) FailAt(quote, "the quote is not closed");
-    if (at == nullptr || at + 1 == end) return nullptr;
-    if (at[1] != '"') break;
-    doubled = true;
-  }
-  const std::string_view text(quote + 1, at);
-
-  ++at;
-  if (!delimiter_is_blank_) at = SkipBlanks(at);
-  if (at == end) return nullptr;
-  if (*at == '\r' && at + 1 != end && at[1] == '\n') ++at;
-  if (*at != '\n' && *at != delimiter_ && !(delimiter_is_blank_ && *at == '\t')) {
-    if (ScanPlainCell(at) == nullptr) return nullptr;
-    FailAt(quote, Excerpt(cells_.back()) + " follows a closing quote");
-  }
-  if (doubled) cells_with_doubled_quotes_.push_back(cells_.size());
-  cells_.push_back(text);
-  return at;
-}
-
-const char* RowReader::SkipBlanks(const char* at) const {
-  const char* const end = End();
-  while (at != end && IsBlank(*at) && (delimiter_is_blank_ || *at != delimiter_)) ++at;
-  return at;
-}
-
-// Works in place, after the row is complete and will not be scanned again.
-void RowReader::JoinDoubledQuotes() {
-  for (const std::size_t index : cells_with_doubled_quotes_) {
-    std::string_view& cell = cells_[index];
-    char* const first = buffer_.data() + (cell.data() - buffer_.data());
-    char* out = first;
-    for (std::size_t i = 0; i < cell.size(); ++i) {
-      *out++ = cell[i];
-      if (cell[i] == '"') ++i;
-    }
-    cell = {first, out};
-  }
-}
-
-void RowReader::FailAt(const char* position, const std::string& what) const {
-  const auto lines_before = std::count(buffer_.data() + begin_, position, '\n');
-  throw InputError(InputFault::kMalformed, input_.name,
-                   line_ + static_cast<std::size_t>(lines_before), what);
+  has_row_names_ =
+      first_row_is_short_ || (cells.size() > 1 && cells[0].empty() &&
+                              std::ranges::none_of(cells.subspan(1), &std::string_view::empty));
 }
 
 }  // namespace qorvex::apps

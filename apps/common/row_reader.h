@@ -1,111 +1,79 @@
 #pragma once
 
 /// @file
-/// Rows of cells from delimited text.
+/// Rows of cells from delimited text whose format is found.
 
-#include <array>
 #include <cstddef>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "apps/common/input_error.h"
+#include "apps/common/row_scanner.h"
 #include "apps/common/table_format.h"
+#include "apps/common/text_decoder.h"
 #include "apps/common/text_input.h"
 
 namespace qorvex::apps {
 
-/// Reads delimited text (RFC 4180, or columns separated by blanks) row by row, in large blocks,
-/// without copying cells. Blanks are spaces and tabs.
+/// Reads the rows of a text by the rules of RowScanner, and finds from the first rows what the
+/// format leaves open:
 ///
-/// - Lines end with LF or CR LF; the end of the last line may be missing. Outside quotes, a CR
-///   without LF is refused. A UTF-8 byte order mark is skipped.
-/// - The delimiter ' ' stands for any run of blanks; blanks at both ends of a line are ignored.
-/// - A cell that starts with a double quote ends at the next quote that is not doubled. Within it,
-///   a doubled quote stands for one quote, and delimiters and line breaks are text. In other cells,
-///   a quote is text.
-/// - Blanks around quotes and around unquoted cells are ignored.
-/// - Blank lines are not rows. They are counted, so that the caller can detect gaps between rows.
-///
-/// Memory: one block, or twice the longest row if that is longer.
+/// - Encoding: as for TextDecoder. Cells are UTF-8.
+/// - Delimiter: what a first line "sep=;" says, which is no row; otherwise comma, semicolon or tab
+///   if the first line that is not blank contains one outside quotes, and blanks. Of several, the
+///   one that divides the rows into equally many cells of which the fewest are text.
+/// - Quotes within quotes: after backslashes if the first rows cannot be read with doubled quotes.
+/// - Decimal sign: the comma if it is not the delimiter, no number has a point, and some have a
+///   comma. Unless the semicolon delimits, the comma of 1,234 may also group digits; it counts if
+///   another number has more or fewer than three digits behind it.
+/// - Header: whether any cell of the first row is text.
+/// - Names of rows: the first column, if the header is shorter by one cell than all rows below it,
+///   or if only the first cell of the header is empty.
 class RowReader {
  public:
-  static constexpr std::size_t kBlockSize = std::size_t{1} << 18;
-  /// Longer rows are refused: most likely a closing quote is missing, and the rest of the file
-  /// would be read into memory.
-  static constexpr std::size_t kLongestRow = std::size_t{1} << 26;
+  static constexpr std::size_t kBlockSize = RowScanner::kBlockSize;
 
-  /// What the format leaves open is found from the text.
   explicit RowReader(TextInput input, const TableFormat& format = {},
                      std::size_t block_size = kBlockSize);
 
-  /// Reads the next row; returns false at the end of the text. Throws InputError (kMalformed) for a
-  /// quote that is not closed, for text after a closing quote, for lines that end with CR alone,
-  /// for rows longer than kLongestRow and for UTF-16. Exceptions of the input pass through.
+  /// Reads the next row; returns false at the end of the text. Throws InputError for what
+  /// TextDecoder and RowScanner refuse. Exceptions of the input pass through.
   bool Next();
 
-  /// The format with all that was found. Complete after the first call of Next.
-  [[nodiscard]] const TableFormat& Format() const noexcept { return format_; }
-  /// Whether the first column holds names of rows: the first line is shorter by one cell, or its
-  /// first cell is the only empty one. The first row then starts with an empty cell.
+  /// The format with all that was found. Complete after the first call of Next; only a text of
+  /// ASCII may turn out to be Latin-1 later.
+  [[nodiscard]] const TableFormat& Format();
+  /// Whether the first column holds names of rows. If the first row was too short for them, it
+  /// starts with an empty cell.
   [[nodiscard]] bool HasRowNames() const noexcept { return has_row_names_; }
 
-  /// Moves the whole lines that have been read ahead to another reader, which reads only them, on
-  /// any thread, and keeps their numbers. Returns false, without taking any, at the end of the
-  /// text, if the next line is longer than the block, or if there is a quote, whose cell might end
-  /// in a later line. Requires that Next has been called.
-  bool TakeLines(RowReader& lines);
+  /// As for RowScanner.
+  [[nodiscard]] std::span<const std::string_view> Cells() const noexcept {
+    return first_row_.empty() ? rows_->Cells() : first_row_;
+  }
+  [[nodiscard]] std::size_t Line() const noexcept { return rows_->Line(); }
+  [[nodiscard]] std::size_t BlankLines() const noexcept { return rows_->BlankLines(); }
+  [[nodiscard]] const std::string& Name() const noexcept { return name_; }
 
-  /// After each cell that many bytes can be read, so that it can be scanned in words.
-  static constexpr std::size_t kReadableBehind = 16;
-  /// The cells of the row, at least one. Valid until the next call of Next.
-  [[nodiscard]] std::span<const std::string_view> Cells() const noexcept { return cells_; }
-  /// The line on which the row starts, from 1.
-  [[nodiscard]] std::size_t Line() const noexcept { return line_; }
-  /// The line that is read next.
-  [[nodiscard]] std::size_t NextLine() const noexcept { return next_line_; }
-  /// The number of blank lines directly before the row.
-  [[nodiscard]] std::size_t BlankLines() const noexcept { return blank_lines_; }
-  [[nodiscard]] const std::string& Name() const noexcept { return input_.name; }
+  /// The scanner, to read all rows behind the first with it. Requires that Next has been called.
+  [[nodiscard]] RowScanner& Scanner() noexcept { return *rows_; }
 
  private:
   void Start();
-  [[nodiscard]] char DetectDelimiter();
-  bool Refill();
-  bool ReadLine();
-  bool ScanRow();
-  const char* ScanQuotedCell(const char* at);
-  const char* ScanPlainCell(const char* at);
-  [[nodiscard]] const char* EndOfPlainCell(const char* at) const;
-  [[nodiscard]] const char* SkipBlanks(const char* at) const;
-  void JoinDoubledQuotes();
-  [[nodiscard]] const char* End() const { return buffer_.data() + end_; }
-  [[noreturn]] void FailAt(const char* position, const std::string& what) const;
+  void ReadHeader();
 
-  TextInput input_;
+  std::string name_;
+  std::shared_ptr<TextDecoder> decoder_;
   TableFormat format_;
+  std::size_t block_size_;
+  std::optional<RowScanner> rows_;
+  bool first_row_is_short_ = false;
   bool has_row_names_ = false;
-  char delimiter_ = ' ';
-  bool delimiter_is_blank_ = false;
-  // Each repeated, to be compared with sixteen characters at once. Both are the same unless blanks
-  // delimit.
-  std::array<char, 16> delimiters_{};
-  std::array<char, 16> other_delimiters_{};
-
-  // The bytes from begin_ to end_ have not been read; the row that is being read starts at begin_.
-  std::vector<char> buffer_;
-  std::size_t begin_ = 0;
-  std::size_t end_ = 0;
-  bool started_ = false;
-  bool input_ended_ = false;
-
-  std::vector<std::string_view> cells_;
-  std::vector<std::size_t> cells_with_doubled_quotes_;
-  std::size_t line_ = 1;
-  std::size_t next_line_ = 1;
-  std::size_t blank_lines_ = 0;
+  // The first row with its empty cell, while it is the current one.
+  std::vector<std::string_view> first_row_;
 };
 
 }  // namespace qorvex::apps

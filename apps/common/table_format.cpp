@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "apps/common/column_numbers.h"
+#include "apps/common/cells.h"
 
 namespace qorvex::apps {
 
@@ -20,12 +20,15 @@ const char* NameOf(Encoding encoding) {
   return "";
 }
 
-MissingWords::MissingWords() : words_{"NA", "NaN", "nan", "null"} {}
+MissingWords::MissingWords() : MissingWords({"NA", "NaN", "nan", "null"}) {}
 
-MissingWords::MissingWords(std::vector<std::string> words)
-    : words_(std::move(words)),
-      include_numbers_(std::ranges::any_of(
-          words_, [](const std::string& word) { return ParseDecimal(word).has_value(); })) {}
+MissingWords::MissingWords(std::vector<std::string> words) : words_(std::move(words)) {
+  std::erase(words_, "");
+  for (const std::string& word : words_) {
+    starts_.set(static_cast<unsigned char>(word[0]));
+    include_numbers_ = include_numbers_ || FindNumber(word) || FindNumber(word, ',');
+  }
+}
 
 MissingWords MissingWords::None() {
   MissingWords none{std::vector<std::string>()};
@@ -33,8 +36,8 @@ MissingWords MissingWords::None() {
   return none;
 }
 
-bool MissingWords::Contains(std::string_view cell) const {
-  return cell.empty() ? are_allowed_ : std::ranges::find(words_, cell) != words_.end();
+bool MissingWords::ContainsWord(std::string_view cell) const {
+  return std::ranges::find(words_, cell) != words_.end();
 }
 
 }  // namespace qorvex::apps

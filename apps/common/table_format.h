@@ -3,6 +3,7 @@
 /// @file
 /// How a table is written: encoding, delimiter, decimal sign, header and missing values.
 
+#include <bitset>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,14 +32,23 @@ class MissingWords {
   /// No value may be missing: empty cells are faults, and words are text.
   [[nodiscard]] static MissingWords None();
 
-  [[nodiscard]] bool Contains(std::string_view cell) const;
+  /// The words; an empty cell is not among them.
+  [[nodiscard]] const std::vector<std::string>& Words() const noexcept { return words_; }
+  [[nodiscard]] bool Contains(std::string_view cell) const {
+    if (cell.empty()) return are_allowed_;
+    return starts_[static_cast<unsigned char>(cell[0])] && ContainsWord(cell);
+  }
   /// Whether any value may be missing.
   [[nodiscard]] bool AreAllowed() const noexcept { return are_allowed_; }
   /// Whether a word is also a number, such as -99.
   [[nodiscard]] bool IncludeNumbers() const noexcept { return include_numbers_; }
 
  private:
+  [[nodiscard]] bool ContainsWord(std::string_view cell) const;
+
   std::vector<std::string> words_;
+  // The first characters of the words.
+  std::bitset<256> starts_;
   bool are_allowed_ = true;
   bool include_numbers_ = false;
 };

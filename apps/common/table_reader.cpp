@@ -22,11 +22,11 @@ constexpr std::size_t kMostColumnsInParts = 256;
 
 // Reads the rows up to those that TakeLines leaves. Each thread takes the lines that follow those
 // taken before, and collects their columns.
-void AddRowsInParts(RowReader& rows, ColumnCollector& collector, unsigned threads) {
+void AddRowsInParts(RowScanner& rows, ColumnCollector& collector, unsigned threads) {
   std::mutex mutex;
   bool ended = false;
   std::deque<ColumnCollector::Part> parts;
-  const auto take = [&](RowReader& lines) -> ColumnCollector::Part* {
+  const auto take = [&](RowScanner& lines) -> ColumnCollector::Part* {
     const std::lock_guard lock(mutex);
     if (ended) return nullptr;
     ended = true;  // unless lines are taken
@@ -40,7 +40,7 @@ void AddRowsInParts(RowReader& rows, ColumnCollector& collector, unsigned thread
     return ended ? nullptr : &part;
   };
   RunOnThreads(threads, [&] {
-    RowReader lines(TextInput(), {}, 0);
+    RowScanner lines(TextInput(), RowSyntax(), 0);
     while (ColumnCollector::Part* const part = take(lines)) {
       try {
         part->rows.AddAllRows(lines);
@@ -64,14 +64,17 @@ std::string TableColumn::Title() const {
 
 Table ReadTable(TextInput input, const TableSelection& selection, unsigned threads,
                 std::size_t block_size) {
-  RowReader rows(std::move(input), {.delimiter = selection.delimiter}, block_size);
-  RequireFirstRow(rows);
-  ColumnCollector collector(rows, selection);
+  RowReader reader(std::move(input), selection.format, block_size);
+  RequireFirstRow(reader);
+  ColumnCollector collector(reader, selection);
+  RowScanner& rows = reader.Scanner();
   if (!collector.HasHeader()) collector.AddCells(rows);
   if (threads > 1 && collector.CountColumns() <= kMostColumnsInParts)
     AddRowsInParts(rows, collector, threads);
   collector.AddAllRows(rows);
-  return collector.Finish(rows.Name());
+  Table table = collector.Finish(rows.Name());
+  table.format = reader.Format();
+  return table;
 }
 
 }  // namespace qorvex::apps

@@ -11,6 +11,7 @@
 #include "apps/common/column_numbers.h"
 #include "apps/common/labels.h"
 #include "apps/common/row_reader.h"
+#include "apps/common/table_format.h"
 #include "apps/common/text_input.h"
 
 namespace qorvex::apps {
@@ -18,20 +19,16 @@ namespace qorvex::apps {
 /// What to read from a table.
 struct TableSelection {
   /// Names or 1-based numbers, in the order of the result. A name takes precedence over a number;
-  /// duplicates are ignored. Empty for all columns.
+  /// duplicates are ignored. Empty for all columns with numbers.
   std::vector<std::string> columns = {};
   /// The name or number of the column of weights, which follows the others in the result.
   std::optional<std::string> weights = {};
   /// The same for columns of labels, which are any text. They follow the weights.
   std::vector<std::string> labels = {};
-  /// As for RowReader: detected if not set; a space stands for any run of spaces and tabs.
-  std::optional<char> delimiter = {};
-  /// Whether the first row is a header. If not set, it is one if any of its cells is text.
-  std::optional<bool> header = {};
-  /// Skip empty cells instead of refusing them.
-  bool skip_empty = false;
-  /// With skip_empty, skip the whole row if any chosen cell in it is empty, so that values with the
-  /// same index belong to the same row.
+  /// What is not set is found by RowReader.
+  TableFormat format = {};
+  /// Skip the whole row if any chosen value in it is missing, so that values with the same index
+  /// belong to the same row.
   bool whole_rows = false;
   /// Read the cells, except weights and labels, as amounts of money.
   bool currency = false;
@@ -53,10 +50,10 @@ struct TableColumn {
   Labels labels = {};
   /// If there are labels: the rows without a number in this column, by the index of their labels.
   std::vector<std::size_t> gaps = {};
-  /// The number of empty cells, or of rows, that were skipped.
-  std::size_t skipped = 0;
+  /// The number of missing values, or of rows that were skipped for them.
+  std::size_t missing = 0;
 
-  /// "column 2 (speed)", or "column 2" without a name; control characters are written as escapes.
+  /// As ColumnTitle.
   [[nodiscard]] std::string Title() const;
 };
 
@@ -65,20 +62,28 @@ struct Table {
   /// The chosen columns.
   std::vector<TableColumn> columns;
   /// The cells of the header; empty without a header.
-  std::vector<std::string> header;
+  std::vector<std::string> header = {};
+  /// If no column was chosen, those without a number, without the names of rows.
+  std::vector<TableColumn> left_out = {};
+  /// The format that was found.
+  TableFormat format = {};
 };
 
 /// Reads the chosen columns. The others may contain any text.
 ///
 /// - A column of decimal numbers that fit is kept without rounding; others are converted to 80 bits
-///   by Str2Float. Amounts are read without rounding by Str2Currency. Infinities and NaN are
-///   refused.
-/// - A blank line between rows is a row of empty cells. Blank lines before the first row and after
-///   the last are ignored.
+///   by Str2Float. Amounts are read without rounding by Str2Currency. Infinities are refused, and
+///   so is NaN unless it stands for a missing value.
+/// - Missing values are skipped and counted. A blank line between rows is a row of empty cells.
+///   Blank lines before the first row and after the last are ignored.
+/// - If no column is chosen, columns without a number are left out. If a column has both numbers
+/// and
+///   text, its first text is at fault.
 /// - Every column of the result has at least one value.
 /// - Throws InputError for the first faulty line: for what RowReader refuses; kNoValues for a text
-///   without rows and for a column without values; kNoSuchColumn; kMalformed for a row whose length
-///   differs from that of the first; kEmptyCell, kNotANumber and kOutOfRange for a cell.
+///   without rows, for a chosen column without values and if no column has a number; kNoSuchColumn;
+///   kMalformed for a row whose length differs from that of the first; kEmptyCell if no value may
+///   be missing; kNotANumber and kOutOfRange for a cell.
 /// - Memory: 8 bytes per number without rounding and 16 otherwise, at most 2.5 times that while a
 ///   column grows or while the parts that several threads have read are joined.
 /// - Several threads share the work, up to the first block with a quote or the first row that is

@@ -173,7 +173,8 @@ std::vector<Variate> AllVariates() {
        {{"", PrepareMultivariateNormal, "", WhatIsWrongWithCovariance}}},
       {"binomial",
        "Binomial variates: successes in independent trials",
-       {kSuccessProbability, {"--trials", "number of trials", NumberKind::kInt64, 20}},
+       {kSuccessProbability,
+        {"--trials", "number of trials", NumberKind::kInt64, 20, false, "--size"}},
        {{"btpe",
          [](Arguments a) {
            return Figure(BinomialSampler(static_cast<std::int64_t>(a[1]), a[0]));
@@ -186,7 +187,8 @@ std::vector<Variate> AllVariates() {
       {"negative-binomial",
        "Negative binomial variates: successes before a given number of failures",
        {kOpenSuccessProbability,
-        {"--failures", "number of failures, which need not be whole", positive, 2}},
+        {"--failures", "number of failures, which need not be whole", positive, 2, false,
+         "--size"}},
        {{"", [](Arguments a) { return Figure(NegativeBinomialSampler(a[1], a[0])); },
          "--failures is at most 744 / -ln(1 - p) for p up to 0.7 and 2e7 beyond, where p is not "
          "within 5e-8 of 1"}}},

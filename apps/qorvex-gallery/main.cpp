@@ -6,9 +6,12 @@
 #include <QIcon>
 #include <QLocale>
 #include <QStandardPaths>
+#include <QStyle>
 #include <QStyleFactory>
+#include <cstdio>
 
 #include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/edge_style.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/translations.h"
 #include "apps/qorvex-gallery/pages/data_page.h"
@@ -23,6 +26,31 @@ namespace {
 void FixAppearance() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+// False, with a message, for a name that no language has.
+bool ChooseLanguage(const QString& name) {
+  const QLocale locale(name);
+  if (locale.language() == QLocale::C) {
+    std::fprintf(stderr,
+                 "qorvex-gallery: unknown language \"%s\"; use a name such as de or en_GB\n",
+                 qPrintable(name));
+    return false;
+  }
+  QLocale::setDefault(locale);
+  return true;
+}
+
+// The name, version and icon of the application.
+void SetIdentity() {
+  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
+  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
+  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
+  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
+  QIcon icon;
+  for (const int size : {16, 32, 48, 256})
+    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
+  QApplication::setWindowIcon(icon);
 }
 
 }  // namespace
@@ -57,21 +85,13 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
 
   const QApplication application(argc, argv);
-  QApplication::setApplicationName(QStringLiteral("qorvex-gallery"));
-  QApplication::setApplicationDisplayName(QStringLiteral("Qorvex Gallery"));
-  QApplication::setApplicationVersion(QStringLiteral(QORVEX_VERSION));
-  QGuiApplication::setDesktopFileName(QStringLiteral("org.qorvex.gallery"));
-  QIcon icon;
-  for (const int size : {16, 32, 48, 256})
-    icon.addFile(QStringLiteral(":/qorvex/gallery/qorvex-gallery-%1.png").arg(size));
-  QApplication::setWindowIcon(icon);
+  SetIdentity();
   parser.process(application);
-  if (parser.isSet(language)) {
-    QLocale::setDefault(QLocale(parser.value(language)));
-  } else if (takes_pictures) {
-    QLocale::setDefault(QLocale(QLocale::English));
-  }
+  const bool speaks_english = takes_pictures && !parser.isSet(language);
+  const QString wanted = speaks_english ? QStringLiteral("en") : parser.value(language);
+  if (!wanted.isEmpty() && !ChooseLanguage(wanted)) return 1;
   if (takes_pictures) FixAppearance();
+  QApplication::setStyle(new qorvex::gallery::EdgeStyle(QApplication::style()->name()));
   qorvex::gallery::InstallTranslations();
   using qorvex::gallery::Appearance;
   qorvex::gallery::SetAppearance(Appearance::kSystem);

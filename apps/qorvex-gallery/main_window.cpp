@@ -9,7 +9,9 @@
 #include <QMessageBox>
 #include <QMimeData>
 #include <QTabWidget>
+#include <QTimer>
 #include <QUrl>
+#include <chrono>
 
 #include "apps/qorvex-gallery/pages/data_page.h"
 #include "apps/qorvex-gallery/pages/distribution_page.h"
@@ -18,6 +20,7 @@
 #include "apps/qorvex-gallery/pages/regression_page.h"
 #include "apps/qorvex-gallery/pages/test_page.h"
 #include "apps/qorvex-gallery/widgets/help_window.h"
+#include "apps/qorvex-gallery/widgets/page_report_actions.h"
 #include "apps/qorvex-gallery/widgets/recent_files.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
@@ -40,7 +43,8 @@ MainWindow::MainWindow(QWidget* parent)
       pages_(new QTabWidget),
       data_(new DataPage(sheet_)),
       recent_(new RecentFiles(this)),
-      appearances_(new QActionGroup(this)) {
+      appearances_(new QActionGroup(this)),
+      rest_(new QTimer(this)) {
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
@@ -57,6 +61,13 @@ MainWindow::MainWindow(QWidget* parent)
   MakeHelpMenu(*menuBar()->addMenu(tr("&Help")));
   connect(&data_->Document(), &SheetDocument::TitleChanged, this, &MainWindow::ShowTitle);
   connect(&sheet_, &Sheet::Changed, this, &MainWindow::ShowTitle);
+  constexpr std::chrono::seconds rest(20);
+  rest_->setSingleShot(true);
+  rest_->setInterval(rest);
+  connect(&sheet_, &Sheet::Changed, rest_, qOverload<>(&QTimer::start));
+  connect(rest_, &QTimer::timeout, this, [this] {
+    if (KeepSession) static_cast<void>(KeepSession());
+  });
   ShowTitle();
   resize(1100, 720);
 }
@@ -83,9 +94,12 @@ void MainWindow::MakeFileMenu(QMenu& menu) {
   menu.addMenu(recent_);
   connect(recent_, &RecentFiles::Chosen, this, &MainWindow::Open);
   connect(document, &SheetDocument::FileUsed, recent_, &RecentFiles::Add);
+  menu.addAction(tr("&Format of the File…"), document, &SheetDocument::ChooseFormat);
   menu.addSeparator();
   menu.addAction(tr("&Save Data"), QKeySequence::Save, document, &SheetDocument::Save);
   menu.addAction(tr("Save Data &As…"), QKeySequence::SaveAs, document, &SheetDocument::SaveAs);
+  menu.addSeparator();
+  AddReportActions(menu, [this] { return static_cast<Page*>(pages_->currentWidget()); });
   menu.addSeparator();
   menu.addAction(tr("&Quit"), QKeySequence::Quit, this, &QWidget::close);
 }

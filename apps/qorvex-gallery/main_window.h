@@ -13,6 +13,7 @@
 class QActionGroup;
 class QMenu;
 class QTabWidget;
+class QTimer;
 
 namespace qorvex::gallery {
 
@@ -46,7 +47,8 @@ class MainWindow : public QMainWindow {
   void ChooseAppearance(Appearance appearance);
   /// @}
 
-  /// Keeps what the user has done for the next start, unsaved changes included. If there is no such
+  /// Keeps what the user has done for the next start, unsaved changes included; called when the
+  /// window closes, and when the sheet has rested for a while after a change. If there is no such
   /// function, or it returns false, closing the window asks about unsaved changes.
   std::function<bool()> KeepSession;
 
@@ -70,6 +72,7 @@ class MainWindow : public QMainWindow {
   DataPage* data_;
   RecentFiles* recent_;
   QActionGroup* appearances_;
+  QTimer* rest_;
   // Made when it is needed first.
   HelpWindow* help_ = nullptr;
 };

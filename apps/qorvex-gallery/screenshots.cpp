@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/screenshots.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QPixmap>
@@ -10,6 +11,10 @@
 
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/background_work.h"
+#include "apps/qorvex-gallery/model/format_doubt.h"
+#include "apps/qorvex-gallery/model/sheet_file.h"
+#include "apps/qorvex-gallery/model/table_input.h"
+#include "apps/qorvex-gallery/widgets/format_dialog.h"
 
 namespace qorvex::gallery {
 
@@ -26,6 +31,28 @@ void WaitUntilIdle(const MainWindow& window) {
   }
 }
 
+bool Write(QWidget& widget, const QString& file) {
+  if (!widget.grab().save(file)) {
+    std::fprintf(stderr, "qorvex-gallery: cannot write %s\n", qPrintable(file));
+    return false;
+  }
+  std::printf("%s\n", qPrintable(file));
+  return true;
+}
+
+// The choice of the form of a file, for a file in doubt.
+bool WritePreview(MainWindow& window, const QString& file) {
+  const QByteArray lines(
+      "station,2023,2024\nNorth,\"11,5\",\"12,1\"\nSouth,\"13,25\",NA\nEast,\"9,75\",10\n");
+  const SheetData sheet = ReadSheet(TextInputOf({}, lines), {});
+  FormatDialog dialog(QStringLiteral("stations.csv"), lines, sheet.Format(), DoubtIn(sheet),
+                      &window);
+  dialog.setAttribute(Qt::WA_DontShowOnScreen);
+  dialog.show();
+  WaitUntilIdle(window);
+  return Write(dialog, file);
+}
+
 }  // namespace
 
 bool WriteScreenshots(MainWindow& window, const QString& directory) {
@@ -38,6 +65,9 @@ bool WriteScreenshots(MainWindow& window, const QString& directory) {
   window.setAttribute(Qt::WA_DontShowOnScreen);
   window.show();
   WaitUntilIdle(window);
+  // A file whose form is in doubt is read in the form that was found.
+  for (QDialog* const dialog : window.findChildren<QDialog*>()) dialog->accept();
+  WaitUntilIdle(window);
   if (!window.ReadingError().isEmpty()) {
     std::fprintf(stderr, "qorvex-gallery: %s\n", qPrintable(window.ReadingError()));
     return false;
@@ -45,14 +75,10 @@ bool WriteScreenshots(MainWindow& window, const QString& directory) {
   for (int i = 0; i < pages.count(); ++i) {
     pages.setCurrentIndex(i);
     WaitUntilIdle(window);
-    const QString file = QDir(directory).filePath(pages.widget(i)->objectName() + ".png");
-    if (!window.grab().save(file)) {
-      std::fprintf(stderr, "qorvex-gallery: cannot write %s\n", qPrintable(file));
+    if (!Write(window, QDir(directory).filePath(pages.widget(i)->objectName() + ".png")))
       return false;
-    }
-    std::printf("%s\n", qPrintable(file));
   }
-  return true;
+  return WritePreview(window, QDir(directory).filePath("preview.png"));
 }
 
 }  // namespace qorvex::gallery

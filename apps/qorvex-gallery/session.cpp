@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/session.h"
 
 #include <QFile>
+#include <QMap>
 #include <QSaveFile>
 #include <QSettings>
 #include <QTabWidget>
@@ -8,6 +9,8 @@
 
 #include "apps/common/input_error.h"
 #include "apps/qorvex-gallery/main_window.h"
+#include "apps/qorvex-gallery/model/error_text.h"
+#include "apps/qorvex-gallery/model/missing_text.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
@@ -26,6 +29,7 @@ void SaveFormat(const apps::TableFormat& format, QSettings& settings) {
   settings.setValue("delimiter", QChar::fromLatin1(format.delimiter.value_or(kDelimiter)));
   settings.setValue("decimalSign", QChar::fromLatin1(format.decimal_sign.value_or('.')));
   settings.setValue("header", format.header.value_or(true));
+  settings.setValue("missing", TextOfWords(format.missing));
   settings.setValue("encoding", static_cast<int>(format.encoding.value_or(apps::Encoding::kUtf8)));
 }
 
@@ -34,6 +38,7 @@ apps::TableFormat FormatIn(const QSettings& settings) {
   format.delimiter = settings.value("delimiter").toChar().toLatin1();
   format.decimal_sign = settings.value("decimalSign").toChar().toLatin1();
   format.header = settings.value("header").toBool();
+  format.missing = WordsIn(settings.value("missing").toString());
   format.encoding = static_cast<apps::Encoding>(settings.value("encoding").toInt());
   return format;
 }
@@ -66,7 +71,7 @@ void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument&
     sheet.SetChanged();
     document.Restore(std::move(sheet), path, settings.value("title").toString());
   } catch (const apps::InputError& error) {
-    Q_EMIT document.Message(QString::fromUtf8(error.what()));
+    Q_EMIT document.Message(ErrorText(error));
   }
 }
 
@@ -83,20 +88,30 @@ void Session::Restore(MainWindow& window) const {
   settings.beginGroup("sheet");
   RestoreSheet(settings, Copy(), document);
   settings.endGroup();
+  const QTabWidget& pages = *window.Pages();
+  QMap<QString, QVariantMap> states;
   settings.beginGroup("pages");
-  QTabWidget& pages = *window.Pages();
   for (int i = 0; i < pages.count(); ++i) {
-    auto& page = static_cast<Page&>(*pages.widget(i));
-    page.SetState(settings.value(page.objectName()).toMap());
-    if (settings.value("current") == page.objectName()) pages.setCurrentIndex(i);
+    const QString name = pages.widget(i)->objectName();
+    states[name] = settings.value(name).toMap();
+    if (settings.value("current") == name) window.Pages()->setCurrentIndex(i);
   }
+  const auto restore_pages = [&pages, states] {
+    for (int i = 0; i < pages.count(); ++i)
+      static_cast<Page*>(pages.widget(i))->SetState(states[pages.widget(i)->objectName()]);
+  };
+  if (!window.Data().IsReading()) return restore_pages();
+  // They choose columns of the sheet.
+  QObject::connect(&window.Data(), &DataPage::ReadingEnded, &window, restore_pages,
+                   Qt::SingleShotConnection);
 }
 
 bool Session::Save(const MainWindow& window) const {
   const SheetDocument& document = window.Data().Document();
   const SheetData& sheet = window.Table().Data();
   if (!folder_.mkpath(".")) return false;
-  if (sheet.IsChanged() && !SaveCopy(sheet, Copy())) return false;
+  const bool has_copy = sheet.IsChanged() && sheet.Columns() > 0;
+  if (has_copy && !SaveCopy(sheet, Copy())) return false;
   QSettings settings(Settings(), QSettings::IniFormat);
   settings.setValue("window/geometry", window.saveGeometry());
   settings.setValue("window/appearance", static_cast<int>(window.ChosenAppearance()));
@@ -105,7 +120,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.beginGroup("sheet");
   settings.setValue("path", document.Path());
   settings.setValue("title", document.Title());
-  settings.setValue("unsaved", sheet.IsChanged());
+  settings.setValue("unsaved", has_copy);
   SaveFormat(sheet.Format(), settings);
   settings.endGroup();
   settings.beginGroup("pages");
@@ -117,7 +132,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.setValue("current", pages.currentWidget()->objectName());
   settings.sync();
   if (settings.status() != QSettings::NoError) return false;
-  if (!sheet.IsChanged()) QFile::remove(Copy());
+  if (!has_copy) QFile::remove(Copy());
   return true;
 }
 

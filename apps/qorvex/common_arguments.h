@@ -9,19 +9,15 @@
 
 namespace qorvex::apps {
 
-/// Delimiters, quotes, encodings and numbers.
-extern const char* const kTextHelp;
 /// The exit status.
 extern const char* const kExitStatusHelp;
 /// Added to the former by commands that print nothing until the whole result is known.
 extern const char* const kNothingPrintedHelp;
 
-/// Adds a file to read. All variables passed to these functions must outlive the parsing.
+/// Adds a file to read, which may be left out if standard input is no terminal. All variables
+/// passed to these functions must outlive the parsing.
 void AddFile(CLI::App& command, std::string& file, const std::string& name,
              const std::string& description);
-
-/// Adds --delimiter; the variable stays empty if it is not given.
-void AddDelimiter(CLI::App& command, std::optional<char>& delimiter);
 
 /// The largest argument of --threads.
 inline constexpr unsigned kMostThreads = 256;

@@ -85,16 +85,26 @@ void SetTitles(ComparedColumn& first, ComparedColumn& second) {
   }
 }
 
+// Rows of two files cannot be skipped together.
+void RequireEveryValue(const ComparedColumn& compared) {
+  const TableColumn& column = compared.column;
+  if (column.missing == 0) return;
+  throw InputError(InputFault::kEmptyCell, InputName(compared.file),
+                   column.Title() + ": " + Cardinal(column.missing, "missing value") +
+                       "; pairs from two files need every value");
+}
+
 void Compare(const CompareArguments& arguments) {
   if (arguments.table.selection.columns.size() > 2)
     throw CLI::ValidationError("--column", "more than two columns");
   if (arguments.second_file == "-" && arguments.table.file == "-")
     throw CLI::ValidationError("FILE", "standard input cannot be both files");
-  if (arguments.paired && arguments.table.selection.skip_empty && !arguments.second_file.empty()) {
-    throw CLI::ValidationError("--skip-empty", "pairs from two files cannot be skipped");
-  }
   auto [first, second] = arguments.second_file.empty() ? ReadFromOneFile(arguments.table)
                                                        : ReadFromTwoFiles(arguments);
+  if (arguments.paired && !arguments.second_file.empty()) {
+    RequireEveryValue(first);
+    RequireEveryValue(second);
+  }
   SetTitles(first, second);
   const std::size_t first_count = first.column.numbers.size();
   const std::size_t second_count = second.column.numbers.size();

@@ -10,7 +10,6 @@
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/report_parts.h"
 #include "apps/qorvex/text_output.h"
-#include "apps/qorvex/text_table.h"
 #include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex::apps {
@@ -23,24 +22,12 @@ std::vector<Figure> FiguresOf(const ComparedColumn& compared,
                               const std::vector<ReportFigure>& lines) {
   std::vector<Figure> figures = apps::FiguresOf(lines);
   figures.insert(figures.begin() + 1,
-                 {"missing", "Missing Values:", std::uint64_t{compared.column.skipped}});
+                 {"missing", "Missing Values:", std::uint64_t{compared.column.missing}});
   return figures;
 }
 
-// The figures of both columns, side by side.
-ReportPart SideBySide(const ComparisonReport& report, const ComparisonHeading& heading) {
-  ReportPart part{.key = "column",
-                  .table = {.columns = {{"figure", ""},
-                                        {"first", ShortName(heading.first.title)},
-                                        {"second", ShortName(heading.second.title)}}}};
-  const std::vector<Figure> first = FiguresOf(heading.first, report.first);
-  const std::vector<Figure> second = FiguresOf(heading.second, report.second);
-  const bool has_missing = heading.first.column.skipped + heading.second.column.skipped > 0;
-  for (std::size_t i = 0; i < first.size(); ++i) {
-    if (first[i].key != "missing" || has_missing)
-      part.table.rows.push_back({first[i].label, first[i].value, second[i].value});
-  }
-  return part;
+ReportPart PartOf(const ComparedColumn& compared, const std::vector<ReportFigure>& lines) {
+  return {.key = "column", .item = compared.title, .figures = FiguresOf(compared, lines)};
 }
 
 ReportPart DifferenceOf(const ComparisonReport& report, const ComparisonHeading& heading) {
@@ -93,18 +80,18 @@ void WriteColumn(JsonWriter& json, const char* key, const ComparedColumn& compar
 
 std::string TextOf(const ComparisonReport& report, const ComparisonHeading& heading,
                    const OutputFormat& output) {
-  std::vector<ReportPart> parts{{.key = "column",
-                                 .item = heading.first.title,
-                                 .figures = FiguresOf(heading.first, report.first)},
-                                {.key = "column",
-                                 .item = heading.second.title,
-                                 .figures = FiguresOf(heading.second, report.second)},
-                                DifferenceOf(report, heading),
+  std::vector<ReportPart> columns{PartOf(heading.first, report.first),
+                                  PartOf(heading.second, report.second)};
+  std::vector<ReportPart> parts{columns[0], columns[1], DifferenceOf(report, heading),
                                 TestsOf(report)};
   RemarkOnHidden("", parts, output);
   if (output.form == OutputForm::kCsv) return CsvOf(parts, output.ForReport());
+  if (heading.first.column.missing + heading.second.column.missing == 0) {
+    for (ReportPart& column : columns)
+      std::erase_if(column.figures, [](const Figure& of) { return of.key == "missing"; });
+  }
   parts.erase(parts.begin());
-  parts.front() = SideBySide(report, heading);
+  parts.front() = SideBySide(columns);
   OutputFormat aligned = output;
   aligned.form = OutputForm::kTable;
   const int digits = std::max(SignificantDigits(heading.first.column.numbers),

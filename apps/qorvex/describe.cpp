@@ -6,7 +6,10 @@
 #include <utility>
 #include <vector>
 
+#include "apps/common/cells.h"
 #include "apps/common/groups.h"
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
 #include "apps/common/threads.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -28,7 +31,7 @@ Examples:
   qorvex describe speeds.csv --column speed --quantiles 0.05,0.95 --confidence 0.99
   qorvex describe speeds.csv --column speed --by series --figures n,mean,sd --table
   qorvex describe invoices.csv --column price --weights quantity --currency
-  grep -v '^#' speeds.csv | qorvex describe - --json --skip-empty)";
+  grep -v '^#' speeds.csv | qorvex describe --json --na -)";
 
 // Calls write(report) for each sample in turn. As many reports are made at once as there are
 // threads; what they need is released before the next ones.
@@ -76,6 +79,11 @@ DescribedTable ReadColumns(const DescribeOptions& options) {
         table.labels.push_back(std::move(column));
     }
   }
+  if (options.HasGroups() && table.labels[0].missing > 0) {
+    WriteRemark(OnOneLine(InputName(options.table.file)) + ": left out " +
+                Cardinal(table.labels[0].missing, "row") + " without a " +
+                (options.HasWeights() ? "value, weight or label" : "label"));
+  }
   return table;
 }
 
@@ -110,7 +118,7 @@ void ForEachReport(DescribedTable table, const DescribeOptions& options, Write w
       sample.column = {.number = column.number,
                        .name = column.name,
                        .numbers = std::move(parts[i].numbers),
-                       .skipped = parts[i].missing};
+                       .missing = parts[i].missing};
       sample.weights = {.number = table.weights.number, .name = table.weights.name};
       if (options.HasWeights()) sample.weights.numbers = weights[i].numbers;
       sample.groups = LabelsOf(table.labels, groups.labels[i]);

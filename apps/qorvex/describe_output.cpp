@@ -28,9 +28,9 @@ void AddIntervals(std::vector<Figure>& figures, const ColumnReport& report) {
                      "Confidence Interval for the Standard Deviation: ", ends.std_dev});
 }
 
-UnderflowedFigures UnderflowedIn(const ColumnReport& report) {
+UnderflowedFigures UnderflowedIn(const ColumnReport& report, const DescribeOptions& options) {
   UnderflowedFigures underflowed;
-  underflowed.CheckLines(report.lines);
+  if (options.ReportsSquares()) underflowed.CheckLines(report.lines);
   if (report.intervals) {
     const auto& [mean, variance, std_dev] = *report.intervals;
     underflowed.Check(variance.least, std_dev.least);
@@ -57,7 +57,7 @@ std::vector<Figure> Chosen(const std::vector<Figure>& figures,
 std::vector<Figure> FiguresOf(const ColumnReport& report, const DescribeOptions& options) {
   std::vector<Figure> figures = FiguresOf(report.lines, report.amounts);
   figures.insert(figures.begin() + 1,
-                 {"missing", "Missing Values:", std::uint64_t{report.skipped}});
+                 {"missing", "Missing Values:", std::uint64_t{report.missing}});
   figures.insert(figures.end(), report.further.begin(), report.further.end());
   if (!options.figures.empty()) figures = Chosen(figures, options.figures);
   if (report.sum_of_weights && options.HasReliabilities())
@@ -79,7 +79,7 @@ std::string TextOf(const ColumnReport& report, const DescribeOptions& options) {
   if (!report.name.empty()) text += ": " + OnOneLine(report.name);
   for (const GroupLabel& group : report.groups) text += ", " + OnOneLine(group.Text());
   std::vector<Figure> figures = FiguresOf(report, options);
-  if (report.skipped == 0 && options.figures.empty())
+  if (report.missing == 0 && options.figures.empty())
     std::erase_if(figures, [](const Figure& figure) { return figure.key == "missing"; });
   return text + '\n' + LinesOf(figures, options.output.ForReport(report.significant_digits));
 }
@@ -89,9 +89,10 @@ void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options) {
       OnOneLine(InputName(options.table.file)) + ": " + ColumnTitle(report.number, report.name);
   for (const GroupLabel& group : report.groups) place += ", " + OnOneLine(group.Text());
   place += ": ";
-  const UnderflowedFigures underflowed = UnderflowedIn(report);
+  const UnderflowedFigures underflowed = UnderflowedIn(report, options);
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
-  RemarkOnHidden(place, FiguresOf(report, options), options.output);
+  if (options.output.CanHideFigures())
+    RemarkOnHidden(place, FiguresOf(report, options), options.output);
 }
 
 void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableColumn& weights,

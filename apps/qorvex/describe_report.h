@@ -49,7 +49,7 @@ struct ColumnReport {
   std::size_t number = 0;
   std::string name = {};
   std::vector<GroupLabel> groups = {};
-  std::size_t skipped = 0;
+  std::size_t missing = 0;
   /// Of the values.
   int significant_digits = 0;
   /// The lines from the number of values to the inter-quartile range. Those that --figures does not

@@ -88,9 +88,7 @@ void FitArguments::AddTo(CLI::App& command) {
   if (curve->IsPolynomial() && degree == 0) AddDegree(command, degree);
   command.add_flag("--no-intercept", no_intercept, "Leave the constant out");
   AddResults(command, *this);
-  table.AddFileTo(command,
-                  "Skip rows with an empty cell in a column of the fit and report how many,\n"
-                  "instead of refusing them");
+  table.AddFileTo(command);
   if (curve->has_classic_routine) {
     CLI::Option* const option = command.add_flag(
         "--classic", classic,

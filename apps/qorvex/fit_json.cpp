@@ -178,7 +178,7 @@ void WriteHead(JsonWriter& json, const FitColumns& columns, std::size_t count,
   json.Key("count");
   json.Integer(count);
   json.Key("missing");
-  json.Integer(columns.y.skipped);
+  json.Integer(columns.y.missing);
 }
 
 std::string JsonOf(const FitColumns& columns, const FittedModel& model,

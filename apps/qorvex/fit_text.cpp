@@ -22,8 +22,8 @@ ReportPart FiguresOf(const FitColumns& columns, const FittedModel& model,
   ReportPart part{.key = "fit"};
   std::vector<Figure>& figures = part.figures;
   figures = {{"count", ReportText(rsDSNoOfValues), std::uint64_t{fit.Count()}}};
-  if (columns.y.skipped > 0)
-    figures.push_back({"missing", "Missing Values:", std::uint64_t{columns.y.skipped}});
+  if (columns.y.missing > 0)
+    figures.push_back({"missing", "Missing Values:", std::uint64_t{columns.y.missing}});
   if (model.pairs) {
     const PairFigures& pairs = *model.pairs;
     figures.push_back({"mean_x", ReportText(rsDSMeanX), pairs.mean_x});

@@ -28,6 +28,30 @@ int RefuseUsage(const std::string& what) {
   return kBadInput;
 }
 
+struct Command {
+  const char* name;
+  void (*add)(CLI::App& program);
+};
+
+// In the order of --help.
+constexpr Command kCommands[] = {
+    {"describe", AddDescribe}, {"correlate", AddCorrelate},
+    {"grouped", AddGrouped},   {"compare", AddCompare},
+    {"fit", AddFit},           {"test", AddTestCommands},
+    {"matrix", AddMatrix},     {"dist", AddDist},
+    {"random", AddRandom},     {"selftest", AddSelfTest},
+    {"help", AddHelp},
+};
+
+// Adds the command that the first argument names; all of them if it names none, and for help. Their
+// thousands of options take several milliseconds.
+void AddCommands(CLI::App& program, const std::string& first_argument) {
+  const bool is_named = first_argument != "help" &&
+                        std::ranges::count(kCommands, first_argument, &Command::name) != 0;
+  for (const auto& [name, add] : kCommands)
+    if (!is_named || first_argument == name) add(program);
+}
+
 int Run(int argc, char** argv) {
   CLI::App program(
       "Statistics, matrices, distributions and random variates, with 64 bits of mantissa.",
@@ -35,17 +59,7 @@ int Run(int argc, char** argv) {
   program.set_version_flag("--version", "qorvex " QORVEX_VERSION, "Print the version and exit");
   program.formatter(std::make_shared<HelpFormatter>());
   program.ignore_case();
-  AddDescribe(program);
-  AddCorrelate(program);
-  AddGrouped(program);
-  AddCompare(program);
-  AddFit(program);
-  AddTestCommands(program);
-  AddMatrix(program);
-  AddDist(program);
-  AddRandom(program);
-  AddSelfTest(program);
-  AddHelp(program);
+  AddCommands(program, argc > 1 ? CLI::detail::to_lower(argv[1]) : "");
   RequireOneCommand(program, "command");
 
   if (argc > 1 && argv[1] == std::string_view("complete")) {

@@ -15,6 +15,7 @@
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/format_arguments.h"
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/matrix_operations.h"
 #include "apps/qorvex/output_format.h"
@@ -42,7 +43,7 @@ constexpr const char* kResultHelp = R"(
 
 struct MatrixArguments {
   std::vector<std::string> files;
-  MatrixLayout layout;
+  TableFormat format;
   OutputFormat output;
   unsigned threads = 1;
 };
@@ -63,15 +64,16 @@ std::string WhatIsWrong(const EMathError& error, const Matrices& operands) {
     return text + "; elements up to " + Float2Str(QorTolerance) +
            " count as zero, which --tolerance changes";
   }
-  text += ": " + ShapeOf(operands[0]);
-  if (operands.size() == 2) text += " times " + ShapeOf(operands[1]);
+  const char* const between = error.message_id() == rsMatrixMult ? " times " : " and ";
+  for (const TQorFloatMatrix& operand : operands)
+    text += (&operand == &operands[0] ? ": " : between) + ShapeOf(operand);
   return text;
 }
 
 // The names of the files, for errors that do not belong to a line of one of them.
 std::string Names(const std::vector<std::string>& files) {
-  std::string names = InputName(files[0]);
-  if (files.size() == 2) names += ", " + InputName(files[1]);
+  std::string names;
+  for (const std::string& file : files) names += (names.empty() ? "" : ", ") + InputName(file);
   return names;
 }
 
@@ -92,27 +94,31 @@ TQorFloatMatrix Compute(const MatrixOperation& operation, Matrices& operands,
   return result;
 }
 
-TQorFloatMatrix Read(TextInput input, const MatrixLayout& layout) {
+TQorFloatMatrix Read(TextInput input, const TableFormat& format) {
   try {
-    return ReadMatrix(std::move(input), layout);
+    return ReadMatrix(std::move(input), format);
   } catch (const InputError& error) {
-    if (error.Fault() != InputFault::kTextInFirstRow) throw;
-    throw InputError(error.Fault(), error.what() + std::string("; --header skips the first row"));
+    const char* hint = "";
+    if (error.Fault() == InputFault::kTextInFirstRow) hint = "; --header skips the first row";
+    if (error.Fault() == InputFault::kOtherDecimalSign) hint = "; --decimal tells the decimal sign";
+    if (error.Fault() == InputFault::kWrongEncoding) hint = "; --encoding latin1 reads any bytes";
+    throw InputError(error.Fault(), std::string(error.what()) + hint);
   }
 }
 
-// Both files at once if there are two threads, otherwise one after the other. Of two errors, that
-// of LEFT is thrown. If LEFT cannot be opened, nothing is read, because RIGHT may be a pipe that
-// stays open.
+// As many files at once as there are threads. Of two errors, that of the first file is thrown. If
+// the first file cannot be opened, nothing is read, because another may be a pipe that stays open.
 Matrices ReadAll(const MatrixArguments& arguments) {
-  TextInput left = OpenTextInput(arguments.files[0]);
-  std::future<TQorFloatMatrix> right;
-  if (arguments.files.size() == 2) {
-    right = std::async(arguments.threads > 1 ? std::launch::async : std::launch::deferred,
-                       [&] { return Read(OpenTextInput(arguments.files[1]), arguments.layout); });
+  const std::vector<std::string>& files = arguments.files;
+  TextInput first = OpenTextInput(files[0]);
+  std::vector<std::future<TQorFloatMatrix>> others;
+  for (std::size_t i = 1; i < files.size(); ++i) {
+    others.push_back(
+        std::async(i < arguments.threads ? std::launch::async : std::launch::deferred,
+                   [&, i] { return Read(OpenTextInput(files[i]), arguments.format); }));
   }
-  Matrices operands{Read(std::move(left), arguments.layout)};
-  if (right.valid()) operands.push_back(right.get());
+  Matrices operands{Read(std::move(first), arguments.format)};
+  for (auto& other : others) operands.push_back(other.get());
   return operands;
 }
 
@@ -147,7 +153,7 @@ void Write(const TQorFloatMatrix& matrix, const MatrixArguments& arguments) {
 
 void Run(const MatrixOperation& operation, const MatrixArguments& arguments) {
   if (std::ranges::count(arguments.files, "-") > 1) {
-    throw CLI::ValidationError("LEFT and RIGHT cannot both be standard input");
+    throw CLI::ValidationError("only one matrix can be standard input");
   }
   Matrices operands = ReadAll(arguments);
   Write(Compute(operation, operands, Names(arguments.files), arguments.threads), arguments);
@@ -166,22 +172,26 @@ Extended ParseTolerance(const std::string& text) {
 void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
   CLI::App& command = *matrix.add_subcommand(operation.name, operation.summary);
   const auto arguments = std::make_shared<MatrixArguments>();
-  if (operation.takes_two_files) {
-    arguments->files.resize(2);
+  arguments->files.resize(operation.least_matrices);
+  if (operation.most_matrices == 1) {
+    AddFile(command, arguments->files[0], "FILE", "The matrix to read");
+  } else if (operation.most_matrices == 2) {
     AddFile(command, arguments->files[0], "LEFT", "The matrix on the left");
     AddFile(command, arguments->files[1], "RIGHT", "The matrix on the right");
   } else {
-    arguments->files.resize(1);
-    AddFile(command, arguments->files[0], "FILE", "The matrix to read");
+    command.add_option("FILE", arguments->files, "The matrices; - is standard input")
+        ->type_name("")
+        ->expected(2, CLI::detail::expected_max_vector_size)
+        ->required();
   }
-  AddDelimiter(command, arguments->layout.delimiter);
-  command.add_flag("--header", arguments->layout.has_header,
-                   "Skip the first row, which contains names");
-  if (operation.takes_decimals) {
-    arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
-  }
+  AddTextFormat(command, arguments->format);
+  command.add_flag_callback(
+      "--header", [arguments] { arguments->format.header = true; },
+      "Skip the first row, which contains names, and the first column if its name\n"
+      "is empty or missing");
+  arguments->output.AddTo(command, "the shortest\ntext that keeps all 80 bits; 7 with --table");
   AddThreads(command, arguments->threads,
-             "Threads that read two matrices, multiply and format the result, which is the\n"
+             "Threads that read matrices, multiply and format the result, which is the\n"
              "same; an elimination takes one. Default: 1");
   if (operation.takes_tolerance) {
     command

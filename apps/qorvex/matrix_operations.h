@@ -3,6 +3,7 @@
 /// @file
 /// The commands of `matrix`: what they compute, and their --help.
 
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -18,13 +19,14 @@ struct MatrixOperation {
   const char* summary;
   /// The result, as messages name it.
   const char* result;
-  bool takes_two_files = false;
+  /// How many matrices it takes.
+  std::size_t least_matrices = 1;
+  std::size_t most_matrices = least_matrices;
   /// Whether it eliminates and therefore depends on what counts as zero.
   bool takes_tolerance = false;
-  bool takes_decimals = true;
-  /// Takes one or two rectangular matrices and may change them. Throws EMathError for shapes that
-  /// do not match and for a matrix without an inverse. The result does not depend on the number of
-  /// threads.
+  /// Takes rectangular matrices and may change them. Throws EMathError for shapes that do not
+  /// match, for a matrix without an inverse and for a system without a solution. The result does
+  /// not depend on the number of threads.
   TQorFloatMatrix (*compute)(Matrices& operands, unsigned threads);
   const char* help;
 };

@@ -68,8 +68,8 @@ void AddParameter(CLI::App& command, const NumberParameter& parameter,
       parameter.name, parameter.has_default ? "At most one of" : "One of");
   group.require_option(parameter.has_default ? 0 : 1, 1);
   AddNumber(group, names, parameter.Description(), parameter.kind, set);
-  AddNumber(group, reciprocal, std::string("1 / the ") + parameter.name, parameter.kind,
-            [=](Extended value) {
+  AddNumber(group, reciprocal, std::string("1 / the ") + parameter.name + ", instead of it",
+            parameter.kind, [=](Extended value) {
               const char* const wrong = WhatIsWrong(1 / value, parameter.kind);
               if (wrong != nullptr)
                 throw CLI::ValidationError(reciprocal, "1 / " + Float2Str(value) + ' ' + wrong);

@@ -11,6 +11,7 @@
 
 #include "apps/common/distributions.h"
 #include "apps/common/variates.h"
+#include "apps/qorvex/command_list.h"
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -160,6 +161,7 @@ void AddRandom(CLI::App& program) {
   CLI::App& random = *program.add_subcommand("random", "Random variates");
   for (const Variate& variate : Variates()) AddVariate(random, variate);
   RequireOneCommand(random, "variate");
+  AddList(random);
 }
 
 }  // namespace qorvex::apps

@@ -1,12 +1,15 @@
 #include "apps/qorvex/report_parts.h"
 
-#include <utility>
+#include <algorithm>
+#include <iterator>
+
+#include "apps/qorvex/text_table.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-// The figures of a list, or those of a row of a table.
+// The figures of a list, or those of a row of a table, whose name may be indented there.
 struct Item {
   std::string name;
   std::vector<Figure> figures;
@@ -16,9 +19,11 @@ std::vector<Item> ItemsOf(const ReportPart& part) {
   if (part.table.columns.empty()) return {{part.item, part.figures}};
   std::vector<Item> items;
   for (const std::vector<Cell>& row : part.table.rows) {
-    Item& item = items.emplace_back(CellText(row[0], {}));
+    Item item{CellText(row[0], {}), {}};
+    item.name.erase(0, item.name.find_first_not_of(' '));
     for (std::size_t i = 1; i < row.size(); ++i)
       item.figures.push_back({part.table.columns[i].key, "", row[i]});
+    items.push_back(std::move(item));
   }
   return items;
 }
@@ -32,6 +37,29 @@ ResultTable TableOf(const std::vector<Figure>& figures) {
 }
 
 }  // namespace
+
+ReportPart SideBySide(const std::vector<ReportPart>& lists) {
+  ReportPart part{.key = lists[0].key, .table = {.columns = {{"figure", ""}}}};
+  std::vector<std::vector<Cell>>& rows = part.table.rows;
+  for (std::size_t column = 1; column <= lists.size(); ++column) {
+    const ReportPart& list = lists[column - 1];
+    part.table.columns.push_back({list.item, ShortName(list.item)});
+    auto next = rows.begin();
+    for (const Figure& figure : list.figures) {
+      const std::string label = Heading(figure.label);
+      auto row = std::ranges::find_if(rows, [&label](const std::vector<Cell>& cells) {
+        return std::get<std::string>(cells[0]) == label;
+      });
+      if (row == rows.end()) {
+        row = rows.emplace(next, lists.size() + 1);
+        row->front() = label;
+      }
+      (*row)[column] = figure.value;
+      next = row + 1;
+    }
+  }
+  return part;
+}
 
 std::string TextOf(const std::vector<ReportPart>& parts, const OutputFormat& output,
                    int significant_digits) {

@@ -25,6 +25,10 @@ struct ReportPart {
   ResultTable table = {};
 };
 
+/// Lists of figures as one table, with a column for each, which has the name of its item. A figure
+/// that only some lists have comes where the first of these has it.
+[[nodiscard]] ReportPart SideBySide(const std::vector<ReportPart>& lists);
+
 /// The parts in text, aligned by blanks if the output is a table.
 [[nodiscard]] std::string TextOf(const std::vector<ReportPart>& parts, const OutputFormat& output,
                                  int significant_digits);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -10,21 +11,31 @@
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
+#include "apps/qorvex/format_arguments.h"
+#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/text_output.h"
+#include "qorvex/base/text.h"
 
 namespace qorvex::apps {
 
 namespace {
 
-std::string Hint(InputFault fault, const TableSelection& selection) {
-  if (fault == InputFault::kNotANumber && selection.columns.empty()) {
-    return "; --column chooses the columns to read";
+const char* Hint(InputFault fault, const TableSelection& selection) {
+  switch (fault) {
+    case InputFault::kNotANumber:
+      if (selection.columns.empty())
+        return "; --column chooses the columns, --na lists the words for missing values";
+      // An amount with too many decimals is no missing value.
+      return selection.currency ? "" : "; --na lists the words for missing values";
+    case InputFault::kOtherDecimalSign:
+      return "; --decimal tells the decimal sign";
+    case InputFault::kEmptyCell:
+      return "; without --na error, missing values are skipped";
+    case InputFault::kWrongEncoding:
+      return "; --encoding latin1 reads any bytes";
+    default:
+      return "";
   }
-  if (fault == InputFault::kEmptyCell) {
-    return selection.whole_rows ? "; --skip-empty skips such rows"
-                                : "; --skip-empty skips empty cells";
-  }
-  return "";
 }
 
 // In a table without a header, such a name may be a damaged number.
@@ -50,6 +61,17 @@ std::string DoubtOf(const Table& table) {
   return damaged == table.columns.end() ? "" : Excerpt(damaged->name) + " is not a number";
 }
 
+// "column 2 (name), column 5 (note) and 3 more".
+std::string ListOf(const std::vector<TableColumn>& columns) {
+  constexpr std::size_t most_shown = 5;
+  std::string text;
+  for (std::size_t i = 0; i < std::min(columns.size(), most_shown); ++i)
+    text += (i == 0 ? "" : ", ") + columns[i].Title();
+  return columns.size() > most_shown
+             ? text + " and " + Int2EStr(columns.size() - most_shown) + " more"
+             : text;
+}
+
 void AddHeader(CLI::App& command, std::optional<bool>& header) {
   const auto add = [&](const char* name, bool value, const char* description) {
     return command.add_flag_callback(
@@ -60,33 +82,48 @@ void AddHeader(CLI::App& command, std::optional<bool>& header) {
   add("--no-header", false, "The first row is data")->excludes(with);
 }
 
+void AddColumns(CLI::App& command, const std::string& option, std::vector<std::string>& columns,
+                const std::string& description) {
+  command
+      .add_option_function<std::vector<std::string>>(
+          option,
+          [&columns, option](const std::vector<std::string>& lists) {
+            for (const std::string& list : lists)
+              std::ranges::move(SplitList(LongName(option), list), std::back_inserter(columns));
+          },
+          description)
+      ->type_name("NAME|N,...")
+      ->allow_extra_args(false);
+}
+
 }  // namespace
 
 std::string TableHelp() {
   return std::string(R"(Tables:
   Each line is a row; every row has as many cells as the first.
-  The first row is a header if any of its cells is text, that is, neither empty
-  nor a number; --header or --no-header overrides this.)") +
+  The first row is a header if any of its cells is text, that is, neither a number
+  nor a missing value; --header or --no-header overrides this. If the header is one
+  cell shorter than the rows, or only its first cell is empty, the first column
+  holds the names of the rows.
+  Without --column, columns without a number are left out.)") +
          kTextHelp + R"(
   Blank lines before the first row and after the last are ignored; a blank line
   between rows is a row of empty cells.)";
 }
 
-void TableArguments::AddFileTo(CLI::App& command, const char* skip_empty) {
+void TableArguments::AddFileTo(CLI::App& command) {
   AddFile(command, file, "FILE", "The table to read");
-  AddHeader(command, selection.header);
-  AddDelimiter(command, selection.delimiter);
-  command.add_flag("--skip-empty", selection.skip_empty, skip_empty);
+  AddHeader(command, selection.format.header);
+  AddTextFormat(command, selection.format);
+  AddMissingWords(command, selection.format.missing);
 }
 
 void TableArguments::AddTo(CLI::App& command, const char* repetition) {
-  command
-      .add_option("--column", selection.columns,
-                  std::string("A column, by name or by number from 1; a name takes precedence.\n") +
-                      repetition)
-      ->type_name("NAME|N")
-      ->allow_extra_args(false);
-  AddFileTo(command, "Skip empty cells and report how many, instead of refusing them");
+  AddColumns(command, "-c,--column", selection.columns,
+             std::string("A column, by name or by number from 1; a name takes precedence. Several\n"
+                         "have commas between them; a name with a comma is quoted as in CSV.\n") +
+                 repetition);
+  AddFileTo(command);
 }
 
 void TableArguments::AddPairTo(CLI::App& command) {
@@ -101,9 +138,7 @@ void TableArguments::AddPairTo(CLI::App& command) {
              "The column of x, by name or by number from 1;\n"
              "a name takes precedence");
   add_column(1, "--y", "The column of y");
-  AddFileTo(command,
-            "Skip rows in which x or y is empty and report how many,\n"
-            "instead of refusing them");
+  AddFileTo(command);
 }
 
 CLI::Option* TableArguments::AddWeightsTo(CLI::App& command) {
@@ -118,27 +153,31 @@ CLI::Option* TableArguments::AddWeightsTo(CLI::App& command) {
       ->type_name("NAME|N");
 }
 
+void TableArguments::AddLabelsTo(CLI::App& command, const std::string& description) {
+  AddColumns(command, "--by", selection.labels, description);
+}
+
+void TableArguments::RemarkOn(const Table& table) const {
+  const auto remark = [this](const std::string& text) {
+    WriteRemark(OnOneLine(InputName(file)) + ": " + text);
+  };
+  if (!selection.format.encoding && table.format.encoding == Encoding::kLatin1)
+    remark("the text is not UTF-8 and was read as Latin-1; --encoding tells the encoding");
+  const std::string doubt = selection.format.header ? "" : DoubtOf(table);
+  if (!doubt.empty()) {
+    remark("the first row was read as a header because " + doubt +
+           "; --header or --no-header overrides this");
+  }
+  if (!table.left_out.empty()) remark("left out, without a number: " + ListOf(table.left_out));
+}
+
 std::vector<TableColumn> TableArguments::Read(unsigned threads) const {
   try {
     Table table = ReadTable(OpenTextInput(file), selection, threads);
-    const std::string doubt = selection.header ? "" : DoubtOf(table);
-    if (!doubt.empty()) {
-      WriteRemark(OnOneLine(InputName(file)) + ": the first row was read as a header because " +
-                  doubt + "; --header or --no-header overrides this");
-    }
-    std::vector<TableColumn>& columns = table.columns;
-    for (const TableColumn& column : columns) {
-      if (column.skipped == 0 || selection.whole_rows) continue;
-      WriteRemark(OnOneLine(InputName(file)) + ": " + column.Title() + ": skipped " +
-                  Cardinal(column.skipped, "empty cell"));
-    }
-    if (selection.whole_rows && columns[0].skipped != 0) {
-      WriteRemark(OnOneLine(InputName(file)) + ": skipped " + Cardinal(columns[0].skipped, "row") +
-                  " with an empty cell");
-    }
-    return std::move(columns);
+    RemarkOn(table);
+    return std::move(table.columns);
   } catch (const InputError& error) {
-    throw InputError(error.Fault(), error.what() + Hint(error.Fault(), selection));
+    throw InputError(error.Fault(), std::string(error.what()) + Hint(error.Fault(), selection));
   }
 }
 

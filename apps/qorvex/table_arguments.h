@@ -14,7 +14,8 @@ namespace qorvex::apps {
 /// The section on tables of the --help of a command that reads one.
 [[nodiscard]] std::string TableHelp();
 
-/// FILE, --column or --x and --y, --header and --no-header, --delimiter and --skip-empty.
+/// FILE, --column or --x and --y, --header and --no-header, --delimiter, --decimal, --encoding,
+/// --na.
 struct TableArguments {
   std::string file;
   TableSelection selection;
@@ -24,8 +25,8 @@ struct TableArguments {
   void AddTo(CLI::App& command,
              const char* repetition = "Repeat it for more columns. Default: every column");
 
-  /// Adds those that choose no columns. The description is that of --skip-empty.
-  void AddFileTo(CLI::App& command, const char* skip_empty);
+  /// Adds those that choose no columns.
+  void AddFileTo(CLI::App& command);
 
   /// The same with --x and --y for two columns whose values with the same index are from one row.
   void AddPairTo(CLI::App& command);
@@ -34,10 +35,16 @@ struct TableArguments {
   /// the others.
   CLI::Option* AddWeightsTo(CLI::App& command);
 
-  /// Reads the table. Writes to standard error how many empty cells, or rows, were skipped, and
-  /// warns if the row that was read as a header may be data. The text of an InputError suggests an
-  /// argument where one helps.
+  /// Adds --by, columns of labels.
+  void AddLabelsTo(CLI::App& command, const std::string& description);
+
+  /// Reads the table. Writes to standard error which columns were left out and whether the text was
+  /// taken for Latin-1, and warns if the row that was read as a header may be data. The text of an
+  /// InputError suggests an argument where one helps.
   [[nodiscard]] std::vector<TableColumn> Read(unsigned threads = 1) const;
+
+ private:
+  void RemarkOn(const Table& table) const;
 };
 
 /// The column that was chosen by this name or number.

@@ -2,6 +2,7 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/command_list.h"
 #include "apps/qorvex/command_tree.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -95,6 +96,7 @@ void AddTestCommands(CLI::App& program) {
   }
   commands.footer(kExamples);
   RequireOneCommand(commands, "test");
+  AddList(commands);
 }
 
 }  // namespace qorvex::apps

@@ -24,7 +24,7 @@ NumberSample SampleOf(const TableColumn& column) {
   return {column.numbers,
           {.column = column.number,
            .name = column.name,
-           .missing = column.skipped,
+           .missing = column.missing,
            .significant_digits = SignificantDigits(column.numbers)}};
 }
 

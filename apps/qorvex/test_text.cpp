@@ -58,7 +58,7 @@ ReportPart PartOf(const TestSample& sample) {
   part.title = "Column " + Int2EStr(sample.column);
   if (!sample.name.empty()) part.title += ": " + OnOneLine(sample.name);
   if (!sample.group.empty()) {
-    part.item += ", " + sample.group;
+    part.item = sample.group;
     part.title += ", " + sample.group;
   }
   if (sample.missing > 0) {
@@ -174,10 +174,20 @@ int DigitsOf(const TestReport& report) {
 std::vector<ReportPart> PartsOf(const TestReport& report, const TestArguments& arguments) {
   std::vector<ReportPart> parts;
   for (const TestSample& sample : report.samples) parts.push_back(PartOf(sample));
+  const std::string item = parts.size() == 1 ? parts[0].item : "";
+  if (arguments.output.form == OutputForm::kTable && parts.size() > 1) parts = {SideBySide(parts)};
   const FigureFormat format = arguments.output.ForReport(DigitsOf(report));
   parts.push_back({.key = "test",
-                   .item = parts.size() == 1 ? parts[0].item : "",
+                   .item = item,
                    .figures = TestResultFigures(report, arguments, format).Take()});
+  return parts;
+}
+
+std::vector<ReportPart> PartsOf(const std::vector<TestReport>& reports,
+                                const TestArguments& arguments) {
+  std::vector<ReportPart> parts;
+  for (const TestReport& report : reports)
+    std::ranges::move(PartsOf(report, arguments), std::back_inserter(parts));
   return parts;
 }
 
@@ -187,30 +197,28 @@ void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArgu
   const std::string& file = arguments.table.file;
   const std::string place = file.empty() ? "" : OnOneLine(InputName(file)) + ": ";
   UnderflowedFigures underflowed;
-  std::vector<ReportPart> parts;
   for (const TestReport& report : reports) {
     for (const TestFigure& figure : report.figures) underflowed.Check(figure.value, figure.witness);
     for (const TestInterval& interval : report.intervals) {
       underflowed.Check(interval.ends.least, interval.witness);
       underflowed.Check(interval.ends.greatest, interval.witness);
     }
-    std::ranges::move(PartsOf(report, arguments), std::back_inserter(parts));
   }
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
-  RemarkOnHidden(place, parts, arguments.output);
+  if (arguments.output.CanHideFigures())
+    RemarkOnHidden(place, PartsOf(reports, arguments), arguments.output);
 }
 
 std::string TextOf(const std::vector<TestReport>& reports, const TestArguments& arguments) {
+  if (arguments.output.form == OutputForm::kCsv)
+    return CsvOf(PartsOf(reports, arguments), arguments.output.ForReport());
   std::string text;
-  std::vector<ReportPart> all_parts;
   for (const TestReport& report : reports) {
-    std::vector<ReportPart> parts = PartsOf(report, arguments);
     if (!text.empty()) text += '\n';
-    text += report.title + '\n' + TextOf(parts, arguments.output, DigitsOf(report));
-    std::ranges::move(parts, std::back_inserter(all_parts));
+    text += report.title + '\n' +
+            TextOf(PartsOf(report, arguments), arguments.output, DigitsOf(report));
   }
-  return arguments.output.form == OutputForm::kCsv ? CsvOf(all_parts, arguments.output.ForReport())
-                                                   : text;
+  return text;
 }
 
 }  // namespace qorvex::apps

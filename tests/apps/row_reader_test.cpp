@@ -56,6 +56,8 @@ TEST(RowReader, ReadsQuotedCells) {
   ExpectRows({{"\"a,b\",\"say \"\"x\"\"\",\"\"\"\"\"\"\n", "1:[a,b][say \"x\"][\"\"]"},
               {"\" a \" , \"b\"\r\n", "1:[ a ][b]"},
               {"5\" pipe,a\"\"b\n", "1:[5\" pipe][a\"\"b]"},
+              {"x,y\n\"say \\\"a\\\"\",\"C:\\d\"\n", "1:[x][y]2:[say \"a\"][C:\\d]"},
+              {"\"C:\\\",\"\"\"\"\n", "1:[C:\\][\"]"},
               {"\"c in vacuo\" n\n\"1\"  2\n \"3\" \"4\"\t\n", "1:[c in vacuo][n]2:[1][2]3:[3][4]"},
               {"\"a\r\n\"\"\n\",b\n1,\"\n\n\"\n3,4", "1:[a\r\n\"\n][b]4:[1][\n\n]7:[3][4]"}});
 }
@@ -74,14 +76,64 @@ TEST(RowReader, NamesTheLineOfAFault) {
               {"a,b\n\"1\n2\",\"3\n", "data.csv:3: the quote is not closed"},
               {"\"", "data.csv:1: the quote is not closed"},
               {"a,b\n\"1\"x\ty\r\n", "data.csv:2: \"x\\ty\" follows a closing quote"},
-              {"\"1\"2 3\n", "data.csv:1: \"2\" follows a closing quote", ' '},
-              {"\xFF\xFE,", "data.csv:1: the text is UTF-16; UTF-8 is needed"},
-              {"\xFE\xFF,", "data.csv:1: the text is UTF-16; UTF-8 is needed"}});
+              {"\"1\"2 3\n", "data.csv:1: \"2\" follows a closing quote", ' '}});
   for (const char* const text :
        {"1\r2\r3\r", " 1\r 2\r", "1,2\r,3\r", "\"1\"\r\"2\"\r", "\"1\"\r 2\r", "1\r\r\n"})
     ExpectRows({{text, "data.csv:1: a line ends with CR alone; LF or CR LF is needed"}});
-  EXPECT_EQ(Read(std::string(RowReader::kLongestRow, '"'), ',', RowReader::kBlockSize),
+  EXPECT_EQ(Read(std::string(RowScanner::kLongestRow, '"'), ',', RowReader::kBlockSize),
             "data.csv:1: the row is too long (more than 64 MiB); a closing quote may be missing");
+}
+
+// What was found: the delimiter, the decimal sign, whether there are a header and names of rows.
+std::string FormatOf(const std::string& text, const TableFormat& format) {
+  RowReader reader(SourceOf(text), format);
+  static_cast<void>(reader.Next());
+  const TableFormat& found = reader.Format();
+  return {*found.delimiter, *found.decimal_sign, found.header.value_or(false) ? 'h' : '-',
+          reader.HasRowNames() ? 'r' : '-'};
+}
+
+TEST(RowReader, FindsTheFormat) {
+  const std::string table = "x;y\n1,25;2\n";
+  for (const auto& [text, found, format] : std::initializer_list<ReadingCase<TableFormat>>{
+           {table, ";,h-"},
+           {table, ",.hr", {.delimiter = ','}},
+           {table, ";.h-", {.decimal_sign = '.'}},
+           {table, ";,--", {.header = false}},
+           // Cells that are numbers decide if the first line has several delimiters.
+           {"1,5;2,5\n3;4\n", ";,--"},
+           {"1,5 2,5\n3 4\n", " ,--"},
+           {"1,5\t2,5\n", "\t,--"},
+           {"weight, kg;n\n1,5;2\n", ";,h-"},
+           {"first name,last name\nAda B,C D\n", ",.h-"},
+           {"time,x\n2026-11-22 10:00,5\n", ",.h-"},
+           {"1,5\n2,5\n", ",.--"},
+           {"1,5\n2,5\n", " ,--", {.decimal_sign = ','}},
+           {"\"1,5\",\"2\"\n", ",,--", {.decimal_sign = ','}},
+           {"sep=|\n1|2\n", "|.--"},
+           {"\"sep=;\"\r\nx,y;z\n", ";.h-"},
+           // A comma may group digits, and a point is a decimal sign.
+           {"x y\n1,234 5\n", " .h-"},
+           {"x y\n1,234 -2,5\n", " ,h-"},
+           {"x;y\n1,234;5\n", ";,h-"},
+           {"x;y\n1,5;2.5\n", ";.h-"},
+           // Names of rows.
+           {"\"\",\"x\"\n\"a\",1\n", ",.hr"},
+           {"x y\na 1 2\nb 3 4\n", " .hr"},
+           {"x,y\n1,2,3\n4,5,\n", ",.hr"},
+           {"x,y\n1,2,\n3,4,\n", ",.h-"},
+           {"x,y\n1,2,3\n4,5\n", ",.h-"},
+           {"1 2\n3 4 5\n", " .--"},
+           {"1 2\n3 4 5\n", " .hr", {.header = true}},
+           {"x,,z\n1,2,3\n", ",.h-"},
+           {",,z\n1,2,3\n", ",.h-"},
+           {"NA,7\n", ",.--"},
+           {"", " .--"},
+       }) {
+    EXPECT_EQ(FormatOf(text, format), found) << text;
+  }
+  // The sample grows until it has two rows below the first.
+  EXPECT_EQ(FormatOf("x\n\"" + std::string(100000, 'a') + "\" 1\n\"b\" 2\n", {}), " .hr");
 }
 
 // What is written by the rules of RFC 4180 is read back, whatever the cells and the ends of blocks.

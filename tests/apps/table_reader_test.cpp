@@ -15,6 +15,8 @@ namespace {
 
 using Cases = std::initializer_list<ReadingCase<TableSelection>>;
 
+const TableFormat kComplete{.missing = MissingWords::None()};
+
 // The columns as text, with title, values and the number of skipped cells; or the error.
 std::string Read(const std::string& text, const TableSelection& selection, unsigned threads = 1,
                  std::size_t block_size = RowReader::kBlockSize) {
@@ -26,10 +28,11 @@ std::string Read(const std::string& text, const TableSelection& selection, unsig
       for (const Extended value : column.numbers.Values()) columns += ' ' + Float2Str(value);
       for (const std::uint32_t code : column.labels.Codes())
         columns += ' ' + column.labels.Texts()[code];
-      columns += "; " + Int2EStr(column.skipped);
+      columns += "; " + Int2EStr(column.missing);
       for (const std::size_t gap : column.gaps) columns += " gap " + Int2EStr(gap);
       columns += '\n';
     }
+    for (const TableColumn& column : table.left_out) columns += column.Title() + " left out\n";
     return columns;
   });
 }
@@ -52,18 +55,31 @@ TEST(TableReader, ReadsAllColumnsOrTheChosenOnesInTheirOrder) {
            {table,
             "column 3 (2): 3 6; 0\ncolumn 1 (x): 1 4; 0\n",
             {.columns = {"2", "1", "x", "3"}}},
-           {",x\n3,4\n", "column 1: 3; 0\ncolumn 2 (x): 4; 0\n"},
-           {"1,\n3,4\n", "column 1: 1 3; 0\ncolumn 2: 4; 1\n", {.skip_empty = true}},
-           {"1,\n3,4\n,5\n\n6,7\n",
-            "column 1: 3 6; 3\ncolumn 2: 4 7; 3\n",
-            {.skip_empty = true, .whole_rows = true}},
-           {"\n\n1 2\n3 4\n", "column 1: 1 3; 0\ncolumn 2: 2 4; 0\n", {.skip_empty = true}},
-           {"x,y,z\n1,,a\n\n  ,4,b\n3,5,c\n\n\n",
-            "column 1 (x): 1 3; 2\ncolumn 2 (y): 4 5; 2\n",
-            {.columns = {"x", "y"}, .skip_empty = true}},
-           {"x,2\n3,4\n", "column 2: 2 4; 0\n", {.columns = {"2"}, .header = false}},
+           {"\n\n1 2\n3 4\n", "column 1: 1 3; 0\ncolumn 2: 2 4; 0\n"},
+           {"x,2\n3,4\n", "column 2: 2 4; 0\n", {.columns = {"2"}, .format = {.header = false}}},
+           {"x;y\n1,5;2\n.5;1\n", "column 2 (y): 2 1; 0\n", {.columns = {"2"}}},
+           {"x;y\n-1,5e1;2\n;,25\n", "column 1 (x): -15; 1\ncolumn 2 (y): 2 0.25; 0\n"},
            {"0.1\n\" +1e4000 \"\n18446744073709551615\n-1.25E-3\n",
             "column 1: 0.1 1e+4000 18446744073709551615 -0.00125; 0\n"},
+       }) {
+    ExpectResult(text, selection, columns);
+  }
+}
+
+TEST(TableReader, SkipsMissingValuesAndLeavesOutColumnsWithoutNumbers) {
+  const TableFormat words{.missing = MissingWords({"-", "n/a", "-99"})};
+  for (const auto& [text, columns, selection] : Cases{
+           {"1,\n3,4\n", "column 1: 1 3; 0\ncolumn 2: 4; 1\n"},
+           {"NA,NaN\n3,4\nnull,nan\n", "column 1: 3; 2\ncolumn 2: 4; 2\n"},
+           {"1,\n3,4\n,5\n\n6,7\n", "column 1: 3 6; 3\ncolumn 2: 4 7; 3\n", {.whole_rows = true}},
+           {"x,y,z\n1,,a\n\n  ,4,b\n3,5,c\n\n\n",
+            "column 1 (x): 1 3; 2\ncolumn 2 (y): 4 5; 2\ncolumn 3 (z) left out\n"},
+           {"x,y,z\n-99,1,-99\nn/a,2,\n3,-,-\n",
+            "column 1 (x): 3; 2\ncolumn 2 (y): 1 2; 1\ncolumn 3 (z) left out\n",
+            {.format = words}},
+           {",x,y\n1,3,a\n2,4,5b\n", "column 2 (x): 3 4; 0\ncolumn 3 (y) left out\n"},
+           {",x\n7,3\n8,4\n", "column 1: 7 8; 0\n", {.columns = {"1"}}},
+           {"x y\na 1 2\nb 3 NA\n", "column 2 (x): 1 3; 0\ncolumn 3 (y): 2; 1\n"},
        }) {
     ExpectResult(text, selection, columns);
   }
@@ -73,12 +89,21 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
   for (const auto& [text, message, selection] : Cases{
            {"", " there is nothing to read"},
            {"x,y\n", " column 1 (x) has no values"},
-           {"x\n\n\"\"\n", " column 1 (x) has no values", {.skip_empty = true}},
-           {"x,y\n1,2\n\n3,a b\n", "3: column 1 (x): the cell is empty", {.columns = {"x"}}},
-           {"x,y\n1,2\n3,\n", "3: column 2 (y): the cell is empty"},
+           {"x,y\nNA,1\n", " column 1 (x) has no values", {.columns = {"x"}}},
+           {"x\n\n\"\"\n", " column 1 (x) has no values"},
+           {"x,y\na,\n", " no column has a number"},
+           {"x\na\n", "2: column 1 (x): \"a\" is not a number"},
+           {"x,y\n1,2\n\n3,a b\n",
+            "3: column 1 (x): the cell is empty",
+            {.columns = {"x"}, .format = kComplete}},
+           {"x,y\n1,2\n3,\n", "3: column 2 (y): the cell is empty", {.format = kComplete}},
            {"x,y\n1,2\n3,a\tb\n", "3: column 2 (y): \"a\\tb\" is not a number"},
-           {"NA,2\n3,4\n", "1: column 1: \"NA\" is not a number", {.header = false}},
-           {"1\nnan\n", "2: column 1: \"nan\" is not a finite number"},
+           {"x,y\n1,a\n3,b\n4,5\nc,6\n", "2: column 2 (y): \"a\" is not a number"},
+           {"x\nNA\n2\n", "2: column 1 (x): \"NA\" is not a number", {.format = kComplete}},
+           {"1\nnan\n", "2: column 1: \"nan\" is not a finite number", {.format = kComplete}},
+           {"x\n-inf\n1\n", "2: column 1 (x): \"-inf\" is not a finite number"},
+           {"x\ty\n1\t1,500\n", "2: column 2 (y): \"1,500\" is not a number"},
+           {"x;y\n1,5;1.234,5\n2;3\n", "2: column 2 (y): \"1.234,5\" is not a number"},
            {"1e5000\n", "1: column 1: \"1e5000\" is beyond the range of extended precision"},
            {"\nx,y\n1,2\n3\n", "4: the row has 1 cell where line 2 has 2"},
            {"x,y\n", " there is no column \"3\"; the columns are 1 (x), 2 (y)", {{"3"}}},
@@ -98,13 +123,16 @@ TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
                                 "1e-30,0.5\n", "3,4\r\n",      "4,1e-27\n",
                                 "\n",          " \t\n",        "5,\n",
                                 "\"6\",7\n",   "\"8\n9\",1\n", "1,2,3\n",
-                                "1,x\n",       "1\r2\n",       "922337203685477580.8,0\n"};
+                                "1,x\n",       "1\r2\n",       "922337203685477580.8,0\n",
+                                "NA,x\n",      "1,NA\n",       "x,NaN\n"};
   for (int repetition = 0; repetition < 1500; ++repetition) {
-    std::string text = engine() % 2 == 0 ? "a,b\n" : "";
+    const char* const starts[] = {"", "a,b\n", "a,b\nx,1\n", "a,b\nx,y\nx,y\n"};
+    std::string text = starts[engine() % 4];
     const std::size_t usual = 1 + engine() % std::size(pieces);
     for (std::size_t rows = engine() % 30; rows > 0; --rows)
       text += pieces[engine() % (engine() % 8 == 0 ? std::size(pieces) : std::min(usual, 6UL))];
-    TableSelection selection{.skip_empty = engine() % 2 == 0, .whole_rows = engine() % 2 == 0};
+    TableSelection selection{.whole_rows = engine() % 2 == 0};
+    if (engine() % 2 == 0) selection.format = kComplete;
     if (engine() % 2 == 0) selection.labels = {"2"};
     const std::string result = Read(text, selection);
     const std::size_t block_size = 4 + engine() % 60;
@@ -123,7 +151,8 @@ TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
 
 // The integers of a single column and their decimals; nothing for values.
 std::string IntegersOf(const std::string& text, bool currency) {
-  const Table table = ReadTable(SourceOf(text), {.header = false, .currency = currency});
+  const Table table =
+      ReadTable(SourceOf(text), {.format = {.header = false}, .currency = currency});
   const ColumnNumbers& numbers = table.columns[0].numbers;
   if (!numbers.AreDecimal()) return "";
   std::string integers;
@@ -175,7 +204,7 @@ TEST(TableReader, HasTheSameValuesForIntegersAsForTexts) {
 TEST(Excerpt, IsCutBetweenCharacters) {
   EXPECT_EQ(Excerpt("\x1B[31m"), "\"\\x1B[31m\"");
   EXPECT_EQ(Excerpt(std::string(40, 'x')), '"' + std::string(40, 'x') + '"');
-  EXPECT_EQ(Excerpt(std::string(39, 'x') + "\u00E9y"), '"' + std::string(39, 'x') + "...\"");
+  EXPECT_EQ(Excerpt(std::string(39, 'x') + "\u00E9y"), '"' + std::string(39, 'x') + "\u00E9...\"");
 }
 
 }  // namespace

@@ -312,17 +312,18 @@ TEST_F(AccessibleMatrix, IsEmptyWithoutElementsOrCells) {
   EXPECT_EQ(Panel()->childCount(), 0);
 }
 
-TEST(AccessibleCells, HaveAFrameInAPaletteOfHighContrast) {
+TEST(AccessibleCells, HaveAFrameInEveryPalette) {
   TQorFloatEdit cell;
-  const auto edge = [&cell](const QColor& paper, const QColor& ink) {
-    QPalette palette(paper, paper);
-    palette.setColor(QPalette::Base, paper);
+  const auto edge = [&cell](const QColor& window, const QColor& base, const QColor& ink) {
+    QPalette palette(window, window);
+    palette.setColor(QPalette::Base, base);
     palette.setColor(QPalette::Text, ink);
     cell.setPalette(palette);
-    return cell.grab().toImage().pixelColor(cell.width() / 2, 0);
+    return cell.grab().toImage().pixelColor(cell.width() / 2, 0).lightness();
   };
-  EXPECT_GT(edge(Qt::black, Qt::white).lightness(), 100);
-  EXPECT_LT(edge(Qt::white, Qt::black).lightness(), 200);
+  EXPECT_GT(edge(Qt::black, Qt::black, Qt::white), 100) << "high contrast";
+  EXPECT_GT(edge(QColor(0x2b, 0x2d, 0x30), QColor(0x1e, 0x1f, 0x22), Qt::white), 70) << "dark";
+  EXPECT_LT(edge(Qt::white, Qt::white, Qt::black), 200);
 }
 
 }  // namespace qorvex

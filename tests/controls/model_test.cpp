@@ -487,6 +487,48 @@ TEST(Models, TakeWidthsAndFormatsAlongWithTheirColumns) {
   EXPECT_EQ(editor.findChildren<TQorFloatEdit*>()[0]->text(), "3.0000");
 }
 
+TEST(Models, MayHoldTextsBesideNumbers) {
+  QLocale::setDefault(QLocale::c());
+  QStandardItemModel model(3, 2);
+  for (int row = 0; row < 3; ++row) model.setData(model.index(row, 0), row + 0.5);
+  model.setData(model.index(0, 1), "red");
+  TQorMatrixEdit editor;
+  editor.setModel(&model);
+  QStringList nulls;
+  QObject::connect(&editor, &TQorMatrixEdit::OnNull,
+                   [&](quint32 row, quint32 col) { nulls += QString("%1,%2").arg(row).arg(col); });
+  // Three in a row.
+  const auto cells = editor.findChildren<TQorFloatEdit*>();
+  EXPECT_EQ(cells[1]->text(), "") << "unless it is allowed";
+  editor.setTextItems(true);
+  EXPECT_EQ(cells[1]->text(), "red");
+  EXPECT_EQ(cells[1]->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignLeft);
+  EXPECT_TRUE(std::isnan(editor.Element(0, 1)));
+  editor.show();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
+  cells[4]->setFocus();
+  QTest::keyClicks(cells[4], "007\r");
+  // An item that holds a number keeps its type, unless what is typed is none.
+  cells[3]->setFocus();
+  QTest::keyClicks(cells[3], "2.50\r");
+  EXPECT_EQ(model.index(1, 0).data(Qt::EditRole), 2.5);
+  cells[3]->setFocus();
+  QTest::keyClicks(cells[3], "blue\r");
+  EXPECT_EQ(Column(model), "0.5|blue|2.5");
+  EXPECT_EQ(Column(model, Qt::EditRole, 1), "red|007|");
+  editor.Select({.row = 0, .rows = 2, .col = 0, .cols = 2});
+  EXPECT_TRUE(editor.Copy());
+  EXPECT_EQ(QApplication::clipboard()->text(), "0.5\tred\nblue\t007\n");
+  editor.Select({.row = 1, .rows = 1, .col = 0, .cols = 2});
+  EXPECT_TRUE(editor.Paste());
+  EXPECT_EQ(Column(model, Qt::EditRole, 1), "red|red|007");
+  EXPECT_TRUE(nulls.isEmpty()) << nulls.join(' ').toStdString();
+  for (int step = 0; step < 4; ++step) editor.Undo();
+  EXPECT_EQ(Column(model), "0.5|1.5|2.5");
+  EXPECT_EQ(Column(model, Qt::EditRole, 1), "red||");
+  EXPECT_EQ(nulls, QStringList({"2,1", "1,1"}));
+}
+
 TEST(Models, AreSharedByViewsAndMappers) {
   QLocale::setDefault(QLocale::c());
   TQorMatrixModel model;

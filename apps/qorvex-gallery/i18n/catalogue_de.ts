@@ -579,4 +579,187 @@
         <translation>x^%1 hängt linear von den Gliedern davor ab: Es gibt zu wenige verschiedene x</translation>
     </message>
 </context>
+<context>
+    <name>Report</name>
+    <message>
+        <source>Not enough Values for Variance</source>
+        <translation>Zu wenige Werte für die Varianz</translation>
+    </message>
+    <message>
+        <source>Not enough Values for Standard Deviation</source>
+        <translation>Zu wenige Werte für die Standardabweichung</translation>
+    </message>
+    <message>
+        <source>Not enough Values for Skew</source>
+        <translation>Zu wenige Werte für die Schiefe</translation>
+    </message>
+    <message>
+        <source>Not enough Values for Kurtosis</source>
+        <translation>Zu wenige Werte für die Wölbung</translation>
+    </message>
+    <message>
+        <source>Standard Deviation needs to be &gt; 0 for Kurtosis</source>
+        <translation>Die Wölbung braucht eine Standardabweichung &gt; 0</translation>
+    </message>
+    <message>
+        <source>Standard Deviation needs to be &gt; 0 for Skew</source>
+        <translation>Die Schiefe braucht eine Standardabweichung &gt; 0</translation>
+    </message>
+    <message>
+        <source>Number of Values:</source>
+        <translation>Anzahl der Werte:</translation>
+    </message>
+    <message>
+        <source>Maximum:</source>
+        <translation>Maximum:</translation>
+    </message>
+    <message>
+        <source>Minimum:</source>
+        <translation>Minimum:</translation>
+    </message>
+    <message>
+        <source>Range:</source>
+        <translation>Spannweite:</translation>
+    </message>
+    <message>
+        <source>Mean:</source>
+        <translation>Mittelwert:</translation>
+    </message>
+    <message>
+        <source>Mean of X Values:</source>
+        <translation>Mittelwert der X-Werte:</translation>
+    </message>
+    <message>
+        <source>Mean of Y Values:</source>
+        <translation>Mittelwert der Y-Werte:</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modalwert:</translation>
+    </message>
+    <message>
+        <source>No Modal Value</source>
+        <translation>Kein Modalwert</translation>
+    </message>
+    <message>
+        <source>Median:</source>
+        <translation>Median:</translation>
+    </message>
+    <message>
+        <source>Variance:</source>
+        <translation>Varianz:</translation>
+    </message>
+    <message>
+        <source>Covariance:</source>
+        <translation>Kovarianz:</translation>
+    </message>
+    <message>
+        <source>Standard Deviation:</source>
+        <translation>Standardabweichung:</translation>
+    </message>
+    <message>
+        <source>Standard Deviation of X Values:</source>
+        <translation>Standardabweichung der X-Werte:</translation>
+    </message>
+    <message>
+        <source>Standard Deviation of Y Values:</source>
+        <translation>Standardabweichung der Y-Werte:</translation>
+    </message>
+    <message>
+        <source>Sum:</source>
+        <translation>Summe:</translation>
+    </message>
+    <message>
+        <source>Sum of Squares:</source>
+        <translation>Summe der Quadrate:</translation>
+    </message>
+    <message>
+        <source>Kurtosis:</source>
+        <translation>Wölbung:</translation>
+    </message>
+    <message>
+        <source>Skew:</source>
+        <translation>Schiefe:</translation>
+    </message>
+    <message>
+        <source>First Quartile:</source>
+        <translation>Erstes Quartil:</translation>
+    </message>
+    <message>
+        <source>Third Quartile:</source>
+        <translation>Drittes Quartil:</translation>
+    </message>
+    <message>
+        <source>Inter-Quartile Range:</source>
+        <translation>Quartilsabstand:</translation>
+    </message>
+    <message>
+        <source>Confidence Level: </source>
+        <translation>Konfidenzniveau: </translation>
+    </message>
+    <message>
+        <source>Significance Level: </source>
+        <translation>Signifikanzniveau: </translation>
+    </message>
+    <message>
+        <source>Null Hypothesis: </source>
+        <translation>Nullhypothese: </translation>
+    </message>
+    <message>
+        <source>Alternate Hypothesis: </source>
+        <translation>Alternativhypothese: </translation>
+    </message>
+    <message>
+        <source>Test Statistics: </source>
+        <translation>Teststatistik: </translation>
+    </message>
+    <message>
+        <source>Confidence Interval for the Mean: </source>
+        <translation>Konfidenzintervall des Mittelwerts: </translation>
+    </message>
+    <message>
+        <source>Confidence Interval for the Variance: </source>
+        <translation>Konfidenzintervall der Varianz: </translation>
+    </message>
+    <message>
+        <source>P-Value: </source>
+        <translation>p-Wert: </translation>
+    </message>
+    <message>
+        <source>Rejection Region: </source>
+        <translation>Ablehnungsbereich: </translation>
+    </message>
+    <message>
+        <source>Null Hypothesis is Rejected!</source>
+        <translation>Die Nullhypothese wird abgelehnt!</translation>
+    </message>
+    <message>
+        <source>Null Hypothesis is not-Rejected!</source>
+        <translation>Die Nullhypothese wird nicht abgelehnt!</translation>
+    </message>
+    <message>
+        <source>There is sufficient Statistical evidence to reject the proposal behind the Null Hypothesis</source>
+        <translation>Die Daten sprechen hinreichend gegen die Annahme der Nullhypothese</translation>
+    </message>
+    <message>
+        <source>There is insufficient Statistical evidence to reject the proposal behind the Null Hypothesis</source>
+        <translation>Die Daten sprechen nicht hinreichend gegen die Annahme der Nullhypothese</translation>
+    </message>
+    <message>
+        <source>Regression Line:</source>
+        <translation>Regressionsgerade:</translation>
+    </message>
+    <message>
+        <source>Sum of Squares Error:</source>
+        <translation>Summe der Fehlerquadrate:</translation>
+    </message>
+    <message>
+        <source>Coefficient of Determination</source>
+        <translation>Bestimmtheitsmaß</translation>
+    </message>
+    <message>
+        <source>Coefficient of Correlation</source>
+        <translation>Korrelationskoeffizient</translation>
+    </message>
+</context>
 </TS>

@@ -5,6 +5,8 @@
 #include <exception>
 #include <utility>
 
+#include "apps/qorvex-gallery/model/error_text.h"
+
 namespace qorvex::gallery {
 
 BackgroundWork::BackgroundWork(QObject* parent) : QObject(parent) {
@@ -66,7 +68,7 @@ void BackgroundWork::Finish() {
     // Rethrows the exception of the work.
     watcher_.waitForFinished();
   } catch (const std::exception& error) {
-    return failed(QString::fromUtf8(error.what()));
+    return failed(ErrorText(error));
   }
   done();
 }

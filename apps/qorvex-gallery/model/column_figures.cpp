@@ -1,12 +1,12 @@
 #include "apps/qorvex-gallery/model/column_figures.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 #include <string>
 #include <thread>
 
 #include "apps/common/column_numbers.h"
+#include "apps/common/figure_format.h"
 #include "apps/common/hidden_figures.h"
 #include "apps/common/sample_figures.h"
 #include "qorvex/base/text.h"
@@ -15,10 +15,6 @@
 namespace qorvex::gallery {
 
 namespace {
-
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::DataPage", text);
-}
 
 // Very long figures get an exponent.
 QString Readable(const std::string& figure, const QLocale& locale) {
@@ -47,23 +43,28 @@ ColumnFigures::ColumnFigures(const TQorFloatVector& values, bool population) {
   const apps::SampleFigures figures = apps::ExactFigures(
       apps::ExactSumsOf<4>(numbers, threads), apps::OrderFiguresOf(numbers), numbers, population);
   lines_ = figures.Lines(population);
+  significant_digits_ = apps::SignificantDigits(numbers);
   if (values.size() > 1 && !population)
     interval_ = MeanInterval(apps::ExactSumsOf<2>(numbers, threads));
 }
 
-QList<QStringList> ColumnFigures::ReportTable(int decimals, const QLocale& locale) const {
+QList<QStringList> ColumnFigures::ReportTable(std::optional<int> decimals,
+                                              const QLocale& locale) const {
+  const apps::FigureFormat fitting = apps::FormatFor(significant_digits_);
   QList<QStringList> figures;
   for (const ReportFigure& line : lines_) {
-    figures.append(
-        {QString::fromStdString(ReportText(line.label)), Readable(line.Text(decimals), locale)});
+    const std::string text = decimals     ? line.Text(*decimals)
+                             : line.value ? fitting.Text(*line.value)
+                                          : std::string();
+    figures.append({QString::fromStdString(ReportText(line.label)), Readable(text, locale)});
   }
   if (lines_.empty()) figures.append({QString::fromStdString(MessageText(rsVectorIsEmpty)), {}});
   if (interval_) {
     const auto end = [&](Extended figure) {
-      return Readable(Float2EStr(figure, decimals), locale);
+      return Readable(decimals ? Float2EStr(figure, *decimals) : fitting.Text(figure), locale);
     };
-    figures.append({Text("95 % Interval for the Mean:"),
-                    Text("%1 to %2").arg(end(interval_->least), end(interval_->greatest))});
+    figures.append({tr("95 % Interval for the Mean:"),
+                    tr("%1 to %2").arg(end(interval_->least), end(interval_->greatest))});
   }
   const qsizetype rows = (figures.size() + 1) / 2;
   QList<QStringList> table(rows);
@@ -71,27 +72,29 @@ QList<QStringList> ColumnFigures::ReportTable(int decimals, const QLocale& local
   return table;
 }
 
-QString ColumnFigures::Remark(std::size_t empty_cells, int decimals, int most_decimals,
-                              const QLocale& locale) const {
-  const auto in_number = [&locale](std::size_t n, const char* one, const char* several) {
-    return n == 1 ? Text(one) : Text(several).arg(locale.toString(n));
-  };
+QString ColumnFigures::Remark(std::size_t empty_cells, std::optional<int> decimals,
+                              int most_decimals, const QLocale& locale) const {
   QStringList remarks;
-  if (empty_cells > 0)
-    remarks += in_number(empty_cells, "without 1 empty cell", "without %1 empty cells");
+  if (empty_cells == 1) remarks += tr("without 1 empty cell");
+  if (empty_cells > 1) remarks += tr("without %1 empty cells").arg(locale.toString(empty_cells));
+  if (decimals) remarks += HiddenRemark(*decimals, most_decimals, locale);
+  remarks.removeAll(QString());
+  return remarks.join(QStringLiteral("; "));
+}
+
+QString ColumnFigures::HiddenRemark(int decimals, int most_decimals, const QLocale& locale) const {
   std::vector<Extended> figures;
   for (const ReportFigure& line : lines_)
     if (apps::HasUnit(line) && std::isfinite(*line.value)) figures.push_back(*line.value);
-  const apps::HiddenFigures hidden = apps::HiddenAmong(figures, decimals);
-  if (hidden.count > 0 && hidden.enough_decimals <= most_decimals) {
-    remarks += in_number(hidden.count, "1 figure needs up to %1 decimals",
-                         "%1 figures need up to %2 decimals")
-                   .arg(hidden.enough_decimals);
-  } else if (hidden.count > 0) {
-    remarks += in_number(hidden.count, "1 figure is too small to show a digit",
-                         "%1 figures are too small to show a digit");
+  const auto [count, enough] = apps::HiddenAmong(figures, decimals);
+  if (count == 0) return {};
+  const QString number = locale.toString(count);
+  if (enough > most_decimals) {
+    return count == 1 ? tr("1 figure is too small to show a digit")
+                      : tr("%1 figures are too small to show a digit").arg(number);
   }
-  return remarks.join(QStringLiteral("; "));
+  return count == 1 ? tr("1 figure needs up to %1 decimals").arg(enough)
+                    : tr("%1 figures need up to %2 decimals").arg(number).arg(enough);
 }
 
 }  // namespace qorvex::gallery

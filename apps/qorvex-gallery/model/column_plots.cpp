@@ -18,9 +18,9 @@ namespace qorvex::gallery {
 
 namespace {
 
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::PlotChooser", text);
-}
+struct ColumnPlots {
+  Q_DECLARE_TR_FUNCTIONS(ColumnPlots)
+};
 
 QPointF Point(Extended x, Extended y) {
   return {static_cast<double>(x), static_cast<double>(y)};
@@ -31,7 +31,7 @@ PlotLayer Guide(std::vector<QPointF> points) {
 }
 
 PlotLayer Bars(const Histogram& histogram) {
-  PlotLayer layer{PlotShape::kBars, PlotRole::kData, Text("Values"), {}};
+  PlotLayer layer{PlotShape::kBars, PlotRole::kData, ColumnPlots::tr("Values"), {}};
   for (std::size_t i = 0; i < histogram.edges.size(); ++i)
     layer.points.push_back(Point(histogram.edges[i], i == 0 ? 0 : histogram.Density(i - 1)));
   return layer;
@@ -43,7 +43,7 @@ PlotLayer NormalCurve(const Histogram& histogram, Extended mean, Extended std_de
   constexpr Extended reach = 3;
   PlotLayer layer{PlotShape::kLine,
                   PlotRole::kModel,
-                  Text("Normal density of the same mean and standard deviation"),
+                  ColumnPlots::tr("Normal density of the same mean and standard deviation"),
                   {}};
   const Extended low = std::min(histogram.edges.front(), mean - reach * std_dev);
   const Extended high = std::max(histogram.edges.back(), mean + reach * std_dev);
@@ -78,8 +78,9 @@ void AddBox(PlotContent& plot, const TQorFloatVector& sorted) {
   const auto* const first = std::ranges::lower_bound(sorted, q1 - reach * length);
   const auto* const last = std::ranges::upper_bound(sorted, q3 + reach * length) - 1;
   PlotLayer box{PlotShape::kBox, PlotRole::kData, {}, {}};
-  box.labels = {Text("Lower whisker"), Text("First quartile"), Text("Median"),
-                Text("Third quartile"), Text("Upper whisker")};
+  box.labels = {ColumnPlots::tr("Lower whisker"), ColumnPlots::tr("First quartile"),
+                ColumnPlots::tr("Median"), ColumnPlots::tr("Third quartile"),
+                ColumnPlots::tr("Upper whisker")};
   // Quartiles between values may lie beyond the values that the whiskers extend to.
   for (const Extended value :
        {std::min(*first, q1), q1, GetMedian(sorted), q3, std::max(*last, q3)})
@@ -110,7 +111,7 @@ Pairs FinitePairs(const TQorFloatVector& x, const TQorFloatVector& y) {
 
 PlotContent HistogramPlot(const NamedValues& column, std::size_t classes) {
   const TQorFloatVector sorted = SortedFinite(column.values);
-  PlotContent plot{{}, {column.name}, {Text("Density")}};
+  PlotContent plot{{}, {column.name}, {ColumnPlots::tr("Density")}};
   const Histogram histogram = classes == 0 ? HistogramOf(sorted) : HistogramOf(sorted, classes);
   if (histogram.total == 0) return plot;
   plot.layers.push_back(Bars(histogram));
@@ -127,10 +128,10 @@ PlotContent HistogramPlot(const NamedValues& column, std::size_t classes) {
 
 PlotContent NormalQuantilePlot(const NamedValues& column) {
   const TQorFloatVector sorted = SortedFinite(column.values);
-  PlotContent plot{{}, {Text("Normal quantile")}, {column.name}};
+  PlotContent plot{{}, {ColumnPlots::tr("Normal quantile")}, {column.name}};
   if (sorted.empty()) return plot;
   const NormalDistribution normal;
-  PlotLayer values{PlotShape::kPoints, PlotRole::kData, Text("Values"), {}};
+  PlotLayer values{PlotShape::kPoints, PlotRole::kData, ColumnPlots::tr("Values"), {}};
   for (const std::size_t rank : ShownRanks(sorted.size())) {
     const Extended p = (static_cast<Extended>(rank) + 0.5L) / static_cast<Extended>(sorted.size());
     values.points.push_back(Point(normal.Quantile(Tail::kLower, p), sorted[rank]));
@@ -138,7 +139,8 @@ PlotContent NormalQuantilePlot(const NamedValues& column) {
   Extended q1, q3;
   GetQuartiles(sorted, q1, q3);
   const Extended slope = (q3 / 2 - q1 / 2) / normal.Quantile(Tail::kLower, 0.75L);
-  PlotLayer line{PlotShape::kLine, PlotRole::kModel, Text("Line through the quartiles"), {}};
+  PlotLayer line{
+      PlotShape::kLine, PlotRole::kModel, ColumnPlots::tr("Line through the quartiles"), {}};
   for (const Extended z : {values.points.front().x(), values.points.back().x()})
     line.points.push_back(Point(z, q1 / 2 + q3 / 2 + slope * z));
   plot.layers = {std::move(line), std::move(values)};
@@ -149,13 +151,14 @@ PlotContent OrderPlot(const NamedValues& column) {
   PlotLayer values{PlotShape::kPoints, PlotRole::kData, {}, {}};
   for (std::size_t i = 0; i < column.values.size(); ++i)
     values.points.push_back(Point(static_cast<Extended>(i + 1), column.values[i]));
-  PlotContent plot{{std::move(values)}, {Text("Row")}, {column.name}};
+  PlotContent plot{{std::move(values)}, {ColumnPlots::tr("Row")}, {column.name}};
   plot.x.least = 0;
   return plot;
 }
 
 PlotContent AutocorrelationPlot(const NamedValues& column) {
-  PlotContent plot{{}, {Text("Lag")}, {Text("Autocorrelation of %1").arg(column.name)}};
+  PlotContent plot{
+      {}, {ColumnPlots::tr("Lag")}, {ColumnPlots::tr("Autocorrelation of %1").arg(column.name)}};
   const std::size_t count = column.values.size();
   if (count == 0) return plot;
   const auto lags = static_cast<std::size_t>(10 * Log10(static_cast<Extended>(count)));
@@ -170,7 +173,7 @@ PlotContent AutocorrelationPlot(const NamedValues& column) {
                          std::sqrt(static_cast<Extended>(present));
   const auto last = static_cast<Extended>(correlations.size() - 1);
   PlotLayer upper = Guide({Point(0, bound), Point(last, bound)});
-  upper.name = Text("95 % of independent values");
+  upper.name = ColumnPlots::tr("95 % of independent values");
   plot.layers = {std::move(upper), Guide({Point(0, -bound), Point(last, -bound)}),
                  std::move(stems)};
   return plot;
@@ -197,7 +200,7 @@ PlotContent ScatterPlot(const NamedValues& x, const NamedValues& y) {
 
 PlotContent ResidualPlot(const NamedValues& x, const NamedValues& y) {
   const Pairs pairs = FinitePairs(x.values, y.values);
-  PlotContent plot{{}, {x.name}, {Text("Residual of %1").arg(y.name)}};
+  PlotContent plot{{}, {x.name}, {ColumnPlots::tr("Residual of %1").arg(y.name)}};
   try {
     const PairFit fit = FitPairs(pairs.x, pairs.y);
     const Extended slope = fit.curve.Coefficient(1).value;

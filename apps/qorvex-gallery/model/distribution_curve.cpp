@@ -16,19 +16,28 @@ constexpr std::size_t kMostStems = 150;
 
 using Points = std::vector<QPointF>;
 
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::DistributionPage", text);
+struct DistributionCurve {
+  Q_DECLARE_TR_FUNCTIONS(DistributionCurve)
+};
+
+Extended WidthOf(const Interval<Extended>& interval) {
+  return interval.greatest - interval.least;
 }
 
+// All but a thousandth at each side, or but a fortieth if tails would take up the whole diagram.
 Interval<Extended> MiddleOf(const apps::AnyDistribution& distribution) {
-  constexpr Extended tail = 1e-3L;
-  return {distribution.Quantile(Tail::kLower, tail), distribution.Quantile(Tail::kUpper, tail)};
+  const auto without = [&](Extended tail) -> Interval<Extended> {
+    return {distribution.Quantile(Tail::kLower, tail), distribution.Quantile(Tail::kUpper, tail)};
+  };
+  constexpr Extended most_halves = 50;
+  const Interval<Extended> most = without(1e-3L);
+  return WidthOf(most) <= most_halves * WidthOf(without(0.25L)) ? most : without(0.025L);
 }
 
 Interval<Extended> RangeOf(const apps::AnyDistribution& distribution,
                            const DistributionQuestion& question) {
   Interval<Extended> range = MiddleOf(distribution);
-  const Extended width = range.greatest - range.least;
+  const Extended width = WidthOf(range);
   const Interval<Extended> support = distribution.Support();
   if (range.least - support.least < width / 2) range.least = support.least;
   if (support.greatest - range.greatest < width / 2) range.greatest = support.greatest;
@@ -59,13 +68,16 @@ std::vector<PlotLayer> Sides(const DistributionQuestion& question, PlotShape sha
   const auto a = static_cast<double>(question.points.front());
   const auto b = static_cast<double>(question.points.back());
   if (question.points.size() == 2) {
-    return {{shape, PlotRole::kData, Text("P(a < X < b)"), Within(curve, a + gap, b - gap)},
-            {shape, PlotRole::kTail, Text("Outside"), Within(curve, -infinity, a)},
+    return {{shape, PlotRole::kData, DistributionCurve::tr("P(a < X < b)"),
+             Within(curve, a + gap, b - gap)},
+            {shape, PlotRole::kTail, DistributionCurve::tr("Outside"), Within(curve, -infinity, a)},
             {shape, PlotRole::kTail, {}, Within(curve, b, infinity)}};
   }
-  return {{shape, PlotRole::kTail, is_count ? Text("P(X ≤ k)") : Text("P(X ≤ x)"),
+  return {{shape, PlotRole::kTail,
+           is_count ? DistributionCurve::tr("P(X ≤ k)") : DistributionCurve::tr("P(X ≤ x)"),
            Within(curve, -infinity, a)},
-          {shape, PlotRole::kData, is_count ? Text("P(X > k)") : Text("P(X > x)"),
+          {shape, PlotRole::kData,
+           is_count ? DistributionCurve::tr("P(X > k)") : DistributionCurve::tr("P(X > x)"),
            Within(curve, a + gap, infinity)}};
 }
 
@@ -78,7 +90,7 @@ std::vector<PlotLayer> Marks(const DistributionQuestion& question,
     const auto x = static_cast<double>(at);
     marks.push_back({PlotShape::kMarks,
                      role,
-                     Text("%1 = %2").arg(name, QLocale().toString(x, 'g', 6)),
+                     DistributionCurve::tr("%1 = %2").arg(name, QLocale().toString(x, 'g', 6)),
                      {QPointF(x, 0)}});
   };
   if (question.points.size() == 2) {
@@ -88,7 +100,8 @@ std::vector<PlotLayer> Marks(const DistributionQuestion& question,
     add(PlotRole::kGuide, question.is_discrete ? QStringLiteral("k") : QStringLiteral("x"),
         question.points.front());
   }
-  if (question.quantile) add(PlotRole::kSecondModel, Text("Quantile"), *question.quantile);
+  if (question.quantile)
+    add(PlotRole::kSecondModel, DistributionCurve::tr("Quantile"), *question.quantile);
   return marks;
 }
 
@@ -96,7 +109,7 @@ std::vector<PlotLayer> Marks(const DistributionQuestion& question,
 
 std::vector<Extended> PlottedPoints(const Interval<Extended>& range, bool counts) {
   constexpr Extended most_steps = 400;
-  const Extended width = range.greatest - range.least;
+  const Extended width = WidthOf(range);
   Extended step = width / most_steps;
   if (counts) step = std::max<Extended>(1, std::ceil(step));
   std::vector<Extended> points;
@@ -131,8 +144,9 @@ PlotContent DistributionPlot(const apps::AnyDistribution& distribution,
   plot.layers = Sides(question, stems ? PlotShape::kStems : PlotShape::kArea, curve);
   if (!stems) plot.layers.push_back({PlotShape::kLine, PlotRole::kModel, {}, curve});
   std::ranges::move(Marks(question, range), std::back_inserter(plot.layers));
-  plot.x.title = question.is_discrete ? Text("k") : Text("x");
-  plot.y.title = question.is_discrete ? Text("Probability") : Text("Density");
+  plot.x.title = question.is_discrete ? DistributionCurve::tr("k") : DistributionCurve::tr("x");
+  plot.y.title = question.is_discrete ? DistributionCurve::tr("Probability")
+                                      : DistributionCurve::tr("Density");
   if (stems) {
     // Room for half of the first and the last stem, but none for counts that do not exist.
     plot.x.least = static_cast<double>(range.least) - 0.5;

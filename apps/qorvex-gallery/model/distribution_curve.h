@@ -33,9 +33,10 @@ struct DistributionQuestion {
 /// The density or the probabilities of counts, with the probability on both sides of the point or
 /// the interval as areas or stems of different colours, and marks at the points and the quantile.
 ///
-/// - The range is the middle of the distribution, all but one in a thousand at each side. It begins
-///   where the support begins if that is near, and ends where the support ends; it extends to
-///   points just outside.
+/// - The range is the middle of the distribution, all but one in a thousand at each side, or one in
+///   forty where that would be more than fifty times as wide as the middle half. It begins where
+///   the support begins if that is near, and ends where the support ends; it extends to points just
+///   outside.
 /// - Raises EMathError as the quantiles do.
 [[nodiscard]] PlotContent DistributionPlot(const apps::AnyDistribution& distribution,
                                            const DistributionQuestion& question);

@@ -34,11 +34,14 @@ TQorFloatVector FiguresOf(apps::ColumnNumbers& numbers, bool population) {
 }  // namespace
 
 QStringList GroupFigureTitles() {
-  const auto text = [](const char* title) {
-    return QCoreApplication::translate("qorvex::gallery::GroupReport", title);
-  };
-  return {text("Values"),         text("Mean"),   text("Standard Deviation"), text("Minimum"),
-          text("First Quartile"), text("Median"), text("Third Quartile"),     text("Maximum")};
+  return {QCoreApplication::translate("qorvex::gallery::GroupReport", "Values"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "Mean"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "Standard Deviation"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "Minimum"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "First Quartile"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "Median"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "Third Quartile"),
+          QCoreApplication::translate("qorvex::gallery::GroupReport", "Maximum")};
 }
 
 TQorFloatMatrix FiguresOfGroups(const TQorFloatVector& numbers, const SheetGroups& groups,

@@ -3,7 +3,7 @@
 namespace qorvex::gallery {
 
 QString HtmlTable(const QList<QStringList>& rows) {
-  QString html = QStringLiteral("<table>\n");
+  QString html = QStringLiteral("<table cellspacing=\"0\" cellpadding=\"2\">\n");
   for (const QStringList& row : rows) {
     const bool is_heading = row.value(0).isEmpty();
     html += QStringLiteral("<tr>");

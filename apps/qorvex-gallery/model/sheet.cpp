@@ -9,6 +9,7 @@
 #include "qorvex/base/errors.h"
 #include "qorvex/base/text.h"
 #include "qorvex/base_controls/detail/number_text.h"
+#include "qorvex/controls/detail/model_number.h"
 
 namespace qorvex::gallery {
 
@@ -113,7 +114,7 @@ void Sheet::SetData(SheetData data) {
   data_ = std::move(data);
   numbers_.assign(data_.Columns(), std::nullopt);
   endResetModel();
-  ChangedSoon();
+  Q_EMIT Changed();
 }
 
 void Sheet::TakeNamesFromFirstRow() {
@@ -167,12 +168,14 @@ QVariant Sheet::headerData(int section, Qt::Orientation orientation, int role) c
 }
 
 Qt::ItemFlags Sheet::flags(const QModelIndex& index) const {
-  return QAbstractTableModel::flags(index) | Qt::ItemIsEditable;
+  const Qt::ItemFlags flags = QAbstractTableModel::flags(index);
+  return index.isValid() ? flags | Qt::ItemIsEditable : flags;
 }
 
 std::string Sheet::TextFor(const QVariant& value) const {
   if (!value.isValid()) return {};
-  if (value.metaType().id() != QMetaType::QString) return data_.TextOf(value.value<Extended>());
+  if (value.metaType().id() != QMetaType::QString)
+    return data_.TextOf(QorvexControls::detail::NumberOf(value, QLocale()).value_or(kNull));
   const QString typed = value.toString().trimmed();
   const std::string text = typed.toStdString();
   if (text.empty() || data_.NumberIn(text)) return text;

@@ -51,7 +51,7 @@ class Sheet : public QAbstractTableModel {
   [[nodiscard]] SheetGroups Groups(int column) const;
 
   /// @{
-  /// All cells. Setting them shows another table.
+  /// All cells. Setting them shows another table, and raises Changed at once.
   [[nodiscard]] const SheetData& Data() const noexcept { return data_; }
   void SetData(SheetData data);
   /// @}
@@ -90,8 +90,8 @@ class Sheet : public QAbstractTableModel {
   /// @}
 
  Q_SIGNALS:
-  /// Cells, columns or their names have changed, or all are saved; at most once a turn of the event
-  /// loop.
+  /// Cells, columns or their names have changed, or all are saved; otherwise than by
+  /// SetData at most once a turn of the event loop.
   void Changed();
 
  private:

@@ -6,7 +6,7 @@
 #include <stdexcept>
 #include <utility>
 
-#include "qorvex/base/errors.h"
+#include "apps/common/cells.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::gallery {
@@ -15,19 +15,6 @@ namespace {
 
 constexpr std::size_t kLongestText = (std::size_t{1} << 38) - 1;
 constexpr std::size_t kLongestCell = (std::size_t{1} << 26) - 1;
-
-// Most texts are told from numbers without the cost of an exception.
-bool MayBeNumber(std::string_view cell) {
-  constexpr std::string_view signs = "+-";
-  for (std::size_t i = 0; i < cell.size(); ++i) {
-    const char c = cell[i];
-    const bool is_exponent = i > 0 && (c == 'e' || c == 'E');
-    const bool is_sign =
-        signs.find(c) != signs.npos && (i == 0 || cell[i - 1] == 'e' || cell[i - 1] == 'E');
-    if (!(c >= '0' && c <= '9') && c != '.' && !is_exponent && !is_sign) return false;
-  }
-  return true;
-}
 
 template <class Vector>
 auto At(Vector& vector, std::size_t index) {
@@ -42,7 +29,10 @@ SheetData::SheetData(apps::TableFormat format, const std::vector<std::string>& n
 }
 
 void SheetData::SetFormat(const apps::TableFormat& format) {
+  const bool counts_alike = format.decimal_sign == format_.decimal_sign &&
+                            format.missing.Words() == format_.missing.Words();
   format_ = format;
+  if (counts_alike) return;
   for (Column& column : columns_) {
     column.numbers = column.texts = 0;
     for (const CellText cell : column.cells) Count(column, KindOf(TextAt(cell)), true);
@@ -111,19 +101,7 @@ CellKind SheetData::KindOf(std::string_view cell) const {
 }
 
 std::optional<Extended> SheetData::NumberIn(std::string_view cell) const {
-  std::string with_point;
-  if (format_.decimal_sign == ',' && cell.find(',') != cell.npos) {
-    if (cell.find('.') != cell.npos) return std::nullopt;
-    with_point = cell;
-    with_point[cell.find(',')] = '.';
-    cell = with_point;
-  }
-  if (cell.empty() || !MayBeNumber(cell)) return std::nullopt;
-  try {
-    return Str2Float(cell);
-  } catch (const EConvertError&) {
-    return std::nullopt;
-  }
+  return apps::FindNumber(cell, format_.decimal_sign.value_or('.'));
 }
 
 std::string SheetData::TextOf(Extended number) const {

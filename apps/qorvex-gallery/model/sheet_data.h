@@ -38,7 +38,8 @@ class SheetData {
   SheetData(apps::TableFormat format, const std::vector<std::string>& names);
 
   /// @{
-  /// How numbers, missing values and files are written. Setting it changes no text. O(cells).
+  /// How numbers, missing values and files are written. Setting it changes no text. O(cells)
+  /// if other texts count as numbers or as missing.
   [[nodiscard]] const apps::TableFormat& Format() const noexcept { return format_; }
   void SetFormat(const apps::TableFormat& format);
   /// @}

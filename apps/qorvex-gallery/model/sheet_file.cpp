@@ -11,13 +11,15 @@ namespace qorvex::gallery {
 
 namespace {
 
-// Quotes cells with blanks or with any character that a reader may take for the delimiter.
-void AppendCell(std::string& line, std::string_view cell, bool quotes_empty) {
-  const bool plain = cell.find_first_of(",;\"\r\n\t ") == cell.npos;
-  if (plain && !(cell.empty() && quotes_empty)) {
-    line += cell;
-    return;
-  }
+// Whether a reader would take the cell apart, or not know it as one when it looks for the
+// delimiter.
+bool NeedsQuotes(std::string_view cell, char delimiter, const SheetData& sheet) {
+  if (cell.find_first_of(",;\"\r\n\t ") == cell.npos && cell.find(delimiter) == cell.npos)
+    return cell.empty() && delimiter == ' ';
+  return cell.find(delimiter) != cell.npos || !sheet.NumberIn(cell);
+}
+
+void AppendQuoted(std::string& line, std::string_view cell) {
   line += '"';
   for (const char c : cell) line.append(c == '"' ? 2 : 1, c);
   line += '"';
@@ -26,17 +28,18 @@ void AppendCell(std::string& line, std::string_view cell, bool quotes_empty) {
 }  // namespace
 
 SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std::size_t bytes) {
-  apps::RowReader rows(std::move(input), wanted);
-  apps::RequireFirstRow(rows);
-  const std::size_t width = rows.Cells().size();
-  const std::size_t first_line = rows.Line();
-  const apps::TableFormat& format = rows.Format();
+  apps::RowReader reader(std::move(input), wanted);
+  apps::RequireFirstRow(reader);
+  const std::size_t width = reader.Cells().size();
+  const std::size_t first_line = reader.Line();
+  const bool has_names = *reader.Format().header;
   std::vector<std::string> names(width);
-  if (*format.header) names.assign(rows.Cells().begin(), rows.Cells().end());
-  SheetData sheet(format, names);
+  if (has_names) names.assign(reader.Cells().begin(), reader.Cells().end());
+  SheetData sheet(reader.Format(), names);
   sheet.Reserve(bytes);
-  if (!*format.header) sheet.AppendRow(rows.Cells());
+  if (!has_names) sheet.AppendRow(reader.Cells());
   const std::vector<std::string_view> blank(width);
+  apps::RowScanner& rows = reader.Scanner();
   while (rows.Next()) {
     apps::RequireWidth(rows, width, first_line);
     for (std::size_t i = sheet.Rows() == 0 ? 0 : rows.BlankLines(); i > 0; --i)
@@ -44,6 +47,8 @@ SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std:
     sheet.AppendRow(rows.Cells());
   }
   sheet.ShrinkToFit();
+  // The encoding may be known only now.
+  sheet.SetFormat(reader.Format());
   return sheet;
 }
 
@@ -54,7 +59,12 @@ void WriteSheet(const SheetData& sheet, char delimiter,
     line.clear();
     for (std::size_t column = 0; column < sheet.Columns(); ++column) {
       if (column > 0) line += delimiter;
-      AppendCell(line, cell(column), delimiter == ' ');
+      const std::string_view text = cell(column);
+      if (NeedsQuotes(text, delimiter, sheet)) {
+        AppendQuoted(line, text);
+      } else {
+        line += text;
+      }
     }
     // A blank line at the end of the file would not be read as a row.
     if (line.empty()) line = "\"\"";
@@ -62,7 +72,7 @@ void WriteSheet(const SheetData& sheet, char delimiter,
   };
   if (sheet.Columns() == 0) return;
   if (names == WriteNames::kAlways || sheet.HasNames()) {
-    write_row([&](std::size_t column) -> const std::string& { return sheet.Name(column); });
+    write_row([&](std::size_t column) -> std::string_view { return sheet.Name(column); });
   }
   for (std::size_t row = 0; row < sheet.Rows(); ++row)
     write_row([&](std::size_t column) { return sheet.Cell(row, column); });

@@ -4,11 +4,12 @@
 #include <QLibraryInfo>
 #include <QTranslator>
 #include <memory>
-#include <optional>
 #include <string>
+#include <string_view>
 
 #include "qorvex/base/Qorvex_rs_math.h"
 #include "qorvex/base_controls/translation.h"
+#include "qorvex/stats/Qorvex_RS_DescStats.h"
 
 namespace qorvex::gallery {
 
@@ -20,20 +21,21 @@ bool Install(const QLocale& locale, const QString& file, const QString& folder) 
          QCoreApplication::installTranslator(translator.release());
 }
 
-// May be called on any thread; so may translate.
-std::optional<std::string> MessageOf(MessageId id) {
-  const std::string english(EnglishMessageText(id));
-  return QCoreApplication::translate("Messages", english.c_str()).toStdString();
+// Translates texts of the library, which may ask for them on any thread.
+std::string Translation(const char* context, std::string_view english) {
+  return QCoreApplication::translate(context, std::string(english).c_str()).toStdString();
 }
 
 }  // namespace
 
 bool InstallTranslations(const QLocale& locale) {
+  qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
   const QString own = QStringLiteral(":/qorvex/gallery/i18n");
   Install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
   InstallTranslation(locale);
   Install(locale, QStringLiteral("catalogue"), own);
-  SetMessageLookup(MessageOf);
+  SetMessageLookup([](MessageId id) { return Translation("Messages", EnglishMessageText(id)); });
+  SetReportLookup([](ReportTextId id) { return Translation("Report", EnglishReportText(id)); });
   return Install(locale, QStringLiteral("qorvex-gallery"), own);
 }
 

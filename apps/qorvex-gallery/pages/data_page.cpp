@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 #include <utility>
 
-#include "apps/qorvex-gallery/model/column_figures.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/widgets/column_box.h"
 #include "apps/qorvex-gallery/widgets/column_report.h"
@@ -26,7 +25,7 @@ DataPage::DataPage(Sheet& sheet, QWidget* parent)
       view_(new SheetView(sheet)),
       columns_(new ColumnBox(sheet, ColumnBox::kNumeric)),
       groups_(new ColumnBox(sheet, ColumnBox::kAll, tr("(no groups)"))),
-      report_(new ColumnReport),
+      report_(new ColumnReport(sheet)),
       group_report_(new GroupReport(sheet)),
       loader_(new TableLoader),
       message_(new MessageBar),
@@ -67,7 +66,6 @@ void DataPage::ConnectParts() {
   connect(&sheet_, &Sheet::Changed, this, &DataPage::Refresh);
   for (ColumnBox* const box : {columns_, groups_})
     connect(box, &ColumnBox::ColumnChanged, this, &DataPage::Refresh);
-  connect(report_, &ColumnReport::OptionsChanged, this, &DataPage::Refresh);
   // What was typed while a table is read would be lost when that table is shown.
   connect(loader_, &TableLoader::Started, view_, [this] { view_->setEnabled(false); });
   connect(loader_, &TableLoader::Ended, this, [this] {
@@ -149,23 +147,28 @@ void DataPage::Refresh() {
   const QStringList messages{std::exchange(note_, {}), WarningOfTexts()};
   message_->SetText(messages.join(u' ').trimmed());
   const int column = columns_->Column();
-  const TQorFloatVector all = column < 0 ? TQorFloatVector() : sheet_.Numbers(column);
-  const TQorFloatVector values = WithoutNulls(all);
-  report_->Show(values, all.size() - values.size(), column < 0 ? QString() : sheet_.Title(column));
+  report_->ShowColumn(column, groups_->Column());
   group_report_->Show(column, groups_->Column());
 }
 
+bool DataPage::IsReading() const {
+  return loader_->IsLoading();
+}
+
 QVariantMap DataPage::State() const {
-  return {{"column", columns_->currentText()}, {"groups", groups_->Column()}};
+  return {{"column", columns_->currentText()},
+          {"groups", groups_->Column()},
+          {"report", report_->State()}};
 }
 
 void DataPage::SetState(const QVariantMap& state) {
   ShowColumn(state.value("column").toString());
   groups_->SetColumn(state.value("groups", -1).toInt());
+  report_->SetState(state.value("report").toMap());
 }
 
 PageReport DataPage::Report() const {
-  PageReport report{.title = document_->Title()};
+  PageReport report{document_->Title(), report_->ReportParts()};
   const QList<QStringList> groups = group_report_->Rows();
   if (!groups.isEmpty()) report.parts.append({.heading = tr("Groups"), .rows = groups});
   return report;

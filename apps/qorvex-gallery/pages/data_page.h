@@ -38,8 +38,10 @@ class DataPage : public Page {
   [[nodiscard]] SheetDocument& Document() const { return *document_; }
   [[nodiscard]] SheetView& View() const { return *view_; }
   /// @}
+  /// Whether a file is being read in the background.
+  [[nodiscard]] bool IsReading() const;
   /// @{
-  /// The chosen columns.
+  /// The chosen columns, and what the report shows of them.
   [[nodiscard]] QVariantMap State() const override;
   void SetState(const QVariantMap& state) override;
   /// @}

@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/pages/distribution_page.h"
 
 #include <QComboBox>
+#include <QFormLayout>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -47,6 +48,7 @@ DistributionPage::DistributionPage(QWidget* parent)
   side_->setAccessibleName(tr("Which probability"));
   quantile_->setObjectName(QStringLiteral("quantile"));
   plot_->setObjectName(QStringLiteral("plot"));
+  plot_->setAccessibleName(tr("Density or probabilities"));
   figures_->setObjectName(QStringLiteral("figures"));
 
   for (const apps::Family& family : apps::Families()) family_->addItem(DisplayName(family.name));
@@ -70,9 +72,9 @@ DistributionPage::DistributionPage(QWidget* parent)
   }
   probabilities->addLayout(ends);
   QVBoxLayout* const quantile = panel->AddGroup(tr("Quantile"));
-  auto* const asked = new QHBoxLayout;
-  asked->addWidget(side_);
-  asked->addWidget(probability_, 1);
+  quantile->addWidget(side_);
+  auto* const asked = new QFormLayout;
+  asked->addRow(tr("Pr&obability"), probability_);
   quantile->addLayout(asked);
   quantile->addWidget(quantile_);
   panel->Finish();

@@ -13,6 +13,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/model/matrix_file.h"
 #include "apps/qorvex-gallery/model/texts.h"
@@ -196,7 +197,7 @@ void MatrixPage::Run(const std::function<void()>& command) {
     command();
     a_->Update();
   } catch (const std::exception& error) {
-    message_->SetText(QString::fromUtf8(error.what()));
+    message_->SetText(ErrorText(error));
   }
 }
 

@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "apps/qorvex-gallery/model/background_work.h"
+#include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/widgets/page.h"
 #include "qorvex/base/vector_types.h"
 
@@ -23,7 +24,6 @@ class FigureTable;
 class MatrixPanel;
 class MessageBar;
 class SidePanel;
-enum class MatrixResult : std::uint8_t;
 struct MatrixOutcome;
 
 /// A matrix A that is typed, and a result beneath it: its inverse, its row echelon form, its

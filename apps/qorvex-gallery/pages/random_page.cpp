@@ -63,6 +63,7 @@ RandomPage::RandomPage(QWidget* parent)
   generate_->setObjectName(QStringLiteral("generate"));
   cancel_->setObjectName(QStringLiteral("cancel"));
   moments_->setObjectName(QStringLiteral("moments"));
+  moments_->SetTitled();
 
   // Only single numbers have a histogram.
   for (const apps::Variate& variate : apps::Variates()) {

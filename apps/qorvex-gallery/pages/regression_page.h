@@ -8,7 +8,6 @@
 
 class QComboBox;
 class QLabel;
-class QScrollArea;
 class QSpinBox;
 class QStackedWidget;
 
@@ -59,6 +58,7 @@ class RegressionPage : public Page {
   QWidget* MakeColumns(Sheet& sheet);
   QLayout* MakeResults();
   void Clear();
+  void DeleteValues();
   void ChooseSource();
   [[nodiscard]] bool TakesSheet() const;
   [[nodiscard]] QString NameOf(quint32 column) const;
@@ -86,7 +86,7 @@ class RegressionPage : public Page {
   PlotView* residuals_;
   FigureTable* coefficients_;
   FigureTable* quality_;
-  QScrollArea* tables_;
+  QLabel* heading_;
   QLabel* remark_;
 };
 

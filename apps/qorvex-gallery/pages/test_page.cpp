@@ -108,6 +108,7 @@ QWidget* TestPage::MakeResults() {
   samples_ = new FigureTable({Table::kLabel, Table::kFigure, Table::kFigure, Table::kFigure,
                               Table::kFigure, Table::kFigure});
   samples_->setObjectName("samples");
+  samples_->SetTitled();
   results_ = new FigureTable({Table::kLabel, Table::kFigure});
   results_->setObjectName("results");
   boxes_ = new PlotView;

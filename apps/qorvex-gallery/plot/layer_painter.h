@@ -30,6 +30,7 @@ class LayerPainter {
   [[nodiscard]] std::vector<QPolygonF> Runs(const PlotLayer& layer) const;
   void DrawDot(const QPointF& at, PlotRole role, double radius);
   void DrawPoints(const PlotLayer& layer);
+  [[nodiscard]] std::vector<QPointF> Places(const PlotLayer& layer) const;
   void DrawMarks(const PlotLayer& layer);
   void DrawBox(const PlotLayer& layer);
   void DrawStems(const PlotLayer& layer);

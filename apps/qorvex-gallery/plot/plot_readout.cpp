@@ -1,16 +1,11 @@
 #include "apps/qorvex-gallery/plot/plot_readout.h"
 
-#include <QCoreApplication>
 #include <algorithm>
 #include <cmath>
 
 namespace qorvex::gallery {
 
 namespace {
-
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::PlotView", text);
-}
 
 double SquareDistance(const QPointF& a, const QPointF& b) {
   return QPointF::dotProduct(a - b, a - b);
@@ -136,14 +131,14 @@ PlotReadout PlotReader::ReadoutOf(std::size_t layer, std::size_t point, const QP
   if (!name.isEmpty()) readout.lines.append(name);
   QString x = Number(at.x(), extent_.x);
   if (of.shape == PlotShape::kBars) {
-    x = Text("%1 to %2")
+    x = tr("%1 to %2")
             .arg(Number(of.points[point - 1].x(), extent_.x),
                  Number(of.points[point].x(), extent_.x));
   }
-  readout.lines.append(Named(content_.x, Text("x"), x));
+  readout.lines.append(Named(content_.x, tr("x"), x));
   if (of.shape == PlotShape::kMarks) return readout;
   if (content_.y.categories.empty()) {
-    readout.lines.append(Named(content_.y, Text("y"), Number(at.y(), extent_.y)));
+    readout.lines.append(Named(content_.y, tr("y"), Number(at.y(), extent_.y)));
   } else if (const QString category = CategoryAt(at.y()); !category.isEmpty()) {
     readout.lines.append(category);
   }

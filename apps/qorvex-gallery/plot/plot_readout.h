@@ -3,6 +3,7 @@
 /// @file
 /// The values of a diagram at a place or at a point.
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QPointF>
 #include <QRectF>
@@ -26,6 +27,8 @@ struct PlotReadout {
 /// A diagram that is asked for its values, which are written in a locale with enough digits to tell
 /// places in the extent apart.
 class PlotReader {
+  Q_DECLARE_TR_FUNCTIONS(PlotReader)
+
  public:
   PlotReader(const PlotContent& content, const PlotExtent& extent, const QLocale& locale)
       : content_(content), extent_(extent), locale_(locale) {}
@@ -52,7 +55,7 @@ class PlotReader {
 
   const PlotContent& content_;
   const PlotExtent& extent_;
-  const QLocale& locale_;
+  QLocale locale_;
 };
 
 }  // namespace qorvex::gallery

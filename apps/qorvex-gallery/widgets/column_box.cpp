@@ -10,14 +10,17 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr int kWidestName = 40;
+// In characters.
+constexpr int kNarrowest = 10;
+constexpr int kWidest = 40;
 
 }  // namespace
 
 ColumnBox::ColumnBox(const Sheet& sheet, Columns columns, const QString& none, QWidget* parent)
     : QComboBox(parent), sheet_(sheet), columns_(columns), none_(none) {
   setSizeAdjustPolicy(QComboBox::AdjustToContents);
-  setMaximumWidth(kWidestName * fontMetrics().averageCharWidth());
+  setMinimumWidth(kNarrowest * fontMetrics().averageCharWidth());
+  setMaximumWidth(kWidest * fontMetrics().averageCharWidth());
   connect(this, &QComboBox::currentIndexChanged, this, [this] {
     const int column = Column();
     title_ = column < 0 ? QString() : sheet_.Title(column);
@@ -49,7 +52,8 @@ void ColumnBox::Fill() {
       if (columns_ == kAll || sheet_.IsNumeric(column)) addItem(sheet_.Title(column), column);
     const int named =
         title.isEmpty() ? -1 : findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    setCurrentIndex(named >= 0 ? named : std::max(findData(before), std::min(count() - 1, 0)));
+    const int otherwise = none_.isEmpty() ? findData(before) : 0;
+    setCurrentIndex(named >= 0 ? named : std::max(otherwise, std::min(count() - 1, 0)));
   }
   column_ = Column();
   title_ = column_ < 0 ? QString() : sheet_.Title(column_);

@@ -11,7 +11,7 @@ namespace qorvex::gallery {
 class Sheet;
 
 /// A box with the columns of a sheet, which follows it: the chosen column stays chosen as long as
-/// there is one of its name, or else of its place.
+/// there is one of its name. Otherwise none is chosen, or without that choice the one in its place.
 class ColumnBox : public QComboBox {
   Q_OBJECT
 

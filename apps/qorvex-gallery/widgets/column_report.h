@@ -1,44 +1,60 @@
 #pragma once
 
 /// @file
-/// ColumnReport, the statistics and the histogram of a column of numbers.
+/// ColumnReport, the statistics and a diagram of a column of numbers.
 
+#include <QList>
+#include <QVariantMap>
 #include <QWidget>
+#include <optional>
 
-#include "qorvex/base/vector_types.h"
+#include "apps/qorvex-gallery/widgets/page.h"
 
 class QCheckBox;
 class QLabel;
+class QLayout;
 class QSpinBox;
 
 namespace qorvex::gallery {
 
 class FigureTable;
-class PlotView;
+class PlotChooser;
+class Sheet;
 
-/// Shows descriptive statistics, with the number of decimals and the divisor that the user chooses,
-/// and a histogram with the normal density of the same mean and standard deviation.
+/// Shows descriptive statistics, with the digits that fit the values or the number of decimals that
+/// the user chooses, and a diagram.
 class ColumnReport : public QWidget {
   Q_OBJECT
 
  public:
-  explicit ColumnReport(QWidget* parent = nullptr);
+  /// The sheet must outlive the widget.
+  explicit ColumnReport(const Sheet& sheet, QWidget* parent = nullptr);
   ~ColumnReport() override;
 
-  /// Shows the figures of the values, which hold no NaN, of the column with the title. A remark
-  /// counts the empty cells beside them.
-  void Show(const TQorFloatVector& values, std::size_t empty_cells, const QString& title);
+  /// Shows a numeric column as it is now, and box plots by the groups of another column; -1 for
+  /// none. A remark counts the missing values.
+  void ShowColumn(int column, int group_column);
 
- Q_SIGNALS:
-  /// The user has chosen other decimals or another divisor; the next Show applies them.
-  void OptionsChanged();
+  /// @{
+  /// What the user has chosen.
+  [[nodiscard]] QVariantMap State() const;
+  void SetState(const QVariantMap& state);
+  /// @}
+  /// The statistics and the diagram.
+  [[nodiscard]] QList<PageReport::Part> ReportParts() const;
 
  private:
+  QLayout* MakeHead();
+  void ShowFigures();
+  [[nodiscard]] std::optional<int> Decimals() const;
+
+  const Sheet& sheet_;
+  int column_ = -1;
   QSpinBox* decimals_;
   QCheckBox* population_;
   FigureTable* figures_;
   QLabel* remark_;
-  PlotView* plot_;
+  PlotChooser* plot_;
 };
 
 }  // namespace qorvex::gallery

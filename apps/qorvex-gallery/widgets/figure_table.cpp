@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "apps/qorvex-gallery/model/html.h"
+#include "apps/qorvex-gallery/widgets/heading.h"
 
 namespace qorvex::gallery {
 
@@ -26,6 +27,10 @@ FigureTable::FigureTable(std::vector<Column> columns, QWidget* parent)
 
 FigureTable::~FigureTable() = default;
 
+void FigureTable::SetTitled() {
+  has_titles_ = true;
+}
+
 void FigureTable::SetRows(const QList<QStringList>& rows) {
   while (std::cmp_less(cells_.size(), rows.size())) {
     std::vector<QLabel*> row;
@@ -40,12 +45,15 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
       const QString text = texts.value(static_cast<qsizetype>(c));
       QLabel& cell = *cells_[r][c];
       cell.setText(text);
-      cell.setVisible(!texts.isEmpty());
+      cell.setVisible(std::cmp_less(r, rows.size()));
       if (columns_[c] == kLabel) {
         label = text;
       } else {
-        cell.setFocusPolicy(text.isEmpty() ? Qt::NoFocus : Qt::StrongFocus);
-        cell.setAccessibleDescription(label);
+        const bool is_title = has_titles_ && r == 0;
+        cell.setFocusPolicy(text.isEmpty() || is_title ? Qt::NoFocus : Qt::StrongFocus);
+        // What a screen reader says beside the figure.
+        cell.setAccessibleDescription(
+            has_titles_ && !is_title ? label + QStringLiteral(", ") + cells_[0][c]->text() : label);
       }
     }
   }
@@ -107,7 +115,7 @@ int FigureTable::WidthOf(int column) const {
 }
 
 QLabel* FigureTable::AddCell(int row, int column) {
-  auto* const cell = new QLabel;
+  auto* const cell = has_titles_ && row == 0 ? MakeHeading({}) : new QLabel;
   cell->setTextFormat(Qt::PlainText);
   cell->setContextMenuPolicy(Qt::NoContextMenu);
   if (columns_[static_cast<std::size_t>(column)] == kFigure) {

@@ -24,8 +24,10 @@ class FigureTable : public QWidget {
   FigureTable(std::vector<Column> columns, QWidget* parent = nullptr);
   ~FigureTable() override;
 
-  /// Shows these rows, with one text per column; missing cells are empty. The table never shrinks,
-  /// so that widgets below it do not move.
+  /// Makes the first row the bold titles of the columns. The table then shrinks with its rows.
+  void SetTitled();
+  /// Shows these rows, with one text per column; missing cells are empty. Without titles,
+  /// the table never shrinks, so that widgets below it do not move.
   void SetRows(const QList<QStringList>& rows);
   /// The texts that are shown, with the figures of each label in the rows below those of the labels
   /// to the left of it, as in a list.
@@ -43,6 +45,7 @@ class FigureTable : public QWidget {
   QLabel* AddCell(int row, int column);
 
   std::vector<Column> columns_;
+  bool has_titles_ = false;
   QGridLayout* grid_;
   std::vector<std::vector<QLabel*>> cells_;
 };

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QLocale>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "apps/qorvex-gallery/model/group_figures.h"
 #include "apps/qorvex-gallery/model/texts.h"
@@ -36,6 +37,12 @@ GroupReport::GroupReport(const Sheet& sheet, QWidget* parent)
   table_->setBlankWhenNull(true);
   table_->OnGetRowHeading = [this](quint32 row) { return groups_.value(row); };
   table_->OnGetColHeading = [](quint32 column) { return GroupFigureTitles().value(column); };
+  const QStringList titles = GroupFigureTitles();
+  for (qsizetype i = 0; i < titles.size(); ++i) {
+    const int width =
+        fontMetrics().horizontalAdvance(titles[i]) + 5 * fontMetrics().averageCharWidth();
+    table_->setColWidth(static_cast<quint32>(i), std::max(width, table_->CellWidth()));
+  }
   heading_->setBuddy(table_);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);

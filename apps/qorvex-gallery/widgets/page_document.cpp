@@ -6,8 +6,8 @@
 #include <QPdfWriter>
 #include <QTextCursor>
 #include <QTextDocument>
+#include <QTextFrame>
 #include <QTextObjectInterface>
-#include <algorithm>
 
 #include "apps/qorvex-gallery/model/file_writing.h"
 #include "apps/qorvex-gallery/model/html.h"
@@ -20,9 +20,17 @@ namespace qorvex::gallery {
 namespace {
 
 constexpr int kPlotObject = QTextFormat::UserObject + 1;
-constexpr int kPlotIndex = QTextFormat::UserProperty + 1;
+constexpr int kPartIndex = QTextFormat::UserProperty + 1;
 
-// Draws the diagrams of a report in a document, as wide as its text allows.
+QFont HeadingFont(const QTextDocument& document, int level) {
+  QFont font = document.defaultFont();
+  font.setBold(true);
+  font.setPointSizeF(font.pointSizeF() * (level == 1 ? 1.5 : 1.2));
+  return font;
+}
+
+// Draws the diagrams of a report in a document, at most as wide as its text, with their headings,
+// which would otherwise stay behind on another page.
 class PlotObjects : public QObject, public QTextObjectInterface {
   Q_OBJECT
   Q_INTERFACES(QTextObjectInterface)
@@ -31,27 +39,40 @@ class PlotObjects : public QObject, public QTextObjectInterface {
   explicit PlotObjects(const PageReport& report) : report_(report) {}
 
   QSizeF intrinsicSize(QTextDocument* document, int, const QTextFormat& format) override {
-    const QSizeF size = PlotOf(format).size();
-    const double margins = 2 * document->documentMargin();
-    const double width = document->pageSize().width() - margins;
-    const double height = document->pageSize().height() - margins;
-    return size.scaled(width, std::min(size.height() * width / size.width(), height / 2),
-                       Qt::KeepAspectRatio);
+    const PlotView& plot = *PartOf(format).plot;
+    // The page is measured in pixels of the printer, its margins in those of the screen.
+    const QPaintDevice* const printer = document->documentLayout()->paintDevice();
+    const double scale = printer == nullptr ? 1 : 1.0 * printer->logicalDpiX() / plot.logicalDpiX();
+    const QTextFrameFormat frame = document->rootFrame()->frameFormat();
+    const double width =
+        document->pageSize().width() - scale * (frame.leftMargin() + frame.rightMargin());
+    const QSizeF room(width, document->pageSize().height() / 2);
+    const QSizeF natural = scale * QSizeF(plot.size());
+    const bool fits = natural.boundedTo(room) == natural;
+    const QSizeF size = fits ? natural : natural.scaled(room, Qt::KeepAspectRatio);
+    return {size.width(), size.height() + scale * HeadingHeight(*document)};
   }
 
-  void drawObject(QPainter* painter, const QRectF& rect, QTextDocument*, int,
+  void drawObject(QPainter* painter, const QRectF& rect, QTextDocument* document, int,
                   const QTextFormat& format) override {
-    const PlotView& plot = PlotOf(format);
+    const PageReport::Part& part = PartOf(format);
+    const double scale = rect.width() / part.plot->width();
     painter->save();
-    painter->translate(rect.topLeft());
-    painter->scale(rect.width() / plot.width(), rect.height() / plot.height());
-    plot.Draw(*painter, plot.rect());
+    painter->setPen(Qt::black);
+    painter->setFont(HeadingFont(*document, 2));
+    painter->drawText(rect, Qt::AlignLeft | Qt::AlignTop, part.heading);
+    painter->translate(rect.left(), rect.bottom() - scale * part.plot->height());
+    painter->scale(scale, scale);
+    part.plot->Draw(*painter, part.plot->rect());
     painter->restore();
   }
 
  private:
-  [[nodiscard]] const PlotView& PlotOf(const QTextFormat& format) const {
-    return *report_.parts[format.intProperty(kPlotIndex)].plot;
+  [[nodiscard]] const PageReport::Part& PartOf(const QTextFormat& format) const {
+    return report_.parts[format.intProperty(kPartIndex)];
+  }
+  static double HeadingHeight(const QTextDocument& document) {
+    return 1.5 * QFontMetricsF(HeadingFont(document, 2)).height();
   }
 
   const PageReport& report_;
@@ -61,7 +82,7 @@ bool HasPlot(const PageReport::Part& part) {
   return part.plot != nullptr && !part.plot->IsEmpty();
 }
 
-QString Heading(const char* tag, const QString& text) {
+QString HtmlHeading(const char* tag, const QString& text) {
   return QStringLiteral("<%1>%2</%1>\n").arg(QLatin1String(tag), text.toHtmlEscaped());
 }
 
@@ -72,6 +93,21 @@ QString Image(const PlotView& plot) {
            plot.accessibleDescription().toHtmlEscaped(), QString::number(plot.width()));
 }
 
+// Space above each part of a report.
+QTextBlockFormat FirstBlock() {
+  QTextBlockFormat block;
+  block.setTopMargin(18);
+  block.setBottomMargin(6);
+  return block;
+}
+
+void AddHeading(QTextCursor& cursor, int level, const QString& text) {
+  QTextCharFormat characters;
+  characters.setFont(HeadingFont(*cursor.document(), level));
+  cursor.insertBlock(FirstBlock(), characters);
+  cursor.insertText(text);
+}
+
 }  // namespace
 
 QByteArray HtmlReport(const PageReport& report) {
@@ -79,13 +115,13 @@ QByteArray HtmlReport(const PageReport& report) {
       QStringLiteral(
           "<!DOCTYPE html>\n<html>\n<head>\n<meta charset=\"utf-8\">\n<title>%1</title>\n"
           "<style>\nbody { font-family: sans-serif; max-width: 60em; margin: 2em auto; }\n"
-          "th { font-weight: normal; padding: 0.1em 2em 0.1em 0; }\n"
-          "td { padding: 0.1em 0 0.1em 2em; }\nimg { max-width: 100%; }\n</style>\n"
+          "th { font-weight: normal; }\n"
+          "img { max-width: 100%; }\n</style>\n"
           "</head>\n<body>\n")
-          .replace(QStringLiteral("%1"), report.title.toHtmlEscaped());
-  html += Heading("h1", report.title);
+          .arg(report.title.toHtmlEscaped());
+  html += HtmlHeading("h1", report.title);
   for (const PageReport::Part& part : report.parts) {
-    html += Heading("h2", part.heading);
+    html += HtmlHeading("h2", part.heading);
     if (HasPlot(part)) html += Image(*part.plot);
     if (!part.rows.empty()) html += HtmlTable(part.rows);
   }
@@ -96,19 +132,19 @@ void PrintReport(const PageReport& report, QPagedPaintDevice& printer) {
   QTextDocument document;
   PlotObjects plots(report);
   document.documentLayout()->registerHandler(kPlotObject, &plots);
-  document.setDefaultStyleSheet(QStringLiteral("th { font-weight: normal; padding-right: 20px; }"));
+  document.setDefaultStyleSheet(QStringLiteral("th { font-weight: normal; }"));
   QTextCursor cursor(&document);
-  cursor.insertHtml(Heading("h1", report.title));
+  AddHeading(cursor, 1, report.title);
   for (int i = 0; i < report.parts.size(); ++i) {
     const PageReport::Part& part = report.parts[i];
-    cursor.insertBlock({}, {});
-    cursor.insertHtml(Heading("h2", part.heading));
     if (HasPlot(part)) {
       QTextCharFormat format;
       format.setObjectType(kPlotObject);
-      format.setProperty(kPlotIndex, i);
-      cursor.insertBlock({}, {});
+      format.setProperty(kPartIndex, i);
+      cursor.insertBlock(FirstBlock(), {});
       cursor.insertText(QString(QChar::ObjectReplacementCharacter), format);
+    } else {
+      AddHeading(cursor, 2, part.heading);
     }
     if (part.rows.empty()) continue;
     cursor.insertBlock({}, {});

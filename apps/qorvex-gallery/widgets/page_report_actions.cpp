@@ -1,16 +1,11 @@
 #include "apps/qorvex-gallery/widgets/page_report_actions.h"
 
 #include <QAction>
-#include <QCoreApplication>
-#include <QFileDialog>
 #include <QKeySequence>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <exception>
 #include <utility>
 
+#include "apps/qorvex-gallery/widgets/output_dialogs.h"
 #include "apps/qorvex-gallery/widgets/page.h"
 #include "apps/qorvex-gallery/widgets/page_document.h"
 
@@ -18,38 +13,23 @@ namespace qorvex::gallery {
 
 namespace {
 
-QString Text(const char* text) {
-  return QCoreApplication::translate("qorvex::gallery::Page", text);
+void Save(const Page& page, QWidget* window) {
+  AskAndSave(window, Page::tr("Save the Report"),
+             {{QStringLiteral("HTML"), QStringLiteral("html")},
+              {QStringLiteral("PDF"), QStringLiteral("pdf")}},
+             [&page](const QString& path) { SaveReport(page.Report(), path); });
 }
 
-void AskAndSave(const Page& page, QWidget* window) {
-  const QStringList filters = {Text("HTML (*.html)"), Text("PDF (*.pdf)")};
-  QFileDialog dialog(window, Text("Save the Report"), {}, filters.join(QStringLiteral(";;")));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QStringLiteral("html"));
-  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-    dialog.setDefaultSuffix(filter == filters.constFirst() ? QStringLiteral("html")
-                                                           : QStringLiteral("pdf"));
-  });
-  if (dialog.exec() != QDialog::Accepted) return;
-  try {
-    SaveReport(page.Report(), dialog.selectedFiles().constFirst());
-  } catch (const std::exception& error) {
-    QMessageBox::warning(window, dialog.windowTitle(), QString::fromUtf8(error.what()));
-  }
-}
-
-void AskAndPrint(const Page& page, QWidget* window) {
-  QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, window);
-  if (dialog.exec() == QDialog::Accepted) PrintReport(page.Report(), printer);
+void Print(const Page& page, QWidget* window) {
+  AskAndPrint(window, QPageLayout::Portrait,
+              [&page](QPagedPaintDevice& printer) { PrintReport(page.Report(), printer); });
 }
 
 }  // namespace
 
 void AddReportActions(QMenu& menu, std::function<const Page*()> current_page) {
-  QAction* const save = menu.addAction(Text("Save &Report…"));
-  QAction* const print = menu.addAction(Text("&Print Report…"));
+  QAction* const save = menu.addAction(Page::tr("Save Repor&t…"));
+  QAction* const print = menu.addAction(Page::tr("&Print Report…"));
   print->setShortcut(QKeySequence::Print);
   // Runs an entry, unless its key was pressed on a page without a report.
   const auto run = [&menu, current_page](auto ask) {
@@ -58,8 +38,8 @@ void AddReportActions(QMenu& menu, std::function<const Page*()> current_page) {
       if (page != nullptr && !page->Report().parts.empty()) ask(*page, menu.parentWidget());
     };
   };
-  QObject::connect(save, &QAction::triggered, &menu, run(AskAndSave));
-  QObject::connect(print, &QAction::triggered, &menu, run(AskAndPrint));
+  QObject::connect(save, &QAction::triggered, &menu, run(Save));
+  QObject::connect(print, &QAction::triggered, &menu, run(Print));
   const auto enable = [save, print, current_page = std::move(current_page)] {
     const Page* const page = current_page();
     const bool has_report = page != nullptr && !page->Report().parts.empty();

@@ -4,7 +4,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QSpinBox>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <vector>
@@ -20,6 +19,7 @@ namespace {
 
 // More boxes would be thinner than their labels.
 constexpr qsizetype kMostBoxes = 40;
+constexpr int kBoxLength = 18;
 
 }  // namespace
 
@@ -27,34 +27,36 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
     : QWidget(parent),
       sheet_(sheet),
       kind_(new QComboBox),
-      option_label_(new QLabel),
-      options_(new QStackedWidget),
+      classes_label_(new QLabel(tr("Cl&asses:"))),
       classes_(new QSpinBox),
-      groups_(new ColumnBox(sheet, ColumnBox::kAll, tr("No groups"))),
+      other_label_(new QLabel(tr("Aga&inst:"))),
       other_(new ColumnBox(sheet, ColumnBox::kNumeric)),
       plot_(new PlotView) {
   kind_->setObjectName("plotKind");
   kind_->addItems({tr("Histogram"), tr("Box plot"), tr("Normal quantiles"), tr("Values in order"),
-                   tr("Autocorrelation"), tr("Against another column"),
-                   tr("Residuals of the line through another column")});
+                   tr("Autocorrelation"), tr("Against another column"), tr("Residuals of a line")});
+  // Long names do not widen the page.
+  for (QComboBox* const box : {kind_, static_cast<QComboBox*>(other_)}) {
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kBoxLength);
+  }
   classes_->setObjectName("classes");
   classes_->setRange(0, 1000);
   classes_->setSpecialValueText(tr("automatic"));
-  groups_->setObjectName("plotGroups");
   other_->setObjectName("plotOther");
-  for (QWidget* const option : std::initializer_list<QWidget*>{classes_, groups_, other_})
-    options_->addWidget(option);
-  options_->setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
   plot_->setObjectName("columnPlot");
   auto* const kind_label = new QLabel(tr("Plo&t:"));
   kind_label->setBuddy(kind_);
+  classes_label_->setBuddy(classes_);
+  other_label_->setBuddy(other_);
 
   auto* const head = new QHBoxLayout;
   head->addWidget(kind_label);
   head->addWidget(kind_);
   head->addSpacing(fontMetrics().height());
-  head->addWidget(option_label_);
-  head->addWidget(options_);
+  for (QWidget* const option :
+       std::initializer_list<QWidget*>{classes_label_, classes_, other_label_, other_})
+    head->addWidget(option);
   head->addStretch(1);
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -63,15 +65,15 @@ PlotChooser::PlotChooser(const Sheet& sheet, QWidget* parent)
 
   connect(kind_, &QComboBox::currentIndexChanged, this, &PlotChooser::Update);
   connect(classes_, &QSpinBox::valueChanged, this, &PlotChooser::Update);
-  connect(groups_, &ColumnBox::ColumnChanged, this, &PlotChooser::Update);
   connect(other_, &ColumnBox::ColumnChanged, this, &PlotChooser::Update);
   Update();
 }
 
 PlotChooser::~PlotChooser() = default;
 
-void PlotChooser::ShowColumn(int column) {
+void PlotChooser::ShowColumn(int column, int group_column) {
   column_ = column;
+  group_column_ = group_column;
   Update();
 }
 
@@ -95,41 +97,29 @@ PlotChooser::Kind PlotChooser::ChosenKind() const {
 }
 
 void PlotChooser::Update() {
-  struct Option {
-    QString label;
-    QWidget* widget = nullptr;
-    QString placeholder;
-  };
-  const QString none = tr("No values to show");
-  Option option = {{}, nullptr, none};
-  switch (ChosenKind()) {
-    case kHistogram:
-      option = {tr("Cla&sses:"), classes_, none};
-      break;
-    case kBox:
-      option = {tr("&Groups:"), groups_, none};
-      break;
-    case kScatter:
-      option = {tr("A&gainst:"), other_, tr("No row has a value in both columns")};
-      break;
-    case kResiduals:
-      option = {tr("A&gainst:"), other_, tr("A line needs rows with two different values of x")};
-      break;
-    case kAutocorrelation:
-      option.placeholder = tr("Autocorrelations need two different values, and no infinite ones");
-      break;
-    case kNormalQuantiles:
-    case kOrder:
-      break;
-  }
-  option_label_->setText(option.label);
-  option_label_->setBuddy(option.widget);
-  option_label_->setVisible(option.widget != nullptr);
-  options_->setVisible(option.widget != nullptr);
-  if (option.widget != nullptr) options_->setCurrentWidget(option.widget);
+  const bool has_classes = ChosenKind() == kHistogram;
+  const bool has_other = ChosenKind() == kScatter || ChosenKind() == kResiduals;
+  classes_label_->setVisible(has_classes);
+  classes_->setVisible(has_classes);
+  other_label_->setVisible(has_other);
+  other_->setVisible(has_other);
   plot_->setAccessibleName(kind_->currentText());
-  plot_->SetPlaceholder(column_ < 0 ? none : option.placeholder);
+  plot_->SetPlaceholder(WhyEmpty());
   plot_->SetContent(column_ < 0 ? PlotContent() : Content());
+}
+
+QString PlotChooser::WhyEmpty() const {
+  if (column_ < 0) return tr("No values to show");
+  switch (ChosenKind()) {
+    case kScatter:
+      return tr("No row has a value in both columns");
+    case kResiduals:
+      return tr("A line needs rows with two different values of the other column");
+    case kAutocorrelation:
+      return tr("Autocorrelations need two different values, and no infinite ones");
+    default:
+      return tr("No values to show");
+  }
 }
 
 PlotContent PlotChooser::Content() const {
@@ -155,9 +145,8 @@ PlotContent PlotChooser::Content() const {
 PlotContent PlotChooser::Boxes() const {
   const QString title = sheet_.Title(column_);
   const TQorFloatVector values = sheet_.Numbers(column_);
-  const int by = groups_->Column();
-  if (by < 0) return BoxPlot({{{}, values}}, title);
-  const SheetGroups rows = sheet_.Groups(by);
+  if (group_column_ < 0) return BoxPlot({{{}, values}}, title);
+  const SheetGroups rows = sheet_.Groups(group_column_);
   QList<NamedValues> groups;
   for (const QString& name : rows.names.mid(0, kMostBoxes)) groups.append({name, {}});
   for (std::size_t row = 0; row < values.size(); ++row) {
@@ -165,7 +154,7 @@ PlotContent PlotChooser::Boxes() const {
     if (group >= 0 && group < groups.size()) groups[group].values.Append(values[row]);
   }
   PlotContent plot = BoxPlot(groups, title);
-  plot.y.title = sheet_.Title(by);
+  plot.y.title = sheet_.Title(group_column_);
   if (rows.names.size() > kMostBoxes)
     plot.y.title = tr("The first %1 groups of %2").arg(kMostBoxes).arg(plot.y.title);
   return plot;

@@ -11,7 +11,6 @@
 class QComboBox;
 class QLabel;
 class QSpinBox;
-class QStackedWidget;
 
 namespace qorvex::gallery {
 
@@ -21,7 +20,7 @@ class Sheet;
 
 /// A diagram of a column of the sheet: histogram, box plot, normal quantiles, values in order,
 /// autocorrelations, or against another column, values or residuals. The choice beside it is the
-/// number of classes, the groups of the boxes, or the other column.
+/// number of classes or the other column.
 class PlotChooser : public QWidget {
   Q_OBJECT
 
@@ -30,8 +29,8 @@ class PlotChooser : public QWidget {
   explicit PlotChooser(const Sheet& sheet, QWidget* parent = nullptr);
   ~PlotChooser() override;
 
-  /// Shows the column as it is now; nothing for -1.
-  void ShowColumn(int column);
+  /// Shows the column as it is now, box plots by the groups of another column; -1 for none.
+  void ShowColumn(int column, int group_column);
   /// The diagram.
   [[nodiscard]] const PlotView& Plot() const { return *plot_; }
   /// The kind of diagram, for a heading.
@@ -48,17 +47,18 @@ class PlotChooser : public QWidget {
 
   void Update();
   [[nodiscard]] Kind ChosenKind() const;
+  [[nodiscard]] QString WhyEmpty() const;
   [[nodiscard]] PlotContent Content() const;
   [[nodiscard]] PlotContent Boxes() const;
   [[nodiscard]] PlotContent AgainstOther() const;
 
   const Sheet& sheet_;
   int column_ = -1;
+  int group_column_ = -1;
   QComboBox* kind_;
-  QLabel* option_label_;
-  QStackedWidget* options_;
+  QLabel* classes_label_;
   QSpinBox* classes_;
-  ColumnBox* groups_;
+  QLabel* other_label_;
   ColumnBox* other_;
   PlotView* plot_;
 };

@@ -2,14 +2,18 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QSaveFile>
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/error_text.h"
+#include "apps/qorvex-gallery/model/format_doubt.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
+#include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/table_loader.h"
 
 namespace qorvex::gallery {
@@ -34,6 +38,15 @@ apps::TableFormat FormatFor(const QString& file, apps::TableFormat format) {
   return format;
 }
 
+// Spreadsheets write tabs between cells, and the numbers of the locale.
+apps::TableFormat FormatOfPasted(const QString& text) {
+  apps::TableFormat format{.encoding = apps::Encoding::kUtf8};
+  const bool has_comma = QLocale().decimalPoint() == QLatin1String(",") && !text.contains(u'.');
+  if (text.contains(u'\t') || (has_comma && !text.contains(u';'))) format.delimiter = '\t';
+  if (has_comma) format.decimal_sign = ',';
+  return format;
+}
+
 }  // namespace
 
 SheetDocument::SheetDocument(Sheet& sheet, TableLoader& loader, QWidget& page)
@@ -42,11 +55,11 @@ SheetDocument::SheetDocument(Sheet& sheet, TableLoader& loader, QWidget& page)
 SheetDocument::~SheetDocument() = default;
 
 void SheetDocument::Open(const QString& file) {
-  OpenAs(file, {});
+  if (MayGo()) Load({file, QFileInfo(file).fileName(), {}}, {}, true);
 }
 
 void SheetDocument::OpenAs(const QString& file, const apps::TableFormat& format) {
-  OpenSource({file, QFileInfo(file).fileName(), {}}, format);
+  if (MayGo()) Load({file, QFileInfo(file).fileName(), {}}, format, false);
 }
 
 void SheetDocument::ChooseFile() {
@@ -56,9 +69,10 @@ void SheetDocument::ChooseFile() {
 }
 
 void SheetDocument::OpenExample() {
-  OpenSource({":/qorvex/gallery/michelson_1879.csv",
-              tr("Example: the velocity of light, Michelson 1879"), "speed_km_s"},
-             {});
+  if (!MayGo()) return;
+  Load({":/qorvex/gallery/michelson_1879.csv", tr("Example: the velocity of light, Michelson 1879"),
+        "speed_km_s"},
+       {}, false);
 }
 
 void SheetDocument::NewSheet() {
@@ -70,28 +84,47 @@ void SheetDocument::NewSheet() {
 void SheetDocument::ReadText(const QString& text) {
   const QByteArray bytes = text.toUtf8();
   try {
-    SheetData data =
-        ReadSheet(TextInputOf(tr("The pasted text"), bytes), {.encoding = apps::Encoding::kUtf8});
+    SheetData data = ReadSheet(TextInputOf(tr("The pasted text"), bytes), FormatOfPasted(text));
     data.SetChanged();
     Show({{}, tr("Untitled"), {}}, std::move(data));
   } catch (const apps::InputError& error) {
-    Q_EMIT Message(QString::fromUtf8(error.what()));
+    Q_EMIT Message(ErrorText(error));
   }
 }
 
-void SheetDocument::OpenSource(const Source& source, const apps::TableFormat& format) {
-  if (!MayGo()) return;
+void SheetDocument::Load(const Source& source, const apps::TableFormat& format, bool ask) {
   reading_error_.clear();
   loader_.Load(
       source.file, source.title, format,
-      [this, source](SheetData data) {
+      [=, this](SheetData data) {
+        const QString doubt = ask ? DoubtIn(data) : QString();
+        if (!doubt.isEmpty()) return AskFormat(source, data.Format(), doubt);
         Show(source, std::move(data));
         if (IsFile(source.file)) Q_EMIT FileUsed(source.file);
       },
-      [this](const QString& why) {
+      [=, this](const QString& why) {
+        const auto other = ask ? OtherFormat(source.file) : std::nullopt;
+        if (other) return AskFormat(source, *other, why);
         reading_error_ = why;
         Q_EMIT Message(why);
       });
+}
+
+void SheetDocument::AskFormat(const Source& source, const apps::TableFormat& format,
+                              const QString& reason) {
+  auto* const dialog =
+      new FormatDialog(source.title, FirstLines(source.file), format, reason, &page_);
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  connect(dialog, &QDialog::accepted, this, [=, this] { Load(source, dialog->Format(), false); });
+  dialog->open();
+}
+
+void SheetDocument::ChooseFormat() {
+  if (!IsFile(path_)) {
+    Q_EMIT Message(tr("The sheet is not in a file yet"));
+  } else if (MayGo()) {
+    AskFormat({path_, title_, {}}, sheet_.Data().Format(), {});
+  }
 }
 
 void SheetDocument::Show(const Source& source, SheetData data) {

@@ -49,14 +49,15 @@ class SheetDocument : public QObject {
   /// @}
   /// Shows a sheet of an earlier session.
   void Restore(SheetData data, const QString& path, const QString& title);
-  /// Opens a file in a format, of which it finds what is left open.
+  /// Opens a file in a format, without asking about it.
   void OpenAs(const QString& file, const apps::TableFormat& format);
 
   /// Stores what is being typed; called before the sheet is saved or replaced.
   std::function<void()> CommitText;
 
  public Q_SLOTS:
-  /// Opens a file of delimited text. A reading in progress stops.
+  /// Opens a file of delimited text. A reading in progress stops. If the form of the file is in
+  /// doubt, asks for it.
   void Open(const QString& file);
   /// Asks for a file and opens it.
   void ChooseFile();
@@ -64,6 +65,8 @@ class SheetDocument : public QObject {
   void OpenExample();
   /// Starts an empty sheet.
   void NewSheet();
+  /// Asks for the form of the file that is shown, and reads it again.
+  void ChooseFormat();
   /// Shows a pasted text as a table.
   void ReadText(const QString& text);
   /// Saves the sheet in its file; asks for one if it has none.
@@ -89,7 +92,9 @@ class SheetDocument : public QObject {
     QString column;
   };
 
-  void OpenSource(const Source& source, const apps::TableFormat& format);
+  void OpenSource(const Source& source);
+  void Load(const Source& source, const apps::TableFormat& format, bool ask);
+  void AskFormat(const Source& source, const apps::TableFormat& format, const QString& reason);
   void Show(const Source& source, SheetData data);
   void SetSource(const QString& file, const QString& title);
 

@@ -8,6 +8,7 @@
 
 #include "qorvex/controls/QorvexMatrixEdit.h"
 
+class QLabel;
 class QMenu;
 
 namespace qorvex::gallery {
@@ -48,10 +49,12 @@ class SheetView : public QWidget {
   /// @}
   /// Undoes the last change, also of rows and columns.
   void UndoLast();
-  /// Asks for a name for the chosen column.
+  /// Asks for a name for the chosen column, if there is one.
   void RenameColumn();
   /// Makes the texts of the first row the names of the columns.
   void TakeNamesFromFirstRow();
+  /// Asks for the words that stand for missing values.
+  void ChooseMissingWords();
 
  Q_SIGNALS:
   /// The selection is in another column.
@@ -62,10 +65,16 @@ class SheetView : public QWidget {
  private:
   void SetUpEditor();
   void FollowSelection();
+  // Columns as wide as their names and the first texts in them, and the view no wider than all
+  // columns.
+  void FitColumns(int first, int last);
+  void FitWidth();
   [[nodiscard]] QColor ColorOf(quint32 row, quint32 column, const QColor& usual) const;
 
   Sheet& sheet_;
   TQorMatrixEdit* editor_;
+  // Shown while the sheet is empty.
+  QLabel* hint_;
   int chosen_ = -1;
 };
 

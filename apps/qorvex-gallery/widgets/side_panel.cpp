@@ -1,8 +1,12 @@
 #include "apps/qorvex-gallery/widgets/side_panel.h"
 
+#include <QAbstractItemView>
+#include <QComboBox>
 #include <QLabel>
+#include <QScrollBar>
 #include <QVBoxLayout>
 
+#include "apps/qorvex-gallery/widgets/column_box.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 
 namespace qorvex::gallery {
@@ -30,7 +34,19 @@ QVBoxLayout* SidePanel::AddGroup(const QString& title) {
   return layout;
 }
 
+// Boxes with long entries are no wider than the panel, but their lists are.
 void SidePanel::Finish() {
+  constexpr int kLeastCharacters = 10;
+  for (QComboBox* const box : findChildren<QComboBox*>()) {
+    const bool may_be_wide =
+        qobject_cast<ColumnBox*>(box) != nullptr || box->sizeHint().width() > width() * 3 / 5;
+    if (!may_be_wide) continue;
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(kLeastCharacters);
+    box->setMaximumWidth(QWIDGETSIZE_MAX);
+    box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) +
+                                 box->view()->verticalScrollBar()->sizeHint().width());
+  }
   groups_->addStretch();
 }
 

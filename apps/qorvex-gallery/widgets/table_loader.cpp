@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "apps/common/input_error.h"
+#include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/sheet_file.h"
 #include "apps/qorvex-gallery/model/table_input.h"
 
@@ -46,7 +47,7 @@ void TableLoader::Load(const QString& file, const QString& title, const apps::Ta
     try {
       sheet = ReadSheet(OpenFile(file), format, static_cast<std::size_t>(size));
     } catch (const apps::InputError& error) {
-      return failed(QString::fromUtf8(error.what()));
+      return failed(ErrorText(error));
     }
     return loaded(std::move(sheet));
   }

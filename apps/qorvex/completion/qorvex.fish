@@ -10,4 +10,4 @@ function __qorvex_complete
         end
     end
 end
-complete --command qorvex --no-files --arguments '(__qorvex_complete)'
+complete --command qorvex --no-files --keep-order --arguments '(__qorvex_complete)'

@@ -94,6 +94,42 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresWhenANumberIsRefused) {
   }
 }
 
+TEST_F(DistributionPageTest, BeginsWhereTheSupportBeginsAndMarksPointAndQuantile) {
+  const auto plot = [this] { return Find<PlotView>("plot").accessibleDescription().toStdString(); };
+  Choose("Exponential");
+  EnterNumber("first", "2.5");
+  EnterNumber("probability", "0.5");
+  EXPECT_EQ(plot().substr(0, 9), "x from 0 ");
+  EXPECT_NE(plot().find("x = 2.5: mark. Quantile = 1.38629: mark."), std::string::npos) << plot();
+  Choose("Beta");
+  EXPECT_EQ(plot().substr(0, 14), "x from 0 to 1,");
+  Choose("Poisson");
+  // Half a stem, but no counts that do not exist.
+  EXPECT_EQ(plot().substr(0, 8), "k from -");
+  EXPECT_GE(Find<PlotView>("plot").Shown().x.low, -0.5);
+  // Far from 0, the axis begins where the middle of the distribution does.
+  Choose("Chi-square");
+  EnterNumber("df", "100");
+  EnterNumber("first", "90");
+  EXPECT_EQ(plot().substr(0, 9), "x from 61");
+}
+
+TEST_F(DistributionPageTest, KeepsItsState) {
+  Choose("Gamma");
+  EnterNumber("shape", "2.5");
+  EnterNumber("first", "1.1");
+  Find<QComboBox>("question").setCurrentIndex(1);
+  DistributionPage other;
+  other.SetState(page.State());
+  EXPECT_EQ(other.State(), page.State());
+  EXPECT_EQ(other.findChild<QLineEdit*>("first")->text(), "1.1");
+  ASSERT_EQ(other.Report().parts.size(), 4);
+  EXPECT_EQ(other.Report().parts[0].rows[0], QStringList({"Shape", "2.5"}));
+  const QVariantMap before = other.State();
+  other.SetState({{"family", "no such family"}, {"first", "x"}});
+  EXPECT_EQ(other.State(), before);
+}
+
 TEST_F(DistributionPageTest, ShowsEveryFamily) {
   auto& box = Find<QComboBox>("family");
   ASSERT_EQ(box.count(), 20);

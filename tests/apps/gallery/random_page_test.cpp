@@ -94,6 +94,25 @@ struct RandomPageTest : PageFixture<RandomPage> {
   }
 };
 
+TEST_F(RandomPageTest, HasAsManyClassesAsAskedFor) {
+  const std::size_t automatic = page.Sample()->bars.size();
+  Find<QSpinBox>("classes").setValue(7);
+  WaitUntilIdle();
+  EXPECT_EQ(page.Sample()->bars.size(), 8U);
+  Generate("Poisson", 500);
+  // Chosen while the sample is being drawn.
+  Find<QSpinBox>("classes").setValue(9);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return page.Sample()->bars.size() == 10; }));
+  EXPECT_EQ(page.Sample()->values.size(), 500U);
+  const QVariantMap state = page.State();
+  RandomPage other;
+  other.SetState(state);
+  EXPECT_EQ(other.State(), state);
+  Generate("Gamma", 10'000);
+  Find<QSpinBox>("classes").setValue(0);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return page.Sample()->bars.size() == automatic; }));
+}
+
 TEST_F(RandomPageTest, DrawsTheSameValuesFromTheSameSeed) {
   Enter(Find<QLineEdit>("seed"), "12");
   Generate("Normal", 1000);

@@ -1,11 +1,14 @@
 #include "apps/qorvex-gallery/pages/regression_page.h"
 
+#include <QComboBox>
 #include <QSpinBox>
 #include <algorithm>
 #include <tuple>
 
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/column_box.h"
+#include "apps/qorvex-gallery/widgets/column_list.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "support/test.h"
 
@@ -46,9 +49,9 @@ TEST_F(RegressionPageTest, ShowsTheFitAndFollowsEdits) {
   };
   Paste("0\t1\n1\t2\n2\t5\n3\t7");
   expect({{"coefficients", "Constant", 5, "0.6 0.4950 -1.5297 2.7297 0.3492"},
-          {"coefficients", "x", 5, "2.1 0.2646 0.9616 3.2384 0.01550"},
+          {"coefficients", "x", 5, "2.1 0.2646 0.9616 3.2384 0.0155"},
           {"quality", "Sum of squared errors", 1, "0.7"},
-          {"quality", "p of the whole fit", 1, "0.01550"},
+          {"quality", "p of the whole fit", 1, "0.0155"},
           {"quality", "Correlation of x and y", 1, "0.9844951849708403885"}});
   const auto described = [this](const char* plot) {
     return Find<PlotView>(plot).accessibleDescription();
@@ -109,7 +112,25 @@ TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
   Click("clear");
   QApplication::processEvents();
   EXPECT_EQ(Figure("coefficients", "Constant"), "—");
-  page.ShowExample();
+}
+
+// As one step each.
+TEST_F(RegressionPageTest, TakesTheExampleAndClearingBack) {
+  EXPECT_FALSE(own.CanUndo());
+  Paste("1\t0\t3\n0\t1\t-2\n2\t1\t2");
+  own.setCurrentCol(2);
+  Click("example");
+  EXPECT_EQ(own.NoOfRows(), 16U);
+  EXPECT_EQ(own.NoOfCols(), 2U);
+  EXPECT_EQ(own.Element(15, 1), 130081);
+  own.Undo();
+  EXPECT_EQ(own.NoOfRows(), 3U);
+  EXPECT_EQ(own.Element(0, 2), 3);
+  Click("clear");
+  EXPECT_EQ(own.NoOfRows(), 0U);
+  own.Undo();
+  EXPECT_EQ(own.Element(2, 0), 2);
+  QApplication::processEvents();
   EXPECT_EQ(Message(), "");
 }
 
@@ -124,6 +145,86 @@ TEST_F(RegressionPageTest, ReportsATextThatIsNoNumberWhenTheCellIsLeft) {
   own.setRowEditFocus(1);
   QTest::keyClicks(QApplication::focusWidget(), "1948.5\r");
   EXPECT_EQ(Message(), "");
+}
+
+// weight = 1 + 2 length - 3 width, and the name is text.
+TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
+  auto& source = Find<QComboBox>("source");
+  auto& response = Find<ColumnBox>("response");
+  auto& predictors = Find<ColumnList>("predictors");
+  const auto settle = [] { QTest::qWait(1); };
+  source.setCurrentIndex(1);
+  settle();
+  EXPECT_EQ(Message(), "The sheet on the page Data is empty.");
+  SheetData data({}, {"name", "length", "width", "weight"});
+  for (const std::vector<std::string>& row : {std::vector<std::string>{"a", "1", "0", "3"},
+                                              {"b", "0", "1", "-2"},
+                                              {"c", "2", "1", "2"},
+                                              {"d", "3", "NA", "7"},
+                                              {"e", "3", "5", "-8"}}) {
+    data.AppendRow(row);
+  }
+  sheet.SetData(data);
+  settle();
+  EXPECT_EQ(response.count(), 3);
+  EXPECT_EQ(predictors.count(), 3);
+  EXPECT_EQ(Message(), "Tick one or more predictors.");
+  response.SetColumn(3);
+  predictors.SetTitles({"length", "width"});
+  settle();
+  EXPECT_EQ(Message(), "");
+  EXPECT_TRUE(HasRemark("without 1 incomplete row"));
+  EXPECT_EQ(Figure("coefficients", "length") + " " + Figure("coefficients", "width"), "2 -3");
+  // The space key ticks the current column, here the response itself.
+  predictors.setCurrentRow(2);
+  QTest::keyClick(&predictors, Qt::Key_Space);
+  settle();
+  EXPECT_EQ(Message(), "weight is the response and a predictor.");
+  predictors.SetTitles({"length"});
+  SetDegree(2);
+  settle();
+  EXPECT_NE(Figure("coefficients", "length²"), "");
+  // A fit that is not in sight is computed when it is.
+  page.hide();
+  sheet.setData(sheet.index(0, 3), 30.0);
+  sheet.setData(sheet.index(3, 2), 0.0);
+  settle();
+  const std::string before = Figure("coefficients", "length²");
+  page.show();
+  EXPECT_NE(Figure("coefficients", "length²"), before);
+  const QVariantMap state = page.State();
+  RegressionPage other(sheet);
+  other.SetState(state);
+  EXPECT_EQ(other.State(), state);
+}
+
+TEST_F(RegressionPageTest, FollowsColumnsThatMove) {
+  auto& predictors = Find<ColumnList>("predictors");
+  const auto show = [&](const std::vector<std::string>& names) {
+    SheetData data({}, names);
+    data.AppendRow(std::vector<std::string>(names.size(), "1"));
+    sheet.SetData(data);
+    QTest::qWait(1);
+  };
+  show({"x", "y", "x", "z"});
+  predictors.item(2)->setCheckState(Qt::Checked);
+  EXPECT_EQ(predictors.Columns(), std::vector{2}) << "not the other column of the name";
+  sheet.setData(sheet.index(0, 1), 5.0);
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{2});
+  sheet.insertColumns(1, 2);
+  sheet.removeColumns(0, 1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3}) << "before the list is filled again";
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3});
+  sheet.setHeaderData(3, Qt::Horizontal, "weight");
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Titles(), QStringList("weight"));
+  show({"height", "weight"});
+  EXPECT_EQ(predictors.Columns(), std::vector{1});
+  sheet.removeColumns(1, 1);
+  QTest::qWait(1);
+  EXPECT_TRUE(predictors.Columns().empty());
 }
 
 TEST_F(RegressionPageTest, RemembersTheOwnValues) {

@@ -35,10 +35,12 @@ TEST(Gallery, WritesAPictureOfEveryPage) {
     EXPECT_NE(picture, before) << page;
     before = picture;
   }
+  files += folder + "/preview.png\n";
   EXPECT_EQ(outcome.output, files);
 
   const std::pair<QStringList, const char*> refused[] = {
       {{"--screenshot", "/dev/null/pictures"}, "cannot create the directory /dev/null/pictures\n"},
+      {{"--screenshot", folder, "--language", "klingon"}, "unknown language \"klingon\""},
       {{"--screenshot", folder, "missing.csv"}, "qorvex-gallery: missing.csv: "}};
   for (const auto& [options, message] : refused) {
     const Outcome failed = RunGallery(options);
