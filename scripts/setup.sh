@@ -113,6 +113,10 @@ usable_ccache() {
 
 # A build directory that was copied or is incomplete is configured from scratch.
 configure() {
+  # The German texts of the programs, where their tools are installed.
+  if is_installed qt6-l10n-tools && is_installed qt6-tools-dev; then
+    parts=("${parts[@]/%TRANSLATIONS=OFF/TRANSLATIONS=ON}")
+  fi
   local options=(--preset release -D CMAKE_CXX_COMPILER_LAUNCHER="$(usable_ccache)") changed=("${parts[@]}")
   [[ $purpose == programs && -f build/release/CMakeCache.txt ]] && changed=()
   cmake "${options[@]}" "${changed[@]}" || cmake --fresh "${options[@]}" "${parts[@]}"

@@ -8,6 +8,7 @@
 #include <QStandardPaths>
 #include <QStyle>
 #include <QStyleFactory>
+#include <cstdio>
 
 #include "apps/qorvex-gallery/appearance.h"
 #include "apps/qorvex-gallery/edge_style.h"
@@ -25,6 +26,19 @@ namespace {
 void FixAppearance() {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setFont(QFont(QStringLiteral("DejaVu Sans"), 9));
+}
+
+// False, with a message, for a name that no language has.
+bool ChooseLanguage(const QString& name) {
+  const QLocale locale(name);
+  if (locale.language() == QLocale::C) {
+    std::fprintf(stderr,
+                 "qorvex-gallery: unknown language \"%s\"; use a name such as de or en_GB\n",
+                 qPrintable(name));
+    return false;
+  }
+  QLocale::setDefault(locale);
+  return true;
 }
 
 // The name, version and icon of the application.
@@ -73,11 +87,9 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   SetIdentity();
   parser.process(application);
-  if (parser.isSet(language)) {
-    QLocale::setDefault(QLocale(parser.value(language)));
-  } else if (takes_pictures) {
-    QLocale::setDefault(QLocale(QLocale::English));
-  }
+  const bool speaks_english = takes_pictures && !parser.isSet(language);
+  const QString wanted = speaks_english ? QStringLiteral("en") : parser.value(language);
+  if (!wanted.isEmpty() && !ChooseLanguage(wanted)) return 1;
   if (takes_pictures) FixAppearance();
   QApplication::setStyle(new qorvex::gallery::EdgeStyle(QApplication::style()->name()));
   qorvex::gallery::InstallTranslations();

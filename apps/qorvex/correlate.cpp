@@ -1,11 +1,13 @@
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <string>
-#include <utility>
 #include <vector>
 
+#include "apps/common/cells.h"
 #include "apps/common/correlations.h"
 #include "apps/common/input_error.h"
+#include "apps/common/similar_words.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -26,23 +28,31 @@ Examples:
   qorvex correlate speeds.csv --column run --column speed --method spearman
   qorvex correlate speeds.csv --method covariance --csv)";
 
-constexpr std::pair<const char*, PairFigure> kMethods[] = {
-    {"pearson", PairFigure::kPearson},
-    {"spearman", PairFigure::kSpearman},
-    {"kendall", PairFigure::kKendall},
-    {"covariance", PairFigure::kCovariance},
+struct Method {
+  std::string name;
+  PairFigure figure;
 };
+
+const std::vector<Method>& Methods() {
+  static const std::vector<Method> methods{{"pearson", PairFigure::kPearson},
+                                           {"spearman", PairFigure::kSpearman},
+                                           {"kendall", PairFigure::kKendall},
+                                           {"covariance", PairFigure::kCovariance}};
+  return methods;
+}
+
+const Method& MethodNamed(const std::string& name) {
+  const auto method = std::ranges::find(Methods(), name, &Method::name);
+  if (method != Methods().end()) return *method;
+  std::vector<std::string> names;
+  for (const Method& known : Methods()) names.push_back(known.name);
+  throw CLI::ValidationError("--method", Excerpt(name) + " is not " + Alternatives(names));
+}
 
 struct CorrelateArguments {
   TableArguments table;
-  std::string method = "pearson";
+  Method method = Methods()[0];
   OutputFormat output;
-
-  [[nodiscard]] PairFigure Figure() const {
-    return std::ranges::find(kMethods, method,
-                             [](const auto& known) { return std::string(known.first); })
-        ->second;
-  }
 };
 
 [[noreturn]] void Refuse(const CorrelateArguments& arguments, InputFault fault,
@@ -61,9 +71,11 @@ std::string JsonOf(const std::vector<TableColumn>& columns, const TQorFloatMatri
   json.Key("file");
   json.String(arguments.table.file);
   json.Key("method");
-  json.String(arguments.method);
+  json.String(arguments.method.name);
   json.Key("count");
   json.Integer(columns[0].numbers.size());
+  json.Key("missing");
+  json.Integer(columns[0].missing);
   json.Key("columns");
   json.BeginArray();
   for (const TableColumn& column : columns) {
@@ -94,7 +106,7 @@ std::string TextOf(const std::vector<TableColumn>& columns, const TQorFloatMatri
     std::vector<Cell>& row = table.rows.emplace_back();
     row.emplace_back(name);
     for (const Extended figure : matrix[i]) row.emplace_back(figure);
-    if (arguments.Figure() == PairFigure::kCovariance)
+    if (arguments.method.figure == PairFigure::kCovariance)
       digits = std::max(digits, SignificantDigits(columns[i].numbers));
   }
   const FigureFormat format = arguments.output.ForReport(digits);
@@ -112,7 +124,17 @@ void Correlate(const CorrelateArguments& arguments) {
     Refuse(arguments, InputFault::kNoValues, "two rows are needed, and there is only one");
   std::vector<ColumnNumbers> numbers;
   for (const TableColumn& column : columns) numbers.push_back(column.numbers);
-  const TQorFloatMatrix matrix = PairFigures(numbers, arguments.Figure());
+  const TQorFloatMatrix matrix = PairFigures(numbers, arguments.method.figure);
+  const bool overflows = std::ranges::any_of(matrix, [](const TQorFloatVector& row) {
+    return std::ranges::any_of(row, [](Extended figure) { return std::isinf(figure); });
+  });
+  if (overflows)
+    Refuse(arguments, InputFault::kOutOfRange,
+           "a covariance is beyond the range of extended precision");
+  if (columns[0].missing > 0) {
+    WriteRemark(OnOneLine(InputName(arguments.table.file)) + ": left out " +
+                Cardinal(columns[0].missing, "row") + " with a missing value");
+  }
   WriteResult(arguments.output.IsJson() ? JsonOf(columns, matrix, arguments)
                                         : TextOf(columns, matrix, arguments));
 }
@@ -125,18 +147,13 @@ void AddCorrelate(CLI::App& program) {
   const auto arguments = std::make_shared<CorrelateArguments>();
   arguments->table.selection.whole_rows = true;
   arguments->table.AddTo(command);
-  std::vector<std::string> methods;
-  std::string type_name;
-  for (const auto& method : kMethods) {
-    methods.emplace_back(method.first);
-    type_name += (type_name.empty() ? "" : "|") + methods.back();
-  }
   command
-      .add_option("--method", arguments->method,
-                  "Pearson's correlation (default); Spearman's, of the ranks; Kendall's tau-b;\n"
-                  "or the covariance of a sample")
-      ->check(CLI::IsMember(methods))
-      ->option_text(type_name);
+      .add_option_function<std::string>(
+          "--method",
+          [arguments](const std::string& name) { arguments->method = MethodNamed(name); },
+          "Pearson's correlation (default); Spearman's, of the ranks; Kendall's tau-b;\n"
+          "or the covariance of a sample")
+      ->type_name("pearson|spearman|kendall|covariance");
   arguments->output.AddTo(command);
   command.footer(TableHelp() + kExamples + kExitStatusHelp + kNothingPrintedHelp);
   command.callback([arguments] { Correlate(*arguments); });

@@ -6,7 +6,10 @@
 #include <utility>
 #include <vector>
 
+#include "apps/common/cells.h"
 #include "apps/common/groups.h"
+#include "apps/common/input_error.h"
+#include "apps/common/text_input.h"
 #include "apps/common/threads.h"
 #include "apps/qorvex/commands.h"
 #include "apps/qorvex/common_arguments.h"
@@ -75,6 +78,11 @@ DescribedTable ReadColumns(const DescribeOptions& options) {
       case ColumnRole::kLabels:
         table.labels.push_back(std::move(column));
     }
+  }
+  if (options.HasGroups() && table.labels[0].missing > 0) {
+    WriteRemark(OnOneLine(InputName(options.table.file)) + ": left out " +
+                Cardinal(table.labels[0].missing, "row") + " without a " +
+                (options.HasWeights() ? "value, weight or label" : "label"));
   }
   return table;
 }

@@ -3,11 +3,41 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cctype>
-#include <sstream>
 
 #include "apps/common/input_error.h"
+#include "apps/common/similar_words.h"
+#include "apps/qorvex/format_arguments.h"
 
 namespace qorvex::apps {
+
+namespace {
+
+[[noreturn]] void RefuseFigure(const std::string& name) {
+  std::vector<std::string> names;
+  for (const FigureName& figure : FigureNames()) {
+    names.push_back(figure.key);
+    names.insert(names.end(), figure.aliases.begin(), figure.aliases.end());
+  }
+  const std::vector<std::string> similar = SimilarWords(name, names);
+  throw CLI::ValidationError(
+      "--figures", "unknown figure " + Excerpt(name) +
+                       (similar.empty() ? "; the figures are " + Alternatives(names)
+                                        : "; did you mean " + Alternatives(similar) + '?'));
+}
+
+// Capitals do not matter, and "-" stands for "_".
+const FigureName& FigureNamed(const std::string& name) {
+  std::string plain = name;
+  for (char& c : plain)
+    c = c == '-' ? '_' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  const auto figure = std::ranges::find_if(FigureNames(), [&](const FigureName& candidate) {
+    return candidate.key == plain || std::ranges::count(candidate.aliases, plain) > 0;
+  });
+  if (figure == FigureNames().end()) RefuseFigure(name);
+  return *figure;
+}
+
+}  // namespace
 
 const std::vector<FigureName>& FigureNames() {
   using enum FigureSource;
@@ -42,25 +72,10 @@ const std::vector<FigureName>& FigureNames() {
 
 std::vector<const FigureName*> ParseFigures(const std::string& names) {
   std::vector<const FigureName*> figures;
-  std::istringstream list(names);
-  std::string name;
-  do {
-    std::getline(list, name, ',');
-    std::string plain = name;
-    for (char& c : plain)
-      c = c == '-' ? '_' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    const auto figure = std::ranges::find_if(FigureNames(), [&](const FigureName& candidate) {
-      return candidate.key == plain || std::ranges::count(candidate.aliases, plain) > 0;
-    });
-    if (figure == FigureNames().end()) {
-      std::string known;
-      for (const FigureName& candidate : FigureNames())
-        known += (known.empty() ? "" : ", ") + candidate.key;
-      throw CLI::ValidationError("--figures",
-                                 "unknown figure " + Excerpt(name) + "; the figures are " + known);
-    }
-    if (std::ranges::find(figures, &*figure) == figures.end()) figures.push_back(&*figure);
-  } while (!list.eof());
+  for (const std::string& name : SplitList("--figures", names)) {
+    const FigureName& figure = FigureNamed(name);
+    if (std::ranges::find(figures, &figure) == figures.end()) figures.push_back(&figure);
+  }
   return figures;
 }
 

@@ -52,12 +52,9 @@ void DescribeOptions::AddTo(CLI::App& command) {
   command.add_flag("--currency", table.selection.currency,
                    "The values are amounts of money with at most four decimals: sum, minimum,\n"
                    "maximum and range are exact, always with four decimals");
-  command
-      .add_option("--by", table.selection.labels,
-                  "A column of labels: a report on each group of rows with the same label.\n"
-                  "Repeat it for groups within groups")
-      ->type_name("NAME|N")
-      ->allow_extra_args(false);
+  table.AddLabelsTo(command,
+                    "A column of labels: a report on each group of rows with the same label.\n"
+                    "Several columns make groups within groups");
   CLI::Option* const figure_list =
       command
           .add_option_function<std::string>(
@@ -119,6 +116,13 @@ QuantileType DescribeOptions::TypeOfQuantiles() const {
 
 bool DescribeOptions::Needs(FigureSource source) const {
   return figures.empty() || std::ranges::count(figures, source, &FigureName::source) > 0;
+}
+
+bool DescribeOptions::ReportsSquares() const {
+  return figures.empty() || std::ranges::any_of(figures, [](const FigureName* figure) {
+           return figure->key == "sum_of_squares" || figure->key == "variance" ||
+                  figure->key == "standard_deviation";
+         });
 }
 
 void DescribeOptions::RequireConsistent() const {

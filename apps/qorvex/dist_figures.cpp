@@ -1,12 +1,24 @@
 #include "apps/qorvex/dist_figures.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <cstddef>
+#include <cstdint>
 
 #include "qorvex/base/errors.h"
 
 namespace qorvex::apps {
+
+namespace {
+
+template <class Routine>
+Routine Existing(Routine routine) {
+  if (routine != nullptr) return routine;
+  throw CLI::ValidationError("--classic", "there is no such routine in QorvexStatistics");
+}
+
+}  // namespace
 
 DistFigures::DistFigures(const Family& family, const std::vector<Extended>& parameters,
                          DistOptions options)
@@ -86,6 +98,18 @@ Extended DistFigures::Quantile(Extended probability) const {
           : distribution_->Quantile(options_.upper ? Tail::kUpper : Tail::kLower, probability);
   if (!std::isfinite(quantile)) throw EOverflow();
   return quantile;
+}
+
+DensityTable<Extended> DistFigures::ClassicTable(Extended first, Extended last,
+                                                 Extended steps) const {
+  std::vector<Extended> numbers = parameters_;
+  numbers.insert(numbers.end(), {first, last});
+  DensityTable<Extended> table;
+  Existing(family_.classic.table)(numbers, static_cast<std::int32_t>(steps), table.points,
+                                  table.densities);
+  for (std::size_t i = 0; i < table.points.size(); ++i)
+    static_cast<void>(InRange(table.densities[i], table.points[i]));
+  return table;
 }
 
 }  // namespace qorvex::apps

@@ -3,23 +3,15 @@
 /// @file
 /// The figures that the commands of `dist` print.
 
-#include <CLI/CLI.hpp>
 #include <initializer_list>
 #include <memory>
 #include <vector>
 
 #include "apps/common/distributions.h"
 #include "qorvex/base/element_types.h"
-#include "qorvex/stats/distributions/distribution.h"
+#include "qorvex/stats/distributions/figures.h"
 
 namespace qorvex::apps {
-
-/// The classic routine, or CLI::ValidationError for none.
-template <class Routine>
-[[nodiscard]] Routine Existing(Routine routine) {
-  if (routine != nullptr) return routine;
-  throw CLI::ValidationError("--classic", "there is no such routine in QorvexStatistics");
-}
 
 /// How figures are computed.
 struct DistOptions {
@@ -55,6 +47,9 @@ class DistFigures {
   [[nodiscard]] Extended Density(Extended point) const;
   /// The point of a probability.
   [[nodiscard]] Extended Quantile(Extended probability) const;
+  /// The densities at that many steps and one point more, by the classic routine.
+  [[nodiscard]] DensityTable<Extended> ClassicTable(Extended first, Extended last,
+                                                    Extended steps) const;
 
  private:
   using Routine = ClassicRoutines::Routine;

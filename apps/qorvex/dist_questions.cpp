@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdint>
+#include <cstddef>
 #include <tuple>
 #include <utility>
 
@@ -17,10 +17,10 @@ namespace qorvex::apps {
 
 namespace {
 
-// What compute makes of the figures; without --classic there may be a result where there is none
-// with it.
+// What compute makes of the figures. The message about an error names the point unless it is null,
+// and says if there would be a result without --classic.
 template <class Compute>
-auto ResultOf(const AskedQuestion& asked, const DistFigures& figures, const std::string& where,
+auto ResultOf(const AskedQuestion& asked, const DistFigures& figures, const Extended* point,
               Compute compute) {
   const auto& [family, question, arguments] = asked;
   try {
@@ -35,6 +35,7 @@ auto ResultOf(const AskedQuestion& asked, const DistFigures& figures, const std:
         // The error is the same without it.
       }
     }
+    const std::string where = point == nullptr ? "" : " at " + Float2Str(*point);
     throw Refusal(std::string(family.name) + ' ' + question.name + where, error, remark);
   }
 }
@@ -74,20 +75,14 @@ void RequireAscendingCounts(const DistArguments& arguments) {
     throw CLI::ValidationError("--to", "a table has at most 10000000 points");
 }
 
-// The classic routines have tables of densities only.
-void AddClassicRows(const Family& family, const DistArguments& arguments, LongTable& table) {
-  std::vector<Extended> numbers = arguments.parameters;
-  numbers.insert(numbers.end(), {arguments.first, arguments.last});
-  TQorFloatVector points, densities;
-  Existing(family.classic.table)(numbers, static_cast<std::int32_t>(arguments.steps), points,
-                                 densities);
-  for (std::size_t i = 0; i < points.size(); ++i) table.Add({PointCell(points[i]), densities[i]});
-}
-
 void AddRows(const Family& family, const DistArguments& arguments, const DistFigures& figures,
              LongTable& table) {
   const auto& [first, last, steps] = std::tie(arguments.first, arguments.last, arguments.steps);
-  if (figures.IsClassic() && !family.is_discrete) return AddClassicRows(family, arguments, table);
+  if (figures.IsClassic() && !family.is_discrete) {
+    const auto [xs, densities] = figures.ClassicTable(first, last, steps);
+    for (std::size_t i = 0; i < xs.size(); ++i) table.Add({PointCell(xs[i]), densities[i]});
+    return;
+  }
   const Extended points = (family.is_discrete ? last - first : steps) + 1;
   const Extended largest = std::max<Extended>(points - 1, 1);
   for (Extended i = 0; i < points; ++i) {
@@ -110,7 +105,7 @@ std::string AnswerAtPoints(const AskedQuestion& asked) {
   const bool is_one = arguments.points.IsOne();
   for (const Extended point : arguments.points.Read()) {
     const Extended figure =
-        ResultOf(asked, figures, is_one ? "" : " at " + Float2Str(point),
+        ResultOf(asked, figures, is_one ? nullptr : &point,
                  [&](const DistFigures& of) { return (of.*asked.question.figure)(point); });
     if (is_one && arguments.output.form == OutputForm::kText)
       return arguments.output.ForNumbers().Text(figure) + '\n';
@@ -122,7 +117,7 @@ std::string AnswerAtPoints(const AskedQuestion& asked) {
 std::string AnswerBetween(const AskedQuestion& asked) {
   const DistArguments& arguments = asked.arguments;
   const Extended probability =
-      ResultOf(asked, FiguresOf(asked), "", [&arguments](const DistFigures& figures) {
+      ResultOf(asked, FiguresOf(asked), nullptr, [&arguments](const DistFigures& figures) {
         return figures.Between(arguments.first, arguments.last);
       });
   if (arguments.output.form == OutputForm::kText)
@@ -133,7 +128,8 @@ std::string AnswerBetween(const AskedQuestion& asked) {
 }
 
 std::string AnswerTable(const AskedQuestion& asked) {
-  const auto& [family, question, arguments] = asked;
+  const Family& family = asked.family;
+  const DistArguments& arguments = asked.arguments;
   if (family.is_discrete) RequireAscendingCounts(arguments);
   const std::string point = arguments.points.Symbol();
   std::vector<ResultTable::Column> columns = {{point, point}, DensityColumn(family)};
@@ -141,7 +137,7 @@ std::string AnswerTable(const AskedQuestion& asked) {
     columns.push_back({"at_most", "At Most"});
     columns.push_back({"at_least", "At Least"});
   }
-  return ResultOf(asked, FiguresOf(asked), "", [&](const DistFigures& figures) {
+  return ResultOf(asked, FiguresOf(asked), nullptr, [&](const DistFigures& figures) {
     LongTable table(columns, arguments.output);
     AddRows(family, arguments, figures, table);
     return table.TakeText();

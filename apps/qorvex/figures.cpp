@@ -92,7 +92,7 @@ void WriteFigures(JsonWriter& json, const std::vector<Figure>& figures) {
 
 void RemarkOnHidden(const std::string& place, const std::vector<Figure>& figures,
                     const OutputFormat& output) {
-  if (!output.decimals || output.IsJson()) return;
+  if (!output.CanHideFigures()) return;
   std::vector<Extended> numbers;
   for (const Figure& figure : figures) {
     if (const auto* const number = std::get_if<Extended>(&figure.value)) {

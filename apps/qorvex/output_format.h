@@ -41,6 +41,8 @@ struct OutputFormat {
   /// Adds --digits, --decimals and --group only, for figures that have one form.
   void AddDigitsTo(CLI::App& command, const char* default_digits = kAllDigits);
 
+  /// Whether a figure that is not 0 can be shown as 0.
+  [[nodiscard]] bool CanHideFigures() const { return decimals && !IsJson(); }
   [[nodiscard]] bool IsJson() const { return form == OutputForm::kJson; }
 
   /// The format of figures in a report on numbers with that many significant digits. CSV has all

@@ -9,7 +9,7 @@ namespace qorvex::apps {
 
 namespace {
 
-// The figures of a list, or those of a row of a table.
+// The figures of a list, or those of a row of a table, whose name may be indented there.
 struct Item {
   std::string name;
   std::vector<Figure> figures;
@@ -20,6 +20,7 @@ std::vector<Item> ItemsOf(const ReportPart& part) {
   std::vector<Item> items;
   for (const std::vector<Cell>& row : part.table.rows) {
     Item item{CellText(row[0], {}), {}};
+    item.name.erase(0, item.name.find_first_not_of(' '));
     for (std::size_t i = 1; i < row.size(); ++i)
       item.figures.push_back({part.table.columns[i].key, "", row[i]});
     items.push_back(std::move(item));

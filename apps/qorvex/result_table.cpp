@@ -47,16 +47,10 @@ std::string CsvCell(const Cell& cell, const FigureFormat& format) {
   return exists ? CellText(cell, format) : "";
 }
 
-bool IsInterval(const ResultTable& table, std::size_t column) {
+template <class T>
+bool HasCellsOf(const ResultTable& table, std::size_t column) {
   return std::ranges::any_of(table.rows, [column](const std::vector<Cell>& row) {
-    return std::holds_alternative<Interval<Extended>>(row[column]);
-  });
-}
-
-// Whether the cells are names or labels.
-bool IsText(const ResultTable& table, std::size_t column) {
-  return std::ranges::any_of(table.rows, [column](const std::vector<Cell>& row) {
-    return std::holds_alternative<std::string>(row[column]);
+    return std::holds_alternative<T>(row[column]);
   });
 }
 
@@ -124,7 +118,7 @@ std::string CsvText(const std::string& text) {
 std::string CsvOf(const ResultTable& table, const FigureFormat& format) {
   std::vector<bool> is_interval;
   for (std::size_t i = 0; i < table.columns.size(); ++i)
-    is_interval.push_back(IsInterval(table, i));
+    is_interval.push_back(HasCellsOf<Interval<Extended>>(table, i));
   std::string csv;
   AppendCsvLine(csv, table.columns,
                 [&](const Column& column, std::size_t i, std::vector<std::string>& texts) {
@@ -151,7 +145,7 @@ std::string AlignedTextOf(const ResultTable& table, const FigureFormat& format) 
   std::vector<std::vector<std::string>> rows = TextRows(table, format);
   std::vector<bool> on_the_left;
   for (std::size_t i = 0; i < table.columns.size(); ++i) {
-    on_the_left.push_back(IsText(table, i));
+    on_the_left.push_back(HasCellsOf<std::string>(table, i));
     AlignPoints(rows, table, i);
   }
   const bool has_titles =
@@ -188,7 +182,7 @@ ResultTable Transposed(const ResultTable& table) {
   turned.columns.push_back(table.columns[0]);
   for (const std::vector<Cell>& row : table.rows) {
     const std::string name = CellText(row[0], {});
-    turned.columns.push_back({name, name});
+    turned.columns.push_back({name, ShortName(name)});
   }
   for (std::size_t i = 1; i < table.columns.size(); ++i) {
     std::vector<Cell>& cells = turned.rows.emplace_back();

@@ -12,6 +12,7 @@
 #include "apps/common/text_input.h"
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/format_arguments.h"
+#include "apps/qorvex/parameters.h"
 #include "apps/qorvex/progress.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/text.h"
@@ -25,9 +26,10 @@ const char* Hint(InputFault fault, const TableSelection& selection) {
     case InputFault::kNotANumber:
       if (!selection.format.missing.AreAllowed())
         return "; without --na error, missing values are skipped";
-      return selection.columns.empty() ? "; --column chooses the columns, --na lists the words for "
-                                         "missing values"
-                                       : "; --na lists the words for missing values";
+      if (selection.columns.empty())
+        return "; --column chooses the columns, --na lists the words for missing values";
+      // An amount with too many decimals is no missing value.
+      return selection.currency ? "" : "; --na lists the words for missing values";
     case InputFault::kOtherDecimalSign:
       return "; --decimal tells the decimal sign";
     case InputFault::kEmptyCell:
@@ -88,6 +90,20 @@ void AddHeader(CLI::App& command, std::optional<bool>& header) {
   add("--no-header", false, "The first row is data")->excludes(with);
 }
 
+void AddColumns(CLI::App& command, const std::string& option, std::vector<std::string>& columns,
+                const std::string& description) {
+  command
+      .add_option_function<std::vector<std::string>>(
+          option,
+          [&columns, option](const std::vector<std::string>& lists) {
+            for (const std::string& list : lists)
+              std::ranges::move(SplitList(LongName(option), list), std::back_inserter(columns));
+          },
+          description)
+      ->type_name("NAME|N,...")
+      ->allow_extra_args(false);
+}
+
 }  // namespace
 
 std::string TableHelp() {
@@ -111,18 +127,10 @@ void TableArguments::AddFileTo(CLI::App& command) {
 }
 
 void TableArguments::AddTo(CLI::App& command, const char* repetition) {
-  command
-      .add_option_function<std::vector<std::string>>(
-          "-c,--column",
-          [this](const std::vector<std::string>& lists) {
-            for (const std::string& list : lists)
-              std::ranges::move(SplitList("--column", list), std::back_inserter(selection.columns));
-          },
-          std::string("A column, by name or by number from 1; a name takes precedence. Several\n"
-                      "have commas between them; a name with a comma is quoted as in CSV.\n") +
-              repetition)
-      ->type_name("NAME|N,...")
-      ->allow_extra_args(false);
+  AddColumns(command, "-c,--column", selection.columns,
+             std::string("A column, by name or by number from 1; a name takes precedence. Several\n"
+                         "have commas between them; a name with a comma is quoted as in CSV.\n") +
+                 repetition);
   AddFileTo(command);
 }
 
@@ -151,6 +159,10 @@ CLI::Option* TableArguments::AddWeightsTo(CLI::App& command) {
           },
           "The column of the weights of the rows")
       ->type_name("NAME|N");
+}
+
+void TableArguments::AddLabelsTo(CLI::App& command, const std::string& description) {
+  AddColumns(command, "--by", selection.labels, description);
 }
 
 void TableArguments::RemarkOn(const Table& table) const {

@@ -35,6 +35,9 @@ struct TableArguments {
   /// the others.
   CLI::Option* AddWeightsTo(CLI::App& command);
 
+  /// Adds --by, columns of labels.
+  void AddLabelsTo(CLI::App& command, const std::string& description);
+
   /// Reads the table. Writes to standard error which columns were left out and whether the text was
   /// taken for Latin-1, and warns if the row that was read as a header may be data. The text of an
   /// InputError suggests an argument where one helps.

@@ -183,36 +183,42 @@ std::vector<ReportPart> PartsOf(const TestReport& report, const TestArguments& a
   return parts;
 }
 
+std::vector<ReportPart> PartsOf(const std::vector<TestReport>& reports,
+                                const TestArguments& arguments) {
+  std::vector<ReportPart> parts;
+  for (const TestReport& report : reports)
+    std::ranges::move(PartsOf(report, arguments), std::back_inserter(parts));
+  return parts;
+}
+
 }  // namespace
 
 void RemarkOnSmallFigures(const std::vector<TestReport>& reports, const TestArguments& arguments) {
   const std::string& file = arguments.table.file;
   const std::string place = file.empty() ? "" : OnOneLine(InputName(file)) + ": ";
   UnderflowedFigures underflowed;
-  std::vector<ReportPart> parts;
   for (const TestReport& report : reports) {
     for (const TestFigure& figure : report.figures) underflowed.Check(figure.value, figure.witness);
     for (const TestInterval& interval : report.intervals) {
       underflowed.Check(interval.ends.least, interval.witness);
       underflowed.Check(interval.ends.greatest, interval.witness);
     }
-    std::ranges::move(PartsOf(report, arguments), std::back_inserter(parts));
   }
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
-  RemarkOnHidden(place, parts, arguments.output);
+  if (arguments.output.CanHideFigures())
+    RemarkOnHidden(place, PartsOf(reports, arguments), arguments.output);
 }
 
 std::string TextOf(const std::vector<TestReport>& reports, const TestArguments& arguments) {
+  if (arguments.output.form == OutputForm::kCsv)
+    return CsvOf(PartsOf(reports, arguments), arguments.output.ForReport());
   std::string text;
-  std::vector<ReportPart> all_parts;
   for (const TestReport& report : reports) {
-    std::vector<ReportPart> parts = PartsOf(report, arguments);
     if (!text.empty()) text += '\n';
-    text += report.title + '\n' + TextOf(parts, arguments.output, DigitsOf(report));
-    std::ranges::move(parts, std::back_inserter(all_parts));
+    text += report.title + '\n' +
+            TextOf(PartsOf(report, arguments), arguments.output, DigitsOf(report));
   }
-  return arguments.output.form == OutputForm::kCsv ? CsvOf(all_parts, arguments.output.ForReport())
-                                                   : text;
+  return text;
 }
 
 }  // namespace qorvex::apps

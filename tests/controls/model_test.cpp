@@ -493,11 +493,11 @@ TEST(Models, MayHoldTextsBesideNumbers) {
   for (int row = 0; row < 3; ++row) model.setData(model.index(row, 0), row + 0.5);
   model.setData(model.index(0, 1), "red");
   TQorMatrixEdit editor;
-  editor.setNoOfColEdits(2);
   editor.setModel(&model);
   QStringList nulls;
   QObject::connect(&editor, &TQorMatrixEdit::OnNull,
                    [&](quint32 row, quint32 col) { nulls += QString("%1,%2").arg(row).arg(col); });
+  // Three in a row.
   const auto cells = editor.findChildren<TQorFloatEdit*>();
   EXPECT_EQ(cells[1]->text(), "") << "unless it is allowed";
   editor.setTextItems(true);
@@ -506,14 +506,14 @@ TEST(Models, MayHoldTextsBesideNumbers) {
   EXPECT_TRUE(std::isnan(editor.Element(0, 1)));
   editor.show();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
-  cells[3]->setFocus();
-  QTest::keyClicks(cells[3], "007\r");
+  cells[4]->setFocus();
+  QTest::keyClicks(cells[4], "007\r");
   // An item that holds a number keeps its type, unless what is typed is none.
-  cells[2]->setFocus();
-  QTest::keyClicks(cells[2], "2.50\r");
+  cells[3]->setFocus();
+  QTest::keyClicks(cells[3], "2.50\r");
   EXPECT_EQ(model.index(1, 0).data(Qt::EditRole), 2.5);
-  cells[2]->setFocus();
-  QTest::keyClicks(cells[2], "blue\r");
+  cells[3]->setFocus();
+  QTest::keyClicks(cells[3], "blue\r");
   EXPECT_EQ(Column(model), "0.5|blue|2.5");
   EXPECT_EQ(Column(model, Qt::EditRole, 1), "red|007|");
   editor.Select({.row = 0, .rows = 2, .col = 0, .cols = 2});

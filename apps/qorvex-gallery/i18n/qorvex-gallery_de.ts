@@ -449,10 +449,6 @@
         <translation>Konstante</translation>
     </message>
     <message>
-        <source>Term</source>
-        <translation>Glied</translation>
-    </message>
-    <message>
         <source>Estimate</source>
         <translation>Schätzwert</translation>
     </message>
@@ -1259,6 +1255,10 @@
         <source>Diagram</source>
         <translation>Diagramm</translation>
     </message>
+    <message>
+        <source>Pr&amp;obability</source>
+        <translation>&amp;Wahrscheinlichkeit</translation>
+    </message>
 </context>
 <context>
     <name>qorvex::gallery::FigureTable</name>
@@ -1363,6 +1363,38 @@
     <message>
         <source>%1 by %2: too many groups</source>
         <translation>%1 nach %2: zu viele Gruppen</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Werte</translation>
+    </message>
+    <message>
+        <source>Mean</source>
+        <translation>Mittelwert</translation>
+    </message>
+    <message>
+        <source>Standard Deviation</source>
+        <translation>Standardabweichung</translation>
+    </message>
+    <message>
+        <source>Minimum</source>
+        <translation>Minimum</translation>
+    </message>
+    <message>
+        <source>First Quartile</source>
+        <translation>Erstes Quartil</translation>
+    </message>
+    <message>
+        <source>Median</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>Third Quartile</source>
+        <translation>Drittes Quartil</translation>
+    </message>
+    <message>
+        <source>Maximum</source>
+        <translation>Maximum</translation>
     </message>
 </context>
 <context>
@@ -1838,14 +1870,6 @@
 <context>
     <name>qorvex::gallery::Page</name>
     <message>
-        <source>HTML (*.html)</source>
-        <translation>HTML (*.html)</translation>
-    </message>
-    <message>
-        <source>PDF (*.pdf)</source>
-        <translation>PDF (*.pdf)</translation>
-    </message>
-    <message>
         <source>Save the Report</source>
         <translation>Bericht speichern</translation>
     </message>
@@ -2011,6 +2035,10 @@
         <source>%1: %2.</source>
         <comment>a layer&apos;s name and shape</comment>
         <translation>%1: %2.</translation>
+    </message>
+    <message>
+        <source>Printing has failed: %1</source>
+        <translation>Das Drucken ist fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
@@ -2245,6 +2273,18 @@
         <source>Quality of the fit</source>
         <translation>Güte der Anpassung</translation>
     </message>
+    <message>
+        <source>Example</source>
+        <translation>Beispiel</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Least-squares fit</source>
+        <translation>Kleinste Quadrate</translation>
+    </message>
 </context>
 <context>
     <name>qorvex::gallery::SampleForm</name>
@@ -2412,6 +2452,22 @@
     <message>
         <source>Names from &amp;First Row</source>
         <translation>&amp;Namen aus der ersten Zeile</translation>
+    </message>
+    <message>
+        <source>Type or paste values, open a file, or drop one here.</source>
+        <translation>Tippen Sie Werte, fügen Sie welche ein, öffnen Sie eine Datei oder ziehen Sie eine hierher.</translation>
+    </message>
+    <message>
+        <source>&amp;Missing Values…</source>
+        <translation>&amp;Fehlende Werte…</translation>
+    </message>
+    <message>
+        <source>Missing values</source>
+        <translation>Fehlende Werte</translation>
+    </message>
+    <message>
+        <source>Left out are empty cells and cells with these words:</source>
+        <translation>Leere Zellen und Zellen mit diesen Wörtern bleiben weg:</translation>
     </message>
 </context>
 <context>

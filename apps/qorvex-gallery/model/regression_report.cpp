@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 #include "apps/common/figure_format.h"
@@ -54,6 +55,69 @@ bool AllFinite(const LinearFit& fit) {
          finite(fit.TotalSumOfSquares());
 }
 
+// A polynomial from its values at Chebyshev points, fast enough for a million rows: J.-P. Berrut
+// and L. N. Trefethen, Barycentric Lagrange interpolation, 2004. Powers of x would lose the digits
+// that all x have in common.
+class Interpolation {
+ public:
+  Interpolation(const LinearFit& fit, std::size_t degree, Extended least, Extended greatest) {
+    const Extended middle = least / 2 + greatest / 2;
+    for (std::size_t k = 0; k <= degree; ++k) {
+      const Extended angle =
+          std::numbers::pi_v<Extended> * static_cast<Extended>(k) / static_cast<Extended>(degree);
+      const Extended x = middle + (greatest - middle) * std::cos(angle);
+      const Extended weight = k == 0 || k == degree ? 0.5L : 1;
+      nodes_.push_back({x, fit.Predict({x}).value, k % 2 == 0 ? weight : -weight});
+    }
+  }
+
+  Extended operator()(Extended x) const {
+    Extended sum = 0, weights = 0;
+    for (const Node& node : nodes_) {
+      if (x == node.x) return node.value;
+      const Extended share = node.weight / (x - node.x);
+      sum += share * node.value;
+      weights += share;
+    }
+    return sum / weights;
+  }
+
+ private:
+  struct Node {
+    Extended x, value, weight;
+  };
+
+  std::vector<Node> nodes_;
+};
+
+// The fitted values of rows with one predictor, and with several.
+TQorFloatVector Fitted(const LinearFit& fit, std::size_t degree, const TQorFloatVector& x) {
+  const auto [least, greatest] = std::ranges::minmax(x);
+  const Interpolation curve(fit, degree, least, greatest);
+  TQorFloatVector fitted;
+  for (const Extended value : x) fitted.Append(curve(value));
+  return fitted;
+}
+
+TQorFloatVector Fitted(const LinearFit& fit,
+                       const std::vector<RegressionData::Column>& predictors) {
+  TQorFloatVector middles;
+  for (const RegressionData::Column& column : predictors) {
+    const auto [least, greatest] = std::ranges::minmax(column.values);
+    middles.Append(least / 2 + greatest / 2);
+  }
+  const Extended at_middles = fit.Predict(middles).value;
+  const TQorFloatVector coefficients = fit.Values();
+  TQorFloatVector fitted;
+  for (std::size_t row = 0; row < predictors[0].values.size(); ++row) {
+    Extended value = at_middles;
+    for (std::size_t i = 0; i < predictors.size(); ++i)
+      value += coefficients[i + 1] * (predictors[i].values[row] - middles[i]);
+    fitted.Append(value);
+  }
+  return fitted;
+}
+
 Columns ViewsOf(const std::vector<RegressionData::Column>& columns) {
   std::vector<ColumnView> views;
   for (const RegressionData::Column& column : columns) views.emplace_back(column.values);
@@ -100,8 +164,7 @@ void RegressionReport::TakeCompleteRows(const RegressionData& data) {
 void RegressionReport::Fit() {
   LinearModel model =
       degree_ > 1 ? LinearModel::Polynomial(degree_) : LinearModel(predictors_.size());
-  const Columns views = ViewsOf(predictors_);
-  model.Add(views, response_.values);
+  model.Add(ViewsOf(predictors_), response_.values);
   const LinearFit fit = model.Fit();
   if (!AllFinite(fit)) {
     why_not_ =
@@ -109,7 +172,8 @@ void RegressionReport::Fit() {
     return;
   }
   fit_ = fit;
-  fitted_ = fit.FittedValues(views);
+  fitted_ =
+      HasOnePredictor() ? Fitted(fit, degree_, predictors_[0].values) : Fitted(fit, predictors_);
 }
 
 QString RegressionReport::WhyTooFew() const {

@@ -29,6 +29,7 @@ std::string Translation(const char* context, std::string_view english) {
 }  // namespace
 
 bool InstallTranslations(const QLocale& locale) {
+  qDeleteAll(QCoreApplication::instance()->findChildren<QTranslator*>());
   const QString own = QStringLiteral(":/qorvex/gallery/i18n");
   Install(locale, QStringLiteral("qtbase"), QLibraryInfo::path(QLibraryInfo::TranslationsPath));
   InstallTranslation(locale);

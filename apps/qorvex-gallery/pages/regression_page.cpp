@@ -10,6 +10,7 @@
 #include <QSpinBox>
 #include <QStackedWidget>
 #include <QTimer>
+#include <QUndoStack>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <limits>
@@ -23,6 +24,7 @@
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "qorvex/base/text.h"
+#include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 
 namespace qorvex::gallery {
@@ -31,7 +33,7 @@ namespace {
 
 constexpr int kGreatestDegree = 10;
 // Larger tables of own values would make the file of settings slow to read.
-constexpr quint32 kMostKeptRows = 10'000;
+constexpr quint32 kMostKeptRows = 100'000;
 
 // Years, and thousands of people aged 14 and over in the United States. From J. W. Longley, An
 // appraisal of least squares programs for the electronic computer from the point of view of the
@@ -110,6 +112,7 @@ RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
           new FigureTable({FigureTable::kLabel, FigureTable::kFigure, FigureTable::kFigure,
                            FigureTable::kFigure, FigureTable::kFigure, FigureTable::kFigure})),
       quality_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
+      heading_(MakeHeading({})),
       remark_(new QLabel) {
   setObjectName("regressionPage");
   values_->addWidget(MakeOwnValues());
@@ -122,6 +125,8 @@ RegressionPage::RegressionPage(Sheet& sheet, QWidget* parent)
   layout->addLayout(body, 1);
   layout->addWidget(message_);
   ShowExample();
+  own_->UndoStack()->clear();
+  Refresh();
 }
 
 RegressionPage::~RegressionPage() {
@@ -149,6 +154,7 @@ QLayout* RegressionPage::MakeChoices() {
 QWidget* RegressionPage::MakeOwnValues() {
   own_->setObjectName("own");
   own_->setAccessibleName(tr("Own values"));
+  own_->setNoOfCols(2);
   own_->setCanGrow(true);
   own_->setAllowKbdNull(true);
   own_->setBlankWhenNull(true);
@@ -170,6 +176,7 @@ QWidget* RegressionPage::MakeOwnValues() {
     RefreshSoon();
   });
   auto* const example = new QPushButton(tr("E&xample"));
+  example->setObjectName("example");
   example->setToolTip(
       tr("Year, and thousands of people aged 14 and over in the USA; Longley 1967"));
   connect(example, &QPushButton::clicked, this, &RegressionPage::ShowExample);
@@ -225,11 +232,9 @@ QLayout* RegressionPage::MakeResults() {
   plots->addWidget(curve_, 3);
   plots->addWidget(residuals_, 2);
   auto* const head = new QHBoxLayout;
-  QLabel* const heading =
-      MakeHeading(tr("Least-squares fit, with 95 % bands for the mean and for single values"));
   // Level with the box beside it.
-  heading->setMinimumHeight(source_->sizeHint().height());
-  head->addWidget(heading);
+  heading_->setMinimumHeight(source_->sizeHint().height());
+  head->addWidget(heading_);
   head->addWidget(remark_);
   head->addStretch(1);
   auto* const tables = new QWidget;
@@ -247,19 +252,30 @@ QLayout* RegressionPage::MakeResults() {
   return layout;
 }
 
+// One step of undo, so that no values are lost.
 void RegressionPage::ShowExample() {
-  TQorFloatMatrix pairs;
+  QString pairs;
   for (const auto& [year, people] : kExamplePairs)
-    pairs.Append(TQorFloatVector{static_cast<Extended>(year), static_cast<Extended>(people)});
-  own_->setMatrix(pairs);
+    pairs += QStringLiteral("%1\t%2\n").arg(year).arg(people);
+  own_->UndoStack()->beginMacro(tr("Example"));
+  DeleteValues();
+  own_->PasteBlock(pairs);
+  own_->UndoStack()->endMacro();
   own_->ScrollTop();
-  Refresh();
 }
 
 void RegressionPage::Clear() {
+  own_->UndoStack()->beginMacro(tr("Clear"));
+  DeleteValues();
+  own_->UndoStack()->endMacro();
+  own_->setRowEditFocus(0);
+}
+
+void RegressionPage::DeleteValues() {
   if (own_->NoOfRows() > 0) own_->DeleteRows(0, own_->NoOfRows());
   if (own_->NoOfCols() > 2) own_->DeleteCols(2, own_->NoOfCols() - 2);
-  own_->setRowEditFocus(0);
+  own_->setCurrentRow(0);
+  own_->setCurrentCol(0);
 }
 
 bool RegressionPage::TakesSheet() const {
@@ -324,7 +340,11 @@ void RegressionPage::showEvent(QShowEvent* event) {
 void RegressionPage::Refresh() {
   refresh_is_due_ = false;
   const RegressionData table = TakesSheet() ? SheetData() : OwnData();
-  degree_->setEnabled(table.predictors.size() <= 1);
+  const bool has_bands = table.predictors.size() <= 1;
+  degree_->setEnabled(has_bands);
+  heading_->setText(
+      has_bands ? tr("Least-squares fit, with 95 % bands for the mean and for single values")
+                : tr("Least-squares fit"));
   const std::vector<int> chosen = predictors_->Columns();
   if (TakesSheet() && sheet_.columnCount() == 0) {
     message_->SetText(tr("The sheet on the page Data is empty."));
@@ -360,6 +380,7 @@ QString RegressionPage::RemarkOn(std::size_t left_out) const {
 }
 
 QVariantMap RegressionPage::State() const {
+  for (TextCell* const cell : own_->findChildren<TextCell*>()) cell->CommitOrRestore();
   QVariantMap state = {{"sheet", TakesSheet()},
                        {"degree", degree_->value()},
                        {"response", response_->currentText()},

@@ -58,6 +58,7 @@ class RegressionPage : public Page {
   QWidget* MakeColumns(Sheet& sheet);
   QLayout* MakeResults();
   void Clear();
+  void DeleteValues();
   void ChooseSource();
   [[nodiscard]] bool TakesSheet() const;
   [[nodiscard]] QString NameOf(quint32 column) const;
@@ -85,6 +86,7 @@ class RegressionPage : public Page {
   PlotView* residuals_;
   FigureTable* coefficients_;
   FigureTable* quality_;
+  QLabel* heading_;
   QLabel* remark_;
 };
 

@@ -1,48 +1,28 @@
 #include "apps/qorvex-gallery/plot/plot_menu.h"
 
-#include <QFileDialog>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
 #include <algorithm>
-#include <exception>
 
 #include "apps/qorvex-gallery/plot/plot_picture.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/output_dialogs.h"
 
 namespace qorvex::gallery {
 
 namespace {
 
-void AskAndSave(PlotView& plot) {
-  QStringList filters;
-  for (const PictureFormat& format : PictureFormats())
-    filters.append(QStringLiteral("%1 (*.%2)").arg(format.name, format.suffix));
-  QFileDialog dialog(&plot, PlotView::tr("Save the Picture"), {},
-                     filters.join(QStringLiteral(";;")));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(PictureFormats().front().suffix);
-  // The suffix follows the chosen format.
-  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-    dialog.setDefaultSuffix(
-        PictureFormats()[static_cast<std::size_t>(filters.indexOf(filter))].suffix);
-  });
-  if (dialog.exec() != QDialog::Accepted) return;
-  try {
-    SavePicture(plot, dialog.selectedFiles().constFirst());
-  } catch (const std::exception& error) {
-    QMessageBox::warning(&plot, dialog.windowTitle(), QString::fromUtf8(error.what()));
-  }
+void Save(PlotView& plot) {
+  QList<FileKind> kinds;
+  for (const PictureFormat& format : PictureFormats()) kinds.append({format.name, format.suffix});
+  AskAndSave(&plot, PlotView::tr("Save the Picture"), kinds,
+             [&plot](const QString& path) { SavePicture(plot, path); });
 }
 
-void AskAndPrint(PlotView& plot) {
-  QPrinter printer(QPrinter::HighResolution);
-  printer.setPageOrientation(QPageLayout::Landscape);
-  QPrintDialog dialog(&printer, &plot);
-  if (dialog.exec() == QDialog::Accepted) PrintPicture(plot, printer);
+void Print(PlotView& plot) {
+  AskAndPrint(&plot, QPageLayout::Landscape,
+              [&plot](QPagedPaintDevice& printer) { PrintPicture(plot, printer); });
 }
 
 void Copy(PlotView& plot) {
@@ -62,9 +42,9 @@ struct Entry {
 constexpr Entry kEntries[] = {
     {QT_TRANSLATE_NOOP("qorvex::gallery::PlotView", "&Copy Picture"), QKeySequence::Copy, Copy},
     {QT_TRANSLATE_NOOP("qorvex::gallery::PlotView", "&Save Picture…"), QKeySequence::UnknownKey,
-     AskAndSave},
+     Save},
     {QT_TRANSLATE_NOOP("qorvex::gallery::PlotView", "&Print Picture…"), QKeySequence::Print,
-     AskAndPrint}};
+     Print}};
 
 const Entry* EntryOf(const QKeyEvent& key) {
   const auto entry = std::ranges::find_if(

@@ -120,6 +120,7 @@ void CopyPicture(const PlotView& plot) {
 
 void PrintPicture(const PlotView& plot, QPagedPaintDevice& printer) {
   QPainter painter(&printer);
+  if (!painter.isActive()) return;
   const QRectF page = printer.pageLayout().paintRectPixels(printer.logicalDpiX());
   const double scale = std::min(page.width() / plot.width(), page.height() / plot.height());
   painter.scale(scale, scale);

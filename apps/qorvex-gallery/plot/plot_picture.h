@@ -35,7 +35,7 @@ void SavePicture(const PlotView& plot, const QString& path);
 /// Puts what the diagram shows on the clipboard in all formats.
 void CopyPicture(const PlotView& plot);
 
-/// Prints what the diagram shows, as wide as the page allows.
+/// Prints what the diagram shows, as wide as the page allows. The printer knows if that failed.
 void PrintPicture(const PlotView& plot, QPagedPaintDevice& printer);
 
 }  // namespace qorvex::gallery

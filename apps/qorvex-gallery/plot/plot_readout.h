@@ -55,7 +55,7 @@ class PlotReader {
 
   const PlotContent& content_;
   const PlotExtent& extent_;
-  const QLocale& locale_;
+  QLocale locale_;
 };
 
 }  // namespace qorvex::gallery

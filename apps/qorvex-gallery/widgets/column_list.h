@@ -5,6 +5,7 @@
 
 #include <QListWidget>
 #include <QStringList>
+#include <optional>
 #include <vector>
 
 namespace qorvex::gallery {
@@ -12,7 +13,8 @@ namespace qorvex::gallery {
 class Sheet;
 
 /// A list of the numeric columns of a sheet with a box to tick at each, which follows the sheet:
-/// columns stay ticked as long as there are columns of their names.
+/// columns stay ticked when others are inserted or deleted and when they get other names. In
+/// another table, columns of the same names are ticked.
 class ColumnList : public QListWidget {
   Q_OBJECT
 
@@ -22,9 +24,10 @@ class ColumnList : public QListWidget {
   ~ColumnList() override;
 
   /// The ticked columns of the sheet, in its order.
-  [[nodiscard]] std::vector<int> Columns() const;
+  [[nodiscard]] const std::vector<int>& Columns() const { return ticked_; }
   /// @{
-  /// The names of the ticked columns. Names that the sheet does not have are left out.
+  /// The names of the ticked columns; each stands for one column. Names that the sheet does not
+  /// have are left out.
   [[nodiscard]] QStringList Titles() const;
   void SetTitles(const QStringList& titles);
   /// @}
@@ -35,9 +38,17 @@ class ColumnList : public QListWidget {
   void ColumnsChanged();
 
  private:
-  void Fill(const QStringList& ticked);
+  void Insert(int first, int count);
+  void Remove(int first, int count);
+  void Follow();
+  void TakeTicks();
+  void Tick(const QStringList& titles);
+  void Fill();
 
   const Sheet& sheet_;
+  std::vector<int> ticked_;
+  // The names of the ticked columns of a table that has been replaced.
+  std::optional<QStringList> replaced_;
 };
 
 }  // namespace qorvex::gallery

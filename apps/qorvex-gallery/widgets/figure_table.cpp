@@ -45,6 +45,7 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
       const QString text = texts.value(static_cast<qsizetype>(c));
       QLabel& cell = *cells_[r][c];
       cell.setText(text);
+      cell.setVisible(std::cmp_less(r, rows.size()));
       if (columns_[c] == kLabel) {
         label = text;
       } else {

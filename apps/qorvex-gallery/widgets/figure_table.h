@@ -24,10 +24,10 @@ class FigureTable : public QWidget {
   FigureTable(std::vector<Column> columns, QWidget* parent = nullptr);
   ~FigureTable() override;
 
-  /// Makes the first row the bold titles of the columns.
+  /// Makes the first row the bold titles of the columns. The table then shrinks with its rows.
   void SetTitled();
-  /// Shows these rows, with one text per column; missing cells are empty. The table never shrinks,
-  /// so that widgets below it do not move.
+  /// Shows these rows, with one text per column; missing cells are empty. Without titles,
+  /// the table never shrinks, so that widgets below it do not move.
   void SetRows(const QList<QStringList>& rows);
   /// The texts that are shown, with the figures of each label in the rows below those of the labels
   /// to the left of it, as in a list.

@@ -46,6 +46,7 @@ QVariant HelpView::loadResource(int type, const QUrl& name) {
 void HelpView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
   if (!QFile::exists(u':' + name.path())) return;
   QTextBrowser::doSetSource(name, type);
+  document()->setDocumentMargin(fontMetrics().height());
   ShowSection(name.fragment());
 }
 
@@ -72,9 +73,11 @@ HelpWindow::HelpWindow(QWidget* parent)
     const QString title = ReadDocument(path).section(u'\n', 0, 0).mid(2);
     auto* const item = new QListWidgetItem(title, documents_);
     item->setData(Qt::UserRole, path.mid(1));
+    item->setToolTip(title);
   }
   documents_->sortItems();
-  documents_->setFixedWidth(28 * fontMetrics().averageCharWidth());
+  documents_->setFixedWidth(34 * fontMetrics().averageCharWidth());
+  documents_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   auto* const heading = new QLabel(tr("&Documents"));
   heading->setBuddy(documents_);
   auto* const back = new QPushButton(tr("&Back"));

@@ -83,6 +83,7 @@ void MessageBar::SetRefusal(const QString& refusal) {
 
 void MessageBar::Close() {
   refusal_.clear();
+  text_.clear();
   hide();
 }
 

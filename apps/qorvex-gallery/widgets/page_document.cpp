@@ -58,6 +58,7 @@ class PlotObjects : public QObject, public QTextObjectInterface {
     const PageReport::Part& part = PartOf(format);
     const double scale = rect.width() / part.plot->width();
     painter->save();
+    painter->setPen(Qt::black);
     painter->setFont(HeadingFont(*document, 2));
     painter->drawText(rect, Qt::AlignLeft | Qt::AlignTop, part.heading);
     painter->translate(rect.left(), rect.bottom() - scale * part.plot->height());

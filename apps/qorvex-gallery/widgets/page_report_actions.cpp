@@ -1,15 +1,11 @@
 #include "apps/qorvex-gallery/widgets/page_report_actions.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QKeySequence>
 #include <QMenu>
-#include <QMessageBox>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <exception>
 #include <utility>
 
+#include "apps/qorvex-gallery/widgets/output_dialogs.h"
 #include "apps/qorvex-gallery/widgets/page.h"
 #include "apps/qorvex-gallery/widgets/page_document.h"
 
@@ -17,27 +13,16 @@ namespace qorvex::gallery {
 
 namespace {
 
-void AskAndSave(const Page& page, QWidget* window) {
-  const QStringList filters = {Page::tr("HTML (*.html)"), Page::tr("PDF (*.pdf)")};
-  QFileDialog dialog(window, Page::tr("Save the Report"), {}, filters.join(QStringLiteral(";;")));
-  dialog.setAcceptMode(QFileDialog::AcceptSave);
-  dialog.setDefaultSuffix(QStringLiteral("html"));
-  QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, [&](const QString& filter) {
-    dialog.setDefaultSuffix(filter == filters.constFirst() ? QStringLiteral("html")
-                                                           : QStringLiteral("pdf"));
-  });
-  if (dialog.exec() != QDialog::Accepted) return;
-  try {
-    SaveReport(page.Report(), dialog.selectedFiles().constFirst());
-  } catch (const std::exception& error) {
-    QMessageBox::warning(window, dialog.windowTitle(), QString::fromUtf8(error.what()));
-  }
+void Save(const Page& page, QWidget* window) {
+  AskAndSave(window, Page::tr("Save the Report"),
+             {{QStringLiteral("HTML"), QStringLiteral("html")},
+              {QStringLiteral("PDF"), QStringLiteral("pdf")}},
+             [&page](const QString& path) { SaveReport(page.Report(), path); });
 }
 
-void AskAndPrint(const Page& page, QWidget* window) {
-  QPrinter printer(QPrinter::HighResolution);
-  QPrintDialog dialog(&printer, window);
-  if (dialog.exec() == QDialog::Accepted) PrintReport(page.Report(), printer);
+void Print(const Page& page, QWidget* window) {
+  AskAndPrint(window, QPageLayout::Portrait,
+              [&page](QPagedPaintDevice& printer) { PrintReport(page.Report(), printer); });
 }
 
 }  // namespace
@@ -53,8 +38,8 @@ void AddReportActions(QMenu& menu, std::function<const Page*()> current_page) {
       if (page != nullptr && !page->Report().parts.empty()) ask(*page, menu.parentWidget());
     };
   };
-  QObject::connect(save, &QAction::triggered, &menu, run(AskAndSave));
-  QObject::connect(print, &QAction::triggered, &menu, run(AskAndPrint));
+  QObject::connect(save, &QAction::triggered, &menu, run(Save));
+  QObject::connect(print, &QAction::triggered, &menu, run(Print));
   const auto enable = [save, print, current_page = std::move(current_page)] {
     const Page* const page = current_page();
     const bool has_report = page != nullptr && !page->Report().parts.empty();

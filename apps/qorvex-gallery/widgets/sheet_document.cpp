@@ -2,6 +2,7 @@
 
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QSaveFile>
 #include <utility>
@@ -34,6 +35,15 @@ apps::TableFormat FormatFor(const QString& file, apps::TableFormat format) {
     format.delimiter = format.decimal_sign == ',' ? ';' : ',';
   }
   format.encoding = apps::Encoding::kUtf8;
+  return format;
+}
+
+// Spreadsheets write tabs between cells, and the numbers of the locale.
+apps::TableFormat FormatOfPasted(const QString& text) {
+  apps::TableFormat format{.encoding = apps::Encoding::kUtf8};
+  const bool has_comma = QLocale().decimalPoint() == QLatin1String(",") && !text.contains(u'.');
+  if (text.contains(u'\t') || (has_comma && !text.contains(u';'))) format.delimiter = '\t';
+  if (has_comma) format.decimal_sign = ',';
   return format;
 }
 
@@ -74,8 +84,7 @@ void SheetDocument::NewSheet() {
 void SheetDocument::ReadText(const QString& text) {
   const QByteArray bytes = text.toUtf8();
   try {
-    SheetData data =
-        ReadSheet(TextInputOf(tr("The pasted text"), bytes), {.encoding = apps::Encoding::kUtf8});
+    SheetData data = ReadSheet(TextInputOf(tr("The pasted text"), bytes), FormatOfPasted(text));
     data.SetChanged();
     Show({{}, tr("Untitled"), {}}, std::move(data));
   } catch (const apps::InputError& error) {
@@ -111,9 +120,11 @@ void SheetDocument::AskFormat(const Source& source, const apps::TableFormat& for
 }
 
 void SheetDocument::ChooseFormat() {
-  if (!IsFile(path_)) return Message(tr("The sheet is not in a file yet"));
-  if (!MayGo()) return;
-  AskFormat({path_, title_, {}}, sheet_.Data().Format(), {});
+  if (!IsFile(path_)) {
+    Q_EMIT Message(tr("The sheet is not in a file yet"));
+  } else if (MayGo()) {
+    AskFormat({path_, title_, {}}, sheet_.Data().Format(), {});
+  }
 }
 
 void SheetDocument::Show(const Source& source, SheetData data) {

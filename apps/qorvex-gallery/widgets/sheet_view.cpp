@@ -9,6 +9,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
+#include <QStyle>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
@@ -36,8 +37,12 @@ SheetView::SheetView(Sheet& sheet, QWidget* parent)
     event->accept();
     Q_EMIT TablePasted(contents->text());
   });
-  connect(&sheet_, &QAbstractItemModel::modelReset, this, &SheetView::FitColumns);
-  connect(&sheet_, &QAbstractItemModel::headerDataChanged, this, &SheetView::FitColumns);
+  connect(&sheet_, &QAbstractItemModel::modelReset, this, [this] {
+    chosen_ = -1;
+    FitColumns(0, sheet_.columnCount() - 1);
+  });
+  connect(&sheet_, &QAbstractItemModel::headerDataChanged, this,
+          [this](Qt::Orientation, int first, int last) { FitColumns(first, last); });
   connect(&sheet_, &Sheet::Changed, this, &SheetView::FitWidth);
   auto* const buttons = new QHBoxLayout;
   const auto add = [&](const QString& text, auto slot) {
@@ -106,13 +111,13 @@ QColor SheetView::ColorOf(quint32 row, quint32 column, const QColor& usual) cons
   return usual;
 }
 
-void SheetView::FitColumns() {
+void SheetView::FitColumns(int first, int last) {
   constexpr int most_cells = 20'000;
-  const int most_rows = std::min(200, most_cells / std::max(1, sheet_.columnCount()));
+  const int most_rows = std::min(200, most_cells / std::max(1, last - first + 1));
   constexpr int most_characters = 24;
   const QFontMetrics metrics = fontMetrics();
   const int margin = 3 * metrics.averageCharWidth();
-  for (int column = 0; column < sheet_.columnCount(); ++column) {
+  for (int column = first; column <= last; ++column) {
     int width = editor_->CellWidth();
     const auto fit = [&](const QString& text) {
       width = std::max(width, metrics.horizontalAdvance(text.left(most_characters)) + margin);
@@ -152,11 +157,8 @@ void SheetView::FollowSelection() {
 }
 
 void SheetView::AddCommands(QMenu& menu) {
-  QAction* const rename = menu.addAction(tr("Re&name Column…"), this, &SheetView::RenameColumn);
-  rename->setEnabled(sheet_.columnCount() > 0);
-  QAction* const names =
-      menu.addAction(tr("Names from &First Row"), this, &SheetView::TakeNamesFromFirstRow);
-  names->setEnabled(sheet_.rowCount() > 0);
+  menu.addAction(tr("Re&name Column…"), this, &SheetView::RenameColumn);
+  menu.addAction(tr("Names from &First Row"), this, &SheetView::TakeNamesFromFirstRow);
   menu.addAction(tr("&Missing Values…"), this, &SheetView::ChooseMissingWords);
 }
 

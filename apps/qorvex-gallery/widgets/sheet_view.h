@@ -49,7 +49,7 @@ class SheetView : public QWidget {
   /// @}
   /// Undoes the last change, also of rows and columns.
   void UndoLast();
-  /// Asks for a name for the chosen column.
+  /// Asks for a name for the chosen column, if there is one.
   void RenameColumn();
   /// Makes the texts of the first row the names of the columns.
   void TakeNamesFromFirstRow();
@@ -65,9 +65,9 @@ class SheetView : public QWidget {
  private:
   void SetUpEditor();
   void FollowSelection();
-  // The columns, as wide as their names and the first texts in them, and the view no wider than
-  // they are.
-  void FitColumns();
+  // Columns as wide as their names and the first texts in them, and the view no wider than all
+  // columns.
+  void FitColumns(int first, int last);
   void FitWidth();
   [[nodiscard]] QColor ColorOf(quint32 row, quint32 column, const QColor& usual) const;
 

@@ -2,14 +2,20 @@
 
 #include <QClipboard>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QFile>
+#include <QFileDialog>
+#include <QMenu>
 #include <QMimeData>
 #include <QSpinBox>
 #include <QTemporaryDir>
+#include <QTimer>
 
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/page_document.h"
+#include "apps/qorvex-gallery/widgets/page_report_actions.h"
 #include "support/test.h"
 
 namespace qorvex::gallery {
@@ -92,6 +98,50 @@ TEST_F(ColumnReportTest, CopiesAllStatisticsAsText) {
   EXPECT_TRUE(lines.contains("Mean:\t3"));
   EXPECT_TRUE(lines.contains("Third Quartile:\t4.5"));
   EXPECT_TRUE(copied.html().contains("Mean:</th><td align=\"right\">3</td>"));
+}
+
+TEST_F(ColumnReportTest, CopiesATableFromTheMenuOfAnyOfItsFigures) {
+  auto& table = Find<FigureTable>("report");
+  auto& figure = *table.findChildren<QLabel*>()[1];
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&report));
+  figure.setFocus();
+  QTest::keyClick(&figure, Qt::Key_A, Qt::ControlModifier);
+  EXPECT_EQ(figure.selectedText(), "4");
+  const auto choose = [&](Qt::Key key) {
+    QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint(1, 1), {});
+    QApplication::sendEvent(&figure, &event);
+    QTest::keyClick(QApplication::activePopupWidget(), key);
+    return QApplication::clipboard()->text();
+  };
+  EXPECT_TRUE(choose(Qt::Key_T).startsWith("Number of Values:\t4\n"));
+  EXPECT_EQ(choose(Qt::Key_C), "4");
+}
+
+TEST_F(ColumnReportTest, IsSavedFromTheFileMenu) {
+  struct ReportedPage : Page {
+    PageReport report;
+    [[nodiscard]] PageReport Report() const override { return report; }
+  } page;
+  QMenu menu;
+  AddReportActions(menu, [&page] { return &page; });
+  const QTemporaryDir folder;
+  Q_EMIT menu.aboutToShow();
+  EXPECT_FALSE(menu.actions()[0]->isEnabled());
+  Q_EMIT menu.aboutToHide();
+  page.report = {"title", report.ReportParts()};
+  // The suffix follows the chosen kind of file.
+  QTimer::singleShot(0, &page, [&folder] {
+    auto& dialog = *qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    dialog.selectNameFilter("PDF (*.pdf)");
+    Q_EMIT dialog.filterSelected("PDF (*.pdf)");
+    dialog.setDirectory(folder.path());
+    dialog.findChild<QLineEdit*>()->setText("saved");
+    static_cast<QDialog&>(dialog).accept();
+  });
+  menu.actions()[0]->trigger();
+  QFile file(folder.filePath("saved.pdf"));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(file.readAll().startsWith("%PDF-"));
 }
 
 TEST_F(ColumnReportTest, IsWrittenAsHtmlAndPdf) {

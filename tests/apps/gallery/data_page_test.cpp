@@ -184,6 +184,12 @@ TEST_F(DataPageTest, TakesAPastedTableWithItsNames) {
   EXPECT_EQ(editor.ColHeading(1), "size");
   EXPECT_EQ(Mean(), "1.5");
   EXPECT_TRUE(sheet.IsChanged());
+  // A column of a German spreadsheet.
+  QLocale::setDefault(QLocale::German);
+  document.ReadText("1,5\n2,5\n");
+  EXPECT_EQ(sheet.columnCount(), 1);
+  EXPECT_EQ(sheet.Numbers(0)[1], 2.5L);
+  QLocale::setDefault(QLocale::c());
 }
 
 TEST_F(DataPageTest, ComputesFromExactSums) {

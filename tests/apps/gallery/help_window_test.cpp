@@ -1,8 +1,7 @@
 #include "apps/qorvex-gallery/widgets/help_window.h"
 
-#include <QApplication>
+#include <QFile>
 #include <QListWidget>
-#include <QScrollBar>
 #include <QTabWidget>
 #include <QTextBlock>
 #include <QtTest/QTest>
@@ -13,56 +12,41 @@
 namespace qorvex::gallery {
 namespace {
 
-struct HelpTest : testing::Test {
-  HelpTest() { window.show(); }
-
-  HelpWindow& Help() { return *window.findChild<HelpWindow*>(); }
-  HelpView& View() { return *Help().findChild<HelpView*>("view"); }
-  // The heading at the cursor, which a section that was found moves there.
-  std::string Heading() { return View().textCursor().block().text().toStdString(); }
-
+TEST(Help, OpensTheSectionOfThePage) {
   MainWindow window;
-};
-
-TEST_F(HelpTest, OpensTheSectionOfThePage) {
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  window.show();
   for (int page = 0; page < window.Pages()->count(); ++page) {
     window.Pages()->setCurrentIndex(page);
-    QTest::keyClick(window.windowHandle(), Qt::Key_F1);
-    EXPECT_EQ(Heading(), window.Pages()->tabText(page).toStdString());
-    EXPECT_GT(View().verticalScrollBar()->value(), 0);
-    QTest::keyClick(&Help(), Qt::Key_Escape);
     window.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+    QTest::keyClick(window.windowHandle(), Qt::Key_F1);
+    auto& help = *window.findChild<HelpWindow*>();
+    const QTextBlock heading = help.findChild<HelpView*>()->textCursor().block();
+    EXPECT_EQ(heading.text(), window.Pages()->tabText(page));
+    QTest::keyClick(&help, Qt::Key_Escape);
   }
 }
 
-TEST_F(HelpTest, FollowsTheLinksOfAllDocuments) {
+TEST(Help, FollowsTheLinksOfAllDocuments) {
   HelpWindow help;
   auto& documents = *help.findChild<QListWidget*>("documents");
   auto& view = *help.findChild<HelpView*>("view");
-  EXPECT_GT(documents.count(), 20);
   int sections = 0;
   for (int row = 0; row < documents.count(); ++row) {
     documents.setCurrentRow(row);
     const QUrl source = view.source();
-    ASSERT_EQ(source.path(), documents.currentItem()->data(Qt::UserRole).toString());
-    EXPECT_FALSE(view.toPlainText().contains("![")) << source.path().toStdString();
-    QStringList links;
-    for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next()) {
+    QList<QUrl> targets;
+    for (QTextBlock block = view.document()->begin(); block.isValid(); block = block.next())
       for (const auto& part : block.textFormats())
-        if (part.format.isAnchor()) links += part.format.anchorHref();
-    }
-    for (const QString& link : links) {
-      const QUrl target = source.resolved(QUrl(link));
+        if (part.format.isAnchor()) targets += source.resolved(QUrl(part.format.anchorHref()));
+    for (const QUrl& target : targets) {
       // Files of the project that are no documents, and the web.
       if (!QFile::exists(':' + target.path())) continue;
       view.setSource(target);
-      EXPECT_EQ(view.source(), target) << link.toStdString();
-      if (target.fragment().isEmpty()) continue;
-      ++sections;
-      EXPECT_GT(view.textCursor().block().blockFormat().headingLevel(), 0)
-          << source.path().toStdString() << ": " << link.toStdString();
+      const bool is_heading = view.textCursor().block().blockFormat().headingLevel() > 0;
+      EXPECT_TRUE(view.source() == target && (target.fragment().isEmpty() || is_heading))
+          << source.path().toStdString() << ": " << target.toString().toStdString();
+      if (target.hasFragment()) ++sections;
     }
   }
   EXPECT_GT(sections, 5);

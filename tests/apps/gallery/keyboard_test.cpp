@@ -8,9 +8,9 @@
 #include <QScrollArea>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTranslator>
 #include <QtTest/QTest>
 #include <map>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -18,10 +18,8 @@
 #include "apps/qorvex-gallery/model/background_work.h"
 #include "apps/qorvex-gallery/model/translations.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
-#include "qorvex/base/Qorvex_rs_math.h"
 #include "qorvex/base_controls/custom_edit.h"
 #include "qorvex/controls/panel/cell_panel.h"
-#include "qorvex/stats/Qorvex_RS_DescStats.h"
 #include "support/test.h"
 
 namespace qorvex::gallery {
@@ -60,11 +58,7 @@ struct Language {
     QLocale::setDefault(QLocale::c());
     InstallTranslations(QLocale(language));
   }
-  ~Language() {
-    qDeleteAll(qApp->findChildren<QTranslator*>());
-    SetMessageLookup({});
-    SetReportLookup({});
-  }
+  ~Language() { InstallTranslations(QLocale::c()); }
 };
 
 struct Keyboard : testing::TestWithParam<QLocale::Language> {
@@ -137,8 +131,14 @@ TEST_P(Keyboard, ReachesEveryStopInTheOrderOfTheEye) {
     const std::vector<QWidget*> stops = Stops(name);
     EXPECT_EQ(stops.back(), stops.front()) << name << ": a trap at " << Described(stops.back());
     EXPECT_GE(stops.size(), 4U) << name;
-    for (QWidget* const stop : stops)
-      EXPECT_NE(NameOf(stop), "") << name << ": " << Described(stop);
+    std::set<std::string> editors;
+    for (std::size_t i = 0; i + 1 < stops.size(); ++i) {
+      EXPECT_NE(NameOf(stops[i]), "") << name << ": " << Described(stops[i]);
+      // A screen reader says the name of the table with the element.
+      const bool is_editor = qobject_cast<CellPanel*>(stops[i]) != nullptr;
+      EXPECT_TRUE(!is_editor || editors.insert(NameOf(stops[i])).second)
+          << name << ": " << Described(stops[i]);
+    }
     // Back by the same way: from the tab to the last stop.
     Press(Qt::Key_Backtab, Qt::ShiftModifier);
     EXPECT_EQ(StopOf(QApplication::focusWidget()), stops[stops.size() - 2]) << name;
@@ -161,19 +161,6 @@ TEST_P(Keyboard, HasNoMnemonicTwice) {
       EXPECT_FALSE(key.isEmpty()) << action->text().toStdString();
       EXPECT_TRUE(found.emplace(key, action->text().toStdString()).second)
           << found[key] << " and " << action->text().toStdString();
-    }
-  }
-}
-
-// A screen reader says the name of the table with the element.
-TEST_P(Keyboard, TellsTheEditorsOfAPageApart) {
-  for (int page = 0; page < window.Pages()->count(); ++page) {
-    ShowPage(page);
-    std::map<std::string, QWidget*> editors;
-    for (CellPanel* const editor : window.Pages()->currentWidget()->findChildren<CellPanel*>()) {
-      if (!editor->isVisible()) continue;
-      EXPECT_TRUE(editors.emplace(NameOf(editor), editor).second)
-          << window.Pages()->tabText(page).toStdString() << ": " << Described(editor);
     }
   }
 }

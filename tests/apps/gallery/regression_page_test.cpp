@@ -112,7 +112,25 @@ TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
   Click("clear");
   QApplication::processEvents();
   EXPECT_EQ(Figure("coefficients", "Constant"), "—");
-  page.ShowExample();
+}
+
+// As one step each.
+TEST_F(RegressionPageTest, TakesTheExampleAndClearingBack) {
+  EXPECT_FALSE(own.CanUndo());
+  Paste("1\t0\t3\n0\t1\t-2\n2\t1\t2");
+  own.setCurrentCol(2);
+  Click("example");
+  EXPECT_EQ(own.NoOfRows(), 16U);
+  EXPECT_EQ(own.NoOfCols(), 2U);
+  EXPECT_EQ(own.Element(15, 1), 130081);
+  own.Undo();
+  EXPECT_EQ(own.NoOfRows(), 3U);
+  EXPECT_EQ(own.Element(0, 2), 3);
+  Click("clear");
+  EXPECT_EQ(own.NoOfRows(), 0U);
+  own.Undo();
+  EXPECT_EQ(own.Element(2, 0), 2);
+  QApplication::processEvents();
   EXPECT_EQ(Message(), "");
 }
 
@@ -178,6 +196,35 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   RegressionPage other(sheet);
   other.SetState(state);
   EXPECT_EQ(other.State(), state);
+}
+
+TEST_F(RegressionPageTest, FollowsColumnsThatMove) {
+  auto& predictors = Find<ColumnList>("predictors");
+  const auto show = [&](const std::vector<std::string>& names) {
+    SheetData data({}, names);
+    data.AppendRow(std::vector<std::string>(names.size(), "1"));
+    sheet.SetData(data);
+    QTest::qWait(1);
+  };
+  show({"x", "y", "x", "z"});
+  predictors.item(2)->setCheckState(Qt::Checked);
+  EXPECT_EQ(predictors.Columns(), std::vector{2}) << "not the other column of the name";
+  sheet.setData(sheet.index(0, 1), 5.0);
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{2});
+  sheet.insertColumns(1, 2);
+  sheet.removeColumns(0, 1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3}) << "before the list is filled again";
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3});
+  sheet.setHeaderData(3, Qt::Horizontal, "weight");
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Titles(), QStringList("weight"));
+  show({"height", "weight"});
+  EXPECT_EQ(predictors.Columns(), std::vector{1});
+  sheet.removeColumns(1, 1);
+  QTest::qWait(1);
+  EXPECT_TRUE(predictors.Columns().empty());
 }
 
 TEST_F(RegressionPageTest, RemembersTheOwnValues) {

@@ -40,6 +40,7 @@ TEST(Gallery, WritesAPictureOfEveryPage) {
 
   const std::pair<QStringList, const char*> refused[] = {
       {{"--screenshot", "/dev/null/pictures"}, "cannot create the directory /dev/null/pictures\n"},
+      {{"--screenshot", folder, "--language", "klingon"}, "unknown language \"klingon\""},
       {{"--screenshot", folder, "missing.csv"}, "qorvex-gallery: missing.csv: "}};
   for (const auto& [options, message] : refused) {
     const Outcome failed = RunGallery(options);
