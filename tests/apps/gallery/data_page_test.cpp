@@ -21,6 +21,7 @@
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/column_box.h"
 #include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
@@ -145,6 +146,55 @@ TEST_F(DataPageTest, DescribesTheColumnOfTheCursorAndItsGroups) {
   TypeInto(2, 2, "");
   EXPECT_EQ(Find<QComboBox>("column").currentText(), "age");
   EXPECT_EQ(groups.Element(1, 1), 30);
+}
+
+TEST_F(DataPageTest, FollowsItsColumnsWhenTheSheetChanges) {
+  Open("three.csv", "a,b,c\n1,2,7\n3,4,8\n5,7,1\n");
+  auto& column = Find<ColumnBox>("column");
+  auto& groups = Find<ColumnBox>("group");
+  auto& kind = Find<QComboBox>("plotKind");
+  column.SetColumn(1);
+  groups.SetColumn(2);
+  Find<ColumnBox>("plotOther").SetColumn(2);
+  // The box plot shows the groups, the scatter plot the other column.
+  for (const int plot : {1, 5}) {
+    kind.setCurrentIndex(plot);
+    sheet.removeColumns(1, 2);
+    QApplication::processEvents();
+    EXPECT_EQ(groups.Column(), -1);
+    EXPECT_EQ(Mean(), "3");
+    Undo();
+    column.SetColumn(1);
+    groups.SetColumn(2);
+  }
+  Open("one.csv", "a\n1\n2\n");
+  EXPECT_EQ(Mean(), "1.5");
+
+  // Names that two columns share, and columns without names.
+  Open("twice.csv", "x,y,x\n1,2,10\n3,4,20\n");
+  column.SetColumn(2);
+  groups.SetColumn(0);
+  const QVariantMap state = page.State();
+  TypeInto(0, 1, "9\r");
+  column.SetColumn(2);
+  QApplication::processEvents();
+  sheet.setData(sheet.index(1, 1), 5.0);
+  QApplication::processEvents();
+  EXPECT_EQ(Mean(), "15");
+  sheet.insertColumns(0, 1);
+  QApplication::processEvents();
+  EXPECT_EQ(Mean(), "15");
+  EXPECT_EQ(groups.Column(), 1);
+  sheet.UndoLines();
+  column.SetColumn(1);
+  page.SetState(state);
+  EXPECT_EQ(Mean(), "15");
+  ExpectQuestion(QMessageBox::Discard);
+  Open("unnamed.csv", "1,2,10\n3,4,20\n");
+  column.SetColumn(1);
+  sheet.removeColumns(0, 1);
+  QApplication::processEvents();
+  EXPECT_EQ(Mean(), "3");
 }
 
 TEST_F(DataPageTest, GrowsFromNothing) {

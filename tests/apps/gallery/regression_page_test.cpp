@@ -170,7 +170,7 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   EXPECT_EQ(predictors.count(), 3);
   EXPECT_EQ(Message(), "Tick one or more predictors.");
   response.SetColumn(3);
-  predictors.SetTitles({"length", "width"});
+  predictors.SetColumns({1, 2});
   settle();
   EXPECT_EQ(Message(), "");
   EXPECT_TRUE(HasRemark("without 1 incomplete row"));
@@ -180,7 +180,7 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   QTest::keyClick(&predictors, Qt::Key_Space);
   settle();
   EXPECT_EQ(Message(), "weight is the response and a predictor.");
-  predictors.SetTitles({"length"});
+  predictors.SetColumns({1});
   SetDegree(2);
   settle();
   EXPECT_NE(Figure("coefficients", "length²"), "");
@@ -196,6 +196,12 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   RegressionPage other(sheet);
   other.SetState(state);
   EXPECT_EQ(other.State(), state);
+  // A column of the same name is another one.
+  sheet.setHeaderData(2, Qt::Horizontal, "length");
+  sheet.removeColumns(0, 1);
+  settle();
+  EXPECT_EQ(predictors.Columns(), std::vector({0}));
+  EXPECT_EQ(response.Column(), 2);
 }
 
 TEST_F(RegressionPageTest, RemembersTheOwnValues) {
