@@ -109,6 +109,9 @@ TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
   EXPECT_EQ(Row("coefficients", "x", 5), "0.5 — — — —");
   Paste("1\t1e4000\n2\t2\n3\t3\n4\t4");
   EXPECT_TRUE(QString::fromStdString(Message()).startsWith("The values are too large"));
+  // Their range times the number of points of the curve would be beyond it, too.
+  Paste("1e4900\t2\n-1e4900\t3\n1e4932\t4");
+  EXPECT_EQ(Message(), "");
   Click("clear");
   QApplication::processEvents();
   EXPECT_EQ(Figure("coefficients", "Constant"), "—");
