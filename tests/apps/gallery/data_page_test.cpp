@@ -234,6 +234,15 @@ TEST_F(DataPageTest, TakesAPastedTableWithItsNames) {
   EXPECT_EQ(editor.ColHeading(1), "size");
   EXPECT_EQ(Mean(), "1.5");
   EXPECT_TRUE(sheet.IsChanged());
+  // Digits that a number would not have stay, also over numbers.
+  Open("digits.csv", "a,b\n1.50,2\n3,4\n");
+  EXPECT_TRUE(editor.PasteBlock("007\t12345678901234567890123\n1.500\t0.10\n"));
+  EXPECT_EQ(sheet.Labels(0), QStringList({"007", "1.500"}));
+  EXPECT_EQ(sheet.Labels(1), QStringList({"12345678901234567890123", "0.10"}));
+  EXPECT_EQ(At(0, 0), 7);
+  editor.Undo();
+  EXPECT_EQ(sheet.Labels(0), QStringList({"1.50", "3"}));
+  EXPECT_FALSE(sheet.IsChanged());
   // A column of a German spreadsheet.
   QLocale::setDefault(QLocale::German);
   document.ReadText("1,5\n2,5\n");
@@ -269,6 +278,17 @@ TEST_F(DataPageTest, SavesAFileAsItWasWritten) {
   EXPECT_TRUE(document.Save());
   EXPECT_EQ(Read("two.csv"), "name;a;b\n\"x, y\";10;2\nz;3.50;0.1\n");
   EXPECT_FALSE(sheet.IsChanged());
+  // With its mark, the line that tells the delimiter, line ends, and in spite of its suffix.
+  for (const auto& [name, text] :
+       {std::pair("mark.csv", "\xEF\xBB\xBFsep=;\r\nn\xC3\xA4me;b\r\n\"1,50\";\"x y\"\r\n"),
+        {"tabs.csv", "a\tb\r\n1.50\t2\r\n"},
+        {"commas.tsv", "a,b\n1.50,2\n"}}) {
+    Open(name, text);
+    EXPECT_TRUE(document.Save());
+    EXPECT_EQ(Read(name), text) << name;
+  }
+  document.Open(file);
+  QApplication::processEvents();
   EXPECT_TRUE(document.SaveTo(folder.filePath("out.tsv")));
   EXPECT_EQ(Read("out.tsv"), "name\ta\tb\n\"x, y\"\t10\t2\nz\t3.50\t0.1\n");
   EXPECT_EQ(document.Title(), "out.tsv");
