@@ -118,6 +118,13 @@ bool DescribeOptions::Needs(FigureSource source) const {
   return figures.empty() || std::ranges::count(figures, source, &FigureName::source) > 0;
 }
 
+bool DescribeOptions::ReportsSquares() const {
+  return figures.empty() || std::ranges::any_of(figures, [](const FigureName* figure) {
+           return figure->key == "sum_of_squares" || figure->key == "variance" ||
+                  figure->key == "standard_deviation";
+         });
+}
+
 void DescribeOptions::RequireConsistent() const {
   if (trim.value > 0.5L)
     throw CLI::ValidationError("--trim", trim.text + " is not a number from 0 to 0.5");

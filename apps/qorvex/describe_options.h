@@ -48,6 +48,8 @@ struct DescribeOptions {
   [[nodiscard]] bool HasWeights() const { return table.selection.weights.has_value(); }
   /// Whether a chosen figure is computed from that.
   [[nodiscard]] bool Needs(FigureSource source) const;
+  /// Whether a chosen figure may underflow because it is, or comes from, a square.
+  [[nodiscard]] bool ReportsSquares() const;
   /// Throws CLI::ValidationError for options that exclude each other.
   void RequireConsistent() const;
 };

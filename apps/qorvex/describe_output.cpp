@@ -28,9 +28,9 @@ void AddIntervals(std::vector<Figure>& figures, const ColumnReport& report) {
                      "Confidence Interval for the Standard Deviation: ", ends.std_dev});
 }
 
-UnderflowedFigures UnderflowedIn(const ColumnReport& report) {
+UnderflowedFigures UnderflowedIn(const ColumnReport& report, const DescribeOptions& options) {
   UnderflowedFigures underflowed;
-  underflowed.CheckLines(report.lines);
+  if (options.ReportsSquares()) underflowed.CheckLines(report.lines);
   if (report.intervals) {
     const auto& [mean, variance, std_dev] = *report.intervals;
     underflowed.Check(variance.least, std_dev.least);
@@ -89,7 +89,7 @@ void RemarkOnZeros(const ColumnReport& report, const DescribeOptions& options) {
       OnOneLine(InputName(options.table.file)) + ": " + ColumnTitle(report.number, report.name);
   for (const GroupLabel& group : report.groups) place += ", " + OnOneLine(group.Text());
   place += ": ";
-  const UnderflowedFigures underflowed = UnderflowedIn(report);
+  const UnderflowedFigures underflowed = UnderflowedIn(report, options);
   if (underflowed.count > 0) WriteRemark(place + underflowed.Remark());
   if (options.output.CanHideFigures())
     RemarkOnHidden(place, FiguresOf(report, options), options.output);

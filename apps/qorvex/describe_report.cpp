@@ -141,10 +141,16 @@ void AddUnweighted(ColumnReport& report, ColumnNumbers numbers, const DescribeOp
   report.further = FurtherFigures(numbers, options);
 }
 
-// A report on no values: a count of 0, and figures that do not exist.
+// A report on no values: the lines of one value, with a count of 0 and figures that do not exist.
 void AddNothing(ColumnReport& report, const DescribeOptions& options) {
   constexpr Extended none = std::numeric_limits<Extended>::quiet_NaN();
-  report.lines = DescriptiveFigures({}, 1, options.population, false);
+  if (options.HasReliabilities()) {
+    ColumnNumbers one;
+    one.Append(1);
+    report.lines = WeightedNumbers(one, TQorFloatVector{1}).ReliabilityLines(options.population);
+  } else {
+    report.lines = DescriptiveFigures({}, 1, options.population, false);
+  }
   for (ReportFigure& line : report.lines)
     if (line.value) line.value = line.label == rsDSNoOfValues ? 0 : none;
   report.quantiles.assign(options.quantiles.size(), none);

@@ -24,6 +24,7 @@ namespace qorvex::apps {
 namespace {
 
 constexpr const char* kHelp = R"(
+
 The table of classes of equal width, and the figures that remain when every value
 counts as the middle of its class. The file has the values, or with --counts the
 number of values in each class.
@@ -33,7 +34,7 @@ Examples:
   qorvex grouped speeds.csv --column speed --lower 299600 --width 50
   qorvex grouped waiting.csv --counts visitors --lower 0 --width 5)";
 
-constexpr Extended kMostClasses = 1e6L;
+constexpr int kMostClasses = 1'000'000;
 
 struct GroupedArguments {
   TableArguments table;
@@ -73,11 +74,13 @@ ClassTable TableOf(const TableColumn& column, const GroupedArguments& arguments)
   if (arguments.has_counts)
     return {ClassBounds(lower, arguments.width.text), CountsOf(column, arguments)};
   const ColumnNumbers& numbers = column.numbers;
+  const OrderFigures order = ExtremesOf(numbers);
+  if (!std::isfinite(order.maximum - order.minimum))
+    Refuse(arguments, column, "the range of the values is beyond that of extended precision");
   const std::string width =
       arguments.width.text.empty() ? UsualWidth(numbers) : arguments.width.text;
   const ClassBounds bounds =
       lower.empty() ? ClassBounds(numbers, width) : ClassBounds(lower, width);
-  const OrderFigures order = ExtremesOf(numbers);
   const Extended minimum = numbers.ValueOf(order.minimum);
   if (minimum < bounds[0] && !lower.empty()) {
     Refuse(arguments, column,
@@ -86,7 +89,7 @@ ClassTable TableOf(const TableColumn& column, const GroupedArguments& arguments)
   const Extended classes = (numbers.ValueOf(order.maximum) - bounds[0]) / bounds.Width();
   if (!(classes < kMostClasses)) {
     Refuse(arguments, column,
-           "classes of width " + width + " are more than " + Float2Str(kMostClasses) +
+           "classes of width " + width + " are more than " + Int2EStr(kMostClasses) +
                "; --width chooses another width");
   }
   return {bounds, CountsIn(bounds, numbers)};

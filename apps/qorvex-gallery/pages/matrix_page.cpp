@@ -60,6 +60,8 @@ MatrixPage::MatrixPage(QWidget* parent)
       a_(new MatrixPanel(MatrixPanel::Kind::kTyped, "a", tr("A"), tr("Matrix A"))),
       b_(new MatrixPanel(MatrixPanel::Kind::kTyped, "b", tr("B"), tr("Matrix B"))),
       result_(new MatrixPanel(MatrixPanel::Kind::kResult, "result", {}, {})),
+      matrices_(new QVBoxLayout),
+      typed_(new QHBoxLayout),
       properties_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       message_(new MessageBar),
       edited_(a_),
@@ -77,15 +79,14 @@ MatrixPage::MatrixPage(QWidget* parent)
   layout->addLayout(body, 1);
   layout->addWidget(message_);
   MakeMatrices();
-  auto* const matrices = new QVBoxLayout;
-  auto* const typed = new QHBoxLayout;
-  typed->setSpacing(2 * fontMetrics().height());
-  typed->addWidget(a_, 1);
-  typed->addWidget(b_, 1);
-  matrices->addLayout(typed, 1);
-  matrices->addSpacing(fontMetrics().height());
-  matrices->addWidget(result_, 1);
-  body->addLayout(matrices, 1);
+  typed_->setSpacing(2 * fontMetrics().height());
+  typed_->addWidget(a_, 1);
+  typed_->addWidget(b_, 1);
+  matrices_->addLayout(typed_, 1);
+  matrices_->addSpacing(fontMetrics().height());
+  matrices_->addWidget(result_, 1);
+  matrices_->addStretch();
+  body->addLayout(matrices_, 1);
 
   refresh_.setSingleShot(true);
   connect(&refresh_, &QTimer::timeout, this, &MatrixPage::Refresh);
@@ -271,6 +272,7 @@ void MatrixPage::RefreshSoon() {
 }
 
 void MatrixPage::Refresh() {
+  ShareHeight();
   work_.Abandon();
   patience_.start();
   const auto task = std::make_shared<MatrixTask>();
@@ -287,6 +289,14 @@ void MatrixPage::Refresh() {
                 patience_.stop();
                 ShowNone(tr("none, the memory does not suffice"));
               });
+}
+
+// Matrices with few rows leave the rest of the height to others.
+void MatrixPage::ShareHeight() {
+  for (MatrixPanel* const panel : {a_, b_})
+    typed_->setAlignment(panel, panel->IsLow() ? Qt::AlignTop : Qt::Alignment());
+  const bool are_low = a_->IsLow() && (b_->isHidden() || b_->IsLow());
+  matrices_->setStretchFactor(typed_, are_low ? 0 : 1);
 }
 
 void MatrixPage::Show(const MatrixOutcome& outcome) {

@@ -44,7 +44,9 @@ TestPage::TestPage(const Sheet& sheet, QWidget* parent)
   setObjectName("testPage");
   test_->setObjectName("test");
   test_->setAccessibleName(tr("Test"));
-  test_->setMaxVisibleItems(20);
+  test_->setMaxVisibleItems(25);
+  // Long titles do not widen the panel.
+  test_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   FillTests();
   auto* const panel = new SidePanel;
   panel->AddGroup(tr("Test"))->addWidget(test_);

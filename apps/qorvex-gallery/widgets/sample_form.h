@@ -45,10 +45,10 @@ class SampleForm : public QWidget {
   void Changed();
 
  private:
-  void AddRows();
+  void Connect();
   void ShowRows();
-  void SetLabel(QWidget* field, const QString& text);
   [[nodiscard]] bool HasGroups() const;
+  [[nodiscard]] bool HasList() const;
 
   const Sheet& sheet_;
   apps::TestInput input_ = apps::TestInput::kSample;

@@ -199,12 +199,35 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   RegressionPage other(sheet);
   other.SetState(state);
   EXPECT_EQ(other.State(), state);
-  // A column of the same name is another one.
-  sheet.setHeaderData(2, Qt::Horizontal, "length");
+}
+
+TEST_F(RegressionPageTest, FollowsColumnsThatMove) {
+  auto& predictors = Find<ColumnList>("predictors");
+  const auto show = [&](const std::vector<std::string>& names) {
+    SheetData data({}, names);
+    data.AppendRow(std::vector<std::string>(names.size(), "1"));
+    sheet.SetData(data);
+    QTest::qWait(1);
+  };
+  show({"x", "y", "x", "z"});
+  predictors.item(2)->setCheckState(Qt::Checked);
+  EXPECT_EQ(predictors.Columns(), std::vector{2}) << "not the other column of the name";
+  sheet.setData(sheet.index(0, 1), 5.0);
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{2});
+  sheet.insertColumns(1, 2);
   sheet.removeColumns(0, 1);
-  settle();
-  EXPECT_EQ(predictors.Columns(), std::vector({0}));
-  EXPECT_EQ(response.Column(), 2);
+  EXPECT_EQ(predictors.Columns(), std::vector{3}) << "before the list is filled again";
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.Columns(), std::vector{3});
+  sheet.setHeaderData(3, Qt::Horizontal, "weight");
+  QTest::qWait(1);
+  EXPECT_EQ(predictors.State(), QVariantList({3, "weight"}));
+  show({"height", "weight"});
+  EXPECT_EQ(predictors.Columns(), std::vector{1});
+  sheet.removeColumns(1, 1);
+  QTest::qWait(1);
+  EXPECT_TRUE(predictors.Columns().empty());
 }
 
 TEST_F(RegressionPageTest, RemembersTheOwnValues) {
