@@ -31,11 +31,14 @@ std::string RowText(const TQorFloatVector& row) {
 
 TQorFloatMatrix ReadMatrixFile(const QString& path, const Proceed& proceed) {
   const auto size = static_cast<std::size_t>(std::max<qint64>(QFileInfo(path).size(), 1));
-  return apps::ReadMatrix(Observed(OpenFile(path),
-                                   [&proceed, size](std::size_t bytes) {
-                                     return proceed(std::min(bytes, size), size);
-                                   }),
-                          {});
+  const auto is_wanted = [&proceed, size](std::size_t bytes) {
+    return proceed(std::min(bytes, size), size);
+  };
+  try {
+    return apps::ReadMatrix(Observed(OpenFile(path), is_wanted), {});
+  } catch (const ReadingStopped&) {
+    return {};
+  }
 }
 
 QString WriteMatrixFile(const QString& path, const TQorFloatMatrix& matrix) {
