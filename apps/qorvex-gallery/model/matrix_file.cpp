@@ -31,14 +31,11 @@ std::string RowText(const TQorFloatVector& row) {
 
 TQorFloatMatrix ReadMatrixFile(const QString& path, const Proceed& proceed) {
   const auto size = static_cast<std::size_t>(std::max<qint64>(QFileInfo(path).size(), 1));
-  const auto is_wanted = [&proceed, size](std::size_t bytes) {
-    return proceed(std::min(bytes, size), size);
-  };
-  try {
-    return apps::ReadMatrix(Observed(OpenFile(path), is_wanted), {});
-  } catch (const ReadingStopped&) {
-    return {};
-  }
+  return apps::ReadMatrix(Observed(OpenFile(path),
+                                   [&proceed, size](std::size_t bytes) {
+                                     return proceed(std::min(bytes, size), size);
+                                   }),
+                          {});
 }
 
 QString WriteMatrixFile(const QString& path, const TQorFloatMatrix& matrix) {

@@ -10,8 +10,8 @@
 
 namespace qorvex::gallery {
 
-/// Reads a matrix: one row for each line, no header. Empty if it is told not to proceed.
-/// Throws apps::InputError and std::bad_alloc.
+/// Reads a matrix: one row for each line, no header. Throws apps::InputError, ReadingStopped if
+/// it is told not to proceed, and std::bad_alloc.
 [[nodiscard]] TQorFloatMatrix ReadMatrixFile(const QString& path, const Proceed& proceed);
 
 /// Writes a matrix so that all bits can be read again: decimal points, and commas between the
