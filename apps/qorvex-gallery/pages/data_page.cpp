@@ -158,14 +158,13 @@ bool DataPage::IsReading() const {
 }
 
 QVariantMap DataPage::State() const {
-  return {{"column", columns_->currentText()},
-          {"groups", groups_->Column()},
-          {"report", report_->State()}};
+  return {
+      {"column", columns_->State()}, {"groups", groups_->State()}, {"report", report_->State()}};
 }
 
 void DataPage::SetState(const QVariantMap& state) {
-  ShowColumn(state.value("column").toString());
-  groups_->SetColumn(state.value("groups", -1).toInt());
+  columns_->SetState(state.value("column").toList());
+  groups_->SetState(state.value("groups").toList());
   report_->SetState(state.value("report").toMap());
 }
 

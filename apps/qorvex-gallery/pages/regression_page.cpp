@@ -260,7 +260,7 @@ bool RegressionPage::TakesSheet() const {
 void RegressionPage::ChooseSource() {
   values_->setCurrentIndex(source_->currentIndex());
   if (TakesSheet() && predictors_->Columns().empty() && response_->count() > 1) {
-    predictors_->SetTitles({response_->itemText(0)});
+    predictors_->SetColumns({sheet_.ColumnWith(response_->itemData(0).toInt())});
     if (response_->currentIndex() == 0) response_->setCurrentIndex(1);
   }
   RefreshSoon();
@@ -357,8 +357,8 @@ QVariantMap RegressionPage::State() const {
   for (TextCell* const cell : own_->findChildren<TextCell*>()) cell->CommitOrRestore();
   QVariantMap state = {{"sheet", TakesSheet()},
                        {"degree", degree_->value()},
-                       {"response", response_->currentText()},
-                       {"predictors", predictors_->Titles()}};
+                       {"response", response_->State()},
+                       {"predictors", predictors_->State()}};
   if (own_->NoOfRows() <= kMostKeptRows) state["own"] = MatrixText(own_->Matrix());
   return state;
 }
@@ -373,8 +373,8 @@ void RegressionPage::SetState(const QVariantMap& state) {
     if (own_->NoOfCols() < 2) own_->setNoOfCols(2);
   }
   degree_->setValue(state.value("degree", 1).toInt());
-  response_->setCurrentText(state.value("response").toString());
-  predictors_->SetTitles(state.value("predictors").toStringList());
+  response_->SetState(state.value("response").toList());
+  predictors_->SetState(state.value("predictors").toList());
   source_->setCurrentIndex(state.value("sheet").toBool() ? 1 : 0);
   RefreshSoon();
 }

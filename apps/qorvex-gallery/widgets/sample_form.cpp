@@ -139,9 +139,9 @@ void SampleForm::Fill(TestOrder& order) const {
 }
 
 QVariantMap SampleForm::State() const {
-  return {{"kind", kind_->currentIndex()},    {"first", first_->Column()},
-          {"second", second_->Column()},      {"proportions", proportions_->Column()},
-          {"labels", labels_->Column()},      {"columns", list_->Titles()},
+  return {{"kind", kind_->currentIndex()},    {"first", first_->State()},
+          {"second", second_->State()},       {"proportions", proportions_->State()},
+          {"labels", labels_->State()},       {"columns", list_->State()},
           {"yates", yates_->isChecked()},     {"fitted", fitted_->value()},
           {"successes", successes_->value()}, {"trials", trials_->value()},
           {"chosen", is_first_chosen_}};
@@ -152,8 +152,8 @@ void SampleForm::SetState(const QVariantMap& state) {
   is_first_chosen_ = state["chosen"].toBool();
   kind_->setCurrentIndex(state["kind"].toInt());
   for (ColumnBox* const box : {first_, second_, proportions_, labels_})
-    box->SetColumn(state[box->objectName()].toInt());
-  list_->SetTitles(state["columns"].toStringList());
+    box->SetState(state[box->objectName()].toList());
+  list_->SetState(state["columns"].toList());
   yates_->setChecked(state["yates"].toBool());
   for (QSpinBox* const box : {fitted_, successes_, trials_})
     box->setValue(state[box->objectName()].toInt());
