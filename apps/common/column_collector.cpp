@@ -95,12 +95,17 @@ void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, 
 Table ColumnCollector::Finish(const std::string& input) {
   Table table;
   table.header = std::move(header_);
-  for (TableColumn& column : columns_) {
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    TableColumn& column = columns_[i];
     const bool is_empty = column.numbers.empty() && column.labels.empty();
     if (is_empty && (first_cells_.empty() || column.role != ColumnRole::kValues))
       throw InputError(InputFault::kNoValues, input, column.Title() + " has no values");
     column.numbers.ShrinkToFit();
-    (is_empty ? table.left_out : table.columns).push_back(std::move(column));
+    if (is_empty) {
+      table.left_out.push_back({column.Title(), first_cells_[i].text_cell});
+    } else {
+      table.columns.push_back(std::move(column));
+    }
   }
   if (table.columns.empty() || table.columns[0].role != ColumnRole::kValues)
     RefuseAll(input, table.left_out);
@@ -112,11 +117,11 @@ Table ColumnCollector::Finish(const std::string& input) {
 }
 
 void ColumnCollector::RefuseAll(const std::string& input,
-                                const std::vector<TableColumn>& columns) const {
+                                const std::vector<LeftOutColumn>& columns) const {
   const auto text = std::ranges::find_if(
       first_cells_, [](const FirstCells& cells) { return cells.text != nullptr; });
   if (text == first_cells_.end())
-    throw InputError(InputFault::kNoValues, input, columns[0].Title() + " has no values");
+    throw InputError(InputFault::kNoValues, input, columns[0].title + " has no values");
   if (columns.size() == 1) std::rethrow_exception(text->text);
   throw InputError(InputFault::kNoValues, input, "no column has a number");
 }
@@ -160,6 +165,7 @@ void ColumnCollector::AddCell(std::string_view cell, std::size_t index, const Ro
   } catch (const InputError& error) {
     if (error.Fault() != InputFault::kNotANumber) throw;
     first.text = std::current_exception();
+    first.text_cell = cell;
     first.text_line = place.line;
   }
 }
@@ -194,6 +200,7 @@ void ColumnCollector::AddFirstCells(std::span<const FirstCells> following) {
     }
     if (!known.text) {
       known.text = more.text;
+      known.text_cell = more.text_cell;
       known.text_line = more.text_line;
     }
     if (known.number_line == 0) known.number_line = more.number_line;

@@ -51,6 +51,7 @@ class ColumnCollector {
   struct FirstCells {
     // The fault of its first text.
     std::exception_ptr text = nullptr;
+    std::string text_cell = {};
     // The lines of its first text and of its first number; 0 for none.
     std::size_t text_line = 0;
     std::size_t number_line = 0;
@@ -65,7 +66,7 @@ class ColumnCollector {
   void AddBlankLines(const std::string& input, std::size_t end, std::size_t count);
   void SkipRow();
   [[noreturn]] void RefuseAll(const std::string& input,
-                              const std::vector<TableColumn>& columns) const;
+                              const std::vector<LeftOutColumn>& columns) const;
 
   const MissingWords* missing_;
   char decimal_sign_;

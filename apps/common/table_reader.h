@@ -58,6 +58,14 @@ struct TableColumn {
   [[nodiscard]] std::string Title() const;
 };
 
+/// A column without numbers.
+struct LeftOutColumn {
+  /// As ColumnTitle.
+  std::string title;
+  /// Its first text; empty if all its values are missing.
+  std::string first_text;
+};
+
 /// What was read from a table.
 struct Table {
   /// The chosen columns.
@@ -65,9 +73,11 @@ struct Table {
   /// The cells of the header; empty without a header.
   std::vector<std::string> header = {};
   /// If no column was chosen, those without a number, without the names of rows.
-  std::vector<TableColumn> left_out = {};
+  std::vector<LeftOutColumn> left_out = {};
   /// The format that was found.
   TableFormat format = {};
+  /// As for RowReader.
+  bool has_doubtful_row_names = false;
 };
 
 /// Reads the chosen columns. The others may contain any text.

@@ -32,7 +32,7 @@ std::string Read(const std::string& text, const TableSelection& selection, unsig
       for (const std::size_t gap : column.gaps) columns += " gap " + Int2EStr(gap);
       columns += '\n';
     }
-    for (const TableColumn& column : table.left_out) columns += column.Title() + " left out\n";
+    for (const LeftOutColumn& column : table.left_out) columns += column.title + " left out\n";
     return columns;
   });
 }
@@ -109,8 +109,10 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x\nNA\n2\n", "2: column 1 (x): \"NA\" is not a number", {.format = kComplete}},
            {"1\nnan\n", "2: column 1: \"nan\" is not a finite number", {.format = kComplete}},
            {"x\n-inf\n1\n", "2: column 1 (x): \"-inf\" is not a finite number"},
-           {"x\ty\n1\t1,500\n", "2: column 2 (y): \"1,500\" is not a number"},
-           {"x;y\n1,5;1.234,5\n2;3\n", "2: column 2 (y): \"1.234,5\" is not a number"},
+           {"x\ty\n1\t1,500\n",
+            "2: column 2 (y): \"1,500\" may have groups of digits, which are not read"},
+           {"x;y\n1,5;1.234,5\n2;3\n",
+            "2: column 2 (y): \"1.234,5\" may have groups of digits, which are not read"},
            {"1e5000\n", "1: column 1: \"1e5000\" is beyond the range of extended precision"},
            {"\nx,y\n1,2\n3\n", "4: the row has 1 cell where line 2 has 2"},
            {"x,y\n", " there is no column \"3\"; the columns are 1 (x), 2 (y)", {{"3"}}},

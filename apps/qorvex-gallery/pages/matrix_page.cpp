@@ -12,7 +12,6 @@
 #include <memory>
 #include <utility>
 
-#include "apps/common/input_error.h"
 #include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/model/matrix_file.h"
@@ -60,13 +59,16 @@ MatrixPage::MatrixPage(QWidget* parent)
       a_(new MatrixPanel(MatrixPanel::Kind::kTyped, "a", tr("A"), tr("Matrix A"))),
       b_(new MatrixPanel(MatrixPanel::Kind::kTyped, "b", tr("B"), tr("Matrix B"))),
       result_(new MatrixPanel(MatrixPanel::Kind::kResult, "result", {}, {})),
+      matrices_(new QVBoxLayout),
+      typed_(new QHBoxLayout),
       properties_(new FigureTable({FigureTable::kLabel, FigureTable::kFigure})),
       message_(new MessageBar),
       edited_(a_),
       refresh_(this),
       patience_(this),
       work_(this),
-      reading_(this) {
+      reading_a_(this),
+      reading_b_(this) {
   setObjectName(QStringLiteral("matrixPage"));
   properties_->setObjectName(QStringLiteral("properties"));
   auto* const panel = new SidePanel;
@@ -77,15 +79,14 @@ MatrixPage::MatrixPage(QWidget* parent)
   layout->addLayout(body, 1);
   layout->addWidget(message_);
   MakeMatrices();
-  auto* const matrices = new QVBoxLayout;
-  auto* const typed = new QHBoxLayout;
-  typed->setSpacing(2 * fontMetrics().height());
-  typed->addWidget(a_, 1);
-  typed->addWidget(b_, 1);
-  matrices->addLayout(typed, 1);
-  matrices->addSpacing(fontMetrics().height());
-  matrices->addWidget(result_, 1);
-  body->addLayout(matrices, 1);
+  typed_->setSpacing(2 * fontMetrics().height());
+  typed_->addWidget(a_, 1);
+  typed_->addWidget(b_, 1);
+  matrices_->addLayout(typed_, 1);
+  matrices_->addSpacing(fontMetrics().height());
+  matrices_->addWidget(result_, 1);
+  matrices_->addStretch();
+  body->addLayout(matrices_, 1);
 
   refresh_.setSingleShot(true);
   connect(&refresh_, &QTimer::timeout, this, &MatrixPage::Refresh);
@@ -222,18 +223,18 @@ void MatrixPage::Open(const QString& path) {
 
 void MatrixPage::OpenIn(MatrixPanel& panel, const QString& path) {
   const auto matrix = std::make_shared<TQorFloatMatrix>();
+  BackgroundWork& reading = &panel == a_ ? reading_a_ : reading_b_;
   message_->SetText({});
   panel.SetRemark(tr("reading %1…").arg(QFileInfo(path).fileName()));
-  reading_.Start(
-      [matrix, path](const Proceed& proceed) { *matrix = ReadMatrixFile(path, proceed); },
-      [this, &panel, matrix] {
-        panel.SetRemark({});
-        panel.Replace(*matrix);
-      },
-      [this, &panel](const QString& why) {
-        panel.SetRemark({});
-        message_->SetText(why);
-      });
+  reading.Start([matrix, path](const Proceed& proceed) { *matrix = ReadMatrixFile(path, proceed); },
+                [this, &panel, matrix] {
+                  panel.SetRemark({});
+                  panel.Replace(*matrix);
+                },
+                [this, &panel](const QString& why) {
+                  panel.SetRemark({});
+                  message_->SetText(why);
+                });
 }
 
 void MatrixPage::Choose() {
@@ -271,6 +272,7 @@ void MatrixPage::RefreshSoon() {
 }
 
 void MatrixPage::Refresh() {
+  ShareHeight();
   work_.Abandon();
   patience_.start();
   const auto task = std::make_shared<MatrixTask>();
@@ -287,6 +289,14 @@ void MatrixPage::Refresh() {
                 patience_.stop();
                 ShowNone(tr("none, the memory does not suffice"));
               });
+}
+
+// Matrices with few rows leave the rest of the height to others.
+void MatrixPage::ShareHeight() {
+  for (MatrixPanel* const panel : {a_, b_})
+    typed_->setAlignment(panel, panel->IsLow() ? Qt::AlignTop : Qt::Alignment());
+  const bool are_low = a_->IsLow() && (b_->isHidden() || b_->IsLow());
+  matrices_->setStretchFactor(typed_, are_low ? 0 : 1);
 }
 
 void MatrixPage::Show(const MatrixOutcome& outcome) {
@@ -323,8 +333,8 @@ void MatrixPage::SetState(const QVariantMap& state) {
     try {
       const QString text = state[panel->objectName()].toString();
       if (!text.isEmpty()) panel->SetMatrix(MatrixOf(text));
-    } catch (const apps::InputError&) {
-      // Settings that were changed by hand, or a null.
+    } catch (const std::exception&) {
+      // Settings that were changed by hand; the example stays.
     }
   }
   Choose();

@@ -14,6 +14,7 @@
 #include "qorvex/base/vector_types.h"
 
 class QButtonGroup;
+class QHBoxLayout;
 class QPushButton;
 class QVBoxLayout;
 
@@ -64,6 +65,7 @@ class MatrixPage : public Page {
   // Computes the result in the next turn of the event loop.
   void RefreshSoon();
   void Refresh();
+  void ShareHeight();
   void Show(const MatrixOutcome& outcome);
   void ShowNone(const QString& why);
   [[nodiscard]] MatrixResult Wanted() const;
@@ -71,6 +73,8 @@ class MatrixPage : public Page {
   MatrixPanel* a_;
   MatrixPanel* b_;
   MatrixPanel* result_;
+  QVBoxLayout* matrices_;
+  QHBoxLayout* typed_;
   QButtonGroup* wanted_;
   QButtonGroup* numbers_;
   QPushButton* use_as_a_;
@@ -83,7 +87,8 @@ class MatrixPage : public Page {
   // When the computation takes long enough to be mentioned.
   QTimer patience_;
   BackgroundWork work_;
-  BackgroundWork reading_;
+  BackgroundWork reading_a_;
+  BackgroundWork reading_b_;
 };
 
 }  // namespace qorvex::gallery

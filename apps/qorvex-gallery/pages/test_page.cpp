@@ -44,7 +44,9 @@ TestPage::TestPage(const Sheet& sheet, QWidget* parent)
   setObjectName("testPage");
   test_->setObjectName("test");
   test_->setAccessibleName(tr("Test"));
-  test_->setMaxVisibleItems(20);
+  test_->setMaxVisibleItems(25);
+  // Long titles do not widen the panel.
+  test_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   FillTests();
   auto* const panel = new SidePanel;
   panel->AddGroup(tr("Test"))->addWidget(test_);
@@ -191,6 +193,10 @@ QString TestPage::RemarkOn(std::size_t left_out) const {
   if (left_out == 0) return {};
   return left_out == 1 ? tr("without 1 missing value")
                        : tr("without %L1 missing values").arg(left_out);
+}
+
+void TestPage::SuggestColumn(int column) {
+  samples_form_->SuggestColumn(column);
 }
 
 QVariantMap TestPage::State() const {

@@ -1,6 +1,7 @@
 #include "apps/qorvex-gallery/widgets/column_list.h"
 
 #include <QSignalBlocker>
+#include <algorithm>
 
 #include "apps/qorvex-gallery/model/sheet.h"
 
@@ -8,55 +9,78 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr int kColumnRole = Qt::UserRole;
+constexpr int kIdRole = Qt::UserRole;
+constexpr int kColumnRole = Qt::UserRole + 1;
 
 }  // namespace
 
 ColumnList::ColumnList(const Sheet& sheet, QWidget* parent) : QListWidget(parent), sheet_(sheet) {
   connect(this, &QListWidget::itemChanged, this, &ColumnList::ColumnsChanged);
-  connect(&sheet, &Sheet::Changed, this, [this] {
-    const std::vector<int> before = Columns();
-    Fill(Titles());
-    if (Columns() != before) Q_EMIT ColumnsChanged();
-  });
+  connect(&sheet, &Sheet::modelReset, this, &ColumnList::FindAgain);
+  connect(&sheet, &Sheet::Changed, this, [this] { Fill(Columns()); });
   Fill({});
 }
 
 ColumnList::~ColumnList() = default;
 
-void ColumnList::Fill(const QStringList& ticked) {
+void ColumnList::FindAgain() {
+  std::vector<int> found;
+  for (const QListWidgetItem* const item : Ticked()) {
+    const int column = sheet_.ColumnWith(item->data(kIdRole).toInt());
+    found.push_back(column >= 0 ? column
+                                : sheet_.FindColumn(item->text(), item->data(kColumnRole).toInt()));
+  }
+  Fill(found);
+}
+
+void ColumnList::Fill(const std::vector<int>& ticked) {
   const QSignalBlocker blocker(this);
   const int current = currentRow();
   clear();
   for (int column = 0; column < sheet_.columnCount(); ++column) {
     if (!sheet_.IsNumeric(column)) continue;
     auto* const item = new QListWidgetItem(sheet_.Title(column), this);
+    item->setData(kIdRole, sheet_.ColumnId(column));
     item->setData(kColumnRole, column);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    item->setCheckState(ticked.contains(item->text()) ? Qt::Checked : Qt::Unchecked);
+    const bool is_ticked = std::ranges::find(ticked, column) != ticked.end();
+    item->setCheckState(is_ticked ? Qt::Checked : Qt::Unchecked);
   }
   setCurrentRow(qBound(0, current, count() - 1));
 }
 
+QList<const QListWidgetItem*> ColumnList::Ticked() const {
+  QList<const QListWidgetItem*> items;
+  for (int row = 0; row < count(); ++row)
+    if (item(row)->checkState() == Qt::Checked) items.append(item(row));
+  return items;
+}
+
 std::vector<int> ColumnList::Columns() const {
   std::vector<int> columns;
-  for (int row = 0; row < count(); ++row) {
-    if (item(row)->checkState() == Qt::Checked)
-      columns.push_back(item(row)->data(kColumnRole).toInt());
+  for (const QListWidgetItem* const item : Ticked()) {
+    const int column = sheet_.ColumnWith(item->data(kIdRole).toInt());
+    if (column >= 0) columns.push_back(column);
   }
   return columns;
 }
 
-QStringList ColumnList::Titles() const {
-  QStringList titles;
-  for (int row = 0; row < count(); ++row)
-    if (item(row)->checkState() == Qt::Checked) titles += item(row)->text();
-  return titles;
+void ColumnList::SetColumns(const std::vector<int>& columns) {
+  Fill(columns);
+  Q_EMIT ColumnsChanged();
 }
 
-void ColumnList::SetTitles(const QStringList& titles) {
-  Fill(titles);
-  Q_EMIT ColumnsChanged();
+QVariantList ColumnList::State() const {
+  QVariantList state;
+  for (const int column : Columns()) state += {column, sheet_.Title(column)};
+  return state;
+}
+
+void ColumnList::SetState(const QVariantList& state) {
+  std::vector<int> columns;
+  for (qsizetype i = 0; i + 1 < state.size(); i += 2)
+    columns.push_back(sheet_.FindColumn(state[i + 1].toString(), state[i].toInt()));
+  SetColumns(columns);
 }
 
 }  // namespace qorvex::gallery

@@ -45,7 +45,7 @@ void FigureTable::SetRows(const QList<QStringList>& rows) {
       const QString text = texts.value(static_cast<qsizetype>(c));
       QLabel& cell = *cells_[r][c];
       cell.setText(text);
-      if (has_titles_) cell.setVisible(std::cmp_less(r, rows.size()));
+      cell.setVisible(std::cmp_less(r, rows.size()));
       if (columns_[c] == kLabel) {
         label = text;
       } else {

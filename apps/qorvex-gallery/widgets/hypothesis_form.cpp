@@ -2,12 +2,12 @@
 
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <algorithm>
 
 #include "apps/qorvex-gallery/model/names.h"
 #include "apps/qorvex-gallery/model/test_texts.h"
 #include "apps/qorvex-gallery/model/texts.h"
+#include "apps/qorvex-gallery/widgets/form_rows.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
 #include "apps/qorvex-gallery/widgets/parameter_form.h"
 #include "qorvex/base/errors.h"
@@ -42,15 +42,12 @@ HypothesisForm::HypothesisForm(MessageBar& message, QWidget* parent)
   for (const apps::Family& family : apps::Families())
     if (!family.is_discrete) family_->addItem(DisplayName(family.name), QString(family.name));
   family_->setCurrentIndex(family_->findData("normal"));
+  // Long names do not widen the form.
+  family_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   // In the order of Alternative.
   alternative_->addItems({tr("two-sided"), tr("less"), tr("greater")});
   layout_->setContentsMargins(0, 0, 0, 0);
   layout_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  layout_->addRow(tr("Number:"), null_value_);
-  layout_->addRow(tr("Distribution:"), family_);
-  layout_->addRow(parameters_);
-  layout_->addRow(tr("Alternative:"), alternative_);
-  layout_->addRow(tr("Confidence level:"), confidence_);
   for (TQorFloatEdit* const cell : {null_value_, confidence_}) {
     message.Watch(*cell);
     connect(cell, &TQorFloatEdit::Changed, this, &HypothesisForm::Changed);
@@ -76,13 +73,13 @@ void HypothesisForm::SetTest(const apps::HypothesisTest& test) {
   test_ = &test;
   const apps::NullValue& null_value = test.null_value;
   const bool has_number = null_value.option != nullptr;
-  layout_->setRowVisible(null_value_, has_number);
-  layout_->setRowVisible(family_, test.takes_family);
-  layout_->setRowVisible(parameters_, test.takes_family);
-  layout_->setRowVisible(alternative_, test.has_alternative);
-  if (!has_number) return;
   const QString label = TestTexts(test).NullValue();
-  static_cast<QLabel*>(layout_->labelForField(null_value_))->setText(label + ':');
+  SetRows(*layout_, {{null_value_, label + QLatin1Char(':'), has_number},
+                     {family_, tr("Distribution:"), test.takes_family},
+                     {parameters_, {}, test.takes_family},
+                     {alternative_, tr("Alternative:"), test.has_alternative},
+                     {confidence_, tr("Confidence level:")}});
+  if (!has_number) return;
   null_value_->setAccessibleName(label);
   null_value_->setValue(
       Str2Float(null_value.default_text != nullptr ? null_value.default_text : kFirstNullValue));

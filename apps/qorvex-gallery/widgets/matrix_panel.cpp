@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QSpinBox>
 #include <QVBoxLayout>
@@ -77,6 +78,10 @@ void MatrixPanel::SetUp(TQorCustomMatrixEdit& editor) {
   editor.setColHeadings(true);
   editor.setAutoEdits(true);
   editor.setReadOnly(kind_ == Kind::kResult);
+  if (kind_ == Kind::kResult) {
+    editor.installEventFilter(this);
+    for (auto* const cell : editor.findChildren<QLineEdit*>()) cell->setFrame(false);
+  }
   connect(&editor, &TQorCustomMatrixEdit::OnChange, this, &MatrixPanel::Update);
   connect(&editor, &TQorCustomMatrixEdit::OnUndo, this, &MatrixPanel::Update);
 }
@@ -178,11 +183,34 @@ void MatrixPanel::Resize() {
 void MatrixPanel::ShowSize() {
   const quint32 rows = Editor().NoOfRows();
   const quint32 cols = Editor().NoOfCols();
+  FitHeight();
   if (kind_ == Kind::kResult) return size_->setText(tr("%L1 × %L2").arg(rows).arg(cols));
   const QSignalBlocker no_rows(rows_);
   const QSignalBlocker no_cols(cols_);
   rows_->setValue(static_cast<int>(rows));
   cols_->setValue(static_cast<int>(cols));
+}
+
+// A matrix with few rows leaves its room to others.
+void MatrixPanel::FitHeight() {
+  const bool is_low = IsLow();
+  if (is_low) Editor().setNoOfRowEdits(static_cast<int>(Editor().NoOfRows()));
+  Editor().setMaximumHeight(is_low ? Editor().sizeHint().height() : QWIDGETSIZE_MAX);
+  setSizePolicy(QSizePolicy::Preferred, is_low ? QSizePolicy::Maximum : QSizePolicy::Preferred);
+}
+
+bool MatrixPanel::IsLow() const {
+  constexpr quint32 most_rows = 10;
+  return Editor().NoOfRows() <= most_rows;
+}
+
+// Cells come and go with the size of the window.
+bool MatrixPanel::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ChildPolished) {
+    QObject* const child = static_cast<QChildEvent*>(event)->child();
+    if (auto* const cell = qobject_cast<QLineEdit*>(child)) cell->setFrame(false);
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void MatrixPanel::changeEvent(QEvent* event) {

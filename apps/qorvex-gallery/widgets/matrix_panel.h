@@ -25,8 +25,8 @@ namespace qorvex::gallery {
 class MessageBar;
 
 /// A matrix under a title, with the numbers of its rows and columns, in as many cells as have room:
-/// one that is typed, whose size can be set beside the title, or a result, which stands on the
-/// colour of the window. It shows decimals or fractions.
+/// one that is typed, whose size can be set beside the title, or a result, whose cells look like
+/// text on the window. It shows decimals or fractions.
 class MatrixPanel : public QWidget {
   Q_OBJECT
 
@@ -56,6 +56,8 @@ class MatrixPanel : public QWidget {
   [[nodiscard]] TQorCustomMatrixEdit& Editor() const { return *editors_[fractions_ ? 1 : 0]; }
   /// Shows the size of the matrix and raises Changed.
   void Update();
+  /// Whether all rows have room in a part of the page.
+  [[nodiscard]] bool IsLow() const;
   /// Lets a bar report texts that are no numbers.
   void LetWatch(MessageBar& bar) const;
   /// Commits the texts that are being typed.
@@ -68,6 +70,7 @@ class MatrixPanel : public QWidget {
   void SizeRefused(const QString& message);
 
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:
@@ -75,6 +78,7 @@ class MatrixPanel : public QWidget {
   QWidget* MakeSize();
   void Resize();
   void ShowSize();
+  void FitHeight();
   void ShowResultColor();
 
   Kind kind_;

@@ -3,7 +3,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
-#include <QLabel>
 #include <QSpinBox>
 #include <limits>
 
@@ -11,6 +10,7 @@
 #include "apps/qorvex-gallery/model/test_order.h"
 #include "apps/qorvex-gallery/widgets/column_box.h"
 #include "apps/qorvex-gallery/widgets/column_list.h"
+#include "apps/qorvex-gallery/widgets/form_rows.h"
 
 namespace qorvex::gallery {
 
@@ -57,26 +57,17 @@ SampleForm::SampleForm(const Sheet& sheet, QWidget* parent)
   list_->setObjectName("columns");
   list_->setAccessibleName(tr("Columns"));
   list_->setFixedHeight(6 * fontMetrics().height());
+  list_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   yates_->setObjectName("yates");
-  AddRows();
+  layout_->setContentsMargins(0, 0, 0, 0);
+  layout_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+  Connect();
   SetInput(TestInput::kSample);
 }
 
 SampleForm::~SampleForm() = default;
 
-void SampleForm::AddRows() {
-  layout_->setContentsMargins(0, 0, 0, 0);
-  layout_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-  layout_->addRow(tr("Samples:"), kind_);
-  layout_->addRow(tr("Values:"), first_);
-  layout_->addRow(tr("Second:"), second_);
-  layout_->addRow(tr("Labels:"), labels_);
-  layout_->addRow(tr("Proportions:"), proportions_);
-  layout_->addRow(list_);
-  layout_->addRow(yates_);
-  layout_->addRow(tr("Fitted parameters:"), fitted_);
-  layout_->addRow(tr("Successes:"), successes_);
-  layout_->addRow(tr("Trials:"), trials_);
+void SampleForm::Connect() {
   connect(kind_, &QComboBox::currentIndexChanged, this, [this] {
     ShowRows();
     Q_EMIT Changed();
@@ -85,57 +76,59 @@ void SampleForm::AddRows() {
     connect(box, &ColumnBox::ColumnChanged, this, &SampleForm::Changed);
   for (QSpinBox* const box : {fitted_, successes_, trials_})
     connect(box, &QSpinBox::valueChanged, this, &SampleForm::Changed);
+  connect(first_, &QComboBox::activated, this, [this] { is_first_chosen_ = true; });
   connect(list_, &ColumnList::ColumnsChanged, this, &SampleForm::Changed);
   connect(yates_, &QCheckBox::toggled, this, &SampleForm::Changed);
 }
 
 void SampleForm::SetInput(TestInput input) {
   input_ = input;
-  const bool are_pairs = input == TestInput::kPairs;
-  SetLabel(second_, are_pairs ? tr("y:") : tr("Second:"));
   ShowRows();
+}
+
+void SampleForm::SuggestColumn(int column) {
+  if (!is_first_chosen_) first_->SetColumn(column);
 }
 
 bool SampleForm::HasGroups() const {
   return TakesSamples(input_) && kind_->currentIndex() == 1;
 }
 
-void SampleForm::SetLabel(QWidget* field, const QString& text) {
-  static_cast<QLabel*>(layout_->labelForField(field))->setText(text);
+bool SampleForm::HasList() const {
+  return input_ == TestInput::kCountTable || (input_ == TestInput::kSeveralSamples && !HasGroups());
 }
 
 void SampleForm::ShowRows() {
   const bool groups = HasGroups();
-  const bool two = input_ == TestInput::kPairs || (input_ == TestInput::kTwoSamples && !groups);
-  const bool list =
-      input_ == TestInput::kCountTable || (input_ == TestInput::kSeveralSamples && !groups);
+  const bool pairs = input_ == TestInput::kPairs;
+  const bool two = pairs || (input_ == TestInput::kTwoSamples && !groups);
   const bool counts = input_ == TestInput::kCounts;
   const bool trials = input_ == TestInput::kTrials;
-  SetLabel(first_, input_ == TestInput::kPairs ? tr("x:")
-                   : counts                    ? tr("Counts:")
-                   : two                       ? tr("First:")
-                                               : tr("Values:"));
-  layout_->setRowVisible(kind_, TakesSamples(input_));
-  layout_->setRowVisible(first_, !list && !trials);
-  layout_->setRowVisible(second_, two);
-  layout_->setRowVisible(labels_, groups);
-  layout_->setRowVisible(proportions_, counts);
-  layout_->setRowVisible(list_, list);
-  layout_->setRowVisible(yates_, input_ == TestInput::kCountTable);
-  layout_->setRowVisible(fitted_, counts);
-  layout_->setRowVisible(successes_, trials);
-  layout_->setRowVisible(trials_, trials);
+  const QString first = pairs    ? tr("x:")
+                        : counts ? tr("Counts:")
+                        : two    ? tr("First:")
+                                 : tr("Values:");
+  SetRows(*layout_, {{kind_, tr("Samples:"), TakesSamples(input_)},
+                     {first_, first, !HasList() && !trials},
+                     {second_, pairs ? tr("y:") : tr("Second:"), two},
+                     {labels_, tr("Labels:"), groups},
+                     {proportions_, tr("Proportions:"), counts},
+                     {list_, {}, HasList()},
+                     {yates_, {}, input_ == TestInput::kCountTable},
+                     {fitted_, tr("Fitted parameters:"), counts},
+                     {successes_, tr("Successes:"), trials},
+                     {trials_, tr("Trials:"), trials}});
 }
 
 void SampleForm::Fill(TestOrder& order) const {
   const auto add = [this, &order](int column) {
     if (column >= 0) order.columns.push_back({sheet_.Title(column), sheet_.Numbers(column)});
   };
-  if (!layout_->isRowVisible(list_)) {
-    for (const ColumnBox* const box : {first_, second_, proportions_})
-      if (layout_->isRowVisible(const_cast<ColumnBox*>(box))) add(box->Column());
-  } else {
+  if (HasList()) {
     for (const int column : list_->Columns()) add(column);
+  } else {
+    for (const ColumnBox* const box : {first_, second_, proportions_})
+      if (!box->isHidden()) add(box->Column());
   }
   if (HasGroups() && labels_->Column() >= 0 && !order.columns.empty())
     order.groups = sheet_.Groups(labels_->Column());
@@ -146,19 +139,21 @@ void SampleForm::Fill(TestOrder& order) const {
 }
 
 QVariantMap SampleForm::State() const {
-  return {{"kind", kind_->currentIndex()},    {"first", first_->Column()},
-          {"second", second_->Column()},      {"proportions", proportions_->Column()},
-          {"labels", labels_->Column()},      {"columns", list_->Titles()},
+  return {{"kind", kind_->currentIndex()},    {"first", first_->State()},
+          {"second", second_->State()},       {"proportions", proportions_->State()},
+          {"labels", labels_->State()},       {"columns", list_->State()},
           {"yates", yates_->isChecked()},     {"fitted", fitted_->value()},
-          {"successes", successes_->value()}, {"trials", trials_->value()}};
+          {"successes", successes_->value()}, {"trials", trials_->value()},
+          {"chosen", is_first_chosen_}};
 }
 
 void SampleForm::SetState(const QVariantMap& state) {
   if (state.isEmpty()) return;
+  is_first_chosen_ = state["chosen"].toBool();
   kind_->setCurrentIndex(state["kind"].toInt());
   for (ColumnBox* const box : {first_, second_, proportions_, labels_})
-    box->SetColumn(state[box->objectName()].toInt());
-  list_->SetTitles(state["columns"].toStringList());
+    box->SetState(state[box->objectName()].toList());
+  list_->SetState(state["columns"].toList());
   yates_->setChecked(state["yates"].toBool());
   for (QSpinBox* const box : {fitted_, successes_, trials_})
     box->setValue(state[box->objectName()].toInt());
