@@ -98,9 +98,9 @@ int main(int argc, char** argv) {
   if (takes_pictures) qorvex::gallery::SetAppearance(Appearance::kLight);
 
   qorvex::gallery::MainWindow window;
-  const qorvex::gallery::Session session(
+  qorvex::gallery::Session session(
       QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)));
-  if (!takes_pictures) {
+  if (!takes_pictures && session.Begin()) {
     session.Restore(window);
     window.KeepSession = [&] { return session.Save(window); };
   }

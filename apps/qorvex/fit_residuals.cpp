@@ -8,6 +8,7 @@
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/fit_model.h"
+#include "apps/qorvex/interrupt_hold.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/text.h"
 
@@ -47,6 +48,7 @@ void WriteResiduals(const FitColumns& columns, const LinearFit& fit,
   const auto require = [&name](bool done) {
     if (!done) throw std::system_error(errno, std::generic_category(), name);
   };
+  const InterruptHold hold;
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(name.c_str(), "wb"),
                                                              std::fclose);
   require(file != nullptr);

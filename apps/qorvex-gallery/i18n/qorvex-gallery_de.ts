@@ -1458,10 +1458,6 @@
         <translation>größer</translation>
     </message>
     <message>
-        <source>Number:</source>
-        <translation>Zahl:</translation>
-    </message>
-    <message>
         <source>Distribution:</source>
         <translation>Verteilung:</translation>
     </message>

@@ -178,6 +178,12 @@ TEST_F(MatrixPageTest, KeepsItsStateAndOpensFiles) {
   other.SetState(page.State());
   EXPECT_EQ(other.findChild<MatrixPanel*>("a")->Matrix(), a->Matrix());
   EXPECT_TRUE(other.findChild<QRadioButton*>("product")->isChecked());
+  // Nulls and infinities are kept, too.
+  b->Replace({{kNaN}, {-kInfinity}});
+  other.SetState(page.State());
+  const TQorFloatMatrix kept = other.findChild<MatrixPanel*>("b")->Matrix();
+  EXPECT_TRUE(std::isnan(kept[0][0]));
+  EXPECT_EQ(kept[1][0], -kInfinity);
   EXPECT_EQ(page.Report().parts.size(), 4);
 }
 
