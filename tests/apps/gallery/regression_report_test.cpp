@@ -37,16 +37,5 @@ TEST(RegressionReport, DrawsTheResidualsOfTheFit) {
   expect_residuals(LinearModel(2));
 }
 
-TEST(RegressionReport, DrawsACurveWhoseEndsAreTooFarApart) {
-  RegressionData data;
-  data.predictors = {{"x", {-1e4932L, 0, 1e4932L}}};
-  data.response = {"y", {1, 2, 3}};
-  const std::vector<PlotLayer> layers = RegressionReport(data).Curve();
-  ASSERT_EQ(layers.size(), 4U);
-  EXPECT_DOUBLE_EQ(layers[2].points.front().y(), 1);
-  EXPECT_DOUBLE_EQ(layers[2].points[60].y(), 2);
-  EXPECT_DOUBLE_EQ(layers[2].points.back().y(), 3);
-}
-
 }  // namespace
 }  // namespace qorvex::gallery
