@@ -59,6 +59,7 @@ class ColumnCollector {
 
   [[nodiscard]] bool HasLabels() const { return columns_.back().role == ColumnRole::kLabels; }
   [[nodiscard]] bool LacksAValue(Cells cells) const;
+  [[nodiscard]] bool NeedsValueIn(const TableColumn& column) const;
   void AddCell(std::string_view cell, std::size_t index, const RowScanner& rows);
   void AddNumber(std::string_view cell, TableColumn& column, const CellPlace& place);
   void AddFirstCells(std::span<const FirstCells> following);
@@ -74,12 +75,17 @@ class ColumnCollector {
   // Whether a cell that is a number is nothing else.
   bool takes_numbers_directly_ = false;
   bool may_skip_rows_ = false;
+  bool keeps_gaps_ = false;
   std::size_t first_line_;
   std::size_t width_;
   std::vector<std::string> header_;
   std::vector<TableColumn> columns_;
   // By column; empty if columns were chosen.
   std::vector<FirstCells> first_cells_;
+  // Those that were not skipped.
+  std::size_t rows_ = 0;
+  // As in Table.
+  std::vector<std::size_t> skipped_rows_;
   bool has_rows_ = false;
   // After the last row.
   std::size_t blank_lines_ = 0;

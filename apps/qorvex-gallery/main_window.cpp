@@ -44,7 +44,7 @@ MainWindow::MainWindow(QWidget* parent)
       data_(new DataPage(sheet_)),
       recent_(new RecentFiles(this)),
       appearances_(new QActionGroup(this)),
-      rest_(new QTimer(this)) {
+      keep_soon_(new QTimer(this)) {
   setAcceptDrops(true);
   pages_->setDocumentMode(true);
   pages_->setAccessibleName(tr("Pages"));
@@ -53,7 +53,10 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
   AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
-  AddPage(new TestPage(sheet_), "tests", tr("Tests"));
+  auto* const tests = new TestPage(sheet_);
+  AddPage(tests, "tests", tr("Tests"));
+  // After all pages have taken note of a new sheet.
+  connect(data_, &DataPage::ColumnShown, tests, &TestPage::SuggestColumn, Qt::QueuedConnection);
   setCentralWidget(pages_);
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));
@@ -61,11 +64,13 @@ MainWindow::MainWindow(QWidget* parent)
   MakeHelpMenu(*menuBar()->addMenu(tr("&Help")));
   connect(&data_->Document(), &SheetDocument::TitleChanged, this, &MainWindow::ShowTitle);
   connect(&sheet_, &Sheet::Changed, this, &MainWindow::ShowTitle);
-  constexpr std::chrono::seconds rest(20);
-  rest_->setSingleShot(true);
-  rest_->setInterval(rest);
-  connect(&sheet_, &Sheet::Changed, rest_, qOverload<>(&QTimer::start));
-  connect(rest_, &QTimer::timeout, this, [this] {
+  constexpr std::chrono::seconds delay(20);
+  keep_soon_->setSingleShot(true);
+  keep_soon_->setInterval(delay);
+  connect(&sheet_, &Sheet::Changed, this, [this] {
+    if (!keep_soon_->isActive()) keep_soon_->start();
+  });
+  connect(keep_soon_, &QTimer::timeout, this, [this] {
     if (KeepSession) static_cast<void>(KeepSession());
   });
   ShowTitle();

@@ -48,8 +48,8 @@ class MainWindow : public QMainWindow {
   /// @}
 
   /// Keeps what the user has done for the next start, unsaved changes included; called when the
-  /// window closes, and when the sheet has rested for a while after a change. If there is no such
-  /// function, or it returns false, closing the window asks about unsaved changes.
+  /// window closes, and some seconds after a change of the sheet. If there is no such function, or
+  /// it returns false, closing the window asks about unsaved changes.
   std::function<bool()> KeepSession;
 
  protected:
@@ -72,7 +72,7 @@ class MainWindow : public QMainWindow {
   DataPage* data_;
   RecentFiles* recent_;
   QActionGroup* appearances_;
-  QTimer* rest_;
+  QTimer* keep_soon_;
   // Made when it is needed first.
   HelpWindow* help_ = nullptr;
 };

@@ -1,6 +1,8 @@
 #include "apps/qorvex-gallery/session.h"
 
+#include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QMap>
 #include <QSaveFile>
 #include <QSettings>
@@ -43,13 +45,18 @@ apps::TableFormat FormatIn(const QSettings& settings) {
   return format;
 }
 
+bool IsWritten(QSettings& settings) {
+  settings.sync();
+  return settings.status() == QSettings::NoError;
+}
+
 bool SaveCopy(const SheetData& sheet, const QString& file) {
   QSaveFile out(file);
   if (!out.open(QIODevice::WriteOnly)) return false;
   const auto write = [&out](std::string_view text) {
     out.write(text.data(), static_cast<qsizetype>(text.size()));
   };
-  WriteSheet(sheet, kDelimiter, write, WriteNames::kAlways);
+  WriteSheet(sheet, {.delimiter = kDelimiter, .has_names = true}, write);
   return out.commit();
 }
 
@@ -71,11 +78,24 @@ void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument&
     sheet.SetChanged();
     document.Restore(std::move(sheet), path, settings.value("title").toString());
   } catch (const apps::InputError& error) {
-    Q_EMIT document.Message(ErrorText(error));
+    const QString name = QDateTime::currentDateTime().toString("'unsaved'-yyyyMMdd-hhmmss'.csv'");
+    const QString aside = QFileInfo(copy).dir().filePath(name);
+    const bool is_kept = QFile::rename(copy, aside);
+    Q_EMIT document.Message(is_kept ? QStringLiteral("%1 (%2)").arg(ErrorText(error), aside)
+                                    : ErrorText(error));
   }
 }
 
 }  // namespace
+
+Session::Session(const QDir& folder) : folder_(folder), lock_(folder.filePath("session.lock")) {
+  // A program may run for days.
+  lock_.setStaleLockTime(0);
+}
+
+bool Session::Begin() {
+  return folder_.mkpath(".") && lock_.tryLock();
+}
 
 void Session::Restore(MainWindow& window) const {
   QSettings settings(Settings(), QSettings::IniFormat);
@@ -109,7 +129,6 @@ void Session::Restore(MainWindow& window) const {
 bool Session::Save(const MainWindow& window) const {
   const SheetDocument& document = window.Data().Document();
   const SheetData& sheet = window.Table().Data();
-  if (!folder_.mkpath(".")) return false;
   const bool has_copy = sheet.IsChanged() && sheet.Columns() > 0;
   if (has_copy && !SaveCopy(sheet, Copy())) return false;
   QSettings settings(Settings(), QSettings::IniFormat);
@@ -117,6 +136,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.setValue("window/appearance", static_cast<int>(window.ChosenAppearance()));
   settings.setValue("files/recent", window.Recent().Files());
   settings.setValue("files/folder", document.Folder());
+  if (window.Data().IsReading() && !sheet.IsChanged()) return IsWritten(settings);
   settings.beginGroup("sheet");
   settings.setValue("path", document.Path());
   settings.setValue("title", document.Title());
@@ -130,8 +150,7 @@ bool Session::Save(const MainWindow& window) const {
     settings.setValue(page.objectName(), page.State());
   }
   settings.setValue("current", pages.currentWidget()->objectName());
-  settings.sync();
-  if (settings.status() != QSettings::NoError) return false;
+  if (!IsWritten(settings)) return false;
   if (!has_copy) QFile::remove(Copy());
   return true;
 }

@@ -2,7 +2,9 @@
 
 #include <QLocale>
 #include <QTimer>
+#include <algorithm>
 #include <limits>
+#include <numeric>
 #include <unordered_map>
 #include <utility>
 
@@ -55,6 +57,24 @@ QString Sheet::Title(int column) const {
 
 bool Sheet::IsNumeric(int column) const {
   return data_.IsNumeric(Index(column));
+}
+
+int Sheet::ColumnWith(int id) const {
+  const auto found = std::ranges::find(ids_, id);
+  return found == ids_.end() ? -1 : static_cast<int>(found - ids_.begin());
+}
+
+int Sheet::FindColumn(const QString& title, int column) const {
+  if (column >= 0 && column < columnCount() && Title(column) == title) return column;
+  for (int other = 0; other < columnCount(); ++other)
+    if (Title(other) == title) return other;
+  return -1;
+}
+
+void Sheet::InsertIds(int column, std::size_t count) {
+  const auto first = ids_.insert(ids_.begin() + column, count, 0);
+  std::iota(first, first + static_cast<std::ptrdiff_t>(count), next_id_);
+  next_id_ += static_cast<int>(count);
 }
 
 TQorFloatVector Sheet::Numbers(int column) const {
@@ -113,6 +133,8 @@ void Sheet::SetData(SheetData data) {
   beginResetModel();
   data_ = std::move(data);
   numbers_.assign(data_.Columns(), std::nullopt);
+  ids_.clear();
+  InsertIds(0, data_.Columns());
   endResetModel();
   Q_EMIT Changed();
 }
@@ -241,8 +263,10 @@ void Sheet::ChangeLines(const SheetData::Lines& lines, const std::function<void(
     const auto at = numbers_.begin() + first;
     if (lines.were_inserted) {
       numbers_.insert(at, lines.count, std::nullopt);
+      InsertIds(first, lines.count);
     } else {
       numbers_.erase(at, numbers_.begin() + last + 1);
+      ids_.erase(ids_.begin() + first, ids_.begin() + last + 1);
     }
     lines.were_inserted ? endInsertColumns() : endRemoveColumns();
   }

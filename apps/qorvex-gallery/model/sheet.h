@@ -42,6 +42,14 @@ class Sheet : public QAbstractTableModel {
   /// The name of a column, or "Column 3" for one without.
   [[nodiscard]] QString Title(int column) const;
   [[nodiscard]] bool IsNumeric(int column) const;
+  /// @{
+  /// A number that stays with a column wherever it goes, and the column of such a number: -1 if it
+  /// is no longer there. The columns of another table have other numbers.
+  [[nodiscard]] int ColumnId(int column) const { return ids_[static_cast<std::size_t>(column)]; }
+  [[nodiscard]] int ColumnWith(int id) const;
+  /// @}
+  /// A column of this name: the given one if it has it, otherwise the first; -1 for none.
+  [[nodiscard]] int FindColumn(const QString& title, int column) const;
   /// The numbers of a column, one for each row; NaN for missing cells and for text. The vector
   /// shares its memory with the sheet, which never changes it. O(1) unless the column has changed.
   [[nodiscard]] TQorFloatVector Numbers(int column) const;
@@ -97,6 +105,8 @@ class Sheet : public QAbstractTableModel {
  private:
   // Does something to rows or columns between the signals that announce and report it.
   void ChangeLines(const SheetData::Lines& lines, const std::function<void()>& change);
+  // Gives the new columns their numbers.
+  void InsertIds(int column, std::size_t count);
   void ChangedSoon();
   // The text for a cell, as this table writes it.
   [[nodiscard]] std::string TextFor(const QVariant& value) const;
@@ -105,6 +115,8 @@ class Sheet : public QAbstractTableModel {
   SheetData data_;
   // By column, once they have been asked for.
   mutable std::vector<std::optional<TQorFloatVector>> numbers_;
+  std::vector<int> ids_;
+  int next_id_ = 0;
   bool change_is_due_ = false;
 };
 

@@ -5,11 +5,14 @@
 #include <vector>
 
 #include "apps/common/cells.h"
+#include "apps/common/format_finder.h"
 #include "apps/common/row_reader.h"
 
 namespace qorvex::gallery {
 
 namespace {
+
+constexpr std::string_view kMark = "\xEF\xBB\xBF";
 
 // Whether a reader would take the cell apart, or not know it as one when it looks for the
 // delimiter.
@@ -52,15 +55,25 @@ SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std:
   return sheet;
 }
 
-void WriteSheet(const SheetData& sheet, char delimiter,
-                const std::function<void(std::string_view text)>& write, WriteNames names) {
+SheetFileForm FormOf(std::string_view start) {
+  SheetFileForm form;
+  form.has_mark = start.starts_with(kMark);
+  if (form.has_mark) start.remove_prefix(kMark.size());
+  form.has_delimiter_line = apps::FindDelimiterLine(start).has_value();
+  form.has_crlf = start.substr(0, start.find('\n')).ends_with('\r');
+  return form;
+}
+
+void WriteSheet(const SheetData& sheet, SheetFileForm form,
+                const std::function<void(std::string_view text)>& write) {
+  const std::string_view line_end = form.has_crlf ? "\r\n" : "\n";
   std::string line;
   const auto write_row = [&](const auto& cell) {
     line.clear();
     for (std::size_t column = 0; column < sheet.Columns(); ++column) {
-      if (column > 0) line += delimiter;
+      if (column > 0) line += form.delimiter;
       const std::string_view text = cell(column);
-      if (NeedsQuotes(text, delimiter, sheet)) {
+      if (NeedsQuotes(text, form.delimiter, sheet)) {
         AppendQuoted(line, text);
       } else {
         line += text;
@@ -68,12 +81,19 @@ void WriteSheet(const SheetData& sheet, char delimiter,
     }
     // A blank line at the end of the file would not be read as a row.
     if (line.empty()) line = "\"\"";
-    write(line += '\n');
+    write(line += line_end);
   };
   if (sheet.Columns() == 0) return;
-  if (names == WriteNames::kAlways || sheet.HasNames()) {
+  const bool has_names = form.has_names || sheet.HasNames();
+  if (form.has_mark) write(kMark);
+  // A first cell like that line would be taken for it.
+  const std::string_view first = has_names          ? sheet.Name(0)
+                                 : sheet.Rows() > 0 ? sheet.Cell(0, 0)
+                                                    : std::string_view();
+  if (form.has_delimiter_line || apps::FindDelimiterLine(first))
+    write(std::string("sep=") + form.delimiter + std::string(line_end));
+  if (has_names)
     write_row([&](std::size_t column) -> std::string_view { return sheet.Name(column); });
-  }
   for (std::size_t row = 0; row < sheet.Rows(); ++row)
     write_row([&](std::size_t column) { return sheet.Cell(row, column); });
 }

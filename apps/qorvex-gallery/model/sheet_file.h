@@ -18,13 +18,24 @@ namespace qorvex::gallery {
 [[nodiscard]] SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& format,
                                   std::size_t bytes = 0);
 
-/// Whether a file has a header.
-enum class WriteNames { kIfThereAreAny, kAlways };
+/// What a file of a sheet has besides the cells.
+struct SheetFileForm {
+  char delimiter = ',';
+  /// The byte order mark of UTF-8.
+  bool has_mark = false;
+  /// A first line that tells the delimiter, such as "sep=;".
+  bool has_delimiter_line = false;
+  /// Lines that end with CR LF instead of LF.
+  bool has_crlf = false;
+  /// A header even if no column has a name.
+  bool has_names = false;
+};
 
-/// Writes a sheet piece by piece as text: rows end with LF, cells are separated by the delimiter
-/// and quoted where necessary (RFC 4180).
-void WriteSheet(const SheetData& sheet, char delimiter,
-                const std::function<void(std::string_view text)>& write,
-                WriteNames names = WriteNames::kIfThereAreAny);
+/// The form of a file of UTF-8 that starts with this text; only the delimiter is not found.
+[[nodiscard]] SheetFileForm FormOf(std::string_view start);
+
+/// Writes a sheet piece by piece as text, with quotes where necessary (RFC 4180).
+void WriteSheet(const SheetData& sheet, SheetFileForm form,
+                const std::function<void(std::string_view text)>& write);
 
 }  // namespace qorvex::gallery

@@ -63,6 +63,8 @@ void DataPage::ConnectParts() {
   connect(&view_->Editor(), &CellPanel::OnTextRefused, this, &DataPage::Say);
   connect(view_, &SheetView::TablePasted, document_, &SheetDocument::ReadText);
   connect(view_, &SheetView::ColumnChosen, columns_, &ColumnBox::SetColumn);
+  connect(columns_, &ColumnBox::ColumnChanged, this,
+          [this] { Q_EMIT ColumnShown(columns_->Column()); });
   connect(&sheet_, &Sheet::Changed, this, &DataPage::Refresh);
   for (ColumnBox* const box : {columns_, groups_})
     connect(box, &ColumnBox::ColumnChanged, this, &DataPage::Refresh);
@@ -156,14 +158,13 @@ bool DataPage::IsReading() const {
 }
 
 QVariantMap DataPage::State() const {
-  return {{"column", columns_->currentText()},
-          {"groups", groups_->Column()},
-          {"report", report_->State()}};
+  return {
+      {"column", columns_->State()}, {"groups", groups_->State()}, {"report", report_->State()}};
 }
 
 void DataPage::SetState(const QVariantMap& state) {
-  ShowColumn(state.value("column").toString());
-  groups_->SetColumn(state.value("groups", -1).toInt());
+  columns_->SetState(state.value("column").toList());
+  groups_->SetState(state.value("groups").toList());
   report_->SetState(state.value("report").toMap());
 }
 

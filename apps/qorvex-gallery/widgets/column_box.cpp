@@ -2,7 +2,6 @@
 
 #include <QSignalBlocker>
 #include <algorithm>
-#include <utility>
 
 #include "apps/qorvex-gallery/model/sheet.h"
 
@@ -22,10 +21,11 @@ ColumnBox::ColumnBox(const Sheet& sheet, Columns columns, const QString& none, Q
   setMinimumWidth(kNarrowest * fontMetrics().averageCharWidth());
   setMaximumWidth(kWidest * fontMetrics().averageCharWidth());
   connect(this, &QComboBox::currentIndexChanged, this, [this] {
-    const int column = Column();
-    title_ = column < 0 ? QString() : sheet_.Title(column);
-    if (std::exchange(column_, column) != column) Q_EMIT ColumnChanged();
+    const int before = id_;
+    Remember();
+    if (id_ != before) Q_EMIT ColumnChanged();
   });
+  connect(&sheet_, &Sheet::modelReset, this, &ColumnBox::FindAgain);
   connect(&sheet_, &Sheet::Changed, this, &ColumnBox::Fill);
   Fill();
 }
@@ -33,31 +33,44 @@ ColumnBox::ColumnBox(const Sheet& sheet, Columns columns, const QString& none, Q
 ColumnBox::~ColumnBox() = default;
 
 int ColumnBox::Column() const {
-  return currentIndex() < 0 ? -1 : currentData().toInt();
+  return sheet_.ColumnWith(id_);
 }
 
 void ColumnBox::SetColumn(int column) {
-  const int index = findData(column);
+  const int index = findData(IdOf(column));
   if (index >= 0) setCurrentIndex(index);
 }
 
+void ColumnBox::SetState(const QVariantList& state) {
+  SetColumn(sheet_.FindColumn(state.value(1).toString(), state.value(0).toInt()));
+}
+
+int ColumnBox::IdOf(int column) const {
+  return column >= 0 && column < sheet_.columnCount() ? sheet_.ColumnId(column) : kNoId;
+}
+
+void ColumnBox::FindAgain() {
+  if (Column() < 0) id_ = IdOf(sheet_.FindColumn(title_, column_));
+}
+
 void ColumnBox::Fill() {
-  const QString title = title_;
-  const int before = column_;
-  {
-    const QSignalBlocker blocker(this);
-    clear();
-    if (!none_.isEmpty()) addItem(none_, -1);
-    for (int column = 0; column < sheet_.columnCount(); ++column)
-      if (columns_ == kAll || sheet_.IsNumeric(column)) addItem(sheet_.Title(column), column);
-    const int named =
-        title.isEmpty() ? -1 : findText(title, Qt::MatchExactly | Qt::MatchCaseSensitive);
-    const int otherwise = none_.isEmpty() ? findData(before) : 0;
-    setCurrentIndex(named >= 0 ? named : std::max(otherwise, std::min(count() - 1, 0)));
+  const QSignalBlocker blocker(this);
+  clear();
+  if (!none_.isEmpty()) addItem(none_, kNoId);
+  for (int column = 0; column < sheet_.columnCount(); ++column) {
+    if (columns_ == kAll || sheet_.IsNumeric(column))
+      addItem(sheet_.Title(column), sheet_.ColumnId(column));
   }
+  int index = findData(id_);
+  if (index < 0 && none_.isEmpty()) index = findData(IdOf(column_));
+  setCurrentIndex(std::max(index, std::min(count() - 1, 0)));
+  Remember();
+}
+
+void ColumnBox::Remember() {
+  id_ = currentIndex() < 0 ? kNoId : currentData().toInt();
   column_ = Column();
   title_ = column_ < 0 ? QString() : sheet_.Title(column_);
-  if (column_ != before || title_ != title) Q_EMIT ColumnChanged();
 }
 
 }  // namespace qorvex::gallery

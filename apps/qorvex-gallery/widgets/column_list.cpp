@@ -2,7 +2,6 @@
 
 #include <QSignalBlocker>
 #include <algorithm>
-#include <utility>
 
 #include "apps/qorvex-gallery/model/sheet.h"
 
@@ -10,92 +9,78 @@ namespace qorvex::gallery {
 
 namespace {
 
-constexpr int kColumnRole = Qt::UserRole;
+constexpr int kIdRole = Qt::UserRole;
+constexpr int kColumnRole = Qt::UserRole + 1;
 
 }  // namespace
 
 ColumnList::ColumnList(const Sheet& sheet, QWidget* parent) : QListWidget(parent), sheet_(sheet) {
-  connect(this, &QListWidget::itemChanged, this, &ColumnList::TakeTicks);
-  connect(&sheet, &Sheet::columnsInserted, this,
-          [this](const QModelIndex&, int first, int last) { Insert(first, last - first + 1); });
-  connect(&sheet, &Sheet::columnsRemoved, this,
-          [this](const QModelIndex&, int first, int last) { Remove(first, last - first + 1); });
-  connect(&sheet, &Sheet::modelReset, this, [this] {
-    if (!replaced_) replaced_ = Titles();
-    ticked_.clear();
-  });
-  connect(&sheet, &Sheet::Changed, this, &ColumnList::Follow);
-  Fill();
+  connect(this, &QListWidget::itemChanged, this, &ColumnList::ColumnsChanged);
+  connect(&sheet, &Sheet::modelReset, this, &ColumnList::FindAgain);
+  connect(&sheet, &Sheet::Changed, this, [this] { Fill(Columns()); });
+  Fill({});
 }
 
 ColumnList::~ColumnList() = default;
 
-void ColumnList::Insert(int first, int count) {
-  for (int& column : ticked_)
-    if (column >= first) column += count;
+void ColumnList::FindAgain() {
+  std::vector<int> found;
+  for (const QListWidgetItem* const item : Ticked()) {
+    const int column = sheet_.ColumnWith(item->data(kIdRole).toInt());
+    found.push_back(column >= 0 ? column
+                                : sheet_.FindColumn(item->text(), item->data(kColumnRole).toInt()));
+  }
+  Fill(found);
 }
 
-void ColumnList::Remove(int first, int count) {
-  std::erase_if(ticked_, [=](int column) { return column >= first && column < first + count; });
-  for (int& column : ticked_)
-    if (column >= first) column -= count;
-}
-
-void ColumnList::Follow() {
-  const std::vector<int> before = ticked_;
-  if (replaced_) Tick(*std::exchange(replaced_, std::nullopt));
-  Fill();
-  if (ticked_ != before) Q_EMIT ColumnsChanged();
-}
-
-void ColumnList::Tick(const QStringList& titles) {
-  ticked_.clear();
-  QStringList wanted = titles;
-  for (int column = 0; column < sheet_.columnCount(); ++column)
-    if (wanted.removeOne(sheet_.Title(column))) ticked_.push_back(column);
-}
-
-// Columns that have become text are no longer ticked.
-void ColumnList::Fill() {
+void ColumnList::Fill(const std::vector<int>& ticked) {
   const QSignalBlocker blocker(this);
   const int current = currentRow();
   clear();
-  std::erase_if(ticked_, [this](int column) {
-    return column >= sheet_.columnCount() || !sheet_.IsNumeric(column);
-  });
   for (int column = 0; column < sheet_.columnCount(); ++column) {
     if (!sheet_.IsNumeric(column)) continue;
     auto* const item = new QListWidgetItem(sheet_.Title(column), this);
+    item->setData(kIdRole, sheet_.ColumnId(column));
     item->setData(kColumnRole, column);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    const bool is_ticked = std::ranges::find(ticked_, column) != ticked_.end();
+    const bool is_ticked = std::ranges::find(ticked, column) != ticked.end();
     item->setCheckState(is_ticked ? Qt::Checked : Qt::Unchecked);
   }
   setCurrentRow(qBound(0, current, count() - 1));
 }
 
-void ColumnList::TakeTicks() {
-  ticked_.clear();
-  for (int row = 0; row < count(); ++row) {
-    if (item(row)->checkState() == Qt::Checked)
-      ticked_.push_back(item(row)->data(kColumnRole).toInt());
-  }
-  Q_EMIT ColumnsChanged();
-}
-
-// From the items: after a reset, the sheet has other names.
-QStringList ColumnList::Titles() const {
-  QStringList titles;
+QList<const QListWidgetItem*> ColumnList::Ticked() const {
+  QList<const QListWidgetItem*> items;
   for (int row = 0; row < count(); ++row)
-    if (item(row)->checkState() == Qt::Checked) titles += item(row)->text();
-  return titles;
+    if (item(row)->checkState() == Qt::Checked) items.append(item(row));
+  return items;
 }
 
-void ColumnList::SetTitles(const QStringList& titles) {
-  replaced_.reset();
-  Tick(titles);
-  Fill();
+std::vector<int> ColumnList::Columns() const {
+  std::vector<int> columns;
+  for (const QListWidgetItem* const item : Ticked()) {
+    const int column = sheet_.ColumnWith(item->data(kIdRole).toInt());
+    if (column >= 0) columns.push_back(column);
+  }
+  return columns;
+}
+
+void ColumnList::SetColumns(const std::vector<int>& columns) {
+  Fill(columns);
   Q_EMIT ColumnsChanged();
+}
+
+QVariantList ColumnList::State() const {
+  QVariantList state;
+  for (const int column : Columns()) state += {column, sheet_.Title(column)};
+  return state;
+}
+
+void ColumnList::SetState(const QVariantList& state) {
+  std::vector<int> columns;
+  for (qsizetype i = 0; i + 1 < state.size(); i += 2)
+    columns.push_back(sheet_.FindColumn(state[i + 1].toString(), state[i].toInt()));
+  SetColumns(columns);
 }
 
 }  // namespace qorvex::gallery

@@ -4,8 +4,7 @@
 /// ColumnList, the choice of several columns of the sheet.
 
 #include <QListWidget>
-#include <QStringList>
-#include <optional>
+#include <QVariantList>
 #include <vector>
 
 namespace qorvex::gallery {
@@ -13,8 +12,7 @@ namespace qorvex::gallery {
 class Sheet;
 
 /// A list of the numeric columns of a sheet with a box to tick at each, which follows the sheet:
-/// columns stay ticked when others are inserted or deleted and when they get other names. In
-/// another table, columns of the same names are ticked.
+/// columns stay ticked wherever they go, and in another table those of the same names.
 class ColumnList : public QListWidget {
   Q_OBJECT
 
@@ -23,32 +21,29 @@ class ColumnList : public QListWidget {
   explicit ColumnList(const Sheet& sheet, QWidget* parent = nullptr);
   ~ColumnList() override;
 
-  /// The ticked columns of the sheet, in its order.
-  [[nodiscard]] const std::vector<int>& Columns() const { return ticked_; }
   /// @{
-  /// The names of the ticked columns; each stands for one column. Names that the sheet does not
-  /// have are left out.
-  [[nodiscard]] QStringList Titles() const;
-  void SetTitles(const QStringList& titles);
+  /// The ticked columns of the sheet, in its order.
+  [[nodiscard]] std::vector<int> Columns() const;
+  void SetColumns(const std::vector<int>& columns);
+  /// @}
+  /// @{
+  /// The ticked columns with their names, by which they are found again in another run of the
+  /// program. Those that the sheet does not have are left out.
+  [[nodiscard]] QVariantList State() const;
+  void SetState(const QVariantList& state);
   /// @}
 
  Q_SIGNALS:
-  /// Other columns are ticked, by the user or because the sheet has changed. Changed cells do not
-  /// count: see Sheet::Changed.
+  /// Other columns are ticked. A change of the sheet does not count: see Sheet::Changed, at which
+  /// the list has followed.
   void ColumnsChanged();
 
  private:
-  void Insert(int first, int count);
-  void Remove(int first, int count);
-  void Follow();
-  void TakeTicks();
-  void Tick(const QStringList& titles);
-  void Fill();
+  [[nodiscard]] QList<const QListWidgetItem*> Ticked() const;
+  void FindAgain();
+  void Fill(const std::vector<int>& ticked);
 
   const Sheet& sheet_;
-  std::vector<int> ticked_;
-  // The names of the ticked columns of a table that has been replaced.
-  std::optional<QStringList> replaced_;
 };
 
 }  // namespace qorvex::gallery

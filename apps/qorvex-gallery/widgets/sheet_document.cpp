@@ -25,17 +25,15 @@ bool IsFile(const QString& path) {
   return !path.isEmpty() && !path.startsWith(u':');
 }
 
-// The format in which a table is written to a file: by its suffix, otherwise as it was read.
-apps::TableFormat FormatFor(const QString& file, apps::TableFormat format) {
+// The delimiter of another file than the one that was read.
+char DelimiterFor(const QString& file, const apps::TableFormat& format) {
   const QString suffix = QFileInfo(file).suffix().toLower();
-  format.delimiter = format.delimiter.value_or(',');
   if (suffix == QLatin1String("tsv") || suffix == QLatin1String("tab")) {
-    format.delimiter = '\t';
-  } else if (suffix == QLatin1String("csv") && format.delimiter != ';') {
-    format.delimiter = format.decimal_sign == ',' ? ';' : ',';
+    return '\t';
   }
-  format.encoding = apps::Encoding::kUtf8;
-  return format;
+  if (suffix == QLatin1String("csv") && format.delimiter != ';')
+    return format.decimal_sign == ',' ? ';' : ',';
+  return format.delimiter.value_or(',');
 }
 
 // Spreadsheets write tabs between cells, and the numbers of the locale.
@@ -180,10 +178,13 @@ bool SheetDocument::SaveAs() {
 bool SheetDocument::SaveTo(const QString& file) {
   CommitText();
   const apps::TableFormat before = sheet_.Data().Format();
-  const apps::TableFormat format = FormatFor(file, before);
+  const bool is_same = file == path_;
+  SheetFileForm form;
+  if (is_same) form = FormOf(FirstLines(file).toStdString());
+  form.delimiter = is_same && before.delimiter ? *before.delimiter : DelimiterFor(file, before);
   QSaveFile out(file);
   if (out.open(QIODevice::WriteOnly)) {
-    WriteSheet(sheet_.Data(), *format.delimiter, [&out](std::string_view text) {
+    WriteSheet(sheet_.Data(), form, [&out](std::string_view text) {
       out.write(text.data(), static_cast<qsizetype>(text.size()));
     });
   }
@@ -192,6 +193,9 @@ bool SheetDocument::SaveTo(const QString& file) {
     Q_EMIT Message(QStringLiteral("%1: %2").arg(name, out.errorString()));
     return false;
   }
+  apps::TableFormat format = before;
+  format.delimiter = form.delimiter;
+  format.encoding = apps::Encoding::kUtf8;
   sheet_.SetSaved(format);
   SetSource(file, name);
   Q_EMIT FileUsed(file);

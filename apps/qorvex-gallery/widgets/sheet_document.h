@@ -20,8 +20,9 @@ class TableLoader;
 /// Opens and saves the sheet, with the dialogs for that. Large files are read in the background;
 /// until then the sheet stays as it is. Changes are never discarded without asking.
 ///
-/// A file is saved as it was written: with its delimiter, its decimal sign and the text of
-/// unchanged cells, always as UTF-8.
+/// A file is saved as it was written: with its delimiter, its decimal sign, its line ends, the text
+/// of unchanged cells and, of UTF-8, its mark; always as UTF-8. The suffix of another file decides
+/// about its delimiter.
 class SheetDocument : public QObject {
   Q_OBJECT
 

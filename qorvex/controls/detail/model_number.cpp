@@ -80,7 +80,8 @@ bool HoldsText(const QVariant& item) {
 }
 
 QVariant ItemOfText(const QString& text, const QVariant& held, const QLocale& locale) {
-  if (FindType(held) == nullptr) return text;
+  if (FindType(held) == nullptr || held.metaType() == QMetaType::fromType<long double>())
+    return text;
   const std::optional<Extended> number = NumberOf(text, locale);
   return number ? ItemOf(*number, held) : text;
 }

@@ -19,7 +19,7 @@ namespace qorvex::inline QorvexControls::detail {
                                                              const QLocale& locale);
 
 /// A text for an item to hold: the number that NumberOf reads from it if the item holds a type of
-/// numbers, as ItemOf writes that.
+/// numbers, as ItemOf writes that. A model with long doubles takes texts as well.
 [[nodiscard]] QORVEX_EXPORT QVariant ItemOfText(const QString& text, const QVariant& held,
                                                 const QLocale& locale);
 

@@ -157,8 +157,8 @@ class QORVEX_EXPORT CellPanel : public TQorCustomPanel, public CellProperties {
   /// @{
   /// Whether the items of a model may be texts; false by default. A text that an item holds is then
   /// shown as it is, and a typed or pasted text that is not a number is written as it is; so are
-  /// plain numbers that would be written in another way, such as 007, to items that hold no number.
-  /// Element() and the like take a text for null.
+  /// plain numbers that would be written in another way, such as 007, to items that hold no number
+  /// or a long double. Element() and the like take a text for null.
   [[nodiscard]] bool TextItems() const noexcept;
   void setTextItems(bool on);
   /// @}

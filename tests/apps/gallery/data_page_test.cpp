@@ -21,6 +21,7 @@
 #include "apps/gallery/page_fixture.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
+#include "apps/qorvex-gallery/widgets/column_box.h"
 #include "apps/qorvex-gallery/widgets/format_dialog.h"
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 #include "apps/qorvex-gallery/widgets/sheet_view.h"
@@ -147,6 +148,55 @@ TEST_F(DataPageTest, DescribesTheColumnOfTheCursorAndItsGroups) {
   EXPECT_EQ(groups.Element(1, 1), 30);
 }
 
+TEST_F(DataPageTest, FollowsItsColumnsWhenTheSheetChanges) {
+  Open("three.csv", "a,b,c\n1,2,7\n3,4,8\n5,7,1\n");
+  auto& column = Find<ColumnBox>("column");
+  auto& groups = Find<ColumnBox>("group");
+  auto& kind = Find<QComboBox>("plotKind");
+  column.SetColumn(1);
+  groups.SetColumn(2);
+  Find<ColumnBox>("plotOther").SetColumn(2);
+  // The box plot shows the groups, the scatter plot the other column.
+  for (const int plot : {1, 5}) {
+    kind.setCurrentIndex(plot);
+    sheet.removeColumns(1, 2);
+    QApplication::processEvents();
+    EXPECT_EQ(groups.Column(), -1);
+    EXPECT_EQ(Mean(), "3");
+    Undo();
+    column.SetColumn(1);
+    groups.SetColumn(2);
+  }
+  Open("one.csv", "a\n1\n2\n");
+  EXPECT_EQ(Mean(), "1.5");
+
+  // Names that two columns share, and columns without names.
+  Open("twice.csv", "x,y,x\n1,2,10\n3,4,20\n");
+  column.SetColumn(2);
+  groups.SetColumn(0);
+  const QVariantMap state = page.State();
+  TypeInto(0, 1, "9\r");
+  column.SetColumn(2);
+  QApplication::processEvents();
+  sheet.setData(sheet.index(1, 1), 5.0);
+  QApplication::processEvents();
+  EXPECT_EQ(Mean(), "15");
+  sheet.insertColumns(0, 1);
+  QApplication::processEvents();
+  EXPECT_EQ(Mean(), "15");
+  EXPECT_EQ(groups.Column(), 1);
+  sheet.UndoLines();
+  column.SetColumn(1);
+  page.SetState(state);
+  EXPECT_EQ(Mean(), "15");
+  ExpectQuestion(QMessageBox::Discard);
+  Open("unnamed.csv", "1,2,10\n3,4,20\n");
+  column.SetColumn(1);
+  sheet.removeColumns(0, 1);
+  QApplication::processEvents();
+  EXPECT_EQ(Mean(), "3");
+}
+
 TEST_F(DataPageTest, GrowsFromNothing) {
   TypeInto(0, 0, "2\r4\rx\r");
   EXPECT_EQ(editor.NoOfRows(), 3U);
@@ -184,6 +234,15 @@ TEST_F(DataPageTest, TakesAPastedTableWithItsNames) {
   EXPECT_EQ(editor.ColHeading(1), "size");
   EXPECT_EQ(Mean(), "1.5");
   EXPECT_TRUE(sheet.IsChanged());
+  // Digits that a number would not have stay, also over numbers.
+  Open("digits.csv", "a,b\n1.50,2\n3,4\n");
+  EXPECT_TRUE(editor.PasteBlock("007\t12345678901234567890123\n1.500\t0.10\n"));
+  EXPECT_EQ(sheet.Labels(0), QStringList({"007", "1.500"}));
+  EXPECT_EQ(sheet.Labels(1), QStringList({"12345678901234567890123", "0.10"}));
+  EXPECT_EQ(At(0, 0), 7);
+  editor.Undo();
+  EXPECT_EQ(sheet.Labels(0), QStringList({"1.50", "3"}));
+  EXPECT_FALSE(sheet.IsChanged());
   // A column of a German spreadsheet.
   QLocale::setDefault(QLocale::German);
   document.ReadText("1,5\n2,5\n");
@@ -219,6 +278,17 @@ TEST_F(DataPageTest, SavesAFileAsItWasWritten) {
   EXPECT_TRUE(document.Save());
   EXPECT_EQ(Read("two.csv"), "name;a;b\n\"x, y\";10;2\nz;3.50;0.1\n");
   EXPECT_FALSE(sheet.IsChanged());
+  // With its mark, the line that tells the delimiter, line ends, and in spite of its suffix.
+  for (const auto& [name, text] :
+       {std::pair("mark.csv", "\xEF\xBB\xBFsep=;\r\nn\xC3\xA4me;b\r\n\"1,50\";\"x y\"\r\n"),
+        {"tabs.csv", "a\tb\r\n1.50\t2\r\n"},
+        {"commas.tsv", "a,b\n1.50,2\n"}}) {
+    Open(name, text);
+    EXPECT_TRUE(document.Save());
+    EXPECT_EQ(Read(name), text) << name;
+  }
+  document.Open(file);
+  QApplication::processEvents();
   EXPECT_TRUE(document.SaveTo(folder.filePath("out.tsv")));
   EXPECT_EQ(Read("out.tsv"), "name\ta\tb\n\"x, y\"\t10\t2\nz\t3.50\t0.1\n");
   EXPECT_EQ(document.Title(), "out.tsv");

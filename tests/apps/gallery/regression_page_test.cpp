@@ -109,6 +109,9 @@ TEST_F(RegressionPageTest, SaysWhyThereIsNoCurve) {
   EXPECT_EQ(Row("coefficients", "x", 5), "0.5 — — — —");
   Paste("1\t1e4000\n2\t2\n3\t3\n4\t4");
   EXPECT_TRUE(QString::fromStdString(Message()).startsWith("The values are too large"));
+  // Their range times the number of points of the curve would be beyond it, too.
+  Paste("1e4900\t2\n-1e4900\t3\n1e4932\t4");
+  EXPECT_EQ(Message(), "");
   Click("clear");
   QApplication::processEvents();
   EXPECT_EQ(Figure("coefficients", "Constant"), "—");
@@ -170,7 +173,7 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   EXPECT_EQ(predictors.count(), 3);
   EXPECT_EQ(Message(), "Tick one or more predictors.");
   response.SetColumn(3);
-  predictors.SetTitles({"length", "width"});
+  predictors.SetColumns({1, 2});
   settle();
   EXPECT_EQ(Message(), "");
   EXPECT_TRUE(HasRemark("without 1 incomplete row"));
@@ -180,7 +183,7 @@ TEST_F(RegressionPageTest, TakesColumnsOfTheSheet) {
   QTest::keyClick(&predictors, Qt::Key_Space);
   settle();
   EXPECT_EQ(Message(), "weight is the response and a predictor.");
-  predictors.SetTitles({"length"});
+  predictors.SetColumns({1});
   SetDegree(2);
   settle();
   EXPECT_NE(Figure("coefficients", "length²"), "");
@@ -219,7 +222,7 @@ TEST_F(RegressionPageTest, FollowsColumnsThatMove) {
   EXPECT_EQ(predictors.Columns(), std::vector{3});
   sheet.setHeaderData(3, Qt::Horizontal, "weight");
   QTest::qWait(1);
-  EXPECT_EQ(predictors.Titles(), QStringList("weight"));
+  EXPECT_EQ(predictors.State(), QVariantList({3, "weight"}));
   show({"height", "weight"});
   EXPECT_EQ(predictors.Columns(), std::vector{1});
   sheet.removeColumns(1, 1);

@@ -24,6 +24,8 @@ struct SessionTest : testing::Test {
   template <class Action>
   void Run(Action action) {
     MainWindow window;
+    Session session{QDir(folder.filePath("session"))};
+    ASSERT_TRUE(session.Begin());
     session.Restore(window);
     window.KeepSession = [&] { return session.Save(window); };
     QApplication::processEvents();
@@ -37,7 +39,6 @@ struct SessionTest : testing::Test {
   }
 
   QTemporaryDir folder;
-  Session session{QDir(folder.filePath("session"))};
 };
 
 TEST_F(SessionTest, BringsBackWhatTheUserLeft) {
@@ -108,17 +109,33 @@ TEST_F(SessionTest, ChoosesColumnsWhenALargeFileIsReadAgain) {
     wait(window);
     column(window)->setCurrentText("c");
   });
+  // Closed before it is read.
+  Run([](MainWindow& window) { EXPECT_TRUE(window.Data().IsReading()); });
   Run([&](MainWindow& window) {
     wait(window);
     EXPECT_EQ(column(window)->currentText(), "c");
   });
 }
 
+TEST_F(SessionTest, LeavesTheSessionToOneProgram) {
+  Run([&](MainWindow& window) {
+    window.Data().Document().ReadText("sep=;\n1\n2\n");
+    Session other{QDir(folder.filePath("session"))};
+    EXPECT_FALSE(other.Begin());
+  });
+  const QString copy = folder.filePath("session/unsaved.csv");
+  Run([](MainWindow& window) { EXPECT_EQ(window.Table().rowCount(), 2); });
+  QFile damaged(copy);
+  EXPECT_TRUE(damaged.open(QIODevice::WriteOnly) && damaged.write("\"1\n") > 0);
+  damaged.close();
+  Run([](MainWindow& window) { EXPECT_EQ(window.Table().rowCount(), 0); });
+  EXPECT_EQ(QDir(folder.filePath("session")).entryList({"unsaved-*.csv"}).size(), 1)
+      << "put aside, not lost";
+}
+
 TEST_F(SessionTest, AsksIfItCannotBeKept) {
   Write("session", "a file where the folder would be");
-  MainWindow window;
-  window.Data().Document().ReadText("1\n");
-  EXPECT_FALSE(session.Save(window));
+  EXPECT_FALSE(Session(QDir(folder.filePath("session"))).Begin());
 }
 
 }  // namespace

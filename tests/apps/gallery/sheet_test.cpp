@@ -19,7 +19,7 @@ struct SheetTest : testing::Test {
   }
   std::string Csv() {
     std::string csv;
-    WriteSheet(sheet.Data(), ',', [&csv](std::string_view text) { csv += text; });
+    WriteSheet(sheet.Data(), {}, [&csv](std::string_view text) { csv += text; });
     return csv;
   }
   bool Set(int row, int column, const QVariant& value) {

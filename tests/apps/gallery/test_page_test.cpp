@@ -54,9 +54,9 @@ struct TestPageTest : PageFixture<TestPage> {
     } else if (columns.size() > 1) {
       Find<ColumnBox>("second").SetColumn(column(columns[1]));
     }
-    QStringList titles;
-    for (const char name : columns) titles.append(QString(QChar(name)));
-    Find<ColumnList>("columns").SetTitles(titles);
+    std::vector<int> ticked;
+    for (const char name : columns) ticked.push_back(column(name));
+    Find<ColumnList>("columns").SetColumns(ticked);
     Finish();
   }
   [[nodiscard]] double P() { return QString::fromStdString(Figure("results", "p")).toDouble(); }
