@@ -184,10 +184,14 @@ void TableArguments::RemarkOn(const Table& table) const {
 }
 
 std::vector<TableColumn> TableArguments::Read(unsigned threads) const {
+  return ReadAll(threads).columns;
+}
+
+Table TableArguments::ReadAll(unsigned threads) const {
   try {
     Table table = ReadTable(OpenWithProgress(file), selection, threads);
     RemarkOn(table);
-    return std::move(table.columns);
+    return table;
   } catch (const InputError& error) {
     throw InputError(error.Fault(), std::string(error.what()) + Hint(error.Fault(), selection));
   }

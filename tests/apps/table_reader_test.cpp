@@ -32,6 +32,7 @@ std::string Read(const std::string& text, const TableSelection& selection, unsig
       for (const std::size_t gap : column.gaps) columns += " gap " + Int2EStr(gap);
       columns += '\n';
     }
+    for (const std::size_t row : table.skipped_rows) columns += "skipped " + Int2EStr(row) + '\n';
     for (const LeftOutColumn& column : table.left_out) columns += column.title + " left out\n";
     return columns;
   });
@@ -75,6 +76,10 @@ TEST(TableReader, SkipsMissingValuesAndLeavesOutColumnsWithoutNumbers) {
            {"x,y,z\n1,2,a\n3,4,\n,5,b\n\n6,7,c\n",
             "column 1 (x): 1 3 6; 2\ncolumn 2 (y): 2 4 7; 2\ncolumn 3 (z) left out\n",
             {.whole_rows = true}},
+           {"x,y\n1,2\n\n3,\n\n\n4,5\n,6\n",
+            "column 1 (x): 1 4; 5\ncolumn 2 (y): 2 5; 5\n"
+            "skipped 1\nskipped 2\nskipped 3\nskipped 4\nskipped 6\n",
+            {.columns = {"x", "y"}, .whole_rows = true}},
            {"x,y,z\n1,g,a\n,h,\n3,h,\n4,,\n",
             "column 1 (x): 1 3; 2\ncolumn 2 (y): g h; 2\ncolumn 3 (z) left out\n",
             {.labels = {"y"}, .whole_rows = true}},
@@ -143,6 +148,7 @@ TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
     TableSelection selection{.whole_rows = engine() % 2 == 0};
     if (engine() % 2 == 0) selection.format = kComplete;
     if (engine() % 2 == 0) selection.labels = {"2"};
+    if (engine() % 2 == 0) selection.columns = {"1"};
     const std::string result = Read(text, selection);
     const std::size_t block_size = 4 + engine() % 60;
     ASSERT_EQ(Read(text, selection, static_cast<unsigned>(1 + engine() % 3), block_size), result)
