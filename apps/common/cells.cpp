@@ -1,5 +1,6 @@
 #include "apps/common/cells.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -16,8 +17,9 @@ namespace {
                    ColumnTitle(place.column, place.column_name) + ": " + what);
 }
 
-[[noreturn]] void RefuseAmount(std::string_view cell, const CellPlace& place) {
-  FailAt(place, InputFault::kNotANumber,
+[[noreturn]] void RefuseAmount(std::string_view cell, const CellPlace& place, char decimal_sign) {
+  const bool is_number = FindNumber(cell, decimal_sign).has_value();
+  FailAt(place, is_number ? InputFault::kOutOfRange : InputFault::kNotANumber,
          Excerpt(cell) + " is not an amount: digits with at most four decimals");
 }
 
@@ -73,6 +75,21 @@ bool IsText(std::string_view cell, char decimal_sign) {
   return !cell.empty() && !IsNumber(cell, decimal_sign);
 }
 
+bool MayHaveGroups(std::string_view text, char group_sign) {
+  constexpr std::string_view digits = "0123456789";
+  text.remove_prefix(std::min(text.find_first_not_of(" \t+-"), text.size()));
+  std::size_t length = std::min(text.find_first_not_of(digits), text.size());
+  if (length < 1 || length > 3 || length == text.size() || text[length] != group_sign) return false;
+  while (length < text.size() && text[length] == group_sign) {
+    text.remove_prefix(length + 1);
+    length = std::min(text.find_first_not_of(digits), text.size());
+    if (length != 3) return false;
+  }
+  const std::string_view decimals = text.substr(length);
+  return decimals.empty() || (decimals[0] == (group_sign == ',' ? '.' : ',') &&
+                              decimals.find_first_not_of(digits, 1) == decimals.npos);
+}
+
 std::string ColumnTitle(std::size_t number, std::string_view name) {
   std::string title = "column " + Int2EStr(number);
   if (!name.empty()) title += " (" + Shortened(name) + ')';
@@ -94,7 +111,11 @@ Extended NumberIn(std::string_view cell, const CellPlace& place, char decimal_si
       FailAt(place, InputFault::kOutOfRange,
              Excerpt(cell) + " is beyond the range of extended precision");
     }
-    const bool is_other = FindNumber(cell, decimal_sign == ',' ? '.' : ',').has_value();
+    const char other_sign = decimal_sign == ',' ? '.' : ',';
+    if (MayHaveGroups(cell, other_sign))
+      FailAt(place, InputFault::kGroupedDigits,
+             Excerpt(cell) + " may have groups of digits, which are not read");
+    const bool is_other = FindNumber(cell, other_sign).has_value();
     FailAt(place, is_other ? InputFault::kOtherDecimalSign : InputFault::kNotANumber,
            Excerpt(cell) + " is not a number");
   }
@@ -113,11 +134,11 @@ Currency AmountIn(std::string_view cell, const CellPlace& place, char decimal_si
   if (cell.empty()) RefuseEmptyCell(place);
   std::string buffer;
   const std::string_view text = decimal_sign == ',' ? WithDecimalPoint(cell, buffer) : cell;
-  if (!IsWrittenAsAmount(text)) RefuseAmount(cell, place);
+  if (!IsWrittenAsAmount(text)) RefuseAmount(cell, place, decimal_sign);
   try {
     return Str2Currency(text);
   } catch (const EConvertError& error) {
-    if (error.message_id() != rsNumberTooLarge) RefuseAmount(cell, place);
+    if (error.message_id() != rsNumberTooLarge) RefuseAmount(cell, place, decimal_sign);
   }
   FailAt(place, InputFault::kOutOfRange, Excerpt(cell) + " is beyond the range of amounts");
 }

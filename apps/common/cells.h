@@ -27,9 +27,12 @@ namespace qorvex::apps {
 [[nodiscard]] bool IsText(std::string_view cell, char decimal_sign = '.');
 
 /// The text of a number with a point in place of the decimal comma. A point becomes a comma, so
-/// that 1.234,5 is no number. The buffer holds the text, behind which kReadableBehind bytes can be
+/// that 1.234,5 is not a number. The buffer holds the text, behind which kReadableBehind bytes can be
 /// read.
 [[nodiscard]] std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer);
+
+/// Whether the text may be a number with groups of three digits between those signs.
+[[nodiscard]] bool MayHaveGroups(std::string_view text, char group_sign);
 
 /// "column 2 (speed)", or "column 2" without a name, with the name on one line, cut after 40
 /// characters.
@@ -48,7 +51,8 @@ struct CellPlace {
 };
 
 /// The number in a cell, converted to 80 bits by Str2Float. Throws InputError with the position of
-/// the cell: kEmptyCell; kOtherDecimalSign; kNotANumber, also for infinities and NaN; kOutOfRange.
+/// the cell: kEmptyCell; kGroupedDigits; kOtherDecimalSign; kNotANumber, also for infinities and
+/// NaN; kOutOfRange.
 [[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place,
                                 char decimal_sign = '.');
 
@@ -59,7 +63,8 @@ struct CellPlace {
 
 /// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
 /// would have to be rounded, and a program that writes an exponent has probably rounded already.
-/// Throws InputError with the position of the cell: kEmptyCell, kNotANumber, kOutOfRange.
+/// Throws InputError with the position of the cell: kEmptyCell, kNotANumber, kOutOfRange, also for
+/// other numbers than amounts.
 [[nodiscard]] Currency AmountIn(std::string_view cell, const CellPlace& place,
                                 char decimal_sign = '.');
 

@@ -8,6 +8,7 @@
 #include "apps/common/column_selection.h"
 #include "apps/common/input_error.h"
 #include "apps/common/threads.h"
+#include "apps/common/whole_rows.h"
 
 namespace qorvex::apps {
 
@@ -21,8 +22,11 @@ ColumnCollector::ColumnCollector(RowReader& rows, const TableSelection& selectio
   if (*rows.Format().header) header_.assign(rows.Cells().begin(), rows.Cells().end());
   columns_ = ChosenColumns(selection, header_, width_, rows.HasRowNames(), rows.Name());
   if (selection.columns.empty()) first_cells_.resize(columns_.size());
+  keeps_gaps_ = HasLabels() || (needs_whole_rows_ && !first_cells_.empty());
   takes_numbers_directly_ = decimal_sign_ == '.' && !has_amounts_ && !missing_->IncludeNumbers();
-  may_skip_rows_ = missing_->AreAllowed() && (needs_whole_rows_ || !selection.labels.empty());
+  may_skip_rows_ = missing_->AreAllowed() && std::ranges::any_of(columns_, [&](const auto& column) {
+                     return NeedsValueIn(column);
+                   });
 }
 
 ColumnCollector ColumnCollector::ForMoreRows() const {
@@ -31,6 +35,8 @@ ColumnCollector ColumnCollector::ForMoreRows() const {
   for (TableColumn& column : collector.columns_)
     column = {.number = column.number, .name = column.name, .role = column.role};
   collector.first_cells_.assign(first_cells_.size(), {});
+  collector.rows_ = 0;
+  collector.skipped_rows_.clear();
   collector.has_rows_ = false;
   collector.blank_lines_ = 0;
   return collector;
@@ -52,6 +58,7 @@ void ColumnCollector::AddCells(const RowScanner& rows) {
     if (takes_numbers_directly_ && !numbers.empty() && numbers.TryAppendCell(cell)) continue;
     AddCell(cell, i, rows);
   }
+  ++rows_;
 }
 
 void ColumnCollector::AddAllRows(RowScanner& rows) {
@@ -60,15 +67,18 @@ void ColumnCollector::AddAllRows(RowScanner& rows) {
 }
 
 void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, unsigned threads) {
+  std::vector<std::size_t> first_rows;
   for (const Part& part : parts) {
     if (part.rows.has_rows_) AddBlankLines(input, part.first_line, std::exchange(blank_lines_, 0));
     AddFirstCells(part.rows.first_cells_);
     if (part.fault) std::rethrow_exception(part.fault);
     blank_lines_ += part.rows.blank_lines_;
+    const std::size_t rows_before = rows_ + skipped_rows_.size();
+    for (const std::size_t row : part.rows.skipped_rows_)
+      skipped_rows_.push_back(rows_before + row);
+    first_rows.push_back(rows_);
+    rows_ += part.rows.rows_;
   }
-  std::vector<std::size_t> first_rows{columns_.back().labels.size()};
-  for (const Part& part : parts)
-    first_rows.push_back(first_rows.back() + part.rows.columns_.back().labels.size());
   ForEachIndex(columns_.size(), threads, [&](std::size_t i) {
     TableColumn& column = columns_[i];
     std::size_t size = column.numbers.size();
@@ -87,40 +97,56 @@ void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, 
 Table ColumnCollector::Finish(const std::string& input) {
   Table table;
   table.header = std::move(header_);
-  for (TableColumn& column : columns_) {
+  for (std::size_t i = 0; i < columns_.size(); ++i) {
+    TableColumn& column = columns_[i];
     const bool is_empty = column.numbers.empty() && column.labels.empty();
     if (is_empty && (first_cells_.empty() || column.role != ColumnRole::kValues))
       throw InputError(InputFault::kNoValues, input, column.Title() + " has no values");
     column.numbers.ShrinkToFit();
-    (is_empty ? table.left_out : table.columns).push_back(std::move(column));
+    if (is_empty) {
+      table.left_out.push_back({column.Title(), first_cells_[i].text_cell});
+    } else {
+      table.columns.push_back(std::move(column));
+    }
   }
   if (table.columns.empty() || table.columns[0].role != ColumnRole::kValues)
     RefuseAll(input, table.left_out);
+  table.skipped_rows = std::move(skipped_rows_);
+  if (!needs_whole_rows_ || first_cells_.empty()) return table;
+  KeepWholeRows(table.columns, rows_);
+  if (table.columns[0].numbers.empty())
+    throw InputError(InputFault::kNoValues, input, "every row has a missing value");
   return table;
 }
 
 void ColumnCollector::RefuseAll(const std::string& input,
-                                const std::vector<TableColumn>& columns) const {
+                                const std::vector<LeftOutColumn>& columns) const {
   const auto text = std::ranges::find_if(
       first_cells_, [](const FirstCells& cells) { return cells.text != nullptr; });
   if (text == first_cells_.end())
-    throw InputError(InputFault::kNoValues, input, columns[0].Title() + " has no values");
+    throw InputError(InputFault::kNoValues, input, columns[0].title + " has no values");
   if (columns.size() == 1) std::rethrow_exception(text->text);
   throw InputError(InputFault::kNoValues, input, "no column has a number");
 }
 
 bool ColumnCollector::LacksAValue(Cells cells) const {
   return std::ranges::any_of(columns_, [&](const TableColumn& column) {
-    return (needs_whole_rows_ || column.role == ColumnRole::kLabels) &&
-           missing_->Contains(cells[column.number - 1]);
+    return NeedsValueIn(column) && missing_->Contains(cells[column.number - 1]);
   });
+}
+
+// Whether rows without a value in the column are skipped at once. A column that was not chosen may
+// turn out to be without numbers, and is then left out.
+bool ColumnCollector::NeedsValueIn(const TableColumn& column) const {
+  if (column.role == ColumnRole::kLabels) return true;
+  return needs_whole_rows_ && (first_cells_.empty() || column.role == ColumnRole::kWeights);
 }
 
 void ColumnCollector::AddCell(std::string_view cell, std::size_t index, const RowScanner& rows) {
   TableColumn& column = columns_[index];
   if (missing_->Contains(cell)) {
     ++column.missing;
-    if (HasLabels()) column.gaps.push_back(columns_.back().labels.size());
+    if (keeps_gaps_) column.gaps.push_back(rows_);
     return;
   }
   const CellPlace place{rows.Name(), rows.Line(), column.number, column.name};
@@ -142,6 +168,7 @@ void ColumnCollector::AddCell(std::string_view cell, std::size_t index, const Ro
   } catch (const InputError& error) {
     if (error.Fault() != InputFault::kNotANumber) throw;
     first.text = std::current_exception();
+    first.text_cell = cell;
     first.text_line = place.line;
   }
 }
@@ -176,6 +203,7 @@ void ColumnCollector::AddFirstCells(std::span<const FirstCells> following) {
     }
     if (!known.text) {
       known.text = more.text;
+      known.text_cell = more.text_cell;
       known.text_line = more.text_line;
     }
     if (known.number_line == 0) known.number_line = more.number_line;
@@ -192,6 +220,8 @@ void ColumnCollector::AddBlankLines(const std::string& input, std::size_t end, s
 }
 
 void ColumnCollector::SkipRow() {
+  if (needs_whole_rows_ && first_cells_.empty())
+    skipped_rows_.push_back(rows_ + skipped_rows_.size());
   for (TableColumn& column : columns_) ++column.missing;
 }
 

@@ -51,6 +51,7 @@ class ColumnCollector {
   struct FirstCells {
     // The fault of its first text.
     std::exception_ptr text = nullptr;
+    std::string text_cell = {};
     // The lines of its first text and of its first number; 0 for none.
     std::size_t text_line = 0;
     std::size_t number_line = 0;
@@ -58,13 +59,14 @@ class ColumnCollector {
 
   [[nodiscard]] bool HasLabels() const { return columns_.back().role == ColumnRole::kLabels; }
   [[nodiscard]] bool LacksAValue(Cells cells) const;
+  [[nodiscard]] bool NeedsValueIn(const TableColumn& column) const;
   void AddCell(std::string_view cell, std::size_t index, const RowScanner& rows);
   void AddNumber(std::string_view cell, TableColumn& column, const CellPlace& place);
   void AddFirstCells(std::span<const FirstCells> following);
   void AddBlankLines(const std::string& input, std::size_t end, std::size_t count);
   void SkipRow();
   [[noreturn]] void RefuseAll(const std::string& input,
-                              const std::vector<TableColumn>& columns) const;
+                              const std::vector<LeftOutColumn>& columns) const;
 
   const MissingWords* missing_;
   char decimal_sign_;
@@ -73,12 +75,17 @@ class ColumnCollector {
   // Whether a cell that is a number is nothing else.
   bool takes_numbers_directly_ = false;
   bool may_skip_rows_ = false;
+  bool keeps_gaps_ = false;
   std::size_t first_line_;
   std::size_t width_;
   std::vector<std::string> header_;
   std::vector<TableColumn> columns_;
   // By column; empty if columns were chosen.
   std::vector<FirstCells> first_cells_;
+  // Those that were not skipped.
+  std::size_t rows_ = 0;
+  // As in Table.
+  std::vector<std::size_t> skipped_rows_;
   bool has_rows_ = false;
   // After the last row.
   std::size_t blank_lines_ = 0;

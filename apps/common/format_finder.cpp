@@ -21,6 +21,8 @@ struct Division {
   RowSyntax syntax = {};
   char decimal_sign = '.';
   std::vector<Row> rows = {};
+  // Of the last row.
+  bool starts_with_quotes = false;
   bool is_faulty = false;
   bool is_even = false;
   bool first_row_is_short = false;
@@ -53,11 +55,14 @@ TextInput SourceOf(std::string_view sample, bool is_whole) {
 }
 
 // Returns whether there is no fault.
-bool ReadRows(std::string_view sample, bool is_whole, RowSyntax syntax, std::vector<Row>& read) {
-  RowScanner rows(SourceOf(sample, is_whole), syntax, RowScanner::kBlockSize);
+bool ReadRows(std::string_view sample, bool is_whole, Division& division) {
+  // The first block takes the whole sample, before its end is noticed.
+  RowScanner rows(SourceOf(sample, is_whole), division.syntax, sample.size() + 1);
   try {
-    while (read.size() < kMostRows && rows.Next())
-      read.emplace_back(rows.Cells().begin(), rows.Cells().end());
+    while (division.rows.size() < kMostRows && rows.Next()) {
+      division.rows.emplace_back(rows.Cells().begin(), rows.Cells().end());
+      division.starts_with_quotes = rows.StartsWithQuotes();
+    }
   } catch (const InputError&) {
     return false;
   } catch (SampleEnded) {
@@ -68,24 +73,11 @@ bool ReadRows(std::string_view sample, bool is_whole, RowSyntax syntax, std::vec
 // With backslashes if there is a fault without them only.
 Division RowsOf(std::string_view sample, bool is_whole, char delimiter) {
   Division division{.syntax = {.delimiter = delimiter}};
-  if (ReadRows(sample, is_whole, division.syntax, division.rows)) return division;
+  if (ReadRows(sample, is_whole, division)) return division;
   Division other{.syntax = {.delimiter = delimiter, .has_backslashes = true}};
-  if (ReadRows(sample, is_whole, other.syntax, other.rows)) return other;
+  if (ReadRows(sample, is_whole, other)) return other;
   division.is_faulty = true;
   return division;
-}
-
-// Whether exactly three digits follow each comma, and one to three precede the first.
-bool MayHaveGroups(std::string_view number) {
-  number.remove_prefix(std::min(number.find_first_of("0123456789,"), number.size()));
-  std::size_t digits = number.find(',');
-  if (digits < 1 || digits > 3) return false;
-  while (digits != std::string_view::npos && digits < number.size()) {
-    number.remove_prefix(digits + 1);
-    digits = std::min(number.find_first_not_of("0123456789"), number.size());
-    if (digits != 3) return false;
-  }
-  return true;
 }
 
 char DecimalSignOf(const std::vector<Row>& rows, char delimiter) {
@@ -95,7 +87,7 @@ char DecimalSignOf(const std::vector<Row>& rows, char delimiter) {
     for (const std::string& cell : row) {
       if (cell.find('.') != cell.npos && IsNumber(cell)) return '.';
       has_commas = has_commas || (cell.find(',') != cell.npos && IsNumber(cell, ',') &&
-                                  (delimiter == ';' || !MayHaveGroups(cell)));
+                                  (delimiter == ';' || !MayHaveGroups(cell, ',')));
     }
   }
   return has_commas ? ',' : '.';
@@ -181,8 +173,7 @@ FoundFormat FindFormat(std::string_view sample, bool is_whole, const TableFormat
       wanted.delimiter ? std::string(1, *wanted.delimiter) : PossibleDelimiters(sample);
   // If the decimal sign is the comma, it is the last that would delimit.
   if (wanted.decimal_sign == ',')
-    std::ranges::rotate(delimiters,
-                        std::ranges::find_if_not(delimiters, [](char c) { return c == ','; }));
+    std::stable_partition(delimiters.begin(), delimiters.end(), [](char c) { return c != ','; });
   Division best;
   for (const char delimiter : delimiters) {
     Division division = Divide(sample, is_whole, delimiter, wanted);
@@ -190,7 +181,8 @@ FoundFormat FindFormat(std::string_view sample, bool is_whole, const TableFormat
     if (is_first || division.IsBetterThan(best)) best = std::move(division);
     if (best.IsPerfect()) break;
   }
-  return {best.syntax, best.decimal_sign, best.first_row_is_short};
+  return {best.syntax, best.decimal_sign, best.first_row_is_short,
+          best.first_row_is_short && !best.starts_with_quotes};
 }
 
 }  // namespace qorvex::apps

@@ -19,7 +19,7 @@ struct DelimiterLine {
   std::size_t length;
 };
 
-/// The line at the start of the text; empty if there is none.
+/// The line at the start of the text; empty if the text has no such line.
 [[nodiscard]] std::optional<DelimiterLine> FindDelimiterLine(std::string_view text);
 
 /// What the first rows of a text say.
@@ -29,6 +29,8 @@ struct FoundFormat {
   /// Whether the first row is a header with one cell less than all rows below it. Rows that end
   /// with a delimiter are as long as the first.
   bool first_row_is_short = false;
+  /// Whether the cells below it that would name the rows are not quoted, as R quotes them.
+  bool has_doubtful_names = false;
 };
 
 /// The format by the rules of RowReader. What is wanted is not looked for. The sample is the start

@@ -14,12 +14,13 @@ namespace qorvex::apps {
 enum class InputFault {
   kUnreadable,        ///< the file cannot be opened or read
   kMalformed,         ///< wrong quotes, ragged or endless rows, binary files
-  kWrongEncoding,     ///< bytes that are no character in the encoding
+  kWrongEncoding,     ///< bytes that are not UTF-8
   kNoValues,          ///< no row, or no value in a column
   kNoSuchColumn,      ///< a column that does not exist, or whose name is ambiguous
   kTextInFirstRow,    ///< text instead of a finite number, where a header may be
   kNotANumber,        ///< text instead of a finite number or an amount
   kOtherDecimalSign,  ///< a number that is one with the other decimal sign
+  kGroupedDigits,     ///< a number that may have signs between groups of digits
   kEmptyCell,         ///< no text where a number is needed
   kOutOfRange,        ///< numbers, amounts or results beyond their range
   kNoResult,          ///< no inverse, no product, or parameters outside the domain

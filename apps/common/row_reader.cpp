@@ -73,6 +73,7 @@ void RowReader::Start() {
   format_.delimiter = found.syntax.delimiter;
   format_.decimal_sign = found.decimal_sign;
   first_row_is_short_ = found.first_row_is_short;
+  has_doubtful_row_names_ = found.has_doubtful_names;
   rows_.emplace(
       TextInput{name_, [decoder = decoder_](
                            char* buffer, std::size_t size) { return decoder->Read(buffer, size); }},

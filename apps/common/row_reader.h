@@ -49,6 +49,8 @@ class RowReader {
   /// Whether the first column holds names of rows. If the first row was too short for them, it
   /// starts with an empty cell.
   [[nodiscard]] bool HasRowNames() const noexcept { return has_row_names_; }
+  /// Whether the first row is too short for them, and they are not quoted.
+  [[nodiscard]] bool HasDoubtfulRowNames() const noexcept { return has_doubtful_row_names_; }
 
   /// As for RowScanner.
   [[nodiscard]] std::span<const std::string_view> Cells() const noexcept {
@@ -72,6 +74,7 @@ class RowReader {
   std::optional<RowScanner> rows_;
   bool first_row_is_short_ = false;
   bool has_row_names_ = false;
+  bool has_doubtful_row_names_ = false;
   // The first row with its empty cell, while it is the current one.
   std::vector<std::string_view> first_row_;
 };

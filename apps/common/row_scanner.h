@@ -60,6 +60,10 @@ class RowScanner {
   static constexpr std::size_t kReadableBehind = 16;
   /// The cells of the row, at least one. Valid until the next call of Next.
   [[nodiscard]] std::span<const std::string_view> Cells() const noexcept { return cells_; }
+  /// Whether the first cell is quoted and has no quote within.
+  [[nodiscard]] bool StartsWithQuotes() const noexcept {
+    return cells_[0].data() != buffer_.data() && cells_[0].data()[-1] == '"';
+  }
   /// The line on which the row starts, from 1.
   [[nodiscard]] std::size_t Line() const noexcept { return line_; }
   /// The line that is read next.

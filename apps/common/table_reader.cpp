@@ -74,6 +74,7 @@ Table ReadTable(TextInput input, const TableSelection& selection, unsigned threa
   collector.AddAllRows(rows);
   Table table = collector.Finish(rows.Name());
   table.format = reader.Format();
+  table.has_doubtful_row_names = reader.HasDoubtfulRowNames();
   return table;
 }
 

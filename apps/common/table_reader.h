@@ -27,8 +27,8 @@ struct TableSelection {
   std::vector<std::string> labels = {};
   /// What is not set is found by RowReader.
   TableFormat format = {};
-  /// Skip the whole row if any chosen value in it is missing, so that values with the same index
-  /// belong to the same row.
+  /// Skip the whole row if any value in it is missing in a column of the result, so that values
+  /// with the same index belong to the same row.
   bool whole_rows = false;
   /// Read the cells, except weights and labels, as amounts of money.
   bool currency = false;
@@ -48,13 +48,22 @@ struct TableColumn {
   ColumnNumbers numbers = {};
   /// Labels take the place of the numbers.
   Labels labels = {};
-  /// If there are labels: the rows without a number in this column, by the index of their labels.
+  /// If there are labels, and rows are not skipped as a whole: the rows without a number in this
+  /// column, by the index of their labels.
   std::vector<std::size_t> gaps = {};
   /// The number of missing values, or of rows that were skipped for them.
   std::size_t missing = 0;
 
   /// As ColumnTitle.
   [[nodiscard]] std::string Title() const;
+};
+
+/// A column without numbers.
+struct LeftOutColumn {
+  /// As ColumnTitle.
+  std::string title;
+  /// Its first text; empty if all its values are missing.
+  std::string first_text;
 };
 
 /// What was read from a table.
@@ -64,9 +73,14 @@ struct Table {
   /// The cells of the header; empty without a header.
   std::vector<std::string> header = {};
   /// If no column was chosen, those without a number, without the names of rows.
-  std::vector<TableColumn> left_out = {};
+  std::vector<LeftOutColumn> left_out = {};
+  /// If columns were chosen, and rows were skipped as a whole: which of all rows, from 0. A blank
+  /// line between rows is a row.
+  std::vector<std::size_t> skipped_rows = {};
   /// The format that was found.
   TableFormat format = {};
+  /// As for RowReader.
+  bool has_doubtful_row_names = false;
 };
 
 /// Reads the chosen columns. The others may contain any text.
@@ -77,13 +91,13 @@ struct Table {
 /// - Missing values are skipped and counted. A blank line between rows is a row of empty cells.
 ///   Blank lines before the first row and after the last are ignored.
 /// - If no column is chosen, columns without a number are left out. If a column has both numbers
-/// and
-///   text, its first text is at fault.
-/// - Every column of the result has at least one value.
+///   and text, its first text is at fault.
+/// - Every column of the result has at least one value. Labels are never missing: rows without one
+///   are skipped.
 /// - Throws InputError for the first faulty line: for what RowReader refuses; kNoValues for a text
-///   without rows, for a chosen column without values and if no column has a number; kNoSuchColumn;
-///   kMalformed for a row whose length differs from that of the first; kEmptyCell if no value may
-///   be missing; kNotANumber and kOutOfRange for a cell.
+///   without rows, for a chosen column without values, if no column has a number, and if every row
+///   would be skipped; kNoSuchColumn; kMalformed for a row whose length differs from that of the
+///   first; kEmptyCell if no value may be missing; kNotANumber and kOutOfRange for a cell.
 /// - Memory: 8 bytes per number without rounding and 16 otherwise, at most 2.5 times that while a
 ///   column grows or while the parts that several threads have read are joined.
 /// - Several threads share the work, up to the first block with a quote or the first row that is

@@ -64,10 +64,11 @@ bool IsPlain(const char* text, std::size_t size) {
 // The order of bytes in UTF-16 without a mark. Three quarters of the first characters or more are
 // ASCII or Latin-1, and none is NUL.
 std::optional<Encoding> Utf16By(std::string_view bytes) {
+  if (bytes.size() < 2) return std::nullopt;
   std::size_t nuls[2] = {};
   for (std::size_t i = 0; i < bytes.size(); ++i)
     if (bytes[i] == '\0') ++nuls[i % 2];
-  const std::size_t enough = std::max<std::size_t>((3 * bytes.size() + 7) / 8, 1);
+  const std::size_t enough = (3 * bytes.size() + 7) / 8;
   if (nuls[0] == 0 && nuls[1] >= enough) return Encoding::kUtf16Le;
   if (nuls[1] == 0 && nuls[0] >= enough) return Encoding::kUtf16Be;
   return std::nullopt;
@@ -264,7 +265,7 @@ void TextDecoder::RefuseBinary(std::size_t offset) const {
 
 void TextDecoder::RefuseBytes(std::size_t offset) const {
   throw InputError(
-      InputFault::kWrongEncoding, input_.name,
+      PassesThrough() ? InputFault::kWrongEncoding : InputFault::kMalformed, input_.name,
       "the text is not " + std::string(NameOf(Found())) + " at byte " + Int2EStr(offset + 1));
 }
 

@@ -17,7 +17,8 @@ namespace qorvex::apps {
 /// Reads a text and converts it to UTF-8, without its byte order mark.
 ///
 /// - The encoding, if not given: UTF-16 by its byte order mark, or if most of the first bytes at
-///   even, or at odd, places are NUL; otherwise the first character beyond ASCII decides between UTF-8 and Latin-1.
+///   even, or at odd, places are NUL; otherwise the first character beyond ASCII decides between
+///   UTF-8 and Latin-1.
 /// - Latin-1 is Windows-1252: 0x80 to 0x9F are quotes, dashes and the sign of the euro.
 /// - UTF-8 passes through without a copy, at the speed of memory.
 class TextDecoder {

@@ -1,6 +1,5 @@
 // qorvex-gallery [FILE]: statistics, matrices, distributions and random variates in a window.
 
-#include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
@@ -11,6 +10,7 @@
 #include <cstdio>
 
 #include "apps/qorvex-gallery/appearance.h"
+#include "apps/qorvex-gallery/application.h"
 #include "apps/qorvex-gallery/edge_style.h"
 #include "apps/qorvex-gallery/main_window.h"
 #include "apps/qorvex-gallery/model/translations.h"
@@ -84,7 +84,7 @@ int main(int argc, char** argv) {
   if (takes_pictures || parser.isSet(help) || parser.isSet(version))
     qputenv("QT_QPA_PLATFORM", "offscreen");
 
-  const QApplication application(argc, argv);
+  const qorvex::gallery::Application application(argc, argv);
   SetIdentity();
   parser.process(application);
   const bool speaks_english = takes_pictures && !parser.isSet(language);

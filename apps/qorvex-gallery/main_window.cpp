@@ -53,7 +53,10 @@ MainWindow::MainWindow(QWidget* parent)
   AddPage(new DistributionPage, "distribution", tr("Distribution"));
   AddPage(new RandomPage, "random", tr("Random"));
   AddPage(new RegressionPage(sheet_), "regression", tr("Regression"));
-  AddPage(new TestPage(sheet_), "tests", tr("Tests"));
+  auto* const tests = new TestPage(sheet_);
+  AddPage(tests, "tests", tr("Tests"));
+  // After all pages have taken note of a new sheet.
+  connect(data_, &DataPage::ColumnShown, tests, &TestPage::SuggestColumn, Qt::QueuedConnection);
   setCentralWidget(pages_);
   MakeFileMenu(*menuBar()->addMenu(tr("&File")));
   MakeEditMenu(*menuBar()->addMenu(tr("&Edit")));

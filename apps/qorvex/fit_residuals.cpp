@@ -8,6 +8,7 @@
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/fit_model.h"
+#include "apps/qorvex/interrupt_hold.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/text.h"
 
@@ -24,8 +25,11 @@ std::string ResidualTable(const FitColumns& columns, const LinearFit& fit,
       columns.weights ? fit.Leverages(predictors, ViewOf(columns.weights->numbers))
                       : fit.Leverages(predictors);
   std::string table = "row,fitted,residual,leverage\n";
-  for (std::size_t i = 0; i < fitted.size(); ++i) {
-    table += Int2EStr(i + 1) + ',';
+  auto skipped = columns.skipped_rows.begin();
+  std::size_t row = 0;
+  for (std::size_t i = 0; i < fitted.size(); ++i, ++row) {
+    for (; skipped != columns.skipped_rows.end() && *skipped == row; ++row) ++skipped;
+    table += Int2EStr(row + 1) + ',';
     AppendLine(table, std::initializer_list<Extended>{fitted[i], residuals[i], leverages[i]},
                format);
   }
@@ -47,6 +51,7 @@ void WriteResiduals(const FitColumns& columns, const LinearFit& fit,
   const auto require = [&name](bool done) {
     if (!done) throw std::system_error(errno, std::generic_category(), name);
   };
+  const InterruptHold hold;
   const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(name.c_str(), "wb"),
                                                              std::fclose);
   require(file != nullptr);

@@ -19,6 +19,7 @@
 #include "apps/qorvex/json_writer.h"
 #include "apps/qorvex/matrix_operations.h"
 #include "apps/qorvex/output_format.h"
+#include "apps/qorvex/progress.h"
 #include "apps/qorvex/result_table.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/comparisons.h"
@@ -110,7 +111,7 @@ TQorFloatMatrix Read(TextInput input, const TableFormat& format) {
 // the first file cannot be opened, nothing is read, because another may be a pipe that stays open.
 Matrices ReadAll(const MatrixArguments& arguments) {
   const std::vector<std::string>& files = arguments.files;
-  TextInput first = OpenTextInput(files[0]);
+  TextInput first = OpenWithProgress(files[0]);
   std::vector<std::future<TQorFloatMatrix>> others;
   for (std::size_t i = 1; i < files.size(); ++i) {
     others.push_back(
@@ -147,8 +148,7 @@ void Write(const TQorFloatMatrix& matrix, const MatrixArguments& arguments) {
                  for (std::size_t i = begin; i < end; ++i)
                    AppendLine(texts[block], matrix[i], format);
                });
-  for (const std::string& text : texts) WritePart(text);
-  WriteResult("");
+  WriteResult(std::vector<std::string_view>(texts.begin(), texts.end()));
 }
 
 void Run(const MatrixOperation& operation, const MatrixArguments& arguments) {

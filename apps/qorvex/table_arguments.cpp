@@ -13,6 +13,7 @@
 #include "apps/qorvex/common_arguments.h"
 #include "apps/qorvex/format_arguments.h"
 #include "apps/qorvex/parameters.h"
+#include "apps/qorvex/progress.h"
 #include "apps/qorvex/text_output.h"
 #include "qorvex/base/text.h"
 
@@ -23,6 +24,8 @@ namespace {
 const char* Hint(InputFault fault, const TableSelection& selection) {
   switch (fault) {
     case InputFault::kNotANumber:
+      if (!selection.format.missing.AreAllowed())
+        return "; without --na error, missing values are skipped";
       if (selection.columns.empty())
         return "; --column chooses the columns, --na lists the words for missing values";
       // An amount with too many decimals is no missing value.
@@ -61,12 +64,17 @@ std::string DoubtOf(const Table& table) {
   return damaged == table.columns.end() ? "" : Excerpt(damaged->name) + " is not a number";
 }
 
-// "column 2 (name), column 5 (note) and 3 more".
-std::string ListOf(const std::vector<TableColumn>& columns) {
+// "column 2 (name), column 5 (rate), with "12%" and 3 more".
+std::string ListOf(const std::vector<LeftOutColumn>& columns) {
   constexpr std::size_t most_shown = 5;
   std::string text;
-  for (std::size_t i = 0; i < std::min(columns.size(), most_shown); ++i)
-    text += (i == 0 ? "" : ", ") + columns[i].Title();
+  for (std::size_t i = 0; i < std::min(columns.size(), most_shown); ++i) {
+    const auto& [title, first_text] = columns[i];
+    text += (i == 0 ? "" : ", ") + title;
+    // It may have been meant as a number.
+    if (first_text.find_first_of("0123456789") != first_text.npos)
+      text += ", with " + Excerpt(first_text);
+  }
   return columns.size() > most_shown
              ? text + " and " + Int2EStr(columns.size() - most_shown) + " more"
              : text;
@@ -168,14 +176,22 @@ void TableArguments::RemarkOn(const Table& table) const {
     remark("the first row was read as a header because " + doubt +
            "; --header or --no-header overrides this");
   }
+  if (table.has_doubtful_row_names) {
+    remark(
+        "the header is one cell shorter than the rows: the first column was read as their names");
+  }
   if (!table.left_out.empty()) remark("left out, without a number: " + ListOf(table.left_out));
 }
 
 std::vector<TableColumn> TableArguments::Read(unsigned threads) const {
+  return ReadAll(threads).columns;
+}
+
+Table TableArguments::ReadAll(unsigned threads) const {
   try {
-    Table table = ReadTable(OpenTextInput(file), selection, threads);
+    Table table = ReadTable(OpenWithProgress(file), selection, threads);
     RemarkOn(table);
-    return std::move(table.columns);
+    return table;
   } catch (const InputError& error) {
     throw InputError(error.Fault(), std::string(error.what()) + Hint(error.Fault(), selection));
   }

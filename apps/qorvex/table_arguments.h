@@ -41,6 +41,9 @@ struct TableArguments {
   /// Reads the table. Writes to standard error which columns were left out and whether the text was
   /// taken for Latin-1, and warns if the row that was read as a header may be data. The text of an
   /// InputError suggests an argument where one helps.
+  [[nodiscard]] Table ReadAll(unsigned threads = 1) const;
+
+  /// The columns of the same.
   [[nodiscard]] std::vector<TableColumn> Read(unsigned threads = 1) const;
 
  private:

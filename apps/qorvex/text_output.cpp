@@ -2,7 +2,12 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <optional>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
+
+#include "apps/qorvex/interrupt_hold.h"
 
 namespace qorvex::apps {
 
@@ -23,7 +28,14 @@ void AppendLine(std::string& text, std::span<const Extended> figures, const Figu
 }
 
 void WriteResult(std::string_view text) {
-  WritePart(text);
+  WriteResult({&text, 1});
+}
+
+void WriteResult(std::span<const std::string_view> parts) {
+  std::optional<InterruptHold> hold;
+  struct stat output {};
+  if (::fstat(STDOUT_FILENO, &output) == 0 && S_ISREG(output.st_mode)) hold.emplace();
+  for (const std::string_view part : parts) WritePart(part);
   RequireWritten(std::fflush(stdout) == 0);
 }
 

@@ -132,6 +132,10 @@ TEST(RowReader, FindsTheFormat) {
        }) {
     EXPECT_EQ(FormatOf(text, format), found) << text;
   }
+  // The sample may be the start of a text only, and end within a quoted cell.
+  std::string rows = "x;y\n";
+  for (int i = 0; i < 5000; ++i) rows += "\"a\\\"b\nc\";" + Int2EStr(i) + ";0,5\n";
+  EXPECT_EQ(FormatOf(rows, {}), ";,hr");
   // The sample grows until it has two rows below the first.
   EXPECT_EQ(FormatOf("x\n\"" + std::string(100000, 'a') + "\" 1\n\"b\" 2\n", {}), " .hr");
 }

@@ -32,7 +32,8 @@ std::string Read(const std::string& text, const TableSelection& selection, unsig
       for (const std::size_t gap : column.gaps) columns += " gap " + Int2EStr(gap);
       columns += '\n';
     }
-    for (const TableColumn& column : table.left_out) columns += column.Title() + " left out\n";
+    for (const std::size_t row : table.skipped_rows) columns += "skipped " + Int2EStr(row) + '\n';
+    for (const LeftOutColumn& column : table.left_out) columns += column.title + " left out\n";
     return columns;
   });
 }
@@ -72,6 +73,16 @@ TEST(TableReader, SkipsMissingValuesAndLeavesOutColumnsWithoutNumbers) {
            {"1,\n3,4\n", "column 1: 1 3; 0\ncolumn 2: 4; 1\n"},
            {"NA,NaN\n3,4\nnull,nan\n", "column 1: 3; 2\ncolumn 2: 4; 2\n"},
            {"1,\n3,4\n,5\n\n6,7\n", "column 1: 3 6; 3\ncolumn 2: 4 7; 3\n", {.whole_rows = true}},
+           {"x,y,z\n1,2,a\n3,4,\n,5,b\n\n6,7,c\n",
+            "column 1 (x): 1 3 6; 2\ncolumn 2 (y): 2 4 7; 2\ncolumn 3 (z) left out\n",
+            {.whole_rows = true}},
+           {"x,y\n1,2\n\n3,\n\n\n4,5\n,6\n",
+            "column 1 (x): 1 4; 5\ncolumn 2 (y): 2 5; 5\n"
+            "skipped 1\nskipped 2\nskipped 3\nskipped 4\nskipped 6\n",
+            {.columns = {"x", "y"}, .whole_rows = true}},
+           {"x,y,z\n1,g,a\n,h,\n3,h,\n4,,\n",
+            "column 1 (x): 1 3; 2\ncolumn 2 (y): g h; 2\ncolumn 3 (z) left out\n",
+            {.labels = {"y"}, .whole_rows = true}},
            {"x,y,z\n1,,a\n\n  ,4,b\n3,5,c\n\n\n",
             "column 1 (x): 1 3; 2\ncolumn 2 (y): 4 5; 2\ncolumn 3 (z) left out\n"},
            {"x,y,z\n-99,1,-99\nn/a,2,\n3,-,-\n",
@@ -92,6 +103,7 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x,y\nNA,1\n", " column 1 (x) has no values", {.columns = {"x"}}},
            {"x\n\n\"\"\n", " column 1 (x) has no values"},
            {"x,y\na,\n", " no column has a number"},
+           {"1,\n,2\n", " every row has a missing value", {.whole_rows = true}},
            {"x\na\n", "2: column 1 (x): \"a\" is not a number"},
            {"x,y\n1,2\n\n3,a b\n",
             "3: column 1 (x): the cell is empty",
@@ -102,8 +114,10 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x\nNA\n2\n", "2: column 1 (x): \"NA\" is not a number", {.format = kComplete}},
            {"1\nnan\n", "2: column 1: \"nan\" is not a finite number", {.format = kComplete}},
            {"x\n-inf\n1\n", "2: column 1 (x): \"-inf\" is not a finite number"},
-           {"x\ty\n1\t1,500\n", "2: column 2 (y): \"1,500\" is not a number"},
-           {"x;y\n1,5;1.234,5\n2;3\n", "2: column 2 (y): \"1.234,5\" is not a number"},
+           {"x\ty\n1\t1,500\n",
+            "2: column 2 (y): \"1,500\" may have groups of digits, which are not read"},
+           {"x;y\n1,5;1.234,5\n2;3\n",
+            "2: column 2 (y): \"1.234,5\" may have groups of digits, which are not read"},
            {"1e5000\n", "1: column 1: \"1e5000\" is beyond the range of extended precision"},
            {"\nx,y\n1,2\n3\n", "4: the row has 1 cell where line 2 has 2"},
            {"x,y\n", " there is no column \"3\"; the columns are 1 (x), 2 (y)", {{"3"}}},
@@ -134,6 +148,7 @@ TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
     TableSelection selection{.whole_rows = engine() % 2 == 0};
     if (engine() % 2 == 0) selection.format = kComplete;
     if (engine() % 2 == 0) selection.labels = {"2"};
+    if (engine() % 2 == 0) selection.columns = {"1"};
     const std::string result = Read(text, selection);
     const std::size_t block_size = 4 + engine() % 60;
     ASSERT_EQ(Read(text, selection, static_cast<unsigned>(1 + engine() % 3), block_size), result)

@@ -111,6 +111,7 @@ TEST_F(MatrixEdit, CommandsApplyTheRoutinesAndCanBeUndone) {
       {"Inverse",
        [&] { editor->setElement(1, 0, 0), editor->Inverse(); },
        {{0.25L, -0.125L}, {0, 0.5L}}},
+      {"Replace", [&] { editor->Replace({{7}, {8}, {9}}); }, {{7}, {8}, {9}}},
       {"RowReduce", [&] { editor->RowReduce(); }, {{1, 0.25L}, {0, 1}}},
       {"ScaleRow", [&] { editor->ScaleRow(1, 4); }, {{4, 1}, {1, 8}}},
       {"ScaleCol", [&] { editor->ScaleCol(0, 2); }, {{8, 1}, {0.5L, 2}}},
@@ -132,6 +133,8 @@ TEST_F(MatrixEdit, CommandsApplyTheRoutinesAndCanBeUndone) {
   EXPECT_MATH_ERROR(editor->Inverse(), rsNoInvert);
   EXPECT_TRUE(Same(editor->Matrix(), {{1, 2}, {2, 4}}));
   EXPECT_MATH_ERROR(editor->SwapRows(0, 2), rsInvalidRow);
+  EXPECT_MATH_ERROR(editor->Replace({{1, 2}, {3}}), rsMatrixRect);
+  EXPECT_MATH_ERROR(editor->Replace({}), rsMatrixIsEmpty);
   EXPECT_FALSE(editor->CanUndo());
   EXPECT_FALSE(editor->Updating());
   editor->setNoOfCols(0);

@@ -1044,6 +1044,17 @@
     </message>
 </context>
 <context>
+    <name>qorvex::gallery::Application</name>
+    <message>
+        <source>Internal error</source>
+        <translation>Interner Fehler</translation>
+    </message>
+    <message>
+        <source>An error in the program has stopped the last action. Your data are still there; save them before you go on.</source>
+        <translation>Ein Fehler im Programm hat die letzte Aktion abgebrochen. Die Daten sind noch da; bitte speichern, bevor es weitergeht.</translation>
+    </message>
+</context>
+<context>
     <name>qorvex::gallery::ColumnReport</name>
     <message>
         <source>Whole &amp;population (divide by n)</source>
@@ -1445,10 +1456,6 @@
     <message>
         <source>greater</source>
         <translation>größer</translation>
-    </message>
-    <message>
-        <source>Number:</source>
-        <translation>Zahl:</translation>
     </message>
     <message>
         <source>Distribution:</source>

@@ -4,8 +4,8 @@
 #include <QSaveFile>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <string>
-#include <utility>
 
 #include "apps/common/matrix_reader.h"
 #include "apps/qorvex-gallery/model/table_input.h"
@@ -15,11 +15,14 @@ namespace qorvex::gallery {
 
 namespace {
 
+// What programs write for a missing number. An empty cell would make a row of one null blank.
+constexpr const char* kNull = "NA";
+
 std::string RowText(const TQorFloatVector& row) {
   std::string text;
   for (std::size_t i = 0; i < row.size(); ++i) {
     if (i > 0) text += ',';
-    if (!std::isnan(row[i])) text += Float2Str(row[i]);
+    text += std::isnan(row[i]) ? kNull : Float2Str(row[i]);
   }
   return text + '\n';
 }
@@ -50,13 +53,16 @@ QString MatrixText(const TQorFloatMatrix& matrix) {
 }
 
 TQorFloatMatrix MatrixOf(const QString& text) {
-  apps::TextInput input{"matrix",
-                        [rest = text.toStdString()](char* buffer, std::size_t size) mutable {
-                          const std::size_t count = rest.copy(buffer, size);
-                          rest.erase(0, count);
-                          return count;
-                        }};
-  return apps::ReadMatrix(std::move(input), {});
+  TQorFloatMatrix matrix;
+  for (const QString& row : text.split(u'\n', Qt::SkipEmptyParts)) {
+    TQorFloatVector values;
+    for (const QString& cell : row.split(u',')) {
+      values.Append(cell == kNull ? std::numeric_limits<Extended>::quiet_NaN()
+                                  : Str2Float(cell.toStdString()));
+    }
+    matrix.Append(values);
+  }
+  return matrix;
 }
 
 }  // namespace qorvex::gallery

@@ -15,11 +15,12 @@ namespace qorvex::gallery {
 [[nodiscard]] TQorFloatMatrix ReadMatrixFile(const QString& path, const Proceed& proceed);
 
 /// Writes a matrix so that all bits can be read again: decimal points, and commas between the
-/// elements. Nulls are empty. Returns why it could not; empty if it could.
+/// elements. Nulls are NA. Returns why it could not; empty if it could.
 [[nodiscard]] QString WriteMatrixFile(const QString& path, const TQorFloatMatrix& matrix);
 
 /// @{
-/// The same as a text. Reading throws apps::InputError.
+/// The same as a text, with nulls and infinities. Reading throws EConvertError; the rows have the
+/// lengths that the text has.
 [[nodiscard]] QString MatrixText(const TQorFloatMatrix& matrix);
 [[nodiscard]] TQorFloatMatrix MatrixOf(const QString& text);
 /// @}

@@ -208,6 +208,7 @@ void RegressionReport::AddCurve(std::vector<PlotLayer>& layers) const {
   PlotLayer single = mean;
   std::vector<QPointF> upper_mean, upper_single;
   for (int i = 0; i <= kSteps; ++i) {
+    // The difference of the ends may be beyond the range of extended precision.
     const Extended at = std::lerp(least, greatest, static_cast<Extended>(i) / kSteps);
     const Prediction predicted = fit_->Predict({at});
     line.points.push_back(Point(at, predicted.value));

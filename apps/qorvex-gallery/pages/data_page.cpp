@@ -65,6 +65,8 @@ void DataPage::ConnectParts() {
   connect(view_, &SheetView::ColumnChosen, columns_, &ColumnBox::SetColumn);
   // Messages are about the table before.
   connect(&sheet_, &Sheet::modelReset, this, [this] { note_.clear(); });
+  connect(columns_, &ColumnBox::ColumnChanged, this,
+          [this] { Q_EMIT ColumnShown(columns_->Column()); });
   connect(&sheet_, &Sheet::Changed, this, &DataPage::Refresh);
   for (ColumnBox* const box : {columns_, groups_})
     connect(box, &ColumnBox::ColumnChanged, this, &DataPage::Refresh);

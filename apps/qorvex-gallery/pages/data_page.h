@@ -50,6 +50,8 @@ class DataPage : public Page {
  Q_SIGNALS:
   /// A reading in the background has ended: its table is shown, or it was refused or stopped.
   void ReadingEnded();
+  /// Another column is shown, -1 for none.
+  void ColumnShown(int column);
 
  private:
   QLayout* MakeHeader();

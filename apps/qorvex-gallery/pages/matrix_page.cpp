@@ -12,7 +12,6 @@
 #include <memory>
 #include <utility>
 
-#include "apps/common/input_error.h"
 #include "apps/qorvex-gallery/model/error_text.h"
 #include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/model/matrix_file.h"
@@ -68,7 +67,8 @@ MatrixPage::MatrixPage(QWidget* parent)
       refresh_(this),
       patience_(this),
       work_(this),
-      reading_(this) {
+      reading_a_(this),
+      reading_b_(this) {
   setObjectName(QStringLiteral("matrixPage"));
   properties_->setObjectName(QStringLiteral("properties"));
   auto* const panel = new SidePanel;
@@ -223,18 +223,18 @@ void MatrixPage::Open(const QString& path) {
 
 void MatrixPage::OpenIn(MatrixPanel& panel, const QString& path) {
   const auto matrix = std::make_shared<TQorFloatMatrix>();
+  BackgroundWork& reading = &panel == a_ ? reading_a_ : reading_b_;
   message_->SetText({});
   panel.SetRemark(tr("reading %1…").arg(QFileInfo(path).fileName()));
-  reading_.Start(
-      [matrix, path](const Proceed& proceed) { *matrix = ReadMatrixFile(path, proceed); },
-      [this, &panel, matrix] {
-        panel.SetRemark({});
-        panel.Replace(*matrix);
-      },
-      [this, &panel](const QString& why) {
-        panel.SetRemark({});
-        message_->SetText(why);
-      });
+  reading.Start([matrix, path](const Proceed& proceed) { *matrix = ReadMatrixFile(path, proceed); },
+                [&panel, matrix] {
+                  panel.SetRemark({});
+                  panel.Replace(*matrix);
+                },
+                [this, &panel](const QString& why) {
+                  panel.SetRemark({});
+                  message_->SetText(why);
+                });
 }
 
 void MatrixPage::Choose() {
@@ -333,8 +333,8 @@ void MatrixPage::SetState(const QVariantMap& state) {
     try {
       const QString text = state[panel->objectName()].toString();
       if (!text.isEmpty()) panel->SetMatrix(MatrixOf(text));
-    } catch (const apps::InputError&) {
-      // Settings that were changed by hand, or a null.
+    } catch (const std::exception&) {
+      // Settings that were changed by hand; the example stays.
     }
   }
   Choose();

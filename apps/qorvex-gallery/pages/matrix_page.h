@@ -87,7 +87,8 @@ class MatrixPage : public Page {
   // When the computation takes long enough to be mentioned.
   QTimer patience_;
   BackgroundWork work_;
-  BackgroundWork reading_;
+  BackgroundWork reading_a_;
+  BackgroundWork reading_b_;
 };
 
 }  // namespace qorvex::gallery

@@ -13,9 +13,9 @@
 #include <QUndoStack>
 #include <QVBoxLayout>
 #include <algorithm>
-#include <limits>
 #include <utility>
 
+#include "apps/qorvex-gallery/model/matrix_file.h"
 #include "apps/qorvex-gallery/model/sheet.h"
 #include "apps/qorvex-gallery/plot/plot_view.h"
 #include "apps/qorvex-gallery/widgets/column_box.h"
@@ -23,7 +23,6 @@
 #include "apps/qorvex-gallery/widgets/figure_table.h"
 #include "apps/qorvex-gallery/widgets/heading.h"
 #include "apps/qorvex-gallery/widgets/message_bar.h"
-#include "qorvex/base/text.h"
 #include "qorvex/base_controls/text_cell.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 
@@ -44,31 +43,6 @@ constexpr std::pair<int, int> kExamplePairs[] = {
     {1959, 123366}, {1960, 125368}, {1961, 127852}, {1962, 130081}};
 
 // Empty for NaN.
-QString TextOf(const TQorFloatMatrix& matrix) {
-  QStringList rows;
-  for (const TQorFloatVector& row : matrix) {
-    QStringList cells;
-    for (const Extended value : row)
-      cells += value != value ? QString() : QString::fromStdString(Float2Str(value));
-    rows += cells.join(u'\t');
-  }
-  return rows.join(u'\n');
-}
-
-TQorFloatMatrix MatrixOf(const QString& text) {
-  TQorFloatMatrix matrix;
-  if (text.isEmpty()) return matrix;
-  for (const QString& row : text.split(u'\n')) {
-    TQorFloatVector values;
-    for (const QString& cell : row.split(u'\t')) {
-      values.Append(cell.isEmpty() ? std::numeric_limits<Extended>::quiet_NaN()
-                                   : Str2Float(cell.toStdString()));
-    }
-    matrix.Append(values);
-  }
-  return matrix;
-}
-
 // As high as its contents, unless that leaves too little for the diagrams: then it scrolls.
 class TableArea : public QScrollArea {
  public:
@@ -385,7 +359,7 @@ QVariantMap RegressionPage::State() const {
                        {"degree", degree_->value()},
                        {"response", response_->State()},
                        {"predictors", predictors_->State()}};
-  if (own_->NoOfRows() <= kMostKeptRows) state["own"] = TextOf(own_->Matrix());
+  if (own_->NoOfRows() <= kMostKeptRows) state["own"] = MatrixText(own_->Matrix());
   return state;
 }
 

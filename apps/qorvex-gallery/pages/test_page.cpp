@@ -195,6 +195,10 @@ QString TestPage::RemarkOn(std::size_t left_out) const {
                        : tr("without %L1 missing values").arg(left_out);
 }
 
+void TestPage::SuggestColumn(int column) {
+  samples_form_->SuggestColumn(column);
+}
+
 QVariantMap TestPage::State() const {
   return {{"test", test_->currentData()},
           {"samples", samples_form_->State()},

@@ -42,6 +42,9 @@ class TestPage : public Page {
   void SetState(const QVariantMap& state) override;
   [[nodiscard]] PageReport Report() const override;
 
+  /// Tests this column of the sheet, unless the user has chosen one here.
+  void SuggestColumn(int column);
+
  private:
   void FillTests();
   QWidget* MakeResults();

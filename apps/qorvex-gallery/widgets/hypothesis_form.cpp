@@ -74,7 +74,7 @@ void HypothesisForm::SetTest(const apps::HypothesisTest& test) {
   const apps::NullValue& null_value = test.null_value;
   const bool has_number = null_value.option != nullptr;
   const QString label = TestTexts(test).NullValue();
-  SetRows(*layout_, {{null_value_, tr("%1:").arg(label), has_number},
+  SetRows(*layout_, {{null_value_, label + QLatin1Char(':'), has_number},
                      {family_, tr("Distribution:"), test.takes_family},
                      {parameters_, {}, test.takes_family},
                      {alternative_, tr("Alternative:"), test.has_alternative},

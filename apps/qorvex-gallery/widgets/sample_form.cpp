@@ -57,6 +57,7 @@ SampleForm::SampleForm(const Sheet& sheet, QWidget* parent)
   list_->setObjectName("columns");
   list_->setAccessibleName(tr("Columns"));
   list_->setFixedHeight(6 * fontMetrics().height());
+  list_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
   yates_->setObjectName("yates");
   layout_->setContentsMargins(0, 0, 0, 0);
   layout_->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
@@ -75,6 +76,7 @@ void SampleForm::Connect() {
     connect(box, &ColumnBox::ColumnChanged, this, &SampleForm::Changed);
   for (QSpinBox* const box : {fitted_, successes_, trials_})
     connect(box, &QSpinBox::valueChanged, this, &SampleForm::Changed);
+  connect(first_, &QComboBox::activated, this, [this] { is_first_chosen_ = true; });
   connect(list_, &ColumnList::ColumnsChanged, this, &SampleForm::Changed);
   connect(yates_, &QCheckBox::toggled, this, &SampleForm::Changed);
 }
@@ -82,6 +84,10 @@ void SampleForm::Connect() {
 void SampleForm::SetInput(TestInput input) {
   input_ = input;
   ShowRows();
+}
+
+void SampleForm::SuggestColumn(int column) {
+  if (!is_first_chosen_) first_->SetColumn(column);
 }
 
 bool SampleForm::HasGroups() const {
@@ -137,11 +143,13 @@ QVariantMap SampleForm::State() const {
           {"second", second_->State()},       {"proportions", proportions_->State()},
           {"labels", labels_->State()},       {"columns", list_->State()},
           {"yates", yates_->isChecked()},     {"fitted", fitted_->value()},
-          {"successes", successes_->value()}, {"trials", trials_->value()}};
+          {"successes", successes_->value()}, {"trials", trials_->value()},
+          {"chosen", is_first_chosen_}};
 }
 
 void SampleForm::SetState(const QVariantMap& state) {
   if (state.isEmpty()) return;
+  is_first_chosen_ = state["chosen"].toBool();
   kind_->setCurrentIndex(state["kind"].toInt());
   for (ColumnBox* const box : {first_, second_, proportions_, labels_})
     box->SetState(state[box->objectName()].toList());

@@ -31,6 +31,8 @@ class SampleForm : public QWidget {
   ~SampleForm() override;
 
   void SetInput(apps::TestInput input);
+  /// Chooses the column of the first sample, unless the user has chosen one.
+  void SuggestColumn(int column);
   /// Sets the columns, the groups and the counts of an order.
   void Fill(TestOrder& order) const;
 
@@ -51,6 +53,7 @@ class SampleForm : public QWidget {
   [[nodiscard]] bool HasList() const;
 
   const Sheet& sheet_;
+  bool is_first_chosen_ = false;
   apps::TestInput input_ = apps::TestInput::kSample;
   QFormLayout* layout_;
   // Columns or groups.

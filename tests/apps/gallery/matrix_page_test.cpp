@@ -170,6 +170,8 @@ TEST_F(MatrixPageTest, KeepsItsStateAndOpensFiles) {
   ASSERT_TRUE(file.open());
   file.write("1,2,3\n4,5,0.1\n");
   file.close();
+  // The second reading stops the first one.
+  page.Open(file.fileName());
   page.Open(file.fileName());
   Finish();
   EXPECT_EQ(a->Matrix()[1][2], 0.1L);
@@ -178,6 +180,12 @@ TEST_F(MatrixPageTest, KeepsItsStateAndOpensFiles) {
   other.SetState(page.State());
   EXPECT_EQ(other.findChild<MatrixPanel*>("a")->Matrix(), a->Matrix());
   EXPECT_TRUE(other.findChild<QRadioButton*>("product")->isChecked());
+  // Nulls and infinities are kept, too.
+  b->Replace({{kNaN}, {-kInfinity}});
+  other.SetState(page.State());
+  const TQorFloatMatrix kept = other.findChild<MatrixPanel*>("b")->Matrix();
+  EXPECT_TRUE(std::isnan(kept[0][0]));
+  EXPECT_EQ(kept[1][0], -kInfinity);
   EXPECT_EQ(page.Report().parts.size(), 4);
 }
 
