@@ -56,11 +56,6 @@ struct CellPlace {
 [[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place,
                                 char decimal_sign = '.');
 
-/// As NumberIn for a cell of a table with this format, which RowReader has completed; NaN if the
-/// value is missing.
-[[nodiscard]] Extended NumberOrMissing(std::string_view cell, const CellPlace& place,
-                                       const TableFormat& format);
-
 /// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
 /// would have to be rounded, and a program that writes an exponent has probably rounded already.
 /// Throws InputError with the position of the cell: kEmptyCell, kNotANumber, kOutOfRange, also for
