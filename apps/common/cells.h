@@ -27,7 +27,7 @@ namespace qorvex::apps {
 [[nodiscard]] bool IsText(std::string_view cell, char decimal_sign = '.');
 
 /// The text of a number with a point in place of the decimal comma. A point becomes a comma, so
-/// that 1.234,5 is no number. The buffer holds the text, behind which kReadableBehind bytes can be
+/// that 1.234,5 is not a number. The buffer holds the text, behind which kReadableBehind bytes can be
 /// read.
 [[nodiscard]] std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer);
 
