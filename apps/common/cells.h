@@ -10,7 +10,6 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/row_reader.h"
-#include "apps/common/table_format.h"
 #include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 

@@ -159,8 +159,9 @@ void ColumnCollector::AddCell(std::string_view cell, std::size_t index, const Ro
 
   FirstCells& first = first_cells_[index];
   if (first.text) {
-    if (FindNumber(cell, decimal_sign_)) std::rethrow_exception(first.text);
-    return;
+    if (!FindNumber(cell, decimal_sign_)) return;
+    first.number_line = place.line;
+    std::rethrow_exception(first.text);
   }
   try {
     AddNumber(cell, column, place);

@@ -111,6 +111,7 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x,y\n1,2\n3,\n", "3: column 2 (y): the cell is empty", {.format = kComplete}},
            {"x,y\n1,2\n3,a\tb\n", "3: column 2 (y): \"a\\tb\" is not a number"},
            {"x,y\n1,a\n3,b\n4,5\nc,6\n", "2: column 2 (y): \"a\" is not a number"},
+           {"a\nb\n2\n", "1: column 1: \"a\" is not a number", {.format = {.header = false}}},
            {"x\nNA\n2\n", "2: column 1 (x): \"NA\" is not a number", {.format = kComplete}},
            {"1\nnan\n", "2: column 1: \"nan\" is not a finite number", {.format = kComplete}},
            {"x\n-inf\n1\n", "2: column 1 (x): \"-inf\" is not a finite number"},
