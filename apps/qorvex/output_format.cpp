@@ -33,7 +33,7 @@ void AddCount(CLI::App& command, const char* option, int least, std::optional<in
 void OutputFormat::AddDigitsTo(CLI::App& command, const char* default_digits) {
   AddCount(command, "--digits", 1, digits,
            std::string("Significant digits of every figure. Default: ") + default_digits);
-  AddCount(command, "--decimals", 0, decimals, "Decimals of every figure, instead");
+  AddCount(command, "--decimals", 0, decimals, "Decimals of every figure; excludes --digits");
   command.get_option("--decimals")->excludes(command.get_option("--digits"));
   command.add_flag("--group", grouped, "A blank between groups of three digits");
 }
