@@ -50,6 +50,10 @@ struct TableArguments {
   void RemarkOn(const Table& table) const;
 };
 
+/// Adds an option that takes lists of columns by name or number, and may be repeated.
+CLI::Option& AddColumns(CLI::App& command, const std::string& option,
+                        std::vector<std::string>& columns, const std::string& description);
+
 /// The column that was chosen by this name or number.
 [[nodiscard]] const TableColumn& ColumnOf(const std::vector<TableColumn>& columns,
                                           const std::string& chosen);

@@ -122,7 +122,7 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"1e5000\n", "1: column 1: \"1e5000\" is beyond the range of extended precision"},
            {"\nx,y\n1,2\n3\n", "4: the row has 1 cell where line 2 has 2"},
            {"x,y\n", " there is no column \"3\"; the columns are 1 (x), 2 (y)", {{"3"}}},
-           {"x,y\n", " there is no column \"0\"; the columns are 1 (x), 2 (y)", {{"0"}}},
+           {"x,\n", " there is no column \"0\"; the columns are 1 (x), 2", {{"0"}}},
            {"1\n", " there is no column \"1x\"; the table has 1 column and no header", {{"1x"}}},
            {"x,y,x\n1,2,3\n", " columns 1 and 3 are both named \"x\"", {{"x"}}},
        }) {
