@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 
 #include "qorvex/base/currency_text.h"
 #include "qorvex/base/errors.h"
@@ -123,11 +122,6 @@ Extended NumberIn(std::string_view cell, const CellPlace& place, char decimal_si
     FailAt(place, InputFault::kNotANumber, Excerpt(cell) + " is not a finite number");
   }
   return value;
-}
-
-Extended NumberOrMissing(std::string_view cell, const CellPlace& place, const TableFormat& format) {
-  if (format.missing.Contains(cell)) return std::numeric_limits<Extended>::quiet_NaN();
-  return NumberIn(cell, place, *format.decimal_sign);
 }
 
 Currency AmountIn(std::string_view cell, const CellPlace& place, char decimal_sign) {

@@ -10,7 +10,6 @@
 
 #include "apps/common/input_error.h"
 #include "apps/common/row_reader.h"
-#include "apps/common/table_format.h"
 #include "qorvex/base/currency.h"
 #include "qorvex/base/element_types.h"
 
@@ -27,7 +26,7 @@ namespace qorvex::apps {
 [[nodiscard]] bool IsText(std::string_view cell, char decimal_sign = '.');
 
 /// The text of a number with a point in place of the decimal comma. A point becomes a comma, so
-/// that 1.234,5 is no number. The buffer holds the text, behind which kReadableBehind bytes can be
+/// that 1.234,5 is not a number. The buffer holds the text, behind which kReadableBehind bytes can be
 /// read.
 [[nodiscard]] std::string_view WithDecimalPoint(std::string_view cell, std::string& buffer);
 
@@ -55,11 +54,6 @@ struct CellPlace {
 /// NaN; kOutOfRange.
 [[nodiscard]] Extended NumberIn(std::string_view cell, const CellPlace& place,
                                 char decimal_sign = '.');
-
-/// As NumberIn for a cell of a table with this format, which RowReader has completed; NaN if the
-/// value is missing.
-[[nodiscard]] Extended NumberOrMissing(std::string_view cell, const CellPlace& place,
-                                       const TableFormat& format);
 
 /// The amount of money in a cell, exactly: a sign, digits and at most four decimals. More decimals
 /// would have to be rounded, and a program that writes an exponent has probably rounded already.

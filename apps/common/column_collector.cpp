@@ -36,6 +36,7 @@ ColumnCollector ColumnCollector::ForMoreRows() const {
     column = {.number = column.number, .name = column.name, .role = column.role};
   collector.first_cells_.assign(first_cells_.size(), {});
   collector.rows_ = 0;
+  collector.skipped_rows_.clear();
   collector.has_rows_ = false;
   collector.blank_lines_ = 0;
   return collector;
@@ -66,14 +67,15 @@ void ColumnCollector::AddAllRows(RowScanner& rows) {
 }
 
 void ColumnCollector::AddParts(std::span<Part> parts, const std::string& input, unsigned threads) {
+  std::vector<std::size_t> first_rows;
   for (const Part& part : parts) {
     if (part.rows.has_rows_) AddBlankLines(input, part.first_line, std::exchange(blank_lines_, 0));
     AddFirstCells(part.rows.first_cells_);
     if (part.fault) std::rethrow_exception(part.fault);
     blank_lines_ += part.rows.blank_lines_;
-  }
-  std::vector<std::size_t> first_rows;
-  for (const Part& part : parts) {
+    const std::size_t rows_before = rows_ + skipped_rows_.size();
+    for (const std::size_t row : part.rows.skipped_rows_)
+      skipped_rows_.push_back(rows_before + row);
     first_rows.push_back(rows_);
     rows_ += part.rows.rows_;
   }
@@ -109,6 +111,7 @@ Table ColumnCollector::Finish(const std::string& input) {
   }
   if (table.columns.empty() || table.columns[0].role != ColumnRole::kValues)
     RefuseAll(input, table.left_out);
+  table.skipped_rows = std::move(skipped_rows_);
   if (!needs_whole_rows_ || first_cells_.empty()) return table;
   KeepWholeRows(table.columns, rows_);
   if (table.columns[0].numbers.empty())
@@ -156,8 +159,9 @@ void ColumnCollector::AddCell(std::string_view cell, std::size_t index, const Ro
 
   FirstCells& first = first_cells_[index];
   if (first.text) {
-    if (FindNumber(cell, decimal_sign_)) std::rethrow_exception(first.text);
-    return;
+    if (!FindNumber(cell, decimal_sign_)) return;
+    first.number_line = place.line;
+    std::rethrow_exception(first.text);
   }
   try {
     AddNumber(cell, column, place);
@@ -217,6 +221,8 @@ void ColumnCollector::AddBlankLines(const std::string& input, std::size_t end, s
 }
 
 void ColumnCollector::SkipRow() {
+  if (needs_whole_rows_ && first_cells_.empty())
+    skipped_rows_.push_back(rows_ + skipped_rows_.size());
   for (TableColumn& column : columns_) ++column.missing;
 }
 

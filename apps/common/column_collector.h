@@ -84,6 +84,8 @@ class ColumnCollector {
   std::vector<FirstCells> first_cells_;
   // Those that were not skipped.
   std::size_t rows_ = 0;
+  // As in Table.
+  std::vector<std::size_t> skipped_rows_;
   bool has_rows_ = false;
   // After the last row.
   std::size_t blank_lines_ = 0;

@@ -15,14 +15,15 @@ namespace qorvex::apps {
 
 namespace {
 
-// "the columns are 1 (x), 2 (y)" or "the table has 3 columns and no header".
+// "the columns are 1 (x), 2" or "the table has 3 columns and no header".
 std::string DescribeColumns(std::span<const std::string> names, std::size_t width) {
   if (names.empty()) return "the table has " + Cardinal(width, "column") + " and no header";
   constexpr std::size_t most_shown = 20;
   std::string text = "the columns are ";
   for (std::size_t i = 0; i < std::min(width, most_shown); ++i) {
     if (i != 0) text += ", ";
-    text += Int2EStr(i + 1) + " (" + Shortened(names[i]) + ')';
+    text += Int2EStr(i + 1);
+    if (!names[i].empty()) text += " (" + Shortened(names[i]) + ')';
   }
   if (width > most_shown) text += " and " + Int2EStr(width - most_shown) + " more";
   return text;

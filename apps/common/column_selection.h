@@ -15,7 +15,7 @@ namespace qorvex::apps {
 /// The chosen columns, still empty and without duplicates, or all columns but the names of rows if
 /// none is chosen; then the weights and the labels. There are no names without a header. Throws
 /// InputError (kNoSuchColumn) for a column that does not exist or is chosen twice for different
-/// purposes, and if there is none beside the weights or the labels.
+/// purposes, and if only the weights or the labels are left.
 [[nodiscard]] std::vector<TableColumn> ChosenColumns(const TableSelection& selection,
                                                      std::span<const std::string> names,
                                                      std::size_t width, bool has_row_names,

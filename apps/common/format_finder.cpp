@@ -173,8 +173,7 @@ FoundFormat FindFormat(std::string_view sample, bool is_whole, const TableFormat
       wanted.delimiter ? std::string(1, *wanted.delimiter) : PossibleDelimiters(sample);
   // If the decimal sign is the comma, it is the last that would delimit.
   if (wanted.decimal_sign == ',')
-    std::ranges::rotate(delimiters,
-                        std::ranges::find_if_not(delimiters, [](char c) { return c == ','; }));
+    std::stable_partition(delimiters.begin(), delimiters.end(), [](char c) { return c != ','; });
   Division best;
   for (const char delimiter : delimiters) {
     Division division = Divide(sample, is_whole, delimiter, wanted);

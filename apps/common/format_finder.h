@@ -19,7 +19,7 @@ struct DelimiterLine {
   std::size_t length;
 };
 
-/// The line at the start of the text; empty if there is none.
+/// The line at the start of the text; empty if the text has no such line.
 [[nodiscard]] std::optional<DelimiterLine> FindDelimiterLine(std::string_view text);
 
 /// What the first rows of a text say.

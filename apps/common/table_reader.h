@@ -74,6 +74,9 @@ struct Table {
   std::vector<std::string> header = {};
   /// If no column was chosen, those without a number, without the names of rows.
   std::vector<LeftOutColumn> left_out = {};
+  /// If columns were chosen, and rows were skipped as a whole: which of all rows, from 0. A blank
+  /// line between rows is a row.
+  std::vector<std::size_t> skipped_rows = {};
   /// The format that was found.
   TableFormat format = {};
   /// As for RowReader.

@@ -37,6 +37,8 @@ void AddList(CLI::App& app) {
   app.add_flag_callback(
       "--list",
       [&app] {
+        // Words that are left over are errors, which the parser reports.
+        if (app.remaining_size() > 0) return;
         // The parser prints the text and ends, as for --version.
         throw CLI::CallForVersion(ListOf(app), 0);
       },

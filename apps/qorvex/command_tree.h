@@ -36,7 +36,7 @@ void AddAliases(CLI::App& command, const std::vector<const char*>& aliases);
 /// The names of an option: "--count", "-n"; none for a positional argument.
 [[nodiscard]] std::vector<std::string> NamesOf(const CLI::Option& option);
 
-/// The command below a command that has this name; null if there is none.
+/// The command below a command that has this name; null if it has no such command.
 [[nodiscard]] const CLI::App* FindCommand(const CLI::App& app, const std::string& word);
 
 /// Makes an app require exactly one of the commands that it has. --help and messages call them by

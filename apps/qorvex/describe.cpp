@@ -91,8 +91,14 @@ std::vector<GroupLabel> LabelsOf(const std::vector<TableColumn>& columns,
                                  const std::vector<std::string>& labels) {
   std::vector<GroupLabel> group;
   for (std::size_t i = 0; i < columns.size(); ++i) {
-    const std::string& name = columns[i].name;
-    group.push_back({name.empty() ? Int2EStr(columns[i].number) : name, labels[i]});
+    const std::string number = Int2EStr(columns[i].number);
+    std::string name = columns[i].name;
+    if (name.empty()) {
+      name = number;
+    } else if (std::ranges::count(columns, name, &TableColumn::name) > 1) {
+      name += " (" + number + ')';  // a key of JSON only once
+    }
+    group.push_back({std::move(name), labels[i]});
   }
   return group;
 }

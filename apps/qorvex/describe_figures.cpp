@@ -13,15 +13,16 @@ namespace qorvex::apps {
 namespace {
 
 [[noreturn]] void RefuseFigure(const std::string& name) {
-  std::vector<std::string> names;
+  std::vector<std::string> keys, names;
   for (const FigureName& figure : FigureNames()) {
+    keys.push_back(figure.key);
     names.push_back(figure.key);
     names.insert(names.end(), figure.aliases.begin(), figure.aliases.end());
   }
   const std::vector<std::string> similar = SimilarWords(name, names);
   throw CLI::ValidationError(
       "--figures", "unknown figure " + Excerpt(name) +
-                       (similar.empty() ? "; the figures are " + Alternatives(names)
+                       (similar.empty() ? "; the figures are " + Alternatives(keys)
                                         : "; did you mean " + Alternatives(similar) + '?'));
 }
 

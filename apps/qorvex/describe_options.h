@@ -24,7 +24,7 @@ struct DescribeOptions {
   OutputFormat output = {};
   unsigned threads = 1;
   std::vector<WrittenNumber> quantiles = {};
-  /// Those of the usual report if there are none.
+  /// Empty for those of the usual report.
   std::vector<const FigureName*> figures = {};
   /// What the trimmed mean leaves out at each end.
   WrittenNumber trim = {"0.1", 0.1L};

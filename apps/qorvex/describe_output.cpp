@@ -120,6 +120,8 @@ void WriteHeading(JsonWriter& json, const DescribeOptions& options, const TableC
       json.EndObject();
     }
     json.EndArray();
+    json.Key("left_out");
+    json.Integer(labels[0].missing);
   }
   if (!options.quantiles.empty()) {
     json.Key("quantile_type");

@@ -38,7 +38,7 @@ struct GroupLabel {
 /// A column, or the part of it in a group of rows.
 struct DescribedSample {
   TableColumn column;
-  /// Empty if there are none.
+  /// Without numbers if the rows have no weights.
   TableColumn weights;
   /// One for each column of labels.
   std::vector<GroupLabel> groups;

@@ -5,6 +5,7 @@
 #include "apps/common/similar_words.h"
 #include "apps/common/text_input.h"
 #include "apps/qorvex/parameters.h"
+#include "apps/qorvex/text_output.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -55,12 +56,18 @@ std::vector<Extended> DistPoints::ReadTable() const {
         InputFault::kNoSuchColumn, name,
         "the points are in one of " + Cardinal(columns.size(), "column") + "; --column chooses it");
   }
-  const TQorFloatVector values = columns.front().numbers.Values();
+  const TableColumn& column = columns.front();
+  // The lines of the output no longer match the rows.
+  if (column.missing > 0) {
+    WriteRemark(OnOneLine(name) + ": " + column.Title() + ": left out " +
+                Cardinal(column.missing, "missing value"));
+  }
+  const TQorFloatVector values = column.numbers.Values();
   std::vector<Extended> points(values.begin(), values.end());
   for (const Extended point : points) {
     if (const char* const wrong = WhatIsWrong(point, kind_)) {
       throw InputError(InputFault::kOutOfRange, name,
-                       columns.front().Title() + ": " + Float2Str(point) + ' ' + wrong);
+                       column.Title() + ": " + Float2Str(point) + ' ' + wrong);
     }
   }
   return points;

@@ -30,7 +30,7 @@ class DistPoints {
   /// Whether one point was given by an option.
   [[nodiscard]] bool IsOne() const { return list_.size() == 1; }
 
-  /// The points in their order. Throws CLI::ValidationError if there are none, InputError if the
+  /// The points in their order. Throws CLI::ValidationError without any, InputError if the
   /// table has a fault, more than one column or a number of another kind.
   [[nodiscard]] std::vector<Extended> Read() const;
 

@@ -29,20 +29,23 @@ void AddDegree(CLI::App& command, std::size_t& degree) {
       ->required();
 }
 
-void AddColumns(CLI::App& command, const FitCurve& curve, FitArguments& arguments) {
-  CLI::Option& x =
-      *command
-           .add_option(
-               "--x", arguments.x,
-               curve.has_several_predictors
-                   ? "A column of x, by name or by number from 1; a name takes precedence.\n"
-                     "Repeat it for more columns"
-                   : "The column of x, by name or by number from 1;\n"
-                     "a name takes precedence")
-           ->type_name("NAME|N")
-           ->required()
-           ->allow_extra_args(false);
-  if (!curve.has_several_predictors) x.expected(1);
+void AddFitColumns(CLI::App& command, const FitCurve& curve, FitArguments& arguments) {
+  if (curve.has_several_predictors) {
+    AddColumns(command, "--x", arguments.x,
+               "A column of x, by name or by number from 1; a name takes precedence. Several\n"
+               "have commas between them; a name with a comma is quoted as in CSV.\n"
+               "Repeat it for more columns")
+        .required();
+  } else {
+    command
+        .add_option("--x", arguments.x,
+                    "The column of x, by name or by number from 1;\n"
+                    "a name takes precedence")
+        ->type_name("NAME|N")
+        ->required()
+        ->allow_extra_args(false)
+        ->expected(1);
+  }
   command.add_option("--y", arguments.y, "The column of y")->type_name("NAME|N")->required();
   command
       .add_option("--weights", arguments.weights,
@@ -84,7 +87,7 @@ void AddResults(CLI::App& command, FitArguments& arguments) {
 void FitArguments::AddTo(CLI::App& command) {
   table.selection.whole_rows = true;
   degree = curve->degree;
-  AddColumns(command, *curve, *this);
+  AddFitColumns(command, *curve, *this);
   if (curve->IsPolynomial() && degree == 0) AddDegree(command, degree);
   command.add_flag("--no-intercept", no_intercept, "Leave the constant out");
   AddResults(command, *this);

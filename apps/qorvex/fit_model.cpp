@@ -154,8 +154,10 @@ FitColumns ReadColumns(const FitArguments& arguments) {
   table.selection.columns = arguments.x;
   table.selection.columns.push_back(arguments.y);
   if (arguments.weights) table.selection.columns.push_back(*arguments.weights);
-  const std::vector<TableColumn> read = table.Read();
+  Table all = table.ReadAll();
+  const std::vector<TableColumn>& read = all.columns;
   FitColumns columns;
+  columns.skipped_rows = std::move(all.skipped_rows);
   columns.y = ColumnOf(read, arguments.y);
   for (const std::string& chosen : arguments.x) {
     const TableColumn& x = ColumnOf(read, chosen);

@@ -19,6 +19,8 @@ struct FitColumns {
   std::vector<TableColumn> x;
   TableColumn y;
   std::optional<TableColumn> weights;
+  /// As in Table.
+  std::vector<std::size_t> skipped_rows;
 
   [[nodiscard]] Columns Predictors() const;
 };

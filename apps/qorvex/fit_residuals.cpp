@@ -25,8 +25,11 @@ std::string ResidualTable(const FitColumns& columns, const LinearFit& fit,
       columns.weights ? fit.Leverages(predictors, ViewOf(columns.weights->numbers))
                       : fit.Leverages(predictors);
   std::string table = "row,fitted,residual,leverage\n";
-  for (std::size_t i = 0; i < fitted.size(); ++i) {
-    table += Int2EStr(i + 1) + ',';
+  auto skipped = columns.skipped_rows.begin();
+  std::size_t row = 0;
+  for (std::size_t i = 0; i < fitted.size(); ++i, ++row) {
+    for (; skipped != columns.skipped_rows.end() && *skipped == row; ++row) ++skipped;
+    table += Int2EStr(row + 1) + ',';
     AppendLine(table, std::initializer_list<Extended>{fitted[i], residuals[i], leverages[i]},
                format);
   }

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/common/cells.h"
 #include "apps/common/class_table.h"
 #include "apps/common/input_error.h"
 #include "apps/common/sample_figures.h"
@@ -27,7 +28,7 @@ constexpr const char* kHelp = R"(
 
 The table of classes of equal width, and the figures that remain when every value
 counts as the middle of its class. The file has the values, or with --counts the
-number of values in each class.
+number of values in each class. --csv and --table give the classes only.
 
 Examples:
   qorvex grouped speeds.csv --column speed
@@ -54,6 +55,8 @@ struct GroupedArguments {
 
 TQorLWordVector CountsOf(const TableColumn& column, const GroupedArguments& arguments) {
   constexpr Extended most = std::numeric_limits<std::uint32_t>::max();
+  // The classes behind it would move.
+  if (column.missing > 0) Refuse(arguments, column, "a count is missing; 0 stands for none");
   TQorLWordVector counts;
   Extended sum = 0;
   for (const Extended count : column.numbers.Values()) {
@@ -114,7 +117,11 @@ std::string JsonOf(const TableColumn& column, const ResultTable& classes,
 std::string OutputOf(const TableColumn& column, const ClassTable& table,
                      const GroupedArguments& arguments) {
   const ResultTable classes = RowsOf(table);
-  const std::vector<Figure> figures = GroupedFigures(table, arguments.population);
+  std::vector<Figure> figures = GroupedFigures(table, arguments.population);
+  if (arguments.output.IsJson() || column.missing > 0) {
+    figures.insert(figures.begin() + 1,
+                   {"missing", "Missing Values:", std::uint64_t{column.missing}});
+  }
   if (arguments.output.IsJson()) return JsonOf(column, classes, figures, arguments);
   const FigureFormat format =
       arguments.output.ForReport(arguments.has_counts ? 0 : SignificantDigits(column.numbers));
@@ -135,7 +142,14 @@ void Group(const GroupedArguments& arguments) {
         InputFault::kNoSuchColumn, InputName(arguments.table.file),
         "there are " + Int2EStr(columns.size()) + " columns; --column, or --counts, chooses one");
   }
-  WriteResult(OutputOf(columns[0], TableOf(columns[0], arguments), arguments));
+  const TableColumn& column = columns[0];
+  const std::string output = OutputOf(column, TableOf(column, arguments), arguments);
+  const bool has_figures = arguments.output.IsJson() || arguments.output.form == OutputForm::kText;
+  if (!has_figures && column.missing > 0) {
+    WriteRemark(OnOneLine(InputName(arguments.table.file)) + ": " + column.Title() + ": left out " +
+                Cardinal(column.missing, "missing value"));
+  }
+  WriteResult(output);
 }
 
 }  // namespace
@@ -162,7 +176,8 @@ void AddGrouped(CLI::App& program) {
             arguments->table.selection.columns = {column};
             arguments->has_counts = true;
           },
-          "The column of the numbers of values in the classes, which follow one another")
+          "The column of the numbers of values in the classes, which follow one another;\n"
+          "none may be missing")
       ->type_name("NAME|N")
       ->needs(&lower)
       ->needs(&width)

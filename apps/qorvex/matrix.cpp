@@ -181,7 +181,7 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
   } else {
     command.add_option("FILE", arguments->files, "The matrices; - is standard input")
         ->type_name("")
-        ->expected(2, CLI::detail::expected_max_vector_size)
+        ->expected(1, CLI::detail::expected_max_vector_size)
         ->required();
   }
   AddTextFormat(command, arguments->format);
@@ -204,7 +204,11 @@ void AddOperation(CLI::App& matrix, const MatrixOperation& operation) {
   }
   command.footer(std::string(operation.help) + kRowsHelp + kTextHelp + kResultHelp +
                  kExitStatusHelp + kNothingPrintedHelp);
-  command.callback([&operation, arguments] { Run(operation, *arguments); });
+  command.callback([&operation, arguments] {
+    if (arguments->files.size() < operation.least_matrices)
+      throw CLI::ValidationError("FILE", "two or more matrices are needed");
+    Run(operation, *arguments);
+  });
 }
 
 }  // namespace

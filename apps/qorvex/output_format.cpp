@@ -15,15 +15,16 @@ void AddCount(CLI::App& command, const char* option, int least, std::optional<in
   const std::string range = Int2EStr(least) + " to " + Int2EStr(kMostDigits);
   // Prevents the parser of options from reading 010 as eight and 0x10 as sixteen. Returns the
   // error.
-  const auto plain_decimal = [range](std::string& text) -> std::string {
-    if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos)
-      return Excerpt(text) + " is not a whole number from " + range;
+  const auto plain_decimal = [range, least](std::string& text) -> std::string {
+    const std::string wrong = Excerpt(text) + " is not a whole number from " + range;
+    if (text.empty() || text.find_first_not_of("0123456789") != std::string::npos) return wrong;
     text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
-    return "";
+    constexpr std::size_t most_figures = 3;
+    const int value = text.size() > most_figures ? kMostDigits + 1 : std::stoi(text);
+    return value < least || value > kMostDigits ? wrong : "";
   };
   command.add_option(option, count, description)
       ->transform(CLI::Validator(plain_decimal, ""))
-      ->check(CLI::Range(least, kMostDigits))
       ->option_text("N (" + range + ')');
 }
 
@@ -32,7 +33,7 @@ void AddCount(CLI::App& command, const char* option, int least, std::optional<in
 void OutputFormat::AddDigitsTo(CLI::App& command, const char* default_digits) {
   AddCount(command, "--digits", 1, digits,
            std::string("Significant digits of every figure. Default: ") + default_digits);
-  AddCount(command, "--decimals", 0, decimals, "Decimals of every figure, instead");
+  AddCount(command, "--decimals", 0, decimals, "Decimals of every figure; excludes --digits");
   command.get_option("--decimals")->excludes(command.get_option("--digits"));
   command.add_flag("--group", grouped, "A blank between groups of three digits");
 }

@@ -90,21 +90,22 @@ void AddHeader(CLI::App& command, std::optional<bool>& header) {
   add("--no-header", false, "The first row is data")->excludes(with);
 }
 
-void AddColumns(CLI::App& command, const std::string& option, std::vector<std::string>& columns,
-                const std::string& description) {
-  command
-      .add_option_function<std::vector<std::string>>(
-          option,
-          [&columns, option](const std::vector<std::string>& lists) {
-            for (const std::string& list : lists)
-              std::ranges::move(SplitList(LongName(option), list), std::back_inserter(columns));
-          },
-          description)
-      ->type_name("NAME|N,...")
-      ->allow_extra_args(false);
-}
-
 }  // namespace
+
+CLI::Option& AddColumns(CLI::App& command, const std::string& option,
+                        std::vector<std::string>& columns, const std::string& description) {
+  return *command
+              .add_option_function<std::vector<std::string>>(
+                  option,
+                  [&columns, option](const std::vector<std::string>& lists) {
+                    for (const std::string& list : lists)
+                      std::ranges::move(SplitList(LongName(option), list),
+                                        std::back_inserter(columns));
+                  },
+                  description)
+              ->type_name("NAME|N,...")
+              ->allow_extra_args(false);
+}
 
 std::string TableHelp() {
   return std::string(R"(Tables:
@@ -184,10 +185,14 @@ void TableArguments::RemarkOn(const Table& table) const {
 }
 
 std::vector<TableColumn> TableArguments::Read(unsigned threads) const {
+  return ReadAll(threads).columns;
+}
+
+Table TableArguments::ReadAll(unsigned threads) const {
   try {
     Table table = ReadTable(OpenWithProgress(file), selection, threads);
     RemarkOn(table);
-    return std::move(table.columns);
+    return table;
   } catch (const InputError& error) {
     throw InputError(error.Fault(), std::string(error.what()) + Hint(error.Fault(), selection));
   }

@@ -41,11 +41,18 @@ struct TableArguments {
   /// Reads the table. Writes to standard error which columns were left out and whether the text was
   /// taken for Latin-1, and warns if the row that was read as a header may be data. The text of an
   /// InputError suggests an argument where one helps.
+  [[nodiscard]] Table ReadAll(unsigned threads = 1) const;
+
+  /// The columns of the same.
   [[nodiscard]] std::vector<TableColumn> Read(unsigned threads = 1) const;
 
  private:
   void RemarkOn(const Table& table) const;
 };
+
+/// Adds an option that takes lists of columns by name or number, and may be repeated.
+CLI::Option& AddColumns(CLI::App& command, const std::string& option,
+                        std::vector<std::string>& columns, const std::string& description);
 
 /// The column that was chosen by this name or number.
 [[nodiscard]] const TableColumn& ColumnOf(const std::vector<TableColumn>& columns,

@@ -8,6 +8,7 @@
 #include "apps/common/groups.h"
 #include "apps/common/input_error.h"
 #include "apps/common/text_input.h"
+#include "apps/qorvex/text_output.h"
 #include "qorvex/base/text.h"
 
 namespace qorvex::apps {
@@ -50,14 +51,25 @@ SampleList SamplesOf(const std::vector<TableColumn>& columns) {
   return samples;
 }
 
+void Remark(const TestArguments& arguments, const std::string& what) {
+  WriteRemark(OnOneLine(InputName(arguments.table.file)) + ": left out " + what);
+}
+
 SampleList SplitSamples(const TestArguments& arguments) {
   TableArguments table = arguments.table;
   if (table.selection.columns.size() != 1)
     throw CLI::ValidationError("--by", "it splits one column: one --column is needed");
   table.selection.labels = {*arguments.by};
-  table.selection.whole_rows = true;
   const std::vector<TableColumn> columns = table.Read();
-  return SamplesOf(columns[0], columns[1]);
+  const TableColumn& labels = columns[1];
+  if (labels.missing > 0)
+    Remark(arguments, Cardinal(labels.missing, "row") + " without a label in " + labels.Title());
+  SampleList samples = SamplesOf(columns[0], labels);
+  std::erase_if(samples, [&](const NumberSample& sample) {
+    if (sample.numbers.empty()) Remark(arguments, sample.Title() + ", without a value");
+    return sample.numbers.empty();
+  });
+  return samples;
 }
 
 // Each chosen column is a sample, or one is split by its labels.
@@ -93,8 +105,10 @@ SampleList ReadPairs(const TestArguments& arguments) {
   return pair;
 }
 
+// A cell of the table of counts cannot be skipped: the test would be about fewer cells.
 void RequireCounts(const NumberSample& sample, const TestArguments& arguments) {
-  const std::string wrong = WhatIsWrongWithCounts(sample);
+  const std::string wrong = sample.origin.missing > 0 ? "a count or a proportion is missing"
+                                                      : WhatIsWrongWithCounts(sample);
   if (!wrong.empty()) {
     throw InputError(InputFault::kNoResult,
                      InputName(arguments.table.file) + ": " + sample.Title() + ": " + wrong);

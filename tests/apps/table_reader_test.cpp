@@ -32,6 +32,7 @@ std::string Read(const std::string& text, const TableSelection& selection, unsig
       for (const std::size_t gap : column.gaps) columns += " gap " + Int2EStr(gap);
       columns += '\n';
     }
+    for (const std::size_t row : table.skipped_rows) columns += "skipped " + Int2EStr(row) + '\n';
     for (const LeftOutColumn& column : table.left_out) columns += column.title + " left out\n";
     return columns;
   });
@@ -75,6 +76,10 @@ TEST(TableReader, SkipsMissingValuesAndLeavesOutColumnsWithoutNumbers) {
            {"x,y,z\n1,2,a\n3,4,\n,5,b\n\n6,7,c\n",
             "column 1 (x): 1 3 6; 2\ncolumn 2 (y): 2 4 7; 2\ncolumn 3 (z) left out\n",
             {.whole_rows = true}},
+           {"x,y\n1,2\n\n3,\n\n\n4,5\n,6\n",
+            "column 1 (x): 1 4; 5\ncolumn 2 (y): 2 5; 5\n"
+            "skipped 1\nskipped 2\nskipped 3\nskipped 4\nskipped 6\n",
+            {.columns = {"x", "y"}, .whole_rows = true}},
            {"x,y,z\n1,g,a\n,h,\n3,h,\n4,,\n",
             "column 1 (x): 1 3; 2\ncolumn 2 (y): g h; 2\ncolumn 3 (z) left out\n",
             {.labels = {"y"}, .whole_rows = true}},
@@ -106,6 +111,7 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"x,y\n1,2\n3,\n", "3: column 2 (y): the cell is empty", {.format = kComplete}},
            {"x,y\n1,2\n3,a\tb\n", "3: column 2 (y): \"a\\tb\" is not a number"},
            {"x,y\n1,a\n3,b\n4,5\nc,6\n", "2: column 2 (y): \"a\" is not a number"},
+           {"a\nb\n2\n", "1: column 1: \"a\" is not a number", {.format = {.header = false}}},
            {"x\nNA\n2\n", "2: column 1 (x): \"NA\" is not a number", {.format = kComplete}},
            {"1\nnan\n", "2: column 1: \"nan\" is not a finite number", {.format = kComplete}},
            {"x\n-inf\n1\n", "2: column 1 (x): \"-inf\" is not a finite number"},
@@ -116,7 +122,7 @@ TEST(TableReader, SaysWhatIsWrongAndWhere) {
            {"1e5000\n", "1: column 1: \"1e5000\" is beyond the range of extended precision"},
            {"\nx,y\n1,2\n3\n", "4: the row has 1 cell where line 2 has 2"},
            {"x,y\n", " there is no column \"3\"; the columns are 1 (x), 2 (y)", {{"3"}}},
-           {"x,y\n", " there is no column \"0\"; the columns are 1 (x), 2 (y)", {{"0"}}},
+           {"x,\n", " there is no column \"0\"; the columns are 1 (x), 2", {{"0"}}},
            {"1\n", " there is no column \"1x\"; the table has 1 column and no header", {{"1x"}}},
            {"x,y,x\n1,2,3\n", " columns 1 and 3 are both named \"x\"", {{"x"}}},
        }) {
@@ -143,6 +149,7 @@ TEST(TableReader, HasTheSameResultForAnyBlocksAndThreads) {
     TableSelection selection{.whole_rows = engine() % 2 == 0};
     if (engine() % 2 == 0) selection.format = kComplete;
     if (engine() % 2 == 0) selection.labels = {"2"};
+    if (engine() % 2 == 0) selection.columns = {"1"};
     const std::string result = Read(text, selection);
     const std::size_t block_size = 4 + engine() % 60;
     ASSERT_EQ(Read(text, selection, static_cast<unsigned>(1 + engine() % 3), block_size), result)

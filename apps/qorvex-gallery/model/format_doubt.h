@@ -20,7 +20,7 @@ namespace qorvex::gallery {
 [[nodiscard]] QString DoubtIn(const SheetData& sheet);
 
 /// A format in which the first lines of a file can be read as a table of several columns, for a
-/// file that could not be read in the one that was found; nothing if there is none.
+/// file that could not be read in the one that was found. Empty if no format fits.
 [[nodiscard]] std::optional<apps::TableFormat> OtherFormat(const QString& file);
 
 }  // namespace qorvex::gallery

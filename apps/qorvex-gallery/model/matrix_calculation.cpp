@@ -90,7 +90,7 @@ void RemoveSignsOfZeros(TQorFloatMatrix& matrix) {
   for (TQorFloatVector& row : matrix) std::ranges::replace(row, 0.0L, 0.0L);
 }
 
-// The result, or nothing if there is none. The shapes fit.
+// The result, or nothing if the matrix has no inverse or the system no solution. The shapes fit.
 std::optional<TQorFloatMatrix> ResultOf(const MatrixTask& task, const Proceed& proceed) {
   std::optional<TQorFloatMatrix> result;
   switch (task.wanted) {

@@ -147,7 +147,7 @@ class SheetData {
   apps::TableFormat format_;
   std::size_t rows_ = 0;
   std::vector<Column> columns_;
-  // The texts of all cells one after the other. The first byte is nobody's.
+  // The texts of all cells one after the other. The first byte belongs to no cell.
   std::string text_{'\0'};
   // What the changed cells held when they were read or saved, by the offset of their new text.
   std::unordered_map<std::size_t, CellText> originals_;

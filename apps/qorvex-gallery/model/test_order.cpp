@@ -33,7 +33,7 @@ bool NeedsWholeRows(TestInput input) {
          input == TestInput::kCountTable;
 }
 
-// The samples of an order, or why there are none.
+// The samples of an order, or why they cannot be taken.
 class SampleMaker {
  public:
   explicit SampleMaker(const TestOrder& order) : order_(order) {}

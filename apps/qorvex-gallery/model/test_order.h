@@ -35,7 +35,7 @@ struct TestOrder {
 struct TestOutcome {
   /// One for each sample of a test of one sample, otherwise one.
   std::vector<apps::TestReport> reports = {};
-  /// Why there are none; empty if there are some.
+  /// Why the test has no report; empty if it has one.
   QString why_not = {};
   /// The number of missing values, or of rows, that were left out.
   std::size_t left_out = 0;

@@ -63,6 +63,8 @@ void DataPage::ConnectParts() {
   connect(&view_->Editor(), &CellPanel::OnTextRefused, this, &DataPage::Say);
   connect(view_, &SheetView::TablePasted, document_, &SheetDocument::ReadText);
   connect(view_, &SheetView::ColumnChosen, columns_, &ColumnBox::SetColumn);
+  // Messages are about the table before.
+  connect(&sheet_, &Sheet::modelReset, this, [this] { note_.clear(); });
   connect(columns_, &ColumnBox::ColumnChanged, this,
           [this] { Q_EMIT ColumnShown(columns_->Column()); });
   connect(&sheet_, &Sheet::Changed, this, &DataPage::Refresh);

@@ -227,7 +227,7 @@ void MatrixPage::OpenIn(MatrixPanel& panel, const QString& path) {
   message_->SetText({});
   panel.SetRemark(tr("reading %1…").arg(QFileInfo(path).fileName()));
   reading.Start([matrix, path](const Proceed& proceed) { *matrix = ReadMatrixFile(path, proceed); },
-                [this, &panel, matrix] {
+                [&panel, matrix] {
                   panel.SetRemark({});
                   panel.Replace(*matrix);
                 },

@@ -17,7 +17,7 @@ void ShowPlotMenu(PlotView& plot, const QPoint& at);
 /// Whether a key is that of an entry in the first part of the menu: copy, save or print.
 [[nodiscard]] bool IsPlotMenuKey(const QKeyEvent& key);
 
-/// Does what such a key says; false if it is none.
+/// Does what such a key says; false for other keys.
 bool HandlePlotMenuKey(PlotView& plot, const QKeyEvent& key);
 
 }  // namespace qorvex::gallery

@@ -148,7 +148,7 @@ void PlotView::StepToEnd(bool last) {
 }
 
 // Shows the values of the first point that is in the diagram, from one on in the given direction.
-// The values stay as they are if there is none.
+// If no such point is in sight, the values stay as they are.
 void PlotView::ReadOutFrom(std::size_t layer, std::ptrdiff_t point, int step) {
   const std::vector<QPointF>& points = content_.layers[layer].points;
   const PlotReader reader(content_, shown_, locale());

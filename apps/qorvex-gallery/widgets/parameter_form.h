@@ -39,7 +39,7 @@ class ParameterForm : public QWidget {
   /// The numbers in order.
   [[nodiscard]] std::vector<Extended> Numbers() const;
   /// @{
-  /// The numbers as texts with all digits, for SetTexts, which ignores what is no number.
+  /// The numbers as texts with all digits, for SetTexts, which ignores other texts.
   [[nodiscard]] QStringList Texts() const;
   void SetTexts(const QStringList& texts);
   /// @}
@@ -71,7 +71,7 @@ class ParameterForm : public QWidget {
 
 /// @{
 /// The number of a cell as a text with all digits that is the same in every locale, and the cell
-/// with such a number, which is unchanged if the text is none.
+/// with such a number, which is unchanged if the text is not a number.
 [[nodiscard]] QString NumberText(const TQorFloatEdit& cell);
 void SetNumberText(TQorFloatEdit& cell, const QString& text);
 /// @}

@@ -170,6 +170,8 @@ TEST_F(MatrixPageTest, KeepsItsStateAndOpensFiles) {
   ASSERT_TRUE(file.open());
   file.write("1,2,3\n4,5,0.1\n");
   file.close();
+  // The second reading stops the first one.
+  page.Open(file.fileName());
   page.Open(file.fileName());
   Finish();
   EXPECT_EQ(a->Matrix()[1][2], 0.1L);
