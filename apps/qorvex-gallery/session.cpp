@@ -60,6 +60,12 @@ bool SaveCopy(const SheetData& sheet, const QString& file) {
   return out.commit();
 }
 
+// Whether nothing is shown yet because the file of the last session is still being read.
+bool ReadsFirstSheet(const MainWindow& window) {
+  return window.Data().IsReading() && window.Table().columnCount() == 0 &&
+         window.Data().Document().Path().isEmpty();
+}
+
 void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument& document) {
   const QString path = settings.value("path").toString();
   const apps::TableFormat format = FormatIn(settings);
@@ -136,7 +142,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.setValue("window/appearance", static_cast<int>(window.ChosenAppearance()));
   settings.setValue("files/recent", window.Recent().Files());
   settings.setValue("files/folder", document.Folder());
-  if (window.Data().IsReading() && !sheet.IsChanged()) return IsWritten(settings);
+  if (ReadsFirstSheet(window)) return IsWritten(settings);
   settings.beginGroup("sheet");
   settings.setValue("path", document.Path());
   settings.setValue("title", document.Title());

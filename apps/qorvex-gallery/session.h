@@ -24,8 +24,9 @@ class Session {
   /// Brings back what was saved last. Without that, leaves the window as it is. A copy of the sheet
   /// that cannot be read is put aside.
   void Restore(MainWindow& window) const;
-  /// Saves everything; while a file is being read, the sheet and the pages stay as they were saved
-  /// before. Returns false if the unsaved changes of the sheet could not be written.
+  /// Saves everything; while the file of the last session is being read, the sheet and the pages
+  /// stay as they were saved before. Returns false if the unsaved changes of the sheet could not be
+  /// written.
   [[nodiscard]] bool Save(const MainWindow& window) const;
 
  private:

@@ -1289,6 +1289,10 @@
         <translation>Die erste Zeile wurde als Namen gelesen, obwohl sie die Zahl %1 enthält.</translation>
     </message>
     <message>
+        <source>The first row was read as numbers, although %1 may be a name.</source>
+        <translation>Die erste Zeile wurde als Zahlen gelesen, obwohl %1 ein Name sein kann.</translation>
+    </message>
+    <message>
         <source>%1 is a number only with the other decimal sign.</source>
         <translation>%1 ist nur mit dem anderen Dezimalzeichen eine Zahl.</translation>
     </message>
@@ -2424,6 +2428,14 @@
     <message>
         <source>%1 was %2 and is saved as UTF-8</source>
         <translation>%1 war %2 und wird als UTF-8 gespeichert</translation>
+    </message>
+    <message>
+        <source>The columns have got names, because the first row would have been read as names</source>
+        <translation>Die Spalten haben Namen bekommen, weil sonst die erste Zeile als Namen gelesen würde</translation>
+    </message>
+    <message>
+        <source>The names in %1 are numbers; other programs may read them as a row</source>
+        <translation>Die Namen in %1 sind Zahlen; andere Programme lesen sie vielleicht als Zeile</translation>
     </message>
 </context>
 <context>

@@ -4,6 +4,10 @@
 #include <QFile>
 #include <QStringList>
 #include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <system_error>
 
 #include "apps/common/cells.h"
 #include "apps/common/input_error.h"
@@ -32,6 +36,44 @@ QString Shortened(std::string_view text) {
   return QString::fromStdString(apps::Excerpt(text));
 }
 
+// Whether the cells of a row, from a column on, are whole numbers in this range, each greater than
+// the one before.
+bool Rises(const SheetData& sheet, std::size_t row, std::size_t column, int least, int greatest) {
+  for (; column < sheet.Columns(); ++column) {
+    const std::string_view cell = sheet.Cell(row, column);
+    int number = -1;
+    const auto [end, error] = std::from_chars(cell.data(), cell.data() + cell.size(), number);
+    if (error != std::errc() || end != cell.data() + cell.size()) return false;
+    if (number < least || number > greatest) return false;
+    least = number + 1;
+  }
+  return true;
+}
+
+bool HasFractions(const SheetData& sheet, std::size_t column) {
+  for (std::size_t row = 1; row < std::min(sheet.Rows(), kMostRows); ++row) {
+    const auto number = sheet.NumberIn(sheet.Cell(row, column));
+    if (number && *number != std::trunc(*number)) return true;
+  }
+  return false;
+}
+
+// The first number of a first row that looks like names: years above other numbers, or whole
+// numbers above fractions. Names of rows may be beside it. Empty for none.
+std::string_view NumberLikeAName(const SheetData& sheet) {
+  constexpr int kFirstYear = 1500;
+  constexpr int kLastYear = 2199;
+  if (sheet.HasNames() || sheet.Columns() < 2 || sheet.Rows() < 2) return {};
+  const std::size_t first = sheet.Cell(0, 0).empty() ? 1 : 0;
+  const std::string_view number = sheet.Cell(0, first);
+  if (Rises(sheet, 0, first, kFirstYear, kLastYear))
+    return Rises(sheet, 1, first, kFirstYear, kLastYear) ? std::string_view() : number;
+  if (!Rises(sheet, 0, first, 0, std::numeric_limits<int>::max() - 1)) return {};
+  for (std::size_t column = first; column < sheet.Columns(); ++column)
+    if (!HasFractions(sheet, column)) return {};
+  return number;
+}
+
 }  // namespace
 
 QByteArray FirstLines(const QString& file) {
@@ -53,6 +95,12 @@ QString DoubtIn(const SheetData& sheet) {
                   "qorvex::gallery::FormatDialog",
                   "The first row was read as names, although it contains the number %1.")
                   .arg(Shortened(sheet.Name(column)));
+  }
+  if (const std::string_view name = NumberLikeAName(sheet); !name.empty()) {
+    doubts +=
+        QCoreApplication::translate("qorvex::gallery::FormatDialog",
+                                    "The first row was read as numbers, although %1 may be a name.")
+            .arg(Shortened(name));
   }
   const char other_sign = sheet.Format().decimal_sign == ',' ? '.' : ',';
   const std::string_view number = FirstText(

@@ -15,8 +15,8 @@ namespace qorvex::gallery {
 [[nodiscard]] QByteArray FirstLines(const QString& file);
 
 /// What speaks against the form in which a table was read; empty for nothing: names that are
-/// numbers, numbers with the other decimal sign, or a single column with delimiters in its cells.
-/// Looks at the first thousand rows.
+/// numbers, a first row of numbers that look like names, numbers with the other decimal sign, or a
+/// single column with delimiters in its cells. Looks at the first thousand rows.
 [[nodiscard]] QString DoubtIn(const SheetData& sheet);
 
 /// A format in which the first lines of a file can be read as a table of several columns, for a

@@ -22,6 +22,13 @@ bool NeedsQuotes(std::string_view cell, char delimiter, const SheetData& sheet) 
   return cell.find(delimiter) != cell.npos || !sheet.NumberIn(cell);
 }
 
+// Whether a first row with this cell is read as names; the words for missing values are not known
+// when the file is read.
+bool IsReadAsName(std::string_view cell, const SheetData& sheet) {
+  static const apps::MissingWords usual;
+  return apps::IsText(cell, sheet.Format().decimal_sign.value_or('.')) && !usual.Contains(cell);
+}
+
 void AppendQuoted(std::string& line, std::string_view cell) {
   line += '"';
   for (const char c : cell) line.append(c == '"' ? 2 : 1, c);
@@ -53,6 +60,19 @@ SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& wanted, std:
   // The encoding may be known only now.
   sheet.SetFormat(reader.Format());
   return sheet;
+}
+
+bool HasRowLikeNames(const SheetData& sheet) {
+  if (sheet.HasNames() || sheet.Rows() == 0) return false;
+  for (std::size_t column = 0; column < sheet.Columns(); ++column)
+    if (IsReadAsName(sheet.Cell(0, column), sheet)) return true;
+  return false;
+}
+
+bool HasNamesLikeARow(const SheetData& sheet) {
+  for (std::size_t column = 0; column < sheet.Columns(); ++column)
+    if (IsReadAsName(sheet.Name(column), sheet)) return false;
+  return sheet.HasNames();
 }
 
 SheetFileForm FormOf(std::string_view start) {

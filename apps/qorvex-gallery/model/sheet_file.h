@@ -18,6 +18,13 @@ namespace qorvex::gallery {
 [[nodiscard]] SheetData ReadSheet(apps::TextInput input, const apps::TableFormat& format,
                                   std::size_t bytes = 0);
 
+/// @{
+/// Whether a file of the sheet would be read with other names: with the first row as names, or with
+/// the names, which are all numbers, as a row.
+[[nodiscard]] bool HasRowLikeNames(const SheetData& sheet);
+[[nodiscard]] bool HasNamesLikeARow(const SheetData& sheet);
+/// @}
+
 /// What a file of a sheet has besides the cells.
 struct SheetFileForm {
   char delimiter = ',';

@@ -179,11 +179,13 @@ bool SheetDocument::SaveTo(const QString& file) {
   CommitText();
   const apps::TableFormat before = sheet_.Data().Format();
   const bool is_same = file == path_;
+  const bool lacks_names = HasRowLikeNames(sheet_.Data());
   SheetFileForm form;
   if (is_same) form = FormOf(FirstLines(file).toStdString());
   form.delimiter = is_same && before.delimiter ? *before.delimiter : DelimiterFor(file, before);
   QSaveFile out(file);
   if (out.open(QIODevice::WriteOnly)) {
+    if (lacks_names) NameColumns();
     WriteSheet(sheet_.Data(), form, [&out](std::string_view text) {
       out.write(text.data(), static_cast<qsizetype>(text.size()));
     });
@@ -195,6 +197,7 @@ bool SheetDocument::SaveTo(const QString& file) {
   }
   apps::TableFormat format = before;
   format.delimiter = form.delimiter;
+  format.header = sheet_.Data().HasNames();
   format.encoding = apps::Encoding::kUtf8;
   sheet_.SetSaved(format);
   SetSource(file, name);
@@ -204,7 +207,19 @@ bool SheetDocument::SaveTo(const QString& file) {
     Q_EMIT Message(tr("%1 was %2 and is saved as UTF-8")
                        .arg(name, QString::fromLatin1(apps::NameOf(encoding))));
   }
+  if (lacks_names) {
+    Q_EMIT Message(
+        tr("The columns have got names, because the first row would have been read as names"));
+  } else if (HasNamesLikeARow(sheet_.Data())) {
+    Q_EMIT Message(
+        tr("The names in %1 are numbers; other programs may read them as a row").arg(name));
+  }
   return true;
+}
+
+void SheetDocument::NameColumns() {
+  for (int column = 0; column < sheet_.columnCount(); ++column)
+    sheet_.setHeaderData(column, Qt::Horizontal, sheet_.Title(column), Qt::EditRole);
 }
 
 }  // namespace qorvex::gallery

@@ -41,7 +41,8 @@ class SheetDocument : public QObject {
   /// Whether the sheet may be replaced or closed. If there are unsaved changes, asks the user, who
   /// can save them, discard them or cancel; a reading in progress stops before the question.
   [[nodiscard]] bool MayGo();
-  /// Writes the sheet to a file. If that fails, tells why and returns false.
+  /// Writes the sheet to a file. Columns without names get some if the first row would be read as
+  /// names. If writing fails, tells why and returns false.
   bool SaveTo(const QString& file);
   /// @{
   /// The folder in which dialogs start without a file.
@@ -97,6 +98,8 @@ class SheetDocument : public QObject {
   void Load(const Source& source, const apps::TableFormat& format, bool ask);
   void AskFormat(const Source& source, const apps::TableFormat& format, const QString& reason);
   void Show(const Source& source, SheetData data);
+  // Makes the titles of the columns their names.
+  void NameColumns();
   void SetSource(const QString& file, const QString& title);
 
   Sheet& sheet_;

@@ -451,9 +451,41 @@ TEST_F(DataPageTest, ShowsHowAFileInDoubtIsRead) {
   QApplication::processEvents();
   EXPECT_EQ(editor.NoOfRows(), 2U);
 
+  for (const char* names : {"2019,2020\n0,1\n", ",1999,2001\nx,3,4\n", "1,10\n0.5,1\n2,0.25\n"}) {
+    Open("names.csv", names);
+    ASSERT_NE(dialog(), nullptr) << names;
+    dialog()->reject();
+    QApplication::processEvents();
+  }
+  for (const char* rows : {"2019,2020\n2020,2021\n", "1,2\n0.5,3\n", "2,1\n0.5,0.5\n"}) {
+    Open("rows.csv", rows);
+    EXPECT_EQ(dialog(), nullptr) << rows;
+  }
   Open("commas.csv", "a;b\n1,5;2\n1;2,5\n");
   EXPECT_EQ(dialog(), nullptr) << "no doubt";
   EXPECT_EQ(sheet.Numbers(0)[0], 1.5L);
+}
+
+TEST_F(DataPageTest, SavesNamesThatAreReadAgain) {
+  const auto save = [this](const char* rows) {
+    document.ReadText(rows);
+    EXPECT_TRUE(sheet.setData(sheet.index(0, 0), "x"));
+    EXPECT_TRUE(document.SaveTo(folder.filePath("saved.csv")));
+    return Read("saved.csv");
+  };
+  EXPECT_EQ(save("1\t2\n"), "\"Column 1\",\"Column 2\"\nx,2\n");
+  EXPECT_EQ(sheet.Data().Format().header, true);
+  EXPECT_EQ(Message(),
+            "The columns have got names, because the first row would have been read as names");
+  EXPECT_EQ(save("a\tb\n1\t2\n"), "a,b\nx,2\n");
+  document.ReadText("a\tb\n1\t2\n");
+  for (int column = 0; column < 2; ++column)
+    EXPECT_TRUE(sheet.setHeaderData(column, Qt::Horizontal, 2019 + column, Qt::EditRole));
+  EXPECT_TRUE(document.SaveTo(folder.filePath("years.csv")));
+  EXPECT_EQ(Message(), "The names in years.csv are numbers; other programs may read them as a row");
+  document.ReadText("1\t2\n");
+  EXPECT_TRUE(document.SaveTo(folder.filePath("rows.csv")));
+  EXPECT_EQ(sheet.Data().Format().header, false) << "as the next session will read it";
 }
 
 TEST_F(DataPageTest, ReadsLargeFilesInTheBackground) {
