@@ -82,7 +82,8 @@ void RestoreSheet(const QSettings& settings, const QString& copy, SheetDocument&
     SheetData sheet = ReadSheet(OpenFile(copy), of_copy);
     sheet.SetFormat(format);
     sheet.SetChanged();
-    document.Restore(std::move(sheet), path, settings.value("title").toString());
+    document.Restore(std::move(sheet), path, settings.value("title").toString(),
+                     settings.value("fileState").toString());
   } catch (const apps::InputError& error) {
     const QString name = QDateTime::currentDateTime().toString("'unsaved'-yyyyMMdd-hhmmss'.csv'");
     const QString aside = QFileInfo(copy).dir().filePath(name);
@@ -146,6 +147,7 @@ bool Session::Save(const MainWindow& window) const {
   settings.beginGroup("sheet");
   settings.setValue("path", document.Path());
   settings.setValue("title", document.Title());
+  settings.setValue("fileState", document.FileState());
   settings.setValue("unsaved", has_copy);
   SaveFormat(sheet.Format(), settings);
   settings.endGroup();

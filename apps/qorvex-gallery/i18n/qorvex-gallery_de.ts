@@ -335,6 +335,10 @@
         <source>B needs as many rows as A: %L1</source>
         <translation>B braucht so viele Zeilen wie A: %L1</translation>
     </message>
+    <message>
+        <source>none, A is empty</source>
+        <translation>keine, A ist leer</translation>
+    </message>
 </context>
 <context>
     <name>OrderTexts</name>
@@ -2436,6 +2440,14 @@
     <message>
         <source>The names in %1 are numbers; other programs may read them as a row</source>
         <translation>Die Namen in %1 sind Zahlen; andere Programme lesen sie vielleicht als Zeile</translation>
+    </message>
+    <message>
+        <source>Changed file</source>
+        <translation>Geänderte Datei</translation>
+    </message>
+    <message>
+        <source>Another program has changed the file. Replace it?</source>
+        <translation>Ein anderes Programm hat die Datei geändert. Soll sie ersetzt werden?</translation>
     </message>
 </context>
 <context>

@@ -113,6 +113,11 @@ std::optional<TQorFloatMatrix> ResultOf(const MatrixTask& task, const Proceed& p
 }  // namespace
 
 MatrixOutcome Calculate(const MatrixTask& task, const Proceed& proceed) {
+  if (task.a.empty()) {
+    return {.determinant = QStringLiteral("—"),
+            .rank = QStringLiteral("—"),
+            .why_none = MatrixTexts::tr("none, A is empty")};
+  }
   const bool is_square = task.a.size() == task.a[0].size();
   MatrixOutcome outcome{
       .determinant = is_square ? QStringLiteral("—") : MatrixTexts::tr("of square matrices only"),

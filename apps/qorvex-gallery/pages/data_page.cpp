@@ -68,6 +68,7 @@ void DataPage::ConnectParts() {
   connect(columns_, &ColumnBox::ColumnChanged, this,
           [this] { Q_EMIT ColumnShown(columns_->Column()); });
   connect(&sheet_, &Sheet::Changed, this, &DataPage::Refresh);
+  connect(report_, &ColumnReport::PopulationChosen, this, &DataPage::Refresh);
   for (ColumnBox* const box : {columns_, groups_})
     connect(box, &ColumnBox::ColumnChanged, this, &DataPage::Refresh);
   // What was typed while a table is read would be lost when that table is shown.
@@ -152,7 +153,7 @@ void DataPage::Refresh() {
   message_->SetText(messages.join(u' ').trimmed());
   const int column = columns_->Column();
   report_->ShowColumn(column, groups_->Column());
-  group_report_->Show(column, groups_->Column());
+  group_report_->Show(column, groups_->Column(), report_->OfPopulation());
 }
 
 bool DataPage::IsReading() const {

@@ -110,6 +110,8 @@ bool DistributionPage::IsInterval() const {
 }
 
 void DistributionPage::ShowFamily() {
+  // The diagram does not show that of another family.
+  quantile_at_.reset();
   summary_->setText(Translated(Family().summary));
   parameters_->SetParameters(Family().parameters);
   // Points that the diagram shows, whatever the family.
@@ -240,6 +242,8 @@ void DistributionPage::SetState(const QVariantMap& state) {
 }
 
 PageReport DistributionPage::Report() const {
+  // The figures are those of the last valid numbers.
+  if (!message_->Text().isEmpty()) return {};
   const QList<QStringList> probability = {{side_->currentText(), ExactText(probability_->Value())}};
   QList<QStringList> points = {{first_label_->text(), ExactText(first_->Value())}};
   if (IsInterval()) points.append({second_label_->text(), ExactText(second_->Value())});

@@ -345,14 +345,14 @@ PageReport MatrixPage::Report() const {
   constexpr quint32 most_cols = 10;
   PageReport report{tr("Matrices"), {}};
   const auto add = [&](const QString& title, const MatrixPanel& panel) {
-    const TQorFloatMatrix matrix = panel.Matrix();
-    if (panel.Editor().NoOfRows() > most_rows || panel.Editor().NoOfCols() > most_cols) {
-      report.parts.append(
-          {title, {{tr("%L1 × %L2 elements").arg(matrix.size()).arg(matrix[0].size())}}});
+    const quint32 row_count = panel.Editor().NoOfRows();
+    const quint32 col_count = panel.Editor().NoOfCols();
+    if (row_count > most_rows || col_count > most_cols) {
+      report.parts.append({title, {{tr("%L1 × %L2 elements").arg(row_count).arg(col_count)}}});
       return;
     }
     QList<QStringList> rows;
-    for (const TQorFloatVector& row : matrix) {
+    for (const TQorFloatVector& row : panel.Matrix()) {
       QStringList& texts = rows.emplace_back();
       for (const Extended x : row) texts.append(std::isnan(x) ? QString() : ExactText(x));
     }

@@ -36,7 +36,7 @@ ColumnReport::ColumnReport(const Sheet& sheet, QWidget* parent)
   // A long remark does not widen the page.
   remark_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   connect(decimals_, &QSpinBox::valueChanged, this, &ColumnReport::ShowFigures);
-  connect(population_, &QCheckBox::toggled, this, &ColumnReport::ShowFigures);
+  connect(population_, &QCheckBox::toggled, this, &ColumnReport::PopulationChosen);
 
   auto* const layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -84,6 +84,10 @@ void ColumnReport::ShowFigures() {
 
 std::optional<int> ColumnReport::Decimals() const {
   return decimals_->value() < 0 ? std::nullopt : std::optional(decimals_->value());
+}
+
+bool ColumnReport::OfPopulation() const {
+  return population_->isChecked();
 }
 
 QVariantMap ColumnReport::State() const {

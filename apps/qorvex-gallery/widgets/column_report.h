@@ -34,6 +34,8 @@ class ColumnReport : public QWidget {
   /// Shows a numeric column as it is now, and box plots by the groups of another column; -1 for
   /// none. A remark counts the missing values.
   void ShowColumn(int column, int group_column);
+  /// Whether the values are a whole population, as the user has chosen.
+  [[nodiscard]] bool OfPopulation() const;
 
   /// @{
   /// What the user has chosen.
@@ -42,6 +44,10 @@ class ColumnReport : public QWidget {
   /// @}
   /// The statistics and the diagram.
   [[nodiscard]] QList<PageReport::Part> ReportParts() const;
+
+ Q_SIGNALS:
+  /// OfPopulation has changed; the column is to be shown again.
+  void PopulationChosen();
 
  private:
   QLayout* MakeHead();

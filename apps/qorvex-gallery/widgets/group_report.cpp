@@ -53,7 +53,7 @@ GroupReport::GroupReport(const Sheet& sheet, QWidget* parent)
 
 GroupReport::~GroupReport() = default;
 
-void GroupReport::Show(int column, int group_column) {
+void GroupReport::Show(int column, int group_column, bool population) {
   setVisible(column >= 0 && group_column >= 0);
   if (isHidden()) return;
   const SheetGroups groups = sheet_.Groups(group_column);
@@ -61,7 +61,7 @@ void GroupReport::Show(int column, int group_column) {
   heading_->setText((shown ? tr("%1 by %2") : tr("%1 by %2: too many groups"))
                         .arg(sheet_.Title(column), sheet_.Title(group_column)));
   groups_ = shown ? groups.names : QStringList();
-  table_->setMatrix(shown ? FiguresOfGroups(sheet_.Numbers(column), groups, false)
+  table_->setMatrix(shown ? FiguresOfGroups(sheet_.Numbers(column), groups, population)
                           : TQorFloatMatrix());
 }
 

@@ -27,9 +27,9 @@ class GroupReport : public QWidget {
   explicit GroupReport(const Sheet& sheet, QWidget* parent = nullptr);
   ~GroupReport() override;
 
-  /// Shows the figures of a numeric column by the groups of another column. Hidden without one of
-  /// them (-1).
-  void Show(int column, int group_column);
+  /// Shows the figures of a numeric column by the groups of another column, whose values are a
+  /// whole population or a sample. Hidden without one of them (-1).
+  void Show(int column, int group_column, bool population);
   /// The rows of the table, with its headings.
   [[nodiscard]] QList<QStringList> Rows() const;
 

@@ -1,5 +1,6 @@
 #include "apps/qorvex-gallery/widgets/sheet_document.h"
 
+#include <QDateTime>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QLocale>
@@ -23,6 +24,13 @@ namespace {
 // Whether the path is that of a file, not of the example or of nothing.
 bool IsFile(const QString& path) {
   return !path.isEmpty() && !path.startsWith(u':');
+}
+
+// Differs after another program has written the file.
+QString StateOf(const QString& path) {
+  const QFileInfo file(path);
+  if (!IsFile(path) || !file.exists()) return {};
+  return QStringLiteral("%1 %2").arg(file.size()).arg(file.lastModified().toMSecsSinceEpoch());
 }
 
 // The delimiter of another file than the one that was read.
@@ -135,13 +143,16 @@ void SheetDocument::Show(const Source& source, SheetData data) {
   }
 }
 
-void SheetDocument::Restore(SheetData data, const QString& path, const QString& title) {
+void SheetDocument::Restore(SheetData data, const QString& path, const QString& title,
+                            const QString& file_state) {
   Show({path, title, {}}, std::move(data));
+  file_state_ = file_state;
 }
 
 void SheetDocument::SetSource(const QString& file, const QString& title) {
   path_ = file;
   title_ = title;
+  file_state_ = StateOf(file);
   if (IsFile(file)) folder_ = QFileInfo(file).path();
   Q_EMIT TitleChanged();
 }
@@ -160,7 +171,18 @@ bool SheetDocument::MayGo() {
 }
 
 bool SheetDocument::Save() {
-  return IsFile(path_) ? SaveTo(path_) : SaveAs();
+  if (!IsFile(path_)) return SaveAs();
+  return MayReplaceFile() && SaveTo(path_);
+}
+
+bool SheetDocument::MayReplaceFile() {
+  const QString state = StateOf(path_);
+  if (state.isEmpty() || state == file_state_) return true;
+  QMessageBox question(QMessageBox::Warning, tr("Changed file"),
+                       tr("Another program has changed the file. Replace it?"),
+                       QMessageBox::Save | QMessageBox::Cancel, &page_);
+  question.setInformativeText(title_);
+  return question.exec() == QMessageBox::Save;
 }
 
 bool SheetDocument::SaveAs() {

@@ -49,8 +49,11 @@ class SheetDocument : public QObject {
   [[nodiscard]] const QString& Folder() const noexcept { return folder_; }
   void SetFolder(const QString& folder) { folder_ = folder; }
   /// @}
+  /// The size and time of the file when the sheet was read from it or saved; empty without a file.
+  [[nodiscard]] const QString& FileState() const noexcept { return file_state_; }
   /// Shows a sheet of an earlier session.
-  void Restore(SheetData data, const QString& path, const QString& title);
+  void Restore(SheetData data, const QString& path, const QString& title,
+               const QString& file_state);
   /// Opens a file in a format, without asking about it.
   void OpenAs(const QString& file, const apps::TableFormat& format);
 
@@ -71,7 +74,8 @@ class SheetDocument : public QObject {
   void ChooseFormat();
   /// Shows a pasted text as a table.
   void ReadText(const QString& text);
-  /// Saves the sheet in its file; asks for one if it has none.
+  /// Saves the sheet in its file; asks for one if it has none, and whether to replace one that
+  /// another program has changed.
   bool Save();
   /// Asks for a file and writes the sheet to it. A reading in progress stops first.
   bool SaveAs();
@@ -98,6 +102,7 @@ class SheetDocument : public QObject {
   void Load(const Source& source, const apps::TableFormat& format, bool ask);
   void AskFormat(const Source& source, const apps::TableFormat& format, const QString& reason);
   void Show(const Source& source, SheetData data);
+  [[nodiscard]] bool MayReplaceFile();
   // Makes the titles of the columns their names.
   void NameColumns();
   void SetSource(const QString& file, const QString& title);
@@ -108,6 +113,7 @@ class SheetDocument : public QObject {
   QString path_;
   QString title_;
   QString folder_;
+  QString file_state_;
   QString reading_error_;
 };
 

@@ -143,6 +143,8 @@ TEST_F(DataPageTest, DescribesTheColumnOfTheCursorAndItsGroups) {
   EXPECT_EQ(groups.Element(0, 0), 2);
   EXPECT_EQ(groups.Element(0, 1), 3);
   EXPECT_EQ(groups.Element(1, 0), 1);
+  Find<QCheckBox>("population").click();
+  EXPECT_EQ(groups.Element(0, 2), 2) << "the standard deviation of 1 and 5";
   TypeInto(2, 2, "");
   EXPECT_EQ(Find<QComboBox>("column").currentText(), "age");
   EXPECT_EQ(groups.Element(1, 1), 30);
@@ -266,6 +268,20 @@ TEST_F(DataPageTest, ComputesFromExactSums) {
   Open("huge.csv", "8e4931\n-8e4931\n0\n");
   EXPECT_EQ(Figure("report", "Standard Deviation:"), "8e+4931");
   EXPECT_EQ(Remark(), "");
+}
+
+TEST_F(DataPageTest, AsksBeforeItReplacesWhatAnotherProgramHasWritten) {
+  const QString file = Write("shared.csv", "a\n1\n");
+  document.Open(file);
+  TypeInto(0, 0, "2\r");
+  Write("shared.csv", "a\n1\n3\n");
+  ExpectQuestion(QMessageBox::Cancel);
+  EXPECT_FALSE(document.Save());
+  EXPECT_EQ(Read("shared.csv"), "a\n1\n3\n");
+  ExpectQuestion(QMessageBox::Save);
+  EXPECT_TRUE(document.Save());
+  EXPECT_EQ(Read("shared.csv"), "a\n2\n");
+  EXPECT_TRUE(document.Save());
 }
 
 TEST_F(DataPageTest, SavesAFileAsItWasWritten) {

@@ -90,6 +90,7 @@ TEST_F(DistributionPageTest, KeepsPlotAndFiguresWhenANumberIsRefused) {
     EnterNumber(cell, number);
     EXPECT_EQ(Message(), message);
     EXPECT_TRUE(shown() == before);
+    EXPECT_TRUE(page.Report().parts.isEmpty());
     EnterNumber("probability", "0.5");
   }
 }

@@ -6,6 +6,7 @@
 #include <QTemporaryFile>
 
 #include "apps/gallery/page_fixture.h"
+#include "apps/qorvex-gallery/model/matrix_calculation.h"
 #include "apps/qorvex-gallery/widgets/matrix_panel.h"
 #include "qorvex/controls/QorvexMatrixEdit.h"
 #include "qorvex/controls/QorvexMatrixFractEdit.h"
@@ -124,6 +125,8 @@ TEST_F(MatrixPageTest, SaysWhatIsWrong) {
   EXPECT_EQ(why_none({{1, 2}}), "of square matrices only");
   EXPECT_EQ(Determinant(), "of square matrices only");
   EXPECT_FALSE(Find<QPushButton>("useAsA").isEnabled());
+  const auto proceed = [](std::size_t, std::size_t) { return true; };
+  EXPECT_EQ(Calculate({}, proceed).why_none, "none, A is empty");
   Choose("product");
   EXPECT_EQ(WhyNone(), "B needs as many rows as A has columns: 2");
   Choose("solution");
