@@ -508,7 +508,7 @@ TEST(Models, MayHoldTextsBesideNumbers) {
   ASSERT_TRUE(QTest::qWaitForWindowActive(&editor));
   cells[4]->setFocus();
   QTest::keyClicks(cells[4], "007\r");
-  // An item that holds a number keeps its type, unless what is typed is none.
+  // An item that holds a number keeps its type, unless the text is not a number.
   cells[3]->setFocus();
   QTest::keyClicks(cells[3], "2.50\r");
   EXPECT_EQ(model.index(1, 0).data(Qt::EditRole), 2.5);
